@@ -1,0 +1,31 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace ZARN {
+
+/// Where the core writes its diagnostics, printf style. The desktop program sends them to standard output, the batch
+/// program to standard error (its standard output carries results alone), tests to a string. Owned by the program's
+/// main function; everything else holds a reference.
+class Console {
+public:
+    using Sink = std::function<void(std::string_view)>;
+
+    /// @param sink receives every diagnostic line; @param errorSink what the standard error printer would write.
+    explicit Console(Sink sink, Sink errorSink);
+
+    void print(const char* format, ...) const __attribute__((format(printf, 2, 3)));
+    /// The standard error printer's line for a failed system call: prefix, ": ", the system's text for `error`.
+    void systemError(const char* prefix, int error) const;
+
+    static Console& standardOutput(); ///< diagnostics to standard output, system errors to standard error
+    static Console& standardError();  ///< both to standard error
+
+private:
+    Sink mSink;
+    Sink mErrorSink;
+};
+
+} // namespace ZARN

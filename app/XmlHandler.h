@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QDomDocument>
+#include <QString>
+
+#include <string>
+
+namespace ZARN {
+
+class Console;
+
+/// The toolbox through which every XML file of the program (settings, project, profile, KML) is created, read and
+/// written. Holds nothing but the console for its messages; callers make one on the stack for each use.
+class XmlHandler {
+public:
+    explicit XmlHandler(const Console& console) : mConsole(console) {}
+
+    QDomElement xmlCreateElement(QDomDocument& document, QDomDocument& parent, const QString& name) const;
+    QDomElement xmlCreateElement(QDomDocument& document, QDomElement& parent, const QString& name) const;
+    QDomText xmlCreateTextElement(QDomDocument& document, QDomElement& parent, const QString& text) const;
+
+    void xmlCreateAttribute(QDomDocument& document, QDomElement& element, const QString& name, const QString& value) const;
+    void xmlCreateAttribute(QDomDocument& document, QDomElement& element, const QString& name, const std::string& value) const;
+    void xmlCreateAttribute(QDomDocument& document, QDomElement& element, const QString& name, int value) const;
+    void xmlCreateAttribute(QDomDocument& document, QDomElement& element, const QString& name, long value) const;
+    /// Written as a signed number: values above the signed range come out negative.
+    void xmlCreateAttribute(QDomDocument& document, QDomElement& element, const QString& name, unsigned long value) const;
+    void xmlCreateAttribute(QDomDocument& document, QDomElement& element, const QString& name, double value) const;
+    void xmlCreateParameter(QDomElement& element, const QString& name, const std::string& value) const;
+
+    QString xmlGetStringAttribute(const QDomNamedNodeMap& attributes, const QString& name, const QString& fallback) const;
+    std::string xmlGetStdStringAttribute(const QDomNamedNodeMap& attributes, const QString& name, const std::string& fallback) const;
+    /// Automatic base: "0x" hexadecimal, leading "0" octal, else decimal. Text that is no 32-bit integer gives 0.
+    int xmlGetIntAttribute(const QDomNamedNodeMap& attributes, const QString& name, int fallback) const;
+    double xmlGetDoubleAttribute(const QDomNamedNodeMap& attributes, const QString& name, double fallback) const;
+    bool xmlGetBoolAttribute(const QDomNamedNodeMap& attributes, const QString& name, bool fallback) const;
+
+    /// Writes the document, indented by 4 blanks, through SafeFile. @return false, with a console line, when it was not written.
+    bool xmlWriteFile(const QDomDocument& document, const QString& path) const;
+    bool xmlWriteFile(const QDomDocument& document, const QString& directory, const QString& fileName) const;
+    /// Reads and parses a file that XmlGuard lets pass. @return false, with a console line, when it cannot be opened or parsed;
+    /// the document is then left as it was.
+    bool xmlReadFile(QDomDocument& document, const QString& path) const;
+    bool xmlReadFile(QDomDocument& document, const QString& directory, const QString& fileName) const;
+
+protected:
+    const Console& mConsole;
+};
+
+} // namespace ZARN

@@ -1,0 +1,63 @@
+# How every target of ZARN is compiled and where its programs and resources lie.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+
+# The program finds its resources at "<folder of the executable>/../Resources/", in the build tree too.
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin")
+
+option(ZARN_WERROR "Treat warnings as errors" OFF)
+option(ZARN_SANITIZE "Address and undefined behaviour sanitizers" OFF)
+
+find_program(ZARN_CCACHE ccache)
+if(ZARN_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER "${ZARN_CCACHE}")
+endif()
+
+add_library(zarn_options INTERFACE)
+target_include_directories(zarn_options INTERFACE "${PROJECT_SOURCE_DIR}")
+# Contraction off: the same bits on every platform; a fused multiply-add is written std::fma.
+target_compile_options(zarn_options INTERFACE -ffp-contract=off -Wall -Wextra -Wshadow -Wconversion -Wno-sign-conversion
+                                              -Wnon-virtual-dtor -Woverloaded-virtual -Wformat=2)
+target_compile_definitions(zarn_options INTERFACE QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS)
+if(ZARN_WERROR)
+  target_compile_options(zarn_options INTERFACE -Werror)
+endif()
+if(ZARN_SANITIZE)
+  target_compile_options(zarn_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+  target_link_options(zarn_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# zarn_library(NAME LINKS target...): all sources of this folder as one static library.
+function(zarn_library name)
+  cmake_parse_arguments(ARG "" "" "LINKS" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
+  if(NOT sources)
+    add_library(${name} INTERFACE)
+    target_link_libraries(${name} INTERFACE zarn_options ${ARG_LINKS})
+    return()
+  endif()
+  add_library(${name} STATIC ${sources})
+  target_link_libraries(${name} PUBLIC zarn_options ${ARG_LINKS})
+endfunction()
+
+# zarn_test(NAME SOURCE LINKS target... [LABELS label...] [TIMEOUT seconds] [GUI]): one Qt Test program.
+function(zarn_test name source)
+  cmake_parse_arguments(ARG "GUI" "TIMEOUT" "LINKS;LABELS" ${ARGN})
+  if(NOT ARG_TIMEOUT)
+    set(ARG_TIMEOUT 120)
+  endif()
+  add_executable(${name} ${source})
+  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/tests")
+  target_link_libraries(${name} PRIVATE ${ARG_LINKS} Qt6::Test)
+  target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
+  target_compile_definitions(${name} PRIVATE ZARN_SOURCE_DIR="${PROJECT_SOURCE_DIR}" ZARN_BINARY_DIR="${PROJECT_BINARY_DIR}")
+  add_test(NAME ${name} COMMAND ${name})
+  set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT} LABELS "${ARG_LABELS}")
+  if(NOT ARG_GUI)
+    set_tests_properties(${name} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+  endif()
+endfunction()
