@@ -48,17 +48,20 @@ private:
     std::size_t mLeft;
 };
 
-constexpr const char* kElements[] = {"Variants", "Variant", "UnitConversions", "Unit",        "EnumList", "Enum",     "ThresholdList",
-                                     "Threshold", "Value",  "Device",          "ErrorMatrix", "Parameter", "Unknown"};
-constexpr const char* kAttributes[] = {"name",   "variant", "color",     "factor",   "offset",  "unitMetric", "unitImperial", "val",
-                                       "label",  "state",   "id",        "viewId",   "startByte", "startBit",   "endBit",       "precision",
-                                       "dataType", "zarnDataType", "enumId", "thresholdId", "errorType", "unknown"};
-constexpr const char* kTexts[] = {"",      "A",       "B",         "!A",       "A, !B",  "Latitude", "Longitude", "GroundSpeed", "WarningLamps", "OK",
-                                  "WARNING", "LIMIT", "Info",      "Warning",  "Fault",  "#ff0000",  "red",       "no colour",   "0x10",         "010",
-                                  "nan",   "inf",     "-1e308",    "1e400",    "%s%n",   "m",        "km/h",      "<b>&",        "2147483648"};
-constexpr const char* kTypes[] = {"NODATA",  "ERROR",    "FLOAT",    "LONG",   "ULONG",  "BLONG",  "SHORT",  "USHORT", "BSHORT",  "CHAR",
-                                  "UCHAR",   "BCHAR",    "SHORT_2",  "USHORT_2", "BSHORT_2", "CHAR_4", "UCHAR_4", "BCHAR_4", "CHAR_2", "UCHAR_2",
-                                  "BCHAR_2", "MEMID",    "CHKSUM",   "ACHAR",  "ACHAR_2", "ACHAR_4", "CHAR_3", "UCHAR_3", "BCHAR_3", "ACHAR_3"};
+constexpr const char* kElements[] = {"Variants",  "Variant", "UnitConversions", "Unit",        "EnumList",  "Enum",   "ThresholdList",
+                                     "Threshold", "Value",   "Device",          "ErrorMatrix", "Parameter", "Unknown"};
+constexpr const char* kAttributes[] = {"name",         "variant",     "color",     "factor",    "offset",   "unitMetric",
+                                       "unitImperial", "val",         "label",     "state",     "id",       "viewId",
+                                       "startByte",    "startBit",    "endBit",    "precision", "dataType", "zarnDataType",
+                                       "enumId",       "thresholdId", "errorType", "unknown"};
+constexpr const char* kTexts[] = {"",     "A",         "B",     "!A",   "A, !B",   "Latitude", "Longitude", "GroundSpeed", "WarningLamps",
+                                  "OK",   "WARNING",   "LIMIT", "Info", "Warning", "Fault",    "#ff0000",   "red",         "no colour",
+                                  "0x10", "010",       "nan",   "inf",  "-1e308",  "1e400",    "%s%n",      "m",           "km/h",
+                                  "<b>&", "2147483648"};
+constexpr const char* kTypes[] = {"NODATA",  "ERROR",   "FLOAT",  "LONG",    "ULONG",   "BLONG",    "SHORT",    "USHORT",
+                                  "BSHORT",  "CHAR",    "UCHAR",  "BCHAR",   "SHORT_2", "USHORT_2", "BSHORT_2", "CHAR_4",
+                                  "UCHAR_4", "BCHAR_4", "CHAR_2", "UCHAR_2", "BCHAR_2", "MEMID",    "CHKSUM",   "ACHAR",
+                                  "ACHAR_2", "ACHAR_4", "CHAR_3", "UCHAR_3", "BCHAR_3", "ACHAR_3"};
 
 template <std::size_t size> const char* oneOf(const char* const (&table)[size], uint8_t choice)
 {
@@ -116,6 +119,50 @@ std::vector<StoredRecord> readRecords(Input& input)
     return records;
 }
 
+/// The word of `size` bytes at `startByte`, big-endian; bytes outside the payload are 0.
+uint32_t wordAt(const Payload& payload, int64_t startByte, int size)
+{
+    uint32_t word = 0;
+    for (int64_t i = startByte; i < startByte + size; ++i)
+        word = word << 8 | (i >= 0 && i < 8 ? payload[static_cast<std::size_t>(i)] : 0U);
+    return word;
+}
+
+/// The unscaled metric value of a payload, bit by bit.
+double rawValue(const Payload& payload, const ProfileParameter& parameter)
+{
+    const auto field = [&](int size) {
+        const uint64_t word = wordAt(payload, parameter.startByte, size) >> (static_cast<uint32_t>(parameter.startBit) % 32);
+        const uint32_t width = static_cast<uint32_t>(parameter.endBit) - static_cast<uint32_t>(parameter.startBit) + 1;
+        return width >= 32 ? static_cast<double>(word) : static_cast<double>(word % (uint64_t{1} << width));
+    };
+    switch (parameter.dataType) {
+    case eFloat: return std::bit_cast<float>(wordAt(payload, parameter.startByte, 4));
+    case eLong: return static_cast<float>(static_cast<int32_t>(wordAt(payload, parameter.startByte, 4)));
+    case eULong: return static_cast<float>(wordAt(payload, parameter.startByte, 4));
+    case eBLong: return field(4);
+    case eBShort: return field(2);
+    case eShort:
+    case eShort2: return static_cast<int16_t>(wordAt(payload, parameter.startByte, 2));
+    case eUShort:
+    case eUShort2: return wordAt(payload, parameter.startByte, 2);
+    case eChar:
+    case eChar2:
+    case eChar3:
+    case eChar4: return static_cast<int8_t>(wordAt(payload, parameter.startByte, 1));
+    case eUChar:
+    case eUChar2:
+    case eUChar3:
+    case eUChar4: return wordAt(payload, parameter.startByte, 1);
+    default: return 0.0;
+    }
+}
+
+bool isPosition(const ProfileParameter& parameter)
+{
+    return parameter.viewId == "Latitude" || parameter.viewId == "Longitude";
+}
+
 /// Single values and texts: never a state that does not exist, never an empty text, the same answer twice.
 void decodeSingly(Profile& profile, const ProfileParameter& parameter, const std::vector<StoredRecord>& records)
 {
@@ -128,7 +175,9 @@ void decodeSingly(Profile& profile, const ProfileParameter& parameter, const std
         REQUIRE(state >= eThresholdOk && state <= eThresholdLimit);
         profile.resetCoordinates();
         REQUIRE(same(value, profile.getDouble(entry, parameter, true)));
-        profile.getDouble(entry, parameter, false);
+        const double raw = profile.getDouble(entry, parameter, false);
+        if (profile.currentUnit() == EUnit::eMetric && !isPosition(parameter))
+            REQUIRE(same(raw, rawValue(record.payload, parameter)));
         profile.getDouble(entry, true);
         REQUIRE(profile.getInt(entry, parameter) == profile.getInt(entry, parameter));
         REQUIRE(!profile.getDataString(entry, parameter, state, colour).empty());
