@@ -114,8 +114,10 @@ bool same(double a, double b)
 std::vector<StoredRecord> readRecords(Input& input)
 {
     std::vector<StoredRecord> records;
-    while (!input.empty() && records.size() < 40)
-        records.push_back({input.number<Payload>(), 0, 0, 0, 0, 0, records.size()});
+    while (!input.empty() && records.size() < 40) {
+        // What follows the payload is not 0, so that reading beyond it shows.
+        records.push_back({input.number<Payload>(), 0xEE, 0xEE, 0xEEEE, 0xEEEE, 0xEEEE, records.size()});
+    }
     return records;
 }
 
