@@ -89,7 +89,7 @@ void EngineModel::stepTemperatures(const EngineDemand& demand)
         const double target = demand.running ? 570 + 285 * std::min(1.1, power) + kCylinderOffset[cylinder] + hot : air;
         follow(c.egt[cylinder], target, demand.running ? 6 : 110);
     }
-    follow(c.coolant, demand.running ? air + 50 + 26 * power + 36 * mHeat : air, demand.running ? 105 : 1500);
+    follow(c.coolant, demand.running ? air + 50 + 26 * power + 44 * mHeat : air, demand.running ? 105 : 1500);
     follow(c.oilTemperature, demand.running ? air + 47 + 36 * power + 8 * mHeat : air, demand.running ? 150 : 1800);
     follow(c.manifoldTemperature, demand.running ? air + 9 + 26 * power + 6 * mHeat : air + 4, 25);
 }

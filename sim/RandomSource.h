@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cmath>
 #include <cstdint>
 
 namespace ZARN {
@@ -50,7 +51,10 @@ private:
 class Drift {
 public:
     /// @param amplitude the usual size of the excursions, @param seconds how long one lasts, @param step seconds a step.
-    Drift(double amplitude, double seconds, double step) : mKeep(1.0 - step / seconds), mPush(2.5 * amplitude * step / seconds) {}
+    Drift(double amplitude, double seconds, double step)
+        : mKeep(1.0 - step / seconds), mPush(4.9 * amplitude * (step / seconds) * std::sqrt(step / seconds))
+    {
+    }
 
     double step(RandomSource& random)
     {

@@ -8,7 +8,7 @@ namespace ZARN {
 /// Height of the airfield above the sea, m, and its place in degrees.
 constexpr double kFieldElevation = 540;
 constexpr double kFieldLatitude = 48.2;
-constexpr double kFieldLongitude = 11.0;
+constexpr double kFieldLongitude = 11.05;
 
 /// Counters that outlive a power cycle.
 struct LogBook {

@@ -77,7 +77,9 @@ void WarningLogic::judgeLamps(const Situation& situation, Snapshot& snapshot) co
     set(ELamp::eBoost, engine.manifoldPressure, {1500, 1560, 12});
     // Values that must not grow too small are judged by their negative.
     set(ELamp::eOilPressure, -engine.oilPressure, {-1.5, -0.8, 0.08});
-    set(ELamp::eVoltage, -snapshot.electrical.mainBus, {-12.2, -11.5, 0.15});
+    // The starter pulls the voltage down; the unit does not look while it turns and shortly after.
+    const bool starting = situation.leg.phase == EPhase::eCranking || (situation.leg.engine && situation.secondsSinceStart < 5);
+    set(ELamp::eVoltage, starting ? -12.6 : -snapshot.electrical.mainBus, {-12.2, -11.5, 0.15});
     set(ELamp::eFuelReserve, -std::min(snapshot.monitor.fuelLeft, snapshot.monitor.fuelRight), {-15, -8, 0.5});
     const double fuelPressure = situation.leg.engine ? std::min(snapshot.lanes[0].fuelPressure, snapshot.lanes[1].fuelPressure) : 3;
     set(ELamp::eFuelPressure, -fuelPressure, {-2.8, -2.5, 0.05});
