@@ -1,0 +1,249 @@
+#include "card/CardContainer.h"
+
+#include "app/Console.h"
+#include "app/Progress.h"
+#include "card/FlightDetector.h"
+#include "card/record/RecordFile.h"
+#include "vesk/base/Timer.h"
+
+#include <QFile>
+
+#include <filesystem>
+
+namespace ZARN {
+
+namespace {
+
+/// The text after the last dot; none when there is no dot.
+std::string extension(const std::string& name)
+{
+    const std::size_t dot = name.rfind('.');
+    return dot == std::string::npos ? std::string() : name.substr(dot + 1);
+}
+
+bool isRecordFile(const std::string& name)
+{
+    const std::string ending = extension(name);
+    return ending == "CAN" || ending == "can" || ending == "xcb";
+}
+
+std::string lastComponent(const QString& path)
+{
+    return path.mid(path.lastIndexOf('/') + 1).toStdString();
+}
+
+/// The names of a folder's plain files. Hidden ones are left out: some systems leave such companions of real files on cards.
+std::optional<std::vector<std::string>> plainFiles(const QString& path)
+{
+    std::error_code error;
+    std::filesystem::directory_iterator entry(QFile::encodeName(path).toStdString(), error);
+    if (error)
+        return {};
+    std::vector<std::string> names;
+    for (; entry != std::filesystem::directory_iterator(); entry.increment(error)) {
+        std::error_code ignored;
+        const std::string name = entry->path().filename().string();
+        if (!name.starts_with('.') && entry->is_regular_file(ignored))
+            names.push_back(name);
+    }
+    return names;
+}
+
+int64_t wholeMilliseconds(double seconds)
+{
+    return saturatingCast<int64_t>(seconds * 1000);
+}
+
+} // namespace
+
+CardContainer::CardContainer(const Console& console, Profile& profile, Progress& progress)
+    : mConsole(console), mProgress(progress), mValues(mData, profile)
+{
+}
+
+CardContainer& CardContainer::instance()
+{
+    static CardContainer container(Console::standardOutput(), Profile::instance(), nullProgress());
+    return container;
+}
+
+bool CardContainer::readContainer(const QString& path)
+{
+    const auto names = plainFiles(path);
+    if (!names)
+        return false;
+    mPath = path;
+    mFiles.clear();
+    mConsole.print("CardContainer::readContainer: Path <%s> NrFiles %d\n", path.toUtf8().constData(), static_cast<int>(names->size()));
+    readHeaders(*names);
+    markCycleStarts();
+    backFillDates();
+    calcCycles();
+    return true;
+}
+
+void CardContainer::readHeaders(const std::vector<std::string>& names)
+{
+    for (const std::string& name : names) {
+        if (isRecordFile(name)) {
+            RecordFile file(mConsole, mProgress);
+            file.readRecordInfo(mPath + "/" + QString::fromStdString(name));
+            mFiles[name] = file.recordInfo();
+        }
+        mProgress.setProgress(0); // whole-number division of the file's number by their count: 0 until all are read
+    }
+    mProgress.setProgress(100);
+}
+
+void CardContainer::markCycleStarts()
+{
+    for (auto& [name, info] : mFiles)
+        info.startsCycle = !info.dateTime.isValid();
+}
+
+void CardContainer::backFillDates()
+{
+    RecordInfo* pPrevious = nullptr;
+    for (auto& [name, info] : mFiles) {
+        // The unit was switched on when the current file began, less the time that the previous one ran.
+        if (pPrevious && !pPrevious->dateTime.isValid())
+            pPrevious->dateTime = info.dateTime.addMSecs(-wholeMilliseconds(pPrevious->endTime));
+        pPrevious = &info;
+    }
+}
+
+void CardContainer::calcCycles()
+{
+    mCycles.clear();
+    mLoadedCycle.reset();
+    uint32_t number = 0;
+    for (const auto& [name, info] : mFiles) {
+        if (info.startsCycle) {
+            ++number;
+            mCycles[number].name = QString("Cycle %1").arg(number);
+        }
+        RecordCycle& cycle = mCycles[number];
+        if (cycle.files.empty())
+            cycle.dateTime = info.dateTime;
+        cycle.files.push_back(info);
+        cycle.endTime = info.endTime;
+    }
+}
+
+QString CardContainer::name() const
+{
+    return QString::fromStdString(lastComponent(mPath));
+}
+
+bool CardContainer::loadCycle(unsigned int cycle, int flight)
+{
+    const auto found = mCycles.find(cycle);
+    if (found == mCycles.end())
+        return false;
+    RecordCycle& loaded = found->second;
+    mValues.profile().resetCoordinates();
+    if (flight == -1 || mLoadedCycle != cycle) {
+        std::list<QString> paths;
+        for (const RecordInfo& info : loaded.files)
+            paths.push_back(info.fileName);
+        loadFiles(paths);
+        mLoadedCycle = cycle;
+        calcFlights(loaded);
+    }
+    if (flight < 0)
+        return true;
+    if (flight >= static_cast<int>(loaded.flights.size()))
+        return false;
+    selectFlight(loaded.flights[static_cast<std::size_t>(flight)]);
+    return true;
+}
+
+void CardContainer::selectFlight(const RecordFlight& flight)
+{
+    mSelectedFlight = flight;
+    mDateTime = flight.dateTime;
+    mStartTime = flight.startTime;
+    mEndTime = flight.endTime;
+    calcFlightPath();
+    mFlightPath.crop(mStartTime, mEndTime);
+}
+
+void CardContainer::loadFiles(const std::list<QString>& files)
+{
+    mData.clear();
+    mValues.clear();
+    mLoadedCycle.reset();
+    mLoadError.clear();
+    mDateTime = {};
+    mStartTime = mEndTime = 0.0;
+    bool first = true;
+    for (const QString& path : files) {
+        const auto found = mFiles.find(lastComponent(path));
+        if (found == mFiles.end())
+            continue;
+        const RecordInfo& info = found->second;
+        loadFile(info);
+        if (first) {
+            mStartTime = info.startTime;
+            mDateTime = info.dateTime;
+            if (info.dateTime.isValid())
+                mConsole.print("date valid %d\n", 1);
+            first = false;
+        }
+        mEndTime = info.endTime;
+    }
+    calcIndex();
+    calcFlightPath();
+    mSelectedFlight = {};
+    mSelectedFlight.dateTime = mDateTime;
+    mSelectedFlight.startTime = mStartTime;
+    mSelectedFlight.endTime = mEndTime;
+}
+
+void CardContainer::loadFile(const RecordInfo& info)
+{
+    RecordFile file(mConsole, mProgress);
+    file.setRecordInfo(info);
+    if (!file.readRecordData(mData) && mLoadError.empty())
+        mLoadError = info.fileName.toStdString() + ": not enough memory for its records";
+    mConsole.print("load Files <%s>\n", info.fileName.toUtf8().constData());
+}
+
+void CardContainer::calcIndex()
+{
+    const VESK::Misc::Timer timer;
+    mData.buildTimeIndex();
+    mValues.setEndTime(mEndTime);
+    mConsole.print("calcIndex : %f ms\n", timer.elapsed() * 1000.0);
+}
+
+void CardContainer::calcFlights(RecordCycle& cycle)
+{
+    cycle.flights = FlightDetector(mValues).detect(cycle.dateTime);
+    for (const RecordFlight& flight : cycle.flights) {
+        mConsole.print("Flight %f -> %f <%s>\n", flight.startTime, flight.endTime,
+                       flight.dateTime.toString("hh:mm:ss").toUtf8().constData());
+    }
+}
+
+void CardContainer::calcFlightStatistic(RecordFlight& flight)
+{
+    ZARN::calcFlightStatistic(mValues, flight);
+}
+
+void CardContainer::calcFlightPath()
+{
+    mFlightPath.build(mValues);
+}
+
+const RecordCycle* CardContainer::loadedCycle() const
+{
+    return mLoadedCycle ? &mCycles.at(*mLoadedCycle) : nullptr;
+}
+
+QString CardContainer::time(double seconds)
+{
+    return QTime(0, 0).addMSecs(static_cast<int>(wholeMilliseconds(seconds) % 86400000)).toString("hh:mm:ss.zzz");
+}
+
+} // namespace ZARN

@@ -1,0 +1,103 @@
+#pragma once
+
+#include "card/FlightPath.h"
+#include "card/Geography.h"
+#include "card/RecordCycle.h"
+#include "card/Resampling.h"
+
+#include <list>
+#include <map>
+
+namespace ZARN {
+
+class Progress;
+
+/// The owner of a card's data: the files of a card folder, the power cycles that they form, and the records of the cycle
+/// that is loaded. The desktop program has one, reached by instance(); tests and the batch program make their own.
+class CardContainer {
+public:
+    CardContainer(const Console& console, Profile& profile, Progress& progress);
+    CardContainer(const CardContainer&) = delete;
+    CardContainer& operator=(const CardContainer&) = delete;
+    static CardContainer& instance();
+
+    /// Forgets the files; the loaded data stays.
+    void clear() { mFiles.clear(); }
+    /// Reads the headers of a card folder's record files and groups them into cycles. @return false, changing nothing, when
+    /// the folder does not exist or cannot be listed.
+    bool readContainer(const QString& path);
+
+    /// The files by name, in byte order.
+    [[nodiscard]] const std::map<std::string, RecordInfo>& recordFiles() const { return mFiles; }
+    [[nodiscard]] const std::map<uint32_t, RecordCycle>& recordCycles() const { return mCycles; }
+    [[nodiscard]] const QString& path() const { return mPath; }
+    /// The card's name for display: the last component of the folder's path.
+    [[nodiscard]] QString name() const;
+
+    /// Loads a cycle and selects one of its flights (from 0), or the whole cycle (-1). Another flight of the loaded cycle reads no
+    /// file again. @return false when the cycle or the flight does not exist.
+    bool loadCycle(unsigned int cycle, int flight);
+    /// Loads the records of files of this card, given by name or path, replacing what was loaded.
+    void loadFiles(const std::list<QString>& files);
+    /// Empty when the last load read everything; else which file could not be loaded whole, and why.
+    [[nodiscard]] const std::string& loadError() const { return mLoadError; }
+    void calcIndex();
+    void calcFlights(RecordCycle& cycle);
+    void calcFlightStatistic(RecordFlight& flight);
+    void calcFlightPath();
+
+    [[nodiscard]] const RecordData& recordData() const { return mData; }
+    [[nodiscard]] RecordData& recordData() { return mData; }
+    [[nodiscard]] const CycleValues& values() const { return mValues; }
+    [[nodiscard]] const std::vector<FlightPathPoint>& flightPath() const { return mFlightPath.points(); }
+    /// The selected flight; the span of the whole cycle when none is selected.
+    [[nodiscard]] const RecordFlight& selectedFlight() const { return mSelectedFlight; }
+    /// The loaded cycle; null when none is.
+    [[nodiscard]] const RecordCycle* loadedCycle() const;
+    [[nodiscard]] std::optional<unsigned int> loadedCycleNumber() const { return mLoadedCycle; }
+
+    // The span of the loaded cycle or selected flight; times in seconds since power-up.
+    [[nodiscard]] const QDateTime& dateTime() const { return mDateTime; }
+    [[nodiscard]] double startTime() const { return mStartTime; }
+    [[nodiscard]] double endTime() const { return mEndTime; }
+
+    /// The parameter's value in the display unit at a time: that of the latest sample strictly before it (before the first
+    /// sample, the first). 0, with state and colour untouched, after the last sample.
+    double getValue(const ProfileParameter& parameter, double time) { return mValues.getValue(parameter, time); }
+    double getValue(const ProfileParameter& parameter, double time, int& state, QColor& colour)
+    {
+        return mValues.getValue(parameter, time, state, colour);
+    }
+    /// "hh:mm:ss.zzz" of a time in seconds; wraps after 24 hours.
+    [[nodiscard]] static QString time(double seconds);
+    [[nodiscard]] static double calcDistance(double lat1, double lon1, double lat2, double lon2)
+    {
+        return ZARN::calcDistance(lat1, lon1, lat2, lon2);
+    }
+    static void resampleData(double step, const std::vector<Sample>& in, std::vector<Sample>& out) { ZARN::resampleData(step, in, out); }
+
+private:
+    void readHeaders(const std::vector<std::string>& names);
+    void markCycleStarts();
+    void backFillDates();
+    void calcCycles();
+    void loadFile(const RecordInfo& info);
+    void selectFlight(const RecordFlight& flight);
+
+    const Console& mConsole;
+    Progress& mProgress;
+    QString mPath;
+    std::map<std::string, RecordInfo> mFiles;
+    std::map<uint32_t, RecordCycle> mCycles;
+    RecordData mData;
+    CycleValues mValues;
+    FlightPath mFlightPath;
+    RecordFlight mSelectedFlight;
+    std::optional<unsigned int> mLoadedCycle;
+    QDateTime mDateTime;
+    double mStartTime = 0.0;
+    double mEndTime = 0.0;
+    std::string mLoadError;
+};
+
+} // namespace ZARN

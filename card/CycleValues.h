@@ -1,0 +1,37 @@
+#pragma once
+
+#include "card/record/RecordData.h"
+#include "profile/Profile.h"
+
+#include <optional>
+
+namespace ZARN {
+
+/// The values of a loaded cycle by parameter and time.
+class CycleValues {
+public:
+    CycleValues(const RecordData& data, Profile& profile) : mData(data), mProfile(profile) {}
+
+    /// Times from the whole second after the next above `endTime` on lie outside the index and have no value.
+    void setEndTime(double endTime);
+    /// No time has a value any more.
+    void clear() { mSeconds = 0; }
+
+    /// The entry that decides the parameter's value at a time: the latest strictly before it, at or before the channel's first
+    /// entry that one; none when the channel has no entry at or after the time, or the time lies outside the index.
+    [[nodiscard]] std::optional<RecordEntry> entryAt(const ProfileParameter& parameter, double time) const;
+    /// The value in the display unit; 0 without touching state and colour when no entry decides it.
+    double getValue(const ProfileParameter& parameter, double time, int& state, QColor& colour) const;
+    double getValue(const ProfileParameter& parameter, double time) const;
+
+    /// The channel of a parameter; null when it has no entries.
+    [[nodiscard]] const RecordChannel* channel(const ProfileParameter& parameter) const { return mData.channel(parameter.identifier()); }
+    [[nodiscard]] Profile& profile() const { return mProfile; }
+
+private:
+    const RecordData& mData;
+    Profile& mProfile;
+    int64_t mSeconds = 0; // size of the index: one place a second
+};
+
+} // namespace ZARN

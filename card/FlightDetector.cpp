@@ -1,0 +1,82 @@
+#include "card/FlightDetector.h"
+
+namespace ZARN {
+
+namespace {
+
+constexpr double kRollingSpeed = 50.0; // above it the aircraft may be taking off
+constexpr double kLandedSpeed = 40.0;  // below it the aircraft may have landed
+constexpr int kConfirmations = 10;     // samples that must confirm either
+constexpr double kMargin = 30.0;       // seconds that a flight takes in before take-off and after landing
+
+/// Follows the ground speed sample by sample. The comparisons are not symmetric: exactly 50 keeps a roll, exactly 40 a landing.
+class FlightState {
+public:
+    enum class EEvent { eNone, eTakeOff, eLanding };
+
+    EEvent next(double groundSpeed)
+    {
+        switch (mPhase) {
+        case EPhase::eGround: return groundSpeed > kRollingSpeed ? enter(EPhase::eRolling) : EEvent::eNone;
+        case EPhase::eRolling:
+            if (groundSpeed < kRollingSpeed)
+                return enter(EPhase::eGround);
+            return confirmed() ? enter(EPhase::eFlying, EEvent::eTakeOff) : EEvent::eNone;
+        case EPhase::eFlying: return groundSpeed < kLandedSpeed ? enter(EPhase::eLanding) : EEvent::eNone;
+        case EPhase::eLanding:
+            if (groundSpeed > kLandedSpeed)
+                return enter(EPhase::eFlying);
+            return confirmed() ? enter(EPhase::eGround, EEvent::eLanding) : EEvent::eNone;
+        }
+        return EEvent::eNone;
+    }
+
+private:
+    enum class EPhase { eGround, eRolling, eFlying, eLanding };
+
+    EEvent enter(EPhase phase, EEvent event = EEvent::eNone)
+    {
+        mPhase = phase;
+        mCount = 0;
+        return event;
+    }
+    bool confirmed() { return mCount++ >= kConfirmations; }
+
+    EPhase mPhase = EPhase::eGround;
+    int mCount = 0;
+};
+
+} // namespace
+
+std::vector<RecordFlight> FlightDetector::detect(const QDateTime& dateTime) const
+{
+    std::vector<RecordFlight> flights;
+    Profile& profile = mValues.profile();
+    const ProfileParameter parameter = profile.getParameterFromZarnType("GroundSpeed");
+    const RecordChannel* pChannel = mValues.channel(parameter);
+    if (!pChannel)
+        return flights;
+    FlightState state;
+    RecordFlight flight;
+    for (std::size_t i = 0; i < pChannel->entries.size(); ++i) {
+        const RecordEntry entry = pChannel->entries[i];
+        switch (state.next(profile.getDouble(entry, parameter, true))) {
+        case FlightState::EEvent::eTakeOff:
+            flight = {};
+            flight.takeOffTime = entry.time;
+            flight.startTime = std::max(0.0, entry.time - kMargin);
+            flight.dateTime = dateTime.addSecs(saturatingCast<qint64>(entry.time));
+            break;
+        case FlightState::EEvent::eLanding:
+            flight.landingTime = entry.time;
+            flight.endTime = entry.time + kMargin;
+            calcFlightStatistic(mValues, flight);
+            flights.push_back(flight);
+            break;
+        case FlightState::EEvent::eNone: break;
+        }
+    }
+    return flights;
+}
+
+} // namespace ZARN

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "card/CycleValues.h"
+#include "card/RecordFlight.h"
+
+#include <vector>
+
+namespace ZARN {
+
+/// Finds the flights of the loaded data from the ground speed and computes each one's tow statistic.
+class FlightDetector {
+public:
+    explicit FlightDetector(const CycleValues& values) : mValues(values) {}
+
+    /// The flights in the order found. @param dateTime wall clock of the cycle's power-up.
+    /// A flight still airborne when the data ends is not one.
+    [[nodiscard]] std::vector<RecordFlight> detect(const QDateTime& dateTime) const;
+
+private:
+    const CycleValues& mValues;
+};
+
+/// Fills a flight's tow statistic from the samples between its start and end time.
+void calcFlightStatistic(const CycleValues& values, RecordFlight& flight);
+
+} // namespace ZARN

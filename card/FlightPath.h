@@ -1,0 +1,38 @@
+#pragma once
+
+#include "card/CycleValues.h"
+
+#include <vector>
+
+namespace ZARN {
+
+/// One point of the flight path. Positions in degrees, the rest in the display units of the profile.
+struct FlightPathPoint {
+    double time; ///< seconds since power-up, a multiple of the grid's half second
+    double latitude;
+    double longitude;
+    double altitude;
+    double groundSpeed;
+    double track;
+};
+
+/// The flight path of the loaded data on a half-second grid, in ascending time.
+class FlightPath {
+public:
+    static constexpr double kStep = 0.5;
+    /// A recorded time above this is damage; the path leaves it out, so that no grid can grow without bound.
+    static constexpr double kLatestTime = 2000000.0;
+
+    /// Rebuilds the path over everything loaded.
+    void build(const CycleValues& values);
+    /// Keeps only the points from `from` to `to`, both included.
+    void crop(double from, double to);
+    void clear() { mPoints.clear(); }
+
+    [[nodiscard]] const std::vector<FlightPathPoint>& points() const { return mPoints; }
+
+private:
+    std::vector<FlightPathPoint> mPoints;
+};
+
+} // namespace ZARN

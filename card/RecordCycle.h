@@ -1,0 +1,19 @@
+#pragma once
+
+#include "card/RecordFlight.h"
+#include "card/record/RecordInfo.h"
+
+#include <vector>
+
+namespace ZARN {
+
+/// A power cycle: the files that a unit wrote from one switching on to the next.
+struct RecordCycle {
+    QString name; ///< "Cycle N"; empty for the files before the first cycle start
+    QDateTime dateTime;
+    std::vector<RecordInfo> files; ///< in name order
+    double endTime = 0.0;          ///< of the last file, seconds since power-up
+    std::vector<RecordFlight> flights;
+};
+
+} // namespace ZARN

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "card/record/RecordEntries.h"
+
+namespace ZARN {
+
+/// All records of one CAN identifier, with what is needed to find the record of a time.
+class RecordChannel {
+public:
+    explicit RecordChannel(uint32_t identifier) : entries(identifier) {}
+
+    RecordEntries entries;
+
+    /// The newest record of a live feed is fresh until it is shown; records read from a file never are.
+    [[nodiscard]] bool fresh() const { return mFresh; }
+    void setFresh(bool fresh) { mFresh = fresh; }
+    /// A copy of the most recent entry; a default entry when there is none.
+    [[nodiscard]] RecordEntry last() const;
+
+    /// Prepares firstAtOrAfter() once all records are there. Only channels whose times go backwards need anything stored.
+    void buildTimeIndex();
+    /// The position of the first entry, in stored order, whose time is at or after `time`; size() when there is none or
+    /// `time` is not a number. Logarithmic, and exactly what a scan from the first entry finds.
+    [[nodiscard]] std::size_t firstAtOrAfter(double time) const;
+    /// Calls `visit` with every entry, in stored order, whose time lies in [from, to].
+    template <typename Visitor> void forEachIn(double from, double to, Visitor visit) const;
+
+private:
+    struct Bounds {
+        double earliest;
+        double latest;
+    };
+    // The running maximum of the times never falls, and its first value at or after a time stands where the first such time does.
+    std::vector<uint64_t> mRunningMaximum; // in ticks; empty when the times ascend
+    std::vector<Bounds> mChunkBounds;      // of each chunk; empty when the times ascend
+    bool mFresh = false;
+};
+
+template <typename Visitor> void RecordChannel::forEachIn(double from, double to, Visitor visit) const
+{
+    if (entries.ascending()) {
+        for (std::size_t i = firstAtOrAfter(from); i < entries.size() && entries.time(i) <= to; ++i)
+            visit(entries[i]);
+        return;
+    }
+    for (std::size_t c = 0, first = 0; c < entries.chunkCount(); first += entries.chunk(c++).size()) {
+        if (mChunkBounds[c].latest < from || mChunkBounds[c].earliest > to)
+            continue;
+        for (std::size_t i = first; i < first + entries.chunk(c).size(); ++i) {
+            const double time = entries.time(i);
+            if (time >= from && time <= to)
+                visit(entries[i]);
+        }
+    }
+}
+
+} // namespace ZARN

@@ -1,0 +1,147 @@
+#include "card/record/RecordData.h"
+
+#include <algorithm>
+#include <queue>
+#include <utility>
+
+namespace ZARN {
+
+namespace {
+
+constexpr unsigned kFirstBits = 8; // slots of the first table
+
+struct Cursor {
+    const RecordChannel* pChannel;
+    uint32_t identifier;
+    std::size_t position;
+    std::size_t end;
+
+    [[nodiscard]] uint64_t ticks() const { return pChannel->entries.stored(position).ticks; }
+};
+
+struct LaterTicks {
+    bool operator()(const Cursor& a, const Cursor& b) const { return a.ticks() > b.ticks(); }
+};
+
+} // namespace
+
+void RecordData::clear()
+{
+    mChannels.clear();
+    mSlots.assign(2, {0, nullptr});
+    mHashShift = 31;
+    mPool.clear();
+    mPseudoChannels.clear();
+    mPseudoPool.clear();
+    mLateOrder = {};
+    mLastTicks = 0;
+    mCount = 0;
+}
+
+bool RecordData::appendLive(const RecordEntry& entry)
+{
+    if (!append(entry.id, entry.stored()))
+        return false;
+    channelFor(entry.id).setFresh(true);
+    mPseudoChannels.clear();
+    mPseudoPool.clear();
+    return true;
+}
+
+const RecordChannel* RecordData::channel(uint32_t identifier) const
+{
+    if (identifier == kPseudoKind0 || identifier == kPseudoKind1)
+        return pseudoChannel(identifier);
+    const auto found = mChannels.find(identifier);
+    return found == mChannels.end() ? nullptr : &found->second;
+}
+
+RecordChannel* RecordData::channel(uint32_t identifier)
+{
+    return const_cast<RecordChannel*>(std::as_const(*this).channel(identifier));
+}
+
+void RecordData::buildTimeIndex()
+{
+    for (auto& [identifier, channel] : mChannels)
+        channel.buildTimeIndex();
+}
+
+RecordChannel& RecordData::addChannel(uint32_t identifier)
+{
+    const auto [place, added] = mChannels.try_emplace(identifier, identifier);
+    if (mChannels.size() * 2 > mSlots.size())
+        rebuildSlots(std::max(kFirstBits, 33 - mHashShift));
+    else
+        enter(identifier, &place->second);
+    return place->second;
+}
+
+void RecordData::enter(uint32_t identifier, RecordChannel* pChannel)
+{
+    std::size_t i = hash(identifier);
+    while (mSlots[i].pChannel)
+        i = (i + 1) & (mSlots.size() - 1);
+    mSlots[i] = {identifier, pChannel};
+}
+
+void RecordData::rebuildSlots(unsigned bits)
+{
+    mSlots.assign(std::size_t(1) << bits, {0, nullptr});
+    mHashShift = 32 - bits;
+    for (auto& [identifier, channel] : mChannels)
+        enter(identifier, &channel);
+}
+
+void RecordData::startLateOrder()
+{
+    mLateOrder.started = true;
+    for (const auto& [identifier, channel] : mChannels)
+        mLateOrder.sizesBefore[identifier] = channel.entries.size();
+}
+
+template <typename Visitor> void RecordData::visitInOrder(Visitor visit) const
+{
+    std::map<uint32_t, std::size_t> next; // of each channel, where the noted order goes on
+    std::priority_queue<Cursor, std::vector<Cursor>, LaterTicks> queue;
+    for (const auto& [identifier, channel] : mChannels) {
+        const auto before = mLateOrder.sizesBefore.find(identifier);
+        const std::size_t end = !mLateOrder.started                          ? channel.entries.size()
+                                : before == mLateOrder.sizesBefore.end() ? 0
+                                                                             : before->second;
+        next[identifier] = end;
+        if (end > 0)
+            queue.push({&channel, identifier, 0, end});
+    }
+    while (!queue.empty()) {
+        Cursor cursor = queue.top();
+        queue.pop();
+        visit(cursor.identifier, cursor.pChannel->entries.stored(cursor.position));
+        if (++cursor.position < cursor.end)
+            queue.push(cursor);
+    }
+    for (const uint32_t identifier : mLateOrder.identifiers)
+        visit(identifier, mChannels.at(identifier).entries.stored(next[identifier]++));
+}
+
+RecordChannel* RecordData::pseudoChannel(uint32_t identifier) const
+{
+    const auto found = mPseudoChannels.find(identifier);
+    RecordChannel* pChannel = nullptr;
+    if (found != mPseudoChannels.end()) {
+        pChannel = &found->second;
+    } else {
+        pChannel = &mPseudoChannels.try_emplace(identifier, identifier).first->second;
+        const uint16_t kind = identifier == kPseudoKind0 ? 0 : 1;
+        visitInOrder([&](uint32_t from, const StoredRecord& record) {
+            if (from == identifier) // a damaged record may carry the pseudo-channel's own number
+                pChannel->entries.appendCopy(record, from, mPseudoPool);
+            if (record.kind == kind)
+                pChannel->entries.appendCopy(record, from, mPseudoPool);
+        });
+        pChannel->buildTimeIndex();
+    }
+    return pChannel->entries.empty() ? nullptr : pChannel;
+}
+
+} // namespace ZARN

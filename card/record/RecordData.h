@@ -1,0 +1,90 @@
+#pragma once
+
+#include "card/record/RecordChannel.h"
+
+#include <map>
+
+namespace ZARN {
+
+/// The decoded records of one or more files by CAN identifier. Filled completely before anybody reads it; not locked.
+///
+/// Two pseudo-channels look like channels but are made when asked for: 0x7FFFFFFF holds a copy of every record of kind 0,
+/// 0x7FFFFFFE of every record of kind 1, in the order of reception.
+class RecordData {
+public:
+    static constexpr uint32_t kPseudoKind0 = 0x7FFFFFFF;
+    static constexpr uint32_t kPseudoKind1 = 0x7FFFFFFE;
+
+    /// @param limitBytes the most memory the records may take; 0 takes three quarters of the machine's memory.
+    explicit RecordData(std::size_t limitBytes = 0) : mPool(limitBytes), mPseudoPool(limitBytes) {}
+
+    void clear();
+    /// Appends one record. @return false when there is no memory left for it; it is then not there.
+    bool append(uint32_t identifier, const StoredRecord& record)
+    {
+        RecordChannel& channel = channelFor(identifier);
+        if (record.ticks <= mLastTicks && mCount != 0 && !mLateOrder.started)
+            startLateOrder();
+        if (!channel.entries.append(record, mPool)) [[unlikely]]
+            return false;
+        mLastTicks = record.ticks;
+        if (mLateOrder.started) [[unlikely]]
+            mLateOrder.identifiers.push_back(identifier);
+        ++mCount;
+        return true;
+    }
+    /// Appends the newest record of a live feed and marks it as fresh.
+    bool appendLive(const RecordEntry& entry);
+
+    /// How many records were appended over all files.
+    [[nodiscard]] uint32_t count() const { return mCount; }
+    /// The channels of the identifiers met, in ascending order; without the pseudo-channels.
+    [[nodiscard]] const std::map<uint32_t, RecordChannel>& channels() const { return mChannels; }
+    /// The channel of an identifier, pseudo-channels included; null when it holds nothing.
+    [[nodiscard]] const RecordChannel* channel(uint32_t identifier) const;
+    [[nodiscard]] RecordChannel* channel(uint32_t identifier);
+
+    void buildTimeIndex();
+
+private:
+    struct Slot {
+        uint32_t identifier;
+        RecordChannel* pChannel; // null marks a free slot
+    };
+    // Order of reception across the channels. While the tick counter rises from record to record a merge by ticks restores it;
+    // from the first record on that does not rise, the identifiers are noted one by one.
+    struct LateOrder {
+        bool started = false;
+        std::map<uint32_t, std::size_t> sizesBefore; // entries of each channel when it started
+        std::vector<uint32_t> identifiers;
+    };
+
+    RecordChannel& channelFor(uint32_t identifier)
+    {
+        for (std::size_t i = hash(identifier);; i = (i + 1) & (mSlots.size() - 1)) {
+            if (!mSlots[i].pChannel)
+                return addChannel(identifier);
+            if (mSlots[i].identifier == identifier)
+                return *mSlots[i].pChannel;
+        }
+    }
+    [[nodiscard]] std::size_t hash(uint32_t identifier) const { return (identifier * 2654435761u) >> mHashShift; }
+    RecordChannel& addChannel(uint32_t identifier);
+    void enter(uint32_t identifier, RecordChannel* pChannel);
+    void rebuildSlots(unsigned bits);
+    void startLateOrder();
+    [[nodiscard]] RecordChannel* pseudoChannel(uint32_t identifier) const;
+    template <typename Visitor> void visitInOrder(Visitor visit) const;
+
+    RecordPool mPool;
+    std::map<uint32_t, RecordChannel> mChannels;
+    std::vector<Slot> mSlots{2, Slot{0, nullptr}}; // open addressing, a power of two, never full
+    unsigned mHashShift = 31;
+    uint64_t mLastTicks = 0;
+    uint32_t mCount = 0;
+    LateOrder mLateOrder;
+    mutable RecordPool mPseudoPool;
+    mutable std::map<uint32_t, RecordChannel> mPseudoChannels; // made on first use
+};
+
+} // namespace ZARN

@@ -1,0 +1,25 @@
+#include "card/record/RecordEntries.h"
+
+namespace ZARN {
+
+bool RecordEntries::appendCopy(const StoredRecord& record, uint32_t identifier, RecordPool& pool)
+{
+    if (!append(record, pool))
+        return false;
+    mCopiedIdentifiers.push_back(identifier);
+    return true;
+}
+
+bool RecordEntries::addChunk(RecordPool& pool)
+{
+    const std::size_t capacity = chunkCapacity(mChunks.size());
+    StoredRecord* pChunk = pool.allocate(capacity);
+    if (!pChunk)
+        return false;
+    mChunks.push_back(pChunk);
+    mpNext = pChunk;
+    mpEnd = pChunk + capacity;
+    return true;
+}
+
+} // namespace ZARN

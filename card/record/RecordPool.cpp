@@ -1,0 +1,70 @@
+#include "card/record/RecordPool.h"
+
+#include <cstdlib>
+
+#include <sys/mman.h>
+#include <unistd.h>
+
+namespace ZARN {
+
+namespace {
+
+constexpr std::size_t kHugePage = std::size_t(2) << 20;
+
+std::size_t defaultLimit()
+{
+    const long pages = sysconf(_SC_PHYS_PAGES);
+    const long size = sysconf(_SC_PAGESIZE);
+    if (pages <= 0 || size <= 0)
+        return SIZE_MAX;
+    return static_cast<std::size_t>(pages) / 4 * 3 * static_cast<std::size_t>(size);
+}
+
+} // namespace
+
+RecordPool::RecordPool(std::size_t limitBytes) : mLimit(limitBytes ? limitBytes : defaultLimit()) {}
+
+void RecordPool::Free::operator()(std::byte* pSlab) const
+{
+    std::free(pSlab);
+}
+
+StoredRecord* RecordPool::allocate(std::size_t count)
+{
+    const std::size_t bytes = count * sizeof(StoredRecord);
+    if (bytes > mLeft && !addSlab(bytes))
+        return nullptr;
+    auto* pRecords = reinterpret_cast<StoredRecord*>(mpNext);
+    mpNext += bytes;
+    mLeft -= bytes;
+    return pRecords;
+}
+
+bool RecordPool::addSlab(std::size_t bytes)
+{
+    // Small recordings stay small: the first slabs are one huge page each, later ones grow with what is held already.
+    const std::size_t size = std::max(kHugePage, std::min(mBytes / 8, 16 * kHugePage) / kHugePage * kHugePage);
+    if (bytes > size || mBytes + size > mLimit)
+        return false;
+    auto* pSlab = static_cast<std::byte*>(std::aligned_alloc(kHugePage, size));
+    if (!pSlab)
+        return false;
+#ifdef MADV_HUGEPAGE
+    madvise(pSlab, size, MADV_HUGEPAGE);
+#endif
+    mSlabs.emplace_back(pSlab);
+    mpNext = pSlab;
+    mLeft = size;
+    mBytes += size;
+    return true;
+}
+
+void RecordPool::clear()
+{
+    mSlabs.clear();
+    mpNext = nullptr;
+    mLeft = 0;
+    mBytes = 0;
+}
+
+} // namespace ZARN

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "cli/DataCommand.h"
+
+namespace ZARN {
+
+/// `csv`: the decoded data of a cycle as a table of separated values.
+class CommandCsv : public DataCommand {
+public:
+    explicit CommandCsv(CLI::App& program);
+
+private:
+    int runOnData() override;
+
+    std::string mOutput;
+    unsigned int mResolution = 100;
+    std::string mSeparator = "semicolon";
+};
+
+} // namespace ZARN

@@ -1,0 +1,34 @@
+#include "cli/CommandPath.h"
+
+#include "cli/JsonWriter.h"
+#include "cli/TextTable.h"
+
+namespace ZARN {
+
+CommandPath::CommandPath(CLI::App& program) : DataCommand(program, "path", "print the flight path, a point every half second")
+{
+    addJson();
+}
+
+int CommandPath::runOnData()
+{
+    const std::vector<FlightPathPoint>& points = mContainer.flightPath();
+    if (!mJson) {
+        TextTable table({"Time", "Latitude", "Longitude", "Altitude", "Ground speed", "Track"});
+        for (const FlightPathPoint& point : points) {
+            table.addRow({tableTime(point.time), tableNumber(point.latitude, 6), tableNumber(point.longitude, 6),
+                          tableNumber(point.altitude, 1), tableNumber(point.groundSpeed, 1), tableNumber(point.track, 1)});
+        }
+        return print(table.text());
+    }
+    JsonWriter writer;
+    writer.beginObject().key("points").beginArray();
+    for (const FlightPathPoint& point : points) {
+        writer.beginArray().value(point.time).value(point.latitude).value(point.longitude);
+        writer.value(point.altitude).value(point.groundSpeed).value(point.track).endArray();
+    }
+    writer.endArray().endObject();
+    return print(writer.text() + "\n");
+}
+
+} // namespace ZARN

@@ -1,0 +1,99 @@
+#include "cli/CommandProfile.h"
+
+#include "cli/JsonWriter.h"
+#include "cli/TextTable.h"
+
+namespace ZARN {
+
+namespace {
+
+void writeParameter(JsonWriter& writer, const ProfileParameter& parameter)
+{
+    writer.beginObject()
+        .member("path", parameter.path)
+        .member("name", parameter.name)
+        .member("id", parameter.id)
+        .member("dataType", parameter.dataType)
+        .member("zarnDataType", parameter.zarnDataType)
+        .member("unitMetric", parameter.unitMetric)
+        .member("unitImperial", parameter.unitImperial)
+        .member("viewId", parameter.viewId)
+        .member("startByte", parameter.startByte)
+        .member("startBit", parameter.startBit)
+        .member("endBit", parameter.endBit)
+        .member("offset", parameter.offset)
+        .member("factor", parameter.factor)
+        .member("precision", parameter.precision)
+        .member("enumList", parameter.enumList)
+        .member("thresholdList", parameter.thresholdList)
+        .member("errorType", parameter.errorType)
+        .member("deviceIndex", parameter.deviceIndex)
+        .endObject();
+}
+
+void writeMatrix(JsonWriter& writer, const FaultMatrix& matrix)
+{
+    writer.beginObject().member("id", matrix.id).member("name", matrix.name).key("bits").beginObject();
+    for (const auto& [bit, definition] : matrix.bits)
+        writer.key(std::to_string(bit)).beginArray().value(definition.name).endArray();
+    writer.endObject().endObject();
+}
+
+std::string json(const Profile& profile)
+{
+    const ProfileModel& model = profile.model();
+    JsonWriter writer;
+    writer.beginObject().member("version", model.version).member("profileId", model.profileId);
+    writer.member("name", model.name).member("comment", model.comment).key("variants").beginArray();
+    for (const ProfileVariant& variant : profile.variants())
+        writer.beginObject().member("name", variant.name).member("color", variant.color).endObject();
+    writer.endArray().key("parameters").beginArray();
+    for (const ProfileDevice& device : model.devices) {
+        for (const ProfileParameter& parameter : device.parameters)
+            writeParameter(writer, parameter);
+    }
+    writer.endArray().key("errorMatrices").beginArray();
+    for (const FaultMatrix& matrix : model.errorMatrices)
+        writeMatrix(writer, matrix);
+    writer.endArray().endObject();
+    return writer.text() + "\n";
+}
+
+std::string tables(const Profile& profile)
+{
+    const ProfileModel& model = profile.model();
+    std::string text = model.name + " " + model.version + " (" + model.profileId + ") " + model.comment + "\n";
+    for (const ProfileVariant& variant : profile.variants())
+        text += "Variant " + variant.name + "\n";
+    TextTable parameters({"Parameter", "Id", "Type", "Unit", "Imperial", "Key"});
+    for (const ProfileDevice& device : model.devices) {
+        for (const ProfileParameter& parameter : device.parameters) {
+            parameters.addRow({parameter.path, std::to_string(parameter.id), std::to_string(parameter.dataType), parameter.unitMetric,
+                               parameter.unitImperial, parameter.zarnDataType});
+        }
+    }
+    TextTable matrices({"Error matrix", "Id", "Bits"});
+    for (const FaultMatrix& matrix : model.errorMatrices)
+        matrices.addRow({matrix.name, std::to_string(matrix.id), std::to_string(matrix.bits.size())});
+    return text + "\n" + parameters.text() + (model.errorMatrices.empty() ? "" : "\n" + matrices.text());
+}
+
+} // namespace
+
+CommandProfile::CommandProfile(CLI::App& program) : Command(program, "profile", "show what a profile file declares")
+{
+    options().add_option("FILE", mFile, "the profile file")->required();
+    options().add_option("--variant", mVariant, "variant of the profile (default: none)");
+    addJson();
+}
+
+int CommandProfile::run()
+{
+    Profile profile(Console::standardError());
+    if (!profile.loadProfile(QString::fromStdString(mFile), mVariant))
+        return fail(mFile + ": not a readable ZARN profile");
+    profile.loadVariants(QString::fromStdString(mFile));
+    return print(mJson ? json(profile) : tables(profile));
+}
+
+} // namespace ZARN

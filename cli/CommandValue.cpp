@@ -1,0 +1,54 @@
+#include "cli/CommandValue.h"
+
+#include "cli/JsonWriter.h"
+#include "cli/TextTable.h"
+
+namespace ZARN {
+
+CommandValue::CommandValue(CLI::App& program) : DataCommand(program, "value", "print a parameter's value at given times")
+{
+    options().add_option("--parameter", mParameter, "name of the parameter")->required();
+    options().add_option("--time", mTimes, "seconds since the unit's power-up; may be given many times")
+        ->required()
+        ->allow_extra_args(false)
+        ->take_all();
+    addJson();
+}
+
+CommandValue::Answer CommandValue::answer(const ProfileParameter& parameter, double time)
+{
+    Answer answer{time, 0.0, {}, 0, {}};
+    QColor colour;
+    mProfile.resetCoordinates();
+    answer.value = mContainer.getValue(parameter, time, answer.state, colour);
+    if (const auto entry = mContainer.values().entryAt(parameter, time)) {
+        int textState = 0;
+        QColor textColour;
+        answer.text = mProfile.getDataString(*entry, parameter, textState, textColour);
+    }
+    if (colour.isValid())
+        answer.colour = colour.name().toStdString();
+    return answer;
+}
+
+int CommandValue::runOnData()
+{
+    const ProfileParameter* pParameter = mProfile.findParameter(mParameter);
+    if (!pParameter)
+        return fail(mParameter + ": the profile has no such parameter");
+    JsonWriter writer;
+    writer.beginObject().member("parameter", pParameter->name).member("unit", pParameter->unit).key("values").beginArray();
+    TextTable table({"Time", "Seconds", "Value", "Text", "State"});
+    static const char* const states[] = {"ok", "warning", "limit"};
+    for (const double time : mTimes) {
+        const Answer a = answer(*pParameter, time);
+        writer.beginObject().member("time", a.time).member("value", a.value).member("text", a.text).member("state", a.state).key("color");
+        a.colour.empty() ? writer.null() : writer.value(a.colour);
+        writer.endObject();
+        table.addRow({tableTime(a.time), tableNumber(a.time, 3), tableNumber(a.value, 6), a.text, a.text.empty() ? "no data" : states[a.state]});
+    }
+    writer.endArray().endObject();
+    return print(mJson ? writer.text() + "\n" : pParameter->path + " [" + pParameter->unit + "]\n\n" + table.text());
+}
+
+} // namespace ZARN

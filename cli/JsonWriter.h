@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QDateTime>
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace ZARN {
+
+/// Writes one JSON value as it is built, members in the order given, so that lists of any length need no tree. Texts may hold any
+/// bytes: what is no UTF-8 becomes U+FFFD. Doubles survive the round trip; one that is not finite is the string "nan", "inf"
+/// or "-inf". An invalid date and time is null.
+class JsonWriter {
+public:
+    JsonWriter& beginObject();
+    JsonWriter& endObject();
+    JsonWriter& beginArray();
+    JsonWriter& endArray();
+    JsonWriter& key(std::string_view name);
+
+    JsonWriter& value(double number);
+    JsonWriter& value(int64_t number);
+    JsonWriter& value(uint32_t number) { return value(static_cast<int64_t>(number)); }
+    JsonWriter& value(int number) { return value(static_cast<int64_t>(number)); }
+    JsonWriter& value(bool flag);
+    JsonWriter& value(std::string_view text);
+    JsonWriter& value(const char* text) { return value(std::string_view(text)); }
+    JsonWriter& value(const QString& text);
+    JsonWriter& value(const QDateTime& dateTime);
+    JsonWriter& null();
+
+    template <typename Value> JsonWriter& member(std::string_view name, const Value& content) { return key(name).value(content); }
+
+    [[nodiscard]] const std::string& text() const { return mText; }
+
+private:
+    void separate();
+
+    std::string mText;
+    bool mFirst = true; // of its object or array
+};
+
+} // namespace ZARN

@@ -1,0 +1,32 @@
+#include "cli/Resources.h"
+
+#include <filesystem>
+
+#ifdef __APPLE__
+#include <mach-o/dyld.h>
+#endif
+
+namespace ZARN {
+
+namespace {
+
+std::filesystem::path executable()
+{
+    std::error_code error;
+#ifdef __APPLE__
+    char path[4096];
+    uint32_t size = sizeof path;
+    return _NSGetExecutablePath(path, &size) == 0 ? std::filesystem::canonical(path, error) : std::filesystem::path();
+#else
+    return std::filesystem::canonical("/proc/self/exe", error);
+#endif
+}
+
+} // namespace
+
+std::string shippedProfile(const std::string& name)
+{
+    return (executable().parent_path().parent_path() / "Resources" / "profiles" / name / "Profile.xml").string();
+}
+
+} // namespace ZARN

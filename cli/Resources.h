@@ -1,0 +1,10 @@
+#pragma once
+
+#include <string>
+
+namespace ZARN {
+
+/// The file of a profile that the program ships, below the folder beside that of the executable.
+std::string shippedProfile(const std::string& name);
+
+} // namespace ZARN

@@ -1,0 +1,199 @@
+#include "export/ExportCsv.h"
+
+#include "app/NumberText.h"
+#include "app/SafeFile.h"
+#include "export/CsvColumn.h"
+
+#include <QFile>
+
+#include <algorithm>
+
+namespace ZARN {
+
+namespace {
+
+constexpr std::size_t kTimeTextSize = 32; // "%d:%02d:%02d.%03d" and a separator; hours have at most seven digits
+
+char* writeTwoDigits(char* pOut, uint32_t number)
+{
+    *pOut++ = static_cast<char>('0' + number / 10);
+    *pOut++ = static_cast<char>('0' + number % 10);
+    return pOut;
+}
+
+/// Turns the columns' cells of one window after the other into lines.
+class CsvRows {
+public:
+    CsvRows(std::vector<CsvColumn>& columns, uint32_t resolution, char separator, SafeFile& file)
+        : mColumns(columns), mTicksPerSecond(1000 / resolution), mResolution(resolution), mSeparator(separator), mFile(file),
+          mWindow(windowTicks(columns.size())), mCells(columns.size() * mWindow.marked.size()),
+          mLines(std::max(kLinesSize, kTimeTextSize + (columns.size() + 1) * sizeof(CsvCell)))
+    {
+    }
+
+    bool write()
+    {
+        for (uint64_t tick = firstTick(); tick != CsvColumn::kNoTick; tick = firstTick()) {
+            mWindow.first = tick;
+            fillWindow();
+            if (!writeWindow())
+                return false;
+        }
+        return true;
+    }
+
+private:
+    [[nodiscard]] uint64_t firstTick() const
+    {
+        uint64_t first = CsvColumn::kNoTick;
+        for (const CsvColumn& column : mColumns)
+            first = std::min(first, column.nextTick());
+        return first;
+    }
+
+    // Column after column, since one column's samples lie side by side and take the same branches.
+    void fillWindow()
+    {
+        std::fill(mWindow.marked.begin(), mWindow.marked.end(), uint8_t{0});
+        mWindow.rows.clear();
+        mLongTexts.clear();
+        for (CsvColumn& column : mColumns)
+            column.collect(mWindow);
+        for (uint16_t offset = 0; offset < mWindow.marked.size(); ++offset) {
+            if (mWindow.marked[offset])
+                mWindow.rows.push_back(offset);
+        }
+        CsvCell* pCells = mCells.data();
+        for (CsvColumn& column : mColumns) {
+            column.fill(mWindow, pCells, mLongTexts);
+            pCells += mWindow.marked.size();
+        }
+    }
+
+    bool writeWindow()
+    {
+        mpOut = mLines.data();
+        for (std::size_t row = 0; row < mWindow.rows.size(); ++row)
+            writeLine(row);
+        return flush();
+    }
+
+    void writeLine(std::size_t row)
+    {
+        // Room for a line of short texts; long ones see to theirs themselves.
+        if (room() < kTimeTextSize + (mColumns.size() + 1) * sizeof(CsvCell))
+            flush();
+        mpOut = writeTime(mpOut, static_cast<uint32_t>(mWindow.first + mWindow.rows[row]));
+        const CsvCell* pCell = mCells.data() + row;
+        for (std::size_t column = 0; column < mColumns.size(); ++column, pCell += mWindow.marked.size())
+            writeCell(*pCell);
+        mpOut[-1] = '\n'; // in place of the last separator
+    }
+
+    void writeCell(const CsvCell& cell)
+    {
+        if (cell.length == CsvCell::kAside)
+            return writeLongText(cell);
+        std::memcpy(mpOut, &cell, sizeof cell); // whole: only `length` characters of it count
+        mpOut += cell.length;
+    }
+
+    void writeLongText(const CsvCell& cell)
+    {
+        uint32_t number = 0;
+        std::memcpy(&number, cell.text, sizeof number);
+        std::string_view text = mLongTexts[number];
+        const std::size_t reserve = (mColumns.size() + 1) * sizeof(CsvCell);
+        while (room() < text.size() + reserve) {
+            flush();
+            const std::size_t part = std::min(text.size() - 1, mLines.size() - reserve); // the last character stays in reach of the line's end
+            std::copy_n(text.data(), part, mpOut);
+            mpOut += part;
+            text.remove_prefix(part);
+        }
+        mpOut = std::copy(text.begin(), text.end(), mpOut);
+    }
+
+    char* writeTime(char* pOut, uint32_t tick) const
+    {
+        const uint32_t seconds = tick / mTicksPerSecond;
+        const uint32_t milliseconds = tick % mTicksPerSecond * mResolution;
+        pOut = writeInteger(pOut, seconds / 3600);
+        *pOut++ = ':';
+        pOut = writeTwoDigits(pOut, seconds / 60 % 60);
+        *pOut++ = ':';
+        pOut = writeTwoDigits(pOut, seconds % 60);
+        *pOut++ = '.';
+        *pOut++ = static_cast<char>('0' + milliseconds / 100);
+        pOut = writeTwoDigits(pOut, milliseconds % 100);
+        *pOut++ = mSeparator;
+        return pOut;
+    }
+
+    [[nodiscard]] std::size_t room() const { return static_cast<std::size_t>(mLines.data() + mLines.size() - mpOut); }
+
+    /// After a failure every later call fails too.
+    bool flush()
+    {
+        const bool written = mFile.write({mLines.data(), static_cast<std::size_t>(mpOut - mLines.data())});
+        mpOut = mLines.data();
+        return written;
+    }
+
+    static constexpr std::size_t kLinesSize = 256 * 1024;
+    static constexpr std::size_t kMostCells = 1 << 20; // a window of many columns has fewer ticks
+    static constexpr std::size_t kMostTicks = 512;
+    static uint32_t windowTicks(std::size_t columns)
+    {
+        return static_cast<uint32_t>(std::clamp<std::size_t>(kMostCells / std::max<std::size_t>(columns, 1), 1, kMostTicks));
+    }
+
+    std::vector<CsvColumn>& mColumns;
+    uint32_t mTicksPerSecond;
+    uint32_t mResolution;
+    char mSeparator;
+    SafeFile& mFile;
+    CsvWindow mWindow;
+    std::vector<CsvCell> mCells; // column by column, one a tick of the window
+    std::vector<std::string> mLongTexts;
+    std::vector<char> mLines;
+    char* mpOut = nullptr;
+};
+
+} // namespace
+
+bool ExportCsv::exportData(const RecordData& recordData, const CsvExportOptions& options)
+{
+    SafeFile file(QFile::encodeName(options.directory + "/" + options.fileName).toStdString());
+    return writeFile(file, recordData, options);
+}
+
+bool ExportCsv::writeFile(SafeFile& file, const RecordData& recordData, const CsvExportOptions& options)
+{
+    mError.clear();
+    if (options.resolution == 0 || 1000 % options.resolution != 0)
+        mError = "no resolution of " + std::to_string(options.resolution) + " ms";
+    else if (!file.open())
+        mError = file.error();
+    if (!mError.empty())
+        return false;
+    const double ticksPerSecond = 1 / (options.resolution * 0.001);
+    std::string header = "Time";
+    std::vector<CsvColumn> columns;
+    mProfile.resetCoordinates();
+    for (const ProfileDevice& device : mProfile.data()) {
+        for (const ProfileParameter& parameter : device.parameters) {
+            if (!options.allParameters && !mProfile.isSelected(parameter.name))
+                continue;
+            header += options.separator + parameter.name;
+            columns.emplace_back(recordData.channel(parameter.identifier()), mProfile.decoder(parameter), parameter.isPosition(),
+                                 ticksPerSecond, options.separator, mProfile.sharedFilter());
+        }
+    }
+    if (file.write(header + "\n") && CsvRows(columns, options.resolution, options.separator, file).write() && file.commit())
+        return true;
+    mError = file.error();
+    return false;
+}
+
+} // namespace ZARN

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "card/record/RecordData.h"
+#include "profile/Profile.h"
+
+#include <QString>
+
+namespace ZARN {
+
+class SafeFile;
+
+/// What the user chose for one CSV export.
+struct CsvExportOptions {
+    QString directory;
+    QString fileName;
+    char separator = ';';       ///< ';', ',' or a tab
+    bool allParameters = true;  ///< false: only those selected in the project
+    uint32_t resolution = 100;  ///< milliseconds a row: 100 or 10
+};
+
+/// Writes the decoded data of the loaded cycle as a table of separated values: one row per time step that has a sample, one
+/// column per parameter, each cell the parameter's display text, held until the next sample. Rows are written as they are
+/// reached: memory does not grow with their number.
+class ExportCsv {
+public:
+    explicit ExportCsv(Profile& profile) : mProfile(profile) {}
+
+    /// Writes directory/fileName. @return false when it could not be written whole; the old file, if any, is then untouched.
+    bool exportData(const RecordData& recordData, const CsvExportOptions& options);
+    /// Writes to an opened file and commits it.
+    bool writeFile(SafeFile& file, const RecordData& recordData, const CsvExportOptions& options);
+    /// Why the last export failed: "NAME: reason".
+    [[nodiscard]] const std::string& error() const { return mError; }
+
+private:
+    Profile& mProfile;
+    std::string mError;
+};
+
+} // namespace ZARN

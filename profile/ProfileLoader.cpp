@@ -1,0 +1,170 @@
+#include "profile/ProfileLoader.h"
+
+#include <atomic>
+
+namespace ZARN {
+
+namespace {
+
+int canasType(const std::string& name)
+{
+    static const char* const names[] = {"NODATA",   "ERROR",    "FLOAT",  "LONG",    "ULONG",    "BLONG",   "SHORT",    "USHORT",
+                                        "BSHORT",   "CHAR",     "UCHAR",  "BCHAR",   "SHORT_2",  "USHORT_2", "BSHORT_2", "CHAR_4",
+                                        "UCHAR_4",  "BCHAR_4",  "CHAR_2", "UCHAR_2", "BCHAR_2",  "MEMID",   "CHKSUM",   "ACHAR",
+                                        "ACHAR_2",  "ACHAR_4",  "CHAR_3", "UCHAR_3", "BCHAR_3",  "ACHAR_3"};
+    for (int number = 0; number < static_cast<int>(std::size(names)); ++number) {
+        if (name == names[number])
+            return number;
+    }
+    return eNoData;
+}
+
+int errorType(const std::string& name)
+{
+    return name == "Info" ? eErrorInfo : name == "Warning" ? eErrorWarning : name == "Fault" ? eErrorFault : eErrorNone;
+}
+
+int thresholdState(const std::string& name)
+{
+    return name == "WARNING" ? eThresholdWarning : name == "LIMIT" ? eThresholdLimit : eThresholdOk;
+}
+
+int numberOf(const std::map<std::string, int>& numbers, const std::string& name)
+{
+    const auto found = numbers.find(name);
+    return found == numbers.end() ? 0 : found->second;
+}
+
+} // namespace
+
+int ProfileLoader::nextIdentity()
+{
+    static std::atomic<int> identity{0};
+    return ++identity;
+}
+
+ProfileModel ProfileLoader::load(const QDomElement& root)
+{
+    mModel.version = text(root, "version");
+    mModel.profileId = text(root, "profileId");
+    mModel.name = text(root, "name");
+    mModel.comment = text(root, "comment");
+    forEachChild(root, "", [this](const QDomElement& child) {
+        if (child.tagName() == "UnitConversions")
+            readUnits(child);
+        else if (child.tagName() == "EnumList")
+            readEnums(child);
+        else if (child.tagName() == "ThresholdList")
+            readThresholds(child);
+        else if (child.tagName() == "Device")
+            readDevice(child);
+    });
+    return std::move(mModel);
+}
+
+template <typename Visitor> void ProfileLoader::forEachChild(const QDomElement& parent, const char* name, Visitor visit) const
+{
+    for (QDomElement child = parent.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+        if (mProfile.checkVariant(mVariant, child) && (*name == '\0' || child.tagName() == QLatin1String(name)))
+            visit(child);
+    }
+}
+
+std::string ProfileLoader::text(const QDomElement& element, const char* attribute) const
+{
+    return mProfile.xmlGetStdStringAttribute(element.attributes(), QLatin1String(attribute), "");
+}
+
+void ProfileLoader::readUnits(const QDomElement& element)
+{
+    forEachChild(element, "Unit", [this](const QDomElement& unit) {
+        const QDomNamedNodeMap attributes = unit.attributes();
+        mModel.conversions[text(unit, "unitMetric") + "_" + text(unit, "unitImperial")] = {
+            mProfile.xmlGetDoubleAttribute(attributes, "factor", 0.0), mProfile.xmlGetDoubleAttribute(attributes, "offset", 0.0)};
+    });
+}
+
+void ProfileLoader::readEnums(const QDomElement& element)
+{
+    forEachChild(element, "Enum", [this](const QDomElement& list) {
+        EnumList& labels = mModel.enumLists.emplace_back();
+        mEnumNumbers[text(list, "name")] = static_cast<int>(mModel.enumLists.size());
+        forEachChild(list, "Value", [&](const QDomElement& value) {
+            labels[mProfile.xmlGetIntAttribute(value.attributes(), "val", 0)] = text(value, "label");
+        });
+    });
+}
+
+void ProfileLoader::readThresholds(const QDomElement& element)
+{
+    forEachChild(element, "Threshold", [this](const QDomElement& list) {
+        ThresholdList& thresholds = mModel.thresholdLists.emplace_back();
+        mThresholdNumbers[text(list, "name")] = static_cast<int>(mModel.thresholdLists.size());
+        forEachChild(list, "Value", [&](const QDomElement& value) {
+            thresholds.push_back({mProfile.xmlGetDoubleAttribute(value.attributes(), "val", 0.0),
+                                  QColor::fromString(mProfile.xmlGetStringAttribute(value.attributes(), "color", "")),
+                                  thresholdState(text(value, "state"))});
+        });
+    });
+}
+
+void ProfileLoader::readDevice(const QDomElement& element)
+{
+    mModel.devices.push_back({text(element, "name"), nextIdentity(), {}});
+    forEachChild(element, "", [this](const QDomElement& child) {
+        if (child.tagName() == "ErrorMatrix") {
+            readErrorMatrix(child);
+        } else if (child.tagName() == "Parameter") {
+            ProfileDevice& device = mModel.devices.back();
+            device.parameters.push_back(readParameter(child, device.name));
+            linkToErrorMatrices(device.parameters.back());
+        }
+    });
+}
+
+void ProfileLoader::readErrorMatrix(const QDomElement& element)
+{
+    mModel.errorMatrices.push_back({mProfile.xmlGetIntAttribute(element.attributes(), "id", 0), text(element, "name"), {}});
+}
+
+ProfileParameter ProfileLoader::readParameter(const QDomElement& element, const std::string& device) const
+{
+    const QDomNamedNodeMap attributes = element.attributes();
+    const auto integer = [&](const char* name, int fallback) {
+        return mProfile.xmlGetIntAttribute(attributes, QLatin1String(name), fallback);
+    };
+    const auto number = [&](const char* name, double fallback) {
+        return mProfile.xmlGetDoubleAttribute(attributes, QLatin1String(name), fallback);
+    };
+    ProfileParameter parameter;
+    parameter.name = text(element, "name");
+    parameter.path = device + "/" + parameter.name;
+    parameter.unitMetric = text(element, "unitMetric");
+    parameter.unitImperial = text(element, "unitImperial");
+    parameter.unit = mUnit == EUnit::eImperial ? parameter.unitImperial : parameter.unitMetric;
+    parameter.viewId = text(element, "viewId");
+    parameter.dataType = canasType(text(element, "dataType"));
+    parameter.zarnDataType = text(element, "zarnDataType");
+    parameter.enumList = numberOf(mEnumNumbers, text(element, "enumId"));
+    parameter.thresholdList = numberOf(mThresholdNumbers, text(element, "thresholdId"));
+    parameter.id = integer("id", 0);
+    parameter.startByte = integer("startByte", 0);
+    parameter.startBit = integer("startBit", 0);
+    parameter.endBit = integer("endBit", 0);
+    parameter.offset = number("offset", 0.0);
+    parameter.factor = number("factor", 1.0);
+    parameter.precision = integer("precision", 6);
+    parameter.errorType = errorType(text(element, "errorType"));
+    parameter.deviceIndex = static_cast<int>(mModel.devices.size());
+    return parameter;
+}
+
+void ProfileLoader::linkToErrorMatrices(const ProfileParameter& parameter)
+{
+    for (FaultMatrix& matrix : mModel.errorMatrices) {
+        if (matrix.id == parameter.id)
+            matrix.bits[parameter.startBit] = {parameter.name, parameter.path, parameter.errorType};
+    }
+}
+
+} // namespace ZARN

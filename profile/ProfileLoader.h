@@ -1,0 +1,36 @@
+#pragma once
+
+#include "profile/Profile.h"
+
+namespace ZARN {
+
+/// Builds the model of a profile document for one variant. Used once for one load.
+class ProfileLoader {
+public:
+    ProfileLoader(const Profile& profile, const std::string& variant, EUnit unit) : mProfile(profile), mVariant(variant), mUnit(unit) {}
+
+    [[nodiscard]] ProfileModel load(const QDomElement& root);
+    /// A number that no profile or device had before.
+    static int nextIdentity();
+
+private:
+    /// Calls `visit` with every child element of that name that applies to the variant; with an empty name, every child.
+    template <typename Visitor> void forEachChild(const QDomElement& parent, const char* name, Visitor visit) const;
+    void readUnits(const QDomElement& element);
+    void readEnums(const QDomElement& element);
+    void readThresholds(const QDomElement& element);
+    void readDevice(const QDomElement& element);
+    void readErrorMatrix(const QDomElement& element);
+    [[nodiscard]] ProfileParameter readParameter(const QDomElement& element, const std::string& device) const;
+    void linkToErrorMatrices(const ProfileParameter& parameter);
+    [[nodiscard]] std::string text(const QDomElement& element, const char* attribute) const;
+
+    const Profile& mProfile;
+    const std::string& mVariant;
+    EUnit mUnit;
+    ProfileModel mModel;
+    std::map<std::string, int> mEnumNumbers;
+    std::map<std::string, int> mThresholdNumbers;
+};
+
+} // namespace ZARN
