@@ -28,6 +28,7 @@ struct Incidents {
     bool generator = false;
 };
 
+/// The electrical system at one moment: volts and amperes.
 struct ElectricalState {
     double voltage = 12.7;
     double batteryCurrent = 0;

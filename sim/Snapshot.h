@@ -28,27 +28,32 @@ struct LaneValues {
     double faults = 0; ///< a word of 32 bits
 };
 
+/// What both lanes together tell about the engine.
 struct EngineValues {
     double speed = 0, propellerSpeed = 0, manifoldPressure = 0, power = 0, relativePower = 0, torque = 0;
     double fuelFlow = 0, fuelUsed = 0, highestEgt = 0, egtSpread = 0;
     double coolant = 0, oilTemperature = 0, oilPressure = 0, gearboxTemperature = 0, intercoolerTemperature = 0, state = 0;
 };
 
+/// What the monitoring unit counts and measures itself.
 struct MonitorValues {
     double engineSeconds = 0, starts = 0, secondsSinceStart = 0, totalFuel = 0;
     double fuelLeft = 0, fuelRight = 0, temperature = 0, cardFree = 0, recorderState = 0;
 };
 
+/// The electrical system as it is measured.
 struct ElectricalValues {
     double mainBus = 0, essentialBus = 0, batteryCurrent = 0, batteryTemperature = 0;
     std::array<double, 2> generatorCurrent{}, generatorState{}, fuelPump{};
     double starter = 0;
 };
 
+/// The air around the parked unit.
 struct AmbientValues {
     double pressure = 0, temperature = 0, densityAltitude = 0, humidity = 0;
 };
 
+/// What the satellite receiver sends.
 struct GpsValues {
     double latitude = 0, longitude = 0; ///< DDDMM.mmmm
     double altitude = 0, groundSpeed = 0, track = 0, verticalSpeed = 0;
@@ -56,10 +61,12 @@ struct GpsValues {
     double fix = 0, satellites = 0;
 };
 
+/// What the air data unit sends.
 struct AirValues {
     double indicatedSpeed = 0, trueSpeed = 0, pressureAltitude = 0, vario = 0, temperature = 0, acceleration = 0, qnh = 0;
 };
 
+/// Everything that is measured at one moment, as the messages carry it.
 struct Snapshot {
     std::array<LaneValues, 2> lanes;
     EngineValues engine;
