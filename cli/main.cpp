@@ -4,6 +4,7 @@
 #include "cli/CommandFaults.h"
 #include "cli/CommandFlights.h"
 #include "cli/CommandInfo.h"
+#include "cli/CommandKml.h"
 #include "cli/CommandPath.h"
 #include "cli/CommandProfile.h"
 #include "cli/CommandValue.h"
@@ -30,7 +31,7 @@ int runProgram(int argc, char** argv)
     program.set_version_flag("--version", Revision::getRevisionString());
     program.footer("Example: zarn-cli csv /media/card -o flight.csv");
     const auto commands = makeCommands<CommandInfo, CommandFlights, CommandEvents, CommandFaults, CommandPath, CommandValue, CommandCsv,
-                                       CommandProfile>(program);
+                                       CommandKml, CommandProfile>(program);
     if (argc < 2) {
         std::fputs(program.help().c_str(), stderr);
         return eWrongCall;
