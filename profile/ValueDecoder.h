@@ -12,6 +12,7 @@
 
 namespace ZARN {
 
+/// Imperial value = metric value x factor + offset.
 struct UnitConversion {
     double factor = 0.0;
     double offset = 0.0;
