@@ -32,6 +32,7 @@ KmlSlots collectTexts(const RecordEntries& entries, const ValueDecoder& decoder,
 void KmlPlacemarks::collect(const RecordData& data, Profile& profile, const KmlGrid& grid, int interval)
 {
     mColumns.clear();
+    profile.resetCoordinates();
     for (const ProfileDevice& device : profile.data()) {
         for (const ProfileParameter& parameter : device.parameters) {
             const RecordChannel* pChannel = profile.isSelected(parameter.name) ? data.channel(parameter.identifier()) : nullptr;

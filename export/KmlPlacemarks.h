@@ -10,7 +10,7 @@ namespace ZARN {
 /// its last sample there. Refers to the profile, which must stay loaded.
 class KmlPlacemarks {
 public:
-    /// Decodes the samples of the selected parameters in the profile's order, with the shared position filter as it stands.
+    /// Decodes the samples of the selected parameters in the profile's order. The shared position filter is reset first.
     void collect(const RecordData& data, Profile& profile, const KmlGrid& grid, int interval);
     void clear() { mColumns.clear(); }
 
