@@ -8,6 +8,7 @@
 #include "cli/CommandPath.h"
 #include "cli/CommandProfile.h"
 #include "cli/CommandSimulate.h"
+#include "cli/CommandSummary.h"
 #include "cli/CommandValue.h"
 
 #include <CLI/Config.hpp>
@@ -32,7 +33,7 @@ int runProgram(int argc, char** argv)
     program.set_version_flag("--version", Revision::getRevisionString());
     program.footer("Example: zarn-cli csv /media/card -o flight.csv");
     const auto commands = makeCommands<CommandInfo, CommandFlights, CommandEvents, CommandFaults, CommandPath, CommandValue, CommandCsv,
-                                       CommandKml, CommandProfile, CommandSimulate>(program);
+                                       CommandKml, CommandSummary, CommandProfile, CommandSimulate>(program);
     if (argc < 2) {
         std::fputs(program.help().c_str(), stderr);
         return eWrongCall;
@@ -41,7 +42,12 @@ int runProgram(int argc, char** argv)
     try {
         program.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-        return program.exit(error) == 0 ? eDone : eWrongCall;
+        if (error.get_exit_code() == 0) { // --help and --version arrive here too
+            program.exit(error);
+            return eDone;
+        }
+        std::fprintf(stderr, "zarn-cli: %s (see zarn-cli --help)\n", error.what());
+        return eWrongCall;
     }
     for (const auto& command : commands) {
         if (command->isChosen())
