@@ -12,12 +12,20 @@ namespace ZARN {
 
 namespace {
 
-/// The events of one parameter.
+/// The worst that one parameter reached, and when first.
 struct Passed {
-    int state = 0;     // the worst
-    double time = 0.0; // when it was first reached
-    int count = 0;
+    int state = 0;
+    double time = 0.0; // seconds
 };
+
+/// "  Label: item, item ..."; nothing without items.
+std::string line(const char* label, const std::vector<std::string>& items)
+{
+    std::string text;
+    for (const std::string& item : items)
+        text += (text.empty() ? std::string("  ") + label + ": " : ", ") + item;
+    return text.empty() ? text : text + "\n";
+}
 
 std::string minutes(double seconds)
 {
@@ -66,8 +74,8 @@ std::string CommandSummary::cycleText(CardContainer& container, uint32_t number)
     for (std::size_t i = 0; i < cycle.flights.size(); ++i)
         text += flightText(cycle.flights[i], i + 1);
     const RecordData& data = container.recordData();
-    text += eventsText("Exceeded", limitEvents(data, profile), eThresholdLimit, "limit");
-    text += eventsText("Lamp", warningEvents(data, profile), 2, "red");
+    text += eventsText(limitEvents(data, profile), "Limit passed", "Warning");
+    text += eventsText(warningEvents(data, profile), "Lamp red", "Lamp yellow");
     for (const FaultMatrix& matrix : profile.errorMatrices())
         text += faultsText(data, matrix);
     return text;
@@ -81,24 +89,21 @@ std::string CommandSummary::flightText(const RecordFlight& flight, std::size_t n
            tableNumber(flight.takeOffDistance, 0) + " m\n";
 }
 
-std::string CommandSummary::eventsText(const char* title, const EventList& list, int worst, const char* worstName)
+std::string CommandSummary::eventsText(const EventList& list, const char* worst, const char* lesser)
 {
-    std::map<std::string, Passed> byParameter;
+    constexpr int worstState = 2; // of thresholds and lamps alike
+    std::map<std::pair<std::string, std::string>, Passed> byParameter;
     for (const Event& event : list.events()) {
         const EventSource& source = list.source(event);
-        Passed& passed = byParameter[source.group + "/" + source.parameter];
-        ++passed.count;
-        if (event.state > passed.state) {
-            passed.state = event.state;
-            passed.time = event.time;
-        }
+        Passed& passed = byParameter[{source.group, source.parameter}];
+        if (event.state > passed.state)
+            passed = {event.state, event.time};
     }
-    std::string text;
-    for (const auto& [name, passed] : byParameter) {
-        text += std::string("  ") + title + ": " + name + ", " + (passed.state == worst ? worstName : "warning") + " at " + tableTime(passed.time);
-        text += passed.count > 1 ? " (" + std::to_string(passed.count) + " events)\n" : "\n";
-    }
-    return text;
+    std::vector<std::string> worstOnes;
+    std::vector<std::string> lesserOnes;
+    for (const auto& [name, passed] : byParameter)
+        (passed.state == worstState ? worstOnes : lesserOnes).push_back(name.second + " " + tableTime(passed.time).substr(0, 8));
+    return line(worst, worstOnes) + line(lesser, lesserOnes);
 }
 
 std::string CommandSummary::faultsText(const RecordData& data, const FaultMatrix& matrix)
@@ -109,13 +114,17 @@ std::string CommandSummary::faultsText(const RecordData& data, const FaultMatrix
         for (const StoredRecord& record : pChannel->entries.chunk(i))
             everSet |= faultWord(record.payload);
     }
-    static const char* const kinds[] = {"no kind", "info", "warning", "fault"};
-    std::string text;
+    std::vector<std::string> faults;
+    std::vector<std::string> warnings;
     for (const auto& [bit, fault] : matrix.bits) {
-        if (bit >= 0 && bit < 32 && (everSet >> bit & 1U) != 0)
-            text += "  Set: " + matrix.name + ", " + fault.name + " (" + kinds[fault.errorType] + ")\n";
+        if (bit < 0 || bit > 31 || (everSet >> bit & 1U) == 0)
+            continue;
+        if (fault.errorType == eErrorFault)
+            faults.push_back(fault.name);
+        else if (fault.errorType == eErrorWarning)
+            warnings.push_back(fault.name);
     }
-    return text;
+    return line((matrix.name + ", faults").c_str(), faults) + line((matrix.name + ", warnings").c_str(), warnings);
 }
 
 } // namespace ZARN

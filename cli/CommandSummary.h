@@ -14,7 +14,7 @@ public:
 private:
     [[nodiscard]] static std::string cycleText(CardContainer& container, uint32_t number);
     [[nodiscard]] static std::string flightText(const RecordFlight& flight, std::size_t number);
-    [[nodiscard]] static std::string eventsText(const char* title, const EventList& list, int worst, const char* worstName);
+    [[nodiscard]] static std::string eventsText(const EventList& list, const char* worst, const char* lesser);
     [[nodiscard]] static std::string faultsText(const RecordData& data, const FaultMatrix& matrix);
 
     std::string mCard;

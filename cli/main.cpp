@@ -14,6 +14,7 @@
 #include <CLI/Config.hpp>
 #include <CLI/Formatter.hpp>
 
+#include <algorithm>
 #include <csignal>
 
 namespace ZARN {
@@ -36,6 +37,10 @@ int runProgram(int argc, char** argv)
                                        CommandKml, CommandSummary, CommandProfile, CommandSimulate>(program);
     if (argc < 2) {
         std::fputs(program.help().c_str(), stderr);
+        return eWrongCall;
+    }
+    if (argv[1][0] != '-' && std::ranges::none_of(commands, [&](const auto& command) { return command->name() == argv[1]; })) {
+        std::fprintf(stderr, "zarn-cli: %s: no such subcommand (see zarn-cli --help)\n", argv[1]);
         return eWrongCall;
     }
     program.require_subcommand(1);
