@@ -13,7 +13,8 @@ class Console;
 /// written. Holds nothing but the console for its messages; callers make one on the stack for each use.
 class XmlHandler {
 public:
-    explicit XmlHandler(const Console& console) : mConsole(console) {}
+    /// The first one made fixes the order in which attributes are written, for the whole program.
+    explicit XmlHandler(const Console& console);
 
     QDomElement xmlCreateElement(QDomDocument& document, QDomDocument& parent, const QString& name) const;
     QDomElement xmlCreateElement(QDomDocument& document, QDomElement& parent, const QString& name) const;
@@ -32,6 +33,7 @@ public:
     std::string xmlGetStdStringAttribute(const QDomNamedNodeMap& attributes, const QString& name, const std::string& fallback) const;
     /// Automatic base: "0x" hexadecimal, leading "0" octal, else decimal. Text that is no 32-bit integer gives 0.
     int xmlGetIntAttribute(const QDomNamedNodeMap& attributes, const QString& name, int fallback) const;
+    /// "." is the decimal point. Text that is no number gives 0.0, one too large for a double an infinity.
     double xmlGetDoubleAttribute(const QDomNamedNodeMap& attributes, const QString& name, double fallback) const;
     bool xmlGetBoolAttribute(const QDomNamedNodeMap& attributes, const QString& name, bool fallback) const;
 

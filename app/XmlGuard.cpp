@@ -1,0 +1,145 @@
+#include "app/XmlGuard.h"
+
+#include <QByteArrayView>
+#include <QStringConverter>
+
+#include <algorithm>
+#include <string>
+
+namespace ZARN {
+
+namespace {
+
+using Encoding = QStringConverter::Encoding;
+
+/// The walk over the markup of one text.
+class Scanner {
+public:
+    explicit Scanner(std::string_view text) : mText(text) {}
+
+    bool run()
+    {
+        while ((mPosition = mText.find('<', mPosition)) != std::string_view::npos) {
+            if (!markup())
+                return false;
+        }
+        return mDepth == 0 && mElements > 0;
+    }
+
+private:
+    bool markup()
+    {
+        const std::string_view rest = mText.substr(mPosition);
+        if (rest.starts_with("<!--"))
+            return skipPast("-->", 4);
+        if (rest.starts_with("<![CDATA["))
+            return skipPast("]]>", 9);
+        if (rest.starts_with("<!"))
+            return false;
+        if (rest.starts_with("<?"))
+            return skipPast("?>", 2);
+        return tag(rest.substr(0, XmlGuard::maxTagSize));
+    }
+
+    bool skipPast(std::string_view end, std::size_t offset)
+    {
+        const std::size_t found = mText.find(end, mPosition + offset);
+        if (found == std::string_view::npos)
+            return false;
+        mPosition = found + end.size();
+        return true;
+    }
+
+    bool tag(std::string_view text)
+    {
+        const std::size_t end = tagEnd(text);
+        if (end == std::string_view::npos)
+            return false;
+        mPosition += end + 1;
+        if (text[1] == '/')
+            return mDepth-- > 0;
+        if (++mElements > XmlGuard::maxElements || mDepth >= XmlGuard::maxDepth)
+            return false;
+        if (text[end - 1] != '/')
+            ++mDepth;
+        return true;
+    }
+
+    /// The position of the ">" that ends the tag; one within a quoted value does not.
+    static std::size_t tagEnd(std::string_view text)
+    {
+        std::size_t position = 1;
+        while ((position = text.find_first_of("\"'>", position)) != std::string_view::npos && text[position] != '>') {
+            position = text.find(text[position], position + 1);
+            if (position == std::string_view::npos)
+                break;
+            ++position;
+        }
+        return position;
+    }
+
+    std::string_view mText;
+    std::size_t mPosition = 0;
+    std::size_t mDepth = 0;
+    std::size_t mElements = 0;
+};
+
+/// The name in the XML declaration's encoding="..."; empty when there is none.
+std::string_view declaredName(std::string_view bytes)
+{
+    constexpr std::size_t longestDeclaration = 1024;
+    std::string_view text = bytes.substr(0, longestDeclaration);
+    if (!text.starts_with("<?xml"))
+        return {};
+    text = text.substr(0, text.find("?>"));
+    const std::size_t keyword = text.find("encoding");
+    if (keyword == std::string_view::npos)
+        return {};
+    const std::size_t open = text.find_first_of("\"'", keyword);
+    if (open == std::string_view::npos)
+        return {};
+    return text.substr(open + 1, text.find(text[open], open + 1) - open - 1);
+}
+
+/// Nothing when the file names an encoding that is not supported, or one that its first bytes contradict.
+std::optional<Encoding> encodingOf(std::string_view bytes)
+{
+    const QByteArrayView start(bytes.data(), static_cast<qsizetype>(std::min<std::size_t>(bytes.size(), 4)));
+    if (const auto recognised = QStringConverter::encodingForData(start, u'<'))
+        return recognised;
+    const std::string_view name = declaredName(bytes);
+    if (name.empty())
+        return Encoding::Utf8;
+    const auto declared = QStringConverter::encodingForName(std::string(name).c_str());
+    return declared == Encoding::Utf8 || declared == Encoding::Latin1 ? declared : std::nullopt;
+}
+
+} // namespace
+
+std::optional<QString> XmlGuard::pass(std::string_view fileBytes)
+{
+    if (fileBytes.size() > maxFileSize)
+        return std::nullopt;
+    const auto encoding = encodingOf(fileBytes);
+    if (!encoding)
+        return std::nullopt;
+    // Stateless, so that a character cut off by the end of the file is an error too.
+    QStringDecoder decoder(*encoding, QStringConverter::Flag::Stateless);
+    QString text = decoder(QByteArrayView(fileBytes.data(), static_cast<qsizetype>(fileBytes.size())));
+    if (decoder.hasError())
+        return std::nullopt;
+    if (text.startsWith(QChar::ByteOrderMark))
+        text.remove(0, 1);
+    const QByteArray utf8 = text.toUtf8();
+    if (!accepts(std::string_view(utf8.data(), static_cast<std::size_t>(utf8.size()))))
+        return std::nullopt;
+    return text;
+}
+
+bool XmlGuard::accepts(std::string_view utf8)
+{
+    // No XML text holds this character, and a parser may take it for the end.
+    return utf8.find('\0') == std::string_view::npos && Scanner(utf8).run();
+}
+
+} // namespace ZARN

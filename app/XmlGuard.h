@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QString>
+
+#include <cstddef>
+#include <optional>
+#include <string_view>
+
+namespace ZARN {
+
+/// Stands in front of the XML parser, which a small file can make consume gigabytes (entities), minutes (huge tags) or
+/// the stack (deep nesting). One linear pass over the text decides; nothing is allocated in proportion to what it says.
+///
+/// The pass knows comments, CDATA sections, processing instructions and quoted attribute values. On text that is
+/// well-formed up to some point it agrees with the parser up to that point, and beyond it the parser does not go.
+class XmlGuard {
+public:
+    static constexpr std::size_t maxFileSize = 32 * 1024 * 1024; ///< bytes of the file
+    static constexpr std::size_t maxTagSize = 64 * 1024;         ///< bytes of a tag in UTF-8, "<" and ">" included
+    static constexpr std::size_t maxDepth = 64;                  ///< the root element has depth 1
+    static constexpr std::size_t maxElements = 2'000'000;
+
+    /// Decodes a file's bytes and judges the text. The encoding follows from the byte order mark, the first bytes or the
+    /// XML declaration; the parser is to be given the decoded text, so that it cannot understand another one.
+    /// @return the text, or nothing when the bytes are not valid in their encoding or break a limit.
+    static std::optional<QString> pass(std::string_view fileBytes);
+
+    /// Judges text in UTF-8 without a byte order mark: balanced tags, no document type declaration, all limits but the file size kept.
+    static bool accepts(std::string_view utf8);
+};
+
+} // namespace ZARN
