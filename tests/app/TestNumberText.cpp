@@ -4,6 +4,8 @@
 #include <QTest>
 
 #include <bit>
+#include <cfloat>
+#include <climits>
 #include <cstdint>
 #include <cstdio>
 #include <random>
@@ -56,7 +58,7 @@ double draw(int kind, std::mt19937_64& random)
 class TestNumberText : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void fixedEqualsPrintf_data();
     void fixedEqualsPrintf();
     void generalEqualsPrintf();
