@@ -45,6 +45,7 @@ function(zarn_library name)
 endfunction()
 
 # zarn_test(NAME SOURCE LINKS target... [LABELS label...] [TIMEOUT seconds] [GUI]): one Qt Test program.
+# GUI: it opens windows on a real X server (label gui), one such test at a time, for they would take each other's focus.
 function(zarn_test name source)
   cmake_parse_arguments(ARG "GUI" "TIMEOUT" "LINKS;LABELS" ${ARGN})
   if(NOT ARG_TIMEOUT)
@@ -57,7 +58,9 @@ function(zarn_test name source)
   target_compile_definitions(${name} PRIVATE ZARN_SOURCE_DIR="${PROJECT_SOURCE_DIR}" ZARN_BINARY_DIR="${PROJECT_BINARY_DIR}")
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT} LABELS "${ARG_LABELS}")
-  if(NOT ARG_GUI)
+  if(ARG_GUI)
+    set_tests_properties(${name} PROPERTIES LABELS "${ARG_LABELS};gui" RESOURCE_LOCK display)
+  else()
     set_tests_properties(${name} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
   endif()
 endfunction()

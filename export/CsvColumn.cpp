@@ -13,6 +13,11 @@ namespace {
 
 constexpr std::size_t kBatch = 32; // samples whose ticks are computed at once
 
+uint32_t tickOf(double time, double ticksPerSecond)
+{
+    return saturatingCast<uint32_t>(time * ticksPerSecond + 0.5);
+}
+
 } // namespace
 
 CsvColumn::CsvColumn(const RecordChannel* pChannel, const ValueDecoder& decoder, bool isPosition, double ticksPerSecond, char separator,
@@ -33,17 +38,12 @@ CsvColumn::CsvColumn(const RecordChannel* pChannel, const ValueDecoder& decoder,
     readAhead();
 }
 
-uint32_t CsvColumn::tickAt(double time) const
-{
-    return saturatingCast<uint32_t>(time * mTicksPerSecond + 0.5);
-}
-
 void CsvColumn::sortByTick()
 {
     const RecordEntries& entries = mpChannel->entries;
     mSorted.reserve(entries.size());
     for (std::size_t i = 0; i < entries.size(); ++i)
-        mSorted.push_back({tickAt(entries.time(i)), static_cast<uint32_t>(i)});
+        mSorted.push_back({tickOf(entries.time(i), mTicksPerSecond), static_cast<uint32_t>(i)});
     std::sort(mSorted.begin(), mSorted.end(), [](const TickPosition& a, const TickPosition& b) {
         return a.tick != b.tick ? a.tick < b.tick : a.position < b.position;
     });
@@ -57,20 +57,17 @@ void CsvColumn::readAhead()
     if (!mSorted.empty())
         mNextTick = mNext < mSorted.size() ? mSorted[mNext].tick : kNoTick;
     else
-        mNextTick = mNext < mpChannel->entries.size() ? tickAt(mpChannel->entries.time(mNext)) : kNoTick;
+        mNextTick = mNext < mpChannel->entries.size() ? tickOf(mpChannel->entries.time(mNext), mTicksPerSecond) : kNoTick;
 }
 
 void CsvColumn::take(uint64_t offset, std::size_t position)
 {
-    if (mOffsets.empty() || mOffsets.back() != offset) {
-        mOffsets.push_back(static_cast<uint16_t>(offset));
-        mRecords.emplace_back();
-        mValues.emplace_back();
-    }
+    if (mTaken == 0 || mOffsets[mTaken - 1] != offset)
+        mOffsets[mTaken++] = static_cast<uint16_t>(offset);
     if (mPositions.empty())
-        mRecords.back() = mpChannel->entries.stored(position);
+        mRecords[mTaken - 1] = mpChannel->entries.stored(position);
     else
-        mValues.back() = mPositions[position];
+        mValues[mTaken - 1] = mPositions[position];
 }
 
 void CsvColumn::collectSorted(const CsvWindow& window)
@@ -82,36 +79,43 @@ void CsvColumn::collectSorted(const CsvWindow& window)
 void CsvColumn::collectAscending(const CsvWindow& window)
 {
     const RecordEntries& entries = mpChannel->entries;
+    const double ticksPerSecond = mTicksPerSecond;
     std::array<double, kBatch> times;
+    std::array<uint32_t, kBatch + 1> ticks;
     while (mNext < entries.size()) {
         const auto batch = entries.run(mNext, kBatch);
         recordTimes(batch, times.data());
-        for (std::size_t i = 0; i < batch.size(); ++i) {
-            const uint32_t tick = tickAt(times[i]);
-            if (tick >= window.end())
-                return;
-            take(tick - window.first, mNext++);
+        for (std::size_t i = 0; i < batch.size(); ++i)
+            ticks[i] = tickOf(times[i], ticksPerSecond);
+        const auto inWindow = static_cast<std::size_t>(std::lower_bound(ticks.begin(), ticks.begin() + batch.size(), window.end()) - ticks.begin());
+        for (std::size_t i = 0; i < inWindow; ++i) {
+            if (i + 1 == inWindow || ticks[i] != ticks[i + 1]) // only the last of a tick counts
+                take(ticks[i] - window.first, mNext + i);
         }
+        mNext += inWindow;
+        if (inWindow < batch.size())
+            return;
     }
 }
 
 void CsvColumn::collect(CsvWindow& window)
 {
-    mOffsets.clear();
-    mRecords.clear();
-    mValues.clear();
+    mTaken = 0;
     if (mNextTick >= window.end())
         return;
+    mOffsets.resize(window.marked.size());
+    mRecords.resize(window.marked.size());
+    mValues.resize(window.marked.size());
     if (mSorted.empty())
         collectAscending(window);
     else
         collectSorted(window);
     readAhead();
-    for (const uint16_t offset : mOffsets)
-        window.marked[offset] = 1;
+    for (std::size_t i = 0; i < mTaken; ++i)
+        window.marked[mOffsets[i]] = 1;
     if (mPositions.empty()) {
         CoordinateFilter unused;
-        mDecoder.textValues(mRecords, mValues.data(), unused);
+        mDecoder.textValues({mRecords.data(), mTaken}, mValues.data(), unused);
     }
 }
 
@@ -121,7 +125,7 @@ void CsvColumn::fill(const CsvWindow& window, CsvCell* pCells, std::vector<std::
         setAside(longTexts);
     std::size_t next = 0;
     for (const uint16_t row : window.rows) {
-        if (next < mOffsets.size() && mOffsets[next] == row) {
+        if (next < mTaken && mOffsets[next] == row) {
             makeCell(mValues[next++]);
             if (mCell.length == CsvCell::kAside)
                 setAside(longTexts);

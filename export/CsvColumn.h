@@ -50,7 +50,6 @@ private:
     void take(uint64_t offset, std::size_t position);
     void collectAscending(const CsvWindow& window);
     void collectSorted(const CsvWindow& window);
-    [[nodiscard]] uint32_t tickAt(double time) const;
     void makeCell(double textValue);
     void setAside(std::vector<std::string>& longTexts);
 
@@ -65,7 +64,8 @@ private:
     uint64_t mNextTick = kNoTick;
     std::string mLongText;              // the held text when it is too long for a cell
 
-    // The samples taken from the current window.
+    // The samples taken from the current window: the first mTaken of each.
+    std::size_t mTaken = 0;
     std::vector<uint16_t> mOffsets;
     std::vector<StoredRecord> mRecords;
     std::vector<double> mValues;

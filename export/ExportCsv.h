@@ -9,6 +9,7 @@ namespace ZARN {
 
 class SafeFile;
 
+/// What the user chose for one CSV export.
 struct CsvExportOptions {
     QString directory;
     QString fileName;

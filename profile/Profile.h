@@ -9,6 +9,7 @@
 
 namespace ZARN {
 
+/// An installation that the profile file covers beside others.
 struct ProfileVariant {
     std::string name;
     std::string color;

@@ -12,6 +12,7 @@
 
 namespace ZARN {
 
+/// Imperial value = metric value x factor + offset.
 struct UnitConversion {
     double factor = 0.0;
     double offset = 0.0;
@@ -45,6 +46,8 @@ public:
     [[nodiscard]] ThresholdResult threshold(double value) const { return mpThresholds ? findThreshold(*mpThresholds, value) : ThresholdResult{}; }
     /// State and colour that go with the text of a text value; bit fields are always neutral there.
     [[nodiscard]] ThresholdResult textThreshold(double textValue) const;
+    /// The boundaries behind textThreshold(); null where every text is neutral.
+    [[nodiscard]] const ThresholdList* textThresholds() const { return mRaw == ERaw::eNone || isField() ? nullptr : mpThresholds; }
     [[nodiscard]] double toDisplayUnit(double value) const
     {
         return mConversion ? value * mConversion->factor + mConversion->offset : value;

@@ -10,6 +10,7 @@
 /// 16-bit, 0..7 for 8-bit types).
 namespace ZARN::Kernels {
 
+/// Where the raw value stands and how it is scaled.
 struct Scaling {
     int startByte;
     double factor;

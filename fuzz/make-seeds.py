@@ -1,0 +1,130 @@
+#!/usr/bin/env python3
+"""Writes the inputs that the fuzzer starts from.
+
+    fuzz/make-seeds.py FOLDER
+
+FOLDER/FuzzRecordFile gets record files of both byte orders: whole, empty, cut, damaged. FOLDER/FuzzProfile gets the commands of
+FuzzProfile.cpp for small profiles of each data type, with the messages that they decode.
+"""
+
+import os
+import re
+import struct
+import sys
+
+# ------------------------------------------------------------------------------------------------------------- record files
+
+
+def header(order, date=(2024, 5, 17, 10, 30, 0), ticks=(0, 32000000)):
+    year, *rest = date
+    texts = struct.pack('13s13s13s13s13s7s', b'PART-A', b'ECU', b'ENG-0001', b'TYPE', b'PART-B', b'1.2.3')
+    return (struct.pack(order + 'H10xh', 0xABBA, year) + bytes(rest) + b'\0' + struct.pack(order + 'IIII', *ticks, 1, 4711) + texts).ljust(128, b'\0')
+
+
+def record(order, number, kind=2, identifier=500, ticks=None, value=1.5):
+    payload = struct.pack('>BBBBf', 1, 2, 0, number & 255, value)
+    ticks = number * 3200000 if ticks is None else ticks
+    return payload + bytes((7, 9)) + struct.pack(order + 'HIHHII', kind, identifier, 11, 13, ticks >> 32, ticks & 0xFFFFFFFF)
+
+
+def record_seeds():
+    for name, order in [('little', '<'), ('big', '>')]:
+        plain = [record(order, i, i % 3, 500 + i % 4) for i in range(40)]
+        yield f'{name}-empty', header(order)
+        yield f'{name}-one', header(order) + record(order, 1)
+        yield f'{name}-plain', header(order) + b''.join(plain)
+        yield f'{name}-cut-header', header(order)[:77]
+        yield f'{name}-cut-record', (header(order) + b''.join(plain[:5]))[:-9]
+        yield f'{name}-no-clock', header(order, (0, 0, 0, 0, 0, 0)) + plain[0]
+        yield f'{name}-bad-clock', header(order, (2024, 2, 30, 24, 61, 61)) + plain[0]
+        yield f'{name}-backwards', header(order) + b''.join(record(order, i, i % 3, 500, (20 - i * 7 % 20) * 10 ** 7) for i in range(20))
+        yield f'{name}-equal-times', header(order) + b''.join(record(order, i, 0, 500 + i % 2, 5) for i in range(12))
+        yield f'{name}-high-word', header(order) + b''.join(record(order, i, 1, 500, (i << 32) + 1) for i in range(6))
+        yield f'{name}-late', header(order) + record(order, 1, ticks=2 ** 64 - 1)
+        yield f'{name}-own-pseudo', header(order) + b''.join(record(order, i, i % 2, 0x7FFFFFFE + i % 3) for i in range(6))
+        yield f'{name}-many-channels', header(order) + b''.join(record(order, i, 0, i * 2654435761 % 2 ** 29) for i in range(60))
+    yield 'damaged-mark', b'\x12\x34' + header('>')[2:] + record('>', 1)
+    yield 'nothing', b''
+
+
+# ----------------------------------------------------------------------------------------------------------------- profiles
+
+def tables():
+    """The tables of FuzzProfile.cpp by name, so that both always mean the same."""
+    path = os.path.join(os.path.dirname(os.path.abspath(__file__)), 'FuzzProfile.cpp')
+    with open(path, encoding='utf-8') as file:
+        source = file.read()
+    found = re.findall(r'constexpr const char\* (k\w+)\[\] = \{(.*?)\};', source, re.S)
+    return {name: re.findall(r'"((?:[^"\\]|\\.)*)"', body) for name, body in found}
+
+
+TABLES = tables()
+CLOSE, END = b'\xd0', b'\xff'
+
+
+def value(content):
+    """An attribute's value: a name out of the tables or a number."""
+    if isinstance(content, str) and content in TABLES['kTypes']:
+        return bytes((0, TABLES['kTypes'].index(content)))
+    if isinstance(content, str):
+        return bytes((5, TABLES['kTexts'].index(content)))
+    return bytes((2,)) + struct.pack('<i', content) if isinstance(content, int) else bytes((3,)) + struct.pack('<d', content)
+
+
+def element(name, attributes=None, *children):
+    commands = bytes((TABLES['kElements'].index(name),))
+    for attribute, content in (attributes or {}).items():
+        commands += bytes((0x50 + TABLES['kAttributes'].index(attribute),)) + value(content)
+    return commands + b''.join(children) + CLOSE
+
+
+def message(code, data):
+    return struct.pack('>BBBB', 1, code, 0, 0) + data
+
+
+def parameter(kind, **more):
+    return element('Parameter', {'name': 'A', 'id': 500, 'dataType': kind, 'startByte': 4, 'unitMetric': 'm', 'unitImperial': 'km/h',
+                                 'enumId': 'A', 'thresholdId': 'B', **more})
+
+
+def profile_seeds():
+    lists = (element('UnitConversions', {}, element('Unit', {'unitMetric': 'm', 'unitImperial': 'km/h', 'factor': 3.6, 'offset': 0.5}))
+             + element('EnumList', {}, element('Enum', {'name': 'A'}, element('Value', {'val': 1, 'label': 'OK'}), element('Value', {'val': 5, 'label': 'B'})))
+             + element('ThresholdList', {}, element('Threshold', {'name': 'B'}, element('Value', {'val': 0.0, 'state': 'OK', 'color': '#ff0000'}),
+                                                    element('Value', {'val': 80.0, 'state': 'WARNING', 'color': 'red'}),
+                                                    element('Value', {'val': 100.0, 'state': 'LIMIT', 'color': 'no colour'}))))
+    words = [struct.pack('>f', 91.25), struct.pack('>i', -5), struct.pack('>I', 16777217), b'\x7f\xc0\0\0', b'\x80\0\0\0']
+    for unit in (0, 1):
+        for kind in TABLES['kTypes']:
+            code = TABLES['kTypes'].index(kind)
+            more = {'startBit': 4, 'endBit': 7} if 'B' in kind[0] else {'factor': 0.1, 'offset': -3.0, 'precision': 2}
+            commands = lists + element('Device', {'name': 'GroundSpeed'}, parameter(kind, **more)) + END
+            yield f'{unit}-{kind}', bytes((unit, 0)) + commands + b''.join(message(code, word) for word in words)
+    for axis in ('Latitude', 'Longitude'):
+        fixes = b''.join(message(2, struct.pack('>f', 4807.038 + jump)) for jump in (0, 1, 2, 3, 4, 5, 900, 6))
+        yield axis, bytes((0, 0)) + element('Device', {}, parameter('FLOAT', viewId=axis)) + END + fixes
+    matrix = element('Device', {'name': 'WarningLamps'}, element('ErrorMatrix', {'id': 500, 'name': 'A'}),
+                     parameter('BLONG', errorType='Fault', startBit=3, endBit=3), parameter('BLONG', errorType='Info', startBit=31, endBit=0))
+    yield 'matrix', bytes((0, 0)) + matrix + END + message(5, b'\xff\0\0\x08')
+    variants = element('Variants', {}, element('Variant', {'name': 'A', 'color': 'red'})) + element('Device', {'variant': '!A'}, parameter('FLOAT'))
+    for number in range(3):
+        yield f'variants-{number}', bytes((0, number)) + variants + element('Device', {'variant': 'A, !B'}, parameter('LONG', variant='B')) + END
+    odd = parameter('SHORT', startByte=-2147483648, startBit=-1, endBit=2147483647, factor='1e400', offset='nan', precision=2147483647)
+    yield 'odd', bytes((1, 0)) + element('Device', {}, odd, parameter('ULONG', precision=-1, factor='-1e308')) + END + message(6, b'\x80\0\x7f\xff')
+
+
+def main():
+    if len(sys.argv) != 2:
+        print(__doc__, file=sys.stderr)
+        return 2
+    for target, seeds in [('FuzzRecordFile', record_seeds()), ('FuzzProfile', profile_seeds())]:
+        folder = os.path.join(sys.argv[1], target)
+        os.makedirs(folder, exist_ok=True)
+        for name, content in seeds:
+            with open(os.path.join(folder, name), 'wb') as file:
+                file.write(content)
+    return 0
+
+
+if __name__ == '__main__':
+    sys.exit(main())

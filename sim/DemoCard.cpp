@@ -1,0 +1,120 @@
+#include "sim/DemoCard.h"
+
+#include "app/Numeric.h"
+#include "sim/FlightModel.h"
+#include "sim/MessageSchedule.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <cstdio>
+#include <filesystem>
+#include <system_error>
+
+namespace ZARN {
+
+namespace {
+
+constexpr double kMostHours = 10'000; // keeps the file numbers within five digits
+constexpr std::uint64_t kFileSteps = 6000; // the recorder begins a file every ten minutes
+constexpr std::uint64_t kStepTicks = kTicksPerSecond / 10;
+
+CardHeader headerOf(std::uint64_t seed)
+{
+    const unsigned number = static_cast<unsigned>(seed % 1'000'000);
+    char serial[16];
+    std::snprintf(serial, sizeof serial, "DEMO-%06u", number);
+    CardHeader header;
+    header.ecuSerialNumber = 9'150'000 + number % 10'000;
+    header.softwarePartA = "DEMO-LA-02.10";
+    header.softwarePartB = "DEMO-LB-02.10";
+    header.ecuType = "TWO-LANE DEMO";
+    header.engineSerial = serial;
+    header.engineType = "915 TURBO 4";
+    header.emuSoftwareVersion = "01.04.2";
+    return header;
+}
+
+} // namespace
+
+bool DemoCard::prepare(const DemoCardOptions& options, std::string& error) const
+{
+    if (!(options.hours >= 0 && options.hours <= kMostHours)) {
+        error = "hours: must be a number from 0 to 10000";
+        return false;
+    }
+    const QString path = QFile::decodeName(mDirectory.c_str());
+    std::error_code reason;
+    std::filesystem::create_directories(std::filesystem::path(mDirectory), reason);
+    if (reason || !QDir(path).exists()) {
+        error = mDirectory + ": " + (reason ? reason.message() : "no folder");
+        return false;
+    }
+    for (const QString& name : QDir(path).entryList({"*.CAN", "*.can", "*.xcb"}, QDir::Files | QDir::CaseSensitive)) {
+        error = mDirectory + ": holds the record file " + QFile::encodeName(name).toStdString() + " already";
+        return false;
+    }
+    return true;
+}
+
+bool DemoCard::write(const std::string& directory, const DemoCardOptions& options, std::string& error)
+{
+    mDirectory = directory;
+    mSeed = options.seed;
+    mFileNumber = 0;
+    mLogBook = LogBook();
+    if (!prepare(options, error))
+        return false;
+    CyclePlanner planner(options.seed);
+    RecordWriter writer(options.bigEndian);
+    double seconds = 0;
+    for (int cycle = 0; cycle < CyclePlanner::kStoryCycles || mLogBook.recordedSeconds < options.hours * 3600; ++cycle) {
+        if (!writeCycle(planner.next(seconds), writer, seconds)) {
+            error = writer.error();
+            return false;
+        }
+    }
+    return true;
+}
+
+bool DemoCard::writeCycle(const CyclePlan& plan, RecordWriter& writer, double& seconds)
+{
+    // Filled up before each cycle that flies.
+    if (!plan.tows.empty())
+        mLogBook.fuelLeft = mLogBook.fuelRight = 48;
+    FlightModel model(plan, mLogBook);
+    MessageSchedule schedule(model.snapshot());
+    RandomSource random(plan.seed ^ 0xC0FFEE);
+    const std::uint64_t firstStep = 24 + random.below(12); // the recorder needs some seconds before it records
+    std::uint64_t step = 0;
+    std::uint64_t fileEnd = 0;
+    for (; model.step(); ++step) {
+        if (step < firstStep)
+            continue;
+        if (step >= fileEnd) {
+            if (!beginFile(plan, writer, step, step == firstStep))
+                return false;
+            fileEnd = step + kFileSteps;
+        }
+        if (!writer.append(schedule.records(step, random)))
+            return false;
+    }
+    seconds = static_cast<double>(step) * kStep;
+    return writer.close();
+}
+
+/// The first file of a cycle is begun before any satellite is received, so it has no date.
+bool DemoCard::beginFile(const CyclePlan& plan, RecordWriter& writer, std::uint64_t step, bool firstOfCycle)
+{
+    if (writer.isOpen() && !writer.close())
+        return false;
+    char name[32];
+    std::snprintf(name, sizeof name, "/LOG%05u.CAN", ++mFileNumber);
+    CardHeader header = headerOf(mSeed);
+    header.ticks = step * kStepTicks;
+    if (plan.clock && !firstOfCycle)
+        header.dateTime = plan.powerUp.addMSecs(saturatingCast<qint64>(static_cast<double>(step) * kStep * 1000));
+    return writer.open(mDirectory + name, header);
+}
+
+} // namespace ZARN
