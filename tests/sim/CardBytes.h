@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QtEndian>
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 #include <map>
 #include <utility>
@@ -12,7 +14,7 @@
 
 /// One stored message, read straight from the bytes of a record file, apart from the program's own reader.
 struct StoredRecord {
-    QByteArray payload;
+    std::array<char, 8> payload{};
     quint16 kind = 0;
     quint32 id = 0;
     quint64 ticks = 0;
@@ -54,7 +56,9 @@ public:
         const qsizetype at = 128 + 28 * i;
         const quint64 rest = quint64(quint8(mBytes[at + 8])) << 40 | quint64(quint8(mBytes[at + 9])) << 32 | quint64(get<quint16>(at + 16)) << 16 |
                              get<quint16>(at + 18);
-        return {mBytes.mid(at, 8), get<quint16>(at + 10), get<quint32>(at + 12), ticks(at + 20), rest};
+        StoredRecord record{{}, get<quint16>(at + 10), get<quint32>(at + 12), ticks(at + 20), rest};
+        std::copy_n(mBytes.constData() + at, 8, record.payload.begin());
+        return record;
     }
 
 private:
@@ -69,9 +73,9 @@ private:
 };
 
 /// The value of a payload by the data type code that it carries, unscaled.
-inline double rawValue(const QByteArray& payload)
+inline double rawValue(const std::array<char, 8>& payload)
 {
-    const char* pData = payload.constData() + 4;
+    const char* pData = payload.data() + 4;
     switch (payload[1]) {
     case 2: return qFromBigEndian<float>(pData);
     case 3: return qFromBigEndian<qint32>(pData);

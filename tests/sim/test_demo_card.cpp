@@ -177,7 +177,8 @@ private Q_SLOTS:
             QCOMPARE(big.headerTicks(), little.headerTicks());
             QCOMPARE(big.identity(), little.identity());
             for (qsizetype i = 0; i < big.count(); ++i)
-                QVERIFY2(big.record(i) == little.record(i), qPrintable(QString("%1 %2").arg(name).arg(i)));
+                if (big.record(i) != little.record(i))
+                    QFAIL(qPrintable(QString("%1 %2").arg(name).arg(i)));
         }
     }
 
@@ -203,7 +204,8 @@ private Q_SLOTS:
             QVERIFY(file.headerTicks() <= file.record(0).ticks);
             for (qsizetype i = 0; i < file.count(); ++i) {
                 const quint64 ticks = file.record(i).ticks;
-                QVERIFY2(ticks > last, qPrintable(QString("%1 %2").arg(name).arg(i)));
+                if (ticks <= last)
+                    QFAIL(qPrintable(QString("%1 %2").arg(name).arg(i)));
                 last = ticks;
             }
         }
@@ -221,10 +223,10 @@ private Q_SLOTS:
             for (qsizetype i = 0; i < file.count(); ++i) {
                 const StoredRecord record = file.record(i);
                 const auto parameter = mParameters.constFind(record.id);
-                QVERIFY2(parameter != mParameters.cend(), qPrintable(QString::number(record.id)));
-                QVERIFY2(record.payload[1] == parameter->type, qPrintable(QString::number(record.id)));
-                QCOMPARE(record.payload[2], '\0');
-                QCOMPARE(quint8(record.payload[3]), codes[record.id]++);
+                const bool fits = parameter != mParameters.cend() && record.payload[1] == parameter->type && record.payload[2] == 0 &&
+                                  quint8(record.payload[3]) == codes[record.id]++;
+                if (!fits)
+                    QFAIL(qPrintable(QString("%1 %2: %3").arg(name).arg(i).arg(record.id)));
                 kinds.insert(record.kind);
             }
         }
@@ -248,7 +250,8 @@ private Q_SLOTS:
                 if (parameter.threshold == "EGT")
                     range.second = 990;
                 for (const auto& [time, value] : samples)
-                    QVERIFY2(value >= range.first && value <= range.second, qPrintable(QString("%1 at %2: %3").arg(id).arg(time).arg(value)));
+                    if (!(value >= range.first && value <= range.second))
+                        QFAIL(qPrintable(QString("%1 at %2: %3").arg(id).arg(time).arg(value)));
             }
         }
     }
