@@ -8,6 +8,7 @@ set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 
 # The program finds its resources at "<folder of the executable>/../Resources/", in the build tree too.
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin")
+file(CREATE_LINK "${PROJECT_SOURCE_DIR}/resources" "${PROJECT_BINARY_DIR}/Resources" SYMBOLIC)
 
 option(ZARN_WERROR "Treat warnings as errors" OFF)
 option(ZARN_SANITIZE "Address and undefined behaviour sanitizers" OFF)

@@ -1,0 +1,122 @@
+#include "bench/BenchCard.h"
+
+#include "card/record/ByteOrder.h"
+
+#include <QTemporaryDir>
+
+#include <cmath>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <vector>
+
+namespace ZARN {
+
+namespace {
+
+constexpr int kParameters = 60;
+
+std::string root()
+{
+    static const QTemporaryDir directory;
+    return directory.path().toStdString();
+}
+
+template <typename Integer> void store(std::vector<char>& bytes, std::size_t offset, Integer value)
+{
+    SWAP(&value, sizeof value);
+    std::memcpy(bytes.data() + offset, &value, sizeof value);
+}
+
+int identifierOf(int parameter)
+{
+    return parameter < 5 ? 1036 + parameter : 300 + parameter;
+}
+
+int periodOf(int parameter) // milliseconds
+{
+    return parameter < 5 ? 100 : parameter < 11 ? 20 : parameter < 25 ? 50 : parameter < 29 ? 33 : 100;
+}
+
+std::vector<char> record(int parameter, uint64_t ticks, float value)
+{
+    std::vector<char> bytes(28);
+    bytes[1] = 2;
+    store(bytes, 4, std::bit_cast<uint32_t>(value));
+    store(bytes, 10, static_cast<uint16_t>(parameter % 3));
+    store(bytes, 12, static_cast<uint32_t>(identifierOf(parameter)));
+    store(bytes, 20, static_cast<uint32_t>(ticks >> 32));
+    store(bytes, 24, static_cast<uint32_t>(ticks));
+    return bytes;
+}
+
+float valueAt(int parameter, double seconds)
+{
+    if (parameter == 0)
+        return static_cast<float>(4807.038 + 10 * std::sin(seconds / 500));
+    if (parameter == 1)
+        return static_cast<float>(1131.0 + 10 * std::cos(seconds / 500));
+    return static_cast<float>(90 + 60 * std::sin(seconds / (100 + 10 * parameter)));
+}
+
+void writeFile(const std::string& path, std::size_t records)
+{
+    std::ofstream file(path, std::ios::binary);
+    std::vector<char> header(128);
+    store(header, 0, uint16_t{0xABBA});
+    store(header, 12, int16_t{2024});
+    header[14] = 5;
+    header[15] = 17;
+    file.write(header.data(), static_cast<std::streamsize>(header.size()));
+    std::size_t written = 0;
+    for (uint64_t ms = 12000; written < records; ++ms) {
+        uint64_t ticks = ms * 32000;
+        for (int parameter = 0; parameter < kParameters && written < records; ++parameter) {
+            if ((ms + static_cast<uint64_t>(parameter) * 7) % static_cast<uint64_t>(periodOf(parameter)) != 0)
+                continue;
+            const std::vector<char> bytes = record(parameter, ticks += 300, valueAt(parameter, static_cast<double>(ms) / 1000));
+            file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+            ++written;
+        }
+    }
+}
+
+} // namespace
+
+std::string BenchCard::folder(std::size_t records)
+{
+    const std::string path = root() + "/" + std::to_string(records);
+    if (std::filesystem::create_directory(path))
+        writeFile(path + "/00000001.CAN", records);
+    return path;
+}
+
+std::string BenchCard::folderOfFiles(int files)
+{
+    const std::string path = root() + "/files" + std::to_string(files);
+    if (std::filesystem::create_directory(path)) {
+        for (int i = 0; i < files; ++i)
+            writeFile(path + "/" + std::to_string(10000000 + i) + ".CAN", 1000);
+    }
+    return path;
+}
+
+std::string BenchCard::profile()
+{
+    const std::string path = root() + "/Profile.xml";
+    if (std::filesystem::exists(path))
+        return path;
+    static const char* const positions[] = {"Latitude", "Longitude", "Altitude", "GroundSpeed", "Track"};
+    std::ofstream file(path);
+    file << "<CanAerospaceProfile name=\"bench\"><ThresholdList><Threshold name=\"t\"><Value val=\"0\" state=\"OK\"/>"
+            "<Value val=\"140\" state=\"WARNING\"/><Value val=\"149\" state=\"LIMIT\"/></Threshold></ThresholdList><Device name=\"ECU\">\n";
+    for (int parameter = 0; parameter < kParameters; ++parameter) {
+        const std::string key = parameter < 5 ? positions[parameter] : "";
+        file << "<Parameter name=\"P" << parameter << "\" id=\"" << identifierOf(parameter) << "\" startByte=\"4\" precision=\"" << parameter % 4
+             << "\" dataType=\"FLOAT\" zarnDataType=\"" << key << "\" viewId=\"" << key << "\" thresholdId=\"t\"/>\n";
+    }
+    file << "</Device></CanAerospaceProfile>\n";
+    return path;
+}
+
+} // namespace ZARN
