@@ -83,11 +83,10 @@ QDomText XmlHandler::xmlCreateTextElement(QDomDocument& document, QDomElement& p
     return node;
 }
 
-void XmlHandler::xmlCreateAttribute(QDomDocument& document, QDomElement& element, const QString& name, const QString& value) const
+void XmlHandler::xmlCreateAttribute(QDomDocument&, QDomElement& element, const QString& name, const QString& value) const
 {
-    QDomAttr attribute = document.createAttribute(name);
-    attribute.setValue(storable(value));
-    element.setAttributeNode(attribute);
+    // An attribute node made and set by hand would stand beside one of the same name instead of replacing it.
+    element.setAttribute(name, storable(value));
 }
 
 void XmlHandler::xmlCreateAttribute(QDomDocument& document, QDomElement& element, const QString& name, const std::string& value) const

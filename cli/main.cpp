@@ -1,7 +1,10 @@
 #include "app/Revision.h"
 #include "cli/CommandCsv.h"
+#include "cli/CommandEvents.h"
+#include "cli/CommandFaults.h"
 #include "cli/CommandFlights.h"
 #include "cli/CommandInfo.h"
+#include "cli/CommandKml.h"
 #include "cli/CommandPath.h"
 #include "cli/CommandProfile.h"
 #include "cli/CommandSimulate.h"
@@ -28,8 +31,8 @@ int runProgram(int argc, char** argv)
     CLI::App program("Decodes what an engine management unit recorded: card folders to values, tables and files.", "zarn-cli");
     program.set_version_flag("--version", Revision::getRevisionString());
     program.footer("Example: zarn-cli csv /media/card -o flight.csv");
-    const auto commands = makeCommands<CommandInfo, CommandFlights, CommandPath, CommandValue, CommandCsv, CommandProfile,
-                                       CommandSimulate>(program);
+    const auto commands = makeCommands<CommandInfo, CommandFlights, CommandEvents, CommandFaults, CommandPath, CommandValue, CommandCsv,
+                                       CommandKml, CommandProfile, CommandSimulate>(program);
     if (argc < 2) {
         std::fputs(program.help().c_str(), stderr);
         return eWrongCall;

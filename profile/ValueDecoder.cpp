@@ -219,7 +219,8 @@ void ValueDecoder::textValues(std::span<const StoredRecord> records, double* pOu
 
 ThresholdResult ValueDecoder::textThreshold(double textValue) const
 {
-    return mRaw == ERaw::eNone || isField() ? ThresholdResult{} : threshold(textValue);
+    const ThresholdList* pThresholds = textThresholds();
+    return pThresholds ? findThreshold(*pThresholds, textValue) : ThresholdResult{};
 }
 
 char* ValueDecoder::writeNumber(double textValue, char* pOut) const

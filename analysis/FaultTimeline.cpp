@@ -1,0 +1,67 @@
+#include "analysis/FaultTimeline.h"
+
+#include "card/record/ByteOrder.h"
+
+#include <limits>
+
+namespace ZARN {
+
+namespace {
+
+constexpr std::size_t kFirstDataByte = 4;
+constexpr int kBits = 32;
+constexpr double kLateness = 0.01; // seconds by which a sample may be later and still counts as before
+
+} // namespace
+
+uint32_t faultWord(const Payload& payload)
+{
+    return loadBigEndian<uint32_t>(payload.data() + kFirstDataByte);
+}
+
+std::optional<uint32_t> faultWordAt(const RecordChannel* pChannel, double seconds)
+{
+    if (!pChannel)
+        return {};
+    // The first time above a limit is the first at or above the next number after it.
+    const double above = std::nextafter(seconds + kLateness, std::numeric_limits<double>::infinity());
+    const std::size_t later = pChannel->firstAtOrAfter(above);
+    if (later == 0 || later >= pChannel->entries.size())
+        return {};
+    return faultWord(pChannel->entries.stored(later - 1).payload);
+}
+
+FaultTimeline::FaultTimeline(const FaultMatrix& matrix, const RecordChannel* pChannel)
+{
+    for (const auto& [bit, fault] : matrix.bits) {
+        if (bit >= 0 && bit < kBits && fault.errorType >= eErrorInfo && fault.errorType <= eErrorFault)
+            mMasks[static_cast<std::size_t>(fault.errorType - 1)] |= 1U << bit;
+    }
+    if (!pChannel || pChannel->entries.empty())
+        return;
+    const RecordEntries& entries = pChannel->entries;
+    uint32_t last = faultWord(entries.stored(0).payload);
+    for (std::size_t kind = 0; kind < kKinds; ++kind)
+        append(kind, entries.time(0), last);
+    for (std::size_t c = 0; c < entries.chunkCount(); ++c) {
+        for (const StoredRecord& record : entries.chunk(c)) {
+            const uint32_t word = faultWord(record.payload);
+            if (word == last)
+                continue;
+            last = word;
+            for (std::size_t kind = 0; kind < kKinds; ++kind) {
+                if (((word & mMasks[kind]) != 0) != mChanges[kind].back().on)
+                    append(kind, record.time(), word);
+            }
+        }
+    }
+    for (std::size_t kind = 0; kind < kKinds; ++kind)
+        append(kind, entries.time(entries.size() - 1), last);
+}
+
+void FaultTimeline::append(std::size_t kind, double time, uint32_t word)
+{
+    mChanges[kind].push_back({static_cast<float>(time), (word & mMasks[kind]) != 0});
+}
+
+} // namespace ZARN

@@ -1,0 +1,144 @@
+#include "analysis/TableRows.h"
+
+#include "card/record/TimeKernels.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+
+namespace ZARN {
+
+namespace {
+
+constexpr std::size_t kRun = 512; // samples whose times are computed at once
+
+/// Calls `visit` with the key of every sample, in stored order.
+template <typename Visitor> void forEachKey(const RecordEntries& entries, Visitor visit)
+{
+    std::array<double, kRun> times;
+    for (std::size_t position = 0; position < entries.size();) {
+        const auto records = entries.run(position, kRun);
+        recordTimes(records, times.data());
+        std::for_each_n(times.begin(), records.size(), [&](double time) { visit(TimeKey::of(time)); });
+        position += records.size();
+    }
+}
+
+/// The position of the first sample of a channel in ascending time whose key is above `key`.
+std::size_t firstAbove(const RecordEntries& entries, TimeKey key)
+{
+    std::size_t first = 0;
+    for (std::size_t size = entries.size(); size > 0;) {
+        const std::size_t half = size / 2;
+        if (TimeKey::of(entries.time(first + half)) > key) {
+            size = half;
+        } else {
+            first += half + 1;
+            size -= half + 1;
+        }
+    }
+    return first;
+}
+
+} // namespace
+
+TableRows::TableRows(const RecordData& data, std::span<const uint32_t> identifiers)
+{
+    std::map<uint32_t, std::size_t> known; // parameters often share a channel
+    for (const uint32_t identifier : identifiers) {
+        const auto [place, added] = known.try_emplace(identifier, kNoSamples);
+        if (added)
+            place->second = addChannel(data.channel(identifier));
+        mColumns.push_back(place->second);
+    }
+    mKeys.shrink_to_fit();
+}
+
+std::size_t TableRows::addChannel(const RecordChannel* pChannel)
+{
+    if (!pChannel || pChannel->entries.empty())
+        return kNoSamples;
+    Channel channel{pChannel, {}};
+    if (!pChannel->entries.ascending())
+        channel.samples = sortedSamples(pChannel->entries);
+    mergeKeys(distinctKeys(channel));
+    mChannels.push_back(std::move(channel));
+    return mChannels.size() - 1;
+}
+
+std::vector<TableRows::KeyPosition> TableRows::sortedSamples(const RecordEntries& entries)
+{
+    std::vector<KeyPosition> samples;
+    samples.reserve(entries.size());
+    forEachKey(entries, [&](TimeKey key) { samples.push_back({key, static_cast<uint32_t>(samples.size())}); });
+    std::sort(samples.begin(), samples.end(), [](const KeyPosition& a, const KeyPosition& b) {
+        return a.key != b.key ? a.key < b.key : a.position < b.position;
+    });
+    // The last of equal keys stays: unique() from behind keeps the first it meets.
+    const auto sameKey = [](const KeyPosition& a, const KeyPosition& b) { return a.key == b.key; };
+    samples.erase(samples.begin(), std::unique(samples.rbegin(), samples.rend(), sameKey).base());
+    return samples;
+}
+
+std::vector<TimeKey> TableRows::distinctKeys(const Channel& channel)
+{
+    std::vector<TimeKey> keys;
+    const auto add = [&keys](TimeKey key) {
+        if (keys.empty() || keys.back() != key)
+            keys.push_back(key);
+    };
+    if (channel.samples.empty())
+        forEachKey(channel.pChannel->entries, add);
+    else
+        std::for_each(channel.samples.begin(), channel.samples.end(), [&](const KeyPosition& sample) { add(sample.key); });
+    return keys;
+}
+
+void TableRows::mergeKeys(const std::vector<TimeKey>& keys)
+{
+    std::vector<TimeKey> merged;
+    merged.reserve(mKeys.size() + keys.size());
+    std::set_union(mKeys.begin(), mKeys.end(), keys.begin(), keys.end(), std::back_inserter(merged));
+    mKeys.swap(merged);
+}
+
+std::size_t TableRows::rowAt(double seconds) const
+{
+    const auto after = std::upper_bound(mKeys.begin(), mKeys.end(), TimeKey::of(seconds));
+    return after == mKeys.begin() ? 0 : static_cast<std::size_t>(after - mKeys.begin() - 1);
+}
+
+std::optional<std::size_t> TableRows::sampleAt(std::size_t column, std::size_t row) const
+{
+    if (mColumns[column] == kNoSamples)
+        return {};
+    const Channel& channel = mChannels[mColumns[column]];
+    const TimeKey wanted = mKeys[row];
+    if (channel.samples.empty()) {
+        const RecordEntries& entries = channel.pChannel->entries;
+        const std::size_t above = firstAbove(entries, wanted);
+        if (above == 0 || TimeKey::of(entries.time(above - 1)) != wanted)
+            return {};
+        return above - 1;
+    }
+    const auto found = std::lower_bound(channel.samples.begin(), channel.samples.end(), wanted,
+                                        [](const KeyPosition& sample, TimeKey key) { return sample.key < key; });
+    if (found == channel.samples.end() || found->key != wanted)
+        return {};
+    return found->position;
+}
+
+const RecordChannel* TableRows::channel(std::size_t column) const
+{
+    return mColumns[column] == kNoSamples ? nullptr : mChannels[mColumns[column]].pChannel;
+}
+
+std::size_t TableRows::bytes() const
+{
+    std::size_t bytes = mKeys.capacity() * sizeof(TimeKey) + mColumns.capacity() * sizeof(std::size_t);
+    for (const Channel& channel : mChannels)
+        bytes += sizeof(Channel) + channel.samples.capacity() * sizeof(KeyPosition);
+    return bytes;
+}
+
+} // namespace ZARN

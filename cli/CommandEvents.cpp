@@ -1,0 +1,56 @@
+#include "cli/CommandEvents.h"
+
+#include "analysis/LimitEvents.h"
+#include "analysis/WarningEvents.h"
+#include "cli/JsonWriter.h"
+#include "cli/TextTable.h"
+
+namespace ZARN {
+
+CommandEvents::CommandEvents(CLI::App& program) : DataCommand(program, "events", "list the limit exceedances and warning lamps of a cycle")
+{
+    addJson();
+}
+
+int CommandEvents::runOnData()
+{
+    const EventList limits = limitEvents(mContainer.recordData(), mProfile);
+    const EventList warnings = warningEvents(mContainer.recordData(), mProfile);
+    if (!mJson) {
+        return print(table("Limit exceedances", "No limit was exceeded", limits) + "\n" +
+                     table("Warning lamps", "No warning lamp was lit", warnings));
+    }
+    JsonWriter writer;
+    writer.beginObject().key("limits");
+    write(writer, limits);
+    writer.key("warnings");
+    write(writer, warnings);
+    writer.endObject();
+    return print(writer.text() + "\n");
+}
+
+void CommandEvents::write(JsonWriter& writer, const EventList& list)
+{
+    writer.beginArray();
+    for (const Event& event : list.events()) {
+        writer.beginObject().member("time", event.time).member("key", event.key.tenths).member("text", list.text(event));
+        writer.member("state", event.state).key("color");
+        event.colour.isValid() ? writer.value(event.colour.name()) : writer.null();
+        writer.endObject();
+    }
+    writer.endArray();
+}
+
+std::string CommandEvents::table(const char* title, const char* nothing, const EventList& list)
+{
+    if (list.events().empty())
+        return std::string(nothing) + "\n";
+    TextTable table({"Time", "Group", "Parameter", "Value", "Unit", "State"});
+    for (const Event& event : list.events()) {
+        const EventSource& source = list.source(event);
+        table.addRow({tableTime(event.time), source.group, source.parameter, event.value, source.unit, std::to_string(event.state)});
+    }
+    return std::string(title) + "\n\n" + table.text();
+}
+
+} // namespace ZARN

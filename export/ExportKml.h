@@ -1,0 +1,43 @@
+#pragma once
+
+#include "export/KmlDocument.h"
+
+#include <QDateTime>
+
+namespace ZARN {
+
+class Console;
+class SafeFile;
+
+/// Writes the flight path of the loaded cycle as a KML document for a globe viewer, with placemarks of the selected parameters,
+/// of limit exceedances and of warning lamps. The document is written as it is made: no tree of it is held.
+class ExportKml {
+public:
+    /// @param cycleDate date and time of the loaded cycle, for the document's name; may be invalid.
+    ExportKml(const Console& console, Profile& profile, const QDateTime& cycleDate);
+
+    /// Writes directory/fileName of the options. @return false, with a console line and the old file, if any, untouched, when it could
+    /// not be written.
+    bool exportData(const RecordData& recordData, const KmlExportOptions& options);
+    /// The same into a file that the caller chose; opens and commits it.
+    bool exportData(const RecordData& recordData, const KmlExportOptions& options, SafeFile& file);
+
+    // The steps of exportData().
+    bool exportPlaceMarks(const RecordData& recordData, const KmlExportOptions& options);
+    bool exportErrors(const RecordData& recordData, const KmlExportOptions& options);
+    bool exportFile(const KmlExportOptions& options);
+    bool exportFile(const KmlExportOptions& options, SafeFile& file);
+
+    /// Why the last export failed: "NAME: reason".
+    [[nodiscard]] const std::string& error() const { return mError; }
+
+private:
+    void collect(const RecordData& recordData, const KmlExportOptions& options);
+
+    const Console& mConsole;
+    Profile& mProfile;
+    KmlContent mContent;
+    std::string mError;
+};
+
+} // namespace ZARN

@@ -1,0 +1,144 @@
+#include "export/KmlPath.h"
+
+#include "app/Console.h"
+#include "app/NumberText.h"
+#include "card/record/TimeKernels.h"
+
+#include <array>
+
+namespace ZARN {
+
+namespace {
+
+constexpr std::size_t kRun = 512;           // samples decoded at once
+constexpr double kMissingBelow = -999.0;    // a coordinate below it counts as missing
+constexpr int kDebugDecimals = 6;
+constexpr double KmlPoint::*kCoordinates[] = {&KmlPoint::latitude, &KmlPoint::longitude, &KmlPoint::altitude};
+
+/// Lines for the console, of which there may be one a sample: gathered, since each piece that the console gets may be a system call.
+class DebugLines {
+public:
+    explicit DebugLines(const Console& console) : mConsole(console) {}
+    ~DebugLines() { flush(); }
+    DebugLines(const DebugLines&) = delete;
+    DebugLines& operator=(const DebugLines&) = delete;
+
+    DebugLines& add(const char* label, double number)
+    {
+        char buffer[kNumberTextSize];
+        mText.append(label).append(buffer, writeFixed(buffer, number, kDebugDecimals));
+        return *this;
+    }
+    void endLine()
+    {
+        mText += '\n';
+        if (mText.size() >= kFlushSize)
+            flush();
+    }
+
+private:
+    static constexpr std::size_t kFlushSize = 64 * 1024;
+
+    void flush()
+    {
+        if (!mText.empty())
+            mConsole.print("%s", mText.c_str());
+        mText.clear();
+    }
+
+    const Console& mConsole;
+    std::string mText;
+};
+
+/// The values of one channel by slot, decoded by the parameter that the profile has for its identifier.
+/// @param label names the values in the lines; null for no lines.
+KmlSlots collect(const RecordData& data, uint32_t identifier, Profile& profile, const KmlGrid& grid, const char* label, DebugLines& lines)
+{
+    KmlSlots slots;
+    const RecordChannel* pChannel = data.channel(identifier);
+    if (!pChannel)
+        return slots;
+    const ValueDecoder decoder = profile.decoder(profile.parameter(identifier));
+    std::array<double, kRun> times;
+    std::array<double, kRun> values{};
+    for (std::size_t position = 0; position < pChannel->entries.size();) {
+        const auto records = pChannel->entries.run(position, kRun);
+        recordTimes(records, times.data());
+        if (decoder.isNumeric())
+            decoder.values(records, values.data(), profile.sharedFilter());
+        for (std::size_t i = 0; i < records.size(); ++i) {
+            const double value = decoder.isNumeric() ? decoder.toDisplayUnit(values[i]) : 0.0;
+            if (label)
+                lines.add("time ", times[i]).add(label, value).endLine();
+            slots.put(grid.slot(times[i]), value);
+        }
+        position += records.size();
+    }
+    slots.sort();
+    return slots;
+}
+
+} // namespace
+
+void KmlPath::build(const RecordData& data, Profile& profile, const KmlGrid& grid, const Console& console)
+{
+    mPoints.clear();
+    profile.resetCoordinates();
+    constexpr uint32_t identifiers[] = {kLatitudeIdentifier, kLongitudeIdentifier, kAltitudeIdentifier};
+    constexpr const char* labels[] = {" lat ", " long ", nullptr};
+    DebugLines lines(console);
+    for (std::size_t i = 0; i < std::size(identifiers); ++i)
+        merge(collect(data, identifiers[i], profile, grid, labels[i], lines), kCoordinates[i]);
+    fillForward();
+    fillBackward(console);
+}
+
+void KmlPath::merge(const KmlSlots& slots, double KmlPoint::*coordinate)
+{
+    std::vector<KmlPoint> merged;
+    merged.reserve(std::max(mPoints.size(), slots.values().size()));
+    auto old = mPoints.cbegin();
+    for (const auto& [slot, value] : slots.values()) {
+        while (old != mPoints.cend() && old->slot < slot)
+            merged.push_back(*old++);
+        merged.push_back(old != mPoints.cend() && old->slot == slot ? *old++ : KmlPoint{slot});
+        merged.back().*coordinate = value;
+    }
+    merged.insert(merged.end(), old, mPoints.cend());
+    mPoints.swap(merged);
+}
+
+void KmlPath::fillForward()
+{
+    for (std::size_t i = 1; i < mPoints.size(); ++i) {
+        for (const auto coordinate : kCoordinates) {
+            if (mPoints[i].*coordinate < kMissingBelow)
+                mPoints[i].*coordinate = mPoints[i - 1].*coordinate;
+        }
+    }
+}
+
+void KmlPath::fillBackward(const Console& console)
+{
+    DebugLines lines(console);
+    for (std::size_t i = mPoints.size(); i-- > 1;) {
+        for (const auto coordinate : kCoordinates) {
+            const double known = mPoints[i].*coordinate;
+            if (!(mPoints[i - 1].*coordinate < kMissingBelow) || known < kMissingBelow)
+                continue;
+            mPoints[i - 1].*coordinate = known;
+            if (coordinate == &KmlPoint::longitude)
+                lines.add("new lons ", known).endLine();
+        }
+    }
+}
+
+const KmlPoint* KmlPath::at(int slot) const
+{
+    const auto above = std::upper_bound(mPoints.begin(), mPoints.end(), slot, [](int wanted, const KmlPoint& point) { return wanted < point.slot; });
+    if (above != mPoints.begin())
+        return &*(above - 1);
+    return mPoints.empty() ? nullptr : &mPoints.front();
+}
+
+} // namespace ZARN

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "card/record/RecordData.h"
+#include "export/KmlSlots.h"
+#include "profile/Profile.h"
+
+namespace ZARN {
+
+/// One point of the exported path. Degrees, and metres or what the profile converts them to; a coordinate that was never
+/// recorded stays at the marker.
+struct KmlPoint {
+    static constexpr double kMissing = -1000.0;
+    int slot;
+    double latitude = kMissing;
+    double longitude = kMissing;
+    double altitude = kMissing;
+};
+
+/// The aircraft's positions, one a slot of the grid, from the three position channels that every installation has.
+class KmlPath {
+public:
+    static constexpr uint32_t kLatitudeIdentifier = 1036;
+    static constexpr uint32_t kLongitudeIdentifier = 1037;
+    static constexpr uint32_t kAltitudeIdentifier = 1038;
+
+    /// Builds the points: in each slot the last sample, missing coordinates filled from the point before, at the start from the
+    /// first that is known. The shared position filter is reset first. Each position goes to the console.
+    void build(const RecordData& data, Profile& profile, const KmlGrid& grid, const Console& console);
+
+    /// In ascending order of slots.
+    [[nodiscard]] const std::vector<KmlPoint>& points() const { return mPoints; }
+    /// The point of a slot; where it has none that of the next lower slot, else the first. Null when there is no point at all.
+    [[nodiscard]] const KmlPoint* at(int slot) const;
+
+private:
+    void merge(const KmlSlots& slots, double KmlPoint::*coordinate);
+    void fillForward();
+    void fillBackward(const Console& console);
+
+    std::vector<KmlPoint> mPoints;
+};
+
+} // namespace ZARN

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "card/record/RecordData.h"
+#include "export/KmlSlots.h"
+#include "profile/Profile.h"
+
+namespace ZARN {
+
+/// The values of the selected parameters at regular intervals: in each slot of `interval` path slots, of each parameter the text of
+/// its last sample there. Refers to the profile, which must stay loaded.
+class KmlPlacemarks {
+public:
+    /// Decodes the samples of the selected parameters in the profile's order. The shared position filter is reset first.
+    void collect(const RecordData& data, Profile& profile, const KmlGrid& grid, int interval);
+    void clear() { mColumns.clear(); }
+
+    /// Calls `visit` with every slot in which a parameter has a sample, in ascending order; texts() then tells of that slot.
+    template <typename Visitor> void forEachSlot(Visitor visit);
+    /// Calls `visit` with parameter and display text of every parameter that has a sample in the current slot, in the profile's order.
+    template <typename Visitor> void forEachText(Visitor visit) const;
+
+private:
+    struct Column {
+        const ProfileParameter* pParameter;
+        ValueDecoder decoder;
+        std::vector<KmlSlots::Value> values; // numbers to make texts of
+        std::size_t next = 0;
+
+        [[nodiscard]] bool isAt(int slot) const { return next < values.size() && values[next].slot == slot; }
+    };
+
+    std::vector<Column> mColumns;
+    int mSlot = 0; // the current one
+};
+
+template <typename Visitor> void KmlPlacemarks::forEachSlot(Visitor visit)
+{
+    for (Column& column : mColumns)
+        column.next = 0;
+    while (true) {
+        const Column* pFirst = nullptr;
+        for (const Column& column : mColumns) {
+            if (column.next < column.values.size() && (!pFirst || column.values[column.next].slot < pFirst->values[pFirst->next].slot))
+                pFirst = &column;
+        }
+        if (!pFirst)
+            return;
+        mSlot = pFirst->values[pFirst->next].slot;
+        visit(mSlot);
+        for (Column& column : mColumns)
+            column.next += column.isAt(mSlot);
+    }
+}
+
+template <typename Visitor> void KmlPlacemarks::forEachText(Visitor visit) const
+{
+    std::string text;
+    for (const Column& column : mColumns) {
+        if (!column.isAt(mSlot))
+            continue;
+        text.clear();
+        column.decoder.appendText(column.values[column.next].value, text);
+        visit(*column.pParameter, text);
+    }
+}
+
+} // namespace ZARN

@@ -1,0 +1,42 @@
+#include "export/KmlSlots.h"
+
+namespace ZARN {
+
+namespace {
+
+constexpr int64_t kMillisecondsPerDay = 86400000;
+
+void appendTwoDigits(std::string& text, int64_t number)
+{
+    text += static_cast<char>('0' + number / 10);
+    text += static_cast<char>('0' + number % 10);
+}
+
+} // namespace
+
+std::string KmlGrid::timeOfDay(int slot, int interval) const
+{
+    const double seconds = static_cast<double>(slot) * interval * mStep;
+    const int64_t milliseconds = saturatingCast<int64_t>(seconds * 1000) % kMillisecondsPerDay;
+    const int64_t second = (milliseconds + kMillisecondsPerDay) % kMillisecondsPerDay / 1000;
+    std::string text;
+    appendTwoDigits(text, second / 3600);
+    text += ':';
+    appendTwoDigits(text, second / 60 % 60);
+    text += ':';
+    appendTwoDigits(text, second % 60);
+    return text;
+}
+
+void KmlSlots::sort()
+{
+    if (mAscending)
+        return;
+    std::stable_sort(mValues.begin(), mValues.end(), [](const Value& a, const Value& b) { return a.slot < b.slot; });
+    // The last of equal slots stays: unique() from behind keeps the first it meets.
+    const auto sameSlot = [](const Value& a, const Value& b) { return a.slot == b.slot; };
+    mValues.erase(mValues.begin(), std::unique(mValues.rbegin(), mValues.rend(), sameSlot).base());
+    mAscending = true;
+}
+
+} // namespace ZARN

@@ -1,0 +1,292 @@
+#include "app/Property.h"
+#include "support/ConsoleText.h"
+#include "support/FileHelpers.h"
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <clocale>
+#include <cmath>
+#include <limits>
+#include <memory>
+
+using ZARN::Property;
+
+class TestProperty : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void numbers_data();
+    void numbers();
+    void switches_data();
+    void switches();
+    void storedTexts();
+    void everyLocale();
+    void xmlFile();
+    void xmlIsMerged();
+    void xmlFailures();
+    void unreadableIsNotWritten();
+    void iniLines_data();
+    void iniLines();
+    void iniFiles();
+    void strip_data();
+    void strip();
+
+private:
+    [[nodiscard]] std::string path(const std::string& name) const { return mFolder->path().toStdString() + "/" + name; }
+
+    std::unique_ptr<QTemporaryDir> mFolder;
+    ConsoleText mConsole;
+};
+
+void TestProperty::init()
+{
+    mFolder = std::make_unique<QTemporaryDir>();
+    mConsole.take();
+}
+
+void TestProperty::numbers_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("integer");
+    QTest::addColumn<double>("number");
+    QTest::newRow("with unit") << "12px" << 12 << 12.0;
+    QTest::newRow("no number") << "px" << 0 << 0.0;
+    QTest::newRow("empty") << "" << 0 << 0.0;
+    QTest::newRow("blanks and sign") << " \t-7 8" << -7 << -7.0;
+    QTest::newRow("plus") << "+3" << 3 << 3.0;
+    QTest::newRow("decimal point") << "2.75" << 2 << 2.75;
+    QTest::newRow("decimal comma") << "2,75" << 2 << 2.0;
+    QTest::newRow("exponent") << "1e+06" << 1 << 1e6;
+    QTest::newRow("leading zero is decimal") << "010" << 10 << 10.0;
+    QTest::newRow("hexadecimal") << "0x10" << 0 << 16.0;
+    QTest::newRow("too large") << "99999999999999999999" << std::numeric_limits<int>::max() << 1e20;
+}
+
+void TestProperty::numbers()
+{
+    QFETCH(QString, text);
+    QFETCH(int, integer);
+    QFETCH(double, number);
+    Property property(mConsole.console);
+    property.setString("K", text.toStdString());
+    QCOMPARE(property.getInt("K", 77), integer);
+    QCOMPARE(property.getDouble("K", 77.5), number);
+    QCOMPARE(property.getInt("k", 77), 77);
+    QCOMPARE(property.getDouble("k", 77.5), 77.5);
+}
+
+void TestProperty::switches_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("value");
+    for (const char* text : {"true", "TRUE", "True"})
+        QTest::newRow(text) << text << true;
+    for (const char* text : {"", "1", "tRUE", "true ", "yes", "false"})
+        QTest::newRow(text) << text << false;
+}
+
+void TestProperty::switches()
+{
+    QFETCH(QString, text);
+    QFETCH(bool, value);
+    Property property(mConsole.console);
+    property.setString("S", text.toStdString());
+    QCOMPARE(property.getSwitch("S", !value), value);
+    QCOMPARE(property.getSwitch("s", true), true);
+    QCOMPARE(property.getSwitch("s", false), false);
+}
+
+void TestProperty::storedTexts()
+{
+    Property property(mConsole.console);
+    const auto stored = [&] { return property.getString("K", "default"); };
+    QCOMPARE(stored(), std::string("default"));
+    property.setString("K", "");
+    QCOMPARE(stored(), std::string());
+    property.setInt("K", std::numeric_limits<int>::min());
+    QCOMPARE(stored(), std::string("-2147483648"));
+    property.setSwitch("K", true);
+    QCOMPARE(stored(), std::string("true"));
+    property.setSwitch("K", false);
+    QCOMPARE(stored(), std::string("false"));
+    const std::pair<double, const char*> doubles[] = {{0.5, "0.5"}, {1e6, "1e+06"}, {100000.0, "100000"}, {1.0, "1"}, {1.0 / 3.0, "0.333333"},
+                                                      {-0.0001, "-0.0001"}, {0.00001, "1e-05"}, {-1.5e300, "-1.5e+300"}, {-std::nan(""), "nan"},
+                                                      {-std::numeric_limits<double>::infinity(), "-inf"}};
+    for (const auto& [value, text] : doubles) {
+        property.setDouble("K", value);
+        QCOMPARE(stored(), std::string(text));
+    }
+}
+
+void TestProperty::everyLocale()
+{
+    const std::string before = std::setlocale(LC_ALL, nullptr);
+    const char* german = std::setlocale(LC_ALL, "de_DE.UTF-8");
+    Property property(mConsole.console);
+    property.setDouble("D", 0.5);
+    const std::string text = property.getString("D", "");
+    const double value = property.getDouble("D", 0.0);
+    std::setlocale(LC_ALL, before.c_str());
+    if (!german)
+        qInfo("de_DE.UTF-8 is not installed here: checked in the default locale only");
+    QCOMPARE(text, std::string("0.5"));
+    QCOMPARE(value, 0.5);
+}
+
+void TestProperty::xmlFile()
+{
+    Property property(mConsole.console);
+    property.setConfigFile(path("ZARN.ini"));
+    property.setString("b", "tab\tline\n\"<&>'\xc3\xa4");
+    property.setInt("a", 1);
+    property.setString("B", "upper case first");
+    property.setString("empty", "");
+    QVERIFY(property.writeXmlFile());
+    QVERIFY(property.writeXmlFile());
+    const std::string text = fileContent(path("ZARN.ini"));
+    QVERIFY(text.starts_with("<ZARN>\n    <Property "));
+    QVERIFY(text.ends_with("/>\n</ZARN>\n"));
+    QVERIFY(text.find("\"B\"") < text.find("\"a\"") && text.find("\"a\"") < text.find("\"b\""));
+    QVERIFY(text.find("empty") == std::string::npos);
+
+    Property again(mConsole.console);
+    again.setConfigFile(path("ZARN.ini"));
+    mConsole.take();
+    QVERIFY(again.readXmlFile());
+    QCOMPARE(mConsole.take(), "readXmlFile <" + path("ZARN.ini") + "> 1\n");
+    QCOMPARE(again.getString("b", ""), std::string("tab\tline\n\"<&>'\xc3\xa4"));
+    QCOMPARE(again.getInt("a", 0), 1);
+    QCOMPARE(again.getString("empty", "default"), std::string("default"));
+}
+
+void TestProperty::xmlIsMerged()
+{
+    putFile(path("x"), "<Other><Property id='a' value='1'/><property id='c' value='2'/><Group><Property id='d' value='3'/></Group>"
+                       "<Property id='a' value='4'/><Property value='5'/><Property id='e'/></Other>");
+    Property property(mConsole.console);
+    property.setString("a", "old");
+    property.setString("kept", "old");
+    QVERIFY(property.readXmlFile(path("x")));
+    QCOMPARE(property.getString("a", "?"), std::string("4"));
+    QCOMPARE(property.getString("kept", "?"), std::string("old"));
+    QCOMPARE(property.getString("", "?"), std::string("5"));
+    QCOMPARE(property.getString("e", "?"), std::string(""));
+    for (const char* key : {"c", "d"})
+        QCOMPARE(property.getString(key, "?"), std::string("?"));
+}
+
+void TestProperty::xmlFailures()
+{
+    Property property(mConsole.console);
+    property.setString("a", "old");
+    QVERIFY(property.readXmlFile(path("missing")));
+    QCOMPARE(mConsole.take(), "could not open file <" + path("missing") + ">\nreadXmlFile <" + path("missing") + "> 0\n");
+    putFile(path("bad"), "<ZARN><Property id='a' value='new'/>");
+    QVERIFY(property.readXmlFile(path("bad")));
+    QCOMPARE(mConsole.take(), "could not set content <" + path("bad") + ">\nreadXmlFile <" + path("bad") + "> 0\n");
+    QCOMPARE(property.getString("a", "?"), std::string("old"));
+    QVERIFY(!property.writeXmlFile(path("missing/ZARN.ini")));
+    QCOMPARE(mConsole.take(), "could not open file for writing !<" + path("missing/ZARN.ini") + ">\n");
+}
+
+void TestProperty::unreadableIsNotWritten()
+{
+    Property property(mConsole.console);
+    property.setString("a", "good");
+    QVERIFY(property.writeXmlFile(path("x")));
+    const std::string good = fileContent(path("x"));
+    property.setString("huge", std::string(70'000, 'x'));
+    QVERIFY(!property.writeXmlFile(path("x")));
+    QCOMPARE(fileContent(path("x")), good);
+    property.setString("huge", std::string("bell\a, zero", 11) + "\xff");
+    QVERIFY(property.writeXmlFile(path("x")));
+    Property again(mConsole.console);
+    again.readXmlFile(path("x"));
+    QCOMPARE(again.getString("huge", ""), std::string("bell, zero\xef\xbf\xbd"));
+}
+
+void TestProperty::iniLines_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QString>("value"); // null: no entry
+    QTest::newRow("plain") << "key=value" << "key" << "value";
+    QTest::newRow("blanks and tabs") << " \tkey \t= \tvalue\t " << "key" << "value";
+    QTest::newRow("quotes") << "key = \"value\"" << "key" << "value";
+    QTest::newRow("blanks within quotes") << "key = \" a b \"" << "key" << "a b";
+    QTest::newRow("quotes within") << "key = a\"b" << "key" << "a\"b";
+    QTest::newRow("quotes of the key stay") << "\"key\"=1" << "\"key\"" << "1";
+    QTest::newRow("two equals") << "key=a=b" << "key" << "a=b";
+    QTest::newRow("no equals") << " key word " << "key word" << "";
+    QTest::newRow("no value") << "key=" << "key" << "";
+    QTest::newRow("section") << "[Section]" << "[Section]" << "";
+    QTest::newRow("comment behind a value") << "key=1 # 2" << "key" << "1 # 2";
+    QTest::newRow("other system's line end") << "key=1\r" << "key" << "1";
+    QTest::newRow("comment") << "  # key=value" << "# key" << QString();
+    QTest::newRow("other comment") << "; key=value" << "; key" << QString();
+    QTest::newRow("blanks") << " \t " << "" << QString();
+}
+
+void TestProperty::iniLines()
+{
+    QFETCH(QString, line);
+    QFETCH(QString, key);
+    QFETCH(QString, value);
+    for (const std::string& content : {line.toStdString(), "first=1\n\n" + line.toStdString() + "\nlast=2\n"}) {
+        putFile(path("x"), content);
+        Property property(mConsole.console);
+        QVERIFY(property.readConfigFile(path("x")));
+        QCOMPARE(property.getString(key.toStdString(), "absent"), value.isNull() ? "absent" : value.toStdString());
+        QCOMPARE(property.getInt("last", 2), 2);
+    }
+}
+
+void TestProperty::iniFiles()
+{
+    Property property(mConsole.console);
+    property.setString("old", "1");
+    QVERIFY(!property.readConfigFile(path("missing")));
+    QVERIFY(!property.readConfigFile(path("")));
+    QCOMPARE(property.getString("old", ""), std::string("1"));
+    putFile(path("x"), "a=1\nb=2\na=3\n");
+    QVERIFY(property.readConfigFile(path("x")));
+    QCOMPARE(property.getString("old", "gone"), std::string("gone"));
+    QCOMPARE(property.getString("a", ""), std::string("3"));
+    putFile(path("x"), "b=4\nc=5");
+    property.setInt("a", 9);
+    QVERIFY(property.update());
+    QCOMPARE(property.getInt("a", 0), 9);
+    QCOMPARE(property.getInt("b", 0), 4);
+    QCOMPARE(property.getInt("c", 0), 5);
+    std::filesystem::remove(path("x"));
+    QVERIFY(!property.update());
+    QVERIFY(!property.readConfigFile());
+    QCOMPARE(property.getInt("c", 0), 5);
+}
+
+void TestProperty::strip_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("stripped");
+    QTest::newRow("both ends") << "xyaxyx" << "a";
+    QTest::newRow("middle stays") << "axyb" << "axyb";
+    QTest::newRow("all") << "xyyx" << "";
+    QTest::newRow("empty") << "" << "";
+}
+
+void TestProperty::strip()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, stripped);
+    std::string value = text.toStdString();
+    Property::strip(value, "xy");
+    QCOMPARE(value, stripped.toStdString());
+    value = text.toStdString();
+    Property::strip(value, "");
+    QCOMPARE(value, text.toStdString());
+}
+
+QTEST_GUILESS_MAIN(TestProperty)
+#include "TestProperty.moc"

@@ -1,0 +1,215 @@
+#include "app/CmdLine.h"
+#include "app/DataHandler.h"
+#include "app/Revision.h"
+#include "app/Timer.h"
+#include "support/ConsoleText.h"
+#include "support/FileHelpers.h"
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace ZARN;
+
+/// What the program does before it has a window: command line, folders, banner.
+class TestStartUp : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void parse_data();
+    void parse();
+    void usage();
+    void registeredAgain();
+    void folders();
+    void foldersThatAreThere();
+    void foldersWithoutHome();
+    void resourcePath_data();
+    void resourcePath();
+    void banner();
+    void stopwatch();
+};
+
+namespace {
+
+void registerOptions(CmdLine& cmdLine)
+{
+    cmdLine.addSwitch("-h", "print this help");
+    cmdLine.addSwitch("-emu", "EMU display only");
+    cmdLine.addSwitch("-connect", "connect after startup");
+    cmdLine.addParameter("-s", "stylefile to load", "");
+}
+
+bool parseArguments(CmdLine& cmdLine, const QStringList& arguments)
+{
+    std::vector<std::string> texts = {"zarn"};
+    for (const QString& argument : arguments)
+        texts.push_back(argument.toStdString());
+    std::vector<const char*> pointers;
+    for (const std::string& text : texts)
+        pointers.push_back(text.c_str());
+    pointers.push_back(nullptr);
+    return cmdLine.parse(static_cast<int>(texts.size()), pointers.data());
+}
+
+} // namespace
+
+void TestStartUp::parse_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QStringList>("given");
+    QTest::addColumn<QString>("style");
+    QTest::addColumn<QString>("said"); // empty: parse() succeeds
+    using List = QStringList;
+    QTest::newRow("none") << List{} << List{} << "" << "";
+    QTest::newRow("help") << List{"-h"} << List{"-h"} << "" << "";
+    QTest::newRow("unknown") << List{"-x", "-h"} << List{"-h"} << "" << "unknown option -x\n";
+    QTest::newRow("several unknown") << List{"%s%n", ""} << List{} << "" << "unknown option %s%n\nunknown option \n";
+    QTest::newRow("style and switch") << List{"-s", "file.css", "-emu"} << List{"-s", "-emu"} << "file.css" << "";
+    QTest::newRow("value like an option") << List{"-s", "-emu"} << List{"-s"} << "-emu" << "";
+    QTest::newRow("parameter is last") << List{"-emu", "-s"} << List{"-emu", "-s"} << "" << "";
+    QTest::newRow("switch twice") << List{"-emu", "-emu"} << List{"-emu"} << "" << "";
+    QTest::newRow("parameter twice") << List{"-s", "a", "-s", "b"} << List{"-s"} << "b" << "";
+    QTest::newRow("no other forms") << List{"-S", "-s=a", "-em", "--emu"} << List{} << ""
+                                    << "unknown option -S\nunknown option -s=a\nunknown option -em\nunknown option --emu\n";
+}
+
+void TestStartUp::parse()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QStringList, given);
+    QFETCH(QString, style);
+    QFETCH(QString, said);
+    ConsoleText console;
+    CmdLine cmdLine(console.console);
+    registerOptions(cmdLine);
+    QCOMPARE(parseArguments(cmdLine, arguments), said.isEmpty());
+    QCOMPARE(console.text, said.toStdString());
+    for (const char* name : {"-h", "-emu", "-connect", "-s"})
+        QCOMPARE(cmdLine.getSwitch(name), given.contains(name));
+    std::string value = "before";
+    QCOMPARE(cmdLine.getParameter("-s", value), given.contains("-s"));
+    QCOMPARE(value, style.toStdString());
+    QVERIFY(!cmdLine.getSwitch("-none"));
+    QVERIFY(!cmdLine.getParameter("-none", value));
+    QCOMPARE(value, style.toStdString());
+}
+
+void TestStartUp::usage()
+{
+    ConsoleText console;
+    CmdLine cmdLine(console.console);
+    registerOptions(cmdLine);
+    const std::string switches = "-connect connect after startup\n-emu     EMU display only\n-h       print this help\n";
+    cmdLine.parse(0, nullptr);
+    cmdLine.printUsage();
+    QCOMPARE(console.take(), "Usage of  :\n" + switches + "-s       [stylefile to load] default []\n\n");
+    QVERIFY(parseArguments(cmdLine, {"-s", "a.css"}));
+    cmdLine.printUsage();
+    QCOMPARE(console.take(), "Usage of zarn :\n" + switches + "-s       [stylefile to load] default [a.css]\n\n");
+}
+
+void TestStartUp::registeredAgain()
+{
+    ConsoleText console;
+    CmdLine cmdLine(console.console);
+    registerOptions(cmdLine);
+    QVERIFY(parseArguments(cmdLine, {"-emu"}));
+    cmdLine.addParameter("-emu", "now a parameter", "x");
+    std::string value;
+    QVERIFY(!cmdLine.getParameter("-emu", value));
+    QCOMPARE(value, std::string("x"));
+}
+
+void TestStartUp::folders()
+{
+    const QTemporaryDir folder;
+    const std::string home = folder.path().toStdString() + "/home";
+    const std::string data = folder.path().toStdString() + "/share/deep/ZARN";
+    ConsoleText console;
+    const DataHandler handler("/opt/zarn/bin", home, data, console.console);
+    QCOMPARE(console.text, "HOME: <" + home + ">\nUserDataPath created <" + home + "/ZARN/>\nData Path      : <" + data
+                               + ">\nUser Data Path : <" + home + "/ZARN/>\nResource Path  : </opt/zarn/Resources/>\n");
+    QCOMPARE(handler.dataPath(), data);
+    QCOMPARE(handler.userDataPath(), home + "/ZARN/");
+    QVERIFY(std::filesystem::is_directory(data));
+    QVERIFY(std::filesystem::is_directory(home + "/ZARN"));
+    QVERIFY(!std::filesystem::exists(home + "/Library"));
+}
+
+void TestStartUp::foldersThatAreThere()
+{
+    const QTemporaryDir folder;
+    const std::string home = folder.path().toStdString();
+    std::filesystem::create_directory(home + "/ZARN");
+    ConsoleText console;
+    const DataHandler withoutLocation("/opt/zarn/bin", home, "", console.console);
+    QCOMPARE(withoutLocation.dataPath(), home + "/Library/ZARN/");
+    QVERIFY(console.text.find("DataPath created <" + home + "/Library/ZARN/>\n") != std::string::npos);
+    QVERIFY(console.text.find("UserDataPath created") == std::string::npos);
+    // A folder that cannot be made is not reported as made.
+    putFile(home + "/file", "");
+    console.take();
+    const DataHandler blocked("/opt/zarn/bin", home, home + "/file/ZARN", console.console);
+    QCOMPARE(blocked.dataPath(), home + "/file/ZARN");
+    QVERIFY(console.text.find("created") == std::string::npos);
+}
+
+void TestStartUp::foldersWithoutHome()
+{
+    const QTemporaryDir folder;
+    ConsoleText console;
+    const DataHandler handler("/opt/zarn/bin", std::nullopt, folder.path().toStdString() + "/data", console.console);
+    QCOMPARE(console.text, std::string("Data Path      : <>\nUser Data Path : <>\nResource Path  : </opt/zarn/Resources/>\n"));
+    QCOMPARE(handler.dataPath(), std::string());
+    QCOMPARE(entryCount(folder.path().toStdString()), 0L);
+}
+
+void TestStartUp::resourcePath_data()
+{
+    QTest::addColumn<QString>("executable");
+    QTest::addColumn<QString>("resources");
+    QTest::newRow("bundle") << "/Applications/zarn.app/Contents/MacOS" << "/Applications/zarn.app/Contents/Resources/";
+    QTest::newRow("top level") << "/bin" << "/Resources/";
+    QTest::newRow("root") << "/" << "/Resources/";
+    QTest::newRow("no separator") << "bin" << "/Resources/";
+}
+
+void TestStartUp::resourcePath()
+{
+    QFETCH(QString, executable);
+    QFETCH(QString, resources);
+    ConsoleText console;
+    QCOMPARE(DataHandler(executable.toStdString(), std::nullopt, "", console.console).resourcePath(), resources.toStdString());
+}
+
+void TestStartUp::banner()
+{
+    ConsoleText console;
+    Revision::printHeader(console.console);
+    const QStringList lines = QString::fromStdString(console.text).split('\n');
+    QVERIFY(lines.size() > 8);
+    QCOMPARE(lines[0], QString(49, '-'));
+    QCOMPARE(lines[1], QString());
+    QVERIFY(lines[2].contains('#') || lines[2].contains('|') || lines[2].contains('-'));
+    QCOMPARE(lines[lines.size() - 5], QString("                Version  : ZARN 2.1.0"));
+    QVERIFY(QRegularExpression("^                Compiled : [A-Z][a-z]{2} [ 0-9][0-9] [0-9]{4} [0-9]{2}:[0-9]{2}:[0-9]{2}$")
+                .match(lines[lines.size() - 4])
+                .hasMatch());
+    QCOMPARE(lines[lines.size() - 3], "                CWD      : " + QDir::currentPath());
+    QCOMPARE(lines[lines.size() - 2], QString(49, '-'));
+    QCOMPARE(lines.back(), QString());
+}
+
+void TestStartUp::stopwatch()
+{
+    static double now = 0.0;
+    ConsoleText console;
+    now = 1000.0;
+    {
+        const Timer timer("calc%s", console.console, [] { return now; });
+        now = 1001.2345;
+    }
+    QCOMPARE(console.text, std::string("calc%s : 1234.5 ms\n"));
+}
+
+QTEST_GUILESS_MAIN(TestStartUp)
+#include "TestStartUp.moc"

@@ -1,0 +1,143 @@
+#include "vesk/base/Directory.h"
+#include "vesk/base/FirstOrderFilter.h"
+#include "vesk/base/Geodesy.h"
+#include "vesk/base/Timer.h"
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <cmath>
+#include <ctime>
+#include <filesystem>
+#include <fstream>
+#include <limits>
+
+using namespace VESK;
+
+class TestVeskBase : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void directories_data();
+    void directories();
+    void filterFollowsAStep();
+    void filterIgnoresWhatWouldStay();
+    void knownPositions_data();
+    void knownPositions();
+    void positionsSurviveTheRoundTrip();
+    void timerRunsWithTheWallClock();
+};
+
+void TestVeskBase::directories_data()
+{
+    QTest::addColumn<QString>("path"); // below a folder that holds the file "file" and the dangling link "dangling"
+    QTest::addColumn<bool>("created");
+    QTest::newRow("one level") << "a" << true;
+    QTest::newRow("missing parents") << "b/c/d/e" << true;
+    QTest::newRow("trailing separator") << "f/g/" << true;
+    QTest::newRow("blank and umlaut") << "h \xc3\xa4/i" << true;
+    QTest::newRow("is there") << "" << true;
+    QTest::newRow("is a file") << "file" << false;
+    QTest::newRow("below a file") << "file/x" << false;
+    QTest::newRow("dangling link") << "dangling" << false;
+}
+
+void TestVeskBase::directories()
+{
+    QFETCH(QString, path);
+    QFETCH(bool, created);
+    const QTemporaryDir folder;
+    const std::string base = folder.path().toStdString() + "/";
+    std::ofstream(base + "file") << "x";
+    std::filesystem::create_symlink(base + "nowhere", base + "dangling");
+    const std::string whole = base + path.toStdString();
+    QCOMPARE(FileSystem::Directory::exists(whole), path.isEmpty());
+    QCOMPARE(FileSystem::Directory::createDirectoryRecursive(whole), created);
+    QCOMPARE(FileSystem::Directory::exists(whole), created);
+    QVERIFY(!FileSystem::Directory::createDirectoryRecursive(""));
+    QVERIFY(!FileSystem::Directory::exists(""));
+}
+
+void TestVeskBase::filterFollowsAStep()
+{
+    Math::FirstOrderFilter once(2.0);
+    Math::FirstOrderFilter often(2.0);
+    QCOMPARE(once.update(10.0, 0.0), 10.0);
+    QCOMPARE(often.update(10.0, 0.0), 10.0);
+    const double after = once.update(20.0, 2.0);
+    QVERIFY(std::abs(after - (20.0 - 10.0 * std::exp(-1.0))) < 1e-12);
+    for (int i = 0; i < 1000; ++i)
+        often.update(20.0, 0.002);
+    QVERIFY(std::abs(often.value() - after) < 1e-9);
+    once.reset();
+    QCOMPARE(once.update(-3.0, 1.0), -3.0);
+    Math::FirstOrderFilter open(0.0);
+    open.update(1.0, 1.0);
+    QCOMPARE(open.update(5.0, 1.0), 5.0);
+}
+
+void TestVeskBase::filterIgnoresWhatWouldStay()
+{
+    Math::FirstOrderFilter filter(1.0);
+    QCOMPARE(filter.update(std::nan(""), 1.0), 0.0);
+    QCOMPARE(filter.update(4.0, 1.0), 4.0);
+    QCOMPARE(filter.update(std::numeric_limits<double>::infinity(), 1.0), 4.0);
+    QCOMPARE(filter.update(8.0, -1.0), 4.0);
+    QCOMPARE(filter.update(8.0, std::nan("")), 4.0);
+}
+
+void TestVeskBase::knownPositions_data()
+{
+    QTest::addColumn<double>("latitude");
+    QTest::addColumn<double>("longitude");
+    QTest::addColumn<double>("height");
+    QTest::addColumn<double>("x");
+    QTest::addColumn<double>("y");
+    QTest::addColumn<double>("z");
+    constexpr double equatorRadius = 6378137.0;
+    constexpr double poleRadius = 6356752.314245179;
+    QTest::newRow("equator") << 0.0 << 0.0 << 0.0 << equatorRadius << 0.0 << 0.0;
+    QTest::newRow("equator east, aloft") << 0.0 << 90.0 << 1000.0 << 0.0 << equatorRadius + 1000.0 << 0.0;
+    QTest::newRow("date line") << 0.0 << 180.0 << 0.0 << -equatorRadius << 0.0 << 0.0;
+    QTest::newRow("north pole") << 90.0 << 0.0 << 10.0 << 0.0 << 0.0 << poleRadius + 10.0;
+    QTest::newRow("south pole") << -90.0 << 0.0 << 0.0 << 0.0 << 0.0 << -poleRadius;
+}
+
+void TestVeskBase::knownPositions()
+{
+    QFETCH(double, latitude);
+    QFETCH(double, longitude);
+    QFETCH(double, height);
+    QFETCH(double, x);
+    QFETCH(double, y);
+    QFETCH(double, z);
+    const auto position = Geodesy::toGeocentric({latitude, longitude, height});
+    QVERIFY(std::hypot(position.x - x, position.y - y, position.z - z) < 1e-6);
+}
+
+void TestVeskBase::positionsSurviveTheRoundTrip()
+{
+    for (double latitude = -85.0; latitude <= 85.0; latitude += 17.0) {
+        for (double longitude = -179.0; longitude <= 180.0; longitude += 29.5) {
+            const auto back = Geodesy::toGeodetic(Geodesy::toGeocentric({latitude, longitude, 2500.0}));
+            QVERIFY(std::abs(back.latitude - latitude) < 1e-10);
+            QVERIFY(std::abs(back.longitude - longitude) < 1e-10);
+            QVERIFY(std::abs(back.height - 2500.0) < 1e-6);
+        }
+    }
+    QVERIFY(std::isnan(Geodesy::toGeocentric({90.5, 0.0, 0.0}).x));
+}
+
+void TestVeskBase::timerRunsWithTheWallClock()
+{
+    QVERIFY(std::abs(Misc::Timer::getTime() - static_cast<double>(std::time(nullptr))) < 2.0);
+    Misc::Timer timer;
+    QTest::qSleep(30);
+    const double elapsed = timer.elapsed();
+    QVERIFY(elapsed >= 0.029 && elapsed < 10.0);
+    timer.restart();
+    QVERIFY(timer.elapsed() < elapsed);
+}
+
+QTEST_GUILESS_MAIN(TestVeskBase)
+#include "TestVeskBase.moc"
