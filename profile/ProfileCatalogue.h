@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
 
 #include <map>
 #include <string>
@@ -13,7 +12,7 @@ class Console;
 
 /// An entry of the profile selector: a profile file and the variant that it is loaded with.
 struct ProfileEntry {
-    QString text;        ///< what the selector shows and the setting "Profile" holds; never twice in one catalogue
+    QString text;        ///< what the selector shows and the setting "Profile" holds
     QString path;        ///< of the profile file; empty only when there is no profile at all
     std::string variant; ///< empty for none
 };

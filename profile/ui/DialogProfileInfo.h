@@ -3,8 +3,8 @@
 #include "project/Session.h"
 
 #include <QDialog>
+#include <QMessageBox>
 
-class QMessageBox;
 class QTextEdit;
 
 namespace ZARN {
@@ -44,7 +44,7 @@ protected:
 private:
     void install(const QString& file);
     void adoptVariants(const QString& file);
-    void report(int icon, const QString& title, const QString& text);
+    void report(QMessageBox::Icon icon, const QString& title, const QString& text);
     [[nodiscard]] QString profileInfo() const;
 
     ZARN::Session mSession;
