@@ -131,7 +131,8 @@ void TestProfileCatalogue::findsByTextAndPath()
     QCOMPARE(found(varied), (QStringList{varied, varied, ""}));
     QCOMPARE(found(outside), (QStringList{outside, outside, ""}));
     putFile(folders.path("no.xml").toStdString(), "<CanAerospaceProfil/>");
-    for (const QString& nothing : {QString(), QString("B"), QString("Two"), folders.path("no.xml"), folders.path("missing"), folders.shipped()})
+    for (const QString& nothing :
+         {QString(), QString("B"), QString("Two"), folders.path("no.xml"), folders.path("missing"), folders.shipped()})
         QCOMPARE(found(nothing), (QStringList{"A", plain, ""}));
 }
 
@@ -154,13 +155,20 @@ void TestProfileCatalogue::installPath_data()
     QTest::addColumn<QString>("file");
     QTest::addColumn<bool>("withData");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("writable folder") << "Resources/profiles/A/Profile.xml" << "x.xml" << true << "Resources/profiles/A/Profile.xml";
-    QTest::newRow("other file name") << "Resources/profiles/A/mine.xml" << "x.xml" << true << "Resources/profiles/A/Profile.xml";
-    QTest::newRow("folder gone") << "gone/A/Profile.xml" << "x.xml" << true << "data/profiles/A/Profile.xml";
-    QTest::newRow("no user data") << "gone/A/Profile.xml" << "x.xml" << false << "gone/A/Profile.xml";
-    QTest::newRow("none loaded") << "" << "dir/new.one.xml" << true << "data/profiles/new.one/Profile.xml";
-    QTest::newRow("none loaded, usual name") << "" << "dir/Profile.xml" << true << "data/profiles/dir/Profile.xml";
-    QTest::newRow("nothing at all") << "" << "dir/new.xml" << false << "Resources/profiles/new/Profile.xml";
+    QTest::newRow("writable folder") << "Resources/profiles/A/Profile.xml"
+                                     << "x.xml" << true << "Resources/profiles/A/Profile.xml";
+    QTest::newRow("other file name") << "Resources/profiles/A/mine.xml"
+                                     << "x.xml" << true << "Resources/profiles/A/Profile.xml";
+    QTest::newRow("folder gone") << "gone/A/Profile.xml"
+                                 << "x.xml" << true << "data/profiles/A/Profile.xml";
+    QTest::newRow("no user data") << "gone/A/Profile.xml"
+                                  << "x.xml" << false << "gone/A/Profile.xml";
+    QTest::newRow("none loaded") << ""
+                                 << "dir/new.one.xml" << true << "data/profiles/new.one/Profile.xml";
+    QTest::newRow("none loaded, usual name") << ""
+                                             << "dir/Profile.xml" << true << "data/profiles/dir/Profile.xml";
+    QTest::newRow("nothing at all") << ""
+                                    << "dir/new.xml" << false << "Resources/profiles/new/Profile.xml";
 }
 
 void TestProfileCatalogue::installPath()

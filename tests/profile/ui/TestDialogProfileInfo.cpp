@@ -40,7 +40,8 @@ protected:
 };
 
 const std::string kOld = R"(<CanAerospaceProfile name="Old" version="1"><Variants><Variant name="A"/></Variants></CanAerospaceProfile>)";
-const std::string kNew = R"(<CanAerospaceProfile name="New" version="2"><Variants><Variant name="X"/><Variant name="Y"/></Variants></CanAerospaceProfile>)";
+const std::string kNew =
+    R"(<CanAerospaceProfile name="New" version="2"><Variants><Variant name="X"/><Variant name="Y"/></Variants></CanAerospaceProfile>)";
 
 /// An installation with the loaded profile "A" in a folder of its own.
 struct Installation : Test::TestCycle {
@@ -99,7 +100,7 @@ void TestDialogProfileInfo::textsAreLiteral()
     const Installation installation(R"(<CanAerospaceProfile name="&lt;b&gt;%1 &amp;amp; co" version="%2" profileId="&lt;/table&gt;"
         comment="&lt;img src='x'&gt;"><Variants><Variant name="&lt;i&gt;%1"/><Variant name="B"/></Variants></CanAerospaceProfile>)");
     const QString text = installation.shown();
-    for (const char* literal : {"<b>%1 &amp; co", "%2", "</table>", "<img src='x'>", "-  <i>%1", "-  B"})
+    for (const char* literal : {"<b>%1 &amp; co", "%2", "</table>", "<img src='x'>", "- <i>%1", "- B"})
         QVERIFY2(text.contains(literal), qPrintable(text));
     const QStringList labels{"Profile Name:", "Profile Version:", "Profile Id:", "Profile Comment:", "Variants: "};
     qsizetype last = -1;
@@ -113,7 +114,7 @@ void TestDialogProfileInfo::withoutVariants()
 {
     const Installation installation(R"(<CanAerospaceProfile name="Plain"/>)");
     QVERIFY(installation.shown().contains("Variants: "));
-    QVERIFY(!installation.shown().contains("-  "));
+    QVERIFY(!installation.shown().contains("- "));
 }
 
 void TestDialogProfileInfo::installsValid()
@@ -126,7 +127,7 @@ void TestDialogProfileInfo::installsValid()
     QCOMPARE(installation.profile.model().name, "New");
     QCOMPARE(installation.profile.currentVariant(), "X");
     QVERIFY(installation.shown().contains("New"));
-    QVERIFY(installation.shown().contains("-  Y"));
+    QVERIFY(installation.shown().contains("- Y"));
     QCOMPARE(installation.changed.count(), 1);
 
     installation.profile.setCurrentVariant("Y"); // declared by the next one too

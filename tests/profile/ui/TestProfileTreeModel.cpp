@@ -113,9 +113,8 @@ void TestProfileTreeModel::oneNameOneFlag()
     QCOMPARE(box(trees.at(2, 0)), Qt::Checked);
     QCOMPARE(box(trees.model.index(2, 0)), Qt::PartiallyChecked);
     QCOMPARE(trees.model.selectedCount(), 2);
-    const bool told = std::ranges::any_of(changes, [&trees](const QList<QVariant>& change) {
-        return change[0].toModelIndex().parent() == trees.model.index(2, 0);
-    });
+    const bool told = std::ranges::any_of(
+        changes, [&trees](const QList<QVariant>& change) { return change[0].toModelIndex().parent() == trees.model.index(2, 0); });
     QVERIFY(told);
 }
 
