@@ -47,6 +47,7 @@ DialogProfileInfo::DialogProfileInfo(const ZARN::Session& session, const ZARN::P
     setWindowTitle(tr("Profile Information"));
     mpText->setObjectName("profileInfo");
     mpText->setReadOnly(true);
+    mpText->setTabChangesFocus(true);
     mpText->setAccessibleName(tr("Profile Information"));
     auto* pLink = new QLabel(tr("<a href=\"Install\">Install New Profile</a>"));
     pLink->setObjectName("link");

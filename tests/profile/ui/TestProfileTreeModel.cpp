@@ -84,6 +84,7 @@ void TestProfileTreeModel::showsTheProfile()
     const Trees trees;
     QCOMPARE(rows(trees.model), (QStringList{"Lane", "-Speed300", "-Oil <b>%1 & co301", "Empty", "Airframe", "-Speed410", "-Altitude411"}));
     QCOMPARE(trees.at(0, 1, ProfileTreeModel::eUnit).data().toString(), "bar");
+    QCOMPARE(trees.at(0, 1).data(Qt::ToolTipRole).toString(), "<span>Oil &lt;b&gt;%1 &amp; co</span>");
     QVERIFY(!trees.model.index(1, 0).data(Qt::CheckStateRole).isValid());
     QVERIFY(!trees.at(0, 0, ProfileTreeModel::eUnit).data(Qt::CheckStateRole).isValid());
     QCOMPARE(trees.model.parameterCount(), 4);
