@@ -118,8 +118,8 @@ void DialogProfile::slotFilter(const QString& text)
     mpFilter->setFilterFixedString(text);
     restoreExpanded();
     // What the two do is said where it is chosen: with a search they leave alone what it hides.
-    mpSelectAll->setText(text.isEmpty() ? tr("Select All") : tr("Select Shown"));
-    mpSelectNone->setText(text.isEmpty() ? tr("Select None") : tr("Deselect Shown"));
+    mpSelectAll->setText(text.isEmpty() ? tr("Select All") : tr("Select All Shown"));
+    mpSelectNone->setText(text.isEmpty() ? tr("Select None") : tr("Select None Shown"));
 }
 
 void DialogProfile::slotSelectionChanged()

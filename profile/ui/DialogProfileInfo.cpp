@@ -63,6 +63,13 @@ DialogProfileInfo::DialogProfileInfo(const ZARN::Session& session, const ZARN::P
     fillProfileInfo();
 }
 
+void DialogProfileInfo::setProfileFile(const QString& path)
+{
+    mProfileFile = path;
+    if (!path.isEmpty())
+        mSession.profile.loadVariants(path);
+}
+
 QString DialogProfileInfo::profileInfo() const
 {
     const ZARN::ProfileModel& model = mSession.profile.model();

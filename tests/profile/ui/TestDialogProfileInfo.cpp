@@ -49,13 +49,12 @@ struct Installation : Test::TestCycle {
     {
         QDir().mkpath(root.filePath("profiles/A"));
         putFile(installed, content);
-        load();
         dialog.setProfileFile(root.filePath("profiles/A/Profile.xml"));
+        load();
         dialog.show();
     }
     void load()
     {
-        profile.loadVariants(root.filePath("profiles/A/Profile.xml"));
         if (!profile.variants().empty())
             profile.setCurrentVariant(profile.variants().front().name);
         profile.loadProfile(root.filePath("profiles/A/Profile.xml"));
