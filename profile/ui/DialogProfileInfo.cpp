@@ -36,7 +36,11 @@ bool copyProfile(const QString& file, const QString& target)
         return true; // it is in its place already, and removing the target would remove the only one
     QDir().mkpath(QFileInfo(target).absolutePath());
     QFile::remove(target);
-    return QFile::copy(file, target);
+    if (!QFile::copy(file, target))
+        return false;
+    // A copy from a read-only medium is read-only too, and in the way of the next installation.
+    QFile::setPermissions(target, QFile::permissions(target) | QFile::WriteOwner);
+    return true;
 }
 
 } // namespace

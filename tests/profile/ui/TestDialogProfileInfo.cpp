@@ -63,6 +63,7 @@ struct Installation : Test::TestCycle {
     {
         dialog.answer = root.filePath(name);
         putFile(dialog.answer.toStdString(), content);
+        QFile::setPermissions(dialog.answer, QFile::ReadOwner | QFile::ReadUser); // as on a card
         lines.clear();
         Q_EMIT dialog.findChild<QLabel*>("link")->linkActivated("Install");
     }
@@ -122,6 +123,7 @@ void TestDialogProfileInfo::installsValid()
     installation.install("mine.xml", kNew);
     QCOMPARE(installation.dialog.boxes, QStringList{"1|ZARN Info|New profile installed !|Ok"});
     QCOMPARE(fileContent(installation.installed), kNew);
+    QVERIFY(QFile::permissions(QString::fromStdString(installation.installed)) & QFile::WriteOwner);
     QVERIFY(installation.lines.find("Copy profile to <" + installation.installed + ">\n") != std::string::npos);
     QCOMPARE(installation.profile.model().name, "New");
     QCOMPARE(installation.profile.currentVariant(), "X");
