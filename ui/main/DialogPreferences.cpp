@@ -105,9 +105,9 @@ void DialogPreferences::fillDialog()
     mpFontSize->setValue(mSession.property.getInt("FontSize", kDefaultFont));
 }
 
-void DialogPreferences::slotLanguage(const QString& data)
+void DialogPreferences::slotLanguage(const QString& locale)
 {
-    mSession.property.setString("Locale", data.toStdString());
+    mSession.property.setString("Locale", locale.toStdString());
     mSession.property.writeXmlFile();
     Q_EMIT signalLanguageChanged();
     QMessageBox box(QMessageBox::Information, tr("ZARN Info"), tr("Please restart ZARN to load new language !"), QMessageBox::NoButton, this);

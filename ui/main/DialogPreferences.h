@@ -27,7 +27,7 @@ public:
 
 public Q_SLOTS:
     /// Keeps the language and asks whether to start again now, for a language is loaded at start alone.
-    void slotLanguage(const QString& data);
+    void slotLanguage(const QString& locale);
     /// Applies and keeps a font size in pixels.
     void slotFont(int size);
     void slotProfileSelect();
