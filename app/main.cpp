@@ -22,6 +22,7 @@
 #include <QTranslator>
 
 #include <csignal>
+#include <cstdio>
 
 namespace ZARN {
 
@@ -55,11 +56,11 @@ bool loadTranslation(QTranslator& translator, const QString& name)
            || translator.load(name, QString::fromStdString(DataHandler::instance().resourcePath()));
 }
 
-void installTranslation(QTranslator& translator, const QString& prefix, const char* format, const Console& console)
+void installTranslation(QTranslator& translator, const QString& prefix, const char* name, const Console& console)
 {
     const std::string locale = Property::instance().getString("Locale", "us");
     const bool loaded = loadTranslation(translator, prefix + QString::fromStdString(locale));
-    console.print(format, locale.c_str(), loaded ? 1 : 0);
+    console.print("Translation %s <%s> %d\n", name, locale.c_str(), loaded ? 1 : 0);
     if (loaded)
         QCoreApplication::installTranslator(&translator);
 }
@@ -137,8 +138,8 @@ int runProgram(int argc, char** argv)
     const bool defaults = readSettings(marker, splash);
     static QTranslator toolkitTexts;
     static QTranslator ownTexts;
-    installTranslation(toolkitTexts, "qt_", "Translation QT <%s> %d\n", console);
-    installTranslation(ownTexts, "zarn_", "Translation IOS <%s> %d\n", console);
+    installTranslation(toolkitTexts, "qt_", "QT", console);
+    installTranslation(ownTexts, "zarn_", "IOS", console);
     applyStyle(application);
     splash.addEntry("Creating Dialogs ...");
     const Session session{console, Property::instance(), Profile::instance(), CardContainer::instance(), Project::instance()};
@@ -165,5 +166,6 @@ int main(int argc, char** argv)
     std::signal(SIGXFSZ, SIG_IGN);
 #endif
     std::signal(SIGPIPE, SIG_IGN);
+    std::setvbuf(stdout, nullptr, _IOLBF, 0); // a log that is read while the program runs, or after it crashed, is whole
     return ZARN::runProgram(argc, argv);
 }

@@ -50,6 +50,7 @@ constexpr int kStylePeriod = 500;     // from look to look at the style file
 constexpr int kMessageDuration = 8000;
 constexpr int kSelectorWidth = 200;
 constexpr int kProgressWidth = 220;
+constexpr int kMargin = 8;
 
 } // namespace
 
@@ -104,6 +105,7 @@ void DialogMain::createPanels()
     mpCentre->addWidget(mpSummary);
     mpSplitter = new QSplitter(Qt::Horizontal);
     mpSplitter->setChildrenCollapsible(false);
+    mpSplitter->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     mpSplitter->addWidget(mpSide);
     mpSplitter->addWidget(mpCentre);
     mpSplitter->setStretchFactor(0, 1);
@@ -148,11 +150,11 @@ void DialogMain::createToolBar()
 {
     mpToolBar = addToolBar(tr("Main Toolbar"));
     mpToolBar->setObjectName("MainToolBar");
-    mpToolBar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     mpToolBar->setMovable(false);
     mpToolBar->addAction(action(eActionOpenFolder));
     mpFolderMenu = new QMenu(this);
     auto* pFolderButton = qobject_cast<QToolButton*>(mpToolBar->widgetForAction(action(eActionOpenFolder)));
+    pFolderButton->setToolButtonStyle(Qt::ToolButtonTextBesideIcon); // the one to begin with; all others are told by their tool tips
     pFolderButton->setMenu(mpFolderMenu);
     pFolderButton->setPopupMode(QToolButton::MenuButtonPopup);
     mpToolBar->addSeparator();

@@ -200,7 +200,9 @@ void DialogMain::slotLoadCycle(unsigned int cycle, int flight)
 void DialogMain::slotFolderChanged()
 {
     updateTitle();
-    mpWelcome->setProblem(mpCardController->problem());
+    // Before the first folder was opened there is nothing that could be missing.
+    const bool everOpened = !mSession.property.getString("LastPath", "").empty();
+    mpWelcome->setProblem(everOpened ? mpCardController->problem() : QString());
     mpWelcome->setWithCard(!mSession.container.recordFiles().empty());
     mpCentre->setCurrentWidget(mpWelcome);
 }

@@ -4,6 +4,7 @@
 #include "card/CardContainer.h"
 #include "profile/Profile.h"
 
+#include <QCoreApplication>
 #include <QHeaderView>
 #include <QLabel>
 #include <QTableWidget>
@@ -68,7 +69,7 @@ WidgetCycleSummary::WidgetCycleSummary(const CardContainer& container, const Pro
     mpFlights->setShowGrid(false);
     mpFlights->horizontalHeader()->setDefaultSectionSize(130);
     auto* pLayout = new QVBoxLayout(this);
-    pLayout->setContentsMargins(16, 14, 12, 12);
+    pLayout->setContentsMargins(8, 4, 0, 0);
     pLayout->setSpacing(10);
     pLayout->addWidget(mpHeading);
     pLayout->addWidget(mpText);

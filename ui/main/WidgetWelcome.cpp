@@ -56,7 +56,7 @@ WidgetWelcome::WidgetWelcome(QWidget* pParent)
         pLayout->addWidget(pWidget, 0, Qt::AlignHCenter);
     pLayout->addStretch();
     auto* pFrame = new QVBoxLayout(this);
-    pFrame->setContentsMargins(12, 12, 12, 12);
+    pFrame->setContentsMargins(0, 0, 0, 0);
     pFrame->addWidget(mpArea);
     setProblem({});
     setWithCard(false);
