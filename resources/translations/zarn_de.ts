@@ -627,24 +627,6 @@ Jetzt speichern ?</translation>
         <source>Duration %1</source>
         <translation>Dauer %1</translation>
     </message>
-    <message numerus="yes">
-        <source>%n record(s)</source>
-        <translation>
-            <numerusform>%n Datensatz</numerusform>
-            <numerusform>%n Datensätze</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>no flight</source>
-        <translation>kein Flug</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n flight(s)</source>
-        <translation>
-            <numerusform>%n Flug</numerusform>
-            <numerusform>%n Flüge</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Take-off</source>
         <translation>Start</translation>
@@ -656,6 +638,14 @@ Jetzt speichern ?</translation>
     <message>
         <source>Flight %1</source>
         <translation>Flug %1</translation>
+    </message>
+    <message>
+        <source>Records: %1</source>
+        <translation>Datensätze: %1</translation>
+    </message>
+    <message>
+        <source>Flights: %1</source>
+        <translation>Flüge: %1</translation>
     </message>
 </context>
 <context>

@@ -74,6 +74,7 @@ WidgetCycleSummary::WidgetCycleSummary(const CardContainer& container, const Pro
     pLayout->addWidget(mpHeading);
     pLayout->addWidget(mpText);
     pLayout->addWidget(mpFlights, 1);
+    pLayout->addStretch(); // keeps the lines at the top while no table stands below them
 }
 
 void WidgetCycleSummary::showData()
@@ -93,9 +94,9 @@ QString WidgetCycleSummary::describe(const RecordCycle* pCycle) const
     QStringList parts;
     parts.append(start.isValid() ? start.toString("d.M.yyyy HH:mm:ss") : tr("Unknown Date"));
     parts.append(tr("Duration %1").arg(durationText(pCycle ? pCycle->endTime : mContainer.endTime())));
-    parts.append(tr("%n record(s)", nullptr, saturatingCast<int>(mContainer.recordData().count())));
+    parts.append(tr("Records: %1").arg(mContainer.recordData().count()));
     if (pCycle)
-        parts.append(pCycle->flights.empty() ? tr("no flight") : tr("%n flight(s)", nullptr, static_cast<int>(pCycle->flights.size())));
+        parts.append(tr("Flights: %1").arg(pCycle->flights.size()));
     return parts.join(QString("  ·  "));
 }
 
