@@ -15,7 +15,7 @@ Console::Sink streamSink(FILE* stream)
 
 } // namespace
 
-Console::Console(Sink sink, Sink errorSink) : mSink(std::move(sink)), mErrorSink(std::move(errorSink)) {}
+Console::Console(Sink sink, Sink errorSink, bool verbose) : mSink(std::move(sink)), mErrorSink(std::move(errorSink)), mVerbose(verbose) {}
 
 void Console::print(const char* format, ...) const
 {
@@ -47,7 +47,7 @@ Console& Console::standardOutput()
 
 Console& Console::standardError()
 {
-    static Console console(streamSink(stderr), streamSink(stderr));
+    static Console console(streamSink(stderr), streamSink(stderr), false);
     return console;
 }
 

@@ -14,18 +14,23 @@ public:
     using Sink = std::function<void(std::string_view)>;
 
     /// @param sink receives every diagnostic line; @param errorSink what the standard error printer would write.
-    explicit Console(Sink sink, Sink errorSink);
+    /// @param verbose whether lines about single samples are wanted, of which a recording makes millions.
+    explicit Console(Sink sink, Sink errorSink, bool verbose = true);
 
     void print(const char* format, ...) const __attribute__((format(printf, 2, 3)));
+    /// Text as it is: many lines gathered into one piece.
+    void write(std::string_view text) const { mSink(text); }
+    [[nodiscard]] bool isVerbose() const { return mVerbose; }
     /// The standard error printer's line for a failed system call: prefix, ": ", the system's text for `error`.
     void systemError(const char* prefix, int error) const;
 
     static Console& standardOutput(); ///< diagnostics to standard output, system errors to standard error
-    static Console& standardError();  ///< both to standard error
+    static Console& standardError();  ///< both to standard error; not verbose
 
 private:
     Sink mSink;
     Sink mErrorSink;
+    bool mVerbose;
 };
 
 } // namespace ZARN

@@ -125,11 +125,9 @@ std::optional<QString> XmlGuard::pass(std::string_view fileBytes)
         return std::nullopt;
     // Stateless, so that a character cut off by the end of the file is an error too.
     QStringDecoder decoder(*encoding, QStringConverter::Flag::Stateless);
-    QString text = decoder(QByteArrayView(fileBytes.data(), static_cast<qsizetype>(fileBytes.size())));
+    const QString text = decoder(QByteArrayView(fileBytes.data(), static_cast<qsizetype>(fileBytes.size())));
     if (decoder.hasError())
         return std::nullopt;
-    if (text.startsWith(QChar::ByteOrderMark))
-        text.remove(0, 1);
     const QByteArray utf8 = text.toUtf8();
     if (!accepts(std::string_view(utf8.data(), static_cast<std::size_t>(utf8.size()))))
         return std::nullopt;

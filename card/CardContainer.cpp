@@ -164,8 +164,8 @@ void CardContainer::selectFlight(const RecordFlight& flight)
     mDateTime = flight.dateTime;
     mStartTime = flight.startTime;
     mEndTime = flight.endTime;
+    mFlightIsSelected = true;
     calcFlightPath();
-    mFlightPath.crop(mStartTime, mEndTime);
 }
 
 void CardContainer::loadFiles(const std::list<QString>& files)
@@ -174,6 +174,7 @@ void CardContainer::loadFiles(const std::list<QString>& files)
     mValues.clear();
     mLoadedCycle.reset();
     mLoadError.clear();
+    mFlightIsSelected = false;
     mDateTime = {};
     mStartTime = mEndTime = 0.0;
     bool first = true;
@@ -234,6 +235,8 @@ void CardContainer::calcFlightStatistic(RecordFlight& flight)
 void CardContainer::calcFlightPath()
 {
     mFlightPath.build(mValues);
+    if (mFlightIsSelected)
+        mFlightPath.crop(mStartTime, mEndTime);
 }
 
 const RecordCycle* CardContainer::loadedCycle() const

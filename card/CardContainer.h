@@ -41,11 +41,12 @@ public:
     bool loadCycle(unsigned int cycle, int flight);
     /// Loads the records of files of this card, given by name or path, replacing what was loaded.
     void loadFiles(const std::list<QString>& files);
-    /// Empty when the last load read everything; else which file could not be loaded whole, and why.
+    /// Which file the memory did not suffice for in the last load; else empty. Files that cannot be read are said on the console.
     [[nodiscard]] const std::string& loadError() const { return mLoadError; }
     void calcIndex();
     void calcFlights(RecordCycle& cycle);
     void calcFlightStatistic(RecordFlight& flight);
+    /// Rebuilds the flight path: of the selected flight, or of the whole cycle.
     void calcFlightPath();
 
     [[nodiscard]] const RecordData& recordData() const { return mData; }
@@ -95,6 +96,7 @@ private:
     CycleValues mValues;
     FlightPath mFlightPath;
     RecordFlight mSelectedFlight;
+    bool mFlightIsSelected = false;
     std::optional<unsigned int> mLoadedCycle;
     QDateTime mDateTime;
     double mStartTime = 0.0;

@@ -83,6 +83,7 @@ private:
     void scanGroundSpeed()
     {
         bool found = false;
+        mFlight.maxGroundSpeed = 0.0;
         forEachSample("GroundSpeed", [&](double time, double speed) {
             mFlight.maxGroundSpeed = std::max(mFlight.maxGroundSpeed, speed);
             if (!found && speed > kReferenceSpeed) {
@@ -98,6 +99,7 @@ private:
         bool first = true;
         bool liftedOff = false;
         bool clearOfObstacle = false;
+        mFlight.minAltitude = mFlight.maxAltitude = 0.0;
         forEachSample("Altitude", [&](double time, double altitude) {
             if (altitude < kSmallestAltitude)
                 return;

@@ -1,6 +1,7 @@
 #include "cli/Command.h"
 
 #include "app/NumberText.h"
+#include "app/Revision.h"
 
 #include <cerrno>
 #include <cstdio>
@@ -8,7 +9,10 @@
 
 namespace ZARN {
 
-Command::Command(CLI::App& program, const char* name, const char* description) : mpOptions(program.add_subcommand(name, description)) {}
+Command::Command(CLI::App& program, const char* name, const char* description) : mpOptions(program.add_subcommand(name, description))
+{
+    mpOptions->set_version_flag("--version", Revision::getRevisionString());
+}
 
 int Command::print(const std::string& text)
 {

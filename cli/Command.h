@@ -18,6 +18,7 @@ public:
     Command(const Command&) = delete;
     Command& operator=(const Command&) = delete;
 
+    [[nodiscard]] std::string name() const { return mpOptions->get_name(); }
     [[nodiscard]] bool isChosen() const { return mpOptions->parsed(); }
     /// @return the process's exit status; a failure has been said on standard error.
     virtual int run() = 0;

@@ -17,8 +17,8 @@ int CommandEvents::runOnData()
     const EventList limits = limitEvents(mContainer.recordData(), mProfile);
     const EventList warnings = warningEvents(mContainer.recordData(), mProfile);
     if (!mJson) {
-        return print(table("Limit exceedances", "No limit was exceeded", limits) + "\n" +
-                     table("Warning lamps", "No warning lamp was lit", warnings));
+        return print(table("Limit exceedances", "No limit was exceeded", limits, {"ok", "warning", "limit"}) + "\n" +
+                     table("Warning lamps", "No warning lamp was lit", warnings, {"dark", "yellow", "red"}));
     }
     JsonWriter writer;
     writer.beginObject().key("limits");
@@ -41,14 +41,16 @@ void CommandEvents::write(JsonWriter& writer, const EventList& list)
     writer.endArray();
 }
 
-std::string CommandEvents::table(const char* title, const char* nothing, const EventList& list)
+std::string CommandEvents::table(const char* title, const char* nothing, const EventList& list, const std::vector<std::string>& states)
 {
     if (list.events().empty())
         return std::string(nothing) + "\n";
     TextTable table({"Time", "Group", "Parameter", "Value", "Unit", "State"});
     for (const Event& event : list.events()) {
         const EventSource& source = list.source(event);
-        table.addRow({tableTime(event.time), source.group, source.parameter, event.value, source.unit, std::to_string(event.state)});
+        const auto state = static_cast<std::size_t>(event.state);
+        table.addRow({tableTime(event.time), source.group, source.parameter, event.value, source.unit,
+                      state < states.size() ? states[state] : std::to_string(event.state)});
     }
     return std::string(title) + "\n\n" + table.text();
 }

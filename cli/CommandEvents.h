@@ -15,7 +15,8 @@ public:
 private:
     int runOnData() override;
     static void write(JsonWriter& writer, const EventList& list);
-    static std::string table(const char* title, const char* nothing, const EventList& list);
+    /// @param states the names of the states from 0 on; others show their number.
+    static std::string table(const char* title, const char* nothing, const EventList& list, const std::vector<std::string>& states);
 };
 
 } // namespace ZARN

@@ -8,11 +8,13 @@
 #include "cli/CommandPath.h"
 #include "cli/CommandProfile.h"
 #include "cli/CommandSimulate.h"
+#include "cli/CommandSummary.h"
 #include "cli/CommandValue.h"
 
 #include <CLI/Config.hpp>
 #include <CLI/Formatter.hpp>
 
+#include <algorithm>
 #include <csignal>
 
 namespace ZARN {
@@ -32,16 +34,25 @@ int runProgram(int argc, char** argv)
     program.set_version_flag("--version", Revision::getRevisionString());
     program.footer("Example: zarn-cli csv /media/card -o flight.csv");
     const auto commands = makeCommands<CommandInfo, CommandFlights, CommandEvents, CommandFaults, CommandPath, CommandValue, CommandCsv,
-                                       CommandKml, CommandProfile, CommandSimulate>(program);
+                                       CommandKml, CommandSummary, CommandProfile, CommandSimulate>(program);
     if (argc < 2) {
         std::fputs(program.help().c_str(), stderr);
+        return eWrongCall;
+    }
+    if (argv[1][0] != '-' && std::ranges::none_of(commands, [&](const auto& command) { return command->name() == argv[1]; })) {
+        std::fprintf(stderr, "zarn-cli: %s: no such subcommand (see zarn-cli --help)\n", argv[1]);
         return eWrongCall;
     }
     program.require_subcommand(1);
     try {
         program.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-        return program.exit(error) == 0 ? eDone : eWrongCall;
+        if (error.get_exit_code() == 0) { // --help and --version arrive here too
+            program.exit(error);
+            return eDone;
+        }
+        std::fprintf(stderr, "zarn-cli: %s (see zarn-cli --help)\n", error.what());
+        return eWrongCall;
     }
     for (const auto& command : commands) {
         if (command->isChosen())

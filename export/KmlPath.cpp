@@ -15,7 +15,7 @@ constexpr double kMissingBelow = -999.0;    // a coordinate below it counts as m
 constexpr int kDebugDecimals = 6;
 constexpr double KmlPoint::*kCoordinates[] = {&KmlPoint::latitude, &KmlPoint::longitude, &KmlPoint::altitude};
 
-/// Lines for the console, of which there may be one a sample: gathered, since each piece that the console gets may be a system call.
+/// Lines for a verbose console, one a sample: gathered, since each piece that the console gets may be a system call.
 class DebugLines {
 public:
     explicit DebugLines(const Console& console) : mConsole(console) {}
@@ -42,7 +42,7 @@ private:
     void flush()
     {
         if (!mText.empty())
-            mConsole.print("%s", mText.c_str());
+            mConsole.write(mText);
         mText.clear();
     }
 
@@ -88,7 +88,7 @@ void KmlPath::build(const RecordData& data, Profile& profile, const KmlGrid& gri
     constexpr const char* labels[] = {" lat ", " long ", nullptr};
     DebugLines lines(console);
     for (std::size_t i = 0; i < std::size(identifiers); ++i)
-        merge(collect(data, identifiers[i], profile, grid, labels[i], lines), kCoordinates[i]);
+        merge(collect(data, identifiers[i], profile, grid, console.isVerbose() ? labels[i] : nullptr, lines), kCoordinates[i]);
     fillForward();
     fillBackward(console);
 }
@@ -127,7 +127,7 @@ void KmlPath::fillBackward(const Console& console)
             if (!(mPoints[i - 1].*coordinate < kMissingBelow) || known < kMissingBelow)
                 continue;
             mPoints[i - 1].*coordinate = known;
-            if (coordinate == &KmlPoint::longitude)
+            if (coordinate == &KmlPoint::longitude && console.isVerbose())
                 lines.add("new lons ", known).endLine();
         }
     }

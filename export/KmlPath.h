@@ -24,7 +24,8 @@ public:
     static constexpr uint32_t kAltitudeIdentifier = 1038;
 
     /// Builds the points: in each slot the last sample, missing coordinates filled from the point before, at the start from the
-    /// first that is known. The shared position filter is reset first. Each position goes to the console.
+    /// first that is known. The shared position filter is reset first. Each position is told to a verbose
+    /// console.
     void build(const RecordData& data, Profile& profile, const KmlGrid& grid, const Console& console);
 
     /// In ascending order of slots.

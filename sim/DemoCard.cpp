@@ -47,7 +47,7 @@ bool DemoCard::prepare(const DemoCardOptions& options, std::string& error) const
     std::error_code reason;
     std::filesystem::create_directories(std::filesystem::path(mDirectory), reason);
     if (reason || !QDir(path).exists()) {
-        error = mDirectory + ": " + (reason ? reason.message() : "no folder");
+        error = mDirectory + ": " + (reason ? reason.message() : "Not a directory");
         return false;
     }
     for (const QString& name : QDir(path).entryList({"*.CAN", "*.can", "*.xcb"}, QDir::Files | QDir::CaseSensitive)) {

@@ -9,6 +9,7 @@
 
 namespace ZARN {
 
+/// What a card is to hold; the defaults are those of the demo card that everybody gets.
 struct DemoCardOptions {
     /// Least recorded time of the card. Its story of three power cycles is always told whole, which takes a little more than
     /// an hour; whole flight cycles follow until the hours are reached. 0 to 10,000.

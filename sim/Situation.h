@@ -28,6 +28,7 @@ struct Incidents {
     bool generator = false;
 };
 
+/// The battery and what feeds it: volts, and amperes that are positive when they charge.
 struct ElectricalState {
     double voltage = 12.7;
     double batteryCurrent = 0;

@@ -55,8 +55,14 @@ std::size_t RecordChannel::firstAtOrAfter(double time) const
 {
     if (std::isnan(time))
         return entries.size();
-    if (mRunningMaximum.empty())
+    if (entries.ascending())
         return lowerBound(entries.size(), time, [this](std::size_t i) { return entries.time(i); });
+    if (!isIndexed()) {
+        std::size_t position = 0;
+        while (position < entries.size() && entries.time(position) < time)
+            ++position;
+        return position;
+    }
     return lowerBound(mRunningMaximum.size(), time, [this](std::size_t i) {
         return recordTime(static_cast<uint32_t>(mRunningMaximum[i] >> 32), static_cast<uint32_t>(mRunningMaximum[i]));
     });

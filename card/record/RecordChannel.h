@@ -17,10 +17,11 @@ public:
     /// A copy of the most recent entry; a default entry when there is none.
     [[nodiscard]] RecordEntry last() const;
 
-    /// Prepares firstAtOrAfter() once all records are there. Only channels whose times go backwards need anything stored.
+    /// Makes the look-ups fast once all records are there. Only channels whose times go backwards need anything stored.
     void buildTimeIndex();
     /// The position of the first entry, in stored order, whose time is at or after `time`; size() when there is none or
-    /// `time` is not a number. Logarithmic, and exactly what a scan from the first entry finds.
+    /// `time` is not a number. Logarithmic, and exactly what a scan from the first entry finds; records that came after the
+    /// index was built make it that scan.
     [[nodiscard]] std::size_t firstAtOrAfter(double time) const;
     /// Calls `visit` with every entry, in stored order, whose time lies in [from, to].
     template <typename Visitor> void forEachIn(double from, double to, Visitor visit) const;
@@ -30,6 +31,8 @@ private:
         double earliest;
         double latest;
     };
+    [[nodiscard]] bool isIndexed() const { return mRunningMaximum.size() == entries.size(); }
+
     // The running maximum of the times never falls, and its first value at or after a time stands where the first such time does.
     std::vector<uint64_t> mRunningMaximum; // in ticks; empty when the times ascend
     std::vector<Bounds> mChunkBounds;      // of each chunk; empty when the times ascend
@@ -44,7 +47,7 @@ template <typename Visitor> void RecordChannel::forEachIn(double from, double to
         return;
     }
     for (std::size_t c = 0, first = 0; c < entries.chunkCount(); first += entries.chunk(c++).size()) {
-        if (mChunkBounds[c].latest < from || mChunkBounds[c].earliest > to)
+        if (isIndexed() && (mChunkBounds[c].latest < from || mChunkBounds[c].earliest > to))
             continue;
         for (std::size_t i = first; i < first + entries.chunk(c).size(); ++i) {
             const double time = entries.time(i);

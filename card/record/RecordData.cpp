@@ -9,6 +9,8 @@ namespace ZARN {
 namespace {
 
 constexpr unsigned kFirstBits = 8; // slots of the first table
+// About what a channel takes beside its records: in a damaged file every record may name another one.
+constexpr std::size_t kChannelBytes = sizeof(RecordChannel) + 128;
 
 struct Cursor {
     const RecordChannel* pChannel;
@@ -42,9 +44,7 @@ bool RecordData::appendLive(const RecordEntry& entry)
 {
     if (!append(entry.id, entry.stored()))
         return false;
-    channelFor(entry.id).setFresh(true);
-    mPseudoChannels.clear();
-    mPseudoPool.clear();
+    channelFor(entry.id)->setFresh(true);
     return true;
 }
 
@@ -67,14 +67,25 @@ void RecordData::buildTimeIndex()
         channel.buildTimeIndex();
 }
 
-RecordChannel& RecordData::addChannel(uint32_t identifier)
+RecordChannel* RecordData::addChannel(uint32_t identifier)
 {
+    if (!mPool.charge(kChannelBytes))
+        return nullptr;
     const auto [place, added] = mChannels.try_emplace(identifier, identifier);
     if (mChannels.size() * 2 > mSlots.size())
         rebuildSlots(std::max(kFirstBits, 33 - mHashShift));
     else
         enter(identifier, &place->second);
-    return place->second;
+    return &place->second;
+}
+
+void RecordData::removeIfEmpty(uint32_t identifier)
+{
+    const auto found = mChannels.find(identifier);
+    if (!found->second.entries.empty())
+        return;
+    mChannels.erase(found);
+    rebuildSlots(32 - mHashShift);
 }
 
 void RecordData::enter(uint32_t identifier, RecordChannel* pChannel)
@@ -126,6 +137,11 @@ template <typename Visitor> void RecordData::visitInOrder(Visitor visit) const
 
 RecordChannel* RecordData::pseudoChannel(uint32_t identifier) const
 {
+    if (mPseudoCount != mCount) { // made before the newest records came
+        mPseudoChannels.clear();
+        mPseudoPool.clear();
+        mPseudoCount = mCount;
+    }
     const auto found = mPseudoChannels.find(identifier);
     RecordChannel* pChannel = nullptr;
     if (found != mPseudoChannels.end()) {

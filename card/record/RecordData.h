@@ -22,11 +22,15 @@ public:
     /// Appends one record. @return false when there is no memory left for it; it is then not there.
     bool append(uint32_t identifier, const StoredRecord& record)
     {
-        RecordChannel& channel = channelFor(identifier);
+        RecordChannel* pChannel = channelFor(identifier);
+        if (!pChannel) [[unlikely]]
+            return false;
         if (record.ticks <= mLastTicks && mCount != 0 && !mLateOrder.started)
             startLateOrder();
-        if (!channel.entries.append(record, mPool)) [[unlikely]]
+        if (!pChannel->entries.append(record, mPool)) [[unlikely]] {
+            removeIfEmpty(identifier);
             return false;
+        }
         mLastTicks = record.ticks;
         if (mLateOrder.started) [[unlikely]]
             mLateOrder.identifiers.push_back(identifier);
@@ -59,17 +63,19 @@ private:
         std::vector<uint32_t> identifiers;
     };
 
-    RecordChannel& channelFor(uint32_t identifier)
+    /// Null when there is no memory left for a new channel.
+    RecordChannel* channelFor(uint32_t identifier)
     {
         for (std::size_t i = hash(identifier);; i = (i + 1) & (mSlots.size() - 1)) {
             if (!mSlots[i].pChannel)
                 return addChannel(identifier);
             if (mSlots[i].identifier == identifier)
-                return *mSlots[i].pChannel;
+                return mSlots[i].pChannel;
         }
     }
     [[nodiscard]] std::size_t hash(uint32_t identifier) const { return (identifier * 2654435761u) >> mHashShift; }
-    RecordChannel& addChannel(uint32_t identifier);
+    RecordChannel* addChannel(uint32_t identifier);
+    void removeIfEmpty(uint32_t identifier);
     void enter(uint32_t identifier, RecordChannel* pChannel);
     void rebuildSlots(unsigned bits);
     void startLateOrder();
@@ -84,7 +90,8 @@ private:
     uint32_t mCount = 0;
     LateOrder mLateOrder;
     mutable RecordPool mPseudoPool;
-    mutable std::map<uint32_t, RecordChannel> mPseudoChannels; // made on first use
+    mutable std::map<uint32_t, RecordChannel> mPseudoChannels; // made on first use, again when records were appended since
+    mutable uint32_t mPseudoCount = 0;                         // how many records there were then
 };
 
 } // namespace ZARN

@@ -40,6 +40,14 @@ StoredRecord* RecordPool::allocate(std::size_t count)
     return pRecords;
 }
 
+bool RecordPool::charge(std::size_t bytes)
+{
+    if (bytes > mLimit || mBytes > mLimit - bytes)
+        return false;
+    mBytes += bytes;
+    return true;
+}
+
 bool RecordPool::addSlab(std::size_t bytes)
 {
     // Small recordings stay small: the first slabs are one huge page each, later ones grow with what is held already.

@@ -18,8 +18,10 @@ public:
 
     /// Room for `count` records, uninitialised; null when the limit is reached or the system has no memory.
     [[nodiscard]] StoredRecord* allocate(std::size_t count);
+    /// Counts memory that is taken elsewhere on behalf of the records. @return false when it would pass the limit.
+    [[nodiscard]] bool charge(std::size_t bytes);
     void clear();
-    [[nodiscard]] std::size_t bytes() const { return mBytes; } ///< what the slabs take, used or not
+    [[nodiscard]] std::size_t bytes() const { return mBytes; } ///< what the slabs take, used or not, and what was charged
 
 private:
     struct Free {

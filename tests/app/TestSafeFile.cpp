@@ -73,7 +73,7 @@ std::string someText(std::size_t size)
 {
     std::string text;
     for (int i = 0; text.size() < size; ++i)
-        text += std::to_string(i * 0.1) + ";" + std::to_string(i * i) + "\n";
+        text += std::to_string(i * 0.1) + ";" + std::to_string(i % 997) + "\n";
     text.resize(size);
     return text;
 }

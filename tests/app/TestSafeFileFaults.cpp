@@ -23,6 +23,8 @@ struct Faults {
     int calls = 0;             ///< so far
     bool stutter = false;      ///< every second write is interrupted, the others take 7 bytes
     bool loseBytes = false;    ///< writes are acknowledged but not done
+    bool onDisk = false;       ///< nothing was written since the last flush to disk
+    bool renamedEarly = false; ///< a file took its place before it was on disk
 };
 Faults faults;
 
@@ -60,6 +62,7 @@ int openat(int directory, const char* path, int flags, ...)
 
 ssize_t write(int descriptor, const void* data, size_t size)
 {
+    faults.onDisk = false;
     if (fails())
         return -1;
     if (faults.active && faults.loseBytes)
@@ -76,7 +79,8 @@ ssize_t write(int descriptor, const void* data, size_t size)
 
 int fsync(int descriptor)
 {
-    return fails() ? -1 : kernel(SYS_fsync, descriptor);
+    faults.onDisk = !fails() && kernel(SYS_fsync, descriptor) == 0;
+    return faults.onDisk ? 0 : -1;
 }
 
 int fchmod(int descriptor, mode_t mode) noexcept
@@ -91,6 +95,7 @@ int linkat(int oldDirectory, const char* oldPath, int newDirectory, const char* 
 
 int renameat(int oldDirectory, const char* oldPath, int newDirectory, const char* newPath) noexcept
 {
+    faults.renamedEarly = faults.renamedEarly || !faults.onDisk;
     return fails() ? -1 : kernel(SYS_renameat2, oldDirectory, oldPath, newDirectory, newPath, 0U);
 }
 }
@@ -153,6 +158,7 @@ void TestSafeFileFaults::everyCallFailsOnce()
         const std::string error = writeOver(path, plan, text);
         QCOMPARE(entryCount(folder.path().toStdString()), 1L);
         QVERIFY(fileContent(path) == (error.empty() ? text : "old"));
+        QVERIFY(!faults.renamedEarly);
         if (!error.empty())
             QCOMPARE(error, path + ": Input/output error");
         failures += error.empty() ? 0 : 1;

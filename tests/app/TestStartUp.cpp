@@ -8,6 +8,8 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <cerrno>
+
 using namespace ZARN;
 
 /// What the program does before it has a window: command line, folders, banner.
@@ -26,6 +28,7 @@ private Q_SLOTS:
     void resourcePath();
     void banner();
     void stopwatch();
+    void console();
 };
 
 namespace {
@@ -209,6 +212,18 @@ void TestStartUp::stopwatch()
         now = 1001.2345;
     }
     QCOMPARE(console.text, std::string("calc%s : 1234.5 ms\n"));
+}
+
+void TestStartUp::console()
+{
+    ConsoleText console;
+    const std::string longest(100'000, 'x');
+    console.console.print("%s%d\n", longest.c_str(), 7);
+    QCOMPARE(console.take(), longest + "7\n");
+    console.console.print("%s", "");
+    console.console.systemError("open %s", ENOENT);
+    QCOMPARE(console.take(), std::string());
+    QCOMPARE(console.errors, std::string("open %s: No such file or directory\n"));
 }
 
 QTEST_GUILESS_MAIN(TestStartUp)

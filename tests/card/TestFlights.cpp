@@ -1,0 +1,360 @@
+#include "card/FlightDetector.h"
+#include "support/CardBuilder.h"
+#include "support/ProfileBuilder.h"
+#include "support/TestCycle.h"
+
+#include <QTest>
+
+#include <limits>
+#include <random>
+
+using namespace ZARN;
+using namespace ZARN::Test;
+
+namespace {
+
+const QDateTime kNoon(QDate(2024, 5, 1), QTime(12, 0), Qt::UTC);
+constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
+enum EIdentifier : uint32_t { eGroundSpeed = 1, eThrottle, eFuelA, eFuelB, eAltitude, eLatitude, eLongitude, eTrack };
+
+/// Speeds from "60x12 nan 40x3": each a sample, a number behind the x repeats it.
+std::vector<double> speedsOf(const QString& text)
+{
+    std::vector<double> speeds;
+    for (const QString& run : text.split(' ', Qt::SkipEmptyParts))
+        speeds.insert(speeds.end(), run.contains('x') ? run.section('x', 1).toUInt() : 1U, run.section('x', 0, 0).toDouble());
+    return speeds;
+}
+
+/// One card with one cycle, whose file is filled by the test and then loaded.
+struct Recording {
+    Recording()
+    {
+        ProfileBuilder builder;
+        builder.device("D");
+        for (const char* key : {"GroundSpeed", "ThrottleA", "FuelA", "FuelB", "Altitude"})
+            builder.parameter(key, ++lastIdentifier, "FLOAT", {{"zarnDataType", key}});
+        builder.position("Latitude", eLatitude).position("Longitude", eLongitude);
+        builder.parameter("Course", eTrack, "FLOAT", {{"zarnDataType", "Track"}});
+        if (!builder.load(cycle.profile))
+            qFatal("the profile does not load");
+    }
+    RecordFileBuilder& file() { return mpFile ? *mpFile : *(mpFile = &card.file("A.CAN").dateTime(kNoon)); }
+    CardContainer& load(int flight = -1)
+    {
+        if (cycle.container.recordCycles().empty())
+            cycle.container.readContainer(card.write());
+        if (!cycle.container.loadCycle(0, flight))
+            qFatal("the flight is not there");
+        return cycle.container;
+    }
+    [[nodiscard]] const std::vector<RecordFlight>& flights() const { return cycle.container.loadedCycle()->flights; }
+    /// Ground speed from 50 to 80, then 100 until landing is confirmed: take-off at `start` + 11, landing 36 s after that.
+    void fly(double start)
+    {
+        for (const double speed : speedsOf("60x11 100x25 20x12"))
+            file().addFloat(eGroundSpeed, start++, static_cast<float>(speed));
+    }
+
+    int lastIdentifier = 0;
+    CardBuilder card;
+    TestCycle cycle;
+
+private:
+    RecordFileBuilder* mpFile = nullptr;
+};
+
+/// A statistic over samples that the test adds: the span is 100..200, take-off at 130, landing at 170.
+struct Statistic : Recording {
+    RecordFlight compute()
+    {
+        flight.startTime = 100;
+        flight.endTime = 200;
+        flight.takeOffTime = 130;
+        flight.landingTime = 170;
+        file().addWord(99, 500, 0); // the index reaches further than the span
+        load().calcFlightStatistic(flight);
+        return flight;
+    }
+    Statistic& add(uint32_t identifier, const std::vector<std::pair<double, double>>& samples)
+    {
+        for (const auto& [time, value] : samples)
+            file().addFloat(identifier, time, static_cast<float>(value));
+        return *this;
+    }
+    RecordFlight flight;
+};
+
+} // namespace
+
+class TestFlights : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void detection_data();
+    void detection();
+    void marginsAndDates();
+    void selectedFlight();
+    void fuel();
+    void altitudes_data();
+    void altitudes();
+    void distances();
+    void withoutData();
+    void secondComputationStartsAnew();
+    void path();
+    void pathLeavesDamageOut();
+    void pathJoinsSeriesOfOtherLengths();
+    void pathOfAFlight();
+};
+
+void TestFlights::detection_data()
+{
+    QTest::addColumn<QString>("speeds"); // one sample a second, from 0
+    QTest::addColumn<QString>("flights"); // take-off-landing of each
+    const QString landing = " 20x12";
+    QTest::newRow("11 samples after the crossing") << "51 50x11" + landing << "11-23";
+    QTest::newRow("10 samples after it") << "51 50x10 49" + landing << "";
+    QTest::newRow("exactly 50 never starts") << "50x40" + landing << "";
+    QTest::newRow("exactly 50 keeps a roll, below starts anew") << "51 50x5 49.9 51 50x11" + landing << "18-30";
+    QTest::newRow("airborne at the end") << "51x40" << "";
+    QTest::newRow("landing not yet confirmed") << "51x12 39 40x10" << "";
+    QTest::newRow("exactly 40 does not begin a landing") << "51x12 40x30" << "";
+    QTest::newRow("exactly 40 keeps a landing") << "51x12 39 40x11" << "11-23";
+    QTest::newRow("above 40 breaks a landing off") << "51x12 39 40x9 40.1 39x11" << "";
+    QTest::newRow("and it starts anew") << "51x12 39 40x9 40.1 39x12" << "11-34";
+    QTest::newRow("two flights") << "51x12 20x12 51x13 20x12" << "11-23 35-48";
+    QTest::newRow("rolls on at once after landing") << "51x12 20x12 60x12 0x12" << "11-23 35-47";
+    QTest::newRow("nan is not below 50, nor above 40") << "51 nanx11 20 nanx11" << "11-23";
+    QTest::newRow("nan does not start") << "nanx30" + landing << "";
+    QTest::newRow("none") << "" << "";
+}
+
+void TestFlights::detection()
+{
+    QFETCH(QString, speeds);
+    Recording recording;
+    double time = 0;
+    for (const double speed : speedsOf(speeds))
+        recording.file().addFloat(eGroundSpeed, time++, static_cast<float>(speed));
+    recording.file().addWord(99, 1000, 0);
+    recording.load();
+    QStringList found;
+    for (const RecordFlight& flight : recording.flights()) {
+        found << QString("%1-%2").arg(flight.takeOffTime).arg(flight.landingTime);
+        QVERIFY(flight.valid);
+    }
+    QTEST(found.join(' '), "flights");
+}
+
+void TestFlights::marginsAndDates()
+{
+    Recording recording;
+    recording.fly(9.75);
+    recording.fly(100);
+    recording.load();
+    const auto& flights = recording.flights();
+    QCOMPARE(flights.size(), std::size_t(2));
+    QCOMPARE(flights[0].takeOffTime, 20.75);
+    QCOMPARE(flights[0].startTime, 0.0); // never before the power-up
+    QCOMPARE(flights[0].endTime, flights[0].landingTime + 30);
+    QCOMPARE(flights[0].dateTime, kNoon.addSecs(20)); // whole seconds
+    QCOMPARE(flights[1].startTime, 81.0);
+    QVERIFY(recording.cycle.lines.find("Flight 81.000000 -> 177.000000 <12:01:51>\n") != std::string::npos);
+}
+
+void TestFlights::selectedFlight()
+{
+    Recording recording;
+    recording.fly(50);
+    recording.fly(200);
+    recording.file().addWord(99, 400, 0);
+    CardContainer& container = recording.load(1); // a cycle that is not loaded yet is, then the flight is selected
+    QCOMPARE(container.startTime(), 181.0);
+    QCOMPARE(container.endTime(), 277.0);
+    QCOMPARE(container.dateTime(), kNoon.addSecs(211));
+    QCOMPARE(container.selectedFlight().takeOffTime, 211.0);
+    const auto loads = [&] { return QString::fromStdString(recording.cycle.lines).count("load Files <"); };
+    QCOMPARE(loads(), 1);
+    QCOMPARE(recording.load(0).startTime(), 31.0); // reads no file again
+    QCOMPARE(loads(), 1);
+    QCOMPARE(container.getValue(recording.cycle.profile.parameter(eGroundSpeed), 230.5), 100.0); // all of the cycle has values still
+    QVERIFY(!container.loadCycle(0, 2));
+    QCOMPARE(recording.load(-1).endTime(), 400.0);
+    QCOMPARE(container.dateTime(), kNoon);
+    QCOMPARE(loads(), 2);
+}
+
+void TestFlights::fuel()
+{
+    Statistic statistic;
+    // The first sample within the span gives the time alone, the flow of each later one holds back to the one before.
+    statistic.add(eFuelA, {{99.999, 1000}, {100, 500}, {110, 36}, {130, 72}, {200, 3.6}, {200.001, 1000}});
+    statistic.add(eFuelB, {{150, 7}});
+    const RecordFlight flight = statistic.compute();
+    const double expected = 36.0 * 10 / 3600 + 72.0 * 20 / 3600 + static_cast<double>(3.6F) * 70 / 3600;
+    QCOMPARE(flight.fuelA, expected);
+    QCOMPARE(flight.fuelB, 0.0);
+    QCOMPARE(flight.totalFuel, expected);
+}
+
+void TestFlights::altitudes_data()
+{
+    QTest::addColumn<QString>("samples"); // time:altitude
+    QTest::addColumn<QString>("expected"); // least, greatest, climb rate, descend rate, seconds per 100
+    const auto row = [](const char* name, const char* samples, const char* expected) { QTest::newRow(name) << samples << expected; };
+    row("climb and descent", "110:100 150:300 190:120", "100 300 10 10 20");
+    row("the first is the highest", "110:300 150:100", "100 300 -1.53846 1.17647 20");
+    row("equal height does not move the time", "110:100 140:300 160:300", "100 300 20 6.66667 20");
+    row("below a tenth is skipped", "110:0.09 120:50 130:-7 150:100 160:0", "50 100 2.5 2.5 80");
+    row("none counts", "110:0 150:0.05", "0 0 0 0 inf");
+    row("outside the span", "99:900 110:100 150:200 201:1", "100 200 5 5 40");
+}
+
+void TestFlights::altitudes()
+{
+    QFETCH(QString, samples);
+    Statistic statistic;
+    for (const QString& sample : samples.split(' '))
+        statistic.add(eAltitude, {{sample.section(':', 0, 0).toDouble(), sample.section(':', 1).toDouble()}});
+    const RecordFlight flight = statistic.compute();
+    QCOMPARE(flight.totalClimb, flight.maxAltitude - flight.minAltitude);
+    QTEST(QString("%1 %2 %3 %4 %5").arg(flight.minAltitude).arg(flight.maxAltitude).arg(flight.averageClimbRate).arg(flight.averageDescendRate)
+              .arg(flight.timePer100m), "expected");
+}
+
+void TestFlights::distances()
+{
+    // The aircraft moves one minute of latitude (1852 m) every 10 s from 48 degrees on; a sample at 100, 110, ...
+    Statistic statistic;
+    for (int i = 0; i <= 10; ++i) {
+        statistic.file().addFloat(eLatitude, 100 + 10 * i, static_cast<float>(4800 + i));
+        statistic.file().addFloat(eLongitude, 100 + 10 * i, 1100);
+    }
+    statistic.add(eThrottle, {{99, 100}, {105, 90}, {115, 91}, {175, 100}});    // the roll starts at 115: position of 110
+    statistic.add(eGroundSpeed, {{101, 80}, {125, 81}, {135, 120}, {205, 500}}); // the reference is taken at 125
+    statistic.add(eAltitude, {{102, 300}, {122, 400}, {125, 900}, {126, 401}, {136, 401.1}, {146, 415}, {156, 415.1}, {166, 500}});
+    const RecordFlight flight = statistic.compute();
+    QCOMPARE(flight.maxGroundSpeed, 120.0);
+    QCOMPARE(flight.maxAltitude, 900.0);
+    // Lift-off at 136 (position of 130), 15 m at 156 (position of 150); the altitude 900 at 125 is not after the reference instant.
+    QVERIFY2(std::fabs(flight.takeOffDistance - 2 * 1852) < 5, qPrintable(QString::number(flight.takeOffDistance)));
+    QVERIFY2(std::fabs(flight.takeOffDistance15m - 4 * 1852) < 5, qPrintable(QString::number(flight.takeOffDistance15m)));
+
+    Statistic noThrottle; // the distance is then measured from the default position
+    noThrottle.add(eThrottle, {{120, 90}}).add(eLatitude, {{110, 100}}).add(eLongitude, {{110, 0}});
+    noThrottle.add(eAltitude, {{115, 20}, {130, 0}}).add(eLatitude, {{140, 100}});
+    QVERIFY(std::fabs(noThrottle.compute().takeOffDistance - 60 * 1852) < 0.1);
+}
+
+void TestFlights::withoutData()
+{
+    Statistic statistic;
+    const RecordFlight flight = statistic.compute();
+    QVERIFY(flight.valid);
+    QCOMPARE(flight.minAltitude, 0.0);
+    QCOMPARE(flight.maxGroundSpeed, 0.0);
+    QVERIFY(std::isinf(flight.timePer100m));
+    QVERIFY(std::isnan(flight.fuelPer100m));
+    QCOMPARE(flight.takeOffDistance, 0.0);
+
+    TestCycle bare; // a profile that names none of the parameters
+    CardBuilder card;
+    card.file("A.CAN").dateTime(kNoon).addFloat(0, 1, 60);
+    QVERIFY(bare.container.readContainer(card.write()) && bare.container.loadCycle(0, -1));
+    QVERIFY(bare.container.loadedCycle()->flights.empty());
+    QVERIFY(bare.container.flightPath().empty());
+}
+
+void TestFlights::secondComputationStartsAnew()
+{
+    Statistic statistic;
+    statistic.add(eGroundSpeed, {{110, 250}, {150, 90}}).add(eAltitude, {{110, 5}, {150, 900}});
+    RecordFlight flight = statistic.compute();
+    QCOMPARE(flight.maxGroundSpeed, 250.0);
+    flight.startTime = 151; // nothing lies in this span
+    statistic.cycle.container.calcFlightStatistic(flight);
+    QCOMPARE(flight.maxGroundSpeed, 0.0);
+    QCOMPARE(flight.maxAltitude, 0.0);
+    QCOMPARE(flight.minAltitude, 0.0);
+}
+
+void TestFlights::path()
+{
+    Recording recording;
+    RecordFileBuilder& file = recording.file();
+    // A receiver without a fix sends zeros, which count for nothing; the fix itself comes at 2 s.
+    for (int i = 0; i <= 8; ++i) {
+        file.addFloat(eLatitude, i * 0.5, i < 4 ? 0 : static_cast<float>(4800 + i));
+        file.addFloat(eLongitude, i * 0.5, i < 4 ? 0 : -1100);
+        file.addFloat(eAltitude, i * 0.5, static_cast<float>(i * 10));
+        file.addFloat(eGroundSpeed, i * 0.5, i == 6 ? std::numeric_limits<float>::quiet_NaN() : static_cast<float>(i));
+    }
+    const std::vector<FlightPathPoint>& points = recording.load().flightPath();
+    QCOMPARE(points.size(), std::size_t(9)); // the grid starts at the power-up, the first fix holds until its time
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        QCOMPARE(points[i].time, static_cast<double>(i) * 0.5);
+        QCOMPARE(points[i].latitude, calcCoordinate(4800.0 + static_cast<double>(std::max<std::size_t>(i, 4))));
+        QCOMPARE(points[i].longitude, -11.0);
+        QCOMPARE(points[i].altitude, static_cast<double>(std::max<std::size_t>(i, 1) * 10)); // the 0 is no value
+        QCOMPARE(points[i].groundSpeed, static_cast<double>(std::max<std::size_t>(i, 1)));   // the gap is interpolated
+        QCOMPARE(points[i].track, 0.0);
+    }
+}
+
+void TestFlights::pathLeavesDamageOut()
+{
+    Recording recording;
+    for (int i = 0; i <= 10; ++i) {
+        recording.file().addFloat(eLatitude, i, 4800).addFloat(eLongitude, i, 1100).addFloat(eAltitude, i, 500);
+        if (i == 6) { // were it only dropped after decoding, the filter would follow it
+            for (const double time : {2000000.5, 1e9}) {
+                for (int n = 0; n < 8; ++n)
+                    recording.file().addFloat(eLatitude, time, 7000);
+            }
+        }
+    }
+    const std::vector<FlightPathPoint>& points = recording.load().flightPath();
+    QCOMPARE(points.size(), std::size_t(21));
+    for (const FlightPathPoint& point : points)
+        QCOMPARE(point.latitude, 48.0);
+    Recording edge; // the last time that counts
+    edge.file().addFloat(eLatitude, 0, 4800).addFloat(eLatitude, 2000000, 4800).addFloat(eLongitude, 0, 1100).addFloat(eLongitude, 1, 1100);
+    QCOMPARE(edge.load().flightPath().size(), std::size_t(4000001));
+}
+
+void TestFlights::pathJoinsSeriesOfOtherLengths()
+{
+    Recording recording;
+    recording.file().addFloat(eLatitude, 0, 4800).addFloat(eLatitude, 1, 4800);
+    recording.file().addFloat(eLongitude, 0, 1100).addFloat(eLongitude, 3, 1100);
+    recording.file().addFloat(eAltitude, 0, 100).addFloat(eAltitude, 1, 120).addFloat(eTrack, 0.2, 270).addFloat(eGroundSpeed, 0, 5);
+    recording.file().addFloat(eGroundSpeed, 9, 5);
+    const std::vector<FlightPathPoint>& points = recording.load().flightPath();
+    QCOMPARE(points.size(), std::size_t(7)); // of the longer position series; what has ended holds its last value
+    QCOMPARE(points.back().latitude, 48.0);
+    QCOMPARE(points.back().altitude, 120.0);
+    QCOMPARE(points.front().track, 270.0); // a series of one sample
+    Recording onlyLatitude;
+    onlyLatitude.file().addFloat(eLatitude, 0, 4800).addFloat(eLatitude, 1, 4800);
+    QVERIFY(onlyLatitude.load().flightPath().empty());
+}
+
+void TestFlights::pathOfAFlight()
+{
+    Recording recording;
+    recording.fly(50);
+    recording.file().addFloat(eLatitude, 0, 4800).addFloat(eLatitude, 300, 4800).addFloat(eLongitude, 0, 1100).addFloat(eLongitude, 300, 1100);
+    CardContainer& container = recording.load(0);
+    QCOMPARE(container.flightPath().front().time, 31.0); // both ends belong to it
+    QCOMPARE(container.flightPath().back().time, 127.0);
+    recording.cycle.profile.setCurrentUnit(EUnit::eImperial);
+    container.calcFlightPath(); // rebuilt, it is that of the flight still
+    QCOMPARE(container.flightPath().size(), std::size_t(0));
+    recording.cycle.profile.setCurrentUnit(EUnit::eMetric);
+    container.calcFlightPath();
+    QCOMPARE(container.flightPath().front().time, 31.0);
+    QCOMPARE(recording.load(-1).flightPath().size(), std::size_t(601));
+}
+
+QTEST_APPLESS_MAIN(TestFlights)
+#include "TestFlights.moc"
