@@ -36,7 +36,11 @@ bool copyProfile(const QString& file, const QString& target)
         return true; // it is in its place already, and removing the target would remove the only one
     QDir().mkpath(QFileInfo(target).absolutePath());
     QFile::remove(target);
-    return QFile::copy(file, target);
+    if (!QFile::copy(file, target))
+        return false;
+    // A copy from a read-only medium is read-only too, and in the way of the next installation.
+    QFile::setPermissions(target, QFile::permissions(target) | QFile::WriteOwner);
+    return true;
 }
 
 } // namespace
@@ -47,6 +51,7 @@ DialogProfileInfo::DialogProfileInfo(const ZARN::Session& session, const ZARN::P
     setWindowTitle(tr("Profile Information"));
     mpText->setObjectName("profileInfo");
     mpText->setReadOnly(true);
+    mpText->setTabChangesFocus(true);
     mpText->setAccessibleName(tr("Profile Information"));
     auto* pLink = new QLabel(tr("<a href=\"Install\">Install New Profile</a>"));
     pLink->setObjectName("link");
@@ -60,6 +65,13 @@ DialogProfileInfo::DialogProfileInfo(const ZARN::Session& session, const ZARN::P
     connect(pButtons, &QDialogButtonBox::rejected, this, &DialogProfileInfo::slotClose);
     resize(480, 320);
     fillProfileInfo();
+}
+
+void DialogProfileInfo::setProfileFile(const QString& path)
+{
+    mProfileFile = path;
+    if (!path.isEmpty())
+        mSession.profile.loadVariants(path);
 }
 
 QString DialogProfileInfo::profileInfo() const

@@ -19,8 +19,8 @@ class DialogProfileInfo : public QDialog {
 public:
     DialogProfileInfo(const ZARN::Session& session, const ZARN::ProfileCatalogue& catalogue, QWidget* pParent = nullptr);
 
-    /// The path of the file that the profile was loaded from; an installation goes to its folder.
-    void setProfileFile(const QString& path) { mProfileFile = path; }
+    /// Tells which file the profile was loaded from: its variants are those shown, and an installation goes to its folder.
+    void setProfileFile(const QString& path);
     [[nodiscard]] const QString& profileFile() const { return mProfileFile; }
     /// Shows what the profile holds now.
     void fillProfileInfo();

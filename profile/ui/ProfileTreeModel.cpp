@@ -183,6 +183,9 @@ QVariant ProfileTreeModel::parameterData(const Parameter& parameter, int column,
 {
     if (role == Qt::CheckStateRole && column == eName)
         return mProfile.isSelected(parameter.name) ? Qt::Checked : Qt::Unchecked;
+    // The whole of a name that its column may cut; marked up, for a tool tip would take other text for markup by chance.
+    if (role == Qt::ToolTipRole && column == eName)
+        return QString("<span>" + parameter.text.toHtmlEscaped() + "</span>");
     if (role != Qt::DisplayRole)
         return {};
     switch (column) {
