@@ -82,8 +82,8 @@ std::string tables(const Profile& profile)
 
 CommandProfile::CommandProfile(CLI::App& program) : Command(program, "profile", "show what a profile file declares")
 {
-    options().add_option("FILE", mFile, "the profile file")->required();
-    options().add_option("--variant", mVariant, "variant of the profile (default: none)");
+    options().add("FILE", mFile, "the profile file", CommandOptions::eRequired);
+    options().add("--variant", mVariant, "variant of the profile (default: none)");
     addJson();
 }
 
