@@ -58,9 +58,10 @@ std::vector<RecordFlight> FlightDetector::detect(const QDateTime& dateTime) cons
         return flights;
     FlightState state;
     RecordFlight flight;
+    const ValueDecoder decoder = profile.decoder(parameter);
     for (std::size_t i = 0; i < pChannel->entries.size(); ++i) {
         const RecordEntry entry = pChannel->entries[i];
-        switch (state.next(profile.getDouble(entry, parameter, true))) {
+        switch (state.next(decoder.displayValue(entry.payload, profile.sharedFilter()))) {
         case FlightState::EEvent::eTakeOff:
             flight = {};
             flight.takeOffTime = entry.time;

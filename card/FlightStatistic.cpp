@@ -44,8 +44,10 @@ private:
         Profile& profile = mValues.profile();
         const ProfileParameter parameter = profile.getParameterFromZarnType(key);
         if (const RecordChannel* pChannel = mValues.channel(parameter)) {
-            pChannel->forEachIn(mFlight.startTime, mFlight.endTime,
-                                [&](const RecordEntry& entry) { visit(entry.time, profile.getDouble(entry, parameter, true)); });
+            const ValueDecoder decoder = profile.decoder(parameter);
+            pChannel->forEachIn(mFlight.startTime, mFlight.endTime, [&](const RecordEntry& entry) {
+                visit(entry.time, decoder.displayValue(entry.payload, profile.sharedFilter()));
+            });
         }
     }
 

@@ -28,7 +28,11 @@ double CoordinateFilter::latitude(double value)
 
 double CoordinateFilter::longitude(double value)
 {
-    return filter(mLongitude, calcCoordinate(value), kAllowedJump / std::cos(mLatitude.last * kRadiansPerDegree));
+    if (mLatitude.last != mAllowedAt) { // a pass decodes one axis after the other: the latitude stays
+        mAllowedAt = mLatitude.last;
+        mAllowed = kAllowedJump / std::cos(mAllowedAt * kRadiansPerDegree);
+    }
+    return filter(mLongitude, calcCoordinate(value), mAllowed);
 }
 
 double CoordinateFilter::filter(Axis& axis, double degrees, double allowedJump)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <limits>
 
 namespace ZARN {
 
@@ -25,6 +26,8 @@ private:
 
     Axis mLatitude;
     Axis mLongitude;
+    double mAllowed = 0.0; // jump of the longitude at the latitude mAllowedAt
+    double mAllowedAt = std::numeric_limits<double>::quiet_NaN();
 };
 
 } // namespace ZARN

@@ -175,7 +175,7 @@ double ValueDecoder::textValue(const Payload& payload, CoordinateFilter& filter)
 bool ValueDecoder::decodeRun(Kernel run, std::span<const StoredRecord> records, double* pOut) const
 {
     const int width = mRaw == ERaw::eChar || mRaw == ERaw::eUChar ? 1 : mRaw == ERaw::eShort || mRaw == ERaw::eUShort ? 2 : 4;
-    if (!run || mPosition != EPosition::eNone || mStartByte < 0 || mStartByte > 8 - width)
+    if (!run || mStartByte < 0 || mStartByte > 8 - width)
         return false;
     run(records, {mStartByte, mFactor, mOffset}, pOut);
     return true;
@@ -197,10 +197,12 @@ ValueDecoder::Kernel ValueDecoder::kernel() const
 
 void ValueDecoder::values(std::span<const StoredRecord> records, double* pOut, CoordinateFilter& filter) const
 {
-    if (decodeRun(kernel(), records, pOut))
-        return;
-    for (const StoredRecord& record : records)
-        *pOut++ = value(record.payload, true, filter);
+    if (!decodeRun(kernel(), records, pOut)) {
+        for (const StoredRecord& record : records)
+            *pOut++ = value(record.payload, true, filter);
+    } else if (mPosition != EPosition::eNone) {
+        std::for_each(pOut, pOut + records.size(), [&](double& number) { number = applyFilter(number, filter); });
+    }
 }
 
 void ValueDecoder::textValues(std::span<const StoredRecord> records, double* pOut, CoordinateFilter& filter) const
@@ -212,6 +214,8 @@ void ValueDecoder::textValues(std::span<const StoredRecord> records, double* pOu
             *pOut++ = textValue(record.payload, filter);
     } else if (mRaw == ERaw::eFloat) {
         std::for_each(pOut, pOut + records.size(), [](double& number) { number = static_cast<float>(number); });
+        if (mPosition != EPosition::eNone)
+            std::for_each(pOut, pOut + records.size(), [&](double& number) { number = static_cast<float>(applyFilter(number, filter)); });
     } else {
         std::for_each(pOut, pOut + records.size(), [](double& number) { number = saturatingCast<int>(number); });
     }

@@ -52,6 +52,11 @@ public:
     {
         return mConversion ? value * mConversion->factor + mConversion->offset : value;
     }
+    /// The value in the display unit.
+    [[nodiscard]] double displayValue(const Payload& payload, CoordinateFilter& filter) const
+    {
+        return isNumeric() ? toDisplayUnit(value(payload, true, filter)) : 0.0;
+    }
     /// Appends the display text of a text value.
     void appendText(double textValue, std::string& text) const;
     /// Writes the display text when it is a number alone. @return its end, or null for texts with words (use appendText).
