@@ -104,7 +104,8 @@ void TestEvents::limits_data()
     QTest::newRow("list out of order") << "thresholdId=Unordered precision=0" << "10 75 10 120" << "2:1:Engine T 75 :#ffff00";
     QTest::newRow("equal boundaries") << "thresholdId=Equal precision=0" << "10 50" << "2:2:Engine T 50 :#ff0000";
     QTest::newRow("unit") << limits + " unitMetric=C unitImperial=C" << "70 90" << "2:1:Engine T 90 C:#ffff00";
-    QTest::newRow("imperial: limits are metric, the text is not") << limits + " unitMetric=C unitImperial=F imperial" << "70 90" << "2:1:Engine T 181 F:#ffff00";
+    QTest::newRow("imperial: limits are metric, the text is not") << limits + " unitMetric=C unitImperial=F imperial" << "70 90"
+                                                                  << "2:1:Engine T 181 F:#ffff00";
     QTest::newRow("conversion to no number") << "thresholdId=Limits factor=0 offset=0 unitMetric=K unitImperial=R imperial" << "70 90" << "";
 }
 
