@@ -28,6 +28,8 @@ bool CmdLine::parse(int argc, const char* const* argv)
     for (int i = 1; i < argc; ++i) {
         const auto found = mOptions.find(argv[i]);
         if (found == mOptions.end()) {
+            if (takeOperand(argv[i]))
+                continue;
             mConsole.print("unknown option %s\n", argv[i]);
             allKnown = false;
             continue;
@@ -40,6 +42,14 @@ bool CmdLine::parse(int argc, const char* const* argv)
             option.value = argv[++i];
     }
     return allKnown;
+}
+
+bool CmdLine::takeOperand(const std::string& argument)
+{
+    if (!mOperand.empty() || !mAcceptsOperand || !mAcceptsOperand(argument))
+        return false;
+    mOperand = argument;
+    return true;
 }
 
 bool CmdLine::getSwitch(const std::string& name) const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <string>
 
@@ -18,6 +19,9 @@ public:
     void addSwitch(const std::string& name, const std::string& help);
     void addParameter(const std::string& name, const std::string& help, const std::string& defaultValue);
 
+    /// Lets one argument that is no option stand for itself: the first one for which `accepts` holds becomes operand().
+    void addOperand(std::function<bool(const std::string&)> accepts) { mAcceptsOperand = std::move(accepts); }
+
     /// Matches every argument as a whole. Unknown ones are written to the console and passed over; a parameter that is the
     /// last argument keeps its default. @return whether every argument was known.
     bool parse(int argc, const char* const* argv);
@@ -26,6 +30,9 @@ public:
     [[nodiscard]] bool getSwitch(const std::string& name) const;
     /// Copies the value, the default when the parameter was not given; an unknown name leaves it. @return whether it was given.
     bool getParameter(const std::string& name, std::string& value) const;
+
+    /// The argument that stands for itself; empty when none was given.
+    [[nodiscard]] const std::string& operand() const { return mOperand; }
 
     void printUsage() const;
 
@@ -40,7 +47,11 @@ private:
     };
 
     const Console& mConsole;
+    bool takeOperand(const std::string& argument);
+
     std::string mProgramName;
+    std::string mOperand;
+    std::function<bool(const std::string&)> mAcceptsOperand;
     std::map<std::string, Option> mOptions;
 };
 

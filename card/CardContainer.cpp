@@ -57,7 +57,7 @@ int64_t wholeMilliseconds(double seconds)
 } // namespace
 
 CardContainer::CardContainer(const Console& console, Profile& profile, Progress& progress)
-    : mConsole(console), mProgress(progress), mValues(mData, profile)
+    : mConsole(console), mpProgress(&progress), mValues(mData, profile)
 {
 }
 
@@ -86,13 +86,13 @@ void CardContainer::readHeaders(const std::vector<std::string>& names)
 {
     for (const std::string& name : names) {
         if (isRecordFile(name)) {
-            RecordFile file(mConsole, mProgress);
+            RecordFile file(mConsole, *mpProgress);
             file.readRecordInfo(mPath + "/" + QString::fromStdString(name));
             mFiles[name] = file.recordInfo();
         }
-        mProgress.setProgress(0); // whole-number division of the file's number by their count: 0 until all are read
+        mpProgress->setProgress(0); // whole-number division of the file's number by their count: 0 until all are read
     }
-    mProgress.setProgress(100);
+    mpProgress->setProgress(100);
 }
 
 void CardContainer::markCycleStarts()
@@ -203,7 +203,7 @@ void CardContainer::loadFiles(const std::list<QString>& files)
 
 void CardContainer::loadFile(const RecordInfo& info)
 {
-    RecordFile file(mConsole, mProgress);
+    RecordFile file(mConsole, *mpProgress);
     file.setRecordInfo(info);
     if (!file.readRecordData(mData) && mLoadError.empty())
         mLoadError = info.fileName.toStdString() + ": not enough memory for its records";

@@ -20,6 +20,8 @@ public:
     CardContainer(const CardContainer&) = delete;
     CardContainer& operator=(const CardContainer&) = delete;
     static CardContainer& instance();
+    /// Who is told of the progress of reading from now on.
+    void setProgress(Progress& progress) { mpProgress = &progress; }
 
     /// Forgets the files; the loaded data stays.
     void clear() { mFiles.clear(); }
@@ -86,7 +88,7 @@ private:
     void selectFlight(const RecordFlight& flight);
 
     const Console& mConsole;
-    Progress& mProgress;
+    Progress* mpProgress;
     QString mPath;
     std::map<std::string, RecordInfo> mFiles;
     std::map<uint32_t, RecordCycle> mCycles;

@@ -8,7 +8,12 @@ set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 
 # The program finds its resources at "<folder of the executable>/../Resources/", in the build tree too.
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin")
-file(CREATE_LINK "${PROJECT_SOURCE_DIR}/resources" "${PROJECT_BINARY_DIR}/Resources" SYMBOLIC)
+set(ZARN_RESOURCES "${PROJECT_BINARY_DIR}/Resources")
+if(IS_SYMLINK "${ZARN_RESOURCES}")
+  file(REMOVE "${ZARN_RESOURCES}")
+endif()
+file(MAKE_DIRECTORY "${ZARN_RESOURCES}")
+file(CREATE_LINK "${PROJECT_SOURCE_DIR}/resources/profiles" "${ZARN_RESOURCES}/profiles" SYMBOLIC)
 
 option(ZARN_WERROR "Treat warnings as errors" OFF)
 option(ZARN_SANITIZE "Address and undefined behaviour sanitizers" OFF)
@@ -32,10 +37,11 @@ if(ZARN_SANITIZE)
   target_link_options(zarn_options INTERFACE -fsanitize=address,undefined)
 endif()
 
-# zarn_library(NAME LINKS target...): all sources of this folder as one static library.
+# zarn_library(NAME LINKS target...): all sources of this folder as one static library; a main function is no part of it.
 function(zarn_library name)
   cmake_parse_arguments(ARG "" "" "LINKS" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
+  list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
   if(NOT sources)
     add_library(${name} INTERFACE)
     target_link_libraries(${name} INTERFACE zarn_options ${ARG_LINKS})
@@ -60,7 +66,9 @@ function(zarn_test name source)
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT} LABELS "${ARG_LABELS}")
   if(ARG_GUI)
-    set_tests_properties(${name} PROPERTIES LABELS "${ARG_LABELS};gui" RESOURCE_LOCK display)
+    # No session bus: the toolkit would start one for each test, and leak a little in it.
+    set_tests_properties(${name} PROPERTIES LABELS "${ARG_LABELS};gui" RESOURCE_LOCK display
+                                            ENVIRONMENT "DBUS_SESSION_BUS_ADDRESS=disabled:")
   else()
     set_tests_properties(${name} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
   endif()

@@ -38,7 +38,7 @@ bool Profile::loadProfile(const QString& path, const std::string& variant)
 
 bool Profile::loadDocument(const QDomElement& root, const std::string& variant)
 {
-    if (root.tagName() != QLatin1String(kRootName))
+    if (!isProfile(root))
         return false;
     mModel = ProfileLoader(*this, variant, mUnit).load(root);
     mIdentity = ProfileLoader::nextIdentity();
@@ -55,17 +55,29 @@ const std::vector<ProfileVariant>& Profile::loadVariants(const QString& path)
         return mVariants;
     }
     const QDomElement root = document.documentElement();
-    if (root.tagName() != QLatin1String(kRootName)) {
+    if (!isProfile(root)) {
         mConsole.print("Profile::loadVariants Not a CanAerospaceProfile");
         return mVariants;
     }
+    mVariants = variantsOf(root);
+    return mVariants;
+}
+
+bool Profile::isProfile(const QDomElement& root)
+{
+    return root.tagName() == QLatin1String(kRootName);
+}
+
+std::vector<ProfileVariant> Profile::variantsOf(const QDomElement& root) const
+{
+    std::vector<ProfileVariant> variants;
     for (QDomElement list = root.firstChildElement("Variants"); !list.isNull(); list = list.nextSiblingElement("Variants")) {
         for (QDomElement variant = list.firstChildElement("Variant"); !variant.isNull(); variant = variant.nextSiblingElement("Variant")) {
-            mVariants.push_back({xmlGetStdStringAttribute(variant.attributes(), "name", ""),
-                                 xmlGetStdStringAttribute(variant.attributes(), "color", "")});
+            variants.push_back({xmlGetStdStringAttribute(variant.attributes(), "name", ""),
+                                xmlGetStdStringAttribute(variant.attributes(), "color", "")});
         }
     }
-    return mVariants;
+    return variants;
 }
 
 bool Profile::checkVariant(const std::string& variant, const QDomNode& node) const

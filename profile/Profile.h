@@ -53,6 +53,10 @@ public:
     bool loadDocument(const QDomElement& root, const std::string& variant);
     /// Reads the variants that a file declares. @return them in file order; none when the file is no profile.
     const std::vector<ProfileVariant>& loadVariants(const QString& path);
+    /// Whether the document with this root element is a profile.
+    [[nodiscard]] static bool isProfile(const QDomElement& root);
+    /// The variants that a document declares, in its order; changes nothing.
+    [[nodiscard]] std::vector<ProfileVariant> variantsOf(const QDomElement& root) const;
     bool checkVariant(const std::string& variant, const QDomNode& node) const;
     bool checkVariant(const std::string& variant, const QString& attribute) const;
     void clear();

@@ -34,6 +34,8 @@ public:
     bool saveProject(const QString& path);
     /// Shows exactly those parameters of the current profile whose names are in the project.
     void setProfileData();
+    /// Takes over which parameters of the current profile are shown; names that it lacks stay.
+    void takeProfileData();
 
     /// The names of the selected parameters.
     [[nodiscard]] const std::set<std::string>& parameterNames() const { return mNames; }
@@ -41,7 +43,6 @@ public:
     void setCanProperties(const std::map<std::string, std::string>& properties) { mCanProperties = properties; }
 
 private:
-    void takeProfileData();
     void readRoot(const QDomElement& root);
 
     const Console& mConsole;

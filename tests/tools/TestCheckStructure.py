@@ -64,9 +64,10 @@ class CleanTree(unittest.TestCase):
 class Program(unittest.TestCase):
     def test_status_and_output(self):
         with tempfile.TemporaryDirectory() as root:
+            self.assertEqual(subprocess.run([sys.executable, TOOL, root], capture_output=True, check=False).returncode, 2)
+            os.makedirs(os.path.join(root, 'app'))
             for content, status, last in [('int a;\n', 0, 'The structure holds.'), ('// TO' 'DO\n', 1, '1 findings')]:
-                os.makedirs(os.path.join(root, 'card'), exist_ok=True)
-                with open(os.path.join(root, 'card', 'A.cpp'), 'w', encoding='utf-8') as file:
+                with open(os.path.join(root, 'app', 'A.cpp'), 'w', encoding='utf-8') as file:
                     file.write(content)
                 done = subprocess.run([sys.executable, TOOL, root], capture_output=True, text=True, check=False)
                 self.assertEqual((done.returncode, done.stdout.splitlines()[-1]), (status, last))
@@ -155,6 +156,12 @@ class Sizes(unittest.TestCase):
                 found = self.over_wall(function(81 - extra, head) + tail)
                 self.assertEqual(len(found), 1, found)
                 self.assertIn('81 lines', found[0][2])
+
+    def test_tables_of_test_data_may_be_long(self):
+        code = function(200, 'void TestA::rows_data()')
+        self.assertEqual(findings({'tests/card/TestA.cpp': code}), [])
+        self.assertEqual(len(self.over_wall(code)), 1)
+        self.assertEqual(len(findings({'tests/card/TestA.cpp': function(200, 'void TestA::rows()')})), 1)
 
     def test_braces_in_texts_do_not_count(self):
         body = ('    // }}}\n    /* { */\n    char c = \'{\'; int n = 1\'000;\n    auto s = "}}\\"}";\n    auto r = R"x(}}"}\n)" })x";\n#define OPEN {\n#define TWO \\\n  {{\n'

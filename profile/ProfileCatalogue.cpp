@@ -1,0 +1,111 @@
+#include "profile/ProfileCatalogue.h"
+
+#include "profile/Profile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace ZARN {
+
+namespace {
+
+const QString kFileName = QStringLiteral("Profile.xml");
+const QString kFolderName = QStringLiteral("profiles/");
+
+/// The folder that a profile file of this path gets when no profile is there whose place it could take.
+QString folderNameFor(const QString& file)
+{
+    const QFileInfo info(file);
+    return info.fileName() == kFileName ? info.absoluteDir().dirName() : info.completeBaseName();
+}
+
+/// Puts "folder/" before every text that stands more than once.
+void separateTexts(std::vector<ProfileEntry>& entries)
+{
+    std::map<QString, int> counts;
+    for (const ProfileEntry& entry : entries)
+        ++counts[entry.text];
+    for (ProfileEntry& entry : entries) {
+        if (counts[entry.text] > 1)
+            entry.text.prepend(QFileInfo(entry.path).dir().dirName() + "/");
+    }
+}
+
+} // namespace
+
+ProfileCatalogue::ProfileCatalogue(const Console& console, const std::string& resourcePath, const std::string& dataPath)
+    : mConsole(console), mShippedFolder(QFile::decodeName(resourcePath.c_str()) + kFolderName),
+      mUserFolder(dataPath.empty() ? QString() : QFile::decodeName(dataPath.c_str()) + "/" + kFolderName)
+{
+    refresh();
+}
+
+bool ProfileCatalogue::readProfile(const QString& path, Found& found) const
+{
+    const Profile reader(mConsole);
+    QDomDocument document;
+    if (!QFileInfo(path).isFile() || !reader.xmlReadFile(document, path) || !Profile::isProfile(document.documentElement()))
+        return false;
+    found = {path, {}};
+    for (const ProfileVariant& variant : reader.variantsOf(document.documentElement())) {
+        if (!variant.name.empty() && std::ranges::find(found.variants, variant.name) == found.variants.end())
+            found.variants.push_back(variant.name);
+    }
+    return true;
+}
+
+void ProfileCatalogue::readFolder(const QString& folder, std::map<QString, Found>& profiles) const
+{
+    if (folder.isEmpty())
+        return;
+    for (const QString& name : QDir(folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        Found found;
+        if (readProfile(folder + name + "/" + kFileName, found))
+            profiles[name] = found;
+    }
+}
+
+void ProfileCatalogue::refresh()
+{
+    std::map<QString, Found> profiles;
+    readFolder(mShippedFolder, profiles);
+    readFolder(mUserFolder, profiles);
+    mEntries.clear();
+    for (const auto& [name, found] : profiles) {
+        for (const std::string& variant : found.variants)
+            mEntries.push_back({QString::fromStdString(variant), found.path, variant});
+        if (found.variants.empty())
+            mEntries.push_back({name, found.path, {}});
+    }
+    separateTexts(mEntries);
+}
+
+ProfileEntry ProfileCatalogue::find(const QString& setting) const
+{
+    const auto named = std::ranges::find(mEntries, setting, &ProfileEntry::text);
+    if (named != mEntries.end())
+        return *named;
+    Found found;
+    if (!setting.isEmpty() && readProfile(setting, found)) {
+        const auto same = std::ranges::find_if(mEntries, [file = QFileInfo(setting)](const ProfileEntry& entry) {
+            return entry.variant.empty() && QFileInfo(entry.path) == file;
+        });
+        return same != mEntries.end() ? *same : ProfileEntry{setting, setting, {}};
+    }
+    return mEntries.empty() ? ProfileEntry{} : mEntries.front();
+}
+
+QString ProfileCatalogue::installPath(const QString& loadedFile, const QString& newFile) const
+{
+    const QString folder = loadedFile.isEmpty() ? QString() : QFileInfo(loadedFile).absolutePath();
+    const QFileInfo folderInfo(folder);
+    if (!folder.isEmpty() && (mUserFolder.isEmpty() || (folderInfo.isDir() && folderInfo.isWritable())))
+        return folder + "/" + kFileName;
+    const QString name = folderInfo.fileName().isEmpty() ? folderNameFor(newFile) : folderInfo.fileName();
+    return (mUserFolder.isEmpty() ? mShippedFolder : mUserFolder) + name + "/" + kFileName;
+}
+
+} // namespace ZARN

@@ -1,0 +1,153 @@
+#include "profile/ui/DialogProfile.h"
+
+#include "profile/ui/ProfileFilterModel.h"
+#include "profile/ui/ProfileTreeModel.h"
+#include "project/Project.h"
+
+#include <QAction>
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+namespace ZARN {
+
+DialogProfile::DialogProfile(const Session& session, QWidget* pParent)
+    : QWidget(pParent), mSession(session), mpModel(new ProfileTreeModel(session.profile, this)),
+      mpFilter(new ProfileFilterModel(*mpModel, this)), mpSearch(new QLineEdit), mpTree(new QTreeView), mpCount(new QLabel)
+{
+    mpSearch->setObjectName("search");
+    mpSearch->setPlaceholderText(tr("Search name, unit or identifier"));
+    mpSearch->setAccessibleName(tr("Search parameters"));
+    mpSearch->setClearButtonEnabled(true);
+    mpCount->setObjectName("count");
+    createTree();
+    createActions();
+
+    auto* pLayout = new QVBoxLayout(this);
+    pLayout->setContentsMargins(0, 0, 0, 0);
+    pLayout->addWidget(mpSearch);
+    pLayout->addWidget(mpTree);
+    pLayout->addWidget(mpCount);
+
+    connect(mpSearch, &QLineEdit::textChanged, this, &DialogProfile::slotFilter);
+    connect(mpModel, &ProfileTreeModel::signalChanged, this, &DialogProfile::slotSelectionChanged);
+    connect(mpModel, &ProfileTreeModel::signalCounted, this, &DialogProfile::slotCount);
+    slotCount();
+    slotFilter({});
+    slotCurrentChanged();
+}
+
+void DialogProfile::createTree()
+{
+    mpTree->setObjectName("treeProfile");
+    mpTree->setAccessibleName(tr("Parameters of the profile"));
+    mpTree->setModel(mpFilter);
+    mpTree->setUniformRowHeights(true);
+    mpTree->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    mpTree->setContextMenuPolicy(Qt::ActionsContextMenu);
+    mpTree->header()->setStretchLastSection(false);
+    mpTree->header()->setSectionResizeMode(ProfileTreeModel::eName, QHeaderView::Stretch);
+    mpTree->header()->setSectionResizeMode(ProfileTreeModel::eUnit, QHeaderView::ResizeToContents);
+    mpTree->header()->setSectionResizeMode(ProfileTreeModel::eIdentifier, QHeaderView::ResizeToContents);
+    connect(mpTree->selectionModel(), &QItemSelectionModel::currentChanged, this, &DialogProfile::slotCurrentChanged);
+    connect(mpFilter, &QAbstractItemModel::modelReset, this, &DialogProfile::slotCurrentChanged);
+}
+
+void DialogProfile::createActions()
+{
+    mpSelectAll = addAction("selectAll", {});
+    mpSelectNone = addAction("selectNone", {});
+    mpOnlyDevice = addAction("onlyDevice", tr("Select Only This Device"));
+    mpCopyName = addAction("copyName", tr("Copy Name"));
+    connect(mpSelectAll, &QAction::triggered, this, [this] { mpFilter->selectShown(true); });
+    connect(mpSelectNone, &QAction::triggered, this, [this] { mpFilter->selectShown(false); });
+    connect(mpOnlyDevice, &QAction::triggered, this, &DialogProfile::slotOnlyDevice);
+    connect(mpCopyName, &QAction::triggered, this, &DialogProfile::slotCopyName);
+}
+
+QAction* DialogProfile::addAction(const QString& name, const QString& text)
+{
+    auto* pAction = new QAction(text, this);
+    pAction->setObjectName(name);
+    mpTree->addAction(pAction);
+    return pAction;
+}
+
+void DialogProfile::updateProfile()
+{
+    rememberExpanded();
+    mpModel->rebuild();
+    restoreExpanded();
+}
+
+void DialogProfile::updateProject()
+{
+    mSession.project.setProfileData();
+    updateProfile();
+}
+
+void DialogProfile::rememberExpanded()
+{
+    if (!mpFilter->filterRegularExpression().pattern().isEmpty())
+        return;
+    for (int row = 0; row < mpFilter->rowCount(); ++row) {
+        const QModelIndex device = mpFilter->index(row, 0);
+        if (mpTree->isExpanded(device))
+            mExpanded.insert(device.data().toString());
+        else
+            mExpanded.remove(device.data().toString());
+    }
+}
+
+void DialogProfile::restoreExpanded()
+{
+    const bool searching = !mpSearch->text().isEmpty();
+    for (int row = 0; row < mpFilter->rowCount(); ++row) {
+        const QModelIndex device = mpFilter->index(row, 0);
+        mpTree->setExpanded(device, searching || mExpanded.contains(device.data().toString()));
+    }
+}
+
+void DialogProfile::slotFilter(const QString& text)
+{
+    rememberExpanded();
+    mpFilter->setFilterFixedString(text);
+    restoreExpanded();
+    // What the two do is said where it is chosen: with a search they leave alone what it hides.
+    mpSelectAll->setText(text.isEmpty() ? tr("Select All") : tr("Select All Shown"));
+    mpSelectNone->setText(text.isEmpty() ? tr("Select None") : tr("Select None Shown"));
+}
+
+void DialogProfile::slotSelectionChanged()
+{
+    mSession.project.takeProfileData();
+    Q_EMIT signalChanged();
+}
+
+void DialogProfile::slotCount()
+{
+    mpCount->setText(tr("%1 of %2 parameters selected").arg(mpModel->selectedCount()).arg(mpModel->parameterCount()));
+}
+
+void DialogProfile::slotCurrentChanged()
+{
+    const bool hasCurrent = mpTree->currentIndex().isValid();
+    mpOnlyDevice->setEnabled(hasCurrent);
+    mpCopyName->setEnabled(hasCurrent);
+}
+
+void DialogProfile::slotOnlyDevice()
+{
+    mpModel->selectOnly(mpFilter->mapToSource(mpTree->currentIndex()));
+}
+
+void DialogProfile::slotCopyName()
+{
+    QGuiApplication::clipboard()->setText(mpTree->currentIndex().siblingAtColumn(ProfileTreeModel::eName).data().toString());
+}
+
+} // namespace ZARN

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "project/Session.h"
+
+#include <QSet>
+#include <QWidget>
+
+class QAction;
+class QLabel;
+class QLineEdit;
+class QTreeView;
+
+namespace ZARN {
+
+class ProfileFilterModel;
+class ProfileTreeModel;
+
+/// The profile panel: the tree of the profile's parameters with the check boxes that choose which ones are shown, and a field that
+/// narrows it. The main window owns it. What the user ticks goes to the profile's flags and to the project at once.
+class DialogProfile : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit DialogProfile(const Session& session, QWidget* pParent = nullptr);
+
+    /// Shows the profile as it is now: after it was loaded, after a project was read, after a change of units. Emits nothing.
+    void updateProfile();
+    /// Applies the project's names to the profile and shows them: after the project was cleared. Emits nothing.
+    void updateProject();
+
+Q_SIGNALS:
+    /// The user changed which parameters are shown.
+    void signalChanged();
+
+private Q_SLOTS:
+    void slotSelectionChanged();
+    void slotFilter(const QString& text);
+    void slotCount();
+    void slotCurrentChanged();
+    void slotOnlyDevice();
+    void slotCopyName();
+
+private:
+    void createTree();
+    void createActions();
+    QAction* addAction(const QString& name, const QString& text);
+    void rememberExpanded();
+    void restoreExpanded();
+
+    Session mSession;
+    ProfileTreeModel* mpModel;
+    ProfileFilterModel* mpFilter;
+    QLineEdit* mpSearch;
+    QTreeView* mpTree;
+    QLabel* mpCount;
+    QAction* mpSelectAll = nullptr;
+    QAction* mpSelectNone = nullptr;
+    QAction* mpOnlyDevice = nullptr;
+    QAction* mpCopyName = nullptr;
+    QSet<QString> mExpanded; ///< names of the devices that are open while nothing is searched
+};
+
+} // namespace ZARN

@@ -1,0 +1,325 @@
+#include "support/CardBuilder.h"
+#include "support/FileHelpers.h"
+#include "support/ProfileBuilder.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace ZARN;
+using namespace ZARN::Test;
+
+namespace {
+
+struct Answer {
+    int status = -1;
+    QByteArray out;
+    QByteArray errors;
+};
+
+Answer run(const QString& program, const QStringList& arguments, const QString& folder)
+{
+    QProcess process;
+    process.setWorkingDirectory(folder);
+    process.start(program, arguments);
+    if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
+        qFatal("%s did not end", qPrintable(arguments.join(' ')));
+    return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
+}
+
+QJsonObject json(const QByteArray& text)
+{
+    return QJsonDocument::fromJson(text).object();
+}
+
+} // namespace
+
+/// Starts the batch program in a folder that holds a card, "card", one without records, "empty", and profiles.
+class TestCli : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void helps_data();
+    void helps();
+    void failures_data();
+    void failures();
+    void failedWritesLeaveNothing_data();
+    void failedWritesLeaveNothing();
+    void csvGoesWhereItIsTold();
+    void jsonIsOneWholeObject();
+    void valuesSurviveTheRoundTrip();
+    void namesAreEscaped();
+    void tablesForPeople_data();
+    void tablesForPeople();
+    void unitsAndVariants();
+
+private:
+    Answer cli(const QStringList& arguments) const { return run(ZARN_CLI, arguments, mFolder.path()); }
+    Answer shell(const QString& command) const { return run("bash", {"-c", command, "bash", ZARN_CLI}, mFolder.path()); }
+    [[nodiscard]] QString csv() const { return fileContent((mFolder.path() + "/out.csv").toStdString()).c_str(); }
+    [[nodiscard]] std::set<std::string> entries() const
+    {
+        std::set<std::string> names;
+        for (const auto& entry : std::filesystem::directory_iterator(mFolder.path().toStdString()))
+            names.insert(entry.path().filename());
+        return names;
+    }
+
+    QTemporaryDir mFolder;
+    const QStringList mWith{"card", "--profile", "Profile.xml"};
+};
+
+void TestCli::initTestCase()
+{
+    const std::string folder = mFolder.path().toStdString();
+    std::filesystem::create_directories(folder + "/card");
+    std::filesystem::create_directories(folder + "/empty");
+    ProfileBuilder builder;
+    builder.variants({"A", "B"}).unit("m", "ft", 2);
+    builder.thresholds("T", {{0, "OK", "#00ff00"}, {90, "LIMIT", "red"}}).device("D");
+    builder.parameter("height", 1, "FLOAT", {{"thresholdId", "T"}, {"unitMetric", "m"}, {"unitImperial", "ft"}, {"precision", "1"}});
+    builder.parameter("Drehzahl ü", 2, "USHORT").parameter("only A", 2, "USHORT", {{"variant", "A"}}).write(mFolder.path());
+    putFile(folder + "/other.xml", "<SomethingElse/>");
+    putFile(folder + "/broken.xml", "<CanAerospaceProfile><Device>");
+    RecordFileBuilder file;
+    file.dateTime(QDateTime(QDate(2024, 5, 1), QTime(12, 0), Qt::UTC)).texts({"A", "B \"quoted\"", "C\x01\xff", "D", "E", "F"});
+    for (int i = 0; i < 400; ++i)
+        file.addFloat(1, 1 + i * 0.1, static_cast<float>(i) * 0.25F).addShort(2, 1 + i * 0.1, static_cast<uint16_t>(i));
+    file.addFloat(1, 50, std::numeric_limits<float>::quiet_NaN()).addFloat(1, 51, -HUGE_VALF).addFloat(1, 60, 0.1F).addFloat(1, 61, 0);
+    putFile(folder + "/card/LOG 1.CAN", file.bytes().toStdString());
+}
+
+void TestCli::helps_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("needle");
+    QTest::newRow("help") << QStringList{"--help"} << "Example: zarn-cli";
+    QTest::newRow("help of a subcommand") << QStringList{"csv", "--help"} << "--resolution";
+    QTest::newRow("help although the rest is wrong") << QStringList{"value", "nowhere", "--help"} << "--parameter";
+    QTest::newRow("version") << QStringList{"--version"} << ".";
+}
+
+void TestCli::helps()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, needle);
+    const Answer answer = cli(arguments);
+    QCOMPARE(answer.status, 0);
+    QVERIFY(QString(answer.out).contains(needle));
+    QCOMPARE(answer.errors, QByteArray());
+}
+
+void TestCli::failures_data()
+{
+    QTest::addColumn<QStringList>("arguments"); // "CARD" stands for the card and its profile
+    QTest::addColumn<int>("status");
+    QTest::addColumn<QString>("said"); // in the one line that is the program's own
+    const auto row = [](const char* name, const QStringList& arguments, int status, const char* said) {
+        QTest::newRow(name) << arguments << status << said;
+    };
+    row("missing folder", {"info", "no%s%n"}, 1, "no%s%n: no such folder");
+    row("file for a folder", {"info", "Profile.xml"}, 1, "Profile.xml: no such folder");
+    row("missing folder of data", {"flights", "nowhere", "--profile", "Profile.xml"}, 1, "nowhere: no such folder");
+    row("folder without records", {"csv", "empty", "--profile", "Profile.xml", "-o", "out.csv"}, 1, "empty: the folder holds no record file");
+    row("unknown cycle", {"flights", "CARD", "--cycle", "7"}, 1, "no cycle 7");
+    row("unknown flight", {"path", "CARD", "--flight", "1"}, 1, "no flight 1 in cycle 0");
+    row("flight 0", {"path", "CARD", "--flight", "0"}, 1, "no flight 0");
+    row("negative flight", {"path", "CARD", "--flight", "-1"}, 1, "no flight -1");
+    row("unknown parameter", {"value", "CARD", "--parameter", "nope%s", "--time", "1"}, 1, "nope%s: the profile has no such parameter");
+    row("parameter of another variant", {"value", "CARD", "--variant", "B", "--parameter", "only A", "--time", "1"}, 1, "only A:");
+    row("unknown selection", {"csv", "CARD", "-o", "out.csv", "--select", "height", "--select", "nope"}, 1, "nope: the profile has no such");
+    row("missing profile", {"flights", "card", "--profile", "none.xml"}, 1, "none.xml: not a readable ZARN profile");
+    row("other root", {"profile", "other.xml"}, 1, "other.xml: not a readable ZARN profile");
+    row("broken profile", {"csv", "card", "--profile", "broken.xml", "-o", "out.csv"}, 1, "broken.xml: not a readable");
+    row("missing target folder", {"csv", "CARD", "-o", "no/out.csv"}, 1, "no/out.csv: No such file or directory");
+    row("folder as target", {"csv", "CARD", "-o", "card"}, 1, "card: Is a directory");
+    row("full device", {"csv", "CARD", "-o", "/dev/full"}, 1, "/dev/full: No space left on device");
+    row("unknown subcommand", {"bogus"}, 2, "bogus");
+    row("no card", {"info"}, 2, "CARD");
+    row("unknown option", {"info", "card", "--bogus"}, 2, "--bogus");
+    row("too many cards", {"info", "card", "empty"}, 2, "empty");
+    row("option without value", {"flights", "CARD", "--cycle"}, 2, "--cycle");
+    row("cycle no number", {"flights", "CARD", "--cycle", "x"}, 2, "--cycle");
+    row("negative cycle", {"flights", "CARD", "--cycle", "-1"}, 2, "--cycle");
+    row("cycle beyond 32 bits", {"flights", "CARD", "--cycle", "4294967296"}, 2, "--cycle");
+    row("unknown unit", {"flights", "CARD", "--unit", "nautical"}, 2, "--unit");
+    row("no parameter", {"value", "CARD", "--time", "1"}, 2, "--parameter");
+    row("no time", {"value", "CARD", "--parameter", "height"}, 2, "--time");
+    row("time no number", {"value", "CARD", "--parameter", "height", "--time", "noon"}, 2, "--time");
+    row("no output", {"csv", "CARD"}, 2, "--output");
+    row("resolution", {"csv", "CARD", "-o", "out.csv", "--resolution", "50"}, 2, "--resolution");
+    row("separator", {"csv", "CARD", "-o", "out.csv", "--separator", "|"}, 2, "--separator");
+    row("two subcommands", {"info", "card", "profile", "Profile.xml"}, 2, "profile");
+    row("json for a file", {"csv", "CARD", "-o", "out.csv", "--json"}, 2, "--json");
+    row("newline in a wrong argument", {"info", "card", "--a\nb"}, 2, "--a b");
+}
+
+void TestCli::failures()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(int, status);
+    QFETCH(QString, said);
+    const qsizetype place = arguments.indexOf("CARD");
+    if (place >= 0)
+        arguments = arguments.mid(0, place) + mWith + arguments.mid(place + 1);
+    const auto before = entries();
+    const Answer answer = cli(arguments);
+    QCOMPARE(answer.status, status);
+    QCOMPARE(answer.out, QByteArray());
+    QVERIFY(entries() == before);
+    const QStringList lines = QString(answer.errors).split('\n', Qt::SkipEmptyParts);
+    QVERIFY(!lines.isEmpty());
+    QVERIFY2(lines.last().startsWith("zarn-cli: ") && lines.last().contains(said), answer.errors.constData());
+    QCOMPARE(lines.filter("zarn-cli: ").size(), 1);
+    if (status == 2)
+        QCOMPARE(lines.size(), 1);
+    const Answer none = cli({});
+    QCOMPARE(none.status, 2);
+    QVERIFY(QString(none.errors).contains("Example: zarn-cli"));
+}
+
+void TestCli::failedWritesLeaveNothing_data()
+{
+    QTest::addColumn<QString>("command"); // $1 is the program
+    QTest::addColumn<QString>("said");
+    QTest::newRow("file size limit") << "ulimit -f 1; \"$1\" csv card --profile Profile.xml -o kept.csv" << "kept.csv: File too large";
+    QTest::newRow("limit, new file") << "ulimit -f 1; \"$1\" csv card --profile Profile.xml -o new.csv" << "new.csv: File too large";
+    QTest::newRow("full standard output") << "\"$1\" csv card --profile Profile.xml -o - >/dev/full" << "standard output: No space left";
+    QTest::newRow("full standard output, json") << "\"$1\" info card --json >/dev/full" << "standard output: No space left";
+    QTest::newRow("closed standard output") << "\"$1\" csv card --profile Profile.xml -o - >&-" << "standard output: Bad file descriptor";
+    QTest::newRow("closed standard output, table") << "\"$1\" info card >&-" << "standard output: Bad file descriptor";
+    QTest::newRow("reader gone") << "set -o pipefail; \"$1\" csv card --profile Profile.xml -o - | true; exit ${PIPESTATUS[0]}" << "";
+}
+
+void TestCli::failedWritesLeaveNothing()
+{
+    QFETCH(QString, command);
+    QFETCH(QString, said);
+    putFile((mFolder.path() + "/kept.csv").toStdString(), "of yesterday");
+    const auto before = entries();
+    const Answer answer = shell(command);
+    if (!said.isEmpty()) { // whether a pipe's reader is gone in time is chance; but never a crash, and status 0 or 1
+        QCOMPARE(answer.status, 1);
+        QVERIFY2(QString(answer.errors).section('\n', -2).startsWith("zarn-cli: " + said), answer.errors.constData());
+    }
+    QVERIFY(answer.status == 0 || answer.status == 1);
+    QVERIFY(entries() == before);
+    QCOMPARE(fileContent((mFolder.path() + "/kept.csv").toStdString()), std::string("of yesterday"));
+}
+
+void TestCli::csvGoesWhereItIsTold()
+{
+    const Answer file = cli(QStringList{"csv"} + mWith + QStringList{"-o", "out.csv"});
+    QCOMPARE(file.status, 0);
+    QCOMPARE(file.out, QByteArray());
+    QCOMPARE(csv().section('\n', 0, 1), QString("Time;height;Drehzahl ü;only A\n0:00:01.000;0.0;0;0"));
+    const Answer output = cli(QStringList{"csv"} + mWith + QStringList{"-o", "-"});
+    QCOMPARE(QString(output.out), csv());
+    cli(QStringList{"csv"} + mWith + QStringList{"--output", "out.csv", "--resolution", "10", "--separator", "tab", "--select", "Drehzahl ü"});
+    QCOMPARE(csv().section('\n', 0, 2), QString("Time\tDrehzahl ü\n0:00:01.000\t0\n0:00:01.100\t1"));
+    cli(QStringList{"csv"} + mWith + QStringList{"-o", "out.csv", "--separator", "comma", "--select", "only A", "--select", "height"});
+    QCOMPARE(csv().section('\n', 0, 0), QString("Time,height,only A")); // in the profile's order
+    std::filesystem::remove((mFolder.path() + "/out.csv").toStdString());
+}
+
+void TestCli::jsonIsOneWholeObject()
+{
+    const QJsonObject info = json(cli({"info", "card", "--json"}).out);
+    QCOMPARE(info["name"].toString(), QString("card"));
+    QCOMPARE(info["path"].toString(), QString("card")); // as the call gives it
+    const QJsonObject file = info["files"].toArray().at(0).toObject();
+    QCOMPARE(file["name"].toString(), QString("LOG 1.CAN"));
+    QCOMPARE(file["dateTime"].toString(), QString("2024-05-01T12:00:00"));
+    QCOMPARE(file["ecuType"].toString(), QString("B \"quoted\""));
+    QCOMPARE(file["engineSerial"].toString(), QString("C\x01") + QChar(QChar::ReplacementCharacter));
+    QCOMPARE(file["samples"].toInt(), 804);
+    QCOMPARE(file["startsCycle"], QJsonValue(false));
+    QCOMPARE(info["cycles"].toArray().at(0).toObject()["files"], QJsonValue(QJsonArray{"LOG 1.CAN"}));
+    const QJsonObject empty = json(cli({"info", "empty", "--json"}).out);
+    QCOMPARE(empty["files"], QJsonValue(QJsonArray()));
+    QCOMPARE(empty["cycles"], QJsonValue(QJsonArray()));
+    const QJsonObject flights = json(cli(QStringList{"flights"} + mWith + QStringList{"--json"}).out);
+    QCOMPARE(flights["endTime"].toDouble(), 61.0);
+    QCOMPARE(flights["flights"], QJsonValue(QJsonArray()));
+    const QJsonObject profile = json(cli({"profile", "Profile.xml", "--variant", "B", "--json"}).out);
+    QCOMPARE(profile["variants"].toArray().size(), 2); // all that the file declares
+    QCOMPARE(profile["parameters"].toArray().size(), 2);
+    QCOMPARE(json(cli(QStringList{"path"} + mWith + QStringList{"--json"}).out)["points"], QJsonValue(QJsonArray()));
+}
+
+void TestCli::valuesSurviveTheRoundTrip()
+{
+    const Answer answer = cli(QStringList{"value"} + mWith + QStringList{"--parameter", "height", "--time", "50.5", "--time", "51.5", "--time",
+                                                                        "60.5", "--time", "-5", "--time", "61.5", "--time", "0.5", "--json"});
+    QCOMPARE(answer.status, 0);
+    const QJsonArray values = json(answer.out)["values"].toArray();
+    QCOMPARE(values.size(), 6);
+    QCOMPARE(values[0].toObject()["value"].toString(), QString("nan"));
+    QCOMPARE(values[1].toObject()["value"].toString(), QString("-inf"));
+    QCOMPARE(values[2].toObject()["value"].toDouble(), static_cast<double>(0.1F));
+    QVERIFY(values[2].toObject()["value"].toDouble() == static_cast<double>(0.1F));
+    QCOMPARE(values[0].toObject()["color"].toString(), QString("#ff0000"));
+    QCOMPARE(values[0].toObject()["state"].toInt(), 2);
+    for (const int none : {3, 4}) { // before the index and after the last sample
+        QCOMPARE(values[none].toObject()["text"].toString(), QString(""));
+        QVERIFY(values[none].toObject()["color"].isNull());
+    }
+    QCOMPARE(values[5].toObject()["text"].toString(), QString("0.0")); // before the first sample: the first
+    QCOMPARE(json(answer.out)["unit"].toString(), QString("m"));
+}
+
+void TestCli::namesAreEscaped()
+{
+    CardBuilder card;
+    card.rawFile("quote\" back\\ line\n tab\t ü.CAN", RecordFileBuilder().addWord(1, 1, 0).bytes());
+    const QJsonObject info = json(cli({"info", card.path() + "/", "--json"}).out);
+    QCOMPARE(info["files"].toArray().at(0).toObject()["name"].toString(), QString("quote\" back\\ line\n tab\t ü.CAN"));
+    QVERIFY(info["files"].toArray().at(0).toObject()["dateTime"].isNull());
+    QCOMPARE(info["name"].toString(), QString("")); // what stands after the last slash
+}
+
+void TestCli::tablesForPeople_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QStringList>("needles");
+    QTest::newRow("info") << QStringList{"info", "card"} << QStringList{"LOG 1.CAN", "2024-05-01 12:00:00", "00:01:01.000", "804"};
+    QTest::newRow("info, nothing there") << QStringList{"info", "empty"} << QStringList{"empty", "no record file"};
+    QTest::newRow("flights") << QStringList{"flights", "CARD"} << QStringList{"Cycle 0", "No flight"};
+    QTest::newRow("value") << QStringList{"value", "CARD", "--parameter", "height", "--time", "60.5", "--time", "99"}
+                           << QStringList{"D/height [m]", "0.100000", "ok", "no data"};
+    QTest::newRow("path") << QStringList{"path", "CARD"} << QStringList{"Latitude"};
+    QTest::newRow("profile") << QStringList{"profile", "Profile.xml"} << QStringList{"D/Drehzahl ü", "Variant A"};
+}
+
+void TestCli::tablesForPeople()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QStringList, needles);
+    const qsizetype place = arguments.indexOf("CARD");
+    if (place >= 0)
+        arguments = arguments.mid(0, place) + mWith + arguments.mid(place + 1);
+    const Answer answer = cli(arguments);
+    QCOMPARE(answer.status, 0);
+    for (const QString& needle : needles)
+        QVERIFY2(QString(answer.out).contains(needle), answer.out.constData());
+    for (const QByteArray& line : answer.out.split('\n'))
+        QVERIFY2(!line.endsWith(' ') && !line.contains('\t'), line.constData());
+}
+
+void TestCli::unitsAndVariants()
+{
+    const QStringList times{"--parameter", "height", "--time", "11", "--json"};
+    const auto value = [&](const QStringList& more) {
+        return json(cli(QStringList{"value"} + mWith + times + more).out)["values"].toArray().at(0).toObject()["value"].toDouble();
+    };
+    QCOMPARE(value({}), 24.75);
+    QCOMPARE(value({"--unit", "imperial"}), 49.5);
+    QCOMPARE(value({"--unit", "metric", "--cycle", "0", "--variant", "A"}), 24.75);
+}
+
+QTEST_APPLESS_MAIN(TestCli)
+#include "TestCli.moc"

@@ -1,0 +1,335 @@
+#include "export/ExportCsv.h"
+#include "support/CardBuilder.h"
+#include "support/FileHelpers.h"
+#include "support/ProfileBuilder.h"
+#include "support/TestCycle.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <random>
+#include <set>
+
+using namespace ZARN;
+using namespace ZARN::Test;
+
+namespace {
+
+/// The table as it is defined: an ordered map of rows, each an ordered map of cells, filled column by column.
+class NaiveCsv {
+public:
+    NaiveCsv(Profile& profile, const RecordData& data, const CsvExportOptions& options) : mProfile(profile), mData(data), mOptions(options) {}
+
+    std::string text()
+    {
+        std::string text = "Time";
+        std::vector<const ProfileParameter*> columns;
+        for (const ProfileDevice& device : mProfile.data()) {
+            for (const ProfileParameter& parameter : device.parameters) {
+                if (mOptions.allParameters || mProfile.isSelected(parameter.name))
+                    columns.push_back(&parameter);
+            }
+        }
+        mProfile.resetCoordinates();
+        for (std::size_t i = 0; i < columns.size(); ++i) {
+            text += mOptions.separator + columns[i]->name;
+            fillColumn(i, *columns[i]);
+        }
+        text += "\n";
+        std::vector<std::string> held(columns.size());
+        for (const auto& [tick, cells] : mRows) {
+            text += timeText(tick);
+            for (std::size_t i = 0; i < columns.size(); ++i) {
+                if (const auto cell = cells.find(i); cell != cells.end())
+                    held[i] = cell->second;
+                text += mOptions.separator + held[i];
+            }
+            text += "\n";
+        }
+        return text;
+    }
+
+private:
+    void fillColumn(std::size_t column, const ProfileParameter& parameter)
+    {
+        const RecordChannel* pChannel = mData.channel(parameter.identifier());
+        if (!pChannel)
+            return;
+        int state = 0;
+        QColor colour;
+        for (const RecordEntry& entry : pChannel->entries) {
+            const double tick = entry.time * (1 / (mOptions.resolution * 0.001)) + 0.5;
+            mRows[tick < 4294967295.0 ? static_cast<uint32_t>(tick) : UINT32_MAX][column] =
+                mProfile.getDataString(entry, parameter, state, colour);
+        }
+    }
+
+    [[nodiscard]] std::string timeText(uint32_t tick) const
+    {
+        const double second = 1 / (mOptions.resolution * 0.001);
+        const double hours = std::trunc(tick / (second * 3600));
+        double rest = tick - hours * second * 3600;
+        const double minutes = std::trunc(rest / (second * 60));
+        rest -= minutes * second * 60;
+        const double seconds = std::trunc(rest / second);
+        rest -= seconds * second;
+        char buffer[64];
+        std::snprintf(buffer, sizeof buffer, "%d:%02d:%02d.%03d", static_cast<int>(hours), static_cast<int>(minutes),
+                      static_cast<int>(seconds), static_cast<int>(rest * mOptions.resolution));
+        return buffer;
+    }
+
+    Profile& mProfile;
+    const RecordData& mData;
+    const CsvExportOptions& mOptions;
+    std::map<uint32_t, std::map<std::size_t, std::string>> mRows;
+};
+
+const QString kLongLabel = QString("a long label; with, separators\tin it ").repeated(3);
+
+void loadProfile(Profile& profile)
+{
+    ProfileBuilder builder;
+    builder.enumeration("E", {{0, "off"}, {1, kLongLabel}, {2, "ein Wort für zwei"}, {3, ""}});
+    builder.device("A").parameter("speed", 1, "FLOAT", {{"precision", "2"}}).parameter("far", 1, "FLOAT", {{"precision", "17"}, {"factor", "1e20"}});
+    builder.parameter("switch", 2, "BLONG", {{"enumId", "E"}, {"endBit", "2"}}).parameter("flags", 2, "BSHORT", {{"startByte", "6"}, {"endBit", "3"}});
+    builder.position("Latitude", 3).position("Longitude", 4).parameter("unknown", 5, "ACHAR").parameter("silent", 77, "USHORT");
+    builder.device("B").parameter("count", 5, "ULONG", {{"precision", "4"}}).parameter("byte", 1, "UCHAR").parameter("speed", 6, "LONG");
+    builder.parameter("all of kind 0", RecordData::kPseudoKind0, "USHORT", {{"startByte", "2"}}).position("Latitude", 4);
+    if (!builder.load(profile))
+        qFatal("the profile does not load");
+}
+
+/// The next tick of a recording of some kind.
+uint64_t nextTicks(const QString& kind, uint64_t now, std::mt19937_64& random)
+{
+    if (kind == "dense")
+        return now + random() % 40000; // several samples a row
+    if (kind == "sparse")
+        return now + random() % 2 * (random() % (UINT64_C(1) << 36)) + 7;
+    if (kind == "unordered")
+        return random() % 64'000'000'000;
+    if (kind == "restarts")
+        return random() % 200 ? now + random() % 900000 : random() % 1000000;
+    return now + random() % 400000; // ends of the tick range
+}
+
+RecordData& fill(RecordData& data, const QString& kind, std::mt19937_64& random)
+{
+    // 2^32 ticks of 10 ms, of 100 ms, and times beyond both.
+    const std::map<QString, double> starts{{"near 2^32 of 10 ms", 42949670}, {"near 2^32 of 100 ms", 429496727}, {"beyond", 5e11}};
+    uint64_t now = starts.contains(kind) ? static_cast<uint64_t>(starts.at(kind) * 32e6) : 0;
+    for (int i = 0; i < 4000; ++i) {
+        now = nextTicks(kind, now, random);
+        const auto identifier = static_cast<uint32_t>(random() % 7 + 1);
+        StoredRecord record{wordPayload(static_cast<uint32_t>(random())), 0, 0, static_cast<uint16_t>(random() % 3), 0, 0, now};
+        if (identifier == 3 || identifier == 4)
+            record.payload = floatPayload(static_cast<float>(4800 + static_cast<int>(random() % 100) / 10.0 + (random() % 30 == 0 ? 500 : 0)));
+        else if (identifier == 1 && random() % 4)
+            record.payload = floatPayload(static_cast<float>(random() % 30000) / 128);
+        data.append(identifier, record);
+    }
+    data.buildTimeIndex();
+    return data;
+}
+
+struct Export {
+    Export() { options.directory = folder.path(), options.fileName = "out.csv"; }
+    std::string run(const RecordData& data)
+    {
+        ExportCsv exporter(cycle.profile);
+        if (!exporter.exportData(data, options))
+            qFatal("%s", exporter.error().c_str());
+        return fileContent((folder.path() + "/out.csv").toStdString());
+    }
+
+    QTemporaryDir folder;
+    TestCycle cycle;
+    CsvExportOptions options;
+};
+
+/// Compares line by line, so that a failure names the place.
+void compareLines(const std::string& actual, const std::string& expected)
+{
+    if (actual == expected)
+        return;
+    const QList<QByteArray> actualLines = QByteArray::fromStdString(actual).split('\n');
+    const QList<QByteArray> expectedLines = QByteArray::fromStdString(expected).split('\n');
+    for (qsizetype i = 0; i < std::min(actualLines.size(), expectedLines.size()); ++i)
+        QCOMPARE(actualLines[i], expectedLines[i]);
+    QCOMPARE(actualLines.size(), expectedLines.size());
+}
+
+} // namespace
+
+class TestExportCsv : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void equalsNaiveTable_data();
+    void equalsNaiveTable();
+    void selection();
+    void timeColumn_data();
+    void timeColumn();
+    void lastOfATickCountsAndHolds();
+    void widthsAndTextsBeyondTheBuffers_data();
+    void widthsAndTextsBeyondTheBuffers();
+    void targetsThatCannotBeWritten_data();
+    void targetsThatCannotBeWritten();
+};
+
+void TestExportCsv::equalsNaiveTable_data()
+{
+    QTest::addColumn<QString>("kind");
+    QTest::addColumn<int>("resolution");
+    for (const char* kind : {"dense", "sparse", "unordered", "restarts", "near 2^32 of 10 ms", "near 2^32 of 100 ms", "beyond"}) {
+        for (const int resolution : {100, 10})
+            QTest::addRow("%s, %d ms", kind, resolution) << kind << resolution;
+    }
+}
+
+void TestExportCsv::equalsNaiveTable()
+{
+    QFETCH(QString, kind);
+    QFETCH(int, resolution);
+    std::mt19937_64 random(qHash(kind, 1));
+    Export csv;
+    loadProfile(csv.cycle.profile);
+    RecordData data;
+    fill(data, kind, random);
+    csv.options.resolution = static_cast<uint32_t>(resolution);
+    csv.options.separator = resolution == 10 ? '\t' : ';';
+    compareLines(csv.run(data), NaiveCsv(csv.cycle.profile, data, csv.options).text());
+    // Again, in other units and with some columns: nothing of the first export remains, the position filter least of all.
+    csv.cycle.profile.setCurrentUnit(EUnit::eImperial);
+    csv.options.allParameters = false;
+    for (const char* name : {"Longitude", "Latitude", "switch"})
+        csv.cycle.profile.setSelected(name, true);
+    compareLines(csv.run(data), NaiveCsv(csv.cycle.profile, data, csv.options).text());
+}
+
+void TestExportCsv::selection()
+{
+    Export csv;
+    loadProfile(csv.cycle.profile);
+    RecordData data;
+    RecordFileBuilder().addFloat(1, 0.04, 1).addWord(6, 0.2, 7).fill(data);
+    csv.options.allParameters = false;
+    QCOMPARE(csv.run(data), std::string("Time\n")); // nothing selected
+    csv.cycle.profile.setSelected("silent", true);
+    QCOMPARE(csv.run(data), std::string("Time;silent\n")); // no samples: no rows
+    csv.cycle.profile.setSelected("speed", true);  // of both devices
+    csv.options.separator = '\t';
+    QCOMPARE(csv.run(data), std::string("Time\tspeed\tsilent\tspeed\n0:00:00.000\t1.00\t\t\n0:00:00.200\t1.00\t\t7\n"));
+}
+
+void TestExportCsv::timeColumn_data()
+{
+    QTest::addColumn<int>("resolution");
+    QTest::addColumn<double>("seconds");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("tick 36005") << 100 << 3600.5 << "1:00:00.500";
+    QTest::newRow("tick 5") << 10 << 0.05 << "0:00:00.050";
+    QTest::newRow("rounds to nearest") << 100 << 0.15 << "0:00:00.200";
+    QTest::newRow("just below") << 100 << 0.1499 << "0:00:00.100";
+    QTest::newRow("carries") << 10 << 59.996 << "0:01:00.000";
+    QTest::newRow("hours are not limited") << 100 << 360000.0 << "100:00:00.000";
+    QTest::newRow("last tick of 100 ms") << 100 << 1e9 << "119304:38:49.500";
+    QTest::newRow("last tick of 10 ms") << 10 << 1e9 << "11930:27:52.950";
+}
+
+void TestExportCsv::timeColumn()
+{
+    QFETCH(int, resolution);
+    QFETCH(double, seconds);
+    Export csv;
+    QVERIFY(ProfileBuilder().device("D").parameter("p", 1, "UCHAR").load(csv.cycle.profile));
+    RecordData data;
+    RecordFileBuilder().add(1, seconds, bytePayload(3)).fill(data);
+    csv.options.resolution = static_cast<uint32_t>(resolution);
+    QTEST(QString::fromStdString(csv.run(data)).section('\n', 1, 1).section(';', 0, 0), "text");
+}
+
+void TestExportCsv::lastOfATickCountsAndHolds()
+{
+    Export csv;
+    QVERIFY(ProfileBuilder().device("D").parameter("slow", 1, "UCHAR").parameter("fast", 2, "UCHAR").load(csv.cycle.profile));
+    RecordData data;
+    RecordFileBuilder file;
+    file.add(1, 0.06, bytePayload(1)).add(1, 0.14, bytePayload(2)).add(2, 0.0, bytePayload(9)); // the times go back
+    for (int i = 1; i <= 4; ++i)
+        file.add(2, i * 0.1, bytePayload(static_cast<uint8_t>(10 + i)));
+    file.add(1, 0.4, bytePayload(3)).add(1, 0.38, bytePayload(4)).fill(data); // the last in order of reception, not of time
+    QCOMPARE(csv.run(data), std::string("Time;slow;fast\n0:00:00.000;;9\n0:00:00.100;2;11\n0:00:00.200;2;12\n0:00:00.300;2;13\n"
+                                        "0:00:00.400;4;14\n"));
+}
+
+void TestExportCsv::widthsAndTextsBeyondTheBuffers_data()
+{
+    QTest::addColumn<int>("columns");
+    QTest::addColumn<int>("labelLength");
+    for (const int length : {13, 14, 15, 16, 17, 1000}) // around what a cell holds with the number before it and the separator
+        QTest::addRow("label of %d", length) << 3 << length - 4;
+    QTest::newRow("label beyond the line buffer") << 3 << 700000;
+    QTest::newRow("label of about the line buffer") << 3 << 262144 - 40;
+    QTest::newRow("many columns") << 5000 << 3;
+    QTest::newRow("many columns with long texts") << 2500 << 100;
+    QTest::newRow("a row beyond the line buffer") << 40000 << 20;
+}
+
+void TestExportCsv::widthsAndTextsBeyondTheBuffers()
+{
+    QFETCH(int, columns);
+    QFETCH(int, labelLength);
+    Export csv;
+    ProfileBuilder builder;
+    builder.enumeration("E", {{0, QString(labelLength, 'x')}, {1, "y"}}).device("D");
+    for (int i = 0; i < columns; ++i)
+        builder.parameter(QString::number(i), i % 50, "BLONG", {{"enumId", "E"}, {"endBit", QString::number(i % 3)}});
+    QVERIFY(builder.load(csv.cycle.profile));
+    RecordData data;
+    RecordFileBuilder file;
+    for (int i = 0; i < 150; ++i)
+        file.addWord(static_cast<uint32_t>(i * 7 % 50), i * 0.1 + (i > 100 ? 100 : 0), static_cast<uint32_t>(i / 3 % 8), 5);
+    file.fill(data);
+    compareLines(csv.run(data), NaiveCsv(csv.cycle.profile, data, csv.options).text());
+}
+
+void TestExportCsv::targetsThatCannotBeWritten_data()
+{
+    QTest::addColumn<QString>("directory"); // "-" is the test's own folder
+    QTest::addColumn<QString>("fileName");
+    QTest::addColumn<int>("resolution");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("full disk") << "/dev" << "full" << 100 << "/dev/full: No space left on device";
+    QTest::newRow("missing folder") << "/nonexistent" << "out.csv" << 100 << "/nonexistent/out.csv: No such file or directory";
+    QTest::newRow("a folder") << "/" << "dev" << 100 << "//dev: Is a directory";
+    QTest::newRow("no such resolution") << "-" << "out.csv" << 0 << "no resolution of 0 ms";
+    QTest::newRow("a resolution that no second is made of") << "-" << "out.csv" << 30 << "no resolution of 30 ms";
+}
+
+void TestExportCsv::targetsThatCannotBeWritten()
+{
+    QFETCH(QString, directory);
+    QFETCH(QString, fileName);
+    QFETCH(int, resolution);
+    Export csv;
+    loadProfile(csv.cycle.profile);
+    RecordData data;
+    std::mt19937_64 random(1);
+    fill(data, "dense", random);
+    csv.options.directory = directory == "-" ? csv.folder.path() : directory;
+    csv.options.fileName = fileName;
+    csv.options.resolution = static_cast<uint32_t>(resolution);
+    ExportCsv exporter(csv.cycle.profile);
+    QVERIFY(!exporter.exportData(data, csv.options));
+    QTEST(QString::fromStdString(exporter.error()), "reason");
+    QCOMPARE(entryCount(csv.folder.path().toStdString()), 0L);
+    // The next export starts anew.
+    csv.options = {csv.folder.path(), "out.csv"};
+    QVERIFY(exporter.exportData(data, csv.options));
+    QCOMPARE(exporter.error(), std::string());
+}
+
+QTEST_APPLESS_MAIN(TestExportCsv)
+#include "TestExportCsv.moc"

@@ -1,0 +1,158 @@
+#include "app/Property.h"
+#include "profile/ui/DialogProfile.h"
+#include "project/Project.h"
+#include "support/ProfileBuilder.h"
+#include "support/TestCycle.h"
+
+#include <QAction>
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTreeView>
+
+using namespace ZARN;
+
+namespace {
+
+/// The profile panel over a small profile, in a window that has the focus.
+struct Panel : Test::TestCycle {
+    Panel()
+    {
+        load();
+        dialog.updateProfile();
+        dialog.resize(400, 500);
+        dialog.show();
+        dialog.activateWindow();
+        active = QTest::qWaitForWindowActive(&dialog);
+    }
+    void load()
+    {
+        Test::ProfileBuilder()
+            .device("Lane")
+            .parameter("Speed", 300, "FLOAT", {{"unitMetric", "rpm"}})
+            .parameter("<b>Oil</b> %1 & co", 301, "FLOAT", {{"unitMetric", "bar"}})
+            .device("Airframe")
+            .parameter("Altitude", 411, "FLOAT", {{"unitMetric", "m"}})
+            .load(profile);
+    }
+    [[nodiscard]] QModelIndex at(int device, int parameter = -1) const
+    {
+        const QModelIndex index = pTree->model()->index(device, 0);
+        return parameter < 0 ? index : pTree->model()->index(parameter, 0, index);
+    }
+    void trigger(const QString& action, const QModelIndex& current) const
+    {
+        pTree->setCurrentIndex(current);
+        dialog.findChild<QAction*>(action)->trigger();
+    }
+    [[nodiscard]] QString count() const { return dialog.findChild<QLabel*>("count")->text(); }
+
+    Property property{console};
+    Project project{console, profile};
+    DialogProfile dialog{Session{console, property, profile, container, project}};
+    QTreeView* pTree = dialog.findChild<QTreeView*>();
+    QLineEdit* pSearch = dialog.findChild<QLineEdit*>();
+    QSignalSpy changed{&dialog, &DialogProfile::signalChanged};
+    bool active = false;
+};
+
+} // namespace
+
+class TestDialogProfile : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void keyboardTicks();
+    void searching();
+    void menu();
+    void projectInStep();
+    void expansionOutlivesReload();
+};
+
+void TestDialogProfile::keyboardTicks()
+{
+    Panel panel;
+    QVERIFY(panel.active);
+    QCOMPARE(panel.count(), "0 of 3 parameters selected");
+    panel.pTree->setFocus();
+    for (const Qt::Key key : {Qt::Key_Home, Qt::Key_Right, Qt::Key_Down, Qt::Key_Space})
+        QTest::keyClick(panel.pTree, key);
+    QVERIFY(panel.profile.isSelected("Speed"));
+    QCOMPARE(panel.changed.count(), 1);
+    QCOMPARE(panel.count(), "1 of 3 parameters selected");
+    for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Space})
+        QTest::keyClick(panel.pTree, key);
+    QVERIFY(panel.profile.isSelected("<b>Oil</b> %1 & co"));
+    QTest::keyClick(panel.pTree, Qt::Key_Space);
+    QCOMPARE(panel.count(), "0 of 3 parameters selected");
+    QCOMPARE(panel.changed.count(), 3);
+}
+
+void TestDialogProfile::searching()
+{
+    Panel panel;
+    panel.pTree->expand(panel.at(1));
+    panel.pSearch->setFocus();
+    QTest::keyClicks(panel.pSearch, "BAR");
+    QCOMPARE(panel.pTree->model()->rowCount(), 1);
+    QVERIFY(panel.pTree->isExpanded(panel.at(0))); // what is found is seen
+    QCOMPARE(panel.at(0, 0).data().toString(), "<b>Oil</b> %1 & co");
+    panel.trigger("selectAll", panel.at(0));
+    QCOMPARE(panel.count(), "1 of 3 parameters selected");
+    panel.load();
+    panel.dialog.updateProfile();
+    QVERIFY(panel.pTree->isExpanded(panel.at(0)));
+    for (int i = 0; i < 3; ++i)
+        QTest::keyClick(panel.pSearch, Qt::Key_Backspace);
+    QCOMPARE(panel.pTree->model()->rowCount(), 2);
+    QVERIFY(!panel.pTree->isExpanded(panel.at(0)));
+    QVERIFY(panel.pTree->isExpanded(panel.at(1)));
+}
+
+void TestDialogProfile::menu()
+{
+    Panel panel;
+    panel.trigger("selectAll", {});
+    QCOMPARE(panel.count(), "3 of 3 parameters selected");
+    panel.trigger("onlyDevice", panel.at(1, 0));
+    QCOMPARE(panel.count(), "1 of 3 parameters selected");
+    QVERIFY(panel.profile.isSelected("Altitude"));
+    panel.trigger("copyName", panel.at(0, 1).siblingAtColumn(2));
+    QCOMPARE(QGuiApplication::clipboard()->text(), "<b>Oil</b> %1 & co");
+    panel.trigger("selectNone", {});
+    QCOMPARE(panel.count(), "0 of 3 parameters selected");
+    QCOMPARE(panel.changed.count(), 3);
+    QVERIFY(!panel.dialog.findChild<QAction*>("copyName")->isEnabled());
+    QCOMPARE(panel.pTree->contextMenuPolicy(), Qt::ActionsContextMenu);
+}
+
+void TestDialogProfile::projectInStep()
+{
+    Panel panel;
+    panel.trigger("onlyDevice", panel.at(1));
+    QCOMPARE(panel.project.parameterNames(), std::set<std::string>{"Altitude"});
+    panel.load();
+    panel.dialog.updateProject(); // another variant: what was ticked stays
+    QCOMPARE(panel.count(), "1 of 3 parameters selected");
+    panel.project.clear();
+    panel.dialog.updateProject();
+    QCOMPARE(panel.count(), "0 of 3 parameters selected");
+    QVERIFY(!panel.profile.isSelected("Altitude"));
+    QCOMPARE(panel.changed.count(), 1);
+}
+
+void TestDialogProfile::expansionOutlivesReload()
+{
+    Panel panel;
+    panel.pTree->expand(panel.at(1));
+    panel.load();
+    panel.dialog.updateProfile();
+    QVERIFY(!panel.pTree->isExpanded(panel.at(0)));
+    QVERIFY(panel.pTree->isExpanded(panel.at(1)));
+}
+
+QTEST_MAIN(TestDialogProfile)
+#include "TestDialogProfile.moc"

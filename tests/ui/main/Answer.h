@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QMessageBox>
+#include <QTimer>
+
+#include <functional>
+
+/// Answers the next modal window, once it stands; what it was is kept for the test.
+class Answer : public QObject {
+public:
+    explicit Answer(std::function<void(QWidget*)> answer) : mAnswer(std::move(answer))
+    {
+        connect(&mTimer, &QTimer::timeout, this, [this] {
+            QWidget* pModal = QApplication::activeModalWidget();
+            if (!pModal || !pModal->isVisible())
+                return;
+            mTimer.stop();
+            title = pModal->windowTitle();
+            if (const auto* pBox = qobject_cast<QMessageBox*>(pModal))
+                text = pBox->text();
+            mAnswer(pModal);
+        });
+        mTimer.start(20);
+    }
+
+    static void close(QWidget* pModal) { pModal->close(); }
+    /// Presses the button with that text.
+    static std::function<void(QWidget*)> press(const QString& button)
+    {
+        return [button](QWidget* pModal) {
+            for (QAbstractButton* pButton : pModal->findChildren<QAbstractButton*>()) {
+                if (pButton->text() == button)
+                    return pButton->click();
+            }
+            pModal->close();
+        };
+    }
+
+    QString title; ///< empty while no window has come
+    QString text;
+
+private:
+    std::function<void(QWidget*)> mAnswer;
+    QTimer mTimer;
+};

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "app/CmdLine.h"
+#include "app/DataHandler.h"
+#include "app/Property.h"
+#include "app/StyleHandler.h"
+#include "app/gui/Kernel.h"
+#include "card/CardContainer.h"
+#include "profile/Profile.h"
+#include "project/Project.h"
+#include "support/ConsoleText.h"
+#include "ui/main/DialogMain.h"
+
+#include "app/Progress.h"
+
+#include <QApplication>
+#include <QTemporaryDir>
+
+#include <optional>
+
+/// Everything that a main window needs, in a home folder of its own: no settings of the user are read or written. A second fixture over
+/// the same home is the next start of the program.
+struct DesktopFixture {
+    explicit DesktopFixture(const QString& home, const std::vector<std::string>& arguments = {})
+        : cmdLine(console.console),
+          folders(ZARN_BINARY_DIR "/bin", home.toStdString(), home.toStdString() + "/data", console.console),
+          property(console.console), profile(console.console), container(console.console, profile, ZARN::nullProgress()),
+          project(console.console, profile), kernel(property, style, [this](const QString& program, const QStringList& given) {
+              restarted = QStringList{program} + given;
+              return true;
+          })
+    {
+        std::vector<const char*> pointers{"zarn"};
+        for (const std::string& argument : arguments)
+            pointers.push_back(argument.c_str());
+        cmdLine.addSwitch("-emu", "");
+        cmdLine.addParameter("-s", "", "");
+        cmdLine.addOperand([](const std::string& argument) { return argument.front() == '/'; });
+        cmdLine.parse(static_cast<int>(pointers.size()), pointers.data());
+        property.setConfigFile(folders.dataPath() + "/ZARN.ini");
+        property.readXmlFile();
+        kernel.setApplication(qApp);
+    }
+
+    /// Opens the window, as the start of the program does.
+    ZARN::DialogMain& open(bool withDefaults = false)
+    {
+        window.emplace(ZARN::Session{console.console, property, profile, container, project},
+                       ZARN::Desktop{cmdLine, folders, kernel, QString(), withDefaults});
+        return *window;
+    }
+
+    ConsoleText console;
+    ZARN::CmdLine cmdLine;
+    DataHandler folders;
+    ZARN::Property property;
+    ZARN::Profile profile;
+    ZARN::CardContainer container;
+    ZARN::Project project;
+    StyleHandler style;
+    QStringList restarted;
+    ZARN::Kernel kernel;
+    std::optional<ZARN::DialogMain> window;
+};

@@ -1,0 +1,165 @@
+#include "FlightCard.h"
+#include "ui/main/DialogCard.h"
+
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QTabWidget>
+#include <QTest>
+#include <QTreeWidget>
+
+using namespace ZARN;
+using Test::FlightCard;
+
+namespace {
+
+/// The card browser over a card, loading what it asks for as the main window does, and driven by the user's keys and clicks.
+struct Browser : FlightCard {
+    Browser()
+    {
+        QObject::connect(&dialog, &DialogCard::signalLoadCycle, &dialog, [this](unsigned int cycle, int flight) {
+            loaded << QPoint(static_cast<int>(cycle), flight);
+            container.loadCycle(cycle, flight);
+        });
+        QObject::connect(&dialog, &DialogCard::signalLoadRecord, &dialog, [this](const std::list<QString>& files) {
+            QStringList names;
+            for (const QString& file : files)
+                names << file.section('/', -1);
+            loadedFiles << names.join(' ');
+        });
+        dialog.reloadCardInfo();
+        dialog.resize(360, 500);
+        dialog.show();
+        dialog.activateWindow();
+        exposed = QTest::qWaitForWindowActive(&dialog);
+    }
+    void click(const QTreeWidget* pTree, const QTreeWidgetItem* pItem, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const
+    {
+        pTabs->setCurrentWidget(const_cast<QTreeWidget*>(pTree));
+        QTest::mouseClick(pTree->viewport(), Qt::LeftButton, modifiers, pTree->visualItemRect(pItem).center());
+    }
+    /// Long enough for a choice to be loaded.
+    static void settle() { QTest::qWait(DialogCard::kDelay + 200); }
+
+    DialogCard dialog{container};
+    QTreeWidget* pCycles = dialog.findChild<QTreeWidget*>("treeCycles");
+    QTreeWidget* pRawData = dialog.findChild<QTreeWidget*>("treeRawData");
+    QTabWidget* pTabs = dialog.findChild<QTabWidget*>();
+    QList<QPoint> loaded;    // cycle, flight
+    QStringList loadedFiles; // one text a load
+    bool exposed = false;
+};
+
+} // namespace
+
+class TestDialogCard : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void quickChoicesLoadTheLast();
+    void flightsUnderTheirCycle();
+    void recordFiles();
+    void oneTreeChoosesAtATime();
+    void reloadDropsWhatWaits();
+    void emptyCard();
+};
+
+void TestDialogCard::quickChoicesLoadTheLast()
+{
+    Browser browser;
+    QVERIFY(browser.exposed);
+    const QTreeWidgetItem* pDate = browser.pCycles->topLevelItem(0);
+    browser.click(browser.pCycles, pDate->child(0));
+    QTest::qWait(DialogCard::kDelay / 2);
+    QTest::keyClick(browser.pCycles, Qt::Key_Down);
+    QCOMPARE(browser.pCycles->currentItem(), pDate->child(1));
+    QTest::qWait(DialogCard::kDelay / 2);
+    QTest::keyClick(browser.pCycles, Qt::Key_Down); // the date, which is no choice
+    QTest::keyClick(browser.pCycles, Qt::Key_Down);
+    QTest::qWait(DialogCard::kDelay / 2);
+    QVERIFY(browser.loaded.isEmpty());
+    Browser::settle();
+    QCOMPARE(browser.loaded, QList<QPoint>{QPoint(3, -1)});
+}
+
+void TestDialogCard::flightsUnderTheirCycle()
+{
+    Browser browser;
+    QTreeWidgetItem* pCycle = browser.pCycles->topLevelItem(0)->child(0);
+    QCOMPARE(pCycle->childCount(), 0);
+    browser.click(browser.pCycles, pCycle);
+    Browser::settle();
+    QCOMPARE(pCycle->childCount(), 1);
+    QVERIFY(pCycle->isExpanded());
+    QTreeWidgetItem* pFlight = pCycle->child(0);
+    QCOMPARE(pFlight->data(0, Qt::UserRole).toUInt(), 1U);
+    QCOMPARE(pFlight->data(0, Qt::UserRole + 1).toInt(), 0);
+    browser.click(browser.pCycles, pFlight);
+    Browser::settle();
+    QCOMPARE(browser.loaded, (QList<QPoint>{QPoint(1, -1), QPoint(1, 0)}));
+    QCOMPARE(pCycle->child(0), pFlight); // choosing a flight leaves the list alone
+    browser.click(browser.pCycles, pCycle);
+    Browser::settle();
+    QCOMPARE(pCycle->childCount(), 1); // choosing the cycle again lists them anew, not twice
+    browser.dialog.addFlights(99);
+}
+
+void TestDialogCard::recordFiles()
+{
+    Browser browser;
+    const QTreeWidgetItem* pDate = browser.pRawData->topLevelItem(0);
+    browser.click(browser.pRawData, pDate->child(2));
+    browser.click(browser.pRawData, pDate->child(0), Qt::ControlModifier);
+    Browser::settle();
+    browser.click(browser.pRawData, pDate->child(0), Qt::ControlModifier);
+    browser.click(browser.pRawData, pDate->child(2), Qt::ControlModifier);
+    Browser::settle();
+    QCOMPARE(browser.loadedFiles, QStringList{"01.CAN 03.CAN"}); // in the card's order, and nothing for no file
+    QCOMPARE(pDate->child(0)->childCount(), 12);
+    QVERIFY(pDate->child(0)->toolTip(0).startsWith("Start Time: "));
+    QVERIFY(!(pDate->flags() & Qt::ItemIsSelectable));
+    QVERIFY(pDate->flags() & Qt::ItemIsEnabled);
+    QVERIFY(!(pDate->child(0)->child(0)->flags() & Qt::ItemIsSelectable));
+}
+
+void TestDialogCard::oneTreeChoosesAtATime()
+{
+    Browser browser;
+    browser.click(browser.pCycles, browser.pCycles->topLevelItem(0)->child(0));
+    browser.click(browser.pRawData, browser.pRawData->topLevelItem(0)->child(1));
+    Browser::settle();
+    QVERIFY(browser.loaded.isEmpty());
+    QCOMPARE(browser.loadedFiles, QStringList{"02.CAN"});
+    browser.click(browser.pCycles, browser.pCycles->topLevelItem(0)->child(0)); // the same as before is a choice again
+    Browser::settle();
+    QCOMPARE(browser.loaded, QList<QPoint>{QPoint(1, -1)});
+    QVERIFY(browser.pRawData->selectedItems().isEmpty());
+}
+
+void TestDialogCard::reloadDropsWhatWaits()
+{
+    Browser browser;
+    QSignalSpy changed(&browser.dialog, &DialogCard::signalChanged);
+    browser.click(browser.pCycles, browser.pCycles->topLevelItem(0)->child(1));
+    browser.dialog.reloadCardInfo();
+    QCOMPARE(changed.count(), 1);
+    browser.click(browser.pRawData, browser.pRawData->topLevelItem(0)->child(1));
+    browser.dialog.reloadCardInfo();
+    Browser::settle();
+    QVERIFY(browser.loaded.isEmpty());
+    QVERIFY(browser.loadedFiles.isEmpty());
+    QCOMPARE(browser.pCycles->topLevelItemCount(), 2);
+}
+
+void TestDialogCard::emptyCard()
+{
+    Browser browser;
+    const Test::CardBuilder empty;
+    browser.container.readContainer(empty.write());
+    browser.dialog.reloadCardInfo();
+    QCOMPARE(browser.pCycles->topLevelItemCount(), 0);
+    QCOMPARE(browser.pRawData->topLevelItemCount(), 0);
+    QCOMPARE(browser.dialog.findChild<QLineEdit*>("cardName")->text(), empty.path().section('/', -1));
+}
+
+QTEST_MAIN(TestDialogCard)
+#include "TestDialogCard.moc"

@@ -1,0 +1,474 @@
+#include "sim/DemoCard.h"
+#include "support/FileHelpers.h"
+#include "ui/main/Answer.h"
+#include "ui/main/CardController.h"
+#include "ui/main/DesktopFixture.h"
+#include "ui/main/DialogCard.h"
+#include "ui/main/MainActions.h"
+#include "ui/main/RecentFolders.h"
+#include "ui/main/WidgetCycleSummary.h"
+#include "ui/main/WidgetWelcome.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QDir>
+#include <QDropEvent>
+#include <QFileDialog>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QToolBar>
+#include <QTreeWidget>
+#include <QtTest>
+
+using namespace ZARN;
+
+/// The main window as its user meets it: cards, projects, profiles, units, and what comes back at the next start.
+class TestDialogMain : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void actions_data();
+    void actions();
+    void firstSight();
+    void openCard();
+    void badFolder_data();
+    void badFolder();
+    void drop();
+    void recentFolders();
+    void demoCard();
+    void restart();
+    void pulledCard();
+    void damagedStore();
+    void givenFolder();
+    void emu();
+    void quitSaves();
+    void quitAsksForName();
+    void newProjectAsks_data();
+    void newProjectAsks();
+    void units();
+    void profileSelector();
+    void styleFile();
+    void exportCsv();
+    void failedExport_data();
+    void failedExport();
+
+private:
+    QString home() const { return mHome->path(); }
+    QString card() const { return mCards.filePath("SD/Card"); }
+    /// Waits until the work of the last run is restored.
+    void started(DialogMain& window) { QVERIFY(QSignalSpy(&window, &DialogMain::signalStarted).wait(10000)); }
+
+    QTemporaryDir mCards;
+    std::optional<QTemporaryDir> mHome;
+};
+
+namespace {
+
+void chooseFile(QWidget* pModal, const QString& path)
+{
+    auto* pDialog = qobject_cast<QFileDialog*>(pModal);
+    QVERIFY(pDialog);
+    pDialog->selectFile(path);
+    QMetaObject::invokeMethod(pDialog, "accept");
+}
+
+template <typename Widget> bool isShown(DialogMain& window)
+{
+    const auto* pWidget = window.findChild<Widget*>();
+    return pWidget && pWidget->isVisible();
+}
+
+} // namespace
+
+void TestDialogMain::initTestCase()
+{
+    std::string error;
+    QVERIFY(QDir().mkpath(mCards.filePath("SD")));
+    QVERIFY2(DemoCard().write(card().toStdString(), DemoCardOptions{}, error), error.c_str());
+}
+
+void TestDialogMain::init()
+{
+    mHome.emplace();
+}
+
+void TestDialogMain::actions_data()
+{
+    QTest::addColumn<int>("id");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("shortcut");
+    QTest::addColumn<QString>("statusTip");
+    QTest::newRow("new") << 0 << "&New Project" << "Ctrl+N" << "Create new Project";
+    QTest::newRow("folder") << 2 << "&Open Data Folder" << "Ctrl+C" << "Open Data Folder";
+    QTest::newRow("save as") << 5 << "&Save Project as" << "" << "Save Project as";
+    QTest::newRow("quit") << 6 << "&Quit" << "Ctrl+Q" << "Quit Application";
+    QTest::newRow("help") << 10 << "Help" << "F1" << "Help Window";
+    QTest::newRow("kml") << 17 << "Export Google KML File" << "" << "Export Google Earth KML File";
+}
+
+void TestDialogMain::actions()
+{
+    QFETCH(int, id);
+    DesktopFixture desktop(home());
+    const QAction* pAction = desktop.open().action(id);
+    QVERIFY(pAction);
+    QCOMPARE(pAction->data().toInt(), id);
+    QTEST(pAction->text(), "text");
+    QTEST(pAction->shortcut().toString(), "shortcut");
+    QTEST(pAction->statusTip(), "statusTip");
+    QVERIFY(!desktop.window->action(3));
+}
+
+void TestDialogMain::firstSight()
+{
+    DesktopFixture desktop(home());
+    DialogMain& window = desktop.open();
+    started(window);
+    QVERIFY(window.isVisible());
+    QVERIFY(isShown<WidgetWelcome>(window));
+    QCOMPARE(window.size(), QSize(1000, 800));
+    QStringList menus;
+    for (const QAction* pMenu : window.menuBar()->actions()) {
+        menus.append(pMenu->text());
+        for (const QAction* pEntry : pMenu->menu()->actions())
+            menus.append(pEntry->isSeparator() ? "-" : pEntry->data().toString());
+    }
+    QCOMPARE(menus, QStringList({"&File", "2", "-", "6", "&Extras", "15", "17", "18", "&Help", "15", "8", "9"}));
+    const auto* pProfiles = window.findChild<QComboBox*>("profiles");
+    QVERIFY(pProfiles->minimumWidth() == 200 && pProfiles->count() >= 3);
+    QCOMPARE(pProfiles->currentText(), QString("915 A")); // "915" names none of the variants: the first one
+    QVERIFY(window.findChild<QComboBox*>("units")->geometry().right() <= window.width());
+}
+
+void TestDialogMain::openCard()
+{
+    DesktopFixture desktop(home());
+    DialogMain& window = desktop.open();
+    started(window);
+    window.openFolder(card());
+    QCOMPARE(window.windowTitle(), QString("ZARN SD/Card"));
+    QCOMPARE(desktop.property.getString("LastPath", ""), card().toStdString());
+    QVERIFY(fileContent(home().toStdString() + "/data/ZARN.ini").find("SD/Card") != std::string::npos);
+    auto* pTree = window.findChild<QTreeWidget*>("treeCycles");
+    QCOMPARE(desktop.container.recordCycles().size(), std::size_t(3));
+    // The second cycle is the one with the two tows; the choice of the browser loads it.
+    QTreeWidgetItem* pCycle = nullptr;
+    for (QTreeWidgetItemIterator it(pTree); *it; ++it) {
+        if ((*it)->text(0).startsWith("Cycle 2"))
+            pCycle = *it;
+    }
+    QVERIFY(pCycle);
+    pTree->setCurrentItem(pCycle);
+    QTRY_COMPARE_WITH_TIMEOUT(pCycle->childCount(), 2, 20000);
+    QVERIFY(isShown<WidgetCycleSummary>(window));
+    const auto* pFlights = window.findChild<QTableWidget*>("flights");
+    QCOMPARE(pFlights->columnCount(), 2);
+    const RecordFlight& flight = desktop.container.loadedCycle()->flights[1];
+    QCOMPARE(pFlights->item(3, 1)->text(), QString::number(flight.maxAltitude, 'f', 0));
+}
+
+void TestDialogMain::badFolder_data()
+{
+    QTest::addColumn<bool>("exists");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("gone") << false << "The folder %1 is not there, or cannot be read.";
+    QTest::newRow("empty") << true << "The folder %1 holds no record file (*.CAN, *.can, *.xcb).";
+}
+
+void TestDialogMain::badFolder()
+{
+    QFETCH(bool, exists);
+    QFETCH(QString, reason);
+    DesktopFixture desktop(home());
+    DialogMain& window = desktop.open();
+    started(window);
+    const QString folder = home() + "/<b>other</b>";
+    QVERIFY(!exists || QDir().mkpath(folder));
+    Answer answer(Answer::close);
+    window.openFolder(folder);
+    QCOMPARE(answer.title, QString("ZARN Warning"));
+    QCOMPARE(answer.text, reason.arg(folder));
+    QVERIFY(isShown<WidgetWelcome>(window));
+}
+
+void TestDialogMain::drop()
+{
+    DesktopFixture desktop(home());
+    DialogMain& window = desktop.open();
+    started(window);
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(card() + "/LOG00001.CAN")});
+    QDragEnterEvent enter(QPoint(500, 400), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&window, &enter);
+    QVERIFY(enter.isAccepted());
+    QDropEvent drop(QPoint(500, 400), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&window, &drop);
+    QTRY_COMPARE(window.windowTitle(), QString("ZARN SD/Card"));
+    QMimeData text;
+    text.setText("no folder");
+    QDragEnterEvent other(QPoint(500, 400), Qt::CopyAction, &text, Qt::LeftButton, Qt::NoModifier);
+    other.ignore();
+    QApplication::sendEvent(&window, &other);
+    QVERIFY(!other.isAccepted());
+}
+
+void TestDialogMain::recentFolders()
+{
+    ConsoleText console;
+    Property property(console.console);
+    QMenu menu;
+    RecentFolders recent(property, menu);
+    QCOMPARE(menu.actions().size(), 1);
+    QVERIFY(!menu.actions().first()->isEnabled());
+    for (int i = 0; i < 12; ++i)
+        recent.add(QString("/card & %1").arg(i));
+    recent.add("/card & 5");
+    QCOMPARE(recent.folders().size(), 10);
+    QCOMPARE(recent.folders().mid(0, 3), QStringList({"/card & 5", "/card & 11", "/card & 10"}));
+    QSignalSpy chosen(&recent, &RecentFolders::signalChosen);
+    menu.actions().at(1)->trigger();
+    QVERIFY(chosen.wait(1000));
+    QCOMPARE(chosen.first().first().toString(), QString("/card & 11"));
+    recent.remove("/card & 5");
+    QCOMPARE(recent.folders().first(), QString("/card & 11"));
+}
+
+void TestDialogMain::demoCard()
+{
+    DesktopFixture desktop(home());
+    DialogMain& window = desktop.open();
+    started(window);
+    QTest::mouseClick(window.findChild<QPushButton*>("openDemo"), Qt::LeftButton);
+    QCOMPARE(window.windowTitle(), QString("ZARN data/DemoCard"));
+    QCOMPARE(desktop.container.recordCycles().size(), std::size_t(3));
+    QVERIFY(!QDir(home() + "/data/DemoCard.new").exists());
+}
+
+void TestDialogMain::restart()
+{
+    {
+        DesktopFixture desktop(home());
+        DialogMain& window = desktop.open();
+        started(window);
+        window.openFolder(card());
+        window.resize(1200, 700);
+        desktop.profile.setSelected("Engine Speed", true);
+        window.slotCanChanged();
+        window.close();
+    }
+    DesktopFixture desktop(home());
+    DialogMain& window = desktop.open();
+    started(window);
+    QCOMPARE(window.windowTitle(), QString("ZARN SD/Card"));
+    QCOMPARE(desktop.container.recordCycles().size(), std::size_t(3));
+    QCOMPARE(window.size(), QSize(1200, 700));
+    QVERIFY(desktop.profile.isSelected("Engine Speed"));
+    QVERIFY(!window.isProjectModified());
+    DesktopFixture defaults(home());
+    started(defaults.open(true));
+    QVERIFY(defaults.container.recordCycles().empty());
+    QVERIFY(!defaults.profile.isSelected("Engine Speed"));
+}
+
+void TestDialogMain::pulledCard()
+{
+    DesktopFixture desktop(home());
+    desktop.property.setString("LastPath", (home() + "/gone").toStdString());
+    DialogMain& window = desktop.open();
+    started(window); // no question stands in the way
+    QVERIFY(isShown<WidgetWelcome>(window));
+    QVERIFY(window.card().problem().contains(home() + "/gone"));
+}
+
+void TestDialogMain::damagedStore()
+{
+    QVERIFY(QDir().mkpath(home() + "/data/profiles/broken"));
+    const std::string data = home().toStdString() + "/data";
+    putFile(data + "/ZARN.ini", "<ZARN><Property id=\"Profile\" value=\"" + data + "/profiles/broken/Profile.xml\"/>"
+                                "<Property id=\"WindowGeometry\" value=\"AAAA\"/><Property id=\"WindowSplitter\" value=\"?\"/>"
+                                "<Property id=\"Unit\" value=\"77\"/><Property id=\"FontSize\" value=\"-3\"/></ZARN>");
+    putFile(data + "/CurrentProject.xml", "<ZarnProject><Para");
+    putFile(data + "/profiles/broken/Profile.xml", "<CanAerospaceProfile><Device");
+    DesktopFixture desktop(home());
+    DialogMain& window = desktop.open();
+    started(window);
+    QVERIFY(!desktop.profile.data().empty());
+    QCOMPARE(window.size(), QSize(1000, 800));
+}
+
+void TestDialogMain::givenFolder()
+{
+    DesktopFixture desktop(home(), {card().toStdString()});
+    desktop.property.setString("LastPath", (home() + "/gone").toStdString());
+    DialogMain& window = desktop.open();
+    started(window);
+    QCOMPARE(window.windowTitle(), QString("ZARN SD/Card"));
+}
+
+void TestDialogMain::emu()
+{
+    DesktopFixture desktop(home(), {"-emu"});
+    DialogMain& window = desktop.open();
+    started(window);
+    QVERIFY(window.isVisible());
+    QVERIFY(window.menuBar()->actions().isEmpty());
+    QVERIFY(!isShown<QToolBar>(window));
+    QVERIFY(!isShown<DialogCard>(window));
+}
+
+void TestDialogMain::quitSaves()
+{
+    DesktopFixture desktop(home());
+    DialogMain& window = desktop.open();
+    started(window);
+    desktop.profile.setSelected("Oil Temperature", true);
+    window.slotCanChanged();
+    window.action(eActionQuit)->trigger();
+    QVERIFY(!window.isVisible());
+    QVERIFY(!window.isProjectModified());
+    QVERIFY(fileContent(home().toStdString() + "/data/CurrentProject.xml").find("Oil Temperature") != std::string::npos);
+    QVERIFY(desktop.console.text.find("DialogMain::slotMenu id 6\n") != std::string::npos);
+}
+
+void TestDialogMain::quitAsksForName()
+{
+    DesktopFixture desktop(home());
+    DialogMain& window = desktop.open();
+    started(window);
+    window.action(eActionNewProject)->trigger();
+    window.slotCanChanged();
+    Answer cancel(Answer::close);
+    window.action(eActionQuit)->trigger();
+    QCOMPARE(cancel.title, QString("Save ZARN Project"));
+    QVERIFY(window.isVisible()); // the changes are still only here
+    Answer save([this](QWidget* pModal) { chooseFile(pModal, home() + "/mine"); });
+    window.action(eActionQuit)->trigger();
+    QVERIFY(!window.isVisible());
+    QVERIFY(QFile::exists(home() + "/mine.xml"));
+    QCOMPARE(desktop.property.getString("LastProjectPath", ""), home().toStdString() + "/mine.xml");
+}
+
+void TestDialogMain::newProjectAsks_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<bool>("cleared");
+    QTest::addColumn<bool>("saved");
+    QTest::newRow("yes") << "Yes" << true << true;
+    QTest::newRow("no") << "No" << true << false;
+    QTest::newRow("cancel") << "Cancel" << false << false;
+}
+
+void TestDialogMain::newProjectAsks()
+{
+    QFETCH(QString, button);
+    QFETCH(bool, cleared);
+    QFETCH(bool, saved);
+    DesktopFixture desktop(home());
+    DialogMain& window = desktop.open();
+    started(window);
+    desktop.profile.setSelected("Oil Temperature", true);
+    window.slotCanChanged();
+    Answer answer(Answer::press(button));
+    window.action(eActionNewProject)->trigger();
+    QCOMPARE(answer.title, QString("ZARN Warning"));
+    QCOMPARE(answer.text, QString("Current Project not saved !\nSave it now ?"));
+    QCOMPARE(desktop.profile.isSelected("Oil Temperature"), !cleared);
+    QCOMPARE(window.isProjectModified(), !cleared);
+    QCOMPARE(QFile::exists(home() + "/data/CurrentProject.xml"), saved);
+}
+
+void TestDialogMain::units()
+{
+    DesktopFixture desktop(home(), {card().toStdString()});
+    DialogMain& window = desktop.open();
+    started(window);
+    window.slotLoadCycle(2, 0);
+    const double metres = desktop.container.selectedFlight().maxAltitude;
+    auto* pUnits = window.findChild<QComboBox*>("units");
+    pUnits->setCurrentIndex(1);
+    Q_EMIT pUnits->activated(1);
+    QCOMPARE(desktop.property.getInt("Unit", 0), 1);
+    const RecordFlight& flight = desktop.container.loadedCycle()->flights.at(0);
+    QVERIFY2(std::abs(flight.maxAltitude / metres - 3.2808) < 0.01, "the statistic follows the units");
+    DesktopFixture next(home());
+    next.open();
+    QCOMPARE(next.window->findChild<QComboBox*>("units")->currentText(), QString("Imperial"));
+}
+
+void TestDialogMain::profileSelector()
+{
+    DesktopFixture desktop(home());
+    DialogMain& window = desktop.open();
+    started(window);
+    auto* pProfiles = window.findChild<QComboBox*>("profiles");
+    pProfiles->setCurrentIndex(pProfiles->findText("916 A"));
+    Q_EMIT pProfiles->textActivated("916 A");
+    QCOMPARE(desktop.profile.currentVariant(), std::string("916 A"));
+    QCOMPARE(desktop.property.getString("Profile", ""), std::string("916 A"));
+    QCOMPARE(pProfiles->currentText(), QString("916 A"));
+    QVERIFY(desktop.console.text.find("slotProfileChanged <916 A>\n") != std::string::npos);
+}
+
+void TestDialogMain::styleFile()
+{
+    const std::string file = home().toStdString() + "/mine.css";
+    putFile(file, "QLabel { color: red; }");
+    DesktopFixture desktop(home(), {"-s", file});
+    started(desktop.open());
+    desktop.property.setInt("FontSize", 17);
+    QTest::qWait(1100);
+    QVERIFY(!qApp->styleSheet().contains("red")); // the start applies it, not the watch
+    putFile(file, "QLabel { color: blue; }");
+    QTRY_COMPARE_WITH_TIMEOUT(qApp->styleSheet(), QString("QLabel { color: blue; }\nQWidget {font-size: 17px;}"), 2000);
+    QVERIFY(desktop.console.text.find("Slot Load Style <" + file + ">\n") != std::string::npos);
+    qApp->setStyleSheet({});
+}
+
+void TestDialogMain::exportCsv()
+{
+    DesktopFixture desktop(home(), {card().toStdString()});
+    DialogMain& window = desktop.open();
+    started(window);
+    window.slotLoadCycle(3, -1);
+    Answer save([this](QWidget* pModal) { chooseFile(pModal, home() + "/out.csv"); });
+    window.action(eActionExportCsv)->trigger();
+    QCOMPARE(save.title, QString("Save CSV Export"));
+    QVERIFY(QFileInfo(home() + "/out.csv").size() > 1000);
+    QCOMPARE(desktop.property.getString("CsvExportDir", ""), home().toStdString());
+}
+
+void TestDialogMain::failedExport_data()
+{
+    QTest::addColumn<int>("id");
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("kml") << int(eActionExportKml) << "ZARN Warning" << "Exporting KML file failed !";
+    QTest::newRow("csv") << int(eActionExportCsv) << "ZARN Viewer Warning" << "Exporting CSV file failed !";
+}
+
+void TestDialogMain::failedExport()
+{
+    QFETCH(int, id);
+    DesktopFixture desktop(home());
+    DialogMain& window = desktop.open();
+    started(window);
+    QVERIFY(QDir().mkpath(home() + "/sub"));
+    std::optional<Answer> told;
+    Answer choose([&](QWidget* pModal) {
+        chooseFile(pModal, home() + "/sub/out");
+        QDir(home() + "/sub").removeRecursively(); // gone between the choice and the writing
+        told.emplace(Answer::close);
+    });
+    window.action(id)->trigger();
+    QVERIFY(told);
+    QTEST(told->title, "title");
+    QTEST(told->text, "text");
+}
+
+QTEST_MAIN(TestDialogMain)
+#include "TestDialogMain.moc"

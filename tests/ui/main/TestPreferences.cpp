@@ -1,0 +1,175 @@
+#include "app/gui/DialogSplash.h"
+#include "app/gui/ImageHandler.h"
+#include "support/FileHelpers.h"
+#include "ui/main/Answer.h"
+#include "ui/main/DesktopFixture.h"
+#include "ui/main/DialogAbout.h"
+#include "ui/main/DialogHelp.h"
+#include "ui/main/DialogPreferences.h"
+
+#include <QComboBox>
+#include <QPlainTextEdit>
+#include <QSpinBox>
+#include <QTabWidget>
+#include <QTextBrowser>
+#include <QtTest>
+
+using namespace ZARN;
+
+/// The windows beside the main window: preferences, help, about, splash.
+class TestPreferences : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { ImageHandler::initialise(); }
+    void fill();
+    void language_data();
+    void language();
+    void fontSize();
+    void profilePath();
+    void manual_data();
+    void manual();
+    void licences();
+    void splash();
+};
+
+namespace {
+
+Session sessionOf(DesktopFixture& desktop)
+{
+    return {desktop.console.console, desktop.property, desktop.profile, desktop.container, desktop.project};
+}
+
+} // namespace
+
+void TestPreferences::fill()
+{
+    const QTemporaryDir home;
+    DesktopFixture desktop(home.path());
+    DialogPreferences dialog(sessionOf(desktop), desktop.kernel);
+    const auto* pLanguage = dialog.findChild<QComboBox*>();
+    auto* pSize = dialog.findChild<QSpinBox*>();
+    QCOMPARE(pLanguage->currentText(), QString("English"));
+    QCOMPARE(pSize->value(), 12);
+    QCOMPARE(pSize->minimum(), 8);
+    QCOMPARE(pSize->maximum(), 20);
+    desktop.property.setString("Locale", "de");
+    desktop.property.setInt("FontSize", 19);
+    dialog.fillDialog();
+    QCOMPARE(pLanguage->currentText(), QString("Deutsch"));
+    QCOMPARE(pSize->value(), 19);
+    QVERIFY(!QFile::exists(home.filePath("data/ZARN.ini"))); // filling changes nothing
+}
+
+void TestPreferences::language_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<bool>("restarts");
+    QTest::newRow("now") << "de" << "Restart now" << true;
+    QTest::newRow("later") << "de" << "Restart later: changes will not applied until next restart" << false;
+    QTest::newRow("the same again") << "us" << "Restart later: changes will not applied until next restart" << false;
+}
+
+void TestPreferences::language()
+{
+    QFETCH(QString, locale);
+    QFETCH(QString, button);
+    QFETCH(bool, restarts);
+    const QTemporaryDir home;
+    DesktopFixture desktop(home.path());
+    DialogPreferences dialog(sessionOf(desktop), desktop.kernel);
+    auto* pLanguage = dialog.findChild<QComboBox*>();
+    QSignalSpy changed(&dialog, &DialogPreferences::signalLanguageChanged);
+    Answer answer(Answer::press(button));
+    Q_EMIT pLanguage->activated(pLanguage->findData(locale));
+    QCOMPARE(answer.title, QString("ZARN Info"));
+    QCOMPARE(answer.text, QString("Please restart ZARN to load new language !"));
+    QCOMPARE(changed.size(), 1);
+    QVERIFY(fileContent(home.filePath("data/ZARN.ini").toStdString()).find("value=\"" + locale.toStdString()) != std::string::npos);
+    QCOMPARE(desktop.restarted, restarts ? QCoreApplication::arguments() : QStringList());
+}
+
+void TestPreferences::fontSize()
+{
+    const QTemporaryDir home;
+    DesktopFixture desktop(home.path());
+    putFile(home.filePath("a.css").toStdString(), "QLabel { margin: 1px; }");
+    desktop.style.readStyle(home.filePath("a.css"));
+    DialogPreferences dialog(sessionOf(desktop), desktop.kernel);
+    dialog.show();
+    const int before = dialog.findChild<QSpinBox*>()->fontMetrics().height();
+    dialog.findChild<QSpinBox*>()->setValue(20);
+    QCOMPARE(qApp->styleSheet(), QString("QLabel { margin: 1px; }\nQWidget {font-size: 20px;}"));
+    QVERIFY(dialog.findChild<QSpinBox*>()->fontMetrics().height() > before);
+    dialog.findChild<QSpinBox*>()->setValue(8);
+    QCOMPARE(desktop.property.getInt("FontSize", 0), 8);
+    Property stored(desktop.console.console);
+    stored.readXmlFile(home.filePath("data/ZARN.ini").toStdString());
+    QCOMPARE(stored.getInt("FontSize", 0), 8);
+    qApp->setStyleSheet({});
+}
+
+void TestPreferences::profilePath()
+{
+    const QTemporaryDir home;
+    DesktopFixture desktop(home.path());
+    DialogPreferences dialog(sessionOf(desktop), desktop.kernel);
+    QSignalSpy changed(&dialog, &DialogPreferences::signalProfileFileChanged);
+    dialog.slotProfilePath("/some/Profile.xml");
+    QCOMPARE(changed.size(), 1);
+    QCOMPARE(desktop.property.getString("Profile", ""), std::string("/some/Profile.xml"));
+}
+
+void TestPreferences::manual_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("heading");
+    QTest::newRow("German") << "de" << "Die ersten fünf Minuten";
+    QTest::newRow("English") << "us" << "The first five minutes";
+    QTest::newRow("unknown") << "xx" << "The first five minutes";
+}
+
+void TestPreferences::manual()
+{
+    QFETCH(QString, locale);
+    QFETCH(QString, heading);
+    const DialogHelp dialog(locale);
+    QVERIFY(dialog.findChild<QTextBrowser*>()->toPlainText().contains(heading));
+}
+
+void TestPreferences::licences()
+{
+    const DialogAbout dialog;
+    const auto* pTabs = dialog.findChild<QTabWidget*>();
+    QVERIFY(pTabs->count() >= 6);
+    for (int i = 0; i < pTabs->count(); ++i)
+        QVERIFY2(qobject_cast<QPlainTextEdit*>(pTabs->widget(i))->toPlainText().size() > 500, qPrintable(pTabs->tabText(i)));
+}
+
+void TestPreferences::splash()
+{
+    DialogSplash& splash = DialogSplash::instance();
+    QCOMPARE(splash.size(), QSize(536, 403));
+    for (int i = 1; i <= 16; ++i)
+        splash.addEntry(QString("line %1").arg(i));
+    QCOMPARE(splash.entries().size(), 15);
+    QCOMPARE(splash.entries().first(), QString("line 2"));
+    const QImage full = splash.grab().toImage();
+    int blue = 0;
+    for (int y = 20; y < 260; ++y) {
+        for (int x = 5; x < 60; ++x)
+            blue += full.pixelColor(x, y) == QColor(0, 0, 200);
+    }
+    QVERIFY2(blue > 50, "the lines are written at the left edge");
+    QTest::mouseClick(&splash, Qt::LeftButton);
+    QVERIFY(splash.isVisible());
+    QSignalSpy gone(&splash, &QObject::destroyed);
+    splash.finish();
+    QTest::qWait(2500);
+    QVERIFY(gone.isEmpty());
+    QTRY_COMPARE_WITH_TIMEOUT(gone.size(), 1, 2000);
+}
+
+QTEST_MAIN(TestPreferences)
+#include "TestPreferences.moc"

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+
+class DataHandler;
+
+namespace ZARN {
+
+class CmdLine;
+class Kernel;
+
+/// What the windows of the desktop program have beside the session: command line, folders, the program as a whole, and what
+/// was found out at its start. Owns nothing.
+struct Desktop {
+    const CmdLine& cmdLine;
+    const DataHandler& folders;
+    Kernel& kernel;
+    QString graphicsProblem;   ///< why graph and map cannot be drawn; empty when they can
+    bool withDefaults = false; ///< restore nothing of the last run
+};
+
+} // namespace ZARN

@@ -1,0 +1,80 @@
+#include "ui/main/DialogAbout.h"
+
+#include "app/Revision.h"
+#include "app/gui/ImageHandler.h"
+
+#include <QDialogButtonBox>
+#include <QFile>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QTabWidget>
+
+namespace {
+
+/// Something that comes with the program, and the text of its licence among the resources.
+struct Licence {
+    const char* name;
+    const char* file;
+};
+
+constexpr Licence kLicences[] = {
+    {"ZARN", "zarn"},       {"Qt (LGPL 3)", "lgpl-3"}, {"GPL 3", "gpl-3"}, {"GeographicLib", "geographiclib"},
+    {"CLI11", "cli11"},     {"Lucide", "icons"},
+};
+
+constexpr int kPictureSize = 48;
+
+QString licenceText(const char* file)
+{
+    QFile resource(QString(":/licences/%1.txt").arg(QLatin1String(file)));
+    return resource.open(QIODevice::ReadOnly) ? QString::fromUtf8(resource.readAll()) : QString();
+}
+
+} // namespace
+
+DialogAbout::DialogAbout(QWidget* pParent) : QDialog(pParent)
+{
+    setWindowTitle(tr("About ZARN"));
+    auto* pButtons = new QDialogButtonBox(QDialogButtonBox::Close);
+    connect(pButtons, &QDialogButtonBox::rejected, this, &QDialog::close);
+    auto* pLayout = new QVBoxLayout(this);
+    pLayout->setSpacing(12);
+    pLayout->addWidget(createHead());
+    pLayout->addWidget(createLicences(), 1);
+    pLayout->addWidget(pButtons);
+    resize(720, 560);
+}
+
+QWidget* DialogAbout::createHead() const
+{
+    auto* pPicture = new QLabel;
+    pPicture->setPixmap(ImageHandler::icon("zarn").pixmap(QSize(kPictureSize, kPictureSize), devicePixelRatioF()));
+    auto* pName = new QLabel(QString::fromStdString(ZARN::Revision::getRevisionString()));
+    pName->setObjectName("heading");
+    auto* pText = new QLabel(tr("After-flight review of engine recordings.") + "\n"
+                             + tr("Compiled %1 with Qt %2, running on Qt %3")
+                                   .arg(QString::fromStdString(ZARN::Revision::compileTime()), QT_VERSION_STR, QLatin1String(qVersion())));
+    pText->setObjectName("quiet");
+    auto* pHead = new QWidget;
+    auto* pLayout = new QHBoxLayout(pHead);
+    pLayout->setContentsMargins(0, 0, 0, 0);
+    pLayout->setSpacing(16);
+    pLayout->addWidget(pPicture);
+    auto* pLines = new QVBoxLayout;
+    pLines->addWidget(pName);
+    pLines->addWidget(pText);
+    pLayout->addLayout(pLines, 1);
+    return pHead;
+}
+
+QWidget* DialogAbout::createLicences() const
+{
+    auto* pTabs = new QTabWidget;
+    for (const Licence& licence : kLicences) {
+        auto* pText = new QPlainTextEdit(licenceText(licence.file));
+        pText->setReadOnly(true);
+        pTabs->addTab(pText, QLatin1String(licence.name));
+    }
+    return pTabs;
+}

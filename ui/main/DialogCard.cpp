@@ -1,0 +1,181 @@
+#include "ui/main/DialogCard.h"
+
+#include "card/CardContainer.h"
+#include "ui/main/CardTree.h"
+
+#include <QLineEdit>
+#include <QSignalBlocker>
+#include <QTabWidget>
+#include <QTimer>
+#include <QTreeWidget>
+#include <QTreeWidgetItemIterator>
+#include <QVBoxLayout>
+
+namespace ZARN {
+
+namespace {
+
+QTreeWidgetItem* makeItem(const CardNode& node)
+{
+    auto* pItem = new QTreeWidgetItem({node.text});
+    pItem->setToolTip(0, node.toolTip);
+    pItem->setFlags(node.isSelectable() ? Qt::ItemIsEnabled | Qt::ItemIsSelectable : Qt::ItemIsEnabled);
+    if (node.cycle) {
+        pItem->setData(0, DialogCard::eCycleRole, *node.cycle);
+        pItem->setData(0, DialogCard::eFlightRole, node.flight);
+    } else if (!node.path.isEmpty()) {
+        pItem->setData(0, DialogCard::ePathRole, node.path);
+    }
+    for (const CardNode& child : node.children)
+        pItem->addChild(makeItem(child));
+    return pItem;
+}
+
+/// Fills a tree with the dates opened; its selection is gone without a signal.
+void fillTree(QTreeWidget& tree, const std::vector<CardNode>& dates)
+{
+    const QSignalBlocker blocker(tree);
+    tree.clear();
+    for (const CardNode& date : dates)
+        tree.addTopLevelItem(makeItem(date));
+    tree.expandToDepth(0);
+}
+
+void clearSelection(QTreeWidget& tree)
+{
+    const QSignalBlocker blocker(tree);
+    tree.clearSelection();
+}
+
+QTimer* createTimer(QObject* pParent)
+{
+    auto* pTimer = new QTimer(pParent);
+    pTimer->setSingleShot(true);
+    pTimer->setInterval(DialogCard::kDelay);
+    return pTimer;
+}
+
+} // namespace
+
+DialogCard::DialogCard(const CardContainer& container, QWidget* pParent)
+    : QWidget(pParent), mContainer(container), mpName(new QLineEdit), mpCycles(createTree("treeCycles", tr("Power cycles and flights"))),
+      mpRawData(createTree("treeRawData", tr("Record files and their headers"))), mpTimer(createTimer(this)),
+      mpCycleTimer(createTimer(this))
+{
+    mpName->setObjectName("cardName");
+    mpName->setReadOnly(true);
+    mpName->setPlaceholderText(tr("No card opened"));
+    mpName->setAccessibleName(tr("Card name"));
+    mpRawData->setSelectionMode(QAbstractItemView::ExtendedSelection);
+
+    auto* pTabs = new QTabWidget;
+    pTabs->addTab(mpCycles, tr("Cycles"));
+    pTabs->addTab(mpRawData, tr("Raw Data"));
+    auto* pLayout = new QVBoxLayout(this);
+    pLayout->setContentsMargins(0, 0, 0, 0);
+    pLayout->addWidget(mpName);
+    pLayout->addWidget(pTabs);
+
+    connect(mpCycles, &QTreeWidget::itemSelectionChanged, this, &DialogCard::slotSelectCycle);
+    connect(mpRawData, &QTreeWidget::itemSelectionChanged, this, &DialogCard::slotSelect);
+    connect(mpTimer, &QTimer::timeout, this, &DialogCard::slotTimeout);
+    connect(mpCycleTimer, &QTimer::timeout, this, &DialogCard::slotTimeoutLoadCycle);
+}
+
+QTreeWidget* DialogCard::createTree(const QString& name, const QString& header)
+{
+    auto* pTree = new QTreeWidget(this);
+    pTree->setObjectName(name);
+    pTree->setHeaderLabel(header);
+    pTree->setAccessibleName(header);
+    pTree->setUniformRowHeights(true); // a card may hold thousands of files
+    return pTree;
+}
+
+void DialogCard::reloadCardInfo()
+{
+    mpTimer->stop();
+    mpCycleTimer->stop();
+    mSelectedFiles.clear();
+    updateInfoRaw();
+    updateInfoPowerCycles();
+    Q_EMIT signalChanged();
+}
+
+void DialogCard::updateInfoPowerCycles()
+{
+    mpName->setText(mContainer.name());
+    mpName->setCursorPosition(0);
+    fillTree(*mpCycles, CardTree::cycles(mContainer));
+}
+
+void DialogCard::updateInfoRaw()
+{
+    fillTree(*mpRawData, CardTree::rawData(mContainer));
+}
+
+QTreeWidgetItem* DialogCard::cycleItem(unsigned int cycle) const
+{
+    for (int row = 0; row < mpCycles->topLevelItemCount(); ++row) {
+        const QTreeWidgetItem* pDate = mpCycles->topLevelItem(row);
+        for (int child = 0; child < pDate->childCount(); ++child) {
+            if (pDate->child(child)->data(0, eCycleRole).toUInt() == cycle)
+                return pDate->child(child);
+        }
+    }
+    return nullptr;
+}
+
+void DialogCard::addFlights(unsigned int cycle)
+{
+    const auto found = mContainer.recordCycles().find(cycle);
+    QTreeWidgetItem* pItem = cycleItem(cycle);
+    if (!pItem || found == mContainer.recordCycles().end())
+        return;
+    const QSignalBlocker blocker(mpCycles);
+    qDeleteAll(pItem->takeChildren());
+    for (const CardNode& flight : CardTree::flights(cycle, found->second))
+        pItem->addChild(makeItem(flight));
+    pItem->setExpanded(true);
+}
+
+void DialogCard::slotSelect()
+{
+    mSelectedFiles.clear();
+    // In the order of the tree, however the user went over it: records are loaded file by file.
+    for (QTreeWidgetItemIterator item(mpRawData, QTreeWidgetItemIterator::Selected); *item; ++item)
+        mSelectedFiles.push_back((*item)->data(0, ePathRole).toString());
+    // One choice at a time: what was chosen in the other tree is not going to be what is loaded.
+    mpCycleTimer->stop();
+    clearSelection(*mpCycles);
+    mpTimer->start();
+}
+
+void DialogCard::slotTimeout()
+{
+    if (!mSelectedFiles.empty())
+        Q_EMIT signalLoadRecord(mSelectedFiles);
+}
+
+void DialogCard::slotSelectCycle()
+{
+    const QList<QTreeWidgetItem*> items = mpCycles->selectedItems();
+    if (items.isEmpty())
+        return;
+    mSelectedCycle = items.back()->data(0, eCycleRole).toUInt();
+    mSelectedFlight = items.back()->data(0, eFlightRole).toInt();
+    mpTimer->stop();
+    clearSelection(*mpRawData);
+    mpCycleTimer->start();
+}
+
+void DialogCard::slotTimeoutLoadCycle()
+{
+    const unsigned int cycle = mSelectedCycle;
+    const int flight = mSelectedFlight;
+    Q_EMIT signalLoadCycle(cycle, flight);
+    if (flight == -1)
+        addFlights(cycle);
+}
+
+} // namespace ZARN

@@ -1,0 +1,250 @@
+#include "ui/main/DialogMain.h"
+
+#include "app/CmdLine.h"
+#include "app/Console.h"
+#include "app/DataHandler.h"
+#include "app/Property.h"
+#include "app/gui/ImageHandler.h"
+#include "app/gui/Kernel.h"
+#include "card/CardContainer.h"
+#include "profile/ui/DialogProfile.h"
+#include "profile/ui/DialogProfileInfo.h"
+#include "ui/main/CardController.h"
+#include "ui/main/DialogAbout.h"
+#include "ui/main/DialogCard.h"
+#include "ui/main/DialogHelp.h"
+#include "ui/main/DialogPreferences.h"
+#include "ui/main/ExportController.h"
+#include "ui/main/MainActions.h"
+#include "ui/main/ProfileController.h"
+#include "ui/main/ProjectController.h"
+#include "ui/main/RecentFolders.h"
+#include "ui/main/StatusProgress.h"
+#include "ui/main/WidgetCycleSummary.h"
+#include "ui/main/WidgetWelcome.h"
+#include "ui/main/WindowLayout.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QFileInfo>
+#include <QFileOpenEvent>
+#include <QLabel>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QProgressBar>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QToolBar>
+#include <QToolButton>
+
+namespace ZARN {
+
+namespace {
+
+constexpr int kRestoreDelay = 20;     // milliseconds from here on: the event loop runs
+constexpr int kStartupDelay = 1000;   // the window has its size
+constexpr int kStylePeriod = 500;     // from look to look at the style file
+constexpr int kMessageDuration = 8000;
+constexpr int kSelectorWidth = 200;
+constexpr int kProgressWidth = 220;
+constexpr int kMargin = 8;
+
+} // namespace
+
+DialogMain::DialogMain(const Session& session, const Desktop& desktop)
+    : mSession(session), mDesktop(desktop), mEmu(desktop.cmdLine.getSwitch("-emu")), mpActionGroup(new QActionGroup(this)),
+      mpRecentGroup(new QActionGroup(this)),
+      mpCatalogue(std::make_unique<ProfileCatalogue>(session.console, desktop.folders.resourcePath(), desktop.folders.dataPath()))
+{
+    setAcceptDrops(true);
+    createPanels();
+    createActions();
+    if (!mEmu)
+        createMenus();
+    createToolBar();
+    createStatusBar();
+    createControllers();
+    connectPanels();
+    setWindowIcon(ImageHandler::icon("zarn"));
+    startTimers();
+    mpLayout->restoreWindow();
+    if (mEmu) {
+        mpSide->hide();
+        mpCard->hide();
+        mpProfile->hide();
+        mpToolBar->hide();
+    }
+    updateUnit();
+    loadProfile();
+    fillProfiles();
+    updateTitle();
+    show();
+    mSession.property.setString("LastProjectPath", mDesktop.folders.dataPath() + "/CurrentProject.xml");
+}
+
+DialogMain::~DialogMain()
+{
+    mSession.container.setProgress(nullProgress());
+}
+
+void DialogMain::createPanels()
+{
+    mpCard = new DialogCard(mSession.container);
+    mpProfile = new DialogProfile(mSession);
+    mpSide = new QSplitter(Qt::Vertical);
+    mpSide->setChildrenCollapsible(false);
+    mpSide->addWidget(mpCard);
+    mpSide->addWidget(mpProfile);
+    mpWelcome = new WidgetWelcome;
+    mpSummary = new WidgetCycleSummary(mSession.container, mSession.profile);
+    mpCentre = new QStackedWidget;
+    mpCentre->addWidget(mpWelcome);
+    mpCentre->addWidget(mpSummary);
+    mpSplitter = new QSplitter(Qt::Horizontal);
+    mpSplitter->setChildrenCollapsible(false);
+    mpSplitter->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    mpSplitter->addWidget(mpSide);
+    mpSplitter->addWidget(mpCentre);
+    mpSplitter->setStretchFactor(0, 1);
+    mpSplitter->setStretchFactor(1, 2);
+    setCentralWidget(mpSplitter);
+}
+
+void DialogMain::createActions()
+{
+    mpActionGroup->setExclusionPolicy(QActionGroup::ExclusionPolicy::None);
+    mpRecentGroup->setExclusionPolicy(QActionGroup::ExclusionPolicy::None);
+    for (const MainAction& entry : MainAction::all()) {
+        mActions[entry.id] = entry.create(this);
+        mpActionGroup->addAction(mActions[entry.id]);
+    }
+    connect(mpActionGroup, &QActionGroup::triggered, this, &DialogMain::slotMenu);
+    connect(mpRecentGroup, &QActionGroup::triggered, this, &DialogMain::slotMenuRecent);
+}
+
+QAction* DialogMain::action(int id) const
+{
+    const auto found = mActions.find(id);
+    return found == mActions.end() ? nullptr : found->second;
+}
+
+void DialogMain::createMenus()
+{
+    QMenu* pFile = menuBar()->addMenu(tr("&File"));
+    pFile->addAction(action(eActionOpenFolder));
+    pFile->addSeparator();
+    pFile->addAction(action(eActionQuit));
+    QMenu* pExtras = menuBar()->addMenu(tr("&Extras"));
+    for (const int id : {eActionPreferences, eActionExportKml, eActionExportCsv})
+        pExtras->addAction(action(id));
+    QMenu* pHelp = menuBar()->addMenu(tr("&Help"));
+    for (const int id : {eActionPreferences, eActionAbout, eActionProfile})
+        pHelp->addAction(action(id));
+    connect(pHelp, &QMenu::aboutToShow, this, &DialogMain::slotMenuPrefAbout);
+}
+
+void DialogMain::createToolBar()
+{
+    mpToolBar = addToolBar(tr("Main Toolbar"));
+    mpToolBar->setObjectName("MainToolBar");
+    mpToolBar->setMovable(false);
+    mpToolBar->addAction(action(eActionOpenFolder));
+    mpFolderMenu = new QMenu(this);
+    auto* pFolderButton = qobject_cast<QToolButton*>(mpToolBar->widgetForAction(action(eActionOpenFolder)));
+    pFolderButton->setToolButtonStyle(Qt::ToolButtonTextBesideIcon); // the one to begin with; all others are told by their tool tips
+    pFolderButton->setMenu(mpFolderMenu);
+    pFolderButton->setPopupMode(QToolButton::MenuButtonPopup);
+    mpToolBar->addSeparator();
+    mpToolBar->addAction(action(eActionExportKml));
+    mpToolBar->addAction(action(eActionExportCsv));
+    mpToolBar->addSeparator();
+    mpProfiles = new QComboBox;
+    mpProfiles->setObjectName("profiles");
+    mpProfiles->setMinimumWidth(kSelectorWidth);
+    mpProfiles->setToolTip(tr("Profile: what the recorded bytes mean"));
+    connect(mpProfiles, &QComboBox::textActivated, this, qOverload<const QString&>(&DialogMain::slotProfileChanged));
+    mpToolBar->addWidget(mpProfiles);
+    mpToolBar->addSeparator();
+    addUnits();
+}
+
+void DialogMain::addUnits()
+{
+    mpUnits = new QComboBox;
+    mpUnits->setObjectName("units");
+    mpUnits->setMinimumWidth(kSelectorWidth);
+    mpUnits->setToolTip(tr("Units of all displays"));
+    mpUnits->addItem(tr("Metric"), "0");
+    mpUnits->addItem(tr("Imperial"), "1");
+    connect(mpUnits, &QComboBox::activated, this, &DialogMain::slotUnitChanged);
+    mpToolBar->addWidget(mpUnits);
+}
+
+void DialogMain::createStatusBar()
+{
+    auto* pBar = new QProgressBar;
+    pBar->setObjectName("progress");
+    pBar->setRange(0, 100);
+    pBar->setFixedWidth(kProgressWidth);
+    pBar->hide();
+    mpProgress = std::make_unique<StatusProgress>(*pBar);
+    if (!mDesktop.graphicsProblem.isEmpty()) {
+        auto* pProblem = new QLabel(mDesktop.graphicsProblem);
+        pProblem->setObjectName("warning");
+        statusBar()->addPermanentWidget(pProblem);
+    }
+    statusBar()->addPermanentWidget(pBar);
+}
+
+void DialogMain::createControllers()
+{
+    auto* pRecent = new RecentFolders(mSession.property, *mpFolderMenu);
+    connect(pRecent, &RecentFolders::signalChosen, this, &DialogMain::openFolder);
+    mpCardController = new CardController(mSession, *mpCard, *pRecent, *mpProgress, this);
+    mpProjectController = new ProjectController(mSession, this);
+    mpExportController = new ExportController(mSession, this);
+    mpProfileController = std::make_unique<ProfileController>(mSession, *mpCatalogue, *mpProfiles, *mpUnits);
+    mpLayout = std::make_unique<WindowLayout>(mSession.property, *this, *mpSplitter, *mpSide);
+    mSession.container.setProgress(*mpProgress);
+    mpAbout = new DialogAbout(this);
+    mpHelp = new DialogHelp(QString::fromStdString(mSession.property.getString("Locale", "us")), this);
+    mpProfileInfo = new DialogProfileInfo(mSession, *mpCatalogue, this);
+    mpPreferences = new DialogPreferences(mSession, mDesktop.kernel, this);
+}
+
+void DialogMain::connectPanels()
+{
+    connect(mpProfile, &DialogProfile::signalChanged, this, &DialogMain::slotCanChanged);
+    connect(mpProfile, &DialogProfile::signalChanged, this, qOverload<>(&DialogMain::slotProfileChanged));
+    connect(mpCard, &DialogCard::signalLoadRecord, this, &DialogMain::slotLoadRecord);
+    connect(mpCard, &DialogCard::signalLoadCycle, this, &DialogMain::slotLoadCycle);
+    connect(mpProfileInfo, &DialogProfileInfo::signalProfileChanged, this, &DialogMain::slotProfileInstalled);
+    connect(mpPreferences, &DialogPreferences::signalProfileFileChanged, this, &DialogMain::slotProfileFileChanged);
+    connect(mpCardController, &CardController::signalFolderChanged, this, &DialogMain::slotFolderChanged);
+    connect(mpCardController, &CardController::signalDataChanged, this, &DialogMain::slotDataChanged);
+    connect(mpProjectController, &ProjectController::signalChanged, this, &DialogMain::slotProjectChanged);
+    connect(mpExportController, &ExportController::signalWritten, this,
+            [this](const QString& path) { statusBar()->showMessage(tr("Written: %1").arg(path), kMessageDuration); });
+    connect(mpWelcome, &WidgetWelcome::signalOpenFolder, action(eActionOpenFolder), &QAction::trigger);
+    connect(mpWelcome, &WidgetWelcome::signalOpenDemoCard, this,
+            [this] { mpCardController->openDemoCard(QString::fromStdString(mDesktop.folders.dataPath())); });
+}
+
+void DialogMain::startTimers()
+{
+    std::string style;
+    mDesktop.cmdLine.getParameter("-s", style);
+    mStyleFile = QString::fromStdString(style);
+    mStyleTime = QFileInfo(mStyleFile).lastModified(); // applied by the start
+    connect(&mStyleTimer, &QTimer::timeout, this, &DialogMain::slotCheckStyle);
+    mStyleTimer.start(kStylePeriod);
+    mStartTimer.setSingleShot(true);
+    connect(&mStartTimer, &QTimer::timeout, this, &DialogMain::slotTimeout);
+    mStartTimer.start(kRestoreDelay);
+    QTimer::singleShot(kStartupDelay, this, &DialogMain::slotTimeoutStartup);
+}
+
+} // namespace ZARN

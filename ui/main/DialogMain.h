@@ -1,0 +1,150 @@
+#pragma once
+
+#include "project/Session.h"
+#include "ui/main/Desktop.h"
+
+#include <QDateTime>
+#include <QMainWindow>
+#include <QTimer>
+
+#include <list>
+#include <map>
+#include <memory>
+
+class DialogAbout;
+class DialogHelp;
+class DialogProfileInfo;
+class QActionGroup;
+class QComboBox;
+class QSplitter;
+class QStackedWidget;
+class QToolBar;
+
+namespace ZARN {
+
+class CardController;
+class DialogCard;
+class DialogPreferences;
+class DialogProfile;
+class ExportController;
+class ProfileCatalogue;
+class ProfileController;
+class ProjectController;
+class StatusProgress;
+class WidgetCycleSummary;
+class WidgetWelcome;
+class WindowLayout;
+
+/// The main window: actions, menus, tool bar, card browser and profile panel at the left, the data at the right. It connects and forwards; what
+/// the commands do is in one controller each. Owned by the main function; what it is given outlives it.
+class DialogMain : public QMainWindow {
+    Q_OBJECT
+
+public:
+    /// Shows itself.
+    DialogMain(const Session& session, const Desktop& desktop);
+    ~DialogMain() override;
+
+    /// The action with that number; null for a number that is not used.
+    [[nodiscard]] QAction* action(int id) const;
+    bool saveProject(bool askName);
+    bool askSaveProject();
+    void updateTitle();
+    void updateUnit();
+    void loadProfile();
+    void fillProfiles();
+    void updateProfiles();
+    void setProgress(int percent);
+    void openFolder(const QString& path);
+    [[nodiscard]] CardController& card() { return *mpCardController; }
+    [[nodiscard]] bool isProjectModified() const;
+
+    /// Sees all events of the application first: a folder that the system asks the program to open.
+    bool eventFilter(QObject* pObject, QEvent* pEvent) override;
+
+public Q_SLOTS:
+    void slotMenu(QAction* pAction);
+    void slotMenuRecent(QAction* pAction);
+    void slotMenuPrefAbout();
+    /// Other parameters are shown.
+    void slotProfileChanged();
+    /// The user chose an entry of the profile selector.
+    void slotProfileChanged(const QString& name);
+    /// Another profile file is in force.
+    void slotProfileFileChanged();
+    void slotUnitChanged(int index);
+    /// The user changed the project in the profile panel.
+    void slotCanChanged();
+    /// Another mode of the engine unit: reads the card anew.
+    void slotZarnMode(int mode);
+    void slotLoadRecord(const std::list<QString>& files);
+    void slotLoadCycle(unsigned int cycle, int flight);
+
+Q_SIGNALS:
+    /// The work of the last run is restored: the start has succeeded.
+    void signalStarted();
+
+protected:
+    void closeEvent(QCloseEvent* pEvent) override;
+    void dragEnterEvent(QDragEnterEvent* pEvent) override;
+    void dragLeaveEvent(QDragLeaveEvent* pEvent) override;
+    void dropEvent(QDropEvent* pEvent) override;
+
+private Q_SLOTS:
+    void slotTimeout();
+    void slotTimeoutStartup();
+    void slotCheckStyle();
+    void slotFolderChanged();
+    void slotDataChanged();
+    void slotProjectChanged();
+    void slotProfileInstalled();
+
+private:
+    void createActions();
+    void createMenus();
+    void createToolBar();
+    void createPanels();
+    void createStatusBar();
+    void createControllers();
+    void connectPanels();
+    void startTimers();
+    void addUnits();
+    void restoreCard();
+    void showInformation(int id);
+    bool cleanup();
+
+    Session mSession;
+    Desktop mDesktop;
+    bool mEmu;
+    std::map<int, QAction*> mActions;
+    QActionGroup* mpActionGroup;
+    QActionGroup* mpRecentGroup;
+    QToolBar* mpToolBar = nullptr;
+    QMenu* mpFolderMenu = nullptr;
+    QComboBox* mpProfiles = nullptr;
+    QComboBox* mpUnits = nullptr;
+    QSplitter* mpSplitter = nullptr;
+    QSplitter* mpSide = nullptr;
+    QStackedWidget* mpCentre = nullptr;
+    DialogCard* mpCard = nullptr;
+    DialogProfile* mpProfile = nullptr;
+    WidgetWelcome* mpWelcome = nullptr;
+    WidgetCycleSummary* mpSummary = nullptr;
+    DialogAbout* mpAbout = nullptr;
+    DialogHelp* mpHelp = nullptr;
+    DialogProfileInfo* mpProfileInfo = nullptr;
+    DialogPreferences* mpPreferences = nullptr;
+    std::unique_ptr<StatusProgress> mpProgress;
+    std::unique_ptr<ProfileCatalogue> mpCatalogue;
+    std::unique_ptr<ProfileController> mpProfileController;
+    std::unique_ptr<WindowLayout> mpLayout;
+    CardController* mpCardController = nullptr;
+    ProjectController* mpProjectController = nullptr;
+    ExportController* mpExportController = nullptr;
+    QString mStyleFile;
+    QDateTime mStyleTime; ///< of the style file as it was last applied
+    QTimer mStartTimer;
+    QTimer mStyleTimer;
+};
+
+} // namespace ZARN

@@ -1,0 +1,308 @@
+// The slots of the main window: each forwards to the controller whose task it is and brings the panels up to date.
+
+#include "app/CmdLine.h"
+#include "app/Console.h"
+#include "app/DataHandler.h"
+#include "app/Property.h"
+#include "app/gui/Kernel.h"
+#include "card/CardContainer.h"
+#include "profile/ui/DialogProfile.h"
+#include "profile/ui/DialogProfileInfo.h"
+#include "ui/main/CardController.h"
+#include "ui/main/DialogAbout.h"
+#include "ui/main/DialogCard.h"
+#include "ui/main/DialogHelp.h"
+#include "ui/main/DialogMain.h"
+#include "ui/main/DialogPreferences.h"
+#include "ui/main/ExportController.h"
+#include "ui/main/MainActions.h"
+#include "ui/main/ProfileController.h"
+#include "ui/main/ProjectController.h"
+#include "ui/main/StatusProgress.h"
+#include "ui/main/WidgetCycleSummary.h"
+#include "ui/main/WidgetWelcome.h"
+#include "ui/main/WindowLayout.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QFileInfo>
+#include <QFileOpenEvent>
+#include <QMimeData>
+#include <QStackedWidget>
+
+namespace ZARN {
+
+void DialogMain::slotMenu(QAction* pAction)
+{
+    const int id = pAction->data().toInt();
+    mSession.console.print("DialogMain::slotMenu id %d\n", id);
+    switch (id) {
+    case eActionNewProject:
+        mpProjectController->newProject();
+        break;
+    case eActionOpenProject:
+        mpProjectController->openProject();
+        break;
+    case eActionOpenFolder:
+        mpCardController->askFolder();
+        break;
+    case eActionSaveProject:
+    case eActionSaveProjectAs:
+        saveProject(id == eActionSaveProjectAs);
+        break;
+    case eActionQuit:
+        mStartTimer.stop();
+        close();
+        break;
+    case eActionExportKml:
+        mpExportController->exportKml();
+        break;
+    case eActionExportCsv:
+        mpExportController->exportCsv();
+        break;
+    default:
+        showInformation(id);
+    }
+}
+
+void DialogMain::showInformation(int id)
+{
+    const std::map<int, QWidget*> windows = {
+        {eActionAbout, mpAbout}, {eActionProfile, mpProfileInfo}, {eActionHelp, mpHelp}, {eActionPreferences, mpPreferences}};
+    const auto found = windows.find(id);
+    if (found == windows.end())
+        return;
+    QWidget* pWindow = found->second;
+    pWindow->show();
+    pWindow->raise();
+    pWindow->activateWindow();
+}
+
+void DialogMain::slotMenuRecent(QAction* /*pAction*/)
+{
+}
+
+void DialogMain::slotMenuPrefAbout()
+{
+}
+
+bool DialogMain::saveProject(bool askName)
+{
+    return mpProjectController->saveProject(askName);
+}
+
+bool DialogMain::askSaveProject()
+{
+    return mpProjectController->askSaveProject();
+}
+
+bool DialogMain::isProjectModified() const
+{
+    return mpProjectController->isModified();
+}
+
+void DialogMain::updateTitle()
+{
+    const QString path = QString::fromStdString(mSession.property.getString("LastPath", "."));
+    setWindowTitle("ZARN " + path.section('/', -2, -1));
+}
+
+void DialogMain::updateUnit()
+{
+    mpProfileController->updateUnit();
+    mpProfile->updateProfile();
+    mpCardController->reload();
+}
+
+void DialogMain::loadProfile()
+{
+    mpProfileController->load();
+    mpProfileInfo->setProfileFile(mpProfileController->file());
+    mpProfileInfo->fillProfileInfo();
+    mpProfile->updateProfile();
+}
+
+void DialogMain::fillProfiles()
+{
+    mpProfileController->fill();
+}
+
+void DialogMain::updateProfiles()
+{
+    mpProfileController->update();
+}
+
+void DialogMain::setProgress(int percent)
+{
+    mpProgress->setProgress(percent);
+}
+
+void DialogMain::openFolder(const QString& path)
+{
+    mpCardController->openFolder(path);
+}
+
+void DialogMain::slotProfileChanged()
+{
+    slotDataChanged();
+}
+
+void DialogMain::slotProfileChanged(const QString& name)
+{
+    mpProfileController->select(name);
+    slotProfileFileChanged();
+}
+
+void DialogMain::slotProfileFileChanged()
+{
+    loadProfile();
+    fillProfiles();
+    mpCardController->reload(); // flights and their statistic are decoded by the profile
+    slotProfileChanged();
+    updateTitle();
+}
+
+void DialogMain::slotProfileInstalled()
+{
+    updateProfiles();
+    slotProfileFileChanged();
+}
+
+void DialogMain::slotUnitChanged(int index)
+{
+    mpProfileController->selectUnit(index);
+    updateUnit();
+}
+
+void DialogMain::slotCanChanged()
+{
+    mpProjectController->setModified();
+}
+
+void DialogMain::slotZarnMode(int /*mode*/)
+{
+    mpCardController->restoreFolder(QString::fromStdString(mSession.property.getString("LastPath", ".")));
+}
+
+void DialogMain::slotLoadRecord(const std::list<QString>& files)
+{
+    if (!files.empty())
+        mpCardController->loadRecords(files);
+}
+
+void DialogMain::slotLoadCycle(unsigned int cycle, int flight)
+{
+    mpCardController->loadCycle(cycle, flight);
+    if (flight < 0)
+        mpCard->addFlights(cycle);
+}
+
+void DialogMain::slotFolderChanged()
+{
+    updateTitle();
+    // Before the first folder was opened there is nothing that could be missing.
+    const bool everOpened = !mSession.property.getString("LastPath", "").empty();
+    mpWelcome->setProblem(everOpened ? mpCardController->problem() : QString());
+    mpWelcome->setWithCard(!mSession.container.recordFiles().empty());
+    mpCentre->setCurrentWidget(mpWelcome);
+}
+
+void DialogMain::slotDataChanged()
+{
+    if (mSession.container.recordData().count() == 0)
+        return;
+    mpSummary->showData();
+    mpCentre->setCurrentWidget(mpSummary);
+}
+
+void DialogMain::slotProjectChanged()
+{
+    mpProfile->updateProject();
+    slotProfileChanged();
+    updateTitle();
+}
+
+void DialogMain::slotTimeout()
+{
+    restoreCard();
+    if (!mDesktop.withDefaults)
+        mpProjectController->restoreProject();
+    mpProfile->updateProfile();
+    slotProfileChanged();
+    updateTitle();
+    Q_EMIT signalStarted();
+}
+
+void DialogMain::restoreCard()
+{
+    const QString given = QString::fromStdString(mDesktop.cmdLine.operand());
+    const QString last = QString::fromStdString(mSession.property.getString("LastPath", "."));
+    if (!given.isEmpty())
+        openFolder(QFileInfo(given).absoluteFilePath());
+    else if (!last.isEmpty() && !mDesktop.withDefaults)
+        mpCardController->restoreFolder(last);
+}
+
+void DialogMain::slotTimeoutStartup()
+{
+    mpLayout->restoreSplitters();
+}
+
+void DialogMain::slotCheckStyle()
+{
+    if (mStyleFile.isEmpty())
+        return;
+    const QDateTime time = QFileInfo(mStyleFile).lastModified();
+    if (time == mStyleTime)
+        return;
+    mStyleTime = time;
+    mSession.console.print("Slot Load Style <%s>\n", mStyleFile.toUtf8().constData());
+    mDesktop.kernel.loadStyleFile(mStyleFile);
+}
+
+bool DialogMain::eventFilter(QObject* pObject, QEvent* pEvent)
+{
+    if (pEvent->type() != QEvent::FileOpen)
+        return QMainWindow::eventFilter(pObject, pEvent);
+    const QFileInfo info(static_cast<QFileOpenEvent*>(pEvent)->file());
+    openFolder(info.isDir() ? info.absoluteFilePath() : info.absolutePath());
+    return true;
+}
+
+void DialogMain::dragEnterEvent(QDragEnterEvent* pEvent)
+{
+    if (CardController::droppedFolder(pEvent->mimeData()).isEmpty())
+        return;
+    mpWelcome->setDragged(true);
+    pEvent->acceptProposedAction();
+}
+
+void DialogMain::dragLeaveEvent(QDragLeaveEvent* /*pEvent*/)
+{
+    mpWelcome->setDragged(false);
+}
+
+void DialogMain::dropEvent(QDropEvent* pEvent)
+{
+    mpWelcome->setDragged(false);
+    const QString folder = CardController::droppedFolder(pEvent->mimeData());
+    pEvent->acceptProposedAction();
+    // The program that the folder comes from waits for this event to end.
+    QMetaObject::invokeMethod(this, [this, folder] { openFolder(folder); }, Qt::QueuedConnection);
+}
+
+void DialogMain::closeEvent(QCloseEvent* pEvent)
+{
+    pEvent->setAccepted(cleanup());
+}
+
+bool DialogMain::cleanup()
+{
+    if (!mpProjectController->saveIfModified())
+        return false;
+    if (!mEmu && mpLayout->store())
+        mSession.property.writeXmlFile();
+    return true;
+}
+
+} // namespace ZARN

@@ -1,0 +1,156 @@
+#include "ui/main/DialogPreferences.h"
+
+#include "app/Property.h"
+#include "app/gui/ImageHandler.h"
+#include "app/gui/Kernel.h"
+
+#include <QComboBox>
+#include <QFileDialog>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QStackedWidget>
+
+namespace ZARN {
+
+namespace {
+
+constexpr int kListWidth = 150;
+constexpr int kSmallestFont = 8;
+constexpr int kLargestFont = 20;
+constexpr int kDefaultFont = 12;
+
+} // namespace
+
+DialogPreferences::DialogPreferences(const Session& session, Kernel& kernel, QWidget* pParent)
+    : QDialog(pParent), mSession(session), mKernel(kernel), mpList(new QListWidget), mpPages(new QStackedWidget),
+      mpLanguage(new QComboBox), mpFontSize(new QSpinBox)
+{
+    setWindowTitle(tr("Preferences"));
+    mpList->setIconSize(QSize(16, 16));
+    mpList->setFixedWidth(kListWidth);
+    connect(mpList, &QListWidget::currentItemChanged, this, &DialogPreferences::slotChangePage);
+    addPage(tr("General"), "general", createGeneralPage());
+    addPage(tr("Profile"), "profile", createProfilePage());
+    mpList->setCurrentRow(0);
+
+    auto* pOk = new QPushButton(tr("Ok"));
+    pOk->setDefault(true);
+    connect(pOk, &QPushButton::clicked, this, &DialogPreferences::slotClose);
+    auto* pColumns = new QHBoxLayout;
+    pColumns->addWidget(mpList);
+    pColumns->addWidget(mpPages, 1);
+    auto* pLayout = new QVBoxLayout(this);
+    pLayout->addLayout(pColumns, 1);
+    pLayout->addWidget(pOk, 0, Qt::AlignRight);
+    resize(580, 320);
+    fillDialog();
+    // Connected last: what filling the window sets is no change of the user's.
+    connect(mpLanguage, &QComboBox::activated, this, [this](int index) { slotLanguage(mpLanguage->itemData(index).toString()); });
+    connect(mpFontSize, &QSpinBox::valueChanged, this, &DialogPreferences::slotFont);
+}
+
+QWidget* DialogPreferences::createGeneralPage()
+{
+    mpLanguage->addItem("Deutsch", "de");
+    mpLanguage->addItem("English", "us");
+    mpFontSize->setRange(kSmallestFont, kLargestFont);
+    auto* pGroup = new QGroupBox(tr("Application"));
+    auto* pForm = new QFormLayout(pGroup);
+    pForm->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    pForm->addRow(tr("Language :"), mpLanguage);
+    pForm->addRow(tr("Font Size :"), mpFontSize);
+    auto* pPage = new QWidget;
+    auto* pLayout = new QVBoxLayout(pPage);
+    pLayout->setContentsMargins(8, 0, 0, 0);
+    pLayout->addWidget(pGroup);
+    pLayout->addStretch();
+    return pPage;
+}
+
+QWidget* DialogPreferences::createProfilePage()
+{
+    auto* pSelect = new QPushButton(tr("Select profile file ..."));
+    connect(pSelect, &QPushButton::clicked, this, &DialogPreferences::slotProfileSelect);
+    auto* pText = new QLabel(tr("A profile says what the recorded bytes mean. The tool bar offers the installed ones; "
+                                "here a profile file from any folder can be used."));
+    pText->setWordWrap(true);
+    auto* pGroup = new QGroupBox(tr("Profile file"));
+    auto* pGroupLayout = new QVBoxLayout(pGroup);
+    pGroupLayout->addWidget(pText);
+    pGroupLayout->addWidget(pSelect, 0, Qt::AlignLeft);
+    auto* pPage = new QWidget;
+    auto* pLayout = new QVBoxLayout(pPage);
+    pLayout->setContentsMargins(8, 0, 0, 0);
+    pLayout->addWidget(pGroup);
+    pLayout->addStretch();
+    return pPage;
+}
+
+void DialogPreferences::addPage(const QString& name, const QString& icon, QWidget* pPage)
+{
+    mpPages->addWidget(pPage);
+    mpList->addItem(new QListWidgetItem(ImageHandler::icon(icon), name));
+}
+
+void DialogPreferences::fillDialog()
+{
+    const QString locale = QString::fromStdString(mSession.property.getString("Locale", "us"));
+    mpLanguage->setCurrentIndex(mpLanguage->findData(locale));
+    const QSignalBlocker blocker(mpFontSize);
+    mpFontSize->setValue(mSession.property.getInt("FontSize", kDefaultFont));
+}
+
+void DialogPreferences::slotLanguage(const QString& locale)
+{
+    mSession.property.setString("Locale", locale.toStdString());
+    mSession.property.writeXmlFile();
+    Q_EMIT signalLanguageChanged();
+    QMessageBox box(QMessageBox::Information, tr("ZARN Info"), tr("Please restart ZARN to load new language !"), QMessageBox::NoButton, this);
+    const QPushButton* pNow = box.addButton(tr("Restart now"), QMessageBox::AcceptRole);
+    box.addButton(tr("Restart later: changes will not applied until next restart"), QMessageBox::RejectRole);
+    box.exec();
+    if (box.clickedButton() == pNow)
+        mKernel.restart();
+}
+
+void DialogPreferences::slotFont(int size)
+{
+    mKernel.applyFontSize(size);
+    mSession.property.setInt("FontSize", size);
+    mSession.property.writeXmlFile();
+}
+
+void DialogPreferences::slotProfileSelect()
+{
+    const QString start = QString::fromStdString(mSession.property.getString("Profile", "915"));
+    const QString file = QFileDialog::getOpenFileName(this, tr("Select Profile File"), start, tr("ZARN Profile (*.xml);;All files (*.*)"),
+                                                      nullptr, QFileDialog::DontUseNativeDialog);
+    if (file.isEmpty())
+        return;
+    slotProfilePath(file);
+    fillDialog();
+}
+
+void DialogPreferences::slotProfilePath(const QString& path)
+{
+    mSession.property.setString("Profile", path.toStdString());
+    mSession.property.writeXmlFile();
+    Q_EMIT signalProfileFileChanged();
+}
+
+void DialogPreferences::slotChangePage(QListWidgetItem* pCurrent, QListWidgetItem* pPrevious)
+{
+    mpPages->setCurrentIndex(mpList->row(pCurrent ? pCurrent : pPrevious));
+}
+
+void DialogPreferences::slotClose()
+{
+    close();
+}
+
+} // namespace ZARN

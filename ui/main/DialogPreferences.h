@@ -1,0 +1,56 @@
+#pragma once
+
+#include "project/Session.h"
+
+#include <QDialog>
+
+class QComboBox;
+class QListWidget;
+class QListWidgetItem;
+class QSpinBox;
+class QStackedWidget;
+
+namespace ZARN {
+
+class Kernel;
+
+/// The preferences window: language and font size, and which profile file to use. Every change is written to the settings at once. The main
+/// window owns it.
+class DialogPreferences : public QDialog {
+    Q_OBJECT
+
+public:
+    DialogPreferences(const Session& session, Kernel& kernel, QWidget* pParent = nullptr);
+
+    /// Shows what the settings hold.
+    void fillDialog();
+
+public Q_SLOTS:
+    /// Keeps the language and asks whether to start again now, for a language is loaded at start alone.
+    void slotLanguage(const QString& locale);
+    /// Applies and keeps a font size in pixels.
+    void slotFont(int size);
+    void slotProfileSelect();
+    void slotProfilePath(const QString& path);
+    void slotChangePage(QListWidgetItem* pCurrent, QListWidgetItem* pPrevious);
+    void slotClose();
+
+Q_SIGNALS:
+    void signalLanguageChanged();
+    /// The setting "Profile" names another profile file.
+    void signalProfileFileChanged();
+
+private:
+    QWidget* createGeneralPage();
+    QWidget* createProfilePage();
+    void addPage(const QString& name, const QString& icon, QWidget* pPage);
+
+    Session mSession;
+    Kernel& mKernel;
+    QListWidget* mpList;
+    QStackedWidget* mpPages;
+    QComboBox* mpLanguage;
+    QSpinBox* mpFontSize;
+};
+
+} // namespace ZARN

@@ -1,0 +1,70 @@
+#include "ui/main/MainActions.h"
+
+#include "app/gui/ImageHandler.h"
+
+#include <QAction>
+#include <QCoreApplication>
+
+namespace ZARN {
+
+namespace {
+
+constexpr const char* kContext = "ZARN::DialogMain";
+
+QString translated(const char* text)
+{
+    return QCoreApplication::translate(kContext, text);
+}
+
+} // namespace
+
+const std::vector<MainAction>& MainAction::all()
+{
+    // clang-format off
+    static const std::vector<MainAction> actions = {
+        {eActionNewProject, QT_TRANSLATE_NOOP("ZARN::DialogMain", "&New Project"), "Ctrl+N",
+         QT_TRANSLATE_NOOP("ZARN::DialogMain", "Create new Project"), "", "project-new"},
+        {eActionOpenProject, QT_TRANSLATE_NOOP("ZARN::DialogMain", "&Open Project"), "Ctrl+O",
+         QT_TRANSLATE_NOOP("ZARN::DialogMain", "Open Project"),
+         QT_TRANSLATE_NOOP("ZARN::DialogMain", "Open Project File"), "project-open"},
+        {eActionOpenFolder, QT_TRANSLATE_NOOP("ZARN::DialogMain", "&Open Data Folder"), "Ctrl+C",
+         QT_TRANSLATE_NOOP("ZARN::DialogMain", "Open Data Folder"), "", "open-folder"},
+        {eActionSaveProject, QT_TRANSLATE_NOOP("ZARN::DialogMain", "&Save Project"), "Ctrl+S",
+         QT_TRANSLATE_NOOP("ZARN::DialogMain", "Save Project"),
+         QT_TRANSLATE_NOOP("ZARN::DialogMain", "Save Project File"), "project-save"},
+        {eActionSaveProjectAs, QT_TRANSLATE_NOOP("ZARN::DialogMain", "&Save Project as"), "",
+         QT_TRANSLATE_NOOP("ZARN::DialogMain", "Save Project as"),
+         QT_TRANSLATE_NOOP("ZARN::DialogMain", "Save Project File as"), "project-save-as"},
+        {eActionQuit, QT_TRANSLATE_NOOP("ZARN::DialogMain", "&Quit"), "Ctrl+Q",
+         QT_TRANSLATE_NOOP("ZARN::DialogMain", "Quit Application"), "", "quit"},
+        {eActionAbout, QT_TRANSLATE_NOOP("ZARN::DialogMain", "About"), "",
+         QT_TRANSLATE_NOOP("ZARN::DialogMain", "Show License Information"), "", "about"},
+        {eActionProfile, QT_TRANSLATE_NOOP("ZARN::DialogMain", "Profile"), "",
+         QT_TRANSLATE_NOOP("ZARN::DialogMain", "Show Profile Information"), "", "profile"},
+        {eActionHelp, QT_TRANSLATE_NOOP("ZARN::DialogMain", "Help"), "F1",
+         QT_TRANSLATE_NOOP("ZARN::DialogMain", "Help Window"), "", "help"},
+        {eActionPreferences, QT_TRANSLATE_NOOP("ZARN::DialogMain", "Preferences"), "",
+         QT_TRANSLATE_NOOP("ZARN::DialogMain", "Open Preferences Dialog"), "", "preferences"},
+        {eActionExportKml, QT_TRANSLATE_NOOP("ZARN::DialogMain", "Export Google KML File"), "",
+         QT_TRANSLATE_NOOP("ZARN::DialogMain", "Export Google Earth KML File"), "", "export-kml"},
+        {eActionExportCsv, QT_TRANSLATE_NOOP("ZARN::DialogMain", "Export CSV File"), "",
+         QT_TRANSLATE_NOOP("ZARN::DialogMain", "Export CSV File"), "", "export-csv"},
+    };
+    // clang-format on
+    return actions;
+}
+
+QAction* MainAction::create(QObject* pParent) const
+{
+    auto* pAction = new QAction(ImageHandler::icon(icon), translated(text), pParent);
+    pAction->setData(id);
+    pAction->setShortcut(QKeySequence(shortcut));
+    pAction->setStatusTip(translated(statusTip));
+    if (*iconText)
+        pAction->setIconText(translated(iconText));
+    // The toolkit moves actions by words in their texts on some systems; these stay where the menus put them.
+    pAction->setMenuRole(QAction::NoRole);
+    return pAction;
+}
+
+} // namespace ZARN

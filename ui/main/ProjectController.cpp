@@ -1,0 +1,100 @@
+#include "ui/main/ProjectController.h"
+
+#include "app/Property.h"
+#include "project/Project.h"
+
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QWidget>
+
+namespace ZARN {
+
+ProjectController::ProjectController(const Session& session, QWidget* pWindow) : QObject(pWindow), mSession(session), mpWindow(pWindow) {}
+
+QString ProjectController::lastPath() const
+{
+    return QString::fromStdString(mSession.property.getString("LastProjectPath", "."));
+}
+
+void ProjectController::newProject()
+{
+    if (mModified && !askSaveProject())
+        return;
+    mSession.project.clear();
+    mHasFile = false;
+    mModified = 0;
+    Q_EMIT signalChanged();
+}
+
+void ProjectController::openProject()
+{
+    if (mModified && !askSaveProject())
+        return;
+    const QString file = QFileDialog::getOpenFileName(mpWindow, tr("Open ZARN Project"), lastPath(), tr("Project Files (*.xml)"), nullptr,
+                                                      QFileDialog::ShowDirsOnly | QFileDialog::DontUseNativeDialog);
+    if (file.isEmpty())
+        return;
+    if (!readProject(file)) {
+        QMessageBox box(QMessageBox::Warning, tr("ZARN Warning"), tr("%1 is no readable project file.").arg(file), QMessageBox::Ok, mpWindow);
+        box.setTextFormat(Qt::PlainText);
+        box.exec();
+        return;
+    }
+    mSession.property.setString("LastProjectPath", file.toStdString());
+    mSession.property.writeXmlFile();
+    Q_EMIT signalChanged();
+}
+
+void ProjectController::restoreProject()
+{
+    if (!lastPath().isEmpty())
+        readProject(lastPath());
+    mModified = 0;
+}
+
+bool ProjectController::readProject(const QString& path)
+{
+    if (!mSession.project.readProject(path))
+        return false;
+    mHasFile = true;
+    mModified = 0;
+    return true;
+}
+
+QString ProjectController::askSaveName()
+{
+    const QString name = QFileDialog::getSaveFileName(mpWindow, tr("Save ZARN Project"), lastPath(), tr("Project Files (*.xml)"), nullptr,
+                                                      QFileDialog::DontUseNativeDialog);
+    return name.isEmpty() || name.endsWith(".xml") ? name : name + ".xml";
+}
+
+bool ProjectController::saveProject(bool askName)
+{
+    const bool hasName = mHasFile && !lastPath().isEmpty() && lastPath() != ".";
+    const QString path = askName || !hasName ? askSaveName() : lastPath();
+    if (path.isEmpty())
+        return false;
+    mSession.project.saveProject(path);
+    mSession.property.setString("LastProjectPath", path.toStdString());
+    mSession.property.writeXmlFile();
+    mHasFile = true;
+    mModified = 0;
+    Q_EMIT signalChanged();
+    return true;
+}
+
+bool ProjectController::askSaveProject()
+{
+    QMessageBox box(QMessageBox::Warning, tr("ZARN Warning"), tr("Current Project not saved !\nSave it now ?"), QMessageBox::NoButton, mpWindow);
+    const QPushButton* pYes = box.addButton(tr("Yes"), QMessageBox::YesRole);
+    const QPushButton* pNo = box.addButton(tr("No"), QMessageBox::NoRole);
+    QPushButton* pCancel = box.addButton(tr("Cancel"), QMessageBox::RejectRole);
+    box.setEscapeButton(pCancel);
+    box.exec();
+    if (box.clickedButton() == pYes)
+        return saveProject(false);
+    return box.clickedButton() == pNo;
+}
+
+} // namespace ZARN

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "project/Session.h"
+
+#include <QObject>
+#include <QString>
+
+class QWidget;
+
+namespace ZARN {
+
+/// New, open and save for the project, and the question before unsaved changes are lost. Owned by the main window.
+class ProjectController : public QObject {
+    Q_OBJECT
+
+public:
+    ProjectController(const Session& session, QWidget* pWindow);
+
+    void newProject();
+    /// Asks for a project file and reads it.
+    void openProject();
+    /// Reads the project file of the settings, without asking anything.
+    void restoreProject();
+    /// @param askName ask for the file also when the project has one. @return false when the user gave up.
+    bool saveProject(bool askName);
+    /// Saves changes without asking whether. @return false when a file name was needed and the user gave up.
+    bool saveIfModified() { return mModified == 0 || saveProject(false); }
+    /// @return false when the user wants to stay with the project.
+    bool askSaveProject();
+
+    void setModified() { mModified = 1; }
+    [[nodiscard]] bool isModified() const { return mModified != 0; }
+    [[nodiscard]] QString lastPath() const;
+
+Q_SIGNALS:
+    /// Another project, or the same under another name.
+    void signalChanged();
+
+private:
+    bool readProject(const QString& path);
+    QString askSaveName();
+
+    Session mSession;
+    QWidget* mpWindow;
+    int mModified = 0;
+    bool mHasFile = true; ///< a run begins with the current project's file; a new project has none yet
+};
+
+} // namespace ZARN

@@ -1,0 +1,63 @@
+#include "ui/main/WindowLayout.h"
+
+#include "app/Property.h"
+
+#include <QMainWindow>
+#include <QSplitter>
+
+namespace ZARN {
+
+namespace {
+
+constexpr const char* kGeometry = "WindowGeometry";
+constexpr const char* kCentre = "WindowSplitter";
+constexpr const char* kSide = "WindowSideSplitter";
+constexpr QSize kFirstSize(1000, 800);
+constexpr int kFirstSideWidth = 320;
+
+QByteArray stored(const Property& property, const char* key)
+{
+    return QByteArray::fromBase64(QByteArray::fromStdString(property.getString(key, "")));
+}
+
+} // namespace
+
+WindowLayout::WindowLayout(Property& property, QMainWindow& window, QSplitter& centre, QSplitter& side)
+    : mProperty(property), mWindow(window), mCentre(centre), mSide(side)
+{
+}
+
+void WindowLayout::restoreWindow()
+{
+    mWindow.resize(kFirstSize);
+    mWindow.restoreGeometry(stored(mProperty, kGeometry)); // refuses what it did not write itself
+}
+
+void WindowLayout::restoreSplitters()
+{
+    const int width = mCentre.width();
+    if (!mCentre.restoreState(stored(mProperty, kCentre)))
+        mCentre.setSizes({kFirstSideWidth, width - kFirstSideWidth});
+    mSide.restoreState(stored(mProperty, kSide));
+    // Other versions may have kept other properties of the splitters; only the sizes are the user's.
+    for (QSplitter* pSplitter : {&mCentre, &mSide})
+        pSplitter->setChildrenCollapsible(false);
+}
+
+bool WindowLayout::store()
+{
+    const bool geometry = storeText(kGeometry, mWindow.saveGeometry().toBase64().constData());
+    const bool centre = storeText(kCentre, mCentre.saveState().toBase64().constData());
+    const bool side = storeText(kSide, mSide.saveState().toBase64().constData());
+    return geometry || centre || side;
+}
+
+bool WindowLayout::storeText(const char* key, const char* text)
+{
+    if (mProperty.getString(key, "") == text)
+        return false;
+    mProperty.setString(key, text);
+    return true;
+}
+
+} // namespace ZARN
