@@ -24,13 +24,18 @@ template <typename Visitor> void forEachKey(const RecordEntries& entries, Visito
     }
 }
 
-/// The position of the first sample of a channel in ascending time whose key is above `key`.
-std::size_t firstAbove(const RecordEntries& entries, TimeKey key)
+struct KeyPosition {
+    TimeKey key;
+    uint32_t position;
+};
+
+/// The first place in [0, size) whose key, by `keyAt`, is above `key`; keyAt must not fall.
+template <typename KeyAt> std::size_t firstAbove(std::size_t size, TimeKey key, KeyAt keyAt)
 {
     std::size_t first = 0;
-    for (std::size_t size = entries.size(); size > 0;) {
+    while (size > 0) {
         const std::size_t half = size / 2;
-        if (TimeKey::of(entries.time(first + half)) > key) {
+        if (keyAt(first + half) > key) {
             size = half;
         } else {
             first += half + 1;
@@ -60,13 +65,13 @@ std::size_t TableRows::addChannel(const RecordChannel* pChannel)
         return kNoSamples;
     Channel channel{pChannel, {}};
     if (!pChannel->entries.ascending())
-        channel.samples = sortedSamples(pChannel->entries);
+        channel.sorted = sortedPositions(pChannel->entries);
     mergeKeys(distinctKeys(channel));
     mChannels.push_back(std::move(channel));
     return mChannels.size() - 1;
 }
 
-std::vector<TableRows::KeyPosition> TableRows::sortedSamples(const RecordEntries& entries)
+std::vector<uint32_t> TableRows::sortedPositions(const RecordEntries& entries)
 {
     std::vector<KeyPosition> samples;
     samples.reserve(entries.size());
@@ -74,10 +79,13 @@ std::vector<TableRows::KeyPosition> TableRows::sortedSamples(const RecordEntries
     std::sort(samples.begin(), samples.end(), [](const KeyPosition& a, const KeyPosition& b) {
         return a.key != b.key ? a.key < b.key : a.position < b.position;
     });
-    // The last of equal keys stays: unique() from behind keeps the first it meets.
-    const auto sameKey = [](const KeyPosition& a, const KeyPosition& b) { return a.key == b.key; };
-    samples.erase(samples.begin(), std::unique(samples.rbegin(), samples.rend(), sameKey).base());
-    return samples;
+    std::vector<uint32_t> positions;
+    positions.reserve(samples.size());
+    for (std::size_t i = 0; i < samples.size(); ++i) {
+        if (i + 1 == samples.size() || samples[i].key != samples[i + 1].key)
+            positions.push_back(samples[i].position);
+    }
+    return positions;
 }
 
 std::vector<TimeKey> TableRows::distinctKeys(const Channel& channel)
@@ -87,10 +95,10 @@ std::vector<TimeKey> TableRows::distinctKeys(const Channel& channel)
         if (keys.empty() || keys.back() != key)
             keys.push_back(key);
     };
-    if (channel.samples.empty())
+    if (channel.sorted.empty())
         forEachKey(channel.pChannel->entries, add);
-    else
-        std::for_each(channel.samples.begin(), channel.samples.end(), [&](const KeyPosition& sample) { add(sample.key); });
+    for (const uint32_t position : channel.sorted)
+        add(channel.keyAt(position));
     return keys;
 }
 
@@ -112,20 +120,18 @@ std::optional<std::size_t> TableRows::sampleAt(std::size_t column, std::size_t r
 {
     if (mColumns[column] == kNoSamples)
         return {};
-    const Channel& channel = mChannels[mColumns[column]];
-    const TimeKey wanted = mKeys[row];
-    if (channel.samples.empty()) {
-        const RecordEntries& entries = channel.pChannel->entries;
-        const std::size_t above = firstAbove(entries, wanted);
-        if (above == 0 || TimeKey::of(entries.time(above - 1)) != wanted)
-            return {};
-        return above - 1;
-    }
-    const auto found = std::lower_bound(channel.samples.begin(), channel.samples.end(), wanted,
-                                        [](const KeyPosition& sample, TimeKey key) { return sample.key < key; });
-    if (found == channel.samples.end() || found->key != wanted)
+    return mChannels[mColumns[column]].last(mKeys[row]);
+}
+
+std::optional<std::size_t> TableRows::Channel::last(TimeKey key) const
+{
+    const bool ascending = sorted.empty();
+    const auto positionAt = [&](std::size_t place) { return ascending ? place : sorted[place]; };
+    const std::size_t above = firstAbove(ascending ? pChannel->entries.size() : sorted.size(), key,
+                                         [&](std::size_t place) { return keyAt(positionAt(place)); });
+    if (above == 0 || keyAt(positionAt(above - 1)) != key)
         return {};
-    return found->position;
+    return positionAt(above - 1);
 }
 
 const RecordChannel* TableRows::channel(std::size_t column) const
@@ -137,7 +143,7 @@ std::size_t TableRows::bytes() const
 {
     std::size_t bytes = mKeys.capacity() * sizeof(TimeKey) + mColumns.capacity() * sizeof(std::size_t);
     for (const Channel& channel : mChannels)
-        bytes += sizeof(Channel) + channel.samples.capacity() * sizeof(KeyPosition);
+        bytes += sizeof(Channel) + channel.sorted.capacity() * sizeof(uint32_t);
     return bytes;
 }
 

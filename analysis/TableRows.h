@@ -10,7 +10,7 @@ namespace ZARN {
 
 /// The rows of the data table: one for each distinct time, in tenths of a second, of the samples of all shown parameters, and for
 /// each column the sample that stands in a row. A row takes 4 bytes; a sample takes nothing where the channel's times ascend, for
-/// there the records themselves are searched, and 8 bytes where they go backwards. Refers to the records.
+/// there the records themselves are searched, and 4 bytes where they go backwards. Refers to the records.
 class TableRows {
 public:
     TableRows() = default;
@@ -29,18 +29,17 @@ public:
     [[nodiscard]] std::size_t bytes() const; ///< of memory that the index takes
 
 private:
-    struct KeyPosition {
-        TimeKey key;
-        uint32_t position;
-    };
     struct Channel {
         const RecordChannel* pChannel;
-        std::vector<KeyPosition> samples; // by key, the last of each; empty when the times ascend
+        std::vector<uint32_t> sorted; // positions in ascending order of keys, the last of each; empty when the times ascend
+
+        [[nodiscard]] TimeKey keyAt(std::size_t position) const { return TimeKey::of(pChannel->entries.time(position)); }
+        [[nodiscard]] std::optional<std::size_t> last(TimeKey key) const;
     };
     static constexpr std::size_t kNoSamples = SIZE_MAX;
 
     std::size_t addChannel(const RecordChannel* pChannel);
-    static std::vector<KeyPosition> sortedSamples(const RecordEntries& entries);
+    static std::vector<uint32_t> sortedPositions(const RecordEntries& entries);
     static std::vector<TimeKey> distinctKeys(const Channel& channel);
     void mergeKeys(const std::vector<TimeKey>& keys);
 

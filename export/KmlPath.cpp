@@ -86,9 +86,10 @@ void KmlPath::build(const RecordData& data, Profile& profile, const KmlGrid& gri
     profile.resetCoordinates();
     constexpr uint32_t identifiers[] = {kLatitudeIdentifier, kLongitudeIdentifier, kAltitudeIdentifier};
     constexpr const char* labels[] = {" lat ", " long ", nullptr};
-    DebugLines lines(console);
-    for (std::size_t i = 0; i < std::size(identifiers); ++i)
+    for (std::size_t i = 0; i < std::size(identifiers); ++i) {
+        DebugLines lines(console);
         merge(collect(data, identifiers[i], profile, grid, console.isVerbose() ? labels[i] : nullptr, lines), kCoordinates[i]);
+    }
     fillForward();
     fillBackward(console);
 }

@@ -1,0 +1,286 @@
+#include "analysis/LimitEvents.h"
+#include "analysis/WarningEvents.h"
+#include "support/CardBuilder.h"
+#include "support/ProfileBuilder.h"
+#include "support/TestCycle.h"
+
+#include <QTest>
+
+#include <limits>
+#include <random>
+
+using namespace ZARN;
+using namespace ZARN::Test;
+
+namespace {
+
+constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
+
+/// "time:state:text[:colour]" of every event.
+QString described(const EventList& list, bool withColour = false)
+{
+    QStringList events;
+    for (const Event& event : list.events()) {
+        events << QString("%1:%2:%3").arg(event.time).arg(event.state).arg(QString::fromStdString(list.text(event)));
+        if (withColour)
+            events.back() += ":" + (event.colour.isValid() ? event.colour.name() : "none");
+    }
+    return events.join(", ");
+}
+
+/// The numbers of a text like "70 90 nan", one a second from 1 s on, as FLOAT samples.
+void addFloats(RecordFileBuilder& file, uint32_t identifier, const QString& text)
+{
+    double time = 0;
+    for (const QString& number : text.split(' ', Qt::SkipEmptyParts))
+        file.addFloat(identifier, ++time, number.toFloat());
+}
+
+/// To be used within one expression.
+ProfileBuilder& limitProfile(ProfileBuilder&& builder = ProfileBuilder())
+{
+    builder.unit("C", "F", 2, 1).unit("K", "R", std::numeric_limits<double>::infinity());
+    builder.thresholds("Limits", {{0, "OK", "green"}, {80, "WARNING", "yellow"}, {100, "LIMIT", "#ff0000"}});
+    builder.thresholds("Colourless", {{50, "WARNING", "no colour"}});
+    builder.thresholds("Unordered", {{50, "WARNING", "yellow"}, {100, "LIMIT", "red"}, {70, "OK", "green"}});
+    builder.thresholds("Equal", {{50, "WARNING", "yellow"}, {50, "LIMIT", "red"}});
+    builder.enumeration("Modes", {{1, "On"}});
+    return builder;
+}
+
+/// The walk over the list as it is written, sample by sample.
+std::vector<double> eventTimesByScan(Profile& profile, const RecordChannel& channel, const ProfileParameter& parameter)
+{
+    std::vector<double> times;
+    int previous = 2;
+    for (const RecordEntry entry : channel.entries) {
+        int state = 0;
+        QColor colour;
+        const std::string text = profile.getDataString(entry, parameter, state, colour);
+        if (((previous == 0 && state != 0) || (previous == 1 && state == 2)) && text != "nan")
+            times.push_back(entry.time);
+        previous = state;
+    }
+    return times;
+}
+
+} // namespace
+
+class TestEvents : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void limits_data();
+    void limits();
+    void limitsOfEveryType_data();
+    void limitsOfEveryType();
+    void limitsAreSortedAndKeepTheOrderOfTheProfile();
+    void limitsEqualTheLiteralWalk();
+    void positionsStartWithAClearedFilter();
+    void lamps_data();
+    void lamps();
+    void lampTakesItsStateByTheTypeInTheMessage();
+    void onlyTheLampGroupCounts();
+    void rowOfATime();
+};
+
+void TestEvents::limits_data()
+{
+    QTest::addColumn<QString>("attributes"); // "key=value" ...
+    QTest::addColumn<QString>("values");
+    QTest::addColumn<QString>("expected");
+
+    const QString limits = "thresholdId=Limits precision=0";
+    QTest::newRow("up through both bands") << limits << "70 90 110 70" << "2:1:Engine T 90 :#ffff00, 3:2:Engine T 110 :#ff0000";
+    QTest::newRow("straight into the second") << limits << "70 110 90 110" << "2:2:Engine T 110 :#ff0000, 4:2:Engine T 110 :#ff0000";
+    QTest::newRow("outside from the start") << limits << "90 90 70 90" << "4:1:Engine T 90 :#ffff00";
+    QTest::newRow("down from the second at the start") << limits << "110 90 110" << "3:2:Engine T 110 :#ff0000";
+    QTest::newRow("on the boundary") << limits << "79 80 99 100" << "2:1:Engine T 80 :#ffff00, 4:2:Engine T 100 :#ff0000";
+    QTest::newRow("below the first boundary is in order") << limits << "-5 90" << "2:1:Engine T 90 :#ffff00";
+    QTest::newRow("not a number is dropped, but was the state") << limits << "70 nan 110 70 90" << "5:1:Engine T 90 :#ffff00";
+    QTest::newRow("infinite") << limits << "70 inf -inf inf" << "2:2:Engine T inf :#ff0000, 4:2:Engine T inf :#ff0000";
+    QTest::newRow("no list") << "thresholdId=Nothing" << "70 90 110" << "";
+    QTest::newRow("a colour that is none") << "thresholdId=Colourless precision=0" << "10 60" << "2:1:Engine T 60 :none";
+    QTest::newRow("list out of order") << "thresholdId=Unordered precision=0" << "10 75 10 120" << "2:1:Engine T 75 :#ffff00";
+    QTest::newRow("equal boundaries") << "thresholdId=Equal precision=0" << "10 50" << "2:2:Engine T 50 :#ff0000";
+    QTest::newRow("unit") << limits + " unitMetric=C unitImperial=C" << "70 90" << "2:1:Engine T 90 C:#ffff00";
+    QTest::newRow("imperial: limits are metric, the text is not") << limits + " unitMetric=C unitImperial=F imperial" << "70 90"
+                                                                  << "2:1:Engine T 181 F:#ffff00";
+    QTest::newRow("conversion to no number") << "thresholdId=Limits factor=0 offset=0 unitMetric=K unitImperial=R imperial" << "70 90" << "";
+}
+
+void TestEvents::limits()
+{
+    QFETCH(QString, attributes);
+    QFETCH(QString, values);
+    TestCycle cycle;
+    ProfileBuilder::Attributes more;
+    for (const QString& attribute : attributes.split(' ')) {
+        if (attribute == "imperial")
+            cycle.profile.setCurrentUnit(EUnit::eImperial);
+        else
+            more.emplace_back(attribute.section('=', 0, 0), attribute.section('=', 1));
+    }
+    QVERIFY(limitProfile().device("Engine").parameter("T", 10, "FLOAT", more).load(cycle.profile));
+    RecordFileBuilder file;
+    addFloats(file, 10, values);
+    RecordData data;
+    file.fill(data);
+    QTEST(described(limitEvents(data, cycle.profile), true), "expected");
+}
+
+void TestEvents::limitsOfEveryType_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<QString>("expected");
+
+    // The samples' data bytes are 0, 0x5A000000, 0x00000064 (in this order).
+    QTest::newRow("whole numbers") << "USHORT" << "2:2:D P 23040 ";
+    QTest::newRow("bytes") << "UCHAR" << "2:1:D P 90 ";
+    QTest::newRow("long") << "LONG" << "2:2:D P 1509949440 ";
+    QTest::newRow("fields are always in order") << "BLONG" << "";
+    QTest::newRow("16-bit fields too") << "BSHORT" << "";
+    QTest::newRow("texts that tell of a type without a number") << "ERROR" << "";
+}
+
+void TestEvents::limitsOfEveryType()
+{
+    QFETCH(QString, type);
+    TestCycle cycle;
+    QVERIFY(limitProfile().device("D").parameter("P", 10, type, {{"thresholdId", "Limits"}, {"endBit", "31"}}).load(cycle.profile));
+    RecordData data;
+    RecordFileBuilder().addWord(10, 1, 0).addWord(10, 2, 0x5A000000).addWord(10, 3, 100).fill(data);
+    QTEST(described(limitEvents(data, cycle.profile)), "expected");
+}
+
+void TestEvents::limitsAreSortedAndKeepTheOrderOfTheProfile()
+{
+    TestCycle cycle;
+    const ProfileBuilder::Attributes limits{{"thresholdId", "Limits"}, {"precision", "0"}};
+    QVERIFY(limitProfile().device("B").parameter("Late", 12, "FLOAT", limits).parameter("First", 11, "FLOAT", limits)
+                .device("A").parameter("Second", 11, "FLOAT", limits).load(cycle.profile));
+    RecordData data;
+    RecordFileBuilder file;
+    for (const auto& [time, value] : {std::pair(5.0, 0.0F), {6.0, 90.0F}, {2.0, 0.0F}, {3.0, 91.0F}}) // the clock went back
+        file.addFloat(11, time, value).addFloat(12, time, value);
+    file.fill(data);
+    QCOMPARE(described(limitEvents(data, cycle.profile)),
+             "3:1:B Late 91 , 3:1:B First 91 , 3:1:A Second 91 , 6:1:B Late 90 , 6:1:B First 90 , 6:1:A Second 90 ");
+}
+
+void TestEvents::limitsEqualTheLiteralWalk()
+{
+    std::mt19937 random(7);
+    const std::vector<double> boundaries{-100, 0, 50, 50, 80, 100, kNan, std::numeric_limits<double>::infinity()};
+    const auto pick = [&random](const auto& from) { return from[random() % from.size()]; };
+    for (int round = 0; round < 200; ++round) {
+        std::vector<ProfileBuilder::Boundary> list;
+        for (auto n = random() % 6; n > 0; --n)
+            list.push_back({pick(boundaries), pick(QStringList{"OK", "WARNING", "LIMIT"}), "red"});
+        TestCycle cycle;
+        QVERIFY(ProfileBuilder().thresholds("L", list).device("D").parameter("P", 10, "FLOAT", {{"thresholdId", "L"}}).load(cycle.profile));
+        RecordFileBuilder file;
+        for (int i = 0; i < 2500; ++i) { // more than one chunk of records
+            const double value = random() % 8 == 0 ? pick(boundaries) : static_cast<double>(random() % 240) - 120;
+            file.addFloat(10, i * 0.25, static_cast<float>(value));
+        }
+        RecordData data;
+        file.fill(data);
+        std::vector<double> times;
+        const EventList found = limitEvents(data, cycle.profile);
+        for (const Event& event : found.events())
+            times.push_back(event.time);
+        QCOMPARE(times, eventTimesByScan(cycle.profile, *data.channel(10), cycle.profile.parameter(10)));
+    }
+}
+
+void TestEvents::positionsStartWithAClearedFilter()
+{
+    TestCycle cycle;
+    ProfileBuilder builder;
+    builder.thresholds("North", {{48.05, "WARNING", "red"}}).device("D");
+    builder.parameter("Lat", 10, "FLOAT", {{"viewId", "Latitude"}, {"thresholdId", "North"}, {"precision", "2"}});
+    QVERIFY(builder.load(cycle.profile));
+    RecordFileBuilder file;
+    addFloats(file, 10, "4800 4800 4800 4800 4800 4800 4803.6 9000"); // the last is a jump that the filter takes out
+    RecordData data;
+    file.fill(data);
+    const QString expected = "7:1:D Lat 48.06 ";
+    QCOMPARE(described(limitEvents(data, cycle.profile)), expected);
+    QCOMPARE(described(limitEvents(data, cycle.profile)), expected);
+}
+
+void TestEvents::lamps_data()
+{
+    QTest::addColumn<QList<int>>("states");
+    QTest::addColumn<QString>("expected");
+
+    const QString first = ":1:WarningLamp Oil 1 :#ff9664";
+    const QString second = ":2:WarningLamp Oil 2 :#ff6464";
+    QTest::newRow("lit from the first sample") << QList{1, 1, 1} << "1" + first;
+    QTest::newRow("lit again is not told again") << QList{0, 1, 0, 1} << "2" + first;
+    QTest::newRow("another state after the dark") << QList{1, 0, 2} << "1" + first + ", 3" + second;
+    QTest::newRow("from state to state") << QList{1, 2, 1} << "1" + first + ", 2" + second + ", 3" + first;
+    QTest::newRow("dark all the time") << QList{0, 0} << "";
+    QTest::newRow("states without a colour") << QList{3, -1} << "1:3:WarningLamp Oil 3 :none, 2:-1:WarningLamp Oil -1 :none";
+}
+
+void TestEvents::lamps()
+{
+    QFETCH(QList<int>, states);
+    TestCycle cycle;
+    QVERIFY(ProfileBuilder().device("WarningLamp").parameter("Oil", 10, "SHORT").load(cycle.profile));
+    RecordFileBuilder file;
+    double time = 0;
+    for (const int state : states)
+        file.addShort(10, ++time, static_cast<uint16_t>(state), 6);
+    RecordData data;
+    file.fill(data);
+    QTEST(described(warningEvents(data, cycle.profile), true), "expected");
+}
+
+void TestEvents::lampTakesItsStateByTheTypeInTheMessage()
+{
+    TestCycle cycle;
+    QVERIFY(ProfileBuilder().device("WarningLamp").parameter("Oil", 10, "UCHAR").load(cycle.profile));
+    RecordData data;
+    RecordFileBuilder file;
+    file.add(10, 1, floatPayload(1.0F));     // a float message has no integer
+    file.add(10, 2, bytePayload(2, 10));     // state 2, text 2
+    file.add(10, 3, wordPayload(0x05000001, 4)); // state 0x05000001, while the text is that of the parameter's type
+    file.fill(data);
+    QCOMPARE(described(warningEvents(data, cycle.profile)), "2:2:WarningLamp Oil 2 , 3:83886081:WarningLamp Oil 5 ");
+}
+
+void TestEvents::onlyTheLampGroupCounts()
+{
+    TestCycle cycle;
+    QVERIFY(ProfileBuilder().device("Engine").parameter("A", 10, "UCHAR").device("WarningLamp").parameter("B", 10, "UCHAR")
+                .parameter("None", 11, "UCHAR").device("warninglamp").parameter("C", 10, "UCHAR").device("WarningLamp")
+                .parameter("D", 10, "UCHAR").load(cycle.profile));
+    RecordData data;
+    RecordFileBuilder().add(10, 1, bytePayload(1)).fill(data);
+    QCOMPARE(described(warningEvents(data, cycle.profile)), "1:1:WarningLamp B 1 , 1:1:WarningLamp D 1 ");
+}
+
+void TestEvents::rowOfATime()
+{
+    TestCycle cycle;
+    QVERIFY(ProfileBuilder().device("WarningLamp").parameter("A", 10, "UCHAR").load(cycle.profile));
+    RecordData data;
+    RecordFileBuilder file;
+    for (const auto& [time, state] : {std::pair(1.0, 1), {2.0, 2}, {2.01, 3}, {4.0, 4}})
+        file.add(10, time, bytePayload(static_cast<uint8_t>(state)));
+    file.fill(data);
+    const EventList list = warningEvents(data, cycle.profile);
+    QCOMPARE(list.rowAt(-3), 0U);
+    QCOMPARE(list.rowAt(1.94), 0U);
+    QCOMPARE(list.rowAt(1.96), 2U); // rounded to 2.0 s, of which two events are
+    QCOMPARE(list.rowAt(3.0), 2U);
+    QCOMPARE(list.rowAt(1e30), 3U);
+    QCOMPARE(list.rowAt(kNan), 0U);
+    QCOMPARE(EventList().rowAt(5), 0U);
+}
+
+QTEST_GUILESS_MAIN(TestEvents)
+#include "TestEvents.moc"
