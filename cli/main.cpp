@@ -52,7 +52,9 @@ int runProgram(int argc, char** argv)
             program.exit(error);
             return eDone;
         }
-        std::fprintf(stderr, "zarn-cli: %s (see zarn-cli --help)\n", error.what());
+        std::string reason = error.what();
+        std::ranges::replace(reason, '\n', ' ');
+        std::fprintf(stderr, "zarn-cli: %s (see zarn-cli --help)\n", reason.c_str());
         return eWrongCall;
     }
     for (const auto& command : commands) {

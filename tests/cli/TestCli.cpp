@@ -154,6 +154,7 @@ void TestCli::failures_data()
     row("separator", {"csv", "CARD", "-o", "out.csv", "--separator", "|"}, 2, "--separator");
     row("two subcommands", {"info", "card", "profile", "Profile.xml"}, 2, "profile");
     row("json for a file", {"csv", "CARD", "-o", "out.csv", "--json"}, 2, "--json");
+    row("newline in a wrong argument", {"info", "card", "--a\nb"}, 2, "--a b");
 }
 
 void TestCli::failures()

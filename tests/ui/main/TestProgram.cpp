@@ -26,6 +26,7 @@ QString run(const QString& home, const QStringList& arguments)
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("HOME", home);
     environment.insert("QT_QPA_PLATFORM", "offscreen");
+    environment.remove("DISPLAY"); // with an X server the platform finds OpenGL
     environment.remove("XDG_DATA_HOME");
     process.setProcessEnvironment(environment);
     process.setWorkingDirectory(home);
