@@ -1,3 +1,5 @@
+#include "analysis/LimitEvents.h"
+#include "analysis/WarningEvents.h"
 #include "app/Console.h"
 #include "app/FmaClones.h"
 #include "app/NumberText.h"
@@ -155,11 +157,25 @@ void csv(benchmark::State& state)
     }
 }
 
+/// Everything that is derived from a loaded cycle before a view shows it.
+void derivedFacts(benchmark::State& state)
+{
+    LoadedCard card;
+    RecordCycle cycle = card.container.recordCycles().begin()->second;
+    for (auto _ : state) {
+        card.container.calcFlightPath();
+        card.container.calcFlights(cycle);
+        benchmark::DoNotOptimize(limitEvents(card.container.recordData(), card.profile).events().size());
+        benchmark::DoNotOptimize(warningEvents(card.container.recordData(), card.profile).events().size());
+    }
+}
+
 BENCHMARK(decodeFloor)->Name("decode/floor")->Unit(benchmark::kMillisecond);
 BENCHMARK(decodeChannel)->Name("decode/channel")->Unit(benchmark::kMillisecond);
 BENCHMARK(valueAtTime)->Name("value/at")->Args({1000000, 0})->Args({10000000, 0})->Args({1000000, 1})->Args({10000000, 1});
 BENCHMARK(textSnprintf)->Name("text/snprintf")->Unit(benchmark::kMillisecond);
 BENCHMARK(textFixed)->Name("text/fixed")->Unit(benchmark::kMillisecond);
+BENCHMARK(derivedFacts)->Name("facts/cycle")->Unit(benchmark::kMillisecond);
 BENCHMARK(csv)->Name("csv/ms")->Arg(100)->Arg(10)->Unit(benchmark::kMillisecond);
 
 } // namespace
