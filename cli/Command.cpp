@@ -1,7 +1,6 @@
 #include "cli/Command.h"
 
 #include "app/NumberText.h"
-#include "app/Revision.h"
 
 #include <cerrno>
 #include <cstdio>
@@ -9,10 +8,7 @@
 
 namespace ZARN {
 
-Command::Command(CLI::App& program, const char* name, const char* description) : mpOptions(program.add_subcommand(name, description))
-{
-    mpOptions->set_version_flag("--version", Revision::getRevisionString());
-}
+Command::Command(CLI::App& program, const char* name, const char* description) : mOptions(program, name, description) {}
 
 int Command::print(const std::string& text)
 {

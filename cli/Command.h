@@ -2,8 +2,7 @@
 
 #include "app/Console.h"
 #include "card/CardContainer.h"
-
-#include <CLI/App.hpp>
+#include "cli/CommandOptions.h"
 
 namespace ZARN {
 
@@ -18,14 +17,14 @@ public:
     Command(const Command&) = delete;
     Command& operator=(const Command&) = delete;
 
-    [[nodiscard]] std::string name() const { return mpOptions->get_name(); }
-    [[nodiscard]] bool isChosen() const { return mpOptions->parsed(); }
+    [[nodiscard]] std::string name() const { return mOptions.name(); }
+    [[nodiscard]] bool isChosen() const { return mOptions.isChosen(); }
     /// @return the process's exit status; a failure has been said on standard error.
     virtual int run() = 0;
 
 protected:
-    CLI::App& options() { return *mpOptions; }
-    void addJson() { mpOptions->add_flag("--json", mJson, "one JSON object instead of tables for people"); }
+    CommandOptions& options() { return mOptions; }
+    void addJson() { mOptions.addFlag("--json", mJson, "one JSON object instead of tables for people"); }
     /// Writes the result to standard output. @return the exit status.
     static int print(const std::string& text);
     /// Says "NAME: reason" on standard error. @return eFailed.
@@ -34,7 +33,7 @@ protected:
     bool mJson = false;
 
 private:
-    CLI::App* mpOptions; // owned by the program's parser
+    CommandOptions mOptions;
 };
 
 /// The formatting that the tables for people share.

@@ -9,11 +9,10 @@ namespace ZARN {
 
 CommandCsv::CommandCsv(CLI::App& program) : DataCommand(program, "csv", "export the decoded data as CSV")
 {
-    options().add_option("-o,--output", mOutput, "file to write; \"-\" is standard output")->required();
-    options().add_option("--resolution", mResolution, "milliseconds a row: 100 (default) or 10")->check(CLI::IsMember({100U, 10U}));
-    options()
-        .add_option("--separator", mSeparator, "semicolon (default), comma or tab")
-        ->check(CLI::IsMember({"semicolon", "comma", "tab"}));
+    options().add("-o,--output", mOutput, "file to write; \"-\" is standard output", CommandOptions::eRequired);
+    options().add("--resolution", mResolution, "milliseconds a row: 100 (default) or 10", CommandOptions::oneOf({"100", "10"}));
+    options().add("--separator", mSeparator, "semicolon (default), comma or tab", CommandOptions::eOptional,
+                  CommandOptions::oneOf({"semicolon", "comma", "tab"}));
     addSelect("export only this parameter; may be given many times (default: all)");
 }
 

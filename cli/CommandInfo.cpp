@@ -46,7 +46,7 @@ void writeCycle(JsonWriter& writer, uint32_t number, const RecordCycle& cycle)
 
 CommandInfo::CommandInfo(CLI::App& program) : Command(program, "info", "list a card's record files and power cycles")
 {
-    options().add_option("CARD", mCard, "the card folder")->required();
+    options().add("CARD", mCard, "the card folder", CommandOptions::eRequired);
     addJson();
 }
 

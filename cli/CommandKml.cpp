@@ -9,13 +9,10 @@ namespace ZARN {
 
 CommandKml::CommandKml(CLI::App& program) : DataCommand(program, "kml", "export the flight path as KML")
 {
-    options().add_option("-o,--output", mOutput, "file to write; \"-\" is standard output")->required();
+    options().add("-o,--output", mOutput, "file to write; \"-\" is standard output", CommandOptions::eRequired);
     addSelect("place placemarks with this parameter's values; may be given many times (default: none)");
-    options()
-        .add_option("--set", mSettings, "KEY=VALUE: a setting of the export, for example KmlTimeStamp=2; may be given many times")
-        ->allow_extra_args(false)
-        ->take_all()
-        ->check(CLI::Validator(&CommandKml::checkSetting, "KEY=VALUE"));
+    options().addMany("--set", mSettings, "KEY=VALUE: a setting of the export, for example KmlTimeStamp=2; may be given many times",
+                      &CommandKml::checkSetting);
 }
 
 std::string CommandKml::checkSetting(const std::string& text)

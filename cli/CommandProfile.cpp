@@ -59,10 +59,21 @@ std::string json(const Profile& profile)
     return writer.text() + "\n";
 }
 
+/// What the profile tells of itself, in one line.
+std::string heading(const ProfileModel& model)
+{
+    std::string text;
+    for (const std::string& part : {model.name, model.version, model.profileId.empty() ? "" : "(" + model.profileId + ")", model.comment}) {
+        if (!part.empty())
+            text += (text.empty() ? "" : " ") + part;
+    }
+    return text.empty() ? "Profile without a name" : text;
+}
+
 std::string tables(const Profile& profile)
 {
     const ProfileModel& model = profile.model();
-    std::string text = model.name + " " + model.version + " (" + model.profileId + ") " + model.comment + "\n";
+    std::string text = heading(model) + "\n";
     for (const ProfileVariant& variant : profile.variants())
         text += "Variant " + variant.name + "\n";
     TextTable parameters({"Parameter", "Id", "Type", "Unit", "Imperial", "Key"});
@@ -82,8 +93,8 @@ std::string tables(const Profile& profile)
 
 CommandProfile::CommandProfile(CLI::App& program) : Command(program, "profile", "show what a profile file declares")
 {
-    options().add_option("FILE", mFile, "the profile file")->required();
-    options().add_option("--variant", mVariant, "variant of the profile (default: none)");
+    options().add("FILE", mFile, "the profile file", CommandOptions::eRequired);
+    options().add("--variant", mVariant, "variant of the profile (default: none)");
     addJson();
 }
 

@@ -36,8 +36,8 @@ std::string minutes(double seconds)
 
 CommandSummary::CommandSummary(CLI::App& program) : Command(program, "summary", "tell on one page what happened on a card")
 {
-    options().add_option("CARD", mCard, "the card folder")->required();
-    options().add_option("--profile", mProfileFile, "profile file (default: the shipped profile \"915\")");
+    options().add("CARD", mCard, "the card folder", CommandOptions::eRequired);
+    options().add("--profile", mProfileFile, "profile file (default: the shipped profile \"915\")");
 }
 
 int CommandSummary::run()

@@ -7,11 +7,8 @@ namespace ZARN {
 
 CommandValue::CommandValue(CLI::App& program) : DataCommand(program, "value", "print a parameter's value at given times")
 {
-    options().add_option("--parameter", mParameter, "name of the parameter")->required();
-    options().add_option("--time", mTimes, "seconds since the unit's power-up; may be given many times")
-        ->required()
-        ->allow_extra_args(false)
-        ->take_all();
+    options().add("--parameter", mParameter, "name of the parameter", CommandOptions::eRequired);
+    options().addMany("--time", mTimes, "seconds since the unit's power-up; may be given many times", CommandOptions::eRequired);
     addJson();
 }
 

@@ -9,12 +9,12 @@ DataCommand::DataCommand(CLI::App& program, const char* name, const char* descri
     : Command(program, name, description), mProfile(Console::standardError()),
       mContainer(Console::standardError(), mProfile, nullProgress())
 {
-    options().add_option("CARD", mCard, "the card folder")->required();
-    options().add_option("--profile", mProfileFile, "profile file (default: the shipped profile \"915\")");
-    options().add_option("--variant", mVariant, "variant of the profile (default: none)");
-    options().add_option("--unit", mUnit, "metric (default) or imperial")->check(CLI::IsMember({"metric", "imperial"}));
-    mpCycle = options().add_option("--cycle", mCycle, "number of the power cycle (default: the lowest on the card)");
-    mpFlight = options().add_option("--flight", mFlight, "number of the flight, from 1 (default: the whole cycle)");
+    options().add("CARD", mCard, "the card folder", CommandOptions::eRequired);
+    options().add("--profile", mProfileFile, "profile file (default: the shipped profile \"915\")");
+    options().add("--variant", mVariant, "variant of the profile (default: none)");
+    options().add("--unit", mUnit, "metric (default) or imperial", CommandOptions::eOptional, CommandOptions::oneOf({"metric", "imperial"}));
+    options().add("--cycle", mCycle, "number of the power cycle (default: the lowest on the card)");
+    options().add("--flight", mFlight, "number of the flight, from 1 (default: the whole cycle)");
 }
 
 int DataCommand::run()
@@ -53,12 +53,12 @@ bool DataCommand::loadData()
             return mCard + ": no such folder";
         if (mContainer.recordCycles().empty())
             return mCard + ": the folder holds no record file (*.CAN, *.can, *.xcb)";
-        const unsigned int number = mpCycle->count() ? mCycle : mContainer.recordCycles().begin()->first;
+        const unsigned int number = options().isGiven("--cycle") ? mCycle : mContainer.recordCycles().begin()->first;
         if (!mContainer.recordCycles().contains(number))
             return mCard + ": no cycle " + std::to_string(number);
-        const int flight = mpFlight->count() ? mFlight : 0;
+        const int flight = options().isGiven("--flight") ? mFlight : 0;
         // Flights count from 1 here, from 0 in the container; -1 stands for the whole cycle there.
-        if ((mpFlight->count() && flight < 1) || !mContainer.loadCycle(number, flight - 1))
+        if ((options().isGiven("--flight") && flight < 1) || !mContainer.loadCycle(number, flight - 1))
             return mCard + ": no flight " + std::to_string(flight) + " in cycle " + std::to_string(number);
         return mContainer.loadError();
     }();

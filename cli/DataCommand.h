@@ -14,7 +14,7 @@ public:
 protected:
     /// The work on the loaded data. @return the exit status.
     virtual int runOnData() = 0;
-    void addSelect(const char* description) { options().add_option("--select", mSelected, description)->allow_extra_args(false)->take_all(); }
+    void addSelect(const char* description) { options().addMany("--select", mSelected, description); }
     [[nodiscard]] bool hasSelection() const { return !mSelected.empty(); }
     [[nodiscard]] const RecordCycle& cycle() const { return *mContainer.loadedCycle(); }
 
@@ -33,8 +33,6 @@ private:
     std::vector<std::string> mSelected;
     unsigned int mCycle = 0;
     int mFlight = 0;
-    CLI::Option* mpCycle = nullptr;
-    CLI::Option* mpFlight = nullptr;
 };
 
 } // namespace ZARN

@@ -11,6 +11,7 @@
 #include "cli/CommandSummary.h"
 #include "cli/CommandValue.h"
 
+#include <CLI/App.hpp>
 #include <CLI/Config.hpp>
 #include <CLI/Formatter.hpp>
 

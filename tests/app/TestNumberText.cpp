@@ -1,13 +1,14 @@
 #include "app/NumberText.h"
-#include "app/Numeric.h"
 
 #include <QTest>
 
 #include <bit>
 #include <cfloat>
 #include <climits>
+#include <cmath>
 #include <cstdint>
 #include <cstdio>
+#include <limits>
 #include <random>
 #include <string>
 
@@ -64,7 +65,6 @@ private Q_SLOTS:
     void generalEqualsPrintf();
     void specialNumbers();
     void integersAtTheirLimits();
-    void saturatingCastHoldsToTheType();
 };
 
 void TestNumberText::fixedEqualsPrintf_data()
@@ -121,41 +121,6 @@ void TestNumberText::integersAtTheirLimits()
         char buffer[kNumberTextSize];
         QCOMPARE(std::string(buffer, writeInteger(buffer, number)), std::to_string(number));
     }
-}
-
-template <typename Integer> void checkLimits()
-{
-    using Limits = std::numeric_limits<Integer>;
-    const double infinity = std::numeric_limits<double>::infinity();
-    const auto highest = static_cast<double>(Limits::max());
-    const auto lowest = static_cast<double>(Limits::min());
-    QCOMPARE(saturatingCast<Integer>(std::numeric_limits<double>::quiet_NaN()), Integer(0));
-    for (const double above : {highest + 1, highest * 2, 1e300, infinity})
-        QCOMPARE(saturatingCast<Integer>(above), Limits::max());
-    for (const double below : {lowest - 1, lowest * 2 - 5, -1e300, -infinity})
-        QCOMPARE(saturatingCast<Integer>(below), Limits::min());
-    QCOMPARE(saturatingCast<Integer>(lowest), Limits::min());
-    // The greatest double below the limit converts exactly, whether or not the type's own maximum is a double.
-    const double aboveMax = std::ldexp(1.0, Limits::digits);
-    const double below = std::nextafter(aboveMax, 0.0);
-    QCOMPARE(saturatingCast<Integer>(below), static_cast<Integer>(std::trunc(below)));
-    QCOMPARE(saturatingCast<Integer>(aboveMax), Limits::max());
-    for (const double fraction : {0.999, 41.0, 41.999}) {
-        QCOMPARE(saturatingCast<Integer>(fraction), static_cast<Integer>(static_cast<int>(fraction)));
-        QCOMPARE(saturatingCast<Integer>(-fraction), Limits::is_signed ? static_cast<Integer>(-static_cast<int>(fraction)) : Integer(0));
-    }
-}
-
-void TestNumberText::saturatingCastHoldsToTheType()
-{
-    checkLimits<int8_t>();
-    checkLimits<uint8_t>();
-    checkLimits<int16_t>();
-    checkLimits<uint16_t>();
-    checkLimits<int32_t>();
-    checkLimits<uint32_t>();
-    checkLimits<int64_t>();
-    checkLimits<uint64_t>();
 }
 
 QTEST_APPLESS_MAIN(TestNumberText)

@@ -91,8 +91,10 @@ void loadProfile(Profile& profile)
 {
     ProfileBuilder builder;
     builder.enumeration("E", {{0, "off"}, {1, kLongLabel}, {2, "ein Wort für zwei"}, {3, ""}});
-    builder.device("A").parameter("speed", 1, "FLOAT", {{"precision", "2"}}).parameter("far", 1, "FLOAT", {{"precision", "17"}, {"factor", "1e20"}});
-    builder.parameter("switch", 2, "BLONG", {{"enumId", "E"}, {"endBit", "2"}}).parameter("flags", 2, "BSHORT", {{"startByte", "6"}, {"endBit", "3"}});
+    builder.device("A").parameter("speed", 1, "FLOAT", {{"precision", "2"}});
+    builder.parameter("far", 1, "FLOAT", {{"precision", "17"}, {"factor", "1e20"}});
+    builder.parameter("switch", 2, "BLONG", {{"enumId", "E"}, {"endBit", "2"}});
+    builder.parameter("flags", 2, "BSHORT", {{"startByte", "6"}, {"endBit", "3"}});
     builder.position("Latitude", 3).position("Longitude", 4).parameter("unknown", 5, "ACHAR").parameter("silent", 77, "USHORT");
     builder.device("B").parameter("count", 5, "ULONG", {{"precision", "4"}}).parameter("byte", 1, "UCHAR").parameter("speed", 6, "LONG");
     builder.parameter("all of kind 0", RecordData::kPseudoKind0, "USHORT", {{"startByte", "2"}}).position("Latitude", 4);

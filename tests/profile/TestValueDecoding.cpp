@@ -163,9 +163,7 @@ void TestValueDecoding::decoding_data()
     row("overflow of the text", "USHORT_2", "factor=1e9", "000d0000ffff0000", 65535, 65535e9, "2147483647", "limit limit");
     row("negative", "CHAR", "startByte=7", "0009000000000080", -128, -128, "-128", "neutral neutral");
     row("lane", "CHAR_4", "startByte=5", "000f000000fe0000", -2, -2, "-2", "neutral neutral");
-    row("lane", "CHAR_2", "", "001200007f000000", 127, 127, "127", "limit limit");
     row("lane", "CHAR_3", "startByte=6", "001a00000000ff00", -1, -1, "-1", "neutral neutral");
-    row("plain", "UCHAR", "", "000a000055000000", 85, 85, "85", "warning warning");
     row("lane", "UCHAR_4", "startByte=7 factor=0.1", "00100000000000ff", 255, std::fma(0.1, 255.0, 0.0), "25", "ok ok");
     row("lane", "UCHAR_2", "startByte=5", "0013000000500000", 80, 80, "80", "warning warning");
     row("lane", "UCHAR_3", "startByte=6 offset=-1", "001b000000006500", 101, 100, "100", "limit limit");

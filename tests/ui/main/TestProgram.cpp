@@ -41,7 +41,7 @@ QString run(const QString& home, const QStringList& arguments)
     }
     process.terminate();
     process.waitForFinished(5000);
-    return output;
+    return output + QString::fromUtf8(process.readAllStandardOutput());
 }
 
 void verifyOrder(const QString& output, const QStringList& lines)
