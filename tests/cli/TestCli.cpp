@@ -51,6 +51,7 @@ private Q_SLOTS:
     void failedWritesLeaveNothing_data();
     void failedWritesLeaveNothing();
     void csvGoesWhereItIsTold();
+    void kmlTakesItsSettings();
     void valuesSurviveTheRoundTrip();
     void textsAreEscaped();
     void tablesForPeople_data();
@@ -82,12 +83,16 @@ void TestCli::initTestCase()
     builder.thresholds("T", {{0, "OK", "#00ff00"}, {90, "LIMIT", "red"}}).device("D");
     builder.parameter("height", 1, "FLOAT", {{"thresholdId", "T"}, {"unitMetric", "m"}, {"unitImperial", "ft"}, {"precision", "1"}});
     builder.parameter("Drehzahl ü", 2, "USHORT").parameter("only A", 2, "USHORT", {{"variant", "A"}}).write(mFolder.path());
+    ProfileBuilder warnings;
+    warnings.device("WarningLamp").parameter("Oil", 3, "UCHAR").device("Faults").errorMatrix(700, "Lane A").errorMatrix(701, "Lane B");
+    putFile(folder + "/warnings.xml", warnings.faultBit("Sensor", 700, 3, "Fault").xml().toStdString());
     putFile(folder + "/other.xml", "<SomethingElse/>");
     putFile(folder + "/broken.xml", "<CanAerospaceProfile><Device>");
     RecordFileBuilder file;
     file.dateTime(QDateTime(QDate(2024, 5, 1), QTime(12, 0), Qt::UTC)).texts({"A", "B \"quoted\"", "C\x01\xff", "D", "E", "F"});
     for (int i = 0; i < 400; ++i)
         file.addFloat(1, 1 + i * 0.1, static_cast<float>(i) * 0.25F).addShort(2, 1 + i * 0.1, static_cast<uint16_t>(i));
+    file.add(3, 3, bytePayload(1)).addWord(700, 1, 0).addWord(700, 2, 8).addWord(700, 4, 0);
     file.addFloat(1, 50, std::numeric_limits<float>::quiet_NaN()).addFloat(1, 51, -HUGE_VALF).addFloat(1, 60, 0.1F).addFloat(1, 61, 0);
     putFile(folder + "/card/LOG 1.CAN", file.bytes().toStdString());
 }
@@ -137,6 +142,8 @@ void TestCli::failures_data()
     row("missing target folder", {"csv", "CARD", "-o", "no/out.csv"}, 1, "no/out.csv: No such file or directory");
     row("folder as target", {"csv", "CARD", "-o", "card"}, 1, "card: Is a directory");
     row("full device", {"csv", "CARD", "-o", "/dev/full"}, 1, "/dev/full: No space left on device");
+    row("missing target folder of KML", {"kml", "CARD", "-o", "no/out.kml"}, 1, "no/out.kml: No such file or directory");
+    row("unknown selection for KML", {"kml", "CARD", "-o", "out.kml", "--select", "nope"}, 1, "nope: the profile has no such");
     row("unknown subcommand", {"bogus"}, 2, "bogus");
     row("no card", {"info"}, 2, "CARD");
     row("unknown option", {"info", "card", "--bogus"}, 2, "--bogus");
@@ -152,6 +159,10 @@ void TestCli::failures_data()
     row("no output", {"csv", "CARD"}, 2, "--output");
     row("resolution", {"csv", "CARD", "-o", "out.csv", "--resolution", "50"}, 2, "--resolution");
     row("separator", {"csv", "CARD", "-o", "out.csv", "--separator", "|"}, 2, "--separator");
+    row("no output for KML", {"kml", "CARD"}, 2, "--output");
+    row("setting that is none", {"kml", "CARD", "-o", "out.kml", "--set", "KmlPlaceMarkInterval=3"}, 2, "KmlPlaceMarkInterval");
+    row("setting of another export", {"kml", "CARD", "-o", "out.kml", "--set", "KmlLineWidth=3", "--set", "CsvLimiter=59"}, 2, "CsvLimiter");
+    row("setting without a value", {"kml", "CARD", "-o", "out.kml", "--set", "KmlLineWidth"}, 2, "KmlLineWidth");
     row("two subcommands", {"info", "card", "profile", "Profile.xml"}, 2, "profile");
     row("json for a file", {"csv", "CARD", "-o", "out.csv", "--json"}, 2, "--json");
     row("newline in a wrong argument", {"info", "card", "--a\nb"}, 2, "--a b");
@@ -192,6 +203,8 @@ void TestCli::failedWritesLeaveNothing_data()
     QTest::newRow("file size limit") << "ulimit -f 1; \"$1\" csv card --profile Profile.xml -o kept.csv" << "kept.csv: File too large";
     QTest::newRow("limit, new file") << "ulimit -f 1; \"$1\" csv card --profile Profile.xml -o new.csv" << "new.csv: File too large";
     QTest::newRow("full standard output") << "\"$1\" csv card --profile Profile.xml -o - >/dev/full" << "standard output: No space left";
+    QTest::newRow("file size limit, KML") << "ulimit -f 1; \"$1\" kml card --profile Profile.xml --select height -o kept.csv "
+                                             "--set KmlPlaceMarkIntervall=1" << "kept.csv: File too large";
     QTest::newRow("full standard output, json") << "\"$1\" info card --json >/dev/full" << "standard output: No space left";
     QTest::newRow("closed standard output") << "\"$1\" csv card --profile Profile.xml -o - >&-" << "standard output: Bad file descriptor";
     QTest::newRow("closed standard output, table") << "\"$1\" info card >&-" << "standard output: Bad file descriptor";
@@ -227,6 +240,18 @@ void TestCli::csvGoesWhereItIsTold()
     cli(QStringList{"csv"} + mWith + QStringList{"-o", "out.csv", "--separator", "comma", "--select", "only A", "--select", "height"});
     QCOMPARE(csv().section('\n', 0, 0), QString("Time,height,only A")); // in the profile's order
     std::filesystem::remove((mFolder.path() + "/out.csv").toStdString());
+}
+
+void TestCli::kmlTakesItsSettings()
+{
+    const QStringList call = QStringList{"kml"} + mWith + QStringList{"-o", "-", "--select", "height"};
+    const Answer plain = cli(call);
+    QCOMPARE(plain.status, 0);
+    QVERIFY(plain.out.contains("<width>1</width>") && plain.out.endsWith("</kml>\n"));
+    QVERIFY(!plain.errors.contains("time ")); // a line for every position belongs to the desktop program
+    const Answer set = cli(call + QStringList{"--set", "KmlLineWidth=7", "--set", "KmlLineWidth=9", "--set", "KmlLineColor=", "--set",
+                                              "KmlPolygonOn=1"});
+    QVERIFY(set.out.contains("<width>9</width>") && set.out.contains("<extrude>0</extrude>") && set.out.contains("<color>ff000000</color>"));
 }
 
 void TestCli::valuesSurviveTheRoundTrip()
@@ -267,12 +292,18 @@ void TestCli::tablesForPeople_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QStringList>("needles");
-    QTest::newRow("info") << QStringList{"info", "card"} << QStringList{"LOG 1.CAN", "2024-05-01 12:00:00", "00:01:01.000", "804"};
+    QTest::newRow("info") << QStringList{"info", "card"} << QStringList{"LOG 1.CAN", "2024-05-01 12:00:00", "00:01:01.000", "808"};
     QTest::newRow("info, nothing there") << QStringList{"info", "empty"} << QStringList{"empty", "no record file"};
     QTest::newRow("flights") << QStringList{"flights", "CARD"} << QStringList{"Cycle 0", "No flight"};
     QTest::newRow("value") << QStringList{"value", "CARD", "--parameter", "height", "--time", "60.5", "--time", "99"}
                            << QStringList{"D/height [m]", "0.100000", "ok", "no data"};
     QTest::newRow("path") << QStringList{"path", "CARD"} << QStringList{"Latitude"};
+    QTest::newRow("limits") << QStringList{"events", "CARD"} << QStringList{"Limit exceedances", "00:00:37.000", "90.0", "No warning lamp was lit"};
+    QTest::newRow("lamps") << QStringList{"events", "card", "--profile", "warnings.xml"}
+                           << QStringList{"No limit was exceeded", "Warning lamps", "00:00:03.000  WarningLamp  Oil"};
+    QTest::newRow("faults") << QStringList{"faults", "card", "--profile", "warnings.xml"}
+                            << QStringList{"Lane A (700)", "Fault  00:00:02.000  00:00:04.000", "Lane B (701)", "not recorded"};
+    QTest::newRow("faults, nothing there") << QStringList{"faults", "CARD"} << QStringList{"no error matrix"};
     QTest::newRow("profile") << QStringList{"profile", "Profile.xml"} << QStringList{"D/Drehzahl ü", "Variant A"};
 }
 
