@@ -195,7 +195,7 @@ bool RecordFile::readData(FILE* pFile, RecordData& data)
 template <bool Swap> bool RecordFile::readRecords(FILE* pFile, RecordData& data)
 {
     constexpr int32_t kPiece = 256 * 1024 / kRecordSize; // records a read
-    const auto buffer = std::make_unique<uint8_t[]>(kPiece * kRecordSize);
+    const auto buffer = std::make_unique_for_overwrite<uint8_t[]>(kPiece * kRecordSize);
     for (int32_t done = 0; done < recordCount;) {
         const int32_t wanted = std::min(kPiece, recordCount - done);
         const auto got = static_cast<int32_t>(std::fread(buffer.get(), kRecordSize, static_cast<std::size_t>(wanted), pFile));
