@@ -37,10 +37,16 @@ if(ZARN_SANITIZE)
   target_link_options(zarn_options INTERFACE -fsanitize=address,undefined)
 endif()
 
-# zarn_library(NAME LINKS target...): all sources of this folder as one static library; a main function is no part of it.
+# zarn_library(NAME LINKS target... [FOLDERS folder...]): all sources of this folder, or of the folders given, as one static
+# library; a main function is no part of it.
 function(zarn_library name)
-  cmake_parse_arguments(ARG "" "" "LINKS" ${ARGN})
-  file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
+  cmake_parse_arguments(ARG "" "" "LINKS;FOLDERS" ${ARGN})
+  if(NOT ARG_FOLDERS)
+    set(ARG_FOLDERS .)
+  endif()
+  list(TRANSFORM ARG_FOLDERS APPEND "/*.cpp" OUTPUT_VARIABLE patterns)
+  list(TRANSFORM ARG_FOLDERS APPEND "/*.h" OUTPUT_VARIABLE headers)
+  file(GLOB sources CONFIGURE_DEPENDS ${patterns} ${headers})
   list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
   if(NOT sources)
     add_library(${name} INTERFACE)

@@ -1,0 +1,28 @@
+#pragma once
+
+namespace ZARN {
+
+class RecordData;
+
+/// A view of the loaded record that follows the common view time. The data area hangs on this alone; which view comes in which
+/// order is in one place there.
+class DataView {
+public:
+    virtual ~DataView() = default;
+
+    /// Other parameters are shown, another profile or unit is in force: everything that comes from the profile is built anew.
+    virtual void updateProfile() = 0;
+
+    /// Shows that record; null shows none. The record is not owned and lives until the next call.
+    virtual void updateRecord(RecordData* pRecord) = 0;
+
+    /// @param time view time in seconds on the record's own time base
+    virtual void setTime(double time) = 0;
+
+protected:
+    DataView() = default;
+    DataView(const DataView&) = default;
+    DataView& operator=(const DataView&) = default;
+};
+
+} // namespace ZARN
