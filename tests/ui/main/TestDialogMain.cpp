@@ -14,6 +14,7 @@
 #include <QDir>
 #include <QDropEvent>
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
@@ -73,7 +74,8 @@ void chooseFile(QWidget* pModal, const QString& path)
 {
     auto* pDialog = qobject_cast<QFileDialog*>(pModal);
     QVERIFY(pDialog);
-    pDialog->selectFile(path);
+    // Typed whole, as a person does: what the dialog still selects while it reads the folder does not count then.
+    pDialog->findChild<QLineEdit*>("fileNameEdit")->setText(path);
     QMetaObject::invokeMethod(pDialog, "accept");
 }
 
