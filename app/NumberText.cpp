@@ -1,5 +1,7 @@
 #include "app/NumberText.h"
 
+#include <algorithm>
+#include <bit>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
@@ -58,6 +60,34 @@ char* writeScaled(char* pOut, uint64_t scaled, int decimals)
     return pOut + length;
 }
 
+constexpr uint64_t kShortLimit = 100'000'000; // numbers of at most eight digits
+
+/// The eight digits, leading zeros included, as the bytes of a word from the lowest on: all at once, without a table.
+uint64_t eightDigits(uint64_t number)
+{
+    const uint64_t fours = number / 10000 | (number % 10000) << 32;
+    const uint64_t hundreds = fours * 10486 >> 20 & 0x0000007F0000007F;
+    const uint64_t twos = hundreds | (fours - 100 * hundreds) << 16;
+    const uint64_t tens = twos * 103 >> 10 & 0x000F000F000F000F;
+    return tens | (twos - 10 * tens) << 8;
+}
+
+/// As writeScaled(), for numbers below kShortLimit with at most seven decimals, on machines with the lowest byte first.
+char* writeShort(char* pOut, uint64_t scaled, int decimals)
+{
+    const uint64_t digits = eightDigits(scaled);
+    const int leadingZeros = std::min(std::countr_zero(digits) / 8, 7 - decimals);
+    const uint64_t text = (digits + 0x3030303030303030) >> 8 * leadingZeros;
+    std::memcpy(pOut, &text, sizeof text);
+    const int wholes = 8 - leadingZeros - decimals;
+    if (decimals == 0)
+        return pOut + wholes;
+    const uint64_t fraction = text >> 8 * wholes; // there is at least one digit on either side of the point
+    pOut[wholes] = '.';
+    std::memcpy(pOut + wholes + 1, &fraction, sizeof fraction);
+    return pOut + wholes + 1 + decimals;
+}
+
 } // namespace
 
 char* writeFixed(char* pOut, double value, int decimals)
@@ -72,7 +102,8 @@ char* writeFixed(char* pOut, double value, int decimals)
                 whole += rest > 0.5;
                 if (std::signbit(value))
                     *pOut++ = '-';
-                return writeScaled(pOut, whole, decimals);
+                const bool isShort = std::endian::native == std::endian::little && whole < kShortLimit && decimals <= 7;
+                return isShort ? writeShort(pOut, whole, decimals) : writeScaled(pOut, whole, decimals);
             }
         }
     }

@@ -11,7 +11,7 @@ namespace ZARN {
 
 namespace {
 
-constexpr std::size_t kBatch = 32; // samples whose ticks are computed at once
+constexpr std::size_t kBatch = 64; // samples whose ticks and values are computed at once
 
 uint32_t tickOf(double time, double ticksPerSecond)
 {
@@ -60,42 +60,53 @@ void CsvColumn::readAhead()
         mNextTick = mNext < mpChannel->entries.size() ? tickOf(mpChannel->entries.time(mNext), mTicksPerSecond) : kNoTick;
 }
 
-void CsvColumn::take(uint64_t offset, std::size_t position)
+void CsvColumn::take(uint64_t offset, double value)
 {
     if (mTaken == 0 || mOffsets[mTaken - 1] != offset)
         mOffsets[mTaken++] = static_cast<uint16_t>(offset);
-    if (mPositions.empty())
-        mRecords[mTaken - 1] = mpChannel->entries.stored(position);
-    else
-        mValues[mTaken - 1] = mPositions[position];
+    mValues[mTaken - 1] = value;
 }
 
 void CsvColumn::collectSorted(const CsvWindow& window)
 {
-    for (; mNext < mSorted.size() && mSorted[mNext].tick < window.end(); ++mNext)
-        take(mSorted[mNext].tick - window.first, mSorted[mNext].position);
+    CoordinateFilter unused;
+    for (; mNext < mSorted.size() && mSorted[mNext].tick < window.end(); ++mNext) {
+        const std::size_t position = mSorted[mNext].position;
+        const double value = mPositions.empty() ? mDecoder.textValue(mpChannel->entries.stored(position).payload, unused) : mPositions[position];
+        take(mSorted[mNext].tick - window.first, value);
+    }
 }
 
+// All samples are decoded, also those that a later one of the same tick overwrites: that is cheaper than to ask first.
 void CsvColumn::collectAscending(const CsvWindow& window)
 {
     const RecordEntries& entries = mpChannel->entries;
     const double ticksPerSecond = mTicksPerSecond;
     std::array<double, kBatch> times;
-    std::array<uint32_t, kBatch + 1> ticks;
+    std::array<double, kBatch> values;
+    std::array<uint32_t, kBatch> ticks;
     while (mNext < entries.size()) {
         const auto batch = entries.run(mNext, kBatch);
         recordTimes(batch, times.data());
         for (std::size_t i = 0; i < batch.size(); ++i)
             ticks[i] = tickOf(times[i], ticksPerSecond);
         const auto inWindow = static_cast<std::size_t>(std::lower_bound(ticks.begin(), ticks.begin() + batch.size(), window.end()) - ticks.begin());
-        for (std::size_t i = 0; i < inWindow; ++i) {
-            if (i + 1 == inWindow || ticks[i] != ticks[i + 1]) // only the last of a tick counts
-                take(ticks[i] - window.first, mNext + i);
-        }
+        valuesOf(batch.first(inWindow), values.data());
+        for (std::size_t i = 0; i < inWindow; ++i)
+            take(ticks[i] - window.first, values[i]);
         mNext += inWindow;
         if (inWindow < batch.size())
             return;
     }
+}
+
+void CsvColumn::valuesOf(std::span<const StoredRecord> records, double* pOut) const
+{
+    CoordinateFilter unused;
+    if (mPositions.empty())
+        mDecoder.textValues(records, pOut, unused);
+    else
+        std::copy_n(mPositions.begin() + static_cast<std::ptrdiff_t>(mNext), records.size(), pOut);
 }
 
 void CsvColumn::collect(CsvWindow& window)
@@ -104,7 +115,6 @@ void CsvColumn::collect(CsvWindow& window)
     if (mNextTick >= window.end())
         return;
     mOffsets.resize(window.marked.size());
-    mRecords.resize(window.marked.size());
     mValues.resize(window.marked.size());
     if (mSorted.empty())
         collectAscending(window);
@@ -113,36 +123,37 @@ void CsvColumn::collect(CsvWindow& window)
     readAhead();
     for (std::size_t i = 0; i < mTaken; ++i)
         window.marked[mOffsets[i]] = 1;
-    if (mPositions.empty()) {
-        CoordinateFilter unused;
-        mDecoder.textValues({mRecords.data(), mTaken}, mValues.data(), unused);
-    }
 }
 
 void CsvColumn::fill(const CsvWindow& window, CsvCell* pCells, std::vector<std::string>& longTexts)
 {
     if (mCell.length == CsvCell::kAside)
-        setAside(longTexts);
+        setAside(mCell, longTexts);
+    const CsvCell* pHeld = &mCell;
     std::size_t next = 0;
     for (const uint16_t row : window.rows) {
         if (next < mTaken && mOffsets[next] == row) {
-            makeCell(mValues[next++]);
-            if (mCell.length == CsvCell::kAside)
-                setAside(longTexts);
+            makeCell(mValues[next++], *pCells);
+            if (pCells->length == CsvCell::kAside)
+                setAside(*pCells, longTexts);
+            pHeld = pCells;
+        } else {
+            *pCells = *pHeld;
         }
-        *pCells++ = mCell;
+        ++pCells;
     }
+    mCell = *pHeld;
 }
 
-void CsvColumn::makeCell(double textValue)
+void CsvColumn::makeCell(double textValue, CsvCell& cell)
 {
     char buffer[kNumberTextSize + 1];
     if (char* pEnd = mDecoder.writeNumber(textValue, buffer)) {
         *pEnd++ = mSeparator;
         const auto length = static_cast<std::size_t>(pEnd - buffer);
-        if (length <= sizeof mCell.text) {
-            std::memcpy(mCell.text, buffer, sizeof mCell.text); // a fixed size is a pair of moves
-            mCell.length = static_cast<uint8_t>(length);
+        if (length <= sizeof cell.text) {
+            std::memcpy(cell.text, buffer, sizeof cell.text); // a fixed size is a pair of moves
+            cell.length = static_cast<uint8_t>(length);
             return;
         }
         mLongText.assign(buffer, length);
@@ -150,19 +161,19 @@ void CsvColumn::makeCell(double textValue)
         mLongText.clear();
         mDecoder.appendText(textValue, mLongText);
         mLongText += mSeparator;
-        if (mLongText.size() <= sizeof mCell.text) {
-            std::memcpy(mCell.text, mLongText.data(), mLongText.size());
-            mCell.length = static_cast<uint8_t>(mLongText.size());
+        if (mLongText.size() <= sizeof cell.text) {
+            std::memcpy(cell.text, mLongText.data(), mLongText.size());
+            cell.length = static_cast<uint8_t>(mLongText.size());
             return;
         }
     }
-    mCell.length = CsvCell::kAside;
+    cell.length = CsvCell::kAside;
 }
 
-void CsvColumn::setAside(std::vector<std::string>& longTexts)
+void CsvColumn::setAside(CsvCell& cell, std::vector<std::string>& longTexts) const
 {
     const auto number = static_cast<uint32_t>(longTexts.size());
-    std::memcpy(mCell.text, &number, sizeof number);
+    std::memcpy(cell.text, &number, sizeof number);
     longTexts.push_back(mLongText);
 }
 

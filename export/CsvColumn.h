@@ -47,11 +47,12 @@ private:
     };
     void sortByTick();
     void readAhead();
-    void take(uint64_t offset, std::size_t position);
+    void take(uint64_t offset, double value);
+    void valuesOf(std::span<const StoredRecord> records, double* pOut) const;
     void collectAscending(const CsvWindow& window);
     void collectSorted(const CsvWindow& window);
-    void makeCell(double textValue);
-    void setAside(std::vector<std::string>& longTexts);
+    void makeCell(double textValue, CsvCell& cell);
+    void setAside(CsvCell& cell, std::vector<std::string>& longTexts) const;
 
     const RecordChannel* mpChannel; // null without samples
     ValueDecoder mDecoder;
@@ -67,7 +68,6 @@ private:
     // The samples taken from the current window: the first mTaken of each.
     std::size_t mTaken = 0;
     std::vector<uint16_t> mOffsets;
-    std::vector<StoredRecord> mRecords;
     std::vector<double> mValues;
 };
 

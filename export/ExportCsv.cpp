@@ -85,17 +85,19 @@ private:
             flush();
         mpOut = writeTime(mpOut, static_cast<uint32_t>(mWindow.first + mWindow.rows[row]));
         const CsvCell* pCell = mCells.data() + row;
-        for (std::size_t column = 0; column < mColumns.size(); ++column, pCell += mWindow.marked.size())
-            writeCell(*pCell);
-        mpOut[-1] = '\n'; // in place of the last separator
-    }
-
-    void writeCell(const CsvCell& cell)
-    {
-        if (cell.length == CsvCell::kAside)
-            return writeLongText(cell);
-        std::memcpy(mpOut, &cell, sizeof cell); // whole: only `length` characters of it count
-        mpOut += cell.length;
+        char* pOut = mpOut; // a local one: what is written through it cannot be the pointer itself
+        for (std::size_t column = 0; column < mColumns.size(); ++column, pCell += mWindow.marked.size()) {
+            if (pCell->length == CsvCell::kAside) {
+                mpOut = pOut;
+                writeLongText(*pCell);
+                pOut = mpOut;
+            } else {
+                std::memcpy(pOut, pCell, sizeof *pCell); // whole: only `length` characters of it count
+                pOut += pCell->length;
+            }
+        }
+        pOut[-1] = '\n'; // in place of the last separator
+        mpOut = pOut;
     }
 
     void writeLongText(const CsvCell& cell)
@@ -142,7 +144,8 @@ private:
 
     static constexpr std::size_t kLinesSize = 256 * 1024;
     static constexpr std::size_t kMostCells = 1 << 20; // a window of many columns has fewer ticks
-    static constexpr std::size_t kMostTicks = 512;
+    // No power of two: the cells of a row, one a column, would all fall on the same few lines of the processor's cache.
+    static constexpr std::size_t kMostTicks = 508;
     static uint32_t windowTicks(std::size_t columns)
     {
         return static_cast<uint32_t>(std::clamp<std::size_t>(kMostCells / std::max<std::size_t>(columns, 1), 1, kMostTicks));
