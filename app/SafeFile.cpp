@@ -96,7 +96,11 @@ struct SafeFile::Replaced {
 
 SafeFile::SafeFile(std::string path) : mPath(std::move(path)) {}
 
-SafeFile::SafeFile(int descriptor, std::string name) : mPath(std::move(name)), mDescriptor(descriptor), mOwnsDescriptor(false) {}
+SafeFile::SafeFile(int descriptor, std::string name) : mPath(std::move(name)), mDescriptor(descriptor), mOwnsDescriptor(false)
+{
+    if (descriptor < 0)
+        fail(EBADF);
+}
 
 SafeFile SafeFile::onDescriptor(int descriptor, std::string name)
 {

@@ -65,14 +65,15 @@ private:
         return true;
     }
 
-    /// The position of the ">" that ends the tag; one within a quoted value does not.
+    /// The position of the ">" that ends the tag; one within a quoted value does not. Nothing when there are too many values.
     static std::size_t tagEnd(std::string_view text)
     {
         std::size_t position = 1;
+        std::size_t values = 0;
         while ((position = text.find_first_of("\"'>", position)) != std::string_view::npos && text[position] != '>') {
             position = text.find(text[position], position + 1);
-            if (position == std::string_view::npos)
-                break;
+            if (position == std::string_view::npos || ++values > XmlGuard::maxAttributes)
+                return std::string_view::npos;
             ++position;
         }
         return position;

@@ -2,9 +2,7 @@
 #include "app/Progress.h"
 #include "card/record/RecordData.h"
 #include "card/record/RecordFile.h"
-#include "fuzz/Require.h"
-
-#include <QString>
+#include "fuzz/MemoryFile.h"
 
 #include <algorithm>
 #include <cstring>
@@ -34,23 +32,6 @@ struct Field {
 constexpr Field kHeaderFields[] = {{0, 2}, {12, 2}, {20, 4}, {24, 4}, {28, 4}, {32, 4}};
 constexpr Field kRecordFields[] = {{10, 2}, {12, 4}, {16, 2}, {18, 2}, {20, 4}, {24, 4}};
 
-/// A file in memory that has a path.
-class MemoryFile {
-public:
-    explicit MemoryFile(const Bytes& bytes) : mDescriptor(memfd_create("record", MFD_CLOEXEC))
-    {
-        REQUIRE(mDescriptor >= 0);
-        REQUIRE(write(mDescriptor, bytes.data(), bytes.size()) == static_cast<ssize_t>(bytes.size()));
-    }
-    ~MemoryFile() { close(mDescriptor); }
-    MemoryFile(const MemoryFile&) = delete;
-    MemoryFile& operator=(const MemoryFile&) = delete;
-    [[nodiscard]] QString path() const { return QStringLiteral("/proc/self/fd/%1").arg(mDescriptor); }
-
-private:
-    int mDescriptor;
-};
-
 /// What one reading of a file gave.
 struct Reading {
     RecordInfo info;
@@ -79,7 +60,7 @@ private:
 
 void read(const Bytes& bytes, Reading& reading)
 {
-    const MemoryFile memory(bytes);
+    const MemoryFile memory(bytes.data(), bytes.size());
     RisingProgress progress;
     RecordFile file(silence(), progress);
     file.readRecordInfo(memory.path());

@@ -4,7 +4,8 @@
     fuzz/make-seeds.py FOLDER
 
 FOLDER/FuzzRecordFile gets record files of both byte orders: whole, empty, cut, damaged. FOLDER/FuzzProfile gets the commands of
-FuzzProfile.cpp for small profiles of each data type, with the messages that they decode.
+FuzzProfile.cpp for small profiles of each data type, with the messages that they decode. FOLDER/FuzzProject gets project files: whole,
+of other encodings, with foreign elements, damaged.
 """
 
 import os
@@ -113,11 +114,29 @@ def profile_seeds():
     yield 'odd', bytes((1, 0)) + element('Device', {}, odd, parameter('ULONG', precision=-1, factor='-1e308')) + END + message(6, b'\x80\0\x7f\xff')
 
 
+# ----------------------------------------------------------------------------------------------------------------- projects
+
+
+def project_seeds():
+    text = ('<?xml version="1.0" encoding="UTF-8"?>\n<ZarnProject>\n    <Parameters>\n        <Parameter name="A"/>\n        '
+            '<Parameter name="Oil &lt;T&gt;"/>\n        <Parameter name="unknown"/>\n    </Parameters>\n    <CanProperties>\n        '
+            '<Property id="Speed" value="500"/>\n        <Property id="" value="&#9;&amp;%s"/>\n    </CanProperties>\n</ZarnProject>\n')
+    yield 'whole', text.encode()
+    yield 'empty', b'<ZarnProject/>'
+    yield 'utf-16', text.replace('UTF-8', 'UTF-16').encode('utf-16')
+    yield 'latin-1', text.replace('UTF-8', 'ISO-8859-1').replace('Speed', 'Gr\u00f6\u00dfe').encode('latin-1')
+    yield 'foreign', text.replace('<Parameters>', '<Extra><Parameter name="B"/></Extra><!-- > --><Parameters x="1"><![CDATA[<]]>').encode()
+    yield 'twice', text.replace('</ZarnProject>', '<Parameters><Parameter/></Parameters></ZarnProject>').encode()
+    yield 'controls', text.replace('500', '&#1;&#xFFFE;&#xD800;&#10;').encode()
+    yield 'cut', text.encode()[:-30]
+    yield 'bomb', text.replace('<ZarnProject>', '<!DOCTYPE a [<!ENTITY b "cc">]><ZarnProject>&b;').encode()
+
+
 def main():
     if len(sys.argv) != 2:
         print(__doc__, file=sys.stderr)
         return 2
-    for target, seeds in [('FuzzRecordFile', record_seeds()), ('FuzzProfile', profile_seeds())]:
+    for target, seeds in [('FuzzRecordFile', record_seeds()), ('FuzzProfile', profile_seeds()), ('FuzzProject', project_seeds())]:
         folder = os.path.join(sys.argv[1], target)
         os.makedirs(folder, exist_ok=True)
         for name, content in seeds:
