@@ -15,6 +15,7 @@ namespace ZARN {
 namespace {
 
 constexpr int kParameters = 60;
+constexpr int kFirstLamp = 57;
 
 std::string root()
 {
@@ -41,7 +42,7 @@ int periodOf(int parameter) // milliseconds
 std::vector<char> record(int parameter, uint64_t ticks, float value)
 {
     std::vector<char> bytes(28);
-    bytes[1] = 2;
+    bytes[1] = parameter < kFirstLamp ? 2 : 8; // FLOAT, BSHORT
     store(bytes, 4, std::bit_cast<uint32_t>(value));
     store(bytes, 10, static_cast<uint16_t>(parameter % 3));
     store(bytes, 12, static_cast<uint32_t>(identifierOf(parameter)));
@@ -56,6 +57,8 @@ float valueAt(int parameter, double seconds)
         return static_cast<float>(4807.038 + 10 * std::sin(seconds / 500));
     if (parameter == 1)
         return static_cast<float>(1131.0 + 10 * std::cos(seconds / 500));
+    if (parameter >= kFirstLamp) // dark, yellow, red
+        return static_cast<float>(static_cast<int>(seconds / (10 * (parameter - kFirstLamp + 1))) % 3); // the first byte differs
     return static_cast<float>(90 + 60 * std::sin(seconds / (100 + 10 * parameter)));
 }
 
@@ -111,9 +114,11 @@ std::string BenchCard::profile()
     file << "<CanAerospaceProfile name=\"bench\"><ThresholdList><Threshold name=\"t\"><Value val=\"0\" state=\"OK\"/>"
             "<Value val=\"140\" state=\"WARNING\"/><Value val=\"149\" state=\"LIMIT\"/></Threshold></ThresholdList><Device name=\"ECU\">\n";
     for (int parameter = 0; parameter < kParameters; ++parameter) {
+        if (parameter == kFirstLamp)
+            file << "</Device><Device name=\"WarningLamp\">\n";
         const std::string key = parameter < 5 ? positions[parameter] : "";
-        file << "<Parameter name=\"P" << parameter << "\" id=\"" << identifierOf(parameter) << "\" startByte=\"4\" precision=\"" << parameter % 4
-             << "\" dataType=\"FLOAT\" zarnDataType=\"" << key << "\" viewId=\"" << key << "\" thresholdId=\"t\"/>\n";
+        file << "<Parameter name=\"P" << parameter << "\" id=\"" << identifierOf(parameter) << "\" startByte=\"4\" startBit=\"0\" endBit=\"15\" precision=\"" << parameter % 4
+             << "\" dataType=\"" << (parameter < kFirstLamp ? "FLOAT" : "BSHORT") << "\" zarnDataType=\"" << key << "\" viewId=\"" << key << "\" thresholdId=\"t\"/>\n";
     }
     file << "</Device></CanAerospaceProfile>\n";
     return path;

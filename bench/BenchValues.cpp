@@ -134,12 +134,12 @@ void textFixed(benchmark::State& state)
     }
 }
 
-/// A loaded card of ten million records.
+/// A loaded card.
 struct LoadedCard {
-    LoadedCard() : profile(silent()), container(silent(), profile, nullProgress())
+    explicit LoadedCard(std::size_t records) : profile(silent()), container(silent(), profile, nullProgress())
     {
         profile.loadProfile(QString::fromStdString(BenchCard::profile()), "");
-        container.readContainer(QString::fromStdString(BenchCard::folder(kEntries)));
+        container.readContainer(QString::fromStdString(BenchCard::folder(records)));
         container.loadCycle(0, -1);
     }
     Profile profile;
@@ -148,7 +148,7 @@ struct LoadedCard {
 
 void csv(benchmark::State& state)
 {
-    LoadedCard card;
+    LoadedCard card(kEntries);
     CsvExportOptions options;
     options.resolution = static_cast<uint32_t>(state.range(0));
     for (auto _ : state) {
@@ -160,14 +160,21 @@ void csv(benchmark::State& state)
 /// Everything that is derived from a loaded cycle before a view shows it.
 void derivedFacts(benchmark::State& state)
 {
-    LoadedCard card;
+    LoadedCard card(3 * kEntries);
+    const RecordData& data = card.container.recordData();
     RecordCycle cycle = card.container.recordCycles().begin()->second;
+    card.container.calcFlightPath();
+    card.container.calcFlights(cycle);
+    // What the recording does not hold costs nothing to find.
+    if (cycle.flights.empty() || card.container.flightPath().empty() || limitEvents(data, card.profile).events().empty() || warningEvents(data, card.profile).events().empty())
+        return state.SkipWithError("the recording lacks flights, positions or events");
     for (auto _ : state) {
         card.container.calcFlightPath();
         card.container.calcFlights(cycle);
-        benchmark::DoNotOptimize(limitEvents(card.container.recordData(), card.profile).events().size());
-        benchmark::DoNotOptimize(warningEvents(card.container.recordData(), card.profile).events().size());
+        benchmark::DoNotOptimize(limitEvents(data, card.profile).events().size());
+        benchmark::DoNotOptimize(warningEvents(data, card.profile).events().size());
     }
+    state.counters["flights"] = static_cast<double>(cycle.flights.size());
 }
 
 BENCHMARK(decodeFloor)->Name("decode/floor")->Unit(benchmark::kMillisecond);
