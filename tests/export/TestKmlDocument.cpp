@@ -1,7 +1,7 @@
 #include "app/Property.h"
 #include "app/SafeFile.h"
 #include "export/ExportKml.h"
-#include "sim/FileLimit.h"
+#include "support/FullDisk.h"
 #include "support/CardBuilder.h"
 #include "support/FileHelpers.h"
 #include "support/ProfileBuilder.h"
@@ -301,7 +301,7 @@ void TestKmlDocument::targetsThatCannotBeWritten()
     const std::string before = fileContent(kml.path());
     kml.options.lineWidth = 99;
     {
-        const FileLimit full(200);
+        const FullDisk full(200);
         QVERIFY(!kml.run());
     }
     QVERIFY2(kml.error.starts_with(kml.path() + ": "), kml.error.c_str());

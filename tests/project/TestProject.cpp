@@ -1,5 +1,5 @@
 #include "project/Project.h"
-#include "support/FileHelpers.h"
+#include "support/FullDisk.h"
 #include "support/ProfileBuilder.h"
 #include "support/TestCycle.h"
 
@@ -215,6 +215,12 @@ void TestProject::failedSaveKeepsTheOldFile()
     QVERIFY(project().saveProject(target)); // the console has the failure
     QCOMPARE(QString::fromStdString(mState->cycle.lines), QString("could not open file for writing !<%1>\n").arg(target));
     QCOMPARE(entryCount(mState->folder.path().toStdString()), 0L);
+
+    QVERIFY(project().saveProject(path()));
+    const std::string file = path().toStdString();
+    const std::string whole = fileContent(file);
+    const auto save = [&] { return project().saveProject(path()) && fileContent(file) == whole; };
+    QCOMPARE(fillAtEveryByte(file, whole, 1, save), std::string());
 }
 
 void TestProject::clear()

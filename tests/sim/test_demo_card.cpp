@@ -1,6 +1,6 @@
 #include "sim/DemoCard.h"
 #include "tests/sim/CardBytes.h"
-#include "tests/sim/FileLimit.h"
+#include "support/FullDisk.h"
 #include "tests/sim/FlightFinder.h"
 
 #include <QDomDocument>
@@ -376,7 +376,7 @@ private Q_SLOTS:
         QTemporaryDir folder;
         const std::string inside = folder.filePath("new/deep").toStdString();
         {
-            const FileLimit limit(1'000'000);
+            const FullDisk limit(1'000'000);
             QCOMPARE(writeCard(folder.filePath("new/deep"), {}), inside + "/LOG00001.CAN: File too large");
         }
         QVERIFY(QDir(folder.filePath("new/deep")).isEmpty());

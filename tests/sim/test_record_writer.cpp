@@ -1,4 +1,4 @@
-#include "tests/sim/FileLimit.h"
+#include "support/FullDisk.h"
 #include "sim/RecordWriter.h"
 
 #include <QFile>
@@ -119,7 +119,7 @@ private Q_SLOTS:
         const QString bad = folder.filePath("2.CAN");
         RecordWriter writer(false);
         QVERIFY(writer.open(good.toStdString(), header()) && writer.append({record()}) && writer.close());
-        const FileLimit limit(2000);
+        const FullDisk limit(2000);
         QVERIFY(writer.open(bad.toStdString(), header()));
         const bool appended = writer.append(std::vector<CardRecord>(static_cast<std::size_t>(records), record()));
         QVERIFY(!(appended && writer.close()));
