@@ -133,6 +133,7 @@ QAction* DialogMain::action(int id) const
 
 void DialogMain::createMenus()
 {
+    addActions(mpActionGroup->actions()); // those without a place in a menu have their keys
     QMenu* pFile = menuBar()->addMenu(tr("&File"));
     pFile->addAction(action(eActionOpenFolder));
     pFile->addSeparator();
