@@ -9,10 +9,10 @@ set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "after-flight review of engine recordings")
-set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "ZARN reads the memory card of a light aircraft's engine management unit and shows
-what a pilot, a mechanic or an engine maker looks for: power cycles and flights,
-every parameter in engineering units, exceeded limits, warning lamps and faults,
-the statistic of a tow, and the flight path on a map.
+set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "ZARN reads the memory card of a light aircraft's engine management unit and
+shows what a pilot, a mechanic or an engine maker looks for: power cycles and
+flights, every parameter in engineering units, exceeded limits, warning lamps
+and faults, the statistic of a tow, and the flight path on a map.
 .
 It exports to CSV, KML and GPX. The program zarn-cli does the same for scripts,
 without a display.")

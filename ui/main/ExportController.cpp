@@ -48,12 +48,12 @@ void ExportController::exportCsv()
 
 void ExportController::exportGpx()
 {
-    const QString folder = QString::fromStdString(mSession.property.getString("KmlExportDir", "."));
+    const QString folder = QString::fromStdString(mSession.property.getString("GpxExportDir", "."));
     const QString path = QFileDialog::getSaveFileName(mpWindow, tr("Save GPX Export"), folder + "/" + mSession.container.name() + ".gpx",
                                                       tr("GPX Files (*.gpx)"), nullptr, QFileDialog::DontUseNativeDialog);
     if (path.isEmpty())
         return;
-    mSession.property.setString("KmlExportDir", QFileInfo(path).absolutePath().toStdString());
+    mSession.property.setString("GpxExportDir", QFileInfo(path).absolutePath().toStdString());
     mSession.property.writeXmlFile();
     ExportGpx exporter(mSession.profile);
     const auto work = [&](Progress& progress) {
