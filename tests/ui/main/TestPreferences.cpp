@@ -143,14 +143,13 @@ void TestPreferences::manual()
     auto* pBrowser = dialog.findChild<QTextBrowser*>();
     QVERIFY(pBrowser->toPlainText().contains(heading));
     dialog.show();
-    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
     auto* pChapters = dialog.findChild<QListWidget*>("chapters");
     const auto found = pChapters->findItems(heading, Qt::MatchContains);
     QCOMPARE(found.size(), 1);
     pChapters->setCurrentItem(found.first());
     QCOMPARE(pBrowser->textCursor().block().text(), heading);
     auto* pSearch = dialog.findChild<QLineEdit*>("search");
-    QTest::mouseClick(pSearch, Qt::LeftButton);
     QTest::keyClicks(pSearch, "KmlTimeStamp");
     QTest::keyClick(pSearch, Qt::Key_Return);
     QCOMPARE(pBrowser->textCursor().selectedText(), QString("KmlTimeStamp"));
