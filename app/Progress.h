@@ -2,12 +2,14 @@
 
 namespace ZARN {
 
-/// Receives the progress of a long operation of the core, in percent. The main window shows it; programs without a
-/// window pass nullProgress().
+/// Receives the progress of a long operation of the core, in percent, and tells it when its user has had enough of it. The
+/// main window shows it; programs without a window pass nullProgress().
 class Progress {
 public:
     virtual ~Progress() = default;
     virtual void setProgress(int percent) = 0;
+    /// Whether the operation is to end as soon as it can, leaving no trace. Loading never asks, exports do.
+    [[nodiscard]] virtual bool isCancelled() const { return false; }
 };
 
 /// A receiver that ignores every report.

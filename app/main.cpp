@@ -28,6 +28,13 @@ namespace ZARN {
 
 namespace {
 
+/// Whether an argument names a card folder, or one of its files, as file managers hand over what is opened with the program.
+bool isCard(const std::string& argument)
+{
+    const QFileInfo info(QString::fromStdString(argument));
+    return info.isDir() || (info.isFile() && QStringList{"CAN", "can", "xcb"}.contains(info.suffix()));
+}
+
 void registerOptions(CmdLine& cmdLine)
 {
     cmdLine.addSwitch("-h", "print this help");
@@ -35,7 +42,7 @@ void registerOptions(CmdLine& cmdLine)
     cmdLine.addSwitch("-connect", "connect after startup");
     cmdLine.addParameter("-s", "stylefile to load", "");
     cmdLine.addSwitch("--safe-mode", "begin with default settings");
-    cmdLine.addOperand([](const std::string& argument) { return QFileInfo(QString::fromStdString(argument)).isDir(); });
+    cmdLine.addOperand(isCard);
 }
 
 void setAttributes()

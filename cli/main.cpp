@@ -3,6 +3,7 @@
 #include "cli/CommandEvents.h"
 #include "cli/CommandFaults.h"
 #include "cli/CommandFlights.h"
+#include "cli/CommandGpx.h"
 #include "cli/CommandInfo.h"
 #include "cli/CommandKml.h"
 #include "cli/CommandPath.h"
@@ -35,7 +36,7 @@ int runProgram(int argc, char** argv)
     program.set_version_flag("--version", Revision::getRevisionString());
     program.footer("Example: zarn-cli csv /media/card -o flight.csv");
     const auto commands = makeCommands<CommandInfo, CommandFlights, CommandEvents, CommandFaults, CommandPath, CommandValue, CommandCsv,
-                                       CommandKml, CommandSummary, CommandProfile, CommandSimulate>(program);
+                                       CommandKml, CommandGpx, CommandSummary, CommandProfile, CommandSimulate>(program);
     if (argc < 2) {
         std::fputs(program.help().c_str(), stderr);
         return eWrongCall;

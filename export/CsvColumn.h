@@ -35,6 +35,10 @@ public:
 
     /// The tick of the next sample; kNoTick after the last.
     [[nodiscard]] uint64_t nextTick() const { return mNextTick; }
+    /// How many samples there are, and how many of them have been taken: both without those that a later one of their tick replaces,
+    /// where the samples had to be sorted.
+    [[nodiscard]] std::size_t sampleCount() const { return !mSorted.empty() ? mSorted.size() : mpChannel ? mpChannel->entries.size() : 0; }
+    [[nodiscard]] std::size_t samplesDone() const { return mNext; }
     /// Takes the samples that lie in the window and marks their rows.
     void collect(CsvWindow& window);
     /// Writes one cell a row of the window, side by side; texts that are too long for a cell go to `longTexts`.

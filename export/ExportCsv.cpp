@@ -3,6 +3,7 @@
 #include "app/NumberText.h"
 #include "app/SafeFile.h"
 #include "export/CsvColumn.h"
+#include "export/ProgressSpan.h"
 
 #include <QFile>
 
@@ -12,6 +13,7 @@ namespace ZARN {
 
 namespace {
 
+constexpr int kColumnsPercent = 5; // of the whole work, to order the columns' samples
 constexpr std::size_t kTimeTextSize = 32; // "%d:%02d:%02d.%03d" and a separator; hours have at most seven digits
 
 char* writeTwoDigits(char* pOut, uint32_t number)
@@ -24,19 +26,23 @@ char* writeTwoDigits(char* pOut, uint32_t number)
 /// Turns the columns' cells of one window after the other into lines.
 class CsvRows {
 public:
-    CsvRows(std::vector<CsvColumn>& columns, uint32_t resolution, char separator, SafeFile& file)
-        : mColumns(columns), mTicksPerSecond(1000 / resolution), mResolution(resolution), mSeparator(separator), mFile(file),
-          mWindow(windowTicks(columns.size())), mCells(columns.size() * mWindow.marked.size()),
+    CsvRows(std::vector<CsvColumn>& columns, const CsvExportOptions& options, SafeFile& file, const ProgressSpan& progress)
+        : mColumns(columns), mTicksPerSecond(1000 / options.resolution), mResolution(options.resolution), mSeparator(options.separator),
+          mFile(file), mProgress(progress), mWindow(windowTicks(columns.size())), mCells(columns.size() * mWindow.marked.size()),
           mLines(std::max(kLinesSize, kTimeTextSize + (columns.size() + 1) * sizeof(CsvCell)))
     {
     }
 
+    /// @return false when a write failed, or the user cancels.
     bool write()
     {
+        uint64_t samples = 0;
+        for (const CsvColumn& column : mColumns)
+            samples += column.sampleCount();
         for (uint64_t tick = firstTick(); tick != CsvColumn::kNoTick; tick = firstTick()) {
             mWindow.first = tick;
             fillWindow();
-            if (!writeWindow())
+            if (!writeWindow() || !mProgress.step(samplesDone(), samples))
                 return false;
         }
         return true;
@@ -49,6 +55,14 @@ private:
         for (const CsvColumn& column : mColumns)
             first = std::min(first, column.nextTick());
         return first;
+    }
+
+    [[nodiscard]] uint64_t samplesDone() const
+    {
+        uint64_t done = 0;
+        for (const CsvColumn& column : mColumns)
+            done += column.samplesDone();
+        return done;
     }
 
     // Column after column, since one column's samples lie side by side and take the same branches.
@@ -156,6 +170,7 @@ private:
     uint32_t mResolution;
     char mSeparator;
     SafeFile& mFile;
+    const ProgressSpan& mProgress;
     CsvWindow mWindow;
     std::vector<CsvCell> mCells; // column by column, one a tick of the window
     std::vector<std::string> mLongTexts;
@@ -165,13 +180,13 @@ private:
 
 } // namespace
 
-bool ExportCsv::exportData(const RecordData& recordData, const CsvExportOptions& options)
+bool ExportCsv::exportData(const RecordData& recordData, const CsvExportOptions& options, Progress& progress)
 {
     SafeFile file(QFile::encodeName(options.directory + "/" + options.fileName).toStdString());
-    return writeFile(file, recordData, options);
+    return writeFile(file, recordData, options, progress);
 }
 
-bool ExportCsv::writeFile(SafeFile& file, const RecordData& recordData, const CsvExportOptions& options)
+bool ExportCsv::writeFile(SafeFile& file, const RecordData& recordData, const CsvExportOptions& options, Progress& progress)
 {
     mError.clear();
     if (options.resolution == 0 || 1000 % options.resolution != 0)
@@ -180,23 +195,38 @@ bool ExportCsv::writeFile(SafeFile& file, const RecordData& recordData, const Cs
         mError = file.error();
     if (!mError.empty())
         return false;
-    const double ticksPerSecond = 1 / (options.resolution * 0.001);
     std::string header = "Time";
     std::vector<CsvColumn> columns;
-    mProfile.resetCoordinates();
+    if (!makeColumns(recordData, options, ProgressSpan(progress, 0, kColumnsPercent), columns, header))
+        return false;
+    const ProgressSpan rows(progress, kColumnsPercent, 100);
+    if (file.write(header + "\n") && CsvRows(columns, options, file, rows).write() && file.commit())
+        return true;
+    mError = file.error();
+    return false;
+}
+
+bool ExportCsv::makeColumns(const RecordData& recordData, const CsvExportOptions& options, const ProgressSpan& progress,
+                            std::vector<CsvColumn>& columns, std::string& header)
+{
+    const double ticksPerSecond = 1 / (options.resolution * 0.001);
+    std::size_t devices = 0;
+    // A filter of our own, since a receiver of progress may let views refresh.
+    CoordinateFilter filter = mProfile.sharedFilter();
+    filter.reset();
     for (const ProfileDevice& device : mProfile.data()) {
         for (const ProfileParameter& parameter : device.parameters) {
             if (!options.allParameters && !mProfile.isSelected(parameter.name))
                 continue;
             header += options.separator + parameter.name;
             columns.emplace_back(recordData.channel(parameter.identifier()), mProfile.decoder(parameter), parameter.isPosition(),
-                                 ticksPerSecond, options.separator, mProfile.sharedFilter());
+                                 ticksPerSecond, options.separator, filter);
         }
+        if (!progress.step(++devices, mProfile.data().size()))
+            return false;
     }
-    if (file.write(header + "\n") && CsvRows(columns, options.resolution, options.separator, file).write() && file.commit())
-        return true;
-    mError = file.error();
-    return false;
+    mProfile.sharedFilter() = filter;
+    return true;
 }
 
 } // namespace ZARN

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/Progress.h"
 #include "card/record/RecordData.h"
 #include "profile/Profile.h"
 
@@ -7,6 +8,8 @@
 
 namespace ZARN {
 
+class CsvColumn;
+class ProgressSpan;
 class SafeFile;
 
 /// What the user chose for one CSV export.
@@ -25,14 +28,19 @@ class ExportCsv {
 public:
     explicit ExportCsv(Profile& profile) : mProfile(profile) {}
 
-    /// Writes directory/fileName. @return false when it could not be written whole; the old file, if any, is then untouched.
-    bool exportData(const RecordData& recordData, const CsvExportOptions& options);
-    /// Writes to an opened file and commits it.
-    bool writeFile(SafeFile& file, const RecordData& recordData, const CsvExportOptions& options);
-    /// Why the last export failed: "NAME: reason".
+    /// Writes directory/fileName. @return false when it could not be written whole or was cancelled; the old file, if any, is then
+    /// untouched.
+    bool exportData(const RecordData& recordData, const CsvExportOptions& options, Progress& progress = nullProgress());
+    /// Opens the file, writes to it and commits it.
+    bool writeFile(SafeFile& file, const RecordData& recordData, const CsvExportOptions& options, Progress& progress = nullProgress());
+    /// Why the last export failed: "NAME: reason"; empty after one that was cancelled.
     [[nodiscard]] const std::string& error() const { return mError; }
 
 private:
+    /// @return false when the user cancels.
+    bool makeColumns(const RecordData& recordData, const CsvExportOptions& options, const ProgressSpan& progress,
+                     std::vector<CsvColumn>& columns, std::string& header);
+
     Profile& mProfile;
     std::string mError;
 };

@@ -9,66 +9,81 @@
 
 namespace ZARN {
 
+namespace {
+
+// How many percent of the work are done after each step; the rest is the writing.
+constexpr int kPathDone = 15;
+constexpr int kPlacemarksDone = 35;
+constexpr int kEventsDone = 50;
+
+} // namespace
+
 ExportKml::ExportKml(const Console& console, Profile& profile, const QDateTime& cycleDate) : mConsole(console), mProfile(profile)
 {
     if (cycleDate.isValid())
         mContent.date = cycleDate.toString("d.M.yyyy h:mm:ss");
 }
 
-bool ExportKml::exportData(const RecordData& recordData, const KmlExportOptions& options)
+bool ExportKml::exportData(const RecordData& recordData, const KmlExportOptions& options, Progress& progress)
 {
-    collect(recordData, options);
-    return exportFile(options);
+    return collect(recordData, options, progress) && exportFile(options, progress);
 }
 
-bool ExportKml::exportData(const RecordData& recordData, const KmlExportOptions& options, SafeFile& file)
+bool ExportKml::exportData(const RecordData& recordData, const KmlExportOptions& options, SafeFile& file, Progress& progress)
 {
-    collect(recordData, options);
-    return exportFile(options, file);
+    return collect(recordData, options, progress) && exportFile(options, file, progress);
 }
 
-void ExportKml::collect(const RecordData& recordData, const KmlExportOptions& options)
+bool ExportKml::collect(const RecordData& recordData, const KmlExportOptions& options, Progress& progress)
 {
-    mContent.path.build(recordData, mProfile, KmlGrid(options.timeStamp), mConsole);
-    exportPlaceMarks(recordData, options);
-    exportErrors(recordData, options);
+    mError.clear();
+    const ProgressSpan path(progress, 0, kPathDone);
+    return mContent.path.build(recordData, mProfile, KmlGrid(options.timeStamp), mConsole, path)
+           && exportPlaceMarks(recordData, options, progress) && exportErrors(recordData, options, progress);
 }
 
-bool ExportKml::exportPlaceMarks(const RecordData& recordData, const KmlExportOptions& options)
+bool ExportKml::exportPlaceMarks(const RecordData& recordData, const KmlExportOptions& options, Progress& progress)
 {
     mContent.placemarks.clear();
-    if (options.placeMarkOn)
-        mContent.placemarks.collect(recordData, mProfile, KmlGrid(options.timeStamp), options.placeMarkInterval);
-    return true;
+    const ProgressSpan span(progress, kPathDone, kPlacemarksDone);
+    return !options.placeMarkOn
+           || mContent.placemarks.collect(recordData, mProfile, KmlGrid(options.timeStamp), options.placeMarkInterval, span);
 }
 
-bool ExportKml::exportErrors(const RecordData& recordData, const KmlExportOptions& options)
+bool ExportKml::exportErrors(const RecordData& recordData, const KmlExportOptions& options, Progress& progress)
 {
     mContent.limits = mContent.warnings = {};
-    if (options.errorMarkOn && options.showLimit)
+    if (!options.errorMarkOn)
+        return true;
+    const ProgressSpan span(progress, kPlacemarksDone, kEventsDone);
+    if (options.showLimit)
         mContent.limits = limitEvents(recordData, mProfile);
-    if (options.errorMarkOn && options.showWarning)
+    if (!span.step(1, 2))
+        return false;
+    if (options.showWarning)
         mContent.warnings = warningEvents(recordData, mProfile);
-    return true;
+    return span.step(2, 2);
 }
 
-bool ExportKml::exportFile(const KmlExportOptions& options)
+bool ExportKml::exportFile(const KmlExportOptions& options, Progress& progress)
 {
     const std::string path = QFile::encodeName(QString::fromStdString(options.directory + "/" + options.fileName)).toStdString();
     SafeFile file(path);
-    if (exportFile(options, file))
+    if (exportFile(options, file, progress))
         return true;
-    mConsole.print("could not open file for writing !<%s>\n", path.c_str());
+    if (!mError.empty())
+        mConsole.print("could not open file for writing !<%s>\n", path.c_str());
     return false;
 }
 
-bool ExportKml::exportFile(const KmlExportOptions& options, SafeFile& file)
+bool ExportKml::exportFile(const KmlExportOptions& options, SafeFile& file, Progress& progress)
 {
     mError.clear();
     if (file.open()) {
         KmlWriter writer(file);
-        KmlDocument(mContent, options, writer).write();
-        if (writer.flush() && file.commit())
+        const ProgressSpan span(progress, kEventsDone, 100);
+        const bool whole = KmlDocument(mContent, options, writer, span).write();
+        if (writer.flush() && whole && file.commit())
             return true;
     }
     mError = file.error();

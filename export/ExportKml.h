@@ -16,23 +16,23 @@ public:
     /// @param cycleDate date and time of the loaded cycle, for the document's name; may be invalid.
     ExportKml(const Console& console, Profile& profile, const QDateTime& cycleDate);
 
-    /// Writes directory/fileName of the options. @return false, with a console line and the old file, if any, untouched, when it could
-    /// not be written.
-    bool exportData(const RecordData& recordData, const KmlExportOptions& options);
+    /// Writes directory/fileName of the options. @return false, with the old file, if any, untouched, when it could not be written,
+    /// which a console line tells, or was cancelled.
+    bool exportData(const RecordData& recordData, const KmlExportOptions& options, Progress& progress = nullProgress());
     /// The same into a file that the caller chose; opens and commits it.
-    bool exportData(const RecordData& recordData, const KmlExportOptions& options, SafeFile& file);
+    bool exportData(const RecordData& recordData, const KmlExportOptions& options, SafeFile& file, Progress& progress = nullProgress());
 
     // The steps of exportData().
-    bool exportPlaceMarks(const RecordData& recordData, const KmlExportOptions& options);
-    bool exportErrors(const RecordData& recordData, const KmlExportOptions& options);
-    bool exportFile(const KmlExportOptions& options);
-    bool exportFile(const KmlExportOptions& options, SafeFile& file);
+    bool exportPlaceMarks(const RecordData& recordData, const KmlExportOptions& options, Progress& progress = nullProgress());
+    bool exportErrors(const RecordData& recordData, const KmlExportOptions& options, Progress& progress = nullProgress());
+    bool exportFile(const KmlExportOptions& options, Progress& progress = nullProgress());
+    bool exportFile(const KmlExportOptions& options, SafeFile& file, Progress& progress = nullProgress());
 
-    /// Why the last export failed: "NAME: reason".
+    /// Why the last export failed: "NAME: reason"; empty after one that was cancelled.
     [[nodiscard]] const std::string& error() const { return mError; }
 
 private:
-    void collect(const RecordData& recordData, const KmlExportOptions& options);
+    bool collect(const RecordData& recordData, const KmlExportOptions& options, Progress& progress);
 
     const Console& mConsole;
     Profile& mProfile;

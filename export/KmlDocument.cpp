@@ -14,6 +14,7 @@ namespace {
 constexpr const char* kNormalStyle = "normalPlacemark";
 constexpr const char* kErrorStyle = "errorPlacemark";
 constexpr int kOpaque = 255;
+constexpr uint64_t kPointsAStep = 1024; // of the path, between two reports of progress
 
 /// The format wants opacity, blue, green, red, in hexadecimal digits.
 std::string kmlColour(int alpha, const std::string& setting)
@@ -40,8 +41,9 @@ constexpr std::size_t kCoordinatesSize = 3 * kNumberTextSize + 3;
 
 } // namespace
 
-void KmlDocument::write()
+bool KmlDocument::write()
 {
+    countPieces();
     mWriter.declaration();
     mWriter.begin("kml", " xmlns=\"http://www.opengis.net/kml/2.2\"");
     mWriter.begin("Document");
@@ -54,6 +56,13 @@ void KmlDocument::write()
     writePath();
     mWriter.end("Document");
     mWriter.end("kml");
+    return mGoesOn;
+}
+
+void KmlDocument::countPieces()
+{
+    mPieces = mContent.placemarks.textCount() + mContent.limits.events().size() + mContent.warnings.events().size()
+              + mContent.path.points().size();
 }
 
 void KmlDocument::writeStyle(const char* name, const std::string& colour)
@@ -74,17 +83,23 @@ void KmlDocument::writeParameterPlacemarks()
     mContent.placemarks.forEachSlot([&](int slot) {
         const KmlPoint* pPoint = mContent.path.at(saturatingCast<int>(static_cast<double>(slot) * interval));
         if (!pPoint)
-            return;
+            return true;
         beginPlacemark(mGrid.timeOfDay(slot, interval), kNormalStyle);
         mContent.placemarks.forEachText(
             [&](const ProfileParameter& parameter, const std::string& text) { writeValue(parameter.name, text, parameter.unit); });
         endPlacemark(*pPoint);
+        mDone = mContent.placemarks.textsDone();
+        return step();
     });
+    mDone = mContent.placemarks.textCount();
 }
 
 void KmlDocument::writeEventPlacemarks(const EventList& list)
 {
     for (const Event& event : list.events()) {
+        ++mDone;
+        if (!mGoesOn || !step())
+            return;
         const int slot = mGrid.slot(event.time);
         const KmlPoint* pPoint = mContent.path.at(slot);
         if (!pPoint)
@@ -141,6 +156,10 @@ void KmlDocument::writePath()
     mWriter.beginPlain("coordinates");
     char line[kCoordinatesSize];
     for (const KmlPoint& point : mContent.path.points()) {
+        if (++mDone % kPointsAStep == 0 && mGoesOn)
+            step();
+        if (!mGoesOn)
+            break;
         char* pEnd = writeCoordinates(line, point);
         *pEnd++ = '\n';
         mWriter.plain({line, pEnd});

@@ -5,6 +5,7 @@
 #include "export/KmlPath.h"
 #include "export/KmlPlacemarks.h"
 #include "export/KmlWriter.h"
+#include "export/ProgressSpan.h"
 
 #include <QString>
 
@@ -22,15 +23,18 @@ struct KmlContent {
 /// Writes a KML document: styles, placemarks, and the path last. Used once for one document.
 class KmlDocument {
 public:
-    KmlDocument(KmlContent& content, const KmlExportOptions& options, KmlWriter& writer)
-        : mContent(content), mOptions(options), mGrid(options.timeStamp), mWriter(writer)
+    KmlDocument(KmlContent& content, const KmlExportOptions& options, KmlWriter& writer, const ProgressSpan& progress)
+        : mContent(content), mOptions(options), mGrid(options.timeStamp), mWriter(writer), mProgress(progress)
     {
     }
-    void write();
+    /// @return false when the user cancels.
+    bool write();
 
 private:
     void addData(const char* element, std::string_view text) { mWriter.text(element, text); }
     void writeStyle(const char* name, const std::string& colour);
+    void countPieces();
+    bool step() { return mGoesOn = mProgress.step(mDone, mPieces); }
     void writeParameterPlacemarks();
     void writeEventPlacemarks(const EventList& list);
     void beginPlacemark(const std::string& title, const char* style);
@@ -42,6 +46,10 @@ private:
     const KmlExportOptions& mOptions;
     KmlGrid mGrid;
     KmlWriter& mWriter;
+    const ProgressSpan& mProgress;
+    uint64_t mPieces = 0; // values, events and points, of which mDone are written
+    uint64_t mDone = 0;
+    bool mGoesOn = true; // no more once the user cancels
 };
 
 } // namespace ZARN

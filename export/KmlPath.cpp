@@ -52,20 +52,19 @@ private:
 
 /// The values of one channel by slot, decoded by the parameter that the profile has for its identifier.
 /// @param label names the values in the lines; null for no lines.
-KmlSlots collect(const RecordData& data, uint32_t identifier, Profile& profile, const KmlGrid& grid, const char* label, DebugLines& lines)
+/// @return false when the user cancels.
+bool collect(const RecordEntries& entries, const ValueDecoder& decoder, CoordinateFilter& filter, const KmlGrid& grid, const char* label,
+             DebugLines& lines, KmlSlots& slots, const ProgressSpan& progress)
 {
-    KmlSlots slots;
-    const RecordChannel* pChannel = data.channel(identifier);
-    if (!pChannel)
-        return slots;
-    const ValueDecoder decoder = profile.decoder(profile.parameter(identifier));
     std::array<double, kRun> times;
     std::array<double, kRun> values{};
-    for (std::size_t position = 0; position < pChannel->entries.size();) {
-        const auto records = pChannel->entries.run(position, kRun);
+    for (std::size_t position = 0; position < entries.size();) {
+        if (!progress.step(position, entries.size()))
+            return false;
+        const auto records = entries.run(position, kRun);
         recordTimes(records, times.data());
         if (decoder.isNumeric())
-            decoder.values(records, values.data(), profile.sharedFilter());
+            decoder.values(records, values.data(), filter);
         for (std::size_t i = 0; i < records.size(); ++i) {
             const double value = decoder.isNumeric() ? decoder.toDisplayUnit(values[i]) : 0.0;
             if (label)
@@ -75,23 +74,34 @@ KmlSlots collect(const RecordData& data, uint32_t identifier, Profile& profile, 
         position += records.size();
     }
     slots.sort();
-    return slots;
+    return true;
 }
 
 } // namespace
 
-void KmlPath::build(const RecordData& data, Profile& profile, const KmlGrid& grid, const Console& console)
+bool KmlPath::build(const RecordData& data, Profile& profile, const KmlGrid& grid, const Console& console, const ProgressSpan& progress)
 {
     mPoints.clear();
-    profile.resetCoordinates();
+    CoordinateFilter filter = profile.sharedFilter(); // our own, since a receiver of progress may let views refresh
+    filter.reset();
     constexpr uint32_t identifiers[] = {kLatitudeIdentifier, kLongitudeIdentifier, kAltitudeIdentifier};
     constexpr const char* labels[] = {" lat ", " long ", nullptr};
     for (std::size_t i = 0; i < std::size(identifiers); ++i) {
+        const RecordChannel* pChannel = data.channel(identifiers[i]);
+        if (!pChannel)
+            continue;
         DebugLines lines(console);
-        merge(collect(data, identifiers[i], profile, grid, console.isVerbose() ? labels[i] : nullptr, lines), kCoordinates[i]);
+        KmlSlots slots;
+        const ValueDecoder decoder = profile.decoder(profile.parameter(identifiers[i]));
+        const char* label = console.isVerbose() ? labels[i] : nullptr;
+        if (!collect(pChannel->entries, decoder, filter, grid, label, lines, slots, progress.part(i, std::size(identifiers))))
+            return false;
+        merge(slots, kCoordinates[i]);
     }
+    profile.sharedFilter() = filter;
     fillForward();
     fillBackward(console);
+    return true;
 }
 
 void KmlPath::merge(const KmlSlots& slots, double KmlPoint::*coordinate)

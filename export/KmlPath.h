@@ -2,6 +2,7 @@
 
 #include "card/record/RecordData.h"
 #include "export/KmlSlots.h"
+#include "export/ProgressSpan.h"
 #include "profile/Profile.h"
 
 namespace ZARN {
@@ -26,7 +27,8 @@ public:
     /// Builds the points: in each slot the last sample, missing coordinates filled from the point before, at the start from the
     /// first that is known. The shared position filter is reset first. Each position is told to a verbose
     /// console.
-    void build(const RecordData& data, Profile& profile, const KmlGrid& grid, const Console& console);
+    /// @return false when the user cancels.
+    bool build(const RecordData& data, Profile& profile, const KmlGrid& grid, const Console& console, const ProgressSpan& progress);
 
     /// In ascending order of slots.
     [[nodiscard]] const std::vector<KmlPoint>& points() const { return mPoints; }

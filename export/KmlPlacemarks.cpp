@@ -29,20 +29,27 @@ KmlSlots collectTexts(const RecordEntries& entries, const ValueDecoder& decoder,
 
 } // namespace
 
-void KmlPlacemarks::collect(const RecordData& data, Profile& profile, const KmlGrid& grid, int interval)
+bool KmlPlacemarks::collect(const RecordData& data, Profile& profile, const KmlGrid& grid, int interval, const ProgressSpan& progress)
 {
     mColumns.clear();
-    profile.resetCoordinates();
+    std::size_t devices = 0;
+    CoordinateFilter filter = profile.sharedFilter(); // our own, since a receiver of progress may let views refresh
+    filter.reset();
     for (const ProfileDevice& device : profile.data()) {
         for (const ProfileParameter& parameter : device.parameters) {
             const RecordChannel* pChannel = profile.isSelected(parameter.name) ? data.channel(parameter.identifier()) : nullptr;
             if (!pChannel)
                 continue;
             const ValueDecoder decoder = profile.decoder(parameter);
-            KmlSlots slots = collectTexts(pChannel->entries, decoder, profile.sharedFilter(), grid, interval);
+            KmlSlots slots = collectTexts(pChannel->entries, decoder, filter, grid, interval);
             mColumns.push_back({&parameter, decoder, slots.take()});
+            if (!progress.step(devices, profile.data().size()))
+                return false;
         }
+        ++devices;
     }
+    profile.sharedFilter() = filter;
+    return true;
 }
 
 } // namespace ZARN

@@ -2,6 +2,7 @@
 
 #include "card/record/RecordData.h"
 #include "export/KmlSlots.h"
+#include "export/ProgressSpan.h"
 #include "profile/Profile.h"
 
 namespace ZARN {
@@ -11,13 +12,19 @@ namespace ZARN {
 class KmlPlacemarks {
 public:
     /// Decodes the samples of the selected parameters in the profile's order. The shared position filter is reset first.
-    void collect(const RecordData& data, Profile& profile, const KmlGrid& grid, int interval);
+    /// @return false when the user cancels.
+    bool collect(const RecordData& data, Profile& profile, const KmlGrid& grid, int interval, const ProgressSpan& progress);
     void clear() { mColumns.clear(); }
 
-    /// Calls `visit` with every slot in which a parameter has a sample, in ascending order; texts() then tells of that slot.
+    /// Calls `visit` with every slot in which a parameter has a sample, in ascending order, until it returns false; forEachText() then
+    /// tells of that slot.
     template <typename Visitor> void forEachSlot(Visitor visit);
     /// Calls `visit` with parameter and display text of every parameter that has a sample in the current slot, in the profile's order.
     template <typename Visitor> void forEachText(Visitor visit) const;
+
+    /// How many texts there are, and how many of them the visits of forEachSlot() have passed.
+    [[nodiscard]] uint64_t textCount() const { return sum([](const Column& column) { return column.values.size(); }); }
+    [[nodiscard]] uint64_t textsDone() const { return sum([](const Column& column) { return column.next; }); }
 
 private:
     struct Column {
@@ -28,6 +35,14 @@ private:
 
         [[nodiscard]] bool isAt(int slot) const { return next < values.size() && values[next].slot == slot; }
     };
+
+    template <typename Number> [[nodiscard]] uint64_t sum(Number number) const
+    {
+        uint64_t total = 0;
+        for (const Column& column : mColumns)
+            total += number(column);
+        return total;
+    }
 
     std::vector<Column> mColumns;
     int mSlot = 0; // the current one
@@ -46,7 +61,8 @@ template <typename Visitor> void KmlPlacemarks::forEachSlot(Visitor visit)
         if (!pFirst)
             return;
         mSlot = pFirst->values[pFirst->next].slot;
-        visit(mSlot);
+        if (!visit(mSlot))
+            return;
         for (Column& column : mColumns)
             column.next += column.isAt(mSlot);
     }

@@ -144,6 +144,7 @@ void TestCli::failures_data()
     row("full device", {"csv", "CARD", "-o", "/dev/full"}, 1, "/dev/full: No space left on device");
     row("missing target folder of KML", {"kml", "CARD", "-o", "no/out.kml"}, 1, "no/out.kml: No such file or directory");
     row("unknown selection for KML", {"kml", "CARD", "-o", "out.kml", "--select", "nope"}, 1, "nope: the profile has no such");
+    row("missing target folder of GPX", {"gpx", "CARD", "-o", "no/out.gpx"}, 1, "no/out.gpx: No such file or directory");
     row("unknown subcommand", {"bogus"}, 2, "bogus");
     row("no card", {"info"}, 2, "CARD");
     row("unknown option", {"info", "card", "--bogus"}, 2, "--bogus");
@@ -160,6 +161,7 @@ void TestCli::failures_data()
     row("resolution", {"csv", "CARD", "-o", "out.csv", "--resolution", "50"}, 2, "--resolution");
     row("separator", {"csv", "CARD", "-o", "out.csv", "--separator", "|"}, 2, "--separator");
     row("no output for KML", {"kml", "CARD"}, 2, "--output");
+    row("no output for GPX", {"gpx", "CARD"}, 2, "--output");
     row("setting that is none", {"kml", "CARD", "-o", "out.kml", "--set", "KmlPlaceMarkInterval=3"}, 2, "KmlPlaceMarkInterval");
     row("setting of another export", {"kml", "CARD", "-o", "out.kml", "--set", "KmlLineWidth=3", "--set", "CsvLimiter=59"}, 2, "CsvLimiter");
     row("setting without a value", {"kml", "CARD", "-o", "out.kml", "--set", "KmlLineWidth"}, 2, "KmlLineWidth");
@@ -205,6 +207,7 @@ void TestCli::failedWritesLeaveNothing_data()
     QTest::newRow("full standard output") << "\"$1\" csv card --profile Profile.xml -o - >/dev/full" << "standard output: No space left";
     QTest::newRow("file size limit, KML") << "ulimit -f 1; \"$1\" kml card --profile Profile.xml --select height -o kept.csv "
                                              "--set KmlPlaceMarkIntervall=1" << "kept.csv: File too large";
+    QTest::newRow("full standard output, GPX") << "\"$1\" gpx card --profile Profile.xml -o - >/dev/full" << "standard output: No space left";
     QTest::newRow("full standard output, json") << "\"$1\" info card --json >/dev/full" << "standard output: No space left";
     QTest::newRow("closed standard output") << "\"$1\" csv card --profile Profile.xml -o - >&-" << "standard output: Bad file descriptor";
     QTest::newRow("closed standard output, table") << "\"$1\" info card >&-" << "standard output: Bad file descriptor";

@@ -46,7 +46,7 @@ struct Track {
         file.fill(data);
         build(step);
     }
-    void build(int step) { path.build(data, cycle.profile, KmlGrid(step), cycle.console); }
+    void build(int step) { path.build(data, cycle.profile, KmlGrid(step), cycle.console, {nullProgress(), 0, 100}); }
 
     TestCycle cycle;
     RecordData data;
@@ -185,7 +185,7 @@ void TestKmlPath::debugLines()
              "new lons 11.000000\n");
     std::string lines;
     const auto sink = [&lines](std::string_view text) { lines += text; };
-    track.path.build(track.data, track.cycle.profile, KmlGrid(1), Console(sink, sink, false));
+    track.path.build(track.data, track.cycle.profile, KmlGrid(1), Console(sink, sink, false), {nullProgress(), 0, 100});
     QCOMPARE(lines, std::string());
 }
 

@@ -36,6 +36,8 @@ public:
     /// Loads the shown cycle again: its statistic is in other units, or decoded by another profile.
     void reload();
 
+    /// While it holds, loading is put off: somebody reads the data and lets the windows live meanwhile.
+    void hold(bool on) { mBusy = on; }
     void loadCycle(unsigned int cycle, int flight);
     void loadRecords(const std::list<QString>& files);
 

@@ -2,35 +2,104 @@
 
 #include <QDialogButtonBox>
 #include <QFile>
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QSplitter>
+#include <QTextBlock>
 #include <QTextBrowser>
-#include <QVBoxLayout>
 
 namespace {
 
-QString manualText(const QString& locale)
+constexpr int kDeepestChapter = 3;
+constexpr int kPosition = Qt::UserRole; // of a chapter in the text
+
+QUrl manual(const QString& locale)
 {
-    for (const QString& language : {locale, QString("en")}) {
-        QFile file(":/manual/" + language + ".md");
-        if (file.open(QIODevice::ReadOnly))
-            return QString::fromUtf8(file.readAll());
-    }
-    return {};
+    const QString path = "/manual/" + locale + ".md";
+    return QFile::exists(":" + path) ? "qrc:" + path : QString("qrc:/manual/en.md");
 }
 
 } // namespace
 
-DialogHelp::DialogHelp(const QString& locale, QWidget* pParent) : QDialog(pParent)
+DialogHelp::DialogHelp(const QString& locale, QWidget* pParent)
+    : QDialog(pParent), mpChapters(new QListWidget), mpBrowser(new QTextBrowser), mpSearch(new QLineEdit)
 {
     setWindowTitle(tr("ZARN Help"));
-    auto* pBrowser = new QTextBrowser;
-    pBrowser->setObjectName("manual");
-    pBrowser->document()->setDocumentMargin(18);
-    pBrowser->setMarkdown(manualText(locale));
-    pBrowser->setOpenExternalLinks(true);
+    mpChapters->setObjectName("chapters");
+    mpChapters->setAccessibleName(tr("Chapters"));
+    mpBrowser->setObjectName("manual");
+    mpBrowser->setOpenExternalLinks(true);
+    connect(mpBrowser, &QTextBrowser::sourceChanged, this, &DialogHelp::slotSourceChanged);
+    connect(mpChapters, &QListWidget::currentRowChanged, this, &DialogHelp::slotChapter);
+    mpBrowser->setSource(manual(locale), QTextDocument::MarkdownResource);
+
+    auto* pSplitter = new QSplitter;
+    pSplitter->addWidget(mpChapters);
+    pSplitter->addWidget(mpBrowser);
+    pSplitter->setStretchFactor(1, 1);
+    pSplitter->setSizes({230, 720});
     auto* pButtons = new QDialogButtonBox(QDialogButtonBox::Close);
     connect(pButtons, &QDialogButtonBox::rejected, this, &QDialog::close);
+    pButtons->button(QDialogButtonBox::Close)->setAutoDefault(false); // the return key belongs to the search
     auto* pLayout = new QVBoxLayout(this);
-    pLayout->addWidget(pBrowser, 1);
+    pLayout->addWidget(createHead());
+    pLayout->addWidget(pSplitter, 1);
     pLayout->addWidget(pButtons);
-    resize(720, 640);
+    resize(960, 700);
+}
+
+QWidget* DialogHelp::createHead()
+{
+    auto* pBack = new QPushButton(tr("Back"));
+    pBack->setAutoDefault(false);
+    pBack->setEnabled(false);
+    connect(pBack, &QPushButton::clicked, mpBrowser, &QTextBrowser::backward);
+    connect(mpBrowser, &QTextBrowser::backwardAvailable, pBack, &QPushButton::setEnabled);
+    mpSearch->setObjectName("search");
+    mpSearch->setPlaceholderText(tr("Search the text; Return for the next place"));
+    mpSearch->setClearButtonEnabled(true);
+    connect(mpSearch, &QLineEdit::returnPressed, this, &DialogHelp::slotSearch);
+    auto* pHead = new QWidget;
+    auto* pLayout = new QHBoxLayout(pHead);
+    pLayout->setContentsMargins(0, 0, 0, 0);
+    pLayout->addWidget(pBack);
+    pLayout->addWidget(mpSearch, 1);
+    return pHead;
+}
+
+void DialogHelp::slotSourceChanged()
+{
+    mpBrowser->document()->setDocumentMargin(18);
+    const QSignalBlocker blocker(mpChapters);
+    mpChapters->clear();
+    for (QTextBlock block = mpBrowser->document()->begin(); block.isValid(); block = block.next()) {
+        const int level = block.blockFormat().headingLevel();
+        if (level < 1 || level > kDeepestChapter)
+            continue;
+        auto* pItem = new QListWidgetItem(QString(4 * (level - 1), ' ') + block.text(), mpChapters);
+        pItem->setData(kPosition, block.position());
+    }
+}
+
+void DialogHelp::slotChapter(int row)
+{
+    const QListWidgetItem* pItem = mpChapters->item(row);
+    if (!pItem)
+        return;
+    QTextCursor cursor(mpBrowser->document());
+    cursor.setPosition(pItem->data(kPosition).toInt());
+    mpBrowser->setTextCursor(cursor);
+    QScrollBar* pBar = mpBrowser->verticalScrollBar();
+    pBar->setValue(pBar->value() + mpBrowser->cursorRect(cursor).top()); // the heading at the top, not just in sight
+}
+
+void DialogHelp::slotSearch()
+{
+    if (mpSearch->text().isEmpty() || mpBrowser->find(mpSearch->text()))
+        return;
+    mpBrowser->moveCursor(QTextCursor::Start); // once more from the beginning
+    mpBrowser->find(mpSearch->text());
 }

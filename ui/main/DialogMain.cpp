@@ -133,6 +133,7 @@ QAction* DialogMain::action(int id) const
 
 void DialogMain::createMenus()
 {
+    addActions(mpActionGroup->actions()); // those without a place in a menu have their keys
     QMenu* pFile = menuBar()->addMenu(tr("&File"));
     pFile->addAction(action(eActionOpenFolder));
     pFile->addSeparator();
@@ -159,6 +160,7 @@ void DialogMain::createToolBar()
     pFolderButton->setPopupMode(QToolButton::MenuButtonPopup);
     mpToolBar->addSeparator();
     mpToolBar->addAction(action(eActionExportKml));
+    addMorePaths();
     mpToolBar->addAction(action(eActionExportCsv));
     mpToolBar->addSeparator();
     mpProfiles = new QComboBox;
@@ -169,6 +171,16 @@ void DialogMain::createToolBar()
     mpToolBar->addWidget(mpProfiles);
     mpToolBar->addSeparator();
     addUnits();
+}
+
+// Behind the arrow of the one button: other files of the flight path.
+void DialogMain::addMorePaths()
+{
+    auto* pButton = qobject_cast<QToolButton*>(mpToolBar->widgetForAction(action(eActionExportKml)));
+    auto* pMenu = new QMenu(pButton);
+    pMenu->addAction(action(eActionExportGpx));
+    pButton->setMenu(pMenu);
+    pButton->setPopupMode(QToolButton::MenuButtonPopup);
 }
 
 void DialogMain::addUnits()
@@ -205,7 +217,7 @@ void DialogMain::createControllers()
     connect(pRecent, &RecentFolders::signalChosen, this, &DialogMain::openFolder);
     mpCardController = new CardController(mSession, *mpCard, *pRecent, *mpProgress, this);
     mpProjectController = new ProjectController(mSession, this);
-    mpExportController = new ExportController(mSession, this);
+    mpExportController = new ExportController(mSession, *mpCardController, this);
     mpProfileController = std::make_unique<ProfileController>(mSession, *mpCatalogue, *mpProfiles, *mpUnits);
     mpLayout = std::make_unique<WindowLayout>(mSession.property, *this, *mpSplitter, *mpSide);
     mSession.container.setProgress(*mpProgress);

@@ -108,6 +108,7 @@ private:
     void createControllers();
     void connectPanels();
     void startTimers();
+    void addMorePaths();
     void addUnits();
     void restoreCard();
     void showInformation(int id);

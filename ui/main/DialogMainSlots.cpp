@@ -60,6 +60,9 @@ void DialogMain::slotMenu(QAction* pAction)
     case eActionExportCsv:
         mpExportController->exportCsv();
         break;
+    case eActionExportGpx:
+        mpExportController->exportGpx();
+        break;
     default:
         showInformation(id);
     }
@@ -235,10 +238,10 @@ void DialogMain::slotTimeout()
 
 void DialogMain::restoreCard()
 {
-    const QString given = QString::fromStdString(mDesktop.cmdLine.operand());
+    const QFileInfo given(QString::fromStdString(mDesktop.cmdLine.operand()));
     const QString last = QString::fromStdString(mSession.property.getString("LastPath", "."));
-    if (!given.isEmpty())
-        openFolder(QFileInfo(given).absoluteFilePath());
+    if (!given.filePath().isEmpty())
+        openFolder(given.isFile() ? given.absolutePath() : given.absoluteFilePath());
     else if (!last.isEmpty() && !mDesktop.withDefaults)
         mpCardController->restoreFolder(last);
 }

@@ -1,65 +1,78 @@
 #include "ui/main/ExportController.h"
 
 #include "app/Property.h"
+#include "app/SafeFile.h"
 #include "card/CardContainer.h"
+#include "export/ExportGpx.h"
 #include "export/ExportKml.h"
+#include "export/ui/DialogExportCsv.h"
+#include "export/ui/DialogExportKml.h"
+#include "export/ui/ExportProgress.h"
+#include "ui/main/CardController.h"
 
+#include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
-#include <QWidget>
 
 namespace ZARN {
 
-ExportController::ExportController(const Session& session, QWidget* pWindow) : QObject(pWindow), mSession(session), mpWindow(pWindow) {}
-
-bool ExportController::askFile(const char* key, const QString& title, const QString& suggestion, const QString& filter, QString& directory,
-                               QString& name)
+ExportController::ExportController(const Session& session, CardController& cards, QWidget* pWindow)
+    : QObject(pWindow), mSession(session), mCards(cards), mpWindow(pWindow)
 {
-    const QString start = QString::fromStdString(mSession.property.getString(key, "."));
-    const QString path = QFileDialog::getSaveFileName(mpWindow, title, start + "/" + suggestion, filter, nullptr, QFileDialog::DontUseNativeDialog);
-    if (path.isEmpty())
-        return false;
-    directory = QFileInfo(path).absolutePath();
-    name = QFileInfo(path).fileName();
-    mSession.property.setString(key, directory.toStdString());
-    mSession.property.writeXmlFile();
-    return true;
 }
 
 void ExportController::exportKml()
 {
-    mKmlOptions.read(mSession.property);
-    QString directory;
-    QString name;
-    if (!askFile("KmlExportDir", tr("Save KML Export"), mSession.container.name() + ".kml", tr("KML Files (*.kml)"), directory, name))
+    mKmlOptions.fileName = (mSession.container.name() + ".kml").toStdString();
+    if (!DialogExportKml(mSession, mpWindow).getOptions(mKmlOptions))
         return;
-    mKmlOptions.directory = directory.toStdString();
-    mKmlOptions.fileName = name.toStdString();
     const RecordCycle* pCycle = mSession.container.loadedCycle();
     ExportKml exporter(mSession.console, mSession.profile, pCycle ? pCycle->dateTime : QDateTime());
-    if (exporter.exportData(mSession.container.recordData(), mKmlOptions))
-        Q_EMIT signalWritten(directory + "/" + name);
-    else
+    const auto work = [&](Progress& progress) { return exporter.exportData(mSession.container.recordData(), mKmlOptions, progress); };
+    if (!run(QString::fromStdString(mKmlOptions.directory + "/" + mKmlOptions.fileName), work))
         fail(tr("ZARN Warning"), tr("Exporting KML file failed !"), exporter.error());
 }
 
 void ExportController::exportCsv()
 {
-    const Property& property = mSession.property;
-    const int separator = property.getInt("CsvLimiter", ';');
-    mCsvOptions.separator = separator == ',' ? ',' : separator == '\t' ? '\t' : ';';
-    mCsvOptions.resolution = property.getInt("CsvResolution", 100) == 10 ? 10 : 100;
-    mCsvOptions.allParameters = property.getSwitch("CsvAllParameter", true);
-    QString& directory = mCsvOptions.directory;
-    QString& name = mCsvOptions.fileName;
-    if (!askFile("CsvExportDir", tr("Save CSV Export"), "ExportZarn.csv", tr("CSV Files (*.csv)"), directory, name))
+    mCsvOptions.directory = QString::fromStdString(mSession.property.getString("CsvExportDir", "."));
+    mCsvOptions.fileName = "ExportZarn.csv";
+    if (!DialogExportCsv(mSession, mpWindow).getOptions(mCsvOptions))
         return;
     ExportCsv exporter(mSession.profile);
-    if (exporter.exportData(mSession.container.recordData(), mCsvOptions))
-        Q_EMIT signalWritten(directory + "/" + name);
-    else
+    const auto work = [&](Progress& progress) { return exporter.exportData(mSession.container.recordData(), mCsvOptions, progress); };
+    if (!run(mCsvOptions.directory + "/" + mCsvOptions.fileName, work))
         fail(tr("ZARN Viewer Warning"), tr("Exporting CSV file failed !"), exporter.error());
+}
+
+void ExportController::exportGpx()
+{
+    const QString folder = QString::fromStdString(mSession.property.getString("GpxExportDir", "."));
+    const QString path = QFileDialog::getSaveFileName(mpWindow, tr("Save GPX Export"), folder + "/" + mSession.container.name() + ".gpx",
+                                                      tr("GPX Files (*.gpx)"), nullptr, QFileDialog::DontUseNativeDialog);
+    if (path.isEmpty())
+        return;
+    mSession.property.setString("GpxExportDir", QFileInfo(path).absolutePath().toStdString());
+    mSession.property.writeXmlFile();
+    ExportGpx exporter(mSession.profile);
+    const auto work = [&](Progress& progress) {
+        SafeFile file(QFile::encodeName(path).toStdString());
+        return exporter.exportData(mSession.container, file, progress);
+    };
+    if (!run(path, work))
+        fail(tr("ZARN Warning"), tr("Exporting GPX file failed !"), exporter.error());
+}
+
+bool ExportController::run(const QString& path, const std::function<bool(Progress&)>& work)
+{
+    ExportProgress progress(tr("Writing %1 ...").arg(QFileInfo(path).fileName()), mpWindow);
+    mCards.hold(true);
+    const bool written = work(progress);
+    mCards.hold(false);
+    if (written)
+        Q_EMIT signalWritten(path);
+    return written || progress.isCancelled();
 }
 
 void ExportController::fail(const QString& title, const QString& text, const std::string& reason)

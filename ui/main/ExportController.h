@@ -6,30 +6,37 @@
 
 #include <QObject>
 
+#include <functional>
+
 class QWidget;
 
 namespace ZARN {
 
-/// Exports the loaded data: asks for the file, takes the other options from the settings, and says when it failed. Owned by the
-/// main window.
+class CardController;
+
+/// Exports the loaded data: asks for the options, shows the progress, and says when it failed. Owned by the main window.
 class ExportController : public QObject {
     Q_OBJECT
 
 public:
-    ExportController(const Session& session, QWidget* pWindow);
+    ExportController(const Session& session, CardController& cards, QWidget* pWindow);
 
     void exportKml();
     void exportCsv();
+    void exportGpx();
 
 Q_SIGNALS:
     /// A file was written.
     void signalWritten(const QString& path);
 
 private:
-    bool askFile(const char* key, const QString& title, const QString& suggestion, const QString& filter, QString& directory, QString& name);
+    /// Does the work under the eyes of the user, loading being put off meanwhile. @param work returns whether it succeeded.
+    /// @return whether it did, or was cancelled.
+    bool run(const QString& path, const std::function<bool(Progress&)>& work);
     void fail(const QString& title, const QString& text, const std::string& reason);
 
     Session mSession;
+    CardController& mCards;
     QWidget* mpWindow;
     CsvExportOptions mCsvOptions;
     KmlExportOptions mKmlOptions;

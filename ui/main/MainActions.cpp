@@ -49,6 +49,8 @@ const std::vector<MainAction>& MainAction::all()
          QT_TRANSLATE_NOOP("ZARN::DialogMain", "Export Google Earth KML File"), "", "export-kml"},
         {eActionExportCsv, QT_TRANSLATE_NOOP("ZARN::DialogMain", "Export CSV File"), "",
          QT_TRANSLATE_NOOP("ZARN::DialogMain", "Export CSV File"), "", "export-csv"},
+        {eActionExportGpx, QT_TRANSLATE_NOOP("ZARN::DialogMain", "Export GPX File"), "",
+         QT_TRANSLATE_NOOP("ZARN::DialogMain", "Export Flight Path as GPX File"), "", "flight"},
     };
     // clang-format on
     return actions;

@@ -22,7 +22,8 @@ enum EMainAction : int {
     eActionHelp = 10,
     eActionPreferences = 15,
     eActionExportKml = 17,
-    eActionExportCsv = 18
+    eActionExportCsv = 18,
+    eActionExportGpx = 19
 };
 
 /// One command of the main window: texts to be translated, the shortcut, the name of its icon.

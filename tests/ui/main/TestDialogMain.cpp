@@ -22,6 +22,7 @@
 #include <QTableWidget>
 #include <QToolBar>
 #include <QTreeWidget>
+#include <QWizard>
 #include <QtTest>
 
 using namespace ZARN;
@@ -77,6 +78,19 @@ void chooseFile(QWidget* pModal, const QString& path)
     // Typed whole, as a person does: what the dialog still selects while it reads the folder does not count then.
     pDialog->findChild<QLineEdit*>("fileNameEdit")->setText(path);
     QMetaObject::invokeMethod(pDialog, "accept");
+}
+
+/// Goes through an export's wizard with the options that it offers.
+void finish(QWidget* pModal, const QString& folder, const QString& name, const std::function<void()>& beforeTheEnd = [] {})
+{
+    auto* pWizard = qobject_cast<QWizard*>(pModal);
+    QVERIFY(pWizard);
+    pWizard->findChild<QLineEdit*>("directory")->setText(folder);
+    pWizard->findChild<QLineEdit*>("fileName")->setText(name);
+    while (pWizard->nextId() != -1)
+        QTest::mouseClick(pWizard->button(QWizard::NextButton), Qt::LeftButton);
+    beforeTheEnd();
+    QTest::mouseClick(pWizard->button(QWizard::FinishButton), Qt::LeftButton);
 }
 
 template <typename Widget> bool isShown(DialogMain& window)
@@ -437,9 +451,9 @@ void TestDialogMain::exportCsv()
     DialogMain& window = desktop.open();
     started(window);
     window.slotLoadCycle(3, -1);
-    Answer save([this](QWidget* pModal) { chooseFile(pModal, home() + "/out.csv"); });
+    Answer save([this](QWidget* pModal) { finish(pModal, home(), "out.csv"); });
     window.action(eActionExportCsv)->trigger();
-    QCOMPARE(save.title, QString("Save CSV Export"));
+    QCOMPARE(save.title, QString("CSV Export"));
     QVERIFY(QFileInfo(home() + "/out.csv").size() > 1000);
     QCOMPARE(desktop.property.getString("CsvExportDir", ""), home().toStdString());
 }
@@ -462,8 +476,8 @@ void TestDialogMain::failedExport()
     QVERIFY(QDir().mkpath(home() + "/sub"));
     std::optional<Answer> told;
     Answer choose([&](QWidget* pModal) {
-        chooseFile(pModal, home() + "/sub/out");
-        QDir(home() + "/sub").removeRecursively(); // gone between the choice and the writing
+        // The folder is gone between the choice and the writing.
+        finish(pModal, home() + "/sub", "out", [this] { QDir(home() + "/sub").removeRecursively(); });
         told.emplace(Answer::close);
     });
     window.action(id)->trigger();

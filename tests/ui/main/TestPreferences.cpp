@@ -8,9 +8,13 @@
 #include "ui/main/DialogPreferences.h"
 
 #include <QComboBox>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QPlainTextEdit>
+#include <QRegularExpression>
 #include <QSpinBox>
 #include <QTabWidget>
+#include <QTextBlock>
 #include <QTextBrowser>
 #include <QtTest>
 
@@ -29,6 +33,7 @@ private Q_SLOTS:
     void profilePath();
     void manual_data();
     void manual();
+    void linksOfTheManual();
     void licences();
     void splash();
 };
@@ -134,8 +139,39 @@ void TestPreferences::manual()
 {
     QFETCH(QString, locale);
     QFETCH(QString, heading);
-    const DialogHelp dialog(locale);
-    QVERIFY(dialog.findChild<QTextBrowser*>()->toPlainText().contains(heading));
+    DialogHelp dialog(locale);
+    auto* pBrowser = dialog.findChild<QTextBrowser*>();
+    QVERIFY(pBrowser->toPlainText().contains(heading));
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    auto* pChapters = dialog.findChild<QListWidget*>("chapters");
+    const auto found = pChapters->findItems(heading, Qt::MatchContains);
+    QCOMPARE(found.size(), 1);
+    pChapters->setCurrentItem(found.first());
+    QCOMPARE(pBrowser->textCursor().block().text(), heading);
+    auto* pSearch = dialog.findChild<QLineEdit*>("search");
+    QTest::keyClicks(pSearch, "KmlTimeStamp");
+    QTest::keyClick(pSearch, Qt::Key_Return);
+    QCOMPARE(pBrowser->textCursor().selectedText(), QString("KmlTimeStamp"));
+    QVERIFY(dialog.isVisible());
+}
+
+void TestPreferences::linksOfTheManual()
+{
+    DialogHelp dialog("de");
+    auto* pBrowser = dialog.findChild<QTextBrowser*>();
+    QList<QUrl> pages{pBrowser->source(), QUrl("qrc:/manual/en.md")};
+    for (qsizetype i = 0; i < pages.size(); ++i) {
+        pBrowser->setSource(pages[i]);
+        QVERIFY2(pBrowser->toPlainText().size() > 1000, qPrintable(pages[i].toString()));
+        static const QRegularExpression link("href=\"([^\"]+)\"");
+        for (auto links = link.globalMatch(pBrowser->toHtml()); links.hasNext();) {
+            const QUrl page = pages[i].resolved(QUrl(links.next().captured(1)));
+            if (page.scheme() == "qrc" && !pages.contains(page))
+                pages.append(page);
+        }
+    }
+    QCOMPARE(pages.size(), 6); // manual and profiles in two languages, record files, settings
 }
 
 void TestPreferences::licences()

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "cli/DataCommand.h"
+
+namespace ZARN {
+
+/// `gpx`: the flight path of a cycle as a GPX track.
+class CommandGpx : public DataCommand {
+public:
+    explicit CommandGpx(CLI::App& program);
+
+private:
+    int runOnData() override;
+
+    std::string mOutput;
+};
+
+} // namespace ZARN

@@ -1,0 +1,135 @@
+#include "export/ExportGpx.h"
+
+#include "app/NumberText.h"
+#include "app/Revision.h"
+#include "app/SafeFile.h"
+#include "export/KmlWriter.h"
+#include "export/ProgressSpan.h"
+
+#include <cmath>
+
+namespace ZARN {
+
+namespace {
+
+constexpr int kDegreeDecimals = 8;
+constexpr int kAltitudeDecimals = 1;
+constexpr uint64_t kPointsAStep = 1024; // between two reports of progress
+constexpr double kMostLatitude = 90.0;
+constexpr double kMostLongitude = 180.0;
+
+std::string fixed(double number, int decimals)
+{
+    char buffer[kNumberTextSize];
+    return {buffer, writeFixed(buffer, number, decimals)};
+}
+
+std::string timeText(const QDateTime& cycleDate, double seconds)
+{
+    const auto milliseconds = static_cast<qint64>(std::llround(seconds * 1000)); // a path's times are bounded
+    return cycleDate.addMSecs(milliseconds).toString("yyyy-MM-ddThh:mm:ss.zzz'Z'").toStdString();
+}
+
+bool isOnEarth(const FlightPathPoint& point)
+{
+    return std::fabs(point.latitude) <= kMostLatitude && point.longitude >= -kMostLongitude && point.longitude < kMostLongitude;
+}
+
+/// Writes one track point after the other, in segments.
+class TrackWriter {
+public:
+    TrackWriter(KmlWriter& writer, const QDateTime& cycleDate) : mWriter(writer), mCycleDate(cycleDate) {}
+
+    void add(const FlightPathPoint& point)
+    {
+        if (!isOnEarth(point))
+            return endSegment();
+        if (!mInSegment)
+            mWriter.begin("trkseg");
+        mInSegment = true;
+        mWriter.begin("trkpt", " lat=\"" + fixed(point.latitude, kDegreeDecimals) + "\" lon=\"" + fixed(point.longitude, kDegreeDecimals) + "\"");
+        if (std::isfinite(point.altitude))
+            mWriter.text("ele", fixed(point.altitude, kAltitudeDecimals));
+        if (mCycleDate.isValid())
+            mWriter.text("time", timeText(mCycleDate, point.time));
+        mWriter.end("trkpt");
+    }
+    void endSegment()
+    {
+        if (mInSegment)
+            mWriter.end("trkseg");
+        mInSegment = false;
+    }
+
+private:
+    KmlWriter& mWriter;
+    const QDateTime& mCycleDate;
+    bool mInSegment = false;
+};
+
+std::string trackName(const CardContainer& container)
+{
+    const RecordCycle* pCycle = container.loadedCycle();
+    const QString card = container.name();
+    return (pCycle && !pCycle->name.isEmpty() ? card + ", " + pCycle->name : card).toStdString();
+}
+
+void beginDocument(KmlWriter& writer, const std::string& name, const QDateTime& cycleDate)
+{
+    writer.declaration();
+    writer.begin("gpx", " version=\"1.1\" creator=\"" + Revision::getRevisionString() + "\" xmlns=\"http://www.topografix.com/GPX/1/1\"");
+    writer.begin("metadata");
+    writer.text("name", name);
+    if (cycleDate.isValid())
+        writer.text("time", timeText(cycleDate, 0));
+    writer.end("metadata");
+    writer.begin("trk");
+    writer.text("name", name);
+}
+
+} // namespace
+
+bool ExportGpx::exportData(const CardContainer& container, SafeFile& file, Progress& progress)
+{
+    mError.clear();
+    if (!file.open()) {
+        mError = file.error();
+        return false;
+    }
+    const RecordCycle* pCycle = container.loadedCycle();
+    const QDateTime cycleDate = pCycle ? pCycle->dateTime : QDateTime();
+    const std::vector<FlightPathPoint> points = metricPath(container);
+    const ProgressSpan span(progress, 0, 100);
+    KmlWriter writer(file);
+    beginDocument(writer, trackName(container), cycleDate);
+    TrackWriter track(writer, cycleDate);
+    uint64_t done = 0;
+    for (const FlightPathPoint& point : points) {
+        if (++done % kPointsAStep == 0 && !span.step(done, points.size()))
+            return false;
+        track.add(point);
+    }
+    track.endSegment();
+    writer.end("trk");
+    writer.end("gpx");
+    if (writer.flush() && file.commit())
+        return true;
+    mError = file.error();
+    return false;
+}
+
+std::vector<FlightPathPoint> ExportGpx::metricPath(const CardContainer& container)
+{
+    const std::vector<FlightPathPoint>& shown = container.flightPath();
+    const EUnit unit = mProfile.currentUnit();
+    if (unit == EUnit::eMetric || shown.empty())
+        return shown;
+    FlightPath path;
+    mProfile.setCurrentUnit(EUnit::eMetric);
+    path.build(container.values());
+    mProfile.setCurrentUnit(unit);
+    path.crop(shown.front().time, shown.back().time);
+    return path.points();
+}
+
+} // namespace ZARN

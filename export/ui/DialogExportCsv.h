@@ -1,0 +1,33 @@
+#pragma once
+
+#include "export/ExportCsv.h"
+#include "project/Session.h"
+
+#include <QWizard>
+
+namespace ZARN {
+
+class DialogExportCsvOptions;
+class DialogExportCsvPath;
+
+/// The wizard of the CSV export.
+class DialogExportCsv : public QWizard {
+    Q_OBJECT
+
+public:
+    explicit DialogExportCsv(const Session& session, QWidget* pParent = nullptr);
+
+    /// Asks the user for the options, beginning with these and, over them, what the settings have. @return whether the user accepts:
+    /// then the options are the user's, and the settings remember all but the file name.
+    bool getOptions(CsvExportOptions& options);
+
+private:
+    void loadSettings();
+    void saveSettings() const;
+
+    Session mSession;
+    DialogExportCsvPath* mpPath;
+    DialogExportCsvOptions* mpOptions;
+};
+
+} // namespace ZARN

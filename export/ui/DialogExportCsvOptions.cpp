@@ -1,0 +1,87 @@
+#include "export/ui/DialogExportCsvOptions.h"
+
+#include <QComboBox>
+#include <QFormLayout>
+#include <QLabel>
+
+#include <algorithm>
+
+namespace ZARN {
+
+namespace {
+
+QComboBox* makeList(const char* name, const std::vector<std::pair<QString, int>>& items)
+{
+    auto* pList = new QComboBox;
+    pList->setObjectName(name);
+    for (const auto& [text, value] : items)
+        pList->addItem(text, value);
+    return pList;
+}
+
+void choose(QComboBox* pList, int value)
+{
+    pList->setCurrentIndex(std::max(pList->findData(value), 0));
+}
+
+} // namespace
+
+DialogExportCsvOptions::DialogExportCsvOptions(QWidget* pParent)
+    : QWizardPage(pParent), mpLimiter(makeList("limiter", {{tr("Semikolon ;"), ';'}, {tr("Comma ,"), ','}, {tr("Tabstop"), '\t'}})),
+      mpResolution(makeList("resolution", {{tr("100 ms"), 100}, {tr("10 ms"), 10}})),
+      mpParameter(makeList("parameters", {{tr("All Parameter"), 1}, {tr("Selected Parameter only"), 0}})), mpNote(new QLabel)
+{
+    setTitle(tr("Select CSV Option"));
+    mpNote->setObjectName("warning");
+    mpNote->setWordWrap(true);
+    auto* pForm = new QFormLayout(this);
+    pForm->addRow(tr("Limiter"), mpLimiter);
+    pForm->addRow(tr("Resolution"), mpResolution);
+    pForm->addRow(tr("Parameter Selection"), mpParameter);
+    pForm->addRow(mpNote);
+    connect(mpLimiter, &QComboBox::currentIndexChanged, this, &DialogExportCsvOptions::slotLimiter);
+    connect(mpResolution, &QComboBox::currentIndexChanged, this, &DialogExportCsvOptions::slotResolution);
+    connect(mpParameter, &QComboBox::currentIndexChanged, this, &DialogExportCsvOptions::slotParameter);
+}
+
+void DialogExportCsvOptions::setOptions(int separator, int resolution, bool allParameters)
+{
+    choose(mpLimiter, separator);
+    choose(mpResolution, resolution);
+    choose(mpParameter, allParameters ? 1 : 0);
+}
+
+void DialogExportCsvOptions::setData(bool isEmpty, std::size_t selected)
+{
+    mIsEmpty = isEmpty;
+    mSelected = selected;
+    showNote();
+}
+
+void DialogExportCsvOptions::slotLimiter(int index)
+{
+    mSeparator = static_cast<char>(mpLimiter->itemData(index).toInt());
+}
+
+void DialogExportCsvOptions::slotResolution(int index)
+{
+    mResolution = mpResolution->itemData(index).toUInt();
+}
+
+void DialogExportCsvOptions::slotParameter(int index)
+{
+    mAllParameters = mpParameter->itemData(index).toInt() == 1;
+    showNote();
+}
+
+void DialogExportCsvOptions::showNote()
+{
+    if (mIsEmpty)
+        mpNote->setText(tr("No data is loaded: the file will hold its header line alone. Choose a power cycle in the card browser first."));
+    else if (!mAllParameters && mSelected == 0)
+        mpNote->setText(tr("No parameter is ticked in the profile panel: the file will hold no values."));
+    else
+        mpNote->clear();
+}
+
+} // namespace ZARN

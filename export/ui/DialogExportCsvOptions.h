@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QWizardPage>
+
+#include <cstdint>
+
+class QComboBox;
+class QLabel;
+
+namespace ZARN {
+
+/// The CSV wizard's second page: separator, time step, and which parameters become columns.
+class DialogExportCsvOptions : public QWizardPage {
+    Q_OBJECT
+
+public:
+    explicit DialogExportCsvOptions(QWidget* pParent = nullptr);
+
+    /// A value that no list offers stands for the list's first.
+    void setOptions(int separator, int resolution, bool allParameters);
+    [[nodiscard]] char separator() const { return mSeparator; }
+    [[nodiscard]] uint32_t resolution() const { return mResolution; }
+    [[nodiscard]] bool allParameters() const { return mAllParameters; }
+
+    /// What the user should know of the data before the file is written. @param selected how many parameters are selected.
+    void setData(bool isEmpty, std::size_t selected);
+
+private Q_SLOTS:
+    void slotLimiter(int index);
+    void slotResolution(int index);
+    void slotParameter(int index);
+
+private:
+    void showNote();
+
+    QComboBox* mpLimiter;
+    QComboBox* mpResolution;
+    QComboBox* mpParameter;
+    QLabel* mpNote;
+    char mSeparator = ';';
+    uint32_t mResolution = 100;
+    bool mAllParameters = true;
+    bool mIsEmpty = false;
+    std::size_t mSelected = 0;
+};
+
+} // namespace ZARN

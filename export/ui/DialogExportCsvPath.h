@@ -1,0 +1,15 @@
+#pragma once
+
+#include "export/ui/ExportPathPage.h"
+
+namespace ZARN {
+
+/// The CSV wizard's first page: folder and file name.
+class DialogExportCsvPath : public ExportPathPage {
+    Q_OBJECT
+
+public:
+    explicit DialogExportCsvPath(QWidget* pParent = nullptr) : ExportPathPage(tr("Save CSV Export"), pParent) {}
+};
+
+} // namespace ZARN

@@ -1,0 +1,69 @@
+#include "export/ui/DialogExportKmlOptions.h"
+
+#include "export/ui/ColourButton.h"
+
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QSpinBox>
+
+namespace ZARN {
+
+namespace {
+
+constexpr int kMostSeconds = 3600;
+constexpr int kWidestLine = 50;
+
+} // namespace
+
+DialogExportKmlOptions::DialogExportKmlOptions(QWidget* pParent)
+    : QWizardPage(pParent), mpTimeStamp(new QSpinBox), mpLineWidth(new QSpinBox),
+      mpLineColour(new ColourButton(tr("Select Line Color"), ColourButton::eWithOpacity)), mpPolygon(new QGroupBox(tr("Draw Polygon"))),
+      mpPolygonColour(new ColourButton(tr("Select Polygon Color"), ColourButton::eWithOpacity))
+{
+    setTitle(tr("Select KML Option"));
+    mpTimeStamp->setObjectName("timeStamp");
+    mpTimeStamp->setRange(1, kMostSeconds);
+    mpTimeStamp->setSuffix(tr(" s"));
+    mpLineWidth->setObjectName("lineWidth");
+    mpLineWidth->setRange(1, kWidestLine);
+    mpLineColour->setObjectName("lineColour");
+    mpPolygon->setObjectName("polygon");
+    mpPolygon->setCheckable(true);
+    mpPolygonColour->setObjectName("polygonColour");
+
+    auto* pLine = new QGroupBox(tr("Line Style"));
+    auto* pLineForm = new QFormLayout(pLine);
+    pLineForm->addRow(tr("Line width"), mpLineWidth);
+    pLineForm->addRow(tr("Line color"), mpLineColour);
+    auto* pPolygonForm = new QFormLayout(mpPolygon);
+    pPolygonForm->addRow(tr("Polygon color"), mpPolygonColour);
+    auto* pForm = new QFormLayout;
+    pForm->addRow(tr("Timestamp every :"), mpTimeStamp);
+    auto* pLayout = new QVBoxLayout(this);
+    pLayout->addLayout(pForm);
+    pLayout->addWidget(pLine);
+    pLayout->addWidget(mpPolygon);
+    pLayout->addStretch();
+}
+
+void DialogExportKmlOptions::show(const KmlExportOptions& options)
+{
+    mpTimeStamp->setValue(options.timeStamp);
+    mpLineWidth->setValue(options.lineWidth);
+    mpLineColour->setColour(options.lineColor, options.lineAlpha);
+    mpPolygon->setChecked(options.polygonOn);
+    mpPolygonColour->setColour(options.polygonColor, options.polygonAlpha);
+}
+
+void DialogExportKmlOptions::store(KmlExportOptions& options) const
+{
+    options.timeStamp = mpTimeStamp->value();
+    options.lineWidth = mpLineWidth->value();
+    options.lineColor = mpLineColour->digits();
+    options.lineAlpha = mpLineColour->alpha();
+    options.polygonOn = mpPolygon->isChecked();
+    options.polygonColor = mpPolygonColour->digits();
+    options.polygonAlpha = mpPolygonColour->alpha();
+}
+
+} // namespace ZARN

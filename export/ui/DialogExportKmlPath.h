@@ -1,0 +1,15 @@
+#pragma once
+
+#include "export/ui/ExportPathPage.h"
+
+namespace ZARN {
+
+/// The KML wizard's first page: folder and file name.
+class DialogExportKmlPath : public ExportPathPage {
+    Q_OBJECT
+
+public:
+    explicit DialogExportKmlPath(QWidget* pParent = nullptr) : ExportPathPage(tr("Save KML Export"), pParent) {}
+};
+
+} // namespace ZARN

@@ -1,0 +1,97 @@
+#include "export/ui/ExportPathPage.h"
+
+#include "export/ui/ExportTarget.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace ZARN {
+
+ExportPathPage::ExportPathPage(const QString& chooser, QWidget* pParent)
+    : QWizardPage(pParent), mChooser(chooser), mpDirectory(new QLineEdit), mpName(new QLineEdit), mpProblem(new QLabel)
+{
+    setTitle(tr("Select the output directory and file"));
+    mpDirectory->setObjectName("directory");
+    mpName->setObjectName("fileName");
+    mpProblem->setObjectName("warning");
+    mpProblem->setTextFormat(Qt::PlainText); // a path may hold what looks like markup
+    mpProblem->setWordWrap(true);
+    auto* pChoose = new QPushButton(tr("Choose ..."));
+    pChoose->setObjectName("choose");
+    auto* pFolder = new QHBoxLayout;
+    pFolder->addWidget(mpDirectory, 1);
+    pFolder->addWidget(pChoose);
+    auto* pForm = new QFormLayout(this);
+    pForm->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    pForm->addRow(tr("Export Path"), pFolder);
+    pForm->addRow(tr("Export Filename"), mpName);
+    pForm->addRow(mpProblem);
+    connect(pChoose, &QPushButton::clicked, this, &ExportPathPage::slotChoose);
+    connect(mpDirectory, &QLineEdit::textChanged, this, &ExportPathPage::slotChanged);
+    connect(mpName, &QLineEdit::textChanged, this, &ExportPathPage::slotChanged);
+}
+
+void ExportPathPage::setTarget(const QString& directory, const QString& name)
+{
+    mReplaced.clear();
+    mpDirectory->setText(QDir::toNativeSeparators(QDir(directory).absolutePath()));
+    mpName->setText(name);
+}
+
+QString ExportPathPage::directory() const
+{
+    return QDir(QDir::fromNativeSeparators(mpDirectory->text().trimmed())).absolutePath();
+}
+
+QString ExportPathPage::fileName() const
+{
+    return mpName->text().trimmed();
+}
+
+bool ExportPathPage::isComplete() const
+{
+    return !mpDirectory->text().trimmed().isEmpty() && !fileName().isEmpty();
+}
+
+bool ExportPathPage::validatePage()
+{
+    const ExportTarget target(directory(), fileName());
+    mpProblem->setText(target.problem());
+    return mpProblem->text().isEmpty() && (!target.exists() || mayReplace(target.path()));
+}
+
+bool ExportPathPage::mayReplace(const QString& path)
+{
+    if (mReplaced == path)
+        return true;
+    QMessageBox box(QMessageBox::Warning, tr("ZARN Warning"), tr("%1 exists already.\nReplace it ?").arg(QDir::toNativeSeparators(path)),
+                    QMessageBox::Yes | QMessageBox::No, this);
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::No);
+    if (box.exec() != QMessageBox::Yes)
+        return false;
+    mReplaced = path;
+    return true;
+}
+
+void ExportPathPage::slotChoose()
+{
+    const QString folder = QFileDialog::getExistingDirectory(this, mChooser, directory(),
+                                                             QFileDialog::ShowDirsOnly | QFileDialog::DontUseNativeDialog);
+    if (!folder.isEmpty())
+        mpDirectory->setText(QDir::toNativeSeparators(folder));
+}
+
+void ExportPathPage::slotChanged()
+{
+    mpProblem->clear();
+    Q_EMIT completeChanged();
+}
+
+} // namespace ZARN

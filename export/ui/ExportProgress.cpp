@@ -1,0 +1,40 @@
+#include "export/ui/ExportProgress.h"
+
+#include <QCoreApplication>
+
+#include <limits>
+
+namespace ZARN {
+
+namespace {
+
+constexpr qint64 kQuietMilliseconds = 150;
+constexpr qint64 kPaintingMilliseconds = 40; // often enough to look steady, too seldom to cost time
+constexpr int kWidth = 380;
+
+} // namespace
+
+ExportProgress::ExportProgress(const QString& text, QWidget* pWindow) : mDialog(pWindow)
+{
+    mDialog.setWindowTitle(tr("ZARN Info"));
+    mDialog.setLabelText(text);
+    mDialog.setWindowModality(Qt::ApplicationModal);
+    mDialog.setMinimumDuration(std::numeric_limits<int>::max()); // shown from here
+    mDialog.setAutoReset(false);
+    mDialog.setAutoClose(false);
+    mDialog.setMinimumWidth(kWidth);
+    mSinceBegin.start();
+    mSincePainting.start();
+}
+
+void ExportProgress::setProgress(int percent)
+{
+    if (mSincePainting.elapsed() < kPaintingMilliseconds || mSinceBegin.elapsed() < kQuietMilliseconds || isCancelled())
+        return;
+    mDialog.show();
+    mDialog.setValue(percent);
+    QCoreApplication::processEvents();
+    mSincePainting.start();
+}
+
+} // namespace ZARN

@@ -1,0 +1,144 @@
+#include "app/SafeFile.h"
+#include "export/ExportCsv.h"
+#include "export/ExportGpx.h"
+#include "export/ExportKml.h"
+#include "sim/DemoCard.h"
+#include "support/FileHelpers.h"
+#include "support/TestCycle.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <limits>
+
+using namespace ZARN;
+using namespace ZARN::Test;
+
+namespace {
+
+/// Cancels once it has been told more often than it has patience for, or sooner.
+class Impatient : public Progress {
+public:
+    explicit Impatient(int patience) : mPatience(patience) {}
+    void setProgress(int percent) override
+    {
+        fellBack = fellBack || percent < last || percent > 100;
+        last = percent;
+        ++reports;
+        if (whenTold)
+            whenTold();
+    }
+    [[nodiscard]] bool isCancelled() const override { return reports > mPatience; }
+
+    int last = 0;
+    int reports = 0;
+    bool fellBack = false;
+    std::function<void()> whenTold;
+
+private:
+    int mPatience;
+};
+
+} // namespace
+
+/// Exports that report how far they are, and end when they are told to.
+class TestExportCancel : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cancelled_data();
+    void cancelled();
+    void viewsMayDecodeMeanwhile_data();
+    void viewsMayDecodeMeanwhile();
+
+private:
+    bool write(const QString& format, Progress& progress);
+    std::string target() const { return (mFolder.path() + "/out").toStdString(); }
+
+    QTemporaryDir mFolder;
+    QTemporaryDir mCard;
+    TestCycle mCycle;
+};
+
+void TestExportCancel::initTestCase()
+{
+    std::string error;
+    QVERIFY2(DemoCard().write(mCard.filePath("card").toStdString(), DemoCardOptions{}, error), error.c_str());
+    QVERIFY(mCycle.profile.loadProfile(ZARN_SOURCE_DIR "/resources/profiles/915/Profile.xml"));
+    for (const ProfileDevice& device : mCycle.profile.data()) {
+        for (const ProfileParameter& parameter : device.parameters)
+            mCycle.profile.setSelected(parameter.name, true);
+    }
+    QVERIFY(mCycle.container.readContainer(mCard.filePath("card")));
+    QVERIFY(mCycle.container.loadCycle(2, -1));
+}
+
+bool TestExportCancel::write(const QString& format, Progress& progress)
+{
+    const RecordData& data = mCycle.container.recordData();
+    if (format == "csv") {
+        ExportCsv exporter(mCycle.profile);
+        return exporter.exportData(data, {mFolder.path(), "out"}, progress);
+    }
+    if (format == "kml") {
+        const Console quiet([](std::string_view) {}, [](std::string_view) {}, false);
+        ExportKml exporter(quiet, mCycle.profile, {});
+        KmlExportOptions options;
+        options.directory = mFolder.path().toStdString();
+        options.fileName = "out";
+        return exporter.exportData(data, options, progress);
+    }
+    SafeFile file(target());
+    return ExportGpx(mCycle.profile).exportData(mCycle.container, file, progress);
+}
+
+void TestExportCancel::cancelled_data()
+{
+    QTest::addColumn<QString>("format");
+    QTest::addColumn<int>("patience"); // in reports; of the whole work's when negative, from its end
+    for (const char* format : {"csv", "kml", "gpx"}) {
+        QTest::addRow("%s, at once", format) << format << 0;
+        QTest::addRow("%s, halfway", format) << format << 3;
+        QTest::addRow("%s, at the end", format) << format << -1;
+    }
+}
+
+void TestExportCancel::cancelled()
+{
+    QFETCH(QString, format);
+    QFETCH(int, patience);
+    Impatient patient(std::numeric_limits<int>::max());
+    QVERIFY(write(format, patient));
+    QVERIFY2(patient.reports > 4 && !patient.fellBack && patient.last > 80, qPrintable(QString::number(patient.last)));
+    putFile(target(), "of yesterday");
+    Impatient impatient(patience < 0 ? patient.reports + patience : patience);
+    QVERIFY(!write(format, impatient));
+    QVERIFY(impatient.reports <= patient.reports);
+    QCOMPARE(fileContent(target()), std::string("of yesterday"));
+    QCOMPARE(entryCount(mFolder.path().toStdString()), 1L);
+}
+
+void TestExportCancel::viewsMayDecodeMeanwhile_data()
+{
+    QTest::addColumn<QString>("format");
+    QTest::newRow("csv") << "csv";
+    QTest::newRow("kml") << "kml";
+}
+
+void TestExportCancel::viewsMayDecodeMeanwhile()
+{
+    QFETCH(QString, format);
+    QVERIFY(write(format, nullProgress()));
+    const std::string expected = fileContent(target());
+    Impatient disturbing(std::numeric_limits<int>::max());
+    disturbing.whenTold = [this] {
+        for (int i = 0; i < 9; ++i) // a place far away, which the next ones would be jumps from
+            mCycle.profile.calcCoordinateLat(100 * i), mCycle.profile.calcCoordinateLong(100 * i);
+    };
+    QVERIFY(write(format, disturbing));
+    QVERIFY(fileContent(target()) == expected);
+}
+
+QTEST_APPLESS_MAIN(TestExportCancel)
+#include "TestExportCancel.moc"

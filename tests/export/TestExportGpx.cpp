@@ -1,0 +1,146 @@
+#include "app/SafeFile.h"
+#include "export/ExportGpx.h"
+#include "support/CardBuilder.h"
+#include "support/FileHelpers.h"
+#include "support/ProfileBuilder.h"
+#include "support/TestCycle.h"
+
+#include <QDomDocument>
+#include <QProcess>
+#include <QTest>
+
+using namespace ZARN;
+using namespace ZARN::Test;
+
+namespace {
+
+/// A card whose unit flies north from 48 degrees, one minute of arc in ten seconds, and climbs a metre a second from 500 m.
+struct Track : TestCycle {
+    explicit Track(bool hasClock = true)
+    {
+        builder.unit("m", "ft", 2).unit("", "", 1).device("GPS").position("Latitude", 1036).position("Longitude", 1037);
+        builder.parameter("Height", 1038, "FLOAT", {{"zarnDataType", "Altitude"}, {"unitMetric", "m"}, {"unitImperial", "ft"}});
+        if (hasClock)
+            file.dateTime(QDateTime(QDate(2024, 12, 31), QTime(23, 59, 50), Qt::UTC));
+    }
+    Track& fix(double time, float latitude, float longitude)
+    {
+        file.addFloat(1036, time, latitude).addFloat(1037, time, longitude).addFloat(1038, time, static_cast<float>(500 + time));
+        return *this;
+    }
+    /// Straight ahead from one second to another.
+    Track& fly(int from, int to)
+    {
+        for (int second = from; second <= to; ++second)
+            fix(second, 4800.0F + static_cast<float>(second) / 10, 1100.0F);
+        return *this;
+    }
+    QByteArray write(EUnit unit = EUnit::eMetric)
+    {
+        profile.setCurrentUnit(unit);
+        if (!builder.load(profile) || !container.readContainer(card.write()) || !container.loadCycle(container.recordCycles().begin()->first, -1))
+            qFatal("the card cannot be loaded");
+        const std::string path = (card.path() + "/out.gpx").toStdString();
+        SafeFile target(path);
+        if (!ExportGpx(profile).exportData(container, target))
+            qFatal("nothing was written");
+        return QByteArray::fromStdString(fileContent(path));
+    }
+    ProfileBuilder builder;
+    CardBuilder card;
+    RecordFileBuilder& file = card.file("A & <B>.CAN");
+};
+
+QString validationErrors(const QByteArray& document)
+{
+    QProcess process;
+    process.start("xmllint", {"--noout", "--nonet", "--schema", ZARN_SOURCE_DIR "/tests/export/data/gpx-track.xsd", "-"});
+    process.write(document);
+    process.closeWriteChannel();
+    process.waitForFinished();
+    return process.exitCode() == 0 ? QString() : "not valid: " + process.readAllStandardError();
+}
+
+/// The points of all segments as "latitude longitude altitude time", segments divided by "|".
+QStringList points(const QByteArray& document)
+{
+    QDomDocument parsed;
+    parsed.setContent(document);
+    QStringList texts;
+    const QDomNodeList segments = parsed.elementsByTagName("trkseg");
+    for (int s = 0; s < segments.size(); ++s) {
+        if (s > 0)
+            texts << "|";
+        for (QDomElement e = segments.at(s).firstChildElement("trkpt"); !e.isNull(); e = e.nextSiblingElement("trkpt")) {
+            texts << QString("%1 %2 %3 %4").arg(e.attribute("lat").toDouble(), 0, 'f', 3).arg(e.attribute("lon").toDouble(), 0, 'f', 1)
+                         .arg(e.firstChildElement("ele").text(), e.firstChildElement("time").text());
+        }
+    }
+    return texts;
+}
+
+} // namespace
+
+/// The flight path as a GPX track.
+class TestExportGpx : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void track();
+    void unitsOfTheDisplayDoNotMatter();
+    void unitWithoutClock();
+    void pointsOffTheEarthDivideTheTrack();
+    void nothingRecorded();
+};
+
+void TestExportGpx::track()
+{
+    Track track;
+    const QByteArray document = track.fly(4, 24).write();
+    QCOMPARE(validationErrors(document), QString());
+    const QStringList all = points(document);
+    QVERIFY(all.size() >= 40);
+    QVERIFY2(all.contains("48.017 11.0 510.0 2025-01-01T00:00:00.000Z"), qPrintable(all.join('\n'))); // a minute of arc is a sixtieth of a degree
+    QVERIFY(all.contains("48.033 11.0 520.0 2025-01-01T00:00:10.000Z"));
+    QVERIFY(!all.contains("|"));
+}
+
+void TestExportGpx::unitsOfTheDisplayDoNotMatter()
+{
+    Track metric;
+    Track imperial;
+    const QStringList expected = points(metric.fly(4, 24).write());
+    QCOMPARE(points(imperial.fly(4, 24).write(EUnit::eImperial)), expected);
+    QVERIFY(imperial.profile.currentUnit() == EUnit::eImperial);
+    QCOMPARE(imperial.container.flightPath().back().altitude, 2 * metric.container.flightPath().back().altitude);
+}
+
+void TestExportGpx::unitWithoutClock()
+{
+    Track track(false);
+    const QByteArray document = track.fly(4, 24).write();
+    QCOMPARE(validationErrors(document), QString());
+    QVERIFY(!document.contains("<time>"));
+    QVERIFY(points(document).contains("48.017 11.0 510.0 "));
+}
+
+void TestExportGpx::pointsOffTheEarthDivideTheTrack()
+{
+    Track track;
+    // Before its fifth fix a receiver may say anything.
+    const QByteArray document = track.fly(2, 3).fix(4, 4800.0F, 20000.0F).fly(5, 20).write();
+    QCOMPARE(validationErrors(document), QString());
+    QCOMPARE(points(document).count("|"), 1);
+}
+
+void TestExportGpx::nothingRecorded()
+{
+    Track track;
+    track.file.addFloat(1038, 1, 500).addFloat(1038, 9, 500);
+    const QByteArray document = track.write();
+    QCOMPARE(validationErrors(document), QString());
+    QVERIFY(points(document).isEmpty());
+}
+
+QTEST_APPLESS_MAIN(TestExportGpx)
+#include "TestExportGpx.moc"

@@ -1,0 +1,309 @@
+#include "app/Property.h"
+#include "export/ui/ColourButton.h"
+#include "export/ui/DialogExportCsv.h"
+#include "export/ui/DialogExportKml.h"
+#include "export/ui/ExportProgress.h"
+#include "project/Project.h"
+#include "support/FileHelpers.h"
+#include "support/ProfileBuilder.h"
+#include "support/TestCycle.h"
+#include "ui/main/Answer.h"
+
+#include <QColorDialog>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSpinBox>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace ZARN;
+using namespace ZARN::Test;
+
+namespace {
+
+/// The wizards over settings of their own; a second fixture over the same folder is the next start of the program.
+struct Wizards : TestCycle {
+    explicit Wizards(const QString& folder)
+    {
+        property.setConfigFile((folder + "/ZARN.ini").toStdString());
+        property.readXmlFile();
+        session.emplace(Session{console, property, profile, container, project});
+    }
+    Property property{console};
+    Project project{console, profile};
+    std::optional<Session> session;
+};
+
+QWizard* wizard(QWidget* pModal)
+{
+    auto* pWizard = qobject_cast<QWizard*>(pModal);
+    if (!pWizard)
+        qFatal("%s is no wizard", qPrintable(pModal->windowTitle()));
+    return pWizard;
+}
+
+void press(QWizard* pWizard, QWizard::WizardButton button)
+{
+    QTest::mouseClick(pWizard->button(button), Qt::LeftButton);
+}
+
+/// Types over what an entry holds.
+void type(QWidget* pWindow, const char* entry, const QString& text)
+{
+    auto* pEntry = pWindow->findChild<QLineEdit*>(entry);
+    pEntry->setFocus();
+    pEntry->selectAll();
+    QTest::keyClicks(pEntry, text);
+}
+
+void chooseLast(QWidget* pWindow, const char* list)
+{
+    QTest::keyClick(pWindow->findChild<QComboBox*>(list), Qt::Key_End);
+}
+
+QString warning(QWidget* pWindow)
+{
+    return qobject_cast<QWizard*>(pWindow)->currentPage()->findChild<QLabel*>("warning")->text();
+}
+
+} // namespace
+
+/// The export wizards as their user meets them.
+class TestDialogExport : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { mFolder.emplace(); }
+    void csvRemembers();
+    void csvCancelled();
+    void csvSettingsThatNoListOffers();
+    void paths_data();
+    void paths();
+    void existingFileIsAskedAboutOnce();
+    void kmlDefaults();
+    void kmlRemembers();
+    void kmlCancelled();
+    void progressIsSeenAndCancelled();
+
+private:
+    QString folder() const { return mFolder->path(); }
+    std::optional<QTemporaryDir> mFolder;
+};
+
+void TestDialogExport::csvRemembers()
+{
+    CsvExportOptions options{".", "ExportZarn.csv"};
+    Wizards first(folder());
+    Answer answer([&](QWidget* pModal) {
+        QCOMPARE(pModal->findChild<QLineEdit*>("fileName")->text(), QString("ExportZarn.csv"));
+        type(pModal, "directory", folder());
+        type(pModal, "fileName", "a b.csv");
+        press(wizard(pModal), QWizard::NextButton);
+        chooseLast(pModal, "limiter");
+        chooseLast(pModal, "resolution");
+        chooseLast(pModal, "parameters");
+        QVERIFY(!warning(pModal).isEmpty()); // nothing is loaded
+        press(wizard(pModal), QWizard::FinishButton);
+    });
+    QVERIFY(DialogExportCsv(*first.session).getOptions(options));
+    QVERIFY(options.directory == folder() && options.fileName == "a b.csv");
+    QVERIFY(options.separator == '\t' && options.resolution == 10 && !options.allParameters);
+
+    Wizards next(folder());
+    QCOMPARE(next.property.getString("CsvExportDir", ""), folder().toStdString());
+    QCOMPARE(next.property.getInt("CsvLimiter", 0), 9);
+    CsvExportOptions again{".", "ExportZarn.csv"};
+    Answer second([&](QWidget* pModal) {
+        QCOMPARE(pModal->findChild<QLineEdit*>("directory")->text(), folder());
+        press(wizard(pModal), QWizard::NextButton);
+        press(wizard(pModal), QWizard::FinishButton);
+    });
+    QVERIFY(DialogExportCsv(*next.session).getOptions(again));
+    QVERIFY(again.fileName == "ExportZarn.csv" && again.separator == '\t' && again.resolution == 10 && !again.allParameters);
+}
+
+void TestDialogExport::csvCancelled()
+{
+    CsvExportOptions options{folder(), "ExportZarn.csv"};
+    Wizards wizards(folder());
+    Answer answer([&](QWidget* pModal) {
+        type(pModal, "directory", folder());
+        press(wizard(pModal), QWizard::NextButton);
+        chooseLast(pModal, "limiter");
+        QTest::keyClick(pModal, Qt::Key_Escape);
+    });
+    QVERIFY(!DialogExportCsv(*wizards.session).getOptions(options));
+    QCOMPARE(options.separator, ';');
+    QCOMPARE(wizards.property.getInt("CsvLimiter", -1), -1);
+    QCOMPARE(entryCount(folder().toStdString()), 0L);
+}
+
+void TestDialogExport::csvSettingsThatNoListOffers()
+{
+    Wizards wizards(folder());
+    wizards.property.setInt("CsvLimiter", 'x');
+    wizards.property.setInt("CsvResolution", -5);
+    wizards.property.setString("CsvExportDir", folder().toStdString());
+    CsvExportOptions options{".", "out.csv", '\t', true, 10};
+    Answer answer([&](QWidget* pModal) {
+        press(wizard(pModal), QWizard::NextButton);
+        press(wizard(pModal), QWizard::FinishButton);
+    });
+    QVERIFY(DialogExportCsv(*wizards.session).getOptions(options));
+    QVERIFY(options.separator == ';' && options.resolution == 100);
+}
+
+void TestDialogExport::paths_data()
+{
+    QTest::addColumn<QString>("directory"); // "~" stands for the test's folder
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("problem"); // empty: the user may not even try
+    QTest::newRow("missing folder") << "~/no <b>where</b>" << "a.csv" << "/no <b>where</b> does not exist";
+    QTest::newRow("file for a folder") << "~/file" << "a.csv" << "is no folder";
+    QTest::newRow("folder for a file") << "~" << "sub" << "is a folder, not a file";
+    QTest::newRow("folder in the name") << "~" << "sub/a.csv" << "cannot hold";
+    QTest::newRow("nothing may be written") << "/proc" << "a.csv" << "Nothing can be written to the folder /proc";
+    QTest::newRow("no name") << "~" << " " << "";
+    QTest::newRow("no folder") << " " << "a.csv" << "";
+}
+
+void TestDialogExport::paths()
+{
+    QFETCH(QString, directory);
+    QFETCH(QString, name);
+    QFETCH(QString, problem);
+    putFile(folder().toStdString() + "/file", "");
+    std::filesystem::create_directory(folder().toStdString() + "/sub");
+    Wizards wizards(folder());
+    CsvExportOptions options{".", "out.csv"};
+    Answer answer([&](QWidget* pModal) {
+        type(pModal, "directory", directory.replace('~', folder()));
+        type(pModal, "fileName", name);
+        QCOMPARE(wizard(pModal)->button(QWizard::NextButton)->isEnabled(), !problem.isEmpty());
+        press(wizard(pModal), QWizard::NextButton);
+        QVERIFY2(warning(pModal).contains(problem), qPrintable(warning(pModal)));
+        QVERIFY(wizard(pModal)->currentPage()->findChild<QLineEdit*>("directory")); // still there
+        pModal->close();
+    });
+    QVERIFY(!DialogExportCsv(*wizards.session).getOptions(options));
+    QCOMPARE(entryCount(folder().toStdString()), 2L);
+}
+
+void TestDialogExport::existingFileIsAskedAboutOnce()
+{
+    putFile(folder().toStdString() + "/out.csv", "of yesterday");
+    Wizards wizards(folder());
+    wizards.property.setString("CsvExportDir", folder().toStdString());
+    CsvExportOptions options{".", "out.csv"};
+    Answer answer([&](QWidget* pModal) {
+        const QWizardPage* pFirst = wizard(pModal)->currentPage();
+        {
+            Answer no(Answer::press("&No"));
+            press(wizard(pModal), QWizard::NextButton);
+            QVERIFY(no.text.contains("out.csv exists already"));
+        }
+        QVERIFY(wizard(pModal)->currentPage() == pFirst);
+        {
+            Answer yes(Answer::press("&Yes"));
+            press(wizard(pModal), QWizard::NextButton);
+            QVERIFY(!yes.text.isEmpty());
+        }
+        QVERIFY(wizard(pModal)->currentPage() != pFirst);
+        press(wizard(pModal), QWizard::BackButton);
+        press(wizard(pModal), QWizard::NextButton); // a question would wait for ever
+        press(wizard(pModal), QWizard::FinishButton);
+    });
+    QVERIFY(DialogExportCsv(*wizards.session).getOptions(options));
+    QCOMPARE(fileContent(folder().toStdString() + "/out.csv"), std::string("of yesterday"));
+}
+
+void TestDialogExport::kmlDefaults()
+{
+    Wizards wizards(folder());
+    wizards.property.setString("KmlExportDir", folder().toStdString());
+    KmlExportOptions options;
+    options.fileName = "Card.kml";
+    Answer answer([](QWidget* pModal) {
+        press(wizard(pModal), QWizard::NextButton);
+        press(wizard(pModal), QWizard::NextButton);
+        press(wizard(pModal), QWizard::FinishButton);
+    });
+    QVERIFY(DialogExportKml(*wizards.session).getOptions(options));
+    QCOMPARE(answer.title, QString("KML Export"));
+    KmlExportOptions defaults;
+    Property expected(wizards.console);
+    defaults.directory = folder().toStdString();
+    defaults.write(expected);
+    for (const char* key : {"KmlExportDir", "KmlTimeStamp", "KmlLineWidth", "KmlLineColor", "KmlLineAlpha", "KmlPolygonOn", "KmlPolygonColor",
+                            "KmlPolygonAlpha", "KmlPlaceMarkOn", "KmlPlaceMarkIntervall", "KmlPlaceMarkColor", "KmlErrorMarkOn",
+                            "KmlShowLimit", "KmlShowWarning", "KmlErrorMarkColor"})
+        QCOMPARE(wizards.property.getString(key, "unset"), expected.getString(key, "none"));
+    QCOMPARE(options.fileName, std::string("Card.kml"));
+}
+
+void TestDialogExport::kmlRemembers()
+{
+    Wizards first(folder());
+    first.property.setString("KmlExportDir", folder().toStdString());
+    KmlExportOptions options;
+    options.fileName = "Card.kml";
+    Answer answer([](QWidget* pModal) {
+        const auto spin = [&](const char* name, const char* number) {
+            auto* pSpin = pModal->findChild<QSpinBox*>(name);
+            pSpin->selectAll();
+            QTest::keyClicks(pSpin, number);
+        };
+        press(wizard(pModal), QWizard::NextButton);
+        spin("timeStamp", "5");
+        spin("lineWidth", "4");
+        Answer colour([](QWidget* pChooser) {
+            auto* pDialog = qobject_cast<QColorDialog*>(pChooser);
+            pDialog->setCurrentColor(QColor(1, 2, 3, 51));
+            QTest::keyClick(pDialog, Qt::Key_Return);
+        });
+        QTest::mouseClick(pModal->findChild<ColourButton*>("lineColour"), Qt::LeftButton);
+        QCOMPARE(colour.title, QString("Select Line Color"));
+        QTest::keyClick(pModal->findChild<QGroupBox*>("polygon"), Qt::Key_Space);
+        press(wizard(pModal), QWizard::NextButton);
+        spin("interval", "77");
+        QTest::keyClick(pModal->findChild<QGroupBox*>("placeMarks"), Qt::Key_Space);
+        QTest::keyClick(pModal->findChild<QWidget*>("warnings"), Qt::Key_Space);
+        press(wizard(pModal), QWizard::FinishButton);
+    });
+    QVERIFY(DialogExportKml(*first.session).getOptions(options));
+    Wizards next(folder());
+    KmlExportOptions stored;
+    stored.read(next.property);
+    for (const KmlExportOptions& got : {options, stored}) {
+        QVERIFY(got.timeStamp == 5 && got.lineWidth == 4 && got.lineColor == "010203" && got.lineAlpha == 51);
+        QVERIFY(!got.polygonOn && got.polygonColor == "0000ff" && got.polygonAlpha == 100);
+        QVERIFY(!got.placeMarkOn && got.placeMarkInterval == 77 && got.errorMarkOn && got.showLimit && !got.showWarning);
+    }
+}
+
+void TestDialogExport::kmlCancelled()
+{
+    Wizards wizards(folder());
+    KmlExportOptions options;
+    Answer answer([](QWidget* pModal) { press(wizard(pModal), QWizard::CancelButton); });
+    QVERIFY(!DialogExportKml(*wizards.session).getOptions(options));
+    QCOMPARE(wizards.property.getString("KmlLineColor", "unset"), std::string("unset"));
+    QCOMPARE(entryCount(folder().toStdString()), 0L);
+}
+
+void TestDialogExport::progressIsSeenAndCancelled()
+{
+    ExportProgress progress("Writing ...", nullptr);
+    Answer answer([](QWidget* pModal) { QTest::mouseClick(pModal->findChild<QAbstractButton*>(), Qt::LeftButton); });
+    QElapsedTimer since;
+    since.start();
+    while (!progress.isCancelled() && since.elapsed() < 10000)
+        progress.setProgress(static_cast<int>(since.elapsed() / 100));
+    QVERIFY(progress.isCancelled());
+    QVERIFY(!answer.title.isEmpty());
+}
+
+QTEST_MAIN(TestDialogExport)
+#include "TestDialogExport.moc"
