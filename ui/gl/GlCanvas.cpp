@@ -20,7 +20,11 @@ VESK::OpenGL::LineStyle lineStyle(const CanvasPen& pen)
 
 } // namespace
 
-GlCanvas::GlCanvas() = default;
+GlCanvas::GlCanvas(std::unique_ptr<VESK::OpenGL::Device> pDevice)
+    : mpDevice(pDevice ? std::move(pDevice) : std::make_unique<VESK::OpenGL::Device>()), mDevice(*mpDevice)
+{
+}
+
 GlCanvas::~GlCanvas() = default;
 
 bool GlCanvas::init()
@@ -38,14 +42,16 @@ void GlCanvas::begin(const QSize& size, double ratio, const QColor& background)
     mState.emplace();
     ++mFrame;
     mClip.reset();
+    mClipChanged = false;
     mSavedClips.clear();
+    mStripsPending = false;
     mDevice.begin(size, ratio);
     mDevice.clear(background);
 }
 
 void GlCanvas::end()
 {
-    mDevice.end();
+    ready().end();
     forgetImages();
     mState.reset();
 }
@@ -66,11 +72,9 @@ void GlCanvas::pop()
     mDevice.matrix().MatrixPop();
     if (mSavedClips.empty())
         return;
-    const bool isChanged = mClip != mSavedClips.back();
+    mClipChanged = mClipChanged || mClip != mSavedClips.back();
     mClip = mSavedClips.back();
     mSavedClips.pop_back();
-    if (isChanged)
-        applyClip();
 }
 
 void GlCanvas::translate(double x, double y)
@@ -92,7 +96,55 @@ void GlCanvas::clip(const QRectF& rect)
 {
     const QRectF box = mapped(rect);
     mClip = mClip ? mClip->intersected(box) : box;
-    applyClip();
+    mClipChanged = true;
+}
+
+VESK::OpenGL::Device& GlCanvas::ready()
+{
+    if (mStripsPending) {
+        // The strips were clipped when they were drawn into their image.
+        mStripsPending = false;
+        mDevice.setNoClip();
+        mClipChanged = true;
+        if (mStripTexture.size() != mStrips.image().size())
+            mStripTexture.setImage(mStrips.image());
+        else
+            mStripTexture.setImagePart(mStrips.image(), mStrips.used());
+        const QRect used = mStrips.used();
+        const double pixel = 1.0 / mDevice.ratio();
+        mDevice.matrix().MatrixPush();
+        mDevice.matrix().MatrixSet(QTransform());
+        mStripTexture.drawPart(mDevice, QRectF(used.x() * pixel, used.y() * pixel, used.width() * pixel, used.height() * pixel), used);
+        mDevice.matrix().MatrixPop();
+        mDevice.flush();
+    }
+    if (mClipChanged)
+        applyClip();
+    mClipChanged = false;
+    return mDevice;
+}
+
+bool GlCanvas::takesStrip(std::span<const QPointF> points, const CanvasPen& pen) const
+{
+    constexpr std::size_t kLong = 64;
+    return mDevice.isSoftware() && points.size() >= kLong && !pen.smooth && pen.dash <= 0 && pen.colour.alpha() == 255
+           && pen.width * mDevice.ratio() <= 8.0;
+}
+
+void GlCanvas::addToStrips(std::span<const QPointF> points, const CanvasPen& pen)
+{
+    const double ratio = mDevice.ratio();
+    if (!mStripsPending)
+        mStrips.setSize((QSizeF(mDevice.size()) * ratio).toSize());
+    mStripsPending = true;
+    std::vector<QPointF> pixels;
+    pixels.reserve(points.size());
+    for (const QPointF& point : points)
+        pixels.push_back((mDevice.matrix().map(point) + QPointF(0.5, 0.5)) * ratio - QPointF(0.5, 0.5));
+    const QRectF clip = mClip.value_or(QRectF(QPointF(), QSizeF(mDevice.size())));
+    const QRect inside(QPoint(qRound(clip.left() * ratio), qRound(clip.top() * ratio)),
+                       QPoint(qRound(clip.right() * ratio) - 1, qRound(clip.bottom() * ratio) - 1));
+    mStrips.addStrip(pixels, pen.colour, std::max(1, qRound(pen.width * ratio)), inside);
 }
 
 void GlCanvas::applyClip()
@@ -109,15 +161,17 @@ void GlCanvas::lines(std::span<const QPointF> points, const CanvasPen& pen)
     lines.setStyle(lineStyle(pen));
     for (std::size_t i = 0; i + 1 < points.size(); i += 2)
         lines.addLine(points[i].x(), points[i].y(), points[i + 1].x(), points[i + 1].y());
-    lines.draw(mDevice);
+    lines.draw(ready());
 }
 
 void GlCanvas::lineStrip(std::span<const QPointF> points, const CanvasPen& pen)
 {
+    if (takesStrip(points, pen))
+        return addToStrips(points, pen);
     VESK::OpenGL::LineStripsSimple strip;
     strip.setStyle(lineStyle(pen));
     strip.addStrip(points);
-    strip.draw(mDevice);
+    strip.draw(ready());
 }
 
 void GlCanvas::lineStrip(std::span<const QPointF> points, std::span<const QColor> colours, const CanvasPen& pen)
@@ -127,7 +181,7 @@ void GlCanvas::lineStrip(std::span<const QPointF> points, std::span<const QColor
     strip.setVertexColours(true);
     for (std::size_t i = 0; i < std::min(points.size(), colours.size()); ++i)
         strip.addVertex(points[i], colours[i]);
-    strip.draw(mDevice);
+    strip.draw(ready());
 }
 
 void GlCanvas::fillRect(const QRectF& rect, const QColor& colour)
@@ -135,12 +189,12 @@ void GlCanvas::fillRect(const QRectF& rect, const QColor& colour)
     VESK::OpenGL::TriangleStrip strip;
     strip.setColour(colour);
     strip.setRect(rect);
-    strip.draw(mDevice);
+    strip.draw(ready());
 }
 
 void GlCanvas::triangles(std::span<const QPointF> points, const QColor& colour)
 {
-    VESK::OpenGL::TriangleStrip::drawTriangles(mDevice, points, colour);
+    VESK::OpenGL::TriangleStrip::drawTriangles(ready(), points, colour);
 }
 
 void GlCanvas::text(const QPointF& position, const QString& text, const CanvasText& style)
@@ -148,6 +202,7 @@ void GlCanvas::text(const QPointF& position, const QString& text, const CanvasTe
     VESK::OpenGL::TextureFont* pFont = style.bold ? mpBold : mpRegular;
     if (!pFont || !std::isfinite(position.x()) || !std::isfinite(position.y()))
         return;
+    ready();
     pFont->setColour(style.colour);
     pFont->setSize(std::round(style.size));
     const QPointF origin = textOrigin(position, text, style);
@@ -168,7 +223,7 @@ void GlCanvas::image(const QRectF& target, const QImage& image)
         kept.texture->setImage(image, true);
     }
     kept.lastFrame = mFrame;
-    kept.texture->draw(mDevice, target);
+    kept.texture->draw(ready(), target);
 }
 
 } // namespace ZARN

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/canvas/Canvas.h"
+#include "ui/canvas/StripImage.h"
 #include "vesk/gl/Device.h"
 #include "vesk/gl/StateScope.h"
 #include "vesk/gl/TextureFont.h"
@@ -13,14 +14,15 @@ namespace ZARN {
 /// between begin() and end(); whatever else uses the context finds its state unchanged then.
 class GlCanvas : public Canvas {
 public:
-    GlCanvas();
+    /// @param pDevice what it draws through; without one, shaders
+    explicit GlCanvas(std::unique_ptr<VESK::OpenGL::Device> pDevice = nullptr);
     ~GlCanvas() override;
 
     /// Compiles shaders and loads fonts. @return false when the context cannot draw; error() says why.
     bool init();
     [[nodiscard]] const QString& error() const { return mDevice.error(); }
     /// The library's own drawing, for what a canvas does not offer (map tiles).
-    [[nodiscard]] VESK::OpenGL::Device& device() { return mDevice; }
+    [[nodiscard]] VESK::OpenGL::Device& device() { return ready(); }
     [[nodiscard]] VESK::OpenGL::TextureFonts& fonts() { return mFonts; }
 
     /// @param size of the view in its own pixels  @param ratio pixels of the screen for each of them
@@ -46,16 +48,25 @@ private:
         int lastFrame = 0;
     };
     [[nodiscard]] QRectF mapped(const QRectF& rect) const;
+    [[nodiscard]] bool takesStrip(std::span<const QPointF> points, const CanvasPen& pen) const;
+    void addToStrips(std::span<const QPointF> points, const CanvasPen& pen);
+    /// Brings strips and clipping to the device: called before everything else that is drawn.
+    VESK::OpenGL::Device& ready();
     void applyClip();
     void forgetImages();
 
-    mutable VESK::OpenGL::Device mDevice;
+    std::unique_ptr<VESK::OpenGL::Device> mpDevice;
+    VESK::OpenGL::Device& mDevice;
     VESK::OpenGL::TextureFonts mFonts;
     VESK::OpenGL::TextureFont* mpRegular = nullptr;
     VESK::OpenGL::TextureFont* mpBold = nullptr;
     std::optional<VESK::OpenGL::StateScope> mState;
     std::optional<QRectF> mClip; // in pixels of the view
     std::vector<std::optional<QRectF>> mSavedClips;
+    bool mClipChanged = false;
+    StripImage mStrips; // long thin strips are drawn here where the driver is software, and go to the device together
+    VESK::OpenGL::Texture mStripTexture;
+    bool mStripsPending = false;
     std::map<qint64, KeptImage> mImages;
     int mFrame = 0;
 };

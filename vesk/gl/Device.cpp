@@ -28,13 +28,13 @@ Device::Device() = default;
 
 Device::~Device()
 {
-    if (!mpGl || !QOpenGLContext::currentContext())
+    if (mVertexArray == 0 || !QOpenGLContext::currentContext())
         return;
     mpGl->glDeleteVertexArrays(1, &mVertexArray);
     mpGl->glDeleteBuffers(1, &mBuffer);
 }
 
-bool Device::init()
+bool Device::useContext()
 {
     QOpenGLContext* pContext = QOpenGLContext::currentContext();
     if (!pContext) {
@@ -43,6 +43,13 @@ bool Device::init()
     }
     mpGl = pContext->extraFunctions();
     mIsSoftware = isSoftwareRenderer(*mpGl);
+    return true;
+}
+
+bool Device::init()
+{
+    if (!useContext())
+        return false;
     mpMask = buildProgram(EShading::eMask, mError);
     mpImage = buildProgram(EShading::eImage, mError);
     if (mpMask && mpImage)
@@ -89,7 +96,8 @@ void Device::end()
 {
     flush();
     setNoClip();
-    mpGl->glBindVertexArray(0);
+    if (mVertexArray != 0)
+        mpGl->glBindVertexArray(0);
     mpGl->glUseProgram(0);
 }
 
@@ -146,17 +154,22 @@ void Device::flush()
 {
     if (mVertices.empty())
         return;
-    QOpenGLShaderProgram& program = mBatch.shading == EShading::eMask ? *mpMask : mBatch.shading == EShading::eImage ? *mpImage : *mpPlain;
-    program.bind();
-    program.setUniformValue("size", QSizeF(mSize));
-    if (mBatch.texture != 0)
-        mpGl->glBindTexture(GL_TEXTURE_2D, mBatch.texture);
-    mpGl->glBindVertexArray(mVertexArray);
-    mpGl->glBindBuffer(GL_ARRAY_BUFFER, mBuffer);
-    mpGl->glBufferData(GL_ARRAY_BUFFER, static_cast<GLsizeiptr>(mVertices.size() * sizeof(Vertex)), mVertices.data(), GL_STREAM_DRAW);
-    mpGl->glDrawArrays(mBatch.mode, 0, static_cast<GLsizei>(mVertices.size()));
+    drawBatch(mBatch, mVertices);
     mVertices.clear();
     ++mDrawCalls;
+}
+
+void Device::drawBatch(const Batch& batch, std::span<const Vertex> vertices)
+{
+    QOpenGLShaderProgram& program = batch.shading == EShading::eMask ? *mpMask : batch.shading == EShading::eImage ? *mpImage : *mpPlain;
+    program.bind();
+    program.setUniformValue("size", QSizeF(mSize));
+    if (batch.texture != 0)
+        mpGl->glBindTexture(GL_TEXTURE_2D, batch.texture);
+    mpGl->glBindVertexArray(mVertexArray);
+    mpGl->glBindBuffer(GL_ARRAY_BUFFER, mBuffer);
+    mpGl->glBufferData(GL_ARRAY_BUFFER, static_cast<GLsizeiptr>(vertices.size_bytes()), vertices.data(), GL_STREAM_DRAW);
+    mpGl->glDrawArrays(batch.mode, 0, static_cast<GLsizei>(vertices.size()));
 }
 
 } // namespace VESK::OpenGL

@@ -31,20 +31,21 @@ enum class EShading {
 class Device {
 public:
     Device();
-    ~Device();
+    virtual ~Device();
     Device(const Device&) = delete;
     Device& operator=(const Device&) = delete;
 
     /// Compiles the shaders: GLSL 330 core, or ES 3 there. @return false when the context cannot draw; error() says why.
-    bool init();
-    [[nodiscard]] bool isReady() const { return mpPlain != nullptr; }
+    virtual bool init();
     [[nodiscard]] const QString& error() const { return mError; }
     /// Whether the driver draws with the processor: long line strips cost it far more than one image does.
     [[nodiscard]] bool isSoftware() const { return mIsSoftware; }
 
     /// Begins a frame: viewport, projection, blending. Wrap begin() to end() in a StateScope where others use the context too.
-    void begin(const QSize& size, double ratio);
-    void end();
+    virtual void begin(const QSize& size, double ratio);
+    virtual void end();
+    /// The format that masks have in the memory of the graphics card.
+    [[nodiscard]] virtual GLint maskFormat() const { return GL_R8; }
     /// Fills the whole viewport.
     void clear(const QColor& colour);
 
@@ -68,13 +69,21 @@ public:
     /// How many draw calls the frame has taken so far.
     [[nodiscard]] int drawCalls() const { return mDrawCalls; }
 
-private:
+protected:
+    /// What is drawn by one call.
     struct Batch {
         GLenum mode = GL_TRIANGLES;
         EShading shading = EShading::ePlain;
         GLuint texture = 0;
         bool operator==(const Batch&) const = default;
     };
+    virtual void drawBatch(const Batch& batch, std::span<const Vertex> vertices);
+    [[nodiscard]] QOpenGLExtraFunctions& functions() const { return *mpGl; }
+    /// Takes over the current context. @return false without one
+    bool useContext();
+    void setError(const QString& error) { mError = error; }
+
+private:
     void add(GLenum mode, EShading shading, GLuint texture, std::span<const Vertex> vertices);
     void setUpVertices();
 

@@ -5,8 +5,9 @@
 namespace VESK::OpenGL {
 
 StateScope::StateScope()
-    : mpGl(QOpenGLContext::currentContext()->extraFunctions()), mProgram(integer(GL_CURRENT_PROGRAM)),
-      mVertexArray(integer(GL_VERTEX_ARRAY_BINDING)), mBuffer(integer(GL_ARRAY_BUFFER_BINDING)), mUnit(integer(GL_ACTIVE_TEXTURE)),
+    : mpGl(QOpenGLContext::currentContext()->extraFunctions()),
+      mHasVertexArrays(QOpenGLContext::currentContext()->format().majorVersion() >= 3), mProgram(integer(GL_CURRENT_PROGRAM)),
+      mVertexArray(mHasVertexArrays ? integer(GL_VERTEX_ARRAY_BINDING) : 0), mBuffer(integer(GL_ARRAY_BUFFER_BINDING)), mUnit(integer(GL_ACTIVE_TEXTURE)),
       mAlignment(integer(GL_UNPACK_ALIGNMENT)), mRowLength(integer(GL_UNPACK_ROW_LENGTH))
 {
     for (std::size_t i = 0; i < kCapabilities.size(); ++i)
@@ -28,7 +29,8 @@ StateScope::~StateScope()
     mpGl->glPixelStorei(GL_UNPACK_ALIGNMENT, mAlignment);
     mpGl->glPixelStorei(GL_UNPACK_ROW_LENGTH, mRowLength);
     mpGl->glUseProgram(static_cast<GLuint>(mProgram));
-    mpGl->glBindVertexArray(static_cast<GLuint>(mVertexArray));
+    if (mHasVertexArrays)
+        mpGl->glBindVertexArray(static_cast<GLuint>(mVertexArray));
     mpGl->glBindBuffer(GL_ARRAY_BUFFER, static_cast<GLuint>(mBuffer));
     mpGl->glBlendFuncSeparate(static_cast<GLenum>(mBlend[0]), static_cast<GLenum>(mBlend[1]), static_cast<GLenum>(mBlend[2]),
                               static_cast<GLenum>(mBlend[3]));

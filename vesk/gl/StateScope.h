@@ -21,6 +21,7 @@ private:
 
     static constexpr std::array<GLenum, 5> kCapabilities{GL_BLEND, GL_DEPTH_TEST, GL_STENCIL_TEST, GL_SCISSOR_TEST, GL_CULL_FACE};
     QOpenGLExtraFunctions* mpGl;
+    bool mHasVertexArrays; // older compatibility contexts have none
     std::array<bool, kCapabilities.size()> mEnabled{};
     std::array<GLint, 4> mViewport{};
     std::array<GLint, 4> mScissor{};

@@ -36,7 +36,7 @@ void TextureFont::restart(Device& device)
     mGlyphs.clear();
     mNext = QPoint();
     mRowHeight = 0;
-    mTexture.setMask(QSize(kTextureSize, kTextureSize));
+    mTexture.setMask(QSize(kTextureSize, kTextureSize), device.maskFormat());
 }
 
 const TextureFont::Placed& TextureFont::placed(Device& device, char32_t character, int pixels)
