@@ -205,7 +205,8 @@ void GraphScene::drawMarker(Canvas& canvas) const
     const auto [start, end] = std::minmax({mModel.markerStart(), mModel.markerEnd()});
     const double left = std::clamp(mLayout.xOf(start), plot.left() - 2, plot.right() + 2);
     const double right = std::clamp(mLayout.xOf(end), plot.left() - 2, plot.right() + 2);
-    if (right < plot.left() || left > plot.right())
+    // Where it stands before anybody has set it, it is no marker.
+    if ((start == 0 && end == 0) || right < plot.left() || left > plot.right())
         return;
     canvas.push();
     canvas.clip(plot);
