@@ -1,5 +1,5 @@
 // zarn-bench [NAME ...] [Google Benchmark options]
-// Runs the benchmarks whose names begin with NAME (load, headers, decode, value, text, facts, csv; default all) and closes with their
+// Runs the benchmarks whose names begin with NAME (load, headers, decode, value, text, facts, csv, graph; default all) and closes with their
 // ratios to a floor measured in the same run.
 
 #include <benchmark/benchmark.h>
@@ -25,6 +25,10 @@ constexpr Ratio kRatios[] = {
     {"plain decoding loop / decoding a channel", "decode/floor", "decode/channel", 0.6},
     {"value in 10 M entries / in 1 M", "value/at/10000000/0", "value/at/1000000/0", 4.0},
     {"float cell / snprintf", "text/fixed", "text/snprintf", 0.12},
+    {"graph rebuild 30 x 10 M / scan", "graph/rebuild/10000000", "graph/scan/10000000", 0.2},
+    {"graph frame 30 x 1 M / plotting library", "graph/frame/1000000/1", "graph/library/1000000/1", 0.2},
+    {"graph frame 30 x 1 M, 60 s / library", "graph/frame/1000000/0", "graph/library/1000000/0", 0.2},
+    {"graph frame 30 x 10 M / plotting library", "graph/frame/10000000/1", "graph/library/10000000/1", 0.05},
 };
 
 /// Shows the runs as usual and remembers the least time of each benchmark.
