@@ -3,6 +3,7 @@
 #include "openstreet/core/TileId.h"
 
 #include <QByteArray>
+#include <QHash>
 #include <QString>
 
 #include <list>
