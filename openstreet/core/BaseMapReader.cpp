@@ -73,7 +73,7 @@ BaseMap::Line BaseMapReader::part()
     for (quint32 i = 0; i < points && mGood; ++i) {
         longitude += unfold(number());
         latitude += unfold(number());
-        mGood = mGood && std::abs(longitude) <= 360000 && std::abs(latitude) <= 180000;
+        mGood = mGood && std::abs(longitude) <= 720000 && std::abs(latitude) <= 180000;
         line.push_back(place(static_cast<int>(longitude), static_cast<int>(latitude)));
     }
     return line;
