@@ -23,8 +23,8 @@ pid %1/nginx.pid;
 error_log %1/error.log warn;
 events { worker_connections 64; }
 http {
-    access_log %1/access.log line;
     log_format line '$connection|$request_uri|$status|$http_user_agent|$http_if_none_match|$server_protocol|$http_cookie';
+    access_log %1/access.log line;
     client_body_temp_path %1/body; proxy_temp_path %1/proxy; fastcgi_temp_path %1/fastcgi; uwsgi_temp_path %1/uwsgi; scgi_temp_path %1/scgi;
     types { image/png png; text/html html; }
     keepalive_timeout 60;
@@ -32,7 +32,8 @@ http {
         listen 127.0.0.1:%2;
         root %1/root;
         etag on;
-        location /tiles/ { expires 1h; try_files $uri /any.png; }
+        expires 1h;
+        location /tiles/ { try_files $uri /any.png; }
         %3
     }
 }
@@ -52,6 +53,7 @@ TileHost::TileHost(const QString& rules) : mPort(freePort())
     const QString program = QFileInfo::exists(QStringLiteral("/usr/sbin/nginx")) ? QStringLiteral("/usr/sbin/nginx") : QStringLiteral("nginx");
     mProcess.start(program, {QStringLiteral("-p"), mFolder.path(), QStringLiteral("-e"), mFolder.filePath(QStringLiteral("error.log")),
                              QStringLiteral("-c"), file.fileName()});
+    mProcess.waitForStarted(5000);
     QElapsedTimer waiting;
     waiting.start();
     QTcpSocket probe;
