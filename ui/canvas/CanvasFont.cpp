@@ -50,6 +50,11 @@ QSizeF canvasTextSize(const QString& text, double size, bool)
     return {std::ceil(static_cast<double>(text.size()) * kAdvance * size), std::ceil(kLine * size)};
 }
 
+double canvasAdvance(double size)
+{
+    return kAdvance * size;
+}
+
 double canvasAscent(double size)
 {
     return std::round(kAscent * size);

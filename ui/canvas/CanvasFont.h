@@ -16,6 +16,9 @@ namespace ZARN {
 /// that a layout does not depend on what draws it.
 [[nodiscard]] QSizeF canvasTextSize(const QString& text, double size, bool bold);
 
+/// Width of each character in pixels.
+[[nodiscard]] double canvasAdvance(double size);
+
 /// Depth of the base line below the top of the box of a text.
 [[nodiscard]] double canvasAscent(double size);
 
