@@ -1,5 +1,5 @@
 // zarn-bench [NAME ...] [Google Benchmark options]
-// Runs the benchmarks whose names begin with NAME (load, headers, decode, value, text, facts, csv; default all) and closes with their
+// Runs the benchmarks whose names begin with NAME (load, headers, decode, value, text, facts, csv, map; default all) and closes with their
 // ratios to a floor measured in the same run.
 
 #include <benchmark/benchmark.h>
@@ -25,6 +25,7 @@ constexpr Ratio kRatios[] = {
     {"plain decoding loop / decoding a channel", "decode/floor", "decode/channel", 0.6},
     {"value in 10 M entries / in 1 M", "value/at/10000000/0", "value/at/1000000/0", 4.0},
     {"float cell / snprintf", "text/fixed", "text/snprintf", 0.12},
+    {"map frame with a path of 200,000 points / without", "map/frame/1", "map/frame/0", 2.0},
 };
 
 /// Shows the runs as usual and remembers the least time of each benchmark.

@@ -85,6 +85,7 @@ void WidgetMap::allowTiles()
 {
     const QString& server = mMap.tileServer().address();
     mMap.setTilesAllowed(!mScene.path().isEmpty() && TileConsent(mSession.property).answer(server) == TileConsent::eYes);
+    mScene.setGraticule(!mMap.areTilesAllowed());
     updateNote();
     mIsDirty = true;
 }

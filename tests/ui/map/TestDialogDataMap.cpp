@@ -325,7 +325,7 @@ void TestDialogDataMap::touches()
     QTest::touchEvent(&map, device.get()).move(0, {330, 300}).move(1, {470, 300});
     QTest::touchEvent(&map, device.get()).move(0, {320, 320}).move(1, {520, 320}); // twice as far apart, the middle moved by (20, 20)
     QTest::touchEvent(&map, device.get()).release(0, {320, 320}).release(1, {520, 320});
-    QCOMPARE(map.navigator().camera().horizontalRange() / range, 0.5);
+    QVERIFY(std::fabs(map.navigator().camera().horizontalRange() / range - 0.5) < 1e-3); // the middle has moved to the north a little
     double x = 0, y = 0;
     map.latLong2Window(place.latitude, place.longitude, &x, &y);
     QVERIFY(std::hypot(x - 420, y - 320) < 1.0);
@@ -347,7 +347,10 @@ void TestDialogDataMap::followsTheAircraft()
     window.map().latLong2Window(late.latitude, late.longitude, &x, &y);
     QVERIFY(std::hypot(x - window.map().width() / 2.0, y - window.map().height() / 2.0) < 1.0);
     window.picture("following");
-    QTest::mouseClick(window.tools()->findChild<QToolButton*>(QString(), Qt::FindChildrenRecursively), Qt::LeftButton);
+    for (QToolButton* pButton : window.tools()->findChildren<QToolButton*>()) {
+        if (pButton->isCheckable())
+            QTest::mouseClick(pButton, Qt::LeftButton);
+    }
     QVERIFY(!window.isCentring());
     const double longitude = window.map().navigator().camera().position().longitude;
     window.dialog->setTime(points.front().time);
