@@ -78,8 +78,8 @@ struct Window {
     WidgetMap& map() { return *dialog->mapWidget(); }
     void settle()
     {
-        QTRY_VERIFY(!map().navigator().isMoving());
-        QTRY_COMPARE(map().map().nrLoadingTiles(), 0);
+        QTRY_VERIFY_WITH_TIMEOUT(!map().navigator().isMoving(), 20000);
+        QTRY_COMPARE_WITH_TIMEOUT(map().map().nrLoadingTiles(), 0, 20000);
         QTest::qWait(100);
     }
     /// The next start of the program.
