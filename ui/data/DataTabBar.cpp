@@ -8,7 +8,8 @@ namespace ZARN {
 namespace {
 
 constexpr int kIcon = 32;
-constexpr int kMargin = 10; // left and right of the title
+constexpr int kMargin = 6; // left and right of the title
+constexpr int kTextSize = 12;
 constexpr int kAbove = 5;
 constexpr int kBelow = 6; // the style's line under the selected tab
 constexpr int kMostShown = 99;
@@ -39,6 +40,7 @@ int DataTabBar::countOf(int index) const
 QFont DataTabBar::titleFont(bool selected) const
 {
     QFont title = font();
+    title.setPixelSize(kTextSize);
     title.setBold(selected);
     return title;
 }

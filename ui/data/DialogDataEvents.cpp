@@ -62,6 +62,7 @@ void DialogDataEvents::createTable(const QString& title)
     mpTable->setStyleSheet("selection-background-color: rgba(100, 100, 255, 255);");
     mpTable->setTabKeyNavigation(false);
     mpTable->setWordWrap(false);
+    mpTable->setTextElideMode(Qt::ElideLeft); // name and value tell more than the group
     mpTable->verticalHeader()->hide();
     mpTable->verticalHeader()->setMinimumSectionSize(kRowHeight);
     mpTable->verticalHeader()->setDefaultSectionSize(kRowHeight);
@@ -102,7 +103,9 @@ void DialogDataEvents::fillTable()
         const Event& event = events[static_cast<std::size_t>(row)];
         QTableWidgetItem* pTime = createItem(timeOfDayText(wholeMilliseconds(event.time)));
         pTime->setData(Qt::UserRole, timeData(event.time));
-        QTableWidgetItem* pText = createItem(QString::fromStdString(mEvents.text(event)));
+        const QString text = QString::fromStdString(mEvents.text(event));
+        QTableWidgetItem* pText = createItem(text);
+        pText->setToolTip("<qt>" + text.toHtmlEscaped() + "</qt>");
         if (event.colour.isValid()) {
             pText->setBackground(event.colour);
             pText->setForeground(QColor(event.colour.lightness() < 100 ? Qt::white : Qt::black)); // legible in every style

@@ -48,6 +48,7 @@ DialogDataTable::DialogDataTable(const Session& session, QWidget* pParent)
 
 void DialogDataTable::createView()
 {
+    mpView->setStyleSheet("QTableView { font-size: 11px; }"); // what fits the rows and the width of the time
     mpView->setItemDelegate(new TableCellDelegate(mpView));
     mpView->setSelectionBehavior(QAbstractItemView::SelectRows);
     mpView->setWordWrap(false);

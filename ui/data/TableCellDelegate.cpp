@@ -10,6 +10,7 @@ namespace ZARN {
 namespace {
 
 constexpr int kPadding = 4;
+constexpr int kWordPadding = 2;
 const QColor kMark(120, 0, 0);
 
 /// A bar at the left edge: a short one for a warning, the whole height for a limit.
@@ -41,7 +42,8 @@ void TableCellDelegate::paint(QPainter* pPainter, const QStyleOptionViewItem& op
         paintMark(*pPainter, option.rect, cell.state);
     if (cell.text.isEmpty())
         return;
-    const QRect room = option.rect.adjusted(kPadding, 0, -kPadding, 0);
+    const int padding = cell.isNumber ? kPadding : kWordPadding;
+    const QRect room = option.rect.adjusted(padding, 0, -padding, 0);
     // Half a number would be a wrong one: what does not fit ends with an ellipsis.
     const bool fits = option.fontMetrics.horizontalAdvance(cell.text) <= room.width();
     pPainter->setPen(textColour(option, ownGround, selected));

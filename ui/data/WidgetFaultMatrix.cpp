@@ -5,6 +5,7 @@
 #include "ui/data/WidgetErrorItem.h"
 #include "ui/data/WidgetErrorTime.h"
 
+#include <QEvent>
 #include <QHeaderView>
 #include <QLabel>
 #include <QTableWidget>
@@ -43,6 +44,7 @@ WidgetFaultMatrix::WidgetFaultMatrix(const CardContainer& container, QWidget* pP
 void WidgetFaultMatrix::createTable()
 {
     mpTable->setMinimumHeight(kTableHeight);
+    mpTable->viewport()->installEventFilter(this); // has its new width later than this panel
     mpTable->setRowHeight(0, kRowHeight);
     mpTable->verticalHeader()->hide();
     mpTable->setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -119,11 +121,11 @@ void WidgetFaultMatrix::layoutColumns()
         mpTable->setColumnWidth(column, width);
 }
 
-void WidgetFaultMatrix::resizeEvent(QResizeEvent* pEvent)
+bool WidgetFaultMatrix::eventFilter(QObject* pObject, QEvent* pEvent)
 {
-    QFrame::resizeEvent(pEvent);
-    layout()->activate(); // the table must have its new width
-    layoutColumns();
+    if (pObject == mpTable->viewport() && pEvent->type() == QEvent::Resize)
+        layoutColumns();
+    return QFrame::eventFilter(pObject, pEvent);
 }
 
 } // namespace ZARN

@@ -35,8 +35,8 @@ public:
     [[nodiscard]] const WidgetErrorItem& item(int bit) const { return *mItems[static_cast<std::size_t>(bit)]; }
     [[nodiscard]] const WidgetErrorTime& timeline() const { return *mpTimeline; }
 
-protected:
-    void resizeEvent(QResizeEvent* pEvent) override;
+    /// Sees the resizing of the bit table.
+    bool eventFilter(QObject* pObject, QEvent* pEvent) override;
 
 private:
     void createTable();

@@ -88,6 +88,7 @@ void WidgetReplayBar::createSpeed()
     mpSpeed->setPrefix(tr("Speed "));
     mpSpeed->setFixedWidth(kEntryWidth);
     mpSpeed->setKeyboardTracking(false);
+    mpSpeed->setStyleSheet("QDoubleSpinBox { padding-left: 4px; padding-right: 18px; }"); // "Speed 100.00" must fit
 }
 
 void WidgetReplayBar::connectControls()
