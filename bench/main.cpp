@@ -1,5 +1,5 @@
 // zarn-bench [NAME ...] [Google Benchmark options]
-// Runs the benchmarks whose names begin with NAME (load, headers, decode, value, text, facts, csv; default all) and closes with their
+// Runs the benchmarks whose names begin with NAME (load, headers, decode, value, text, facts, csv, table; default all) and closes with their
 // ratios to a floor measured in the same run.
 
 #include <benchmark/benchmark.h>
@@ -24,6 +24,8 @@ constexpr Ratio kRatios[] = {
     {"flights, path, events of 10 M records / load", "facts/cycle", "load/records/10/real_time", 1.0},
     {"plain decoding loop / decoding a channel", "decode/floor", "decode/channel", 0.6},
     {"value in 10 M entries / in 1 M", "value/at/10000000/0", "value/at/1000000/0", 4.0},
+    {"table of 100,000 x 40 ready / item widget", "table/open/100000/40/40/real_time", "table/items/real_time", 0.05},
+    {"table scroll step / item widget", "table/scroll/100000/40/40/real_time", "table/scrollItems/real_time", 1.1},
     {"float cell / snprintf", "text/fixed", "text/snprintf", 0.12},
 };
 
