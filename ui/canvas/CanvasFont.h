@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QByteArray>
+#include <QFont>
+#include <QSizeF>
+
+namespace ZARN {
+
+/// The file of the monospaced font that comes with the program, regular or bold.
+[[nodiscard]] QByteArray canvasFontFile(bool bold);
+
+/// The same for painters. @param size em height in pixels. Needs the QGuiApplication.
+[[nodiscard]] QFont canvasFont(double size, bool bold);
+
+/// Width and height of a text in pixels: every character is 0.65 em wide and a line is 1.22 em high. The same for all canvases, so
+/// that a layout does not depend on what draws it.
+[[nodiscard]] QSizeF canvasTextSize(const QString& text, double size, bool bold);
+
+/// Width of each character in pixels.
+[[nodiscard]] double canvasAdvance(double size);
+
+/// Depth of the base line below the top of the box of a text.
+[[nodiscard]] double canvasAscent(double size);
+
+} // namespace ZARN

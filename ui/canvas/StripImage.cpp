@@ -1,0 +1,118 @@
+#include "ui/canvas/StripImage.h"
+
+#include "app/Numeric.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+#include <limits>
+
+namespace ZARN {
+
+namespace {
+
+constexpr int kNothing = std::numeric_limits<int>::max();
+
+int pixel(double coordinate)
+{
+    return saturatingCast<int>(std::floor(std::clamp(coordinate, -1e7, 1e7)));
+}
+
+/// The bytes red, green, blue, alpha in this order in memory.
+uint32_t bytesOf(const QColor& colour)
+{
+    const uint8_t bytes[] = {static_cast<uint8_t>(colour.red()), static_cast<uint8_t>(colour.green()), static_cast<uint8_t>(colour.blue()), 255};
+    uint32_t word = 0;
+    std::memcpy(&word, bytes, sizeof word);
+    return word;
+}
+
+} // namespace
+
+void StripImage::setSize(const QSize& size)
+{
+    if (mImage.size() == size)
+        return clear();
+    mImage = QImage(size, QImage::Format_RGBA8888_Premultiplied);
+    mImage.fill(Qt::transparent);
+    mUsed = QRect();
+    mTop.assign(static_cast<std::size_t>(std::max(0, size.width())), kNothing);
+    mBottom.assign(mTop.size(), -kNothing);
+}
+
+void StripImage::clear()
+{
+    for (int y = mUsed.top(); y <= mUsed.bottom(); ++y)
+        std::memset(mImage.scanLine(y) + static_cast<std::ptrdiff_t>(mUsed.left()) * 4, 0, static_cast<std::size_t>(mUsed.width()) * 4);
+    mUsed = QRect();
+}
+
+void StripImage::addStrip(std::span<const QPointF> points, const QColor& colour, int thickness, const QRect& clip)
+{
+    const QRect inside = clip.intersected(mImage.rect());
+    if (inside.isEmpty())
+        return;
+    const uint32_t bytes = bytesOf(colour);
+    mFirstColumn = inside.right() + 1;
+    mLastColumn = inside.left() - 1;
+    for (std::size_t i = 1; i < points.size(); ++i) {
+        const QPointF from = points[i - 1] + QPointF(0.5, 0.5), to = points[i] + QPointF(0.5, 0.5);
+        if (!std::isfinite(from.x() + from.y() + to.x() + to.y())) {
+            fill(bytes, thickness, inside);
+        } else if (to.x() < from.x()) {
+            // A step back is a run of its own: spans of one column join only what the strip joins.
+            fill(bytes, thickness, inside);
+            addSegment(to, from, inside);
+            fill(bytes, thickness, inside);
+        } else {
+            addSegment(from, to, inside);
+        }
+    }
+    fill(bytes, thickness, inside);
+}
+
+void StripImage::addSegment(const QPointF& from, const QPointF& to, const QRect& clip)
+{
+    const int first = pixel(from.x()), last = pixel(to.x());
+    if (last < clip.left() || first > clip.right())
+        return;
+    if (first == last)
+        return extend(first, from.y(), to.y());
+    const double slope = (to.y() - from.y()) / (to.x() - from.x());
+    const auto at = [&](double x) { return from.y() + (x - from.x()) * slope; };
+    for (int column = std::max(first, clip.left()); column <= std::min(last, clip.right()); ++column)
+        extend(column, column == first ? from.y() : at(column), column == last ? to.y() : at(column + 1));
+}
+
+void StripImage::extend(int column, double y1, double y2)
+{
+    const auto place = static_cast<std::size_t>(column);
+    mTop[place] = std::min(mTop[place], pixel(std::min(y1, y2)));
+    mBottom[place] = std::max(mBottom[place], pixel(std::max(y1, y2)));
+    mFirstColumn = std::min(mFirstColumn, column);
+    mLastColumn = std::max(mLastColumn, column);
+}
+
+void StripImage::fill(uint32_t colour, int thickness, const QRect& clip)
+{
+    const int before = (thickness - 1) / 2, after = thickness / 2;
+    const std::ptrdiff_t stride = mImage.bytesPerLine() / 4;
+    auto* pPixels = reinterpret_cast<uint32_t*>(mImage.bits());
+    for (int column = mFirstColumn; column <= mLastColumn; ++column) {
+        int& top = mTop[static_cast<std::size_t>(column)];
+        int& bottom = mBottom[static_cast<std::size_t>(column)];
+        const QRect span(QPoint(column - before, std::max(top, -1000000) - before), QPoint(column + after, std::min(bottom, 1000000) + after));
+        top = kNothing;
+        bottom = -kNothing;
+        const QRect shown = span.intersected(clip);
+        if (shown.isEmpty())
+            continue;
+        mUsed = mUsed.united(shown);
+        for (int y = shown.top(); y <= shown.bottom(); ++y)
+            std::fill_n(pPixels + y * stride + shown.left(), shown.width(), colour);
+    }
+    mFirstColumn = clip.right() + 1;
+    mLastColumn = clip.left() - 1;
+}
+
+} // namespace ZARN

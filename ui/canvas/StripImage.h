@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QColor>
+#include <QImage>
+#include <QPointF>
+#include <QRect>
+
+#include <span>
+#include <vector>
+
+namespace ZARN {
+
+/// Line strips drawn as vertical spans straight into an image: what a processor does twenty times faster than a line strip of a graphics
+/// library that it plays itself. The image is transparent where nothing was drawn.
+class StripImage {
+public:
+    /// Makes the image that large and empty.
+    void setSize(const QSize& size);
+    /// Empties what was drawn on.
+    void clear();
+    /// @param points in pixels of the image, whose middles are at whole numbers; what is not finite interrupts the strip
+    /// @param clip pixels that may be drawn on  @param thickness in pixels
+    void addStrip(std::span<const QPointF> points, const QColor& colour, int thickness, const QRect& clip);
+
+    [[nodiscard]] const QImage& image() const { return mImage; }
+    /// The part of the image that was drawn on since it was empty.
+    [[nodiscard]] const QRect& used() const { return mUsed; }
+
+private:
+    void addSegment(const QPointF& from, const QPointF& to, const QRect& clip);
+    void extend(int column, double y1, double y2);
+    void fill(uint32_t colour, int thickness, const QRect& clip);
+
+    QImage mImage;
+    QRect mUsed;
+    std::vector<int> mTop; // of each column; below mBottom where there is something
+    std::vector<int> mBottom;
+    int mFirstColumn = 0;
+    int mLastColumn = -1;
+};
+
+} // namespace ZARN

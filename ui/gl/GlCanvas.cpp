@@ -1,0 +1,229 @@
+#include "ui/gl/GlCanvas.h"
+
+#include "ui/canvas/CanvasFont.h"
+#include "vesk/gl/Lines.h"
+#include "vesk/gl/LineStripsSimple.h"
+#include "vesk/gl/TriangleStrip.h"
+
+#include <cmath>
+
+namespace ZARN {
+
+namespace {
+
+constexpr int kFramesKept = 10; // so long an image that is not drawn keeps its texture
+
+VESK::OpenGL::LineStyle lineStyle(const CanvasPen& pen)
+{
+    return {pen.colour, pen.width, pen.smooth, pen.dash};
+}
+
+} // namespace
+
+GlCanvas::GlCanvas(std::unique_ptr<VESK::OpenGL::Device> pDevice)
+    : mpDevice(pDevice ? std::move(pDevice) : std::make_unique<VESK::OpenGL::Device>()), mDevice(*mpDevice)
+{
+}
+
+GlCanvas::~GlCanvas() = default;
+
+bool GlCanvas::init()
+{
+    const VESK::OpenGL::StateScope scope;
+    if (!mDevice.init())
+        return false;
+    mpRegular = mFonts.add("mononfont", canvasFontFile(false));
+    mpBold = mFonts.add("mononfont-bold", canvasFontFile(true));
+    return mpRegular && mpBold;
+}
+
+void GlCanvas::begin(const QSize& size, double ratio, const QColor& background)
+{
+    mState.emplace();
+    ++mFrame;
+    mClip.reset();
+    mClipChanged = false;
+    mSavedClips.clear();
+    mStripsPending = false;
+    mDevice.begin(size, ratio);
+    mDevice.clear(background);
+}
+
+void GlCanvas::end()
+{
+    ready().end();
+    forgetImages();
+    mState.reset();
+}
+
+void GlCanvas::forgetImages()
+{
+    std::erase_if(mImages, [this](const auto& kept) { return mFrame - kept.second.lastFrame > kFramesKept; });
+}
+
+void GlCanvas::push()
+{
+    mDevice.matrix().MatrixPush();
+    mSavedClips.push_back(mClip);
+}
+
+void GlCanvas::pop()
+{
+    mDevice.matrix().MatrixPop();
+    if (mSavedClips.empty())
+        return;
+    mClipChanged = mClipChanged || mClip != mSavedClips.back();
+    mClip = mSavedClips.back();
+    mSavedClips.pop_back();
+}
+
+void GlCanvas::translate(double x, double y)
+{
+    mDevice.matrix().MatrixTranslate(x, y);
+}
+
+void GlCanvas::scale(double x, double y)
+{
+    mDevice.matrix().MatrixScale(x, y);
+}
+
+QRectF GlCanvas::mapped(const QRectF& rect) const
+{
+    return QRectF(mDevice.matrix().map(rect.topLeft()), mDevice.matrix().map(rect.bottomRight())).normalized();
+}
+
+void GlCanvas::clip(const QRectF& rect)
+{
+    const QRectF box = mapped(rect);
+    mClip = mClip ? mClip->intersected(box) : box;
+    mClipChanged = true;
+}
+
+VESK::OpenGL::Device& GlCanvas::ready()
+{
+    if (mStripsPending) {
+        // The strips were clipped when they were drawn into their image.
+        mStripsPending = false;
+        mDevice.setNoClip();
+        mClipChanged = true;
+        if (mStripTexture.size() != mStrips.image().size())
+            mStripTexture.setImage(mStrips.image());
+        else
+            mStripTexture.setImagePart(mStrips.image(), mStrips.used());
+        const QRect used = mStrips.used();
+        const double pixel = 1.0 / mDevice.ratio();
+        mDevice.matrix().MatrixPush();
+        mDevice.matrix().MatrixSet(QTransform());
+        mStripTexture.drawPart(mDevice, QRectF(used.x() * pixel, used.y() * pixel, used.width() * pixel, used.height() * pixel), used);
+        mDevice.matrix().MatrixPop();
+        mDevice.flush();
+    }
+    if (mClipChanged)
+        applyClip();
+    mClipChanged = false;
+    return mDevice;
+}
+
+bool GlCanvas::takesStrip(std::span<const QPointF> points, const CanvasPen& pen) const
+{
+    constexpr std::size_t kLong = 64;
+    return mDevice.isSoftware() && points.size() >= kLong && !pen.smooth && pen.dash <= 0 && pen.colour.alpha() == 255
+           && pen.width * mDevice.ratio() <= 8.0;
+}
+
+void GlCanvas::addToStrips(std::span<const QPointF> points, const CanvasPen& pen)
+{
+    const double ratio = mDevice.ratio();
+    if (!mStripsPending)
+        mStrips.setSize((QSizeF(mDevice.size()) * ratio).toSize());
+    mStripsPending = true;
+    std::vector<QPointF> pixels;
+    pixels.reserve(points.size());
+    for (const QPointF& point : points)
+        pixels.push_back((mDevice.matrix().map(point) + QPointF(0.5, 0.5)) * ratio - QPointF(0.5, 0.5));
+    const QRectF clip = mClip.value_or(QRectF(QPointF(), QSizeF(mDevice.size())));
+    const QRect inside(QPoint(qRound(clip.left() * ratio), qRound(clip.top() * ratio)),
+                       QPoint(qRound(clip.right() * ratio) - 1, qRound(clip.bottom() * ratio) - 1));
+    mStrips.addStrip(pixels, pen.colour, std::max(1, qRound(pen.width * ratio)), inside);
+}
+
+void GlCanvas::applyClip()
+{
+    if (mClip)
+        mDevice.setClip(*mClip);
+    else
+        mDevice.setNoClip();
+}
+
+void GlCanvas::lines(std::span<const QPointF> points, const CanvasPen& pen)
+{
+    VESK::OpenGL::Lines lines;
+    lines.setStyle(lineStyle(pen));
+    for (std::size_t i = 0; i + 1 < points.size(); i += 2)
+        lines.addLine(points[i].x(), points[i].y(), points[i + 1].x(), points[i + 1].y());
+    lines.draw(ready());
+}
+
+void GlCanvas::lineStrip(std::span<const QPointF> points, const CanvasPen& pen)
+{
+    if (takesStrip(points, pen))
+        return addToStrips(points, pen);
+    VESK::OpenGL::LineStripsSimple strip;
+    strip.setStyle(lineStyle(pen));
+    strip.addStrip(points);
+    strip.draw(ready());
+}
+
+void GlCanvas::lineStrip(std::span<const QPointF> points, std::span<const QColor> colours, const CanvasPen& pen)
+{
+    VESK::OpenGL::LineStripsSimple strip;
+    strip.setStyle(lineStyle(pen));
+    strip.setVertexColours(true);
+    for (std::size_t i = 0; i < std::min(points.size(), colours.size()); ++i)
+        strip.addVertex(points[i], colours[i]);
+    strip.draw(ready());
+}
+
+void GlCanvas::fillRect(const QRectF& rect, const QColor& colour)
+{
+    VESK::OpenGL::TriangleStrip strip;
+    strip.setColour(colour);
+    strip.setRect(rect);
+    strip.draw(ready());
+}
+
+void GlCanvas::triangles(std::span<const QPointF> points, const QColor& colour)
+{
+    VESK::OpenGL::TriangleStrip::drawTriangles(ready(), points, colour);
+}
+
+void GlCanvas::text(const QPointF& position, const QString& text, const CanvasText& style)
+{
+    VESK::OpenGL::TextureFont* pFont = style.bold ? mpBold : mpRegular;
+    if (!pFont || !std::isfinite(position.x()) || !std::isfinite(position.y()))
+        return;
+    ready();
+    pFont->setColour(style.colour);
+    pFont->setSize(std::round(style.size));
+    const QPointF origin = textOrigin(position, text, style);
+    const double ascent = canvasAscent(style.size);
+    if (style.upwards)
+        pFont->draw(mDevice, origin.x() + ascent, origin.y(), text, true);
+    else
+        pFont->draw(mDevice, origin.x(), origin.y() + ascent, text);
+}
+
+void GlCanvas::image(const QRectF& target, const QImage& image)
+{
+    if (image.isNull())
+        return;
+    KeptImage& kept = mImages[image.cacheKey()];
+    if (!kept.texture) {
+        kept.texture = std::make_unique<VESK::OpenGL::Texture>();
+        kept.texture->setImage(image, true);
+    }
+    kept.lastFrame = mFrame;
+    kept.texture->draw(ready(), target);
+}
+
+} // namespace ZARN

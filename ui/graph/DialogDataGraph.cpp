@@ -1,0 +1,201 @@
+#include "ui/graph/DialogDataGraph.h"
+
+#include "card/CardContainer.h"
+#include "profile/Profile.h"
+#include "ui/graph/GraphButtons.h"
+#include "ui/graph/WidgetGraphES.h"
+#include "ui/graph/model/ThresholdBands.h"
+
+#include <QVBoxLayout>
+
+#include <cmath>
+
+namespace ZARN {
+
+namespace {
+
+constexpr int kHeldInterval = 50;
+constexpr float kMargin = 0.1F; // of the window, between cursor and edge
+
+/// Calls with each selected parameter of the profile, in its order, as far as there are slots.
+template <typename Visitor> int forEachSelected(const Profile& profile, Visitor visit)
+{
+    int slot = 0;
+    for (const ProfileDevice& device : profile.data()) {
+        for (const ProfileParameter& parameter : device.parameters) {
+            if (!profile.isSelected(parameter.name))
+                continue;
+            if (slot == DialogDataGraph::kSlots)
+                return slot;
+            visit(slot++, parameter);
+        }
+    }
+    return slot;
+}
+
+std::vector<GraphBand> bandsOf(const Profile& profile, const ProfileParameter& parameter)
+{
+    const std::vector<ThresholdList>& lists = profile.model().thresholdLists;
+    const int number = parameter.thresholdList;
+    if (number < 1 || static_cast<std::size_t>(number) > lists.size())
+        return {};
+    return thresholdBands(lists[static_cast<std::size_t>(number) - 1], profile.decoder(parameter));
+}
+
+} // namespace
+
+DialogDataGraph::DialogDataGraph(const Session& session, QWidget* pParent)
+    : QWidget(pParent), mSession(session), mpButtons(new GraphButtons), mpGraph(new WidgetGraphES)
+{
+    auto* pLayout = new QVBoxLayout(this);
+    pLayout->setContentsMargins(0, 0, 0, 0);
+    pLayout->setSpacing(0);
+    pLayout->addWidget(mpButtons);
+    pLayout->addWidget(mpGraph, 1);
+    mpGraph->setMaxParameters(kSlots);
+    mpGraph->setOfflineMode(true);
+    // The record begins with what the graph does: a floating cursor, so that the whole record stays in view while time passes.
+    mData.cursorMode = mpGraph->model().cursorMode();
+    connectGraph();
+    slotGraphSetup();
+    updateProfile();
+}
+
+void DialogDataGraph::connectGraph()
+{
+    connect(mpGraph, &WidgetGraphES::signalCursor, this, &DialogDataGraph::signalCursor);
+    connect(mpGraph, &WidgetGraphES::signalManMode, this, &DialogDataGraph::slotManMode);
+    connect(mpGraph, &WidgetGraphES::signalMenu, this, &DialogDataGraph::slotMenu);
+    connect(mpButtons, &GraphButtons::signalHeld, this, [this](int command) {
+        if (command == eZoomIn || command == eZoomOut)
+            mHeldTimer.start(kHeldInterval);
+    });
+    connect(mpButtons, &GraphButtons::signalCommand, this, &DialogDataGraph::slotCommand);
+    connect(&mHeldTimer, &QTimer::timeout, this, &DialogDataGraph::slotHeldZoom);
+}
+
+void DialogDataGraph::updateProfile()
+{
+    GraphModel& model = mpGraph->model();
+    const int used = forEachSelected(mSession.profile, [&](int slot, const ProfileParameter& parameter) {
+        model.setActive(slot, true);
+        model.setParameterName(slot, QString::fromStdString(parameter.name), QString::fromStdString(parameter.unit));
+        model.setPrecision(slot, parameter.precision);
+        model.setBands(slot, bandsOf(mSession.profile, parameter));
+    });
+    for (int slot = used; slot < kSlots; ++slot)
+        model.setActive(slot, false);
+    // Another parameter may have taken a slot: no trace may keep the samples of the one before.
+    fillRecord();
+}
+
+void DialogDataGraph::fillRecord()
+{
+    const double xmin = mpGraph->model().xmin(), xmax = mpGraph->model().xmax();
+    mpGraph->clear();
+    if (mpRecord) {
+        mSession.profile.resetCoordinates();
+        forEachSelected(mSession.profile, [this](int slot, const ProfileParameter& parameter) { fillIndex(slot, parameter); });
+    }
+    // Filling moves the window of the automatic mode along.
+    mpGraph->model().setWindow(xmin, xmax);
+    mpGraph->model().setMessage(emptyMessage());
+}
+
+QString DialogDataGraph::emptyMessage() const
+{
+    if (!mpRecord)
+        return tr("No record is loaded.\nOpen a card folder and choose a power cycle or a flight.");
+    if (mpGraph->nrActive() == 0)
+        return tr("No parameter is selected.\nTick the parameters to show in the profile panel.");
+    return {};
+}
+
+void DialogDataGraph::updateRecord(RecordData* pRecord)
+{
+    mpRecord = pRecord;
+    fillRecord();
+    if (!mpRecord)
+        return;
+    zoomAll();
+    mpGraph->recalcFrameBuffer();
+    mpGraph->setCursorPosition(mSession.container.startTime());
+}
+
+void DialogDataGraph::fillIndex(int slot, const ProfileParameter& parameter)
+{
+    const RecordChannel* pChannel = mpRecord->channel(parameter.identifier());
+    if (!pChannel)
+        return;
+    GraphModel& model = mpGraph->model();
+    model.reserve(slot, pChannel->entries.size());
+    const ValueDecoder decoder = mSession.profile.decoder(parameter);
+    std::vector<double> times, values;
+    for (std::size_t i = 0; i < pChannel->entries.chunkCount(); ++i) {
+        const std::span<const StoredRecord> records = pChannel->entries.chunk(i);
+        times.resize(records.size());
+        values.resize(records.size());
+        decoder.values(records, values.data(), mSession.profile.sharedFilter());
+        std::size_t kept = 0;
+        for (std::size_t k = 0; k < records.size(); ++k) {
+            const double value = decoder.isNumeric() ? decoder.toDisplayUnit(values[k]) : 0.0;
+            if (std::isnan(value))
+                continue;
+            times[kept] = records[k].time();
+            values[kept++] = value;
+        }
+        model.putValues(slot, std::span(times).first(kept), std::span(values).first(kept));
+    }
+}
+
+void DialogDataGraph::setTime(double time)
+{
+    GraphModel& model = mpGraph->model();
+    model.setCursorPosition(time);
+    const auto width = static_cast<float>(model.width());
+    const auto margin = static_cast<double>(kMargin * width);
+    double xmin = model.xmin(), xmax = model.xmax();
+    if (xmin + margin > time) {
+        xmin = time - margin;
+        xmax = xmin + static_cast<double>(width);
+    }
+    if (xmax - margin < time) {
+        xmin = time + margin - static_cast<double>(width);
+        xmax = time + margin;
+    }
+    if (xmin != model.xmin() || xmax != model.xmax())
+        model.setWindow(xmin, xmax);
+}
+
+void DialogDataGraph::slotManMode()
+{
+    const GraphModel& model = mpGraph->model();
+    mpButtons->setChecked(eSplitMode, model.displayMode() != eSingleGraph);
+    mpButtons->setChecked(eSingleMode, model.displayMode() == eSingleGraph);
+    mpButtons->setChecked(eAutomaticMode, model.graphMode() == eAutomatic);
+}
+
+void DialogDataGraph::slotGraphSetup()
+{
+    const auto apply = [this](void (WidgetGraphBase::*pSet)(float, float, float), const QString& name) {
+        const GraphColour colour = GraphColour::named(name);
+        (mpGraph->*pSet)(colour.red, colour.green, colour.blue);
+    };
+    mpGraph->setXrange(static_cast<float>(mData.xRange));
+    mpGraph->setDisplayMode(mData.displayMode == eSingleGraph ? eSingleGraph : eSplit);
+    mpGraph->setGraphMode(mData.graphMode == eManual ? eManual : eAutomatic);
+    mpGraph->setCursorMode(mData.cursorMode == eFloating ? eFloating : eCenter);
+    apply(&WidgetGraphBase::setBackColor, mData.backColor);
+    mpGraph->activateGrid(mData.gridOn);
+    apply(&WidgetGraphBase::setGridColor, mData.gridColor);
+    apply(&WidgetGraphBase::setLabelColor, mData.labelColor);
+    apply(&WidgetGraphBase::setLabelBackColor, mData.labelBackColor);
+    mpGraph->activateCursor(mData.cursorOn);
+    mpGraph->activateLegend(mData.legendOn);
+    mpGraph->setAutoScaleY(mData.autoscaleOn);
+    mpGraph->setYmin(static_cast<float>(mData.yMin));
+    mpGraph->setYmax(static_cast<float>(mData.yMax));
+    slotManMode();
+}
+
+} // namespace ZARN

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "project/Session.h"
+#include "ui/data/model/DataView.h"
+#include "ui/graph/GraphData.h"
+
+#include <QTimer>
+#include <QWidget>
+
+class WidgetGraphES;
+
+namespace ZARN {
+
+class DialogGraphSetup;
+class GraphButtons;
+struct ProfileParameter;
+
+/// The graph tab: the selected parameters of the profile over the time of the loaded record, with a row of command buttons. Its cursor is
+/// the view time.
+class DialogDataGraph : public QWidget, public DataView {
+    Q_OBJECT
+
+public:
+    static constexpr int kSlots = 30;
+
+    explicit DialogDataGraph(const Session& session, QWidget* pParent = nullptr);
+
+    void updateProfile() override;
+    void updateRecord(RecordData* pRecord) override;
+    void setTime(double time) override;
+
+    [[nodiscard]] WidgetGraphES& graph() { return *mpGraph; }
+    [[nodiscard]] GraphData& graphData() { return mData; }
+
+Q_SIGNALS:
+    void signalCursor(float time, double value);
+
+protected:
+    /// Asks where to save the snapshot; empty when the user gave up.
+    virtual QString askSnapshotFile();
+    virtual void showProblem(const QString& text);
+
+private:
+    void slotManMode();
+    void slotGraphSetup();
+    void slotCommand(int command);
+    void slotHeldZoom();
+    void slotMenu(const QPoint& point);
+
+    void connectGraph();
+    void fillRecord();
+    void fillIndex(int slot, const ProfileParameter& parameter);
+    [[nodiscard]] QString emptyMessage() const;
+    void zoomAll();
+    void setDisplayMode(int mode);
+    void showSetup();
+    void snapshot();
+    void copyValues();
+    void copyPicture();
+
+    const Session mSession;
+    GraphData mData;
+    RecordData* mpRecord = nullptr;
+    GraphButtons* mpButtons;
+    WidgetGraphES* mpGraph;
+    DialogGraphSetup* mpSetup = nullptr;
+    QTimer mHeldTimer;
+};
+
+} // namespace ZARN

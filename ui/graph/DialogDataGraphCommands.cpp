@@ -1,0 +1,155 @@
+// The commands of DialogDataGraph.
+
+#include "card/CardContainer.h"
+#include "ui/canvas/Canvas.h"
+#include "ui/graph/DialogDataGraph.h"
+#include "ui/graph/DialogGraphSetup.h"
+#include "ui/graph/GraphButtons.h"
+#include "ui/graph/GraphSnapshot.h"
+#include "ui/graph/WidgetGraphES.h"
+
+#include <QClipboard>
+#include <QFileDialog>
+#include <QGuiApplication>
+#include <QMenu>
+#include <QMessageBox>
+
+#include <algorithm>
+
+namespace ZARN {
+
+namespace {
+
+constexpr float kMargin = 0.1F; // of the record's span, before and after it
+constexpr float kZoom = 0.97F;
+constexpr float kZoomInLimit = 5000.0F, kZoomOutLimit = 1.0F; // seconds
+constexpr double kDefaultRange = 60.0;
+
+} // namespace
+
+void DialogDataGraph::slotCommand(int command)
+{
+    mHeldTimer.stop();
+    switch (command) {
+    case eZoomAll:
+        zoomAll();
+        mData.xRange = mSession.container.endTime() - mSession.container.startTime();
+        break;
+    case eZoomMarker: mpGraph->zoomToMarker(); break;
+    case eClearAll: mpGraph->clear(); break;
+    case eAutomaticMode:
+        mData.graphMode = mpButtons->isChecked(eAutomaticMode) ? eAutomatic : eManual;
+        mpGraph->setGraphMode(static_cast<eGraphMode>(mData.graphMode));
+        break;
+    case eSplitMode: setDisplayMode(eSplit); break;
+    case eSingleMode: setDisplayMode(eSingleGraph); break;
+    case eResetAll:
+        setDisplayMode(eSplit);
+        mData.xRange = kDefaultRange;
+        mpGraph->setXrange(static_cast<float>(kDefaultRange));
+        break;
+    case eSetup: showSetup(); break;
+    case eSnapshot: snapshot(); break;
+    default: break;
+    }
+    slotManMode();
+}
+
+void DialogDataGraph::setDisplayMode(int mode)
+{
+    mData.displayMode = mode;
+    mpGraph->setDisplayMode(mode == eSingleGraph ? eSingleGraph : eSplit);
+}
+
+void DialogDataGraph::zoomAll()
+{
+    if (!mpRecord)
+        return;
+    const auto start = static_cast<float>(mSession.container.startTime()), end = static_cast<float>(mSession.container.endTime());
+    const float margin = kMargin * (end - start);
+    mpGraph->model().setWindow(static_cast<double>(start - margin), static_cast<double>(end + margin));
+}
+
+void DialogDataGraph::slotHeldZoom()
+{
+    const auto width = static_cast<float>(mpGraph->model().width());
+    float wanted = width;
+    if (mpButtons->held() == eZoomIn)
+        wanted = std::min(width * kZoom, kZoomInLimit);
+    else if (mpButtons->held() == eZoomOut)
+        wanted = std::max(width / kZoom, kZoomOutLimit);
+    else
+        return mHeldTimer.stop();
+    mpGraph->setXrange(wanted);
+    mData.xRange = static_cast<double>(wanted);
+}
+
+void DialogDataGraph::showSetup()
+{
+    // An edit applies the whole record: it must not bring back a window or a mode that the user has left with the mouse.
+    const GraphModel& model = mpGraph->model();
+    mData.xRange = model.width();
+    mData.graphMode = model.graphMode();
+    if (!mpSetup) {
+        mpSetup = new DialogGraphSetup(this, mData);
+        connect(mpSetup, &DialogGraphSetup::signalChanged, this, &DialogDataGraph::slotGraphSetup);
+    }
+    mpSetup->updateDialog();
+    mpSetup->show();
+    mpSetup->raise();
+    mpSetup->activateWindow();
+}
+
+QString DialogDataGraph::askSnapshotFile()
+{
+    return QFileDialog::getSaveFileName(this, tr("Save Snapshot"), "./snapshot.bmp", tr("BMP File (*.bmp);;All Files (*.*)"));
+}
+
+void DialogDataGraph::showProblem(const QString& text)
+{
+    QMessageBox box(QMessageBox::Warning, tr("ZARN Warning"), text, QMessageBox::Ok, this);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
+void DialogDataGraph::snapshot()
+{
+    const QString path = askSnapshotFile();
+    if (path.isEmpty())
+        return;
+    const auto paint = [this](Canvas& canvas, const QSize& size) { mpGraph->paintOn(canvas, size, devicePixelRatioF()); };
+    GraphSnapshot snapshot(paint, mpGraph->size(), devicePixelRatioF());
+    if (!snapshot.save(path))
+        showProblem(tr("The snapshot could not be saved.\n%1").arg(snapshot.error()));
+}
+
+void DialogDataGraph::copyValues()
+{
+    const GraphModel& model = mpGraph->model();
+    const auto [start, end] = std::minmax(model.markerStart(), model.markerEnd());
+    QGuiApplication::clipboard()->setText(markerText(model.markerValues(), start, end));
+}
+
+void DialogDataGraph::copyPicture()
+{
+    const auto paint = [this](Canvas& canvas, const QSize& size) { mpGraph->paintOn(canvas, size, devicePixelRatioF()); };
+    QGuiApplication::clipboard()->setImage(GraphSnapshot(paint, mpGraph->size(), devicePixelRatioF()).image());
+}
+
+void DialogDataGraph::slotMenu(const QPoint& point)
+{
+    QMenu menu(this);
+    QAction* pCopy = menu.addAction(tr("Copy Values"), this, &DialogDataGraph::copyValues);
+    pCopy->setEnabled(mpGraph->model().hasMarkerRange() && mpGraph->nrActive() > 0);
+    menu.addAction(tr("Copy Picture"), this, &DialogDataGraph::copyPicture);
+    menu.addAction(tr("Snapshot..."), this, &DialogDataGraph::snapshot);
+    menu.addSeparator();
+    QAction* pMarker = menu.addAction(tr("Zoom Marker"), this, [this] { slotCommand(eZoomMarker); });
+    pMarker->setEnabled(mpGraph->model().hasMarkerRange());
+    menu.addAction(tr("Zoom 1:1"), this, [this] { slotCommand(eZoomAll); })->setEnabled(mpRecord != nullptr);
+    menu.addSeparator();
+    menu.addAction(tr("Setup..."), this, &DialogDataGraph::showSetup);
+    menu.exec(point);
+}
+
+} // namespace ZARN

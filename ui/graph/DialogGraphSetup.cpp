@@ -1,0 +1,217 @@
+#include "ui/graph/DialogGraphSetup.h"
+
+#include <QCheckBox>
+#include <QColorDialog>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalBlocker>
+
+#include <cmath>
+
+namespace ZARN {
+
+DialogGraphSetup::DialogGraphSetup(QWidget* pParent, GraphData& graphData) : QDialog(pParent), mData(graphData)
+{
+    setWindowTitle(tr("Oscilloscope Setup"));
+    createControls();
+    auto* pForm = new QFormLayout(this);
+    addRow(pForm, tr("Background Color :"), {mpBackground});
+    addRow(pForm, tr("Grid On/Color :"), {mpGrid, mpGridColour});
+    addRow(pForm, tr("Label Color :"), {mpLabel});
+    addRow(pForm, tr("Label Background :"), {mpLabelBackground});
+    addRow(pForm, tr("Cursor On/Mode :"), {mpCursor, mpCursorMode});
+    addRow(pForm, tr("Legend :"), {mpLegend});
+    addRow(pForm, tr("Y-Scale :"), {mpAutoscale, mpYmin, mpYmax});
+    addRow(pForm, QString(), {mpClose});
+    updateDialog();
+    connectControls();
+}
+
+void DialogGraphSetup::createControls()
+{
+    mpBackground = colourButton("background", tr("Background color"));
+    mpGrid = new QCheckBox(tr("Grid On"));
+    mpGrid->setObjectName("gridOn");
+    mpGridColour = colourButton("grid", tr("Grid color"));
+    mpLabel = colourButton("label", tr("Label color"));
+    mpLabelBackground = colourButton("labelBackground", tr("Label background color"));
+    mpCursor = new QCheckBox(tr("Cursor On"));
+    mpCursor->setObjectName("cursorOn");
+    mpCursorMode = new QComboBox;
+    mpCursorMode->setObjectName("cursorMode");
+    mpCursorMode->addItems({tr("Floating"), tr("Center")});
+    mpCursorMode->setAccessibleName(tr("Cursor mode"));
+    mpLegend = new QCheckBox(tr("Legend On"));
+    mpLegend->setObjectName("legendOn");
+    mpAutoscale = new QCheckBox(tr("Autoscale On"));
+    mpAutoscale->setObjectName("autoscaleOn");
+    mpYmin = new QLineEdit;
+    mpYmin->setObjectName("yMin");
+    mpYmin->setAccessibleName(tr("Least value of the scale"));
+    mpYmax = new QLineEdit;
+    mpYmax->setObjectName("yMax");
+    mpYmax->setAccessibleName(tr("Greatest value of the scale"));
+    mpClose = new QPushButton(tr("Close"));
+    mpClose->setObjectName("close");
+}
+
+void DialogGraphSetup::connectControls()
+{
+    connect(mpBackground, &QPushButton::clicked, this, &DialogGraphSetup::slotBackgroundColor);
+    connect(mpGrid, &QCheckBox::stateChanged, this, &DialogGraphSetup::slotGridOn);
+    connect(mpGridColour, &QPushButton::clicked, this, &DialogGraphSetup::slotGridColor);
+    connect(mpLabel, &QPushButton::clicked, this, &DialogGraphSetup::slotLabelColor);
+    connect(mpLabelBackground, &QPushButton::clicked, this, &DialogGraphSetup::slotLabelBackColor);
+    connect(mpCursor, &QCheckBox::stateChanged, this, &DialogGraphSetup::slotCursorOn);
+    connect(mpCursorMode, &QComboBox::activated, this, &DialogGraphSetup::slotCursorMode);
+    connect(mpLegend, &QCheckBox::stateChanged, this, &DialogGraphSetup::slotLegendOn);
+    connect(mpAutoscale, &QCheckBox::stateChanged, this, &DialogGraphSetup::slotAutoscaleOn);
+    connect(mpYmin, &QLineEdit::textEdited, this, &DialogGraphSetup::slotYmin);
+    connect(mpYmax, &QLineEdit::textEdited, this, &DialogGraphSetup::slotYmax);
+    connect(mpClose, &QPushButton::clicked, this, &DialogGraphSetup::slotClose);
+}
+
+void DialogGraphSetup::addRow(QFormLayout* pForm, const QString& label, const QList<QWidget*>& controls)
+{
+    auto* pRow = new QHBoxLayout;
+    for (QWidget* pControl : controls)
+        pRow->addWidget(pControl);
+    pRow->addStretch();
+    pForm->addRow(label, pRow);
+}
+
+QPushButton* DialogGraphSetup::colourButton(const QString& name, const QString& accessible)
+{
+    auto* pButton = new QPushButton(tr("Select"));
+    pButton->setObjectName(name);
+    pButton->setAccessibleName(accessible);
+    pButton->setAutoDefault(false);
+    return pButton;
+}
+
+void DialogGraphSetup::updateDialog()
+{
+    const QSignalBlocker blockers[] = {QSignalBlocker(mpGrid), QSignalBlocker(mpCursor), QSignalBlocker(mpCursorMode), QSignalBlocker(mpLegend),
+                                       QSignalBlocker(mpAutoscale)};
+    mpGrid->setChecked(mData.gridOn);
+    mpCursor->setChecked(mData.cursorOn);
+    mpCursorMode->setCurrentIndex(mData.cursorMode == 1 ? 1 : 0);
+    mpLegend->setChecked(mData.legendOn);
+    mpAutoscale->setChecked(mData.autoscaleOn);
+    showNumber(mpYmin, mData.yMin);
+    showNumber(mpYmax, mData.yMax);
+    // With autoscaling the two say nothing.
+    mpYmin->setEnabled(!mData.autoscaleOn);
+    mpYmax->setEnabled(!mData.autoscaleOn);
+    showColour(mpBackground, mData.backColor);
+    showColour(mpGridColour, mData.gridColor);
+    showColour(mpLabel, mData.labelColor);
+    showColour(mpLabelBackground, mData.labelBackColor);
+}
+
+void DialogGraphSetup::showColour(QPushButton* pButton, const QString& name)
+{
+    QPixmap swatch(16, 16);
+    swatch.fill(QColor(name));
+    pButton->setIcon(swatch);
+}
+
+void DialogGraphSetup::showNumber(QLineEdit* pField, double value)
+{
+    // What the user is typing stays as he types it.
+    if (!pField->hasFocus() || pField->text().toDouble() != value)
+        pField->setText(QString::number(value, 'g', 10));
+}
+
+void DialogGraphSetup::changed()
+{
+    Q_EMIT signalChanged();
+    updateDialog();
+}
+
+QColor DialogGraphSetup::askColour(const QColor& present)
+{
+    return QColorDialog::getColor(present, this);
+}
+
+void DialogGraphSetup::chooseColour(QString& name)
+{
+    const QColor colour = askColour(QColor(name));
+    if (colour.isValid())
+        name = colour.name();
+    changed();
+}
+
+void DialogGraphSetup::slotBackgroundColor()
+{
+    chooseColour(mData.backColor);
+}
+
+void DialogGraphSetup::slotGridColor()
+{
+    chooseColour(mData.gridColor);
+}
+
+void DialogGraphSetup::slotLabelColor()
+{
+    chooseColour(mData.labelColor);
+}
+
+void DialogGraphSetup::slotLabelBackColor()
+{
+    chooseColour(mData.labelBackColor);
+}
+
+void DialogGraphSetup::slotGridOn(int state)
+{
+    mData.gridOn = state != Qt::Unchecked;
+    changed();
+}
+
+void DialogGraphSetup::slotCursorOn(int state)
+{
+    mData.cursorOn = state != Qt::Unchecked;
+    changed();
+}
+
+void DialogGraphSetup::slotCursorMode(int mode)
+{
+    mData.cursorMode = mode;
+    changed();
+}
+
+void DialogGraphSetup::slotLegendOn(int state)
+{
+    mData.legendOn = state != Qt::Unchecked;
+    changed();
+}
+
+void DialogGraphSetup::slotAutoscaleOn(int state)
+{
+    mData.autoscaleOn = state != Qt::Unchecked;
+    changed();
+}
+
+void DialogGraphSetup::slotYmin(const QString& text)
+{
+    const double value = text.toDouble();
+    mData.yMin = std::isfinite(value) ? value : 0.0;
+    changed();
+}
+
+void DialogGraphSetup::slotYmax(const QString& text)
+{
+    const double value = text.toDouble();
+    mData.yMax = std::isfinite(value) ? value : 0.0;
+    changed();
+}
+
+void DialogGraphSetup::slotClose()
+{
+    close();
+}
+
+} // namespace ZARN

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "ui/graph/GraphData.h"
+
+#include <QDialog>
+
+class QCheckBox;
+class QComboBox;
+class QFormLayout;
+class QLineEdit;
+class QPushButton;
+
+namespace ZARN {
+
+/// The window "Oscilloscope Setup": edits the graph's display settings in place and tells of every edit. The record is not owned and
+/// outlives the window.
+class DialogGraphSetup : public QDialog {
+    Q_OBJECT
+
+public:
+    DialogGraphSetup(QWidget* pParent, GraphData& graphData);
+
+    /// Shows the record's present values.
+    void updateDialog();
+
+Q_SIGNALS:
+    void signalChanged();
+
+protected:
+    /// Asks for a colour; invalid when the user gave up.
+    virtual QColor askColour(const QColor& present);
+
+private:
+    void slotBackgroundColor();
+    void slotGridOn(int state);
+    void slotGridColor();
+    void slotLabelColor();
+    void slotLabelBackColor();
+    void slotCursorOn(int state);
+    void slotCursorMode(int mode);
+    void slotLegendOn(int state);
+    void slotAutoscaleOn(int state);
+    void slotYmin(const QString& text);
+    void slotYmax(const QString& text);
+    void slotClose();
+
+    void createControls();
+    void connectControls();
+    void addRow(QFormLayout* pForm, const QString& label, const QList<QWidget*>& controls);
+    QPushButton* colourButton(const QString& name, const QString& accessible);
+    void chooseColour(QString& name);
+    void showColour(QPushButton* pButton, const QString& name);
+    void showNumber(QLineEdit* pField, double value);
+    void changed();
+
+    GraphData& mData;
+    QPushButton* mpBackground = nullptr;
+    QPushButton* mpGridColour = nullptr;
+    QPushButton* mpLabel = nullptr;
+    QPushButton* mpLabelBackground = nullptr;
+    QCheckBox* mpGrid = nullptr;
+    QCheckBox* mpCursor = nullptr;
+    QCheckBox* mpLegend = nullptr;
+    QCheckBox* mpAutoscale = nullptr;
+    QComboBox* mpCursorMode = nullptr;
+    QLineEdit* mpYmin = nullptr;
+    QLineEdit* mpYmax = nullptr;
+    QPushButton* mpClose = nullptr;
+};
+
+} // namespace ZARN

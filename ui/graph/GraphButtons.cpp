@@ -1,0 +1,78 @@
+#include "ui/graph/GraphButtons.h"
+
+#include "app/gui/ImageHandler.h"
+
+#include <QButtonGroup>
+#include <QHBoxLayout>
+#include <QToolButton>
+
+// Resources of a static library are not registered by themselves; the macro must stand outside every namespace.
+static void registerIcons()
+{
+    Q_INIT_RESOURCE(graph);
+}
+
+namespace ZARN {
+
+GraphButtons::GraphButtons(QWidget* pParent) : QWidget(pParent), mpGroup(new QButtonGroup(this))
+{
+    registerIcons();
+    auto* pLayout = new QHBoxLayout(this);
+    pLayout->setContentsMargins(2, 2, 2, 2);
+    pLayout->setSpacing(2);
+    mpGroup->setExclusive(true);
+    add(eZoomIn, "graph-zoom-in", tr("Zoom In"));
+    add(eZoomOut, "graph-zoom-out", tr("Zoom Out"));
+    add(eZoomAll, "graph-zoom-all", tr("Zoom 1:1"));
+    add(eZoomMarker, "graph-zoom-marker", tr("Zoom Marker"));
+    add(eClearAll, "graph-clear", tr("Clear All"));
+    add(eAutomaticMode, "graph-automatic", tr("Automatic Mode"), true);
+    add(eSplitMode, "graph-split", tr("Split Mode"), true);
+    add(eSingleMode, "graph-single", tr("Single Graph Mode"), true);
+    add(eResetAll, "graph-reset", tr("Reset all to default"));
+    add(eSetup, "graph-setup", tr("Setup"));
+    add(eSnapshot, "graph-snapshot", tr("Snapshot"));
+    mpGroup->button(eAutomaticMode)->setText(tr("Auto"));
+    pLayout->addStretch();
+
+    connect(mpGroup, &QButtonGroup::idPressed, this, [this](int id) {
+        mHeld = static_cast<EGraphCommand>(id);
+        // The automatic mode is apart from the two display modes: its button goes down and up by itself.
+        mpGroup->setExclusive(id != eAutomaticMode);
+        Q_EMIT signalHeld(id);
+    });
+    connect(mpGroup, &QButtonGroup::idReleased, this, [this](int id) {
+        Q_EMIT signalCommand(id);
+        mpGroup->setExclusive(true);
+        mHeld = eNoCommand;
+    });
+}
+
+void GraphButtons::add(EGraphCommand command, const QString& icon, const QString& toolTip, bool isCheckable)
+{
+    auto* pButton = new QToolButton;
+    pButton->setFixedSize(32, 32);
+    pButton->setIconSize(QSize(32, 32));
+    pButton->setIcon(ImageHandler::icon(icon));
+    pButton->setToolTip(toolTip);
+    pButton->setAccessibleName(toolTip);
+    pButton->setCheckable(isCheckable);
+    pButton->setObjectName(icon);
+    mpGroup->addButton(pButton, command);
+    layout()->addWidget(pButton);
+}
+
+bool GraphButtons::isChecked(EGraphCommand command) const
+{
+    return mpGroup->button(command)->isChecked();
+}
+
+void GraphButtons::setChecked(EGraphCommand command, bool on)
+{
+    const bool wasExclusive = mpGroup->exclusive();
+    mpGroup->setExclusive(false);
+    mpGroup->button(command)->setChecked(on);
+    mpGroup->setExclusive(wasExclusive);
+}
+
+} // namespace ZARN

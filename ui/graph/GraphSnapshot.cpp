@@ -1,0 +1,97 @@
+#include "ui/graph/GraphSnapshot.h"
+
+#include "app/SafeFile.h"
+#include "ui/canvas/RasterCanvas.h"
+
+#include <QBuffer>
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QImageWriter>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QSvgGenerator>
+
+namespace ZARN {
+
+namespace {
+
+constexpr int kPdfResolution = 96; // one unit for each pixel of the view
+
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("ZARN::GraphSnapshot", text);
+}
+
+} // namespace
+
+QImage GraphSnapshot::image() const
+{
+    QImage image((QSizeF(mSize) * mRatio).toSize(), QImage::Format_RGB32);
+    image.setDevicePixelRatio(mRatio);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    RasterCanvas canvas(painter);
+    mPaint(canvas, mSize);
+    return image;
+}
+
+QByteArray GraphSnapshot::svg() const
+{
+    QBuffer buffer;
+    QSvgGenerator generator;
+    generator.setOutputDevice(&buffer);
+    generator.setSize(mSize);
+    generator.setViewBox(QRect(QPoint(), mSize));
+    generator.setTitle(translated(QT_TRANSLATE_NOOP("ZARN::GraphSnapshot", "Graph")));
+    QPainter painter(&generator);
+    RasterCanvas canvas(painter);
+    mPaint(canvas, mSize);
+    painter.end();
+    return buffer.data();
+}
+
+QByteArray GraphSnapshot::pdf() const
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    {
+        QPdfWriter writer(&buffer);
+        writer.setResolution(kPdfResolution);
+        writer.setPageMargins(QMarginsF());
+        writer.setPageSize(QPageSize(QSizeF(mSize) * 72.0 / kPdfResolution, QPageSize::Point, QString(), QPageSize::ExactMatch));
+        QPainter painter(&writer);
+        RasterCanvas canvas(painter);
+        mPaint(canvas, mSize);
+    }
+    return buffer.data();
+}
+
+QByteArray GraphSnapshot::pixels(const QString& format)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    QImageWriter writer(&buffer, format.toLatin1());
+    QImage picture = image();
+    picture.setDevicePixelRatio(1.0);
+    if (!writer.write(picture)) {
+        mError = translated(QT_TRANSLATE_NOOP("ZARN::GraphSnapshot", "Pictures of the format \"%1\" cannot be written")).arg(format);
+        return {};
+    }
+    return buffer.data();
+}
+
+bool GraphSnapshot::save(const QString& path)
+{
+    const QString suffix = QFileInfo(path).suffix().toLower();
+    const QString format = suffix.isEmpty() ? QStringLiteral("bmp") : suffix;
+    const QByteArray bytes = format == QLatin1String("svg") ? svg() : format == QLatin1String("pdf") ? pdf() : pixels(format);
+    if (bytes.isEmpty())
+        return false;
+    SafeFile file((suffix.isEmpty() ? path + QStringLiteral(".bmp") : path).toStdString());
+    if (file.open() && file.write({bytes.constData(), static_cast<std::size_t>(bytes.size())}) && file.commit())
+        return true;
+    mError = QString::fromStdString(file.error());
+    return false;
+}
+
+} // namespace ZARN

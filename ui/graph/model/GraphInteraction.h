@@ -1,0 +1,65 @@
+#pragma once
+
+#include "ui/graph/model/GraphLayout.h"
+
+namespace ZARN {
+
+/// Turns what the user does with keys, pointer and wheel into calls of the model. Knows no widget: events come as points and flags, and
+/// the layout is that of the frame that the user saw.
+class GraphInteraction {
+public:
+    explicit GraphInteraction(GraphModel& model) : mModel(model) {}
+
+    void setLayout(const GraphLayout& layout) { mLayout = layout; }
+    void setPanningAllowed(bool on) { mPanningAllowed = on; }
+    void setShiftPressed(bool on) { mShift = on; }
+
+    // Keys. All return whether the key means something here.
+    bool keyPressed(int key);
+    bool keyReleased(int key);
+    /// No key is held any more: the view lost the focus.
+    void forgetKeys() { mShift = mControl = mAlt = false; }
+
+    // The pointer; modifiers as the event tells them, for keys may have been pressed elsewhere.
+    void pressed(Qt::MouseButton button, const QPointF& point, Qt::KeyboardModifiers modifiers);
+    void moved(const QPointF& point);
+    /// @return true when the right button was released where it had been pressed: a menu is wanted.
+    bool released(Qt::MouseButton button, const QPointF& point);
+    void left() { mModel.setHighlighted(mPinned); }
+    /// @param delta of the wheel, at least 1 when it turns forward
+    void wheel(int delta, Qt::KeyboardModifiers modifiers);
+
+    [[nodiscard]] int draggedStrip() const { return mDragged; }
+    [[nodiscard]] double dragY() const { return mPointer.y(); }
+    [[nodiscard]] bool isPanning() const { return mPan.isOn; }
+
+private:
+    struct Pan {
+        bool isOn = false;
+        bool hasMoved = false;
+        double xmin = 0.0;
+        double xmax = 0.0;
+        QPointF start;
+    };
+    void pressedLeft(const QPointF& point, Qt::KeyboardModifiers modifiers);
+    void releasedLeft(const QPointF& point);
+    void pan(const QPointF& point);
+    void cursorTo(const QPointF& point);
+    void moveCursorBy(double seconds, double pixels);
+    [[nodiscard]] int handleAt(const QPointF& point) const;
+    void sendMarker();
+
+    GraphModel& mModel;
+    GraphLayout mLayout;
+    QPointF mPointer;
+    double mPointerTime = 0.0;
+    Pan mPan;
+    int mDragged = -1; // parameter whose strip is dragged
+    int mPinned = -1;  // parameter whose legend line was clicked
+    bool mMarkerDrag = false;
+    bool mCursorDrag = false;
+    bool mPanningAllowed = true;
+    bool mShift = false, mControl = false, mAlt = false;
+};
+
+} // namespace ZARN

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "ui/graph/model/GraphModel.h"
+
+#include <QRectF>
+
+namespace ZARN {
+
+/// Where the parts of the graph lie in a view, in pixels, and which time and value a pixel stands for. Made anew for each frame.
+class GraphLayout {
+public:
+    /// What of a trace the legend tells, from most to least; by what the view has room for.
+    enum class ELegend { eNone, eNames, eCursor, eFull };
+
+    GraphLayout() = default;
+    GraphLayout(const GraphModel& model, const QSizeF& size, double textSize);
+
+    [[nodiscard]] const QRectF& plot() const { return mPlot; }
+    [[nodiscard]] const QRectF& legend() const { return mLegendRect; } ///< right of the plot; empty without one
+    [[nodiscard]] const QRectF& table() const { return mTable; }       ///< of the marker's values below the plot; empty without one
+    [[nodiscard]] ELegend legendKind() const { return mLegend; }
+    [[nodiscard]] double textSize() const { return mTextSize; }
+    [[nodiscard]] double line() const { return mLine; }
+    [[nodiscard]] double character() const { return mCharacter; }
+    [[nodiscard]] int nameLength() const { return mNameLength; } ///< characters of the longest name, as it is shown
+
+    /// The area of a trace: its strip, or the plot.
+    [[nodiscard]] QRectF area(const GraphParameter& parameter) const;
+    /// The line of the legend for the shown trace number `row`; empty when there is no room for it.
+    [[nodiscard]] QRectF legendLine(const GraphModel& model, std::size_t row) const;
+    /// Which of the legend's lines a point lies on: the parameter's index, -1 for none.
+    [[nodiscard]] int legendAt(const GraphModel& model, const QPointF& point) const;
+    /// The strip under a height of the view, as its parameter's index; the nearest one outside of the plot; -1 when nothing is shown.
+    [[nodiscard]] int stripAt(const GraphModel& model, double y) const;
+    /// The middle of a strip's handle.
+    [[nodiscard]] QPointF handle(const GraphParameter& parameter) const { return {kHandleX, area(parameter).center().y()}; }
+
+    [[nodiscard]] double xOf(double time) const { return mPlot.left() + (time - mXmin) * mPixelsPerSecond; }
+    [[nodiscard]] double timeAt(double x) const { return mXmin + (x - mPlot.left()) / mPixelsPerSecond; }
+    [[nodiscard]] double pixelsPerSecond() const { return mPixelsPerSecond; }
+    [[nodiscard]] static double yOf(double value, const QRectF& area, const std::array<double, 2>& range);
+    [[nodiscard]] static double valueAt(double y, const QRectF& area, const std::array<double, 2>& range);
+
+    /// A name cut to what a line of the legend or the table shows.
+    [[nodiscard]] static QString shortened(const QString& name, int length);
+
+    static constexpr double kHandleX = 10.0;
+    static constexpr double kHandleReach = 1500.0; ///< squared distance within which a handle is hit
+    static constexpr int kLongestName = 24;
+
+private:
+    void placeLegend(const GraphModel& model, double width);
+    [[nodiscard]] double axisWidth(const GraphModel& model, double height) const;
+
+    QRectF mPlot;
+    QRectF mLegendRect;
+    QRectF mTable;
+    ELegend mLegend = ELegend::eNone;
+    double mTextSize = 11.0, mLine = 14.0, mCharacter = 7.0;
+    int mNameLength = 0;
+    double mXmin = 0.0, mPixelsPerSecond = 1.0;
+};
+
+} // namespace ZARN

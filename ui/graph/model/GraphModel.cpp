@@ -1,0 +1,362 @@
+#include "ui/graph/model/GraphModel.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace ZARN {
+
+namespace {
+
+constexpr int kFirstParameters = 6;
+constexpr int kMostParameters = 1000;
+constexpr double kWidestWindow = 1e7; // seconds; wheel and keys stop there
+
+constexpr GraphColour kTraceColours[] = {{1.0F, 0.0F, 0.0F}, {0.0F, 0.7F, 0.0F}, {0.0F, 0.0F, 0.7F},
+                                         {0.5F, 0.5F, 0.0F}, {0.0F, 0.5F, 0.5F}, {0.5F, 0.0F, 0.5F}};
+
+} // namespace
+
+GraphModel::GraphModel(QObject* pParent) : QObject(pParent)
+{
+    setMaxParameters(kFirstParameters);
+}
+
+void GraphModel::windowChanged()
+{
+    mCountdown = kCountdown;
+    Q_EMIT signalRecalculate();
+    recalcFrameBuffer();
+    changed();
+}
+
+void GraphModel::setWindow(double xmin, double xmax)
+{
+    if (!std::isfinite(xmin) || !std::isfinite(xmax))
+        return;
+    mXmin = xmin;
+    mXmax = xmax;
+    windowChanged();
+}
+
+void GraphModel::setXmin(float seconds)
+{
+    setWindow(static_cast<double>(seconds), mXmax);
+}
+
+void GraphModel::setXmax(float seconds)
+{
+    setWindow(mXmin, static_cast<double>(seconds));
+}
+
+void GraphModel::setT0(float seconds)
+{
+    const auto start = static_cast<double>(seconds);
+    setWindow(start, start + width());
+}
+
+void GraphModel::setXrange(float seconds)
+{
+    const auto range = static_cast<double>(seconds);
+    if (mGraphMode == eAutomatic)
+        setWindow(mXmax - range, mXmax);
+    else
+        setWindow(mXmin, mXmin + range);
+}
+
+void GraphModel::zoomToMarker()
+{
+    mGraphMode = eManual;
+    setWindow(mMarkerStart, std::max(mMarkerEnd, mMarkerStart + kSmallestWindow));
+    Q_EMIT signalManMode();
+}
+
+void GraphModel::zoomAbout(double time, double factor)
+{
+    const double wanted = width() * factor;
+    if (!std::isfinite(time) || (wanted < kSmallestWindow && factor < 1) || (wanted > kWidestWindow && factor > 1))
+        return;
+    mXmin = time - (time - mXmin) * factor;
+    mXmax = time - (time - mXmax) * factor;
+    mCountdown = kCountdown;
+    Q_EMIT signalRecalculate();
+    recalcFrameBuffer();
+    changed();
+}
+
+void GraphModel::setTime(double seconds)
+{
+    const double time = std::isnan(seconds) ? 0.0 : std::clamp(seconds, 0.0, kLatestTime);
+    mTime = time;
+    mDataPresent = true;
+    for (GraphParameter& parameter : mParameters)
+        parameter.valuePut = false;
+    if (mGraphMode == eAutomatic) {
+        const double width = this->width();
+        mXmax = time;
+        mXmin = time - width;
+    }
+    if (mModeChanged)
+        recalcFrameBuffer();
+    changed();
+}
+
+void GraphModel::takeOverTime()
+{
+    if (mGraphMode == eManual)
+        return;
+    setGraphMode(eManual);
+    Q_EMIT signalManMode();
+}
+
+void GraphModel::setYmin(float value)
+{
+    mYmin = static_cast<double>(value);
+    windowChanged();
+}
+
+void GraphModel::setYmax(float value)
+{
+    mYmax = static_cast<double>(value);
+    windowChanged();
+}
+
+void GraphModel::setAutoScaleY(bool on)
+{
+    mAutoScaleY = on;
+    changed();
+}
+
+void GraphModel::setAutoScaleYSpread(double spread)
+{
+    mSpread = std::isfinite(spread) ? spread : 0.0;
+    changed();
+}
+
+void GraphModel::setYRange(double lower, double upper)
+{
+    mYRange = {lower, upper};
+    changed();
+}
+
+void GraphModel::setYRangeOn(bool on)
+{
+    mYRangeOn = on;
+    changed();
+}
+
+void GraphModel::setCursorPosition(double time)
+{
+    if (!std::isfinite(time))
+        return;
+    mCursorTime = time;
+    if (mCursorMode == eCenter) {
+        const double half = width() / 2;
+        mXmin = time - half;
+        mXmax = time + half;
+        recalcFrameBuffer();
+    }
+    changed();
+}
+
+void GraphModel::moveCursor(double time, double value, int index)
+{
+    mCursorIndex = index;
+    mCursorValue = value;
+    setCursorPosition(time);
+    Q_EMIT signalCursor(static_cast<float>(mCursorTime), mCursorValue);
+}
+
+void GraphModel::setCursorMoving(bool on)
+{
+    if (mCursorMoving == on)
+        return;
+    mCursorMoving = on;
+    changed();
+}
+
+void GraphModel::setMarker(double start, double end)
+{
+    if (!std::isfinite(start) || !std::isfinite(end))
+        return;
+    mMarkerStart = start;
+    mMarkerEnd = end;
+    changed();
+}
+
+std::vector<MarkerValues> GraphModel::markerValues() const
+{
+    std::vector<MarkerValues> out;
+    const auto [start, end] = std::minmax(mMarkerStart, mMarkerEnd);
+    for (const int index : mShown)
+        out.push_back(MarkerValues::of(mParameters[static_cast<std::size_t>(index)], start, end));
+    return out;
+}
+
+void GraphModel::addTopMarker(int index, double time)
+{
+    mTopMarkers.push_back({index, time});
+    changed();
+}
+
+void GraphModel::setGraphMode(eGraphMode mode)
+{
+    mGraphMode = mode;
+    mModeChanged = true;
+    changed();
+}
+
+void GraphModel::setDisplayMode(eDisplayMode mode)
+{
+    mDisplayMode = mode;
+    changed();
+}
+
+void GraphModel::setCursorMode(eCursorMode mode)
+{
+    mCursorMode = mode;
+    changed();
+}
+
+void GraphModel::activateGrid(bool on)
+{
+    mGridOn = on;
+    changed();
+}
+
+void GraphModel::activateCursor(bool on)
+{
+    mCursorOn = on;
+    changed();
+}
+
+void GraphModel::activateLegend(bool on)
+{
+    mLegendOn = on;
+    changed();
+}
+
+void GraphModel::setOfflineMode(bool on)
+{
+    mOffline = on;
+    changed();
+}
+
+void GraphModel::setColours(const GraphColours& colours)
+{
+    mColours = colours;
+    changed();
+}
+
+void GraphModel::setMessage(const QString& text)
+{
+    mMessage = text;
+    changed();
+}
+
+void GraphModel::setMaxParameters(int count)
+{
+    mParameters.clear();
+    mParameters.resize(static_cast<std::size_t>(std::clamp(count, 0, kMostParameters)));
+    mOrder.clear();
+    for (std::size_t i = 0; i < mParameters.size(); ++i) {
+        mParameters[i].colour = kTraceColours[i % std::size(kTraceColours)];
+        mParameters[i].colourKey = QStringLiteral("GraphColor%1").arg(i);
+        mOrder.push_back(static_cast<int>(i));
+    }
+    ++mGeneration;
+    updateShown();
+    changed();
+}
+
+void GraphModel::updateShown()
+{
+    mShown.clear();
+    for (const int index : mOrder) {
+        if (mParameters[static_cast<std::size_t>(index)].active)
+            mShown.push_back(index);
+    }
+    if (std::ranges::find(mShown, mHighlighted) == mShown.end())
+        mHighlighted = -1;
+}
+
+const GraphParameter* GraphModel::parameter(int index) const
+{
+    return index >= 0 && static_cast<std::size_t>(index) < mParameters.size() ? &mParameters[static_cast<std::size_t>(index)] : nullptr;
+}
+
+GraphParameter* GraphModel::at(int index)
+{
+    return index >= 0 && static_cast<std::size_t>(index) < mParameters.size() ? &mParameters[static_cast<std::size_t>(index)] : nullptr;
+}
+
+void GraphModel::setActive(int index, bool on)
+{
+    GraphParameter* pParameter = at(index);
+    if (!pParameter || pParameter->active == on)
+        return;
+    pParameter->active = on;
+    ++mGeneration;
+    updateShown();
+    changed();
+}
+
+void GraphModel::activateSamples(int index, bool on)
+{
+    if (GraphParameter* pParameter = at(index))
+        pParameter->samplesVisible = on;
+    changed();
+}
+
+void GraphModel::setPrecision(int index, int digits)
+{
+    if (GraphParameter* pParameter = at(index))
+        pParameter->precision = std::clamp(digits, 0, 17);
+    changed();
+}
+
+void GraphModel::setParameterColor(int index, float red, float green, float blue)
+{
+    if (GraphParameter* pParameter = at(index))
+        pParameter->colour = {red, green, blue};
+    changed();
+}
+
+void GraphModel::setParameterName(int index, const QString& name, const QString& unit)
+{
+    if (GraphParameter* pParameter = at(index)) {
+        pParameter->name = name;
+        pParameter->unit = unit;
+    }
+    changed();
+}
+
+void GraphModel::setBands(int index, std::vector<GraphBand> bands)
+{
+    if (GraphParameter* pParameter = at(index))
+        pParameter->bands = std::move(bands);
+    changed();
+}
+
+void GraphModel::moveParameter(int from, int to)
+{
+    const auto source = std::ranges::find(mOrder, from), target = std::ranges::find(mOrder, to);
+    if (source == mOrder.end() || target == mOrder.end() || source == target)
+        return;
+    if (source < target)
+        std::rotate(source, source + 1, target + 1);
+    else
+        std::rotate(target, source, source + 1);
+    updateShown();
+    changed();
+    Q_EMIT signalMoveParameter(from, to);
+}
+
+void GraphModel::setHighlighted(int index)
+{
+    if (mHighlighted == index)
+        return;
+    mHighlighted = index;
+    changed();
+}
+
+} // namespace ZARN

@@ -1,0 +1,185 @@
+#include "ui/graph/model/GraphTables.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+
+#include <algorithm>
+#include <cmath>
+
+namespace ZARN {
+
+namespace {
+
+constexpr double kSwatch = 10.0;
+constexpr int kDigits = 8; // characters of a number
+
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("ZARN::GraphTables", text);
+}
+
+QString number(double value, int precision)
+{
+    // What does not fit its column is written shorter, never cut.
+    QString text = QString::number(value, 'f', std::clamp(precision, 0, 17));
+    if (text.size() > kDigits)
+        text = QString::number(value, 'g', 4);
+    return text.rightJustified(kDigits);
+}
+
+/// The extremes within the window; empty when no sample lies in it.
+ValueRange<double> windowRange(const GraphModel& model, const SampleSeries& samples)
+{
+    const std::size_t first = samples.firstAtOrAfter(model.xmin());
+    const auto last = samples.lastAtOrBefore(model.xmax());
+    return last && first <= *last ? samples.range(first, *last + 1) : ValueRange<double>{};
+}
+
+} // namespace
+
+void GraphTables::draw(Canvas& canvas) const
+{
+    drawLegend(canvas);
+    drawMarkerTable(canvas);
+}
+
+CanvasText GraphTables::style(bool isBold) const
+{
+    return {mLayout.textSize(), mModel.colours().label.colour(), isBold, Qt::AlignLeft | Qt::AlignTop, false};
+}
+
+QString GraphTables::legendText(const GraphModel& model, int index, GraphLayout::ELegend kind)
+{
+    const GraphParameter& parameter = *model.parameter(index);
+    const QString unit = QStringLiteral(" [") + GraphLayout::shortened(parameter.unit, GraphLayout::kLongestName / 2) + QLatin1Char(']');
+    QString text;
+    if (kind == GraphLayout::ELegend::eCursor || kind == GraphLayout::ELegend::eFull) {
+        double value = 0.0;
+        const bool isKnown = model.getValue(index, model.cursorTime(), value);
+        text += QLatin1Char(' ') + (isKnown ? number(value, parameter.precision) : QStringLiteral("-").rightJustified(kDigits));
+    }
+    if (kind == GraphLayout::ELegend::eFull) {
+        const ValueRange<double> range = windowRange(model, parameter.samples);
+        for (const double value : {range.least, range.greatest})
+            text += QLatin1Char(' ') + (range.isEmpty() ? QStringLiteral("-").rightJustified(kDigits) : number(value, parameter.precision));
+    }
+    return parameter.unit.isEmpty() ? text : text + unit;
+}
+
+void GraphTables::drawLegend(Canvas& canvas) const
+{
+    if (!mModel.isLegendOn() || mModel.nrActive() == 0)
+        return;
+    if (mLayout.legendKind() == GraphLayout::ELegend::eNone)
+        return drawStripNames(canvas);
+    int missing = 0;
+    double bottom = mLayout.legend().top() + mLayout.line();
+    for (std::size_t row = 0; row < mModel.shown().size(); ++row) {
+        const QRectF line = mLayout.legendLine(mModel, row);
+        if (line.isEmpty()) {
+            ++missing;
+            continue;
+        }
+        drawLegendLine(canvas, line, mModel.shown()[row]);
+        bottom = line.bottom();
+    }
+    drawLegendHeader(canvas);
+    if (missing > 0)
+        canvas.text(QPointF(mLayout.legend().left() + kSwatch + 6, bottom), translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "%1 more")).arg(missing),
+                    style(false));
+}
+
+void GraphTables::drawLegendHeader(Canvas& canvas) const
+{
+    if (mLayout.legendKind() == GraphLayout::ELegend::eNames)
+        return;
+    QString text = translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "Cursor")).left(kDigits).rightJustified(kDigits + 1);
+    if (mLayout.legendKind() == GraphLayout::ELegend::eFull) {
+        text += translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "Min")).left(kDigits).rightJustified(kDigits + 1);
+        text += translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "Max")).left(kDigits).rightJustified(kDigits + 1);
+    }
+    // Strips have their lines at their own heights, so the header stands above the first.
+    const bool isSplit = mModel.displayMode() == eSplit;
+    const double y = mLayout.legend().top() - (isSplit ? mLayout.line() : 0.0);
+    const double x = mLayout.legend().left() + kSwatch + 6 + mLayout.nameLength() * mLayout.character();
+    canvas.text(QPointF(x, y), text, style(false));
+}
+
+void GraphTables::drawLegendLine(Canvas& canvas, const QRectF& line, int index) const
+{
+    const GraphParameter& parameter = *mModel.parameter(index);
+    if (index == mModel.highlighted())
+        canvas.fillRect(line, QColor(255, 255, 255, 110));
+    canvas.fillRect(QRectF(line.left() + 2, line.top() + 3, kSwatch, line.height() - 6), parameter.colour.colour());
+    const double x = line.left() + kSwatch + 6;
+    canvas.text(QPointF(x, line.top()), GraphLayout::shortened(parameter.name, GraphLayout::kLongestName), style(true));
+    canvas.text(QPointF(x + mLayout.nameLength() * mLayout.character(), line.top()), legendText(mModel, index, mLayout.legendKind()), style(false));
+}
+
+void GraphTables::drawStripNames(Canvas& canvas) const
+{
+    double y = mLayout.plot().top() + 3;
+    for (const int index : mModel.shown()) {
+        const GraphParameter& parameter = *mModel.parameter(index);
+        const QRectF area = mLayout.area(parameter);
+        if (mModel.displayMode() == eSplit)
+            y = area.top() + 2;
+        if (y + mLayout.line() > area.bottom())
+            continue;
+        const QString text = GraphLayout::shortened(parameter.label(), 40);
+        const double width = canvas.textSize(text, style(true)).width() + kSwatch + 8;
+        const double x = area.left() + 3;
+        QColor box = mModel.colours().labelBackground.colour();
+        box.setAlpha(210);
+        canvas.fillRect(QRectF(x, y, width, mLayout.line()), box);
+        canvas.fillRect(QRectF(x + 2, y + 3, kSwatch, mLayout.line() - 6), parameter.colour.colour());
+        canvas.text(QPointF(x + kSwatch + 5, y), text, style(true));
+        y += mLayout.line();
+    }
+}
+
+void GraphTables::drawMarkerTable(Canvas& canvas) const
+{
+    const QRectF& table = mLayout.table();
+    if (table.isEmpty())
+        return;
+    std::vector<QStringList> rows{QStringList{QString()} + MarkerValues::headers()};
+    const auto room = static_cast<std::size_t>(std::max(2.0, std::floor(table.height() / mLayout.line())));
+    const std::vector<MarkerValues> values = mModel.markerValues();
+    const std::size_t fitting = values.size() + 1 <= room ? values.size() : room - 2;
+    for (std::size_t i = 0; i < fitting; ++i) {
+        rows.push_back(QStringList{GraphLayout::shortened(values[i].pParameter->label(), GraphLayout::kLongestName + 8)} + values[i].texts());
+        rows.back().back() += QStringLiteral(" [") + integralUnit(values[i].pParameter->unit) + QLatin1Char(']');
+    }
+    std::vector<int> widths(static_cast<std::size_t>(rows.front().size()), 0);
+    for (const QStringList& row : rows) {
+        for (std::size_t i = 0; i < widths.size(); ++i)
+            widths[i] = std::max(widths[i], static_cast<int>(row[static_cast<qsizetype>(i)].size()) + 2);
+    }
+    double y = table.top();
+    for (std::size_t i = 0; i < rows.size(); ++i, y += mLayout.line()) {
+        if (i > 0)
+            canvas.fillRect(QRectF(table.left() + 2, y + 3, kSwatch, mLayout.line() - 6), values[i - 1].pParameter->colour.colour());
+        drawRow(canvas, y, rows[i], widths);
+    }
+    if (fitting < values.size())
+        canvas.text(QPointF(table.left() + kSwatch + 6, y),
+                    translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "%1 more: see Copy Values")).arg(values.size() - fitting), style(false));
+}
+
+void GraphTables::drawRow(Canvas& canvas, double y, const QStringList& cells, const std::vector<int>& widths) const
+{
+    double x = mLayout.table().left() + kSwatch + 6;
+    for (std::size_t i = 0; i < widths.size(); ++i) {
+        const double width = widths[i] * mLayout.character();
+        if (x + width > mLayout.table().right() + mLayout.character())
+            return; // columns that find no room are in the copied text
+        CanvasText text = style(i == 0);
+        if (i > 0)
+            text.align = Qt::AlignRight | Qt::AlignTop;
+        canvas.text(QPointF(i == 0 ? x : x + width, y), cells[static_cast<qsizetype>(i)], text);
+        x += width;
+    }
+}
+
+} // namespace ZARN

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "ui/canvas/Canvas.h"
+#include "ui/graph/model/GraphLayout.h"
+
+namespace ZARN {
+
+/// Draws what the graph tells in words: the legend beside the plot, and the values of the marker below it.
+class GraphTables {
+public:
+    GraphTables(const GraphModel& model, const GraphLayout& layout) : mModel(model), mLayout(layout) {}
+
+    void draw(Canvas& canvas) const;
+
+    /// A line of the legend behind the name: the value at the cursor, the least and the greatest in the window, and the unit.
+    [[nodiscard]] static QString legendText(const GraphModel& model, int index, GraphLayout::ELegend kind);
+
+private:
+    void drawLegend(Canvas& canvas) const;
+    void drawLegendHeader(Canvas& canvas) const;
+    void drawLegendLine(Canvas& canvas, const QRectF& line, int index) const;
+    void drawStripNames(Canvas& canvas) const;
+    void drawMarkerTable(Canvas& canvas) const;
+    void drawRow(Canvas& canvas, double y, const QStringList& cells, const std::vector<int>& widths) const;
+    [[nodiscard]] CanvasText style(bool isBold) const;
+
+    const GraphModel& mModel;
+    const GraphLayout& mLayout;
+};
+
+} // namespace ZARN

@@ -1,0 +1,114 @@
+#include "ui/graph/model/MarkerValues.h"
+
+#include "card/CardContainer.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+
+#include <algorithm>
+#include <cmath>
+
+namespace ZARN {
+
+namespace {
+
+constexpr double kSecondsPerHour = 3600.0;
+
+QString numberText(const std::optional<double>& value, int precision)
+{
+    return value ? QString::number(*value, std::abs(*value) < 1e15 ? 'f' : 'g', std::clamp(precision, 0, 17)) : QStringLiteral("-");
+}
+
+QString header(const char* text)
+{
+    return QCoreApplication::translate("ZARN::MarkerValues", text);
+}
+
+/// A cell must not break the table.
+QString cell(QString text)
+{
+    return text.replace(QLatin1Char('\t'), QLatin1Char(' ')).replace(QLatin1Char('\n'), QLatin1Char(' '));
+}
+
+} // namespace
+
+MarkerValues MarkerValues::of(const GraphParameter& parameter, double start, double end)
+{
+    MarkerValues out;
+    out.pParameter = &parameter;
+    const SampleSeries& samples = parameter.samples;
+    const auto valueAt = [&](double time) -> std::optional<double> {
+        const std::optional<std::size_t> position = samples.lastAtOrBefore(time);
+        return position ? std::optional(samples.value(*position)) : std::nullopt;
+    };
+    out.atStart = valueAt(start);
+    out.atEnd = valueAt(end);
+    if (out.atStart && out.atEnd)
+        out.difference = *out.atEnd - *out.atStart;
+
+    ValueRange<double> range;
+    const std::size_t first = samples.firstAtOrAfter(start), last = samples.lastAtOrBefore(end).value_or(0);
+    if (!samples.empty() && first <= last && samples.time(last) <= end)
+        range = samples.range(first, last + 1);
+    if (range.isEmpty() && out.atStart && out.atEnd) {
+        range.add(*out.atStart);
+        range.add(*out.atEnd);
+    }
+    if (range.isEmpty())
+        return out;
+    out.minimum = range.least;
+    out.maximum = range.greatest;
+    double covered = 0.0;
+    const double area = samples.integral(start, end, &covered);
+    if (covered > 0) {
+        out.mean = area / covered;
+        out.integral = area / kSecondsPerHour;
+    } else {
+        out.mean = out.atEnd;
+    }
+    return out;
+}
+
+QStringList MarkerValues::texts() const
+{
+    const int precision = pParameter->precision;
+    QStringList out;
+    for (const std::optional<double>& value : {atStart, atEnd, difference, minimum, maximum})
+        out << numberText(value, precision);
+    // What is computed has more digits than what was recorded.
+    return out << numberText(mean, precision + 1) << numberText(integral, precision + 1);
+}
+
+QStringList MarkerValues::headers()
+{
+    return {header(QT_TRANSLATE_NOOP("ZARN::MarkerValues", "From")), header(QT_TRANSLATE_NOOP("ZARN::MarkerValues", "To")),
+            header(QT_TRANSLATE_NOOP("ZARN::MarkerValues", "Difference")), header(QT_TRANSLATE_NOOP("ZARN::MarkerValues", "Minimum")),
+            header(QT_TRANSLATE_NOOP("ZARN::MarkerValues", "Maximum")), header(QT_TRANSLATE_NOOP("ZARN::MarkerValues", "Mean")),
+            header(QT_TRANSLATE_NOOP("ZARN::MarkerValues", "Integral"))};
+}
+
+QString integralUnit(const QString& unit)
+{
+    if (unit.endsWith(QLatin1String("/h")))
+        return unit.chopped(2);
+    return unit.isEmpty() ? QStringLiteral("h") : unit + QStringLiteral("\u00b7h");
+}
+
+QString markerText(std::span<const MarkerValues> values, double start, double end)
+{
+    QString text = header(QT_TRANSLATE_NOOP("ZARN::MarkerValues", "Time")) + QLatin1Char('\t') + CardContainer::time(start) + QLatin1Char('\t')
+                   + CardContainer::time(end) + QLatin1Char('\n');
+    text += QStringLiteral("dt\t%1 s\n").arg(end - start, 0, 'f', 3);
+    const QStringList columns = MarkerValues::headers();
+    text += header(QT_TRANSLATE_NOOP("ZARN::MarkerValues", "Parameter")) + QLatin1Char('\t') + header(QT_TRANSLATE_NOOP("ZARN::MarkerValues", "Unit"))
+            + QLatin1Char('\t') + columns.join(QLatin1Char('\t')) + QLatin1Char('\t')
+            + header(QT_TRANSLATE_NOOP("ZARN::MarkerValues", "Unit of integral")) + QLatin1Char('\n');
+    for (const MarkerValues& line : values) {
+        const QString unit = cell(line.pParameter->unit);
+        text += cell(line.pParameter->name) + QLatin1Char('\t') + unit + QLatin1Char('\t') + line.texts().join(QLatin1Char('\t')) + QLatin1Char('\t')
+                + cell(integralUnit(line.pParameter->unit)) + QLatin1Char('\n');
+    }
+    return text;
+}
+
+} // namespace ZARN

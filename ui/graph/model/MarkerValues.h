@@ -1,0 +1,37 @@
+#pragma once
+
+#include "ui/graph/model/GraphParameter.h"
+
+#include <QStringList>
+
+#include <optional>
+#include <span>
+
+namespace ZARN {
+
+/// What a trace does between two times. Values are the recorded ones in force at the ends; the mean is weighted by time and the integral
+/// is in unit x hours, both over the straight lines between the samples.
+struct MarkerValues {
+    const GraphParameter* pParameter = nullptr;
+    std::optional<double> atStart; ///< none before the first sample
+    std::optional<double> atEnd;
+    std::optional<double> difference;
+    std::optional<double> minimum; ///< of the samples from start to end; of the values at the ends where no sample lies between
+    std::optional<double> maximum;
+    std::optional<double> mean;
+    std::optional<double> integral;
+
+    static MarkerValues of(const GraphParameter& parameter, double start, double end);
+    /// The seven numbers in the order above, in the parameter's precision; "-" for what is not known.
+    [[nodiscard]] QStringList texts() const;
+    /// Their names, translated.
+    [[nodiscard]] static QStringList headers();
+};
+
+/// The unit of an integral over hours: what is left of a flow per hour, else the unit times hours.
+[[nodiscard]] QString integralUnit(const QString& unit);
+
+/// A table for the clipboard: two lines that name the stretch, the headers, and a line for each trace; cells apart by tabulators.
+[[nodiscard]] QString markerText(std::span<const MarkerValues> values, double start, double end);
+
+} // namespace ZARN

@@ -1,0 +1,95 @@
+#include "vesk/gl/LineStripsSimple.h"
+
+#include "vesk/gl/Device.h"
+#include "vesk/gl/Strokes.h"
+
+#include <cmath>
+
+namespace VESK::OpenGL {
+
+void LineStripsSimple::beginStrip()
+{
+    mStarts.push_back(mPoints.size());
+}
+
+void LineStripsSimple::addVertex(const QPointF& point, const QColor& colour)
+{
+    mPoints.push_back(point);
+    if (mHasColours) {
+        mColours.resize(mPoints.size() - 1, mStyle.colour);
+        mColours.push_back(colour);
+    }
+}
+
+void LineStripsSimple::addStrip(std::span<const QPointF> points)
+{
+    beginStrip();
+    mPoints.insert(mPoints.end(), points.begin(), points.end());
+    if (mHasColours)
+        mColours.resize(mPoints.size(), mStyle.colour);
+}
+
+void LineStripsSimple::clear()
+{
+    mPoints.clear();
+    mColours.clear();
+    mStarts.clear();
+}
+
+void LineStripsSimple::draw(Device& device) const
+{
+    std::size_t first = 0;
+    for (const std::size_t start : mStarts) {
+        drawStrip(device, first, start);
+        first = start;
+    }
+    drawStrip(device, first, mPoints.size());
+}
+
+void LineStripsSimple::drawStrip(Device& device, std::size_t first, std::size_t last) const
+{
+    if (last < first + 2)
+        return;
+    if (Strokes::isThin(mStyle, device.ratio()))
+        return drawThin(device, first, last);
+    Strokes strokes(mStyle, device.ratio());
+    double length = 0;
+    QPointF from = device.matrix().map(mPoints[first]);
+    VertexColour fromColour = vertexColour(colour(first));
+    for (std::size_t i = first + 1; i < last; ++i) {
+        const QPointF to = device.matrix().map(mPoints[i]);
+        const VertexColour toColour = mHasColours ? vertexColour(colour(i)) : fromColour;
+        strokes.addLine(from, to, fromColour, toColour, length);
+        if (i + 1 < last)
+            strokes.addJoint(to, toColour);
+        const double step = std::hypot(to.x() - from.x(), to.y() - from.y());
+        length += std::isfinite(step) ? step : 0.0;
+        from = to;
+        fromColour = toColour;
+    }
+    device.addTriangles(strokes.triangles());
+}
+
+void LineStripsSimple::drawThin(Device& device, std::size_t first, std::size_t last) const
+{
+    std::vector<Vertex> vertices;
+    vertices.reserve((last - first) * 2);
+    const VertexColour plain = vertexColour(mStyle.colour);
+    const auto vertex = [&](std::size_t i) {
+        const QPointF at = device.matrix().map(mPoints[i]);
+        const VertexColour bytes = mHasColours ? vertexColour(mColours[i]) : plain;
+        return Vertex{static_cast<float>(at.x()) + 0.5F, static_cast<float>(at.y()) + 0.5F, 0, kUnsmoothed, bytes};
+    };
+    Vertex from = vertex(first);
+    for (std::size_t i = first + 1; i < last; ++i) {
+        const Vertex to = vertex(i);
+        if (std::isfinite(from.x + from.y + to.x + to.y)) {
+            vertices.push_back(from);
+            vertices.push_back(to);
+        }
+        from = to;
+    }
+    device.addThinLines(vertices);
+}
+
+} // namespace VESK::OpenGL
