@@ -1,0 +1,52 @@
+#pragma once
+
+#include "openstreet/core/TileId.h"
+
+#include <QByteArray>
+#include <QImage>
+#include <QPointF>
+#include <QRectF>
+
+#include <list>
+#include <unordered_map>
+#include <vector>
+
+namespace OpenStreet {
+
+/// The built-in map of the world: land, lakes, coasts and borders, drawn tile by tile at any zoom. Needs no network and no files.
+class BaseMap {
+public:
+    using Line = std::vector<QPointF>; ///< x and y of the whole world run from 0 to 1, from the north-west
+    using Area = std::vector<Line>;    ///< outlines, filled by the even-odd rule
+
+    /// What is left of the map within a tile and a little around it.
+    struct Geometry {
+        std::vector<Area> land;
+        std::vector<Area> lakes;
+        std::vector<Line> coasts;
+        std::vector<Line> borders;
+    };
+
+    static constexpr int kEdge = 256;
+
+    /// @param packed the content of the map's file, as tools/make-base-map writes it. @return false, with an empty map, when it is
+    /// something else.
+    bool load(const QByteArray& packed);
+    [[nodiscard]] bool isEmpty() const { return mWorld.land.empty(); }
+
+    [[nodiscard]] QImage tile(const TileId& id);
+    /// The reference stays valid until the next call.
+    [[nodiscard]] const Geometry& geometry(const TileId& id);
+
+private:
+    struct Kept {
+        Geometry geometry;
+        std::list<TileId>::iterator order;
+    };
+
+    Geometry mWorld;
+    std::unordered_map<TileId, Kept, TileIdHash> mKept;
+    std::list<TileId> mOrder; // of use, the latest first
+};
+
+} // namespace OpenStreet

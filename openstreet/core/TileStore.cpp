@@ -1,0 +1,295 @@
+#include "openstreet/core/TileStore.h"
+
+#include "openstreet/core/TileImage.h"
+
+#include <QDateTime>
+
+#include <algorithm>
+
+namespace OpenStreet {
+
+namespace {
+
+constexpr std::size_t kMaxFailures = 4096; // failures remembered of single tiles
+
+} // namespace
+
+TileStore::TileStore(QObject* pParent, Clock clock) : QObject(pParent), mClock(std::move(clock))
+{
+    if (!mClock)
+        mClock = [] { return QDateTime::currentSecsSinceEpoch(); };
+    mWork.setSingleShot(true);
+    mWork.setInterval(0);
+    mRetry.setSingleShot(true);
+    connect(&mWork, &QTimer::timeout, this, &TileStore::work);
+    connect(&mRetry, &QTimer::timeout, this, &TileStore::schedule);
+    connect(&mLoader, &TileLoader::signalFinished, this, &TileStore::slotFinished);
+}
+
+void TileStore::setFolder(const QString& folder)
+{
+    mDisk.setFolder(folder);
+    schedule();
+}
+
+void TileStore::setServer(const TileServer& server)
+{
+    if (server == mServer)
+        return;
+    mServer = server;
+    mLoader.cancelAll();
+    mImages.clear();
+    mOrder.clear();
+    mMemory = 0;
+    mFailures.clear();
+    mServerFailure = {};
+    mLastError.clear();
+    for (auto& [id, wanted] : mWanted)
+        wanted = {eNew, wanted.isSeen, {}};
+    schedule();
+}
+
+void TileStore::setAllowed(bool allowed)
+{
+    if (allowed == mAllowed)
+        return;
+    mAllowed = allowed;
+    if (!allowed) {
+        mLoader.cancelAll();
+        for (auto& [id, wanted] : mWanted)
+            wanted.state = wanted.state == eOnItsWay ? eAsk : wanted.state;
+    }
+    schedule();
+    Q_EMIT signalLoading();
+}
+
+void TileStore::want(const std::vector<TileId>& view, const std::vector<TileId>& ring)
+{
+    std::unordered_map<TileId, Wanted, TileIdHash> before;
+    before.swap(mWanted);
+    mOrderWanted.clear();
+    const auto add = [&](const TileId& id, bool isSeen) {
+        Wanted wanted;
+        if (const auto known = before.find(id); known != before.end()) {
+            wanted = known->second;
+            before.erase(known);
+        }
+        wanted.isSeen = isSeen;
+        if (wanted.state == eSettled && !mImages.contains(id))
+            wanted.state = eNew;
+        if (mWanted.emplace(id, wanted).second)
+            mOrderWanted.push_back(id);
+    };
+    for (const TileId& id : view)
+        add(id, true);
+    for (const TileId& id : ring)
+        add(id, false);
+    for (const auto& [id, wanted] : before) {
+        if (wanted.state == eOnItsWay)
+            mLoader.cancel(id);
+    }
+    schedule();
+}
+
+QImage TileStore::image(const TileId& id)
+{
+    const auto found = mImages.find(id);
+    if (found == mImages.end())
+        return {};
+    mOrder.splice(mOrder.begin(), mOrder, found->second.order);
+    return found->second.image;
+}
+
+int TileStore::loading() const
+{
+    return static_cast<int>(std::count_if(mWanted.begin(), mWanted.end(), [this](const auto& entry) {
+        const auto& [id, wanted] = entry;
+        if (!wanted.isSeen || wanted.state == eSettled)
+            return false;
+        return wanted.state != eAsk || (mAllowed && mServer.isValid() && waitUntil(id) <= now());
+    }));
+}
+
+void TileStore::schedule()
+{
+    if (!mWork.isActive())
+        mWork.start();
+}
+
+void TileStore::work()
+{
+    const int before = loading();
+    while (ask()) {
+    }
+    if (lookUp())
+        schedule();
+    else
+        scheduleRetry();
+    if (loading() != before)
+        Q_EMIT signalLoading();
+}
+
+/// Looks for the first tile that was not looked for. @return whether there was one.
+bool TileStore::lookUp()
+{
+    const auto next = std::find_if(mOrderWanted.begin(), mOrderWanted.end(), [this](const TileId& id) { return mWanted[id].state == eNew; });
+    if (next == mOrderWanted.end())
+        return false;
+    const TileId id = *next;
+    Wanted& wanted = mWanted[id];
+    if (const auto kept = mImages.find(id); kept != mImages.end() && kept->second.expires > now()) {
+        wanted.state = eSettled;
+        return true;
+    }
+    wanted.state = eAsk;
+    std::optional<TileRecord> record = mDisk.read(mServer.key(), id);
+    if (!record)
+        return true;
+    const QImage image = TileImage::decode(record->body);
+    if (image.isNull()) {
+        mDisk.remove(mServer.key(), id);
+        return true;
+    }
+    if (record->expires > now())
+        wanted.state = eSettled;
+    record->body.clear();
+    wanted.known = *record;
+    keep(id, image, record->expires);
+    Q_EMIT signalTile(id);
+    return true;
+}
+
+/// Sends one request when one may be sent and one is due. @return whether it did.
+bool TileStore::ask()
+{
+    if (!mAllowed || !mServer.isValid() || !mLoader.isFree() || mServerFailure.until > now())
+        return false;
+    const auto next = std::find_if(mOrderWanted.begin(), mOrderWanted.end(), [this](const TileId& id) {
+        return mWanted[id].state == eAsk && waitUntil(id) <= now();
+    });
+    if (next == mOrderWanted.end())
+        return false;
+    // What may lie on the disk is looked for first, so that tiles come in the order of their importance.
+    const bool isEarlierOpen = std::any_of(mOrderWanted.begin(), next, [this](const TileId& id) { return mWanted[id].state == eNew; });
+    if (isEarlierOpen)
+        return false;
+    const TileId id = *next;
+    Wanted& wanted = mWanted[id];
+    wanted.state = eOnItsWay;
+    mLoader.get(id, mServer.url(id), wanted.known);
+    return true;
+}
+
+qint64 TileStore::waitUntil(const TileId& id) const
+{
+    const auto failure = mFailures.find(id);
+    return std::max(mServerFailure.until, failure == mFailures.end() ? 0 : failure->second.until);
+}
+
+void TileStore::scheduleRetry()
+{
+    mRetry.stop();
+    if (!mAllowed || !mServer.isValid() || !mLoader.isFree())
+        return;
+    qint64 earliest = 0;
+    for (const auto& [id, wanted] : mWanted) {
+        const qint64 until = waitUntil(id);
+        if (wanted.state == eAsk && (earliest == 0 || until < earliest))
+            earliest = until;
+    }
+    if (earliest > 0)
+        mRetry.start(static_cast<int>(std::clamp<qint64>(earliest - now(), 1, kMissingPause) * 1000));
+}
+
+qint64 TileStore::pause(int failures)
+{
+    return std::min(kFirstPause << std::clamp(failures - 1, 0, 16), kLongestPause);
+}
+
+void TileStore::slotFinished(const TileId& id, const TileReply& reply)
+{
+    switch (reply.kind) {
+    case TileReply::eTile: takeTile(id, reply); break;
+    case TileReply::eNotModified: takeNotModified(id, reply); break;
+    case TileReply::eMissing:
+    case TileReply::eRefused:
+    case TileReply::eFailed: fail(id, reply); break;
+    }
+    schedule();
+    Q_EMIT signalLoading();
+}
+
+void TileStore::takeTile(const TileId& id, const TileReply& reply)
+{
+    TileReply refused = reply;
+    const QImage image = TileImage::decode(reply.record.body, &refused.reason);
+    if (image.isNull()) {
+        refused.kind = TileReply::eRefused;
+        fail(id, refused);
+        return;
+    }
+    mServerFailure = {};
+    mFailures.erase(id);
+    mLastError.clear();
+    if (reply.mayBeKept)
+        mDisk.write(mServer.key(), id, reply.record);
+    keep(id, image, reply.record.expires);
+    if (const auto wanted = mWanted.find(id); wanted != mWanted.end())
+        wanted->second.state = eSettled;
+    Q_EMIT signalTile(id);
+}
+
+void TileStore::takeNotModified(const TileId& id, TileReply reply)
+{
+    mServerFailure = {};
+    mFailures.erase(id);
+    std::optional<TileRecord> record = mDisk.read(mServer.key(), id);
+    if (record) {
+        record->expires = reply.record.expires;
+        if (!reply.record.etag.isEmpty())
+            record->etag = reply.record.etag;
+        mDisk.write(mServer.key(), id, *record);
+    }
+    if (const auto kept = mImages.find(id); kept != mImages.end())
+        kept->second.expires = reply.record.expires;
+    if (const auto wanted = mWanted.find(id); wanted != mWanted.end())
+        wanted->second.state = eSettled;
+}
+
+void TileStore::fail(const TileId& id, const TileReply& reply)
+{
+    mLastError = reply.reason;
+    if (mFailures.size() >= kMaxFailures)
+        mFailures.clear();
+    Failure& failure = mFailures[id];
+    ++failure.count;
+    const bool isServer = reply.kind == TileReply::eFailed;
+    failure.until = now() + (isServer ? pause(failure.count) : kMissingPause);
+    if (isServer) {
+        ++mServerFailure.count;
+        mServerFailure.until = now() + std::max(pause(mServerFailure.count), std::min<qint64>(reply.retryAfter, kMissingPause));
+    } else {
+        mServerFailure = {}; // it answers
+    }
+    if (const auto wanted = mWanted.find(id); wanted != mWanted.end())
+        wanted->second.state = eAsk;
+}
+
+void TileStore::keep(const TileId& id, const QImage& image, qint64 expires)
+{
+    if (const auto old = mImages.find(id); old != mImages.end()) {
+        mMemory -= old->second.image.sizeInBytes();
+        mOrder.erase(old->second.order);
+        mImages.erase(old);
+    }
+    mMemory += image.sizeInBytes();
+    mImages[id] = {image, expires, mOrder.insert(mOrder.begin(), id)};
+    while (mMemory > mMemoryLimit && mOrder.size() > 1) {
+        const auto last = mImages.find(mOrder.back());
+        mMemory -= last->second.image.sizeInBytes();
+        mImages.erase(last);
+        mOrder.pop_back();
+    }
+}
+
+} // namespace OpenStreet

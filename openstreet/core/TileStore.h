@@ -1,0 +1,108 @@
+#pragma once
+
+#include "openstreet/core/TileLoader.h"
+#include "openstreet/core/TileServer.h"
+
+#include <QImage>
+#include <QTimer>
+
+#include <functional>
+#include <list>
+#include <unordered_set>
+#include <vector>
+
+namespace OpenStreet {
+
+/// The pictures of a server's tiles: out of memory, else off the disk, else - only when that is allowed - out of the network. Asks for
+/// nothing but the tiles that are wanted now, two at a time, and for each again only when it has expired. After failures it waits, longer
+/// from time to time. Lives on one thread; works off one file per turn of the event loop.
+class TileStore : public QObject {
+    Q_OBJECT
+
+public:
+    using Clock = std::function<qint64()>; ///< seconds since 1970
+
+    static constexpr qint64 kMemoryLimit = 96LL * 1024 * 1024;
+    static constexpr qint64 kFirstPause = 2; ///< seconds after a failure; doubles from failure to failure
+    static constexpr qint64 kLongestPause = 300;
+    static constexpr qint64 kMissingPause = 3600; ///< before a tile is asked for again that the server lacks
+
+    explicit TileStore(QObject* pParent = nullptr, Clock clock = {});
+
+    void setFolder(const QString& folder);
+    /// Another server: forgets what is in memory, cancels what is on its way.
+    void setServer(const TileServer& server);
+    [[nodiscard]] const TileServer& server() const { return mServer; }
+    /// Whether the network may be used; not before this was called with true.
+    void setAllowed(bool allowed);
+    [[nodiscard]] bool isAllowed() const { return mAllowed; }
+    [[nodiscard]] TileDisk& disk() { return mDisk; }
+    [[nodiscard]] TileLoader& loader() { return mLoader; }
+    void setMemoryLimit(qint64 bytes) { mMemoryLimit = bytes; }
+
+    /// The tiles that are needed from now on, the most important first; the others that are on their way are cancelled.
+    /// @param view those that are seen; @param ring those next to them, which come last.
+    void want(const std::vector<TileId>& view, const std::vector<TileId>& ring);
+    /// The picture of a tile; null when it is not in memory.
+    [[nodiscard]] QImage image(const TileId& id);
+    /// How many of the tiles that are seen are still to come: not those that wait for a failed server or a refusal to pass.
+    [[nodiscard]] int loading() const;
+    /// Why the last tile did not come, in English; empty after one came.
+    [[nodiscard]] const QString& lastError() const { return mLastError; }
+
+Q_SIGNALS:
+    /// A tile has a new picture.
+    void signalTile(const OpenStreet::TileId& id);
+    /// The number of tiles to come has changed.
+    void signalLoading();
+
+private:
+    enum EState { eNew, eAsk, eOnItsWay, eSettled }; ///< not looked for yet; wanted from the server; being fetched; nothing left to do
+    struct Wanted {
+        EState state = eNew;
+        bool isSeen = false;
+        TileRecord known; ///< what the server said of the picture that is here; without the body
+    };
+    struct Kept {
+        QImage image;
+        qint64 expires = 0;
+        std::list<TileId>::iterator order;
+    };
+    struct Failure {
+        int count = 0;
+        qint64 until = 0;
+    };
+
+    [[nodiscard]] qint64 now() const { return mClock(); }
+    void work();
+    void schedule();
+    bool lookUp();
+    bool ask();
+    void scheduleRetry();
+    void slotFinished(const TileId& id, const TileReply& reply);
+    void takeTile(const TileId& id, const TileReply& reply);
+    void takeNotModified(const TileId& id, TileReply reply);
+    void fail(const TileId& id, const TileReply& reply);
+    void keep(const TileId& id, const QImage& image, qint64 expires);
+    [[nodiscard]] qint64 waitUntil(const TileId& id) const;
+    static qint64 pause(int failures);
+
+    Clock mClock;
+    TileServer mServer;
+    TileDisk mDisk;
+    TileLoader mLoader;
+    bool mAllowed = false;
+    qint64 mMemoryLimit = kMemoryLimit;
+    qint64 mMemory = 0;
+    std::unordered_map<TileId, Kept, TileIdHash> mImages;
+    std::list<TileId> mOrder; // of use, the latest first
+    std::vector<TileId> mOrderWanted;
+    std::unordered_map<TileId, Wanted, TileIdHash> mWanted;
+    std::unordered_map<TileId, Failure, TileIdHash> mFailures;
+    Failure mServerFailure;
+    QString mLastError;
+    QTimer mWork;
+    QTimer mRetry;
+};
+
+} // namespace OpenStreet

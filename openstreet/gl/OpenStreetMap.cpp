@@ -1,0 +1,276 @@
+#include "openstreet/gl/OpenStreetMap.h"
+
+#include "openstreet/gl/TileQuads.h"
+#include "vesk/gl/Device.h"
+
+#include <QElapsedTimer>
+
+namespace OpenStreet {
+
+namespace {
+
+constexpr int kMaxServerZoom = 19;
+constexpr qint64 kFrameBudget = 12; // milliseconds that a frame may spend on making tiles
+constexpr std::size_t kMaxUnshaded = 8192;
+
+} // namespace
+
+/// One drawing of the map.
+class OpenStreetMap::Frame {
+public:
+    Frame(OpenStreetMap& map, VESK::OpenGL::Device& device) : mMap(map), mDevice(device) { mClock.start(); }
+
+    void drawBuiltIn(const TileCover& cover);
+    void drawServer(const TileCover& cover);
+    void drawShade(const TileCover& cover);
+    [[nodiscard]] int unfinished() const { return mUnfinished; }
+
+private:
+    [[nodiscard]] bool hasTime() const { return mClock.elapsed() < kFrameBudget; }
+    void draw(const TilePlace& place, const VESK::OpenGL::Texture& texture, const QRectF& part);
+    const VESK::OpenGL::Texture* serverTexture(const TileId& id);
+    const VESK::OpenGL::Texture* builtInTexture(const TileId& id, bool isNeeded);
+    const VESK::OpenGL::Texture* shadeTexture(const TileId& id);
+    bool drawAncestor(const TilePlace& place, ELayer layer);
+    void drawChildren(const TilePlace& place);
+
+    OpenStreetMap& mMap;
+    VESK::OpenGL::Device& mDevice;
+    QElapsedTimer mClock;
+    int mUnfinished = 0;
+};
+
+void OpenStreetMap::Frame::draw(const TilePlace& place, const VESK::OpenGL::Texture& texture, const QRectF& part)
+{
+    mDevice.addTextured(VESK::OpenGL::EShading::eImage, texture, tileTriangles(mMap.mCamera, place, part));
+}
+
+const VESK::OpenGL::Texture* OpenStreetMap::Frame::serverTexture(const TileId& id)
+{
+    if (const VESK::OpenGL::Texture* pTexture = mMap.mTextures.find(ELayer::eServer, id))
+        return pTexture;
+    const QImage image = mMap.mStore.image(id);
+    return image.isNull() ? nullptr : mMap.mTextures.set(ELayer::eServer, id, image);
+}
+
+const VESK::OpenGL::Texture* OpenStreetMap::Frame::builtInTexture(const TileId& id, bool isNeeded)
+{
+    const VESK::OpenGL::Texture* pTexture = mMap.mTextures.find(ELayer::eBuiltIn, id);
+    if (pTexture || mMap.mBaseMap.isEmpty() || !isNeeded)
+        return pTexture;
+    return mMap.mTextures.set(ELayer::eBuiltIn, id, mMap.mBaseMap.tile(id));
+}
+
+const VESK::OpenGL::Texture* OpenStreetMap::Frame::shadeTexture(const TileId& id)
+{
+    if (mMap.mUnshaded.contains(id))
+        return nullptr;
+    if (const VESK::OpenGL::Texture* pTexture = mMap.mTextures.find(ELayer::eShade, id))
+        return pTexture;
+    if (!hasTime()) {
+        ++mUnfinished;
+        return nullptr;
+    }
+    const QImage image = HillShade::tile(mMap.mTerrain, id, mMap.mStyle);
+    if (!image.isNull())
+        return mMap.mTextures.set(ELayer::eShade, id, image);
+    if (mMap.mUnshaded.size() >= kMaxUnshaded)
+        mMap.mUnshaded.clear();
+    mMap.mUnshaded.insert(id);
+    return nullptr;
+}
+
+/// Draws what the nearest larger tile that is here shows of the place.
+bool OpenStreetMap::Frame::drawAncestor(const TilePlace& place, ELayer layer)
+{
+    for (TileId id = place.id; id.zoom > 0;) {
+        id = id.parent();
+        const VESK::OpenGL::Texture* pTexture = layer == ELayer::eServer ? serverTexture(id) : builtInTexture(id, false);
+        if (pTexture) {
+            draw(place, *pTexture, partOfAncestor(place.id, id));
+            return true;
+        }
+    }
+    return false;
+}
+
+/// Draws those of the four smaller tiles that are on the graphics card: the view has just been widened.
+void OpenStreetMap::Frame::drawChildren(const TilePlace& place)
+{
+    for (int i = 0; i < 4; ++i) {
+        const TileId id{place.id.zoom + 1, place.id.x * 2 + i % 2, place.id.y * 2 + i / 2};
+        if (const VESK::OpenGL::Texture* pTexture = mMap.mTextures.find(ELayer::eServer, id))
+            draw({id, place.column * 2 + i % 2}, *pTexture, QRectF(0, 0, 1, 1));
+    }
+}
+
+void OpenStreetMap::Frame::drawBuiltIn(const TileCover& cover)
+{
+    builtInTexture({}, true); // the world stands in where nothing else does
+    for (const TilePlace& place : cover.view()) {
+        if (mMap.mType == MapType::eTiles && mMap.mTextures.isOpaque(ELayer::eServer, place.id))
+            continue;
+        const bool mayBeMade = hasTime();
+        if (const VESK::OpenGL::Texture* pTexture = builtInTexture(place.id, mayBeMade))
+            draw(place, *pTexture, QRectF(0, 0, 1, 1));
+        else
+            drawAncestor(place, ELayer::eBuiltIn);
+        if (!mayBeMade && !mMap.mTextures.has(ELayer::eBuiltIn, place.id))
+            ++mUnfinished;
+    }
+}
+
+void OpenStreetMap::Frame::drawServer(const TileCover& cover)
+{
+    for (const TilePlace& place : cover.view()) {
+        if (const VESK::OpenGL::Texture* pTexture = serverTexture(place.id)) {
+            draw(place, *pTexture, QRectF(0, 0, 1, 1));
+            continue;
+        }
+        drawAncestor(place, ELayer::eServer);
+        drawChildren(place);
+    }
+}
+
+void OpenStreetMap::Frame::drawShade(const TileCover& cover)
+{
+    for (const TilePlace& place : cover.view()) {
+        if (const VESK::OpenGL::Texture* pTexture = shadeTexture(place.id))
+            draw(place, *pTexture, QRectF(0, 0, 1, 1));
+    }
+}
+
+OpenStreetMap::OpenStreetMap()
+{
+    QObject::connect(&mStore, &TileStore::signalTile, &mStore, [this](const TileId& id) {
+        mTextures.forget(ELayer::eServer, id);
+        if (mChanged)
+            mChanged();
+    });
+    QObject::connect(&mStore, &TileStore::signalLoading, &mStore, [this] {
+        if (mChanged)
+            mChanged();
+    });
+}
+
+OpenStreetMap::~OpenStreetMap() = default;
+
+void OpenStreetMap::setTileDirectory(const char* path)
+{
+    mStore.setFolder(QString::fromUtf8(path));
+}
+
+void OpenStreetMap::setTerrainPath(const char* path)
+{
+    mTerrain.setFolder(QString::fromUtf8(path));
+    mUnshaded.clear();
+    mTextures.forget(ELayer::eShade);
+}
+
+void OpenStreetMap::setTileServer(const char* address)
+{
+    mStore.setServer(TileServer(QString::fromUtf8(address)));
+    mTextures.forget(ELayer::eServer);
+}
+
+void OpenStreetMap::setMapType(MapType type)
+{
+    mType = type;
+    mAsked.clear();
+    if (type == MapType::eBuiltIn)
+        mStore.want({}, {});
+}
+
+void OpenStreetMap::setShadingStyle(const ShadingStyle& style)
+{
+    if (style == mStyle)
+        return;
+    mStyle = style;
+    mTextures.forget(ELayer::eShade);
+}
+
+void OpenStreetMap::setBrightness(double brightness)
+{
+    ShadingStyle style = mStyle;
+    style.brightness = brightness;
+    setShadingStyle(style);
+}
+
+void OpenStreetMap::setContrast(double contrast)
+{
+    ShadingStyle style = mStyle;
+    style.contrast = contrast;
+    setShadingStyle(style);
+}
+
+void OpenStreetMap::setShadingFactor(double factor)
+{
+    ShadingStyle style = mStyle;
+    style.factor = factor;
+    setShadingStyle(style);
+}
+
+void OpenStreetMap::setLightDirection(double east, double north, double up)
+{
+    ShadingStyle style = mStyle;
+    style.east = east;
+    style.north = north;
+    style.up = up;
+    setShadingStyle(style);
+}
+
+void OpenStreetMap::setPosition(double latitude, double longitude, double /*altitude*/)
+{
+    mCamera.setPosition({latitude, longitude});
+}
+
+void OpenStreetMap::window2LatLong(double x, double y, double* pLatitude, double* pLongitude) const
+{
+    const GeoPoint place = mCamera.windowToGeo({x, y});
+    *pLatitude = place.latitude;
+    *pLongitude = place.longitude;
+}
+
+void OpenStreetMap::window2LatLongFromPos(double x, double y, double middleLatitude, double middleLongitude, double* pLatitude,
+                                          double* pLongitude) const
+{
+    Camera camera = mCamera;
+    camera.setPosition({middleLatitude, middleLongitude});
+    const GeoPoint place = camera.windowToGeo({x, y});
+    *pLatitude = place.latitude;
+    *pLongitude = place.longitude;
+}
+
+void OpenStreetMap::latLong2Window(double latitude, double longitude, double* pX, double* pY) const
+{
+    const WindowPoint point = mCamera.geoToWindow({latitude, longitude});
+    *pX = point.x;
+    *pY = point.y;
+}
+
+int OpenStreetMap::nrLoadingTiles() const
+{
+    return mUnfinished + (mType == MapType::eTiles ? mStore.loading() : 0);
+}
+
+void OpenStreetMap::render(VESK::OpenGL::Device& device)
+{
+    const TileCover cover(mCamera, mPixelRatio, kMaxServerZoom);
+    if (mType == MapType::eTiles && mStore.server().isValid() && !mIsMoving) {
+        std::vector<TileId> seen = cover.ids();
+        if (seen != mAsked) {
+            mStore.want(seen, cover.ring());
+            mAsked = std::move(seen);
+        }
+    }
+    mTextures.beginFrame();
+    Frame frame(*this, device);
+    frame.drawBuiltIn(cover);
+    if (mType == MapType::eTiles)
+        frame.drawServer(cover);
+    if (mIsShaded && mTerrain.isAvailable())
+        frame.drawShade(cover);
+    mUnfinished = frame.unfinished();
+}
+
+} // namespace OpenStreet

@@ -1,0 +1,106 @@
+#pragma once
+
+#include "openstreet/core/BaseMap.h"
+#include "openstreet/core/Camera.h"
+#include "openstreet/core/HillShade.h"
+#include "openstreet/core/TileCover.h"
+#include "openstreet/core/TileStore.h"
+#include "openstreet/gl/TileTextures.h"
+
+#include <functional>
+
+namespace VESK::OpenGL {
+class Device;
+}
+
+namespace OpenStreet {
+
+/// What is drawn: the tiles of the server over the built-in map, or the built-in map alone.
+enum class MapType { eTiles = 0, eBuiltIn = 1 };
+
+/// A map in an OpenGL view: the built-in map of the world, above it the tiles of a server, above them the light and shadow of the terrain.
+/// Tiles that are not there yet are stood in for by parts of larger ones. Window positions are logical pixels from the left upper
+/// corner, paths and addresses UTF-8. Fetches nothing before setTilesAllowed(true).
+class OpenStreetMap {
+public:
+    OpenStreetMap();
+    /// The context in which it drew must be current, or gone, or releaseGraphics() have been called.
+    ~OpenStreetMap();
+    OpenStreetMap(const OpenStreetMap&) = delete;
+    OpenStreetMap& operator=(const OpenStreetMap&) = delete;
+
+    /// Folder in which tiles are kept.
+    void setTileDirectory(const char* path);
+    /// Folder with SRTM files.
+    void setTerrainPath(const char* path);
+    /// See TileServer; what is not valid is answered by the built-in map alone.
+    void setTileServer(const char* address);
+    [[nodiscard]] const TileServer& tileServer() const { return mStore.server(); }
+    /// Who asks the tile server.
+    void setUserAgent(const QByteArray& text) { mStore.loader().setUserAgent(text); }
+    void setTilesAllowed(bool allowed) { mStore.setAllowed(allowed); }
+    [[nodiscard]] bool areTilesAllowed() const { return mStore.isAllowed(); }
+    /// The file of the built-in map. @return false when it is none.
+    bool setBaseMap(const QByteArray& packed) { return mBaseMap.load(packed); }
+
+    void setProjection(ProjectionType type) { mCamera.setProjection(type); }
+    void setMapType(MapType type);
+    void setShading(bool on) { mIsShaded = on; }
+    void setBrightness(double brightness);
+    void setContrast(double contrast);
+    void setShadingFactor(double factor);
+    /// Towards the light: metres east, north and up.
+    void setLightDirection(double east, double north, double up);
+
+    void setWindowSize(int width, int height) { mCamera.setWindowSize(width, height); }
+    /// Pixels of the screen for each logical one.
+    void setPixelRatio(double ratio) { mPixelRatio = ratio; }
+    /// The place in the middle of the window, in degrees. The map is flat: the altitude changes nothing.
+    void setPosition(double latitude, double longitude, double altitude);
+    /// Metres on the ground across the window, see Camera.
+    void setVisibleRange(double horizontal, double vertical) { mCamera.setVisibleRange(horizontal, vertical); }
+    void setAngles(double aboutX, double aboutY) { mCamera.setAngles(aboutX, aboutY); }
+    [[nodiscard]] const Camera& camera() const { return mCamera; }
+    void setCamera(const Camera& camera) { mCamera = camera; }
+    /// While the view moves by itself no tiles are asked for: most would have left it before they came.
+    void setMoving(bool isMoving) { mIsMoving = isMoving; }
+
+    void window2LatLong(double x, double y, double* pLatitude, double* pLongitude) const;
+    /// The same for a window whose middle shows another place, at the range that is set.
+    void window2LatLongFromPos(double x, double y, double middleLatitude, double middleLongitude, double* pLatitude, double* pLongitude) const;
+    void latLong2Window(double latitude, double longitude, double* pX, double* pY) const;
+
+    /// How many tiles that are seen are still being loaded or made.
+    [[nodiscard]] int nrLoadingTiles() const;
+    /// Called whenever a picture has changed and the view should be drawn again.
+    void setChangeHandler(std::function<void()> handler) { mChanged = std::move(handler); }
+    /// Why the last tile did not come, in English; empty when it came.
+    [[nodiscard]] const QString& lastError() const { return mStore.lastError(); }
+    [[nodiscard]] TileStore& store() { return mStore; }
+
+    /// Draws the map into the frame that was begun on the device; its context is current.
+    void render(VESK::OpenGL::Device& device);
+    /// Frees what lies in the context, which must be current.
+    void releaseGraphics() { mTextures.clear(); }
+
+private:
+    class Frame;
+    void setShadingStyle(const ShadingStyle& style);
+
+    Camera mCamera;
+    double mPixelRatio = 1.0;
+    MapType mType = MapType::eTiles;
+    bool mIsShaded = true;
+    bool mIsMoving = false;
+    ShadingStyle mStyle;
+    BaseMap mBaseMap;
+    Terrain mTerrain;
+    TileStore mStore;
+    TileTextures mTextures;
+    std::unordered_set<TileId, TileIdHash> mUnshaded; // tiles for which the terrain has nothing
+    std::vector<TileId> mAsked;
+    int mUnfinished = 0; // tiles left to be made by later frames
+    std::function<void()> mChanged;
+};
+
+} // namespace OpenStreet

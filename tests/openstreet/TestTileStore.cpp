@@ -1,0 +1,294 @@
+#include "openstreet/TileHost.h"
+#include "openstreet/core/TileStore.h"
+
+#include <QBuffer>
+#include <QDirIterator>
+#include <QSignalSpy>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTest>
+
+#include <algorithm>
+#include <set>
+
+using namespace OpenStreet;
+using OpenStreet::Test::TileHost;
+using OpenStreet::Test::TileRequest;
+
+namespace {
+
+constexpr const char* kRules = R"(
+    location /missing/ { return 404; }
+    location /broken/ { return 500; }
+    location /busy/ { add_header Retry-After 90 always; return 429; }
+    location /loop/ { return 302 $request_uri; }
+    location /elsewhere/ { return 302 http://localhost:$server_port/tiles/1/1/1.png; }
+    location /text/ { default_type image/png; return 200 "<html>please log in</html>"; }
+    location /truncated/ { default_type image/png; try_files /truncated.png =404; }
+    location /huge/ { try_files /huge.png =404; }
+    location /wide/ { try_files /wide.png =404; }
+    location /slow/ { limit_rate 10; try_files /any.png =404; }
+    location /cookie/ { add_header Set-Cookie "track=1"; try_files /any.png =404; }
+)";
+
+std::vector<TileId> block(int zoom, int left, int top, int width, int height)
+{
+    std::vector<TileId> result;
+    for (int i = 0; i < width * height; ++i)
+        result.push_back({zoom, left + i % width, top + i / width});
+    return result;
+}
+
+/// A store with a folder and a clock of its own over the tile host.
+struct Store {
+    explicit Store(const QString& address, const QString& folder = {}) : store(nullptr, [this] { return now; })
+    {
+        store.setFolder(folder.isEmpty() ? own.path() : folder);
+        store.setServer(TileServer(address));
+        store.loader().setUserAgent("ZARN-Test/1.0 (map)");
+        store.setAllowed(true);
+    }
+    bool waitIdle() { return QTest::qWaitFor([this] { return store.loading() == 0; }, 20000); }
+
+    QTemporaryDir own;
+    qint64 now = QDateTime::currentSecsSinceEpoch();
+    TileStore store;
+};
+
+} // namespace
+
+class TestTileStore : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanup() { mpHost->clearLog(); }
+    void cleanupTestCase() { mpHost.reset(); }
+    void nothingBeforeConsent();
+    void fetchesWhatIsSeen();
+    void cancelsWhatLeftTheView();
+    void asksAgainOnlyWhenExpired();
+    void keepsOnDisk();
+    void failures_data();
+    void failures();
+    void backsOff();
+    void serverGone();
+    void diskLimit();
+
+private:
+    std::unique_ptr<TileHost> mpHost;
+};
+
+void TestTileStore::initTestCase()
+{
+    mpHost = std::make_unique<TileHost>(QString::fromLatin1(kRules));
+    QVERIFY(mpHost->isRunning());
+    mpHost->put("truncated.png", TileHost::tile("cut").left(400));
+    mpHost->put("huge.png", TileHost::tile("huge") + QByteArray(5 * 1024 * 1024, 'x'));
+    mpHost->put("wide.png", TileHost::tile("wide", "PNG", 1025));
+}
+
+void TestTileStore::nothingBeforeConsent()
+{
+    Store store(mpHost->address());
+    store.store.setAllowed(false);
+    store.store.want(block(5, 3, 3, 4, 4), block(5, 10, 10, 2, 2));
+    QTest::qWait(300);
+    QCOMPARE(store.store.loading(), 0);
+    QVERIFY(mpHost->requests().isEmpty());
+    store.store.setAllowed(true);
+    QVERIFY(store.waitIdle());
+    store.store.setAllowed(false); // taken back: what is here stays, nothing new comes
+    mpHost->clearLog();
+    store.store.want(block(6, 3, 3, 4, 4), {});
+    QTest::qWait(300);
+    QVERIFY(mpHost->requests().isEmpty());
+}
+
+void TestTileStore::fetchesWhatIsSeen()
+{
+    Store store(mpHost->address(QStringLiteral("/cookie")));
+    const std::vector<TileId> view = block(9, 100, 200, 6, 5), ring = block(9, 110, 200, 2, 5);
+    store.store.want(view, ring);
+    QTRY_COMPARE_WITH_TIMEOUT(mpHost->requests().size(), qsizetype(40), 20000);
+    QTest::qWait(100);
+    std::set<QString> connections, paths;
+    const QList<TileRequest> requests = mpHost->requests();
+    QCOMPARE(requests.size(), qsizetype(40));
+    for (const TileRequest& request : requests) {
+        QCOMPARE(request.status, 200);
+        QCOMPARE(request.userAgent, "ZARN-Test/1.0 (map)");
+        QCOMPARE(request.cookie, "-");
+        connections.insert(request.connection);
+        paths.insert(request.path);
+    }
+    QCOMPARE(paths.size(), std::size_t(40)); // each once
+    QVERIFY2(connections.size() <= 2, qPrintable(QString::number(connections.size())));
+    for (std::size_t i = 0; i + 2 < view.size(); ++i) // the seen ones before the ring; two are on their way at a time
+        QVERIFY(!requests[static_cast<qsizetype>(i)].path.contains("/11"));
+    QCOMPARE(store.store.image(view[7]).size(), QSize(256, 256));
+}
+
+void TestTileStore::cancelsWhatLeftTheView()
+{
+    Store store(mpHost->address(QStringLiteral("/slow")));
+    store.store.want(block(9, 0, 0, 5, 5), {});
+    QTRY_VERIFY(!store.store.loader().isFree());
+    store.store.setServer(TileServer(mpHost->address()));
+    store.store.want(block(9, 300, 300, 2, 2), {});
+    QVERIFY(store.waitIdle());
+    const QList<TileRequest> requests = mpHost->requests();
+    const auto left = std::count_if(requests.begin(), requests.end(), [](const TileRequest& r) { return r.path.startsWith("/slow"); });
+    QVERIFY(left <= 2); // only those that had begun
+    QVERIFY(!store.store.image({9, 301, 301}).isNull());
+}
+
+void TestTileStore::asksAgainOnlyWhenExpired()
+{
+    Store store(mpHost->address()); // "expires 1h"
+    const std::vector<TileId> view = block(7, 1, 1, 3, 1);
+    store.store.want(view, {});
+    QVERIFY(store.waitIdle());
+    store.store.want({}, {});
+    store.now += 3000;
+    store.store.want(view, {});
+    QVERIFY(store.waitIdle());
+    QCOMPARE(mpHost->requests().size(), qsizetype(3));
+    store.store.want({}, {});
+    store.now += 700;
+    store.store.want(view, {});
+    QVERIFY(!store.store.image(view[0]).isNull()); // shown while it is asked for
+    QVERIFY(store.waitIdle());
+    const QList<TileRequest> requests = mpHost->requests();
+    QCOMPARE(requests.size(), qsizetype(6));
+    QCOMPARE(requests.last().status, 304);
+    QVERIFY(requests.last().ifNoneMatch.size() > 2);
+}
+
+void TestTileStore::keepsOnDisk()
+{
+    QTemporaryDir folder;
+    const std::vector<TileId> view = block(8, 5, 5, 4, 3);
+    {
+        Store store(mpHost->address(), folder.path());
+        store.store.want(view, {});
+        QVERIFY(store.waitIdle());
+    }
+    mpHost->clearLog();
+    // Files that were damaged since are no tiles: they are fetched again.
+    QDirIterator files(folder.path(), {"*.tile"}, QDir::Files, QDirIterator::Subdirectories);
+    QFile damaged(files.next());
+    QVERIFY(damaged.resize(damaged.size() / 2));
+    QFile nonsense(files.next());
+    QVERIFY(nonsense.open(QIODevice::WriteOnly | QIODevice::Truncate) && nonsense.write(QByteArray(3000, '\xff')) == 3000);
+    nonsense.close();
+    Store second(mpHost->address(), folder.path());
+    second.store.want(view, {});
+    QVERIFY(second.waitIdle());
+    for (const TileId& id : view)
+        QVERIFY(!second.store.image(id).isNull());
+    QCOMPARE(mpHost->requests().size(), qsizetype(2));
+}
+
+void TestTileStore::failures_data()
+{
+    QTest::addColumn<QString>("place");
+    QTest::addColumn<qsizetype>("requests"); // for one tile, at once
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("404") << "/missing" << qsizetype(1) << "404";
+    QTest::newRow("500") << "/broken" << qsizetype(1) << "500";
+    QTest::newRow("redirections without end") << "/loop" << qsizetype(4) << "302";
+    QTest::newRow("redirection to another server") << "/elsewhere" << qsizetype(1) << "302";
+    QTest::newRow("no picture") << "/text" << qsizetype(1) << "no picture";
+    QTest::newRow("breaks off") << "/truncated" << qsizetype(1) << "breaks off";
+    QTest::newRow("above 4 MiB") << "/huge" << qsizetype(1) << "4 MiB";
+    QTest::newRow("above 1024 pixels") << "/wide" << qsizetype(1) << "1024";
+    QTest::newRow("slow") << "/slow" << qsizetype(1) << "";
+}
+
+void TestTileStore::failures()
+{
+    QFETCH(QString, place);
+    QFETCH(qsizetype, requests);
+    QFETCH(QString, reason);
+    Store store(mpHost->address(place));
+    store.store.loader().setTimeouts(400, 900);
+    store.store.want({{4, 2, 2}}, {});
+    QVERIFY(store.waitIdle());
+    QTRY_COMPARE(mpHost->requests().size(), requests);
+    QVERIFY(store.store.image({4, 2, 2}).isNull());
+    QVERIFY2(!store.store.lastError().isEmpty() && store.store.lastError().contains(reason), qPrintable(store.store.lastError()));
+    QCOMPARE(store.store.disk().size(), 0);
+    QVERIFY(store.store.loader().isFree());
+}
+
+void TestTileStore::backsOff()
+{
+    Store store(mpHost->address(QStringLiteral("/busy")));
+    store.store.want(block(4, 0, 0, 4, 4), {});
+    QVERIFY(store.waitIdle());
+    QVERIFY(mpHost->requests().size() <= 2); // not a request for each tile
+    const qsizetype first = mpHost->requests().size();
+    store.now += 60; // the server asked for 90 seconds
+    store.store.want(block(4, 0, 0, 4, 5), {});
+    QTest::qWait(200);
+    QCOMPARE(mpHost->requests().size(), first);
+    store.now += 40;
+    store.store.want(block(4, 0, 0, 4, 4), {});
+    QTRY_VERIFY(mpHost->requests().size() > first);
+    Store lacking(mpHost->address(QStringLiteral("/missing"))); // a server that answers is asked for the other tiles
+    mpHost->clearLog();
+    lacking.store.want(block(4, 0, 0, 2, 2), {});
+    QVERIFY(lacking.waitIdle());
+    QCOMPARE(mpHost->requests().size(), qsizetype(4));
+    lacking.store.want({}, {});
+    lacking.store.want(block(4, 0, 0, 2, 2), {});
+    QTest::qWait(200);
+    QCOMPARE(mpHost->requests().size(), qsizetype(4)); // but not again for what it lacks
+}
+
+void TestTileStore::serverGone()
+{
+    TileHost host;
+    Store store(host.address());
+    const std::vector<TileId> view = block(8, 5, 5, 3, 3);
+    store.store.want(view, {});
+    QVERIFY(store.waitIdle());
+    host.stop();
+    store.now += 100000; // all of it has expired
+    store.store.want(block(8, 8, 5, 3, 3), {});
+    QVERIFY(store.waitIdle());
+    QVERIFY(!store.store.lastError().isEmpty());
+    store.store.want(view, {});
+    QVERIFY(store.waitIdle());
+    for (const TileId& id : view)
+        QVERIFY(!store.store.image(id).isNull());
+}
+
+void TestTileStore::diskLimit()
+{
+    QTemporaryDir folder;
+    TileDisk disk;
+    disk.setFolder(folder.path());
+    disk.setLimit(100000);
+    const TileRecord record{QByteArray(9900, 'x'), "\"tag\"", {}, 5};
+    QFile foreign(folder.filePath("notes.txt"));
+    QVERIFY(foreign.open(QIODevice::WriteOnly) && foreign.write("mine") == 4);
+    foreign.close();
+    for (int i = 0; i < 30; ++i) {
+        disk.write("server", {6, i, 1}, record);
+        QVERIFY(disk.read("server", {6, 0, 1})); // used all the time: it stays
+        QVERIFY(disk.size() <= 100000);
+    }
+    QVERIFY(!disk.read("server", {6, 5, 1}));
+    QVERIFY(disk.read("server", {6, 29, 1}));
+    QVERIFY(!disk.read("other", {6, 29, 1}));
+    TileDisk next; // the next run knows what lies there
+    next.setFolder(folder.path());
+    QCOMPARE(next.size(), disk.size());
+    QCOMPARE(next.read("server", {6, 29, 1})->etag, record.etag);
+    QVERIFY(QFile::exists(foreign.fileName()));
+}
+
+QTEST_MAIN(TestTileStore)
+#include "TestTileStore.moc"

@@ -1,0 +1,354 @@
+#include "app/Console.h"
+#include "app/Property.h"
+#include "ui/canvas/RasterCanvas.h"
+#include "ui/map/model/MapNavigator.h"
+#include "ui/map/model/MapScene.h"
+#include "ui/map/model/TileConsent.h"
+
+#include <QPainter>
+#include <QTest>
+
+#include <cmath>
+#include <limits>
+
+using namespace ZARN;
+
+namespace {
+
+FlightPathPoint at(double time, double latitude, double longitude, double track = 0.0)
+{
+    return {time, latitude, longitude, 100.0 * time, 10.0 * time, track};
+}
+
+MapPath path(const std::vector<FlightPathPoint>& points)
+{
+    MapPath result;
+    result.setPoints(points);
+    return result;
+}
+
+/// A circling flight of so many points.
+MapPath longPath(int points)
+{
+    std::vector<FlightPathPoint> list;
+    for (int i = 0; i < points; ++i)
+        list.push_back(at(i * 0.5, 48.0 + 0.05 * std::sin(i * 0.02) + i * 1e-7, 11.0 + 0.05 * std::cos(i * 0.02)));
+    return path(list);
+}
+
+/// A navigator over a window of 800 x 600 that shows 20 km around a place in Bavaria.
+struct View {
+    View()
+    {
+        navigator.setWindowSize(800, 600);
+        navigator.fit(path({at(0, 48.15, 10.9), at(1, 48.25, 11.1)}), true);
+    }
+    void arrive()
+    {
+        for (int i = 0; i < 500 && navigator.tick(0.02); ++i) {
+        }
+    }
+    [[nodiscard]] double distance(const OpenStreet::GeoPoint& place, double x, double y) const
+    {
+        const OpenStreet::WindowPoint point = navigator.camera().geoToWindow(place);
+        return std::hypot(point.x - x, point.y - y);
+    }
+    MapContext context;
+    MapNavigator navigator{context};
+};
+
+} // namespace
+
+class TestMapModel : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void positions_data();
+    void positions();
+    void positionsOfNoPath();
+    void fits_data();
+    void fits();
+    void damagedPath();
+    void timeOfAPlace();
+    void longPathIsBounded();
+    void pathGeometryMatchesTheMap();
+    void zoomsAboutThePointer();
+    void doubleClickMovesThere();
+    void dragsAndFollows();
+    void eventsOnThePath();
+    void scaleBar_data();
+    void scaleBar();
+    void consent();
+    void picture();
+};
+
+void TestMapModel::positions_data()
+{
+    QTest::addColumn<double>("time");
+    QTest::addColumn<double>("latitude");
+    QTest::addColumn<double>("track");
+    QTest::addColumn<double>("stamp");
+    QTest::newRow("before the first") << -5.0 << 10.0 << 0.0 << 1.0;
+    QTest::newRow("within the first stretch") << 1.4 << 10.0 << 0.0 << 1.0;
+    QTest::newRow("on a point") << 1.5 << 20.0 << 350.0 << 1.5;
+    QTest::newRow("a quarter of the way") << 1.625 << 25.0 << 355.0 << 1.625;
+    QTest::newRow("half of it") << 1.75 << 30.0 << 360.0 << 1.75;
+    QTest::newRow("three quarters") << 1.875 << 35.0 << 365.0 << 1.875;
+    QTest::newRow("back across north") << 2.25 << 41.0 << 0.0 << 2.25;
+    QTest::newRow("where points are missing") << 4.5 << 44.0 << 350.0 << 4.5;
+    QTest::newRow("on the last") << 7.0 << 46.0 << 350.0 << 7.0;
+    QTest::newRow("after the last") << 1e9 << 46.0 << 350.0 << 7.0;
+    QTest::newRow("no time at all") << std::numeric_limits<double>::quiet_NaN() << 10.0 << 0.0 << 1.0;
+}
+
+void TestMapModel::positions()
+{
+    const MapPath flight = path({at(1.0, 10.0, 5.0), at(1.5, 20.0, 5.0, 350.0), at(2.0, 40.0, 5.0, 10.0), at(2.5, 42.0, 5.0, 350.0), at(6.5, 46.0, 5.0, 350.0), at(7.0, 46.0, 5.0, 350.0)});
+    QFETCH(double, time);
+    const FlightPathPoint point = flight.positionAt(time);
+    QTEST(point.latitude, "latitude");
+    QTEST(point.track, "track");
+    QTEST(point.time, "stamp");
+}
+
+void TestMapModel::positionsOfNoPath()
+{
+    const FlightPathPoint nowhere = path({}).positionAt(17.0);
+    QCOMPARE(nowhere.time + nowhere.latitude + nowhere.longitude + nowhere.altitude + nowhere.groundSpeed + nowhere.track, 0.0);
+}
+
+void TestMapModel::fits_data()
+{
+    QTest::addColumn<double>("latitudes");
+    QTest::addColumn<double>("longitudes");
+    QTest::addColumn<double>("range");
+    QTest::newRow("wide") << 0.0 << 2.0 << 2.0 * 111120.0 * 0.5 * 1.2;
+    QTest::newRow("tall") << 2.0 << 0.0 << 2.0 * 111120.0 * 1.2 * 2.0;
+    QTest::newRow("a place") << 0.0 << 0.0 << 0.0;
+}
+
+void TestMapModel::fits()
+{
+    QFETCH(double, latitudes);
+    QFETCH(double, longitudes);
+    const MapFit fit = path({at(0, 60.0 - latitudes / 2, 179.5), at(1, 60.0 + latitudes / 2, 179.5 + longitudes)}).fit(1000, 500);
+    QVERIFY(std::fabs(fit.latitude - 60.0) < 1e-9);
+    QVERIFY(std::fabs(fit.longitude - (179.5 + longitudes / 2)) < 1e-9); // beyond the date line
+    QTEST(std::round(fit.range * 1e6) / 1e6, "range");
+    const MapFit nothing = path({}).fit(1000, 500);
+    QCOMPARE(nothing.latitude + nothing.longitude + nothing.range, 0.0);
+}
+
+void TestMapModel::damagedPath()
+{
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    MapScene scene;
+    scene.path().setPoints(std::vector{at(0, 48, 11), at(1, nan, 11), at(2, 48.1, 1e300), at(3, -1e9, 11), at(4, 89.9999, -179), at(5, 48.1, 11, nan)});
+    QCOMPARE(scene.path().points().size(), std::size_t(3));
+    View view;
+    view.navigator.fit(scene.path(), true);
+    view.navigator.setPointer({10, 10});
+    view.navigator.zoomCentered(25.0);
+    scene.setAircraft(at(1e300, nan, nan, nan));
+    QImage image(800, 600, QImage::Format_RGB32);
+    QPainter painter(&image);
+    RasterCanvas canvas(painter);
+    scene.draw(canvas, view.navigator.camera());
+    for (const auto& strip : scene.geometry().strips()) {
+        for (const QPointF& point : strip)
+            QVERIFY(std::fabs(point.x() + scene.geometry().offset().x()) < 2000 && std::fabs(point.y() + scene.geometry().offset().y()) < 2000);
+    }
+}
+
+void TestMapModel::timeOfAPlace()
+{
+    const MapPath flight = path({at(10, 48.2, 11.0), at(12, 48.2, 11.1), at(14, 48.25, 11.1)});
+    const View view;
+    const OpenStreet::WindowPoint middle = view.navigator.camera().geoToWindow({48.2, 11.05});
+    QVERIFY(std::fabs(flight.timeNear(view.navigator.camera(), {middle.x, middle.y + 5.0}, 12.0).value() - 11.0) < 1e-6);
+    QVERIFY(!flight.timeNear(view.navigator.camera(), {middle.x, middle.y + 15.0}, 12.0));
+    QVERIFY(!path({}).timeNear(view.navigator.camera(), middle, 12.0));
+}
+
+void TestMapModel::longPathIsBounded()
+{
+    const MapPath flight = longPath(200000);
+    View view;
+    PathGeometry geometry;
+    view.navigator.fit(flight, true);
+    geometry.update(flight, view.navigator.camera());
+    QVERIFY(geometry.vertexCount() > 100 && geometry.vertexCount() <= PathGeometry::kMaxVertices);
+    const int builds = geometry.builds();
+    for (int i = 0; i < 100; ++i) {
+        view.navigator.drag(i % 2 == 0 ? 5.0 : -3.0, 2.0);
+        geometry.update(flight, view.navigator.camera());
+    }
+    QCOMPARE(geometry.builds(), builds); // a pan is a translation
+    view.navigator.drag(900.0, 0.0);
+    geometry.update(flight, view.navigator.camera());
+    QCOMPARE(geometry.builds(), builds + 1);
+}
+
+void TestMapModel::pathGeometryMatchesTheMap()
+{
+    const MapPath flight = path({at(0, 48.15, 10.9), at(1, 48.2, 11.0), at(2, 48.25, 11.1)});
+    View view;
+    view.navigator.turn(30.0, 20.0);
+    view.navigator.drag(40.0, -25.0);
+    PathGeometry geometry;
+    geometry.update(flight, view.navigator.camera());
+    QCOMPARE(geometry.strips().size(), std::size_t(1));
+    for (std::size_t i = 0; i < 3; ++i) {
+        const QPointF drawn = geometry.strips()[0][i] + geometry.offset();
+        QVERIFY(view.distance({flight.points()[i].latitude, flight.points()[i].longitude}, drawn.x(), drawn.y()) < 1e-6);
+    }
+}
+
+void TestMapModel::zoomsAboutThePointer()
+{
+    View view;
+    const OpenStreet::WindowPoint pointer{650.0, 90.0};
+    view.navigator.setPointer(pointer);
+    const OpenStreet::GeoPoint place = view.navigator.camera().windowToGeo(pointer);
+    view.navigator.zoomCentered(3000.0);
+    QCOMPARE(view.context.rangeHorizontal, 3000.0);
+    QCOMPARE(view.context.rangeVertical, 3000.0 * 600 / 800);
+    QVERIFY(view.distance(place, pointer.x, pointer.y) < 1e-3);
+    view.navigator.zoomBy(2.0);
+    view.navigator.zoomBy(2.0); // before the first has arrived
+    QVERIFY(view.navigator.isMoving());
+    view.arrive();
+    QVERIFY(std::fabs(view.navigator.camera().horizontalRange() - 12000.0) < 1e-6);
+    QVERIFY(view.distance(place, pointer.x, pointer.y) < 0.01);
+    for (int i = 0; i < 100; ++i)
+        view.navigator.zoomBy(0.5);
+    view.navigator.zoomBy(std::numeric_limits<double>::quiet_NaN());
+    QCOMPARE(view.context.rangeHorizontal, MapNavigator::kClosest);
+}
+
+void TestMapModel::doubleClickMovesThere()
+{
+    View view;
+    view.navigator.setPointer({100.0, 500.0});
+    const double range = view.navigator.camera().horizontalRange();
+    const OpenStreet::GeoPoint place = view.navigator.camera().windowToGeo({100.0, 500.0});
+    view.navigator.doubleClick();
+    QCOMPARE(view.navigator.camera().horizontalRange(), range); // not at once
+    QVERIFY(view.context.isPositionChanged && view.context.isRangeChanged);
+    QVERIFY(std::fabs(view.context.rangeHorizontal - range * 0.25) < 1e-6);
+    view.arrive();
+    QVERIFY(!view.context.isPositionChanged && !view.context.isRangeChanged);
+    QVERIFY(view.distance(place, 100.0, 500.0) < 0.01);
+    view.navigator.zoomCentered(30.0);
+    view.navigator.doubleClick();
+    QCOMPARE(view.context.rangeHorizontal, 25.0);
+}
+
+void TestMapModel::dragsAndFollows()
+{
+    View view;
+    QCOMPARE(view.context.centreAircraft, 2);
+    const double latitude = view.context.centreLatitude;
+    view.navigator.follow(48.16, 10.91); // the whole path is seen: the view stays
+    QCOMPARE(view.context.centreLatitude, latitude);
+    view.navigator.zoomAboutMiddle(0.5);
+    view.arrive();
+    view.navigator.follow(48.16, 10.91);
+    view.arrive();
+    QVERIFY(view.distance({48.16, 10.91}, 400, 300) < 0.01);
+    view.navigator.follow(48.1601, 10.9101); // a step of the replay: no lagging behind
+    QVERIFY(view.distance({48.1601, 10.9101}, 400, 300) < 1e-6);
+    const OpenStreet::GeoPoint place = view.navigator.camera().windowToGeo({200, 200});
+    view.navigator.setFollowing(false);
+    view.navigator.drag(37.0, -12.0);
+    QVERIFY(view.distance(place, 237.0, 188.0) < 1e-6);
+    view.navigator.follow(50.0, 20.0);
+    QVERIFY(view.distance(place, 237.0, 188.0) < 1e-6);
+}
+
+void TestMapModel::eventsOnThePath()
+{
+    EventList list;
+    const uint32_t source = list.addSource({"Engine", "EGT <1>", "%d"});
+    for (const double time : {1.0, 11.0, 12.9, 1e9})
+        list.add({time, {}, source, 1, time < 12 ? QColor(Qt::yellow) : QColor(), "800"});
+    list.sortByTime();
+    const MapPath flight = path({at(10, 48.2, 11.0), at(11, 48.2, 11.02), at(12, 48.2, 11.1), at(13, 48.25, 11.1)});
+    MapEvents events;
+    events.add(list);
+    events.place(flight);
+    QCOMPARE(events.dots().size(), std::size_t(2)); // the others happened where there was no position
+    QCOMPARE(events.dots()[0].colour, QColor(Qt::yellow));
+    const View view;
+    const OpenStreet::WindowPoint dot = view.navigator.camera().geoToWindow({48.2, 11.02});
+    const auto found = events.near(flight, view.navigator.camera(), {dot.x + 3.0, dot.y});
+    QCOMPARE(found.size(), std::size_t(1));
+    QCOMPARE(MapEvents::text(found), "00:00:11.000  Engine EGT <1> 800 %d");
+    QVERIFY(events.near(flight, view.navigator.camera(), {dot.x + 20.0, dot.y}).empty());
+}
+
+void TestMapModel::scaleBar_data()
+{
+    QTest::addColumn<double>("range"); // across 1,000 pixels
+    QTest::addColumn<bool>("imperial");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<double>("pixels");
+    QTest::newRow("km") << 100000.0 << false << "10 km" << 100.0;
+    QTest::newRow("m") << 5000.0 << false << "500 m" << 100.0;
+    QTest::newRow("2") << 15000.0 << false << "2 km" << 2000.0 / 15.0;
+    QTest::newRow("miles") << 92600.0 << true << "5 NM" << 100.0;
+    QTest::newRow("feet") << 304.8 << true << "100 ft" << 100.0;
+}
+
+void TestMapModel::scaleBar()
+{
+    QFETCH(double, range);
+    QFETCH(bool, imperial);
+    OpenStreet::Camera camera;
+    camera.setWindowSize(1000, 500);
+    camera.setPosition({60.0, 0.0});
+    camera.setVisibleRange(range, 0.0);
+    const MapScaleBar bar = MapScaleBar::at(camera, 140.0, imperial);
+    QTEST(bar.text, "text");
+    QFETCH(double, pixels);
+    QVERIFY(std::fabs(bar.pixels - pixels) < 1e-6);
+}
+
+void TestMapModel::consent()
+{
+    const Console silent([](std::string_view) {}, [](std::string_view) {});
+    Property property(silent);
+    TileConsent consent(property);
+    QCOMPARE(consent.answer("https://a/"), TileConsent::eNotAsked);
+    consent.set("https://a/", true);
+    QCOMPARE(consent.answer("https://a/"), TileConsent::eYes);
+    QCOMPARE(consent.answer("https://b/"), TileConsent::eNotAsked); // another server is another question
+    consent.set("https://b/", false);
+    QCOMPARE(consent.answer("https://a/"), TileConsent::eNo);
+}
+
+void TestMapModel::picture()
+{
+    MapScene scene;
+    scene.path().setPoints(std::vector{at(0, 48.15, 10.9), at(1, 48.25, 11.1)});
+    scene.setAircraft(at(0.5, 48.2, 11.0, 90.0));
+    const View view;
+    QImage image(800, 600, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    RasterCanvas canvas(painter);
+    scene.draw(canvas, view.navigator.camera());
+    painter.end();
+    const OpenStreet::WindowPoint quarter = view.navigator.camera().geoToWindow({48.175, 10.95});
+    bool isRed = false; // Mercator bends the line by less than a pixel here
+    for (int y = -2; y <= 2; ++y)
+        isRed = isRed || image.pixel(static_cast<int>(quarter.x), static_cast<int>(quarter.y) + y) == qRgb(255, 0, 0);
+    QVERIFY(isRed);
+    const OpenStreet::WindowPoint aircraft = view.navigator.camera().geoToWindow({48.2, 11.0});
+    // It flies east: the nose lies to the right of the middle, the tail is thin.
+    QVERIFY(qBlue(image.pixel(static_cast<int>(aircraft.x) + 10, static_cast<int>(aircraft.y))) > 100);
+    QCOMPARE(image.pixel(static_cast<int>(aircraft.x) + 10, static_cast<int>(aircraft.y) - 12), qRgb(255, 255, 255));
+}
+
+QTEST_MAIN(TestMapModel)
+#include "TestMapModel.moc"

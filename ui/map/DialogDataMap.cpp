@@ -1,0 +1,208 @@
+#include "ui/map/DialogDataMap.h"
+
+#include "app/Property.h"
+#include "app/gui/GraphicsCheck.h"
+#include "ui/map/MapPanels.h"
+#include "ui/map/model/TileConsent.h"
+
+#include <QAction>
+#include <QContextMenuEvent>
+#include <QLabel>
+#include <QMenu>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace ZARN {
+
+namespace {
+
+constexpr int kMargin = 10;
+constexpr int kLeastWidth = 200;
+constexpr int kBelowPanels = 70; // pixels for what is written at the lower edge
+
+} // namespace
+
+DialogDataMap::DialogDataMap(const Session& session, const QString& dataPath, QWidget* pParent)
+    : QWidget(pParent), mSession(session), mValues(session)
+{
+    const QString problem = GraphicsCheck::problem();
+    if (problem.isEmpty())
+        createMap(dataPath);
+    else
+        showProblem(problem);
+}
+
+DialogDataMap::~DialogDataMap()
+{
+    delete mpMap; // it refers to the context
+}
+
+void DialogDataMap::createMap(const QString& dataPath)
+{
+    mpMap = new WidgetMap(mSession, dataPath, mContext, this);
+    auto* pLayout = new QVBoxLayout(this);
+    pLayout->setContentsMargins(0, 0, 0, 0);
+    pLayout->addWidget(mpMap);
+    mpValues = new MapValuePanel(this);
+    mpTools = new MapToolPanel(mContext.scale, this);
+    mpConsent = new MapConsentBar(this);
+    mpConsent->hide();
+    connect(mpMap, &WidgetMap::signalUpdateMode, this, &DialogDataMap::slotUpdateMode);
+    connect(mpMap, &WidgetMap::signalTime, this, &DialogDataMap::signalTime);
+    connect(mpTools, &MapToolPanel::signalToggled, this, &DialogDataMap::slotCommandToggled);
+    connect(mpConsent, &MapConsentBar::signalAnswer, this, &DialogDataMap::slotConsent);
+}
+
+void DialogDataMap::showProblem(const QString& problem)
+{
+    auto* pText = new QLabel(problem);
+    pText->setTextFormat(Qt::PlainText);
+    pText->setWordWrap(true);
+    pText->setAlignment(Qt::AlignCenter);
+    auto* pLayout = new QVBoxLayout(this);
+    pLayout->addWidget(pText);
+}
+
+void DialogDataMap::updateProfile()
+{
+    updateSettings(); // the unit may be another one
+    fillDataLabel();
+}
+
+void DialogDataMap::updateRecord(RecordData* pRecord)
+{
+    mpRecord = pRecord;
+    if (mpMap) {
+        mpMap->setRecordData(pRecord);
+        updateConsent();
+    }
+    if (!pRecord)
+        return;
+    setMinimumWidth(kLeastWidth);
+}
+
+FlightPathPoint DialogDataMap::calcPositionAtTime(double time) const
+{
+    if (!mpRecord || !mpMap)
+        return {};
+    return mpMap->scene().path().positionAt(time);
+}
+
+void DialogDataMap::setTime(double time)
+{
+    if (mpMap)
+        mpMap->setAcPosition(calcPositionAtTime(time));
+    mTime = time;
+    fillDataValue();
+}
+
+void DialogDataMap::setEvents(const EventList& limits, const EventList& lamps)
+{
+    if (!mpMap)
+        return;
+    MapEvents& events = mpMap->scene().events();
+    events.clear();
+    events.add(limits);
+    events.add(lamps);
+    events.place(mpMap->scene().path());
+    mpMap->setDirty();
+}
+
+void DialogDataMap::updateSettings()
+{
+    if (!mpMap)
+        return;
+    mpMap->updateSettings();
+    updateConsent();
+}
+
+void DialogDataMap::updateConsent()
+{
+    mpConsent->setServer(mpMap->map().tileServer().name());
+    mpConsent->setVisible(mpMap->isConsentMissing());
+    updateGeometry();
+}
+
+void DialogDataMap::slotConsent(bool isAllowed)
+{
+    if (!mpMap)
+        return;
+    TileConsent(mSession.property).set(mpMap->map().tileServer().address(), isAllowed);
+    mSession.property.writeXmlFile();
+    updateSettings();
+}
+
+void DialogDataMap::slotCommandToggled(int id, bool isChecked)
+{
+    if (!mpMap)
+        return;
+    if (id == MapToolPanel::kCentreAircraft) {
+        mpMap->navigator().setFollowing(isChecked);
+        if (isChecked)
+            mpMap->setAcPosition(calcPositionAtTime(mTime));
+    }
+    mpMap->update();
+}
+
+void DialogDataMap::slotUpdateMode()
+{
+    if (mpTools)
+        mpTools->setChecked(MapToolPanel::kCentreAircraft, mContext.centreAircraft != 0);
+}
+
+void DialogDataMap::fillDataLabel()
+{
+    if (!mpValues)
+        return;
+    mpValues->setRows(mValues.at(mTime, mpRecord != nullptr));
+    updateGeometry();
+}
+
+void DialogDataMap::fillDataValue()
+{
+    if (!mpValues || !mpValues->isVisibleTo(this))
+        return;
+    mpValues->setValues(mValues.at(mTime, mpRecord != nullptr));
+    updateGeometry();
+}
+
+void DialogDataMap::updateGeometry()
+{
+    QWidget::updateGeometry();
+    if (!mpMap)
+        return;
+    const int margin = kMargin * mContext.scale;
+    const int tallest = std::max(height() - kBelowPanels, 0);
+    mpTools->resize(mpTools->sizeHint().boundedTo({width(), tallest}));
+    mpTools->move(margin, margin);
+    mpValues->fitInto({std::max(width() - mpTools->width() - 3 * margin, 0), tallest});
+    mpValues->move(width() - margin - mpValues->width(), margin);
+    const int wide = std::max(std::min(width() - 2 * margin, 720), 0);
+    const int tall = std::max(mpConsent->heightForWidth(wide), mpConsent->sizeHint().height());
+    mpConsent->setGeometry((width() - wide) / 2, height() - margin - 40 - tall, wide, tall);
+    mpConsent->raise();
+}
+
+void DialogDataMap::resizeEvent(QResizeEvent* pEvent)
+{
+    QWidget::resizeEvent(pEvent);
+    updateGeometry();
+}
+
+void DialogDataMap::contextMenuEvent(QContextMenuEvent* pEvent)
+{
+    if (!mpMap)
+        return;
+    QMenu menu(this);
+    menu.addAction(tr("Show the whole flight"), mpMap, &WidgetMap::fitPath);
+    const OpenStreet::TileServer& server = mpMap->map().tileServer();
+    QAction* pTiles = menu.addAction(tr("Load map tiles from %1").arg(server.name()));
+    pTiles->setCheckable(true);
+    pTiles->setChecked(TileConsent(mSession.property).answer(server.address()) == TileConsent::eYes);
+    pTiles->setEnabled(server.isValid());
+    connect(pTiles, &QAction::toggled, this, &DialogDataMap::slotConsent);
+    menu.exec(pEvent->globalPos());
+}
+
+} // namespace ZARN

@@ -1,0 +1,75 @@
+#pragma once
+
+#include "analysis/EventList.h"
+#include "project/Session.h"
+#include "ui/data/model/DataView.h"
+#include "ui/map/WidgetMap.h"
+#include "ui/map/model/MapValues.h"
+
+#include <QWidget>
+
+namespace ZARN {
+
+class MapConsentBar;
+class MapToolPanel;
+class MapValuePanel;
+
+/// The map beside the data: the flight path of the loaded record with the aircraft at the view time, and above it a panel of current
+/// values, the map's commands and the question about the network. Where nothing can be drawn it says so instead.
+class DialogDataMap : public QWidget, public DataView {
+    Q_OBJECT
+
+public:
+    /// @param dataPath folder below which tiles and terrain are kept, without a trailing "/".
+    DialogDataMap(const Session& session, const QString& dataPath, QWidget* pParent = nullptr);
+    ~DialogDataMap() override;
+
+    void updateProfile() override;
+    void updateRecord(RecordData* pRecord) override;
+    void setTime(double time) override;
+    /// Marks the events of the lists on the path, in their colours.
+    void setEvents(const EventList& limits, const EventList& lamps);
+    /// The settings were changed: tile server, consent, shading.
+    void updateSettings();
+    /// Keeps the panels in place.
+    void updateGeometry();
+
+    /// Where the aircraft is at a time in seconds; all zeros without a record or a path.
+    [[nodiscard]] FlightPathPoint calcPositionAtTime(double time) const;
+    /// Null where nothing can be drawn.
+    [[nodiscard]] WidgetMap* mapWidget() { return mpMap; }
+
+public Q_SLOTS:
+    void slotCommandToggled(int id, bool isChecked);
+    /// The map has switched the following of the aircraft on or off.
+    void slotUpdateMode();
+    /// The user's answer to the question about the network.
+    void slotConsent(bool isAllowed);
+
+Q_SIGNALS:
+    /// A time in seconds that was picked on the map.
+    void signalTime(double time);
+
+protected:
+    void resizeEvent(QResizeEvent* pEvent) override;
+    void contextMenuEvent(QContextMenuEvent* pEvent) override;
+
+private:
+    void createMap(const QString& dataPath);
+    void showProblem(const QString& problem);
+    void fillDataLabel();
+    void fillDataValue();
+    void updateConsent();
+
+    Session mSession;
+    MapContext mContext;
+    MapValues mValues;
+    WidgetMap* mpMap = nullptr;
+    MapValuePanel* mpValues = nullptr;
+    MapToolPanel* mpTools = nullptr;
+    MapConsentBar* mpConsent = nullptr;
+    RecordData* mpRecord = nullptr;
+    double mTime = 0.0;
+};
+
+} // namespace ZARN

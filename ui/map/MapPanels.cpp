@@ -1,0 +1,166 @@
+#include "ui/map/MapPanels.h"
+
+#include "ui/map/model/MapScene.h"
+
+#include <QAction>
+#include <QButtonGroup>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QToolBar>
+#include <QToolButton>
+
+#include <algorithm>
+
+namespace ZARN {
+
+namespace {
+
+constexpr int kIconSize = 32;
+
+/// The aircraft in a circle.
+QIcon aircraftIcon(int edge)
+{
+    constexpr int kDense = 2; // for screens with dense pixels
+    QPixmap picture(edge * kDense, edge * kDense);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(picture.width() / 48.0, picture.height() / 48.0);
+    painter.translate(24.0, 24.0);
+    painter.setPen(QPen(QColor(25, 60, 140), 2.5));
+    painter.drawEllipse(QPointF(0, 0), 21.0, 21.0);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(25, 60, 140));
+    const auto outline = MapScene::aircraftOutline();
+    painter.drawPolygon(outline.data(), static_cast<int>(outline.size()));
+    picture.setDevicePixelRatio(kDense);
+    return QIcon(picture);
+}
+
+} // namespace
+
+MapValuePanel::MapValuePanel(QWidget* pParent) : QScrollArea(pParent)
+{
+    setFrameShape(QFrame::NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setFocusPolicy(Qt::NoFocus);
+    setStyleSheet(QStringLiteral("QScrollArea {background: transparent;}"));
+    viewport()->setAutoFillBackground(false);
+    setRows({});
+}
+
+void MapValuePanel::setRows(const std::vector<MapValue>& rows)
+{
+    mRows.clear();
+    mpPanel = new QWidget;
+    mpPanel->setStyleSheet(QStringLiteral(".QWidget{background-color: #66000000;border-radius:10px;}"));
+    auto* pLayout = new QGridLayout(mpPanel);
+    pLayout->setContentsMargins(5, 5, 5, 5);
+    pLayout->setSpacing(2);
+    for (const MapValue& row : rows) {
+        auto* pName = new QLabel(row.name);
+        pName->setTextFormat(Qt::PlainText);
+        pName->setStyleSheet(QStringLiteral("QLabel {color: white; font-weight: bold;}"));
+        auto* pValue = new QLabel;
+        pValue->setTextFormat(Qt::PlainText);
+        const int line = static_cast<int>(mRows.size());
+        pLayout->addWidget(pName, line, 0);
+        pLayout->addWidget(pValue, line, 1);
+        mRows.push_back({pValue, {}});
+        setColour(mRows.back(), Qt::white);
+    }
+    setWidget(mpPanel);
+    setWidgetResizable(true);
+    setVisible(!rows.empty());
+    setValues(rows);
+}
+
+void MapValuePanel::setColour(Row& row, const QColor& colour) const
+{
+    if (row.colour == colour)
+        return;
+    row.colour = colour;
+    row.pValue->setStyleSheet(QStringLiteral("QLabel {color: %1; font-weight: bold;}").arg(colour.name()));
+}
+
+void MapValuePanel::setValues(const std::vector<MapValue>& rows)
+{
+    for (std::size_t i = 0; i < std::min(rows.size(), mRows.size()); ++i) {
+        mRows[i].pValue->setText(rows[i].text);
+        setColour(mRows[i], rows[i].colour.isValid() ? rows[i].colour : QColor(Qt::white));
+    }
+}
+
+void MapValuePanel::fitInto(const QSize& room)
+{
+    const QSize wanted = mpPanel->sizeHint();
+    const bool isTooTall = wanted.height() > room.height();
+    const int bar = isTooTall ? verticalScrollBar()->sizeHint().width() : 0;
+    resize(std::min(wanted.width() + bar, room.width()), std::min(wanted.height(), room.height()));
+}
+
+MapToolPanel::MapToolPanel(int scale, QWidget* pParent) : QWidget(pParent), mpGroup(new QButtonGroup(this))
+{
+    auto* pPanel = new QWidget(this);
+    pPanel->setStyleSheet(QStringLiteral(".QWidget{background-color: #66ffffff;border-radius:10px;}"));
+    auto* pOuter = new QVBoxLayout(this);
+    pOuter->setContentsMargins(0, 0, 0, 0);
+    pOuter->addWidget(pPanel);
+    auto* pLayout = new QVBoxLayout(pPanel);
+    pLayout->setContentsMargins(3, 3, 3, 3);
+    auto* pBar = new QToolBar;
+    pBar->setStyleSheet(QStringLiteral(".QToolBar{background-color: #00ffffff;border-radius:10px;}"));
+    pBar->setOrientation(Qt::Vertical);
+    pBar->setIconSize({kIconSize * scale, kIconSize * scale});
+    QAction* pAction = pBar->addAction(aircraftIcon(kIconSize * scale), tr("Center AC"));
+    pAction->setToolTip(tr("Center AC"));
+    pAction->setCheckable(true);
+    pAction->setChecked(true);
+    mpGroup->setExclusive(false);
+    mpGroup->addButton(qobject_cast<QAbstractButton*>(pBar->widgetForAction(pAction)), kCentreAircraft);
+    connect(mpGroup, &QButtonGroup::idToggled, this, &MapToolPanel::signalToggled);
+    pLayout->addWidget(pBar);
+}
+
+void MapToolPanel::setChecked(int id, bool isChecked)
+{
+    if (QAbstractButton* pButton = mpGroup->button(id); pButton && pButton->isChecked() != isChecked)
+        pButton->click();
+}
+
+bool MapToolPanel::isChecked(int id) const
+{
+    const QAbstractButton* pButton = mpGroup->button(id);
+    return pButton && pButton->isChecked();
+}
+
+MapConsentBar::MapConsentBar(QWidget* pParent) : QFrame(pParent), mpText(new QLabel)
+{
+    setObjectName(QStringLiteral("consentBar"));
+    setStyleSheet(QStringLiteral("#consentBar{background-color: #eefff6d5;border:1px solid #b8a25a;border-radius:6px;} #consentBar QLabel{color:black;}"));
+    mpText->setTextFormat(Qt::PlainText);
+    mpText->setWordWrap(true);
+    auto* pYes = new QPushButton(tr("Load map tiles"));
+    auto* pNo = new QPushButton(tr("Stay offline"));
+    pYes->setObjectName(QStringLiteral("consentYes"));
+    pNo->setObjectName(QStringLiteral("consentNo"));
+    auto* pLayout = new QHBoxLayout(this);
+    pLayout->setContentsMargins(10, 6, 10, 6);
+    pLayout->addWidget(mpText, 1);
+    pLayout->addWidget(pYes);
+    pLayout->addWidget(pNo);
+    connect(pYes, &QPushButton::clicked, this, [this] { Q_EMIT signalAnswer(true); });
+    connect(pNo, &QPushButton::clicked, this, [this] { Q_EMIT signalAnswer(false); });
+}
+
+void MapConsentBar::setServer(const QString& name)
+{
+    mpText->setText(tr("Load detailed map tiles from %1? The server then learns which area is looked at. "
+                       "The answer can be changed in the map's menu.").arg(name));
+}
+
+} // namespace ZARN

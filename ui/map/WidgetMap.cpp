@@ -1,0 +1,259 @@
+#include "ui/map/WidgetMap.h"
+
+#include "app/Console.h"
+#include "app/Property.h"
+#include "app/Revision.h"
+#include "card/CardContainer.h"
+#include "profile/Profile.h"
+#include "ui/map/model/TileConsent.h"
+#include "vesk/base/Timer.h"
+
+#include <QFile>
+#include <QOpenGLContext>
+
+#include <cmath>
+
+static void initialiseMapResources()
+{
+    Q_INIT_RESOURCE(map); // of a static library, which nothing else would pull in
+}
+
+namespace ZARN {
+
+namespace {
+
+constexpr int kRedrawInterval = 20;      // milliseconds
+constexpr double kLookInterval = 1.0;    // seconds after which a still view looks whether it is still right
+constexpr double kLoadingInterval = 0.25; // seconds between two drawings while tiles are on their way
+const QColor kBackground(180, 211, 230);
+
+QByteArray userAgent()
+{
+    return QByteArray::fromStdString(Revision::getName()) + '/' + QByteArray::fromStdString(Revision::getRevisionNumber()) +
+           " (desktop review of engine recordings; map view)";
+}
+
+} // namespace
+
+WidgetMap::WidgetMap(const Session& session, const QString& dataPath, MapContext& context, QWidget* pParent)
+    : QOpenGLWidget(pParent), mSession(session), mContext(context), mNavigator(context)
+{
+    setMouseTracking(true);
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_AcceptTouchEvents);
+    setMinimumSize(100, 100);
+    setUpMap(dataPath);
+    mTimer.setInterval(kRedrawInterval);
+    connect(&mTimer, &QTimer::timeout, this, &WidgetMap::slotTimeout);
+    mTimer.start();
+}
+
+WidgetMap::~WidgetMap()
+{
+    releaseGraphics();
+}
+
+void WidgetMap::setUpMap(const QString& dataPath)
+{
+    initialiseMapResources();
+    QFile world(QStringLiteral(":/map/world.bin"));
+    if (!world.open(QIODevice::ReadOnly) || !mMap.setBaseMap(world.readAll()))
+        mSession.console.print("WidgetMap::setUpMap: no map of the world\n");
+    mMap.setTileDirectory((dataPath + QLatin1String("/tiles/")).toUtf8().constData());
+    mMap.setTerrainPath((dataPath + QLatin1String("/terrain/")).toUtf8().constData());
+    mMap.setProjection(OpenStreet::ProjectionType::eMercator);
+    mMap.setMapType(OpenStreet::MapType::eTiles);
+    mMap.setLightDirection(-1.0, 1.0, 1.2); // from the north-west, as maps are shaded
+    mMap.setShading(true);
+    mMap.setUserAgent(userAgent());
+    mMap.setChangeHandler([this] { mIsDirty = true; });
+    updateSettings();
+}
+
+void WidgetMap::updateSettings()
+{
+    const Property& property = mSession.property;
+    mMap.setTileServer(property.getString("TileServer", OpenStreet::TileServer::kDefault).c_str());
+    mMap.setContrast(property.getDouble("MapShadingContrast", 1.0));
+    mMap.setBrightness(property.getDouble("MapShadingBrightness", 1.0));
+    mMap.setShadingFactor(property.getDouble("MapShadingFactor", 0.5));
+    mScene.setImperial(mSession.profile.currentUnit() == EUnit::eImperial);
+    allowTiles();
+}
+
+void WidgetMap::allowTiles()
+{
+    const QString& server = mMap.tileServer().address();
+    mMap.setTilesAllowed(!mScene.path().isEmpty() && TileConsent(mSession.property).answer(server) == TileConsent::eYes);
+    updateNote();
+    mIsDirty = true;
+}
+
+bool WidgetMap::isConsentMissing() const
+{
+    const OpenStreet::TileServer& server = mMap.tileServer();
+    return !mScene.path().isEmpty() && server.isValid() && TileConsent(mSession.property).answer(server.address()) == TileConsent::eNotAsked;
+}
+
+void WidgetMap::updateNote()
+{
+    QString note;
+    if (!mMap.tileServer().isValid())
+        note = tr("The setting \"TileServer\" is no address of map tiles");
+    else if (mMap.areTilesAllowed() && !mMap.lastError().isEmpty())
+        note = mMap.tileServer().name() + QLatin1String(": ") + mMap.lastError();
+    if (mScene.setNote(note))
+        mIsDirty = true;
+}
+
+void WidgetMap::init()
+{
+    mpCanvas = std::make_unique<GlCanvas>();
+    if (!mpCanvas->init()) {
+        mSession.console.print("WidgetMap::init: %s\n", mpCanvas->error().toUtf8().constData());
+        mpCanvas.reset();
+        return;
+    }
+    mIsInitialised = true;
+}
+
+void WidgetMap::releaseGraphics()
+{
+    if (!mIsInitialised)
+        return;
+    mIsInitialised = false;
+    makeCurrent();
+    mMap.releaseGraphics();
+    mpCanvas.reset();
+    doneCurrent();
+}
+
+void WidgetMap::initializeGL()
+{
+    // The toolkit makes a new context when the widget moves to another window.
+    connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, &WidgetMap::releaseGraphics, Qt::UniqueConnection);
+    init();
+}
+
+void WidgetMap::resizeGL(int width, int height)
+{
+    mNavigator.setWindowSize(width, height);
+    if (mNavigator.isFitted())
+        mNavigator.fit(mScene.path(), true);
+    mIsDirty = true;
+}
+
+void WidgetMap::setViewPort()
+{
+    mMap.setCamera(mNavigator.camera());
+    mMap.setPixelRatio(devicePixelRatioF());
+    mMap.setMoving(mContext.isRangeChanged);
+}
+
+void WidgetMap::setViewPortOrtho()
+{
+    mpCanvas->device().matrix().clear();
+}
+
+void WidgetMap::paintGL()
+{
+    if (!mpCanvas)
+        return;
+    ++mPaints;
+    mIsDirty = false;
+    mLastRedraw = VESK::Misc::Timer::getTime();
+    mpCanvas->begin(size(), devicePixelRatioF(), kBackground);
+    setViewPort();
+    mMap.render(mpCanvas->device());
+    setViewPortOrtho();
+    mScene.draw(*mpCanvas, mNavigator.camera());
+    mpCanvas->end();
+    mContext.isLoading = mMap.nrLoadingTiles() != 0;
+}
+
+void WidgetMap::slotTimeout()
+{
+    const double now = VESK::Misc::Timer::getTime();
+    const bool isMoving = mNavigator.isMoving();
+    mNavigator.tick(now - mLastTick);
+    mLastTick = now;
+    const double still = std::fabs(now - mLastRedraw); // the clock may be set back
+    if (mIsDirty || still > kLookInterval) {
+        mContext.isLoading = mMap.nrLoadingTiles() != 0;
+        updateNote();
+    }
+    if (mIsDirty || isMoving || (mContext.isLoading && still > kLoadingInterval))
+        update();
+}
+
+void WidgetMap::showEvent(QShowEvent* pEvent)
+{
+    QOpenGLWidget::showEvent(pEvent);
+    mTimer.start();
+}
+
+void WidgetMap::hideEvent(QHideEvent* pEvent)
+{
+    QOpenGLWidget::hideEvent(pEvent);
+    mTimer.stop();
+}
+
+void WidgetMap::setRecordData(RecordData* pRecord)
+{
+    mpRecord = pRecord;
+    if (pRecord) {
+        redrawFlightPath();
+        return;
+    }
+    mScene.path().setPoints({});
+    mScene.events().place(mScene.path());
+    allowTiles();
+}
+
+void WidgetMap::redrawFlightPath()
+{
+    mScene.path().setPoints(mSession.container.flightPath());
+    mScene.events().place(mScene.path());
+    mNavigator.fit(mScene.path(), true);
+    allowTiles();
+}
+
+void WidgetMap::fitPath()
+{
+    mNavigator.fit(mScene.path(), false);
+    mIsDirty = true;
+}
+
+void WidgetMap::setAcPosition(const FlightPathPoint& position)
+{
+    mScene.setAircraft(position);
+    if (!mScene.path().isEmpty())
+        mNavigator.follow(position.latitude, position.longitude);
+    mIsDirty = true;
+}
+
+void WidgetMap::zoomCentered(double range)
+{
+    mNavigator.zoomCentered(range);
+    mIsDirty = true;
+}
+
+void WidgetMap::latLong2Window(double latitude, double longitude, double* pX, double* pY) const
+{
+    const OpenStreet::WindowPoint point = mNavigator.camera().geoToWindow({latitude, longitude});
+    *pX = point.x;
+    *pY = point.y;
+}
+
+double WidgetMap::screenToCartesianSize(double pixels) const
+{
+    const OpenStreet::Camera& camera = mNavigator.camera();
+    return pixels * camera.metresPerPixel() / camera.projection().scaleAt(camera.position().latitude);
+}
+
+double WidgetMap::calcDistance(double lat1, double lon1, double lat2, double lon2)
+{
+    return CardContainer::calcDistance(lat1, lon1, lat2, lon2);
+}
+
+} // namespace ZARN

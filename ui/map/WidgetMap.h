@@ -1,0 +1,127 @@
+#pragma once
+
+#include "card/record/RecordData.h"
+#include "openstreet/gl/OpenStreetMap.h"
+#include "project/Session.h"
+#include "ui/gl/GlCanvas.h"
+#include "ui/map/model/MapNavigator.h"
+#include "ui/map/model/MapScene.h"
+
+#include <QOpenGLWidget>
+#include <QTimer>
+
+#include <memory>
+#include <optional>
+
+class QNativeGestureEvent;
+class QTouchEvent;
+
+namespace ZARN {
+
+/// The drawn map: tiles, and above them the flight path with the aircraft. Turns the user's keys, wheel, drags and touches into
+/// moves of the view. Draws only when something has changed. Owned by the panel, as is the context.
+class WidgetMap : public QOpenGLWidget {
+    Q_OBJECT
+
+public:
+    /// @param dataPath folder below which tiles and terrain are kept, without a trailing "/".
+    WidgetMap(const Session& session, const QString& dataPath, MapContext& context, QWidget* pParent);
+    ~WidgetMap() override;
+
+    /// Once there is a context to draw in.
+    void init();
+    /// Shows the path of the record that is loaded; null takes the path away and leaves the view.
+    void setRecordData(RecordData* pRecord);
+    /// Takes the path over anew and shows the whole of it.
+    void redrawFlightPath();
+    /// Where the aircraft is drawn; repaints.
+    void setAcPosition(const FlightPathPoint& position);
+    /// Hands the camera, with its angles, to the map library.
+    void setViewPort();
+    /// Back to plain pixels for what stands in the window's corners.
+    void setViewPortOrtho();
+    /// Zooms at once to a range in metres about the pointer.
+    void zoomCentered(double range);
+    void latLong2Window(double latitude, double longitude, double* pX, double* pY) const;
+    /// Metres on the ground, in the middle of the window, of a length in pixels.
+    [[nodiscard]] double screenToCartesianSize(double pixels) const;
+    /// Great-circle distance in metres between two places in degrees.
+    [[nodiscard]] static double calcDistance(double lat1, double lon1, double lat2, double lon2);
+
+    /// Reads server, consent and shading from the settings again.
+    void updateSettings();
+    /// Shows the whole path again.
+    void fitPath();
+    void setDirty() { mIsDirty = true; }
+    /// Whether the user has yet to be asked for the network: there is a path, and a server whose tiles could lie under it.
+    [[nodiscard]] bool isConsentMissing() const;
+
+    [[nodiscard]] MapScene& scene() { return mScene; }
+    [[nodiscard]] const MapScene& scene() const { return mScene; }
+    [[nodiscard]] MapNavigator& navigator() { return mNavigator; }
+    [[nodiscard]] OpenStreet::OpenStreetMap& map() { return mMap; }
+    [[nodiscard]] const OpenStreet::OpenStreetMap& map() const { return mMap; }
+    /// How often it was drawn.
+    [[nodiscard]] int paints() const { return mPaints; }
+
+Q_SIGNALS:
+    /// The user's moves have switched the following of the aircraft off.
+    void signalUpdateMode();
+    /// The user picked a place of the path; its time in seconds.
+    void signalTime(double time);
+
+protected:
+    void initializeGL() override;
+    void resizeGL(int width, int height) override;
+    void paintGL() override;
+    void keyPressEvent(QKeyEvent* pEvent) override;
+    void mousePressEvent(QMouseEvent* pEvent) override;
+    void mouseMoveEvent(QMouseEvent* pEvent) override;
+    void mouseReleaseEvent(QMouseEvent* pEvent) override;
+    void mouseDoubleClickEvent(QMouseEvent* pEvent) override;
+    void wheelEvent(QWheelEvent* pEvent) override;
+    void leaveEvent(QEvent* pEvent) override;
+    void showEvent(QShowEvent* pEvent) override;
+    void hideEvent(QHideEvent* pEvent) override;
+    bool event(QEvent* pEvent) override;
+
+private Q_SLOTS:
+    void slotTimeout();
+
+private:
+    struct Touch {
+        QPointF middle;
+        double spread = 0.0; ///< pixels between two fingers; 0 with one
+    };
+
+    void setUpMap(const QString& dataPath);
+    void allowTiles();
+    void updateNote();
+    void releaseGraphics();
+    bool moveByKey(const QKeyEvent& event);
+    bool arrowKey(const QKeyEvent& event, double right, double down);
+    void dragBy(const QPointF& step);
+    void pickTime(const QPointF& place);
+    void showToolTip(const QPoint& place, const QPoint& globalPlace);
+    bool touch(const QTouchEvent& event);
+    bool nativeGesture(const QNativeGestureEvent& event);
+
+    Session mSession;
+    MapContext& mContext;
+    MapNavigator mNavigator;
+    MapScene mScene;
+    OpenStreet::OpenStreetMap mMap;
+    std::unique_ptr<GlCanvas> mpCanvas;
+    RecordData* mpRecord = nullptr;
+    bool mIsInitialised = false;
+    bool mIsDirty = true;
+    double mLastRedraw = 0.0;
+    double mLastTick = 0.0;
+    int mPaints = 0;
+    QTimer mTimer;
+    std::optional<QPointF> mDragFrom;
+    bool mWasDragged = false;
+    std::optional<Touch> mTouch;
+};
+
+} // namespace ZARN

@@ -1,0 +1,70 @@
+#include "ui/map/model/MapEvents.h"
+
+#include "card/CardContainer.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <cmath>
+
+namespace ZARN {
+
+namespace {
+
+constexpr QRgb kNoColour = 0xff606060;
+
+} // namespace
+
+void MapEvents::clear()
+{
+    mAll.clear();
+    mDots.clear();
+}
+
+void MapEvents::add(const EventList& list)
+{
+    mAll.reserve(mAll.size() + list.events().size());
+    for (const Event& event : list.events())
+        mAll.push_back({event.time, event.colour.isValid() ? event.colour : QColor(kNoColour), list.text(event), {}});
+}
+
+void MapEvents::place(const MapPath& path)
+{
+    mDots.clear();
+    const OpenStreet::Projection mercator(OpenStreet::ProjectionType::eMercator);
+    for (const MapEvent& event : mAll) {
+        if (!path.spans(event.time))
+            continue;
+        const FlightPathPoint at = path.positionAt(event.time);
+        const OpenStreet::WorldPoint place = mercator.toWorld({at.latitude, at.longitude});
+        mDots.push_back(event);
+        mDots.back().place = {std::remainder(place.x - path.origin().x, OpenStreet::Projection::kWorldWidth), place.y - path.origin().y};
+    }
+}
+
+std::vector<const MapEvent*> MapEvents::near(const MapPath& path, const OpenStreet::Camera& camera, const OpenStreet::WindowPoint& point) const
+{
+    const OpenStreet::WindowPoint start = windowOrigin(camera, path.origin());
+    std::vector<std::pair<double, const MapEvent*>> found;
+    for (const MapEvent& event : mDots) {
+        const OpenStreet::WindowPoint at = camera.worldToWindowVector(event.place);
+        const double distance = std::hypot(start.x + at.x - point.x, start.y + at.y - point.y);
+        if (distance <= kRadius + 2.0)
+            found.emplace_back(distance, &event);
+    }
+    std::stable_sort(found.begin(), found.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
+    std::vector<const MapEvent*> result;
+    for (std::size_t i = 0; i < std::min(found.size(), kMostTips); ++i)
+        result.push_back(found[i].second);
+    return result;
+}
+
+QString MapEvents::text(const std::vector<const MapEvent*>& events)
+{
+    QStringList lines;
+    for (const MapEvent* pEvent : events)
+        lines << CardContainer::time(pEvent->time) + QLatin1String("  ") + QString::fromStdString(pEvent->text);
+    return lines.join(QLatin1Char('\n'));
+}
+
+} // namespace ZARN

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "analysis/EventList.h"
+#include "ui/map/model/MapPath.h"
+
+#include <QColor>
+#include <QString>
+
+#include <vector>
+
+namespace ZARN {
+
+/// An event at the place where the aircraft was then.
+struct MapEvent {
+    double time = 0.0;
+    QColor colour;
+    std::string text;
+    OpenStreet::WorldPoint place; ///< relative to the path's origin
+};
+
+/// The events of the lists as dots on the path. Those that happened while there was no position have no dot.
+class MapEvents {
+public:
+    static constexpr double kRadius = 5.0; ///< pixels
+    static constexpr std::size_t kMostTips = 8;
+
+    /// Forgets all events.
+    void clear();
+    /// Adds those of a list, with their colours.
+    void add(const EventList& list);
+    /// Puts the events on the path.
+    void place(const MapPath& path);
+
+    [[nodiscard]] const std::vector<MapEvent>& dots() const { return mDots; }
+    /// The events under a place of the window, the nearest first, at most kMostTips.
+    [[nodiscard]] std::vector<const MapEvent*> near(const MapPath& path, const OpenStreet::Camera& camera, const OpenStreet::WindowPoint& point) const;
+    /// Times and texts of events, one a line.
+    [[nodiscard]] static QString text(const std::vector<const MapEvent*>& events);
+
+private:
+    std::vector<MapEvent> mAll;
+    std::vector<MapEvent> mDots;
+};
+
+} // namespace ZARN

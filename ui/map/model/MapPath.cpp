@@ -1,0 +1,133 @@
+#include "ui/map/model/MapPath.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace ZARN {
+
+namespace {
+
+constexpr double kMetresPerDegree = 60.0 * 1852.0;
+constexpr double kMargin = 1.2;
+
+const OpenStreet::Projection& mercator()
+{
+    static constexpr OpenStreet::Projection projection(OpenStreet::ProjectionType::eMercator);
+    return projection;
+}
+
+bool isPlace(const FlightPathPoint& point)
+{
+    return std::fabs(point.latitude) <= 90.0 && std::fabs(point.longitude) <= 360.0;
+}
+
+double shortWay(double degrees)
+{
+    if (degrees < -180.0)
+        return degrees + 360.0;
+    return degrees > 180.0 ? degrees - 360.0 : degrees;
+}
+
+FlightPathPoint between(const FlightPathPoint& a, const FlightPathPoint& b, double time)
+{
+    const double f = (time - a.time) / (b.time - a.time);
+    const auto mix = [f](double from, double to) { return from + (to - from) * f; };
+    return {time, mix(a.latitude, b.latitude), mix(a.longitude, b.longitude), mix(a.altitude, b.altitude), mix(a.groundSpeed, b.groundSpeed),
+            a.track + shortWay(b.track - a.track) * f};
+}
+
+/// How far along the stretch from a to b the point is nearest to it, 0..1, and the square of that distance.
+std::pair<double, double> nearest(const QPointF& point, const QPointF& a, const QPointF& b)
+{
+    const QPointF way = b - a;
+    const double length = QPointF::dotProduct(way, way);
+    const double along = length > 0.0 ? std::clamp(QPointF::dotProduct(point - a, way) / length, 0.0, 1.0) : 0.0;
+    const QPointF off = point - (a + way * along);
+    return {along, QPointF::dotProduct(off, off)};
+}
+
+} // namespace
+
+void MapPath::setPoints(std::span<const FlightPathPoint> points)
+{
+    ++mGeneration;
+    mPoints.clear();
+    mWorld.clear();
+    std::copy_if(points.begin(), points.end(), std::back_inserter(mPoints), isPlace);
+    if (mPoints.empty())
+        return;
+    mOrigin = mercator().toWorld({mPoints.front().latitude, mPoints.front().longitude});
+    mWorld.reserve(mPoints.size());
+    double before = 0.0;
+    for (const FlightPathPoint& point : mPoints) {
+        const OpenStreet::WorldPoint place = mercator().toWorld({point.latitude, point.longitude});
+        const double x = before + std::remainder(place.x - mOrigin.x - before, OpenStreet::Projection::kWorldWidth);
+        mWorld.push_back({x, place.y - mOrigin.y});
+        before = x;
+    }
+}
+
+MapFit MapPath::fit(int width, int height) const
+{
+    if (mPoints.empty() || width <= 0 || height <= 0)
+        return {};
+    const auto [south, north] = std::minmax_element(mPoints.begin(), mPoints.end(), [](auto& a, auto& b) { return a.latitude < b.latitude; });
+    const auto [west, east] = std::minmax_element(mWorld.begin(), mWorld.end(), [](auto& a, auto& b) { return a.x < b.x; });
+    const double latitudes = north->latitude - south->latitude;
+    const double longitudes = (east->x - west->x) / OpenStreet::Projection::kWorldWidth * 360.0;
+    MapFit result;
+    result.latitude = south->latitude + 0.5 * latitudes;
+    result.longitude = mPoints.front().longitude + west->x / OpenStreet::Projection::kWorldWidth * 360.0 + 0.5 * longitudes;
+    const double across = longitudes * kMetresPerDegree * std::cos(result.latitude * std::numbers::pi / 180.0);
+    const double upright = latitudes * kMetresPerDegree * kMargin * width / height;
+    result.range = std::max(kMargin * across, upright);
+    return result;
+}
+
+FlightPathPoint MapPath::positionAt(double time) const
+{
+    if (mPoints.empty())
+        return {};
+    const auto after = std::upper_bound(mPoints.begin(), mPoints.end(), time, [](double t, const FlightPathPoint& point) { return t < point.time; });
+    if (after == mPoints.begin() || std::isnan(time))
+        return mPoints.front();
+    const auto here = std::prev(after);
+    if (here == mPoints.begin() || after == mPoints.end())
+        return *here;
+    return between(*here, *after, time);
+}
+
+bool MapPath::spans(double time) const
+{
+    return !mPoints.empty() && time >= mPoints.front().time - FlightPath::kStep && time <= mPoints.back().time + FlightPath::kStep;
+}
+
+std::optional<double> MapPath::timeNear(const OpenStreet::Camera& camera, const OpenStreet::WindowPoint& point, double pixels) const
+{
+    const OpenStreet::WindowPoint start = windowOrigin(camera, mOrigin);
+    const QPointF wanted(point.x - start.x, point.y - start.y);
+    double best = pixels * pixels;
+    std::optional<double> result;
+    QPointF before;
+    for (std::size_t i = 0; i < mWorld.size(); ++i) {
+        const OpenStreet::WindowPoint at = camera.worldToWindowVector(mWorld[i]);
+        const QPointF here(at.x, at.y);
+        const auto [along, distance] = nearest(wanted, i > 0 ? before : here, here);
+        if (distance <= best) {
+            best = distance;
+            const double from = mPoints[i > 0 ? i - 1 : 0].time;
+            result = from + (mPoints[i].time - from) * along;
+        }
+        before = here;
+    }
+    return result;
+}
+
+OpenStreet::WindowPoint windowOrigin(const OpenStreet::Camera& camera, const OpenStreet::WorldPoint& origin)
+{
+    const OpenStreet::WorldPoint middle = camera.windowToWorld({0.5 * camera.width(), 0.5 * camera.height()});
+    return camera.worldToWindow({middle.x + std::remainder(origin.x - middle.x, OpenStreet::Projection::kWorldWidth), origin.y});
+}
+
+} // namespace ZARN

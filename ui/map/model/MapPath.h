@@ -1,0 +1,55 @@
+#pragma once
+
+#include "card/FlightPath.h"
+#include "openstreet/core/Camera.h"
+
+#include <QPointF>
+
+#include <optional>
+#include <span>
+#include <vector>
+
+namespace ZARN {
+
+/// The rectangle of places that a path takes, in degrees, and the view that shows it.
+struct MapFit {
+    double latitude = 0.0; ///< of the middle
+    double longitude = 0.0;
+    double range = 0.0; ///< metres across the window; 0 when the path is empty or a single place
+};
+
+/// The flight path as the map has it: its points, where they lie on the flat map, and what is found on it.
+class MapPath {
+public:
+    /// Takes the points over, in ascending time. Those whose place is no number are left out.
+    void setPoints(std::span<const FlightPathPoint> points);
+
+    [[nodiscard]] const std::vector<FlightPathPoint>& points() const { return mPoints; }
+    [[nodiscard]] bool isEmpty() const { return mPoints.empty(); }
+    /// Where the points lie, relative to the first one, in the same order. A path across the date line goes on beyond it.
+    [[nodiscard]] const std::vector<OpenStreet::WorldPoint>& world() const { return mWorld; }
+    [[nodiscard]] const OpenStreet::WorldPoint& origin() const { return mOrigin; }
+    /// Changes with every other path.
+    [[nodiscard]] int generation() const { return mGeneration; }
+
+    /// The middle of the path, and the width that shows all of it in a window of that size, with a margin.
+    [[nodiscard]] MapFit fit(int width, int height) const;
+    /// The aircraft at a time: between two points by linear interpolation, the track the short way round and not folded back into 0..360. The first
+    /// point up to the second one's time, the last from its own time on; all zeros without points.
+    [[nodiscard]] FlightPathPoint positionAt(double time) const;
+    /// Whether the path has a place for the time.
+    [[nodiscard]] bool spans(double time) const;
+    /// The time at which the path is nearest to a place of the window; nothing when it is farther than so many pixels everywhere.
+    [[nodiscard]] std::optional<double> timeNear(const OpenStreet::Camera& camera, const OpenStreet::WindowPoint& point, double pixels) const;
+
+private:
+    std::vector<FlightPathPoint> mPoints;
+    std::vector<OpenStreet::WorldPoint> mWorld;
+    OpenStreet::WorldPoint mOrigin;
+    int mGeneration = 0;
+};
+
+/// Where the place that is the path's origin lies in the window, in the world nearest to the window's middle.
+[[nodiscard]] OpenStreet::WindowPoint windowOrigin(const OpenStreet::Camera& camera, const OpenStreet::WorldPoint& origin);
+
+} // namespace ZARN

@@ -1,0 +1,169 @@
+#include "ui/map/model/MapScene.h"
+
+#include <QTransform>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <map>
+#include <numbers>
+#include <unordered_set>
+
+namespace ZARN {
+
+namespace {
+
+constexpr double kPathWidth = 3.0;
+constexpr double kMargin = 8.0; // pixels between the window's edges and what stands in its corners
+constexpr double kTextSize = 11.0;
+constexpr double kBarPixels = 140.0;
+constexpr double kMetresPerMile = 1852.0;
+constexpr double kMetresPerFoot = 0.3048;
+constexpr std::size_t kMostDots = 4000;
+constexpr int kDotCell = 2; // pixels: dots that lie closer together are one
+const QColor kPathColour(255, 0, 0);
+const QColor kTextColour = QColor::fromRgbF(0.4F, 0.4F, 0.4F);
+const QColor kTextGround(255, 255, 255, 190);
+const QColor kAircraftColour(25, 60, 140);
+
+using Circle = std::array<QPointF, 12>;
+
+Circle circle(double radius)
+{
+    Circle points;
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        const double angle = 2.0 * std::numbers::pi * static_cast<double>(i) / static_cast<double>(points.size());
+        points[i] = {radius * std::cos(angle), radius * std::sin(angle)};
+    }
+    return points;
+}
+
+void addDisc(std::vector<QPointF>& triangles, const Circle& shape, const QPointF& middle)
+{
+    for (std::size_t i = 0; i < shape.size(); ++i)
+        triangles.insert(triangles.end(), {middle, middle + shape[i], middle + shape[(i + 1) % shape.size()]});
+}
+
+QString length(double amount, const char* unit)
+{
+    return QString(QLatin1String("%1 %2")).arg(amount, 0, 'g', 6).arg(QLatin1String(unit));
+}
+
+} // namespace
+
+MapScaleBar MapScaleBar::at(const OpenStreet::Camera& camera, double pixels, bool imperial)
+{
+    const double perPixel = camera.metresPerPixel() / camera.projection().scaleAt(camera.position().latitude);
+    const double most = perPixel * pixels;
+    double unit = 1.0;
+    const char* pUnit = "m";
+    if (imperial) {
+        const bool isShort = most < kMetresPerMile;
+        unit = isShort ? kMetresPerFoot : kMetresPerMile;
+        pUnit = isShort ? "ft" : "NM";
+    } else if (most >= 1000.0) {
+        unit = 1000.0;
+        pUnit = "km";
+    }
+    const double power = std::pow(10.0, std::floor(std::log10(most / unit)));
+    const double digit = most / unit / power;
+    const double amount = power * (digit >= 5.0 ? 5.0 : digit >= 2.0 ? 2.0 : 1.0);
+    return {amount * unit, amount * unit / perPixel, length(amount, pUnit)};
+}
+
+std::span<const QPointF> MapScene::aircraftOutline()
+{
+    static constexpr std::array<QPointF, 22> right{
+        QPointF{0, -15},  {1.6, -13.5}, {2.2, -10},  {2.2, -5},  {17, -2.5}, {17, 1},    {2.2, 1.5},   {1.4, 10},  {6.5, 12},  {6.5, 14.5}, {0.8, 13.8},
+        {-0.8, 13.8}, {-6.5, 14.5}, {-6.5, 12}, {-1.4, 10}, {-2.2, 1.5}, {-17, 1}, {-17, -2.5}, {-2.2, -5}, {-2.2, -10}, {-1.6, -13.5}, {0, -15}};
+    return std::span(right).first(right.size() - 1);
+}
+
+bool MapScene::setNote(const QString& note)
+{
+    const bool isOther = note != mNote;
+    mNote = note;
+    return isOther;
+}
+
+void MapScene::draw(Canvas& canvas, const OpenStreet::Camera& camera)
+{
+    drawPath(canvas, camera);
+    drawEvents(canvas, camera);
+    drawAircraft(canvas, camera);
+    drawScaleBar(canvas, camera);
+    drawLabel(canvas, {camera.width() - kMargin, camera.height() - kMargin}, QString::fromLatin1(kAttribution), Qt::AlignRight | Qt::AlignBottom);
+}
+
+void MapScene::drawPath(Canvas& canvas, const OpenStreet::Camera& camera)
+{
+    mGeometry.update(mPath, camera);
+    canvas.push();
+    canvas.translate(mGeometry.offset().x(), mGeometry.offset().y());
+    for (const PathGeometry::Strip& strip : mGeometry.strips())
+        canvas.lineStrip(strip, {kPathColour, kPathWidth, true});
+    canvas.pop();
+}
+
+void MapScene::drawEvents(Canvas& canvas, const OpenStreet::Camera& camera) const
+{
+    const OpenStreet::WindowPoint start = windowOrigin(camera, mPath.origin());
+    const Circle inner = circle(MapEvents::kRadius), outer = circle(MapEvents::kRadius + 1.2);
+    std::map<QRgb, std::vector<QPointF>> discs; // one drawing a colour
+    std::vector<QPointF> rims;
+    std::unordered_set<qint64> taken;
+    for (const MapEvent& event : mEvents.dots()) {
+        const OpenStreet::WindowPoint at = camera.worldToWindowVector(event.place);
+        const QPointF middle(start.x + at.x, start.y + at.y);
+        if (!QRectF(-kMargin, -kMargin, camera.width() + 2 * kMargin, camera.height() + 2 * kMargin).contains(middle))
+            continue;
+        const auto cell = static_cast<qint64>(middle.x()) / kDotCell * 100000 + static_cast<qint64>(middle.y()) / kDotCell;
+        if (taken.size() >= kMostDots || !taken.insert(cell * 0x1000000 + static_cast<qint64>(event.colour.rgb() & 0xffffffU)).second)
+            continue;
+        addDisc(rims, outer, middle);
+        addDisc(discs[event.colour.rgb()], inner, middle);
+    }
+    canvas.triangles(rims, Qt::black);
+    for (const auto& [colour, triangles] : discs)
+        canvas.triangles(triangles, QColor(colour));
+}
+
+void MapScene::drawAircraft(Canvas& canvas, const OpenStreet::Camera& camera) const
+{
+    if (mPath.isEmpty())
+        return;
+    const OpenStreet::WindowPoint at = camera.geoToWindow({mAircraft.latitude, mAircraft.longitude});
+    const double track = std::isfinite(mAircraft.track) ? mAircraft.track : 0.0;
+    const QTransform turn = QTransform::fromTranslate(at.x, at.y).rotate(track);
+    std::vector<QPointF> outline;
+    for (const QPointF& point : aircraftOutline())
+        outline.push_back(turn.map(point));
+    canvas.polygon(outline, kAircraftColour);
+    outline.push_back(outline.front());
+    canvas.lineStrip(outline, {Qt::white, 1.5, true});
+}
+
+void MapScene::drawScaleBar(Canvas& canvas, const OpenStreet::Camera& camera) const
+{
+    const MapScaleBar bar = MapScaleBar::at(camera, std::min(kBarPixels, 0.4 * camera.width()), mIsImperial);
+    const double bottom = camera.height() - kMargin;
+    const double right = kMargin + bar.pixels;
+    drawLabel(canvas, {kMargin, bottom - 7.0}, bar.text, Qt::AlignLeft | Qt::AlignBottom);
+    canvas.fillRect({kMargin, bottom - 5.0, bar.pixels, 5.0}, kTextGround);
+    canvas.fillRect({kMargin, bottom - 2.0, bar.pixels, 2.0}, kTextColour);
+    canvas.fillRect({kMargin, bottom - 5.0, 2.0, 5.0}, kTextColour);
+    canvas.fillRect({right - 2.0, bottom - 5.0, 2.0, 5.0}, kTextColour);
+    if (!mNote.isEmpty())
+        drawLabel(canvas, {kMargin, bottom - 28.0}, mNote, Qt::AlignLeft | Qt::AlignBottom);
+}
+
+void MapScene::drawLabel(Canvas& canvas, const QPointF& position, const QString& text, Qt::Alignment align) const
+{
+    const CanvasText style{kTextSize, kTextColour, false, align};
+    const QSizeF size = canvas.textSize(text, style);
+    const double left = align & Qt::AlignRight ? position.x() - size.width() : position.x();
+    canvas.fillRect({left - 3.0, position.y() - size.height(), size.width() + 6.0, size.height()}, kTextGround);
+    canvas.text(position, text, style);
+}
+
+} // namespace ZARN

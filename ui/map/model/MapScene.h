@@ -1,0 +1,53 @@
+#pragma once
+
+#include "ui/canvas/Canvas.h"
+#include "ui/map/model/MapEvents.h"
+#include "ui/map/model/PathGeometry.h"
+
+namespace ZARN {
+
+/// A length on the ground that is drawn as a bar.
+struct MapScaleBar {
+    double metres = 0.0;
+    double pixels = 0.0;
+    QString text;
+
+    /// The longest length of 1, 2 or 5 times a power of ten that takes at most so many pixels. @param imperial nautical miles and feet
+    [[nodiscard]] static MapScaleBar at(const OpenStreet::Camera& camera, double pixels, bool imperial);
+};
+
+/// What is drawn above the tiles of the map: path, events, aircraft, scale bar, attribution.
+class MapScene {
+public:
+    static constexpr const char* kAttribution = "(c) OpenStreetMap contributors";
+
+    [[nodiscard]] MapPath& path() { return mPath; }
+    [[nodiscard]] const MapPath& path() const { return mPath; }
+    [[nodiscard]] MapEvents& events() { return mEvents; }
+    [[nodiscard]] const PathGeometry& geometry() const { return mGeometry; }
+    void setAircraft(const FlightPathPoint& point) { mAircraft = point; }
+    [[nodiscard]] const FlightPathPoint& aircraft() const { return mAircraft; }
+    void setImperial(bool on) { mIsImperial = on; }
+    /// A line for people above the scale bar, for example that the server does not answer; empty for none. @return whether it is another one.
+    bool setNote(const QString& note);
+
+    void draw(Canvas& canvas, const OpenStreet::Camera& camera);
+    /// The aircraft seen from above, pointing north, around the origin.
+    [[nodiscard]] static std::span<const QPointF> aircraftOutline();
+
+private:
+    void drawPath(Canvas& canvas, const OpenStreet::Camera& camera);
+    void drawEvents(Canvas& canvas, const OpenStreet::Camera& camera) const;
+    void drawAircraft(Canvas& canvas, const OpenStreet::Camera& camera) const;
+    void drawScaleBar(Canvas& canvas, const OpenStreet::Camera& camera) const;
+    void drawLabel(Canvas& canvas, const QPointF& position, const QString& text, Qt::Alignment align) const;
+
+    MapPath mPath;
+    MapEvents mEvents;
+    PathGeometry mGeometry;
+    FlightPathPoint mAircraft{};
+    QString mNote;
+    bool mIsImperial = false;
+};
+
+} // namespace ZARN
