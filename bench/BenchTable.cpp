@@ -1,6 +1,7 @@
 #include "app/Console.h"
 #include "app/Progress.h"
 #include "app/Property.h"
+#include "bench/BenchApplication.h"
 #include "card/CardContainer.h"
 #include "project/Project.h"
 #include "ui/data/DialogDataTable.h"
@@ -8,7 +9,6 @@
 
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
 #include <QHeaderView>
 #include <QScrollBar>
 #include <QTableView>
@@ -28,17 +28,6 @@ constexpr int kItemRows = 100000;
 constexpr int kItemColumns = 40;
 constexpr int kColumnWidth = 100; // the toolkit's default
 constexpr uint64_t kTicksPerTenth = 3200000;
-
-void startApplication()
-{
-    static int count = 1;
-    static char name[] = "zarn-bench";
-    static char* arguments[] = {name, nullptr};
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    static QApplication* pApplication = new QApplication(count, arguments); // outlives what static objects may still need of it
-    benchmark::DoNotOptimize(pApplication);
-}
 
 /// Whether a channel has a sample at a row: about every second one.
 bool hasSample(uint32_t row, uint32_t channel)

@@ -6,6 +6,8 @@
 #include "ui/data/DialogDataStatistic.h"
 #include "ui/data/DialogDataTable.h"
 #include "ui/data/DialogDataWarning.h"
+#include "ui/graph/DialogDataGraph.h"
+#include "ui/map/DialogDataMap.h"
 
 namespace ZARN {
 
@@ -16,28 +18,26 @@ template <typename View> DataViewEntry entry(View* pView)
     return {pView, pView};
 }
 
-class PlainFrame : public QWidget, public DataView {
-public:
-    void updateProfile() override {}
-    void updateRecord(RecordData*) override {}
-    void setTime(double) override {}
-};
-
 } // namespace
 
-DataViews DataViews::create(const Session& session, const QString& /*dataPath*/)
+DataViews DataViews::create(const Session& session, const QString& dataPath)
 {
     auto* pTable = new DialogDataTable(session);
+    auto* pGraph = new DialogDataGraph(session);
     auto* pLimits = new DialogDataLimit(session);
     auto* pWarnings = new DialogDataWarning(session);
+    auto* pMap = new DialogDataMap(session, dataPath);
     DataViews views;
-    views.entries = {entry(pTable),    entry(new PlainFrame),  entry(new DialogDataErrorMatrix(session)), entry(pLimits),
-                     entry(pWarnings), entry(new DialogDataStatistic(session)), entry(new PlainFrame)};
+    views.entries = {entry(pTable),  entry(pGraph),    entry(new DialogDataErrorMatrix(session)),
+                     entry(pLimits), entry(pWarnings), entry(new DialogDataStatistic(session)), entry(pMap)};
     views.connectTo = [=](DialogData& area) {
         QObject::connect(pTable, &DialogDataTable::signalTime, &area, &DialogData::slotTableTime);
+        QObject::connect(pGraph, &DialogDataGraph::signalCursor, &area, &DialogData::slotCursor);
         QObject::connect(pLimits, &DialogDataLimit::signalTime, &area, &DialogData::slotLimitTime);
         QObject::connect(pWarnings, &DialogDataWarning::signalTime, &area, &DialogData::slotWarningTime);
+        QObject::connect(pMap, &DialogDataMap::signalTime, &area, &DialogData::slotMapTime);
     };
+    views.shareEvents = [=] { pMap->setEvents(pLimits->events(), pWarnings->events()); };
     return views;
 }
 

@@ -28,6 +28,8 @@ struct DataViews {
     std::array<DataViewEntry, eViewCount> entries{};
     /// Connects the views' signals to the slots of the data area that they were given to.
     std::function<void(DialogData& area)> connectTo;
+    /// Shows the events of the lists in the views that mark them, once a record is in all views.
+    std::function<void()> shareEvents;
 
     [[nodiscard]] DataView& view(EDataView which) const { return *entries[which].pView; }
 

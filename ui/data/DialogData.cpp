@@ -154,6 +154,8 @@ void DialogData::updateRecord()
         mViews.view(view).updateRecord(mpRecord);
     }
     push(kAll);
+    if (mViews.shareEvents)
+        mViews.shareEvents();
     updateEventCounts();
 }
 

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QApplication>
+#include <QSurfaceFormat>
+
+namespace ZARN {
+
+/// Starts what widgets need, once. Without a platform of the caller's choice it is the one that has no screen.
+inline void startApplication()
+{
+    static int count = 1;
+    static char name[] = "zarn-bench";
+    static char* arguments[] = {name, nullptr};
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && !qEnvironmentVariableIsSet("DISPLAY"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    [[maybe_unused]] static QApplication* pApplication = new QApplication(count, arguments); // outlives all static objects
+}
+
+} // namespace ZARN
