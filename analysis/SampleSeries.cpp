@@ -117,7 +117,7 @@ std::pair<std::size_t, std::size_t> SampleSeries::secondOf(double time) const
     if (!(second >= 0))
         return {0, std::isnan(second) ? size() : mSeconds.front()};
     const auto entry = saturatingCast<std::size_t>(second);
-    if (entry + 1 < mSeconds.size())
+    if (entry < mSeconds.size() - 1)
         return {mSeconds[entry], mSeconds[entry + 1]};
     return {mSeconds[std::min(entry, mSeconds.size() - 1)], size()};
 }

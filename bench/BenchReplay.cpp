@@ -2,7 +2,6 @@
 #include "app/Progress.h"
 #include "app/Property.h"
 #include "app/StyleHandler.h"
-#include "app/gui/GraphicsCheck.h"
 #include "app/gui/ImageHandler.h"
 #include "bench/BenchApplication.h"
 #include "card/CardContainer.h"
@@ -93,8 +92,6 @@ void wait(int milliseconds)
 /// A replay at full speed with one tab and the map in sight.
 void replay(benchmark::State& state)
 {
-    QSurfaceFormat::setDefaultFormat(GraphicsCheck::surfaceFormat());
-    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
     startApplication();
     ImageHandler::initialise();
     StyleHandler style;

@@ -126,7 +126,7 @@ void DialogDataGraph::snapshot()
 void DialogDataGraph::copyValues()
 {
     const GraphModel& model = mpGraph->model();
-    const auto [start, end] = std::minmax(model.markerStart(), model.markerEnd());
+    const auto [start, end] = std::minmax({model.markerStart(), model.markerEnd()});
     QGuiApplication::clipboard()->setText(markerText(model.markerValues(), start, end));
 }
 

@@ -82,7 +82,7 @@ double GraphLayout::axisWidth(const GraphModel& model, double height) const
     qsizetype longest = 4;
     const auto measure = [&](int index, double length) {
         const std::array<double, 2> range = model.valueRange(index);
-        const AxisTicks ticks(range[0], range[1], length, 3 * mLine);
+        const AxisTicks ticks(range[0], range[1], length, kValueSpacing * mLine);
         for (const AxisTick& tick : ticks.ticks()) {
             if (tick.isMajor)
                 longest = std::max(longest, ticks.valueLabel(tick.value).size());

@@ -44,6 +44,7 @@ public:
     /// A name cut to what a line of the legend or the table shows.
     [[nodiscard]] static QString shortened(const QString& name, int length);
 
+    static constexpr double kValueSpacing = 1.8; ///< lines of text between labels of a value axis at least
     static constexpr double kHandleX = 10.0;
     static constexpr double kHandleReach = 1500.0; ///< squared distance within which a handle is hit
     static constexpr int kLongestName = 24;

@@ -133,7 +133,7 @@ void GraphScene::drawTimeAxis(Canvas& canvas) const
 void GraphScene::drawValueAxis(Canvas& canvas, const QRectF& area, int index) const
 {
     const std::array<double, 2> range = mModel.valueRange(index);
-    const AxisTicks ticks(range[0], range[1], area.height(), 3 * mLayout.line());
+    const AxisTicks ticks(range[0], range[1], area.height(), GraphLayout::kValueSpacing * mLayout.line());
     std::vector<QPointF> major, fine;
     for (const AxisTick& tick : ticks.ticks()) {
         const double y = std::floor(GraphLayout::yOf(tick.value, area, range));
@@ -202,10 +202,11 @@ void GraphScene::drawSamples(Canvas& canvas, const GraphParameter& parameter) co
 void GraphScene::drawMarker(Canvas& canvas) const
 {
     const QRectF& plot = mLayout.plot();
-    const auto [start, end] = std::minmax(mModel.markerStart(), mModel.markerEnd());
+    const auto [start, end] = std::minmax({mModel.markerStart(), mModel.markerEnd()});
     const double left = std::clamp(mLayout.xOf(start), plot.left() - 2, plot.right() + 2);
     const double right = std::clamp(mLayout.xOf(end), plot.left() - 2, plot.right() + 2);
-    if (right < plot.left() || left > plot.right())
+    // Where it stands before anybody has set it, it is no marker.
+    if ((start == 0 && end == 0) || right < plot.left() || left > plot.right())
         return;
     canvas.push();
     canvas.clip(plot);

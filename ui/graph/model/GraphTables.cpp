@@ -177,7 +177,8 @@ void GraphTables::drawRow(Canvas& canvas, double y, const QStringList& cells, co
         CanvasText text = style(i == 0);
         if (i > 0)
             text.align = Qt::AlignRight | Qt::AlignTop;
-        canvas.text(QPointF(i == 0 ? x : x + width, y), cells[static_cast<qsizetype>(i)], text);
+        if (!cells[static_cast<qsizetype>(i)].isEmpty())
+            canvas.text(QPointF(i == 0 ? x : x + width, y), cells[static_cast<qsizetype>(i)], text);
         x += width;
     }
 }

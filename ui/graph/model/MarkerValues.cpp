@@ -16,7 +16,12 @@ constexpr double kSecondsPerHour = 3600.0;
 
 QString numberText(const std::optional<double>& value, int precision)
 {
-    return value ? QString::number(*value, std::abs(*value) < 1e15 ? 'f' : 'g', std::clamp(precision, 0, 17)) : QStringLiteral("-");
+    if (!value)
+        return QStringLiteral("-");
+    const QString text = QString::number(*value, std::abs(*value) < 1e15 ? 'f' : 'g', std::clamp(precision, 0, 17));
+    // A difference that vanishes in the rounding has no sign.
+    const bool isZero = std::ranges::all_of(text, [](QChar c) { return c == QLatin1Char('-') || c == QLatin1Char('0') || c == QLatin1Char('.'); });
+    return isZero && text.startsWith(QLatin1Char('-')) ? text.mid(1) : text;
 }
 
 QString header(const char* text)

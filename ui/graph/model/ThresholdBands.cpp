@@ -37,7 +37,7 @@ std::vector<GraphBand> thresholdBands(const ThresholdList& list, const ValueDeco
         if (steps[i].pThreshold->state == eThresholdOk)
             continue;
         const double to = i + 1 < steps.size() ? steps[i + 1].from : std::numeric_limits<double>::infinity();
-        const auto [lower, upper] = std::minmax(decoder.toDisplayUnit(steps[i].from), decoder.toDisplayUnit(to));
+        const auto [lower, upper] = std::minmax({decoder.toDisplayUnit(steps[i].from), decoder.toDisplayUnit(to)});
         bands.push_back({lower, upper, bandColour(*steps[i].pThreshold)});
     }
     return bands;

@@ -1,0 +1,422 @@
+#include "app/Property.h"
+#include "app/gui/GraphicsCheck.h"
+#include "project/Project.h"
+#include "support/CardBuilder.h"
+#include "support/FileHelpers.h"
+#include "support/ProfileBuilder.h"
+#include "support/TestCycle.h"
+#include "ui/canvas/RasterCanvas.h"
+#include "ui/graph/DialogDataGraph.h"
+#include "ui/graph/DialogGraphSetup.h"
+#include "ui/graph/WidgetGraph.h"
+#include "ui/graph/WidgetGraphES.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QComboBox>
+#include <QImageReader>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPainter>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QToolButton>
+#include <QWheelEvent>
+
+#include <cmath>
+
+using namespace ZARN;
+
+namespace {
+
+class AnsweredGraph : public DialogDataGraph {
+public:
+    using DialogDataGraph::DialogDataGraph;
+    QString answer;
+    QStringList problems;
+
+protected:
+    QString askSnapshotFile() override { return answer; }
+    void showProblem(const QString& text) override { problems << text; }
+};
+
+/// A cycle of 1,000 s with speed and flow, shown in a window on the screen.
+struct Shown : Test::TestCycle {
+    explicit Shown(int parameters = 2)
+    {
+        Test::ProfileBuilder builder;
+        builder.thresholds("Speed", {{0, "OK", "#00ff00"}, {900, "LIMIT", "#ff0000"}}).device("Engine");
+        for (int i = 0; i < parameters; ++i)
+            builder.parameter(QString("P%1").arg(i), 300 + i, "FLOAT", {{"unitMetric", i == 0 ? "rpm" : "l/h"}, {"thresholdId", "Speed"}});
+        builder.load(profile);
+        for (int i = 0; i < parameters; ++i)
+            profile.setSelected(QString("P%1").arg(i).toStdString(), true);
+        Test::RecordFileBuilder& file = card.file("01.CAN");
+        file.dateTime(QDateTime(QDate(2024, 2, 1), QTime(8, 0), Qt::UTC));
+        for (int second = 0; second <= 1000; ++second) {
+            file.addFloat(300, second, second == 500 ? 1000.0F : 100.0F);
+            file.addFloat(301, second, second == 3 ? std::nanf("") : 12.0F);
+        }
+        container.readContainer(card.write());
+        container.loadCycle(container.recordCycles().begin()->first, -1);
+        dialog.resize(1000, 600);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        dialog.updateRecord(&container.recordData());
+        settle();
+    }
+    void settle()
+    {
+        const int before = graph.frameCount();
+        QTRY_VERIFY(graph.frameCount() > before || graph.frameCount() > 0);
+        QTest::qWait(350);
+    }
+    QPoint at(double time) const
+    {
+        const GraphLayout& layout = graph.layoutOfFrame();
+        return {static_cast<int>(std::lround(layout.xOf(time))), static_cast<int>(layout.plot().center().y())};
+    }
+    QToolButton* button(const QString& name) const { return dialog.findChild<QToolButton*>("graph-" + name); }
+    void click(const QString& name) const { QTest::mouseClick(static_cast<QWidget*>(button(name)), Qt::LeftButton); }
+
+    Test::CardBuilder card;
+    Property property{console};
+    Project project{console, profile};
+    AnsweredGraph dialog{Session{console, property, profile, container, project}};
+    WidgetGraphES& graph = dialog.graph();
+    GraphModel& model = dialog.graph().model();
+};
+
+} // namespace
+
+class TestDialogDataGraph : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void showsRecord();
+    void manyParameters();
+    void followsTime();
+    void handsOnGraph();
+    void keysOnGraph();
+    void buttons();
+    void heldZoom();
+    void setup();
+    void menuCopiesValues();
+    void snapshots_data();
+    void snapshots();
+    void idleDrawsNothing();
+    void drawnLikePainted_data();
+    void drawnLikePainted();
+};
+
+void TestDialogDataGraph::showsRecord()
+{
+    Shown shown;
+    QCOMPARE(shown.model.nrActive(), 2);
+    QCOMPARE(shown.model.parameter(0)->label(), "P0 [rpm]");
+    QCOMPARE(shown.model.parameter(0)->samples.size(), 1001U);
+    QCOMPARE(shown.model.parameter(1)->samples.size(), 1000U); // without the value that is no number
+    QCOMPARE(shown.model.xmin(), -100.0);
+    QCOMPARE(shown.model.xmax(), 1100.0);
+    QCOMPARE(shown.model.cursorTime(), shown.container.startTime());
+    QCOMPARE(shown.model.parameter(0)->bands.size(), 1U);
+
+    shown.profile.setSelected("P0", false); // the other moves up, and takes its samples along
+    shown.dialog.updateProfile();
+    QCOMPARE(shown.model.nrActive(), 1);
+    QCOMPARE(shown.model.parameter(0)->name, "P1");
+    QCOMPARE(shown.model.parameter(0)->samples.value(7), 12.0);
+    QCOMPARE(shown.model.xmin(), -100.0);
+    shown.profile.clearSelection();
+    shown.dialog.updateProfile();
+    QVERIFY(shown.model.message().contains("No parameter"));
+    shown.dialog.updateRecord(nullptr);
+    QVERIFY(shown.model.message().contains("No record"));
+}
+
+void TestDialogDataGraph::manyParameters()
+{
+    Shown shown(35);
+    QCOMPARE(shown.model.nrActive(), 30);
+    QCOMPARE(shown.model.parameter(29)->name, "P29");
+}
+
+void TestDialogDataGraph::followsTime()
+{
+    Shown shown;
+    shown.model.setWindow(100, 200);
+    shown.dialog.setTime(150);
+    QCOMPARE(shown.model.xmin(), 100.0);
+    shown.dialog.setTime(195); // nearer to the edge than a tenth of the width
+    QVERIFY(std::abs(shown.model.xmax() - 205) < 1e-4);
+    QVERIFY(std::abs(shown.model.width() - 100) < 1e-4);
+    shown.dialog.setTime(50);
+    QVERIFY(std::abs(shown.model.xmin() - 40) < 1e-4);
+}
+
+void TestDialogDataGraph::handsOnGraph()
+{
+    Shown shown;
+    QSignalSpy cursor(&shown.dialog, &DialogDataGraph::signalCursor);
+    QTest::mouseClick(&shown.graph, Qt::LeftButton, Qt::ShiftModifier, shown.at(400));
+    QCOMPARE(cursor.count(), 1);
+    QVERIFY(std::abs(cursor.first().first().toFloat() - 400) < 2);
+    QTest::mouseClick(&shown.graph, Qt::MiddleButton, {}, shown.at(300));
+    QVERIFY(std::abs(shown.model.cursorTime() - 300) < 2);
+
+    QTest::mousePress(&shown.graph, Qt::LeftButton, {}, shown.at(450));
+    QTest::mouseMove(&shown.graph, shown.at(550));
+    QTest::mouseRelease(&shown.graph, Qt::LeftButton, {}, shown.at(550));
+    QVERIFY(std::abs(shown.model.markerEnd() - shown.model.markerStart() - 100) < 3);
+    QCOMPARE(*shown.model.markerValues().front().maximum, 1000.0);
+
+    const QPoint middle = shown.at(500);
+    QWheelEvent wheel(middle, shown.graph.mapToGlobal(middle), {}, QPoint(0, 120), Qt::NoButton, {}, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&shown.graph, &wheel);
+    QVERIFY(std::abs(shown.model.width() - 1080) < 1e-3);
+    QCOMPARE(shown.model.graphMode(), eManual);
+    QVERIFY(!shown.button("automatic")->isChecked());
+    shown.settle();
+
+    const double before = shown.model.xmin();
+    QTest::mousePress(&shown.graph, Qt::RightButton, {}, shown.at(500));
+    QTest::mouseMove(&shown.graph, shown.at(400));
+    QTest::mouseRelease(&shown.graph, Qt::RightButton, {}, shown.at(500));
+    QVERIFY(std::abs(shown.model.xmin() - before - 100) < 3 || std::abs(shown.model.xmin() - before) < 3);
+    QVERIFY(!QApplication::activePopupWidget());
+}
+
+void TestDialogDataGraph::keysOnGraph()
+{
+    Shown shown;
+    shown.graph.setFocus();
+    shown.dialog.setTime(500);
+    QSignalSpy cursor(&shown.dialog, &DialogDataGraph::signalCursor);
+    const double pixel = shown.model.width() / shown.graph.layoutOfFrame().plot().width();
+    QTest::keyClick(&shown.graph, Qt::Key_Right);
+    QVERIFY(std::abs(shown.model.cursorTime() - 500 - pixel) < 1e-6);
+    QTest::keyPress(&shown.graph, Qt::Key_Shift);
+    QTest::keyClick(&shown.graph, Qt::Key_Left, Qt::ShiftModifier);
+    QTest::keyRelease(&shown.graph, Qt::Key_Shift);
+    QVERIFY(std::abs(shown.model.cursorTime() - 500 + 9 * pixel) < 1e-6);
+    QTest::keyClick(&shown.graph, Qt::Key_Down);
+    QCOMPARE(cursor.count(), 3);
+}
+
+void TestDialogDataGraph::buttons()
+{
+    Shown shown;
+    const QList<QToolButton*> all = shown.dialog.findChildren<QToolButton*>();
+    QCOMPARE(all.size(), 11);
+    for (const QToolButton* pButton : all) {
+        QCOMPARE(pButton->size(), QSize(32, 32));
+        QVERIFY(!pButton->toolTip().isEmpty());
+        const QImage icon = pButton->icon().pixmap(32, 32).toImage();
+        QVERIFY2(icon != QImage(icon.size(), icon.format()) && icon.pixelColor(0, 0).alpha() == 0, qPrintable(pButton->toolTip()));
+    }
+    shown.click("split");
+    QCOMPARE(shown.model.displayMode(), eSplit);
+    QVERIFY(shown.button("split")->isChecked() && !shown.button("single")->isChecked() && shown.button("automatic")->isChecked());
+    shown.click("automatic");
+    QCOMPARE(shown.model.graphMode(), eManual);
+    QVERIFY(shown.button("split")->isChecked());
+    shown.click("automatic");
+    QCOMPARE(shown.model.graphMode(), eAutomatic);
+    shown.click("single");
+    QVERIFY(shown.button("single")->isChecked() && !shown.button("split")->isChecked());
+    shown.model.setMarker(200, 300);
+    shown.click("zoom-marker");
+    QCOMPARE(shown.model.xmin(), 200.0);
+    QCOMPARE(shown.model.xmax(), 300.0);
+    shown.click("zoom-all");
+    QCOMPARE(shown.model.xmax(), 1100.0);
+    QCOMPARE(shown.dialog.graphData().xRange, 1000.0);
+    shown.click("reset");
+    QCOMPARE(shown.model.width(), 60.0);
+    QCOMPARE(shown.model.displayMode(), eSplit);
+    QCOMPARE(shown.dialog.graphData().displayMode, 1);
+    shown.click("clear");
+    QVERIFY(shown.model.parameter(0)->samples.empty());
+}
+
+void TestDialogDataGraph::heldZoom()
+{
+    Shown shown;
+    const auto hold = [&](const QString& name, double width) {
+        shown.model.setWindow(0, width);
+        QWidget* pButton = shown.button(name);
+        QTest::mousePress(pButton, Qt::LeftButton);
+        const bool isZoomed = QTest::qWaitFor([&] { return std::abs(shown.model.width() - width) > 1e-9; });
+        const double first = shown.model.width();
+        QTest::mouseRelease(pButton, Qt::LeftButton);
+        const double last = shown.model.width();
+        QTest::qWait(150);
+        return std::pair(first, isZoomed && last == shown.model.width());
+    };
+    auto [width, stopped] = hold("zoom-in", 100);
+    QVERIFY(std::abs(width - 97) < 1e-4 && stopped);
+    QVERIFY(std::abs(hold("zoom-in", 0.5).first - 0.485) < 1e-5);   // below one second too
+    QCOMPARE(hold("zoom-in", 10000).first, 5000.0);
+    QVERIFY(std::abs(hold("zoom-out", 6000).first - 6000 / 0.97) < 1e-2); // above 5000 s too
+    QCOMPARE(hold("zoom-out", 0.25).first, 1.0);
+}
+
+void TestDialogDataGraph::setup()
+{
+    Shown shown;
+    shown.model.setWindow(300, 340);
+    shown.click("setup");
+    auto* pSetup = shown.dialog.findChild<DialogGraphSetup*>();
+    QVERIFY(pSetup && pSetup->isVisible());
+    QCOMPARE(pSetup->windowTitle(), "Oscilloscope Setup");
+    pSetup->findChild<QCheckBox*>("gridOn")->click();
+    QVERIFY(!shown.model.isGridOn());
+    QVERIFY(std::abs(shown.model.width() - 40) < 1e-4); // an edit leaves the window as it is
+    pSetup->findChild<QCheckBox*>("autoscaleOn")->click();
+    auto* pYmin = pSetup->findChild<QLineEdit*>("yMin");
+    pYmin->selectAll();
+    QTest::keyClicks(pYmin, "-12.5");
+    QCOMPARE(shown.model.ymin(), -12.5);
+    QCOMPARE(shown.dialog.graphData().yMin, -12.5);
+    QCOMPARE(pYmin->text(), "-12.5");
+    auto* pMode = pSetup->findChild<QComboBox*>("cursorMode");
+    QCOMPARE(pMode->currentIndex(), 0);
+    pMode->setFocus();
+    QTest::keyClick(pMode, Qt::Key_Down);
+    QCOMPARE(shown.model.cursorMode(), eCenter);
+    QCOMPARE(shown.model.colours().background, GraphColour{});
+    pSetup->close();
+}
+
+void TestDialogDataGraph::menuCopiesValues()
+{
+    Shown shown;
+    shown.model.setMarker(100, 200);
+    QTimer::singleShot(200, [] {
+        if (auto* pMenu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
+            QTest::mouseClick(pMenu, Qt::LeftButton, {}, pMenu->actionGeometry(pMenu->actions().front()).center());
+            pMenu->close();
+        }
+    });
+    QTest::mouseClick(&shown.graph, Qt::RightButton, {}, shown.at(150));
+    const QString text = QGuiApplication::clipboard()->text();
+    QVERIFY2(text.contains("P1\tl/h\t12.000000\t12.000000\t0.000000"), qPrintable(text));
+    QVERIFY(text.contains("\tl\n"));
+}
+
+void TestDialogDataGraph::snapshots_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("begin");
+    QTest::newRow("bmp") << "a.bmp" << QByteArray("BM");
+    QTest::newRow("no suffix") << "b" << QByteArray("BM");
+    QTest::newRow("png") << "c.PNG" << QByteArray("\x89PNG");
+    QTest::newRow("svg") << "d.svg" << QByteArray("<?xml");
+    QTest::newRow("pdf") << "e.pdf" << QByteArray("%PDF-");
+    QTest::newRow("unknown") << "f.xyz" << QByteArray();
+}
+
+void TestDialogDataGraph::snapshots()
+{
+    QFETCH(const QString, name);
+    QFETCH(const QByteArray, begin);
+    Shown shown;
+    const QTemporaryDir folder;
+    shown.dialog.answer = folder.filePath(name);
+    shown.click("snapshot");
+    QCOMPARE(shown.dialog.problems.size(), begin.isEmpty() ? 1 : 0);
+    const QString path = name.contains('.') ? folder.filePath(name) : folder.filePath(name + ".bmp");
+    QCOMPARE(QFileInfo::exists(path), !begin.isEmpty());
+    if (begin.isEmpty())
+        return;
+    QVERIFY(QByteArray::fromStdString(fileContent(path.toStdString())).startsWith(begin));
+    QImageReader reader(path);
+    if (!path.endsWith("pdf")) {
+        const QImage image = reader.read();
+        QCOMPARE(image.size(), shown.graph.size());
+        const QPointF tip(shown.at(500).x(), shown.graph.layoutOfFrame().plot().center().y());
+        QVERIFY(qRed(image.pixel(tip.toPoint())) > 200 || qRed(image.pixel(tip.toPoint() - QPoint(1, 0))) > 200); // the one sample of 1000
+    }
+}
+
+void TestDialogDataGraph::idleDrawsNothing()
+{
+    Shown shown;
+    QTest::qWait(500);
+    const int before = shown.graph.frameCount();
+    QTest::qWait(600);
+    QCOMPARE(shown.graph.frameCount(), before);
+    shown.dialog.setTime(77);
+    QTRY_VERIFY(shown.graph.frameCount() > before);
+}
+
+void TestDialogDataGraph::drawnLikePainted_data()
+{
+    QTest::addColumn<bool>("isFixed");
+    QTest::addColumn<bool>("isSplit");
+    QTest::newRow("shaders") << false << false;
+    QTest::newRow("shaders, split") << false << true;
+    QTest::newRow("fixed function") << true << true;
+}
+
+void TestDialogDataGraph::drawnLikePainted()
+{
+    QFETCH(const bool, isFixed);
+    QFETCH(const bool, isSplit);
+    if (!GraphicsCheck::problem().isEmpty())
+        QFAIL("no OpenGL under the tests' display");
+    const std::unique_ptr<WidgetGraphBase> pGraph(isFixed ? static_cast<WidgetGraphBase*>(new WidgetGraph) : new WidgetGraphES);
+    pGraph->resize(800, 500);
+    pGraph->setDisplayMode(isSplit ? eSplit : eSingleGraph);
+    pGraph->setGraphMode(eManual);
+    for (int index = 0; index < 3; ++index) {
+        pGraph->setActive(index, true);
+        pGraph->setParameterName(index, QString("Trace %1").arg(index), "bar");
+        std::vector<double> times, values;
+        for (int i = 0; i < 2000 * (index + 1); ++i) {
+            times.push_back(i * 0.05);
+            values.push_back(std::sin(i * 0.01) * (index + 1));
+        }
+        pGraph->model().putValues(index, times, values);
+    }
+    pGraph->model().setBands(1, {{1.0, INFINITY, QColor(255, 0, 0)}});
+    pGraph->model().setWindow(0, 150);
+    pGraph->setMarker(20, 60);
+    pGraph->setCursorPosition(90);
+    pGraph->show();
+    QVERIFY(QTest::qWaitForWindowExposed(pGraph.get()));
+    QTRY_VERIFY(pGraph->frameCount() > 0);
+    QTest::qWait(300);
+    const QImage drawn = pGraph->grab().toImage().convertToFormat(QImage::Format_RGB32);
+    QImage painted(pGraph->size(), QImage::Format_RGB32);
+    QPainter painter(&painted);
+    RasterCanvas canvas(painter);
+    pGraph->paintOn(canvas, pGraph->size(), 1);
+    painter.end();
+    int differing = 0;
+    for (int y = 0; y < painted.height(); ++y) {
+        for (int x = 0; x < painted.width(); ++x) {
+            const QRgb p = painted.pixel(x, y), q = drawn.pixel(x, y);
+            differing += std::abs(qRed(p) - qRed(q)) + std::abs(qGreen(p) - qGreen(q)) + std::abs(qBlue(p) - qBlue(q)) > 150;
+        }
+    }
+    const double share = static_cast<double>(differing) / (painted.width() * painted.height());
+    if (share > 0.01) {
+        drawn.save(ZARN_BINARY_DIR "/drawn.png");
+        painted.save(ZARN_BINARY_DIR "/painted.png");
+    }
+    QVERIFY2(share <= 0.01, qPrintable(QString::number(share)));
+}
+
+/// The program's own start: the surface format comes before the first window.
+int main(int argc, char** argv)
+{
+    QSurfaceFormat::setDefaultFormat(GraphicsCheck::surfaceFormat());
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    QApplication application(argc, argv);
+    TestDialogDataGraph test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "TestDialogDataGraph.moc"

@@ -1,0 +1,491 @@
+#include "ui/graph/model/AxisTicks.h"
+#include "ui/graph/model/GraphInteraction.h"
+#include "ui/graph/model/ThresholdBands.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+#include <cmath>
+
+using namespace ZARN;
+
+namespace {
+
+/// A graph with one active trace of 1 Hz: value = time, from 0 to `last`.
+struct OneTrace {
+    explicit OneTrace(int last = 100)
+    {
+        model.setActive(0, true);
+        for (int second = 0; second <= last; ++second) {
+            model.setTime(second);
+            model.putValue(0, second, false);
+        }
+        model.setGraphMode(eManual);
+    }
+    /// Times of the vertices for a window.
+    std::vector<double> frameTimes(double xmin, double xmax)
+    {
+        model.setWindow(xmin, xmax);
+        std::vector<double> times;
+        for (const QPointF& vertex : model.parameter(0)->frame)
+            times.push_back(xmin + vertex.x());
+        return times;
+    }
+    GraphModel model;
+};
+
+GraphLayout layoutOf(GraphModel& model)
+{
+    model.activateLegend(false);
+    model.calcRanges();
+    GraphLayout layout(model, QSizeF(800, 500), 11);
+    model.setPlot(static_cast<int>(layout.plot().width()), layout.plot().height());
+    model.calcFrame();
+    return layout;
+}
+
+} // namespace
+
+class TestGraphModel : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void startsAsDescribed();
+    void windowRules();
+    void timeIsClamped_data();
+    void timeIsClamped();
+    void automaticModeFollows();
+    void frameTakesNeighbours();
+    void countsDown();
+    void autoscale();
+    void extendsToPresent();
+    void putsManyAsOneByOne();
+    void tickSpacing_data();
+    void tickSpacing();
+    void labels();
+    void markerValues();
+    void markerText();
+    void bands();
+    void zoomsAboutPointer();
+    void marksAndPans();
+    void keysMoveCursor();
+    void dragsStrips();
+    void survivesAnything();
+};
+
+void TestGraphModel::startsAsDescribed()
+{
+    GraphModel model;
+    QCOMPARE(model.parameters().size(), 6U);
+    QCOMPARE(model.xmin(), 0.0);
+    QCOMPARE(model.xmax(), 60.0);
+    QCOMPARE(model.ymin(), -0.5);
+    QCOMPARE(model.ymax(), 1.5);
+    QCOMPARE(model.graphMode(), eAutomatic);
+    QCOMPARE(model.parameter(0)->name, "NoName");
+    model.setMaxParameters(30);
+    QCOMPARE(model.parameter(8)->colourKey, "GraphColor8");
+    QCOMPARE(model.parameter(8)->colour, (GraphColour{0.0F, 0.0F, 0.7F}));
+    double first = 1.0, last = 1.0;
+    model.getParameterRangeX(3, first, last);
+    QCOMPARE(first + last, 0.0);
+    QCOMPARE(model.getCurrentAverageValue(), 0.0);
+    model.putValue(0, 5.0, false); // before any time is set
+    QVERIFY(model.parameter(0)->samples.empty());
+}
+
+void TestGraphModel::windowRules()
+{
+    GraphModel model;
+    model.setXrange(10); // automatic: the end stays
+    QCOMPARE(model.xmin(), 50.0);
+    model.setGraphMode(eManual);
+    model.setXrange(20); // manual: the start stays
+    QCOMPARE(model.xmax(), 70.0);
+    model.setT0(5);
+    QCOMPARE(model.xmin(), 5.0);
+    QCOMPARE(model.xmax(), 25.0);
+    model.setXmin(1);
+    model.setXmax(2);
+    QCOMPARE(model.width(), 1.0);
+
+    QSignalSpy manual(&model, &GraphModel::signalManMode);
+    model.setGraphMode(eAutomatic);
+    model.setMarker(7, 7);
+    model.zoomToMarker();
+    QCOMPARE(model.xmin(), 7.0);
+    QCOMPARE(model.xmax(), 7.0 + 1e-6);
+    QCOMPARE(model.graphMode(), eManual);
+    QCOMPARE(manual.count(), 1);
+
+    model.setWindow(0, 10);
+    model.setCursorMode(eCenter);
+    model.setCursorPosition(100);
+    QCOMPARE(model.xmin(), 95.0);
+    QCOMPARE(model.xmax(), 105.0);
+    model.setCursorMode(eFloating);
+    model.setCursorPosition(50);
+    QCOMPARE(model.xmin(), 95.0);
+    QCOMPARE(model.cursorTime(), 50.0);
+}
+
+void TestGraphModel::timeIsClamped_data()
+{
+    QTest::addColumn<double>("time");
+    QTest::addColumn<double>("expected");
+    QTest::newRow("negative") << -5.0 << 0.0;
+    QTest::newRow("beyond a day") << 100000.0 << 86400.0;
+    QTest::newRow("no number") << std::nan("") << 0.0;
+    QTest::newRow("inside") << 12.5 << 12.5;
+}
+
+void TestGraphModel::timeIsClamped()
+{
+    QFETCH(const double, time);
+    QFETCH(const double, expected);
+    GraphModel model;
+    model.setTime(time);
+    QCOMPARE(model.time(), expected);
+    QCOMPARE(model.xmax(), expected);
+    QCOMPARE(model.width(), 60.0);
+}
+
+void TestGraphModel::automaticModeFollows()
+{
+    OneTrace graph(200);
+    graph.model.setGraphMode(eAutomatic);
+    graph.model.setTime(150);
+    QCOMPARE(graph.model.xmin(), 90.0);
+    graph.model.setGraphMode(eManual);
+    graph.model.setTime(180);
+    QCOMPARE(graph.model.xmin(), 90.0);
+}
+
+void TestGraphModel::frameTakesNeighbours()
+{
+    OneTrace graph;
+    QCOMPARE(graph.frameTimes(10.5, 12.5), (std::vector<double>{10, 11, 12, 13}));
+    QCOMPARE(graph.frameTimes(10, 12), (std::vector<double>{9, 10, 11, 12}));
+    // The first sample inside is the second of all: the one before the window stays out.
+    QCOMPARE(graph.frameTimes(0.5, 2), (std::vector<double>{1, 2}));
+    QCOMPARE(graph.frameTimes(1.5, 2), (std::vector<double>{1, 2}));
+    QCOMPARE(graph.frameTimes(-10, 1), (std::vector<double>{0, 1}));
+    QCOMPARE(graph.frameTimes(99.5, 200), (std::vector<double>{99, 100}));
+    QCOMPARE(graph.frameTimes(300, 400), (std::vector<double>{100}));
+}
+
+void TestGraphModel::countsDown()
+{
+    OneTrace graph;
+    QSignalSpy wanted(&graph.model, &GraphModel::signalRecalculate);
+    graph.model.setXmin(5);
+    QCOMPARE(wanted.count(), 1);
+    int runs = 1;
+    while (graph.model.recalculate())
+        ++runs;
+    QCOMPARE(runs, 4);
+    // Nothing has changed since: a further run draws nothing.
+    QSignalSpy repaint(&graph.model, &GraphModel::signalRepaint);
+    graph.model.recalculate();
+    QCOMPARE(repaint.count(), 0);
+}
+
+void TestGraphModel::autoscale()
+{
+    OneTrace graph;
+    graph.model.setYmin(-7);
+    graph.model.calcFrame();
+    QCOMPARE(graph.model.ymin(), 0.0); // back to the reference
+    QCOMPARE(graph.model.ymax(), 1.0);
+    QCOMPARE(graph.model.valueRange(0), (std::array{-10.0, 110.0}));
+    graph.model.setAutoScaleY(false);
+    graph.model.setYmin(-3);
+    graph.model.setYmax(4);
+    graph.model.calcFrame();
+    QCOMPARE(graph.model.valueRange(0), (std::array{-3.0, 4.0}));
+
+    GraphModel equal;
+    equal.setActive(1, true);
+    for (int i = 0; i < 3; ++i) {
+        equal.setTime(i);
+        equal.putValue(1, 42.0, false);
+    }
+    equal.calcFrame();
+    QVERIFY(std::abs(equal.valueRange(1)[0] - 41.9999) < 1e-9);
+    QVERIFY(std::abs(equal.valueRange(1)[1] - 42.0001) < 1e-9);
+}
+
+void TestGraphModel::extendsToPresent()
+{
+    OneTrace graph(10);
+    graph.model.setTime(20);
+    graph.model.calcFrame(); // manual mode
+    QCOMPARE(graph.model.parameter(0)->samples.size(), 11U);
+    graph.model.setGraphMode(eAutomatic);
+    graph.model.calcFrame();
+    graph.model.calcFrame();
+    QCOMPARE(graph.model.parameter(0)->samples.size(), 12U); // once for a step of time
+    QCOMPARE(graph.model.parameter(0)->samples.time(11), 20.0);
+    QCOMPARE(graph.model.parameter(0)->samples.value(11), 10.0);
+    graph.model.setOfflineMode(true);
+    graph.model.setTime(30);
+    graph.model.calcFrame();
+    QCOMPARE(graph.model.parameter(0)->samples.size(), 12U);
+}
+
+void TestGraphModel::putsManyAsOneByOne()
+{
+    const std::vector<double> times{1.0, 2.5, 2.5, 2.0, 90000.0, -4.0}, values{1, 2, 1e300, 0.1, -5, 3};
+    GraphModel single, many;
+    for (GraphModel* pModel : {&single, &many})
+        pModel->setActive(0, true);
+    for (std::size_t i = 0; i < times.size(); ++i) {
+        single.setTime(times[i]);
+        single.putValue(0, values[i], false);
+    }
+    many.putValues(0, times, values);
+    QCOMPARE(many.time(), single.time());
+    QCOMPARE(many.xmin(), single.xmin());
+    const SampleSeries &a = single.parameter(0)->samples, &b = many.parameter(0)->samples;
+    QCOMPARE(a.size(), b.size());
+    for (std::size_t i = 0; i < a.size(); ++i) {
+        QCOMPARE(a.time(i), b.time(i));
+        QCOMPARE(a.value(i), b.value(i));
+        QCOMPARE(a.value(i), values[i]); // to the last bit
+    }
+}
+
+void TestGraphModel::tickSpacing_data()
+{
+    QTest::addColumn<double>("min");
+    QTest::addColumn<double>("max");
+    QTest::addColumn<double>("length");
+    QTest::addColumn<double>("spacing");
+    QTest::addColumn<float>("step");
+    QTest::addColumn<int>("parts");
+    QTest::addColumn<QString>("format");
+    QTest::newRow("raw 10") << 0.0 << 60.0 << 600.0 << 100.0 << 10.0F << 5 << "%.0f";
+    QTest::newRow("raw 1") << 0.0 << 6.0 << 600.0 << 100.0 << 2.0F << 4 << "%.1f";
+    QTest::newRow("raw 0.5") << 0.0 << 3.0 << 600.0 << 100.0 << 1.0F << 5 << "%.1f";
+    QTest::newRow("raw 0.03") << 0.0 << 0.18 << 600.0 << 100.0 << 0.05F << 5 << "%.2f";
+    QTest::newRow("raw 150") << 0.0 << 900.0 << 600.0 << 100.0 << 200.0F << 4 << "%.0f";
+    QTest::newRow("raw 4000") << 0.0 << 24000.0 << 600.0 << 100.0 << 5000.0F << 5 << "%.0f";
+    QTest::newRow("too short") << 0.0 << 1.0 << 50.0 << 100.0 << -1.0F << -1 << "";
+}
+
+void TestGraphModel::tickSpacing()
+{
+    QFETCH(const double, min);
+    QFETCH(const double, max);
+    QFETCH(const double, length);
+    QFETCH(const double, spacing);
+    float step = 0.0F;
+    int parts = 0;
+    getAutoPara(min, max, length, spacing, step, parts);
+    QTEST(step, "step");
+    if (step < 0)
+        return;
+    QTEST(parts, "parts");
+    QString format;
+    getAutoFormat(step, format);
+    QTEST(format, "format");
+}
+
+void TestGraphModel::labels()
+{
+    QCOMPARE(AxisTicks(0, 7200, 600, 100).timeLabel(3723), "1:02:03");
+    QCOMPARE(AxisTicks(0, 1.2, 600, 100).timeLabel(3723.4), "1:02:03.4"); // neighbours must differ
+    QCOMPARE(AxisTicks(-100, 100, 600, 100).timeLabel(-61), "-0:01:01");
+    const AxisTicks ticks(-0.25, 0.25, 500, 60);
+    for (const AxisTick& tick : ticks.ticks())
+        QVERIFY(!tick.isMajor || std::abs(ticks.valueLabel(tick.value).toDouble() - tick.value) < 1e-9);
+    QCOMPARE(ticks.valueLabel(-0.0), "0.00");
+    QVERIFY(AxisTicks(1e15, 1e15 + 1e-3, 600, 100).ticks().size() < 1001);
+    QVERIFY(AxisTicks(0, INFINITY, 600, 100).ticks().empty());
+}
+
+void TestGraphModel::markerValues()
+{
+    GraphModel model;
+    model.setActive(0, true);
+    model.setParameterName(0, "Fuel Flow", "l/h");
+    // 10 l/h for an hour, then 20 l/h for half of one.
+    const std::vector<double> times{0, 3600, 3600.001, 5400}, values{10, 10, 20, 20};
+    model.putValues(0, times, values);
+    model.setMarker(1800, 4500);
+    const MarkerValues marked = model.markerValues().front();
+    QCOMPARE(*marked.atStart, 10.0);
+    QCOMPARE(*marked.atEnd, 20.0);
+    QCOMPARE(*marked.difference, 10.0);
+    QCOMPARE(*marked.minimum, 10.0);
+    QCOMPARE(*marked.maximum, 20.0);
+    QVERIFY(std::abs(*marked.integral - 10.0) < 1e-4);             // 5 litres in each half
+    QVERIFY(std::abs(*marked.mean - 10.0 / 0.75) < 1e-4);
+
+    model.setMarker(-20, -10); // nothing is known before the first sample
+    QCOMPARE(model.markerValues().front().texts(), QStringList(7, "-"));
+    model.setMarker(100, 101); // between two samples
+    QCOMPARE(*model.markerValues().front().maximum, 10.0);
+    QCOMPARE(integralUnit("l/h"), "l");
+    QCOMPARE(integralUnit("rpm"), QString::fromUtf8("rpm\u00b7h"));
+}
+
+void TestGraphModel::markerText()
+{
+    GraphModel model;
+    model.setActive(0, true);
+    model.setParameterName(0, "A\tB", "%1");
+    model.putValues(0, std::vector<double>{0, 10}, std::vector<double>{1, 3});
+    model.setMarker(10, 0); // not ordered yet
+    const QStringList lines = ZARN::markerText(model.markerValues(), 0, 10).split('\n');
+    QCOMPARE(lines[0], "Time\t00:00:00.000\t00:00:10.000");
+    QCOMPARE(lines[1], "dt\t10.000 s");
+    QCOMPARE(lines[3], QString::fromUtf8("A B\t%1\t1.00\t3.00\t2.00\t1.00\t3.00\t2.000\t0.006\t%1\u00b7h"));
+}
+
+void TestGraphModel::bands()
+{
+    const ProfileParameter parameter;
+    const ThresholdList list{{10, QColor(Qt::green), eThresholdOk}, {20, QColor(Qt::yellow), eThresholdWarning},
+                             {15, QColor(Qt::red), eThresholdLimit}, {30, QColor(Qt::blue), eThresholdOk}};
+    // The boundary at 15 is reached only by values that pass the one at 20, and is then the last one passed.
+    const std::vector<GraphBand> metric = thresholdBands(list, ValueDecoder(parameter, &list, nullptr, std::nullopt));
+    QCOMPARE(metric.size(), 1U);
+    QCOMPARE(metric[0].lower, 20.0);
+    QCOMPARE(metric[0].upper, 30.0);
+    QCOMPARE(metric[0].colour, QColor(Qt::red));
+    const ThresholdList open{{20, QColor(), eThresholdLimit}};
+    const std::vector<GraphBand> turned = thresholdBands(open, ValueDecoder(parameter, &open, nullptr, UnitConversion{-2.0, 1.0}));
+    QCOMPARE(turned.front().upper, -39.0);
+    QVERIFY(std::isinf(turned.front().lower));
+    QVERIFY(turned.front().colour.isValid());
+}
+
+void TestGraphModel::zoomsAboutPointer()
+{
+    OneTrace graph;
+    graph.model.setWindow(0, 100);
+    GraphInteraction hand(graph.model);
+    const GraphLayout layout = layoutOf(graph.model);
+    hand.setLayout(layout);
+    hand.moved(QPointF(layout.xOf(25), 100));
+    hand.wheel(120, {});
+    QVERIFY(std::abs(graph.model.xmin() - 2.5) < 1e-9);
+    QVERIFY(std::abs(graph.model.xmax() - 92.5) < 1e-9);
+    hand.wheel(-120, {});
+    QVERIFY(std::abs(graph.model.xmin()) < 1e-9);
+    hand.wheel(120, Qt::ShiftModifier);
+    QVERIFY(std::abs(graph.model.width() - 100) < 1e-9);
+}
+
+void TestGraphModel::marksAndPans()
+{
+    OneTrace graph;
+    graph.model.setWindow(0, 100);
+    graph.model.setGraphMode(eAutomatic);
+    GraphInteraction hand(graph.model);
+    const GraphLayout layout = layoutOf(graph.model);
+    hand.setLayout(layout);
+    QSignalSpy marker(&graph.model, &GraphModel::signalMarker), manual(&graph.model, &GraphModel::signalManMode);
+    const auto at = [&](double time) { return QPointF(layout.xOf(time), 200); };
+
+    hand.pressed(Qt::LeftButton, at(60), {});
+    QCOMPARE(marker.takeLast().at(1).toFloat(), 60.0F);
+    hand.moved(at(20));
+    hand.released(Qt::LeftButton, at(20));
+    QVERIFY(std::abs(graph.model.markerStart() - 20) < 1e-6); // swapped
+    QVERIFY(std::abs(graph.model.markerEnd() - 60) < 1e-6);
+    hand.pressed(Qt::LeftButton, at(10), Qt::ControlModifier);
+    hand.released(Qt::LeftButton, at(10));
+    QVERIFY(std::abs(graph.model.markerStart() - 10) < 1e-6);
+    hand.pressed(Qt::LeftButton, at(30), Qt::ControlModifier);
+    QVERIFY(std::abs(graph.model.markerEnd() - 30) < 1e-6);
+    hand.released(Qt::LeftButton, at(30));
+
+    QVERIFY(manual.isEmpty());
+    hand.pressed(Qt::RightButton, at(50), {});
+    QVERIFY(hand.released(Qt::RightButton, at(50))); // a click wants the menu
+    QCOMPARE(graph.model.xmin(), 0.0);
+    hand.pressed(Qt::RightButton, at(50), {});
+    hand.moved(at(40));
+    QVERIFY(!hand.released(Qt::RightButton, at(40)));
+    QVERIFY(std::abs(graph.model.xmin() - 10) < 1e-6);
+    QCOMPARE(manual.count(), 1);
+}
+
+void TestGraphModel::keysMoveCursor()
+{
+    OneTrace graph;
+    graph.model.setWindow(0, 100);
+    graph.model.setCursorPosition(50);
+    GraphInteraction hand(graph.model);
+    const GraphLayout layout = layoutOf(graph.model);
+    hand.setLayout(layout);
+    QSignalSpy cursor(&graph.model, &GraphModel::signalCursor);
+    const double pixel = 100 / layout.plot().width();
+    hand.keyPressed(Qt::Key_Right);
+    QVERIFY(std::abs(graph.model.cursorTime() - 50 - pixel) < 1e-9);
+    hand.keyPressed(Qt::Key_Shift);
+    hand.keyPressed(Qt::Key_Left);
+    QVERIFY(std::abs(graph.model.cursorTime() - 50 + 9 * pixel) < 1e-9);
+    hand.keyReleased(Qt::Key_Shift);
+    const double before = graph.model.cursorValue();
+    hand.keyPressed(Qt::Key_Up);
+    QVERIFY(std::abs(graph.model.cursorValue() - before - 120 / layout.plot().height()) < 1e-9); // of the range -10..110
+    QCOMPARE(cursor.count(), 3);
+    QVERIFY(graph.model.isCursorMoving());
+}
+
+void TestGraphModel::dragsStrips()
+{
+    GraphModel model;
+    for (const int index : {0, 2, 4})
+        model.setActive(index, true);
+    model.setDisplayMode(eSplit);
+    model.setGraphMode(eManual);
+    layoutOf(model);
+    const GraphLayout layout = layoutOf(model);
+    GraphInteraction hand(model);
+    hand.setLayout(layout);
+    QSignalSpy moved(&model, &GraphModel::signalMoveParameter);
+    hand.pressed(Qt::LeftButton, layout.handle(*model.parameter(0)) + QPointF(5, 5), {});
+    QCOMPARE(hand.draggedStrip(), 0);
+    hand.moved(layout.handle(*model.parameter(4)));
+    hand.released(Qt::LeftButton, layout.handle(*model.parameter(4)));
+    QCOMPARE(moved.takeFirst(), (QList<QVariant>{0, 4}));
+    QCOMPARE(model.shown(), (std::vector<int>{2, 4, 0}));
+    hand.pressed(Qt::LeftButton, layout.plot().center(), {});
+    QCOMPARE(hand.draggedStrip(), -1);
+}
+
+void TestGraphModel::survivesAnything()
+{
+    GraphModel model;
+    for (int index = 0; index < 6; ++index)
+        model.setActive(index, true);
+    const std::vector<double> odd{0, -1, 1e9, 1e300, std::nan(""), -INFINITY, INFINITY, 86400, 3, 3, 2};
+    for (int index = 0; index < 6; ++index)
+        model.putValues(index, odd, odd);
+    for (const eDisplayMode mode : {eSingleGraph, eSplit}) {
+        model.setDisplayMode(mode);
+        for (const double width : {1e-6, 1e-300, 60.0, 1e7, 1e300}) {
+            model.setWindow(3, 3 + width);
+            model.setMarker(-1e300, 1e300);
+            const GraphLayout layout = layoutOf(model);
+            QVERIFY(std::isfinite(layout.pixelsPerSecond()));
+            QVERIFY(model.parameter(0)->frame.size() < 20);
+            QCOMPARE(model.markerValues().size(), 6U);
+        }
+    }
+    model.setWindow(INFINITY, 5);
+    QVERIFY(std::isfinite(model.xmin()));
+    model.setMarker(std::nan(""), 5);
+    QVERIFY(std::isfinite(model.markerStart()));
+    model.setMaxParameters(-3);
+    model.setActive(0, true);
+    model.calcFrame();
+    QCOMPARE(model.nrActive(), 0);
+}
+
+QTEST_MAIN(TestGraphModel)
+#include "TestGraphModel.moc"

@@ -1,0 +1,270 @@
+#include "support/RecordingCanvas.h"
+#include "ui/canvas/RasterCanvas.h"
+#include "ui/graph/model/GraphScene.h"
+
+#include <QDir>
+#include <QPainter>
+#include <QTest>
+
+#include <cmath>
+
+using namespace ZARN;
+
+namespace {
+
+constexpr QSize kSize(900, 600);
+
+QImage picture(GraphModel& model, GraphLayout* pLayout = nullptr, const QSize& size = kSize)
+{
+    const GraphLayout layout = GraphScene::prepare(model, size, 11, 1);
+    if (pLayout)
+        *pLayout = layout;
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(model.colours().labelBackground.colour());
+    QPainter painter(&image);
+    RasterCanvas canvas(painter);
+    GraphScene(model, layout).draw(canvas);
+    return image;
+}
+
+void dark(GraphModel& model)
+{
+    GraphColours colours;
+    colours.background = {0.0F, 0.0F, 0.0F};
+    model.setColours(colours);
+    model.setGraphMode(eManual);
+}
+
+/// Six traces with bands, a marker, a cursor and numbered marks: something of everything.
+void fillFlight(GraphModel& model, int traces = 6)
+{
+    dark(model);
+    model.setMaxParameters(30);
+    for (int index = 0; index < traces; ++index) {
+        model.setActive(index, true);
+        model.setParameterName(index, QString("Parameter number %1").arg(index + 1), index % 2 ? "kPa" : "1/min");
+        std::vector<double> times, values;
+        for (int i = 0; i < 5000; ++i) {
+            times.push_back(i * 0.5);
+            values.push_back(1000.0 * (index + 1) + 400 * std::sin(i * 0.004 * (index + 1)) + (i % 97 == 0 ? 300 : 0));
+        }
+        model.putValues(index, times, values);
+        model.setBands(index, {{1000.0 * (index + 1) + 350, INFINITY, QColor(255, 0, 0)}});
+    }
+    model.setWindow(-100, 2600);
+    model.setCursorPosition(800);
+    model.addTopMarker(1, 300);
+    model.addTopMarker(2, 302);
+    model.addTopMarker(3, 2000);
+}
+
+/// How much two pictures differ: the share of pixels that differ plainly.
+double difference(const QImage& a, const QImage& b)
+{
+    if (a.size() != b.size())
+        return 1.0;
+    int differing = 0;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            const QRgb p = a.pixel(x, y), q = b.pixel(x, y);
+            differing += std::abs(qRed(p) - qRed(q)) + std::abs(qGreen(p) - qGreen(q)) + std::abs(qBlue(p) - qBlue(q)) > 120;
+        }
+    }
+    return static_cast<double>(differing) / (a.width() * a.height());
+}
+
+} // namespace
+
+class TestGraphScene : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void likeReference_data();
+    void likeReference();
+    void findsEverySpike_data();
+    void findsEverySpike();
+    void reducedLikeEverySample();
+    void labelsNeverOverlap_data();
+    void labelsNeverOverlap();
+    void legendTellsUnits();
+};
+
+void TestGraphScene::likeReference_data()
+{
+    QTest::addColumn<bool>("split");
+    QTest::addColumn<bool>("marker");
+    QTest::newRow("single") << false << false;
+    QTest::newRow("split") << true << false;
+    QTest::newRow("single-marker") << false << true;
+}
+
+void TestGraphScene::likeReference()
+{
+    QFETCH(const bool, split);
+    QFETCH(const bool, marker);
+    GraphModel model;
+    fillFlight(model);
+    model.setDisplayMode(split ? eSplit : eSingleGraph);
+    if (marker) {
+        model.setMarker(500, 1500);
+        model.setHighlighted(2);
+    }
+    const QImage image = picture(model);
+    const QString name = QString("%1.png").arg(QTest::currentDataTag());
+    const QImage reference(QString(ZARN_SOURCE_DIR "/tests/ui/graph/reference/") + name);
+    const double differing = difference(image, reference.convertToFormat(QImage::Format_RGB32));
+    // Another release of the toolkit draws characters a little differently; a missing trace, label or band is far more.
+    if (differing > 0.01) {
+        QDir().mkpath(ZARN_BINARY_DIR "/pictures");
+        image.save(QString(ZARN_BINARY_DIR "/pictures/") + name);
+        QFAIL(qPrintable(QString("%1 of the pixels differ; see pictures/%2 in the build folder").arg(differing).arg(name)));
+    }
+}
+
+void TestGraphScene::findsEverySpike_data()
+{
+    QTest::addColumn<int>("samples");
+    QTest::addColumn<double>("width");
+    for (const int samples : {3000, 200000}) {
+        for (const double part : {1.0, 0.5, 0.03, 0.001})
+            QTest::addRow("%d samples, %g of the span", samples, part) << samples << samples * 0.01 * part;
+    }
+}
+
+void TestGraphScene::findsEverySpike()
+{
+    QFETCH(const int, samples);
+    QFETCH(const double, width);
+    GraphModel model;
+    dark(model);
+    model.setActive(0, true);
+    model.activateCursor(false);
+    model.activateGrid(false);
+    model.activateLegend(false);
+    model.setMarker(-10, -10);
+    std::vector<double> times, values;
+    std::vector<int> spikes;
+    for (int i = 0; i < samples; ++i) {
+        times.push_back(i * 0.01);
+        values.push_back(i % 977 == 500 ? (i % 2 ? 100.0 : -100.0) : 0.0);
+        if (values.back() != 0)
+            spikes.push_back(i);
+    }
+    model.putValues(0, times, values);
+    int found = 0;
+    for (const double start : {0.0, 0.31 * samples * 0.01, 5.0 - width / 2}) {
+        model.setWindow(start, start + width);
+        GraphLayout layout;
+        const QImage image = picture(model, &layout);
+        for (const int spike : spikes) {
+            const double time = times[static_cast<std::size_t>(spike)], value = values[static_cast<std::size_t>(spike)];
+            const int x = static_cast<int>(std::floor(layout.xOf(time)));
+            if (time < start || time >= start + width || x <= layout.plot().left() || x >= layout.plot().right() - 1)
+                continue;
+            // Its tip, or by rounding a pixel beside it.
+            const double y = GraphLayout::yOf(value, layout.plot(), model.valueRange(0));
+            bool isRed = false;
+            for (const int dx : {-1, 0, 1}) {
+                for (const int dy : {-1, 0, 1})
+                    isRed = isRed || qRed(image.pixel(x + dx, static_cast<int>(y) + dy)) > 200;
+            }
+            QVERIFY2(isRed, qPrintable(QString("sample %1 at %2, %3").arg(spike).arg(x).arg(y)));
+            ++found;
+        }
+    }
+    QVERIFY(found > 0);
+}
+
+void TestGraphScene::reducedLikeEverySample()
+{
+    // Noise, drawn once from columns and once sample by sample: the same pixels, but for how a painter splits the line to the next column.
+    GraphModel model;
+    dark(model);
+    model.setActive(0, true);
+    std::vector<double> times, values;
+    for (int i = 0; i < 50000; ++i) {
+        times.push_back(i * 0.02);
+        values.push_back(std::sin(i * 0.001) * 50 + (i * 7919 % 1000) * 0.05);
+    }
+    model.putValues(0, times, values);
+    model.setWindow(100, 900);
+    GraphLayout layout;
+    const QImage reduced = picture(model, &layout);
+    QVERIFY(model.parameter(0)->frame.size() < 5000);
+    model.setPlot(1000000, layout.plot().height()); // so many columns that none needs reducing
+    model.calcFrame();
+    QVERIFY(model.parameter(0)->frame.size() > 39000);
+    QImage exact(kSize, QImage::Format_RGB32);
+    exact.fill(model.colours().labelBackground.colour());
+    QPainter painter(&exact);
+    RasterCanvas canvas(painter);
+    GraphScene(model, layout).draw(canvas);
+    painter.end();
+    QVERIFY2(difference(reduced, exact) < 0.01, qPrintable(QString::number(difference(reduced, exact))));
+}
+
+void TestGraphScene::labelsNeverOverlap_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<int>("traces");
+    QTest::addColumn<bool>("split");
+    QTest::addColumn<double>("width");
+    QTest::addColumn<bool>("marker");
+    for (const QSize size : {QSize(1400, 900), QSize(900, 600), QSize(480, 320)}) {
+        for (const double width : {2700.0, 86400.0, 3.0, 0.002}) {
+            for (const int traces : {1, 8, 30}) {
+                for (const bool split : {false, true})
+                    QTest::addRow("%dx%d, %d traces, split %d, %g s", size.width(), size.height(), traces, split, width)
+                        << size << traces << split << width << (traces == 8);
+            }
+        }
+    }
+}
+
+void TestGraphScene::labelsNeverOverlap()
+{
+    QFETCH(const QSize, size);
+    QFETCH(const int, traces);
+    QFETCH(const bool, split);
+    QFETCH(const double, width);
+    QFETCH(const bool, marker);
+    GraphModel model;
+    fillFlight(model, traces);
+    model.setDisplayMode(split ? eSplit : eSingleGraph);
+    model.setWindow(800 - width / 3, 800 + width / 3 * 2);
+    model.activateCursor(false); // its labels lie above others on purpose
+    if (marker)
+        model.setMarker(800, 800 + width / 3);
+    const GraphLayout layout = GraphScene::prepare(model, size, 11, 1);
+    Test::RecordingCanvas canvas;
+    GraphScene(model, layout).draw(canvas);
+    QVERIFY(canvas.texts.size() > 3);
+    const QRectF view(QPointF(-1, -1), QSizeF(size) + QSizeF(2, 2));
+    for (std::size_t i = 0; i < canvas.texts.size(); ++i) {
+        const auto& [box, text] = canvas.texts[i];
+        QVERIFY2(view.contains(box), qPrintable(text));
+        for (std::size_t k = 0; k < i; ++k) {
+            // The numbered marks and the dt lie within the plot, where a small view puts its legend too.
+            const bool isInside = layout.plot().contains(box.center()) && layout.plot().contains(canvas.texts[k].first.center());
+            const QRectF common = box.intersected(canvas.texts[k].first);
+            QVERIFY2(isInside || common.width() < 1 || common.height() < 2, qPrintable(text + " over " + canvas.texts[k].second));
+        }
+    }
+}
+
+void TestGraphScene::legendTellsUnits()
+{
+    GraphModel model;
+    fillFlight(model);
+    const GraphLayout layout = GraphScene::prepare(model, QSizeF(1400, 700), 11, 1);
+    Test::RecordingCanvas canvas;
+    GraphScene(model, layout).draw(canvas);
+    double value = 0;
+    QVERIFY(model.getValue(1, 800, value));
+    const QString expected = QString("%1").arg(value, 9, 'f', 2);
+    const auto isLine = [&](const auto& entry) { return entry.second.startsWith(expected) && entry.second.endsWith(" [kPa]"); };
+    QVERIFY(std::ranges::any_of(canvas.texts, isLine));
+}
+
+QTEST_MAIN(TestGraphScene)
+#include "TestGraphScene.moc"
