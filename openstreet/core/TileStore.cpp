@@ -60,7 +60,7 @@ void TileStore::setAllowed(bool allowed)
             wanted.state = wanted.state == eOnItsWay ? eAsk : wanted.state;
     }
     schedule();
-    Q_EMIT signalLoading();
+    tellLoading();
 }
 
 void TileStore::want(const std::vector<TileId>& view, const std::vector<TileId>& ring)
@@ -118,15 +118,22 @@ void TileStore::schedule()
 
 void TileStore::work()
 {
-    const int before = loading();
     while (ask()) {
     }
     if (lookUp())
         schedule();
     else
         scheduleRetry();
-    if (loading() != before)
-        Q_EMIT signalLoading();
+    tellLoading();
+}
+
+void TileStore::tellLoading()
+{
+    const int count = loading();
+    if (count == mToldLoading)
+        return;
+    mToldLoading = count;
+    Q_EMIT signalLoading();
 }
 
 /// Looks for the first tile that was not looked for. @return whether there was one.
@@ -216,7 +223,7 @@ void TileStore::slotFinished(const TileId& id, const TileReply& reply)
     case TileReply::eFailed: fail(id, reply); break;
     }
     schedule();
-    Q_EMIT signalLoading();
+    tellLoading();
 }
 
 void TileStore::takeTile(const TileId& id, const TileReply& reply)

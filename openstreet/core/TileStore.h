@@ -75,6 +75,7 @@ private:
 
     [[nodiscard]] qint64 now() const { return mClock(); }
     void work();
+    void tellLoading();
     void schedule();
     bool lookUp();
     bool ask();
@@ -92,6 +93,7 @@ private:
     TileDisk mDisk;
     TileLoader mLoader;
     bool mAllowed = false;
+    int mToldLoading = 0;
     qint64 mMemoryLimit = kMemoryLimit;
     qint64 mMemory = 0;
     std::unordered_map<TileId, Kept, TileIdHash> mImages;

@@ -5,6 +5,8 @@
 
 #include <QElapsedTimer>
 
+#include <algorithm>
+
 namespace OpenStreet {
 
 namespace {
@@ -144,8 +146,8 @@ OpenStreetMap::OpenStreetMap()
 {
     QObject::connect(&mStore, &TileStore::signalTile, &mStore, [this](const TileId& id) {
         mTextures.forget(ELayer::eServer, id);
-        if (mChanged)
-            mChanged();
+        if (mChanged && std::find(mAsked.begin(), mAsked.end(), id) != mAsked.end())
+            mChanged(); // those around the view are not seen yet
     });
     QObject::connect(&mStore, &TileStore::signalLoading, &mStore, [this] {
         if (mChanged)

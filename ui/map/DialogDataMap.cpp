@@ -169,7 +169,6 @@ void DialogDataMap::fillDataValue()
 
 void DialogDataMap::updateGeometry()
 {
-    QWidget::updateGeometry();
     if (!mpMap)
         return;
     const int margin = kMargin * mContext.scale;

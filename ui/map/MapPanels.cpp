@@ -74,6 +74,7 @@ void MapValuePanel::setRows(const std::vector<MapValue>& rows)
         setColour(mRows.back(), Qt::white);
     }
     setWidget(mpPanel);
+    mpPanel->setAutoFillBackground(false); // the map shines through
     setWidgetResizable(true);
     setVisible(!rows.empty());
     setValues(rows);

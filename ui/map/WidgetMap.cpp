@@ -55,10 +55,6 @@ WidgetMap::~WidgetMap()
 
 void WidgetMap::setUpMap(const QString& dataPath)
 {
-    initialiseMapResources();
-    QFile world(QStringLiteral(":/map/world.bin"));
-    if (!world.open(QIODevice::ReadOnly) || !mMap.setBaseMap(world.readAll()))
-        mSession.console.print("WidgetMap::setUpMap: no map of the world\n");
     mMap.setTileDirectory((dataPath + QLatin1String("/tiles/")).toUtf8().constData());
     mMap.setTerrainPath((dataPath + QLatin1String("/terrain/")).toUtf8().constData());
     mMap.setProjection(OpenStreet::ProjectionType::eMercator);
@@ -85,6 +81,7 @@ void WidgetMap::allowTiles()
 {
     const QString& server = mMap.tileServer().address();
     mMap.setTilesAllowed(!mScene.path().isEmpty() && TileConsent(mSession.property).answer(server) == TileConsent::eYes);
+    mScene.setGraticule(!mMap.areTilesAllowed());
     updateNote();
     mIsDirty = true;
 }
@@ -114,7 +111,17 @@ void WidgetMap::init()
         mpCanvas.reset();
         return;
     }
+    loadWorld();
     mIsInitialised = true;
+}
+
+/// Not before it is seen: the start of the program need not wait for it.
+void WidgetMap::loadWorld()
+{
+    initialiseMapResources();
+    QFile world(QStringLiteral(":/map/world.bin"));
+    if (!world.open(QIODevice::ReadOnly) || !mMap.setBaseMap(world.readAll()))
+        mSession.console.print("WidgetMap::loadWorld: no map of the world\n");
 }
 
 void WidgetMap::releaseGraphics()

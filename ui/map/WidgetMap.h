@@ -95,6 +95,7 @@ private:
     };
 
     void setUpMap(const QString& dataPath);
+    void loadWorld();
     void allowTiles();
     void updateNote();
     void releaseGraphics();

@@ -7,14 +7,21 @@
 #include "sim/DemoCard.h"
 #include "support/TestCycle.h"
 #include "ui/map/DialogDataMap.h"
+#include "ui/map/MapPanels.h"
 
-#include <QAbstractButton>
+#include <QDir>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QSet>
 #include <QSignalSpy>
 #include <QTest>
+#include <QToolButton>
 #include <QToolTip>
 #include <QWheelEvent>
+
+#include <cmath>
+#include <utility>
 
 using namespace ZARN;
 using OpenStreet::Test::TileHost;
@@ -50,10 +57,7 @@ struct Window {
     {
         property.setString("TileServer", server.toStdString());
         property.setConfigFile(data.filePath("ZARN.ini").toStdString());
-        dialog = std::make_unique<DialogDataMap>(Session{flight().console, property, flight().profile, flight().container, project}, data.path());
-        dialog->resize(900, 700);
-        dialog->show();
-        isShown = QTest::qWaitForWindowExposed(dialog.get());
+        reopen();
     }
     void load()
     {
@@ -74,10 +78,22 @@ struct Window {
     WidgetMap& map() { return *dialog->mapWidget(); }
     void settle()
     {
-        QTRY_VERIFY(!map().navigator().isMoving());
-        QTRY_COMPARE(map().map().nrLoadingTiles(), 0);
+        QTRY_VERIFY_WITH_TIMEOUT(!map().navigator().isMoving(), 20000);
+        QTRY_COMPARE_WITH_TIMEOUT(map().map().nrLoadingTiles(), 0, 20000);
         QTest::qWait(100);
     }
+    /// The next start of the program.
+    void reopen()
+    {
+        dialog = std::make_unique<DialogDataMap>(session(), data.path());
+        dialog->resize(900, 700);
+        dialog->show();
+        isShown = QTest::qWaitForWindowExposed(dialog.get());
+    }
+    Session session() { return {flight().console, property, flight().profile, flight().container, project}; }
+    QWidget* consentBar() { return dialog->findChild<QWidget*>(QStringLiteral("consentBar")); }
+    MapToolPanel* tools() { return dialog->findChild<MapToolPanel*>(); }
+    bool isCentring() { return tools()->isChecked(MapToolPanel::kCentreAircraft); }
     QPushButton* button(const char* name) { return dialog->findChild<QPushButton*>(QLatin1String(name)); }
 
     QTemporaryDir data;
@@ -87,28 +103,343 @@ struct Window {
     bool isShown = false;
 };
 
+/// Whether the picture has pixels of the colour; a tile of the tile host is pale green.
+bool shows(const QImage& picture, QRgb colour)
+{
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if ((picture.pixel(x, y) & 0xffffffU) == (colour & 0xffffffU))
+                return true;
+        }
+    }
+    return false;
+}
+
+constexpr QRgb kTile = qRgb(214, 232, 205);
+constexpr QRgb kLand = qRgb(243, 240, 232);
+constexpr QRgb kPath = qRgb(255, 0, 0);
+
 } // namespace
 
 class TestDialogDataMap : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void offline();
+    void tilesAfterConsent();
+    void refusalIsKept();
+    void idleMapRests();
+    void serverGone();
+    void pointerAndKeys();
+    void touches();
+    void followsTheAircraft();
+    void picksTimes();
+    void valuesAndColours();
+    void terrain();
+    void pathOfADay();
+
+private:
+    TileHost mHost;
 };
+
+void TestDialogDataMap::initTestCase()
+{
+    QVERIFY(flight().isLoaded);
+    QVERIFY(mHost.isRunning());
+}
 
 void TestDialogDataMap::offline()
 {
     Window window;
-    QVERIFY(window.isShown && flight().isLoaded);
+    QVERIFY(window.isShown);
+    window.settle();
+    QVERIFY(!window.consentBar()->isVisible()); // without a path there is nothing to ask for
     window.load();
     window.settle();
-    window.picture("offline");
+    QVERIFY(window.consentBar()->isVisible());
+    const QImage picture = window.picture("offline");
+    QVERIFY(shows(picture, kPath) && shows(picture, kLand));
     window.map().zoomCentered(400000);
     window.settle();
     window.picture("offline-wide");
     window.map().zoomCentered(7e7);
     window.settle();
     window.picture("offline-world");
+    window.dialog->updateRecord(nullptr);
+    window.dialog->setTime(5.0);
+    window.settle();
+    QVERIFY(!shows(window.picture("empty"), kPath));
+}
+
+void TestDialogDataMap::tilesAfterConsent()
+{
+    mHost.clearLog();
+    Window window(mHost.address());
+    window.load();
+    window.settle();
+    QTest::qWait(300);
+    QVERIFY(mHost.requests().isEmpty());
+    QVERIFY(window.consentBar()->findChild<QLabel*>()->text().contains(mHost.name()));
+    window.picture("consent");
+    QTest::mouseClick(window.button("consentYes"), Qt::LeftButton);
+    QVERIFY(!window.consentBar()->isVisible());
+    window.settle();
+    const QImage picture = window.picture("tiles");
+    QVERIFY(shows(picture, kTile) && shows(picture, kPath) && !shows(picture, kLand));
+    const OpenStreet::TileCover cover(window.map().navigator().camera(), window.map().devicePixelRatioF(), 19);
+    QSet<QString> allowed;
+    for (const std::vector<OpenStreet::TileId>& ids : {cover.ids(), cover.ring()}) {
+        for (const OpenStreet::TileId& id : ids)
+            allowed << window.map().map().tileServer().url(id).path();
+    }
+    QTRY_COMPARE(mHost.requests().size(), allowed.size());
+    for (const auto& request : mHost.requests()) {
+        QVERIFY2(allowed.contains(request.path), qPrintable(request.path));
+        QVERIFY(request.userAgent.startsWith("ZARN/"));
+    }
+    Property stored(flight().console); // the answer is with the settings, and can be taken back there
+    stored.readXmlFile(window.data.filePath("ZARN.ini").toStdString());
+    QCOMPARE(QString::fromStdString(stored.getString("MapTilesAllowed", "")), mHost.address());
+    window.property.setString("MapTilesAllowed", "no");
+    window.dialog->updateSettings();
+    mHost.clearLog();
+    QTest::keyClick(&window.map(), Qt::Key_Plus);
+    window.settle();
+    QTest::qWait(200);
+    QVERIFY(mHost.requests().isEmpty());
+}
+
+void TestDialogDataMap::refusalIsKept()
+{
+    mHost.clearLog();
+    Window window(mHost.address());
+    window.load();
+    QTest::mouseClick(window.button("consentNo"), Qt::LeftButton);
+    window.load();
+    window.settle();
+    QVERIFY(!window.consentBar()->isVisible());
+    QVERIFY(mHost.requests().isEmpty());
+}
+
+void TestDialogDataMap::idleMapRests()
+{
+    Window window(mHost.address());
+    window.load();
+    window.dialog->slotConsent(true);
+    window.settle();
+    qsizetype before = -1;
+    QTRY_VERIFY([&] { // the ring comes after what is seen
+        QTest::qWait(300);
+        return std::exchange(before, mHost.requests().size()) == mHost.requests().size();
+    }());
+    const int paints = window.map().paints();
+    mHost.clearLog();
+    QTest::qWait(2500);
+    QCOMPARE(window.map().paints(), paints);
+    QVERIFY(mHost.requests().isEmpty());
+}
+
+void TestDialogDataMap::serverGone()
+{
+    TileHost host;
+    Window window(host.address());
+    window.load();
+    window.dialog->slotConsent(true);
+    window.settle();
+    host.stop();
+    QTest::keyClick(&window.map(), Qt::Key_Right, Qt::ShiftModifier);
+    QTest::keyClick(&window.map(), Qt::Key_Right, Qt::ShiftModifier);
+    window.settle();
+    const QImage picture = window.picture("server-gone");
+    QVERIFY(shows(picture, kTile) && shows(picture, kLand) && shows(picture, kPath));
+    QVERIFY(!window.map().map().lastError().isEmpty());
+}
+
+void TestDialogDataMap::pointerAndKeys()
+{
+    Window window;
+    window.load();
+    window.settle();
+    WidgetMap& map = window.map();
+    const auto placeAt = [&](const QPoint& point) { return map.navigator().camera().windowToGeo({double(point.x()), double(point.y())}); };
+    const auto stays = [&](const OpenStreet::GeoPoint& place, const QPoint& point) {
+        double x = 0, y = 0;
+        map.latLong2Window(place.latitude, place.longitude, &x, &y);
+        return std::hypot(x - point.x(), y - point.y()) < 1.5;
+    };
+    const QPoint pointer(640, 200);
+    double range = map.navigator().camera().horizontalRange();
+    OpenStreet::GeoPoint place = placeAt(pointer);
+    QWheelEvent wheel(pointer, map.mapToGlobal(pointer), {}, {0, 240}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&map, &wheel);
+    QCOMPARE(map.navigator().camera().horizontalRange(), range); // eased
+    window.settle();
+    QVERIFY(map.navigator().camera().horizontalRange() < 0.6 * range && stays(place, pointer));
+
+    place = placeAt(pointer);
+    range = map.navigator().camera().horizontalRange();
+    QTest::mouseDClick(&map, Qt::LeftButton, {}, pointer);
+    window.settle();
+    QVERIFY(std::fabs(map.navigator().camera().horizontalRange() / range - 0.25) < 1e-6 && stays(place, pointer));
+
+    QVERIFY(window.isCentring());
+    place = placeAt(pointer);
+    QTest::mousePress(&map, Qt::LeftButton, {}, pointer);
+    QTest::mouseMove(&map, pointer + QPoint(30, 10));
+    QTest::mouseMove(&map, pointer + QPoint(-80, 120));
+    QTest::mouseRelease(&map, Qt::LeftButton, {}, pointer + QPoint(-80, 120));
+    QVERIFY(stays(place, pointer + QPoint(-80, 120)));
+    QVERIFY(!window.isCentring()); // else the next moment would take the view back
+
+    range = map.navigator().camera().horizontalRange();
+    QTest::keyClick(&map, Qt::Key_Plus);
+    window.settle();
+    QVERIFY(map.navigator().camera().horizontalRange() < range);
+    const double longitude = map.navigator().camera().position().longitude;
+    QTest::keyClick(&map, Qt::Key_Right);
+    window.settle();
+    QVERIFY(map.navigator().camera().position().longitude > longitude);
+    QTest::keyClick(&map, Qt::Key_Up, Qt::AltModifier | Qt::ShiftModifier);
+    QTest::keyClick(&map, Qt::Key_Left, Qt::AltModifier | Qt::ShiftModifier);
+    window.settle();
+    place = placeAt(pointer);
+    QVERIFY(stays(place, pointer));
+    window.picture("turned");
+    QTest::keyClick(&map, Qt::Key_Escape);
+    QTest::keyClick(&map, Qt::Key_F);
+    window.settle();
+    QVERIFY(map.navigator().isFitted());
+}
+
+void TestDialogDataMap::touches()
+{
+    Window window;
+    window.load();
+    window.settle();
+    WidgetMap& map = window.map();
+    const double range = map.navigator().camera().horizontalRange();
+    const OpenStreet::GeoPoint place = map.navigator().camera().windowToGeo({400, 300});
+    std::unique_ptr<QPointingDevice> device(QTest::createTouchDevice());
+    QTest::touchEvent(&map, device.get()).press(0, {350, 300}).press(1, {450, 300});
+    QTest::touchEvent(&map, device.get()).move(0, {330, 300}).move(1, {470, 300});
+    QTest::touchEvent(&map, device.get()).move(0, {320, 320}).move(1, {520, 320}); // twice as far apart, the middle moved by (20, 20)
+    QTest::touchEvent(&map, device.get()).release(0, {320, 320}).release(1, {520, 320});
+    QVERIFY(std::fabs(map.navigator().camera().horizontalRange() / range - 0.5) < 1e-3); // the middle has moved to the north a little
+    double x = 0, y = 0;
+    map.latLong2Window(place.latitude, place.longitude, &x, &y);
+    QVERIFY(std::hypot(x - 420, y - 320) < 1.0);
+}
+
+void TestDialogDataMap::followsTheAircraft()
+{
+    Window window;
+    window.load();
+    window.settle();
+    QVERIFY(window.isCentring());
+    QTest::keyClick(&window.map(), Qt::Key_Plus);
+    window.settle();
+    const auto& points = flight().container.flightPath();
+    const FlightPathPoint& late = points[points.size() * 3 / 4];
+    window.dialog->setTime(late.time);
+    window.settle();
+    double x = 0, y = 0;
+    window.map().latLong2Window(late.latitude, late.longitude, &x, &y);
+    QVERIFY(std::hypot(x - window.map().width() / 2.0, y - window.map().height() / 2.0) < 1.0);
+    window.picture("following");
+    for (QToolButton* pButton : window.tools()->findChildren<QToolButton*>()) {
+        if (pButton->isCheckable())
+            QTest::mouseClick(pButton, Qt::LeftButton);
+    }
+    QVERIFY(!window.isCentring());
+    const double longitude = window.map().navigator().camera().position().longitude;
+    window.dialog->setTime(points.front().time);
+    window.settle();
+    QCOMPARE(window.map().navigator().camera().position().longitude, longitude);
+    QCOMPARE(window.dialog->calcPositionAtTime(1e9).time, points.back().time);
+}
+
+void TestDialogDataMap::picksTimes()
+{
+    Window window;
+    window.load();
+    window.settle();
+    QSignalSpy picked(window.dialog.get(), &DialogDataMap::signalTime);
+    const auto& dots = window.map().scene().events().dots();
+    QVERIFY(!dots.empty());
+    const FlightPathPoint at = window.dialog->calcPositionAtTime(dots.back().time);
+    double x = 0, y = 0;
+    window.map().latLong2Window(at.latitude, at.longitude, &x, &y);
+    const QPoint dot(static_cast<int>(std::lround(x)), static_cast<int>(std::lround(y)));
+    QHelpEvent help(QEvent::ToolTip, dot, window.map().mapToGlobal(dot));
+    QCoreApplication::sendEvent(&window.map(), &help);
+    QTRY_VERIFY(QToolTip::isVisible());
+    QVERIFY(QToolTip::text().contains(QString::fromStdString(dots.back().text).toHtmlEscaped()));
+    QTest::mouseClick(&window.map(), Qt::LeftButton, {}, dot);
+    QCOMPARE(picked.size(), 1);
+    const FlightPathPoint there = window.dialog->calcPositionAtTime(picked.first().first().toDouble());
+    QVERIFY(WidgetMap::calcDistance(there.latitude, there.longitude, at.latitude, at.longitude) < window.map().screenToCartesianSize(8.0));
+    QTest::mouseClick(&window.map(), Qt::LeftButton, {}, {20, window.map().height() - 60}); // far from the path
+    QCOMPARE(picked.size(), 1);
+}
+
+void TestDialogDataMap::valuesAndColours()
+{
+    Window window;
+    window.load();
+    const auto* pPanel = window.dialog->findChild<QScrollArea*>();
+    QStringList texts;
+    for (const QLabel* pLabel : pPanel->findChildren<QLabel*>())
+        texts << pLabel->text();
+    const ProfileParameter altitude = flight().profile.getParameterFromZarnType("Altitude");
+    const double value = flight().container.getValue(altitude, flight().container.flightPath()[flight().container.flightPath().size() / 3].time);
+    QCOMPARE(texts.size(), 8);
+    QVERIFY(texts.contains(QString::fromStdString(altitude.name)));
+    QVERIFY(texts.contains(QStringLiteral("%1 [%2]").arg(value).arg(QString::fromStdString(altitude.unit))));
+    window.dialog->resize(400, 160); // a small window keeps its panels inside
+    QTRY_VERIFY(window.dialog->rect().contains(pPanel->geometry()));
+}
+
+void TestDialogDataMap::terrain()
+{
+    Window first;
+    QDir().mkpath(first.data.filePath("terrain"));
+    QFile file(first.data.filePath("terrain/N48E011.hgt"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QByteArray heights(1201 * 1201 * 2, '\0');
+    for (int i = 0; i < 1201 * 1201; ++i) { // ridges
+        const int height = static_cast<int>(500 + 150 * std::sin(i % 1201 * 0.15) * std::sin(i / 1201 * 0.11));
+        heights[2 * i] = static_cast<char>(height >> 8);
+        heights[2 * i + 1] = static_cast<char>(height & 255);
+    }
+    file.write(heights);
+    file.close();
+    first.load();
+    first.settle();
+    const QImage flat = first.picture("flat");
+    first.reopen();
+    first.load();
+    first.settle();
+    QVERIFY(first.picture("terrain") != flat);
+}
+
+void TestDialogDataMap::pathOfADay()
+{
+    Window window;
+    window.load();
+    std::vector<FlightPathPoint> points;
+    for (int i = 0; i < 200000; ++i)
+        points.push_back({i * 0.5, 48.2 + 0.1 * std::sin(i * 0.013), 11.0 + 0.1 * std::cos(i * 0.0171), 500, 100, 0});
+    window.map().scene().path().setPoints(points);
+    window.map().fitPath();
+    window.settle();
+    const int builds = window.map().scene().geometry().builds();
+    for (int i = 0; i < 20; ++i) {
+        QTest::keyClick(&window.map(), Qt::Key_Right, Qt::ControlModifier);
+        QTest::qWait(25);
+    }
+    window.settle();
+    QCOMPARE(window.map().scene().geometry().builds(), builds);
 }
 
 int main(int argc, char** argv)

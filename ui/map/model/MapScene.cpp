@@ -25,6 +25,8 @@ const QColor kPathColour(255, 0, 0);
 const QColor kTextColour = QColor::fromRgbF(0.4F, 0.4F, 0.4F);
 const QColor kTextGround(255, 255, 255, 190);
 const QColor kAircraftColour(25, 60, 140);
+const QColor kGraticuleLine(90, 110, 130, 60);
+const QColor kGraticuleText(90, 110, 130);
 
 using Circle = std::array<QPointF, 12>;
 
@@ -47,6 +49,26 @@ void addDisc(std::vector<QPointF>& triangles, const Circle& shape, const QPointF
 QString length(double amount, const char* unit)
 {
     return QString(QLatin1String("%1 %2")).arg(amount, 0, 'g', 6).arg(QLatin1String(unit));
+}
+
+/// Degrees between two lines that lie at least 130 pixels apart.
+double graticuleStep(const OpenStreet::Camera& camera)
+{
+    const double least = 130.0 * camera.metresPerPixel() / OpenStreet::Projection::kWorldWidth * 360.0;
+    for (double power = 0.0001; power < 100.0; power *= 10.0) {
+        for (const double digit : {1.0, 2.0, 5.0}) {
+            if (digit * power >= least)
+                return digit * power;
+        }
+    }
+    return 90.0;
+}
+
+QString degrees(double value, double step, char positive, char negative)
+{
+    const int digits = std::max(0, -static_cast<int>(std::floor(std::log10(step) + 1e-9)));
+    const QString number = QString::number(std::fabs(value), 'f', digits);
+    return number + QChar(0x00B0) + QLatin1Char(value < 0.0 ? negative : positive);
 }
 
 } // namespace
@@ -88,11 +110,37 @@ bool MapScene::setNote(const QString& note)
 
 void MapScene::draw(Canvas& canvas, const OpenStreet::Camera& camera)
 {
+    if (mHasGraticule)
+        drawGraticule(canvas, camera);
     drawPath(canvas, camera);
     drawEvents(canvas, camera);
     drawAircraft(canvas, camera);
     drawScaleBar(canvas, camera);
     drawLabel(canvas, {camera.width() - kMargin, camera.height() - kMargin}, QString::fromLatin1(kAttribution), Qt::AlignRight | Qt::AlignBottom);
+}
+
+void MapScene::drawGraticule(Canvas& canvas, const OpenStreet::Camera& camera) const
+{
+    const auto corner = [&](double x, double y) { return camera.projection().toGeo(camera.windowToWorld({x, y})); };
+    const OpenStreet::GeoPoint upper = corner(0.0, 0.0), lower = corner(camera.width(), camera.height());
+    const double step = graticuleStep(camera);
+    const auto point = [&](double latitude, double longitude) {
+        const OpenStreet::WindowPoint at = camera.worldToWindow(camera.projection().toWorld({latitude, longitude}));
+        return QPointF(at.x, at.y);
+    };
+    const CanvasText style{kTextSize, kGraticuleText, false, Qt::AlignLeft | Qt::AlignBottom};
+    std::vector<QPointF> lines;
+    for (double longitude = std::ceil(upper.longitude / step) * step; longitude <= lower.longitude; longitude += step) {
+        const QPointF top = point(upper.latitude, longitude);
+        lines.insert(lines.end(), {top, point(lower.latitude, longitude)});
+        canvas.text({top.x() + 3.0, camera.height() - 30.0}, degrees(OpenStreet::foldLongitude(longitude), step, 'E', 'W'), style);
+    }
+    for (double latitude = std::ceil(lower.latitude / step) * step; latitude <= upper.latitude; latitude += step) {
+        const QPointF left = point(latitude, upper.longitude);
+        lines.insert(lines.end(), {left, point(latitude, lower.longitude)});
+        canvas.text({3.0, left.y() - 1.0}, degrees(latitude, step, 'N', 'S'), style);
+    }
+    canvas.lines(lines, {kGraticuleLine, 1.0});
 }
 
 void MapScene::drawPath(Canvas& canvas, const OpenStreet::Camera& camera)

@@ -28,6 +28,8 @@ public:
     void setAircraft(const FlightPathPoint& point) { mAircraft = point; }
     [[nodiscard]] const FlightPathPoint& aircraft() const { return mAircraft; }
     void setImperial(bool on) { mIsImperial = on; }
+    /// Lines of latitude and longitude, for a map that shows little else.
+    void setGraticule(bool on) { mHasGraticule = on; }
     /// A line for people above the scale bar, for example that the server does not answer; empty for none. @return whether it is another one.
     bool setNote(const QString& note);
 
@@ -36,6 +38,7 @@ public:
     [[nodiscard]] static std::span<const QPointF> aircraftOutline();
 
 private:
+    void drawGraticule(Canvas& canvas, const OpenStreet::Camera& camera) const;
     void drawPath(Canvas& canvas, const OpenStreet::Camera& camera);
     void drawEvents(Canvas& canvas, const OpenStreet::Camera& camera) const;
     void drawAircraft(Canvas& canvas, const OpenStreet::Camera& camera) const;
@@ -48,6 +51,7 @@ private:
     FlightPathPoint mAircraft{};
     QString mNote;
     bool mIsImperial = false;
+    bool mHasGraticule = false;
 };
 
 } // namespace ZARN

@@ -1,0 +1,129 @@
+#include "bench/BenchApplication.h"
+#include "openstreet/gl/OpenStreetMap.h"
+#include "ui/gl/GlCanvas.h"
+#include "ui/map/model/MapScene.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QFile>
+#include <QOffscreenSurface>
+#include <QOpenGLContext>
+#include <QOpenGLFramebufferObject>
+#include <QOpenGLFunctions>
+
+#include <cmath>
+#include <optional>
+
+namespace ZARN {
+
+namespace {
+
+constexpr int kPoints = 200000;
+constexpr QSize kWindow(2048, 1280); // 60 tiles and more
+
+/// A context that draws into memory, with a map and a path of a day and more. Needs a display.
+struct MapBench {
+    MapBench()
+    {
+        QSurfaceFormat format;
+        format.setVersion(3, 3);
+        format.setProfile(QSurfaceFormat::CoreProfile);
+        surface.setFormat(format);
+        surface.create();
+        context.setFormat(format);
+        isReady = context.create() && context.makeCurrent(&surface);
+        if (!isReady)
+            return;
+        target.emplace(kWindow);
+        canvas.emplace();
+        isReady = canvas->init();
+        QFile world(QStringLiteral(ZARN_SOURCE_DIR "/resources/map/world.bin"));
+        isReady = isReady && world.open(QIODevice::ReadOnly) && map.setBaseMap(world.readAll());
+        camera.setWindowSize(kWindow.width(), kWindow.height());
+        camera.setPosition({48.2, 11.05});
+        camera.setVisibleRange(40000.0, 0.0);
+        std::vector<FlightPathPoint> points;
+        for (int i = 0; i < kPoints; ++i) // circles that drift, as in thermals
+            points.push_back({i * 0.5, 48.2 + 0.08 * std::sin(i * 2e-4) + 0.01 * std::sin(i * 0.02), 11.05 + 0.12 * std::cos(i * 1.3e-4) + 0.015 * std::cos(i * 0.02), 0, 0, 0});
+        path.path().setPoints(points);
+    }
+    static MapBench& instance()
+    {
+        startApplication();
+        static MapBench bench;
+        return bench;
+    }
+    /// One frame, waited for.
+    void frame(bool withPath, double moved)
+    {
+        camera.setWorld({camera.projection().toWorld(camera.position()).x + moved * camera.metresPerPixel(), camera.projection().toWorld(camera.position()).y},
+                        camera.metresPerPixel());
+        target->bind();
+        canvas->begin(kWindow, 1.0, Qt::white);
+        map.setCamera(camera);
+        map.render(canvas->device());
+        (withPath ? path : empty).draw(*canvas, camera);
+        canvas->end();
+        context.functions()->glFinish();
+    }
+
+    QOffscreenSurface surface;
+    QOpenGLContext context;
+    std::optional<QOpenGLFramebufferObject> target;
+    std::optional<GlCanvas> canvas;
+    OpenStreet::OpenStreetMap map;
+    OpenStreet::Camera camera;
+    MapScene path;
+    MapScene empty;
+    bool isReady = false;
+};
+
+void mapFrame(benchmark::State& state)
+{
+    MapBench& bench = MapBench::instance();
+    if (!bench.isReady)
+        return state.SkipWithError("no OpenGL: run it under a display");
+    const bool withPath = state.range(0) != 0;
+    do {
+        bench.frame(withPath, 0.0);
+    } while (bench.map.nrLoadingTiles() != 0);
+    double step = 3.0;
+    for (auto _ : state) {
+        step = -step; // a pan that stays over the same tiles
+        bench.frame(withPath, step);
+    }
+    state.counters["tiles"] = static_cast<double>(OpenStreet::TileCover(bench.camera, 1.0, 19).view().size());
+    state.counters["vertices"] = static_cast<double>(withPath ? bench.path.geometry().vertexCount() : 0);
+}
+
+void pathBuild(benchmark::State& state)
+{
+    MapBench& bench = MapBench::instance();
+    double range = 40000.0;
+    OpenStreet::Camera camera = bench.camera;
+    PathGeometry geometry;
+    for (auto _ : state) {
+        range = range > 30000.0 ? 20000.0 : 40000.0;
+        camera.setVisibleRange(range, 0.0);
+        geometry.update(bench.path.path(), camera);
+    }
+}
+
+void builtInTile(benchmark::State& state)
+{
+    OpenStreet::BaseMap map;
+    QFile world(QStringLiteral(ZARN_SOURCE_DIR "/resources/map/world.bin"));
+    if (!world.open(QIODevice::ReadOnly) || !map.load(world.readAll()))
+        return state.SkipWithError("no map of the world");
+    int column = 0;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(map.tile({12, 2100 + column++ % 256, 1400}));
+}
+
+BENCHMARK(mapFrame)->Name("map/frame")->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(pathBuild)->Name("map/path/zoom")->Unit(benchmark::kMillisecond);
+BENCHMARK(builtInTile)->Name("map/tile")->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+} // namespace ZARN
