@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <iterator>
 
 namespace ZARN {
@@ -11,6 +12,7 @@ namespace ZARN {
 namespace {
 
 constexpr std::size_t kRun = 512; // samples whose times are computed at once
+constexpr std::size_t kBitsASample = 32; // what sorting by bits may take: 4 bytes for each sample
 
 /// Calls `visit` with the key of every sample, in stored order.
 template <typename Visitor> void forEachKey(const RecordEntries& entries, Visitor visit)
@@ -56,7 +58,7 @@ TableRows::TableRows(const RecordData& data, std::span<const uint32_t> identifie
             place->second = addChannel(data.channel(identifier));
         mColumns.push_back(place->second);
     }
-    mKeys.shrink_to_fit();
+    collectKeys();
 }
 
 std::size_t TableRows::addChannel(const RecordChannel* pChannel)
@@ -66,7 +68,6 @@ std::size_t TableRows::addChannel(const RecordChannel* pChannel)
     Channel channel{pChannel, {}};
     if (!pChannel->entries.ascending())
         channel.sorted = sortedPositions(pChannel->entries);
-    mergeKeys(distinctKeys(channel));
     mChannels.push_back(std::move(channel));
     return mChannels.size() - 1;
 }
@@ -88,26 +89,65 @@ std::vector<uint32_t> TableRows::sortedPositions(const RecordEntries& entries)
     return positions;
 }
 
-std::vector<TimeKey> TableRows::distinctKeys(const Channel& channel)
+template <typename Visitor> void TableRows::Channel::forEachKey(Visitor visit) const
 {
-    std::vector<TimeKey> keys;
-    const auto add = [&keys](TimeKey key) {
-        if (keys.empty() || keys.back() != key)
-            keys.push_back(key);
-    };
-    if (channel.sorted.empty())
-        forEachKey(channel.pChannel->entries, add);
-    for (const uint32_t position : channel.sorted)
-        add(channel.keyAt(position));
-    return keys;
+    if (sorted.empty())
+        ZARN::forEachKey(pChannel->entries, visit);
+    for (const uint32_t position : sorted)
+        visit(keyAt(position));
 }
 
-void TableRows::mergeKeys(const std::vector<TimeKey>& keys)
+/// Time keys lie close together in every healthy recording: a bit each then sorts them in one pass over the samples. Damaged times may
+/// lie anywhere, which would take half a gigabyte of bits; then the channels' keys are merged.
+void TableRows::collectKeys()
 {
-    std::vector<TimeKey> merged;
-    merged.reserve(mKeys.size() + keys.size());
-    std::set_union(mKeys.begin(), mKeys.end(), keys.begin(), keys.end(), std::back_inserter(merged));
-    mKeys.swap(merged);
+    std::size_t samples = 0;
+    TimeKey first{UINT32_MAX};
+    TimeKey last{0};
+    for (const Channel& channel : mChannels) {
+        const bool ascending = channel.sorted.empty();
+        const std::size_t count = ascending ? channel.pChannel->entries.size() : channel.sorted.size();
+        samples += count;
+        first = std::min(first, channel.keyAt(ascending ? 0 : channel.sorted.front()));
+        last = std::max(last, channel.keyAt(ascending ? count - 1 : channel.sorted.back()));
+    }
+    if (samples == 0)
+        return;
+    if ((last.tenths - first.tenths) / kBitsASample <= samples)
+        sortKeys(first, last);
+    else
+        mergeKeys();
+}
+
+void TableRows::sortKeys(TimeKey first, TimeKey last)
+{
+    std::vector<uint64_t> bits((last.tenths - first.tenths) / 64 + 1);
+    for (const Channel& channel : mChannels)
+        channel.forEachKey([&](TimeKey key) { bits[(key.tenths - first.tenths) / 64] |= uint64_t{1} << (key.tenths - first.tenths) % 64; });
+    std::size_t count = 0;
+    for (const uint64_t word : bits)
+        count += static_cast<std::size_t>(std::popcount(word));
+    mKeys.reserve(count);
+    for (std::size_t i = 0; i < bits.size(); ++i) {
+        for (uint64_t word = bits[i]; word != 0; word &= word - 1)
+            mKeys.push_back({first.tenths + static_cast<uint32_t>(i * 64) + static_cast<uint32_t>(std::countr_zero(word))});
+    }
+}
+
+void TableRows::mergeKeys()
+{
+    for (const Channel& channel : mChannels) {
+        std::vector<TimeKey> keys;
+        channel.forEachKey([&keys](TimeKey key) {
+            if (keys.empty() || keys.back() != key)
+                keys.push_back(key);
+        });
+        std::vector<TimeKey> merged;
+        merged.reserve(mKeys.size() + keys.size());
+        std::set_union(mKeys.begin(), mKeys.end(), keys.begin(), keys.end(), std::back_inserter(merged));
+        mKeys.swap(merged);
+    }
+    mKeys.shrink_to_fit();
 }
 
 std::size_t TableRows::rowAt(double seconds) const

@@ -35,13 +35,16 @@ private:
 
         [[nodiscard]] TimeKey keyAt(std::size_t position) const { return TimeKey::of(pChannel->entries.time(position)); }
         [[nodiscard]] std::optional<std::size_t> last(TimeKey key) const;
+        /// Calls `visit` with the key of every sample, in ascending order of keys.
+        template <typename Visitor> void forEachKey(Visitor visit) const;
     };
     static constexpr std::size_t kNoSamples = SIZE_MAX;
 
     std::size_t addChannel(const RecordChannel* pChannel);
     static std::vector<uint32_t> sortedPositions(const RecordEntries& entries);
-    static std::vector<TimeKey> distinctKeys(const Channel& channel);
-    void mergeKeys(const std::vector<TimeKey>& keys);
+    void collectKeys();
+    void sortKeys(TimeKey first, TimeKey last);
+    void mergeKeys();
 
     std::vector<TimeKey> mKeys;
     std::vector<Channel> mChannels;

@@ -1,13 +1,12 @@
 // The graph beside the same traces in a plotting library (where QCustomPlot is installed), in one run. Needs a display.
 
-#include "app/gui/GraphicsCheck.h"
+#include "bench/BenchApplication.h"
 #include "ui/graph/WidgetGraphES.h"
 
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
 #include <QOpenGLWidget>
-#include <QSurfaceFormat>
 
 #ifdef ZARN_QCUSTOMPLOT
 #include <qcustomplot.h>
@@ -66,16 +65,10 @@ void fill(GraphModel& model, std::size_t samples)
 /// The application that windows need; null where there is no display.
 QApplication* application()
 {
-    static QApplication* pApplication = [] {
-        if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-            return static_cast<QApplication*>(nullptr);
-        static int count = 1;
-        static char name[] = "zarn-bench", *arguments[] = {name, nullptr};
-        QSurfaceFormat::setDefaultFormat(GraphicsCheck::surfaceFormat());
-        QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
-        return new QApplication(count, arguments);
-    }();
-    return pApplication;
+    if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        return nullptr;
+    startApplication();
+    return qApp;
 }
 
 struct Span {

@@ -1,3 +1,4 @@
+#include "bench/BenchApplication.h"
 #include "openstreet/gl/OpenStreetMap.h"
 #include "ui/gl/GlCanvas.h"
 #include "ui/map/model/MapScene.h"
@@ -5,7 +6,6 @@
 #include <benchmark/benchmark.h>
 
 #include <QFile>
-#include <QGuiApplication>
 #include <QOffscreenSurface>
 #include <QOpenGLContext>
 #include <QOpenGLFramebufferObject>
@@ -49,10 +49,7 @@ struct MapBench {
     }
     static MapBench& instance()
     {
-        static int count = 1;
-        static char name[] = "zarn-bench";
-        static char* arguments[] = {name, nullptr};
-        static QGuiApplication application(count, arguments);
+        startApplication();
         static MapBench bench;
         return bench;
     }

@@ -1,6 +1,6 @@
 // zarn-bench [NAME ...] [Google Benchmark options]
-// Runs the benchmarks whose names begin with NAME (load, headers, decode, value, text, facts, csv, graph, map; default all) and closes with their
-// ratios to a floor measured in the same run.
+// Runs the benchmarks whose names begin with NAME (load, headers, decode, value, text, facts, csv, graph, map, table, replay; default
+// all) and closes with their ratios to a floor measured in the same run. "replay" needs an X server with OpenGL, for instance Xvfb.
 
 #include <benchmark/benchmark.h>
 
@@ -24,6 +24,8 @@ constexpr Ratio kRatios[] = {
     {"flights, path, events of 30 M records / load", "facts/cycle", "load/records/30/real_time", 1.0},
     {"plain decoding loop / decoding a channel", "decode/floor", "decode/channel", 0.6},
     {"value in 10 M entries / in 1 M", "value/at/10000000/0", "value/at/1000000/0", 4.0},
+    {"table of 100,000 x 40 ready / item widget", "table/open/100000/40/40/real_time", "table/items/real_time", 0.05},
+    {"table scroll step / item widget", "table/scroll/100000/40/40/real_time", "table/scrollItems/real_time", 1.1},
     {"float cell / snprintf", "text/fixed", "text/snprintf", 0.12},
     {"graph rebuild 30 x 10 M / scan", "graph/rebuild/10000000", "graph/scan/10000000", 0.2},
     {"graph frame 30 x 1 M / plotting library", "graph/frame/1000000/1", "graph/library/1000000/1", 0.2},

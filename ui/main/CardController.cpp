@@ -120,8 +120,7 @@ void CardController::loadCycle(unsigned int cycle, int flight)
 {
     if (postpone([this, cycle, flight] { loadCycle(cycle, flight); }))
         return;
-    runBusy([&] { loadNow(cycle, flight); });
-    reportLoad();
+    runLoad([&] { loadNow(cycle, flight); });
 }
 
 void CardController::loadNow(unsigned int cycle, int flight)
@@ -137,8 +136,7 @@ void CardController::loadRecords(const std::list<QString>& files)
     if (postpone([this, files] { loadRecords(files); }))
         return;
     mFiles = files;
-    runBusy([&] { mSession.container.loadFiles(mFiles); });
-    reportLoad();
+    runLoad([&] { mSession.container.loadFiles(mFiles); });
 }
 
 void CardController::reload()
@@ -148,16 +146,20 @@ void CardController::reload()
     const auto cycle = mSession.container.loadedCycleNumber();
     const int flight = mFlight;
     if (!mFiles.empty()) {
-        runBusy([&] { mSession.container.loadFiles(mFiles); });
+        runLoad([&] { mSession.container.loadFiles(mFiles); });
     } else if (cycle) {
-        runBusy([&] {
+        runLoad([&] {
             loadNow(*cycle, -1); // a flight of a loaded cycle would read nothing again
             if (flight >= 0)
                 loadNow(*cycle, flight);
         });
-    } else {
-        return;
     }
+}
+
+void CardController::runLoad(const Work& work)
+{
+    Q_EMIT signalDataChanging(); // the windows are painted while it runs
+    runBusy(work);
     reportLoad();
 }
 

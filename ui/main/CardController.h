@@ -49,6 +49,8 @@ public:
 Q_SIGNALS:
     /// Another folder was read, or could not be.
     void signalFolderChanged();
+    /// The loaded records are about to be replaced: whoever shows them must let go of them.
+    void signalDataChanging();
     /// Other records are loaded.
     void signalDataChanged();
 
@@ -60,6 +62,7 @@ private:
     void runBusy(const Work& work);
     bool readFolder(const QString& path);
     void loadNow(unsigned int cycle, int flight);
+    void runLoad(const Work& work);
     void reportLoad();
     void warn(const QString& text);
 

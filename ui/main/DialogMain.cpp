@@ -9,6 +9,7 @@
 #include "card/CardContainer.h"
 #include "profile/ui/DialogProfile.h"
 #include "profile/ui/DialogProfileInfo.h"
+#include "ui/data/DialogData.h"
 #include "ui/main/CardController.h"
 #include "ui/main/DialogAbout.h"
 #include "ui/main/DialogCard.h"
@@ -20,7 +21,6 @@
 #include "ui/main/ProjectController.h"
 #include "ui/main/RecentFolders.h"
 #include "ui/main/StatusProgress.h"
-#include "ui/main/WidgetCycleSummary.h"
 #include "ui/main/WidgetWelcome.h"
 #include "ui/main/WindowLayout.h"
 
@@ -99,10 +99,11 @@ void DialogMain::createPanels()
     mpSide->addWidget(mpCard);
     mpSide->addWidget(mpProfile);
     mpWelcome = new WidgetWelcome;
-    mpSummary = new WidgetCycleSummary(mSession.container, mSession.profile);
+    const QString dataPath = QString::fromStdString(mDesktop.folders.dataPath());
+    mpData = new DialogData(mSession, DataViews::create(mSession, dataPath), mEmu);
     mpCentre = new QStackedWidget;
     mpCentre->addWidget(mpWelcome);
-    mpCentre->addWidget(mpSummary);
+    mpCentre->addWidget(mpData);
     mpSplitter = new QSplitter(Qt::Horizontal);
     mpSplitter->setChildrenCollapsible(false);
     mpSplitter->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
@@ -236,6 +237,7 @@ void DialogMain::connectPanels()
     connect(mpProfileInfo, &DialogProfileInfo::signalProfileChanged, this, &DialogMain::slotProfileInstalled);
     connect(mpPreferences, &DialogPreferences::signalProfileFileChanged, this, &DialogMain::slotProfileFileChanged);
     connect(mpCardController, &CardController::signalFolderChanged, this, &DialogMain::slotFolderChanged);
+    connect(mpCardController, &CardController::signalDataChanging, this, &DialogMain::slotDataChanging);
     connect(mpCardController, &CardController::signalDataChanged, this, &DialogMain::slotDataChanged);
     connect(mpProjectController, &ProjectController::signalChanged, this, &DialogMain::slotProjectChanged);
     connect(mpExportController, &ExportController::signalWritten, this,

@@ -24,6 +24,7 @@ namespace ZARN {
 
 class CardController;
 class DialogCard;
+class DialogData;
 class DialogPreferences;
 class DialogProfile;
 class ExportController;
@@ -31,7 +32,6 @@ class ProfileCatalogue;
 class ProfileController;
 class ProjectController;
 class StatusProgress;
-class WidgetCycleSummary;
 class WidgetWelcome;
 class WindowLayout;
 
@@ -95,6 +95,7 @@ private Q_SLOTS:
     void slotTimeoutStartup();
     void slotCheckStyle();
     void slotFolderChanged();
+    void slotDataChanging();
     void slotDataChanged();
     void slotProjectChanged();
     void slotProfileInstalled();
@@ -130,7 +131,7 @@ private:
     DialogCard* mpCard = nullptr;
     DialogProfile* mpProfile = nullptr;
     WidgetWelcome* mpWelcome = nullptr;
-    WidgetCycleSummary* mpSummary = nullptr;
+    DialogData* mpData = nullptr;
     DialogAbout* mpAbout = nullptr;
     DialogHelp* mpHelp = nullptr;
     DialogProfileInfo* mpProfileInfo = nullptr;

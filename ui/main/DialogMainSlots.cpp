@@ -8,6 +8,7 @@
 #include "card/CardContainer.h"
 #include "profile/ui/DialogProfile.h"
 #include "profile/ui/DialogProfileInfo.h"
+#include "ui/data/DialogData.h"
 #include "ui/main/CardController.h"
 #include "ui/main/DialogAbout.h"
 #include "ui/main/DialogCard.h"
@@ -19,7 +20,6 @@
 #include "ui/main/ProfileController.h"
 #include "ui/main/ProjectController.h"
 #include "ui/main/StatusProgress.h"
-#include "ui/main/WidgetCycleSummary.h"
 #include "ui/main/WidgetWelcome.h"
 #include "ui/main/WindowLayout.h"
 
@@ -114,6 +114,7 @@ void DialogMain::updateUnit()
 {
     mpProfileController->updateUnit();
     mpProfile->updateProfile();
+    mpData->updateProfile();
     mpCardController->reload();
 }
 
@@ -123,6 +124,8 @@ void DialogMain::loadProfile()
     mpProfileInfo->setProfileFile(mpProfileController->file());
     mpProfileInfo->fillProfileInfo();
     mpProfile->updateProfile();
+    mpData->loadProfile();
+    mpData->updateProfile();
 }
 
 void DialogMain::fillProfiles()
@@ -147,7 +150,7 @@ void DialogMain::openFolder(const QString& path)
 
 void DialogMain::slotProfileChanged()
 {
-    slotDataChanged();
+    mpData->updateProfile();
 }
 
 void DialogMain::slotProfileChanged(const QString& name)
@@ -182,9 +185,10 @@ void DialogMain::slotCanChanged()
     mpProjectController->setModified();
 }
 
-void DialogMain::slotZarnMode(int /*mode*/)
+void DialogMain::slotZarnMode(int mode)
 {
     mpCardController->restoreFolder(QString::fromStdString(mSession.property.getString("LastPath", ".")));
+    mpData->setZarnMode(mode);
 }
 
 void DialogMain::slotLoadRecord(const std::list<QString>& files)
@@ -210,12 +214,16 @@ void DialogMain::slotFolderChanged()
     mpCentre->setCurrentWidget(mpWelcome);
 }
 
+void DialogMain::slotDataChanging()
+{
+    mpData->releaseRecord();
+}
+
 void DialogMain::slotDataChanged()
 {
-    if (mSession.container.recordData().count() == 0)
-        return;
-    mpSummary->showData();
-    mpCentre->setCurrentWidget(mpSummary);
+    mpData->updateRecord();
+    if (mSession.container.recordData().count() != 0)
+        mpCentre->setCurrentWidget(mpData);
 }
 
 void DialogMain::slotProjectChanged()

@@ -8,30 +8,30 @@ namespace ZARN {
 namespace {
 
 constexpr qint64 kPaintingMilliseconds = 40; // often enough to look steady, too seldom to cost time
-
-void paintWindows()
-{
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-}
+constexpr qint64 kWorkForPainting = 4;       // where painting is slow, so many times its duration go to the work
 
 } // namespace
+
+void StatusProgress::paintWindows()
+{
+    mSincePainting.start();
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    mPause = std::max(kPaintingMilliseconds, kWorkForPainting * mSincePainting.restart());
+}
 
 void StatusProgress::begin()
 {
     mBar.setValue(0);
     mBar.show();
     mRunning = true;
-    mSincePainting.start();
     paintWindows();
 }
 
 void StatusProgress::setProgress(int percent)
 {
     mBar.setValue(percent);
-    if (!mRunning || mSincePainting.elapsed() < kPaintingMilliseconds)
-        return;
-    mSincePainting.start();
-    paintWindows();
+    if (mRunning && mSincePainting.elapsed() >= mPause)
+        paintWindows();
 }
 
 void StatusProgress::end()

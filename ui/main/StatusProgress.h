@@ -20,8 +20,11 @@ public:
     void end();
 
 private:
+    void paintWindows();
+
     QProgressBar& mBar;
     QElapsedTimer mSincePainting;
+    qint64 mPause = 0; ///< milliseconds from one painting to the next
     bool mRunning = false;
 };
 

@@ -1,12 +1,13 @@
 #include "sim/DemoCard.h"
 #include "support/FileHelpers.h"
+#include "ui/data/DialogData.h"
+#include "ui/data/DialogDataLimit.h"
 #include "ui/main/Answer.h"
 #include "ui/main/CardController.h"
 #include "ui/main/DesktopFixture.h"
 #include "ui/main/DialogCard.h"
 #include "ui/main/MainActions.h"
 #include "ui/main/RecentFolders.h"
-#include "ui/main/WidgetCycleSummary.h"
 #include "ui/main/WidgetWelcome.h"
 
 #include <QAction>
@@ -19,7 +20,6 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QPushButton>
-#include <QTableWidget>
 #include <QToolBar>
 #include <QTreeWidget>
 #include <QWizard>
@@ -181,11 +181,12 @@ void TestDialogMain::openCard()
     QVERIFY(pCycle);
     pTree->setCurrentItem(pCycle);
     QTRY_COMPARE_WITH_TIMEOUT(pCycle->childCount(), 2, 20000);
-    QVERIFY(isShown<WidgetCycleSummary>(window));
-    const auto* pFlights = window.findChild<QTableWidget*>("flights");
-    QCOMPARE(pFlights->columnCount(), 2);
-    const RecordFlight& flight = desktop.container.loadedCycle()->flights[1];
-    QCOMPARE(pFlights->item(3, 1)->text(), QString::number(flight.maxAltitude, 'f', 0));
+    const auto* pData = window.findChild<DialogData*>();
+    QVERIFY(pData->isVisible());
+    QCOMPARE(pData->viewTime(), desktop.container.startTime());
+    QVERIFY(pData->findChild<DialogDataLimit*>()->eventCount() > 0);
+    pTree->setCurrentItem(pCycle->child(1));
+    QTRY_COMPARE_WITH_TIMEOUT(pData->viewTime(), desktop.container.loadedCycle()->flights[1].startTime, 20000);
 }
 
 void TestDialogMain::badFolder_data()

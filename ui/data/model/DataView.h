@@ -19,6 +19,15 @@ public:
     /// @param time view time in seconds on the record's own time base
     virtual void setTime(double time) = 0;
 
+    /// Another profile file is in force; for views that build widgets out of it.
+    virtual void loadProfile() {}
+
+    /// @param mode 0 shows the record, anything else its newest values as they come in
+    virtual void setZarnMode(int /*mode*/) {}
+
+    /// How many events the view lists.
+    [[nodiscard]] virtual int eventCount() const { return 0; }
+
 protected:
     DataView() = default;
     DataView(const DataView&) = default;

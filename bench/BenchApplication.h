@@ -1,0 +1,24 @@
+#pragma once
+
+#include "app/gui/GraphicsCheck.h"
+
+#include <QApplication>
+
+namespace ZARN {
+
+/// Starts what widgets need, once. Without a platform of the caller's choice it is the one that has no screen.
+inline void startApplication()
+{
+    if (QCoreApplication::instance())
+        return;
+    static int count = 1;
+    static char name[] = "zarn-bench";
+    static char* arguments[] = {name, nullptr};
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && !qEnvironmentVariableIsSet("DISPLAY"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QSurfaceFormat::setDefaultFormat(GraphicsCheck::surfaceFormat());
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    [[maybe_unused]] static QApplication* pApplication = new QApplication(count, arguments); // outlives all static objects
+}
+
+} // namespace ZARN

@@ -1,0 +1,191 @@
+#include "card/CardContainer.h"
+#include "ui/data/DataCycle.h"
+#include "ui/data/DialogDataLimit.h"
+#include "ui/data/DialogDataStatistic.h"
+#include "ui/data/DialogDataWarning.h"
+
+#include <QLabel>
+#include <QSignalSpy>
+#include <QTableWidget>
+#include <QTest>
+#include <QTextEdit>
+
+using namespace ZARN;
+
+namespace {
+
+/// Pressure enters its warning band at 20.04 s and its limit band at 30.06 s, a lamp lights up at 25 s.
+struct Events : Test::DataCycle {
+    Events()
+    {
+        Test::ProfileBuilder()
+            .thresholds("T", {{5, "WARNING", "#ffff00"}, {50, "LIMIT", "#ff0000"}})
+            .device("Engine")
+            .parameter("Pressure", 1, "FLOAT", {{"unitMetric", "<b>"}, {"precision", "0"}, {"thresholdId", "T"}})
+            .device("WarningLamp")
+            .parameter("Oil", 2, "UCHAR")
+            .load(profile);
+        records().addFloat(1, 10.0, 1.0F).addFloat(1, 20.04, 6.0F);
+        records().add(2, 25.0, Test::bytePayload(2)).addFloat(1, 30.06, 60.0F);
+        load();
+    }
+};
+
+template <typename View> struct Shown : Events {
+    Shown()
+    {
+        view.resize(400, 300);
+        view.show();
+        view.updateRecord(data());
+    }
+    QTableWidget* table() { return view.template findChild<QTableWidget*>(); }
+    View view{session};
+};
+
+} // namespace
+
+/// The lists of limit and lamp events, and the tow statistic.
+class TestDataEvents : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void limits();
+    void lamps();
+    void rowOfTime_data();
+    void rowOfTime();
+    void choices();
+    void manyEvents();
+    void noEvents();
+    void statistic_data();
+    void statistic();
+    void noStatistic();
+};
+
+void TestDataEvents::limits()
+{
+    Shown<DialogDataLimit> shown;
+    const QTableWidget* pTable = shown.table();
+    QCOMPARE(pTable->rowCount(), 2);
+    QCOMPARE(pTable->horizontalHeaderItem(1)->text(), QString("Warning/Limit Exceed"));
+    QCOMPARE(pTable->item(0, 0)->text(), QString("00:00:20.040"));
+    QCOMPARE(pTable->item(0, 0)->data(Qt::UserRole), QVariant(20040));
+    QCOMPARE(pTable->item(0, 1)->text(), QString("Engine Pressure 6 <b>"));
+    QVERIFY(!pTable->item(0, 1)->toolTip().contains("<b>"));
+    QCOMPARE(pTable->item(1, 1)->background().color(), QColor(255, 0, 0));
+    QCOMPARE(pTable->item(1, 1)->flags(), Qt::ItemIsSelectable | Qt::ItemIsEnabled);
+    QCOMPARE(shown.view.eventCount(), 2);
+}
+
+void TestDataEvents::lamps()
+{
+    Shown<DialogDataWarning> shown;
+    QCOMPARE(shown.table()->rowCount(), 1);
+    QCOMPARE(shown.table()->horizontalHeaderItem(1)->text(), QString("WarningLamp"));
+    QCOMPARE(shown.table()->item(0, 1)->background().color(), QColor(255, 100, 100));
+}
+
+void TestDataEvents::rowOfTime_data()
+{
+    QTest::addColumn<double>("time");
+    QTest::addColumn<int>("row");
+    QTest::newRow("before the first") << 0.0 << 0;
+    QTest::newRow("key not reached") << 30.04 << 0;
+    QTest::newRow("key reached") << 30.05 << 1;
+    QTest::newRow("after the last") << 1e300 << 1;
+}
+
+void TestDataEvents::rowOfTime()
+{
+    QFETCH(double, time);
+    Shown<DialogDataLimit> shown;
+    QSignalSpy times(&shown.view, &DialogDataLimit::signalTime);
+    shown.view.setTime(time);
+    QTEST(shown.table()->currentRow(), "row");
+    QCOMPARE(shown.table()->selectedItems().size(), 2);
+    QCOMPARE(times.size(), 0);
+}
+
+void TestDataEvents::choices()
+{
+    Shown<DialogDataLimit> shown;
+    QSignalSpy times(&shown.view, &DialogDataLimit::signalTime);
+    const auto click = [&](int row) {
+        QTest::mouseClick(shown.table()->viewport(), Qt::LeftButton, {}, shown.table()->visualItemRect(shown.table()->item(row, 1)).center());
+    };
+    click(0); // selected by the start time, which is no choice; this is one
+    QTest::keyClick(shown.table(), Qt::Key_Down);
+    QTest::keyClick(shown.table(), Qt::Key_Down);
+    QTest::keyClick(shown.table(), Qt::Key_Up);
+    QCOMPARE(times.size(), 3);
+    QCOMPARE(times[0][0].toDouble(), 20.04);
+    QCOMPARE(times[1][0].toDouble(), 30.06);
+    QCOMPARE(times[2][0].toDouble(), 20.04);
+}
+
+void TestDataEvents::manyEvents()
+{
+    Events events;
+    for (int i = 0; i < DialogDataEvents::kMaxRows + 10; ++i) {
+        events.data()->append(1, {Test::floatPayload(1.0F), 0, 0, 2, 0, 0, Test::ticksOf(40 + i)});
+        events.data()->append(1, {Test::floatPayload(9.0F), 0, 0, 2, 0, 0, Test::ticksOf(40.5 + i)});
+    }
+    DialogDataLimit view(events.session);
+    view.updateRecord(events.data());
+    QCOMPARE(view.findChild<QTableWidget*>()->rowCount(), DialogDataEvents::kMaxRows);
+    QVERIFY(!view.findChild<QLabel*>()->isHidden());
+    view.setTime(1e9);
+    QCOMPARE(view.findChild<QTableWidget*>()->currentRow(), DialogDataEvents::kMaxRows - 1);
+}
+
+void TestDataEvents::noEvents()
+{
+    Shown<DialogDataLimit> shown;
+    shown.profile.clear();
+    shown.view.updateRecord(shown.data());
+    shown.view.setTime(20.0);
+    QCOMPARE(shown.table()->rowCount(), 0);
+    QVERIFY(shown.view.findChild<QLabel*>()->isVisible());
+    shown.view.updateRecord(nullptr);
+    QVERIFY(!shown.view.findChild<QLabel*>()->isVisible());
+}
+
+void TestDataEvents::statistic_data()
+{
+    QTest::addColumn<double>("climb");
+    QTest::addColumn<QString>("lines");
+    QTest::newRow("climb") << 400.0 << "Time / 100m  :  00:01:01|Fuel / 100m  :  0.25 l";
+    QTest::newRow("no climb") << 0.0 << "Fuel / 100m  :  inf l";
+}
+
+void TestDataEvents::statistic()
+{
+    QFETCH(double, climb);
+    QFETCH(QString, lines);
+    Events events;
+    RecordFlight& flight = const_cast<RecordFlight&>(events.container.selectedFlight()); // found flights need an hour of samples
+    flight.valid = true;
+    flight.takeOffTime = 100.0;
+    flight.landingTime = 100.0 + 90000.9; // wraps, and loses the fraction
+    flight.maxGroundSpeed = 1234567.0;
+    flight.timePer100m = 247.0 / climb * 100.0;
+    flight.fuelPer100m = 1.0 / climb * 100.0;
+    DialogDataStatistic view(events.session);
+    view.updateRecord(events.data());
+    const QString text = view.findChild<QTextEdit*>()->toPlainText().simplified();
+    lines += "|Flight Time : 01:00:00|Max Ground Speed : 1.23457e+06 km/h|Take Off Distance 15m : 0 m";
+    for (const QString& line : lines.split('|'))
+        QVERIFY2(text.contains(line.simplified()), qPrintable(text));
+}
+
+void TestDataEvents::noStatistic()
+{
+    Events events;
+    DialogDataStatistic view(events.session);
+    const auto shown = [&] { return view.findChild<QTextEdit*>()->toPlainText(); };
+    QCOMPARE(shown(), QString("\n\nNo flight selected"));
+    view.updateRecord(events.data()); // the whole cycle
+    QCOMPARE(shown(), QString("\n\nNo flight selected"));
+}
+
+QTEST_MAIN(TestDataEvents)
+#include "TestDataEvents.moc"

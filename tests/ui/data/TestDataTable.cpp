@@ -1,0 +1,282 @@
+#include "card/CardContainer.h"
+#include "ui/data/DataCycle.h"
+#include "ui/data/DialogDataTable.h"
+#include "ui/data/model/CellText.h"
+#include "ui/data/model/DataTableModel.h"
+
+#include <QAbstractItemModelTester>
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QSignalSpy>
+#include <QTableView>
+#include <QTest>
+
+using namespace ZARN;
+
+namespace {
+
+/// A table with times 10.0, 10.5, 11.0 and 12.0 s; B has samples at the first and the last only, C none.
+struct Table : Test::DataCycle {
+    Table()
+    {
+        Test::ProfileBuilder()
+            .thresholds("T", {{5, "WARNING", "#ff0000"}, {50, "LIMIT", "#00ff00"}})
+            .device("D<b>")
+            .parameter("A", 1, "FLOAT", {{"unitMetric", "rpm"}, {"precision", "1"}, {"thresholdId", "T"}})
+            .parameter("hidden", 1, "FLOAT")
+            .parameter("B", 2, "ULONG")
+            .device("E")
+            .parameter("C", 3, "FLOAT", {{"unitMetric", "m"}})
+            .load(profile);
+        for (const char* name : {"A", "B", "C"})
+            profile.setSelected(name, true);
+        records().addFloat(1, 10.0, 1.0F).addWord(2, 10.01, 7).addFloat(1, 10.5, 9.0F).addFloat(1, 11.0, 99.0F).addWord(2, 12.0, 8);
+        load();
+    }
+    /// The table in a window, filled.
+    DialogDataTable& open()
+    {
+        table.emplace(session);
+        table->resize(500, 300);
+        table->show();
+        table->updateRecord(data());
+        return *table;
+    }
+    QTableView* view() { return table->findChild<QTableView*>(); }
+    QString text(int row, int column) { return view()->model()->index(row, column).data().toString(); }
+    QVariant at(int row, int column, int role) { return view()->model()->index(row, column).data(role); }
+
+    std::optional<DialogDataTable> table;
+};
+
+} // namespace
+
+/// The data table over records, live values and damage.
+class TestDataTable : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cells();
+    void header();
+    void positions();
+    void damagedTimes();
+    void rowOfTime_data();
+    void rowOfTime();
+    void selection();
+    void copy();
+    void live();
+    void otherProfile();
+};
+
+void TestDataTable::cells()
+{
+    Table table;
+    DataTableModel model(table.profile);
+    const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+    model.updateParameters();
+    model.setRecord(table.data());
+    model.setRecord(table.data());
+    model.setRecord(nullptr);
+    QCOMPARE(model.rowCount(), 0);
+
+    table.open();
+    QCOMPARE(table.view()->model()->rowCount(), 4);
+    QStringList rows;
+    for (int row = 0; row < 4; ++row)
+        rows.append(QStringList{table.text(row, 0), table.text(row, 1), table.text(row, 2), table.text(row, 3)}.join(' '));
+    QCOMPARE(rows, QStringList({"00:00:10.000 1.0 7 ", "00:00:10.500 9.0  ", "00:00:11.000 99.0  ", "00:00:12.000  8 "}));
+    QCOMPARE(table.at(1, 0, Qt::UserRole), QVariant(10500));
+    QCOMPARE(table.at(0, 0, Qt::BackgroundRole).value<QColor>(), QColor(230, 230, 230));
+    QVERIFY(!table.at(0, 1, Qt::BackgroundRole).isValid());
+    QCOMPARE(table.at(1, 1, Qt::BackgroundRole).value<QColor>(), QColor(255, 0, 0));
+    QCOMPARE(table.at(2, 1, Qt::ToolTipRole).toString(), QString("Limit"));
+    QCOMPARE(table.view()->model()->flags(table.view()->model()->index(3, 1)),
+             Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemNeverHasChildren);
+    // 8 bytes a shown sample is what the index may take; here every column has its own channel.
+    QVERIFY(table.table->model().bytes() < 1000);
+}
+
+void TestDataTable::header()
+{
+    Table table;
+    table.open();
+    const auto* pHeader = table.view()->horizontalHeader();
+    QStringList labels;
+    for (int i = 0; i < pHeader->count(); ++i)
+        labels.append(table.view()->model()->headerData(i, Qt::Horizontal).toString());
+    QCOMPARE(labels, QStringList({"Time", "A [rpm]", "B", "C [m]"}));
+    QVERIFY(!pHeader->isHidden() && table.view()->verticalHeader()->isHidden());
+    QCOMPARE(pHeader->font().weight(), int(QFont::Bold));
+    QCOMPARE(pHeader->sectionSize(0), 80);
+    QCOMPARE(table.view()->rowHeight(0), 15);
+    const QString toolTip = table.view()->model()->headerData(1, Qt::Horizontal, Qt::ToolTipRole).toString();
+    for (const char* piece : {"D&lt;b&gt;/A", "1", "rpm", "5.0 rpm: Warning", "50.0 rpm: Limit"})
+        QVERIFY2(toolTip.contains(piece), qPrintable(toolTip));
+    table.profile.clearSelection();
+    table.table->updateProfile();
+    QCOMPARE(table.view()->model()->rowCount(), 0);
+    QCOMPARE(table.view()->model()->columnCount(), 1);
+}
+
+void TestDataTable::positions()
+{
+    Test::DataCycle cycle;
+    Test::ProfileBuilder().device("GPS").position("Latitude", 10).position("Longitude", 11).load(cycle.profile);
+    cycle.profile.setSelected("Latitude", true);
+    cycle.profile.setSelected("Longitude", true);
+    for (int i = 0; i < 40; ++i) {
+        const float jump = i == 20 ? 500.0F : 0.0F; // a fix that the filter drops
+        cycle.records().addFloat(10, 10 + i * 0.5, 4800.0F + static_cast<float>(i) * 0.01F + jump);
+        cycle.records().addFloat(11, 10 + i * 0.5, 1130.0F + static_cast<float>(i) * 0.01F + jump);
+    }
+    cycle.load();
+    DataTableModel model(cycle.profile);
+    model.updateParameters();
+    model.setRecord(cycle.data());
+    // Read backwards and twice, a cell is what one pass in time order decodes.
+    QStringList shown;
+    for (int pass = 0; pass < 2; ++pass) {
+        for (int row = 39; row >= 0; --row)
+            shown.append(model.index(row, 1).data().toString() + model.index(row, 2).data().toString());
+    }
+    QStringList expected(40);
+    cycle.profile.resetCoordinates();
+    for (const char* name : {"Latitude", "Longitude"}) {
+        const ProfileParameter& parameter = *cycle.profile.findParameter(name);
+        const RecordEntries& entries = cycle.data()->channel(parameter.identifier())->entries;
+        for (std::size_t i = 0; i < 40; ++i) {
+            int state = 0;
+            QColor colour;
+            expected[static_cast<qsizetype>(39 - i)] += QString::fromStdString(cycle.profile.getDataString(entries[i], parameter, state, colour));
+        }
+    }
+    QCOMPARE(shown, expected + expected);
+    QVERIFY(expected[19].startsWith("48.0"));
+}
+
+void TestDataTable::damagedTimes()
+{
+    Table table;
+    table.data()->append(1, {Test::floatPayload(3.0F), 0, 0, 2, 0, 0, std::numeric_limits<uint64_t>::max()});
+    table.data()->append(1, {Test::floatPayload(4.0F), 0, 0, 2, 0, 0, Test::ticksOf(0.25)});
+    table.data()->buildTimeIndex();
+    table.open();
+    QCOMPARE(table.view()->model()->rowCount(), 6);
+    QCOMPARE(table.text(0, 1), QString("4.0"));
+    QCOMPARE(table.text(5, 1), QString("3.0"));
+    QSignalSpy times(&*table.table, &DialogDataTable::signalTime);
+    table.view()->selectRow(5);
+    QCOMPARE(times.takeFirst()[0].toDouble(), 429496729.5);
+}
+
+void TestDataTable::rowOfTime_data()
+{
+    QTest::addColumn<double>("time");
+    QTest::addColumn<int>("row");
+    QTest::newRow("before the first") << -5.0 << 0;
+    QTest::newRow("first") << 10.0 << 0;
+    QTest::newRow("rounds up") << 10.46 << 1;
+    QTest::newRow("rounds down") << 10.44 << 0;
+    QTest::newRow("between") << 11.9 << 2;
+    QTest::newRow("after the last") << 1e12 << 3;
+    QTest::newRow("none") << std::numeric_limits<double>::quiet_NaN() << 0;
+}
+
+void TestDataTable::rowOfTime()
+{
+    QFETCH(double, time);
+    Table table;
+    table.open();
+    QSignalSpy times(&*table.table, &DialogDataTable::signalTime);
+    table.table->setTime(time);
+    const QModelIndexList rows = table.view()->selectionModel()->selectedRows();
+    QCOMPARE(rows.size(), 1);
+    QTEST(rows[0].row(), "row");
+    QCOMPARE(times.size(), 0);
+}
+
+void TestDataTable::selection()
+{
+    Table table;
+    table.open();
+    QSignalSpy times(&*table.table, &DialogDataTable::signalTime);
+    const auto click = [&](int row) {
+        QTest::mouseClick(table.view()->viewport(), Qt::LeftButton, {}, table.view()->visualRect(table.view()->model()->index(row, 1)).center());
+    };
+    click(0); // selected already by the start time, yet chosen
+    click(2);
+    QCOMPARE(times.size(), 2);
+    QCOMPARE(times[0][0].toDouble(), 10.0);
+    QCOMPARE(times[1][0].toDouble(), 11.0);
+    QTest::keyClick(table.view(), Qt::Key_Down);
+    QCOMPARE(times.size(), 3);
+    QCOMPARE(times[2][0].toDouble(), 12.0);
+    table.table->updateRecord(nullptr);
+    table.table->setTime(11.0);
+    QCOMPARE(times.size(), 3);
+}
+
+void TestDataTable::copy()
+{
+    Table table;
+    table.open();
+    QAction other; // the window has another use for the key
+    other.setShortcut(QKeySequence::Copy);
+    table.table->addAction(&other);
+    QSignalSpy triggered(&other, &QAction::triggered);
+    table.table->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&*table.table));
+    table.view()->setFocus();
+    table.view()->selectRow(0);
+    table.view()->selectionModel()->select(table.view()->model()->index(3, 0), QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    QTest::keySequence(table.view(), QKeySequence::Copy);
+    QCOMPARE(QGuiApplication::clipboard()->text(), QString("00:00:10.000\t1.0\t7\t\n00:00:12.000\t\t8\t\n"));
+    QCOMPARE(triggered.size(), 0);
+    for (QAction* pAction : table.view()->actions())
+        pAction->trigger();
+    QVERIFY(QGuiApplication::clipboard()->text().startsWith("Time\tA [rpm]\tB\tC [m]\n00:00:10.000\t"));
+    const CellText none{QItemSelection()};
+    QCOMPARE(none.text(*table.view()->model(), true), QString());
+}
+
+void TestDataTable::live()
+{
+    Table table;
+    table.open();
+    table.table->setZarnMode(1);
+    QCOMPARE(table.view()->model()->rowCount(), 3);
+    QCOMPARE(table.view()->model()->columnCount(), 1);
+    QCOMPARE(table.view()->rowHeight(0), 20);
+    QCOMPARE(table.view()->columnWidth(0), 200);
+    QVERIFY(table.view()->horizontalHeader()->isHidden() && !table.view()->verticalHeader()->isHidden());
+    QCOMPARE(table.view()->model()->headerData(0, Qt::Vertical).toString(), QString("A [rpm]"));
+    RecordEntry entry;
+    entry.id = 1;
+    entry.payload = Test::floatPayload(60.0F);
+    QVERIFY(table.data()->appendLive(entry));
+    QTRY_COMPARE(table.text(0, 0), QString("60.0"));
+    QCOMPARE(table.at(0, 0, Qt::BackgroundRole).value<QColor>(), QColor(0, 255, 0));
+    QCOMPARE(table.text(1, 0), QString()); // from a file, so not fresh
+    QVERIFY(!table.data()->channel(1)->fresh());
+    table.table->setZarnMode(0);
+    QVERIFY(table.data()->appendLive(entry));
+    QTest::qWait(120);
+    QVERIFY(table.data()->channel(1)->fresh());
+}
+
+void TestDataTable::otherProfile()
+{
+    Table table;
+    table.open();
+    // Between the load of another profile and its announcement the window may be painted.
+    Test::ProfileBuilder().device("X").parameter("A", 2, "ULONG").load(table.profile);
+    QCOMPARE(table.text(0, 1), QString());
+    table.table->grab();
+    table.table->updateProfile();
+    QCOMPARE(table.view()->model()->columnCount(), 2);
+    QCOMPARE(table.text(0, 1), QString("7"));
+}
+
+QTEST_MAIN(TestDataTable)
+#include "TestDataTable.moc"

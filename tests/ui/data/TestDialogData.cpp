@@ -1,0 +1,303 @@
+#include "card/CardContainer.h"
+#include "ui/data/DataCycle.h"
+#include "ui/data/DataTabBar.h"
+#include "ui/data/DialogData.h"
+#include "ui/data/DialogDataLimit.h"
+#include "ui/data/DialogDataTable.h"
+
+#include <QAbstractItemView>
+#include <QDoubleSpinBox>
+#include <QLCDNumber>
+#include <QLabel>
+#include <QPushButton>
+#include <QSlider>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QTest>
+#include <QTimeEdit>
+
+using namespace ZARN;
+
+namespace {
+
+/// A view that notes what it is told, under its letter.
+class RecordingView : public QWidget, public DataView {
+public:
+    RecordingView(QString letter, QStringList& log) : mLetter(std::move(letter)), mLog(log) {}
+    void updateProfile() override { mLog.append(mLetter + "p"); }
+    void updateRecord(RecordData* pRecord) override { mLog.append(mLetter + (pRecord ? "r" : "0")); }
+    void setTime(double time) override { mLog.append(mLetter + QString::number(time)); }
+    void loadProfile() override { mLog.append(mLetter + "l"); }
+    void setZarnMode(int mode) override { mLog.append(mLetter + "m" + QString::number(mode)); }
+    [[nodiscard]] int eventCount() const override { return 120; }
+
+private:
+    QString mLetter;
+    QStringList& mLog;
+};
+
+/// The data area over recording views: Table, Graph, Fault matrix, Limits, Warnings, Statistic, Map. The record lasts from 10 to 110 s.
+struct Area : Test::DataCycle {
+    explicit Area(bool emu = false, double end = 110.0)
+    {
+        records().addFloat(1, 10.0, 1.0F).addFloat(1, end, 1.0F);
+        load();
+        DataViews views;
+        for (std::size_t i = 0; i < eViewCount; ++i) {
+            auto* pView = new RecordingView(QString("TGFLWSM").mid(static_cast<qsizetype>(i), 1), log);
+            views.entries[i] = {pView, pView};
+        }
+        area.emplace(session, views, emu, nullptr, [this] { return now; });
+    }
+    void show()
+    {
+        area->updateRecord();
+        log.clear();
+    }
+    QString take()
+    {
+        const QString text = log.join(' ');
+        log.clear();
+        return text;
+    }
+    template <typename Widget> Widget* find(const char* name) { return area->findChild<Widget*>(name); }
+
+    QStringList log;
+    double now = 1000.0;
+    std::optional<DialogData> area;
+};
+
+} // namespace
+
+/// The data area: who is told what in which order, replay, controls and map pane.
+class TestDialogData : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void pushOrders_data();
+    void pushOrders();
+    void echoesAreIgnored();
+    void clocks_data();
+    void clocks();
+    void controls();
+    void replay();
+    void withoutRecord();
+    void emu();
+    void mapPane();
+    void tabs();
+    void realViews();
+};
+
+void TestDialogData::pushOrders_data()
+{
+    using Action = std::function<void(DialogData&)>;
+    QTest::addColumn<Action>("action");
+    QTest::addColumn<QString>("calls");
+    const auto row = [](const char* name, const Action& action, const char* calls) { QTest::newRow(name) << action << QString(calls); };
+    row("record", [](DialogData& area) { area.updateRecord(); }, "Tr Gr Fr Sr Lr Wr Mr T10 G10 F10 L10 W10 M10");
+    row("profile", [](DialogData& area) { area.updateProfile(); }, "Tp Gp Fp Lp Wp Mp T10 G10 F10 L10 W10 M10");
+    row("profile file", [](DialogData& area) { area.loadProfile(); }, "Fl Fr F10");
+    row("mode", [](DialogData& area) { area.setZarnMode(1); }, "");
+    row("table", [](DialogData& area) { area.slotTableTime(20.5); }, "G20.5 F20.5 L20.5 W20.5 M20.5");
+    row("graph", [](DialogData& area) { area.slotCursor(20.5F, 3.0); }, "T20.5 F20.5 L20.5 W20.5 M20.5");
+    row("limits", [](DialogData& area) { area.slotLimitTime(20.5); }, "G20.5 F20.5 T20.5 W20.5 M20.5");
+    row("warnings", [](DialogData& area) { area.slotWarningTime(20.5); }, "G20.5 F20.5 T20.5 L20.5");
+    row("map", [](DialogData& area) { area.slotMapTime(20.5); }, "T20.5 G20.5 F20.5 L20.5 W20.5");
+    row("no time", [](DialogData& area) { area.slotTableTime(std::numeric_limits<double>::quiet_NaN()); }, "");
+    row("slider", [](DialogData& area) { area.slotSlider(2500); }, "T35 G35 F35 L35 W35 M35");
+    row("time entry", [](DialogData& area) { area.slotValue(QTime(0, 1, 3, 999)); }, "T63 G63 F63 L63 W63 M63");
+    row("stop", [](DialogData& area) { area.slotReplayStop(); }, "T10 G10 F10 L10 W10 M10");
+    row("speed", [](DialogData& area) { area.slotReplaySpeed(250); }, "");
+    row("release", [](DialogData& area) { area.releaseRecord(); }, "T0 G0 F0 S0 L0 W0 M0");
+}
+
+void TestDialogData::pushOrders()
+{
+    QFETCH(std::function<void(DialogData&)>, action);
+    Area area;
+    area.show();
+    action(*area.area);
+    QTEST(area.take(), "calls");
+}
+
+void TestDialogData::echoesAreIgnored()
+{
+    Area area;
+    area.show();
+    // What the controls signal while they are refreshed is no move of the user: only one push each.
+    area.area->slotTableTime(60.5);
+    QCOMPARE(area.take().count("G60.5"), 1);
+    QCOMPARE(area.area->viewTime(), 60.5);
+    QCOMPARE(area.find<QSlider>("position")->value(), 5050);
+    QCOMPARE(area.find<QTimeEdit>("time")->time(), QTime(0, 1, 0, 500));
+}
+
+void TestDialogData::clocks_data()
+{
+    QTest::addColumn<double>("time");
+    QTest::addColumn<QTime>("timeOfDay");
+    QTest::addColumn<int>("position");
+    QTest::newRow("start") << 10.0 << QTime(0, 0, 10) << 0;
+    QTest::newRow("truncated") << 43.3339 << QTime(0, 0, 43, 333) << 3333;
+    QTest::newRow("before") << -1.0 << QTime(23, 59, 59) << 0;
+    QTest::newRow("next day") << 90000.5 << QTime(1, 0, 0, 500) << 10000;
+    QTest::newRow("damage") << 1e300 << QTime(7, 12, 55, 807) << 10000; // the largest number of milliseconds
+}
+
+void TestDialogData::clocks()
+{
+    QFETCH(double, time);
+    Area area;
+    QCOMPARE(area.find<QLCDNumber>("dateClock")->digitCount(), 19);
+    area.show();
+    area.area->slotLimitTime(time);
+    QTEST(area.find<QTimeEdit>("time")->time(), "timeOfDay");
+    QTEST(area.find<QSlider>("position")->value(), "position");
+}
+
+void TestDialogData::controls()
+{
+    Area area;
+    area.show();
+    area.find<QSlider>("position")->setValue(5000);
+    QCOMPARE(area.take(), QString("T60 G60 F60 L60 W60 M60"));
+    area.find<QTimeEdit>("time")->setTime(QTime(0, 0, 30));
+    QCOMPARE(area.take(), QString("T30 G30 F30 L30 W30 M30"));
+    area.find<QSlider>("speedSlider")->setValue(1234);
+    QCOMPARE(area.find<QDoubleSpinBox>("speed")->value(), 12.34);
+    area.find<QDoubleSpinBox>("speed")->setValue(99.5);
+    QCOMPARE(area.find<QSlider>("speedSlider")->value(), 9950);
+    QCOMPARE(area.take(), QString());
+}
+
+void TestDialogData::replay()
+{
+    Area area;
+    area.show();
+    auto* pStart = area.find<QPushButton>("replay");
+    auto* pStop = area.find<QPushButton>("stop");
+    QCOMPARE(pStart->text(), QString("Replay Start"));
+    QVERIFY(!pStop->isEnabled());
+    area.area->slotReplaySpeed(10.0);
+    pStart->click();
+    QCOMPARE(pStart->text(), QString("Replay Pause"));
+    QVERIFY(pStop->isEnabled());
+    area.now += 1.5;
+    area.area->slotTimeoutReplay();
+    QCOMPARE(area.take(), QString("T25 G25 F25 L25 W25 M25"));
+    pStart->click();
+    QCOMPARE(pStart->text(), QString("Replay Run"));
+    area.now += 100.0; // a pause does not count
+    pStart->click();
+    area.now += 8.5;
+    area.area->slotTimeoutReplay();
+    QCOMPARE(area.area->viewTime(), 110.0); // at the end, not past it
+    QCOMPARE(pStart->text(), QString("Replay Pause"));
+    area.take();
+    area.now += 0.5;
+    area.area->slotTimeoutReplay();
+    QCOMPARE(area.take(), QString("T115 G115 F115 L115 W115 M115 T10 G10 F10 L10 W10 M10"));
+    QCOMPARE(pStart->text(), QString("Replay Start"));
+    QVERIFY(!pStop->isEnabled());
+    area.now += 1.0;
+    pStart->click();
+    QTRY_VERIFY(area.log.contains("M10")); // the timer ticks by itself
+    area.take();
+    area.area->releaseRecord();
+    QTest::qWait(60);
+    QCOMPARE(area.take(), QString("T0 G0 F0 S0 L0 W0 M0"));
+}
+
+void TestDialogData::withoutRecord()
+{
+    Area area(false, 10.0); // start and end are one
+    area.area->slotSlider(5000);
+    area.area->slotReplayMode();
+    area.now += 1.0;
+    area.area->slotTimeoutReplay();
+    QCOMPARE(area.area->viewTime(), 0.0);
+    area.show();
+    area.area->slotSlider(5000);
+    QCOMPARE(area.area->viewTime(), 10.0);
+    QCOMPARE(area.find<QSlider>("position")->value(), 0);
+}
+
+void TestDialogData::emu()
+{
+    Area area(true);
+    QCOMPARE(area.take(), QString("Tm1 Gm1 Fm1 Lm1 Wm1 Sm1 Mm1"));
+    area.area->show();
+    QVERIFY(area.find<QLCDNumber>("dateClock")->isVisible());
+    QVERIFY(!area.find<QLCDNumber>("timeClock")->isVisible());
+    QVERIFY(!area.find<QSlider>("position")->isVisible());
+    QVERIFY(!area.find<QTimeEdit>("time")->isVisible());
+}
+
+void TestDialogData::mapPane()
+{
+    Area area;
+    area.area->resize(1001, 700);
+    area.area->show();
+    auto* pSplitter = area.area->findChild<QSplitter*>();
+    area.area->slotMapType(0);
+    QCOMPARE(pSplitter->sizes()[1], 0);
+    area.area->slotMapType(7);
+    QCOMPARE(pSplitter->sizes()[1], 0);
+    area.area->slotMapType(2);
+    QCOMPARE(pSplitter->orientation(), Qt::Vertical);
+    QVERIFY(std::abs(pSplitter->sizes()[0] - pSplitter->sizes()[1]) <= 1);
+    pSplitter->setSizes({100, 300});
+    const QList<int> sizes = pSplitter->sizes();
+    area.area->slotMapType(2); // nothing is hidden: the sizes are the user's
+    QCOMPARE(pSplitter->sizes(), sizes);
+    area.area->slotMapType(1);
+    QCOMPARE(pSplitter->orientation(), Qt::Horizontal);
+}
+
+void TestDialogData::tabs()
+{
+    Area area;
+    area.show();
+    auto* pTabs = area.area->findChild<DataTabBar*>();
+    QStringList titles;
+    for (int i = 0; i < pTabs->count(); ++i) {
+        titles.append(pTabs->tabText(i));
+        pTabs->setCurrentIndex(i);
+        QCOMPARE(area.area->findChild<QStackedWidget*>()->currentIndex(), i);
+    }
+    QCOMPARE(titles.join('|'), QString("Data|Graph|Fault Matrix|Limit/Warning|Warning Lamps|Tow Statistic"));
+    QCOMPARE(pTabs->countOf(eViewLimits), 120);
+    QCOMPARE(pTabs->countOf(eViewTable), 0);
+    QVERIFY(pTabs->tabToolTip(eViewWarnings).contains("120"));
+}
+
+void TestDialogData::realViews()
+{
+    Test::DataCycle cycle;
+    Test::ProfileBuilder()
+        .thresholds("T", {{100, "WARNING", "red"}})
+        .device("D")
+        .parameter("P", 1, "FLOAT", {{"thresholdId", "T"}})
+        .load(cycle.profile);
+    cycle.profile.setSelected("P", true);
+    for (int second = 10; second < 60; ++second)
+        cycle.records().addFloat(1, second, second == 40 ? 120.0F : 50.0F);
+    cycle.load();
+    DialogData area(cycle.session, DataViews::create(cycle.session, cycle.card.path()), false);
+    area.updateRecord();
+    auto* pLimits = area.findChild<DialogDataLimit*>();
+    QCOMPARE(pLimits->eventCount(), 1);
+    Q_EMIT pLimits->signalTime(40.0);
+    QCOMPARE(area.viewTime(), 40.0);
+    auto* pTable = area.findChild<DialogDataTable*>()->findChild<QAbstractItemView*>();
+    QCOMPARE(pTable->currentIndex().row(), 30);
+    pTable->setCurrentIndex(pTable->model()->index(2, 0));
+    QCOMPARE(area.viewTime(), 12.0);
+    cycle.profile.setSelected("P", false); // other columns, the same view time
+    area.updateProfile();
+    QCOMPARE(pTable->model()->columnCount(), 1);
+    QCOMPARE(area.viewTime(), 12.0);
+}
+
+QTEST_MAIN(TestDialogData)
+#include "TestDialogData.moc"

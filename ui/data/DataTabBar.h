@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QTabBar>
+
+#include <vector>
+
+namespace ZARN {
+
+/// The tabs of the data area: the icon above the title, so that all six fit a small window, and a count at the icon's corner.
+class DataTabBar : public QTabBar {
+    Q_OBJECT
+
+public:
+    explicit DataTabBar(QWidget* pParent = nullptr);
+
+    /// The number shown at a tab's icon; 0 shows none.
+    void setCount(int index, int count);
+    [[nodiscard]] int countOf(int index) const;
+
+protected:
+    [[nodiscard]] QSize tabSizeHint(int index) const override;
+    [[nodiscard]] QSize minimumTabSizeHint(int index) const override { return tabSizeHint(index); }
+    void paintEvent(QPaintEvent* pEvent) override;
+
+private:
+    void paintTab(QPainter& painter, int index);
+    void paintCount(QPainter& painter, const QRect& icon, int count) const;
+    [[nodiscard]] QFont titleFont(bool selected) const;
+
+    std::vector<int> mCounts;
+};
+
+} // namespace ZARN

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "project/Session.h"
+#include "ui/data/model/DataView.h"
+
+#include <QString>
+
+#include <array>
+#include <functional>
+
+class QWidget;
+
+namespace ZARN {
+
+class DialogData;
+
+/// The views of the data area, in the order of their tabs; the map, which has none, is the last.
+enum EDataView { eViewTable, eViewGraph, eViewFaultMatrix, eViewLimits, eViewWarnings, eViewStatistic, eViewMap, eViewCount };
+
+/// A view as the data area needs it: a widget to place and the interface to drive it. Both are the same object.
+struct DataViewEntry {
+    QWidget* pWidget = nullptr;
+    DataView* pView = nullptr;
+};
+
+/// What a data area is made of. Tests give it views that only note what they are told.
+struct DataViews {
+    std::array<DataViewEntry, eViewCount> entries{};
+    /// Connects the views' signals to the slots of the data area that they were given to.
+    std::function<void(DialogData& area)> connectTo;
+    /// Shows the events of the lists in the views that mark them, once a record is in all views.
+    std::function<void()> shareEvents;
+
+    [[nodiscard]] DataView& view(EDataView which) const { return *entries[which].pView; }
+
+    /// The program's own views. @param dataPath folder for what the map keeps
+    [[nodiscard]] static DataViews create(const Session& session, const QString& dataPath);
+};
+
+} // namespace ZARN

@@ -1,0 +1,12 @@
+#include "ui/data/DialogDataLimit.h"
+
+#include "analysis/LimitEvents.h"
+
+namespace ZARN {
+
+DialogDataLimit::DialogDataLimit(const Session& session, QWidget* pParent)
+    : DialogDataEvents(session, limitEvents, tr("Warning/Limit Exceed"), tr("No parameter entered a warning or limit band."), pParent)
+{
+}
+
+} // namespace ZARN

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "project/Session.h"
+#include "ui/data/model/DataView.h"
+
+#include <QWidget>
+
+class QTextEdit;
+
+namespace ZARN {
+
+struct RecordFlight;
+
+/// The tow statistic of the selected flight as labelled values. Computes nothing.
+class DialogDataStatistic : public QWidget, public DataView {
+    Q_OBJECT
+
+public:
+    explicit DialogDataStatistic(const Session& session, QWidget* pParent = nullptr);
+
+    void updateProfile() override {}
+    void updateRecord(RecordData* pRecord) override;
+    void setTime(double /*time*/) override {}
+
+    /// Appends a row to the text that is being built.
+    void addLine(const QString& label, const QString& value);
+
+private:
+    void addFlight(const RecordFlight& flight);
+
+    const Session mSession;
+    RecordData* mpRecord = nullptr;
+    QString mText;
+    QTextEdit* mpEdit;
+};
+
+} // namespace ZARN

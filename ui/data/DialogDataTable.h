@@ -1,0 +1,64 @@
+#pragma once
+
+#include "project/Session.h"
+#include "ui/data/model/DataView.h"
+
+#include <QWidget>
+
+class QLabel;
+class QTableView;
+class QTimer;
+
+namespace ZARN {
+
+class CardContainer;
+class CellModel;
+class DataTableModel;
+class LiveTableModel;
+
+/// The data table: a row for every tenth of a second at which something was recorded, a column for every shown parameter. In live
+/// mode a row for every shown parameter, with its newest value.
+class DialogDataTable : public QWidget, public DataView {
+    Q_OBJECT
+
+public:
+    explicit DialogDataTable(const Session& session, QWidget* pParent = nullptr);
+
+    void updateProfile() override;
+    void updateRecord(RecordData* pRecord) override;
+    void setTime(double time) override;
+    /// @param mode 0 shows the record, anything else is the live mode
+    void setZarnMode(int mode) override;
+
+    [[nodiscard]] const DataTableModel& model() const { return *mpModel; }
+
+Q_SIGNALS:
+    /// The time of the row that the user selected, in seconds.
+    void signalTime(double time);
+
+private Q_SLOTS:
+    void slotSelect();
+    void slotChoose();
+    void slotTimeoutRefresh();
+
+private:
+    void createView();
+    void showModel(CellModel* pModel);
+    void fill();
+    void sizeColumns();
+    void widenColumns();
+
+    const CardContainer& mContainer;
+    DataTableModel* mpModel;
+    LiveTableModel* mpLive;
+    QTableView* mpView;
+    QLabel* mpHint;
+    QTimer* mpTimer;
+    RecordData* mpRecord = nullptr;
+    int mMode = 0;
+    bool mBusy = false;
+    bool mReported = false; ///< the selected row's time was told
+    bool mWidened = false;  ///< the columns were made wide enough for the texts of a record
+};
+
+} // namespace ZARN

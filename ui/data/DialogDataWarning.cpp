@@ -1,0 +1,12 @@
+#include "ui/data/DialogDataWarning.h"
+
+#include "analysis/WarningEvents.h"
+
+namespace ZARN {
+
+DialogDataWarning::DialogDataWarning(const Session& session, QWidget* pParent)
+    : DialogDataEvents(session, warningEvents, tr("WarningLamp"), tr("No warning lamp lit up."), pParent)
+{
+}
+
+} // namespace ZARN

@@ -1,0 +1,62 @@
+#include "ui/data/WidgetErrorItem.h"
+
+#include "ui/data/FaultColours.h"
+
+#include <QPainter>
+
+namespace {
+
+constexpr int kMinimumWidth = 15;
+constexpr int kMinimumHeight = 150;
+constexpr int kTextSize = 10;
+constexpr int kMargin = 4;
+
+} // namespace
+
+WidgetErrorItem::WidgetErrorItem(QWidget* pParent) : QWidget(pParent)
+{
+    setMinimumSize(kMinimumWidth, kMinimumHeight);
+    setAutoFillBackground(true);
+}
+
+void WidgetErrorItem::setText(const QString& text)
+{
+    mText = text;
+    update();
+}
+
+void WidgetErrorItem::setType(int type)
+{
+    mType = type;
+    update();
+}
+
+void WidgetErrorItem::setErrorState(bool on)
+{
+    if (mErrorState == on)
+        return;
+    mErrorState = on;
+    update();
+}
+
+QColor WidgetErrorItem::fill() const
+{
+    return mErrorState ? ZARN::faultColour(mType) : ZARN::quietFaultColour(mType);
+}
+
+void WidgetErrorItem::paintEvent(QPaintEvent* /*pEvent*/)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), fill());
+    if (mType == ZARN::eErrorNone)
+        return;
+    QFont textFont = font();
+    textFont.setPixelSize(kTextSize);
+    painter.setFont(textFont);
+    painter.setPen(Qt::black);
+    painter.translate(0, height());
+    painter.rotate(-90);
+    const QRect room(kMargin, 0, height() - 2 * kMargin, width());
+    painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+                     painter.fontMetrics().elidedText(mText, Qt::ElideRight, room.width()));
+}

@@ -1,0 +1,123 @@
+#include "ui/data/WidgetErrorTime.h"
+
+#include "app/Numeric.h"
+#include "card/CardContainer.h"
+#include "ui/data/FaultColours.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <functional>
+
+namespace ZARN {
+
+namespace {
+
+constexpr int kHeight = 46;
+const QColor kLine(200, 200, 200);
+constexpr EErrorType kKinds[] = {eErrorInfo, eErrorWarning, eErrorFault};
+
+/// For each pixel column whether some stretch that is on touches it. A fault shorter than a pixel takes one all the same.
+std::vector<bool> columnsOn(const std::vector<FaultChange>& changes, int width, const std::function<int(double)>& xOf)
+{
+    std::vector<int> steps(static_cast<std::size_t>(width) + 1); // how many stretches begin less how many end
+    for (std::size_t i = 0; i + 1 < changes.size(); ++i) {
+        if (!changes[i].on)
+            continue;
+        const auto [from, to] = std::minmax({xOf(changes[i].time), xOf(changes[i + 1].time)});
+        const int first = std::clamp(from, 0, width - 1);
+        ++steps[static_cast<std::size_t>(first)];
+        --steps[static_cast<std::size_t>(std::clamp(to, first + 1, width))];
+    }
+    std::vector<bool> columns(static_cast<std::size_t>(width));
+    int count = 0;
+    for (std::size_t x = 0; x < columns.size(); ++x) {
+        count += steps[x];
+        columns[x] = count > 0;
+    }
+    return columns;
+}
+
+} // namespace
+
+WidgetErrorTime::WidgetErrorTime(const CardContainer& container, QWidget* pParent) : QWidget(pParent), mContainer(container)
+{
+    setMinimumHeight(kHeight);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    setToolTip(tr("Bits that were set over time. From top to bottom: Info, Warning, Fault"));
+    mTimeline.emplace(mMatrix, nullptr);
+}
+
+void WidgetErrorTime::setData(const FaultMatrix& matrix)
+{
+    mMatrix = matrix;
+    updateRecord(nullptr);
+}
+
+void WidgetErrorTime::updateRecord(const RecordData* pRecord)
+{
+    mWithRecord = pRecord != nullptr;
+    mStart = mContainer.startTime();
+    mEnd = mContainer.endTime();
+    mTimeline.emplace(mMatrix, pRecord ? pRecord->channel(static_cast<uint32_t>(mMatrix.id)) : nullptr);
+    mBands = {};
+    update();
+}
+
+void WidgetErrorTime::setTime(double time)
+{
+    mTime = time;
+    update();
+}
+
+int WidgetErrorTime::xOf(double time) const
+{
+    if (!mWithRecord || !(mEnd > mStart))
+        return 0;
+    return saturatingCast<int>((time - mStart) * (width() + 1) / (mEnd - mStart));
+}
+
+void WidgetErrorTime::drawBand(QPainter& painter, EErrorType kind, const QRect& band) const
+{
+    const std::vector<bool> columns = columnsOn(changes(kind), width(), [this](double time) { return xOf(time); });
+    for (int x = 0; x < width(); ++x) {
+        if (columns[static_cast<std::size_t>(x)])
+            painter.fillRect(x, band.top(), 1, band.height(), faultColour(kind));
+    }
+}
+
+void WidgetErrorTime::drawBands()
+{
+    mBands = QImage(size(), QImage::Format_RGB32);
+    mBands.fill(Qt::white);
+    QPainter painter(&mBands);
+    const int height = (this->height() + 1) / 3;
+    int top = 0;
+    for (const EErrorType kind : kKinds) {
+        drawBand(painter, kind, QRect(0, top, width(), height));
+        top += height;
+    }
+    painter.setPen(kLine);
+    painter.drawLine(0, height, width(), height);
+    painter.drawLine(0, 2 * height, width(), 2 * height);
+    painter.drawRect(0, 0, width() - 1, this->height() - 1);
+}
+
+void WidgetErrorTime::paintEvent(QPaintEvent* /*pEvent*/)
+{
+    if (mBands.size() != size())
+        drawBands();
+    QPainter painter(this);
+    painter.drawImage(0, 0, mBands);
+    const int x = std::clamp(xOf(mTime), -1, width());
+    painter.setPen(Qt::black);
+    painter.drawLine(x, 0, x, height());
+}
+
+void WidgetErrorTime::resizeEvent(QResizeEvent* pEvent)
+{
+    mBands = {};
+    QWidget::resizeEvent(pEvent);
+}
+
+} // namespace ZARN

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "analysis/FaultTimeline.h"
+
+#include <QImage>
+#include <QWidget>
+
+#include <optional>
+
+namespace ZARN {
+
+class CardContainer;
+class RecordData;
+
+/// When bits of each kind were set in an error matrix over the loaded record: a band each for Info, Warning and Fault, and a line at
+/// the view time. The bands are drawn once for each record and size.
+class WidgetErrorTime : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit WidgetErrorTime(const CardContainer& container, QWidget* pParent = nullptr);
+
+    /// The matrix whose bits are shown: identifier, name and bit definitions.
+    void setData(const FaultMatrix& matrix);
+    void updateRecord(const RecordData* pRecord);
+    void setTime(double time);
+
+    /// Where a time lies, in pixels from the left; 0 without a record, or when it has no duration. Any number outside the record.
+    [[nodiscard]] int xOf(double time) const;
+    /// Empty without samples of the matrix.
+    [[nodiscard]] const std::vector<FaultChange>& changes(EErrorType kind) const { return mTimeline->changes(kind); }
+
+protected:
+    void paintEvent(QPaintEvent* pEvent) override;
+    void resizeEvent(QResizeEvent* pEvent) override;
+
+private:
+    void drawBands();
+    void drawBand(QPainter& painter, EErrorType kind, const QRect& band) const;
+
+    const CardContainer& mContainer;
+    FaultMatrix mMatrix;
+    std::optional<FaultTimeline> mTimeline;
+    QImage mBands; ///< null when it must be drawn anew
+    bool mWithRecord = false;
+    double mStart = 0.0; ///< of the record, in seconds
+    double mEnd = 0.0;
+    double mTime = 0.0;
+};
+
+} // namespace ZARN

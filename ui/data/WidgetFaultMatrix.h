@@ -1,0 +1,54 @@
+#pragma once
+
+#include "profile/FaultMatrix.h"
+
+#include <QFrame>
+
+#include <array>
+
+class QLabel;
+class QTableWidget;
+class WidgetErrorItem;
+
+namespace ZARN {
+
+class CardContainer;
+class RecordData;
+class WidgetErrorTime;
+
+/// The panel of one error matrix: its title, when its bits were set over the record, and its 32 bits at the view time.
+class WidgetFaultMatrix : public QFrame {
+    Q_OBJECT
+
+public:
+    static constexpr int kBits = 32;
+
+    explicit WidgetFaultMatrix(const CardContainer& container, QWidget* pParent = nullptr);
+
+    void setData(const FaultMatrix& matrix);
+    void updateRecord(RecordData* pRecord);
+    void setTime(double time);
+    /// Shows the newest word of a live record.
+    void updateLiveData();
+
+    /// The cell of a bit, 0 the least significant.
+    [[nodiscard]] const WidgetErrorItem& item(int bit) const { return *mItems[static_cast<std::size_t>(bit)]; }
+    [[nodiscard]] const WidgetErrorTime& timeline() const { return *mpTimeline; }
+
+    /// Sees the resizing of the bit table.
+    bool eventFilter(QObject* pObject, QEvent* pEvent) override;
+
+private:
+    void createTable();
+    void showWord(uint32_t word);
+    void layoutColumns();
+
+    FaultMatrix mMatrix;
+    RecordData* mpRecord = nullptr;
+    QLabel* mpTitle;
+    WidgetErrorTime* mpTimeline;
+    QTableWidget* mpTable;
+    std::array<WidgetErrorItem*, kBits> mItems{}; ///< by bit; owned by the table
+};
+
+} // namespace ZARN

@@ -1,0 +1,180 @@
+#include "ui/data/WidgetReplayBar.h"
+
+#include "app/Numeric.h"
+#include "app/gui/ImageHandler.h"
+
+#include <QDateTime>
+#include <QDoubleSpinBox>
+#include <QLCDNumber>
+#include <QPushButton>
+#include <QSlider>
+#include <QTimeEdit>
+#include <QVBoxLayout>
+
+namespace ZARN {
+
+namespace {
+
+constexpr int kDateDigits = 19;
+constexpr int kTimeDigits = 12;
+constexpr QSize kClockSize(220, 60);
+constexpr int kEntryWidth = 120;
+constexpr int kButtonWidth = 132; // of the longest of the button's texts, so that nothing moves when it changes
+constexpr int kSliderWidth = 120;
+constexpr double kHundredths = 100.0;
+constexpr const char* kClockStyle = "QLCDNumber { background-color: white; color: rgb(195, 171, 99); border: 1px solid #b4bfca; }";
+
+QLCDNumber* createClock(const char* name, int digits, const QString& text)
+{
+    auto* pClock = new QLCDNumber(digits);
+    pClock->setObjectName(name);
+    pClock->setSegmentStyle(QLCDNumber::Flat);
+    pClock->setMinimumSize(kClockSize);
+    pClock->setAutoFillBackground(true);
+    pClock->setStyleSheet(kClockStyle);
+    pClock->display(text);
+    return pClock;
+}
+
+} // namespace
+
+WidgetReplayBar::WidgetReplayBar(bool emu, QWidget* pParent)
+    : QWidget(pParent), mpReplay(new QPushButton), mpStop(new QPushButton(tr("Replay Stop"))), mpPosition(new QSlider(Qt::Horizontal)),
+      mpTime(new QTimeEdit), mpSpeedSlider(new QSlider(Qt::Horizontal)), mpSpeed(new QDoubleSpinBox), mpUpper(new QHBoxLayout),
+      mpLower(new QHBoxLayout)
+{
+    createClocks();
+    mpReplay->setObjectName("replay");
+    mpReplay->setMinimumWidth(kButtonWidth);
+    mpStop->setObjectName("stop");
+    mpStop->setMinimumWidth(kButtonWidth);
+    mpStop->setIcon(ImageHandler::icon("replay-stop"));
+    mpPosition->setObjectName("position");
+    mpPosition->setRange(0, kPositions);
+    mpPosition->setMinimumWidth(kSliderWidth);
+    mpPosition->setToolTip(tr("Position in the record"));
+    mpTime->setObjectName("time");
+    mpTime->setDisplayFormat("hh:mm:ss");
+    mpTime->setFixedWidth(kEntryWidth);
+    mpTime->setKeyboardTracking(false); // no jump while half a time is typed
+    mpTime->setToolTip(tr("Time since the unit's power-up"));
+    createSpeed();
+    auto* pLayout = new QVBoxLayout(this);
+    pLayout->setContentsMargins(0, 0, 0, 0);
+    pLayout->addLayout(mpUpper);
+    pLayout->addLayout(mpLower);
+    arrange(false);
+    for (QWidget* pHidden : {static_cast<QWidget*>(mpTimeClock), static_cast<QWidget*>(mpPosition), static_cast<QWidget*>(mpTime)})
+        pHidden->setVisible(!emu);
+    connectControls();
+}
+
+void WidgetReplayBar::createClocks()
+{
+    mpDateClock = createClock("dateClock", kDateDigits, "--.--.---- --:--:--");
+    mpDateClock->setToolTip(tr("Date and time of the view, as the unit recorded it"));
+    mpTimeClock = createClock("timeClock", kTimeDigits, "--:--:--.---");
+    mpTimeClock->setToolTip(tr("Time since the unit's power-up"));
+}
+
+void WidgetReplayBar::createSpeed()
+{
+    mpSpeedSlider->setObjectName("speedSlider");
+    mpSpeedSlider->setRange(100, 10000);
+    mpSpeedSlider->setFixedWidth(kSliderWidth);
+    mpSpeedSlider->setToolTip(tr("Speed of the replay"));
+    mpSpeed->setObjectName("speed");
+    mpSpeed->setRange(1.0, 100.0);
+    mpSpeed->setPrefix(tr("Speed "));
+    mpSpeed->setFixedWidth(kEntryWidth);
+    mpSpeed->setKeyboardTracking(false);
+    mpSpeed->setStyleSheet("QDoubleSpinBox { padding-left: 4px; padding-right: 18px; }"); // "Speed 100.00" must fit
+}
+
+void WidgetReplayBar::connectControls()
+{
+    connect(mpReplay, &QPushButton::clicked, this, &WidgetReplayBar::signalReplay);
+    connect(mpStop, &QPushButton::clicked, this, &WidgetReplayBar::signalStop);
+    connect(mpPosition, &QSlider::valueChanged, this, &WidgetReplayBar::signalPosition);
+    connect(mpTime, &QTimeEdit::timeChanged, this, &WidgetReplayBar::signalTime);
+    connect(mpSpeedSlider, &QSlider::valueChanged, this, &WidgetReplayBar::signalSpeedSlider);
+    connect(mpSpeed, &QDoubleSpinBox::valueChanged, this, &WidgetReplayBar::signalSpeed);
+}
+
+/// One line in the order of the tasks; in two lines the clocks and the time entry stand above the replay.
+void WidgetReplayBar::arrange(bool oneLine)
+{
+    mOneLine = oneLine;
+    for (QBoxLayout* pLine : {mpUpper, mpLower}) {
+        while (QLayoutItem* pItem = pLine->takeAt(0))
+            delete pItem;
+    }
+    QBoxLayout* pLower = oneLine ? mpUpper : mpLower;
+    mpUpper->addWidget(mpDateClock);
+    mpUpper->addWidget(mpTimeClock);
+    if (!oneLine) {
+        mpUpper->addStretch();
+        mpUpper->addWidget(mpTime);
+    }
+    pLower->addWidget(mpReplay);
+    pLower->addWidget(mpStop);
+    pLower->addWidget(mpPosition, 1);
+    if (oneLine)
+        pLower->addWidget(mpTime);
+    pLower->addWidget(mpSpeedSlider);
+    pLower->addWidget(mpSpeed);
+    updateGeometry();
+}
+
+int WidgetReplayBar::widthOfLine() const
+{
+    const int spacing = mpUpper->spacing();
+    return 2 * kClockSize.width() + 2 * kButtonWidth + 2 * kSliderWidth + 2 * kEntryWidth + 8 * spacing + kSliderWidth;
+}
+
+QSize WidgetReplayBar::minimumSizeHint() const
+{
+    // That of two lines, or the bar could never become narrow enough for them.
+    const int width = 2 * kButtonWidth + 2 * kSliderWidth + kEntryWidth + 4 * mpLower->spacing();
+    return {width, QWidget::minimumSizeHint().height()};
+}
+
+void WidgetReplayBar::resizeEvent(QResizeEvent* pEvent)
+{
+    QWidget::resizeEvent(pEvent);
+    const bool oneLine = width() >= widthOfLine();
+    if (oneLine != mOneLine)
+        arrange(oneLine);
+}
+
+void WidgetReplayBar::setReplay(int state)
+{
+    mpReplay->setText(state == eRunning ? tr("Replay Pause") : state == ePaused ? tr("Replay Run") : tr("Replay Start"));
+    mpReplay->setIcon(ImageHandler::icon(state == eRunning ? "replay-pause" : "replay-start"));
+    mpStop->setEnabled(state != eStopped);
+}
+
+void WidgetReplayBar::setSpeed(double factor)
+{
+    mpSpeedSlider->setValue(saturatingCast<int>(factor * kHundredths));
+    mpSpeed->setValue(factor);
+}
+
+void WidgetReplayBar::setDateTime(const QDateTime& dateTime)
+{
+    const QString text = dateTime.isValid() ? dateTime.toString("dd.MM.yyyy hh:mm:ss") : QString();
+    mpDateClock->display(text.size() == kDateDigits ? text : QString("--.--.---- --:--:--"));
+}
+
+void WidgetReplayBar::setTime(const QTime& time)
+{
+    mpTimeClock->display(time.toString("hh:mm:ss.zzz"));
+    mpTime->setTime(time);
+}
+
+void WidgetReplayBar::setPosition(int position)
+{
+    mpPosition->setValue(position);
+}
+
+} // namespace ZARN

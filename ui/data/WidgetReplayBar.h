@@ -1,0 +1,69 @@
+#pragma once
+
+#include <QWidget>
+
+class QBoxLayout;
+class QDateTime;
+class QDoubleSpinBox;
+class QLCDNumber;
+class QPushButton;
+class QSlider;
+class QTimeEdit;
+
+namespace ZARN {
+
+/// The row of controls below the data views: two clocks, replay, position, time entry and speed. Shows what it is told and reports
+/// what the user does; its signals also come when it is told something. Breaks into two lines where one would be too wide.
+class WidgetReplayBar : public QWidget {
+    Q_OBJECT
+
+public:
+    enum EReplay { eStopped = 0, eRunning = 1, ePaused = 2 };
+    static constexpr int kPositions = 10000;
+
+    /// @param emu without time-of-day clock, position slider and time entry
+    explicit WidgetReplayBar(bool emu, QWidget* pParent = nullptr);
+
+    void setReplay(int state);
+    void setSpeed(double factor);
+    /// The wall clock; dashes for an invalid one, or one that the clock has no digits for.
+    void setDateTime(const QDateTime& dateTime);
+    /// The view time as a time of day.
+    void setTime(const QTime& time);
+    /// @param position 0 to kPositions
+    void setPosition(int position);
+
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+Q_SIGNALS:
+    void signalReplay();
+    void signalStop();
+    void signalPosition(int position);
+    void signalTime(const QTime& time);
+    void signalSpeedSlider(int hundredths);
+    void signalSpeed(double factor);
+
+protected:
+    void resizeEvent(QResizeEvent* pEvent) override;
+
+private:
+    void createClocks();
+    void createSpeed();
+    void connectControls();
+    void arrange(bool oneLine);
+    [[nodiscard]] int widthOfLine() const;
+
+    QLCDNumber* mpDateClock;
+    QLCDNumber* mpTimeClock;
+    QPushButton* mpReplay;
+    QPushButton* mpStop;
+    QSlider* mpPosition;
+    QTimeEdit* mpTime;
+    QSlider* mpSpeedSlider;
+    QDoubleSpinBox* mpSpeed;
+    QBoxLayout* mpUpper;
+    QBoxLayout* mpLower;
+    bool mOneLine = false;
+};
+
+} // namespace ZARN

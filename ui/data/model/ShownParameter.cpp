@@ -1,0 +1,67 @@
+#include "ui/data/model/ShownParameter.h"
+
+namespace ZARN {
+
+namespace {
+
+constexpr std::size_t kMaxThresholdLines = 20; // a profile may list any number
+
+QString escaped(const std::string& text)
+{
+    return QString::fromStdString(text).toHtmlEscaped();
+}
+
+} // namespace
+
+std::vector<ShownParameter> ShownParameter::all(const Profile& profile)
+{
+    std::vector<ShownParameter> shown;
+    for (const ProfileDevice& device : profile.data()) {
+        for (const ProfileParameter& parameter : device.parameters) {
+            if (profile.isSelected(parameter.name))
+                shown.emplace_back(profile, parameter);
+        }
+    }
+    return shown;
+}
+
+QString ShownParameter::label() const
+{
+    const QString name = QString::fromStdString(mParameter.name);
+    return mParameter.unit.empty() ? name : name + " [" + QString::fromStdString(mParameter.unit) + "]";
+}
+
+QString ShownParameter::stateName(int state)
+{
+    return state == eThresholdWarning ? tr("Warning") : state == eThresholdLimit ? tr("Limit") : QString();
+}
+
+QString ShownParameter::toolTip() const
+{
+    QString text = "<qt><b>" + escaped(mParameter.path) + "</b><br/>";
+    text += tr("CAN identifier: %1").arg(mParameter.identifier());
+    if (!mParameter.unit.empty())
+        text += "<br/>" + tr("Unit:") + " " + escaped(mParameter.unit);
+    return text + thresholdLines() + "</qt>";
+}
+
+QString ShownParameter::thresholdLines() const
+{
+    const ThresholdList* pList = mDecoder.textThresholds();
+    if (!pList || pList->empty())
+        return {};
+    QString lines = "<br/>" + tr("Thresholds:");
+    for (std::size_t i = 0; i < pList->size(); ++i) {
+        if (i == kMaxThresholdLines)
+            return lines + "<br/>&nbsp;&nbsp;" + tr("and %n more", nullptr, static_cast<int>(pList->size() - i));
+        const Threshold& threshold = (*pList)[i];
+        std::string value;
+        mDecoder.appendText(threshold.value, value);
+        const QString state = stateName(threshold.state);
+        lines += "<br/>&nbsp;&nbsp;" + tr("from") + " " + escaped(value) + " " + escaped(mParameter.unit) + ": ";
+        lines += state.isEmpty() ? tr("Normal") : state;
+    }
+    return lines;
+}
+
+} // namespace ZARN

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "profile/Profile.h"
+
+#include <QCoreApplication>
+#include <QString>
+
+#include <vector>
+
+namespace ZARN {
+
+/// A parameter that the user chose to see, as the data table shows it. Its decoder refers to the profile's lists: valid until the
+/// next load of the profile.
+class ShownParameter {
+    Q_DECLARE_TR_FUNCTIONS(ZARN::ShownParameter)
+
+public:
+    ShownParameter(const Profile& profile, const ProfileParameter& parameter) : mParameter(parameter), mDecoder(profile.decoder(parameter)) {}
+
+    /// The shown parameters of a profile, in its order.
+    [[nodiscard]] static std::vector<ShownParameter> all(const Profile& profile);
+
+    [[nodiscard]] uint32_t identifier() const { return mParameter.identifier(); }
+    [[nodiscard]] bool isPosition() const { return mParameter.isPosition(); }
+    [[nodiscard]] const ValueDecoder& decoder() const { return mDecoder; }
+    /// Name and unit: "Name [unit]", or the name alone.
+    [[nodiscard]] QString label() const;
+    /// Path, identifier, unit and thresholds, as rich text with what the profile says in it escaped.
+    [[nodiscard]] QString toolTip() const;
+    /// What a threshold state is called; empty for the normal one.
+    [[nodiscard]] static QString stateName(int state);
+
+private:
+    [[nodiscard]] QString thresholdLines() const;
+
+    ProfileParameter mParameter;
+    ValueDecoder mDecoder;
+};
+
+} // namespace ZARN
