@@ -299,7 +299,7 @@ void TestGraphModel::labels()
     const AxisTicks ticks(-0.25, 0.25, 500, 60);
     for (const AxisTick& tick : ticks.ticks())
         QVERIFY(!tick.isMajor || std::abs(ticks.valueLabel(tick.value).toDouble() - tick.value) < 1e-9);
-    QCOMPARE(ticks.valueLabel(-0.0), "0.00");
+    QCOMPARE(ticks.valueLabel(-0.0), "0.0");
     QVERIFY(AxisTicks(1e15, 1e15 + 1e-3, 600, 100).ticks().size() < 1001);
     QVERIFY(AxisTicks(0, INFINITY, 600, 100).ticks().empty());
 }

@@ -35,7 +35,7 @@ int longestUnit(const GraphModel& model)
 } // namespace
 
 GraphLayout::GraphLayout(const GraphModel& model, const QSizeF& size, double textSize)
-    : mTextSize(textSize), mLine(canvasTextSize(QStringLiteral("0"), textSize, true).height() + 2), mCharacter(canvasAdvance(textSize)),
+    : mWidth(size.width()), mTextSize(textSize), mLine(canvasTextSize(QStringLiteral("0"), textSize, true).height() + 2), mCharacter(canvasAdvance(textSize)),
       mNameLength(longestName(model)), mXmin(model.xmin())
 {
     const double top = mLine + kGap;

@@ -15,6 +15,7 @@ public:
     GraphLayout() = default;
     GraphLayout(const GraphModel& model, const QSizeF& size, double textSize);
 
+    [[nodiscard]] double width() const { return mWidth; } ///< of the whole view
     [[nodiscard]] const QRectF& plot() const { return mPlot; }
     [[nodiscard]] const QRectF& legend() const { return mLegendRect; } ///< right of the plot; empty without one
     [[nodiscard]] const QRectF& table() const { return mTable; }       ///< of the marker's values below the plot; empty without one
@@ -53,6 +54,7 @@ private:
     void placeLegend(const GraphModel& model, double width);
     [[nodiscard]] double axisWidth(const GraphModel& model, double height) const;
 
+    double mWidth = 0.0;
     QRectF mPlot;
     QRectF mLegendRect;
     QRectF mTable;

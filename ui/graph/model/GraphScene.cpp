@@ -122,8 +122,10 @@ void GraphScene::drawTimeAxis(Canvas& canvas) const
         const double x = std::floor(mLayout.xOf(tick.value));
         if (mModel.isGridOn())
             (tick.isMajor ? major : fine).insert((tick.isMajor ? major : fine).end(), {QPointF(x, plot.top()), QPointF(x, plot.bottom() - 1)});
-        if (tick.isMajor)
-            drawLabel(canvas, QPointF(x, plot.bottom() + 5), ticks.timeLabel(tick.value), Qt::AlignHCenter | Qt::AlignTop);
+        const QString text = ticks.timeLabel(tick.value);
+        const double half = static_cast<double>(text.size()) * mLayout.character() / 2 + 2;
+        if (tick.isMajor && x - half >= 0 && x + half <= mLayout.width())
+            drawLabel(canvas, QPointF(x, plot.bottom() + 5), text, Qt::AlignHCenter | Qt::AlignTop);
     }
     const QColor colour = mModel.colours().grid.colour();
     canvas.lines(fine, {faint(colour, kFineAlpha)});
