@@ -22,6 +22,18 @@
         <source>ZARN Help</source>
         <translation>ZARN Hilfe</translation>
     </message>
+    <message>
+        <source>Chapters</source>
+        <translation>Kapitel</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Search the text; Return for the next place</source>
+        <translation>Text suchen; Eingabetaste für die nächste Stelle</translation>
+    </message>
 </context>
 <context>
     <name>DialogProfileInfo</name>
@@ -84,6 +96,13 @@
     <message>
         <source>Ok</source>
         <translation>Ok</translation>
+    </message>
+</context>
+<context>
+    <name>WidgetGraphBase</name>
+    <message>
+        <source>Graph of the selected parameters</source>
+        <translation>Graph der gewählten Parameter</translation>
     </message>
 </context>
 <context>
@@ -177,6 +196,24 @@
     </message>
 </context>
 <context>
+    <name>ZARN::ColourButton</name>
+    <message>
+        <source>%1, opacity %2 %</source>
+        <translation>%1, Deckkraft %2 %</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::DataTableModel</name>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Time since the unit&apos;s power-up</source>
+        <translation>Zeit seit dem Einschalten des Geräts</translation>
+    </message>
+</context>
+<context>
     <name>ZARN::DialogCard</name>
     <message>
         <source>Power cycles and flights</source>
@@ -201,6 +238,510 @@
     <message>
         <source>Raw Data</source>
         <translation>Rohdaten</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::DialogData</name>
+    <message>
+        <source>Data</source>
+        <translation>Daten</translation>
+    </message>
+    <message>
+        <source>Graph</source>
+        <translation>Graph</translation>
+    </message>
+    <message>
+        <source>Fault Matrix</source>
+        <translation>Fehlermatrix</translation>
+    </message>
+    <message>
+        <source>Limit/Warning</source>
+        <translation>Grenzwert/Warnung</translation>
+    </message>
+    <message>
+        <source>Warning Lamps</source>
+        <translation>Warnlampen</translation>
+    </message>
+    <message>
+        <source>Tow Statistic</source>
+        <translation>Schleppstatistik</translation>
+    </message>
+    <message>
+        <source>Hide Map Display</source>
+        <translation>Karte ausblenden</translation>
+    </message>
+    <message>
+        <source>Tile Map Display Horizontally</source>
+        <translation>Karte daneben anordnen</translation>
+    </message>
+    <message>
+        <source>Tile Map Display Vertically</source>
+        <translation>Karte darunter anordnen</translation>
+    </message>
+    <message>
+        <source>No events</source>
+        <translation>Keine Ereignisse</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n event(s)</source>
+        <translation>
+            <numerusform>%n Ereignis</numerusform>
+            <numerusform>%n Ereignisse</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::DialogDataErrorMatrix</name>
+    <message>
+        <source>The profile declares no error matrix.</source>
+        <translation>Das Profil enthält keine Fehlermatrix.</translation>
+    </message>
+    <message>
+        <source>Only the first %1 of %2 error matrices of the profile are shown.</source>
+        <translation>Nur die ersten %1 von %2 Fehlermatrizen des Profils werden gezeigt.</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::DialogDataEvents</name>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Only the first %1 of %2 events are listed.</source>
+        <translation>Nur die ersten %1 von %2 Ereignissen sind aufgeführt.</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::DialogDataGraph</name>
+    <message>
+        <source>No record is loaded.
+Open a card folder and choose a power cycle or a flight.</source>
+        <translation>Keine Aufzeichnung geladen.
+Einen Kartenordner öffnen und einen Einschaltzyklus oder Flug wählen.</translation>
+    </message>
+    <message>
+        <source>No parameter is selected.
+Tick the parameters to show in the profile panel.</source>
+        <translation>Kein Parameter gewählt.
+Im Profilfeld die gewünschten Parameter ankreuzen.</translation>
+    </message>
+    <message>
+        <source>Save Snapshot</source>
+        <translation>Bild speichern</translation>
+    </message>
+    <message>
+        <source>BMP File (*.bmp);;All Files (*.*)</source>
+        <translation>BMP-Datei (*.bmp);;Alle Dateien (*.*)</translation>
+    </message>
+    <message>
+        <source>ZARN Warning</source>
+        <translation>ZARN Warnung</translation>
+    </message>
+    <message>
+        <source>The snapshot could not be saved.
+%1</source>
+        <translation>Das Bild konnte nicht gespeichert werden.
+%1</translation>
+    </message>
+    <message>
+        <source>Copy Values</source>
+        <translation>Werte kopieren</translation>
+    </message>
+    <message>
+        <source>Copy Picture</source>
+        <translation>Bild kopieren</translation>
+    </message>
+    <message>
+        <source>Snapshot...</source>
+        <translation>Bild speichern...</translation>
+    </message>
+    <message>
+        <source>Zoom Marker</source>
+        <translation>Auf Marke zoomen</translation>
+    </message>
+    <message>
+        <source>Zoom 1:1</source>
+        <translation>Zoom 1:1</translation>
+    </message>
+    <message>
+        <source>Setup...</source>
+        <translation>Einrichten...</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::DialogDataLimit</name>
+    <message>
+        <source>Warning/Limit Exceed</source>
+        <translation>Warnung/Grenzwert überschritten</translation>
+    </message>
+    <message>
+        <source>No parameter entered a warning or limit band.</source>
+        <translation>Kein Parameter hat einen Warn- oder Grenzbereich erreicht.</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::DialogDataMap</name>
+    <message>
+        <source>Show the whole flight</source>
+        <translation>Ganzen Flug zeigen</translation>
+    </message>
+    <message>
+        <source>Load map tiles from %1</source>
+        <translation>Kartenkacheln von %1 laden</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::DialogDataStatistic</name>
+    <message>
+        <source>&lt;br&gt;&lt;br&gt;&lt;b&gt;No flight selected&lt;/b&gt;</source>
+        <translation>&lt;br&gt;&lt;br&gt;&lt;b&gt;Kein Flug gewählt&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>Flight Time</source>
+        <translation>Flugzeit</translation>
+    </message>
+    <message>
+        <source>Total Fuel Lane A</source>
+        <translation>Kraftstoff Lane A</translation>
+    </message>
+    <message>
+        <source>Total Fuel Lane B</source>
+        <translation>Kraftstoff Lane B</translation>
+    </message>
+    <message>
+        <source>Total Fuel</source>
+        <translation>Kraftstoff gesamt</translation>
+    </message>
+    <message>
+        <source>Minimum Alt</source>
+        <translation>Kleinste Höhe</translation>
+    </message>
+    <message>
+        <source>Maximum Alt</source>
+        <translation>Größte Höhe</translation>
+    </message>
+    <message>
+        <source>Total Climb</source>
+        <translation>Steighöhe gesamt</translation>
+    </message>
+    <message>
+        <source>Average Climb Rate</source>
+        <translation>Mittleres Steigen</translation>
+    </message>
+    <message>
+        <source>Average Descend Rate</source>
+        <translation>Mittleres Sinken</translation>
+    </message>
+    <message>
+        <source>Max Ground Speed</source>
+        <translation>Größte Geschw. über Grund</translation>
+    </message>
+    <message>
+        <source>Time / 100m</source>
+        <translation>Zeit / 100m</translation>
+    </message>
+    <message>
+        <source>Fuel / 100m</source>
+        <translation>Kraftstoff / 100m</translation>
+    </message>
+    <message>
+        <source>Take Off Distance</source>
+        <translation>Startrollstrecke</translation>
+    </message>
+    <message>
+        <source>Take Off Distance 15m</source>
+        <translation>Startstrecke 15m</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::DialogDataTable</name>
+    <message>
+        <source>No parameters are shown. Tick the ones to see in the profile panel.</source>
+        <translation>Es werden keine Parameter gezeigt. Im Profilfeld die gewünschten ankreuzen.</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::DialogDataWarning</name>
+    <message>
+        <source>WarningLamp</source>
+        <translation>Warnlampe</translation>
+    </message>
+    <message>
+        <source>No warning lamp lit up.</source>
+        <translation>Keine Warnlampe leuchtete.</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::DialogExportCsv</name>
+    <message>
+        <source>CSV Export</source>
+        <translation>CSV-Export</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::DialogExportCsvOptions</name>
+    <message>
+        <source>Semikolon ;</source>
+        <translation>Semikolon ;</translation>
+    </message>
+    <message>
+        <source>Comma ,</source>
+        <translation>Komma ,</translation>
+    </message>
+    <message>
+        <source>Tabstop</source>
+        <translation>Tabulator</translation>
+    </message>
+    <message>
+        <source>100 ms</source>
+        <translation>100 ms</translation>
+    </message>
+    <message>
+        <source>10 ms</source>
+        <translation>10 ms</translation>
+    </message>
+    <message>
+        <source>All Parameter</source>
+        <translation>Alle Parameter</translation>
+    </message>
+    <message>
+        <source>Selected Parameter only</source>
+        <translation>Nur gewählte Parameter</translation>
+    </message>
+    <message>
+        <source>Select CSV Option</source>
+        <translation>CSV-Optionen wählen</translation>
+    </message>
+    <message>
+        <source>Limiter</source>
+        <translation>Trennzeichen</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Auflösung</translation>
+    </message>
+    <message>
+        <source>Parameter Selection</source>
+        <translation>Parameterauswahl</translation>
+    </message>
+    <message>
+        <source>No data is loaded: the file will hold its header line alone. Choose a power cycle in the card browser first.</source>
+        <translation>Keine Daten geladen: Die Datei wird nur die Kopfzeile enthalten. Zuerst im Kartenfeld einen Einschaltzyklus wählen.</translation>
+    </message>
+    <message>
+        <source>No parameter is ticked in the profile panel: the file will hold no values.</source>
+        <translation>Im Profilfeld ist kein Parameter angekreuzt: Die Datei wird keine Werte enthalten.</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::DialogExportCsvPath</name>
+    <message>
+        <source>Save CSV Export</source>
+        <translation>CSV-Export speichern</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::DialogExportKml</name>
+    <message>
+        <source>KML Export</source>
+        <translation>KML-Export</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::DialogExportKmlOptions</name>
+    <message>
+        <source>Select Line Color</source>
+        <translation>Linienfarbe wählen</translation>
+    </message>
+    <message>
+        <source>Draw Polygon</source>
+        <translation>Fläche zeichnen</translation>
+    </message>
+    <message>
+        <source>Select Polygon Color</source>
+        <translation>Flächenfarbe wählen</translation>
+    </message>
+    <message>
+        <source>Select KML Option</source>
+        <translation>KML-Optionen wählen</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source>Line Style</source>
+        <translation>Linienart</translation>
+    </message>
+    <message>
+        <source>Line width</source>
+        <translation>Linienbreite</translation>
+    </message>
+    <message>
+        <source>Line color</source>
+        <translation>Linienfarbe</translation>
+    </message>
+    <message>
+        <source>Polygon color</source>
+        <translation>Flächenfarbe</translation>
+    </message>
+    <message>
+        <source>Timestamp every :</source>
+        <translation>Zeitstempel alle :</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::DialogExportKmlPath</name>
+    <message>
+        <source>Save KML Export</source>
+        <translation>KML-Export speichern</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::DialogExportKmlPlacemark</name>
+    <message>
+        <source>Draw selected parameters as placemarks</source>
+        <translation>Gewählte Parameter als Ortsmarken zeichnen</translation>
+    </message>
+    <message>
+        <source>Select Placemark Color</source>
+        <translation>Farbe der Ortsmarken wählen</translation>
+    </message>
+    <message>
+        <source>Show Limit exceedance / Warning Lamps</source>
+        <translation>Grenzwertüberschreitungen / Warnlampen zeigen</translation>
+    </message>
+    <message>
+        <source>Limit Exceedance</source>
+        <translation>Grenzwertüberschreitung</translation>
+    </message>
+    <message>
+        <source>Warning Lamps</source>
+        <translation>Warnlampen</translation>
+    </message>
+    <message>
+        <source>Select Exceedance Color</source>
+        <translation>Farbe der Überschreitungen wählen</translation>
+    </message>
+    <message>
+        <source>Select KML Placemarks</source>
+        <translation>KML-Ortsmarken wählen</translation>
+    </message>
+    <message>
+        <source> samples</source>
+        <translation> Werte</translation>
+    </message>
+    <message>
+        <source>Placemark every</source>
+        <translation>Ortsmarke alle</translation>
+    </message>
+    <message>
+        <source>Placemark Color</source>
+        <translation>Farbe der Ortsmarken</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Zeigen</translation>
+    </message>
+    <message>
+        <source>Exceedance Placemark Color</source>
+        <translation>Farbe der Überschreitungsmarken</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::DialogGraphSetup</name>
+    <message>
+        <source>Oscilloscope Setup</source>
+        <translation>Oszilloskop einrichten</translation>
+    </message>
+    <message>
+        <source>Background Color :</source>
+        <translation>Hintergrundfarbe :</translation>
+    </message>
+    <message>
+        <source>Grid On/Color :</source>
+        <translation>Gitter Ein/Farbe :</translation>
+    </message>
+    <message>
+        <source>Label Color :</source>
+        <translation>Schriftfarbe :</translation>
+    </message>
+    <message>
+        <source>Label Background :</source>
+        <translation>Schrifthintergrund :</translation>
+    </message>
+    <message>
+        <source>Cursor On/Mode :</source>
+        <translation>Cursor Ein/Modus :</translation>
+    </message>
+    <message>
+        <source>Legend :</source>
+        <translation>Legende :</translation>
+    </message>
+    <message>
+        <source>Y-Scale :</source>
+        <translation>Y-Skala :</translation>
+    </message>
+    <message>
+        <source>Background color</source>
+        <translation>Hintergrundfarbe</translation>
+    </message>
+    <message>
+        <source>Grid On</source>
+        <translation>Gitter ein</translation>
+    </message>
+    <message>
+        <source>Grid color</source>
+        <translation>Gitterfarbe</translation>
+    </message>
+    <message>
+        <source>Label color</source>
+        <translation>Schriftfarbe</translation>
+    </message>
+    <message>
+        <source>Label background color</source>
+        <translation>Farbe des Schrifthintergrunds</translation>
+    </message>
+    <message>
+        <source>Cursor On</source>
+        <translation>Cursor ein</translation>
+    </message>
+    <message>
+        <source>Floating</source>
+        <translation>Frei</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation>Mitte</translation>
+    </message>
+    <message>
+        <source>Cursor mode</source>
+        <translation>Cursormodus</translation>
+    </message>
+    <message>
+        <source>Legend On</source>
+        <translation>Legende ein</translation>
+    </message>
+    <message>
+        <source>Autoscale On</source>
+        <translation>Automatische Skala ein</translation>
+    </message>
+    <message>
+        <source>Least value of the scale</source>
+        <translation>Kleinster Wert der Skala</translation>
+    </message>
+    <message>
+        <source>Greatest value of the scale</source>
+        <translation>Größter Wert der Skala</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Wählen</translation>
     </message>
 </context>
 <context>
@@ -345,6 +886,14 @@
         <source>Export CSV File</source>
         <translation>CSV-Datei exportieren</translation>
     </message>
+    <message>
+        <source>Export GPX File</source>
+        <translation>GPX-Datei exportieren</translation>
+    </message>
+    <message>
+        <source>Export Flight Path as GPX File</source>
+        <translation>Flugweg als GPX-Datei exportieren</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::DialogPreferences</name>
@@ -459,14 +1008,6 @@
 <context>
     <name>ZARN::ExportController</name>
     <message>
-        <source>Save KML Export</source>
-        <translation>KML-Export speichern</translation>
-    </message>
-    <message>
-        <source>KML Files (*.kml)</source>
-        <translation>KML-Dateien (*.kml)</translation>
-    </message>
-    <message>
         <source>ZARN Warning</source>
         <translation>ZARN Warnung</translation>
     </message>
@@ -475,20 +1016,176 @@
         <translation>Export der KML-Datei fehlgeschlagen !</translation>
     </message>
     <message>
-        <source>Save CSV Export</source>
-        <translation>CSV-Export speichern</translation>
-    </message>
-    <message>
-        <source>CSV Files (*.csv)</source>
-        <translation>CSV-Dateien (*.csv)</translation>
-    </message>
-    <message>
         <source>ZARN Viewer Warning</source>
         <translation>ZARN Viewer Warnung</translation>
     </message>
     <message>
         <source>Exporting CSV file failed !</source>
         <translation>Export der CSV-Datei fehlgeschlagen !</translation>
+    </message>
+    <message>
+        <source>Save GPX Export</source>
+        <translation>GPX-Export speichern</translation>
+    </message>
+    <message>
+        <source>GPX Files (*.gpx)</source>
+        <translation>GPX-Dateien (*.gpx)</translation>
+    </message>
+    <message>
+        <source>Exporting GPX file failed !</source>
+        <translation>Export der GPX-Datei fehlgeschlagen !</translation>
+    </message>
+    <message>
+        <source>Writing %1 ...</source>
+        <translation>%1 wird geschrieben ...</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::ExportPathPage</name>
+    <message>
+        <source>Select the output directory and file</source>
+        <translation>Zielordner und Datei wählen</translation>
+    </message>
+    <message>
+        <source>Choose ...</source>
+        <translation>Wählen ...</translation>
+    </message>
+    <message>
+        <source>Export Path</source>
+        <translation>Zielordner</translation>
+    </message>
+    <message>
+        <source>Export Filename</source>
+        <translation>Dateiname</translation>
+    </message>
+    <message>
+        <source>ZARN Warning</source>
+        <translation>ZARN Warnung</translation>
+    </message>
+    <message>
+        <source>%1 exists already.
+Replace it ?</source>
+        <translation>%1 ist schon vorhanden.
+Ersetzen ?</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::ExportProgress</name>
+    <message>
+        <source>ZARN Info</source>
+        <translation>ZARN Info</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::ExportTarget</name>
+    <message>
+        <source>The folder %1 does not exist.</source>
+        <translation>Der Ordner %1 ist nicht vorhanden.</translation>
+    </message>
+    <message>
+        <source>%1 is no folder.</source>
+        <translation>%1 ist kein Ordner.</translation>
+    </message>
+    <message>
+        <source>A file name cannot hold a &quot;/&quot;.</source>
+        <translation>Ein Dateiname kann kein „/“ enthalten.</translation>
+    </message>
+    <message>
+        <source>%1 is a folder, not a file.</source>
+        <translation>%1 ist ein Ordner, keine Datei.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written.</source>
+        <translation>%1 kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Nothing can be written to the folder %1: %2</source>
+        <translation>In den Ordner %1 kann nichts geschrieben werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::GraphButtons</name>
+    <message>
+        <source>Zoom In</source>
+        <translation>Vergrößern</translation>
+    </message>
+    <message>
+        <source>Zoom Out</source>
+        <translation>Verkleinern</translation>
+    </message>
+    <message>
+        <source>Zoom 1:1</source>
+        <translation>Zoom 1:1</translation>
+    </message>
+    <message>
+        <source>Zoom Marker</source>
+        <translation>Auf Marke zoomen</translation>
+    </message>
+    <message>
+        <source>Clear All</source>
+        <translation>Alles löschen</translation>
+    </message>
+    <message>
+        <source>Automatic Mode</source>
+        <translation>Automatikmodus</translation>
+    </message>
+    <message>
+        <source>Split Mode</source>
+        <translation>Geteilter Modus</translation>
+    </message>
+    <message>
+        <source>Single Graph Mode</source>
+        <translation>Einzelgraph</translation>
+    </message>
+    <message>
+        <source>Reset all to default</source>
+        <translation>Alles auf Standard zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Setup</source>
+        <translation>Einrichten</translation>
+    </message>
+    <message>
+        <source>Snapshot</source>
+        <translation>Bild speichern</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>Auto</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::GraphSnapshot</name>
+    <message>
+        <source>Graph</source>
+        <translation>Graph</translation>
+    </message>
+    <message>
+        <source>Pictures of the format &quot;%1&quot; cannot be written</source>
+        <translation>Bilder im Format „%1“ können nicht geschrieben werden</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::GraphTables</name>
+    <message>
+        <source>%1 more</source>
+        <translation>%1 weitere</translation>
+    </message>
+    <message>
+        <source>Cursor</source>
+        <translation>Cursor</translation>
+    </message>
+    <message>
+        <source>Min</source>
+        <translation>Min</translation>
+    </message>
+    <message>
+        <source>Max</source>
+        <translation>Max</translation>
+    </message>
+    <message>
+        <source>%1 more: see Copy Values</source>
+        <translation>%1 weitere: siehe „Werte kopieren“</translation>
     </message>
 </context>
 <context>
@@ -500,6 +1197,75 @@
     <message>
         <source>OpenGL 3.3 is needed, here is %1.%2: graph and map cannot be drawn</source>
         <translation>OpenGL 3.3 wird gebraucht, hier ist %1.%2: Graph und Karte können nicht gezeichnet werden</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::MapConsentBar</name>
+    <message>
+        <source>Load map tiles</source>
+        <translation>Karte laden</translation>
+    </message>
+    <message>
+        <source>Stay offline</source>
+        <translation>Offline bleiben</translation>
+    </message>
+    <message>
+        <source>Load detailed map tiles from %1? The server then learns which area is looked at. The answer can be changed in the map&apos;s menu.</source>
+        <translation>Genaue Kartenkacheln von %1 laden? Der Server erfährt dann, welches Gebiet betrachtet wird. Die Antwort lässt sich im Menü der Karte ändern.</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::MapToolPanel</name>
+    <message>
+        <source>Center AC</source>
+        <translation>Flugzeug zentrieren</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::MarkerValues</name>
+    <message>
+        <source>From</source>
+        <translation>Von</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Bis</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Differenz</translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>Minimum</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>Maximum</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>Mittelwert</translation>
+    </message>
+    <message>
+        <source>Integral</source>
+        <translation>Integral</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+    <message>
+        <source>Unit of integral</source>
+        <translation>Einheit des Integrals</translation>
     </message>
 </context>
 <context>
@@ -566,86 +1332,109 @@ Jetzt speichern ?</translation>
     </message>
 </context>
 <context>
-    <name>ZARN::WidgetCycleSummary</name>
+    <name>ZARN::ShownParameter</name>
     <message>
-        <source>Lowest altitude</source>
-        <translation>Geringste Höhe</translation>
+        <source>Warning</source>
+        <translation>Warnung</translation>
     </message>
     <message>
-        <source>Highest altitude</source>
-        <translation>Größte Höhe</translation>
+        <source>Limit</source>
+        <translation>Grenzwert</translation>
     </message>
     <message>
-        <source>Total climb</source>
-        <translation>Steigen gesamt</translation>
+        <source>CAN identifier: %1</source>
+        <translation>CAN-Kennung: %1</translation>
     </message>
     <message>
-        <source>Average climb rate</source>
-        <translation>Mittlere Steigrate</translation>
+        <source>Unit:</source>
+        <translation>Einheit:</translation>
     </message>
     <message>
-        <source>Average descent rate</source>
-        <translation>Mittlere Sinkrate</translation>
+        <source>Thresholds:</source>
+        <translation>Schwellen:</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>und %n weitere</numerusform>
+            <numerusform>und %n weitere</numerusform>
+        </translation>
     </message>
     <message>
-        <source>Highest ground speed</source>
-        <translation>Höchste Geschw. über Grund</translation>
+        <source>from</source>
+        <translation>ab</translation>
     </message>
     <message>
-        <source>Take-off distance</source>
-        <translation>Startstrecke</translation>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::TableCopy</name>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
     </message>
     <message>
-        <source>Take-off distance over 15 m</source>
-        <translation>Startstrecke über 15 m</translation>
+        <source>Copy with Column Titles</source>
+        <translation>Mit Spaltentiteln kopieren</translation>
     </message>
     <message>
-        <source>Fuel, lane A</source>
-        <translation>Kraftstoff, Lane A</translation>
+        <source>That is too much for the clipboard: %1 cells. Select fewer rows, or export a CSV file.</source>
+        <translation>Das ist zu viel für die Zwischenablage: %1 Zellen. Weniger Zeilen wählen oder als CSV-Datei exportieren.</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::WidgetErrorTime</name>
+    <message>
+        <source>Bits that were set over time. From top to bottom: Info, Warning, Fault</source>
+        <translation>Über die Zeit gesetzte Bits. Von oben nach unten: Info, Warnung, Fehler</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::WidgetMap</name>
+    <message>
+        <source>The setting &quot;TileServer&quot; is no address of map tiles</source>
+        <translation>Die Einstellung „TileServer“ ist keine Adresse für Kartenkacheln</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::WidgetReplayBar</name>
+    <message>
+        <source>Replay Stop</source>
+        <translation>Wiedergabe Stopp</translation>
     </message>
     <message>
-        <source>Fuel, lane B</source>
-        <translation>Kraftstoff, Lane B</translation>
+        <source>Position in the record</source>
+        <translation>Stelle in der Aufzeichnung</translation>
     </message>
     <message>
-        <source>Fuel, total</source>
-        <translation>Kraftstoff gesamt</translation>
+        <source>Time since the unit&apos;s power-up</source>
+        <translation>Zeit seit dem Einschalten des Geräts</translation>
     </message>
     <message>
-        <source>Record files</source>
-        <translation>Aufzeichnungsdateien</translation>
+        <source>Date and time of the view, as the unit recorded it</source>
+        <translation>Datum und Uhrzeit der Ansicht, wie vom Gerät aufgezeichnet</translation>
     </message>
     <message>
-        <source>Cycle without a start</source>
-        <translation>Zyklus ohne Anfang</translation>
+        <source>Speed of the replay</source>
+        <translation>Tempo der Wiedergabe</translation>
     </message>
     <message>
-        <source>Unknown Date</source>
-        <translation>Unbekanntes Datum</translation>
+        <source>Speed </source>
+        <translation>Tempo </translation>
     </message>
     <message>
-        <source>Duration %1</source>
-        <translation>Dauer %1</translation>
+        <source>Replay Pause</source>
+        <translation>Wiedergabe Pause</translation>
     </message>
     <message>
-        <source>Take-off</source>
-        <translation>Start</translation>
+        <source>Replay Run</source>
+        <translation>Wiedergabe Weiter</translation>
     </message>
     <message>
-        <source>Landing</source>
-        <translation>Landung</translation>
-    </message>
-    <message>
-        <source>Flight %1</source>
-        <translation>Flug %1</translation>
-    </message>
-    <message>
-        <source>Records: %1</source>
-        <translation>Datensätze: %1</translation>
-    </message>
-    <message>
-        <source>Flights: %1</source>
-        <translation>Flüge: %1</translation>
+        <source>Replay Start</source>
+        <translation>Wiedergabe Start</translation>
     </message>
 </context>
 <context>
