@@ -24,9 +24,14 @@ std::filesystem::path executable()
 
 } // namespace
 
+std::string resourceFolder()
+{
+    return (executable().parent_path().parent_path() / "Resources").string();
+}
+
 std::string shippedProfile(const std::string& name)
 {
-    return (executable().parent_path().parent_path() / "Resources" / "profiles" / name / "Profile.xml").string();
+    return resourceFolder() + "/profiles/" + name + "/Profile.xml";
 }
 
 } // namespace ZARN

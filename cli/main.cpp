@@ -8,6 +8,7 @@
 #include "cli/CommandKml.h"
 #include "cli/CommandPath.h"
 #include "cli/CommandProfile.h"
+#include "cli/CommandReport.h"
 #include "cli/CommandSimulate.h"
 #include "cli/CommandSummary.h"
 #include "cli/CommandValue.h"
@@ -36,7 +37,7 @@ int runProgram(int argc, char** argv)
     program.set_version_flag("--version", Revision::getRevisionString());
     program.footer("Example: zarn-cli csv /media/card -o flight.csv");
     const auto commands = makeCommands<CommandInfo, CommandFlights, CommandEvents, CommandFaults, CommandPath, CommandValue, CommandCsv,
-                                       CommandKml, CommandGpx, CommandSummary, CommandProfile, CommandSimulate>(program);
+                                       CommandKml, CommandGpx, CommandReport, CommandSummary, CommandProfile, CommandSimulate>(program);
     if (argc < 2) {
         std::fputs(program.help().c_str(), stderr);
         return eWrongCall;

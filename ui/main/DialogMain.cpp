@@ -180,6 +180,7 @@ void DialogMain::addMorePaths()
     auto* pButton = qobject_cast<QToolButton*>(mpToolBar->widgetForAction(action(eActionExportKml)));
     auto* pMenu = new QMenu(pButton);
     pMenu->addAction(action(eActionExportGpx));
+    pMenu->addAction(action(eActionReport));
     pButton->setMenu(pMenu);
     pButton->setPopupMode(QToolButton::MenuButtonPopup);
 }

@@ -63,6 +63,9 @@ void DialogMain::slotMenu(QAction* pAction)
     case eActionExportGpx:
         mpExportController->exportGpx();
         break;
+    case eActionReport:
+        mpExportController->writeReport();
+        break;
     default:
         showInformation(id);
     }

@@ -8,11 +8,13 @@
 #include "export/ui/DialogExportCsv.h"
 #include "export/ui/DialogExportKml.h"
 #include "export/ui/ExportProgress.h"
+#include "report/FlightReport.h"
 #include "ui/main/CardController.h"
 
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLocale>
 #include <QMessageBox>
 
 namespace ZARN {
@@ -48,13 +50,9 @@ void ExportController::exportCsv()
 
 void ExportController::exportGpx()
 {
-    const QString folder = QString::fromStdString(mSession.property.getString("GpxExportDir", "."));
-    const QString path = QFileDialog::getSaveFileName(mpWindow, tr("Save GPX Export"), folder + "/" + mSession.container.name() + ".gpx",
-                                                      tr("GPX Files (*.gpx)"), nullptr, QFileDialog::DontUseNativeDialog);
+    const QString path = askFile("GpxExportDir", tr("Save GPX Export"), mSession.container.name() + ".gpx", tr("GPX Files (*.gpx)"));
     if (path.isEmpty())
         return;
-    mSession.property.setString("GpxExportDir", QFileInfo(path).absolutePath().toStdString());
-    mSession.property.writeXmlFile();
     ExportGpx exporter(mSession.profile);
     const auto work = [&](Progress& progress) {
         SafeFile file(QFile::encodeName(path).toStdString());
@@ -62,6 +60,32 @@ void ExportController::exportGpx()
     };
     if (!run(path, work))
         fail(tr("ZARN Warning"), tr("Exporting GPX file failed !"), exporter.error());
+}
+
+void ExportController::writeReport()
+{
+    const QString path = askFile("ReportDir", tr("Save Flight Report"), mSession.container.name() + ".pdf", tr("PDF Files (*.pdf)"));
+    if (path.isEmpty())
+        return;
+    FlightReport report(mSession.container, mSession.profile);
+    const ReportOptions paper{QLocale::system().measurementSystem() == QLocale::ImperialUSSystem};
+    const auto work = [&](Progress& progress) {
+        SafeFile file(QFile::encodeName(path).toStdString());
+        return report.write(file, paper, progress);
+    };
+    if (!run(path, work))
+        fail(tr("ZARN Warning"), tr("Writing the flight report failed !"), report.error());
+}
+
+QString ExportController::askFile(const char* setting, const QString& title, const QString& name, const QString& filter)
+{
+    const QString folder = QString::fromStdString(mSession.property.getString(setting, "."));
+    const QString path = QFileDialog::getSaveFileName(mpWindow, title, folder + "/" + name, filter, nullptr, QFileDialog::DontUseNativeDialog);
+    if (path.isEmpty())
+        return {};
+    mSession.property.setString(setting, QFileInfo(path).absolutePath().toStdString());
+    mSession.property.writeXmlFile();
+    return path;
 }
 
 bool ExportController::run(const QString& path, const std::function<bool(Progress&)>& work)

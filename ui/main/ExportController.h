@@ -24,6 +24,7 @@ public:
     void exportKml();
     void exportCsv();
     void exportGpx();
+    void writeReport();
 
 Q_SIGNALS:
     /// A file was written.
@@ -33,6 +34,8 @@ private:
     /// Does the work under the eyes of the user, loading being put off meanwhile. @param work returns whether it succeeded.
     /// @return whether it did, or was cancelled.
     bool run(const QString& path, const std::function<bool(Progress&)>& work);
+    /// Asks for a file in the folder that the setting remembers. @return its path; empty when the user cancels.
+    QString askFile(const char* setting, const QString& title, const QString& name, const QString& filter);
     void fail(const QString& title, const QString& text, const std::string& reason);
 
     Session mSession;

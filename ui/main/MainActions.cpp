@@ -51,6 +51,8 @@ const std::vector<MainAction>& MainAction::all()
          QT_TRANSLATE_NOOP("ZARN::DialogMain", "Export CSV File"), "", "export-csv"},
         {eActionExportGpx, QT_TRANSLATE_NOOP("ZARN::DialogMain", "Export GPX File"), "",
          QT_TRANSLATE_NOOP("ZARN::DialogMain", "Export Flight Path as GPX File"), "", "flight"},
+        {eActionReport, QT_TRANSLATE_NOOP("ZARN::DialogMain", "Flight Report"), "",
+         QT_TRANSLATE_NOOP("ZARN::DialogMain", "Write Flight Report as PDF File"), "", "about"},
     };
     // clang-format on
     return actions;

@@ -23,7 +23,8 @@ enum EMainAction : int {
     eActionPreferences = 15,
     eActionExportKml = 17,
     eActionExportCsv = 18,
-    eActionExportGpx = 19
+    eActionExportGpx = 19,
+    eActionReport = 20
 };
 
 /// One command of the main window: texts to be translated, the shortcut, the name of its icon.

@@ -1,0 +1,109 @@
+#include "report/ReportGraph.h"
+
+#include "analysis/EventList.h"
+#include "ui/canvas/Canvas.h"
+#include "ui/graph/model/GraphScene.h"
+#include "ui/graph/model/ThresholdBands.h"
+
+#include <cmath>
+#include <set>
+
+namespace ZARN {
+
+namespace {
+
+constexpr const char* kMain[] = {"EngineSpeedA", "ManifoldPressureA", "ThrottleA", "FuelA", "Altitude", "GroundSpeed"};
+constexpr int kMostStrips = 10;
+constexpr double kTextSize = 7.0;
+constexpr double kHandles = 20.0; // width of what a hand would drag the strips by: left of the paper
+constexpr double kColumnsAPoint = 3.0; // fine enough for a printer
+constexpr double kSmallestSpan = 1.0;  // seconds
+
+} // namespace
+
+ReportGraph::ReportGraph(const CardContainer& container, Profile& profile, const EventList& limits) : mContainer(container), mProfile(profile)
+{
+    mModel.setMaxParameters(kMostStrips);
+    mModel.setOfflineMode(true);
+    mModel.setGraphMode(eManual);
+    mModel.setDisplayMode(eSplit);
+    mModel.activateCursor(false);
+    mModel.activateLegend(false); // it tells of a cursor; the strips have their names in them
+    GraphColours colours;
+    colours.grid = {0.6F, 0.65F, 0.7F};
+    colours.labelBackground = {1.0F, 1.0F, 1.0F};
+    mModel.setColours(colours);
+    for (int slot = 0; slot < kMostStrips; ++slot)
+        mModel.setActive(slot, false);
+    std::set<std::string> taken;
+    mProfile.resetCoordinates();
+    for (const char* key : kMain) {
+        const ProfileParameter parameter = profile.getParameterFromZarnType(key);
+        if (!parameter.name.empty() && taken.insert(parameter.name).second)
+            addParameter(parameter);
+    }
+    for (const Event& event : limits.events()) {
+        const bool isInside = event.time >= container.startTime() && event.time <= container.endTime();
+        const ProfileParameter* pParameter = isInside ? profile.findParameter(limits.source(event).parameter) : nullptr;
+        if (pParameter && taken.insert(pParameter->name).second)
+            addParameter(*pParameter);
+    }
+    mModel.setWindow(container.startTime(), std::max(container.endTime(), container.startTime() + kSmallestSpan));
+}
+
+void ReportGraph::addParameter(const ProfileParameter& parameter)
+{
+    if (mUsed == kMostStrips || !mContainer.recordData().channel(parameter.identifier()) || !mProfile.decoder(parameter).isNumeric())
+        return;
+    const int slot = mUsed++;
+    mModel.setActive(slot, true);
+    mModel.setParameterName(slot, QString::fromStdString(parameter.name), QString::fromStdString(parameter.unit));
+    mModel.setPrecision(slot, parameter.precision);
+    const auto number = static_cast<std::size_t>(std::max(parameter.thresholdList, 0));
+    if (number > 0 && number <= mProfile.model().thresholdLists.size())
+        mModel.setBands(slot, thresholdBands(mProfile.model().thresholdLists[number - 1], mProfile.decoder(parameter)));
+    fill(slot, parameter);
+}
+
+void ReportGraph::fill(int slot, const ProfileParameter& parameter)
+{
+    const ValueDecoder decoder = mProfile.decoder(parameter);
+    const RecordEntries& entries = mContainer.recordData().channel(parameter.identifier())->entries;
+    std::vector<double> times;
+    std::vector<double> values;
+    for (std::size_t i = 0; i < entries.chunkCount(); ++i) {
+        const std::span<const StoredRecord> records = entries.chunk(i);
+        times.resize(records.size());
+        values.resize(records.size());
+        decoder.values(records, values.data(), mProfile.sharedFilter());
+        std::size_t kept = 0;
+        for (std::size_t k = 0; k < records.size(); ++k) {
+            const double time = records[k].time();
+            const double value = decoder.toDisplayUnit(values[k]);
+            if (std::isnan(value) || time < mContainer.startTime() || time > mContainer.endTime())
+                continue;
+            times[kept] = time;
+            values[kept++] = value;
+        }
+        mModel.putValues(slot, std::span(times).first(kept), std::span(values).first(kept));
+    }
+}
+
+void ReportGraph::draw(Canvas& canvas, const QRectF& place)
+{
+    canvas.push();
+    canvas.clip(place);
+    canvas.translate(place.left() - kHandles, place.top());
+    const QSizeF size(place.width() + kHandles, place.height());
+    mModel.recalcFrameBuffer();
+    const GraphLayout layout = GraphScene::prepare(mModel, size, kTextSize, kColumnsAPoint);
+    GraphScene(mModel, layout).draw(canvas);
+    for (const int index : mModel.shown()) {
+        const GraphParameter& parameter = *mModel.parameter(index);
+        const QString name = parameter.unit.isEmpty() ? parameter.name : parameter.name + " [" + parameter.unit + "]";
+        canvas.text(layout.area(parameter).topLeft() + QPointF(3, 2), name, {kTextSize, Qt::black, true, Qt::AlignLeft | Qt::AlignTop, false});
+    }
+    canvas.pop();
+}
+
+} // namespace ZARN

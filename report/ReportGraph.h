@@ -1,0 +1,30 @@
+#pragma once
+
+#include "card/CardContainer.h"
+#include "ui/graph/model/GraphModel.h"
+
+namespace ZARN {
+
+class Canvas;
+class EventList;
+
+/// The main parameters of the loaded cycle or flight over time, each in a strip of its own: those that the program knows, and those
+/// that exceeded a limit.
+class ReportGraph {
+public:
+    ReportGraph(const CardContainer& container, Profile& profile, const EventList& limits);
+
+    [[nodiscard]] bool isEmpty() const { return mModel.nrActive() == 0; }
+    void draw(Canvas& canvas, const QRectF& place);
+
+private:
+    void addParameter(const ProfileParameter& parameter);
+    void fill(int slot, const ProfileParameter& parameter);
+
+    const CardContainer& mContainer;
+    Profile& mProfile;
+    GraphModel mModel;
+    int mUsed = 0;
+};
+
+} // namespace ZARN

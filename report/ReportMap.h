@@ -1,0 +1,40 @@
+#pragma once
+
+#include "card/CardContainer.h"
+#include "openstreet/core/BaseMap.h"
+#include "openstreet/core/Camera.h"
+#include "ui/map/model/MapPath.h"
+
+class QPainter;
+
+namespace ZARN {
+
+class Canvas;
+class EventList;
+
+/// The flight path of the loaded cycle or flight on the map of the world that comes with the program, with lines of latitude and longitude.
+class ReportMap {
+public:
+    ReportMap(const CardContainer& container, bool isImperial);
+
+    [[nodiscard]] bool isEmpty() const { return mPath.isEmpty(); }
+    /// @param painter the one that the canvas draws on: outlines with holes are none of a canvas's shapes.
+    void draw(QPainter& painter, Canvas& canvas, const QRectF& place, const EventList& limits);
+
+private:
+    void drawGround(QPainter& painter);
+    void drawTile(QPainter& painter, const OpenStreet::BaseMap::Geometry& parts, const QRectF& tile) const;
+    void drawGrid(Canvas& canvas) const;
+    void drawPath(Canvas& canvas) const;
+    void drawMarks(Canvas& canvas, const EventList& limits) const;
+    void drawScale(Canvas& canvas) const;
+    [[nodiscard]] QPointF windowPoint(const FlightPathPoint& point) const;
+
+    const CardContainer& mContainer;
+    bool mIsImperial;
+    MapPath mPath;
+    OpenStreet::BaseMap mBaseMap;
+    OpenStreet::Camera mCamera;
+};
+
+} // namespace ZARN
