@@ -121,7 +121,7 @@ void FlightReport::writeUnit(ReportPages& pages) const
     if (!pCycle || pCycle->files.empty())
         return;
     const RecordInfo& unit = pCycle->files.back(); // the first of a cycle may lack what the unit did not know yet
-    pages.heading(tr("Unit"));
+    pages.heading(tr("Engine unit"));
     pages.pairs({{tr("ECU serial number"), QString::number(unit.ecuSerialNumber)},
                  {tr("Engine serial number"), text(unit.engineSerial)},
                  {tr("ECU type"), text(unit.ecuType)},

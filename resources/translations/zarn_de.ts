@@ -894,6 +894,14 @@ Im Profilfeld die gewünschten Parameter ankreuzen.</translation>
         <source>Export Flight Path as GPX File</source>
         <translation>Flugweg als GPX-Datei exportieren</translation>
     </message>
+    <message>
+        <source>Flight Report</source>
+        <translation>Flugbericht</translation>
+    </message>
+    <message>
+        <source>Write Flight Report as PDF File</source>
+        <translation>Flugbericht als PDF-Datei schreiben</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::DialogPreferences</name>
@@ -1039,6 +1047,18 @@ Im Profilfeld die gewünschten Parameter ankreuzen.</translation>
         <source>Writing %1 ...</source>
         <translation>%1 wird geschrieben ...</translation>
     </message>
+    <message>
+        <source>Save Flight Report</source>
+        <translation>Flugbericht speichern</translation>
+    </message>
+    <message>
+        <source>PDF Files (*.pdf)</source>
+        <translation>PDF-Dateien (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Writing the flight report failed !</source>
+        <translation>Schreiben des Flugberichts fehlgeschlagen !</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::ExportPathPage</name>
@@ -1101,6 +1121,304 @@ Ersetzen ?</translation>
     <message>
         <source>Nothing can be written to the folder %1: %2</source>
         <translation>In den Ordner %1 kann nichts geschrieben werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::FlightReport</name>
+    <message>
+        <source>Flight report</source>
+        <translation>Flugbericht</translation>
+    </message>
+    <message>
+        <source>Exceeded limits</source>
+        <translation>Überschrittene Grenzwerte</translation>
+    </message>
+    <message>
+        <source>No limit was exceeded.</source>
+        <translation>Kein Grenzwert wurde überschritten.</translation>
+    </message>
+    <message>
+        <source>ok</source>
+        <translation>in Ordnung</translation>
+    </message>
+    <message>
+        <source>warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>limit</source>
+        <translation>Grenzwert</translation>
+    </message>
+    <message>
+        <source>Warning lamps</source>
+        <translation>Warnlampen</translation>
+    </message>
+    <message>
+        <source>No warning lamp was lit.</source>
+        <translation>Keine Warnlampe leuchtete.</translation>
+    </message>
+    <message>
+        <source>dark</source>
+        <translation>dunkel</translation>
+    </message>
+    <message>
+        <source>yellow</source>
+        <translation>gelb</translation>
+    </message>
+    <message>
+        <source>red</source>
+        <translation>rot</translation>
+    </message>
+    <message>
+        <source>single files</source>
+        <translation>einzelne Dateien</translation>
+    </message>
+    <message>
+        <source>Card</source>
+        <translation>Karte</translation>
+    </message>
+    <message>
+        <source>Date, as recorded</source>
+        <translation>Datum, wie aufgezeichnet</translation>
+    </message>
+    <message>
+        <source>no clock</source>
+        <translation>keine Uhr</translation>
+    </message>
+    <message>
+        <source>Power cycle</source>
+        <translation>Einschaltzyklus</translation>
+    </message>
+    <message>
+        <source>%1, flight %2</source>
+        <translation>%1, Flug %2</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Von</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Bis</translation>
+    </message>
+    <message>
+        <source>Times count from the unit&apos;s power-up.</source>
+        <translation>Zeiten zählen ab dem Einschalten des Geräts.</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+    <message>
+        <source>ECU serial number</source>
+        <translation>ECU-Seriennummer</translation>
+    </message>
+    <message>
+        <source>Engine serial number</source>
+        <translation>Motorseriennummer</translation>
+    </message>
+    <message>
+        <source>ECU type</source>
+        <translation>ECU-Typ</translation>
+    </message>
+    <message>
+        <source>Engine type</source>
+        <translation>Motortyp</translation>
+    </message>
+    <message>
+        <source>Software A</source>
+        <translation>Software A</translation>
+    </message>
+    <message>
+        <source>EMU software</source>
+        <translation>EMU-Software</translation>
+    </message>
+    <message>
+        <source>Software B</source>
+        <translation>Software B</translation>
+    </message>
+    <message>
+        <source>Flights and tow statistic</source>
+        <translation>Flüge und Schleppstatistik</translation>
+    </message>
+    <message>
+        <source>No flight was found.</source>
+        <translation>Kein Flug wurde gefunden.</translation>
+    </message>
+    <message>
+        <source>Flight</source>
+        <translation>Flug</translation>
+    </message>
+    <message>
+        <source>Take-off, clock</source>
+        <translation>Start, Uhrzeit</translation>
+    </message>
+    <message>
+        <source>Take-off</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Landing</source>
+        <translation>Landung</translation>
+    </message>
+    <message>
+        <source>Flight time</source>
+        <translation>Flugzeit</translation>
+    </message>
+    <message>
+        <source>Lowest altitude</source>
+        <translation>Kleinste Höhe</translation>
+    </message>
+    <message>
+        <source>Highest altitude</source>
+        <translation>Größte Höhe</translation>
+    </message>
+    <message>
+        <source>Total climb</source>
+        <translation>Steighöhe gesamt</translation>
+    </message>
+    <message>
+        <source>Average climb rate</source>
+        <translation>Mittleres Steigen</translation>
+    </message>
+    <message>
+        <source>Average descent rate</source>
+        <translation>Mittleres Sinken</translation>
+    </message>
+    <message>
+        <source>Highest ground speed</source>
+        <translation>Größte Geschw. über Grund</translation>
+    </message>
+    <message>
+        <source>Fuel, lane A</source>
+        <translation>Kraftstoff, Lane A</translation>
+    </message>
+    <message>
+        <source>Fuel, lane B</source>
+        <translation>Kraftstoff, Lane B</translation>
+    </message>
+    <message>
+        <source>Fuel, total</source>
+        <translation>Kraftstoff, gesamt</translation>
+    </message>
+    <message>
+        <source>Time for 100 of climb [s]</source>
+        <translation>Zeit für 100 Steighöhe [s]</translation>
+    </message>
+    <message>
+        <source>Fuel for 100 of climb</source>
+        <translation>Kraftstoff für 100 Steighöhe</translation>
+    </message>
+    <message>
+        <source>Take-off distance [m]</source>
+        <translation>Startrollstrecke [m]</translation>
+    </message>
+    <message>
+        <source>Take-off distance, 15 m [m]</source>
+        <translation>Startstrecke, 15 m [m]</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Gruppe</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>und %n weitere</numerusform>
+            <numerusform>und %n weitere</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Faults</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Matrix</source>
+        <translation>Matrix</translation>
+    </message>
+    <message>
+        <source>Bit</source>
+        <translation>Bit</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Fault</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>First</source>
+        <translation>Zuerst</translation>
+    </message>
+    <message>
+        <source>Last</source>
+        <translation>Zuletzt</translation>
+    </message>
+    <message>
+        <source>Times</source>
+        <translation>Anzahl</translation>
+    </message>
+    <message>
+        <source>Info</source>
+        <translation>Info</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>The profile declares no faults.</source>
+        <translation>Das Profil enthält keine Fehler.</translation>
+    </message>
+    <message>
+        <source>No fault was present.</source>
+        <translation>Kein Fehler lag an.</translation>
+    </message>
+    <message>
+        <source>Main parameters</source>
+        <translation>Hauptparameter</translation>
+    </message>
+    <message>
+        <source>None of them was recorded.</source>
+        <translation>Keiner davon wurde aufgezeichnet.</translation>
+    </message>
+    <message>
+        <source>Flight path</source>
+        <translation>Flugweg</translation>
+    </message>
+    <message>
+        <source>No position was recorded.</source>
+        <translation>Keine Position wurde aufgezeichnet.</translation>
+    </message>
+    <message>
+        <source>Green: begin. Black: end. Orange: exceeded limits. Grey lines: degrees and minutes.</source>
+        <translation>Grün: Anfang. Schwarz: Ende. Orange: überschrittene Grenzwerte. Graue Linien: Grade und Minuten.</translation>
+    </message>
+    <message>
+        <source>Engine unit</source>
+        <translation>Motorüberwachung</translation>
     </message>
 </context>
 <context>
