@@ -122,7 +122,8 @@ void DialogGraphSetup::showColour(QPushButton* pButton, const QString& name)
 void DialogGraphSetup::showNumber(QLineEdit* pField, double value)
 {
     // What the user is typing stays as he types it.
-    if (!pField->hasFocus() || pField->text().toDouble() != value)
+    const bool isTheSame = pField->isModified() && pField->text().toDouble() == value;
+    if (!isTheSame)
         pField->setText(QString::number(value, 'g', 10));
 }
 

@@ -15,7 +15,7 @@ namespace ZARN {
 
 namespace {
 
-constexpr int kPdfResolution = 96; // one unit for each pixel of the view
+constexpr int kResolution = 96; // pixels of the view an inch, as browsers have it
 
 QString translated(const char* text)
 {
@@ -40,6 +40,7 @@ QByteArray GraphSnapshot::svg() const
     QBuffer buffer;
     QSvgGenerator generator;
     generator.setOutputDevice(&buffer);
+    generator.setResolution(kResolution);
     generator.setSize(mSize);
     generator.setViewBox(QRect(QPoint(), mSize));
     generator.setTitle(translated(QT_TRANSLATE_NOOP("ZARN::GraphSnapshot", "Graph")));
@@ -56,9 +57,9 @@ QByteArray GraphSnapshot::pdf() const
     buffer.open(QIODevice::WriteOnly);
     {
         QPdfWriter writer(&buffer);
-        writer.setResolution(kPdfResolution);
+        writer.setResolution(kResolution);
         writer.setPageMargins(QMarginsF());
-        writer.setPageSize(QPageSize(QSizeF(mSize) * 72.0 / kPdfResolution, QPageSize::Point, QString(), QPageSize::ExactMatch));
+        writer.setPageSize(QPageSize(QSizeF(mSize) * 72.0 / kResolution, QPageSize::Point, QString(), QPageSize::ExactMatch));
         QPainter painter(&writer);
         RasterCanvas canvas(painter);
         mPaint(canvas, mSize);
