@@ -1,5 +1,7 @@
 // The graph beside the same traces in a plotting library (where QCustomPlot is installed), in one run. Needs a display.
 
+#undef QT_NO_KEYWORDS // that library is written with them
+
 #include "bench/BenchApplication.h"
 #include "ui/graph/WidgetGraphES.h"
 
