@@ -75,6 +75,9 @@ void WidgetWelcome::setWithCard(bool withCard)
                                   "its flights then appear below it.")
                              : tr("Open the folder of a memory card, or drop it here. Without a card at hand the demo card shows "
                                   "an hour with two tows."));
+    // The layout asks a wrapped text for its height too early, before the style sheet gave it its font.
+    mpText->ensurePolished();
+    mpText->setMinimumHeight(mpText->heightForWidth(kTextWidth));
     mpButtons->setVisible(!withCard);
 }
 
