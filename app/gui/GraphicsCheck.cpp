@@ -1,6 +1,6 @@
 #include "app/gui/GraphicsCheck.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QOffscreenSurface>
 #include <QOpenGLContext>
 
@@ -19,13 +19,17 @@ QSurfaceFormat GraphicsCheck::surfaceFormat()
 
 QString GraphicsCheck::problem()
 {
+    const QString none = QCoreApplication::translate("ZARN::GraphicsCheck", "No OpenGL here: graph and map cannot be drawn");
+    // Where there is an X server this platform has contexts too, but its windows show nothing of them.
+    if (QGuiApplication::platformName() == "offscreen")
+        return none;
     QOffscreenSurface surface;
     surface.setFormat(surfaceFormat());
     surface.create();
     QOpenGLContext context;
     context.setFormat(surfaceFormat());
     if (!context.create() || !surface.isValid() || !context.makeCurrent(&surface))
-        return QCoreApplication::translate("ZARN::GraphicsCheck", "No OpenGL here: graph and map cannot be drawn");
+        return none;
     const QSurfaceFormat found = context.format();
     context.doneCurrent();
     if (found.version() < qMakePair(3, 3))
