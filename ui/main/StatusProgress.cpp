@@ -29,8 +29,10 @@ void StatusProgress::begin()
 
 void StatusProgress::setProgress(int percent)
 {
+    if (mRunning && mSincePainting.elapsed() < mPause)
+        return; // the bar paints itself at once when it is given a value, and with it the whole window where that holds OpenGL
     mBar.setValue(percent);
-    if (mRunning && mSincePainting.elapsed() >= mPause)
+    if (mRunning)
         paintWindows();
 }
 
