@@ -106,11 +106,11 @@ VESK::OpenGL::Device& GlCanvas::ready()
         mStripsPending = false;
         mDevice.setNoClip();
         mClipChanged = true;
-        if (mStripTexture.size() != mStrips.image().size())
+        const QRect used = mStrips.used();
+        if (mStripTexture.size() != mStrips.size())
             mStripTexture.setImage(mStrips.image());
         else
-            mStripTexture.setImagePart(mStrips.image(), mStrips.used());
-        const QRect used = mStrips.used();
+            mStripTexture.setImagePart(mStrips.image(), used);
         const double pixel = 1.0 / mDevice.ratio();
         mDevice.matrix().MatrixPush();
         mDevice.matrix().MatrixSet(QTransform());
