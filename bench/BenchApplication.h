@@ -21,4 +21,13 @@ inline void startApplication()
     [[maybe_unused]] static QApplication* pApplication = new QApplication(count, arguments); // outlives all static objects
 }
 
+/// The application that a window with OpenGL needs; null where there is no display.
+inline QApplication* displayApplication()
+{
+    if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        return nullptr;
+    startApplication();
+    return qApp;
+}
+
 } // namespace ZARN

@@ -31,25 +31,45 @@ uint32_t bytesOf(const QColor& colour)
 
 void StripImage::setSize(const QSize& size)
 {
-    if (mImage.size() == size)
+    if (mSize == size)
         return clear();
-    mImage = QImage(size, QImage::Format_RGBA8888_Premultiplied);
+    mSize = size.expandedTo(QSize(0, 0));
+    mImage = QImage(mSize, QImage::Format_RGBA8888_Premultiplied);
     mImage.fill(Qt::transparent);
+    mPixels.assign(static_cast<std::size_t>(mSize.width()) * static_cast<std::size_t>(mSize.height()), 0);
     mUsed = QRect();
-    mTop.assign(static_cast<std::size_t>(std::max(0, size.width())), kNothing);
+    mTop.assign(static_cast<std::size_t>(mSize.width()), kNothing);
     mBottom.assign(mTop.size(), -kNothing);
 }
 
 void StripImage::clear()
 {
-    for (int y = mUsed.top(); y <= mUsed.bottom(); ++y)
-        std::memset(mImage.scanLine(y) + static_cast<std::ptrdiff_t>(mUsed.left()) * 4, 0, static_cast<std::size_t>(mUsed.width()) * 4);
+    for (int x = mUsed.left(); x <= mUsed.right(); ++x)
+        std::fill_n(mPixels.begin() + static_cast<std::ptrdiff_t>(x) * mSize.height() + mUsed.top(), mUsed.height(), 0U);
     mUsed = QRect();
+}
+
+const QImage& StripImage::image()
+{
+    constexpr int kBlock = 16; // columns and rows that a cache holds at once
+    auto* pRows = reinterpret_cast<uint32_t*>(mImage.bits());
+    const std::ptrdiff_t stride = mImage.bytesPerLine() / 4;
+    for (int top = mUsed.top(); top <= mUsed.bottom(); top += kBlock) {
+        const int bottom = std::min(top + kBlock - 1, mUsed.bottom());
+        for (int left = mUsed.left(); left <= mUsed.right(); left += kBlock) {
+            const int right = std::min(left + kBlock - 1, mUsed.right());
+            for (int y = top; y <= bottom; ++y) {
+                for (int x = left; x <= right; ++x)
+                    pRows[y * stride + x] = mPixels[static_cast<std::size_t>(x) * static_cast<std::size_t>(mSize.height()) + static_cast<std::size_t>(y)];
+            }
+        }
+    }
+    return mImage;
 }
 
 void StripImage::addStrip(std::span<const QPointF> points, const QColor& colour, int thickness, const QRect& clip)
 {
-    const QRect inside = clip.intersected(mImage.rect());
+    const QRect inside = clip.intersected(QRect(QPoint(), mSize));
     if (inside.isEmpty())
         return;
     const uint32_t bytes = bytesOf(colour);
@@ -96,8 +116,6 @@ void StripImage::extend(int column, double y1, double y2)
 void StripImage::fill(uint32_t colour, int thickness, const QRect& clip)
 {
     const int before = (thickness - 1) / 2, after = thickness / 2;
-    const std::ptrdiff_t stride = mImage.bytesPerLine() / 4;
-    auto* pPixels = reinterpret_cast<uint32_t*>(mImage.bits());
     for (int column = mFirstColumn; column <= mLastColumn; ++column) {
         int& top = mTop[static_cast<std::size_t>(column)];
         int& bottom = mBottom[static_cast<std::size_t>(column)];
@@ -108,8 +126,8 @@ void StripImage::fill(uint32_t colour, int thickness, const QRect& clip)
         if (shown.isEmpty())
             continue;
         mUsed = mUsed.united(shown);
-        for (int y = shown.top(); y <= shown.bottom(); ++y)
-            std::fill_n(pPixels + y * stride + shown.left(), shown.width(), colour);
+        for (int x = shown.left(); x <= shown.right(); ++x)
+            std::fill_n(mPixels.begin() + static_cast<std::ptrdiff_t>(x) * mSize.height() + shown.top(), shown.height(), colour);
     }
     mFirstColumn = clip.right() + 1;
     mLastColumn = clip.left() - 1;

@@ -11,6 +11,7 @@ namespace ZARN {
 
 namespace {
 
+constexpr double kGreatArea = 20000; // pixels from which an opaque rectangle is cleared instead of drawn
 constexpr int kFramesKept = 10; // so long an image that is not drawn keeps its texture
 
 VESK::OpenGL::LineStyle lineStyle(const CanvasPen& pen)
@@ -106,11 +107,11 @@ VESK::OpenGL::Device& GlCanvas::ready()
         mStripsPending = false;
         mDevice.setNoClip();
         mClipChanged = true;
-        if (mStripTexture.size() != mStrips.image().size())
+        const QRect used = mStrips.used();
+        if (mStripTexture.size() != mStrips.size())
             mStripTexture.setImage(mStrips.image());
         else
-            mStripTexture.setImagePart(mStrips.image(), mStrips.used());
-        const QRect used = mStrips.used();
+            mStripTexture.setImagePart(mStrips.image(), used);
         const double pixel = 1.0 / mDevice.ratio();
         mDevice.matrix().MatrixPush();
         mDevice.matrix().MatrixSet(QTransform());
@@ -186,6 +187,13 @@ void GlCanvas::lineStrip(std::span<const QPointF> points, std::span<const QColor
 
 void GlCanvas::fillRect(const QRectF& rect, const QColor& colour)
 {
+    const QRectF box = mapped(rect);
+    const bool isWhole = box == box.toRect(); // only whole pixels can be cleared
+    if (isWhole && colour.alpha() == 255 && box.width() * box.height() > kGreatArea) {
+        ready().clearRect(mClip ? box.intersected(*mClip) : box, colour);
+        mClipChanged = mClip.has_value();
+        return;
+    }
     VESK::OpenGL::TriangleStrip strip;
     strip.setColour(colour);
     strip.setRect(rect);

@@ -178,8 +178,8 @@ void DialogDataGraph::slotManMode()
 void DialogDataGraph::slotGraphSetup()
 {
     const auto apply = [this](void (WidgetGraphBase::*pSet)(float, float, float), const QString& name) {
-        const GraphColour colour = GraphColour::named(name);
-        (mpGraph->*pSet)(colour.red, colour.green, colour.blue);
+        const QColor colour(name);
+        (mpGraph->*pSet)(colour.redF(), colour.greenF(), colour.blueF());
     };
     mpGraph->setXrange(static_cast<float>(mData.xRange));
     mpGraph->setDisplayMode(mData.displayMode == eSingleGraph ? eSingleGraph : eSplit);

@@ -107,6 +107,13 @@ void Device::clear(const QColor& colour)
     mpGl->glClear(GL_COLOR_BUFFER_BIT);
 }
 
+void Device::clearRect(const QRectF& rect, const QColor& colour)
+{
+    setClip(rect);
+    clear(colour);
+    setNoClip();
+}
+
 void Device::setClip(const QRectF& rect)
 {
     flush();

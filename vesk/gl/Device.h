@@ -48,6 +48,8 @@ public:
     [[nodiscard]] virtual GLint maskFormat() const { return GL_R8; }
     /// Fills the whole viewport.
     void clear(const QColor& colour);
+    /// Fills a rectangle with an opaque colour, without blending: what great areas cost least. The clipping is gone afterwards.
+    void clearRect(const QRectF& rect, const QColor& colour);
 
     [[nodiscard]] MatrixStack& matrix() { return mMatrix; }
     [[nodiscard]] double ratio() const { return mRatio; }

@@ -21,8 +21,6 @@ struct GraphColour {
     float green = 0.0F;
     float blue = 0.0F;
 
-    /// Of any colour name that the toolkit knows; black for others.
-    static GraphColour named(const QString& name);
     [[nodiscard]] QColor colour() const;
     [[nodiscard]] double luminance() const { return 0.299 * red + 0.587 * green + 0.114 * blue; }
     bool operator==(const GraphColour&) const = default;

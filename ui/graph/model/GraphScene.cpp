@@ -44,21 +44,33 @@ CanvasText GraphScene::labelStyle(Qt::Alignment align) const
     return {mLayout.textSize(), mModel.colours().label.colour(), true, align, false};
 }
 
-void GraphScene::drawLabel(Canvas& canvas, const QPointF& position, const QString& text, Qt::Alignment align) const
+void GraphScene::drawBox(Canvas& canvas, const Label& label, const CanvasText& style) const
 {
-    const CanvasText style = labelStyle(align);
-    const QSizeF box = canvas.textSize(text, style);
-    QRectF area(position, box);
-    if (align & Qt::AlignHCenter)
+    const QSizeF box = canvas.textSize(label.text, style);
+    QRectF area(label.position, box);
+    if (style.align & Qt::AlignHCenter)
         area.translate(-box.width() / 2, 0);
-    else if (align & Qt::AlignRight)
+    else if (style.align & Qt::AlignRight)
         area.translate(-box.width(), 0);
-    if (align & Qt::AlignVCenter)
+    if (style.align & Qt::AlignVCenter)
         area.translate(0, -box.height() / 2);
-    else if (align & Qt::AlignBottom)
+    else if (style.align & Qt::AlignBottom)
         area.translate(0, -box.height());
     canvas.fillRect(area.adjusted(-2, 0, 2, 0), mModel.colours().labelBackground.colour());
-    canvas.text(position, text, style);
+}
+
+void GraphScene::drawLabel(Canvas& canvas, const QPointF& position, const QString& text, Qt::Alignment align) const
+{
+    drawLabels(canvas, {{position, text}}, align);
+}
+
+void GraphScene::drawLabels(Canvas& canvas, const std::vector<Label>& labels, Qt::Alignment align) const
+{
+    const CanvasText style = labelStyle(align);
+    for (const Label& label : labels)
+        drawBox(canvas, label, style);
+    for (const Label& label : labels)
+        canvas.text(label.position, label.text, style);
 }
 
 QColor GraphScene::contrast() const
@@ -118,6 +130,7 @@ void GraphScene::drawTimeAxis(Canvas& canvas) const
     if (label > kTickSpacing)
         ticks = AxisTicks(mModel.xmin(), mModel.xmax(), plot.width(), label);
     std::vector<QPointF> major, fine;
+    std::vector<Label> labels;
     for (const AxisTick& tick : ticks.ticks()) {
         const double x = std::floor(mLayout.xOf(tick.value));
         if (mModel.isGridOn())
@@ -125,8 +138,9 @@ void GraphScene::drawTimeAxis(Canvas& canvas) const
         const QString text = ticks.timeLabel(tick.value);
         const double half = static_cast<double>(text.size()) * mLayout.character() / 2 + 2;
         if (tick.isMajor && x - half >= 0 && x + half <= mLayout.width())
-            drawLabel(canvas, QPointF(x, plot.bottom() + 5), text, Qt::AlignHCenter | Qt::AlignTop);
+            labels.push_back({QPointF(x, plot.bottom() + 5), text});
     }
+    drawLabels(canvas, labels, Qt::AlignHCenter | Qt::AlignTop);
     const QColor colour = mModel.colours().grid.colour();
     canvas.lines(fine, {faint(colour, kFineAlpha)});
     canvas.lines(major, {faint(colour, kGridAlpha)});
@@ -137,6 +151,7 @@ void GraphScene::drawValueAxis(Canvas& canvas, const QRectF& area, int index) co
     const std::array<double, 2> range = mModel.valueRange(index);
     const AxisTicks ticks(range[0], range[1], area.height(), GraphLayout::kValueSpacing * mLayout.line());
     std::vector<QPointF> major, fine;
+    std::vector<Label> labels;
     for (const AxisTick& tick : ticks.ticks()) {
         const double y = std::floor(GraphLayout::yOf(tick.value, area, range));
         if (y < area.top() || y >= area.bottom())
@@ -146,8 +161,9 @@ void GraphScene::drawValueAxis(Canvas& canvas, const QRectF& area, int index) co
         // A label that would hang over into the next strip is left out.
         const double half = mLayout.line() / 2;
         if (tick.isMajor && y - half >= area.top() - 1 && y + half <= area.bottom() + 1)
-            drawLabel(canvas, QPointF(area.left() - 5, y), ticks.valueLabel(tick.value), Qt::AlignRight | Qt::AlignVCenter);
+            labels.push_back({QPointF(area.left() - 5, y), ticks.valueLabel(tick.value)});
     }
+    drawLabels(canvas, labels, Qt::AlignRight | Qt::AlignVCenter);
     const QColor colour = mModel.colours().grid.colour();
     canvas.lines(fine, {faint(colour, kFineAlpha)});
     canvas.lines(major, {faint(colour, kGridAlpha)});

@@ -23,6 +23,13 @@ private:
     [[nodiscard]] CanvasText labelStyle(Qt::Alignment align) const;
     /// A text in a box of the label background.
     void drawLabel(Canvas& canvas, const QPointF& position, const QString& text, Qt::Alignment align) const;
+    /// The same for many that do not overlap: all boxes, then all texts.
+    struct Label {
+        QPointF position;
+        QString text;
+    };
+    void drawLabels(Canvas& canvas, const std::vector<Label>& labels, Qt::Alignment align) const;
+    void drawBox(Canvas& canvas, const Label& label, const CanvasText& style) const;
     [[nodiscard]] QColor contrast() const;
     /// Calls with each area of values: the strips, or the plot with the trace at the axis (null when nothing is shown).
     template <typename Visitor> void forEachArea(Visitor visit) const;

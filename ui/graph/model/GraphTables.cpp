@@ -80,8 +80,12 @@ void GraphTables::drawLegend(Canvas& canvas) const
             ++missing;
             continue;
         }
-        drawLegendLine(canvas, line, mModel.shown()[row]);
         bottom = line.bottom();
+    }
+    // All areas, then all bold texts, then all others: what is alike goes to the screen together.
+    for (const ELayer layer : {ELayer::eAreas, ELayer::eNames, ELayer::eNumbers}) {
+        for (std::size_t row = 0; row < mModel.shown().size(); ++row)
+            drawLegendLine(canvas, mLayout.legendLine(mModel, row), mModel.shown()[row], layer);
     }
     drawLegendHeader(canvas);
     if (missing > 0)
@@ -105,15 +109,22 @@ void GraphTables::drawLegendHeader(Canvas& canvas) const
     canvas.text(QPointF(x, y), text, style(false));
 }
 
-void GraphTables::drawLegendLine(Canvas& canvas, const QRectF& line, int index) const
+void GraphTables::drawLegendLine(Canvas& canvas, const QRectF& line, int index, ELayer layer) const
 {
+    if (line.isEmpty())
+        return;
     const GraphParameter& parameter = *mModel.parameter(index);
-    if (index == mModel.highlighted())
-        canvas.fillRect(line, QColor(255, 255, 255, 110));
-    canvas.fillRect(QRectF(line.left() + 2, line.top() + 3, kSwatch, line.height() - 6), parameter.colour.colour());
     const double x = line.left() + kSwatch + 6;
-    canvas.text(QPointF(x, line.top()), GraphLayout::shortened(parameter.name, GraphLayout::kLongestName), style(true));
-    canvas.text(QPointF(x + mLayout.nameLength() * mLayout.character(), line.top()), legendText(mModel, index, mLayout.legendKind()), style(false));
+    if (layer == ELayer::eAreas) {
+        if (index == mModel.highlighted())
+            canvas.fillRect(line, QColor(255, 255, 255, 110));
+        canvas.fillRect(QRectF(line.left() + 2, line.top() + 3, kSwatch, line.height() - 6), parameter.colour.colour());
+    } else if (layer == ELayer::eNames) {
+        canvas.text(QPointF(x, line.top()), GraphLayout::shortened(parameter.name, GraphLayout::kLongestName), style(true));
+    } else {
+        const QPointF place(x + mLayout.nameLength() * mLayout.character(), line.top());
+        canvas.text(place, legendText(mModel, index, mLayout.legendKind()), style(false));
+    }
 }
 
 void GraphTables::drawStripNames(Canvas& canvas) const

@@ -16,9 +16,11 @@ public:
     [[nodiscard]] static QString legendText(const GraphModel& model, int index, GraphLayout::ELegend kind);
 
 private:
+    enum class ELayer { eAreas, eNames, eNumbers };
+
     void drawLegend(Canvas& canvas) const;
     void drawLegendHeader(Canvas& canvas) const;
-    void drawLegendLine(Canvas& canvas, const QRectF& line, int index) const;
+    void drawLegendLine(Canvas& canvas, const QRectF& line, int index, ELayer layer) const;
     void drawStripNames(Canvas& canvas) const;
     void drawMarkerTable(Canvas& canvas) const;
     void drawRow(Canvas& canvas, double y, const QStringList& cells, const std::vector<int>& widths) const;
