@@ -235,6 +235,8 @@ void TestTileStore::backsOff()
     store.now += 40;
     store.store.want(block(4, 0, 0, 4, 4), {});
     QTRY_VERIFY(mpHost->requests().size() > first);
+    QVERIFY(store.waitIdle());
+    QTest::qWait(200); // for the last line of the log
     Store lacking(mpHost->address(QStringLiteral("/missing"))); // a server that answers is asked for the other tiles
     mpHost->clearLog();
     lacking.store.want(block(4, 0, 0, 2, 2), {});

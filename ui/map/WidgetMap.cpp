@@ -187,7 +187,7 @@ void WidgetMap::paintGL()
 void WidgetMap::slotTimeout()
 {
     const double now = VESK::Misc::Timer::getTime();
-    const bool isMoving = mNavigator.isMoving();
+    mIsDirty = mIsDirty || mNavigator.isMoving();
     mNavigator.tick(now - mLastTick);
     mLastTick = now;
     const double still = std::fabs(now - mLastRedraw); // the clock may be set back
@@ -195,7 +195,7 @@ void WidgetMap::slotTimeout()
         mContext.isLoading = mMap.nrLoadingTiles() != 0;
         updateNote();
     }
-    if ((mIsDirty || isMoving || (mContext.isLoading && still > kLoadingInterval)) && mPacer.isDue())
+    if ((mIsDirty || (mContext.isLoading && still > kLoadingInterval)) && mPacer.isDue())
         mpSurface->requestFrame();
 }
 

@@ -54,6 +54,8 @@ public:
     /// Shows the whole path again.
     void fitPath();
     void setDirty() { mIsDirty = true; }
+    /// Whether the picture is behind what it should show.
+    [[nodiscard]] bool isDirty() const { return mIsDirty; }
     /// Whether the user has yet to be asked for the network: there is a path, and a server whose tiles could lie under it.
     [[nodiscard]] bool isConsentMissing() const;
 

@@ -80,6 +80,7 @@ struct Window {
     {
         QTRY_VERIFY_WITH_TIMEOUT(!map().navigator().isMoving(), 20000);
         QTRY_COMPARE_WITH_TIMEOUT(map().map().nrLoadingTiles(), 0, 20000);
+        QTRY_VERIFY_WITH_TIMEOUT(!map().isDirty(), 20000);
         QTest::qWait(100);
     }
     /// The next start of the program.
