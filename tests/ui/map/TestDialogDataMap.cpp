@@ -129,6 +129,8 @@ private Q_SLOTS:
     void offline();
     void tilesAfterConsent();
     void refusalIsKept();
+    void narrowQuestion_data();
+    void narrowQuestion();
     void idleMapRests();
     void serverGone();
     void pointerAndKeys();
@@ -220,6 +222,34 @@ void TestDialogDataMap::refusalIsKept()
     window.settle();
     QVERIFY(!window.consentBar()->isVisible());
     QVERIFY(mHost.requests().isEmpty());
+}
+
+void TestDialogDataMap::narrowQuestion_data()
+{
+    QTest::addColumn<int>("width");
+    QTest::addColumn<bool>("isBelow"); // the buttons, the text
+    QTest::newRow("least") << 200 << true;
+    QTest::newRow("narrow") << 260 << true;
+    QTest::newRow("wide") << 900 << false;
+}
+
+void TestDialogDataMap::narrowQuestion()
+{
+    QFETCH(int, width);
+    Window window(mHost.address());
+    window.dialog->resize(width, 600);
+    window.load();
+    QTRY_VERIFY(window.consentBar()->isVisible());
+    window.picture("question");
+    const auto* pText = window.consentBar()->findChild<QLabel*>();
+    QVERIFY(window.dialog->rect().contains(window.consentBar()->geometry()));
+    QVERIFY(pText->height() >= pText->heightForWidth(pText->width()));
+    for (const char* name : {"consentYes", "consentNo"}) {
+        const QPushButton* pButton = window.button(name);
+        QVERIFY(window.consentBar()->rect().contains(pButton->geometry()));
+        QVERIFY(pButton->width() >= pButton->sizeHint().width());
+        QTEST(pButton->y() > pText->geometry().bottom(), "isBelow");
+    }
 }
 
 void TestDialogDataMap::idleMapRests()
