@@ -2,6 +2,7 @@
 
 #include "app/Numeric.h"
 
+#include <array>
 #include <cmath>
 
 namespace ZARN {
@@ -141,19 +142,27 @@ void SampleSeries::positionsAt(double start, double step, std::span<uint32_t> po
         std::ranges::fill(positions, 0U);
         return;
     }
-    const double* pOrder = order().data();
-    const auto guess = [&](std::size_t i, std::size_t first, std::size_t last) {
-        const double time = start + step * static_cast<double>(i), part = time - std::floor(time);
-        return first + saturatingCast<std::size_t>(part * static_cast<double>(last - first));
+    struct Place {
+        std::size_t first, last, guess;
     };
-    for (std::size_t i = 0; i < positions.size(); ++i) {
-        if (i + kAhead < positions.size()) {
-            const auto [first, last] = secondOf(start + step * static_cast<double>(i + kAhead));
-            __builtin_prefetch(pOrder + std::min(guess(i + kAhead, first, last), size() - 1));
-        }
+    const double* pOrder = order().data();
+    const auto look = [&](std::size_t i) -> Place {
         const double time = start + step * static_cast<double>(i);
         const auto [first, last] = secondOf(time);
-        std::size_t at = std::min(guess(i, first, last), last), steps = 0;
+        const double part = (time - std::floor(time)) * static_cast<double>(last - first);
+        const std::size_t guess = std::min(first + saturatingCast<std::size_t>(part), last);
+        __builtin_prefetch(pOrder + std::min(guess, size() - 1));
+        return {first, last, guess};
+    };
+    std::array<Place, kAhead> places;
+    for (std::size_t i = 0; i < std::min(kAhead, positions.size()); ++i)
+        places[i] = look(i);
+    for (std::size_t i = 0; i < positions.size(); ++i) {
+        const double time = start + step * static_cast<double>(i);
+        const auto [first, last, guess] = places[i % kAhead];
+        if (i + kAhead < positions.size())
+            places[i % kAhead] = look(i + kAhead);
+        std::size_t at = guess, steps = 0;
         while (at > first && pOrder[at - 1] >= time && steps < kNear)
             --at, ++steps;
         while (at < last && pOrder[at] < time && steps < kNear)

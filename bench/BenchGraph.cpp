@@ -7,7 +7,6 @@
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
-#include <QOpenGLWidget>
 
 namespace ZARN {
 
@@ -96,9 +95,9 @@ void frame(benchmark::State& state)
     fill(graph.model(), samples);
     graph.show();
     QApplication::processEvents();
-    auto* pSurface = graph.findChild<QOpenGLWidget*>();
+    auto* pSurface = graph.findChild<QWidget*>();
     if (!pSurface)
-        return state.SkipWithError("no OpenGL");
+        return state.SkipWithError("no surface");
     const Span window = windowOf(samples, state.range(1) != 0);
     double shift = 0;
     int step = 0;

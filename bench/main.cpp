@@ -28,9 +28,9 @@ constexpr Ratio kRatios[] = {
     {"table scroll step / item widget", "table/scroll/100000/40/40/real_time", "table/scrollItems/real_time", 1.1},
     {"float cell / snprintf", "text/fixed", "text/snprintf", 0.12},
     {"graph rebuild 30 x 10 M / scan", "graph/rebuild/10000000", "graph/scan/10000000", 0.2},
-    {"graph frame 30 x 1 M / plotting library", "graph/frame/1000000/1", "graph/library/1000000/1", 0.2},
-    {"graph frame 30 x 1 M, 60 s / library", "graph/frame/1000000/0", "graph/library/1000000/0", 0.2},
-    {"graph frame 30 x 10 M / plotting library", "graph/frame/10000000/1", "graph/library/10000000/1", 0.05},
+    {"graph frame 30 x 1 M / plotting library", "graph/frame/1000000/1/process_time", "graph/library/1000000/1/process_time", 0.2},
+    {"graph frame 30 x 1 M, 60 s / library", "graph/frame/1000000/0/process_time", "graph/library/1000000/0/process_time", 0.2},
+    {"graph frame 30 x 10 M / plotting library", "graph/frame/10000000/1/process_time", "graph/library/10000000/1/process_time", 0.05},
     {"map frame with a path of 200,000 points / without", "map/frame/1", "map/frame/0", 2.0},
 };
 

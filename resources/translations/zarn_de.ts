@@ -1589,12 +1589,12 @@ Ersetzen ?</translation>
 <context>
     <name>ZARN::GraphicsCheck</name>
     <message>
-        <source>No OpenGL here: graph and map cannot be drawn</source>
-        <translation>Kein OpenGL: Graph und Karte können nicht gezeichnet werden</translation>
+        <source>No OpenGL here: the map cannot be drawn</source>
+        <translation>Kein OpenGL: die Karte kann nicht gezeichnet werden</translation>
     </message>
     <message>
-        <source>OpenGL 3.3 is needed, here is %1.%2: graph and map cannot be drawn</source>
-        <translation>OpenGL 3.3 wird gebraucht, hier ist %1.%2: Graph und Karte können nicht gezeichnet werden</translation>
+        <source>OpenGL 3.3 is needed, here is %1.%2: the map cannot be drawn</source>
+        <translation>OpenGL 3.3 wird gebraucht, hier ist %1.%2: die Karte kann nicht gezeichnet werden</translation>
     </message>
 </context>
 <context>

@@ -94,7 +94,7 @@ void RasterCanvas::clip(const QRectF& rect)
 
 void RasterCanvas::lines(std::span<const QPointF> points, const CanvasPen& pen)
 {
-    const Scope scope(mPainter, pen);
+    const Scope scope(ready(), pen);
     for (std::size_t i = 0; i + 1 < points.size(); i += 2) {
         if (isFinite(points[i]) && isFinite(points[i + 1]))
             mPainter.drawLine(held(points[i]), held(points[i + 1]));
@@ -103,7 +103,7 @@ void RasterCanvas::lines(std::span<const QPointF> points, const CanvasPen& pen)
 
 void RasterCanvas::lineStrip(std::span<const QPointF> points, const CanvasPen& pen)
 {
-    const Scope scope(mPainter, pen);
+    const Scope scope(ready(), pen);
     drawStrip(points);
 }
 
@@ -126,7 +126,7 @@ void RasterCanvas::drawStrip(std::span<const QPointF> points)
 
 void RasterCanvas::lineStrip(std::span<const QPointF> points, std::span<const QColor> colours, const CanvasPen& pen)
 {
-    const Scope scope(mPainter, pen);
+    const Scope scope(ready(), pen);
     QPen linePen = mPainter.pen();
     linePen.setCapStyle(Qt::RoundCap);
     for (std::size_t i = 0; i + 1 < std::min(points.size(), colours.size()); ++i) {
@@ -144,12 +144,12 @@ void RasterCanvas::lineStrip(std::span<const QPointF> points, std::span<const QC
 void RasterCanvas::fillRect(const QRectF& rect, const QColor& colour)
 {
     if (isFinite(rect))
-        mPainter.fillRect(QRectF(held(rect.topLeft()), held(rect.bottomRight())), colour);
+        ready().fillRect(QRectF(held(rect.topLeft()), held(rect.bottomRight())), colour);
 }
 
 void RasterCanvas::triangles(std::span<const QPointF> points, const QColor& colour)
 {
-    mPainter.save();
+    ready().save();
     mPainter.setPen(Qt::NoPen);
     mPainter.setBrush(colour);
     for (std::size_t i = 0; i + 2 < points.size(); i += 3) {
@@ -167,7 +167,7 @@ void RasterCanvas::polygon(std::span<const QPointF> points, const QColor& colour
             return;
         outline << held(point);
     }
-    mPainter.save();
+    ready().save();
     mPainter.setPen(Qt::NoPen);
     mPainter.setBrush(colour);
     mPainter.drawPolygon(outline);
@@ -178,7 +178,7 @@ void RasterCanvas::text(const QPointF& position, const QString& text, const Canv
 {
     if (!isFinite(position) || text.isEmpty())
         return;
-    mPainter.save();
+    ready().save();
     mPainter.setFont(canvasFont(style.size, style.bold));
     mPainter.setPen(style.colour);
     const QPointF origin = textOrigin(position, text, style);
@@ -195,7 +195,7 @@ void RasterCanvas::text(const QPointF& position, const QString& text, const Canv
 void RasterCanvas::image(const QRectF& target, const QImage& image)
 {
     if (isFinite(target) && !image.isNull())
-        mPainter.drawImage(target, image);
+        ready().drawImage(target, image);
 }
 
 } // namespace ZARN

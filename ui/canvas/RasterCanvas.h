@@ -26,11 +26,15 @@ public:
     void text(const QPointF& position, const QString& text, const CanvasText& style) override;
     void image(const QRectF& target, const QImage& image) override;
 
+protected:
+    /// The painter for whatever is drawn next.
+    virtual QPainter& ready() { return mPainter; }
+
+    QPainter& mPainter;
+
 private:
     class Scope;
     void drawStrip(std::span<const QPointF> points);
-
-    QPainter& mPainter;
 };
 
 } // namespace ZARN

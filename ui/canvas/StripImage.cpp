@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 #include <limits>
 
 namespace ZARN {
@@ -15,16 +14,8 @@ constexpr int kNothing = std::numeric_limits<int>::max();
 
 int pixel(double coordinate)
 {
-    return saturatingCast<int>(std::floor(std::clamp(coordinate, -1e7, 1e7)));
-}
-
-/// The bytes red, green, blue, alpha in this order in memory.
-uint32_t bytesOf(const QColor& colour)
-{
-    const uint8_t bytes[] = {static_cast<uint8_t>(colour.red()), static_cast<uint8_t>(colour.green()), static_cast<uint8_t>(colour.blue()), 255};
-    uint32_t word = 0;
-    std::memcpy(&word, bytes, sizeof word);
-    return word;
+    constexpr double kFarthest = 1e7; // added before the fraction goes: cut off is rounded down there, and cheaper than std::floor()
+    return saturatingCast<int>(std::clamp(coordinate, -kFarthest, kFarthest) + kFarthest) - static_cast<int>(kFarthest);
 }
 
 } // namespace
@@ -34,7 +25,7 @@ void StripImage::setSize(const QSize& size)
     if (mSize == size)
         return clear();
     mSize = size.expandedTo(QSize(0, 0));
-    mImage = QImage(mSize, QImage::Format_RGBA8888_Premultiplied);
+    mImage = QImage(mSize, QImage::Format_ARGB32_Premultiplied);
     mImage.fill(Qt::transparent);
     mPixels.assign(static_cast<std::size_t>(mSize.width()) * static_cast<std::size_t>(mSize.height()), 0);
     mUsed = QRect();
@@ -72,23 +63,23 @@ void StripImage::addStrip(std::span<const QPointF> points, const QColor& colour,
     const QRect inside = clip.intersected(QRect(QPoint(), mSize));
     if (inside.isEmpty())
         return;
-    const uint32_t bytes = bytesOf(colour);
+    const QRgb word = colour.rgb();
     mFirstColumn = inside.right() + 1;
     mLastColumn = inside.left() - 1;
     for (std::size_t i = 1; i < points.size(); ++i) {
         const QPointF from = points[i - 1] + QPointF(0.5, 0.5), to = points[i] + QPointF(0.5, 0.5);
         if (!std::isfinite(from.x() + from.y() + to.x() + to.y())) {
-            fill(bytes, thickness, inside);
+            fill(word, thickness, inside);
         } else if (to.x() < from.x()) {
             // A step back is a run of its own: spans of one column join only what the strip joins.
-            fill(bytes, thickness, inside);
+            fill(word, thickness, inside);
             addSegment(to, from, inside);
-            fill(bytes, thickness, inside);
+            fill(word, thickness, inside);
         } else {
             addSegment(from, to, inside);
         }
     }
-    fill(bytes, thickness, inside);
+    fill(word, thickness, inside);
 }
 
 void StripImage::addSegment(const QPointF& from, const QPointF& to, const QRect& clip)

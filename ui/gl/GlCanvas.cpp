@@ -45,7 +45,6 @@ void GlCanvas::begin(const QSize& size, double ratio, const QColor& background)
     mClip.reset();
     mClipChanged = false;
     mSavedClips.clear();
-    mStripsPending = false;
     mDevice.begin(size, ratio);
     mDevice.clear(background);
 }
@@ -102,50 +101,10 @@ void GlCanvas::clip(const QRectF& rect)
 
 VESK::OpenGL::Device& GlCanvas::ready()
 {
-    if (mStripsPending) {
-        // The strips were clipped when they were drawn into their image.
-        mStripsPending = false;
-        mDevice.setNoClip();
-        mClipChanged = true;
-        const QRect used = mStrips.used();
-        if (mStripTexture.size() != mStrips.size())
-            mStripTexture.setImage(mStrips.image());
-        else
-            mStripTexture.setImagePart(mStrips.image(), used);
-        const double pixel = 1.0 / mDevice.ratio();
-        mDevice.matrix().MatrixPush();
-        mDevice.matrix().MatrixSet(QTransform());
-        mStripTexture.drawPart(mDevice, QRectF(used.x() * pixel, used.y() * pixel, used.width() * pixel, used.height() * pixel), used);
-        mDevice.matrix().MatrixPop();
-        mDevice.flush();
-    }
     if (mClipChanged)
         applyClip();
     mClipChanged = false;
     return mDevice;
-}
-
-bool GlCanvas::takesStrip(std::span<const QPointF> points, const CanvasPen& pen) const
-{
-    constexpr std::size_t kLong = 64;
-    return mDevice.isSoftware() && points.size() >= kLong && !pen.smooth && pen.dash <= 0 && pen.colour.alpha() == 255
-           && pen.width * mDevice.ratio() <= 8.0;
-}
-
-void GlCanvas::addToStrips(std::span<const QPointF> points, const CanvasPen& pen)
-{
-    const double ratio = mDevice.ratio();
-    if (!mStripsPending)
-        mStrips.setSize((QSizeF(mDevice.size()) * ratio).toSize());
-    mStripsPending = true;
-    std::vector<QPointF> pixels;
-    pixels.reserve(points.size());
-    for (const QPointF& point : points)
-        pixels.push_back((mDevice.matrix().map(point) + QPointF(0.5, 0.5)) * ratio - QPointF(0.5, 0.5));
-    const QRectF clip = mClip.value_or(QRectF(QPointF(), QSizeF(mDevice.size())));
-    const QRect inside(QPoint(qRound(clip.left() * ratio), qRound(clip.top() * ratio)),
-                       QPoint(qRound(clip.right() * ratio) - 1, qRound(clip.bottom() * ratio) - 1));
-    mStrips.addStrip(pixels, pen.colour, std::max(1, qRound(pen.width * ratio)), inside);
 }
 
 void GlCanvas::applyClip()
@@ -167,8 +126,6 @@ void GlCanvas::lines(std::span<const QPointF> points, const CanvasPen& pen)
 
 void GlCanvas::lineStrip(std::span<const QPointF> points, const CanvasPen& pen)
 {
-    if (takesStrip(points, pen))
-        return addToStrips(points, pen);
     VESK::OpenGL::LineStripsSimple strip;
     strip.setStyle(lineStyle(pen));
     strip.addStrip(points);

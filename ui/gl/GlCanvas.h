@@ -1,7 +1,6 @@
 #pragma once
 
 #include "ui/canvas/Canvas.h"
-#include "ui/canvas/StripImage.h"
 #include "vesk/gl/Device.h"
 #include "vesk/gl/StateScope.h"
 #include "vesk/gl/TextureFont.h"
@@ -48,9 +47,7 @@ private:
         int lastFrame = 0;
     };
     [[nodiscard]] QRectF mapped(const QRectF& rect) const;
-    [[nodiscard]] bool takesStrip(std::span<const QPointF> points, const CanvasPen& pen) const;
-    void addToStrips(std::span<const QPointF> points, const CanvasPen& pen);
-    /// Brings strips and clipping to the device: called before everything else that is drawn.
+    /// Brings the clipping to the device: called before everything else that is drawn.
     VESK::OpenGL::Device& ready();
     void applyClip();
     void forgetImages();
@@ -64,9 +61,6 @@ private:
     std::optional<QRectF> mClip; // in pixels of the view
     std::vector<std::optional<QRectF>> mSavedClips;
     bool mClipChanged = false;
-    StripImage mStrips; // long thin strips are drawn here where the driver is software, and go to the device together
-    VESK::OpenGL::Texture mStripTexture;
-    bool mStripsPending = false;
     std::map<qint64, KeptImage> mImages;
     int mFrame = 0;
 };

@@ -150,6 +150,7 @@ void DialogDataGraph::fillIndex(int slot, const ProfileParameter& parameter)
 
 void DialogDataGraph::setTime(double time)
 {
+    mpGraph->setPaced(true);
     GraphModel& model = mpGraph->model();
     model.setCursorPosition(time);
     const auto width = static_cast<float>(model.width());
@@ -165,6 +166,7 @@ void DialogDataGraph::setTime(double time)
     }
     if (xmin != model.xmin() || xmax != model.xmax())
         model.setWindow(xmin, xmax);
+    mpGraph->setPaced(false);
 }
 
 void DialogDataGraph::slotManMode()
@@ -177,19 +179,16 @@ void DialogDataGraph::slotManMode()
 
 void DialogDataGraph::slotGraphSetup()
 {
-    const auto apply = [this](void (WidgetGraphBase::*pSet)(float, float, float), const QString& name) {
-        const QColor colour(name);
-        (mpGraph->*pSet)(colour.redF(), colour.greenF(), colour.blueF());
+    const auto colour = [](const QString& name) {
+        const QColor found(name);
+        return GraphColour{found.redF(), found.greenF(), found.blueF()};
     };
+    mpGraph->model().setColours({colour(mData.backColor), colour(mData.gridColor), colour(mData.labelColor), colour(mData.labelBackColor)});
     mpGraph->setXrange(static_cast<float>(mData.xRange));
     mpGraph->setDisplayMode(mData.displayMode == eSingleGraph ? eSingleGraph : eSplit);
     mpGraph->setGraphMode(mData.graphMode == eManual ? eManual : eAutomatic);
     mpGraph->setCursorMode(mData.cursorMode == eFloating ? eFloating : eCenter);
-    apply(&WidgetGraphBase::setBackColor, mData.backColor);
     mpGraph->activateGrid(mData.gridOn);
-    apply(&WidgetGraphBase::setGridColor, mData.gridColor);
-    apply(&WidgetGraphBase::setLabelColor, mData.labelColor);
-    apply(&WidgetGraphBase::setLabelBackColor, mData.labelBackColor);
     mpGraph->activateCursor(mData.cursorOn);
     mpGraph->activateLegend(mData.legendOn);
     mpGraph->setAutoScaleY(mData.autoscaleOn);

@@ -13,7 +13,7 @@ class Canvas;
 /// What a graph widget is painted on: it fills the widget, takes no events, and asks for the picture whenever the toolkit wants one.
 struct GraphPainting {
     std::function<void(Canvas& canvas, const QSize& size, double ratio)> paint; ///< the canvas is ready and empty
-    std::function<void(const QString& reason)> failed; ///< this surface cannot draw; not called from within its painting
+    std::function<void()> failed; ///< this surface cannot draw; not called from within its painting
 };
 
 /// Surfaces of OpenGL with shaders, of fixed-function OpenGL, and of the toolkit's own painter, which always works.

@@ -1,4 +1,4 @@
-#include "ui/canvas/RasterCanvas.h"
+#include "ui/canvas/WindowCanvas.h"
 #include "ui/graph/GraphSurface.h"
 
 #include <QPainter>
@@ -8,7 +8,6 @@ namespace ZARN {
 
 namespace {
 
-/// A graph's surface on the toolkit's painter, for machines without OpenGL.
 class PainterSurface : public QWidget {
 public:
     PainterSurface(const GraphPainting& painting, QWidget* pParent) : QWidget(pParent), mPainting(painting)
@@ -21,12 +20,13 @@ protected:
     void paintEvent(QPaintEvent*) override
     {
         QPainter painter(this);
-        RasterCanvas canvas(painter);
+        WindowCanvas canvas(painter, mStrips, size(), devicePixelRatioF());
         mPainting.paint(canvas, size(), devicePixelRatioF());
     }
 
 private:
     GraphPainting mPainting;
+    StripImage mStrips;
 };
 
 } // namespace

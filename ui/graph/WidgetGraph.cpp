@@ -4,9 +4,5 @@
 
 WidgetGraph::WidgetGraph(QWidget* pParent) : WidgetGraphBase(pParent)
 {
-    static const QString problem = ZARN::GraphicsCheck::problem();
-    if (problem.isEmpty())
-        useSurface(&ZARN::createFixedSurface);
-    else
-        fallBack(problem);
+    useSurface(ZARN::GraphicsCheck::problem().isEmpty() ? &ZARN::createFixedSurface : &ZARN::createPainterSurface);
 }

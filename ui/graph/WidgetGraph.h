@@ -3,7 +3,7 @@
 #include "ui/graph/WidgetGraphBase.h"
 
 /// The same graph drawn with fixed-function OpenGL, for drivers that have no shaders. It asks for a compatibility context of its own; where
-/// there is none it is painted, and says so.
+/// there is none it is painted.
 class WidgetGraph : public WidgetGraphBase {
     Q_OBJECT
 

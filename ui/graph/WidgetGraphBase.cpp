@@ -54,18 +54,12 @@ void WidgetGraphBase::useSurface(CreateSurface createSurface)
     delete mpSurface;
     const ZARN::GraphPainting painting{
         [this](ZARN::Canvas& canvas, const QSize& size, double ratio) { paint(canvas, size, ratio); },
-        [this](const QString& reason) { fallBack(reason); },
+        [this] { useSurface(&ZARN::createPainterSurface); },
     };
     mpSurface = createSurface(painting, this);
     mpSurface->setGeometry(rect());
     mpSurface->show();
     requestFrame();
-}
-
-void WidgetGraphBase::fallBack(const QString& reason)
-{
-    mNotice = reason;
-    useSurface(&ZARN::createPainterSurface);
 }
 
 void WidgetGraphBase::setColour(ZARN::GraphColour ZARN::GraphColours::*pMember, const ZARN::GraphColour& colour)
@@ -100,6 +94,7 @@ void WidgetGraphBase::paintOn(ZARN::Canvas& canvas, const QSizeF& size, double r
 void WidgetGraphBase::paint(ZARN::Canvas& canvas, const QSize& size, double ratio)
 {
     mFrameWanted = false;
+    mPacer.begin();
     ++mFrames;
     mLayout = ZARN::GraphScene::prepare(mModel, size, textSize(), ratio);
     mInteraction.setLayout(mLayout);
@@ -107,22 +102,19 @@ void WidgetGraphBase::paint(ZARN::Canvas& canvas, const QSize& size, double rati
     ZARN::GraphScene scene(mModel, mLayout);
     scene.setDragged(mInteraction.draggedStrip(), mInteraction.dragY());
     scene.draw(canvas);
-    if (!mNotice.isEmpty()) {
-        const QRectF& plot = mLayout.plot();
-        canvas.text(QPointF(plot.right() - 6, plot.top() + 4), mNotice, {textSize(), QColor(160, 160, 160), false, Qt::AlignRight | Qt::AlignTop, false});
-    }
+    mPacer.end();
 }
 
 void WidgetGraphBase::requestFrame()
 {
     mFrameWanted = true;
-    if (mpSurface)
+    if (mpSurface && (!mIsPaced || mPacer.isDue()))
         mpSurface->update();
 }
 
 void WidgetGraphBase::slotRedraw()
 {
-    if (mFrameWanted && mpSurface && isVisible())
+    if (mFrameWanted && mpSurface && isVisible() && mPacer.isDue())
         mpSurface->update();
 }
 

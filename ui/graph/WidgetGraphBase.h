@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/canvas/FramePacer.h"
 #include "ui/graph/GraphSurface.h"
 #include "ui/graph/model/GraphInteraction.h"
 
@@ -12,7 +13,7 @@ class GraphScene;
 }
 
 /// What the two graph widgets have in common, which is all but the surface that they are drawn on: the model behind every operation, the
-/// events, the timers and the frame. Where the surface cannot draw, the toolkit's painter takes over and the graph says why.
+/// events, the timers and the frame. Where the surface cannot draw, the toolkit's painter takes over.
 class WidgetGraphBase : public QWidget {
     Q_OBJECT
 
@@ -71,6 +72,8 @@ public:
 
     /// Draws the present graph on any canvas (pictures, PDF), without what only the moment shows.
     void paintOn(ZARN::Canvas& canvas, const QSizeF& size, double ratio);
+    /// While on, changes are drawn when a frame is due and not at once: for a view time that runs on.
+    void setPaced(bool on) { mIsPaced = on; }
     /// Where things lie in the frame that was drawn last.
     [[nodiscard]] const ZARN::GraphLayout& layoutOfFrame() const { return mLayout; }
     /// How many frames were drawn so far.
@@ -89,8 +92,6 @@ protected:
     using CreateSurface = QWidget* (*)(const ZARN::GraphPainting&, QWidget*);
     /// Puts the surface in place; called by the constructors of the derived classes.
     void useSurface(CreateSurface createSurface);
-    /// Lets the toolkit's painter draw, with a line that says why.
-    void fallBack(const QString& reason);
 
     void keyPressEvent(QKeyEvent* pEvent) override;
     void keyReleaseEvent(QKeyEvent* pEvent) override;
@@ -117,10 +118,11 @@ private:
     ZARN::GraphInteraction mInteraction;
     ZARN::GraphLayout mLayout;
     QWidget* mpSurface = nullptr;
-    QString mNotice; ///< why the painter draws
     QTimer mRedrawTimer;
     QTimer mRecalculationTimer;
     QTimer mCursorTimer;
+    ZARN::FramePacer mPacer;
+    bool mIsPaced = false;
     bool mFrameWanted = true;
     int mFrames = 0;
 };

@@ -4,10 +4,6 @@
 
 WidgetGraphES::WidgetGraphES(QWidget* pParent) : WidgetGraphBase(pParent)
 {
-    // Asked once: a machine does not change its mind, and the question makes a context.
-    static const QString problem = ZARN::GraphicsCheck::problem();
-    if (problem.isEmpty())
-        useSurface(&ZARN::createShaderSurface);
-    else
-        fallBack(problem);
+    const bool isPainted = ZARN::GraphicsCheck::isSoftware() || !ZARN::GraphicsCheck::problem().isEmpty();
+    useSurface(isPainted ? &ZARN::createPainterSurface : &ZARN::createShaderSurface);
 }

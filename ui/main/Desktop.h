@@ -15,7 +15,7 @@ struct Desktop {
     const CmdLine& cmdLine;
     const DataHandler& folders;
     Kernel& kernel;
-    QString graphicsProblem;   ///< why graph and map cannot be drawn; empty when they can
+    QString graphicsProblem;   ///< why the map cannot be drawn; empty when it can
     bool withDefaults = false; ///< restore nothing of the last run
 };
 

@@ -142,7 +142,7 @@ void DialogDataMap::slotCommandToggled(int id, bool isChecked)
         if (isChecked)
             mpMap->setAcPosition(calcPositionAtTime(mTime));
     }
-    mpMap->update();
+    mpMap->setDirty();
 }
 
 void DialogDataMap::slotUpdateMode()

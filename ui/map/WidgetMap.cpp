@@ -3,13 +3,14 @@
 #include "app/Console.h"
 #include "app/Property.h"
 #include "app/Revision.h"
+#include "app/gui/GraphicsCheck.h"
 #include "card/CardContainer.h"
 #include "profile/Profile.h"
 #include "ui/map/model/TileConsent.h"
 #include "vesk/base/Timer.h"
 
 #include <QFile>
-#include <QOpenGLContext>
+#include <QResizeEvent>
 
 #include <cmath>
 
@@ -36,13 +37,25 @@ QByteArray userAgent()
 } // namespace
 
 WidgetMap::WidgetMap(const Session& session, const QString& dataPath, MapContext& context, QWidget* pParent)
-    : QOpenGLWidget(pParent), mSession(session), mContext(context), mNavigator(context)
+    : QWidget(pParent), mSession(session), mContext(context), mNavigator(context)
 {
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_AcceptTouchEvents);
     setMinimumSize(100, 100);
     setUpMap(dataPath);
+    const GlPainting painting{
+        kBackground,
+        [this](GlCanvas& canvas, const QSize& /*size*/, double /*ratio*/) {
+            mpCanvas = &canvas;
+            initializeGL();
+            paintGL();
+            mpCanvas = nullptr;
+        },
+        [this] { releaseGraphics(); },
+        [this](const QString& reason) { mSession.console.print("WidgetMap: %s\n", reason.toUtf8().constData()); },
+    };
+    mpSurface = GraphicsCheck::isSoftware() ? GlSurface::createInMemory(painting, this) : GlSurface::createOnCard(painting, nullptr, this);
     mTimer.setInterval(kRedrawInterval);
     connect(&mTimer, &QTimer::timeout, this, &WidgetMap::slotTimeout);
     mTimer.start();
@@ -50,7 +63,7 @@ WidgetMap::WidgetMap(const Session& session, const QString& dataPath, MapContext
 
 WidgetMap::~WidgetMap()
 {
-    releaseGraphics();
+    delete mpSurface; // it releases what the map has on the context
 }
 
 void WidgetMap::setUpMap(const QString& dataPath)
@@ -105,12 +118,6 @@ void WidgetMap::updateNote()
 
 void WidgetMap::init()
 {
-    mpCanvas = std::make_unique<GlCanvas>();
-    if (!mpCanvas->init()) {
-        mSession.console.print("WidgetMap::init: %s\n", mpCanvas->error().toUtf8().constData());
-        mpCanvas.reset();
-        return;
-    }
     loadWorld();
     mIsInitialised = true;
 }
@@ -126,20 +133,21 @@ void WidgetMap::loadWorld()
 
 void WidgetMap::releaseGraphics()
 {
-    if (!mIsInitialised)
-        return;
-    mIsInitialised = false;
-    makeCurrent();
     mMap.releaseGraphics();
-    mpCanvas.reset();
-    doneCurrent();
 }
 
 void WidgetMap::initializeGL()
 {
-    // The toolkit makes a new context when the widget moves to another window.
-    connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, &WidgetMap::releaseGraphics, Qt::UniqueConnection);
-    init();
+    if (!mIsInitialised)
+        init();
+}
+
+void WidgetMap::resizeEvent(QResizeEvent* pEvent)
+{
+    QWidget::resizeEvent(pEvent);
+    resizeGL(width(), height());
+    mpSurface->widget().setGeometry(rect());
+    mpSurface->requestFrame();
 }
 
 void WidgetMap::resizeGL(int width, int height)
@@ -164,18 +172,16 @@ void WidgetMap::setViewPortOrtho()
 
 void WidgetMap::paintGL()
 {
-    if (!mpCanvas)
-        return;
+    mPacer.begin();
     ++mPaints;
     mIsDirty = false;
     mLastRedraw = VESK::Misc::Timer::getTime();
-    mpCanvas->begin(size(), devicePixelRatioF(), kBackground);
     setViewPort();
     mMap.render(mpCanvas->device());
     setViewPortOrtho();
     mScene.draw(*mpCanvas, mNavigator.camera());
-    mpCanvas->end();
     mContext.isLoading = mMap.nrLoadingTiles() != 0;
+    mPacer.end();
 }
 
 void WidgetMap::slotTimeout()
@@ -189,19 +195,19 @@ void WidgetMap::slotTimeout()
         mContext.isLoading = mMap.nrLoadingTiles() != 0;
         updateNote();
     }
-    if (mIsDirty || isMoving || (mContext.isLoading && still > kLoadingInterval))
-        update();
+    if ((mIsDirty || isMoving || (mContext.isLoading && still > kLoadingInterval)) && mPacer.isDue())
+        mpSurface->requestFrame();
 }
 
 void WidgetMap::showEvent(QShowEvent* pEvent)
 {
-    QOpenGLWidget::showEvent(pEvent);
+    QWidget::showEvent(pEvent);
     mTimer.start();
 }
 
 void WidgetMap::hideEvent(QHideEvent* pEvent)
 {
-    QOpenGLWidget::hideEvent(pEvent);
+    QWidget::hideEvent(pEvent);
     mTimer.stop();
 }
 

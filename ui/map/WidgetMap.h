@@ -3,12 +3,13 @@
 #include "card/record/RecordData.h"
 #include "openstreet/gl/OpenStreetMap.h"
 #include "project/Session.h"
-#include "ui/gl/GlCanvas.h"
+#include "ui/canvas/FramePacer.h"
+#include "ui/gl/GlSurface.h"
 #include "ui/map/model/MapNavigator.h"
 #include "ui/map/model/MapScene.h"
 
-#include <QOpenGLWidget>
 #include <QTimer>
+#include <QWidget>
 
 #include <memory>
 #include <optional>
@@ -20,7 +21,7 @@ namespace ZARN {
 
 /// The drawn map: tiles, and above them the flight path with the aircraft. Turns the user's keys, wheel, drags and touches into
 /// moves of the view. Draws only when something has changed. Owned by the panel, as is the context.
-class WidgetMap : public QOpenGLWidget {
+class WidgetMap : public QWidget {
     Q_OBJECT
 
 public:
@@ -28,7 +29,7 @@ public:
     WidgetMap(const Session& session, const QString& dataPath, MapContext& context, QWidget* pParent);
     ~WidgetMap() override;
 
-    /// Once there is a context to draw in.
+    /// Before the first drawing.
     void init();
     /// Shows the path of the record that is loaded; null takes the path away and leaves the view.
     void setRecordData(RecordData* pRecord);
@@ -71,9 +72,11 @@ Q_SIGNALS:
     void signalTime(double time);
 
 protected:
-    void initializeGL() override;
-    void resizeGL(int width, int height) override;
-    void paintGL() override;
+    /// What the surface asks for, with its context current.
+    void initializeGL();
+    void paintGL();
+    void resizeGL(int width, int height);
+    void resizeEvent(QResizeEvent* pEvent) override;
     void keyPressEvent(QKeyEvent* pEvent) override;
     void mousePressEvent(QMouseEvent* pEvent) override;
     void mouseMoveEvent(QMouseEvent* pEvent) override;
@@ -112,12 +115,14 @@ private:
     MapNavigator mNavigator;
     MapScene mScene;
     OpenStreet::OpenStreetMap mMap;
-    std::unique_ptr<GlCanvas> mpCanvas;
+    GlSurface* mpSurface = nullptr;
+    GlCanvas* mpCanvas = nullptr; // while it paints
     RecordData* mpRecord = nullptr;
     bool mIsInitialised = false;
     bool mIsDirty = true;
     double mLastRedraw = 0.0;
     double mLastTick = 0.0;
+    FramePacer mPacer;
     int mPaints = 0;
     QTimer mTimer;
     std::optional<QPointF> mDragFrom;

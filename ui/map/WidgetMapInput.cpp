@@ -72,13 +72,13 @@ void WidgetMap::keyPressEvent(QKeyEvent* pEvent)
     if (moveByKey(*pEvent))
         mIsDirty = true;
     else
-        QOpenGLWidget::keyPressEvent(pEvent);
+        QWidget::keyPressEvent(pEvent);
 }
 
 void WidgetMap::mousePressEvent(QMouseEvent* pEvent)
 {
     if (pEvent->button() != Qt::LeftButton)
-        return QOpenGLWidget::mousePressEvent(pEvent);
+        return QWidget::mousePressEvent(pEvent);
     mDragFrom = pEvent->position();
     mWasDragged = false;
 }
@@ -110,7 +110,7 @@ void WidgetMap::dragBy(const QPointF& step)
 void WidgetMap::mouseReleaseEvent(QMouseEvent* pEvent)
 {
     if (pEvent->button() != Qt::LeftButton)
-        return QOpenGLWidget::mouseReleaseEvent(pEvent);
+        return QWidget::mouseReleaseEvent(pEvent);
     const bool isClick = mDragFrom && !mWasDragged;
     mDragFrom.reset();
     if (isClick)
@@ -131,7 +131,7 @@ void WidgetMap::pickTime(const QPointF& place)
 void WidgetMap::mouseDoubleClickEvent(QMouseEvent* pEvent)
 {
     if (pEvent->button() != Qt::LeftButton)
-        return QOpenGLWidget::mouseDoubleClickEvent(pEvent);
+        return QWidget::mouseDoubleClickEvent(pEvent);
     mDragFrom.reset();
     mNavigator.setPointer(windowPoint(pEvent->position()));
     mNavigator.doubleClick();
@@ -150,7 +150,7 @@ void WidgetMap::wheelEvent(QWheelEvent* pEvent)
 
 void WidgetMap::leaveEvent(QEvent* pEvent)
 {
-    QOpenGLWidget::leaveEvent(pEvent);
+    QWidget::leaveEvent(pEvent);
     mNavigator.setPointer({0.5 * width(), 0.5 * height()});
 }
 
@@ -225,7 +225,7 @@ bool WidgetMap::event(QEvent* pEvent)
         break;
     default: break;
     }
-    return QOpenGLWidget::event(pEvent);
+    return QWidget::event(pEvent);
 }
 
 } // namespace ZARN

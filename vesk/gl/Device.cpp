@@ -16,12 +16,6 @@ namespace {
 /// So many vertices are drawn at once, to bound the memory of a frame.
 constexpr std::size_t kMostVertices = std::size_t(1) << 20;
 
-bool isSoftwareRenderer(QOpenGLFunctions& gl)
-{
-    const QByteArray renderer(reinterpret_cast<const char*>(gl.glGetString(GL_RENDERER)));
-    return renderer.contains("llvmpipe") || renderer.contains("softpipe") || renderer.contains("SwiftShader") || renderer.contains("GDI Generic");
-}
-
 } // namespace
 
 Device::Device() = default;
@@ -42,7 +36,6 @@ bool Device::useContext()
         return false;
     }
     mpGl = pContext->extraFunctions();
-    mIsSoftware = isSoftwareRenderer(*mpGl);
     return true;
 }
 

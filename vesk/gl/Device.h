@@ -38,8 +38,6 @@ public:
     /// Compiles the shaders: GLSL 330 core, or ES 3 there. @return false when the context cannot draw; error() says why.
     virtual bool init();
     [[nodiscard]] const QString& error() const { return mError; }
-    /// Whether the driver draws with the processor: long line strips cost it far more than one image does.
-    [[nodiscard]] bool isSoftware() const { return mIsSoftware; }
 
     /// Begins a frame: viewport, projection, blending. Wrap begin() to end() in a StateScope where others use the context too.
     virtual void begin(const QSize& size, double ratio);
@@ -101,7 +99,6 @@ private:
     QSize mSize;
     double mRatio = 1.0;
     int mDrawCalls = 0;
-    bool mIsSoftware = false;
     QString mError;
 };
 

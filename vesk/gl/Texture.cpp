@@ -45,20 +45,6 @@ void Texture::setImage(const QImage& image, bool smooth)
     mSize = pixels.size();
 }
 
-void Texture::setImagePart(const QImage& image, const QRect& part)
-{
-    const QRect inside = part.intersected(QRect(QPoint(), mSize)).intersected(image.rect());
-    if (inside.isEmpty() || image.format() != QImage::Format_RGBA8888_Premultiplied)
-        return;
-    QOpenGLExtraFunctions& gl = functions();
-    gl.glBindTexture(GL_TEXTURE_2D, mName);
-    gl.glPixelStorei(GL_UNPACK_ALIGNMENT, 4);
-    gl.glPixelStorei(GL_UNPACK_ROW_LENGTH, static_cast<GLint>(image.bytesPerLine() / 4));
-    const uchar* pFirst = image.constBits() + inside.top() * image.bytesPerLine() + static_cast<qsizetype>(inside.left()) * 4;
-    gl.glTexSubImage2D(GL_TEXTURE_2D, 0, inside.x(), inside.y(), inside.width(), inside.height(), GL_RGBA, GL_UNSIGNED_BYTE, pFirst);
-    gl.glPixelStorei(GL_UNPACK_ROW_LENGTH, 0);
-}
-
 void Texture::setMask(const QSize& size, GLint format)
 {
     create(false);
@@ -88,15 +74,6 @@ void Texture::draw(Device& device, const QRectF& target, double opacity) const
 {
     if (!isEmpty())
         device.addQuad(EShading::eImage, *this, target, QRectF(0, 0, 1, 1), QColor::fromRgbF(1, 1, 1, static_cast<float>(opacity)));
-}
-
-void Texture::drawPart(Device& device, const QRectF& target, const QRect& part) const
-{
-    if (isEmpty())
-        return;
-    const QRectF relative(static_cast<double>(part.x()) / mSize.width(), static_cast<double>(part.y()) / mSize.height(),
-                          static_cast<double>(part.width()) / mSize.width(), static_cast<double>(part.height()) / mSize.height());
-    device.addQuad(EShading::eImage, *this, target, relative, QColor(Qt::white));
 }
 
 } // namespace VESK::OpenGL

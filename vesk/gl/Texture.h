@@ -18,8 +18,6 @@ public:
 
     /// Takes over a picture; one of the same size goes into the same memory. @param smooth blends between pixels when it is stretched.
     void setImage(const QImage& image, bool smooth = false);
-    /// Replaces a part of the picture by the same part of an image in the format RGBA8888, premultiplied.
-    void setImagePart(const QImage& image, const QRect& part);
     /// An empty mask of one byte a pixel. @param format in the memory of the graphics card: Device::maskFormat()
     void setMask(const QSize& size, GLint format);
     /// Writes a part of the mask; `pBytes` has rows of rect.width() bytes.
@@ -31,8 +29,6 @@ public:
     [[nodiscard]] GLuint name() const { return mName; }
     /// Draws the picture, stretched to a rectangle in pixels. @param opacity 0..1
     void draw(Device& device, const QRectF& target, double opacity = 1.0) const;
-    /// The same with a part of the picture, in its pixels.
-    void drawPart(Device& device, const QRectF& target, const QRect& part) const;
 
 private:
     void create(bool smooth);

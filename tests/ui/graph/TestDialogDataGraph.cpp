@@ -403,17 +403,22 @@ void TestDialogDataGraph::idleDrawsNothing()
 
 void TestDialogDataGraph::drawnLikePainted_data()
 {
+    QTest::addColumn<QByteArray>("graphics");
     QTest::addColumn<bool>("isFixed");
     QTest::addColumn<bool>("isSplit");
-    QTest::newRow("shaders") << false << false;
-    QTest::newRow("shaders, split") << false << true;
-    QTest::newRow("fixed function") << true << true;
+    QTest::newRow("shaders") << QByteArray("card") << false << false;
+    QTest::newRow("shaders, split") << QByteArray("card") << false << true;
+    QTest::newRow("fixed function") << QByteArray("card") << true << true;
+    QTest::newRow("spans") << QByteArray("software") << false << false;
+    QTest::newRow("spans, split") << QByteArray("software") << false << true;
 }
 
 void TestDialogDataGraph::drawnLikePainted()
 {
+    QFETCH(const QByteArray, graphics);
     QFETCH(const bool, isFixed);
     QFETCH(const bool, isSplit);
+    qputenv("ZARN_GRAPHICS", graphics);
     if (!GraphicsCheck::problem().isEmpty())
         QFAIL("no OpenGL under the tests' display");
     const std::unique_ptr<WidgetGraphBase> pGraph(isFixed ? static_cast<WidgetGraphBase*>(new WidgetGraph) : new WidgetGraphES);

@@ -66,7 +66,7 @@ void TestProgram::startUp()
                          "Data Path      : <" + data + ">\n", "readXmlFile <" + data + "/ZARN.ini> 0\n", "Translation QT <us> 0\n",
                          "Translation IOS <us> 0\n", "Profile::loadProfil <", "CardContainer::readContainer: Path <.>", "CurrentProject.xml"});
     QVERIFY(!output.contains("Usage of"));
-    QVERIFY(output.contains("No OpenGL here: graph and map cannot be drawn\n"));
+    QVERIFY(output.contains("No OpenGL here: the map cannot be drawn\n"));
     QCOMPARE(QDir(data).entryList(QDir::Files), QStringList()); // the marker of the start is gone
 }
 

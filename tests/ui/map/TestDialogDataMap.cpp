@@ -127,6 +127,7 @@ class TestDialogDataMap : public QObject {
 private Q_SLOTS:
     void initTestCase();
     void offline();
+    void surfacesShowTheSame();
     void tilesAfterConsent();
     void refusalIsKept();
     void narrowQuestion_data();
@@ -172,6 +173,27 @@ void TestDialogDataMap::offline()
     window.dialog->setTime(5.0);
     window.settle();
     QVERIFY(!shows(window.picture("empty"), kPath));
+}
+
+void TestDialogDataMap::surfacesShowTheSame()
+{
+    QImage pictures[2];
+    for (const bool isSoftware : {false, true}) {
+        qputenv("ZARN_GRAPHICS", isSoftware ? "software" : "card");
+        Window window;
+        window.load();
+        window.settle();
+        pictures[isSoftware] = window.picture(isSoftware ? "surface-memory" : "surface-card").convertToFormat(QImage::Format_RGB32);
+        QVERIFY(shows(pictures[isSoftware], kPath) && shows(pictures[isSoftware], kLand));
+    }
+    qunsetenv("ZARN_GRAPHICS");
+    QCOMPARE(pictures[0].size(), pictures[1].size());
+    int different = 0;
+    for (int y = 0; y < pictures[0].height(); ++y) {
+        for (int x = 0; x < pictures[0].width(); ++x)
+            different += pictures[0].pixel(x, y) != pictures[1].pixel(x, y) ? 1 : 0;
+    }
+    QVERIFY2(different < pictures[0].width() * pictures[0].height() / 1000, qPrintable(QString::number(different)));
 }
 
 void TestDialogDataMap::tilesAfterConsent()

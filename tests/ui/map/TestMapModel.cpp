@@ -1,5 +1,6 @@
 #include "app/Console.h"
 #include "app/Property.h"
+#include "ui/canvas/FramePacer.h"
 #include "ui/canvas/RasterCanvas.h"
 #include "ui/map/model/MapNavigator.h"
 #include "ui/map/model/MapScene.h"
@@ -79,6 +80,7 @@ private Q_SLOTS:
     void scaleBar_data();
     void scaleBar();
     void consent();
+    void framesAreSpaced();
     void picture();
 };
 
@@ -325,6 +327,18 @@ void TestMapModel::consent()
     QCOMPARE(consent.answer("https://b/"), TileConsent::eNotAsked); // another server is another question
     consent.set("https://b/", false);
     QCOMPARE(consent.answer("https://a/"), TileConsent::eNo);
+}
+
+void TestMapModel::framesAreSpaced()
+{
+    using std::chrono::milliseconds;
+    const FramePacer::Clock::time_point start = FramePacer::Clock::now();
+    FramePacer pacer;
+    QVERIFY(pacer.isDue(start)); // the first
+    pacer.begin(start);
+    pacer.end(start + milliseconds(30));
+    QVERIFY(!pacer.isDue(start + milliseconds(89)));
+    QVERIFY(pacer.isDue(start + milliseconds(90)));
 }
 
 void TestMapModel::picture()

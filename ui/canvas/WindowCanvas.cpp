@@ -1,0 +1,71 @@
+#include "ui/canvas/WindowCanvas.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <vector>
+
+namespace ZARN {
+
+namespace {
+
+constexpr std::size_t kLong = 64;      // points of a strip from which spans are worth their image
+constexpr double kGreatestWidth = 8.0; // in pixels of the screen: wider strips want round corners
+
+} // namespace
+
+WindowCanvas::WindowCanvas(QPainter& painter, StripImage& strips, const QSize& size, double ratio)
+    : RasterCanvas(painter), mStrips(strips), mSize(size), mRatio(ratio)
+{
+}
+
+WindowCanvas::~WindowCanvas()
+{
+    WindowCanvas::ready();
+}
+
+bool WindowCanvas::takesStrip(std::span<const QPointF> points, const CanvasPen& pen) const
+{
+    return points.size() >= kLong && !pen.smooth && pen.dash <= 0 && pen.colour.alpha() == 255 && pen.width * mRatio <= kGreatestWidth;
+}
+
+QRect WindowCanvas::clipPixels() const
+{
+    const QPainter& painter = mPainter;
+    QRectF clip(0, 0, mSize.width(), mSize.height());
+    if (painter.hasClipping())
+        clip &= painter.worldTransform().mapRect(painter.clipBoundingRect());
+    return {QPoint(qRound(clip.left() * mRatio), qRound(clip.top() * mRatio)),
+            QPoint(qRound(clip.right() * mRatio) - 1, qRound(clip.bottom() * mRatio) - 1)};
+}
+
+void WindowCanvas::lineStrip(std::span<const QPointF> points, const CanvasPen& pen)
+{
+    if (!takesStrip(points, pen))
+        return RasterCanvas::lineStrip(points, pen);
+    if (!mHasStrips)
+        mStrips.setSize((QSizeF(mSize) * mRatio).toSize());
+    mHasStrips = true;
+    const QTransform now = mPainter.worldTransform();
+    std::vector<QPointF> pixels;
+    pixels.reserve(points.size());
+    for (const QPointF& point : points)
+        pixels.push_back((now.map(point) + QPointF(0.5, 0.5)) * mRatio - QPointF(0.5, 0.5));
+    mStrips.addStrip(pixels, pen.colour, std::max(1, qRound(pen.width * mRatio)), clipPixels());
+}
+
+QPainter& WindowCanvas::ready()
+{
+    if (!mHasStrips)
+        return mPainter;
+    mHasStrips = false;
+    const QRect used = mStrips.used();
+    mPainter.save();
+    mPainter.resetTransform();
+    mPainter.setClipping(false); // the strips were clipped one by one
+    mPainter.drawImage(QRectF(used.x() / mRatio, used.y() / mRatio, used.width() / mRatio, used.height() / mRatio), mStrips.image(), used);
+    mPainter.restore();
+    return mPainter;
+}
+
+} // namespace ZARN
