@@ -297,6 +297,7 @@ void TestDialogDataMap::serverGone()
     TileHost host;
     Window window(host.address());
     window.load();
+    window.settle(); // or coarser tiles of the way here would stand in for those that cannot come
     window.dialog->slotConsent(true);
     window.settle();
     host.stop();
