@@ -75,6 +75,9 @@ function(zarn_test name source)
     # No session bus: the toolkit would start one for each test, and leak a little in it.
     set_tests_properties(${name} PROPERTIES LABELS "${ARG_LABELS};gui" RESOURCE_LOCK display
                                             ENVIRONMENT "DBUS_SESSION_BUS_ADDRESS=disabled:")
+    if(ZARN_SANITIZE)
+      target_sources(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests/sanitize/KeepLibraries.cpp")
+    endif()
   else()
     set_tests_properties(${name} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
   endif()

@@ -23,7 +23,7 @@ pid %1/nginx.pid;
 error_log %1/error.log warn;
 events { worker_connections 64; }
 http {
-    log_format line '$connection|$request_uri|$status|$http_user_agent|$http_if_none_match|$server_protocol|$http_cookie';
+    log_format line '$connections_active|$request_uri|$status|$http_user_agent|$http_if_none_match|$server_protocol|$http_cookie';
     access_log %1/access.log line;
     client_body_temp_path %1/body; proxy_temp_path %1/proxy; fastcgi_temp_path %1/fastcgi; uwsgi_temp_path %1/uwsgi; scgi_temp_path %1/scgi;
     types { image/png png; text/html html; }
@@ -109,7 +109,7 @@ QList<TileRequest> TileHost::requests() const
     for (const QString& line : lines) {
         const QStringList parts = line.split(QLatin1Char('|'));
         if (parts.size() == 7)
-            result << TileRequest{parts[0], parts[1], parts[2].toInt(), parts[3], parts[4], parts[5], parts[6]};
+            result << TileRequest{parts[0].toInt(), parts[1], parts[2].toInt(), parts[3], parts[4], parts[5], parts[6]};
     }
     return result;
 }

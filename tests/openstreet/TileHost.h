@@ -11,7 +11,7 @@ namespace OpenStreet::Test {
 
 /// One line of the server's log.
 struct TileRequest {
-    QString connection;
+    int connections; ///< open ones, its own with them
     QString path;
     int status = 0;
     QString userAgent;

@@ -19,7 +19,12 @@ public:
     {
         setAttribute(Qt::WA_TransparentForMouseEvents);
     }
-    ~CardSurface() override { release(); }
+    ~CardSurface() override
+    {
+        release();
+        if (context())
+            disconnect(context(), nullptr, this, nullptr); // it outlives this part of the object
+    }
 
     QWidget& widget() override { return *this; }
     void requestFrame() override { update(); }

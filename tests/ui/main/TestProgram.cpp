@@ -95,7 +95,7 @@ void TestProgram::german()
     QVERIFY(settings.open(QIODevice::WriteOnly));
     settings.write("<ZARN><Property id=\"Locale\" value=\"de\"/></ZARN>");
     settings.close();
-    verifyOrder(run(home.path(), {}), {"Translation QT <de> 1\n", "Translation IOS <de> 1\n", "Kein OpenGL: Graph und Karte"});
+    verifyOrder(run(home.path(), {}), {"Translation QT <de> 1\n", "Translation IOS <de> 1\n", "Kein OpenGL: die Karte"});
 }
 
 void TestProgram::safeMode()
