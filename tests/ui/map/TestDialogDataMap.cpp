@@ -486,6 +486,9 @@ void TestDialogDataMap::pathOfADay()
     window.map().scene().path().setPoints(points);
     window.map().fitPath();
     window.settle();
+    const int paints = window.map().paints(); // frames of so long a path are far apart
+    window.map().setDirty();
+    QTRY_VERIFY(window.map().paints() > paints);
     const int builds = window.map().scene().geometry().builds();
     for (int i = 0; i < 20; ++i) {
         QTest::keyClick(&window.map(), Qt::Key_Right, Qt::ControlModifier);
