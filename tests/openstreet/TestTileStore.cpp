@@ -110,6 +110,7 @@ void TestTileStore::nothingBeforeConsent()
     QVERIFY(mpHost->requests().isEmpty());
     store.store.setAllowed(true);
     QVERIFY(store.waitIdle());
+    QTRY_COMPARE(mpHost->requests().size(), qsizetype(20)); // the server notes a request once it is answered
     store.store.setAllowed(false); // taken back: what is here stays, nothing new comes
     mpHost->clearLog();
     store.store.want(block(6, 3, 3, 4, 4), {});
