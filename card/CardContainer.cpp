@@ -8,6 +8,7 @@
 
 #include <QFile>
 
+#include <algorithm>
 #include <filesystem>
 
 namespace ZARN {
@@ -49,6 +50,11 @@ std::optional<std::vector<std::string>> plainFiles(const QString& path)
     return names;
 }
 
+UnreadFile unreadFile(const RecordFile& file)
+{
+    return {QString::fromStdString(lastComponent(file.fileName)), file.failure() == RecordFile::eNotOpened ? file.systemError() : 0};
+}
+
 int64_t wholeMilliseconds(double seconds)
 {
     return saturatingCast<int64_t>(seconds * 1000);
@@ -84,14 +90,18 @@ bool CardContainer::readContainer(const QString& path)
 
 void CardContainer::readHeaders(const std::vector<std::string>& names)
 {
+    mUnread.clear();
     for (const std::string& name : names) {
         if (isRecordFile(name)) {
             RecordFile file(mConsole, *mpProgress);
             file.readRecordInfo(mPath + "/" + QString::fromStdString(name));
             mFiles[name] = file.recordInfo();
+            if (file.failure() != RecordFile::eNoFailure)
+                mUnread.push_back(unreadFile(file));
         }
         mpProgress->setProgress(0); // whole-number division of the file's number by their count: 0 until all are read
     }
+    std::sort(mUnread.begin(), mUnread.end(), [](const UnreadFile& a, const UnreadFile& b) { return a.name < b.name; });
     mpProgress->setProgress(100);
 }
 
@@ -174,6 +184,7 @@ void CardContainer::loadFiles(const std::list<QString>& files)
     mValues.clear();
     mLoadedCycle.reset();
     mLoadError.clear();
+    mLost.clear();
     mFlightIsSelected = false;
     mDateTime = {};
     mStartTime = mEndTime = 0.0;
@@ -207,6 +218,10 @@ void CardContainer::loadFile(const RecordInfo& info)
     file.setRecordInfo(info);
     if (!file.readRecordData(mData) && mLoadError.empty())
         mLoadError = info.fileName.toStdString() + ": not enough memory for its records";
+    const UnreadFile unread = unreadFile(file);
+    const auto isKnown = [&unread](const UnreadFile& other) { return other.name == unread.name; };
+    if (file.failure() != RecordFile::eNoFailure && std::none_of(mUnread.begin(), mUnread.end(), isKnown))
+        mLost.push_back(unread);
     mConsole.print("load Files <%s>\n", info.fileName.toUtf8().constData());
 }
 

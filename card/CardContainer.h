@@ -12,6 +12,12 @@ namespace ZARN {
 
 class Progress;
 
+/// A record file that could not be read, or not whole.
+struct UnreadFile {
+    QString name;        ///< without its folder
+    int systemError = 0; ///< why it could not be opened; 0 for a file that is too short
+};
+
 /// The owner of a card's data: the files of a card folder, the power cycles that they form, and the records of the cycle
 /// that is loaded. The desktop program has one, reached by instance(); tests and the batch program make their own.
 class CardContainer {
@@ -41,8 +47,12 @@ public:
     bool loadCycle(unsigned int cycle, int flight);
     /// Loads the records of files of this card, given by name or path, replacing what was loaded.
     void loadFiles(const std::list<QString>& files);
-    /// Which file the memory did not suffice for in the last load; else empty. Files that cannot be read are said on the console.
+    /// Which file the memory did not suffice for in the last load; else empty. What cannot be read is said on the console, and below.
     [[nodiscard]] const std::string& loadError() const { return mLoadError; }
+    /// The record files of the folder that could not be read when it was, by name.
+    [[nodiscard]] const std::vector<UnreadFile>& unreadFiles() const { return mUnread; }
+    /// Those of the last load that could be read when the folder was: the card was pulled, or has a fault.
+    [[nodiscard]] const std::vector<UnreadFile>& lostFiles() const { return mLost; }
     void calcIndex();
     void calcFlights(RecordCycle& cycle);
     void calcFlightStatistic(RecordFlight& flight);
@@ -102,6 +112,8 @@ private:
     double mStartTime = 0.0;
     double mEndTime = 0.0;
     std::string mLoadError;
+    std::vector<UnreadFile> mUnread;
+    std::vector<UnreadFile> mLost;
 };
 
 } // namespace ZARN

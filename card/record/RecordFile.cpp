@@ -83,17 +83,21 @@ template <bool Swap> StoredRecord parseRecord(const uint8_t* pRecord)
 
 RecordFile::File RecordFile::openFile()
 {
+    mFailure = eNotOpened;
     // Not blocking: a pipe in the folder must not stop the program.
     const int descriptor = open(QFile::encodeName(fileName).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-    if (descriptor < 0)
+    if (descriptor < 0) {
+        mSystemError = errno;
         return nullptr;
+    }
     struct stat status {};
     if (fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) {
         close(descriptor);
-        errno = EINVAL;
+        mSystemError = EINVAL;
         return nullptr;
     }
     recordCount = recordsOf(status.st_size);
+    mFailure = status.st_size < kHeaderSize ? eTooShort : eNoFailure;
     return File(fdopen(descriptor, "rb"));
 }
 
@@ -102,9 +106,8 @@ void RecordFile::readRecordInfo(const QString& path)
     fileName = path;
     const File file = openFile();
     if (!file) {
-        const int error = errno;
         mConsole.print("RecordFile::readRecordInfo: Could not open %s\n", fileName.toUtf8().constData());
-        mConsole.systemError("Error:", error);
+        mConsole.systemError("Error:", mSystemError);
         return;
     }
     samples = static_cast<uint32_t>(recordCount);
@@ -208,6 +211,7 @@ template <bool Swap> bool RecordFile::readRecords(FILE* pFile, RecordData& data)
         }
         done += got;
         if (got < wanted) {
+            mFailure = eTooShort;
             mConsole.print("RecordFile::readData: %s ends after %d of %d records\n", fileName.toUtf8().constData(), done, recordCount);
             break;
         }

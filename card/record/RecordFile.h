@@ -21,6 +21,9 @@ public:
     static constexpr int64_t kHeaderSize = 128;
     static constexpr int64_t kRecordSize = 28;
 
+    /// What kept the last pass from reading all of the file.
+    enum EFailure { eNoFailure, eNotOpened, eTooShort /**< for its header, or for the records that its size promised */ };
+
     /// The header pass. A file that cannot be opened is said on the console and leaves the info as it was.
     void readRecordInfo(const QString& path);
     /// The full pass: appends every data record of the file named by `fileName`. @return false when memory ran out.
@@ -29,6 +32,10 @@ public:
     bool readInfo(FILE* pFile, bool withTimes);
     /// Reads the data records from the file's position on. @return false only when no memory is left for them.
     bool readData(FILE* pFile, RecordData& data);
+
+    [[nodiscard]] EFailure failure() const { return mFailure; }
+    /// The system's number of the error for a file that could not be opened.
+    [[nodiscard]] int systemError() const { return mSystemError; }
 
     [[nodiscard]] const RecordInfo& recordInfo() const { return *this; }
     void setRecordInfo(const RecordInfo& info) { static_cast<RecordInfo&>(*this) = info; }
@@ -68,6 +75,8 @@ private:
 
     const Console& mConsole;
     Progress& mProgress;
+    EFailure mFailure = eNoFailure;
+    int mSystemError = 0;
     bool swapped = false; ///< the file's byte order differs from the host's
     int32_t recordCount = 0;
     int32_t progress = 0; ///< percent

@@ -1,6 +1,7 @@
 #include "openstreet/core/TileImage.h"
 
 #include <QBuffer>
+#include <QCoreApplication>
 #include <QImageReader>
 
 #include <algorithm>
@@ -32,26 +33,26 @@ QImage TileImage::decode(const QByteArray& bytes, QString* pReason)
 {
     const auto refuse = [pReason](const char* reason) {
         if (pReason)
-            *pReason = QLatin1String(reason);
+            *pReason = QCoreApplication::translate("OpenStreet::TileImage", reason);
         return QImage();
     };
     if (bytes.size() > kMaxBytes)
-        return refuse("more than 4 MiB");
+        return refuse(QT_TRANSLATE_NOOP("OpenStreet::TileImage", "more than 4 MiB"));
     const char* pFormat = format(bytes);
     if (!pFormat)
-        return refuse("no picture");
+        return refuse(QT_TRANSLATE_NOOP("OpenStreet::TileImage", "no picture"));
     if (!isWhole(bytes))
-        return refuse("the picture breaks off");
+        return refuse(QT_TRANSLATE_NOOP("OpenStreet::TileImage", "the picture breaks off"));
     QBuffer buffer;
     buffer.setData(bytes);
     QImageReader reader(&buffer, pFormat);
     reader.setAutoDetectImageFormat(false);
     const QSize size = reader.size();
     if (size.isEmpty() || size.width() > kMaxEdge || size.height() > kMaxEdge)
-        return refuse("not a picture of at most 1024 x 1024 pixels");
+        return refuse(QT_TRANSLATE_NOOP("OpenStreet::TileImage", "not a picture of at most 1024 x 1024 pixels"));
     QImage image = reader.read();
     if (image.isNull())
-        return refuse("the picture is damaged");
+        return refuse(QT_TRANSLATE_NOOP("OpenStreet::TileImage", "the picture is damaged"));
     if (image.width() > kKeptEdge || image.height() > kKeptEdge)
         image = image.scaled(kKeptEdge, kKeptEdge, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     return image.convertToFormat(image.hasAlphaChannel() ? QImage::Format_RGBA8888_Premultiplied : QImage::Format_RGBX8888);

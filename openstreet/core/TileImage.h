@@ -13,7 +13,7 @@ public:
     static constexpr int kMaxEdge = 1024;
     static constexpr int kKeptEdge = 512; ///< larger pictures are kept smaller
 
-    /// @param pReason receives why a picture is refused, in English. @return a null image when the bytes are no whole picture in PNG, JPEG
+    /// @param pReason receives why a picture is refused, for people. @return a null image when the bytes are no whole picture in PNG, JPEG
     /// or WebP, have more than kMaxBytes or more than kMaxEdge pixels along an edge. Else 32 bits a pixel, premultiplied alpha.
     [[nodiscard]] static QImage decode(const QByteArray& bytes, QString* pReason = nullptr);
 

@@ -2,6 +2,7 @@
 
 #include "openstreet/core/TileImage.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QLocale>
 #include <QNetworkReply>
@@ -162,10 +163,10 @@ TileReply TileLoader::judge(QNetworkReply& reply) const
     TileReply result;
     const int status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
     readHeaders(reply, result);
-    result.reason = status == 0 ? reply.errorString() : QString(QLatin1String("HTTP status %1")).arg(status);
+    result.reason = status == 0 ? reply.errorString() : QCoreApplication::translate("OpenStreet::TileLoader", "HTTP status %1").arg(status);
     if (reply.property(kTooLarge).toBool()) {
         result.kind = TileReply::eRefused;
-        result.reason = QLatin1String("more than 4 MiB");
+        result.reason = QCoreApplication::translate("OpenStreet::TileLoader", "more than 4 MiB");
     } else if (status == 304) {
         result.kind = TileReply::eNotModified;
     } else if (status == 200 && reply.error() == QNetworkReply::NoError) {

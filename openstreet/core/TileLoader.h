@@ -25,7 +25,7 @@ struct TileReply {
     TileRecord record;
     bool mayBeKept = true; ///< on disk
     qint64 retryAfter = 0; ///< seconds that the server asks to wait; 0 when it says nothing
-    QString reason;        ///< why there is no tile, in English
+    QString reason;        ///< why there is no tile, for people
 };
 
 /// Fetches tiles over HTTP, at most two at a time and so over at most two connections. Sends no cookies and no credentials, follows

@@ -15,6 +15,10 @@
         <source>Compiled %1 with Qt %2, running on Qt %3</source>
         <translation>Übersetzt %1 mit Qt %2, läuft mit Qt %3</translation>
     </message>
+    <message>
+        <source>Licences</source>
+        <translation>Lizenzen</translation>
+    </message>
 </context>
 <context>
     <name>DialogHelp</name>
@@ -99,6 +103,40 @@
     </message>
 </context>
 <context>
+    <name>OpenStreet::TileImage</name>
+    <message>
+        <source>more than 4 MiB</source>
+        <translation>mehr als 4 MiB</translation>
+    </message>
+    <message>
+        <source>no picture</source>
+        <translation>kein Bild</translation>
+    </message>
+    <message>
+        <source>the picture breaks off</source>
+        <translation>das Bild bricht ab</translation>
+    </message>
+    <message>
+        <source>not a picture of at most 1024 x 1024 pixels</source>
+        <translation>kein Bild von höchstens 1024 x 1024 Pixeln</translation>
+    </message>
+    <message>
+        <source>the picture is damaged</source>
+        <translation>das Bild ist beschädigt</translation>
+    </message>
+</context>
+<context>
+    <name>OpenStreet::TileLoader</name>
+    <message>
+        <source>HTTP status %1</source>
+        <translation>HTTP-Status %1</translation>
+    </message>
+    <message>
+        <source>more than 4 MiB</source>
+        <translation>mehr als 4 MiB</translation>
+    </message>
+</context>
+<context>
     <name>WidgetGraphBase</name>
     <message>
         <source>Graph of the selected parameters</source>
@@ -134,6 +172,24 @@
     <message>
         <source>ZARN Warning</source>
         <translation>ZARN Warnung</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n record file(s) of the card could not be read:</source>
+        <translation>
+            <numerusform>%n Aufzeichnungsdatei der Karte konnte nicht gelesen werden:</numerusform>
+            <numerusform>%n Aufzeichnungsdateien der Karte konnten nicht gelesen werden:</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>... and %n more</source>
+        <translation>
+            <numerusform>... und %n weitere</numerusform>
+            <numerusform>... und %n weitere</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the file is too short</source>
+        <translation>die Datei ist zu kurz</translation>
     </message>
 </context>
 <context>
@@ -368,6 +424,10 @@ Im Profilfeld die gewünschten Parameter ankreuzen.</translation>
         <source>Setup...</source>
         <translation>Einrichten...</translation>
     </message>
+    <message>
+        <source>Flight Report...</source>
+        <translation>Flugbericht...</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::DialogDataLimit</name>
@@ -452,6 +512,10 @@ Im Profilfeld die gewünschten Parameter ankreuzen.</translation>
     <message>
         <source>Take Off Distance 15m</source>
         <translation>Startstrecke 15m</translation>
+    </message>
+    <message>
+        <source>Flight Report...</source>
+        <translation>Flugbericht...</translation>
     </message>
 </context>
 <context>
@@ -968,6 +1032,22 @@ Im Profilfeld die gewünschten Parameter ankreuzen.</translation>
     <message>
         <source>ZARN Profile (*.xml);;All files (*.*)</source>
         <translation>ZARN-Profil (*.xml);;Alle Dateien (*.*)</translation>
+    </message>
+    <message>
+        <source>Load map tiles from the network</source>
+        <translation>Kartenkacheln aus dem Netz laden</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>Karte</translation>
+    </message>
+    <message>
+        <source>Server: %1. It learns which area is looked at.</source>
+        <translation>Server: %1. Er erfährt, welches Gebiet betrachtet wird.</translation>
+    </message>
+    <message>
+        <source>The setting &quot;TileServer&quot; is no address of map tiles.</source>
+        <translation>Die Einstellung „TileServer“ ist keine Adresse für Kartenkacheln.</translation>
     </message>
 </context>
 <context>
@@ -1528,8 +1608,8 @@ Ersetzen ?</translation>
         <translation>Offline bleiben</translation>
     </message>
     <message>
-        <source>Load detailed map tiles from %1? The server then learns which area is looked at. The answer can be changed in the map&apos;s menu.</source>
-        <translation>Genaue Kartenkacheln von %1 laden? Der Server erfährt dann, welches Gebiet betrachtet wird. Die Antwort lässt sich im Menü der Karte ändern.</translation>
+        <source>Load detailed map tiles from %1? The server then learns which area is looked at. The answer can be changed in the map&apos;s menu and in the preferences.</source>
+        <translation>Genaue Kartenkacheln von %1 laden? Der Server erfährt dann, welches Gebiet betrachtet wird. Die Antwort lässt sich im Menü der Karte und in den Einstellungen ändern.</translation>
     </message>
 </context>
 <context>

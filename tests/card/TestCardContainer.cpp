@@ -193,12 +193,18 @@ void TestCardContainer::unreadableFileStartsACycle()
     TestCycle cycle;
     QVERIFY(cycle.container.readContainer(card.write()));
     QCOMPARE(cycles(cycle.container), QString("0:@01 12:00:00.000=A; 1:Cycle 1@01 12:00:00.000=B+C"));
+    QCOMPARE(cycle.container.unreadFiles().size(), std::size_t(1));
+    QCOMPARE(cycle.container.unreadFiles().front().name, QString("B.CAN"));
     std::filesystem::remove(card.path().toStdString() + "/C.CAN"); // the card is pulled between listing and loading
     QVERIFY(cycle.container.loadCycle(1, -1));
     QCOMPARE(cycle.container.recordData().count(), 0U);
+    QCOMPARE(cycle.container.lostFiles().size(), std::size_t(1)); // that of B is known
+    QCOMPARE(cycle.container.lostFiles().front().name, QString("C.CAN"));
+    QCOMPARE(cycle.container.lostFiles().front().systemError, ENOENT);
     QVERIFY(cycle.lines.find("RecordFile::readRecordData: Could not open " + card.path().toStdString() + "/C.CAN\n") != std::string::npos);
     QVERIFY(cycle.container.loadCycle(0, -1));
     QCOMPARE(cycle.container.recordData().count(), 1U);
+    QVERIFY(cycle.container.lostFiles().empty());
 }
 
 void TestCardContainer::loadedSpanIsThatOfTheFiles()

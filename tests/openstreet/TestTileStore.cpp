@@ -7,6 +7,7 @@
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTest>
+#include <QTranslator>
 
 #include <algorithm>
 #include <set>
@@ -16,6 +17,17 @@ using OpenStreet::Test::TileHost;
 using OpenStreet::Test::TileRequest;
 
 namespace {
+
+/// Puts brackets about the texts that are there to be translated.
+class Brackets : public QTranslator {
+public:
+    Brackets() { QCoreApplication::installTranslator(this); }
+    [[nodiscard]] bool isEmpty() const override { return false; }
+    QString translate(const char* context, const char* source, const char*, int) const override
+    {
+        return QByteArray(context).startsWith("OpenStreet::") ? QString(QLatin1String("[%1]")).arg(QLatin1String(source)) : QString();
+    }
+};
 
 constexpr const char* kRules = R"(
     location /missing/ { return 404; }
@@ -98,6 +110,7 @@ void TestTileStore::nothingBeforeConsent()
     QVERIFY(mpHost->requests().isEmpty());
     store.store.setAllowed(true);
     QVERIFY(store.waitIdle());
+    QTRY_COMPARE(mpHost->requests().size(), qsizetype(20)); // the server notes a request once it is answered
     store.store.setAllowed(false); // taken back: what is here stays, nothing new comes
     mpHost->clearLog();
     store.store.want(block(6, 3, 3, 4, 4), {});
@@ -194,14 +207,14 @@ void TestTileStore::failures_data()
     QTest::addColumn<QString>("place");
     QTest::addColumn<qsizetype>("requests"); // for one tile, at once
     QTest::addColumn<QString>("reason");
-    QTest::newRow("404") << "/missing" << qsizetype(1) << "404";
-    QTest::newRow("500") << "/broken" << qsizetype(1) << "500";
-    QTest::newRow("redirections without end") << "/loop" << qsizetype(4) << "302";
-    QTest::newRow("redirection to another server") << "/elsewhere" << qsizetype(1) << "302";
-    QTest::newRow("no picture") << "/text" << qsizetype(1) << "no picture";
-    QTest::newRow("breaks off") << "/truncated" << qsizetype(1) << "breaks off";
-    QTest::newRow("above 4 MiB") << "/huge" << qsizetype(1) << "4 MiB";
-    QTest::newRow("above 1024 pixels") << "/wide" << qsizetype(1) << "1024";
+    QTest::newRow("404") << "/missing" << qsizetype(1) << "[HTTP status 404]";
+    QTest::newRow("500") << "/broken" << qsizetype(1) << "[HTTP status 500]";
+    QTest::newRow("redirections without end") << "/loop" << qsizetype(4) << "[HTTP status 302]";
+    QTest::newRow("redirection to another server") << "/elsewhere" << qsizetype(1) << "[HTTP status 302]";
+    QTest::newRow("no picture") << "/text" << qsizetype(1) << "[no picture]";
+    QTest::newRow("breaks off") << "/truncated" << qsizetype(1) << "[the picture breaks off]";
+    QTest::newRow("above 4 MiB") << "/huge" << qsizetype(1) << "[more than 4 MiB]";
+    QTest::newRow("above 1024 pixels") << "/wide" << qsizetype(1) << "[not a picture of at most 1024 x 1024 pixels]";
     QTest::newRow("slow") << "/slow" << qsizetype(1) << "";
 }
 
@@ -210,6 +223,7 @@ void TestTileStore::failures()
     QFETCH(QString, place);
     QFETCH(qsizetype, requests);
     QFETCH(QString, reason);
+    const Brackets translated;
     Store store(mpHost->address(place));
     store.store.loader().setTimeouts(400, 900);
     store.store.want({{4, 2, 2}}, {});

@@ -3,12 +3,15 @@
 #include <QStyleOptionTab>
 #include <QStylePainter>
 
+#include <algorithm>
+
 namespace ZARN {
 
 namespace {
 
 constexpr int kIcon = 32;
 constexpr int kMargin = 6; // left and right of the title
+constexpr int kTightMargin = 2;
 constexpr int kTextSize = 12;
 constexpr int kAbove = 5;
 constexpr int kBelow = 6; // the style's line under the selected tab
@@ -51,6 +54,31 @@ QSize DataTabBar::tabSizeHint(int index) const
     return {std::max(metrics.horizontalAdvance(tabText(index)), kIcon) + 2 * kMargin, kAbove + kIcon + metrics.height() + kBelow};
 }
 
+QSize DataTabBar::minimumTabSizeHint(int index) const
+{
+    const QSize whole = tabSizeHint(index);
+    return {std::min(whole.width() - 2 * (kMargin - kTightMargin), widestTab()), whole.height()};
+}
+
+/// The width that no tab may exceed, or they would not all fit: the long titles give way, not the short ones.
+int DataTabBar::widestTab() const
+{
+    std::vector<int> widths;
+    for (int index = 0; index < count(); ++index)
+        widths.push_back(tabSizeHint(index).width() - 2 * (kMargin - kTightMargin));
+    constexpr int kLeast = kIcon + 2 * kTightMargin;
+    int widest = widths.empty() ? kLeast : std::max(*std::max_element(widths.begin(), widths.end()), kLeast);
+    const auto together = [&] {
+        int sum = 0;
+        for (const int width : widths)
+            sum += std::min(width, widest);
+        return sum;
+    };
+    while (widest > kLeast && together() > width())
+        --widest;
+    return widest;
+}
+
 void DataTabBar::paintEvent(QPaintEvent* /*pEvent*/)
 {
     QStylePainter painter(this);
@@ -70,7 +98,8 @@ void DataTabBar::paintTab(QPainter& painter, int index)
     const QRect title(option.rect.left(), icon.bottom() + 1, option.rect.width(), option.rect.bottom() - icon.bottom() - kBelow);
     painter.setFont(titleFont(selected));
     painter.setPen(palette().color(QPalette::WindowText));
-    painter.drawText(title, Qt::AlignCenter | Qt::TextSingleLine, option.text);
+    const QString text = QFontMetrics(painter.font()).elidedText(option.text, Qt::ElideRight, title.width() - 2);
+    painter.drawText(title, Qt::AlignCenter | Qt::TextSingleLine, text);
     if (hasFocus() && selected) {
         painter.setPen(QPen(palette().color(QPalette::Highlight), 1, Qt::DotLine));
         painter.drawRect(option.rect.adjusted(2, 2, -3, -4));

@@ -6,7 +6,8 @@
 
 namespace ZARN {
 
-/// The tabs of the data area: the icon above the title, so that all six fit a small window, and a count at the icon's corner.
+/// The tabs of the data area: the icon above the title, so that all six fit a small window, and a count at the icon's corner. Where they do
+/// not fit, they stand closer, and the longest titles are elided.
 class DataTabBar : public QTabBar {
     Q_OBJECT
 
@@ -19,10 +20,11 @@ public:
 
 protected:
     [[nodiscard]] QSize tabSizeHint(int index) const override;
-    [[nodiscard]] QSize minimumTabSizeHint(int index) const override { return tabSizeHint(index); }
+    [[nodiscard]] QSize minimumTabSizeHint(int index) const override;
     void paintEvent(QPaintEvent* pEvent) override;
 
 private:
+    [[nodiscard]] int widestTab() const;
     void paintTab(QPainter& painter, int index);
     void paintCount(QPainter& painter, const QRect& icon, int count) const;
     [[nodiscard]] QFont titleFont(bool selected) const;

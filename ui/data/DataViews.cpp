@@ -26,16 +26,19 @@ DataViews DataViews::create(const Session& session, const QString& dataPath)
     auto* pGraph = new DialogDataGraph(session);
     auto* pLimits = new DialogDataLimit(session);
     auto* pWarnings = new DialogDataWarning(session);
+    auto* pStatistic = new DialogDataStatistic(session);
     auto* pMap = new DialogDataMap(session, dataPath);
     DataViews views;
     views.entries = {entry(pTable),  entry(pGraph),    entry(new DialogDataErrorMatrix(session)),
-                     entry(pLimits), entry(pWarnings), entry(new DialogDataStatistic(session)), entry(pMap)};
+                     entry(pLimits), entry(pWarnings), entry(pStatistic), entry(pMap)};
     views.connectTo = [=](DialogData& area) {
         QObject::connect(pTable, &DialogDataTable::signalTime, &area, &DialogData::slotTableTime);
         QObject::connect(pGraph, &DialogDataGraph::signalCursor, &area, &DialogData::slotCursor);
         QObject::connect(pLimits, &DialogDataLimit::signalTime, &area, &DialogData::slotLimitTime);
         QObject::connect(pWarnings, &DialogDataWarning::signalTime, &area, &DialogData::slotWarningTime);
         QObject::connect(pMap, &DialogDataMap::signalTime, &area, &DialogData::slotMapTime);
+        QObject::connect(pGraph, &DialogDataGraph::signalReport, &area, &DialogData::signalReport);
+        QObject::connect(pStatistic, &DialogDataStatistic::signalReport, &area, &DialogData::signalReport);
     };
     views.shareEvents = [=] { pMap->setEvents(pLimits->events(), pWarnings->events()); };
     return views;

@@ -89,6 +89,7 @@ void DialogData::createTabs()
     for (int i = 0; i < eViewMap; ++i) {
         mpStack->addWidget(mViews.entries[static_cast<std::size_t>(i)].pWidget);
         mpTabs->addTab(ImageHandler::icon(kTabs[i].icon), tr(kTabs[i].title));
+        mpTabs->setTabToolTip(i, tr(kTabs[i].title)); // where there is no room for the title
     }
     connect(mpTabs, &QTabBar::currentChanged, mpStack, &QStackedWidget::setCurrentIndex);
 }
@@ -186,6 +187,12 @@ void DialogData::loadProfile()
     matrix.loadProfile();
     matrix.updateRecord(mpRecord);
     matrix.setTime(mViewTime);
+}
+
+void DialogData::updateSettings()
+{
+    for (const DataViewEntry& entry : mViews.entries)
+        entry.pView->updateSettings();
 }
 
 void DialogData::push(Targets targets)
@@ -338,7 +345,7 @@ void DialogData::updateEventCounts()
     for (const EDataView view : {eViewLimits, eViewWarnings}) {
         const int count = mViews.view(view).eventCount();
         mpTabs->setCount(view, count);
-        mpTabs->setTabToolTip(view, count == 0 ? tr("No events") : tr("%n event(s)", nullptr, count));
+        mpTabs->setTabToolTip(view, mpTabs->tabText(view) + "\n" + (count == 0 ? tr("No events") : tr("%n event(s)", nullptr, count)));
     }
 }
 

@@ -39,6 +39,8 @@ public:
     /// Another profile file is in force: makes the fault matrix anew.
     void loadProfile();
     void setZarnMode(int /*mode*/) {}
+    /// The settings were changed, by another window.
+    void updateSettings();
 
     [[nodiscard]] double viewTime() const { return mViewTime; }
 
@@ -57,6 +59,10 @@ public Q_SLOTS:
     void slotReplaySpeed(double factor);
     void slotTimeoutReplay();
     void slotMapType(int type);
+
+Q_SIGNALS:
+    /// The user wants the report of what is shown, from the menu of a view.
+    void signalReport();
 
 private:
     using Targets = std::span<const EDataView>;

@@ -3,9 +3,12 @@
 #include "app/Numeric.h"
 #include "card/CardContainer.h"
 
+#include <QMenu>
 #include <QTextEdit>
 #include <QTime>
 #include <QVBoxLayout>
+
+#include <memory>
 
 namespace ZARN {
 
@@ -24,6 +27,8 @@ DialogDataStatistic::DialogDataStatistic(const Session& session, QWidget* pParen
 {
     mpEdit->setReadOnly(true);
     mpEdit->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    mpEdit->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(mpEdit, &QTextEdit::customContextMenuRequested, this, &DialogDataStatistic::showMenu);
     auto* pLayout = new QVBoxLayout(this);
     pLayout->setContentsMargins(0, 0, 0, 0);
     pLayout->addWidget(mpEdit);
@@ -43,6 +48,14 @@ void DialogDataStatistic::updateRecord(RecordData* pRecord)
         mText += "</table>";
     }
     mpEdit->setHtml(mText);
+}
+
+void DialogDataStatistic::showMenu(const QPoint& point)
+{
+    const std::unique_ptr<QMenu> menu(mpEdit->createStandardContextMenu(point));
+    menu->addSeparator();
+    menu->addAction(tr("Flight Report..."), this, &DialogDataStatistic::signalReport)->setEnabled(mpRecord != nullptr);
+    menu->exec(mpEdit->viewport()->mapToGlobal(point));
 }
 
 void DialogDataStatistic::addLine(const QString& label, const QString& value)

@@ -25,7 +25,12 @@ public:
     /// Appends a row to the text that is being built.
     void addLine(const QString& label, const QString& value);
 
+Q_SIGNALS:
+    /// The user wants the report of the loaded data.
+    void signalReport();
+
 private:
+    void showMenu(const QPoint& point);
     void addFlight(const RecordFlight& flight);
 
     const Session mSession;

@@ -2,14 +2,17 @@
 
 #include "app/Numeric.h"
 #include "app/gui/ImageHandler.h"
+#include "ui/data/ReplayButton.h"
 
 #include <QDateTime>
 #include <QDoubleSpinBox>
+#include <QEvent>
 #include <QLCDNumber>
-#include <QPushButton>
 #include <QSlider>
 #include <QTimeEdit>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace ZARN {
 
@@ -19,7 +22,6 @@ constexpr int kDateDigits = 19;
 constexpr int kTimeDigits = 12;
 constexpr QSize kClockSize(220, 60);
 constexpr int kEntryWidth = 120;
-constexpr int kButtonWidth = 132; // of the longest of the button's texts, so that nothing moves when it changes
 constexpr int kSliderWidth = 120;
 constexpr double kHundredths = 100.0;
 constexpr const char* kClockStyle = "QLCDNumber { background-color: white; color: rgb(195, 171, 99); border: 1px solid #b4bfca; }";
@@ -39,16 +41,13 @@ QLCDNumber* createClock(const char* name, int digits, const QString& text)
 } // namespace
 
 WidgetReplayBar::WidgetReplayBar(bool emu, QWidget* pParent)
-    : QWidget(pParent), mpReplay(new QPushButton), mpStop(new QPushButton(tr("Replay Stop"))), mpPosition(new QSlider(Qt::Horizontal)),
+    : QWidget(pParent), mpReplay(new ReplayButton("replay")), mpStop(new ReplayButton("stop")), mpPosition(new QSlider(Qt::Horizontal)),
       mpTime(new QTimeEdit), mpSpeedSlider(new QSlider(Qt::Horizontal)), mpSpeed(new QDoubleSpinBox), mpUpper(new QHBoxLayout),
       mpLower(new QHBoxLayout)
 {
     createClocks();
-    mpReplay->setObjectName("replay");
-    mpReplay->setMinimumWidth(kButtonWidth);
-    mpStop->setObjectName("stop");
-    mpStop->setMinimumWidth(kButtonWidth);
-    mpStop->setIcon(ImageHandler::icon("replay-stop"));
+    mpStop->setLook(tr("Replay Stop"), ImageHandler::icon("replay-stop"));
+    setReplay(eStopped);
     mpPosition->setObjectName("position");
     mpPosition->setRange(0, kPositions);
     mpPosition->setMinimumWidth(kSliderWidth);
@@ -63,7 +62,7 @@ WidgetReplayBar::WidgetReplayBar(bool emu, QWidget* pParent)
     pLayout->setContentsMargins(0, 0, 0, 0);
     pLayout->addLayout(mpUpper);
     pLayout->addLayout(mpLower);
-    arrange(false);
+    fillLines(false);
     for (QWidget* pHidden : {static_cast<QWidget*>(mpTimeClock), static_cast<QWidget*>(mpPosition), static_cast<QWidget*>(mpTime)})
         pHidden->setVisible(!emu);
     connectControls();
@@ -88,13 +87,14 @@ void WidgetReplayBar::createSpeed()
     mpSpeed->setPrefix(tr("Speed "));
     mpSpeed->setFixedWidth(kEntryWidth);
     mpSpeed->setKeyboardTracking(false);
-    mpSpeed->setStyleSheet("QDoubleSpinBox { padding-left: 4px; padding-right: 18px; }"); // "Speed 100.00" must fit
+    mpSpeed->setStyleSheet("QDoubleSpinBox { padding-left: 2px; padding-right: 0px; }" // "Speed 100.00" must fit
+                           "QDoubleSpinBox::up-button, QDoubleSpinBox::down-button { width: 16px; }");
 }
 
 void WidgetReplayBar::connectControls()
 {
-    connect(mpReplay, &QPushButton::clicked, this, &WidgetReplayBar::signalReplay);
-    connect(mpStop, &QPushButton::clicked, this, &WidgetReplayBar::signalStop);
+    connect(mpReplay, &ReplayButton::clicked, this, &WidgetReplayBar::signalReplay);
+    connect(mpStop, &ReplayButton::clicked, this, &WidgetReplayBar::signalStop);
     connect(mpPosition, &QSlider::valueChanged, this, &WidgetReplayBar::signalPosition);
     connect(mpTime, &QTimeEdit::timeChanged, this, &WidgetReplayBar::signalTime);
     connect(mpSpeedSlider, &QSlider::valueChanged, this, &WidgetReplayBar::signalSpeedSlider);
@@ -102,7 +102,7 @@ void WidgetReplayBar::connectControls()
 }
 
 /// One line in the order of the tasks; in two lines the clocks and the time entry stand above the replay.
-void WidgetReplayBar::arrange(bool oneLine)
+void WidgetReplayBar::fillLines(bool oneLine)
 {
     mOneLine = oneLine;
     for (QBoxLayout* pLine : {mpUpper, mpLower}) {
@@ -126,31 +126,59 @@ void WidgetReplayBar::arrange(bool oneLine)
     updateGeometry();
 }
 
-int WidgetReplayBar::widthOfLine() const
+/// Of the widest of the buttons' texts, so that nothing moves when one changes.
+int WidgetReplayBar::widthOfText() const
 {
-    const int spacing = mpUpper->spacing();
-    return 2 * kClockSize.width() + 2 * kButtonWidth + 2 * kSliderWidth + 2 * kEntryWidth + 8 * spacing + kSliderWidth;
+    int width = mpStop->widthFor(mpStop->text());
+    for (const QString& text : {tr("Replay Start"), tr("Replay Pause"), tr("Replay Run")})
+        width = std::max(width, mpReplay->widthFor(text));
+    return width;
+}
+
+int WidgetReplayBar::widthOfReplay(int buttonWidth) const
+{
+    return 2 * buttonWidth + 2 * kSliderWidth + kEntryWidth + 4 * mpLower->spacing();
+}
+
+int WidgetReplayBar::widthOfClocks() const
+{
+    return 2 * kClockSize.width() + kEntryWidth + 3 * mpUpper->spacing();
 }
 
 QSize WidgetReplayBar::minimumSizeHint() const
 {
-    // That of two lines, or the bar could never become narrow enough for them.
-    const int width = 2 * kButtonWidth + 2 * kSliderWidth + kEntryWidth + 4 * mpLower->spacing();
-    return {width, QWidget::minimumSizeHint().height()};
+    // That of two lines and icons, or the bar could never become narrow enough for them.
+    return {std::max(widthOfReplay(mpStop->widthFor({})), widthOfClocks()), QWidget::minimumSizeHint().height()};
+}
+
+void WidgetReplayBar::arrange()
+{
+    const int text = widthOfText();
+    const bool oneLine = width() >= widthOfReplay(text) + widthOfClocks() + kSliderWidth; // with more than the least for the position
+    const int buttonWidth = width() >= widthOfReplay(text) ? text : mpStop->widthFor({});
+    mpReplay->setFixedWidth(buttonWidth);
+    mpStop->setFixedWidth(buttonWidth);
+    if (oneLine != mOneLine)
+        fillLines(oneLine);
 }
 
 void WidgetReplayBar::resizeEvent(QResizeEvent* pEvent)
 {
     QWidget::resizeEvent(pEvent);
-    const bool oneLine = width() >= widthOfLine();
-    if (oneLine != mOneLine)
-        arrange(oneLine);
+    arrange();
+}
+
+void WidgetReplayBar::changeEvent(QEvent* pEvent)
+{
+    QWidget::changeEvent(pEvent);
+    if (pEvent->type() == QEvent::FontChange || pEvent->type() == QEvent::StyleChange)
+        arrange();
 }
 
 void WidgetReplayBar::setReplay(int state)
 {
-    mpReplay->setText(state == eRunning ? tr("Replay Pause") : state == ePaused ? tr("Replay Run") : tr("Replay Start"));
-    mpReplay->setIcon(ImageHandler::icon(state == eRunning ? "replay-pause" : "replay-start"));
+    mpReplay->setLook(state == eRunning ? tr("Replay Pause") : state == ePaused ? tr("Replay Run") : tr("Replay Start"),
+                      ImageHandler::icon(state == eRunning ? "replay-pause" : "replay-start"));
     mpStop->setEnabled(state != eStopped);
 }
 

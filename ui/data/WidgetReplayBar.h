@@ -6,14 +6,16 @@ class QBoxLayout;
 class QDateTime;
 class QDoubleSpinBox;
 class QLCDNumber;
-class QPushButton;
 class QSlider;
 class QTimeEdit;
 
 namespace ZARN {
 
+class ReplayButton;
+
 /// The row of controls below the data views: two clocks, replay, position, time entry and speed. Shows what it is told and reports
-/// what the user does; its signals also come when it is told something. Breaks into two lines where one would be too wide.
+/// what the user does; its signals also come when it is told something. Breaks into two lines where one would be too wide, and
+/// leaves the texts of its buttons to their icons where those would be, too.
 class WidgetReplayBar : public QWidget {
     Q_OBJECT
 
@@ -45,18 +47,22 @@ Q_SIGNALS:
 
 protected:
     void resizeEvent(QResizeEvent* pEvent) override;
+    void changeEvent(QEvent* pEvent) override;
 
 private:
     void createClocks();
     void createSpeed();
     void connectControls();
-    void arrange(bool oneLine);
-    [[nodiscard]] int widthOfLine() const;
+    void arrange();
+    void fillLines(bool oneLine);
+    [[nodiscard]] int widthOfText() const;
+    [[nodiscard]] int widthOfReplay(int buttonWidth) const;
+    [[nodiscard]] int widthOfClocks() const;
 
     QLCDNumber* mpDateClock;
     QLCDNumber* mpTimeClock;
-    QPushButton* mpReplay;
-    QPushButton* mpStop;
+    ReplayButton* mpReplay;
+    ReplayButton* mpStop;
     QSlider* mpPosition;
     QTimeEdit* mpTime;
     QSlider* mpSpeedSlider;

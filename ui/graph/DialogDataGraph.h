@@ -34,6 +34,8 @@ public:
 
 Q_SIGNALS:
     void signalCursor(float time, double value);
+    /// The user wants the report of the loaded data.
+    void signalReport();
 
 protected:
     /// Asks where to save the snapshot; empty when the user gave up.

@@ -143,6 +143,7 @@ void DialogDataGraph::slotMenu(const QPoint& point)
     pCopy->setEnabled(mpGraph->model().hasMarkerRange() && mpGraph->nrActive() > 0);
     menu.addAction(tr("Copy Picture"), this, &DialogDataGraph::copyPicture);
     menu.addAction(tr("Snapshot..."), this, &DialogDataGraph::snapshot);
+    menu.addAction(tr("Flight Report..."), this, &DialogDataGraph::signalReport)->setEnabled(mpRecord != nullptr);
     menu.addSeparator();
     QAction* pMarker = menu.addAction(tr("Zoom Marker"), this, [this] { slotCommand(eZoomMarker); });
     pMarker->setEnabled(mpGraph->model().hasMarkerRange());

@@ -21,6 +21,7 @@ namespace ZARN {
 namespace {
 
 constexpr int kRetryMilliseconds = 50;
+constexpr int kMostListed = 8; // files; a message must fit the screen
 
 } // namespace
 
@@ -95,7 +96,7 @@ bool CardController::readFolder(const QString& path)
     else if (mSession.container.recordFiles().empty())
         mProblem = tr("The folder %1 holds no record file (*.CAN, *.can, *.xcb).").arg(QDir::toNativeSeparators(path));
     else
-        mProblem.clear();
+        mProblem = unreadFiles();
     return found;
 }
 
@@ -166,9 +167,34 @@ void CardController::runLoad(const Work& work)
 void CardController::reportLoad()
 {
     Q_EMIT signalDataChanged();
-    const std::string& error = mSession.container.loadError();
-    if (!error.empty())
-        warn(tr("Not everything could be loaded:\n%1").arg(QString::fromStdString(error)));
+    QStringList problems;
+    if (const std::string& error = mSession.container.loadError(); !error.empty())
+        problems.append(QString::fromStdString(error));
+    if (const std::vector<UnreadFile>& lost = mSession.container.lostFiles(); !lost.empty())
+        problems.append(listed(lost));
+    if (!problems.isEmpty())
+        warn(tr("Not everything could be loaded:\n%1").arg(problems.join('\n')));
+}
+
+QString CardController::unreadFiles() const
+{
+    const std::vector<UnreadFile>& files = mSession.container.unreadFiles();
+    if (files.empty())
+        return {};
+    return tr("%n record file(s) of the card could not be read:", nullptr, static_cast<int>(files.size())) + "\n" + listed(files);
+}
+
+QString CardController::listed(const std::vector<UnreadFile>& files)
+{
+    QStringList lines;
+    for (const UnreadFile& file : files) {
+        if (lines.size() == kMostListed) {
+            lines.append(tr("... and %n more", nullptr, static_cast<int>(files.size()) - kMostListed));
+            break;
+        }
+        lines.append(file.name.simplified() + ": " + (file.systemError != 0 ? qt_error_string(file.systemError) : tr("the file is too short")));
+    }
+    return lines.join('\n');
 }
 
 QString CardController::droppedFolder(const QMimeData* pData)

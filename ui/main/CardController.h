@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <list>
+#include <vector>
 
 class QMimeData;
 class QWidget;
@@ -16,6 +17,7 @@ namespace ZARN {
 class DialogCard;
 class RecentFolders;
 class StatusProgress;
+struct UnreadFile;
 
 /// Opens card folders and loads what the card browser chooses. Loads one thing at a time: what is asked for while another load
 /// paints the windows waits until that is done. Owned by the main window.
@@ -65,6 +67,10 @@ private:
     void runLoad(const Work& work);
     void reportLoad();
     void warn(const QString& text);
+    /// What could not be read of the folder, for people; empty when all was.
+    [[nodiscard]] QString unreadFiles() const;
+    /// The files by name with the reasons, for people: the first of them.
+    [[nodiscard]] static QString listed(const std::vector<UnreadFile>& files);
 
     Session mSession;
     DialogCard& mBrowser;

@@ -7,8 +7,9 @@
 #include <QFile>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QListWidget>
 #include <QPlainTextEdit>
-#include <QTabWidget>
+#include <QStackedWidget>
 
 namespace {
 
@@ -20,10 +21,11 @@ struct Licence {
 
 constexpr Licence kLicences[] = {
     {"ZARN", "zarn"},       {"Qt (LGPL 3)", "lgpl-3"}, {"GPL 3", "gpl-3"}, {"GeographicLib", "geographiclib"},
-    {"CLI11", "cli11"},     {"Lucide", "icons"},
+    {"CLI11", "cli11"},     {"FreeType", "freetype"},  {"Lucide", "icons"}, {"B612 Mono", "fonts"}, {"Natural Earth", "base-map"},
 };
 
 constexpr int kPictureSize = 48;
+constexpr int kListMargin = 40; // beside the longest name
 
 QString licenceText(const char* file)
 {
@@ -41,7 +43,7 @@ DialogAbout::DialogAbout(QWidget* pParent) : QDialog(pParent)
     auto* pLayout = new QVBoxLayout(this);
     pLayout->setSpacing(12);
     pLayout->addWidget(createHead());
-    pLayout->addWidget(createLicences(), 1);
+    pLayout->addLayout(createLicences(), 1);
     pLayout->addWidget(pButtons);
     resize(720, 560);
 }
@@ -68,13 +70,23 @@ QWidget* DialogAbout::createHead() const
     return pHead;
 }
 
-QWidget* DialogAbout::createLicences() const
+QLayout* DialogAbout::createLicences() const
 {
-    auto* pTabs = new QTabWidget;
+    auto* pNames = new QListWidget; // more than fit into a row of tabs
+    auto* pTexts = new QStackedWidget;
+    pNames->setAccessibleName(tr("Licences"));
     for (const Licence& licence : kLicences) {
         auto* pText = new QPlainTextEdit(licenceText(licence.file));
         pText->setReadOnly(true);
-        pTabs->addTab(pText, QLatin1String(licence.name));
+        pTexts->addWidget(pText);
+        pNames->addItem(QLatin1String(licence.name));
     }
-    return pTabs;
+    connect(pNames, &QListWidget::currentRowChanged, pTexts, &QStackedWidget::setCurrentIndex);
+    pNames->setCurrentRow(0);
+    pNames->ensurePolished();
+    pNames->setFixedWidth(pNames->sizeHintForColumn(0) + kListMargin);
+    auto* pLayout = new QHBoxLayout;
+    pLayout->addWidget(pNames);
+    pLayout->addWidget(pTexts, 1);
+    return pLayout;
 }

@@ -11,5 +11,5 @@ public:
 
 private:
     QWidget* createHead() const;
-    QWidget* createLicences() const;
+    QLayout* createLicences() const;
 };

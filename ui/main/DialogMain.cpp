@@ -237,6 +237,8 @@ void DialogMain::connectPanels()
     connect(mpCard, &DialogCard::signalLoadCycle, this, &DialogMain::slotLoadCycle);
     connect(mpProfileInfo, &DialogProfileInfo::signalProfileChanged, this, &DialogMain::slotProfileInstalled);
     connect(mpPreferences, &DialogPreferences::signalProfileFileChanged, this, &DialogMain::slotProfileFileChanged);
+    connect(mpPreferences, &DialogPreferences::signalTilesChanged, mpData, &DialogData::updateSettings);
+    connect(mpData, &DialogData::signalReport, action(eActionReport), &QAction::trigger);
     connect(mpCardController, &CardController::signalFolderChanged, this, &DialogMain::slotFolderChanged);
     connect(mpCardController, &CardController::signalDataChanging, this, &DialogMain::slotDataChanging);
     connect(mpCardController, &CardController::signalDataChanged, this, &DialogMain::slotDataChanged);

@@ -3,8 +3,12 @@
 #include "app/Property.h"
 #include "app/gui/ImageHandler.h"
 #include "app/gui/Kernel.h"
+#include "openstreet/core/TileServer.h"
+#include "ui/map/model/TileConsent.h"
 
+#include <QCheckBox>
 #include <QComboBox>
+#include <QEvent>
 #include <QFileDialog>
 #include <QFormLayout>
 #include <QGroupBox>
@@ -24,11 +28,17 @@ constexpr int kSmallestFont = 8;
 constexpr int kLargestFont = 20;
 constexpr int kDefaultFont = 12;
 
+OpenStreet::TileServer tileServer(const Property& property)
+{
+    return OpenStreet::TileServer(QString::fromStdString(property.getString("TileServer", OpenStreet::TileServer::kDefault)));
+}
+
 } // namespace
 
 DialogPreferences::DialogPreferences(const Session& session, Kernel& kernel, QWidget* pParent)
     : QDialog(pParent), mSession(session), mKernel(kernel), mpList(new QListWidget), mpPages(new QStackedWidget),
-      mpLanguage(new QComboBox), mpFontSize(new QSpinBox)
+      mpLanguage(new QComboBox), mpFontSize(new QSpinBox), mpTiles(new QCheckBox(tr("Load map tiles from the network"))),
+      mpTileServer(new QLabel)
 {
     setWindowTitle(tr("Preferences"));
     mpList->setIconSize(QSize(16, 16));
@@ -52,6 +62,7 @@ DialogPreferences::DialogPreferences(const Session& session, Kernel& kernel, QWi
     // Connected last: what filling the window sets is no change of the user's.
     connect(mpLanguage, &QComboBox::activated, this, [this](int index) { slotLanguage(mpLanguage->itemData(index).toString()); });
     connect(mpFontSize, &QSpinBox::valueChanged, this, &DialogPreferences::slotFont);
+    connect(mpTiles, &QCheckBox::clicked, this, &DialogPreferences::slotTiles);
 }
 
 QWidget* DialogPreferences::createGeneralPage()
@@ -68,8 +79,22 @@ QWidget* DialogPreferences::createGeneralPage()
     auto* pLayout = new QVBoxLayout(pPage);
     pLayout->setContentsMargins(8, 0, 0, 0);
     pLayout->addWidget(pGroup);
+    pLayout->addWidget(createMapGroup());
     pLayout->addStretch();
     return pPage;
+}
+
+QWidget* DialogPreferences::createMapGroup()
+{
+    mpTiles->setObjectName("tiles");
+    mpTileServer->setObjectName("tileServer");
+    mpTileServer->setTextFormat(Qt::PlainText);
+    mpTileServer->setWordWrap(true);
+    auto* pGroup = new QGroupBox(tr("Map"));
+    auto* pLayout = new QVBoxLayout(pGroup);
+    pLayout->addWidget(mpTiles);
+    pLayout->addWidget(mpTileServer);
+    return pGroup;
 }
 
 QWidget* DialogPreferences::createProfilePage()
@@ -103,6 +128,31 @@ void DialogPreferences::fillDialog()
     mpLanguage->setCurrentIndex(mpLanguage->findData(locale));
     const QSignalBlocker blocker(mpFontSize);
     mpFontSize->setValue(mSession.property.getInt("FontSize", kDefaultFont));
+    fillTiles();
+}
+
+void DialogPreferences::fillTiles()
+{
+    const OpenStreet::TileServer server = tileServer(mSession.property);
+    mpTiles->setEnabled(server.isValid());
+    mpTiles->setChecked(server.isValid() && TileConsent(mSession.property).answer(server.address()) == TileConsent::eYes);
+    mpTileServer->setText(server.isValid() ? tr("Server: %1. It learns which area is looked at.").arg(server.name())
+                                           : tr("The setting \"TileServer\" is no address of map tiles."));
+}
+
+bool DialogPreferences::event(QEvent* pEvent)
+{
+    // The map asks the same question, and may have its answer since this window was last looked at.
+    if (pEvent->type() == QEvent::Show || pEvent->type() == QEvent::WindowActivate)
+        fillTiles();
+    return QDialog::event(pEvent);
+}
+
+void DialogPreferences::slotTiles(bool isAllowed)
+{
+    TileConsent(mSession.property).set(tileServer(mSession.property).address(), isAllowed);
+    mSession.property.writeXmlFile();
+    Q_EMIT signalTilesChanged();
 }
 
 void DialogPreferences::slotLanguage(const QString& locale)

@@ -4,7 +4,9 @@
 
 #include <QDialog>
 
+class QCheckBox;
 class QComboBox;
+class QLabel;
 class QListWidget;
 class QListWidgetItem;
 class QSpinBox;
@@ -14,8 +16,8 @@ namespace ZARN {
 
 class Kernel;
 
-/// The preferences window: language and font size, and which profile file to use. Every change is written to the settings at once. The main
-/// window owns it.
+/// The preferences window: language and font size, whether the map may use the network, and which profile file to use. Every change is written
+/// to the settings at once. The main window owns it.
 class DialogPreferences : public QDialog {
     Q_OBJECT
 
@@ -33,16 +35,25 @@ public Q_SLOTS:
     void slotProfileSelect();
     void slotProfilePath(const QString& path);
     void slotChangePage(QListWidgetItem* pCurrent, QListWidgetItem* pPrevious);
+    /// Keeps whether map tiles may be loaded from the server of the settings.
+    void slotTiles(bool isAllowed);
     void slotClose();
 
 Q_SIGNALS:
     void signalLanguageChanged();
     /// The setting "Profile" names another profile file.
     void signalProfileFileChanged();
+    /// The user allowed the map to load tiles, or took that back.
+    void signalTilesChanged();
+
+protected:
+    bool event(QEvent* pEvent) override;
 
 private:
     QWidget* createGeneralPage();
+    QWidget* createMapGroup();
     QWidget* createProfilePage();
+    void fillTiles();
     void addPage(const QString& name, const QString& icon, QWidget* pPage);
 
     Session mSession;
@@ -51,6 +62,8 @@ private:
     QStackedWidget* mpPages;
     QComboBox* mpLanguage;
     QSpinBox* mpFontSize;
+    QCheckBox* mpTiles;
+    QLabel* mpTileServer;
 };
 
 } // namespace ZARN

@@ -25,6 +25,13 @@ QLabel* makeLabel(const char* objectName)
     return pLabel;
 }
 
+/// The layout asks a wrapped text for its height too early, before the style sheet gave it its font.
+void giveRoom(QLabel& label)
+{
+    label.ensurePolished();
+    label.setMinimumHeight(label.heightForWidth(kTextWidth));
+}
+
 } // namespace
 
 WidgetWelcome::WidgetWelcome(QWidget* pParent)
@@ -65,6 +72,7 @@ WidgetWelcome::WidgetWelcome(QWidget* pParent)
 void WidgetWelcome::setProblem(const QString& problem)
 {
     mpProblem->setText(problem);
+    giveRoom(*mpProblem);
     mpProblem->setVisible(!problem.isEmpty());
 }
 
@@ -75,9 +83,7 @@ void WidgetWelcome::setWithCard(bool withCard)
                                   "its flights then appear below it.")
                              : tr("Open the folder of a memory card, or drop it here. Without a card at hand the demo card shows "
                                   "an hour with two tows."));
-    // The layout asks a wrapped text for its height too early, before the style sheet gave it its font.
-    mpText->ensurePolished();
-    mpText->setMinimumHeight(mpText->heightForWidth(kTextWidth));
+    giveRoom(*mpText);
     mpButtons->setVisible(!withCard);
 }
 

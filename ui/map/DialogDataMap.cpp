@@ -178,8 +178,8 @@ void DialogDataMap::updateGeometry()
     mpValues->fitInto({std::max(width() - mpTools->width() - 3 * margin, 0), tallest});
     mpValues->move(width() - margin - mpValues->width(), margin);
     const int wide = std::max(std::min(width() - 2 * margin, 720), 0);
-    const int tall = std::max(mpConsent->heightForWidth(wide), mpConsent->sizeHint().height());
-    mpConsent->setGeometry((width() - wide) / 2, height() - margin - 40 - tall, wide, tall);
+    const int tall = mpConsent->arrangeFor(wide);
+    mpConsent->setGeometry((width() - wide) / 2, std::max(height() - margin - 40 - tall, 0), wide, tall);
     mpConsent->raise();
 }
 

@@ -30,7 +30,7 @@ public:
     /// Marks the events of the lists on the path, in their colours.
     void setEvents(const EventList& limits, const EventList& lamps);
     /// The settings were changed: tile server, consent, shading.
-    void updateSettings();
+    void updateSettings() override;
     /// Keeps the panels in place.
     void updateGeometry();
 

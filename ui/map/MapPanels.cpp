@@ -20,6 +20,7 @@ namespace ZARN {
 namespace {
 
 constexpr int kIconSize = 32;
+constexpr int kLeastText = 260; // pixels of a line of the question beside its buttons
 
 /// The aircraft in a circle.
 QIcon aircraftIcon(int edge)
@@ -139,7 +140,8 @@ bool MapToolPanel::isChecked(int id) const
     return pButton && pButton->isChecked();
 }
 
-MapConsentBar::MapConsentBar(QWidget* pParent) : QFrame(pParent), mpText(new QLabel)
+MapConsentBar::MapConsentBar(QWidget* pParent)
+    : QFrame(pParent), mpText(new QLabel), mpLine(new QHBoxLayout(this)), mpButtons(new QHBoxLayout)
 {
     setObjectName(QStringLiteral("consentBar"));
     setStyleSheet(QStringLiteral("#consentBar{background-color: #eefff6d5;border:1px solid #b8a25a;border-radius:6px;} #consentBar QLabel{color:black;}"));
@@ -149,11 +151,11 @@ MapConsentBar::MapConsentBar(QWidget* pParent) : QFrame(pParent), mpText(new QLa
     auto* pNo = new QPushButton(tr("Stay offline"));
     pYes->setObjectName(QStringLiteral("consentYes"));
     pNo->setObjectName(QStringLiteral("consentNo"));
-    auto* pLayout = new QHBoxLayout(this);
-    pLayout->setContentsMargins(10, 6, 10, 6);
-    pLayout->addWidget(mpText, 1);
-    pLayout->addWidget(pYes);
-    pLayout->addWidget(pNo);
+    mpLine->setContentsMargins(10, 6, 10, 6);
+    mpLine->addWidget(mpText, 1);
+    mpLine->addLayout(mpButtons);
+    mpButtons->addWidget(pYes);
+    mpButtons->addWidget(pNo);
     connect(pYes, &QPushButton::clicked, this, [this] { Q_EMIT signalAnswer(true); });
     connect(pNo, &QPushButton::clicked, this, [this] { Q_EMIT signalAnswer(false); });
 }
@@ -161,7 +163,20 @@ MapConsentBar::MapConsentBar(QWidget* pParent) : QFrame(pParent), mpText(new QLa
 void MapConsentBar::setServer(const QString& name)
 {
     mpText->setText(tr("Load detailed map tiles from %1? The server then learns which area is looked at. "
-                       "The answer can be changed in the map's menu.").arg(name));
+                       "The answer can be changed in the map's menu and in the preferences.").arg(name));
+}
+
+int MapConsentBar::arrangeFor(int width)
+{
+    const QMargins margins = mpLine->contentsMargins();
+    const int room = width - margins.left() - margins.right();
+    mpButtons->setDirection(QBoxLayout::LeftToRight);
+    const int buttons = mpButtons->sizeHint().width();
+    const bool isNarrow = room - buttons - mpLine->spacing() < kLeastText;
+    mpLine->setDirection(isNarrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    if (buttons > room)
+        mpButtons->setDirection(QBoxLayout::TopToBottom);
+    return std::max(mpLine->totalHeightForWidth(width), mpLine->totalMinimumSize().height());
 }
 
 } // namespace ZARN

@@ -7,6 +7,7 @@
 
 #include <vector>
 
+class QBoxLayout;
 class QButtonGroup;
 class QGridLayout;
 class QLabel;
@@ -65,12 +66,16 @@ class MapConsentBar : public QFrame {
 public:
     explicit MapConsentBar(QWidget* pParent);
     void setServer(const QString& name);
+    /// Puts the buttons beside the text, or below it where that would leave the text too little. @return the height that the bar then needs.
+    int arrangeFor(int width);
 
 Q_SIGNALS:
     void signalAnswer(bool isAllowed);
 
 private:
     QLabel* mpText;
+    QBoxLayout* mpLine;
+    QBoxLayout* mpButtons;
 };
 
 } // namespace ZARN

@@ -3,18 +3,28 @@
 #include "ui/data/DataTabBar.h"
 #include "ui/data/DialogData.h"
 #include "ui/data/DialogDataLimit.h"
+#include "ui/data/DialogDataStatistic.h"
 #include "ui/data/DialogDataTable.h"
+#include "ui/data/ReplayButton.h"
+#include "ui/data/WidgetReplayBar.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
+#include <QContextMenuEvent>
 #include <QDoubleSpinBox>
 #include <QLCDNumber>
 #include <QLabel>
+#include <QMenu>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QSlider>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QTest>
+#include <QTextEdit>
 #include <QTimeEdit>
+#include <QTimer>
+#include <QTranslator>
 
 using namespace ZARN;
 
@@ -34,6 +44,17 @@ public:
 private:
     QString mLetter;
     QStringList& mLog;
+};
+
+/// A language in which the replay's buttons have much to say.
+class LongTexts : public QTranslator {
+public:
+    LongTexts() { QCoreApplication::installTranslator(this); }
+    [[nodiscard]] bool isEmpty() const override { return false; }
+    QString translate(const char*, const char* source, const char*, int) const override
+    {
+        return QByteArray(source).startsWith("Replay ") ? QString("%1 %1").arg(source) : QString();
+    }
 };
 
 /// The data area over recording views: Table, Graph, Fault matrix, Limits, Warnings, Statistic, Map. The record lasts from 10 to 110 s.
@@ -84,6 +105,8 @@ private Q_SLOTS:
     void withoutRecord();
     void emu();
     void mapPane();
+    void narrow_data();
+    void narrow();
     void tabs();
     void realViews();
 };
@@ -254,6 +277,39 @@ void TestDialogData::mapPane()
     QCOMPARE(pSplitter->orientation(), Qt::Horizontal);
 }
 
+void TestDialogData::narrow_data()
+{
+    QTest::addColumn<int>("width"); // 0 is the least
+    QTest::addColumn<bool>("withText");
+    QTest::newRow("icons") << 0 << false;
+    QTest::newRow("two lines") << 1000 << true;
+    QTest::newRow("one line") << 1600 << true;
+}
+
+void TestDialogData::narrow()
+{
+    QFETCH(int, width);
+    const LongTexts language;
+    QWidget window; // a window itself would not become narrower than its layout
+    WidgetReplayBar bar(false, &window);
+    bar.setReplay(WidgetReplayBar::ePaused);
+    window.show();
+    bar.resize(1600, 200);
+    bar.resize(width == 0 ? bar.minimumSizeHint().width() : width, 200);
+    QTest::qWait(50);
+    QRegion taken;
+    for (const QWidget* pControl : bar.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+        QVERIFY2(bar.rect().contains(pControl->geometry()) && !taken.intersects(pControl->geometry()), qPrintable(pControl->objectName()));
+        taken += pControl->geometry();
+    }
+    for (const ReplayButton* pButton : bar.findChildren<ReplayButton*>()) {
+        QTEST(pButton->width() >= pButton->widthFor(pButton->text()), "withText");
+        QVERIFY(pButton->width() >= pButton->widthFor({}));
+        QVERIFY(!pButton->text().isEmpty() && pButton->toolTip() == pButton->text());
+    }
+    QCOMPARE(bar.findChild<ReplayButton*>("replay")->text(), QString("Replay Run Replay Run"));
+}
+
 void TestDialogData::tabs()
 {
     Area area;
@@ -269,6 +325,14 @@ void TestDialogData::tabs()
     QCOMPARE(pTabs->countOf(eViewLimits), 120);
     QCOMPARE(pTabs->countOf(eViewTable), 0);
     QVERIFY(pTabs->tabToolTip(eViewWarnings).contains("120"));
+    QCOMPARE(pTabs->tabToolTip(eViewStatistic), QString("Tow Statistic")); // should it be elided
+    DataTabBar narrow;
+    for (const QString& title : titles)
+        narrow.addTab(title);
+    narrow.resize(400, 70);
+    narrow.show();
+    QVERIFY2(narrow.tabRect(eViewStatistic).right() < 400, "all are there");
+    QVERIFY2(narrow.tabRect(eViewTable).width() < narrow.tabRect(eViewLimits).width(), "the long titles give way");
 }
 
 void TestDialogData::realViews()
@@ -297,6 +361,17 @@ void TestDialogData::realViews()
     area.updateProfile();
     QCOMPARE(pTable->model()->columnCount(), 1);
     QCOMPARE(area.viewTime(), 12.0);
+    QSignalSpy report(&area, &DialogData::signalReport);
+    QTimer::singleShot(100, [] {
+        if (auto* pMenu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
+            pMenu->actions().back()->trigger();
+            pMenu->close();
+        }
+    });
+    QWidget* pText = area.findChild<DialogDataStatistic*>()->findChild<QTextEdit*>()->viewport();
+    QContextMenuEvent menu(QContextMenuEvent::Mouse, QPoint(5, 5), pText->mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(pText, &menu);
+    QCOMPARE(report.size(), 1);
 }
 
 QTEST_MAIN(TestDialogData)

@@ -127,6 +127,7 @@ private Q_SLOTS:
     void heldZoom();
     void setup();
     void menuCopiesValues();
+    void menuAsksForReport();
     void snapshots_data();
     void snapshots();
     void idleDrawsNothing();
@@ -327,6 +328,29 @@ void TestDialogDataGraph::menuCopiesValues()
     const QString text = QGuiApplication::clipboard()->text();
     QVERIFY2(text.contains("P1\tl/h\t12.000000\t12.000000\t0.000000"), qPrintable(text));
     QVERIFY(text.contains("\tl\n"));
+}
+
+void TestDialogDataGraph::menuAsksForReport()
+{
+    Shown shown;
+    QSignalSpy report(&shown.dialog, &DialogDataGraph::signalReport);
+    const auto choose = [&shown] {
+        QTimer::singleShot(200, [] {
+            if (auto* pMenu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
+                for (const QAction* pAction : pMenu->actions()) {
+                    if (pAction->text() == "Flight Report...")
+                        QTest::mouseClick(pMenu, Qt::LeftButton, {}, pMenu->actionGeometry(const_cast<QAction*>(pAction)).center());
+                }
+                pMenu->close();
+            }
+        });
+        QTest::mouseClick(&shown.graph, Qt::RightButton, {}, shown.at(150));
+    };
+    choose();
+    QCOMPARE(report.size(), 1);
+    shown.dialog.updateRecord(nullptr); // of nothing there is none
+    choose();
+    QCOMPARE(report.size(), 1);
 }
 
 void TestDialogDataGraph::snapshots_data()

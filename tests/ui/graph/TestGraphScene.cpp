@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QPainter>
+#include <QRegularExpression>
 #include <QTest>
 
 #include <cmath>
@@ -87,6 +88,7 @@ private Q_SLOTS:
     void labelsNeverOverlap_data();
     void labelsNeverOverlap();
     void legendTellsUnits();
+    void messageIsBroken();
 };
 
 void TestGraphScene::likeReference_data()
@@ -264,6 +266,24 @@ void TestGraphScene::legendTellsUnits()
     const QString expected = QString("%1").arg(value, 9, 'f', 2);
     const auto isLine = [&](const auto& entry) { return entry.second.startsWith(expected) && entry.second.endsWith(" [kPa]"); };
     QVERIFY(std::ranges::any_of(canvas.texts, isLine));
+}
+
+void TestGraphScene::messageIsBroken()
+{
+    GraphModel model;
+    model.setMessage("Es ist kein Parameter gewählt.\nIm Profilfeld die gewünschten Parameter ankreuzen.");
+    const GraphLayout layout = GraphScene::prepare(model, QSizeF(300, 400), 11, 1);
+    Test::RecordingCanvas canvas;
+    GraphScene(model, layout).draw(canvas);
+    QStringList said;
+    for (const auto& [box, text] : canvas.texts) {
+        if (!text.contains(QRegularExpression("[a-z]{3}")))
+            continue; // of the axes
+        QVERIFY2(box.left() >= 0 && box.right() <= 300, qPrintable(text));
+        said << text;
+    }
+    QVERIFY(said.size() > 2);
+    QCOMPARE(said.join(' '), QString(model.message()).replace('\n', ' '));
 }
 
 QTEST_MAIN(TestGraphScene)

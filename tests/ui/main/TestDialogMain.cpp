@@ -2,19 +2,25 @@
 #include "support/FileHelpers.h"
 #include "ui/data/DialogData.h"
 #include "ui/data/DialogDataLimit.h"
+#include "ui/data/DialogDataStatistic.h"
+#include "ui/graph/DialogDataGraph.h"
 #include "ui/main/Answer.h"
 #include "ui/main/CardController.h"
 #include "ui/main/DesktopFixture.h"
 #include "ui/main/DialogCard.h"
+#include "ui/main/DialogPreferences.h"
 #include "ui/main/MainActions.h"
 #include "ui/main/RecentFolders.h"
 #include "ui/main/WidgetWelcome.h"
+#include "ui/map/DialogDataMap.h"
 
 #include <QAction>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
 #include <QDropEvent>
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
@@ -40,6 +46,7 @@ private Q_SLOTS:
     void openCard();
     void badFolder_data();
     void badFolder();
+    void unreadFiles();
     void drop();
     void recentFolders();
     void demoCard();
@@ -53,11 +60,14 @@ private Q_SLOTS:
     void newProjectAsks_data();
     void newProjectAsks();
     void units();
+    void mapTiles();
     void profileSelector();
     void styleFile();
     void exportCsv();
     void failedExport_data();
     void failedExport();
+    void report_data();
+    void report();
 
 private:
     QString home() const { return mHome->path(); }
@@ -211,6 +221,37 @@ void TestDialogMain::badFolder()
     QCOMPARE(answer.title, QString("ZARN Warning"));
     QCOMPARE(answer.text, reason.arg(folder));
     QVERIFY(isShown<WidgetWelcome>(window));
+}
+
+void TestDialogMain::unreadFiles()
+{
+    const QString folder = home() + "/damaged";
+    QVERIFY(QDir().mkpath(folder));
+    for (const char* name : {"LOG00001.CAN", "LOG00002.CAN"})
+        QVERIFY(QFile::copy(card() + "/" + name, folder + "/" + name));
+    putFile(folder.toStdString() + "/LOG00003.CAN", "half a header");
+    putFile(folder.toStdString() + "/\xff.CAN", fileContent(card().toStdString() + "/LOG00003.CAN")); // no text: nothing can open it by name
+    const QString absent = qt_error_string(ENOENT);
+    const QString problem = "2 record file(s) of the card could not be read:\nLOG00003.CAN: the file is too short\n\ufffd.CAN: " + absent;
+    {
+        DesktopFixture desktop(home());
+        DialogMain& window = desktop.open();
+        started(window);
+        Answer told(Answer::close);
+        window.openFolder(folder);
+        QCOMPARE(told.text, problem);
+        QCOMPARE(window.windowTitle(), "ZARN " + folder.section('/', -2)); // the others are there
+        QFile::remove(folder + "/LOG00001.CAN");
+        Answer lost(Answer::close);
+        window.slotLoadCycle(desktop.container.recordCycles().begin()->first, -1);
+        QCOMPARE(lost.text, "Not everything could be loaded:\nLOG00001.CAN: " + absent);
+    }
+    DesktopFixture next(home());
+    Answer none(Answer::close);
+    DialogMain& window = next.open();
+    started(window);
+    QVERIFY(none.title.isEmpty()); // no reason to stop the user at every start
+    QCOMPARE(window.findChild<WidgetWelcome*>()->findChild<QLabel*>("warning")->text(), problem);
 }
 
 void TestDialogMain::drop()
@@ -417,6 +458,24 @@ void TestDialogMain::units()
     QCOMPARE(next.window->findChild<QComboBox*>("units")->currentText(), QString("Imperial"));
 }
 
+void TestDialogMain::mapTiles()
+{
+    DesktopFixture desktop(home(), {card().toStdString()});
+    desktop.property.setString("TileServer", "http://127.0.0.1:9");
+    DialogMain& window = desktop.open();
+    started(window);
+    window.slotLoadCycle(2, -1);
+    WidgetMap* pMap = window.findChild<DialogDataMap*>()->mapWidget();
+    QVERIFY(pMap && !pMap->map().areTilesAllowed());
+    const auto* pQuestion = window.findChild<QWidget*>("consentBar");
+    QVERIFY(pQuestion->isVisible());
+    auto* pTiles = window.findChild<DialogPreferences*>()->findChild<QCheckBox*>("tiles");
+    pTiles->click();
+    QVERIFY(pMap->map().areTilesAllowed() && !pQuestion->isVisible());
+    pTiles->click();
+    QVERIFY(!pMap->map().areTilesAllowed() && !pQuestion->isVisible());
+}
+
 void TestDialogMain::profileSelector()
 {
     DesktopFixture desktop(home());
@@ -485,6 +544,46 @@ void TestDialogMain::failedExport()
     QVERIFY(told);
     QTEST(told->title, "title");
     QTEST(told->text, "text");
+}
+
+void TestDialogMain::report_data()
+{
+    QTest::addColumn<bool>("fromGraph"); // or from the tow statistic
+    QTest::addColumn<bool>("isWritable");
+    QTest::newRow("graph") << true << true;
+    QTest::newRow("statistic") << false << true;
+    QTest::newRow("unwritable") << true << false;
+}
+
+void TestDialogMain::report()
+{
+    QFETCH(bool, fromGraph);
+    QFETCH(bool, isWritable);
+    DesktopFixture desktop(home(), {card().toStdString()});
+    DialogMain& window = desktop.open();
+    started(window);
+    window.slotLoadCycle(2, 0);
+    const QString path = isWritable ? home() + "/report.pdf" : QString("/proc/report.pdf"); // where nobody can make a file
+    std::optional<Answer> told;
+    Answer choose([&](QWidget* pModal) {
+        chooseFile(pModal, path);
+        if (!isWritable)
+            told.emplace(Answer::close);
+    });
+    if (fromGraph)
+        Q_EMIT window.findChild<DialogDataGraph*>()->signalReport();
+    else
+        Q_EMIT window.findChild<DialogDataStatistic*>()->signalReport();
+    QCOMPARE(choose.title, QString("Save Flight Report"));
+    if (isWritable) {
+        const std::string written = fileContent(path.toStdString());
+        QVERIFY(written.starts_with("%PDF-") && written.size() > 10000);
+        QCOMPARE(desktop.property.getString("ReportDir", ""), home().toStdString());
+    } else {
+        QCOMPARE(told->title, QString("ZARN Warning"));
+        QCOMPARE(told->text, QString("Writing the flight report failed !"));
+        QVERIFY(!QFile::exists(path));
+    }
 }
 
 QTEST_MAIN(TestDialogMain)

@@ -7,13 +7,16 @@
 #include "ui/main/DialogHelp.h"
 #include "ui/main/DialogPreferences.h"
 
+#include <QCheckBox>
 #include <QComboBox>
+#include <QDir>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QRegularExpression>
 #include <QSpinBox>
-#include <QTabWidget>
+#include <QStackedWidget>
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QtTest>
@@ -31,6 +34,7 @@ private Q_SLOTS:
     void language();
     void fontSize();
     void profilePath();
+    void mapTiles();
     void manual_data();
     void manual();
     void linksOfTheManual();
@@ -126,6 +130,35 @@ void TestPreferences::profilePath()
     QCOMPARE(desktop.property.getString("Profile", ""), std::string("/some/Profile.xml"));
 }
 
+void TestPreferences::mapTiles()
+{
+    const QTemporaryDir home;
+    DesktopFixture desktop(home.path());
+    desktop.property.setString("TileServer", "https://tiles.example.org:8443");
+    DialogPreferences dialog(sessionOf(desktop), desktop.kernel);
+    auto* pTiles = dialog.findChild<QCheckBox*>("tiles");
+    QVERIFY(pTiles->isEnabled() && !pTiles->isChecked());
+    QVERIFY(dialog.findChild<QLabel*>("tileServer")->text().contains("tiles.example.org:8443"));
+    QSignalSpy changed(&dialog, &DialogPreferences::signalTilesChanged);
+    pTiles->click();
+    QCOMPARE(changed.size(), 1);
+    const std::string answer = "https://tiles.example.org:8443/{z}/{x}/{y}.png";
+    QCOMPARE(desktop.property.getString("MapTilesAllowed", ""), answer);
+    QVERIFY(fileContent(home.filePath("data/ZARN.ini").toStdString()).find(answer) != std::string::npos);
+    pTiles->click();
+    QCOMPARE(desktop.property.getString("MapTilesAllowed", ""), std::string("no"));
+    desktop.property.setString("MapTilesAllowed", answer); // answered in the map meanwhile
+    dialog.show();
+    QVERIFY(pTiles->isChecked());
+    desktop.property.setString("TileServer", "https://other.example.org"); // agreeing to one server is no answer about another
+    dialog.fillDialog();
+    QVERIFY(!pTiles->isChecked());
+    desktop.property.setString("TileServer", "ftp://x/{z}/{x}/{y}.png");
+    dialog.fillDialog();
+    QVERIFY(!pTiles->isEnabled());
+    QCOMPARE(changed.size(), 2); // filling is no change of the user's
+}
+
 void TestPreferences::manual_data()
 {
     QTest::addColumn<QString>("locale");
@@ -177,10 +210,14 @@ void TestPreferences::linksOfTheManual()
 void TestPreferences::licences()
 {
     const DialogAbout dialog;
-    const auto* pTabs = dialog.findChild<QTabWidget*>();
-    QVERIFY(pTabs->count() >= 6);
-    for (int i = 0; i < pTabs->count(); ++i)
-        QVERIFY2(qobject_cast<QPlainTextEdit*>(pTabs->widget(i))->toPlainText().size() > 500, qPrintable(pTabs->tabText(i)));
+    auto* pNames = dialog.findChild<QListWidget*>();
+    const auto* pTexts = dialog.findChild<QStackedWidget*>();
+    QCOMPARE(pNames->count(), QDir(ZARN_SOURCE_DIR "/resources/licences").entryList({"*.txt"}).size() + 1); // and the program's own
+    for (int i = 0; i < pNames->count(); ++i) {
+        pNames->setCurrentRow(i);
+        const auto* pText = qobject_cast<QPlainTextEdit*>(pTexts->currentWidget());
+        QVERIFY2(pText->toPlainText().size() > 500, qPrintable(pNames->item(i)->text()));
+    }
 }
 
 void TestPreferences::splash()

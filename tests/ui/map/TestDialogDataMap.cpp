@@ -131,6 +131,8 @@ private Q_SLOTS:
     void surfacesShowTheSame();
     void tilesAfterConsent();
     void refusalIsKept();
+    void narrowQuestion_data();
+    void narrowQuestion();
     void idleMapRests();
     void serverGone();
     void pointerAndKeys();
@@ -245,6 +247,34 @@ void TestDialogDataMap::refusalIsKept()
     QVERIFY(mHost.requests().isEmpty());
 }
 
+void TestDialogDataMap::narrowQuestion_data()
+{
+    QTest::addColumn<int>("width");
+    QTest::addColumn<bool>("isBelow"); // the buttons, the text
+    QTest::newRow("least") << 200 << true;
+    QTest::newRow("narrow") << 260 << true;
+    QTest::newRow("wide") << 900 << false;
+}
+
+void TestDialogDataMap::narrowQuestion()
+{
+    QFETCH(int, width);
+    Window window(mHost.address());
+    window.dialog->resize(width, 600);
+    window.load();
+    QTRY_VERIFY(window.consentBar()->isVisible());
+    window.picture("question");
+    const auto* pText = window.consentBar()->findChild<QLabel*>();
+    QVERIFY(window.dialog->rect().contains(window.consentBar()->geometry()));
+    QVERIFY(pText->height() >= pText->heightForWidth(pText->width()));
+    for (const char* name : {"consentYes", "consentNo"}) {
+        const QPushButton* pButton = window.button(name);
+        QVERIFY(window.consentBar()->rect().contains(pButton->geometry()));
+        QVERIFY(pButton->width() >= pButton->sizeHint().width());
+        QTEST(pButton->y() > pText->geometry().bottom(), "isBelow");
+    }
+}
+
 void TestDialogDataMap::idleMapRests()
 {
     Window window(mHost.address());
@@ -268,6 +298,7 @@ void TestDialogDataMap::serverGone()
     TileHost host;
     Window window(host.address());
     window.load();
+    window.settle(); // or coarser tiles of the way here would stand in for those that cannot come
     window.dialog->slotConsent(true);
     window.settle();
     host.stop();
@@ -456,6 +487,9 @@ void TestDialogDataMap::pathOfADay()
     window.map().scene().path().setPoints(points);
     window.map().fitPath();
     window.settle();
+    const int paints = window.map().paints(); // frames of so long a path are far apart
+    window.map().setDirty();
+    QTRY_VERIFY(window.map().paints() > paints);
     const int builds = window.map().scene().geometry().builds();
     for (int i = 0; i < 20; ++i) {
         QTest::keyClick(&window.map(), Qt::Key_Right, Qt::ControlModifier);

@@ -1,5 +1,6 @@
 #include "app/Console.h"
 #include "app/Property.h"
+#include "support/RecordingCanvas.h"
 #include "ui/canvas/FramePacer.h"
 #include "ui/canvas/RasterCanvas.h"
 #include "ui/map/model/MapNavigator.h"
@@ -82,6 +83,7 @@ private Q_SLOTS:
     void consent();
     void framesAreSpaced();
     void picture();
+    void longNote();
 };
 
 void TestMapModel::positions_data()
@@ -362,6 +364,17 @@ void TestMapModel::picture()
     // It flies east: the nose lies to the right of the middle, the tail is thin.
     QVERIFY(qBlue(image.pixel(static_cast<int>(aircraft.x) + 10, static_cast<int>(aircraft.y))) > 100);
     QCOMPARE(image.pixel(static_cast<int>(aircraft.x) + 10, static_cast<int>(aircraft.y) - 12), qRgb(255, 255, 255));
+}
+
+void TestMapModel::longNote()
+{
+    MapScene scene;
+    scene.setNote("tiles.example.org: " + QString(300, 'x'));
+    Test::RecordingCanvas canvas;
+    scene.draw(canvas, View().navigator.camera());
+    const auto note = std::find_if(canvas.texts.begin(), canvas.texts.end(), [](const auto& text) { return text.second.startsWith("tiles"); });
+    QVERIFY(note != canvas.texts.end());
+    QVERIFY(note->first.right() <= 800 && note->first.width() > 700 && note->second.endsWith(QChar(0x2026)));
 }
 
 QTEST_MAIN(TestMapModel)

@@ -25,6 +25,9 @@ public:
     /// @param mode 0 shows the record, anything else its newest values as they come in
     virtual void setZarnMode(int /*mode*/) {}
 
+    /// The settings were changed, by another window.
+    virtual void updateSettings() {}
+
     /// How many events the view lists.
     [[nodiscard]] virtual int eventCount() const { return 0; }
 

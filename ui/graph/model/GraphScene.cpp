@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace ZARN {
 
@@ -20,6 +21,22 @@ QColor faint(QColor colour, double alpha)
 {
     colour.setAlphaF(static_cast<float>(alpha));
     return colour;
+}
+
+/// The lines of a text, broken between words where they have more characters than that.
+QStringList wrapped(const QString& text, int most)
+{
+    QStringList lines;
+    for (const QString& paragraph : text.split(QLatin1Char('\n'))) {
+        QString line;
+        for (const QString& word : paragraph.split(QLatin1Char(' '))) {
+            if (!line.isEmpty() && line.size() + 1 + word.size() > most)
+                lines << std::exchange(line, QString());
+            line += line.isEmpty() ? word : QLatin1Char(' ') + word;
+        }
+        lines << line;
+    }
+    return lines;
 }
 
 } // namespace
@@ -333,7 +350,7 @@ void GraphScene::drawMessage(Canvas& canvas) const
         return;
     const QRectF& plot = mLayout.plot();
     CanvasText style{mLayout.textSize() + 2, contrast(), false, Qt::AlignHCenter | Qt::AlignVCenter, false};
-    const QStringList lines = mModel.message().split(QLatin1Char('\n'));
+    const QStringList lines = wrapped(mModel.message(), std::max(static_cast<int>(plot.width() / canvas.textSize(QStringLiteral("x"), style).width()), 1));
     double y = plot.center().y() - static_cast<double>(lines.size() - 1) * (mLayout.line() + 4) / 2;
     for (const QString& line : lines) {
         canvas.text(QPointF(plot.center().x(), y), line, style);

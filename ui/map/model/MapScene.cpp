@@ -1,5 +1,7 @@
 #include "ui/map/model/MapScene.h"
 
+#include "app/Numeric.h"
+
 #include <QTransform>
 
 #include <algorithm>
@@ -69,6 +71,14 @@ QString degrees(double value, double step, char positive, char negative)
     const int digits = std::max(0, -static_cast<int>(std::floor(std::log10(step) + 1e-9)));
     const QString number = QString::number(std::fabs(value), 'f', digits);
     return number + QChar(0x00B0) + QLatin1Char(value < 0.0 ? negative : positive);
+}
+
+/// The text, or as much of it as is not wider than that; characters are all of one width.
+QString elided(const Canvas& canvas, const QString& text, double width)
+{
+    const double character = canvas.textSize(QStringLiteral("x"), {kTextSize, kTextColour}).width();
+    const auto most = std::max<qsizetype>(saturatingCast<int>(width / character), 1);
+    return text.size() <= most ? text : text.left(most - 1) + QChar(0x2026);
 }
 
 } // namespace
@@ -202,7 +212,7 @@ void MapScene::drawScaleBar(Canvas& canvas, const OpenStreet::Camera& camera) co
     canvas.fillRect({kMargin, bottom - 5.0, 2.0, 5.0}, kTextColour);
     canvas.fillRect({right - 2.0, bottom - 5.0, 2.0, 5.0}, kTextColour);
     if (!mNote.isEmpty())
-        drawLabel(canvas, {kMargin, bottom - 28.0}, mNote, Qt::AlignLeft | Qt::AlignBottom);
+        drawLabel(canvas, {kMargin, bottom - 28.0}, elided(canvas, mNote, camera.width() - 2.0 * kMargin), Qt::AlignLeft | Qt::AlignBottom);
 }
 
 void MapScene::drawLabel(Canvas& canvas, const QPointF& position, const QString& text, Qt::Alignment align) const
