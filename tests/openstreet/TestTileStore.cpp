@@ -3,7 +3,10 @@
 
 #include <QBuffer>
 #include <QDirIterator>
+#include <QProcess>
 #include <QSignalSpy>
+#include <QSslCertificate>
+#include <QSslConfiguration>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTest>
@@ -78,6 +81,7 @@ private Q_SLOTS:
     void cleanupTestCase() { mpHost.reset(); }
     void nothingBeforeConsent();
     void fetchesWhatIsSeen();
+    void encryptedInOneConnection();
     void cancelsWhatLeftTheView();
     void asksAgainOnlyWhenExpired();
     void keepsOnDisk();
@@ -139,6 +143,39 @@ void TestTileStore::fetchesWhatIsSeen()
     for (std::size_t i = 0; i + 2 < view.size(); ++i) // the seen ones before the ring; two are on their way at a time
         QVERIFY(!requests[static_cast<qsizetype>(i)].path.contains("/11"));
     QCOMPARE(store.store.image(view[7]).size(), QSize(256, 256));
+}
+
+void TestTileStore::encryptedInOneConnection()
+{
+    QTemporaryDir folder;
+    const QString key = folder.filePath("key.pem"), certificate = folder.filePath("certificate.pem");
+    QProcess openssl;
+    openssl.start("openssl", {"req", "-x509", "-newkey", "rsa:2048", "-nodes", "-days", "2", "-subj", "/CN=127.0.0.1", "-addext",
+                              "subjectAltName=IP:127.0.0.1", "-keyout", key, "-out", certificate});
+    QVERIFY(openssl.waitForFinished(30000) && openssl.exitCode() == 0);
+    const quint16 port = TileHost::freePort();
+    const TileHost host(QString("listen 127.0.0.1:%1 ssl http2; ssl_certificate %2; ssl_certificate_key %3;").arg(port).arg(certificate, key));
+    const QString address = QString("https://127.0.0.1:%1/tiles/{z}/{x}/{y}.png").arg(port);
+    {
+        Store store(address);
+        store.store.want(block(9, 100, 200, 2, 2), {});
+        QVERIFY(store.waitIdle());
+        QVERIFY(store.store.image({9, 100, 200}).isNull() && host.requests().isEmpty()); // nobody vouches for this server
+        QVERIFY(!store.store.lastError().isEmpty());
+    }
+    const QSslConfiguration usual = QSslConfiguration::defaultConfiguration();
+    QSslConfiguration trusting = usual;
+    trusting.addCaCertificates(QSslCertificate::fromPath(certificate));
+    QSslConfiguration::setDefaultConfiguration(trusting);
+    Store store(address);
+    store.store.want(block(9, 100, 200, 4, 4), {});
+    QTRY_COMPARE_WITH_TIMEOUT(host.requests().size(), qsizetype(16), 20000);
+    QSslConfiguration::setDefaultConfiguration(usual);
+    for (const TileRequest& request : host.requests()) {
+        QCOMPARE(request.status, 200);
+        QCOMPARE(request.protocol, "HTTP/2.0");
+        QCOMPARE(request.connections, 1);
+    }
 }
 
 void TestTileStore::cancelsWhatLeftTheView()

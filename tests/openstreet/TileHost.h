@@ -41,8 +41,9 @@ public:
     /// A picture of a tile as a server draws it, 256 x 256.
     [[nodiscard]] static QByteArray tile(const QString& text, const char* pFormat = "PNG", int edge = 256);
 
-private:
     [[nodiscard]] static quint16 freePort();
+
+private:
     [[nodiscard]] QByteArray configuration(const QString& rules) const;
 
     QTemporaryDir mFolder;

@@ -14,12 +14,16 @@
 #include <QToolButton>
 
 #include <algorithm>
+#include <utility>
 
 namespace ZARN {
 
 namespace {
 
 constexpr int kIconSize = 32;
+constexpr int kPanelMargin = 5;
+constexpr int kPanelSpacing = 2;
+constexpr int kLeastName = 40; // pixels that are left of a name at least
 constexpr int kLeastText = 260; // pixels of a line of the question beside its buttons
 
 /// The aircraft in a circle.
@@ -57,11 +61,12 @@ MapValuePanel::MapValuePanel(QWidget* pParent) : QScrollArea(pParent)
 void MapValuePanel::setRows(const std::vector<MapValue>& rows)
 {
     mRows.clear();
+    mNameWidth = 0;
     mpPanel = new QWidget;
     mpPanel->setStyleSheet(QStringLiteral(".QWidget{background-color: #66000000;border-radius:10px;}"));
     auto* pLayout = new QGridLayout(mpPanel);
-    pLayout->setContentsMargins(5, 5, 5, 5);
-    pLayout->setSpacing(2);
+    pLayout->setContentsMargins(kPanelMargin, kPanelMargin, kPanelMargin, kPanelMargin);
+    pLayout->setSpacing(kPanelSpacing);
     for (const MapValue& row : rows) {
         auto* pName = new QLabel(row.name);
         pName->setTextFormat(Qt::PlainText);
@@ -71,7 +76,7 @@ void MapValuePanel::setRows(const std::vector<MapValue>& rows)
         const int line = static_cast<int>(mRows.size());
         pLayout->addWidget(pName, line, 0);
         pLayout->addWidget(pValue, line, 1);
-        mRows.push_back({pValue, {}});
+        mRows.push_back({row.name, pName, pValue, {}});
         setColour(mRows.back(), Qt::white);
     }
     setWidget(mpPanel);
@@ -99,10 +104,26 @@ void MapValuePanel::setValues(const std::vector<MapValue>& rows)
 
 void MapValuePanel::fitInto(const QSize& room)
 {
-    const QSize wanted = mpPanel->sizeHint();
-    const bool isTooTall = wanted.height() > room.height();
+    const bool isTooTall = mpPanel->sizeHint().height() > room.height();
     const int bar = isTooTall ? verticalScrollBar()->sizeHint().width() : 0;
+    elideNames(room.width() - bar);
+    const QSize wanted = mpPanel->sizeHint();
     resize(std::min(wanted.width() + bar, room.width()), std::min(wanted.height(), room.height()));
+}
+
+void MapValuePanel::elideNames(int width)
+{
+    int values = 0;
+    for (const Row& row : mRows)
+        values = std::max(values, row.pValue->sizeHint().width());
+    const int names = std::max(width - values - 2 * kPanelMargin - kPanelSpacing, kLeastName);
+    if (std::exchange(mNameWidth, names) == names)
+        return;
+    for (const Row& row : mRows) {
+        row.pName->setText(row.pName->fontMetrics().elidedText(row.name, Qt::ElideRight, names));
+        row.pName->setToolTip(row.pName->text() == row.name ? QString() : row.name);
+    }
+    mpPanel->layout()->activate();
 }
 
 MapToolPanel::MapToolPanel(int scale, QWidget* pParent) : QWidget(pParent), mpGroup(new QButtonGroup(this))

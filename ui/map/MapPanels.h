@@ -26,18 +26,23 @@ public:
     void setRows(const std::vector<MapValue>& rows);
     /// Values and colours of the rows that are there.
     void setValues(const std::vector<MapValue>& rows);
-    /// As large as its rows want, within the room that there is.
+    /// As large as its rows want, within the room that there is; of what is too wide the names are cut.
     void fitInto(const QSize& room);
 
 private:
     struct Row {
+        QString name;
+        QLabel* pName;
         QLabel* pValue;
         QColor colour;
     };
     void setColour(Row& row, const QColor& colour) const;
+    /// Cuts names, with an ellipsis, before a value would be.
+    void elideNames(int width);
 
     QWidget* mpPanel = nullptr;
     std::vector<Row> mRows;
+    int mNameWidth = 0; // pixels that names were cut to
 };
 
 /// The light panel of the map's commands.

@@ -204,7 +204,10 @@ void MapScene::drawAircraft(Canvas& canvas, const OpenStreet::Camera& camera) co
 void MapScene::drawScaleBar(Canvas& canvas, const OpenStreet::Camera& camera) const
 {
     const MapScaleBar bar = MapScaleBar::at(camera, std::min(kBarPixels, 0.4 * camera.width()), mIsImperial);
-    const double bottom = camera.height() - kMargin;
+    // In a narrow map the bar stands above the attribution.
+    const QSizeF attribution = canvas.textSize(QString::fromLatin1(kAttribution), {kTextSize});
+    const bool isNarrow = bar.pixels + attribution.width() + 3.0 * kMargin > camera.width();
+    const double bottom = camera.height() - kMargin - (isNarrow ? attribution.height() + 4.0 : 0.0);
     const double right = kMargin + bar.pixels;
     drawLabel(canvas, {kMargin, bottom - 7.0}, bar.text, Qt::AlignLeft | Qt::AlignBottom);
     canvas.fillRect({kMargin, bottom - 5.0, bar.pixels, 5.0}, kTextGround);
