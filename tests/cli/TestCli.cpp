@@ -1,5 +1,6 @@
 #include "support/CardBuilder.h"
 #include "support/FileHelpers.h"
+#include "support/Places.h"
 #include "support/ProfileBuilder.h"
 
 #include <QJsonArray>
@@ -58,8 +59,8 @@ private Q_SLOTS:
     void tablesForPeople();
 
 private:
-    Answer cli(const QStringList& arguments) const { return run(ZARN_CLI, arguments, mFolder.path()); }
-    Answer shell(const QString& command) const { return run("bash", {"-c", command, "bash", ZARN_CLI}, mFolder.path()); }
+    Answer cli(const QStringList& arguments) const { return run(binaryDir() + "/bin/zarn-cli", arguments, mFolder.path()); }
+    Answer shell(const QString& command) const { return run("bash", {"-c", command, "bash", binaryDir() + "/bin/zarn-cli"}, mFolder.path()); }
     [[nodiscard]] QString csv() const { return fileContent((mFolder.path() + "/out.csv").toStdString()).c_str(); }
     [[nodiscard]] std::set<std::string> entries() const
     {

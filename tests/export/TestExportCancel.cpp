@@ -4,6 +4,7 @@
 #include "export/ExportKml.h"
 #include "sim/DemoCard.h"
 #include "support/FileHelpers.h"
+#include "support/Places.h"
 #include "support/TestCycle.h"
 
 #include <QTemporaryDir>
@@ -65,7 +66,7 @@ void TestExportCancel::initTestCase()
 {
     std::string error;
     QVERIFY2(DemoCard().write(mCard.filePath("card").toStdString(), DemoCardOptions{}, error), error.c_str());
-    QVERIFY(mCycle.profile.loadProfile(ZARN_SOURCE_DIR "/resources/profiles/915/Profile.xml"));
+    QVERIFY(mCycle.profile.loadProfile(sourceDir() + "/resources/profiles/915/Profile.xml"));
     for (const ProfileDevice& device : mCycle.profile.data()) {
         for (const ProfileParameter& parameter : device.parameters)
             mCycle.profile.setSelected(parameter.name, true);

@@ -2,6 +2,7 @@
 #include "export/ExportGpx.h"
 #include "support/CardBuilder.h"
 #include "support/FileHelpers.h"
+#include "support/Places.h"
 #include "support/ProfileBuilder.h"
 #include "support/TestCycle.h"
 
@@ -54,7 +55,7 @@ struct Track : TestCycle {
 QString validationErrors(const QByteArray& document)
 {
     QProcess process;
-    process.start("xmllint", {"--noout", "--nonet", "--schema", ZARN_SOURCE_DIR "/tests/export/data/gpx-track.xsd", "-"});
+    process.start("xmllint", {"--noout", "--nonet", "--schema", sourceDir() + "/tests/export/data/gpx-track.xsd", "-"});
     process.write(document);
     process.closeWriteChannel();
     process.waitForFinished();

@@ -4,6 +4,7 @@
 #include "openstreet/core/HillShade.h"
 #include "openstreet/core/TileCover.h"
 #include "openstreet/core/TileImage.h"
+#include "support/Places.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -99,7 +100,7 @@ void TestMapData::shades()
 
 void TestMapData::world()
 {
-    QFile file(QStringLiteral(ZARN_SOURCE_DIR "/resources/map/world.bin"));
+    QFile file(ZARN::sourceDir() + "/resources/map/world.bin");
     QVERIFY(file.open(QIODevice::ReadOnly));
     BaseMap map;
     QVERIFY(map.load(file.readAll()));
@@ -125,7 +126,7 @@ void TestMapData::world()
 
 void TestMapData::worldRefusesDamage()
 {
-    QFile file(QStringLiteral(ZARN_SOURCE_DIR "/resources/map/world.bin"));
+    QFile file(ZARN::sourceDir() + "/resources/map/world.bin");
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QByteArray unpacked = qUncompress(file.readAll());
     BaseMap map;

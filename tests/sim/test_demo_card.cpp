@@ -1,4 +1,5 @@
 #include "sim/DemoCard.h"
+#include "support/Places.h"
 #include "tests/sim/CardBytes.h"
 #include "support/FullDisk.h"
 #include "tests/sim/FlightFinder.h"
@@ -62,7 +63,7 @@ private:
 
     void readProfile()
     {
-        QFile file(ZARN_SOURCE_DIR "/resources/profiles/915/Profile.xml");
+        QFile file(sourceDir() + "/resources/profiles/915/Profile.xml");
         QDomDocument document;
         QVERIFY(file.open(QIODevice::ReadOnly) && document.setContent(&file));
         const QStringList types{"", "", "FLOAT", "LONG", "ULONG", "BLONG", "SHORT", "USHORT", "BSHORT", "CHAR", "UCHAR"};

@@ -3,6 +3,7 @@
 #include "card/CardContainer.h"
 #include "profile/Profile.h"
 #include "sim/DemoCard.h"
+#include "support/Places.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -19,7 +20,7 @@ private:
     QTemporaryDir mFolder;
     Console mConsole{[](std::string_view) {}, [](std::string_view) {}};
 
-    static QString profilePath() { return ZARN_SOURCE_DIR "/resources/profiles/915/Profile.xml"; }
+    static QString profilePath() { return sourceDir() + "/resources/profiles/915/Profile.xml"; }
 
     static bool within(double value, double low, double high)
     {

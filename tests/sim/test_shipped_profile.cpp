@@ -1,3 +1,5 @@
+#include "support/Places.h"
+
 #include <QDomDocument>
 #include <QFile>
 #include <QMap>
@@ -66,7 +68,7 @@ private:
 private Q_SLOTS:
     void initTestCase()
     {
-        QFile file(ZARN_SOURCE_DIR "/resources/profiles/915/Profile.xml");
+        QFile file(ZARN::sourceDir() + "/resources/profiles/915/Profile.xml");
         QVERIFY(file.open(QIODevice::ReadOnly));
         QString reason;
         QVERIFY2(mDocument.setContent(&file, false, &reason), qPrintable(reason));

@@ -3,6 +3,7 @@
 #include "project/Project.h"
 #include "support/CardBuilder.h"
 #include "support/FileHelpers.h"
+#include "support/Places.h"
 #include "support/ProfileBuilder.h"
 #include "support/TestCycle.h"
 #include "ui/canvas/RasterCanvas.h"
@@ -451,8 +452,8 @@ void TestDialogDataGraph::drawnLikePainted()
     painter.end();
     const double share = std::max(difference(drawn, painted), difference(painted, drawn));
     if (share > 0.002) {
-        drawn.save(ZARN_BINARY_DIR "/drawn.png");
-        painted.save(ZARN_BINARY_DIR "/painted.png");
+        drawn.save(binaryDir() + "/drawn.png");
+        painted.save(binaryDir() + "/painted.png");
     }
     QVERIFY2(share <= 0.002, qPrintable(QString::number(share)));
 }

@@ -1,3 +1,4 @@
+#include "support/Places.h"
 #include "support/RecordingCanvas.h"
 #include "ui/canvas/RasterCanvas.h"
 #include "ui/graph/model/GraphScene.h"
@@ -113,12 +114,12 @@ void TestGraphScene::likeReference()
     }
     const QImage image = picture(model);
     const QString name = QString("%1.png").arg(QTest::currentDataTag());
-    const QImage reference(QString(ZARN_SOURCE_DIR "/tests/ui/graph/reference/") + name);
+    const QImage reference(sourceDir() + "/tests/ui/graph/reference/" + name);
     const double differing = difference(image, reference.convertToFormat(QImage::Format_RGB32));
     // Another release of the toolkit draws characters a little differently; a missing trace, label or band is far more.
     if (differing > 0.01) {
-        QDir().mkpath(ZARN_BINARY_DIR "/pictures");
-        image.save(QString(ZARN_BINARY_DIR "/pictures/") + name);
+        QDir().mkpath(binaryDir() + "/pictures");
+        image.save(binaryDir() + "/pictures/" + name);
         QFAIL(qPrintable(QString("%1 of the pixels differ; see pictures/%2 in the build folder").arg(differing).arg(name)));
     }
 }

@@ -9,6 +9,7 @@
 #include "profile/Profile.h"
 #include "project/Project.h"
 #include "support/ConsoleText.h"
+#include "support/Places.h"
 #include "ui/main/DialogMain.h"
 
 #include "app/Progress.h"
@@ -23,7 +24,7 @@
 struct DesktopFixture {
     explicit DesktopFixture(const QString& home, const std::vector<std::string>& arguments = {})
         : cmdLine(console.console),
-          folders(ZARN_BINARY_DIR "/bin", home.toStdString(), home.toStdString() + "/data", console.console),
+          folders((ZARN::binaryDir() + "/bin").toStdString(), home.toStdString(), home.toStdString() + "/data", console.console),
           property(console.console), profile(console.console), container(console.console, profile, ZARN::nullProgress()),
           project(console.console, profile), kernel(property, style, [this](const QString& program, const QStringList& given) {
               restarted = QStringList{program} + given;

@@ -1,6 +1,7 @@
 #include "app/gui/DialogSplash.h"
 #include "app/gui/ImageHandler.h"
 #include "support/FileHelpers.h"
+#include "support/Places.h"
 #include "ui/main/Answer.h"
 #include "ui/main/DesktopFixture.h"
 #include "ui/main/DialogAbout.h"
@@ -212,7 +213,7 @@ void TestPreferences::licences()
     const DialogAbout dialog;
     auto* pNames = dialog.findChild<QListWidget*>();
     const auto* pTexts = dialog.findChild<QStackedWidget*>();
-    QCOMPARE(pNames->count(), QDir(ZARN_SOURCE_DIR "/resources/licences").entryList({"*.txt"}).size() + 1); // and the program's own
+    QCOMPARE(pNames->count(), QDir(sourceDir() + "/resources/licences").entryList({"*.txt"}).size() + 1); // and the program's own
     for (int i = 0; i < pNames->count(); ++i) {
         pNames->setCurrentRow(i);
         const auto* pText = qobject_cast<QPlainTextEdit*>(pTexts->currentWidget());

@@ -1,3 +1,5 @@
+#include "support/Places.h"
+
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -30,7 +32,7 @@ QString run(const QString& home, const QStringList& arguments)
     environment.remove("XDG_DATA_HOME");
     process.setProcessEnvironment(environment);
     process.setWorkingDirectory(home);
-    process.start(ZARN_BINARY_DIR "/bin/zarn", arguments);
+    process.start(ZARN::binaryDir() + "/bin/zarn", arguments);
     QString output;
     QElapsedTimer timer;
     timer.start();

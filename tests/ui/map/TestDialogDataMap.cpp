@@ -5,6 +5,7 @@
 #include "openstreet/TileHost.h"
 #include "project/Project.h"
 #include "sim/DemoCard.h"
+#include "support/Places.h"
 #include "support/TestCycle.h"
 #include "ui/map/DialogDataMap.h"
 #include "ui/map/MapPanels.h"
@@ -35,7 +36,7 @@ struct Flight : Test::TestCycle {
         DemoCardOptions options;
         std::string error;
         DemoCard().write(folder.path().toStdString(), options, error);
-        profile.loadProfile(QStringLiteral(ZARN_SOURCE_DIR "/resources/profiles/915/Profile.xml"), "");
+        profile.loadProfile(sourceDir() + "/resources/profiles/915/Profile.xml", "");
         container.readContainer(folder.path());
         for (const auto& [number, cycle] : container.recordCycles())
             isLoaded = isLoaded || (container.loadCycle(number, -1) && !container.loadedCycle()->flights.empty());
