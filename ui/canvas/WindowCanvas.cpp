@@ -3,7 +3,6 @@
 #include <QPainter>
 
 #include <algorithm>
-#include <vector>
 
 namespace ZARN {
 
@@ -47,11 +46,12 @@ void WindowCanvas::lineStrip(std::span<const QPointF> points, const CanvasPen& p
         mStrips.setSize((QSizeF(mSize) * mRatio).toSize());
     mHasStrips = true;
     const QTransform now = mPainter.worldTransform();
-    std::vector<QPointF> pixels;
-    pixels.reserve(points.size());
+    const QPointF half(0.5, 0.5), moved = QPointF(now.dx(), now.dy()) + half;
+    const bool isMovedOnly = now.type() <= QTransform::TxTranslate; // as nearly all are
+    mPixels.clear();
     for (const QPointF& point : points)
-        pixels.push_back((now.map(point) + QPointF(0.5, 0.5)) * mRatio - QPointF(0.5, 0.5));
-    mStrips.addStrip(pixels, pen.colour, std::max(1, qRound(pen.width * mRatio)), clipPixels());
+        mPixels.push_back((isMovedOnly ? point + moved : now.map(point) + half) * mRatio - half);
+    mStrips.addStrip(mPixels, pen.colour, std::max(1, qRound(pen.width * mRatio)), clipPixels());
 }
 
 QPainter& WindowCanvas::ready()

@@ -3,6 +3,8 @@
 #include "ui/canvas/RasterCanvas.h"
 #include "ui/canvas/StripImage.h"
 
+#include <vector>
+
 namespace ZARN {
 
 /// A canvas on the painter of a window in memory, which draws thirty traces often: long thin strips are filled as spans, many times faster
@@ -28,6 +30,7 @@ private:
     QSize mSize;
     double mRatio;
     bool mHasStrips = false;
+    std::vector<QPointF> mPixels;
 };
 
 } // namespace ZARN

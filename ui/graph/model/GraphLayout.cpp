@@ -140,15 +140,6 @@ int GraphLayout::stripAt(const GraphModel& model, double y) const
     return found;
 }
 
-double GraphLayout::yOf(double value, const QRectF& area, const std::array<double, 2>& range)
-{
-    constexpr double kFar = 1e6; // pixels: beyond every view, and small enough for every canvas
-    const double span = range[1] - range[0];
-    if (!(span > 0))
-        return area.center().y();
-    return std::clamp(area.bottom() - (value - range[0]) / span * area.height(), -kFar, kFar);
-}
-
 double GraphLayout::valueAt(double y, const QRectF& area, const std::array<double, 2>& range)
 {
     return area.height() > 0 ? range[0] + (area.bottom() - y) / area.height() * (range[1] - range[0]) : range[0];

@@ -4,6 +4,8 @@
 
 #include <QRectF>
 
+#include <algorithm>
+
 namespace ZARN {
 
 /// Where the parts of the graph lie in a view, in pixels, and which time and value a pixel stands for. Made anew for each frame.
@@ -63,5 +65,15 @@ private:
     int mNameLength = 0;
     double mXmin = 0.0, mPixelsPerSecond = 1.0;
 };
+
+// In sight of those that call it for each vertex.
+inline double GraphLayout::yOf(double value, const QRectF& area, const std::array<double, 2>& range)
+{
+    constexpr double kFar = 1e6; // pixels: beyond every view, and small enough for every canvas
+    const double span = range[1] - range[0];
+    if (!(span > 0))
+        return area.center().y();
+    return std::clamp(area.bottom() - (value - range[0]) / span * area.height(), -kFar, kFar);
+}
 
 } // namespace ZARN
