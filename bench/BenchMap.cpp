@@ -86,6 +86,7 @@ void mapFrame(benchmark::State& state)
     const bool withPath = state.range(0) != 0;
     do {
         bench.frame(withPath, 0.0);
+        QCoreApplication::processEvents(); // tiles are looked for on the disk between frames
     } while (bench.map.nrLoadingTiles() != 0);
     double step = 3.0;
     for (auto _ : state) {
