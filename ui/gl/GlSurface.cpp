@@ -1,11 +1,13 @@
 #include "ui/gl/GlSurface.h"
 
+#include "ui/canvas/RasterCanvas.h"
+
 #include <QOffscreenSurface>
 #include <QOpenGLContext>
 #include <QOpenGLFramebufferObject>
 #include <QOpenGLWidget>
-#include <QPainter>
 #include <QPaintEvent>
+#include <QPainter>
 #include <QTimer>
 
 namespace ZARN {
@@ -28,6 +30,7 @@ public:
 
     QWidget& widget() override { return *this; }
     void requestFrame() override { update(); }
+    void requestAbove() override { update(); }
 
 protected:
     void initializeGL() override
@@ -38,7 +41,7 @@ protected:
     void paintGL() override
     {
         if (isStarted())
-            draw(size(), devicePixelRatioF());
+            draw(size(), devicePixelRatioF(), ELayers::eAll);
     }
 
 private:
@@ -74,6 +77,7 @@ public:
         mIsWanted = true;
         update();
     }
+    void requestAbove() override { update(); }
 
 protected:
     void paintEvent(QPaintEvent* pEvent) override
@@ -89,6 +93,9 @@ protected:
         }
         mImage.setDevicePixelRatio(devicePixelRatioF());
         painter.drawImage(QPointF(), mImage);
+        painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+        RasterCanvas canvas(painter);
+        drawAbove(canvas);
     }
 
 private:
@@ -116,7 +123,7 @@ private:
             if (!mpTarget || mpTarget->size() != pixels)
                 mpTarget = std::make_unique<QOpenGLFramebufferObject>(pixels, QOpenGLFramebufferObject::CombinedDepthStencil);
             mpTarget->bind();
-            draw(size(), devicePixelRatioF());
+            draw(size(), devicePixelRatioF(), ELayers::eGround);
             mImage = mpTarget->toImage().convertToFormat(QImage::Format_RGB32);
         }
         mContext.doneCurrent();
@@ -153,11 +160,19 @@ bool GlSurface::start()
     return false;
 }
 
-void GlSurface::draw(const QSize& size, double ratio)
+void GlSurface::draw(const QSize& size, double ratio, ELayers layers)
 {
     mpCanvas->begin(size, ratio, mPainting.background);
     mPainting.paint(*mpCanvas, size, ratio);
+    if (layers == ELayers::eAll)
+        drawAbove(*mpCanvas);
     mpCanvas->end();
+}
+
+void GlSurface::drawAbove(Canvas& canvas) const
+{
+    if (mPainting.paintAbove)
+        mPainting.paintAbove(canvas);
 }
 
 void GlSurface::finish()

@@ -13,6 +13,7 @@ namespace ZARN {
 struct GlPainting {
     QColor background;
     std::function<void(GlCanvas& canvas, const QSize& size, double ratio)> paint; ///< the canvas is ready and empty
+    std::function<void(Canvas& canvas)> paintAbove;                               ///< what moves above it and costs little; may be null
     std::function<void()> release; ///< the context, current now, is about to go, and with it all that was put on it; may be null
     std::function<void(const QString& reason)> failed; ///< this surface cannot draw; not called from within its painting
 };
@@ -37,15 +38,21 @@ public:
     [[nodiscard]] virtual QWidget& widget() = 0;
     /// Has the view painted as soon as the toolkit finds time. Nothing else has it painted but a change of size.
     virtual void requestFrame() = 0;
+    /// The same where only what is painted above has changed: the rest is kept, where that can be done.
+    virtual void requestAbove() = 0;
 
 protected:
-    explicit GlSurface(const GlPainting& painting, CreateDevice createDevice = nullptr) : mPainting(painting), mCreateDevice(createDevice) {}
+    explicit GlSurface(const GlPainting& painting, CreateDevice createDevice = nullptr) : mPainting(painting), mCreateDevice(createDevice)
+    {
+    }
     /// With the context current: makes the canvas. @return whether it can draw
     bool start();
+    enum class ELayers { eAll, eGround };
     /// With the context current.
-    void draw(const QSize& size, double ratio);
+    void draw(const QSize& size, double ratio, ELayers layers);
     /// With the context current: gives up what is on it.
     void finish();
+    void drawAbove(Canvas& canvas) const;
     [[nodiscard]] bool isStarted() const { return mpCanvas != nullptr; }
     void fail(const QString& reason);
 

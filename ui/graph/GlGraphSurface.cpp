@@ -11,7 +11,7 @@ namespace {
 GlPainting paintingFor(const GraphPainting& painting)
 {
     const auto paint = [paint = painting.paint](GlCanvas& canvas, const QSize& size, double ratio) { paint(canvas, size, ratio); };
-    return {Qt::black, paint, nullptr, [failed = painting.failed](const QString& /*reason*/) { failed(); }};
+    return {Qt::black, paint, nullptr, nullptr, [failed = painting.failed](const QString& /*reason*/) { failed(); }};
 }
 
 } // namespace

@@ -13,6 +13,7 @@
 #include <QResizeEvent>
 
 #include <cmath>
+#include <utility>
 
 static void initialiseMapResources()
 {
@@ -23,8 +24,8 @@ namespace ZARN {
 
 namespace {
 
-constexpr int kRedrawInterval = 20;      // milliseconds
-constexpr double kLookInterval = 1.0;    // seconds after which a still view looks whether it is still right
+constexpr int kRedrawInterval = 20;       // milliseconds
+constexpr double kLookInterval = 1.0;     // seconds after which a still view looks whether it is still right
 constexpr double kLoadingInterval = 0.25; // seconds between two drawings while tiles are on their way
 const QColor kBackground(180, 211, 230);
 
@@ -52,6 +53,7 @@ WidgetMap::WidgetMap(const Session& session, const QString& dataPath, MapContext
             paintGL();
             mpCanvas = nullptr;
         },
+        [this](Canvas& canvas) { paintAbove(canvas); },
         [this] { releaseGraphics(); },
         [this](const QString& reason) { mSession.console.print("WidgetMap: %s\n", reason.toUtf8().constData()); },
     };
@@ -102,7 +104,8 @@ void WidgetMap::allowTiles()
 bool WidgetMap::isConsentMissing() const
 {
     const OpenStreet::TileServer& server = mMap.tileServer();
-    return !mScene.path().isEmpty() && server.isValid() && TileConsent(mSession.property).answer(server.address()) == TileConsent::eNotAsked;
+    return !mScene.path().isEmpty() && server.isValid() &&
+           TileConsent(mSession.property).answer(server.address()) == TileConsent::eNotAsked;
 }
 
 void WidgetMap::updateNote()
@@ -113,7 +116,7 @@ void WidgetMap::updateNote()
     else if (mMap.areTilesAllowed() && !mMap.lastError().isEmpty())
         note = mMap.tileServer().name() + QLatin1String(": ") + mMap.lastError();
     if (mScene.setNote(note))
-        mIsDirty = true;
+        mIsAboveDirty = true;
 }
 
 void WidgetMap::init()
@@ -173,14 +176,24 @@ void WidgetMap::setViewPortOrtho()
 void WidgetMap::paintGL()
 {
     mPacer.begin();
-    ++mPaints;
+    mIsPainting = true;
+    ++mGroundPaints;
     mIsDirty = false;
-    mLastRedraw = VESK::Misc::Timer::getTime();
     setViewPort();
     mMap.render(mpCanvas->device());
     setViewPortOrtho();
-    mScene.draw(*mpCanvas, mNavigator.camera());
+    mScene.drawGround(*mpCanvas, mNavigator.camera());
     mContext.isLoading = mMap.nrLoadingTiles() != 0;
+}
+
+void WidgetMap::paintAbove(Canvas& canvas)
+{
+    if (!std::exchange(mIsPainting, false))
+        mPacer.begin();
+    ++mPaints;
+    mIsAboveDirty = false;
+    mLastRedraw = VESK::Misc::Timer::getTime();
+    mScene.drawAbove(canvas, mNavigator.camera());
     mPacer.end();
 }
 
@@ -191,12 +204,16 @@ void WidgetMap::slotTimeout()
     mNavigator.tick(now - mLastTick);
     mLastTick = now;
     const double still = std::fabs(now - mLastRedraw); // the clock may be set back
-    if (mIsDirty || still > kLookInterval) {
+    if (isDirty() || still > kLookInterval) {
         mContext.isLoading = mMap.nrLoadingTiles() != 0;
         updateNote();
     }
-    if ((mIsDirty || (mContext.isLoading && still > kLoadingInterval)) && mPacer.isDue())
+    if (!mPacer.isDue())
+        return;
+    if (mIsDirty || (mContext.isLoading && still > kLoadingInterval))
         mpSurface->requestFrame();
+    else if (mIsAboveDirty)
+        mpSurface->requestAbove();
 }
 
 void WidgetMap::showEvent(QShowEvent* pEvent)
@@ -242,7 +259,7 @@ void WidgetMap::setAcPosition(const FlightPathPoint& position)
     mScene.setAircraft(position);
     if (!mScene.path().isEmpty())
         mNavigator.follow(position.latitude, position.longitude);
-    mIsDirty = true;
+    mIsAboveDirty = true; // where the view goes along it is moving
 }
 
 void WidgetMap::zoomCentered(double range)

@@ -55,7 +55,7 @@ public:
     void fitPath();
     void setDirty() { mIsDirty = true; }
     /// Whether the picture is behind what it should show.
-    [[nodiscard]] bool isDirty() const { return mIsDirty; }
+    [[nodiscard]] bool isDirty() const { return mIsDirty || mIsAboveDirty; }
     /// Whether the user has yet to be asked for the network: there is a path, and a server whose tiles could lie under it.
     [[nodiscard]] bool isConsentMissing() const;
 
@@ -64,7 +64,8 @@ public:
     [[nodiscard]] MapNavigator& navigator() { return mNavigator; }
     [[nodiscard]] OpenStreet::OpenStreetMap& map() { return mMap; }
     [[nodiscard]] const OpenStreet::OpenStreetMap& map() const { return mMap; }
-    /// How often it was drawn.
+    /// How often tiles and path were drawn, and how often the whole picture.
+    [[nodiscard]] int groundPaints() const { return mGroundPaints; }
     [[nodiscard]] int paints() const { return mPaints; }
 
 Q_SIGNALS:
@@ -77,6 +78,7 @@ protected:
     /// What the surface asks for, with its context current.
     void initializeGL();
     void paintGL();
+    void paintAbove(Canvas& canvas);
     void resizeGL(int width, int height);
     void resizeEvent(QResizeEvent* pEvent) override;
     void keyPressEvent(QKeyEvent* pEvent) override;
@@ -122,9 +124,12 @@ private:
     RecordData* mpRecord = nullptr;
     bool mIsInitialised = false;
     bool mIsDirty = true;
+    bool mIsAboveDirty = true; // what is drawn above tiles and path
     double mLastRedraw = 0.0;
     double mLastTick = 0.0;
+    bool mIsPainting = false; // the ground is drawn, what is above it not yet
     FramePacer mPacer;
+    int mGroundPaints = 0;
     int mPaints = 0;
     QTimer mTimer;
     std::optional<QPointF> mDragFrom;

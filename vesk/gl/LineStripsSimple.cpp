@@ -52,21 +52,15 @@ void LineStripsSimple::drawStrip(Device& device, std::size_t first, std::size_t 
         return;
     if (Strokes::isThin(mStyle, device.ratio()))
         return drawThin(device, first, last);
+    std::vector<QPointF> points;
+    points.reserve(last - first);
+    for (std::size_t i = first; i < last; ++i)
+        points.push_back(device.matrix().map(mPoints[i]));
+    std::vector<VertexColour> colours{vertexColour(colour(first))};
+    for (std::size_t i = first + 1; mHasColours && i < last; ++i)
+        colours.push_back(vertexColour(colour(i)));
     Strokes strokes(mStyle, device.ratio());
-    double length = 0;
-    QPointF from = device.matrix().map(mPoints[first]);
-    VertexColour fromColour = vertexColour(colour(first));
-    for (std::size_t i = first + 1; i < last; ++i) {
-        const QPointF to = device.matrix().map(mPoints[i]);
-        const VertexColour toColour = mHasColours ? vertexColour(colour(i)) : fromColour;
-        strokes.addLine(from, to, fromColour, toColour, length);
-        if (i + 1 < last)
-            strokes.addJoint(to, toColour);
-        const double step = std::hypot(to.x() - from.x(), to.y() - from.y());
-        length += std::isfinite(step) ? step : 0.0;
-        from = to;
-        fromColour = toColour;
-    }
+    strokes.addStrip(points, colours);
     device.addTriangles(strokes.triangles());
 }
 

@@ -7,6 +7,7 @@
 #include "ui/map/model/MapScene.h"
 #include "ui/map/model/TileConsent.h"
 
+#include <QLineF>
 #include <QPainter>
 #include <QTest>
 
@@ -74,6 +75,7 @@ private Q_SLOTS:
     void timeOfAPlace();
     void longPathIsBounded();
     void pathGeometryMatchesTheMap();
+    void simplifiedPath();
     void zoomsAboutThePointer();
     void doubleClickMovesThere();
     void dragsAndFollows();
@@ -107,7 +109,8 @@ void TestMapModel::positions_data()
 
 void TestMapModel::positions()
 {
-    const MapPath flight = path({at(1.0, 10.0, 5.0), at(1.5, 20.0, 5.0, 350.0), at(2.0, 40.0, 5.0, 10.0), at(2.5, 42.0, 5.0, 350.0), at(6.5, 46.0, 5.0, 350.0), at(7.0, 46.0, 5.0, 350.0)});
+    const MapPath flight = path({at(1.0, 10.0, 5.0), at(1.5, 20.0, 5.0, 350.0), at(2.0, 40.0, 5.0, 10.0), at(2.5, 42.0, 5.0, 350.0),
+                                 at(6.5, 46.0, 5.0, 350.0), at(7.0, 46.0, 5.0, 350.0)});
     QFETCH(double, time);
     const FlightPathPoint point = flight.positionAt(time);
     QTEST(point.latitude, "latitude");
@@ -147,7 +150,8 @@ void TestMapModel::damagedPath()
 {
     const double nan = std::numeric_limits<double>::quiet_NaN();
     MapScene scene;
-    scene.path().setPoints(std::vector{at(0, 48, 11), at(1, nan, 11), at(2, 48.1, 1e300), at(3, -1e9, 11), at(4, 89.9999, -179), at(5, 48.1, 11, nan)});
+    scene.path().setPoints(
+        std::vector{at(0, 48, 11), at(1, nan, 11), at(2, 48.1, 1e300), at(3, -1e9, 11), at(4, 89.9999, -179), at(5, 48.1, 11, nan)});
     QCOMPARE(scene.path().points().size(), std::size_t(3));
     View view;
     view.navigator.fit(scene.path(), true);
@@ -157,10 +161,12 @@ void TestMapModel::damagedPath()
     QImage image(800, 600, QImage::Format_RGB32);
     QPainter painter(&image);
     RasterCanvas canvas(painter);
-    scene.draw(canvas, view.navigator.camera());
+    scene.drawGround(canvas, view.navigator.camera());
+    scene.drawAbove(canvas, view.navigator.camera());
     for (const auto& strip : scene.geometry().strips()) {
         for (const QPointF& point : strip)
-            QVERIFY(std::fabs(point.x() + scene.geometry().offset().x()) < 2000 && std::fabs(point.y() + scene.geometry().offset().y()) < 2000);
+            QVERIFY(std::fabs(point.x() + scene.geometry().offset().x()) < 2000 &&
+                    std::fabs(point.y() + scene.geometry().offset().y()) < 2000);
     }
 }
 
@@ -195,7 +201,7 @@ void TestMapModel::longPathIsBounded()
 
 void TestMapModel::pathGeometryMatchesTheMap()
 {
-    const MapPath flight = path({at(0, 48.15, 10.9), at(1, 48.2, 11.0), at(2, 48.25, 11.1)});
+    const MapPath flight = path({at(0, 48.15, 10.9), at(1, 48.2, 11.02), at(2, 48.25, 11.1)});
     View view;
     view.navigator.turn(30.0, 20.0);
     view.navigator.drag(40.0, -25.0);
@@ -205,6 +211,43 @@ void TestMapModel::pathGeometryMatchesTheMap()
     for (std::size_t i = 0; i < 3; ++i) {
         const QPointF drawn = geometry.strips()[0][i] + geometry.offset();
         QVERIFY(view.distance({flight.points()[i].latitude, flight.points()[i].longitude}, drawn.x(), drawn.y()) < 1e-6);
+    }
+}
+
+void TestMapModel::simplifiedPath()
+{
+    std::vector<FlightPathPoint> points;
+    const auto add = [&](double latitude, double longitude) {
+        points.push_back(at(static_cast<double>(points.size()), latitude, longitude));
+    };
+    for (int i = 0; i < 5000; ++i) // straight on, with a receiver's noise of a metre
+        add(48.15 + i * 1e-5 + (i % 3) * 5e-6, 10.95 + i * 1e-5);
+    for (int i = 0; i < 2000; ++i) // the same way back, and on beyond its beginning
+        add(48.2 - i * 4e-5, 11.0 - i * 4e-5);
+    for (int i = 0; i < 3000; ++i) // circles
+        add(48.2 + 0.01 * std::sin(i * 0.01), 11.05 + 0.015 * std::cos(i * 0.01));
+    for (int i = 0; i < 500; ++i) // standing
+        add(48.21 + (i % 7) * 3e-6, 11.06 + (i % 5) * 3e-6);
+    add(48.21, 11.1);
+    const MapPath flight = path(points);
+    View view;
+    PathGeometry geometry;
+    geometry.update(flight, view.navigator.camera());
+    QCOMPARE(geometry.strips().size(), std::size_t(1));
+    QVERIFY2(geometry.vertexCount() < 400, qPrintable(QString::number(geometry.vertexCount())));
+    const PathGeometry::Strip& strip = geometry.strips().front();
+    std::size_t stretch = 1; // points and stretches come in the same order
+    for (const FlightPathPoint& point : points) {
+        const OpenStreet::WindowPoint seen = view.navigator.camera().geoToWindow({point.latitude, point.longitude});
+        const auto distance = [&] {
+            const QLineF line(strip[stretch - 1] + geometry.offset(), strip[stretch] + geometry.offset());
+            const QPointF step = line.p2() - line.p1(), away = QPointF(seen.x, seen.y) - line.p1();
+            const double along = std::clamp(QPointF::dotProduct(away, step) / QPointF::dotProduct(step, step), 0.0, 1.0);
+            return QLineF(line.pointAt(along), {seen.x, seen.y}).length();
+        };
+        while (distance() > 1.0 && stretch + 1 < strip.size())
+            ++stretch;
+        QVERIFY2(distance() <= 1.0, qPrintable(QString::number(point.time)));
     }
 }
 
@@ -353,7 +396,8 @@ void TestMapModel::picture()
     image.fill(Qt::white);
     QPainter painter(&image);
     RasterCanvas canvas(painter);
-    scene.draw(canvas, view.navigator.camera());
+    scene.drawGround(canvas, view.navigator.camera());
+    scene.drawAbove(canvas, view.navigator.camera());
     painter.end();
     const OpenStreet::WindowPoint quarter = view.navigator.camera().geoToWindow({48.175, 10.95});
     bool isRed = false; // Mercator bends the line by less than a pixel here
@@ -371,8 +415,9 @@ void TestMapModel::longNote()
     MapScene scene;
     scene.setNote("tiles.example.org: " + QString(300, 'x'));
     Test::RecordingCanvas canvas;
-    scene.draw(canvas, View().navigator.camera());
-    const auto note = std::find_if(canvas.texts.begin(), canvas.texts.end(), [](const auto& text) { return text.second.startsWith("tiles"); });
+    scene.drawAbove(canvas, View().navigator.camera());
+    const auto note =
+        std::find_if(canvas.texts.begin(), canvas.texts.end(), [](const auto& text) { return text.second.startsWith("tiles"); });
     QVERIFY(note != canvas.texts.end());
     QVERIFY(note->first.right() <= 800 && note->first.width() > 700 && note->second.endsWith(QChar(0x2026)));
 }

@@ -105,9 +105,10 @@ MapScaleBar MapScaleBar::at(const OpenStreet::Camera& camera, double pixels, boo
 
 std::span<const QPointF> MapScene::aircraftOutline()
 {
-    static constexpr std::array<QPointF, 22> right{
-        QPointF{0, -15},  {1.6, -13.5}, {2.2, -10},  {2.2, -5},  {17, -2.5}, {17, 1},    {2.2, 1.5},   {1.4, 10},  {6.5, 12},  {6.5, 14.5}, {0.8, 13.8},
-        {-0.8, 13.8}, {-6.5, 14.5}, {-6.5, 12}, {-1.4, 10}, {-2.2, 1.5}, {-17, 1}, {-17, -2.5}, {-2.2, -5}, {-2.2, -10}, {-1.6, -13.5}, {0, -15}};
+    static constexpr std::array<QPointF, 22> right{QPointF{0, -15}, {1.6, -13.5}, {2.2, -10},    {2.2, -5},   {17, -2.5},  {17, 1},
+                                                   {2.2, 1.5},      {1.4, 10},    {6.5, 12},     {6.5, 14.5}, {0.8, 13.8}, {-0.8, 13.8},
+                                                   {-6.5, 14.5},    {-6.5, 12},   {-1.4, 10},    {-2.2, 1.5}, {-17, 1},    {-17, -2.5},
+                                                   {-2.2, -5},      {-2.2, -10},  {-1.6, -13.5}, {0, -15}};
     return std::span(right).first(right.size() - 1);
 }
 
@@ -118,15 +119,20 @@ bool MapScene::setNote(const QString& note)
     return isOther;
 }
 
-void MapScene::draw(Canvas& canvas, const OpenStreet::Camera& camera)
+void MapScene::drawGround(Canvas& canvas, const OpenStreet::Camera& camera)
 {
     if (mHasGraticule)
         drawGraticule(canvas, camera);
     drawPath(canvas, camera);
     drawEvents(canvas, camera);
+}
+
+void MapScene::drawAbove(Canvas& canvas, const OpenStreet::Camera& camera) const
+{
     drawAircraft(canvas, camera);
     drawScaleBar(canvas, camera);
-    drawLabel(canvas, {camera.width() - kMargin, camera.height() - kMargin}, QString::fromLatin1(kAttribution), Qt::AlignRight | Qt::AlignBottom);
+    drawLabel(canvas, {camera.width() - kMargin, camera.height() - kMargin}, QString::fromLatin1(kAttribution),
+              Qt::AlignRight | Qt::AlignBottom);
 }
 
 void MapScene::drawGraticule(Canvas& canvas, const OpenStreet::Camera& camera) const

@@ -33,7 +33,10 @@ public:
     /// A line for people above the scale bar, for example that the server does not answer; empty for none. @return whether it is another one.
     bool setNote(const QString& note);
 
-    void draw(Canvas& canvas, const OpenStreet::Camera& camera);
+    /// What changes with the view only: path and events.
+    void drawGround(Canvas& canvas, const OpenStreet::Camera& camera);
+    /// What moves above it, and what stands in the window's corners.
+    void drawAbove(Canvas& canvas, const OpenStreet::Camera& camera) const;
     /// The aircraft seen from above, pointing north, around the origin.
     [[nodiscard]] static std::span<const QPointF> aircraftOutline();
 

@@ -4,10 +4,12 @@
 
 #include <vector>
 
+class QRectF;
+
 namespace ZARN {
 
-/// The lines that show the path in a window. What lies far outside is left out, and of points in one pixel one remains, so that a day's
-/// path costs no more than what can be seen of it. Kept while the view only moves: a pan costs a translation.
+/// The lines that show the path in a window. What lies far outside is left out, and so are points that the line passes by a third of a pixel, so
+/// that a day's path costs no more than what can be seen of it. Kept while the view only moves: a pan costs a translation.
 class PathGeometry {
 public:
     using Strip = std::vector<QPointF>;
@@ -35,6 +37,9 @@ private:
     };
 
     void build(const MapPath& path, const OpenStreet::Camera& camera, double tolerance);
+
+    /// Draws on to a point, or begins a strip where the box is entered. @return whether the strip goes on from there
+    bool addStretch(QPointF from, QPointF to, const QRectF& box, bool isOpen);
 
     Key mKey;
     std::vector<Strip> mStrips;
