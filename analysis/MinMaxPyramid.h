@@ -31,7 +31,7 @@ template <typename Value> struct ValueRange {
 template <typename Value> class MinMaxPyramid {
 public:
     using Range = ValueRange<Value>;
-    static constexpr std::size_t kLeaf = 64;
+    static constexpr std::size_t kLeaf = 32;
     static constexpr std::size_t kFan = 16;
 
     /// Takes in what came to the end of the values since the last call.
@@ -91,7 +91,8 @@ template <typename Value> void MinMaxPyramid<Value>::update(std::span<const Valu
     }
 }
 
-template <typename Value> void MinMaxPyramid<Value>::addNodes(const std::vector<Range>& nodes, std::size_t first, std::size_t last, Range& range)
+template <typename Value>
+void MinMaxPyramid<Value>::addNodes(const std::vector<Range>& nodes, std::size_t first, std::size_t last, Range& range)
 {
     for (; first < last; ++first)
         range.add(nodes[first]);
@@ -126,17 +127,15 @@ template <typename Value> void MinMaxPyramid<Value>::prefetch(std::span<const Va
     if (mLevels.empty() || mLevels[0].empty())
         return;
     constexpr std::size_t kLine = 64;
-    const auto* pLine = reinterpret_cast<const char*>(values.data() + std::min(first, values.size() - 1));
-    // One run ends where the next begins: both sides of the place are read, at most a leaf of values and two fans of nodes.
-    for (std::size_t offset = 0; offset < kLeaf * sizeof(Value); offset += kLine) {
-        __builtin_prefetch(pLine + offset);
-        __builtin_prefetch(pLine - offset);
-    }
-    const auto* pNode = reinterpret_cast<const char*>(mLevels[0].data() + std::min(first / kLeaf, mLevels[0].size() - 1));
-    for (std::size_t offset = 0; offset <= kFan * sizeof(Range); offset += kLine) {
-        __builtin_prefetch(pNode + offset);
-        __builtin_prefetch(pNode - offset);
-    }
+    const auto ask = [](const auto* pFirst, std::size_t count) {
+        const auto* pBytes = reinterpret_cast<const char*>(pFirst);
+        for (std::size_t offset = 0; offset < count * sizeof(*pFirst) + kLine; offset += kLine)
+            __builtin_prefetch(pBytes + offset);
+    };
+    // One run ends where the next begins: between them they read the leaf around the place, and the nodes beside it up to the next above.
+    const std::size_t leaf = std::min(first / kLeaf, mLevels[0].size() - 1);
+    ask(values.data() + leaf * kLeaf, kLeaf);
+    ask(mLevels[0].data() + leaf / kFan * kFan, kFan);
 }
 
 template <typename Value> std::size_t MinMaxPyramid<Value>::bytes() const

@@ -1,6 +1,7 @@
 #include "analysis/SampleSeries.h"
 
 #include "app/Numeric.h"
+#include "vesk/base/Memory.h"
 
 #include <array>
 #include <cmath>
@@ -22,11 +23,15 @@ bool isFloat(double value)
 
 void SampleSeries::reserve(std::size_t count)
 {
-    mTimes.reserve(count);
+    const auto take = [count](auto& values) {
+        values.reserve(count);
+        VESK::Memory::preferLargePages(values.data() + values.size(), (values.capacity() - values.size()) * sizeof(values[0]));
+    };
+    take(mTimes);
     if (mIsDouble)
-        mDoubles.reserve(count);
+        take(mDoubles);
     else
-        mFloats.reserve(count);
+        take(mFloats);
 }
 
 void SampleSeries::clear()
@@ -129,8 +134,8 @@ std::size_t SampleSeries::firstAtOrAfter(double time) const
         return size();
     const auto [first, last] = secondOf(time);
     const auto begin = order().begin();
-    return static_cast<std::size_t>(std::lower_bound(begin + static_cast<std::ptrdiff_t>(first), begin + static_cast<std::ptrdiff_t>(last), time)
-                                    - begin);
+    return static_cast<std::size_t>(
+        std::lower_bound(begin + static_cast<std::ptrdiff_t>(first), begin + static_cast<std::ptrdiff_t>(last), time) - begin);
 }
 
 void SampleSeries::positionsAt(double start, double step, std::span<uint32_t> positions) const
@@ -277,8 +282,8 @@ double SampleSeries::integral(double from, double to, double* pCovered) const
 
 std::size_t SampleSeries::bytes() const
 {
-    return (mTimes.capacity() + mDoubles.capacity() + mLatest.capacity()) * sizeof(double) + mFloats.capacity() * sizeof(float)
-           + mSeconds.capacity() * sizeof(uint32_t) + mAreas.capacity() * sizeof(Area) + mFloatPyramid.bytes() + mDoublePyramid.bytes();
+    return (mTimes.capacity() + mDoubles.capacity() + mLatest.capacity()) * sizeof(double) + mFloats.capacity() * sizeof(float) +
+           mSeconds.capacity() * sizeof(uint32_t) + mAreas.capacity() * sizeof(Area) + mFloatPyramid.bytes() + mDoublePyramid.bytes();
 }
 
 } // namespace ZARN

@@ -21,7 +21,10 @@ public:
     [[nodiscard]] std::size_t size() const { return mTimes.size(); }
     [[nodiscard]] bool empty() const { return mTimes.empty(); }
     [[nodiscard]] double time(std::size_t position) const { return mTimes[position]; }
-    [[nodiscard]] double value(std::size_t position) const { return mIsDouble ? mDoubles[position] : static_cast<double>(mFloats[position]); }
+    [[nodiscard]] double value(std::size_t position) const
+    {
+        return mIsDouble ? mDoubles[position] : static_cast<double>(mFloats[position]);
+    }
     /// True while no sample is earlier than the one before it.
     [[nodiscard]] bool ascending() const { return mLatest.empty(); }
 
