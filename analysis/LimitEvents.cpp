@@ -46,7 +46,7 @@ public:
         const ThresholdList* pList = mDecoder.textThresholds();
         if (!pList && !mParameter.isPosition()) // positions are decoded all the same, for those that follow them
             return;
-        std::array<double, kRun> values;
+        std::array<double, kRun> values{};
         for (std::size_t position = 0; position < entries.size();) {
             const auto records = entries.run(position, kRun);
             mDecoder.textValues(records, values.data(), mFilter);

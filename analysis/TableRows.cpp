@@ -17,7 +17,7 @@ constexpr std::size_t kBitsASample = 32; // what sorting by bits may take: 4 byt
 /// Calls `visit` with the key of every sample, in stored order.
 template <typename Visitor> void forEachKey(const RecordEntries& entries, Visitor visit)
 {
-    std::array<double, kRun> times;
+    std::array<double, kRun> times{};
     for (std::size_t position = 0; position < entries.size();) {
         const auto records = entries.run(position, kRun);
         recordTimes(records, times.data());

@@ -11,7 +11,7 @@ namespace ZARN {
 struct TimeKey {
     uint32_t tenths = 0;
 
-    [[nodiscard]] static TimeKey of(double seconds) { return {timeTenths(seconds)}; }
+    [[nodiscard]] static TimeKey of(double seconds) { return TimeKey{.tenths = timeTenths(seconds)}; }
     [[nodiscard]] int64_t milliseconds() const { return static_cast<int64_t>(tenths) * 100; }
     auto operator<=>(const TimeKey&) const = default;
 };

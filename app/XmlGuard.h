@@ -15,8 +15,8 @@ namespace ZARN {
 /// well-formed up to some point it agrees with the parser up to that point, and beyond it the parser does not go.
 class XmlGuard {
 public:
-    static constexpr std::size_t maxFileSize = 32 * 1024 * 1024; ///< bytes of the file
-    static constexpr std::size_t maxTagSize = 64 * 1024;         ///< bytes of a tag in UTF-8, "<" and ">" included
+    static constexpr std::size_t maxFileSize = std::size_t(32) * 1024 * 1024; ///< bytes of the file
+    static constexpr std::size_t maxTagSize = std::size_t(64) * 1024;         ///< bytes of a tag in UTF-8, "<" and ">" included
     static constexpr std::size_t maxAttributes = 1000;           ///< of a tag: the parser's time grows with their square
     static constexpr std::size_t maxDepth = 64;                  ///< the root element has depth 1
     static constexpr std::size_t maxElements = 2'000'000;

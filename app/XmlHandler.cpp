@@ -36,7 +36,7 @@ QString fixedText(double value)
 {
     if (std::isnan(value))
         return QStringLiteral("nan");
-    std::array<char, 352> buffer; // the largest double has 309 digits before the point
+    std::array<char, 352> buffer{}; // the largest double has 309 digits before the point
     const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed, 12);
     return QString::fromLatin1(buffer.data(), result.ptr - buffer.data());
 }

@@ -11,7 +11,7 @@ namespace ZARN {
 /// recorded stays at the marker.
 struct KmlPoint {
     static constexpr double kMissing = -1000.0;
-    int slot;
+    int slot = 0;
     double latitude = kMissing;
     double longitude = kMissing;
     double altitude = kMissing;

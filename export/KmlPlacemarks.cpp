@@ -13,8 +13,8 @@ constexpr std::size_t kRun = 512; // samples decoded at once
 KmlSlots collectTexts(const RecordEntries& entries, const ValueDecoder& decoder, CoordinateFilter& filter, const KmlGrid& grid, int interval)
 {
     KmlSlots slots;
-    std::array<double, kRun> times;
-    std::array<double, kRun> values;
+    std::array<double, kRun> times{};
+    std::array<double, kRun> values{};
     for (std::size_t position = 0; position < entries.size();) {
         const auto records = entries.run(position, kRun);
         recordTimes(records, times.data());

@@ -27,7 +27,7 @@ public:
     bool flush();
 
 private:
-    static constexpr std::size_t kFlushSize = 64 * 1024;
+    static constexpr std::size_t kFlushSize = std::size_t(64) * 1024;
     void indent();
     void appendEscaped(std::string_view content);
     void flushWhenFull();

@@ -18,7 +18,7 @@ namespace OpenStreet {
 namespace {
 
 constexpr quint32 kMagic = 0x5A544C31; // "ZTL1"
-constexpr qint64 kLargestFile = TileImage::kMaxBytes + 16 * 1024;
+constexpr qint64 kLargestFile = TileImage::kMaxBytes + qint64(16) * 1024;
 constexpr qint64 kTouchAfter = 3600; // seconds; a new time on every use would wear the disk for nothing
 
 } // namespace

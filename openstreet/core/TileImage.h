@@ -9,7 +9,7 @@ namespace OpenStreet {
 /// The picture of a tile out of what a server or the disk delivers, which may be anything.
 class TileImage {
 public:
-    static constexpr qint64 kMaxBytes = 4 * 1024 * 1024;
+    static constexpr qint64 kMaxBytes = qint64(4) * 1024 * 1024;
     static constexpr int kMaxEdge = 1024;
     static constexpr int kKeptEdge = 512; ///< larger pictures are kept smaller
 

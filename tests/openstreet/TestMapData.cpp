@@ -28,7 +28,7 @@ void putSlope(const QString& path)
     }
     QFile file(path);
     QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(reinterpret_cast<const char*>(heights.data()), static_cast<qint64>(heights.size() * 2));
+    file.write(reinterpret_cast<const char*>(heights.data()), 2 * static_cast<qint64>(heights.size()));
 }
 
 TileId tileAt(double latitude, double longitude, int zoom)

@@ -59,8 +59,8 @@ private:
     [[nodiscard]] int widthOfReplay(int buttonWidth) const;
     [[nodiscard]] int widthOfClocks() const;
 
-    QLCDNumber* mpDateClock;
-    QLCDNumber* mpTimeClock;
+    QLCDNumber* mpDateClock = nullptr;
+    QLCDNumber* mpTimeClock = nullptr;
     ReplayButton* mpReplay;
     ReplayButton* mpStop;
     QSlider* mpPosition;

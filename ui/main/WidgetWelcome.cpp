@@ -7,6 +7,8 @@
 #include <QPushButton>
 #include <QStyle>
 
+#include <algorithm>
+
 namespace ZARN {
 
 namespace {
@@ -29,7 +31,7 @@ QLabel* makeLabel(const char* objectName)
 void giveRoom(QLabel& label)
 {
     label.ensurePolished();
-    label.setMinimumHeight(label.heightForWidth(kTextWidth));
+    label.setMinimumHeight(std::max(0, label.heightForWidth(kTextWidth))); // an empty one has none
 }
 
 } // namespace

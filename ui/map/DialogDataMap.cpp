@@ -49,7 +49,10 @@ void DialogDataMap::createMap(const QString& dataPath)
     mpConsent = new MapConsentBar(this);
     mpConsent->hide();
     connect(mpMap, &WidgetMap::signalUpdateMode, this, &DialogDataMap::slotUpdateMode);
-    connect(mpMap, &WidgetMap::signalTime, this, &DialogDataMap::signalTime);
+    connect(mpMap, &WidgetMap::signalTime, this, [this](double time) {
+        setTime(time); // whoever is told moves the other views only
+        Q_EMIT signalTime(time);
+    });
     connect(mpTools, &MapToolPanel::signalToggled, this, &DialogDataMap::slotCommandToggled);
     connect(mpConsent, &MapConsentBar::signalAnswer, this, &DialogDataMap::slotConsent);
 }

@@ -77,7 +77,7 @@ struct Area : Test::DataCycle {
     }
     QString take()
     {
-        const QString text = log.join(' ');
+        QString text = log.join(' ');
         log.clear();
         return text;
     }

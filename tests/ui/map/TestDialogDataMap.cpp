@@ -460,6 +460,7 @@ void TestDialogDataMap::picksTimes()
     QVERIFY(QToolTip::text().contains(QString::fromStdString(dots.back().text).toHtmlEscaped()));
     QTest::mouseClick(&window.map(), Qt::LeftButton, {}, dot);
     QCOMPARE(picked.size(), 1);
+    QCOMPARE(window.map().scene().aircraft().time, picked.front().front().toDouble());
     const FlightPathPoint there = window.dialog->calcPositionAtTime(picked.first().first().toDouble());
     QVERIFY(WidgetMap::calcDistance(there.latitude, there.longitude, at.latitude, at.longitude) < window.map().screenToCartesianSize(8.0));
     QTest::mouseClick(&window.map(), Qt::LeftButton, {}, {20, window.map().height() - 60}); // far from the path
