@@ -9,6 +9,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include <QElapsedTimer>
 #include <QHeaderView>
 #include <QScrollBar>
 #include <QTableView>
@@ -54,7 +55,9 @@ struct TableSession {
                          "</ThresholdList><Device name=\"d\">";
         for (uint32_t i = 0; i < columns; ++i) {
             xml += QString("<Parameter name=\"p%1\" id=\"%2\" startByte=\"4\" precision=\"2\" dataType=\"FLOAT\" thresholdId=\"t\"/>")
-                       .arg(i).arg(i % channels + 1).toUtf8();
+                       .arg(i)
+                       .arg(i % channels + 1)
+                       .toUtf8();
         }
         QDomDocument document;
         document.setContent(xml + "</Device></CanAerospaceProfile>");
@@ -79,12 +82,16 @@ struct TableSession {
     Project project;
 };
 
-void showFirst(QWidget& window, QTableView& view)
+/// @return milliseconds from the wish to see it to its being painted
+double showFirst(QWidget& window, QTableView& view)
 {
+    QElapsedTimer clock;
+    clock.start();
     window.resize(kWindow);
     window.show();
     QApplication::processEvents();
     view.viewport()->repaint();
+    return static_cast<double>(clock.nsecsElapsed()) * 1e-6;
 }
 
 void scroll(QTableView& view, int& step)
@@ -151,7 +158,7 @@ void openTable(benchmark::State& state)
         const std::size_t before = heap();
         DialogDataTable view(table.session());
         view.updateRecord(&table.container.recordData());
-        showFirst(view, *view.findChild<QTableView*>());
+        state.counters["firstPaintMs"] = showFirst(view, *view.findChild<QTableView*>());
         const double samples = static_cast<double>(table.container.recordData().count()) * static_cast<double>(state.range(1)) /
                                static_cast<double>(state.range(2));
         state.counters["heapMiB"] = static_cast<double>(heap() - before) / 1048576.0;
