@@ -5,7 +5,6 @@
 
 #include <benchmark/benchmark.h>
 
-#include <QFile>
 #include <QOffscreenSurface>
 #include <QOpenGLContext>
 #include <QOpenGLFramebufferObject>
@@ -38,8 +37,7 @@ struct MapBench {
         target.emplace(kWindow);
         canvas.emplace();
         isReady = canvas->init();
-        QFile world(QStringLiteral(ZARN_SOURCE_DIR "/resources/map/world.bin"));
-        isReady = isReady && world.open(QIODevice::ReadOnly) && map.setBaseMap(world.readAll());
+        isReady = isReady && map.loadBaseMap();
         camera.setWindowSize(kWindow.width(), kWindow.height());
         camera.setPosition({48.2, 11.05});
         camera.setVisibleRange(kRange, 0.0);
@@ -118,8 +116,7 @@ void pathBuild(benchmark::State& state)
 void builtInTile(benchmark::State& state)
 {
     OpenStreet::BaseMap map;
-    QFile world(QStringLiteral(ZARN_SOURCE_DIR "/resources/map/world.bin"));
-    if (!world.open(QIODevice::ReadOnly) || !map.load(world.readAll()))
+    if (!map.loadBuiltIn())
         return state.SkipWithError("no map of the world");
     int column = 0;
     for (auto _ : state)

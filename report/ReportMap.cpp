@@ -6,17 +6,10 @@
 #include "ui/map/model/MapScene.h"
 #include "ui/map/model/PathGeometry.h"
 
-#include <QFile>
 #include <QPainter>
 #include <QPainterPath>
 
 #include <cmath>
-
-/// Registers the resource; a static library's are not by themselves, and the macro wants to stand outside every namespace.
-static void registerMap()
-{
-    Q_INIT_RESOURCE(report);
-}
 
 namespace ZARN {
 
@@ -84,10 +77,7 @@ std::vector<QPointF> disc(const QPointF& middle, double radius)
 
 ReportMap::ReportMap(const CardContainer& container, bool isImperial) : mContainer(container), mIsImperial(isImperial)
 {
-    registerMap();
-    QFile world(QStringLiteral(":/report/world.bin"));
-    if (world.open(QIODevice::ReadOnly))
-        mBaseMap.load(world.readAll());
+    mBaseMap.loadBuiltIn();
     mPath.setPoints(container.flightPath());
 }
 

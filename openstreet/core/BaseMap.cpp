@@ -3,8 +3,14 @@
 #include "openstreet/core/BaseMapReader.h"
 #include "openstreet/core/Clip.h"
 
+#include <QFile>
 #include <QPainter>
 #include <QPainterPath>
+
+static void initialiseWorldResource()
+{
+    Q_INIT_RESOURCE(world); // of a static library, which nothing else would pull in
+}
 
 namespace OpenStreet {
 
@@ -49,6 +55,13 @@ QPen pen(QRgb colour, double width, Qt::PenStyle style)
 }
 
 } // namespace
+
+bool BaseMap::loadBuiltIn()
+{
+    initialiseWorldResource();
+    QFile file(QStringLiteral(":/openstreet/world.bin"));
+    return file.open(QIODevice::ReadOnly) && load(file.readAll());
+}
 
 bool BaseMap::load(const QByteArray& packed)
 {

@@ -32,6 +32,8 @@ public:
     /// @param packed the content of the map's file, as tools/make-base-map writes it. @return false, with an empty map, when it is
     /// something else.
     bool load(const QByteArray& packed);
+    /// Loads the map that comes with the program.
+    bool loadBuiltIn();
     [[nodiscard]] bool isEmpty() const { return mWorld.land.empty(); }
 
     [[nodiscard]] QImage tile(const TileId& id);

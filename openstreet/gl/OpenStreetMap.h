@@ -40,8 +40,8 @@ public:
     void setUserAgent(const QByteArray& text) { mStore.loader().setUserAgent(text); }
     void setTilesAllowed(bool allowed) { mStore.setAllowed(allowed); }
     [[nodiscard]] bool areTilesAllowed() const { return mStore.isAllowed(); }
-    /// The file of the built-in map. @return false when it is none.
-    bool setBaseMap(const QByteArray& packed) { return mBaseMap.load(packed); }
+    /// What is shown where there are no tiles. @return false when the program comes without it
+    bool loadBaseMap() { return mBaseMap.loadBuiltIn(); }
 
     void setProjection(ProjectionType type) { mCamera.setProjection(type); }
     void setMapType(MapType type);

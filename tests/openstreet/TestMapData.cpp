@@ -100,10 +100,8 @@ void TestMapData::shades()
 
 void TestMapData::world()
 {
-    QFile file(ZARN::sourceDir() + "/resources/map/world.bin");
-    QVERIFY(file.open(QIODevice::ReadOnly));
     BaseMap map;
-    QVERIFY(map.load(file.readAll()));
+    QVERIFY(map.loadBuiltIn());
     const QRgb water = map.tile(tileAt(30.0, -40.0, 6)).pixel(100, 100);
     const auto isLand = [&](double latitude, double longitude, int zoom) {
         const TileId id = tileAt(latitude, longitude, zoom);

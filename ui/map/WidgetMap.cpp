@@ -9,16 +9,10 @@
 #include "ui/map/model/TileConsent.h"
 #include "vesk/base/Timer.h"
 
-#include <QFile>
 #include <QResizeEvent>
 
 #include <cmath>
 #include <utility>
-
-static void initialiseMapResources()
-{
-    Q_INIT_RESOURCE(map); // of a static library, which nothing else would pull in
-}
 
 namespace ZARN {
 
@@ -128,9 +122,7 @@ void WidgetMap::init()
 /// Not before it is seen: the start of the program need not wait for it.
 void WidgetMap::loadWorld()
 {
-    initialiseMapResources();
-    QFile world(QStringLiteral(":/map/world.bin"));
-    if (!world.open(QIODevice::ReadOnly) || !mMap.setBaseMap(world.readAll()))
+    if (!mMap.loadBaseMap())
         mSession.console.print("WidgetMap::loadWorld: no map of the world\n");
 }
 
