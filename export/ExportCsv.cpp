@@ -73,9 +73,9 @@ private:
         mLongTexts.clear();
         for (CsvColumn& column : mColumns)
             column.collect(mWindow);
-        for (uint16_t offset = 0; offset < mWindow.marked.size(); ++offset) {
+        for (std::size_t offset = 0; offset < mWindow.marked.size(); ++offset) {
             if (mWindow.marked[offset])
-                mWindow.rows.push_back(offset);
+                mWindow.rows.push_back(static_cast<uint16_t>(offset));
         }
         CsvCell* pCells = mCells.data();
         for (CsvColumn& column : mColumns) {

@@ -246,7 +246,7 @@ void TileStore::takeTile(const TileId& id, const TileReply& reply)
     Q_EMIT signalTile(id);
 }
 
-void TileStore::takeNotModified(const TileId& id, TileReply reply)
+void TileStore::takeNotModified(const TileId& id, const TileReply& reply)
 {
     mServerFailure = {};
     mFailures.erase(id);

@@ -82,7 +82,7 @@ private:
     void scheduleRetry();
     void slotFinished(const TileId& id, const TileReply& reply);
     void takeTile(const TileId& id, const TileReply& reply);
-    void takeNotModified(const TileId& id, TileReply reply);
+    void takeNotModified(const TileId& id, const TileReply& reply);
     void fail(const TileId& id, const TileReply& reply);
     void keep(const TileId& id, const QImage& image, qint64 expires);
     [[nodiscard]] qint64 waitUntil(const TileId& id) const;

@@ -48,7 +48,7 @@ template <typename Make> QImage OpenStreetMap::Frame::timed(Make make)
 {
     QElapsedTimer clock;
     clock.start();
-    const QImage image = make();
+    QImage image = make();
     mSpent += clock.nsecsElapsed();
     return image;
 }

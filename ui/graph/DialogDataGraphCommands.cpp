@@ -73,13 +73,10 @@ void DialogDataGraph::zoomAll()
 void DialogDataGraph::slotHeldZoom()
 {
     const auto width = static_cast<float>(mpGraph->model().width());
-    float wanted = width;
-    if (mpButtons->held() == eZoomIn)
-        wanted = std::min(width * kZoom, kZoomInLimit);
-    else if (mpButtons->held() == eZoomOut)
-        wanted = std::max(width / kZoom, kZoomOutLimit);
-    else
+    const EGraphCommand held = mpButtons->held();
+    if (held != eZoomIn && held != eZoomOut)
         return mHeldTimer.stop();
+    const float wanted = held == eZoomIn ? std::min(width * kZoom, kZoomInLimit) : std::max(width / kZoom, kZoomOutLimit);
     mpGraph->setXrange(wanted);
     mData.xRange = static_cast<double>(wanted);
 }
