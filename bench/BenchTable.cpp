@@ -5,6 +5,7 @@
 #include "card/CardContainer.h"
 #include "project/Project.h"
 #include "ui/data/DialogDataTable.h"
+#include "ui/data/RowTable.h"
 #include "ui/data/model/DataTableModel.h"
 
 #include <benchmark/benchmark.h>
@@ -12,7 +13,6 @@
 #include <QElapsedTimer>
 #include <QHeaderView>
 #include <QScrollBar>
-#include <QTableView>
 #include <QTableWidget>
 
 #include <bit>
@@ -83,7 +83,7 @@ struct TableSession {
 };
 
 /// @return milliseconds from the wish to see it to its being painted
-double showFirst(QWidget& window, QTableView& view)
+double showFirst(QWidget& window, QAbstractItemView& view)
 {
     QElapsedTimer clock;
     clock.start();
@@ -94,7 +94,7 @@ double showFirst(QWidget& window, QTableView& view)
     return static_cast<double>(clock.nsecsElapsed()) * 1e-6;
 }
 
-void scroll(QTableView& view, int& step)
+void scroll(QAbstractItemView& view, int& step)
 {
     step = (step + 1) % 50;
     view.verticalScrollBar()->setValue(view.verticalScrollBar()->maximum() / 50 * step);
@@ -158,7 +158,7 @@ void openTable(benchmark::State& state)
         const std::size_t before = heap();
         DialogDataTable view(table.session());
         view.updateRecord(&table.container.recordData());
-        state.counters["firstPaintMs"] = showFirst(view, *view.findChild<QTableView*>());
+        state.counters["firstPaintMs"] = showFirst(view, *view.findChild<RowTable*>());
         const double samples = static_cast<double>(table.container.recordData().count()) * static_cast<double>(state.range(1)) /
                                static_cast<double>(state.range(2));
         state.counters["heapMiB"] = static_cast<double>(heap() - before) / 1048576.0;
@@ -173,7 +173,7 @@ void scrollTable(benchmark::State& state)
     TableSession table(static_cast<uint32_t>(state.range(0)), static_cast<uint32_t>(state.range(1)), static_cast<uint32_t>(state.range(2)));
     DialogDataTable view(table.session());
     view.updateRecord(&table.container.recordData());
-    auto* pView = view.findChild<QTableView*>();
+    auto* pView = view.findChild<RowTable*>();
     for (int column = 0; column < view.model().columnCount(); ++column)
         pView->setColumnWidth(column, kColumnWidth); // as many cells a page as the other table shows
     showFirst(view, *pView);
@@ -189,7 +189,7 @@ void followTime(benchmark::State& state)
     TableSession table(3000000, 120, 4);
     DialogDataTable view(table.session());
     view.updateRecord(&table.container.recordData());
-    showFirst(view, *view.findChild<QTableView*>());
+    showFirst(view, *view.findChild<RowTable*>());
     double time = 0.0;
     for (auto _ : state) {
         view.setTime(time += 2.0);

@@ -1,6 +1,7 @@
 #include "ui/data/DialogDataTable.h"
 
 #include "card/CardContainer.h"
+#include "ui/data/RowTable.h"
 #include "ui/data/TableCellDelegate.h"
 #include "ui/data/TableCopy.h"
 #include "ui/data/model/DataTableModel.h"
@@ -10,6 +11,7 @@
 #include <QLabel>
 #include <QScopedValueRollback>
 #include <QScrollBar>
+#include <QStackedLayout>
 #include <QTableView>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -29,17 +31,21 @@ constexpr int kRefreshMilliseconds = 50;
 } // namespace
 
 DialogDataTable::DialogDataTable(const Session& session, QWidget* pParent)
-    : QWidget(pParent), mContainer(session.container), mpModel(new DataTableModel(session.profile, this)), mpLive(new LiveTableModel(session.profile, this)),
-      mpView(new QTableView), mpHint(new QLabel), mpTimer(new QTimer(this))
+    : QWidget(pParent), mContainer(session.container), mpModel(new DataTableModel(session.profile, this)),
+      mpLive(new LiveTableModel(session.profile, this)), mpView(new RowTable(kRowHeight)), mpLiveView(new QTableView),
+      mpViews(new QStackedLayout), mpHint(new QLabel), mpTimer(new QTimer(this))
 {
     createView();
+    createLiveView();
+    mpViews->addWidget(mpView);
+    mpViews->addWidget(mpLiveView);
     mpHint->setObjectName("quiet");
     mpHint->setText(tr("No parameters are shown. Tick the ones to see in the profile panel."));
     mpHint->setAlignment(Qt::AlignCenter);
     mpHint->setWordWrap(true);
     auto* pLayout = new QVBoxLayout(this);
     pLayout->setContentsMargins(0, 0, 0, 0);
-    pLayout->addWidget(mpView);
+    pLayout->addLayout(mpViews);
     pLayout->addWidget(mpHint);
     mpTimer->setInterval(kRefreshMilliseconds);
     connect(mpTimer, &QTimer::timeout, this, &DialogDataTable::slotTimeoutRefresh);
@@ -48,31 +54,30 @@ DialogDataTable::DialogDataTable(const Session& session, QWidget* pParent)
 
 void DialogDataTable::createView()
 {
-    mpView->setStyleSheet("QTableView { font-size: 11px; }"); // what fits the rows and the width of the time
+    mpView->setStyleSheet("ZARN--RowTable { font-size: 11px; }"); // what fits the rows and the width of the time
+    mpView->setModel(mpModel);
     mpView->setItemDelegate(new TableCellDelegate(mpView));
-    mpView->setSelectionBehavior(QAbstractItemView::SelectRows);
-    mpView->setWordWrap(false);
     mpView->setTabKeyNavigation(false);
-    mpView->verticalHeader()->setMinimumSectionSize(kRowHeight);
-    mpView->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     QFont font = mpView->horizontalHeader()->font();
     font.setWeight(QFont::Bold);
     mpView->horizontalHeader()->setFont(font);
-    mpView->horizontalHeader()->setHighlightSections(false);
     new TableCopy(mpView);
-    connect(mpView, &QTableView::clicked, this, &DialogDataTable::slotChoose);
-    connect(mpView, &QTableView::activated, this, &DialogDataTable::slotChoose);
-    setFocusProxy(mpView);
+    connect(mpView, &RowTable::clicked, this, &DialogDataTable::slotChoose);
+    connect(mpView, &RowTable::activated, this, &DialogDataTable::slotChoose);
+    connect(mpView->selectionModel(), &QItemSelectionModel::selectionChanged, this, &DialogDataTable::slotSelect);
 }
 
-void DialogDataTable::showModel(CellModel* pModel)
+void DialogDataTable::createLiveView()
 {
-    if (mpView->model() == pModel)
-        return;
-    QItemSelectionModel* pOld = mpView->selectionModel();
-    mpView->setModel(pModel);
-    delete pOld;
-    connect(mpView->selectionModel(), &QItemSelectionModel::selectionChanged, this, &DialogDataTable::slotSelect);
+    mpLiveView->setModel(mpLive);
+    mpLiveView->setItemDelegate(new TableCellDelegate(mpLiveView));
+    mpLiveView->setSelectionBehavior(QAbstractItemView::SelectRows);
+    mpLiveView->setWordWrap(false);
+    mpLiveView->setTabKeyNavigation(false);
+    mpLiveView->horizontalHeader()->hide();
+    mpLiveView->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    mpLiveView->verticalHeader()->setDefaultSectionSize(kLiveRowHeight);
+    new TableCopy(mpLiveView);
 }
 
 void DialogDataTable::updateProfile()
@@ -81,10 +86,8 @@ void DialogDataTable::updateProfile()
     const bool live = mMode != 0;
     mpModel->updateParameters();
     mpLive->updateParameters();
-    showModel(live ? static_cast<CellModel*>(mpLive) : mpModel);
-    mpView->verticalHeader()->setVisible(live);
-    mpView->horizontalHeader()->setVisible(!live);
-    mpView->verticalHeader()->setDefaultSectionSize(live ? kLiveRowHeight : kRowHeight);
+    mpViews->setCurrentIndex(live ? 1 : 0);
+    setFocusProxy(live ? static_cast<QAbstractItemView*>(mpLiveView) : mpView);
     mpHint->setVisible(mpModel->parameters().empty());
     mWidened = false;
     sizeColumns();
@@ -94,7 +97,7 @@ void DialogDataTable::updateProfile()
 void DialogDataTable::sizeColumns()
 {
     if (mMode != 0) {
-        mpView->setColumnWidth(0, kLiveWidth);
+        mpLiveView->setColumnWidth(0, kLiveWidth);
         return;
     }
     mpView->horizontalHeader()->resizeSections(QHeaderView::ResizeToContents);

@@ -6,6 +6,7 @@
 #include <QWidget>
 
 class QLabel;
+class QStackedLayout;
 class QTableView;
 class QTimer;
 
@@ -15,6 +16,7 @@ class CardContainer;
 class CellModel;
 class DataTableModel;
 class LiveTableModel;
+class RowTable;
 
 /// The data table: a row for every tenth of a second at which something was recorded, a column for every shown parameter. In live
 /// mode a row for every shown parameter, with its newest value.
@@ -43,7 +45,7 @@ private Q_SLOTS:
 
 private:
     void createView();
-    void showModel(CellModel* pModel);
+    void createLiveView();
     void fill();
     void sizeColumns();
     void widenColumns();
@@ -51,7 +53,9 @@ private:
     const CardContainer& mContainer;
     DataTableModel* mpModel;
     LiveTableModel* mpLive;
-    QTableView* mpView;
+    RowTable* mpView;
+    QTableView* mpLiveView;
+    QStackedLayout* mpViews;
     QLabel* mpHint;
     QTimer* mpTimer;
     RecordData* mpRecord = nullptr;

@@ -1,6 +1,7 @@
 #include "card/CardContainer.h"
 #include "ui/data/DataCycle.h"
 #include "ui/data/DialogDataTable.h"
+#include "ui/data/RowTable.h"
 #include "ui/data/model/CellText.h"
 #include "ui/data/model/DataTableModel.h"
 
@@ -43,7 +44,8 @@ struct Table : Test::DataCycle {
         table->updateRecord(data());
         return *table;
     }
-    QTableView* view() { return table->findChild<QTableView*>(); }
+    RowTable* view() { return table->findChild<RowTable*>(); }
+    QTableView* live() { return table->findChild<QTableView*>(); }
     QString text(int row, int column) { return view()->model()->index(row, column).data().toString(); }
     QVariant at(int row, int column, int role) { return view()->model()->index(row, column).data(role); }
 
@@ -64,6 +66,7 @@ private Q_SLOTS:
     void rowOfTime_data();
     void rowOfTime();
     void selection();
+    void manyRows();
     void copy();
     void live();
     void otherProfile();
@@ -106,10 +109,10 @@ void TestDataTable::header()
     for (int i = 0; i < pHeader->count(); ++i)
         labels.append(table.view()->model()->headerData(i, Qt::Horizontal).toString());
     QCOMPARE(labels, QStringList({"Time", "A [rpm]", "B", "C [m]"}));
-    QVERIFY(!pHeader->isHidden() && table.view()->verticalHeader()->isHidden());
+    QVERIFY(pHeader->isVisible());
     QCOMPARE(pHeader->font().weight(), int(QFont::Bold));
     QCOMPARE(pHeader->sectionSize(0), 80);
-    QCOMPARE(table.view()->rowHeight(0), 15);
+    QCOMPARE(table.view()->rowHeight(), 15);
     const QString toolTip = table.view()->model()->headerData(1, Qt::Horizontal, Qt::ToolTipRole).toString();
     for (const char* piece : {"D&lt;b&gt;/A", "1", "rpm", "5.0 rpm: Warning", "50.0 rpm: Limit"})
         QVERIFY2(toolTip.contains(piece), qPrintable(toolTip));
@@ -148,7 +151,8 @@ void TestDataTable::positions()
         for (std::size_t i = 0; i < 40; ++i) {
             int state = 0;
             QColor colour;
-            expected[static_cast<qsizetype>(39 - i)] += QString::fromStdString(cycle.profile.getDataString(entries[i], parameter, state, colour));
+            expected[static_cast<qsizetype>(39 - i)] +=
+                QString::fromStdString(cycle.profile.getDataString(entries[i], parameter, state, colour));
         }
     }
     QCOMPARE(shown, expected + expected);
@@ -202,7 +206,8 @@ void TestDataTable::selection()
     table.open();
     QSignalSpy times(&*table.table, &DialogDataTable::signalTime);
     const auto click = [&](int row) {
-        QTest::mouseClick(table.view()->viewport(), Qt::LeftButton, {}, table.view()->visualRect(table.view()->model()->index(row, 1)).center());
+        QTest::mouseClick(table.view()->viewport(), Qt::LeftButton, {},
+                          table.view()->visualRect(table.view()->model()->index(row, 1)).center());
     };
     click(0); // selected already by the start time, yet chosen
     click(2);
@@ -215,6 +220,53 @@ void TestDataTable::selection()
     table.table->updateRecord(nullptr);
     table.table->setTime(11.0);
     QCOMPARE(times.size(), 3);
+}
+
+void TestDataTable::manyRows()
+{
+    constexpr int kRows = 20000;
+    Table table;
+    for (int i = 0; i < kRows; ++i)
+        table.data()->append(1, {Test::floatPayload(static_cast<float>(i)), 0, 0, 2, 0, 0, Test::ticksOf(100.0 + i * 0.1)});
+    table.data()->buildTimeIndex();
+    table.open();
+    RowTable& view = *table.view();
+    const QAbstractItemModel& model = *view.model();
+    const int rows = model.rowCount(), page = view.viewport()->height() / view.rowHeight();
+    QVERIFY(rows >= kRows);
+    const auto selected = [&] {
+        QList<int> list;
+        for (const QModelIndex& index : view.selectionModel()->selectedRows())
+            list.append(index.row());
+        std::sort(list.begin(), list.end());
+        return list;
+    };
+    const auto isSeen = [&](int row) { return view.viewport()->rect().contains(view.visualRect(model.index(row, 0)).center()); };
+    view.setFocus();
+    QTest::keyClick(&view, Qt::Key_End, Qt::ControlModifier);
+    QCOMPARE(view.currentIndex().row(), rows - 1);
+    QVERIFY(isSeen(rows - 1) && !isSeen(rows - 1 - page));
+    QCOMPARE(view.indexAt(view.visualRect(model.index(rows - 3, 1)).center()), model.index(rows - 3, 1));
+    QVERIFY(!view.indexAt({10, (page + 1) * view.rowHeight()}).isValid());
+    QTest::keyClick(&view, Qt::Key_PageUp);
+    QCOMPARE(selected(), QList<int>{rows - 1 - page});
+    QVERIFY(isSeen(rows - 1 - page));
+    const auto click = [&](int row, Qt::KeyboardModifiers modifiers) {
+        QTest::mouseClick(view.viewport(), Qt::LeftButton, modifiers, view.visualRect(model.index(row, 1)).center());
+    };
+    const int first = view.indexAt({10, 5}).row();
+    click(first + 2, {});
+    click(first + 5, Qt::ShiftModifier);
+    QCOMPARE(selected(), (QList<int>{first + 2, first + 3, first + 4, first + 5}));
+    click(first + 4, Qt::ControlModifier);
+    QCOMPARE(selected(), (QList<int>{first + 2, first + 3, first + 5}));
+    QTest::keyClick(&view, Qt::Key_Home, Qt::ControlModifier);
+    QCOMPARE(view.currentIndex().row(), 0);
+    view.resize(120, 200); // narrower than the columns
+    QTest::keyClick(&view, Qt::Key_Right);
+    QTest::keyClick(&view, Qt::Key_Right);
+    const QRect cell = view.visualRect(model.index(0, 2));
+    QVERIFY(cell.left() >= 0 && view.horizontalHeader()->sectionViewportPosition(2) == cell.left());
 }
 
 void TestDataTable::copy()
@@ -245,19 +297,20 @@ void TestDataTable::live()
     Table table;
     table.open();
     table.table->setZarnMode(1);
-    QCOMPARE(table.view()->model()->rowCount(), 3);
-    QCOMPARE(table.view()->model()->columnCount(), 1);
-    QCOMPARE(table.view()->rowHeight(0), 20);
-    QCOMPARE(table.view()->columnWidth(0), 200);
-    QVERIFY(table.view()->horizontalHeader()->isHidden() && !table.view()->verticalHeader()->isHidden());
-    QCOMPARE(table.view()->model()->headerData(0, Qt::Vertical).toString(), QString("A [rpm]"));
+    QCOMPARE(table.live()->model()->rowCount(), 3);
+    QCOMPARE(table.live()->model()->columnCount(), 1);
+    QCOMPARE(table.live()->rowHeight(0), 20);
+    QCOMPARE(table.live()->columnWidth(0), 200);
+    QVERIFY(table.live()->isVisible() && !table.view()->isVisible());
+    QVERIFY(table.live()->horizontalHeader()->isHidden() && table.live()->verticalHeader()->isVisible());
+    QCOMPARE(table.live()->model()->headerData(0, Qt::Vertical).toString(), QString("A [rpm]"));
     RecordEntry entry;
     entry.id = 1;
     entry.payload = Test::floatPayload(60.0F);
     QVERIFY(table.data()->appendLive(entry));
-    QTRY_COMPARE(table.text(0, 0), QString("60.0"));
-    QCOMPARE(table.at(0, 0, Qt::BackgroundRole).value<QColor>(), QColor(0, 255, 0));
-    QCOMPARE(table.text(1, 0), QString()); // from a file, so not fresh
+    QTRY_COMPARE(table.live()->model()->index(0, 0).data().toString(), QString("60.0"));
+    QCOMPARE(table.live()->model()->index(0, 0).data(Qt::BackgroundRole).value<QColor>(), QColor(0, 255, 0));
+    QCOMPARE(table.live()->model()->index(1, 0).data().toString(), QString()); // from a file, so not fresh
     QVERIFY(!table.data()->channel(1)->fresh());
     table.table->setZarnMode(0);
     QVERIFY(table.data()->appendLive(entry));
