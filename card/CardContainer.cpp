@@ -206,10 +206,28 @@ void CardContainer::loadFiles(const std::list<QString>& files)
     }
     calcIndex();
     calcFlightPath();
-    mSelectedFlight = {};
-    mSelectedFlight.dateTime = mDateTime;
-    mSelectedFlight.startTime = mStartTime;
-    mSelectedFlight.endTime = mEndTime;
+    mWhole = {};
+    mWhole.dateTime = mDateTime;
+    mWhole.startTime = mStartTime;
+    mWhole.endTime = mEndTime;
+    mSelectedFlight = mWhole;
+}
+
+void CardContainer::recalculate(int flight)
+{
+    mValues.profile().resetCoordinates();
+    mSelectedFlight = mWhole;
+    mDateTime = mWhole.dateTime;
+    mStartTime = mWhole.startTime;
+    mEndTime = mWhole.endTime;
+    mFlightIsSelected = false;
+    calcFlightPath();
+    if (!mLoadedCycle)
+        return;
+    RecordCycle& cycle = mCycles.at(*mLoadedCycle);
+    calcFlights(cycle);
+    if (flight >= 0 && flight < static_cast<int>(cycle.flights.size()))
+        selectFlight(cycle.flights[static_cast<std::size_t>(flight)]);
 }
 
 void CardContainer::loadFile(const RecordInfo& info)

@@ -45,6 +45,9 @@ public:
     /// Loads a cycle and selects one of its flights (from 0), or the whole cycle (-1). Another flight of the loaded cycle reads no
     /// file again. @return false when the cycle or the flight does not exist.
     bool loadCycle(unsigned int cycle, int flight);
+    /// Works flights, statistics and path of the loaded records out anew, as after a change of profile or units; reads no file. Selects
+    /// a flight of the loaded cycle (from 0) if there is one of that number, else the whole.
+    void recalculate(int flight);
     /// Loads the records of files of this card, given by name or path, replacing what was loaded.
     void loadFiles(const std::list<QString>& files);
     /// Which file the memory did not suffice for in the last load; else empty. What cannot be read is said on the console, and below.
@@ -106,6 +109,7 @@ private:
     CycleValues mValues;
     FlightPath mFlightPath;
     RecordFlight mSelectedFlight;
+    RecordFlight mWhole; ///< the span of all that was loaded
     bool mFlightIsSelected = false;
     std::optional<unsigned int> mLoadedCycle;
     QDateTime mDateTime;

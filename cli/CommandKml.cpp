@@ -20,7 +20,11 @@ std::string CommandKml::checkSetting(const std::string& text)
     const std::size_t equals = text.find('=');
     if (equals == std::string::npos)
         return text + ": no KEY=VALUE";
-    return KmlExportOptions::isKey(text.substr(0, equals)) ? std::string() : text.substr(0, equals) + ": the KML export has no such setting";
+    const std::string key = text.substr(0, equals);
+    if (!KmlExportOptions::isKey(key))
+        return key + ": the KML export has no such setting";
+    const bool isInterval = key == "KmlTimeStamp" || key == "KmlPlaceMarkIntervall";
+    return isInterval && std::atoi(text.c_str() + equals + 1) < 1 ? key + ": no number of seconds from 1 on" : std::string();
 }
 
 int CommandKml::runOnData()

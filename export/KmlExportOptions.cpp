@@ -15,10 +15,8 @@ template <typename Value> struct Setting {
 };
 
 constexpr Setting<std::string> kTexts[] = {
-    {"KmlExportDir", &KmlExportOptions::directory},
-    {"KmlLineColor", &KmlExportOptions::lineColor},
-    {"KmlPolygonColor", &KmlExportOptions::polygonColor},
-    {"KmlPlaceMarkColor", &KmlExportOptions::placeMarkColor},
+    {"KmlExportDir", &KmlExportOptions::directory},           {"KmlLineColor", &KmlExportOptions::lineColor},
+    {"KmlPolygonColor", &KmlExportOptions::polygonColor},     {"KmlPlaceMarkColor", &KmlExportOptions::placeMarkColor},
     {"KmlErrorMarkColor", &KmlExportOptions::errorMarkColor},
 };
 
@@ -31,10 +29,8 @@ constexpr Setting<int> kNumbers[] = {
 };
 
 constexpr Setting<bool> kSwitches[] = {
-    {"KmlPolygonOn", &KmlExportOptions::polygonOn},
-    {"KmlPlaceMarkOn", &KmlExportOptions::placeMarkOn},
-    {"KmlErrorMarkOn", &KmlExportOptions::errorMarkOn},
-    {"KmlShowLimit", &KmlExportOptions::showLimit},
+    {"KmlPolygonOn", &KmlExportOptions::polygonOn},     {"KmlPlaceMarkOn", &KmlExportOptions::placeMarkOn},
+    {"KmlErrorMarkOn", &KmlExportOptions::errorMarkOn}, {"KmlShowLimit", &KmlExportOptions::showLimit},
     {"KmlShowWarning", &KmlExportOptions::showWarning},
 };
 
@@ -46,6 +42,8 @@ void KmlExportOptions::read(const Property& settings)
         this->*value = settings.getString(key, this->*value);
     for (const auto& [key, value] : kNumbers)
         this->*value = settings.getInt(key, this->*value);
+    timeStamp = std::max(timeStamp, 1);
+    placeMarkInterval = std::max(placeMarkInterval, 1);
     for (const auto& [key, value] : kSwitches)
         this->*value = settings.getSwitch(key, this->*value);
 }

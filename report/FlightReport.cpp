@@ -18,9 +18,10 @@ namespace ZARN {
 
 namespace {
 
-constexpr int kResolution = 72; // a pixel of the canvas, by which pens are as wide as they say, is a point
+constexpr double kLongestTakeOff = 20000.0; // metres: what is more was measured from a place that was never found
+constexpr int kResolution = 72;             // a pixel of the canvas, by which pens are as wide as they say, is a point
 constexpr std::size_t kFlightsSideBySide = 4;
-constexpr qsizetype kMostRows = 60; // of one table of events
+constexpr qsizetype kMostRows = 60;    // of one table of events
 constexpr double kGraphHeight = 440.0; // points
 constexpr double kMapHeight = 440.0;
 
@@ -102,16 +103,14 @@ void FlightReport::writeHead(ReportPages& pages) const
     int number = 0;
     const auto chosen = flights(number);
     const bool isFlight = mContainer.selectedFlight().valid && !chosen.empty();
-    QString profile = text(mProfile.model().name);
-    if (!mProfile.currentVariant().empty())
-        profile += ", " + text(mProfile.currentVariant());
     const QString cycle = mContainer.loadedCycleNumber() ? QString::number(*mContainer.loadedCycleNumber()) : tr("single files");
     pages.pairs({{tr("Card"), mContainer.name()},
                  {tr("Date, as recorded"), date(pCycle ? pCycle->dateTime : mContainer.dateTime(), tr("no clock"))},
                  {tr("Power cycle"), isFlight ? tr("%1, flight %2").arg(cycle, QString::number(number)) : cycle},
                  {tr("From"), CardContainer::time(mContainer.startTime())},
-                 {tr("Profile"), profile},
-                 {tr("To"), CardContainer::time(mContainer.endTime())}});
+                 {tr("Profile"), text(mProfile.model().name)},
+                 {tr("To"), CardContainer::time(mContainer.endTime())},
+                 {tr("Variant"), mProfile.currentVariant().empty() ? QStringLiteral("-") : text(mProfile.currentVariant())}});
     pages.line(tr("Times count from the unit's power-up."), true);
 }
 
@@ -156,33 +155,38 @@ void FlightReport::writeFlights(ReportPages& pages) const
         pages.line(tr("No flight was found."));
     for (std::size_t first = 0; first < all.size(); first += kFlightsSideBySide) {
         pages.gap(first > 0 ? 6.0 : 0.0);
-        writeFigures(pages, {all.begin() + static_cast<std::ptrdiff_t>(first),
-                             all.begin() + static_cast<std::ptrdiff_t>(std::min(all.size(), first + kFlightsSideBySide))},
+        writeFigures(pages,
+                     {all.begin() + static_cast<std::ptrdiff_t>(first),
+                      all.begin() + static_cast<std::ptrdiff_t>(std::min(all.size(), first + kFlightsSideBySide))},
                      first + static_cast<std::size_t>(number));
     }
 }
 
 void FlightReport::writeFigures(ReportPages& pages, const std::vector<RecordFlight>& flights, std::size_t first) const
 {
-    const QString height = " [" + text(mProfile.getParameterFromZarnType("Altitude").unit) + "]";
-    const QString rate = " [" + text(mProfile.getParameterFromZarnType("Altitude").unit) + "/s]";
+    const QString unit = text(mProfile.getParameterFromZarnType("Altitude").unit);
+    const QString height = " [" + unit + "]", rate = " [" + unit + "/s]";
     const QString speed = " [" + text(mProfile.getParameterFromZarnType("GroundSpeed").unit) + "]";
     const QString fuel = " [" + text(mProfile.getParameterFromZarnType("FuelA").unit).remove("/h") + "]";
-    std::vector<ReportColumn> columns{{tr("Flight"), false,
-                                       {tr("Take-off, clock"), tr("Take-off"), tr("Landing"), tr("Flight time"), tr("Lowest altitude") + height,
-                                        tr("Highest altitude") + height, tr("Total climb") + height, tr("Average climb rate") + rate,
-                                        tr("Average descent rate") + rate, tr("Highest ground speed") + speed, tr("Fuel, lane A") + fuel,
-                                        tr("Fuel, lane B") + fuel, tr("Fuel, total") + fuel, tr("Time for 100 of climb [s]"),
-                                        tr("Fuel for 100 of climb") + fuel, tr("Take-off distance [m]"), tr("Take-off distance, 15 m [m]")}}};
+    std::vector<ReportColumn> columns{
+        {tr("Flight"),
+         false,
+         {tr("Take-off, clock"), tr("Take-off"), tr("Landing"), tr("Flight time"), tr("Lowest altitude") + height,
+          tr("Highest altitude") + height, tr("Total climb") + height, tr("Average climb rate") + rate, tr("Average descent rate") + rate,
+          tr("Highest ground speed") + speed, tr("Fuel, lane A") + fuel, tr("Fuel, lane B") + fuel, tr("Fuel, total") + fuel,
+          tr("Time for 100 %1 of climb").arg(unit) + " [s]", tr("Fuel for 100 %1 of climb").arg(unit) + fuel, tr("Take-off distance [m]"),
+          tr("Take-off distance, 15 m [m]")}}};
     const auto number = [](double value, int decimals) { return QString::number(value, 'f', decimals); };
+    const auto distance = [&](double metres) { return metres <= kLongestTakeOff ? number(metres, 0) : tr("not found"); };
     for (const RecordFlight& flight : flights) {
-        columns.push_back({QString::number(first++), true,
-                           {date(flight.dateTime, tr("no clock")), CardContainer::time(flight.takeOffTime), CardContainer::time(flight.landingTime),
-                            CardContainer::time(flight.landingTime - flight.takeOffTime), number(flight.minAltitude, 1),
-                            number(flight.maxAltitude, 1), number(flight.totalClimb, 1), number(flight.averageClimbRate, 2),
-                            number(flight.averageDescendRate, 2), number(flight.maxGroundSpeed, 1), number(flight.fuelA, 2),
-                            number(flight.fuelB, 2), number(flight.totalFuel, 2), number(flight.timePer100m, 1), number(flight.fuelPer100m, 3),
-                            number(flight.takeOffDistance, 0), number(flight.takeOffDistance15m, 0)}});
+        columns.push_back({QString::number(first++),
+                           true,
+                           {date(flight.dateTime, tr("no clock")), CardContainer::time(flight.takeOffTime),
+                            CardContainer::time(flight.landingTime), CardContainer::time(flight.landingTime - flight.takeOffTime),
+                            number(flight.minAltitude, 1), number(flight.maxAltitude, 1), number(flight.totalClimb, 1),
+                            number(flight.averageClimbRate, 2), number(flight.averageDescendRate, 2), number(flight.maxGroundSpeed, 1),
+                            number(flight.fuelA, 2), number(flight.fuelB, 2), number(flight.totalFuel, 2), number(flight.timePer100m, 1),
+                            number(flight.fuelPer100m, 3), distance(flight.takeOffDistance), distance(flight.takeOffDistance15m)}});
     }
     pages.table(columns);
 }
@@ -192,7 +196,7 @@ void FlightReport::writeEvents(ReportPages& pages, const EventList& list, const 
 {
     pages.heading(heading);
     std::vector<ReportColumn> columns{{tr("Time"), false, {}}, {tr("Group"), false, {}}, {tr("Parameter"), false, {}},
-                                      {tr("Value"), true, {}}, {tr("Unit"), false, {}}, {tr("State"), false, {}}};
+                                      {tr("Value"), true, {}}, {tr("Unit"), false, {}},  {tr("State"), false, {}}};
     int more = 0;
     for (const Event& event : list.events()) {
         if (!isInside(event.time))
@@ -203,7 +207,8 @@ void FlightReport::writeEvents(ReportPages& pages, const EventList& list, const 
         }
         const EventSource& source = list.source(event);
         const QString state = states.value(event.state, QString::number(event.state));
-        const QStringList cells{CardContainer::time(event.time), text(source.group), text(source.parameter), text(event.value), text(source.unit), state};
+        const QStringList cells{
+            CardContainer::time(event.time), text(source.group), text(source.parameter), text(event.value), text(source.unit), state};
         for (std::size_t i = 0; i < columns.size(); ++i)
             columns[i].cells << cells[static_cast<qsizetype>(i)];
     }
@@ -217,12 +222,13 @@ void FlightReport::writeEvents(ReportPages& pages, const EventList& list, const 
 void FlightReport::writeFaults(ReportPages& pages) const
 {
     pages.heading(tr("Faults"));
-    std::vector<ReportColumn> columns{{tr("Matrix"), false, {}}, {tr("Bit"), true, {}}, {tr("Kind"), false, {}}, {tr("Fault"), false, {}},
-                                      {tr("First"), false, {}}, {tr("Last"), false, {}}, {tr("Times"), true, {}}};
+    std::vector<ReportColumn> columns{{tr("Matrix"), false, {}}, {tr("Bit"), true, {}},   {tr("Kind"), false, {}}, {tr("Fault"), false, {}},
+                                      {tr("First"), false, {}},  {tr("Last"), false, {}}, {tr("Times"), true, {}}};
     const QStringList kinds{"", tr("Info"), tr("Warning"), tr("Fault")};
     for (const ReportFault& fault : presentFaults(mProfile, mContainer.recordData(), mContainer.startTime(), mContainer.endTime())) {
-        const QStringList cells{text(fault.pMatrix->name), QString::number(fault.bit), kinds.value(fault.pBit->errorType), text(fault.pBit->name),
-                                CardContainer::time(fault.first), CardContainer::time(fault.last), QString::number(fault.times)};
+        const QStringList cells{text(fault.pMatrix->name),   QString::number(fault.bit),       kinds.value(fault.pBit->errorType),
+                                text(fault.pBit->name),      CardContainer::time(fault.first), CardContainer::time(fault.last),
+                                QString::number(fault.times)};
         for (std::size_t i = 0; i < columns.size(); ++i)
             columns[i].cells << cells[static_cast<qsizetype>(i)];
     }
@@ -237,6 +243,8 @@ void FlightReport::writeGraph(ReportPages& pages, const EventList& limits) const
     pages.heading(tr("Main parameters"), graph.isEmpty() ? 20.0 : kGraphHeight);
     if (graph.isEmpty())
         return pages.line(tr("None of them was recorded."));
+    if (graph.leftOut() > 0)
+        pages.line(tr("Not shown: %n more that exceeded a limit", nullptr, graph.leftOut()), true);
     graph.draw(pages.canvas(), pages.place(std::max(kGraphHeight, pages.room() - 10.0)));
 }
 

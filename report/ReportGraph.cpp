@@ -15,13 +15,14 @@ namespace {
 constexpr const char* kMain[] = {"EngineSpeedA", "ManifoldPressureA", "ThrottleA", "FuelA", "Altitude", "GroundSpeed"};
 constexpr int kMostStrips = 10;
 constexpr double kTextSize = 7.0;
-constexpr double kHandles = 20.0; // width of what a hand would drag the strips by: left of the paper
+constexpr double kHandles = 20.0;      // width of what a hand would drag the strips by: left of the paper
 constexpr double kColumnsAPoint = 3.0; // fine enough for a printer
 constexpr double kSmallestSpan = 1.0;  // seconds
 
 } // namespace
 
-ReportGraph::ReportGraph(const CardContainer& container, Profile& profile, const EventList& limits) : mContainer(container), mProfile(profile)
+ReportGraph::ReportGraph(const CardContainer& container, Profile& profile, const EventList& limits)
+    : mContainer(container), mProfile(profile)
 {
     mModel.setMaxParameters(kMostStrips);
     mModel.setOfflineMode(true);
@@ -42,19 +43,25 @@ ReportGraph::ReportGraph(const CardContainer& container, Profile& profile, const
         if (!parameter.name.empty() && taken.insert(parameter.name).second)
             addParameter(parameter);
     }
-    for (const Event& event : limits.events()) {
-        const bool isInside = event.time >= container.startTime() && event.time <= container.endTime();
-        const ProfileParameter* pParameter = isInside ? profile.findParameter(limits.source(event).parameter) : nullptr;
-        if (pParameter && taken.insert(pParameter->name).second)
-            addParameter(*pParameter);
+    for (const int state : {eThresholdLimit, eThresholdWarning}) { // what was worst first: there is room for some only
+        for (const Event& event : limits.events()) {
+            const bool isInside = event.state == state && event.time >= container.startTime() && event.time <= container.endTime();
+            const ProfileParameter* pParameter = isInside ? profile.findParameter(limits.source(event).parameter) : nullptr;
+            if (pParameter && taken.insert(pParameter->name).second)
+                addParameter(*pParameter);
+        }
     }
     mModel.setWindow(container.startTime(), std::max(container.endTime(), container.startTime() + kSmallestSpan));
 }
 
 void ReportGraph::addParameter(const ProfileParameter& parameter)
 {
-    if (mUsed == kMostStrips || !mContainer.recordData().channel(parameter.identifier()) || !mProfile.decoder(parameter).isNumeric())
+    if (!mContainer.recordData().channel(parameter.identifier()) || !mProfile.decoder(parameter).isNumeric())
         return;
+    if (mUsed == kMostStrips) {
+        ++mLeftOut;
+        return;
+    }
     const int slot = mUsed++;
     mModel.setActive(slot, true);
     mModel.setParameterName(slot, QString::fromStdString(parameter.name), QString::fromStdString(parameter.unit));
@@ -101,7 +108,8 @@ void ReportGraph::draw(Canvas& canvas, const QRectF& place)
     for (const int index : mModel.shown()) {
         const GraphParameter& parameter = *mModel.parameter(index);
         const QString name = parameter.unit.isEmpty() ? parameter.name : parameter.name + " [" + parameter.unit + "]";
-        canvas.text(layout.area(parameter).topLeft() + QPointF(3, 2), name, {kTextSize, Qt::black, true, Qt::AlignLeft | Qt::AlignTop, false});
+        canvas.text(layout.area(parameter).topLeft() + QPointF(3, 2), name,
+                    {kTextSize, Qt::black, true, Qt::AlignLeft | Qt::AlignTop, false});
     }
     canvas.pop();
 }

@@ -15,6 +15,8 @@ public:
     ReportGraph(const CardContainer& container, Profile& profile, const EventList& limits);
 
     [[nodiscard]] bool isEmpty() const { return mModel.nrActive() == 0; }
+    /// How many parameters that exceeded a limit found no room.
+    [[nodiscard]] int leftOut() const { return mLeftOut; }
     void draw(Canvas& canvas, const QRectF& place);
 
 private:
@@ -25,6 +27,7 @@ private:
     Profile& mProfile;
     GraphModel mModel;
     int mUsed = 0;
+    int mLeftOut = 0;
 };
 
 } // namespace ZARN

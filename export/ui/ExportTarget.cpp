@@ -24,8 +24,10 @@ QString ExportTarget::problem() const
         return tr("A file name cannot hold a \"/\".");
     if (file.isDir())
         return tr("%1 is a folder, not a file.").arg(QDir::toNativeSeparators(path()));
+    if (file.exists() && !file.isWritable())
+        return tr("%1 cannot be written.").arg(QDir::toNativeSeparators(path()));
     if (file.exists() && !file.isFile()) // a pipe or a device: written directly
-        return file.isWritable() ? QString() : tr("%1 cannot be written.").arg(QDir::toNativeSeparators(path()));
+        return {};
     // Permissions tell half of it: media are read-only as a whole, networks have rules of their own.
     QTemporaryFile trial(mDirectory + "/.zarn-XXXXXX");
     return trial.open() ? QString() : tr("Nothing can be written to the folder %1: %2").arg(shown, trial.errorString());

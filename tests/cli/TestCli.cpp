@@ -165,6 +165,7 @@ void TestCli::failures_data()
     row("no output for GPX", {"gpx", "CARD"}, 2, "--output");
     row("setting that is none", {"kml", "CARD", "-o", "out.kml", "--set", "KmlPlaceMarkInterval=3"}, 2, "KmlPlaceMarkInterval");
     row("setting of another export", {"kml", "CARD", "-o", "out.kml", "--set", "KmlLineWidth=3", "--set", "CsvLimiter=59"}, 2, "CsvLimiter");
+    row("interval of no seconds", {"kml", "CARD", "-o", "out.kml", "--set", "KmlTimeStamp=0"}, 2, "KmlTimeStamp");
     row("setting without a value", {"kml", "CARD", "-o", "out.kml", "--set", "KmlLineWidth"}, 2, "KmlLineWidth");
     row("two subcommands", {"info", "card", "profile", "Profile.xml"}, 2, "profile");
     row("json for a file", {"csv", "CARD", "-o", "out.csv", "--json"}, 2, "--json");

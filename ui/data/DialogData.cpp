@@ -149,6 +149,20 @@ void DialogData::updateRecord()
     mEnd = container.endTime();
     mpRecord = &mSession.container.recordData();
     mViewTime = mStart;
+    showRecord();
+}
+
+void DialogData::recalculated()
+{
+    if (!mpRecord)
+        return;
+    mStart = mSession.container.startTime(); // a flight may begin and end elsewhere
+    mEnd = mSession.container.endTime();
+    showRecord();
+}
+
+void DialogData::showRecord()
+{
     updateDisplay();
     for (const EDataView view : kRecordOrder) {
         const QScopedValueRollback pushing(mPushing, true);

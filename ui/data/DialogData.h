@@ -42,6 +42,8 @@ public:
     /// The settings were changed, by another window.
     void updateSettings();
 
+    /// Flights, statistics and events of the record that is shown were worked out anew: the view time stays, and a replay goes on.
+    void recalculated();
     [[nodiscard]] double viewTime() const { return mViewTime; }
 
 public Q_SLOTS:
@@ -74,6 +76,7 @@ private:
     void moveFromView(double time, Targets targets);
     void moveFromControl(double time);
     void push(Targets targets);
+    void showRecord();
     void updateDisplay();
     void updateControls();
     void updateEventCounts();

@@ -140,21 +140,12 @@ void CardController::loadRecords(const std::list<QString>& files)
     runLoad([&] { mSession.container.loadFiles(mFiles); });
 }
 
-void CardController::reload()
+void CardController::recalculate()
 {
-    if (postpone([this] { reload(); }))
+    if (mSession.container.recordData().count() == 0 || postpone([this] { recalculate(); }))
         return;
-    const auto cycle = mSession.container.loadedCycleNumber();
-    const int flight = mFlight;
-    if (!mFiles.empty()) {
-        runLoad([&] { mSession.container.loadFiles(mFiles); });
-    } else if (cycle) {
-        runLoad([&] {
-            loadNow(*cycle, -1); // a flight of a loaded cycle would read nothing again
-            if (flight >= 0)
-                loadNow(*cycle, flight);
-        });
-    }
+    runBusy([this] { mSession.container.recalculate(mFlight); });
+    Q_EMIT signalRecalculated();
 }
 
 void CardController::runLoad(const Work& work)
@@ -192,7 +183,8 @@ QString CardController::listed(const std::vector<UnreadFile>& files)
             lines.append(tr("... and %n more", nullptr, static_cast<int>(files.size()) - kMostListed));
             break;
         }
-        lines.append(file.name.simplified() + ": " + (file.systemError != 0 ? qt_error_string(file.systemError) : tr("the file is too short")));
+        lines.append(file.name.simplified() + ": " +
+                     (file.systemError != 0 ? qt_error_string(file.systemError) : tr("the file is too short")));
     }
     return lines.join('\n');
 }

@@ -35,8 +35,8 @@ public:
     void restoreFolder(const QString& path);
     /// Writes the demo card below a folder, unless it is there, and opens it.
     void openDemoCard(const QString& parentFolder);
-    /// Loads the shown cycle again: its statistic is in other units, or decoded by another profile.
-    void reload();
+    /// Works out anew, without reading, what depends on profile and units: flights, statistics, path. The same flight stays selected.
+    void recalculate();
 
     /// While it holds, loading is put off: somebody reads the data and lets the windows live meanwhile.
     void hold(bool on) { mBusy = on; }
@@ -55,6 +55,8 @@ Q_SIGNALS:
     void signalDataChanging();
     /// Other records are loaded.
     void signalDataChanged();
+    /// What was loaded is the same; what is worked out of it may be not.
+    void signalRecalculated();
 
 private:
     using Work = std::function<void()>;

@@ -133,10 +133,15 @@ void DialogCard::addFlights(unsigned int cycle)
     if (!pItem || found == mContainer.recordCycles().end())
         return;
     const QSignalBlocker blocker(mpCycles);
+    int chosen = -1;
+    for (int i = 0; i < pItem->childCount(); ++i)
+        chosen = pItem->child(i)->isSelected() ? i : chosen;
     qDeleteAll(pItem->takeChildren());
     for (const CardNode& flight : CardTree::flights(cycle, found->second))
         pItem->addChild(makeItem(flight));
     pItem->setExpanded(true);
+    if (chosen >= 0 && chosen < pItem->childCount())
+        mpCycles->setCurrentItem(pItem->child(chosen));
 }
 
 void DialogCard::slotSelect()

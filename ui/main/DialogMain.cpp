@@ -44,9 +44,9 @@ namespace ZARN {
 
 namespace {
 
-constexpr int kRestoreDelay = 20;     // milliseconds from here on: the event loop runs
-constexpr int kStartupDelay = 1000;   // the window has its size
-constexpr int kStylePeriod = 500;     // from look to look at the style file
+constexpr int kRestoreDelay = 20;   // milliseconds from here on: the event loop runs
+constexpr int kStartupDelay = 1000; // the window has its size
+constexpr int kStylePeriod = 500;   // from look to look at the style file
 constexpr int kMessageDuration = 8000;
 constexpr int kSelectorWidth = 200;
 constexpr int kProgressWidth = 220;
@@ -76,9 +76,12 @@ DialogMain::DialogMain(const Session& session, const Desktop& desktop)
         mpCard->hide();
         mpProfile->hide();
         mpToolBar->hide();
+        mpCentre->setCurrentWidget(mpData); // what arrives is shown at once
     }
     updateUnit();
     loadProfile();
+    if (mEmu)
+        mpData->updateRecord();
     fillProfiles();
     updateTitle();
     show();
@@ -242,6 +245,7 @@ void DialogMain::connectPanels()
     connect(mpCardController, &CardController::signalFolderChanged, this, &DialogMain::slotFolderChanged);
     connect(mpCardController, &CardController::signalDataChanging, this, &DialogMain::slotDataChanging);
     connect(mpCardController, &CardController::signalDataChanged, this, &DialogMain::slotDataChanged);
+    connect(mpCardController, &CardController::signalRecalculated, this, &DialogMain::slotRecalculated);
     connect(mpProjectController, &ProjectController::signalChanged, this, &DialogMain::slotProjectChanged);
     connect(mpExportController, &ExportController::signalWritten, this,
             [this](const QString& path) { statusBar()->showMessage(tr("Written: %1").arg(path), kMessageDuration); });

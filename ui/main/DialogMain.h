@@ -97,6 +97,7 @@ private Q_SLOTS:
     void slotFolderChanged();
     void slotDataChanging();
     void slotDataChanged();
+    void slotRecalculated();
     void slotProjectChanged();
     void slotProfileInstalled();
 

@@ -37,37 +37,20 @@ void DialogMain::slotMenu(QAction* pAction)
     const int id = pAction->data().toInt();
     mSession.console.print("DialogMain::slotMenu id %d\n", id);
     switch (id) {
-    case eActionNewProject:
-        mpProjectController->newProject();
-        break;
-    case eActionOpenProject:
-        mpProjectController->openProject();
-        break;
-    case eActionOpenFolder:
-        mpCardController->askFolder();
-        break;
+    case eActionNewProject: mpProjectController->newProject(); break;
+    case eActionOpenProject: mpProjectController->openProject(); break;
+    case eActionOpenFolder: mpCardController->askFolder(); break;
     case eActionSaveProject:
-    case eActionSaveProjectAs:
-        saveProject(id == eActionSaveProjectAs);
-        break;
+    case eActionSaveProjectAs: saveProject(id == eActionSaveProjectAs); break;
     case eActionQuit:
         mStartTimer.stop();
         close();
         break;
-    case eActionExportKml:
-        mpExportController->exportKml();
-        break;
-    case eActionExportCsv:
-        mpExportController->exportCsv();
-        break;
-    case eActionExportGpx:
-        mpExportController->exportGpx();
-        break;
-    case eActionReport:
-        mpExportController->writeReport();
-        break;
-    default:
-        showInformation(id);
+    case eActionExportKml: mpExportController->exportKml(); break;
+    case eActionExportCsv: mpExportController->exportCsv(); break;
+    case eActionExportGpx: mpExportController->exportGpx(); break;
+    case eActionReport: mpExportController->writeReport(); break;
+    default: showInformation(id);
     }
 }
 
@@ -84,13 +67,9 @@ void DialogMain::showInformation(int id)
     pWindow->activateWindow();
 }
 
-void DialogMain::slotMenuRecent(QAction* /*pAction*/)
-{
-}
+void DialogMain::slotMenuRecent(QAction* /*pAction*/) {}
 
-void DialogMain::slotMenuPrefAbout()
-{
-}
+void DialogMain::slotMenuPrefAbout() {}
 
 bool DialogMain::saveProject(bool askName)
 {
@@ -118,7 +97,7 @@ void DialogMain::updateUnit()
     mpProfileController->updateUnit();
     mpProfile->updateProfile();
     mpData->updateProfile();
-    mpCardController->reload();
+    mpCardController->recalculate();
 }
 
 void DialogMain::loadProfile()
@@ -166,7 +145,7 @@ void DialogMain::slotProfileFileChanged()
 {
     loadProfile();
     fillProfiles();
-    mpCardController->reload(); // flights and their statistic are decoded by the profile
+    mpCardController->recalculate(); // flights and their statistic are decoded by the profile
     slotProfileChanged();
     updateTitle();
 }
@@ -214,12 +193,20 @@ void DialogMain::slotFolderChanged()
     const bool everOpened = !mSession.property.getString("LastPath", "").empty();
     mpWelcome->setProblem(everOpened ? mpCardController->problem() : QString());
     mpWelcome->setWithCard(!mSession.container.recordFiles().empty());
-    mpCentre->setCurrentWidget(mpWelcome);
+    if (!mEmu)
+        mpCentre->setCurrentWidget(mpWelcome);
 }
 
 void DialogMain::slotDataChanging()
 {
     mpData->releaseRecord();
+}
+
+void DialogMain::slotRecalculated()
+{
+    mpData->recalculated();
+    if (const auto cycle = mSession.container.loadedCycleNumber())
+        mpCard->addFlights(*cycle);
 }
 
 void DialogMain::slotDataChanged()
@@ -302,7 +289,8 @@ void DialogMain::dropEvent(QDropEvent* pEvent)
     const QString folder = CardController::droppedFolder(pEvent->mimeData());
     pEvent->acceptProposedAction();
     // The program that the folder comes from waits for this event to end.
-    QMetaObject::invokeMethod(this, [this, folder] { openFolder(folder); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this, folder] { openFolder(folder); }, Qt::QueuedConnection);
 }
 
 void DialogMain::closeEvent(QCloseEvent* pEvent)

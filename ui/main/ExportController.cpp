@@ -80,9 +80,14 @@ void ExportController::writeReport()
 QString ExportController::askFile(const char* setting, const QString& title, const QString& name, const QString& filter)
 {
     const QString folder = QString::fromStdString(mSession.property.getString(setting, "."));
-    const QString path = QFileDialog::getSaveFileName(mpWindow, title, folder + "/" + name, filter, nullptr, QFileDialog::DontUseNativeDialog);
-    if (path.isEmpty())
+    QFileDialog dialog(mpWindow, title, folder, filter);
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QFileInfo(name).suffix()); // part of the name when the dialog asks whether to replace a file
+    dialog.selectFile(name);
+    if (dialog.exec() != QDialog::Accepted)
         return {};
+    const QString path = dialog.selectedFiles().constFirst();
     mSession.property.setString(setting, QFileInfo(path).absolutePath().toStdString());
     mSession.property.writeXmlFile();
     return path;

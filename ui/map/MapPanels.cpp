@@ -22,8 +22,9 @@ namespace {
 
 constexpr int kIconSize = 32;
 constexpr int kPanelMargin = 5;
+constexpr int kScrolledPart = 60; // percent of the room that a panel takes which does not fit
 constexpr int kPanelSpacing = 2;
-constexpr int kLeastName = 40; // pixels that are left of a name at least
+constexpr int kLeastName = 40;  // pixels that are left of a name at least
 constexpr int kLeastText = 260; // pixels of a line of the question beside its buttons
 
 /// The aircraft in a circle.
@@ -105,10 +106,13 @@ void MapValuePanel::setValues(const std::vector<MapValue>& rows)
 void MapValuePanel::fitInto(const QSize& room)
 {
     const bool isTooTall = mpPanel->sizeHint().height() > room.height();
+    // The map below is to be dragged, zoomed and clicked; only a panel that has to be scrolled takes the mouse, and a part of the map.
+    setAttribute(Qt::WA_TransparentForMouseEvents, !isTooTall);
+    const int tallest = isTooTall ? room.height() * kScrolledPart / 100 : room.height();
     const int bar = isTooTall ? verticalScrollBar()->sizeHint().width() : 0;
     elideNames(room.width() - bar);
     const QSize wanted = mpPanel->sizeHint();
-    resize(std::min(wanted.width() + bar, room.width()), std::min(wanted.height(), room.height()));
+    resize(std::min(wanted.width() + bar, room.width()), std::min(wanted.height(), tallest));
 }
 
 void MapValuePanel::elideNames(int width)
@@ -165,7 +169,8 @@ MapConsentBar::MapConsentBar(QWidget* pParent)
     : QFrame(pParent), mpText(new QLabel), mpLine(new QHBoxLayout(this)), mpButtons(new QHBoxLayout)
 {
     setObjectName(QStringLiteral("consentBar"));
-    setStyleSheet(QStringLiteral("#consentBar{background-color: #eefff6d5;border:1px solid #b8a25a;border-radius:6px;} #consentBar QLabel{color:black;}"));
+    setStyleSheet(QStringLiteral(
+        "#consentBar{background-color: #eefff6d5;border:1px solid #b8a25a;border-radius:6px;} #consentBar QLabel{color:black;}"));
     mpText->setTextFormat(Qt::PlainText);
     mpText->setWordWrap(true);
     auto* pYes = new QPushButton(tr("Load map tiles"));
@@ -184,7 +189,8 @@ MapConsentBar::MapConsentBar(QWidget* pParent)
 void MapConsentBar::setServer(const QString& name)
 {
     mpText->setText(tr("Load detailed map tiles from %1? The server then learns which area is looked at. "
-                       "The answer can be changed in the map's menu and in the preferences.").arg(name));
+                       "The answer can be changed in the map's menu and in the preferences.")
+                        .arg(name));
 }
 
 int MapConsentBar::arrangeFor(int width)

@@ -19,7 +19,7 @@ constexpr double kDragStart = 4.0;    // pixels that a press may move and still 
 constexpr double kClickRadius = 12.0; // pixels around the path in which a click means it
 constexpr double kWheelFactor = 0.75; // of the range, for a notch of the wheel
 constexpr double kKeyFactor = 0.7;
-constexpr double kTurn = 5.0;         // degrees a key press
+constexpr double kTurn = 5.0; // degrees a key press
 
 OpenStreet::WindowPoint windowPoint(const QPointF& point)
 {
@@ -69,10 +69,10 @@ bool WidgetMap::moveByKey(const QKeyEvent& event)
 
 void WidgetMap::keyPressEvent(QKeyEvent* pEvent)
 {
-    if (moveByKey(*pEvent))
-        mIsDirty = true;
-    else
-        QWidget::keyPressEvent(pEvent);
+    if (!moveByKey(*pEvent))
+        return QWidget::keyPressEvent(pEvent);
+    mIsDirty = true;
+    QToolTip::hideText(); // what it told of is moving away
 }
 
 void WidgetMap::mousePressEvent(QMouseEvent* pEvent)
@@ -145,6 +145,7 @@ void WidgetMap::wheelEvent(QWheelEvent* pEvent)
     mNavigator.setPointer(windowPoint(pEvent->position()));
     mNavigator.zoomBy(std::pow(kWheelFactor, std::clamp(notches, -10.0, 10.0) * amount(pEvent->modifiers())));
     mIsDirty = true;
+    QToolTip::hideText();
     pEvent->accept();
 }
 

@@ -54,12 +54,10 @@ private Q_SLOTS:
     void pulledCard();
     void damagedStore();
     void givenFolder();
-    void emu();
     void quitSaves();
     void quitAsksForName();
     void newProjectAsks_data();
     void newProjectAsks();
-    void units();
     void mapTiles();
     void profileSelector();
     void styleFile();
@@ -368,17 +366,6 @@ void TestDialogMain::givenFolder()
     QCOMPARE(window.windowTitle(), QString("ZARN SD/Card"));
 }
 
-void TestDialogMain::emu()
-{
-    DesktopFixture desktop(home(), {"-emu"});
-    DialogMain& window = desktop.open();
-    started(window);
-    QVERIFY(window.isVisible());
-    QVERIFY(window.menuBar()->actions().isEmpty());
-    QVERIFY(!isShown<QToolBar>(window));
-    QVERIFY(!isShown<DialogCard>(window));
-}
-
 void TestDialogMain::quitSaves()
 {
     DesktopFixture desktop(home());
@@ -438,24 +425,6 @@ void TestDialogMain::newProjectAsks()
     QCOMPARE(desktop.profile.isSelected("Oil Temperature"), !cleared);
     QCOMPARE(window.isProjectModified(), !cleared);
     QCOMPARE(QFile::exists(home() + "/data/CurrentProject.xml"), saved);
-}
-
-void TestDialogMain::units()
-{
-    DesktopFixture desktop(home(), {card().toStdString()});
-    DialogMain& window = desktop.open();
-    started(window);
-    window.slotLoadCycle(2, 0);
-    const double metres = desktop.container.selectedFlight().maxAltitude;
-    auto* pUnits = window.findChild<QComboBox*>("units");
-    pUnits->setCurrentIndex(1);
-    Q_EMIT pUnits->activated(1);
-    QCOMPARE(desktop.property.getInt("Unit", 0), 1);
-    const RecordFlight& flight = desktop.container.loadedCycle()->flights.at(0);
-    QVERIFY2(std::abs(flight.maxAltitude / metres - 3.2808) < 0.01, "the statistic follows the units");
-    DesktopFixture next(home());
-    next.open();
-    QCOMPARE(next.window->findChild<QComboBox*>("units")->currentText(), QString("Imperial"));
 }
 
 void TestDialogMain::mapTiles()

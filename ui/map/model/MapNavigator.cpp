@@ -60,6 +60,16 @@ void MapNavigator::leaveFit()
     mContext.centreAircraft = std::min(mContext.centreAircraft, 1);
 }
 
+void MapNavigator::zoomAboutMiddle(double factor)
+{
+    zoomBy(factor, {0.5 * mCamera.width(), 0.5 * mCamera.height()});
+    if (mContext.centreAircraft != 1 || !mAircraft)
+        return;
+    OpenStreet::Camera goal = target();
+    goal.setWorld(goal.projection().toWorld(*mAircraft), goal.metresPerPixel());
+    setTarget(goal);
+}
+
 void MapNavigator::zoomCentered(double range)
 {
     leaveFit();
@@ -122,6 +132,7 @@ void MapNavigator::straighten()
 
 void MapNavigator::follow(double latitude, double longitude)
 {
+    mAircraft = {latitude, longitude};
     if (mContext.centreAircraft != 1)
         return;
     const OpenStreet::Projection& projection = mCamera.projection();

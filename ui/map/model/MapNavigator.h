@@ -4,6 +4,8 @@
 #include "ui/map/model/MapContext.h"
 #include "ui/map/model/MapPath.h"
 
+#include <optional>
+
 namespace ZARN {
 
 /// Moves the map's camera as the user, the replay and a new path ask. The shared context says where the view shall be, the
@@ -28,7 +30,8 @@ public:
     void zoomCentered(double range);
     /// Moves to a range that many times the one that the view is moving to; what lies under the pointer stays there.
     void zoomBy(double factor) { zoomBy(factor, mPointer); }
-    void zoomAboutMiddle(double factor) { zoomBy(factor, {0.5 * mCamera.width(), 0.5 * mCamera.height()}); }
+    /// The same about the middle, which a view that follows has at the aircraft.
+    void zoomAboutMiddle(double factor);
     /// Towards the pointer by a quarter of the range.
     void doubleClick();
     /// At once: the map follows the pointer by so many pixels.
@@ -60,6 +63,7 @@ private:
     OpenStreet::Camera mCamera;
     OpenStreet::WindowPoint mPointer;
     bool mIsFitted = false;
+    std::optional<OpenStreet::GeoPoint> mAircraft; // where it was last
 };
 
 } // namespace ZARN

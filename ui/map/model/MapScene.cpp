@@ -138,7 +138,12 @@ void MapScene::drawAbove(Canvas& canvas, const OpenStreet::Camera& camera) const
 void MapScene::drawGraticule(Canvas& canvas, const OpenStreet::Camera& camera) const
 {
     const auto corner = [&](double x, double y) { return camera.projection().toGeo(camera.windowToWorld({x, y})); };
-    const OpenStreet::GeoPoint upper = corner(0.0, 0.0), lower = corner(camera.width(), camera.height());
+    OpenStreet::GeoPoint upper = corner(0.0, 0.0), lower = upper;
+    for (const OpenStreet::GeoPoint& other :
+         {corner(camera.width(), 0.0), corner(0.0, camera.height()), corner(camera.width(), camera.height())}) {
+        upper = {std::max(upper.latitude, other.latitude), std::min(upper.longitude, other.longitude)};
+        lower = {std::min(lower.latitude, other.latitude), std::max(lower.longitude, other.longitude)};
+    }
     const double step = graticuleStep(camera);
     const auto point = [&](double latitude, double longitude) {
         const OpenStreet::WindowPoint at = camera.worldToWindow(camera.projection().toWorld({latitude, longitude}));

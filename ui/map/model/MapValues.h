@@ -19,7 +19,7 @@ struct MapValue {
 /// The values that the panel on the map shows: those of the parameters that are shown, in the profile's order.
 class MapValues {
 public:
-    static constexpr std::size_t kMostRows = 200;
+    static constexpr std::size_t kMostRows = 1000;
 
     explicit MapValues(const Session& session) : mSession(session) {}
 

@@ -1,0 +1,114 @@
+#include "sim/DemoCard.h"
+#include "ui/data/DialogData.h"
+#include "ui/main/DesktopFixture.h"
+#include "ui/main/DialogCard.h"
+#include "ui/main/WidgetWelcome.h"
+
+#include <QComboBox>
+#include <QDir>
+#include <QMenuBar>
+#include <QTableView>
+#include <QToolBar>
+#include <QTreeWidget>
+#include <QtTest>
+
+using namespace ZARN;
+
+/// The main window as a live display, and in other units.
+class TestOtherModes : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init() { mHome.emplace(); }
+    void emu();
+    void units();
+
+private:
+    QString home() const { return mHome->path(); }
+    QString card() const { return mCards.filePath("SD/Card"); }
+    void started(DialogMain& window) { QVERIFY(QSignalSpy(&window, &DialogMain::signalStarted).wait(10000)); }
+
+    QTemporaryDir mCards;
+    std::optional<QTemporaryDir> mHome;
+};
+
+namespace {
+
+template <typename Widget> bool isShown(DialogMain& window)
+{
+    const auto* pWidget = window.findChild<Widget*>();
+    return pWidget && pWidget->isVisible();
+}
+
+/// Whether a table in sight begins with a text.
+bool showsFirst(DialogMain& window, const QString& text)
+{
+    for (const QTableView* pView : window.findChildren<QTableView*>()) {
+        if (pView->isVisible() && pView->model()->index(0, 0).data().toString().startsWith(text))
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
+void TestOtherModes::initTestCase()
+{
+    std::string error;
+    QVERIFY(QDir().mkpath(mCards.filePath("SD")));
+    QVERIFY2(DemoCard().write(card().toStdString(), DemoCardOptions{}, error), error.c_str());
+}
+
+void TestOtherModes::emu()
+{
+    DesktopFixture desktop(home(), {"-emu"});
+    DialogMain& window = desktop.open();
+    started(window);
+    QVERIFY(window.isVisible());
+    QVERIFY(window.menuBar()->actions().isEmpty());
+    QVERIFY(!isShown<QToolBar>(window));
+    QVERIFY(!isShown<DialogCard>(window));
+    QVERIFY(isShown<DialogData>(window) && !isShown<WidgetWelcome>(window));
+    desktop.profile.setSelected("Oil Temperature", true);
+    window.slotProfileChanged();
+    RecordEntry entry;
+    entry.id = desktop.profile.findParameter("Oil Temperature")->identifier();
+    entry.payload = {0x42, 0xb4, 0, 0, 0x42, 0xb4, 0, 0}; // 90 in each half
+    QVERIFY(desktop.container.recordData().appendLive(entry));
+    QTRY_VERIFY(showsFirst(window, "90"));
+}
+
+void TestOtherModes::units()
+{
+    DesktopFixture desktop(home(), {card().toStdString()});
+    DialogMain& window = desktop.open();
+    started(window);
+    window.slotLoadCycle(2, 0);
+    const double metres = desktop.container.selectedFlight().maxAltitude;
+    auto& data = *window.findChild<DialogData*>();
+    data.slotTableTime(1000.0);
+    const std::size_t records = desktop.container.recordData().count();
+    QVERIFY(QDir().rename(card(), card() + "-pulled"));
+    auto* pUnits = window.findChild<QComboBox*>("units");
+    pUnits->setCurrentIndex(1);
+    Q_EMIT pUnits->activated(1);
+    QVERIFY(QDir().rename(card() + "-pulled", card()));
+    QCOMPARE(desktop.property.getInt("Unit", 0), 1);
+    const RecordFlight& flight = desktop.container.loadedCycle()->flights.at(0);
+    QVERIFY2(std::abs(flight.maxAltitude / metres - 3.2808) < 0.01, "the statistic follows the units");
+    QCOMPARE(desktop.container.recordData().count(), records);
+    QCOMPARE(desktop.container.selectedFlight().startTime, flight.startTime);
+    QCOMPARE(data.viewTime(), 1000.0);
+    QList<QTreeWidgetItem*> shown;
+    for (const QTreeWidget* pTree : window.findChild<DialogCard*>()->findChildren<QTreeWidget*>())
+        shown += pTree->findItems("Flight 1", Qt::MatchStartsWith | Qt::MatchRecursive);
+    QVERIFY(!shown.isEmpty());
+    QVERIFY2(shown.front()->text(0).contains(CardContainer::time(flight.startTime).left(8)), qPrintable(shown.front()->text(0)));
+    DesktopFixture next(home());
+    next.open();
+    QCOMPARE(next.window->findChild<QComboBox*>("units")->currentText(), QString("Imperial"));
+}
+
+QTEST_MAIN(TestOtherModes)
+#include "TestOtherModes.moc"
