@@ -351,6 +351,9 @@ void TestDialogDataMap::pointerAndKeys()
         map.latLong2Window(place.latitude, place.longitude, &x, &y);
         return std::hypot(x - point.x(), y - point.y()) < 1.5;
     };
+    const auto* pValues = window.dialog->findChild<MapValuePanel*>();
+    QVERIFY(pValues->isVisible());
+    QCOMPARE(window.dialog->childAt(pValues->geometry().center()), &map); // the map is moved below the values, too
     const QPoint pointer(640, 200);
     double range = map.navigator().camera().horizontalRange();
     OpenStreet::GeoPoint place = placeAt(pointer);
