@@ -34,11 +34,11 @@ struct OneTrace {
     GraphModel model;
 };
 
-GraphLayout layoutOf(GraphModel& model)
+GraphLayout layoutOf(GraphModel& model, const QSizeF& size = QSizeF(800, 500), bool withLegend = false)
 {
-    model.activateLegend(false);
+    model.activateLegend(withLegend);
     model.calcRanges();
-    GraphLayout layout(model, QSizeF(800, 500), 11);
+    GraphLayout layout(model, size, 11);
     model.setPlot(static_cast<int>(layout.plot().width()), layout.plot().height());
     model.calcFrame();
     return layout;
@@ -69,6 +69,10 @@ private Q_SLOTS:
     void zoomsAboutPointer();
     void marksAndPans();
     void keysMoveCursor();
+    void dragsCursor();
+    void wordsAreNoTimes();
+    void legendChooses_data();
+    void legendChooses();
     void dragsStrips();
     void survivesAnything();
 };
@@ -203,6 +207,12 @@ void TestGraphModel::autoscale()
     graph.model.setYmax(4);
     graph.model.calcFrame();
     QCOMPARE(graph.model.valueRange(0), (std::array{-3.0, 4.0}));
+    graph.model.setYmin(6); // the greater one typed first
+    graph.model.calcFrame();
+    QCOMPARE(graph.model.valueRange(0), (std::array{4.0, 6.0}));
+    graph.model.setYmax(6);
+    graph.model.calcFrame();
+    QVERIFY(graph.model.valueRange(0)[0] < 6 && graph.model.valueRange(0)[1] > 6);
 
     GraphModel equal;
     equal.setActive(1, true);
@@ -319,7 +329,7 @@ void TestGraphModel::markerValues()
     QCOMPARE(*marked.difference, 10.0);
     QCOMPARE(*marked.minimum, 10.0);
     QCOMPARE(*marked.maximum, 20.0);
-    QVERIFY(std::abs(*marked.integral - 10.0) < 1e-4);             // 5 litres in each half
+    QVERIFY(std::abs(*marked.integral - 10.0) < 1e-4); // 5 litres in each half
     QVERIFY(std::abs(*marked.mean - 10.0 / 0.75) < 1e-4);
 
     model.setMarker(-20, -10); // nothing is known before the first sample
@@ -346,8 +356,10 @@ void TestGraphModel::markerText()
 void TestGraphModel::bands()
 {
     const ProfileParameter parameter;
-    const ThresholdList list{{10, QColor(Qt::green), eThresholdOk}, {20, QColor(Qt::yellow), eThresholdWarning},
-                             {15, QColor(Qt::red), eThresholdLimit}, {30, QColor(Qt::blue), eThresholdOk}};
+    const ThresholdList list{{10, QColor(Qt::green), eThresholdOk},
+                             {20, QColor(Qt::yellow), eThresholdWarning},
+                             {15, QColor(Qt::red), eThresholdLimit},
+                             {30, QColor(Qt::blue), eThresholdOk}};
     // The boundary at 15 is reached only by values that pass the one at 20, and is then the last one passed.
     const std::vector<GraphBand> metric = thresholdBands(list, ValueDecoder(parameter, &list, nullptr, std::nullopt));
     QCOMPARE(metric.size(), 1U);
@@ -434,6 +446,104 @@ void TestGraphModel::keysMoveCursor()
     QVERIFY(std::abs(graph.model.cursorValue() - before - 120 / layout.plot().height()) < 1e-9); // of the range -10..110
     QCOMPARE(cursor.count(), 3);
     QVERIFY(graph.model.isCursorMoving());
+    hand.keyPressed(Qt::Key_Shift);
+    for (int i = 0; i < 100; ++i)
+        hand.keyPressed(Qt::Key_Right);
+    QVERIFY(graph.model.cursorTime() > 120); // the window comes along
+    QVERIFY(std::abs(graph.model.xmax() - graph.model.cursorTime() - 10) < 1e-3);
+}
+
+void TestGraphModel::dragsCursor()
+{
+    OneTrace graph;
+    graph.model.setCursorMode(eCenter);
+    graph.model.setWindow(0, 100);
+    GraphInteraction hand(graph.model);
+    const GraphLayout first = layoutOf(graph.model);
+    hand.setLayout(first);
+    hand.pressed(Qt::MiddleButton, QPointF(first.xOf(70), 200), {});
+    for (int pixel = 1; pixel <= 20; ++pixel) {
+        hand.setLayout(layoutOf(graph.model)); // each step has moved the window
+        hand.moved(QPointF(first.xOf(70) + pixel, 200));
+    }
+    QVERIFY(std::abs(graph.model.cursorTime() - 70 - 20 / first.pixelsPerSecond()) < 1e-6);
+    hand.released(Qt::MiddleButton, {});
+
+    graph.model.setCursorMode(eFloating);
+    graph.model.setWindow(0, 100);
+    hand.setLayout(layoutOf(graph.model));
+    hand.pressed(Qt::LeftButton, QPointF(2, 200), Qt::ShiftModifier); // on the labels of the axis
+    QCOMPARE(graph.model.cursorTime(), 0.0);
+    hand.moved(QPointF(5000, 200));
+    QVERIFY(std::abs(graph.model.cursorTime() - 100) < 1e-6);
+}
+
+void TestGraphModel::wordsAreNoTimes()
+{
+    OneTrace graph;
+    graph.model.setWindow(0, 100);
+    graph.model.setMarker(20, 30);
+    GraphInteraction hand(graph.model);
+    const GraphLayout layout = layoutOf(graph.model, QSizeF(1400, 500), true);
+    hand.setLayout(layout);
+    for (const QPointF& point : {layout.table().center(), layout.legend().center()}) {
+        hand.pressed(Qt::LeftButton, point, {});
+        hand.released(Qt::LeftButton, point);
+        hand.pressed(Qt::LeftButton, point, Qt::ShiftModifier);
+        hand.released(Qt::LeftButton, point);
+        hand.pressed(Qt::MiddleButton, point, {});
+        hand.released(Qt::MiddleButton, point);
+    }
+    QCOMPARE(graph.model.markerStart(), 20.0);
+    QCOMPARE(graph.model.markerEnd(), 30.0);
+    QCOMPARE(graph.model.cursorTime(), 0.0);
+}
+
+void TestGraphModel::legendChooses_data()
+{
+    QTest::addColumn<QSizeF>("size");
+    QTest::addColumn<bool>("split");
+    QTest::newRow("beside") << QSizeF(1400, 600) << false;
+    QTest::newRow("over") << QSizeF(250, 400) << false;
+    QTest::newRow("over strips") << QSizeF(250, 400) << true;
+}
+
+void TestGraphModel::legendChooses()
+{
+    QFETCH(const QSizeF, size);
+    QFETCH(const bool, split);
+    GraphModel model;
+    for (const int index : {0, 1, 2}) {
+        model.setActive(index, true);
+        model.setParameterName(index, QString("Oil Pressure %1").arg(index), "bar");
+    }
+    model.setDisplayMode(split ? eSplit : eSingleGraph);
+    layoutOf(model, size, true);
+    const GraphLayout layout = layoutOf(model, size, true);
+    GraphInteraction hand(model);
+    hand.setLayout(layout);
+    const QPointF line = layout.legendLine(model, 1).center(), other = layout.legendLine(model, 2).center();
+    const QPointF outside(layout.plot().right() - 1, layout.plot().bottom() - 1);
+    hand.moved(line);
+    QCOMPARE(model.highlighted(), 1);
+    hand.pressed(Qt::LeftButton, line, {});
+    hand.released(Qt::LeftButton, line);
+    hand.moved(other);
+    QCOMPARE(model.highlighted(), 2);
+    hand.moved(outside);
+    QCOMPARE(model.highlighted(), 1);
+
+    model.setParameterName(1, "Torque", "Nm"); // another parameter takes the slot
+    hand.moved(outside);
+    QCOMPARE(model.highlighted(), -1);
+    hand.pressed(Qt::LeftButton, line, {});
+    hand.released(Qt::LeftButton, line);
+    model.setActive(1, false);
+    hand.left();
+    model.setActive(1, true);
+    hand.left();
+    QCOMPARE(model.highlighted(), -1);
+    QCOMPARE(model.axisParameter(), 0);
 }
 
 void TestGraphModel::dragsStrips()
