@@ -114,15 +114,18 @@ void GraphScene::draw(Canvas& canvas)
     drawTopMarkers(canvas);
     canvas.outline(mLayout.plot(), {faint(contrast(), 0.6)});
     drawHandles(canvas);
+    const GraphTables tables(mModel, mLayout);
+    tables.drawOverlay(canvas);
     drawCursor(canvas);
-    GraphTables(mModel, mLayout).draw(canvas);
+    tables.draw(canvas);
     drawMessage(canvas);
 }
 
 void GraphScene::drawBands(Canvas& canvas) const
 {
     const auto fill = [&](const QRectF& area, double lower, double upper, int index, const QColor& colour) {
-        const double top = GraphLayout::yOf(upper, area, mModel.valueRange(index)), bottom = GraphLayout::yOf(lower, area, mModel.valueRange(index));
+        const double top = GraphLayout::yOf(upper, area, mModel.valueRange(index)),
+                     bottom = GraphLayout::yOf(lower, area, mModel.valueRange(index));
         const QRectF band = QRectF(QPointF(area.left(), top), QPointF(area.right(), bottom)).intersected(area);
         if (!band.isEmpty())
             canvas.fillRect(band, colour);
@@ -151,7 +154,8 @@ void GraphScene::drawTimeAxis(Canvas& canvas) const
     for (const AxisTick& tick : ticks.ticks()) {
         const double x = std::floor(mLayout.xOf(tick.value));
         if (mModel.isGridOn())
-            (tick.isMajor ? major : fine).insert((tick.isMajor ? major : fine).end(), {QPointF(x, plot.top()), QPointF(x, plot.bottom() - 1)});
+            (tick.isMajor ? major : fine)
+                .insert((tick.isMajor ? major : fine).end(), {QPointF(x, plot.top()), QPointF(x, plot.bottom() - 1)});
         const QString text = ticks.timeLabel(tick.value);
         const double half = static_cast<double>(text.size()) * mLayout.character() / 2 + 2;
         if (tick.isMajor && x - half >= 0 && x + half <= mLayout.width())
@@ -174,7 +178,8 @@ void GraphScene::drawValueAxis(Canvas& canvas, const QRectF& area, int index) co
         if (y < area.top() || y >= area.bottom())
             continue;
         if (mModel.isGridOn())
-            (tick.isMajor ? major : fine).insert((tick.isMajor ? major : fine).end(), {QPointF(area.left(), y), QPointF(area.right() - 1, y)});
+            (tick.isMajor ? major : fine)
+                .insert((tick.isMajor ? major : fine).end(), {QPointF(area.left(), y), QPointF(area.right() - 1, y)});
         // A label that would hang over into the next strip is left out.
         const double half = mLayout.line() / 2;
         if (tick.isMajor && y - half >= area.top() - 1 && y + half <= area.bottom() + 1)
@@ -307,31 +312,40 @@ void GraphScene::drawCursor(Canvas& canvas) const
         return;
     const std::array line{QPointF(x, plot.top()), QPointF(x, plot.bottom() - 1)};
     canvas.lines(line, {contrast()});
-    const QString time = CardContainer::time(mModel.cursorTime());
-    const double width = static_cast<double>(time.size()) * mLayout.character() + 12;
-    const bool isRight = x + width < plot.right();
-    const Qt::Alignment side = isRight ? Qt::AlignLeft : Qt::AlignRight;
-    drawLabel(canvas, QPointF(isRight ? x + 5 : x - 5, plot.top() + 3), time, side | Qt::AlignTop);
-    drawCursorValues(canvas, x, isRight);
+    // Above the strips, for the first one's value stands at its top; over a single graph the axis has its name.
+    const double y = mModel.displayMode() == eSplit ? plot.top() - mLayout.line() - 1 : plot.top() + 3;
+    drawAtCursor(canvas, QPointF(x, y), CardContainer::time(mModel.cursorTime()), Qt::AlignTop);
+    if (mModel.displayMode() == eSplit)
+        drawCursorValues(canvas, x);
+    else
+        drawCursorValue(canvas, x);
 }
 
-void GraphScene::drawCursorValues(Canvas& canvas, double x, bool isRight) const
+void GraphScene::drawAtCursor(Canvas& canvas, const QPointF& position, const QString& text, Qt::Alignment vertical) const
 {
-    const Qt::Alignment side = isRight ? Qt::AlignLeft : Qt::AlignRight;
-    const double place = isRight ? x + 5 : x - 5;
-    if (mModel.displayMode() == eSplit) {
-        double free = mLayout.plot().top() + mLayout.line() + 4; // below the time
-        for (const int index : mModel.shown()) {
-            const QRectF area = mLayout.area(*mModel.parameter(index));
-            double value = 0.0;
-            const double y = std::max(area.top() + 3, free);
-            if (y + mLayout.line() > area.bottom() || !mModel.getValue(index, mModel.cursorTime(), value))
-                continue;
-            const QString name = GraphLayout::shortened(mModel.parameter(index)->name, GraphLayout::kLongestName);
-            drawLabel(canvas, QPointF(place, y), name + QLatin1Char('/') + QString::number(value, 'f', 2), side | Qt::AlignTop);
-        }
-        return;
+    const QRectF& plot = mLayout.plot();
+    const double width = static_cast<double>(text.size()) * mLayout.character() + 12;
+    const double left = position.x() - plot.left(), right = plot.right() - position.x();
+    const bool isRight = width < right || (width > left && left < right);
+    drawLabel(canvas, position + QPointF(isRight ? 5 : -5, 0), text, (isRight ? Qt::AlignLeft : Qt::AlignRight) | vertical);
+}
+
+void GraphScene::drawCursorValues(Canvas& canvas, double x) const
+{
+    const double height = canvas.textSize(QStringLiteral("0"), labelStyle(Qt::AlignTop)).height();
+    for (const int index : mModel.shown()) {
+        const QRectF area = mLayout.area(*mModel.parameter(index));
+        const std::optional<double> value = mModel.valueAtCursor(index);
+        if (!value || area.height() < height)
+            continue;
+        const double y = area.top() + std::min(3.0, (area.height() - height) / 2);
+        const QString name = GraphLayout::shortened(mModel.parameter(index)->name, GraphLayout::kLongestName);
+        drawAtCursor(canvas, QPointF(x, y), name + QLatin1Char('/') + QString::number(*value, 'f', 2), Qt::AlignTop);
     }
+}
+
+void GraphScene::drawCursorValue(Canvas& canvas, double x) const
+{
     if (!mModel.isCursorMoving() || mModel.axisParameter() < 0)
         return;
     const QRectF& plot = mLayout.plot();
@@ -341,7 +355,7 @@ void GraphScene::drawCursorValues(Canvas& canvas, double x, bool isRight) const
     const std::array line{QPointF(plot.left(), y), QPointF(plot.right() - 1, y)};
     canvas.lines(line, {faint(contrast(), 0.7), 1.0, false, 3.0});
     const double label = std::clamp(y - 2, plot.top() + 2 * mLayout.line() + 6, plot.bottom());
-    drawLabel(canvas, QPointF(place, label), QString::number(mModel.cursorValue(), 'f', 2), side | Qt::AlignBottom);
+    drawAtCursor(canvas, QPointF(x, label), QString::number(mModel.cursorValue(), 'f', 2), Qt::AlignBottom);
 }
 
 void GraphScene::drawMessage(Canvas& canvas) const
@@ -350,7 +364,8 @@ void GraphScene::drawMessage(Canvas& canvas) const
         return;
     const QRectF& plot = mLayout.plot();
     CanvasText style{mLayout.textSize() + 2, contrast(), false, Qt::AlignHCenter | Qt::AlignVCenter, false};
-    const QStringList lines = wrapped(mModel.message(), std::max(static_cast<int>(plot.width() / canvas.textSize(QStringLiteral("x"), style).width()), 1));
+    const QStringList lines =
+        wrapped(mModel.message(), std::max(static_cast<int>(plot.width() / canvas.textSize(QStringLiteral("x"), style).width()), 1));
     double y = plot.center().y() - static_cast<double>(lines.size() - 1) * (mLayout.line() + 4) / 2;
     for (const QString& line : lines) {
         canvas.text(QPointF(plot.center().x(), y), line, style);

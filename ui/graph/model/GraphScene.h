@@ -44,7 +44,10 @@ private:
     void drawTopMarkers(Canvas& canvas) const;
     void drawHandles(Canvas& canvas) const;
     void drawCursor(Canvas& canvas) const;
-    void drawCursorValues(Canvas& canvas, double x, bool isRight) const;
+    /// A label beside the cursor, on the side that has room for it.
+    void drawAtCursor(Canvas& canvas, const QPointF& position, const QString& text, Qt::Alignment vertical) const;
+    void drawCursorValues(Canvas& canvas, double x) const;
+    void drawCursorValue(Canvas& canvas, double x) const;
     void drawMessage(Canvas& canvas) const;
 
     const GraphModel& mModel;
