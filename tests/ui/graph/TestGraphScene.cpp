@@ -294,6 +294,8 @@ void TestGraphScene::cursorTellsValues()
     fillFlight(model, traces);
     model.setDisplayMode(eSplit);
     model.setCursorPosition(time);
+    if (traces < 30)
+        model.setMarker(time - 60, time + 50);
     const GraphLayout layout = GraphScene::prepare(model, size, 11, 1);
     Test::RecordingCanvas canvas;
     GraphScene(model, layout).draw(canvas);
@@ -309,6 +311,9 @@ void TestGraphScene::cursorTellsValues()
             overlay = i;
     }
     QCOMPARE(labels.size(), static_cast<std::size_t>(traces) + 1);
+    for (const auto& [box, text] : canvas.texts)
+        QVERIFY2(!text.startsWith("dt") || std::ranges::none_of(labels, [&](const QRectF& label) { return label.intersects(box); }),
+                 qPrintable(text));
     for (std::size_t i = 0; i < labels.size(); ++i) {
         QVERIFY(layout.legend().isEmpty() || labels[i].right() < layout.legend().left());
         QVERIFY(i == 0 || labels[i].top() >= labels[i - 1].bottom() - 1);

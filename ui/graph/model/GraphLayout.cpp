@@ -127,7 +127,9 @@ QRectF GraphLayout::overlayLine(const GraphModel& model, std::size_t row) const
 {
     const GraphParameter& parameter = *model.parameter(model.shown()[row]);
     const QRectF area = this->area(parameter);
-    const double y = area.top() + (model.displayMode() == eSplit ? 2.0 : 3.0 + static_cast<double>(row) * mLine);
+    // The cursor's time stands in the first line of a single graph.
+    const double line = static_cast<double>(row) + (model.isCursorOn() ? 1.0 : 0.0);
+    const double y = area.top() + (model.displayMode() == eSplit ? 2.0 : 3.0 + line * mLine);
     if (y + mLine > area.bottom())
         return {};
     const QString text = shortened(parameter.label(), kLongestLabel);

@@ -1,6 +1,5 @@
 #include "ui/graph/model/GraphScene.h"
 
-#include "card/CardContainer.h"
 #include "ui/graph/model/AxisTicks.h"
 #include "ui/graph/model/GraphTables.h"
 
@@ -260,7 +259,10 @@ void GraphScene::drawMarker(Canvas& canvas) const
     const QString text = QStringLiteral("dt = %1 s").arg(end - start, 0, 'f', 3);
     const double half = static_cast<double>(text.size()) * mLayout.character() / 2 + 4;
     const double middle = std::clamp((left + right) / 2, plot.left() + half, std::max(plot.left() + half, plot.right() - half));
-    drawLabel(canvas, QPointF(middle, plot.bottom() - 4), text, Qt::AlignHCenter | Qt::AlignBottom);
+    if (mModel.displayMode() == eSplit) // where the last strip's value may stand
+        drawLabel(canvas, QPointF(clearOfTime(middle, half), plot.top() - mLayout.line() - 1), text, Qt::AlignHCenter | Qt::AlignTop);
+    else
+        drawLabel(canvas, QPointF(middle, plot.bottom() - 4), text, Qt::AlignHCenter | Qt::AlignBottom);
 }
 
 void GraphScene::drawTopMarkers(Canvas& canvas) const
@@ -304,60 +306,6 @@ void GraphScene::drawHandles(Canvas& canvas) const
     }
 }
 
-void GraphScene::drawCursor(Canvas& canvas) const
-{
-    const QRectF& plot = mLayout.plot();
-    const double x = std::floor(mLayout.xOf(mModel.cursorTime()));
-    if (!mModel.isCursorOn() || !(x >= plot.left()) || x > plot.right())
-        return;
-    const std::array line{QPointF(x, plot.top()), QPointF(x, plot.bottom() - 1)};
-    canvas.lines(line, {contrast()});
-    // Above the strips, for the first one's value stands at its top; over a single graph the axis has its name.
-    const double y = mModel.displayMode() == eSplit ? plot.top() - mLayout.line() - 1 : plot.top() + 3;
-    drawAtCursor(canvas, QPointF(x, y), CardContainer::time(mModel.cursorTime()), Qt::AlignTop);
-    if (mModel.displayMode() == eSplit)
-        drawCursorValues(canvas, x);
-    else
-        drawCursorValue(canvas, x);
-}
-
-void GraphScene::drawAtCursor(Canvas& canvas, const QPointF& position, const QString& text, Qt::Alignment vertical) const
-{
-    const QRectF& plot = mLayout.plot();
-    const double width = static_cast<double>(text.size()) * mLayout.character() + 12;
-    const double left = position.x() - plot.left(), right = plot.right() - position.x();
-    const bool isRight = width < right || (width > left && left < right);
-    drawLabel(canvas, position + QPointF(isRight ? 5 : -5, 0), text, (isRight ? Qt::AlignLeft : Qt::AlignRight) | vertical);
-}
-
-void GraphScene::drawCursorValues(Canvas& canvas, double x) const
-{
-    const double height = canvas.textSize(QStringLiteral("0"), labelStyle(Qt::AlignTop)).height();
-    for (const int index : mModel.shown()) {
-        const QRectF area = mLayout.area(*mModel.parameter(index));
-        const std::optional<double> value = mModel.valueAtCursor(index);
-        if (!value || area.height() < height)
-            continue;
-        const double y = area.top() + std::min(3.0, (area.height() - height) / 2);
-        const QString name = GraphLayout::shortened(mModel.parameter(index)->name, GraphLayout::kLongestName);
-        drawAtCursor(canvas, QPointF(x, y), name + QLatin1Char('/') + QString::number(*value, 'f', 2), Qt::AlignTop);
-    }
-}
-
-void GraphScene::drawCursorValue(Canvas& canvas, double x) const
-{
-    if (!mModel.isCursorMoving() || mModel.axisParameter() < 0)
-        return;
-    const QRectF& plot = mLayout.plot();
-    const double y = std::floor(GraphLayout::yOf(mModel.cursorValue(), plot, mModel.valueRange(mModel.axisParameter())));
-    if (y < plot.top() || y >= plot.bottom())
-        return;
-    const std::array line{QPointF(plot.left(), y), QPointF(plot.right() - 1, y)};
-    canvas.lines(line, {faint(contrast(), 0.7), 1.0, false, 3.0});
-    const double label = std::clamp(y - 2, plot.top() + 2 * mLayout.line() + 6, plot.bottom());
-    drawAtCursor(canvas, QPointF(x, label), QString::number(mModel.cursorValue(), 'f', 2), Qt::AlignBottom);
-}
-
 void GraphScene::drawMessage(Canvas& canvas) const
 {
     if (mModel.message().isEmpty())
@@ -366,10 +314,16 @@ void GraphScene::drawMessage(Canvas& canvas) const
     CanvasText style{mLayout.textSize() + 2, contrast(), false, Qt::AlignHCenter | Qt::AlignVCenter, false};
     const QStringList lines =
         wrapped(mModel.message(), std::max(static_cast<int>(plot.width() / canvas.textSize(QStringLiteral("x"), style).width()), 1));
-    double y = plot.center().y() - static_cast<double>(lines.size() - 1) * (mLayout.line() + 4) / 2;
+    const double height = mLayout.line() + 4;
+    double y = plot.center().y() - static_cast<double>(lines.size() - 1) * height / 2, width = 0.0;
+    for (const QString& line : lines)
+        width = std::max(width, canvas.textSize(line, style).width());
+    QRectF box(0, 0, width + 2 * height, static_cast<double>(lines.size() + 1) * height);
+    box.moveCenter(plot.center());
+    canvas.fillRect(box.intersected(plot), faint(mModel.colours().background.colour(), 0.85)); // legend lines may stand there
     for (const QString& line : lines) {
         canvas.text(QPointF(plot.center().x(), y), line, style);
-        y += mLayout.line() + 4;
+        y += height;
     }
 }
 
