@@ -217,7 +217,7 @@ void TestGraphScene::labelsNeverOverlap_data()
     QTest::addColumn<bool>("split");
     QTest::addColumn<double>("width");
     QTest::addColumn<bool>("marker");
-    for (const QSize size : {QSize(1400, 900), QSize(900, 600), QSize(480, 320)}) {
+    for (const QSize size : {QSize(1400, 900), QSize(900, 600), QSize(1400, 510), QSize(480, 320)}) {
         for (const double width : {2700.0, 86400.0, 3.0, 0.002}) {
             for (const int traces : {1, 8, 30}) {
                 for (const bool split : {false, true})

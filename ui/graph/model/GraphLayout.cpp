@@ -110,9 +110,10 @@ QRectF GraphLayout::legendLine(const GraphModel& model, std::size_t row) const
     if (mLegend == ELegend::eNone)
         return overlayLine(model, row);
     if (model.displayMode() == eSplit) {
-        const QRectF strip = area(*model.parameter(model.shown()[row]));
-        if (strip.height() >= mLine)
-            return {mLegendRect.left(), strip.top(), mLegendRect.width(), mLine};
+        // Rounded, some strips have room and others none: all go by the height before that.
+        const GraphParameter& parameter = *model.parameter(model.shown()[row]);
+        if (parameter.height >= mLine)
+            return {mLegendRect.left(), area(parameter).top(), mLegendRect.width(), mLine};
     }
     // The first line is the header, and the last one says how many found no room.
     const auto line = static_cast<double>(row + 1);
