@@ -15,7 +15,6 @@ namespace ZARN {
 namespace {
 
 constexpr int kHeldInterval = 50;
-constexpr float kMargin = 0.1F; // of the window, between cursor and edge
 
 /// Calls with each selected parameter of the profile, in its order, as far as there are slots.
 template <typename Visitor> int forEachSelected(const Profile& profile, Visitor visit)
@@ -117,9 +116,23 @@ void DialogDataGraph::updateRecord(RecordData* pRecord)
     fillRecord();
     if (!mpRecord)
         return;
+    forgetMarker();
     zoomAll();
     mpGraph->recalcFrameBuffer();
     mpGraph->setCursorPosition(mSession.container.startTime());
+}
+
+void DialogDataGraph::forgetMarker()
+{
+    // A flight counts its times as its power cycle does: there the marker still stands where it was set.
+    const CardContainer& container = mSession.container;
+    const RecordCycle* pCycle = container.loadedCycle();
+    const RecordKey key{container.path(), container.loadedCycleNumber(), pCycle ? pCycle->dateTime : container.dateTime(),
+                        pCycle ? pCycle->endTime : container.endTime()};
+    if (key == mMarkedRecord)
+        return;
+    mMarkedRecord = key;
+    mpGraph->setMarker(0, 0);
 }
 
 void DialogDataGraph::fillIndex(int slot, const ProfileParameter& parameter)
@@ -151,22 +164,14 @@ void DialogDataGraph::fillIndex(int slot, const ProfileParameter& parameter)
 void DialogDataGraph::setTime(double time)
 {
     mpGraph->setPaced(true);
-    GraphModel& model = mpGraph->model();
-    model.setCursorPosition(time);
-    const auto width = static_cast<float>(model.width());
-    const auto margin = static_cast<double>(kMargin * width);
-    double xmin = model.xmin(), xmax = model.xmax();
-    if (xmin + margin > time) {
-        xmin = time - margin;
-        xmax = xmin + static_cast<double>(width);
-    }
-    if (xmax - margin < time) {
-        xmin = time + margin - static_cast<double>(width);
-        xmax = time + margin;
-    }
-    if (xmin != model.xmin() || xmax != model.xmax())
-        model.setWindow(xmin, xmax);
+    showTime(time);
     mpGraph->setPaced(false);
+}
+
+void DialogDataGraph::showTime(double time)
+{
+    mpGraph->setCursorPosition(time);
+    mpGraph->model().keepInside(time);
 }
 
 void DialogDataGraph::slotManMode()
@@ -175,6 +180,14 @@ void DialogDataGraph::slotManMode()
     mpButtons->setChecked(eSplitMode, model.displayMode() != eSingleGraph);
     mpButtons->setChecked(eSingleMode, model.displayMode() == eSingleGraph);
     mpButtons->setChecked(eAutomaticMode, model.graphMode() == eAutomatic);
+}
+
+void DialogDataGraph::slotSetupChanged()
+{
+    // An edit applies the whole record: it must not bring back a window or a mode that the user has left with the mouse.
+    mData.xRange = mpGraph->model().width();
+    mData.graphMode = mpGraph->model().graphMode();
+    slotGraphSetup();
 }
 
 void DialogDataGraph::slotGraphSetup()

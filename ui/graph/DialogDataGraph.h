@@ -4,8 +4,11 @@
 #include "ui/data/model/DataView.h"
 #include "ui/graph/GraphData.h"
 
+#include <QDateTime>
 #include <QTimer>
 #include <QWidget>
+
+#include <optional>
 
 class WidgetGraphES;
 
@@ -43,7 +46,16 @@ protected:
     virtual void showProblem(const QString& text);
 
 private:
+    /// What the marker was set in: another record has another time base.
+    struct RecordKey {
+        QString path;
+        std::optional<unsigned int> cycle;
+        QDateTime dateTime;
+        double endTime = 0.0;
+        bool operator==(const RecordKey&) const = default;
+    };
     void slotManMode();
+    void slotSetupChanged();
     void slotGraphSetup();
     void slotCommand(int command);
     void slotHeldZoom();
@@ -51,9 +63,15 @@ private:
 
     void connectGraph();
     void fillRecord();
+    void forgetMarker();
     void fillIndex(int slot, const ProfileParameter& parameter);
     [[nodiscard]] QString emptyMessage() const;
     void zoomAll();
+    /// Gives the window a width, and what was in sight stays there.
+    void setRange(float seconds);
+    void showTime(double time);
+    void clearGraph();
+    [[nodiscard]] bool hasSamples() const;
     void setDisplayMode(int mode);
     void showSetup();
     void snapshot();
@@ -63,6 +81,7 @@ private:
     const Session mSession;
     GraphData mData;
     RecordData* mpRecord = nullptr;
+    RecordKey mMarkedRecord;
     GraphButtons* mpButtons;
     WidgetGraphES* mpGraph;
     DialogGraphSetup* mpSetup = nullptr;

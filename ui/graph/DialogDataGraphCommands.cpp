@@ -23,7 +23,7 @@ namespace {
 constexpr float kMargin = 0.1F; // of the record's span, before and after it
 constexpr float kZoom = 0.97F;
 constexpr float kZoomInLimit = 5000.0F, kZoomOutLimit = 1.0F; // seconds
-constexpr double kDefaultRange = 60.0;
+constexpr float kDefaultRange = 60.0F;
 
 } // namespace
 
@@ -36,7 +36,7 @@ void DialogDataGraph::slotCommand(int command)
         mData.xRange = mSession.container.endTime() - mSession.container.startTime();
         break;
     case eZoomMarker: mpGraph->zoomToMarker(); break;
-    case eClearAll: mpGraph->clear(); break;
+    case eClearAll: clearGraph(); break;
     case eAutomaticMode:
         mData.graphMode = mpButtons->isChecked(eAutomaticMode) ? eAutomatic : eManual;
         mpGraph->setGraphMode(static_cast<eGraphMode>(mData.graphMode));
@@ -45,8 +45,8 @@ void DialogDataGraph::slotCommand(int command)
     case eSingleMode: setDisplayMode(eSingleGraph); break;
     case eResetAll:
         setDisplayMode(eSplit);
-        mData.xRange = kDefaultRange;
-        mpGraph->setXrange(static_cast<float>(kDefaultRange));
+        setRange(kDefaultRange);
+        showTime(mpGraph->model().cursorTime());
         break;
     case eSetup: showSetup(); break;
     case eSnapshot: snapshot(); break;
@@ -77,19 +77,41 @@ void DialogDataGraph::slotHeldZoom()
     if (held != eZoomIn && held != eZoomOut)
         return mHeldTimer.stop();
     const float wanted = held == eZoomIn ? std::min(width * kZoom, kZoomInLimit) : std::max(width / kZoom, kZoomOutLimit);
-    mpGraph->setXrange(wanted);
-    mData.xRange = static_cast<double>(wanted);
+    setRange(wanted);
+}
+
+void DialogDataGraph::setRange(float seconds)
+{
+    // In the automatic mode the end of the window stays, and the cursor, or all of the record, would soon be left behind.
+    const GraphModel& model = mpGraph->model();
+    const double cursor = model.cursorTime();
+    const bool wasInSight = model.xmin() <= cursor && cursor <= model.xmax();
+    mpGraph->setXrange(seconds);
+    mData.xRange = static_cast<double>(seconds);
+    const bool isBeside = model.xmax() < mSession.container.startTime() || model.xmin() > mSession.container.endTime();
+    if (mpRecord && (wasInSight || isBeside))
+        showTime(cursor);
+}
+
+bool DialogDataGraph::hasSamples() const
+{
+    const GraphModel& model = mpGraph->model();
+    return std::ranges::any_of(model.shown(), [&model](int index) { return !model.parameter(index)->samples.empty(); });
+}
+
+void DialogDataGraph::clearGraph()
+{
+    mpGraph->clear();
+    if (mpRecord && mpGraph->nrActive() > 0)
+        mpGraph->model().setMessage(tr(
+            "The graph was cleared.\nTick a parameter in the profile panel, or choose another power cycle or flight, to fill it again."));
 }
 
 void DialogDataGraph::showSetup()
 {
-    // An edit applies the whole record: it must not bring back a window or a mode that the user has left with the mouse.
-    const GraphModel& model = mpGraph->model();
-    mData.xRange = model.width();
-    mData.graphMode = model.graphMode();
     if (!mpSetup) {
         mpSetup = new DialogGraphSetup(this, mData);
-        connect(mpSetup, &DialogGraphSetup::signalChanged, this, &DialogDataGraph::slotGraphSetup);
+        connect(mpSetup, &DialogGraphSetup::signalChanged, this, &DialogDataGraph::slotSetupChanged);
     }
     mpSetup->updateDialog();
     mpSetup->show();
@@ -99,7 +121,15 @@ void DialogDataGraph::showSetup()
 
 QString DialogDataGraph::askSnapshotFile()
 {
-    return QFileDialog::getSaveFileName(this, tr("Save Snapshot"), "./snapshot.bmp", tr("BMP File (*.bmp);;All Files (*.*)"));
+    // With the suffix given here, and not when the file is written, the dialog asks before it replaces that very file.
+    QFileDialog dialog(this, tr("Save Snapshot"), QString(), tr("BMP File (*.bmp);;All Files (*.*)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setDefaultSuffix("bmp");
+    dialog.selectFile("./snapshot.bmp");
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return {};
+    return dialog.selectedFiles().front();
 }
 
 void DialogDataGraph::showProblem(const QString& text)
@@ -137,7 +167,7 @@ void DialogDataGraph::slotMenu(const QPoint& point)
 {
     QMenu menu(this);
     QAction* pCopy = menu.addAction(tr("Copy Values"), this, &DialogDataGraph::copyValues);
-    pCopy->setEnabled(mpGraph->model().hasMarkerRange() && mpGraph->nrActive() > 0);
+    pCopy->setEnabled(mpGraph->model().hasMarkerRange() && hasSamples());
     menu.addAction(tr("Copy Picture"), this, &DialogDataGraph::copyPicture);
     menu.addAction(tr("Snapshot..."), this, &DialogDataGraph::snapshot);
     menu.addAction(tr("Flight Report..."), this, &DialogDataGraph::signalReport)->setEnabled(mpRecord != nullptr);

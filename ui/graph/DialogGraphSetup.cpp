@@ -7,11 +7,28 @@
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QShowEvent>
 #include <QSignalBlocker>
 
 #include <cmath>
+#include <limits>
+#include <optional>
 
 namespace ZARN {
+
+namespace {
+
+constexpr auto kWrongInput = "QLineEdit { color: white; background-color: #b02020; }";
+
+/// The number that a text says, with a point or a comma; none when it says no number that the graph can take.
+std::optional<double> numberOf(const QString& text)
+{
+    bool isNumber = false;
+    const double value = text.trimmed().replace(QLatin1Char(','), QLatin1Char('.')).toDouble(&isNumber);
+    return isNumber && std::abs(value) <= static_cast<double>(std::numeric_limits<float>::max()) ? std::optional(value) : std::nullopt;
+}
+
+} // namespace
 
 DialogGraphSetup::DialogGraphSetup(QWidget* pParent, GraphData& graphData) : QDialog(pParent), mData(graphData)
 {
@@ -94,8 +111,8 @@ QPushButton* DialogGraphSetup::colourButton(const QString& name, const QString& 
 
 void DialogGraphSetup::updateDialog()
 {
-    const QSignalBlocker blockers[] = {QSignalBlocker(mpGrid), QSignalBlocker(mpCursor), QSignalBlocker(mpCursorMode), QSignalBlocker(mpLegend),
-                                       QSignalBlocker(mpAutoscale)};
+    const QSignalBlocker blockers[] = {QSignalBlocker(mpGrid), QSignalBlocker(mpCursor), QSignalBlocker(mpCursorMode),
+                                       QSignalBlocker(mpLegend), QSignalBlocker(mpAutoscale)};
     mpGrid->setChecked(mData.gridOn);
     mpCursor->setChecked(mData.cursorOn);
     mpCursorMode->setCurrentIndex(mData.cursorMode == 1 ? 1 : 0);
@@ -121,10 +138,23 @@ void DialogGraphSetup::showColour(QPushButton* pButton, const QString& name)
 
 void DialogGraphSetup::showNumber(QLineEdit* pField, double value)
 {
-    // What the user is typing stays as he types it.
-    const bool isTheSame = pField->isModified() && pField->text().toDouble() == value;
-    if (!isTheSame)
+    // What the user is typing stays as he types it, and is marked for as long as it is no number.
+    const std::optional<double> typed = numberOf(pField->text());
+    const bool isTyped = pField->isModified() && !mData.autoscaleOn && typed.value_or(value) == value;
+    if (!isTyped)
         pField->setText(QString::number(value, 'g', 10));
+    const bool isWrong = isTyped && !typed;
+    pField->setStyleSheet(isWrong ? QLatin1String(kWrongInput) : QLatin1String());
+    pField->setToolTip(isWrong ? tr("This is not a number: the scale stays as it was.") : QString());
+}
+
+void DialogGraphSetup::showEvent(QShowEvent* pEvent)
+{
+    // What was left half typed the last time is over.
+    for (QLineEdit* pField : {mpYmin, mpYmax})
+        pField->setModified(pField->isModified() && pEvent->spontaneous());
+    updateDialog();
+    QDialog::showEvent(pEvent);
 }
 
 void DialogGraphSetup::changed()
@@ -198,15 +228,13 @@ void DialogGraphSetup::slotAutoscaleOn(int state)
 
 void DialogGraphSetup::slotYmin(const QString& text)
 {
-    const double value = text.toDouble();
-    mData.yMin = std::isfinite(value) ? value : 0.0;
+    mData.yMin = numberOf(text).value_or(mData.yMin);
     changed();
 }
 
 void DialogGraphSetup::slotYmax(const QString& text)
 {
-    const double value = text.toDouble();
-    mData.yMax = std::isfinite(value) ? value : 0.0;
+    mData.yMax = numberOf(text).value_or(mData.yMax);
     changed();
 }
 

@@ -29,6 +29,7 @@ Q_SIGNALS:
 protected:
     /// Asks for a colour; invalid when the user gave up.
     virtual QColor askColour(const QColor& present);
+    void showEvent(QShowEvent* pEvent) override;
 
 private:
     void slotBackgroundColor();

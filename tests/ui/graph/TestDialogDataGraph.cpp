@@ -16,10 +16,14 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFileDialog>
 #include <QImageReader>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMessageBox>
 #include <QPainter>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -39,7 +43,7 @@ public:
     QStringList problems;
 
 protected:
-    QString askSnapshotFile() override { return answer; }
+    QString askSnapshotFile() override { return answer.isEmpty() ? DialogDataGraph::askSnapshotFile() : answer; }
     void showProblem(const QString& text) override { problems << text; }
 };
 
@@ -60,6 +64,7 @@ struct Shown : Test::TestCycle {
             file.addFloat(300, second, second == 500 ? 1000.0F : 100.0F);
             file.addFloat(301, second, second == 3 ? std::nanf("") : 12.0F);
         }
+        card.file("02.CAN").addFloat(300, 5, 1.0F); // without a date: another cycle begins
         container.readContainer(card.write());
         container.loadCycle(container.recordCycles().begin()->first, -1);
         dialog.resize(1000, 600);
@@ -79,6 +84,20 @@ struct Shown : Test::TestCycle {
     {
         const GraphLayout& layout = graph.layoutOfFrame();
         return {static_cast<int>(std::lround(layout.xOf(time))), static_cast<int>(layout.plot().center().y())};
+    }
+    /// What can be chosen from the menu at the right button.
+    QStringList menuTexts()
+    {
+        QStringList texts;
+        QTimer::singleShot(200, [&texts] {
+            if (auto* pMenu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
+                for (const QAction* pAction : pMenu->actions())
+                    texts << (pAction->isEnabled() ? pAction->text() : QString());
+                pMenu->close();
+            }
+        });
+        QTest::mouseClick(&graph, Qt::RightButton, {}, QPoint(500, 200));
+        return texts;
     }
     QToolButton* button(const QString& name) const { return dialog.findChild<QToolButton*>("graph-" + name); }
     void click(const QString& name) const { QTest::mouseClick(static_cast<QWidget*>(button(name)), Qt::LeftButton); }
@@ -129,6 +148,8 @@ private Q_SLOTS:
     void setup();
     void menuCopiesValues();
     void menuAsksForReport();
+    void snapshotAsksBeforeReplacing();
+    void markerGoesWithCycle();
     void snapshots_data();
     void snapshots();
     void idleDrawsNothing();
@@ -179,6 +200,10 @@ void TestDialogDataGraph::followsTime()
     QVERIFY(std::abs(shown.model.width() - 100) < 1e-4);
     shown.dialog.setTime(50);
     QVERIFY(std::abs(shown.model.xmin() - 40) < 1e-4);
+    shown.model.setWindow(-100, 1100);
+    shown.click("reset"); // by the rule of the automatic mode the last minute, behind the record's end
+    QCOMPARE(shown.model.width(), 60.0);
+    QVERIFY(std::abs(shown.model.xmin() - 44) < 1e-4);
 }
 
 void TestDialogDataGraph::handsOnGraph()
@@ -264,13 +289,18 @@ void TestDialogDataGraph::buttons()
     QCOMPARE(shown.dialog.graphData().displayMode, 1);
     shown.click("clear");
     QVERIFY(shown.model.parameter(0)->samples.empty());
+    QVERIFY(shown.model.message().contains("cleared"));
+    QVERIFY(!shown.menuTexts().contains("Copy Values"));
+    shown.dialog.updateProfile(); // as when a parameter is ticked
+    QVERIFY(!shown.model.parameter(0)->samples.empty() && shown.model.message().isEmpty());
+    QVERIFY(shown.menuTexts().contains("Copy Values"));
 }
 
 void TestDialogDataGraph::heldZoom()
 {
     Shown shown;
-    const auto hold = [&](const QString& name, double width) {
-        shown.model.setWindow(0, width);
+    const auto hold = [&](const QString& name, double width, double start = 0) {
+        shown.model.setWindow(start, start + width);
         QWidget* pButton = shown.button(name);
         QTest::mousePress(pButton, Qt::LeftButton);
         const bool isZoomed = QTest::qWaitFor([&] { return std::abs(shown.model.width() - width) > 1e-9; });
@@ -282,10 +312,16 @@ void TestDialogDataGraph::heldZoom()
     };
     auto [width, stopped] = hold("zoom-in", 100);
     QVERIFY(std::abs(width - 97) < 1e-4 && stopped);
-    QVERIFY(std::abs(hold("zoom-in", 0.5).first - 0.485) < 1e-5);   // below one second too
+    QVERIFY(std::abs(hold("zoom-in", 0.5).first - 0.485) < 1e-5); // below one second too
     QCOMPARE(hold("zoom-in", 10000).first, 5000.0);
     QVERIFY(std::abs(hold("zoom-out", 6000).first - 6000 / 0.97) < 1e-2); // above 5000 s too
     QCOMPARE(hold("zoom-out", 0.25).first, 1.0);
+    // The cursor, and with it the record, stays in sight; where the user has gone elsewhere the window stays there.
+    hold("zoom-in", 1000);
+    QVERIFY(shown.model.xmin() < shown.model.cursorTime());
+    shown.model.setGraphMode(eManual);
+    QVERIFY(std::abs(hold("zoom-in", 100, 300).first - 97) < 1e-4);
+    QCOMPARE(shown.model.xmin(), 300.0);
 }
 
 void TestDialogDataGraph::setup()
@@ -306,6 +342,19 @@ void TestDialogDataGraph::setup()
     QCOMPARE(shown.model.ymin(), -12.5);
     QCOMPARE(shown.dialog.graphData().yMin, -12.5);
     QCOMPARE(pYmin->text(), "-12.5");
+    shown.model.setWindow(500, 510); // as with the wheel, while the setup stays open
+    shown.model.takeOverTime();
+    for (const auto& [text, value] : {std::pair("1,5", 1.5), std::pair("abc", 1.5), std::pair("1e99", 1e9), std::pair("2", 2.0)}) {
+        pYmin->selectAll();
+        QTest::keyClicks(pYmin, text);
+        QCOMPARE(shown.model.ymin(), value);
+        QCOMPARE(pYmin->text(), text);
+        QCOMPARE(pYmin->toolTip().isEmpty(), QString(text) != "abc" && QString(text) != "1e99");
+        QCOMPARE(pYmin->styleSheet().isEmpty(), pYmin->toolTip().isEmpty());
+    }
+    QCOMPARE(shown.model.xmin(), 500.0);
+    QVERIFY(std::abs(shown.model.width() - 10) < 1e-4);
+    QCOMPARE(shown.model.graphMode(), eManual);
     auto* pMode = pSetup->findChild<QComboBox*>("cursorMode");
     QCOMPARE(pMode->currentIndex(), 0);
     pMode->setFocus();
@@ -352,6 +401,52 @@ void TestDialogDataGraph::menuAsksForReport()
     shown.dialog.updateRecord(nullptr); // of nothing there is none
     choose();
     QCOMPARE(report.size(), 1);
+}
+
+void TestDialogDataGraph::snapshotAsksBeforeReplacing()
+{
+    Shown shown;
+    const QTemporaryDir folder;
+    QFile taken(folder.filePath("taken.bmp"));
+    QVERIFY(taken.open(QIODevice::WriteOnly) && taken.write("old") == 3);
+    taken.close();
+    QString title;
+    bool isAsked = false;
+    QTimer::singleShot(300, [&] {
+        auto* pDialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        if (!pDialog)
+            return;
+        title = pDialog->windowTitle() + "|" + QFileInfo(pDialog->selectedFiles().value(0)).fileName() + "|" +
+                pDialog->nameFilters().join(";;");
+        QTimer::singleShot(300, [&isAsked] {
+            if (auto* pQuestion = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                isAsked = true;
+                pQuestion->reject();
+            }
+        });
+        pDialog->findChild<QLineEdit*>()->setText(folder.filePath("taken"));
+        pDialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save)->click(); // returns after the question
+        pDialog->reject();
+    });
+    shown.click("snapshot");
+    QCOMPARE(title, "Save Snapshot|snapshot.bmp|BMP File (*.bmp);;All Files (*.*)");
+    QVERIFY(isAsked);
+    QCOMPARE(QFileInfo(taken).size(), 3);
+}
+
+void TestDialogDataGraph::markerGoesWithCycle()
+{
+    Shown shown;
+    const auto load = [&shown](unsigned int cycle) {
+        shown.dialog.updateRecord(nullptr); // what was loaded is gone before something else is
+        QVERIFY(shown.container.loadCycle(cycle, -1));
+        shown.dialog.updateRecord(&shown.container.recordData());
+    };
+    shown.model.setMarker(100, 200);
+    load(0);
+    QVERIFY(shown.model.hasMarkerRange());
+    load(1);
+    QVERIFY(!shown.model.hasMarkerRange());
 }
 
 void TestDialogDataGraph::snapshots_data()

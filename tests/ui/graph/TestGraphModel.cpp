@@ -1,5 +1,5 @@
+#include "GraphFixtures.h"
 #include "ui/graph/model/AxisTicks.h"
-#include "ui/graph/model/GraphInteraction.h"
 #include "ui/graph/model/ThresholdBands.h"
 
 #include <QSignalSpy>
@@ -8,43 +8,8 @@
 #include <cmath>
 
 using namespace ZARN;
-
-namespace {
-
-/// A graph with one active trace of 1 Hz: value = time, from 0 to `last`.
-struct OneTrace {
-    explicit OneTrace(int last = 100)
-    {
-        model.setActive(0, true);
-        for (int second = 0; second <= last; ++second) {
-            model.setTime(second);
-            model.putValue(0, second, false);
-        }
-        model.setGraphMode(eManual);
-    }
-    /// Times of the vertices for a window.
-    std::vector<double> frameTimes(double xmin, double xmax)
-    {
-        model.setWindow(xmin, xmax);
-        std::vector<double> times;
-        for (const QPointF& vertex : model.parameter(0)->frame)
-            times.push_back(xmin + vertex.x());
-        return times;
-    }
-    GraphModel model;
-};
-
-GraphLayout layoutOf(GraphModel& model)
-{
-    model.activateLegend(false);
-    model.calcRanges();
-    GraphLayout layout(model, QSizeF(800, 500), 11);
-    model.setPlot(static_cast<int>(layout.plot().width()), layout.plot().height());
-    model.calcFrame();
-    return layout;
-}
-
-} // namespace
+using Test::layoutOf;
+using Test::OneTrace;
 
 class TestGraphModel : public QObject {
     Q_OBJECT
@@ -66,10 +31,6 @@ private Q_SLOTS:
     void markerValues();
     void markerText();
     void bands();
-    void zoomsAboutPointer();
-    void marksAndPans();
-    void keysMoveCursor();
-    void dragsStrips();
     void survivesAnything();
 };
 
@@ -203,6 +164,12 @@ void TestGraphModel::autoscale()
     graph.model.setYmax(4);
     graph.model.calcFrame();
     QCOMPARE(graph.model.valueRange(0), (std::array{-3.0, 4.0}));
+    graph.model.setYmin(6); // the greater one typed first
+    graph.model.calcFrame();
+    QCOMPARE(graph.model.valueRange(0), (std::array{4.0, 6.0}));
+    graph.model.setYmax(6);
+    graph.model.calcFrame();
+    QVERIFY(graph.model.valueRange(0)[0] < 6 && graph.model.valueRange(0)[1] > 6);
 
     GraphModel equal;
     equal.setActive(1, true);
@@ -319,7 +286,7 @@ void TestGraphModel::markerValues()
     QCOMPARE(*marked.difference, 10.0);
     QCOMPARE(*marked.minimum, 10.0);
     QCOMPARE(*marked.maximum, 20.0);
-    QVERIFY(std::abs(*marked.integral - 10.0) < 1e-4);             // 5 litres in each half
+    QVERIFY(std::abs(*marked.integral - 10.0) < 1e-4); // 5 litres in each half
     QVERIFY(std::abs(*marked.mean - 10.0 / 0.75) < 1e-4);
 
     model.setMarker(-20, -10); // nothing is known before the first sample
@@ -346,8 +313,10 @@ void TestGraphModel::markerText()
 void TestGraphModel::bands()
 {
     const ProfileParameter parameter;
-    const ThresholdList list{{10, QColor(Qt::green), eThresholdOk}, {20, QColor(Qt::yellow), eThresholdWarning},
-                             {15, QColor(Qt::red), eThresholdLimit}, {30, QColor(Qt::blue), eThresholdOk}};
+    const ThresholdList list{{10, QColor(Qt::green), eThresholdOk},
+                             {20, QColor(Qt::yellow), eThresholdWarning},
+                             {15, QColor(Qt::red), eThresholdLimit},
+                             {30, QColor(Qt::blue), eThresholdOk}};
     // The boundary at 15 is reached only by values that pass the one at 20, and is then the last one passed.
     const std::vector<GraphBand> metric = thresholdBands(list, ValueDecoder(parameter, &list, nullptr, std::nullopt));
     QCOMPARE(metric.size(), 1U);
@@ -359,103 +328,6 @@ void TestGraphModel::bands()
     QCOMPARE(turned.front().upper, -39.0);
     QVERIFY(std::isinf(turned.front().lower));
     QVERIFY(turned.front().colour.isValid());
-}
-
-void TestGraphModel::zoomsAboutPointer()
-{
-    OneTrace graph;
-    graph.model.setWindow(0, 100);
-    GraphInteraction hand(graph.model);
-    const GraphLayout layout = layoutOf(graph.model);
-    hand.setLayout(layout);
-    hand.moved(QPointF(layout.xOf(25), 100));
-    hand.wheel(120, {});
-    QVERIFY(std::abs(graph.model.xmin() - 2.5) < 1e-9);
-    QVERIFY(std::abs(graph.model.xmax() - 92.5) < 1e-9);
-    hand.wheel(-120, {});
-    QVERIFY(std::abs(graph.model.xmin()) < 1e-9);
-    hand.wheel(120, Qt::ShiftModifier);
-    QVERIFY(std::abs(graph.model.width() - 100) < 1e-9);
-}
-
-void TestGraphModel::marksAndPans()
-{
-    OneTrace graph;
-    graph.model.setWindow(0, 100);
-    graph.model.setGraphMode(eAutomatic);
-    GraphInteraction hand(graph.model);
-    const GraphLayout layout = layoutOf(graph.model);
-    hand.setLayout(layout);
-    QSignalSpy marker(&graph.model, &GraphModel::signalMarker), manual(&graph.model, &GraphModel::signalManMode);
-    const auto at = [&](double time) { return QPointF(layout.xOf(time), 200); };
-
-    hand.pressed(Qt::LeftButton, at(60), {});
-    QCOMPARE(marker.takeLast().at(1).toFloat(), 60.0F);
-    hand.moved(at(20));
-    hand.released(Qt::LeftButton, at(20));
-    QVERIFY(std::abs(graph.model.markerStart() - 20) < 1e-6); // swapped
-    QVERIFY(std::abs(graph.model.markerEnd() - 60) < 1e-6);
-    hand.pressed(Qt::LeftButton, at(10), Qt::ControlModifier);
-    hand.released(Qt::LeftButton, at(10));
-    QVERIFY(std::abs(graph.model.markerStart() - 10) < 1e-6);
-    hand.pressed(Qt::LeftButton, at(30), Qt::ControlModifier);
-    QVERIFY(std::abs(graph.model.markerEnd() - 30) < 1e-6);
-    hand.released(Qt::LeftButton, at(30));
-
-    QVERIFY(manual.isEmpty());
-    hand.pressed(Qt::RightButton, at(50), {});
-    QVERIFY(hand.released(Qt::RightButton, at(50))); // a click wants the menu
-    QCOMPARE(graph.model.xmin(), 0.0);
-    hand.pressed(Qt::RightButton, at(50), {});
-    hand.moved(at(40));
-    QVERIFY(!hand.released(Qt::RightButton, at(40)));
-    QVERIFY(std::abs(graph.model.xmin() - 10) < 1e-6);
-    QCOMPARE(manual.count(), 1);
-}
-
-void TestGraphModel::keysMoveCursor()
-{
-    OneTrace graph;
-    graph.model.setWindow(0, 100);
-    graph.model.setCursorPosition(50);
-    GraphInteraction hand(graph.model);
-    const GraphLayout layout = layoutOf(graph.model);
-    hand.setLayout(layout);
-    QSignalSpy cursor(&graph.model, &GraphModel::signalCursor);
-    const double pixel = 100 / layout.plot().width();
-    hand.keyPressed(Qt::Key_Right);
-    QVERIFY(std::abs(graph.model.cursorTime() - 50 - pixel) < 1e-9);
-    hand.keyPressed(Qt::Key_Shift);
-    hand.keyPressed(Qt::Key_Left);
-    QVERIFY(std::abs(graph.model.cursorTime() - 50 + 9 * pixel) < 1e-9);
-    hand.keyReleased(Qt::Key_Shift);
-    const double before = graph.model.cursorValue();
-    hand.keyPressed(Qt::Key_Up);
-    QVERIFY(std::abs(graph.model.cursorValue() - before - 120 / layout.plot().height()) < 1e-9); // of the range -10..110
-    QCOMPARE(cursor.count(), 3);
-    QVERIFY(graph.model.isCursorMoving());
-}
-
-void TestGraphModel::dragsStrips()
-{
-    GraphModel model;
-    for (const int index : {0, 2, 4})
-        model.setActive(index, true);
-    model.setDisplayMode(eSplit);
-    model.setGraphMode(eManual);
-    layoutOf(model);
-    const GraphLayout layout = layoutOf(model);
-    GraphInteraction hand(model);
-    hand.setLayout(layout);
-    QSignalSpy moved(&model, &GraphModel::signalMoveParameter);
-    hand.pressed(Qt::LeftButton, layout.handle(*model.parameter(0)) + QPointF(5, 5), {});
-    QCOMPARE(hand.draggedStrip(), 0);
-    hand.moved(layout.handle(*model.parameter(4)));
-    hand.released(Qt::LeftButton, layout.handle(*model.parameter(4)));
-    QCOMPARE(moved.takeFirst(), (QList<QVariant>{0, 4}));
-    QCOMPARE(model.shown(), (std::vector<int>{2, 4, 0}));
-    hand.pressed(Qt::LeftButton, layout.plot().center(), {});
-    QCOMPARE(hand.draggedStrip(), -1);
 }
 
 void TestGraphModel::survivesAnything()

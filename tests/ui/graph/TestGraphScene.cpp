@@ -1,3 +1,4 @@
+#include "card/CardContainer.h"
 #include "support/Places.h"
 #include "support/RecordingCanvas.h"
 #include "ui/canvas/RasterCanvas.h"
@@ -89,6 +90,9 @@ private Q_SLOTS:
     void labelsNeverOverlap_data();
     void labelsNeverOverlap();
     void legendTellsUnits();
+    void cursorTellsValues_data();
+    void cursorTellsValues();
+    void narrowMarkerTable();
     void messageIsBroken();
 };
 
@@ -213,7 +217,7 @@ void TestGraphScene::labelsNeverOverlap_data()
     QTest::addColumn<bool>("split");
     QTest::addColumn<double>("width");
     QTest::addColumn<bool>("marker");
-    for (const QSize size : {QSize(1400, 900), QSize(900, 600), QSize(480, 320)}) {
+    for (const QSize size : {QSize(1400, 900), QSize(900, 600), QSize(1400, 510), QSize(480, 320)}) {
         for (const double width : {2700.0, 86400.0, 3.0, 0.002}) {
             for (const int traces : {1, 8, 30}) {
                 for (const bool split : {false, true})
@@ -267,6 +271,77 @@ void TestGraphScene::legendTellsUnits()
     const QString expected = QString("%1").arg(value, 9, 'f', 2);
     const auto isLine = [&](const auto& entry) { return entry.second.startsWith(expected) && entry.second.endsWith(" [kPa]"); };
     QVERIFY(std::ranges::any_of(canvas.texts, isLine));
+}
+
+void TestGraphScene::cursorTellsValues_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<int>("traces");
+    QTest::addColumn<double>("time");
+    QTest::newRow("few") << QSize(900, 600) << 3 << 800.0;
+    QTest::newRow("low strips") << QSize(1400, 600) << 30 << 800.0;
+    QTest::newRow("before the first sample") << QSize(1400, 600) << 6 << -50.0;
+    QTest::newRow("at the right edge") << QSize(1400, 600) << 6 << 2590.0;
+    QTest::newRow("legend over the strips") << QSize(300, 300) << 4 << 100.0;
+}
+
+void TestGraphScene::cursorTellsValues()
+{
+    QFETCH(const QSize, size);
+    QFETCH(const int, traces);
+    QFETCH(const double, time);
+    GraphModel model;
+    fillFlight(model, traces);
+    model.setDisplayMode(eSplit);
+    model.setCursorPosition(time);
+    if (traces < 30)
+        model.setMarker(time - 60, time + 50);
+    const GraphLayout layout = GraphScene::prepare(model, size, 11, 1);
+    Test::RecordingCanvas canvas;
+    GraphScene(model, layout).draw(canvas);
+    std::vector<QRectF> labels;
+    std::size_t overlay = 0, firstLabel = 0;
+    for (std::size_t i = 0; i < canvas.texts.size(); ++i) {
+        const auto& [box, text] = canvas.texts[i];
+        if (text.contains('/') && text.startsWith("Parameter") && !text.endsWith(']'))
+            labels.push_back(box);
+        else if (text == CardContainer::time(time))
+            labels.push_back(box), firstLabel = i;
+        else if (layout.plot().contains(box.topLeft()) && text.endsWith(']'))
+            overlay = i;
+    }
+    QCOMPARE(labels.size(), static_cast<std::size_t>(traces) + 1);
+    for (const auto& [box, text] : canvas.texts)
+        QVERIFY2(!text.startsWith("dt") || std::ranges::none_of(labels, [&](const QRectF& label) { return label.intersects(box); }),
+                 qPrintable(text));
+    for (std::size_t i = 0; i < labels.size(); ++i) {
+        QVERIFY(layout.legend().isEmpty() || labels[i].right() < layout.legend().left());
+        QVERIFY(i == 0 || labels[i].top() >= labels[i - 1].bottom() - 1);
+    }
+    QVERIFY(overlay < firstLabel); // what tells the values lies above
+    double first = 0.0;
+    QVERIFY(time >= 0 || (!model.getValue(0, time, first) && model.valueAtCursor(0) == 1300.0));
+}
+
+void TestGraphScene::narrowMarkerTable()
+{
+    GraphModel model;
+    fillFlight(model, 3);
+    model.setMarker(500, 1500);
+    const auto headers = [&model](int width) {
+        const GraphLayout layout = GraphScene::prepare(model, QSizeF(width, 500), 11, 1);
+        Test::RecordingCanvas canvas;
+        GraphScene(model, layout).draw(canvas);
+        QStringList found;
+        for (const auto& [box, text] : canvas.texts) {
+            if (MarkerValues::headers().contains(text) && layout.table().contains(box.center()))
+                found << text;
+        }
+        return found;
+    };
+    QCOMPARE(headers(1200), MarkerValues::headers());
+    QCOMPARE(headers(680), MarkerValues::headers().mid(2));
+    QCOMPARE(headers(400), QStringList({"Mean"}));
 }
 
 void TestGraphScene::messageIsBroken()

@@ -59,6 +59,8 @@ void GraphInteraction::moveCursorBy(double seconds, double pixels)
     }
     mModel.setCursorMoving(true);
     mModel.moveCursor(mModel.cursorTime() + seconds, value, index);
+    if (seconds != 0)
+        mModel.keepInside(mModel.cursorTime());
 }
 
 int GraphInteraction::handleAt(const QPointF& point) const
@@ -84,10 +86,9 @@ void GraphInteraction::pressed(Qt::MouseButton button, const QPointF& point, Qt:
     mPointerTime = mLayout.timeAt(point.x());
     if (button == Qt::LeftButton)
         return pressedLeft(point, modifiers);
-    if (button == Qt::MiddleButton) {
-        mCursorDrag = true;
+    if (button == Qt::MiddleButton && !isInWords(point)) {
         mModel.setCursorMoving(true);
-        return cursorTo(point);
+        return beginCursorDrag(point);
     }
     if (button == Qt::RightButton && mPanningAllowed)
         mPan = {true, false, mModel.xmin(), mModel.xmax(), point};
@@ -95,19 +96,19 @@ void GraphInteraction::pressed(Qt::MouseButton button, const QPointF& point, Qt:
 
 void GraphInteraction::pressedLeft(const QPointF& point, Qt::KeyboardModifiers modifiers)
 {
-    const int line = mLayout.legendAt(mModel, point);
-    if (line >= 0) {
-        mPinned = mPinned == line ? -1 : line;
-        return mModel.setHighlighted(line);
-    }
-    mDragged = handleAt(point);
     const bool isShift = mShift || modifiers.testFlag(Qt::ShiftModifier);
     const bool isControl = mControl || modifiers.testFlag(Qt::ControlModifier);
-    const double time = mLayout.timeAt(point.x());
-    if (isShift) {
-        mCursorDrag = true;
-        return cursorTo(point);
+    const int line = isShift || isControl ? -1 : mLayout.legendAt(mModel, point);
+    if (line >= 0) {
+        mModel.setPinned(mModel.pinned() == line ? -1 : line);
+        return mModel.setHighlighted(line);
     }
+    if (isInWords(point))
+        return;
+    mDragged = handleAt(point);
+    const double time = mLayout.timeAt(point.x());
+    if (isShift)
+        return beginCursorDrag(point);
     if (!isControl)
         mModel.setMarker(time, time);
     else if (time < mModel.markerStart())
@@ -123,6 +124,18 @@ void GraphInteraction::sendMarker()
     Q_EMIT mModel.signalMarker(static_cast<float>(mModel.markerStart()), static_cast<float>(mModel.markerEnd()));
 }
 
+bool GraphInteraction::isInWords(const QPointF& point) const
+{
+    return mLayout.table().contains(point) || mLayout.legend().contains(point);
+}
+
+void GraphInteraction::beginCursorDrag(const QPointF& point)
+{
+    mCursorDrag = true;
+    mDragLayout = mLayout;
+    cursorTo(point);
+}
+
 void GraphInteraction::cursorTo(const QPointF& point)
 {
     const bool isSplit = mModel.displayMode() == eSplit;
@@ -130,7 +143,9 @@ void GraphInteraction::cursorTo(const QPointF& point)
     double value = mModel.cursorValue();
     if (const GraphParameter* pParameter = mModel.parameter(index))
         value = GraphLayout::valueAt(point.y(), mLayout.area(*pParameter), {pParameter->lower, pParameter->upper});
-    mModel.moveCursor(mLayout.timeAt(point.x()), value, isSplit ? index : mModel.cursorIndex());
+    const QRectF& plot = mDragLayout.plot();
+    const double x = std::clamp(point.x(), plot.left(), plot.right());
+    mModel.moveCursor(mDragLayout.timeAt(x), value, isSplit ? index : mModel.cursorIndex());
 }
 
 void GraphInteraction::moved(const QPointF& point)
@@ -149,7 +164,7 @@ void GraphInteraction::moved(const QPointF& point)
     if (mCursorDrag)
         return cursorTo(point);
     const int line = mLayout.legendAt(mModel, point);
-    mModel.setHighlighted(line >= 0 ? line : mPinned);
+    mModel.setHighlighted(line >= 0 ? line : mModel.pinned());
 }
 
 void GraphInteraction::pan(const QPointF& point)

@@ -25,7 +25,7 @@ public:
     void moved(const QPointF& point);
     /// @return true when the right button was released where it had been pressed: a menu is wanted.
     bool released(Qt::MouseButton button, const QPointF& point);
-    void left() { mModel.setHighlighted(mPinned); }
+    void left() { mModel.setHighlighted(mModel.pinned()); }
     /// @param delta of the wheel, at least 1 when it turns forward
     void wheel(int delta, Qt::KeyboardModifiers modifiers);
 
@@ -44,18 +44,21 @@ private:
     void pressedLeft(const QPointF& point, Qt::KeyboardModifiers modifiers);
     void releasedLeft(const QPointF& point);
     void pan(const QPointF& point);
+    void beginCursorDrag(const QPointF& point);
     void cursorTo(const QPointF& point);
     void moveCursorBy(double seconds, double pixels);
     [[nodiscard]] int handleAt(const QPointF& point) const;
+    /// Beside and below the plot, where the graph tells in words and no time lies under the pointer.
+    [[nodiscard]] bool isInWords(const QPointF& point) const;
     void sendMarker();
 
     GraphModel& mModel;
     GraphLayout mLayout;
+    GraphLayout mDragLayout; // in which the cursor was taken: in the center mode the window moves along with it
     QPointF mPointer;
     double mPointerTime = 0.0;
     Pan mPan;
     int mDragged = -1; // parameter whose strip is dragged
-    int mPinned = -1;  // parameter whose legend line was clicked
     bool mMarkerDrag = false;
     bool mCursorDrag = false;
     bool mPanningAllowed = true;

@@ -35,8 +35,8 @@ int longestUnit(const GraphModel& model)
 } // namespace
 
 GraphLayout::GraphLayout(const GraphModel& model, const QSizeF& size, double textSize)
-    : mWidth(size.width()), mTextSize(textSize), mLine(canvasTextSize(QStringLiteral("0"), textSize, true).height() + 2), mCharacter(canvasAdvance(textSize)),
-      mNameLength(longestName(model)), mXmin(model.xmin())
+    : mWidth(size.width()), mTextSize(textSize), mLine(canvasTextSize(QStringLiteral("0"), textSize, true).height() + 2),
+      mCharacter(canvasAdvance(textSize)), mNameLength(longestName(model)), mXmin(model.xmin())
 {
     const double top = mLine + kGap;
     double bottom = size.height() - mLine - 2 * kGap;
@@ -105,12 +105,15 @@ QRectF GraphLayout::area(const GraphParameter& parameter) const
 
 QRectF GraphLayout::legendLine(const GraphModel& model, std::size_t row) const
 {
-    if (mLegend == ELegend::eNone || row >= model.shown().size())
+    if (!model.isLegendOn() || row >= model.shown().size())
         return {};
+    if (mLegend == ELegend::eNone)
+        return overlayLine(model, row);
     if (model.displayMode() == eSplit) {
-        const QRectF strip = area(*model.parameter(model.shown()[row]));
-        if (strip.height() >= mLine)
-            return {mLegendRect.left(), strip.top(), mLegendRect.width(), mLine};
+        // Rounded, some strips have room and others none: all go by the height before that.
+        const GraphParameter& parameter = *model.parameter(model.shown()[row]);
+        if (parameter.height >= mLine)
+            return {mLegendRect.left(), area(parameter).top(), mLegendRect.width(), mLine};
     }
     // The first line is the header, and the last one says how many found no room.
     const auto line = static_cast<double>(row + 1);
@@ -119,6 +122,19 @@ QRectF GraphLayout::legendLine(const GraphModel& model, std::size_t row) const
     if (line >= (rows > room ? room - 1 : room))
         return {};
     return {mLegendRect.left(), mLegendRect.top() + line * mLine, mLegendRect.width(), mLine};
+}
+
+QRectF GraphLayout::overlayLine(const GraphModel& model, std::size_t row) const
+{
+    const GraphParameter& parameter = *model.parameter(model.shown()[row]);
+    const QRectF area = this->area(parameter);
+    // The cursor's time stands in the first line of a single graph.
+    const double line = static_cast<double>(row) + (model.isCursorOn() ? 1.0 : 0.0);
+    const double y = area.top() + (model.displayMode() == eSplit ? 2.0 : 3.0 + line * mLine);
+    if (y + mLine > area.bottom())
+        return {};
+    const QString text = shortened(parameter.label(), kLongestLabel);
+    return {area.left() + 3, y, canvasTextSize(text, mTextSize, true).width() + kSwatch + 8, mLine};
 }
 
 int GraphLayout::legendAt(const GraphModel& model, const QPointF& point) const

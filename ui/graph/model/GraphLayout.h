@@ -29,7 +29,8 @@ public:
 
     /// The area of a trace: its strip, or the plot.
     [[nodiscard]] QRectF area(const GraphParameter& parameter) const;
-    /// The line of the legend for the shown trace number `row`; empty when there is no room for it.
+    /// The line of the legend for the shown trace number `row`: beside the plot, or over it where the view is too narrow for that; empty
+    /// when there is no room for it.
     [[nodiscard]] QRectF legendLine(const GraphModel& model, std::size_t row) const;
     /// Which of the legend's lines a point lies on: the parameter's index, -1 for none.
     [[nodiscard]] int legendAt(const GraphModel& model, const QPointF& point) const;
@@ -49,11 +50,14 @@ public:
 
     static constexpr double kValueSpacing = 1.8; ///< lines of text between labels of a value axis at least
     static constexpr double kHandleX = 10.0;
+    static constexpr double kSwatch = 10.0;        ///< of a trace's colour, before its name
     static constexpr double kHandleReach = 1500.0; ///< squared distance within which a handle is hit
     static constexpr int kLongestName = 24;
+    static constexpr int kLongestLabel = 40; ///< of a name with its unit over the plot
 
 private:
     void placeLegend(const GraphModel& model, double width);
+    [[nodiscard]] QRectF overlayLine(const GraphModel& model, std::size_t row) const;
     [[nodiscard]] double axisWidth(const GraphModel& model, double height) const;
 
     double mWidth = 0.0;

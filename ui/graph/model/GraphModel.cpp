@@ -10,6 +10,7 @@ namespace {
 constexpr int kFirstParameters = 6;
 constexpr int kMostParameters = 1000;
 constexpr double kWidestWindow = 1e7; // seconds; wheel and keys stop there
+constexpr float kEdge = 0.1F;         // of the window, between a time that is kept inside and the edge
 
 constexpr GraphColour kTraceColours[] = {{1.0F, 0.0F, 0.0F}, {0.0F, 0.7F, 0.0F}, {0.0F, 0.0F, 0.7F},
                                          {0.5F, 0.5F, 0.0F}, {0.0F, 0.5F, 0.5F}, {0.5F, 0.0F, 0.5F}};
@@ -158,6 +159,23 @@ void GraphModel::setCursorPosition(double time)
     changed();
 }
 
+void GraphModel::keepInside(double time)
+{
+    const auto width = static_cast<float>(this->width());
+    const auto margin = static_cast<double>(kEdge * width);
+    double xmin = mXmin, xmax = mXmax;
+    if (xmin + margin > time) {
+        xmin = time - margin;
+        xmax = xmin + static_cast<double>(width);
+    }
+    if (xmax - margin < time) {
+        xmin = time + margin - static_cast<double>(width);
+        xmax = time + margin;
+    }
+    if (xmin != mXmin || xmax != mXmax)
+        setWindow(xmin, xmax);
+}
+
 void GraphModel::moveCursor(double time, double value, int index)
 {
     mCursorIndex = index;
@@ -275,8 +293,14 @@ void GraphModel::updateShown()
         if (mParameters[static_cast<std::size_t>(index)].active)
             mShown.push_back(index);
     }
-    if (std::ranges::find(mShown, mHighlighted) == mShown.end())
+    setPinned(mPinned);
+    if (!isShown(mHighlighted))
         mHighlighted = -1;
+}
+
+bool GraphModel::isShown(int index) const
+{
+    return std::ranges::find(mShown, index) != mShown.end();
 }
 
 const GraphParameter* GraphModel::parameter(int index) const
@@ -323,10 +347,14 @@ void GraphModel::setParameterColor(int index, float red, float green, float blue
 
 void GraphModel::setParameterName(int index, const QString& name, const QString& unit)
 {
-    if (GraphParameter* pParameter = at(index)) {
-        pParameter->name = name;
-        pParameter->unit = unit;
-    }
+    GraphParameter* pParameter = at(index);
+    if (!pParameter)
+        return;
+    // What the user chose was the parameter, not the slot that another one has taken.
+    if (pParameter->name != name && index == mPinned)
+        mPinned = mHighlighted = -1;
+    pParameter->name = name;
+    pParameter->unit = unit;
     changed();
 }
 
@@ -353,9 +381,10 @@ void GraphModel::moveParameter(int from, int to)
 
 void GraphModel::setHighlighted(int index)
 {
-    if (mHighlighted == index)
+    const int wanted = isShown(index) ? index : -1;
+    if (mHighlighted == wanted)
         return;
-    mHighlighted = index;
+    mHighlighted = wanted;
     changed();
 }
 

@@ -68,6 +68,8 @@ public:
     /// The user moved the cursor. Sends signalCursor().
     void moveCursor(double time, double value, int index);
     void setCursorMoving(bool on);
+    /// Moves the window, when it must, so that a time stands at least a tenth of the width inside either edge.
+    void keepInside(double time);
     [[nodiscard]] double cursorTime() const { return mCursorTime; }
     [[nodiscard]] double cursorValue() const { return mCursorValue; }
     [[nodiscard]] int cursorIndex() const { return mCursorIndex; }
@@ -119,9 +121,12 @@ public:
     void setBands(int index, std::vector<GraphBand> bands);
     /// The user dropped a strip on the place of another. Sends signalMoveParameter().
     void moveParameter(int from, int to);
-    /// The trace that stands out in single mode: its axis, its bands; -1 for none.
+    /// The trace that stands out in single mode: its axis, its bands; -1, as for every trace that is not shown, for none.
     void setHighlighted(int index);
     [[nodiscard]] int highlighted() const { return mHighlighted; }
+    /// The trace that stands out while the pointer is on no other; -1 for none. Forgotten when the slot shows something else.
+    void setPinned(int index) { mPinned = isShown(index) ? index : -1; }
+    [[nodiscard]] int pinned() const { return mPinned; }
 
     // Samples.
     void putValue(int index, double value, bool repaint);
@@ -129,6 +134,8 @@ public:
     void putValues(int index, std::span<const double> times, std::span<const double> values);
     void reserve(int index, std::size_t samples);
     bool getValue(int index, double time, double& value) const;
+    /// What the views tell of a trace at the cursor: the value in force, and that of the first sample where the cursor stands before it.
+    [[nodiscard]] std::optional<double> valueAtCursor(int index) const;
     void getParameterRangeX(int index, double& first, double& last) const;
     void getParameterRangeY(int index, double& lower, double& upper) const;
     [[nodiscard]] double getCurrentAverageValue() const;
@@ -172,6 +179,7 @@ private:
     void changed() { Q_EMIT signalRepaint(); }
     [[nodiscard]] GraphParameter* at(int index);
     void updateShown();
+    [[nodiscard]] bool isShown(int index) const;
     void extendToPresent();
     void scale(GraphParameter& parameter) const;
 
@@ -194,7 +202,7 @@ private:
     double mMarkerStart = 0.0, mMarkerEnd = 0.0;
     double mCursorTime = 0.0, mCursorValue = 0.0;
     int mCursorIndex = 0;
-    int mHighlighted = -1;
+    int mHighlighted = -1, mPinned = -1;
     eGraphMode mGraphMode = eAutomatic;
     eDisplayMode mDisplayMode = eSingleGraph;
     eCursorMode mCursorMode = eFloating;

@@ -9,7 +9,7 @@ namespace ZARN {
 
 namespace {
 
-constexpr double kMargin = 0.1;          // of the span of values, below and above an autoscaled trace
+constexpr double kMargin = 0.1; // of the span of values, below and above an autoscaled trace
 constexpr double kSmallestSpan = 0.001;
 
 } // namespace
@@ -55,6 +55,14 @@ bool GraphModel::getValue(int index, double time, double& value) const
         return false;
     value = pParameter->samples.value(*position);
     return true;
+}
+
+std::optional<double> GraphModel::valueAtCursor(int index) const
+{
+    const GraphParameter* pParameter = parameter(index);
+    if (!pParameter || pParameter->samples.empty())
+        return std::nullopt;
+    return pParameter->samples.value(pParameter->samples.lastAtOrBefore(mCursorTime).value_or(0));
 }
 
 void GraphModel::getParameterRangeX(int index, double& first, double& last) const
@@ -125,8 +133,10 @@ void GraphModel::recalcFrameBuffer()
 void GraphModel::scale(GraphParameter& parameter) const
 {
     if (!mAutoScaleY) {
-        parameter.lower = mYmin;
-        parameter.upper = mYmax;
+        // The user types the two one after the other, so that they may meet or pass one another.
+        const double margin = mYmin == mYmax ? kMargin * kSmallestSpan : 0.0;
+        parameter.lower = std::min(mYmin, mYmax) - margin;
+        parameter.upper = std::max(mYmin, mYmax) + margin;
         return;
     }
     const ValueRange<double>& values = parameter.samples.extremes();

@@ -1,6 +1,5 @@
 #include "ui/graph/model/GraphScene.h"
 
-#include "card/CardContainer.h"
 #include "ui/graph/model/AxisTicks.h"
 #include "ui/graph/model/GraphTables.h"
 
@@ -114,15 +113,18 @@ void GraphScene::draw(Canvas& canvas)
     drawTopMarkers(canvas);
     canvas.outline(mLayout.plot(), {faint(contrast(), 0.6)});
     drawHandles(canvas);
+    const GraphTables tables(mModel, mLayout);
+    tables.drawOverlay(canvas);
     drawCursor(canvas);
-    GraphTables(mModel, mLayout).draw(canvas);
+    tables.draw(canvas);
     drawMessage(canvas);
 }
 
 void GraphScene::drawBands(Canvas& canvas) const
 {
     const auto fill = [&](const QRectF& area, double lower, double upper, int index, const QColor& colour) {
-        const double top = GraphLayout::yOf(upper, area, mModel.valueRange(index)), bottom = GraphLayout::yOf(lower, area, mModel.valueRange(index));
+        const double top = GraphLayout::yOf(upper, area, mModel.valueRange(index)),
+                     bottom = GraphLayout::yOf(lower, area, mModel.valueRange(index));
         const QRectF band = QRectF(QPointF(area.left(), top), QPointF(area.right(), bottom)).intersected(area);
         if (!band.isEmpty())
             canvas.fillRect(band, colour);
@@ -151,7 +153,8 @@ void GraphScene::drawTimeAxis(Canvas& canvas) const
     for (const AxisTick& tick : ticks.ticks()) {
         const double x = std::floor(mLayout.xOf(tick.value));
         if (mModel.isGridOn())
-            (tick.isMajor ? major : fine).insert((tick.isMajor ? major : fine).end(), {QPointF(x, plot.top()), QPointF(x, plot.bottom() - 1)});
+            (tick.isMajor ? major : fine)
+                .insert((tick.isMajor ? major : fine).end(), {QPointF(x, plot.top()), QPointF(x, plot.bottom() - 1)});
         const QString text = ticks.timeLabel(tick.value);
         const double half = static_cast<double>(text.size()) * mLayout.character() / 2 + 2;
         if (tick.isMajor && x - half >= 0 && x + half <= mLayout.width())
@@ -174,7 +177,8 @@ void GraphScene::drawValueAxis(Canvas& canvas, const QRectF& area, int index) co
         if (y < area.top() || y >= area.bottom())
             continue;
         if (mModel.isGridOn())
-            (tick.isMajor ? major : fine).insert((tick.isMajor ? major : fine).end(), {QPointF(area.left(), y), QPointF(area.right() - 1, y)});
+            (tick.isMajor ? major : fine)
+                .insert((tick.isMajor ? major : fine).end(), {QPointF(area.left(), y), QPointF(area.right() - 1, y)});
         // A label that would hang over into the next strip is left out.
         const double half = mLayout.line() / 2;
         if (tick.isMajor && y - half >= area.top() - 1 && y + half <= area.bottom() + 1)
@@ -255,7 +259,10 @@ void GraphScene::drawMarker(Canvas& canvas) const
     const QString text = QStringLiteral("dt = %1 s").arg(end - start, 0, 'f', 3);
     const double half = static_cast<double>(text.size()) * mLayout.character() / 2 + 4;
     const double middle = std::clamp((left + right) / 2, plot.left() + half, std::max(plot.left() + half, plot.right() - half));
-    drawLabel(canvas, QPointF(middle, plot.bottom() - 4), text, Qt::AlignHCenter | Qt::AlignBottom);
+    if (mModel.displayMode() == eSplit) // where the last strip's value may stand
+        drawLabel(canvas, QPointF(clearOfTime(middle, half), plot.top() - mLayout.line() - 1), text, Qt::AlignHCenter | Qt::AlignTop);
+    else
+        drawLabel(canvas, QPointF(middle, plot.bottom() - 4), text, Qt::AlignHCenter | Qt::AlignBottom);
 }
 
 void GraphScene::drawTopMarkers(Canvas& canvas) const
@@ -299,62 +306,24 @@ void GraphScene::drawHandles(Canvas& canvas) const
     }
 }
 
-void GraphScene::drawCursor(Canvas& canvas) const
-{
-    const QRectF& plot = mLayout.plot();
-    const double x = std::floor(mLayout.xOf(mModel.cursorTime()));
-    if (!mModel.isCursorOn() || !(x >= plot.left()) || x > plot.right())
-        return;
-    const std::array line{QPointF(x, plot.top()), QPointF(x, plot.bottom() - 1)};
-    canvas.lines(line, {contrast()});
-    const QString time = CardContainer::time(mModel.cursorTime());
-    const double width = static_cast<double>(time.size()) * mLayout.character() + 12;
-    const bool isRight = x + width < plot.right();
-    const Qt::Alignment side = isRight ? Qt::AlignLeft : Qt::AlignRight;
-    drawLabel(canvas, QPointF(isRight ? x + 5 : x - 5, plot.top() + 3), time, side | Qt::AlignTop);
-    drawCursorValues(canvas, x, isRight);
-}
-
-void GraphScene::drawCursorValues(Canvas& canvas, double x, bool isRight) const
-{
-    const Qt::Alignment side = isRight ? Qt::AlignLeft : Qt::AlignRight;
-    const double place = isRight ? x + 5 : x - 5;
-    if (mModel.displayMode() == eSplit) {
-        double free = mLayout.plot().top() + mLayout.line() + 4; // below the time
-        for (const int index : mModel.shown()) {
-            const QRectF area = mLayout.area(*mModel.parameter(index));
-            double value = 0.0;
-            const double y = std::max(area.top() + 3, free);
-            if (y + mLayout.line() > area.bottom() || !mModel.getValue(index, mModel.cursorTime(), value))
-                continue;
-            const QString name = GraphLayout::shortened(mModel.parameter(index)->name, GraphLayout::kLongestName);
-            drawLabel(canvas, QPointF(place, y), name + QLatin1Char('/') + QString::number(value, 'f', 2), side | Qt::AlignTop);
-        }
-        return;
-    }
-    if (!mModel.isCursorMoving() || mModel.axisParameter() < 0)
-        return;
-    const QRectF& plot = mLayout.plot();
-    const double y = std::floor(GraphLayout::yOf(mModel.cursorValue(), plot, mModel.valueRange(mModel.axisParameter())));
-    if (y < plot.top() || y >= plot.bottom())
-        return;
-    const std::array line{QPointF(plot.left(), y), QPointF(plot.right() - 1, y)};
-    canvas.lines(line, {faint(contrast(), 0.7), 1.0, false, 3.0});
-    const double label = std::clamp(y - 2, plot.top() + 2 * mLayout.line() + 6, plot.bottom());
-    drawLabel(canvas, QPointF(place, label), QString::number(mModel.cursorValue(), 'f', 2), side | Qt::AlignBottom);
-}
-
 void GraphScene::drawMessage(Canvas& canvas) const
 {
     if (mModel.message().isEmpty())
         return;
     const QRectF& plot = mLayout.plot();
     CanvasText style{mLayout.textSize() + 2, contrast(), false, Qt::AlignHCenter | Qt::AlignVCenter, false};
-    const QStringList lines = wrapped(mModel.message(), std::max(static_cast<int>(plot.width() / canvas.textSize(QStringLiteral("x"), style).width()), 1));
-    double y = plot.center().y() - static_cast<double>(lines.size() - 1) * (mLayout.line() + 4) / 2;
+    const QStringList lines =
+        wrapped(mModel.message(), std::max(static_cast<int>(plot.width() / canvas.textSize(QStringLiteral("x"), style).width()), 1));
+    const double height = mLayout.line() + 4;
+    double y = plot.center().y() - static_cast<double>(lines.size() - 1) * height / 2, width = 0.0;
+    for (const QString& line : lines)
+        width = std::max(width, canvas.textSize(line, style).width());
+    QRectF box(0, 0, width + 2 * height, static_cast<double>(lines.size() + 1) * height);
+    box.moveCenter(plot.center());
+    canvas.fillRect(box.intersected(plot), faint(mModel.colours().background.colour(), 0.85)); // legend lines may stand there
     for (const QString& line : lines) {
         canvas.text(QPointF(plot.center().x(), y), line, style);
-        y += mLayout.line() + 4;
+        y += height;
     }
 }
 

@@ -5,13 +5,16 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
+#include <utility>
 
 namespace ZARN {
 
 namespace {
 
-constexpr double kSwatch = 10.0;
+constexpr double kSwatch = GraphLayout::kSwatch;
 constexpr int kDigits = 8; // characters of a number
+constexpr QColor kHighlight(255, 255, 255, 110);
 
 QString translated(const char* text)
 {
@@ -35,6 +38,19 @@ ValueRange<double> windowRange(const GraphModel& model, const SampleSeries& samp
     return last && first <= *last ? samples.range(first, *last + 1) : ValueRange<double>{};
 }
 
+/// Takes columns of the marker's table away until the rest has room; all of them are in the copied text. First go those that can be read
+/// from the traces. @param widths in characters; 0 for a column that is not shown
+void dropColumns(std::vector<int>& widths, int room)
+{
+    enum { eName, eFrom, eTo, eDifference, eMinimum, eMaximum, eMean, eIntegral };
+    int wanted = std::accumulate(widths.begin(), widths.end(), 0);
+    for (const std::size_t column : {eFrom, eTo, eDifference, eMinimum, eMaximum, eIntegral, eMean}) {
+        if (wanted <= room)
+            return;
+        wanted -= std::exchange(widths[column], 0);
+    }
+}
+
 } // namespace
 
 void GraphTables::draw(Canvas& canvas) const
@@ -54,9 +70,8 @@ QString GraphTables::legendText(const GraphModel& model, int index, GraphLayout:
     const QString unit = QStringLiteral(" [") + GraphLayout::shortened(parameter.unit, GraphLayout::kLongestName / 2) + QLatin1Char(']');
     QString text;
     if (kind == GraphLayout::ELegend::eCursor || kind == GraphLayout::ELegend::eFull) {
-        double value = 0.0;
-        const bool isKnown = model.getValue(index, model.cursorTime(), value);
-        text += QLatin1Char(' ') + (isKnown ? number(value, parameter.precision) : QStringLiteral("-").rightJustified(kDigits));
+        const std::optional<double> value = model.valueAtCursor(index);
+        text += QLatin1Char(' ') + (value ? number(*value, parameter.precision) : QStringLiteral("-").rightJustified(kDigits));
     }
     if (kind == GraphLayout::ELegend::eFull) {
         const ValueRange<double> range = windowRange(model, parameter.samples);
@@ -68,10 +83,8 @@ QString GraphTables::legendText(const GraphModel& model, int index, GraphLayout:
 
 void GraphTables::drawLegend(Canvas& canvas) const
 {
-    if (!mModel.isLegendOn() || mModel.nrActive() == 0)
-        return;
     if (mLayout.legendKind() == GraphLayout::ELegend::eNone)
-        return drawStripNames(canvas);
+        return;
     int missing = 0;
     double bottom = mLayout.legend().top() + mLayout.line();
     for (std::size_t row = 0; row < mModel.shown().size(); ++row) {
@@ -89,8 +102,8 @@ void GraphTables::drawLegend(Canvas& canvas) const
     }
     drawLegendHeader(canvas);
     if (missing > 0)
-        canvas.text(QPointF(mLayout.legend().left() + kSwatch + 6, bottom), translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "%1 more")).arg(missing),
-                    style(false));
+        canvas.text(QPointF(mLayout.legend().left() + kSwatch + 6, bottom),
+                    translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "%1 more")).arg(missing), style(false));
 }
 
 void GraphTables::drawLegendHeader(Canvas& canvas) const
@@ -117,7 +130,7 @@ void GraphTables::drawLegendLine(Canvas& canvas, const QRectF& line, int index, 
     const double x = line.left() + kSwatch + 6;
     if (layer == ELayer::eAreas) {
         if (index == mModel.highlighted())
-            canvas.fillRect(line, QColor(255, 255, 255, 110));
+            canvas.fillRect(line, kHighlight);
         canvas.fillRect(QRectF(line.left() + 2, line.top() + 3, kSwatch, line.height() - 6), parameter.colour.colour());
     } else if (layer == ELayer::eNames) {
         canvas.text(QPointF(x, line.top()), GraphLayout::shortened(parameter.name, GraphLayout::kLongestName), style(true));
@@ -127,25 +140,24 @@ void GraphTables::drawLegendLine(Canvas& canvas, const QRectF& line, int index, 
     }
 }
 
-void GraphTables::drawStripNames(Canvas& canvas) const
+void GraphTables::drawOverlay(Canvas& canvas) const
 {
-    double y = mLayout.plot().top() + 3;
-    for (const int index : mModel.shown()) {
-        const GraphParameter& parameter = *mModel.parameter(index);
-        const QRectF area = mLayout.area(parameter);
-        if (mModel.displayMode() == eSplit)
-            y = area.top() + 2;
-        if (y + mLayout.line() > area.bottom())
+    if (mLayout.legendKind() != GraphLayout::ELegend::eNone)
+        return;
+    QColor box = mModel.colours().labelBackground.colour();
+    box.setAlpha(210);
+    for (std::size_t row = 0; row < mModel.shown().size(); ++row) {
+        const QRectF line = mLayout.legendLine(mModel, row);
+        if (line.isEmpty())
             continue;
-        const QString text = GraphLayout::shortened(parameter.label(), 40);
-        const double width = canvas.textSize(text, style(true)).width() + kSwatch + 8;
-        const double x = area.left() + 3;
-        QColor box = mModel.colours().labelBackground.colour();
-        box.setAlpha(210);
-        canvas.fillRect(QRectF(x, y, width, mLayout.line()), box);
-        canvas.fillRect(QRectF(x + 2, y + 3, kSwatch, mLayout.line() - 6), parameter.colour.colour());
-        canvas.text(QPointF(x + kSwatch + 5, y), text, style(true));
-        y += mLayout.line();
+        const int index = mModel.shown()[row];
+        const GraphParameter& parameter = *mModel.parameter(index);
+        canvas.fillRect(line, box);
+        if (index == mModel.highlighted())
+            canvas.fillRect(line, kHighlight);
+        canvas.fillRect(QRectF(line.left() + 2, line.top() + 3, kSwatch, line.height() - 6), parameter.colour.colour());
+        canvas.text(line.topLeft() + QPointF(kSwatch + 5, 0), GraphLayout::shortened(parameter.label(), GraphLayout::kLongestLabel),
+                    style(true));
     }
 }
 
@@ -159,7 +171,8 @@ void GraphTables::drawMarkerTable(Canvas& canvas) const
     const std::vector<MarkerValues> values = mModel.markerValues();
     const std::size_t fitting = values.size() + 1 <= room ? values.size() : room - 2;
     for (std::size_t i = 0; i < fitting; ++i) {
-        rows.push_back(QStringList{GraphLayout::shortened(values[i].pParameter->label(), GraphLayout::kLongestName + 8)} + values[i].texts());
+        rows.push_back(QStringList{GraphLayout::shortened(values[i].pParameter->label(), GraphLayout::kLongestName + 8)} +
+                       values[i].texts());
         rows.back().back() += QStringLiteral(" [") + integralUnit(values[i].pParameter->unit) + QLatin1Char(']');
     }
     std::vector<int> widths(static_cast<std::size_t>(rows.front().size()), 0);
@@ -167,6 +180,7 @@ void GraphTables::drawMarkerTable(Canvas& canvas) const
         for (std::size_t i = 0; i < widths.size(); ++i)
             widths[i] = std::max(widths[i], static_cast<int>(row[static_cast<qsizetype>(i)].size()) + 2);
     }
+    dropColumns(widths, static_cast<int>((table.width() - kSwatch - 6) / mLayout.character()) + 1);
     double y = table.top();
     for (std::size_t i = 0; i < rows.size(); ++i, y += mLayout.line()) {
         if (i > 0)
@@ -175,16 +189,17 @@ void GraphTables::drawMarkerTable(Canvas& canvas) const
     }
     if (fitting < values.size())
         canvas.text(QPointF(table.left() + kSwatch + 6, y),
-                    translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "%1 more: see Copy Values")).arg(values.size() - fitting), style(false));
+                    translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "%1 more: see Copy Values")).arg(values.size() - fitting),
+                    style(false));
 }
 
 void GraphTables::drawRow(Canvas& canvas, double y, const QStringList& cells, const std::vector<int>& widths) const
 {
     double x = mLayout.table().left() + kSwatch + 6;
     for (std::size_t i = 0; i < widths.size(); ++i) {
+        if (widths[i] == 0)
+            continue;
         const double width = widths[i] * mLayout.character();
-        if (x + width > mLayout.table().right() + mLayout.character())
-            return; // columns that find no room are in the copied text
         CanvasText text = style(i == 0);
         if (i > 0)
             text.align = Qt::AlignRight | Qt::AlignTop;

@@ -11,6 +11,8 @@ public:
     GraphTables(const GraphModel& model, const GraphLayout& layout) : mModel(model), mLayout(layout) {}
 
     void draw(Canvas& canvas) const;
+    /// The legend of a view that has no room for it beside the plot.
+    void drawOverlay(Canvas& canvas) const;
 
     /// A line of the legend behind the name: the value at the cursor, the least and the greatest in the window, and the unit.
     [[nodiscard]] static QString legendText(const GraphModel& model, int index, GraphLayout::ELegend kind);
@@ -21,7 +23,6 @@ private:
     void drawLegend(Canvas& canvas) const;
     void drawLegendHeader(Canvas& canvas) const;
     void drawLegendLine(Canvas& canvas, const QRectF& line, int index, ELayer layer) const;
-    void drawStripNames(Canvas& canvas) const;
     void drawMarkerTable(Canvas& canvas) const;
     void drawRow(Canvas& canvas, double y, const QStringList& cells, const std::vector<int>& widths) const;
     [[nodiscard]] CanvasText style(bool isBold) const;

@@ -1,0 +1,223 @@
+#include "GraphFixtures.h"
+#include "ui/graph/model/GraphInteraction.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+#include <cmath>
+
+using namespace ZARN;
+using Test::layoutOf;
+using Test::OneTrace;
+
+class TestGraphInteraction : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void zoomsAboutPointer();
+    void marksAndPans();
+    void keysMoveCursor();
+    void dragsCursor();
+    void wordsAreNoTimes();
+    void legendChooses_data();
+    void legendChooses();
+    void dragsStrips();
+};
+
+void TestGraphInteraction::zoomsAboutPointer()
+{
+    OneTrace graph;
+    graph.model.setWindow(0, 100);
+    GraphInteraction hand(graph.model);
+    const GraphLayout layout = layoutOf(graph.model);
+    hand.setLayout(layout);
+    hand.moved(QPointF(layout.xOf(25), 100));
+    hand.wheel(120, {});
+    QVERIFY(std::abs(graph.model.xmin() - 2.5) < 1e-9);
+    QVERIFY(std::abs(graph.model.xmax() - 92.5) < 1e-9);
+    hand.wheel(-120, {});
+    QVERIFY(std::abs(graph.model.xmin()) < 1e-9);
+    hand.wheel(120, Qt::ShiftModifier);
+    QVERIFY(std::abs(graph.model.width() - 100) < 1e-9);
+}
+
+void TestGraphInteraction::marksAndPans()
+{
+    OneTrace graph;
+    graph.model.setWindow(0, 100);
+    graph.model.setGraphMode(eAutomatic);
+    GraphInteraction hand(graph.model);
+    const GraphLayout layout = layoutOf(graph.model);
+    hand.setLayout(layout);
+    QSignalSpy marker(&graph.model, &GraphModel::signalMarker), manual(&graph.model, &GraphModel::signalManMode);
+    const auto at = [&](double time) { return QPointF(layout.xOf(time), 200); };
+
+    hand.pressed(Qt::LeftButton, at(60), {});
+    QCOMPARE(marker.takeLast().at(1).toFloat(), 60.0F);
+    hand.moved(at(20));
+    hand.released(Qt::LeftButton, at(20));
+    QVERIFY(std::abs(graph.model.markerStart() - 20) < 1e-6); // swapped
+    QVERIFY(std::abs(graph.model.markerEnd() - 60) < 1e-6);
+    hand.pressed(Qt::LeftButton, at(10), Qt::ControlModifier);
+    hand.released(Qt::LeftButton, at(10));
+    QVERIFY(std::abs(graph.model.markerStart() - 10) < 1e-6);
+    hand.pressed(Qt::LeftButton, at(30), Qt::ControlModifier);
+    QVERIFY(std::abs(graph.model.markerEnd() - 30) < 1e-6);
+    hand.released(Qt::LeftButton, at(30));
+
+    QVERIFY(manual.isEmpty());
+    hand.pressed(Qt::RightButton, at(50), {});
+    QVERIFY(hand.released(Qt::RightButton, at(50))); // a click wants the menu
+    QCOMPARE(graph.model.xmin(), 0.0);
+    hand.pressed(Qt::RightButton, at(50), {});
+    hand.moved(at(40));
+    QVERIFY(!hand.released(Qt::RightButton, at(40)));
+    QVERIFY(std::abs(graph.model.xmin() - 10) < 1e-6);
+    QCOMPARE(manual.count(), 1);
+}
+
+void TestGraphInteraction::keysMoveCursor()
+{
+    OneTrace graph;
+    graph.model.setWindow(0, 100);
+    graph.model.setCursorPosition(50);
+    GraphInteraction hand(graph.model);
+    const GraphLayout layout = layoutOf(graph.model);
+    hand.setLayout(layout);
+    QSignalSpy cursor(&graph.model, &GraphModel::signalCursor);
+    const double pixel = 100 / layout.plot().width();
+    hand.keyPressed(Qt::Key_Right);
+    QVERIFY(std::abs(graph.model.cursorTime() - 50 - pixel) < 1e-9);
+    hand.keyPressed(Qt::Key_Shift);
+    hand.keyPressed(Qt::Key_Left);
+    QVERIFY(std::abs(graph.model.cursorTime() - 50 + 9 * pixel) < 1e-9);
+    hand.keyReleased(Qt::Key_Shift);
+    const double before = graph.model.cursorValue();
+    hand.keyPressed(Qt::Key_Up);
+    QVERIFY(std::abs(graph.model.cursorValue() - before - 120 / layout.plot().height()) < 1e-9); // of the range -10..110
+    QCOMPARE(cursor.count(), 3);
+    QVERIFY(graph.model.isCursorMoving());
+    hand.keyPressed(Qt::Key_Shift);
+    for (int i = 0; i < 100; ++i)
+        hand.keyPressed(Qt::Key_Right);
+    QVERIFY(graph.model.cursorTime() > 120); // the window comes along
+    QVERIFY(std::abs(graph.model.xmax() - graph.model.cursorTime() - 10) < 1e-3);
+}
+
+void TestGraphInteraction::dragsCursor()
+{
+    OneTrace graph;
+    graph.model.setCursorMode(eCenter);
+    graph.model.setWindow(0, 100);
+    GraphInteraction hand(graph.model);
+    const GraphLayout first = layoutOf(graph.model);
+    hand.setLayout(first);
+    hand.pressed(Qt::MiddleButton, QPointF(first.xOf(70), 200), {});
+    for (int pixel = 1; pixel <= 20; ++pixel) {
+        hand.setLayout(layoutOf(graph.model)); // each step has moved the window
+        hand.moved(QPointF(first.xOf(70) + pixel, 200));
+    }
+    QVERIFY(std::abs(graph.model.cursorTime() - 70 - 20 / first.pixelsPerSecond()) < 1e-6);
+    hand.released(Qt::MiddleButton, {});
+
+    graph.model.setCursorMode(eFloating);
+    graph.model.setWindow(0, 100);
+    hand.setLayout(layoutOf(graph.model));
+    hand.pressed(Qt::LeftButton, QPointF(2, 200), Qt::ShiftModifier); // on the labels of the axis
+    QCOMPARE(graph.model.cursorTime(), 0.0);
+    hand.moved(QPointF(5000, 200));
+    QVERIFY(std::abs(graph.model.cursorTime() - 100) < 1e-6);
+}
+
+void TestGraphInteraction::wordsAreNoTimes()
+{
+    OneTrace graph;
+    graph.model.setWindow(0, 100);
+    graph.model.setMarker(20, 30);
+    GraphInteraction hand(graph.model);
+    const GraphLayout layout = layoutOf(graph.model, QSizeF(1400, 500), true);
+    hand.setLayout(layout);
+    for (const QPointF& point : {layout.table().center(), layout.legend().center()}) {
+        hand.pressed(Qt::LeftButton, point, {});
+        hand.released(Qt::LeftButton, point);
+        hand.pressed(Qt::LeftButton, point, Qt::ShiftModifier);
+        hand.released(Qt::LeftButton, point);
+        hand.pressed(Qt::MiddleButton, point, {});
+        hand.released(Qt::MiddleButton, point);
+    }
+    QCOMPARE(graph.model.markerStart(), 20.0);
+    QCOMPARE(graph.model.markerEnd(), 30.0);
+    QCOMPARE(graph.model.cursorTime(), 0.0);
+}
+
+void TestGraphInteraction::legendChooses_data()
+{
+    QTest::addColumn<QSizeF>("size");
+    QTest::addColumn<bool>("split");
+    QTest::newRow("beside") << QSizeF(1400, 600) << false;
+    QTest::newRow("over") << QSizeF(250, 400) << false;
+    QTest::newRow("over strips") << QSizeF(250, 400) << true;
+}
+
+void TestGraphInteraction::legendChooses()
+{
+    QFETCH(const QSizeF, size);
+    QFETCH(const bool, split);
+    GraphModel model;
+    for (const int index : {0, 1, 2}) {
+        model.setActive(index, true);
+        model.setParameterName(index, QString("Oil Pressure %1").arg(index), "bar");
+    }
+    model.setDisplayMode(split ? eSplit : eSingleGraph);
+    layoutOf(model, size, true);
+    const GraphLayout layout = layoutOf(model, size, true);
+    GraphInteraction hand(model);
+    hand.setLayout(layout);
+    const QPointF line = layout.legendLine(model, 1).center(), other = layout.legendLine(model, 2).center();
+    const QPointF outside(layout.plot().right() - 1, layout.plot().bottom() - 1);
+    hand.moved(line);
+    QCOMPARE(model.highlighted(), 1);
+    hand.pressed(Qt::LeftButton, line, {});
+    hand.released(Qt::LeftButton, line);
+    hand.moved(other);
+    QCOMPARE(model.highlighted(), 2);
+    hand.moved(outside);
+    QCOMPARE(model.highlighted(), 1);
+
+    model.setParameterName(1, "Torque", "Nm"); // another parameter takes the slot
+    hand.moved(outside);
+    QCOMPARE(model.highlighted(), -1);
+    hand.pressed(Qt::LeftButton, line, {});
+    hand.released(Qt::LeftButton, line);
+    model.setActive(1, false);
+    hand.left();
+    model.setActive(1, true);
+    hand.left();
+    QCOMPARE(model.highlighted(), -1);
+    QCOMPARE(model.axisParameter(), 0);
+}
+
+void TestGraphInteraction::dragsStrips()
+{
+    GraphModel model;
+    for (const int index : {0, 2, 4})
+        model.setActive(index, true);
+    model.setDisplayMode(eSplit);
+    model.setGraphMode(eManual);
+    layoutOf(model);
+    const GraphLayout layout = layoutOf(model);
+    GraphInteraction hand(model);
+    hand.setLayout(layout);
+    QSignalSpy moved(&model, &GraphModel::signalMoveParameter);
+    hand.pressed(Qt::LeftButton, layout.handle(*model.parameter(0)) + QPointF(5, 5), {});
+    QCOMPARE(hand.draggedStrip(), 0);
+    hand.moved(layout.handle(*model.parameter(4)));
+    hand.released(Qt::LeftButton, layout.handle(*model.parameter(4)));
+    QCOMPARE(moved.takeFirst(), (QList<QVariant>{0, 4}));
+    QCOMPARE(model.shown(), (std::vector<int>{2, 4, 0}));
+    hand.pressed(Qt::LeftButton, layout.plot().center(), {});
+    QCOMPARE(hand.draggedStrip(), -1);
+}
+
+QTEST_MAIN(TestGraphInteraction)
+#include "TestGraphInteraction.moc"
