@@ -119,6 +119,8 @@ private Q_SLOTS:
     void clocks();
     void controls();
     void positionsStay();
+    void typedTimes_data();
+    void typedTimes();
     void replay();
     void withoutRecord();
     void emu();
@@ -230,6 +232,45 @@ void TestDialogData::positionsStay()
         pPosition->setValue(position);
         QCOMPARE(pPosition->value(), position); // or a key could never leave the position before
     }
+}
+
+void TestDialogData::typedTimes_data()
+{
+    QTest::addColumn<QKeySequence>("first");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<double>("seconds");
+    QTest::newRow("home") << QKeySequence(Qt::Key_Home) << "12:34:56" << 45296.0;
+    QTest::newRow("all") << QKeySequence(QKeySequence::SelectAll) << "12:34:56" << 45296.0;
+    QTest::newRow("digits only") << QKeySequence(Qt::Key_Home) << "123456" << 45296.0;
+    QTest::newRow("short") << QKeySequence(QKeySequence::SelectAll) << "1:2:03" << 3723.0;
+    QTest::newRow("short minutes") << QKeySequence(Qt::Key_Home) << "9:34:5" << 34445.0;
+}
+
+void TestDialogData::typedTimes()
+{
+    QFETCH(QKeySequence, first);
+    QFETCH(QString, typed);
+    Area area;
+    area.show();
+    QVERIFY(activate(*area.area));
+    auto* pTime = area.find<QTimeEdit>("time");
+    QTest::mouseClick(pTime, Qt::LeftButton, {}, QPoint(10, pTime->height() / 2));
+    QTest::keyClick(pTime, Qt::Key_End);
+    QTest::keySequence(pTime, first);
+    QTest::keyClicks(pTime, typed.first(3));
+    area.area->slotTableTime(60.5); // the replay goes on
+    QTest::keyClicks(pTime, typed.mid(3));
+    QCOMPARE(area.area->viewTime(), 60.5);
+    QTest::keyClick(pTime, Qt::Key_Return);
+    QTEST(area.area->viewTime(), "seconds");
+    area.area->slotTableTime(60.5);
+    QTest::keyClicks(pTime, "00:01:00");
+    area.area->slotTableTime(70.5);
+    area.take();
+    QTest::keyClick(pTime, Qt::Key_Return); // what the entry held when the typing began
+    QCOMPARE(area.take(), QString("T60 G60 F60 L60 W60 M60"));
+    area.area->slotTableTime(70.5);
+    QCOMPARE(pTime->text(), QString("00:01:10"));
 }
 
 void TestDialogData::replay()
