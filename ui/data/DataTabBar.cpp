@@ -1,5 +1,6 @@
 #include "ui/data/DataTabBar.h"
 
+#include <QMouseEvent>
 #include <QStyleOptionTab>
 #include <QStylePainter>
 
@@ -77,6 +78,13 @@ int DataTabBar::widestTab() const
     while (widest > kLeast && together() > width())
         --widest;
     return widest;
+}
+
+void DataTabBar::mousePressEvent(QMouseEvent* pEvent)
+{
+    QTabBar::mousePressEvent(pEvent);
+    if (pEvent->button() == Qt::LeftButton && tabAt(pEvent->position().toPoint()) >= 0)
+        Q_EMIT signalClicked();
 }
 
 void DataTabBar::paintEvent(QPaintEvent* /*pEvent*/)

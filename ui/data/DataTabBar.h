@@ -18,9 +18,14 @@ public:
     void setCount(int index, int count);
     [[nodiscard]] int countOf(int index) const;
 
+Q_SIGNALS:
+    /// A tab was clicked, the current one perhaps; it is the current one now.
+    void signalClicked();
+
 protected:
     [[nodiscard]] QSize tabSizeHint(int index) const override;
     [[nodiscard]] QSize minimumTabSizeHint(int index) const override;
+    void mousePressEvent(QMouseEvent* pEvent) override;
     void paintEvent(QPaintEvent* pEvent) override;
 
 private:

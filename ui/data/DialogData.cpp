@@ -24,6 +24,7 @@ namespace {
 
 constexpr int kTickMilliseconds = 20;
 constexpr QSize kModeIcon(24, 24);
+constexpr double kRounding = 1e-6; // of a slider position: the time of a position must not come back as the position before it
 
 // Who is told a new time, in this order. The view that the time comes from is not; the warnings leave the map where it is.
 constexpr EDataView kAll[] = {eViewTable, eViewGraph, eViewFaultMatrix, eViewLimits, eViewWarnings, eViewMap};
@@ -92,6 +93,8 @@ void DialogData::createTabs()
         mpTabs->setTabToolTip(i, tr(kTabs[i].title)); // where there is no room for the title
     }
     connect(mpTabs, &QTabBar::currentChanged, mpStack, &QStackedWidget::setCurrentIndex);
+    // A click is followed by keys for what it shows. Who walks along the tabs by keys goes on with them.
+    connect(mpTabs, &DataTabBar::signalClicked, mpStack, [this] { mpStack->currentWidget()->setFocus(Qt::MouseFocusReason); });
 }
 
 QWidget* DialogData::createHead()
@@ -344,7 +347,7 @@ void DialogData::updateDisplay()
     mpBar->setDateTime(mBase.isValid() ? mBase.addMSecs(milliseconds) : QDateTime());
     mpBar->setTime(timeOfDay(milliseconds));
     const double share = mEnd > mStart ? (mViewTime - mStart) / (mEnd - mStart) : 0.0;
-    mpBar->setPosition(saturatingCast<int>(share * WidgetReplayBar::kPositions));
+    mpBar->setPosition(saturatingCast<int>(share * WidgetReplayBar::kPositions + kRounding));
 }
 
 void DialogData::updateControls()

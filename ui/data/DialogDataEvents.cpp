@@ -5,6 +5,7 @@
 #include "ui/data/model/TimeOfDay.h"
 
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLocale>
 #include <QScopedValueRollback>
@@ -12,6 +13,7 @@
 #include <QVBoxLayout>
 
 #include <limits>
+#include <utility>
 
 namespace ZARN {
 
@@ -75,6 +77,7 @@ void DialogDataEvents::createTable(const QString& title)
     pHeader->setStretchLastSection(true);
     mpTable->setColumnWidth(0, kTimeWidth);
     new TableCopy(mpTable);
+    mpTable->installEventFilter(this);
     connect(mpTable, &QTableWidget::itemSelectionChanged, this, &DialogDataEvents::slotSelect);
     connect(mpTable, &QTableWidget::clicked, this, &DialogDataEvents::slotChoose);
     connect(mpTable, &QTableWidget::activated, this, &DialogDataEvents::slotChoose);
@@ -129,10 +132,47 @@ void DialogDataEvents::setTime(double time)
         return;
     const QScopedValueRollback busy(mBusy, true);
     mReported = false;
+    mTime = time;
     const int row = static_cast<int>(std::min<std::size_t>(mEvents.rowAt(time), static_cast<std::size_t>(mpTable->rowCount() - 1)));
     if (mpTable->currentRow() != row || mpTable->selectedItems().isEmpty())
         mpTable->setCurrentCell(row, 0, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-    mpTable->scrollToItem(mpTable->item(row, 0), QAbstractItemView::PositionAtCenter);
+    mUnseen = !isVisible();
+    centre();
+}
+
+void DialogDataEvents::centre()
+{
+    if (const QTableWidgetItem* pItem = mpTable->item(mpTable->currentRow(), 0))
+        mpTable->scrollToItem(pItem, QAbstractItemView::PositionAtCenter);
+}
+
+/// What is hidden has no size of its own to find the centre of.
+void DialogDataEvents::showEvent(QShowEvent* pEvent)
+{
+    QWidget::showEvent(pEvent);
+    if (std::exchange(mUnseen, false))
+        QMetaObject::invokeMethod(this, &DialogDataEvents::centre, Qt::QueuedConnection); // the layout comes before
+}
+
+/// Whether the selected event, which nobody chose, is the next one from the view time on in the direction of a key.
+bool DialogDataEvents::isAhead(int key) const
+{
+    const QTableWidgetItem* pItem = mpTable->item(mpTable->currentRow(), 0);
+    if (mReported || !pItem)
+        return false;
+    const int64_t event = pItem->data(Qt::UserRole).toLongLong(), now = wholeMilliseconds(mTime);
+    return (key == Qt::Key_Down && event > now) || (key == Qt::Key_Up && event < now);
+}
+
+bool DialogDataEvents::eventFilter(QObject* pObject, QEvent* pEvent)
+{
+    if (pObject != mpTable || pEvent->type() != QEvent::KeyPress)
+        return QWidget::eventFilter(pObject, pEvent);
+    const auto* pKey = static_cast<QKeyEvent*>(pEvent);
+    if ((pKey->modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier || !isAhead(pKey->key()))
+        return false;
+    slotSelect();
+    return true;
 }
 
 void DialogDataEvents::slotSelect()

@@ -37,6 +37,9 @@ protected:
     /// @param title of the event column @param empty what the view says when there is no event
     DialogDataEvents(const Session& session, Scan scan, const QString& title, const QString& empty, QWidget* pParent);
 
+    void showEvent(QShowEvent* pEvent) override;
+    bool eventFilter(QObject* pObject, QEvent* pEvent) override;
+
 private Q_SLOTS:
     void slotSelect();
     void slotChoose();
@@ -45,6 +48,8 @@ private:
     void createTable(const QString& title);
     void fillTable();
     void updateHint();
+    void centre();
+    [[nodiscard]] bool isAhead(int key) const;
 
     Session mSession;
     Scan mScan;
@@ -53,8 +58,10 @@ private:
     EventList mEvents;
     QTableWidget* mpTable;
     QLabel* mpHint;
+    double mTime = 0.0; ///< the view time that was told last
     bool mBusy = false;
     bool mReported = false; ///< the selected row's time was told
+    bool mUnseen = false;   ///< the row was selected while nobody saw it
 };
 
 } // namespace ZARN

@@ -16,6 +16,8 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace ZARN {
 
 namespace {
@@ -149,8 +151,24 @@ void DialogDataTable::setTime(double time)
     const QModelIndex index = mpModel->index(mpModel->rowAt(time), 0);
     const int column = mpView->horizontalScrollBar()->value();
     mpView->selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-    mpView->scrollTo(index, QAbstractItemView::PositionAtCenter);
+    mpView->horizontalScrollBar()->setValue(column);
+    mUnseen = !isVisible();
+    centre();
+}
+
+void DialogDataTable::centre()
+{
+    const int column = mpView->horizontalScrollBar()->value();
+    mpView->scrollTo(mpView->currentIndex(), QAbstractItemView::PositionAtCenter);
     mpView->horizontalScrollBar()->setValue(column); // the columns that the user looks at stay
+}
+
+/// What is hidden has no size of its own to find the centre of.
+void DialogDataTable::showEvent(QShowEvent* pEvent)
+{
+    QWidget::showEvent(pEvent);
+    if (std::exchange(mUnseen, false))
+        QMetaObject::invokeMethod(this, &DialogDataTable::centre, Qt::QueuedConnection); // the layout comes before
 }
 
 void DialogDataTable::slotSelect()

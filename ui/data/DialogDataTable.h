@@ -38,6 +38,9 @@ Q_SIGNALS:
     /// The time of the row that the user selected, in seconds.
     void signalTime(double time);
 
+protected:
+    void showEvent(QShowEvent* pEvent) override;
+
 private Q_SLOTS:
     void slotSelect();
     void slotChoose();
@@ -47,6 +50,7 @@ private:
     void createView();
     void createLiveView();
     void fill();
+    void centre();
     void sizeColumns();
     void widenColumns();
 
@@ -62,6 +66,7 @@ private:
     int mMode = 0;
     bool mBusy = false;
     bool mReported = false; ///< the selected row's time was told
+    bool mUnseen = false;   ///< the row was selected while nobody saw it
     bool mWidened = false;  ///< the columns were made wide enough for the texts of a record
 };
 

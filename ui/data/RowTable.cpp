@@ -2,6 +2,7 @@
 
 #include <QAbstractItemDelegate>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -127,7 +128,19 @@ void RowTable::scrollTo(const QModelIndex& index, ScrollHint hint)
         horizontal.setValue(horizontal.value() + cell.right() + 1 - viewport()->width());
 }
 
-QModelIndex RowTable::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
+QItemSelectionModel::SelectionFlags RowTable::selectionCommand(const QModelIndex& index, const QEvent* pEvent) const
+{
+    if (pEvent && pEvent->type() == QEvent::KeyPress) {
+        const auto* pKey = static_cast<const QKeyEvent*>(pEvent);
+        if (pKey->key() == Qt::Key_Home || pKey->key() == Qt::Key_End) {
+            const bool isMore = pKey->modifiers().testFlag(Qt::ShiftModifier);
+            return (isMore ? QItemSelectionModel::SelectCurrent : QItemSelectionModel::ClearAndSelect) | QItemSelectionModel::Rows;
+        }
+    }
+    return QAbstractItemView::selectionCommand(index, pEvent);
+}
+
+QModelIndex RowTable::moveCursor(CursorAction action, Qt::KeyboardModifiers /*modifiers*/)
 {
     const int lastRow = rows() - 1, lastColumn = mpHeader->count() - 1;
     if (lastRow < 0 || lastColumn < 0)
@@ -136,7 +149,6 @@ QModelIndex RowTable::moveCursor(CursorAction action, Qt::KeyboardModifiers modi
     if (!now.isValid())
         return model()->index(0, 0);
     int row = now.row(), column = now.column();
-    const bool isFar = modifiers.testFlag(Qt::ControlModifier);
     switch (action) {
     case MoveUp:
     case MovePrevious: --row; break;
@@ -146,8 +158,8 @@ QModelIndex RowTable::moveCursor(CursorAction action, Qt::KeyboardModifiers modi
     case MoveRight: ++column; break;
     case MovePageUp: row -= rowsAPage(); break;
     case MovePageDown: row += rowsAPage(); break;
-    case MoveHome: (isFar ? row : column) = 0; break;
-    case MoveEnd: (isFar ? row : column) = isFar ? lastRow : lastColumn; break;
+    case MoveHome: row = 0; break;
+    case MoveEnd: row = lastRow; break;
     }
     return model()->index(std::clamp(row, 0, lastRow), std::clamp(column, 0, lastColumn));
 }

@@ -29,6 +29,8 @@ public:
     [[nodiscard]] int sizeHintForColumn(int column) const override;
 
 protected:
+    /// Home and End choose a row, with Control as without it: there is nothing to do at a row that is not chosen.
+    [[nodiscard]] QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent* pEvent) const override;
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     [[nodiscard]] int horizontalOffset() const override;
     [[nodiscard]] int verticalOffset() const override;

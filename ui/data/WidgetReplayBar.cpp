@@ -7,12 +7,15 @@
 #include <QDateTime>
 #include <QDoubleSpinBox>
 #include <QEvent>
+#include <QKeyEvent>
 #include <QLCDNumber>
+#include <QLineEdit>
 #include <QSlider>
 #include <QTimeEdit>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace ZARN {
 
@@ -52,11 +55,7 @@ WidgetReplayBar::WidgetReplayBar(bool emu, QWidget* pParent)
     mpPosition->setRange(0, kPositions);
     mpPosition->setMinimumWidth(kSliderWidth);
     mpPosition->setToolTip(tr("Position in the record"));
-    mpTime->setObjectName("time");
-    mpTime->setDisplayFormat("hh:mm:ss");
-    mpTime->setFixedWidth(kEntryWidth);
-    mpTime->setKeyboardTracking(false); // no jump while half a time is typed
-    mpTime->setToolTip(tr("Time since the unit's power-up"));
+    createTime();
     createSpeed();
     auto* pLayout = new QVBoxLayout(this);
     pLayout->setContentsMargins(0, 0, 0, 0);
@@ -74,6 +73,17 @@ void WidgetReplayBar::createClocks()
     mpDateClock->setToolTip(tr("Date and time of the view, as the unit recorded it"));
     mpTimeClock = createClock("timeClock", kTimeDigits, "--:--:--.---");
     mpTimeClock->setToolTip(tr("Time since the unit's power-up"));
+}
+
+void WidgetReplayBar::createTime()
+{
+    mpTime->setObjectName("time");
+    mpTime->setDisplayFormat("hh:mm:ss");
+    mpTime->setFixedWidth(kEntryWidth);
+    mpTime->setKeyboardTracking(false); // no jump while half a time is typed
+    mpTime->setToolTip(tr("Time since the unit's power-up"));
+    mpTime->installEventFilter(this);
+    connect(mpTime->findChild<QLineEdit*>(), &QLineEdit::textEdited, this, [this] { mTyped = true; });
 }
 
 void WidgetReplayBar::createSpeed()
@@ -96,7 +106,8 @@ void WidgetReplayBar::connectControls()
     connect(mpReplay, &ReplayButton::clicked, this, &WidgetReplayBar::signalReplay);
     connect(mpStop, &ReplayButton::clicked, this, &WidgetReplayBar::signalStop);
     connect(mpPosition, &QSlider::valueChanged, this, &WidgetReplayBar::signalPosition);
-    connect(mpTime, &QTimeEdit::timeChanged, this, &WidgetReplayBar::signalTime);
+    connect(mpTime, &QTimeEdit::timeChanged, this, &WidgetReplayBar::slotTimeChanged);
+    connect(mpTime, &QTimeEdit::editingFinished, this, &WidgetReplayBar::slotTimeFinished);
     connect(mpSpeedSlider, &QSlider::valueChanged, this, &WidgetReplayBar::signalSpeedSlider);
     connect(mpSpeed, &QDoubleSpinBox::valueChanged, this, &WidgetReplayBar::signalSpeed);
 }
@@ -197,7 +208,46 @@ void WidgetReplayBar::setDateTime(const QDateTime& dateTime)
 void WidgetReplayBar::setTime(const QTime& time)
 {
     mpTimeClock->display(time.toString("hh:mm:ss.zzz"));
-    mpTime->setTime(time);
+    if (!mTyped || !mpTime->hasFocus())
+        mpTime->setTime(time);
+}
+
+void WidgetReplayBar::slotTimeChanged(const QTime& time)
+{
+    if (!mTyped) // the entry also changes at the end of a section, with half a time typed
+        Q_EMIT signalTime(time);
+}
+
+/// The time that was typed may be the one that the entry had before, which is no change of it: the view time may have gone on since.
+void WidgetReplayBar::slotTimeFinished()
+{
+    if (std::exchange(mTyped, false))
+        Q_EMIT signalTime(mpTime->time());
+    if (mpTime->hasFocus())
+        mpTime->setSelectedSection(QDateTimeEdit::HourSection); // for the next time
+}
+
+bool WidgetReplayBar::eventFilter(QObject* pObject, QEvent* pEvent)
+{
+    if (pObject == mpTime && pEvent->type() == QEvent::KeyPress)
+        return filterKey(*static_cast<QKeyEvent*>(pEvent));
+    return QWidget::eventFilter(pObject, pEvent);
+}
+
+/// The entry goes to its next section by itself when one is complete, and again at a colon: one that is typed behind a complete section
+/// must not skip the next one. Nor must a time that is typed over all of it begin in another section than the hours.
+bool WidgetReplayBar::filterKey(const QKeyEvent& event)
+{
+    const int section = mpTime->currentSection();
+    const int digitSection = std::exchange(mDigitSection, 0);
+    if (event.matches(QKeySequence::SelectAll) || event.matches(QKeySequence::MoveToStartOfLine)) {
+        mpTime->setSelectedSection(QDateTimeEdit::HourSection);
+        return true;
+    }
+    const QString text = event.text();
+    if (text.size() == 1 && text[0].isDigit())
+        mDigitSection = section;
+    return text == ":" && digitSection != 0 && digitSection != section;
 }
 
 void WidgetReplayBar::setPosition(int position)

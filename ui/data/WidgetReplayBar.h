@@ -1,10 +1,12 @@
 #pragma once
 
+#include <QTime>
 #include <QWidget>
 
 class QBoxLayout;
 class QDateTime;
 class QDoubleSpinBox;
+class QKeyEvent;
 class QLCDNumber;
 class QSlider;
 class QTimeEdit;
@@ -30,7 +32,7 @@ public:
     void setSpeed(double factor);
     /// The wall clock; dashes for an invalid one, or one that the clock has no digits for.
     void setDateTime(const QDateTime& dateTime);
-    /// The view time as a time of day.
+    /// The view time as a time of day. The entry follows when the user has finished typing into it.
     void setTime(const QTime& time);
     /// @param position 0 to kPositions
     void setPosition(int position);
@@ -48,9 +50,16 @@ Q_SIGNALS:
 protected:
     void resizeEvent(QResizeEvent* pEvent) override;
     void changeEvent(QEvent* pEvent) override;
+    bool eventFilter(QObject* pObject, QEvent* pEvent) override;
+
+private Q_SLOTS:
+    void slotTimeChanged(const QTime& time);
+    void slotTimeFinished();
 
 private:
     void createClocks();
+    void createTime();
+    bool filterKey(const QKeyEvent& event);
     void createSpeed();
     void connectControls();
     void arrange();
@@ -70,6 +79,8 @@ private:
     QBoxLayout* mpUpper;
     QBoxLayout* mpLower;
     bool mOneLine = false;
+    int mDigitSection = 0; ///< of the entry, in which the last digit was typed; 0 when the last key was none
+    bool mTyped = false;   ///< the entry holds a text of the user that is no time yet
 };
 
 } // namespace ZARN

@@ -13,10 +13,11 @@ namespace ZARN::Test {
 struct DataCycle : TestCycle {
     /// The file that begins the cycle, on 1.2.2024 at 8:00:10; power-up was at 8:00.
     RecordFileBuilder& records() { return mRecords; }
-    /// Writes the card and loads its cycle.
-    void load()
+    /// Writes the card and loads its cycle. @param dated false for a unit that never had the time
+    void load(bool dated = true)
     {
-        mRecords.dateTime(QDateTime(QDate(2024, 2, 1), QTime(8, 0, 0), Qt::UTC));
+        if (dated)
+            mRecords.dateTime(QDateTime(QDate(2024, 2, 1), QTime(8, 0, 0), Qt::UTC));
         container.readContainer(card.write());
         container.loadCycle(container.recordCycles().begin()->first, -1);
     }

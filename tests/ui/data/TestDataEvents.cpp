@@ -54,6 +54,8 @@ private Q_SLOTS:
     void rowOfTime_data();
     void rowOfTime();
     void choices();
+    void keys_data();
+    void keys();
     void manyEvents();
     void noEvents();
     void statistic_data();
@@ -122,6 +124,34 @@ void TestDataEvents::choices()
     QCOMPARE(times[2][0].toDouble(), 20.04);
 }
 
+void TestDataEvents::keys_data()
+{
+    QTest::addColumn<double>("from");
+    QTest::addColumn<Qt::Key>("key");
+    QTest::addColumn<QList<double>>("chosen");
+    QTest::newRow("down from before all") << 10.0 << Qt::Key_Down << QList<double>{20040, 30060};
+    QTest::newRow("down from between") << 25.0 << Qt::Key_Down << QList<double>{30060};
+    QTest::newRow("down from an event") << 20.04 << Qt::Key_Down << QList<double>{30060};
+    QTest::newRow("up from behind all") << 40.0 << Qt::Key_Up << QList<double>{30060, 20040};
+    QTest::newRow("up from between") << 25.0 << Qt::Key_Up << QList<double>{20040};
+    QTest::newRow("up from an event") << 30.06 << Qt::Key_Up << QList<double>{20040};
+    QTest::newRow("up from before all") << 10.0 << Qt::Key_Up << QList<double>{};
+}
+
+/// The event that is marked for a view time is chosen by no key that leads away from it.
+void TestDataEvents::keys()
+{
+    QFETCH(double, from);
+    QFETCH(Qt::Key, key);
+    Shown<DialogDataLimit> shown;
+    shown.view.setTime(from);
+    QList<double> chosen;
+    connect(&shown.view, &DialogDataLimit::signalTime, &shown.view, [&](double time) { chosen.append(std::round(time * 1000)); });
+    for (int i = 0; i < 3; ++i)
+        QTest::keyClick(shown.table(), key);
+    QTEST(chosen, "chosen");
+}
+
 void TestDataEvents::manyEvents()
 {
     Events events;
@@ -135,6 +165,15 @@ void TestDataEvents::manyEvents()
     QVERIFY(!view.findChild<QLabel*>()->isHidden());
     view.setTime(1e9);
     QCOMPARE(view.findChild<QTableWidget*>()->currentRow(), DialogDataEvents::kMaxRows - 1);
+    view.setTime(1000.0); // while it is hidden
+    view.resize(300, 700);
+    view.show();
+    const QTableWidget* pTable = view.findChild<QTableWidget*>();
+    const auto isCentred = [&] {
+        const QRect row = pTable->visualItemRect(pTable->item(pTable->currentRow(), 0));
+        return std::abs(row.center().y() - pTable->viewport()->height() / 2) <= row.height();
+    };
+    QTRY_VERIFY(isCentred());
 }
 
 void TestDataEvents::noEvents()

@@ -9,7 +9,9 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHeaderView>
+#include <QScrollBar>
 #include <QSignalSpy>
+#include <QStackedWidget>
 #include <QTableView>
 #include <QTest>
 
@@ -44,6 +46,13 @@ struct Table : Test::DataCycle {
         table->updateRecord(data());
         return *table;
     }
+    /// Rows at tenths of seconds from 100 s on.
+    void addRows(int count)
+    {
+        for (int i = 0; i < count; ++i)
+            data()->append(1, {Test::floatPayload(static_cast<float>(i)), 0, 0, 2, 0, 0, Test::ticksOf(100.0 + i * 0.1)});
+        data()->buildTimeIndex();
+    }
     RowTable* view() { return table->findChild<RowTable*>(); }
     QTableView* live() { return table->findChild<QTableView*>(); }
     QString text(int row, int column) { return view()->model()->index(row, column).data().toString(); }
@@ -67,6 +76,7 @@ private Q_SLOTS:
     void rowOfTime();
     void selection();
     void manyRows();
+    void selectedWhileHidden();
     void copy();
     void live();
     void otherProfile();
@@ -226,9 +236,7 @@ void TestDataTable::manyRows()
 {
     constexpr int kRows = 20000;
     Table table;
-    for (int i = 0; i < kRows; ++i)
-        table.data()->append(1, {Test::floatPayload(static_cast<float>(i)), 0, 0, 2, 0, 0, Test::ticksOf(100.0 + i * 0.1)});
-    table.data()->buildTimeIndex();
+    table.addRows(kRows);
     table.open();
     RowTable& view = *table.view();
     const QAbstractItemModel& model = *view.model();
@@ -244,7 +252,7 @@ void TestDataTable::manyRows()
     const auto isSeen = [&](int row) { return view.viewport()->rect().contains(view.visualRect(model.index(row, 0)).center()); };
     view.setFocus();
     QTest::keyClick(&view, Qt::Key_End, Qt::ControlModifier);
-    QCOMPARE(view.currentIndex().row(), rows - 1);
+    QCOMPARE(selected(), QList<int>{rows - 1});
     QVERIFY(isSeen(rows - 1) && !isSeen(rows - 1 - page));
     QCOMPARE(view.indexAt(view.visualRect(model.index(rows - 3, 1)).center()), model.index(rows - 3, 1));
     QVERIFY(!view.indexAt({10, (page + 1) * view.rowHeight()}).isValid());
@@ -261,12 +269,43 @@ void TestDataTable::manyRows()
     click(first + 4, Qt::ControlModifier);
     QCOMPARE(selected(), (QList<int>{first + 2, first + 3, first + 5}));
     QTest::keyClick(&view, Qt::Key_Home, Qt::ControlModifier);
-    QCOMPARE(view.currentIndex().row(), 0);
+    QCOMPARE(selected(), QList<int>{0});
+    QTest::keyClick(&view, Qt::Key_End, Qt::ShiftModifier);
+    QCOMPARE(selected().size(), rows);
+    QTest::keyClick(&view, Qt::Key_Home);
+    QCOMPARE(selected(), QList<int>{0});
     view.resize(120, 200); // narrower than the columns
     QTest::keyClick(&view, Qt::Key_Right);
     QTest::keyClick(&view, Qt::Key_Right);
     const QRect cell = view.visualRect(model.index(0, 2));
     QVERIFY(cell.left() >= 0 && view.horizontalHeader()->sectionViewportPosition(2) == cell.left());
+}
+
+void TestDataTable::selectedWhileHidden()
+{
+    Table table;
+    table.addRows(2000);
+    QStackedWidget stack;
+    stack.addWidget(new QWidget);
+    table.table.emplace(table.session);
+    stack.addWidget(&*table.table);
+    stack.resize(400, 700);
+    stack.show();
+    table.table->updateRecord(table.data());
+    table.table->setTime(200.0);
+    stack.setCurrentIndex(1);
+    const auto isCentred = [&] {
+        const int middle = table.view()->visualRect(table.view()->currentIndex()).center().y();
+        return std::abs(middle - table.view()->viewport()->height() / 2) <= table.view()->rowHeight();
+    };
+    QTRY_VERIFY(isCentred());
+    table.view()->verticalScrollBar()->setValue(7); // the user looks at other rows
+    stack.setCurrentIndex(0);
+    stack.setCurrentIndex(1);
+    QTest::qWait(20);
+    QCOMPARE(table.view()->verticalScrollBar()->value(), 7);
+    stack.removeWidget(&*table.table);
+    table.table->setParent(nullptr);
 }
 
 void TestDataTable::copy()

@@ -59,10 +59,10 @@ public:
 
 /// The data area over recording views: Table, Graph, Fault matrix, Limits, Warnings, Statistic, Map. The record lasts from 10 to 110 s.
 struct Area : Test::DataCycle {
-    explicit Area(bool emu = false, double end = 110.0)
+    explicit Area(bool emu = false, double end = 110.0, bool dated = true, double start = 10.0)
     {
-        records().addFloat(1, 10.0, 1.0F).addFloat(1, end, 1.0F);
-        load();
+        records().addFloat(1, start, 1.0F).addFloat(1, end, 1.0F);
+        load(dated);
         DataViews views;
         for (std::size_t i = 0; i < eViewCount; ++i) {
             auto* pView = new RecordingView(QString("TGFLWSM").mid(static_cast<qsizetype>(i), 1), log);
@@ -88,6 +88,23 @@ struct Area : Test::DataCycle {
     std::optional<DialogData> area;
 };
 
+/// A clock does not tell its text: another one that is given it must look the same, and an empty one must not.
+bool shows(QLCDNumber& clock, const QString& text)
+{
+    const QImage shown = clock.grab().toImage();
+    clock.display(QString());
+    const bool isEmpty = clock.grab().toImage() == shown;
+    clock.display(text);
+    return !isEmpty && clock.grab().toImage() == shown;
+}
+
+bool activate(QWidget& window)
+{
+    window.show();
+    window.activateWindow();
+    return QTest::qWaitForWindowActive(&window);
+}
+
 } // namespace
 
 /// The data area: who is told what in which order, replay, controls and map pane.
@@ -101,6 +118,9 @@ private Q_SLOTS:
     void clocks_data();
     void clocks();
     void controls();
+    void positionsStay();
+    void typedTimes_data();
+    void typedTimes();
     void replay();
     void withoutRecord();
     void emu();
@@ -108,6 +128,7 @@ private Q_SLOTS:
     void narrow_data();
     void narrow();
     void tabs();
+    void focusOfTabs();
     void realViews();
 };
 
@@ -160,22 +181,31 @@ void TestDialogData::clocks_data()
     QTest::addColumn<double>("time");
     QTest::addColumn<QTime>("timeOfDay");
     QTest::addColumn<int>("position");
-    QTest::newRow("start") << 10.0 << QTime(0, 0, 10) << 0;
-    QTest::newRow("truncated") << 43.3339 << QTime(0, 0, 43, 333) << 3333;
-    QTest::newRow("before") << -1.0 << QTime(23, 59, 59) << 0;
-    QTest::newRow("next day") << 90000.5 << QTime(1, 0, 0, 500) << 10000;
-    QTest::newRow("damage") << 1e300 << QTime(7, 12, 55, 807) << 10000; // the largest number of milliseconds
+    QTest::addColumn<QString>("date");
+    const QString none("--.--.---- --:--:--");
+    QTest::newRow("start") << 10.0 << QTime(0, 0, 10) << 0 << "01.02.2024 08:00:10";
+    QTest::newRow("truncated") << 43.3339 << QTime(0, 0, 43, 333) << 3333 << "01.02.2024 08:00:43";
+    QTest::newRow("before") << -1.0 << QTime(23, 59, 59) << 0 << "01.02.2024 07:59:59";
+    QTest::newRow("next day") << 90000.5 << QTime(1, 0, 0, 500) << 10000 << "02.02.2024 09:00:00";
+    QTest::newRow("damage") << 1e300 << QTime(7, 12, 55, 807) << 10000 << none; // the largest number of milliseconds
+    QTest::newRow("no date") << 43.3339 << QTime(0, 0, 43, 333) << 3333 << none;
 }
 
 void TestDialogData::clocks()
 {
     QFETCH(double, time);
-    Area area;
-    QCOMPARE(area.find<QLCDNumber>("dateClock")->digitCount(), 19);
+    QFETCH(QTime, timeOfDay);
+    QFETCH(QString, date);
+    Area area(false, 110.0, QString(QTest::currentDataTag()) != "no date");
+    QLCDNumber& dateClock = *area.find<QLCDNumber>("dateClock");
+    QLCDNumber& timeClock = *area.find<QLCDNumber>("timeClock");
+    QVERIFY(shows(dateClock, "--.--.---- --:--:--") && shows(timeClock, "--:--:--.---"));
     area.show();
     area.area->slotLimitTime(time);
     QTEST(area.find<QTimeEdit>("time")->time(), "timeOfDay");
     QTEST(area.find<QSlider>("position")->value(), "position");
+    QVERIFY(shows(dateClock, date));
+    QVERIFY(shows(timeClock, timeOfDay.toString("hh:mm:ss.zzz")));
 }
 
 void TestDialogData::controls()
@@ -191,6 +221,56 @@ void TestDialogData::controls()
     area.find<QDoubleSpinBox>("speed")->setValue(99.5);
     QCOMPARE(area.find<QSlider>("speedSlider")->value(), 9950);
     QCOMPARE(area.take(), QString());
+}
+
+void TestDialogData::positionsStay()
+{
+    Area area(false, 2821.3, true, 3.4);
+    area.show();
+    auto* pPosition = area.find<QSlider>("position");
+    for (int position = 1; position <= WidgetReplayBar::kPositions; ++position) {
+        pPosition->setValue(position);
+        QCOMPARE(pPosition->value(), position); // or a key could never leave the position before
+    }
+}
+
+void TestDialogData::typedTimes_data()
+{
+    QTest::addColumn<QKeySequence>("first");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<double>("seconds");
+    QTest::newRow("home") << QKeySequence(Qt::Key_Home) << "12:34:56" << 45296.0;
+    QTest::newRow("all") << QKeySequence(QKeySequence::SelectAll) << "12:34:56" << 45296.0;
+    QTest::newRow("digits only") << QKeySequence(Qt::Key_Home) << "123456" << 45296.0;
+    QTest::newRow("short") << QKeySequence(QKeySequence::SelectAll) << "1:2:03" << 3723.0;
+    QTest::newRow("short minutes") << QKeySequence(Qt::Key_Home) << "9:34:5" << 34445.0;
+}
+
+void TestDialogData::typedTimes()
+{
+    QFETCH(QKeySequence, first);
+    QFETCH(QString, typed);
+    Area area;
+    area.show();
+    QVERIFY(activate(*area.area));
+    auto* pTime = area.find<QTimeEdit>("time");
+    QTest::mouseClick(pTime, Qt::LeftButton, {}, QPoint(10, pTime->height() / 2));
+    QTest::keyClick(pTime, Qt::Key_End);
+    QTest::keySequence(pTime, first);
+    QTest::keyClicks(pTime, typed.first(3));
+    area.area->slotTableTime(60.5); // the replay goes on
+    QTest::keyClicks(pTime, typed.mid(3));
+    QCOMPARE(area.area->viewTime(), 60.5);
+    QTest::keyClick(pTime, Qt::Key_Return);
+    QTEST(area.area->viewTime(), "seconds");
+    area.area->slotTableTime(60.5);
+    QTest::keyClicks(pTime, "00:01:00");
+    area.area->slotTableTime(70.5);
+    area.take();
+    QTest::keyClick(pTime, Qt::Key_Return); // what the entry held when the typing began
+    QCOMPARE(area.take(), QString("T60 G60 F60 L60 W60 M60"));
+    area.area->slotTableTime(70.5);
+    QCOMPARE(pTime->text(), QString("00:01:10"));
 }
 
 void TestDialogData::replay()
@@ -333,6 +413,27 @@ void TestDialogData::tabs()
     narrow.show();
     QVERIFY2(narrow.tabRect(eViewStatistic).right() < 400, "all are there");
     QVERIFY2(narrow.tabRect(eViewTable).width() < narrow.tabRect(eViewLimits).width(), "the long titles give way");
+}
+
+void TestDialogData::focusOfTabs()
+{
+    Test::DataCycle cycle;
+    cycle.load();
+    DialogData area(cycle.session, DataViews::create(cycle.session, cycle.card.path()), false);
+    area.resize(1200, 700);
+    QVERIFY(activate(area));
+    auto* pTabs = area.findChild<DataTabBar*>();
+    for (int i = eViewStatistic; i >= 0; --i) {
+        area.findChild<QSlider*>("position")->setFocus();
+        QTest::mouseClick(pTabs, Qt::LeftButton, {}, pTabs->tabRect(i).center());
+        const QWidget* pView = area.findChild<QStackedWidget*>()->widget(i);
+        QVERIFY2(pView->isVisible() && pView->isAncestorOf(QApplication::focusWidget()), qPrintable(pTabs->tabText(i)));
+    }
+    pTabs->setFocus();
+    QTest::keyClick(pTabs, Qt::Key_Right);
+    QTest::keyClick(pTabs, Qt::Key_Right);
+    QCOMPARE(pTabs->currentIndex(), 2);
+    QVERIFY(pTabs->hasFocus());
 }
 
 void TestDialogData::realViews()
