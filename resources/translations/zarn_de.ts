@@ -428,6 +428,12 @@ Im Profilfeld die gewünschten Parameter ankreuzen.</translation>
         <source>Flight Report...</source>
         <translation>Flugbericht...</translation>
     </message>
+    <message>
+        <source>The graph was cleared.
+Tick a parameter in the profile panel, or choose another power cycle or flight, to fill it again.</source>
+        <translation>Der Graph wurde geleert.
+Kreuzen Sie im Profilfeld einen Parameter an oder wählen Sie einen anderen Zyklus oder Flug, um ihn wieder zu füllen.</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::DialogDataLimit</name>
@@ -806,6 +812,10 @@ Im Profilfeld die gewünschten Parameter ankreuzen.</translation>
     <message>
         <source>Select</source>
         <translation>Wählen</translation>
+    </message>
+    <message>
+        <source>This is not a number: the scale stays as it was.</source>
+        <translation>Das ist keine Zahl: die Skala bleibt, wie sie war.</translation>
     </message>
 </context>
 <context>
@@ -1386,14 +1396,6 @@ Ersetzen ?</translation>
         <translation>Kraftstoff, gesamt</translation>
     </message>
     <message>
-        <source>Time for 100 of climb [s]</source>
-        <translation>Zeit für 100 Steighöhe [s]</translation>
-    </message>
-    <message>
-        <source>Fuel for 100 of climb</source>
-        <translation>Kraftstoff für 100 Steighöhe</translation>
-    </message>
-    <message>
         <source>Take-off distance [m]</source>
         <translation>Startrollstrecke [m]</translation>
     </message>
@@ -1499,6 +1501,29 @@ Ersetzen ?</translation>
     <message>
         <source>Engine unit</source>
         <translation>Motorüberwachung</translation>
+    </message>
+    <message>
+        <source>Variant</source>
+        <translation>Variante</translation>
+    </message>
+    <message>
+        <source>Time for 100 %1 of climb</source>
+        <translation>Zeit für 100 %1 Steighöhe</translation>
+    </message>
+    <message>
+        <source>Fuel for 100 %1 of climb</source>
+        <translation>Kraftstoff für 100 %1 Steighöhe</translation>
+    </message>
+    <message>
+        <source>not found</source>
+        <translation>nicht gefunden</translation>
+    </message>
+    <message numerus="yes">
+        <source>Not shown: %n more that exceeded a limit</source>
+        <translation>
+            <numerusform>Nicht gezeigt: %n weiterer, der einen Grenzwert überschritt</numerusform>
+            <numerusform>Nicht gezeigt: %n weitere, die einen Grenzwert überschritten</numerusform>
+        </translation>
     </message>
 </context>
 <context>
