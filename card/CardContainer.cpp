@@ -164,17 +164,17 @@ bool CardContainer::loadCycle(unsigned int cycle, int flight)
         return true;
     if (flight >= static_cast<int>(loaded.flights.size()))
         return false;
-    selectFlight(loaded.flights[static_cast<std::size_t>(flight)]);
+    select(loaded.flights[static_cast<std::size_t>(flight)], true);
     return true;
 }
 
-void CardContainer::selectFlight(const RecordFlight& flight)
+void CardContainer::select(const RecordFlight& flight, bool isFlight)
 {
     mSelectedFlight = flight;
     mDateTime = flight.dateTime;
     mStartTime = flight.startTime;
     mEndTime = flight.endTime;
-    mFlightIsSelected = true;
+    mFlightIsSelected = isFlight;
     calcFlightPath();
 }
 
@@ -216,18 +216,13 @@ void CardContainer::loadFiles(const std::list<QString>& files)
 void CardContainer::recalculate(int flight)
 {
     mValues.profile().resetCoordinates();
-    mSelectedFlight = mWhole;
-    mDateTime = mWhole.dateTime;
-    mStartTime = mWhole.startTime;
-    mEndTime = mWhole.endTime;
-    mFlightIsSelected = false;
-    calcFlightPath();
+    select(mWhole, false);
     if (!mLoadedCycle)
         return;
     RecordCycle& cycle = mCycles.at(*mLoadedCycle);
     calcFlights(cycle);
     if (flight >= 0 && flight < static_cast<int>(cycle.flights.size()))
-        selectFlight(cycle.flights[static_cast<std::size_t>(flight)]);
+        select(cycle.flights[static_cast<std::size_t>(flight)], true);
 }
 
 void CardContainer::loadFile(const RecordInfo& info)

@@ -98,7 +98,8 @@ private:
     void backFillDates();
     void calcCycles();
     void loadFile(const RecordInfo& info);
-    void selectFlight(const RecordFlight& flight);
+    /// A flight of the loaded cycle, or the span of all that was loaded.
+    void select(const RecordFlight& flight, bool isFlight);
 
     const Console& mConsole;
     Progress* mpProgress;

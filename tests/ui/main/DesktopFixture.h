@@ -15,7 +15,9 @@
 #include "app/Progress.h"
 
 #include <QApplication>
+#include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QTest>
 
 #include <optional>
 
@@ -63,3 +65,15 @@ struct DesktopFixture {
     ZARN::Kernel kernel;
     std::optional<ZARN::DialogMain> window;
 };
+
+/// Waits until the work of the last run is restored.
+inline void started(ZARN::DialogMain& window)
+{
+    QVERIFY(QSignalSpy(&window, &ZARN::DialogMain::signalStarted).wait(10000));
+}
+
+template <typename Widget> bool isShown(ZARN::DialogMain& window)
+{
+    const auto* pWidget = window.findChild<Widget*>();
+    return pWidget && pWidget->isVisible();
+}

@@ -70,8 +70,6 @@ private Q_SLOTS:
 private:
     QString home() const { return mHome->path(); }
     QString card() const { return mCards.filePath("SD/Card"); }
-    /// Waits until the work of the last run is restored.
-    void started(DialogMain& window) { QVERIFY(QSignalSpy(&window, &DialogMain::signalStarted).wait(10000)); }
 
     QTemporaryDir mCards;
     std::optional<QTemporaryDir> mHome;
@@ -99,12 +97,6 @@ void finish(QWidget* pModal, const QString& folder, const QString& name, const s
         QTest::mouseClick(pWizard->button(QWizard::NextButton), Qt::LeftButton);
     beforeTheEnd();
     QTest::mouseClick(pWizard->button(QWizard::FinishButton), Qt::LeftButton);
-}
-
-template <typename Widget> bool isShown(DialogMain& window)
-{
-    const auto* pWidget = window.findChild<Widget*>();
-    return pWidget && pWidget->isVisible();
 }
 
 } // namespace

@@ -27,19 +27,12 @@ private Q_SLOTS:
 private:
     QString home() const { return mHome->path(); }
     QString card() const { return mCards.filePath("SD/Card"); }
-    void started(DialogMain& window) { QVERIFY(QSignalSpy(&window, &DialogMain::signalStarted).wait(10000)); }
 
     QTemporaryDir mCards;
     std::optional<QTemporaryDir> mHome;
 };
 
 namespace {
-
-template <typename Widget> bool isShown(DialogMain& window)
-{
-    const auto* pWidget = window.findChild<Widget*>();
-    return pWidget && pWidget->isVisible();
-}
 
 /// Whether a table in sight begins with a text.
 bool showsFirst(DialogMain& window, const QString& text)
