@@ -50,9 +50,9 @@ std::optional<std::vector<std::string>> plainFiles(const QString& path)
     return names;
 }
 
-UnreadFile unreadFile(const RecordFile& file)
+CardProblem problemOf(const RecordFile& file)
 {
-    return {QString::fromStdString(lastComponent(file.fileName)), file.failure() == RecordFile::eNotOpened ? file.systemError() : 0};
+    return {lastComponent(file.fileName), file.problem(), file.isSystemError()};
 }
 
 int64_t wholeMilliseconds(double seconds)
@@ -90,19 +90,27 @@ bool CardContainer::readContainer(const QString& path)
 
 void CardContainer::readHeaders(const std::vector<std::string>& names)
 {
-    mUnread.clear();
+    mFolderProblems.clear();
+    mLoadProblems.clear();
     for (const std::string& name : names) {
         if (isRecordFile(name)) {
             RecordFile file(mConsole, *mpProgress);
             file.readRecordInfo(mPath + "/" + QString::fromStdString(name));
             mFiles[name] = file.recordInfo();
-            if (file.failure() != RecordFile::eNoFailure)
-                mUnread.push_back(unreadFile(file));
+            if (!file.problem().isEmpty())
+                mFolderProblems.push_back(problemOf(file));
         }
         mpProgress->setProgress(0); // whole-number division of the file's number by their count: 0 until all are read
     }
-    std::sort(mUnread.begin(), mUnread.end(), [](const UnreadFile& a, const UnreadFile& b) { return a.name < b.name; });
+    joinProblems();
     mpProgress->setProgress(100);
+}
+
+void CardContainer::joinProblems()
+{
+    mProblems = mFolderProblems;
+    mProblems.insert(mProblems.end(), mLoadProblems.begin(), mLoadProblems.end());
+    std::stable_sort(mProblems.begin(), mProblems.end(), [](const CardProblem& a, const CardProblem& b) { return a.file < b.file; });
 }
 
 void CardContainer::markCycleStarts()
@@ -184,7 +192,7 @@ void CardContainer::loadFiles(const std::list<QString>& files)
     mValues.clear();
     mLoadedCycle.reset();
     mLoadError.clear();
-    mLost.clear();
+    mLoadProblems.clear();
     mFlightIsSelected = false;
     mDateTime = {};
     mStartTime = mEndTime = 0.0;
@@ -204,6 +212,7 @@ void CardContainer::loadFiles(const std::list<QString>& files)
         }
         mEndTime = info.endTime;
     }
+    joinProblems();
     calcIndex();
     calcFlightPath();
     mWhole = {};
@@ -231,10 +240,10 @@ void CardContainer::loadFile(const RecordInfo& info)
     file.setRecordInfo(info);
     if (!file.readRecordData(mData) && mLoadError.empty())
         mLoadError = info.fileName.toStdString() + ": not enough memory for its records";
-    const UnreadFile unread = unreadFile(file);
-    const auto isKnown = [&unread](const UnreadFile& other) { return other.name == unread.name; };
-    if (file.failure() != RecordFile::eNoFailure && std::none_of(mUnread.begin(), mUnread.end(), isKnown))
-        mLost.push_back(unread);
+    const CardProblem problem = problemOf(file);
+    const auto isKnown = [&problem](const CardProblem& other) { return other.file == problem.file && other.reason == problem.reason; };
+    if (!problem.reason.isEmpty() && std::none_of(mFolderProblems.begin(), mFolderProblems.end(), isKnown))
+        mLoadProblems.push_back(problem);
     mConsole.print("load Files <%s>\n", info.fileName.toUtf8().constData());
 }
 
