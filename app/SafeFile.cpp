@@ -1,5 +1,6 @@
 #include "app/SafeFile.h"
 
+#include <dirent.h>
 #include <fcntl.h>
 #include <poll.h>
 #include <sys/stat.h>
@@ -18,6 +19,8 @@ namespace ZARN {
 namespace {
 
 constexpr std::size_t gatherSize = 256 * 1024;
+constexpr char temporaryStart[] = ".zarn-";
+constexpr char temporaryEnd[] = ".tmp";
 
 #ifdef O_PATH
 constexpr int directoryFlags = O_PATH | O_DIRECTORY | O_CLOEXEC;
@@ -55,9 +58,24 @@ std::string temporaryName()
     struct timespec now = {};
     ::clock_gettime(CLOCK_REALTIME, &now);
     std::array<char, 64> name;
-    std::snprintf(name.data(), name.size(), ".zarn-%lx-%lx-%x.tmp", static_cast<unsigned long>(::getpid()),
-                  static_cast<unsigned long>(now.tv_nsec), counter++);
+    std::snprintf(name.data(), name.size(), "%s%lx-%lx-%x%s", temporaryStart, static_cast<unsigned long>(::getpid()),
+                  static_cast<unsigned long>(now.tv_nsec), counter++, temporaryEnd);
     return name.data();
+}
+
+/// Whether no process has this file open. A file system that cannot tell keeps it.
+bool isAbandoned(int directory, const char* name)
+{
+#ifdef F_SETLEASE
+    const int descriptor = ::openat(directory, name, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+    if (descriptor < 0)
+        return false;
+    const bool isOurs = ::fcntl(descriptor, F_SETLEASE, F_WRLCK) == 0; // granted only for a file that is open nowhere else
+    ::close(descriptor);
+    return isOurs;
+#else
+    return directory < 0 && !name;
+#endif
 }
 
 /// Calls `create(name)` with fresh names until one is not taken. @return the name, empty with errno set when it failed.
@@ -176,6 +194,8 @@ bool SafeFile::openTemporary(const std::string& target, const Replaced* replaced
     if (mTargetName.empty())
         return fail(EISDIR);
     mDirectory = ::open(folder.empty() ? "." : folder.c_str(), directoryFlags);
+    if (mDirectory >= 0)
+        removeAbandoned();
     if (mDirectory < 0 || (!openUnnamed() && !openNamed()))
         return fail(errno);
     if (!replaced)
@@ -184,6 +204,24 @@ bool SafeFile::openTemporary(const std::string& target, const Replaced* replaced
     if ((replaced->owner != ::geteuid() || replaced->group != ::getegid()) && ::fchown(mDescriptor, replaced->owner, replaced->group) != 0)
         errno = 0;
     return ::fchmod(mDescriptor, replaced->mode) == 0 || fail(errno);
+}
+
+/// Removes the temporary files that killed processes left beside the target.
+void SafeFile::removeAbandoned() const
+{
+    const int folder = ::openat(mDirectory, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    DIR* pFolder = folder < 0 ? nullptr : ::fdopendir(folder);
+    if (!pFolder) {
+        if (folder >= 0)
+            ::close(folder);
+        return;
+    }
+    while (const dirent* pEntry = ::readdir(pFolder)) {
+        const std::string_view name = pEntry->d_name;
+        if (name.starts_with(temporaryStart) && name.ends_with(temporaryEnd) && isAbandoned(mDirectory, pEntry->d_name))
+            ::unlinkat(mDirectory, pEntry->d_name, 0);
+    }
+    ::closedir(pFolder);
 }
 
 bool SafeFile::openUnnamed()
@@ -266,7 +304,13 @@ bool SafeFile::commit()
         return false;
     if (mDirectory < 0)
         return closeFile();
-    return checkSize() && nameTemporary() && closeFile() && replaceTarget();
+    if (!checkSize() || !nameTemporary())
+        return false;
+    const int held = ::dup(mDescriptor); // until it has its name: others remove what nobody has open
+    const bool done = closeFile() && replaceTarget();
+    if (held >= 0)
+        ::close(held);
+    return done;
 }
 
 /// What was written must be on disk, all of it, before it may take the old file's place.

@@ -10,8 +10,6 @@ namespace ZARN {
 
 namespace {
 
-using Encoding = QStringConverter::Encoding;
-
 /// The walk over the markup of one text.
 class Scanner {
 public:
@@ -19,14 +17,19 @@ public:
 
     bool run()
     {
-        while ((mPosition = mText.find('<', mPosition)) != std::string_view::npos) {
-            if (!markup())
+        for (std::size_t next = 0; (next = mText.find('<', mPosition)) != std::string_view::npos;) {
+            countText(mText.substr(mPosition, next - mPosition));
+            mPosition = next;
+            if (!markup() || mNodes > XmlGuard::maxNodes)
                 return false;
         }
-        return mDepth == 0 && mElements > 0;
+        return mDepth == 0 && mHasElement;
     }
 
 private:
+    /// Blanks between elements make no node.
+    void countText(std::string_view text) { mNodes += text.find_first_not_of(" \t\r\n") != std::string_view::npos; }
+
     bool markup()
     {
         const std::string_view rest = mText.substr(mPosition);
@@ -47,29 +50,32 @@ private:
         if (found == std::string_view::npos)
             return false;
         mPosition = found + end.size();
+        ++mNodes;
         return true;
     }
 
     bool tag(std::string_view text)
     {
-        const std::size_t end = tagEnd(text);
+        std::size_t attributes = 0;
+        const std::size_t end = tagEnd(text, attributes);
         if (end == std::string_view::npos)
             return false;
         mPosition += end + 1;
         if (text[1] == '/')
             return mDepth-- > 0;
-        if (++mElements > XmlGuard::maxElements || mDepth >= XmlGuard::maxDepth)
+        if (mDepth >= XmlGuard::maxDepth)
             return false;
+        mHasElement = true;
+        mNodes += 1 + attributes;
         if (text[end - 1] != '/')
             ++mDepth;
         return true;
     }
 
     /// The position of the ">" that ends the tag; one within a quoted value does not. Nothing when there are too many values.
-    static std::size_t tagEnd(std::string_view text)
+    static std::size_t tagEnd(std::string_view text, std::size_t& values)
     {
         std::size_t position = 1;
-        std::size_t values = 0;
         while ((position = text.find_first_of("\"'>", position)) != std::string_view::npos && text[position] != '>') {
             position = text.find(text[position], position + 1);
             if (position == std::string_view::npos || ++values > XmlGuard::maxAttributes)
@@ -82,7 +88,8 @@ private:
     std::string_view mText;
     std::size_t mPosition = 0;
     std::size_t mDepth = 0;
-    std::size_t mElements = 0;
+    std::size_t mNodes = 0;
+    bool mHasElement = false;
 };
 
 /// The name in the XML declaration's encoding="..."; empty when there is none.
@@ -102,17 +109,16 @@ std::string_view declaredName(std::string_view bytes)
     return text.substr(open + 1, text.find(text[open], open + 1) - open - 1);
 }
 
-/// Nothing when the file names an encoding that is not supported, or one that its first bytes contradict.
-std::optional<Encoding> encodingOf(std::string_view bytes)
+/// By the first bytes, the declaration or, without either, UTF-8. Not valid for a name that is not known.
+QStringDecoder decoderOf(std::string_view bytes)
 {
+    // Stateless, so that a character cut off by the end of the file is an error too.
+    constexpr auto flags = QStringConverter::Flag::Stateless;
     const QByteArrayView start(bytes.data(), static_cast<qsizetype>(std::min<std::size_t>(bytes.size(), 4)));
     if (const auto recognised = QStringConverter::encodingForData(start, u'<'))
-        return recognised;
-    const std::string_view name = declaredName(bytes);
-    if (name.empty())
-        return Encoding::Utf8;
-    const auto declared = QStringConverter::encodingForName(std::string(name).c_str());
-    return declared == Encoding::Utf8 || declared == Encoding::Latin1 ? declared : std::nullopt;
+        return QStringDecoder(*recognised, flags);
+    const std::string name(declaredName(bytes));
+    return name.empty() ? QStringDecoder(QStringConverter::Utf8, flags) : QStringDecoder(name.c_str(), flags);
 }
 
 } // namespace
@@ -121,13 +127,11 @@ std::optional<QString> XmlGuard::pass(std::string_view fileBytes)
 {
     if (fileBytes.size() > maxFileSize)
         return std::nullopt;
-    const auto encoding = encodingOf(fileBytes);
-    if (!encoding)
+    QStringDecoder decoder = decoderOf(fileBytes);
+    if (!decoder.isValid())
         return std::nullopt;
-    // Stateless, so that a character cut off by the end of the file is an error too.
-    QStringDecoder decoder(*encoding, QStringConverter::Flag::Stateless);
     const QString text = decoder(QByteArrayView(fileBytes.data(), static_cast<qsizetype>(fileBytes.size())));
-    if (decoder.hasError())
+    if (decoder.hasError() || static_cast<std::size_t>(text.size()) > maxMemory / sizeof(QChar))
         return std::nullopt;
     const QByteArray utf8 = text.toUtf8();
     if (!accepts(std::string_view(utf8.data(), static_cast<std::size_t>(utf8.size()))))

@@ -1,15 +1,18 @@
 #include "card/CardContainer.h"
 
 #include "app/Console.h"
+#include "app/NativePath.h"
 #include "app/Progress.h"
 #include "card/FlightDetector.h"
 #include "card/record/RecordFile.h"
+#include "profile/MetricUnits.h"
 #include "vesk/base/Timer.h"
 
-#include <QFile>
+#include <QDir>
 
 #include <algorithm>
 #include <filesystem>
+#include <new>
 
 namespace ZARN {
 
@@ -28,31 +31,35 @@ bool isRecordFile(const std::string& name)
     return ending == "CAN" || ending == "can" || ending == "xcb";
 }
 
-std::string lastComponent(const QString& path)
+QString lastComponent(const QString& path)
 {
-    return path.mid(path.lastIndexOf('/') + 1).toStdString();
+    return path.mid(path.lastIndexOf('/') + 1);
 }
 
 /// The names of a folder's plain files. Hidden ones are left out: some systems leave such companions of real files on cards.
-std::optional<std::vector<std::string>> plainFiles(const QString& path)
-{
-    std::error_code error;
-    std::filesystem::directory_iterator entry(QFile::encodeName(path).toStdString(), error);
-    if (error)
-        return {};
+struct Listing {
+    explicit Listing(const QString& path);
     std::vector<std::string> names;
-    for (; entry != std::filesystem::directory_iterator(); entry.increment(error)) {
-        std::error_code ignored;
+    std::error_code openError;
+    std::error_code readError; ///< why the names are not all
+};
+
+Listing::Listing(const QString& path)
+{
+    std::filesystem::directory_iterator entry(toNativePath(path), openError);
+    if (openError)
+        return;
+    for (; entry != std::filesystem::directory_iterator(); entry.increment(readError)) {
+        std::error_code error; // of a file that is there and cannot be asked: reading it will say why
         const std::string name = entry->path().filename().string();
-        if (!name.starts_with('.') && entry->is_regular_file(ignored))
+        if (!name.starts_with('.') && (entry->is_regular_file(error) || error))
             names.push_back(name);
     }
-    return names;
 }
 
 CardProblem problemOf(const RecordFile& file)
 {
-    return {lastComponent(file.fileName), file.problem(), file.isSystemError()};
+    return {toNativePath(lastComponent(file.fileName)), file.problem(), file.isSystemError()};
 }
 
 int64_t wholeMilliseconds(double seconds)
@@ -73,15 +80,21 @@ CardContainer& CardContainer::instance()
     return container;
 }
 
-bool CardContainer::readContainer(const QString& path)
+bool CardContainer::readContainer(const QString& folder)
 {
-    const auto names = plainFiles(path);
-    if (!names)
+    QString path = folder;
+    while (path.size() > 1 && path.endsWith('/'))
+        path.chop(1);
+    const Listing listing(path);
+    if (listing.openError)
         return false;
     mPath = path;
     mFiles.clear();
-    mConsole.print("CardContainer::readContainer: Path <%s> NrFiles %d\n", path.toUtf8().constData(), static_cast<int>(names->size()));
-    readHeaders(*names);
+    mConsole.print("CardContainer::readContainer: Path <%s> NrFiles %d\n", path.toUtf8().constData(), static_cast<int>(listing.names.size()));
+    readHeaders(listing.names);
+    if (listing.readError)
+        mFolderProblems.push_back({{}, tr("it cannot be listed to its end: %1").arg(qt_error_string(listing.readError.value())), true});
+    joinProblems();
     markCycleStarts();
     backFillDates();
     calcCycles();
@@ -95,14 +108,13 @@ void CardContainer::readHeaders(const std::vector<std::string>& names)
     for (const std::string& name : names) {
         if (isRecordFile(name)) {
             RecordFile file(mConsole, *mpProgress);
-            file.readRecordInfo(mPath + "/" + QString::fromStdString(name));
+            file.readRecordInfo(mPath + "/" + fromNativePath(name));
             mFiles[name] = file.recordInfo();
             if (!file.problem().isEmpty())
                 mFolderProblems.push_back(problemOf(file));
         }
         mpProgress->setProgress(0); // whole-number division of the file's number by their count: 0 until all are read
     }
-    joinProblems();
     mpProgress->setProgress(100);
 }
 
@@ -144,13 +156,17 @@ void CardContainer::calcCycles()
         if (cycle.files.empty())
             cycle.dateTime = info.dateTime;
         cycle.files.push_back(info);
-        cycle.endTime = info.endTime;
+        if (info.samples > 0)
+            cycle.endTime = info.endTime;
     }
 }
 
 QString CardContainer::name() const
 {
-    return QString::fromStdString(lastComponent(mPath));
+    if (mPath.isEmpty())
+        return {};
+    const QString full = QDir::cleanPath(QDir(mPath).absolutePath()); // "." has a name too
+    return full == "/" ? full : lastComponent(full);
 }
 
 bool CardContainer::loadCycle(unsigned int cycle, int flight)
@@ -196,13 +212,31 @@ void CardContainer::loadFiles(const std::list<QString>& files)
     mFlightIsSelected = false;
     mDateTime = {};
     mStartTime = mEndTime = 0.0;
+    try {
+        readRecords(files);
+        calcIndex();
+    } catch (const std::bad_alloc&) {
+        mData.clear();
+        mLoadError = name().toStdString() + ": not enough memory for its records";
+    }
+    joinProblems();
+    calcFlightPath();
+    mWhole = {};
+    mWhole.dateTime = mDateTime;
+    mWhole.startTime = mStartTime;
+    mWhole.endTime = mEndTime;
+    mSelectedFlight = mWhole;
+}
+
+void CardContainer::readRecords(const std::list<QString>& files)
+{
     bool first = true;
     for (const QString& path : files) {
-        const auto found = mFiles.find(lastComponent(path));
+        const auto found = mFiles.find(toNativePath(lastComponent(path)));
         if (found == mFiles.end())
             continue;
         const RecordInfo& info = found->second;
-        loadFile(info);
+        const double readUntil = loadFile(info);
         if (first) {
             mStartTime = info.startTime;
             mDateTime = info.dateTime;
@@ -210,16 +244,9 @@ void CardContainer::loadFiles(const std::list<QString>& files)
                 mConsole.print("date valid %d\n", 1);
             first = false;
         }
-        mEndTime = info.endTime;
+        // A file without records ends nothing: a unit may open its next file as power goes.
+        mEndTime = info.samples > 0 ? info.endTime : std::max(mEndTime, readUntil);
     }
-    joinProblems();
-    calcIndex();
-    calcFlightPath();
-    mWhole = {};
-    mWhole.dateTime = mDateTime;
-    mWhole.startTime = mStartTime;
-    mWhole.endTime = mEndTime;
-    mSelectedFlight = mWhole;
 }
 
 void CardContainer::recalculate(int flight)
@@ -234,8 +261,9 @@ void CardContainer::recalculate(int flight)
         select(cycle.flights[static_cast<std::size_t>(flight)], true);
 }
 
-void CardContainer::loadFile(const RecordInfo& info)
+double CardContainer::loadFile(const RecordInfo& info)
 {
+    const uint32_t before = mData.count();
     RecordFile file(mConsole, *mpProgress);
     file.setRecordInfo(info);
     if (!file.readRecordData(mData) && mLoadError.empty())
@@ -245,6 +273,7 @@ void CardContainer::loadFile(const RecordInfo& info)
     if (!problem.reason.isEmpty() && std::none_of(mFolderProblems.begin(), mFolderProblems.end(), isKnown))
         mLoadProblems.push_back(problem);
     mConsole.print("load Files <%s>\n", info.fileName.toUtf8().constData());
+    return mData.count() > before ? file.endTime : 0.0;
 }
 
 void CardContainer::calcIndex()
@@ -266,12 +295,18 @@ void CardContainer::calcFlights(RecordCycle& cycle)
 
 void CardContainer::calcFlightStatistic(RecordFlight& flight)
 {
+    const MetricUnits metric(mValues.profile());
     ZARN::calcFlightStatistic(mValues, flight);
 }
 
 void CardContainer::calcFlightPath()
 {
-    mFlightPath.build(mValues);
+    try {
+        mFlightPath.build(mValues);
+    } catch (const std::bad_alloc&) {
+        mFlightPath.clear();
+        mLoadError = name().toStdString() + ": not enough memory for its flight path";
+    }
     if (mFlightIsSelected)
         mFlightPath.crop(mStartTime, mEndTime);
 }

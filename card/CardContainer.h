@@ -6,6 +6,8 @@
 #include "card/RecordCycle.h"
 #include "card/Resampling.h"
 
+#include <QCoreApplication>
+
 #include <list>
 #include <map>
 
@@ -16,6 +18,8 @@ class Progress;
 /// The owner of a card's data: the files of a card folder, the power cycles that they form, and the records of the cycle
 /// that is loaded. The desktop program has one, reached by instance(); tests and the batch program make their own.
 class CardContainer {
+    Q_DECLARE_TR_FUNCTIONS(ZARN::CardContainer)
+
 public:
     CardContainer(const Console& console, Profile& profile, Progress& progress);
     CardContainer(const CardContainer&) = delete;
@@ -27,8 +31,8 @@ public:
     /// Forgets the files; the loaded data stays.
     void clear() { mFiles.clear(); }
     /// Reads the headers of a card folder's record files and groups them into cycles. @return false, changing nothing, when
-    /// the folder does not exist or cannot be listed.
-    bool readContainer(const QString& path);
+    /// the folder does not exist or cannot be listed. Separators at the path's end are dropped.
+    bool readContainer(const QString& folder);
 
     /// The files by name, in byte order.
     [[nodiscard]] const std::map<std::string, RecordInfo>& recordFiles() const { return mFiles; }
@@ -45,7 +49,7 @@ public:
     void recalculate(int flight);
     /// Loads the records of files of this card, given by name or path, replacing what was loaded.
     void loadFiles(const std::list<QString>& files);
-    /// Which file the memory did not suffice for in the last load; else empty. What cannot be read is said on the console, and below.
+    /// What the memory did not suffice for in the last load; else empty. What cannot be read is said on the console, and below.
     [[nodiscard]] const std::string& loadError() const { return mLoadError; }
     /// What is wrong with the card, as far as the last readContainer and the last load together found, by file name.
     [[nodiscard]] const std::vector<CardProblem>& problems() const { return mProblems; }
@@ -92,7 +96,9 @@ private:
     void markCycleStarts();
     void backFillDates();
     void calcCycles();
-    void loadFile(const RecordInfo& info);
+    void readRecords(const std::list<QString>& files);
+    /// @return the latest time read, of this file and those before; 0 when it held no record.
+    double loadFile(const RecordInfo& info);
     void joinProblems();
     /// A flight of the loaded cycle, or the span of all that was loaded.
     void select(const RecordFlight& flight, bool isFlight);

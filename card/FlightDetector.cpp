@@ -1,5 +1,7 @@
 #include "card/FlightDetector.h"
 
+#include "profile/MetricUnits.h"
+
 namespace ZARN {
 
 namespace {
@@ -52,6 +54,7 @@ std::vector<RecordFlight> FlightDetector::detect(const QDateTime& dateTime) cons
 {
     std::vector<RecordFlight> flights;
     Profile& profile = mValues.profile();
+    const MetricUnits metric(profile); // the thresholds are km/h
     const ProfileParameter parameter = profile.getParameterFromZarnType("GroundSpeed");
     const RecordChannel* pChannel = mValues.channel(parameter);
     if (!pChannel)

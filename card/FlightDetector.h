@@ -7,7 +7,7 @@
 
 namespace ZARN {
 
-/// Finds the flights of the loaded data from the ground speed and computes each one's tow statistic.
+/// Finds the flights of the loaded data from the ground speed and computes each one's tow statistic; both in metric units.
 class FlightDetector {
 public:
     explicit FlightDetector(const CycleValues& values) : mValues(values) {}
@@ -20,7 +20,7 @@ private:
     const CycleValues& mValues;
 };
 
-/// Fills a flight's tow statistic from the samples between its start and end time.
+/// Fills a flight's tow statistic from the samples between its start and end time, in the profile's unit.
 void calcFlightStatistic(const CycleValues& values, RecordFlight& flight);
 
 } // namespace ZARN

@@ -19,7 +19,7 @@ constexpr std::size_t kRun = 512; // samples decoded at once
 /// How many of the times, from the first on, are no damage.
 std::size_t soundTimes(std::span<const double> times)
 {
-    return static_cast<std::size_t>(std::find_if(times.begin(), times.end(), [](double time) { return time > FlightPath::kLatestTime; }) - times.begin());
+    return static_cast<std::size_t>(std::find_if(times.begin(), times.end(), [](double time) { return time > kLatestTime; }) - times.begin());
 }
 
 std::vector<Sample> collect(const CycleValues& values, const char* key)
@@ -49,30 +49,56 @@ std::vector<Sample> collect(const CycleValues& values, const char* key)
     return samples;
 }
 
-/// A series that has ended holds its last value; an empty one gives 0.
-double valueAt(const std::vector<Sample>& series, std::size_t gridPoint)
+/// One of the path's series at every grid point.
+class PathSeries {
+public:
+    PathSeries(const CycleValues& values, const char* key) : mSamples(collect(values, key)), mGrid(FlightPath::kStep, mSamples)
+    {
+        if (mSamples.size() == 1)
+            mLast = mSamples.front().value;
+    }
+    PathSeries(const PathSeries&) = delete; // the grid refers to the samples
+    PathSeries& operator=(const PathSeries&) = delete;
+
+    /// Grid points of its own; a single sample stands for one.
+    [[nodiscard]] std::size_t size() const { return mSamples.size() == 1 ? 1 : mGrid.size(); }
+    /// A series that has ended holds its last value; an empty one gives 0.
+    double value(std::size_t point)
+    {
+        if (point < mGrid.size())
+            mLast = mGrid.value(point);
+        return mLast;
+    }
+
+private:
+    std::vector<Sample> mSamples;
+    GridSeries mGrid;
+    double mLast = 0.0;
+};
+
+bool isFix(double degrees)
 {
-    if (series.empty())
-        return 0.0;
-    return series[std::min(gridPoint, series.size() - 1)].value;
+    return std::fabs(degrees) > kSmallestDegrees;
 }
 
 } // namespace
 
 void FlightPath::build(const CycleValues& values)
 {
-    mPoints.clear();
+    mPoints = {};
     values.profile().resetCoordinates();
-    enum { eLatitude, eLongitude, eAltitude, eGroundSpeed, eTrack, eSeries };
-    static constexpr std::array keys{"Latitude", "Longitude", "Altitude", "GroundSpeed", "Track"};
-    std::array<std::vector<Sample>, eSeries> series;
-    for (std::size_t i = 0; i < series.size(); ++i)
-        resampleData(kStep, collect(values, keys[i]), series[i]);
-    const std::size_t length = std::max(series[eLatitude].size(), series[eLongitude].size());
+    // Each evaluated in this order: positions pass a filter with a memory.
+    PathSeries latitude(values, "Latitude");
+    PathSeries longitude(values, "Longitude");
+    PathSeries altitude(values, "Altitude");
+    PathSeries groundSpeed(values, "GroundSpeed");
+    PathSeries track(values, "Track");
+    const std::size_t length = std::max(latitude.size(), longitude.size());
+    mPoints.reserve(length); // not by doubling: the points of three weeks are many
     for (std::size_t i = 0; i < length; ++i) {
-        const FlightPathPoint point{static_cast<double>(i) * kStep,    valueAt(series[eLatitude], i),    valueAt(series[eLongitude], i),
-                                    valueAt(series[eAltitude], i), valueAt(series[eGroundSpeed], i), valueAt(series[eTrack], i)};
-        if (std::fabs(point.latitude) > kSmallestDegrees && std::fabs(point.longitude) > kSmallestDegrees)
+        const FlightPathPoint point{static_cast<double>(i) * kStep, latitude.value(i),    longitude.value(i),
+                                    altitude.value(i),              groundSpeed.value(i), track.value(i)};
+        if (isFix(point.latitude) && isFix(point.longitude))
             mPoints.push_back(point);
     }
 }

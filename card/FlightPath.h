@@ -16,12 +16,11 @@ struct FlightPathPoint {
     double track;
 };
 
-/// The flight path of the loaded data on a half-second grid, in ascending time.
+/// The flight path of the loaded data on a half-second grid, in ascending time. Leaves out recorded times that are damage, so
+/// that no grid can grow without bound.
 class FlightPath {
 public:
     static constexpr double kStep = 0.5;
-    /// A recorded time above this is damage; the path leaves it out, so that no grid can grow without bound.
-    static constexpr double kLatestTime = 2000000.0;
 
     /// Rebuilds the path over everything loaded.
     void build(const CycleValues& values);

@@ -12,7 +12,7 @@ struct RecordCycle {
     QString name; ///< "Cycle N"; empty for the files before the first cycle start
     QDateTime dateTime;
     std::vector<RecordInfo> files; ///< in name order
-    double endTime = 0.0;          ///< of the last file, seconds since power-up
+    double endTime = 0.0;          ///< of the last file that holds a record, seconds since power-up
     std::vector<RecordFlight> flights;
 };
 

@@ -1,5 +1,7 @@
 #include "card/Resampling.h"
 
+#include "app/Numeric.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -18,24 +20,36 @@ double interpolate(const Sample& lower, const Sample& upper, double time)
 
 } // namespace
 
+GridSeries::GridSeries(double step, const std::vector<Sample>& series) : mStep(step), mpSeries(&series)
+{
+    if (series.size() < 2 || !(series.back().time >= 0.0))
+        return;
+    const double last = series.back().time;
+    mSize = saturatingCast<std::size_t>(last / step);
+    while (mSize > 0 && time(mSize - 1) > last) // a quotient may be rounded either way
+        --mSize;
+    while (time(mSize) <= last)
+        ++mSize;
+}
+
+double GridSeries::value(std::size_t point)
+{
+    const std::vector<Sample>& series = *mpSeries;
+    const double at = time(point);
+    while (mUpper + 1 < series.size() && series[mUpper].time <= at)
+        ++mUpper;
+    return interpolate(series[mUpper - 1], series[mUpper], at);
+}
+
 void resampleData(double step, const std::vector<Sample>& in, std::vector<Sample>& out)
 {
     if (in.size() < 2) {
         out = in;
         return;
     }
-    const double last = in.back().time;
-    if (last < 0.0)
-        return;
-    std::size_t upper = 1;
-    for (std::size_t i = 0;; ++i) {
-        const double time = static_cast<double>(i) * step;
-        if (!(time <= last))
-            return;
-        while (upper + 1 < in.size() && in[upper].time <= time)
-            ++upper;
-        out.push_back({time, interpolate(in[upper - 1], in[upper], time)});
-    }
+    GridSeries grid(step, in);
+    for (std::size_t i = 0; i < grid.size(); ++i)
+        out.push_back({grid.time(i), grid.value(i)});
 }
 
 } // namespace ZARN

@@ -59,6 +59,7 @@ ProfileModel ProfileLoader::load(const QDomElement& root)
         else if (child.tagName() == "Device")
             readDevice(child);
     });
+    linkErrorMatrices();
     return std::move(mModel);
 }
 
@@ -117,7 +118,7 @@ void ProfileLoader::readDevice(const QDomElement& element)
         } else if (child.tagName() == "Parameter") {
             ProfileDevice& device = mModel.devices.back();
             device.parameters.push_back(readParameter(child, device.name));
-            linkToErrorMatrices(device.parameters.back());
+            noteFaultBit(device.parameters.back());
         }
     });
 }
@@ -159,11 +160,24 @@ ProfileParameter ProfileLoader::readParameter(const QDomElement& element, const 
     return parameter;
 }
 
-void ProfileLoader::linkToErrorMatrices(const ProfileParameter& parameter)
+void ProfileLoader::noteFaultBit(const ProfileParameter& parameter)
 {
-    for (FaultMatrix& matrix : mModel.errorMatrices) {
-        if (matrix.id == parameter.id)
-            matrix.bits[parameter.startBit] = {parameter.name, parameter.path, parameter.errorType};
+    // A matrix word has no other bits, and a damaged profile may name as many as it has parameters, for each of its matrices.
+    if (parameter.startBit >= 0 && parameter.startBit < kMatrixBits && !mModel.errorMatrices.empty())
+        mClaims[parameter.id][parameter.startBit] = {{parameter.name, parameter.path, parameter.errorType}, mModel.errorMatrices.size()};
+}
+
+void ProfileLoader::linkErrorMatrices()
+{
+    for (std::size_t i = 0; i < mModel.errorMatrices.size(); ++i) {
+        FaultMatrix& matrix = mModel.errorMatrices[i];
+        const auto claims = mClaims.find(matrix.id);
+        if (claims == mClaims.end())
+            continue;
+        for (const auto& [bit, claim] : claims->second) {
+            if (i < claim.matricesBefore) // a matrix receives only the parameters behind it
+                matrix.bits[bit] = claim.bit;
+        }
     }
 }
 

@@ -14,6 +14,13 @@ public:
     static int nextIdentity();
 
 private:
+    static constexpr int kMatrixBits = 32;
+    /// The parameter that claimed a bit last, and how many matrices had been read by then.
+    struct Claim {
+        FaultBit bit;
+        std::size_t matricesBefore;
+    };
+
     /// Calls `visit` with every child element of that name that applies to the variant; with an empty name, every child.
     template <typename Visitor> void forEachChild(const QDomElement& parent, const char* name, Visitor visit) const;
     void readUnits(const QDomElement& element);
@@ -22,7 +29,8 @@ private:
     void readDevice(const QDomElement& element);
     void readErrorMatrix(const QDomElement& element);
     [[nodiscard]] ProfileParameter readParameter(const QDomElement& element, const std::string& device) const;
-    void linkToErrorMatrices(const ProfileParameter& parameter);
+    void noteFaultBit(const ProfileParameter& parameter);
+    void linkErrorMatrices();
     [[nodiscard]] std::string text(const QDomElement& element, const char* attribute) const;
 
     const Profile& mProfile;
@@ -31,6 +39,7 @@ private:
     ProfileModel mModel;
     std::map<std::string, int> mEnumNumbers;
     std::map<std::string, int> mThresholdNumbers;
+    std::unordered_map<int, std::map<int, Claim>> mClaims; ///< by identifier and bit
 };
 
 } // namespace ZARN

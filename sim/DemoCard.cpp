@@ -37,34 +37,46 @@ CardHeader headerOf(std::uint64_t seed)
 
 } // namespace
 
-bool DemoCard::prepare(const DemoCardOptions& options, std::string& error) const
+bool DemoCard::prepare(const std::string& directory, const DemoCardOptions& options, std::string& error) const
 {
     if (!(options.hours >= 0 && options.hours <= kMostHours)) {
         error = "hours: must be a number from 0 to 10000";
         return false;
     }
-    const QString path = QFile::decodeName(mDirectory.c_str());
     std::error_code reason;
-    std::filesystem::create_directories(std::filesystem::path(mDirectory), reason);
-    if (reason || !QDir(path).exists()) {
-        error = mDirectory + ": " + (reason ? reason.message() : "Not a directory");
+    std::filesystem::create_directories(std::filesystem::path(directory), reason);
+    const QDir folder(QFile::decodeName(directory.c_str()));
+    if (reason || !folder.exists()) {
+        error = directory + ": " + (reason ? reason.message() : "Not a directory");
         return false;
     }
-    for (const QString& name : QDir(path).entryList({"*.CAN", "*.can", "*.xcb"}, QDir::Files | QDir::CaseSensitive)) {
-        error = mDirectory + ": holds the record file " + QFile::encodeName(name).toStdString() + " already";
+    for (const QString& name : folder.entryList({"*.CAN", "*.can", "*.xcb"}, QDir::Files | QDir::CaseSensitive)) {
+        error = directory + ": holds the record file " + QFile::encodeName(name).toStdString() + " already";
         return false;
     }
-    return true;
+    std::filesystem::remove_all(mDirectory, reason); // of a run that was ended
+    std::filesystem::create_directory(mDirectory, reason);
+    if (reason)
+        error = directory + ": " + reason.message();
+    return !reason;
 }
 
 bool DemoCard::write(const std::string& directory, const DemoCardOptions& options, std::string& error)
 {
-    mDirectory = directory;
+    mDirectory = directory + "/.zarn-simulate";
     mSeed = options.seed;
     mFileNumber = 0;
     mLogBook = LogBook();
-    if (!prepare(options, error))
+    if (!prepare(directory, options, error))
         return false;
+    const bool done = writeCycles(options, error) && publish(directory, error);
+    std::error_code ignored;
+    std::filesystem::remove_all(mDirectory, ignored);
+    return done;
+}
+
+bool DemoCard::writeCycles(const DemoCardOptions& options, std::string& error)
+{
     CyclePlanner planner(options.seed);
     RecordWriter writer(options.bigEndian);
     double seconds = 0;
@@ -75,6 +87,28 @@ bool DemoCard::write(const std::string& directory, const DemoCardOptions& option
         }
     }
     return true;
+}
+
+bool DemoCard::publish(const std::string& directory, std::string& error) const
+{
+    for (unsigned number = 1; number <= mFileNumber; ++number) {
+        std::error_code reason;
+        std::filesystem::rename(mDirectory + fileName(number), directory + fileName(number), reason);
+        if (reason) {
+            error = directory + fileName(number) + ": " + reason.message();
+            while (--number > 0)
+                std::filesystem::remove(directory + fileName(number), reason);
+            return false;
+        }
+    }
+    return true;
+}
+
+std::string DemoCard::fileName(unsigned number)
+{
+    char name[32];
+    std::snprintf(name, sizeof name, "/LOG%05u.CAN", number);
+    return name;
 }
 
 bool DemoCard::writeCycle(const CyclePlan& plan, RecordWriter& writer, double& seconds)
@@ -108,13 +142,11 @@ bool DemoCard::beginFile(const CyclePlan& plan, RecordWriter& writer, std::uint6
 {
     if (writer.isOpen() && !writer.close())
         return false;
-    char name[32];
-    std::snprintf(name, sizeof name, "/LOG%05u.CAN", ++mFileNumber);
     CardHeader header = headerOf(mSeed);
     header.ticks = step * kStepTicks;
     if (plan.clock && !firstOfCycle)
         header.dateTime = plan.powerUp.addMSecs(saturatingCast<qint64>(static_cast<double>(step) * kStep * 1000));
-    return writer.open(mDirectory + name, header);
+    return writer.open(mDirectory + fileName(++mFileNumber), header);
 }
 
 } // namespace ZARN

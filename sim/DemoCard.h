@@ -24,15 +24,20 @@ struct DemoCardOptions {
 class DemoCard {
 public:
     /// Writes the files LOG00001.CAN, LOG00002.CAN ... into the folder, which is made when it is missing. A folder that holds
-    /// record files already is refused. @param error "NAME: reason" of a failure; files finished before it stay.
+    /// record files already is refused. They are written aside, in a hidden folder, and take their places when all are done: neither
+    /// a failure nor the program's end leaves some of them. @param error "NAME: reason" of a failure.
     bool write(const std::string& directory, const DemoCardOptions& options, std::string& error);
 
 private:
-    bool prepare(const DemoCardOptions& options, std::string& error) const;
+    bool prepare(const std::string& directory, const DemoCardOptions& options, std::string& error) const;
+    bool writeCycles(const DemoCardOptions& options, std::string& error);
+    bool publish(const std::string& directory, std::string& error) const;
     bool writeCycle(const CyclePlan& plan, RecordWriter& writer, double& seconds);
     bool beginFile(const CyclePlan& plan, RecordWriter& writer, std::uint64_t step, bool firstOfCycle);
 
-    std::string mDirectory;
+    [[nodiscard]] static std::string fileName(unsigned number);
+
+    std::string mDirectory; ///< where the files are written
     std::uint64_t mSeed = 0;
     unsigned mFileNumber = 0;
     LogBook mLogBook;

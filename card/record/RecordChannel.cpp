@@ -35,20 +35,21 @@ RecordEntry RecordChannel::last() const
 
 void RecordChannel::buildTimeIndex()
 {
-    mRunningMaximum.clear();
-    mChunkBounds.clear();
+    mpIndex.reset();
     if (entries.ascending())
         return;
-    mRunningMaximum.reserve(entries.size());
+    auto pIndex = std::make_unique<Index>();
+    pIndex->runningMaximum.reserve(entries.size());
     uint64_t maximum = 0;
     for (std::size_t i = 0; i < entries.chunkCount(); ++i) {
-        Bounds& bounds = mChunkBounds.emplace_back(Bounds{entries.chunk(i).front().time(), entries.chunk(i).front().time()});
+        Bounds& bounds = pIndex->chunkBounds.emplace_back(Bounds{entries.chunk(i).front().time(), entries.chunk(i).front().time()});
         for (const StoredRecord& record : entries.chunk(i)) {
             bounds = {std::min(bounds.earliest, record.time()), std::max(bounds.latest, record.time())};
             maximum = std::max(maximum, record.ticks);
-            mRunningMaximum.push_back(maximum);
+            pIndex->runningMaximum.push_back(maximum);
         }
     }
+    mpIndex = std::move(pIndex);
 }
 
 std::size_t RecordChannel::firstAtOrAfter(double time) const
@@ -63,8 +64,9 @@ std::size_t RecordChannel::firstAtOrAfter(double time) const
             ++position;
         return position;
     }
-    return lowerBound(mRunningMaximum.size(), time, [this](std::size_t i) {
-        return recordTime(static_cast<uint32_t>(mRunningMaximum[i] >> 32), static_cast<uint32_t>(mRunningMaximum[i]));
+    const std::vector<uint64_t>& maximum = mpIndex->runningMaximum;
+    return lowerBound(maximum.size(), time, [&maximum](std::size_t i) {
+        return recordTime(static_cast<uint32_t>(maximum[i] >> 32), static_cast<uint32_t>(maximum[i]));
     });
 }
 

@@ -31,11 +31,14 @@ private:
         double earliest;
         double latest;
     };
-    [[nodiscard]] bool isIndexed() const { return mRunningMaximum.size() == entries.size(); }
+    struct Index {
+        // The running maximum of the times never falls, and its first value at or after a time stands where the first such time does.
+        std::vector<uint64_t> runningMaximum; // in ticks
+        std::vector<Bounds> chunkBounds;      // of each chunk
+    };
+    [[nodiscard]] bool isIndexed() const { return mpIndex && mpIndex->runningMaximum.size() == entries.size(); }
 
-    // The running maximum of the times never falls, and its first value at or after a time stands where the first such time does.
-    std::vector<uint64_t> mRunningMaximum; // in ticks; empty when the times ascend
-    std::vector<Bounds> mChunkBounds;      // of each chunk; empty when the times ascend
+    std::unique_ptr<Index> mpIndex; // null when the times ascend: there may be as many channels as records
     bool mFresh = false;
 };
 
@@ -47,7 +50,7 @@ template <typename Visitor> void RecordChannel::forEachIn(double from, double to
         return;
     }
     for (std::size_t c = 0, first = 0; c < entries.chunkCount(); first += entries.chunk(c++).size()) {
-        if (isIndexed() && (mChunkBounds[c].latest < from || mChunkBounds[c].earliest > to))
+        if (isIndexed() && (mpIndex->chunkBounds[c].latest < from || mpIndex->chunkBounds[c].earliest > to))
             continue;
         for (std::size_t i = first; i < first + entries.chunk(c).size(); ++i) {
             const double time = entries.time(i);

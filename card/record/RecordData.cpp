@@ -1,6 +1,7 @@
 #include "card/record/RecordData.h"
 
 #include <algorithm>
+#include <new>
 #include <queue>
 #include <utility>
 
@@ -10,7 +11,7 @@ namespace {
 
 constexpr unsigned kFirstBits = 8; // slots of the first table
 // About what a channel takes beside its records: in a damaged file every record may name another one.
-constexpr std::size_t kChannelBytes = sizeof(RecordChannel) + 128;
+constexpr std::size_t kChannelBytes = sizeof(RecordChannel) + 160;
 
 struct Cursor {
     const RecordChannel* pChannel;
@@ -108,18 +109,18 @@ void RecordData::startLateOrder()
 {
     mLateOrder.started = true;
     for (const auto& [identifier, channel] : mChannels)
-        mLateOrder.sizesBefore[identifier] = channel.entries.size();
+        mLateOrder.sizesBefore.emplace_back(identifier, channel.entries.size());
 }
 
 template <typename Visitor> void RecordData::visitInOrder(Visitor visit) const
 {
     std::map<uint32_t, std::size_t> next; // of each channel, where the noted order goes on
     std::priority_queue<Cursor, std::vector<Cursor>, LaterTicks> queue;
+    auto before = mLateOrder.sizesBefore.begin(); // both ascend by identifier
     for (const auto& [identifier, channel] : mChannels) {
-        const auto before = mLateOrder.sizesBefore.find(identifier);
-        const std::size_t end = !mLateOrder.started                          ? channel.entries.size()
-                                : before == mLateOrder.sizesBefore.end() ? 0
-                                                                             : before->second;
+        std::size_t end = mLateOrder.started ? 0 : channel.entries.size();
+        if (before != mLateOrder.sizesBefore.end() && before->first == identifier)
+            end = before++->second;
         next[identifier] = end;
         if (end > 0)
             queue.push({&channel, identifier, 0, end});
@@ -139,7 +140,7 @@ RecordChannel* RecordData::pseudoChannel(uint32_t identifier) const
 {
     if (mPseudoCount != mCount) { // made before the newest records came
         mPseudoChannels.clear();
-        mPseudoPool.clear();
+        mPseudoPool = RecordPool(std::max<std::size_t>(1, mPool.left())); // both share one limit
         mPseudoCount = mCount;
     }
     const auto found = mPseudoChannels.find(identifier);
@@ -150,10 +151,14 @@ RecordChannel* RecordData::pseudoChannel(uint32_t identifier) const
         pChannel = &mPseudoChannels.try_emplace(identifier, identifier).first->second;
         const uint16_t kind = identifier == kPseudoKind0 ? 0 : 1;
         visitInOrder([&](uint32_t from, const StoredRecord& record) {
-            if (from == identifier) // a damaged record may carry the pseudo-channel's own number
-                pChannel->entries.appendCopy(record, from, mPseudoPool);
-            if (record.kind == kind)
-                pChannel->entries.appendCopy(record, from, mPseudoPool);
+            // A damaged record may carry the pseudo-channel's own number.
+            const int copies = (from == identifier) + (record.kind == kind);
+            for (int i = 0; i < copies; ++i) {
+                if (!pChannel->entries.appendCopy(record, from, mPseudoPool)) {
+                    mPseudoChannels.erase(identifier); // half a channel would pass for the whole
+                    throw std::bad_alloc();
+                }
+            }
         });
         pChannel->buildTimeIndex();
     }

@@ -27,6 +27,10 @@ public:
             return false;
         if (record.ticks <= mLastTicks && mCount != 0 && !mLateOrder.started)
             startLateOrder();
+        if (mLateOrder.started && !mPool.charge(kLateBytes)) [[unlikely]] {
+            removeIfEmpty(identifier);
+            return false;
+        }
         if (!pChannel->entries.append(record, mPool)) [[unlikely]] {
             removeIfEmpty(identifier);
             return false;
@@ -55,11 +59,13 @@ private:
         uint32_t identifier;
         RecordChannel* pChannel; // null marks a free slot
     };
+    // What a record takes beside itself from then on: its place in the order, and in the index of its channel.
+    static constexpr std::size_t kLateBytes = 16;
     // Order of reception across the channels. While the tick counter rises from record to record a merge by ticks restores it;
     // from the first record on that does not rise, the identifiers are noted one by one.
     struct LateOrder {
         bool started = false;
-        std::map<uint32_t, std::size_t> sizesBefore; // entries of each channel when it started
+        std::vector<std::pair<uint32_t, std::size_t>> sizesBefore; // by identifier, entries of each channel when it started
         std::vector<uint32_t> identifiers;
     };
 

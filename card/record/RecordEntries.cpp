@@ -6,7 +6,9 @@ bool RecordEntries::appendCopy(const StoredRecord& record, uint32_t identifier, 
 {
     if (!append(record, pool))
         return false;
-    mCopiedIdentifiers.push_back(identifier);
+    if (!mpCopiedIdentifiers)
+        mpCopiedIdentifiers = std::make_unique<std::vector<uint32_t>>();
+    mpCopiedIdentifiers->push_back(identifier);
     return true;
 }
 

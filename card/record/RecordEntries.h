@@ -10,7 +10,7 @@
 namespace ZARN {
 
 /// The records of one channel in the order of reception: a sequence that only grows, in chunks that never move. The
-/// first chunks double from 4 records on, so that a channel of few records costs little; from 2,048 on all are alike.
+/// first chunks double from one record on, so that a channel of few records costs little; from 2,048 on all are alike.
 class RecordEntries {
 public:
     explicit RecordEntries(uint32_t identifier) : mIdentifier(identifier) {}
@@ -82,9 +82,9 @@ public:
     [[nodiscard]] Iterator end() const { return {this, size()}; }
 
 private:
-    static constexpr std::size_t kFirst = 4;                 // records in each of the first two chunks
+    static constexpr std::size_t kFirst = 1;                 // records in each of the first two chunks
     static constexpr std::size_t kChunk = 2048;              // records in every chunk after the doubling ones
-    static constexpr std::size_t kDoubling = 10;             // how many chunks hold the first kChunk records
+    static constexpr std::size_t kDoubling = 12;             // how many chunks hold the first kChunk records
     static constexpr std::size_t kPrefetch = 4;              // records ahead of the one written
     static_assert((kFirst << (kDoubling - 1)) == kChunk);
 
@@ -100,7 +100,7 @@ private:
     [[nodiscard]] std::size_t lastChunkUsed() const { return static_cast<std::size_t>(mpNext - mChunks.back()); }
     [[nodiscard]] uint32_t identifier(std::size_t position) const
     {
-        return mCopiedIdentifiers.empty() ? mIdentifier : mCopiedIdentifiers[position];
+        return mpCopiedIdentifiers ? (*mpCopiedIdentifiers)[position] : mIdentifier;
     }
     bool addChunk(RecordPool& pool);
 
@@ -110,7 +110,7 @@ private:
     uint32_t mIdentifier;
     bool mAscending = true;
     std::vector<StoredRecord*> mChunks;
-    std::vector<uint32_t> mCopiedIdentifiers; // one a record in a pseudo-channel, else empty
+    std::unique_ptr<std::vector<uint32_t>> mpCopiedIdentifiers; // one a record in a pseudo-channel, else null
 };
 
 } // namespace ZARN

@@ -16,6 +16,9 @@ using Payload = std::array<uint8_t, 8>; ///< the data bytes of a CAN message as 
     return std::fma(static_cast<double>(high), 134.217728, static_cast<double>(low) * 31.25e-9);
 }
 
+/// A recorded time above this is damage: no unit stays on for three weeks. In seconds.
+inline constexpr double kLatestTime = 2000000.0;
+
 /// Seconds to tenths of a second, rounded to nearest: the time key of the data table and of the event lists.
 [[nodiscard]] inline uint32_t timeTenths(double seconds)
 {

@@ -1,11 +1,10 @@
 #include "card/record/RecordFile.h"
 
 #include "app/Console.h"
+#include "app/NativePath.h"
 #include "app/Progress.h"
 #include "card/record/ByteOrder.h"
 #include "card/record/RecordData.h"
-
-#include <QFile>
 
 #include <algorithm>
 #include <cerrno>
@@ -19,6 +18,7 @@ namespace ZARN {
 namespace {
 
 constexpr uint16_t kByteOrderMark = 0xABBA;
+constexpr uint16_t kExchangedMark = 0xBAAB;
 constexpr long kFirstRecordTime = 148; // offset of the first record's time words; those of the last one stand at 28 x count + 120
 
 template <typename T> bool readField(FILE* pFile, T& value, bool swap)
@@ -81,32 +81,40 @@ template <bool Swap> StoredRecord parseRecord(const uint8_t* pRecord)
 
 } // namespace
 
+void RecordFile::note(const QString& problem, bool isSystemError)
+{
+    mProblem += mProblem.isEmpty() ? problem : "; " + problem;
+    mIsSystemError |= isSystemError;
+}
+
 void RecordFile::noteSystemError(int error)
 {
-    mSystemError = error;
-    mProblem = tr("it cannot be read: %1").arg(qt_error_string(error));
+    note(tr("it cannot be read: %1").arg(qt_error_string(error)), true);
 }
 
 RecordFile::File RecordFile::openFile()
 {
     mProblem.clear();
-    mSystemError = 0;
+    mIsSystemError = false;
     // Not blocking: a pipe in the folder must not stop the program.
-    const int descriptor = open(QFile::encodeName(fileName).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-    if (descriptor < 0) {
-        noteSystemError(errno);
-        return nullptr;
-    }
+    const int descriptor = open(toNativePath(fileName).c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     struct stat status {};
-    if (fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) {
-        close(descriptor);
-        noteSystemError(EINVAL);
-        return nullptr;
+    if (descriptor >= 0 && fstat(descriptor, &status) == 0) {
+        if (S_ISREG(status.st_mode)) {
+            mSize = status.st_size;
+            recordCount = recordsOf(mSize);
+            if (FILE* pFile = fdopen(descriptor, "rb"))
+                return File(pFile);
+        } else {
+            errno = EINVAL;
+        }
     }
-    recordCount = recordsOf(status.st_size);
-    if (status.st_size < kHeaderSize)
-        mProblem = tr("%1 bytes, no record").arg(status.st_size);
-    return File(fdopen(descriptor, "rb"));
+    const int error = errno;
+    if (descriptor >= 0)
+        close(descriptor);
+    noteSystemError(error);
+    errno = error;
+    return nullptr;
 }
 
 void RecordFile::readRecordInfo(const QString& path)
@@ -114,12 +122,30 @@ void RecordFile::readRecordInfo(const QString& path)
     fileName = path;
     const File file = openFile();
     if (!file) {
+        const int error = errno;
         mConsole.print("RecordFile::readRecordInfo: Could not open %s\n", fileName.toUtf8().constData());
-        mConsole.systemError("Error:", mSystemError);
+        mConsole.systemError("Error:", error);
         return;
     }
     samples = static_cast<uint32_t>(recordCount);
-    readInfo(file.get(), true);
+    if (readInfo(file.get(), true))
+        noteDamage();
+}
+
+void RecordFile::noteDamage()
+{
+    if (mSize < kHeaderSize) {
+        note(tr("%1 bytes, no record").arg(mSize), false);
+        return;
+    }
+    if (!mHasMark)
+        note(tr("the header is damaged: no byte-order mark"), false);
+    if ((mSize - kHeaderSize) % kRecordSize != 0)
+        note(tr("the last record is cut off"), false);
+    if (recordCount > 0 && endTime < startTime)
+        note(tr("damaged: its records end (%1 s) before they begin (%2 s)").arg(endTime).arg(startTime), false);
+    else if (recordCount > 0 && endTime > kLatestTime)
+        note(tr("damaged: its records end at %1 s").arg(endTime), false);
 }
 
 bool RecordFile::readRecordData(RecordData& data)
@@ -129,17 +155,18 @@ bool RecordFile::readRecordData(RecordData& data)
         mConsole.print("RecordFile::readRecordData: Could not open %s\n", fileName.toUtf8().constData());
         return true;
     }
-    readInfo(file.get(), false);
-    return readData(file.get(), data);
+    if (samples > static_cast<uint32_t>(recordCount))
+        note(tr("%1 of %2 records are left since the card was opened").arg(recordCount).arg(samples), true);
+    return !readInfo(file.get(), false) || readData(file.get(), data);
 }
 
-double RecordFile::readTime(FILE* pFile) const
+bool RecordFile::readTime(FILE* pFile, double& seconds) const
 {
     unsigned int high = 0;
     unsigned int low = 0;
-    getUInt(pFile, high);
-    getUInt(pFile, low);
-    return recordTime(high, low);
+    const bool whole = getUInt(pFile, high) && getUInt(pFile, low);
+    seconds = recordTime(high, low);
+    return whole;
 }
 
 std::string RecordFile::readText(FILE* pFile, int length) const
@@ -164,17 +191,36 @@ QDateTime RecordFile::readDateTime(FILE* pFile) const
 
 bool RecordFile::readInfo(FILE* pFile, bool withTimes)
 {
+    errno = 0;
+    if (readHeader(pFile, withTimes))
+        return true;
+    // What a failed read leaves is no header: its zeros would pass for the unit's numbers, and for the other byte order.
+    const QString path = fileName;
+    static_cast<RecordInfo&>(*this) = {};
+    fileName = path;
+    recordCount = 0;
+    if (std::ferror(pFile) || errno != 0)
+        noteSystemError(errno != 0 ? errno : EIO);
+    else
+        note(tr("it became shorter while it was read"), true);
+    return false;
+}
+
+bool RecordFile::readHeader(FILE* pFile, bool withTimes)
+{
     swapped = false;
     unsigned short mark = 0;
     getUShort(pFile, mark);
     swapped = mark != kByteOrderMark;
+    mHasMark = !swapped || mark == kExchangedMark;
     unsigned short reserved = 0;
     unsigned int reservedLong = 0;
     for (int i = 0; i < 3; ++i)
         getUShort(pFile, reserved);
     getUInt(pFile, reservedLong);
     dateTime = readDateTime(pFile);
-    const double headerTime = readTime(pFile);
+    double headerTime = 0.0;
+    readTime(pFile, headerTime);
     getUInt(pFile, busType);
     getUInt(pFile, ecuSerialNumber);
     softwarePartA = readText(pFile, 13);
@@ -185,16 +231,14 @@ bool RecordFile::readInfo(FILE* pFile, bool withTimes)
     emuSoftwareVersion = readText(pFile, 7);
     if (withTimes)
         startTime = headerTime;
-    if (recordCount < 1)
-        return true;
-    if (withTimes) {
-        std::fseek(pFile, kFirstRecordTime, SEEK_SET);
-        startTime = readTime(pFile);
-        std::fseek(pFile, static_cast<long>(kRecordSize * recordCount + 120), SEEK_SET);
-        endTime = readTime(pFile);
-    }
-    std::fseek(pFile, kHeaderSize, SEEK_SET);
-    return true;
+    if (std::ferror(pFile) || recordCount < 1)
+        return !std::ferror(pFile);
+    if (std::feof(pFile))
+        return false;
+    const auto seek = [pFile](int64_t offset) { return std::fseek(pFile, static_cast<long>(offset), SEEK_SET) == 0; };
+    if (withTimes && !(seek(kFirstRecordTime) && readTime(pFile, startTime) && seek(kRecordSize * recordCount + 120) && readTime(pFile, endTime)))
+        return false;
+    return seek(kHeaderSize);
 }
 
 bool RecordFile::readData(FILE* pFile, RecordData& data)
@@ -209,6 +253,7 @@ template <bool Swap> bool RecordFile::readRecords(FILE* pFile, RecordData& data)
     const auto buffer = std::make_unique_for_overwrite<uint8_t[]>(kPiece * kRecordSize);
     for (int32_t done = 0; done < recordCount;) {
         const int32_t wanted = std::min(kPiece, recordCount - done);
+        errno = 0;
         const auto got = static_cast<int32_t>(std::fread(buffer.get(), kRecordSize, static_cast<std::size_t>(wanted), pFile));
         for (int32_t i = 0; i < got;) {
             reportProgress(done + i);
@@ -219,7 +264,9 @@ template <bool Swap> bool RecordFile::readRecords(FILE* pFile, RecordData& data)
         }
         done += got;
         if (got < wanted) {
-            mProblem = tr("records cut off");
+            if (std::ferror(pFile))
+                noteSystemError(errno != 0 ? errno : EIO);
+            note(tr("only %1 of %2 records could be read").arg(done).arg(recordCount), true);
             mConsole.print("RecordFile::readData: %s ends after %d of %d records\n", fileName.toUtf8().constData(), done, recordCount);
             break;
         }

@@ -30,6 +30,7 @@ public:
     /// The full pass: appends every data record of the file named by `fileName`. @return false when memory ran out.
     bool readRecordData(RecordData& data);
 
+    /// @return false, leaving no info, when not all of it could be read.
     bool readInfo(FILE* pFile, bool withTimes);
     /// Reads the data records from the file's position on. @return false only when no memory is left for them.
     bool readData(FILE* pFile, RecordData& data);
@@ -37,7 +38,7 @@ public:
     /// What the last pass found wrong with the file, for people; empty when nothing is.
     [[nodiscard]] const QString& problem() const { return mProblem; }
     /// Whether that is the system's doing, not damage: the file may hold more than could be read.
-    [[nodiscard]] bool isSystemError() const { return mSystemError != 0; }
+    [[nodiscard]] bool isSystemError() const { return mIsSystemError; }
 
     [[nodiscard]] const RecordInfo& recordInfo() const { return *this; }
     void setRecordInfo(const RecordInfo& info) { static_cast<RecordInfo&>(*this) = info; }
@@ -68,8 +69,11 @@ private:
     using File = std::unique_ptr<FILE, Close>;
 
     File openFile();
+    void note(const QString& problem, bool isSystemError);
     void noteSystemError(int error);
-    double readTime(FILE* pFile) const;
+    void noteDamage();
+    bool readHeader(FILE* pFile, bool withTimes);
+    bool readTime(FILE* pFile, double& seconds) const;
     std::string readText(FILE* pFile, int length) const;
     QDateTime readDateTime(FILE* pFile) const;
     template <bool Swap> bool readRecords(FILE* pFile, RecordData& data);
@@ -79,7 +83,9 @@ private:
     const Console& mConsole;
     Progress& mProgress;
     QString mProblem;
-    int mSystemError = 0; ///< the system's number of the error that kept the file from being read
+    bool mIsSystemError = false;
+    bool mHasMark = false; ///< the header begins with the mark, in either order
+    int64_t mSize = 0;     ///< bytes
     bool swapped = false; ///< the file's byte order differs from the host's
     int32_t recordCount = 0;
     int32_t progress = 0; ///< percent

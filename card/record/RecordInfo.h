@@ -10,7 +10,7 @@ namespace ZARN {
 
 /// What the header of a record file tells: the unit's identity, the date of the recording, its span and size.
 struct RecordInfo {
-    QString fileName;   ///< full path
+    QString fileName;   ///< full path; see fromNativePath() for names that are no text
     QDateTime dateTime; ///< wall clock of the recording, without a zone (kept as UTC); invalid when the unit had none
     double startTime = 0.0; ///< seconds since power-up, of the first data record
     double endTime = 0.0;   ///< of the last data record

@@ -1,9 +1,10 @@
 #include "card/record/RecordPool.h"
 
+#include "card/record/MemoryLimit.h"
+
 #include <cstdlib>
 
 #include <sys/mman.h>
-#include <unistd.h>
 
 namespace ZARN {
 
@@ -13,16 +14,12 @@ constexpr std::size_t kHugePage = std::size_t(2) << 20;
 
 std::size_t defaultLimit()
 {
-    const long pages = sysconf(_SC_PHYS_PAGES);
-    const long size = sysconf(_SC_PAGESIZE);
-    if (pages <= 0 || size <= 0)
-        return SIZE_MAX;
-    return static_cast<std::size_t>(pages) / 4 * 3 * static_cast<std::size_t>(size);
+    return availableMemory() / 4 * 3;
 }
 
 } // namespace
 
-RecordPool::RecordPool(std::size_t limitBytes) : mLimit(limitBytes ? limitBytes : defaultLimit()) {}
+RecordPool::RecordPool(std::size_t limitBytes) : mGivenLimit(limitBytes), mLimit(limitBytes ? limitBytes : defaultLimit()) {}
 
 void RecordPool::Free::operator()(std::byte* pSlab) const
 {
@@ -73,6 +70,7 @@ void RecordPool::clear()
     mpNext = nullptr;
     mLeft = 0;
     mBytes = 0;
+    mLimit = mGivenLimit ? mGivenLimit : defaultLimit();
 }
 
 } // namespace ZARN

@@ -13,7 +13,8 @@ namespace ZARN {
 /// singly; clear() drops all. Refuses, instead of exhausting the machine, what would pass the byte limit.
 class RecordPool {
 public:
-    /// @param limitBytes the most that may be handed out; 0 takes three quarters of the machine's memory.
+    /// @param limitBytes the most that may be handed out; 0 takes three quarters of the memory that is there, asked anew by
+    /// clear().
     explicit RecordPool(std::size_t limitBytes = 0);
 
     /// Room for `count` records, uninitialised; null when the limit is reached or the system has no memory.
@@ -21,6 +22,7 @@ public:
     /// Counts memory that is taken elsewhere on behalf of the records. @return false when it would pass the limit.
     [[nodiscard]] bool charge(std::size_t bytes);
     void clear();
+    [[nodiscard]] std::size_t left() const { return mLimit - mBytes; } ///< until the limit
     [[nodiscard]] std::size_t bytes() const { return mBytes; } ///< what the slabs take, used or not, and what was charged
 
 private:
@@ -33,6 +35,7 @@ private:
     std::byte* mpNext = nullptr;
     std::size_t mLeft = 0;
     std::size_t mBytes = 0;
+    std::size_t mGivenLimit;
     std::size_t mLimit;
 };
 

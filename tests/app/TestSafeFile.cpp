@@ -12,6 +12,7 @@
 #include <unistd.h>
 
 #include <csignal>
+#include <fstream>
 #include <memory>
 #include <thread>
 
@@ -187,6 +188,13 @@ void TestSafeFile::abandonedLeavesNothing()
     QVERIFY(!unopened.commit());
     QCOMPARE(fileContent(path("x")), std::string("old"));
     QCOMPARE(entryCount(path("")), 1L);
+    // What a killed program left goes with the next save, unless somebody writes it still.
+    for (const char* name : {".zarn-1-2-3.tmp", ".zarn-open.tmp", ".zarn-other"})
+        putFile(path(name), "half");
+    std::ifstream reader(path(".zarn-open.tmp"));
+    SafeFile next(path("x"));
+    QVERIFY(writeWhole(next, "new"));
+    QCOMPARE(QDir(mFolder->path()).entryList(QDir::Files | QDir::Hidden), QStringList({".zarn-open.tmp", ".zarn-other", "x"}));
 }
 
 void TestSafeFile::permissions()

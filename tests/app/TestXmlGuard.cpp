@@ -70,8 +70,12 @@ void TestXmlGuard::texts_data()
     QTest::newRow("end tag above") << "<a></a" + QByteArray(65536, ' ') + ">" << false;
     QTest::newRow("attributes at the limit") << "<a" + QByteArray(" b=''").repeated(1000) + "/>" << true;
     QTest::newRow("attributes above") << "<a" + QByteArray(" b=''").repeated(1001) + "/>" << false;
-    QTest::newRow("elements at the limit") << "<a>" + QByteArray("<b/>").repeated(1'999'999) + "</a>" << true;
-    QTest::newRow("elements above") << "<a>" + QByteArray("<b/>").repeated(2'000'000) + "</a>" << false;
+    // Everything that the document keeps counts, in sum.
+    for (const auto& [piece, nodes] : {std::pair("<b/>", 1), {"<!---->", 1}, {"<?p?>", 1}, {"<![CDATA[]]>", 1}, {"x<!---->", 2}, {"<b a=''/>", 2}}) {
+        const int most = 2'000'000 / nodes; // the root is one of them
+        QTest::addRow("%s at the limit", piece) << "<a>" + QByteArray(piece).repeated(most - 1) + "</a>" << true;
+        QTest::addRow("%s above", piece) << "<a>" + QByteArray(piece).repeated(most) + "</a>" << false;
+    }
     QTest::newRow("long text, comment and section") << "<a><!--" + QByteArray(200000, '<') + "--><![CDATA[" + QByteArray(200000, '<') + "]]>"
                                                           + QByteArray(200000, '>') + "</a>"
                                                     << true;
@@ -146,6 +150,7 @@ void TestXmlGuard::encodings_data()
         QTest::addRow("depth in %s", name) << encoded(QString::fromLatin1(nested(65)), code, true) << QString();
     }
     QTest::newRow("Latin-1") << latin.toLatin1() << "\u00e4";
+    QTest::newRow("Windows") << QByteArray("<?xml version='1.0' encoding='windows-1252'?><a b='\x80'/>") << "\u20ac";
     QTest::newRow("Latin-1 bytes as UTF-8") << QByteArray("<a b='\xe4'/>") << QString();
     QTest::newRow("declared UTF-8") << QByteArray("<?xml version=\"1.0\" encoding=\"utf-8\"?><a b='\xc3\xa4'/>") << "\u00e4";
     QTest::newRow("declared what it is not") << QByteArray("<?xml version='1.0' encoding='UTF-16'?><a b=''/>") << QString();

@@ -2,17 +2,22 @@
 #include "support/ProfileBuilder.h"
 #include "support/TestCycle.h"
 
+#include <QDir>
 #include <QTest>
 
 #include <filesystem>
 #include <limits>
 
+#include <dirent.h>
+#include <dlfcn.h>
 #include <sys/stat.h>
 
 using namespace ZARN;
 using namespace ZARN::Test;
 
 namespace {
+
+int readdirFailsAfter = -1; // entries; -1: never
 
 const QDateTime kNoon(QDate(2024, 5, 1), QTime(12, 0), Qt::UTC);
 
@@ -102,6 +107,16 @@ std::vector<Sample> resampledByScan(double step, const std::vector<Sample>& in)
 
 } // namespace
 
+/// Stands before the system's function of that name.
+extern "C" dirent* readdir(DIR* pFolder)
+{
+    static const auto next = reinterpret_cast<dirent* (*)(DIR*)>(dlsym(RTLD_NEXT, "readdir"));
+    if (readdirFailsAfter < 0 || readdirFailsAfter-- > 0)
+        return next(pFolder);
+    errno = EIO;
+    return nullptr;
+}
+
 class TestCardContainer : public QObject {
     Q_OBJECT
 
@@ -130,22 +145,33 @@ void TestCardContainer::onlyRecordFilesAreRead()
     CardBuilder card;
     const QByteArray bytes = RecordFileBuilder().dateTime(kNoon).bytes();
     for (const char* name : {"a.CAN", "b.txt", "c.Can", "d.xcb", "e.can", "f.XCB", "CAN", "can", "g.CAN.bak", "h.bak.CAN", "i.", ".CAN", "._a.CAN",
-                             "Übung.can", "j k.can"})
+                             "Übung.can", "j k.can", "\xff\xc3.can"})
         card.rawFile(name, bytes);
     std::filesystem::create_directory(card.path().toStdString() + "/folder.CAN");
     QCOMPARE(mkfifo((card.path().toStdString() + "/pipe.CAN").c_str(), 0600), 0);
     TestCycle cycle;
     ProgressLog progress;
     CardContainer container(cycle.console, cycle.profile, progress);
-    QVERIFY(container.readContainer(card.write()));
-    QCOMPARE(fileNames(container), QString("a.CAN d.xcb e.can h.bak.CAN j k.can Übung.can")); // byte by byte: umlauts behind all else
-    QVERIFY(container.recordFiles().at("Übung.can").dateTime.isValid());
+    QVERIFY(container.readContainer(card.write() + "//"));
+    QCOMPARE(container.path(), card.path());
+    QCOMPARE(fileNames(container), QString("a.CAN d.xcb e.can h.bak.CAN j k.can Übung.can \ufffd\ufffd.can")); // byte by byte: umlauts behind all else
+    for (const char* name : {"Übung.can", "\xff\xc3.can"})
+        QVERIFY(container.recordFiles().at(name).dateTime.isValid());
     QCOMPARE(container.recordFiles().at("j k.can").fileName, card.path() + "/j k.can");
     QCOMPARE(container.name(), card.path().section('/', -1));
     QCOMPARE(progress.values.back(), 100);
     QCOMPARE(std::count(progress.values.begin(), progress.values.end(), 0), static_cast<std::ptrdiff_t>(progress.values.size() - 1));
     container.clear();
     QVERIFY(container.recordFiles().empty());
+    const QString before = QDir::currentPath();
+    QVERIFY(QDir::setCurrent(card.path()));
+    QVERIFY(container.readContainer("."));
+    QCOMPARE(container.name(), card.path().section('/', -1));
+    readdirFailsAfter = 3;
+    QVERIFY(container.readContainer("."));
+    readdirFailsAfter = -1;
+    QVERIFY(QDir::setCurrent(before));
+    QCOMPARE(problems(container).section("; ", 0, 0), QString(": it cannot be listed to its end: Input/output error (system)"));
 }
 
 void TestCardContainer::cyclesAndDates_data()
@@ -207,6 +233,9 @@ void TestCardContainer::unreadableFileStartsACycle()
     QVERIFY(cycle.container.readContainer(card.write()));
     QCOMPARE(cycles(cycle.container), QString("0:@01 12:00:00.000=A; 1:Cycle 1@01 12:00:00.000=B+C"));
     QCOMPARE(problems(cycle.container), QString("B.CAN: 0 bytes, no record"));
+    std::filesystem::resize_file(card.path().toStdString() + "/A.CAN", 130);
+    QVERIFY(cycle.container.loadCycle(0, -1));
+    QCOMPARE(problems(cycle.container.loadProblems()), QString("A.CAN: 0 of 1 records are left since the card was opened (system)"));
     std::filesystem::remove(card.path().toStdString() + "/C.CAN"); // the card is pulled between listing and loading
     QVERIFY(cycle.container.loadCycle(1, -1));
     QCOMPARE(cycle.container.recordData().count(), 0U);
@@ -214,9 +243,8 @@ void TestCardContainer::unreadableFileStartsACycle()
     QCOMPARE(problems(cycle.container), "B.CAN: 0 bytes, no record; " + lost);
     QCOMPARE(problems(cycle.container.loadProblems()), lost); // that of B is known
     QVERIFY(cycle.lines.find("RecordFile::readRecordData: Could not open " + card.path().toStdString() + "/C.CAN\n") != std::string::npos);
-    QVERIFY(cycle.container.loadCycle(0, -1));
-    QCOMPARE(cycle.container.recordData().count(), 1U);
-    QVERIFY(cycle.container.loadProblems().empty());
+    QVERIFY(cycle.container.readContainer(card.path()));
+    QCOMPARE(problems(cycle.container), QString("A.CAN: the last record is cut off; B.CAN: 0 bytes, no record"));
 }
 
 void TestCardContainer::loadedSpanIsThatOfTheFiles()
@@ -224,6 +252,7 @@ void TestCardContainer::loadedSpanIsThatOfTheFiles()
     CardBuilder card;
     card.file("A.CAN").dateTime(kNoon).addWord(1, 20, 1).addWord(1, 7, 2).addWord(1, 10, 3);
     card.file("B.CAN", true).dateTime(kNoon.addSecs(60)).addWord(1, 70, 4).addWord(1, 50, 5);
+    card.file("B2.CAN").dateTime(kNoon.addSecs(90)).headerTicks(1); // opened as power went
     card.file("C.CAN").addWord(1, 5, 6);
     TestCycle cycle;
     CardContainer& container = cycle.container;
@@ -234,6 +263,7 @@ void TestCardContainer::loadedSpanIsThatOfTheFiles()
     QCOMPARE(container.startTime(), 20.0); // first record of the first file, last record of the last: not least and greatest
     QCOMPARE(container.endTime(), 50.0);
     QCOMPARE(container.selectedFlight().endTime, 50.0);
+    QCOMPARE(container.loadedCycle()->endTime, 50.0);
     QCOMPARE(container.recordFiles().at("A.CAN").startTime, 20.0); // the data pass does not touch the list
     QCOMPARE(*container.loadedCycleNumber(), 0U);
     QVERIFY(container.loadCycle(1, -1)); // replaces what was loaded

@@ -348,7 +348,9 @@ void TestFlights::pathOfAFlight()
     QCOMPARE(container.flightPath().front().time, 31.0); // both ends belong to it
     QCOMPARE(container.flightPath().back().time, 127.0);
     recording.cycle.profile.setCurrentUnit(EUnit::eImperial);
-    container.calcFlightPath(); // rebuilt, it is that of the flight still
+    container.recalculate(0); // rebuilt, it is that of the flight still; flights do not move with the displayed unit
+    QCOMPARE(recording.flights().size(), std::size_t(1));
+    QCOMPARE(recording.flights().front().maxGroundSpeed, 100.0);
     QCOMPARE(container.flightPath().size(), std::size_t(0));
     recording.cycle.profile.setCurrentUnit(EUnit::eMetric);
     container.calcFlightPath();

@@ -1,9 +1,13 @@
+#include "card/record/MemoryLimit.h"
 #include "card/record/RecordData.h"
 #include "support/CardBuilder.h"
 
 #include <QElapsedTimer>
+#include <QTemporaryDir>
 #include <QTest>
 
+#include <filesystem>
+#include <fstream>
 #include <functional>
 #include <limits>
 #include <random>
@@ -230,6 +234,17 @@ void TestRecordData::liveRecordsAreFresh()
 
 void TestRecordData::memoryLimitRefuses()
 {
+    const QTemporaryDir groups; // a control group and the one above it
+    const std::string group = groups.path().toStdString() + "/inner";
+    std::filesystem::create_directory(group);
+    const std::size_t free = availableMemory(group);
+    std::ofstream(group + "/memory.max") << "max\n";
+    QCOMPARE(availableMemory(group), free);
+    std::ofstream(groups.path().toStdString() + "/memory.max") << "12345678\n";
+    QCOMPARE(availableMemory(group), std::size_t(12345678));
+    std::ofstream(group + "/memory.max") << "2345678\n";
+    QCOMPARE(availableMemory(group), std::size_t(2345678));
+
     constexpr std::size_t limit = 8 << 20;
     RecordData data(limit);
     uint32_t count = 0;

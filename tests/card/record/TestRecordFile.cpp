@@ -49,6 +49,38 @@ struct Reader {
     RecordData data;
 };
 
+/// Bytes of which one read fails, once.
+struct FailingFile {
+    FILE* open()
+    {
+        const cookie_io_functions_t functions{read, nullptr, seek, nullptr};
+        FILE* pFile = fopencookie(this, "rb", functions);
+        std::setvbuf(pFile, nullptr, _IONBF, 0);
+        return pFile;
+    }
+    static ssize_t read(void* pThis, char* pOut, std::size_t size)
+    {
+        auto* pFile = static_cast<FailingFile*>(pThis);
+        if (pFile->readsLeft-- == 0) {
+            errno = EIO;
+            return -1;
+        }
+        const auto count = std::min<qsizetype>(static_cast<qsizetype>(size), pFile->bytes.size() - pFile->position);
+        std::memcpy(pOut, pFile->bytes.constData() + pFile->position, static_cast<std::size_t>(count));
+        pFile->position += count;
+        return count;
+    }
+    static int seek(void* pThis, off64_t* pOffset, int)
+    {
+        static_cast<FailingFile*>(pThis)->position = *pOffset;
+        return 0;
+    }
+
+    QByteArray bytes;
+    int readsLeft;
+    qsizetype position = 0;
+};
+
 RecordFileBuilder sample(bool bigEndian)
 {
     RecordFileBuilder builder(bigEndian);
@@ -96,6 +128,7 @@ private Q_SLOTS:
     void spanCoversAllFilesOfOneReader();
     void progressStaysBelowHundred();
     void shrunkFileYieldsItsWholeRecords();
+    void noFailedReadGoesUntold();
     void whatIsNoFileIsRefused_data();
     void whatIsNoFileIsRefused();
 };
@@ -156,6 +189,7 @@ void TestRecordFile::bothByteOrdersReadAlike()
     Reader damaged;
     damaged.read(QByteArray(bigBytes).replace(0, 2, "??")).readRecordData(damaged.data);
     QCOMPARE(described(damaged.file, damaged.data), described(little.file, little.data));
+    QCOMPARE(damaged.read(QByteArray(bigBytes).replace(0, 2, "??")).problem(), QString("the header is damaged: no byte-order mark"));
 }
 
 void TestRecordFile::headerIsReadFieldByField()
@@ -218,6 +252,9 @@ void TestRecordFile::cutAtEveryLength()
             QCOMPARE(file.endTime, 0.0);
         if (length >= 28 && records == 0)
             QCOMPARE(file.startTime, recordTime(1, 2));
+        Reader listed;
+        const QString cut = (length - 128) % 28 != 0 ? "the last record is cut off" : "";
+        QCOMPARE(listed.read(whole.left(length)).problem(), length < 128 ? QString("%1 bytes, no record").arg(length) : cut);
     }
 }
 
@@ -256,6 +293,7 @@ void TestRecordFile::spanCoversAllFilesOfOneReader()
     reader.read(RecordFileBuilder().addWord(1, 20, 0).addWord(1, 5, 0).addWord(1, 10, 0).bytes());
     QCOMPARE(reader.file.startTime, 20.0); // the header pass looks at the first and the last record alone
     QCOMPARE(reader.file.endTime, 10.0);
+    QCOMPARE(reader.file.problem(), QString("damaged: its records end (10 s) before they begin (20 s)"));
     reader.file.readRecordData(reader.data);
     QCOMPARE(reader.file.startTime, 5.0);
     QCOMPARE(reader.file.endTime, 20.0);
@@ -312,6 +350,31 @@ void TestRecordFile::shrunkFileYieldsItsWholeRecords()
     QCOMPARE(reader.data.channel(1)->entries.back().time, static_cast<double>(left));
     QCOMPARE(file.endTime, static_cast<double>(left));
     QVERIFY(reader.lines.find("ends after 12345 of 30000 records") != std::string::npos);
+    QCOMPARE(file.problem(), QString("only 12345 of 30000 records could be read"));
+    QVERIFY(file.isSystemError());
+}
+
+void TestRecordFile::noFailedReadGoesUntold()
+{
+    const QByteArray bytes = sample(true).bytes();
+    int failing = 0;
+    for (bool failed = true; failed; ++failing) {
+        Reader reader;
+        reader.read(bytes);
+        FailingFile source{bytes, failing};
+        FILE* pFile = source.open();
+        const bool hasHeader = reader.file.readInfo(pFile, true);
+        QVERIFY(!hasHeader || reader.file.readData(pFile, reader.data));
+        std::fclose(pFile);
+        failed = source.readsLeft < 0;
+        QCOMPARE(reader.file.problem().startsWith("it cannot be read: Input/output error"), failed);
+        QCOMPARE(reader.file.isSystemError(), failed);
+        // Neither an invented number nor a record read in the wrong order.
+        QCOMPARE(reader.file.ecuSerialNumber, hasHeader ? 0x01020304U : 0U);
+        QCOMPARE(reader.data.count() == 3, !failed);
+        QVERIFY(reader.data.count() == 0 || reader.data.channel(0x123));
+    }
+    QVERIFY(failing > 30); // each field of the header, and the records
 }
 
 void TestRecordFile::whatIsNoFileIsRefused_data()

@@ -220,9 +220,9 @@ void TestDialogMain::unreadFiles()
     for (const char* name : {"LOG00001.CAN", "LOG00002.CAN"})
         QVERIFY(QFile::copy(card() + "/" + name, folder + "/" + name));
     putFile(folder.toStdString() + "/LOG00003.CAN", "half a header");
-    putFile(folder.toStdString() + "/\xff.CAN", fileContent(card().toStdString() + "/LOG00003.CAN")); // no text: nothing can open it by name
+    putFile(folder.toStdString() + "/\xff.CAN", fileContent(card().toStdString() + "/LOG00003.CAN")); // a name that is no text is read all the same
     const QString absent = qt_error_string(ENOENT);
-    const QString problem = "2 record file(s) of the card could not be read:\nLOG00003.CAN: the file is too short\n\ufffd.CAN: " + absent;
+    const QString problem = "1 problem(s) of the card:\nLOG00003.CAN: 13 bytes, no record";
     {
         DesktopFixture desktop(home());
         DialogMain& window = desktop.open();
@@ -234,7 +234,7 @@ void TestDialogMain::unreadFiles()
         QFile::remove(folder + "/LOG00001.CAN");
         Answer lost(Answer::close);
         window.slotLoadCycle(desktop.container.recordCycles().begin()->first, -1);
-        QCOMPARE(lost.text, "Not everything could be loaded:\nLOG00001.CAN: " + absent);
+        QCOMPARE(lost.text, "Not everything could be loaded:\nLOG00001.CAN: it cannot be read: " + absent);
     }
     DesktopFixture next(home());
     Answer none(Answer::close);
