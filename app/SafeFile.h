@@ -10,7 +10,8 @@ namespace ZARN {
 /// write is counted, and only when all of it is on disk does it replace the target, whose permissions it takes over. A
 /// target that exists and is no regular file (a pipe, a device) is written directly. Where the system can, the
 /// temporary file has no name until then, so that not even a killed process leaves one; where it cannot, the next file written
-/// in that folder removes what a killed one left. Destroyed before commit(), it leaves nothing behind. Programs must ignore SIGPIPE and SIGXFSZ for the failures behind them to arrive here.
+/// in that folder removes what a killed one left. Destroyed before commit(), it leaves nothing behind. Programs must ignore
+/// SIGPIPE and SIGXFSZ for the failures behind them to arrive here.
 class SafeFile {
 public:
     explicit SafeFile(std::string path);

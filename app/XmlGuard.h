@@ -22,8 +22,8 @@ public:
     static constexpr std::size_t maxNodes = 2'000'000; ///< elements, attributes, texts, comments, instructions and CDATA sections
     static constexpr std::size_t maxMemory = std::size_t(64) * 1024 * 1024; ///< bytes of the decoded text
 
-    /// Decodes a file's bytes, in any encoding that the parser knows, and judges the text. The encoding follows from the byte order mark, the first bytes or the
-    /// XML declaration; the parser is to be given the decoded text, so that it cannot understand another one.
+    /// Decodes a file's bytes, in any encoding that the parser knows, and judges the text. The encoding follows from the byte
+    /// order mark, the first bytes or the XML declaration; the parser is to be given the decoded text, so that it cannot understand another one.
     /// @return the text, or nothing when the bytes are not valid in their encoding or break a limit.
     static std::optional<QString> pass(std::string_view fileBytes);
 

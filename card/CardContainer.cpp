@@ -1,7 +1,7 @@
 #include "card/CardContainer.h"
 
 #include "app/Console.h"
-#include "app/NativePath.h"
+#include "app/FileName.h"
 #include "app/Progress.h"
 #include "card/FlightDetector.h"
 #include "card/record/RecordFile.h"
@@ -46,7 +46,7 @@ struct Listing {
 
 Listing::Listing(const QString& path)
 {
-    std::filesystem::directory_iterator entry(toNativePath(path), openError);
+    std::filesystem::directory_iterator entry(encodeFileName(path), openError);
     if (openError)
         return;
     for (; entry != std::filesystem::directory_iterator(); entry.increment(readError)) {
@@ -59,7 +59,7 @@ Listing::Listing(const QString& path)
 
 CardProblem problemOf(const RecordFile& file)
 {
-    return {toNativePath(lastComponent(file.fileName)), file.problem(), file.isSystemError()};
+    return {encodeFileName(lastComponent(file.fileName)), file.problem(), file.isSystemError()};
 }
 
 int64_t wholeMilliseconds(double seconds)
@@ -108,7 +108,7 @@ void CardContainer::readHeaders(const std::vector<std::string>& names)
     for (const std::string& name : names) {
         if (isRecordFile(name)) {
             RecordFile file(mConsole, *mpProgress);
-            file.readRecordInfo(mPath + "/" + fromNativePath(name));
+            file.readRecordInfo(mPath + "/" + decodeFileName(name));
             mFiles[name] = file.recordInfo();
             if (!file.problem().isEmpty())
                 mFolderProblems.push_back(problemOf(file));
@@ -232,7 +232,7 @@ void CardContainer::readRecords(const std::list<QString>& files)
 {
     bool first = true;
     for (const QString& path : files) {
-        const auto found = mFiles.find(toNativePath(lastComponent(path)));
+        const auto found = mFiles.find(encodeFileName(lastComponent(path)));
         if (found == mFiles.end())
             continue;
         const RecordInfo& info = found->second;

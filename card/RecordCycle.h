@@ -3,6 +3,7 @@
 #include "card/RecordFlight.h"
 #include "card/record/RecordInfo.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace ZARN {
@@ -14,6 +15,9 @@ struct RecordCycle {
     std::vector<RecordInfo> files; ///< in name order
     double endTime = 0.0;          ///< of the last file that holds a record, seconds since power-up
     std::vector<RecordFlight> flights;
+
+    /// Whether its length is known: no file's header is damaged.
+    [[nodiscard]] bool hasSoundTimes() const { return std::all_of(files.begin(), files.end(), [](const auto& file) { return file.hasSoundTimes(); }); }
 };
 
 } // namespace ZARN

@@ -1,7 +1,7 @@
 #include "card/record/RecordFile.h"
 
 #include "app/Console.h"
-#include "app/NativePath.h"
+#include "app/FileName.h"
 #include "app/Progress.h"
 #include "card/record/ByteOrder.h"
 #include "card/record/RecordData.h"
@@ -97,7 +97,7 @@ RecordFile::File RecordFile::openFile()
     mProblem.clear();
     mIsSystemError = false;
     // Not blocking: a pipe in the folder must not stop the program.
-    const int descriptor = open(toNativePath(fileName).c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    const int descriptor = open(encodeFileName(fileName).c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     struct stat status {};
     if (descriptor >= 0 && fstat(descriptor, &status) == 0) {
         if (S_ISREG(status.st_mode)) {
@@ -142,9 +142,9 @@ void RecordFile::noteDamage()
         note(tr("the header is damaged: no byte-order mark"), false);
     if ((mSize - kHeaderSize) % kRecordSize != 0)
         note(tr("the last record is cut off"), false);
-    if (recordCount > 0 && endTime < startTime)
+    if (!hasSoundTimes() && endTime < startTime)
         note(tr("damaged: its records end (%1 s) before they begin (%2 s)").arg(endTime).arg(startTime), false);
-    else if (recordCount > 0 && endTime > kLatestTime)
+    else if (!hasSoundTimes())
         note(tr("damaged: its records end at %1 s").arg(endTime), false);
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "card/record/RecordEntry.h"
+
 #include <QDateTime>
 #include <QString>
 
@@ -10,7 +12,7 @@ namespace ZARN {
 
 /// What the header of a record file tells: the unit's identity, the date of the recording, its span and size.
 struct RecordInfo {
-    QString fileName;   ///< full path; see fromNativePath() for names that are no text
+    QString fileName;   ///< full path; see decodeFileName() for names that are no text
     QDateTime dateTime; ///< wall clock of the recording, without a zone (kept as UTC); invalid when the unit had none
     double startTime = 0.0; ///< seconds since power-up, of the first data record
     double endTime = 0.0;   ///< of the last data record
@@ -24,6 +26,9 @@ struct RecordInfo {
     std::string softwarePartB;
     std::string emuSoftwareVersion;
     bool startsCycle = false; ///< set by the container: the unit was switched on with this file
+
+    /// Whether the span can be one; else the header is damaged.
+    [[nodiscard]] bool hasSoundTimes() const { return samples == 0 || (endTime >= startTime && endTime <= kLatestTime); }
 };
 
 } // namespace ZARN

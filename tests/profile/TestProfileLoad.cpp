@@ -250,7 +250,7 @@ void TestProfileLoad::errorMatricesTakeLaterParameters()
         <Device name="A"><Parameter name="before" id="9" startBit="1"/><ErrorMatrix id="9" name="first"/>
           <Parameter name="in" id="9" startBit="2" errorType="Fault"/><Parameter name="again" id="9" startBit="2"/>
           <Parameter name="x" id="8"/></Device>
-        <Device name="B"><ErrorMatrix id="0x9" name="second"/><Parameter name="far" id="9" startBit="31"/></Device>)");
+        <Device name="B"><ErrorMatrix id="0x9" name="second"/><Parameter name="far" id="9" startBit="31"/><Parameter name="none" id="9" startBit="32"/></Device>)");
     const auto& matrices = loaded.profile.errorMatrices();
     QCOMPARE(matrices.size(), std::size_t(2));
     QCOMPARE(matrices[0].bits.size(), std::size_t(2));

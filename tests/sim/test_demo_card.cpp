@@ -131,7 +131,8 @@ private Q_SLOTS:
         }
         // The boost overshoots on the first tow; on the second the engine grows too hot, and after it the oil pressure falls.
         for (const auto& [name, hit, spared] : {std::tuple{"Manifold Pressure A", 0, 1}, {"Coolant Temperature B", 1, 0}, {"EGT 2 A", 1, 0}}) {
-            QCOMPARE(card.worst(name, flights[hit].startTime, flights[hit].landingTime).first, int(eThresholdLimit));
+            const int state = card.worst(name, flights[hit].startTime, flights[hit].landingTime).first;
+            QVERIFY(state >= (variant == "916 A" ? eThresholdWarning : eThresholdLimit)); // the larger engine's limits are wider
             QCOMPARE(card.worst(name, flights[spared].startTime, flights[spared].landingTime).first, int(eThresholdOk));
         }
         QCOMPARE(card.worst("Oil Pressure", flights[1].landingTime, 1e9).first, int(eThresholdLimit));

@@ -1,6 +1,6 @@
 #include "support/CardBuilder.h"
 
-#include <QFile>
+#include "support/FileHelpers.h"
 
 #include <algorithm>
 #include <bit>
@@ -40,13 +40,6 @@ Payload dataPayload(uint8_t dataType, uint32_t data)
 {
     return {0, dataType, 0, 0, static_cast<uint8_t>(data >> 24), static_cast<uint8_t>(data >> 16), static_cast<uint8_t>(data >> 8),
             static_cast<uint8_t>(data)};
-}
-
-void writeFile(const QString& path, const QByteArray& bytes)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        qFatal("cannot write %s", path.toUtf8().constData());
 }
 
 } // namespace
@@ -161,7 +154,7 @@ RecordFileBuilder& CardBuilder::file(const std::string& name, bool bigEndian)
 
 void CardBuilder::rawFile(const std::string& name, const QByteArray& bytes) const
 {
-    writeFile(mFolder.filePath(QString::fromStdString(name)), bytes);
+    putFile(path().toStdString() + "/" + name, bytes.toStdString());
 }
 
 QString CardBuilder::write() const
