@@ -1,6 +1,9 @@
 #include "profile/ui/DialogProfileInfo.h"
 
 #include "app/Console.h"
+#include "app/RegularFile.h"
+#include "app/SafeFile.h"
+#include "app/XmlGuard.h"
 #include "profile/Profile.h"
 #include "profile/ProfileCatalogue.h"
 
@@ -28,19 +31,14 @@ QString tableRow(const QString& label, const std::string& value)
     return "<tr><td>" + label + "</td><td><b>" + escaped(value) + "</b></td></tr>";
 }
 
-/// Puts a copy of the file in the target's place. The target goes first, so that a failed copy leaves none.
+/// Puts a copy of the file in the target's place; a failure leaves the old one.
 bool copyProfile(const QString& file, const QString& target)
 {
-    const QString same = QFileInfo(target).canonicalFilePath();
-    if (!same.isEmpty() && same == QFileInfo(file).canonicalFilePath())
-        return true; // it is in its place already, and removing the target would remove the only one
-    QDir().mkpath(QFileInfo(target).absolutePath());
-    QFile::remove(target);
-    if (!QFile::copy(file, target))
+    const auto content = ZARN::readRegularFile(QFile::encodeName(file).toStdString(), ZARN::XmlGuard::maxFileSize);
+    if (!content || !QDir().mkpath(QFileInfo(target).absolutePath()))
         return false;
-    // A copy from a read-only medium is read-only too, and in the way of the next installation.
-    QFile::setPermissions(target, QFile::permissions(target) | QFile::WriteOwner);
-    return true;
+    ZARN::SafeFile copy(QFile::encodeName(target).toStdString());
+    return copy.open() && copy.write(*content) && copy.commit();
 }
 
 } // namespace
@@ -67,9 +65,10 @@ DialogProfileInfo::DialogProfileInfo(const ZARN::Session& session, const ZARN::P
     fillProfileInfo();
 }
 
-void DialogProfileInfo::setProfileFile(const QString& path)
+void DialogProfileInfo::setProfileFile(const QString& path, bool isChosenFile)
 {
     mProfileFile = path;
+    mIsChosenFile = isChosenFile;
     if (!path.isEmpty())
         mSession.profile.loadVariants(path);
 }
@@ -115,7 +114,7 @@ void DialogProfileInfo::slotLink(const QString& link)
 
 void DialogProfileInfo::install(const QString& file)
 {
-    const QString target = mCatalogue.installPath(mProfileFile, file);
+    const QString target = mCatalogue.installPath(mIsChosenFile ? QString() : mProfileFile, file);
     if (!mSession.profile.loadProfile(file)) {
         report(QMessageBox::Information, tr("ZARN Warning"), tr("Not a valid ZARN profile !"));
         return;
@@ -127,6 +126,7 @@ void DialogProfileInfo::install(const QString& file)
         return;
     }
     mProfileFile = target;
+    mIsChosenFile = false;
     report(QMessageBox::Information, tr("ZARN Info"), tr("New profile installed !"));
     adoptVariants(target);
     fillProfileInfo();
