@@ -30,11 +30,12 @@ void Application::end()
 {
     const bool isFirst = mReserve.capacity() != 0;
     std::vector<char>().swap(mReserve);
-    exit(reportExhausted());
-    if (!isFirst)
-        return; // the message itself was too much
-    QMessageBox box(QMessageBox::Critical, tr("ZARN Warning"), tr("The memory is not enough: ZARN ends.\nSettings are kept."));
-    box.exec();
+    reportExhausted();
+    if (isFirst) { // else the message itself was too much
+        for (QWidget* pWindow : topLevelWidgets())
+            pWindow->hide(); // what they show may be half done
+        QMessageBox(QMessageBox::Critical, tr("ZARN Warning"), tr("The memory is not enough: ZARN ends.\nSettings are kept.")).exec();
+    }
     exit(1);
 }
 

@@ -249,6 +249,8 @@ void DialogMain::restoreCard()
 {
     const QFileInfo given(QString::fromStdString(mDesktop.cmdLine.operand()));
     const QString last = QString::fromStdString(mSession.property.getString("LastPath", ""));
+    if (!given.filePath().isEmpty() && !given.exists())
+        mSession.console.print("could not open folder <%s>\n", mDesktop.cmdLine.operand().c_str());
     if (!given.filePath().isEmpty())
         openFolder(given.isFile() ? given.absolutePath() : given.absoluteFilePath());
     else if (!last.isEmpty() && !mDesktop.withDefaults)
