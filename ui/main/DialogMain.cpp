@@ -222,9 +222,13 @@ void DialogMain::createNotices()
 {
     mpNotices = new Notices(this);
     mpNotices->setProblem(Notices::eGraphics, mDesktop.graphicsProblem);
+    const QString unsaved = tr("Settings cannot be saved");
+    const QString file = QString::fromStdString(mSession.property.configFile());
     if (mSession.property.isUnread())
-        mpNotices->setProblem(Notices::eSettings, tr("Settings unreadable: defaults are in force"), QString::fromStdString(mSession.property.configFile()));
-    mpNotices->watch(mSession.property.file(), Notices::eSettings, tr("Settings cannot be saved"));
+        mpNotices->setProblem(Notices::eSettings, tr("Settings unreadable: defaults are in force"), file);
+    else if (!QFileInfo(QFileInfo(file).absolutePath()).isWritable())
+        mpNotices->setProblem(Notices::eSettings, unsaved, file);
+    mpNotices->watch(mSession.property.file(), Notices::eSettings, unsaved);
     mpNotices->watch(mSession.project.file(), Notices::eProject, tr("Project cannot be saved"));
 }
 

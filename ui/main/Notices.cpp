@@ -7,8 +7,16 @@
 #include <QMainWindow>
 #include <QMessageBox>
 #include <QStatusBar>
+#include <QTimer>
 
 namespace ZARN {
+
+namespace {
+
+constexpr int kDelay = 200; // milliseconds: at start the window must have its place, for the message to stand in front of it
+constexpr int kGap = 6;
+
+} // namespace
 
 Notices::Notices(QMainWindow* pWindow) : QObject(pWindow), mpWindow(pWindow) {}
 
@@ -24,6 +32,7 @@ void Notices::setProblem(EProblem problem, const QString& text, const QString& d
         pLabel = new QLabel;
         pLabel->setObjectName("warning");
         pLabel->setTextFormat(Qt::PlainText);
+        pLabel->setContentsMargins(kGap, 0, kGap, 0);
         mpWindow->statusBar()->insertPermanentWidget(0, pLabel);
     }
     pLabel->setText(text);
@@ -33,7 +42,7 @@ void Notices::setProblem(EProblem problem, const QString& text, const QString& d
 void Notices::tell(const QString& text)
 {
     mMessages.append(text);
-    QMetaObject::invokeMethod(this, &Notices::showQueued, Qt::QueuedConnection);
+    QTimer::singleShot(kDelay, this, &Notices::showQueued);
 }
 
 QString Notices::takeMessages()

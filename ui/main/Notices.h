@@ -12,8 +12,8 @@ namespace ZARN {
 
 class UserFile;
 
-/// What the user must know beside the work: standing problems in the status bar, and messages, which wait for the event loop, for what
-/// they report happens in the middle of something. Owned by the main window.
+/// What the user must know beside the work: standing problems in the status bar, and messages, which come a moment later, for what they
+/// report happens in the middle of something. Owned by the main window.
 class Notices : public QObject {
     Q_OBJECT
 
@@ -25,7 +25,7 @@ public:
     /// @param text short, an empty one ends the problem; @param detail is told by the tool tip.
     void setProblem(EProblem problem, const QString& text, const QString& detail = {});
     [[nodiscard]] bool hasProblem(EProblem problem) const { return mLabels.contains(problem); }
-    /// Shows a message as soon as the event loop runs; nothing waits for its answer.
+    /// Shows a message a moment later; nothing waits for its answer.
     void tell(const QString& text);
     /// Shows the messages that have not been shown, and waits until they are closed.
     void showWaiting();
