@@ -3,9 +3,11 @@
 #include "app/Console.h"
 #include "app/RegularFile.h"
 #include "app/SafeFile.h"
+#include "app/UserFile.h"
 #include "app/XmlGuard.h"
 #include "profile/Profile.h"
 #include "profile/ProfileCatalogue.h"
+#include "profile/ui/ProfileProblem.h"
 
 #include <QDialogButtonBox>
 #include <QDir>
@@ -31,12 +33,14 @@ QString tableRow(const QString& label, const std::string& value)
     return "<tr><td>" + label + "</td><td><b>" + escaped(value) + "</b></td></tr>";
 }
 
-/// Puts a copy of the file in the target's place; a failure leaves the old one.
-bool copyProfile(const QString& file, const QString& target)
+/// Puts a copy of the file in the target's place; a failure leaves the old one, and an old one that cannot be read is put aside.
+bool copyProfile(const ZARN::Console& console, const QString& file, const QString& target)
 {
     const auto content = ZARN::readRegularFile(QFile::encodeName(file).toStdString(), ZARN::XmlGuard::maxFileSize);
     if (!content || !QDir().mkpath(QFileInfo(target).absolutePath()))
         return false;
+    if (QFileInfo(target).isFile() && !ZARN::profileProblem(console, target).isEmpty())
+        ZARN::UserFile::putAside(target, "damaged");
     ZARN::SafeFile copy(QFile::encodeName(target).toStdString());
     return copy.open() && copy.write(*content) && copy.commit();
 }
@@ -120,7 +124,7 @@ void DialogProfileInfo::install(const QString& file)
         return;
     }
     mSession.console.print("Copy profile to <%s>\n", target.toUtf8().constData());
-    if (!copyProfile(file, target)) {
+    if (!copyProfile(mSession.console, file, target)) {
         report(QMessageBox::Warning, tr("ZARN Info"), tr("Profile Installation failed !"));
         fillProfileInfo();
         return;

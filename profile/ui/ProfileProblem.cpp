@@ -20,7 +20,8 @@ QString profileProblem(const Console& console, const QString& path)
     if (!XmlHandler(console).xmlReadFile(document, path))
         return text(QT_TRANSLATE_NOOP("ZARN::ProfileProblem", "The file %1 is damaged: it is no well-formed XML."));
     if (!Profile::isProfile(document.documentElement()))
-        return text(QT_TRANSLATE_NOOP("ZARN::ProfileProblem", "The file %1 is no profile: its first element is another one than <CanAerospaceProfile>."));
+        return text(QT_TRANSLATE_NOOP("ZARN::ProfileProblem",
+                                      "The file %1 is no profile: its first element is another one than <CanAerospaceProfile>."));
     return {};
 }
 

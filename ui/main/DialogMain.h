@@ -115,6 +115,7 @@ private:
     void addMorePaths();
     void addUnits();
     void restoreCard();
+    void tellProfileProblem();
     void showInformation(int id);
     bool cleanup();
 

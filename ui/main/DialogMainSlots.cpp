@@ -105,16 +105,22 @@ void DialogMain::updateUnit()
 void DialogMain::loadProfile()
 {
     mpProfileController->load();
-    const QString& problem = mpProfileController->problem();
-    const bool hasProfile = !mpProfileController->file().isEmpty();
-    mpNotices->setProblem(Notices::eProfile, problem.isEmpty() ? problem : hasProfile ? tr("Another profile is in force") : tr("No profile"), problem);
-    if (!problem.isEmpty())
-        mpNotices->tell(problem);
+    tellProfileProblem();
     mpProfileInfo->setProfileFile(mpProfileController->file(), mpProfileController->isChosenFile());
     mpProfileInfo->fillProfileInfo();
     mpProfile->updateProfile();
     mpData->loadProfile();
     mpData->updateProfile();
+}
+
+void DialogMain::tellProfileProblem()
+{
+    const QString& problem = mpProfileController->problem();
+    if (problem.isEmpty())
+        return mpNotices->setProblem(Notices::eProfile, {});
+    mpNotices->setProblem(Notices::eProfile, mpProfileController->file().isEmpty() ? tr("No profile") : tr("Another profile is in force"),
+                          problem);
+    mpNotices->tell(problem);
 }
 
 void DialogMain::fillProfiles()
@@ -178,7 +184,8 @@ void DialogMain::slotCanChanged()
 
 void DialogMain::slotZarnMode(int mode)
 {
-    mpCardController->restoreFolder(QString::fromStdString(mSession.property.getString("LastPath", ".")));
+    if (const QString last = QString::fromStdString(mSession.property.getString("LastPath", "")); !last.isEmpty())
+        mpCardController->restoreFolder(last);
     mpData->setZarnMode(mode);
 }
 

@@ -78,7 +78,9 @@ void Notices::watch(UserFile& file, EProblem problem, const QString& failure)
         switch (event) {
         case UserFile::EEvent::eWritten: setProblem(problem, {}); break;
         case UserFile::EEvent::eNotWritten: setProblem(problem, failure, name); break;
-        case UserFile::EEvent::ePutAside: tell(tr("A file that could not be read was put aside, as a new one takes its place:\n%1").arg(name)); break;
+        case UserFile::EEvent::ePutAside:
+            tell(tr("A file that could not be read was put aside, as a new one takes its place:\n%1").arg(name));
+            break;
         }
     });
 }

@@ -122,7 +122,7 @@ void TestPreferences::wheelPassesOver()
     for (QWidget* pField : fields) {
         const QVariant before = value(pField);
         for (const int notch : {-120, 120}) {
-            QWheelEvent wheel(QPointF(5, 5), pField->mapToGlobal(QPointF(5, 5)), {}, {0, notch}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+            QWheelEvent wheel({5, 5}, pField->mapToGlobal(QPointF(5, 5)), {}, {0, notch}, Qt::NoButton, {}, Qt::NoScrollPhase, false);
             QApplication::sendEvent(pField, &wheel);
             QCOMPARE(value(pField), before);
         }
@@ -136,7 +136,9 @@ void TestPreferences::profilePath()
     DialogPreferences dialog(sessionOf(desktop), desktop.kernel);
     QSignalSpy changed(&dialog, &DialogPreferences::signalProfileFileChanged);
     const QString file = home.filePath("<b>other.xml");
-    for (const auto& [content, reason] : {std::pair("", "no well-formed XML"), std::pair("<ZarnProject/>", "first element"), std::pair("<CanAerospaceProfile/>", "")}) {
+    const std::pair<const char*, const char*> files[] = {
+        {"", "no well-formed XML"}, {"<ZarnProject/>", "first element"}, {"<CanAerospaceProfile/>", ""}};
+    for (const auto& [content, reason] : files) {
         putFile(file.toStdString(), content);
         Answer answer(Answer::close);
         dialog.slotProfilePath(file);

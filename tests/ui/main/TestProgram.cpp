@@ -72,7 +72,8 @@ void TestProgram::startUp()
     const QTemporaryDir home;
     const QString output = run(home.path(), {});
     const QString data = home.path() + "/.local/share/ZARN";
-    verifyOrder(output, {"Version  : ZARN 2.1.0\n", "HOME: <" + home.path() + ">\n", "Data Path      : <" + data + ">\n", "readXmlFile <" + data + "/ZARN.ini> 0\n", "Translation QT <us> 0\n",
+    verifyOrder(output, {"Version  : ZARN 2.1.0\n", "HOME: <" + home.path() + ">\n", "Data Path      : <" + data + ">\n",
+                         "readXmlFile <" + data + "/ZARN.ini> 0\n", "Translation QT <us> 0\n",
                          "Translation IOS <us> 0\n", "Profile::loadProfil <", "CurrentProject.xml"});
     QVERIFY(!output.contains("readContainer"));
     QVERIFY(!output.contains("Usage of"));
