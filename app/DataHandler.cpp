@@ -41,7 +41,6 @@ DataHandler::DataHandler(const std::string& executableDirectory, const std::opti
         }
     }
     ensureDirectory(mDataPath, "DataPath", console);
-    ensureDirectory(mUserDataPath, "UserDataPath", console);
     console.print("Data Path      : <%s>\n", mDataPath.c_str());
     console.print("User Data Path : <%s>\n", mUserDataPath.c_str());
     console.print("Resource Path  : <%s>\n", mResourcePath.c_str());

@@ -2,7 +2,6 @@
 
 #include "app/Console.h"
 #include "app/RegularFile.h"
-#include "app/XmlGuard.h"
 #include "app/XmlHandler.h"
 
 #include <QFile>
@@ -46,7 +45,7 @@ bool Property::readXmlFile(const std::string& path)
 {
     const XmlHandler xml(mConsole);
     QDomDocument document;
-    const bool read = xml.xmlReadFile(document, filePath(path));
+    const bool read = mFile.read(document, filePath(path));
     for (QDomElement element = document.documentElement().firstChildElement("Property"); !element.isNull();
          element = element.nextSiblingElement("Property")) {
         const QDomNamedNodeMap attributes = element.attributes();
@@ -68,12 +67,12 @@ bool Property::writeXmlFile(const std::string& path) const
         xml.xmlCreateAttribute(document, element, "id", key);
         xml.xmlCreateAttribute(document, element, "value", value);
     }
-    // A huge value would make a file that the next start refuses, and cost all the other settings.
-    if (!XmlGuard::accepts(document.toString(4).toStdString())) {
-        mConsole.print("could not open file for writing !<%s>\n", path.c_str());
-        return false;
-    }
-    return xml.xmlWriteFile(document, filePath(path));
+    return mFile.write(document, filePath(path));
+}
+
+bool Property::isUnread() const
+{
+    return mFile.isUnread(filePath(mConfigFile));
 }
 
 bool Property::readConfigFile(const std::string& path)

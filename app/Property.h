@@ -1,19 +1,19 @@
 #pragma once
 
+#include "app/UserFile.h"
+
 #include <map>
 #include <string>
 #include <string_view>
 
 namespace ZARN {
 
-class Console;
-
 /// The settings: names with values that are stored as text; types exist in the getters and setters alone. Setters change
 /// the memory only, writeXmlFile() makes a change last. Each reader brings its own default. The program's own
 /// object lives until the process ends; byte strings are UTF-8.
 class Property {
 public:
-    explicit Property(const Console& console) : mConsole(console) {}
+    explicit Property(const Console& console) : mConsole(console), mFile(console) {}
     static Property& instance();
 
     /// Remembers the path of the settings file; reads nothing.
@@ -26,6 +26,11 @@ public:
     /// Replaces the file by all entries that are not empty.
     /// @return false, with a console line and the old file as it was, when it cannot be written or could not be read back.
     bool writeXmlFile(const std::string& path) const;
+    /// What became of the settings file.
+    [[nodiscard]] UserFile& file() const { return mFile; }
+    /// Whether there is a settings file that could not be read: everything has its default then.
+    [[nodiscard]] bool isUnread() const;
+    [[nodiscard]] const std::string& configFile() const { return mConfigFile; }
 
     bool readConfigFile() { return readConfigFile(mConfigFile); }
     /// Remembers the path and replaces all entries by the file's "key = value" lines. @return false, with nothing else changed, when
@@ -57,6 +62,7 @@ private:
     void readLines(std::string_view text);
 
     const Console& mConsole;
+    mutable UserFile mFile;
     std::string mConfigFile;
     std::map<std::string, std::string> mProperties;
 };

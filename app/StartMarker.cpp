@@ -1,11 +1,13 @@
 #include "app/StartMarker.h"
 
 #include "app/RegularFile.h"
+#include "app/UserFile.h"
+
+#include <QFile>
 
 #include <cstdio>
 #include <cstdlib>
 #include <cerrno>
-#include <filesystem>
 #include <fstream>
 
 #include <signal.h>
@@ -45,12 +47,14 @@ void StartMarker::succeed()
     mIsSet = false;
 }
 
-void StartMarker::putAside(const std::string& dataPath)
+bool StartMarker::putAside(const std::string& dataPath)
 {
+    bool isDone = true;
     for (const char* name : {"/ZARN.ini", "/CurrentProject.xml"}) {
-        std::error_code ignored; // a file that is not there needs no care
-        std::filesystem::rename(dataPath + name, dataPath + name + ".old", ignored);
+        const QString path = QFile::decodeName(dataPath.c_str()) + name;
+        isDone = (!UserFile::putAside(path, "old").isEmpty() || !QFile::exists(path)) && isDone;
     }
+    return isDone;
 }
 
 } // namespace ZARN

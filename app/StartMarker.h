@@ -16,8 +16,9 @@ public:
     /// Removes the marker that begin() set.
     void succeed();
 
-    /// Puts settings and current project aside as "NAME.old", so that the program begins with defaults and nothing is lost.
-    static void putAside(const std::string& dataPath);
+    /// Puts settings and current project aside as "NAME.old-1", or the next number that is free, so that the program begins with
+    /// defaults and nothing is lost. @return whether none of them is in its place any more.
+    static bool putAside(const std::string& dataPath);
 
 private:
     std::string mPath;

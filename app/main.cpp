@@ -5,6 +5,7 @@
 #include "app/Revision.h"
 #include "app/StartMarker.h"
 #include "app/StyleHandler.h"
+#include "app/gui/Application.h"
 #include "app/gui/DialogSplash.h"
 #include "app/gui/GraphicsCheck.h"
 #include "app/gui/ImageHandler.h"
@@ -14,7 +15,6 @@
 #include "project/Project.h"
 #include "ui/main/DialogMain.h"
 
-#include <QApplication>
 #include <QFileInfo>
 #include <QLocale>
 #include <QMessageBox>
@@ -23,21 +23,27 @@
 
 #include <csignal>
 #include <cstdio>
+#include <new>
 
 namespace ZARN {
 
 namespace {
 
-/// Whether an argument names a card folder, or one of its files, as file managers hand over what is opened with the program.
+/// Whether an argument names a card folder, or one of its files, as file managers hand over what is opened with the program. What is not
+/// there counts, so that the window says what is missing.
 bool isCard(const std::string& argument)
 {
     const QFileInfo info(QString::fromStdString(argument));
+    if (!info.exists())
+        return !argument.empty() && !argument.starts_with('-');
     return info.isDir() || (info.isFile() && QStringList{"CAN", "can", "xcb"}.contains(info.suffix()));
 }
 
 void registerOptions(CmdLine& cmdLine)
 {
     cmdLine.addSwitch("-h", "print this help");
+    cmdLine.addSwitch("--help", "print this help and end");
+    cmdLine.addSwitch("--version", "print the version and end");
     cmdLine.addSwitch("-emu", "EMU display only");
     cmdLine.addSwitch("-connect", "connect after startup");
     cmdLine.addParameter("-s", "stylefile to load", "");
@@ -56,10 +62,10 @@ void setAttributes()
     QT_WARNING_POP
 }
 
-/// Loads a translation from the application bundle or, where there is none, from the resources.
+/// Loads a translation from beside the executable or from the resources. Never from the current folder: that may be a stranger's card.
 bool loadTranslation(QTranslator& translator, const QString& name)
 {
-    return translator.load(name, "zarn.app/Contents/Resources/")
+    return translator.load(name, QCoreApplication::applicationDirPath())
            || translator.load(name, QString::fromStdString(DataHandler::instance().resourcePath()));
 }
 
@@ -81,10 +87,12 @@ bool wantsDefaults()
     QMessageBox box(QMessageBox::Question, QCoreApplication::translate("ZARN::main", "ZARN Warning"),
                     QCoreApplication::translate("ZARN::main", "The last start of ZARN failed.\nBegin with default settings ?"));
     box.setInformativeText(QCoreApplication::translate("ZARN::main", "Settings and current project are put aside, not deleted."));
-    box.addButton(QCoreApplication::translate("ZARN::main", "Begin with defaults"), QMessageBox::AcceptRole);
-    const QPushButton* pKeep = box.addButton(QCoreApplication::translate("ZARN::main", "Start as usual"), QMessageBox::RejectRole);
+    const QPushButton* pDefaults = box.addButton(QCoreApplication::translate("ZARN::main", "Begin with defaults"), QMessageBox::AcceptRole);
+    QPushButton* pKeep = box.addButton(QCoreApplication::translate("ZARN::main", "Start as usual"), QMessageBox::RejectRole);
+    box.setDefaultButton(pKeep); // a key that was meant for something else must not cost the settings
+    box.setEscapeButton(pKeep);
     box.exec();
-    return box.clickedButton() != pKeep;
+    return box.clickedButton() == pDefaults;
 }
 
 /// @return whether the program begins with defaults.
@@ -98,19 +106,18 @@ bool readSettings(StartMarker& marker, DialogSplash& splash)
         defaults = wantsDefaults();
         splash.show();
     }
-    if (defaults)
-        StartMarker::putAside(dataPath);
     property.setConfigFile(dataPath + "/ZARN.ini");
-    property.readXmlFile();
+    // What could not be put aside is not read either; a folder that refuses that does not let it be written over.
+    if (!defaults || StartMarker::putAside(dataPath))
+        property.readXmlFile();
     return defaults;
 }
 
-void applyStyle(QApplication& application)
+void applyStyle(Kernel& kernel)
 {
     std::string file;
     CmdLine::instance().getParameter("-s", file);
-    const QString path = file.empty() ? QString(":/styles/style.ZARN.css") : QString::fromStdString(file);
-    application.setStyleSheet(StyleHandler::instance().readStyle(path));
+    kernel.loadStyleFile(file.empty() ? QString(":/styles/style.ZARN.css") : QString::fromStdString(file));
 }
 
 QString checkGraphics(const Console& console)
@@ -121,19 +128,29 @@ QString checkGraphics(const Console& console)
     return problem;
 }
 
-int runProgram(int argc, char** argv)
+/// Answers what needs no window. @return whether that was all.
+bool isAnswered(int argc, char** argv, const Console& console)
+{
+    const Console silent([](std::string_view) {}, [](std::string_view) {});
+    CmdLine given(silent);
+    registerOptions(given);
+    given.parse(argc, argv);
+    if (!given.getSwitch("--help") && !given.getSwitch("--version"))
+        return false;
+    CmdLine usage(console);
+    registerOptions(usage);
+    usage.parse(1, argv); // for the program's name
+    if (given.getSwitch("--help"))
+        usage.printUsage();
+    else
+        console.print("%s\n", Revision::getRevisionString().c_str());
+    return true;
+}
+
+int runWindow(QApplication& application)
 {
     const Console& console = Console::standardOutput();
-    Revision::printHeader(console);
     CmdLine& cmdLine = CmdLine::instance();
-    registerOptions(cmdLine);
-    if (!cmdLine.parse(argc, argv) || cmdLine.getSwitch("-h"))
-        cmdLine.printUsage();
-    QApplication::setStyle("Fusion");
-    QApplication application(argc, argv);
-    QApplication::setApplicationName(QString::fromStdString(Revision::getName()));
-    QApplication::setApplicationVersion(QString::fromStdString(Revision::getRevisionNumber()));
-    ImageHandler::initialise();
     DialogSplash& splash = DialogSplash::instance();
     splash.addEntry("Starting up ZARN...");
     splash.addEntry(QString("Version %1").arg(QString::fromStdString(Revision::getRevisionString())));
@@ -147,7 +164,7 @@ int runProgram(int argc, char** argv)
     static QTranslator ownTexts;
     installTranslation(toolkitTexts, "qt_", "QT", console);
     installTranslation(ownTexts, "zarn_", "IOS", console);
-    applyStyle(application);
+    applyStyle(kernel);
     splash.addEntry("Creating Dialogs ...");
     const Session session{console, Property::instance(), Profile::instance(), CardContainer::instance(), Project::instance()};
     const Desktop desktop{cmdLine, DataHandler::instance(), kernel, checkGraphics(console), defaults};
@@ -155,11 +172,30 @@ int runProgram(int argc, char** argv)
     kernel.setMainWindow(&window);
     application.installEventFilter(&window);
     QObject::connect(&window, &DialogMain::signalStarted, [&marker] { marker.succeed(); });
-    splash.finish();
+    splash.finish(&window);
     const int status = QApplication::exec();
     marker.succeed(); // quit before the window had restored anything
     kernel.setMainWindow(nullptr);
+    kernel.finishRestart();
     return status;
+}
+
+int runProgram(int argc, char** argv)
+{
+    const Console& console = Console::standardOutput();
+    if (isAnswered(argc, argv, console))
+        return std::fflush(stdout) == 0 && std::ferror(stdout) == 0 ? 0 : 1;
+    Revision::printHeader(console);
+    CmdLine& cmdLine = CmdLine::instance();
+    registerOptions(cmdLine);
+    if (!cmdLine.parse(argc, argv) || cmdLine.getSwitch("-h"))
+        cmdLine.printUsage();
+    QApplication::setStyle("Fusion");
+    Application application(argc, argv);
+    QApplication::setApplicationName(QString::fromStdString(Revision::getName()));
+    QApplication::setApplicationVersion(QString::fromStdString(Revision::getRevisionNumber()));
+    ImageHandler::initialise();
+    return runWindow(application);
 }
 
 } // namespace
@@ -174,5 +210,9 @@ int main(int argc, char** argv)
 #endif
     std::signal(SIGPIPE, SIG_IGN);
     std::setvbuf(stdout, nullptr, _IOLBF, 0); // a log that is read while the program runs, or after it crashed, is whole
-    return ZARN::runProgram(argc, argv);
+    try {
+        return ZARN::runProgram(argc, argv);
+    } catch (const std::bad_alloc&) {
+        return ZARN::Application::reportExhausted();
+    }
 }

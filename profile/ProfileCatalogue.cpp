@@ -15,13 +15,6 @@ namespace {
 const QString kFileName = QStringLiteral("Profile.xml");
 const QString kFolderName = QStringLiteral("profiles/");
 
-/// The folder that a profile file of this path gets when no profile is there whose place it could take.
-QString folderNameFor(const QString& file)
-{
-    const QFileInfo info(file);
-    return info.fileName() == kFileName ? info.absoluteDir().dirName() : info.completeBaseName();
-}
-
 /// Puts "folder/" before every text that stands more than once.
 void separateTexts(std::vector<ProfileEntry>& entries)
 {
@@ -85,17 +78,33 @@ void ProfileCatalogue::refresh()
 
 ProfileEntry ProfileCatalogue::find(const QString& setting) const
 {
-    const auto named = std::ranges::find(mEntries, setting, &ProfileEntry::text);
-    if (named != mEntries.end())
-        return *named;
-    Found found;
-    if (!setting.isEmpty() && readProfile(setting, found)) {
-        const auto same = std::ranges::find_if(mEntries, [file = QFileInfo(setting)](const ProfileEntry& entry) {
-            return entry.variant.empty() && QFileInfo(entry.path) == file;
-        });
-        return same != mEntries.end() ? *same : ProfileEntry{setting, setting, {}};
+    if (setting.isEmpty())
+        return {};
+    for (const bool isText : {true, false}) {
+        const auto named = std::ranges::find_if(
+            mEntries, [&](const ProfileEntry& entry) { return (isText ? entry.text : QFileInfo(entry.path).dir().dirName()) == setting; });
+        if (named != mEntries.end())
+            return *named;
     }
-    return mEntries.empty() ? ProfileEntry{} : mEntries.front();
+    Found found;
+    if (!readProfile(setting, found))
+        return {};
+    const ProfileEntry own = entryOf(setting, {});
+    return own.text.isEmpty() || !own.variant.empty() ? ProfileEntry{setting, setting, {}} : own;
+}
+
+ProfileEntry ProfileCatalogue::entryOf(const QString& file, const std::string& variant) const
+{
+    ProfileEntry first;
+    for (const ProfileEntry& entry : mEntries) {
+        if (QFileInfo(entry.path) != QFileInfo(file))
+            continue;
+        if (entry.variant == variant)
+            return entry;
+        if (first.text.isEmpty())
+            first = entry;
+    }
+    return first;
 }
 
 QString ProfileCatalogue::installPath(const QString& loadedFile, const QString& newFile) const
@@ -104,7 +113,7 @@ QString ProfileCatalogue::installPath(const QString& loadedFile, const QString& 
     const QFileInfo folderInfo(folder);
     if (!folder.isEmpty() && (mUserFolder.isEmpty() || (folderInfo.isDir() && folderInfo.isWritable())))
         return folder + "/" + kFileName;
-    const QString name = folderInfo.fileName().isEmpty() ? folderNameFor(newFile) : folderInfo.fileName();
+    const QString name = folderInfo.fileName().isEmpty() ? QFileInfo(newFile).completeBaseName() : folderInfo.fileName();
     return (mUserFolder.isEmpty() ? mShippedFolder : mUserFolder) + name + "/" + kFileName;
 }
 

@@ -30,13 +30,16 @@ public:
     [[nodiscard]] const std::vector<ProfileEntry>& entries() const { return mEntries; }
 
     /// What the setting "Profile" names: an entry by its text, or a profile file by its path (loaded without a variant; its text is the
-    /// path, unless the file has an entry of its own without a variant). @return the first entry when it names nothing, an empty one
-    /// when there is none.
+    /// path, unless the file has an entry of its own without a variant), or a folder, for its first entry. @return an empty entry when it
+    /// names nothing.
     [[nodiscard]] ProfileEntry find(const QString& setting) const;
+    /// The entry of a profile file with that variant, or its first one. @return an empty entry when the file is none of the catalogue's.
+    [[nodiscard]] ProfileEntry entryOf(const QString& file, const std::string& variant) const;
 
     /// Where a new profile file goes: in place of the "Profile.xml" in the folder of the loaded one, or, where that folder cannot be
     /// written, below the user's data in a folder of the same name. Creates nothing.
-    /// @param loadedFile path of the loaded profile, empty when none is; the new file then names the folder.
+    /// @param loadedFile path of the loaded profile, empty when none is or when it is none of the catalogue's; the new file then names the
+    /// folder.
     [[nodiscard]] QString installPath(const QString& loadedFile, const QString& newFile) const;
 
 private:

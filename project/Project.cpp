@@ -35,7 +35,7 @@ void Project::clear()
 bool Project::readProject(const QString& path)
 {
     QDomDocument document;
-    if (!XmlHandler(mConsole).xmlReadFile(document, path))
+    if (!mFile.read(document, path))
         return false;
     readRoot(document.documentElement());
     setProfileData();
@@ -82,7 +82,7 @@ bool Project::saveProject(const QString& path)
         xml.xmlCreateAttribute(document, element, "id", id);
         xml.xmlCreateAttribute(document, element, "value", value);
     }
-    xml.xmlWriteFile(document, path); // the caller shows no error; the console has it
+    mFile.write(document, path);
     return true;
 }
 

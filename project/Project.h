@@ -1,16 +1,15 @@
 #pragma once
 
+#include "app/UserFile.h"
+
 #include <QString>
 
 #include <map>
 #include <set>
 #include <string>
 
-class QDomElement;
-
 namespace ZARN {
 
-class Console;
 class Profile;
 
 /// The user's working choices over the loaded profile: which parameters are shown, and a set of named CAN properties. Names
@@ -18,7 +17,7 @@ class Profile;
 /// has one project, reached by instance(). Byte strings are UTF-8.
 class Project {
 public:
-    Project(const Console& console, Profile& profile) : mConsole(console), mProfile(profile) {}
+    Project(const Console& console, Profile& profile) : mConsole(console), mProfile(profile), mFile(console) {}
     Project(const Project&) = delete;
     Project& operator=(const Project&) = delete;
     static Project& instance();
@@ -30,8 +29,10 @@ public:
     /// and nothing changed, when the file cannot be read or is not well-formed.
     bool readProject(const QString& path);
     /// Takes the selected parameters over from the profile and writes the project file. @return true also when the file could not be
-    /// written: a console line says so, and the old file is then untouched.
+    /// written: a console line and file() say so, and the old file is then untouched.
     bool saveProject(const QString& path);
+    /// What became of the project files.
+    [[nodiscard]] UserFile& file() { return mFile; }
     /// Shows exactly those parameters of the current profile whose names are in the project.
     void setProfileData();
     /// Takes over which parameters of the current profile are shown; names that it lacks stay.
@@ -47,6 +48,7 @@ private:
 
     const Console& mConsole;
     Profile& mProfile;
+    UserFile mFile;
     std::set<std::string> mNames;
     std::map<std::string, std::string> mCanProperties; // value by id
 };

@@ -1,5 +1,6 @@
 #include "app/gui/DialogSplash.h"
 
+#include <QEvent>
 #include <QPainter>
 
 namespace ZARN {
@@ -16,8 +17,9 @@ constexpr int kStandingMilliseconds = 3000;
 
 DialogSplash* DialogSplash::mpSplash = nullptr;
 
-DialogSplash::DialogSplash() : QSplashScreen(QPixmap(":/images/splash.png"))
+DialogSplash::DialogSplash() : QSplashScreen(QPixmap(":/images/splash.png"), Qt::WindowStaysOnTopHint)
 {
+    setAttribute(Qt::WA_QuitOnClose, false); // the picture alone keeps no program alive
     mTimer.setSingleShot(true);
     connect(&mTimer, &QTimer::timeout, this, &DialogSplash::slotTimeout);
     show();
@@ -41,8 +43,10 @@ void DialogSplash::addEntry(const QString& text)
     repaint();
 }
 
-void DialogSplash::finish()
+void DialogSplash::finish(QWidget* pWindow)
 {
+    if (pWindow)
+        pWindow->installEventFilter(this);
     if (mpSplash == this)
         mpSplash = nullptr;
     mTimer.start(kStandingMilliseconds);
@@ -56,12 +60,20 @@ void DialogSplash::slotTimeout()
 void DialogSplash::drawContents(QPainter* pPainter)
 {
     QSplashScreen::drawContents(pPainter);
+    pPainter->setFont(QFont()); // the lines have a fixed distance, whatever the font size of the windows
     pPainter->setPen(QColor(0, 0, 200));
     int baseline = kFirstBaseline;
     for (const QString& entry : mEntries) {
         pPainter->drawText(kLeft, baseline, entry);
         baseline += kLineHeight;
     }
+}
+
+bool DialogSplash::eventFilter(QObject* pObject, QEvent* pEvent)
+{
+    if (pEvent->type() == QEvent::WindowBlocked || pEvent->type() == QEvent::Hide)
+        close();
+    return QSplashScreen::eventFilter(pObject, pEvent);
 }
 
 void DialogSplash::mousePressEvent(QMouseEvent* /*pEvent*/)

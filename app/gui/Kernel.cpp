@@ -24,7 +24,7 @@ Kernel& Kernel::instance()
 void Kernel::loadStyleFile(const QString& styleFile)
 {
     mStyle.readStyle(styleFile);
-    applyFontSize(mProperty.getInt("FontSize", 12));
+    applyFontSize(fontSize(mProperty));
 }
 
 void Kernel::applyFontSize(int pixels)
@@ -33,11 +33,25 @@ void Kernel::applyFontSize(int pixels)
         mpApplication->setStyleSheet(QString("%1\nQWidget {font-size: %2px;}").arg(mStyle.styleSheet(), QString::number(pixels)));
 }
 
+int Kernel::fontSize(const Property& property)
+{
+    const int size = property.getInt("FontSize", kDefaultFont);
+    return size < kSmallestFont || size > kLargestFont ? kDefaultFont : size;
+}
+
 void Kernel::restart()
 {
+    mRestarts = true;
+    QCoreApplication::quit();
+}
+
+void Kernel::finishRestart()
+{
+    if (!mRestarts)
+        return;
+    mRestarts = false;
     QStringList arguments = QCoreApplication::arguments();
     const QString program = arguments.takeFirst();
-    QCoreApplication::quit();
     mStarter(program, arguments);
 }
 

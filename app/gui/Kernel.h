@@ -30,8 +30,18 @@ public:
     void loadStyleFile(const QString& styleFile);
     /// Applies the sheet that was read last with a font size in pixels.
     void applyFontSize(int pixels);
-    /// Ends the event loop and starts the program again with the same arguments.
+
+    static constexpr int kSmallestFont = 8; ///< pixels
+    static constexpr int kLargestFont = 20;
+    static constexpr int kDefaultFont = 12;
+    /// The font size of the settings in pixels; the default where they hold none, or none that can be used.
+    static int fontSize(const Property& property);
+
+    /// Ends the event loop, for the program to start again. A window may refuse: it calls cancelRestart() then.
     void restart();
+    void cancelRestart() { mRestarts = false; }
+    /// Called when the event loop has ended: starts the program again with the same arguments where restart() asked for it.
+    void finishRestart();
 
 private:
     const Property& mProperty;
@@ -39,6 +49,7 @@ private:
     Starter mStarter;
     QApplication* mpApplication = nullptr;
     DialogMain* mpMainWindow = nullptr;
+    bool mRestarts = false;
 };
 
 } // namespace ZARN

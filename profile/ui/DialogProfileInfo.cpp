@@ -1,8 +1,13 @@
 #include "profile/ui/DialogProfileInfo.h"
 
 #include "app/Console.h"
+#include "app/RegularFile.h"
+#include "app/SafeFile.h"
+#include "app/UserFile.h"
+#include "app/XmlGuard.h"
 #include "profile/Profile.h"
 #include "profile/ProfileCatalogue.h"
+#include "profile/ui/ProfileProblem.h"
 
 #include <QDialogButtonBox>
 #include <QDir>
@@ -28,19 +33,16 @@ QString tableRow(const QString& label, const std::string& value)
     return "<tr><td>" + label + "</td><td><b>" + escaped(value) + "</b></td></tr>";
 }
 
-/// Puts a copy of the file in the target's place. The target goes first, so that a failed copy leaves none.
-bool copyProfile(const QString& file, const QString& target)
+/// Puts a copy of the file in the target's place; a failure leaves the old one, and an old one that cannot be read is put aside.
+bool copyProfile(const ZARN::Console& console, const QString& file, const QString& target)
 {
-    const QString same = QFileInfo(target).canonicalFilePath();
-    if (!same.isEmpty() && same == QFileInfo(file).canonicalFilePath())
-        return true; // it is in its place already, and removing the target would remove the only one
-    QDir().mkpath(QFileInfo(target).absolutePath());
-    QFile::remove(target);
-    if (!QFile::copy(file, target))
+    const auto content = ZARN::readRegularFile(QFile::encodeName(file).toStdString(), ZARN::XmlGuard::maxFileSize);
+    if (!content || !QDir().mkpath(QFileInfo(target).absolutePath()))
         return false;
-    // A copy from a read-only medium is read-only too, and in the way of the next installation.
-    QFile::setPermissions(target, QFile::permissions(target) | QFile::WriteOwner);
-    return true;
+    if (QFileInfo(target).isFile() && !ZARN::profileProblem(console, target).isEmpty())
+        ZARN::UserFile::putAside(target, "damaged");
+    ZARN::SafeFile copy(QFile::encodeName(target).toStdString());
+    return copy.open() && copy.write(*content) && copy.commit();
 }
 
 } // namespace
@@ -67,9 +69,10 @@ DialogProfileInfo::DialogProfileInfo(const ZARN::Session& session, const ZARN::P
     fillProfileInfo();
 }
 
-void DialogProfileInfo::setProfileFile(const QString& path)
+void DialogProfileInfo::setProfileFile(const QString& path, bool isChosenFile)
 {
     mProfileFile = path;
+    mIsChosenFile = isChosenFile;
     if (!path.isEmpty())
         mSession.profile.loadVariants(path);
 }
@@ -115,18 +118,19 @@ void DialogProfileInfo::slotLink(const QString& link)
 
 void DialogProfileInfo::install(const QString& file)
 {
-    const QString target = mCatalogue.installPath(mProfileFile, file);
+    const QString target = mCatalogue.installPath(mIsChosenFile ? QString() : mProfileFile, file);
     if (!mSession.profile.loadProfile(file)) {
         report(QMessageBox::Information, tr("ZARN Warning"), tr("Not a valid ZARN profile !"));
         return;
     }
     mSession.console.print("Copy profile to <%s>\n", target.toUtf8().constData());
-    if (!copyProfile(file, target)) {
+    if (!copyProfile(mSession.console, file, target)) {
         report(QMessageBox::Warning, tr("ZARN Info"), tr("Profile Installation failed !"));
         fillProfileInfo();
         return;
     }
     mProfileFile = target;
+    mIsChosenFile = false;
     report(QMessageBox::Information, tr("ZARN Info"), tr("New profile installed !"));
     adoptVariants(target);
     fillProfileInfo();

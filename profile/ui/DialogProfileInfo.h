@@ -20,7 +20,8 @@ public:
     DialogProfileInfo(const ZARN::Session& session, const ZARN::ProfileCatalogue& catalogue, QWidget* pParent = nullptr);
 
     /// Tells which file the profile was loaded from: its variants are those shown, and an installation goes to its folder.
-    void setProfileFile(const QString& path);
+    /// @param isChosenFile the user chose it as a file: nothing is ever installed beside it.
+    void setProfileFile(const QString& path, bool isChosenFile = false);
     [[nodiscard]] const QString& profileFile() const { return mProfileFile; }
     /// Shows what the profile holds now.
     void fillProfileInfo();
@@ -51,4 +52,5 @@ private:
     const ZARN::ProfileCatalogue& mCatalogue;
     QTextEdit* mpText;
     QString mProfileFile;
+    bool mIsChosenFile = false;
 };

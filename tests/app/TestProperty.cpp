@@ -19,19 +19,16 @@ private Q_SLOTS:
     void init();
     void numbers_data();
     void numbers();
-    void switches_data();
-    void switches();
     void storedTexts();
     void everyLocale();
     void xmlFile();
     void xmlIsMerged();
     void xmlFailures();
+    void unreadFileIsPutAside();
     void unreadableIsNotWritten();
     void iniLines_data();
     void iniLines();
     void iniFiles();
-    void strip_data();
-    void strip();
 
 private:
     [[nodiscard]] std::string path(const std::string& name) const { return mFolder->path().toStdString() + "/" + name; }
@@ -75,27 +72,6 @@ void TestProperty::numbers()
     QCOMPARE(property.getDouble("K", 77.5), number);
     QCOMPARE(property.getInt("k", 77), 77);
     QCOMPARE(property.getDouble("k", 77.5), 77.5);
-}
-
-void TestProperty::switches_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("value");
-    for (const char* text : {"true", "TRUE", "True"})
-        QTest::newRow(text) << text << true;
-    for (const char* text : {"", "1", "tRUE", "true ", "yes", "false"})
-        QTest::newRow(text) << text << false;
-}
-
-void TestProperty::switches()
-{
-    QFETCH(QString, text);
-    QFETCH(bool, value);
-    Property property(mConsole.console);
-    property.setString("S", text.toStdString());
-    QCOMPARE(property.getSwitch("S", !value), value);
-    QCOMPARE(property.getSwitch("s", true), true);
-    QCOMPARE(property.getSwitch("s", false), false);
 }
 
 void TestProperty::storedTexts()
@@ -191,6 +167,27 @@ void TestProperty::xmlFailures()
     QCOMPARE(mConsole.take(), "could not open file for writing !<" + path("missing/ZARN.ini") + ">\n");
 }
 
+void TestProperty::unreadFileIsPutAside()
+{
+    for (const std::string& content : {std::string("<ZARN><Property id='a' value='b & c'/></ZARN>"), std::string()}) {
+        putFile(path("x"), content);
+        Property property(mConsole.console);
+        property.setConfigFile(path("x"));
+        QStringList told;
+        property.file().setListener([&](ZARN::UserFile::EEvent event, const QString& name) {
+            told << QString::number(static_cast<int>(event)) + name.section('/', -1);
+        });
+        QVERIFY(property.readXmlFile());
+        QVERIFY(property.isUnread());
+        QVERIFY(property.writeXmlFile() && property.writeXmlFile());
+        const QString name = content.empty() ? "x.damaged-2" : "x.damaged-1";
+        QCOMPARE(told, (QStringList{"0" + name, "1x", "1x"}));
+        QCOMPARE(fileContent(path(name.toStdString())), content);
+        QVERIFY(!property.isUnread());
+    }
+    QCOMPARE(entryCount(path("")), 3L);
+}
+
 void TestProperty::unreadableIsNotWritten()
 {
     Property property(mConsole.console);
@@ -264,28 +261,6 @@ void TestProperty::iniFiles()
     QVERIFY(!property.update());
     QVERIFY(!property.readConfigFile());
     QCOMPARE(property.getInt("c", 0), 5);
-}
-
-void TestProperty::strip_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("stripped");
-    QTest::newRow("both ends") << "xyaxyx" << "a";
-    QTest::newRow("middle stays") << "axyb" << "axyb";
-    QTest::newRow("all") << "xyyx" << "";
-    QTest::newRow("empty") << "" << "";
-}
-
-void TestProperty::strip()
-{
-    QFETCH(QString, text);
-    QFETCH(QString, stripped);
-    std::string value = text.toStdString();
-    Property::strip(value, "xy");
-    QCOMPARE(value, stripped.toStdString());
-    value = text.toStdString();
-    Property::strip(value, "");
-    QCOMPARE(value, text.toStdString());
 }
 
 QTEST_GUILESS_MAIN(TestProperty)

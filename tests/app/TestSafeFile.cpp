@@ -1,6 +1,4 @@
-#include "app/Property.h"
 #include "app/SafeFile.h"
-#include "support/ConsoleText.h"
 #include "support/FileHelpers.h"
 #include "support/FullDisk.h"
 
@@ -26,7 +24,6 @@ private Q_SLOTS:
     void init();
     void contents_data();
     void contents();
-    void fullDiskCostsNoSettings();
     void fullDiskBehindTheGatherBuffer();
     void failures_data();
     void failures();
@@ -100,20 +97,6 @@ void TestSafeFile::contents()
     QCOMPARE(entryCount(path("")), 1L);
     QCOMPARE(file.error(), std::string());
     QVERIFY(!file.write("more"));
-}
-
-void TestSafeFile::fullDiskCostsNoSettings()
-{
-    ConsoleText console;
-    ZARN::Property property(console.console);
-    for (int i = 0; i < 20; ++i)
-        property.setString("Key" + std::to_string(i), "a \"value\" of some length <&> " + std::to_string(i));
-    QVERIFY(property.writeXmlFile(path("ZARN.ini")));
-    const std::string whole = fileContent(path("ZARN.ini"));
-    QVERIFY(whole.size() > 1000);
-    const std::string wrong = fillAtEveryByte(path("ZARN.ini"), whole, 1, [&] { return property.writeXmlFile(path("ZARN.ini")); });
-    QCOMPARE(wrong, std::string());
-    QVERIFY(console.text.find("could not open file for writing !<" + path("ZARN.ini") + ">\n") != std::string::npos);
 }
 
 void TestSafeFile::fullDiskBehindTheGatherBuffer()

@@ -75,11 +75,13 @@ void TestStartMarker::putAside()
 {
     const QTemporaryDir folder;
     const std::string path = folder.path().toStdString();
-    putFile(path + "/ZARN.ini", "settings");
-    putFile(path + "/ZARN.ini.old", "older");
-    StartMarker::putAside(path);
-    QCOMPARE(entryCount(path), 1L);
-    QCOMPARE(fileContent(path + "/ZARN.ini.old"), std::string("settings"));
+    for (const char* content : {"settings", "later"}) {
+        putFile(path + "/ZARN.ini", content);
+        QVERIFY(StartMarker::putAside(path));
+    }
+    QCOMPARE(entryCount(path), 2L);
+    QCOMPARE(fileContent(path + "/ZARN.ini.old-1"), std::string("settings"));
+    QCOMPARE(fileContent(path + "/ZARN.ini.old-2"), std::string("later"));
 }
 
 void TestStartMarker::operand()

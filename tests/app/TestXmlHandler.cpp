@@ -25,11 +25,9 @@ private Q_SLOTS:
     void doubleAttribute();
     void boolAttribute_data();
     void boolAttribute();
-    void textAttributes();
     void writtenValues();
     void anyTextSurvives();
     void readFailures();
-    void writeFailure();
     void sameBytesOnEveryRun();
 
 private:
@@ -123,16 +121,6 @@ void TestXmlHandler::boolAttribute()
     QCOMPARE(xml.xmlGetBoolAttribute(attributesWith(text), "b", false), false);
 }
 
-void TestXmlHandler::textAttributes()
-{
-    const XmlHandler xml(mConsole.console);
-    QCOMPARE(xml.xmlGetStringAttribute(attributesWith(""), "a", "d"), QString());
-    QCOMPARE(xml.xmlGetStringAttribute(attributesWith("x"), "b", "d"), QString("d"));
-    QCOMPARE(xml.xmlGetStdStringAttribute(attributesWith("\u00e4"), "a", "d"), std::string("\xc3\xa4"));
-    QCOMPARE(xml.xmlGetStdStringAttribute(attributesWith(""), "a", "d"), std::string());
-    QCOMPARE(xml.xmlGetStdStringAttribute(attributesWith(""), "b", "d"), std::string("d"));
-}
-
 void TestXmlHandler::writtenValues()
 {
     const XmlHandler xml(mConsole.console);
@@ -212,18 +200,6 @@ void TestXmlHandler::readFailures()
         QCOMPARE(mConsole.take(), "could not set content <" + base + "/%s%n.xml>\n");
     }
     QCOMPARE(document.documentElement().tagName(), QString("kept"));
-}
-
-void TestXmlHandler::writeFailure()
-{
-    const QTemporaryDir folder;
-    const XmlHandler xml(mConsole.console);
-    QDomDocument document;
-    xml.xmlCreateElement(document, document, "a");
-    QVERIFY(!xml.xmlWriteFile(document, folder.path() + "/missing", "x.xml"));
-    QCOMPARE(mConsole.take(), "could not open file for writing !<" + folder.path().toStdString() + "/missing/x.xml>\n");
-    QVERIFY(xml.xmlWriteFile(document, folder.path(), "x.xml"));
-    QCOMPARE(fileContent(folder.path().toStdString() + "/x.xml"), std::string("<a/>\n"));
 }
 
 /// This program again, started with the argument "sample", writes the sample and ends.

@@ -132,8 +132,12 @@ void TestProfileCatalogue::findsByTextAndPath()
     QCOMPARE(found(outside), (QStringList{outside, outside, ""}));
     putFile(folders.path("no.xml").toStdString(), "<CanAerospaceProfil/>");
     for (const QString& nothing :
-         {QString(), QString("B"), QString("Two"), folders.path("no.xml"), folders.path("missing"), folders.shipped()})
-        QCOMPARE(found(nothing), (QStringList{"A", plain, ""}));
+         {QString(), QString("Two"), folders.path("no.xml"), folders.path("missing"), folders.shipped()})
+        QCOMPARE(found(nothing), (QStringList{"", "", ""}));
+    QCOMPARE(found("B"), (QStringList{"one", varied, "one"})); // a folder stands for its first entry
+    QCOMPARE(catalogue.entryOf(varied, "two").text, "two");
+    QCOMPARE(catalogue.entryOf(varied, "three").text, "one");
+    QCOMPARE(catalogue.entryOf(outside, "one").text, "");
 }
 
 void TestProfileCatalogue::refreshSeesNewProfiles()
@@ -166,7 +170,7 @@ void TestProfileCatalogue::installPath_data()
     QTest::newRow("none loaded") << ""
                                  << "dir/new.one.xml" << true << "data/profiles/new.one/Profile.xml";
     QTest::newRow("none loaded, usual name") << ""
-                                             << "dir/Profile.xml" << true << "data/profiles/dir/Profile.xml";
+                                             << "dir/Profile.xml" << true << "data/profiles/Profile/Profile.xml";
     QTest::newRow("nothing at all") << ""
                                     << "dir/new.xml" << false << "Resources/profiles/new/Profile.xml";
 }

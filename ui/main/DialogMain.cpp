@@ -6,9 +6,11 @@
 #include "app/Property.h"
 #include "app/gui/ImageHandler.h"
 #include "app/gui/Kernel.h"
+#include "app/gui/WheelGuard.h"
 #include "card/CardContainer.h"
 #include "profile/ui/DialogProfile.h"
 #include "profile/ui/DialogProfileInfo.h"
+#include "project/Project.h"
 #include "ui/data/DialogData.h"
 #include "ui/main/CardController.h"
 #include "ui/main/DialogAbout.h"
@@ -17,6 +19,7 @@
 #include "ui/main/DialogPreferences.h"
 #include "ui/main/ExportController.h"
 #include "ui/main/MainActions.h"
+#include "ui/main/Notices.h"
 #include "ui/main/ProfileController.h"
 #include "ui/main/ProjectController.h"
 #include "ui/main/RecentFolders.h"
@@ -30,7 +33,6 @@
 #include <QComboBox>
 #include <QFileInfo>
 #include <QFileOpenEvent>
-#include <QLabel>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QProgressBar>
@@ -91,6 +93,8 @@ DialogMain::DialogMain(const Session& session, const Desktop& desktop)
 DialogMain::~DialogMain()
 {
     mSession.container.setProgress(nullProgress());
+    mSession.property.file().setListener({});
+    mSession.project.file().setListener({});
 }
 
 void DialogMain::createPanels()
@@ -172,6 +176,7 @@ void DialogMain::createToolBar()
     mpProfiles->setMinimumWidth(kSelectorWidth);
     mpProfiles->setToolTip(tr("Profile: what the recorded bytes mean"));
     connect(mpProfiles, &QComboBox::textActivated, this, qOverload<const QString&>(&DialogMain::slotProfileChanged));
+    WheelGuard::install(*mpProfiles);
     mpToolBar->addWidget(mpProfiles);
     mpToolBar->addSeparator();
     addUnits();
@@ -197,6 +202,7 @@ void DialogMain::addUnits()
     mpUnits->addItem(tr("Metric"), "0");
     mpUnits->addItem(tr("Imperial"), "1");
     connect(mpUnits, &QComboBox::activated, this, &DialogMain::slotUnitChanged);
+    WheelGuard::install(*mpUnits);
     mpToolBar->addWidget(mpUnits);
 }
 
@@ -208,12 +214,22 @@ void DialogMain::createStatusBar()
     pBar->setFixedWidth(kProgressWidth);
     pBar->hide();
     mpProgress = std::make_unique<StatusProgress>(*pBar);
-    if (!mDesktop.graphicsProblem.isEmpty()) {
-        auto* pProblem = new QLabel(mDesktop.graphicsProblem);
-        pProblem->setObjectName("warning");
-        statusBar()->addPermanentWidget(pProblem);
-    }
     statusBar()->addPermanentWidget(pBar);
+    createNotices();
+}
+
+void DialogMain::createNotices()
+{
+    mpNotices = new Notices(this);
+    mpNotices->setProblem(Notices::eGraphics, mDesktop.graphicsProblem);
+    const QString unsaved = tr("Settings cannot be saved");
+    const QString file = QString::fromStdString(mSession.property.configFile());
+    if (mSession.property.isUnread())
+        mpNotices->setProblem(Notices::eSettings, tr("Settings unreadable: defaults are in force"), file);
+    else if (!QFileInfo(QFileInfo(file).absolutePath()).isWritable())
+        mpNotices->setProblem(Notices::eSettings, unsaved, file);
+    mpNotices->watch(mSession.property.file(), Notices::eSettings, unsaved);
+    mpNotices->watch(mSession.project.file(), Notices::eProject, tr("Project cannot be saved"));
 }
 
 void DialogMain::createControllers()

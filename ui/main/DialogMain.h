@@ -28,6 +28,7 @@ class DialogData;
 class DialogPreferences;
 class DialogProfile;
 class ExportController;
+class Notices;
 class ProfileCatalogue;
 class ProfileController;
 class ProjectController;
@@ -110,9 +111,11 @@ private:
     void createControllers();
     void connectPanels();
     void startTimers();
+    void createNotices();
     void addMorePaths();
     void addUnits();
     void restoreCard();
+    void tellProfileProblem();
     void showInformation(int id);
     bool cleanup();
 
@@ -137,6 +140,7 @@ private:
     DialogHelp* mpHelp = nullptr;
     DialogProfileInfo* mpProfileInfo = nullptr;
     DialogPreferences* mpPreferences = nullptr;
+    Notices* mpNotices = nullptr;
     std::unique_ptr<StatusProgress> mpProgress;
     std::unique_ptr<ProfileCatalogue> mpCatalogue;
     std::unique_ptr<ProfileController> mpProfileController;

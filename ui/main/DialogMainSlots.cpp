@@ -8,6 +8,7 @@
 #include "card/CardContainer.h"
 #include "profile/ui/DialogProfile.h"
 #include "profile/ui/DialogProfileInfo.h"
+#include "project/Project.h"
 #include "ui/data/DialogData.h"
 #include "ui/main/CardController.h"
 #include "ui/main/DialogAbout.h"
@@ -17,6 +18,7 @@
 #include "ui/main/DialogPreferences.h"
 #include "ui/main/ExportController.h"
 #include "ui/main/MainActions.h"
+#include "ui/main/Notices.h"
 #include "ui/main/ProfileController.h"
 #include "ui/main/ProjectController.h"
 #include "ui/main/StatusProgress.h"
@@ -88,8 +90,8 @@ bool DialogMain::isProjectModified() const
 
 void DialogMain::updateTitle()
 {
-    const QString path = QString::fromStdString(mSession.property.getString("LastPath", "."));
-    setWindowTitle("ZARN " + path.section('/', -2, -1));
+    const QString path = QString::fromStdString(mSession.property.getString("LastPath", ""));
+    setWindowTitle(("ZARN " + path.section('/', -2, -1)).trimmed());
 }
 
 void DialogMain::updateUnit()
@@ -103,11 +105,22 @@ void DialogMain::updateUnit()
 void DialogMain::loadProfile()
 {
     mpProfileController->load();
-    mpProfileInfo->setProfileFile(mpProfileController->file());
+    tellProfileProblem();
+    mpProfileInfo->setProfileFile(mpProfileController->file(), mpProfileController->isChosenFile());
     mpProfileInfo->fillProfileInfo();
     mpProfile->updateProfile();
     mpData->loadProfile();
     mpData->updateProfile();
+}
+
+void DialogMain::tellProfileProblem()
+{
+    const QString& problem = mpProfileController->problem();
+    if (problem.isEmpty())
+        return mpNotices->setProblem(Notices::eProfile, {});
+    mpNotices->setProblem(Notices::eProfile, mpProfileController->file().isEmpty() ? tr("No profile") : tr("Another profile is in force"),
+                          problem);
+    mpNotices->tell(problem);
 }
 
 void DialogMain::fillProfiles()
@@ -137,8 +150,10 @@ void DialogMain::slotProfileChanged()
 
 void DialogMain::slotProfileChanged(const QString& name)
 {
-    mpProfileController->select(name);
-    slotProfileFileChanged();
+    if (mpProfileController->select(name))
+        return slotProfileFileChanged();
+    fillProfiles();
+    mpNotices->tell(mpProfileController->problem());
 }
 
 void DialogMain::slotProfileFileChanged()
@@ -152,7 +167,7 @@ void DialogMain::slotProfileFileChanged()
 
 void DialogMain::slotProfileInstalled()
 {
-    updateProfiles();
+    mpProfileController->adoptInstalled(mpProfileInfo->profileFile());
     slotProfileFileChanged();
 }
 
@@ -169,7 +184,8 @@ void DialogMain::slotCanChanged()
 
 void DialogMain::slotZarnMode(int mode)
 {
-    mpCardController->restoreFolder(QString::fromStdString(mSession.property.getString("LastPath", ".")));
+    if (const QString last = QString::fromStdString(mSession.property.getString("LastPath", "")); !last.isEmpty())
+        mpCardController->restoreFolder(last);
     mpData->setZarnMode(mode);
 }
 
@@ -228,6 +244,8 @@ void DialogMain::slotTimeout()
     restoreCard();
     if (!mDesktop.withDefaults)
         mpProjectController->restoreProject();
+    if (mSession.project.file().isUnread(mpProjectController->lastPath()))
+        mpNotices->setProblem(Notices::eProject, tr("Project unreadable"), mpProjectController->lastPath());
     mpProfile->updateProfile();
     slotProfileChanged();
     updateTitle();
@@ -237,7 +255,9 @@ void DialogMain::slotTimeout()
 void DialogMain::restoreCard()
 {
     const QFileInfo given(QString::fromStdString(mDesktop.cmdLine.operand()));
-    const QString last = QString::fromStdString(mSession.property.getString("LastPath", "."));
+    const QString last = QString::fromStdString(mSession.property.getString("LastPath", ""));
+    if (!given.filePath().isEmpty() && !given.exists())
+        mSession.console.print("could not open folder <%s>\n", mDesktop.cmdLine.operand().c_str());
     if (!given.filePath().isEmpty())
         openFolder(given.isFile() ? given.absolutePath() : given.absoluteFilePath());
     else if (!last.isEmpty() && !mDesktop.withDefaults)
@@ -263,6 +283,8 @@ void DialogMain::slotCheckStyle()
 
 bool DialogMain::eventFilter(QObject* pObject, QEvent* pEvent)
 {
+    if (pEvent->type() == QEvent::WindowBlocked && pObject == this)
+        Q_EMIT signalStarted(); // who ends the program at a question has seen it start
     if (pEvent->type() != QEvent::FileOpen)
         return QMainWindow::eventFilter(pObject, pEvent);
     const QFileInfo info(static_cast<QFileOpenEvent*>(pEvent)->file());
@@ -296,14 +318,18 @@ void DialogMain::dropEvent(QDropEvent* pEvent)
 void DialogMain::closeEvent(QCloseEvent* pEvent)
 {
     pEvent->setAccepted(cleanup());
+    if (!pEvent->isAccepted())
+        mDesktop.kernel.cancelRestart();
 }
 
 bool DialogMain::cleanup()
 {
-    if (!mpProjectController->saveIfModified())
+    if (!mpProjectController->saveAtQuit())
         return false;
-    if (!mEmu && mpLayout->store())
-        mSession.property.writeXmlFile();
+    const bool wasTold = mpNotices->hasProblem(Notices::eSettings);
+    if (!mEmu && mpLayout->store() && !mSession.property.writeXmlFile() && !wasTold)
+        mpNotices->tell(tr("The settings could not be saved:\n%1").arg(QString::fromStdString(mSession.property.configFile())));
+    mpNotices->showWaiting(); // there is no later
     return true;
 }
 

@@ -3,7 +3,9 @@
 #include "app/Property.h"
 #include "app/gui/ImageHandler.h"
 #include "app/gui/Kernel.h"
+#include "app/gui/WheelGuard.h"
 #include "openstreet/core/TileServer.h"
+#include "profile/ui/ProfileProblem.h"
 #include "ui/map/model/TileConsent.h"
 
 #include <QCheckBox>
@@ -24,9 +26,6 @@ namespace ZARN {
 namespace {
 
 constexpr int kListWidth = 150;
-constexpr int kSmallestFont = 8;
-constexpr int kLargestFont = 20;
-constexpr int kDefaultFont = 12;
 
 OpenStreet::TileServer tileServer(const Property& property)
 {
@@ -69,7 +68,9 @@ QWidget* DialogPreferences::createGeneralPage()
 {
     mpLanguage->addItem("Deutsch", "de");
     mpLanguage->addItem("English", "us");
-    mpFontSize->setRange(kSmallestFont, kLargestFont);
+    mpFontSize->setRange(Kernel::kSmallestFont, Kernel::kLargestFont);
+    WheelGuard::install(*mpLanguage);
+    WheelGuard::install(*mpFontSize);
     auto* pGroup = new QGroupBox(tr("Application"));
     auto* pForm = new QFormLayout(pGroup);
     pForm->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
@@ -127,7 +128,7 @@ void DialogPreferences::fillDialog()
     const QString locale = QString::fromStdString(mSession.property.getString("Locale", "us"));
     mpLanguage->setCurrentIndex(mpLanguage->findData(locale));
     const QSignalBlocker blocker(mpFontSize);
-    mpFontSize->setValue(mSession.property.getInt("FontSize", kDefaultFont));
+    mpFontSize->setValue(Kernel::fontSize(mSession.property));
     fillTiles();
 }
 
@@ -188,6 +189,12 @@ void DialogPreferences::slotProfileSelect()
 
 void DialogPreferences::slotProfilePath(const QString& path)
 {
+    if (const QString problem = profileProblem(mSession.console, path); !problem.isEmpty()) {
+        QMessageBox box(QMessageBox::Warning, tr("ZARN Warning"), tr("Not a valid ZARN profile !") + "\n" + problem, QMessageBox::Ok, this);
+        box.setTextFormat(Qt::PlainText); // a path may hold what looks like markup
+        box.exec();
+        return;
+    }
     mSession.property.setString("Profile", path.toStdString());
     mSession.property.writeXmlFile();
     Q_EMIT signalProfileFileChanged();

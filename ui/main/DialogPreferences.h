@@ -33,6 +33,7 @@ public Q_SLOTS:
     /// Applies and keeps a font size in pixels.
     void slotFont(int size);
     void slotProfileSelect();
+    /// Puts a profile file in force; one that is none changes nothing, and why it is none is said.
     void slotProfilePath(const QString& path);
     void slotChangePage(QListWidgetItem* pCurrent, QListWidgetItem* pPrevious);
     /// Keeps whether map tiles may be loaded from the server of the settings.

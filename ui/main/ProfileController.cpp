@@ -3,11 +3,19 @@
 #include "app/Console.h"
 #include "app/Property.h"
 #include "profile/Profile.h"
+#include "profile/ui/ProfileProblem.h"
 #include "project/Project.h"
 
 #include <QComboBox>
 
 namespace ZARN {
+
+namespace {
+
+/// Preferred while the user has chosen none.
+const QString kFirstProfile = QStringLiteral("915");
+
+} // namespace
 
 ProfileController::ProfileController(const Session& session, ProfileCatalogue& catalogue, QComboBox& profiles, QComboBox& units)
     : mSession(session), mCatalogue(catalogue), mProfiles(profiles), mUnits(units)
@@ -16,9 +24,9 @@ ProfileController::ProfileController(const Session& session, ProfileCatalogue& c
 
 bool ProfileController::loadEntry(const ProfileEntry& entry)
 {
-    mSession.profile.setCurrentVariant(entry.variant);
-    if (entry.path.isEmpty() || !mSession.profile.loadProfile(entry.path))
+    if (entry.path.isEmpty() || !mSession.profile.loadProfile(entry.path, entry.variant))
         return false;
+    mSession.profile.setCurrentVariant(entry.variant);
     mFile = entry.path;
     mText = entry.text;
     return true;
@@ -26,12 +34,17 @@ bool ProfileController::loadEntry(const ProfileEntry& entry)
 
 void ProfileController::load()
 {
-    const QString setting = QString::fromStdString(mSession.property.getString("Profile", "915"));
-    if (!loadEntry(mCatalogue.find(setting))) {
+    mProblem.clear();
+    const QString setting = QString::fromStdString(mSession.property.getString("Profile", ""));
+    if (!loadEntry(mCatalogue.find(setting.isEmpty() ? kFirstProfile : setting))) {
         for (const ProfileEntry& entry : mCatalogue.entries()) {
-            if (loadEntry(entry))
+            if (!mFile.isEmpty() || loadEntry(entry))
                 break;
         }
+        if (mFile.isEmpty())
+            mProblem = tr("There is no profile that could be read: nothing of a recording can be decoded.");
+        else if (!setting.isEmpty())
+            mProblem = tr("The profile \"%1\" of the settings is missing or damaged. In its place is in force: %2").arg(setting, mText);
     }
     mSession.project.setProfileData();
 }
@@ -52,10 +65,27 @@ void ProfileController::update()
     fill();
 }
 
-void ProfileController::select(const QString& name)
+bool ProfileController::select(const QString& name)
 {
     mSession.console.print("slotProfileChanged <%s>\n", name.toUtf8().constData());
-    mSession.property.setString("Profile", name.toStdString());
+    const ProfileEntry entry = mCatalogue.find(name);
+    mProblem = profileProblem(mSession.console, entry.path.isEmpty() ? name : entry.path);
+    if (!mProblem.isEmpty())
+        return false;
+    remember(name);
+    return true;
+}
+
+void ProfileController::adoptInstalled(const QString& file)
+{
+    mCatalogue.refresh();
+    const ProfileEntry entry = mCatalogue.entryOf(file, mSession.profile.currentVariant());
+    remember(entry.text.isEmpty() ? file : entry.text);
+}
+
+void ProfileController::remember(const QString& setting)
+{
+    mSession.property.setString("Profile", setting.toStdString());
     mSession.property.writeXmlFile();
 }
 

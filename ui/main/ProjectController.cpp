@@ -3,6 +3,7 @@
 #include "app/Property.h"
 #include "project/Project.h"
 
+#include <QDir>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPushButton>
@@ -69,19 +70,50 @@ QString ProjectController::askSaveName()
     return name.isEmpty() || name.endsWith(".xml") ? name : name + ".xml";
 }
 
-bool ProjectController::saveProject(bool askName)
+QString ProjectController::saveName(bool askName)
 {
     const bool hasName = mHasFile && !lastPath().isEmpty() && lastPath() != ".";
-    const QString path = askName || !hasName ? askSaveName() : lastPath();
-    if (path.isEmpty())
-        return false;
+    return askName || !hasName ? askSaveName() : lastPath();
+}
+
+bool ProjectController::writeProject(const QString& path)
+{
     mSession.project.saveProject(path);
+    if (!mSession.project.file().isWritten())
+        return false;
     mSession.property.setString("LastProjectPath", path.toStdString());
     mSession.property.writeXmlFile();
     mHasFile = true;
     mModified = 0;
     Q_EMIT signalChanged();
     return true;
+}
+
+bool ProjectController::saveProject(bool askName)
+{
+    const QString path = saveName(askName);
+    return !path.isEmpty() && (writeProject(path) || isGoneOn(path, false));
+}
+
+bool ProjectController::saveAtQuit()
+{
+    if (mModified == 0)
+        return true;
+    const QString path = saveName(false);
+    return !path.isEmpty() && (writeProject(path) || isGoneOn(path, true));
+}
+
+bool ProjectController::isGoneOn(const QString& path, bool isQuit)
+{
+    QMessageBox box(QMessageBox::Warning, tr("ZARN Warning"), tr("The project could not be saved:\n%1").arg(QDir::toNativeSeparators(path)),
+                    QMessageBox::NoButton, mpWindow);
+    box.setTextFormat(Qt::PlainText);
+    const QPushButton* pQuit = isQuit ? box.addButton(tr("Quit without saving"), QMessageBox::DestructiveRole) : nullptr;
+    QPushButton* pStay = box.addButton(isQuit ? tr("Cancel") : tr("Ok"), QMessageBox::RejectRole);
+    box.setDefaultButton(pStay);
+    box.setEscapeButton(pStay);
+    box.exec();
+    return pQuit && box.clickedButton() == pQuit;
 }
 
 bool ProjectController::askSaveProject()

@@ -21,10 +21,11 @@ public:
     void openProject();
     /// Reads the project file of the settings, without asking anything.
     void restoreProject();
-    /// @param askName ask for the file also when the project has one. @return false when the user gave up.
+    /// @param askName ask for the file also when the project has one. @return false when the user gave up, or when the file could not be
+    /// written, after a message.
     bool saveProject(bool askName);
-    /// Saves changes without asking whether. @return false when a file name was needed and the user gave up.
-    bool saveIfModified() { return mModified == 0 || saveProject(false); }
+    /// Saves changes without asking whether. @return false when the user wants to stay: no file name was given, or the save failed.
+    bool saveAtQuit();
     /// @return false when the user wants to stay with the project.
     bool askSaveProject();
 
@@ -39,6 +40,11 @@ Q_SIGNALS:
 private:
     bool readProject(const QString& path);
     QString askSaveName();
+    /// The file to save to, asked for where it must be; empty when the user gave up.
+    QString saveName(bool askName);
+    bool writeProject(const QString& path);
+    /// Tells that the last save failed. @return whether to quit all the same, which is offered where the user wants that.
+    bool isGoneOn(const QString& path, bool isQuit);
 
     Session mSession;
     QWidget* mpWindow;

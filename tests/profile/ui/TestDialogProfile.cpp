@@ -69,7 +69,6 @@ private Q_SLOTS:
     void searching();
     void menu();
     void projectInStep();
-    void expansionOutlivesReload();
 };
 
 void TestDialogProfile::keyboardTicks()
@@ -142,16 +141,6 @@ void TestDialogProfile::projectInStep()
     QCOMPARE(panel.count(), "0 of 3 parameters selected");
     QVERIFY(!panel.profile.isSelected("Altitude"));
     QCOMPARE(panel.changed.count(), 1);
-}
-
-void TestDialogProfile::expansionOutlivesReload()
-{
-    Panel panel;
-    panel.pTree->expand(panel.at(1));
-    panel.load();
-    panel.dialog.updateProfile();
-    QVERIFY(!panel.pTree->isExpanded(panel.at(0)));
-    QVERIFY(panel.pTree->isExpanded(panel.at(1)));
 }
 
 QTEST_MAIN(TestDialogProfile)

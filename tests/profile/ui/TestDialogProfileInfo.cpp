@@ -2,7 +2,7 @@
 #include "profile/ProfileCatalogue.h"
 #include "profile/ui/DialogProfileInfo.h"
 #include "project/Project.h"
-#include "support/FileHelpers.h"
+#include "support/FullDisk.h"
 #include "support/TestCycle.h"
 
 #include <QAbstractButton>
@@ -61,9 +61,12 @@ struct Installation : Test::TestCycle {
     }
     void install(const QString& name, const std::string& content)
     {
+        putFile(root.filePath(name).toStdString(), content);
+        choose(name);
+    }
+    void choose(const QString& name)
+    {
         dialog.answer = root.filePath(name);
-        putFile(dialog.answer.toStdString(), content);
-        QFile::setPermissions(dialog.answer, QFile::ReadOwner | QFile::ReadUser); // as on a card
         lines.clear();
         Q_EMIT dialog.findChild<QLabel*>("link")->linkActivated("Install");
     }
@@ -85,14 +88,12 @@ class TestDialogProfileInfo : public QObject {
 
 private Q_SLOTS:
     void textsAreLiteral();
-    void withoutVariants();
     void installsValid();
     void refusesInvalid_data();
     void refusesInvalid();
     void goesToUserData();
     void failedCopy();
     void installsItself();
-    void givingUp();
 };
 
 void TestDialogProfileInfo::textsAreLiteral()
@@ -110,20 +111,12 @@ void TestDialogProfileInfo::textsAreLiteral()
     }
 }
 
-void TestDialogProfileInfo::withoutVariants()
-{
-    const Installation installation(R"(<CanAerospaceProfile name="Plain"/>)");
-    QVERIFY(installation.shown().contains("Variants: "));
-    QVERIFY(!installation.shown().contains("- "));
-}
-
 void TestDialogProfileInfo::installsValid()
 {
     Installation installation;
     installation.install("mine.xml", kNew);
     QCOMPARE(installation.dialog.boxes, QStringList{"1|ZARN Info|New profile installed !|Ok"});
     QCOMPARE(fileContent(installation.installed), kNew);
-    QVERIFY(QFile::permissions(QString::fromStdString(installation.installed)) & QFile::WriteOwner);
     QVERIFY(installation.lines.find("Copy profile to <" + installation.installed + ">\n") != std::string::npos);
     QCOMPARE(installation.profile.model().name, "New");
     QCOMPARE(installation.profile.currentVariant(), "X");
@@ -166,14 +159,23 @@ void TestDialogProfileInfo::goesToUserData()
     QCOMPARE(fileContent(target.toStdString()), kNew);
     QCOMPARE(installation.dialog.profileFile(), target);
     QCOMPARE(installation.changed.count(), 1);
+    const QString chosen = installation.root.filePath("chosen/Profile.xml"); // as a file: nothing goes beside it
+    QVERIFY(QDir().mkpath(installation.root.filePath("chosen")) && QFile::copy(target, chosen));
+    installation.dialog.setProfileFile(chosen, true);
+    installation.install("mine.xml", kOld);
+    QCOMPARE(fileContent(chosen.toStdString()), kNew);
+    QCOMPARE(fileContent(installation.root.filePath("data/profiles/mine/Profile.xml").toStdString()), kOld);
 }
 
 void TestDialogProfileInfo::failedCopy()
 {
     Installation installation;
-    QFile::remove(QString::fromStdString(installation.installed));
-    QDir().mkpath(QString::fromStdString(installation.installed)); // a folder stands in the file's place
-    installation.install("mine.xml", kNew);
+    putFile(installation.root.filePath("mine.xml").toStdString(), kNew);
+    {
+        const FullDisk full(50);
+        installation.choose("mine.xml");
+    }
+    QCOMPARE(fileContent(installation.installed), kOld);
     QCOMPARE(installation.dialog.boxes, QStringList{"2|ZARN Info|Profile Installation failed !|Ok"});
     QCOMPARE(installation.profile.model().name, "New");
     QVERIFY(installation.shown().contains("New"));
@@ -186,18 +188,6 @@ void TestDialogProfileInfo::installsItself()
     installation.install("profiles/A/Profile.xml", kNew);
     QCOMPARE(fileContent(installation.installed), kNew);
     QCOMPARE(installation.changed.count(), 1);
-}
-
-void TestDialogProfileInfo::givingUp()
-{
-    Installation installation;
-    installation.dialog.slotLink("Install");
-    installation.dialog.answer = installation.root.filePath("profiles/A/Profile.xml");
-    installation.dialog.slotLink("Other");
-    QVERIFY(installation.dialog.boxes.isEmpty());
-    QCOMPARE(installation.changed.count(), 0);
-    installation.dialog.slotClose();
-    QVERIFY(!installation.dialog.isVisible());
 }
 
 QTEST_MAIN(TestDialogProfileInfo)

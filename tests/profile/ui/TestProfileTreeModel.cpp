@@ -69,10 +69,8 @@ class TestProfileTreeModel : public QObject {
 
 private Q_SLOTS:
     void showsTheProfile();
-    void deviceBoxHasThreeStates();
     void oneNameOneFlag();
     void changesAreOneAct();
-    void onlyOneDevice();
     void rebuilding();
     void filtering_data();
     void filtering();
@@ -88,22 +86,6 @@ void TestProfileTreeModel::showsTheProfile()
     QVERIFY(!trees.model.index(1, 0).data(Qt::CheckStateRole).isValid());
     QVERIFY(!trees.at(0, 0, ProfileTreeModel::eUnit).data(Qt::CheckStateRole).isValid());
     QCOMPARE(trees.model.parameterCount(), 4);
-}
-
-void TestProfileTreeModel::deviceBoxHasThreeStates()
-{
-    Trees trees;
-    const QModelIndex lane = trees.model.index(0, 0);
-    QCOMPARE(box(lane), Qt::Unchecked);
-    QVERIFY(trees.model.setData(trees.at(0, 1), Qt::Checked, Qt::CheckStateRole));
-    QCOMPARE(box(lane), Qt::PartiallyChecked);
-    QVERIFY(trees.model.setData(lane, Qt::Checked, Qt::CheckStateRole));
-    QCOMPARE(box(lane), Qt::Checked);
-    QVERIFY(trees.profile.isSelected("Speed"));
-    QVERIFY(!trees.profile.isSelected("Altitude"));
-    QVERIFY(trees.model.setData(lane, Qt::Unchecked, Qt::CheckStateRole));
-    QCOMPARE(box(lane), Qt::Unchecked);
-    QCOMPARE(trees.model.selectedCount(), 0);
 }
 
 void TestProfileTreeModel::oneNameOneFlag()
@@ -135,22 +117,6 @@ void TestProfileTreeModel::changesAreOneAct()
     trees.filter.selectShown(false);
     QCOMPARE(trees.model.selectedCount(), 0);
     QCOMPARE(spy.count(), 2);
-}
-
-void TestProfileTreeModel::onlyOneDevice()
-{
-    Trees trees;
-    trees.profile.setSelected("Oil <b>%1 & co", true);
-    QSignalSpy spy(&trees.model, &ProfileTreeModel::signalChanged);
-    for (const QModelIndex& chosen : {trees.model.index(2, 0), trees.at(2, 1), trees.at(2, 0, ProfileTreeModel::eUnit)}) {
-        trees.model.selectOnly(chosen);
-        QVERIFY(trees.profile.isSelected("Speed"));
-        QVERIFY(trees.profile.isSelected("Altitude"));
-        QVERIFY(!trees.profile.isSelected("Oil <b>%1 & co"));
-        QCOMPARE(spy.count(), 1);
-    }
-    trees.model.selectOnly({});
-    QCOMPARE(spy.count(), 1);
 }
 
 void TestProfileTreeModel::rebuilding()

@@ -2,7 +2,9 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QLineEdit>
 #include <QMessageBox>
+#include <QTest>
 #include <QTimer>
 
 #include <functional>
@@ -36,6 +38,16 @@ public:
             }
             pModal->close();
         };
+    }
+
+    /// Chooses a file in the toolkit's own dialog. Typed whole, as a person does: what the dialog still selects while it reads the folder
+    /// does not count then.
+    static void choose(QWidget* pModal, const QString& path)
+    {
+        auto* pName = pModal->findChild<QLineEdit*>("fileNameEdit");
+        QVERIFY(pName);
+        pName->setText(path);
+        QMetaObject::invokeMethod(pModal, "accept");
     }
 
     QString title; ///< empty while no window has come

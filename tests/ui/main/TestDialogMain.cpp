@@ -77,15 +77,6 @@ private:
 
 namespace {
 
-void chooseFile(QWidget* pModal, const QString& path)
-{
-    auto* pDialog = qobject_cast<QFileDialog*>(pModal);
-    QVERIFY(pDialog);
-    // Typed whole, as a person does: what the dialog still selects while it reads the folder does not count then.
-    pDialog->findChild<QLineEdit*>("fileNameEdit")->setText(path);
-    QMetaObject::invokeMethod(pDialog, "accept");
-}
-
 /// Goes through an export's wizard with the options that it offers.
 void finish(QWidget* pModal, const QString& folder, const QString& name, const std::function<void()>& beforeTheEnd = [] {})
 {
@@ -148,6 +139,7 @@ void TestDialogMain::firstSight()
     QVERIFY(window.isVisible());
     QVERIFY(isShown<WidgetWelcome>(window));
     QCOMPARE(window.size(), QSize(1000, 800));
+    QCOMPARE(window.windowTitle(), QString("ZARN"));
     QStringList menus;
     for (const QAction* pMenu : window.menuBar()->actions()) {
         menus.append(pMenu->text());
@@ -157,7 +149,7 @@ void TestDialogMain::firstSight()
     QCOMPARE(menus, QStringList({"&File", "2", "-", "6", "&Extras", "15", "17", "18", "&Help", "15", "8", "9"}));
     const auto* pProfiles = window.findChild<QComboBox*>("profiles");
     QVERIFY(pProfiles->minimumWidth() == 200 && pProfiles->count() >= 3);
-    QCOMPARE(pProfiles->currentText(), QString("915 A")); // "915" names none of the variants: the first one
+    QCOMPARE(pProfiles->currentText(), QString("915 A")); // the first of "915"
     QVERIFY(window.findChild<QComboBox*>("units")->geometry().right() <= window.width());
 }
 
@@ -344,9 +336,17 @@ void TestDialogMain::damagedStore()
     putFile(data + "/profiles/broken/Profile.xml", "<CanAerospaceProfile><Device");
     DesktopFixture desktop(home());
     DialogMain& window = desktop.open();
+    Answer profile(Answer::close);
     started(window);
     QVERIFY(!desktop.profile.data().empty());
     QCOMPARE(window.size(), QSize(1000, 800));
+    QTRY_VERIFY(profile.text.contains("/profiles/broken/Profile.xml\" of the settings is missing or damaged"));
+    Answer project(Answer::close);
+    window.slotCanChanged();
+    window.close();
+    QVERIFY(project.text.contains("CurrentProject.xml.damaged-1"));
+    QCOMPARE(fileContent(data + "/CurrentProject.xml.damaged-1"), std::string("<ZarnProject><Para"));
+    QVERIFY(fileContent(data + "/ZARN.ini").find("broken") != std::string::npos); // the user's choice stays
 }
 
 void TestDialogMain::givenFolder()
@@ -383,7 +383,7 @@ void TestDialogMain::quitAsksForName()
     window.action(eActionQuit)->trigger();
     QCOMPARE(cancel.title, QString("Save ZARN Project"));
     QVERIFY(window.isVisible()); // the changes are still only here
-    Answer save([this](QWidget* pModal) { chooseFile(pModal, home() + "/mine"); });
+    Answer save([this](QWidget* pModal) { Answer::choose(pModal, home() + "/mine"); });
     window.action(eActionQuit)->trigger();
     QVERIFY(!window.isVisible());
     QVERIFY(QFile::exists(home() + "/mine.xml"));
@@ -527,7 +527,7 @@ void TestDialogMain::report()
     const QString path = isWritable ? home() + "/report.pdf" : QString("/proc/report.pdf"); // where nobody can make a file
     std::optional<Answer> told;
     Answer choose([&](QWidget* pModal) {
-        chooseFile(pModal, path);
+        Answer::choose(pModal, path);
         if (!isWritable)
             told.emplace(Answer::close);
     });

@@ -1,5 +1,8 @@
+#include "profile/ui/DialogProfileInfo.h"
 #include "sim/DemoCard.h"
+#include "support/FileHelpers.h"
 #include "ui/data/DialogData.h"
+#include "ui/main/Answer.h"
 #include "ui/main/DesktopFixture.h"
 #include "ui/main/DialogCard.h"
 #include "ui/main/WidgetWelcome.h"
@@ -14,7 +17,7 @@
 
 using namespace ZARN;
 
-/// The main window as a live display, and in other units.
+/// The main window as a live display, in other units, with another profile, and when it cannot save.
 class TestOtherModes : public QObject {
     Q_OBJECT
 
@@ -23,6 +26,9 @@ private Q_SLOTS:
     void init() { mHome.emplace(); }
     void emu();
     void units();
+    void failedSaveAtQuit_data();
+    void failedSaveAtQuit();
+    void installedProfile();
 
 private:
     QString home() const { return mHome->path(); }
@@ -101,6 +107,64 @@ void TestOtherModes::units()
     DesktopFixture next(home());
     next.open();
     QCOMPARE(next.window->findChild<QComboBox*>("units")->currentText(), QString("Imperial"));
+}
+
+void TestOtherModes::failedSaveAtQuit_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<bool>("quits");
+    QTest::newRow("cancel") << "Cancel" << false;
+    QTest::newRow("quit") << "Quit without saving" << true;
+}
+
+void TestOtherModes::failedSaveAtQuit()
+{
+    QFETCH(QString, button);
+    QFETCH(bool, quits);
+    DesktopFixture desktop(home());
+    DialogMain& window = desktop.open();
+    started(window);
+    window.slotCanChanged();
+    QVERIFY(QDir().mkpath(home() + "/data/CurrentProject.xml/in the way"));
+    Answer answer(Answer::press(button));
+    desktop.kernel.restart();
+    window.close();
+    QVERIFY(answer.text.contains("could not be saved"));
+    QCOMPARE(window.isVisible(), !quits);
+    desktop.kernel.finishRestart();
+    QCOMPARE(!desktop.restarted.isEmpty(), quits); // a quit that was refused starts no second program
+}
+
+void TestOtherModes::installedProfile()
+{
+    const QString file = home() + "/data/profiles/AAA/Profile.xml"; // sorts before the other
+    QVERIFY(QDir().mkpath(home() + "/data/profiles/AAA"));
+    putFile(file.toStdString(), "<CanAerospaceProfile name='AAA'/>");
+    DesktopFixture desktop(home());
+    DialogMain& window = desktop.open();
+    started(window);
+    QCOMPARE(desktop.profile.currentVariant(), std::string("915 A")); // of the folder "915", which no setting names
+    auto* pInfo = window.findChild<DialogProfileInfo*>();
+    pInfo->setProfileFile(home() + "/chosen.xml", true);
+    putFile(home().toStdString() + "/new.xml", "<CanAerospaceProfile name='New'><Variants><Variant name='V'/></Variants></CanAerospaceProfile>");
+    std::optional<Answer> told;
+    Answer choose([&](QWidget* pModal) {
+        told.emplace(Answer::close);
+        Answer::choose(pModal, home() + "/new.xml");
+    });
+    pInfo->slotLink("Install");
+    QCOMPARE(told->text, QString("New profile installed !"));
+    QCOMPARE(desktop.profile.model().name, std::string("New"));
+    QCOMPARE(desktop.property.getString("Profile", ""), std::string("V"));
+    QCOMPARE(window.findChild<QComboBox*>("profiles")->currentText(), QString("V"));
+    putFile(home().toStdString() + "/data/profiles/new/Profile.xml", "damaged");
+    window.slotProfileChanged("AAA");
+    QCOMPARE(desktop.profile.model().name, std::string("AAA"));
+    Answer damaged(Answer::close);
+    window.slotProfileChanged("V");
+    QTRY_VERIFY(damaged.text.contains("no well-formed XML"));
+    QCOMPARE(desktop.property.getString("Profile", ""), std::string("AAA"));
+    QCOMPARE(window.findChild<QComboBox*>("profiles")->currentText(), QString("AAA"));
 }
 
 QTEST_MAIN(TestOtherModes)

@@ -1,3 +1,4 @@
+#include "app/gui/Application.h"
 #include "app/gui/DialogSplash.h"
 #include "app/gui/ImageHandler.h"
 #include "support/FileHelpers.h"
@@ -30,10 +31,11 @@ class TestPreferences : public QObject {
 
 private Q_SLOTS:
     void initTestCase() { ImageHandler::initialise(); }
-    void fill();
     void language_data();
     void language();
     void fontSize();
+    void wheelPassesOver();
+    void memoryRunsOut();
     void profilePath();
     void mapTiles();
     void manual_data();
@@ -51,25 +53,6 @@ Session sessionOf(DesktopFixture& desktop)
 }
 
 } // namespace
-
-void TestPreferences::fill()
-{
-    const QTemporaryDir home;
-    DesktopFixture desktop(home.path());
-    DialogPreferences dialog(sessionOf(desktop), desktop.kernel);
-    const auto* pLanguage = dialog.findChild<QComboBox*>();
-    auto* pSize = dialog.findChild<QSpinBox*>();
-    QCOMPARE(pLanguage->currentText(), QString("English"));
-    QCOMPARE(pSize->value(), 12);
-    QCOMPARE(pSize->minimum(), 8);
-    QCOMPARE(pSize->maximum(), 20);
-    desktop.property.setString("Locale", "de");
-    desktop.property.setInt("FontSize", 19);
-    dialog.fillDialog();
-    QCOMPARE(pLanguage->currentText(), QString("Deutsch"));
-    QCOMPARE(pSize->value(), 19);
-    QVERIFY(!QFile::exists(home.filePath("data/ZARN.ini"))); // filling changes nothing
-}
 
 void TestPreferences::language_data()
 {
@@ -96,6 +79,8 @@ void TestPreferences::language()
     QCOMPARE(answer.title, QString("ZARN Info"));
     QCOMPARE(answer.text, QString("Please restart ZARN to load new language !"));
     QCOMPARE(changed.size(), 1);
+    QVERIFY(desktop.restarted.isEmpty()); // not while this program still runs
+    desktop.kernel.finishRestart();
     QVERIFY(fileContent(home.filePath("data/ZARN.ini").toStdString()).find("value=\"" + locale.toStdString()) != std::string::npos);
     QCOMPARE(desktop.restarted, restarts ? QCoreApplication::arguments() : QStringList());
 }
@@ -114,10 +99,34 @@ void TestPreferences::fontSize()
     QVERIFY(dialog.findChild<QSpinBox*>()->fontMetrics().height() > before);
     dialog.findChild<QSpinBox*>()->setValue(8);
     QCOMPARE(desktop.property.getInt("FontSize", 0), 8);
-    Property stored(desktop.console.console);
-    stored.readXmlFile(home.filePath("data/ZARN.ini").toStdString());
-    QCOMPARE(stored.getInt("FontSize", 0), 8);
+    for (const char* unusable : {"0", "abc", "7", "21", "-3"}) {
+        desktop.property.setString("FontSize", unusable);
+        dialog.fillDialog();
+        QCOMPARE(dialog.findChild<QSpinBox*>()->value(), 12);
+        desktop.kernel.loadStyleFile(home.filePath("a.css"));
+        QVERIFY(qApp->styleSheet().endsWith("{font-size: 12px;}"));
+    }
+    QCOMPARE(desktop.property.getString("FontSize", ""), std::string("-3")); // filling changes nothing
     qApp->setStyleSheet({});
+}
+
+void TestPreferences::wheelPassesOver()
+{
+    const QTemporaryDir home;
+    DesktopFixture desktop(home.path());
+    DialogMain& window = desktop.open();
+    const auto value = [](const QWidget* pField) { return pField->property(qobject_cast<const QSpinBox*>(pField) ? "value" : "currentIndex"); };
+    const auto* pPreferences = window.findChild<DialogPreferences*>();
+    const QList<QWidget*> fields{window.findChild<QComboBox*>("profiles"), window.findChild<QComboBox*>("units"),
+                                 pPreferences->findChild<QComboBox*>(), pPreferences->findChild<QSpinBox*>()};
+    for (QWidget* pField : fields) {
+        const QVariant before = value(pField);
+        for (const int notch : {-120, 120}) {
+            QWheelEvent wheel({5, 5}, pField->mapToGlobal(QPointF(5, 5)), {}, {0, notch}, Qt::NoButton, {}, Qt::NoScrollPhase, false);
+            QApplication::sendEvent(pField, &wheel);
+            QCOMPARE(value(pField), before);
+        }
+    }
 }
 
 void TestPreferences::profilePath()
@@ -126,9 +135,17 @@ void TestPreferences::profilePath()
     DesktopFixture desktop(home.path());
     DialogPreferences dialog(sessionOf(desktop), desktop.kernel);
     QSignalSpy changed(&dialog, &DialogPreferences::signalProfileFileChanged);
-    dialog.slotProfilePath("/some/Profile.xml");
-    QCOMPARE(changed.size(), 1);
-    QCOMPARE(desktop.property.getString("Profile", ""), std::string("/some/Profile.xml"));
+    const QString file = home.filePath("<b>other.xml");
+    const std::pair<const char*, const char*> files[] = {
+        {"", "no well-formed XML"}, {"<ZarnProject/>", "first element"}, {"<CanAerospaceProfile/>", ""}};
+    for (const auto& [content, reason] : files) {
+        putFile(file.toStdString(), content);
+        Answer answer(Answer::close);
+        dialog.slotProfilePath(file);
+        QCOMPARE(answer.text.contains(reason) && answer.text.contains(file), *reason != '\0');
+        QCOMPARE(changed.size(), *reason == '\0' ? 1 : 0);
+        QCOMPARE(desktop.property.getString("Profile", "none"), *reason == '\0' ? file.toStdString() : "none");
+    }
 }
 
 void TestPreferences::mapTiles()
@@ -233,17 +250,38 @@ void TestPreferences::splash()
     int blue = 0;
     for (int y = 20; y < 260; ++y) {
         for (int x = 5; x < 60; ++x)
-            blue += full.pixelColor(x, y) == QColor(0, 0, 200);
+            blue += full.pixelColor(x, y).blue() - full.pixelColor(x, y).red() > 120;
     }
     QVERIFY2(blue > 50, "the lines are written at the left edge");
     QTest::mouseClick(&splash, Qt::LeftButton);
     QVERIFY(splash.isVisible());
     QSignalSpy gone(&splash, &QObject::destroyed);
-    splash.finish();
+    QWidget window;
+    window.show();
+    splash.finish(&window);
     QTest::qWait(2500);
     QVERIFY(gone.isEmpty());
     QTRY_COMPARE_WITH_TIMEOUT(gone.size(), 1, 2000);
+    DialogSplash& second = DialogSplash::instance();
+    QSignalSpy left(&second, &QObject::destroyed);
+    second.finish(&window);
+    window.close(); // the picture stays in nobody's way
+    QTRY_COMPARE_WITH_TIMEOUT(left.size(), 1, 1000);
 }
 
-QTEST_MAIN(TestPreferences)
+void TestPreferences::memoryRunsOut()
+{
+    QTimer::singleShot(0, qApp, [] { throw std::bad_alloc(); });
+    Answer answer(Answer::close);
+    QCOMPARE(QCoreApplication::exec(), 1);
+    QVERIFY(answer.text.contains("memory"));
+}
+
+int main(int argc, char** argv)
+{
+    QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
+    Application application(argc, argv);
+    TestPreferences test;
+    return QTest::qExec(&test, argc, argv);
+}
 #include "TestPreferences.moc"
