@@ -19,7 +19,7 @@ namespace ZARN {
 namespace {
 
 constexpr int kRedrawInterval = 20;       // milliseconds
-constexpr double kLookInterval = 1.0;     // seconds after which a still view looks whether it is still right
+constexpr double kLookInterval = 1.0;     // seconds after which a still view is painted again
 constexpr double kLoadingInterval = 0.25; // seconds between two drawings while tiles are on their way
 const QColor kBackground(180, 211, 230);
 
@@ -170,7 +170,6 @@ void WidgetMap::paintGL()
     mPacer.begin();
     mIsPainting = true;
     ++mGroundPaints;
-    mIsDirty = false;
     setViewPort();
     mMap.render(mpCanvas->device());
     setViewPortOrtho();
@@ -183,8 +182,6 @@ void WidgetMap::paintAbove(Canvas& canvas)
     if (!std::exchange(mIsPainting, false))
         mPacer.begin();
     ++mPaints;
-    mIsAboveDirty = false;
-    mLastRedraw = VESK::Misc::Timer::getTime();
     mScene.drawAbove(canvas, mNavigator.camera());
     mPacer.end();
 }
@@ -200,12 +197,13 @@ void WidgetMap::slotTimeout()
         mContext.isLoading = mMap.nrLoadingTiles() != 0;
         updateNote();
     }
-    if (!mPacer.isDue())
+    const bool isFrame = mIsDirty || (mContext.isLoading && still > kLoadingInterval);
+    if (!mPacer.isDue() || !(isFrame || mIsAboveDirty || still > kLookInterval))
         return;
-    if (mIsDirty || (mContext.isLoading && still > kLoadingInterval))
-        mpSurface->requestFrame();
-    else if (mIsAboveDirty)
-        mpSurface->requestAbove();
+    // Settled by asking, not by painting: the toolkit also has parts painted, as when a panel above the map has changed.
+    mIsDirty = mIsAboveDirty = false;
+    mLastRedraw = now;
+    isFrame ? mpSurface->requestFrame() : mpSurface->requestAbove();
 }
 
 void WidgetMap::showEvent(QShowEvent* pEvent)
