@@ -96,7 +96,8 @@ const VESK::OpenGL::Texture* OpenStreetMap::Frame::shadeTexture(const TileId& id
 /// Draws what the nearest larger tile that is here shows of the place.
 bool OpenStreetMap::Frame::drawAncestor(const TilePlace& place, ELayer layer)
 {
-    for (TileId id = place.id; id.zoom > 0;) {
+    const int farthest = layer == ELayer::eServer ? TileStore::kLevelsAbove : TileId::kMaxZoom;
+    for (TileId id = place.id; id.zoom > 0 && place.id.zoom - id.zoom < farthest;) {
         id = id.parent();
         const VESK::OpenGL::Texture* pTexture = layer == ELayer::eServer ? serverTexture(id) : builtInTexture(id, false);
         if (pTexture) {
@@ -158,7 +159,7 @@ OpenStreetMap::OpenStreetMap()
     QObject::connect(&mStore, &TileStore::signalTile, &mStore, [this](const TileId& id) {
         mTextures.forget(ELayer::eServer, id);
         if (mChanged && std::find(mAsked.begin(), mAsked.end(), id) != mAsked.end())
-            mChanged(); // those around the view are not seen yet
+            mChanged();
     });
     QObject::connect(&mStore, &TileStore::signalLoading, &mStore, [this] {
         if (mChanged)
@@ -191,7 +192,7 @@ void OpenStreetMap::setMapType(MapType type)
     mType = type;
     mAsked.clear();
     if (type == MapType::eBuiltIn)
-        mStore.want({}, {});
+        mStore.want({});
 }
 
 void OpenStreetMap::setShadingStyle(const ShadingStyle& style)
@@ -272,7 +273,7 @@ void OpenStreetMap::render(VESK::OpenGL::Device& device)
     if (mType == MapType::eTiles && mStore.server().isValid() && !mIsMoving) {
         std::vector<TileId> seen = cover.ids();
         if (seen != mAsked) {
-            mStore.want(seen, cover.ring());
+            mStore.want(seen);
             mAsked = std::move(seen);
         }
     }

@@ -74,8 +74,8 @@ public:
     [[nodiscard]] int nrLoadingTiles() const;
     /// Called whenever a picture has changed and the view should be drawn again.
     void setChangeHandler(std::function<void()> handler) { mChanged = std::move(handler); }
-    /// Why the last tile did not come, in English; empty when it came.
-    [[nodiscard]] const QString& lastError() const { return mStore.lastError(); }
+    /// Why a tile that is seen does not come, for people; empty when none is missing.
+    [[nodiscard]] QString lastError() const { return mStore.lastError(); }
     [[nodiscard]] TileStore& store() { return mStore; }
 
     /// Draws the map into the frame that was begun on the device; its context is current.
