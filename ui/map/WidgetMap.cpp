@@ -6,9 +6,11 @@
 #include "app/gui/GraphicsCheck.h"
 #include "card/CardContainer.h"
 #include "profile/Profile.h"
+#include "ui/map/MapAttribution.h"
 #include "ui/map/model/TileConsent.h"
 #include "vesk/base/Timer.h"
 
+#include <QApplication>
 #include <QResizeEvent>
 
 #include <cmath>
@@ -52,6 +54,11 @@ WidgetMap::WidgetMap(const Session& session, const QString& dataPath, MapContext
         [this](const QString& reason) { mSession.console.print("WidgetMap: %s\n", reason.toUtf8().constData()); },
     };
     mpSurface = GraphicsCheck::isSoftware() ? GlSurface::createInMemory(painting, this) : GlSurface::createOnCard(painting, nullptr, this);
+    mpAttribution = new MapAttribution(this);
+    setAccessibleName(tr("Map of the flight"));
+    mClick.setSingleShot(true);
+    mClick.setInterval(QApplication::doubleClickInterval());
+    connect(&mClick, &QTimer::timeout, this, [this] { Q_EMIT signalTime(mClickTime); });
     mTimer.setInterval(kRedrawInterval);
     connect(&mTimer, &QTimer::timeout, this, &WidgetMap::slotTimeout);
     mTimer.start();
@@ -109,8 +116,15 @@ void WidgetMap::updateNote()
         note = tr("The setting \"TileServer\" is no address of map tiles");
     else if (mMap.areTilesAllowed() && !mMap.lastError().isEmpty())
         note = mMap.tileServer().name() + QLatin1String(": ") + mMap.lastError();
-    if (mScene.setNote(note))
+    const bool hasPlace = !mpRecord || mpRecord->channels().empty() || !mScene.path().isEmpty();
+    const bool isOtherMessage = mScene.setMessage(hasPlace ? QString() : tr("No position recorded"));
+    if (mScene.setNote(note) || isOtherMessage)
         mIsAboveDirty = true;
+}
+
+QSize WidgetMap::cornerSize() const
+{
+    return mpAttribution->isVisibleTo(this) ? mpAttribution->size() : QSize(0, 0);
 }
 
 void WidgetMap::init()
@@ -142,6 +156,7 @@ void WidgetMap::resizeEvent(QResizeEvent* pEvent)
     QWidget::resizeEvent(pEvent);
     resizeGL(width(), height());
     mpSurface->widget().setGeometry(rect());
+    mpAttribution->place();
     mpSurface->requestFrame();
 }
 
@@ -182,6 +197,7 @@ void WidgetMap::paintAbove(Canvas& canvas)
     if (!std::exchange(mIsPainting, false))
         mPacer.begin();
     ++mPaints;
+    mScene.setCorner(cornerSize());
     mScene.drawAbove(canvas, mNavigator.camera());
     mPacer.end();
 }
@@ -196,6 +212,10 @@ void WidgetMap::slotTimeout()
     if (isDirty() || still > kLookInterval) {
         mContext.isLoading = mMap.nrLoadingTiles() != 0;
         updateNote();
+    }
+    if (std::exchange(mSources, mMap.sources()) != mMap.sources()) {
+        mpAttribution->setSources(mSources, mMap.tileServer());
+        mIsAboveDirty = true; // the scale bar makes room
     }
     const bool isFrame = mIsDirty || (mContext.isLoading && still > kLoadingInterval);
     if (!mPacer.isDue() || !(isFrame || mIsAboveDirty || still > kLookInterval))
@@ -221,6 +241,7 @@ void WidgetMap::hideEvent(QHideEvent* pEvent)
 void WidgetMap::setRecordData(RecordData* pRecord)
 {
     mpRecord = pRecord;
+    mClick.stop();
     if (pRecord) {
         redrawFlightPath();
         return;
@@ -232,9 +253,11 @@ void WidgetMap::setRecordData(RecordData* pRecord)
 
 void WidgetMap::redrawFlightPath()
 {
-    mScene.path().setPoints(mSession.container.flightPath());
+    const bool isSamePath = !mScene.path().setPoints(mSession.container.flightPath());
+    const bool isOtherUnit = std::exchange(mPathUnit, mSession.profile.currentUnit()) != mSession.profile.currentUnit();
     mScene.events().place(mScene.path());
-    mNavigator.fit(mScene.path(), true);
+    if (!isSamePath || !isOtherUnit)
+        mNavigator.fit(mScene.path(), true);
     allowTiles();
 }
 
