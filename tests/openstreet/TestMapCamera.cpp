@@ -165,7 +165,7 @@ void TestMapCamera::tiles()
     const auto seen = names(cover.ids());
     QVERIFY(seen.contains({12, 2048 + 100, 2048 - 53}) && seen.contains({12, 2048 + 104, 2048 - 51}));
     QCOMPARE(cover.view().front().id.x, 2048 + 102); // the middle first
-    view.setAngles(50.0, 50.0); // the tiles in the corners of the box around it are not seen
+    view.setAngles(50.0, 50.0);                      // the tiles in the corners of the box around it are not seen
     std::set<std::tuple<int, int, int>> met;
     for (int pixel = 0; pixel < 1024 * 512; pixel += 3) {
         const WorldPoint at = view.windowToWorld({pixel % 1024 + 0.5, pixel / 1024 + 0.5});

@@ -242,7 +242,8 @@ void TestTileStore::keepsOnDisk()
     third.store.want({{9, 10, 10}, {7, 2, 2}, {6, 1, 1}, {15, 5 << 7, 5 << 7}, {7, 100, 100}});
     QVERIFY(third.waitIdle());
     QCOMPARE(third.store.image({9, 10, 10}).pixelColor(128, 128), QColor(214, 232, 205));
-    QVERIFY(third.store.image({7, 2, 2}).pixelColor(200, 200).alpha() == 255 && third.store.image({7, 2, 2}).pixelColor(50, 50).alpha() == 0);
+    QVERIFY(third.store.image({7, 2, 2}).pixelColor(200, 200).alpha() == 255 &&
+            third.store.image({7, 2, 2}).pixelColor(50, 50).alpha() == 0);
     QVERIFY(third.store.image({6, 1, 1}).pixelColor(100, 100).alpha() == 255);
     QVERIFY(third.store.image({15, 5 << 7, 5 << 7}).isNull() && third.store.image({7, 100, 100}).isNull());
 }
@@ -329,7 +330,7 @@ void TestTileStore::serverGone()
     store.store.want(view);
     QVERIFY(store.waitIdle());
     QVERIFY(store.store.lastError().isEmpty()); // nothing that is seen is missing
-    store.now += 100000; // all of it has expired
+    store.now += 100000;                        // all of it has expired
     store.store.want({});
     store.store.want(view);
     QVERIFY(store.waitIdle());

@@ -21,6 +21,7 @@ constexpr int kMargin = 10;
 constexpr int kLeastWidth = 200;
 constexpr int kBelowPanels = 70; // pixels for what is written at the lower edge
 constexpr int kBelowConsent = 40;
+constexpr int kAircraft = 24; // pixels around the aircraft
 constexpr int kMostOfMap = 3; // the values cover no more than this part of the map
 constexpr const char* kValuesKey = "MapShowValues";
 
@@ -197,14 +198,23 @@ void DialogDataMap::updateGeometry()
     mpConsent->raise();
 }
 
-/// Beside the commands, or below them where that leaves too little.
+/// Beside the commands, or below them where something would be cut there: "Engine ..." may be many things; never over the aircraft that the view follows.
 void DialogDataMap::placeValues(int margin, int tallest)
 {
     const int area = width() * height() / kMostOfMap;
+    const auto fit = [&](int top, int wide) {
+        const int tall = tallest + margin - top;
+        const bool isWhole = mpValues->fitInto({std::max(wide, 0), tall}, area);
+        const bool isOverMiddle = width() - margin - mpValues->width() < width() / 2 + kAircraft;
+        if (isOverMiddle && top + mpValues->height() > height() / 2 - kAircraft)
+            mpValues->fitInto({std::max(wide, 0), std::min(tall, std::max(height() / 2 - kAircraft - top, 0))}, area);
+        return isWhole;
+    };
+    const int below = mpTools->geometry().bottom() + margin;
     int top = margin;
-    if (!mpValues->fitInto({std::max(width() - mpTools->width() - 3 * margin, 0), tallest}, area) && 2 * mpTools->height() < tallest) {
-        top = mpTools->geometry().bottom() + margin;
-        mpValues->fitInto({std::max(width() - 2 * margin, 0), tallest + margin - top}, area);
+    if (!fit(top, width() - mpTools->width() - 3 * margin) && below < height() / 3) {
+        top = below;
+        fit(top, width() - 2 * margin);
     }
     mpValues->move(width() - margin - mpValues->width(), top);
 }

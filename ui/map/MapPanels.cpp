@@ -136,14 +136,14 @@ bool MapValuePanel::fitInto(const QSize& room, int area)
     bool isWhole = elide(room.width());
     QSize wanted = mpPanel->sizeHint().boundedTo({room.width(), QWIDGETSIZE_MAX});
     const bool isTooTall = wanted.height() > tallest(wanted.width());
-    // The map below is to be dragged, zoomed and clicked; only a panel that has to be scrolled takes the mouse, and a part of the map.
-    setAttribute(Qt::WA_TransparentForMouseEvents, !isTooTall);
     if (isTooTall) {
         const int bar = verticalScrollBar()->sizeHint().width();
         isWhole = elide(room.width() - bar);
         wanted.setWidth(std::min(mpPanel->sizeHint().width() + bar, room.width()));
     }
     resize(wanted.width(), std::min(wanted.height(), tallest(wanted.width())));
+    // The map below is to be dragged, zoomed and clicked; only a panel that has to be scrolled, or to tell what was cut, takes the mouse.
+    setAttribute(Qt::WA_TransparentForMouseEvents, !isTooTall && isWhole);
     return isWhole;
 }
 

@@ -557,7 +557,8 @@ void TestDialogDataMap::valuesAndColours()
     QCOMPARE(texts().count("-"), 4); // no zero that was not measured
     for (const QSize& size : {QSize(900, 700), QSize(400, 160), QSize(200, 700)}) {
         window.dialog->resize(size);
-        QTRY_VERIFY(window.dialog->rect().contains(pPanel->geometry()) && pPanel->width() * pPanel->height() * 3 <= size.width() * size.height());
+        QTRY_VERIFY(window.dialog->rect().contains(pPanel->geometry()) &&
+                    pPanel->width() * pPanel->height() * 3 <= size.width() * size.height());
     }
     window.tools()->setChecked(MapToolPanel::kShowValues, false);
     QVERIFY(!pPanel->isVisible());

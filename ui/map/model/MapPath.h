@@ -50,7 +50,8 @@ private:
         double distance = 0.0; ///< pixels
         double time = 0.0;
     };
-    [[nodiscard]] std::vector<Passage> passages(const OpenStreet::Camera& camera, const OpenStreet::WindowPoint& point, double pixels) const;
+    [[nodiscard]] std::vector<Passage> passages(const OpenStreet::Camera& camera, const OpenStreet::WindowPoint& point,
+                                                double pixels) const;
 
     void placePoints();
 

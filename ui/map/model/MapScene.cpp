@@ -235,7 +235,8 @@ void MapScene::drawScaleBar(Canvas& canvas, const OpenStreet::Camera& camera) co
     canvas.fillRect({kMargin, bottom - 5.0, 2.0, 5.0}, kTextColour);
     canvas.fillRect({right - 2.0, bottom - 5.0, 2.0, 5.0}, kTextColour);
     if (!mNote.isEmpty())
-        drawLabel(canvas, {kMargin, std::min(bottom - 28.0, camera.height() - mCorner.height() - 2.0 * kMargin)}, elided(canvas, mNote, camera.width() - 2.0 * kMargin), Qt::AlignLeft | Qt::AlignBottom);
+        drawLabel(canvas, {kMargin, std::min(bottom - 28.0, camera.height() - mCorner.height() - 2.0 * kMargin)},
+                  elided(canvas, mNote, camera.width() - 2.0 * kMargin), Qt::AlignLeft | Qt::AlignBottom);
 }
 
 void MapScene::drawLabel(Canvas& canvas, const QPointF& position, const QString& text, Qt::Alignment align, double textSize) const
