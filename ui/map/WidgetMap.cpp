@@ -116,9 +116,7 @@ void WidgetMap::updateNote()
         note = tr("The setting \"TileServer\" is no address of map tiles");
     else if (mMap.areTilesAllowed() && !mMap.lastError().isEmpty())
         note = mMap.tileServer().name() + QLatin1String(": ") + mMap.lastError();
-    const bool hasPlace = !mpRecord || mpRecord->channels().empty() || !mScene.path().isEmpty();
-    const bool isOtherMessage = mScene.setMessage(hasPlace ? QString() : tr("No position recorded"));
-    if (mScene.setNote(note) || isOtherMessage)
+    if (mScene.setNote(note))
         mIsAboveDirty = true;
 }
 
@@ -240,15 +238,17 @@ void WidgetMap::hideEvent(QHideEvent* pEvent)
 
 void WidgetMap::setRecordData(RecordData* pRecord)
 {
-    mpRecord = pRecord;
     mClick.stop();
     if (pRecord) {
         redrawFlightPath();
-        return;
+    } else {
+        mScene.path().setPoints({});
+        mScene.events().place(mScene.path());
+        allowTiles();
     }
-    mScene.path().setPoints({});
-    mScene.events().place(mScene.path());
-    allowTiles();
+    // What is being received may have a position yet.
+    const bool isPlaceless = pRecord && !pRecord->channels().empty() && mScene.path().isEmpty();
+    mScene.setMessage(isPlaceless ? tr("No position recorded") : QString());
 }
 
 void WidgetMap::redrawFlightPath()

@@ -128,7 +128,6 @@ private:
     MapAttribution* mpAttribution = nullptr;
     OpenStreet::MapSources mSources; // that the attribution names
     GlCanvas* mpCanvas = nullptr; // while it paints
-    RecordData* mpRecord = nullptr;
     EUnit mPathUnit{};
     bool mIsInitialised = false;
     bool mIsDirty = true;

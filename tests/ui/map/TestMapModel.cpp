@@ -1,7 +1,6 @@
 #include "app/Console.h"
 #include "app/Property.h"
 #include "support/RecordingCanvas.h"
-#include "ui/canvas/FramePacer.h"
 #include "ui/canvas/RasterCanvas.h"
 #include "ui/map/model/MapNavigator.h"
 #include "ui/map/model/MapScene.h"
@@ -68,7 +67,6 @@ class TestMapModel : public QObject {
 private Q_SLOTS:
     void positions_data();
     void positions();
-    void positionsOfNoPath();
     void fits_data();
     void fits();
     void damagedPath();
@@ -83,7 +81,6 @@ private Q_SLOTS:
     void scaleBar_data();
     void scaleBar();
     void consent();
-    void framesAreSpaced();
     void picture();
     void longNote();
 };
@@ -116,11 +113,7 @@ void TestMapModel::positions()
     QTEST(point.latitude, "latitude");
     QTEST(point.track, "track");
     QTEST(point.time, "stamp");
-}
-
-void TestMapModel::positionsOfNoPath()
-{
-    const FlightPathPoint nowhere = path({}).positionAt(17.0);
+    const FlightPathPoint nowhere = path({}).positionAt(time);
     QCOMPARE(nowhere.time + nowhere.latitude + nowhere.longitude + nowhere.altitude + nowhere.groundSpeed + nowhere.track, 0.0);
 }
 
@@ -377,18 +370,6 @@ void TestMapModel::consent()
     QCOMPARE(consent.answer("https://b/"), TileConsent::eNotAsked); // another server is another question
     consent.set("https://b/", false);
     QCOMPARE(consent.answer("https://a/"), TileConsent::eNo);
-}
-
-void TestMapModel::framesAreSpaced()
-{
-    using std::chrono::milliseconds;
-    const FramePacer::Clock::time_point start = FramePacer::Clock::now();
-    FramePacer pacer;
-    QVERIFY(pacer.isDue(start)); // the first
-    pacer.begin(start);
-    pacer.end(start + milliseconds(30));
-    QVERIFY(!pacer.isDue(start + milliseconds(89)));
-    QVERIFY(pacer.isDue(start + milliseconds(90)));
 }
 
 void TestMapModel::picture()

@@ -121,11 +121,6 @@ bool MapScene::setNote(const QString& note)
     return std::exchange(mNote, note) != note;
 }
 
-bool MapScene::setMessage(const QString& message)
-{
-    return std::exchange(mMessage, message) != message;
-}
-
 void MapScene::drawGround(Canvas& canvas, const OpenStreet::Camera& camera)
 {
     if (mHasGraticule)

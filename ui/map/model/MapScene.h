@@ -33,8 +33,8 @@ public:
     void setGraticule(bool on) { mHasGraticule = on; }
     /// A line for people above the scale bar, for example that the server does not answer; empty for none. @return whether it is another one.
     bool setNote(const QString& note);
-    /// A word in the middle about what cannot be shown; empty for none. @return whether it is another one.
-    bool setMessage(const QString& message);
+    /// A word in the middle about what cannot be shown; empty for none.
+    void setMessage(const QString& message) { mMessage = message; }
     /// What is taken of the right lower corner, in pixels: the scale bar keeps away from it.
     void setCorner(const QSizeF& size) { mCorner = size; }
 
