@@ -36,4 +36,17 @@ double CycleValues::getValue(const ProfileParameter& parameter, double time) con
     return getValue(parameter, time, state, colour);
 }
 
+std::optional<DisplayValue> CycleValues::displayAt(const ProfileParameter& parameter, double time) const
+{
+    const std::optional<RecordEntry> entry = entryAt(parameter, time);
+    if (!entry)
+        return {};
+    mProfile.resetCoordinates(); // a single fix has none before it
+    DisplayValue result;
+    ThresholdResult ofText; // bit fields have none; what people are warned by is the value's
+    mProfile.getDouble(*entry, parameter, result.state, result.colour, true);
+    result.text = mProfile.getDataString(*entry, parameter, ofText.state, ofText.colour);
+    return result;
+}
+
 } // namespace ZARN

@@ -4,8 +4,16 @@
 #include "profile/Profile.h"
 
 #include <optional>
+#include <string>
 
 namespace ZARN {
+
+/// What is shown of a parameter at a time.
+struct DisplayValue {
+    std::string text; ///< with the parameter's precision or its labels, in the display unit; without the unit's name
+    int state = 0;    ///< of the value's threshold, as getValue() tells it
+    QColor colour;    ///< the threshold's; invalid for what is no number
+};
 
 /// The values of a loaded cycle by parameter and time.
 class CycleValues {
@@ -23,6 +31,10 @@ public:
     /// The value in the display unit; 0 without touching state and colour when no entry decides it.
     double getValue(const ProfileParameter& parameter, double time, int& state, QColor& colour) const;
     double getValue(const ProfileParameter& parameter, double time) const;
+
+    /// What is shown at a time, in the words of tables and exports; none where getValue() has no sample to tell of. Views show "-" there: a
+    /// zero would look like a measured one.
+    [[nodiscard]] std::optional<DisplayValue> displayAt(const ProfileParameter& parameter, double time) const;
 
     /// The channel of a parameter; null when it has no entries.
     [[nodiscard]] const RecordChannel* channel(const ProfileParameter& parameter) const { return mData.channel(parameter.identifier()); }

@@ -10,6 +10,7 @@ namespace OpenStreet {
 namespace {
 
 constexpr Projection kMercator(ProjectionType::eMercator);
+constexpr double kTouch = 1e-6; // pixels of a tile that cannot be seen
 constexpr double kHalf = 0.5 * Projection::kWorldWidth;
 
 /// Columns and rows are small: the camera holds range and position.
@@ -36,16 +37,19 @@ TileCover::TileCover(const Camera& camera, double pixelRatio, int maxZoom)
     const double perTile = kTilePixels * camera.metresPerPixel() / std::max(pixelRatio, 0.25);
     const double wanted = std::round(std::log2(Projection::kWorldWidth / perTile));
     mZoom = static_cast<int>(std::clamp(wanted, 0.0, static_cast<double>(std::clamp(maxZoom, 0, TileId::kMaxZoom))));
-    mSpan = spanAt(camera, mZoom);
-    while (mZoom > 0 && mSpan.count() > kMaxTiles)
-        mSpan = spanAt(camera, --mZoom);
+    Span span = spanAt(camera, mZoom);
+    while (mZoom > 0 && span.count() > kMaxTiles)
+        span = spanAt(camera, --mZoom);
     const int tiles = TileId::count(mZoom);
-    for (int row = mSpan.top; row <= mSpan.bottom; ++row) {
-        for (int column = mSpan.left; column <= mSpan.right; ++column)
-            mView.push_back({{mZoom, wrapped(column, tiles), row}, column});
+    for (int row = span.top; row <= span.bottom; ++row) {
+        for (int column = span.left; column <= span.right; ++column) {
+            const TilePlace place{{mZoom, wrapped(column, tiles), row}, column};
+            if (isSeen(camera, place))
+                mView.push_back(place);
+        }
     }
-    const double middleX = 0.5 * (mSpan.left + mSpan.right);
-    const double middleY = 0.5 * (mSpan.top + mSpan.bottom);
+    const double middleX = 0.5 * (span.left + span.right);
+    const double middleY = 0.5 * (span.top + span.bottom);
     const auto distance = [=](const TilePlace& place) { return std::hypot(place.column - middleX, place.id.y - middleY); };
     std::stable_sort(mView.begin(), mView.end(),
                      [&](const TilePlace& a, const TilePlace& b) { return distance(a) < distance(b); });
@@ -82,21 +86,21 @@ std::vector<TileId> TileCover::ids() const
     return result;
 }
 
-std::vector<TileId> TileCover::ring() const
+bool TileCover::isSeen(const Camera& camera, const TilePlace& place)
 {
-    std::unordered_set<TileId, TileIdHash> met;
-    for (const TilePlace& place : mView)
-        met.insert(place.id);
-    std::vector<TileId> result;
-    const int tiles = TileId::count(mZoom);
-    for (int row = mSpan.top - 1; row <= mSpan.bottom + 1; ++row) {
-        for (int column = mSpan.left - 1; column <= mSpan.right + 1; ++column) {
-            const TileId id{mZoom, wrapped(column, tiles), row};
-            if (id.isValid() && met.insert(id).second)
-                result.push_back(id);
-        }
+    if (camera.projection().type() != ProjectionType::eMercator)
+        return true;
+    WorldPoint northWest, southEast;
+    bounds(place, northWest, southEast);
+    double left = std::numeric_limits<double>::max(), top = left, right = -left, bottom = -left;
+    for (const WorldPoint& corner : {northWest, southEast, WorldPoint{northWest.x, southEast.y}, WorldPoint{southEast.x, northWest.y}}) {
+        const WindowPoint at = camera.worldToWindow(corner);
+        left = std::min(left, at.x);
+        right = std::max(right, at.x);
+        top = std::min(top, at.y);
+        bottom = std::max(bottom, at.y);
     }
-    return result;
+    return right > kTouch && left < camera.width() - kTouch && bottom > kTouch && top < camera.height() - kTouch;
 }
 
 void TileCover::bounds(const TilePlace& place, WorldPoint& northWest, WorldPoint& southEast)
@@ -104,6 +108,13 @@ void TileCover::bounds(const TilePlace& place, WorldPoint& northWest, WorldPoint
     const double edge = Projection::kWorldWidth / TileId::count(place.id.zoom);
     northWest = {place.column * edge - kHalf, kHalf - place.id.y * edge};
     southEast = {northWest.x + edge, northWest.y - edge};
+}
+
+QRectF partOfAncestor(const TileId& id, const TileId& ancestor)
+{
+    const int levels = id.zoom - ancestor.zoom;
+    const double edge = 1.0 / TileId::count(levels);
+    return {(id.x - (ancestor.x << levels)) * edge, (id.y - (ancestor.y << levels)) * edge, edge, edge};
 }
 
 } // namespace OpenStreet

@@ -3,6 +3,8 @@
 #include "openstreet/core/Camera.h"
 #include "openstreet/core/TileId.h"
 
+#include <QRectF>
+
 #include <vector>
 
 namespace OpenStreet {
@@ -27,8 +29,6 @@ public:
     [[nodiscard]] const std::vector<TilePlace>& view() const { return mView; }
     /// The tiles that are seen, each once, in the same order.
     [[nodiscard]] std::vector<TileId> ids() const;
-    /// The tiles around those that are seen, one deep, each once.
-    [[nodiscard]] std::vector<TileId> ring() const;
 
     /// World metres of the corners of a tile in Web Mercator: north-west and south-east.
     static void bounds(const TilePlace& place, WorldPoint& northWest, WorldPoint& southEast);
@@ -40,10 +40,14 @@ private:
         [[nodiscard]] std::size_t count() const;
     };
     [[nodiscard]] Span spanAt(const Camera& camera, int zoom) const;
+    /// A turned view shows a part only of the box around it.
+    [[nodiscard]] static bool isSeen(const Camera& camera, const TilePlace& place);
 
     int mZoom = 0;
-    Span mSpan{};
     std::vector<TilePlace> mView;
 };
+
+/// Which part of an ancestor's picture shows the tile: 0..1 from the left upper corner.
+[[nodiscard]] QRectF partOfAncestor(const TileId& id, const TileId& ancestor);
 
 } // namespace OpenStreet

@@ -97,6 +97,12 @@ void TileDisk::drop(const QString& path)
     mFiles.erase(known);
 }
 
+bool TileDisk::has(const QString& server, const TileId& id)
+{
+    index();
+    return mFiles.contains(path(server, id));
+}
+
 std::optional<TileRecord> TileDisk::read(const QString& server, const TileId& id)
 {
     if (mFolder.isEmpty())

@@ -32,6 +32,7 @@ public:
     [[nodiscard]] qint64 size();
 
     /// @param server the key of the tile server.
+    [[nodiscard]] bool has(const QString& server, const TileId& id);
     [[nodiscard]] std::optional<TileRecord> read(const QString& server, const TileId& id);
     void write(const QString& server, const TileId& id, const TileRecord& record);
     void remove(const QString& server, const TileId& id) { drop(path(server, id)); }

@@ -28,6 +28,18 @@ qint64 seconds(const QByteArray& text)
     return ok ? std::clamp<qint64>(value, 0, kLongestLife) : -1;
 }
 
+/// Whether a server of that answer is to be left alone for a while: it fails, or wants no more of these requests.
+bool isFailing(int status)
+{
+    constexpr int kStatus[] = {401, 403, 408, 429};
+    return status < 300 || status >= 500 || std::find(std::begin(kStatus), std::end(kStatus), status) != std::end(kStatus);
+}
+
+qint64 announcedBytes(const QNetworkReply& reply)
+{
+    return reply.header(QNetworkRequest::ContentLengthHeader).toLongLong();
+}
+
 /// A date of HTTP as seconds since 1970; -1 when it is none.
 qint64 httpDate(const QByteArray& text)
 {
@@ -90,7 +102,7 @@ void TileLoader::get(const TileId& id, const QUrl& url, const TileRecord& known)
         request.setRawHeader("If-None-Match", known.etag);
     if (!known.lastModified.isEmpty())
         request.setRawHeader("If-Modified-Since", known.lastModified);
-    request.setAttribute(QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::AlwaysNetwork);
+    // No attribute about loading from a cache: the toolkit, which has none, would have every cache on the way ask the server anew.
     request.setAttribute(QNetworkRequest::CacheSaveControlAttribute, false);
     request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
     request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
@@ -116,8 +128,7 @@ void TileLoader::connectReply(const TileId& id, QNetworkReply* pReply)
 
 void TileLoader::watchSize(QNetworkReply* pReply) const
 {
-    const qint64 announced = pReply->header(QNetworkRequest::ContentLengthHeader).toLongLong();
-    if (std::max(announced, pReply->bytesAvailable()) <= TileImage::kMaxBytes || pReply->isFinished())
+    if (std::max(announcedBytes(*pReply), pReply->bytesAvailable()) <= TileImage::kMaxBytes || pReply->isFinished())
         return;
     pReply->setProperty(kTooLarge, true);
     pReply->abort();
@@ -164,7 +175,8 @@ TileReply TileLoader::judge(QNetworkReply& reply) const
     const int status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
     readHeaders(reply, result);
     result.reason = status == 0 ? reply.errorString() : QCoreApplication::translate("OpenStreet::TileLoader", "HTTP status %1").arg(status);
-    if (reply.property(kTooLarge).toBool()) {
+    // What is announced counts even when the connection ends before any of it came.
+    if (reply.property(kTooLarge).toBool() || (status == 200 && announcedBytes(reply) > TileImage::kMaxBytes)) {
         result.kind = TileReply::eRefused;
         result.reason = QCoreApplication::translate("OpenStreet::TileLoader", "more than 4 MiB");
     } else if (status == 304) {
@@ -174,7 +186,7 @@ TileReply TileLoader::judge(QNetworkReply& reply) const
         result.record.body = reply.readAll();
     } else if (status == 200) {
         result.reason = reply.errorString(); // the connection broke off
-    } else if (status >= 300 && status < 500 && status != 408 && status != 429) {
+    } else if (!isFailing(status)) {
         result.kind = status < 400 ? TileReply::eRefused : TileReply::eMissing;
     }
     return result;

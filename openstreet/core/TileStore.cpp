@@ -1,8 +1,10 @@
 #include "openstreet/core/TileStore.h"
 
+#include "openstreet/core/TileCover.h"
 #include "openstreet/core/TileImage.h"
 
 #include <QDateTime>
+#include <QPainter>
 
 #include <algorithm>
 
@@ -11,6 +13,8 @@ namespace OpenStreet {
 namespace {
 
 constexpr std::size_t kMaxFailures = 4096; // failures remembered of single tiles
+constexpr int kStandInEdge = 256;          // pixels
+constexpr int kLevelsBelow = 2;            // of smaller tiles that stand in for a larger one: at most 20 pictures
 
 } // namespace
 
@@ -43,9 +47,8 @@ void TileStore::setServer(const TileServer& server)
     mMemory = 0;
     mFailures.clear();
     mServerFailure = {};
-    mLastError.clear();
     for (auto& [id, wanted] : mWanted)
-        wanted = {eNew, wanted.isSeen, {}};
+        wanted = {};
     schedule();
 }
 
@@ -63,27 +66,22 @@ void TileStore::setAllowed(bool allowed)
     tellLoading();
 }
 
-void TileStore::want(const std::vector<TileId>& view, const std::vector<TileId>& ring)
+void TileStore::want(const std::vector<TileId>& view)
 {
     std::unordered_map<TileId, Wanted, TileIdHash> before;
     before.swap(mWanted);
     mOrderWanted.clear();
-    const auto add = [&](const TileId& id, bool isSeen) {
+    for (const TileId& id : view) {
         Wanted wanted;
         if (const auto known = before.find(id); known != before.end()) {
             wanted = known->second;
             before.erase(known);
         }
-        wanted.isSeen = isSeen;
         if (wanted.state == eSettled && !mImages.contains(id))
             wanted.state = eNew;
         if (mWanted.emplace(id, wanted).second)
             mOrderWanted.push_back(id);
-    };
-    for (const TileId& id : view)
-        add(id, true);
-    for (const TileId& id : ring)
-        add(id, false);
+    }
     for (const auto& [id, wanted] : before) {
         if (wanted.state == eOnItsWay)
             mLoader.cancel(id);
@@ -104,7 +102,7 @@ int TileStore::loading() const
 {
     return static_cast<int>(std::count_if(mWanted.begin(), mWanted.end(), [this](const auto& entry) {
         const auto& [id, wanted] = entry;
-        if (!wanted.isSeen || wanted.state == eSettled)
+        if (wanted.state == eSettled)
             return false;
         return wanted.state != eAsk || (mAllowed && mServer.isValid() && waitUntil(id) <= now());
     }));
@@ -149,13 +147,24 @@ bool TileStore::lookUp()
         return true;
     }
     wanted.state = eAsk;
+    if (readKept(id, wanted) || mImages.contains(id))
+        return true;
+    if (const QImage other = standIn(id); !other.isNull()) {
+        keep(id, other, 0);
+        Q_EMIT signalTile(id);
+    }
+    return true;
+}
+
+bool TileStore::readKept(const TileId& id, Wanted& wanted)
+{
     std::optional<TileRecord> record = mDisk.read(mServer.key(), id);
     if (!record)
-        return true;
+        return false;
     const QImage image = TileImage::decode(record->body);
     if (image.isNull()) {
         mDisk.remove(mServer.key(), id);
-        return true;
+        return false;
     }
     if (record->expires > now())
         wanted.state = eSettled;
@@ -164,6 +173,63 @@ bool TileStore::lookUp()
     keep(id, image, record->expires);
     Q_EMIT signalTile(id);
     return true;
+}
+
+QImage TileStore::readPicture(const TileId& id)
+{
+    const std::optional<TileRecord> record = mDisk.has(mServer.key(), id) ? mDisk.read(mServer.key(), id) : std::nullopt;
+    return record ? TileImage::decode(record->body) : QImage();
+}
+
+QImage TileStore::standIn(const TileId& id)
+{
+    QImage result(kStandInEdge, kStandInEdge, QImage::Format_RGBA8888_Premultiplied);
+    result.fill(Qt::transparent);
+    QPainter painter(&result);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    bool isAny = false;
+    for (TileId larger = id; larger.zoom > 0 && id.zoom - larger.zoom < kLevelsAbove && !isAny;) {
+        larger = larger.parent();
+        const QImage picture = readPicture(larger);
+        const QRectF part = partOfAncestor(id, larger);
+        isAny = !picture.isNull();
+        painter.drawImage(result.rect(), picture,
+                          QRectF(part.x() * picture.width(), part.y() * picture.height(), part.width() * picture.width(),
+                                 part.height() * picture.height()));
+    }
+    isAny = drawKept(painter, id, result.rect(), kLevelsBelow) || isAny;
+    painter.end();
+    return isAny ? result : QImage();
+}
+
+/// Draws the smaller tiles at the place, each in a quarter of the target. @return whether there was one
+bool TileStore::drawKept(QPainter& painter, const TileId& id, const QRectF& target, int levels)
+{
+    bool isAny = false;
+    const QSizeF half = target.size() / 2.0;
+    for (int i = 0; i < 4 && levels > 0 && id.zoom < TileId::kMaxZoom; ++i) {
+        const TileId smaller{id.zoom + 1, id.x * 2 + i % 2, id.y * 2 + i / 2};
+        const QRectF quarter(target.topLeft() + QPointF(i % 2 * half.width(), i / 2 * half.height()), half);
+        const QImage picture = readPicture(smaller);
+        if (!picture.isNull())
+            painter.drawImage(quarter, picture);
+        isAny = !picture.isNull() || drawKept(painter, smaller, quarter, levels - 1) || isAny;
+    }
+    return isAny;
+}
+
+QString TileStore::lastError() const
+{
+    for (const TileId& id : mOrderWanted) {
+        const EState state = mWanted.at(id).state;
+        if (state != eAsk && state != eOnItsWay)
+            continue;
+        if (const auto failure = mFailures.find(id); failure != mFailures.end() && state == eAsk)
+            return failure->second.reason;
+        if (mServerFailure.count > 0)
+            return mServerFailure.reason;
+    }
+    return {};
 }
 
 /// Sends one request when one may be sent and one is due. @return whether it did.
@@ -237,7 +303,6 @@ void TileStore::takeTile(const TileId& id, const TileReply& reply)
     }
     mServerFailure = {};
     mFailures.erase(id);
-    mLastError.clear();
     if (reply.mayBeKept)
         mDisk.write(mServer.key(), id, reply.record);
     keep(id, image, reply.record.expires);
@@ -265,15 +330,16 @@ void TileStore::takeNotModified(const TileId& id, const TileReply& reply)
 
 void TileStore::fail(const TileId& id, const TileReply& reply)
 {
-    mLastError = reply.reason;
     if (mFailures.size() >= kMaxFailures)
         mFailures.clear();
     Failure& failure = mFailures[id];
     ++failure.count;
     const bool isServer = reply.kind == TileReply::eFailed;
     failure.until = now() + (isServer ? pause(failure.count) : kMissingPause);
+    failure.reason = reply.reason;
     if (isServer) {
         ++mServerFailure.count;
+        mServerFailure.reason = reply.reason;
         mServerFailure.until = now() + std::max(pause(mServerFailure.count), std::min<qint64>(reply.retryAfter, kMissingPause));
     } else {
         mServerFailure = {}; // it answers

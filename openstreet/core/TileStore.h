@@ -11,11 +11,14 @@
 #include <unordered_set>
 #include <vector>
 
+class QPainter;
+
 namespace OpenStreet {
 
-/// The pictures of a server's tiles: out of memory, else off the disk, else - only when that is allowed - out of the network. Asks for
-/// nothing but the tiles that are wanted now, two at a time, and for each again only when it has expired. After failures it waits, longer
-/// from time to time. Lives on one thread; works off one file per turn of the event loop.
+/// The pictures of a server's tiles: out of memory, else off the disk, else - only when that is allowed - out of the network. What is on
+/// its way is stood in for by what the disk has of other zooms. Asks for nothing but the tiles that are wanted now, two at a time, and for
+/// each again only when it has expired. After failures it waits, longer from time to time. Lives on one thread; works off one tile per turn
+/// of the event loop.
 class TileStore : public QObject {
     Q_OBJECT
 
@@ -25,6 +28,8 @@ public:
     static constexpr qint64 kMemoryLimit = 96LL * 1024 * 1024;
     static constexpr qint64 kFirstPause = 2; ///< seconds after a failure; doubles from failure to failure
     static constexpr qint64 kLongestPause = 300;
+    /// Zoom levels by which a larger tile may be stretched: beyond it the built-in map tells more.
+    static constexpr int kLevelsAbove = 5;
     static constexpr qint64 kMissingPause = 3600; ///< before a tile is asked for again that the server lacks
 
     explicit TileStore(QObject* pParent = nullptr, Clock clock = {});
@@ -40,15 +45,14 @@ public:
     [[nodiscard]] TileLoader& loader() { return mLoader; }
     void setMemoryLimit(qint64 bytes) { mMemoryLimit = bytes; }
 
-    /// The tiles that are needed from now on, the most important first; the others that are on their way are cancelled.
-    /// @param view those that are seen; @param ring those next to them, which come last.
-    void want(const std::vector<TileId>& view, const std::vector<TileId>& ring);
-    /// The picture of a tile; null when it is not in memory.
+    /// The tiles that are seen from now on, the most important first; the others that are on their way are cancelled.
+    void want(const std::vector<TileId>& view);
+    /// The picture of a tile, or what stands in for it, which need not cover it; null when it is not in memory.
     [[nodiscard]] QImage image(const TileId& id);
     /// How many of the tiles that are seen are still to come: not those that wait for a failed server or a refusal to pass.
     [[nodiscard]] int loading() const;
-    /// Why the last tile did not come, in English; empty after one came.
-    [[nodiscard]] const QString& lastError() const { return mLastError; }
+    /// Why a tile that is wanted does not come, for people; empty when all of them are here or on their way for the first time.
+    [[nodiscard]] QString lastError() const;
 
 Q_SIGNALS:
     /// A tile has a new picture.
@@ -60,7 +64,6 @@ private:
     enum EState { eNew, eAsk, eOnItsWay, eSettled }; ///< not looked for yet; wanted from the server; being fetched; nothing left to do
     struct Wanted {
         EState state = eNew;
-        bool isSeen = false;
         TileRecord known; ///< what the server said of the picture that is here; without the body
     };
     struct Kept {
@@ -71,6 +74,7 @@ private:
     struct Failure {
         int count = 0;
         qint64 until = 0;
+        QString reason = {};
     };
 
     [[nodiscard]] qint64 now() const { return mClock(); }
@@ -78,6 +82,12 @@ private:
     void tellLoading();
     void schedule();
     bool lookUp();
+    /// @return whether the tile is on the disk
+    bool readKept(const TileId& id, Wanted& wanted);
+    [[nodiscard]] QImage readPicture(const TileId& id);
+    /// What the disk has of other zooms for the place, or null.
+    [[nodiscard]] QImage standIn(const TileId& id);
+    bool drawKept(QPainter& painter, const TileId& id, const QRectF& target, int levels);
     bool ask();
     void scheduleRetry();
     void slotFinished(const TileId& id, const TileReply& reply);
@@ -102,7 +112,6 @@ private:
     std::unordered_map<TileId, Wanted, TileIdHash> mWanted;
     std::unordered_map<TileId, Failure, TileIdHash> mFailures;
     Failure mServerFailure;
-    QString mLastError;
     QTimer mWork;
     QTimer mRetry;
 };

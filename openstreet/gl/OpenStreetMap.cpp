@@ -26,6 +26,7 @@ public:
     void drawServer(const TileCover& cover);
     void drawShade(const TileCover& cover);
     [[nodiscard]] int unfinished() const { return mUnfinished; }
+    [[nodiscard]] const MapSources& sources() const { return mSources; }
 
 private:
     /// Only the making of tiles counts: where drawing is slow, each frame makes one at least, and so the last one is made some time.
@@ -36,12 +37,13 @@ private:
     const VESK::OpenGL::Texture* builtInTexture(const TileId& id, bool isNeeded);
     const VESK::OpenGL::Texture* shadeTexture(const TileId& id);
     bool drawAncestor(const TilePlace& place, ELayer layer);
-    void drawChildren(const TilePlace& place);
+    bool drawChildren(const TilePlace& place);
 
     OpenStreetMap& mMap;
     VESK::OpenGL::Device& mDevice;
     qint64 mSpent = 0; // nanoseconds on making tiles
     int mUnfinished = 0;
+    MapSources mSources;
 };
 
 template <typename Make> QImage OpenStreetMap::Frame::timed(Make make)
@@ -96,7 +98,8 @@ const VESK::OpenGL::Texture* OpenStreetMap::Frame::shadeTexture(const TileId& id
 /// Draws what the nearest larger tile that is here shows of the place.
 bool OpenStreetMap::Frame::drawAncestor(const TilePlace& place, ELayer layer)
 {
-    for (TileId id = place.id; id.zoom > 0;) {
+    const int farthest = layer == ELayer::eServer ? TileStore::kLevelsAbove : TileId::kMaxZoom;
+    for (TileId id = place.id; id.zoom > 0 && place.id.zoom - id.zoom < farthest;) {
         id = id.parent();
         const VESK::OpenGL::Texture* pTexture = layer == ELayer::eServer ? serverTexture(id) : builtInTexture(id, false);
         if (pTexture) {
@@ -108,17 +111,22 @@ bool OpenStreetMap::Frame::drawAncestor(const TilePlace& place, ELayer layer)
 }
 
 /// Draws those of the four smaller tiles that are on the graphics card: the view has just been widened.
-void OpenStreetMap::Frame::drawChildren(const TilePlace& place)
+bool OpenStreetMap::Frame::drawChildren(const TilePlace& place)
 {
+    bool isAny = false;
     for (int i = 0; i < 4; ++i) {
         const TileId id{place.id.zoom + 1, place.id.x * 2 + i % 2, place.id.y * 2 + i / 2};
-        if (const VESK::OpenGL::Texture* pTexture = mMap.mTextures.find(ELayer::eServer, id))
+        const VESK::OpenGL::Texture* pTexture = mMap.mTextures.find(ELayer::eServer, id);
+        if (pTexture)
             draw({id, place.column * 2 + i % 2}, *pTexture, QRectF(0, 0, 1, 1));
+        isAny = isAny || pTexture;
     }
+    return isAny;
 }
 
 void OpenStreetMap::Frame::drawBuiltIn(const TileCover& cover)
 {
+    mSources.hasBuiltIn = !mMap.mBaseMap.isEmpty();
     builtInTexture({}, true); // the world stands in where nothing else does
     for (const TilePlace& place : cover.view()) {
         if (mMap.mType == MapType::eTiles && mMap.mTextures.isOpaque(ELayer::eServer, place.id))
@@ -135,14 +143,20 @@ void OpenStreetMap::Frame::drawBuiltIn(const TileCover& cover)
 
 void OpenStreetMap::Frame::drawServer(const TileCover& cover)
 {
+    bool isCovered = true;
     for (const TilePlace& place : cover.view()) {
-        if (const VESK::OpenGL::Texture* pTexture = serverTexture(place.id)) {
+        const VESK::OpenGL::Texture* pTexture = serverTexture(place.id);
+        bool isShown = pTexture;
+        if (pTexture) {
             draw(place, *pTexture, QRectF(0, 0, 1, 1));
-            continue;
+        } else {
+            isShown = drawAncestor(place, ELayer::eServer);
+            isShown = drawChildren(place) || isShown;
         }
-        drawAncestor(place, ELayer::eServer);
-        drawChildren(place);
+        mSources.hasTiles = mSources.hasTiles || isShown;
+        isCovered = isCovered && mMap.mTextures.isOpaque(ELayer::eServer, place.id);
     }
+    mSources.hasBuiltIn = mSources.hasBuiltIn && !isCovered;
 }
 
 void OpenStreetMap::Frame::drawShade(const TileCover& cover)
@@ -158,7 +172,7 @@ OpenStreetMap::OpenStreetMap()
     QObject::connect(&mStore, &TileStore::signalTile, &mStore, [this](const TileId& id) {
         mTextures.forget(ELayer::eServer, id);
         if (mChanged && std::find(mAsked.begin(), mAsked.end(), id) != mAsked.end())
-            mChanged(); // those around the view are not seen yet
+            mChanged();
     });
     QObject::connect(&mStore, &TileStore::signalLoading, &mStore, [this] {
         if (mChanged)
@@ -191,7 +205,7 @@ void OpenStreetMap::setMapType(MapType type)
     mType = type;
     mAsked.clear();
     if (type == MapType::eBuiltIn)
-        mStore.want({}, {});
+        mStore.want({});
 }
 
 void OpenStreetMap::setShadingStyle(const ShadingStyle& style)
@@ -272,7 +286,7 @@ void OpenStreetMap::render(VESK::OpenGL::Device& device)
     if (mType == MapType::eTiles && mStore.server().isValid() && !mIsMoving) {
         std::vector<TileId> seen = cover.ids();
         if (seen != mAsked) {
-            mStore.want(seen, cover.ring());
+            mStore.want(seen);
             mAsked = std::move(seen);
         }
     }
@@ -284,6 +298,7 @@ void OpenStreetMap::render(VESK::OpenGL::Device& device)
     if (mIsShaded && mTerrain.isAvailable())
         frame.drawShade(cover);
     mUnfinished = frame.unfinished();
+    mSources = frame.sources();
 }
 
 } // namespace OpenStreet

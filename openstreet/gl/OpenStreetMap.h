@@ -18,6 +18,13 @@ namespace OpenStreet {
 /// What is drawn: the tiles of the server over the built-in map, or the built-in map alone.
 enum class MapType { eTiles = 0, eBuiltIn = 1 };
 
+/// What a frame showed, for naming where it comes from.
+struct MapSources {
+    bool hasTiles = false;   ///< of the server
+    bool hasBuiltIn = false; ///< the built-in map, where no tile covers it
+    friend bool operator==(const MapSources&, const MapSources&) = default;
+};
+
 /// A map in an OpenGL view: the built-in map of the world, above it the tiles of a server, above them the light and shadow of the terrain.
 /// Tiles that are not there yet are stood in for by parts of larger ones. Window positions are logical pixels from the left upper
 /// corner, paths and addresses UTF-8. Fetches nothing before setTilesAllowed(true).
@@ -74,12 +81,14 @@ public:
     [[nodiscard]] int nrLoadingTiles() const;
     /// Called whenever a picture has changed and the view should be drawn again.
     void setChangeHandler(std::function<void()> handler) { mChanged = std::move(handler); }
-    /// Why the last tile did not come, in English; empty when it came.
-    [[nodiscard]] const QString& lastError() const { return mStore.lastError(); }
+    /// Why a tile that is seen does not come, for people; empty when none is missing.
+    [[nodiscard]] QString lastError() const { return mStore.lastError(); }
     [[nodiscard]] TileStore& store() { return mStore; }
 
     /// Draws the map into the frame that was begun on the device; its context is current.
     void render(VESK::OpenGL::Device& device);
+    /// What the last frame showed.
+    [[nodiscard]] const MapSources& sources() const { return mSources; }
     /// Frees what lies in the context, which must be current.
     void releaseGraphics() { mTextures.clear(); }
 
@@ -99,6 +108,7 @@ private:
     TileTextures mTextures;
     std::unordered_set<TileId, TileIdHash> mUnshaded; // tiles for which the terrain has nothing
     std::vector<TileId> mAsked;
+    MapSources mSources;
     int mUnfinished = 0; // tiles left to be made by later frames
     std::function<void()> mChanged;
 };

@@ -38,11 +38,4 @@ std::vector<VESK::OpenGL::Vertex> tileTriangles(const Camera& camera, const Tile
     return result;
 }
 
-QRectF partOfAncestor(const TileId& id, const TileId& ancestor)
-{
-    const int levels = id.zoom - ancestor.zoom;
-    const double edge = 1.0 / TileId::count(levels);
-    return {(id.x - (ancestor.x << levels)) * edge, (id.y - (ancestor.y << levels)) * edge, edge, edge};
-}
-
 } // namespace OpenStreet

@@ -23,7 +23,7 @@ pid %1/nginx.pid;
 error_log %1/error.log warn;
 events { worker_connections 64; }
 http {
-    log_format line '$connections_active|$request_uri|$status|$http_user_agent|$http_if_none_match|$server_protocol|$http_cookie';
+    log_format line '$connections_active|$request_uri|$status|$http_user_agent|$http_if_none_match|$server_protocol|$http_cookie|$http_cache_control$http_pragma';
     access_log %1/access.log line;
     client_body_temp_path %1/body; proxy_temp_path %1/proxy; fastcgi_temp_path %1/fastcgi; uwsgi_temp_path %1/uwsgi; scgi_temp_path %1/scgi;
     types { image/png png; text/html html; }
@@ -108,8 +108,8 @@ QList<TileRequest> TileHost::requests() const
     const QStringList lines = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     for (const QString& line : lines) {
         const QStringList parts = line.split(QLatin1Char('|'));
-        if (parts.size() == 7)
-            result << TileRequest{parts[0].toInt(), parts[1], parts[2].toInt(), parts[3], parts[4], parts[5], parts[6]};
+        if (parts.size() == 8)
+            result << TileRequest{parts[0].toInt(), parts[1], parts[2].toInt(), parts[3], parts[4], parts[5], parts[6], parts[7]};
     }
     return result;
 }

@@ -18,6 +18,7 @@ struct TileRequest {
     QString ifNoneMatch;
     QString protocol;
     QString cookie;
+    QString caching; ///< what it asks of caches on the way
 };
 
 /// A real nginx on a free port of 127.0.0.1 that serves generated tiles below "/tiles/". Its folder, log and process are its own.

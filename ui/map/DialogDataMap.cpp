@@ -20,6 +20,10 @@ namespace {
 constexpr int kMargin = 10;
 constexpr int kLeastWidth = 200;
 constexpr int kBelowPanels = 70; // pixels for what is written at the lower edge
+constexpr int kBelowConsent = 40;
+constexpr int kAircraft = 24; // pixels around the aircraft
+constexpr int kMostOfMap = 3; // the values cover no more than this part of the map
+constexpr const char* kValuesKey = "MapShowValues";
 
 } // namespace
 
@@ -46,6 +50,7 @@ void DialogDataMap::createMap(const QString& dataPath)
     pLayout->addWidget(mpMap);
     mpValues = new MapValuePanel(this);
     mpTools = new MapToolPanel(mContext.scale, this);
+    mpTools->setChecked(MapToolPanel::kShowValues, mSession.property.getSwitch(kValuesKey, true));
     mpConsent = new MapConsentBar(this);
     mpConsent->hide();
     connect(mpMap, &WidgetMap::signalUpdateMode, this, &DialogDataMap::slotUpdateMode);
@@ -144,6 +149,10 @@ void DialogDataMap::slotCommandToggled(int id, bool isChecked)
         mpMap->navigator().setFollowing(isChecked);
         if (isChecked)
             mpMap->setAcPosition(calcPositionAtTime(mTime));
+    } else if (id == MapToolPanel::kShowValues) {
+        mSession.property.setSwitch(kValuesKey, isChecked);
+        mSession.property.writeXmlFile();
+        fillDataLabel();
     }
     mpMap->setDirty();
 }
@@ -158,7 +167,10 @@ void DialogDataMap::fillDataLabel()
 {
     if (!mpValues)
         return;
-    mpValues->setRows(mValues.at(mTime, mpRecord != nullptr));
+    const bool isWanted = mpTools->isChecked(MapToolPanel::kShowValues);
+    const std::vector<MapValue> rows = isWanted ? mValues.at(mTime, mpRecord != nullptr) : std::vector<MapValue>();
+    mpValues->setRows(rows);
+    mpValues->setVisible(!rows.empty());
     updateGeometry();
 }
 
@@ -178,12 +190,33 @@ void DialogDataMap::updateGeometry()
     const int tallest = std::max(height() - kBelowPanels, 0);
     mpTools->resize(mpTools->sizeHint().boundedTo({width(), tallest}));
     mpTools->move(margin, margin);
-    mpValues->fitInto({std::max(width() - mpTools->width() - 3 * margin, 0), tallest});
-    mpValues->move(width() - margin - mpValues->width(), margin);
+    placeValues(margin, tallest);
     const int wide = std::max(std::min(width() - 2 * margin, 720), 0);
     const int tall = mpConsent->arrangeFor(wide);
-    mpConsent->setGeometry((width() - wide) / 2, std::max(height() - margin - 40 - tall, 0), wide, tall);
+    const int below = std::max(kBelowConsent, mpMap->cornerSize().height() + margin);
+    mpConsent->setGeometry((width() - wide) / 2, std::max(height() - margin - below - tall, 0), wide, tall);
     mpConsent->raise();
+}
+
+/// Beside the commands, or below them where something would be cut there: "Engine ..." may be many things; never over the aircraft that the view follows.
+void DialogDataMap::placeValues(int margin, int tallest)
+{
+    const int area = width() * height() / kMostOfMap;
+    const auto fit = [&](int top, int wide) {
+        const int tall = tallest + margin - top;
+        const bool isWhole = mpValues->fitInto({std::max(wide, 0), tall}, area);
+        const bool isOverMiddle = width() - margin - mpValues->width() < width() / 2 + kAircraft;
+        if (isOverMiddle && top + mpValues->height() > height() / 2 - kAircraft)
+            mpValues->fitInto({std::max(wide, 0), std::min(tall, std::max(height() / 2 - kAircraft - top, 0))}, area);
+        return isWhole;
+    };
+    const int below = mpTools->geometry().bottom() + margin;
+    int top = margin;
+    if (!fit(top, width() - mpTools->width() - 3 * margin) && below < height() / 3) {
+        top = below;
+        fit(top, width() - 2 * margin);
+    }
+    mpValues->move(width() - margin - mpValues->width(), top);
 }
 
 void DialogDataMap::resizeEvent(QResizeEvent* pEvent)

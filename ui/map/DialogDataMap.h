@@ -60,6 +60,7 @@ private:
     void fillDataLabel();
     void fillDataValue();
     void updateConsent();
+    void placeValues(int margin, int tallest);
 
     Session mSession;
     MapContext mContext;

@@ -1,6 +1,8 @@
 #include "ui/map/MapPanels.h"
 
+#include "ui/canvas/ColourContrast.h"
 #include "ui/map/model/MapScene.h"
+#include "ui/map/model/ToolTipText.h"
 
 #include <QAction>
 #include <QButtonGroup>
@@ -14,7 +16,6 @@
 #include <QToolButton>
 
 #include <algorithm>
-#include <utility>
 
 namespace ZARN {
 
@@ -22,13 +23,16 @@ namespace {
 
 constexpr int kIconSize = 32;
 constexpr int kPanelMargin = 5;
-constexpr int kScrolledPart = 60; // percent of the room that a panel takes which does not fit
 constexpr int kPanelSpacing = 2;
+constexpr int kNameGap = 6; // pixels between a name and its value
+constexpr double kLeastContrast = 4.5;
+const QColor kGround(30, 34, 40);
 constexpr int kLeastName = 40;  // pixels that are left of a name at least
+const QColor kIconColour(25, 60, 140);
 constexpr int kLeastText = 260; // pixels of a line of the question beside its buttons
 
-/// The aircraft in a circle.
-QIcon aircraftIcon(int edge)
+/// A picture for a button, drawn around the middle of a square of 48 units.
+template <typename Draw> QIcon drawnIcon(int edge, Draw draw)
 {
     constexpr int kDense = 2; // for screens with dense pixels
     QPixmap picture(edge * kDense, edge * kDense);
@@ -37,14 +41,36 @@ QIcon aircraftIcon(int edge)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.scale(picture.width() / 48.0, picture.height() / 48.0);
     painter.translate(24.0, 24.0);
-    painter.setPen(QPen(QColor(25, 60, 140), 2.5));
-    painter.drawEllipse(QPointF(0, 0), 21.0, 21.0);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(25, 60, 140));
-    const auto outline = MapScene::aircraftOutline();
-    painter.drawPolygon(outline.data(), static_cast<int>(outline.size()));
+    draw(painter);
+    painter.end();
     picture.setDevicePixelRatio(kDense);
     return QIcon(picture);
+}
+
+/// The aircraft in a circle.
+QIcon aircraftIcon(int edge)
+{
+    return drawnIcon(edge, [](QPainter& painter) {
+        painter.setPen(QPen(kIconColour, 2.5));
+        painter.drawEllipse(QPointF(0, 0), 21.0, 21.0);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(kIconColour);
+        const auto outline = MapScene::aircraftOutline();
+        painter.drawPolygon(outline.data(), static_cast<int>(outline.size()));
+    });
+}
+
+/// Lines of names and values in a frame.
+QIcon valuesIcon(int edge)
+{
+    return drawnIcon(edge, [](QPainter& painter) {
+        painter.setPen(QPen(kIconColour, 2.5));
+        painter.drawRoundedRect(QRectF(-20, -17, 40, 34), 5, 5);
+        for (const double y : {-8.0, 0.0, 8.0}) {
+            painter.drawLine(QPointF(-14, y), QPointF(0, y));
+            painter.drawLine(QPointF(6, y), QPointF(14, y));
+        }
+    });
 }
 
 } // namespace
@@ -62,28 +88,27 @@ MapValuePanel::MapValuePanel(QWidget* pParent) : QScrollArea(pParent)
 void MapValuePanel::setRows(const std::vector<MapValue>& rows)
 {
     mRows.clear();
-    mNameWidth = 0;
     mpPanel = new QWidget;
-    mpPanel->setStyleSheet(QStringLiteral(".QWidget{background-color: #66000000;border-radius:10px;}"));
+    mpPanel->setStyleSheet(QStringLiteral(".QWidget{background-color: %1;border-radius:10px;}").arg(kGround.name()));
     auto* pLayout = new QGridLayout(mpPanel);
     pLayout->setContentsMargins(kPanelMargin, kPanelMargin, kPanelMargin, kPanelMargin);
     pLayout->setSpacing(kPanelSpacing);
     for (const MapValue& row : rows) {
         auto* pName = new QLabel(row.name);
         pName->setTextFormat(Qt::PlainText);
+        pName->setContentsMargins(0, 0, kNameGap, 0);
         pName->setStyleSheet(QStringLiteral("QLabel {color: white; font-weight: bold;}"));
         auto* pValue = new QLabel;
         pValue->setTextFormat(Qt::PlainText);
         const int line = static_cast<int>(mRows.size());
         pLayout->addWidget(pName, line, 0);
         pLayout->addWidget(pValue, line, 1);
-        mRows.push_back({row.name, pName, pValue, {}});
+        mRows.push_back({row.name, {}, pName, pValue, {}});
         setColour(mRows.back(), Qt::white);
     }
     setWidget(mpPanel);
-    mpPanel->setAutoFillBackground(false); // the map shines through
+    mpPanel->setAutoFillBackground(false); // beside the round corners
     setWidgetResizable(true);
-    setVisible(!rows.empty());
     setValues(rows);
 }
 
@@ -92,42 +117,56 @@ void MapValuePanel::setColour(Row& row, const QColor& colour) const
     if (row.colour == colour)
         return;
     row.colour = colour;
-    row.pValue->setStyleSheet(QStringLiteral("QLabel {color: %1; font-weight: bold;}").arg(colour.name()));
+    const QColor readable = readableOn(kGround, colour, kLeastContrast);
+    row.pValue->setStyleSheet(QStringLiteral("QLabel {color: %1; font-weight: bold;}").arg(readable.name()));
 }
 
 void MapValuePanel::setValues(const std::vector<MapValue>& rows)
 {
     for (std::size_t i = 0; i < std::min(rows.size(), mRows.size()); ++i) {
+        mRows[i].value = rows[i].text;
         mRows[i].pValue->setText(rows[i].text);
         setColour(mRows[i], rows[i].colour.isValid() ? rows[i].colour : QColor(Qt::white));
     }
 }
 
-void MapValuePanel::fitInto(const QSize& room)
+bool MapValuePanel::fitInto(const QSize& room, int area)
 {
-    const bool isTooTall = mpPanel->sizeHint().height() > room.height();
-    // The map below is to be dragged, zoomed and clicked; only a panel that has to be scrolled takes the mouse, and a part of the map.
-    setAttribute(Qt::WA_TransparentForMouseEvents, !isTooTall);
-    const int tallest = isTooTall ? room.height() * kScrolledPart / 100 : room.height();
-    const int bar = isTooTall ? verticalScrollBar()->sizeHint().width() : 0;
-    elideNames(room.width() - bar);
-    const QSize wanted = mpPanel->sizeHint();
-    resize(std::min(wanted.width() + bar, room.width()), std::min(wanted.height(), tallest));
+    const auto tallest = [&](int width) { return std::min(room.height(), area / std::max(width, 1)); };
+    bool isWhole = elide(room.width());
+    QSize wanted = mpPanel->sizeHint().boundedTo({room.width(), QWIDGETSIZE_MAX});
+    const bool isTooTall = wanted.height() > tallest(wanted.width());
+    if (isTooTall) {
+        const int bar = verticalScrollBar()->sizeHint().width();
+        isWhole = elide(room.width() - bar);
+        wanted.setWidth(std::min(mpPanel->sizeHint().width() + bar, room.width()));
+    }
+    resize(wanted.width(), std::min(wanted.height(), tallest(wanted.width())));
+    // The map below is to be dragged, zoomed and clicked; only a panel that has to be scrolled, or to tell what was cut, takes the mouse.
+    setAttribute(Qt::WA_TransparentForMouseEvents, !isTooTall && isWhole);
+    return isWhole;
 }
 
-void MapValuePanel::elideNames(int width)
+bool MapValuePanel::elide(int width)
 {
+    bool isWhole = true;
+    const auto cut = [&isWhole](QLabel& label, const QString& text, int most) {
+        const QString shown = label.fontMetrics().elidedText(text, Qt::ElideRight, most);
+        isWhole = isWhole && shown == text;
+        if (label.text() != shown)
+            label.setText(shown);
+        label.setToolTip(shown == text ? QString() : plainToolTip(text));
+    };
+    const int room = width - 2 * kPanelMargin - kPanelSpacing - kNameGap;
     int values = 0;
-    for (const Row& row : mRows)
-        values = std::max(values, row.pValue->sizeHint().width());
-    const int names = std::max(width - values - 2 * kPanelMargin - kPanelSpacing, kLeastName);
-    if (std::exchange(mNameWidth, names) == names)
-        return;
     for (const Row& row : mRows) {
-        row.pName->setText(row.pName->fontMetrics().elidedText(row.name, Qt::ElideRight, names));
-        row.pName->setToolTip(row.pName->text() == row.name ? QString() : row.name);
+        cut(*row.pValue, row.value, room - kLeastName);
+        values = std::max(values, row.pValue->sizeHint().width());
     }
+    for (const Row& row : mRows)
+        cut(*row.pName, row.name, std::max(room - values, kLeastName));
     mpPanel->layout()->activate();
+    return isWhole;
 }
 
 MapToolPanel::MapToolPanel(int scale, QWidget* pParent) : QWidget(pParent), mpGroup(new QButtonGroup(this))
@@ -143,14 +182,22 @@ MapToolPanel::MapToolPanel(int scale, QWidget* pParent) : QWidget(pParent), mpGr
     pBar->setStyleSheet(QStringLiteral(".QToolBar{background-color: #00ffffff;border-radius:10px;}"));
     pBar->setOrientation(Qt::Vertical);
     pBar->setIconSize({kIconSize * scale, kIconSize * scale});
-    QAction* pAction = pBar->addAction(aircraftIcon(kIconSize * scale), tr("Center AC"));
-    pAction->setToolTip(tr("Center AC"));
-    pAction->setCheckable(true);
-    pAction->setChecked(true);
     mpGroup->setExclusive(false);
-    mpGroup->addButton(qobject_cast<QAbstractButton*>(pBar->widgetForAction(pAction)), kCentreAircraft);
+    addCommand(*pBar, aircraftIcon(kIconSize * scale), tr("Center AC"), kCentreAircraft);
+    addCommand(*pBar, valuesIcon(kIconSize * scale), tr("Show values"), kShowValues);
     connect(mpGroup, &QButtonGroup::idToggled, this, &MapToolPanel::signalToggled);
     pLayout->addWidget(pBar);
+}
+
+void MapToolPanel::addCommand(QToolBar& bar, const QIcon& icon, const QString& text, int id)
+{
+    QAction* pAction = bar.addAction(icon, text);
+    pAction->setToolTip(text);
+    pAction->setCheckable(true);
+    pAction->setChecked(true);
+    auto* pButton = qobject_cast<QAbstractButton*>(bar.widgetForAction(pAction));
+    pButton->setAccessibleName(text);
+    mpGroup->addButton(pButton, id);
 }
 
 void MapToolPanel::setChecked(int id, bool isChecked)

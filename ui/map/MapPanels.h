@@ -10,12 +10,13 @@
 class QBoxLayout;
 class QButtonGroup;
 class QGridLayout;
+class QIcon;
 class QLabel;
 class QToolBar;
 
 namespace ZARN {
 
-/// The dark panel of current values on the map.
+/// The dark panel of current values on the map. Its ground is opaque, and colours are lightened until they can be read on it.
 class MapValuePanel : public QScrollArea {
     Q_OBJECT
 
@@ -26,23 +27,24 @@ public:
     void setRows(const std::vector<MapValue>& rows);
     /// Values and colours of the rows that are there.
     void setValues(const std::vector<MapValue>& rows);
-    /// As large as its rows want, within the room that there is; of what is too wide the names are cut.
-    void fitInto(const QSize& room);
+    /// As large as its rows want, within the room that there is and an area in pixels; what is too wide is cut, what is too tall scrolled.
+    /// @return whether nothing was cut
+    bool fitInto(const QSize& room, int area);
 
 private:
     struct Row {
         QString name;
+        QString value;
         QLabel* pName;
         QLabel* pValue;
         QColor colour;
     };
     void setColour(Row& row, const QColor& colour) const;
-    /// Cuts names, with an ellipsis, before a value would be.
-    void elideNames(int width);
+    /// Cuts names with an ellipsis, and values where a name is left the least. @return whether nothing was cut
+    bool elide(int width);
 
     QWidget* mpPanel = nullptr;
     std::vector<Row> mRows;
-    int mNameWidth = 0; // pixels that names were cut to
 };
 
 /// The light panel of the map's commands.
@@ -51,6 +53,7 @@ class MapToolPanel : public QWidget {
 
 public:
     static constexpr int kCentreAircraft = 0;
+    static constexpr int kShowValues = 1;
 
     /// @param scale of the overlays, see MapContext
     MapToolPanel(int scale, QWidget* pParent);
@@ -61,6 +64,8 @@ Q_SIGNALS:
     void signalToggled(int id, bool isChecked);
 
 private:
+    void addCommand(QToolBar& bar, const QIcon& icon, const QString& text, int id);
+
     QButtonGroup* mpGroup;
 };
 

@@ -6,9 +6,11 @@
 #include "app/gui/GraphicsCheck.h"
 #include "card/CardContainer.h"
 #include "profile/Profile.h"
+#include "ui/map/MapAttribution.h"
 #include "ui/map/model/TileConsent.h"
 #include "vesk/base/Timer.h"
 
+#include <QApplication>
 #include <QResizeEvent>
 
 #include <cmath>
@@ -19,7 +21,7 @@ namespace ZARN {
 namespace {
 
 constexpr int kRedrawInterval = 20;       // milliseconds
-constexpr double kLookInterval = 1.0;     // seconds after which a still view looks whether it is still right
+constexpr double kLookInterval = 1.0;     // seconds after which a still view is painted again
 constexpr double kLoadingInterval = 0.25; // seconds between two drawings while tiles are on their way
 const QColor kBackground(180, 211, 230);
 
@@ -52,6 +54,11 @@ WidgetMap::WidgetMap(const Session& session, const QString& dataPath, MapContext
         [this](const QString& reason) { mSession.console.print("WidgetMap: %s\n", reason.toUtf8().constData()); },
     };
     mpSurface = GraphicsCheck::isSoftware() ? GlSurface::createInMemory(painting, this) : GlSurface::createOnCard(painting, nullptr, this);
+    mpAttribution = new MapAttribution(this);
+    setAccessibleName(tr("Map of the flight"));
+    mClick.setSingleShot(true);
+    mClick.setInterval(QApplication::doubleClickInterval());
+    connect(&mClick, &QTimer::timeout, this, [this] { Q_EMIT signalTime(mClickTime); });
     mTimer.setInterval(kRedrawInterval);
     connect(&mTimer, &QTimer::timeout, this, &WidgetMap::slotTimeout);
     mTimer.start();
@@ -113,6 +120,11 @@ void WidgetMap::updateNote()
         mIsAboveDirty = true;
 }
 
+QSize WidgetMap::cornerSize() const
+{
+    return mpAttribution->isVisibleTo(this) ? mpAttribution->size() : QSize(0, 0);
+}
+
 void WidgetMap::init()
 {
     loadWorld();
@@ -142,6 +154,7 @@ void WidgetMap::resizeEvent(QResizeEvent* pEvent)
     QWidget::resizeEvent(pEvent);
     resizeGL(width(), height());
     mpSurface->widget().setGeometry(rect());
+    mpAttribution->place();
     mpSurface->requestFrame();
 }
 
@@ -170,7 +183,6 @@ void WidgetMap::paintGL()
     mPacer.begin();
     mIsPainting = true;
     ++mGroundPaints;
-    mIsDirty = false;
     setViewPort();
     mMap.render(mpCanvas->device());
     setViewPortOrtho();
@@ -183,8 +195,7 @@ void WidgetMap::paintAbove(Canvas& canvas)
     if (!std::exchange(mIsPainting, false))
         mPacer.begin();
     ++mPaints;
-    mIsAboveDirty = false;
-    mLastRedraw = VESK::Misc::Timer::getTime();
+    mScene.setCorner(cornerSize());
     mScene.drawAbove(canvas, mNavigator.camera());
     mPacer.end();
 }
@@ -200,12 +211,17 @@ void WidgetMap::slotTimeout()
         mContext.isLoading = mMap.nrLoadingTiles() != 0;
         updateNote();
     }
-    if (!mPacer.isDue())
+    if (std::exchange(mSources, mMap.sources()) != mMap.sources()) {
+        mpAttribution->setSources(mSources, mMap.tileServer());
+        mIsAboveDirty = true; // the scale bar makes room
+    }
+    const bool isFrame = mIsDirty || (mContext.isLoading && still > kLoadingInterval);
+    if (!mPacer.isDue() || !(isFrame || mIsAboveDirty || still > kLookInterval))
         return;
-    if (mIsDirty || (mContext.isLoading && still > kLoadingInterval))
-        mpSurface->requestFrame();
-    else if (mIsAboveDirty)
-        mpSurface->requestAbove();
+    // Settled by asking, not by painting: the toolkit also has parts painted, as when a panel above the map has changed.
+    mIsDirty = mIsAboveDirty = false;
+    mLastRedraw = now;
+    isFrame ? mpSurface->requestFrame() : mpSurface->requestAbove();
 }
 
 void WidgetMap::showEvent(QShowEvent* pEvent)
@@ -222,21 +238,26 @@ void WidgetMap::hideEvent(QHideEvent* pEvent)
 
 void WidgetMap::setRecordData(RecordData* pRecord)
 {
-    mpRecord = pRecord;
+    mClick.stop();
     if (pRecord) {
         redrawFlightPath();
-        return;
+    } else {
+        mScene.path().setPoints({});
+        mScene.events().place(mScene.path());
+        allowTiles();
     }
-    mScene.path().setPoints({});
-    mScene.events().place(mScene.path());
-    allowTiles();
+    // What is being received may have a position yet.
+    const bool isPlaceless = pRecord && !pRecord->channels().empty() && mScene.path().isEmpty();
+    mScene.setMessage(isPlaceless ? tr("No position recorded") : QString());
 }
 
 void WidgetMap::redrawFlightPath()
 {
-    mScene.path().setPoints(mSession.container.flightPath());
+    const bool isSamePath = !mScene.path().setPoints(mSession.container.flightPath());
+    const bool isOtherUnit = std::exchange(mPathUnit, mSession.profile.currentUnit()) != mSession.profile.currentUnit();
     mScene.events().place(mScene.path());
-    mNavigator.fit(mScene.path(), true);
+    if (!isSamePath || !isOtherUnit)
+        mNavigator.fit(mScene.path(), true);
     allowTiles();
 }
 

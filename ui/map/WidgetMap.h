@@ -19,6 +19,8 @@ class QTouchEvent;
 
 namespace ZARN {
 
+class MapAttribution;
+
 /// The drawn map: tiles, and above them the flight path with the aircraft. Turns the user's keys, wheel, drags and touches into
 /// moves of the view. Draws only when something has changed. Owned by the panel, as is the context.
 class WidgetMap : public QWidget {
@@ -33,7 +35,7 @@ public:
     void init();
     /// Shows the path of the record that is loaded; null takes the path away and leaves the view.
     void setRecordData(RecordData* pRecord);
-    /// Takes the path over anew and shows the whole of it.
+    /// Takes the path over anew and shows the whole of it, unless only the unit of its values is another one.
     void redrawFlightPath();
     /// Where the aircraft is drawn; repaints.
     void setAcPosition(const FlightPathPoint& position);
@@ -56,6 +58,8 @@ public:
     void setDirty() { mIsDirty = true; }
     /// Whether the picture is behind what it should show.
     [[nodiscard]] bool isDirty() const { return mIsDirty || mIsAboveDirty; }
+    /// Pixels that are taken of the lower right corner.
+    [[nodiscard]] QSize cornerSize() const;
     /// Whether the user has yet to be asked for the network: there is a path, and a server whose tiles could lie under it.
     [[nodiscard]] bool isConsentMissing() const;
 
@@ -109,6 +113,7 @@ private:
     bool moveByKey(const QKeyEvent& event);
     bool arrowKey(const QKeyEvent& event, double right, double down);
     void dragBy(const QPointF& step);
+    [[nodiscard]] std::optional<double> timeAt(const QPointF& place) const;
     void pickTime(const QPointF& place);
     void showToolTip(const QPoint& place, const QPoint& globalPlace);
     bool touch(const QTouchEvent& event);
@@ -120,8 +125,10 @@ private:
     MapScene mScene;
     OpenStreet::OpenStreetMap mMap;
     GlSurface* mpSurface = nullptr;
+    MapAttribution* mpAttribution = nullptr;
+    OpenStreet::MapSources mSources; // that the attribution names
     GlCanvas* mpCanvas = nullptr; // while it paints
-    RecordData* mpRecord = nullptr;
+    EUnit mPathUnit{};
     bool mIsInitialised = false;
     bool mIsDirty = true;
     bool mIsAboveDirty = true; // what is drawn above tiles and path
@@ -132,6 +139,8 @@ private:
     int mGroundPaints = 0;
     int mPaints = 0;
     QTimer mTimer;
+    QTimer mClick; // runs while a click may become a double click
+    double mClickTime = 0.0;
     std::optional<QPointF> mDragFrom;
     bool mWasDragged = false;
     std::optional<Touch> mTouch;

@@ -1,5 +1,6 @@
 #include "card/CardContainer.h"
 #include "ui/map/WidgetMap.h"
+#include "ui/map/model/ToolTipText.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -117,15 +118,20 @@ void WidgetMap::mouseReleaseEvent(QMouseEvent* pEvent)
         pickTime(pEvent->position());
 }
 
+std::optional<double> WidgetMap::timeAt(const QPointF& place) const
+{
+    return mScene.path().timeNear(mNavigator.camera(), windowPoint(place), kClickRadius, mScene.aircraft().time);
+}
+
+/// Told after the time in which a second click could make it a double click, which only zooms.
 void WidgetMap::pickTime(const QPointF& place)
 {
-    const std::vector<const MapEvent*> events = mScene.events().near(mScene.path(), mNavigator.camera(), windowPoint(place));
-    if (!events.empty()) {
-        Q_EMIT signalTime(events.front()->time);
+    const auto events = mScene.events().near(mScene.path(), mNavigator.camera(), windowPoint(place), mScene.aircraft().time);
+    const std::optional<double> time = events.empty() ? timeAt(place) : events.front()->time;
+    if (!time)
         return;
-    }
-    if (const std::optional<double> time = mScene.path().timeNear(mNavigator.camera(), windowPoint(place), kClickRadius))
-        Q_EMIT signalTime(*time);
+    mClickTime = *time;
+    mClick.start();
 }
 
 void WidgetMap::mouseDoubleClickEvent(QMouseEvent* pEvent)
@@ -133,6 +139,7 @@ void WidgetMap::mouseDoubleClickEvent(QMouseEvent* pEvent)
     if (pEvent->button() != Qt::LeftButton)
         return QWidget::mouseDoubleClickEvent(pEvent);
     mDragFrom.reset();
+    mClick.stop();
     mNavigator.setPointer(windowPoint(pEvent->position()));
     mNavigator.doubleClick();
     mIsDirty = true;
@@ -157,15 +164,10 @@ void WidgetMap::leaveEvent(QEvent* pEvent)
 
 void WidgetMap::showToolTip(const QPoint& place, const QPoint& globalPlace)
 {
-    const std::vector<const MapEvent*> events = mScene.events().near(mScene.path(), mNavigator.camera(), windowPoint(place));
-    QString text = MapEvents::text(events);
-    if (text.isEmpty()) {
-        if (const auto time = mScene.path().timeNear(mNavigator.camera(), windowPoint(place), kClickRadius))
-            text = CardContainer::time(*time);
-    }
-    // Texts come from files and could be taken for rich text.
-    const QString safe = QLatin1String("<p style='white-space:pre'>") + text.toHtmlEscaped() + QLatin1String("</p>");
-    QToolTip::showText(globalPlace, text.isEmpty() ? QString() : safe, this);
+    QString text = MapEvents::text(mScene.events().near(mScene.path(), mNavigator.camera(), windowPoint(place), mScene.aircraft().time));
+    if (const std::optional<double> time = timeAt(place); text.isEmpty() && time)
+        text = CardContainer::time(*time);
+    QToolTip::showText(globalPlace, plainToolTip(text), this);
 }
 
 bool WidgetMap::touch(const QTouchEvent& event)

@@ -1,7 +1,6 @@
 #include "app/Console.h"
 #include "app/Property.h"
 #include "support/RecordingCanvas.h"
-#include "ui/canvas/FramePacer.h"
 #include "ui/canvas/RasterCanvas.h"
 #include "ui/map/model/MapNavigator.h"
 #include "ui/map/model/MapScene.h"
@@ -68,7 +67,6 @@ class TestMapModel : public QObject {
 private Q_SLOTS:
     void positions_data();
     void positions();
-    void positionsOfNoPath();
     void fits_data();
     void fits();
     void damagedPath();
@@ -83,7 +81,6 @@ private Q_SLOTS:
     void scaleBar_data();
     void scaleBar();
     void consent();
-    void framesAreSpaced();
     void picture();
     void longNote();
 };
@@ -116,11 +113,7 @@ void TestMapModel::positions()
     QTEST(point.latitude, "latitude");
     QTEST(point.track, "track");
     QTEST(point.time, "stamp");
-}
-
-void TestMapModel::positionsOfNoPath()
-{
-    const FlightPathPoint nowhere = path({}).positionAt(17.0);
+    const FlightPathPoint nowhere = path({}).positionAt(time);
     QCOMPARE(nowhere.time + nowhere.latitude + nowhere.longitude + nowhere.altitude + nowhere.groundSpeed + nowhere.track, 0.0);
 }
 
@@ -175,9 +168,13 @@ void TestMapModel::timeOfAPlace()
     const MapPath flight = path({at(10, 48.2, 11.0), at(12, 48.2, 11.1), at(14, 48.25, 11.1)});
     const View view;
     const OpenStreet::WindowPoint middle = view.navigator.camera().geoToWindow({48.2, 11.05});
-    QVERIFY(std::fabs(flight.timeNear(view.navigator.camera(), {middle.x, middle.y + 5.0}, 12.0).value() - 11.0) < 1e-6);
-    QVERIFY(!flight.timeNear(view.navigator.camera(), {middle.x, middle.y + 15.0}, 12.0));
-    QVERIFY(!path({}).timeNear(view.navigator.camera(), middle, 12.0));
+    QVERIFY(std::fabs(flight.timeNear(view.navigator.camera(), {middle.x, middle.y + 5.0}, 12.0, 0.0).value() - 11.0) < 1e-6);
+    QVERIFY(!flight.timeNear(view.navigator.camera(), {middle.x, middle.y + 15.0}, 12.0, 0.0));
+    QVERIFY(!path({}).timeNear(view.navigator.camera(), middle, 12.0, 0.0));
+    // The same way there, back a pixel beside it, and there again.
+    const MapPath circuit = path({at(10, 48.2, 11.0), at(20, 48.2, 11.1), at(40, 48.2001, 11.0), at(60, 48.2, 11.1)});
+    for (const auto& [viewTime, expected] : {std::pair{0.0, 15.0}, {21.0, 15.0}, {24.0, 30.0}, {45.0, 50.0}, {1e9, 50.0}})
+        QVERIFY(std::fabs(circuit.timeNear(view.navigator.camera(), middle, 12.0, viewTime).value() - expected) < 0.01);
 }
 
 void TestMapModel::longPathIsBounded()
@@ -326,10 +323,10 @@ void TestMapModel::eventsOnThePath()
     QCOMPARE(events.dots()[0].colour, QColor(Qt::yellow));
     const View view;
     const OpenStreet::WindowPoint dot = view.navigator.camera().geoToWindow({48.2, 11.02});
-    const auto found = events.near(flight, view.navigator.camera(), {dot.x + 3.0, dot.y});
+    const auto found = events.near(flight, view.navigator.camera(), {dot.x + 3.0, dot.y}, 0.0);
     QCOMPARE(found.size(), std::size_t(1));
     QCOMPARE(MapEvents::text(found), "00:00:11.000  Engine EGT <1> 800 %d");
-    QVERIFY(events.near(flight, view.navigator.camera(), {dot.x + 20.0, dot.y}).empty());
+    QVERIFY(events.near(flight, view.navigator.camera(), {dot.x + 20.0, dot.y}, 0.0).empty());
 }
 
 void TestMapModel::scaleBar_data()
@@ -338,6 +335,7 @@ void TestMapModel::scaleBar_data()
     QTest::addColumn<bool>("imperial");
     QTest::addColumn<QString>("text");
     QTest::addColumn<double>("pixels");
+    QTest::newRow("turned") << 200000.0 << false << "50 km" << 125.0;
     QTest::newRow("km") << 100000.0 << false << "10 km" << 100.0;
     QTest::newRow("m") << 5000.0 << false << "500 m" << 100.0;
     QTest::newRow("2") << 15000.0 << false << "2 km" << 2000.0 / 15.0;
@@ -353,6 +351,8 @@ void TestMapModel::scaleBar()
     camera.setWindowSize(1000, 500);
     camera.setPosition({60.0, 0.0});
     camera.setVisibleRange(range, 0.0);
+    if (QTest::currentDataTag() == QByteArray("turned"))
+        camera.setAngles(0.0, 60.0);
     const MapScaleBar bar = MapScaleBar::at(camera, 140.0, imperial);
     QTEST(bar.text, "text");
     QFETCH(double, pixels);
@@ -370,18 +370,6 @@ void TestMapModel::consent()
     QCOMPARE(consent.answer("https://b/"), TileConsent::eNotAsked); // another server is another question
     consent.set("https://b/", false);
     QCOMPARE(consent.answer("https://a/"), TileConsent::eNo);
-}
-
-void TestMapModel::framesAreSpaced()
-{
-    using std::chrono::milliseconds;
-    const FramePacer::Clock::time_point start = FramePacer::Clock::now();
-    FramePacer pacer;
-    QVERIFY(pacer.isDue(start)); // the first
-    pacer.begin(start);
-    pacer.end(start + milliseconds(30));
-    QVERIFY(!pacer.isDue(start + milliseconds(89)));
-    QVERIFY(pacer.isDue(start + milliseconds(90)));
 }
 
 void TestMapModel::picture()

@@ -12,6 +12,7 @@ namespace ZARN {
 namespace {
 
 constexpr QRgb kNoColour = 0xff606060;
+constexpr double kOneDot = 3.0; // pixels by which dots may lie apart that nobody can point at one by one
 
 } // namespace
 
@@ -42,15 +43,17 @@ void MapEvents::place(const MapPath& path)
     }
 }
 
-std::vector<const MapEvent*> MapEvents::near(const MapPath& path, const OpenStreet::Camera& camera, const OpenStreet::WindowPoint& point) const
+std::vector<const MapEvent*> MapEvents::near(const MapPath& path, const OpenStreet::Camera& camera, const OpenStreet::WindowPoint& point,
+                                             double viewTime) const
 {
     const OpenStreet::WindowPoint start = windowOrigin(camera, path.origin());
-    std::vector<std::pair<double, const MapEvent*>> found;
+    using Order = std::pair<double, double>; // steps of distance, seconds
+    std::vector<std::pair<Order, const MapEvent*>> found;
     for (const MapEvent& event : mDots) {
         const OpenStreet::WindowPoint at = camera.worldToWindowVector(event.place);
         const double distance = std::hypot(start.x + at.x - point.x, start.y + at.y - point.y);
         if (distance <= kRadius + 2.0)
-            found.emplace_back(distance, &event);
+            found.emplace_back(Order{std::floor(distance / kOneDot), std::fabs(event.time - viewTime)}, &event);
     }
     std::stable_sort(found.begin(), found.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
     std::vector<const MapEvent*> result;

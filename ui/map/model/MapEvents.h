@@ -32,8 +32,10 @@ public:
     void place(const MapPath& path);
 
     [[nodiscard]] const std::vector<MapEvent>& dots() const { return mDots; }
-    /// The events under a place of the window, the nearest first, at most kMostTips.
-    [[nodiscard]] std::vector<const MapEvent*> near(const MapPath& path, const OpenStreet::Camera& camera, const OpenStreet::WindowPoint& point) const;
+    /// The events under a place of the window, the nearest first, at most kMostTips. Of those that lie upon each other, first the nearer to the
+    /// view time.
+    [[nodiscard]] std::vector<const MapEvent*> near(const MapPath& path, const OpenStreet::Camera& camera,
+                                                    const OpenStreet::WindowPoint& point, double viewTime) const;
     /// Times and texts of events, one a line.
     [[nodiscard]] static QString text(const std::vector<const MapEvent*>& events);
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <utility>
 
 namespace ZARN {
 
@@ -10,6 +11,7 @@ namespace {
 
 constexpr double kMetresPerDegree = 60.0 * 1852.0;
 constexpr double kMargin = 1.2;
+constexpr double kOneLine = 3.0; // pixels by which lines may lie apart that nobody can point at one by one
 
 const OpenStreet::Projection& mercator()
 {
@@ -20,6 +22,11 @@ const OpenStreet::Projection& mercator()
 bool isPlace(const FlightPathPoint& point)
 {
     return std::fabs(point.latitude) <= 90.0 && std::fabs(point.longitude) <= 360.0;
+}
+
+bool isSamePlace(const FlightPathPoint& a, const FlightPathPoint& b)
+{
+    return a.time == b.time && a.latitude == b.latitude && a.longitude == b.longitude;
 }
 
 double shortWay(double degrees)
@@ -49,12 +56,20 @@ std::pair<double, double> nearest(const QPointF& point, const QPointF& a, const 
 
 } // namespace
 
-void MapPath::setPoints(std::span<const FlightPathPoint> points)
+bool MapPath::setPoints(std::span<const FlightPathPoint> points)
 {
-    ++mGeneration;
-    mPoints.clear();
-    mWorld.clear();
+    const std::vector<FlightPathPoint> before = std::exchange(mPoints, {});
     std::copy_if(points.begin(), points.end(), std::back_inserter(mPoints), isPlace);
+    if (std::equal(before.begin(), before.end(), mPoints.begin(), mPoints.end(), isSamePlace))
+        return false;
+    ++mGeneration;
+    placePoints();
+    return true;
+}
+
+void MapPath::placePoints()
+{
+    mWorld.clear();
     if (mPoints.empty())
         return;
     mOrigin = mercator().toWorld({mPoints.front().latitude, mPoints.front().longitude});
@@ -103,23 +118,44 @@ bool MapPath::spans(double time) const
     return !mPoints.empty() && time >= mPoints.front().time - FlightPath::kStep && time <= mPoints.back().time + FlightPath::kStep;
 }
 
-std::optional<double> MapPath::timeNear(const OpenStreet::Camera& camera, const OpenStreet::WindowPoint& point, double pixels) const
+std::vector<MapPath::Passage> MapPath::passages(const OpenStreet::Camera& camera, const OpenStreet::WindowPoint& point, double pixels) const
 {
     const OpenStreet::WindowPoint start = windowOrigin(camera, mOrigin);
     const QPointF wanted(point.x - start.x, point.y - start.y);
-    double best = pixels * pixels;
-    std::optional<double> result;
+    std::vector<Passage> result;
+    bool isInside = false;
     QPointF before;
     for (std::size_t i = 0; i < mWorld.size(); ++i) {
         const OpenStreet::WindowPoint at = camera.worldToWindowVector(mWorld[i]);
         const QPointF here(at.x, at.y);
-        const auto [along, distance] = nearest(wanted, i > 0 ? before : here, here);
-        if (distance <= best) {
-            best = distance;
-            const double from = mPoints[i > 0 ? i - 1 : 0].time;
-            result = from + (mPoints[i].time - from) * along;
-        }
-        before = here;
+        const auto [along, square] = nearest(wanted, i > 0 ? before : here, here);
+        const QPointF away = wanted - std::exchange(before, here);
+        const bool goesOn = isInside && QPointF::dotProduct(away, away) <= pixels * pixels;
+        isInside = square <= pixels * pixels;
+        if (!isInside)
+            continue;
+        const double from = mPoints[i > 0 ? i - 1 : 0].time;
+        const Passage passage{std::sqrt(square), from + (mPoints[i].time - from) * along};
+        if (!goesOn)
+            result.push_back(passage);
+        else if (passage.distance <= result.back().distance)
+            result.back() = passage;
+    }
+    return result;
+}
+
+std::optional<double> MapPath::timeNear(const OpenStreet::Camera& camera, const OpenStreet::WindowPoint& point, double pixels,
+                                        double viewTime) const
+{
+    const std::vector<Passage> found = passages(camera, point, pixels);
+    double best = pixels;
+    for (const Passage& passage : found)
+        best = std::min(best, passage.distance);
+    std::optional<double> result;
+    for (const Passage& passage : found) {
+        const bool isNearer = !result || std::fabs(passage.time - viewTime) < std::fabs(*result - viewTime);
+        if (passage.distance <= best + kOneLine && isNearer)
+            result = passage.time;
     }
     return result;
 }

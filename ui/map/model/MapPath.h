@@ -21,15 +21,15 @@ struct MapFit {
 /// The flight path as the map has it: its points, where they lie on the flat map, and what is found on it.
 class MapPath {
 public:
-    /// Takes the points over, in ascending time. Those whose place is no number are left out.
-    void setPoints(std::span<const FlightPathPoint> points);
+    /// Takes the points over, in ascending time. Those whose place is no number are left out. @return whether their places are other ones
+    bool setPoints(std::span<const FlightPathPoint> points);
 
     [[nodiscard]] const std::vector<FlightPathPoint>& points() const { return mPoints; }
     [[nodiscard]] bool isEmpty() const { return mPoints.empty(); }
     /// Where the points lie, relative to the first one, in the same order. A path across the date line goes on beyond it.
     [[nodiscard]] const std::vector<OpenStreet::WorldPoint>& world() const { return mWorld; }
     [[nodiscard]] const OpenStreet::WorldPoint& origin() const { return mOrigin; }
-    /// Changes with every other path.
+    /// Changes with every path of other places.
     [[nodiscard]] int generation() const { return mGeneration; }
 
     /// The middle of the path, and the width that shows all of it in a window of that size, with a margin.
@@ -39,10 +39,22 @@ public:
     [[nodiscard]] FlightPathPoint positionAt(double time) const;
     /// Whether the path has a place for the time.
     [[nodiscard]] bool spans(double time) const;
-    /// The time at which the path is nearest to a place of the window; nothing when it is farther than so many pixels everywhere.
-    [[nodiscard]] std::optional<double> timeNear(const OpenStreet::Camera& camera, const OpenStreet::WindowPoint& point, double pixels) const;
+    /// The time at which the path is nearest to a place of the window; nothing when it is farther than so many pixels everywhere. Where it
+    /// passes the place more than once, that passage which is nearer to the view time.
+    [[nodiscard]] std::optional<double> timeNear(const OpenStreet::Camera& camera, const OpenStreet::WindowPoint& point, double pixels,
+                                                 double viewTime) const;
 
 private:
+    /// A passage of the path through the surroundings of a place: where it is nearest.
+    struct Passage {
+        double distance = 0.0; ///< pixels
+        double time = 0.0;
+    };
+    [[nodiscard]] std::vector<Passage> passages(const OpenStreet::Camera& camera, const OpenStreet::WindowPoint& point,
+                                                double pixels) const;
+
+    void placePoints();
+
     std::vector<FlightPathPoint> mPoints;
     std::vector<OpenStreet::WorldPoint> mWorld;
     OpenStreet::WorldPoint mOrigin;

@@ -10,6 +10,7 @@
 #include <map>
 #include <numbers>
 #include <unordered_set>
+#include <utility>
 
 namespace ZARN {
 
@@ -17,7 +18,7 @@ namespace {
 
 constexpr double kPathWidth = 3.0;
 constexpr double kMargin = 8.0; // pixels between the window's edges and what stands in its corners
-constexpr double kTextSize = 11.0;
+constexpr double kMessageSize = 16.0;
 constexpr double kBarPixels = 140.0;
 constexpr double kMetresPerMile = 1852.0;
 constexpr double kMetresPerFoot = 0.3048;
@@ -25,7 +26,7 @@ constexpr std::size_t kMostDots = 4000;
 constexpr int kDotCell = 2; // pixels: dots that lie closer together are one
 const QColor kPathColour(255, 0, 0);
 const QColor kTextColour = QColor::fromRgbF(0.4F, 0.4F, 0.4F);
-const QColor kTextGround(255, 255, 255, 190);
+const QColor kTextGround(255, 255, 255, 225);
 const QColor kAircraftColour(25, 60, 140);
 const QColor kGraticuleLine(90, 110, 130, 60);
 const QColor kGraticuleText(90, 110, 130);
@@ -76,7 +77,7 @@ QString degrees(double value, double step, char positive, char negative)
 /// The text, or as much of it as is not wider than that; characters are all of one width.
 QString elided(const Canvas& canvas, const QString& text, double width)
 {
-    const double character = canvas.textSize(QStringLiteral("x"), {kTextSize, kTextColour}).width();
+    const double character = canvas.textSize(QStringLiteral("x"), {MapScene::kTextSize, kTextColour}).width();
     const auto most = std::max<qsizetype>(saturatingCast<int>(width / character), 1);
     return text.size() <= most ? text : text.left(most - 1) + QChar(0x2026);
 }
@@ -85,7 +86,10 @@ QString elided(const Canvas& canvas, const QString& text, double width)
 
 MapScaleBar MapScaleBar::at(const OpenStreet::Camera& camera, double pixels, bool imperial)
 {
-    const double perPixel = camera.metresPerPixel() / camera.projection().scaleAt(camera.position().latitude);
+    const double middle = 0.5 * camera.height(), width = camera.width();
+    const OpenStreet::WorldPoint left = camera.windowToWorld({0.0, middle}), right = camera.windowToWorld({width, middle});
+    const double across = std::hypot(right.x - left.x, right.y - left.y); // a turned map is seen from the side
+    const double perPixel = across / width / camera.projection().scaleAt(camera.position().latitude);
     const double most = perPixel * pixels;
     double unit = 1.0;
     const char* pUnit = "m";
@@ -114,9 +118,7 @@ std::span<const QPointF> MapScene::aircraftOutline()
 
 bool MapScene::setNote(const QString& note)
 {
-    const bool isOther = note != mNote;
-    mNote = note;
-    return isOther;
+    return std::exchange(mNote, note) != note;
 }
 
 void MapScene::drawGround(Canvas& canvas, const OpenStreet::Camera& camera)
@@ -131,8 +133,8 @@ void MapScene::drawAbove(Canvas& canvas, const OpenStreet::Camera& camera) const
 {
     drawAircraft(canvas, camera);
     drawScaleBar(canvas, camera);
-    drawLabel(canvas, {camera.width() - kMargin, camera.height() - kMargin}, QString::fromLatin1(kAttribution),
-              Qt::AlignRight | Qt::AlignBottom);
+    if (!mMessage.isEmpty())
+        drawLabel(canvas, {0.5 * camera.width(), 0.5 * camera.height()}, mMessage, Qt::AlignCenter, kMessageSize);
 }
 
 void MapScene::drawGraticule(Canvas& canvas, const OpenStreet::Camera& camera) const
@@ -203,10 +205,14 @@ void MapScene::drawAircraft(Canvas& canvas, const OpenStreet::Camera& camera) co
         return;
     const OpenStreet::WindowPoint at = camera.geoToWindow({mAircraft.latitude, mAircraft.longitude});
     const double track = std::isfinite(mAircraft.track) ? mAircraft.track : 0.0;
-    const QTransform turn = QTransform::fromTranslate(at.x, at.y).rotate(track);
+    const QTransform turn = QTransform().rotate(track);
+    const double scale = camera.metresPerPixel();
     std::vector<QPointF> outline;
-    for (const QPointF& point : aircraftOutline())
-        outline.push_back(turn.map(point));
+    for (const QPointF& point : aircraftOutline()) {
+        const QPointF seen = turn.map(point); // lies flat on the map, and is turned with it
+        const OpenStreet::WindowPoint step = camera.worldToWindowVector({seen.x() * scale, -seen.y() * scale});
+        outline.emplace_back(at.x + step.x, at.y + step.y);
+    }
     canvas.polygon(outline, kAircraftColour);
     outline.push_back(outline.front());
     canvas.lineStrip(outline, {Qt::white, 1.5, true});
@@ -215,10 +221,8 @@ void MapScene::drawAircraft(Canvas& canvas, const OpenStreet::Camera& camera) co
 void MapScene::drawScaleBar(Canvas& canvas, const OpenStreet::Camera& camera) const
 {
     const MapScaleBar bar = MapScaleBar::at(camera, std::min(kBarPixels, 0.4 * camera.width()), mIsImperial);
-    // In a narrow map the bar stands above the attribution.
-    const QSizeF attribution = canvas.textSize(QString::fromLatin1(kAttribution), {kTextSize});
-    const bool isNarrow = bar.pixels + attribution.width() + 3.0 * kMargin > camera.width();
-    const double bottom = camera.height() - kMargin - (isNarrow ? attribution.height() + 4.0 : 0.0);
+    const bool isNarrow = bar.pixels + mCorner.width() + 3.0 * kMargin > camera.width(); // no room beside what stands in the corner
+    const double bottom = camera.height() - kMargin - (isNarrow ? mCorner.height() + 4.0 : 0.0);
     const double right = kMargin + bar.pixels;
     drawLabel(canvas, {kMargin, bottom - 7.0}, bar.text, Qt::AlignLeft | Qt::AlignBottom);
     canvas.fillRect({kMargin, bottom - 5.0, bar.pixels, 5.0}, kTextGround);
@@ -226,15 +230,17 @@ void MapScene::drawScaleBar(Canvas& canvas, const OpenStreet::Camera& camera) co
     canvas.fillRect({kMargin, bottom - 5.0, 2.0, 5.0}, kTextColour);
     canvas.fillRect({right - 2.0, bottom - 5.0, 2.0, 5.0}, kTextColour);
     if (!mNote.isEmpty())
-        drawLabel(canvas, {kMargin, bottom - 28.0}, elided(canvas, mNote, camera.width() - 2.0 * kMargin), Qt::AlignLeft | Qt::AlignBottom);
+        drawLabel(canvas, {kMargin, std::min(bottom - 28.0, camera.height() - mCorner.height() - 2.0 * kMargin)},
+                  elided(canvas, mNote, camera.width() - 2.0 * kMargin), Qt::AlignLeft | Qt::AlignBottom);
 }
 
-void MapScene::drawLabel(Canvas& canvas, const QPointF& position, const QString& text, Qt::Alignment align) const
+void MapScene::drawLabel(Canvas& canvas, const QPointF& position, const QString& text, Qt::Alignment align, double textSize) const
 {
-    const CanvasText style{kTextSize, kTextColour, false, align};
+    const CanvasText style{textSize, kTextColour, false, align};
     const QSizeF size = canvas.textSize(text, style);
-    const double left = align & Qt::AlignRight ? position.x() - size.width() : position.x();
-    canvas.fillRect({left - 3.0, position.y() - size.height(), size.width() + 6.0, size.height()}, kTextGround);
+    const double left = align & Qt::AlignHCenter ? position.x() - 0.5 * size.width() : position.x();
+    const double top = position.y() - (align & Qt::AlignVCenter ? 0.5 : 1.0) * size.height();
+    canvas.fillRect({left - 3.0, top, size.width() + 6.0, size.height()}, kTextGround);
     canvas.text(position, text, style);
 }
 

@@ -16,14 +16,15 @@ struct MapScaleBar {
     [[nodiscard]] static MapScaleBar at(const OpenStreet::Camera& camera, double pixels, bool imperial);
 };
 
-/// What is drawn above the tiles of the map: path, events, aircraft, scale bar, attribution.
+/// What is drawn above the tiles of the map: path, events, aircraft, scale bar, words for people.
 class MapScene {
 public:
-    static constexpr const char* kAttribution = "(c) OpenStreetMap contributors";
+    static constexpr double kTextSize = 11.0;
 
     [[nodiscard]] MapPath& path() { return mPath; }
     [[nodiscard]] const MapPath& path() const { return mPath; }
     [[nodiscard]] MapEvents& events() { return mEvents; }
+    [[nodiscard]] const MapEvents& events() const { return mEvents; }
     [[nodiscard]] const PathGeometry& geometry() const { return mGeometry; }
     void setAircraft(const FlightPathPoint& point) { mAircraft = point; }
     [[nodiscard]] const FlightPathPoint& aircraft() const { return mAircraft; }
@@ -32,6 +33,10 @@ public:
     void setGraticule(bool on) { mHasGraticule = on; }
     /// A line for people above the scale bar, for example that the server does not answer; empty for none. @return whether it is another one.
     bool setNote(const QString& note);
+    /// A word in the middle about what cannot be shown; empty for none.
+    void setMessage(const QString& message) { mMessage = message; }
+    /// What is taken of the right lower corner, in pixels: the scale bar keeps away from it.
+    void setCorner(const QSizeF& size) { mCorner = size; }
 
     /// What changes with the view only: path and events.
     void drawGround(Canvas& canvas, const OpenStreet::Camera& camera);
@@ -46,13 +51,15 @@ private:
     void drawEvents(Canvas& canvas, const OpenStreet::Camera& camera) const;
     void drawAircraft(Canvas& canvas, const OpenStreet::Camera& camera) const;
     void drawScaleBar(Canvas& canvas, const OpenStreet::Camera& camera) const;
-    void drawLabel(Canvas& canvas, const QPointF& position, const QString& text, Qt::Alignment align) const;
+    void drawLabel(Canvas& canvas, const QPointF& position, const QString& text, Qt::Alignment align, double textSize = kTextSize) const;
 
     MapPath mPath;
     MapEvents mEvents;
     PathGeometry mGeometry;
     FlightPathPoint mAircraft{};
     QString mNote;
+    QString mMessage;
+    QSizeF mCorner;
     bool mIsImperial = false;
     bool mHasGraticule = false;
 };

@@ -8,7 +8,6 @@ namespace ZARN {
 std::vector<MapValue> MapValues::at(double time, bool hasRecord) const
 {
     std::vector<MapValue> result;
-    mSession.profile.resetCoordinates();
     for (const ProfileDevice& device : mSession.profile.data()) {
         for (const ProfileParameter& parameter : device.parameters) {
             if (!mSession.profile.isSelected(parameter.name))
@@ -16,16 +15,23 @@ std::vector<MapValue> MapValues::at(double time, bool hasRecord) const
             if (result.size() == kMostRows)
                 return result;
             MapValue row{QString::fromStdString(parameter.name), {}, {}};
-            if (hasRecord) {
-                int state = 0;
-                row.text = QString::number(mSession.container.getValue(parameter, time, state, row.colour));
-                if (!parameter.unit.empty())
-                    row.text += QLatin1String(" [") + QString::fromStdString(parameter.unit) + QLatin1Char(']');
-            }
+            if (hasRecord)
+                fill(row, parameter, time);
             result.push_back(row);
         }
     }
     return result;
+}
+
+void MapValues::fill(MapValue& row, const ProfileParameter& parameter, double time) const
+{
+    const std::optional<DisplayValue> value = mSession.container.values().displayAt(parameter, time);
+    row.text = QString::fromStdString(value ? value->text : "-");
+    if (!value)
+        return;
+    row.colour = value->colour;
+    if (!parameter.unit.empty())
+        row.text += QLatin1String(" [") + QString::fromStdString(parameter.unit) + QLatin1Char(']');
 }
 
 } // namespace ZARN

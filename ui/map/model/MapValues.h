@@ -9,10 +9,12 @@
 
 namespace ZARN {
 
+struct ProfileParameter;
+
 /// A line of the value panel.
 struct MapValue {
     QString name;
-    QString text;  ///< the value with its unit
+    QString text;  ///< as tables show it, with the unit; "-" where nothing was recorded for the time
     QColor colour; ///< of its threshold; invalid when there is none
 };
 
@@ -27,6 +29,8 @@ public:
     [[nodiscard]] std::vector<MapValue> at(double time, bool hasRecord) const;
 
 private:
+    void fill(MapValue& row, const ProfileParameter& parameter, double time) const;
+
     Session mSession;
 };
 

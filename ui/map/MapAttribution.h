@@ -1,0 +1,29 @@
+#pragma once
+
+#include "openstreet/gl/OpenStreetMap.h"
+
+#include <QLabel>
+
+namespace ZARN {
+
+/// Names the sources of what the map shows, each a link that the desktop opens: by the mouse, or by the keyboard with Tab and Return.
+/// Stands in the right lower corner of its parent, in as many lines as it takes to be read whole.
+class MapAttribution : public QLabel {
+    Q_OBJECT
+
+public:
+    explicit MapAttribution(QWidget* pParent);
+
+    void setSources(const OpenStreet::MapSources& sources, const OpenStreet::TileServer& server);
+    /// Keeps it in the corner.
+    void place();
+
+protected:
+    void changeEvent(QEvent* pEvent) override;
+
+private:
+    /// The sources as links, in HTML.
+    [[nodiscard]] static QString links(const OpenStreet::MapSources& sources, const OpenStreet::TileServer& server);
+};
+
+} // namespace ZARN
