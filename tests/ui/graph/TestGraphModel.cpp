@@ -133,6 +133,7 @@ void TestGraphModel::frameTakesNeighbours()
     QCOMPARE(graph.frameTimes(-10, 1), (std::vector<double>{0, 1}));
     QCOMPARE(graph.frameTimes(99.5, 200), (std::vector<double>{99, 100}));
     QCOMPARE(graph.frameTimes(300, 400), (std::vector<double>{100}));
+    QCOMPARE(OneTrace(0).frameTimes(5, 9), std::vector<double>());
 }
 
 void TestGraphModel::countsDown()

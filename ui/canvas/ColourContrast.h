@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QColor>
+
+namespace ZARN {
+
+/// How plainly two opaque colours differ for the eye: from 1 (alike) to 21 (black and white).
+[[nodiscard]] double contrastRatio(const QColor& a, const QColor& b);
+
+/// The colour, or the nearest one of its hue, lightened on a dark ground and darkened on a light one, that reaches the ratio.
+[[nodiscard]] QColor readableOn(const QColor& ground, const QColor& colour, double ratio);
+
+} // namespace ZARN
