@@ -110,16 +110,23 @@ void GraphLayout::placeLegendBelow(const GraphModel& model, double bottom)
     if (!model.isLegendOn() || model.nrActive() == 0 || model.displayMode() == eSplit)
         return;
     const double room = std::min(bottom * kLegendPart, bottom - kSmallestPlot - 2 * mLine - 4 * kGap);
-    const double rows = std::min(static_cast<double>(model.nrActive()) + 1, std::floor(room / mLine));
+    double rows = std::min(static_cast<double>(model.nrActive()) + 1, std::floor(room / mLine));
     if (rows < 2)
         return;
-    const auto characters = static_cast<int>((mWidth - 2 * kGap - kSwatch - 6) / mCharacter);
-    const int unit = longestUnit(model);
-    if (characters >= mNameLength + unit + 3 * (mNumberLength + 1)) {
+    const auto widthOf = [&](int name, int numbers) {
+        return (name + longestUnit(model) + numbers * (mNumberLength + 1) + 1) * mCharacter + kSwatch + kGap;
+    };
+    const double wide = mWidth - 2 * kGap;
+    const int shortName = std::min(mNameLength, kSomeOfName);
+    const int columns = std::max(1, static_cast<int>(wide / widthOf(shortName, 1)));
+    if (wide >= widthOf(mNameLength, 3) && (model.nrActive() < rows || columns == 1)) {
         mLegend = ELegend::eFull;
     } else {
         mLegend = ELegend::eCursor;
-        mNameLength = std::clamp(characters - unit - mNumberLength - 1, kFewestOfName, std::max(mNameLength, kFewestOfName));
+        mLegendColumns = columns;
+        const auto longest = static_cast<int>((wide / mLegendColumns - widthOf(0, 1)) / mCharacter);
+        mNameLength = std::clamp(longest, kFewestOfName, std::max(mNameLength, kFewestOfName));
+        rows = std::min(rows, std::ceil(static_cast<double>(model.nrActive()) / mLegendColumns) + 1);
     }
     mIsBelow = true;
     mLegendRect = QRectF(kGap, bottom - rows * mLine - kGap / 2, std::max(0.0, mWidth - 2 * kGap), rows * mLine);
@@ -164,12 +171,13 @@ QRectF GraphLayout::legendLine(const GraphModel& model, std::size_t row) const
             return {mLegendRect.left(), area(parameter).top(), mLegendRect.width(), mLine};
     }
     // The first line is the header, and the last one says how many found no room.
-    const auto line = static_cast<double>(row + 1);
-    const auto rows = static_cast<double>(model.shown().size()) + 1;
-    const double room = std::floor(mLegendRect.height() / mLine);
-    if (line >= (rows > room ? room - 1 : room))
+    const auto lines = static_cast<std::size_t>(std::max(0.0, std::floor(mLegendRect.height() / mLine) - 1));
+    const std::size_t places = lines * static_cast<std::size_t>(mLegendColumns);
+    if (row + (model.shown().size() > places ? 1 : 0) >= places)
         return {};
-    return {mLegendRect.left(), mLegendRect.top() + line * mLine, mLegendRect.width(), mLine};
+    const double width = mLegendRect.width() / mLegendColumns;
+    const auto column = static_cast<double>(row / lines), line = static_cast<double>(row % lines + 1);
+    return {mLegendRect.left() + column * width, mLegendRect.top() + line * mLine, width, mLine};
 }
 
 QRectF GraphLayout::overlayLine(const GraphModel& model, std::size_t row) const

@@ -75,6 +75,7 @@ private:
     double mTextSize = 11.0, mLine = 14.0, mCharacter = 7.0;
     int mNameLength = 0, mNumberLength = 8;
     bool mIsBelow = false; // the legend
+    int mLegendColumns = 1;
     double mXmin = 0.0, mPixelsPerSecond = 1.0;
 };
 

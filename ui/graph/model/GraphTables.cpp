@@ -87,14 +87,14 @@ void GraphTables::drawLegend(Canvas& canvas) const
     if (mLayout.legendKind() == GraphLayout::ELegend::eNone)
         return;
     int missing = 0;
-    double bottom = mLayout.legend().top() + mLayout.line();
+    QRectF last = mLayout.legend();
+    last.setHeight(mLayout.line());
     for (std::size_t row = 0; row < mModel.shown().size(); ++row) {
         const QRectF line = mLayout.legendLine(mModel, row);
-        if (line.isEmpty()) {
+        if (line.isEmpty())
             ++missing;
-            continue;
-        }
-        bottom = line.bottom();
+        else
+            last = line;
     }
     // All areas, then all bold texts, then all others: what is alike goes to the screen together.
     for (const ELayer layer : {ELayer::eAreas, ELayer::eNames, ELayer::eNumbers}) {
@@ -103,7 +103,7 @@ void GraphTables::drawLegend(Canvas& canvas) const
     }
     drawLegendHeader(canvas);
     if (missing > 0)
-        canvas.text(QPointF(mLayout.legend().left() + kSwatch + 6, bottom),
+        canvas.text(last.bottomLeft() + QPointF(kSwatch + 6, 0),
                     translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "%1 more")).arg(missing), style(false));
 }
 
@@ -117,8 +117,13 @@ void GraphTables::drawLegendHeader(Canvas& canvas) const
     // Strips have their lines at their own heights, so the header stands above the first.
     const bool isSplit = mModel.displayMode() == eSplit;
     const double y = mLayout.legend().top() - (isSplit ? mLayout.line() : 0.0);
-    const double x = mLayout.legend().left() + kSwatch + 6 + mLayout.nameLength() * mLayout.character();
-    canvas.text(QPointF(x, y), text, style(false));
+    const double names = kSwatch + 6 + mLayout.nameLength() * mLayout.character();
+    const double first = mLayout.legendLine(mModel, 0).top();
+    for (std::size_t row = 0; row < mModel.shown().size(); ++row) {
+        const QRectF line = mLayout.legendLine(mModel, row);
+        if (!line.isEmpty() && line.top() == first) // at the head of each column
+            canvas.text(QPointF(line.left() + names, y), text, style(false));
+    }
 }
 
 void GraphTables::drawLegendLine(Canvas& canvas, const QRectF& line, int index, ELayer layer) const
