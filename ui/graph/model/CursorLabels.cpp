@@ -47,8 +47,8 @@ void CursorLabels::add(double top, const QString& text, bool isRight)
 {
     const double width = widthOf(text);
     const QPointF corner(isRight ? *mX : *mX - width, top);
-    mLabels.push_back({QPointF(*mX + (isRight ? kDistance : -kDistance), top), text, (isRight ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignTop,
-                       QRectF(corner, QSizeF(width, mLayout.line() - 2))});
+    mLabels.push_back({QPointF(*mX + (isRight ? kDistance : -kDistance), top), text,
+                       (isRight ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignTop, QRectF(corner, QSizeF(width, mLayout.line() - 2))});
 }
 
 void CursorLabels::addTime()

@@ -1,5 +1,7 @@
 #include "ui/graph/model/GraphInteraction.h"
 
+#include "ui/graph/model/CursorLabels.h"
+
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -77,6 +79,17 @@ void GraphInteraction::moveValueBy(double pixels)
     mModel.moveCursor(mModel.cursorTime(), value, isSplit ? index : mModel.cursorIndex());
 }
 
+int GraphInteraction::legendAt(const QPointF& point) const
+{
+    const std::vector<int>& shown = mModel.shown();
+    for (std::size_t row = 0; row < shown.size(); ++row) {
+        const QRectF line = mLayout.legendLine(mModel, row);
+        if (line.contains(point)) // over the plot it gives way to the cursor's labels
+            return mLayout.legendKind() == GraphLayout::ELegend::eNone && CursorLabels(mModel, mLayout).covers(line) ? -1 : shown[row];
+    }
+    return -1;
+}
+
 int GraphInteraction::handleAt(const QPointF& point) const
 {
     if (mModel.displayMode() != eSplit)
@@ -112,7 +125,7 @@ void GraphInteraction::pressedLeft(const QPointF& point, Qt::KeyboardModifiers m
 {
     const bool isShift = mShift || modifiers.testFlag(Qt::ShiftModifier);
     const bool isControl = mControl || modifiers.testFlag(Qt::ControlModifier);
-    const int line = isShift || isControl ? -1 : mLayout.legendAt(mModel, point);
+    const int line = isShift || isControl ? -1 : legendAt(point);
     if (line >= 0) {
         mModel.setPinned(mModel.pinned() == line ? -1 : line);
         return mModel.setHighlighted(line);
@@ -215,7 +228,7 @@ void GraphInteraction::moved(const QPointF& point)
         return;
     if (mCursorDrag)
         return cursorTo(point);
-    const int line = mLayout.legendAt(mModel, point);
+    const int line = legendAt(point);
     mModel.setHighlighted(line >= 0 ? line : mModel.pinned());
 }
 

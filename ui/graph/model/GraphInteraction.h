@@ -55,6 +55,8 @@ private:
     void cursorTo(const QPointF& point);
     void moveCursorBy(double seconds);
     void moveValueBy(double pixels);
+    /// The trace whose line of the legend is seen under the pointer; -1 for none.
+    [[nodiscard]] int legendAt(const QPointF& point) const;
     [[nodiscard]] int handleAt(const QPointF& point) const;
     /// Beside and below the plot, where the graph tells in words and no time lies under the pointer.
     [[nodiscard]] bool isInWords(const QPointF& point) const;

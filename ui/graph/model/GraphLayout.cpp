@@ -202,15 +202,6 @@ QString GraphLayout::overlayText(const GraphModel& model, int index) const
     return shortened(parameter.label(), std::clamp(room, kFewestOfName, kLongestLabel)) + number;
 }
 
-int GraphLayout::legendAt(const GraphModel& model, const QPointF& point) const
-{
-    for (std::size_t row = 0; row < model.shown().size(); ++row) {
-        if (legendLine(model, row).contains(point))
-            return model.shown()[row];
-    }
-    return -1;
-}
-
 int GraphLayout::stripAt(const GraphModel& model, double y) const
 {
     int found = -1;

@@ -35,8 +35,6 @@ public:
     /// The line of the legend for the shown trace number `row`: beside the plot, or over it where the view is too narrow for that; empty
     /// when there is no room for it.
     [[nodiscard]] QRectF legendLine(const GraphModel& model, std::size_t row) const;
-    /// Which of the legend's lines a point lies on: the parameter's index, -1 for none.
-    [[nodiscard]] int legendAt(const GraphModel& model, const QPointF& point) const;
     /// The strip under a height of the view, as its parameter's index; the nearest one outside of the plot; -1 when nothing is shown.
     [[nodiscard]] int stripAt(const GraphModel& model, double y) const;
     /// The middle of a strip's handle.

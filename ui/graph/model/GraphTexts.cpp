@@ -29,7 +29,8 @@ QString graphTime(double seconds, int decimals, int hours)
 QString graphNumber(double value, int precision)
 {
     const QString text = QString::number(value, std::abs(value) < 1e15 ? 'f' : 'g', std::clamp(precision, 0, 17));
-    const bool isZero = std::ranges::all_of(text, [](QChar c) { return c == QLatin1Char('-') || c == QLatin1Char('0') || c == QLatin1Char('.'); });
+    const bool isZero =
+        std::ranges::all_of(text, [](QChar c) { return c == QLatin1Char('-') || c == QLatin1Char('0') || c == QLatin1Char('.'); });
     return isZero && text.startsWith(QLatin1Char('-')) ? text.mid(1) : text;
 }
 

@@ -28,7 +28,8 @@ std::vector<int> StripOrder::slotsFor(const std::vector<QString>& names)
         if (std::ranges::count(mNames, names[i]) == 0)
             mNames.insert(i > 0 ? std::ranges::find(mNames, names[i - 1]) + 1 : mNames.begin(), names[i]);
     }
-    std::ranges::stable_sort(order, {}, [&](int slot) { return std::ranges::find(mNames, names[static_cast<std::size_t>(slot)]) - mNames.begin(); });
+    std::ranges::stable_sort(order, {},
+                             [&](int slot) { return std::ranges::find(mNames, names[static_cast<std::size_t>(slot)]) - mNames.begin(); });
     return order;
 }
 

@@ -9,7 +9,7 @@ namespace {
 constexpr double kLeastContrast = 3.0; // of thin lines
 constexpr GraphColour kColours[] = {{1.0F, 0.0F, 0.0F}, {0.0F, 0.7F, 0.0F}, {0.0F, 0.0F, 0.7F},  {0.5F, 0.5F, 0.0F},
                                     {0.0F, 0.5F, 0.5F}, {0.5F, 0.0F, 0.5F}, {1.0F, 0.55F, 0.0F}, {0.3F, 0.75F, 1.0F},
-                                    {1.0F, 0.2F, 0.8F}, {0.9F, 0.9F, 0.2F}, {0.6F, 0.4F, 0.25F}, {0.75F, 0.75F, 0.75F}};
+                                    {1.0F, 0.2F, 0.8F}, {0.9F, 0.9F, 0.2F}, {0.6F, 0.4F, 0.25F}, {0.3F, 0.95F, 0.75F}};
 
 } // namespace
 
