@@ -29,10 +29,11 @@ bool isFinite(const QRectF& rect)
     return isFinite(rect.topLeft()) && isFinite(rect.bottomRight());
 }
 
-QPen painterPen(const CanvasPen& pen)
+/// @param ratio pixels of the screen for each of the canvas
+QPen painterPen(const CanvasPen& pen, double ratio)
 {
     // Flat caps end where the point is, which leaves out the last pixel of thin lines.
-    QPen out(pen.colour, pen.width, Qt::SolidLine, pen.width > 1 ? Qt::FlatCap : Qt::SquareCap, pen.width > 1 ? Qt::RoundJoin : Qt::MiterJoin);
+    QPen out(pen.colour, pen.width * ratio, Qt::SolidLine, pen.width > 1 ? Qt::FlatCap : Qt::SquareCap, pen.width > 1 ? Qt::RoundJoin : Qt::MiterJoin);
     out.setCosmetic(true);
     if (pen.dash > 0) {
         const double length = pen.dash / std::max(pen.width, 1.0);
@@ -44,17 +45,18 @@ QPen painterPen(const CanvasPen& pen)
 
 } // namespace
 
-/// Sets pen and smoothing for one operation. Smoothed lines and lines of pictures without pixels (PDF) run through the middle of the
-/// pixels that their points name; others are so by the painter's own rule.
+/// Sets pen and smoothing for one operation. Smoothed lines, and those on a dense screen, run through the middle of the pixels that their
+/// points name; others are so by the painter's own rule.
 class RasterCanvas::Scope {
 public:
     Scope(QPainter& painter, const CanvasPen& pen) : mPainter(painter)
     {
         mPainter.save();
         mPainter.setRenderHint(QPainter::Antialiasing, pen.smooth);
-        mPainter.setPen(painterPen(pen));
+        const double ratio = mPainter.device()->devicePixelRatioF();
+        mPainter.setPen(painterPen(pen, ratio));
         mPainter.setBrush(Qt::NoBrush);
-        if (pen.smooth) {
+        if (pen.smooth || ratio > 1) {
             const QTransform& now = painter.worldTransform();
             painter.setWorldTransform(now * QTransform::fromTranslate(0.5, 0.5));
         }

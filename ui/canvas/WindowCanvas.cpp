@@ -48,10 +48,13 @@ void WindowCanvas::lineStrip(std::span<const QPointF> points, const CanvasPen& p
     const QTransform now = mPainter.worldTransform();
     const QPointF half(0.5, 0.5), moved = QPointF(now.dx(), now.dy()) + half;
     const bool isMovedOnly = now.type() <= QTransform::TxTranslate; // as nearly all are
+    const int thickness = std::max(1, qRound(pen.width * mRatio));
+    // The middle of an even number of pixels is the edge between two: the first of these is named.
+    const QPointF middle = thickness % 2 == 0 && mRatio > 1 ? half * 2 : half;
     mPixels.clear();
     for (const QPointF& point : points)
-        mPixels.push_back((isMovedOnly ? point + moved : now.map(point) + half) * mRatio - half);
-    mStrips.addStrip(mPixels, pen.colour, std::max(1, qRound(pen.width * mRatio)), clipPixels());
+        mPixels.push_back((isMovedOnly ? point + moved : now.map(point) + half) * mRatio - middle);
+    mStrips.addStrip(mPixels, pen.colour, thickness, clipPixels());
 }
 
 QPainter& WindowCanvas::ready()

@@ -2,6 +2,7 @@
 
 #include "card/CardContainer.h"
 #include "profile/Profile.h"
+#include "ui/graph/DialogGraphSetup.h"
 #include "ui/graph/GraphButtons.h"
 #include "ui/graph/WidgetGraphES.h"
 #include "ui/graph/model/ThresholdBands.h"
@@ -9,6 +10,7 @@
 #include <QVBoxLayout>
 
 #include <cmath>
+#include <utility>
 
 namespace ZARN {
 
@@ -44,7 +46,7 @@ std::vector<GraphBand> bandsOf(const Profile& profile, const ProfileParameter& p
 } // namespace
 
 DialogDataGraph::DialogDataGraph(const Session& session, QWidget* pParent)
-    : QWidget(pParent), mSession(session), mpButtons(new GraphButtons), mpGraph(new WidgetGraphES)
+    : QWidget(pParent), mSession(session), mSettings(session.property), mpButtons(new GraphButtons), mpGraph(new WidgetGraphES)
 {
     auto* pLayout = new QVBoxLayout(this);
     pLayout->setContentsMargins(0, 0, 0, 0);
@@ -64,6 +66,7 @@ void DialogDataGraph::connectGraph()
 {
     connect(mpGraph, &WidgetGraphES::signalCursor, this, &DialogDataGraph::signalCursor);
     connect(mpGraph, &WidgetGraphES::signalManMode, this, &DialogDataGraph::slotManMode);
+    connect(mpGraph, &WidgetGraphES::signalMoveParameter, this, &DialogDataGraph::keepStrips);
     connect(mpGraph, &WidgetGraphES::signalMenu, this, &DialogDataGraph::slotMenu);
     connect(mpButtons, &GraphButtons::signalHeld, this, [this](int command) {
         if (command == eZoomIn || command == eZoomOut)
@@ -84,8 +87,35 @@ void DialogDataGraph::updateProfile()
     });
     for (int slot = used; slot < kSlots; ++slot)
         model.setActive(slot, false);
+    arrangeStrips(used);
+    updateSettings();
     // Another parameter may have taken a slot: no trace may keep the samples of the one before.
     fillRecord();
+    mKeepsWindow = true;
+}
+
+void DialogDataGraph::updateSettings()
+{
+    mSettings.load(mpGraph->model(), mData);
+    mpGraph->setClickMovesCursor(mData.clickMovesCursor);
+    if (mpSetup)
+        mpSetup->updateDialog();
+}
+
+void DialogDataGraph::arrangeStrips(int used)
+{
+    std::vector<QString> names;
+    for (int slot = 0; slot < used; ++slot)
+        names.push_back(mpGraph->model().parameter(slot)->name);
+    mpGraph->model().setOrder(mStrips.slotsFor(names));
+}
+
+void DialogDataGraph::keepStrips()
+{
+    std::vector<QString> names;
+    for (const int slot : mpGraph->model().shown())
+        names.push_back(mpGraph->model().parameter(slot)->name);
+    mStrips.keep(names);
 }
 
 void DialogDataGraph::fillRecord()
@@ -103,8 +133,13 @@ void DialogDataGraph::fillRecord()
 
 QString DialogDataGraph::emptyMessage() const
 {
+    const bool isLive = mZarnMode != 0; // with neither card nor profile panel in sight
+    if (!mpRecord && isLive)
+        return tr("No record is loaded.");
     if (!mpRecord)
         return tr("No record is loaded.\nOpen a card folder and choose a power cycle or a flight.");
+    if (mpGraph->nrActive() == 0 && isLive)
+        return tr("No parameter is selected.");
     if (mpGraph->nrActive() == 0)
         return tr("No parameter is selected.\nTick the parameters to show in the profile panel.");
     return {};
@@ -112,27 +147,36 @@ QString DialogDataGraph::emptyMessage() const
 
 void DialogDataGraph::updateRecord(RecordData* pRecord)
 {
+    // The same once more is the same in another unit.
+    const RecordKey key = pRecord ? recordKey() : mMarkedRecord;
+    const std::array span{mSession.container.startTime(), mSession.container.endTime()};
+    mKeepsWindow = mpRecord && mpRecord == pRecord && key == mMarkedRecord && span == mSpan;
     mpRecord = pRecord;
     fillRecord();
-    if (!mpRecord)
+    if (!mpRecord || mKeepsWindow)
         return;
-    forgetMarker();
+    if (!(key == mMarkedRecord))
+        mpGraph->setMarker(0, 0);
+    mMarkedRecord = key;
+    mSpan = span;
     zoomAll();
     mpGraph->recalcFrameBuffer();
     mpGraph->setCursorPosition(mSession.container.startTime());
 }
 
-void DialogDataGraph::forgetMarker()
+DialogDataGraph::RecordKey DialogDataGraph::recordKey() const
 {
     // A flight counts its times as its power cycle does: there the marker still stands where it was set.
     const CardContainer& container = mSession.container;
     const RecordCycle* pCycle = container.loadedCycle();
-    const RecordKey key{container.path(), container.loadedCycleNumber(), pCycle ? pCycle->dateTime : container.dateTime(),
-                        pCycle ? pCycle->endTime : container.endTime()};
-    if (key == mMarkedRecord)
-        return;
-    mMarkedRecord = key;
-    mpGraph->setMarker(0, 0);
+    return {container.path(), container.loadedCycleNumber(), pCycle ? pCycle->dateTime : container.dateTime(),
+            pCycle ? pCycle->endTime : container.endTime()};
+}
+
+void DialogDataGraph::setZarnMode(int mode)
+{
+    mZarnMode = mode;
+    mpGraph->model().setMessage(emptyMessage());
 }
 
 void DialogDataGraph::fillIndex(int slot, const ProfileParameter& parameter)
@@ -163,6 +207,10 @@ void DialogDataGraph::fillIndex(int slot, const ProfileParameter& parameter)
 
 void DialogDataGraph::setTime(double time)
 {
+    // Where the view time stays, what the user has zoomed to stays too.
+    const bool isKept = std::exchange(mKeepsWindow, false) && static_cast<float>(time) == static_cast<float>(mpGraph->model().cursorTime());
+    if (isKept)
+        return;
     mpGraph->setPaced(true);
     showTime(time);
     mpGraph->setPaced(false);
@@ -184,6 +232,8 @@ void DialogDataGraph::slotManMode()
 
 void DialogDataGraph::slotSetupChanged()
 {
+    mSettings.store(mpGraph->model(), mData);
+    mSettings.load(mpGraph->model(), mData);
     // An edit applies the whole record: it must not bring back a window or a mode that the user has left with the mouse.
     mData.xRange = mpGraph->model().width();
     mData.graphMode = mpGraph->model().graphMode();
@@ -207,6 +257,7 @@ void DialogDataGraph::slotGraphSetup()
     mpGraph->setAutoScaleY(mData.autoscaleOn);
     mpGraph->setYmin(static_cast<float>(mData.yMin));
     mpGraph->setYmax(static_cast<float>(mData.yMax));
+    mpGraph->setClickMovesCursor(mData.clickMovesCursor);
     slotManMode();
 }
 

@@ -2,12 +2,14 @@
 
 #include "project/Session.h"
 #include "ui/data/model/DataView.h"
-#include "ui/graph/GraphData.h"
+#include "ui/graph/GraphSettings.h"
+#include "ui/graph/model/StripOrder.h"
 
 #include <QDateTime>
 #include <QTimer>
 #include <QWidget>
 
+#include <array>
 #include <optional>
 
 class WidgetGraphES;
@@ -31,6 +33,8 @@ public:
     void updateProfile() override;
     void updateRecord(RecordData* pRecord) override;
     void setTime(double time) override;
+    void setZarnMode(int mode) override;
+    void updateSettings() override;
 
     [[nodiscard]] WidgetGraphES& graph() { return *mpGraph; }
     [[nodiscard]] GraphData& graphData() { return mData; }
@@ -63,7 +67,9 @@ private:
 
     void connectGraph();
     void fillRecord();
-    void forgetMarker();
+    void arrangeStrips(int used);
+    void keepStrips();
+    [[nodiscard]] RecordKey recordKey() const;
     void fillIndex(int slot, const ProfileParameter& parameter);
     [[nodiscard]] QString emptyMessage() const;
     void zoomAll();
@@ -82,6 +88,11 @@ private:
     GraphData mData;
     RecordData* mpRecord = nullptr;
     RecordKey mMarkedRecord;
+    GraphSettings mSettings;
+    StripOrder mStrips;
+    std::array<double, 2> mSpan{};
+    int mZarnMode = 0;
+    bool mKeepsWindow = false; // at the next setTime() to the time that is shown
     GraphButtons* mpButtons;
     WidgetGraphES* mpGraph;
     DialogGraphSetup* mpSetup = nullptr;

@@ -21,6 +21,7 @@ namespace ZARN {
 namespace {
 
 constexpr float kMargin = 0.1F; // of the record's span, before and after it
+constexpr float kMomentMargin = 0.5F; // seconds around a record of one moment
 constexpr float kZoom = 0.97F;
 constexpr float kZoomInLimit = 5000.0F, kZoomOutLimit = 1.0F; // seconds
 constexpr float kDefaultRange = 60.0F;
@@ -29,7 +30,6 @@ constexpr float kDefaultRange = 60.0F;
 
 void DialogDataGraph::slotCommand(int command)
 {
-    mHeldTimer.stop();
     switch (command) {
     case eZoomAll:
         zoomAll();
@@ -66,7 +66,7 @@ void DialogDataGraph::zoomAll()
     if (!mpRecord)
         return;
     const auto start = static_cast<float>(mSession.container.startTime()), end = static_cast<float>(mSession.container.endTime());
-    const float margin = kMargin * (end - start);
+    const float margin = end > start ? kMargin * (end - start) : kMomentMargin;
     mpGraph->model().setWindow(static_cast<double>(start - margin), static_cast<double>(end + margin));
 }
 
@@ -102,7 +102,9 @@ bool DialogDataGraph::hasSamples() const
 void DialogDataGraph::clearGraph()
 {
     mpGraph->clear();
-    if (mpRecord && mpGraph->nrActive() > 0)
+    if (mpRecord && mpGraph->nrActive() > 0 && mZarnMode != 0)
+        mpGraph->model().setMessage(tr("The graph was cleared."));
+    else if (mpRecord && mpGraph->nrActive() > 0)
         mpGraph->model().setMessage(tr(
             "The graph was cleared.\nTick a parameter in the profile panel, or choose another power cycle or flight, to fill it again."));
 }

@@ -1,5 +1,7 @@
 #include "ui/graph/DialogGraphSetup.h"
 
+#include "ui/graph/TraceColourRow.h"
+
 #include <QCheckBox>
 #include <QColorDialog>
 #include <QComboBox>
@@ -40,7 +42,9 @@ DialogGraphSetup::DialogGraphSetup(QWidget* pParent, GraphData& graphData) : QDi
     addRow(pForm, tr("Label Color :"), {mpLabel});
     addRow(pForm, tr("Label Background :"), {mpLabelBackground});
     addRow(pForm, tr("Cursor On/Mode :"), {mpCursor, mpCursorMode});
+    addRow(pForm, tr("Click :"), {mpClickMovesCursor});
     addRow(pForm, tr("Legend :"), {mpLegend});
+    addRow(pForm, tr("Trace Color :"), {mpTraces});
     addRow(pForm, tr("Y-Scale :"), {mpAutoscale, mpYmin, mpYmax});
     addRow(pForm, QString(), {mpClose});
     updateDialog();
@@ -61,6 +65,10 @@ void DialogGraphSetup::createControls()
     mpCursorMode->setObjectName("cursorMode");
     mpCursorMode->addItems({tr("Floating"), tr("Center")});
     mpCursorMode->setAccessibleName(tr("Cursor mode"));
+    mpClickMovesCursor = new QCheckBox(tr("Moves the cursor"));
+    mpClickMovesCursor->setObjectName("clickMovesCursor");
+    mpClickMovesCursor->setToolTip(tr("Otherwise a click makes the marker a point. Dragging marks either way."));
+    mpTraces = new TraceColourRow;
     mpLegend = new QCheckBox(tr("Legend On"));
     mpLegend->setObjectName("legendOn");
     mpAutoscale = new QCheckBox(tr("Autoscale On"));
@@ -84,6 +92,9 @@ void DialogGraphSetup::connectControls()
     connect(mpLabelBackground, &QPushButton::clicked, this, &DialogGraphSetup::slotLabelBackColor);
     connect(mpCursor, &QCheckBox::stateChanged, this, &DialogGraphSetup::slotCursorOn);
     connect(mpCursorMode, &QComboBox::activated, this, &DialogGraphSetup::slotCursorMode);
+    connect(mpClickMovesCursor, &QCheckBox::stateChanged, this, &DialogGraphSetup::slotClickMovesCursor);
+    connect(mpTraces, &TraceColourRow::signalSelect, this, &DialogGraphSetup::slotTraceColor);
+    connect(mpTraces, &TraceColourRow::signalDefault, this, &DialogGraphSetup::slotTraceDefault);
     connect(mpLegend, &QCheckBox::stateChanged, this, &DialogGraphSetup::slotLegendOn);
     connect(mpAutoscale, &QCheckBox::stateChanged, this, &DialogGraphSetup::slotAutoscaleOn);
     connect(mpYmin, &QLineEdit::textEdited, this, &DialogGraphSetup::slotYmin);
@@ -111,12 +122,14 @@ QPushButton* DialogGraphSetup::colourButton(const QString& name, const QString& 
 
 void DialogGraphSetup::updateDialog()
 {
-    const QSignalBlocker blockers[] = {QSignalBlocker(mpGrid), QSignalBlocker(mpCursor), QSignalBlocker(mpCursorMode),
-                                       QSignalBlocker(mpLegend), QSignalBlocker(mpAutoscale)};
+    const QSignalBlocker blockers[] = {QSignalBlocker(mpGrid),   QSignalBlocker(mpCursor),    QSignalBlocker(mpCursorMode),
+                                       QSignalBlocker(mpLegend), QSignalBlocker(mpAutoscale), QSignalBlocker(mpClickMovesCursor)};
     mpGrid->setChecked(mData.gridOn);
     mpCursor->setChecked(mData.cursorOn);
     mpCursorMode->setCurrentIndex(mData.cursorMode == 1 ? 1 : 0);
+    mpClickMovesCursor->setChecked(mData.clickMovesCursor);
     mpLegend->setChecked(mData.legendOn);
+    mpTraces->setTraces(mData.traces);
     mpAutoscale->setChecked(mData.autoscaleOn);
     showNumber(mpYmin, mData.yMin);
     showNumber(mpYmax, mData.yMax);
@@ -235,6 +248,29 @@ void DialogGraphSetup::slotYmin(const QString& text)
 void DialogGraphSetup::slotYmax(const QString& text)
 {
     mData.yMax = numberOf(text).value_or(mData.yMax);
+    changed();
+}
+
+void DialogGraphSetup::slotClickMovesCursor(int state)
+{
+    mData.clickMovesCursor = state != Qt::Unchecked;
+    changed();
+}
+
+void DialogGraphSetup::slotTraceColor()
+{
+    TraceColour& trace = mData.traces[static_cast<std::size_t>(mpTraces->current())];
+    const QColor colour = askColour(trace.colour);
+    if (colour.isValid()) {
+        trace.colour = colour;
+        trace.isOwn = true;
+    }
+    changed();
+}
+
+void DialogGraphSetup::slotTraceDefault()
+{
+    mData.traces[static_cast<std::size_t>(mpTraces->current())].isOwn = false;
     changed();
 }
 

@@ -12,6 +12,8 @@ class QPushButton;
 
 namespace ZARN {
 
+class TraceColourRow;
+
 /// The window "Oscilloscope Setup": edits the graph's display settings in place and tells of every edit. The record is not owned and
 /// outlives the window.
 class DialogGraphSetup : public QDialog {
@@ -43,6 +45,9 @@ private:
     void slotAutoscaleOn(int state);
     void slotYmin(const QString& text);
     void slotYmax(const QString& text);
+    void slotClickMovesCursor(int state);
+    void slotTraceColor();
+    void slotTraceDefault();
     void slotClose();
 
     void createControls();
@@ -63,7 +68,9 @@ private:
     QCheckBox* mpCursor = nullptr;
     QCheckBox* mpLegend = nullptr;
     QCheckBox* mpAutoscale = nullptr;
+    QCheckBox* mpClickMovesCursor = nullptr;
     QComboBox* mpCursorMode = nullptr;
+    TraceColourRow* mpTraces = nullptr;
     QLineEdit* mpYmin = nullptr;
     QLineEdit* mpYmax = nullptr;
     QPushButton* mpClose = nullptr;

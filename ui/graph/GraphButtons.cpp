@@ -41,11 +41,12 @@ GraphButtons::GraphButtons(QWidget* pParent) : QWidget(pParent), mpGroup(new QBu
         mpGroup->setExclusive(id != eAutomaticMode);
         Q_EMIT signalHeld(id);
     });
-    connect(mpGroup, &QButtonGroup::idReleased, this, [this](int id) {
-        Q_EMIT signalCommand(id);
+    // Also when the pointer slides off a button that is held: only a click that ends on it is a command.
+    connect(mpGroup, &QButtonGroup::idReleased, this, [this] {
         mpGroup->setExclusive(true);
         mHeld = eNoCommand;
     });
+    connect(mpGroup, &QButtonGroup::idClicked, this, &GraphButtons::signalCommand);
 }
 
 void GraphButtons::add(EGraphCommand command, const QString& icon, const QString& toolTip, bool isCheckable)

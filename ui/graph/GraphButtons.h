@@ -38,7 +38,7 @@ public:
 Q_SIGNALS:
     /// A button went down.
     void signalHeld(int command);
-    /// A button was let go: its command is wanted. held() still tells it.
+    /// A button was let go with the pointer on it: its command is wanted.
     void signalCommand(int command);
 
 private:

@@ -1,8 +1,19 @@
 #pragma once
 
+#include <QColor>
 #include <QString>
 
+#include <vector>
+
 namespace ZARN {
+
+/// The colour of a shown trace.
+struct TraceColour {
+    int slot = 0;
+    QString name;
+    QColor colour;
+    bool isOwn = false; ///< chosen by the user
+};
 
 /// The display settings of the graph, as the setup window edits them. Colours are names of the form #rrggbb.
 struct GraphData {
@@ -20,6 +31,8 @@ struct GraphData {
     bool autoscaleOn = true;
     double yMin = -100.0;
     double yMax = 100.0;
+    bool clickMovesCursor = false; ///< a click in the plot; otherwise it makes the marker a point
+    std::vector<TraceColour> traces;
 };
 
 } // namespace ZARN

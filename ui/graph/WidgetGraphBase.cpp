@@ -127,7 +127,7 @@ void WidgetGraphBase::slotRecalculate()
 void WidgetGraphBase::keyPressEvent(QKeyEvent* pEvent)
 {
     const bool isMoved = mModel.isCursorMoving();
-    if (!mInteraction.keyPressed(pEvent->key()))
+    if (!mInteraction.keyPressed(pEvent->key(), pEvent->modifiers()))
         return QWidget::keyPressEvent(pEvent);
     if (isMoved || mModel.isCursorMoving())
         mCursorTimer.start(kCursorDelay);

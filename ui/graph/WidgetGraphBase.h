@@ -56,6 +56,7 @@ public:
     void setMarker(double start, double end) { mModel.setMarker(start, end); }
     void setOfflineMode(bool on) { mModel.setOfflineMode(on); }
     void setShiftPressed(bool on) { mInteraction.setShiftPressed(on); }
+    void setClickMovesCursor(bool on) { mInteraction.setClickMovesCursor(on); }
     void setPanningAllowed(bool on) { mInteraction.setPanningAllowed(on); }
     void putValue(int index, double value, bool repaint) { mModel.putValue(index, value, repaint); }
     bool getValue(int index, double time, double& value) const { return mModel.getValue(index, time, value); }

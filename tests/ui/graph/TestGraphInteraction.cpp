@@ -1,4 +1,5 @@
 #include "GraphFixtures.h"
+#include "ui/graph/model/CursorLabels.h"
 #include "ui/graph/model/GraphInteraction.h"
 
 #include <QSignalSpy>
@@ -64,6 +65,20 @@ void TestGraphInteraction::marksAndPans()
     hand.pressed(Qt::LeftButton, at(30), Qt::ControlModifier);
     QVERIFY(std::abs(graph.model.markerEnd() - 30) < 1e-6);
     hand.released(Qt::LeftButton, at(30));
+    hand.pressed(Qt::LeftButton, at(30) + QPointF(2, 0), {}); // its end, which is taken along
+    hand.moved(at(40));
+    hand.released(Qt::LeftButton, at(40));
+    QVERIFY(std::abs(graph.model.markerStart() - 10) < 1e-6 && std::abs(graph.model.markerEnd() - 40) < 1e-6);
+
+    hand.setClickMovesCursor(true);
+    hand.pressed(Qt::LeftButton, at(70), {});
+    hand.moved(at(70) + QPointF(2, 0));
+    hand.released(Qt::LeftButton, at(70));
+    QVERIFY(std::abs(graph.model.cursorTime() - 70) < 1e-6 && std::abs(graph.model.markerEnd() - 40) < 1e-6);
+    hand.pressed(Qt::LeftButton, at(75), {});
+    hand.moved(at(80));
+    hand.released(Qt::LeftButton, at(80));
+    QVERIFY(std::abs(graph.model.cursorTime() - 70) < 1e-6 && std::abs(graph.model.markerStart() - 75) < 1e-6);
 
     QVERIFY(manual.isEmpty());
     hand.pressed(Qt::RightButton, at(50), {});
@@ -88,10 +103,8 @@ void TestGraphInteraction::keysMoveCursor()
     const double pixel = 100 / layout.plot().width();
     hand.keyPressed(Qt::Key_Right);
     QVERIFY(std::abs(graph.model.cursorTime() - 50 - pixel) < 1e-9);
-    hand.keyPressed(Qt::Key_Shift);
-    hand.keyPressed(Qt::Key_Left);
+    hand.keyPressed(Qt::Key_Left, Qt::ShiftModifier); // held since before the focus came
     QVERIFY(std::abs(graph.model.cursorTime() - 50 + 9 * pixel) < 1e-9);
-    hand.keyReleased(Qt::Key_Shift);
     const double before = graph.model.cursorValue();
     hand.keyPressed(Qt::Key_Up);
     QVERIFY(std::abs(graph.model.cursorValue() - before - 120 / layout.plot().height()) < 1e-9); // of the range -10..110
@@ -209,14 +222,27 @@ void TestGraphInteraction::dragsStrips()
     GraphInteraction hand(model);
     hand.setLayout(layout);
     QSignalSpy moved(&model, &GraphModel::signalMoveParameter);
+    model.setMarker(20, 30);
     hand.pressed(Qt::LeftButton, layout.handle(*model.parameter(0)) + QPointF(5, 5), {});
     QCOMPARE(hand.draggedStrip(), 0);
     hand.moved(layout.handle(*model.parameter(4)));
     hand.released(Qt::LeftButton, layout.handle(*model.parameter(4)));
     QCOMPARE(moved.takeFirst(), (QList<QVariant>{0, 4}));
     QCOMPARE(model.shown(), (std::vector<int>{2, 4, 0}));
+    QCOMPARE(model.markerEnd(), 30.0);
     hand.pressed(Qt::LeftButton, layout.plot().center(), {});
     QCOMPARE(hand.draggedStrip(), -1);
+
+    hand.setLayout(layoutOf(model));
+    model.moveCursor(30, 0.5, 2);
+    for (const auto& [key, strip] : {std::pair(Qt::Key_Down, 4), std::pair(Qt::Key_Up, 2)}) {
+        for (int step = 0; step < 20; ++step)
+            hand.keyPressed(key, Qt::ShiftModifier);
+        QCOMPARE(model.cursorIndex(), strip);
+        const GraphLayout frame = layoutOf(model);
+        const CursorLabels cursor(model, frame);
+        QVERIFY(cursor.y() && frame.area(*model.parameter(strip)).contains(frame.plot().center().x(), *cursor.y()));
+    }
 }
 
 QTEST_MAIN(TestGraphInteraction)

@@ -1,5 +1,7 @@
 #include "GraphFixtures.h"
+#include "ui/canvas/ColourContrast.h"
 #include "ui/graph/model/AxisTicks.h"
+#include "ui/graph/model/GraphTexts.h"
 #include "ui/graph/model/ThresholdBands.h"
 
 #include <QSignalSpy>
@@ -15,11 +17,10 @@ class TestGraphModel : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void startsAsDescribed();
+    void coloursCanBeRead();
     void windowRules();
     void timeIsClamped_data();
     void timeIsClamped();
-    void automaticModeFollows();
     void frameTakesNeighbours();
     void countsDown();
     void autoscale();
@@ -34,25 +35,19 @@ private Q_SLOTS:
     void survivesAnything();
 };
 
-void TestGraphModel::startsAsDescribed()
+void TestGraphModel::coloursCanBeRead()
 {
     GraphModel model;
-    QCOMPARE(model.parameters().size(), 6U);
-    QCOMPARE(model.xmin(), 0.0);
-    QCOMPARE(model.xmax(), 60.0);
-    QCOMPARE(model.ymin(), -0.5);
-    QCOMPARE(model.ymax(), 1.5);
-    QCOMPARE(model.graphMode(), eAutomatic);
-    QCOMPARE(model.parameter(0)->name, "NoName");
     model.setMaxParameters(30);
     QCOMPARE(model.parameter(8)->colourKey, "GraphColor8");
-    QCOMPARE(model.parameter(8)->colour, (GraphColour{0.0F, 0.0F, 0.7F}));
-    double first = 1.0, last = 1.0;
-    model.getParameterRangeX(3, first, last);
-    QCOMPARE(first + last, 0.0);
-    QCOMPARE(model.getCurrentAverageValue(), 0.0);
-    model.putValue(0, 5.0, false); // before any time is set
-    QVERIFY(model.parameter(0)->samples.empty());
+    QCOMPARE(model.parameter(2)->colour, (GraphColour{0.0F, 0.0F, 0.7F}));
+    for (const GraphColours& colours : {GraphColours{}, GraphColours{GraphColour{}}}) {
+        model.setColours(colours);
+        for (const GraphParameter& parameter : model.parameters())
+            QVERIFY(contrastRatio(parameter.drawnColour, colours.background.colour()) >= 3);
+    }
+    model.setParameterColor(2, 0, 0, 0.1F); // the user's own choice
+    QVERIFY(model.parameter(2)->drawnColour.lightnessF() < 0.1F);
 }
 
 void TestGraphModel::windowRules()
@@ -63,22 +58,23 @@ void TestGraphModel::windowRules()
     model.setGraphMode(eManual);
     model.setXrange(20); // manual: the start stays
     QCOMPARE(model.xmax(), 70.0);
-    model.setT0(5);
-    QCOMPARE(model.xmin(), 5.0);
-    QCOMPARE(model.xmax(), 25.0);
-    model.setXmin(1);
-    model.setXmax(2);
-    QCOMPARE(model.width(), 1.0);
+    model.setWindow(1, 2);
 
     QSignalSpy manual(&model, &GraphModel::signalManMode);
     model.setGraphMode(eAutomatic);
     model.setMarker(7, 7);
+    model.zoomToMarker(); // of no width
+    QCOMPARE(model.xmax(), 2.0);
+    model.setMarker(9, 7);
     model.zoomToMarker();
     QCOMPARE(model.xmin(), 7.0);
-    QCOMPARE(model.xmax(), 7.0 + 1e-6);
+    QCOMPARE(model.xmax(), 9.0);
     QCOMPARE(model.graphMode(), eManual);
     QCOMPARE(manual.count(), 1);
 
+    model.setWindow(20, 20); // a record of one moment
+    model.zoomAbout(20, 1.2);
+    QVERIFY(model.xmin() < 20 && model.xmax() > 20);
     model.setWindow(0, 10);
     model.setCursorMode(eCenter);
     model.setCursorPosition(100);
@@ -111,17 +107,6 @@ void TestGraphModel::timeIsClamped()
     QCOMPARE(model.width(), 60.0);
 }
 
-void TestGraphModel::automaticModeFollows()
-{
-    OneTrace graph(200);
-    graph.model.setGraphMode(eAutomatic);
-    graph.model.setTime(150);
-    QCOMPARE(graph.model.xmin(), 90.0);
-    graph.model.setGraphMode(eManual);
-    graph.model.setTime(180);
-    QCOMPARE(graph.model.xmin(), 90.0);
-}
-
 void TestGraphModel::frameTakesNeighbours()
 {
     OneTrace graph;
@@ -133,6 +118,7 @@ void TestGraphModel::frameTakesNeighbours()
     QCOMPARE(graph.frameTimes(-10, 1), (std::vector<double>{0, 1}));
     QCOMPARE(graph.frameTimes(99.5, 200), (std::vector<double>{99, 100}));
     QCOMPARE(graph.frameTimes(300, 400), (std::vector<double>{100}));
+    QCOMPARE(OneTrace(0).frameTimes(5, 9), std::vector<double>());
 }
 
 void TestGraphModel::countsDown()
@@ -202,7 +188,7 @@ void TestGraphModel::extendsToPresent()
 
 void TestGraphModel::putsManyAsOneByOne()
 {
-    const std::vector<double> times{1.0, 2.5, 2.5, 2.0, 90000.0, -4.0}, values{1, 2, 1e300, 0.1, -5, 3};
+    const std::vector<double> times{1.0, 2.5, 2.5, 2.0, 80000.0, 0.0}, values{1, 2, 1e300, 0.1, -5, 3};
     GraphModel single, many;
     for (GraphModel* pModel : {&single, &many})
         pModel->setActive(0, true);
@@ -220,6 +206,9 @@ void TestGraphModel::putsManyAsOneByOne()
         QCOMPARE(a.value(i), b.value(i));
         QCOMPARE(a.value(i), values[i]); // to the last bit
     }
+    many.putValues(1, std::vector{-4.0, 90000.0}, std::vector{1.0, 2.0}); // where they are
+    QCOMPARE(many.parameter(1)->samples.time(0), -4.0);
+    QCOMPARE(many.parameter(1)->samples.time(1), 90000.0);
 }
 
 void TestGraphModel::tickSpacing_data()
@@ -260,7 +249,12 @@ void TestGraphModel::tickSpacing()
 
 void TestGraphModel::labels()
 {
+    QCOMPARE(graphTime(-32.9915), "-00:00:32.991");
+    QCOMPARE(graphTime(90061.5), "25:01:01.500");
+    QCOMPARE(graphNumber(-117.123456, 6), "-117.123456");
+    QCOMPARE(graphNumber(-0.001, 2), "0.00");
     QCOMPARE(AxisTicks(0, 7200, 600, 100).timeLabel(3723), "1:02:03");
+    QCOMPARE(AxisTicks(0, 0.3, 600, 100).timeLabel(0.29), "0:00:00.29");
     QCOMPARE(AxisTicks(0, 1.2, 600, 100).timeLabel(3723.4), "1:02:03.4"); // neighbours must differ
     QCOMPARE(AxisTicks(-100, 100, 600, 100).timeLabel(-61), "-0:01:01");
     const AxisTicks ticks(-0.25, 0.25, 500, 60);

@@ -1,6 +1,7 @@
 #include "ui/graph/model/AxisTicks.h"
 
 #include "app/Numeric.h"
+#include "ui/graph/model/GraphTexts.h"
 
 #include <algorithm>
 #include <cmath>
@@ -70,21 +71,16 @@ AxisTicks::AxisTicks(double min, double max, double length, double spacing)
 
 QString AxisTicks::valueLabel(double value) const
 {
-    // The step of float precision that formats are made for; a negative zero is no value that anybody wants to read.
-    return QString::number(value == 0 ? 0.0 : value, 'f', decimalsOf(static_cast<double>(static_cast<float>(mStep))));
+    // The step of float precision that formats are made for.
+    return graphNumber(value, decimalsOf(static_cast<double>(static_cast<float>(mStep))));
 }
 
 QString AxisTicks::timeLabel(double seconds) const
 {
     const int decimals = mStep >= 0.9999 || mStep <= 0 ? 0 : std::min(9, decimalsOf(mStep * 1.0001));
     const double unit = std::pow(10.0, decimals);
-    const auto total = saturatingCast<qint64>(std::round(std::abs(seconds) * unit));
-    const auto parts = saturatingCast<qint64>(unit);
-    const qint64 whole = total / parts;
-    QString text = QStringLiteral("%1:%2:%3").arg(whole / 3600).arg(whole / 60 % 60, 2, 10, QLatin1Char('0')).arg(whole % 60, 2, 10, QLatin1Char('0'));
-    if (decimals > 0)
-        text += QStringLiteral(".%1").arg(total % parts, decimals, 10, QLatin1Char('0'));
-    return seconds < 0 && total != 0 ? QLatin1Char('-') + text : text;
+    const double rounded = std::round(seconds * unit);
+    return graphTime((rounded + std::copysign(0.25, rounded)) / unit, decimals, 1); // off the edge, where a fraction would be cut off
 }
 
 } // namespace ZARN

@@ -1,7 +1,10 @@
 #include "ui/graph/model/GraphInteraction.h"
 
+#include "ui/graph/model/CursorLabels.h"
+
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace ZARN {
 
@@ -12,9 +15,14 @@ constexpr double kWideZoomStep = 1.1111111111111112;
 constexpr double kFastKey = 10.0;
 constexpr double kClick = 4.0; // pixels that a hand may tremble
 
+bool isFar(const QPointF& a, const QPointF& b)
+{
+    return std::hypot(a.x() - b.x(), a.y() - b.y()) >= kClick;
+}
+
 } // namespace
 
-bool GraphInteraction::keyPressed(int key)
+bool GraphInteraction::keyPressed(int key, Qt::KeyboardModifiers modifiers)
 {
     switch (key) {
     case Qt::Key_Shift: mShift = true; return true;
@@ -22,13 +30,13 @@ bool GraphInteraction::keyPressed(int key)
     case Qt::Key_Alt: mAlt = true; return true;
     default: break;
     }
-    const double step = mShift ? kFastKey : 1.0;
+    const double step = mShift || modifiers.testFlag(Qt::ShiftModifier) ? kFastKey : 1.0;
     const double second = step / mLayout.pixelsPerSecond();
     switch (key) {
-    case Qt::Key_Left: moveCursorBy(-second, 0); return true;
-    case Qt::Key_Right: moveCursorBy(second, 0); return true;
-    case Qt::Key_Up: moveCursorBy(0, -step); return true;
-    case Qt::Key_Down: moveCursorBy(0, step); return true;
+    case Qt::Key_Left: moveCursorBy(-second); return true;
+    case Qt::Key_Right: moveCursorBy(second); return true;
+    case Qt::Key_Up: moveValueBy(-step); return true;
+    case Qt::Key_Down: moveValueBy(step); return true;
     default: return false;
     }
 }
@@ -43,24 +51,43 @@ bool GraphInteraction::keyReleased(int key)
     }
 }
 
-void GraphInteraction::moveCursorBy(double seconds, double pixels)
+void GraphInteraction::moveCursorBy(double seconds)
 {
-    double value = mModel.cursorValue();
-    int index = mModel.cursorIndex();
+    mModel.setCursorMoving(true);
+    mModel.moveCursor(mModel.cursorTime() + seconds, mModel.cursorValue(), mModel.cursorIndex());
+    mModel.keepInside(mModel.cursorTime());
+}
+
+void GraphInteraction::moveValueBy(double pixels)
+{
     const bool isSplit = mModel.displayMode() == eSplit;
-    const GraphParameter* pParameter = mModel.parameter(isSplit ? index : mModel.axisParameter());
-    if (pixels != 0 && pParameter && mModel.nrActive() > 0) {
-        const double y = GraphLayout::yOf(value, mLayout.area(*pParameter), {pParameter->lower, pParameter->upper}) + pixels;
-        if (isSplit) {
+    const auto isShown = [this](int index) { return std::ranges::count(mModel.shown(), index) > 0; };
+    int index = isSplit ? mModel.cursorIndex() : mModel.axisParameter();
+    if (isSplit && !isShown(index) && mModel.nrActive() > 0)
+        index = mModel.shown().front();
+    double value = mModel.cursorValue();
+    if (isShown(index)) {
+        // From where it can be seen: the value may be that of another strip.
+        const QRectF from = mLayout.area(*mModel.parameter(index));
+        const double start = std::clamp(GraphLayout::yOf(value, from, mModel.valueRange(index)), from.top(), from.bottom());
+        const double y = std::clamp(start + pixels, mLayout.plot().top(), mLayout.plot().bottom());
+        if (isSplit)
             index = mLayout.stripAt(mModel, y);
-            pParameter = mModel.parameter(index);
-        }
-        value = GraphLayout::valueAt(y, mLayout.area(*pParameter), {pParameter->lower, pParameter->upper});
+        value = GraphLayout::valueAt(y, mLayout.area(*mModel.parameter(index)), mModel.valueRange(index));
     }
     mModel.setCursorMoving(true);
-    mModel.moveCursor(mModel.cursorTime() + seconds, value, index);
-    if (seconds != 0)
-        mModel.keepInside(mModel.cursorTime());
+    mModel.moveCursor(mModel.cursorTime(), value, isSplit ? index : mModel.cursorIndex());
+}
+
+int GraphInteraction::legendAt(const QPointF& point) const
+{
+    const std::vector<int>& shown = mModel.shown();
+    for (std::size_t row = 0; row < shown.size(); ++row) {
+        const QRectF line = mLayout.legendLine(mModel, row);
+        if (line.contains(point)) // over the plot it gives way to the cursor's labels
+            return mLayout.legendKind() == GraphLayout::ELegend::eNone && CursorLabels(mModel, mLayout).covers(line) ? -1 : shown[row];
+    }
+    return -1;
 }
 
 int GraphInteraction::handleAt(const QPointF& point) const
@@ -98,7 +125,7 @@ void GraphInteraction::pressedLeft(const QPointF& point, Qt::KeyboardModifiers m
 {
     const bool isShift = mShift || modifiers.testFlag(Qt::ShiftModifier);
     const bool isControl = mControl || modifiers.testFlag(Qt::ControlModifier);
-    const int line = isShift || isControl ? -1 : mLayout.legendAt(mModel, point);
+    const int line = isShift || isControl ? -1 : legendAt(point);
     if (line >= 0) {
         mModel.setPinned(mModel.pinned() == line ? -1 : line);
         return mModel.setHighlighted(line);
@@ -106,17 +133,50 @@ void GraphInteraction::pressedLeft(const QPointF& point, Qt::KeyboardModifiers m
     if (isInWords(point))
         return;
     mDragged = handleAt(point);
-    const double time = mLayout.timeAt(point.x());
     if (isShift)
         return beginCursorDrag(point);
+    if (mDragged >= 0)
+        return;
+    const double time = mLayout.timeAt(point.x());
     if (!isControl)
-        mModel.setMarker(time, time);
-    else if (time < mModel.markerStart())
+        return pressedPlain(point);
+    if (time < mModel.markerStart())
         mModel.setMarker(time, mModel.markerEnd());
     else
         mModel.setMarker(mModel.markerStart(), time);
-    mMarkerDrag = !isControl && mDragged < 0;
     sendMarker();
+}
+
+void GraphInteraction::pressedPlain(const QPointF& point)
+{
+    if (takeMarkerEnd(point))
+        return;
+    if (mClickMovesCursor) {
+        mClick = point;
+        return;
+    }
+    beginMarkerDrag(mLayout.timeAt(point.x()));
+    sendMarker();
+}
+
+void GraphInteraction::beginMarkerDrag(double fixedTime)
+{
+    mMarkerDrag = true;
+    mMarkerFixed = fixedTime;
+    mModel.setMarker(fixedTime, fixedTime);
+}
+
+bool GraphInteraction::takeMarkerEnd(const QPointF& point)
+{
+    if (!mModel.hasMarkerRange() || !mLayout.plot().contains(point))
+        return false;
+    const auto distance = [&](double time) { return std::abs(mLayout.xOf(time) - point.x()); };
+    const double start = mModel.markerStart(), end = mModel.markerEnd();
+    if (std::min(distance(start), distance(end)) >= kClick)
+        return false;
+    mMarkerDrag = true;
+    mMarkerFixed = distance(start) < distance(end) ? end : start;
+    return true;
 }
 
 void GraphInteraction::sendMarker()
@@ -150,20 +210,25 @@ void GraphInteraction::cursorTo(const QPointF& point)
 
 void GraphInteraction::moved(const QPointF& point)
 {
-    const bool isClick = std::hypot(point.x() - mPan.start.x(), point.y() - mPan.start.y()) < kClick;
     mPointer = point;
-    if (mPan.isOn && (mPan.hasMoved || !isClick))
+    if (mPan.isOn && (mPan.hasMoved || isFar(point, mPan.start)))
         pan(point);
     mPointerTime = mLayout.timeAt(point.x());
     if (mPan.isOn)
         return;
     if (mDragged >= 0)
         return Q_EMIT mModel.signalRepaint();
+    if (mClick && isFar(point, *mClick)) {
+        beginMarkerDrag(mLayout.timeAt(mClick->x()));
+        mClick.reset();
+    }
     if (mMarkerDrag)
-        return mModel.setMarker(mModel.markerStart(), mLayout.timeAt(point.x()));
+        return mModel.setMarker(mMarkerFixed, mLayout.timeAt(point.x()));
+    if (mClick)
+        return;
     if (mCursorDrag)
         return cursorTo(point);
-    const int line = mLayout.legendAt(mModel, point);
+    const int line = legendAt(point);
     mModel.setHighlighted(line >= 0 ? line : mModel.pinned());
 }
 
@@ -197,6 +262,8 @@ void GraphInteraction::releasedLeft(const QPointF& point)
 {
     const int dragged = mDragged;
     mDragged = -1;
+    if (std::exchange(mClick, std::nullopt))
+        beginCursorDrag(point);
     if (dragged >= 0) {
         const int target = mLayout.stripAt(mModel, point.y());
         if (target >= 0 && target != dragged)

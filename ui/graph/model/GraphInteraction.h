@@ -11,16 +11,19 @@ public:
     explicit GraphInteraction(GraphModel& model) : mModel(model) {}
 
     void setLayout(const GraphLayout& layout) { mLayout = layout; }
+    /// A click in the plot moves the cursor, and does not make the marker a point; dragging still marks.
+    void setClickMovesCursor(bool on) { mClickMovesCursor = on; }
     void setPanningAllowed(bool on) { mPanningAllowed = on; }
     void setShiftPressed(bool on) { mShift = on; }
 
     // Keys. All return whether the key means something here.
-    bool keyPressed(int key);
+    // Modifiers as the event tells them, for keys may have been pressed elsewhere.
+    bool keyPressed(int key, Qt::KeyboardModifiers modifiers = {});
     bool keyReleased(int key);
     /// No key is held any more: the view lost the focus.
     void forgetKeys() { mShift = mControl = mAlt = false; }
 
-    // The pointer; modifiers as the event tells them, for keys may have been pressed elsewhere.
+    // The pointer.
     void pressed(Qt::MouseButton button, const QPointF& point, Qt::KeyboardModifiers modifiers);
     void moved(const QPointF& point);
     /// @return true when the right button was released where it had been pressed: a menu is wanted.
@@ -41,12 +44,19 @@ private:
         double xmax = 0.0;
         QPointF start;
     };
+    void pressedPlain(const QPointF& point);
+    void beginMarkerDrag(double fixedTime);
+    /// Whether an end of the marker lies under the pointer, which is taken then.
+    bool takeMarkerEnd(const QPointF& point);
     void pressedLeft(const QPointF& point, Qt::KeyboardModifiers modifiers);
     void releasedLeft(const QPointF& point);
     void pan(const QPointF& point);
     void beginCursorDrag(const QPointF& point);
     void cursorTo(const QPointF& point);
-    void moveCursorBy(double seconds, double pixels);
+    void moveCursorBy(double seconds);
+    void moveValueBy(double pixels);
+    /// The trace whose line of the legend is seen under the pointer; -1 for none.
+    [[nodiscard]] int legendAt(const QPointF& point) const;
     [[nodiscard]] int handleAt(const QPointF& point) const;
     /// Beside and below the plot, where the graph tells in words and no time lies under the pointer.
     [[nodiscard]] bool isInWords(const QPointF& point) const;
@@ -59,9 +69,11 @@ private:
     double mPointerTime = 0.0;
     Pan mPan;
     int mDragged = -1; // parameter whose strip is dragged
+    std::optional<QPointF> mClick; // where the button went down, as long as it may still become a click
     bool mMarkerDrag = false;
+    double mMarkerFixed = 0.0; // the end that is not dragged
     bool mCursorDrag = false;
-    bool mPanningAllowed = true;
+    bool mPanningAllowed = true, mClickMovesCursor = false;
     bool mShift = false, mControl = false, mAlt = false;
 };
 

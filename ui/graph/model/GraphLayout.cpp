@@ -2,6 +2,7 @@
 
 #include "ui/canvas/CanvasFont.h"
 #include "ui/graph/model/AxisTicks.h"
+#include "ui/graph/model/GraphTexts.h"
 
 #include <algorithm>
 #include <cmath>
@@ -14,7 +15,9 @@ constexpr double kGap = 6.0;
 constexpr double kHandleRoom = 22.0;
 constexpr double kSmallestPlot = 60.0;
 constexpr double kTablePart = 0.38; // of the view's height at most
-constexpr int kNumber = 9;          // characters of a number in the legend, with the gap before it
+constexpr double kLegendPart = 0.4; // the same for the legend
+constexpr int kLeastNumber = 8;     // characters of a number in the legend
+constexpr int kFewestOfName = 6, kSomeOfName = 14;
 
 int longestName(const GraphModel& model)
 {
@@ -32,28 +35,50 @@ int longestUnit(const GraphModel& model)
     return static_cast<int>(std::min<qsizetype>(longest, GraphLayout::kLongestName / 2)) + 2;
 }
 
+/// No value is longer than the longer one of the extremes.
+int longestNumber(const GraphModel& model)
+{
+    qsizetype longest = kLeastNumber;
+    for (const int index : model.shown()) {
+        const GraphParameter& parameter = *model.parameter(index);
+        const ValueRange<double>& values = parameter.samples.extremes();
+        for (const double value : {values.least, values.greatest}) {
+            if (!values.isEmpty())
+                longest = std::max(longest, graphNumber(value, parameter.precision).size());
+        }
+    }
+    return static_cast<int>(longest);
+}
+
 } // namespace
 
 GraphLayout::GraphLayout(const GraphModel& model, const QSizeF& size, double textSize)
     : mWidth(size.width()), mTextSize(textSize), mLine(canvasTextSize(QStringLiteral("0"), textSize, true).height() + 2),
-      mCharacter(canvasAdvance(textSize)), mNameLength(longestName(model)), mXmin(model.xmin())
+      mCharacter(canvasAdvance(textSize)), mNameLength(longestName(model)), mNumberLength(longestNumber(model)), mXmin(model.xmin())
 {
-    const double top = mLine + kGap;
-    double bottom = size.height() - mLine - 2 * kGap;
-    if (model.hasMarkerRange() && model.nrActive() > 0) {
-        const auto rows = static_cast<double>(model.nrActive()) + 1;
-        const double height = std::min(rows, std::max(2.0, std::floor(size.height() * kTablePart / mLine))) * mLine + kGap;
-        mTable = QRectF(kGap, size.height() - height, std::max(0.0, size.width() - 2 * kGap), height - kGap);
-        bottom -= height;
-    }
+    const double top = mLine + kGap, table = tableHeight(model, size.height());
+    if (table > 0)
+        mTable = QRectF(kGap, size.height() - table, std::max(0.0, size.width() - 2 * kGap), table - kGap);
     placeLegend(model, size.width());
-    const double right = mLegend == ELegend::eNone ? size.width() - 2 * kGap : mLegendRect.left() - kGap;
+    if (mLegend == ELegend::eNone)
+        placeLegendBelow(model, size.height() - table);
+    const double bottom = (mIsBelow ? mLegendRect.top() - kGap / 2 : size.height() - table) - mLine - 2 * kGap;
+    const double right = mLegend == ELegend::eNone || mIsBelow ? size.width() - 2 * kGap : mLegendRect.left() - kGap;
     const double height = std::max(kSmallestPlot, std::floor(bottom - top));
     const double left = std::ceil((model.displayMode() == eSplit ? kHandleRoom : kGap) + axisWidth(model, height) + kGap);
     mPlot = QRectF(left, top, std::max(kSmallestPlot, std::floor(right - left)), height);
-    mLegendRect.setRect(mLegendRect.left(), mPlot.top(), mLegendRect.width(), mPlot.height());
+    if (!mIsBelow)
+        mLegendRect.setRect(mLegendRect.left(), mPlot.top(), mLegendRect.width(), mPlot.height());
     const double width = model.width();
     mPixelsPerSecond = mPlot.width() / (width > 0 ? width : GraphModel::kSmallestWindow);
+}
+
+double GraphLayout::tableHeight(const GraphModel& model, double height) const
+{
+    if (!model.hasMarkerRange() || model.nrActive() == 0)
+        return 0;
+    const auto rows = static_cast<double>(model.nrActive()) + 1;
+    return std::min(rows, std::max(2.0, std::floor(height * kTablePart / mLine))) * mLine + kGap;
 }
 
 void GraphLayout::placeLegend(const GraphModel& model, double width)
@@ -62,19 +87,49 @@ void GraphLayout::placeLegend(const GraphModel& model, double width)
         return;
     struct Kind {
         ELegend kind;
-        int characters;
-        double part; // of the view's width at most
+        int name;
+        int numbers;
     };
-    const int names = mNameLength + 3 + longestUnit(model);
-    for (const Kind& kind : {Kind{ELegend::eFull, names + 3 * kNumber, 0.42}, Kind{ELegend::eCursor, names + kNumber, 0.4},
-                             Kind{ELegend::eNames, names, 0.36}}) {
-        const double wanted = std::ceil(kind.characters * mCharacter + 2 * kGap);
-        if (wanted > width * kind.part)
+    const int unit = 3 + longestUnit(model);
+    for (const Kind& kind : {Kind{ELegend::eFull, mNameLength, 3}, Kind{ELegend::eCursor, mNameLength, 1},
+                             Kind{ELegend::eCursor, std::min(mNameLength, kSomeOfName), 1}}) {
+        const int characters = kind.name + unit + kind.numbers * (mNumberLength + 1);
+        const double wanted = std::ceil(characters * mCharacter + 2 * kGap);
+        if (wanted > width * kLegendPart)
             continue;
         mLegend = kind.kind;
+        mNameLength = kind.name;
         mLegendRect = QRectF(std::floor(width - wanted - kGap), 0, wanted, 0);
         return;
     }
+}
+
+void GraphLayout::placeLegendBelow(const GraphModel& model, double bottom)
+{
+    // Strips have their names in them, and their values at the cursor.
+    if (!model.isLegendOn() || model.nrActive() == 0 || model.displayMode() == eSplit)
+        return;
+    const double room = std::min(bottom * kLegendPart, bottom - kSmallestPlot - 2 * mLine - 4 * kGap);
+    double rows = std::min(static_cast<double>(model.nrActive()) + 1, std::floor(room / mLine));
+    if (rows < 2)
+        return;
+    const auto widthOf = [&](int name, int numbers) {
+        return (name + longestUnit(model) + numbers * (mNumberLength + 1) + 1) * mCharacter + kSwatch + kGap;
+    };
+    const double wide = mWidth - 2 * kGap;
+    const int shortName = std::min(mNameLength, kSomeOfName);
+    const int columns = std::max(1, static_cast<int>(wide / widthOf(shortName, 1)));
+    if (wide >= widthOf(mNameLength, 3) && (model.nrActive() < rows || columns == 1)) {
+        mLegend = ELegend::eFull;
+    } else {
+        mLegend = ELegend::eCursor;
+        mLegendColumns = columns;
+        const auto longest = static_cast<int>((wide / mLegendColumns - widthOf(0, 1)) / mCharacter);
+        mNameLength = std::clamp(longest, kFewestOfName, std::max(mNameLength, kFewestOfName));
+        rows = std::min(rows, std::ceil(static_cast<double>(model.nrActive()) / mLegendColumns) + 1);
+    }
+    mIsBelow = true;
+    mLegendRect = QRectF(kGap, bottom - rows * mLine - kGap / 2, std::max(0.0, mWidth - 2 * kGap), rows * mLine);
 }
 
 double GraphLayout::axisWidth(const GraphModel& model, double height) const
@@ -116,12 +171,13 @@ QRectF GraphLayout::legendLine(const GraphModel& model, std::size_t row) const
             return {mLegendRect.left(), area(parameter).top(), mLegendRect.width(), mLine};
     }
     // The first line is the header, and the last one says how many found no room.
-    const auto line = static_cast<double>(row + 1);
-    const auto rows = static_cast<double>(model.shown().size()) + 1;
-    const double room = std::floor(mLegendRect.height() / mLine);
-    if (line >= (rows > room ? room - 1 : room))
+    const auto lines = static_cast<std::size_t>(std::max(0.0, std::floor(mLegendRect.height() / mLine) - 1));
+    const std::size_t places = lines * static_cast<std::size_t>(mLegendColumns);
+    if (row + (model.shown().size() > places ? 1 : 0) >= places)
         return {};
-    return {mLegendRect.left(), mLegendRect.top() + line * mLine, mLegendRect.width(), mLine};
+    const double width = mLegendRect.width() / mLegendColumns;
+    const auto column = static_cast<double>(row / lines), line = static_cast<double>(row % lines + 1);
+    return {mLegendRect.left() + column * width, mLegendRect.top() + line * mLine, width, mLine};
 }
 
 QRectF GraphLayout::overlayLine(const GraphModel& model, std::size_t row) const
@@ -133,17 +189,17 @@ QRectF GraphLayout::overlayLine(const GraphModel& model, std::size_t row) const
     const double y = area.top() + (model.displayMode() == eSplit ? 2.0 : 3.0 + line * mLine);
     if (y + mLine > area.bottom())
         return {};
-    const QString text = shortened(parameter.label(), kLongestLabel);
-    return {area.left() + 3, y, canvasTextSize(text, mTextSize, true).width() + kSwatch + 8, mLine};
+    const double text = canvasTextSize(overlayText(model, model.shown()[row]), mTextSize, true).width();
+    return {area.left() + 3, y, text + kSwatch + 8, mLine};
 }
 
-int GraphLayout::legendAt(const GraphModel& model, const QPointF& point) const
+QString GraphLayout::overlayText(const GraphModel& model, int index) const
 {
-    for (std::size_t row = 0; row < model.shown().size(); ++row) {
-        if (legendLine(model, row).contains(point))
-            return model.shown()[row];
-    }
-    return -1;
+    const GraphParameter& parameter = *model.parameter(index);
+    const std::optional<double> value = model.displayMode() == eSplit ? std::nullopt : model.valueAtCursor(index);
+    const QString number = value ? QLatin1Char(' ') + graphNumber(*value, parameter.precision) : QString();
+    const auto room = static_cast<int>((mPlot.width() - kSwatch - 12) / mCharacter) - static_cast<int>(number.size());
+    return shortened(parameter.label(), std::clamp(room, kFewestOfName, kLongestLabel)) + number;
 }
 
 int GraphLayout::stripAt(const GraphModel& model, double y) const

@@ -11,29 +11,30 @@ namespace ZARN {
 /// Where the parts of the graph lie in a view, in pixels, and which time and value a pixel stands for. Made anew for each frame.
 class GraphLayout {
 public:
-    /// What of a trace the legend tells, from most to least; by what the view has room for.
-    enum class ELegend { eNone, eNames, eCursor, eFull };
+    /// What the legend tells of a trace, by what the view has room for: nothing but its line over the plot, its value at the cursor, or
+    /// its extremes too.
+    enum class ELegend { eNone, eCursor, eFull };
 
     GraphLayout() = default;
     GraphLayout(const GraphModel& model, const QSizeF& size, double textSize);
 
     [[nodiscard]] double width() const { return mWidth; } ///< of the whole view
     [[nodiscard]] const QRectF& plot() const { return mPlot; }
-    [[nodiscard]] const QRectF& legend() const { return mLegendRect; } ///< right of the plot; empty without one
+    [[nodiscard]] const QRectF& legend() const { return mLegendRect; } ///< right of the plot or below it; empty without one
     [[nodiscard]] const QRectF& table() const { return mTable; }       ///< of the marker's values below the plot; empty without one
     [[nodiscard]] ELegend legendKind() const { return mLegend; }
     [[nodiscard]] double textSize() const { return mTextSize; }
     [[nodiscard]] double line() const { return mLine; }
     [[nodiscard]] double character() const { return mCharacter; }
-    [[nodiscard]] int nameLength() const { return mNameLength; } ///< characters of the longest name, as it is shown
+    // In characters, as the legend shows them: the longest name, and every number.
+    [[nodiscard]] int nameLength() const { return mNameLength; }
+    [[nodiscard]] int numberLength() const { return mNumberLength; }
 
     /// The area of a trace: its strip, or the plot.
     [[nodiscard]] QRectF area(const GraphParameter& parameter) const;
     /// The line of the legend for the shown trace number `row`: beside the plot, or over it where the view is too narrow for that; empty
     /// when there is no room for it.
     [[nodiscard]] QRectF legendLine(const GraphModel& model, std::size_t row) const;
-    /// Which of the legend's lines a point lies on: the parameter's index, -1 for none.
-    [[nodiscard]] int legendAt(const GraphModel& model, const QPointF& point) const;
     /// The strip under a height of the view, as its parameter's index; the nearest one outside of the plot; -1 when nothing is shown.
     [[nodiscard]] int stripAt(const GraphModel& model, double y) const;
     /// The middle of a strip's handle.
@@ -45,6 +46,8 @@ public:
     [[nodiscard]] static double yOf(double value, const QRectF& area, const std::array<double, 2>& range);
     [[nodiscard]] static double valueAt(double y, const QRectF& area, const std::array<double, 2>& range);
 
+    /// What the line over the plot says of a trace; with its value where nothing else tells that.
+    [[nodiscard]] QString overlayText(const GraphModel& model, int index) const;
     /// A name cut to what a line of the legend or the table shows.
     [[nodiscard]] static QString shortened(const QString& name, int length);
 
@@ -57,6 +60,8 @@ public:
 
 private:
     void placeLegend(const GraphModel& model, double width);
+    void placeLegendBelow(const GraphModel& model, double bottom);
+    [[nodiscard]] double tableHeight(const GraphModel& model, double height) const;
     [[nodiscard]] QRectF overlayLine(const GraphModel& model, std::size_t row) const;
     [[nodiscard]] double axisWidth(const GraphModel& model, double height) const;
 
@@ -66,7 +71,9 @@ private:
     QRectF mTable;
     ELegend mLegend = ELegend::eNone;
     double mTextSize = 11.0, mLine = 14.0, mCharacter = 7.0;
-    int mNameLength = 0;
+    int mNameLength = 0, mNumberLength = 8;
+    bool mIsBelow = false; // the legend
+    int mLegendColumns = 1;
     double mXmin = 0.0, mPixelsPerSecond = 1.0;
 };
 

@@ -8,12 +8,9 @@ namespace ZARN {
 namespace {
 
 constexpr int kFirstParameters = 6;
-constexpr int kMostParameters = 1000;
 constexpr double kWidestWindow = 1e7; // seconds; wheel and keys stop there
+constexpr double kNarrowHalf = 0.5;   // of what the wheel opens where the window has no width
 constexpr float kEdge = 0.1F;         // of the window, between a time that is kept inside and the edge
-
-constexpr GraphColour kTraceColours[] = {{1.0F, 0.0F, 0.0F}, {0.0F, 0.7F, 0.0F}, {0.0F, 0.0F, 0.7F},
-                                         {0.5F, 0.5F, 0.0F}, {0.0F, 0.5F, 0.5F}, {0.5F, 0.0F, 0.5F}};
 
 } // namespace
 
@@ -66,8 +63,11 @@ void GraphModel::setXrange(float seconds)
 
 void GraphModel::zoomToMarker()
 {
+    const auto [start, end] = std::minmax(mMarkerStart, mMarkerEnd);
+    if (start == end)
+        return;
     mGraphMode = eManual;
-    setWindow(mMarkerStart, std::max(mMarkerEnd, mMarkerStart + kSmallestWindow));
+    setWindow(start, std::max(end, start + kSmallestWindow));
     Q_EMIT signalManMode();
 }
 
@@ -76,12 +76,9 @@ void GraphModel::zoomAbout(double time, double factor)
     const double wanted = width() * factor;
     if (!std::isfinite(time) || (wanted < kSmallestWindow && factor < 1) || (wanted > kWidestWindow && factor > 1))
         return;
-    mXmin = time - (time - mXmin) * factor;
-    mXmax = time - (time - mXmax) * factor;
-    mCountdown = kCountdown;
-    Q_EMIT signalRecalculate();
-    recalcFrameBuffer();
-    changed();
+    if (!(width() > 0)) // that of a record of one moment, which no factor widens
+        return setWindow(mXmin - kNarrowHalf, mXmin + kNarrowHalf);
+    setWindow(time - (time - mXmin) * factor, time - (time - mXmax) * factor);
 }
 
 void GraphModel::setTime(double seconds)
@@ -262,129 +259,13 @@ void GraphModel::setOfflineMode(bool on)
 void GraphModel::setColours(const GraphColours& colours)
 {
     mColours = colours;
+    updateColours();
     changed();
 }
 
 void GraphModel::setMessage(const QString& text)
 {
     mMessage = text;
-    changed();
-}
-
-void GraphModel::setMaxParameters(int count)
-{
-    mParameters.clear();
-    mParameters.resize(static_cast<std::size_t>(std::clamp(count, 0, kMostParameters)));
-    mOrder.clear();
-    for (std::size_t i = 0; i < mParameters.size(); ++i) {
-        mParameters[i].colour = kTraceColours[i % std::size(kTraceColours)];
-        mParameters[i].colourKey = QStringLiteral("GraphColor%1").arg(i);
-        mOrder.push_back(static_cast<int>(i));
-    }
-    ++mGeneration;
-    updateShown();
-    changed();
-}
-
-void GraphModel::updateShown()
-{
-    mShown.clear();
-    for (const int index : mOrder) {
-        if (mParameters[static_cast<std::size_t>(index)].active)
-            mShown.push_back(index);
-    }
-    setPinned(mPinned);
-    if (!isShown(mHighlighted))
-        mHighlighted = -1;
-}
-
-bool GraphModel::isShown(int index) const
-{
-    return std::ranges::find(mShown, index) != mShown.end();
-}
-
-const GraphParameter* GraphModel::parameter(int index) const
-{
-    return index >= 0 && static_cast<std::size_t>(index) < mParameters.size() ? &mParameters[static_cast<std::size_t>(index)] : nullptr;
-}
-
-GraphParameter* GraphModel::at(int index)
-{
-    return index >= 0 && static_cast<std::size_t>(index) < mParameters.size() ? &mParameters[static_cast<std::size_t>(index)] : nullptr;
-}
-
-void GraphModel::setActive(int index, bool on)
-{
-    GraphParameter* pParameter = at(index);
-    if (!pParameter || pParameter->active == on)
-        return;
-    pParameter->active = on;
-    ++mGeneration;
-    updateShown();
-    changed();
-}
-
-void GraphModel::activateSamples(int index, bool on)
-{
-    if (GraphParameter* pParameter = at(index))
-        pParameter->samplesVisible = on;
-    changed();
-}
-
-void GraphModel::setPrecision(int index, int digits)
-{
-    if (GraphParameter* pParameter = at(index))
-        pParameter->precision = std::clamp(digits, 0, 17);
-    changed();
-}
-
-void GraphModel::setParameterColor(int index, float red, float green, float blue)
-{
-    if (GraphParameter* pParameter = at(index))
-        pParameter->colour = {red, green, blue};
-    changed();
-}
-
-void GraphModel::setParameterName(int index, const QString& name, const QString& unit)
-{
-    GraphParameter* pParameter = at(index);
-    if (!pParameter)
-        return;
-    // What the user chose was the parameter, not the slot that another one has taken.
-    if (pParameter->name != name && index == mPinned)
-        mPinned = mHighlighted = -1;
-    pParameter->name = name;
-    pParameter->unit = unit;
-    changed();
-}
-
-void GraphModel::setBands(int index, std::vector<GraphBand> bands)
-{
-    if (GraphParameter* pParameter = at(index))
-        pParameter->bands = std::move(bands);
-    changed();
-}
-
-void GraphModel::moveParameter(int from, int to)
-{
-    const auto source = std::ranges::find(mOrder, from), target = std::ranges::find(mOrder, to);
-    if (source == mOrder.end() || target == mOrder.end() || source == target)
-        return;
-    if (source < target)
-        std::rotate(source, source + 1, target + 1);
-    else
-        std::rotate(target, source, source + 1);
-    updateShown();
-    changed();
-    Q_EMIT signalMoveParameter(from, to);
-}
-
-void GraphModel::setHighlighted(int index)
-{
-    const int wanted = isShown(index) ? index : -1;
-    if (mHighlighted == wanted)
-        return;
-    mHighlighted = wanted;
     changed();
 }
 

@@ -117,10 +117,14 @@ public:
     void activateSamples(int index, bool on);
     void setPrecision(int index, int digits);
     void setParameterColor(int index, float red, float green, float blue);
+    /// Back to the colour that the slot has by itself.
+    void resetParameterColor(int index);
     void setParameterName(int index, const QString& name, const QString& unit);
     void setBands(int index, std::vector<GraphBand> bands);
     /// The user dropped a strip on the place of another. Sends signalMoveParameter().
     void moveParameter(int from, int to);
+    /// The strips from top to bottom; slots that are not named follow in their own order.
+    void setOrder(const std::vector<int>& slotOrder);
     /// The trace that stands out in single mode: its axis, its bands; -1, as for every trace that is not shown, for none.
     void setHighlighted(int index);
     [[nodiscard]] int highlighted() const { return mHighlighted; }
@@ -179,6 +183,7 @@ private:
     void changed() { Q_EMIT signalRepaint(); }
     [[nodiscard]] GraphParameter* at(int index);
     void updateShown();
+    void updateColours();
     [[nodiscard]] bool isShown(int index) const;
     void extendToPresent();
     void scale(GraphParameter& parameter) const;

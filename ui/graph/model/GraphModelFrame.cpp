@@ -34,7 +34,7 @@ void GraphModel::putValues(int index, std::span<const double> times, std::span<c
         return;
     std::vector<double> held(times.begin(), times.begin() + static_cast<std::ptrdiff_t>(count));
     for (double& time : held)
-        time = std::isnan(time) ? 0.0 : std::clamp(time, 0.0, kLatestTime);
+        time = std::isfinite(time) ? time : 0.0;
     setTime(held.back());
     pParameter->samples.append(held, values.first(count));
     pParameter->valuePut = true;

@@ -110,12 +110,13 @@ void GraphScene::draw(Canvas& canvas)
     forEachArea([&](const QRectF& area, int index) { drawValueAxis(canvas, area, index); });
     drawTraces(canvas);
     drawMarker(canvas);
-    drawTopMarkers(canvas);
+    const CursorLabels cursor(mModel, mLayout);
+    drawTopMarkers(canvas, cursor);
     canvas.outline(mLayout.plot(), {faint(contrast(), 0.6)});
     drawHandles(canvas);
     const GraphTables tables(mModel, mLayout);
-    tables.drawOverlay(canvas);
-    drawCursor(canvas);
+    tables.drawOverlay(canvas, cursor);
+    drawCursor(canvas, cursor);
     tables.draw(canvas);
     drawMessage(canvas);
 }
@@ -197,7 +198,7 @@ void GraphScene::drawValueAxis(Canvas& canvas, const QRectF& area, int index) co
         // Whose values the axis shows; the others have ranges of their own.
         const QString text = GraphLayout::shortened(pParameter->label(), 40);
         const QPointF corner(GraphLayout::kHandleX - 4, area.top() - mLayout.line() - 3);
-        canvas.fillRect(QRectF(corner.x(), corner.y() + 2, 10, mLayout.line() - 4), pParameter->colour.colour());
+        canvas.fillRect(QRectF(corner.x(), corner.y() + 2, 10, mLayout.line() - 4), pParameter->drawnColour);
         canvas.text(corner + QPointF(14, 1), text, labelStyle(Qt::AlignLeft | Qt::AlignTop));
     }
 }
@@ -224,7 +225,7 @@ void GraphScene::drawTrace(Canvas& canvas, const GraphParameter& parameter, bool
         mPoints.emplace_back(left + vertex.x() * scale, GraphLayout::yOf(vertex.y(), area, range) - 0.5);
     canvas.push();
     canvas.clip(area);
-    canvas.lineStrip(mPoints, {parameter.colour.colour(), isHighlighted ? 2.0 : 1.0});
+    canvas.lineStrip(mPoints, {parameter.drawnColour, isHighlighted ? 2.0 : 1.0});
     if (parameter.samplesVisible || mPoints.size() == 1)
         drawSamples(canvas, parameter);
     canvas.pop();
@@ -235,7 +236,7 @@ void GraphScene::drawSamples(Canvas& canvas, const GraphParameter& parameter) co
     if (mPoints.size() > 1 && mPoints.back().x() - mPoints.front().x() < kSampleDistance * static_cast<double>(mPoints.size()))
         return;
     for (const QPointF& point : mPoints)
-        canvas.fillRect(QRectF(std::round(point.x()) - 1, std::round(point.y()) - 1, 3, 3), parameter.colour.colour());
+        canvas.fillRect(QRectF(std::round(point.x()) - 1, std::round(point.y()) - 1, 3, 3), parameter.drawnColour);
 }
 
 void GraphScene::drawMarker(Canvas& canvas) const
@@ -254,18 +255,9 @@ void GraphScene::drawMarker(Canvas& canvas) const
     const std::array lines{QPointF(a, plot.top()), QPointF(a, plot.bottom() - 1), QPointF(b, plot.top()), QPointF(b, plot.bottom() - 1)};
     canvas.lines(lines, {contrast(), 1.0, false, 4.0});
     canvas.pop();
-    if (!mModel.hasMarkerRange())
-        return;
-    const QString text = QStringLiteral("dt = %1 s").arg(end - start, 0, 'f', 3);
-    const double half = static_cast<double>(text.size()) * mLayout.character() / 2 + 4;
-    const double middle = std::clamp((left + right) / 2, plot.left() + half, std::max(plot.left() + half, plot.right() - half));
-    if (mModel.displayMode() == eSplit) // where the last strip's value may stand
-        drawLabel(canvas, QPointF(clearOfTime(middle, half), plot.top() - mLayout.line() - 1), text, Qt::AlignHCenter | Qt::AlignTop);
-    else
-        drawLabel(canvas, QPointF(middle, plot.bottom() - 4), text, Qt::AlignHCenter | Qt::AlignBottom);
 }
 
-void GraphScene::drawTopMarkers(Canvas& canvas) const
+void GraphScene::drawTopMarkers(Canvas& canvas, const CursorLabels& cursor) const
 {
     const QRectF& plot = mLayout.plot();
     double free = plot.left() - mLayout.line(); // labels never overlap: what comes too close shows its line alone
@@ -277,7 +269,7 @@ void GraphScene::drawTopMarkers(Canvas& canvas) const
         canvas.lines(line, {contrast()});
         const QString text = QString::number(marker.index);
         const double half = static_cast<double>(text.size()) * mLayout.character() / 2 + 3;
-        if (x - half < free)
+        if (x - half < free || cursor.covers(QRectF(x - half, plot.top() + 9, 2 * half, mLayout.line())))
             continue;
         drawLabel(canvas, QPointF(x, plot.top() + 9), text, Qt::AlignHCenter | Qt::AlignTop);
         free = x + half;
@@ -295,14 +287,14 @@ void GraphScene::drawHandles(Canvas& canvas) const
             const QRectF& plot = mLayout.plot();
             middle.setY(std::clamp(mDragY, plot.top(), plot.bottom()));
             const std::array line{QPointF(plot.left(), middle.y()), QPointF(plot.right() - 1, middle.y())};
-            canvas.lines(line, {parameter.colour.colour(), 1.0, false, 6.0});
+            canvas.lines(line, {parameter.drawnColour, 1.0, false, 6.0});
         }
         const double tall = std::clamp(mLayout.area(parameter).height() / 2 - 3, 3.0, 11.0);
         const auto arrow = [&](double sign) {
             return std::array{middle + QPointF(-6, sign * 2), middle + QPointF(6, sign * 2), middle + QPointF(0, sign * tall)};
         };
-        canvas.polygon(arrow(-1), parameter.colour.colour());
-        canvas.polygon(arrow(1), parameter.colour.colour());
+        canvas.polygon(arrow(-1), parameter.drawnColour);
+        canvas.polygon(arrow(1), parameter.drawnColour);
     }
 }
 

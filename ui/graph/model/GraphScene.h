@@ -1,7 +1,7 @@
 #pragma once
 
 #include "ui/canvas/Canvas.h"
-#include "ui/graph/model/GraphLayout.h"
+#include "ui/graph/model/CursorLabels.h"
 
 namespace ZARN {
 
@@ -41,19 +41,9 @@ private:
     void drawTrace(Canvas& canvas, const GraphParameter& parameter, bool isHighlighted);
     void drawSamples(Canvas& canvas, const GraphParameter& parameter) const;
     void drawMarker(Canvas& canvas) const;
-    void drawTopMarkers(Canvas& canvas) const;
+    void drawTopMarkers(Canvas& canvas, const CursorLabels& cursor) const;
     void drawHandles(Canvas& canvas) const;
-    void drawCursor(Canvas& canvas) const;
-    /// Where the cursor stands; none when it is off or outside of the plot.
-    [[nodiscard]] std::optional<double> cursorX() const;
-    /// From where to where a label beside the cursor reaches.
-    [[nodiscard]] std::array<double, 2> besideCursor(double x, const QString& text) const;
-    /// The middle of a label above the strips, moved when it would meet the cursor's time. @param half its width
-    [[nodiscard]] double clearOfTime(double middle, double half) const;
-    /// A label beside the cursor, on the side that has room for it.
-    void drawAtCursor(Canvas& canvas, const QPointF& position, const QString& text, Qt::Alignment vertical) const;
-    void drawCursorValues(Canvas& canvas, double x) const;
-    void drawCursorValue(Canvas& canvas, double x) const;
+    void drawCursor(Canvas& canvas, const CursorLabels& cursor) const;
     void drawMessage(Canvas& canvas) const;
 
     const GraphModel& mModel;

@@ -1,5 +1,7 @@
 #include "ui/graph/model/GraphTables.h"
 
+#include "ui/graph/model/GraphTexts.h"
+
 #include <QCoreApplication>
 #include <QStringList>
 
@@ -13,7 +15,6 @@ namespace ZARN {
 namespace {
 
 constexpr double kSwatch = GraphLayout::kSwatch;
-constexpr int kDigits = 8; // characters of a number
 constexpr QColor kHighlight(255, 255, 255, 110);
 
 QString translated(const char* text)
@@ -21,13 +22,9 @@ QString translated(const char* text)
     return QCoreApplication::translate("ZARN::GraphTables", text);
 }
 
-QString number(double value, int precision)
+QString markerWidth(const GraphModel& model)
 {
-    // What does not fit its column is written shorter, never cut.
-    QString text = QString::number(value, 'f', std::clamp(precision, 0, 17));
-    if (text.size() > kDigits)
-        text = QString::number(value, 'g', 4);
-    return text.rightJustified(kDigits);
+    return QStringLiteral("dt = %1 s").arg(std::abs(model.markerEnd() - model.markerStart()), 0, 'f', 3);
 }
 
 /// The extremes within the window; empty when no sample lies in it.
@@ -64,21 +61,25 @@ CanvasText GraphTables::style(bool isBold) const
     return {mLayout.textSize(), mModel.colours().label.colour(), isBold, Qt::AlignLeft | Qt::AlignTop, false};
 }
 
-QString GraphTables::legendText(const GraphModel& model, int index, GraphLayout::ELegend kind)
+QString GraphTables::legendText(int index) const
 {
-    const GraphParameter& parameter = *model.parameter(index);
-    const QString unit = QStringLiteral(" [") + GraphLayout::shortened(parameter.unit, GraphLayout::kLongestName / 2) + QLatin1Char(']');
-    QString text;
-    if (kind == GraphLayout::ELegend::eCursor || kind == GraphLayout::ELegend::eFull) {
-        const std::optional<double> value = model.valueAtCursor(index);
-        text += QLatin1Char(' ') + (value ? number(*value, parameter.precision) : QStringLiteral("-").rightJustified(kDigits));
-    }
-    if (kind == GraphLayout::ELegend::eFull) {
-        const ValueRange<double> range = windowRange(model, parameter.samples);
+    const GraphParameter& parameter = *mModel.parameter(index);
+    std::vector<std::optional<double>> values{mModel.valueAtCursor(index)};
+    if (mLayout.legendKind() == GraphLayout::ELegend::eFull) {
+        const ValueRange<double> range = windowRange(mModel, parameter.samples);
         for (const double value : {range.least, range.greatest})
-            text += QLatin1Char(' ') + (range.isEmpty() ? QStringLiteral("-").rightJustified(kDigits) : number(value, parameter.precision));
+            values.push_back(range.isEmpty() ? std::nullopt : std::optional(value));
     }
-    return parameter.unit.isEmpty() ? text : text + unit;
+    QString text;
+    for (const std::optional<double>& value : values)
+        text += inColumn(value ? graphNumber(*value, parameter.precision) : QStringLiteral("-"));
+    const QString unit = GraphLayout::shortened(parameter.unit, GraphLayout::kLongestName / 2);
+    return unit.isEmpty() ? text : text + QStringLiteral(" [") + unit + QLatin1Char(']');
+}
+
+QString GraphTables::inColumn(const QString& text) const
+{
+    return QLatin1Char(' ') + text.rightJustified(mLayout.numberLength());
 }
 
 void GraphTables::drawLegend(Canvas& canvas) const
@@ -86,14 +87,14 @@ void GraphTables::drawLegend(Canvas& canvas) const
     if (mLayout.legendKind() == GraphLayout::ELegend::eNone)
         return;
     int missing = 0;
-    double bottom = mLayout.legend().top() + mLayout.line();
+    QRectF last = mLayout.legend();
+    last.setHeight(mLayout.line());
     for (std::size_t row = 0; row < mModel.shown().size(); ++row) {
         const QRectF line = mLayout.legendLine(mModel, row);
-        if (line.isEmpty()) {
+        if (line.isEmpty())
             ++missing;
-            continue;
-        }
-        bottom = line.bottom();
+        else
+            last = line;
     }
     // All areas, then all bold texts, then all others: what is alike goes to the screen together.
     for (const ELayer layer : {ELayer::eAreas, ELayer::eNames, ELayer::eNumbers}) {
@@ -102,24 +103,27 @@ void GraphTables::drawLegend(Canvas& canvas) const
     }
     drawLegendHeader(canvas);
     if (missing > 0)
-        canvas.text(QPointF(mLayout.legend().left() + kSwatch + 6, bottom),
+        canvas.text(last.bottomLeft() + QPointF(kSwatch + 6, 0),
                     translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "%1 more")).arg(missing), style(false));
 }
 
 void GraphTables::drawLegendHeader(Canvas& canvas) const
 {
-    if (mLayout.legendKind() == GraphLayout::ELegend::eNames)
-        return;
-    QString text = translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "Cursor")).left(kDigits).rightJustified(kDigits + 1);
+    QString text = inColumn(translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "Cursor")));
     if (mLayout.legendKind() == GraphLayout::ELegend::eFull) {
-        text += translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "Min")).left(kDigits).rightJustified(kDigits + 1);
-        text += translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "Max")).left(kDigits).rightJustified(kDigits + 1);
+        text += inColumn(translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "Min")));
+        text += inColumn(translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "Max")));
     }
     // Strips have their lines at their own heights, so the header stands above the first.
     const bool isSplit = mModel.displayMode() == eSplit;
     const double y = mLayout.legend().top() - (isSplit ? mLayout.line() : 0.0);
-    const double x = mLayout.legend().left() + kSwatch + 6 + mLayout.nameLength() * mLayout.character();
-    canvas.text(QPointF(x, y), text, style(false));
+    const double names = kSwatch + 6 + mLayout.nameLength() * mLayout.character();
+    const double first = mLayout.legendLine(mModel, 0).top();
+    for (std::size_t row = 0; row < mModel.shown().size(); ++row) {
+        const QRectF line = mLayout.legendLine(mModel, row);
+        if (!line.isEmpty() && line.top() == first) // at the head of each column
+            canvas.text(QPointF(line.left() + names, y), text, style(false));
+    }
 }
 
 void GraphTables::drawLegendLine(Canvas& canvas, const QRectF& line, int index, ELayer layer) const
@@ -131,16 +135,16 @@ void GraphTables::drawLegendLine(Canvas& canvas, const QRectF& line, int index, 
     if (layer == ELayer::eAreas) {
         if (index == mModel.highlighted())
             canvas.fillRect(line, kHighlight);
-        canvas.fillRect(QRectF(line.left() + 2, line.top() + 3, kSwatch, line.height() - 6), parameter.colour.colour());
+        canvas.fillRect(QRectF(line.left() + 2, line.top() + 3, kSwatch, line.height() - 6), parameter.drawnColour);
     } else if (layer == ELayer::eNames) {
-        canvas.text(QPointF(x, line.top()), GraphLayout::shortened(parameter.name, GraphLayout::kLongestName), style(true));
+        canvas.text(QPointF(x, line.top()), GraphLayout::shortened(parameter.name, mLayout.nameLength()), style(true));
     } else {
         const QPointF place(x + mLayout.nameLength() * mLayout.character(), line.top());
-        canvas.text(place, legendText(mModel, index, mLayout.legendKind()), style(false));
+        canvas.text(place, legendText(index), style(false));
     }
 }
 
-void GraphTables::drawOverlay(Canvas& canvas) const
+void GraphTables::drawOverlay(Canvas& canvas, const CursorLabels& cursor) const
 {
     if (mLayout.legendKind() != GraphLayout::ELegend::eNone)
         return;
@@ -148,16 +152,15 @@ void GraphTables::drawOverlay(Canvas& canvas) const
     box.setAlpha(210);
     for (std::size_t row = 0; row < mModel.shown().size(); ++row) {
         const QRectF line = mLayout.legendLine(mModel, row);
-        if (line.isEmpty())
+        if (line.isEmpty() || cursor.covers(line))
             continue;
         const int index = mModel.shown()[row];
         const GraphParameter& parameter = *mModel.parameter(index);
         canvas.fillRect(line, box);
         if (index == mModel.highlighted())
             canvas.fillRect(line, kHighlight);
-        canvas.fillRect(QRectF(line.left() + 2, line.top() + 3, kSwatch, line.height() - 6), parameter.colour.colour());
-        canvas.text(line.topLeft() + QPointF(kSwatch + 5, 0), GraphLayout::shortened(parameter.label(), GraphLayout::kLongestLabel),
-                    style(true));
+        canvas.fillRect(QRectF(line.left() + 2, line.top() + 3, kSwatch, line.height() - 6), parameter.drawnColour);
+        canvas.text(line.topLeft() + QPointF(kSwatch + 5, 0), mLayout.overlayText(mModel, index), style(true));
     }
 }
 
@@ -166,7 +169,7 @@ void GraphTables::drawMarkerTable(Canvas& canvas) const
     const QRectF& table = mLayout.table();
     if (table.isEmpty())
         return;
-    std::vector<QStringList> rows{QStringList{QString()} + MarkerValues::headers()};
+    std::vector<QStringList> rows{QStringList{markerWidth(mModel)} + MarkerValues::headers()};
     const auto room = static_cast<std::size_t>(std::max(2.0, std::floor(table.height() / mLayout.line())));
     const std::vector<MarkerValues> values = mModel.markerValues();
     const std::size_t fitting = values.size() + 1 <= room ? values.size() : room - 2;
@@ -184,7 +187,7 @@ void GraphTables::drawMarkerTable(Canvas& canvas) const
     double y = table.top();
     for (std::size_t i = 0; i < rows.size(); ++i, y += mLayout.line()) {
         if (i > 0)
-            canvas.fillRect(QRectF(table.left() + 2, y + 3, kSwatch, mLayout.line() - 6), values[i - 1].pParameter->colour.colour());
+            canvas.fillRect(QRectF(table.left() + 2, y + 3, kSwatch, mLayout.line() - 6), values[i - 1].pParameter->drawnColour);
         drawRow(canvas, y, rows[i], widths);
     }
     if (fitting < values.size())

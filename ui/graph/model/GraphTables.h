@@ -1,7 +1,7 @@
 #pragma once
 
 #include "ui/canvas/Canvas.h"
-#include "ui/graph/model/GraphLayout.h"
+#include "ui/graph/model/CursorLabels.h"
 
 namespace ZARN {
 
@@ -12,10 +12,7 @@ public:
 
     void draw(Canvas& canvas) const;
     /// The legend of a view that has no room for it beside the plot.
-    void drawOverlay(Canvas& canvas) const;
-
-    /// A line of the legend behind the name: the value at the cursor, the least and the greatest in the window, and the unit.
-    [[nodiscard]] static QString legendText(const GraphModel& model, int index, GraphLayout::ELegend kind);
+    void drawOverlay(Canvas& canvas, const CursorLabels& cursor) const;
 
 private:
     enum class ELayer { eAreas, eNames, eNumbers };
@@ -23,6 +20,9 @@ private:
     void drawLegend(Canvas& canvas) const;
     void drawLegendHeader(Canvas& canvas) const;
     void drawLegendLine(Canvas& canvas, const QRectF& line, int index, ELayer layer) const;
+    /// What stands behind the name: the value at the cursor, the least and the greatest in the window, and the unit.
+    [[nodiscard]] QString legendText(int index) const;
+    [[nodiscard]] QString inColumn(const QString& text) const;
     void drawMarkerTable(Canvas& canvas) const;
     void drawRow(Canvas& canvas, double y, const QStringList& cells, const std::vector<int>& widths) const;
     [[nodiscard]] CanvasText style(bool isBold) const;

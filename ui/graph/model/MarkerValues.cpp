@@ -1,12 +1,9 @@
 #include "ui/graph/model/MarkerValues.h"
 
-#include "card/CardContainer.h"
+#include "ui/graph/model/GraphTexts.h"
 
 #include <QCoreApplication>
 #include <QStringList>
-
-#include <algorithm>
-#include <cmath>
 
 namespace ZARN {
 
@@ -16,12 +13,7 @@ constexpr double kSecondsPerHour = 3600.0;
 
 QString numberText(const std::optional<double>& value, int precision)
 {
-    if (!value)
-        return QStringLiteral("-");
-    const QString text = QString::number(*value, std::abs(*value) < 1e15 ? 'f' : 'g', std::clamp(precision, 0, 17));
-    // A difference that vanishes in the rounding has no sign.
-    const bool isZero = std::ranges::all_of(text, [](QChar c) { return c == QLatin1Char('-') || c == QLatin1Char('0') || c == QLatin1Char('.'); });
-    return isZero && text.startsWith(QLatin1Char('-')) ? text.mid(1) : text;
+    return value ? graphNumber(*value, precision) : QStringLiteral("-");
 }
 
 QString header(const char* text)
@@ -101,8 +93,8 @@ QString integralUnit(const QString& unit)
 
 QString markerText(std::span<const MarkerValues> values, double start, double end)
 {
-    QString text = header(QT_TRANSLATE_NOOP("ZARN::MarkerValues", "Time")) + QLatin1Char('\t') + CardContainer::time(start) + QLatin1Char('\t')
-                   + CardContainer::time(end) + QLatin1Char('\n');
+    QString text = header(QT_TRANSLATE_NOOP("ZARN::MarkerValues", "Time")) + QLatin1Char('\t') + graphTime(start) + QLatin1Char('\t')
+                   + graphTime(end) + QLatin1Char('\n');
     text += QStringLiteral("dt\t%1 s\n").arg(end - start, 0, 'f', 3);
     const QStringList columns = MarkerValues::headers();
     text += header(QT_TRANSLATE_NOOP("ZARN::MarkerValues", "Parameter")) + QLatin1Char('\t') + header(QT_TRANSLATE_NOOP("ZARN::MarkerValues", "Unit"))

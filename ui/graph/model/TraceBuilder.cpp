@@ -26,6 +26,8 @@ TraceBuilder::Window TraceBuilder::window(const SampleSeries& samples, double be
     // From the second sample on one step back; the second one itself stays, as the recorder's own display has it.
     if (first > 1)
         --first;
+    if (first == samples.size())
+        return {}; // the only sample, before the window
     const std::size_t last = std::max(std::min(samples.firstAtOrAfter(end), samples.size() - 1), first);
     return {first, last};
 }
