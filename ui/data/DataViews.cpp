@@ -10,6 +10,8 @@
 #include "ui/graph/WidgetGraphES.h"
 #include "ui/map/DialogDataMap.h"
 
+#include <QToolButton>
+
 namespace ZARN {
 
 namespace {
@@ -25,7 +27,12 @@ DataViews DataViews::create(const Session& session, const QString& dataPath)
 {
     auto* pTable = new DialogDataTable(session);
     auto* pGraph = new DialogDataGraph(session);
-    pGraph->setFocusProxy(pGraph->findChild<WidgetGraphES*>());
+    QWidget* pLast = pGraph->findChild<WidgetGraphES*>();
+    pGraph->setFocusProxy(pLast);
+    for (QToolButton* pButton : pGraph->findChildren<QToolButton*>()) { // the keys pass what stands before the one that has the focus
+        QWidget::setTabOrder(pLast, pButton);
+        pLast = pButton;
+    }
     auto* pLimits = new DialogDataLimit(session);
     auto* pWarnings = new DialogDataWarning(session);
     auto* pStatistic = new DialogDataStatistic(session);

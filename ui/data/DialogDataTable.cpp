@@ -72,6 +72,7 @@ void DialogDataTable::createView()
 void DialogDataTable::createLiveView()
 {
     mpLiveView->setModel(mpLive);
+    mpLiveView->setAccessibleName(tr("Newest values"));
     mpLiveView->setItemDelegate(new TableCellDelegate(mpLiveView));
     mpLiveView->setSelectionBehavior(QAbstractItemView::SelectRows);
     mpLiveView->setWordWrap(false);

@@ -32,6 +32,7 @@ WidgetFaultMatrix::WidgetFaultMatrix(const CardContainer& container, QWidget* pP
 {
     setFrameStyle(QFrame::Panel | QFrame::Plain);
     mpTitle->setTextFormat(Qt::PlainText);
+    mpTitle->setBuddy(mpTable); // names it for those who do not see it
     mpTitle->setAlignment(Qt::AlignCenter);
     mpTitle->setStyleSheet("font-weight: bold; font-size: 16px;");
     createTable();

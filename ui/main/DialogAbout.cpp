@@ -78,6 +78,8 @@ QLayout* DialogAbout::createLicences() const
     for (const Licence& licence : kLicences) {
         auto* pText = new QPlainTextEdit(licenceText(licence.file));
         pText->setReadOnly(true);
+        pText->setTabChangesFocus(true);
+        pText->setAccessibleName(QLatin1String(licence.name));
         pTexts->addWidget(pText);
         pNames->addItem(QLatin1String(licence.name));
     }

@@ -4,6 +4,7 @@
 #include "ui/main/CardTree.h"
 
 #include <QHash>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QSignalBlocker>
 #include <QStyle>
@@ -72,13 +73,13 @@ DialogCard::DialogCard(const CardContainer& container, QWidget* pParent)
     mpRawData->setSelectionMode(QAbstractItemView::ExtendedSelection);
 
     auto* pTabs = new QTabWidget;
+    pTabs->setAccessibleName(tr("Lists of the card"));
     pTabs->addTab(mpCycles, tr("Cycles"));
     pTabs->addTab(mpRawData, tr("Raw Data"));
     auto* pLayout = new QVBoxLayout(this);
     pLayout->setContentsMargins(0, 0, 0, 0);
     pLayout->addWidget(mpName);
     pLayout->addWidget(pTabs);
-    setFocusProxy(mpCycles);
 
     connect(mpCycles, &QTreeWidget::itemSelectionChanged, this, &DialogCard::slotSelectCycle);
     connect(mpRawData, &QTreeWidget::itemSelectionChanged, this, &DialogCard::slotSelect);
@@ -94,7 +95,14 @@ QTreeWidget* DialogCard::createTree(const QString& name, const QString& header)
     pTree->setHeaderLabel(header);
     pTree->setAccessibleName(header);
     pTree->setUniformRowHeights(true); // a card may hold thousands of files
+    pTree->header()->setStretchLastSection(false); // what is wider can be scrolled to
+    pTree->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     return pTree;
+}
+
+void DialogCard::focusList()
+{
+    mpCycles->setFocus();
 }
 
 void DialogCard::reloadCardInfo()

@@ -56,6 +56,7 @@ DialogHelp::DialogHelp(const QString& locale, QWidget* pParent)
     mpChapters->setObjectName("chapters");
     mpChapters->setAccessibleName(tr("Chapters"));
     mpBrowser->setObjectName("manual");
+    mpBrowser->setAccessibleName(tr("Manual"));
     mpBrowser->setOpenExternalLinks(true);
     connect(mpBrowser, &QTextBrowser::sourceChanged, this, &DialogHelp::slotSourceChanged);
     connect(mpChapters, &QListWidget::currentRowChanged, this, &DialogHelp::slotChapter);
@@ -84,6 +85,7 @@ QWidget* DialogHelp::createHead()
     connect(pBack, &QPushButton::clicked, mpBrowser, &QTextBrowser::backward);
     connect(mpBrowser, &QTextBrowser::backwardAvailable, pBack, &QPushButton::setEnabled);
     mpSearch->setObjectName("search");
+    mpSearch->setAccessibleName(tr("Search the text"));
     mpSearch->setPlaceholderText(tr("Search the text; Return for the next place"));
     mpSearch->setClearButtonEnabled(true);
     connect(mpSearch, &QLineEdit::returnPressed, this, &DialogHelp::slotSearch);

@@ -66,6 +66,7 @@ DialogMain::DialogMain(const Session& session, const Desktop& desktop)
     if (!mEmu)
         createMenus();
     createToolBar();
+    openToolBarsToKeys();
     createStatusBar();
     createControllers();
     connectPanels();
@@ -86,7 +87,7 @@ DialogMain::DialogMain(const Session& session, const Desktop& desktop)
     fillProfiles();
     updateTitle();
     updateExports();
-    mpCard->setFocus(); // not the first field for text: it would take keys that are meant for the window
+    mpCard->focusList(); // not the first field for text: it would take keys that are meant for the window
     show();
     mpLayout->restoreSplitters();
     mSession.property.setString("LastProjectPath", mDesktop.folders.dataPath() + "/CurrentProject.xml");
@@ -191,10 +192,16 @@ void DialogMain::createToolBar()
     mpToolBar->addWidget(mpProfiles);
     mpToolBar->addSeparator();
     addUnits();
-    // The toolkit leaves tool bars to the mouse; some commands are in no menu.
-    for (QToolButton* pButton : mpToolBar->findChildren<QToolButton*>(Qt::FindDirectChildrenOnly)) {
-        if (pButton->defaultAction())
-            pButton->setFocusPolicy(Qt::TabFocus);
+}
+
+/// The toolkit leaves tool bars to the mouse, but some commands are in no menu.
+void DialogMain::openToolBarsToKeys()
+{
+    for (const QToolBar* pBar : findChildren<QToolBar*>()) {
+        for (QToolButton* pButton : pBar->findChildren<QToolButton*>(Qt::FindDirectChildrenOnly)) {
+            if (pButton->defaultAction())
+                pButton->setFocusPolicy(Qt::TabFocus);
+        }
     }
 }
 

@@ -106,6 +106,7 @@ private:
     void createActions();
     void createMenus();
     void createToolBar();
+    void openToolBarsToKeys();
     void createPanels();
     void createStatusBar();
     void createControllers();

@@ -43,6 +43,7 @@ DialogPreferences::DialogPreferences(const Session& session, Kernel& kernel, QWi
     setWindowTitle(tr("Preferences"));
     mpList->setIconSize(QSize(16, 16));
     mpList->setFixedWidth(kListWidth);
+    mpList->setAccessibleName(tr("Pages"));
     connect(mpList, &QListWidget::currentItemChanged, this, &DialogPreferences::slotChangePage);
     addPage(tr("General"), "general", createGeneralPage());
     addPage(tr("Profile"), "profile", createProfilePage());

@@ -34,8 +34,7 @@ template <typename Label> Label* makeLabel(const char* objectName)
 
 WidgetWelcome::WidgetWelcome(QWidget* pParent)
     : QFrame(pParent), mpArea(new QFrame), mpHeading(makeLabel<Heading>("heading")), mpText(makeLabel<QLabel>("quiet")),
-      mpProblem(makeLabel<QLabel>("warning")),
-      mpButtons(new QWidget)
+      mpProblem(makeLabel<QLabel>("warning")), mpButtons(new QWidget)
 {
     auto* pPicture = new QLabel;
     pPicture->setPixmap(ImageHandler::icon("zarn").pixmap(QSize(kPictureSize, kPictureSize), devicePixelRatioF()));
@@ -57,14 +56,14 @@ WidgetWelcome::WidgetWelcome(QWidget* pParent)
     auto* pLayout = new QVBoxLayout(mpArea);
     pLayout->setSpacing(16);
     pLayout->addStretch();
-    for (QWidget* pWidget : {static_cast<QWidget*>(pPicture), static_cast<QWidget*>(mpHeading), static_cast<QWidget*>(mpProblem),
-                             static_cast<QWidget*>(mpText), mpButtons})
-        pLayout->addWidget(pWidget, 0, Qt::AlignHCenter);
+    pLayout->addWidget(pPicture);
+    for (QLabel* pLabel : {static_cast<QLabel*>(mpHeading), mpProblem, mpText})
+        pLayout->addWidget(pLabel);
+    pLayout->addWidget(mpButtons);
     pLayout->addStretch();
     auto* pFrame = new QVBoxLayout(this);
     pFrame->setContentsMargins(0, 0, 0, 0);
     pFrame->addWidget(mpArea);
-    setFocusProxy(pOpen);
     setProblem({});
     setState(eNoCard);
 }
@@ -74,12 +73,20 @@ void WidgetWelcome::giveRoom()
 {
     ensurePolished();
     mpHeading->follow();
-    const int width = kTextWidth * QFontInfo(font()).pixelSize();
+    const QMargins margins = mpArea->layout()->contentsMargins();
+    const int room = width() - margins.left() - margins.right();
+    const int most = std::clamp(room, 0, kTextWidth * QFontInfo(font()).pixelSize());
     for (QLabel* pLabel : {static_cast<QLabel*>(mpHeading), mpText, mpProblem}) {
         pLabel->ensurePolished();
-        pLabel->setFixedWidth(width);
-        pLabel->setMinimumHeight(std::max(0, pLabel->heightForWidth(width))); // an empty one has none
+        pLabel->setMaximumWidth(most);
+        pLabel->setMinimumHeight(std::max(0, pLabel->heightForWidth(most))); // an empty one has none
     }
+}
+
+void WidgetWelcome::resizeEvent(QResizeEvent* pEvent)
+{
+    QFrame::resizeEvent(pEvent);
+    giveRoom();
 }
 
 void WidgetWelcome::changeEvent(QEvent* pEvent)

@@ -29,6 +29,7 @@ Q_SIGNALS:
 
 protected:
     void changeEvent(QEvent* pEvent) override;
+    void resizeEvent(QResizeEvent* pEvent) override;
 
 private:
     void giveRoom();
