@@ -7,10 +7,7 @@
 #include "ui/data/DialogDataTable.h"
 #include "ui/data/DialogDataWarning.h"
 #include "ui/graph/DialogDataGraph.h"
-#include "ui/graph/WidgetGraphES.h"
 #include "ui/map/DialogDataMap.h"
-
-#include <QToolButton>
 
 namespace ZARN {
 
@@ -27,12 +24,6 @@ DataViews DataViews::create(const Session& session, const QString& dataPath)
 {
     auto* pTable = new DialogDataTable(session);
     auto* pGraph = new DialogDataGraph(session);
-    QWidget* pLast = pGraph->findChild<WidgetGraphES*>();
-    pGraph->setFocusProxy(pLast);
-    for (QToolButton* pButton : pGraph->findChildren<QToolButton*>()) { // the keys pass what stands before the one that has the focus
-        QWidget::setTabOrder(pLast, pButton);
-        pLast = pButton;
-    }
     auto* pLimits = new DialogDataLimit(session);
     auto* pWarnings = new DialogDataWarning(session);
     auto* pStatistic = new DialogDataStatistic(session);

@@ -32,7 +32,6 @@ WidgetFaultMatrix::WidgetFaultMatrix(const CardContainer& container, QWidget* pP
 {
     setFrameStyle(QFrame::Panel | QFrame::Plain);
     mpTitle->setTextFormat(Qt::PlainText);
-    mpTitle->setBuddy(mpTable); // names it for those who do not see it
     mpTitle->setAlignment(Qt::AlignCenter);
     mpTitle->setStyleSheet("font-weight: bold; font-size: 16px;");
     createTable();
@@ -70,6 +69,7 @@ void WidgetFaultMatrix::setData(const FaultMatrix& matrix)
 {
     mMatrix = matrix;
     mpTitle->setText(QString::fromStdString(matrix.name));
+    mpTable->setAccessibleName(mpTitle->text());
     mpTimeline->setData(matrix);
     for (int bit = 0; bit < kBits; ++bit) {
         auto* pItem = new WidgetErrorItem;

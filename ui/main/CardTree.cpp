@@ -2,6 +2,7 @@
 
 #include "app/Numeric.h"
 #include "card/CardContainer.h"
+#include "card/PowerUp.h"
 
 namespace ZARN {
 
@@ -56,7 +57,7 @@ std::vector<CardNode> CardTree::cycles(const CardContainer& container)
 {
     DateGroups groups;
     for (const auto& [number, cycle] : container.recordCycles())
-        groups.add(cycle.dateTime.date(), dateText(cycle.dateTime.date()), cycleNode(number, cycle));
+        groups.add(PowerUp::of(cycle).date(), dateText(PowerUp::of(cycle).date()), cycleNode(number, cycle));
     return groups.take();
 }
 
@@ -64,7 +65,7 @@ CardNode CardTree::cycleNode(unsigned int number, const RecordCycle& cycle)
 {
     CardNode node;
     // All three at once: what a name or date contains is never taken for the next mark.
-    node.text = QStringLiteral("%1 %2 (%3)").arg(cycle.name, startText(cycle.dateTime), clockText(cycle.endTime));
+    node.text = QStringLiteral("%1 %2 (%3)").arg(cycle.name, startText(PowerUp::of(cycle)), clockText(cycle.endTime));
     node.cycle = number;
     return node;
 }

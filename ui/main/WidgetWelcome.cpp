@@ -33,7 +33,7 @@ template <typename Label> Label* makeLabel(const char* objectName)
 } // namespace
 
 WidgetWelcome::WidgetWelcome(QWidget* pParent)
-    : QFrame(pParent), mpArea(new QFrame), mpHeading(makeLabel<Heading>("heading")), mpText(makeLabel<QLabel>("quiet")),
+    : QFrame(pParent), mpArea(new QFrame), mpColumn(new QWidget), mpHeading(makeLabel<Heading>("heading")), mpText(makeLabel<QLabel>("quiet")),
       mpProblem(makeLabel<QLabel>("warning")), mpButtons(new QWidget)
 {
     auto* pPicture = new QLabel;
@@ -57,8 +57,16 @@ WidgetWelcome::WidgetWelcome(QWidget* pParent)
     pLayout->setSpacing(16);
     pLayout->addStretch();
     pLayout->addWidget(pPicture);
+    auto* pColumn = new QVBoxLayout(mpColumn);
+    pColumn->setContentsMargins(0, 0, 0, 0);
+    pColumn->setSpacing(pLayout->spacing());
     for (QLabel* pLabel : {static_cast<QLabel*>(mpHeading), mpProblem, mpText})
-        pLayout->addWidget(pLabel);
+        pColumn->addWidget(pLabel);
+    auto* pMiddle = new QHBoxLayout;
+    pMiddle->addStretch(1);
+    pMiddle->addWidget(mpColumn, 100); // all the room up to its greatest width
+    pMiddle->addStretch(1);
+    pLayout->addLayout(pMiddle);
     pLayout->addWidget(mpButtons);
     pLayout->addStretch();
     auto* pFrame = new QVBoxLayout(this);
@@ -73,12 +81,12 @@ void WidgetWelcome::giveRoom()
 {
     ensurePolished();
     mpHeading->follow();
+    mpColumn->setMaximumWidth(most);
     const QMargins margins = mpArea->layout()->contentsMargins();
     const int room = width() - margins.left() - margins.right();
     const int most = std::clamp(room, 0, kTextWidth * QFontInfo(font()).pixelSize());
     for (QLabel* pLabel : {static_cast<QLabel*>(mpHeading), mpText, mpProblem}) {
         pLabel->ensurePolished();
-        pLabel->setMaximumWidth(most);
         pLabel->setMinimumHeight(std::max(0, pLabel->heightForWidth(most))); // an empty one has none
     }
 }

@@ -35,6 +35,7 @@ private:
     void giveRoom();
 
     QFrame* mpArea;
+    QWidget* mpColumn; ///< the texts, no wider than is good to read
     Heading* mpHeading;
     QLabel* mpText;
     QLabel* mpProblem;

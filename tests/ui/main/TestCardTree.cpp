@@ -1,4 +1,5 @@
 #include "FlightCard.h"
+#include "card/PowerUp.h"
 #include "ui/main/CardTree.h"
 
 #include <QTest>
@@ -94,6 +95,10 @@ void TestCardTree::datesGroupRuns()
     const std::vector<CardNode> dates = CardTree::rawData(data.container);
     QCOMPARE(texts(dates), (QStringList{"01.05.2024", "02.05.2024", "01.05.2024"}));
     QCOMPARE(texts(dates[2].children), (QStringList{"3.CAN   1.5.2024 1:02:03", "4.CAN   1.5.2024 1:02:03"}));
+    // Files without the one that began their cycle: a second had passed when the first of them began.
+    QCOMPARE(texts(CardTree::cycles(data.container)[0].children), QStringList{" 1.5.2024 1:02:02 (00:00:01)"});
+    data.container.loadFiles({"2.CAN"});
+    QCOMPARE(PowerUp::ofLoaded(data.container), QDateTime(QDate(2024, 5, 2), QTime(1, 2, 2), Qt::UTC));
 }
 
 QTEST_GUILESS_MAIN(TestCardTree)
