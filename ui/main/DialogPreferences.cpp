@@ -146,7 +146,11 @@ bool DialogPreferences::event(QEvent* pEvent)
     // The map asks the same question, and may have its answer since this window was last looked at.
     if (pEvent->type() == QEvent::Show || pEvent->type() == QEvent::WindowActivate)
         fillTiles();
-    return QDialog::event(pEvent);
+    const bool isHandled = QDialog::event(pEvent);
+    // Wrapped texts in larger letters need more height than the layout asks for.
+    if (pEvent->type() == QEvent::Show || pEvent->type() == QEvent::LayoutRequest)
+        setMinimumHeight(layout()->totalHeightForWidth(width()));
+    return isHandled;
 }
 
 void DialogPreferences::slotTiles(bool isAllowed)

@@ -49,6 +49,7 @@ WidgetWelcome::WidgetWelcome(QWidget* pParent)
     connect(pDemo, &QPushButton::clicked, this, &WidgetWelcome::signalOpenDemoCard);
     auto* pButtons = new QHBoxLayout(mpButtons);
     pButtons->setAlignment(Qt::AlignCenter);
+    pButtons->setContentsMargins(0, 0, 0, 0);
     pButtons->addWidget(pOpen);
     pButtons->addWidget(pDemo);
 
@@ -81,10 +82,14 @@ void WidgetWelcome::giveRoom()
 {
     ensurePolished();
     mpHeading->follow();
-    mpColumn->setMaximumWidth(most);
     const QMargins margins = mpArea->layout()->contentsMargins();
     const int room = width() - margins.left() - margins.right();
     const int most = std::clamp(room, 0, kTextWidth * QFontInfo(font()).pixelSize());
+    mpColumn->setMaximumWidth(most);
+    int row = mpButtons->layout()->spacing();
+    for (const QWidget* pButton : mpButtons->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+        row += pButton->sizeHint().width();
+    static_cast<QBoxLayout*>(mpButtons->layout())->setDirection(row > room ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
     for (QLabel* pLabel : {static_cast<QLabel*>(mpHeading), mpText, mpProblem}) {
         pLabel->ensurePolished();
         pLabel->setMinimumHeight(std::max(0, pLabel->heightForWidth(most))); // an empty one has none
