@@ -33,8 +33,8 @@ bool isTextUnselected(const QObject* pReceiver)
 
 bool CopyKey::isLeftToWindow(const QObject* pReceiver, QEvent* pEvent)
 {
-    if (pEvent->type() != QEvent::ShortcutOverride || !static_cast<QKeyEvent*>(pEvent)->matches(QKeySequence::Copy)
-        || !isTextUnselected(pReceiver))
+    if (pEvent->type() != QEvent::ShortcutOverride || !static_cast<QKeyEvent*>(pEvent)->matches(QKeySequence::Copy) ||
+        !isTextUnselected(pReceiver))
         return false;
     pEvent->ignore();
     return true;

@@ -234,7 +234,7 @@ void DialogMain::slotDataChanged()
     showProblems();
     updateExports();
     mpWelcome->setState(WidgetWelcome::eEmpty); // seen when there are no data
-    mpCentre->setCurrentWidget(mpCardController->hasData() ? static_cast<QWidget*>(mpData) : mpWelcome);
+    mpCentre->setCurrentWidget(mEmu || mpCardController->hasData() ? static_cast<QWidget*>(mpData) : mpWelcome);
 }
 
 void DialogMain::slotProjectChanged()

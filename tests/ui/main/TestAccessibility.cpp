@@ -16,10 +16,9 @@
 #include <QLineEdit>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QStackedWidget>
 #include <QTabBar>
-#include <QtTest>
 #include <QWizard>
+#include <QtTest>
 
 using namespace ZARN;
 
@@ -37,9 +36,9 @@ bool isControl(const QWidget* pWidget)
 {
     if (pWidget->objectName().startsWith("qt_") || qobject_cast<const QScrollBar*>(pWidget) || pWidget->inherits("QSplitterHandle"))
         return false; // the toolkit's own
-    return qobject_cast<const QAbstractButton*>(pWidget) || qobject_cast<const QLineEdit*>(pWidget) || qobject_cast<const QComboBox*>(pWidget)
-           || qobject_cast<const QAbstractSpinBox*>(pWidget) || qobject_cast<const QAbstractItemView*>(pWidget)
-           || (pWidget->focusPolicy() & Qt::TabFocus);
+    return qobject_cast<const QAbstractButton*>(pWidget) || qobject_cast<const QLineEdit*>(pWidget) ||
+           qobject_cast<const QComboBox*>(pWidget) || qobject_cast<const QAbstractSpinBox*>(pWidget) ||
+           qobject_cast<const QAbstractItemView*>(pWidget) || (pWidget->focusPolicy() & Qt::TabFocus);
 }
 
 /// The controls of a window; what is part of another control counts as that one.
@@ -58,8 +57,9 @@ QList<QWidget*> controls(const QWidget& window)
 
 QString described(const QWidget* pWidget)
 {
-    return QString("%1 %2 in %3 (%4)").arg(pWidget->metaObject()->className(), pWidget->objectName(),
-                                           pWidget->parentWidget()->metaObject()->className(), pWidget->toolTip());
+    return QString("%1 %2 in %3 (%4)")
+        .arg(pWidget->metaObject()->className(), pWidget->objectName(), pWidget->parentWidget()->metaObject()->className(),
+             pWidget->toolTip());
 }
 
 QStringList unnamed(const QWidget& window)

@@ -54,8 +54,6 @@ private Q_SLOTS:
     void restart();
     void pulledCard();
     void damagedStore();
-    void givenFolder();
-    void quitSaves();
     void quitAsksForName();
     void newProjectAsks_data();
     void newProjectAsks();
@@ -321,7 +319,8 @@ void TestDialogMain::restart()
         window.resize(1200, 700);
         desktop.profile.setSelected("Engine Speed", true);
         window.slotCanChanged();
-        window.close();
+        window.action(eActionQuit)->trigger();
+        QVERIFY(!window.isVisible() && !window.isProjectModified());
     }
     DesktopFixture desktop(home());
     DialogMain& window = desktop.open();
@@ -361,29 +360,6 @@ void TestDialogMain::damagedStore()
     started(window);
     QVERIFY(!desktop.profile.data().empty());
     QCOMPARE(window.size(), QSize(1000, 800));
-}
-
-void TestDialogMain::givenFolder()
-{
-    DesktopFixture desktop(home(), {card().toStdString()});
-    desktop.property.setString("LastPath", (home() + "/gone").toStdString());
-    DialogMain& window = desktop.open();
-    started(window);
-    QCOMPARE(window.windowTitle(), QString("ZARN SD/Card"));
-}
-
-void TestDialogMain::quitSaves()
-{
-    DesktopFixture desktop(home());
-    DialogMain& window = desktop.open();
-    started(window);
-    desktop.profile.setSelected("Oil Temperature", true);
-    window.slotCanChanged();
-    window.action(eActionQuit)->trigger();
-    QVERIFY(!window.isVisible());
-    QVERIFY(!window.isProjectModified());
-    QVERIFY(fileContent(home().toStdString() + "/data/CurrentProject.xml").find("Oil Temperature") != std::string::npos);
-    QVERIFY(desktop.console.text.find("DialogMain::slotMenu id 6\n") != std::string::npos);
 }
 
 void TestDialogMain::quitAsksForName()
