@@ -19,6 +19,8 @@
 #include <QSpinBox>
 #include <QStackedWidget>
 
+#include <algorithm>
+
 namespace ZARN {
 
 namespace {
@@ -149,7 +151,7 @@ bool DialogPreferences::event(QEvent* pEvent)
     const bool isHandled = QDialog::event(pEvent);
     // Wrapped texts in larger letters need more height than the layout asks for.
     if (pEvent->type() == QEvent::Show || pEvent->type() == QEvent::LayoutRequest)
-        setMinimumHeight(layout()->totalHeightForWidth(width()));
+        setMinimumHeight(std::max(0, layout()->totalHeightForWidth(width()))); // below 0 while no text is wrapped
     return isHandled;
 }
 

@@ -239,10 +239,12 @@ void TestDialogMain::copyKey()
     DesktopFixture desktop(home());
     DialogMain& window = desktop.open();
     started(window);
-    window.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&window));
     QVERIFY(!qobject_cast<QLineEdit*>(QApplication::focusWidget()));
-    const auto opens = [](QWidget* pFocus) {
+    const auto opens = [&window](QWidget* pFocus) {
+        window.activateWindow(); // again, after a dialog was closed
+        if (!QTest::qWaitForWindowActive(&window))
+            return false;
         pFocus->setFocus();
         Answer answer(Answer::close);
         QTest::keyClick(pFocus->window()->windowHandle(), Qt::Key_C, Qt::ControlModifier);
