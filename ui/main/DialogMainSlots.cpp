@@ -172,7 +172,8 @@ void DialogMain::slotCanChanged()
 
 void DialogMain::slotZarnMode(int mode)
 {
-    mpCardController->restoreFolder(QString::fromStdString(mSession.property.getString("LastPath", "")));
+    if (const QString last = QString::fromStdString(mSession.property.getString("LastPath", "")); !last.isEmpty())
+        mpCardController->restoreFolder(last);
     mpData->setZarnMode(mode);
 }
 
