@@ -18,6 +18,7 @@ ExportPathPage::ExportPathPage(const QString& chooser, QWidget* pParent)
 {
     setTitle(tr("Select the output directory and file"));
     mpDirectory->setObjectName("directory");
+    mpDirectory->setAccessibleName(tr("Output directory"));
     mpName->setObjectName("fileName");
     mpProblem->setObjectName("warning");
     mpProblem->setTextFormat(Qt::PlainText); // a path may hold what looks like markup

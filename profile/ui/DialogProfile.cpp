@@ -6,6 +6,8 @@
 
 #include <QAction>
 #include <QClipboard>
+#include <QEvent>
+#include <QFontInfo>
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QLabel>
@@ -13,7 +15,15 @@
 #include <QTreeView>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace ZARN {
+
+namespace {
+
+constexpr int kLeastName = 11; // in sizes of the font
+
+} // namespace
 
 DialogProfile::DialogProfile(const Session& session, QWidget* pParent)
     : QWidget(pParent), mSession(session), mpModel(new ProfileTreeModel(session.profile, this)),
@@ -50,11 +60,31 @@ void DialogProfile::createTree()
     mpTree->setEditTriggers(QAbstractItemView::NoEditTriggers);
     mpTree->setContextMenuPolicy(Qt::ActionsContextMenu);
     mpTree->header()->setStretchLastSection(false);
-    mpTree->header()->setSectionResizeMode(ProfileTreeModel::eName, QHeaderView::Stretch);
+    mpTree->header()->setSectionResizeMode(ProfileTreeModel::eName, QHeaderView::Fixed);
     mpTree->header()->setSectionResizeMode(ProfileTreeModel::eUnit, QHeaderView::ResizeToContents);
     mpTree->header()->setSectionResizeMode(ProfileTreeModel::eIdentifier, QHeaderView::ResizeToContents);
+    mpTree->viewport()->installEventFilter(this);
+    connect(mpTree->header(), &QHeaderView::sectionResized, this, [this](int section) {
+        if (section != ProfileTreeModel::eName)
+            fitNames();
+    });
     connect(mpTree->selectionModel(), &QItemSelectionModel::currentChanged, this, &DialogProfile::slotCurrentChanged);
     connect(mpFilter, &QAbstractItemModel::modelReset, this, &DialogProfile::slotCurrentChanged);
+}
+
+bool DialogProfile::eventFilter(QObject* pObject, QEvent* pEvent)
+{
+    if (pEvent->type() == QEvent::Resize)
+        fitNames();
+    return QWidget::eventFilter(pObject, pEvent);
+}
+
+/// The names take what the other columns leave them, but with large letters in a narrow panel these are scrolled to.
+void DialogProfile::fitNames()
+{
+    QHeaderView& header = *mpTree->header();
+    const int left = mpTree->viewport()->width() - header.sectionSize(ProfileTreeModel::eUnit) - header.sectionSize(ProfileTreeModel::eIdentifier);
+    header.resizeSection(ProfileTreeModel::eName, std::max(left, kLeastName * QFontInfo(mpTree->font()).pixelSize()));
 }
 
 void DialogProfile::createActions()
@@ -109,6 +139,7 @@ void DialogProfile::restoreExpanded()
     for (int row = 0; row < mpFilter->rowCount(); ++row) {
         const QModelIndex device = mpFilter->index(row, 0);
         mpTree->setExpanded(device, searching || mExpanded.contains(device.data().toString()));
+        mpTree->setFirstColumnSpanned(row, {}, true); // a device has a name only
     }
 }
 

@@ -40,7 +40,11 @@ private Q_SLOTS:
     void slotOnlyDevice();
     void slotCopyName();
 
+protected:
+    bool eventFilter(QObject* pObject, QEvent* pEvent) override;
+
 private:
+    void fitNames();
     void createTree();
     void createActions();
     QAction* addAction(const QString& name, const QString& text);

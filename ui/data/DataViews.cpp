@@ -7,7 +7,6 @@
 #include "ui/data/DialogDataTable.h"
 #include "ui/data/DialogDataWarning.h"
 #include "ui/graph/DialogDataGraph.h"
-#include "ui/graph/WidgetGraphES.h"
 #include "ui/map/DialogDataMap.h"
 
 namespace ZARN {
@@ -25,7 +24,6 @@ DataViews DataViews::create(const Session& session, const QString& dataPath)
 {
     auto* pTable = new DialogDataTable(session);
     auto* pGraph = new DialogDataGraph(session);
-    pGraph->setFocusProxy(pGraph->findChild<WidgetGraphES*>());
     auto* pLimits = new DialogDataLimit(session);
     auto* pWarnings = new DialogDataWarning(session);
     auto* pStatistic = new DialogDataStatistic(session);

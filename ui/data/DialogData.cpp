@@ -3,6 +3,7 @@
 #include "app/Numeric.h"
 #include "app/gui/ImageHandler.h"
 #include "card/CardContainer.h"
+#include "card/PowerUp.h"
 #include "ui/data/DataTabBar.h"
 #include "ui/data/WidgetReplayBar.h"
 #include "ui/data/model/TimeOfDay.h"
@@ -145,9 +146,7 @@ void DialogData::connectControls()
 void DialogData::updateRecord()
 {
     const CardContainer& container = mSession.container;
-    // A flight has the date of its take-off, while its times count from power-up as those of its cycle do.
-    const RecordCycle* pCycle = container.loadedCycle();
-    mBase = pCycle ? pCycle->dateTime : container.dateTime();
+    mBase = PowerUp::ofLoaded(container);
     mStart = container.startTime();
     mEnd = container.endTime();
     mpRecord = &mSession.container.recordData();

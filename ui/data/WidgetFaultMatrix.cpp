@@ -69,6 +69,7 @@ void WidgetFaultMatrix::setData(const FaultMatrix& matrix)
 {
     mMatrix = matrix;
     mpTitle->setText(QString::fromStdString(matrix.name));
+    mpTable->setAccessibleName(mpTitle->text());
     mpTimeline->setData(matrix);
     for (int bit = 0; bit < kBits; ++bit) {
         auto* pItem = new WidgetErrorItem;

@@ -62,6 +62,11 @@ DialogDataGraph::DialogDataGraph(const Session& session, QWidget* pParent)
     updateProfile();
 }
 
+void DialogDataGraph::focusInEvent(QFocusEvent* /*pEvent*/)
+{
+    mpGraph->setFocus();
+}
+
 void DialogDataGraph::connectGraph()
 {
     connect(mpGraph, &WidgetGraphES::signalCursor, this, &DialogDataGraph::signalCursor);

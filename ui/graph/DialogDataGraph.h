@@ -45,6 +45,8 @@ Q_SIGNALS:
     void signalReport();
 
 protected:
+    /// The keys are for the graph. No focus proxy: Tab would pass the buttons, which stand before it.
+    void focusInEvent(QFocusEvent* pEvent) override;
     /// Asks where to save the snapshot; empty when the user gave up.
     virtual QString askSnapshotFile();
     virtual void showProblem(const QString& text);

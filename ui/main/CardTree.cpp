@@ -2,6 +2,7 @@
 
 #include "app/Numeric.h"
 #include "card/CardContainer.h"
+#include "card/PowerUp.h"
 
 namespace ZARN {
 
@@ -16,17 +17,6 @@ QString clockText(double seconds)
 QString startText(const QDateTime& dateTime)
 {
     return dateTime.toString("d.M.yyyy h:mm:ss");
-}
-
-/// A text of the header for one line of a tree: damaged headers hold any bytes.
-QString printable(const std::string& text)
-{
-    QString result = QString::fromStdString(text);
-    for (QChar& character : result) {
-        if (!character.isPrint() && !character.isSurrogate())
-            character = QChar::ReplacementCharacter;
-    }
-    return result;
 }
 
 /// Joins the entries of consecutive equal dates below one entry.
@@ -48,6 +38,16 @@ private:
 
 } // namespace
 
+QString CardTree::printable(const std::string& text)
+{
+    QString result = QString::fromStdString(text);
+    for (QChar& character : result) {
+        if (!character.isPrint() && !character.isSurrogate())
+            character = QChar::ReplacementCharacter;
+    }
+    return result;
+}
+
 QString CardTree::dateText(const QDate& date)
 {
     return date.isValid() ? date.toString("dd.MM.yyyy") : tr("Unknown Date");
@@ -57,7 +57,7 @@ std::vector<CardNode> CardTree::cycles(const CardContainer& container)
 {
     DateGroups groups;
     for (const auto& [number, cycle] : container.recordCycles())
-        groups.add(cycle.dateTime.date(), dateText(cycle.dateTime.date()), cycleNode(number, cycle));
+        groups.add(PowerUp::of(cycle).date(), dateText(PowerUp::of(cycle).date()), cycleNode(number, cycle));
     return groups.take();
 }
 
@@ -65,7 +65,7 @@ CardNode CardTree::cycleNode(unsigned int number, const RecordCycle& cycle)
 {
     CardNode node;
     // All three at once: what a name or date contains is never taken for the next mark.
-    node.text = QStringLiteral("%1 %2 (%3)").arg(cycle.name, startText(cycle.dateTime), clockText(cycle.endTime));
+    node.text = QStringLiteral("%1 %2 (%3)").arg(cycle.name, startText(PowerUp::of(cycle)), clockText(cycle.endTime));
     node.cycle = number;
     return node;
 }
@@ -99,7 +99,6 @@ CardNode CardTree::fileNode(const RecordInfo& info)
     node.text = info.fileName.section('/', -1) + "   " + startText(info.dateTime);
     node.toolTip = tr("Start Time") + ": " + clockText(info.startTime) + "\n" + tr("Stop Time") + ": " + clockText(info.endTime);
     node.path = info.fileName;
-    node.children = headerLines(info);
     return node;
 }
 

@@ -41,6 +41,7 @@
 #include <QStatusBar>
 #include <QToolBar>
 #include <QToolButton>
+#include <QVBoxLayout>
 
 namespace ZARN {
 
@@ -67,6 +68,7 @@ DialogMain::DialogMain(const Session& session, const Desktop& desktop)
     if (!mEmu)
         createMenus();
     createToolBar();
+    openToolBarsToKeys();
     createStatusBar();
     createControllers();
     connectPanels();
@@ -86,7 +88,10 @@ DialogMain::DialogMain(const Session& session, const Desktop& desktop)
         mpData->updateRecord();
     fillProfiles();
     updateTitle();
+    updateExports();
+    mpCard->focusList(); // not the first field for text: it would take keys that are meant for the window
     show();
+    mpLayout->restoreSplitters();
     mSession.property.setString("LastProjectPath", mDesktop.folders.dataPath() + "/CurrentProject.xml");
 }
 
@@ -111,11 +116,22 @@ void DialogMain::createPanels()
     mpCentre = new QStackedWidget;
     mpCentre->addWidget(mpWelcome);
     mpCentre->addWidget(mpData);
+    mpProblems = new QLabel;
+    mpProblems->setObjectName("cardProblems");
+    mpProblems->setTextFormat(Qt::PlainText); // names of files
+    mpProblems->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    mpProblems->setWordWrap(true);
+    mpProblems->hide();
+    auto* pRight = new QWidget;
+    auto* pRightLayout = new QVBoxLayout(pRight);
+    pRightLayout->setContentsMargins(0, 0, 0, 0);
+    pRightLayout->addWidget(mpProblems);
+    pRightLayout->addWidget(mpCentre, 1);
     mpSplitter = new QSplitter(Qt::Horizontal);
     mpSplitter->setChildrenCollapsible(false);
     mpSplitter->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     mpSplitter->addWidget(mpSide);
-    mpSplitter->addWidget(mpCentre);
+    mpSplitter->addWidget(pRight);
     mpSplitter->setStretchFactor(0, 1);
     mpSplitter->setStretchFactor(1, 2);
     setCentralWidget(mpSplitter);
@@ -175,11 +191,23 @@ void DialogMain::createToolBar()
     mpProfiles->setObjectName("profiles");
     mpProfiles->setMinimumWidth(kSelectorWidth);
     mpProfiles->setToolTip(tr("Profile: what the recorded bytes mean"));
+    mpProfiles->setAccessibleName(tr("Profile"));
     connect(mpProfiles, &QComboBox::textActivated, this, qOverload<const QString&>(&DialogMain::slotProfileChanged));
     WheelGuard::install(*mpProfiles);
     mpToolBar->addWidget(mpProfiles);
     mpToolBar->addSeparator();
     addUnits();
+}
+
+/// The toolkit leaves tool bars to the mouse, but some commands are in no menu.
+void DialogMain::openToolBarsToKeys()
+{
+    for (const QToolBar* pBar : findChildren<QToolBar*>()) {
+        for (QToolButton* pButton : pBar->findChildren<QToolButton*>(Qt::FindDirectChildrenOnly)) {
+            if (pButton->defaultAction())
+                pButton->setFocusPolicy(Qt::TabFocus);
+        }
+    }
 }
 
 // Behind the arrow of the one button: other files of the flight path.
@@ -199,6 +227,7 @@ void DialogMain::addUnits()
     mpUnits->setObjectName("units");
     mpUnits->setMinimumWidth(kSelectorWidth);
     mpUnits->setToolTip(tr("Units of all displays"));
+    mpUnits->setAccessibleName(tr("Units"));
     mpUnits->addItem(tr("Metric"), "0");
     mpUnits->addItem(tr("Imperial"), "1");
     connect(mpUnits, &QComboBox::activated, this, &DialogMain::slotUnitChanged);

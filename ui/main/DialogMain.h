@@ -16,6 +16,7 @@ class DialogHelp;
 class DialogProfileInfo;
 class QActionGroup;
 class QComboBox;
+class QLabel;
 class QSplitter;
 class QStackedWidget;
 class QToolBar;
@@ -106,6 +107,7 @@ private:
     void createActions();
     void createMenus();
     void createToolBar();
+    void openToolBarsToKeys();
     void createPanels();
     void createStatusBar();
     void createControllers();
@@ -116,6 +118,9 @@ private:
     void addUnits();
     void restoreCard();
     void tellProfileProblem();
+    void showProblems();
+    /// What needs loaded data is offered while there are some.
+    void updateExports();
     void showInformation(int id);
     bool cleanup();
 
@@ -132,6 +137,7 @@ private:
     QSplitter* mpSplitter = nullptr;
     QSplitter* mpSide = nullptr;
     QStackedWidget* mpCentre = nullptr;
+    QLabel* mpProblems = nullptr; ///< what of the card could not be read
     DialogCard* mpCard = nullptr;
     DialogProfile* mpProfile = nullptr;
     WidgetWelcome* mpWelcome = nullptr;

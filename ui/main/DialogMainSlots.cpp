@@ -11,6 +11,7 @@
 #include "project/Project.h"
 #include "ui/data/DialogData.h"
 #include "ui/main/CardController.h"
+#include "ui/main/CopyKey.h"
 #include "ui/main/DialogAbout.h"
 #include "ui/main/DialogCard.h"
 #include "ui/main/DialogHelp.h"
@@ -27,8 +28,10 @@
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QDir>
 #include <QFileInfo>
 #include <QFileOpenEvent>
+#include <QLabel>
 #include <QMimeData>
 #include <QStackedWidget>
 
@@ -91,7 +94,7 @@ bool DialogMain::isProjectModified() const
 void DialogMain::updateTitle()
 {
     const QString path = QString::fromStdString(mSession.property.getString("LastPath", ""));
-    setWindowTitle(("ZARN " + path.section('/', -2, -1)).trimmed());
+    setWindowTitle(path.isEmpty() ? QString("ZARN") : "ZARN " + QDir::cleanPath(path).section('/', -2, -1));
 }
 
 void DialogMain::updateUnit()
@@ -205,12 +208,28 @@ void DialogMain::slotLoadCycle(unsigned int cycle, int flight)
 void DialogMain::slotFolderChanged()
 {
     updateTitle();
+    showProblems();
+    updateExports();
     // Before the first folder was opened there is nothing that could be missing.
-    const bool everOpened = !mSession.property.getString("LastPath", "").empty();
+    const bool everOpened = !mSession.property.getString("LastPath", "").empty() || !mDesktop.cmdLine.operand().empty();
     mpWelcome->setProblem(everOpened ? mpCardController->problem() : QString());
-    mpWelcome->setWithCard(!mSession.container.recordFiles().empty());
+    mpWelcome->setState(mSession.container.recordFiles().empty() ? WidgetWelcome::eNoCard : WidgetWelcome::eChoose);
     if (!mEmu)
         mpCentre->setCurrentWidget(mpWelcome);
+}
+
+void DialogMain::showProblems()
+{
+    const QString problems = mpCardController->fileProblems();
+    mpProblems->setText(problems);
+    mpProblems->setVisible(!problems.isEmpty());
+    mpCard->showProblems();
+}
+
+void DialogMain::updateExports()
+{
+    for (const int id : {eActionExportKml, eActionExportCsv, eActionExportGpx, eActionReport})
+        action(id)->setEnabled(mpCardController->hasData());
 }
 
 void DialogMain::slotDataChanging()
@@ -228,8 +247,10 @@ void DialogMain::slotRecalculated()
 void DialogMain::slotDataChanged()
 {
     mpData->updateRecord();
-    if (mSession.container.recordData().count() != 0)
-        mpCentre->setCurrentWidget(mpData);
+    showProblems();
+    updateExports();
+    mpWelcome->setState(WidgetWelcome::eEmpty); // seen when there are no data
+    mpCentre->setCurrentWidget(mEmu || mpCardController->hasData() ? static_cast<QWidget*>(mpData) : mpWelcome);
 }
 
 void DialogMain::slotProjectChanged()
@@ -266,7 +287,7 @@ void DialogMain::restoreCard()
 
 void DialogMain::slotTimeoutStartup()
 {
-    mpLayout->restoreSplitters();
+    mpLayout->settle();
 }
 
 void DialogMain::slotCheckStyle()
@@ -285,6 +306,8 @@ bool DialogMain::eventFilter(QObject* pObject, QEvent* pEvent)
 {
     if (pEvent->type() == QEvent::WindowBlocked && pObject == this)
         Q_EMIT signalStarted(); // who ends the program at a question has seen it start
+    if (CopyKey::isLeftToWindow(pObject, pEvent))
+        return true;
     if (pEvent->type() != QEvent::FileOpen)
         return QMainWindow::eventFilter(pObject, pEvent);
     const QFileInfo info(static_cast<QFileOpenEvent*>(pEvent)->file());

@@ -21,6 +21,8 @@
 #include <QSpinBox>
 #include <QStackedWidget>
 
+#include <algorithm>
+
 namespace ZARN {
 
 namespace {
@@ -42,6 +44,7 @@ DialogPreferences::DialogPreferences(const Session& session, Kernel& kernel, QWi
     setWindowTitle(tr("Preferences"));
     mpList->setIconSize(QSize(16, 16));
     mpList->setFixedWidth(kListWidth);
+    mpList->setAccessibleName(tr("Pages"));
     connect(mpList, &QListWidget::currentItemChanged, this, &DialogPreferences::slotChangePage);
     addPage(tr("General"), "general", createGeneralPage());
     addPage(tr("Profile"), "profile", createProfilePage());
@@ -146,7 +149,11 @@ bool DialogPreferences::event(QEvent* pEvent)
     // The map asks the same question, and may have its answer since this window was last looked at.
     if (pEvent->type() == QEvent::Show || pEvent->type() == QEvent::WindowActivate)
         fillTiles();
-    return QDialog::event(pEvent);
+    const bool isHandled = QDialog::event(pEvent);
+    // Wrapped texts in larger letters need more height than the layout asks for.
+    if (pEvent->type() == QEvent::Show || pEvent->type() == QEvent::LayoutRequest)
+        setMinimumHeight(std::max(0, layout()->totalHeightForWidth(width()))); // below 0 while no text is wrapped
+    return isHandled;
 }
 
 void DialogPreferences::slotTiles(bool isAllowed)
