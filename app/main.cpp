@@ -72,6 +72,13 @@ void installTranslation(QTranslator& translator, const QString& prefix, const ch
         QCoreApplication::installTranslator(&translator);
 }
 
+/// Numbers are written and typed as the chosen language does, whatever the system's is.
+void applyNumberFormat()
+{
+    const std::string locale = Property::instance().getString("Locale", "us");
+    QLocale::setDefault(QLocale(locale == "us" ? QString("en_US") : QString::fromStdString(locale)));
+}
+
 /// Asked before the settings are read, and so in the language of the system.
 bool wantsDefaults()
 {
@@ -147,6 +154,7 @@ int runProgram(int argc, char** argv)
     static QTranslator ownTexts;
     installTranslation(toolkitTexts, "qt_", "QT", console);
     installTranslation(ownTexts, "zarn_", "IOS", console);
+    applyNumberFormat();
     applyStyle(application);
     splash.addEntry("Creating Dialogs ...");
     const Session session{console, Property::instance(), Profile::instance(), CardContainer::instance(), Project::instance()};
