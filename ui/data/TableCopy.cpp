@@ -43,9 +43,10 @@ bool TableCopy::eventFilter(QObject* pObject, QEvent* pEvent)
     const bool isKey = pEvent->type() == QEvent::ShortcutOverride || pEvent->type() == QEvent::KeyPress;
     if (!isKey || !static_cast<QKeyEvent*>(pEvent)->matches(QKeySequence::Copy))
         return QObject::eventFilter(pObject, pEvent);
-    if (pEvent->type() == QEvent::KeyPress)
+    const bool hasRows = mpView->selectionModel()->hasSelection();
+    if (hasRows && pEvent->type() == QEvent::KeyPress)
         copy(false);
-    pEvent->accept(); // overrides the window's shortcut of the same key
+    pEvent->setAccepted(hasRows); // overrides the window's shortcut of the same key
     return true;
 }
 
