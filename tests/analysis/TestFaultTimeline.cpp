@@ -60,7 +60,6 @@ private Q_SLOTS:
     void changes_data();
     void changes();
     void withoutSamples();
-    void matricesOfOneIdentifier();
     void timesGoBackwards();
     void wordAt_data();
     void wordAt();
@@ -100,17 +99,6 @@ void TestFaultTimeline::withoutSamples()
     QVERIFY(faultProfile(1).load(cycle.profile));
     QCOMPARE(described(FaultTimeline(cycle.profile.errorMatrices().front(), nullptr)), " |  | ");
     QVERIFY(!faultWordAt(nullptr, 1.0));
-}
-
-void TestFaultTimeline::matricesOfOneIdentifier()
-{
-    TestCycle cycle;
-    QVERIFY(faultProfile(2).load(cycle.profile));
-    QCOMPARE(cycle.profile.errorMatrices().size(), 2U);
-    RecordData data;
-    RecordFileBuilder().addWord(kMatrix, 1, 0).addWord(kMatrix, 2, 1).fill(data);
-    for (const FaultMatrix& matrix : cycle.profile.errorMatrices())
-        QCOMPARE(described(FaultTimeline(matrix, data.channel(kMatrix))), "1- 2+ 2+ | 1- 2- | 1- 2-");
 }
 
 void TestFaultTimeline::timesGoBackwards()

@@ -88,7 +88,9 @@ DialogData::DialogData(const Session& session, const DataViews& views, bool emu,
 void DialogData::createTabs()
 {
     for (int i = 0; i < eViewMap; ++i) {
-        mpStack->addWidget(mViews.entries[static_cast<std::size_t>(i)].pWidget);
+        QWidget* pView = mViews.entries[static_cast<std::size_t>(i)].pWidget;
+        mpStack->addWidget(pView);
+        (pView->focusProxy() ? pView->focusProxy() : pView)->setAccessibleName(tr(kTabs[i].title));
         mpTabs->addTab(ImageHandler::icon(kTabs[i].icon), tr(kTabs[i].title));
         mpTabs->setTabToolTip(i, tr(kTabs[i].title)); // where there is no room for the title
     }
@@ -121,6 +123,7 @@ void DialogData::createMapModes()
         pButton->setIcon(ImageHandler::icon(icon));
         pButton->setIconSize(kModeIcon);
         pButton->setToolTip(toolTip);
+        pButton->setAccessibleName(toolTip);
         pButton->setCheckable(true);
         pButton->setAutoRaise(true);
         mpMapModes->addButton(pButton, static_cast<int>(mpMapModes->buttons().size()));

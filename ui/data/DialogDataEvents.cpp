@@ -72,7 +72,6 @@ void DialogDataEvents::createTable()
 {
     mpTable->setColumnCount(2);
     mpTable->setHorizontalHeaderLabels({tr("Time"), mKind.title});
-    mpTable->setAccessibleName(mKind.title);
     mpTable->setSelectionBehavior(QAbstractItemView::SelectRows);
     mpTable->setSelectionMode(QAbstractItemView::ExtendedSelection);
     mpTable->setStyleSheet("selection-background-color: rgba(100, 100, 255, 255);");

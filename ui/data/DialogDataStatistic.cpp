@@ -44,7 +44,6 @@ DialogDataStatistic::DialogDataStatistic(const Session& session, QWidget* pParen
     mpEdit->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     mpEdit->setContextMenuPolicy(Qt::CustomContextMenu);
     mpEdit->installEventFilter(this);
-    mpEdit->setAccessibleName(tr("Tow Statistic"));
     connect(mpEdit, &QTextEdit::customContextMenuRequested, this, &DialogDataStatistic::showMenu);
     auto* pLayout = new QVBoxLayout(this);
     pLayout->setContentsMargins(0, 0, 0, 0);

@@ -66,12 +66,12 @@ void TimeEntry::fixup(QString& text) const
     text = textFromValue(value());
 }
 
-/// By the field that the text cursor stands in.
+/// By the field that the text cursor stands in, by seconds where there is none yet.
 void TimeEntry::stepBy(int steps)
 {
     const QString before = lineEdit()->text();
     const int position = lineEdit()->cursorPosition();
-    const int behind = static_cast<int>(before.mid(position).count(':'));
+    const qsizetype behind = hasFocus() ? before.mid(position).count(':') : 0;
     const int unit = behind == 2 ? 3600 : behind == 1 ? 60 : 1;
     const int now = elapsedSeconds(before).value_or(value());
     mTyped.clear();

