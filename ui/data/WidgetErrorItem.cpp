@@ -66,7 +66,7 @@ void WidgetErrorItem::paintEvent(QPaintEvent* /*pEvent*/)
 {
     QPainter painter(this);
     painter.fillRect(rect(), fill());
-    if (mType == ZARN::eErrorNone)
+    if (lengthOfText() == 0)
         return;
     painter.setFont(textFont());
     painter.setPen(Qt::black);

@@ -108,8 +108,6 @@ void TestDataTable::cells()
     QCOMPARE(table.at(2, 1, Qt::ToolTipRole).toString(), QString("Limit"));
     QCOMPARE(table.at(1, 1, Qt::ForegroundRole).value<QColor>(), QColor(Qt::white)); // the ground is dark
     QCOMPARE(table.at(2, 1, Qt::ForegroundRole).value<QColor>(), QColor(Qt::black));
-    QCOMPARE(table.view()->model()->flags(table.view()->model()->index(3, 1)),
-             Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemNeverHasChildren);
     // 8 bytes a shown sample is what the index may take; here every column has its own channel.
     QVERIFY(table.table->model().bytes() < 1000);
 }
@@ -370,9 +368,7 @@ void TestDataTable::live()
     table.open();
     table.table->setZarnMode(1);
     QCOMPARE(table.live()->model()->rowCount(), 3);
-    QCOMPARE(table.live()->model()->columnCount(), 1);
     QVERIFY(table.live()->isVisible() && !table.view()->isVisible());
-    QVERIFY(table.live()->horizontalHeader()->isHidden() && table.live()->verticalHeader()->isVisible());
     QCOMPARE(table.live()->model()->headerData(0, Qt::Vertical).toString(), QString("A [rpm]"));
     RecordEntry entry;
     entry.id = 1;

@@ -115,7 +115,6 @@ class TestDialogData : public QObject {
 private Q_SLOTS:
     void pushOrders_data();
     void pushOrders();
-    void echoesAreIgnored();
     void clocks_data();
     void clocks();
     void controls();
@@ -167,18 +166,6 @@ void TestDialogData::pushOrders()
     area.show();
     action(*area.area);
     QTEST(area.take(), "calls");
-}
-
-void TestDialogData::echoesAreIgnored()
-{
-    Area area;
-    area.show();
-    // What the controls signal while they are refreshed is no move of the user: only one push each.
-    area.area->slotTableTime(60.5);
-    QCOMPARE(area.take().count("G60.5"), 1);
-    QCOMPARE(area.area->viewTime(), 60.5);
-    QCOMPARE(area.find<QSlider>("position")->value(), 5050);
-    QCOMPARE(area.find<TimeEntry>("time")->text(), QString("00:01:00"));
 }
 
 void TestDialogData::clocks_data()
