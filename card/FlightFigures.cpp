@@ -55,7 +55,8 @@ constexpr std::array<Figure, eFigureCount> kFigures{{
     {[](Flight flight) { return flight.timePer100m; }, withAltitude, nullptr, 0},
     {[](Flight flight) { return flight.fuelPer100m; }, [](Flight flight) { return withAltitude(flight) && withFuel(flight); }, "l", 3},
     {[](Flight flight) { return flight.takeOffDistance; }, [](Flight flight) { return flight.hasRollStart && flight.hasLiftOff; }, "m", 0},
-    {[](Flight flight) { return flight.takeOffDistance15m; }, [](Flight flight) { return flight.hasRollStart && flight.hasObstacle; }, "m", 0},
+    {[](Flight flight) { return flight.takeOffDistance15m; }, [](Flight flight) { return flight.hasRollStart && flight.hasObstacle; }, "m",
+     0},
 }};
 
 /// A duration as a time of day.
@@ -70,7 +71,8 @@ std::optional<double> flightFigure(const RecordFlight& flight, EFlightFigure fig
 {
     const Figure& entry = kFigures[figure];
     const double value = entry.value(flight);
-    const bool isRate = figure == eFigureClimbRate || figure == eFigureDescendRate; // negative when the highest point lies outside the flight
+    const bool isRate =
+        figure == eFigureClimbRate || figure == eFigureDescendRate; // negative when the highest point lies outside the flight
     if (!flight.valid || !entry.isKnown(flight) || !std::isfinite(value) || (isRate && value < 0.0))
         return {};
     return value;

@@ -9,8 +9,8 @@ namespace ZARN {
 namespace {
 
 constexpr double kFullThrottle = 90.0;
-constexpr double kReferenceSpeed = 80.0;    // the ground's altitude is taken when the ground speed passes it
-constexpr double kSmallestAltitude = 0.1;   // below it the receiver had no fix
+constexpr double kReferenceSpeed = 80.0;  // the ground's altitude is taken when the ground speed passes it
+constexpr double kSmallestAltitude = 0.1; // below it the receiver had no fix
 constexpr double kLiftOffHeight = 1.0;
 constexpr double kObstacleHeight = 15.0;
 
@@ -68,8 +68,8 @@ private:
     [[nodiscard]] Position positionAt(double time) const
     {
         Position position{valueAt("Latitude", time), valueAt("Longitude", time)};
-        position.isKnown = hasValueAt("Latitude", time) && hasValueAt("Longitude", time)
-                           && (std::abs(position.latitude) > kNoFix || std::abs(position.longitude) > kNoFix);
+        position.isKnown = hasValueAt("Latitude", time) && hasValueAt("Longitude", time) &&
+                           (std::abs(position.latitude) > kNoFix || std::abs(position.longitude) > kNoFix);
         return position;
     }
 

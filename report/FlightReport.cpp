@@ -19,7 +19,7 @@ namespace ZARN {
 
 namespace {
 
-constexpr int kResolution = 72;             // a pixel of the canvas, by which pens are as wide as they say, is a point
+constexpr int kResolution = 72; // a pixel of the canvas, by which pens are as wide as they say, is a point
 constexpr std::size_t kFlightsSideBySide = 4;
 constexpr qsizetype kMostRows = 60;    // of one table of events
 constexpr double kGraphHeight = 440.0; // points
@@ -164,15 +164,25 @@ void FlightReport::writeFlights(ReportPages& pages) const
 
 void FlightReport::writeFigures(ReportPages& pages, const std::vector<RecordFlight>& flights, std::size_t first) const
 {
-    std::vector<ReportColumn> columns{
-        {tr("Flight"), false, {tr("Take-off, clock"), tr("Take-off"), tr("Landing")}}};
-    const QString labels[eFigureCount] = {tr("Flight time"), tr("Fuel, lane A"), tr("Fuel, lane B"), tr("Fuel, total"), tr("Lowest altitude"),
-                                          tr("Highest altitude"), tr("Total climb"), tr("Average climb rate"), tr("Average descent rate"),
-                                          tr("Highest ground speed"), tr("Time for 100 m of climb"), tr("Fuel for 100 m of climb"),
-                                          tr("Take-off distance"), tr("Take-off distance, 15 m")};
+    std::vector<ReportColumn> columns{{tr("Flight"), false, {tr("Take-off, clock"), tr("Take-off"), tr("Landing")}}};
+    const QString labels[eFigureCount] = {tr("Flight time"),
+                                          tr("Fuel, lane A"),
+                                          tr("Fuel, lane B"),
+                                          tr("Fuel, total"),
+                                          tr("Lowest altitude"),
+                                          tr("Highest altitude"),
+                                          tr("Total climb"),
+                                          tr("Average climb rate"),
+                                          tr("Average descent rate"),
+                                          tr("Highest ground speed"),
+                                          tr("Time for 100 m of climb"),
+                                          tr("Fuel for 100 m of climb"),
+                                          tr("Take-off distance"),
+                                          tr("Take-off distance, 15 m")};
     columns.front().cells.append(QStringList(std::begin(labels), std::end(labels)));
     for (const RecordFlight& flight : flights) {
-        QStringList cells{date(flight.dateTime, tr("no clock")), CardContainer::time(flight.takeOffTime), CardContainer::time(flight.landingTime)};
+        QStringList cells{date(flight.dateTime, tr("no clock")), CardContainer::time(flight.takeOffTime),
+                          CardContainer::time(flight.landingTime)};
         for (int figure = 0; figure < eFigureCount; ++figure)
             cells.append(flightFigureText(flight, static_cast<EFlightFigure>(figure), EFigureText::eFixed));
         columns.push_back({QString::number(first++), true, cells});

@@ -32,8 +32,7 @@ DataViews DataViews::create(const Session& session, const QString& dataPath)
     auto* pStatistic = new DialogDataStatistic(session);
     auto* pMap = new DialogDataMap(session, dataPath);
     DataViews views;
-    views.entries = {entry(pTable),  entry(pGraph),    entry(pFaults),
-                     entry(pLimits), entry(pWarnings), entry(pStatistic), entry(pMap)};
+    views.entries = {entry(pTable), entry(pGraph), entry(pFaults), entry(pLimits), entry(pWarnings), entry(pStatistic), entry(pMap)};
     views.connectTo = [=](DialogData& area) {
         QObject::connect(pTable, &DialogDataTable::signalTime, &area, &DialogData::slotTableTime);
         QObject::connect(pGraph, &DialogDataGraph::signalCursor, &area, &DialogData::slotCursor);

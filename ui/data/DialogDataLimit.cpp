@@ -6,7 +6,10 @@
 namespace ZARN {
 
 DialogDataLimit::DialogDataLimit(const Session& session, QWidget* pParent)
-    : DialogDataEvents(session, {limitEvents, ShownParameter::stateName, tr("Warning/Limit Exceed"), tr("No parameter entered a warning or limit band.")}, pParent)
+    : DialogDataEvents(
+          session,
+          {limitEvents, ShownParameter::stateName, tr("Warning/Limit Exceed"), tr("No parameter entered a warning or limit band.")},
+          pParent)
 {
 }
 

@@ -32,7 +32,8 @@ QIcon createMark(const QPolygonF& shape, const QColor& fill, const QColor& line)
 QIcon eventMark(int state)
 {
     static const QIcon warning = createMark(QPolygonF({{7, 1}, {13, 13}, {1, 13}}), Qt::white, Qt::black);
-    static const QIcon limit = createMark(QPolygonF({{4, 1}, {10, 1}, {13, 4}, {13, 10}, {10, 13}, {4, 13}, {1, 10}, {1, 4}}), Qt::black, Qt::white);
+    static const QIcon limit =
+        createMark(QPolygonF({{4, 1}, {10, 1}, {13, 4}, {13, 10}, {10, 13}, {4, 13}, {1, 10}, {1, 4}}), Qt::black, Qt::white);
     return state == 1 ? warning : state == 2 ? limit : QIcon();
 }
 

@@ -66,13 +66,15 @@ void TableCellDelegate::paint(QPainter* pPainter, const QStyleOptionViewItem& op
                        fits(cell.text, option, room) ? cell.text : option.fontMetrics.elidedText(cell.text, Qt::ElideRight, room.width()));
 }
 
-bool TableCellDelegate::helpEvent(QHelpEvent* pEvent, QAbstractItemView* pView, const QStyleOptionViewItem& option, const QModelIndex& index)
+bool TableCellDelegate::helpEvent(QHelpEvent* pEvent, QAbstractItemView* pView, const QStyleOptionViewItem& option,
+                                  const QModelIndex& index)
 {
     if (pEvent->type() == QEvent::ToolTip && index.isValid()) {
         const TableCell cell = static_cast<const CellModel*>(index.model())->cell(index);
         if (!fits(cell.text, option, roomForText(option.rect, cell.isNumber))) {
             const QString state = ShownParameter::stateName(cell.state);
-            QToolTip::showText(pEvent->globalPos(), "<qt>" + cell.text.toHtmlEscaped() + (state.isEmpty() ? "" : "<br/>" + state) + "</qt>", pView);
+            QToolTip::showText(pEvent->globalPos(), "<qt>" + cell.text.toHtmlEscaped() + (state.isEmpty() ? "" : "<br/>" + state) + "</qt>",
+                               pView);
             return true;
         }
     }

@@ -29,8 +29,9 @@ void TableCopy::copy(bool withHeader) const
 {
     const CellText cells(mpView->selectionModel()->selection());
     if (cells.cellCount() > CellText::kMaxCells) {
-        QToolTip::showText(QCursor::pos(), tr("That is too much for the clipboard: %1 cells. Select fewer rows, or export a CSV file.")
-                                               .arg(cells.cellCount()));
+        QToolTip::showText(
+            QCursor::pos(),
+            tr("That is too much for the clipboard: %1 cells. Select fewer rows, or export a CSV file.").arg(cells.cellCount()));
         return;
     }
     const QString text = cells.text(*mpView->model(), withHeader);

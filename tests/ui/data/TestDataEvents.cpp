@@ -121,7 +121,8 @@ void TestDataEvents::choices()
     Shown<DialogDataLimit> shown;
     QSignalSpy times(&shown.view, &DialogDataLimit::signalTime);
     const auto click = [&](int row) {
-        QTest::mouseClick(shown.table()->viewport(), Qt::LeftButton, {}, shown.table()->visualItemRect(shown.table()->item(row, 1)).center());
+        QTest::mouseClick(shown.table()->viewport(), Qt::LeftButton, {},
+                          shown.table()->visualItemRect(shown.table()->item(row, 1)).center());
     };
     shown.view.setTime(25.0);
     click(0); // marked by the view time, which is no choice; this is one

@@ -5,8 +5,8 @@
 #include "ui/data/model/DataTableModel.h"
 
 #include <QAbstractItemModelTester>
-#include <QClipboard>
 #include <QApplication>
+#include <QClipboard>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QScrollBar>

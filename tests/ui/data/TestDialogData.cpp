@@ -141,22 +141,38 @@ void TestDialogData::pushOrders_data()
     QTest::addColumn<Action>("action");
     QTest::addColumn<QString>("calls");
     const auto row = [](const char* name, const Action& action, const char* calls) { QTest::newRow(name) << action << QString(calls); };
-    row("record", [](DialogData& area) { area.updateRecord(); }, "Tr Gr Fr Sr Lr Wr Mr T10 G10 F10 L10 W10 M10");
-    row("profile", [](DialogData& area) { area.updateProfile(); }, "Tp Gp Fp Lp Wp Mp T10 G10 F10 L10 W10 M10");
-    row("profile file", [](DialogData& area) { area.loadProfile(); }, "Fl Fr F10");
-    row("mode", [](DialogData& area) { area.setZarnMode(1); }, "");
-    row("table", [](DialogData& area) { area.slotTableTime(20.5); }, "G20.5 F20.5 L20.5 W20.5 M20.5");
-    row("graph", [](DialogData& area) { area.slotCursor(20.5F, 3.0); }, "T20.5 F20.5 L20.5 W20.5 M20.5");
-    row("faults", [](DialogData& area) { area.slotFaultTime(20.5); }, "T20.5 G20.5 F20.5 L20.5 W20.5 M20.5");
-    row("limits", [](DialogData& area) { area.slotLimitTime(20.5); }, "G20.5 F20.5 T20.5 W20.5 M20.5");
-    row("warnings", [](DialogData& area) { area.slotWarningTime(20.5); }, "G20.5 F20.5 T20.5 L20.5");
-    row("map", [](DialogData& area) { area.slotMapTime(20.5); }, "T20.5 G20.5 F20.5 L20.5 W20.5");
-    row("no time", [](DialogData& area) { area.slotTableTime(std::numeric_limits<double>::quiet_NaN()); }, "");
-    row("slider", [](DialogData& area) { area.slotSlider(2500); }, "T35 G35 F35 L35 W35 M35");
-    row("time entry", [](DialogData& area) { area.slotValue(63); }, "T63 G63 F63 L63 W63 M63");
-    row("stop", [](DialogData& area) { area.slotReplayStop(); }, "T10 G10 F10 L10 W10 M10");
-    row("speed", [](DialogData& area) { area.slotReplaySpeed(250); }, "");
-    row("release", [](DialogData& area) { area.releaseRecord(); }, "T0 G0 F0 S0 L0 W0 M0");
+    row(
+        "record", [](DialogData& area) { area.updateRecord(); }, "Tr Gr Fr Sr Lr Wr Mr T10 G10 F10 L10 W10 M10");
+    row(
+        "profile", [](DialogData& area) { area.updateProfile(); }, "Tp Gp Fp Lp Wp Mp T10 G10 F10 L10 W10 M10");
+    row(
+        "profile file", [](DialogData& area) { area.loadProfile(); }, "Fl Fr F10");
+    row(
+        "mode", [](DialogData& area) { area.setZarnMode(1); }, "");
+    row(
+        "table", [](DialogData& area) { area.slotTableTime(20.5); }, "G20.5 F20.5 L20.5 W20.5 M20.5");
+    row(
+        "graph", [](DialogData& area) { area.slotCursor(20.5F, 3.0); }, "T20.5 F20.5 L20.5 W20.5 M20.5");
+    row(
+        "faults", [](DialogData& area) { area.slotFaultTime(20.5); }, "T20.5 G20.5 F20.5 L20.5 W20.5 M20.5");
+    row(
+        "limits", [](DialogData& area) { area.slotLimitTime(20.5); }, "G20.5 F20.5 T20.5 W20.5 M20.5");
+    row(
+        "warnings", [](DialogData& area) { area.slotWarningTime(20.5); }, "G20.5 F20.5 T20.5 L20.5");
+    row(
+        "map", [](DialogData& area) { area.slotMapTime(20.5); }, "T20.5 G20.5 F20.5 L20.5 W20.5");
+    row(
+        "no time", [](DialogData& area) { area.slotTableTime(std::numeric_limits<double>::quiet_NaN()); }, "");
+    row(
+        "slider", [](DialogData& area) { area.slotSlider(2500); }, "T35 G35 F35 L35 W35 M35");
+    row(
+        "time entry", [](DialogData& area) { area.slotValue(63); }, "T63 G63 F63 L63 W63 M63");
+    row(
+        "stop", [](DialogData& area) { area.slotReplayStop(); }, "T10 G10 F10 L10 W10 M10");
+    row(
+        "speed", [](DialogData& area) { area.slotReplaySpeed(250); }, "");
+    row(
+        "release", [](DialogData& area) { area.releaseRecord(); }, "T0 G0 F0 S0 L0 W0 M0");
 }
 
 void TestDialogData::pushOrders()
