@@ -66,17 +66,11 @@ bool loadTranslation(QTranslator& translator, const QString& name)
 void installTranslation(QTranslator& translator, const QString& prefix, const char* name, const Console& console)
 {
     const std::string locale = Property::instance().getString("Locale", "us");
+    QLocale::setDefault(QLocale(locale == "us" ? QString("en_US") : QString::fromStdString(locale))); // numbers as the language writes them
     const bool loaded = loadTranslation(translator, prefix + QString::fromStdString(locale));
     console.print("Translation %s <%s> %d\n", name, locale.c_str(), loaded ? 1 : 0);
     if (loaded)
         QCoreApplication::installTranslator(&translator);
-}
-
-/// Numbers are written and typed as the chosen language does, whatever the system's is.
-void applyNumberFormat()
-{
-    const std::string locale = Property::instance().getString("Locale", "us");
-    QLocale::setDefault(QLocale(locale == "us" ? QString("en_US") : QString::fromStdString(locale)));
 }
 
 /// Asked before the settings are read, and so in the language of the system.
@@ -154,7 +148,6 @@ int runProgram(int argc, char** argv)
     static QTranslator ownTexts;
     installTranslation(toolkitTexts, "qt_", "QT", console);
     installTranslation(ownTexts, "zarn_", "IOS", console);
-    applyNumberFormat();
     applyStyle(application);
     splash.addEntry("Creating Dialogs ...");
     const Session session{console, Property::instance(), Profile::instance(), CardContainer::instance(), Project::instance()};

@@ -26,11 +26,11 @@ DataViews DataViews::create(const Session& session, const QString& dataPath)
     auto* pTable = new DialogDataTable(session);
     auto* pGraph = new DialogDataGraph(session);
     pGraph->setFocusProxy(pGraph->findChild<WidgetGraphES*>());
-    auto* pFaults = new DialogDataErrorMatrix(session);
     auto* pLimits = new DialogDataLimit(session);
     auto* pWarnings = new DialogDataWarning(session);
     auto* pStatistic = new DialogDataStatistic(session);
     auto* pMap = new DialogDataMap(session, dataPath);
+    auto* pFaults = new DialogDataErrorMatrix(session);
     DataViews views;
     views.entries = {entry(pTable), entry(pGraph), entry(pFaults), entry(pLimits), entry(pWarnings), entry(pStatistic), entry(pMap)};
     views.connectTo = [=](DialogData& area) {
