@@ -32,11 +32,13 @@ std::string EventList::text(const Event& event) const
     return from.group + " " + from.parameter + " " + event.value + " " + from.unit;
 }
 
-std::size_t EventList::rowAt(double seconds) const
+std::optional<std::size_t> EventList::rowAt(double seconds) const
 {
     const auto after = std::upper_bound(mEvents.begin(), mEvents.end(), TimeKey::of(seconds),
                                         [](TimeKey key, const Event& event) { return key < event.key; });
-    return after == mEvents.begin() ? 0 : static_cast<std::size_t>(after - mEvents.begin() - 1);
+    if (after == mEvents.begin())
+        return {};
+    return static_cast<std::size_t>(after - mEvents.begin() - 1);
 }
 
 } // namespace ZARN

@@ -5,6 +5,7 @@
 
 #include <QColor>
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -43,8 +44,8 @@ public:
     [[nodiscard]] const EventSource& source(const Event& event) const { return mSources[event.source]; }
     /// Group, parameter, value and unit, joined by blanks.
     [[nodiscard]] std::string text(const Event& event) const;
-    /// The row of the last event at or before a time, to the tenth of a second; 0 when there is none.
-    [[nodiscard]] std::size_t rowAt(double seconds) const;
+    /// The row of the last event at or before a time, to the tenth of a second; none before the first.
+    [[nodiscard]] std::optional<std::size_t> rowAt(double seconds) const;
 
 private:
     std::vector<EventSource> mSources;

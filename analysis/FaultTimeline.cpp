@@ -2,6 +2,7 @@
 
 #include "card/record/ByteOrder.h"
 
+#include <cmath>
 #include <limits>
 
 namespace ZARN {
@@ -21,12 +22,12 @@ uint32_t faultWord(const Payload& payload)
 
 std::optional<uint32_t> faultWordAt(const RecordChannel* pChannel, double seconds)
 {
-    if (!pChannel)
+    if (!pChannel || std::isnan(seconds))
         return {};
     // The first time above a limit is the first at or above the next number after it.
     const double above = std::nextafter(seconds + kLateness, std::numeric_limits<double>::infinity());
     const std::size_t later = pChannel->firstAtOrAfter(above);
-    if (later == 0 || later >= pChannel->entries.size())
+    if (later == 0)
         return {};
     return faultWord(pChannel->entries.stored(later - 1).payload);
 }

@@ -17,8 +17,9 @@ struct FaultChange {
 /// The word of fault bits that a message of an error matrix carries: its four data bytes. Bit 0 is the least significant.
 [[nodiscard]] uint32_t faultWord(const Payload& payload);
 
-/// The word that an error matrix shows at a time: that of the sample before the first one that is more than 0.01 s later. None
-/// when no sample is later, or the very first one is. Logarithmic, also where times go backwards.
+/// The word that an error matrix shows at a time: that of the sample before the first one that is more than 0.01 s later; the last
+/// one when none is later, for nothing says that it ended. None when the very first one is later. Logarithmic, also where times go
+/// backwards.
 /// @param pChannel the samples of the matrix; null when it has none.
 [[nodiscard]] std::optional<uint32_t> faultWordAt(const RecordChannel* pChannel, double seconds);
 

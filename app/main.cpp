@@ -72,6 +72,7 @@ bool loadTranslation(QTranslator& translator, const QString& name)
 void installTranslation(QTranslator& translator, const QString& prefix, const char* name, const Console& console)
 {
     const std::string locale = Property::instance().getString("Locale", "us");
+    QLocale::setDefault(QLocale(locale == "us" ? QString("en_US") : QString::fromStdString(locale))); // numbers as the language writes them
     const bool loaded = loadTranslation(translator, prefix + QString::fromStdString(locale));
     console.print("Translation %s <%s> %d\n", name, locale.c_str(), loaded ? 1 : 0);
     if (loaded)

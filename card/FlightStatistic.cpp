@@ -1,6 +1,7 @@
 #include "card/FlightDetector.h"
 #include "card/Geography.h"
 
+#include <cmath>
 #include <limits>
 
 namespace ZARN {
@@ -8,14 +9,17 @@ namespace ZARN {
 namespace {
 
 constexpr double kFullThrottle = 90.0;
-constexpr double kReferenceSpeed = 80.0;    // the ground's altitude is taken when the ground speed passes it
-constexpr double kSmallestAltitude = 0.1;   // below it the receiver had no fix
+constexpr double kReferenceSpeed = 80.0;  // the ground's altitude is taken when the ground speed passes it
+constexpr double kSmallestAltitude = 0.1; // below it the receiver had no fix
 constexpr double kLiftOffHeight = 1.0;
 constexpr double kObstacleHeight = 15.0;
+
+constexpr double kNoFix = 0.0001; // degrees: a receiver without a fix tells 0
 
 struct Position {
     double latitude = 0.0;
     double longitude = 0.0;
+    bool isKnown = false;
 };
 
 /// One computation of a tow statistic: the steps in the order in which the numbers build on each other.
@@ -26,8 +30,8 @@ public:
     void run()
     {
         findRollStart();
-        mFlight.fuelA = fuel("FuelA");
-        mFlight.fuelB = fuel("FuelB");
+        mFlight.fuelA = fuel("FuelA", mFlight.hasFuelA);
+        mFlight.fuelB = fuel("FuelB", mFlight.hasFuelB);
         mFlight.totalFuel = mFlight.fuelA + mFlight.fuelB;
         scanGroundSpeed();
         scanAltitude();
@@ -56,7 +60,18 @@ private:
         return mValues.getValue(mValues.profile().getParameterFromZarnType(key), time);
     }
 
-    [[nodiscard]] Position positionAt(double time) const { return {valueAt("Latitude", time), valueAt("Longitude", time)}; }
+    [[nodiscard]] bool hasValueAt(const char* key, double time) const
+    {
+        return mValues.entryAt(mValues.profile().getParameterFromZarnType(key), time).has_value();
+    }
+
+    [[nodiscard]] Position positionAt(double time) const
+    {
+        Position position{valueAt("Latitude", time), valueAt("Longitude", time)};
+        position.isKnown = hasValueAt("Latitude", time) && hasValueAt("Longitude", time) &&
+                           (std::abs(position.latitude) > kNoFix || std::abs(position.longitude) > kNoFix);
+        return position;
+    }
 
     void findRollStart()
     {
@@ -67,16 +82,20 @@ private:
                 mRollStart = positionAt(time);
             }
         });
+        mFlight.hasRollStart = mRollStart.isKnown;
     }
 
     /// A flow per hour integrated to a quantity.
-    [[nodiscard]] double fuel(const char* key) const
+    [[nodiscard]] double fuel(const char* key, bool& isKnown) const
     {
+        isKnown = false;
         double quantity = 0.0;
         double previous = std::numeric_limits<double>::quiet_NaN();
         forEachSample(key, [&](double time, double flow) {
-            if (!std::isnan(previous))
+            if (!std::isnan(previous)) {
                 quantity += flow * (time - previous) / 3600;
+                isKnown = true;
+            }
             previous = time;
         });
         return quantity;
@@ -92,6 +111,7 @@ private:
                 found = true;
                 mReferenceTime = time;
                 mReferenceAltitude = valueAt("Altitude", time);
+                mHasReference = hasValueAt("Altitude", time) && mReferenceAltitude >= kSmallestAltitude;
             }
         });
     }
@@ -101,6 +121,7 @@ private:
         bool first = true;
         bool liftedOff = false;
         bool clearOfObstacle = false;
+        mFlight.hasSummit = false;
         mFlight.minAltitude = mFlight.maxAltitude = 0.0;
         forEachSample("Altitude", [&](double time, double altitude) {
             if (altitude < kSmallestAltitude)
@@ -120,9 +141,13 @@ private:
             } else if (altitude > mFlight.maxAltitude) {
                 mFlight.maxAltitude = altitude;
                 mHighestTime = time; // stays 0 when the first sample is the highest
+                mFlight.hasSummit = true;
             }
             mFlight.minAltitude = std::min(mFlight.minAltitude, altitude);
         });
+        mFlight.hasAltitude = !first;
+        mFlight.hasLiftOff = mHasReference && mLiftOff.isKnown;
+        mFlight.hasObstacle = mHasReference && mObstacle.isKnown;
     }
 
     void computeRates()
@@ -146,6 +171,7 @@ private:
     Position mObstacle;
     double mReferenceTime = 0.0;
     double mReferenceAltitude = 0.0;
+    bool mHasReference = false;
     double mHighestTime = 0.0;
 };
 

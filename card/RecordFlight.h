@@ -26,6 +26,15 @@ struct RecordFlight {
     double fuelPer100m = 0.0;
     double takeOffDistance = 0.0;    ///< from full throttle to lift-off
     double takeOffDistance15m = 0.0; ///< from full throttle to 15 m above the ground
+
+    // What the recording told. A number that rests on something that was not found says nothing; flightFigure() knows which do.
+    bool hasRollStart = false; ///< a position at the first full throttle
+    bool hasLiftOff = false;   ///< the ground's altitude, a sample above it and a position there
+    bool hasObstacle = false;  ///< the same for 15 m
+    bool hasAltitude = false;  ///< altitudes of a receiver with a fix
+    bool hasSummit = false;    ///< a sample higher than the first one
+    bool hasFuelA = false;     ///< at least two samples of the flow
+    bool hasFuelB = false;
 };
 
 } // namespace ZARN

@@ -4,6 +4,7 @@
 #include "analysis/WarningEvents.h"
 #include "app/Revision.h"
 #include "app/SafeFile.h"
+#include "card/FlightFigures.h"
 #include "report/ReportFaults.h"
 #include "report/ReportGraph.h"
 #include "report/ReportMap.h"
@@ -18,8 +19,7 @@ namespace ZARN {
 
 namespace {
 
-constexpr double kLongestTakeOff = 20000.0; // metres: what is more was measured from a place that was never found
-constexpr int kResolution = 72;             // a pixel of the canvas, by which pens are as wide as they say, is a point
+constexpr int kResolution = 72; // a pixel of the canvas, by which pens are as wide as they say, is a point
 constexpr std::size_t kFlightsSideBySide = 4;
 constexpr qsizetype kMostRows = 60;    // of one table of events
 constexpr double kGraphHeight = 440.0; // points
@@ -164,29 +164,28 @@ void FlightReport::writeFlights(ReportPages& pages) const
 
 void FlightReport::writeFigures(ReportPages& pages, const std::vector<RecordFlight>& flights, std::size_t first) const
 {
-    const QString unit = text(mProfile.getParameterFromZarnType("Altitude").unit);
-    const QString height = " [" + unit + "]", rate = " [" + unit + "/s]";
-    const QString speed = " [" + text(mProfile.getParameterFromZarnType("GroundSpeed").unit) + "]";
-    const QString fuel = " [" + text(mProfile.getParameterFromZarnType("FuelA").unit).remove("/h") + "]";
-    std::vector<ReportColumn> columns{
-        {tr("Flight"),
-         false,
-         {tr("Take-off, clock"), tr("Take-off"), tr("Landing"), tr("Flight time"), tr("Lowest altitude") + height,
-          tr("Highest altitude") + height, tr("Total climb") + height, tr("Average climb rate") + rate, tr("Average descent rate") + rate,
-          tr("Highest ground speed") + speed, tr("Fuel, lane A") + fuel, tr("Fuel, lane B") + fuel, tr("Fuel, total") + fuel,
-          tr("Time for 100 %1 of climb").arg(unit) + " [s]", tr("Fuel for 100 %1 of climb").arg(unit) + fuel, tr("Take-off distance [m]"),
-          tr("Take-off distance, 15 m [m]")}}};
-    const auto number = [](double value, int decimals) { return QString::number(value, 'f', decimals); };
-    const auto distance = [&](double metres) { return metres <= kLongestTakeOff ? number(metres, 0) : tr("not found"); };
+    std::vector<ReportColumn> columns{{tr("Flight"), false, {tr("Take-off, clock"), tr("Take-off"), tr("Landing")}}};
+    const QString labels[eFigureCount] = {tr("Flight time"),
+                                          tr("Fuel, lane A"),
+                                          tr("Fuel, lane B"),
+                                          tr("Fuel, total"),
+                                          tr("Lowest altitude"),
+                                          tr("Highest altitude"),
+                                          tr("Total climb"),
+                                          tr("Average climb rate"),
+                                          tr("Average descent rate"),
+                                          tr("Highest ground speed"),
+                                          tr("Time for 100 m of climb"),
+                                          tr("Fuel for 100 m of climb"),
+                                          tr("Take-off distance"),
+                                          tr("Take-off distance, 15 m")};
+    columns.front().cells.append(QStringList(std::begin(labels), std::end(labels)));
     for (const RecordFlight& flight : flights) {
-        columns.push_back({QString::number(first++),
-                           true,
-                           {date(flight.dateTime, tr("no clock")), CardContainer::time(flight.takeOffTime),
-                            CardContainer::time(flight.landingTime), CardContainer::time(flight.landingTime - flight.takeOffTime),
-                            number(flight.minAltitude, 1), number(flight.maxAltitude, 1), number(flight.totalClimb, 1),
-                            number(flight.averageClimbRate, 2), number(flight.averageDescendRate, 2), number(flight.maxGroundSpeed, 1),
-                            number(flight.fuelA, 2), number(flight.fuelB, 2), number(flight.totalFuel, 2), number(flight.timePer100m, 1),
-                            number(flight.fuelPer100m, 3), distance(flight.takeOffDistance), distance(flight.takeOffDistance15m)}});
+        QStringList cells{date(flight.dateTime, tr("no clock")), CardContainer::time(flight.takeOffTime),
+                          CardContainer::time(flight.landingTime)};
+        for (int figure = 0; figure < eFigureCount; ++figure)
+            cells.append(flightFigureText(flight, static_cast<EFlightFigure>(figure), EFigureText::eFixed));
+        columns.push_back({QString::number(first++), true, cells});
     }
     pages.table(columns);
 }

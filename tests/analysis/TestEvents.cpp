@@ -273,13 +273,12 @@ void TestEvents::rowOfATime()
         file.add(10, time, bytePayload(static_cast<uint8_t>(state)));
     file.fill(data);
     const EventList list = warningEvents(data, cycle.profile);
-    QCOMPARE(list.rowAt(-3), 0U);
+    QVERIFY(!list.rowAt(-3) && !list.rowAt(0.94));
     QCOMPARE(list.rowAt(1.94), 0U);
     QCOMPARE(list.rowAt(1.96), 2U); // rounded to 2.0 s, of which two events are
     QCOMPARE(list.rowAt(3.0), 2U);
     QCOMPARE(list.rowAt(1e30), 3U);
-    QCOMPARE(list.rowAt(kNan), 0U);
-    QCOMPARE(EventList().rowAt(5), 0U);
+    QVERIFY(!list.rowAt(kNan) && !EventList().rowAt(5));
 }
 
 QTEST_GUILESS_MAIN(TestEvents)

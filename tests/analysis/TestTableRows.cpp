@@ -61,7 +61,6 @@ private Q_SLOTS:
     void equalsTheNaiveTable_data();
     void equalsTheNaiveTable();
     void laterSamplesOfATenthReplaceEarlierOnes();
-    void nothingShown();
     void memory_data();
     void memory();
 };
@@ -120,19 +119,6 @@ void TestTableRows::laterSamplesOfATenthReplaceEarlierOnes()
     QCOMPARE(rows.channel(1), data.channel(2));
     QCOMPARE(rows.rowAt(2.04), 0U);
     QCOMPARE(rows.rowAt(2.05), 1U);
-}
-
-void TestTableRows::nothingShown()
-{
-    RecordData data;
-    RecordFileBuilder().addWord(1, 1, 0).fill(data);
-    const TableRows none(data, {});
-    QCOMPARE(none.rowCount(), 0U);
-    QCOMPARE(none.rowAt(5), 0U);
-    const std::vector<uint32_t> absent{2};
-    const TableRows empty(data, absent);
-    QCOMPARE(empty.rowCount(), 0U);
-    QCOMPARE(empty.channel(0), nullptr);
 }
 
 void TestTableRows::memory_data()

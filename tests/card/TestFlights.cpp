@@ -1,4 +1,5 @@
 #include "card/FlightDetector.h"
+#include "card/FlightFigures.h"
 #include "support/CardBuilder.h"
 #include "support/ProfileBuilder.h"
 #include "support/TestCycle.h"
@@ -236,6 +237,7 @@ void TestFlights::distances()
     const RecordFlight flight = statistic.compute();
     QCOMPARE(flight.maxGroundSpeed, 120.0);
     QCOMPARE(flight.maxAltitude, 900.0);
+    QVERIFY(flight.hasRollStart && flight.hasLiftOff && flight.hasObstacle && flight.hasAltitude && flight.hasSummit);
     // Lift-off at 136 (position of 130), 15 m at 156 (position of 150); the altitude 900 at 125 is not after the reference instant.
     QVERIFY2(std::fabs(flight.takeOffDistance - 2 * 1852) < 5, qPrintable(QString::number(flight.takeOffDistance)));
     QVERIFY2(std::fabs(flight.takeOffDistance15m - 4 * 1852) < 5, qPrintable(QString::number(flight.takeOffDistance15m)));
@@ -244,6 +246,7 @@ void TestFlights::distances()
     noThrottle.add(eThrottle, {{120, 90}}).add(eLatitude, {{110, 100}}).add(eLongitude, {{110, 0}});
     noThrottle.add(eAltitude, {{115, 20}, {130, 0}}).add(eLatitude, {{140, 100}});
     QVERIFY(std::fabs(noThrottle.compute().takeOffDistance - 60 * 1852) < 0.1);
+    QVERIFY(!noThrottle.flight.hasRollStart && !noThrottle.flight.hasLiftOff && !noThrottle.flight.hasFuelA && noThrottle.flight.hasAltitude);
 }
 
 void TestFlights::withoutData()
@@ -256,6 +259,10 @@ void TestFlights::withoutData()
     QVERIFY(std::isinf(flight.timePer100m));
     QVERIFY(std::isnan(flight.fuelPer100m));
     QCOMPARE(flight.takeOffDistance, 0.0);
+    for (int figure = 0; figure < eFigureCount; ++figure) {
+        if (figure != eFigureFlightTime && figure != eFigureGroundSpeed)
+            QCOMPARE(flightFigureText(flight, static_cast<EFlightFigure>(figure)), QString("-"));
+    }
 
     TestCycle bare; // a profile that names none of the parameters
     CardBuilder card;

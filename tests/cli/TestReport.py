@@ -49,11 +49,11 @@ class TestReport(unittest.TestCase):
 
     def check_flights(self, lines, flights):
         figures = (('Total climb', 'totalClimb', 1), ('Highest ground speed', 'maxGroundSpeed', 1), ('Fuel, total', 'totalFuel', 2),
-                   ('Average descent rate', 'averageDescendRate', 2), ('Fuel for 100', 'fuelPer100m', 3), ('Take-off distance [', 'takeOffDistance', 0))
+                   ('Average descent rate', 'averageDescendRate', 2), ('Fuel for 100', 'fuelPer100m', 3), ('Take-off distance ', 'takeOffDistance', 0))
         for label, key, decimals in figures:
             row = [line for line in lines if line.startswith(label)]
             self.assertEqual(len(row), 1, label)
-            numbers = row[0].split('] ' if ']' in row[0] else label)[1].split()
+            numbers = re.findall(r'([\d.]+) (?:m/s|m|km/h|l)(?= |$)', row[0])
             self.assertEqual(numbers[-len(flights):], [f'{flight[key]:.{decimals}f}' for flight in flights])
         landing = next(line for line in lines if line.startswith('Landing '))
         self.assertEqual(landing.split()[1:], [clock(flight['landingTime']) for flight in flights])

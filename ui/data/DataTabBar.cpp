@@ -1,5 +1,7 @@
 #include "ui/data/DataTabBar.h"
 
+#include "ui/data/TextSize.h"
+
 #include <QMouseEvent>
 #include <QStyleOptionTab>
 #include <QStylePainter>
@@ -13,9 +15,9 @@ namespace {
 constexpr int kIcon = 32;
 constexpr int kMargin = 6; // left and right of the title
 constexpr int kTightMargin = 2;
-constexpr int kTextSize = 12;
 constexpr int kAbove = 5;
 constexpr int kBelow = 6; // the style's line under the selected tab
+constexpr int kBadgeHeight = 15;
 constexpr int kMostShown = 99;
 const QColor kBadge(178, 34, 34);
 
@@ -44,7 +46,7 @@ int DataTabBar::countOf(int index) const
 QFont DataTabBar::titleFont(bool selected) const
 {
     QFont title = font();
-    title.setPixelSize(kTextSize);
+    title.setPixelSize(textSize(*this));
     title.setBold(selected);
     return title;
 }
@@ -120,16 +122,17 @@ void DataTabBar::paintCount(QPainter& painter, const QRect& icon, int count) con
 {
     const QString text = count > kMostShown ? QString("%1+").arg(kMostShown) : QString::number(count);
     QFont small = font();
-    small.setPixelSize(10);
+    small.setPixelSize(std::max(textSize(*this) * 5 / 6, kSmallestText));
     small.setBold(true);
     const QFontMetrics metrics(small);
-    QRect badge(0, icon.top() - 2, std::max(metrics.horizontalAdvance(text) + 8, 15), 15);
+    const int height = std::max(metrics.height(), kBadgeHeight);
+    QRect badge(0, icon.top() - 2, std::max(metrics.horizontalAdvance(text) + 8, height), height);
     badge.moveLeft(icon.right() - 8);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(kBadge);
-    painter.drawRoundedRect(badge, 7, 7);
+    painter.drawRoundedRect(badge, height / 2, height / 2);
     painter.setFont(small);
     painter.setPen(Qt::white);
     painter.drawText(badge, Qt::AlignCenter, text);

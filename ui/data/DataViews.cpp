@@ -28,12 +28,13 @@ DataViews DataViews::create(const Session& session, const QString& dataPath)
     auto* pWarnings = new DialogDataWarning(session);
     auto* pStatistic = new DialogDataStatistic(session);
     auto* pMap = new DialogDataMap(session, dataPath);
+    auto* pFaults = new DialogDataErrorMatrix(session);
     DataViews views;
-    views.entries = {entry(pTable),  entry(pGraph),    entry(new DialogDataErrorMatrix(session)),
-                     entry(pLimits), entry(pWarnings), entry(pStatistic), entry(pMap)};
+    views.entries = {entry(pTable), entry(pGraph), entry(pFaults), entry(pLimits), entry(pWarnings), entry(pStatistic), entry(pMap)};
     views.connectTo = [=](DialogData& area) {
         QObject::connect(pTable, &DialogDataTable::signalTime, &area, &DialogData::slotTableTime);
         QObject::connect(pGraph, &DialogDataGraph::signalCursor, &area, &DialogData::slotCursor);
+        QObject::connect(pFaults, &DialogDataErrorMatrix::signalTime, &area, &DialogData::slotFaultTime);
         QObject::connect(pLimits, &DialogDataLimit::signalTime, &area, &DialogData::slotLimitTime);
         QObject::connect(pWarnings, &DialogDataWarning::signalTime, &area, &DialogData::slotWarningTime);
         QObject::connect(pMap, &DialogDataMap::signalTime, &area, &DialogData::slotMapTime);

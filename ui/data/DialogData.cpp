@@ -89,7 +89,9 @@ DialogData::DialogData(const Session& session, const DataViews& views, bool emu,
 void DialogData::createTabs()
 {
     for (int i = 0; i < eViewMap; ++i) {
-        mpStack->addWidget(mViews.entries[static_cast<std::size_t>(i)].pWidget);
+        QWidget* pView = mViews.entries[static_cast<std::size_t>(i)].pWidget;
+        mpStack->addWidget(pView);
+        (pView->focusProxy() ? pView->focusProxy() : pView)->setAccessibleName(tr(kTabs[i].title));
         mpTabs->addTab(ImageHandler::icon(kTabs[i].icon), tr(kTabs[i].title));
         mpTabs->setTabToolTip(i, tr(kTabs[i].title)); // where there is no room for the title
     }
@@ -122,6 +124,7 @@ void DialogData::createMapModes()
         pButton->setIcon(ImageHandler::icon(icon));
         pButton->setIconSize(kModeIcon);
         pButton->setToolTip(toolTip);
+        pButton->setAccessibleName(toolTip);
         pButton->setCheckable(true);
         pButton->setAutoRaise(true);
         mpMapModes->addButton(pButton, static_cast<int>(mpMapModes->buttons().size()));
@@ -178,14 +181,12 @@ void DialogData::showRecord()
 
 void DialogData::releaseRecord()
 {
-    mpTimer->stop();
-    mReplay = WidgetReplayBar::eStopped;
+    setReplay(WidgetReplayBar::eStopped);
     mpRecord = nullptr;
     for (const EDataView view : kRecordOrder) {
         const QScopedValueRollback pushing(mPushing, true);
         mViews.view(view).updateRecord(nullptr);
     }
-    updateControls();
 }
 
 void DialogData::updateProfile()
@@ -237,6 +238,11 @@ void DialogData::slotCursor(float time, double /*value*/)
     moveFromView(time, kFromGraph);
 }
 
+void DialogData::slotFaultTime(double time)
+{
+    moveFromView(time, kAll);
+}
+
 void DialogData::slotLimitTime(double time)
 {
     moveFromView(time, kFromLimits);
@@ -266,9 +272,9 @@ void DialogData::slotSlider(int position)
     moveFromControl(mStart + (mEnd - mStart) / WidgetReplayBar::kPositions * position);
 }
 
-void DialogData::slotValue(const QTime& time)
+void DialogData::slotValue(int seconds)
 {
-    moveFromControl(QTime(0, 0).secsTo(time));
+    moveFromControl(seconds);
 }
 
 void DialogData::slotReplaySpeed(int hundredths)
@@ -287,17 +293,27 @@ void DialogData::slotReplaySpeed(double factor)
     updateControls();
 }
 
+void DialogData::setReplay(int state)
+{
+    mReplay = state;
+    if (state == WidgetReplayBar::eRunning)
+        mpTimer->start();
+    else
+        mpTimer->stop();
+    mLastTick = mClock();
+    for (const DataViewEntry& entry : mViews.entries)
+        entry.pView->setPaused(state == WidgetReplayBar::ePaused);
+    updateControls();
+}
+
+/// At the end there is nothing left to replay: it begins anew.
 void DialogData::slotReplayMode()
 {
-    if (mReplay == WidgetReplayBar::eRunning) {
-        mpTimer->stop();
-        mReplay = WidgetReplayBar::ePaused;
-    } else {
-        mpTimer->start();
-        mReplay = WidgetReplayBar::eRunning;
-        mLastTick = mClock();
-    }
-    updateControls();
+    if (mReplay == WidgetReplayBar::eRunning)
+        return setReplay(WidgetReplayBar::ePaused);
+    if (mpRecord && mViewTime >= mEnd)
+        moveFromControl(mStart);
+    setReplay(WidgetReplayBar::eRunning);
 }
 
 void DialogData::slotTimeoutReplay()
@@ -305,20 +321,21 @@ void DialogData::slotTimeoutReplay()
     const double now = mClock();
     mViewTime += (now - mLastTick) * mSpeed;
     mLastTick = now;
+    const bool isOver = mViewTime > mEnd;
+    if (isOver)
+        mViewTime = mEnd; // what the record ended with stays in view
     push(kAll);
     updateDisplay();
-    if (mViewTime > mEnd)
-        slotReplayStop();
+    if (isOver)
+        setReplay(WidgetReplayBar::ePaused);
 }
 
 void DialogData::slotReplayStop()
 {
-    mReplay = WidgetReplayBar::eStopped;
-    mpTimer->stop();
+    setReplay(WidgetReplayBar::eStopped);
     mViewTime = mStart;
     push(kAll);
     updateDisplay();
-    updateControls();
 }
 
 void DialogData::slotMapType(int type)
@@ -344,7 +361,7 @@ void DialogData::updateDisplay()
     const QScopedValueRollback updating(mUpdatingControls, true);
     const int64_t milliseconds = wholeMilliseconds(mViewTime);
     mpBar->setDateTime(mBase.isValid() ? mBase.addMSecs(milliseconds) : QDateTime());
-    mpBar->setTime(timeOfDay(milliseconds));
+    mpBar->setTime(milliseconds);
     const double share = mEnd > mStart ? (mViewTime - mStart) / (mEnd - mStart) : 0.0;
     mpBar->setPosition(saturatingCast<int>(share * WidgetReplayBar::kPositions + kRounding));
 }

@@ -49,6 +49,8 @@ public:
 public Q_SLOTS:
     void slotTableTime(double time);
     void slotCursor(float time, double value);
+    /// Told to the fault matrix, too: there it was only pointed at.
+    void slotFaultTime(double time);
     void slotLimitTime(double time);
     void slotWarningTime(double time);
     void slotMapTime(double time);
@@ -56,7 +58,7 @@ public Q_SLOTS:
     void slotReplayMode();
     void slotReplayStop();
     void slotSlider(int position);
-    void slotValue(const QTime& time);
+    void slotValue(int seconds);
     void slotReplaySpeed(int hundredths);
     void slotReplaySpeed(double factor);
     void slotTimeoutReplay();
@@ -77,6 +79,7 @@ private:
     void moveFromControl(double time);
     void push(Targets targets);
     void showRecord();
+    void setReplay(int state);
     void updateDisplay();
     void updateControls();
     void updateEventCounts();

@@ -41,7 +41,6 @@ DialogDataErrorMatrix::DialogDataErrorMatrix(const Session& session, QWidget* pP
 
 void DialogDataErrorMatrix::loadProfile()
 {
-    mById.clear();
     for (const WidgetFaultMatrix* pPanel : mPanels)
         delete pPanel;
     mPanels.clear();
@@ -61,34 +60,39 @@ void DialogDataErrorMatrix::addPanels()
         pPanel->setData(matrix);
         mpPanelLayout->insertWidget(static_cast<int>(mPanels.size()), pPanel);
         mPanels.push_back(pPanel);
-        mById[matrix.id] = pPanel;
+        connect(pPanel, &WidgetFaultMatrix::signalTime, this, &DialogDataErrorMatrix::signalTime);
     }
-}
-
-const WidgetFaultMatrix* DialogDataErrorMatrix::panel(int identifier) const
-{
-    const auto found = mById.find(identifier);
-    return found == mById.end() ? nullptr : found->second;
 }
 
 void DialogDataErrorMatrix::updateRecord(RecordData* pRecord)
 {
-    for (const auto& [id, pPanel] : mById)
+    for (WidgetFaultMatrix* pPanel : mPanels)
         pPanel->updateRecord(pRecord);
 }
 
 void DialogDataErrorMatrix::setTime(double time)
 {
-    if (mMode != 0)
+    if (isLive())
         return;
-    for (const auto& [id, pPanel] : mById)
+    for (WidgetFaultMatrix* pPanel : mPanels)
         pPanel->setTime(time);
 }
 
 void DialogDataErrorMatrix::setZarnMode(int mode)
 {
     mMode = mode;
-    if (mode != 0)
+    updateTimer();
+}
+
+void DialogDataErrorMatrix::setPaused(bool paused)
+{
+    mPaused = paused;
+    updateTimer();
+}
+
+void DialogDataErrorMatrix::updateTimer()
+{
+    if (isLive())
         mpTimer->start();
     else
         mpTimer->stop();

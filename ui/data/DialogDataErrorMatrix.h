@@ -5,7 +5,6 @@
 
 #include <QWidget>
 
-#include <map>
 #include <vector>
 
 class QLabel;
@@ -33,22 +32,27 @@ public:
     /// @param mode 0 shows the record, anything else is the live mode
     void setZarnMode(int mode) override;
 
-    /// The panel of a matrix; null when there is none.
-    [[nodiscard]] const WidgetFaultMatrix* panel(int identifier) const;
+    void setPaused(bool paused) override;
+
+Q_SIGNALS:
+    /// The user clicked at a time, in seconds.
+    void signalTime(double time);
 
 private Q_SLOTS:
     void slotTimeoutLive();
 
 private:
     void addPanels();
+    void updateTimer();
+    [[nodiscard]] bool isLive() const { return mMode != 0 && !mPaused; }
 
     Session mSession;
     QVBoxLayout* mpPanelLayout;
     QLabel* mpHint;
     QTimer* mpTimer;
     std::vector<WidgetFaultMatrix*> mPanels; ///< all, in the profile's order
-    std::map<int, WidgetFaultMatrix*> mById;
     int mMode = 0;
+    bool mPaused = false;
 };
 
 } // namespace ZARN

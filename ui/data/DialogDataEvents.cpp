@@ -1,7 +1,9 @@
 #include "ui/data/DialogDataEvents.h"
 
 #include "card/CardContainer.h"
+#include "ui/data/EventMark.h"
 #include "ui/data/TableCopy.h"
+#include "ui/data/model/TextColour.h"
 #include "ui/data/model/TimeOfDay.h"
 
 #include <QHeaderView>
@@ -12,6 +14,7 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <limits>
 #include <utility>
 
@@ -20,7 +23,9 @@ namespace ZARN {
 namespace {
 
 constexpr int kTimeWidth = 110;
+constexpr int kTimeMargin = 14;
 constexpr int kRowHeight = 22;
+const QColor kDimText(90, 90, 90);
 
 /// Whole milliseconds as a cell keeps them.
 QVariant timeData(double seconds)
@@ -29,6 +34,13 @@ QVariant timeData(double seconds)
     if (milliseconds > std::numeric_limits<int>::max())
         return QVariant::fromValue<qlonglong>(milliseconds); // 25 days and more are damage, but still a time
     return static_cast<int>(milliseconds);
+}
+
+/// A colour that is still told apart, but steps back.
+QColor dimmed(const QColor& colour)
+{
+    const auto mixed = [](int part) { return (part + 3 * 255) / 4; };
+    return {mixed(colour.red()), mixed(colour.green()), mixed(colour.blue())};
 }
 
 QTableWidgetItem* createItem(const QString& text)
@@ -40,10 +52,11 @@ QTableWidgetItem* createItem(const QString& text)
 
 } // namespace
 
-DialogDataEvents::DialogDataEvents(const Session& session, Scan scan, const QString& title, const QString& empty, QWidget* pParent)
-    : QWidget(pParent), mSession(session), mScan(scan), mEmptyText(empty), mpTable(new QTableWidget), mpHint(new QLabel)
+DialogDataEvents::DialogDataEvents(const Session& session, const Kind& kind, QWidget* pParent)
+    : QWidget(pParent), mSession(session), mKind(kind), mpTable(new QTableWidget), mpHint(new QLabel)
 {
-    createTable(title);
+    createTable();
+    updateFonts();
     mpHint->setObjectName("quiet");
     mpHint->setAlignment(Qt::AlignCenter);
     mpHint->setWordWrap(true);
@@ -55,19 +68,17 @@ DialogDataEvents::DialogDataEvents(const Session& session, Scan scan, const QStr
     pLayout->addWidget(mpHint);
 }
 
-void DialogDataEvents::createTable(const QString& title)
+void DialogDataEvents::createTable()
 {
     mpTable->setColumnCount(2);
-    mpTable->setHorizontalHeaderLabels({tr("Time"), title});
+    mpTable->setHorizontalHeaderLabels({tr("Time"), mKind.title});
     mpTable->setSelectionBehavior(QAbstractItemView::SelectRows);
-    mpTable->setSelectionMode(QAbstractItemView::SingleSelection);
+    mpTable->setSelectionMode(QAbstractItemView::ExtendedSelection);
     mpTable->setStyleSheet("selection-background-color: rgba(100, 100, 255, 255);");
     mpTable->setTabKeyNavigation(false);
     mpTable->setWordWrap(false);
     mpTable->setTextElideMode(Qt::ElideLeft); // name and value tell more than the group
     mpTable->verticalHeader()->hide();
-    mpTable->verticalHeader()->setMinimumSectionSize(kRowHeight);
-    mpTable->verticalHeader()->setDefaultSectionSize(kRowHeight);
     QHeaderView* pHeader = mpTable->horizontalHeader();
     QFont font = pHeader->font();
     font.setWeight(QFont::Bold);
@@ -75,13 +86,41 @@ void DialogDataEvents::createTable(const QString& title)
     pHeader->setHighlightSections(false);
     pHeader->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     pHeader->setStretchLastSection(true);
-    mpTable->setColumnWidth(0, kTimeWidth);
     new TableCopy(mpTable);
     mpTable->installEventFilter(this);
-    connect(mpTable, &QTableWidget::itemSelectionChanged, this, &DialogDataEvents::slotSelect);
+    connect(mpTable->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &DialogDataEvents::slotSelect);
     connect(mpTable, &QTableWidget::clicked, this, &DialogDataEvents::slotChoose);
     connect(mpTable, &QTableWidget::activated, this, &DialogDataEvents::slotChoose);
     setFocusProxy(mpTable);
+}
+
+void DialogDataEvents::updateFonts()
+{
+    const QFontMetrics metrics(font());
+    const int height = std::max(kRowHeight, metrics.height() + 6);
+    mpTable->verticalHeader()->setMinimumSectionSize(height);
+    mpTable->verticalHeader()->setDefaultSectionSize(height);
+    mpTable->setIconSize(QSize(metrics.height(), metrics.height()));
+    mpTable->setColumnWidth(0, std::max(kTimeWidth, metrics.horizontalAdvance("00:00:00.000") + kTimeMargin));
+}
+
+void DialogDataEvents::changeEvent(QEvent* pEvent)
+{
+    QWidget::changeEvent(pEvent);
+    if (pEvent->type() == QEvent::FontChange)
+        updateFonts();
+}
+
+int DialogDataEvents::eventCount() const
+{
+    const std::vector<Event>& events = mEvents.events();
+    return static_cast<int>(std::count_if(events.begin(), events.end(), [this](const Event& event) { return isInside(event); }));
+}
+
+bool DialogDataEvents::isInside(const Event& event) const
+{
+    const RecordFlight& flight = mSession.container.selectedFlight();
+    return !flight.valid || (event.time >= flight.startTime && event.time <= flight.endTime);
 }
 
 void DialogDataEvents::updateRecord(RecordData* pRecord)
@@ -91,7 +130,7 @@ void DialogDataEvents::updateRecord(RecordData* pRecord)
     mpTable->setRowCount(0);
     mpRecord = pRecord;
     if (pRecord) {
-        mEvents = mScan(*pRecord, mSession.profile);
+        mEvents = mKind.scan(*pRecord, mSession.profile);
         fillTable();
         setTime(mSession.container.startTime());
     }
@@ -106,24 +145,39 @@ void DialogDataEvents::fillTable()
         const Event& event = events[static_cast<std::size_t>(row)];
         QTableWidgetItem* pTime = createItem(timeOfDayText(wholeMilliseconds(event.time)));
         pTime->setData(Qt::UserRole, timeData(event.time));
-        const QString text = QString::fromStdString(mEvents.text(event));
-        QTableWidgetItem* pText = createItem(text);
-        pText->setToolTip("<qt>" + text.toHtmlEscaped() + "</qt>");
-        if (event.colour.isValid()) {
-            pText->setBackground(event.colour);
-            pText->setForeground(QColor(event.colour.lightness() < 100 ? Qt::white : Qt::black)); // legible in every style
-        }
+        if (!isInside(event))
+            pTime->setForeground(kDimText);
         mpTable->setItem(row, 0, pTime);
-        mpTable->setItem(row, 1, pText);
+        mpTable->setItem(row, 1, createText(event));
     }
+}
+
+QTableWidgetItem* DialogDataEvents::createText(const Event& event) const
+{
+    const QString text = QString::fromStdString(mEvents.text(event)), state = mKind.stateName(event.state);
+    const bool inside = isInside(event);
+    QTableWidgetItem* pText = createItem(text);
+    QString toolTip = text.toHtmlEscaped() + (state.isEmpty() ? QString() : "<br/>" + state);
+    if (!inside)
+        toolTip += "<br/>" + tr("Outside of the selected flight");
+    pText->setToolTip("<qt>" + toolTip + "</qt>");
+    pText->setData(Qt::AccessibleDescriptionRole, state);
+    pText->setIcon(eventMark(event.state));
+    if (event.colour.isValid())
+        pText->setBackground(inside ? event.colour : dimmed(event.colour));
+    if (!inside)
+        pText->setForeground(kDimText);
+    else if (event.colour.isValid())
+        pText->setForeground(textColourOn(event.colour)); // legible in every style
+    return pText;
 }
 
 void DialogDataEvents::updateHint()
 {
-    const int rows = mpTable->rowCount();
-    mpHint->setVisible(mpRecord && (rows == 0 || rows < eventCount()));
-    mpHint->setText(rows == 0 ? mEmptyText
-                              : tr("Only the first %1 of %2 events are listed.").arg(QLocale().toString(rows), QLocale().toString(eventCount())));
+    const int rows = mpTable->rowCount(), all = static_cast<int>(mEvents.events().size());
+    mpHint->setVisible(mpRecord && (rows == 0 || rows < all));
+    mpHint->setText(rows == 0 ? mKind.empty
+                              : tr("Only the first %1 of %2 events are listed.").arg(QLocale().toString(rows), QLocale().toString(all)));
 }
 
 void DialogDataEvents::setTime(double time)
@@ -133,8 +187,15 @@ void DialogDataEvents::setTime(double time)
     const QScopedValueRollback busy(mBusy, true);
     mReported = false;
     mTime = time;
-    const int row = static_cast<int>(std::min<std::size_t>(mEvents.rowAt(time), static_cast<std::size_t>(mpTable->rowCount() - 1)));
-    if (mpTable->currentRow() != row || mpTable->selectedItems().isEmpty())
+    const std::optional<std::size_t> found = mEvents.rowAt(time);
+    if (!found) {
+        mpTable->clearSelection();
+        mpTable->setCurrentIndex({});
+        mpTable->scrollToTop();
+        return;
+    }
+    const int row = static_cast<int>(std::min<std::size_t>(*found, static_cast<std::size_t>(mpTable->rowCount() - 1)));
+    if (mpTable->currentRow() != row || mpTable->selectionModel()->selectedRows().size() != 1)
         mpTable->setCurrentCell(row, 0, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     mUnseen = !isVisible();
     centre();
@@ -154,14 +215,11 @@ void DialogDataEvents::showEvent(QShowEvent* pEvent)
         QMetaObject::invokeMethod(this, &DialogDataEvents::centre, Qt::QueuedConnection); // the layout comes before
 }
 
-/// Whether the selected event, which nobody chose, is the next one from the view time on in the direction of a key.
-bool DialogDataEvents::isAhead(int key) const
+/// Whether the current event, which nobody chose, lies before the view time: the next one upwards is itself then.
+bool DialogDataEvents::isBehind() const
 {
     const QTableWidgetItem* pItem = mpTable->item(mpTable->currentRow(), 0);
-    if (mReported || !pItem)
-        return false;
-    const int64_t event = pItem->data(Qt::UserRole).toLongLong(), now = wholeMilliseconds(mTime);
-    return (key == Qt::Key_Down && event > now) || (key == Qt::Key_Up && event < now);
+    return pItem && !mReported && pItem->data(Qt::UserRole).toLongLong() < wholeMilliseconds(mTime);
 }
 
 bool DialogDataEvents::eventFilter(QObject* pObject, QEvent* pEvent)
@@ -169,26 +227,25 @@ bool DialogDataEvents::eventFilter(QObject* pObject, QEvent* pEvent)
     if (pObject != mpTable || pEvent->type() != QEvent::KeyPress)
         return QWidget::eventFilter(pObject, pEvent);
     const auto* pKey = static_cast<QKeyEvent*>(pEvent);
-    if ((pKey->modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier || !isAhead(pKey->key()))
+    if ((pKey->modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier || pKey->key() != Qt::Key_Up)
         return false;
-    slotSelect();
-    return true;
+    if (isBehind())
+        slotSelect();
+    else if (mpTable->currentRow() >= 0)
+        return false;
+    return true; // before the first event there is none upwards
 }
 
 void DialogDataEvents::slotSelect()
 {
-    if (mBusy)
+    const QTableWidgetItem* pItem = mpTable->item(mpTable->currentRow(), 0); // the row that was clicked last, whatever else is selected
+    if (mBusy || !pItem)
         return;
-    for (const QTableWidgetItem* pItem : mpTable->selectedItems()) {
-        if (pItem->column() != 0)
-            continue;
-        mReported = true;
-        Q_EMIT signalTime(static_cast<double>(pItem->data(Qt::UserRole).toLongLong()) * 0.001);
-        return;
-    }
+    mReported = true;
+    Q_EMIT signalTime(static_cast<double>(pItem->data(Qt::UserRole).toLongLong()) * 0.001);
 }
 
-/// A click on the row that is selected already changes no selection, but is a choice all the same.
+/// A click on the row that is current already changes nothing, but is a choice all the same.
 void DialogDataEvents::slotChoose()
 {
     if (!mReported)

@@ -8,11 +8,12 @@
 
 class QLabel;
 class QTableWidget;
+class QTableWidgetItem;
 
 namespace ZARN {
 
-/// What the lists of events have in common: one row an event in ascending time, which moves the view time when it is chosen. Which
-/// events there are is told by the derived class.
+/// What the lists of events have in common: one row an event in ascending time; the one chosen last moves the view time. With a flight
+/// selected, the events outside of it are there, but dimmed. Which events there are is told by the derived class.
 class DialogDataEvents : public QWidget, public DataView {
     Q_OBJECT
 
@@ -24,7 +25,8 @@ public:
     void updateRecord(RecordData* pRecord) override;
     void setTime(double time) override;
 
-    [[nodiscard]] int eventCount() const override { return static_cast<int>(mEvents.events().size()); }
+    /// Those of the selected flight, or all.
+    [[nodiscard]] int eventCount() const override;
     [[nodiscard]] const EventList& events() const { return mEvents; }
 
 Q_SIGNALS:
@@ -32,12 +34,18 @@ Q_SIGNALS:
     void signalTime(double time);
 
 protected:
-    using Scan = EventList (*)(const RecordData& data, Profile& profile);
+    /// What a list is made of.
+    struct Kind {
+        EventList (*scan)(const RecordData& data, Profile& profile);
+        QString (*stateName)(int state);
+        QString title; ///< of the event column
+        QString empty; ///< what the view says when there is no event
+    };
 
-    /// @param title of the event column @param empty what the view says when there is no event
-    DialogDataEvents(const Session& session, Scan scan, const QString& title, const QString& empty, QWidget* pParent);
+    DialogDataEvents(const Session& session, const Kind& kind, QWidget* pParent);
 
     void showEvent(QShowEvent* pEvent) override;
+    void changeEvent(QEvent* pEvent) override;
     bool eventFilter(QObject* pObject, QEvent* pEvent) override;
 
 private Q_SLOTS:
@@ -45,22 +53,24 @@ private Q_SLOTS:
     void slotChoose();
 
 private:
-    void createTable(const QString& title);
+    void createTable();
+    void updateFonts();
     void fillTable();
+    [[nodiscard]] QTableWidgetItem* createText(const Event& event) const;
+    [[nodiscard]] bool isInside(const Event& event) const;
     void updateHint();
     void centre();
-    [[nodiscard]] bool isAhead(int key) const;
+    [[nodiscard]] bool isBehind() const;
 
     Session mSession;
-    Scan mScan;
-    QString mEmptyText;
+    const Kind mKind;
     RecordData* mpRecord = nullptr;
     EventList mEvents;
     QTableWidget* mpTable;
     QLabel* mpHint;
     double mTime = 0.0; ///< the view time that was told last
     bool mBusy = false;
-    bool mReported = false; ///< the selected row's time was told
+    bool mReported = false; ///< the current row's time was told
     bool mUnseen = false;   ///< the row was selected while nobody saw it
 };
 

@@ -1,11 +1,13 @@
 #include "ui/data/DialogDataStatistic.h"
 
-#include "app/Numeric.h"
 #include "card/CardContainer.h"
+#include "card/FlightFigures.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QTextEdit>
-#include <QTime>
 #include <QVBoxLayout>
 
 #include <memory>
@@ -14,11 +16,24 @@ namespace ZARN {
 
 namespace {
 
-/// A duration in seconds as a time of day; wraps after 24 hours.
-QString durationText(double seconds)
-{
-    return QTime(0, 0).addSecs(saturatingCast<int>(seconds)).toString("hh:mm:ss");
-}
+struct Row {
+    EFlightFigure figure;
+    const char* label;
+};
+constexpr Row kRows[] = {{eFigureFlightTime, QT_TRANSLATE_NOOP("ZARN::DialogDataStatistic", "Flight Time")},
+                         {eFigureFuelA, QT_TRANSLATE_NOOP("ZARN::DialogDataStatistic", "Total Fuel Lane A")},
+                         {eFigureFuelB, QT_TRANSLATE_NOOP("ZARN::DialogDataStatistic", "Total Fuel Lane B")},
+                         {eFigureTotalFuel, QT_TRANSLATE_NOOP("ZARN::DialogDataStatistic", "Total Fuel")},
+                         {eFigureMinAltitude, QT_TRANSLATE_NOOP("ZARN::DialogDataStatistic", "Minimum Alt")},
+                         {eFigureMaxAltitude, QT_TRANSLATE_NOOP("ZARN::DialogDataStatistic", "Maximum Alt")},
+                         {eFigureTotalClimb, QT_TRANSLATE_NOOP("ZARN::DialogDataStatistic", "Total Climb")},
+                         {eFigureClimbRate, QT_TRANSLATE_NOOP("ZARN::DialogDataStatistic", "Average Climb Rate")},
+                         {eFigureDescendRate, QT_TRANSLATE_NOOP("ZARN::DialogDataStatistic", "Average Descend Rate")},
+                         {eFigureGroundSpeed, QT_TRANSLATE_NOOP("ZARN::DialogDataStatistic", "Max Ground Speed")},
+                         {eFigureTimePer100m, QT_TRANSLATE_NOOP("ZARN::DialogDataStatistic", "Time / 100m")},
+                         {eFigureFuelPer100m, QT_TRANSLATE_NOOP("ZARN::DialogDataStatistic", "Fuel / 100m")},
+                         {eFigureTakeOff, QT_TRANSLATE_NOOP("ZARN::DialogDataStatistic", "Take Off Distance")},
+                         {eFigureTakeOff15m, QT_TRANSLATE_NOOP("ZARN::DialogDataStatistic", "Take Off Distance 15m")}};
 
 } // namespace
 
@@ -28,6 +43,7 @@ DialogDataStatistic::DialogDataStatistic(const Session& session, QWidget* pParen
     mpEdit->setReadOnly(true);
     mpEdit->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     mpEdit->setContextMenuPolicy(Qt::CustomContextMenu);
+    mpEdit->installEventFilter(this);
     connect(mpEdit, &QTextEdit::customContextMenuRequested, this, &DialogDataStatistic::showMenu);
     auto* pLayout = new QVBoxLayout(this);
     pLayout->setContentsMargins(0, 0, 0, 0);
@@ -39,6 +55,7 @@ DialogDataStatistic::DialogDataStatistic(const Session& session, QWidget* pParen
 void DialogDataStatistic::updateRecord(RecordData* pRecord)
 {
     mpRecord = pRecord;
+    mPlainText.clear();
     const RecordFlight& flight = mSession.container.selectedFlight();
     if (!pRecord || !flight.valid) {
         mText = tr("<br><br><b>No flight selected</b>");
@@ -61,24 +78,25 @@ void DialogDataStatistic::showMenu(const QPoint& point)
 void DialogDataStatistic::addLine(const QString& label, const QString& value)
 {
     mText += QString("<tr><td>%1  :  </td><td><b>%2</b></td></tr>").arg(label, value);
+    mPlainText += label + "\t" + value + "\n";
 }
 
 void DialogDataStatistic::addFlight(const RecordFlight& flight)
 {
-    addLine(tr("Flight Time"), durationText(flight.landingTime - flight.takeOffTime));
-    addLine(tr("Total Fuel Lane A"), QString("%1 l").arg(flight.fuelA));
-    addLine(tr("Total Fuel Lane B"), QString("%1 l").arg(flight.fuelB));
-    addLine(tr("Total Fuel"), QString("%1 l").arg(flight.totalFuel));
-    addLine(tr("Minimum Alt"), QString("%1 m").arg(flight.minAltitude));
-    addLine(tr("Maximum Alt"), QString("%1 m").arg(flight.maxAltitude));
-    addLine(tr("Total Climb"), QString("%1 m").arg(flight.totalClimb));
-    addLine(tr("Average Climb Rate"), QString("%1 m/s").arg(flight.averageClimbRate));
-    addLine(tr("Average Descend Rate"), QString("%1 m/s").arg(flight.averageDescendRate));
-    addLine(tr("Max Ground Speed"), QString("%1 km/h").arg(flight.maxGroundSpeed));
-    addLine(tr("Time / 100m"), durationText(flight.timePer100m));
-    addLine(tr("Fuel / 100m"), QString("%1 l").arg(flight.fuelPer100m));
-    addLine(tr("Take Off Distance"), QString("%1 m").arg(flight.takeOffDistance));
-    addLine(tr("Take Off Distance 15m"), QString("%1 m").arg(flight.takeOffDistance15m));
+    for (const Row& row : kRows)
+        addLine(tr(row.label), flightFigureText(flight, row.figure));
+}
+
+/// The copy key copies what is selected in the text, else all of it. Without a flight there is nothing, and the key is the window's.
+bool DialogDataStatistic::eventFilter(QObject* pObject, QEvent* pEvent)
+{
+    const bool isKey = pEvent->type() == QEvent::ShortcutOverride || pEvent->type() == QEvent::KeyPress;
+    if (pObject != mpEdit || !isKey || !static_cast<QKeyEvent*>(pEvent)->matches(QKeySequence::Copy) || mpEdit->textCursor().hasSelection())
+        return QWidget::eventFilter(pObject, pEvent);
+    pEvent->setAccepted(!mPlainText.isEmpty());
+    if (pEvent->type() == QEvent::KeyPress && !mPlainText.isEmpty())
+        QGuiApplication::clipboard()->setText(mPlainText);
+    return true;
 }
 
 } // namespace ZARN

@@ -29,6 +29,9 @@ Q_SIGNALS:
     /// The user wants the report of the loaded data.
     void signalReport();
 
+protected:
+    bool eventFilter(QObject* pObject, QEvent* pEvent) override;
+
 private:
     void showMenu(const QPoint& point);
     void addFlight(const RecordFlight& flight);
@@ -36,6 +39,7 @@ private:
     const Session mSession;
     RecordData* mpRecord = nullptr;
     QString mText;
+    QString mPlainText; ///< the same for the clipboard: a line a value, label and value apart by a tabulator
     QTextEdit* mpEdit;
 };
 

@@ -4,6 +4,7 @@
 #include "ui/data/RowTable.h"
 #include "ui/data/TableCellDelegate.h"
 #include "ui/data/TableCopy.h"
+#include "ui/data/TextSize.h"
 #include "ui/data/model/DataTableModel.h"
 #include "ui/data/model/LiveTableModel.h"
 
@@ -52,11 +53,11 @@ DialogDataTable::DialogDataTable(const Session& session, QWidget* pParent)
     mpTimer->setInterval(kRefreshMilliseconds);
     connect(mpTimer, &QTimer::timeout, this, &DialogDataTable::slotTimeoutRefresh);
     updateProfile();
+    slotFont();
 }
 
 void DialogDataTable::createView()
 {
-    mpView->setStyleSheet("ZARN--RowTable { font-size: 11px; }"); // what fits the rows and the width of the time
     mpView->setModel(mpModel);
     mpView->setItemDelegate(new TableCellDelegate(mpView));
     mpView->setTabKeyNavigation(false);
@@ -66,7 +67,7 @@ void DialogDataTable::createView()
     new TableCopy(mpView);
     connect(mpView, &RowTable::clicked, this, &DialogDataTable::slotChoose);
     connect(mpView, &RowTable::activated, this, &DialogDataTable::slotChoose);
-    connect(mpView->selectionModel(), &QItemSelectionModel::selectionChanged, this, &DialogDataTable::slotSelect);
+    connect(mpView->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &DialogDataTable::slotSelect);
 }
 
 void DialogDataTable::createLiveView()
@@ -79,7 +80,7 @@ void DialogDataTable::createLiveView()
     mpLiveView->setTabKeyNavigation(false);
     mpLiveView->horizontalHeader()->hide();
     mpLiveView->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    mpLiveView->verticalHeader()->setDefaultSectionSize(kLiveRowHeight);
+    mpLiveView->verticalHeader()->setStyleSheet("QHeaderView::section { padding: 0px 8px; }"); // the rows are low
     new TableCopy(mpLiveView);
 }
 
@@ -104,7 +105,35 @@ void DialogDataTable::sizeColumns()
         return;
     }
     mpView->horizontalHeader()->resizeSections(QHeaderView::ResizeToContents);
-    mpView->setColumnWidth(0, kTimeWidth);
+    mpView->setColumnWidth(0, std::max(kTimeWidth, QFontMetrics(cellFont()).horizontalAdvance("00:00:00.000") + kTextMargin / 2));
+}
+
+/// A little smaller than the program's text: a page has many rows, and they are low.
+QFont DialogDataTable::cellFont() const
+{
+    QFont font = this->font();
+    font.setPixelSize(std::max(textSize(*this) - 1, kSmallestText));
+    return font;
+}
+
+void DialogDataTable::slotFont()
+{
+    const QFont font = cellFont();
+    const QString style = QString("ZARN--RowTable { font-size: %1px; }").arg(font.pixelSize());
+    if (mpView->styleSheet() != style)
+        mpView->setStyleSheet(style);
+    mpView->setRowHeight(std::max(kRowHeight, QFontMetrics(font).height()));
+    mpLiveView->verticalHeader()->setDefaultSectionSize(std::max(kLiveRowHeight, QFontMetrics(this->font()).height() + 4));
+    mWidened = false;
+    sizeColumns();
+    widenColumns();
+}
+
+void DialogDataTable::changeEvent(QEvent* pEvent)
+{
+    QWidget::changeEvent(pEvent);
+    if (pEvent->type() == QEvent::FontChange)
+        QMetaObject::invokeMethod(this, &DialogDataTable::slotFont, Qt::QueuedConnection); // the titles get theirs later
 }
 
 /// The values of some parameters, those with words above all, are longer than their titles. Done for the first record only: from
@@ -114,10 +143,10 @@ void DialogDataTable::widenColumns()
     if (mWidened || mpModel->rowCount() == 0)
         return;
     mWidened = true;
-    const QFontMetrics metrics(mpView->font());
+    const QFontMetrics metrics(cellFont());
     for (int column = 1; column < mpModel->columnCount(); ++column) {
         int width = 0;
-        for (const QString& text : mpModel->someTexts(column))
+        for (const QString& text : mpModel->widestTexts(column))
             width = std::max(width, metrics.horizontalAdvance(text) + kTextMargin);
         if (width > mpView->columnWidth(column))
             mpView->setColumnWidth(column, std::min(width, kMaxWidth));
@@ -176,16 +205,14 @@ void DialogDataTable::slotSelect()
 {
     if (mBusy || mMode != 0)
         return;
-    for (const QItemSelectionRange& range : mpView->selectionModel()->selection()) {
-        if (range.left() > 0)
-            continue;
-        mReported = true;
-        Q_EMIT signalTime(static_cast<double>(mpModel->index(range.top(), 0).data(Qt::UserRole).toLongLong()) * 0.001);
+    const QModelIndex index = mpView->currentIndex(); // the row that was clicked last, whatever else is selected
+    if (!index.isValid())
         return;
-    }
+    mReported = true;
+    Q_EMIT signalTime(static_cast<double>(mpModel->index(index.row(), 0).data(Qt::UserRole).toLongLong()) * 0.001);
 }
 
-/// A click on the row that is selected already changes no selection, but is a choice all the same.
+/// A click on the row that is current already changes nothing, but is a choice all the same.
 void DialogDataTable::slotChoose()
 {
     if (!mReported)
@@ -196,7 +223,18 @@ void DialogDataTable::setZarnMode(int mode)
 {
     mMode = mode;
     updateProfile();
-    if (mode != 0)
+    updateTimer();
+}
+
+void DialogDataTable::setPaused(bool paused)
+{
+    mPaused = paused;
+    updateTimer();
+}
+
+void DialogDataTable::updateTimer()
+{
+    if (mMode != 0 && !mPaused)
         mpTimer->start();
     else
         mpTimer->stop();

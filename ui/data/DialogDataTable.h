@@ -31,28 +31,33 @@ public:
     void setTime(double time) override;
     /// @param mode 0 shows the record, anything else is the live mode
     void setZarnMode(int mode) override;
+    void setPaused(bool paused) override;
 
     [[nodiscard]] const DataTableModel& model() const { return *mpModel; }
 
 Q_SIGNALS:
-    /// The time of the row that the user selected, in seconds.
+    /// The time of the row that the user chose last, in seconds; the selection may be of many, or of all.
     void signalTime(double time);
 
 protected:
     void showEvent(QShowEvent* pEvent) override;
+    void changeEvent(QEvent* pEvent) override;
 
 private Q_SLOTS:
     void slotSelect();
     void slotChoose();
     void slotTimeoutRefresh();
+    void slotFont();
 
 private:
     void createView();
     void createLiveView();
     void fill();
     void centre();
+    void updateTimer();
     void sizeColumns();
     void widenColumns();
+    [[nodiscard]] QFont cellFont() const;
 
     const CardContainer& mContainer;
     DataTableModel* mpModel;
@@ -64,8 +69,9 @@ private:
     QTimer* mpTimer;
     RecordData* mpRecord = nullptr;
     int mMode = 0;
+    bool mPaused = false;
     bool mBusy = false;
-    bool mReported = false; ///< the selected row's time was told
+    bool mReported = false; ///< the current row's time was told
     bool mUnseen = false;   ///< the row was selected while nobody saw it
     bool mWidened = false;  ///< the columns were made wide enough for the texts of a record
 };

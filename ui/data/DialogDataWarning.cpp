@@ -5,7 +5,10 @@
 namespace ZARN {
 
 DialogDataWarning::DialogDataWarning(const Session& session, QWidget* pParent)
-    : DialogDataEvents(session, warningEvents, tr("WarningLamp"), tr("No warning lamp lit up."), pParent)
+    : DialogDataEvents(
+          session,
+          {warningEvents, [](int state) { return tr("Lamp state %1").arg(state); }, tr("WarningLamp"), tr("No warning lamp lit up.")},
+          pParent)
 {
 }
 

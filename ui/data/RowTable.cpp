@@ -38,6 +38,12 @@ void RowTable::setColumnWidth(int column, int width)
     mpHeader->resizeSection(column, width);
 }
 
+void RowTable::setRowHeight(int height)
+{
+    mRowHeight = height;
+    relayout();
+}
+
 void RowTable::selectRow(int row)
 {
     if (row >= 0 && row < rows())

@@ -16,6 +16,7 @@ public:
 
     [[nodiscard]] QHeaderView* horizontalHeader() const { return mpHeader; }
     [[nodiscard]] int rowHeight() const { return mRowHeight; }
+    void setRowHeight(int height);
     [[nodiscard]] int columnWidth(int column) const;
     void setColumnWidth(int column, int width);
     void selectRow(int row);

@@ -2,8 +2,13 @@
 
 #include "profile/Threshold.h"
 #include "ui/data/model/CellModel.h"
+#include "ui/data/model/ShownParameter.h"
+#include "ui/data/model/TextColour.h"
 
+#include <QAbstractItemView>
+#include <QHelpEvent>
 #include <QPainter>
+#include <QToolTip>
 
 namespace ZARN {
 
@@ -14,17 +19,28 @@ constexpr int kWordPadding = 2;
 const QColor kMark(120, 0, 0);
 
 /// A bar at the left edge: a short one for a warning, the whole height for a limit.
-void paintMark(QPainter& painter, const QRect& rect, int state)
+void paintMark(QPainter& painter, const QRect& rect, int state, const QColor& text)
 {
     const int height = state == eThresholdLimit ? rect.height() : rect.height() / 2;
-    painter.fillRect(QRect(rect.left(), rect.bottom() - height + 1, 3, height), kMark);
+    painter.fillRect(QRect(rect.left(), rect.bottom() - height + 1, 3, height), text == Qt::white ? text : kMark);
 }
 
-QColor textColour(const QStyleOptionViewItem& option, bool ownGround, bool selected)
+QColor textColour(const QStyleOptionViewItem& option, const TableCell& cell, bool ownGround, bool selected)
 {
     if (ownGround)
-        return Qt::black;
+        return textColourOn(cell.background);
     return option.palette.color(selected ? QPalette::HighlightedText : QPalette::Text);
+}
+
+QRect roomForText(const QRect& cell, bool isNumber)
+{
+    const int padding = isNumber ? kPadding : kWordPadding;
+    return cell.adjusted(padding, 0, -padding, 0);
+}
+
+bool fits(const QString& text, const QStyleOptionViewItem& option, const QRect& room)
+{
+    return option.fontMetrics.horizontalAdvance(text) <= room.width();
 }
 
 } // namespace
@@ -38,17 +54,31 @@ void TableCellDelegate::paint(QPainter* pPainter, const QStyleOptionViewItem& op
         pPainter->fillRect(option.rect, cell.background);
     else if (selected)
         pPainter->fillRect(option.rect, option.palette.highlight());
+    const QColor colour = textColour(option, cell, ownGround, selected);
     if (cell.state == eThresholdWarning || cell.state == eThresholdLimit)
-        paintMark(*pPainter, option.rect, cell.state);
+        paintMark(*pPainter, option.rect, cell.state, colour);
     if (cell.text.isEmpty())
         return;
-    const int padding = cell.isNumber ? kPadding : kWordPadding;
-    const QRect room = option.rect.adjusted(padding, 0, -padding, 0);
+    const QRect room = roomForText(option.rect, cell.isNumber);
+    pPainter->setPen(colour);
     // Half a number would be a wrong one: what does not fit ends with an ellipsis.
-    const bool fits = option.fontMetrics.horizontalAdvance(cell.text) <= room.width();
-    pPainter->setPen(textColour(option, ownGround, selected));
     pPainter->drawText(room, Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip | (cell.isNumber ? Qt::AlignRight : Qt::AlignLeft),
-                       fits ? cell.text : option.fontMetrics.elidedText(cell.text, Qt::ElideRight, room.width()));
+                       fits(cell.text, option, room) ? cell.text : option.fontMetrics.elidedText(cell.text, Qt::ElideRight, room.width()));
+}
+
+bool TableCellDelegate::helpEvent(QHelpEvent* pEvent, QAbstractItemView* pView, const QStyleOptionViewItem& option,
+                                  const QModelIndex& index)
+{
+    if (pEvent->type() == QEvent::ToolTip && index.isValid()) {
+        const TableCell cell = static_cast<const CellModel*>(index.model())->cell(index);
+        if (!fits(cell.text, option, roomForText(option.rect, cell.isNumber))) {
+            const QString state = ShownParameter::stateName(cell.state);
+            QToolTip::showText(pEvent->globalPos(), "<qt>" + cell.text.toHtmlEscaped() + (state.isEmpty() ? "" : "<br/>" + state) + "</qt>",
+                               pView);
+            return true;
+        }
+    }
+    return QStyledItemDelegate::helpEvent(pEvent, pView, option, index);
 }
 
 } // namespace ZARN

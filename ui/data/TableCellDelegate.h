@@ -14,6 +14,8 @@ public:
 
     /// @param index of a CellModel
     void paint(QPainter* pPainter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    /// Tells what a cell has no room for.
+    bool helpEvent(QHelpEvent* pEvent, QAbstractItemView* pView, const QStyleOptionViewItem& option, const QModelIndex& index) override;
 };
 
 } // namespace ZARN

@@ -29,8 +29,9 @@ void TableCopy::copy(bool withHeader) const
 {
     const CellText cells(mpView->selectionModel()->selection());
     if (cells.cellCount() > CellText::kMaxCells) {
-        QToolTip::showText(QCursor::pos(), tr("That is too much for the clipboard: %1 cells. Select fewer rows, or export a CSV file.")
-                                               .arg(cells.cellCount()));
+        QToolTip::showText(
+            QCursor::pos(),
+            tr("That is too much for the clipboard: %1 cells. Select fewer rows, or export a CSV file.").arg(cells.cellCount()));
         return;
     }
     const QString text = cells.text(*mpView->model(), withHeader);
@@ -43,9 +44,10 @@ bool TableCopy::eventFilter(QObject* pObject, QEvent* pEvent)
     const bool isKey = pEvent->type() == QEvent::ShortcutOverride || pEvent->type() == QEvent::KeyPress;
     if (!isKey || !static_cast<QKeyEvent*>(pEvent)->matches(QKeySequence::Copy))
         return QObject::eventFilter(pObject, pEvent);
-    if (pEvent->type() == QEvent::KeyPress)
+    const bool hasRows = mpView->selectionModel()->hasSelection();
+    if (hasRows && pEvent->type() == QEvent::KeyPress)
         copy(false);
-    pEvent->accept(); // overrides the window's shortcut of the same key
+    pEvent->setAccepted(hasRows); // overrides the window's shortcut of the same key
     return true;
 }
 

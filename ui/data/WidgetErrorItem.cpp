@@ -1,6 +1,7 @@
 #include "ui/data/WidgetErrorItem.h"
 
 #include "ui/data/FaultColours.h"
+#include "ui/data/TextSize.h"
 
 #include <QPainter>
 
@@ -8,7 +9,7 @@ namespace {
 
 constexpr int kMinimumWidth = 15;
 constexpr int kMinimumHeight = 150;
-constexpr int kTextSize = 10;
+constexpr int kSmaller = 2; // pixels, than the program's text
 constexpr int kMargin = 4;
 
 } // namespace
@@ -44,15 +45,30 @@ QColor WidgetErrorItem::fill() const
     return mErrorState ? ZARN::faultColour(mType) : ZARN::quietFaultColour(mType);
 }
 
+QFont WidgetErrorItem::textFont() const
+{
+    QFont font = this->font();
+    font.setPixelSize(std::max(ZARN::textSize(*this) - kSmaller, ZARN::kSmallestText));
+    return font;
+}
+
+int WidgetErrorItem::lengthOfText() const
+{
+    return mType == ZARN::eErrorNone ? 0 : QFontMetrics(textFont()).horizontalAdvance(mText) + 3 * kMargin;
+}
+
+int WidgetErrorItem::thicknessOfText() const
+{
+    return mType == ZARN::eErrorNone ? 0 : QFontMetrics(textFont()).height() + 2;
+}
+
 void WidgetErrorItem::paintEvent(QPaintEvent* /*pEvent*/)
 {
     QPainter painter(this);
     painter.fillRect(rect(), fill());
-    if (mType == ZARN::eErrorNone)
+    if (lengthOfText() == 0)
         return;
-    QFont textFont = font();
-    textFont.setPixelSize(kTextSize);
-    painter.setFont(textFont);
+    painter.setFont(textFont());
     painter.setPen(Qt::black);
     painter.translate(0, height());
     painter.rotate(-90);

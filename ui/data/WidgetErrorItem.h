@@ -15,6 +15,9 @@ public:
     /// Repaints only when the state changes.
     void setErrorState(bool on);
 
+    /// How high the cell must be for its whole text, and how wide; 0 where none is shown.
+    [[nodiscard]] int lengthOfText() const;
+    [[nodiscard]] int thicknessOfText() const;
     [[nodiscard]] const QString& text() const { return mText; }
     [[nodiscard]] int type() const { return mType; }
     [[nodiscard]] bool errorState() const { return mErrorState; }
@@ -24,6 +27,8 @@ protected:
     void paintEvent(QPaintEvent* pEvent) override;
 
 private:
+    [[nodiscard]] QFont textFont() const;
+
     QString mText;
     int mType = 0;
     bool mErrorState = false;

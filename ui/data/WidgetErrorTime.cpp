@@ -4,6 +4,7 @@
 #include "card/CardContainer.h"
 #include "ui/data/FaultColours.h"
 
+#include <QMouseEvent>
 #include <QPainter>
 
 #include <algorithm>
@@ -44,7 +45,8 @@ WidgetErrorTime::WidgetErrorTime(const CardContainer& container, QWidget* pParen
 {
     setMinimumHeight(kHeight);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    setToolTip(tr("Bits that were set over time. From top to bottom: Info, Warning, Fault"));
+    setToolTip(tr("Bits that were set over time. From top to bottom: Info, Warning, Fault.\nA click goes to the time."));
+    setCursor(Qt::PointingHandCursor);
     mTimeline.emplace(mMatrix, nullptr);
 }
 
@@ -75,6 +77,25 @@ int WidgetErrorTime::xOf(double time) const
     if (!mWithRecord || !(mEnd > mStart))
         return 0;
     return saturatingCast<int>((time - mStart) * (width() + 1) / (mEnd - mStart));
+}
+
+void WidgetErrorTime::mousePressEvent(QMouseEvent* pEvent)
+{
+    chooseTime(*pEvent);
+}
+
+void WidgetErrorTime::mouseMoveEvent(QMouseEvent* pEvent)
+{
+    chooseTime(*pEvent);
+}
+
+/// The middle of the pixel, so that the line comes to stand where the user pointed.
+void WidgetErrorTime::chooseTime(const QMouseEvent& event)
+{
+    if (!event.buttons().testFlag(Qt::LeftButton) || !mWithRecord || !(mEnd > mStart))
+        return;
+    const double x = std::clamp(event.position().x(), 0.0, width() - 1.0) + 0.5;
+    Q_EMIT signalTime(mStart + x * (mEnd - mStart) / (width() + 1));
 }
 
 void WidgetErrorTime::drawBand(QPainter& painter, EErrorType kind, const QRect& band) const

@@ -30,11 +30,18 @@ public:
     /// Empty without samples of the matrix.
     [[nodiscard]] const std::vector<FaultChange>& changes(EErrorType kind) const { return mTimeline->changes(kind); }
 
+Q_SIGNALS:
+    /// The user clicked at a time of the record, in seconds.
+    void signalTime(double time);
+
 protected:
+    void mousePressEvent(QMouseEvent* pEvent) override;
+    void mouseMoveEvent(QMouseEvent* pEvent) override;
     void paintEvent(QPaintEvent* pEvent) override;
     void resizeEvent(QResizeEvent* pEvent) override;
 
 private:
+    void chooseTime(const QMouseEvent& event);
     void drawBands();
     void drawBand(QPainter& painter, EErrorType kind, const QRect& band) const;
 

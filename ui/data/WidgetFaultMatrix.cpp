@@ -2,12 +2,14 @@
 
 #include "analysis/FaultTimeline.h"
 #include "card/record/RecordData.h"
+#include "ui/data/TextSize.h"
 #include "ui/data/WidgetErrorItem.h"
 #include "ui/data/WidgetErrorTime.h"
 
 #include <QEvent>
 #include <QHeaderView>
 #include <QLabel>
+#include <QScrollBar>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
@@ -16,6 +18,7 @@ namespace ZARN {
 namespace {
 
 constexpr int kRowHeight = 150;
+constexpr int kMostHeight = 320; // a damaged profile may have names of any length
 constexpr int kTableHeight = 180;
 constexpr int kFirstWidth = 15;
 constexpr int kMinimumWidth = 20;
@@ -33,8 +36,9 @@ WidgetFaultMatrix::WidgetFaultMatrix(const CardContainer& container, QWidget* pP
     setFrameStyle(QFrame::Panel | QFrame::Plain);
     mpTitle->setTextFormat(Qt::PlainText);
     mpTitle->setAlignment(Qt::AlignCenter);
-    mpTitle->setStyleSheet("font-weight: bold; font-size: 16px;");
     createTable();
+    updateFonts();
+    connect(mpTimeline, &WidgetErrorTime::signalTime, this, &WidgetFaultMatrix::signalTime);
     auto* pLayout = new QVBoxLayout(this);
     pLayout->addWidget(mpTitle);
     pLayout->addWidget(mpTimeline);
@@ -43,9 +47,7 @@ WidgetFaultMatrix::WidgetFaultMatrix(const CardContainer& container, QWidget* pP
 
 void WidgetFaultMatrix::createTable()
 {
-    mpTable->setMinimumHeight(kTableHeight);
     mpTable->viewport()->installEventFilter(this); // has its new width later than this panel
-    mpTable->setRowHeight(0, kRowHeight);
     mpTable->verticalHeader()->hide();
     mpTable->setSelectionBehavior(QAbstractItemView::SelectRows);
     mpTable->setSelectionMode(QAbstractItemView::SingleSelection);
@@ -53,7 +55,6 @@ void WidgetFaultMatrix::createTable()
     mpTable->setTabKeyNavigation(false);
     mpTable->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     QHeaderView* pHeader = mpTable->horizontalHeader();
-    pHeader->setStyleSheet("QHeaderView::section { font-size: 8px; padding: 2px 0px; }");
     pHeader->setSectionResizeMode(QHeaderView::Fixed);
     QStringList labels;
     for (int column = 0; column < kBits; ++column)
@@ -84,6 +85,7 @@ void WidgetFaultMatrix::setData(const FaultMatrix& matrix)
         mItems[static_cast<std::size_t>(bit)] = pItem;
         mpTable->setCellWidget(0, columnOf(bit), pItem); // deletes the one that was there
     }
+    layoutTable();
 }
 
 void WidgetFaultMatrix::updateRecord(RecordData* pRecord)
@@ -115,17 +117,47 @@ void WidgetFaultMatrix::updateLiveData()
         showWord(faultWord(pChannel->last().payload));
 }
 
-void WidgetFaultMatrix::layoutColumns()
+/// Title, numbers and names keep their proportions to the program's text.
+void WidgetFaultMatrix::updateFonts()
 {
-    const int width = std::max(mpTable->viewport()->width() / kBits, kMinimumWidth);
+    const int size = textSize(*this);
+    if (size == mTextSize)
+        return;
+    mTextSize = size;
+    mpTitle->setStyleSheet(QString("font-weight: bold; font-size: %1px;").arg(size * 4 / 3));
+    mpTable->horizontalHeader()->setStyleSheet(
+        QString("QHeaderView::section { font-size: %1px; padding: 2px 0px; }").arg(std::max(size * 2 / 3, kSmallestText)));
+    layoutTable();
+}
+
+/// Every name is whole, with a scroll bar below as without it.
+void WidgetFaultMatrix::layoutTable()
+{
+    int row = kRowHeight, least = kMinimumWidth;
+    for (const WidgetErrorItem* pItem : mItems) {
+        row = pItem ? std::max(row, pItem->lengthOfText()) : row;
+        least = pItem ? std::max(least, pItem->thicknessOfText()) : least;
+    }
+    row = std::min(row, kMostHeight);
+    const int width = std::max(mpTable->viewport()->width() / kBits, least);
     for (int column = 0; column < kBits; ++column)
         mpTable->setColumnWidth(column, width);
+    mpTable->setRowHeight(0, row);
+    const int bar = width * kBits > mpTable->viewport()->width() ? mpTable->horizontalScrollBar()->sizeHint().height() : 0;
+    mpTable->setMinimumHeight(std::max(kTableHeight, mpTable->horizontalHeader()->sizeHint().height() + row + bar + 2 * mpTable->frameWidth()));
+}
+
+void WidgetFaultMatrix::changeEvent(QEvent* pEvent)
+{
+    QFrame::changeEvent(pEvent);
+    if (pEvent->type() == QEvent::FontChange || pEvent->type() == QEvent::StyleChange)
+        updateFonts();
 }
 
 bool WidgetFaultMatrix::eventFilter(QObject* pObject, QEvent* pEvent)
 {
     if (pObject == mpTable->viewport() && pEvent->type() == QEvent::Resize)
-        layoutColumns();
+        layoutTable();
     return QFrame::eventFilter(pObject, pEvent);
 }
 

@@ -38,10 +38,18 @@ public:
     /// Sees the resizing of the bit table.
     bool eventFilter(QObject* pObject, QEvent* pEvent) override;
 
+Q_SIGNALS:
+    /// The user clicked at a time of the timeline, in seconds.
+    void signalTime(double time);
+
+protected:
+    void changeEvent(QEvent* pEvent) override;
+
 private:
     void createTable();
     void showWord(uint32_t word);
-    void layoutColumns();
+    void updateFonts();
+    void layoutTable();
 
     FaultMatrix mMatrix;
     RecordData* mpRecord = nullptr;
@@ -49,6 +57,7 @@ private:
     WidgetErrorTime* mpTimeline;
     QTableWidget* mpTable;
     std::array<WidgetErrorItem*, kBits> mItems{}; ///< by bit; owned by the table
+    int mTextSize = 0;                            ///< in pixels, that the fonts were made for
 };
 
 } // namespace ZARN

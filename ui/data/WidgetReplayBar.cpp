@@ -2,20 +2,19 @@
 
 #include "app/Numeric.h"
 #include "app/gui/ImageHandler.h"
+#include "ui/data/JumpSlider.h"
 #include "ui/data/ReplayButton.h"
+#include "ui/data/SpeedBox.h"
+#include "ui/data/TimeEntry.h"
+#include "ui/data/model/ReplaySpeed.h"
+#include "ui/data/model/TimeOfDay.h"
 
 #include <QDateTime>
-#include <QDoubleSpinBox>
 #include <QEvent>
-#include <QKeyEvent>
 #include <QLCDNumber>
-#include <QLineEdit>
-#include <QSlider>
-#include <QTimeEdit>
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <utility>
 
 namespace ZARN {
 
@@ -44,19 +43,14 @@ QLCDNumber* createClock(const char* name, int digits, const QString& text)
 } // namespace
 
 WidgetReplayBar::WidgetReplayBar(bool emu, QWidget* pParent)
-    : QWidget(pParent), mpReplay(new ReplayButton("replay")), mpStop(new ReplayButton("stop")), mpPosition(new QSlider(Qt::Horizontal)),
-      mpTime(new QTimeEdit), mpSpeedSlider(new QSlider(Qt::Horizontal)), mpSpeed(new QDoubleSpinBox), mpUpper(new QHBoxLayout),
-      mpLower(new QHBoxLayout)
+    : QWidget(pParent), mpReplay(new ReplayButton("replay")), mpStop(new ReplayButton("stop")), mpPosition(new JumpSlider), mpTime(new TimeEntry),
+      mpSpeedSlider(new JumpSlider), mpSpeed(new SpeedBox), mpUpper(new QHBoxLayout), mpLower(new QHBoxLayout)
 {
     createClocks();
     mpStop->setLook(tr("Replay Stop"), ImageHandler::icon("replay-stop"));
     setReplay(eStopped);
-    mpPosition->setObjectName("position");
-    mpPosition->setRange(0, kPositions);
-    mpPosition->setMinimumWidth(kSliderWidth);
-    mpPosition->setToolTip(tr("Position in the record"));
-    createTime();
-    createSpeed();
+    createSliders();
+    createEntries();
     auto* pLayout = new QVBoxLayout(this);
     pLayout->setContentsMargins(0, 0, 0, 0);
     pLayout->addLayout(mpUpper);
@@ -65,6 +59,7 @@ WidgetReplayBar::WidgetReplayBar(bool emu, QWidget* pParent)
     for (QWidget* pHidden : {static_cast<QWidget*>(mpTimeClock), static_cast<QWidget*>(mpPosition), static_cast<QWidget*>(mpTime)})
         pHidden->setVisible(!emu);
     connectControls();
+    arrange();
 }
 
 void WidgetReplayBar::createClocks()
@@ -75,30 +70,36 @@ void WidgetReplayBar::createClocks()
     mpTimeClock->setToolTip(tr("Time since the unit's power-up"));
 }
 
-void WidgetReplayBar::createTime()
+void WidgetReplayBar::createSliders()
 {
-    mpTime->setObjectName("time");
-    mpTime->setDisplayFormat("hh:mm:ss");
-    mpTime->setFixedWidth(kEntryWidth);
-    mpTime->setKeyboardTracking(false); // no jump while half a time is typed
-    mpTime->setToolTip(tr("Time since the unit's power-up"));
-    mpTime->installEventFilter(this);
-    connect(mpTime->findChild<QLineEdit*>(), &QLineEdit::textEdited, this, [this] { mTyped = true; });
-}
-
-void WidgetReplayBar::createSpeed()
-{
+    mpPosition->setObjectName("position");
+    mpPosition->setRange(0, kPositions);
+    mpPosition->setMinimumWidth(kSliderWidth);
+    mpPosition->setToolTip(tr("Position in the record"));
+    mpPosition->setAccessibleName(mpPosition->toolTip());
     mpSpeedSlider->setObjectName("speedSlider");
-    mpSpeedSlider->setRange(100, 10000);
+    mpSpeedSlider->setRange(saturatingCast<int>(kSlowestReplay * kHundredths), saturatingCast<int>(kFastestReplay * kHundredths));
     mpSpeedSlider->setFixedWidth(kSliderWidth);
     mpSpeedSlider->setToolTip(tr("Speed of the replay"));
+    mpSpeedSlider->setAccessibleName(mpSpeedSlider->toolTip());
+}
+
+void WidgetReplayBar::createEntries()
+{
+    mpTime->setObjectName("time");
+    mpTime->setToolTip(tr("Time since the unit's power-up. 15:30 and 1530 are 15 minutes and 30 seconds, 1:15:30 is an hour later."));
+    mpTime->setAccessibleName(tr("Time since the unit's power-up"));
     mpSpeed->setObjectName("speed");
-    mpSpeed->setRange(1.0, 100.0);
     mpSpeed->setPrefix(tr("Speed "));
-    mpSpeed->setFixedWidth(kEntryWidth);
-    mpSpeed->setKeyboardTracking(false);
+    mpSpeed->setToolTip(mpSpeedSlider->toolTip());
+    mpSpeed->setAccessibleName(mpSpeedSlider->toolTip());
     mpSpeed->setStyleSheet("QDoubleSpinBox { padding-left: 2px; padding-right: 0px; }" // "Speed 100.00" must fit
                            "QDoubleSpinBox::up-button, QDoubleSpinBox::down-button { width: 16px; }");
+}
+
+void WidgetReplayBar::stepSpeed(int steps)
+{
+    Q_EMIT signalSpeed(steppedSpeed(mpSpeed->value(), steps));
 }
 
 void WidgetReplayBar::connectControls()
@@ -106,10 +107,15 @@ void WidgetReplayBar::connectControls()
     connect(mpReplay, &ReplayButton::clicked, this, &WidgetReplayBar::signalReplay);
     connect(mpStop, &ReplayButton::clicked, this, &WidgetReplayBar::signalStop);
     connect(mpPosition, &QSlider::valueChanged, this, &WidgetReplayBar::signalPosition);
-    connect(mpTime, &QTimeEdit::timeChanged, this, &WidgetReplayBar::slotTimeChanged);
-    connect(mpTime, &QTimeEdit::editingFinished, this, &WidgetReplayBar::slotTimeFinished);
+    connect(mpTime, &TimeEntry::signalTime, this, &WidgetReplayBar::signalTime);
+    connect(mpSpeedSlider, &JumpSlider::signalWheel, this, &WidgetReplayBar::stepSpeed);
+    connect(mpSpeedSlider, &QSlider::actionTriggered, this, [this](int action) {
+        const bool isUp = action == QSlider::SliderSingleStepAdd || action == QSlider::SliderPageStepAdd;
+        if (isUp || action == QSlider::SliderSingleStepSub || action == QSlider::SliderPageStepSub)
+            mpSpeedSlider->setSliderPosition(saturatingCast<int>(steppedSpeed(mpSpeed->value(), isUp ? 1 : -1) * kHundredths));
+    });
     connect(mpSpeedSlider, &QSlider::valueChanged, this, &WidgetReplayBar::signalSpeedSlider);
-    connect(mpSpeed, &QDoubleSpinBox::valueChanged, this, &WidgetReplayBar::signalSpeed);
+    connect(mpSpeed, &SpeedBox::valueChanged, this, &WidgetReplayBar::signalSpeed);
 }
 
 /// One line in the order of the tasks; in two lines the clocks and the time entry stand above the replay.
@@ -148,12 +154,12 @@ int WidgetReplayBar::widthOfText() const
 
 int WidgetReplayBar::widthOfReplay(int buttonWidth) const
 {
-    return 2 * buttonWidth + 2 * kSliderWidth + kEntryWidth + 4 * mpLower->spacing();
+    return 2 * buttonWidth + 2 * kSliderWidth + mpSpeed->width() + 4 * mpLower->spacing();
 }
 
 int WidgetReplayBar::widthOfClocks() const
 {
-    return 2 * kClockSize.width() + kEntryWidth + 3 * mpUpper->spacing();
+    return 2 * kClockSize.width() + mpTime->width() + 3 * mpUpper->spacing();
 }
 
 QSize WidgetReplayBar::minimumSizeHint() const
@@ -164,6 +170,8 @@ QSize WidgetReplayBar::minimumSizeHint() const
 
 void WidgetReplayBar::arrange()
 {
+    mpTime->setFixedWidth(std::max(kEntryWidth, mpTime->sizeHint().width()));
+    mpSpeed->setFixedWidth(std::max(kEntryWidth, mpSpeed->sizeHint().width()));
     const int text = widthOfText();
     const bool oneLine = width() >= widthOfReplay(text) + widthOfClocks() + kSliderWidth; // with more than the least for the position
     const int buttonWidth = width() >= widthOfReplay(text) ? text : mpStop->widthFor({});
@@ -205,49 +213,10 @@ void WidgetReplayBar::setDateTime(const QDateTime& dateTime)
     mpDateClock->display(text.size() == kDateDigits ? text : QString("--.--.---- --:--:--"));
 }
 
-void WidgetReplayBar::setTime(const QTime& time)
+void WidgetReplayBar::setTime(int64_t milliseconds)
 {
-    mpTimeClock->display(time.toString("hh:mm:ss.zzz"));
-    if (!mTyped || !mpTime->hasFocus())
-        mpTime->setTime(time);
-}
-
-void WidgetReplayBar::slotTimeChanged(const QTime& time)
-{
-    if (!mTyped) // the entry also changes at the end of a section, with half a time typed
-        Q_EMIT signalTime(time);
-}
-
-/// The time that was typed may be the one that the entry had before, which is no change of it: the view time may have gone on since.
-void WidgetReplayBar::slotTimeFinished()
-{
-    if (std::exchange(mTyped, false))
-        Q_EMIT signalTime(mpTime->time());
-    if (mpTime->hasFocus())
-        mpTime->setSelectedSection(QDateTimeEdit::HourSection); // for the next time
-}
-
-bool WidgetReplayBar::eventFilter(QObject* pObject, QEvent* pEvent)
-{
-    if (pObject == mpTime && pEvent->type() == QEvent::KeyPress)
-        return filterKey(*static_cast<QKeyEvent*>(pEvent));
-    return QWidget::eventFilter(pObject, pEvent);
-}
-
-/// The entry goes to its next section by itself when one is complete, and again at a colon: one that is typed behind a complete section
-/// must not skip the next one. Nor must a time that is typed over all of it begin in another section than the hours.
-bool WidgetReplayBar::filterKey(const QKeyEvent& event)
-{
-    const int section = mpTime->currentSection();
-    const int digitSection = std::exchange(mDigitSection, 0);
-    if (event.matches(QKeySequence::SelectAll) || event.matches(QKeySequence::MoveToStartOfLine)) {
-        mpTime->setSelectedSection(QDateTimeEdit::HourSection);
-        return true;
-    }
-    const QString text = event.text();
-    if (text.size() == 1 && text[0].isDigit())
-        mDigitSection = section;
-    return text == ":" && digitSection != 0 && digitSection != section;
+    mpTimeClock->display(timeOfDayText(milliseconds));
+    mpTime->showTime(static_cast<int>(std::clamp<int64_t>(milliseconds / 1000, 0, TimeEntry::kLatest)));
 }
 
 void WidgetReplayBar::setPosition(int position)

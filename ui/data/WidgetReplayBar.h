@@ -1,19 +1,17 @@
 #pragma once
 
-#include <QTime>
 #include <QWidget>
 
 class QBoxLayout;
 class QDateTime;
-class QDoubleSpinBox;
-class QKeyEvent;
 class QLCDNumber;
-class QSlider;
-class QTimeEdit;
 
 namespace ZARN {
 
+class JumpSlider;
 class ReplayButton;
+class SpeedBox;
+class TimeEntry;
 
 /// The row of controls below the data views: two clocks, replay, position, time entry and speed. Shows what it is told and reports
 /// what the user does; its signals also come when it is told something. Breaks into two lines where one would be too wide, and
@@ -32,8 +30,8 @@ public:
     void setSpeed(double factor);
     /// The wall clock; dashes for an invalid one, or one that the clock has no digits for.
     void setDateTime(const QDateTime& dateTime);
-    /// The view time as a time of day. The entry follows when the user has finished typing into it.
-    void setTime(const QTime& time);
+    /// The view time: as a time of day in its clock, as it is in the entry, which follows when the user has finished typing into it.
+    void setTime(int64_t milliseconds);
     /// @param position 0 to kPositions
     void setPosition(int position);
 
@@ -43,24 +41,19 @@ Q_SIGNALS:
     void signalReplay();
     void signalStop();
     void signalPosition(int position);
-    void signalTime(const QTime& time);
+    void signalTime(int seconds);
     void signalSpeedSlider(int hundredths);
     void signalSpeed(double factor);
 
 protected:
     void resizeEvent(QResizeEvent* pEvent) override;
     void changeEvent(QEvent* pEvent) override;
-    bool eventFilter(QObject* pObject, QEvent* pEvent) override;
-
-private Q_SLOTS:
-    void slotTimeChanged(const QTime& time);
-    void slotTimeFinished();
 
 private:
     void createClocks();
-    void createTime();
-    bool filterKey(const QKeyEvent& event);
-    void createSpeed();
+    void createSliders();
+    void createEntries();
+    void stepSpeed(int steps);
     void connectControls();
     void arrange();
     void fillLines(bool oneLine);
@@ -72,15 +65,13 @@ private:
     QLCDNumber* mpTimeClock = nullptr;
     ReplayButton* mpReplay;
     ReplayButton* mpStop;
-    QSlider* mpPosition;
-    QTimeEdit* mpTime;
-    QSlider* mpSpeedSlider;
-    QDoubleSpinBox* mpSpeed;
+    JumpSlider* mpPosition;
+    TimeEntry* mpTime;
+    JumpSlider* mpSpeedSlider;
+    SpeedBox* mpSpeed;
     QBoxLayout* mpUpper;
     QBoxLayout* mpLower;
     bool mOneLine = false;
-    int mDigitSection = 0; ///< of the entry, in which the last digit was typed; 0 when the last key was none
-    bool mTyped = false;   ///< the entry holds a text of the user that is no time yet
 };
 
 } // namespace ZARN

@@ -6,6 +6,7 @@
 #include "ui/data/DialogDataStatistic.h"
 #include "ui/data/DialogDataTable.h"
 #include "ui/data/ReplayButton.h"
+#include "ui/data/TimeEntry.h"
 #include "ui/data/WidgetReplayBar.h"
 
 #include <QAbstractItemView>
@@ -22,9 +23,9 @@
 #include <QStackedWidget>
 #include <QTest>
 #include <QTextEdit>
-#include <QTimeEdit>
 #include <QTimer>
 #include <QTranslator>
+#include <QWheelEvent>
 
 using namespace ZARN;
 
@@ -114,10 +115,12 @@ class TestDialogData : public QObject {
 private Q_SLOTS:
     void pushOrders_data();
     void pushOrders();
-    void echoesAreIgnored();
     void clocks_data();
     void clocks();
     void controls();
+    void grooves();
+    void decimalSign_data();
+    void decimalSign();
     void positionsStay();
     void typedTimes_data();
     void typedTimes();
@@ -138,21 +141,38 @@ void TestDialogData::pushOrders_data()
     QTest::addColumn<Action>("action");
     QTest::addColumn<QString>("calls");
     const auto row = [](const char* name, const Action& action, const char* calls) { QTest::newRow(name) << action << QString(calls); };
-    row("record", [](DialogData& area) { area.updateRecord(); }, "Tr Gr Fr Sr Lr Wr Mr T10 G10 F10 L10 W10 M10");
-    row("profile", [](DialogData& area) { area.updateProfile(); }, "Tp Gp Fp Lp Wp Mp T10 G10 F10 L10 W10 M10");
-    row("profile file", [](DialogData& area) { area.loadProfile(); }, "Fl Fr F10");
-    row("mode", [](DialogData& area) { area.setZarnMode(1); }, "");
-    row("table", [](DialogData& area) { area.slotTableTime(20.5); }, "G20.5 F20.5 L20.5 W20.5 M20.5");
-    row("graph", [](DialogData& area) { area.slotCursor(20.5F, 3.0); }, "T20.5 F20.5 L20.5 W20.5 M20.5");
-    row("limits", [](DialogData& area) { area.slotLimitTime(20.5); }, "G20.5 F20.5 T20.5 W20.5 M20.5");
-    row("warnings", [](DialogData& area) { area.slotWarningTime(20.5); }, "G20.5 F20.5 T20.5 L20.5");
-    row("map", [](DialogData& area) { area.slotMapTime(20.5); }, "T20.5 G20.5 F20.5 L20.5 W20.5");
-    row("no time", [](DialogData& area) { area.slotTableTime(std::numeric_limits<double>::quiet_NaN()); }, "");
-    row("slider", [](DialogData& area) { area.slotSlider(2500); }, "T35 G35 F35 L35 W35 M35");
-    row("time entry", [](DialogData& area) { area.slotValue(QTime(0, 1, 3, 999)); }, "T63 G63 F63 L63 W63 M63");
-    row("stop", [](DialogData& area) { area.slotReplayStop(); }, "T10 G10 F10 L10 W10 M10");
-    row("speed", [](DialogData& area) { area.slotReplaySpeed(250); }, "");
-    row("release", [](DialogData& area) { area.releaseRecord(); }, "T0 G0 F0 S0 L0 W0 M0");
+    row(
+        "record", [](DialogData& area) { area.updateRecord(); }, "Tr Gr Fr Sr Lr Wr Mr T10 G10 F10 L10 W10 M10");
+    row(
+        "profile", [](DialogData& area) { area.updateProfile(); }, "Tp Gp Fp Lp Wp Mp T10 G10 F10 L10 W10 M10");
+    row(
+        "profile file", [](DialogData& area) { area.loadProfile(); }, "Fl Fr F10");
+    row(
+        "mode", [](DialogData& area) { area.setZarnMode(1); }, "");
+    row(
+        "table", [](DialogData& area) { area.slotTableTime(20.5); }, "G20.5 F20.5 L20.5 W20.5 M20.5");
+    row(
+        "graph", [](DialogData& area) { area.slotCursor(20.5F, 3.0); }, "T20.5 F20.5 L20.5 W20.5 M20.5");
+    row(
+        "faults", [](DialogData& area) { area.slotFaultTime(20.5); }, "T20.5 G20.5 F20.5 L20.5 W20.5 M20.5");
+    row(
+        "limits", [](DialogData& area) { area.slotLimitTime(20.5); }, "G20.5 F20.5 T20.5 W20.5 M20.5");
+    row(
+        "warnings", [](DialogData& area) { area.slotWarningTime(20.5); }, "G20.5 F20.5 T20.5 L20.5");
+    row(
+        "map", [](DialogData& area) { area.slotMapTime(20.5); }, "T20.5 G20.5 F20.5 L20.5 W20.5");
+    row(
+        "no time", [](DialogData& area) { area.slotTableTime(std::numeric_limits<double>::quiet_NaN()); }, "");
+    row(
+        "slider", [](DialogData& area) { area.slotSlider(2500); }, "T35 G35 F35 L35 W35 M35");
+    row(
+        "time entry", [](DialogData& area) { area.slotValue(63); }, "T63 G63 F63 L63 W63 M63");
+    row(
+        "stop", [](DialogData& area) { area.slotReplayStop(); }, "T10 G10 F10 L10 W10 M10");
+    row(
+        "speed", [](DialogData& area) { area.slotReplaySpeed(250); }, "");
+    row(
+        "release", [](DialogData& area) { area.releaseRecord(); }, "T0 G0 F0 S0 L0 W0 M0");
 }
 
 void TestDialogData::pushOrders()
@@ -162,18 +182,6 @@ void TestDialogData::pushOrders()
     area.show();
     action(*area.area);
     QTEST(area.take(), "calls");
-}
-
-void TestDialogData::echoesAreIgnored()
-{
-    Area area;
-    area.show();
-    // What the controls signal while they are refreshed is no move of the user: only one push each.
-    area.area->slotTableTime(60.5);
-    QCOMPARE(area.take().count("G60.5"), 1);
-    QCOMPARE(area.area->viewTime(), 60.5);
-    QCOMPARE(area.find<QSlider>("position")->value(), 5050);
-    QCOMPARE(area.find<QTimeEdit>("time")->time(), QTime(0, 1, 0, 500));
 }
 
 void TestDialogData::clocks_data()
@@ -202,7 +210,6 @@ void TestDialogData::clocks()
     QVERIFY(shows(dateClock, "--.--.---- --:--:--") && shows(timeClock, "--:--:--.---"));
     area.show();
     area.area->slotLimitTime(time);
-    QTEST(area.find<QTimeEdit>("time")->time(), "timeOfDay");
     QTEST(area.find<QSlider>("position")->value(), "position");
     QVERIFY(shows(dateClock, date));
     QVERIFY(shows(timeClock, timeOfDay.toString("hh:mm:ss.zzz")));
@@ -214,13 +221,63 @@ void TestDialogData::controls()
     area.show();
     area.find<QSlider>("position")->setValue(5000);
     QCOMPARE(area.take(), QString("T60 G60 F60 L60 W60 M60"));
-    area.find<QTimeEdit>("time")->setTime(QTime(0, 0, 30));
-    QCOMPARE(area.take(), QString("T30 G30 F30 L30 W30 M30"));
-    area.find<QSlider>("speedSlider")->setValue(1234);
-    QCOMPARE(area.find<QDoubleSpinBox>("speed")->value(), 12.34);
-    area.find<QDoubleSpinBox>("speed")->setValue(99.5);
-    QCOMPARE(area.find<QSlider>("speedSlider")->value(), 9950);
+    QTest::keyClick(area.find<TimeEntry>("time"), Qt::Key_Up);
+    QCOMPARE(area.take(), QString("T61 G61 F61 L61 W61 M61"));
+    auto* pSlider = area.find<QSlider>("speedSlider");
+    auto* pSpeed = area.find<QDoubleSpinBox>("speed");
+    pSlider->setValue(1234);
+    QCOMPARE(pSpeed->value(), 12.34);
+    pSpeed->setValue(99.5);
+    QCOMPARE(pSlider->value(), 9950);
+    QTest::keyClick(pSlider, Qt::Key_Left);
+    QCOMPARE(pSpeed->value(), 50.0);
+    QWheelEvent wheel(QPointF(5, 5), pSlider->mapToGlobal(QPointF(5, 5)), {}, QPoint(0, -240), Qt::NoButton, {}, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(pSlider, &wheel);
+    QCOMPARE(pSpeed->value(), 10.0);
+    for (int i = 0; i < 9; ++i)
+        QTest::keyClick(pSpeed, Qt::Key_Down);
+    QCOMPARE(pSpeed->value(), 0.1);
     QCOMPARE(area.take(), QString());
+}
+
+void TestDialogData::grooves()
+{
+    Area area;
+    area.show();
+    area.area->resize(1200, 700);
+    area.area->show();
+    for (const char* name : {"position", "speedSlider"}) {
+        auto* pSlider = area.find<QSlider>(name);
+        for (const double share : {0.75, 0.25}) {
+            QTest::mouseClick(pSlider, Qt::LeftButton, {}, QPoint(static_cast<int>(pSlider->width() * share), pSlider->height() / 2));
+            QVERIFY2(std::abs(pSlider->value() / double(pSlider->maximum()) - share) < 0.08, name);
+        }
+    }
+    QCOMPARE(area.find<QDoubleSpinBox>("speed")->value(), area.find<QSlider>("speedSlider")->value() / 100.0);
+}
+
+void TestDialogData::decimalSign_data()
+{
+    QTest::addColumn<QLocale>("locale");
+    QTest::addColumn<QString>("shown");
+    QTest::newRow("English") << QLocale(QLocale::English) << "Speed 2.50";
+    QTest::newRow("German") << QLocale(QLocale::German) << "Speed 2,50";
+}
+
+void TestDialogData::decimalSign()
+{
+    QFETCH(QLocale, locale);
+    QLocale::setDefault(locale);
+    const Area area;
+    QLocale::setDefault(QLocale::c());
+    auto* pSpeed = area.area->findChild<QDoubleSpinBox*>("speed");
+    for (const char* typed : {"2.5", "2,5"}) {
+        pSpeed->setValue(1.0);
+        pSpeed->selectAll();
+        QTest::keyClicks(pSpeed, typed);
+        QTest::keyClick(pSpeed, Qt::Key_Return);
+        QTEST(pSpeed->text(), "shown");
+    }
 }
 
 void TestDialogData::positionsStay()
@@ -240,10 +297,17 @@ void TestDialogData::typedTimes_data()
     QTest::addColumn<QString>("typed");
     QTest::addColumn<double>("seconds");
     QTest::newRow("home") << QKeySequence(Qt::Key_Home) << "12:34:56" << 45296.0;
-    QTest::newRow("all") << QKeySequence(QKeySequence::SelectAll) << "12:34:56" << 45296.0;
-    QTest::newRow("digits only") << QKeySequence(Qt::Key_Home) << "123456" << 45296.0;
-    QTest::newRow("short") << QKeySequence(QKeySequence::SelectAll) << "1:2:03" << 3723.0;
-    QTest::newRow("short minutes") << QKeySequence(Qt::Key_Home) << "9:34:5" << 34445.0;
+    const QKeySequence all(QKeySequence::SelectAll);
+    QTest::newRow("all") << all << "12:34:56" << 45296.0;
+    QTest::newRow("digits only") << all << "123456" << 45296.0;
+    QTest::newRow("short") << all << "1:2:03" << 3723.0;
+    QTest::newRow("minutes and seconds") << all << "15:30" << 930.0;
+    QTest::newRow("the same in digits") << all << "1530" << 930.0;
+    QTest::newRow("a minute in one digit") << all << "330" << 210.0;
+    QTest::newRow("the second day") << all << "25:00:01" << 90001.0;
+    QTest::newRow("damage") << all << "999:00:00" << 2e6;
+    QTest::newRow("no time") << all << "1:75" << 60.5;
+    QTest::newRow("not whole") << all << "12:" << 60.5;
 }
 
 void TestDialogData::typedTimes()
@@ -253,24 +317,32 @@ void TestDialogData::typedTimes()
     Area area;
     area.show();
     QVERIFY(activate(*area.area));
-    auto* pTime = area.find<QTimeEdit>("time");
+    auto* pTime = area.find<TimeEntry>("time");
+    const auto type = [&](const QString& text) {
+        for (const QChar character : text) {
+            const bool shifted = character == ':'; // with the key itself, as a keyboard does
+            shifted ? QTest::keyPress(pTime, Qt::Key_Shift) : void();
+            QTest::keyClick(pTime, character.toLatin1(), shifted ? Qt::ShiftModifier : Qt::NoModifier);
+            shifted ? QTest::keyRelease(pTime, Qt::Key_Shift) : void();
+        }
+    };
     QTest::mouseClick(pTime, Qt::LeftButton, {}, QPoint(10, pTime->height() / 2));
     QTest::keyClick(pTime, Qt::Key_End);
     QTest::keySequence(pTime, first);
-    QTest::keyClicks(pTime, typed.first(3));
+    type(typed.first(3));
     area.area->slotTableTime(60.5); // the replay goes on
-    QTest::keyClicks(pTime, typed.mid(3));
+    type(typed.mid(3));
     QCOMPARE(area.area->viewTime(), 60.5);
     QTest::keyClick(pTime, Qt::Key_Return);
     QTEST(area.area->viewTime(), "seconds");
     area.area->slotTableTime(60.5);
-    QTest::keyClicks(pTime, "00:01:00");
+    type("00:01:00");
     area.area->slotTableTime(70.5);
     area.take();
     QTest::keyClick(pTime, Qt::Key_Return); // what the entry held when the typing began
     QCOMPARE(area.take(), QString("T60 G60 F60 L60 W60 M60"));
-    area.area->slotTableTime(70.5);
-    QCOMPARE(pTime->text(), QString("00:01:10"));
+    area.area->slotTableTime(90070.5);
+    QCOMPARE(pTime->text(), QString("25:01:10"));
 }
 
 void TestDialogData::replay()
@@ -299,12 +371,17 @@ void TestDialogData::replay()
     area.take();
     area.now += 0.5;
     area.area->slotTimeoutReplay();
-    QCOMPARE(area.take(), QString("T115 G115 F115 L115 W115 M115 T10 G10 F10 L10 W10 M10"));
+    QCOMPARE(area.take(), QString("T110 G110 F110 L110 W110 M110")); // paused where the record ends
+    QCOMPARE(pStart->text(), QString("Replay Run"));
+    pStart->click();
+    QCOMPARE(area.take(), QString("T10 G10 F10 L10 W10 M10")); // begins anew
+    area.now += 1.0;
+    QTRY_VERIFY(area.log.contains("M20")); // the timer ticks by itself
+    pStop->click();
+    QCOMPARE(area.area->viewTime(), 10.0);
     QCOMPARE(pStart->text(), QString("Replay Start"));
     QVERIFY(!pStop->isEnabled());
-    area.now += 1.0;
     pStart->click();
-    QTRY_VERIFY(area.log.contains("M10")); // the timer ticks by itself
     area.take();
     area.area->releaseRecord();
     QTest::qWait(60);
@@ -333,7 +410,7 @@ void TestDialogData::emu()
     QVERIFY(area.find<QLCDNumber>("dateClock")->isVisible());
     QVERIFY(!area.find<QLCDNumber>("timeClock")->isVisible());
     QVERIFY(!area.find<QSlider>("position")->isVisible());
-    QVERIFY(!area.find<QTimeEdit>("time")->isVisible());
+    QVERIFY(!area.find<TimeEntry>("time")->isVisible());
 }
 
 void TestDialogData::mapPane()

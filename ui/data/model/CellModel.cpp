@@ -2,6 +2,7 @@
 
 #include "app/NumberText.h"
 #include "ui/data/model/ShownParameter.h"
+#include "ui/data/model/TextColour.h"
 
 namespace ZARN {
 
@@ -46,7 +47,7 @@ QVariant CellModel::data(const QModelIndex& index, int role) const
         const QColor background = cell(index).background;
         if (!background.isValid())
             return {};
-        return role == Qt::BackgroundRole ? background : QColor(Qt::black); // the grounds are light whatever the style
+        return role == Qt::BackgroundRole ? background : textColourOn(background);
     }
     case Qt::ToolTipRole: {
         const QString state = ShownParameter::stateName(cell(index).state);

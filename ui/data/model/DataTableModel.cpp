@@ -3,14 +3,18 @@
 #include "ui/data/model/TimeOfDay.h"
 
 #include <algorithm>
+#include <array>
+#include <cmath>
 #include <limits>
+#include <set>
 
 namespace ZARN {
 
 namespace {
 
 constexpr std::size_t kMaxRows = std::numeric_limits<int>::max() / 32; // a view counts its height in pixels as an int
-constexpr std::size_t kSomeTexts = 16;
+constexpr std::size_t kRun = 512; // samples decoded at once
+constexpr std::size_t kSomeValues = 64;
 const QColor kTimeGround(230, 230, 230);
 
 std::vector<float> textValues(const ValueDecoder& decoder, const RecordEntries& entries, CoordinateFilter& filter)
@@ -127,18 +131,47 @@ TableCell DataTableModel::valueCell(std::size_t column, std::size_t position) co
     return TableCell::ofValue(decoder, value);
 }
 
-QStringList DataTableModel::someTexts(int column) const
+template <typename Visitor> void DataTableModel::forEachValue(std::size_t column, Visitor visit) const
+{
+    const RecordChannel* pChannel = mRows.channel(column);
+    if (!pChannel)
+        return;
+    if (!mPositions[column].empty()) {
+        std::for_each(mPositions[column].begin(), mPositions[column].end(), visit);
+        return;
+    }
+    CoordinateFilter unused;
+    std::array<double, kRun> values{};
+    for (std::size_t position = 0; position < pChannel->entries.size();) {
+        const auto records = pChannel->entries.run(position, kRun);
+        mParameters[column].decoder().textValues(records, values.data(), unused);
+        std::for_each_n(values.begin(), records.size(), visit);
+        position += records.size();
+    }
+}
+
+QStringList DataTableModel::widestTexts(int column) const
 {
     if (column < 1 || column >= columnCount() || mRowCount == 0)
         return {};
     const auto place = static_cast<std::size_t>(column) - 1;
-    const RecordChannel* pChannel = mRows.channel(place);
-    if (!pChannel)
+    std::set<double> some; // the words of a list, or the first of many numbers
+    double least = std::numeric_limits<double>::infinity(), greatest = -least, previous = std::numeric_limits<double>::quiet_NaN();
+    forEachValue(place, [&](double value) {
+        if (value == previous || std::isnan(value))
+            return;
+        previous = value;
+        least = std::min(least, value);
+        greatest = std::max(greatest, value);
+        if (some.size() < kSomeValues)
+            some.insert(value);
+    });
+    if (some.empty())
         return {};
+    some.insert({least, greatest});
     QStringList texts;
-    const std::size_t size = pChannel->entries.size();
-    for (std::size_t i = 0; i < std::min(size, kSomeTexts); ++i)
-        texts.append(valueCell(place, i * (size - 1) / kSomeTexts).text);
+    for (const double value : some)
+        texts.append(TableCell::ofValue(mParameters[place].decoder(), value).text);
     return texts;
 }
 

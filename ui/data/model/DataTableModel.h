@@ -23,8 +23,8 @@ public:
     [[nodiscard]] const std::vector<ShownParameter>& parameters() const { return mParameters; }
     /// The row that shows a time: that of the greatest key at or before it, 0 when there is none.
     [[nodiscard]] int rowAt(double seconds) const;
-    /// Texts of a few samples spread over a column, to see how wide it must be.
-    [[nodiscard]] QStringList someTexts(int column) const;
+    /// Texts of a column of which one is as wide as any: those of its least and greatest value, and of all where there are few.
+    [[nodiscard]] QStringList widestTexts(int column) const;
     /// Memory that rows and positions take.
     [[nodiscard]] std::size_t bytes() const;
 
@@ -37,6 +37,7 @@ public:
 private:
     void removeRecord();
     void decodePositions();
+    template <typename Visitor> void forEachValue(std::size_t column, Visitor visit) const;
     [[nodiscard]] TableCell valueCell(std::size_t column, std::size_t position) const;
 
     Profile& mProfile;

@@ -25,6 +25,9 @@ public:
     /// @param mode 0 shows the record, anything else its newest values as they come in
     virtual void setZarnMode(int /*mode*/) {}
 
+    /// @param paused whether a live display holds what it shows, and follows the view time instead
+    virtual void setPaused(bool /*paused*/) {}
+
     /// The settings were changed, by another window.
     virtual void updateSettings() {}
 

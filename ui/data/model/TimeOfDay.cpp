@@ -2,6 +2,7 @@
 
 #include "app/Numeric.h"
 
+#include <algorithm>
 #include <array>
 
 namespace ZARN {
@@ -9,6 +10,10 @@ namespace ZARN {
 namespace {
 
 constexpr int64_t kDay = 86400000;
+constexpr int kMinute = 60; // also: seconds of one, minutes of an hour
+constexpr int kHour = 3600;
+constexpr qsizetype kFields = 3;
+constexpr qsizetype kMostDigits = 5;
 
 void putDigits(char16_t* pOut, int value, int digits)
 {
@@ -39,6 +44,32 @@ QString timeOfDayText(int64_t milliseconds)
     putDigits(&text[6], time.second(), 2);
     putDigits(&text[9], time.msec(), 3);
     return QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QString elapsedText(int seconds)
+{
+    const QChar zero('0');
+    return QString("%1:%2:%3").arg(seconds / kHour, 2, 10, zero).arg(seconds / kMinute % kMinute, 2, 10, zero).arg(seconds % kMinute, 2, 10, zero);
+}
+
+std::optional<int> elapsedSeconds(const QString& text)
+{
+    QStringList fields = text.trimmed().split(':');
+    if (fields.size() == 1) {
+        for (qsizetype place = fields[0].size() - 2; place > 0 && fields.size() < kFields; place -= 2) {
+            fields.insert(1, fields[0].mid(place, 2));
+            fields[0].truncate(place);
+        }
+    }
+    int seconds = 0;
+    for (qsizetype i = 0; i < fields.size(); ++i) {
+        const bool isNumber = !fields[i].isEmpty() && std::all_of(fields[i].begin(), fields[i].end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
+        const int number = isNumber && fields[i].size() <= kMostDigits ? fields[i].toInt() : -1;
+        if (fields.size() > kFields || number < 0 || (i > 0 && number >= kMinute))
+            return {};
+        seconds = seconds * kMinute + number;
+    }
+    return seconds;
 }
 
 } // namespace ZARN

@@ -3,6 +3,8 @@
 #include <QString>
 #include <QTime>
 
+#include <optional>
+
 namespace ZARN {
 
 /// Midnight plus so many milliseconds, which may be any number: it wraps every 24 hours.
@@ -11,5 +13,11 @@ namespace ZARN {
 [[nodiscard]] int64_t wholeMilliseconds(double seconds);
 /// The time of day as "hh:mm:ss.zzz".
 [[nodiscard]] QString timeOfDayText(int64_t milliseconds);
+
+/// Seconds as "hh:mm:ss", with as many hours as there are.
+[[nodiscard]] QString elapsedText(int seconds);
+/// A time as it is typed, in seconds: up to three fields with colons between them, or digits in pairs, of which the last are always the
+/// seconds: "1:02:03" and "10203", "15:30" and "1530", "90". The first field may be any number. None for everything else.
+[[nodiscard]] std::optional<int> elapsedSeconds(const QString& text);
 
 } // namespace ZARN

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QSpinBox>
+
+namespace ZARN {
+
+/// An entry for a time since power-up, of any number of hours. Reports what the user typed when he has finished, and each step at once;
+/// what it is told does not disturb a time that is being typed.
+class TimeEntry : public QSpinBox {
+    Q_OBJECT
+
+public:
+    static constexpr int kLatest = 2000000; ///< seconds; later times are damage
+
+    explicit TimeEntry(QWidget* pParent = nullptr);
+
+    void showTime(int seconds);
+
+Q_SIGNALS:
+    void signalTime(int seconds);
+
+protected:
+    [[nodiscard]] QString textFromValue(int value) const override;
+    [[nodiscard]] int valueFromText(const QString& text) const override;
+    [[nodiscard]] QValidator::State validate(QString& text, int& position) const override;
+    void fixup(QString& text) const override;
+    void stepBy(int steps) override;
+    void keyPressEvent(QKeyEvent* pEvent) override;
+    void focusInEvent(QFocusEvent* pEvent) override;
+
+private:
+    void finish();
+
+    QString mTyped; ///< since the last time that was told; empty when nothing was
+};
+
+} // namespace ZARN
