@@ -139,10 +139,7 @@ std::vector<RecordFlight> FlightReport::flights(int& firstNumber) const
     const RecordFlight& selected = mContainer.selectedFlight();
     if (!selected.valid)
         return pCycle->flights;
-    for (std::size_t i = 0; i < pCycle->flights.size(); ++i) {
-        if (pCycle->flights[i].takeOffTime == selected.takeOffTime)
-            firstNumber = static_cast<int>(i) + 1;
-    }
+    firstNumber = std::max(mContainer.selectedFlightNumber(), 1);
     return {selected};
 }
 

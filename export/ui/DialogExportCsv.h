@@ -9,6 +9,8 @@ namespace ZARN {
 
 class DialogExportCsvOptions;
 class DialogExportCsvPath;
+class ExportOutlook;
+struct ExportPart;
 
 /// The wizard of the CSV export.
 class DialogExportCsv : public QWizard {
@@ -17,11 +19,16 @@ class DialogExportCsv : public QWizard {
 public:
     explicit DialogExportCsv(const Session& session, QWidget* pParent = nullptr);
 
-    /// Asks the user for the options, beginning with these and, over them, what the settings have. @return whether the user accepts:
-    /// then the options are the user's, and the settings remember all but the file name.
-    bool getOptions(CsvExportOptions& options);
+    /// Asks the user for the options, beginning with these and, over them, what the settings have. @param parts of the data that can be
+    /// exported. @return whether the user accepts: then the options are the user's, and the settings remember all but the file name and the part.
+    bool getOptions(CsvExportOptions& options, const std::vector<ExportPart>& parts = {});
+    void accept() override;
 
 private:
+    void slotChanged();
+    /// What is chosen now.
+    [[nodiscard]] CsvExportOptions chosen() const;
+    [[nodiscard]] ExportOutlook outlook() const;
     void loadSettings();
     void saveSettings() const;
 

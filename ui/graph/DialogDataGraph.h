@@ -31,6 +31,7 @@ public:
     void updateProfile() override;
     void updateRecord(RecordData* pRecord) override;
     void setTime(double time) override;
+    [[nodiscard]] std::optional<TimeSpan> shownSpan() const override;
 
     [[nodiscard]] WidgetGraphES& graph() { return *mpGraph; }
     [[nodiscard]] GraphData& graphData() { return mData; }
