@@ -27,7 +27,7 @@ char* writeTwoDigits(char* pOut, uint32_t number)
 class CsvRows {
 public:
     CsvRows(std::vector<CsvColumn>& columns, const CsvExportOptions& options, SafeFile& file, const ProgressSpan& progress)
-        : mColumns(columns), mTicksPerSecond(1000 / options.resolution), mResolution(options.resolution), mSeparator(options.separator),
+        : mColumns(columns), mTicksPerSecond(1000 / options.resolution), mResolution(options.resolution), mSeparator(options.separator), mSpan(options.span),
           mFile(file), mProgress(progress), mWindow(windowTicks(columns.size())), mCells(columns.size() * mWindow.marked.size()),
           mLines(std::max(kLinesSize, kTimeTextSize + (columns.size() + 1) * sizeof(CsvCell)))
     {
@@ -44,6 +44,8 @@ public:
             fillWindow();
             if (!writeWindow() || !mProgress.step(samplesDone(), samples))
                 return false;
+            if (mSpan && seconds(mWindow.end()) > mSpan->end)
+                break;
         }
         return true;
     }
@@ -56,6 +58,8 @@ private:
             first = std::min(first, column.nextTick());
         return first;
     }
+
+    [[nodiscard]] double seconds(uint64_t tick) const { return static_cast<double>(tick) * mResolution / 1000; }
 
     [[nodiscard]] uint64_t samplesDone() const
     {
@@ -87,8 +91,10 @@ private:
     bool writeWindow()
     {
         mpOut = mLines.data();
-        for (std::size_t row = 0; row < mWindow.rows.size(); ++row)
-            writeLine(row);
+        for (std::size_t row = 0; row < mWindow.rows.size(); ++row) {
+            if (!mSpan || mSpan->holds(seconds(mWindow.first + mWindow.rows[row])))
+                writeLine(row);
+        }
         return flush();
     }
 
@@ -169,6 +175,7 @@ private:
     uint32_t mTicksPerSecond;
     uint32_t mResolution;
     char mSeparator;
+    std::optional<TimeSpan> mSpan;
     SafeFile& mFile;
     const ProgressSpan& mProgress;
     CsvWindow mWindow;

@@ -1,10 +1,13 @@
 #pragma once
 
+#include "analysis/TimeSpan.h"
 #include "app/Progress.h"
 #include "card/record/RecordData.h"
 #include "profile/Profile.h"
 
 #include <QString>
+
+#include <optional>
 
 namespace ZARN {
 
@@ -19,6 +22,7 @@ struct CsvExportOptions {
     char separator = ';';       ///< ';', ',' or a tab
     bool allParameters = true;  ///< false: only those selected in the project
     uint32_t resolution = 100;  ///< milliseconds a row: 100 or 10
+    std::optional<TimeSpan> span = {}; ///< only rows in it, with the values that held before; none: the whole
 };
 
 /// Writes the decoded data of the loaded cycle as a table of separated values: one row per time step that has a sample, one

@@ -82,7 +82,7 @@ void KmlDocument::writeParameterPlacemarks()
     const int interval = mOptions.placeMarkInterval;
     mContent.placemarks.forEachSlot([&](int slot) {
         const KmlPoint* pPoint = mContent.path.at(saturatingCast<int>(static_cast<double>(slot) * interval));
-        if (!pPoint)
+        if (!pPoint || !isWanted(mGrid.seconds(slot, interval)))
             return true;
         beginPlacemark(mGrid.timeOfDay(slot, interval), kNormalStyle);
         mContent.placemarks.forEachText(
@@ -100,6 +100,8 @@ void KmlDocument::writeEventPlacemarks(const EventList& list)
         ++mDone;
         if (!mGoesOn || !step())
             return;
+        if (!isWanted(event.time))
+            continue;
         const int slot = mGrid.slot(event.time);
         const KmlPoint* pPoint = mContent.path.at(slot);
         if (!pPoint)
@@ -160,6 +162,8 @@ void KmlDocument::writePath()
             step();
         if (!mGoesOn)
             break;
+        if (!isWanted(mGrid.seconds(point.slot)))
+            continue;
         char* pEnd = writeCoordinates(line, point);
         *pEnd++ = '\n';
         mWriter.plain({line, pEnd});

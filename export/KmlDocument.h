@@ -34,6 +34,7 @@ private:
     void addData(const char* element, std::string_view text) { mWriter.text(element, text); }
     void writeStyle(const char* name, const std::string& colour);
     void countPieces();
+    [[nodiscard]] bool isWanted(double seconds) const { return !mOptions.span || mOptions.span->holds(seconds); }
     bool step() { return mGoesOn = mProgress.step(mDone, mPieces); }
     void writeParameterPlacemarks();
     void writeEventPlacemarks(const EventList& list);

@@ -1,12 +1,15 @@
 #pragma once
 
+#include "analysis/TimeSpan.h"
+
+#include <optional>
 #include <string>
 
 namespace ZARN {
 
 class Property;
 
-/// What the user chose for a KML export. Each value but the file name has a key in the settings; texts are UTF-8.
+/// What the user chose for a KML export. Each value but the file name and the span has a key in the settings; texts are UTF-8.
 struct KmlExportOptions {
     std::string directory = ".";
     std::string fileName;
@@ -24,6 +27,7 @@ struct KmlExportOptions {
     bool showLimit = true;
     bool showWarning = true;
     std::string errorMarkColor = "ff0000";
+    std::optional<TimeSpan> span = {}; ///< only path points and placemarks in it; none: the whole
 
     /// Takes over what the settings have; the rest stays.
     void read(const Property& settings);

@@ -16,8 +16,7 @@ void appendTwoDigits(std::string& text, int64_t number)
 
 std::string KmlGrid::timeOfDay(int slot, int interval) const
 {
-    const double seconds = static_cast<double>(slot) * interval * mStep;
-    const int64_t milliseconds = saturatingCast<int64_t>(seconds * 1000) % kMillisecondsPerDay;
+    const int64_t milliseconds = saturatingCast<int64_t>(seconds(slot, interval) * 1000) % kMillisecondsPerDay;
     const int64_t second = (milliseconds + kMillisecondsPerDay) % kMillisecondsPerDay / 1000;
     std::string text;
     appendTwoDigits(text, second / 3600);

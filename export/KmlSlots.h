@@ -17,6 +17,8 @@ public:
     [[nodiscard]] int slot(double seconds) const { return saturatingCast<int>(seconds / mStep); }
     /// Slots of `interval` path slots each.
     [[nodiscard]] int slot(double seconds, int interval) const { return saturatingCast<int>(seconds / mStep / interval); }
+    /// When a slot begins.
+    [[nodiscard]] double seconds(int slot, int interval = 1) const { return static_cast<double>(slot) * interval * mStep; }
     /// The time of day, counted from 0:00, at which a slot begins: "hh:mm:ss".
     [[nodiscard]] std::string timeOfDay(int slot, int interval = 1) const;
 
