@@ -1,12 +1,11 @@
 #include "card/CardContainer.h"
 
 #include "app/Console.h"
+#include "app/FileName.h"
 #include "app/Progress.h"
 #include "card/FlightDetector.h"
 #include "card/record/RecordFile.h"
 #include "vesk/base/Timer.h"
-
-#include <QFile>
 
 #include <algorithm>
 #include <filesystem>
@@ -30,14 +29,14 @@ bool isRecordFile(const std::string& name)
 
 std::string lastComponent(const QString& path)
 {
-    return path.mid(path.lastIndexOf('/') + 1).toStdString();
+    return encodeFileName(path.mid(path.lastIndexOf('/') + 1));
 }
 
 /// The names of a folder's plain files. Hidden ones are left out: some systems leave such companions of real files on cards.
 std::optional<std::vector<std::string>> plainFiles(const QString& path)
 {
     std::error_code error;
-    std::filesystem::directory_iterator entry(QFile::encodeName(path).toStdString(), error);
+    std::filesystem::directory_iterator entry(encodeFileName(path), error);
     if (error)
         return {};
     std::vector<std::string> names;
@@ -95,7 +94,7 @@ void CardContainer::readHeaders(const std::vector<std::string>& names)
     for (const std::string& name : names) {
         if (isRecordFile(name)) {
             RecordFile file(mConsole, *mpProgress);
-            file.readRecordInfo(mPath + "/" + QString::fromStdString(name));
+            file.readRecordInfo(mPath + "/" + decodeFileName(name));
             mFiles[name] = file.recordInfo();
             if (!file.problem().isEmpty())
                 mFolderProblems.push_back(problemOf(file));
@@ -150,7 +149,7 @@ void CardContainer::calcCycles()
 
 QString CardContainer::name() const
 {
-    return QString::fromStdString(lastComponent(mPath));
+    return decodeFileName(lastComponent(mPath));
 }
 
 bool CardContainer::loadCycle(unsigned int cycle, int flight)
@@ -239,7 +238,7 @@ void CardContainer::loadFile(const RecordInfo& info)
     RecordFile file(mConsole, *mpProgress);
     file.setRecordInfo(info);
     if (!file.readRecordData(mData) && mLoadError.empty())
-        mLoadError = info.fileName.toStdString() + ": not enough memory for its records";
+        mLoadError = encodeFileName(info.fileName) + ": not enough memory for its records";
     const CardProblem problem = problemOf(file);
     const auto isKnown = [&problem](const CardProblem& other) { return other.file == problem.file && other.reason == problem.reason; };
     if (!problem.reason.isEmpty() && std::none_of(mFolderProblems.begin(), mFolderProblems.end(), isKnown))

@@ -1,11 +1,10 @@
 #include "card/record/RecordFile.h"
 
 #include "app/Console.h"
+#include "app/FileName.h"
 #include "app/Progress.h"
 #include "card/record/ByteOrder.h"
 #include "card/record/RecordData.h"
-
-#include <QFile>
 
 #include <algorithm>
 #include <cerrno>
@@ -92,7 +91,7 @@ RecordFile::File RecordFile::openFile()
     mProblem.clear();
     mSystemError = 0;
     // Not blocking: a pipe in the folder must not stop the program.
-    const int descriptor = open(QFile::encodeName(fileName).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    const int descriptor = open(encodeFileName(fileName).c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     if (descriptor < 0) {
         noteSystemError(errno);
         return nullptr;
