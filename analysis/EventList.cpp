@@ -21,6 +21,11 @@ void EventList::sortByTime()
     std::stable_sort(mEvents.begin(), mEvents.end(), [](const Event& a, const Event& b) { return a.time < b.time; });
 }
 
+void EventList::crop(const TimeSpan& span)
+{
+    std::erase_if(mEvents, [&span](const Event& event) { return !span.holds(event.time); });
+}
+
 std::string EventList::text(const Event& event) const
 {
     const EventSource& from = source(event);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "analysis/TimeKey.h"
+#include "analysis/TimeSpan.h"
 
 #include <QColor>
 
@@ -35,6 +36,8 @@ public:
     void add(Event event);
     /// To be called when all are there.
     void sortByTime();
+    /// Forgets the events outside.
+    void crop(const TimeSpan& span);
 
     [[nodiscard]] const std::vector<Event>& events() const { return mEvents; }
     [[nodiscard]] const EventSource& source(const Event& event) const { return mSources[event.source]; }

@@ -114,8 +114,10 @@ SafeFile::~SafeFile()
 
 bool SafeFile::fail(int reason)
 {
-    if (mError.empty())
+    if (mError.empty()) {
         mError = mPath + ": " + std::system_category().message(reason);
+        mIsPipeClosed = reason == EPIPE;
+    }
     discard();
     return false;
 }

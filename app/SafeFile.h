@@ -30,6 +30,8 @@ public:
 
     /// "NAME: reason" of the first failure, empty when there was none.
     [[nodiscard]] const std::string& error() const { return mError; }
+    /// Whether that was a reader who wants no more.
+    [[nodiscard]] bool isPipeClosed() const { return mIsPipeClosed; }
 
 private:
     /// The attributes of the file that is going to be replaced.
@@ -59,6 +61,7 @@ private:
     int mDescriptor = -1;
     int mDirectory = -1; ///< open when the target is going to be replaced
     bool mOwnsDescriptor = true;
+    bool mIsPipeClosed = false;
 };
 
 } // namespace ZARN

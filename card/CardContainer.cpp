@@ -1,12 +1,11 @@
 #include "card/CardContainer.h"
 
 #include "app/Console.h"
+#include "app/FileName.h"
 #include "app/Progress.h"
 #include "card/FlightDetector.h"
 #include "card/record/RecordFile.h"
 #include "vesk/base/Timer.h"
-
-#include <QFile>
 
 #include <algorithm>
 #include <filesystem>
@@ -30,14 +29,14 @@ bool isRecordFile(const std::string& name)
 
 std::string lastComponent(const QString& path)
 {
-    return path.mid(path.lastIndexOf('/') + 1).toStdString();
+    return encodeFileName(path.mid(path.lastIndexOf('/') + 1));
 }
 
 /// The names of a folder's plain files. Hidden ones are left out: some systems leave such companions of real files on cards.
 std::optional<std::vector<std::string>> plainFiles(const QString& path)
 {
     std::error_code error;
-    std::filesystem::directory_iterator entry(QFile::encodeName(path).toStdString(), error);
+    std::filesystem::directory_iterator entry(encodeFileName(path), error);
     if (error)
         return {};
     std::vector<std::string> names;
@@ -50,9 +49,9 @@ std::optional<std::vector<std::string>> plainFiles(const QString& path)
     return names;
 }
 
-UnreadFile unreadFile(const RecordFile& file)
+CardProblem problemOf(const RecordFile& file)
 {
-    return {QString::fromStdString(lastComponent(file.fileName)), file.failure() == RecordFile::eNotOpened ? file.systemError() : 0};
+    return {lastComponent(file.fileName), file.problem(), file.isSystemError()};
 }
 
 int64_t wholeMilliseconds(double seconds)
@@ -90,19 +89,27 @@ bool CardContainer::readContainer(const QString& path)
 
 void CardContainer::readHeaders(const std::vector<std::string>& names)
 {
-    mUnread.clear();
+    mFolderProblems.clear();
+    mLoadProblems.clear();
     for (const std::string& name : names) {
         if (isRecordFile(name)) {
             RecordFile file(mConsole, *mpProgress);
-            file.readRecordInfo(mPath + "/" + QString::fromStdString(name));
+            file.readRecordInfo(mPath + "/" + decodeFileName(name));
             mFiles[name] = file.recordInfo();
-            if (file.failure() != RecordFile::eNoFailure)
-                mUnread.push_back(unreadFile(file));
+            if (!file.problem().isEmpty())
+                mFolderProblems.push_back(problemOf(file));
         }
         mpProgress->setProgress(0); // whole-number division of the file's number by their count: 0 until all are read
     }
-    std::sort(mUnread.begin(), mUnread.end(), [](const UnreadFile& a, const UnreadFile& b) { return a.name < b.name; });
+    joinProblems();
     mpProgress->setProgress(100);
+}
+
+void CardContainer::joinProblems()
+{
+    mProblems = mFolderProblems;
+    mProblems.insert(mProblems.end(), mLoadProblems.begin(), mLoadProblems.end());
+    std::stable_sort(mProblems.begin(), mProblems.end(), [](const CardProblem& a, const CardProblem& b) { return a.file < b.file; });
 }
 
 void CardContainer::markCycleStarts()
@@ -142,7 +149,7 @@ void CardContainer::calcCycles()
 
 QString CardContainer::name() const
 {
-    return QString::fromStdString(lastComponent(mPath));
+    return decodeFileName(lastComponent(mPath));
 }
 
 bool CardContainer::loadCycle(unsigned int cycle, int flight)
@@ -184,7 +191,7 @@ void CardContainer::loadFiles(const std::list<QString>& files)
     mValues.clear();
     mLoadedCycle.reset();
     mLoadError.clear();
-    mLost.clear();
+    mLoadProblems.clear();
     mFlightIsSelected = false;
     mDateTime = {};
     mStartTime = mEndTime = 0.0;
@@ -204,6 +211,7 @@ void CardContainer::loadFiles(const std::list<QString>& files)
         }
         mEndTime = info.endTime;
     }
+    joinProblems();
     calcIndex();
     calcFlightPath();
     mWhole = {};
@@ -230,11 +238,11 @@ void CardContainer::loadFile(const RecordInfo& info)
     RecordFile file(mConsole, *mpProgress);
     file.setRecordInfo(info);
     if (!file.readRecordData(mData) && mLoadError.empty())
-        mLoadError = info.fileName.toStdString() + ": not enough memory for its records";
-    const UnreadFile unread = unreadFile(file);
-    const auto isKnown = [&unread](const UnreadFile& other) { return other.name == unread.name; };
-    if (file.failure() != RecordFile::eNoFailure && std::none_of(mUnread.begin(), mUnread.end(), isKnown))
-        mLost.push_back(unread);
+        mLoadError = encodeFileName(info.fileName) + ": not enough memory for its records";
+    const CardProblem problem = problemOf(file);
+    const auto isKnown = [&problem](const CardProblem& other) { return other.file == problem.file && other.reason == problem.reason; };
+    if (!problem.reason.isEmpty() && std::none_of(mFolderProblems.begin(), mFolderProblems.end(), isKnown))
+        mLoadProblems.push_back(problem);
     mConsole.print("load Files <%s>\n", info.fileName.toUtf8().constData());
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "card/CardProblem.h"
 #include "card/FlightPath.h"
 #include "card/Geography.h"
 #include "card/RecordCycle.h"
@@ -11,12 +12,6 @@
 namespace ZARN {
 
 class Progress;
-
-/// A record file that could not be read, or not whole.
-struct UnreadFile {
-    QString name;        ///< without its folder
-    int systemError = 0; ///< why it could not be opened; 0 for a file that is too short
-};
 
 /// The owner of a card's data: the files of a card folder, the power cycles that they form, and the records of the cycle
 /// that is loaded. The desktop program has one, reached by instance(); tests and the batch program make their own.
@@ -52,10 +47,10 @@ public:
     void loadFiles(const std::list<QString>& files);
     /// Which file the memory did not suffice for in the last load; else empty. What cannot be read is said on the console, and below.
     [[nodiscard]] const std::string& loadError() const { return mLoadError; }
-    /// The record files of the folder that could not be read when it was, by name.
-    [[nodiscard]] const std::vector<UnreadFile>& unreadFiles() const { return mUnread; }
-    /// Those of the last load that could be read when the folder was: the card was pulled, or has a fault.
-    [[nodiscard]] const std::vector<UnreadFile>& lostFiles() const { return mLost; }
+    /// What is wrong with the card, as far as the last readContainer and the last load together found, by file name.
+    [[nodiscard]] const std::vector<CardProblem>& problems() const { return mProblems; }
+    /// Those that the last load was the first to find: the card was pulled, or has a fault.
+    [[nodiscard]] const std::vector<CardProblem>& loadProblems() const { return mLoadProblems; }
     void calcIndex();
     void calcFlights(RecordCycle& cycle);
     void calcFlightStatistic(RecordFlight& flight);
@@ -100,6 +95,7 @@ private:
     void backFillDates();
     void calcCycles();
     void loadFile(const RecordInfo& info);
+    void joinProblems();
     /// A flight of the loaded cycle, or the span of all that was loaded.
     void select(const RecordFlight& flight, bool isFlight);
 
@@ -119,8 +115,9 @@ private:
     double mStartTime = 0.0;
     double mEndTime = 0.0;
     std::string mLoadError;
-    std::vector<UnreadFile> mUnread;
-    std::vector<UnreadFile> mLost;
+    std::vector<CardProblem> mFolderProblems;
+    std::vector<CardProblem> mLoadProblems;
+    std::vector<CardProblem> mProblems; ///< both
 };
 
 } // namespace ZARN

@@ -1,6 +1,7 @@
 #include "cli/Command.h"
 
 #include "app/NumberText.h"
+#include "cli/VisibleText.h"
 
 #include <cerrno>
 #include <cstdio>
@@ -8,18 +9,34 @@
 
 namespace ZARN {
 
-Command::Command(CLI::App& program, const char* name, const char* description) : mOptions(program, name, description) {}
+Command::Command(CLI::App& program, const char* name, const char* description, const char* example)
+    : mOptions(program, name, description, example),
+      mConsole([this](std::string_view text) { diagnose(text); }, [this](std::string_view text) { diagnose(text); }, false)
+{
+    mOptions.addFlag("--verbose", mVerbose, "tell on standard error what is done");
+}
+
+void Command::diagnose(std::string_view text) const
+{
+    if (mVerbose)
+        std::fprintf(stderr, "%s\n", visibleText(text.substr(0, text.find_last_not_of('\n') + 1)).c_str());
+}
 
 int Command::print(const std::string& text)
 {
-    if (std::fwrite(text.data(), 1, text.size(), stdout) != text.size() || std::fflush(stdout) != 0)
-        return fail(std::string("standard output: ") + std::strerror(errno));
-    return eDone;
+    if (std::fwrite(text.data(), 1, text.size(), stdout) == text.size() && std::fflush(stdout) == 0)
+        return eDone;
+    return errno == EPIPE ? eFailed : fail(std::string("standard output: ") + std::strerror(errno));
+}
+
+void Command::say(const std::string& message)
+{
+    std::fprintf(stderr, "zarn-cli: %s\n", visibleText(message).c_str());
 }
 
 int Command::fail(const std::string& message)
 {
-    std::fprintf(stderr, "zarn-cli: %s\n", message.c_str());
+    say(message);
     return eFailed;
 }
 
@@ -37,6 +54,11 @@ std::string tableNumber(double number, int decimals)
 {
     char buffer[kNumberTextSize];
     return {buffer, writeFixed(buffer, number, decimals)};
+}
+
+std::string tableTitle(const char* title, const std::string& unit)
+{
+    return unit.empty() ? title : std::string(title) + " [" + unit + "]";
 }
 
 } // namespace ZARN

@@ -12,7 +12,6 @@ public:
 private:
     int runOnData() override;
 
-    std::string mOutput;
     unsigned int mResolution = 100;
     std::string mSeparator = "semicolon";
 };

@@ -7,26 +7,31 @@
 
 namespace ZARN {
 
-CommandEvents::CommandEvents(CLI::App& program) : DataCommand(program, "events", "list the limit exceedances and warning lamps of a cycle")
+CommandEvents::CommandEvents(CLI::App& program)
+    : DataCommand(program, "events", "list the limit exceedances and warning lamps of a cycle",
+                  "zarn-cli events /media/card --cycle 2 --flight 1")
 {
     addJson();
 }
 
 int CommandEvents::runOnData()
 {
-    const EventList limits = limitEvents(mContainer.recordData(), mProfile);
-    const EventList warnings = warningEvents(mContainer.recordData(), mProfile);
+    EventList limits = limitEvents(mContainer.recordData(), mProfile);
+    EventList warnings = warningEvents(mContainer.recordData(), mProfile);
+    if (const auto span = flightSpan()) {
+        limits.crop(*span);
+        warnings.crop(*span);
+    }
     if (!mJson) {
         return print(table("Limit exceedances", "No limit was exceeded", limits, {"ok", "warning", "limit"}) + "\n" +
                      table("Warning lamps", "No warning lamp was lit", warnings, {"dark", "yellow", "red"}));
     }
     JsonWriter writer;
-    writer.beginObject().key("limits");
+    writer.beginAnswer().key("limits");
     write(writer, limits);
     writer.key("warnings");
     write(writer, warnings);
-    writer.endObject();
-    return print(writer.text() + "\n");
+    return print(writer.endAnswer());
 }
 
 void CommandEvents::write(JsonWriter& writer, const EventList& list)

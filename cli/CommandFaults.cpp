@@ -2,6 +2,9 @@
 
 #include "cli/JsonWriter.h"
 #include "cli/TextTable.h"
+#include "cli/VisibleText.h"
+
+#include <algorithm>
 
 namespace ZARN {
 
@@ -17,7 +20,9 @@ constexpr Kind kKinds[] = {{eErrorInfo, "info", "Info"}, {eErrorWarning, "warnin
 
 } // namespace
 
-CommandFaults::CommandFaults(CLI::App& program) : DataCommand(program, "faults", "tell when the faults of the error matrices were present")
+CommandFaults::CommandFaults(CLI::App& program)
+    : DataCommand(program, "faults", "tell when the faults of the error matrices were present",
+                  "zarn-cli faults /media/card --cycle 2")
 {
     addJson();
 }
@@ -27,22 +32,31 @@ int CommandFaults::runOnData()
     return print(mJson ? json() : tables());
 }
 
-FaultTimeline CommandFaults::timeline(const FaultMatrix& matrix) const
+std::vector<CommandFaults::Change> CommandFaults::changes(const FaultMatrix& matrix, EErrorType kind) const
 {
-    return {matrix, mContainer.recordData().channel(static_cast<uint32_t>(matrix.id))};
+    const FaultTimeline timeline(matrix, mContainer.recordData().channel(static_cast<uint32_t>(matrix.id)));
+    const std::optional<TimeSpan> span = flightSpan();
+    std::vector<Change> found;
+    for (const FaultChange& change : timeline.changes(kind)) {
+        const auto time = static_cast<double>(change.time);
+        if (span && time < span->start)
+            found.assign(1, {span->start, change.on});
+        else if (!span || span->holds(time))
+            found.push_back({time, change.on});
+    }
+    return found;
 }
 
 std::string CommandFaults::json() const
 {
     JsonWriter writer;
-    writer.beginObject().key("matrices").beginArray();
+    writer.beginAnswer().key("matrices").beginArray();
     for (const FaultMatrix& matrix : mProfile.errorMatrices())
-        write(writer, matrix, timeline(matrix));
-    writer.endArray().endObject();
-    return writer.text() + "\n";
+        write(writer, matrix);
+    return writer.endArray().endAnswer();
 }
 
-void CommandFaults::write(JsonWriter& writer, const FaultMatrix& matrix, const FaultTimeline& timeline)
+void CommandFaults::write(JsonWriter& writer, const FaultMatrix& matrix) const
 {
     writer.beginObject().member("id", matrix.id).member("name", matrix.name).key("bits").beginArray();
     for (const auto& [bit, fault] : matrix.bits)
@@ -50,8 +64,8 @@ void CommandFaults::write(JsonWriter& writer, const FaultMatrix& matrix, const F
     writer.endArray();
     for (const Kind& kind : kKinds) {
         writer.key(kind.key).beginArray();
-        for (const FaultChange& change : timeline.changes(kind.type))
-            writer.beginArray().value(static_cast<double>(change.time)).value(change.on).endArray();
+        for (const Change& change : changes(matrix, kind.type))
+            writer.beginArray().value(change.time).value(change.on).endArray();
         writer.endArray();
     }
     writer.endObject();
@@ -60,27 +74,44 @@ void CommandFaults::write(JsonWriter& writer, const FaultMatrix& matrix, const F
 std::string CommandFaults::tables() const
 {
     std::string text;
-    for (const FaultMatrix& matrix : mProfile.errorMatrices())
-        text += (text.empty() ? "" : "\n") + matrix.name + " (" + std::to_string(matrix.id) + ")\n" + table(timeline(matrix));
+    for (const FaultMatrix& matrix : mProfile.errorMatrices()) {
+        text += (text.empty() ? "" : "\n") + visibleText(matrix.name) + " (" + std::to_string(matrix.id) + ")\n";
+        text += changes(matrix, eErrorInfo).empty() ? "  not recorded\n" : table(matrix);
+    }
     return text.empty() ? "The profile has no error matrix\n" : text;
 }
 
-std::string CommandFaults::table(const FaultTimeline& timeline)
+std::string CommandFaults::table(const FaultMatrix& matrix) const
 {
-    if (timeline.changes(eErrorInfo).empty())
-        return "  not recorded\n";
-    TextTable table({"Kind", "From", "To"});
-    bool present = false;
-    for (const Kind& kind : kKinds) {
-        const std::vector<FaultChange>& changes = timeline.changes(kind.type);
-        for (std::size_t i = 0; i + 1 < changes.size(); ++i) {
-            if (!changes[i].on)
-                continue;
-            present = true;
-            table.addRow({kind.label, tableTime(static_cast<double>(changes[i].time)), tableTime(static_cast<double>(changes[i + 1].time))});
+    std::vector<Presence> presences;
+    for (const auto& bit : matrix.bits) {
+        FaultMatrix single = matrix;
+        single.bits = {bit};
+        for (const Kind& kind : kKinds) {
+            if (bit.second.errorType == kind.type)
+                addPresences(changes(single, kind.type), {0, 0, kind.label, bit.second.name}, presences);
         }
     }
-    return present ? table.text() : "  no fault\n";
+    std::ranges::stable_sort(presences, {}, &Presence::from);
+    TextTable table({"Fault", "Kind", "From [h:m:s]", "To [h:m:s]"});
+    for (const Presence& presence : presences)
+        table.addRow({presence.name, presence.kind, tableTime(presence.from), tableTime(presence.to)});
+    return presences.empty() ? "  no fault\n" : table.text();
+}
+
+void CommandFaults::addPresences(const std::vector<Change>& points, Presence presence, std::vector<Presence>& presences) const
+{
+    const std::optional<TimeSpan> span = flightSpan();
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        if (!points[i].on)
+            continue;
+        const bool isLast = i + 1 == points.size();
+        if (isLast && (!span || (i > 0 && points[i - 1].on))) // the recording's end
+            continue;
+        presence.from = points[i].time;
+        presence.to = isLast ? span->end : points[i + 1].time;
+        presences.push_back(presence);
+    }
 }
 
 } // namespace ZARN

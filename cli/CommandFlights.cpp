@@ -15,24 +15,26 @@ struct Figure {
 };
 
 constexpr Figure kFigures[] = {
-    {"minAltitude", "Minimum altitude", &RecordFlight::minAltitude, 1},
-    {"maxAltitude", "Maximum altitude", &RecordFlight::maxAltitude, 1},
-    {"totalClimb", "Total climb", &RecordFlight::totalClimb, 1},
-    {"averageClimbRate", "Average climb rate", &RecordFlight::averageClimbRate, 2},
-    {"averageDescendRate", "Average descend rate", &RecordFlight::averageDescendRate, 2},
-    {"maxGroundSpeed", "Max ground speed", &RecordFlight::maxGroundSpeed, 1},
-    {"fuelA", "Fuel lane A", &RecordFlight::fuelA, 2},
-    {"fuelB", "Fuel lane B", &RecordFlight::fuelB, 2},
-    {"totalFuel", "Total fuel", &RecordFlight::totalFuel, 2},
+    {"minAltitude", "Minimum altitude [m]", &RecordFlight::minAltitude, 1},
+    {"maxAltitude", "Maximum altitude [m]", &RecordFlight::maxAltitude, 1},
+    {"totalClimb", "Total climb [m]", &RecordFlight::totalClimb, 1},
+    {"averageClimbRate", "Average climb rate [m/s]", &RecordFlight::averageClimbRate, 2},
+    {"averageDescendRate", "Average descend rate [m/s]", &RecordFlight::averageDescendRate, 2},
+    {"maxGroundSpeed", "Max ground speed [km/h]", &RecordFlight::maxGroundSpeed, 1},
+    {"fuelA", "Fuel lane A [l]", &RecordFlight::fuelA, 2},
+    {"fuelB", "Fuel lane B [l]", &RecordFlight::fuelB, 2},
+    {"totalFuel", "Total fuel [l]", &RecordFlight::totalFuel, 2},
     {"timePer100m", "Time / 100 m [s]", &RecordFlight::timePer100m, 1},
-    {"fuelPer100m", "Fuel / 100 m", &RecordFlight::fuelPer100m, 3},
+    {"fuelPer100m", "Fuel / 100 m [l]", &RecordFlight::fuelPer100m, 3},
     {"takeOffDistance", "Take-off distance [m]", &RecordFlight::takeOffDistance, 0},
     {"takeOffDistance15m", "Take-off distance 15 m [m]", &RecordFlight::takeOffDistance15m, 0},
 };
 
 } // namespace
 
-CommandFlights::CommandFlights(CLI::App& program) : DataCommand(program, "flights", "list the flights of a cycle with their tow statistics")
+CommandFlights::CommandFlights(CLI::App& program)
+    : DataCommand(program, "flights", "list the flights of a cycle with their tow statistics",
+                  "zarn-cli flights /media/card --cycle 2")
 {
     addJson();
 }
@@ -45,7 +47,7 @@ int CommandFlights::runOnData()
 std::string CommandFlights::json() const
 {
     JsonWriter writer;
-    writer.beginObject().member("cycle", *mContainer.loadedCycleNumber()).member("dateTime", mContainer.dateTime());
+    writer.beginAnswer().member("cycle", *mContainer.loadedCycleNumber()).member("dateTime", mContainer.dateTime());
     writer.member("startTime", mContainer.startTime()).member("endTime", mContainer.endTime()).key("flights").beginArray();
     int number = 0;
     for (const RecordFlight& flight : cycle().flights) {
@@ -56,8 +58,7 @@ std::string CommandFlights::json() const
             writer.member(figure.key, flight.*figure.value);
         writer.endObject();
     }
-    writer.endArray().endObject();
-    return writer.text() + "\n";
+    return writer.endArray().endAnswer();
 }
 
 std::string CommandFlights::tables() const
@@ -68,9 +69,9 @@ std::string CommandFlights::tables() const
     if (flights.empty())
         return text + "No flight in this cycle\n";
     std::vector<std::string> header{"Flight"};
-    std::vector<std::string> dates{"Take-off, wall clock"};
-    std::vector<std::string> takeOffs{"Take-off"};
-    std::vector<std::string> landings{"Landing"};
+    std::vector<std::string> dates{"Take-off [date]"};
+    std::vector<std::string> takeOffs{"Take-off [h:m:s]"};
+    std::vector<std::string> landings{"Landing [h:m:s]"};
     for (const RecordFlight& flight : flights) {
         header.push_back(std::to_string(header.size()));
         dates.push_back(tableDate(flight.dateTime));

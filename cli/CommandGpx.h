@@ -11,8 +11,6 @@ public:
 
 private:
     int runOnData() override;
-
-    std::string mOutput;
 };
 
 } // namespace ZARN

@@ -1,8 +1,14 @@
 #include "cli/CommandInfo.h"
 
+#include "app/FileName.h"
 #include "app/Progress.h"
+#include "cli/CardCommand.h"
 #include "cli/JsonWriter.h"
 #include "cli/TextTable.h"
+#include "cli/VisibleText.h"
+
+#include <algorithm>
+#include <filesystem>
 
 namespace ZARN {
 
@@ -28,9 +34,9 @@ void writeFile(JsonWriter& writer, const std::string& name, const RecordInfo& in
         .endObject();
 }
 
-QString baseName(const RecordInfo& info)
+std::string baseName(const RecordInfo& info)
 {
-    return info.fileName.mid(info.fileName.lastIndexOf('/') + 1);
+    return encodeFileName(info.fileName.mid(info.fileName.lastIndexOf('/') + 1));
 }
 
 void writeCycle(JsonWriter& writer, uint32_t number, const RecordCycle& cycle)
@@ -44,48 +50,82 @@ void writeCycle(JsonWriter& writer, uint32_t number, const RecordCycle& cycle)
 
 } // namespace
 
-CommandInfo::CommandInfo(CLI::App& program) : Command(program, "info", "list a card's record files and power cycles")
+CommandInfo::CommandInfo(CLI::App& program)
+    : Command(program, "info", "list a card's record files and power cycles", "zarn-cli info /media/card")
 {
-    options().add("CARD", mCard, "the card folder", CommandOptions::eRequired);
+    options().add("CARD", mCard, "the card folder, or one record file of it", CommandOptions::eRequired);
     addJson();
 }
 
 int CommandInfo::run()
 {
-    Profile profile(Console::standardError());
-    CardContainer container(Console::standardError(), profile, nullProgress());
-    if (!container.readContainer(QString::fromStdString(mCard)))
-        return fail(mCard + ": no such folder");
-    return print(mJson ? json(container) : tables(container));
+    std::error_code ignored;
+    const std::filesystem::path path(mCard);
+    const bool isFile = std::filesystem::is_regular_file(path, ignored);
+    if (isFile)
+        mFile = path.filename();
+    Profile profile(console());
+    CardContainer container(console(), profile, nullProgress());
+    // A file's neighbours are read too: its date may be known from the next one.
+    const std::string folder = !isFile ? mCard : path.has_parent_path() ? path.parent_path().string() : ".";
+    if (!container.readContainer(decodeFileName(folder)))
+        return fail(folderProblem(folder));
+    if (isFile && !container.recordFiles().contains(mFile))
+        return fail(mCard + ": no record file (*.CAN, *.can, *.xcb)");
+    const int status = print(mJson ? json(container) : tables(container));
+    if (status != eDone)
+        return status;
+    const std::string problem = systemProblem(container);
+    if (!problem.empty())
+        return fail(problem);
+    sayDamage(container);
+    return eDone;
 }
 
-std::string CommandInfo::json(const CardContainer& container)
+bool CommandInfo::isWanted(const RecordCycle& cycle) const
+{
+    return std::ranges::any_of(cycle.files, [this](const RecordInfo& info) { return isWanted(baseName(info)); });
+}
+
+std::string CommandInfo::json(const CardContainer& container) const
 {
     JsonWriter writer;
-    writer.beginObject().member("name", container.name()).member("path", container.path()).key("files").beginArray();
-    for (const auto& [name, info] : container.recordFiles())
-        writeFile(writer, name, info);
+    writer.beginAnswer().member("name", container.name()).member("path", mCard).key("files").beginArray();
+    for (const auto& [name, info] : container.recordFiles()) {
+        if (isWanted(name))
+            writeFile(writer, name, info);
+    }
     writer.endArray().key("cycles").beginArray();
-    for (const auto& [number, cycle] : container.recordCycles())
-        writeCycle(writer, number, cycle);
-    writer.endArray().endObject();
-    return writer.text() + "\n";
+    for (const auto& [number, cycle] : container.recordCycles()) {
+        if (isWanted(cycle))
+            writeCycle(writer, number, cycle);
+    }
+    writer.endArray().key("problems").beginArray();
+    for (const CardProblem& problem : container.problems()) {
+        if (isWanted(problem.file))
+            writer.beginObject().member("file", problem.file).member("reason", problem.reason).endObject();
+    }
+    return writer.endArray().endAnswer();
 }
 
-std::string CommandInfo::tables(const CardContainer& container)
+std::string CommandInfo::tables(const CardContainer& container) const
 {
+    const std::string heading = "Card " + visibleText(mCard);
     if (container.recordFiles().empty())
-        return "Card " + container.path().toStdString() + ": no record file (*.CAN, *.can, *.xcb) in this folder\n";
-    TextTable cycles({"Cycle", "Date", "Ends at", "Files"});
-    for (const auto& [number, cycle] : container.recordCycles())
-        cycles.addRow({std::to_string(number), tableDate(cycle.dateTime), tableTime(cycle.endTime), std::to_string(cycle.files.size())});
-    TextTable files({"File", "Date", "From", "To", "Samples", "ECU", "Serial", "Engine", "Software A", "Software B"});
-    for (const auto& [name, info] : container.recordFiles()) {
-        files.addRow({name, tableDate(info.dateTime), tableTime(info.startTime), tableTime(info.endTime), std::to_string(info.samples),
-                      info.ecuType, std::to_string(info.ecuSerialNumber), info.engineType + " " + info.engineSerial, info.softwarePartA,
-                      info.softwarePartB});
+        return heading + ": no record file (*.CAN, *.can, *.xcb) in this folder\n";
+    TextTable cycles({"Cycle", "Date", "Ends at [h:m:s]", "Files"});
+    for (const auto& [number, cycle] : container.recordCycles()) {
+        if (isWanted(cycle))
+            cycles.addRow({std::to_string(number), tableDate(cycle.dateTime), tableTime(cycle.endTime), std::to_string(cycle.files.size())});
     }
-    return "Card " + container.path().toStdString() + "\n\n" + cycles.text() + "\n" + files.text();
+    TextTable files({"File", "Date", "From [h:m:s]", "To [h:m:s]", "Samples", "ECU", "Serial", "Engine", "Software A", "Software B"});
+    for (const auto& [name, info] : container.recordFiles()) {
+        if (isWanted(name))
+            files.addRow({name, tableDate(info.dateTime), tableTime(info.startTime), tableTime(info.endTime), std::to_string(info.samples),
+                          info.ecuType, std::to_string(info.ecuSerialNumber), info.engineType + " " + info.engineSerial, info.softwarePartA,
+                          info.softwarePartB});
+    }
+    return heading + "\n\n" + cycles.text() + "\n" + files.text();
 }
 
 } // namespace ZARN

@@ -1,15 +1,14 @@
 #include "cli/CommandKml.h"
 
-#include "app/SafeFile.h"
 #include "export/ExportKml.h"
-
-#include <unistd.h>
 
 namespace ZARN {
 
-CommandKml::CommandKml(CLI::App& program) : DataCommand(program, "kml", "export the flight path as KML")
+CommandKml::CommandKml(CLI::App& program)
+    : DataCommand(program, "kml", "export the flight path as KML",
+                  "zarn-cli kml /media/card --select Altitude --set KmlTimeStamp=2 -o flight.kml")
 {
-    options().add("-o,--output", mOutput, "file to write; \"-\" is standard output", CommandOptions::eRequired);
+    addOutput();
     addSelect("place placemarks with this parameter's values; may be given many times (default: none)");
     options().addMany("--set", mSettings, "KEY=VALUE: a setting of the export, for example KmlTimeStamp=2; may be given many times",
                       &CommandKml::checkSetting);
@@ -29,17 +28,22 @@ std::string CommandKml::checkSetting(const std::string& text)
 
 int CommandKml::runOnData()
 {
-    Property settings(Console::standardError()); // the defaults and what the call says, never the user's file
+    Property settings(console()); // the defaults and what the call says, never the user's file
     for (const std::string& text : mSettings) {
         const std::size_t equals = text.find('=');
         settings.setString(text.substr(0, equals), text.substr(equals + 1));
     }
     KmlExportOptions kml;
     kml.read(settings);
-    ExportKml exporter(Console::standardError(), mProfile, cycle().dateTime);
-    const auto write = [&](SafeFile&& file) { return exporter.exportData(mContainer.recordData(), kml, file); };
-    const bool written = mOutput == "-" ? write(SafeFile::onDescriptor(STDOUT_FILENO, "standard output")) : write(SafeFile(mOutput));
-    return written ? eDone : fail(exporter.error());
+    kml.span = flightSpan();
+    ExportKml exporter(console(), mProfile, cycle().dateTime);
+    const int status = writeOutput([&](SafeFile& file) {
+        exporter.exportData(mContainer.recordData(), kml, file);
+        return exporter.error();
+    });
+    if (status == eDone && !exporter.hasPosition())
+        say(card() + ": no position recorded");
+    return status;
 }
 
 } // namespace ZARN

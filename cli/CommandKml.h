@@ -15,7 +15,6 @@ private:
     /// Empty when `text` is "KEY=VALUE" with a key of this export; else what is wrong with it.
     static std::string checkSetting(const std::string& text);
 
-    std::string mOutput;
     std::vector<std::string> mSettings;
 };
 

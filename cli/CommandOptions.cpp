@@ -15,9 +15,10 @@ CLI::Option* checked(CLI::Option* pOption, const CommandOptions::Check& check)
 
 } // namespace
 
-CommandOptions::CommandOptions(CLI::App& program, const char* name, const char* description)
+CommandOptions::CommandOptions(CLI::App& program, const char* name, const char* description, const char* example)
     : mApp(*program.add_subcommand(name, description))
 {
+    mApp.footer(std::string("Example: ") + example);
     mApp.set_version_flag("--version", Revision::getRevisionString());
 }
 

@@ -20,7 +20,8 @@ public:
     /// Says what is wrong with a text that was given; "" when nothing is.
     using Check = std::function<std::string(const std::string&)>;
 
-    CommandOptions(CLI::App& program, const char* name, const char* description);
+    /// @param example a whole call, which the help shows.
+    CommandOptions(CLI::App& program, const char* name, const char* description, const char* example);
 
     void add(const char* name, std::string& value, const char* help, ENeed need = eOptional, const Check& check = {});
     void add(const char* name, int& value, const char* help);

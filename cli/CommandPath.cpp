@@ -5,7 +5,9 @@
 
 namespace ZARN {
 
-CommandPath::CommandPath(CLI::App& program) : DataCommand(program, "path", "print the flight path, a point every half second")
+CommandPath::CommandPath(CLI::App& program)
+    : DataCommand(program, "path", "print the flight path, a point every half second",
+                  "zarn-cli path /media/card --flight 1 --json")
 {
     addJson();
 }
@@ -14,7 +16,9 @@ int CommandPath::runOnData()
 {
     const std::vector<FlightPathPoint>& points = mContainer.flightPath();
     if (!mJson) {
-        TextTable table({"Time", "Latitude", "Longitude", "Altitude", "Ground speed", "Track"});
+        const auto title = [this](const char* name, const char* key) { return tableTitle(name, mProfile.getParameterFromZarnType(key).unit); };
+        TextTable table({"Time [h:m:s]", "Latitude [deg]", "Longitude [deg]", title("Altitude", "Altitude"), title("Ground speed", "GroundSpeed"),
+                         title("Track", "Track")});
         for (const FlightPathPoint& point : points) {
             table.addRow({tableTime(point.time), tableNumber(point.latitude, 6), tableNumber(point.longitude, 6),
                           tableNumber(point.altitude, 1), tableNumber(point.groundSpeed, 1), tableNumber(point.track, 1)});
@@ -22,13 +26,12 @@ int CommandPath::runOnData()
         return print(table.text());
     }
     JsonWriter writer;
-    writer.beginObject().key("points").beginArray();
+    writer.beginAnswer().key("points").beginArray();
     for (const FlightPathPoint& point : points) {
         writer.beginArray().value(point.time).value(point.latitude).value(point.longitude);
         writer.value(point.altitude).value(point.groundSpeed).value(point.track).endArray();
     }
-    writer.endArray().endObject();
-    return print(writer.text() + "\n");
+    return print(writer.endArray().endAnswer());
 }
 
 } // namespace ZARN

@@ -1,7 +1,10 @@
 #include "cli/CommandProfile.h"
 
+#include "app/FileName.h"
+#include "cli/CardCommand.h"
 #include "cli/JsonWriter.h"
 #include "cli/TextTable.h"
+#include "cli/VisibleText.h"
 
 namespace ZARN {
 
@@ -43,7 +46,7 @@ std::string json(const Profile& profile)
 {
     const ProfileModel& model = profile.model();
     JsonWriter writer;
-    writer.beginObject().member("version", model.version).member("profileId", model.profileId);
+    writer.beginAnswer().member("version", model.version).member("profileId", model.profileId);
     writer.member("name", model.name).member("comment", model.comment).key("variants").beginArray();
     for (const ProfileVariant& variant : profile.variants())
         writer.beginObject().member("name", variant.name).member("color", variant.color).endObject();
@@ -55,8 +58,7 @@ std::string json(const Profile& profile)
     writer.endArray().key("errorMatrices").beginArray();
     for (const FaultMatrix& matrix : model.errorMatrices)
         writeMatrix(writer, matrix);
-    writer.endArray().endObject();
-    return writer.text() + "\n";
+    return writer.endArray().endAnswer();
 }
 
 /// What the profile tells of itself, in one line.
@@ -73,9 +75,9 @@ std::string heading(const ProfileModel& model)
 std::string tables(const Profile& profile)
 {
     const ProfileModel& model = profile.model();
-    std::string text = heading(model) + "\n";
+    std::string text = visibleText(heading(model)) + "\n";
     for (const ProfileVariant& variant : profile.variants())
-        text += "Variant " + variant.name + "\n";
+        text += "Variant " + visibleText(variant.name) + "\n";
     TextTable parameters({"Parameter", "Id", "Type", "Unit", "Imperial", "Key"});
     for (const ProfileDevice& device : model.devices) {
         for (const ProfileParameter& parameter : device.parameters) {
@@ -91,7 +93,8 @@ std::string tables(const Profile& profile)
 
 } // namespace
 
-CommandProfile::CommandProfile(CLI::App& program) : Command(program, "profile", "show what a profile file declares")
+CommandProfile::CommandProfile(CLI::App& program)
+    : Command(program, "profile", "show what a profile file declares", "zarn-cli profile Profile.xml --variant \"915 B\"")
 {
     options().add("FILE", mFile, "the profile file", CommandOptions::eRequired);
     options().add("--variant", mVariant, "variant of the profile (default: none)");
@@ -100,10 +103,11 @@ CommandProfile::CommandProfile(CLI::App& program) : Command(program, "profile", 
 
 int CommandProfile::run()
 {
-    Profile profile(Console::standardError());
-    if (!profile.loadProfile(QString::fromStdString(mFile), mVariant))
-        return fail(mFile + ": not a readable ZARN profile");
-    profile.loadVariants(QString::fromStdString(mFile));
+    Profile profile(console());
+    const std::string problem = loadProfileFile(profile, mFile, mVariant);
+    if (!problem.empty())
+        return fail(problem);
+    profile.loadVariants(decodeFileName(mFile));
     return print(mJson ? json(profile) : tables(profile));
 }
 

@@ -1,19 +1,18 @@
 #include "cli/CommandReport.h"
 
-#include "app/SafeFile.h"
 #include "cli/Resources.h"
 #include "report/FlightReport.h"
 
 #include <QGuiApplication>
 #include <QTranslator>
 
-#include <unistd.h>
-
 namespace ZARN {
 
-CommandReport::CommandReport(CLI::App& program) : DataCommand(program, "report", "write a flight report as PDF")
+CommandReport::CommandReport(CLI::App& program)
+    : DataCommand(program, "report", "write a flight report as PDF",
+                  "zarn-cli report /media/card --flight 1 -o flight.pdf")
 {
-    options().add("-o,--output", mOutput, "file to write; \"-\" is standard output", CommandOptions::eRequired);
+    addOutput();
     options().add("--paper", mPaper, "a4 (default) or letter", CommandOptions::eOptional, CommandOptions::oneOf({"a4", "letter"}));
     options().add("--language", mLanguage, "en (default) or de", CommandOptions::eOptional, CommandOptions::oneOf({"en", "de"}));
 }
@@ -33,9 +32,10 @@ int CommandReport::runOnData()
     }
     FlightReport report(mContainer, mProfile);
     const ReportOptions paper{mPaper == "letter"};
-    const auto write = [&](SafeFile&& file) { return report.write(file, paper); };
-    const bool written = mOutput == "-" ? write(SafeFile::onDescriptor(STDOUT_FILENO, "standard output")) : write(SafeFile(mOutput));
-    return written ? eDone : fail(report.error());
+    return writeOutput([&](SafeFile& file) {
+        report.write(file, paper);
+        return report.error();
+    });
 }
 
 } // namespace ZARN

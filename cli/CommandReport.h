@@ -12,7 +12,6 @@ public:
 private:
     int runOnData() override;
 
-    std::string mOutput;
     std::string mPaper = "a4";
     std::string mLanguage = "en";
 };

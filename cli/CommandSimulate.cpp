@@ -2,7 +2,8 @@
 
 namespace ZARN {
 
-CommandSimulate::CommandSimulate(CLI::App& program) : Command(program, "simulate", "write a demo card")
+CommandSimulate::CommandSimulate(CLI::App& program)
+    : Command(program, "simulate", "write a demo card", "zarn-cli simulate demo-card --hours 2")
 {
     options().add("DIR", mDirectory, "the card folder to make", CommandOptions::eRequired);
     options().add("--hours", mCard.hours, "recorded hours, at least (default: the story of three power cycles, a good hour)",

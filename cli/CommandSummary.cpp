@@ -1,11 +1,11 @@
 #include "cli/CommandSummary.h"
 
-#include "analysis/FaultTimeline.h"
 #include "analysis/LimitEvents.h"
 #include "analysis/WarningEvents.h"
-#include "app/Progress.h"
-#include "cli/Resources.h"
+#include "cli/VisibleText.h"
+#include "report/ReportFaults.h"
 
+#include <limits>
 #include <map>
 
 namespace ZARN {
@@ -19,11 +19,11 @@ struct Passed {
 };
 
 /// "  Label: item, item ..."; nothing without items.
-std::string line(const char* label, const std::vector<std::string>& items)
+std::string line(const std::string& label, const std::vector<std::string>& items)
 {
     std::string text;
     for (const std::string& item : items)
-        text += (text.empty() ? std::string("  ") + label + ": " : ", ") + item;
+        text += (text.empty() ? "  " + visibleText(label) + ": " : ", ") + visibleText(item);
     return text.empty() ? text : text + "\n";
 }
 
@@ -34,51 +34,37 @@ std::string minutes(double seconds)
 
 } // namespace
 
-CommandSummary::CommandSummary(CLI::App& program) : Command(program, "summary", "tell on one page what happened on a card")
+CommandSummary::CommandSummary(CLI::App& program)
+    : CardCommand(program, "summary", "tell on one page what happened on a card", "zarn-cli summary /media/card")
 {
-    options().add("CARD", mCard, "the card folder", CommandOptions::eRequired);
-    options().add("--profile", mProfileFile, "profile file (default: the shipped profile \"915\")");
 }
 
-int CommandSummary::run()
+int CommandSummary::runOnCard()
 {
-    // The summary is the result; what the core says while it loads cycle after cycle would only bury it.
-    const Console silent([](std::string_view) {}, [](std::string_view) {});
-    Profile profile(silent);
-    const std::string profileFile = mProfileFile.empty() ? shippedProfile("915") : mProfileFile;
-    if (!profile.loadProfile(QString::fromStdString(profileFile)))
-        return fail(profileFile + ": not a readable ZARN profile");
-    CardContainer container(silent, profile, nullProgress());
-    if (!container.readContainer(QString::fromStdString(mCard)))
-        return fail(mCard + ": no such folder");
-    if (container.recordCycles().empty())
-        return fail(mCard + ": the folder holds no record file (*.CAN, *.can, *.xcb)");
     std::string text;
-    for (const auto& [number, cycle] : container.recordCycles()) {
-        container.loadCycle(number, -1);
-        if (!container.loadError().empty())
-            return fail(container.loadError());
-        text += (text.empty() ? "" : "\n") + cycleText(container, number);
+    for (const auto& [number, cycle] : mContainer.recordCycles()) {
+        if (chosenCycle().value_or(number) != number)
+            continue;
+        if (!load(number, 0))
+            return eFailed;
+        text += (text.empty() ? "" : "\n") + cycleText(number);
     }
     return print(text);
 }
 
-std::string CommandSummary::cycleText(CardContainer& container, uint32_t number)
+std::string CommandSummary::cycleText(uint32_t number)
 {
-    const RecordCycle& cycle = container.recordCycles().at(number);
-    Profile& profile = container.values().profile();
+    const RecordCycle& cycle = mContainer.recordCycles().at(number);
     std::string text = "Cycle " + std::to_string(number) + ", " + tableDate(cycle.dateTime) + ", " +
-                       minutes(container.endTime() - container.startTime()) + " recorded\n";
+                       minutes(mContainer.endTime() - mContainer.startTime()) + " recorded\n";
     if (cycle.flights.empty())
         text += "  No flight\n";
     for (std::size_t i = 0; i < cycle.flights.size(); ++i)
         text += flightText(cycle.flights[i], i + 1);
-    const RecordData& data = container.recordData();
-    text += eventsText(limitEvents(data, profile), "Limit passed", "Warning");
-    text += eventsText(warningEvents(data, profile), "Lamp red", "Lamp yellow");
-    for (const FaultMatrix& matrix : profile.errorMatrices())
-        text += faultsText(data, matrix);
-    return text;
+    const RecordData& data = mContainer.recordData();
+    text += eventsText(limitEvents(data, mProfile), "Limit passed", "Warning");
+    text += eventsText(warningEvents(data, mProfile), "Lamp red", "Lamp yellow");
+    return text + faultsText();
 }
 
 std::string CommandSummary::flightText(const RecordFlight& flight, std::size_t number)
@@ -106,25 +92,21 @@ std::string CommandSummary::eventsText(const EventList& list, const char* worst,
     return line(worst, worstOnes) + line(lesser, lesserOnes);
 }
 
-std::string CommandSummary::faultsText(const RecordData& data, const FaultMatrix& matrix)
+std::string CommandSummary::faultsText() const
 {
-    const RecordChannel* pChannel = data.channel(static_cast<uint32_t>(matrix.id));
-    uint32_t everSet = 0;
-    for (std::size_t i = 0; pChannel && i < pChannel->entries.chunkCount(); ++i) {
-        for (const StoredRecord& record : pChannel->entries.chunk(i))
-            everSet |= faultWord(record.payload);
+    constexpr double always = std::numeric_limits<double>::infinity();
+    const std::vector<ReportFault> present = presentFaults(mProfile, mContainer.recordData(), -always, always);
+    std::string text;
+    for (const FaultMatrix& matrix : mProfile.errorMatrices()) {
+        std::vector<std::string> faults;
+        std::vector<std::string> warnings;
+        for (const ReportFault& fault : present) {
+            if (fault.pMatrix == &matrix && fault.pBit->errorType != eErrorInfo)
+                (fault.pBit->errorType == eErrorFault ? faults : warnings).push_back(fault.pBit->name);
+        }
+        text += line(matrix.name + ", faults", faults) + line(matrix.name + ", warnings", warnings);
     }
-    std::vector<std::string> faults;
-    std::vector<std::string> warnings;
-    for (const auto& [bit, fault] : matrix.bits) {
-        if (bit < 0 || bit > 31 || (everSet >> bit & 1U) == 0)
-            continue;
-        if (fault.errorType == eErrorFault)
-            faults.push_back(fault.name);
-        else if (fault.errorType == eErrorWarning)
-            warnings.push_back(fault.name);
-    }
-    return line((matrix.name + ", faults").c_str(), faults) + line((matrix.name + ", warnings").c_str(), warnings);
+    return text;
 }
 
 } // namespace ZARN

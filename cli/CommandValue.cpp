@@ -2,10 +2,13 @@
 
 #include "cli/JsonWriter.h"
 #include "cli/TextTable.h"
+#include "cli/VisibleText.h"
 
 namespace ZARN {
 
-CommandValue::CommandValue(CLI::App& program) : DataCommand(program, "value", "print a parameter's value at given times")
+CommandValue::CommandValue(CLI::App& program)
+    : DataCommand(program, "value", "print a parameter's value at given times",
+                  "zarn-cli value /media/card --parameter RPM --time 600 --time 605.5")
 {
     options().add("--parameter", mParameter, "name of the parameter", CommandOptions::eRequired);
     options().addMany("--time", mTimes, "seconds since the unit's power-up; may be given many times", CommandOptions::eRequired);
@@ -34,8 +37,8 @@ int CommandValue::runOnData()
     if (!pParameter)
         return fail(mParameter + ": the profile has no such parameter");
     JsonWriter writer;
-    writer.beginObject().member("parameter", pParameter->name).member("unit", pParameter->unit).key("values").beginArray();
-    TextTable table({"Time", "Seconds", "Value", "Text", "State"});
+    writer.beginAnswer().member("parameter", pParameter->name).member("unit", pParameter->unit).key("values").beginArray();
+    TextTable table({"Time [h:m:s]", "Time [s]", tableTitle("Value", pParameter->unit), tableTitle("Text", pParameter->unit), "State"});
     static const char* const states[] = {"ok", "warning", "limit"};
     for (const double time : mTimes) {
         const Answer a = answer(*pParameter, time);
@@ -44,8 +47,8 @@ int CommandValue::runOnData()
         writer.endObject();
         table.addRow({tableTime(a.time), tableNumber(a.time, 3), tableNumber(a.value, 6), a.text, a.text.empty() ? "no data" : states[a.state]});
     }
-    writer.endArray().endObject();
-    return print(mJson ? writer.text() + "\n" : pParameter->path + " [" + pParameter->unit + "]\n\n" + table.text());
+    writer.endArray();
+    return print(mJson ? writer.endAnswer() : visibleText(pParameter->path) + "\n\n" + table.text());
 }
 
 } // namespace ZARN

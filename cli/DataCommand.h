@@ -1,37 +1,37 @@
 #pragma once
 
-#include "cli/Command.h"
+#include "analysis/TimeSpan.h"
+#include "app/SafeFile.h"
+#include "cli/CardCommand.h"
 
 namespace ZARN {
 
-/// A subcommand that works on one loaded cycle of a card: the options that all of them share, and the way from them to the
-/// loaded data.
-class DataCommand : public Command {
+/// A subcommand that works on one loaded cycle of a card, or on one of its flights.
+class DataCommand : public CardCommand {
 public:
-    DataCommand(CLI::App& program, const char* name, const char* description);
-    int run() final;
+    DataCommand(CLI::App& program, const char* name, const char* description, const char* example);
 
 protected:
+    /// Writes to a file and commits it. @return empty, or "NAME: reason".
+    using FileWriter = std::function<std::string(SafeFile&)>;
+
     /// The work on the loaded data. @return the exit status.
     virtual int runOnData() = 0;
+    void addOutput();
     void addSelect(const char* description) { options().addMany("--select", mSelected, description); }
     [[nodiscard]] bool hasSelection() const { return !mSelected.empty(); }
     [[nodiscard]] const RecordCycle& cycle() const { return *mContainer.loadedCycle(); }
-
-    Profile mProfile;
-    CardContainer mContainer;
+    /// The flight that the call asks for; none for the whole cycle.
+    [[nodiscard]] std::optional<TimeSpan> flightSpan() const;
+    /// Lets the writer fill the file of the option `-o`, which must not be one of the card's. @return the exit status.
+    int writeOutput(const FileWriter& writer);
 
 private:
-    bool loadProfile();
+    int runOnCard() final;
     bool selectParameters();
-    bool loadData();
 
-    std::string mCard;
-    std::string mProfileFile;
-    std::string mVariant;
-    std::string mUnit = "metric";
     std::vector<std::string> mSelected;
-    unsigned int mCycle = 0;
+    std::string mOutput;
     int mFlight = 0;
 };
 

@@ -1,5 +1,7 @@
 #include "cli/JsonWriter.h"
 
+#include "cli/VisibleText.h"
+
 #include <charconv>
 #include <cmath>
 
@@ -13,19 +15,18 @@ template <typename Number> void appendNumber(std::string& text, Number number)
     text.append(buffer, static_cast<std::size_t>(std::to_chars(buffer, buffer + sizeof buffer, number).ptr - buffer));
 }
 
-void appendEscaped(std::string& text, unsigned char character)
+void appendEscaped(QString& text, QChar character)
 {
-    static constexpr char digits[] = "0123456789abcdef";
-    switch (character) {
-    case '"': text += "\\\""; break;
-    case '\\': text += "\\\\"; break;
-    case '\n': text += "\\n"; break;
-    case '\t': text += "\\t"; break;
+    switch (character.unicode()) {
+    case '"': text += QLatin1String("\\\""); break;
+    case '\\': text += QLatin1String("\\\\"); break;
+    case '\n': text += QLatin1String("\\n"); break;
+    case '\t': text += QLatin1String("\\t"); break;
     default:
-        if (character < 0x20)
-            text.append("\\u00").append(1, digits[character >> 4]).append(1, digits[character & 15]);
+        if (isInvisible(character.unicode()))
+            text += QString("\\u%1").arg(static_cast<uint>(character.unicode()), 4, 16, QChar('0'));
         else
-            text += static_cast<char>(character);
+            text += character;
     }
 }
 
@@ -36,6 +37,17 @@ void JsonWriter::separate()
     if (!mFirst)
         mText += ',';
     mFirst = false;
+}
+
+JsonWriter& JsonWriter::beginAnswer()
+{
+    return beginObject().member("schema", 1);
+}
+
+std::string JsonWriter::endAnswer()
+{
+    endObject();
+    return std::move(mText += '\n');
 }
 
 JsonWriter& JsonWriter::beginObject()
@@ -108,11 +120,11 @@ JsonWriter& JsonWriter::value(std::string_view text)
 
 JsonWriter& JsonWriter::value(const QString& text)
 {
+    QString escaped;
+    for (const QChar character : text)
+        appendEscaped(escaped, character);
     separate();
-    mText += '"';
-    for (const char character : text.toUtf8())
-        appendEscaped(mText, static_cast<unsigned char>(character));
-    mText += '"';
+    mText += '"' + escaped.toStdString() + '"';
     return *this;
 }
 

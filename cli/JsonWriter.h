@@ -9,10 +9,14 @@
 namespace ZARN {
 
 /// Writes one JSON value as it is built, members in the order given, so that lists of any length need no tree. Texts may hold any
-/// bytes: what is no UTF-8 becomes U+FFFD. Doubles survive the round trip; one that is not finite is the string "nan", "inf"
+/// bytes: what is no UTF-8 becomes U+FFFD, what would steer a terminal is escaped. Doubles survive the round trip; one that is not finite is the string "nan", "inf"
 /// or "-inf". An invalid date and time is null.
 class JsonWriter {
 public:
+    /// The object that a subcommand answers, with the number of its form; endAnswer() closes it.
+    JsonWriter& beginAnswer();
+    /// @return the whole text, with a line break.
+    [[nodiscard]] std::string endAnswer();
     JsonWriter& beginObject();
     JsonWriter& endObject();
     JsonWriter& beginArray();
@@ -31,8 +35,6 @@ public:
     JsonWriter& null();
 
     template <typename Value> JsonWriter& member(std::string_view name, const Value& content) { return key(name).value(content); }
-
-    [[nodiscard]] const std::string& text() const { return mText; }
 
 private:
     void separate();

@@ -1,5 +1,7 @@
 #include "cli/TextTable.h"
 
+#include "cli/VisibleText.h"
+
 #include <QString>
 
 #include <algorithm>
@@ -22,11 +24,13 @@ bool isNumber(const std::string& text)
 
 TextTable::TextTable(std::vector<std::string> header)
 {
-    mRows.push_back(std::move(header));
+    addRow(std::move(header));
 }
 
 void TextTable::addRow(std::vector<std::string> cells)
 {
+    for (std::string& cell : cells)
+        cell = visibleText(cell);
     mRows.push_back(std::move(cells));
 }
 

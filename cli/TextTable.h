@@ -5,7 +5,7 @@
 
 namespace ZARN {
 
-/// A table for people: columns as wide as their longest text, numbers to the right.
+/// A table for people: columns as wide as their longest text, numbers to the right. Texts may come from a card: they are made visible.
 class TextTable {
 public:
     explicit TextTable(std::vector<std::string> header);

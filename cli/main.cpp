@@ -13,16 +13,24 @@
 #include "cli/CommandSummary.h"
 #include "cli/CommandValue.h"
 
+#include <QtGlobal>
+
 #include <CLI/App.hpp>
 #include <CLI/Config.hpp>
 #include <CLI/Formatter.hpp>
 
 #include <algorithm>
 #include <csignal>
+#include <cstdlib>
+#include <exception>
+#include <new>
+#include <sstream>
 
 namespace ZARN {
 
 namespace {
+
+constexpr const char* kNoMemory = "zarn-cli: there is not enough memory for this work\n";
 
 template <typename... Commands> std::vector<std::unique_ptr<Command>> makeCommands(CLI::App& program)
 {
@@ -31,39 +39,61 @@ template <typename... Commands> std::vector<std::unique_ptr<Command>> makeComman
     return commands;
 }
 
+/// Prints what was asked for, or says what is wrong with the call.
+int answer(const CLI::App& program, const CLI::ParseError& error)
+{
+    if (error.get_exit_code() == 0) { // --help and --version arrive here
+        std::ostringstream text;
+        program.exit(error, text, text);
+        return Command::print(text.str());
+    }
+    Command::say(std::string(error.what()) + " (see zarn-cli --help)");
+    return eWrongCall;
+}
+
 int runProgram(int argc, char** argv)
 {
     CLI::App program("Decodes what an engine management unit recorded: card folders to values, tables and files.", "zarn-cli");
     program.set_version_flag("--version", Revision::getRevisionString());
-    program.footer("Example: zarn-cli csv /media/card -o flight.csv");
+    bool isVerbose = false;
+    program.add_flag("--verbose", isVerbose, "tell on standard error what is done");
     const auto commands = makeCommands<CommandInfo, CommandFlights, CommandEvents, CommandFaults, CommandPath, CommandValue, CommandCsv,
                                        CommandKml, CommandGpx, CommandReport, CommandSummary, CommandProfile, CommandSimulate>(program);
+    program.footer("Example: zarn-cli csv /media/card -o flight.csv");
     if (argc < 2) {
         std::fputs(program.help().c_str(), stderr);
         return eWrongCall;
     }
     if (argv[1][0] != '-' && std::ranges::none_of(commands, [&](const auto& command) { return command->name() == argv[1]; })) {
-        std::fprintf(stderr, "zarn-cli: %s: no such subcommand (see zarn-cli --help)\n", argv[1]);
+        Command::say(std::string(argv[1]) + ": no such subcommand (see zarn-cli --help)");
         return eWrongCall;
     }
     program.require_subcommand(1);
     try {
         program.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-        if (error.get_exit_code() == 0) { // --help and --version arrive here too
-            program.exit(error);
-            return eDone;
-        }
-        std::string reason = error.what();
-        std::ranges::replace(reason, '\n', ' ');
-        std::fprintf(stderr, "zarn-cli: %s (see zarn-cli --help)\n", reason.c_str());
-        return eWrongCall;
+        return answer(program, error);
     }
-    for (const auto& command : commands) {
-        if (command->isChosen())
-            return command->run();
+    const auto chosen = std::ranges::find_if(commands, [](const auto& command) { return command->isChosen(); });
+    if (isVerbose)
+        (*chosen)->setVerbose();
+    if (!(*chosen)->isVerbose())
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+    return (*chosen)->run();
+}
+
+/// Memory ran out where no exception may pass: nothing can be tidied up, but it is said.
+[[noreturn]] void endAtOnce()
+{
+    try {
+        if (const std::exception_ptr reason = std::current_exception())
+            std::rethrow_exception(reason);
+    } catch (const std::bad_alloc&) {
+        std::fputs(kNoMemory, stderr);
+        std::_Exit(eFailed);
+    } catch (...) {
     }
-    return eWrongCall;
+    std::abort();
 }
 
 } // namespace
@@ -77,5 +107,11 @@ int main(int argc, char** argv)
     std::signal(SIGXFSZ, SIG_IGN);
 #endif
     std::signal(SIGPIPE, SIG_IGN);
-    return ZARN::runProgram(argc, argv);
+    std::set_terminate(&ZARN::endAtOnce);
+    try {
+        return ZARN::runProgram(argc, argv);
+    } catch (const std::bad_alloc&) {
+        std::fputs(ZARN::kNoMemory, stderr);
+        return ZARN::eFailed;
+    }
 }

@@ -28,6 +28,8 @@ public:
     bool exportFile(const KmlExportOptions& options, Progress& progress = nullProgress());
     bool exportFile(const KmlExportOptions& options, SafeFile& file, Progress& progress = nullProgress());
 
+    /// Whether the last document has a path: without one there is little to see in it.
+    [[nodiscard]] bool hasPosition() const { return mContent.path.hasPosition(); }
     /// Why the last export failed: "NAME: reason"; empty after one that was cancelled.
     [[nodiscard]] const std::string& error() const { return mError; }
 

@@ -5,6 +5,7 @@
 #include "card/record/TimeKernels.h"
 
 #include <array>
+#include <cmath>
 
 namespace ZARN {
 
@@ -12,6 +13,7 @@ namespace {
 
 constexpr std::size_t kRun = 512;           // samples decoded at once
 constexpr double kMissingBelow = -999.0;    // a coordinate below it counts as missing
+constexpr double kNoFix = 0.0001;          // degrees of this magnitude or less
 constexpr int kDebugDecimals = 6;
 constexpr double KmlPoint::*kCoordinates[] = {&KmlPoint::latitude, &KmlPoint::longitude, &KmlPoint::altitude};
 
@@ -51,10 +53,11 @@ private:
 };
 
 /// The values of one channel by slot, decoded by the parameter that the profile has for its identifier.
+/// @param isAngle whether the values are degrees of a position.
 /// @param label names the values in the lines; null for no lines.
 /// @return false when the user cancels.
-bool collect(const RecordEntries& entries, const ValueDecoder& decoder, CoordinateFilter& filter, const KmlGrid& grid, const char* label,
-             DebugLines& lines, KmlSlots& slots, const ProgressSpan& progress)
+bool collect(const RecordEntries& entries, const ValueDecoder& decoder, CoordinateFilter& filter, const KmlGrid& grid, bool isAngle,
+             const char* label, DebugLines& lines, KmlSlots& slots, const ProgressSpan& progress)
 {
     std::array<double, kRun> times;
     std::array<double, kRun> values{};
@@ -66,10 +69,10 @@ bool collect(const RecordEntries& entries, const ValueDecoder& decoder, Coordina
         if (decoder.isNumeric())
             decoder.values(records, values.data(), filter);
         for (std::size_t i = 0; i < records.size(); ++i) {
-            const double value = decoder.isNumeric() ? decoder.toDisplayUnit(values[i]) : 0.0;
             if (label)
-                lines.add("time ", times[i]).add(label, value).endLine();
-            slots.put(grid.slot(times[i]), value);
+                lines.add("time ", times[i]).add(label, values[i]).endLine();
+            const bool isMissing = isAngle && std::fabs(values[i]) <= kNoFix;
+            slots.put(grid.slot(times[i]), isMissing ? KmlPoint::kMissing : values[i]);
         }
         position += records.size();
     }
@@ -94,7 +97,7 @@ bool KmlPath::build(const RecordData& data, Profile& profile, const KmlGrid& gri
         KmlSlots slots;
         const ValueDecoder decoder = profile.decoder(profile.parameter(identifiers[i]));
         const char* label = console.isVerbose() ? labels[i] : nullptr;
-        if (!collect(pChannel->entries, decoder, filter, grid, label, lines, slots, progress.part(i, std::size(identifiers))))
+        if (!collect(pChannel->entries, decoder, filter, grid, labels[i] != nullptr, label, lines, slots, progress.part(i, std::size(identifiers))))
             return false;
         merge(slots, kCoordinates[i]);
     }
@@ -142,6 +145,12 @@ void KmlPath::fillBackward(const Console& console)
                 lines.add("new lons ", known).endLine();
         }
     }
+}
+
+bool KmlPath::hasPosition() const
+{
+    // A coordinate that is known anywhere has been filled in everywhere.
+    return !mPoints.empty() && mPoints.front().latitude >= kMissingBelow && mPoints.front().longitude >= kMissingBelow;
 }
 
 const KmlPoint* KmlPath::at(int slot) const

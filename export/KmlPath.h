@@ -7,8 +7,7 @@
 
 namespace ZARN {
 
-/// One point of the exported path. Degrees, and metres or what the profile converts them to; a coordinate that was never
-/// recorded stays at the marker.
+/// One point of the exported path, in degrees and metres; a coordinate that was never recorded stays at the marker.
 struct KmlPoint {
     static constexpr double kMissing = -1000.0;
     int slot = 0;
@@ -17,7 +16,8 @@ struct KmlPoint {
     double altitude = kMissing;
 };
 
-/// The aircraft's positions, one a slot of the grid, from the three position channels that every installation has.
+/// The aircraft's positions, one a slot of the grid, from the three position channels that every installation has. Altitudes are
+/// metres whatever the display shows, as the file format wants them.
 class KmlPath {
 public:
     static constexpr uint32_t kLatitudeIdentifier = 1036;
@@ -25,13 +25,15 @@ public:
     static constexpr uint32_t kAltitudeIdentifier = 1038;
 
     /// Builds the points: in each slot the last sample, missing coordinates filled from the point before, at the start from the
-    /// first that is known. The shared position filter is reset first. Each position is told to a verbose
-    /// console.
+    /// first that is known. Degrees next to 0 are those of a receiver without a fix: the slot stands, the coordinate counts as missing. The
+    /// shared position filter is reset first. Each position is told to a verbose console.
     /// @return false when the user cancels.
     bool build(const RecordData& data, Profile& profile, const KmlGrid& grid, const Console& console, const ProgressSpan& progress);
 
     /// In ascending order of slots.
     [[nodiscard]] const std::vector<KmlPoint>& points() const { return mPoints; }
+    /// Whether a latitude and a longitude are known.
+    [[nodiscard]] bool hasPosition() const;
     /// The point of a slot; where it has none that of the next lower slot, else the first. Null when there is no point at all.
     [[nodiscard]] const KmlPoint* at(int slot) const;
 

@@ -1,11 +1,10 @@
 #include "card/record/RecordFile.h"
 
 #include "app/Console.h"
+#include "app/FileName.h"
 #include "app/Progress.h"
 #include "card/record/ByteOrder.h"
 #include "card/record/RecordData.h"
-
-#include <QFile>
 
 #include <algorithm>
 #include <cerrno>
@@ -81,23 +80,31 @@ template <bool Swap> StoredRecord parseRecord(const uint8_t* pRecord)
 
 } // namespace
 
+void RecordFile::noteSystemError(int error)
+{
+    mSystemError = error;
+    mProblem = tr("it cannot be read: %1").arg(qt_error_string(error));
+}
+
 RecordFile::File RecordFile::openFile()
 {
-    mFailure = eNotOpened;
+    mProblem.clear();
+    mSystemError = 0;
     // Not blocking: a pipe in the folder must not stop the program.
-    const int descriptor = open(QFile::encodeName(fileName).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    const int descriptor = open(encodeFileName(fileName).c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     if (descriptor < 0) {
-        mSystemError = errno;
+        noteSystemError(errno);
         return nullptr;
     }
     struct stat status {};
     if (fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) {
         close(descriptor);
-        mSystemError = EINVAL;
+        noteSystemError(EINVAL);
         return nullptr;
     }
     recordCount = recordsOf(status.st_size);
-    mFailure = status.st_size < kHeaderSize ? eTooShort : eNoFailure;
+    if (status.st_size < kHeaderSize)
+        mProblem = tr("%1 bytes, no record").arg(status.st_size);
     return File(fdopen(descriptor, "rb"));
 }
 
@@ -211,7 +218,7 @@ template <bool Swap> bool RecordFile::readRecords(FILE* pFile, RecordData& data)
         }
         done += got;
         if (got < wanted) {
-            mFailure = eTooShort;
+            mProblem = tr("records cut off");
             mConsole.print("RecordFile::readData: %s ends after %d of %d records\n", fileName.toUtf8().constData(), done, recordCount);
             break;
         }

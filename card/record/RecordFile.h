@@ -2,6 +2,8 @@
 
 #include "card/record/RecordInfo.h"
 
+#include <QCoreApplication>
+
 #include <cstdio>
 #include <memory>
 
@@ -15,14 +17,13 @@ class RecordData;
 /// Files are read with ordinary reads, never mapped: a medium that is pulled must not end the process. Only regular files are
 /// opened. No checksum exists; a record counts only when all its bytes came.
 class RecordFile : public RecordInfo {
+    Q_DECLARE_TR_FUNCTIONS(ZARN::RecordFile)
+
 public:
     RecordFile(const Console& console, Progress& receiver) : mConsole(console), mProgress(receiver) {}
 
     static constexpr int64_t kHeaderSize = 128;
     static constexpr int64_t kRecordSize = 28;
-
-    /// What kept the last pass from reading all of the file.
-    enum EFailure { eNoFailure, eNotOpened, eTooShort /**< for its header, or for the records that its size promised */ };
 
     /// The header pass. A file that cannot be opened is said on the console and leaves the info as it was.
     void readRecordInfo(const QString& path);
@@ -33,9 +34,10 @@ public:
     /// Reads the data records from the file's position on. @return false only when no memory is left for them.
     bool readData(FILE* pFile, RecordData& data);
 
-    [[nodiscard]] EFailure failure() const { return mFailure; }
-    /// The system's number of the error for a file that could not be opened.
-    [[nodiscard]] int systemError() const { return mSystemError; }
+    /// What the last pass found wrong with the file, for people; empty when nothing is.
+    [[nodiscard]] const QString& problem() const { return mProblem; }
+    /// Whether that is the system's doing, not damage: the file may hold more than could be read.
+    [[nodiscard]] bool isSystemError() const { return mSystemError != 0; }
 
     [[nodiscard]] const RecordInfo& recordInfo() const { return *this; }
     void setRecordInfo(const RecordInfo& info) { static_cast<RecordInfo&>(*this) = info; }
@@ -66,6 +68,7 @@ private:
     using File = std::unique_ptr<FILE, Close>;
 
     File openFile();
+    void noteSystemError(int error);
     double readTime(FILE* pFile) const;
     std::string readText(FILE* pFile, int length) const;
     QDateTime readDateTime(FILE* pFile) const;
@@ -75,8 +78,8 @@ private:
 
     const Console& mConsole;
     Progress& mProgress;
-    EFailure mFailure = eNoFailure;
-    int mSystemError = 0;
+    QString mProblem;
+    int mSystemError = 0; ///< the system's number of the error that kept the file from being read
     bool swapped = false; ///< the file's byte order differs from the host's
     int32_t recordCount = 0;
     int32_t progress = 0; ///< percent

@@ -43,6 +43,19 @@ QString cycles(const CardContainer& container)
     return texts.join("; ");
 }
 
+QString problems(const std::vector<CardProblem>& problems)
+{
+    QStringList texts;
+    for (const CardProblem& problem : problems)
+        texts << QString::fromStdString(problem.file) + ": " + problem.reason + (problem.isSystemError ? " (system)" : "");
+    return texts.join("; ");
+}
+
+QString problems(const CardContainer& container)
+{
+    return problems(container.problems());
+}
+
 /// A parameter "P" of identifier 1 with samples whose value tells their place.
 struct Sampled {
     explicit Sampled(const std::vector<double>& times, double endTime = 0)
@@ -193,18 +206,17 @@ void TestCardContainer::unreadableFileStartsACycle()
     TestCycle cycle;
     QVERIFY(cycle.container.readContainer(card.write()));
     QCOMPARE(cycles(cycle.container), QString("0:@01 12:00:00.000=A; 1:Cycle 1@01 12:00:00.000=B+C"));
-    QCOMPARE(cycle.container.unreadFiles().size(), std::size_t(1));
-    QCOMPARE(cycle.container.unreadFiles().front().name, QString("B.CAN"));
+    QCOMPARE(problems(cycle.container), QString("B.CAN: 0 bytes, no record"));
     std::filesystem::remove(card.path().toStdString() + "/C.CAN"); // the card is pulled between listing and loading
     QVERIFY(cycle.container.loadCycle(1, -1));
     QCOMPARE(cycle.container.recordData().count(), 0U);
-    QCOMPARE(cycle.container.lostFiles().size(), std::size_t(1)); // that of B is known
-    QCOMPARE(cycle.container.lostFiles().front().name, QString("C.CAN"));
-    QCOMPARE(cycle.container.lostFiles().front().systemError, ENOENT);
+    const QString lost = "C.CAN: it cannot be read: No such file or directory (system)";
+    QCOMPARE(problems(cycle.container), "B.CAN: 0 bytes, no record; " + lost);
+    QCOMPARE(problems(cycle.container.loadProblems()), lost); // that of B is known
     QVERIFY(cycle.lines.find("RecordFile::readRecordData: Could not open " + card.path().toStdString() + "/C.CAN\n") != std::string::npos);
     QVERIFY(cycle.container.loadCycle(0, -1));
     QCOMPARE(cycle.container.recordData().count(), 1U);
-    QVERIFY(cycle.container.lostFiles().empty());
+    QVERIFY(cycle.container.loadProblems().empty());
 }
 
 void TestCardContainer::loadedSpanIsThatOfTheFiles()

@@ -96,7 +96,7 @@ bool CardController::readFolder(const QString& path)
     else if (mSession.container.recordFiles().empty())
         mProblem = tr("The folder %1 holds no record file (*.CAN, *.can, *.xcb).").arg(QDir::toNativeSeparators(path));
     else
-        mProblem = unreadFiles();
+        mProblem = folderProblems();
     return found;
 }
 
@@ -161,30 +161,30 @@ void CardController::reportLoad()
     QStringList problems;
     if (const std::string& error = mSession.container.loadError(); !error.empty())
         problems.append(QString::fromStdString(error));
-    if (const std::vector<UnreadFile>& lost = mSession.container.lostFiles(); !lost.empty())
+    if (const std::vector<CardProblem>& lost = mSession.container.loadProblems(); !lost.empty())
         problems.append(listed(lost));
     if (!problems.isEmpty())
         warn(tr("Not everything could be loaded:\n%1").arg(problems.join('\n')));
 }
 
-QString CardController::unreadFiles() const
+QString CardController::folderProblems() const
 {
-    const std::vector<UnreadFile>& files = mSession.container.unreadFiles();
-    if (files.empty())
+    const std::vector<CardProblem>& problems = mSession.container.problems();
+    if (problems.empty())
         return {};
-    return tr("%n record file(s) of the card could not be read:", nullptr, static_cast<int>(files.size())) + "\n" + listed(files);
+    return tr("%n problem(s) of the card:", nullptr, static_cast<int>(problems.size())) + "\n" + listed(problems);
 }
 
-QString CardController::listed(const std::vector<UnreadFile>& files)
+QString CardController::listed(const std::vector<CardProblem>& problems)
 {
     QStringList lines;
-    for (const UnreadFile& file : files) {
+    for (const CardProblem& problem : problems) {
         if (lines.size() == kMostListed) {
-            lines.append(tr("... and %n more", nullptr, static_cast<int>(files.size()) - kMostListed));
+            lines.append(tr("... and %n more", nullptr, static_cast<int>(problems.size()) - kMostListed));
             break;
         }
-        lines.append(file.name.simplified() + ": " +
-                     (file.systemError != 0 ? qt_error_string(file.systemError) : tr("the file is too short")));
+        const QString file = problem.file.empty() ? tr("The folder") : QString::fromStdString(problem.file).simplified();
+        lines.append(file + ": " + problem.reason);
     }
     return lines.join('\n');
 }

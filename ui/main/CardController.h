@@ -17,7 +17,7 @@ namespace ZARN {
 class DialogCard;
 class RecentFolders;
 class StatusProgress;
-struct UnreadFile;
+struct CardProblem;
 
 /// Opens card folders and loads what the card browser chooses. Loads one thing at a time: what is asked for while another load
 /// paints the windows waits until that is done. Owned by the main window.
@@ -69,10 +69,10 @@ private:
     void runLoad(const Work& work);
     void reportLoad();
     void warn(const QString& text);
-    /// What could not be read of the folder, for people; empty when all was.
-    [[nodiscard]] QString unreadFiles() const;
+    /// What is wrong with the folder's files, for people; empty when nothing is.
+    [[nodiscard]] QString folderProblems() const;
     /// The files by name with the reasons, for people: the first of them.
-    [[nodiscard]] static QString listed(const std::vector<UnreadFile>& files);
+    [[nodiscard]] static QString listed(const std::vector<CardProblem>& problems);
 
     Session mSession;
     DialogCard& mBrowser;
