@@ -15,7 +15,7 @@ constexpr QSize kSize(560, 380);
 } // namespace
 
 DialogExportCsv::DialogExportCsv(const Session& session, QWidget* pParent)
-    : QWizard(pParent), mSession(session), mpPath(new DialogExportCsvPath), mpOptions(new DialogExportCsvOptions)
+    : QWizard(pParent), mSession(session), mpPath(new DialogExportCsvPath(session.container)), mpOptions(new DialogExportCsvOptions)
 {
     setWindowTitle(tr("CSV Export"));
     setWizardStyle(QWizard::ModernStyle);

@@ -16,7 +16,7 @@ constexpr QSize kSize(560, 440);
 } // namespace
 
 DialogExportKml::DialogExportKml(const Session& session, QWidget* pParent)
-    : QWizard(pParent), mSession(session), mpPath(new DialogExportKmlPath), mpOptions(new DialogExportKmlOptions),
+    : QWizard(pParent), mSession(session), mpPath(new DialogExportKmlPath(session.container)), mpOptions(new DialogExportKmlOptions),
       mpPlacemark(new DialogExportKmlPlacemark)
 {
     setWindowTitle(tr("KML Export"));

@@ -14,8 +14,8 @@
 
 namespace ZARN {
 
-ExportPathPage::ExportPathPage(const QString& chooser, QWidget* pParent)
-    : QWizardPage(pParent), mChooser(chooser), mpForm(new QFormLayout(this)), mpPart(new QComboBox), mpDirectory(new QLineEdit), mpName(new QLineEdit), mpProblem(new QLabel)
+ExportPathPage::ExportPathPage(const CardContainer& card, const QString& chooser, QWidget* pParent)
+    : QWizardPage(pParent), mCard(card), mChooser(chooser), mpForm(new QFormLayout(this)), mpPart(new QComboBox), mpDirectory(new QLineEdit), mpName(new QLineEdit), mpProblem(new QLabel)
 {
     setTitle(tr("Select the output directory and file"));
     mpPart->setObjectName("part");
@@ -85,7 +85,7 @@ bool ExportPathPage::isComplete() const
 
 bool ExportPathPage::validatePage()
 {
-    const ExportTarget target(directory(), fileName());
+    const ExportTarget target(mCard, directory(), fileName());
     mpProblem->setText(target.problem());
     return mpProblem->text().isEmpty() && (!target.exists() || mayReplace(target.path()));
 }

@@ -13,6 +13,8 @@ class QLineEdit;
 
 namespace ZARN {
 
+class CardContainer;
+
 /// The page of an export's wizard that takes what is exported, folder and file name, and lets its user go on only when that file can be written. An
 /// existing file is asked about once.
 class ExportPathPage : public QWizardPage {
@@ -20,7 +22,7 @@ class ExportPathPage : public QWizardPage {
 
 public:
     /// @param chooser title of the window that chooses a folder.
-    explicit ExportPathPage(const QString& chooser, QWidget* pParent = nullptr);
+    ExportPathPage(const CardContainer& card, const QString& chooser, QWidget* pParent = nullptr);
 
     void setTarget(const QString& directory, const QString& name);
     /// What can be exported, the first being chosen. None or a single one leaves no choice.
@@ -40,6 +42,7 @@ private Q_SLOTS:
 private:
     [[nodiscard]] bool mayReplace(const QString& path);
 
+    const CardContainer& mCard;
     QString mChooser;
     std::vector<ExportPart> mParts;
     QFormLayout* mpForm;

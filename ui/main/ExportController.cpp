@@ -8,10 +8,10 @@
 #include "export/ui/DialogExportCsv.h"
 #include "export/ui/DialogExportKml.h"
 #include "export/ui/ExportProgress.h"
+#include "export/ui/ExportTarget.h"
 #include "report/FlightReport.h"
 #include "ui/main/CardController.h"
 
-#include <QCryptographicHash>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -23,23 +23,11 @@ namespace ZARN {
 ExportController::ExportController(const Session& session, CardController& cards, ShownSpan graphSpan, QWidget* pWindow)
     : QObject(pWindow), mSession(session), mCards(cards), mGraphSpan(std::move(graphSpan)), mpWindow(pWindow)
 {
-    connect(&cards, &CardController::signalDataChanged, this, [this] { mLoadedState = cardState(); });
-}
-
-QByteArray ExportController::cardState() const
-{
-    QCryptographicHash state(QCryptographicHash::Sha1);
-    for (const auto& [name, info] : mSession.container.recordFiles()) {
-        const QString line = QString("%1 %2 %3 %4 ").arg(info.fileName, info.dateTime.toString(Qt::ISODate)).arg(info.ecuSerialNumber).arg(info.samples) +
-                             QString("%1 %2\n").arg(info.startTime, 0, 'g', 17).arg(info.endTime, 0, 'g', 17);
-        state.addData(line.toUtf8());
-    }
-    return state.result();
 }
 
 bool ExportController::hasData()
 {
-    if (mSession.container.recordData().count() > 0 && mLoadedState == cardState())
+    if (mCards.hasData())
         return true;
     say(QMessageBox::Information, tr("ZARN Warning"), tr("No data of this card is loaded."), tr("Choose a power cycle in the card browser first."));
     return false;
@@ -82,10 +70,17 @@ void ExportController::exportKml()
     if (!DialogExportKml(mSession, mpWindow).getOptions(mKmlOptions, parts(".kml")))
         return;
     const RecordCycle* pCycle = mSession.container.loadedCycle();
-    ExportKml exporter(mSession.console, mSession.profile, pCycle ? pCycle->dateTime : QDateTime());
-    const auto work = [&](Progress& progress) { return exporter.exportData(mSession.container.recordData(), mKmlOptions, progress); };
+    ExportKml exporter(mSession.console, mSession.profile, pCycle ? pCycle->dateTime : mSession.container.dateTime());
+    bool isPathMissing = false;
+    const auto work = [&](Progress& progress) {
+        const bool written = exporter.exportData(mSession.container.recordData(), mKmlOptions, progress);
+        isPathMissing = written && !exporter.hasPosition();
+        return written;
+    };
     if (!run(QString::fromStdString(mKmlOptions.directory + "/" + mKmlOptions.fileName), work))
         fail(tr("ZARN Warning"), tr("Exporting KML file failed !"), exporter.error());
+    else if (isPathMissing)
+        say(QMessageBox::Information, tr("ZARN Warning"), tr("No position was recorded: the KML file holds no flight path."));
 }
 
 void ExportController::exportCsv()
@@ -146,7 +141,12 @@ QString ExportController::askFile(const char* setting, const QString& title, con
     if (dialog.exec() != QDialog::Accepted)
         return {};
     const QString path = dialog.selectedFiles().constFirst();
-    mSession.property.setString(setting, QFileInfo(path).absolutePath().toStdString());
+    const QFileInfo file(path);
+    if (const QString problem = ExportTarget(mSession.container, file.absolutePath(), file.fileName()).recordProblem(); !problem.isEmpty()) {
+        say(QMessageBox::Critical, tr("ZARN Warning"), problem);
+        return {};
+    }
+    mSession.property.setString(setting, file.absolutePath().toStdString());
     mSession.property.writeXmlFile();
     return path;
 }

@@ -40,8 +40,6 @@ Q_SIGNALS:
 private:
     /// Whether records are loaded, and of the card that is shown. Tells the user when not.
     bool hasData();
-    /// What the files of the card that is shown say: another card in the same folder says something else.
-    [[nodiscard]] QByteArray cardState() const;
     /// Names card, cycle and flight.
     [[nodiscard]] QString fileName(int flight, const QString& suffix) const;
     [[nodiscard]] QString selectionName(const QString& suffix) const;
@@ -52,13 +50,12 @@ private:
     /// Asks for a file in the folder that the setting remembers. @return its path; empty when the user cancels.
     QString askFile(const char* setting, const QString& title, const QString& name, const QString& filter);
     void fail(const QString& title, const QString& text, const std::string& reason);
-    void say(QMessageBox::Icon icon, const QString& title, const QString& text, const QString& information);
+    void say(QMessageBox::Icon icon, const QString& title, const QString& text, const QString& information = {});
 
     Session mSession;
     CardController& mCards;
     ShownSpan mGraphSpan;
     QWidget* mpWindow;
-    QByteArray mLoadedState; ///< of the card as its records were loaded
     CsvExportOptions mCsvOptions;
     KmlExportOptions mKmlOptions;
 };

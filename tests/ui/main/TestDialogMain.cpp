@@ -472,11 +472,23 @@ void TestDialogMain::exportCsv()
     DialogMain& window = desktop.open();
     started(window);
     window.slotLoadCycle(3, -1);
-    Answer save([this](QWidget* pModal) { finish(pModal, home(), "out.csv"); });
+    Answer save([this](QWidget* pModal) {
+        QCOMPARE(pModal->findChild<QLineEdit*>("fileName")->text(), QString("SD cycle 3.csv"));
+        finish(pModal, home(), "out.csv");
+    });
     window.action(eActionExportCsv)->trigger();
     QCOMPARE(save.title, QString("CSV Export"));
     QVERIFY(QFileInfo(home() + "/out.csv").size() > 1000);
     QCOMPARE(desktop.property.getString("CsvExportDir", ""), home().toStdString());
+    // The records of a card are nothing that the next one has.
+    QVERIFY(QDir().mkpath(home() + "/next") && QFile::copy(card() + "/LOG00001.CAN", home() + "/next/LOG00001.CAN"));
+    window.openFolder(home() + "/next");
+    for (const int id : {eActionExportKml, eActionExportCsv, eActionExportGpx, eActionReport}) {
+        Answer told(Answer::close);
+        window.action(id)->setEnabled(true);
+        window.action(id)->trigger();
+        QCOMPARE(told.text, QString("No data of this card is loaded."));
+    }
 }
 
 void TestDialogMain::failedExport_data()
@@ -491,9 +503,10 @@ void TestDialogMain::failedExport_data()
 void TestDialogMain::failedExport()
 {
     QFETCH(int, id);
-    DesktopFixture desktop(home());
+    DesktopFixture desktop(home(), {card().toStdString()});
     DialogMain& window = desktop.open();
     started(window);
+    window.slotLoadCycle(3, -1);
     QVERIFY(QDir().mkpath(home() + "/sub"));
     std::optional<Answer> told;
     Answer choose([&](QWidget* pModal) {
