@@ -90,7 +90,7 @@ bool CommandInfo::isWanted(const RecordCycle& cycle) const
 std::string CommandInfo::json(const CardContainer& container) const
 {
     JsonWriter writer;
-    writer.beginAnswer().member("name", container.name()).member("path", mCard).key("files").beginArray();
+    writer.beginAnswer().member("name", encodeFileName(container.name())).member("path", mCard).key("files").beginArray();
     for (const auto& [name, info] : container.recordFiles()) {
         if (isWanted(name))
             writeFile(writer, name, info);

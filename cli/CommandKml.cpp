@@ -20,10 +20,8 @@ std::string CommandKml::checkSetting(const std::string& text)
     if (equals == std::string::npos)
         return text + ": no KEY=VALUE";
     const std::string key = text.substr(0, equals);
-    if (!KmlExportOptions::isKey(key))
-        return key + ": the KML export has no such setting";
-    const bool isInterval = key == "KmlTimeStamp" || key == "KmlPlaceMarkIntervall";
-    return isInterval && std::atoi(text.c_str() + equals + 1) < 1 ? key + ": no number of seconds from 1 on" : std::string();
+    return KmlExportOptions::isKey(key) ? KmlExportOptions::problem(key, text.substr(equals + 1))
+                                        : key + ": the KML export has no such setting";
 }
 
 int CommandKml::runOnData()

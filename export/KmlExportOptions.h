@@ -29,11 +29,14 @@ struct KmlExportOptions {
     std::string errorMarkColor = "ff0000";
     std::optional<TimeSpan> span = {}; ///< only path points and placemarks in it; none: the whole
 
-    /// Takes over what the settings have; the rest stays.
+    /// Takes over what the settings have; the rest stays, and so does a colour for one that is none. Numbers out of range are
+    /// brought into it.
     void read(const Property& settings);
     void write(Property& settings) const;
     /// Whether the settings know a value of this export by that key.
     [[nodiscard]] static bool isKey(const std::string& key);
+    /// What is wrong with a value for that key; empty when nothing is. Texts are taken for numbers as the settings take them.
+    [[nodiscard]] static std::string problem(const std::string& key, const std::string& value);
 };
 
 } // namespace ZARN

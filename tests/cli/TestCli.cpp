@@ -55,6 +55,8 @@ private Q_SLOTS:
     void kmlTakesItsSettings();
     void valuesSurviveTheRoundTrip();
     void textsAreEscaped();
+    void damageIsNamed();
+    void namesMayBeAnyBytes();
     void tablesForPeople_data();
     void tablesForPeople();
 
@@ -96,6 +98,7 @@ void TestCli::initTestCase()
     file.add(3, 3, bytePayload(1)).addWord(700, 1, 0).addWord(700, 2, 8).addWord(700, 4, 0);
     file.addFloat(1, 50, std::numeric_limits<float>::quiet_NaN()).addFloat(1, 51, -HUGE_VALF).addFloat(1, 60, 0.1F).addFloat(1, 61, 0);
     putFile(folder + "/card/LOG 1.CAN", file.bytes().toStdString());
+    std::filesystem::create_hard_link(folder + "/card/LOG 1.CAN", folder + "/link to a recording");
 }
 
 void TestCli::helps_data()
@@ -127,7 +130,8 @@ void TestCli::failures_data()
         QTest::newRow(name) << arguments << status << said;
     };
     row("missing folder", {"info", "no%s%n"}, 1, "no%s%n: no such folder");
-    row("file for a folder", {"info", "Profile.xml"}, 1, "Profile.xml: no such folder");
+    row("file that is no recording", {"info", "Profile.xml"}, 1, "Profile.xml: no record file");
+    row("file for a folder", {"flights", "Profile.xml"}, 1, "Profile.xml: no folder");
     row("missing folder of data", {"flights", "nowhere", "--profile", "Profile.xml"}, 1, "nowhere: no such folder");
     row("folder without records", {"csv", "empty", "--profile", "Profile.xml", "-o", "out.csv"}, 1, "empty: the folder holds no record file");
     row("unknown cycle", {"flights", "CARD", "--cycle", "7"}, 1, "no cycle 7");
@@ -137,7 +141,11 @@ void TestCli::failures_data()
     row("unknown parameter", {"value", "CARD", "--parameter", "nope%s", "--time", "1"}, 1, "nope%s: the profile has no such parameter");
     row("parameter of another variant", {"value", "CARD", "--variant", "B", "--parameter", "only A", "--time", "1"}, 1, "only A:");
     row("unknown selection", {"csv", "CARD", "-o", "out.csv", "--select", "height", "--select", "nope"}, 1, "nope: the profile has no such");
-    row("missing profile", {"flights", "card", "--profile", "none.xml"}, 1, "none.xml: not a readable ZARN profile");
+    row("missing profile", {"flights", "card", "--profile", "none.xml"}, 1, "none.xml: No such file or directory");
+    row("unknown variant", {"summary", "CARD", "--variant", "b"}, 1, "b: the profile has no such variant");
+    row("unknown variant of a profile", {"profile", "Profile.xml", "--variant", "AB"}, 1, "AB: the profile has no such variant");
+    row("flight for the whole card", {"summary", "CARD", "--flight", "1"}, 2, "--flight");
+    row("record file of the card as target", {"csv", "CARD", "-o", "link to a recording"}, 1, "link to a recording: a record file of the card");
     row("other root", {"profile", "other.xml"}, 1, "other.xml: not a readable ZARN profile");
     row("broken profile", {"csv", "card", "--profile", "broken.xml", "-o", "out.csv"}, 1, "broken.xml: not a readable");
     row("missing target folder", {"csv", "CARD", "-o", "no/out.csv"}, 1, "no/out.csv: No such file or directory");
@@ -165,11 +173,11 @@ void TestCli::failures_data()
     row("no output for GPX", {"gpx", "CARD"}, 2, "--output");
     row("setting that is none", {"kml", "CARD", "-o", "out.kml", "--set", "KmlPlaceMarkInterval=3"}, 2, "KmlPlaceMarkInterval");
     row("setting of another export", {"kml", "CARD", "-o", "out.kml", "--set", "KmlLineWidth=3", "--set", "CsvLimiter=59"}, 2, "CsvLimiter");
-    row("interval of no seconds", {"kml", "CARD", "-o", "out.kml", "--set", "KmlTimeStamp=0"}, 2, "KmlTimeStamp");
+    row("interval of no seconds", {"kml", "CARD", "-o", "out.kml", "--set", "KmlTimeStamp=0"}, 2, "KmlTimeStamp: must be a number of seconds");
     row("setting without a value", {"kml", "CARD", "-o", "out.kml", "--set", "KmlLineWidth"}, 2, "KmlLineWidth");
     row("two subcommands", {"info", "card", "profile", "Profile.xml"}, 2, "profile");
     row("json for a file", {"csv", "CARD", "-o", "out.csv", "--json"}, 2, "--json");
-    row("newline in a wrong argument", {"info", "card", "--a\nb"}, 2, "--a b");
+    row("what a terminal would obey", {"info", "no\n\x1b[2J\u202e\u009b"}, 1, "no\\n\\x1b[2J\\u202e\\x9b: no such folder");
 }
 
 void TestCli::failures()
@@ -188,9 +196,7 @@ void TestCli::failures()
     const QStringList lines = QString(answer.errors).split('\n', Qt::SkipEmptyParts);
     QVERIFY(!lines.isEmpty());
     QVERIFY2(lines.last().startsWith("zarn-cli: ") && lines.last().contains(said), answer.errors.constData());
-    QCOMPARE(lines.filter("zarn-cli: ").size(), 1);
-    if (status == 2)
-        QCOMPARE(lines.size(), 1);
+    QCOMPARE(lines.size(), 1);
 }
 
 void TestCli::helpsWithoutArguments()
@@ -212,6 +218,11 @@ void TestCli::failedWritesLeaveNothing_data()
     QTest::newRow("full standard output, GPX") << "\"$1\" gpx card --profile Profile.xml -o - >/dev/full" << "standard output: No space left";
     QTest::newRow("full standard output, json") << "\"$1\" info card --json >/dev/full" << "standard output: No space left";
     QTest::newRow("closed standard output") << "\"$1\" csv card --profile Profile.xml -o - >&-" << "standard output: Bad file descriptor";
+    QTest::newRow("full standard output, help") << "\"$1\" csv --help >/dev/full" << "standard output: No space left";
+#ifndef __SANITIZE_ADDRESS__ // the sanitizer alone takes more
+    QTest::newRow("no memory") << "ulimit -v 262144; cp -r card big; truncate -s 1G 'big/LOG 1.CAN'; "
+                                  "\"$1\" csv big -o new.csv; status=$?; rm -r big; exit $status" << "big/LOG 1.CAN: not enough memory";
+#endif
     QTest::newRow("closed standard output, table") << "\"$1\" info card >&-" << "standard output: Bad file descriptor";
     QTest::newRow("reader gone") << "set -o pipefail; \"$1\" csv card --profile Profile.xml -o - | true; exit ${PIPESTATUS[0]}" << "";
 }
@@ -227,6 +238,8 @@ void TestCli::failedWritesLeaveNothing()
         QCOMPARE(answer.status, 1);
         QVERIFY2(QString(answer.errors).section('\n', -2).startsWith("zarn-cli: " + said), answer.errors.constData());
     }
+    else
+        QCOMPARE(answer.errors, QByteArray());
     QVERIFY(answer.status == 0 || answer.status == 1);
     QVERIFY(entries() == before);
     QCOMPARE(fileContent((mFolder.path() + "/kept.csv").toStdString()), std::string("of yesterday"));
@@ -253,10 +266,9 @@ void TestCli::kmlTakesItsSettings()
     const Answer plain = cli(call);
     QCOMPARE(plain.status, 0);
     QVERIFY(plain.out.contains("<width>1</width>") && plain.out.endsWith("</kml>\n"));
-    QVERIFY(!plain.errors.contains("time ")); // a line for every position belongs to the desktop program
-    const Answer set = cli(call + QStringList{"--set", "KmlLineWidth=7", "--set", "KmlLineWidth=9", "--set", "KmlLineColor=", "--set",
-                                              "KmlPolygonOn=1"});
-    QVERIFY(set.out.contains("<width>9</width>") && set.out.contains("<extrude>0</extrude>") && set.out.contains("<color>ff000000</color>"));
+    QCOMPARE(plain.errors, QByteArray("zarn-cli: card: no position recorded\n"));
+    const Answer set = cli(call + QStringList{"--set", "KmlLineWidth=7", "--set", "KmlLineWidth=9", "--set", "KmlPolygonOn=1"});
+    QVERIFY(set.out.contains("<width>9</width>") && set.out.contains("<extrude>0</extrude>"));
 }
 
 void TestCli::valuesSurviveTheRoundTrip()
@@ -287,10 +299,27 @@ void TestCli::textsAreEscaped()
     QCOMPARE(file["engineSerial"].toString(), QString("C\x01") + QChar(QChar::ReplacementCharacter)); // whatever stands in a damaged file
     CardBuilder card;
     card.rawFile("quote\" back\\ line\n tab\t ü.CAN", RecordFileBuilder().addWord(1, 1, 0).bytes());
-    const QJsonObject info = json(cli({"info", card.path() + "/", "--json"}).out);
-    QCOMPARE(info["files"].toArray().at(0).toObject()["name"].toString(), QString("quote\" back\\ line\n tab\t ü.CAN"));
-    QVERIFY(info["files"].toArray().at(0).toObject()["dateTime"].isNull());
-    QCOMPARE(info["name"].toString(), QString("")); // what stands after the last slash
+    const QByteArray answer = cli({"info", card.path(), "--json"}).out;
+    QVERIFY(answer.startsWith("{\"schema\":1,"));
+    QCOMPARE(json(answer)["files"].toArray().at(0).toObject()["name"].toString(), QString("quote\" back\\ line\n tab\t ü.CAN"));
+    QVERIFY(json(answer)["files"].toArray().at(0).toObject()["dateTime"].isNull());
+}
+
+/// What is wrong with a card is told beside the answer, and fails nothing.
+void TestCli::damageIsNamed()
+{
+    const Answer answer = shell("cp -r card bad; : >bad/LOG2.CAN; \"$1\" info bad --json; rm -r bad");
+    QCOMPARE(answer.errors, QByteArray("zarn-cli: LOG2.CAN: 0 bytes, no record\n"));
+    const QJsonObject problem = json(answer.out)["problems"].toArray().at(0).toObject();
+    QCOMPARE(problem["file"].toString() + ": " + problem["reason"].toString(), QString("LOG2.CAN: 0 bytes, no record"));
+}
+
+void TestCli::namesMayBeAnyBytes()
+{
+    const Answer answer = shell("set -e; d=$'no\\xff\\xc3'; mkdir $d; cp 'card/LOG 1.CAN' $d/$'\\xfe.CAN'; cp Profile.xml $d/$'\\xe9.xml'; "
+                                "\"$1\" csv $d --profile $d/$'\\xe9.xml' -o $d/$'\\xe9.csv'; head -n 1 $d/$'\\xe9.csv'; \"$1\" info $d/$'\\xfe.CAN'; rm -r $d");
+    QCOMPARE(answer.errors, QByteArray());
+    QVERIFY2(answer.out.startsWith("Time;height") && answer.out.contains("\n\\xfe.CAN  2024-05-01"), answer.out.constData());
 }
 
 void TestCli::tablesForPeople_data()
@@ -298,16 +327,17 @@ void TestCli::tablesForPeople_data()
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QStringList>("needles");
     QTest::newRow("info") << QStringList{"info", "card"} << QStringList{"LOG 1.CAN", "2024-05-01 12:00:00", "00:01:01.000", "808"};
+    QTest::newRow("info of one file") << QStringList{"info", "card/LOG 1.CAN"} << QStringList{"LOG 1.CAN", "B \"quoted\"", "C\\x01\\xff"};
     QTest::newRow("info, nothing there") << QStringList{"info", "empty"} << QStringList{"empty", "no record file"};
     QTest::newRow("flights") << QStringList{"flights", "CARD"} << QStringList{"Cycle 0", "No flight"};
     QTest::newRow("value") << QStringList{"value", "CARD", "--parameter", "height", "--time", "60.5", "--time", "99"}
-                           << QStringList{"D/height [m]", "0.100000", "ok", "no data"};
-    QTest::newRow("path") << QStringList{"path", "CARD"} << QStringList{"Latitude"};
+                           << QStringList{"D/height\n", "Value [m]", "0.100000", "ok", "no data"};
+    QTest::newRow("path") << QStringList{"path", "CARD"} << QStringList{"Latitude [deg]"};
     QTest::newRow("limits") << QStringList{"events", "CARD"} << QStringList{"Limit exceedances", "00:00:37.000", "90.0", "No warning lamp was lit"};
     QTest::newRow("lamps") << QStringList{"events", "card", "--profile", "warnings.xml"}
                            << QStringList{"No limit was exceeded", "Warning lamps", "00:00:03.000  WarningLamp  Oil"};
     QTest::newRow("faults") << QStringList{"faults", "card", "--profile", "warnings.xml"}
-                            << QStringList{"Lane A (700)", "Fault  00:00:02.000  00:00:04.000", "Lane B (701)", "not recorded"};
+                            << QStringList{"Lane A (700)", "Sensor  Fault  00:00:02.000  00:00:04.000", "Lane B (701)", "not recorded"};
     QTest::newRow("faults, nothing there") << QStringList{"faults", "CARD"} << QStringList{"no error matrix"};
     QTest::newRow("profile") << QStringList{"profile", "Profile.xml"} << QStringList{"D/Drehzahl ü", "Variant A"};
 }

@@ -8,7 +8,6 @@
 #include <QTest>
 
 #include <random>
-#include <set>
 
 using namespace ZARN;
 using namespace ZARN::Test;
@@ -170,15 +169,9 @@ class TestExportCsv : public QObject {
 private Q_SLOTS:
     void equalsNaiveTable_data();
     void equalsNaiveTable();
-    void selection();
-    void timeColumn_data();
-    void timeColumn();
-    void lastOfATickCountsAndHolds();
     void widthsAndTextsBeyondTheBuffers_data();
     void widthsAndTextsBeyondTheBuffers();
     void fullDisk();
-    void targetsThatCannotBeWritten_data();
-    void targetsThatCannotBeWritten();
 };
 
 void TestExportCsv::equalsNaiveTable_data()
@@ -209,62 +202,6 @@ void TestExportCsv::equalsNaiveTable()
     for (const char* name : {"Longitude", "Latitude", "switch"})
         csv.cycle.profile.setSelected(name, true);
     compareLines(csv.run(data), NaiveCsv(csv.cycle.profile, data, csv.options).text());
-}
-
-void TestExportCsv::selection()
-{
-    Export csv;
-    loadProfile(csv.cycle.profile);
-    RecordData data;
-    RecordFileBuilder().addFloat(1, 0.04, 1).addWord(6, 0.2, 7).fill(data);
-    csv.options.allParameters = false;
-    QCOMPARE(csv.run(data), std::string("Time\n")); // nothing selected
-    csv.cycle.profile.setSelected("silent", true);
-    QCOMPARE(csv.run(data), std::string("Time;silent\n")); // no samples: no rows
-    csv.cycle.profile.setSelected("speed", true);  // of both devices
-    csv.options.separator = '\t';
-    QCOMPARE(csv.run(data), std::string("Time\tspeed\tsilent\tspeed\n0:00:00.000\t1.00\t\t\n0:00:00.200\t1.00\t\t7\n"));
-}
-
-void TestExportCsv::timeColumn_data()
-{
-    QTest::addColumn<int>("resolution");
-    QTest::addColumn<double>("seconds");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("tick 36005") << 100 << 3600.5 << "1:00:00.500";
-    QTest::newRow("tick 5") << 10 << 0.05 << "0:00:00.050";
-    QTest::newRow("rounds to nearest") << 100 << 0.15 << "0:00:00.200";
-    QTest::newRow("just below") << 100 << 0.1499 << "0:00:00.100";
-    QTest::newRow("carries") << 10 << 59.996 << "0:01:00.000";
-    QTest::newRow("hours are not limited") << 100 << 360000.0 << "100:00:00.000";
-    QTest::newRow("last tick of 100 ms") << 100 << 1e9 << "119304:38:49.500";
-    QTest::newRow("last tick of 10 ms") << 10 << 1e9 << "11930:27:52.950";
-}
-
-void TestExportCsv::timeColumn()
-{
-    QFETCH(int, resolution);
-    QFETCH(double, seconds);
-    Export csv;
-    QVERIFY(ProfileBuilder().device("D").parameter("p", 1, "UCHAR").load(csv.cycle.profile));
-    RecordData data;
-    RecordFileBuilder().add(1, seconds, bytePayload(3)).fill(data);
-    csv.options.resolution = static_cast<uint32_t>(resolution);
-    QTEST(QString::fromStdString(csv.run(data)).section('\n', 1, 1).section(';', 0, 0), "text");
-}
-
-void TestExportCsv::lastOfATickCountsAndHolds()
-{
-    Export csv;
-    QVERIFY(ProfileBuilder().device("D").parameter("slow", 1, "UCHAR").parameter("fast", 2, "UCHAR").load(csv.cycle.profile));
-    RecordData data;
-    RecordFileBuilder file;
-    file.add(1, 0.06, bytePayload(1)).add(1, 0.14, bytePayload(2)).add(2, 0.0, bytePayload(9)); // the times go back
-    for (int i = 1; i <= 4; ++i)
-        file.add(2, i * 0.1, bytePayload(static_cast<uint8_t>(10 + i)));
-    file.add(1, 0.4, bytePayload(3)).add(1, 0.38, bytePayload(4)).fill(data); // the last in order of reception, not of time
-    QCOMPARE(csv.run(data), std::string("Time;slow;fast\n0:00:00.000;;9\n0:00:00.100;2;11\n0:00:00.200;2;12\n0:00:00.300;2;13\n"
-                                        "0:00:00.400;4;14\n"));
 }
 
 void TestExportCsv::widthsAndTextsBeyondTheBuffers_data()
@@ -311,42 +248,6 @@ void TestExportCsv::fullDisk()
     const auto write = [&] { return ExportCsv(csv.cycle.profile).exportData(data, csv.options); };
     const std::string target = (csv.options.directory + "/" + csv.options.fileName).toStdString();
     QCOMPARE(fillAtEveryByte(target, whole, 1, write), std::string());
-}
-
-void TestExportCsv::targetsThatCannotBeWritten_data()
-{
-    QTest::addColumn<QString>("directory"); // "-" is the test's own folder
-    QTest::addColumn<QString>("fileName");
-    QTest::addColumn<int>("resolution");
-    QTest::addColumn<QString>("reason");
-    QTest::newRow("full disk") << "/dev" << "full" << 100 << "/dev/full: No space left on device";
-    QTest::newRow("missing folder") << "/nonexistent" << "out.csv" << 100 << "/nonexistent/out.csv: No such file or directory";
-    QTest::newRow("a folder") << "/" << "dev" << 100 << "//dev: Is a directory";
-    QTest::newRow("no such resolution") << "-" << "out.csv" << 0 << "no resolution of 0 ms";
-    QTest::newRow("a resolution that no second is made of") << "-" << "out.csv" << 30 << "no resolution of 30 ms";
-}
-
-void TestExportCsv::targetsThatCannotBeWritten()
-{
-    QFETCH(QString, directory);
-    QFETCH(QString, fileName);
-    QFETCH(int, resolution);
-    Export csv;
-    loadProfile(csv.cycle.profile);
-    RecordData data;
-    std::mt19937_64 random(1);
-    fill(data, "dense", random);
-    csv.options.directory = directory == "-" ? csv.folder.path() : directory;
-    csv.options.fileName = fileName;
-    csv.options.resolution = static_cast<uint32_t>(resolution);
-    ExportCsv exporter(csv.cycle.profile);
-    QVERIFY(!exporter.exportData(data, csv.options));
-    QTEST(QString::fromStdString(exporter.error()), "reason");
-    QCOMPARE(entryCount(csv.folder.path().toStdString()), 0L);
-    // The next export starts anew.
-    csv.options = {csv.folder.path(), "out.csv"};
-    QVERIFY(exporter.exportData(data, csv.options));
-    QCOMPARE(exporter.error(), std::string());
 }
 
 QTEST_APPLESS_MAIN(TestExportCsv)
