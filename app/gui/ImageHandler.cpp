@@ -14,13 +14,14 @@ constexpr qreal kDisabledOpacity = 0.35;
 class LineIconEngine : public QIconEngine {
 public:
     LineIconEngine(const QByteArray& drawing, const QColor& colour)
-        : mDrawing(QByteArray(drawing).replace("currentColor", colour.name().toLatin1()))
+        : mDrawing(QByteArray(drawing).replace("currentColor", colour.name().toLatin1())),
+          mSelected(QByteArray(drawing).replace("currentColor", "#ffffff"))
     {
     }
 
     void paint(QPainter* pPainter, const QRect& rect, QIcon::Mode mode, QIcon::State /*state*/) override
     {
-        QSvgRenderer renderer(mDrawing);
+        QSvgRenderer renderer(mode == QIcon::Selected ? mSelected : mDrawing);
         pPainter->save();
         pPainter->setRenderHint(QPainter::Antialiasing);
         if (mode == QIcon::Disabled)
@@ -42,6 +43,7 @@ public:
 
 private:
     QByteArray mDrawing;
+    QByteArray mSelected; ///< on the dark ground of a chosen entry
 };
 
 } // namespace

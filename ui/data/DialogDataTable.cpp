@@ -37,6 +37,9 @@ DialogDataTable::DialogDataTable(const Session& session, QWidget* pParent)
       mpLive(new LiveTableModel(session.profile, this)), mpView(new RowTable(kRowHeight)), mpLiveView(new QTableView),
       mpViews(new QStackedLayout), mpHint(new QLabel), mpTimer(new QTimer(this))
 {
+    auto* pLayout = new QVBoxLayout(this);
+    pLayout->setContentsMargins(0, 0, 0, 0);
+    pLayout->addLayout(mpViews); // first: a stack without a widget shows what it is given as windows of their own
     createView();
     createLiveView();
     mpViews->addWidget(mpView);
@@ -45,9 +48,6 @@ DialogDataTable::DialogDataTable(const Session& session, QWidget* pParent)
     mpHint->setText(tr("No parameters are shown. Tick the ones to see in the profile panel."));
     mpHint->setAlignment(Qt::AlignCenter);
     mpHint->setWordWrap(true);
-    auto* pLayout = new QVBoxLayout(this);
-    pLayout->setContentsMargins(0, 0, 0, 0);
-    pLayout->addLayout(mpViews);
     pLayout->addWidget(mpHint);
     mpTimer->setInterval(kRefreshMilliseconds);
     connect(mpTimer, &QTimer::timeout, this, &DialogDataTable::slotTimeoutRefresh);

@@ -2,7 +2,9 @@
 
 #include "app/Property.h"
 #include "card/CardContainer.h"
+#include "card/CardProblem.h"
 #include "sim/DemoCard.h"
+#include "ui/main/CardTree.h"
 #include "ui/main/DialogCard.h"
 #include "ui/main/RecentFolders.h"
 #include "ui/main/StatusProgress.h"
@@ -16,12 +18,14 @@
 #include <QTimer>
 #include <QUrl>
 
+#include <map>
+
 namespace ZARN {
 
 namespace {
 
 constexpr int kRetryMilliseconds = 50;
-constexpr int kMostListed = 8; // files; a message must fit the screen
+constexpr int kMostListed = 4; // files; their data need the room more
 
 } // namespace
 
@@ -56,21 +60,20 @@ void CardController::askFolder()
                                                              QFileDialog::ShowDirsOnly | QFileDialog::DontUseNativeDialog);
     if (!folder.isEmpty())
         openFolder(folder);
-    else
-        Q_EMIT signalFolderChanged();
 }
 
 void CardController::openFolder(const QString& path)
 {
     if (postpone([this, path] { openFolder(path); }))
         return;
-    if (!readFolder(path)) {
-        mRecent.remove(path);
-    } else {
-        mSession.property.setString("LastPath", path.toStdString());
-        mRecent.add(path);
-        mSession.property.writeXmlFile();
+    const QString folder = cleaned(path);
+    if (!readFolder(folder)) {
+        warn(refusal(folder));
+        return;
     }
+    mSession.property.setString("LastPath", folder.toStdString());
+    mRecent.add(folder);
+    mSession.property.writeXmlFile();
     Q_EMIT signalFolderChanged();
     if (!mProblem.isEmpty())
         warn(mProblem);
@@ -80,24 +83,46 @@ void CardController::restoreFolder(const QString& path)
 {
     if (postpone([this, path] { restoreFolder(path); }))
         return;
-    readFolder(path);
-    Q_EMIT signalFolderChanged();
+    if (readFolder(cleaned(path)))
+        Q_EMIT signalFolderChanged();
 }
 
-bool CardController::readFolder(const QString& path)
+bool CardController::readFolder(const QString& folder)
 {
     bool found = false;
     runBusy([&] {
-        found = mSession.container.readContainer(path);
-        mBrowser.reloadCardInfo();
+        found = mSession.container.readContainer(folder);
+        if (found)
+            mBrowser.reloadCardInfo();
     });
-    if (!found)
-        mProblem = tr("The folder %1 is not there, or cannot be read.").arg(QDir::toNativeSeparators(path));
-    else if (mSession.container.recordFiles().empty())
-        mProblem = tr("The folder %1 holds no record file (*.CAN, *.can, *.xcb).").arg(QDir::toNativeSeparators(path));
-    else
-        mProblem = folderProblems();
-    return found;
+    if (!found) {
+        // A card that is shown stays as it is; where there is none, the window says why.
+        if (mSession.container.path().isEmpty()) {
+            mProblem = refusal(folder);
+            Q_EMIT signalFolderChanged();
+        }
+        return false;
+    }
+    mIsLoaded = false;
+    mProblem = mSession.container.recordFiles().empty()
+                   ? tr("The folder %1 holds no record file (*.CAN, *.can, *.xcb).").arg(QDir::toNativeSeparators(folder))
+                   : QString();
+    return true;
+}
+
+QString CardController::refusal(const QString& folder)
+{
+    return tr("The folder %1 is not there, or cannot be read.").arg(QDir::toNativeSeparators(folder));
+}
+
+QString CardController::cleaned(const QString& path)
+{
+    return QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+}
+
+bool CardController::hasData() const
+{
+    return mIsLoaded && mSession.container.recordData().count() != 0;
 }
 
 void CardController::openDemoCard(const QString& parentFolder)
@@ -126,18 +151,15 @@ void CardController::loadCycle(unsigned int cycle, int flight)
 
 void CardController::loadNow(unsigned int cycle, int flight)
 {
-    if (mSession.container.loadCycle(cycle, flight)) {
-        mFiles.clear();
+    if (mSession.container.loadCycle(cycle, flight))
         mFlight = flight;
-    }
 }
 
 void CardController::loadRecords(const std::list<QString>& files)
 {
     if (postpone([this, files] { loadRecords(files); }))
         return;
-    mFiles = files;
-    runLoad([&] { mSession.container.loadFiles(mFiles); });
+    runLoad([&] { mSession.container.loadFiles(files); });
 }
 
 void CardController::recalculate()
@@ -152,41 +174,26 @@ void CardController::runLoad(const Work& work)
 {
     Q_EMIT signalDataChanging(); // the windows are painted while it runs
     runBusy(work);
-    reportLoad();
-}
-
-void CardController::reportLoad()
-{
+    mIsLoaded = true;
     Q_EMIT signalDataChanged();
-    QStringList problems;
     if (const std::string& error = mSession.container.loadError(); !error.empty())
-        problems.append(QString::fromStdString(error));
-    if (const std::vector<CardProblem>& lost = mSession.container.loadProblems(); !lost.empty())
-        problems.append(listed(lost));
-    if (!problems.isEmpty())
-        warn(tr("Not everything could be loaded:\n%1").arg(problems.join('\n')));
+        warn(tr("Not everything could be loaded:\n%1").arg(QString::fromStdString(error)));
 }
 
-QString CardController::folderProblems() const
+QString CardController::fileProblems() const
 {
-    const std::vector<CardProblem>& problems = mSession.container.problems();
-    if (problems.empty())
-        return {};
-    return tr("%n problem(s) of the card:", nullptr, static_cast<int>(problems.size())) + "\n" + listed(problems);
-}
-
-QString CardController::listed(const std::vector<CardProblem>& problems)
-{
-    QStringList lines;
-    for (const CardProblem& problem : problems) {
-        if (lines.size() == kMostListed) {
-            lines.append(tr("... and %n more", nullptr, static_cast<int>(problems.size()) - kMostListed));
+    std::map<QString, QStringList> reasons; // a file may have one when the folder is read, and another when it is loaded
+    for (const CardProblem& problem : mSession.container.problems())
+        reasons[problem.file.empty() ? tr("The folder") : CardTree::printable(problem.file)].append(problem.reason);
+    QStringList entries;
+    for (const auto& [file, texts] : reasons) {
+        if (entries.size() == kMostListed) {
+            entries.append(tr("... and %n more; all are marked under \"Raw Data\"", nullptr, static_cast<int>(reasons.size()) - kMostListed));
             break;
         }
-        const QString file = problem.file.empty() ? tr("The folder") : QString::fromStdString(problem.file).simplified();
-        lines.append(file + ": " + problem.reason);
+        entries.append(file + ": " + texts.join(", "));
     }
-    return lines.join('\n');
+    return entries.isEmpty() ? QString() : tr("Not everything on this card could be read:") + "\n" + entries.join("\n");
 }
 
 QString CardController::droppedFolder(const QMimeData* pData)

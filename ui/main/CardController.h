@@ -7,7 +7,6 @@
 
 #include <functional>
 #include <list>
-#include <vector>
 
 class QMimeData;
 class QWidget;
@@ -17,7 +16,6 @@ namespace ZARN {
 class DialogCard;
 class RecentFolders;
 class StatusProgress;
-struct CardProblem;
 
 /// Opens card folders and loads what the card browser chooses. Loads one thing at a time: what is asked for while another load
 /// paints the windows waits until that is done. Owned by the main window.
@@ -29,7 +27,7 @@ public:
 
     /// Asks for a folder and opens it.
     void askFolder();
-    /// Opens a folder that the user chose; a message box says when it is gone or holds no record file.
+    /// Opens a folder that the user chose; a message box says when it is gone, in which case nothing changes, or holds no record file.
     void openFolder(const QString& path);
     /// Opens the folder of the last run; what is missing is said by problem() alone, a pulled card is no reason to stop the user.
     void restoreFolder(const QString& path);
@@ -47,6 +45,11 @@ public:
     static QString droppedFolder(const QMimeData* pData);
     /// What keeps the last folder from being shown, for people; empty when nothing does.
     [[nodiscard]] const QString& problem() const { return mProblem; }
+    /// What of the card could not be read, when its folder was or in the last load, for people: the first of the files by name with
+    /// the reasons. Empty when there is nothing to tell.
+    [[nodiscard]] QString fileProblems() const;
+    /// Whether there are records, and they are of the card that is shown.
+    [[nodiscard]] bool hasData() const;
 
 Q_SIGNALS:
     /// Another folder was read, or could not be.
@@ -64,15 +67,13 @@ private:
     /// Begins the work later when another load is running. @return whether it does.
     bool postpone(const Work& work);
     void runBusy(const Work& work);
-    bool readFolder(const QString& path);
+    bool readFolder(const QString& folder);
+    static QString refusal(const QString& folder);
+    /// The one way to write a folder's path: absolute, without a separator at its end.
+    static QString cleaned(const QString& path);
     void loadNow(unsigned int cycle, int flight);
     void runLoad(const Work& work);
-    void reportLoad();
     void warn(const QString& text);
-    /// What is wrong with the folder's files, for people; empty when nothing is.
-    [[nodiscard]] QString folderProblems() const;
-    /// The files by name with the reasons, for people: the first of them.
-    [[nodiscard]] static QString listed(const std::vector<CardProblem>& problems);
 
     Session mSession;
     DialogCard& mBrowser;
@@ -80,8 +81,8 @@ private:
     StatusProgress& mProgress;
     QWidget* mpWindow;
     QString mProblem;
-    std::list<QString> mFiles; ///< loaded by name; empty when a cycle is loaded
     int mFlight = -1;
+    bool mIsLoaded = false; ///< something of the card that is shown
     bool mBusy = false;
 };
 

@@ -18,17 +18,6 @@ QString startText(const QDateTime& dateTime)
     return dateTime.toString("d.M.yyyy h:mm:ss");
 }
 
-/// A text of the header for one line of a tree: damaged headers hold any bytes.
-QString printable(const std::string& text)
-{
-    QString result = QString::fromStdString(text);
-    for (QChar& character : result) {
-        if (!character.isPrint() && !character.isSurrogate())
-            character = QChar::ReplacementCharacter;
-    }
-    return result;
-}
-
 /// Joins the entries of consecutive equal dates below one entry.
 class DateGroups {
 public:
@@ -47,6 +36,16 @@ private:
 };
 
 } // namespace
+
+QString CardTree::printable(const std::string& text)
+{
+    QString result = QString::fromStdString(text);
+    for (QChar& character : result) {
+        if (!character.isPrint() && !character.isSurrogate())
+            character = QChar::ReplacementCharacter;
+    }
+    return result;
+}
 
 QString CardTree::dateText(const QDate& date)
 {
@@ -99,7 +98,6 @@ CardNode CardTree::fileNode(const RecordInfo& info)
     node.text = info.fileName.section('/', -1) + "   " + startText(info.dateTime);
     node.toolTip = tr("Start Time") + ": " + clockText(info.startTime) + "\n" + tr("Stop Time") + ": " + clockText(info.endTime);
     node.path = info.fileName;
-    node.children = headerLines(info);
     return node;
 }
 

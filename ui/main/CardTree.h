@@ -35,13 +35,15 @@ public:
     [[nodiscard]] static std::vector<CardNode> cycles(const CardContainer& container);
     /// The flights of one cycle.
     [[nodiscard]] static std::vector<CardNode> flights(unsigned int number, const RecordCycle& cycle);
-    /// The dates, below them the record files of each, below those their header lines.
+    /// The dates, below them the record files of each; without header lines, of which a card has far more than anybody looks at.
     [[nodiscard]] static std::vector<CardNode> rawData(const CardContainer& container);
+    [[nodiscard]] static std::vector<CardNode> headerLines(const RecordInfo& info);
+    /// A text of a card for one line: damaged ones hold any bytes.
+    [[nodiscard]] static QString printable(const std::string& text);
 
 private:
     static CardNode cycleNode(unsigned int number, const RecordCycle& cycle);
     static CardNode fileNode(const RecordInfo& info);
-    static std::vector<CardNode> headerLines(const RecordInfo& info);
     static QString dateText(const QDate& date);
 };
 

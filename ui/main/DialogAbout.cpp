@@ -2,6 +2,7 @@
 
 #include "app/Revision.h"
 #include "app/gui/ImageHandler.h"
+#include "ui/main/Heading.h"
 
 #include <QDialogButtonBox>
 #include <QFile>
@@ -52,8 +53,7 @@ QWidget* DialogAbout::createHead() const
 {
     auto* pPicture = new QLabel;
     pPicture->setPixmap(ImageHandler::icon("zarn").pixmap(QSize(kPictureSize, kPictureSize), devicePixelRatioF()));
-    auto* pName = new QLabel(QString::fromStdString(ZARN::Revision::getRevisionString()));
-    pName->setObjectName("heading");
+    auto* pName = new ZARN::Heading(QString::fromStdString(ZARN::Revision::getRevisionString()));
     auto* pText = new QLabel(tr("After-flight review of engine recordings.") + "\n"
                              + tr("Compiled %1 with Qt %2, running on Qt %3")
                                    .arg(QString::fromStdString(ZARN::Revision::compileTime()), QT_VERSION_STR, QLatin1String(qVersion())));

@@ -3,8 +3,10 @@
 #include "card/CardContainer.h"
 #include "ui/main/CardTree.h"
 
+#include <QHash>
 #include <QLineEdit>
 #include <QSignalBlocker>
+#include <QStyle>
 #include <QTabWidget>
 #include <QTimer>
 #include <QTreeWidget>
@@ -25,6 +27,7 @@ QTreeWidgetItem* makeItem(const CardNode& node)
         pItem->setData(0, DialogCard::eFlightRole, node.flight);
     } else if (!node.path.isEmpty()) {
         pItem->setData(0, DialogCard::ePathRole, node.path);
+        pItem->setChildIndicatorPolicy(QTreeWidgetItem::ShowIndicator); // the header lines come when it is opened
     }
     for (const CardNode& child : node.children)
         pItem->addChild(makeItem(child));
@@ -75,9 +78,11 @@ DialogCard::DialogCard(const CardContainer& container, QWidget* pParent)
     pLayout->setContentsMargins(0, 0, 0, 0);
     pLayout->addWidget(mpName);
     pLayout->addWidget(pTabs);
+    setFocusProxy(mpCycles);
 
     connect(mpCycles, &QTreeWidget::itemSelectionChanged, this, &DialogCard::slotSelectCycle);
     connect(mpRawData, &QTreeWidget::itemSelectionChanged, this, &DialogCard::slotSelect);
+    connect(mpRawData, &QTreeWidget::itemExpanded, this, &DialogCard::slotExpand);
     connect(mpTimer, &QTimer::timeout, this, &DialogCard::slotTimeout);
     connect(mpCycleTimer, &QTimer::timeout, this, &DialogCard::slotTimeoutLoadCycle);
 }
@@ -112,6 +117,28 @@ void DialogCard::updateInfoPowerCycles()
 void DialogCard::updateInfoRaw()
 {
     fillTree(*mpRawData, CardTree::rawData(mContainer));
+    showProblems();
+}
+
+void DialogCard::showProblems()
+{
+    QHash<QString, QString> problems;
+    for (const CardProblem& problem : mContainer.problems())
+        problems[QString::fromStdString(problem.file)] = problem.reason;
+    if (problems.isEmpty())
+        return;
+    const QIcon mark = style()->standardIcon(QStyle::SP_MessageBoxWarning);
+    for (int row = 0; row < mpRawData->topLevelItemCount(); ++row) {
+        const QTreeWidgetItem* pDate = mpRawData->topLevelItem(row);
+        for (int child = 0; child < pDate->childCount(); ++child) {
+            QTreeWidgetItem* pFile = pDate->child(child);
+            const auto found = problems.constFind(pFile->data(0, ePathRole).toString().section('/', -1));
+            if (found == problems.constEnd())
+                continue;
+            pFile->setIcon(0, mark);
+            pFile->setToolTip(0, *found);
+        }
+    }
 }
 
 QTreeWidgetItem* DialogCard::cycleItem(unsigned int cycle) const
@@ -142,6 +169,20 @@ void DialogCard::addFlights(unsigned int cycle)
     pItem->setExpanded(true);
     if (chosen >= 0 && chosen < pItem->childCount())
         mpCycles->setCurrentItem(pItem->child(chosen));
+}
+
+void DialogCard::slotExpand(QTreeWidgetItem* pItem)
+{
+    const QString path = pItem->data(0, ePathRole).toString();
+    if (path.isEmpty() || pItem->childCount() != 0)
+        return;
+    for (const auto& [name, info] : mContainer.recordFiles()) {
+        if (info.fileName != path)
+            continue;
+        for (const CardNode& line : CardTree::headerLines(info))
+            pItem->addChild(makeItem(line));
+        return;
+    }
 }
 
 void DialogCard::slotSelect()

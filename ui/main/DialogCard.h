@@ -28,6 +28,8 @@ public:
 
     /// Shows the container's card, after its folder was read. A choice still waiting belonged to the old card and is dropped.
     void reloadCardInfo();
+    /// Marks the record files with which something is wrong, after the folder was read or records were loaded.
+    void showProblems();
     /// Lists the flights of a loaded cycle below it, in place of those that stood there.
     void addFlights(unsigned int cycle);
 
@@ -40,6 +42,8 @@ Q_SIGNALS:
     void signalChanged();
 
 private Q_SLOTS:
+    /// Lists the header lines below a record file.
+    void slotExpand(QTreeWidgetItem* pItem);
     void slotSelect();
     void slotSelectCycle();
     void slotTimeout();

@@ -1,5 +1,7 @@
 #include "ui/main/DialogHelp.h"
 
+#include "ui/main/MainActions.h"
+
 #include <QDialogButtonBox>
 #include <QFile>
 #include <QHBoxLayout>
@@ -22,10 +24,33 @@ QUrl manual(const QString& locale)
     return QFile::exists(":" + path) ? "qrc:" + path : QString("qrc:/manual/en.md");
 }
 
+/// The keys of the main window's commands, as they are.
+QString commandKeys()
+{
+    QString text = "\n\n### " + DialogHelp::tr("Commands of the main window") + "\n\n| " + DialogHelp::tr("Key") + " | "
+                   + DialogHelp::tr("Command") + " |\n| --- | --- |\n";
+    for (const ZARN::MainAction& action : ZARN::MainAction::all()) {
+        if (*action.shortcut)
+            text += "| " + QKeySequence(action.shortcut).toString(QKeySequence::NativeText) + " | " + action.title() + " |\n";
+    }
+    return text;
+}
+
+/// Shows the manual, and behind its last chapter what the program knows better.
+class ManualBrowser : public QTextBrowser {
+public:
+    QVariant loadResource(int type, const QUrl& name) override
+    {
+        const QVariant page = QTextBrowser::loadResource(type, name);
+        const bool isManual = type == QTextDocument::MarkdownResource && name.path().startsWith("/manual/");
+        return isManual ? QVariant(page.toByteArray() + commandKeys().toUtf8()) : page;
+    }
+};
+
 } // namespace
 
 DialogHelp::DialogHelp(const QString& locale, QWidget* pParent)
-    : QDialog(pParent), mpChapters(new QListWidget), mpBrowser(new QTextBrowser), mpSearch(new QLineEdit)
+    : QDialog(pParent), mpChapters(new QListWidget), mpBrowser(new ManualBrowser), mpSearch(new QLineEdit)
 {
     setWindowTitle(tr("ZARN Help"));
     mpChapters->setObjectName("chapters");

@@ -39,6 +39,7 @@
 #include <QStatusBar>
 #include <QToolBar>
 #include <QToolButton>
+#include <QVBoxLayout>
 
 namespace ZARN {
 
@@ -84,7 +85,10 @@ DialogMain::DialogMain(const Session& session, const Desktop& desktop)
         mpData->updateRecord();
     fillProfiles();
     updateTitle();
+    updateExports();
+    mpCard->setFocus(); // not the first field for text: it would take keys that are meant for the window
     show();
+    mpLayout->restoreSplitters();
     mSession.property.setString("LastProjectPath", mDesktop.folders.dataPath() + "/CurrentProject.xml");
 }
 
@@ -107,11 +111,22 @@ void DialogMain::createPanels()
     mpCentre = new QStackedWidget;
     mpCentre->addWidget(mpWelcome);
     mpCentre->addWidget(mpData);
+    mpProblems = new QLabel;
+    mpProblems->setObjectName("cardProblems");
+    mpProblems->setTextFormat(Qt::PlainText); // names of files
+    mpProblems->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    mpProblems->setWordWrap(true);
+    mpProblems->hide();
+    auto* pRight = new QWidget;
+    auto* pRightLayout = new QVBoxLayout(pRight);
+    pRightLayout->setContentsMargins(0, 0, 0, 0);
+    pRightLayout->addWidget(mpProblems);
+    pRightLayout->addWidget(mpCentre, 1);
     mpSplitter = new QSplitter(Qt::Horizontal);
     mpSplitter->setChildrenCollapsible(false);
     mpSplitter->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     mpSplitter->addWidget(mpSide);
-    mpSplitter->addWidget(mpCentre);
+    mpSplitter->addWidget(pRight);
     mpSplitter->setStretchFactor(0, 1);
     mpSplitter->setStretchFactor(1, 2);
     setCentralWidget(mpSplitter);
@@ -171,10 +186,16 @@ void DialogMain::createToolBar()
     mpProfiles->setObjectName("profiles");
     mpProfiles->setMinimumWidth(kSelectorWidth);
     mpProfiles->setToolTip(tr("Profile: what the recorded bytes mean"));
+    mpProfiles->setAccessibleName(tr("Profile"));
     connect(mpProfiles, &QComboBox::textActivated, this, qOverload<const QString&>(&DialogMain::slotProfileChanged));
     mpToolBar->addWidget(mpProfiles);
     mpToolBar->addSeparator();
     addUnits();
+    // The toolkit leaves tool bars to the mouse; some commands are in no menu.
+    for (QToolButton* pButton : mpToolBar->findChildren<QToolButton*>(Qt::FindDirectChildrenOnly)) {
+        if (pButton->defaultAction())
+            pButton->setFocusPolicy(Qt::TabFocus);
+    }
 }
 
 // Behind the arrow of the one button: other files of the flight path.
@@ -194,6 +215,7 @@ void DialogMain::addUnits()
     mpUnits->setObjectName("units");
     mpUnits->setMinimumWidth(kSelectorWidth);
     mpUnits->setToolTip(tr("Units of all displays"));
+    mpUnits->setAccessibleName(tr("Units"));
     mpUnits->addItem(tr("Metric"), "0");
     mpUnits->addItem(tr("Imperial"), "1");
     connect(mpUnits, &QComboBox::activated, this, &DialogMain::slotUnitChanged);

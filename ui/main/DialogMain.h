@@ -16,6 +16,7 @@ class DialogHelp;
 class DialogProfileInfo;
 class QActionGroup;
 class QComboBox;
+class QLabel;
 class QSplitter;
 class QStackedWidget;
 class QToolBar;
@@ -113,6 +114,9 @@ private:
     void addMorePaths();
     void addUnits();
     void restoreCard();
+    void showProblems();
+    /// What needs loaded data is offered while there are some.
+    void updateExports();
     void showInformation(int id);
     bool cleanup();
 
@@ -129,6 +133,7 @@ private:
     QSplitter* mpSplitter = nullptr;
     QSplitter* mpSide = nullptr;
     QStackedWidget* mpCentre = nullptr;
+    QLabel* mpProblems = nullptr; ///< what of the card could not be read
     DialogCard* mpCard = nullptr;
     DialogProfile* mpProfile = nullptr;
     WidgetWelcome* mpWelcome = nullptr;

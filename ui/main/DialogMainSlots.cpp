@@ -10,6 +10,7 @@
 #include "profile/ui/DialogProfileInfo.h"
 #include "ui/data/DialogData.h"
 #include "ui/main/CardController.h"
+#include "ui/main/CopyKey.h"
 #include "ui/main/DialogAbout.h"
 #include "ui/main/DialogCard.h"
 #include "ui/main/DialogHelp.h"
@@ -25,8 +26,10 @@
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QDir>
 #include <QFileInfo>
 #include <QFileOpenEvent>
+#include <QLabel>
 #include <QMimeData>
 #include <QStackedWidget>
 
@@ -88,8 +91,8 @@ bool DialogMain::isProjectModified() const
 
 void DialogMain::updateTitle()
 {
-    const QString path = QString::fromStdString(mSession.property.getString("LastPath", "."));
-    setWindowTitle("ZARN " + path.section('/', -2, -1));
+    const QString path = QString::fromStdString(mSession.property.getString("LastPath", ""));
+    setWindowTitle(path.isEmpty() ? QString("ZARN") : "ZARN " + QDir::cleanPath(path).section('/', -2, -1));
 }
 
 void DialogMain::updateUnit()
@@ -169,7 +172,7 @@ void DialogMain::slotCanChanged()
 
 void DialogMain::slotZarnMode(int mode)
 {
-    mpCardController->restoreFolder(QString::fromStdString(mSession.property.getString("LastPath", ".")));
+    mpCardController->restoreFolder(QString::fromStdString(mSession.property.getString("LastPath", "")));
     mpData->setZarnMode(mode);
 }
 
@@ -189,12 +192,28 @@ void DialogMain::slotLoadCycle(unsigned int cycle, int flight)
 void DialogMain::slotFolderChanged()
 {
     updateTitle();
+    showProblems();
+    updateExports();
     // Before the first folder was opened there is nothing that could be missing.
-    const bool everOpened = !mSession.property.getString("LastPath", "").empty();
+    const bool everOpened = !mSession.property.getString("LastPath", "").empty() || !mDesktop.cmdLine.operand().empty();
     mpWelcome->setProblem(everOpened ? mpCardController->problem() : QString());
-    mpWelcome->setWithCard(!mSession.container.recordFiles().empty());
+    mpWelcome->setState(mSession.container.recordFiles().empty() ? WidgetWelcome::eNoCard : WidgetWelcome::eChoose);
     if (!mEmu)
         mpCentre->setCurrentWidget(mpWelcome);
+}
+
+void DialogMain::showProblems()
+{
+    const QString problems = mpCardController->fileProblems();
+    mpProblems->setText(problems);
+    mpProblems->setVisible(!problems.isEmpty());
+    mpCard->showProblems();
+}
+
+void DialogMain::updateExports()
+{
+    for (const int id : {eActionExportKml, eActionExportCsv, eActionExportGpx, eActionReport})
+        action(id)->setEnabled(mpCardController->hasData());
 }
 
 void DialogMain::slotDataChanging()
@@ -212,8 +231,10 @@ void DialogMain::slotRecalculated()
 void DialogMain::slotDataChanged()
 {
     mpData->updateRecord();
-    if (mSession.container.recordData().count() != 0)
-        mpCentre->setCurrentWidget(mpData);
+    showProblems();
+    updateExports();
+    mpWelcome->setState(WidgetWelcome::eEmpty); // seen when there are no data
+    mpCentre->setCurrentWidget(mpCardController->hasData() ? static_cast<QWidget*>(mpData) : mpWelcome);
 }
 
 void DialogMain::slotProjectChanged()
@@ -237,7 +258,7 @@ void DialogMain::slotTimeout()
 void DialogMain::restoreCard()
 {
     const QFileInfo given(QString::fromStdString(mDesktop.cmdLine.operand()));
-    const QString last = QString::fromStdString(mSession.property.getString("LastPath", "."));
+    const QString last = QString::fromStdString(mSession.property.getString("LastPath", ""));
     if (!given.filePath().isEmpty())
         openFolder(given.isFile() ? given.absolutePath() : given.absoluteFilePath());
     else if (!last.isEmpty() && !mDesktop.withDefaults)
@@ -246,7 +267,7 @@ void DialogMain::restoreCard()
 
 void DialogMain::slotTimeoutStartup()
 {
-    mpLayout->restoreSplitters();
+    mpLayout->settle();
 }
 
 void DialogMain::slotCheckStyle()
@@ -263,6 +284,8 @@ void DialogMain::slotCheckStyle()
 
 bool DialogMain::eventFilter(QObject* pObject, QEvent* pEvent)
 {
+    if (CopyKey::isLeftToWindow(pObject, pEvent))
+        return true;
     if (pEvent->type() != QEvent::FileOpen)
         return QMainWindow::eventFilter(pObject, pEvent);
     const QFileInfo info(static_cast<QFileOpenEvent*>(pEvent)->file());

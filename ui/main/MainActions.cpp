@@ -58,6 +58,11 @@ const std::vector<MainAction>& MainAction::all()
     return actions;
 }
 
+QString MainAction::title() const
+{
+    return translated(text).remove('&');
+}
+
 QAction* MainAction::create(QObject* pParent) const
 {
     auto* pAction = new QAction(ImageHandler::icon(icon), translated(text), pParent);

@@ -38,6 +38,8 @@ struct MainAction {
 
     /// All commands in the order of their numbers.
     static const std::vector<MainAction>& all();
+    /// The text in the language of the program, without the mark of its key.
+    [[nodiscard]] QString title() const;
     /// Makes the action in the language of the program.
     [[nodiscard]] QAction* create(QObject* pParent) const;
 };

@@ -1,7 +1,10 @@
 #include "ui/main/WidgetWelcome.h"
 
 #include "app/gui/ImageHandler.h"
+#include "ui/main/Heading.h"
 
+#include <QEvent>
+#include <QFontInfo>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -14,30 +17,24 @@ namespace ZARN {
 namespace {
 
 constexpr int kPictureSize = 56;
-constexpr int kTextWidth = 460;
+constexpr int kTextWidth = 38; // in sizes of the font
 
-QLabel* makeLabel(const char* objectName)
+/// A text over the width of the page.
+template <typename Label> Label* makeLabel(const char* objectName)
 {
-    auto* pLabel = new QLabel;
+    auto* pLabel = new Label;
     pLabel->setObjectName(objectName);
     pLabel->setTextFormat(Qt::PlainText);
     pLabel->setAlignment(Qt::AlignCenter);
     pLabel->setWordWrap(true);
-    pLabel->setFixedWidth(kTextWidth);
     return pLabel;
-}
-
-/// The layout asks a wrapped text for its height too early, before the style sheet gave it its font.
-void giveRoom(QLabel& label)
-{
-    label.ensurePolished();
-    label.setMinimumHeight(std::max(0, label.heightForWidth(kTextWidth))); // an empty one has none
 }
 
 } // namespace
 
 WidgetWelcome::WidgetWelcome(QWidget* pParent)
-    : QFrame(pParent), mpArea(new QFrame), mpHeading(makeLabel("heading")), mpText(makeLabel("quiet")), mpProblem(makeLabel("warning")),
+    : QFrame(pParent), mpArea(new QFrame), mpHeading(makeLabel<Heading>("heading")), mpText(makeLabel<QLabel>("quiet")),
+      mpProblem(makeLabel<QLabel>("warning")),
       mpButtons(new QWidget)
 {
     auto* pPicture = new QLabel;
@@ -67,26 +64,52 @@ WidgetWelcome::WidgetWelcome(QWidget* pParent)
     auto* pFrame = new QVBoxLayout(this);
     pFrame->setContentsMargins(0, 0, 0, 0);
     pFrame->addWidget(mpArea);
+    setFocusProxy(pOpen);
     setProblem({});
-    setWithCard(false);
+    setState(eNoCard);
+}
+
+/// The layout asks a wrapped text for its height too early, before the style sheet gave it its font.
+void WidgetWelcome::giveRoom()
+{
+    ensurePolished();
+    mpHeading->follow();
+    const int width = kTextWidth * QFontInfo(font()).pixelSize();
+    for (QLabel* pLabel : {static_cast<QLabel*>(mpHeading), mpText, mpProblem}) {
+        pLabel->ensurePolished();
+        pLabel->setFixedWidth(width);
+        pLabel->setMinimumHeight(std::max(0, pLabel->heightForWidth(width))); // an empty one has none
+    }
+}
+
+void WidgetWelcome::changeEvent(QEvent* pEvent)
+{
+    QFrame::changeEvent(pEvent);
+    // Later, when the labels have the new font, too.
+    if (pEvent->type() == QEvent::FontChange)
+        QMetaObject::invokeMethod(this, &WidgetWelcome::giveRoom, Qt::QueuedConnection);
 }
 
 void WidgetWelcome::setProblem(const QString& problem)
 {
     mpProblem->setText(problem);
-    giveRoom(*mpProblem);
+    giveRoom();
     mpProblem->setVisible(!problem.isEmpty());
 }
 
-void WidgetWelcome::setWithCard(bool withCard)
+void WidgetWelcome::setState(EState state)
 {
-    mpHeading->setText(withCard ? tr("Choose a power cycle") : tr("No card is open"));
-    mpText->setText(withCard ? tr("The list on the left holds the power cycles of the card. Click one to load it; "
-                                  "its flights then appear below it.")
-                             : tr("Open the folder of a memory card, or drop it here. Without a card at hand the demo card shows "
-                                  "an hour with two tows."));
-    giveRoom(*mpText);
-    mpButtons->setVisible(!withCard);
+    const QString headings[] = {tr("No card is open"), tr("Choose a power cycle"), tr("No records")};
+    const QString texts[] = {tr("Open the folder of a memory card, or drop it here. Without a card at hand the demo card shows "
+                                "an hour with two tows."),
+                             tr("The list on the left holds the power cycles of the card. Click one to load it; "
+                                "its flights then appear below it."),
+                             tr("What was chosen in the list on the left is empty: the unit was switched on, but recorded nothing. "
+                                "Choose another entry.")};
+    mpHeading->setText(headings[state]);
+    mpText->setText(texts[state]);
+    giveRoom();
+    mpButtons->setVisible(state == eNoCard);
 }
 
 void WidgetWelcome::setDragged(bool dragged)

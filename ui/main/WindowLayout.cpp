@@ -2,7 +2,9 @@
 
 #include "app/Property.h"
 
+#include <QEvent>
 #include <QMainWindow>
+#include <QScreen>
 #include <QSplitter>
 
 namespace ZARN {
@@ -13,6 +15,7 @@ constexpr const char* kGeometry = "WindowGeometry";
 constexpr const char* kCentre = "WindowSplitter";
 constexpr const char* kSide = "WindowSideSplitter";
 constexpr QSize kFirstSize(1000, 800);
+constexpr QSize kFrame(4, 40); // what the system puts around the window
 constexpr int kFirstSideWidth = 320;
 
 QByteArray stored(const Property& property, const char* key)
@@ -29,11 +32,31 @@ WindowLayout::WindowLayout(Property& property, QMainWindow& window, QSplitter& c
 
 void WindowLayout::restoreWindow()
 {
-    mWindow.resize(kFirstSize);
+    const QRect screen = mWindow.screen()->availableGeometry();
+    mWindow.resize(kFirstSize.boundedTo(screen.size() - kFrame));
     mWindow.restoreGeometry(stored(mProperty, kGeometry)); // refuses what it did not write itself
 }
 
 void WindowLayout::restoreSplitters()
+{
+    setSplitters();
+    mCentre.installEventFilter(this);
+}
+
+void WindowLayout::settle()
+{
+    mCentre.removeEventFilter(this);
+}
+
+bool WindowLayout::eventFilter(QObject* pObject, QEvent* pEvent)
+{
+    // The system gives a maximised window its size after it is shown.
+    if (pEvent->type() == QEvent::Resize)
+        QMetaObject::invokeMethod(this, &WindowLayout::setSplitters, Qt::QueuedConnection); // the splitter resizes its parts first
+    return QObject::eventFilter(pObject, pEvent);
+}
+
+void WindowLayout::setSplitters()
 {
     const int width = mCentre.width();
     if (!mCentre.restoreState(stored(mProperty, kCentre)))

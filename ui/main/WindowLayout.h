@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QObject>
+
 class QMainWindow;
 class QSplitter;
 
@@ -8,18 +10,24 @@ namespace ZARN {
 class Property;
 
 /// Keeps the place of the main window and of its splitters from run to run, in settings of its own.
-class WindowLayout {
+class WindowLayout : public QObject {
+    Q_OBJECT
+
 public:
     WindowLayout(Property& property, QMainWindow& window, QSplitter& centre, QSplitter& side);
 
     /// Puts the window where it was, or in the size that it has at first.
     void restoreWindow();
-    /// Sets the sizes of the splitters; only once the window has its size do they mean anything.
+    /// Sets the sizes of the splitters, and again with every size that the window gets until it settles.
     void restoreSplitters();
+    /// The window has its size; from now on the splitters are the user's.
+    void settle();
+    bool eventFilter(QObject* pObject, QEvent* pEvent) override;
     /// Takes all of it over into the settings. @return whether anything differs from what they held.
     bool store();
 
 private:
+    void setSplitters();
     bool storeText(const char* key, const char* text);
 
     Property& mProperty;

@@ -50,6 +50,7 @@ struct DesktopFixture {
     {
         window.emplace(ZARN::Session{console.console, property, profile, container, project},
                        ZARN::Desktop{cmdLine, folders, kernel, QString(), withDefaults});
+        qApp->installEventFilter(&*window);
         return *window;
     }
 

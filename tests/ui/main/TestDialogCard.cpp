@@ -114,6 +114,8 @@ void TestDialogCard::recordFiles()
     browser.click(browser.pRawData, pDate->child(2), Qt::ControlModifier);
     Browser::settle();
     QCOMPARE(browser.loadedFiles, QStringList{"01.CAN 03.CAN"}); // in the card's order, and nothing for no file
+    QCOMPARE(pDate->child(0)->childCount(), 0); // header lines are there when they are looked at
+    pDate->child(0)->setExpanded(true);
     QCOMPARE(pDate->child(0)->childCount(), 12);
     QVERIFY(pDate->child(0)->toolTip(0).startsWith("Start Time: "));
     QVERIFY(!(pDate->flags() & Qt::ItemIsSelectable));

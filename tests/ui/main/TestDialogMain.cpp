@@ -1,3 +1,4 @@
+#include "card/record/RecordFile.h"
 #include "sim/DemoCard.h"
 #include "support/FileHelpers.h"
 #include "ui/data/DialogData.h"
@@ -16,6 +17,7 @@
 
 #include <QAction>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QDir>
 #include <QDropEvent>
@@ -40,13 +42,12 @@ class TestDialogMain : public QObject {
 private Q_SLOTS:
     void initTestCase();
     void init();
-    void actions_data();
-    void actions();
     void firstSight();
     void openCard();
-    void badFolder_data();
-    void badFolder();
-    void unreadFiles();
+    void refusedFolder();
+    void cardProblems();
+    void emptyCycle();
+    void copyKey();
     void drop();
     void recentFolders();
     void demoCard();
@@ -113,33 +114,6 @@ void TestDialogMain::init()
     mHome.emplace();
 }
 
-void TestDialogMain::actions_data()
-{
-    QTest::addColumn<int>("id");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("shortcut");
-    QTest::addColumn<QString>("statusTip");
-    QTest::newRow("new") << 0 << "&New Project" << "Ctrl+N" << "Create new Project";
-    QTest::newRow("folder") << 2 << "&Open Data Folder" << "Ctrl+C" << "Open Data Folder";
-    QTest::newRow("save as") << 5 << "&Save Project as" << "" << "Save Project as";
-    QTest::newRow("quit") << 6 << "&Quit" << "Ctrl+Q" << "Quit Application";
-    QTest::newRow("help") << 10 << "Help" << "F1" << "Help Window";
-    QTest::newRow("kml") << 17 << "Export Google KML File" << "" << "Export Google Earth KML File";
-}
-
-void TestDialogMain::actions()
-{
-    QFETCH(int, id);
-    DesktopFixture desktop(home());
-    const QAction* pAction = desktop.open().action(id);
-    QVERIFY(pAction);
-    QCOMPARE(pAction->data().toInt(), id);
-    QTEST(pAction->text(), "text");
-    QTEST(pAction->shortcut().toString(), "shortcut");
-    QTEST(pAction->statusTip(), "statusTip");
-    QVERIFY(!desktop.window->action(3));
-}
-
 void TestDialogMain::firstSight()
 {
     DesktopFixture desktop(home());
@@ -148,6 +122,8 @@ void TestDialogMain::firstSight()
     QVERIFY(window.isVisible());
     QVERIFY(isShown<WidgetWelcome>(window));
     QCOMPARE(window.size(), QSize(1000, 800));
+    QCOMPARE(window.windowTitle(), QString("ZARN")); // nothing was ever opened
+    QVERIFY(desktop.container.path().isEmpty() && !window.action(eActionExportKml)->isEnabled());
     QStringList menus;
     for (const QAction* pMenu : window.menuBar()->actions()) {
         menus.append(pMenu->text());
@@ -167,6 +143,8 @@ void TestDialogMain::openCard()
     DialogMain& window = desktop.open();
     started(window);
     window.openFolder(card());
+    window.openFolder(card() + "/"); // the same card
+    QCOMPARE(desktop.property.getString("RecentFolder1", ""), std::string());
     QCOMPARE(window.windowTitle(), QString("ZARN SD/Card"));
     QCOMPARE(desktop.property.getString("LastPath", ""), card().toStdString());
     QVERIFY(fileContent(home().toStdString() + "/data/ZARN.ini").find("SD/Card") != std::string::npos);
@@ -189,59 +167,95 @@ void TestDialogMain::openCard()
     QTRY_COMPARE_WITH_TIMEOUT(pData->viewTime(), desktop.container.loadedCycle()->flights[1].startTime, 20000);
 }
 
-void TestDialogMain::badFolder_data()
+void TestDialogMain::refusedFolder()
 {
-    QTest::addColumn<bool>("exists");
-    QTest::addColumn<QString>("reason");
-    QTest::newRow("gone") << false << "The folder %1 is not there, or cannot be read.";
-    QTest::newRow("empty") << true << "The folder %1 holds no record file (*.CAN, *.can, *.xcb).";
-}
-
-void TestDialogMain::badFolder()
-{
-    QFETCH(bool, exists);
-    QFETCH(QString, reason);
-    DesktopFixture desktop(home());
+    DesktopFixture desktop(home(), {card().toStdString()});
     DialogMain& window = desktop.open();
     started(window);
-    const QString folder = home() + "/<b>other</b>";
-    QVERIFY(!exists || QDir().mkpath(folder));
+    window.slotLoadCycle(2, -1);
+    auto* pTree = window.findChild<QTreeWidget*>("treeCycles");
+    pTree->setCurrentItem(pTree->topLevelItem(0)->child(0));
+    for (const bool chosen : {false, true}) {
+        Answer answer(Answer::close);
+        if (chosen)
+            window.openFolder(home() + "/<b>gone</b>");
+        else
+            window.action(eActionOpenFolder)->trigger();
+        QCOMPARE(answer.title, chosen ? QString("ZARN Warning") : QString("Open SD Card"));
+        QCOMPARE(answer.text, chosen ? "The folder " + home() + "/<b>gone</b> is not there, or cannot be read." : QString());
+        QVERIFY(isShown<DialogData>(window) && !pTree->selectedItems().isEmpty());
+        QCOMPARE(window.windowTitle(), QString("ZARN SD/Card"));
+        QVERIFY(window.action(eActionExportCsv)->isEnabled());
+    }
+    QVERIFY(QDir().mkpath(home() + "/empty"));
     Answer answer(Answer::close);
-    window.openFolder(folder);
-    QCOMPARE(answer.title, QString("ZARN Warning"));
-    QCOMPARE(answer.text, reason.arg(folder));
+    window.openFolder(home() + "/empty");
+    QCOMPARE(answer.text, "The folder " + home() + "/empty holds no record file (*.CAN, *.can, *.xcb).");
     QVERIFY(isShown<WidgetWelcome>(window));
+    for (const int id : {eActionExportKml, eActionExportCsv, eActionExportGpx, eActionReport})
+        QVERIFY(!window.action(id)->isEnabled()); // what is loaded is of another card
 }
 
-void TestDialogMain::unreadFiles()
+void TestDialogMain::cardProblems()
 {
     const QString folder = home() + "/damaged";
     QVERIFY(QDir().mkpath(folder));
     for (const char* name : {"LOG00001.CAN", "LOG00002.CAN"})
         QVERIFY(QFile::copy(card() + "/" + name, folder + "/" + name));
     putFile(folder.toStdString() + "/LOG00003.CAN", "half a header");
-    putFile(folder.toStdString() + "/\xff.CAN", fileContent(card().toStdString() + "/LOG00003.CAN")); // no text: nothing can open it by name
-    const QString absent = qt_error_string(ENOENT);
-    const QString problem = "2 record file(s) of the card could not be read:\nLOG00003.CAN: the file is too short\n\ufffd.CAN: " + absent;
+    const auto told = [](DialogMain& window, const QString& file) {
+        const auto* pLabel = window.findChild<QLabel*>("cardProblems");
+        return pLabel->isVisible() && pLabel->text().count(file) == 1;
+    };
     {
         DesktopFixture desktop(home());
         DialogMain& window = desktop.open();
         started(window);
-        Answer told(Answer::close);
-        window.openFolder(folder);
-        QCOMPARE(told.text, problem);
+        window.openFolder(folder); // no box stands in the way
         QCOMPARE(window.windowTitle(), "ZARN " + folder.section('/', -2)); // the others are there
+        QVERIFY(told(window, "LOG00003.CAN") && !told(window, "LOG00001.CAN"));
         QFile::remove(folder + "/LOG00001.CAN");
-        Answer lost(Answer::close);
         window.slotLoadCycle(desktop.container.recordCycles().begin()->first, -1);
-        QCOMPARE(lost.text, "Not everything could be loaded:\nLOG00001.CAN: " + absent);
+        QVERIFY(told(window, "LOG00003.CAN") && told(window, "LOG00001.CAN"));
     }
     DesktopFixture next(home());
-    Answer none(Answer::close);
-    DialogMain& window = next.open();
+    started(next.open());
+    QVERIFY(told(*next.window, "LOG00003.CAN"));
+}
+
+void TestDialogMain::emptyCycle()
+{
+    QVERIFY(QDir().mkpath(home() + "/card"));
+    putFile(home().toStdString() + "/card/1.CAN", fileContent(card().toStdString() + "/LOG00001.CAN").substr(0, RecordFile::kHeaderSize));
+    DesktopFixture desktop(home(), {home().toStdString() + "/card/"});
+    DialogMain& window = desktop.open();
     started(window);
-    QVERIFY(none.title.isEmpty()); // no reason to stop the user at every start
-    QCOMPARE(window.findChild<WidgetWelcome*>()->findChild<QLabel*>("warning")->text(), problem);
+    window.slotLoadCycle(desktop.container.recordCycles().begin()->first, -1);
+    QVERIFY(isShown<WidgetWelcome>(window));
+    QCOMPARE(window.findChild<WidgetWelcome*>()->findChild<QLabel*>("heading")->text(), QString("No records"));
+    QVERIFY(!window.action(eActionExportCsv)->isEnabled());
+}
+
+void TestDialogMain::copyKey()
+{
+    DesktopFixture desktop(home());
+    DialogMain& window = desktop.open();
+    started(window);
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QVERIFY(!qobject_cast<QLineEdit*>(QApplication::focusWidget()));
+    const auto opens = [](QWidget* pFocus) {
+        pFocus->setFocus();
+        Answer answer(Answer::close);
+        QTest::keyClick(pFocus->window()->windowHandle(), Qt::Key_C, Qt::ControlModifier);
+        return answer.title == "Open SD Card";
+    };
+    auto* pSearch = window.findChild<QLineEdit*>("search");
+    QVERIFY(opens(window.findChild<QTreeWidget*>("treeCycles")) && opens(pSearch));
+    pSearch->setText("Oil");
+    pSearch->selectAll();
+    QVERIFY(!opens(pSearch));
+    QCOMPARE(QApplication::clipboard()->text(), QString("Oil"));
 }
 
 void TestDialogMain::drop()

@@ -66,7 +66,7 @@ void TestProgram::startUp()
     const QString data = home.path() + "/.local/share/ZARN";
     verifyOrder(output, {"Version  : ZARN 2.1.0\n", "HOME: <" + home.path() + ">\n", "UserDataPath created <" + home.path() + "/ZARN/>\n",
                          "Data Path      : <" + data + ">\n", "readXmlFile <" + data + "/ZARN.ini> 0\n", "Translation QT <us> 0\n",
-                         "Translation IOS <us> 0\n", "Profile::loadProfil <", "CardContainer::readContainer: Path <.>", "CurrentProject.xml"});
+                         "Translation IOS <us> 0\n", "Profile::loadProfil <", "CurrentProject.xml"});
     QVERIFY(!output.contains("Usage of"));
     QVERIFY(output.contains("No OpenGL here: the map cannot be drawn\n"));
     QCOMPARE(QDir(data).entryList(QDir::Files), QStringList()); // the marker of the start is gone

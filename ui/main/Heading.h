@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QLabel>
+
+namespace ZARN {
+
+/// The heading of a window: larger than the texts beside it, whatever size these are given. Style sheets know no relative sizes.
+class Heading : public QLabel {
+    Q_OBJECT
+
+public:
+    explicit Heading(const QString& text = {}, QWidget* pParent = nullptr);
+
+    /// Takes the size of the parent's font.
+    void follow();
+
+protected:
+    void changeEvent(QEvent* pEvent) override;
+    void showEvent(QShowEvent* pEvent) override;
+};
+
+} // namespace ZARN
