@@ -1,16 +1,18 @@
 #pragma once
 
 #include "export/ExportCsv.h"
+#include "export/ui/ExportPart.h"
 #include "project/Session.h"
 
 #include <QWizard>
+
+#include <vector>
 
 namespace ZARN {
 
 class DialogExportCsvOptions;
 class DialogExportCsvPath;
 class ExportOutlook;
-struct ExportPart;
 
 /// The wizard of the CSV export.
 class DialogExportCsv : public QWizard {

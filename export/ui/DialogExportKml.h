@@ -1,9 +1,12 @@
 #pragma once
 
 #include "export/KmlExportOptions.h"
+#include "export/ui/ExportPart.h"
 #include "project/Session.h"
 
 #include <QWizard>
+
+#include <vector>
 
 namespace ZARN {
 
@@ -11,7 +14,6 @@ class DialogExportKmlOptions;
 class DialogExportKmlPath;
 class DialogExportKmlPlacemark;
 class ExportOutlook;
-struct ExportPart;
 
 /// The wizard of the KML export.
 class DialogExportKml : public QWizard {
