@@ -18,6 +18,8 @@
 #include <QLabel>
 #include <QLocale>
 
+#include <algorithm>
+
 namespace ZARN {
 
 ExportController::ExportController(const Session& session, CardController& cards, ShownSpan graphSpan, QWidget* pWindow)
@@ -54,7 +56,8 @@ std::vector<ExportPart> ExportController::parts(const QString& suffix) const
         const RecordFlight& selected = mSession.container.selectedFlight();
         parts.push_back({tr("Flight %1").arg(flight), fileName(flight, suffix), TimeSpan{selected.startTime, selected.endTime}});
     }
-    if (const std::optional<TimeSpan> shown = mGraphSpan()) {
+    if (std::optional<TimeSpan> shown = mGraphSpan()) {
+        shown->start = std::max(shown->start, 0.0); // nothing is recorded before
         const auto time = [](double seconds) { return CardContainer::time(seconds).left(8); };
         parts.push_back({tr("What the graph shows, %1 to %2").arg(time(shown->start), time(shown->end)),
                          tr("%1 from %2").arg(fileName(0, {}), time(shown->start).replace(':', '-')) + suffix, shown});
