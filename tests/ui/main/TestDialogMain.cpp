@@ -486,12 +486,14 @@ void TestDialogMain::exportCsv()
     DialogMain& window = desktop.open();
     started(window);
     window.slotLoadCycle(3, -1);
-    Answer save([this](QWidget* pModal) {
-        QCOMPARE(pModal->findChild<QLineEdit*>("fileName")->text(), QString("SD cycle 3.csv"));
+    QString proposed;
+    Answer save([&](QWidget* pModal) {
+        proposed = pModal->findChild<QLineEdit*>("fileName")->text();
         finish(pModal, home(), "out.csv");
     });
     window.action(eActionExportCsv)->trigger();
     QCOMPARE(save.title, QString("CSV Export"));
+    QCOMPARE(proposed, QString("Card cycle 3.csv"));
     QVERIFY(QFileInfo(home() + "/out.csv").size() > 1000);
     QCOMPARE(desktop.property.getString("CsvExportDir", ""), home().toStdString());
     // The records of a card are nothing that the next one has.
