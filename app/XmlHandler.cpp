@@ -1,7 +1,7 @@
 #include "app/XmlHandler.h"
 
 #include "app/Console.h"
-#include "app/NativePath.h"
+#include "app/FileName.h"
 #include "app/RegularFile.h"
 #include "app/SafeFile.h"
 #include "app/XmlGuard.h"
@@ -151,7 +151,7 @@ bool XmlHandler::xmlGetBoolAttribute(const QDomNamedNodeMap& attributes, const Q
 
 bool XmlHandler::xmlWriteFile(const QDomDocument& document, const QString& path) const
 {
-    const std::string name = toNativePath(path);
+    const std::string name = encodeFileName(path);
     SafeFile file(name);
     const QByteArray text = document.toString(4).toUtf8();
     if (file.open() && file.write(std::string_view(text.data(), static_cast<std::size_t>(text.size()))) && file.commit())
@@ -167,7 +167,7 @@ bool XmlHandler::xmlWriteFile(const QDomDocument& document, const QString& direc
 
 bool XmlHandler::xmlReadFile(QDomDocument& document, const QString& path) const
 {
-    const std::string name = toNativePath(path);
+    const std::string name = encodeFileName(path);
     const auto bytes = readRegularFile(name, XmlGuard::maxFileSize);
     if (!bytes) {
         mConsole.print("could not open file <%s>\n", name.c_str());

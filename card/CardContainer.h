@@ -67,6 +67,8 @@ public:
     [[nodiscard]] const std::vector<FlightPathPoint>& flightPath() const { return mFlightPath.points(); }
     /// The selected flight; the span of the whole cycle when none is selected.
     [[nodiscard]] const RecordFlight& selectedFlight() const { return mSelectedFlight; }
+    /// The number of the selected flight, from 1; 0 when none is.
+    [[nodiscard]] int selectedFlightNumber() const;
     /// The loaded cycle; null when none is.
     [[nodiscard]] const RecordCycle* loadedCycle() const;
     [[nodiscard]] std::optional<unsigned int> loadedCycleNumber() const { return mLoadedCycle; }

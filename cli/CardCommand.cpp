@@ -1,6 +1,6 @@
 #include "cli/CardCommand.h"
 
-#include "app/NativePath.h"
+#include "app/FileName.h"
 #include "app/Progress.h"
 #include "cli/Resources.h"
 
@@ -17,7 +17,7 @@ namespace {
 
 std::string problemText(const CardContainer& container, const CardProblem& problem)
 {
-    return (problem.file.empty() ? toNativePath(container.path()) : problem.file) + ": " + problem.reason.toStdString();
+    return (problem.file.empty() ? encodeFileName(container.path()) : problem.file) + ": " + problem.reason.toStdString();
 }
 
 } // namespace
@@ -63,7 +63,7 @@ std::string folderProblem(const std::string& path)
 
 std::string loadProfileFile(Profile& profile, const std::string& file, const std::string& variant)
 {
-    const QString path = fromNativePath(file);
+    const QString path = decodeFileName(file);
     if (!profile.loadProfile(path, variant))
         return file + ": " + (::access(file.c_str(), R_OK) != 0 ? std::strerror(errno) : "not a readable ZARN profile");
     if (variant.empty())
@@ -112,7 +112,7 @@ std::string CardCommand::loadProfile()
 
 std::string CardCommand::openCard()
 {
-    if (!mContainer.readContainer(fromNativePath(mCard)))
+    if (!mContainer.readContainer(decodeFileName(mCard)))
         return folderProblem(mCard);
     const std::string problem = systemProblem(mContainer);
     if (!problem.empty())

@@ -1,6 +1,6 @@
 #include "cli/CommandInfo.h"
 
-#include "app/NativePath.h"
+#include "app/FileName.h"
 #include "app/Progress.h"
 #include "cli/CardCommand.h"
 #include "cli/JsonWriter.h"
@@ -36,7 +36,7 @@ void writeFile(JsonWriter& writer, const std::string& name, const RecordInfo& in
 
 std::string baseName(const RecordInfo& info)
 {
-    return toNativePath(info.fileName.mid(info.fileName.lastIndexOf('/') + 1));
+    return encodeFileName(info.fileName.mid(info.fileName.lastIndexOf('/') + 1));
 }
 
 void writeCycle(JsonWriter& writer, uint32_t number, const RecordCycle& cycle)
@@ -68,7 +68,7 @@ int CommandInfo::run()
     CardContainer container(console(), profile, nullProgress());
     // A file's neighbours are read too: its date may be known from the next one.
     const std::string folder = !isFile ? mCard : path.has_parent_path() ? path.parent_path().string() : ".";
-    if (!container.readContainer(fromNativePath(folder)))
+    if (!container.readContainer(decodeFileName(folder)))
         return fail(folderProblem(folder));
     if (isFile && !container.recordFiles().contains(mFile))
         return fail(mCard + ": no record file (*.CAN, *.can, *.xcb)");
@@ -90,7 +90,7 @@ bool CommandInfo::isWanted(const RecordCycle& cycle) const
 std::string CommandInfo::json(const CardContainer& container) const
 {
     JsonWriter writer;
-    writer.beginAnswer().member("name", toNativePath(container.name())).member("path", mCard).key("files").beginArray();
+    writer.beginAnswer().member("name", encodeFileName(container.name())).member("path", mCard).key("files").beginArray();
     for (const auto& [name, info] : container.recordFiles()) {
         if (isWanted(name))
             writeFile(writer, name, info);

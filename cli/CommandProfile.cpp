@@ -1,6 +1,6 @@
 #include "cli/CommandProfile.h"
 
-#include "app/NativePath.h"
+#include "app/FileName.h"
 #include "cli/CardCommand.h"
 #include "cli/JsonWriter.h"
 #include "cli/TextTable.h"
@@ -107,7 +107,7 @@ int CommandProfile::run()
     const std::string problem = loadProfileFile(profile, mFile, mVariant);
     if (!problem.empty())
         return fail(problem);
-    profile.loadVariants(fromNativePath(mFile));
+    profile.loadVariants(decodeFileName(mFile));
     return print(mJson ? json(profile) : tables(profile));
 }
 

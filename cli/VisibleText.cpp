@@ -1,6 +1,6 @@
 #include "cli/VisibleText.h"
 
-#include "app/NativePath.h"
+#include "app/FileName.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -46,7 +46,7 @@ std::string visibleText(std::string_view text)
 {
     if (std::all_of(text.begin(), text.end(), [](char character) { return character >= 0x20 && character < 0x7F; }))
         return std::string(text);
-    const QString characters = fromNativePath(std::string(text));
+    const QString characters = decodeFileName(std::string(text));
     std::string visible;
     qsizetype begin = 0;
     const auto appendUpTo = [&](qsizetype end) { visible += QStringView(characters).mid(begin, end - begin).toUtf8().toStdString(); };

@@ -1,6 +1,6 @@
 #include "export/RecordFileGuard.h"
 
-#include "app/NativePath.h"
+#include "app/FileName.h"
 
 #include <sys/stat.h>
 
@@ -15,7 +15,7 @@ bool isRecordFileOf(const CardContainer& card, const std::string& path)
         return false;
     const auto isTarget = [&target](const auto& file) {
         struct stat status = {};
-        return ::stat(toNativePath(file.second.fileName).c_str(), &status) == 0 && status.st_dev == target.st_dev &&
+        return ::stat(encodeFileName(file.second.fileName).c_str(), &status) == 0 && status.st_dev == target.st_dev &&
                status.st_ino == target.st_ino;
     };
     return std::any_of(card.recordFiles().begin(), card.recordFiles().end(), isTarget);

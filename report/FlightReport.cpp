@@ -139,10 +139,7 @@ std::vector<RecordFlight> FlightReport::flights(int& firstNumber) const
     const RecordFlight& selected = mContainer.selectedFlight();
     if (!selected.valid)
         return pCycle->flights;
-    for (std::size_t i = 0; i < pCycle->flights.size(); ++i) {
-        if (pCycle->flights[i].takeOffTime == selected.takeOffTime)
-            firstNumber = static_cast<int>(i) + 1;
-    }
+    firstNumber = std::max(mContainer.selectedFlightNumber(), 1);
     return {selected};
 }
 
@@ -253,7 +250,7 @@ void FlightReport::writeMap(ReportPages& pages, const EventList& limits) const
     pages.heading(tr("Flight path"), map.isEmpty() ? 20.0 : kMapHeight);
     if (map.isEmpty())
         return pages.line(tr("No position was recorded."));
-    pages.line(tr("Green: begin. Black: end. Orange: exceeded limits. Grey lines: degrees and minutes."), true);
+    pages.line(tr("Green: begin. Black: end. Orange: exceeded limits, how many at a place. Grey lines: degrees and minutes."), true);
     map.draw(pages.painter(), pages.canvas(), pages.place(std::max(kMapHeight, pages.room() - 10.0)), limits);
 }
 

@@ -1,7 +1,7 @@
 #include "report/ReportGraph.h"
 
 #include "analysis/EventList.h"
-#include "ui/canvas/Canvas.h"
+#include "report/PaperCanvas.h"
 #include "ui/graph/model/GraphScene.h"
 #include "ui/graph/model/ThresholdBands.h"
 
@@ -15,7 +15,9 @@ namespace {
 constexpr const char* kMain[] = {"EngineSpeedA", "ManifoldPressureA", "ThrottleA", "FuelA", "Altitude", "GroundSpeed"};
 constexpr int kMostStrips = 10;
 constexpr double kTextSize = 7.0;
-constexpr double kHandles = 20.0;      // width of what a hand would drag the strips by: left of the paper
+constexpr double kHandles = 20.0;      // width of what a hand would drag the strips by: cut off
+constexpr double kNames = 88.0;        // width of what the strips' names have
+constexpr double kSwatch = 6.0;        // of the trace's colour, with the gap behind it
 constexpr double kColumnsAPoint = 3.0; // fine enough for a printer
 constexpr double kSmallestSpan = 1.0;  // seconds
 
@@ -96,21 +98,32 @@ void ReportGraph::fill(int slot, const ProfileParameter& parameter)
     }
 }
 
-void ReportGraph::draw(Canvas& canvas, const QRectF& place)
+void ReportGraph::draw(PaperCanvas& canvas, const QRectF& place)
 {
+    const QRectF graph = place.adjusted(kNames, 0, 0, 0);
+    canvas.push();
+    canvas.clip(graph);
+    canvas.translate(graph.left() - kHandles, graph.top());
+    mModel.recalcFrameBuffer();
+    const GraphLayout layout = GraphScene::prepare(mModel, {graph.width() + kHandles, graph.height()}, kTextSize, kColumnsAPoint);
+    GraphScene(mModel, layout).draw(canvas);
+    canvas.pop();
+    for (const int index : mModel.shown()) {
+        const QRectF strip = layout.area(*mModel.parameter(index));
+        drawName(canvas, *mModel.parameter(index), {place.left(), place.top() + strip.top(), kNames, strip.height()});
+    }
+}
+
+void ReportGraph::drawName(PaperCanvas& canvas, const GraphParameter& parameter, const QRectF& place) const
+{
+    const CanvasText style{kTextSize, Qt::black, true, Qt::AlignLeft | Qt::AlignTop, false};
+    const QStringList lines = canvas.wrapped(parameter.label(), place.width() - kSwatch, style);
+    const double line = canvas.textSize(lines.front(), style).height();
     canvas.push();
     canvas.clip(place);
-    canvas.translate(place.left() - kHandles, place.top());
-    const QSizeF size(place.width() + kHandles, place.height());
-    mModel.recalcFrameBuffer();
-    const GraphLayout layout = GraphScene::prepare(mModel, size, kTextSize, kColumnsAPoint);
-    GraphScene(mModel, layout).draw(canvas);
-    for (const int index : mModel.shown()) {
-        const GraphParameter& parameter = *mModel.parameter(index);
-        const QString name = parameter.unit.isEmpty() ? parameter.name : parameter.name + " [" + parameter.unit + "]";
-        canvas.text(layout.area(parameter).topLeft() + QPointF(3, 2), name,
-                    {kTextSize, Qt::black, true, Qt::AlignLeft | Qt::AlignTop, false});
-    }
+    canvas.fillRect(QRectF(place.left(), place.top() + 2, 3, static_cast<double>(lines.size()) * line), parameter.colour.colour());
+    for (qsizetype i = 0; i < lines.size(); ++i)
+        canvas.text(place.topLeft() + QPointF(kSwatch, 2 + static_cast<double>(i) * line), lines[i], style);
     canvas.pop();
 }
 

@@ -5,8 +5,8 @@
 
 namespace ZARN {
 
-class Canvas;
 class EventList;
+class PaperCanvas;
 
 /// The main parameters of the loaded cycle or flight over time, each in a strip of its own: those that the program knows, and those
 /// that exceeded a limit.
@@ -17,11 +17,13 @@ public:
     [[nodiscard]] bool isEmpty() const { return mModel.nrActive() == 0; }
     /// How many parameters that exceeded a limit found no room.
     [[nodiscard]] int leftOut() const { return mLeftOut; }
-    void draw(Canvas& canvas, const QRectF& place);
+    void draw(PaperCanvas& canvas, const QRectF& place);
 
 private:
     void addParameter(const ProfileParameter& parameter);
     void fill(int slot, const ProfileParameter& parameter);
+    /// The name of a strip in the place left of it, where it hides no trace.
+    void drawName(PaperCanvas& canvas, const GraphParameter& parameter, const QRectF& place) const;
 
     const CardContainer& mContainer;
     Profile& mProfile;

@@ -2,8 +2,8 @@
 
 #include "analysis/EventList.h"
 #include "openstreet/core/TileCover.h"
+#include "report/ReportMarks.h"
 #include "ui/canvas/Canvas.h"
-#include "ui/map/model/MapScene.h"
 #include "ui/map/model/PathGeometry.h"
 
 #include <QPainter>
@@ -20,7 +20,7 @@ constexpr double kSmallestRange = 500.0; // metres
 constexpr double kGridSpacing = 90.0; // points between two lines at least
 constexpr double kGridSteps[] = {1.0 / 60, 2.0 / 60, 5.0 / 60, 10.0 / 60, 0.5, 1, 2, 5, 10, 30}; // degrees
 constexpr double kTextSize = 7.0;
-constexpr double kMark = 3.5;
+constexpr double kScaleBar = 120.0; // points at most
 constexpr std::size_t kMostMarks = 2000;
 const QColor kWater(180, 211, 230);
 const QColor kLand(243, 240, 232);
@@ -28,6 +28,8 @@ const QColor kCoast(127, 163, 186);
 const QColor kBorder(154, 134, 164);
 const QColor kGrid(150, 155, 160);
 const QColor kPath(200, 0, 0);
+const QColor kBegin(0, 150, 90);
+const QColor kExceeded(230, 159, 0);
 
 void fill(QPainter& painter, const std::vector<OpenStreet::BaseMap::Area>& areas, const QTransform& toWindow, const QColor& colour)
 {
@@ -61,16 +63,6 @@ double gridStep(double degreesAPoint)
             return step;
     }
     return 30.0;
-}
-
-std::vector<QPointF> disc(const QPointF& middle, double radius)
-{
-    std::vector<QPointF> points;
-    for (int i = 0; i < 16; ++i) {
-        const double angle = i * 0.39269908169872414; // a sixteenth of a turn
-        points.emplace_back(middle.x() + radius * std::cos(angle), middle.y() + radius * std::sin(angle));
-    }
-    return points;
 }
 
 } // namespace
@@ -153,7 +145,9 @@ void ReportMap::drawGrid(Canvas& canvas) const
     for (double at = std::ceil(northWest.longitude / step) * step; at < southEast.longitude; at += step) {
         const double x = width / 2 + (at - middle) / (southEast.longitude - northWest.longitude) * width;
         lines.insert(lines.end(), {{x, 0}, {x, height}});
-        canvas.text({x + 2, height - 2}, degrees(OpenStreet::foldLongitude(at), "E", "W"), low);
+        const QString label = degrees(OpenStreet::foldLongitude(at), "E", "W");
+        if (x + 2 + canvas.textSize(label, low).width() < width - scaleBar().pixels - 16) // where the scale bar begins
+            canvas.text({x + 2, height - 2}, label, low);
     }
     for (double at = std::ceil(southEast.latitude / step) * step; at < northWest.latitude; at += step) {
         const double y = mCamera.geoToWindow({at, middle}).y;
@@ -176,21 +170,25 @@ void ReportMap::drawPath(Canvas& canvas) const
 
 void ReportMap::drawMarks(Canvas& canvas, const EventList& limits) const
 {
+    ReportMarks marks(QSizeF(mCamera.width(), mCamera.height()));
+    marks.add(windowPoint(mPath.points().front()), kBegin);
+    marks.add(windowPoint(mPath.points().back()), Qt::black);
     std::size_t count = 0;
     for (const Event& event : limits.events()) {
-        if (event.time < mContainer.startTime() || event.time > mContainer.endTime() || !mPath.spans(event.time) || ++count > kMostMarks)
-            continue;
-        const QPointF at = windowPoint(mPath.positionAt(event.time));
-        canvas.polygon(disc(at, kMark), Qt::black);
-        canvas.polygon(disc(at, kMark - 0.8), QColor(230, 159, 0));
+        if (event.time >= mContainer.startTime() && event.time <= mContainer.endTime() && mPath.spans(event.time) && ++count <= kMostMarks)
+            marks.addToGroup(windowPoint(mPath.positionAt(event.time)), kExceeded);
     }
-    canvas.polygon(disc(windowPoint(mPath.points().front()), kMark + 1.0), QColor(0, 130, 80));
-    canvas.polygon(disc(windowPoint(mPath.points().back()), kMark), Qt::black);
+    marks.draw(canvas);
+}
+
+MapScaleBar ReportMap::scaleBar() const
+{
+    return MapScaleBar::at(mCamera, kScaleBar, mIsImperial);
 }
 
 void ReportMap::drawScale(Canvas& canvas) const
 {
-    const MapScaleBar bar = MapScaleBar::at(mCamera, 120.0, mIsImperial);
+    const MapScaleBar bar = scaleBar();
     const double right = mCamera.width() - 8.0;
     const double y = mCamera.height() - 8.0;
     canvas.fillRect(QRectF(right - bar.pixels - 4, y - 14, bar.pixels + 8, 18), QColor(255, 255, 255, 200));

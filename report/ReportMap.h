@@ -4,6 +4,7 @@
 #include "openstreet/core/BaseMap.h"
 #include "openstreet/core/Camera.h"
 #include "ui/map/model/MapPath.h"
+#include "ui/map/model/MapScene.h"
 
 class QPainter;
 
@@ -27,6 +28,7 @@ private:
     void drawGrid(Canvas& canvas) const;
     void drawPath(Canvas& canvas) const;
     void drawMarks(Canvas& canvas, const EventList& limits) const;
+    [[nodiscard]] MapScaleBar scaleBar() const;
     void drawScale(Canvas& canvas) const;
     [[nodiscard]] QPointF windowPoint(const FlightPathPoint& point) const;
 

@@ -1,7 +1,5 @@
 #include "report/ReportPages.h"
 
-#include "ui/canvas/CanvasFont.h"
-
 #include <algorithm>
 #include <numeric>
 
@@ -12,16 +10,17 @@ namespace {
 constexpr double kMargin = 40.0; // points
 constexpr double kText = 8.0;
 constexpr double kLine = 11.5;
-constexpr int kGap = 2; // characters between two columns
+constexpr double kGap = 12.0; // between two columns
+constexpr double kNarrowest = 20.0;
 constexpr double kPointsPerInch = 72.0;
 const QColor kInk(20, 33, 46);
 const QColor kQuiet(74, 91, 107);
 const QColor kRule(180, 191, 202);
 const QColor kAccent(18, 88, 143);
 
-QString shortened(const QString& text, int characters)
+CanvasText style(bool bold)
 {
-    return text.size() <= characters ? text : text.left(std::max(characters - 1, 0)) + QChar(0x2026);
+    return {kText, kInk, bold};
 }
 
 /// What a file says, in one line of characters that can be set.
@@ -53,7 +52,7 @@ void ReportPages::endPage()
 {
     const double y = mBottom + kLine;
     mCanvas.lines(std::vector<QPointF>{{kMargin, y - 3}, {mRight, y - 3}}, {kRule, 0.5});
-    mCanvas.text({kMargin, y}, shortened(mFooter, 100), {7.0, kQuiet, false, Qt::AlignLeft | Qt::AlignTop, false});
+    mCanvas.text({kMargin, y}, cell(mFooter, mRight - kMargin - 2 * kGap), {7.0, kQuiet, false, Qt::AlignLeft | Qt::AlignTop, false});
     mCanvas.text({mRight, y}, QString::number(mPage), {7.0, kQuiet, false, Qt::AlignRight | Qt::AlignTop, false});
 }
 
@@ -77,6 +76,11 @@ void ReportPages::text(double x, const QString& text, double size, const QColor&
     mCanvas.text({x, mY}, text, {size, colour, bold, align | Qt::AlignTop, false});
 }
 
+QString ReportPages::cell(const QString& text, double width, bool bold) const
+{
+    return mCanvas.shortened(plain(text), width + 0.01, style(bold)); // what was measured fits, however it was rounded
+}
+
 void ReportPages::title(const QString& text)
 {
     this->text(kMargin, plain(text), 20.0, kAccent, true);
@@ -96,57 +100,55 @@ void ReportPages::heading(const QString& text, double room)
 void ReportPages::line(const QString& text, bool isQuiet)
 {
     reserve(kLine);
-    this->text(kMargin, shortened(plain(text), static_cast<int>((mRight - kMargin) / canvasAdvance(kText))), kText, isQuiet ? kQuiet : kInk);
+    this->text(kMargin, cell(text, mRight - kMargin), kText, isQuiet ? kQuiet : kInk);
     mY += kLine;
 }
 
 void ReportPages::pairs(const std::vector<std::pair<QString, QString>>& entries)
 {
     const double half = (mRight - kMargin) / 2;
-    qsizetype longest = 0;
+    double indent = 0.0;
     for (const auto& [name, value] : entries)
-        longest = std::max(longest, name.size());
-    const double indent = canvasAdvance(kText) * static_cast<double>(longest + kGap);
-    const int most = static_cast<int>((half - indent) / canvasAdvance(kText)) - 1;
+        indent = std::max(indent, mCanvas.textSize(name, style(false)).width() + kGap);
     for (std::size_t i = 0; i < entries.size(); ++i) {
         const double x = kMargin + (i % 2 == 0 ? 0.0 : half);
         if (i % 2 == 0)
             reserve(kLine);
         text(x, entries[i].first, kText, kQuiet);
-        text(x + indent, shortened(plain(entries[i].second), most), kText, kInk);
+        text(x + indent, cell(entries[i].second, half - indent - kGap), kText, kInk);
         if (i % 2 == 1 || i + 1 == entries.size())
             mY += kLine;
     }
 }
 
-std::vector<int> ReportPages::widths(const std::vector<ReportColumn>& columns) const
+std::vector<double> ReportPages::widths(const std::vector<ReportColumn>& columns) const
 {
-    std::vector<int> widths;
+    std::vector<double> widths;
     for (const ReportColumn& column : columns) {
-        qsizetype width = column.title.size();
-        for (const QString& cell : column.cells)
-            width = std::max(width, cell.size());
-        widths.push_back(static_cast<int>(std::min<qsizetype>(width, 200)));
+        double width = mCanvas.textSize(column.title, style(true)).width();
+        for (const QString& text : column.cells)
+            width = std::max(width, mCanvas.textSize(plain(text), style(false)).width());
+        widths.push_back(width);
     }
-    const int room = static_cast<int>((mRight - kMargin) / canvasAdvance(kText)) - kGap * static_cast<int>(columns.size() - 1);
-    while (std::accumulate(widths.begin(), widths.end(), 0) > room) {
-        int& widest = *std::max_element(widths.begin(), widths.end());
-        if (widest <= 1)
+    const double room = mRight - kMargin - kGap * static_cast<double>(columns.size() - 1);
+    for (double all = 0; (all = std::accumulate(widths.begin(), widths.end(), 0.0)) > room;) {
+        double& widest = *std::max_element(widths.begin(), widths.end());
+        if (widest <= kNarrowest)
             break;
-        --widest;
+        widest = std::max(kNarrowest, widest - std::min(all - room, widest / 8)); // the widest ones share the loss
     }
     return widths;
 }
 
-void ReportPages::row(const std::vector<ReportColumn>& columns, const std::vector<int>& widths, qsizetype number)
+void ReportPages::row(const std::vector<ReportColumn>& columns, const std::vector<double>& widths, qsizetype number)
 {
     double x = kMargin;
     for (std::size_t i = 0; i < columns.size(); ++i) {
         const bool isTitle = number < 0;
-        const QString cell = shortened(plain(isTitle ? columns[i].title : columns[i].cells.value(number)), widths[i]);
-        const double width = canvasAdvance(kText) * widths[i];
-        text(columns[i].isNumber ? x + width : x, cell, kText, isTitle ? kQuiet : kInk, isTitle, columns[i].isNumber ? Qt::AlignRight : Qt::AlignLeft);
-        x += width + canvasAdvance(kText) * kGap;
+        const ReportColumn& column = columns[i];
+        const QString shown = cell(isTitle ? column.title : column.cells.value(number), widths[i], isTitle);
+        text(column.isNumber ? x + widths[i] : x, shown, kText, isTitle ? kQuiet : kInk, isTitle, column.isNumber ? Qt::AlignRight : Qt::AlignLeft);
+        x += widths[i] + kGap;
     }
     mY += kLine;
 }
@@ -155,15 +157,15 @@ void ReportPages::table(const std::vector<ReportColumn>& columns)
 {
     if (columns.empty())
         return;
-    const std::vector<int> characters = widths(columns);
+    const std::vector<double> shares = widths(columns);
     reserve(2 * kLine);
-    row(columns, characters, -1);
+    row(columns, shares, -1);
     for (qsizetype i = 0; i < columns.front().cells.size(); ++i) {
         const int page = mPage;
         reserve(kLine);
         if (mPage != page)
-            row(columns, characters, -1); // the titles again on every page
-        row(columns, characters, i);
+            row(columns, shares, -1); // the titles again on every page
+        row(columns, shares, i);
     }
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/canvas/RasterCanvas.h"
+#include "report/PaperCanvas.h"
 
 #include <QPainter>
 #include <QPdfWriter>
@@ -17,13 +17,13 @@ struct ReportColumn {
 };
 
 /// The pages of a report on a PDF writer: everything is set from the top down, in points, and goes on with the next page where
-/// there is no room. A page ends with a footer. All texts are in the program's own monospaced font.
+/// there is no room. A page ends with a footer.
 class ReportPages {
 public:
     /// @param footer stands below every page, with the page's number.
     ReportPages(QPdfWriter& writer, const QString& footer);
 
-    [[nodiscard]] Canvas& canvas() { return mCanvas; }
+    [[nodiscard]] PaperCanvas& canvas() { return mCanvas; }
     [[nodiscard]] QPainter& painter() { return mPainter; }
     [[nodiscard]] int pageCount() const { return mPage; }
 
@@ -46,13 +46,15 @@ private:
     void endPage();
     void reserve(double height);
     void text(double x, const QString& text, double size, const QColor& colour, bool bold = false, Qt::Alignment align = Qt::AlignLeft);
-    /// Characters of each column, cut so that a row fits the page.
-    [[nodiscard]] std::vector<int> widths(const std::vector<ReportColumn>& columns) const;
-    void row(const std::vector<ReportColumn>& columns, const std::vector<int>& widths, qsizetype number);
+    /// As much of a text from elsewhere as has room there, in one line.
+    [[nodiscard]] QString cell(const QString& text, double width, bool bold = false) const;
+    /// The width of each column in points, cut so that a row fits the page.
+    [[nodiscard]] std::vector<double> widths(const std::vector<ReportColumn>& columns) const;
+    void row(const std::vector<ReportColumn>& columns, const std::vector<double>& widths, qsizetype number);
 
     QPdfWriter& mWriter;
     QPainter mPainter;
-    RasterCanvas mCanvas;
+    PaperCanvas mCanvas;
     QString mFooter;
     double mRight;
     double mBottom;

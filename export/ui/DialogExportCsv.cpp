@@ -4,8 +4,7 @@
 #include "card/CardContainer.h"
 #include "export/ui/DialogExportCsvOptions.h"
 #include "export/ui/DialogExportCsvPath.h"
-
-#include <algorithm>
+#include "export/ui/ExportOutlook.h"
 
 namespace ZARN {
 
@@ -13,41 +12,54 @@ namespace {
 
 constexpr QSize kSize(560, 380);
 
-std::size_t selectedCount(const Profile& profile)
-{
-    std::size_t count = 0;
-    for (const ProfileDevice& device : profile.data()) {
-        count += static_cast<std::size_t>(std::count_if(device.parameters.begin(), device.parameters.end(), [&](const ProfileParameter& parameter) {
-            return profile.isSelected(parameter.name);
-        }));
-    }
-    return count;
-}
-
 } // namespace
 
 DialogExportCsv::DialogExportCsv(const Session& session, QWidget* pParent)
-    : QWizard(pParent), mSession(session), mpPath(new DialogExportCsvPath), mpOptions(new DialogExportCsvOptions)
+    : QWizard(pParent), mSession(session), mpPath(new DialogExportCsvPath(session.container)), mpOptions(new DialogExportCsvOptions)
 {
     setWindowTitle(tr("CSV Export"));
     setWizardStyle(QWizard::ModernStyle);
     addPage(mpPath);
     addPage(mpOptions);
     resize(kSize);
+    connect(mpOptions, &DialogExportCsvOptions::signalChanged, this, &DialogExportCsv::slotChanged);
+    connect(this, &QWizard::currentIdChanged, this, &DialogExportCsv::slotChanged);
 }
 
-bool DialogExportCsv::getOptions(CsvExportOptions& options)
+bool DialogExportCsv::getOptions(CsvExportOptions& options, const std::vector<ExportPart>& parts)
 {
     mpPath->setTarget(options.directory, options.fileName);
     mpOptions->setOptions(options.separator, static_cast<int>(options.resolution), options.allParameters);
-    mpOptions->setData(mSession.container.recordData().channels().empty(), selectedCount(mSession.profile));
+    mpPath->setParts(parts);
     restart();
     loadSettings();
     if (exec() != QDialog::Accepted)
         return false;
-    options = {mpPath->directory(), mpPath->fileName(), mpOptions->separator(), mpOptions->allParameters(), mpOptions->resolution()};
+    options = chosen();
     saveSettings();
     return true;
+}
+
+CsvExportOptions DialogExportCsv::chosen() const
+{
+    return {mpPath->directory(),        mpPath->fileName(),      mpOptions->separator(),
+            mpOptions->allParameters(), mpOptions->resolution(), mpPath->span()};
+}
+
+ExportOutlook DialogExportCsv::outlook() const
+{
+    return {mSession.container.recordData(), mSession.profile, chosen()};
+}
+
+void DialogExportCsv::slotChanged()
+{
+    mpOptions->setNote(outlook().note(ExportOutlook::freeBytes(mpPath->directory())));
+}
+
+void DialogExportCsv::accept()
+{
+    if (outlook().mayWrite(ExportOutlook::freeBytes(mpPath->directory()), this))
+        QWizard::accept();
 }
 
 void DialogExportCsv::loadSettings()

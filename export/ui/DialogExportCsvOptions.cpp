@@ -51,11 +51,9 @@ void DialogExportCsvOptions::setOptions(int separator, int resolution, bool allP
     choose(mpParameter, allParameters ? 1 : 0);
 }
 
-void DialogExportCsvOptions::setData(bool isEmpty, std::size_t selected)
+void DialogExportCsvOptions::setNote(const QString& text)
 {
-    mIsEmpty = isEmpty;
-    mSelected = selected;
-    showNote();
+    mpNote->setText(text);
 }
 
 void DialogExportCsvOptions::slotLimiter(int index)
@@ -66,22 +64,13 @@ void DialogExportCsvOptions::slotLimiter(int index)
 void DialogExportCsvOptions::slotResolution(int index)
 {
     mResolution = mpResolution->itemData(index).toUInt();
+    Q_EMIT signalChanged();
 }
 
 void DialogExportCsvOptions::slotParameter(int index)
 {
     mAllParameters = mpParameter->itemData(index).toInt() == 1;
-    showNote();
-}
-
-void DialogExportCsvOptions::showNote()
-{
-    if (mIsEmpty)
-        mpNote->setText(tr("No data is loaded: the file will hold its header line alone. Choose a power cycle in the card browser first."));
-    else if (!mAllParameters && mSelected == 0)
-        mpNote->setText(tr("No parameter is ticked in the profile panel: the file will hold no values."));
-    else
-        mpNote->clear();
+    Q_EMIT signalChanged();
 }
 
 } // namespace ZARN

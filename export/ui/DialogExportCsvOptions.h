@@ -22,8 +22,11 @@ public:
     [[nodiscard]] uint32_t resolution() const { return mResolution; }
     [[nodiscard]] bool allParameters() const { return mAllParameters; }
 
-    /// What the user should know of the data before the file is written. @param selected how many parameters are selected.
-    void setData(bool isEmpty, std::size_t selected);
+    /// What the user should know before the file is written.
+    void setNote(const QString& text);
+
+Q_SIGNALS:
+    void signalChanged();
 
 private Q_SLOTS:
     void slotLimiter(int index);
@@ -31,8 +34,6 @@ private Q_SLOTS:
     void slotParameter(int index);
 
 private:
-    void showNote();
-
     QComboBox* mpLimiter;
     QComboBox* mpResolution;
     QComboBox* mpParameter;
@@ -40,8 +41,6 @@ private:
     char mSeparator = ';';
     uint32_t mResolution = 100;
     bool mAllParameters = true;
-    bool mIsEmpty = false;
-    std::size_t mSelected = 0;
 };
 
 } // namespace ZARN

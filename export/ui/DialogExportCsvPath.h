@@ -9,7 +9,7 @@ class DialogExportCsvPath : public ExportPathPage {
     Q_OBJECT
 
 public:
-    explicit DialogExportCsvPath(QWidget* pParent = nullptr) : ExportPathPage(tr("Save CSV Export"), pParent) {}
+    explicit DialogExportCsvPath(const CardContainer& card, QWidget* pParent = nullptr) : ExportPathPage(card, tr("Save CSV Export"), pParent) {}
 };
 
 } // namespace ZARN

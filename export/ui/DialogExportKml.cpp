@@ -1,9 +1,11 @@
 #include "export/ui/DialogExportKml.h"
 
 #include "app/Property.h"
+#include "card/CardContainer.h"
 #include "export/ui/DialogExportKmlOptions.h"
 #include "export/ui/DialogExportKmlPath.h"
 #include "export/ui/DialogExportKmlPlacemark.h"
+#include "export/ui/ExportOutlook.h"
 
 namespace ZARN {
 
@@ -14,7 +16,7 @@ constexpr QSize kSize(560, 440);
 } // namespace
 
 DialogExportKml::DialogExportKml(const Session& session, QWidget* pParent)
-    : QWizard(pParent), mSession(session), mpPath(new DialogExportKmlPath), mpOptions(new DialogExportKmlOptions),
+    : QWizard(pParent), mSession(session), mpPath(new DialogExportKmlPath(session.container)), mpOptions(new DialogExportKmlOptions),
       mpPlacemark(new DialogExportKmlPlacemark)
 {
     setWindowTitle(tr("KML Export"));
@@ -23,26 +25,52 @@ DialogExportKml::DialogExportKml(const Session& session, QWidget* pParent)
     addPage(mpOptions);
     addPage(mpPlacemark);
     resize(kSize);
+    connect(mpPlacemark, &DialogExportKmlPlacemark::signalChanged, this, &DialogExportKml::slotChanged);
+    connect(this, &QWizard::currentIdChanged, this, &DialogExportKml::slotChanged);
 }
 
-bool DialogExportKml::getOptions(KmlExportOptions& options)
+bool DialogExportKml::getOptions(KmlExportOptions& options, const std::vector<ExportPart>& parts)
 {
     KmlExportOptions shown = options;
     shown.read(mSession.property);
     mpPath->setTarget(QString::fromStdString(shown.directory), QString::fromStdString(shown.fileName));
+    mpPath->setParts(parts);
     mpOptions->show(shown);
     mpPlacemark->show(shown);
     restart();
     if (exec() != QDialog::Accepted)
         return false;
-    shown.directory = mpPath->directory().toStdString();
-    shown.fileName = mpPath->fileName().toStdString();
-    mpOptions->store(shown);
-    mpPlacemark->store(shown);
-    options = shown;
+    options = chosen();
     options.write(mSession.property);
     mSession.property.writeXmlFile();
     return true;
+}
+
+KmlExportOptions DialogExportKml::chosen() const
+{
+    KmlExportOptions options;
+    options.directory = mpPath->directory().toStdString();
+    options.fileName = mpPath->fileName().toStdString();
+    options.span = mpPath->span();
+    mpOptions->store(options);
+    mpPlacemark->store(options);
+    return options;
+}
+
+ExportOutlook DialogExportKml::outlook() const
+{
+    return {mSession.container.recordData(), mSession.profile, chosen()};
+}
+
+void DialogExportKml::slotChanged()
+{
+    mpPlacemark->setNote(outlook().note(ExportOutlook::freeBytes(mpPath->directory())));
+}
+
+void DialogExportKml::accept()
+{
+    if (outlook().mayWrite(ExportOutlook::freeBytes(mpPath->directory()), this))
+        QWizard::accept();
 }
 
 } // namespace ZARN

@@ -9,7 +9,7 @@ class DialogExportKmlPath : public ExportPathPage {
     Q_OBJECT
 
 public:
-    explicit DialogExportKmlPath(QWidget* pParent = nullptr) : ExportPathPage(tr("Save KML Export"), pParent) {}
+    explicit DialogExportKmlPath(const CardContainer& card, QWidget* pParent = nullptr) : ExportPathPage(card, tr("Save KML Export"), pParent) {}
 };
 
 } // namespace ZARN

@@ -5,6 +5,7 @@
 #include <QCheckBox>
 #include <QFormLayout>
 #include <QGroupBox>
+#include <QLabel>
 #include <QSpinBox>
 
 namespace ZARN {
@@ -19,7 +20,7 @@ DialogExportKmlPlacemark::DialogExportKmlPlacemark(QWidget* pParent)
     : QWizardPage(pParent), mpParameters(new QGroupBox(tr("Draw selected parameters as placemarks"))), mpInterval(new QSpinBox),
       mpColour(new ColourButton(tr("Select Placemark Color"), ColourButton::eOpaque)),
       mpErrors(new QGroupBox(tr("Show Limit exceedance / Warning Lamps"))), mpLimits(new QCheckBox(tr("Limit Exceedance"))),
-      mpWarnings(new QCheckBox(tr("Warning Lamps"))), mpErrorColour(new ColourButton(tr("Select Exceedance Color"), ColourButton::eOpaque))
+      mpWarnings(new QCheckBox(tr("Warning Lamps"))), mpErrorColour(new ColourButton(tr("Select Exceedance Color"), ColourButton::eOpaque)), mpNote(new QLabel)
 {
     setTitle(tr("Select KML Placemarks"));
     mpParameters->setObjectName("placeMarks");
@@ -44,7 +45,12 @@ DialogExportKmlPlacemark::DialogExportKmlPlacemark(QWidget* pParent)
     auto* pLayout = new QVBoxLayout(this);
     pLayout->addWidget(mpParameters);
     pLayout->addWidget(mpErrors);
+    pLayout->addWidget(mpNote);
     pLayout->addStretch();
+    mpNote->setObjectName("warning");
+    mpNote->setWordWrap(true);
+    connect(mpParameters, &QGroupBox::toggled, this, &DialogExportKmlPlacemark::signalChanged);
+    connect(mpInterval, &QSpinBox::valueChanged, this, &DialogExportKmlPlacemark::signalChanged);
 }
 
 void DialogExportKmlPlacemark::show(const KmlExportOptions& options)
@@ -56,6 +62,11 @@ void DialogExportKmlPlacemark::show(const KmlExportOptions& options)
     mpLimits->setChecked(options.showLimit);
     mpWarnings->setChecked(options.showWarning);
     mpErrorColour->setColour(options.errorMarkColor);
+}
+
+void DialogExportKmlPlacemark::setNote(const QString& text)
+{
+    mpNote->setText(text);
 }
 
 void DialogExportKmlPlacemark::store(KmlExportOptions& options) const

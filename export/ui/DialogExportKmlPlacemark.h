@@ -6,6 +6,7 @@
 
 class QCheckBox;
 class QGroupBox;
+class QLabel;
 class QSpinBox;
 
 namespace ZARN {
@@ -21,6 +22,11 @@ public:
 
     void show(const KmlExportOptions& options);
     void store(KmlExportOptions& options) const;
+    /// What the user should know before the file is written.
+    void setNote(const QString& text);
+
+Q_SIGNALS:
+    void signalChanged();
 
 private:
     QGroupBox* mpParameters;
@@ -30,6 +36,7 @@ private:
     QCheckBox* mpLimits;
     QCheckBox* mpWarnings;
     ColourButton* mpErrorColour;
+    QLabel* mpNote;
 };
 
 } // namespace ZARN

@@ -2,6 +2,7 @@
 
 #include "export/ui/ExportTarget.h"
 
+#include <QComboBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFormLayout>
@@ -13,10 +14,11 @@
 
 namespace ZARN {
 
-ExportPathPage::ExportPathPage(const QString& chooser, QWidget* pParent)
-    : QWizardPage(pParent), mChooser(chooser), mpDirectory(new QLineEdit), mpName(new QLineEdit), mpProblem(new QLabel)
+ExportPathPage::ExportPathPage(const CardContainer& card, const QString& chooser, QWidget* pParent)
+    : QWizardPage(pParent), mCard(card), mChooser(chooser), mpForm(new QFormLayout(this)), mpPart(new QComboBox), mpDirectory(new QLineEdit), mpName(new QLineEdit), mpProblem(new QLabel)
 {
     setTitle(tr("Select the output directory and file"));
+    mpPart->setObjectName("part");
     mpDirectory->setObjectName("directory");
     mpDirectory->setAccessibleName(tr("Output directory"));
     mpName->setObjectName("fileName");
@@ -28,11 +30,13 @@ ExportPathPage::ExportPathPage(const QString& chooser, QWidget* pParent)
     auto* pFolder = new QHBoxLayout;
     pFolder->addWidget(mpDirectory, 1);
     pFolder->addWidget(pChoose);
-    auto* pForm = new QFormLayout(this);
-    pForm->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-    pForm->addRow(tr("Export Path"), pFolder);
-    pForm->addRow(tr("Export Filename"), mpName);
-    pForm->addRow(mpProblem);
+    mpForm->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    mpForm->addRow(tr("Range"), mpPart);
+    mpForm->addRow(tr("Export Path"), pFolder);
+    mpForm->addRow(tr("Export Filename"), mpName);
+    mpForm->addRow(mpProblem);
+    mpForm->setRowVisible(mpPart, false);
+    connect(mpPart, &QComboBox::activated, this, &ExportPathPage::slotPart);
     connect(pChoose, &QPushButton::clicked, this, &ExportPathPage::slotChoose);
     connect(mpDirectory, &QLineEdit::textChanged, this, &ExportPathPage::slotChanged);
     connect(mpName, &QLineEdit::textChanged, this, &ExportPathPage::slotChanged);
@@ -43,6 +47,26 @@ void ExportPathPage::setTarget(const QString& directory, const QString& name)
     mReplaced.clear();
     mpDirectory->setText(QDir::toNativeSeparators(QDir(directory).absolutePath()));
     mpName->setText(name);
+}
+
+void ExportPathPage::setParts(const std::vector<ExportPart>& parts)
+{
+    mParts = parts;
+    mpPart->clear();
+    for (const ExportPart& part : parts)
+        mpPart->addItem(part.title);
+    mpForm->setRowVisible(mpPart, parts.size() > 1);
+}
+
+std::optional<TimeSpan> ExportPathPage::span() const
+{
+    return mParts.empty() ? std::nullopt : mParts[static_cast<std::size_t>(std::max(mpPart->currentIndex(), 0))].span;
+}
+
+void ExportPathPage::slotPart(int index)
+{
+    if (!mpName->isModified()) // a name that the user typed stays
+        mpName->setText(mParts[static_cast<std::size_t>(index)].fileName);
 }
 
 QString ExportPathPage::directory() const
@@ -62,7 +86,7 @@ bool ExportPathPage::isComplete() const
 
 bool ExportPathPage::validatePage()
 {
-    const ExportTarget target(directory(), fileName());
+    const ExportTarget target(mCard, directory(), fileName());
     mpProblem->setText(target.problem());
     return mpProblem->text().isEmpty() && (!target.exists() || mayReplace(target.path()));
 }

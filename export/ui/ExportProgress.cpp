@@ -1,6 +1,7 @@
 #include "export/ui/ExportProgress.h"
 
 #include <QCoreApplication>
+#include <QLabel>
 
 #include <limits>
 
@@ -17,7 +18,9 @@ constexpr int kWidth = 380;
 ExportProgress::ExportProgress(const QString& text, QWidget* pWindow) : mDialog(pWindow)
 {
     mDialog.setWindowTitle(tr("ZARN Info"));
-    mDialog.setLabelText(text);
+    auto* pLabel = new QLabel(text);
+    pLabel->setTextFormat(Qt::PlainText); // a file's name may hold what looks like markup
+    mDialog.setLabel(pLabel);
     mDialog.setWindowModality(Qt::ApplicationModal);
     mDialog.setMinimumDuration(std::numeric_limits<int>::max()); // shown from here
     mDialog.setAutoReset(false);

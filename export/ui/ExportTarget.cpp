@@ -1,5 +1,8 @@
 #include "export/ui/ExportTarget.h"
 
+#include "app/FileName.h"
+#include "export/RecordFileGuard.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QTemporaryFile>
@@ -9,6 +12,12 @@ namespace ZARN {
 bool ExportTarget::exists() const
 {
     return QFileInfo::exists(path());
+}
+
+QString ExportTarget::recordProblem() const
+{
+    return isRecordFileOf(mCard, encodeFileName(path())) ? tr("%1 is a recording of this card and is not replaced.").arg(QDir::toNativeSeparators(path()))
+                                                         : QString();
 }
 
 QString ExportTarget::problem() const
@@ -24,6 +33,8 @@ QString ExportTarget::problem() const
         return tr("A file name cannot hold a \"/\".");
     if (file.isDir())
         return tr("%1 is a folder, not a file.").arg(QDir::toNativeSeparators(path()));
+    if (const QString recording = recordProblem(); !recording.isEmpty())
+        return recording;
     if (file.exists() && !file.isWritable())
         return tr("%1 cannot be written.").arg(QDir::toNativeSeparators(path()));
     if (file.exists() && !file.isFile()) // a pipe or a device: written directly

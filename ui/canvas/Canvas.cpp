@@ -34,7 +34,12 @@ QPointF Canvas::textOrigin(const QPointF& position, const QString& text, const C
         origin.ry() -= box.height() / 2;
     if (style.upwards)
         origin.ry() += box.height();
-    return {std::round(origin.x()), std::round(origin.y())};
+    return snapped(origin);
+}
+
+QPointF Canvas::snapped(const QPointF& point) const
+{
+    return {std::round(point.x()), std::round(point.y())};
 }
 
 void Canvas::outline(const QRectF& rect, const CanvasPen& pen)

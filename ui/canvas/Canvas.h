@@ -67,6 +67,8 @@ protected:
     Canvas() = default;
     /// Where the text begins: the top left corner of its box, or the bottom left one of a box read upwards.
     [[nodiscard]] QPointF textOrigin(const QPointF& position, const QString& text, const CanvasText& style) const;
+    /// The nearest point that a text can begin at: a whole pixel.
+    [[nodiscard]] virtual QPointF snapped(const QPointF& point) const;
 };
 
 } // namespace ZARN

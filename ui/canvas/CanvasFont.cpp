@@ -20,29 +20,44 @@ constexpr double kAdvance = 0.65;
 constexpr double kAscent = 0.965;
 constexpr double kLine = 1.22;
 
-QString family(bool bold)
+QByteArray content(const char* name)
 {
-    const int number = QFontDatabase::addApplicationFontFromData(canvasFontFile(bold));
-    return QFontDatabase::applicationFontFamilies(number).value(0);
+    registerFonts();
+    QFile file(name);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QString family(const QByteArray& file)
+{
+    return QFontDatabase::applicationFontFamilies(QFontDatabase::addApplicationFontFromData(file)).value(0);
+}
+
+QFont font(const QString& family, double size, bool bold)
+{
+    QFont font(family);
+    font.setPixelSize(std::max(1, static_cast<int>(std::lround(size))));
+    font.setBold(bold);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    return font;
 }
 
 } // namespace
 
 QByteArray canvasFontFile(bool bold)
 {
-    registerFonts();
-    QFile file(bold ? QStringLiteral(":monofont-bold.ttf") : QStringLiteral(":monofont.ttf"));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return content(bold ? ":monofont-bold.ttf" : ":monofont.ttf");
 }
 
 QFont canvasFont(double size, bool bold)
 {
-    static const QString families[] = {family(false), family(true)};
-    QFont font(families[bold ? 1 : 0]);
-    font.setPixelSize(std::max(1, static_cast<int>(std::lround(size))));
-    font.setBold(bold);
-    font.setHintingPreference(QFont::PreferNoHinting);
-    return font;
+    static const QString families[] = {family(canvasFontFile(false)), family(canvasFontFile(true))};
+    return font(families[bold ? 1 : 0], size, bold);
+}
+
+QFont textFont(double size, bool bold)
+{
+    static const QString families[] = {family(content(":textfont.otf")), family(content(":textfont-bold.otf"))};
+    return font(families[bold ? 1 : 0], size, bold);
 }
 
 QSizeF canvasTextSize(const QString& text, double size, bool)

@@ -12,6 +12,9 @@ namespace ZARN {
 /// The same for painters. @param size em height in pixels. Needs the QGuiApplication.
 [[nodiscard]] QFont canvasFont(double size, bool bold);
 
+/// The proportional font that comes with the program, for paper: its digits have one width, its points and colons no holes beside them.
+[[nodiscard]] QFont textFont(double size, bool bold);
+
 /// Width and height of a text in pixels: every character is 0.65 em wide and a line is 1.22 em high. The same for all canvases, so
 /// that a layout does not depend on what draws it.
 [[nodiscard]] QSizeF canvasTextSize(const QString& text, double size, bool bold);

@@ -176,12 +176,17 @@ void RasterCanvas::polygon(std::span<const QPointF> points, const QColor& colour
     mPainter.restore();
 }
 
+QFont RasterCanvas::font(const CanvasText& style) const
+{
+    return canvasFont(style.size, style.bold);
+}
+
 void RasterCanvas::text(const QPointF& position, const QString& text, const CanvasText& style)
 {
     if (!isFinite(position) || text.isEmpty())
         return;
     ready().save();
-    mPainter.setFont(canvasFont(style.size, style.bold));
+    mPainter.setFont(font(style));
     mPainter.setPen(style.colour);
     const QPointF origin = textOrigin(position, text, style);
     if (style.upwards) {

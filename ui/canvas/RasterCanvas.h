@@ -2,6 +2,8 @@
 
 #include "ui/canvas/Canvas.h"
 
+#include <QFont>
+
 class QPainter;
 
 namespace ZARN {
@@ -29,6 +31,8 @@ public:
 protected:
     /// The painter for whatever is drawn next.
     virtual QPainter& ready() { return mPainter; }
+    /// What texts are set in; textSize() tells of the same font.
+    [[nodiscard]] virtual QFont font(const CanvasText& style) const;
 
     QPainter& mPainter;
 

@@ -45,6 +45,8 @@ public:
     /// Flights, statistics and events of the record that is shown were worked out anew: the view time stays, and a replay goes on.
     void recalculated();
     [[nodiscard]] double viewTime() const { return mViewTime; }
+    /// What the graph shows; none when it is empty.
+    [[nodiscard]] std::optional<TimeSpan> graphSpan() const { return mViews.view(eViewGraph).shownSpan(); }
 
 public Q_SLOTS:
     void slotTableTime(double time);

@@ -210,6 +210,12 @@ void DialogDataGraph::fillIndex(int slot, const ProfileParameter& parameter)
     }
 }
 
+std::optional<TimeSpan> DialogDataGraph::shownSpan() const
+{
+    const GraphModel& model = mpGraph->model();
+    return hasSamples() ? std::optional(TimeSpan{model.xmin(), model.xmax()}) : std::nullopt;
+}
+
 void DialogDataGraph::setTime(double time)
 {
     // Where the view time stays, what the user has zoomed to stays too.

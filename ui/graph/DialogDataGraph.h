@@ -35,6 +35,7 @@ public:
     void setTime(double time) override;
     void setZarnMode(int mode) override;
     void updateSettings() override;
+    [[nodiscard]] std::optional<TimeSpan> shownSpan() const override;
 
     [[nodiscard]] WidgetGraphES& graph() { return *mpGraph; }
     [[nodiscard]] GraphData& graphData() { return mData; }

@@ -267,7 +267,7 @@ void DialogMain::createControllers()
     connect(pRecent, &RecentFolders::signalChosen, this, &DialogMain::openFolder);
     mpCardController = new CardController(mSession, *mpCard, *pRecent, *mpProgress, this);
     mpProjectController = new ProjectController(mSession, this);
-    mpExportController = new ExportController(mSession, *mpCardController, this);
+    mpExportController = new ExportController(mSession, *mpCardController, [this] { return mpData->graphSpan(); }, this);
     mpProfileController = std::make_unique<ProfileController>(mSession, *mpCatalogue, *mpProfiles, *mpUnits);
     mpLayout = std::make_unique<WindowLayout>(mSession.property, *this, *mpSplitter, *mpSide);
     mSession.container.setProgress(*mpProgress);

@@ -8,39 +8,91 @@
 #include "export/ui/DialogExportCsv.h"
 #include "export/ui/DialogExportKml.h"
 #include "export/ui/ExportProgress.h"
+#include "export/ui/ExportTarget.h"
 #include "report/FlightReport.h"
 #include "ui/main/CardController.h"
 
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLabel>
 #include <QLocale>
-#include <QMessageBox>
+
+#include <algorithm>
 
 namespace ZARN {
 
-ExportController::ExportController(const Session& session, CardController& cards, QWidget* pWindow)
-    : QObject(pWindow), mSession(session), mCards(cards), mpWindow(pWindow)
+ExportController::ExportController(const Session& session, CardController& cards, ShownSpan graphSpan, QWidget* pWindow)
+    : QObject(pWindow), mSession(session), mCards(cards), mGraphSpan(std::move(graphSpan)), mpWindow(pWindow)
 {
+}
+
+bool ExportController::hasData()
+{
+    if (mCards.hasData())
+        return true;
+    say(QMessageBox::Information, tr("ZARN Warning"), tr("No data of this card is loaded."), tr("Choose a power cycle in the card browser first."));
+    return false;
+}
+
+QString ExportController::fileName(int flight, const QString& suffix) const
+{
+    const QString card = mSession.container.name().isEmpty() ? QStringLiteral("ZARN") : mSession.container.name();
+    const auto cycle = mSession.container.loadedCycleNumber();
+    if (!cycle)
+        return card + suffix;
+    return (flight > 0 ? tr("%1 cycle %2 flight %3").arg(card).arg(*cycle).arg(flight) : tr("%1 cycle %2").arg(card).arg(*cycle)) + suffix;
+}
+
+QString ExportController::selectionName(const QString& suffix) const
+{
+    return fileName(mSession.container.selectedFlightNumber(), suffix);
+}
+
+std::vector<ExportPart> ExportController::parts(const QString& suffix) const
+{
+    std::vector<ExportPart> parts{{tr("Everything that is loaded"), fileName(0, suffix), {}}};
+    if (const int flight = mSession.container.selectedFlightNumber()) {
+        const RecordFlight& selected = mSession.container.selectedFlight();
+        parts.push_back({tr("Flight %1").arg(flight), fileName(flight, suffix), TimeSpan{selected.startTime, selected.endTime}});
+    }
+    if (std::optional<TimeSpan> shown = mGraphSpan()) {
+        shown->start = std::max(shown->start, 0.0); // nothing is recorded before
+        const auto time = [](double seconds) { return CardContainer::time(seconds).left(8); };
+        parts.push_back({tr("What the graph shows, %1 to %2").arg(time(shown->start), time(shown->end)),
+                         tr("%1 from %2").arg(fileName(0, {}), time(shown->start).replace(':', '-')) + suffix, shown});
+    }
+    return parts;
 }
 
 void ExportController::exportKml()
 {
-    mKmlOptions.fileName = (mSession.container.name() + ".kml").toStdString();
-    if (!DialogExportKml(mSession, mpWindow).getOptions(mKmlOptions))
+    if (!hasData())
+        return;
+    mKmlOptions.fileName = fileName(0, ".kml").toStdString();
+    if (!DialogExportKml(mSession, mpWindow).getOptions(mKmlOptions, parts(".kml")))
         return;
     const RecordCycle* pCycle = mSession.container.loadedCycle();
-    ExportKml exporter(mSession.console, mSession.profile, pCycle ? pCycle->dateTime : QDateTime());
-    const auto work = [&](Progress& progress) { return exporter.exportData(mSession.container.recordData(), mKmlOptions, progress); };
+    ExportKml exporter(mSession.console, mSession.profile, pCycle ? pCycle->dateTime : mSession.container.dateTime());
+    bool isPathMissing = false;
+    const auto work = [&](Progress& progress) {
+        const bool written = exporter.exportData(mSession.container.recordData(), mKmlOptions, progress);
+        isPathMissing = written && !exporter.hasPosition();
+        return written;
+    };
     if (!run(QString::fromStdString(mKmlOptions.directory + "/" + mKmlOptions.fileName), work))
         fail(tr("ZARN Warning"), tr("Exporting KML file failed !"), exporter.error());
+    else if (isPathMissing)
+        say(QMessageBox::Information, tr("ZARN Warning"), tr("No position was recorded: the KML file holds no flight path."));
 }
 
 void ExportController::exportCsv()
 {
+    if (!hasData())
+        return;
     mCsvOptions.directory = QString::fromStdString(mSession.property.getString("CsvExportDir", "."));
-    mCsvOptions.fileName = "ExportZarn.csv";
-    if (!DialogExportCsv(mSession, mpWindow).getOptions(mCsvOptions))
+    mCsvOptions.fileName = fileName(0, ".csv");
+    if (!DialogExportCsv(mSession, mpWindow).getOptions(mCsvOptions, parts(".csv")))
         return;
     ExportCsv exporter(mSession.profile);
     const auto work = [&](Progress& progress) { return exporter.exportData(mSession.container.recordData(), mCsvOptions, progress); };
@@ -50,7 +102,9 @@ void ExportController::exportCsv()
 
 void ExportController::exportGpx()
 {
-    const QString path = askFile("GpxExportDir", tr("Save GPX Export"), mSession.container.name() + ".gpx", tr("GPX Files (*.gpx)"));
+    if (!hasData())
+        return;
+    const QString path = askFile("GpxExportDir", tr("Save GPX Export"), selectionName(".gpx"), tr("GPX Files (*.gpx)"));
     if (path.isEmpty())
         return;
     ExportGpx exporter(mSession.profile);
@@ -64,7 +118,9 @@ void ExportController::exportGpx()
 
 void ExportController::writeReport()
 {
-    const QString path = askFile("ReportDir", tr("Save Flight Report"), mSession.container.name() + ".pdf", tr("PDF Files (*.pdf)"));
+    if (!hasData())
+        return;
+    const QString path = askFile("ReportDir", tr("Save Flight Report"), selectionName(".pdf"), tr("PDF Files (*.pdf)"));
     if (path.isEmpty())
         return;
     FlightReport report(mSession.container, mSession.profile);
@@ -88,7 +144,12 @@ QString ExportController::askFile(const char* setting, const QString& title, con
     if (dialog.exec() != QDialog::Accepted)
         return {};
     const QString path = dialog.selectedFiles().constFirst();
-    mSession.property.setString(setting, QFileInfo(path).absolutePath().toStdString());
+    const QFileInfo file(path);
+    if (const QString problem = ExportTarget(mSession.container, file.absolutePath(), file.fileName()).recordProblem(); !problem.isEmpty()) {
+        say(QMessageBox::Critical, tr("ZARN Warning"), problem);
+        return {};
+    }
+    mSession.property.setString(setting, file.absolutePath().toStdString());
     mSession.property.writeXmlFile();
     return path;
 }
@@ -106,9 +167,15 @@ bool ExportController::run(const QString& path, const std::function<bool(Progres
 
 void ExportController::fail(const QString& title, const QString& text, const std::string& reason)
 {
-    QMessageBox box(QMessageBox::Critical, title, text, QMessageBox::Ok, mpWindow);
-    box.setTextFormat(Qt::PlainText);
-    box.setInformativeText(QString::fromStdString(reason));
+    say(QMessageBox::Critical, title, text, QString::fromStdString(reason));
+}
+
+void ExportController::say(QMessageBox::Icon icon, const QString& title, const QString& text, const QString& information)
+{
+    QMessageBox box(icon, title, text, QMessageBox::Ok, mpWindow);
+    box.setInformativeText(information);
+    for (QLabel* pLabel : box.findChildren<QLabel*>()) // a path in either may hold what looks like markup
+        pLabel->setTextFormat(Qt::PlainText);
     box.exec();
 }
 

@@ -2,11 +2,14 @@
 
 #include "export/ExportCsv.h"
 #include "export/KmlExportOptions.h"
+#include "export/ui/ExportPart.h"
 #include "project/Session.h"
 
+#include <QMessageBox>
 #include <QObject>
 
 #include <functional>
+#include <vector>
 
 class QWidget;
 
@@ -14,12 +17,16 @@ namespace ZARN {
 
 class CardController;
 
-/// Exports the loaded data: asks for the options, shows the progress, and says when it failed. Owned by the main window.
+/// Exports the loaded data of the card that is shown: asks for the options, shows the progress, and says when it failed. Owned by the main
+/// window.
 class ExportController : public QObject {
     Q_OBJECT
 
 public:
-    ExportController(const Session& session, CardController& cards, QWidget* pWindow);
+    using ShownSpan = std::function<std::optional<TimeSpan>()>;
+
+    /// @param graphSpan tells what the graph shows
+    ExportController(const Session& session, CardController& cards, ShownSpan graphSpan, QWidget* pWindow);
 
     void exportKml();
     void exportCsv();
@@ -31,15 +38,23 @@ Q_SIGNALS:
     void signalWritten(const QString& path);
 
 private:
+    /// Whether records are loaded, and of the card that is shown. Tells the user when not.
+    bool hasData();
+    /// Names card, cycle and flight.
+    [[nodiscard]] QString fileName(int flight, const QString& suffix) const;
+    [[nodiscard]] QString selectionName(const QString& suffix) const;
+    [[nodiscard]] std::vector<ExportPart> parts(const QString& suffix) const;
     /// Does the work under the eyes of the user, loading being put off meanwhile. @param work returns whether it succeeded.
     /// @return whether it did, or was cancelled.
     bool run(const QString& path, const std::function<bool(Progress&)>& work);
     /// Asks for a file in the folder that the setting remembers. @return its path; empty when the user cancels.
     QString askFile(const char* setting, const QString& title, const QString& name, const QString& filter);
     void fail(const QString& title, const QString& text, const std::string& reason);
+    void say(QMessageBox::Icon icon, const QString& title, const QString& text, const QString& information = {});
 
     Session mSession;
     CardController& mCards;
+    ShownSpan mGraphSpan;
     QWidget* mpWindow;
     CsvExportOptions mCsvOptions;
     KmlExportOptions mKmlOptions;

@@ -2,8 +2,10 @@
 #include "export/ui/ColourButton.h"
 #include "export/ui/DialogExportCsv.h"
 #include "export/ui/DialogExportKml.h"
+#include "export/ui/ExportOutlook.h"
 #include "export/ui/ExportProgress.h"
 #include "project/Project.h"
+#include "support/CardBuilder.h"
 #include "support/FileHelpers.h"
 #include "support/ProfileBuilder.h"
 #include "support/TestCycle.h"
@@ -84,7 +86,8 @@ private Q_SLOTS:
     void existingFileIsAskedAboutOnce();
     void kmlDefaults();
     void kmlRemembers();
-    void kmlCancelled();
+    void rangeNamesTheFile();
+    void sizeIsToldBefore();
     void progressIsSeenAndCancelled();
 
 private:
@@ -163,6 +166,7 @@ void TestDialogExport::paths_data()
     QTest::newRow("missing folder") << "~/no <b>where</b>" << "a.csv" << "/no <b>where</b> does not exist";
     QTest::newRow("file for a folder") << "~/file" << "a.csv" << "is no folder";
     QTest::newRow("folder for a file") << "~" << "sub" << "is a folder, not a file";
+    QTest::newRow("recording") << "~" << "LOG1.CAN" << "is a recording of this card";
     QTest::newRow("folder in the name") << "~" << "sub/a.csv" << "cannot hold";
     QTest::newRow("nothing may be written") << "/proc" << "a.csv" << "Nothing can be written to the folder /proc";
     QTest::newRow("no name") << "~" << " " << "";
@@ -176,7 +180,9 @@ void TestDialogExport::paths()
     QFETCH(QString, problem);
     putFile(folder().toStdString() + "/file", "");
     std::filesystem::create_directory(folder().toStdString() + "/sub");
+    putFile(folder().toStdString() + "/LOG1.CAN", RecordFileBuilder().addFloat(500, 1, 1).bytes().toStdString());
     Wizards wizards(folder());
+    QVERIFY(wizards.container.readContainer(folder()));
     CsvExportOptions options{".", "out.csv"};
     Answer answer([&](QWidget* pModal) {
         type(pModal, "directory", directory.replace('~', folder()));
@@ -188,7 +194,7 @@ void TestDialogExport::paths()
         pModal->close();
     });
     QVERIFY(!DialogExportCsv(*wizards.session).getOptions(options));
-    QCOMPARE(entryCount(folder().toStdString()), 2L);
+    QCOMPARE(entryCount(folder().toStdString()), 3L);
 }
 
 void TestDialogExport::existingFileIsAskedAboutOnce()
@@ -283,14 +289,46 @@ void TestDialogExport::kmlRemembers()
     }
 }
 
-void TestDialogExport::kmlCancelled()
+void TestDialogExport::rangeNamesTheFile()
 {
     Wizards wizards(folder());
-    KmlExportOptions options;
-    Answer answer([](QWidget* pModal) { press(wizard(pModal), QWizard::CancelButton); });
-    QVERIFY(!DialogExportKml(*wizards.session).getOptions(options));
-    QCOMPARE(wizards.property.getString("KmlLineColor", "unset"), std::string("unset"));
-    QCOMPARE(entryCount(folder().toStdString()), 0L);
+    wizards.property.setString("CsvExportDir", folder().toStdString());
+    CsvExportOptions options{".", "Card.csv"};
+    Answer answer([&](QWidget* pModal) {
+        chooseLast(pModal, "part");
+        press(wizard(pModal), QWizard::NextButton);
+        press(wizard(pModal), QWizard::FinishButton);
+    });
+    const std::vector<ExportPart> parts{{"everything", "Card.csv", {}}, {"flight", "Card flight 1.csv", TimeSpan{10, 20}}};
+    QVERIFY(DialogExportCsv(*wizards.session).getOptions(options, parts));
+    QVERIFY(options.fileName == "Card flight 1.csv" && options.span && options.span->end == 20.0);
+}
+
+void TestDialogExport::sizeIsToldBefore()
+{
+    Wizards wizards(folder());
+    ProfileBuilder profile;
+    profile.unit("rpm", "rpm", 1).device("Engine").parameter("Speed", 500, "FLOAT", {{"unitMetric", "rpm"}, {"precision", "1"}});
+    profile.parameter("Silent", 501, "FLOAT");
+    QVERIFY(profile.load(wizards.profile));
+    RecordFileBuilder records;
+    for (int i = 0; i < 5000; ++i)
+        records.addFloat(500, 100 + i * 0.1, static_cast<float>(1000 + i));
+    records.fill(wizards.container.recordData());
+    CsvExportOptions options{folder(), "a.csv"};
+    for (const uint32_t resolution : {100u, 10u}) {
+        for (const auto& span : {std::optional<TimeSpan>(), std::optional(TimeSpan{300, 400})}) {
+            options.resolution = resolution;
+            options.span = span;
+            QVERIFY(ExportCsv(wizards.profile).exportData(wizards.container.recordData(), options));
+            const auto size = static_cast<double>(QFileInfo(folder() + "/a.csv").size());
+            const ExportOutlook outlook(wizards.container.recordData(), wizards.profile, options);
+            QVERIFY2(std::abs(static_cast<double>(outlook.bytes()) - size) < size / 10, qPrintable(QString("%1, %2").arg(outlook.bytes()).arg(size)));
+            Answer no(Answer::press("&No"));
+            QVERIFY(outlook.mayWrite(static_cast<int64_t>(outlook.bytes()), nullptr) && no.text.isEmpty());
+            QVERIFY(!outlook.mayWrite(static_cast<int64_t>(outlook.bytes()) - 1, nullptr) && no.text.contains("free in the folder"));
+        }
+    }
 }
 
 void TestDialogExport::progressIsSeenAndCancelled()

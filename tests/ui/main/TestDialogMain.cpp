@@ -464,11 +464,25 @@ void TestDialogMain::exportCsv()
     DialogMain& window = desktop.open();
     started(window);
     window.slotLoadCycle(3, -1);
-    Answer save([this](QWidget* pModal) { finish(pModal, home(), "out.csv"); });
+    QString proposed;
+    Answer save([&](QWidget* pModal) {
+        proposed = pModal->findChild<QLineEdit*>("fileName")->text();
+        finish(pModal, home(), "out.csv");
+    });
     window.action(eActionExportCsv)->trigger();
     QCOMPARE(save.title, QString("CSV Export"));
+    QCOMPARE(proposed, QString("Card cycle 3.csv"));
     QVERIFY(QFileInfo(home() + "/out.csv").size() > 1000);
     QCOMPARE(desktop.property.getString("CsvExportDir", ""), home().toStdString());
+    // The records of a card are nothing that the next one has.
+    QVERIFY(QDir().mkpath(home() + "/next") && QFile::copy(card() + "/LOG00001.CAN", home() + "/next/LOG00001.CAN"));
+    window.openFolder(home() + "/next");
+    for (const int id : {eActionExportKml, eActionExportCsv, eActionExportGpx, eActionReport}) {
+        Answer told(Answer::close);
+        window.action(id)->setEnabled(true);
+        window.action(id)->trigger();
+        QCOMPARE(told.text, QString("No data of this card is loaded."));
+    }
 }
 
 void TestDialogMain::failedExport_data()

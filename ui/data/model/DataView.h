@@ -1,5 +1,9 @@
 #pragma once
 
+#include "analysis/TimeSpan.h"
+
+#include <optional>
+
 namespace ZARN {
 
 class RecordData;
@@ -33,6 +37,9 @@ public:
 
     /// How many events the view lists.
     [[nodiscard]] virtual int eventCount() const { return 0; }
+
+    /// The part of the record that the user looks at, where a view has one.
+    [[nodiscard]] virtual std::optional<TimeSpan> shownSpan() const { return {}; }
 
 protected:
     DataView() = default;

@@ -1,0 +1,152 @@
+#include "export/ui/ExportOutlook.h"
+
+#include "app/Numeric.h"
+#include "export/ExportCsv.h"
+#include "export/KmlExportOptions.h"
+#include "export/KmlPath.h"
+
+#include <QLocale>
+#include <QMessageBox>
+#include <QStorageInfo>
+
+#include <algorithm>
+#include <limits>
+
+namespace ZARN {
+
+namespace {
+
+constexpr double kCsvTimeBytes = 12;        // "0:33:23.200;"
+constexpr double kKmlPointBytes = 34;       // a line of coordinates
+constexpr double kKmlPlacemarkBytes = 330;  // without its values
+constexpr double kKmlValueBytes = 140;      // without name and text
+constexpr std::size_t kTextsTried = 16;       // of a parameter
+
+/// How many bytes the texts of a parameter have in the mean.
+double meanText(const RecordChannel* pChannel, const ValueDecoder& decoder)
+{
+    if (!pChannel)
+        return 0.0;
+    const RecordEntries& entries = pChannel->entries;
+    CoordinateFilter filter; // our own: nobody's positions are to be disturbed
+    const std::size_t count = std::min(kTextsTried, entries.size());
+    std::string text;
+    for (std::size_t i = 0; i < count; ++i)
+        decoder.appendText(decoder.textValue(entries.stored(i * entries.size() / count).payload, filter), text);
+    return count > 0 ? static_cast<double>(text.size()) / static_cast<double>(count) : 0.0;
+}
+
+/// Calls with every channel that has a chosen parameter's samples: parameter, samples.
+template <typename Visitor> void forEachColumn(const RecordData& data, const Profile& profile, bool all, Visitor visit)
+{
+    for (const ProfileDevice& device : profile.data()) {
+        for (const ProfileParameter& parameter : device.parameters) {
+            if (all || profile.isSelected(parameter.name))
+                visit(parameter, data.channel(parameter.identifier()));
+        }
+    }
+}
+
+/// What channels have in a span of time: an upper bound of the steps in which there is a sample.
+class Extent {
+public:
+    explicit Extent(const std::optional<TimeSpan>& span) : mSpan(span) {}
+
+    void add(const RecordChannel* pChannel)
+    {
+        if (!pChannel || pChannel->entries.empty())
+            return;
+        const RecordEntries& entries = pChannel->entries;
+        const double first = entries.time(0), last = entries.time(entries.size() - 1);
+        const double from = mSpan ? std::max(first, mSpan->start) : first, to = mSpan ? std::min(last, mSpan->end) : last;
+        if (to < from)
+            return;
+        mFrom = std::min(mFrom, from);
+        mTo = std::max(mTo, to);
+        mSamples += static_cast<double>(entries.size()) * (last > first ? (to - from) / (last - first) : 1.0);
+    }
+    [[nodiscard]] double steps(double seconds) const { return mTo < mFrom ? 0.0 : std::min(mSamples, (mTo - mFrom) / seconds) + 1; }
+
+private:
+    std::optional<TimeSpan> mSpan;
+    double mFrom = std::numeric_limits<double>::max();
+    double mTo = std::numeric_limits<double>::lowest();
+    double mSamples = 0.0;
+};
+
+QString shown(uint64_t bytes)
+{
+    return QLocale().formattedDataSize(static_cast<qint64>(bytes), 1, QLocale::DataSizeSIFormat);
+}
+
+} // namespace
+
+ExportOutlook::ExportOutlook(const RecordData& data, const Profile& profile, const CsvExportOptions& options)
+{
+    Extent rows(options.span);
+    double line = kCsvTimeBytes;
+    int columns = 0;
+    forEachColumn(data, profile, options.allParameters, [&](const ProfileParameter& parameter, const RecordChannel* pChannel) {
+        ++columns;
+        rows.add(pChannel);
+        line += 1 + meanText(pChannel, profile.decoder(parameter));
+    });
+    mBytes = saturatingCast<uint64_t>(rows.steps(options.resolution / 1000.0) * line);
+    if (data.count() == 0)
+        mLack = tr("No data is loaded: the file will hold its header line alone. Choose a power cycle in the card browser first.");
+    else if (columns == 0)
+        mLack = tr("No parameter is ticked in the profile panel: the file will hold no values.");
+}
+
+ExportOutlook::ExportOutlook(const RecordData& data, const Profile& profile, const KmlExportOptions& options)
+{
+    Extent points(options.span);
+    for (const uint32_t identifier : {KmlPath::kLatitudeIdentifier, KmlPath::kLongitudeIdentifier, KmlPath::kAltitudeIdentifier})
+        points.add(data.channel(identifier));
+    double bytes = points.steps(options.timeStamp) * kKmlPointBytes;
+    bool isAnyChosen = false;
+    if (options.placeMarkOn) {
+        Extent placemarks(options.span);
+        double placemark = kKmlPlacemarkBytes;
+        forEachColumn(data, profile, false, [&](const ProfileParameter& parameter, const RecordChannel* pChannel) {
+            isAnyChosen = true;
+            placemarks.add(pChannel);
+            placemark += kKmlValueBytes + static_cast<double>(parameter.name.size()) + meanText(pChannel, profile.decoder(parameter));
+        });
+        bytes += placemarks.steps(static_cast<double>(options.timeStamp) * options.placeMarkInterval) * placemark;
+    }
+    mBytes = saturatingCast<uint64_t>(bytes);
+    if (data.count() == 0)
+        mLack = tr("No data is loaded: the file will hold no flight path. Choose a power cycle in the card browser first.");
+    else if (options.placeMarkOn && !isAnyChosen)
+        mLack = tr("No parameter is ticked in the profile panel: there will be no placemarks of values.");
+}
+
+QString ExportOutlook::note(int64_t free) const
+{
+    if (mBytes < kWorthSaying || !mLack.isEmpty())
+        return mLack;
+    return free < 0 ? tr("The file will have about %1.").arg(shown(mBytes))
+                    : tr("The file will have about %1; %2 are free in the folder.").arg(shown(mBytes), shown(static_cast<uint64_t>(free)));
+}
+
+bool ExportOutlook::mayWrite(int64_t free, QWidget* pWindow) const
+{
+    if (free < 0 || mBytes <= static_cast<uint64_t>(free))
+        return true;
+    QMessageBox box(QMessageBox::Warning, tr("ZARN Warning"),
+                    tr("The file will have about %1, and only %2 are free in the folder.\nTry it nevertheless ?")
+                        .arg(shown(mBytes), shown(static_cast<uint64_t>(free))),
+                    QMessageBox::Yes | QMessageBox::No, pWindow);
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
+}
+
+int64_t ExportOutlook::freeBytes(const QString& folder)
+{
+    const QStorageInfo storage(folder);
+    return storage.isValid() && storage.isReady() ? storage.bytesAvailable() : -1;
+}
+
+} // namespace ZARN
