@@ -43,7 +43,7 @@ void sayDamage(const CardContainer& container)
 
 bool hasSoundTimes(const RecordInfo& file)
 {
-    return file.samples == 0 || (file.endTime >= file.startTime && file.endTime <= FlightPath::kLatestTime);
+    return file.samples == 0 || (file.endTime >= file.startTime && file.endTime <= kLatestTime);
 }
 
 bool hasSoundTimes(const RecordCycle& cycle)

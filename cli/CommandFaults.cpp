@@ -32,18 +32,25 @@ int CommandFaults::runOnData()
     return print(mJson ? json() : tables());
 }
 
-std::vector<CommandFaults::Change> CommandFaults::changes(const FaultMatrix& matrix, EErrorType kind) const
+std::vector<FaultChange> CommandFaults::changes(const FaultMatrix& matrix, EErrorType kind) const
 {
     const FaultTimeline timeline(matrix, mContainer.recordData().channel(static_cast<uint32_t>(matrix.id)));
     const std::optional<TimeSpan> span = flightSpan();
-    std::vector<Change> found;
-    for (const FaultChange& change : timeline.changes(kind)) {
-        const auto time = static_cast<double>(change.time);
-        if (span && time < span->start)
-            found.assign(1, {span->start, change.on});
-        else if (!span || span->holds(time))
-            found.push_back({time, change.on});
+    if (!span)
+        return timeline.changes(kind);
+    // In the precision of the points themselves, so that one that made the flight's start lies in it.
+    const auto start = static_cast<float>(span->start);
+    const auto end = static_cast<float>(span->end);
+    std::optional<FaultChange> before;
+    std::vector<FaultChange> found;
+    for (const FaultChange& change : timeline.changes(kind)) { // times may go backwards
+        if (change.time < start)
+            before = FaultChange{start, change.on};
+        else if (change.time <= end)
+            found.push_back(change);
     }
+    if (before)
+        found.insert(found.begin(), *before);
     return found;
 }
 
@@ -64,8 +71,8 @@ void CommandFaults::write(JsonWriter& writer, const FaultMatrix& matrix) const
     writer.endArray();
     for (const Kind& kind : kKinds) {
         writer.key(kind.key).beginArray();
-        for (const Change& change : changes(matrix, kind.type))
-            writer.beginArray().value(change.time).value(change.on).endArray();
+        for (const FaultChange& change : changes(matrix, kind.type))
+            writer.beginArray().value(static_cast<double>(change.time)).value(change.on).endArray();
         writer.endArray();
     }
     writer.endObject();
@@ -99,7 +106,7 @@ std::string CommandFaults::table(const FaultMatrix& matrix) const
     return presences.empty() ? "  no fault\n" : table.text();
 }
 
-void CommandFaults::addPresences(const std::vector<Change>& points, Presence presence, std::vector<Presence>& presences) const
+void CommandFaults::addPresences(const std::vector<FaultChange>& points, Presence presence, std::vector<Presence>& presences) const
 {
     const std::optional<TimeSpan> span = flightSpan();
     for (std::size_t i = 0; i < points.size(); ++i) {
@@ -108,8 +115,8 @@ void CommandFaults::addPresences(const std::vector<Change>& points, Presence pre
         const bool isLast = i + 1 == points.size();
         if (isLast && (!span || (i > 0 && points[i - 1].on))) // the recording's end
             continue;
-        presence.from = points[i].time;
-        presence.to = isLast ? span->end : points[i + 1].time;
+        presence.from = static_cast<double>(points[i].time);
+        presence.to = isLast ? span->end : static_cast<double>(points[i + 1].time);
         presences.push_back(presence);
     }
 }

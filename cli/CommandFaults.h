@@ -14,11 +14,6 @@ public:
 
 private:
     int runOnData() override;
-    /// From a time on, in seconds since power-up, something is present or absent.
-    struct Change {
-        double time;
-        bool on;
-    };
     /// The time for which one fault was present.
     struct Presence {
         double from; // seconds since power-up
@@ -27,12 +22,12 @@ private:
         std::string name;
     };
     /// The change points of one kind in a matrix that lie in the flight, if one was asked for, and the state at its start.
-    [[nodiscard]] std::vector<Change> changes(const FaultMatrix& matrix, EErrorType kind) const;
+    [[nodiscard]] std::vector<FaultChange> changes(const FaultMatrix& matrix, EErrorType kind) const;
     [[nodiscard]] std::string json() const;
     [[nodiscard]] std::string tables() const;
     void write(JsonWriter& writer, const FaultMatrix& matrix) const;
     [[nodiscard]] std::string table(const FaultMatrix& matrix) const;
-    void addPresences(const std::vector<Change>& points, Presence presence, std::vector<Presence>& presences) const;
+    void addPresences(const std::vector<FaultChange>& points, Presence presence, std::vector<Presence>& presences) const;
 };
 
 } // namespace ZARN

@@ -56,7 +56,7 @@ std::string CommandSummary::cycleText(uint32_t number)
 {
     const RecordCycle& cycle = mContainer.recordCycles().at(number);
     std::string text = "Cycle " + std::to_string(number) + ", " + tableDate(cycle.dateTime) + ", " +
-                       (hasSoundTimes(cycle) ? minutes(mContainer.endTime() - mContainer.startTime()) + " recorded\n" : "damaged, length unknown\n");
+                       lengthText(cycle) + "\n";
     if (cycle.flights.empty())
         text += "  No flight\n";
     for (std::size_t i = 0; i < cycle.flights.size(); ++i)
@@ -65,6 +65,13 @@ std::string CommandSummary::cycleText(uint32_t number)
     text += eventsText(limitEvents(data, mProfile), "Limit passed", "Warning");
     text += eventsText(warningEvents(data, mProfile), "Lamp red", "Lamp yellow");
     return text + faultsText();
+}
+
+std::string CommandSummary::lengthText(const RecordCycle& cycle) const
+{
+    if (mContainer.recordData().count() == 0)
+        return "no record";
+    return hasSoundTimes(cycle) ? minutes(mContainer.endTime() - mContainer.startTime()) + " recorded" : "damaged, length unknown";
 }
 
 std::string CommandSummary::flightText(const RecordFlight& flight, std::size_t number)

@@ -13,6 +13,7 @@ public:
 private:
     int runOnCard() override;
     [[nodiscard]] std::string cycleText(uint32_t number);
+    [[nodiscard]] std::string lengthText(const RecordCycle& cycle) const;
     [[nodiscard]] static std::string flightText(const RecordFlight& flight, std::size_t number);
     [[nodiscard]] static std::string eventsText(const EventList& list, const char* worst, const char* lesser);
     [[nodiscard]] std::string faultsText() const;
