@@ -17,7 +17,7 @@ struct RecordCycle {
     std::vector<RecordFlight> flights;
 
     /// Whether its length is known: no file's header is damaged.
-    [[nodiscard]] bool hasSoundTimes() const { return std::all_of(files.begin(), files.end(), [](const auto& file) { return file.hasSoundTimes(); }); }
+    [[nodiscard]] bool hasSoundTimes() const { return std::ranges::all_of(files, &RecordInfo::hasSoundTimes); }
 };
 
 } // namespace ZARN

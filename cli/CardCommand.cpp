@@ -41,16 +41,6 @@ void sayDamage(const CardContainer& container)
     }
 }
 
-bool hasSoundTimes(const RecordInfo& file)
-{
-    return file.samples == 0 || (file.endTime >= file.startTime && file.endTime <= kLatestTime);
-}
-
-bool hasSoundTimes(const RecordCycle& cycle)
-{
-    return std::ranges::all_of(cycle.files, [](const RecordInfo& file) { return hasSoundTimes(file); });
-}
-
 std::string folderProblem(const std::string& path)
 {
     struct stat status = {};

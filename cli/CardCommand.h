@@ -8,9 +8,6 @@ namespace ZARN {
 [[nodiscard]] std::string systemProblem(const CardContainer& container);
 /// Names what is damaged on a card, a line each.
 void sayDamage(const CardContainer& container);
-/// Whether the spans that the headers tell can be; else they are damaged, and the length of a recording is not known.
-[[nodiscard]] bool hasSoundTimes(const RecordInfo& file);
-[[nodiscard]] bool hasSoundTimes(const RecordCycle& cycle);
 /// Why a path cannot be listed as a card folder.
 [[nodiscard]] std::string folderProblem(const std::string& path);
 

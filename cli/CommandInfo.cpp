@@ -116,9 +116,10 @@ std::string CommandInfo::tables(const CardContainer& container) const
     TextTable cycles({"Cycle", "Date", "Ends at [h:m:s]", "Files"});
     for (const auto& [number, cycle] : container.recordCycles()) {
         if (isWanted(cycle))
-            cycles.addRow({std::to_string(number), tableDate(cycle.dateTime), hasSoundTimes(cycle) ? tableTime(cycle.endTime) : "damaged", std::to_string(cycle.files.size())});
+            cycles.addRow({std::to_string(number), tableDate(cycle.dateTime), cycle.hasSoundTimes() ? tableTime(cycle.endTime) : "damaged",
+                           std::to_string(cycle.files.size())});
     }
-    const auto time = [](const RecordInfo& info, double seconds) { return hasSoundTimes(info) ? tableTime(seconds) : "damaged"; };
+    const auto time = [](const RecordInfo& info, double seconds) { return info.hasSoundTimes() ? tableTime(seconds) : "damaged"; };
     TextTable files({"File", "Date", "From [h:m:s]", "To [h:m:s]", "Samples", "ECU", "Serial", "Engine", "Software A", "Software B"});
     for (const auto& [name, info] : container.recordFiles()) {
         if (isWanted(name))

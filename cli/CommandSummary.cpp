@@ -71,7 +71,7 @@ std::string CommandSummary::lengthText(const RecordCycle& cycle) const
 {
     if (mContainer.recordData().count() == 0)
         return "no record";
-    return hasSoundTimes(cycle) ? minutes(mContainer.endTime() - mContainer.startTime()) + " recorded" : "damaged, length unknown";
+    return cycle.hasSoundTimes() ? minutes(mContainer.endTime() - mContainer.startTime()) + " recorded" : "damaged, length unknown";
 }
 
 std::string CommandSummary::flightText(const RecordFlight& flight, std::size_t number)

@@ -33,6 +33,7 @@
 #include <QComboBox>
 #include <QFileInfo>
 #include <QFileOpenEvent>
+#include <QLabel>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QProgressBar>

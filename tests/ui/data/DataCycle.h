@@ -17,7 +17,7 @@ struct DataCycle : TestCycle {
     void load(bool dated = true)
     {
         if (dated)
-            mRecords.dateTime(QDateTime(QDate(2024, 2, 1), QTime(8, 0, 0), Qt::UTC));
+            mRecords.dateTime(QDateTime(QDate(2024, 2, 1), QTime(8, 0, 10), Qt::UTC));
         container.readContainer(card.write());
         container.loadCycle(container.recordCycles().begin()->first, -1);
     }

@@ -6,6 +6,7 @@
 #include "ui/data/DialogDataStatistic.h"
 #include "ui/data/DialogDataTable.h"
 #include "ui/data/ReplayButton.h"
+#include "ui/data/RowTable.h"
 #include "ui/data/TimeEntry.h"
 #include "ui/data/WidgetReplayBar.h"
 
@@ -531,7 +532,7 @@ void TestDialogData::realViews()
     QCOMPARE(pLimits->eventCount(), 1);
     Q_EMIT pLimits->signalTime(40.0);
     QCOMPARE(area.viewTime(), 40.0);
-    auto* pTable = area.findChild<DialogDataTable*>()->findChild<QAbstractItemView*>();
+    auto* pTable = area.findChild<RowTable*>();
     QCOMPARE(pTable->currentIndex().row(), 30);
     pTable->setCurrentIndex(pTable->model()->index(2, 0));
     QCOMPARE(area.viewTime(), 12.0);

@@ -231,6 +231,7 @@ void TestDialogMain::copyKey()
     DesktopFixture desktop(home());
     DialogMain& window = desktop.open();
     started(window);
+    window.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&window));
     QVERIFY(!qobject_cast<QLineEdit*>(QApplication::focusWidget()));
     const auto opens = [&window](QWidget* pFocus) {
