@@ -236,7 +236,7 @@ void TestGraphInteraction::dragsStrips()
     hand.setLayout(layoutOf(model));
     model.moveCursor(30, 0.5, 2);
     for (const auto& [key, strip] : {std::pair(Qt::Key_Down, 4), std::pair(Qt::Key_Up, 2)}) {
-        for (int step = 0; step < 20; ++step)
+        for (int step = 0; step < 15; ++step)
             hand.keyPressed(key, Qt::ShiftModifier);
         QCOMPARE(model.cursorIndex(), strip);
         const GraphLayout frame = layoutOf(model);
