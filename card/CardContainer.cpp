@@ -311,6 +311,16 @@ void CardContainer::calcFlightPath()
         mFlightPath.crop(mStartTime, mEndTime);
 }
 
+int CardContainer::selectedFlightNumber() const
+{
+    const RecordCycle* pCycle = loadedCycle();
+    if (!pCycle || !mFlightIsSelected)
+        return 0;
+    const auto isIt = [this](const RecordFlight& flight) { return flight.takeOffTime == mSelectedFlight.takeOffTime; };
+    const auto found = std::find_if(pCycle->flights.begin(), pCycle->flights.end(), isIt);
+    return found == pCycle->flights.end() ? 0 : static_cast<int>(found - pCycle->flights.begin()) + 1;
+}
+
 const RecordCycle* CardContainer::loadedCycle() const
 {
     return mLoadedCycle ? &mCycles.at(*mLoadedCycle) : nullptr;

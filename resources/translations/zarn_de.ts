@@ -38,6 +38,26 @@
         <source>Search the text; Return for the next place</source>
         <translation>Text suchen; Eingabetaste für die nächste Stelle</translation>
     </message>
+    <message>
+        <source>Commands of the main window</source>
+        <translation>Befehle des Hauptfensters</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Taste</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Befehl</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Handbuch</translation>
+    </message>
+    <message>
+        <source>Search the text</source>
+        <translation>Text durchsuchen</translation>
+    </message>
 </context>
 <context>
     <name>DialogProfileInfo</name>
@@ -144,6 +164,26 @@
     </message>
 </context>
 <context>
+    <name>ZARN::Application</name>
+    <message>
+        <source>ZARN Warning</source>
+        <translation>ZARN Warnung</translation>
+    </message>
+    <message>
+        <source>The memory is not enough: ZARN ends.
+Settings are kept.</source>
+        <translation>Der Arbeitsspeicher reicht nicht: ZARN wird beendet.
+Die Einstellungen bleiben erhalten.</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::CardContainer</name>
+    <message>
+        <source>it cannot be listed to its end: %1</source>
+        <translation>er kann nicht bis zum Ende aufgelistet werden: %1</translation>
+    </message>
+</context>
+<context>
     <name>ZARN::CardController</name>
     <message>
         <source>Open SD Card</source>
@@ -173,23 +213,20 @@
         <source>ZARN Warning</source>
         <translation>ZARN Warnung</translation>
     </message>
-    <message numerus="yes">
-        <source>%n record file(s) of the card could not be read:</source>
-        <translation>
-            <numerusform>%n Aufzeichnungsdatei der Karte konnte nicht gelesen werden:</numerusform>
-            <numerusform>%n Aufzeichnungsdateien der Karte konnten nicht gelesen werden:</numerusform>
-        </translation>
+    <message>
+        <source>The folder</source>
+        <translation>Der Ordner</translation>
     </message>
     <message numerus="yes">
-        <source>... and %n more</source>
+        <source>... and %n more; all are marked under &quot;Raw Data&quot;</source>
         <translation>
-            <numerusform>... und %n weitere</numerusform>
-            <numerusform>... und %n weitere</numerusform>
+            <numerusform>... und %n weitere; alle sind unter „Rohdaten“ gekennzeichnet</numerusform>
+            <numerusform>... und %n weitere; alle sind unter „Rohdaten“ gekennzeichnet</numerusform>
         </translation>
     </message>
     <message>
-        <source>the file is too short</source>
-        <translation>die Datei ist zu kurz</translation>
+        <source>Not everything on this card could be read:</source>
+        <translation>Nicht alles auf dieser Karte konnte gelesen werden:</translation>
     </message>
 </context>
 <context>
@@ -295,6 +332,10 @@
         <source>Raw Data</source>
         <translation>Rohdaten</translation>
     </message>
+    <message>
+        <source>Lists of the card</source>
+        <translation>Listen der Karte</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::DialogData</name>
@@ -367,6 +408,10 @@
         <source>Only the first %1 of %2 events are listed.</source>
         <translation>Nur die ersten %1 von %2 Ereignissen sind aufgeführt.</translation>
     </message>
+    <message>
+        <source>Outside of the selected flight</source>
+        <translation>Außerhalb des gewählten Flugs</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::DialogDataGraph</name>
@@ -433,6 +478,18 @@ Im Profilfeld die gewünschten Parameter ankreuzen.</translation>
 Tick a parameter in the profile panel, or choose another power cycle or flight, to fill it again.</source>
         <translation>Der Graph wurde geleert.
 Kreuzen Sie im Profilfeld einen Parameter an oder wählen Sie einen anderen Zyklus oder Flug, um ihn wieder zu füllen.</translation>
+    </message>
+    <message>
+        <source>No record is loaded.</source>
+        <translation>Es ist keine Aufzeichnung geladen.</translation>
+    </message>
+    <message>
+        <source>No parameter is selected.</source>
+        <translation>Es ist kein Parameter ausgewählt.</translation>
+    </message>
+    <message>
+        <source>The graph was cleared.</source>
+        <translation>Der Graph wurde geleert.</translation>
     </message>
 </context>
 <context>
@@ -530,6 +587,10 @@ Kreuzen Sie im Profilfeld einen Parameter an oder wählen Sie einen anderen Zykl
         <source>No parameters are shown. Tick the ones to see in the profile panel.</source>
         <translation>Es werden keine Parameter gezeigt. Im Profilfeld die gewünschten ankreuzen.</translation>
     </message>
+    <message>
+        <source>Newest values</source>
+        <translation>Neueste Werte</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::DialogDataWarning</name>
@@ -540,6 +601,10 @@ Kreuzen Sie im Profilfeld einen Parameter an oder wählen Sie einen anderen Zykl
     <message>
         <source>No warning lamp lit up.</source>
         <translation>Keine Warnlampe leuchtete.</translation>
+    </message>
+    <message>
+        <source>Lamp state %1</source>
+        <translation>Lampenzustand %1</translation>
     </message>
 </context>
 <context>
@@ -594,14 +659,6 @@ Kreuzen Sie im Profilfeld einen Parameter an oder wählen Sie einen anderen Zykl
     <message>
         <source>Parameter Selection</source>
         <translation>Parameterauswahl</translation>
-    </message>
-    <message>
-        <source>No data is loaded: the file will hold its header line alone. Choose a power cycle in the card browser first.</source>
-        <translation>Keine Daten geladen: Die Datei wird nur die Kopfzeile enthalten. Zuerst im Kartenfeld einen Einschaltzyklus wählen.</translation>
-    </message>
-    <message>
-        <source>No parameter is ticked in the profile panel: the file will hold no values.</source>
-        <translation>Im Profilfeld ist kein Parameter angekreuzt: Die Datei wird keine Werte enthalten.</translation>
     </message>
 </context>
 <context>
@@ -817,6 +874,22 @@ Kreuzen Sie im Profilfeld einen Parameter an oder wählen Sie einen anderen Zykl
         <source>This is not a number: the scale stays as it was.</source>
         <translation>Das ist keine Zahl: die Skala bleibt, wie sie war.</translation>
     </message>
+    <message>
+        <source>Click :</source>
+        <translation>Klick :</translation>
+    </message>
+    <message>
+        <source>Trace Color :</source>
+        <translation>Kurvenfarbe :</translation>
+    </message>
+    <message>
+        <source>Moves the cursor</source>
+        <translation>Setzt den Cursor</translation>
+    </message>
+    <message>
+        <source>Otherwise a click makes the marker a point. Dragging marks either way.</source>
+        <translation>Sonst macht ein Klick den Marker zu einem Punkt. Ziehen markiert in jedem Fall.</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::DialogMain</name>
@@ -976,6 +1049,40 @@ Kreuzen Sie im Profilfeld einen Parameter an oder wählen Sie einen anderen Zykl
         <source>Write Flight Report as PDF File</source>
         <translation>Flugbericht als PDF-Datei schreiben</translation>
     </message>
+    <message>
+        <source>Units</source>
+        <translation>Einheiten</translation>
+    </message>
+    <message>
+        <source>Settings cannot be saved</source>
+        <translation>Einstellungen nicht speicherbar</translation>
+    </message>
+    <message>
+        <source>Settings unreadable: defaults are in force</source>
+        <translation>Einstellungen nicht lesbar: es gelten die Grundeinstellungen</translation>
+    </message>
+    <message>
+        <source>Project cannot be saved</source>
+        <translation>Projekt nicht speicherbar</translation>
+    </message>
+    <message>
+        <source>No profile</source>
+        <translation>Kein Profil</translation>
+    </message>
+    <message>
+        <source>Another profile is in force</source>
+        <translation>Ein anderes Profil gilt</translation>
+    </message>
+    <message>
+        <source>Project unreadable</source>
+        <translation>Projekt nicht lesbar</translation>
+    </message>
+    <message>
+        <source>The settings could not be saved:
+%1</source>
+        <translation>Die Einstellungen konnten nicht gespeichert werden:
+%1</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::DialogPreferences</name>
@@ -1058,6 +1165,18 @@ Kreuzen Sie im Profilfeld einen Parameter an oder wählen Sie einen anderen Zykl
     <message>
         <source>The setting &quot;TileServer&quot; is no address of map tiles.</source>
         <translation>Die Einstellung „TileServer“ ist keine Adresse für Kartenkacheln.</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>ZARN Warning</source>
+        <translation>ZARN Warnung</translation>
+    </message>
+    <message>
+        <source>Not a valid ZARN profile !</source>
+        <translation>Kein gültiges ZARN-Profil !</translation>
     </message>
 </context>
 <context>
@@ -1149,6 +1268,79 @@ Kreuzen Sie im Profilfeld einen Parameter an oder wählen Sie einen anderen Zykl
         <source>Writing the flight report failed !</source>
         <translation>Schreiben des Flugberichts fehlgeschlagen !</translation>
     </message>
+    <message>
+        <source>No data of this card is loaded.</source>
+        <translation>Von dieser Karte sind keine Daten geladen.</translation>
+    </message>
+    <message>
+        <source>Choose a power cycle in the card browser first.</source>
+        <translation>Zuerst im Kartenfeld einen Einschaltzyklus wählen.</translation>
+    </message>
+    <message>
+        <source>%1 cycle %2 flight %3</source>
+        <translation>%1 Zyklus %2 Flug %3</translation>
+    </message>
+    <message>
+        <source>%1 cycle %2</source>
+        <translation>%1 Zyklus %2</translation>
+    </message>
+    <message>
+        <source>Everything that is loaded</source>
+        <translation>Alles, was geladen ist</translation>
+    </message>
+    <message>
+        <source>Flight %1</source>
+        <translation>Flug %1</translation>
+    </message>
+    <message>
+        <source>What the graph shows, %1 to %2</source>
+        <translation>Was der Graph zeigt, %1 bis %2</translation>
+    </message>
+    <message>
+        <source>%1 from %2</source>
+        <translation>%1 ab %2</translation>
+    </message>
+    <message>
+        <source>No position was recorded: the KML file holds no flight path.</source>
+        <translation>Es wurde keine Position aufgezeichnet: Die KML-Datei enthält keinen Flugweg.</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::ExportOutlook</name>
+    <message>
+        <source>No data is loaded: the file will hold its header line alone. Choose a power cycle in the card browser first.</source>
+        <translation>Keine Daten geladen: Die Datei wird nur die Kopfzeile enthalten. Zuerst im Kartenfeld einen Einschaltzyklus wählen.</translation>
+    </message>
+    <message>
+        <source>No parameter is ticked in the profile panel: the file will hold no values.</source>
+        <translation>Im Profilfeld ist kein Parameter angekreuzt: Die Datei wird keine Werte enthalten.</translation>
+    </message>
+    <message>
+        <source>No data is loaded: the file will hold no flight path. Choose a power cycle in the card browser first.</source>
+        <translation>Keine Daten geladen: Die Datei wird keinen Flugweg enthalten. Zuerst im Kartenfeld einen Einschaltzyklus wählen.</translation>
+    </message>
+    <message>
+        <source>No parameter is ticked in the profile panel: there will be no placemarks of values.</source>
+        <translation>Im Profilfeld ist kein Parameter angekreuzt: Es wird keine Ortsmarken mit Werten geben.</translation>
+    </message>
+    <message>
+        <source>The file will have about %1.</source>
+        <translation>Die Datei wird etwa %1 groß.</translation>
+    </message>
+    <message>
+        <source>The file will have about %1; %2 are free in the folder.</source>
+        <translation>Die Datei wird etwa %1 groß; im Ordner sind %2 frei.</translation>
+    </message>
+    <message>
+        <source>ZARN Warning</source>
+        <translation>ZARN Warnung</translation>
+    </message>
+    <message>
+        <source>The file will have about %1, and only %2 are free in the folder.
+Try it nevertheless ?</source>
+        <translation>Die Datei wird etwa %1 groß, und im Ordner sind nur %2 frei.
+Trotzdem versuchen?</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::ExportPathPage</name>
@@ -1177,6 +1369,14 @@ Kreuzen Sie im Profilfeld einen Parameter an oder wählen Sie einen anderen Zykl
 Replace it ?</source>
         <translation>%1 ist schon vorhanden.
 Ersetzen ?</translation>
+    </message>
+    <message>
+        <source>Output directory</source>
+        <translation>Ausgabeordner</translation>
+    </message>
+    <message>
+        <source>Range</source>
+        <translation>Bereich</translation>
     </message>
 </context>
 <context>
@@ -1211,6 +1411,10 @@ Ersetzen ?</translation>
     <message>
         <source>Nothing can be written to the folder %1: %2</source>
         <translation>In den Ordner %1 kann nichts geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>%1 is a recording of this card and is not replaced.</source>
+        <translation>%1 ist eine Aufzeichnung dieser Karte und wird nicht ersetzt.</translation>
     </message>
 </context>
 <context>
@@ -1396,14 +1600,6 @@ Ersetzen ?</translation>
         <translation>Kraftstoff, gesamt</translation>
     </message>
     <message>
-        <source>Take-off distance [m]</source>
-        <translation>Startrollstrecke [m]</translation>
-    </message>
-    <message>
-        <source>Take-off distance, 15 m [m]</source>
-        <translation>Startstrecke, 15 m [m]</translation>
-    </message>
-    <message>
         <source>Time</source>
         <translation>Zeit</translation>
     </message>
@@ -1495,10 +1691,6 @@ Ersetzen ?</translation>
         <translation>Keine Position wurde aufgezeichnet.</translation>
     </message>
     <message>
-        <source>Green: begin. Black: end. Orange: exceeded limits. Grey lines: degrees and minutes.</source>
-        <translation>Grün: Anfang. Schwarz: Ende. Orange: überschrittene Grenzwerte. Graue Linien: Grade und Minuten.</translation>
-    </message>
-    <message>
         <source>Engine unit</source>
         <translation>Motorüberwachung</translation>
     </message>
@@ -1506,24 +1698,32 @@ Ersetzen ?</translation>
         <source>Variant</source>
         <translation>Variante</translation>
     </message>
-    <message>
-        <source>Time for 100 %1 of climb</source>
-        <translation>Zeit für 100 %1 Steighöhe</translation>
-    </message>
-    <message>
-        <source>Fuel for 100 %1 of climb</source>
-        <translation>Kraftstoff für 100 %1 Steighöhe</translation>
-    </message>
-    <message>
-        <source>not found</source>
-        <translation>nicht gefunden</translation>
-    </message>
     <message numerus="yes">
         <source>Not shown: %n more that exceeded a limit</source>
         <translation>
             <numerusform>Nicht gezeigt: %n weiterer, der einen Grenzwert überschritt</numerusform>
             <numerusform>Nicht gezeigt: %n weitere, die einen Grenzwert überschritten</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Time for 100 m of climb</source>
+        <translation>Zeit für 100 m Steighöhe</translation>
+    </message>
+    <message>
+        <source>Fuel for 100 m of climb</source>
+        <translation>Kraftstoff für 100 m Steighöhe</translation>
+    </message>
+    <message>
+        <source>Take-off distance</source>
+        <translation>Startrollstrecke</translation>
+    </message>
+    <message>
+        <source>Take-off distance, 15 m</source>
+        <translation>Startstrecke, 15 m</translation>
+    </message>
+    <message>
+        <source>Green: begin. Black: end. Orange: exceeded limits, how many at a place. Grey lines: degrees and minutes.</source>
+        <translation>Grün: Anfang. Schwarz: Ende. Orange: überschrittene Grenzwerte, wie viele an einer Stelle. Graue Linien: Grade und Minuten.</translation>
     </message>
 </context>
 <context>
@@ -1623,6 +1823,13 @@ Ersetzen ?</translation>
     </message>
 </context>
 <context>
+    <name>ZARN::MapAttribution</name>
+    <message>
+        <source>Sources of the map</source>
+        <translation>Quellen der Karte</translation>
+    </message>
+</context>
+<context>
     <name>ZARN::MapConsentBar</name>
     <message>
         <source>Load map tiles</source>
@@ -1642,6 +1849,10 @@ Ersetzen ?</translation>
     <message>
         <source>Center AC</source>
         <translation>Flugzeug zentrieren</translation>
+    </message>
+    <message>
+        <source>Show values</source>
+        <translation>Werte zeigen</translation>
     </message>
 </context>
 <context>
@@ -1689,6 +1900,45 @@ Ersetzen ?</translation>
     <message>
         <source>Unit of integral</source>
         <translation>Einheit des Integrals</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::Notices</name>
+    <message>
+        <source>ZARN Warning</source>
+        <translation>ZARN Warnung</translation>
+    </message>
+    <message>
+        <source>A file that could not be read was put aside, as a new one takes its place:
+%1</source>
+        <translation>Eine Datei, die nicht gelesen werden konnte, wurde beiseitegelegt, weil eine neue an ihre Stelle tritt:
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::ProfileController</name>
+    <message>
+        <source>There is no profile that could be read: nothing of a recording can be decoded.</source>
+        <translation>Es gibt kein Profil, das gelesen werden konnte: Von einer Aufzeichnung kann nichts entschlüsselt werden.</translation>
+    </message>
+    <message>
+        <source>The profile &quot;%1&quot; of the settings is missing or damaged. In its place is in force: %2</source>
+        <translation>Das Profil „%1“ der Einstellungen fehlt oder ist beschädigt. An seiner Stelle gilt: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::ProfileProblem</name>
+    <message>
+        <source>The file %1 is not there, or cannot be read.</source>
+        <translation>Die Datei %1 ist nicht da oder nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>The file %1 is damaged: it is no well-formed XML.</source>
+        <translation>Die Datei %1 ist beschädigt: Sie ist kein wohlgeformtes XML.</translation>
+    </message>
+    <message>
+        <source>The file %1 is no profile: its first element is another one than &lt;CanAerospaceProfile&gt;.</source>
+        <translation>Die Datei %1 ist kein Profil: Ihr erstes Element ist ein anderes als &lt;CanAerospaceProfile&gt;.</translation>
     </message>
 </context>
 <context>
@@ -1746,12 +1996,65 @@ Jetzt speichern ?</translation>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
     </message>
+    <message>
+        <source>The project could not be saved:
+%1</source>
+        <translation>Das Projekt konnte nicht gespeichert werden:
+%1</translation>
+    </message>
+    <message>
+        <source>Quit without saving</source>
+        <translation>Beenden ohne zu speichern</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>Ok</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::RecentFolders</name>
     <message>
         <source>No folder opened yet</source>
         <translation>Noch kein Ordner geöffnet</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::RecordFile</name>
+    <message>
+        <source>it cannot be read: %1</source>
+        <translation>sie kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>%1 bytes, no record</source>
+        <translation>%1 Bytes, kein Datensatz</translation>
+    </message>
+    <message>
+        <source>the header is damaged: no byte-order mark</source>
+        <translation>der Dateikopf ist beschädigt: keine Markierung der Byte-Reihenfolge</translation>
+    </message>
+    <message>
+        <source>the last record is cut off</source>
+        <translation>der letzte Datensatz ist abgeschnitten</translation>
+    </message>
+    <message>
+        <source>damaged: its records end (%1 s) before they begin (%2 s)</source>
+        <translation>beschädigt: die Aufzeichnung endet (%1 s), bevor sie beginnt (%2 s)</translation>
+    </message>
+    <message>
+        <source>damaged: its records end at %1 s</source>
+        <translation>beschädigt: die Aufzeichnung endet bei %1 s</translation>
+    </message>
+    <message>
+        <source>%1 of %2 records are left since the card was opened</source>
+        <translation>seit dem Öffnen der Karte sind nur noch %1 von %2 Datensätzen da</translation>
+    </message>
+    <message>
+        <source>it became shorter while it was read</source>
+        <translation>sie wurde beim Lesen kürzer</translation>
+    </message>
+    <message>
+        <source>only %1 of %2 records could be read</source>
+        <translation>nur %1 von %2 Datensätzen konnten gelesen werden</translation>
     </message>
 </context>
 <context>
@@ -1808,10 +2111,35 @@ Jetzt speichern ?</translation>
     </message>
 </context>
 <context>
+    <name>ZARN::TraceColourRow</name>
+    <message>
+        <source>Select</source>
+        <translation>Wählen</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Trace whose color is set</source>
+        <translation>Kurve, deren Farbe gesetzt wird</translation>
+    </message>
+    <message>
+        <source>Color of the trace</source>
+        <translation>Farbe der Kurve</translation>
+    </message>
+    <message>
+        <source>Back to the color that the trace has by itself</source>
+        <translation>Zurück zur Farbe, die die Kurve von selbst hat</translation>
+    </message>
+</context>
+<context>
     <name>ZARN::WidgetErrorTime</name>
     <message>
-        <source>Bits that were set over time. From top to bottom: Info, Warning, Fault</source>
-        <translation>Über die Zeit gesetzte Bits. Von oben nach unten: Info, Warnung, Fehler</translation>
+        <source>Bits that were set over time. From top to bottom: Info, Warning, Fault.
+A click goes to the time.</source>
+        <translation>Über die Zeit gesetzte Bits. Von oben nach unten: Info, Warnung, Fehler.
+Ein Klick geht zu dem Zeitpunkt.</translation>
     </message>
 </context>
 <context>
@@ -1819,6 +2147,14 @@ Jetzt speichern ?</translation>
     <message>
         <source>The setting &quot;TileServer&quot; is no address of map tiles</source>
         <translation>Die Einstellung „TileServer“ ist keine Adresse für Kartenkacheln</translation>
+    </message>
+    <message>
+        <source>Map of the flight</source>
+        <translation>Karte des Fluges</translation>
+    </message>
+    <message>
+        <source>No position recorded</source>
+        <translation>Keine Position aufgezeichnet</translation>
     </message>
 </context>
 <context>
@@ -1859,6 +2195,10 @@ Jetzt speichern ?</translation>
         <source>Replay Start</source>
         <translation>Wiedergabe Start</translation>
     </message>
+    <message>
+        <source>Time since the unit&apos;s power-up. 15:30 and 1530 are 15 minutes and 30 seconds, 1:15:30 is an hour later.</source>
+        <translation>Zeit seit dem Einschalten des Geräts. 15:30 und 1530 sind 15 Minuten und 30 Sekunden, 1:15:30 ist eine Stunde später.</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::WidgetWelcome</name>
@@ -1885,6 +2225,14 @@ Jetzt speichern ?</translation>
     <message>
         <source>Open the folder of a memory card, or drop it here. Without a card at hand the demo card shows an hour with two tows.</source>
         <translation>Öffnen Sie den Ordner einer Speicherkarte oder ziehen Sie ihn hierher. Ist keine Karte zur Hand, zeigt die Demokarte eine Stunde mit zwei Schlepps.</translation>
+    </message>
+    <message>
+        <source>No records</source>
+        <translation>Keine Aufzeichnung</translation>
+    </message>
+    <message>
+        <source>What was chosen in the list on the left is empty: the unit was switched on, but recorded nothing. Choose another entry.</source>
+        <translation>Was in der Liste links gewählt wurde, ist leer: Das Gerät war eingeschaltet, hat aber nichts aufgezeichnet. Wählen Sie einen anderen Eintrag.</translation>
     </message>
 </context>
 <context>

@@ -15,7 +15,7 @@ import unittest
 import xml.etree.ElementTree as ElementTree
 
 LUPDATE, ROOT = sys.argv[1:3]
-FOLDERS = ['app', 'profile', 'ui', 'export', 'report', 'openstreet']
+FOLDERS = ['app', 'card', 'profile', 'ui', 'export', 'report', 'openstreet']
 MARK = re.compile(r'%(?:\d|n)|\(\*[^)]*\)|</?\w+')
 
 
