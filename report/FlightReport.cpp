@@ -2,9 +2,12 @@
 
 #include "analysis/LimitEvents.h"
 #include "analysis/WarningEvents.h"
+#include "app/Numeric.h"
 #include "app/Revision.h"
 #include "app/SafeFile.h"
+#include "card/CardContainer.h"
 #include "card/FlightFigures.h"
+#include "card/PowerUp.h"
 #include "report/ReportFaults.h"
 #include "report/ReportGraph.h"
 #include "report/ReportMap.h"
@@ -99,13 +102,12 @@ QString FlightReport::footer() const
 
 void FlightReport::writeHead(ReportPages& pages) const
 {
-    const RecordCycle* pCycle = mContainer.loadedCycle();
     int number = 0;
     const auto chosen = flights(number);
     const bool isFlight = mContainer.selectedFlight().valid && !chosen.empty();
     const QString cycle = mContainer.loadedCycleNumber() ? QString::number(*mContainer.loadedCycleNumber()) : tr("single files");
     pages.pairs({{tr("Card"), mContainer.name()},
-                 {tr("Date, as recorded"), date(pCycle ? pCycle->dateTime : mContainer.dateTime(), tr("no clock"))},
+                 {tr("Date, as recorded"), date(PowerUp::ofLoaded(mContainer), tr("no clock"))},
                  {tr("Power cycle"), isFlight ? tr("%1, flight %2").arg(cycle, QString::number(number)) : cycle},
                  {tr("From"), CardContainer::time(mContainer.startTime())},
                  {tr("Profile"), text(mProfile.model().name)},
@@ -177,8 +179,9 @@ void FlightReport::writeFigures(ReportPages& pages, const std::vector<RecordFlig
                                           tr("Take-off distance"),
                                           tr("Take-off distance, 15 m")};
     columns.front().cells.append(QStringList(std::begin(labels), std::end(labels)));
+    const QDateTime powerUp = PowerUp::ofLoaded(mContainer);
     for (const RecordFlight& flight : flights) {
-        QStringList cells{date(flight.dateTime, tr("no clock")), CardContainer::time(flight.takeOffTime),
+        QStringList cells{date(powerUp.addSecs(saturatingCast<qint64>(flight.takeOffTime)), tr("no clock")), CardContainer::time(flight.takeOffTime),
                           CardContainer::time(flight.landingTime)};
         for (int figure = 0; figure < eFigureCount; ++figure)
             cells.append(flightFigureText(flight, static_cast<EFlightFigure>(figure), EFigureText::eFixed));

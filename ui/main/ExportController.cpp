@@ -3,6 +3,7 @@
 #include "app/Property.h"
 #include "app/SafeFile.h"
 #include "card/CardContainer.h"
+#include "card/PowerUp.h"
 #include "export/ExportGpx.h"
 #include "export/ExportKml.h"
 #include "export/ui/DialogExportCsv.h"
@@ -41,7 +42,9 @@ QString ExportController::fileName(int flight, const QString& suffix) const
     const auto cycle = mSession.container.loadedCycleNumber();
     if (!cycle)
         return card + suffix;
-    return (flight > 0 ? tr("%1 cycle %2 flight %3").arg(card).arg(*cycle).arg(flight) : tr("%1 cycle %2").arg(card).arg(*cycle)) + suffix;
+    // All at once: what a name contains is never taken for the next mark.
+    const QString number = QString::number(*cycle);
+    return (flight > 0 ? tr("%1 cycle %2 flight %3").arg(card, number, QString::number(flight)) : tr("%1 cycle %2").arg(card, number)) + suffix;
 }
 
 QString ExportController::selectionName(const QString& suffix) const
@@ -72,8 +75,7 @@ void ExportController::exportKml()
     mKmlOptions.fileName = fileName(0, ".kml").toStdString();
     if (!DialogExportKml(mSession, mpWindow).getOptions(mKmlOptions, parts(".kml")))
         return;
-    const RecordCycle* pCycle = mSession.container.loadedCycle();
-    ExportKml exporter(mSession.console, mSession.profile, pCycle ? pCycle->dateTime : mSession.container.dateTime());
+    ExportKml exporter(mSession.console, mSession.profile, PowerUp::ofLoaded(mSession.container));
     bool isPathMissing = false;
     const auto work = [&](Progress& progress) {
         const bool written = exporter.exportData(mSession.container.recordData(), mKmlOptions, progress);

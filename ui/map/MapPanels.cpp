@@ -4,8 +4,8 @@
 #include "ui/map/model/MapScene.h"
 #include "ui/map/model/ToolTipText.h"
 
+#include <QAbstractButton>
 #include <QAction>
-#include <QButtonGroup>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -169,7 +169,7 @@ bool MapValuePanel::elide(int width)
     return isWhole;
 }
 
-MapToolPanel::MapToolPanel(int scale, QWidget* pParent) : QWidget(pParent), mpGroup(new QButtonGroup(this))
+MapToolPanel::MapToolPanel(int scale, QWidget* pParent) : QWidget(pParent)
 {
     auto* pPanel = new QWidget(this);
     pPanel->setStyleSheet(QStringLiteral(".QWidget{background-color: #66ffffff;border-radius:10px;}"));
@@ -182,10 +182,8 @@ MapToolPanel::MapToolPanel(int scale, QWidget* pParent) : QWidget(pParent), mpGr
     pBar->setStyleSheet(QStringLiteral(".QToolBar{background-color: #00ffffff;border-radius:10px;}"));
     pBar->setOrientation(Qt::Vertical);
     pBar->setIconSize({kIconSize * scale, kIconSize * scale});
-    mpGroup->setExclusive(false);
     addCommand(*pBar, aircraftIcon(kIconSize * scale), tr("Center AC"), kCentreAircraft);
     addCommand(*pBar, valuesIcon(kIconSize * scale), tr("Show values"), kShowValues);
-    connect(mpGroup, &QButtonGroup::idToggled, this, &MapToolPanel::signalToggled);
     pLayout->addWidget(pBar);
 }
 
@@ -197,19 +195,19 @@ void MapToolPanel::addCommand(QToolBar& bar, const QIcon& icon, const QString& t
     pAction->setChecked(true);
     auto* pButton = qobject_cast<QAbstractButton*>(bar.widgetForAction(pAction));
     pButton->setAccessibleName(text);
-    mpGroup->addButton(pButton, id);
+    connect(pButton, &QAbstractButton::toggled, this, [this, id](bool isChecked) { Q_EMIT signalToggled(id, isChecked); });
+    mButtons[static_cast<std::size_t>(id)] = pButton;
 }
 
 void MapToolPanel::setChecked(int id, bool isChecked)
 {
-    if (QAbstractButton* pButton = mpGroup->button(id); pButton && pButton->isChecked() != isChecked)
+    if (QAbstractButton* pButton = mButtons[static_cast<std::size_t>(id)]; pButton->isChecked() != isChecked)
         pButton->click();
 }
 
 bool MapToolPanel::isChecked(int id) const
 {
-    const QAbstractButton* pButton = mpGroup->button(id);
-    return pButton && pButton->isChecked();
+    return mButtons[static_cast<std::size_t>(id)]->isChecked();
 }
 
 MapConsentBar::MapConsentBar(QWidget* pParent)

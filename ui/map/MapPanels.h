@@ -5,10 +5,11 @@
 #include <QFrame>
 #include <QScrollArea>
 
+#include <array>
 #include <vector>
 
+class QAbstractButton;
 class QBoxLayout;
-class QButtonGroup;
 class QGridLayout;
 class QIcon;
 class QLabel;
@@ -66,7 +67,7 @@ Q_SIGNALS:
 private:
     void addCommand(QToolBar& bar, const QIcon& icon, const QString& text, int id);
 
-    QButtonGroup* mpGroup;
+    std::array<QAbstractButton*, 2> mButtons{}; ///< by command; no group, which would leave one of them to the Tab key
 };
 
 /// Asks, on the map itself, whether map tiles may be fetched, and names the server that would be asked.
