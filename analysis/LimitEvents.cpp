@@ -1,76 +1,38 @@
 #include "analysis/LimitEvents.h"
 
 #include "analysis/EventScan.h"
-
-#include <array>
-#include <limits>
+#include "profile/ThresholdBand.h"
+#include "trace/TraceSet.h"
 
 namespace ZARN {
 
 namespace {
 
-constexpr std::size_t kRun = 512; // samples decoded at once; they stay in the processor's nearest cache
-
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
-
-/// The values around one that pass exactly the same boundaries of a list.
-struct Band {
-    double from = kInfinity;
-    double to = -kInfinity;
-    ThresholdResult result;
-
-    [[nodiscard]] bool holds(double value) const { return value >= from && value < to; }
-};
-
-/// Walks the list as findThreshold() does and notes between which boundaries the value lies.
-Band bandOf(const ThresholdList& list, double value)
-{
-    Band band{-kInfinity, kInfinity, {}};
-    for (const Threshold& threshold : list) {
-        if (threshold.value > value) {
-            band.to = threshold.value;
-            break;
-        }
-        band.from = std::max(band.from, threshold.value); // a list need not ascend
-        band.result = {threshold.state, threshold.colour};
-    }
-    return band;
-}
-
 class LimitScan : public EventScan {
 public:
-    using EventScan::EventScan;
+    LimitScan(const Trace& trace, const ThresholdList& list, EventList& events) : EventScan(trace, events), mBands(thresholdBands(list)) {}
 
-    void run(const RecordEntries& entries)
+    void run()
     {
-        const ThresholdList* pList = mDecoder.textThresholds();
-        if (!pList && !mParameter.isPosition()) // positions are decoded all the same, for those that follow them
-            return;
-        std::array<double, kRun> values{};
-        for (std::size_t position = 0; position < entries.size();) {
-            const auto records = entries.run(position, kRun);
-            mDecoder.textValues(records, values.data(), mFilter);
-            if (pList)
-                scan(records, values.data(), *pList);
-            position += records.size();
-        }
+        mTrace.forEachSample([this](double time, double number) {
+            if (!mpBand->holds(number)) // hardly ever
+                enter(time, number);
+        });
     }
 
 private:
-    void scan(std::span<const StoredRecord> records, const double* pValues, const ThresholdList& list)
+    void enter(double time, double number)
     {
-        for (std::size_t i = 0; i < records.size(); ++i) {
-            if (mBand.holds(pValues[i])) // nearly always
-                continue;
-            mBand = bandOf(list, pValues[i]);
-            const auto& [state, colour] = mBand.result;
-            if ((mPrevious == eThresholdOk && state != eThresholdOk) || (mPrevious == eThresholdWarning && state == eThresholdLimit))
-                addEvent(records[i], pValues[i], state, colour);
-            mPrevious = state;
-        }
+        mpBand = &findBand(mBands, number);
+        const auto& [state, colour] = mpBand->result();
+        if ((mPrevious == eThresholdOk && state != eThresholdOk) || (mPrevious == eThresholdWarning && state == eThresholdLimit))
+            addEvent(time, number, state, colour);
+        mPrevious = state;
     }
 
-    Band mBand;
+    static constexpr ThresholdBand kNone{std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity()};
+    const std::vector<ThresholdBand> mBands;
+    const ThresholdBand* mpBand = &kNone;
     int mPrevious = eThresholdLimit; // so that what is outside from the start has to come back first
 };
 
@@ -79,12 +41,10 @@ private:
 EventList limitEvents(const RecordData& data, Profile& profile)
 {
     EventList list;
-    profile.resetCoordinates();
-    for (const ProfileDevice& device : profile.data()) {
-        for (const ProfileParameter& parameter : device.parameters) {
-            if (const RecordChannel* pChannel = data.channel(parameter.identifier()))
-                LimitScan(profile, device, parameter, list).run(pChannel->entries);
-        }
+    const TraceSet traces(&data, profile, ENumber::eText, profile.sharedFilter(), TraceSet::all());
+    for (const auto& pTrace : traces.traces()) {
+        if (const ThresholdList* pThresholds = pTrace->decoder().textThresholds())
+            LimitScan(*pTrace, *pThresholds, list).run();
     }
     list.sortByTime();
     return list;

@@ -1,28 +1,26 @@
 #include "analysis/TableRows.h"
 
-#include "card/record/TimeKernels.h"
+#include "app/LastOfKey.h"
 
-#include <algorithm>
 #include <array>
 #include <bit>
 #include <iterator>
+#include <ranges>
 
 namespace ZARN {
 
 namespace {
 
-constexpr std::size_t kRun = 512; // samples whose times are computed at once
 constexpr std::size_t kBitsASample = 32; // what sorting by bits may take: 4 bytes for each sample
 
 /// Calls `visit` with the key of every sample, in stored order.
-template <typename Visitor> void forEachKey(const RecordEntries& entries, Visitor visit)
+template <typename Visitor> void forEachKey(const Trace& trace, Visitor visit)
 {
-    std::array<double, kRun> times{};
-    for (std::size_t position = 0; position < entries.size();) {
-        const auto records = entries.run(position, kRun);
-        recordTimes(records, times.data());
-        std::for_each_n(times.begin(), records.size(), [&](double time) { visit(TimeKey::of(time)); });
-        position += records.size();
+    std::array<double, Trace::kRun> times{};
+    for (std::size_t position = 0; position < trace.size();) {
+        const std::size_t count = trace.readTimes(position, times);
+        std::for_each_n(times.begin(), count, [&](double time) { visit(TimeKey::of(time)); });
+        position += count;
     }
 }
 
@@ -31,68 +29,43 @@ struct KeyPosition {
     uint32_t position;
 };
 
-/// The first place in [0, size) whose key, by `keyAt`, is above `key`; keyAt must not fall.
-template <typename KeyAt> std::size_t firstAbove(std::size_t size, TimeKey key, KeyAt keyAt)
-{
-    std::size_t first = 0;
-    while (size > 0) {
-        const std::size_t half = size / 2;
-        if (keyAt(first + half) > key) {
-            size = half;
-        } else {
-            first += half + 1;
-            size -= half + 1;
-        }
-    }
-    return first;
-}
-
 } // namespace
 
-TableRows::TableRows(const RecordData& data, std::span<const uint32_t> identifiers)
+TableRows::TableRows(const TraceSet& traces)
 {
-    std::map<uint32_t, std::size_t> known; // parameters often share a channel
-    for (const uint32_t identifier : identifiers) {
-        const auto [place, added] = known.try_emplace(identifier, kNoSamples);
+    std::map<const void*, std::size_t> known; // parameters often share a channel
+    for (const auto& pTrace : traces.traces()) {
+        const auto [place, added] = known.try_emplace(pTrace->timesIdentity(), kNoSamples);
         if (added)
-            place->second = addChannel(data.channel(identifier));
+            place->second = addChannel(*pTrace);
         mColumns.push_back(place->second);
     }
     collectKeys();
 }
 
-std::size_t TableRows::addChannel(const RecordChannel* pChannel)
+std::size_t TableRows::addChannel(const Trace& trace)
 {
-    if (!pChannel || pChannel->entries.empty())
+    if (trace.empty())
         return kNoSamples;
-    Channel channel{pChannel, {}};
-    if (!pChannel->entries.ascending())
-        channel.sorted = sortedPositions(pChannel->entries);
-    mChannels.push_back(std::move(channel));
+    mChannels.push_back({&trace, trace.ascending() ? std::vector<uint32_t>() : sortedPositions(trace)});
     return mChannels.size() - 1;
 }
 
-std::vector<uint32_t> TableRows::sortedPositions(const RecordEntries& entries)
+std::vector<uint32_t> TableRows::sortedPositions(const Trace& trace)
 {
     std::vector<KeyPosition> samples;
-    samples.reserve(entries.size());
-    forEachKey(entries, [&](TimeKey key) { samples.push_back({key, static_cast<uint32_t>(samples.size())}); });
-    std::sort(samples.begin(), samples.end(), [](const KeyPosition& a, const KeyPosition& b) {
-        return a.key != b.key ? a.key < b.key : a.position < b.position;
-    });
-    std::vector<uint32_t> positions;
-    positions.reserve(samples.size());
-    for (std::size_t i = 0; i < samples.size(); ++i) {
-        if (i + 1 == samples.size() || samples[i].key != samples[i + 1].key)
-            positions.push_back(samples[i].position);
-    }
+    samples.reserve(trace.size());
+    forEachKey(trace, [&](TimeKey key) { samples.push_back({key, static_cast<uint32_t>(samples.size())}); });
+    keepLastOfKey(samples, &KeyPosition::key);
+    std::vector<uint32_t> positions(samples.size());
+    std::ranges::transform(samples, positions.begin(), &KeyPosition::position);
     return positions;
 }
 
 template <typename Visitor> void TableRows::Channel::forEachKey(Visitor visit) const
 {
     if (sorted.empty())
-        ZARN::forEachKey(pChannel->entries, visit);
+        ZARN::forEachKey(*pTrace, visit);
     for (const uint32_t position : sorted)
         visit(keyAt(position));
 }
@@ -106,7 +79,7 @@ void TableRows::collectKeys()
     TimeKey last{0};
     for (const Channel& channel : mChannels) {
         const bool ascending = channel.sorted.empty();
-        const std::size_t count = ascending ? channel.pChannel->entries.size() : channel.sorted.size();
+        const std::size_t count = ascending ? channel.pTrace->size() : channel.sorted.size();
         samples += count;
         first = std::min(first, channel.keyAt(ascending ? 0 : channel.sorted.front()));
         last = std::max(last, channel.keyAt(ascending ? count - 1 : channel.sorted.back()));
@@ -167,16 +140,11 @@ std::optional<std::size_t> TableRows::Channel::last(TimeKey key) const
 {
     const bool ascending = sorted.empty();
     const auto positionAt = [&](std::size_t place) { return ascending ? place : sorted[place]; };
-    const std::size_t above = firstAbove(ascending ? pChannel->entries.size() : sorted.size(), key,
-                                         [&](std::size_t place) { return keyAt(positionAt(place)); });
-    if (above == 0 || keyAt(positionAt(above - 1)) != key)
+    const auto places = std::views::iota(std::size_t{0}, ascending ? pTrace->size() : sorted.size());
+    const auto above = std::ranges::partition_point(places, [&](std::size_t place) { return !(keyAt(positionAt(place)) > key); });
+    if (above == places.begin() || keyAt(positionAt(*(above - 1))) != key)
         return {};
-    return positionAt(above - 1);
-}
-
-const RecordChannel* TableRows::channel(std::size_t column) const
-{
-    return mColumns[column] == kNoSamples ? nullptr : mChannels[mColumns[column]].pChannel;
+    return positionAt(*(above - 1));
 }
 
 std::size_t TableRows::bytes() const

@@ -1,6 +1,7 @@
 #include "analysis/WarningEvents.h"
 
 #include "analysis/EventScan.h"
+#include "trace/TraceSet.h"
 
 namespace ZARN {
 
@@ -21,48 +22,21 @@ class LampScan : public EventScan {
 public:
     using EventScan::EventScan;
 
-    void run(const RecordEntries& entries)
+    /// @param states the trace of the same samples as whole numbers
+    void run(const Trace& states)
     {
-        for (std::size_t c = 0; c < entries.chunkCount(); ++c) {
-            if (mParameter.isPosition())
-                scanPositions(entries.chunk(c));
-            else
-                scan(entries.chunk(c));
-        }
+        states.forEachRun([this](const TraceRun& run) {
+            for (std::size_t i = 0; i < run.times.size(); ++i) {
+                const int state = static_cast<int>(run.numbers[i]);
+                if (state == 0 || state == mReported)
+                    continue;
+                mReported = state;
+                addEvent(run.times[i], mTrace.number(run.position + i), state, lampColour(state));
+            }
+        });
     }
 
 private:
-    void scan(std::span<const StoredRecord> records)
-    {
-        for (const StoredRecord& record : records) {
-            if (record.payload == mLastPayload) // lamps are repeated all the time; what was reported is not reported again
-                continue;
-            mLastPayload = record.payload;
-            if (changed(record))
-                addEvent(record, mDecoder.textValue(record.payload, mFilter), mReported, lampColour(mReported));
-        }
-    }
-
-    /// The filter has to see every sample.
-    void scanPositions(std::span<const StoredRecord> records)
-    {
-        for (const StoredRecord& record : records) {
-            const double value = mDecoder.textValue(record.payload, mFilter);
-            if (changed(record))
-                addEvent(record, value, mReported, lampColour(mReported));
-        }
-    }
-
-    bool changed(const StoredRecord& record)
-    {
-        const int state = ValueDecoder::integer(record.payload, mParameter);
-        if (state == 0 || state == mReported)
-            return false;
-        mReported = state;
-        return true;
-    }
-
-    Payload mLastPayload{}; // all 0 decodes to state 0
     int mReported = 0;
 };
 
@@ -71,15 +45,11 @@ private:
 EventList warningEvents(const RecordData& data, Profile& profile)
 {
     EventList list;
-    profile.resetCoordinates();
-    for (const ProfileDevice& device : profile.data()) {
-        if (device.name != kLampGroup)
-            continue;
-        for (const ProfileParameter& parameter : device.parameters) {
-            if (const RecordChannel* pChannel = data.channel(parameter.identifier()))
-                LampScan(profile, device, parameter, list).run(pChannel->entries);
-        }
-    }
+    const auto isLamp = [](const ProfileDevice& device, const ProfileParameter&) { return device.name == kLampGroup; };
+    const TraceSet texts(&data, profile, ENumber::eText, profile.sharedFilter(), isLamp);
+    const TraceSet states(&data, profile, ENumber::eInteger, profile.sharedFilter(), isLamp);
+    for (std::size_t lamp = 0; lamp < texts.size(); ++lamp)
+        LampScan(texts[lamp], list).run(states[lamp]);
     list.sortByTime();
     return list;
 }

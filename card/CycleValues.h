@@ -38,6 +38,7 @@ public:
 
     /// The channel of a parameter; null when it has no entries.
     [[nodiscard]] const RecordChannel* channel(const ProfileParameter& parameter) const { return mData.channel(parameter.identifier()); }
+    [[nodiscard]] const RecordData& data() const { return mData; }
     [[nodiscard]] Profile& profile() const { return mProfile; }
 
 private:

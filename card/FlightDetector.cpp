@@ -1,6 +1,7 @@
 #include "card/FlightDetector.h"
 
 #include "profile/MetricUnits.h"
+#include "trace/TraceSet.h"
 
 namespace ZARN {
 
@@ -54,32 +55,28 @@ std::vector<RecordFlight> FlightDetector::detect(const QDateTime& dateTime) cons
 {
     std::vector<RecordFlight> flights;
     Profile& profile = mValues.profile();
-    const MetricUnits metric(profile); // the thresholds are km/h
-    const ProfileParameter parameter = profile.getParameterFromZarnType("GroundSpeed");
-    const RecordChannel* pChannel = mValues.channel(parameter);
-    if (!pChannel)
-        return flights;
+    const MetricUnits metric(profile); // the thresholds are km/h, and so is the statistic
+    const auto pSpeed = TraceSet::one(mValues.data(), profile, profile.getParameterFromZarnType("GroundSpeed"), ENumber::eMetric,
+                                      profile.sharedFilter());
     FlightState state;
     RecordFlight flight;
-    const ValueDecoder decoder = profile.decoder(parameter);
-    for (std::size_t i = 0; i < pChannel->entries.size(); ++i) {
-        const RecordEntry entry = pChannel->entries[i];
-        switch (state.next(decoder.displayValue(entry.payload, profile.sharedFilter()))) {
+    pSpeed->forEachSample([&](double time, double speed) {
+        switch (state.next(speed)) {
         case FlightState::EEvent::eTakeOff:
             flight = {};
-            flight.takeOffTime = entry.time;
-            flight.startTime = std::max(0.0, entry.time - kMargin);
-            flight.dateTime = dateTime.addSecs(saturatingCast<qint64>(entry.time));
+            flight.takeOffTime = time;
+            flight.startTime = std::max(0.0, time - kMargin);
+            flight.dateTime = dateTime.addSecs(saturatingCast<qint64>(time));
             break;
         case FlightState::EEvent::eLanding:
-            flight.landingTime = entry.time;
-            flight.endTime = entry.time + kMargin;
+            flight.landingTime = time;
+            flight.endTime = time + kMargin;
             calcFlightStatistic(mValues, flight);
             flights.push_back(flight);
             break;
         case FlightState::EEvent::eNone: break;
         }
-    }
+    });
     return flights;
 }
 

@@ -1,10 +1,9 @@
 #include "card/FlightPath.h"
 
 #include "card/Resampling.h"
-#include "card/record/TimeKernels.h"
+#include "trace/TraceSet.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 namespace ZARN {
@@ -14,38 +13,19 @@ namespace {
 constexpr double kSmallestValue = 0.00001; // exact zeros are a receiver without a fix
 constexpr double kSmallestDegrees = 0.0001;
 
-constexpr std::size_t kRun = 512; // samples decoded at once
-
-/// How many of the times, from the first on, are no damage.
-std::size_t soundTimes(std::span<const double> times)
-{
-    return static_cast<std::size_t>(std::find_if(times.begin(), times.end(), [](double time) { return time > kLatestTime; }) - times.begin());
-}
-
 std::vector<Sample> collect(const CycleValues& values, const char* key)
 {
     std::vector<Sample> samples;
     Profile& profile = values.profile();
-    const ProfileParameter parameter = profile.getParameterFromZarnType(key);
-    const RecordChannel* pChannel = values.channel(parameter);
-    const ValueDecoder decoder = profile.decoder(parameter);
-    if (!pChannel || !decoder.isNumeric())
+    const auto pTrace = TraceSet::one(values.data(), profile, profile.getParameterFromZarnType(key), ENumber::eDisplay, profile.sharedFilter(),
+                                      kLatestTime);
+    if (!pTrace->decoder().isNumeric())
         return samples;
-    samples.reserve(pChannel->entries.size());
-    std::array<double, kRun> times;
-    std::array<double, kRun> numbers;
-    for (std::size_t position = 0; position < pChannel->entries.size();) {
-        const auto records = pChannel->entries.run(position, kRun);
-        recordTimes(records, times.data());
-        const std::size_t sound = soundTimes({times.data(), records.size()});
-        decoder.values(records.first(sound), numbers.data(), profile.sharedFilter());
-        for (std::size_t i = 0; i < sound; ++i) {
-            const double value = decoder.toDisplayUnit(numbers[i]);
-            if (std::fabs(value) > kSmallestValue)
-                samples.push_back({times[i], value});
-        }
-        position += std::min(sound + 1, records.size()); // what is damaged is not even decoded: the filter must not follow it
-    }
+    samples.reserve(pTrace->size());
+    pTrace->forEachSample([&samples](double time, double value) {
+        if (time <= kLatestTime && std::fabs(value) > kSmallestValue)
+            samples.push_back({time, value});
+    });
     return samples;
 }
 

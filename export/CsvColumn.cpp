@@ -1,7 +1,7 @@
 #include "export/CsvColumn.h"
 
+#include "app/LastOfKey.h"
 #include "app/NumberText.h"
-#include "card/record/TimeKernels.h"
 
 #include <algorithm>
 #include <array>
@@ -20,36 +20,20 @@ uint32_t tickOf(double time, double ticksPerSecond)
 
 } // namespace
 
-CsvColumn::CsvColumn(const RecordChannel* pChannel, const ValueDecoder& decoder, bool isPosition, double ticksPerSecond, char separator,
-                     CoordinateFilter& filter)
-    : mpChannel(pChannel), mDecoder(decoder), mTicksPerSecond(ticksPerSecond), mSeparator(separator), mCell{{separator}, 1}
+CsvColumn::CsvColumn(const Trace& trace, double ticksPerSecond, char separator)
+    : mpTrace(&trace), mTicksPerSecond(ticksPerSecond), mSeparator(separator), mCell{{separator}, 1}
 {
-    if (!mpChannel)
-        return;
-    if (isPosition) {
-        mPositions.reserve(mpChannel->entries.size());
-        for (std::size_t c = 0; c < mpChannel->entries.chunkCount(); ++c) {
-            for (const StoredRecord& record : mpChannel->entries.chunk(c))
-                mPositions.push_back(static_cast<float>(mDecoder.textValue(record.payload, filter)));
-        }
-    }
-    if (!mpChannel->entries.ascending())
+    if (!trace.ascending())
         sortByTick();
     readAhead();
 }
 
 void CsvColumn::sortByTick()
 {
-    const RecordEntries& entries = mpChannel->entries;
-    mSorted.reserve(entries.size());
-    for (std::size_t i = 0; i < entries.size(); ++i)
-        mSorted.push_back({tickOf(entries.time(i), mTicksPerSecond), static_cast<uint32_t>(i)});
-    std::sort(mSorted.begin(), mSorted.end(), [](const TickPosition& a, const TickPosition& b) {
-        return a.tick != b.tick ? a.tick < b.tick : a.position < b.position;
-    });
-    const auto isOverwritten = [](const TickPosition& a, const TickPosition& b) { return a.tick == b.tick; };
-    // The last of equal ticks stays: unique() from behind keeps the first it meets.
-    mSorted.erase(mSorted.begin(), std::unique(mSorted.rbegin(), mSorted.rend(), isOverwritten).base());
+    mSorted.reserve(mpTrace->size());
+    for (std::size_t i = 0; i < mpTrace->size(); ++i)
+        mSorted.push_back({tickOf(mpTrace->time(i), mTicksPerSecond), static_cast<uint32_t>(i)});
+    keepLastOfKey(mSorted, &TickPosition::tick);
 }
 
 void CsvColumn::readAhead()
@@ -57,7 +41,7 @@ void CsvColumn::readAhead()
     if (!mSorted.empty())
         mNextTick = mNext < mSorted.size() ? mSorted[mNext].tick : kNoTick;
     else
-        mNextTick = mNext < mpChannel->entries.size() ? tickOf(mpChannel->entries.time(mNext), mTicksPerSecond) : kNoTick;
+        mNextTick = mNext < mpTrace->size() ? tickOf(mpTrace->time(mNext), mTicksPerSecond) : kNoTick;
 }
 
 void CsvColumn::take(uint64_t offset, double value)
@@ -69,44 +53,29 @@ void CsvColumn::take(uint64_t offset, double value)
 
 void CsvColumn::collectSorted(const CsvWindow& window)
 {
-    CoordinateFilter unused;
-    for (; mNext < mSorted.size() && mSorted[mNext].tick < window.end(); ++mNext) {
-        const std::size_t position = mSorted[mNext].position;
-        const double value = mPositions.empty() ? mDecoder.textValue(mpChannel->entries.stored(position).payload, unused) : mPositions[position];
-        take(mSorted[mNext].tick - window.first, value);
-    }
+    for (; mNext < mSorted.size() && mSorted[mNext].tick < window.end(); ++mNext)
+        take(mSorted[mNext].tick - window.first, mpTrace->number(mSorted[mNext].position));
 }
 
 // All samples are decoded, also those that a later one of the same tick overwrites: that is cheaper than to ask first.
 void CsvColumn::collectAscending(const CsvWindow& window)
 {
-    const RecordEntries& entries = mpChannel->entries;
     const double ticksPerSecond = mTicksPerSecond;
     std::array<double, kBatch> times;
     std::array<double, kBatch> values;
     std::array<uint32_t, kBatch> ticks;
-    while (mNext < entries.size()) {
-        const auto batch = entries.run(mNext, kBatch);
-        recordTimes(batch, times.data());
-        for (std::size_t i = 0; i < batch.size(); ++i)
+    while (mNext < mpTrace->size()) {
+        const std::size_t count = mpTrace->readTimes(mNext, times);
+        for (std::size_t i = 0; i < count; ++i)
             ticks[i] = tickOf(times[i], ticksPerSecond);
-        const auto inWindow = static_cast<std::size_t>(std::lower_bound(ticks.begin(), ticks.begin() + batch.size(), window.end()) - ticks.begin());
-        valuesOf(batch.first(inWindow), values.data());
+        const auto inWindow = static_cast<std::size_t>(std::lower_bound(ticks.begin(), ticks.begin() + count, window.end()) - ticks.begin());
+        mpTrace->readNumbers(mNext, std::span(values).first(inWindow));
         for (std::size_t i = 0; i < inWindow; ++i)
             take(ticks[i] - window.first, values[i]);
         mNext += inWindow;
-        if (inWindow < batch.size())
+        if (inWindow < count)
             return;
     }
-}
-
-void CsvColumn::valuesOf(std::span<const StoredRecord> records, double* pOut) const
-{
-    CoordinateFilter unused;
-    if (mPositions.empty())
-        mDecoder.textValues(records, pOut, unused);
-    else
-        std::copy_n(mPositions.begin() + static_cast<std::ptrdiff_t>(mNext), records.size(), pOut);
 }
 
 void CsvColumn::collect(CsvWindow& window)
@@ -148,7 +117,7 @@ void CsvColumn::fill(const CsvWindow& window, CsvCell* pCells, std::vector<std::
 void CsvColumn::makeCell(double textValue, CsvCell& cell)
 {
     char buffer[kNumberTextSize + 1];
-    if (char* pEnd = mDecoder.writeNumber(textValue, buffer)) {
+    if (char* pEnd = mpTrace->decoder().writeNumber(textValue, buffer)) {
         *pEnd++ = mSeparator;
         const auto length = static_cast<std::size_t>(pEnd - buffer);
         if (length <= sizeof cell.text) {
@@ -159,7 +128,7 @@ void CsvColumn::makeCell(double textValue, CsvCell& cell)
         mLongText.assign(buffer, length);
     } else {
         mLongText.clear();
-        mDecoder.appendText(textValue, mLongText);
+        mpTrace->decoder().appendText(textValue, mLongText);
         mLongText += mSeparator;
         if (mLongText.size() <= sizeof cell.text) {
             std::memcpy(cell.text, mLongText.data(), mLongText.size());

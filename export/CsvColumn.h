@@ -1,7 +1,6 @@
 #pragma once
 
-#include "card/record/RecordChannel.h"
-#include "profile/ValueDecoder.h"
+#include "trace/Trace.h"
 
 namespace ZARN {
 
@@ -29,15 +28,15 @@ class CsvColumn {
 public:
     static constexpr uint64_t kNoTick = UINT64_MAX;
 
-    /// @param ticksPerSecond the rows' resolution. Position columns are decoded here, whole and in stored order.
-    CsvColumn(const RecordChannel* pChannel, const ValueDecoder& decoder, bool isPosition, double ticksPerSecond, char separator,
-              CoordinateFilter& filter);
+    /// @param trace of the kind eText, which must outlive the column
+    /// @param ticksPerSecond the rows' resolution
+    CsvColumn(const Trace& trace, double ticksPerSecond, char separator);
 
     /// The tick of the next sample; kNoTick after the last.
     [[nodiscard]] uint64_t nextTick() const { return mNextTick; }
     /// How many samples there are, and how many of them have been taken: both without those that a later one of their tick replaces,
     /// where the samples had to be sorted.
-    [[nodiscard]] std::size_t sampleCount() const { return !mSorted.empty() ? mSorted.size() : mpChannel ? mpChannel->entries.size() : 0; }
+    [[nodiscard]] std::size_t sampleCount() const { return !mSorted.empty() ? mSorted.size() : mpTrace->size(); }
     [[nodiscard]] std::size_t samplesDone() const { return mNext; }
     /// Takes the samples that lie in the window and marks their rows.
     void collect(CsvWindow& window);
@@ -52,18 +51,15 @@ private:
     void sortByTick();
     void readAhead();
     void take(uint64_t offset, double value);
-    void valuesOf(std::span<const StoredRecord> records, double* pOut) const;
     void collectAscending(const CsvWindow& window);
     void collectSorted(const CsvWindow& window);
     void makeCell(double textValue, CsvCell& cell);
     void setAside(CsvCell& cell, std::vector<std::string>& longTexts) const;
 
-    const RecordChannel* mpChannel; // null without samples
-    ValueDecoder mDecoder;
+    const Trace* mpTrace;
     double mTicksPerSecond;
     char mSeparator;
     CsvCell mCell;                      // the text that holds
-    std::vector<float> mPositions;      // filtered, one a sample; empty for other columns
     std::vector<TickPosition> mSorted;  // when the times do not ascend: the last sample of each tick
     std::size_t mNext = 0;              // sample, or place in mSorted
     uint64_t mNextTick = kNoTick;

@@ -203,8 +203,10 @@ bool ExportCsv::writeFile(SafeFile& file, const RecordData& recordData, const Cs
     if (!mError.empty())
         return false;
     std::string header = "Time";
+    const TraceSet traces(&recordData, mProfile, ENumber::eText, mProfile.sharedFilter(),
+                          options.allParameters ? TraceSet::all() : TraceSet::selected(mProfile));
     std::vector<CsvColumn> columns;
-    if (!makeColumns(recordData, options, ProgressSpan(progress, 0, kColumnsPercent), columns, header))
+    if (!makeColumns(traces, options, ProgressSpan(progress, 0, kColumnsPercent), columns, header))
         return false;
     const ProgressSpan rows(progress, kColumnsPercent, 100);
     if (file.write(header + "\n") && CsvRows(columns, options, file, rows).write() && file.commit())
@@ -213,26 +215,16 @@ bool ExportCsv::writeFile(SafeFile& file, const RecordData& recordData, const Cs
     return false;
 }
 
-bool ExportCsv::makeColumns(const RecordData& recordData, const CsvExportOptions& options, const ProgressSpan& progress,
-                            std::vector<CsvColumn>& columns, std::string& header)
+bool ExportCsv::makeColumns(const TraceSet& traces, const CsvExportOptions& options, const ProgressSpan& progress, std::vector<CsvColumn>& columns,
+                            std::string& header)
 {
     const double ticksPerSecond = 1 / (options.resolution * 0.001);
-    std::size_t devices = 0;
-    // A filter of our own, since a receiver of progress may let views refresh.
-    CoordinateFilter filter = mProfile.sharedFilter();
-    filter.reset();
-    for (const ProfileDevice& device : mProfile.data()) {
-        for (const ProfileParameter& parameter : device.parameters) {
-            if (!options.allParameters && !mProfile.isSelected(parameter.name))
-                continue;
-            header += options.separator + parameter.name;
-            columns.emplace_back(recordData.channel(parameter.identifier()), mProfile.decoder(parameter), parameter.isPosition(),
-                                 ticksPerSecond, options.separator, filter);
-        }
-        if (!progress.step(++devices, mProfile.data().size()))
+    for (const auto& pTrace : traces.traces()) {
+        header += options.separator + pTrace->name();
+        columns.emplace_back(*pTrace, ticksPerSecond, options.separator);
+        if (!progress.step(columns.size(), traces.size()))
             return false;
     }
-    mProfile.sharedFilter() = filter;
     return true;
 }
 

@@ -2,8 +2,7 @@
 
 #include "analysis/TimeSpan.h"
 #include "app/Progress.h"
-#include "card/record/RecordData.h"
-#include "profile/Profile.h"
+#include "trace/TraceSet.h"
 
 #include <QString>
 
@@ -42,8 +41,8 @@ public:
 
 private:
     /// @return false when the user cancels.
-    bool makeColumns(const RecordData& recordData, const CsvExportOptions& options, const ProgressSpan& progress,
-                     std::vector<CsvColumn>& columns, std::string& header);
+    static bool makeColumns(const TraceSet& traces, const CsvExportOptions& options, const ProgressSpan& progress, std::vector<CsvColumn>& columns,
+                            std::string& header);
 
     Profile& mProfile;
     std::string mError;

@@ -2,16 +2,14 @@
 
 #include "app/Console.h"
 #include "app/NumberText.h"
-#include "card/record/TimeKernels.h"
+#include "trace/ChannelTrace.h"
 
-#include <array>
 #include <cmath>
 
 namespace ZARN {
 
 namespace {
 
-constexpr std::size_t kRun = 512;           // samples decoded at once
 constexpr double kMissingBelow = -999.0;    // a coordinate below it counts as missing
 constexpr double kNoFix = 0.0001;          // degrees of this magnitude or less
 constexpr int kDebugDecimals = 6;
@@ -52,32 +50,26 @@ private:
     std::string mText;
 };
 
-/// The values of one channel by slot, decoded by the parameter that the profile has for its identifier.
+/// The values of a trace by slot.
 /// @param isAngle whether the values are degrees of a position.
 /// @param label names the values in the lines; null for no lines.
 /// @return false when the user cancels.
-bool collect(const RecordEntries& entries, const ValueDecoder& decoder, CoordinateFilter& filter, const KmlGrid& grid, bool isAngle,
-             const char* label, DebugLines& lines, KmlSlots& slots, const ProgressSpan& progress)
+bool collect(const Trace& trace, const KmlGrid& grid, bool isAngle, const char* label, DebugLines& lines, KmlSlots& slots,
+             const ProgressSpan& progress)
 {
-    std::array<double, kRun> times;
-    std::array<double, kRun> values{};
-    for (std::size_t position = 0; position < entries.size();) {
-        if (!progress.step(position, entries.size()))
+    const bool isDone = trace.forEachRun([&](const TraceRun& run) {
+        if (!progress.step(run.position, trace.size()))
             return false;
-        const auto records = entries.run(position, kRun);
-        recordTimes(records, times.data());
-        if (decoder.isNumeric())
-            decoder.values(records, values.data(), filter);
-        for (std::size_t i = 0; i < records.size(); ++i) {
+        for (std::size_t i = 0; i < run.times.size(); ++i) {
             if (label)
-                lines.add("time ", times[i]).add(label, values[i]).endLine();
-            const bool isMissing = isAngle && std::fabs(values[i]) <= kNoFix;
-            slots.put(grid.slot(times[i]), isMissing ? KmlPoint::kMissing : values[i]);
+                lines.add("time ", run.times[i]).add(label, run.numbers[i]).endLine();
+            const bool isMissing = isAngle && std::fabs(run.numbers[i]) <= kNoFix;
+            slots.put(grid.slot(run.times[i]), isMissing ? KmlPoint::kMissing : run.numbers[i]);
         }
-        position += records.size();
-    }
+        return true;
+    });
     slots.sort();
-    return true;
+    return isDone;
 }
 
 } // namespace
@@ -90,14 +82,13 @@ bool KmlPath::build(const RecordData& data, Profile& profile, const KmlGrid& gri
     constexpr uint32_t identifiers[] = {kLatitudeIdentifier, kLongitudeIdentifier, kAltitudeIdentifier};
     constexpr const char* labels[] = {" lat ", " long ", nullptr};
     for (std::size_t i = 0; i < std::size(identifiers); ++i) {
-        const RecordChannel* pChannel = data.channel(identifiers[i]);
-        if (!pChannel)
-            continue;
+        // The channel counts whether the profile declares it or not.
+        const ProfileParameter& parameter = profile.parameter(identifiers[i]);
+        const ChannelTrace trace({}, parameter, profile.decoder(parameter), data.channel(identifiers[i]), ENumber::eMetric, filter);
         DebugLines lines(console);
         KmlSlots slots;
-        const ValueDecoder decoder = profile.decoder(profile.parameter(identifiers[i]));
         const char* label = console.isVerbose() ? labels[i] : nullptr;
-        if (!collect(pChannel->entries, decoder, filter, grid, labels[i] != nullptr, label, lines, slots, progress.part(i, std::size(identifiers))))
+        if (!collect(trace, grid, labels[i] != nullptr, label, lines, slots, progress.part(i, std::size(identifiers))))
             return false;
         merge(slots, kCoordinates[i]);
     }

@@ -1,28 +1,13 @@
 #include "export/KmlPlacemarks.h"
 
-#include "card/record/TimeKernels.h"
-
-#include <array>
-
 namespace ZARN {
 
 namespace {
 
-constexpr std::size_t kRun = 512; // samples decoded at once
-
-KmlSlots collectTexts(const RecordEntries& entries, const ValueDecoder& decoder, CoordinateFilter& filter, const KmlGrid& grid, int interval)
+KmlSlots slotsOf(const Trace& trace, const KmlGrid& grid, int interval)
 {
     KmlSlots slots;
-    std::array<double, kRun> times{};
-    std::array<double, kRun> values{};
-    for (std::size_t position = 0; position < entries.size();) {
-        const auto records = entries.run(position, kRun);
-        recordTimes(records, times.data());
-        decoder.textValues(records, values.data(), filter);
-        for (std::size_t i = 0; i < records.size(); ++i)
-            slots.put(grid.slot(times[i], interval), values[i]);
-        position += records.size();
-    }
+    trace.forEachSample([&](double time, double number) { slots.put(grid.slot(time, interval), number); });
     slots.sort();
     return slots;
 }
@@ -31,24 +16,14 @@ KmlSlots collectTexts(const RecordEntries& entries, const ValueDecoder& decoder,
 
 bool KmlPlacemarks::collect(const RecordData& data, Profile& profile, const KmlGrid& grid, int interval, const ProgressSpan& progress)
 {
-    mColumns.clear();
-    std::size_t devices = 0;
-    CoordinateFilter filter = profile.sharedFilter(); // our own, since a receiver of progress may let views refresh
-    filter.reset();
-    for (const ProfileDevice& device : profile.data()) {
-        for (const ProfileParameter& parameter : device.parameters) {
-            const RecordChannel* pChannel = profile.isSelected(parameter.name) ? data.channel(parameter.identifier()) : nullptr;
-            if (!pChannel)
-                continue;
-            const ValueDecoder decoder = profile.decoder(parameter);
-            KmlSlots slots = collectTexts(pChannel->entries, decoder, filter, grid, interval);
-            mColumns.push_back({&parameter, decoder, slots.take()});
-            if (!progress.step(devices, profile.data().size()))
-                return false;
-        }
-        ++devices;
+    clear();
+    mTraces = TraceSet(&data, profile, ENumber::eText, profile.sharedFilter(), TraceSet::selected(profile));
+    for (std::size_t i = 0; i < mTraces.size(); ++i) {
+        if (!mTraces[i].empty())
+            mColumns.push_back({&mTraces[i], slotsOf(mTraces[i], grid, interval).take()});
+        if (!progress.step(i + 1, mTraces.size()))
+            return false;
     }
-    profile.sharedFilter() = filter;
     return true;
 }
 

@@ -1,9 +1,8 @@
 #pragma once
 
-#include "card/record/RecordData.h"
 #include "export/KmlSlots.h"
 #include "export/ProgressSpan.h"
-#include "profile/Profile.h"
+#include "trace/TraceSet.h"
 
 namespace ZARN {
 
@@ -14,7 +13,11 @@ public:
     /// Decodes the samples of the selected parameters in the profile's order. The shared position filter is reset first.
     /// @return false when the user cancels.
     bool collect(const RecordData& data, Profile& profile, const KmlGrid& grid, int interval, const ProgressSpan& progress);
-    void clear() { mColumns.clear(); }
+    void clear()
+    {
+        mColumns.clear();
+        mTraces = {};
+    }
 
     /// Calls `visit` with every slot in which a parameter has a sample, in ascending order, until it returns false; forEachText() then
     /// tells of that slot.
@@ -28,8 +31,7 @@ public:
 
 private:
     struct Column {
-        const ProfileParameter* pParameter;
-        ValueDecoder decoder;
+        const Trace* pTrace;
         std::vector<KmlSlots::Value> values; // numbers to make texts of
         std::size_t next = 0;
 
@@ -44,6 +46,7 @@ private:
         return total;
     }
 
+    TraceSet mTraces;
     std::vector<Column> mColumns;
     int mSlot = 0; // the current one
 };
@@ -75,8 +78,8 @@ template <typename Visitor> void KmlPlacemarks::forEachText(Visitor visit) const
         if (!column.isAt(mSlot))
             continue;
         text.clear();
-        column.decoder.appendText(column.values[column.next].value, text);
-        visit(*column.pParameter, text);
+        column.pTrace->decoder().appendText(column.values[column.next].value, text);
+        visit(column.pTrace->parameter(), text);
     }
 }
 

@@ -1,5 +1,7 @@
 #include "export/KmlSlots.h"
 
+#include "app/LastOfKey.h"
+
 namespace ZARN {
 
 namespace {
@@ -31,10 +33,7 @@ void KmlSlots::sort()
 {
     if (mAscending)
         return;
-    std::stable_sort(mValues.begin(), mValues.end(), [](const Value& a, const Value& b) { return a.slot < b.slot; });
-    // The last of equal slots stays: unique() from behind keeps the first it meets.
-    const auto sameSlot = [](const Value& a, const Value& b) { return a.slot == b.slot; };
-    mValues.erase(mValues.begin(), std::unique(mValues.rbegin(), mValues.rend(), sameSlot).base());
+    keepLastOfKey(mValues, &Value::slot);
     mAscending = true;
 }
 

@@ -46,6 +46,8 @@ public:
     [[nodiscard]] ThresholdResult threshold(double value) const { return mpThresholds ? findThreshold(*mpThresholds, value) : ThresholdResult{}; }
     /// State and colour that go with the text of a text value; bit fields are always neutral there.
     [[nodiscard]] ThresholdResult textThreshold(double textValue) const;
+    /// The boundaries behind threshold(); null without a list.
+    [[nodiscard]] const ThresholdList* thresholds() const { return mpThresholds; }
     /// The boundaries behind textThreshold(); null where every text is neutral.
     [[nodiscard]] const ThresholdList* textThresholds() const { return mRaw == ERaw::eNone || isField() ? nullptr : mpThresholds; }
     [[nodiscard]] double toDisplayUnit(double value) const

@@ -2,10 +2,10 @@
 
 #include "analysis/EventList.h"
 #include "report/PaperCanvas.h"
+#include "trace/TraceSet.h"
 #include "ui/graph/model/GraphScene.h"
-#include "ui/graph/model/ThresholdBands.h"
+#include "ui/graph/model/TraceSlot.h"
 
-#include <cmath>
 #include <set>
 
 namespace ZARN {
@@ -65,37 +65,9 @@ void ReportGraph::addParameter(const ProfileParameter& parameter)
         return;
     }
     const int slot = mUsed++;
-    mModel.setActive(slot, true);
-    mModel.setParameterName(slot, QString::fromStdString(parameter.name), QString::fromStdString(parameter.unit));
-    mModel.setPrecision(slot, parameter.precision);
-    const auto number = static_cast<std::size_t>(std::max(parameter.thresholdList, 0));
-    if (number > 0 && number <= mProfile.model().thresholdLists.size())
-        mModel.setBands(slot, thresholdBands(mProfile.model().thresholdLists[number - 1], mProfile.decoder(parameter)));
-    fill(slot, parameter);
-}
-
-void ReportGraph::fill(int slot, const ProfileParameter& parameter)
-{
-    const ValueDecoder decoder = mProfile.decoder(parameter);
-    const RecordEntries& entries = mContainer.recordData().channel(parameter.identifier())->entries;
-    std::vector<double> times;
-    std::vector<double> values;
-    for (std::size_t i = 0; i < entries.chunkCount(); ++i) {
-        const std::span<const StoredRecord> records = entries.chunk(i);
-        times.resize(records.size());
-        values.resize(records.size());
-        decoder.values(records, values.data(), mProfile.sharedFilter());
-        std::size_t kept = 0;
-        for (std::size_t k = 0; k < records.size(); ++k) {
-            const double time = records[k].time();
-            const double value = decoder.toDisplayUnit(values[k]);
-            if (std::isnan(value) || time < mContainer.startTime() || time > mContainer.endTime())
-                continue;
-            times[kept] = time;
-            values[kept++] = value;
-        }
-        mModel.putValues(slot, std::span(times).first(kept), std::span(values).first(kept));
-    }
+    const auto pTrace = TraceSet::one(mContainer.recordData(), mProfile, parameter, ENumber::eDisplay, mProfile.sharedFilter());
+    describeSlot(mModel, slot, *pTrace);
+    fillSlot(mModel, slot, *pTrace, mContainer.startTime(), mContainer.endTime());
 }
 
 void ReportGraph::draw(PaperCanvas& canvas, const QRectF& place)

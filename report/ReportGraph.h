@@ -21,7 +21,6 @@ public:
 
 private:
     void addParameter(const ProfileParameter& parameter);
-    void fill(int slot, const ProfileParameter& parameter);
     /// The name of a strip in the place left of it, where it hides no trace.
     void drawName(PaperCanvas& canvas, const GraphParameter& parameter, const QRectF& place) const;
 

@@ -1,5 +1,6 @@
 #include "analysis/TableRows.h"
 #include "support/CardBuilder.h"
+#include "trace/ChannelTrace.h"
 
 #include <QTest>
 
@@ -36,6 +37,17 @@ struct NaiveTable {
     std::map<uint32_t, std::size_t> rows;
     std::vector<std::map<uint32_t, std::size_t>> cells;
 };
+
+TraceSet tracesOf(const RecordData& data, const std::vector<uint32_t>& identifiers)
+{
+    std::vector<std::unique_ptr<const Trace>> traces;
+    CoordinateFilter filter;
+    for (const uint32_t identifier : identifiers) {
+        const ValueDecoder decoder({}, nullptr, nullptr, {});
+        traces.push_back(std::make_unique<ChannelTrace>("", ProfileParameter(), decoder, data.channel(identifier), ENumber::eText, filter));
+    }
+    return TraceSet(std::move(traces));
+}
 
 /// A recording of some channels at uneven rates; `damage` in 1000 records has any time.
 void fillRandomly(RecordData& data, std::mt19937& random, unsigned int damage)
@@ -85,7 +97,8 @@ void TestTableRows::equalsTheNaiveTable()
     fillRandomly(data, random, damage);
     const std::vector<uint32_t> identifiers{3, 1, 99, 3, 5, RecordData::kPseudoKind0}; // 99 is not recorded, nothing is of kind 0
     const NaiveTable expected(data, identifiers);
-    const TableRows rows(data, identifiers);
+    const TraceSet traces = tracesOf(data, identifiers);
+    const TableRows rows(traces);
 
     QCOMPARE(rows.rowCount(), expected.rows.size());
     QCOMPARE(rows.columnCount(), identifiers.size());
@@ -110,13 +123,13 @@ void TestTableRows::laterSamplesOfATenthReplaceEarlierOnes()
     RecordData data;
     RecordFileBuilder().addWord(1, 1.96, 0).addWord(1, 2.0, 0).addWord(1, 2.04, 0).addWord(1, 2.06, 0).addWord(2, 2.1, 0).fill(data);
     const std::vector<uint32_t> identifiers{1, 2};
-    const TableRows rows(data, identifiers);
+    const TraceSet traces = tracesOf(data, identifiers);
+    const TableRows rows(traces);
     QCOMPARE(rows.rowCount(), 2U);
     QCOMPARE(rows.key(0).milliseconds(), 2000);
     QCOMPARE(rows.sampleAt(0, 0), std::optional<std::size_t>(2));
     QCOMPARE(rows.sampleAt(0, 1), std::optional<std::size_t>(3));
     QVERIFY(!rows.sampleAt(1, 0));
-    QCOMPARE(rows.channel(1), data.channel(2));
     QCOMPARE(rows.rowAt(2.04), 0U);
     QCOMPARE(rows.rowAt(2.05), 1U);
 }
@@ -141,7 +154,8 @@ void TestTableRows::memory()
     RecordData data;
     file.addWord(1, lastTime, 0).fill(data);
     const std::vector<uint32_t> identifiers{1, 1, 1};
-    const TableRows rows(data, identifiers);
+    const TraceSet traces = tracesOf(data, identifiers);
+    const TableRows rows(traces);
     QCOMPARE(rows.rowCount(), samples);
     QVERIFY2(rows.bytes() <= samples * bytesPerSample + 1024, std::to_string(rows.bytes()).c_str());
     QCOMPARE(rows.sampleAt(2, rows.rowAt(lastTime)), std::optional(samples - 1));

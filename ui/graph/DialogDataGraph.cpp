@@ -1,15 +1,15 @@
 #include "ui/graph/DialogDataGraph.h"
 
 #include "card/CardContainer.h"
-#include "profile/Profile.h"
+#include "trace/TraceSet.h"
 #include "ui/graph/DialogGraphSetup.h"
 #include "ui/graph/GraphButtons.h"
 #include "ui/graph/WidgetGraphES.h"
-#include "ui/graph/model/ThresholdBands.h"
+#include "ui/graph/model/TraceSlot.h"
 
 #include <QVBoxLayout>
 
-#include <cmath>
+#include <algorithm>
 #include <utility>
 
 namespace ZARN {
@@ -17,31 +17,6 @@ namespace ZARN {
 namespace {
 
 constexpr int kHeldInterval = 50;
-
-/// Calls with each selected parameter of the profile, in its order, as far as there are slots.
-template <typename Visitor> int forEachSelected(const Profile& profile, Visitor visit)
-{
-    int slot = 0;
-    for (const ProfileDevice& device : profile.data()) {
-        for (const ProfileParameter& parameter : device.parameters) {
-            if (!profile.isSelected(parameter.name))
-                continue;
-            if (slot == DialogDataGraph::kSlots)
-                return slot;
-            visit(slot++, parameter);
-        }
-    }
-    return slot;
-}
-
-std::vector<GraphBand> bandsOf(const Profile& profile, const ProfileParameter& parameter)
-{
-    const std::vector<ThresholdList>& lists = profile.model().thresholdLists;
-    const int number = parameter.thresholdList;
-    if (number < 1 || static_cast<std::size_t>(number) > lists.size())
-        return {};
-    return thresholdBands(lists[static_cast<std::size_t>(number) - 1], profile.decoder(parameter));
-}
 
 } // namespace
 
@@ -81,15 +56,20 @@ void DialogDataGraph::connectGraph()
     connect(&mHeldTimer, &QTimer::timeout, this, &DialogDataGraph::slotHeldZoom);
 }
 
+/// Calls with slot and trace of each selected parameter, as far as there are slots. @return how many
+template <typename Visitor> int DialogDataGraph::forEachTrace(const RecordData* pRecord, Visitor visit)
+{
+    const TraceSet traces(pRecord, mSession.profile, ENumber::eDisplay, mSession.profile.sharedFilter(), TraceSet::selected(mSession.profile));
+    const int used = std::min(static_cast<int>(traces.size()), kSlots);
+    for (int slot = 0; slot < used; ++slot)
+        visit(slot, traces[static_cast<std::size_t>(slot)]);
+    return used;
+}
+
 void DialogDataGraph::updateProfile()
 {
     GraphModel& model = mpGraph->model();
-    const int used = forEachSelected(mSession.profile, [&](int slot, const ProfileParameter& parameter) {
-        model.setActive(slot, true);
-        model.setParameterName(slot, QString::fromStdString(parameter.name), QString::fromStdString(parameter.unit));
-        model.setPrecision(slot, parameter.precision);
-        model.setBands(slot, bandsOf(mSession.profile, parameter));
-    });
+    const int used = forEachTrace(nullptr, [&](int slot, const Trace& trace) { describeSlot(model, slot, trace); });
     for (int slot = used; slot < kSlots; ++slot)
         model.setActive(slot, false);
     arrangeStrips(used);
@@ -127,10 +107,8 @@ void DialogDataGraph::fillRecord()
 {
     const double xmin = mpGraph->model().xmin(), xmax = mpGraph->model().xmax();
     mpGraph->clear();
-    if (mpRecord) {
-        mSession.profile.resetCoordinates();
-        forEachSelected(mSession.profile, [this](int slot, const ProfileParameter& parameter) { fillIndex(slot, parameter); });
-    }
+    if (mpRecord)
+        forEachTrace(mpRecord, [this](int slot, const Trace& trace) { fillSlot(mpGraph->model(), slot, trace); });
     // Filling moves the window of the automatic mode along.
     mpGraph->model().setWindow(xmin, xmax);
     mpGraph->model().setMessage(emptyMessage());
@@ -182,32 +160,6 @@ void DialogDataGraph::setZarnMode(int mode)
 {
     mZarnMode = mode;
     mpGraph->model().setMessage(emptyMessage());
-}
-
-void DialogDataGraph::fillIndex(int slot, const ProfileParameter& parameter)
-{
-    const RecordChannel* pChannel = mpRecord->channel(parameter.identifier());
-    if (!pChannel)
-        return;
-    GraphModel& model = mpGraph->model();
-    model.reserve(slot, pChannel->entries.size());
-    const ValueDecoder decoder = mSession.profile.decoder(parameter);
-    std::vector<double> times, values;
-    for (std::size_t i = 0; i < pChannel->entries.chunkCount(); ++i) {
-        const std::span<const StoredRecord> records = pChannel->entries.chunk(i);
-        times.resize(records.size());
-        values.resize(records.size());
-        decoder.values(records, values.data(), mSession.profile.sharedFilter());
-        std::size_t kept = 0;
-        for (std::size_t k = 0; k < records.size(); ++k) {
-            const double value = decoder.isNumeric() ? decoder.toDisplayUnit(values[k]) : 0.0;
-            if (std::isnan(value))
-                continue;
-            times[kept] = records[k].time();
-            values[kept++] = value;
-        }
-        model.putValues(slot, std::span(times).first(kept), std::span(values).first(kept));
-    }
 }
 
 std::optional<TimeSpan> DialogDataGraph::shownSpan() const

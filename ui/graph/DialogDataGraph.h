@@ -73,7 +73,7 @@ private:
     void arrangeStrips(int used);
     void keepStrips();
     [[nodiscard]] RecordKey recordKey() const;
-    void fillIndex(int slot, const ProfileParameter& parameter);
+    template <typename Visitor> int forEachTrace(const RecordData* pRecord, Visitor visit);
     [[nodiscard]] QString emptyMessage() const;
     void zoomAll();
     /// Gives the window a width, and what was in sight stays there.

@@ -312,13 +312,13 @@ void TestGraphModel::bands()
                              {15, QColor(Qt::red), eThresholdLimit},
                              {30, QColor(Qt::blue), eThresholdOk}};
     // The boundary at 15 is reached only by values that pass the one at 20, and is then the last one passed.
-    const std::vector<GraphBand> metric = thresholdBands(list, ValueDecoder(parameter, &list, nullptr, std::nullopt));
+    const std::vector<GraphBand> metric = graphBands(ValueDecoder(parameter, &list, nullptr, std::nullopt));
     QCOMPARE(metric.size(), 1U);
     QCOMPARE(metric[0].lower, 20.0);
     QCOMPARE(metric[0].upper, 30.0);
     QCOMPARE(metric[0].colour, QColor(Qt::red));
     const ThresholdList open{{20, QColor(), eThresholdLimit}};
-    const std::vector<GraphBand> turned = thresholdBands(open, ValueDecoder(parameter, &open, nullptr, UnitConversion{-2.0, 1.0}));
+    const std::vector<GraphBand> turned = graphBands(ValueDecoder(parameter, &open, nullptr, UnitConversion{-2.0, 1.0}));
     QCOMPARE(turned.front().upper, -39.0);
     QVERIFY(std::isinf(turned.front().lower));
     QVERIFY(turned.front().colour.isValid());

@@ -3,7 +3,6 @@
 #include "ui/data/model/TimeOfDay.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <limits>
 #include <set>
@@ -13,22 +12,8 @@ namespace ZARN {
 namespace {
 
 constexpr std::size_t kMaxRows = std::numeric_limits<int>::max() / 32; // a view counts its height in pixels as an int
-constexpr std::size_t kRun = 512; // samples decoded at once
 constexpr std::size_t kSomeValues = 64;
 const QColor kTimeGround(230, 230, 230);
-
-std::vector<float> textValues(const ValueDecoder& decoder, const RecordEntries& entries, CoordinateFilter& filter)
-{
-    std::vector<float> values;
-    values.reserve(entries.size());
-    std::vector<double> run;
-    for (std::size_t i = 0; i < entries.chunkCount(); ++i) {
-        run.resize(entries.chunk(i).size());
-        decoder.textValues(entries.chunk(i), run.data(), filter);
-        std::transform(run.begin(), run.end(), std::back_inserter(values), [](double value) { return static_cast<float>(value); });
-    }
-    return values;
-}
 
 } // namespace
 
@@ -38,7 +23,6 @@ void DataTableModel::updateParameters()
     beginResetModel();
     mParameters = ShownParameter::all(mProfile);
     mProfileIdentity = mProfile.identity();
-    mPositions.clear();
     endResetModel();
 }
 
@@ -50,7 +34,7 @@ void DataTableModel::removeRecord()
         endRemoveRows();
     }
     mRows = {};
-    mPositions.clear();
+    mTraces = {};
 }
 
 void DataTableModel::setRecord(const RecordData* pRecord)
@@ -58,29 +42,18 @@ void DataTableModel::setRecord(const RecordData* pRecord)
     removeRecord();
     if (!pRecord)
         return;
-    std::vector<uint32_t> identifiers;
-    identifiers.reserve(mParameters.size());
-    for (const ShownParameter& parameter : mParameters)
-        identifiers.push_back(parameter.identifier());
-    mRows = TableRows(*pRecord, identifiers);
-    decodePositions();
+    // The columns are those of the last updateParameters(), whatever has been ticked since.
+    const auto isColumn = [this](const ProfileDevice&, const ProfileParameter& parameter) {
+        return std::ranges::find(mParameters, parameter.name, &ShownParameter::name) != mParameters.end();
+    };
+    mTraces = TraceSet(pRecord, mProfile, ENumber::eText, mProfile.sharedFilter(), isColumn);
+    mRows = TableRows(mTraces);
     const int count = static_cast<int>(std::min(mRows.rowCount(), kMaxRows));
     if (count == 0)
         return;
     beginInsertRows({}, 0, count - 1);
     mRowCount = count;
     endInsertRows();
-}
-
-void DataTableModel::decodePositions()
-{
-    mProfile.resetCoordinates();
-    mPositions.resize(mParameters.size());
-    for (std::size_t column = 0; column < mParameters.size(); ++column) {
-        const RecordChannel* pChannel = mRows.channel(column);
-        if (pChannel && mParameters[column].isPosition())
-            mPositions[column] = textValues(mParameters[column].decoder(), pChannel->entries, mProfile.sharedFilter());
-    }
 }
 
 int DataTableModel::rowAt(double seconds) const
@@ -90,10 +63,7 @@ int DataTableModel::rowAt(double seconds) const
 
 std::size_t DataTableModel::bytes() const
 {
-    std::size_t bytes = mRows.bytes();
-    for (const std::vector<float>& values : mPositions)
-        bytes += values.capacity() * sizeof(float);
-    return bytes;
+    return mRows.bytes() + mTraces.bytes();
 }
 
 int DataTableModel::rowCount(const QModelIndex& parent) const
@@ -120,34 +90,7 @@ TableCell DataTableModel::cell(const QModelIndex& index) const
 
 TableCell DataTableModel::valueCell(std::size_t column, std::size_t position) const
 {
-    const ValueDecoder& decoder = mParameters[column].decoder();
-    double value = 0.0;
-    if (mPositions[column].empty()) {
-        CoordinateFilter unused;
-        value = decoder.textValue(mRows.channel(column)->entries.stored(position).payload, unused);
-    } else {
-        value = mPositions[column][position];
-    }
-    return TableCell::ofValue(decoder, value);
-}
-
-template <typename Visitor> void DataTableModel::forEachValue(std::size_t column, Visitor visit) const
-{
-    const RecordChannel* pChannel = mRows.channel(column);
-    if (!pChannel)
-        return;
-    if (!mPositions[column].empty()) {
-        std::for_each(mPositions[column].begin(), mPositions[column].end(), visit);
-        return;
-    }
-    CoordinateFilter unused;
-    std::array<double, kRun> values{};
-    for (std::size_t position = 0; position < pChannel->entries.size();) {
-        const auto records = pChannel->entries.run(position, kRun);
-        mParameters[column].decoder().textValues(records, values.data(), unused);
-        std::for_each_n(values.begin(), records.size(), visit);
-        position += records.size();
-    }
+    return TableCell::ofValue(mTraces[column].decoder(), mTraces[column].number(position));
 }
 
 QStringList DataTableModel::widestTexts(int column) const
@@ -157,7 +100,7 @@ QStringList DataTableModel::widestTexts(int column) const
     const auto place = static_cast<std::size_t>(column) - 1;
     std::set<double> some; // the words of a list, or the first of many numbers
     double least = std::numeric_limits<double>::infinity(), greatest = -least, previous = std::numeric_limits<double>::quiet_NaN();
-    forEachValue(place, [&](double value) {
+    mTraces[place].forEachSample([&](double, double value) {
         if (value == previous || std::isnan(value))
             return;
         previous = value;
@@ -171,7 +114,7 @@ QStringList DataTableModel::widestTexts(int column) const
     some.insert({least, greatest});
     QStringList texts;
     for (const double value : some)
-        texts.append(TableCell::ofValue(mParameters[place].decoder(), value).text);
+        texts.append(TableCell::ofValue(mTraces[place].decoder(), value).text);
     return texts;
 }
 

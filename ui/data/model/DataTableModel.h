@@ -36,15 +36,13 @@ public:
 
 private:
     void removeRecord();
-    void decodePositions();
-    template <typename Visitor> void forEachValue(std::size_t column, Visitor visit) const;
     [[nodiscard]] TableCell valueCell(std::size_t column, std::size_t position) const;
 
     Profile& mProfile;
     int mProfileIdentity = -1; ///< of the profile that the decoders belong to
     std::vector<ShownParameter> mParameters;
+    TraceSet mTraces; ///< by column
     TableRows mRows;
-    std::vector<std::vector<float>> mPositions; ///< by column: a value each sample, in degrees; empty for other parameters
     int mRowCount = 0;
 };
 

@@ -20,6 +20,7 @@ public:
     /// The shown parameters of a profile, in its order.
     [[nodiscard]] static std::vector<ShownParameter> all(const Profile& profile);
 
+    [[nodiscard]] const std::string& name() const { return mParameter.name; }
     [[nodiscard]] uint32_t identifier() const { return mParameter.identifier(); }
     [[nodiscard]] bool isPosition() const { return mParameter.isPosition(); }
     [[nodiscard]] const ValueDecoder& decoder() const { return mDecoder; }

@@ -5,7 +5,8 @@
 
 namespace ZARN {
 
-/// The stretches of values that a threshold list calls a warning or a limit, in the display unit; open ends reach to infinity.
-[[nodiscard]] std::vector<GraphBand> thresholdBands(const ThresholdList& list, const ValueDecoder& decoder);
+/// The stretches of values that the thresholds of a parameter call a warning or a limit, in the display unit; open ends reach to
+/// infinity.
+[[nodiscard]] std::vector<GraphBand> graphBands(const ValueDecoder& decoder);
 
 } // namespace ZARN

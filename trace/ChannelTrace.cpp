@@ -1,0 +1,84 @@
+#include "trace/ChannelTrace.h"
+
+#include "card/record/TimeKernels.h"
+
+#include <algorithm>
+
+namespace ZARN {
+
+ChannelTrace::ChannelTrace(std::string group, const ProfileParameter& parameter, const ValueDecoder& decoder, const RecordChannel* pChannel,
+                           ENumber kind, CoordinateFilter& filter, double latestTime)
+    : Trace(std::move(group), parameter, decoder), mpEntries(pChannel ? &pChannel->entries : nullptr), mKind(kind)
+{
+    if (mpEntries && parameter.isPosition() && kind != ENumber::eInteger)
+        decodePositions(filter, latestTime);
+}
+
+void ChannelTrace::decodePositions(CoordinateFilter& filter, double latestTime)
+{
+    if (mKind == ENumber::eText)
+        mTextPositions.reserve(mpEntries->size());
+    else
+        mPositions.reserve(mpEntries->size());
+    double number = 0;
+    for (std::size_t chunk = 0; chunk < mpEntries->chunkCount(); ++chunk) {
+        for (const StoredRecord& record : mpEntries->chunk(chunk)) {
+            if (record.time() > latestTime)
+                number = std::numeric_limits<double>::quiet_NaN();
+            else
+                decode({&record, 1}, &number, filter);
+            hold(number);
+        }
+    }
+}
+
+void ChannelTrace::hold(double number)
+{
+    if (mKind == ENumber::eText)
+        mTextPositions.push_back(static_cast<float>(number));
+    else
+        mPositions.push_back(number);
+}
+
+void ChannelTrace::decode(std::span<const StoredRecord> records, double* pOut, CoordinateFilter& filter) const
+{
+    if (mKind == ENumber::eInteger) {
+        for (const StoredRecord& record : records)
+            *pOut++ = ValueDecoder::integer(record.payload, parameter());
+    } else if (mKind == ENumber::eText) {
+        decoder().textValues(records, pOut, filter);
+    } else if (!decoder().isNumeric()) {
+        std::fill_n(pOut, records.size(), 0.0);
+    } else {
+        decoder().values(records, pOut, filter);
+        if (mKind == ENumber::eDisplay)
+            std::for_each_n(pOut, records.size(), [this](double& number) { number = decoder().toDisplayUnit(number); });
+    }
+}
+
+double ChannelTrace::number(std::size_t position) const
+{
+    double number = 0;
+    readNumbers(position, {&number, 1});
+    return number;
+}
+
+std::size_t ChannelTrace::readTimes(std::size_t position, std::span<double> times) const
+{
+    const std::span<const StoredRecord> records = mpEntries->run(position, times.size());
+    recordTimes(records, times.data());
+    return records.size();
+}
+
+void ChannelTrace::readNumbers(std::size_t position, std::span<double> numbers) const
+{
+    CoordinateFilter unused;
+    if (!mTextPositions.empty())
+        std::copy_n(mTextPositions.begin() + static_cast<std::ptrdiff_t>(position), numbers.size(), numbers.begin());
+    else if (!mPositions.empty())
+        std::copy_n(mPositions.begin() + static_cast<std::ptrdiff_t>(position), numbers.size(), numbers.begin());
+    else
+        decode(mpEntries->run(position, numbers.size()), numbers.data(), unused);
+}
+
+} // namespace ZARN
