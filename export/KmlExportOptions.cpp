@@ -3,7 +3,7 @@
 #include "app/Property.h"
 
 #include <algorithm>
-#include <charconv>
+#include <cstdlib>
 #include <iterator>
 #include <limits>
 
@@ -100,10 +100,8 @@ std::string KmlExportOptions::problem(const std::string& key, const std::string&
     const Number* pNumber = find(kNumbers, key);
     if (!pNumber)
         return {};
-    int given = 0;
-    const auto [pRest, error] = std::from_chars(value.data(), value.data() + value.size(), given);
-    const bool isWhole = error == std::errc() && pRest == value.data() + value.size();
-    return isWhole && given >= pNumber->least && given <= pNumber->most ? "" : key + ": must be " + pNumber->wanted;
+    const long long given = std::strtoll(value.c_str(), nullptr, 10);
+    return given >= pNumber->least && given <= pNumber->most ? "" : key + ": must be " + pNumber->wanted;
 }
 
 } // namespace ZARN

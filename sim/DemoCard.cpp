@@ -44,15 +44,14 @@ bool DemoCard::prepare(const std::string& directory, const DemoCardOptions& opti
     std::error_code reason;
     const std::filesystem::path folder(directory);
     std::filesystem::create_directories(folder, reason);
+    std::string first; // by name, of those that are in the way
     for (std::filesystem::directory_iterator entry(folder, reason), end; !reason && entry != end; entry.increment(reason)) {
         const std::string name = entry->path().filename().string();
-        if (CardContainer::isRecordFile(name) && !entry->is_directory(reason)) {
-            error = directory + ": holds the record file " + name + " already";
-            return false;
-        }
+        if (CardContainer::isRecordFile(name) && !entry->is_directory(reason) && (first.empty() || name < first))
+            first = name;
     }
-    if (reason) {
-        error = directory + ": " + reason.message();
+    if (reason || !first.empty()) {
+        error = directory + ": " + (reason ? reason.message() : "holds the record file " + first + " already");
         return false;
     }
     std::filesystem::remove_all(mDirectory, reason); // of a run that was ended
