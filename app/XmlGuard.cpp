@@ -20,7 +20,7 @@ public:
         for (std::size_t next = 0; (next = mText.find('<', mPosition)) != std::string_view::npos;) {
             countText(mText.substr(mPosition, next - mPosition));
             mPosition = next;
-            if (!markup() || mNodes > XmlGuard::maxNodes)
+            if (!markup() || mMemory > XmlGuard::maxMemory)
                 return false;
         }
         return mDepth == 0 && mHasElement;
@@ -28,7 +28,11 @@ public:
 
 private:
     /// Blanks between elements make no node.
-    void countText(std::string_view text) { mNodes += text.find_first_not_of(" \t\r\n") != std::string_view::npos; }
+    void countText(std::string_view text)
+    {
+        if (text.find_first_not_of(" \t\r\n") != std::string_view::npos)
+            mMemory += XmlGuard::nodeMemory;
+    }
 
     bool markup()
     {
@@ -50,7 +54,7 @@ private:
         if (found == std::string_view::npos)
             return false;
         mPosition = found + end.size();
-        ++mNodes;
+        mMemory += XmlGuard::nodeMemory;
         return true;
     }
 
@@ -66,7 +70,7 @@ private:
         if (mDepth >= XmlGuard::maxDepth)
             return false;
         mHasElement = true;
-        mNodes += 1 + attributes;
+        mMemory += XmlGuard::nodeMemory + attributes * XmlGuard::attributeMemory;
         if (text[end - 1] != '/')
             ++mDepth;
         return true;
@@ -88,7 +92,7 @@ private:
     std::string_view mText;
     std::size_t mPosition = 0;
     std::size_t mDepth = 0;
-    std::size_t mNodes = 0;
+    std::size_t mMemory = 0;
     bool mHasElement = false;
 };
 

@@ -19,8 +19,9 @@ public:
     static constexpr std::size_t maxTagSize = std::size_t(64) * 1024;         ///< bytes of a tag in UTF-8, "<" and ">" included
     static constexpr std::size_t maxAttributes = 1000;           ///< of a tag: the parser's time grows with their square
     static constexpr std::size_t maxDepth = 64;                  ///< the root element has depth 1
-    static constexpr std::size_t maxNodes = 2'000'000; ///< elements, attributes, texts, comments, instructions and CDATA sections
-    static constexpr std::size_t maxMemory = std::size_t(64) * 1024 * 1024; ///< bytes of the decoded text
+    static constexpr std::size_t maxMemory = std::size_t(64) * 1024 * 1024; ///< bytes of the decoded text, and of the document's nodes
+    static constexpr std::size_t nodeMemory = 256;      ///< about what the document takes for an element, text, comment, instruction or CDATA section
+    static constexpr std::size_t attributeMemory = 512; ///< and for an attribute, which is a node, its text and a place in a table
 
     /// Decodes a file's bytes, in any encoding that the parser knows, and judges the text. The encoding follows from the byte
     /// order mark, the first bytes or the XML declaration; the parser is to be given the decoded text, so that it cannot understand another one.

@@ -25,12 +25,6 @@ std::string extension(const std::string& name)
     return dot == std::string::npos ? std::string() : name.substr(dot + 1);
 }
 
-bool isRecordFile(const std::string& name)
-{
-    const std::string ending = extension(name);
-    return ending == "CAN" || ending == "can" || ending == "xcb";
-}
-
 QString lastComponent(const QString& path)
 {
     return path.mid(path.lastIndexOf('/') + 1);
@@ -80,6 +74,19 @@ CardContainer& CardContainer::instance()
     return container;
 }
 
+bool CardContainer::isRecordFile(const std::string& name)
+{
+    const std::string ending = extension(name);
+    return !name.starts_with('.') && (ending == "CAN" || ending == "can" || ending == "xcb");
+}
+
+void CardContainer::clear()
+{
+    mLoadedCycle.reset();
+    mCycles.clear(); // they refer to the files
+    mFiles.clear();
+}
+
 bool CardContainer::readContainer(const QString& folder)
 {
     QString path = folder;
@@ -89,7 +96,7 @@ bool CardContainer::readContainer(const QString& folder)
     if (listing.openError)
         return false;
     mPath = path;
-    mFiles.clear();
+    clear();
     mConsole.print("CardContainer::readContainer: Path <%s> NrFiles %d\n", path.toUtf8().constData(), static_cast<int>(listing.names.size()));
     readHeaders(listing.names);
     if (listing.readError)
@@ -144,8 +151,6 @@ void CardContainer::backFillDates()
 
 void CardContainer::calcCycles()
 {
-    mCycles.clear();
-    mLoadedCycle.reset();
     uint32_t number = 0;
     for (const auto& [name, info] : mFiles) {
         if (info.startsCycle) {
@@ -155,7 +160,7 @@ void CardContainer::calcCycles()
         RecordCycle& cycle = mCycles[number];
         if (cycle.files.empty())
             cycle.dateTime = info.dateTime;
-        cycle.files.push_back(info);
+        cycle.files.emplace_back(info);
         if (info.samples > 0)
             cycle.endTime = info.endTime;
     }
@@ -217,7 +222,7 @@ void CardContainer::loadFiles(const std::list<QString>& files)
         calcIndex();
     } catch (const std::bad_alloc&) {
         mData.clear();
-        mLoadError = name().toStdString() + ": not enough memory for its records";
+        mLoadError = encodeFileName(name()) + ": not enough memory for its records";
     }
     joinProblems();
     calcFlightPath();
@@ -267,7 +272,7 @@ double CardContainer::loadFile(const RecordInfo& info)
     RecordFile file(mConsole, *mpProgress);
     file.setRecordInfo(info);
     if (!file.readRecordData(mData) && mLoadError.empty())
-        mLoadError = info.fileName.toStdString() + ": not enough memory for its records";
+        mLoadError = encodeFileName(info.fileName) + ": not enough memory for its records";
     const CardProblem problem = problemOf(file);
     const auto isKnown = [&problem](const CardProblem& other) { return other.file == problem.file && other.reason == problem.reason; };
     if (!problem.reason.isEmpty() && std::none_of(mFolderProblems.begin(), mFolderProblems.end(), isKnown))
@@ -305,7 +310,7 @@ void CardContainer::calcFlightPath()
         mFlightPath.build(mValues);
     } catch (const std::bad_alloc&) {
         mFlightPath.clear();
-        mLoadError = name().toStdString() + ": not enough memory for its flight path";
+        mLoadError = encodeFileName(name()) + ": not enough memory for its flight path";
     }
     if (mFlightIsSelected)
         mFlightPath.crop(mStartTime, mEndTime);

@@ -28,8 +28,10 @@ public:
     /// Who is told of the progress of reading from now on.
     void setProgress(Progress& progress) { mpProgress = &progress; }
 
-    /// Forgets the files; the loaded data stays.
-    void clear() { mFiles.clear(); }
+    /// Forgets the files and cycles; the loaded data stays.
+    void clear();
+    /// Whether a file of that name is one of a card's.
+    [[nodiscard]] static bool isRecordFile(const std::string& name);
     /// Reads the headers of a card folder's record files and groups them into cycles. @return false, changing nothing, when
     /// the folder does not exist or cannot be listed. Separators at the path's end are dropped.
     bool readContainer(const QString& folder);

@@ -4,6 +4,7 @@
 #include "card/record/RecordInfo.h"
 
 #include <algorithm>
+#include <functional>
 #include <vector>
 
 namespace ZARN {
@@ -12,7 +13,7 @@ namespace ZARN {
 struct RecordCycle {
     QString name; ///< "Cycle N"; empty for the files before the first cycle start
     QDateTime dateTime;
-    std::vector<RecordInfo> files; ///< in name order
+    std::vector<std::reference_wrapper<const RecordInfo>> files; ///< of the container, in name order
     double endTime = 0.0;          ///< of the last file that holds a record, seconds since power-up
     std::vector<RecordFlight> flights;
 

@@ -1,11 +1,10 @@
 #include "cli/Command.h"
 
 #include "app/NumberText.h"
+#include "cli/Output.h"
 #include "cli/VisibleText.h"
 
-#include <cerrno>
 #include <cstdio>
-#include <cstring>
 
 namespace ZARN {
 
@@ -24,9 +23,9 @@ void Command::diagnose(std::string_view text) const
 
 int Command::print(const std::string& text)
 {
-    if (std::fwrite(text.data(), 1, text.size(), stdout) == text.size() && std::fflush(stdout) == 0)
-        return eDone;
-    return errno == EPIPE ? eFailed : fail(std::string("standard output: ") + std::strerror(errno));
+    Output output;
+    output.write(text);
+    return output.finish();
 }
 
 void Command::say(const std::string& message)

@@ -63,8 +63,9 @@ std::string CommandFlights::json() const
 std::string CommandFlights::tables() const
 {
     const std::vector<RecordFlight>& flights = cycle().flights;
-    std::string text = "Cycle " + std::to_string(*mContainer.loadedCycleNumber()) + ", " + tableDate(cycle().dateTime) + ", " +
-                       tableTime(mContainer.startTime()) + " to " + tableTime(mContainer.endTime()) + "\n";
+    const std::string span = cycle().hasSoundTimes() ? tableTime(mContainer.startTime()) + " to " + tableTime(mContainer.endTime())
+                                                     : "damaged, length unknown";
+    const std::string text = "Cycle " + std::to_string(*mContainer.loadedCycleNumber()) + ", " + tableDate(cycle().dateTime) + ", " + span + "\n";
     if (flights.empty())
         return text + "No flight in this cycle\n";
     std::vector<std::string> header{"Flight"};

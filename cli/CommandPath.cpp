@@ -1,6 +1,7 @@
 #include "cli/CommandPath.h"
 
 #include "cli/JsonWriter.h"
+#include "cli/Output.h"
 #include "cli/TextTable.h"
 
 namespace ZARN {
@@ -13,26 +14,43 @@ CommandPath::CommandPath(CLI::App& program)
 
 int CommandPath::runOnData()
 {
-    const std::vector<FlightPathPoint>& points = mContainer.flightPath();
-    if (!mJson) {
-        const auto title = [this](const char* name, const char* key) {
-            return tableTitle(name, mProfile.getParameterFromZarnType(key).unit);
-        };
-        TextTable table({"Time [h:m:s]", "Latitude [deg]", "Longitude [deg]", title("Altitude", "Altitude"),
-                         title("Ground speed", "GroundSpeed"), title("Track", "Track")});
-        for (const FlightPathPoint& point : points) {
-            table.addRow({tableTime(point.time), tableNumber(point.latitude, 6), tableNumber(point.longitude, 6),
-                          tableNumber(point.altitude, 1), tableNumber(point.groundSpeed, 1), tableNumber(point.track, 1)});
-        }
-        return print(table.text());
+    Output output;
+    mJson ? writeJson(output) : writeTable(output);
+    return output.finish();
+}
+
+void CommandPath::writeTable(Output& output) const
+{
+    const auto title = [this](const char* name, const char* key) { return tableTitle(name, mProfile.getParameterFromZarnType(key).unit); };
+    const std::vector<std::string> header{"Time [h:m:s]", "Latitude [deg]", "Longitude [deg]", title("Altitude", "Altitude"),
+                                          title("Ground speed", "GroundSpeed"), title("Track", "Track")};
+    const auto cells = [](const FlightPathPoint& point) {
+        return std::vector{tableTime(point.time),           tableNumber(point.latitude, 6),    tableNumber(point.longitude, 6),
+                           tableNumber(point.altitude, 1), tableNumber(point.groundSpeed, 1), tableNumber(point.track, 1)};
+    };
+    TableColumns columns;
+    columns.measure(header);
+    for (const FlightPathPoint& point : mContainer.flightPath())
+        columns.measure(cells(point));
+    output.write(columns.line(header));
+    for (const FlightPathPoint& point : mContainer.flightPath()) {
+        if (!output.isGood())
+            break;
+        output.write(columns.line(cells(point)));
     }
-    JsonWriter writer;
+}
+
+void CommandPath::writeJson(Output& output) const
+{
+    JsonWriter writer(output);
     writer.beginAnswer().key("points").beginArray();
-    for (const FlightPathPoint& point : points) {
+    for (const FlightPathPoint& point : mContainer.flightPath()) {
+        if (!output.isGood())
+            break;
         writer.beginArray().value(point.time).value(point.latitude).value(point.longitude);
         writer.value(point.altitude).value(point.groundSpeed).value(point.track).endArray();
     }
-    return print(writer.endArray().endAnswer());
+    output.write(writer.endArray().endAnswer());
 }
 
 } // namespace ZARN

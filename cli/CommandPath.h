@@ -4,6 +4,8 @@
 
 namespace ZARN {
 
+class Output;
+
 /// `path`: the flight path on its half-second grid.
 class CommandPath : public DataCommand {
 public:
@@ -11,6 +13,8 @@ public:
 
 private:
     int runOnData() override;
+    void writeTable(Output& output) const;
+    void writeJson(Output& output) const;
 };
 
 } // namespace ZARN

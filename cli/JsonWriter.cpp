@@ -1,5 +1,6 @@
 #include "cli/JsonWriter.h"
 
+#include "cli/Output.h"
 #include "cli/VisibleText.h"
 
 #include <charconv>
@@ -34,6 +35,11 @@ void appendEscaped(QString& text, QChar character)
 
 void JsonWriter::separate()
 {
+    constexpr std::size_t kPiece = 4096;
+    if (mpOutput && mText.size() >= kPiece) {
+        mpOutput->write(mText);
+        mText.clear();
+    }
     if (!mFirst)
         mText += ',';
     mFirst = false;

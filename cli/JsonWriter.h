@@ -8,14 +8,19 @@
 
 namespace ZARN {
 
+class Output;
+
 /// Writes one JSON value as it is built, members in the order given, so that lists of any length need no tree. Texts may hold any
 /// bytes: what is no UTF-8 becomes U+FFFD, what would steer a terminal is escaped. Doubles survive the round trip; one that is not finite is the string "nan", "inf"
 /// or "-inf". An invalid date and time is null.
 class JsonWriter {
 public:
+    JsonWriter() = default;
+    /// For an answer of any length: what is written goes on into the output from time to time.
+    explicit JsonWriter(Output& output) : mpOutput(&output) {}
     /// The object that a subcommand answers, with the number of its form; endAnswer() closes it.
     JsonWriter& beginAnswer();
-    /// @return the whole text, with a line break.
+    /// @return the text, with a line break; of one that goes on into an output, the end that has not gone yet.
     [[nodiscard]] std::string endAnswer();
     JsonWriter& beginObject();
     JsonWriter& endObject();
@@ -41,6 +46,7 @@ private:
     void separate();
 
     std::string mText;
+    Output* mpOutput = nullptr;
     bool mFirst = true; // of its object or array
 };
 

@@ -10,9 +10,10 @@ namespace ZARN {
 
 namespace {
 
-qsizetype widthOf(const std::string& text)
+std::size_t widthOf(const std::string& visible)
 {
-    return QString::fromStdString(text).size();
+    const bool isPlain = std::all_of(visible.begin(), visible.end(), [](char character) { return character > 0; });
+    return isPlain ? visible.size() : static_cast<std::size_t>(QString::fromStdString(visible).size());
 }
 
 bool isNumber(const std::string& text)
@@ -22,6 +23,26 @@ bool isNumber(const std::string& text)
 
 } // namespace
 
+void TableColumns::measure(const std::vector<std::string>& cells)
+{
+    mWidths.resize(std::max(mWidths.size(), cells.size()));
+    for (std::size_t i = 0; i < cells.size(); ++i)
+        mWidths[i] = std::max(mWidths[i], widthOf(visibleText(cells[i])));
+}
+
+std::string TableColumns::line(const std::vector<std::string>& cells) const
+{
+    std::string line;
+    for (std::size_t i = 0; i < cells.size(); ++i) {
+        const std::string cell = visibleText(cells[i]);
+        const std::string padding(mWidths[i] - widthOf(cell), ' ');
+        line += isNumber(cell) ? padding + cell : cell + padding;
+        line += "  ";
+    }
+    line.erase(line.find_last_not_of(' ') + 1);
+    return line += '\n';
+}
+
 TextTable::TextTable(std::vector<std::string> header)
 {
     addRow(std::move(header));
@@ -29,29 +50,15 @@ TextTable::TextTable(std::vector<std::string> header)
 
 void TextTable::addRow(std::vector<std::string> cells)
 {
-    for (std::string& cell : cells)
-        cell = visibleText(cell);
+    mColumns.measure(cells);
     mRows.push_back(std::move(cells));
 }
 
 std::string TextTable::text() const
 {
-    std::vector<qsizetype> widths(mRows.front().size());
-    for (const auto& row : mRows) {
-        for (std::size_t i = 0; i < row.size(); ++i)
-            widths[i] = std::max(widths[i], widthOf(row[i]));
-    }
     std::string text;
-    for (const auto& row : mRows) {
-        std::string line;
-        for (std::size_t i = 0; i < row.size(); ++i) {
-            const std::string padding(static_cast<std::size_t>(widths[i] - widthOf(row[i])), ' ');
-            line += isNumber(row[i]) ? padding + row[i] : row[i] + padding;
-            line += "  ";
-        }
-        line.erase(line.find_last_not_of(' ') + 1);
-        text += line + "\n";
-    }
+    for (const auto& row : mRows)
+        text += mColumns.line(row);
     return text;
 }
 

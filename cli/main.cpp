@@ -20,11 +20,15 @@
 #include <CLI/Formatter.hpp>
 
 #include <algorithm>
+#include <cerrno>
 #include <csignal>
 #include <cstdlib>
 #include <exception>
 #include <new>
 #include <sstream>
+
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace ZARN {
 
@@ -96,12 +100,22 @@ int runProgram(int argc, char** argv)
     std::abort();
 }
 
+/// A file that the work opens must not become standard output or error because the caller closed these.
+void holdStandardDescriptors()
+{
+    for (int descriptor = STDIN_FILENO; descriptor <= STDERR_FILENO; ++descriptor) {
+        if (fcntl(descriptor, F_GETFD) < 0 && errno == EBADF)
+            [[maybe_unused]] const int held = open("/dev/null", descriptor == STDERR_FILENO ? O_WRONLY : O_RDONLY); // writing results fails
+    }
+}
+
 } // namespace
 
 } // namespace ZARN
 
 int main(int argc, char** argv)
 {
+    ZARN::holdStandardDescriptors();
     // Full disks and closed pipes arrive as failed writes, so that they are said and no partial file stays.
 #ifdef SIGXFSZ
     std::signal(SIGXFSZ, SIG_IGN);

@@ -98,7 +98,8 @@ bool ExportGpx::exportData(const CardContainer& container, SafeFile& file, Progr
     }
     const RecordCycle* pCycle = container.loadedCycle();
     const QDateTime cycleDate = pCycle ? pCycle->dateTime : QDateTime();
-    const std::vector<FlightPathPoint> points = metricPath(container);
+    FlightPath rebuilt;
+    const std::vector<FlightPathPoint>& points = metricPath(container, rebuilt);
     const ProgressSpan span(progress, 0, 100);
     KmlWriter writer(file);
     beginDocument(writer, trackName(container), cycleDate);
@@ -118,18 +119,17 @@ bool ExportGpx::exportData(const CardContainer& container, SafeFile& file, Progr
     return false;
 }
 
-std::vector<FlightPathPoint> ExportGpx::metricPath(const CardContainer& container)
+const std::vector<FlightPathPoint>& ExportGpx::metricPath(const CardContainer& container, FlightPath& rebuilt)
 {
     const std::vector<FlightPathPoint>& shown = container.flightPath();
     const EUnit unit = mProfile.currentUnit();
     if (unit == EUnit::eMetric || shown.empty())
         return shown;
-    FlightPath path;
     mProfile.setCurrentUnit(EUnit::eMetric);
-    path.build(container.values());
+    rebuilt.build(container.values());
     mProfile.setCurrentUnit(unit);
-    path.crop(shown.front().time, shown.back().time);
-    return path.points();
+    rebuilt.crop(shown.front().time, shown.back().time);
+    return rebuilt.points();
 }
 
 } // namespace ZARN

@@ -22,8 +22,8 @@ public:
     [[nodiscard]] const std::string& error() const { return mError; }
 
 private:
-    /// The path in metric units.
-    [[nodiscard]] std::vector<FlightPathPoint> metricPath(const CardContainer& container);
+    /// The path in metric units: the one that is shown, or worked out anew.
+    [[nodiscard]] const std::vector<FlightPathPoint>& metricPath(const CardContainer& container, FlightPath& rebuilt);
 
     Profile& mProfile;
     std::string mError;

@@ -1,11 +1,9 @@
 #include "sim/DemoCard.h"
 
 #include "app/Numeric.h"
+#include "card/CardContainer.h"
 #include "sim/FlightModel.h"
 #include "sim/MessageSchedule.h"
-
-#include <QDir>
-#include <QFile>
 
 #include <cstdio>
 #include <filesystem>
@@ -44,14 +42,16 @@ bool DemoCard::prepare(const std::string& directory, const DemoCardOptions& opti
         return false;
     }
     std::error_code reason;
-    std::filesystem::create_directories(std::filesystem::path(directory), reason);
-    const QDir folder(QFile::decodeName(directory.c_str()));
-    if (reason || !folder.exists()) {
-        error = directory + ": " + (reason ? reason.message() : "Not a directory");
-        return false;
+    const std::filesystem::path folder(directory);
+    std::filesystem::create_directories(folder, reason);
+    std::string first; // by name, of those that are in the way
+    for (std::filesystem::directory_iterator entry(folder, reason), end; !reason && entry != end; entry.increment(reason)) {
+        const std::string name = entry->path().filename().string();
+        if (CardContainer::isRecordFile(name) && !entry->is_directory(reason) && (first.empty() || name < first))
+            first = name;
     }
-    for (const QString& name : folder.entryList({"*.CAN", "*.can", "*.xcb"}, QDir::Files | QDir::CaseSensitive)) {
-        error = directory + ": holds the record file " + QFile::encodeName(name).toStdString() + " already";
+    if (reason || !first.empty()) {
+        error = directory + ": " + (reason ? reason.message() : "holds the record file " + first + " already");
         return false;
     }
     std::filesystem::remove_all(mDirectory, reason); // of a run that was ended

@@ -318,9 +318,13 @@ void TestCli::damageIsNamed()
 void TestCli::namesMayBeAnyBytes()
 {
     const Answer answer = shell("set -e; d=$'no\\xff\\xc3'; mkdir $d; cp 'card/LOG 1.CAN' $d/$'\\xfe.CAN'; cp Profile.xml $d/$'\\xe9.xml'; "
-                                "\"$1\" csv $d --profile $d/$'\\xe9.xml' -o $d/$'\\xe9.csv'; head -n 1 $d/$'\\xe9.csv'; \"$1\" info $d/$'\\xfe.CAN'; rm -r $d");
+                                "\"$1\" csv $d --profile $d/$'\\xe9.xml' -o $d/$'\\xe9.csv'; head -n 1 $d/$'\\xe9.csv'; \"$1\" info $d/$'\\xfe.CAN'; "
+                                "\"$1\" simulate $d 2>&1 || true; \"$1\" csv $d --profile Profile.xml -o $d/v.csv --verbose 2>&-; "
+                                "if grep flight $d/v.csv; then exit 1; fi; rm -r $d");
+    QCOMPARE(answer.status, 0);
     QCOMPARE(answer.errors, QByteArray());
-    QVERIFY2(answer.out.startsWith("Time;height") && answer.out.contains("\n\\xfe.CAN  2024-05-01"), answer.out.constData());
+    QVERIFY2(answer.out.startsWith("Time;height") && answer.out.contains("\n\\xfe.CAN  2024-05-01") &&
+                 answer.out.contains("no\\xff\\xc3: holds the record file \\xfe.CAN already"), answer.out.constData());
 }
 
 void TestCli::tablesForPeople_data()
