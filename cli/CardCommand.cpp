@@ -2,6 +2,7 @@
 
 #include "app/FileName.h"
 #include "app/Progress.h"
+#include "card/record/RecordFormats.h"
 #include "cli/Resources.h"
 
 #include <algorithm>
@@ -108,7 +109,7 @@ std::string CardCommand::openCard()
     if (!problem.empty())
         return problem;
     if (mContainer.recordCycles().empty())
-        return mCard + ": the folder holds no record file (*.CAN, *.can, *.xcb)";
+        return mCard + ": the folder holds no record file (" + RecordFormats::patternText().toStdString() + ")";
     if (isGiven("--cycle") && !mContainer.recordCycles().contains(mCycle))
         return mCard + ": no cycle " + std::to_string(mCycle);
     return {};

@@ -2,6 +2,7 @@
 
 #include "app/FileName.h"
 #include "app/Progress.h"
+#include "card/record/RecordFormats.h"
 #include "cli/CardCommand.h"
 #include "cli/JsonWriter.h"
 #include "cli/TextTable.h"
@@ -71,7 +72,7 @@ int CommandInfo::run()
     if (!container.readContainer(decodeFileName(folder)))
         return fail(folderProblem(folder));
     if (isFile && !container.recordFiles().contains(mFile))
-        return fail(mCard + ": no record file (*.CAN, *.can, *.xcb)");
+        return fail(mCard + ": no record file (" + RecordFormats::patternText().toStdString() + ")");
     const int status = print(mJson ? json(container) : tables(container));
     if (status != eDone)
         return status;
@@ -112,7 +113,7 @@ std::string CommandInfo::tables(const CardContainer& container) const
 {
     const std::string heading = "Card " + visibleText(mCard);
     if (container.recordFiles().empty())
-        return heading + ": no record file (*.CAN, *.can, *.xcb) in this folder\n";
+        return heading + ": no record file (" + RecordFormats::patternText().toStdString() + ") in this folder\n";
     TextTable cycles({"Cycle", "Date", "Ends at [h:m:s]", "Files"});
     for (const auto& [number, cycle] : container.recordCycles()) {
         if (isWanted(cycle))

@@ -1,6 +1,7 @@
 #include "sim/DemoCard.h"
 
 #include "app/Numeric.h"
+#include "card/record/RecordFormats.h"
 #include "sim/FlightModel.h"
 #include "sim/MessageSchedule.h"
 
@@ -50,7 +51,7 @@ bool DemoCard::prepare(const std::string& directory, const DemoCardOptions& opti
         error = directory + ": " + (reason ? reason.message() : "Not a directory");
         return false;
     }
-    for (const QString& name : folder.entryList({"*.CAN", "*.can", "*.xcb"}, QDir::Files | QDir::CaseSensitive)) {
+    for (const QString& name : folder.entryList(RecordFormats::patterns(), QDir::Files | QDir::CaseSensitive)) {
         error = directory + ": holds the record file " + QFile::encodeName(name).toStdString() + " already";
         return false;
     }
