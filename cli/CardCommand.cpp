@@ -68,7 +68,7 @@ std::string loadProfileFile(Profile& profile, const std::string& file, const std
 CardCommand::CardCommand(CLI::App& program, const char* name, const char* description, const char* example)
     : Command(program, name, description, example), mProfile(console()), mContainer(console(), mProfile, nullProgress())
 {
-    options().add("CARD", mCard, "the card folder", CommandOptions::eRequired);
+    options().add("CARD", mCard, "the card folder, or a log of a CAN bus", CommandOptions::eRequired);
     options().add("--profile", mProfileFile, "profile file (default: the shipped profile \"915\")");
     options().add("--variant", mVariant, "variant of the profile (default: none)");
     options().add("--unit", mUnit, "metric (default) or imperial", CommandOptions::eOptional,
@@ -108,6 +108,8 @@ std::string CardCommand::openCard()
     const std::string problem = systemProblem(mContainer);
     if (!problem.empty())
         return problem;
+    if (mContainer.recordCycles().empty() && !mContainer.problems().empty())
+        return problemText(mContainer, mContainer.problems().front());
     if (mContainer.recordCycles().empty())
         return mCard + ": the folder holds no record file (" + RecordFormats::patternText().toStdString() + ")";
     if (isGiven("--cycle") && !mContainer.recordCycles().contains(mCycle))

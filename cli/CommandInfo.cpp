@@ -54,7 +54,7 @@ void writeCycle(JsonWriter& writer, uint32_t number, const RecordCycle& cycle)
 CommandInfo::CommandInfo(CLI::App& program)
     : Command(program, "info", "list a card's record files and power cycles", "zarn-cli info /media/card")
 {
-    options().add("CARD", mCard, "the card folder, or one record file of it", CommandOptions::eRequired);
+    options().add("CARD", mCard, "the card folder, one record file of it, or a log of a CAN bus", CommandOptions::eRequired);
     addJson();
 }
 
@@ -68,7 +68,7 @@ int CommandInfo::run()
     Profile profile(console());
     CardContainer container(console(), profile, nullProgress());
     // A file's neighbours are read too: its date may be known from the next one.
-    const std::string folder = !isFile ? mCard : path.has_parent_path() ? path.parent_path().string() : ".";
+    const std::string folder = isFile ? encodeFileName(RecordFormats::cardOf(decodeFileName(mCard))) : mCard;
     if (!container.readContainer(decodeFileName(folder)))
         return fail(folderProblem(folder));
     if (isFile && !container.recordFiles().contains(mFile))

@@ -1,6 +1,7 @@
 #include "card/record/RecordFormats.h"
 
 #include "app/FileName.h"
+#include "card/record/CandumpFile.h"
 #include "card/record/RecordFile.h"
 
 #include <QFileInfo>
@@ -15,6 +16,7 @@ namespace {
 constexpr std::size_t kBeginning = 64 * 1024; // bytes by which a content is judged
 
 constexpr std::array<std::string_view, 3> kUnitExtensions{"CAN", "can", "xcb"};
+constexpr std::array<std::string_view, 1> kLogExtensions{"log"};
 
 template <typename Reader> std::unique_ptr<RecordReader> make(const Console& console, Progress& progress)
 {
@@ -24,6 +26,7 @@ template <typename Reader> std::unique_ptr<RecordReader> make(const Console& con
 // The unit's own files are read however damaged their header is.
 constexpr std::array kFormats{
     RecordFormat{kUnitExtensions, false, nullptr, &make<RecordFile>},
+    RecordFormat{kLogExtensions, true, &CandumpFile::accepts, &make<CandumpFile>},
 };
 
 /// Whether a content is of the format. A file that cannot be read is: its reader says why.
