@@ -4,10 +4,9 @@
 #include "card/record/CandumpFile.h"
 #include "card/record/RecordFile.h"
 
-#include <QFileInfo>
-
 #include <algorithm>
 #include <array>
+#include <filesystem>
 
 namespace ZARN {
 
@@ -74,9 +73,11 @@ QStringList RecordFormats::patterns()
 
 QString RecordFormats::cardOf(const QString& path)
 {
-    const QFileInfo info(path);
-    const RecordFormat* pFormat = ofName(encodeFileName(path));
-    return !info.isFile() || (pFormat && pFormat->holdsCycle) ? info.absoluteFilePath() : info.absolutePath();
+    std::error_code ignored;
+    const std::filesystem::path file = std::filesystem::absolute(encodeFileName(path), ignored);
+    const RecordFormat* pFormat = ofName(file.native());
+    const bool isInFolder = std::filesystem::is_regular_file(file, ignored) && !(pFormat && pFormat->holdsCycle);
+    return decodeFileName(isInFolder ? file.parent_path() : file);
 }
 
 } // namespace ZARN
