@@ -11,6 +11,7 @@
 #include "app/gui/ImageHandler.h"
 #include "app/gui/Kernel.h"
 #include "card/CardContainer.h"
+#include "card/record/RecordFormats.h"
 #include "profile/Profile.h"
 #include "project/Project.h"
 #include "ui/main/DialogMain.h"
@@ -36,7 +37,7 @@ bool isCard(const std::string& argument)
     const QFileInfo info(QString::fromStdString(argument));
     if (!info.exists())
         return !argument.empty() && !argument.starts_with('-');
-    return info.isDir() || (info.isFile() && QStringList{"CAN", "can", "xcb"}.contains(info.suffix()));
+    return info.isDir() || (info.isFile() && RecordFormats::ofName(argument));
 }
 
 void registerOptions(CmdLine& cmdLine)

@@ -4,7 +4,7 @@
 #include "app/FileName.h"
 #include "app/Progress.h"
 #include "card/FlightDetector.h"
-#include "card/record/RecordFile.h"
+#include "card/record/RecordFormats.h"
 #include "profile/MetricUnits.h"
 #include "vesk/base/Timer.h"
 
@@ -13,34 +13,38 @@
 #include <algorithm>
 #include <filesystem>
 #include <new>
+#include <utility>
 
 namespace ZARN {
 
 namespace {
-
-/// The text after the last dot; none when there is no dot.
-std::string extension(const std::string& name)
-{
-    const std::size_t dot = name.rfind('.');
-    return dot == std::string::npos ? std::string() : name.substr(dot + 1);
-}
 
 QString lastComponent(const QString& path)
 {
     return path.mid(path.lastIndexOf('/') + 1);
 }
 
-/// The names of a folder's plain files. Hidden ones are left out: some systems leave such companions of real files on cards.
+/// The names of a folder's plain files. Hidden ones are left out: some systems leave such companions of real files on cards. Of a
+/// file that is a card by itself, its own name.
 struct Listing {
     explicit Listing(const QString& path);
+    QString folder;
     std::vector<std::string> names;
     std::error_code openError;
     std::error_code readError; ///< why the names are not all
 };
 
-Listing::Listing(const QString& path)
+Listing::Listing(const QString& path) : folder(path)
 {
-    std::filesystem::directory_iterator entry(encodeFileName(path), openError);
+    const std::filesystem::path file(encodeFileName(path));
+    const RecordFormat* pFormat = RecordFormats::ofName(file.native());
+    std::error_code ignored;
+    if (pFormat && pFormat->holdsCycle && std::filesystem::is_regular_file(file, ignored)) {
+        folder = file.has_parent_path() ? decodeFileName(file.parent_path()) : QString(".");
+        names.push_back(file.filename());
+        return;
+    }
+    std::filesystem::directory_iterator entry(file, openError);
     if (openError)
         return;
     for (; entry != std::filesystem::directory_iterator(); entry.increment(readError)) {
@@ -51,7 +55,7 @@ Listing::Listing(const QString& path)
     }
 }
 
-CardProblem problemOf(const RecordFile& file)
+CardProblem problemOf(const RecordReader& file)
 {
     return {encodeFileName(lastComponent(file.fileName)), file.problem(), file.isSystemError()};
 }
@@ -74,12 +78,6 @@ CardContainer& CardContainer::instance()
     return container;
 }
 
-bool CardContainer::isRecordFile(const std::string& name)
-{
-    const std::string ending = extension(name);
-    return !name.starts_with('.') && (ending == "CAN" || ending == "can" || ending == "xcb");
-}
-
 void CardContainer::clear()
 {
     mLoadedCycle.reset();
@@ -98,7 +96,7 @@ bool CardContainer::readContainer(const QString& folder)
     mPath = path;
     clear();
     mConsole.print("CardContainer::readContainer: Path <%s> NrFiles %d\n", path.toUtf8().constData(), static_cast<int>(listing.names.size()));
-    readHeaders(listing.names);
+    readHeaders(listing.folder, listing.names);
     if (listing.readError)
         mFolderProblems.push_back({{}, tr("it cannot be listed to its end: %1").arg(qt_error_string(listing.readError.value())), true});
     joinProblems();
@@ -108,17 +106,19 @@ bool CardContainer::readContainer(const QString& folder)
     return true;
 }
 
-void CardContainer::readHeaders(const std::vector<std::string>& names)
+void CardContainer::readHeaders(const QString& folder, const std::vector<std::string>& names)
 {
     mFolderProblems.clear();
     mLoadProblems.clear();
     for (const std::string& name : names) {
-        if (isRecordFile(name)) {
-            RecordFile file(mConsole, *mpProgress);
-            file.readRecordInfo(mPath + "/" + decodeFileName(name));
-            mFiles[name] = file.recordInfo();
-            if (!file.problem().isEmpty())
-                mFolderProblems.push_back(problemOf(file));
+        const QString path = folder + "/" + decodeFileName(name);
+        if (const auto pFile = RecordFormats::reader(path, mConsole, *mpProgress)) {
+            pFile->readRecordInfo(path);
+            mFiles[name] = pFile->recordInfo();
+            if (!pFile->problem().isEmpty())
+                mFolderProblems.push_back(problemOf(*pFile));
+        } else if (RecordFormats::ofName(name)) {
+            mFolderProblems.push_back({name, tr("no CAN frame in it"), false});
         }
         mpProgress->setProgress(0); // whole-number division of the file's number by their count: 0 until all are read
     }
@@ -135,7 +135,7 @@ void CardContainer::joinProblems()
 void CardContainer::markCycleStarts()
 {
     for (auto& [name, info] : mFiles)
-        info.startsCycle = !info.dateTime.isValid();
+        info.startsCycle = info.holdsCycle || !info.dateTime.isValid();
 }
 
 void CardContainer::backFillDates()
@@ -143,7 +143,7 @@ void CardContainer::backFillDates()
     RecordInfo* pPrevious = nullptr;
     for (auto& [name, info] : mFiles) {
         // The unit was switched on when the current file began, less the time that the previous one ran.
-        if (pPrevious && !pPrevious->dateTime.isValid())
+        if (pPrevious && !pPrevious->dateTime.isValid() && !pPrevious->holdsCycle && !info.holdsCycle)
             pPrevious->dateTime = info.dateTime.addMSecs(-wholeMilliseconds(pPrevious->endTime));
         pPrevious = &info;
     }
@@ -152,8 +152,9 @@ void CardContainer::backFillDates()
 void CardContainer::calcCycles()
 {
     uint32_t number = 0;
+    bool isWhole = false; // nothing joins a file that is a cycle by itself
     for (const auto& [name, info] : mFiles) {
-        if (info.startsCycle) {
+        if (std::exchange(isWhole, info.holdsCycle) || info.startsCycle) {
             ++number;
             mCycles[number].name = QString("Cycle %1").arg(number);
         }
@@ -269,16 +270,20 @@ void CardContainer::recalculate(int flight)
 double CardContainer::loadFile(const RecordInfo& info)
 {
     const uint32_t before = mData.count();
-    RecordFile file(mConsole, *mpProgress);
-    file.setRecordInfo(info);
-    if (!file.readRecordData(mData) && mLoadError.empty())
+    const auto pFile = RecordFormats::reader(info.fileName, mConsole, *mpProgress);
+    if (!pFile) {
+        mLoadProblems.push_back({encodeFileName(lastComponent(info.fileName)), tr("its content has changed since the card was opened"), true});
+        return 0.0;
+    }
+    pFile->setRecordInfo(info);
+    if (!pFile->readRecordData(mData) && mLoadError.empty())
         mLoadError = encodeFileName(info.fileName) + ": not enough memory for its records";
-    const CardProblem problem = problemOf(file);
+    const CardProblem problem = problemOf(*pFile);
     const auto isKnown = [&problem](const CardProblem& other) { return other.file == problem.file && other.reason == problem.reason; };
     if (!problem.reason.isEmpty() && std::none_of(mFolderProblems.begin(), mFolderProblems.end(), isKnown))
         mLoadProblems.push_back(problem);
     mConsole.print("load Files <%s>\n", info.fileName.toUtf8().constData());
-    return mData.count() > before ? file.endTime : 0.0;
+    return mData.count() > before ? pFile->endTime : 0.0;
 }
 
 void CardContainer::calcIndex()

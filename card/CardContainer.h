@@ -30,10 +30,9 @@ public:
 
     /// Forgets the files and cycles; the loaded data stays.
     void clear();
-    /// Whether a file of that name is one of a card's.
-    [[nodiscard]] static bool isRecordFile(const std::string& name);
     /// Reads the headers of a card folder's record files and groups them into cycles. @return false, changing nothing, when
-    /// the folder does not exist or cannot be listed. Separators at the path's end are dropped.
+    /// the folder does not exist or cannot be listed. Separators at the path's end are dropped. A file that holds a whole cycle is
+    /// a card as well.
     bool readContainer(const QString& folder);
 
     /// The files by name, in byte order.
@@ -96,7 +95,7 @@ public:
     static void resampleData(double step, const std::vector<Sample>& in, std::vector<Sample>& out) { ZARN::resampleData(step, in, out); }
 
 private:
-    void readHeaders(const std::vector<std::string>& names);
+    void readHeaders(const QString& folder, const std::vector<std::string>& names);
     void markCycleStarts();
     void backFillDates();
     void calcCycles();

@@ -2,6 +2,7 @@
 
 #include "app/FileName.h"
 #include "app/Progress.h"
+#include "card/record/RecordFormats.h"
 #include "cli/Resources.h"
 
 #include <algorithm>
@@ -67,7 +68,7 @@ std::string loadProfileFile(Profile& profile, const std::string& file, const std
 CardCommand::CardCommand(CLI::App& program, const char* name, const char* description, const char* example)
     : Command(program, name, description, example), mProfile(console()), mContainer(console(), mProfile, nullProgress())
 {
-    options().add("CARD", mCard, "the card folder", CommandOptions::eRequired);
+    options().add("CARD", mCard, "the card folder, or a log of a CAN bus", CommandOptions::eRequired);
     options().add("--profile", mProfileFile, "profile file (default: the shipped profile \"915\")");
     options().add("--variant", mVariant, "variant of the profile (default: none)");
     options().add("--unit", mUnit, "metric (default) or imperial", CommandOptions::eOptional,
@@ -107,8 +108,10 @@ std::string CardCommand::openCard()
     const std::string problem = systemProblem(mContainer);
     if (!problem.empty())
         return problem;
+    if (mContainer.recordCycles().empty() && !mContainer.problems().empty())
+        return problemText(mContainer, mContainer.problems().front());
     if (mContainer.recordCycles().empty())
-        return mCard + ": the folder holds no record file (*.CAN, *.can, *.xcb)";
+        return mCard + ": the folder holds no record file (" + RecordFormats::patternText().toStdString() + ")";
     if (isGiven("--cycle") && !mContainer.recordCycles().contains(mCycle))
         return mCard + ": no cycle " + std::to_string(mCycle);
     return {};

@@ -2,6 +2,7 @@
 
 #include "app/FileName.h"
 #include "app/Progress.h"
+#include "card/record/RecordFormats.h"
 #include "cli/CardCommand.h"
 #include "cli/JsonWriter.h"
 #include "cli/TextTable.h"
@@ -53,7 +54,7 @@ void writeCycle(JsonWriter& writer, uint32_t number, const RecordCycle& cycle)
 CommandInfo::CommandInfo(CLI::App& program)
     : Command(program, "info", "list a card's record files and power cycles", "zarn-cli info /media/card")
 {
-    options().add("CARD", mCard, "the card folder, or one record file of it", CommandOptions::eRequired);
+    options().add("CARD", mCard, "the card folder, one record file of it, or a log of a CAN bus", CommandOptions::eRequired);
     addJson();
 }
 
@@ -67,11 +68,11 @@ int CommandInfo::run()
     Profile profile(console());
     CardContainer container(console(), profile, nullProgress());
     // A file's neighbours are read too: its date may be known from the next one.
-    const std::string folder = !isFile ? mCard : path.has_parent_path() ? path.parent_path().string() : ".";
+    const std::string folder = isFile ? encodeFileName(RecordFormats::cardOf(decodeFileName(mCard))) : mCard;
     if (!container.readContainer(decodeFileName(folder)))
         return fail(folderProblem(folder));
     if (isFile && !container.recordFiles().contains(mFile))
-        return fail(mCard + ": no record file (*.CAN, *.can, *.xcb)");
+        return fail(mCard + ": no record file (" + RecordFormats::patternText().toStdString() + ")");
     const int status = print(mJson ? json(container) : tables(container));
     if (status != eDone)
         return status;
@@ -112,7 +113,7 @@ std::string CommandInfo::tables(const CardContainer& container) const
 {
     const std::string heading = "Card " + visibleText(mCard);
     if (container.recordFiles().empty())
-        return heading + ": no record file (*.CAN, *.can, *.xcb) in this folder\n";
+        return heading + ": no record file (" + RecordFormats::patternText().toStdString() + ") in this folder\n";
     TextTable cycles({"Cycle", "Date", "Ends at [h:m:s]", "Files"});
     for (const auto& [number, cycle] : container.recordCycles()) {
         if (isWanted(cycle))

@@ -1,9 +1,11 @@
 #include "app/Revision.h"
+#include "cli/CommandCandump.h"
 #include "cli/CommandCsv.h"
 #include "cli/CommandEvents.h"
 #include "cli/CommandFaults.h"
 #include "cli/CommandFlights.h"
 #include "cli/CommandGpx.h"
+#include "cli/CommandIds.h"
 #include "cli/CommandInfo.h"
 #include "cli/CommandKml.h"
 #include "cli/CommandPath.h"
@@ -61,8 +63,8 @@ int runProgram(int argc, char** argv)
     program.set_version_flag("--version", Revision::getRevisionString());
     bool isVerbose = false;
     program.add_flag("--verbose", isVerbose, "tell on standard error what is done");
-    const auto commands = makeCommands<CommandInfo, CommandFlights, CommandEvents, CommandFaults, CommandPath, CommandValue, CommandCsv,
-                                       CommandKml, CommandGpx, CommandReport, CommandSummary, CommandProfile, CommandSimulate>(program);
+    const auto commands = makeCommands<CommandInfo, CommandIds, CommandFlights, CommandEvents, CommandFaults, CommandPath, CommandValue, CommandCsv,
+                                       CommandKml, CommandGpx, CommandCandump, CommandReport, CommandSummary, CommandProfile, CommandSimulate>(program);
     program.footer("Example: zarn-cli csv /media/card -o flight.csv");
     if (argc < 2) {
         std::fputs(program.help().c_str(), stderr);

@@ -1,7 +1,7 @@
 #include "sim/DemoCard.h"
 
 #include "app/Numeric.h"
-#include "card/CardContainer.h"
+#include "card/record/RecordFormats.h"
 #include "sim/FlightModel.h"
 #include "sim/MessageSchedule.h"
 
@@ -47,7 +47,7 @@ bool DemoCard::prepare(const std::string& directory, const DemoCardOptions& opti
     std::string first; // by name, of those that are in the way
     for (std::filesystem::directory_iterator entry(folder, reason), end; !reason && entry != end; entry.increment(reason)) {
         const std::string name = entry->path().filename().string();
-        if (CardContainer::isRecordFile(name) && !entry->is_directory(reason) && (first.empty() || name < first))
+        if (!name.starts_with('.') && RecordFormats::ofName(name) && !entry->is_directory(reason) && (first.empty() || name < first))
             first = name;
     }
     if (reason || !first.empty()) {

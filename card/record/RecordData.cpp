@@ -136,6 +136,11 @@ template <typename Visitor> void RecordData::visitInOrder(Visitor visit) const
         visit(identifier, mChannels.at(identifier).entries.stored(next[identifier]++));
 }
 
+void RecordData::forEachInOrder(const std::function<void(uint32_t, const StoredRecord&)>& visit) const
+{
+    visitInOrder([&visit](uint32_t identifier, const StoredRecord& record) { visit(identifier, record); });
+}
+
 RecordChannel* RecordData::pseudoChannel(uint32_t identifier) const
 {
     if (mPseudoCount != mCount) { // made before the newest records came

@@ -2,6 +2,7 @@
 
 #include "card/record/RecordChannel.h"
 
+#include <functional>
 #include <map>
 
 namespace ZARN {
@@ -51,6 +52,9 @@ public:
     /// The channel of an identifier, pseudo-channels included; null when it holds nothing.
     [[nodiscard]] const RecordChannel* channel(uint32_t identifier) const;
     [[nodiscard]] RecordChannel* channel(uint32_t identifier);
+
+    /// Calls `visit` with every record, without the pseudo-channels, in the order of reception.
+    void forEachInOrder(const std::function<void(uint32_t identifier, const StoredRecord& record)>& visit) const;
 
     void buildTimeIndex();
 

@@ -1,17 +1,11 @@
 #include "card/record/RecordFile.h"
 
 #include "app/Console.h"
-#include "app/FileName.h"
-#include "app/Progress.h"
 #include "card/record/ByteOrder.h"
 #include "card/record/RecordData.h"
 
 #include <algorithm>
 #include <cerrno>
-
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace ZARN {
 
@@ -81,83 +75,32 @@ template <bool Swap> StoredRecord parseRecord(const uint8_t* pRecord)
 
 } // namespace
 
-void RecordFile::note(const QString& problem, bool isSystemError)
+void RecordFile::scanFile(FILE* pFile)
 {
-    mProblem += mProblem.isEmpty() ? problem : "; " + problem;
-    mIsSystemError |= isSystemError;
-}
-
-void RecordFile::noteSystemError(int error)
-{
-    note(tr("it cannot be read: %1").arg(qt_error_string(error)), true);
-}
-
-RecordFile::File RecordFile::openFile()
-{
-    mProblem.clear();
-    mIsSystemError = false;
-    // Not blocking: a pipe in the folder must not stop the program.
-    const int descriptor = open(encodeFileName(fileName).c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-    struct stat status {};
-    if (descriptor >= 0 && fstat(descriptor, &status) == 0) {
-        if (S_ISREG(status.st_mode)) {
-            mSize = status.st_size;
-            recordCount = recordsOf(mSize);
-            if (FILE* pFile = fdopen(descriptor, "rb"))
-                return File(pFile);
-        } else {
-            errno = EINVAL;
-        }
-    }
-    const int error = errno;
-    if (descriptor >= 0)
-        close(descriptor);
-    noteSystemError(error);
-    errno = error;
-    return nullptr;
-}
-
-void RecordFile::readRecordInfo(const QString& path)
-{
-    fileName = path;
-    const File file = openFile();
-    if (!file) {
-        const int error = errno;
-        mConsole.print("RecordFile::readRecordInfo: Could not open %s\n", fileName.toUtf8().constData());
-        mConsole.systemError("Error:", error);
-        return;
-    }
+    recordCount = recordsOf(fileSize());
     samples = static_cast<uint32_t>(recordCount);
-    if (readInfo(file.get(), true))
+    if (readInfo(pFile, true))
         noteDamage();
+}
+
+bool RecordFile::loadFile(FILE* pFile, RecordData& data)
+{
+    recordCount = recordsOf(fileSize());
+    noteLost(static_cast<uint32_t>(recordCount));
+    return !readInfo(pFile, false) || readData(pFile, data);
 }
 
 void RecordFile::noteDamage()
 {
-    if (mSize < kHeaderSize) {
-        note(tr("%1 bytes, no record").arg(mSize), false);
+    if (fileSize() < kHeaderSize) {
+        note(tr("%1 bytes, no record").arg(fileSize()), false);
         return;
     }
     if (!mHasMark)
         note(tr("the header is damaged: no byte-order mark"), false);
-    if ((mSize - kHeaderSize) % kRecordSize != 0)
+    if ((fileSize() - kHeaderSize) % kRecordSize != 0)
         note(tr("the last record is cut off"), false);
-    if (!hasSoundTimes() && endTime < startTime)
-        note(tr("damaged: its records end (%1 s) before they begin (%2 s)").arg(endTime).arg(startTime), false);
-    else if (!hasSoundTimes())
-        note(tr("damaged: its records end at %1 s").arg(endTime), false);
-}
-
-bool RecordFile::readRecordData(RecordData& data)
-{
-    const File file = openFile();
-    if (!file) {
-        mConsole.print("RecordFile::readRecordData: Could not open %s\n", fileName.toUtf8().constData());
-        return true;
-    }
-    if (samples > static_cast<uint32_t>(recordCount))
-        note(tr("%1 of %2 records are left since the card was opened").arg(recordCount).arg(samples), true);
-    return !readInfo(file.get(), false) || readData(file.get(), data);
+    noteUnsoundTimes();
 }
 
 bool RecordFile::readTime(FILE* pFile, double& seconds) const
@@ -195,9 +138,7 @@ bool RecordFile::readInfo(FILE* pFile, bool withTimes)
     if (readHeader(pFile, withTimes))
         return true;
     // What a failed read leaves is no header: its zeros would pass for the unit's numbers, and for the other byte order.
-    const QString path = fileName;
-    static_cast<RecordInfo&>(*this) = {};
-    fileName = path;
+    forgetInfo();
     recordCount = 0;
     if (std::ferror(pFile) || errno != 0)
         noteSystemError(errno != 0 ? errno : EIO);
@@ -243,7 +184,6 @@ bool RecordFile::readHeader(FILE* pFile, bool withTimes)
 
 bool RecordFile::readData(FILE* pFile, RecordData& data)
 {
-    progress = 0;
     return swapped ? readRecords<true>(pFile, data) : readRecords<false>(pFile, data);
 }
 
@@ -256,7 +196,7 @@ template <bool Swap> bool RecordFile::readRecords(FILE* pFile, RecordData& data)
         errno = 0;
         const auto got = static_cast<int32_t>(std::fread(buffer.get(), kRecordSize, static_cast<std::size_t>(wanted), pFile));
         for (int32_t i = 0; i < got;) {
-            reportProgress(done + i);
+            tellProgress(percentOf(done + i, recordCount));
             const int32_t run = std::min(got - i, nextPercent(done + i, recordCount) - (done + i));
             if (!appendRecords<Swap>(buffer.get() + i * kRecordSize, run, data))
                 return false;
@@ -267,7 +207,7 @@ template <bool Swap> bool RecordFile::readRecords(FILE* pFile, RecordData& data)
             if (std::ferror(pFile))
                 noteSystemError(errno != 0 ? errno : EIO);
             note(tr("only %1 of %2 records could be read").arg(done).arg(recordCount), true);
-            mConsole.print("RecordFile::readData: %s ends after %d of %d records\n", fileName.toUtf8().constData(), done, recordCount);
+            console().print("RecordFile::readData: %s ends after %d of %d records\n", fileName.toUtf8().constData(), done, recordCount);
             break;
         }
     }
@@ -287,22 +227,9 @@ template <bool Swap> bool RecordFile::appendRecords(const uint8_t* pRecords, int
         if (!data.append(loadInteger<uint32_t, Swap>(pRecords + 12), record))
             break;
     }
-    if (done > 0) {
-        const double from = recordTime(static_cast<uint32_t>(lowest >> 32), static_cast<uint32_t>(lowest));
-        const double to = recordTime(static_cast<uint32_t>(highest >> 32), static_cast<uint32_t>(highest));
-        startTime = first ? from : std::min(startTime, from);
-        endTime = first ? to : std::max(endTime, to);
-    }
+    if (done > 0)
+        addSpan(first, lowest, highest);
     return done == count;
-}
-
-void RecordFile::reportProgress(int32_t record)
-{
-    progress = percentOf(record, recordCount);
-    if (progress == lastProgress)
-        return;
-    lastProgress = progress;
-    mProgress.setProgress(progress);
 }
 
 bool RecordFile::getChar(FILE* pFile, char& value) const

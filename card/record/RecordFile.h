@@ -1,47 +1,24 @@
 #pragma once
 
-#include "card/record/RecordInfo.h"
-
-#include <QCoreApplication>
-
-#include <cstdio>
-#include <memory>
+#include "card/record/RecordReader.h"
 
 namespace ZARN {
 
-class Console;
-class Progress;
-class RecordData;
-
 /// Reads one record file: a 128-byte header and 28-byte data records, in the byte order that the mark at offset 0 tells.
-/// Files are read with ordinary reads, never mapped: a medium that is pulled must not end the process. Only regular files are
-/// opened. No checksum exists; a record counts only when all its bytes came.
-class RecordFile : public RecordInfo {
+/// No checksum exists; a record counts only when all its bytes came.
+class RecordFile : public RecordReader {
     Q_DECLARE_TR_FUNCTIONS(ZARN::RecordFile)
 
 public:
-    RecordFile(const Console& console, Progress& receiver) : mConsole(console), mProgress(receiver) {}
+    using RecordReader::RecordReader;
 
     static constexpr int64_t kHeaderSize = 128;
     static constexpr int64_t kRecordSize = 28;
-
-    /// The header pass. A file that cannot be opened is said on the console and leaves the info as it was.
-    void readRecordInfo(const QString& path);
-    /// The full pass: appends every data record of the file named by `fileName`. @return false when memory ran out.
-    bool readRecordData(RecordData& data);
 
     /// @return false, leaving no info, when not all of it could be read.
     bool readInfo(FILE* pFile, bool withTimes);
     /// Reads the data records from the file's position on. @return false only when no memory is left for them.
     bool readData(FILE* pFile, RecordData& data);
-
-    /// What the last pass found wrong with the file, for people; empty when nothing is.
-    [[nodiscard]] const QString& problem() const { return mProblem; }
-    /// Whether that is the system's doing, not damage: the file may hold more than could be read.
-    [[nodiscard]] bool isSystemError() const { return mIsSystemError; }
-
-    [[nodiscard]] const RecordInfo& recordInfo() const { return *this; }
-    void setRecordInfo(const RecordInfo& info) { static_cast<RecordInfo&>(*this) = info; }
 
     // Field readers. Each exchanges the byte order when the file's differs from the host's. From a file: false, and 0 or an
     // empty string, when fewer bytes than the field's width remain.
@@ -63,14 +40,8 @@ public:
     void getbString(const char* source, int& index, char* buffer, int length) const;
 
 private:
-    struct Close {
-        void operator()(FILE* pFile) const { std::fclose(pFile); }
-    };
-    using File = std::unique_ptr<FILE, Close>;
-
-    File openFile();
-    void note(const QString& problem, bool isSystemError);
-    void noteSystemError(int error);
+    void scanFile(FILE* pFile) override;
+    bool loadFile(FILE* pFile, RecordData& data) override;
     void noteDamage();
     bool readHeader(FILE* pFile, bool withTimes);
     bool readTime(FILE* pFile, double& seconds) const;
@@ -78,18 +49,10 @@ private:
     QDateTime readDateTime(FILE* pFile) const;
     template <bool Swap> bool readRecords(FILE* pFile, RecordData& data);
     template <bool Swap> bool appendRecords(const uint8_t* pRecords, int32_t count, RecordData& data);
-    void reportProgress(int32_t record);
 
-    const Console& mConsole;
-    Progress& mProgress;
-    QString mProblem;
-    bool mIsSystemError = false;
     bool mHasMark = false; ///< the header begins with the mark, in either order
-    int64_t mSize = 0;     ///< bytes
     bool swapped = false; ///< the file's byte order differs from the host's
     int32_t recordCount = 0;
-    int32_t progress = 0; ///< percent
-    int32_t lastProgress = -1;
 };
 
 } // namespace ZARN

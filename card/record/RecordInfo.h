@@ -25,6 +25,8 @@ struct RecordInfo {
     std::string engineType;
     std::string softwarePartB;
     std::string emuSoftwareVersion;
+    bool holdsCycle = false;  ///< the file is a power cycle of its own, whole; its date is that of the time 0
+    uint64_t clockStart = 0;  ///< that time 0 in nanoseconds since 1970, where the file tells it so finely; else 0
     bool startsCycle = false; ///< set by the container: the unit was switched on with this file
 
     /// Whether the span can be one; else the header is damaged.

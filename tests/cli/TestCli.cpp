@@ -334,6 +334,9 @@ void TestCli::tablesForPeople_data()
     QTest::newRow("info") << QStringList{"info", "card"} << QStringList{"LOG 1.CAN", "2024-05-01 12:00:00", "00:01:01.000", "808"};
     QTest::newRow("info of one file") << QStringList{"info", "card/LOG 1.CAN"} << QStringList{"LOG 1.CAN", "B \"quoted\"", "C\\x01\\xff"};
     QTest::newRow("info, nothing there") << QStringList{"info", "empty"} << QStringList{"empty", "no record file"};
+    QTest::newRow("ids") << QStringList{"ids", "CARD"} << QStringList{"Rate [1/s]", "404      2  00:00:01.000   00:01:01.000        6.72  height\n", "0x2BC"};
+    QTest::newRow("candump") << QStringList{"candump", "CARD", "-o", "-"}
+                             << QStringList{"(1714564800.000000) zarn0 001#0002000000000000\n", "(1714564860.000000) zarn0 001#0002000000000000\n"};
     QTest::newRow("flights") << QStringList{"flights", "CARD"} << QStringList{"Cycle 0", "No flight"};
     QTest::newRow("value") << QStringList{"value", "CARD", "--parameter", "height", "--time", "60.5", "--time", "99"}
                            << QStringList{"D/height\n", "Value [m]", "0.100000", "ok", "no data"};

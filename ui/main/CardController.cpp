@@ -3,6 +3,7 @@
 #include "app/Property.h"
 #include "card/CardContainer.h"
 #include "card/CardProblem.h"
+#include "card/record/RecordFormats.h"
 #include "sim/DemoCard.h"
 #include "ui/main/CardTree.h"
 #include "ui/main/DialogCard.h"
@@ -105,7 +106,7 @@ bool CardController::readFolder(const QString& folder)
     }
     mIsLoaded = false;
     mProblem = mSession.container.recordFiles().empty()
-                   ? tr("The folder %1 holds no record file (*.CAN, *.can, *.xcb).").arg(QDir::toNativeSeparators(folder))
+                   ? tr("The folder %1 holds no record file (%2).").arg(QDir::toNativeSeparators(folder), RecordFormats::patternText())
                    : QString();
     return true;
 }
@@ -200,10 +201,8 @@ QString CardController::droppedFolder(const QMimeData* pData)
 {
     for (const QUrl& url : pData->urls()) {
         const QFileInfo info(url.toLocalFile());
-        if (info.isDir())
-            return info.absoluteFilePath();
-        if (info.isFile())
-            return info.absolutePath();
+        if (info.isDir() || info.isFile())
+            return RecordFormats::cardOf(info.filePath());
     }
     return {};
 }

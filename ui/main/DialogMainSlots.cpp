@@ -6,6 +6,7 @@
 #include "app/Property.h"
 #include "app/gui/Kernel.h"
 #include "card/CardContainer.h"
+#include "card/record/RecordFormats.h"
 #include "profile/ui/DialogProfile.h"
 #include "profile/ui/DialogProfileInfo.h"
 #include "project/Project.h"
@@ -280,7 +281,7 @@ void DialogMain::restoreCard()
     if (!given.filePath().isEmpty() && !given.exists())
         mSession.console.print("could not open folder <%s>\n", mDesktop.cmdLine.operand().c_str());
     if (!given.filePath().isEmpty())
-        openFolder(given.isFile() ? given.absolutePath() : given.absoluteFilePath());
+        openFolder(RecordFormats::cardOf(given.filePath()));
     else if (!last.isEmpty() && !mDesktop.withDefaults)
         mpCardController->restoreFolder(last);
 }

@@ -179,7 +179,7 @@ void TestDialogMain::refusedFolder()
     QVERIFY(QDir().mkpath(home() + "/empty"));
     Answer answer(Answer::close);
     window.openFolder(home() + "/empty");
-    QCOMPARE(answer.text, "The folder " + home() + "/empty holds no record file (*.CAN, *.can, *.xcb).");
+    QCOMPARE(answer.text, "The folder " + home() + "/empty holds no record file (*.CAN, *.can, *.xcb, *.log).");
     QVERIFY(isShown<WidgetWelcome>(window));
     for (const int id : {eActionExportKml, eActionExportCsv, eActionExportGpx, eActionReport})
         QVERIFY(!window.action(id)->isEnabled()); // what is loaded is of another card

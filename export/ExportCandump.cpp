@@ -1,0 +1,63 @@
+#include "export/ExportCandump.h"
+
+#include "card/CardContainer.h"
+#include "card/PowerUp.h"
+
+#include <algorithm>
+#include <cinttypes>
+#include <cstdio>
+
+namespace ZARN {
+
+namespace {
+
+constexpr uint32_t kHighestStandard = 0x7FF;
+constexpr uint32_t kHighestIdentifier = 0x1FFFFFFF;
+constexpr uint64_t kTicksPerMicrosecond = 32;
+constexpr uint64_t kMicroseconds = 1'000'000; // of a second
+
+/// The clock at time 0 in microseconds since 1970; 0 without a clock.
+uint64_t clockOf(const CardContainer& container)
+{
+    const RecordCycle* pCycle = container.loadedCycle();
+    if (pCycle && !pCycle->files.empty() && pCycle->files.front().clockStart != 0)
+        return pCycle->files.front().clockStart / 1000;
+    const QDateTime powerUp = PowerUp::ofLoaded(container);
+    return powerUp.isValid() ? static_cast<uint64_t>(std::max<qint64>(powerUp.toMSecsSinceEpoch(), 0)) * 1000 : 0;
+}
+
+std::string lineOf(uint32_t identifier, const StoredRecord& record, uint64_t clock)
+{
+    const uint64_t ticks = record.ticks;
+    const uint64_t stamp = clock + ticks / kTicksPerMicrosecond + (ticks % kTicksPerMicrosecond * 2 >= kTicksPerMicrosecond ? 1 : 0);
+    const Payload& data = record.payload;
+    char text[96];
+    std::snprintf(text, sizeof text, "(%" PRIu64 ".%06" PRIu64 ") zarn0 %0*" PRIX32 "#%02X%02X%02X%02X%02X%02X%02X%02X\n", stamp / kMicroseconds,
+                  stamp % kMicroseconds, identifier <= kHighestStandard ? 3 : 8, identifier, data[0], data[1], data[2], data[3], data[4],
+                  data[5], data[6], data[7]);
+    return text;
+}
+
+} // namespace
+
+bool ExportCandump::exportData(const CardContainer& container, std::optional<TimeSpan> span, SafeFile& file)
+{
+    mError.clear();
+    mLeftOut = 0;
+    const uint64_t clock = clockOf(container);
+    bool isGood = file.open();
+    container.recordData().forEachInOrder([&](uint32_t identifier, const StoredRecord& record) {
+        if (!isGood || (span && !span->holds(record.time())))
+            return;
+        if (identifier > kHighestIdentifier)
+            ++mLeftOut;
+        else
+            isGood = file.write(lineOf(identifier, record, clock));
+    });
+    isGood = isGood && file.commit();
+    if (!isGood)
+        mError = file.error();
+    return isGood;
+}
+
+} // namespace ZARN
