@@ -22,13 +22,22 @@ public:
     static constexpr std::size_t maxNodes = 2'000'000; ///< elements, attributes, texts, comments, instructions and CDATA sections
     static constexpr std::size_t maxMemory = std::size_t(64) * 1024 * 1024; ///< bytes of the decoded text
 
+    /// Why and where a text is refused. The reason is an English sentence of the context "ZARN::XmlGuard".
+    struct Refusal {
+        const char* reason = "";
+        int line = 0; ///< 0 with the column where the reason has no place in the text; both count from 1
+        int column = 0;
+        bool isMalformed = false; ///< no limit is broken: it is no XML
+        QString textBefore;       ///< what was judged good until then; empty where nothing was
+    };
+
     /// Decodes a file's bytes, in any encoding that the parser knows, and judges the text. The encoding follows from the byte
     /// order mark, the first bytes or the XML declaration; the parser is to be given the decoded text, so that it cannot understand another one.
     /// @return the text, or nothing when the bytes are not valid in their encoding or break a limit.
-    static std::optional<QString> pass(std::string_view fileBytes);
+    static std::optional<QString> pass(std::string_view fileBytes, Refusal* pRefusal = nullptr);
 
     /// Judges text in UTF-8 without a byte order mark: balanced tags, no document type declaration, all limits but the file size kept.
-    static bool accepts(std::string_view utf8);
+    static bool accepts(std::string_view utf8, Refusal* pRefusal = nullptr);
 };
 
 } // namespace ZARN
