@@ -1,6 +1,7 @@
 #include "app/XmlGuard.h"
 
 #include <QByteArrayView>
+#include <QCoreApplication>
 #include <QStringConverter>
 
 #include <algorithm>
@@ -20,13 +21,35 @@ public:
         for (std::size_t next = 0; (next = mText.find('<', mPosition)) != std::string_view::npos;) {
             countText(mText.substr(mPosition, next - mPosition));
             mPosition = next;
-            if (!markup() || mMemory > XmlGuard::maxMemory)
+            if (!markup())
                 return false;
+            if (mMemory > XmlGuard::maxMemory)
+                return refuse(QT_TRANSLATE_NOOP("ZARN::XmlGuard", "Its elements, attributes and texts would take more than 64 MiB of memory."));
         }
-        return mDepth == 0 && mHasElement;
+        mPosition = mText.size();
+        if (!mHasElement)
+            return malformed(QT_TRANSLATE_NOOP("ZARN::XmlGuard", "there is no element"));
+        return mDepth == 0 || malformed(QT_TRANSLATE_NOOP("ZARN::XmlGuard", "an element has no end tag"));
     }
 
+    /// After a run that failed.
+    [[nodiscard]] const char* reason() const { return mpReason; }
+    [[nodiscard]] bool isMalformed() const { return mIsMalformed; }
+    [[nodiscard]] std::size_t position() const { return mPosition; }
+
 private:
+    bool refuse(const char* pReason)
+    {
+        mpReason = pReason;
+        return false;
+    }
+
+    bool malformed(const char* pReason)
+    {
+        mIsMalformed = true;
+        return refuse(pReason);
+    }
+
     /// Blanks between elements make no node.
     void countText(std::string_view text)
     {
@@ -42,33 +65,42 @@ private:
         if (rest.starts_with("<![CDATA["))
             return skipPast("]]>", 9);
         if (rest.starts_with("<!"))
-            return false;
+            return refuse(QT_TRANSLATE_NOOP("ZARN::XmlGuard", "It has a declaration of a document type, which is not read."));
         if (rest.starts_with("<?"))
             return skipPast("?>", 2);
-        return tag(rest.substr(0, XmlGuard::maxTagSize));
+        return tag(rest.substr(0, XmlGuard::maxTagSize), rest.size() > XmlGuard::maxTagSize);
     }
 
     bool skipPast(std::string_view end, std::size_t offset)
     {
         const std::size_t found = mText.find(end, mPosition + offset);
         if (found == std::string_view::npos)
-            return false;
+            return malformed(QT_TRANSLATE_NOOP("ZARN::XmlGuard", "a comment, a section or an instruction has no end"));
         mPosition = found + end.size();
         mMemory += XmlGuard::nodeMemory;
         return true;
     }
 
-    bool tag(std::string_view text)
+    bool tag(std::string_view text, bool isCut)
     {
         std::size_t attributes = 0;
         const std::size_t end = tagEnd(text, attributes);
-        if (end == std::string_view::npos)
-            return false;
-        mPosition += end + 1;
-        if (text[1] == '/')
-            return mDepth-- > 0;
+        if (attributes > XmlGuard::maxAttributes)
+            return refuse(QT_TRANSLATE_NOOP("ZARN::XmlGuard", "A tag has more than 1,000 attributes."));
+        if (end == std::string_view::npos) {
+            return isCut ? refuse(QT_TRANSLATE_NOOP("ZARN::XmlGuard", "A tag has more than 64 KiB, or no end."))
+                         : malformed(QT_TRANSLATE_NOOP("ZARN::XmlGuard", "a tag has no end, or a quotation mark is missing in it"));
+        }
+        if (text[1] == '/') {
+            if (mDepth == 0)
+                return malformed(QT_TRANSLATE_NOOP("ZARN::XmlGuard", "an end tag has no element"));
+            --mDepth;
+            mPosition += end + 1;
+            return true;
+        }
         if (mDepth >= XmlGuard::maxDepth)
-            return false;
+            return refuse(QT_TRANSLATE_NOOP("ZARN::XmlGuard", "It has more than 64 levels of elements."));
+        mPosition += end + 1;
         mHasElement = true;
         mMemory += XmlGuard::nodeMemory + attributes * XmlGuard::attributeMemory;
         if (text[end - 1] != '/')
@@ -94,6 +126,8 @@ private:
     std::size_t mDepth = 0;
     std::size_t mMemory = 0;
     bool mHasElement = false;
+    bool mIsMalformed = false;
+    const char* mpReason = "";
 };
 
 /// The name in the XML declaration's encoding="..."; empty when there is none.
@@ -125,28 +159,60 @@ QStringDecoder decoderOf(std::string_view bytes)
     return name.empty() ? QStringDecoder(QStringConverter::Utf8, flags) : QStringDecoder(name.c_str(), flags);
 }
 
+XmlGuard::Refusal refusalAt(const QString& textBefore, const char* pReason, bool isMalformed)
+{
+    return {pReason, static_cast<int>(textBefore.count(u'\n')) + 1, static_cast<int>(textBefore.size() - textBefore.lastIndexOf(u'\n')),
+            isMalformed, {}};
+}
+
 } // namespace
 
-std::optional<QString> XmlGuard::pass(std::string_view fileBytes)
+std::optional<QString> XmlGuard::pass(std::string_view fileBytes, Refusal* pRefusal)
 {
-    if (fileBytes.size() > maxFileSize)
+    const auto refuse = [pRefusal](const char* pReason) {
+        if (pRefusal)
+            *pRefusal = {pReason, 0, 0, false, {}};
         return std::nullopt;
+    };
+    if (fileBytes.size() > maxFileSize)
+        return refuse(QT_TRANSLATE_NOOP("ZARN::XmlGuard", "It is larger than 32 MiB."));
     QStringDecoder decoder = decoderOf(fileBytes);
     if (!decoder.isValid())
-        return std::nullopt;
+        return refuse(QT_TRANSLATE_NOOP("ZARN::XmlGuard", "It names an encoding of its text that is not known."));
     const QString text = decoder(QByteArrayView(fileBytes.data(), static_cast<qsizetype>(fileBytes.size())));
-    if (decoder.hasError() || static_cast<std::size_t>(text.size()) > maxMemory / sizeof(QChar))
+    if (decoder.hasError()) {
+        // The decoder puts this character where it does not understand the bytes.
+        const qsizetype place = text.indexOf(QChar::ReplacementCharacter);
+        if (pRefusal)
+            *pRefusal = refusalAt(text.left(place), QT_TRANSLATE_NOOP("ZARN::XmlGuard", "It has bytes that are no text in its encoding."), false);
         return std::nullopt;
+    }
+    if (static_cast<std::size_t>(text.size()) > maxMemory / sizeof(QChar))
+        return refuse(QT_TRANSLATE_NOOP("ZARN::XmlGuard", "It is larger than 32 MiB."));
     const QByteArray utf8 = text.toUtf8();
-    if (!accepts(std::string_view(utf8.data(), static_cast<std::size_t>(utf8.size()))))
+    if (!accepts(std::string_view(utf8.data(), static_cast<std::size_t>(utf8.size())), pRefusal))
         return std::nullopt;
     return text;
 }
 
-bool XmlGuard::accepts(std::string_view utf8)
+bool XmlGuard::accepts(std::string_view utf8, Refusal* pRefusal)
 {
+    const auto before = [utf8](std::size_t position) { return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(position)); };
     // No XML text holds this character, and a parser may take it for the end.
-    return utf8.find('\0') == std::string_view::npos && Scanner(utf8).run();
+    const std::size_t zero = utf8.find('\0');
+    if (zero != std::string_view::npos) {
+        if (pRefusal)
+            *pRefusal = refusalAt(before(zero), QT_TRANSLATE_NOOP("ZARN::XmlGuard", "the character with code 0 is no text"), true);
+        return false;
+    }
+    Scanner scanner(utf8);
+    const bool isGood = scanner.run();
+    if (!isGood && pRefusal) {
+        const QString textBefore = before(scanner.position());
+        *pRefusal = refusalAt(textBefore, scanner.reason(), scanner.isMalformed());
+        pRefusal->textBefore = textBefore;
+    }
+    return isGood;
 }
 
 } // namespace ZARN

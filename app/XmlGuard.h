@@ -23,13 +23,22 @@ public:
     static constexpr std::size_t nodeMemory = 256;      ///< about what the document takes for an element, text, comment, instruction or CDATA section
     static constexpr std::size_t attributeMemory = 512; ///< and for an attribute, which is a node, its text and a place in a table
 
+    /// Why and where a text is refused. The reason is an English sentence of the context "ZARN::XmlGuard".
+    struct Refusal {
+        const char* reason = "";
+        int line = 0; ///< 0 with the column where the reason has no place in the text; both count from 1
+        int column = 0;
+        bool isMalformed = false; ///< no limit is broken: it is no XML
+        QString textBefore;       ///< what was judged good until then; empty where nothing was
+    };
+
     /// Decodes a file's bytes, in any encoding that the parser knows, and judges the text. The encoding follows from the byte
     /// order mark, the first bytes or the XML declaration; the parser is to be given the decoded text, so that it cannot understand another one.
     /// @return the text, or nothing when the bytes are not valid in their encoding or break a limit.
-    static std::optional<QString> pass(std::string_view fileBytes);
+    static std::optional<QString> pass(std::string_view fileBytes, Refusal* pRefusal = nullptr);
 
     /// Judges text in UTF-8 without a byte order mark: balanced tags, no document type declaration, all limits but the file size kept.
-    static bool accepts(std::string_view utf8);
+    static bool accepts(std::string_view utf8, Refusal* pRefusal = nullptr);
 };
 
 } // namespace ZARN

@@ -2,9 +2,8 @@
 
 #include "app/Console.h"
 #include "app/FileName.h"
-#include "app/RegularFile.h"
 #include "app/SafeFile.h"
-#include "app/XmlGuard.h"
+#include "app/XmlReader.h"
 
 #include <QHashFunctions>
 
@@ -126,12 +125,17 @@ std::string XmlHandler::xmlGetStdStringAttribute(const QDomNamedNodeMap& attribu
     return node.isNull() ? fallback : node.nodeValue().toStdString();
 }
 
+std::optional<int> XmlHandler::wholeNumber(const QString& text)
+{
+    bool isNumber = false;
+    const int number = text.toInt(&isNumber, 0);
+    return isNumber && !hasBinaryPrefix(text) ? std::optional(number) : std::nullopt;
+}
+
 int XmlHandler::xmlGetIntAttribute(const QDomNamedNodeMap& attributes, const QString& name, int fallback) const
 {
     const QString value = attributes.namedItem(name).nodeValue();
-    if (value.isEmpty())
-        return fallback;
-    return hasBinaryPrefix(value) ? 0 : value.toInt(nullptr, 0);
+    return value.isEmpty() ? fallback : wholeNumber(value).value_or(0);
 }
 
 double XmlHandler::xmlGetDoubleAttribute(const QDomNamedNodeMap& attributes, const QString& name, double fallback) const
@@ -168,18 +172,12 @@ bool XmlHandler::xmlWriteFile(const QDomDocument& document, const QString& direc
 bool XmlHandler::xmlReadFile(QDomDocument& document, const QString& path) const
 {
     const std::string name = encodeFileName(path);
-    const auto bytes = readRegularFile(name, XmlGuard::maxFileSize);
-    if (!bytes) {
-        mConsole.print("could not open file <%s>\n", name.c_str());
+    XmlSource source;
+    if (const auto problem = readXml(name, source)) {
+        mConsole.print(problem->isUnread ? "could not open file <%s>\n" : "could not set content <%s>\n", name.c_str());
         return false;
     }
-    const auto text = XmlGuard::pass(*bytes);
-    QDomDocument parsed;
-    if (!text || !parsed.setContent(*text)) {
-        mConsole.print("could not set content <%s>\n", name.c_str());
-        return false;
-    }
-    document = parsed;
+    document = source.document;
     return true;
 }
 

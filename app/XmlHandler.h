@@ -3,6 +3,7 @@
 #include <QDomDocument>
 #include <QString>
 
+#include <optional>
 #include <string>
 
 namespace ZARN {
@@ -31,6 +32,8 @@ public:
 
     QString xmlGetStringAttribute(const QDomNamedNodeMap& attributes, const QString& name, const QString& fallback) const;
     std::string xmlGetStdStringAttribute(const QDomNamedNodeMap& attributes, const QString& name, const std::string& fallback) const;
+    /// The number that an attribute's text stands for; nothing when it is no 32-bit integer.
+    static std::optional<int> wholeNumber(const QString& text);
     /// Automatic base: "0x" hexadecimal, leading "0" octal, else decimal. Text that is no 32-bit integer gives 0.
     int xmlGetIntAttribute(const QDomNamedNodeMap& attributes, const QString& name, int fallback) const;
     /// "." is the decimal point. Text that is no number gives 0.0, one too large for a double an infinity.

@@ -4,6 +4,7 @@
 #include "app/Progress.h"
 #include "card/record/RecordFormats.h"
 #include "cli/Resources.h"
+#include "profile/ProfileCheck.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -55,8 +56,10 @@ std::string folderProblem(const std::string& path)
 std::string loadProfileFile(Profile& profile, const std::string& file, const std::string& variant)
 {
     const QString path = decodeFileName(file);
-    if (!profile.loadProfile(path, variant))
-        return file + ": " + (::access(file.c_str(), R_OK) != 0 ? std::strerror(errno) : "not a readable ZARN profile");
+    if (!profile.loadProfile(path, variant)) {
+        const auto problem = ProfileCheck::refusal(path);
+        return file + ": " + (problem ? ProfileCheck::text(*problem).toStdString() : "it has changed while it was read");
+    }
     if (variant.empty())
         return {};
     const std::vector<ProfileVariant>& variants = profile.loadVariants(path);

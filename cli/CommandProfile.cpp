@@ -5,6 +5,9 @@
 #include "cli/JsonWriter.h"
 #include "cli/TextTable.h"
 #include "cli/VisibleText.h"
+#include "profile/ProfileCheck.h"
+
+#include <algorithm>
 
 namespace ZARN {
 
@@ -91,6 +94,29 @@ std::string tables(const Profile& profile)
     return text + "\n" + parameters.text() + (model.errorMatrices.empty() ? "" : "\n" + matrices.text());
 }
 
+std::string json(const std::vector<ProfileProblem>& problems)
+{
+    JsonWriter writer;
+    writer.beginAnswer().key("problems").beginArray();
+    for (const ProfileProblem& problem : problems) {
+        writer.beginObject().member("line", problem.line).member("column", problem.column);
+        writer.member("severity", problem.isError ? "error" : "warning").member("text", problem.text).endObject();
+    }
+    return writer.endArray().endAnswer();
+}
+
+std::string table(const std::vector<ProfileProblem>& problems)
+{
+    if (problems.empty())
+        return "No problem\n";
+    TextTable rows({"Line", "Column", "Severity", "Text"});
+    for (const ProfileProblem& problem : problems) {
+        rows.addRow({std::to_string(problem.line), std::to_string(problem.column), problem.isError ? "error" : "warning",
+                     problem.text.toStdString()});
+    }
+    return rows.text();
+}
+
 } // namespace
 
 CommandProfile::CommandProfile(CLI::App& program)
@@ -98,11 +124,22 @@ CommandProfile::CommandProfile(CLI::App& program)
 {
     options().add("FILE", mFile, "the profile file", CommandOptions::eRequired);
     options().add("--variant", mVariant, "variant of the profile (default: none)");
+    options().addFlag("--check", mIsCheck, "tell every problem of the file, with line and column, for all its variants");
     addJson();
+}
+
+int CommandProfile::check() const
+{
+    const std::vector<ProfileProblem> problems = ProfileCheck::problems(decodeFileName(mFile));
+    const int status = print(mJson ? json(problems) : table(problems));
+    const auto error = std::ranges::find_if(problems, &ProfileProblem::isError);
+    return error == problems.end() ? status : fail(mFile + ": " + ProfileCheck::text(*error).toStdString());
 }
 
 int CommandProfile::run()
 {
+    if (mIsCheck)
+        return check();
     Profile profile(console());
     const std::string problem = loadProfileFile(profile, mFile, mVariant);
     if (!problem.empty())

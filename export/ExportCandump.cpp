@@ -20,8 +20,8 @@ constexpr uint64_t kMicroseconds = 1'000'000; // of a second
 uint64_t clockOf(const CardContainer& container)
 {
     const RecordCycle* pCycle = container.loadedCycle();
-    if (pCycle && !pCycle->files.empty() && pCycle->files.front().clockStart != 0)
-        return pCycle->files.front().clockStart / 1000;
+    if (pCycle && !pCycle->files.empty() && pCycle->files.front().get().clockStart != 0)
+        return pCycle->files.front().get().clockStart / 1000;
     const QDateTime powerUp = PowerUp::ofLoaded(container);
     return powerUp.isValid() ? static_cast<uint64_t>(std::max<qint64>(powerUp.toMSecsSinceEpoch(), 0)) * 1000 : 0;
 }

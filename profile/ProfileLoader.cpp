@@ -1,23 +1,12 @@
 #include "profile/ProfileLoader.h"
 
+#include "profile/CanasType.h"
+
 #include <atomic>
 
 namespace ZARN {
 
 namespace {
-
-int canasType(const std::string& name)
-{
-    static const char* const names[] = {"NODATA",   "ERROR",    "FLOAT",  "LONG",    "ULONG",    "BLONG",   "SHORT",    "USHORT",
-                                        "BSHORT",   "CHAR",     "UCHAR",  "BCHAR",   "SHORT_2",  "USHORT_2", "BSHORT_2", "CHAR_4",
-                                        "UCHAR_4",  "BCHAR_4",  "CHAR_2", "UCHAR_2", "BCHAR_2",  "MEMID",   "CHKSUM",   "ACHAR",
-                                        "ACHAR_2",  "ACHAR_4",  "CHAR_3", "UCHAR_3", "BCHAR_3",  "ACHAR_3"};
-    for (int number = 0; number < static_cast<int>(std::size(names)); ++number) {
-        if (name == names[number])
-            return number;
-    }
-    return eNoData;
-}
 
 int errorType(const std::string& name)
 {

@@ -9,7 +9,6 @@ namespace ZARN {
 
 namespace {
 
-constexpr int kHighestPrecision = 17;
 
 /// A big-endian word at any start byte; bytes outside the payload read as 0.
 template <typename Word> Word wordAt(const Payload& payload, int startByte)
@@ -58,6 +57,23 @@ ValueDecoder::ERaw ValueDecoder::rawOf(int dataType)
     case eUChar3: return ERaw::eUChar;
     default: return ERaw::eNone;
     }
+}
+
+int ValueDecoder::rawSize(int dataType)
+{
+    switch (rawOf(dataType)) {
+    case ERaw::eNone: return 0;
+    case ERaw::eFloat:
+    case ERaw::eLong:
+    case ERaw::eULong:
+    case ERaw::eField32: return 4;
+    case ERaw::eField16:
+    case ERaw::eShort:
+    case ERaw::eUShort: return 2;
+    case ERaw::eChar:
+    case ERaw::eUChar: return 1;
+    }
+    return 0;
 }
 
 ValueDecoder::EPosition ValueDecoder::positionOf(const ProfileParameter& parameter)

@@ -27,12 +27,16 @@ using EnumList = std::map<int, std::string>;
 /// differ by type: whole numbers lose their fraction in texts, floats are rounded to 32 bits, only floats change their unit.
 class ValueDecoder {
 public:
+    static constexpr int kHighestPrecision = 17; ///< a parameter's is held to 0 and this
+
     ValueDecoder(const ProfileParameter& parameter, const ThresholdList* pThresholds, const EnumList* pLabels,
                  std::optional<UnitConversion> conversion);
 
     /// The raw integer of a payload by the data type code in its own byte 1, whatever the parameter's; 0 for codes that hold none.
     [[nodiscard]] static int integer(const Payload& payload, const ProfileParameter& parameter);
 
+    /// The bytes that a data type takes of the payload; 0 for those that hold no number.
+    [[nodiscard]] static int rawSize(int dataType);
     /// False for data types that hold no number; their value is 0.
     [[nodiscard]] bool isNumeric() const { return mRaw != ERaw::eNone; }
     /// The value in metric units, without threshold and unit conversion. @param scale applies factor and offset.

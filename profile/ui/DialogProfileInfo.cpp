@@ -120,7 +120,7 @@ void DialogProfileInfo::install(const QString& file)
 {
     const QString target = mCatalogue.installPath(mIsChosenFile ? QString() : mProfileFile, file);
     if (!mSession.profile.loadProfile(file)) {
-        report(QMessageBox::Information, tr("ZARN Warning"), tr("Not a valid ZARN profile !"));
+        report(QMessageBox::Information, tr("ZARN Warning"), tr("Not a valid ZARN profile !") + "\n" + ZARN::profileProblem(mSession.console, file));
         return;
     }
     mSession.console.print("Copy profile to <%s>\n", target.toUtf8().constData());

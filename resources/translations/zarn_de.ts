@@ -1916,6 +1916,17 @@ Ersetzen ?</translation>
     </message>
 </context>
 <context>
+    <name>ZARN::ProfileCheck</name>
+    <message>
+        <source>It is no profile: its first element is &lt;%1&gt;, another one than &lt;CanAerospaceProfile&gt;.</source>
+        <translation>Sie ist kein Profil: Ihr erstes Element ist &lt;%1&gt;, ein anderes als &lt;CanAerospaceProfile&gt;.</translation>
+    </message>
+    <message>
+        <source>Line %1, column %2: %3</source>
+        <translation>Zeile %1, Spalte %2: %3</translation>
+    </message>
+</context>
+<context>
     <name>ZARN::ProfileController</name>
     <message>
         <source>There is no profile that could be read: nothing of a recording can be decoded.</source>
@@ -1929,16 +1940,8 @@ Ersetzen ?</translation>
 <context>
     <name>ZARN::ProfileProblem</name>
     <message>
-        <source>The file %1 is not there, or cannot be read.</source>
-        <translation>Die Datei %1 ist nicht da oder nicht lesbar.</translation>
-    </message>
-    <message>
-        <source>The file %1 is damaged: it is no well-formed XML.</source>
-        <translation>Die Datei %1 ist beschädigt: Sie ist kein wohlgeformtes XML.</translation>
-    </message>
-    <message>
-        <source>The file %1 is no profile: its first element is another one than &lt;CanAerospaceProfile&gt;.</source>
-        <translation>Die Datei %1 ist kein Profil: Ihr erstes Element ist ein anderes als &lt;CanAerospaceProfile&gt;.</translation>
+        <source>The file %1 cannot be used as a profile. %2</source>
+        <translation>Die Datei %1 kann nicht als Profil verwendet werden. %2</translation>
     </message>
 </context>
 <context>
@@ -2233,6 +2236,80 @@ Ein Klick geht zu dem Zeitpunkt.</translation>
     <message>
         <source>What was chosen in the list on the left is empty: the unit was switched on, but recorded nothing. Choose another entry.</source>
         <translation>Was in der Liste links gewählt wurde, ist leer: Das Gerät war eingeschaltet, hat aber nichts aufgezeichnet. Wählen Sie einen anderen Eintrag.</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::XmlGuard</name>
+    <message>
+        <source>Its elements, attributes and texts would take more than 64 MiB of memory.</source>
+        <translation>Seine Elemente, Attribute und Texte nähmen mehr als 64 MiB Arbeitsspeicher ein.</translation>
+    </message>
+    <message>
+        <source>there is no element</source>
+        <translation>es gibt kein Element</translation>
+    </message>
+    <message>
+        <source>an element has no end tag</source>
+        <translation>ein Element hat kein End-Tag</translation>
+    </message>
+    <message>
+        <source>It has a declaration of a document type, which is not read.</source>
+        <translation>Sie hat eine Deklaration eines Dokumenttyps, die nicht gelesen wird.</translation>
+    </message>
+    <message>
+        <source>a comment, a section or an instruction has no end</source>
+        <translation>ein Kommentar, ein Abschnitt oder eine Anweisung hat kein Ende</translation>
+    </message>
+    <message>
+        <source>A tag has more than 1,000 attributes.</source>
+        <translation>Ein Tag hat mehr als 1000 Attribute.</translation>
+    </message>
+    <message>
+        <source>A tag has more than 64 KiB, or no end.</source>
+        <translation>Ein Tag hat mehr als 64 KiB oder kein Ende.</translation>
+    </message>
+    <message>
+        <source>a tag has no end, or a quotation mark is missing in it</source>
+        <translation>ein Tag hat kein Ende, oder ihm fehlt ein Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>an end tag has no element</source>
+        <translation>ein End-Tag hat kein Element</translation>
+    </message>
+    <message>
+        <source>It has more than 64 levels of elements.</source>
+        <translation>Sie hat mehr als 64 Ebenen von Elementen.</translation>
+    </message>
+    <message>
+        <source>It is larger than 32 MiB.</source>
+        <translation>Sie ist größer als 32 MiB.</translation>
+    </message>
+    <message>
+        <source>It names an encoding of its text that is not known.</source>
+        <translation>Sie nennt eine Kodierung ihres Textes, die nicht bekannt ist.</translation>
+    </message>
+    <message>
+        <source>It has bytes that are no text in its encoding.</source>
+        <translation>Sie hat Bytes, die in ihrer Kodierung kein Text sind.</translation>
+    </message>
+    <message>
+        <source>the character with code 0 is no text</source>
+        <translation>das Zeichen mit dem Code 0 ist kein Text</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::XmlReader</name>
+    <message>
+        <source>It is no well-formed XML: %1</source>
+        <translation>Sie ist kein wohlgeformtes XML: %1</translation>
+    </message>
+    <message>
+        <source>it is no ordinary file</source>
+        <translation>sie ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>It cannot be read: %1.</source>
+        <translation>Sie ist nicht lesbar: %1.</translation>
     </message>
 </context>
 <context>

@@ -141,13 +141,13 @@ void TestCli::failures_data()
     row("unknown parameter", {"value", "CARD", "--parameter", "nope%s", "--time", "1"}, 1, "nope%s: the profile has no such parameter");
     row("parameter of another variant", {"value", "CARD", "--variant", "B", "--parameter", "only A", "--time", "1"}, 1, "only A:");
     row("unknown selection", {"csv", "CARD", "-o", "out.csv", "--select", "height", "--select", "nope"}, 1, "nope: the profile has no such");
-    row("missing profile", {"flights", "card", "--profile", "none.xml"}, 1, "none.xml: No such file or directory");
+    row("missing profile", {"flights", "card", "--profile", "none.xml"}, 1, "none.xml: It cannot be read: No such file or directory.");
     row("unknown variant", {"summary", "CARD", "--variant", "b"}, 1, "b: the profile has no such variant");
     row("unknown variant of a profile", {"profile", "Profile.xml", "--variant", "AB"}, 1, "AB: the profile has no such variant");
     row("flight for the whole card", {"summary", "CARD", "--flight", "1"}, 2, "--flight");
     row("record file of the card as target", {"csv", "CARD", "-o", "link to a recording"}, 1, "link to a recording: a record file of the card");
-    row("other root", {"profile", "other.xml"}, 1, "other.xml: not a readable ZARN profile");
-    row("broken profile", {"csv", "card", "--profile", "broken.xml", "-o", "out.csv"}, 1, "broken.xml: not a readable");
+    row("other root", {"profile", "other.xml"}, 1, "other.xml: Line 1, column 1: It is no profile");
+    row("broken profile", {"csv", "card", "--profile", "broken.xml", "-o", "out.csv"}, 1, "broken.xml: Line 1, column ");
     row("missing target folder", {"csv", "CARD", "-o", "no/out.csv"}, 1, "no/out.csv: No such file or directory");
     row("folder as target", {"csv", "CARD", "-o", "card"}, 1, "card: Is a directory");
     row("full device", {"csv", "CARD", "-o", "/dev/full"}, 1, "/dev/full: No space left on device");
@@ -348,6 +348,8 @@ void TestCli::tablesForPeople_data()
                             << QStringList{"Lane A (700)", "Sensor  Fault  00:00:02.000  00:00:04.000", "Lane B (701)", "not recorded"};
     QTest::newRow("faults, nothing there") << QStringList{"faults", "CARD"} << QStringList{"no error matrix"};
     QTest::newRow("profile") << QStringList{"profile", "Profile.xml"} << QStringList{"D/Drehzahl ü", "Variant A"};
+    QTest::newRow("profile, check") << QStringList{"profile", "Profile.xml", "--check"}
+                                    << QStringList{"Severity", "warning", "same bytes of the same message. (Variant \"A\")"};
 }
 
 void TestCli::tablesForPeople()

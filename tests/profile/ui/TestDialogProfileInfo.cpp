@@ -143,7 +143,7 @@ void TestDialogProfileInfo::refusesInvalid()
     QFETCH(const QString, content);
     Installation installation;
     installation.install("mine.xml", content.toStdString());
-    QCOMPARE(installation.dialog.boxes, QStringList{"1|ZARN Warning|Not a valid ZARN profile !|Ok"});
+    QVERIFY(installation.dialog.boxes.join("").startsWith("1|ZARN Warning|Not a valid ZARN profile !\nThe file "));
     QCOMPARE(fileContent(installation.installed), kOld);
     QCOMPARE(installation.profile.model().name, "Old");
     QVERIFY(installation.lines.find("Copy") == std::string::npos);

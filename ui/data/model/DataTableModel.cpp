@@ -13,6 +13,7 @@ namespace {
 
 constexpr std::size_t kMaxRows = std::numeric_limits<int>::max() / 32; // a view counts its height in pixels as an int
 constexpr std::size_t kSomeValues = 64;
+constexpr std::size_t kProbes = 4096; // samples of a column that are looked at to see how wide it is: to decode all takes seconds
 const QColor kTimeGround(230, 230, 230);
 
 } // namespace
@@ -100,7 +101,7 @@ QStringList DataTableModel::widestTexts(int column) const
     const auto place = static_cast<std::size_t>(column) - 1;
     std::set<double> some; // the words of a list, or the first of many numbers
     double least = std::numeric_limits<double>::infinity(), greatest = -least, previous = std::numeric_limits<double>::quiet_NaN();
-    mTraces[place].forEachSample([&](double, double value) {
+    const auto take = [&](double value) {
         if (value == previous || std::isnan(value))
             return;
         previous = value;
@@ -108,7 +109,12 @@ QStringList DataTableModel::widestTexts(int column) const
         greatest = std::max(greatest, value);
         if (some.size() < kSomeValues)
             some.insert(value);
-    });
+    };
+    const std::size_t size = mTraces[place].size();
+    for (std::size_t position = 0; position < size; position += std::max<std::size_t>(size / kProbes, 1))
+        take(mTraces[place].number(position));
+    if (size > 0)
+        take(mTraces[place].number(size - 1)); // the last text may be the longest
     if (some.empty())
         return {};
     some.insert({least, greatest});
