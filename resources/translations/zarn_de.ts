@@ -177,10 +177,37 @@ Die Einstellungen bleiben erhalten.</translation>
     </message>
 </context>
 <context>
+    <name>ZARN::CandumpFile</name>
+    <message>
+        <source>lines that are no frame: %1</source>
+        <translation>Zeilen, die kein Telegramm sind: %1</translation>
+    </message>
+    <message>
+        <source>the last line is cut off</source>
+        <translation>die letzte Zeile ist abgeschnitten</translation>
+    </message>
+    <message>
+        <source>frames that cannot be used: %1 remote, %2 error, %3 FD</source>
+        <translation>nicht verwendbare Telegramme: %1 Remote, %2 Fehler, %3 FD</translation>
+    </message>
+    <message>
+        <source>the frames of several interfaces are read as one bus</source>
+        <translation>die Telegramme mehrerer Schnittstellen werden als ein Bus gelesen</translation>
+    </message>
+</context>
+<context>
     <name>ZARN::CardContainer</name>
     <message>
         <source>it cannot be listed to its end: %1</source>
         <translation>er kann nicht bis zum Ende aufgelistet werden: %1</translation>
+    </message>
+    <message>
+        <source>no CAN frame in it</source>
+        <translation>kein CAN-Telegramm darin</translation>
+    </message>
+    <message>
+        <source>its content has changed since the card was opened</source>
+        <translation>ihr Inhalt hat sich seit dem Öffnen der Karte geändert</translation>
     </message>
 </context>
 <context>
@@ -192,10 +219,6 @@ Die Einstellungen bleiben erhalten.</translation>
     <message>
         <source>The folder %1 is not there, or cannot be read.</source>
         <translation>Der Ordner %1 ist nicht da oder kann nicht gelesen werden.</translation>
-    </message>
-    <message>
-        <source>The folder %1 holds no record file (*.CAN, *.can, *.xcb).</source>
-        <translation>Der Ordner %1 enthält keine Aufzeichnung (*.CAN, *.can, *.xcb).</translation>
     </message>
     <message>
         <source>The demo card could not be written:
@@ -227,6 +250,10 @@ Die Einstellungen bleiben erhalten.</translation>
     <message>
         <source>Not everything on this card could be read:</source>
         <translation>Nicht alles auf dieser Karte konnte gelesen werden:</translation>
+    </message>
+    <message>
+        <source>The folder %1 holds no record file (%2).</source>
+        <translation>Der Ordner %1 enthält keine Aufzeichnung (%2).</translation>
     </message>
 </context>
 <context>
@@ -2024,10 +2051,6 @@ Jetzt speichern ?</translation>
 <context>
     <name>ZARN::RecordFile</name>
     <message>
-        <source>it cannot be read: %1</source>
-        <translation>sie kann nicht gelesen werden: %1</translation>
-    </message>
-    <message>
         <source>%1 bytes, no record</source>
         <translation>%1 Bytes, kein Datensatz</translation>
     </message>
@@ -2040,6 +2063,21 @@ Jetzt speichern ?</translation>
         <translation>der letzte Datensatz ist abgeschnitten</translation>
     </message>
     <message>
+        <source>it became shorter while it was read</source>
+        <translation>sie wurde beim Lesen kürzer</translation>
+    </message>
+    <message>
+        <source>only %1 of %2 records could be read</source>
+        <translation>nur %1 von %2 Datensätzen konnten gelesen werden</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::RecordReader</name>
+    <message>
+        <source>it cannot be read: %1</source>
+        <translation>sie kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
         <source>damaged: its records end (%1 s) before they begin (%2 s)</source>
         <translation>beschädigt: die Aufzeichnung endet (%1 s), bevor sie beginnt (%2 s)</translation>
     </message>
@@ -2050,14 +2088,6 @@ Jetzt speichern ?</translation>
     <message>
         <source>%1 of %2 records are left since the card was opened</source>
         <translation>seit dem Öffnen der Karte sind nur noch %1 von %2 Datensätzen da</translation>
-    </message>
-    <message>
-        <source>it became shorter while it was read</source>
-        <translation>sie wurde beim Lesen kürzer</translation>
-    </message>
-    <message>
-        <source>only %1 of %2 records could be read</source>
-        <translation>nur %1 von %2 Datensätzen konnten gelesen werden</translation>
     </message>
 </context>
 <context>
