@@ -33,14 +33,18 @@ QString tableRow(const QString& label, const std::string& value)
     return "<tr><td>" + label + "</td><td><b>" + escaped(value) + "</b></td></tr>";
 }
 
-/// Puts a copy of the file in the target's place; a failure leaves the old one, and an old one that cannot be read is put aside.
-bool copyProfile(const ZARN::Console& console, const QString& file, const QString& target)
+/// Puts a copy of the file in the target's place; a failure leaves the old one.
+/// @param aside the new name of an old one that could not be read
+bool copyProfile(const ZARN::Console& console, const QString& file, const QString& target, QString& aside)
 {
     const auto content = ZARN::readRegularFile(QFile::encodeName(file).toStdString(), ZARN::XmlGuard::maxFileSize);
     if (!content || !QDir().mkpath(QFileInfo(target).absolutePath()))
         return false;
-    if (QFileInfo(target).isFile() && !ZARN::profileProblem(console, target).isEmpty())
-        ZARN::UserFile::putAside(target, "damaged");
+    if (QFileInfo(target).isFile() && !ZARN::profileProblem(console, target).isEmpty()) {
+        aside = ZARN::UserFile::putAside(target, "damaged");
+        if (aside.isEmpty())
+            return false;
+    }
     ZARN::SafeFile copy(QFile::encodeName(target).toStdString());
     return copy.open() && copy.write(*content) && copy.commit();
 }
@@ -124,14 +128,16 @@ void DialogProfileInfo::install(const QString& file)
         return;
     }
     mSession.console.print("Copy profile to <%s>\n", target.toUtf8().constData());
-    if (!copyProfile(mSession.console, file, target)) {
+    QString aside;
+    if (!copyProfile(mSession.console, file, target, aside)) {
         report(QMessageBox::Warning, tr("ZARN Info"), tr("Profile Installation failed !"));
         fillProfileInfo();
         return;
     }
     mProfileFile = target;
     mIsChosenFile = false;
-    report(QMessageBox::Information, tr("ZARN Info"), tr("New profile installed !"));
+    const QString note = aside.isEmpty() ? QString() : "\n" + tr("The old file could not be read and was put aside: %1").arg(aside);
+    report(QMessageBox::Information, tr("ZARN Info"), tr("New profile installed !") + note);
     adoptVariants(target);
     fillProfileInfo();
     Q_EMIT signalProfileChanged();

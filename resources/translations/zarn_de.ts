@@ -110,6 +110,10 @@
         <translation>Neues Profil installiert !</translation>
     </message>
     <message>
+        <source>The old file could not be read and was put aside: %1</source>
+        <translation>Die alte Datei konnte nicht gelesen werden und wurde beiseitegelegt: %1</translation>
+    </message>
+    <message>
         <source>Select Profile File</source>
         <translation>Profildatei wählen</translation>
     </message>

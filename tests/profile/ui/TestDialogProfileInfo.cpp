@@ -128,6 +128,11 @@ void TestDialogProfileInfo::installsValid()
     installation.install("again.xml", kNew);
     QCOMPARE(installation.profile.currentVariant(), "Y");
     QCOMPARE(installation.changed.count(), 2);
+
+    putFile(installation.installed, "<damaged"); // the user's all the same
+    installation.install("third.xml", kNew);
+    QVERIFY(installation.dialog.boxes.last().contains("Profile.xml.damaged-1"));
+    QCOMPARE(fileContent(installation.installed + ".damaged-1"), std::string("<damaged"));
 }
 
 void TestDialogProfileInfo::refusesInvalid_data()
