@@ -34,13 +34,14 @@ QString tableRow(const QString& label, const std::string& value)
 }
 
 /// Puts a copy of the file in the target's place; a failure leaves the old one, and an old one that cannot be read is put aside.
-bool copyProfile(const ZARN::Console& console, const QString& file, const QString& target)
+/// @param aside gets the name that the old one was given, or is left empty.
+bool copyProfile(const ZARN::Console& console, const QString& file, const QString& target, QString& aside)
 {
     const auto content = ZARN::readRegularFile(QFile::encodeName(file).toStdString(), ZARN::XmlGuard::maxFileSize);
     if (!content || !QDir().mkpath(QFileInfo(target).absolutePath()))
         return false;
     if (QFileInfo(target).isFile() && !ZARN::profileProblem(console, target).isEmpty())
-        ZARN::UserFile::putAside(target, "damaged");
+        aside = ZARN::UserFile::putAside(target, "damaged");
     ZARN::SafeFile copy(QFile::encodeName(target).toStdString());
     return copy.open() && copy.write(*content) && copy.commit();
 }
@@ -124,14 +125,17 @@ void DialogProfileInfo::install(const QString& file)
         return;
     }
     mSession.console.print("Copy profile to <%s>\n", target.toUtf8().constData());
-    if (!copyProfile(mSession.console, file, target)) {
-        report(QMessageBox::Warning, tr("ZARN Info"), tr("Profile Installation failed !"));
+    QString aside;
+    const bool isCopied = copyProfile(mSession.console, file, target, aside);
+    const QString kept = aside.isEmpty() ? QString() : "\n" + tr("The old file could not be read and is kept as:\n%1").arg(aside);
+    if (!isCopied) {
+        report(QMessageBox::Warning, tr("ZARN Info"), tr("Profile Installation failed !") + kept);
         fillProfileInfo();
         return;
     }
     mProfileFile = target;
     mIsChosenFile = false;
-    report(QMessageBox::Information, tr("ZARN Info"), tr("New profile installed !"));
+    report(QMessageBox::Information, tr("ZARN Info"), tr("New profile installed !") + kept);
     adoptVariants(target);
     fillProfileInfo();
     Q_EMIT signalProfileChanged();

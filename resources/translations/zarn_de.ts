@@ -106,6 +106,12 @@
         <translation>Installation des Profils fehlgeschlagen !</translation>
     </message>
     <message>
+        <source>The old file could not be read and is kept as:
+%1</source>
+        <translation>Die alte Datei konnte nicht gelesen werden und bleibt erhalten als:
+%1</translation>
+    </message>
+    <message>
         <source>New profile installed !</source>
         <translation>Neues Profil installiert !</translation>
     </message>

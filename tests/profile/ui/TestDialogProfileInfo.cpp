@@ -128,6 +128,10 @@ void TestDialogProfileInfo::installsValid()
     installation.install("again.xml", kNew);
     QCOMPARE(installation.profile.currentVariant(), "Y");
     QCOMPARE(installation.changed.count(), 2);
+
+    putFile(installation.installed, "damaged");
+    installation.choose("again.xml");
+    QVERIFY(installation.dialog.boxes.last().contains("is kept as:\n" + QString::fromStdString(installation.installed) + ".damaged-1"));
 }
 
 void TestDialogProfileInfo::refusesInvalid_data()
