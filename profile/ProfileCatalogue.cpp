@@ -27,6 +27,14 @@ void separateTexts(std::vector<ProfileEntry>& entries)
     }
 }
 
+/// The usual name says nothing: the folder of such a file tells one profile from another.
+QString nameOf(const QFileInfo& file)
+{
+    const bool isUsual = file.fileName().compare(kFileName, Qt::CaseInsensitive) == 0;
+    const QString folder = isUsual ? file.absoluteDir().dirName() : QString();
+    return folder.isEmpty() ? file.completeBaseName() : folder;
+}
+
 } // namespace
 
 ProfileCatalogue::ProfileCatalogue(const Console& console, const std::string& resourcePath, const std::string& dataPath)
@@ -113,7 +121,7 @@ QString ProfileCatalogue::installPath(const QString& loadedFile, const QString& 
     const QFileInfo folderInfo(folder);
     if (!folder.isEmpty() && (mUserFolder.isEmpty() || (folderInfo.isDir() && folderInfo.isWritable())))
         return folder + "/" + kFileName;
-    const QString name = folderInfo.fileName().isEmpty() ? QFileInfo(newFile).completeBaseName() : folderInfo.fileName();
+    const QString name = folderInfo.fileName().isEmpty() ? nameOf(QFileInfo(newFile)) : folderInfo.fileName();
     return (mUserFolder.isEmpty() ? mShippedFolder : mUserFolder) + name + "/" + kFileName;
 }
 

@@ -33,8 +33,8 @@ QString tableRow(const QString& label, const std::string& value)
     return "<tr><td>" + label + "</td><td><b>" + escaped(value) + "</b></td></tr>";
 }
 
-/// Puts a copy of the file in the target's place; a failure leaves the old one.
-/// @param aside the new name of an old one that could not be read
+/// Puts a copy of the file in the target's place; a failure leaves the old one, and an old one that cannot be read is put aside.
+/// @param aside gets the name that the old one was given, or is left empty.
 bool copyProfile(const ZARN::Console& console, const QString& file, const QString& target, QString& aside)
 {
     const auto content = ZARN::readRegularFile(QFile::encodeName(file).toStdString(), ZARN::XmlGuard::maxFileSize);
@@ -129,15 +129,16 @@ void DialogProfileInfo::install(const QString& file)
     }
     mSession.console.print("Copy profile to <%s>\n", target.toUtf8().constData());
     QString aside;
-    if (!copyProfile(mSession.console, file, target, aside)) {
-        report(QMessageBox::Warning, tr("ZARN Info"), tr("Profile Installation failed !"));
+    const bool isCopied = copyProfile(mSession.console, file, target, aside);
+    const QString kept = aside.isEmpty() ? QString() : "\n" + tr("The old file could not be read and is kept as:\n%1").arg(aside);
+    if (!isCopied) {
+        report(QMessageBox::Warning, tr("ZARN Info"), tr("Profile Installation failed !") + kept);
         fillProfileInfo();
         return;
     }
     mProfileFile = target;
     mIsChosenFile = false;
-    const QString note = aside.isEmpty() ? QString() : "\n" + tr("The old file could not be read and was put aside: %1").arg(aside);
-    report(QMessageBox::Information, tr("ZARN Info"), tr("New profile installed !") + note);
+    report(QMessageBox::Information, tr("ZARN Info"), tr("New profile installed !") + kept);
     adoptVariants(target);
     fillProfileInfo();
     Q_EMIT signalProfileChanged();

@@ -106,12 +106,14 @@
         <translation>Installation des Profils fehlgeschlagen !</translation>
     </message>
     <message>
-        <source>New profile installed !</source>
-        <translation>Neues Profil installiert !</translation>
+        <source>The old file could not be read and is kept as:
+%1</source>
+        <translation>Die alte Datei konnte nicht gelesen werden und bleibt erhalten als:
+%1</translation>
     </message>
     <message>
-        <source>The old file could not be read and was put aside: %1</source>
-        <translation>Die alte Datei konnte nicht gelesen werden und wurde beiseitegelegt: %1</translation>
+        <source>New profile installed !</source>
+        <translation>Neues Profil installiert !</translation>
     </message>
     <message>
         <source>Select Profile File</source>

@@ -170,7 +170,7 @@ void TestProfileCatalogue::installPath_data()
     QTest::newRow("none loaded") << ""
                                  << "dir/new.one.xml" << true << "data/profiles/new.one/Profile.xml";
     QTest::newRow("none loaded, usual name") << ""
-                                             << "dir/Profile.xml" << true << "data/profiles/Profile/Profile.xml";
+                                             << "dir/Profile.xml" << true << "data/profiles/dir/Profile.xml";
     QTest::newRow("nothing at all") << ""
                                     << "dir/new.xml" << false << "Resources/profiles/new/Profile.xml";
 }

@@ -8,7 +8,7 @@ namespace ZARN {
 ReplayButton::ReplayButton(const char* name)
 {
     setObjectName(name);
-    setStyleSheet("QPushButton { min-width: 0px; padding-left: 8px; padding-right: 8px; }"); // two of them stand in a narrow row
+    setStyleSheet("QPushButton { padding-left: 8px; padding-right: 8px; }"); // two of them stand in a narrow row
 }
 
 void ReplayButton::setLook(const QString& text, const QIcon& icon)

@@ -21,12 +21,12 @@ namespace ZARN {
 namespace {
 
 constexpr int kDateDigits = 19;
-constexpr int kTimeDigits = 12;
+constexpr int kTimeDigits = 12; // without a minus sign
 constexpr QSize kClockSize(220, 60);
 constexpr int kEntryWidth = 120;
 constexpr int kSliderWidth = 120;
 constexpr double kHundredths = 100.0;
-constexpr const char* kClockStyle = "QLCDNumber { background-color: white; color: rgb(195, 171, 99); border: 1px solid #b4bfca; }";
+constexpr const char* kClockStyle = "QLCDNumber { background-color: white; color: rgb(146, 128, 74); border: 1px solid #b4bfca; }";
 
 QLCDNumber* createClock(const char* name, int digits, const QString& text)
 {
@@ -215,7 +215,9 @@ void WidgetReplayBar::setDateTime(const QDateTime& dateTime)
 
 void WidgetReplayBar::setTime(int64_t milliseconds)
 {
-    mpTimeClock->display(timeOfDayText(milliseconds));
+    const QString text = timeOfDayText(milliseconds);
+    mpTimeClock->setDigitCount(static_cast<int>(text.size())); // one more for a minus sign
+    mpTimeClock->display(text);
     mpTime->showTime(static_cast<int>(std::clamp<int64_t>(milliseconds / 1000, 0, TimeEntry::kLatest)));
 }
 

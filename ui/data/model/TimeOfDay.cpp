@@ -37,6 +37,8 @@ int64_t wholeMilliseconds(double seconds)
 // Written for every row that is painted, where the toolkit's own formatting would cost more than the painting.
 QString timeOfDayText(int64_t milliseconds)
 {
+    if (milliseconds < 0)
+        return '-' + timeOfDayText(-(milliseconds % kDay));
     const QTime time = timeOfDay(milliseconds);
     std::array<char16_t, 12> text{u'0', u'0', u':', u'0', u'0', u':', u'0', u'0', u'.', u'0', u'0', u'0'};
     putDigits(&text[0], time.hour(), 2);

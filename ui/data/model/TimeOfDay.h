@@ -11,7 +11,7 @@ namespace ZARN {
 [[nodiscard]] QTime timeOfDay(int64_t milliseconds);
 /// Seconds to whole milliseconds, truncated.
 [[nodiscard]] int64_t wholeMilliseconds(double seconds);
-/// The time of day as "hh:mm:ss.zzz".
+/// The time of day as "hh:mm:ss.zzz", behind a minus sign when it is before the beginning.
 [[nodiscard]] QString timeOfDayText(int64_t milliseconds);
 
 /// Seconds as "hh:mm:ss", with as many hours as there are.
