@@ -195,7 +195,7 @@ void DialogDataGraph::slotManMode()
 
 void DialogDataGraph::slotSetupChanged()
 {
-    mSettings.store(mpGraph->model(), mData);
+    mSettings.store(mData);
     mSettings.load(mpGraph->model(), mData);
     // An edit applies the whole record: it must not bring back a window or a mode that the user has left with the mouse.
     mData.xRange = mpGraph->model().width();

@@ -15,9 +15,14 @@ public:
     /// Brings both up to date with the settings, and lists the shown traces with their colours for the setup window.
     void load(GraphModel& model, GraphData& data) const;
     /// Puts what the setup window has changed into the settings, and writes them when something has.
-    void store(const GraphModel& model, const GraphData& data);
+    void store(const GraphData& data);
 
 private:
+    /// Under which number the settings keep the colour of the parameter in that slot.
+    [[nodiscard]] int colourNumber(int slot, const QString& name) const;
+    /// Whether it has changed.
+    bool storeColour(const TraceColour& trace);
+
     Property& mProperty;
 };
 

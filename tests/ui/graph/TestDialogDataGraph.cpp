@@ -329,6 +329,16 @@ void TestDialogDataGraph::setup()
     pSetup->findChild<QPushButton*>("traceDefault")->click();
     QCOMPARE(shown.model.parameter(0)->drawnColour, QColor(Qt::red));
     QCOMPARE(shown.property.getString("GraphColor0", ""), "");
+    // A colour is its parameter's: the one that takes the place does not get it, and a choice for that one does not replace it.
+    shown.property.setString("GraphColor0", "#123456");
+    shown.property.setString("GraphColorName0", "elsewhere");
+    shown.property.setString("GraphColor1", "#654321");
+    shown.property.setString("GraphColorName1", shown.model.parameter(0)->name.toStdString());
+    shown.dialog.updateSettings();
+    QCOMPARE(shown.model.parameter(0)->drawnColour, QColor("#654321"));
+    pSetup->findChild<QPushButton*>("traceDefault")->click();
+    QCOMPARE(shown.model.parameter(0)->drawnColour, QColor(Qt::red));
+    QCOMPARE(shown.property.getString("GraphColor0", ""), "#123456");
     pSetup->findChild<QCheckBox*>("clickMovesCursor")->click();
     QVERIFY(shown.property.getSwitch("GraphClickMovesCursor", false));
     pSetup->close();

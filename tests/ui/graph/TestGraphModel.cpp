@@ -39,7 +39,6 @@ void TestGraphModel::coloursCanBeRead()
 {
     GraphModel model;
     model.setMaxParameters(30);
-    QCOMPARE(model.parameter(8)->colourKey, "GraphColor8");
     QCOMPARE(model.parameter(2)->colour, (GraphColour{0.0F, 0.0F, 0.7F}));
     for (const GraphColours& colours : {GraphColours{}, GraphColours{GraphColour{}}}) {
         model.setColours(colours);

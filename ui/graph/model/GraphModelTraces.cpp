@@ -21,7 +21,6 @@ void GraphModel::setMaxParameters(int count)
     mOrder.clear();
     for (std::size_t i = 0; i < mParameters.size(); ++i) {
         mParameters[i].colour = standardTraceColour(i);
-        mParameters[i].colourKey = QStringLiteral("GraphColor%1").arg(i);
         mOrder.push_back(static_cast<int>(i));
     }
     ++mGeneration;

@@ -40,7 +40,6 @@ struct GraphParameter {
     GraphColour colour;
     bool hasOwnColour = false; ///< the user's choice, drawn as it is
     QColor drawnColour;        ///< kept up to date by the model
-    QString colourKey;         ///< under which a setting keeps the colour
     int precision = 2; ///< decimal digits of its values
     bool active = false;
     bool samplesVisible = false; ///< each sample is marked where they stand apart
