@@ -106,9 +106,11 @@ void DataTabBar::paintTab(QPainter& painter, int index)
     icon.moveLeft(option.rect.center().x() - kIcon / 2);
     tabIcon(index).paint(&painter, icon);
     const QRect title(option.rect.left(), icon.bottom() + 1, option.rect.width(), option.rect.bottom() - icon.bottom() - kBelow);
-    painter.setFont(titleFont(selected));
+    const int room = title.width() - 2;
+    const bool fitsBold = QFontMetrics(titleFont(true)).horizontalAdvance(option.text) <= room;
+    painter.setFont(titleFont(selected && fitsBold)); // the line below tells the selected one too; a cut title tells less
     painter.setPen(palette().color(QPalette::WindowText));
-    const QString text = QFontMetrics(painter.font()).elidedText(option.text, Qt::ElideRight, title.width() - 2);
+    const QString text = QFontMetrics(painter.font()).elidedText(option.text, Qt::ElideRight, room);
     painter.drawText(title, Qt::AlignCenter | Qt::TextSingleLine, text);
     if (hasFocus() && selected) {
         painter.setPen(QPen(palette().color(QPalette::Highlight), 1, Qt::DotLine));

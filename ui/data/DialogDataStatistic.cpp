@@ -43,6 +43,7 @@ DialogDataStatistic::DialogDataStatistic(const Session& session, QWidget* pParen
     mpEdit->setReadOnly(true);
     mpEdit->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     mpEdit->setContextMenuPolicy(Qt::CustomContextMenu);
+    mpEdit->setProperty("copiesUnselected", true); // or the window would take the copy key first
     mpEdit->installEventFilter(this);
     connect(mpEdit, &QTextEdit::customContextMenuRequested, this, &DialogDataStatistic::showMenu);
     auto* pLayout = new QVBoxLayout(this);

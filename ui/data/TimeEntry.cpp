@@ -80,11 +80,15 @@ void TimeEntry::stepBy(int steps)
     Q_EMIT signalTime(value());
 }
 
-/// A time that is typed after Home replaces what stands there, as one after Select All does.
+/// A time that is typed after Home replaces what stands there, as one after Select All does. So does the first digit after a click into
+/// a whole time, which has no room for one more.
 void TimeEntry::keyPressEvent(QKeyEvent* pEvent)
 {
     if (pEvent->matches(QKeySequence::MoveToStartOfLine))
         return selectAll();
+    const QString typed = pEvent->text();
+    if (mTyped.isEmpty() && !lineEdit()->hasSelectedText() && !typed.isEmpty() && typed[0].isDigit())
+        selectAll();
     QSpinBox::keyPressEvent(pEvent);
 }
 

@@ -14,6 +14,8 @@ namespace {
 
 bool isTextUnselected(const QObject* pReceiver)
 {
+    if (pReceiver->property("copiesUnselected").toBool())
+        return false;
     if (const auto* pLine = qobject_cast<const QLineEdit*>(pReceiver))
         return !pLine->hasSelectedText();
     if (const auto* pText = qobject_cast<const QTextEdit*>(pReceiver))

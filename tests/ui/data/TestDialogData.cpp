@@ -300,6 +300,7 @@ void TestDialogData::typedTimes_data()
     QTest::newRow("home") << QKeySequence(Qt::Key_Home) << "12:34:56" << 45296.0;
     const QKeySequence all(QKeySequence::SelectAll);
     QTest::newRow("all") << all << "12:34:56" << 45296.0;
+    QTest::newRow("into the time") << QKeySequence(Qt::Key_End) << "12:34:56" << 45296.0;
     QTest::newRow("digits only") << all << "123456" << 45296.0;
     QTest::newRow("short") << all << "1:2:03" << 3723.0;
     QTest::newRow("minutes and seconds") << all << "15:30" << 930.0;

@@ -1,6 +1,7 @@
 #include "card/record/RecordFile.h"
 #include "sim/DemoCard.h"
 #include "support/FileHelpers.h"
+#include "ui/data/DataTabBar.h"
 #include "ui/data/DialogData.h"
 #include "ui/data/DialogDataLimit.h"
 #include "ui/data/DialogDataStatistic.h"
@@ -228,7 +229,7 @@ void TestDialogMain::emptyCycle()
 
 void TestDialogMain::copyKey()
 {
-    DesktopFixture desktop(home());
+    DesktopFixture desktop(home(), {card().toStdString()});
     DialogMain& window = desktop.open();
     started(window);
     window.activateWindow();
@@ -249,6 +250,10 @@ void TestDialogMain::copyKey()
     pSearch->selectAll();
     QVERIFY(!opens(pSearch));
     QCOMPARE(QApplication::clipboard()->text(), QString("Oil"));
+    window.slotLoadCycle(2, 0);
+    window.findChild<DataTabBar*>()->setCurrentIndex(eViewStatistic);
+    QVERIFY(!opens(window.findChild<DialogDataStatistic*>()));
+    QVERIFY(QApplication::clipboard()->text().contains("Maximum Alt\t"));
 }
 
 void TestDialogMain::drop()
