@@ -144,13 +144,14 @@ void DialogDataTable::widenColumns()
         return;
     mWidened = true;
     const QFontMetrics metrics(cellFont());
+    std::vector<int> widths(1);
     for (int column = 1; column < mpModel->columnCount(); ++column) {
         int width = 0;
         for (const QString& text : mpModel->widestTexts(column))
             width = std::max(width, metrics.horizontalAdvance(text) + kTextMargin);
-        if (width > mpView->columnWidth(column))
-            mpView->setColumnWidth(column, std::min(width, kMaxWidth));
+        widths.push_back(std::min(width, kMaxWidth));
     }
+    mpView->widenColumns(widths);
 }
 
 void DialogDataTable::fill()
