@@ -97,7 +97,7 @@ TableCell DataTableModel::valueCell(std::size_t column, std::size_t position) co
 
 QStringList DataTableModel::widestTexts(int column) const
 {
-    if (column < 1 || column >= columnCount() || mRowCount == 0)
+    if (column < 1 || column >= columnCount() || mRowCount == 0 || mProfileIdentity != mProfile.identity())
         return {};
     const auto place = static_cast<std::size_t>(column) - 1;
     std::set<double> some; // the words of a list, or the first of many numbers
