@@ -41,7 +41,7 @@ StoredRecord floatRecord(std::size_t i, uint64_t ticks)
 
 /// One channel of 50 Hz and a profile for it. @param restarts true: the tick counter falls back now and then.
 struct Channel {
-    explicit Channel(std::size_t entries, bool restarts = false) : profile(silent()), values(data, profile)
+    explicit Channel(std::size_t entries, bool restarts = false) : profile(silent())
     {
         QDomDocument document;
         document.setContent(QString(kProfile));
@@ -49,13 +49,11 @@ struct Channel {
         for (std::size_t i = 0; i < entries; ++i)
             data.append(1, floatRecord(i, (i - (restarts && i % 1000 > 500 ? 300 : 0)) * 640000));
         data.buildTimeIndex();
-        values.setEndTime(static_cast<double>(entries) * 0.02);
     }
-    const ProfileParameter& parameter() const { return profile.parameter(1); }
+    const ProfileParameter& parameter() const { return profile.model().parameter(1); }
 
     Profile profile;
     RecordData data;
-    CycleValues values;
 };
 
 /// The floor of decoding: one loop over side-by-side records.
@@ -83,7 +81,7 @@ void decodeChannel(benchmark::State& state)
     std::vector<double> out(kEntries);
     const RecordEntries& entries = channel.data.channel(1)->entries;
     for (auto _ : state) {
-        const ValueDecoder decoder = channel.profile.decoder(channel.parameter());
+        const ValueDecoder decoder = channel.profile.context().decoder(channel.parameter());
         CoordinateFilter filter;
         double* pOut = out.data();
         for (std::size_t i = 0; i < entries.chunkCount(); ++i) {
@@ -98,10 +96,11 @@ void valueAtTime(benchmark::State& state)
 {
     const auto entries = static_cast<std::size_t>(state.range(0));
     const Channel channel(entries, state.range(1) != 0);
+    const CycleValues values(channel.data, channel.profile, static_cast<double>(entries) * 0.02);
     std::mt19937_64 random(1);
     std::uniform_real_distribution<double> time(0, static_cast<double>(entries) * 0.02);
     for (auto _ : state)
-        benchmark::DoNotOptimize(channel.values.getValue(channel.parameter(), time(random)));
+        benchmark::DoNotOptimize(values.getValue(channel.parameter(), time(random)));
 }
 
 std::vector<float> someFloats()
@@ -135,8 +134,8 @@ void textFixed(benchmark::State& state)
 }
 
 /// A loaded card.
-struct LoadedCard {
-    explicit LoadedCard(std::size_t records) : profile(silent()), container(silent(), profile, nullProgress())
+struct MeasuredCard {
+    explicit MeasuredCard(std::size_t records) : profile(silent()), container(silent(), profile, nullProgress())
     {
         profile.loadProfile(QString::fromStdString(BenchCard::profile()), "");
         container.readContainer(QString::fromStdString(BenchCard::folder(records)));
@@ -148,7 +147,7 @@ struct LoadedCard {
 
 void csv(benchmark::State& state)
 {
-    LoadedCard card(kEntries);
+    MeasuredCard card(kEntries);
     CsvExportOptions options;
     options.resolution = static_cast<uint32_t>(state.range(0));
     for (auto _ : state) {
@@ -160,7 +159,7 @@ void csv(benchmark::State& state)
 /// Everything that is derived from a loaded cycle before a view shows it.
 void derivedFacts(benchmark::State& state)
 {
-    LoadedCard card(3 * kEntries);
+    MeasuredCard card(3 * kEntries);
     const RecordData& data = card.container.recordData();
     RecordCycle cycle = card.container.recordCycles().begin()->second;
     card.container.calcFlightPath();

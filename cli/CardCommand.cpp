@@ -69,7 +69,7 @@ std::string loadProfileFile(Profile& profile, const std::string& file, const std
 }
 
 CardCommand::CardCommand(CLI::App& program, const char* name, const char* description, const char* example)
-    : Command(program, name, description, example), mProfile(console()), mContainer(console(), mProfile, nullProgress())
+    : Command(program, name, description, example), mProfile(console()), mContainer(console(), mProfile.context(), nullProgress())
 {
     options().add("CARD", mCard, "the card folder, or a log of a CAN bus", CommandOptions::eRequired);
     options().add("--profile", mProfileFile, "profile file (default: the shipped profile \"915\")");

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "card/CardContainer.h"
 #include "cli/Command.h"
+#include "profile/Profile.h"
 
 namespace ZARN {
 

@@ -102,9 +102,9 @@ std::string CommandSummary::eventsText(const EventList& list, const char* worst,
 std::string CommandSummary::faultsText() const
 {
     constexpr double always = std::numeric_limits<double>::infinity();
-    const std::vector<ReportFault> present = presentFaults(mProfile, mContainer.recordData(), -always, always);
+    const std::vector<ReportFault> present = presentFaults(mProfile.model(), mContainer.recordData(), -always, always);
     std::string text;
-    for (const FaultMatrix& matrix : mProfile.errorMatrices()) {
+    for (const FaultMatrix& matrix : mProfile.model().errorMatrices) {
         std::vector<std::string> faults;
         std::vector<std::string> warnings;
         for (const ReportFault& fault : present) {

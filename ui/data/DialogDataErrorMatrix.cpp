@@ -45,7 +45,7 @@ void DialogDataErrorMatrix::loadProfile()
         delete pPanel;
     mPanels.clear();
     addPanels();
-    const std::size_t count = mSession.profile.errorMatrices().size();
+    const std::size_t count = mSession.profile.model().errorMatrices.size();
     mpHint->setVisible(count == 0 || count > mPanels.size());
     mpHint->setText(count == 0 ? tr("The profile declares no error matrix.")
                                : tr("Only the first %1 of %2 error matrices of the profile are shown.").arg(mPanels.size()).arg(count));
@@ -53,7 +53,7 @@ void DialogDataErrorMatrix::loadProfile()
 
 void DialogDataErrorMatrix::addPanels()
 {
-    for (const FaultMatrix& matrix : mSession.profile.errorMatrices()) {
+    for (const FaultMatrix& matrix : mSession.profile.model().errorMatrices) {
         if (mPanels.size() == kMaxPanels)
             return;
         auto* pPanel = new WidgetFaultMatrix(mSession.container);

@@ -1,6 +1,7 @@
 #include "ui/data/DialogDataEvents.h"
 
 #include "card/CardContainer.h"
+#include "profile/Profile.h"
 #include "ui/data/EventMark.h"
 #include "ui/data/TableCopy.h"
 #include "ui/data/model/TextColour.h"

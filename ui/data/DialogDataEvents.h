@@ -12,6 +12,8 @@ class QTableWidgetItem;
 
 namespace ZARN {
 
+class DecodingContext;
+
 /// What the lists of events have in common: one row an event in ascending time; the one chosen last moves the view time. With a flight
 /// selected, the events outside of it are there, but dimmed. Which events there are is told by the derived class.
 class DialogDataEvents : public QWidget, public DataView {
@@ -38,7 +40,7 @@ Q_SIGNALS:
 protected:
     /// What a list is made of.
     struct Kind {
-        EventList (*scan)(const RecordData& data, Profile& profile);
+        EventList (*scan)(const RecordData& data, const DecodingContext& context);
         QString (*stateName)(int state);
         QString title; ///< of the event column
         QString empty; ///< what the view says when there is no event

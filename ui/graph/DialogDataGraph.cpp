@@ -1,6 +1,7 @@
 #include "ui/graph/DialogDataGraph.h"
 
 #include "card/CardContainer.h"
+#include "profile/Profile.h"
 #include "trace/TraceSet.h"
 #include "ui/graph/DialogGraphSetup.h"
 #include "ui/graph/GraphButtons.h"
@@ -60,8 +61,7 @@ void DialogDataGraph::connectGraph()
 /// Calls with slot and trace of each selected parameter, as far as there are slots. @return how many
 template <typename Visitor> int DialogDataGraph::forEachTrace(const RecordData* pRecord, Visitor visit)
 {
-    const TraceSet traces(pRecord, mSession.profile, ENumber::eDisplay, mSession.profile.sharedFilter(),
-                          TraceSet::selected(mSession.profile));
+    const TraceSet traces(pRecord, mSession.profile, ENumber::eDisplay, TraceSet::selected(mSession.profile.selection()));
     const int used = std::min(static_cast<int>(traces.size()), kSlots);
     for (int slot = 0; slot < used; ++slot)
         visit(slot, traces[static_cast<std::size_t>(slot)]);

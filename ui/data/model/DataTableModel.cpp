@@ -23,7 +23,7 @@ void DataTableModel::updateParameters()
 {
     removeRecord();
     beginResetModel();
-    mParameters = ShownParameter::all(mProfile);
+    mParameters = ShownParameter::all(mProfile, mProfile.selection());
     mProfileIdentity = mProfile.identity();
     endResetModel();
 }
@@ -48,7 +48,7 @@ void DataTableModel::setRecord(const RecordData* pRecord)
     const auto isColumn = [this](const ProfileDevice&, const ProfileParameter& parameter) {
         return std::ranges::find(mParameters, parameter.name, &ShownParameter::name) != mParameters.end();
     };
-    mTraces = TraceSet(pRecord, mProfile, ENumber::eText, mProfile.sharedFilter(), isColumn);
+    mTraces = TraceSet(pRecord, mProfile, ENumber::eText, isColumn);
     mRows = TableRows(mTraces);
     const int count = static_cast<int>(std::min(mRows.rowCount(), kMaxRows));
     if (count == 0)
