@@ -4,7 +4,7 @@
 /// once without. The results are the same bits; without the instruction each call goes to the library, three times slower.
 /// The resolver that picks a clone runs before a sanitizer's runtime is up, so sanitized builds do without.
 #if defined(__x86_64__) && defined(__GNUC__) && !defined(__clang__) && !defined(__SANITIZE_ADDRESS__)
-#define ZARN_FMA_CLONES __attribute__((target_clones("arch=haswell", "default")))
+#define ZARN_FMA_CLONES __attribute__((target_clones("fma", "default")))
 #else
 #define ZARN_FMA_CLONES
 #endif
