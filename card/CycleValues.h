@@ -23,6 +23,8 @@ public:
     CycleValues(const RecordData& data, const DecodingContext& context, double endTime);
     /// The same in metric units.
     [[nodiscard]] CycleValues metric() const;
+    /// Times that have a value lie after -1 and before this.
+    [[nodiscard]] int64_t seconds() const { return mSeconds; }
 
     /// The entry that decides the parameter's value at a time: the latest strictly before it, at or before the channel's first
     /// entry that one; none when the channel has no entry at or after the time, or the time lies outside the index.

@@ -145,7 +145,8 @@ void ProfileLoader::noteFaultBit(const ProfileParameter& parameter)
 {
     // A matrix word has no other bits, and a damaged profile may name as many as it has parameters, for each of its matrices.
     if (parameter.startBit >= 0 && parameter.startBit < kMatrixBits && !mContent.errorMatrices.empty())
-        mClaims[parameter.id][parameter.startBit] = {{parameter.name, parameter.path, parameter.errorType}, mContent.errorMatrices.size()};
+        mClaims[parameter.id][parameter.startBit] = {{parameter.name, parameter.path, parameter.errorType, parameter.zarnDataType},
+                                                     mContent.errorMatrices.size()};
 }
 
 void ProfileLoader::linkErrorMatrices()
