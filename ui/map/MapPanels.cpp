@@ -172,7 +172,7 @@ MapValuePanel::Fit MapValuePanel::fit(const QSize& room, int area) const
         rows = rowsIn(width);
     }
     const int height = rows == 0 ? 0 : 2 * kPanelMargin + rows * step() - kPanelSpacing;
-    return {{std::max(width, 0), height}, rows, width >= wanted + bar};
+    return {{std::max(width, 0), height}, rows, width >= wanted + bar, width >= wanted + bar - std::max(mNames - kLeastName, 0)};
 }
 
 void MapValuePanel::apply(const Fit& fit)
@@ -268,7 +268,7 @@ void MapConsentBar::setServer(const QString& name)
 {
     mpText->setText(tr("Load detailed map tiles from %1? The server then learns which area is looked at. "
                        "The answer can be changed in the map's menu and in the preferences.")
-                        .arg(name));
+                        .arg(QString(name).replace('.', QStringLiteral(".\u200b")))); // a long name may be broken there
 }
 
 int MapConsentBar::arrangeFor(int width)

@@ -5,6 +5,7 @@
 #include <QFrame>
 #include <QScrollArea>
 
+#include <algorithm>
 #include <array>
 #include <vector>
 
@@ -27,8 +28,10 @@ public:
     struct Fit {
         QSize size;
         int rows = 0;
-        bool isWhole = false; ///< no text is cut
-        [[nodiscard]] int score() const { return isWhole ? 2 * rows : rows; }
+        bool isWhole = false;    ///< no text is cut
+        bool isReadable = false; ///< no value is cut
+        /// What can be read: a value that is cut tells nothing.
+        [[nodiscard]] int score() const { return isWhole ? 4 * rows : isReadable ? 2 * rows : std::min(rows, 1); }
     };
 
     explicit MapValuePanel(QWidget* pParent);
