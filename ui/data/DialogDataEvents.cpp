@@ -1,9 +1,9 @@
 #include "ui/data/DialogDataEvents.h"
 
 #include "card/CardContainer.h"
+#include "ui/canvas/ColourContrast.h"
 #include "ui/data/EventMark.h"
 #include "ui/data/TableCopy.h"
-#include "ui/data/model/TextColour.h"
 #include "ui/data/model/TimeOfDay.h"
 
 #include <QHeaderView>

@@ -1,7 +1,7 @@
 #include "ui/map/DialogDataMap.h"
 
 #include "app/Property.h"
-#include "app/gui/GraphicsCheck.h"
+#include "ui/gl/GraphicsCheck.h"
 #include "ui/map/MapPanels.h"
 #include "ui/map/model/TileConsent.h"
 
