@@ -20,14 +20,19 @@ void ChannelTrace::decodePositions(CoordinateFilter& filter, double latestTime)
         mTextPositions.reserve(mpEntries->size());
     else
         mPositions.reserve(mpEntries->size());
-    double number = 0;
+    const auto isLate = [latestTime](const StoredRecord& record) { return record.time() > latestTime; };
+    double numbers[kRun];
     for (std::size_t chunk = 0; chunk < mpEntries->chunkCount(); ++chunk) {
-        for (const StoredRecord& record : mpEntries->chunk(chunk)) {
-            if (record.time() > latestTime)
-                number = std::numeric_limits<double>::quiet_NaN();
-            else
-                decode({&record, 1}, &number, filter);
-            hold(number);
+        for (std::span<const StoredRecord> rest = mpEntries->chunk(chunk); !rest.empty();) {
+            const bool late = isLate(rest.front());
+            const auto run = rest.first(std::min(rest.size(), kRun));
+            const auto end = std::ranges::find_if(run, [&](const StoredRecord& record) { return isLate(record) != late; });
+            const auto count = static_cast<std::size_t>(end - run.begin());
+            std::fill_n(numbers, count, std::numeric_limits<double>::quiet_NaN());
+            if (!late)
+                decode(run.first(count), numbers, filter);
+            std::for_each_n(numbers, count, [this](double number) { hold(number); });
+            rest = rest.subspan(count);
         }
     }
 }

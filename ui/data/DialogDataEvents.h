@@ -24,10 +24,12 @@ public:
     void updateProfile() override {}
     void updateRecord(RecordData* pRecord) override;
     void setTime(double time) override;
+    /// Finds the events; the rows wait until they are seen.
+    void prepare(RecordData* pRecord) override;
 
     /// Those of the selected flight, or all.
     [[nodiscard]] int eventCount() const override;
-    [[nodiscard]] const EventList& events() const { return mEvents; }
+    [[nodiscard]] const EventList* eventList() const override { return &mEvents; }
 
 Q_SIGNALS:
     /// The time of the event that the user chose, in seconds.
@@ -68,7 +70,8 @@ private:
     EventList mEvents;
     QTableWidget* mpTable;
     QLabel* mpHint;
-    double mTime = 0.0; ///< the view time that was told last
+    double mTime = 0.0;     ///< the view time that was told last
+    bool mPrepared = false; ///< the events are found, but not in the rows
     bool mBusy = false;
     bool mReported = false; ///< the current row's time was told
     bool mUnseen = false;   ///< the row was selected while nobody saw it

@@ -49,6 +49,7 @@ void DialogDataGraph::focusInEvent(QFocusEvent* /*pEvent*/)
 void DialogDataGraph::connectGraph()
 {
     connect(mpGraph, &WidgetGraphES::signalCursor, this, &DialogDataGraph::signalCursor);
+    connect(mpGraph, &WidgetGraphES::signalCursor, this, [this] { Q_EMIT signalTime(mpGraph->model().cursor().time); });
     connect(mpGraph, &WidgetGraphES::signalManMode, this, &DialogDataGraph::slotManMode);
     connect(mpGraph, &WidgetGraphES::signalMoveParameter, this, [this] { mRecord.keepStrips(); });
     connect(mpGraph, &WidgetGraphES::signalMenu, this, &DialogDataGraph::slotMenu);
@@ -80,6 +81,12 @@ void DialogDataGraph::updateSetup()
 void DialogDataGraph::updateRecord(RecordData* pRecord)
 {
     mRecord.updateRecord(pRecord);
+}
+
+void DialogDataGraph::update(RecordData* pRecord)
+{
+    mRecord.update(pRecord);
+    updateSetup();
 }
 
 void DialogDataGraph::setZarnMode(int mode)

@@ -22,6 +22,7 @@ public:
 
     void updateProfile() override;
     void updateRecord(RecordData* pRecord) override;
+    void update(RecordData* pRecord) override;
     void setTime(double time) override;
     void setZarnMode(int mode) override;
     void updateSettings() override;
@@ -32,6 +33,8 @@ public:
 
 Q_SIGNALS:
     void signalCursor(float time, double value);
+    /// The same, as exactly as the graph knows it.
+    void signalTime(double time);
     /// The user wants the report of the loaded data.
     void signalReport();
 

@@ -31,7 +31,7 @@ template <typename Visitor> int RecordGraph::forEachTrace(const RecordData* pRec
     return used;
 }
 
-void RecordGraph::updateProfile()
+void RecordGraph::describeSlots()
 {
     ShownTraces& traces = mModel.traces();
     const int used = forEachTrace(nullptr, [&](int slot, const Trace& trace) { describeSlot(traces, slot, trace); });
@@ -41,9 +41,20 @@ void RecordGraph::updateProfile()
     std::iota(inUse.begin(), inUse.end(), 0);
     traces.setOrder(mStrips.slotsFor(names(inUse)));
     updateSettings();
+}
+
+void RecordGraph::updateProfile()
+{
+    describeSlots();
     // Another parameter may have taken a slot: no trace may keep the samples of the one before.
     fillRecord();
     mKeepsWindow = true;
+}
+
+void RecordGraph::update(RecordData* pRecord)
+{
+    describeSlots();
+    updateRecord(pRecord);
 }
 
 std::vector<QString> RecordGraph::names(const std::vector<int>& slotNumbers) const

@@ -25,6 +25,8 @@ public:
 
     void updateProfile();
     void updateRecord(RecordData* pRecord);
+    /// Both in one pass over the record.
+    void update(RecordData* pRecord);
     void updateSettings() { mSettings.load(mModel); }
     void storeSettings() { mSettings.store(mModel); }
     /// The common view time has changed.
@@ -60,6 +62,7 @@ private:
     [[nodiscard]] std::vector<QString> names(const std::vector<int>& slotNumbers) const;
     [[nodiscard]] RecordKey recordKey() const;
     [[nodiscard]] QString emptyMessage() const;
+    void describeSlots();
     void fillRecord();
 
     const Session mSession;
