@@ -2,7 +2,7 @@
 
 #include "app/Numeric.h"
 #include "app/Property.h"
-#include "app/gui/GraphicsCheck.h"
+#include "ui/gl/GraphicsCheck.h"
 #include "ui/map/MapPanels.h"
 #include "ui/map/model/TileConsent.h"
 

@@ -1,7 +1,7 @@
 #include "analysis/LimitEvents.h"
 #include "analysis/WarningEvents.h"
 #include "app/Property.h"
-#include "app/gui/GraphicsCheck.h"
+#include "ui/gl/GraphicsCheck.h"
 #include "openstreet/TileHost.h"
 #include "project/Project.h"
 #include "sim/DemoCard.h"
