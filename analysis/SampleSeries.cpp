@@ -51,15 +51,13 @@ void SampleSeries::useDoubles()
 
 void SampleSeries::noteOrder(double time)
 {
-    if (!ascending()) {
-        mLatest.push_back(std::max(mLatest.back(), time));
-        return;
+    if (ascending()) {
+        if (mTimes.empty() || time >= mTimes.back())
+            return;
+        mLatest.reserve(mTimes.capacity());
+        mLatest.begin(mTimes);
     }
-    if (mTimes.empty() || time >= mTimes.back())
-        return;
-    mLatest.reserve(mTimes.capacity());
-    mLatest = mTimes; // they ascended until now, so each is the latest up to it
-    mLatest.push_back(mTimes.back());
+    mLatest.append(time);
 }
 
 void SampleSeries::note(double time, double value)
@@ -282,7 +280,7 @@ double SampleSeries::integral(double from, double to, double* pCovered) const
 
 std::size_t SampleSeries::bytes() const
 {
-    return (mTimes.capacity() + mDoubles.capacity() + mLatest.capacity()) * sizeof(double) + mFloats.capacity() * sizeof(float) +
+    return (mTimes.capacity() + mDoubles.capacity() + mLatest.maxima().capacity()) * sizeof(double) + mFloats.capacity() * sizeof(float) +
            mSeconds.capacity() * sizeof(uint32_t) + mAreas.capacity() * sizeof(Area) + mFloatPyramid.bytes() + mDoublePyramid.bytes();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "analysis/MinMaxPyramid.h"
+#include "app/RunningMaximum.h"
 
 #include <cstdint>
 #include <optional>
@@ -62,7 +63,7 @@ private:
     void noteOrder(double time);
     void noteArea();
     void useDoubles();
-    [[nodiscard]] const std::vector<double>& order() const { return ascending() ? mTimes : mLatest; }
+    [[nodiscard]] const std::vector<double>& order() const { return ascending() ? mTimes : mLatest.maxima(); }
     [[nodiscard]] std::pair<std::size_t, std::size_t> secondOf(double time) const;
     [[nodiscard]] Area segment(std::size_t position, double from, double to) const;
     [[nodiscard]] Area area(std::size_t first, std::size_t last) const;
@@ -71,7 +72,7 @@ private:
     std::vector<float> mFloats;
     std::vector<double> mDoubles;
     bool mIsDouble = false;
-    std::vector<double> mLatest;    // the greatest time up to each sample; empty while the times ascend
+    RunningMaximum<double> mLatest;
     std::vector<uint32_t> mSeconds; // entry k: the first sample at or after mFirstSecond + k
     double mFirstSecond = 0.0;
     MinMaxPyramid<float> mFloatPyramid;

@@ -2,8 +2,8 @@
 
 #include "card/CardProblem.h"
 #include "card/CycleValues.h"
-#include "card/LoadedCard.h"
 #include "card/Geography.h"
+#include "card/LoadedCard.h"
 #include "card/RecordCycle.h"
 #include "card/Resampling.h"
 

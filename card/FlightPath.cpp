@@ -24,8 +24,8 @@ struct Source {
 std::vector<Sample> collect(Source& source, const char* key)
 {
     std::vector<Sample> samples;
-    const auto pTrace = TraceSet::one(source.data, source.context, source.context.model().ofZarnType(key), ENumber::eDisplay, source.filter,
-                                      kLatestTime);
+    const auto pTrace =
+        TraceSet::one(source.data, source.context, source.context.model().ofZarnType(key), ENumber::eDisplay, source.filter, kLatestTime);
     if (!pTrace->decoder().isNumeric())
         return samples;
     samples.reserve(pTrace->size());

@@ -23,10 +23,10 @@ struct LoadedCard {
     std::optional<RecordInfo> unit; ///< of its last file: the first may lack what the unit did not know yet
     std::vector<RecordFlight> flights;
 
-    QDateTime powerUp;         ///< wall clock of time 0; invalid without one
-    RecordFlight flight;       ///< the selected one, or the span of everything
-    int flightNumber = 0;      ///< from 1; 0 when none is selected
-    double startTime = 0.0;    ///< of the span; seconds since power-up
+    QDateTime powerUp;      ///< wall clock of time 0; invalid without one
+    RecordFlight flight;    ///< the selected one, or the span of everything
+    int flightNumber = 0;   ///< from 1; 0 when none is selected
+    double startTime = 0.0; ///< of the span; seconds since power-up
     double endTime = 0.0;
 };
 

@@ -45,13 +45,12 @@ void writeMatrix(JsonWriter& writer, const FaultMatrix& matrix)
     writer.endObject().endObject();
 }
 
-std::string json(const Profile& profile)
+std::string json(const ProfileModel& model, const std::vector<ProfileVariant>& variants)
 {
-    const ProfileModel& model = profile.model();
     JsonWriter writer;
     writer.beginAnswer().member("version", model.version).member("profileId", model.profileId);
     writer.member("name", model.name).member("comment", model.comment).key("variants").beginArray();
-    for (const ProfileVariant& variant : profile.variants())
+    for (const ProfileVariant& variant : variants)
         writer.beginObject().member("name", variant.name).member("color", variant.color).endObject();
     writer.endArray().key("parameters").beginArray();
     for (const ProfileDevice& device : model.devices) {
@@ -75,11 +74,10 @@ std::string heading(const ProfileModel& model)
     return text.empty() ? "Profile without a name" : text;
 }
 
-std::string tables(const Profile& profile)
+std::string tables(const ProfileModel& model, const std::vector<ProfileVariant>& variants)
 {
-    const ProfileModel& model = profile.model();
     std::string text = visibleText(heading(model)) + "\n";
-    for (const ProfileVariant& variant : profile.variants())
+    for (const ProfileVariant& variant : variants)
         text += "Variant " + visibleText(variant.name) + "\n";
     TextTable parameters({"Parameter", "Id", "Type", "Unit", "Imperial", "Key"});
     for (const ProfileDevice& device : model.devices) {
@@ -144,8 +142,8 @@ int CommandProfile::run()
     const std::string problem = loadProfileFile(profile, mFile, mVariant);
     if (!problem.empty())
         return fail(problem);
-    profile.loadVariants(decodeFileName(mFile));
-    return print(mJson ? json(profile) : tables(profile));
+    const std::vector<ProfileVariant>& variants = profile.loadVariants(decodeFileName(mFile));
+    return print(mJson ? json(profile.model(), variants) : tables(profile.model(), variants));
 }
 
 } // namespace ZARN

@@ -30,7 +30,9 @@ struct CsvExportOptions {
 class ExportCsv {
 public:
     /// @param selection matters when an export is not of all parameters
-    explicit ExportCsv(DecodingContext context, Selection selection = {}) : mContext(std::move(context)), mSelection(std::move(selection)) {}
+    explicit ExportCsv(DecodingContext context, Selection selection = {}) : mContext(std::move(context)), mSelection(std::move(selection))
+    {
+    }
 
     /// Writes directory/fileName. @return false when it could not be written whole or was cancelled; the old file, if any, is then
     /// untouched.

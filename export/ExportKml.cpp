@@ -39,16 +39,16 @@ bool ExportKml::collect(const RecordData& recordData, const KmlExportOptions& op
 {
     mError.clear();
     const ProgressSpan path(progress, 0, kPathDone);
-    return mContent.path.build(recordData, mContext, KmlGrid(options.timeStamp), mConsole, path)
-           && exportPlaceMarks(recordData, options, progress) && exportErrors(recordData, options, progress);
+    return mContent.path.build(recordData, mContext, KmlGrid(options.timeStamp), mConsole, path) &&
+           exportPlaceMarks(recordData, options, progress) && exportErrors(recordData, options, progress);
 }
 
 bool ExportKml::exportPlaceMarks(const RecordData& recordData, const KmlExportOptions& options, Progress& progress)
 {
     mContent.placemarks.clear();
     const ProgressSpan span(progress, kPathDone, kPlacemarksDone);
-    return !options.placeMarkOn
-           || mContent.placemarks.collect(recordData, mContext, mSelection, KmlGrid(options.timeStamp), options.placeMarkInterval, span);
+    return !options.placeMarkOn ||
+           mContent.placemarks.collect(recordData, mContext, mSelection, KmlGrid(options.timeStamp), options.placeMarkInterval, span);
 }
 
 bool ExportKml::exportErrors(const RecordData& recordData, const KmlExportOptions& options, Progress& progress)

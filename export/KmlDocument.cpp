@@ -85,8 +85,7 @@ void KmlDocument::writeParameterPlacemarks()
         if (!pPoint || !isWanted(mGrid.seconds(slot, interval)))
             return true;
         beginPlacemark(mGrid.timeOfDay(slot, interval), kNormalStyle);
-        mContent.placemarks.forEachText(
-            [&](const Trace& trace, const std::string& text) { writeValue(trace.name(), text, trace.unit()); });
+        mContent.placemarks.forEachText([&](const Trace& trace, const std::string& text) { writeValue(trace.name(), text, trace.unit()); });
         endPlacemark(*pPoint);
         mDone = mContent.placemarks.textsDone();
         return step();

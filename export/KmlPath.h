@@ -30,7 +30,8 @@ public:
     /// first that is known. Degrees next to 0 are those of a receiver without a fix: the slot stands, the coordinate counts as missing.
     /// Each position is told to a verbose console.
     /// @return false when the user cancels.
-    bool build(const RecordData& data, const DecodingContext& context, const KmlGrid& grid, const Console& console, const ProgressSpan& progress);
+    bool build(const RecordData& data, const DecodingContext& context, const KmlGrid& grid, const Console& console,
+               const ProgressSpan& progress);
 
     /// In ascending order of slots.
     [[nodiscard]] const std::vector<KmlPoint>& points() const { return mPoints; }

@@ -14,8 +14,8 @@ KmlSlots slotsOf(const Trace& trace, const KmlGrid& grid, int interval)
 
 } // namespace
 
-bool KmlPlacemarks::collect(const RecordData& data, const DecodingContext& context, const Selection& selection, const KmlGrid& grid, int interval,
-                            const ProgressSpan& progress)
+bool KmlPlacemarks::collect(const RecordData& data, const DecodingContext& context, const Selection& selection, const KmlGrid& grid,
+                            int interval, const ProgressSpan& progress)
 {
     clear();
     mTraces = TraceSet(&data, context, ENumber::eText, TraceSet::selected(selection));

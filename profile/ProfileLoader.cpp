@@ -113,9 +113,7 @@ void ProfileLoader::readErrorMatrix(const QDomElement& element)
 ProfileParameter ProfileLoader::readParameter(const QDomElement& element, const std::string& device) const
 {
     const QDomNamedNodeMap attributes = element.attributes();
-    const auto integer = [&](const char* name, int fallback) {
-        return mXml.xmlGetIntAttribute(attributes, QLatin1String(name), fallback);
-    };
+    const auto integer = [&](const char* name, int fallback) { return mXml.xmlGetIntAttribute(attributes, QLatin1String(name), fallback); };
     const auto number = [&](const char* name, double fallback) {
         return mXml.xmlGetDoubleAttribute(attributes, QLatin1String(name), fallback);
     };

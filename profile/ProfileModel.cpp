@@ -13,7 +13,8 @@ template <typename List> const List* listOf(const std::vector<List>& lists, int 
     return number >= 1 && number <= static_cast<int>(lists.size()) ? &lists[static_cast<std::size_t>(number - 1)] : nullptr;
 }
 
-template <typename Index, typename Key> const ProfileParameter* lookUp(const Index& index, const Key& key, const ProfileParameter* pFallback)
+template <typename Index, typename Key>
+const ProfileParameter* lookUp(const Index& index, const Key& key, const ProfileParameter* pFallback)
 {
     const auto found = index.find(key);
     return found == index.end() ? pFallback : found->second;

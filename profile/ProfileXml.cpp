@@ -24,8 +24,8 @@ std::vector<ProfileVariant> ProfileXml::variantsOf(const QDomElement& root) cons
     std::vector<ProfileVariant> variants;
     for (QDomElement list = root.firstChildElement("Variants"); !list.isNull(); list = list.nextSiblingElement("Variants")) {
         for (QDomElement variant = list.firstChildElement("Variant"); !variant.isNull(); variant = variant.nextSiblingElement("Variant")) {
-            variants.push_back({xmlGetStdStringAttribute(variant.attributes(), "name", ""),
-                                xmlGetStdStringAttribute(variant.attributes(), "color", "")});
+            variants.push_back(
+                {xmlGetStdStringAttribute(variant.attributes(), "name", ""), xmlGetStdStringAttribute(variant.attributes(), "color", "")});
         }
     }
     return variants;

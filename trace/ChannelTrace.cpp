@@ -6,8 +6,8 @@
 
 namespace ZARN {
 
-ChannelTrace::ChannelTrace(std::string group, const ProfileParameter& parameter, const DecodingContext& context, const RecordChannel* pChannel,
-                           ENumber kind, CoordinateFilter* pFilter, double latestTime)
+ChannelTrace::ChannelTrace(std::string group, const ProfileParameter& parameter, const DecodingContext& context,
+                           const RecordChannel* pChannel, ENumber kind, CoordinateFilter* pFilter, double latestTime)
     : Trace(std::move(group), parameter, context), mpChannel(pChannel), mpEntries(pChannel ? &pChannel->entries : nullptr), mKind(kind)
 {
     if (mpEntries && pFilter && parameter.isPosition() && kind != ENumber::eInteger)

@@ -11,8 +11,8 @@ public:
     /// @param pChannel null: a trace without samples
     /// @param pFilter the position filter of the pass; positions advance it, in stored order. Null: each fix by itself
     /// @param latestTime positions after it are damage that the filter must not follow; their number is NaN
-    ChannelTrace(std::string group, const ProfileParameter& parameter, const DecodingContext& context, const RecordChannel* pChannel, ENumber kind,
-                 CoordinateFilter* pFilter, double latestTime = std::numeric_limits<double>::infinity());
+    ChannelTrace(std::string group, const ProfileParameter& parameter, const DecodingContext& context, const RecordChannel* pChannel,
+                 ENumber kind, CoordinateFilter* pFilter, double latestTime = std::numeric_limits<double>::infinity());
 
     [[nodiscard]] std::vector<PositionRange> rangesIn(double from, double to) const override;
     [[nodiscard]] std::size_t size() const override { return mpEntries ? mpEntries->size() : 0; }

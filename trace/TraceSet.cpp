@@ -36,13 +36,14 @@ std::size_t TraceSet::bytes() const
     return bytes;
 }
 
-std::unique_ptr<const Trace> TraceSet::one(const RecordData& data, const DecodingContext& context, const ProfileParameter& parameter, ENumber kind)
+std::unique_ptr<const Trace> TraceSet::one(const RecordData& data, const DecodingContext& context, const ProfileParameter& parameter,
+                                           ENumber kind)
 {
     return std::make_unique<ChannelTrace>(std::string(), parameter, context, data.channel(parameter.identifier()), kind, nullptr);
 }
 
-std::unique_ptr<const Trace> TraceSet::one(const RecordData& data, const DecodingContext& context, const ProfileParameter& parameter, ENumber kind,
-                                           CoordinateFilter& filter, double latestTime)
+std::unique_ptr<const Trace> TraceSet::one(const RecordData& data, const DecodingContext& context, const ProfileParameter& parameter,
+                                           ENumber kind, CoordinateFilter& filter, double latestTime)
 {
     return std::make_unique<ChannelTrace>(std::string(), parameter, context, data.channel(parameter.identifier()), kind, &filter,
                                           latestTime);

@@ -38,11 +38,11 @@ public:
     [[nodiscard]] std::size_t bytes() const;
 
     /// The trace of a single parameter, each fix of a position by itself.
-    [[nodiscard]] static std::unique_ptr<const Trace> one(const RecordData& data, const DecodingContext& context, const ProfileParameter& parameter,
-                                                          ENumber kind);
+    [[nodiscard]] static std::unique_ptr<const Trace> one(const RecordData& data, const DecodingContext& context,
+                                                          const ProfileParameter& parameter, ENumber kind);
     /// The same as one of several of a pass, positions advancing the filter.
-    [[nodiscard]] static std::unique_ptr<const Trace> one(const RecordData& data, const DecodingContext& context, const ProfileParameter& parameter,
-                                                          ENumber kind, CoordinateFilter& filter,
+    [[nodiscard]] static std::unique_ptr<const Trace> one(const RecordData& data, const DecodingContext& context,
+                                                          const ProfileParameter& parameter, ENumber kind, CoordinateFilter& filter,
                                                           double latestTime = std::numeric_limits<double>::infinity());
 
 private:

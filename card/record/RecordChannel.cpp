@@ -3,28 +3,9 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <ranges>
 
 namespace ZARN {
-
-namespace {
-
-/// The first position in [0, size) whose time, by `timeAt`, is not before `time`; timeAt must not fall.
-template <typename TimeAt> std::size_t lowerBound(std::size_t size, double time, TimeAt timeAt)
-{
-    std::size_t first = 0;
-    while (size > 0) {
-        const std::size_t half = size / 2;
-        if (timeAt(first + half) < time) {
-            first += half + 1;
-            size -= half + 1;
-        } else {
-            size = half;
-        }
-    }
-    return first;
-}
-
-} // namespace
 
 RecordEntry RecordChannel::last() const
 {
@@ -41,14 +22,12 @@ void RecordChannel::buildTimeIndex()
     if (entries.ascending())
         return;
     auto pIndex = std::make_unique<Index>();
-    pIndex->runningMaximum.reserve(entries.size());
-    uint64_t maximum = 0;
+    pIndex->latest.reserve(entries.size());
     for (std::size_t i = 0; i < entries.chunkCount(); ++i) {
         Bounds& bounds = pIndex->chunkBounds.emplace_back(Bounds{entries.chunk(i).front().time(), entries.chunk(i).front().time()});
         for (const StoredRecord& record : entries.chunk(i)) {
             bounds = {std::min(bounds.earliest, record.time()), std::max(bounds.latest, record.time())};
-            maximum = std::max(maximum, record.ticks);
-            pIndex->runningMaximum.push_back(maximum);
+            pIndex->latest.append(record.ticks);
         }
     }
     mpIndex = std::move(pIndex);
@@ -58,18 +37,20 @@ std::size_t RecordChannel::firstAtOrAfter(double time) const
 {
     if (std::isnan(time))
         return entries.size();
-    if (entries.ascending())
-        return lowerBound(entries.size(), time, [this](std::size_t i) { return entries.time(i); });
+    if (entries.ascending()) {
+        const auto positions = std::views::iota(uint32_t{0}, static_cast<uint32_t>(entries.size()));
+        const auto found = std::ranges::lower_bound(positions, time, {}, [this](uint32_t position) { return entries.time(position); });
+        return static_cast<std::size_t>(found - positions.begin());
+    }
     if (!isIndexed()) {
         std::size_t position = 0;
         while (position < entries.size() && entries.time(position) < time)
             ++position;
         return position;
     }
-    const std::vector<uint64_t>& maximum = mpIndex->runningMaximum;
-    return lowerBound(maximum.size(), time, [&maximum](std::size_t i) {
-        return recordTime(static_cast<uint32_t>(maximum[i] >> 32), static_cast<uint32_t>(maximum[i]));
-    });
+    const std::vector<uint64_t>& latest = mpIndex->latest.maxima();
+    const auto timeOf = [](uint64_t ticks) { return recordTime(static_cast<uint32_t>(ticks >> 32), static_cast<uint32_t>(ticks)); };
+    return static_cast<std::size_t>(std::ranges::lower_bound(latest, time, {}, timeOf) - latest.begin());
 }
 
 std::vector<PositionRange> RecordChannel::rangesIn(double from, double to) const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/RunningMaximum.h"
 #include "card/record/RecordEntries.h"
 
 namespace ZARN {
@@ -38,11 +39,10 @@ private:
         double latest;
     };
     struct Index {
-        // The running maximum of the times never falls, and its first value at or after a time stands where the first such time does.
-        std::vector<uint64_t> runningMaximum; // in ticks
-        std::vector<Bounds> chunkBounds;      // of each chunk
+        RunningMaximum<uint64_t> latest; // in ticks
+        std::vector<Bounds> chunkBounds; // of each chunk
     };
-    [[nodiscard]] bool isIndexed() const { return mpIndex && mpIndex->runningMaximum.size() == entries.size(); }
+    [[nodiscard]] bool isIndexed() const { return mpIndex && mpIndex->latest.maxima().size() == entries.size(); }
 
     std::unique_ptr<Index> mpIndex; // null when the times ascend: there may be as many channels as records
     bool mFresh = false;

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <ranges>
 
 namespace ZARN {
 
@@ -50,14 +51,10 @@ int32_t percentOf(int32_t record, int32_t count)
 /// The first record in (record, count] whose percentage differs from `record`'s.
 int32_t nextPercent(int32_t record, int32_t count)
 {
-    const int32_t percent = percentOf(record, count);
-    int64_t low = record;
-    int64_t high = count;
-    while (high - low > 1) {
-        const int64_t middle = (low + high) / 2;
-        (percentOf(static_cast<int32_t>(middle), count) > percent ? high : low) = middle;
-    }
-    return static_cast<int32_t>(high);
+    const int32_t first = std::min(record, count - 1) + 1;
+    const auto later = std::views::iota(first, count);
+    const auto found = std::ranges::upper_bound(later, percentOf(record, count), {}, [count](int32_t r) { return percentOf(r, count); });
+    return first + static_cast<int32_t>(found - later.begin());
 }
 
 template <bool Swap> StoredRecord parseRecord(const uint8_t* pRecord)

@@ -66,9 +66,11 @@ QString shown(uint64_t bytes)
 
 } // namespace
 
-ExportOutlook::ExportOutlook(const RecordData& data, const DecodingContext& context, const Selection& selection, const CsvExportOptions& options)
+ExportOutlook::ExportOutlook(const RecordData& data, const DecodingContext& context, const Selection& selection,
+                             const CsvExportOptions& options)
 {
-    const TraceSet traces(&data, context, ENumber::eText, options.allParameters ? TraceSet::all() : TraceSet::selected(selection), EFixes::eAlone);
+    const TraceSet traces(&data, context, ENumber::eText, options.allParameters ? TraceSet::all() : TraceSet::selected(selection),
+                          EFixes::eAlone);
     Extent rows(options.span);
     double line = kCsvTimeBytes;
     for (const auto& pTrace : traces.traces()) {
@@ -82,7 +84,8 @@ ExportOutlook::ExportOutlook(const RecordData& data, const DecodingContext& cont
         mLack = tr("No parameter is ticked in the profile panel: the file will hold no values.");
 }
 
-ExportOutlook::ExportOutlook(const RecordData& data, const DecodingContext& context, const Selection& selection, const KmlExportOptions& options)
+ExportOutlook::ExportOutlook(const RecordData& data, const DecodingContext& context, const Selection& selection,
+                             const KmlExportOptions& options)
 {
     Extent points(options.span);
     for (const uint32_t identifier : {KmlPath::kLatitudeIdentifier, KmlPath::kLongitudeIdentifier, KmlPath::kAltitudeIdentifier}) {

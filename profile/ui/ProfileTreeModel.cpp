@@ -24,8 +24,9 @@ std::vector<ProfileTreeModel::Device> ProfileTreeModel::readProfile() const
     for (const ProfileDevice& device : mProfile.data()) {
         devices.push_back({QString::fromStdString(device.name), {}});
         for (const ProfileParameter& parameter : device.parameters) {
-            devices.back().parameters.push_back({parameter.name, QString::fromStdString(parameter.name),
-                                                 QString::fromStdString(mProfile.context().unitOf(parameter)), QString::number(parameter.identifier())});
+            const std::string& unit = mProfile.context().unitOf(parameter);
+            devices.back().parameters.push_back({parameter.name, QString::fromStdString(parameter.name), QString::fromStdString(unit),
+                                                 QString::number(parameter.identifier())});
         }
     }
     return devices;

@@ -42,7 +42,8 @@ TraceSet tracesOf(const RecordData& data, const std::vector<uint32_t>& identifie
 {
     std::vector<std::unique_ptr<const Trace>> traces;
     for (const uint32_t identifier : identifiers)
-        traces.push_back(std::make_unique<ChannelTrace>("", ProfileParameter(), DecodingContext(), data.channel(identifier), ENumber::eText, nullptr));
+        traces.push_back(
+            std::make_unique<ChannelTrace>("", ProfileParameter(), DecodingContext(), data.channel(identifier), ENumber::eText, nullptr));
     return TraceSet(std::move(traces));
 }
 

@@ -28,7 +28,6 @@ private Q_SLOTS:
     void unreadableIsNotWritten();
     void iniLines_data();
     void iniLines();
-    void iniFiles();
 
 private:
     [[nodiscard]] std::string path(const std::string& name) const { return mFolder->path().toStdString() + "/" + name; }
@@ -238,29 +237,6 @@ void TestProperty::iniLines()
         QCOMPARE(property.getString(key.toStdString(), "absent"), value.isNull() ? "absent" : value.toStdString());
         QCOMPARE(property.getInt("last", 2), 2);
     }
-}
-
-void TestProperty::iniFiles()
-{
-    Property property(mConsole.console);
-    property.setString("old", "1");
-    QVERIFY(!property.readConfigFile(path("missing")));
-    QVERIFY(!property.readConfigFile(path("")));
-    QCOMPARE(property.getString("old", ""), std::string("1"));
-    putFile(path("x"), "a=1\nb=2\na=3\n");
-    QVERIFY(property.readConfigFile(path("x")));
-    QCOMPARE(property.getString("old", "gone"), std::string("gone"));
-    QCOMPARE(property.getString("a", ""), std::string("3"));
-    putFile(path("x"), "b=4\nc=5");
-    property.setInt("a", 9);
-    QVERIFY(property.update());
-    QCOMPARE(property.getInt("a", 0), 9);
-    QCOMPARE(property.getInt("b", 0), 4);
-    QCOMPARE(property.getInt("c", 0), 5);
-    std::filesystem::remove(path("x"));
-    QVERIFY(!property.update());
-    QVERIFY(!property.readConfigFile());
-    QCOMPARE(property.getInt("c", 0), 5);
 }
 
 QTEST_GUILESS_MAIN(TestProperty)

@@ -8,8 +8,6 @@
 
 #include <sys/stat.h>
 
-#include <clocale>
-#include <cmath>
 #include <cstdio>
 #include <limits>
 
@@ -23,9 +21,6 @@ private Q_SLOTS:
     void intAttribute();
     void doubleAttribute_data();
     void doubleAttribute();
-    void boolAttribute_data();
-    void boolAttribute();
-    void writtenValues();
     void anyTextSurvives();
     void readFailures();
     void sameBytesOnEveryRun();
@@ -99,58 +94,6 @@ void TestXmlHandler::doubleAttribute()
     const XmlHandler xml(mConsole.console);
     QCOMPARE(xml.xmlGetDoubleAttribute(attributesWith(text), "a", 7.5), number);
     QCOMPARE(xml.xmlGetDoubleAttribute(attributesWith(text), "b", 8.5), 8.5);
-}
-
-void TestXmlHandler::boolAttribute_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("value");
-    QTest::newRow("true") << "true" << true;
-    QTest::newRow("1") << "1" << true;
-    for (const char* text : {"", "True", "TRUE", "yes", "01", " true", "2", "false", "0"})
-        QTest::newRow(text) << text << false;
-}
-
-void TestXmlHandler::boolAttribute()
-{
-    QFETCH(QString, text);
-    QFETCH(bool, value);
-    const XmlHandler xml(mConsole.console);
-    QCOMPARE(xml.xmlGetBoolAttribute(attributesWith(text), "a", !value), value);
-    QCOMPARE(xml.xmlGetBoolAttribute(attributesWith(text), "b", true), true);
-    QCOMPARE(xml.xmlGetBoolAttribute(attributesWith(text), "b", false), false);
-}
-
-void TestXmlHandler::writtenValues()
-{
-    const XmlHandler xml(mConsole.console);
-    QDomElement element = xml.xmlCreateElement(mDocument, mDocument, "e");
-    const auto written = [&](auto value) {
-        xml.xmlCreateAttribute(mDocument, element, "a", value);
-        return element.attribute("a");
-    };
-    // The application object sets the user's locale, which must not reach the file.
-    const std::string before = std::setlocale(LC_ALL, nullptr);
-    std::setlocale(LC_ALL, "de_DE.UTF-8");
-    QCOMPARE(written(0.1), QString("0.100000000000"));
-    QCOMPARE(written(48.123456789), QString("48.123456789000"));
-    QCOMPARE(written(-1e-13), QString("-0.000000000000"));
-    std::array<char, 400> expected;
-    std::setlocale(LC_ALL, "C");
-    std::snprintf(expected.data(), expected.size(), "%.12f", -std::numeric_limits<double>::max());
-    QCOMPARE(written(-std::numeric_limits<double>::max()), QString(expected.data()));
-    std::setlocale(LC_ALL, before.c_str());
-    QCOMPARE(written(-std::nan("")), QString("nan"));
-    QCOMPARE(written(-std::numeric_limits<double>::infinity()), QString("-inf"));
-    QCOMPARE(written(-42), QString("-42"));
-    QCOMPARE(written(-5000000000L), QString("-5000000000"));
-    QCOMPARE(written(7UL), QString("7"));
-    QCOMPARE(written(std::numeric_limits<unsigned long>::max()), QString("-1"));
-    QCOMPARE(written(std::string("\xc3\xa4")), QString("\u00e4"));
-    QCOMPARE(written(QString("text")), QString("text"));
-    QCOMPARE(element.attributes().count(), 1);
-    xml.xmlCreateParameter(element, "p", "\xe2\x82\xac");
-    QCOMPARE(element.attribute("p"), QString("\u20ac"));
 }
 
 void TestXmlHandler::anyTextSurvives()

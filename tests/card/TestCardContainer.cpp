@@ -343,7 +343,9 @@ void TestCardContainer::valuesAtTimes()
 void TestCardContainer::valuesOutsideLeaveBandsAlone()
 {
     Sampled sampled({10, 20}, 40);
-    const auto shown = [&](double time) { return sampled.cycle.container.values().displayAt(sampled.cycle.profile.model().parameter(1), time); };
+    const auto shown = [&](double time) {
+        return sampled.cycle.container.values().displayAt(sampled.cycle.profile.model().parameter(1), time);
+    };
     QVERIFY(!shown(30));
     QCOMPARE(shown(15)->text, "1");
     int state = 9;

@@ -155,7 +155,8 @@ void TestFlights::selectedFlight()
     QCOMPARE(loads(), 1);
     QCOMPARE(recording.load(0).startTime(), 31.0); // reads no file again
     QCOMPARE(loads(), 1);
-    QCOMPARE(container.getValue(recording.cycle.profile.model().parameter(eGroundSpeed), 230.5), 100.0); // all of the cycle has values still
+    QCOMPARE(container.getValue(recording.cycle.profile.model().parameter(eGroundSpeed), 230.5),
+             100.0); // all of the cycle has values still
     QVERIFY(!container.loadCycle(0, 2));
     QCOMPARE(recording.load(-1).endTime(), 400.0);
     QCOMPARE(container.dateTime(), kNoon);

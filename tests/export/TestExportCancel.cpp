@@ -25,13 +25,15 @@ public:
     {
         fellBack = fellBack || percent < last || percent > 100;
         last = percent;
-        ++reports;
+        if (++reports == 1 && whenTold)
+            whenTold();
     }
     [[nodiscard]] bool isCancelled() const override { return reports > mPatience; }
 
     int last = 0;
     int reports = 0;
     bool fellBack = false;
+    std::function<void()> whenTold; ///< for the first time
 
 private:
     int mPatience;
@@ -47,8 +49,10 @@ private Q_SLOTS:
     void initTestCase();
     void cancelled_data();
     void cancelled();
+    void othersAreLoadedMeanwhile();
 
 private:
+    void load();
     bool write(const QString& format, Progress& progress);
     std::string target() const { return (mFolder.path() + "/out").toStdString(); }
 
@@ -61,32 +65,38 @@ void TestExportCancel::initTestCase()
 {
     std::string error;
     QVERIFY2(DemoCard().write(mCard.filePath("card").toStdString(), DemoCardOptions{}, error), error.c_str());
-    QVERIFY(mCycle.profile.loadProfile(sourceDir() + "/resources/profiles/915/Profile.xml"));
+    QVERIFY(mCycle.container.readContainer(mCard.filePath("card")));
+    load();
     for (const ProfileDevice& device : mCycle.profile.data()) {
         for (const ProfileParameter& parameter : device.parameters)
             mCycle.profile.setSelected(parameter.name, true);
     }
-    QVERIFY(mCycle.container.readContainer(mCard.filePath("card")));
+}
+
+void TestExportCancel::load()
+{
+    mCycle.profile.setCurrentUnit(EUnit::eImperial);
+    QVERIFY(mCycle.profile.loadProfile(sourceDir() + "/resources/profiles/915/Profile.xml"));
     QVERIFY(mCycle.container.loadCycle(2, -1));
 }
 
 bool TestExportCancel::write(const QString& format, Progress& progress)
 {
-    const RecordData& data = mCycle.container.recordData();
+    const LoadedCard loaded = mCycle.container.loaded();
     if (format == "csv") {
-        ExportCsv exporter(mCycle.profile);
-        return exporter.exportData(data, {mFolder.path(), "out"}, progress);
+        ExportCsv exporter(loaded.context);
+        return exporter.exportData(*loaded.pRecord, {mFolder.path(), "out"}, progress);
     }
     if (format == "kml") {
         const Console quiet([](std::string_view) {}, [](std::string_view) {}, false);
-        ExportKml exporter(quiet, mCycle.profile, mCycle.profile.selection(), {});
+        ExportKml exporter(quiet, loaded.context, mCycle.profile.selection(), {});
         KmlExportOptions options;
         options.directory = mFolder.path().toStdString();
         options.fileName = "out";
-        return exporter.exportData(data, options, progress);
+        return exporter.exportData(*loaded.pRecord, options, progress);
     }
     SafeFile file(target());
-    return ExportGpx().exportData(mCycle.container.loaded(), file, progress);
+    return ExportGpx().exportData(loaded, file, progress);
 }
 
 void TestExportCancel::cancelled_data()
@@ -113,6 +123,23 @@ void TestExportCancel::cancelled()
     QVERIFY(impatient.reports <= patient.reports);
     QCOMPARE(fileContent(target()), std::string("of yesterday"));
     QCOMPARE(entryCount(mFolder.path().toStdString()), 1L);
+}
+
+void TestExportCancel::othersAreLoadedMeanwhile()
+{
+    for (const char* format : {"csv", "kml", "gpx"}) {
+        QVERIFY(write(format, nullProgress()));
+        const std::string expected = fileContent(target());
+        Impatient disturbing(std::numeric_limits<int>::max());
+        disturbing.whenTold = [this] {
+            mCycle.profile.clear();
+            mCycle.profile.setCurrentUnit(EUnit::eMetric);
+            QVERIFY(mCycle.container.loadCycle(1, -1));
+        };
+        QVERIFY(write(format, disturbing));
+        QVERIFY(fileContent(target()) == expected);
+        load();
+    }
 }
 
 QTEST_APPLESS_MAIN(TestExportCancel)

@@ -1,6 +1,6 @@
 #include "export/ExportCsv.h"
 #include "support/CardBuilder.h"
-#include "support/FullDisk.h"
+#include "support/FileHelpers.h"
 #include "support/ProfileBuilder.h"
 #include "support/TestCycle.h"
 
@@ -171,7 +171,6 @@ private Q_SLOTS:
     void equalsNaiveTable();
     void widthsAndTextsBeyondTheBuffers_data();
     void widthsAndTextsBeyondTheBuffers();
-    void fullDisk();
 };
 
 void TestExportCsv::equalsNaiveTable_data()
@@ -233,21 +232,6 @@ void TestExportCsv::widthsAndTextsBeyondTheBuffers()
         file.addWord(static_cast<uint32_t>(i * 7 % 50), i * 0.1 + (i > 100 ? 100 : 0), static_cast<uint32_t>(i / 3 % 8), 5);
     file.fill(data);
     compareLines(csv.run(data), NaiveCsv(csv.cycle.profile, data, csv.options).text());
-}
-
-void TestExportCsv::fullDisk()
-{
-    Export csv;
-    QVERIFY(ProfileBuilder().device("D").parameter("p", 1, "UCHAR").load(csv.cycle.profile));
-    RecordData data;
-    RecordFileBuilder file;
-    for (int i = 0; i < 100; ++i)
-        file.add(1, i * 0.1, bytePayload(static_cast<uint8_t>(i)));
-    file.fill(data);
-    const std::string whole = csv.run(data);
-    const auto write = [&] { return ExportCsv(csv.cycle.profile).exportData(data, csv.options); };
-    const std::string target = (csv.options.directory + "/" + csv.options.fileName).toStdString();
-    QCOMPARE(fillAtEveryByte(target, whole, 1, write), std::string());
 }
 
 QTEST_APPLESS_MAIN(TestExportCsv)

@@ -1,11 +1,7 @@
 #include "app/Property.h"
-#include "export/ExportKml.h"
-#include "support/CardBuilder.h"
-#include "support/FileHelpers.h"
-#include "support/ProfileBuilder.h"
+#include "export/KmlExportOptions.h"
 #include "support/TestCycle.h"
 
-#include <QTemporaryDir>
 #include <QTest>
 
 using namespace ZARN;
@@ -15,36 +11,10 @@ class TestKmlDocument : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void layoutIsThatOfTheOtherFiles();
     void settings();
     void outOfRange_data();
     void outOfRange();
 };
-
-void TestKmlDocument::layoutIsThatOfTheOtherFiles()
-{
-    TestCycle cycle;
-    ProfileBuilder builder;
-    builder.thresholds("Hot", {{100, "WARNING", "yellow"}}).device("GPS").parameter("Latitude", 1036, "FLOAT").parameter("A", 20, "FLOAT", {{"thresholdId", "Hot"}});
-    QVERIFY(builder.parameter("Odd <b>&\"\r\n", 21, "USHORT", {{"unitMetric", "]]> µ\t"}}).load(cycle.profile));
-    cycle.profile.setSelected("A", true);
-    cycle.profile.setSelected("Odd <b>&\"\r\n", true);
-    RecordData data;
-    RecordFileBuilder().addFloat(1036, 1, 48).addFloat(20, 1, 50).addFloat(20, 2, 150).addShort(21, 3, 7).fill(data);
-    const QTemporaryDir folder;
-    KmlExportOptions options;
-    options.directory = folder.path().toStdString();
-    options.fileName = "out.kml";
-    QVERIFY(ExportKml(cycle.console, cycle.profile, cycle.profile.selection(), {}).exportData(data, options));
-    const std::string written = fileContent(folder.filePath("out.kml").toStdString());
-    QDomDocument parsed;
-    QVERIFY(parsed.setContent(QByteArray::fromStdString(written)));
-    QVERIFY(XmlHandler(cycle.console).xmlWriteFile(parsed, folder.filePath("again.kml")));
-    // The toolkit quotes the declaration otherwise, and escapes no ">" that it need not.
-    const auto comparable = [](const std::string& text) { return QString::fromStdString(text).section('\n', 1).replace("&gt;", ">"); };
-    QVERIFY(written.starts_with("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"));
-    QCOMPARE(comparable(written), comparable(fileContent(folder.filePath("again.kml").toStdString())));
-}
 
 void TestKmlDocument::settings()
 {

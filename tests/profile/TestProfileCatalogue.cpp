@@ -56,7 +56,6 @@ private Q_SLOTS:
     void entries();
     void userWinsWhenValid();
     void findsByTextAndPath();
-    void refreshSeesNewProfiles();
     void installPath_data();
     void installPath();
 };
@@ -138,19 +137,6 @@ void TestProfileCatalogue::findsByTextAndPath()
     QCOMPARE(catalogue.entryOf(varied, "two").text, "two");
     QCOMPARE(catalogue.entryOf(varied, "three").text, "one");
     QCOMPARE(catalogue.entryOf(outside, "one").text, "");
-}
-
-void TestProfileCatalogue::refreshSeesNewProfiles()
-{
-    Folders folders;
-    ProfileCatalogue catalogue = folders.catalogue();
-    QVERIFY(catalogue.entries().empty());
-    const QString first = Folders::add(folders.user(), "A");
-    catalogue.refresh();
-    QCOMPARE(texts(catalogue), QStringList{"A"});
-    QVERIFY(QFile::remove(first));
-    catalogue.refresh();
-    QVERIFY(catalogue.entries().empty());
 }
 
 void TestProfileCatalogue::installPath_data()

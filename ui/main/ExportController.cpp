@@ -97,7 +97,8 @@ void ExportController::exportCsv()
     mCsvOptions.fileName = fileName(0, ".csv");
     if (!DialogExportCsv(mSession, mpWindow).getOptions(mCsvOptions, parts(".csv")))
         return;
-    const auto work = [loaded = mSession.container.loaded(), selection = mSession.profile.selection(), options = mCsvOptions](Progress& progress) {
+    const auto work = [loaded = mSession.container.loaded(), selection = mSession.profile.selection(),
+                       options = mCsvOptions](Progress& progress) {
         ExportCsv exporter(loaded.context, selection);
         const bool written = exporter.exportData(*loaded.pRecord, options, progress);
         return Outcome{written, exporter.error()};
@@ -171,7 +172,8 @@ void ExportController::run(const QString& path, const Work& work, const Failure&
             say(QMessageBox::Critical, failure.title, failure.text, thrown.isEmpty() ? QString::fromStdString(pOutcome->error) : thrown);
         }
     };
-    mProgress.start(tr("Writing %1 ...").arg(QFileInfo(path).fileName()), [work, pOutcome](Progress& progress) { *pOutcome = work(progress); }, whenDone);
+    const auto onThread = [work, pOutcome](Progress& progress) { *pOutcome = work(progress); };
+    mProgress.start(tr("Writing %1 ...").arg(QFileInfo(path).fileName()), onThread, whenDone);
 }
 
 void ExportController::say(QMessageBox::Icon icon, const QString& title, const QString& text, const QString& information)

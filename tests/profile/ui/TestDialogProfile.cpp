@@ -67,7 +67,6 @@ class TestDialogProfile : public QObject {
 private Q_SLOTS:
     void keyboardTicks();
     void searching();
-    void menu();
     void projectInStep();
 };
 
@@ -109,23 +108,6 @@ void TestDialogProfile::searching()
     QCOMPARE(panel.pTree->model()->rowCount(), 2);
     QVERIFY(!panel.pTree->isExpanded(panel.at(0)));
     QVERIFY(panel.pTree->isExpanded(panel.at(1)));
-}
-
-void TestDialogProfile::menu()
-{
-    Panel panel;
-    panel.trigger("selectAll", {});
-    QCOMPARE(panel.count(), "3 of 3 parameters selected");
-    panel.trigger("onlyDevice", panel.at(1, 0));
-    QCOMPARE(panel.count(), "1 of 3 parameters selected");
-    QVERIFY(panel.profile.isSelected("Altitude"));
-    panel.trigger("copyName", panel.at(0, 1).siblingAtColumn(2));
-    QCOMPARE(QGuiApplication::clipboard()->text(), "<b>Oil</b> %1 & co");
-    panel.trigger("selectNone", {});
-    QCOMPARE(panel.count(), "0 of 3 parameters selected");
-    QCOMPARE(panel.changed.count(), 3);
-    QVERIFY(!panel.dialog.findChild<QAction*>("copyName")->isEnabled());
-    QCOMPARE(panel.pTree->contextMenuPolicy(), Qt::ActionsContextMenu);
 }
 
 void TestDialogProfile::projectInStep()

@@ -2,7 +2,7 @@
 #include "profile/ProfileCatalogue.h"
 #include "profile/ui/DialogProfileInfo.h"
 #include "project/Project.h"
-#include "support/FullDisk.h"
+#include "support/FileHelpers.h"
 #include "support/TestCycle.h"
 
 #include <QAbstractButton>
@@ -92,8 +92,6 @@ private Q_SLOTS:
     void refusesInvalid_data();
     void refusesInvalid();
     void goesToUserData();
-    void failedCopy();
-    void installsItself();
 };
 
 void TestDialogProfileInfo::textsAreLiteral()
@@ -169,29 +167,6 @@ void TestDialogProfileInfo::goesToUserData()
     installation.install("mine.xml", kOld);
     QCOMPARE(fileContent(chosen.toStdString()), kNew);
     QCOMPARE(fileContent(installation.root.filePath("data/profiles/mine/Profile.xml").toStdString()), kOld);
-}
-
-void TestDialogProfileInfo::failedCopy()
-{
-    Installation installation;
-    putFile(installation.root.filePath("mine.xml").toStdString(), kNew);
-    {
-        const FullDisk full(50);
-        installation.choose("mine.xml");
-    }
-    QCOMPARE(fileContent(installation.installed), kOld);
-    QCOMPARE(installation.dialog.boxes, QStringList{"2|ZARN Info|Profile Installation failed !|Ok"});
-    QCOMPARE(installation.profile.model().name, "New");
-    QVERIFY(installation.shown().contains("New"));
-    QCOMPARE(installation.changed.count(), 0);
-}
-
-void TestDialogProfileInfo::installsItself()
-{
-    Installation installation;
-    installation.install("profiles/A/Profile.xml", kNew);
-    QCOMPARE(fileContent(installation.installed), kNew);
-    QCOMPARE(installation.changed.count(), 1);
 }
 
 QTEST_MAIN(TestDialogProfileInfo)

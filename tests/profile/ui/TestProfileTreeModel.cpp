@@ -68,25 +68,12 @@ class TestProfileTreeModel : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void showsTheProfile();
     void oneNameOneFlag();
-    void changesAreOneAct();
     void rebuilding();
     void filtering_data();
     void filtering();
     void deviceBoxStandsForWhatIsShown();
 };
-
-void TestProfileTreeModel::showsTheProfile()
-{
-    const Trees trees;
-    QCOMPARE(rows(trees.model), (QStringList{"Lane", "-Speed300", "-Oil <b>%1 & co301", "Empty", "Airframe", "-Speed410", "-Altitude411"}));
-    QCOMPARE(trees.at(0, 1, ProfileTreeModel::eUnit).data().toString(), "bar");
-    QCOMPARE(trees.at(0, 1).data(Qt::ToolTipRole).toString(), "<span>Oil &lt;b&gt;%1 &amp; co</span>");
-    QVERIFY(!trees.model.index(1, 0).data(Qt::CheckStateRole).isValid());
-    QVERIFY(!trees.at(0, 0, ProfileTreeModel::eUnit).data(Qt::CheckStateRole).isValid());
-    QCOMPARE(trees.model.parameterCount(), 4);
-}
 
 void TestProfileTreeModel::oneNameOneFlag()
 {
@@ -99,24 +86,6 @@ void TestProfileTreeModel::oneNameOneFlag()
     const bool told = std::ranges::any_of(
         changes, [&trees](const QList<QVariant>& change) { return change[0].toModelIndex().parent() == trees.model.index(2, 0); });
     QVERIFY(told);
-}
-
-void TestProfileTreeModel::changesAreOneAct()
-{
-    Trees trees;
-    QSignalSpy spy(&trees.model, &ProfileTreeModel::signalChanged);
-    QSignalSpy counted(&trees.model, &ProfileTreeModel::signalCounted);
-    trees.filter.selectShown(true);
-    QCOMPARE(trees.model.selectedCount(), 4);
-    QCOMPARE(spy.count(), 1);
-    QCOMPARE(counted.count(), 1);
-    trees.filter.selectShown(true);
-    trees.model.setData(trees.at(0, 0), Qt::Checked, Qt::CheckStateRole);
-    QCOMPARE(spy.count(), 1);
-    QVERIFY(!trees.model.setData(trees.at(0, 0), "Speed", Qt::EditRole));
-    trees.filter.selectShown(false);
-    QCOMPARE(trees.model.selectedCount(), 0);
-    QCOMPARE(spy.count(), 2);
 }
 
 void TestProfileTreeModel::rebuilding()
