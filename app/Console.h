@@ -20,6 +20,7 @@ public:
     void print(const char* format, ...) const __attribute__((format(printf, 2, 3)));
     /// Text as it is: many lines gathered into one piece.
     void write(std::string_view text) const { mSink(text); }
+    void writeError(std::string_view text) const { mErrorSink(text); }
     [[nodiscard]] bool isVerbose() const { return mVerbose; }
     /// The standard error printer's line for a failed system call: prefix, ": ", the system's text for `error`.
     void systemError(const char* prefix, int error) const;

@@ -145,8 +145,7 @@ void DialogDataGraph::updateRecord(RecordData* pRecord)
 {
     // The same once more is the same in another unit.
     const RecordKey key = pRecord ? recordKey() : mMarkedRecord;
-    const std::array span{mSession.container.startTime(), mSession.container.endTime()};
-    mKeepsWindow = mpRecord && mpRecord == pRecord && key == mMarkedRecord && span == mSpan;
+    mKeepsWindow = mpRecord && mpRecord == pRecord && key == mMarkedRecord && span() == mSpan;
     mpRecord = pRecord;
     fillRecord();
     if (!mpRecord || mKeepsWindow)
@@ -154,10 +153,23 @@ void DialogDataGraph::updateRecord(RecordData* pRecord)
     if (!(key == mMarkedRecord))
         mpGraph->setMarker(0, 0);
     mMarkedRecord = key;
-    mSpan = span;
+    mSpan = span();
     zoomAll();
     mpGraph->recalcFrameBuffer();
     mpGraph->setCursorPosition(mSession.container.startTime());
+}
+
+void DialogDataGraph::updateFlights(RecordData* pRecord)
+{
+    if (span() == mSpan)
+        mKeepsWindow = true; // the traces are the same
+    else
+        updateRecord(pRecord);
+}
+
+std::array<double, 2> DialogDataGraph::span() const
+{
+    return {mSession.container.startTime(), mSession.container.endTime()};
 }
 
 DialogDataGraph::RecordKey DialogDataGraph::recordKey() const

@@ -33,6 +33,7 @@ public:
     void updateProfile() override;
     void updateRecord(RecordData* pRecord) override;
     void update(RecordData* pRecord) override;
+    void updateFlights(RecordData* pRecord) override;
     void setTime(double time) override;
     void setZarnMode(int mode) override;
     void updateSettings() override;
@@ -77,6 +78,7 @@ private:
     void arrangeStrips(int used);
     void keepStrips();
     [[nodiscard]] RecordKey recordKey() const;
+    [[nodiscard]] std::array<double, 2> span() const;
     template <typename Visitor> int forEachTrace(const RecordData* pRecord, Visitor visit);
     [[nodiscard]] QString emptyMessage() const;
     void zoomAll();

@@ -160,9 +160,8 @@ QString ExportController::askFile(const char* setting, const QString& title, con
 bool ExportController::run(const QString& path, const std::function<bool(Progress&)>& work)
 {
     ExportProgress progress(tr("Writing %1 ...").arg(QFileInfo(path).fileName()), mpWindow);
-    mCards.hold(true);
+    const auto pRecord = mSession.container.record(); // stays, whatever is loaded meanwhile
     const bool written = work(progress);
-    mCards.hold(false);
     if (written)
         Q_EMIT signalWritten(path);
     return written || progress.isCancelled();
