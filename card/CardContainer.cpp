@@ -73,8 +73,8 @@ CardContainer::CardContainer(const Console& console, const DecodingContext& cont
 {
 }
 
-CardContainer::CardContainer(const CardContainer& card, const Console& console, const DecodingContext& context)
-    : CardState(card), mConsole(console), mContext(context), mpProgress(&nullProgress())
+CardContainer::CardContainer(const CardContainer& card, const DecodingContext& context)
+    : CardState(card), mConsole(card.mConsole), mContext(context), mpProgress(&nullProgress())
 {
     for (auto& [number, cycle] : mCycles) {
         for (auto& file : cycle.files)

@@ -50,7 +50,7 @@ public:
     CardContainer(const Console& console, DecodingContext&& context, Progress& progress) = delete;
     CardContainer(const CardContainer&) = delete;
     /// A draft of another one: begins with what that holds, and may read something else in another thread while that one is used.
-    CardContainer(const CardContainer& card, const Console& console, const DecodingContext& context);
+    CardContainer(const CardContainer& card, const DecodingContext& context);
     CardContainer& operator=(const CardContainer&) = delete;
     static CardContainer& instance();
     /// Takes over what a draft holds, which then has what was here.

@@ -30,14 +30,7 @@ constexpr int kMostListed = 4; // files; their data need the room more
 
 CardController::CardController(const Session& session, DialogCard& browser, RecentFolders& recent, StatusProgress& progress,
                                QWidget* pWindow)
-    : QObject(pWindow), mSession(session), mBrowser(browser), mRecent(recent), mProgress(progress), mpWindow(pWindow),
-      mConsole(
-          [this](std::string_view text) {
-              QMetaObject::invokeMethod(this, [this, line = std::string(text)] { mSession.console.write(line); });
-          },
-          [this](std::string_view text) {
-              QMetaObject::invokeMethod(this, [this, line = std::string(text)] { mSession.console.writeError(line); });
-          })
+    : QObject(pWindow), mSession(session), mBrowser(browser), mRecent(recent), mProgress(progress), mpWindow(pWindow)
 {
     connect(&mTask, &BackgroundTask::signalProgress, this, [this](int percent) { mProgress.setProgress(percent); });
     connect(&mTask, &BackgroundTask::signalFinished, this, &CardController::slotFinished);
@@ -60,7 +53,7 @@ void CardController::begin()
     mJob = std::exchange(mNext, {});
     mJobDecoding = mDecoding;
     mContext = mSession.profile.context();
-    mpDraft = std::make_unique<CardContainer>(mSession.container, mConsole, mContext);
+    mpDraft = std::make_unique<CardContainer>(mSession.container, mContext);
     mProgress.begin();
     mTask.start([this](Progress& progress) {
         mpDraft->setProgress(progress);

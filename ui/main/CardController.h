@@ -1,7 +1,6 @@
 #pragma once
 
 #include "app/BackgroundTask.h"
-#include "app/Console.h"
 #include "profile/DecodingContext.h"
 #include "project/Session.h"
 
@@ -104,7 +103,6 @@ private:
     bool mIsDone = false;      ///< what the job's work told
     std::optional<Job> mJob;   ///< being done
     std::optional<Job> mNext;  ///< takes its place
-    Console mConsole;          ///< of the other thread
     DecodingContext mContext;  ///< by which the job decodes
     std::unique_ptr<CardContainer> mpDraft;
     BackgroundTask mTask; // the last: it refers to what stands above
