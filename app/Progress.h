@@ -8,7 +8,7 @@ class Progress {
 public:
     virtual ~Progress() = default;
     virtual void setProgress(int percent) = 0;
-    /// Whether the operation is to end as soon as it can, leaving no trace. Loading never asks, exports do.
+    /// Whether the operation is to end as soon as it can, leaving no trace.
     [[nodiscard]] virtual bool isCancelled() const { return false; }
 };
 

@@ -1,6 +1,6 @@
 // zarn-bench [NAME ...] [Google Benchmark options]
-// Runs the benchmarks whose names begin with NAME (load, headers, decode, value, text, facts, csv, graph, map, table, replay; default
-// all) and closes with their ratios to a floor measured in the same run. "replay" needs an X server with OpenGL, for instance Xvfb.
+// Runs the benchmarks whose names begin with NAME (load, headers, decode, value, text, facts, csv, graph, map, table, replay, change; default
+// all) and closes with their ratios to a floor measured in the same run. "replay" and "change" need an X server with OpenGL, like Xvfb.
 
 #include <benchmark/benchmark.h>
 

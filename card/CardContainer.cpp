@@ -69,8 +69,22 @@ int64_t wholeMilliseconds(double seconds)
 } // namespace
 
 CardContainer::CardContainer(const Console& console, const DecodingContext& context, Progress& progress)
-    : mConsole(console), mpProgress(&progress), mContext(context), mpData(std::make_shared<RecordData>())
+    : mConsole(console), mContext(context), mpProgress(&progress)
 {
+}
+
+CardContainer::CardContainer(const CardContainer& card, const DecodingContext& context)
+    : CardState(card), mConsole(card.mConsole), mContext(context), mpProgress(&nullProgress())
+{
+    for (auto& [number, cycle] : mCycles) {
+        for (auto& file : cycle.files)
+            file = mFiles.at(encodeFileName(lastComponent(file.get().fileName)));
+    }
+}
+
+void CardContainer::adopt(CardContainer& draft)
+{
+    std::swap<CardState>(*this, draft);
 }
 
 CardContainer& CardContainer::instance()
@@ -96,7 +110,8 @@ bool CardContainer::readContainer(const QString& folder)
         return false;
     mPath = path;
     clear();
-    mConsole.print("CardContainer::readContainer: Path <%s> NrFiles %d\n", path.toUtf8().constData(), static_cast<int>(listing.names.size()));
+    mConsole.print("CardContainer::readContainer: Path <%s> NrFiles %d\n", path.toUtf8().constData(),
+                   static_cast<int>(listing.names.size()));
     readHeaders(listing.folder, listing.names);
     if (listing.readError)
         mFolderProblems.push_back({{}, tr("it cannot be listed to its end: %1").arg(qt_error_string(listing.readError.value())), true});
@@ -112,6 +127,8 @@ void CardContainer::readHeaders(const QString& folder, const std::vector<std::st
     mFolderProblems.clear();
     mLoadProblems.clear();
     for (const std::string& name : names) {
+        if (mpProgress->isCancelled())
+            return;
         const QString path = folder + "/" + decodeFileName(name);
         if (const auto pFile = RecordFormats::reader(path, mConsole, *mpProgress)) {
             pFile->readRecordInfo(path);
@@ -176,6 +193,15 @@ QString CardContainer::name() const
     return full == "/" ? full : lastComponent(full);
 }
 
+void CardContainer::forgetRecord()
+{
+    mpData = std::make_shared<RecordData>();
+    mIndexEnd = 0.0;
+    mLoadedCycle.reset();
+    mFlightIsSelected = false;
+    mFlightPath.clear();
+}
+
 bool CardContainer::loadCycle(unsigned int cycle, int flight)
 {
     const auto found = mCycles.find(cycle);
@@ -187,6 +213,8 @@ bool CardContainer::loadCycle(unsigned int cycle, int flight)
         for (const RecordInfo& info : loaded.files)
             paths.push_back(info.fileName);
         loadFiles(paths);
+        if (mpProgress->isCancelled())
+            return false;
         mLoadedCycle = cycle;
         calcFlights(loaded);
     }
@@ -208,10 +236,18 @@ void CardContainer::select(const RecordFlight& flight, bool isFlight)
     calcFlightPath();
 }
 
+std::shared_ptr<RecordData> CardContainer::makeRecord() const
+{
+    const std::size_t most = RecordPool().left();
+    const std::size_t taken = mpData ? mpData->bytes() : 0; // by whom that is needed still
+    return std::make_shared<RecordData>(std::max<std::size_t>(most - std::min(most, taken), 1));
+}
+
 void CardContainer::loadFiles(const std::list<QString>& files)
 {
-    mpData.reset(); // before another one takes memory, unless somebody still works on it
-    mpData = std::make_shared<RecordData>();
+    if (mpData.use_count() == 1)
+        mpData.reset(); // nobody needs what it takes
+    mpData = makeRecord();
     mIndexEnd = 0.0;
     mLoadedCycle.reset();
     mLoadError.clear();
@@ -221,6 +257,8 @@ void CardContainer::loadFiles(const std::list<QString>& files)
     mStartTime = mEndTime = 0.0;
     try {
         readRecords(files);
+        if (mpProgress->isCancelled())
+            return;
         calcIndex();
     } catch (const std::bad_alloc&) {
         mpData->clear();
@@ -272,7 +310,8 @@ double CardContainer::loadFile(const RecordInfo& info)
     const uint32_t before = mpData->count();
     const auto pFile = RecordFormats::reader(info.fileName, mConsole, *mpProgress);
     if (!pFile) {
-        mLoadProblems.push_back({encodeFileName(lastComponent(info.fileName)), tr("its content has changed since the card was opened"), true});
+        mLoadProblems.push_back(
+            {encodeFileName(lastComponent(info.fileName)), tr("its content has changed since the card was opened"), true});
         return 0.0;
     }
     pFile->setRecordInfo(info);

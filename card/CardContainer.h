@@ -17,9 +17,31 @@ namespace ZARN {
 class Console;
 class Progress;
 
+/// All that a container holds of a card; copies share the records. The cycles refer to the files, which stay where they are when a state
+/// is moved, but not when it is copied.
+struct CardState {
+    QString mPath;
+    std::map<std::string, RecordInfo> mFiles;
+    std::map<uint32_t, RecordCycle> mCycles;
+    std::shared_ptr<RecordData> mpData = std::make_shared<RecordData>(); // never null
+    double mIndexEnd = 0.0;                                              ///< times behind it have no value
+    FlightPath mFlightPath;
+    RecordFlight mSelectedFlight;
+    RecordFlight mWhole; ///< the span of all that was loaded
+    bool mFlightIsSelected = false;
+    std::optional<unsigned int> mLoadedCycle;
+    QDateTime mDateTime;
+    double mStartTime = 0.0;
+    double mEndTime = 0.0;
+    std::string mLoadError;
+    std::vector<CardProblem> mFolderProblems;
+    std::vector<CardProblem> mLoadProblems;
+    std::vector<CardProblem> mProblems; ///< both
+};
+
 /// The owner of a card's data: the files of a card folder, the power cycles that they form, and the records of the cycle
 /// that is loaded. The desktop program has one, reached by instance(); tests and the batch program make their own.
-class CardContainer {
+class CardContainer : private CardState {
     Q_DECLARE_TR_FUNCTIONS(ZARN::CardContainer)
 
 public:
@@ -27,9 +49,13 @@ public:
     CardContainer(const Console& console, const DecodingContext& context, Progress& progress);
     CardContainer(const Console& console, DecodingContext&& context, Progress& progress) = delete;
     CardContainer(const CardContainer&) = delete;
+    /// A draft of another one: begins with what that holds, and may read something else in another thread while that one is used.
+    CardContainer(const CardContainer& card, const DecodingContext& context);
     CardContainer& operator=(const CardContainer&) = delete;
     static CardContainer& instance();
-    /// Who is told of the progress of reading from now on.
+    /// Takes over what a draft holds, which then has what was here.
+    void adopt(CardContainer& draft);
+    /// Who is told of the progress of reading from now on, and may cancel it; what is held then is worth nothing.
     void setProgress(Progress& progress) { mpProgress = &progress; }
 
     /// Forgets the files and cycles; the loaded data stays.
@@ -68,6 +94,10 @@ public:
 
     [[nodiscard]] const RecordData& recordData() const { return *mpData; }
     [[nodiscard]] RecordData& recordData() { return *mpData; }
+    /// The same, for who goes on with it when other records are loaded. They are another object then; a loaded one does not change.
+    [[nodiscard]] const std::shared_ptr<RecordData>& record() const { return mpData; }
+    /// Lets go of the loaded records; the card stays.
+    void forgetRecord();
     /// Everything that is loaded, for who works on it while the container goes on.
     [[nodiscard]] LoadedCard loaded() const;
     /// The values of the loaded data as they are decoded now.
@@ -113,26 +143,12 @@ private:
     /// A flight of the loaded cycle, or the span of all that was loaded.
     void select(const RecordFlight& flight, bool isFlight);
 
+    /// Room for records beside those that are still there.
+    [[nodiscard]] std::shared_ptr<RecordData> makeRecord() const;
+
     const Console& mConsole;
-    Progress* mpProgress;
-    QString mPath;
-    std::map<std::string, RecordInfo> mFiles;
-    std::map<uint32_t, RecordCycle> mCycles;
     const DecodingContext& mContext;
-    std::shared_ptr<RecordData> mpData; // never null
-    double mIndexEnd = 0.0;             // times behind it have no value
-    FlightPath mFlightPath;
-    RecordFlight mSelectedFlight;
-    RecordFlight mWhole; ///< the span of all that was loaded
-    bool mFlightIsSelected = false;
-    std::optional<unsigned int> mLoadedCycle;
-    QDateTime mDateTime;
-    double mStartTime = 0.0;
-    double mEndTime = 0.0;
-    std::string mLoadError;
-    std::vector<CardProblem> mFolderProblems;
-    std::vector<CardProblem> mLoadProblems;
-    std::vector<CardProblem> mProblems; ///< both
+    Progress* mpProgress;
 };
 
 } // namespace ZARN

@@ -10,7 +10,9 @@ namespace ZARN {
 
 void RecordSession::setRecord()
 {
-    mpRecord = &mContainer.recordData();
+    if (!mpLast)
+        mpLast = mpRecord;
+    mpRecord = mContainer.record();
     takeSpan();
     mViewTime = mStartTime;
     ++mVersion.record;
@@ -19,7 +21,7 @@ void RecordSession::setRecord()
 
 void RecordSession::clearRecord()
 {
-    mpRecord = nullptr;
+    mpLast = std::exchange(mpRecord, {});
     ++mVersion.record;
     tell();
 }
@@ -94,6 +96,7 @@ void RecordSession::tell()
     const bool isTimeOnly = !isRecord && told.decoding == mVersion.decoding && told.selection == mVersion.selection;
     Q_EMIT timeChanged(mViewTime, isTimeOnly ? mpSource : nullptr);
     mpSource = nullptr;
+    mpLast.reset();
 }
 
 } // namespace ZARN

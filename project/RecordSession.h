@@ -4,6 +4,8 @@
 #include <QObject>
 #include <QScopedValueRollback>
 
+#include <memory>
+
 namespace ZARN {
 
 class CardContainer;
@@ -44,7 +46,7 @@ public:
     void setTime(double seconds, const QObject* pSource = nullptr);
 
     /// Null while nothing is loaded.
-    [[nodiscard]] RecordData* record() const { return mpRecord; }
+    [[nodiscard]] RecordData* record() const { return mpRecord.get(); }
     /// Date and time of the power-up; invalid when the record tells none.
     [[nodiscard]] const QDateTime& powerUp() const { return mPowerUp; }
     [[nodiscard]] double startTime() const { return mStartTime; }
@@ -68,7 +70,8 @@ private:
     void tell();
 
     CardContainer& mContainer;
-    RecordData* mpRecord = nullptr;
+    std::shared_ptr<RecordData> mpRecord;
+    std::shared_ptr<RecordData> mpLast; ///< that which the views still refer to, until they are told
     QDateTime mPowerUp;
     double mStartTime = 0.0;
     double mEndTime = 0.0;

@@ -94,7 +94,7 @@ template <typename Visitor> bool CandumpFile::forEachLine(FILE* pFile, Visitor v
         kept = isTooLong ? 0 : text.size();
         std::memmove(buffer.data(), text.data(), kept);
         done += static_cast<int64_t>(got);
-        tellProgress(static_cast<int32_t>(std::min<int64_t>(done * 100 / std::max<int64_t>(fileSize(), 1), 99)));
+        isMore &= tellProgress(static_cast<int32_t>(std::min<int64_t>(done * 100 / std::max<int64_t>(fileSize(), 1), 99)));
     }
     return true;
 }

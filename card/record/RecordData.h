@@ -58,6 +58,8 @@ public:
     void forEachInOrder(const std::function<void(uint32_t identifier, const StoredRecord& record)>& visit) const;
 
     void buildTimeIndex();
+    /// The memory that the records take.
+    [[nodiscard]] std::size_t bytes() const { return mPool.bytes(); }
 
 private:
     struct Slot {

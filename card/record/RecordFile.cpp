@@ -193,7 +193,8 @@ template <bool Swap> bool RecordFile::readRecords(FILE* pFile, RecordData& data)
         errno = 0;
         const auto got = static_cast<int32_t>(std::fread(buffer.get(), kRecordSize, static_cast<std::size_t>(wanted), pFile));
         for (int32_t i = 0; i < got;) {
-            tellProgress(percentOf(done + i, recordCount));
+            if (!tellProgress(percentOf(done + i, recordCount)))
+                return true;
             const int32_t run = std::min(got - i, nextPercent(done + i, recordCount) - (done + i));
             if (!appendRecords<Swap>(buffer.get() + i * kRecordSize, run, data))
                 return false;

@@ -105,12 +105,13 @@ void RecordReader::forgetInfo()
     fileName = path;
 }
 
-void RecordReader::tellProgress(int32_t percent)
+bool RecordReader::tellProgress(int32_t percent)
 {
-    if (percent == mToldProgress)
-        return;
-    mToldProgress = percent;
-    mProgress.setProgress(percent);
+    if (percent != mToldProgress) {
+        mToldProgress = percent;
+        mProgress.setProgress(percent);
+    }
+    return !mProgress.isCancelled();
 }
 
 } // namespace ZARN

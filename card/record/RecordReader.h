@@ -31,7 +31,8 @@ public:
 
     /// The header pass. A file that cannot be opened is said on the console and leaves the info as it was.
     void readRecordInfo(const QString& path);
-    /// The full pass: appends every data record of the file named by `fileName`. @return false when memory ran out.
+    /// The full pass: appends every data record of the file named by `fileName`, or some of them when the receiver of the progress
+    /// cancels it. @return false when memory ran out.
     bool readRecordData(RecordData& data);
 
     /// What the last pass found wrong with the file, for people; empty when nothing is.
@@ -62,7 +63,8 @@ protected:
     void forgetInfo();
     [[nodiscard]] int64_t fileSize() const { return mSize; } ///< bytes
     [[nodiscard]] const Console& console() const { return mConsole; }
-    void tellProgress(int32_t percent);
+    /// @return false when whoever waits has had enough of it
+    bool tellProgress(int32_t percent);
 
 private:
     File open(const char* function);

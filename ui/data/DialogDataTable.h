@@ -29,6 +29,7 @@ public:
     void updateProfile() override;
     void updateRecord(RecordData* pRecord) override;
     void update(RecordData* pRecord) override;
+    void updateFlights(RecordData* /*pRecord*/) override {} // the time, which is told next, is all that it shows of them
     void setTime(double time) override;
     /// @param mode 0 shows the record, anything else is the live mode
     void setZarnMode(int mode) override;

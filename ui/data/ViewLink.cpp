@@ -11,10 +11,10 @@ namespace ZARN {
 
 namespace {
 
-/// Whether what a record tells is another one.
-bool isOtherRecord(const RecordSession::Version& a, const RecordSession::Version& b)
+/// Whether other samples are shown, or the same as other values.
+bool hasOtherValues(const RecordSession::Version& a, const RecordSession::Version& b)
 {
-    return a.record != b.record || a.flights != b.flights || a.decoding != b.decoding;
+    return a.record != b.record || a.decoding != b.decoding;
 }
 
 } // namespace
@@ -42,7 +42,7 @@ void ViewLink::prepare()
     const RecordSession::Version was = std::exchange(mPrepared, mSession.version());
     if (was.record != mPrepared.record)
         mView.updateRecord(nullptr); // what it still refers to may go
-    if (isOtherRecord(was, mPrepared))
+    if (hasOtherValues(was, mPrepared))
         mView.prepare(mSession.record());
 }
 
@@ -56,12 +56,15 @@ void ViewLink::updateData()
     const bool isProfile = was.decoding != mShown.decoding || was.selection != mShown.selection;
     if (was.profile != mShown.profile)
         mView.loadProfile();
-    if (isOtherRecord(was, mShown) && isProfile)
+    const bool hasOther = hasOtherValues(was, mShown);
+    if (hasOther && isProfile)
         mView.update(mSession.record());
-    else if (isOtherRecord(was, mShown))
+    else if (hasOther)
         mView.updateRecord(mSession.record());
     else if (isProfile)
         mView.updateProfile();
+    if (!hasOther && was.flights != mShown.flights)
+        mView.updateFlights(mSession.record());
 }
 
 void ViewLink::slotTime(double seconds, const QObject* pSource)

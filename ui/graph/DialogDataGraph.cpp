@@ -83,6 +83,11 @@ void DialogDataGraph::updateRecord(RecordData* pRecord)
     mRecord.updateRecord(pRecord);
 }
 
+void DialogDataGraph::updateFlights(RecordData* pRecord)
+{
+    mRecord.updateFlights(pRecord);
+}
+
 void DialogDataGraph::update(RecordData* pRecord)
 {
     mRecord.update(pRecord);

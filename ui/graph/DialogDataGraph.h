@@ -23,6 +23,7 @@ public:
     void updateProfile() override;
     void updateRecord(RecordData* pRecord) override;
     void update(RecordData* pRecord) override;
+    void updateFlights(RecordData* pRecord) override;
     void setTime(double time) override;
     void setZarnMode(int mode) override;
     void updateSettings() override;

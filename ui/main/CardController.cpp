@@ -4,19 +4,18 @@
 #include "card/CardContainer.h"
 #include "card/CardProblem.h"
 #include "card/record/RecordFormats.h"
+#include "profile/Profile.h"
 #include "sim/DemoCard.h"
 #include "ui/main/CardTree.h"
 #include "ui/main/DialogCard.h"
 #include "ui/main/RecentFolders.h"
 #include "ui/main/StatusProgress.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QMimeData>
-#include <QTimer>
 #include <QUrl>
 
 #include <map>
@@ -25,7 +24,6 @@ namespace ZARN {
 
 namespace {
 
-constexpr int kRetryMilliseconds = 50;
 constexpr int kMostListed = 4; // files; their data need the room more
 
 } // namespace
@@ -34,24 +32,58 @@ CardController::CardController(const Session& session, DialogCard& browser, Rece
                                QWidget* pWindow)
     : QObject(pWindow), mSession(session), mBrowser(browser), mRecent(recent), mProgress(progress), mpWindow(pWindow)
 {
+    connect(&mTask, &BackgroundTask::signalProgress, this, [this](int percent) { mProgress.setProgress(percent); });
+    connect(&mTask, &BackgroundTask::signalFinished, this, &CardController::slotFinished);
+    connect(&mProgress, &StatusProgress::signalCancelled, this, &CardController::cancel);
 }
 
-bool CardController::postpone(const Work& work)
+CardController::~CardController() = default;
+
+void CardController::start(Job job)
 {
-    if (mBusy)
-        QTimer::singleShot(kRetryMilliseconds, this, work);
-    return mBusy;
+    mNext = std::move(job);
+    if (mTask.isRunning())
+        mTask.cancel();
+    else
+        begin();
 }
 
-void CardController::runBusy(const Work& work)
+void CardController::begin()
 {
-    mBusy = true;
-    QApplication::setOverrideCursor(Qt::BusyCursor);
+    mJob = std::exchange(mNext, {});
+    mJobDecoding = mDecoding;
+    mContext = mSession.profile.context();
+    mpDraft = std::make_unique<CardContainer>(mSession.container, mContext);
     mProgress.begin();
-    work();
+    mTask.start([this](Progress& progress) {
+        mpDraft->setProgress(progress);
+        mIsDone = mJob->work(*mpDraft);
+    });
+}
+
+void CardController::slotFinished()
+{
     mProgress.end();
-    QApplication::restoreOverrideCursor();
-    mBusy = false;
+    const Job job = *std::exchange(mJob, {});
+    if (mNext)
+        begin();
+    else if (mTask.isCancelled())
+        Q_EMIT signalCancelled();
+    else if (!mTask.error().isEmpty()) {
+        mDecodedBy = mJobDecoding; // or it would be tried for ever
+        warn(tr("Not everything could be loaded:\n%1").arg(mTask.error()));
+    } else
+        job.finish(mIsDone);
+    if (mTask.isRunning())
+        return;
+    mpDraft.reset();
+    recalculateIfOutdated();
+}
+
+void CardController::cancel()
+{
+    mNext.reset();
+    mTask.cancel();
 }
 
 void CardController::askFolder()
@@ -65,10 +97,15 @@ void CardController::askFolder()
 
 void CardController::openFolder(const QString& path)
 {
-    if (postpone([this, path] { openFolder(path); }))
-        return;
     const QString folder = cleaned(path);
-    if (!readFolder(folder)) {
+    mBrowser.dropChoice();
+    start({[folder](CardContainer& card) { return card.readContainer(folder); },
+           [this, folder](bool isRead) { finishOpening(folder, isRead); }});
+}
+
+void CardController::finishOpening(const QString& folder, bool isRead)
+{
+    if (!showFolder(folder, isRead)) {
         warn(refusal(folder));
         return;
     }
@@ -82,21 +119,17 @@ void CardController::openFolder(const QString& path)
 
 void CardController::restoreFolder(const QString& path)
 {
-    if (postpone([this, path] { restoreFolder(path); }))
-        return;
-    if (readFolder(cleaned(path)))
-        Q_EMIT signalFolderChanged();
+    const QString folder = cleaned(path);
+    start({[folder](CardContainer& card) { return card.readContainer(folder); },
+           [this, folder](bool isRead) {
+               if (showFolder(folder, isRead))
+                   Q_EMIT signalFolderChanged();
+           }});
 }
 
-bool CardController::readFolder(const QString& folder)
+bool CardController::showFolder(const QString& folder, bool isRead)
 {
-    bool found = false;
-    runBusy([&] {
-        found = mSession.container.readContainer(folder);
-        if (found)
-            mBrowser.reloadCardInfo();
-    });
-    if (!found) {
+    if (!isRead) {
         // A card that is shown stays as it is; where there is none, the window says why.
         if (mSession.container.path().isEmpty()) {
             mProblem = refusal(folder);
@@ -104,6 +137,8 @@ bool CardController::readFolder(const QString& folder)
         }
         return false;
     }
+    mSession.container.adopt(*mpDraft);
+    mBrowser.reloadCardInfo();
     mIsLoaded = false;
     mProblem = mSession.container.recordFiles().empty()
                    ? tr("The folder %1 holds no record file (%2).").arg(QDir::toNativeSeparators(folder), RecordFormats::patternText())
@@ -128,57 +163,86 @@ bool CardController::hasData() const
 
 void CardController::openDemoCard(const QString& parentFolder)
 {
-    const QString folder = parentFolder + "/DemoCard";
-    if (!QFileInfo::exists(folder)) {
+    const QString folder = cleaned(parentFolder + "/DemoCard");
+    const auto pError = std::make_shared<std::string>();
+    const auto write = [folder, pError] {
         // Written aside and moved, so that an interrupted run leaves no half card.
         const QString draft = folder + ".new";
         QDir(draft).removeRecursively();
-        std::string error;
-        const bool written = DemoCard().write(QFile::encodeName(draft).toStdString(), DemoCardOptions{}, error);
-        if (!written || !QDir().rename(draft, folder)) {
-            warn(tr("The demo card could not be written:\n%1").arg(error.empty() ? folder : QString::fromStdString(error)));
-            return;
-        }
-    }
-    openFolder(folder);
+        return DemoCard().write(QFile::encodeName(draft).toStdString(), DemoCardOptions{}, *pError) && QDir().rename(draft, folder);
+    };
+    mBrowser.dropChoice();
+    start({[folder, write](CardContainer& card) { return (QFileInfo::exists(folder) || write()) && card.readContainer(folder); },
+           [this, folder, pError](bool isRead) {
+               if (isRead || QFileInfo::exists(folder))
+                   return finishOpening(folder, isRead);
+               warn(tr("The demo card could not be written:\n%1").arg(pError->empty() ? folder : QString::fromStdString(*pError)));
+           }});
 }
 
 void CardController::loadCycle(unsigned int cycle, int flight)
 {
-    if (postpone([this, cycle, flight] { loadCycle(cycle, flight); }))
-        return;
-    runLoad([&] { loadNow(cycle, flight); });
-}
-
-void CardController::loadNow(unsigned int cycle, int flight)
-{
-    if (mSession.container.loadCycle(cycle, flight))
-        mFlight = flight;
+    load([cycle, flight](CardContainer& card) { return card.loadCycle(cycle, flight); }, flight);
 }
 
 void CardController::loadRecords(const std::list<QString>& files)
 {
-    if (postpone([this, files] { loadRecords(files); }))
-        return;
-    runLoad([&] { mSession.container.loadFiles(files); });
+    load(
+        [files](CardContainer& card) {
+            card.loadFiles(files);
+            return true;
+        },
+        {});
 }
 
-void CardController::recalculate()
+void CardController::load(const std::function<bool(CardContainer&)>& work, std::optional<int> flight)
 {
-    if (mSession.container.recordData().count() == 0 || postpone([this] { recalculate(); }))
-        return;
-    runBusy([this] { mSession.container.recalculate(mFlight); });
-    Q_EMIT signalRecalculated();
+    start({work, [this, work, flight](bool isDone) {
+               if (!mpDraft->loadError().empty() && mSession.container.recordData().count() != 0 &&
+                   mpDraft->record() != mSession.container.record()) {
+                   // There may be enough memory for one record, but not for two.
+                   Q_EMIT signalDataChanging();
+                   mSession.container.forgetRecord();
+                   return load(work, flight);
+               }
+               if (isDone && flight)
+                   mFlight = *flight;
+               finishLoad();
+           }});
 }
 
-void CardController::runLoad(const Work& work)
+void CardController::finishLoad()
 {
-    Q_EMIT signalDataChanging(); // the windows are painted while it runs
-    runBusy(work);
+    mSession.container.adopt(*mpDraft);
+    mDecodedBy = mJobDecoding;
     mIsLoaded = true;
     Q_EMIT signalDataChanged();
     if (const std::string& error = mSession.container.loadError(); !error.empty())
         warn(tr("Not everything could be loaded:\n%1").arg(QString::fromStdString(error)));
+}
+
+void CardController::recalculate()
+{
+    ++mDecoding;
+    if (!mTask.isRunning())
+        recalculateIfOutdated();
+}
+
+void CardController::recalculateIfOutdated()
+{
+    if (mSession.container.recordData().count() == 0 || mDecodedBy == mDecoding) {
+        Q_EMIT signalIdle();
+        return;
+    }
+    start({[flight = mFlight](CardContainer& card) {
+               card.recalculate(flight);
+               return true;
+           },
+           [this](bool) {
+               mSession.container.adopt(*mpDraft);
+               mDecodedBy = mJobDecoding;
+               Q_EMIT signalRecalculated();
+           }});
 }
 
 QString CardController::fileProblems() const
@@ -189,7 +253,8 @@ QString CardController::fileProblems() const
     QStringList entries;
     for (const auto& [file, texts] : reasons) {
         if (entries.size() == kMostListed) {
-            entries.append(tr("... and %n more; all are marked under \"Raw Data\"", nullptr, static_cast<int>(reasons.size()) - kMostListed));
+            entries.append(
+                tr("... and %n more; all are marked under \"Raw Data\"", nullptr, static_cast<int>(reasons.size()) - kMostListed));
             break;
         }
         entries.append(file + ": " + texts.join(", "));

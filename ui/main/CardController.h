@@ -1,12 +1,13 @@
 #pragma once
 
+#include "app/BackgroundTask.h"
+#include "profile/DecodingContext.h"
 #include "project/Session.h"
-
-#include <QObject>
-#include <QString>
 
 #include <functional>
 #include <list>
+#include <memory>
+#include <optional>
 
 class QMimeData;
 class QWidget;
@@ -17,13 +18,14 @@ class DialogCard;
 class RecentFolders;
 class StatusProgress;
 
-/// Opens card folders and loads what the card browser chooses. Loads one thing at a time: what is asked for while another load
-/// paints the windows waits until that is done. Owned by the main window.
+/// Opens card folders and loads what the card browser chooses, on a thread of its own: the window goes on with what it shows until all of
+/// it is there. What is asked for last counts; it takes the place of what is still being read. Owned by the main window.
 class CardController : public QObject {
     Q_OBJECT
 
 public:
     CardController(const Session& session, DialogCard& browser, RecentFolders& recent, StatusProgress& progress, QWidget* pWindow);
+    ~CardController() override;
 
     /// Asks for a folder and opens it.
     void askFolder();
@@ -35,9 +37,13 @@ public:
     void openDemoCard(const QString& parentFolder);
     /// Works out anew, without reading, what depends on profile and units: flights, statistics, path. The same flight stays selected.
     void recalculate();
-
     void loadCycle(unsigned int cycle, int flight);
     void loadRecords(const std::list<QString>& files);
+
+    /// Whether something is being read or worked out.
+    [[nodiscard]] bool isBusy() const { return mTask.isRunning(); }
+    /// Ends it; everything stays as it was.
+    void cancel();
 
     /// The folder that a drop names: a folder itself, or that of a file; empty when it names none.
     static QString droppedFolder(const QMimeData* pData);
@@ -52,25 +58,35 @@ public:
 Q_SIGNALS:
     /// Another folder was read, or could not be.
     void signalFolderChanged();
-    /// The loaded records are about to be replaced: whoever shows them must let go of them.
+    /// The memory does not suffice for what is loaded and what shall be: whoever shows the first must let go of it.
     void signalDataChanging();
     /// Other records are loaded.
     void signalDataChanged();
     /// What was loaded is the same; what is worked out of it may be not.
     void signalRecalculated();
+    /// The user has cancelled a load.
+    void signalCancelled();
+    /// All that was asked for is done.
+    void signalIdle();
 
 private:
-    using Work = std::function<void()>;
+    /// A piece of work on a card.
+    struct Job {
+        std::function<bool(CardContainer& card)> work; ///< in the other thread, on a draft of the card; @return whether it succeeded
+        std::function<void(bool isDone)> finish;       ///< back here
+    };
 
-    /// Begins the work later when another load is running. @return whether it does.
-    bool postpone(const Work& work);
-    void runBusy(const Work& work);
-    bool readFolder(const QString& folder);
+    void start(Job job);
+    void begin();
+    void slotFinished();
+    void recalculateIfOutdated();
+    void load(const std::function<bool(CardContainer& card)>& work, std::optional<int> flight);
+    void finishLoad();
+    bool showFolder(const QString& folder, bool isRead);
+    void finishOpening(const QString& folder, bool isRead);
     static QString refusal(const QString& folder);
     /// The one way to write a folder's path: absolute, without a separator at its end.
     static QString cleaned(const QString& path);
-    void loadNow(unsigned int cycle, int flight);
-    void runLoad(const Work& work);
     void warn(const QString& text);
 
     Session mSession;
@@ -80,8 +96,16 @@ private:
     QWidget* mpWindow;
     QString mProblem;
     int mFlight = -1;
-    bool mIsLoaded = false; ///< something of the card that is shown
-    bool mBusy = false;
+    bool mIsLoaded = false;    ///< something of the card that is shown
+    unsigned mDecoding = 0;    ///< counts the profiles and units that were in force
+    unsigned mDecodedBy = 0;   ///< that which the loaded data were worked out by
+    unsigned mJobDecoding = 0; ///< that which was in force when the job began
+    bool mIsDone = false;      ///< what the job's work told
+    std::optional<Job> mJob;   ///< being done
+    std::optional<Job> mNext;  ///< takes its place
+    DecodingContext mContext;  ///< by which the job decodes
+    std::unique_ptr<CardContainer> mpDraft;
+    BackgroundTask mTask; // the last: it refers to what stands above
 };
 
 } // namespace ZARN

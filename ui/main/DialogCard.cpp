@@ -115,11 +115,16 @@ void DialogCard::focusList()
     mpCycles->setFocus();
 }
 
-void DialogCard::reloadCardInfo()
+void DialogCard::dropChoice()
 {
     mpTimer->stop();
     mpCycleTimer->stop();
     mSelectedFiles.clear();
+}
+
+void DialogCard::reloadCardInfo()
+{
+    dropChoice();
     updateInfoRaw();
     updateInfoPowerCycles();
     Q_EMIT signalChanged();
@@ -189,6 +194,19 @@ void DialogCard::addFlights(unsigned int cycle)
         mpCycles->setCurrentItem(pItem->child(chosen));
 }
 
+void DialogCard::showLoaded()
+{
+    clearSelection(*mpRawData);
+    const QSignalBlocker blocker(mpCycles);
+    mpCycles->setCurrentItem(nullptr);
+    const auto cycle = mContainer.loadedCycleNumber();
+    QTreeWidgetItem* pItem = cycle ? cycleItem(*cycle) : nullptr;
+    if (pItem && mContainer.selectedFlightNumber() > 0)
+        pItem = pItem->child(mContainer.selectedFlightNumber() - 1);
+    if (pItem)
+        mpCycles->setCurrentItem(pItem);
+}
+
 void DialogCard::slotExpand(QTreeWidgetItem* pItem)
 {
     const QString path = pItem->data(0, ePathRole).toString();
@@ -238,8 +256,6 @@ void DialogCard::slotTimeoutLoadCycle()
     const unsigned int cycle = mSelectedCycle;
     const int flight = mSelectedFlight;
     Q_EMIT signalLoadCycle(cycle, flight);
-    if (flight == -1)
-        addFlights(cycle);
 }
 
 } // namespace ZARN

@@ -26,6 +26,8 @@ public:
 
     explicit DialogCard(const CardContainer& container, QWidget* pParent = nullptr);
 
+    /// Forgets a choice that still waits: another card is going to be opened.
+    void dropChoice();
     /// Shows the container's card, after its folder was read. A choice still waiting belonged to the old card and is dropped.
     void reloadCardInfo();
     /// Gives the list of cycles the focus.
@@ -34,6 +36,8 @@ public:
     void showProblems();
     /// Lists the flights of a loaded cycle below it, in place of those that stood there.
     void addFlights(unsigned int cycle);
+    /// Chooses the loaded cycle or flight, without loading it; nothing when what is loaded is none of them.
+    void showLoaded();
 
 Q_SIGNALS:
     /// Record files to load, by path.

@@ -36,7 +36,6 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QMimeData>
-#include <QProgressBar>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QStatusBar>
@@ -53,7 +52,6 @@ constexpr int kStartupDelay = 1000; // the window has its size
 constexpr int kStylePeriod = 500;   // from look to look at the style file
 constexpr int kMessageDuration = 8000;
 constexpr int kSelectorWidth = 200;
-constexpr int kProgressWidth = 220;
 constexpr int kMargin = 8;
 
 } // namespace
@@ -98,7 +96,6 @@ DialogMain::DialogMain(const Session& session, const Desktop& desktop)
 
 DialogMain::~DialogMain()
 {
-    mSession.container.setProgress(nullProgress());
     mSession.property.file().setListener({});
     mSession.project.file().setListener({});
 }
@@ -238,13 +235,9 @@ void DialogMain::addUnits()
 
 void DialogMain::createStatusBar()
 {
-    auto* pBar = new QProgressBar;
-    pBar->setObjectName("progress");
-    pBar->setRange(0, 100);
-    pBar->setFixedWidth(kProgressWidth);
-    pBar->hide();
-    mpProgress = std::make_unique<StatusProgress>(*pBar);
-    statusBar()->addPermanentWidget(pBar);
+    mpProgress = new StatusProgress;
+    statusBar()->addPermanentWidget(mpProgress);
+    mpProgress->hide(); // the bar shows what is added
     createNotices();
 }
 
@@ -272,7 +265,6 @@ void DialogMain::createControllers()
         mSession, *mpCardController, [this] { return mpData->graphSpan(); }, this);
     mpProfileController = std::make_unique<ProfileController>(mSession, *mpCatalogue, *mpProfiles, *mpUnits);
     mpLayout = std::make_unique<WindowLayout>(mSession.property, *this, *mpSplitter, *mpSide);
-    mSession.container.setProgress(*mpProgress);
     mpAbout = new DialogAbout(this);
     mpHelp = new DialogHelp(QString::fromStdString(mSession.property.getString("Locale", "us")), this);
     mpProfileInfo = new DialogProfileInfo(mSession, *mpCatalogue, this);
@@ -293,6 +285,7 @@ void DialogMain::connectPanels()
     connect(mpCardController, &CardController::signalDataChanging, this, &DialogMain::slotDataChanging);
     connect(mpCardController, &CardController::signalDataChanged, this, &DialogMain::slotDataChanged);
     connect(mpCardController, &CardController::signalRecalculated, this, &DialogMain::slotRecalculated);
+    connect(mpCardController, &CardController::signalCancelled, this, &DialogMain::showLoaded);
     connect(mpProjectController, &ProjectController::signalChanged, this, &DialogMain::slotProjectChanged);
     connect(mpExportController, &ExportController::signalWritten, this,
             [this](const QString& path) { statusBar()->showMessage(tr("Written: %1").arg(path), kMessageDuration); });

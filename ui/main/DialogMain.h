@@ -120,6 +120,10 @@ private:
     void restoreCard();
     void tellProfileProblem();
     void showProblems();
+    /// Lists the flights of what is loaded.
+    void listFlights();
+    /// Marks in the card browser what is loaded.
+    void showLoaded();
     /// What needs loaded data is offered while there are some.
     void updateExports();
     void showInformation(int id);
@@ -149,7 +153,7 @@ private:
     DialogProfileInfo* mpProfileInfo = nullptr;
     DialogPreferences* mpPreferences = nullptr;
     Notices* mpNotices = nullptr;
-    std::unique_ptr<StatusProgress> mpProgress;
+    StatusProgress* mpProgress = nullptr;
     std::unique_ptr<ProfileCatalogue> mpCatalogue;
     std::unique_ptr<ProfileController> mpProfileController;
     std::unique_ptr<WindowLayout> mpLayout;

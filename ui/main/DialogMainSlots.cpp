@@ -202,8 +202,6 @@ void DialogMain::slotLoadRecord(const std::list<QString>& files)
 void DialogMain::slotLoadCycle(unsigned int cycle, int flight)
 {
     mpCardController->loadCycle(cycle, flight);
-    if (flight < 0)
-        mpCard->addFlights(cycle);
 }
 
 void DialogMain::slotFolderChanged()
@@ -241,13 +239,25 @@ void DialogMain::slotDataChanging()
 void DialogMain::slotRecalculated()
 {
     mRecord.changeFlights();
+    listFlights();
+}
+
+void DialogMain::listFlights()
+{
     if (const auto cycle = mSession.container.loadedCycleNumber())
         mpCard->addFlights(*cycle);
+}
+
+void DialogMain::showLoaded()
+{
+    mpCard->showLoaded();
 }
 
 void DialogMain::slotDataChanged()
 {
     mRecord.setRecord();
+    if (mSession.container.selectedFlightNumber() == 0)
+        listFlights(); // a choice of one of them leaves them
     showProblems();
     updateExports();
     mpWelcome->setState(WidgetWelcome::eEmpty); // seen when there are no data
@@ -271,7 +281,10 @@ void DialogMain::slotTimeout()
     mpProfile->updateProfile();
     slotProfileChanged();
     updateTitle();
-    Q_EMIT signalStarted();
+    if (mpCardController->isBusy())
+        connect(mpCardController, &CardController::signalIdle, this, &DialogMain::signalStarted, Qt::SingleShotConnection);
+    else
+        Q_EMIT signalStarted();
 }
 
 void DialogMain::restoreCard()

@@ -39,13 +39,6 @@ void RecentFolders::add(const QString& folder)
     store(list);
 }
 
-void RecentFolders::remove(const QString& folder)
-{
-    QStringList list = folders();
-    list.removeAll(folder);
-    store(list);
-}
-
 void RecentFolders::store(const QStringList& folders)
 {
     for (int i = 0; i < kCount; ++i)
@@ -60,7 +53,8 @@ void RecentFolders::fillMenu()
     for (const QString& folder : list) {
         // A single "&" in a path would mark a key.
         QAction* pAction = mMenu.addAction(QString(folder).replace("&", "&&"));
-        connect(pAction, &QAction::triggered, this, [this, folder] { Q_EMIT signalChosen(folder); }, Qt::QueuedConnection);
+        connect(
+            pAction, &QAction::triggered, this, [this, folder] { Q_EMIT signalChosen(folder); }, Qt::QueuedConnection);
     }
     if (list.isEmpty())
         mMenu.addAction(tr("No folder opened yet"))->setEnabled(false);

@@ -21,7 +21,6 @@ public:
     [[nodiscard]] QStringList folders() const;
     /// Puts a folder at the head; the caller writes the settings file.
     void add(const QString& folder);
-    void remove(const QString& folder);
 
 Q_SIGNALS:
     void signalChosen(const QString& folder);

@@ -1,45 +1,72 @@
 #include "ui/main/StatusProgress.h"
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QHBoxLayout>
 #include <QProgressBar>
+#include <QPushButton>
+#include <QShortcut>
+
+#include <utility>
 
 namespace ZARN {
 
 namespace {
 
-constexpr qint64 kPaintingMilliseconds = 40; // often enough to look steady, too seldom to cost time
-constexpr qint64 kWorkForPainting = 4;       // where painting is slow, so many times its duration go to the work
+constexpr int kWidth = 220;
+constexpr int kDelay = 150; // milliseconds; what is done by then would only flicker
 
 } // namespace
 
-void StatusProgress::paintWindows()
+StatusProgress::StatusProgress(QWidget* pParent) : QWidget(pParent), mpBar(new QProgressBar)
 {
-    mSincePainting.start();
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-    mPause = std::max(kPaintingMilliseconds, kWorkForPainting * mSincePainting.restart());
+    hide();
+    mpBar->setObjectName("progress");
+    mpBar->setRange(0, 100);
+    mpBar->setFixedWidth(kWidth);
+    auto* pCancel = new QPushButton(tr("Cancel"));
+    pCancel->setObjectName("cancelLoading");
+    pCancel->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    pCancel->setToolTip(tr("Stop loading (Esc); what is shown stays"));
+    auto* pLayout = new QHBoxLayout(this);
+    pLayout->setContentsMargins(0, 0, 0, 0);
+    pLayout->addWidget(mpBar);
+    pLayout->addWidget(pCancel);
+    connect(pCancel, &QPushButton::clicked, this, &StatusProgress::signalCancelled);
+    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &StatusProgress::signalCancelled);
+    mDelay.setSingleShot(true);
+    mDelay.setInterval(kDelay);
+    connect(&mDelay, &QTimer::timeout, this, &StatusProgress::slotAppear);
+}
+
+StatusProgress::~StatusProgress()
+{
+    end();
 }
 
 void StatusProgress::begin()
 {
-    mBar.setValue(0);
-    mBar.show();
-    mRunning = true;
-    paintWindows();
+    mpBar->setValue(0);
+    mDelay.start();
+}
+
+void StatusProgress::slotAppear()
+{
+    mHasCursor = true;
+    QApplication::setOverrideCursor(Qt::BusyCursor);
+    show();
 }
 
 void StatusProgress::setProgress(int percent)
 {
-    if (mRunning && mSincePainting.elapsed() < mPause)
-        return; // the bar paints itself at once when it is given a value, and with it the whole window where that holds OpenGL
-    mBar.setValue(percent);
-    if (mRunning)
-        paintWindows();
+    mpBar->setValue(percent);
 }
 
 void StatusProgress::end()
 {
-    mRunning = false;
-    mBar.hide();
+    mDelay.stop();
+    hide();
+    if (std::exchange(mHasCursor, false))
+        QApplication::restoreOverrideCursor();
 }
 
 } // namespace ZARN

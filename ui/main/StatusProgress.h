@@ -1,31 +1,34 @@
 #pragma once
 
-#include "app/Progress.h"
-
-#include <QElapsedTimer>
+#include <QTimer>
+#include <QWidget>
 
 class QProgressBar;
 
 namespace ZARN {
 
-/// Shows the progress of loading in a bar and keeps the windows painted meanwhile. Input of the user waits until the work is
-/// done; timers run, so that whoever is started by one must not begin another load in the midst of the first.
-class StatusProgress : public Progress {
-public:
-    explicit StatusProgress(QProgressBar& bar) : mBar(bar) {}
+/// How far a load is, in the status bar, beside a button that ends it, as the escape key does. Comes, with the cursor of somebody who is
+/// busy, when the load takes long enough to be waited for.
+class StatusProgress : public QWidget {
+    Q_OBJECT
 
-    /// Shows the bar, empty.
+public:
+    explicit StatusProgress(QWidget* pParent = nullptr);
+    ~StatusProgress() override;
+
     void begin();
-    void setProgress(int percent) override;
+    void setProgress(int percent);
     void end();
 
-private:
-    void paintWindows();
+Q_SIGNALS:
+    void signalCancelled();
 
-    QProgressBar& mBar;
-    QElapsedTimer mSincePainting;
-    qint64 mPause = 0; ///< milliseconds from one painting to the next
-    bool mRunning = false;
+private:
+    void slotAppear();
+
+    QProgressBar* mpBar;
+    QTimer mDelay;
+    bool mHasCursor = false;
 };
 
 } // namespace ZARN

@@ -39,6 +39,7 @@ public:
     void updateProfile() override { mLog.append(mLetter + "p"); }
     void updateRecord(RecordData* pRecord) override { mLog.append(mLetter + (pRecord ? "r" : "0")); }
     void update(RecordData* pRecord) override { mLog.append(mLetter + (pRecord ? "u" : "0")); }
+    void updateFlights(RecordData* /*pRecord*/) override { mLog.append(mLetter + "f"); }
     void prepare(RecordData* /*pRecord*/) override { mLog.append(mLetter + "c"); }
     void setTime(double time) override { mLog.append(mLetter + QString::number(time)); }
     void loadProfile() override { mLog.append(mLetter + "l"); }
@@ -182,7 +183,7 @@ void TestDialogData::pushOrders_data()
              tab(area);
          },
          ""},
-        {"flights", [](Area& area) { area.record.changeFlights(); }, "Tr Gc Fc Sc Lc Wc Mr T10 M10"},
+        {"flights", [](Area& area) { area.record.changeFlights(); }, "Tf Mf T10 M10"},
         {"table", pick(eViewTable), "M20.5"},
         {"graph", [](Area& area) { area.area->slotCursor(20.5F, 3.0); }, "T20.5 M20.5"},
         {"faults", pick(eViewFaultMatrix), "T20.5 M20.5"},

@@ -10,6 +10,7 @@
 #include "project/Project.h"
 #include "support/ConsoleText.h"
 #include "support/Places.h"
+#include "ui/main/CardController.h"
 #include "ui/main/DialogMain.h"
 
 #include "app/Progress.h"
@@ -71,6 +72,13 @@ struct DesktopFixture {
 inline void started(ZARN::DialogMain& window)
 {
     QVERIFY(QSignalSpy(&window, &ZARN::DialogMain::signalStarted).wait(10000));
+}
+
+/// Waits until nothing is loaded any more, and the views have been told.
+inline void settled(ZARN::DialogMain& window)
+{
+    QTRY_VERIFY_WITH_TIMEOUT(!window.card().isBusy(), 30000);
+    QCoreApplication::sendPostedEvents();
 }
 
 template <typename Widget> bool isShown(ZARN::DialogMain& window)

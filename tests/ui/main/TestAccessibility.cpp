@@ -133,6 +133,7 @@ void TestAccessibility::everyWindow()
     started(window);
     QStringList faults = unreached(window);
     window.slotLoadCycle(2, -1);
+    settled(window);
     faults << unnamed(window);
     auto* pTabs = window.findChild<DataTabBar*>();
     for (int tab = 0; tab < pTabs->count(); ++tab) {

@@ -19,6 +19,8 @@ struct Browser : FlightCard {
         QObject::connect(&dialog, &DialogCard::signalLoadCycle, &dialog, [this](unsigned int cycle, int flight) {
             loaded << QPoint(static_cast<int>(cycle), flight);
             container.loadCycle(cycle, flight);
+            if (flight < 0)
+                dialog.addFlights(cycle);
         });
         QObject::connect(&dialog, &DialogCard::signalLoadRecord, &dialog, [this](const std::list<QString>& files) {
             QStringList names;

@@ -5,16 +5,13 @@
 #include "ui/data/DialogData.h"
 #include "ui/data/DialogDataLimit.h"
 #include "ui/data/DialogDataStatistic.h"
-#include "ui/data/model/DataTableModel.h"
 #include "ui/graph/DialogDataGraph.h"
-#include "ui/graph/WidgetGraphES.h"
 #include "ui/main/Answer.h"
 #include "ui/main/CardController.h"
 #include "ui/main/DesktopFixture.h"
 #include "ui/main/DialogCard.h"
 #include "ui/main/DialogPreferences.h"
 #include "ui/main/MainActions.h"
-#include "ui/main/RecentFolders.h"
 #include "ui/main/WidgetWelcome.h"
 #include "ui/map/DialogDataMap.h"
 
@@ -47,14 +44,11 @@ private Q_SLOTS:
     void init();
     void firstSight();
     void openCard();
-    void tellsOnce_data();
-    void tellsOnce();
     void refusedFolder();
     void cardProblems();
     void emptyCycle();
     void copyKey();
     void drop();
-    void recentFolders();
     void demoCard();
     void restart();
     void pulledCard();
@@ -136,8 +130,11 @@ void TestDialogMain::openCard()
     DesktopFixture desktop(home());
     DialogMain& window = desktop.open();
     started(window);
+    window.openFolder(home());
+    window.openFolder(card() + "/"); // in place of the other one
+    settled(window);
     window.openFolder(card());
-    window.openFolder(card() + "/"); // the same card
+    settled(window);
     QCOMPARE(desktop.property.getString("RecentFolder1", ""), std::string());
     QCOMPARE(window.windowTitle(), QString("ZARN SD/Card"));
     QCOMPARE(desktop.property.getString("LastPath", ""), card().toStdString());
@@ -161,46 +158,13 @@ void TestDialogMain::openCard()
     QTRY_COMPARE_WITH_TIMEOUT(pData->viewTime(), desktop.container.loadedCycle()->flights[1].startTime, 20000);
 }
 
-void TestDialogMain::tellsOnce_data()
-{
-    using Action = std::function<void(DialogMain&)>;
-    QTest::addColumn<Action>("action");
-    QTest::newRow("start") << Action(started); // without a record there is nothing to fill
-    QTest::newRow("load") << Action([](DialogMain& window) { window.slotLoadCycle(2, -1); });
-    QTest::newRow("variant") << Action([](DialogMain& window) { window.slotProfileChanged("916 A"); });
-    QTest::newRow("unit") << Action([](DialogMain& window) { window.slotUnitChanged(1); });
-}
-
-void TestDialogMain::tellsOnce()
-{
-    QFETCH(std::function<void(DialogMain&)>, action);
-    const bool isStart = QString(QTest::currentDataTag()) == "start";
-    DesktopFixture desktop(home(), isStart ? std::vector<std::string>() : std::vector{card().toStdString()});
-    DialogMain& window = desktop.open();
-    if (!isStart) {
-        started(window);
-        desktop.profile.setSelected("Oil Temperature", true);
-        desktop.project.takeProfileData();
-        window.slotLoadCycle(1, -1);
-        QTest::qWait(100);
-    }
-    const auto* pTable = window.findChild<DataTableModel*>();
-    const auto* pGraph = &window.findChild<DialogDataGraph*>()->graph().model();
-    QSignalSpy filled(pTable, &DataTableModel::rowsInserted), cleared(pTable, &DataTableModel::rowsRemoved);
-    action(window);
-    QTest::qWait(100);
-    QCOMPARE(filled.count(), isStart ? 0 : 1);
-    QCOMPARE(cleared.count(), isStart ? 0 : 1);
-    QVERIFY(
-        std::ranges::all_of(pGraph->shown(), [pGraph](int slot) { return pGraph->parameter(slot)->samples.empty(); })); // nobody sees it
-}
-
 void TestDialogMain::refusedFolder()
 {
     DesktopFixture desktop(home(), {card().toStdString()});
     DialogMain& window = desktop.open();
     started(window);
     window.slotLoadCycle(2, -1);
+    settled(window);
     auto* pTree = window.findChild<QTreeWidget*>("treeCycles");
     pTree->setCurrentItem(pTree->topLevelItem(0)->child(0));
     for (const bool chosen : {false, true}) {
@@ -209,6 +173,7 @@ void TestDialogMain::refusedFolder()
             window.openFolder(home() + "/<b>gone</b>");
         else
             window.action(eActionOpenFolder)->trigger();
+        settled(window);
         QCOMPARE(answer.title, chosen ? QString("ZARN Warning") : QString("Open SD Card"));
         QCOMPARE(answer.text, chosen ? "The folder " + home() + "/<b>gone</b> is not there, or cannot be read." : QString());
         QVERIFY(isShown<DialogData>(window) && !pTree->selectedItems().isEmpty());
@@ -218,6 +183,7 @@ void TestDialogMain::refusedFolder()
     QVERIFY(QDir().mkpath(home() + "/empty"));
     Answer answer(Answer::close);
     window.openFolder(home() + "/empty");
+    settled(window);
     QCOMPARE(answer.text, "The folder " + home() + "/empty holds no record file (*.CAN, *.can, *.xcb, *.log).");
     QVERIFY(isShown<WidgetWelcome>(window));
     for (const int id : {eActionExportKml, eActionExportCsv, eActionExportGpx, eActionReport})
@@ -241,11 +207,13 @@ void TestDialogMain::cardProblems()
         DesktopFixture desktop(home());
         DialogMain& window = desktop.open();
         started(window);
-        window.openFolder(folder);                                         // no box stands in the way
+        window.openFolder(folder); // no box stands in the way
+        settled(window);
         QCOMPARE(window.windowTitle(), "ZARN " + folder.section('/', -2)); // the others are there
         QVERIFY(told(window, "LOG00003.CAN") && !told(window, "LOG00001.CAN"));
         QFile::remove(folder + "/LOG00001.CAN");
         window.slotLoadCycle(desktop.container.recordCycles().begin()->first, -1);
+        settled(window);
         QVERIFY(told(window, "LOG00003.CAN") && told(window, "LOG00001.CAN"));
     }
     DesktopFixture next(home());
@@ -261,6 +229,7 @@ void TestDialogMain::emptyCycle()
     DialogMain& window = desktop.open();
     started(window);
     window.slotLoadCycle(desktop.container.recordCycles().begin()->first, -1);
+    settled(window);
     QVERIFY(isShown<WidgetWelcome>(window));
     QCOMPARE(window.findChild<WidgetWelcome*>()->findChild<QLabel*>("heading")->text(), QString("No records"));
     QVERIFY(!window.action(eActionExportCsv)->isEnabled());
@@ -290,6 +259,7 @@ void TestDialogMain::copyKey()
     QVERIFY(!opens(pSearch));
     QCOMPARE(QApplication::clipboard()->text(), QString("Oil"));
     window.slotLoadCycle(2, 0);
+    settled(window);
     window.findChild<DataTabBar*>()->setCurrentIndex(eViewStatistic);
     QVERIFY(!opens(window.findChild<DialogDataStatistic*>()));
     QVERIFY(QApplication::clipboard()->text().contains("Maximum Alt\t"));
@@ -316,33 +286,13 @@ void TestDialogMain::drop()
     QVERIFY(!other.isAccepted());
 }
 
-void TestDialogMain::recentFolders()
-{
-    ConsoleText console;
-    Property property(console.console);
-    QMenu menu;
-    RecentFolders recent(property, menu);
-    QCOMPARE(menu.actions().size(), 1);
-    QVERIFY(!menu.actions().first()->isEnabled());
-    for (int i = 0; i < 12; ++i)
-        recent.add(QString("/card & %1").arg(i));
-    recent.add("/card & 5");
-    QCOMPARE(recent.folders().size(), 10);
-    QCOMPARE(recent.folders().mid(0, 3), QStringList({"/card & 5", "/card & 11", "/card & 10"}));
-    QSignalSpy chosen(&recent, &RecentFolders::signalChosen);
-    menu.actions().at(1)->trigger();
-    QVERIFY(chosen.wait(1000));
-    QCOMPARE(chosen.first().first().toString(), QString("/card & 11"));
-    recent.remove("/card & 5");
-    QCOMPARE(recent.folders().first(), QString("/card & 11"));
-}
-
 void TestDialogMain::demoCard()
 {
     DesktopFixture desktop(home());
     DialogMain& window = desktop.open();
     started(window);
     QTest::mouseClick(window.findChild<QPushButton*>("openDemo"), Qt::LeftButton);
+    settled(window);
     QCOMPARE(window.windowTitle(), QString("ZARN data/DemoCard"));
     QCOMPARE(desktop.container.recordCycles().size(), std::size_t(3));
     QVERIFY(!QDir(home() + "/data/DemoCard.new").exists());
@@ -355,6 +305,7 @@ void TestDialogMain::restart()
         DialogMain& window = desktop.open();
         started(window);
         window.openFolder(card());
+        settled(window);
         window.resize(1200, 700);
         desktop.profile.setSelected("Engine Speed", true);
         window.slotCanChanged();
@@ -464,6 +415,7 @@ void TestDialogMain::mapTiles()
     DialogMain& window = desktop.open();
     started(window);
     window.slotLoadCycle(2, -1);
+    settled(window);
     WidgetMap* pMap = window.findChild<DialogDataMap*>()->mapWidget();
     QVERIFY(pMap && !pMap->map().areTilesAllowed());
     const auto* pQuestion = window.findChild<QWidget*>("consentBar");
@@ -496,6 +448,7 @@ void TestDialogMain::exportCsv()
     DialogMain& window = desktop.open();
     started(window);
     window.slotLoadCycle(3, -1);
+    settled(window);
     QString proposed;
     Answer save([&](QWidget* pModal) {
         proposed = pModal->findChild<QLineEdit*>("fileName")->text();
@@ -509,6 +462,7 @@ void TestDialogMain::exportCsv()
     // The records of a card are nothing that the next one has.
     QVERIFY(QDir().mkpath(home() + "/next") && QFile::copy(card() + "/LOG00001.CAN", home() + "/next/LOG00001.CAN"));
     window.openFolder(home() + "/next");
+    settled(window);
     for (const int id : {eActionExportKml, eActionExportCsv, eActionExportGpx, eActionReport}) {
         Answer told(Answer::close);
         window.action(id)->setEnabled(true);
@@ -535,6 +489,7 @@ void TestDialogMain::failedExport()
     DialogMain& window = desktop.open();
     started(window);
     window.slotLoadCycle(3, -1);
+    settled(window);
     QVERIFY(QDir().mkpath(home() + "/sub"));
     std::optional<Answer> told;
     Answer choose([&](QWidget* pModal) {
@@ -565,6 +520,7 @@ void TestDialogMain::report()
     DialogMain& window = desktop.open();
     started(window);
     window.slotLoadCycle(2, 0);
+    settled(window);
     const QString path = isWritable ? home() + "/report.pdf" : QString("/proc/report.pdf"); // where nobody can make a file
     std::optional<Answer> told;
     Answer choose([&](QWidget* pModal) {

@@ -2,9 +2,13 @@
 #include "sim/DemoCard.h"
 #include "support/FileHelpers.h"
 #include "ui/data/DialogData.h"
+#include "ui/data/model/DataTableModel.h"
+#include "ui/graph/DialogDataGraph.h"
+#include "ui/graph/WidgetGraphES.h"
 #include "ui/main/Answer.h"
 #include "ui/main/DesktopFixture.h"
 #include "ui/main/DialogCard.h"
+#include "ui/main/StatusProgress.h"
 #include "ui/main/WidgetWelcome.h"
 
 #include <QComboBox>
@@ -17,13 +21,16 @@
 
 using namespace ZARN;
 
-/// The main window as a live display, in other units, with another profile, and when it cannot save.
+/// The main window while it loads, as a live display, in other units, with another profile, and when it cannot save.
 class TestOtherModes : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
     void initTestCase();
     void init() { mHome.emplace(); }
+    void tellsOnce_data();
+    void tellsOnce();
+    void loading();
     void emu();
     void units();
     void failedSaveAtQuit_data();
@@ -59,6 +66,87 @@ void TestOtherModes::initTestCase()
     QVERIFY2(DemoCard().write(card().toStdString(), DemoCardOptions{}, error), error.c_str());
 }
 
+void TestOtherModes::tellsOnce_data()
+{
+    using Action = std::function<void(DialogMain&)>;
+    QTest::addColumn<Action>("action");
+    QTest::newRow("start") << Action(started); // without a record there is nothing to fill
+    QTest::newRow("load") << Action([](DialogMain& window) { window.slotLoadCycle(2, -1); });
+    QTest::newRow("variant") << Action([](DialogMain& window) { window.slotProfileChanged("916 A"); });
+    QTest::newRow("unit") << Action([](DialogMain& window) { window.slotUnitChanged(1); });
+}
+
+void TestOtherModes::tellsOnce()
+{
+    QFETCH(std::function<void(DialogMain&)>, action);
+    const bool isStart = QString(QTest::currentDataTag()) == "start";
+    DesktopFixture desktop(home(), isStart ? std::vector<std::string>() : std::vector{card().toStdString()});
+    DialogMain& window = desktop.open();
+    if (!isStart) {
+        started(window);
+        desktop.profile.setSelected("Oil Temperature", true);
+        desktop.project.takeProfileData();
+        window.slotLoadCycle(1, -1);
+        settled(window);
+        QTest::qWait(100);
+    }
+    const auto* pTable = window.findChild<DataTableModel*>();
+    const auto* pGraph = &window.findChild<DialogDataGraph*>()->graph().model();
+    QSignalSpy filled(pTable, &DataTableModel::rowsInserted), cleared(pTable, &DataTableModel::rowsRemoved);
+    action(window);
+    settled(window);
+    QTest::qWait(100);
+    QCOMPARE(filled.count(), isStart ? 0 : 1);
+    QCOMPARE(cleared.count(), isStart ? 0 : 1);
+    QVERIFY(
+        std::ranges::all_of(pGraph->shown(), [pGraph](int slot) { return pGraph->parameter(slot)->samples.empty(); })); // nobody sees it
+}
+
+void TestOtherModes::loading()
+{
+    DesktopFixture desktop(home(), {card().toStdString()});
+    DialogMain& window = desktop.open();
+    started(window);
+    auto* pTree = window.findChild<QTreeWidget*>("treeCycles");
+    const auto isChosen = [pTree](const QString& cycle) { return pTree->currentItem() && pTree->currentItem()->text(0).startsWith(cycle); };
+    window.slotLoadCycle(1, -1);
+    settled(window);
+    const std::shared_ptr<RecordData> pRecord = desktop.container.record();
+    pTree->setCurrentItem(nullptr);
+    window.slotLoadCycle(2, -1);
+    window.card().cancel();
+    settled(window);
+    QVERIFY(desktop.container.record() == pRecord && desktop.container.loadedCycleNumber() == 1U);
+    QVERIFY(isChosen("Cycle 1") && isShown<DialogData>(window));
+    QSignalSpy changed(&window.card(), &CardController::signalDataChanged);
+    window.slotLoadCycle(2, -1);
+    window.slotUnitChanged(1);
+    window.slotLoadCycle(2, 0);
+    settled(window);
+    QCOMPARE(desktop.container.selectedFlightNumber(), 1);
+    QCOMPARE(changed.count(), 1);
+    const FlightPath path = [&desktop] {
+        FlightPath whole;
+        whole.build(desktop.container.recordData(), desktop.profile.context());
+        whole.crop(desktop.container.startTime(), desktop.container.endTime());
+        return whole;
+    }();
+    QCOMPARE(desktop.container.flightPath().front().altitude, path.points().front().altitude); // in the unit that came meanwhile
+    auto* pProgress = window.findChild<StatusProgress*>();
+    QSignalSpy cancelled(pProgress, &StatusProgress::signalCancelled);
+    pProgress->begin();
+    QTRY_VERIFY(pProgress->isVisible());
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QTest::keyClick(&window, Qt::Key_Escape);
+    QCOMPARE(cancelled.count(), 1);
+    pProgress->end();
+    window.slotLoadCycle(3, -1);
+    window.close();
+    desktop.window.reset(); // waits for the load
+    QCOMPARE(desktop.container.loadedCycleNumber(), 2U);
+}
+
 void TestOtherModes::emu()
 {
     DesktopFixture desktop(home(), {"-emu"});
@@ -84,6 +172,7 @@ void TestOtherModes::units()
     DialogMain& window = desktop.open();
     started(window);
     window.slotLoadCycle(2, 0);
+    settled(window);
     const double metres = desktop.container.selectedFlight().maxAltitude;
     auto& data = *window.findChild<DialogData*>();
     data.slotTableTime(1000.0);
@@ -92,6 +181,7 @@ void TestOtherModes::units()
     auto* pUnits = window.findChild<QComboBox*>("units");
     pUnits->setCurrentIndex(1);
     Q_EMIT pUnits->activated(1);
+    settled(window);
     QVERIFY(QDir().rename(card() + "-pulled", card()));
     QCOMPARE(desktop.property.getInt("Unit", 0), 1);
     const RecordFlight& flight = desktop.container.loadedCycle()->flights.at(0);
@@ -146,7 +236,8 @@ void TestOtherModes::installedProfile()
     QCOMPARE(desktop.profile.currentVariant(), std::string("915 A")); // of the folder "915", which no setting names
     auto* pInfo = window.findChild<DialogProfileInfo*>();
     pInfo->setProfileFile(home() + "/chosen.xml", true);
-    putFile(home().toStdString() + "/new.xml", "<CanAerospaceProfile name='New'><Variants><Variant name='V'/></Variants></CanAerospaceProfile>");
+    putFile(home().toStdString() + "/new.xml",
+            "<CanAerospaceProfile name='New'><Variants><Variant name='V'/></Variants></CanAerospaceProfile>");
     std::optional<Answer> told;
     Answer choose([&](QWidget* pModal) {
         told.emplace(Answer::close);

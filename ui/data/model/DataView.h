@@ -27,6 +27,9 @@ public:
         updateRecord(pRecord);
     }
 
+    /// The flights of the record that is shown, its path or the chosen flight are others, the samples are not.
+    virtual void updateFlights(RecordData* pRecord) { updateRecord(pRecord); }
+
     /// In place of updateRecord() while nobody sees the view: works out what others show of it, no more.
     virtual void prepare(RecordData* /*pRecord*/) {}
 

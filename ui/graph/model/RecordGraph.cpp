@@ -112,6 +112,14 @@ void RecordGraph::updateRecord(RecordData* pRecord)
     mModel.setCursorPosition(mSpan.start);
 }
 
+void RecordGraph::updateFlights(RecordData* pRecord)
+{
+    if (span() == mSpan)
+        mKeepsWindow = true; // the traces are the same
+    else
+        updateRecord(pRecord);
+}
+
 RecordGraph::RecordKey RecordGraph::recordKey() const
 {
     // A flight counts its times as its power cycle does: there the marker still stands where it was set.

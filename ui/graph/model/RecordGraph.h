@@ -25,6 +25,8 @@ public:
 
     void updateProfile();
     void updateRecord(RecordData* pRecord);
+    /// The chosen flight, or what is worked out of the record, is another.
+    void updateFlights(RecordData* pRecord);
     /// Both in one pass over the record.
     void update(RecordData* pRecord);
     void updateSettings() { mSettings.load(mModel); }
