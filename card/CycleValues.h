@@ -22,6 +22,8 @@ public:
 
     /// Times from the whole second after the next above `endTime` on lie outside the index and have no value.
     void setEndTime(double endTime);
+    /// Times that have a value lie after -1 and before this.
+    [[nodiscard]] int64_t seconds() const { return mSeconds; }
     /// No time has a value any more.
     void clear() { mSeconds = 0; }
 

@@ -153,7 +153,8 @@ void ProfileLoader::noteFaultBit(const ProfileParameter& parameter)
 {
     // A matrix word has no other bits, and a damaged profile may name as many as it has parameters, for each of its matrices.
     if (parameter.startBit >= 0 && parameter.startBit < kMatrixBits && !mModel.errorMatrices.empty())
-        mClaims[parameter.id][parameter.startBit] = {{parameter.name, parameter.path, parameter.errorType}, mModel.errorMatrices.size()};
+        mClaims[parameter.id][parameter.startBit] = {{parameter.name, parameter.path, parameter.errorType, parameter.zarnDataType},
+                                                     mModel.errorMatrices.size()};
 }
 
 void ProfileLoader::linkErrorMatrices()
