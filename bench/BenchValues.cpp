@@ -1,3 +1,4 @@
+#include "analysis/CycleReview.h"
 #include "analysis/LimitEvents.h"
 #include "analysis/WarningEvents.h"
 #include "app/Console.h"
@@ -136,9 +137,10 @@ void textFixed(benchmark::State& state)
 
 /// A loaded card.
 struct LoadedCard {
-    explicit LoadedCard(std::size_t records) : profile(silent()), container(silent(), profile, nullProgress())
+    explicit LoadedCard(std::size_t records, const std::string& path = BenchCard::profile())
+        : profile(silent()), container(silent(), profile, nullProgress())
     {
-        profile.loadProfile(QString::fromStdString(BenchCard::profile()), "");
+        profile.loadProfile(QString::fromStdString(path), "");
         container.readContainer(QString::fromStdString(BenchCard::folder(records)));
         container.loadCycle(0, -1);
     }
@@ -157,24 +159,35 @@ void csv(benchmark::State& state)
     }
 }
 
-/// Everything that is derived from a loaded cycle before a view shows it.
-void derivedFacts(benchmark::State& state)
+/// Incidents, phases and key values of a loaded cycle.
+void reviewFacts(benchmark::State& state)
 {
-    LoadedCard card(3 * kEntries);
+    LoadedCard card(kEntries, BenchCard::engineProfile());
+    const std::vector<RecordFlight>& flights = card.container.loadedCycle()->flights;
+    const auto review = [&] { return reviewCycle(card.container.values(), flights, card.container.endTime(), EKeyValues::eAll); };
+    // What the recording does not hold costs nothing to find.
+    const CycleReview found = review();
+    if (flights.empty() || found.incidents.empty() || found.phases.size() < flights.size() || found.keyValues.values.empty())
+        return state.SkipWithError("the recording lacks flights, incidents, phases or key values");
+    for (auto _ : state)
+        benchmark::DoNotOptimize(review().incidents.size());
+    state.counters["flights"] = static_cast<double>(flights.size());
+    state.counters["incidents"] = static_cast<double>(found.incidents.size());
+    state.counters["keyValues"] = static_cast<double>(found.keyValues.values.size());
+}
+
+/// What else is derived from a loaded cycle before a view shows it.
+void listedFacts(benchmark::State& state)
+{
+    LoadedCard card(kEntries);
     const RecordData& data = card.container.recordData();
     RecordCycle cycle = card.container.recordCycles().begin()->second;
-    card.container.calcFlightPath();
-    card.container.calcFlights(cycle);
-    // What the recording does not hold costs nothing to find.
-    if (cycle.flights.empty() || card.container.flightPath().empty() || limitEvents(data, card.profile).events().empty() || warningEvents(data, card.profile).events().empty())
-        return state.SkipWithError("the recording lacks flights, positions or events");
     for (auto _ : state) {
         card.container.calcFlightPath();
         card.container.calcFlights(cycle);
         benchmark::DoNotOptimize(limitEvents(data, card.profile).events().size());
         benchmark::DoNotOptimize(warningEvents(data, card.profile).events().size());
     }
-    state.counters["flights"] = static_cast<double>(cycle.flights.size());
 }
 
 BENCHMARK(decodeFloor)->Name("decode/floor")->Unit(benchmark::kMillisecond);
@@ -182,7 +195,8 @@ BENCHMARK(decodeChannel)->Name("decode/channel")->Unit(benchmark::kMillisecond);
 BENCHMARK(valueAtTime)->Name("value/at")->Args({1000000, 0})->Args({10000000, 0})->Args({1000000, 1})->Args({10000000, 1});
 BENCHMARK(textSnprintf)->Name("text/snprintf")->Unit(benchmark::kMillisecond);
 BENCHMARK(textFixed)->Name("text/fixed")->Unit(benchmark::kMillisecond);
-BENCHMARK(derivedFacts)->Name("facts/cycle")->Unit(benchmark::kMillisecond);
+BENCHMARK(reviewFacts)->Name("facts/review")->Unit(benchmark::kMillisecond);
+BENCHMARK(listedFacts)->Name("facts/lists")->Unit(benchmark::kMillisecond);
 BENCHMARK(csv)->Name("csv/ms")->Arg(100)->Arg(10)->Unit(benchmark::kMillisecond);
 
 } // namespace
