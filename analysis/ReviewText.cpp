@@ -27,9 +27,10 @@ QStringList ReviewText::gaps() const
         gaps << tr("The engine did not run: nothing was watched.");
     else if (mReview.withSamples == 0)
         gaps << tr("None of the watched parameters was recorded.");
-    if (!mReview.hasEngineSpeed)
+    const bool isWatched = mReview.withSamples > 0;
+    if (isWatched && !mReview.hasEngineSpeed)
         gaps << tr("Whether the engine ran is unknown, for the profile names no engine speed: starts and stops count as well.");
-    else if (!mReview.engine.isKnown() && mReview.withSamples > 0)
+    else if (isWatched && !mReview.engine.isKnown())
         gaps << tr("Whether the engine ran is unknown, for its speed was not recorded: starts and stops count as well.");
     if (!mReview.knowsAltitude)
         gaps << tr("Climb and descent are unknown, for no altitude was recorded.");

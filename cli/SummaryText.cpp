@@ -2,6 +2,7 @@
 
 #include "analysis/IncidentText.h"
 #include "analysis/ReviewText.h"
+#include "card/FlightFigures.h"
 #include "cli/Command.h"
 #include "cli/VisibleText.h"
 
@@ -56,6 +57,13 @@ void appendHead(std::vector<std::string>& lines, const ReviewedCycle& reviewed)
                       (fuel ? QString::fromStdString(tableNumber(*fuel, 1)) + " l" : QString("unknown")) + "; " + text.watched());
 }
 
+/// With the words that follow it.
+std::string figure(const RecordFlight& flight, EFlightFigure figure, int decimals, const char* then)
+{
+    const std::optional<double> value = flightFigure(flight, figure);
+    return (value ? tableNumber(*value, decimals) : "-") + then;
+}
+
 void appendFlights(std::vector<std::string>& lines, const std::vector<RecordFlight>& flights)
 {
     constexpr std::size_t kMost = 4;
@@ -63,8 +71,8 @@ void appendFlights(std::vector<std::string>& lines, const std::vector<RecordFlig
         const RecordFlight& flight = flights[i];
         lines.push_back("  Flight " + std::to_string(i + 1) + ": take-off " + IncidentText::time(flight.takeOffTime).toStdString() + ", " +
                         IncidentText::duration(flight.landingTime - flight.takeOffTime).toStdString() + ", climb " +
-                        tableNumber(flight.totalClimb, 0) + " m at " + tableNumber(flight.averageClimbRate, 1) + " m/s, fuel " +
-                        tableNumber(flight.totalFuel, 1) + " l");
+                        figure(flight, eFigureTotalClimb, 0, " m at ") + figure(flight, eFigureClimbRate, 1, " m/s, fuel ") +
+                        figure(flight, eFigureTotalFuel, 1, " l"));
     }
     if (flights.size() > kMost)
         lines.push_back("  and " + std::to_string(flights.size() - kMost) + " more flights");
