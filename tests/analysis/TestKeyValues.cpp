@@ -1,0 +1,106 @@
+#include "analysis/CycleReview.h"
+#include "support/CardBuilder.h"
+#include "support/ProfileBuilder.h"
+#include "support/TestCycle.h"
+
+#include <QTest>
+
+#include <cmath>
+#include <map>
+#include <numeric>
+#include <random>
+
+using namespace ZARN;
+using namespace ZARN::Test;
+
+namespace {
+
+Distribution literally(std::vector<double> values)
+{
+    std::erase_if(values, [](double value) { return !std::isfinite(value); });
+    std::ranges::sort(values);
+    if (values.empty())
+        return {};
+    const auto percentile = [&values](double part) {
+        const double rank = part * static_cast<double>(values.size() - 1);
+        const auto lower = static_cast<std::size_t>(rank);
+        return std::lerp(values[lower], values[std::min(lower + 1, values.size() - 1)], rank - static_cast<double>(lower));
+    };
+    const double sum = std::accumulate(values.begin(), values.end(), 0.0);
+    return {values.size(), values.front(), percentile(0.05), percentile(0.5), percentile(0.95), values.back(), sum / static_cast<double>(values.size())};
+}
+
+std::string text(const Distribution& of)
+{
+    return QString("%1: %2 %3 %4 %5 %6, %7").arg(of.samples).arg(of.minimum).arg(of.p05).arg(of.median).arg(of.p95).arg(of.maximum).arg(of.mean).toStdString();
+}
+
+} // namespace
+
+/// The figures of flights against a plain sorting of all their samples.
+class TestKeyValues : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void distributions()
+    {
+        std::mt19937 random(1);
+        for (const std::size_t size : {0, 1, 2, 3, 21, 999, 1000, 5000}) {
+            for (const double spread : {0.0, 1.0, 7.0, 1e300, std::numeric_limits<double>::infinity()}) {
+                std::vector<double> values;
+                std::normal_distribution<double> number(3, 1);
+                while (values.size() < size)
+                    values.push_back(std::isinf(spread) && random() % 50 == 0 ? -spread : std::isinf(spread) ? number(random) : std::floor(number(random)) * spread);
+                if (size == 5000)
+                    values[7] = std::numeric_limits<double>::quiet_NaN();
+                const Distribution expected = literally(values);
+                QCOMPARE(text(Distribution::of(values)), text(expected));
+            }
+        }
+    }
+
+    /// Two flights so close that their margins overlap, with climbs, a cut engine and times that run backwards.
+    void ofFlights()
+    {
+        TestCycle cycle;
+        ProfileBuilder builder;
+        builder.thresholds("T", {{0, "OK", "green"}, {90, "LIMIT", "red"}}).device("D");
+        builder.parameter("rpm", 1, "FLOAT", {{"zarnDataType", "EngineSpeed"}}).parameter("gs", 2, "FLOAT", {{"zarnDataType", "GroundSpeed"}});
+        builder.parameter("alt", 3, "FLOAT", {{"zarnDataType", "Altitude"}}).parameter("t", 4, "FLOAT", {{"thresholdId", "T"}, {"factor", "0.1"}});
+        builder.parameter("other", 5, "FLOAT");
+        QVERIFY(builder.load(cycle.profile));
+        CardBuilder card;
+        RecordFileBuilder& file = card.file("A.CAN");
+        std::mt19937 random(2);
+        double altitude = 0;
+        for (int i = 0; i < 6000; ++i) {
+            const double time = i * 0.1 - (i > 3000 && i < 3100 ? 20 : 0);
+            altitude += static_cast<double>(random() % 5) / 8 - (i % 800 < 300 ? 0.2 : 0.3);
+            file.addFloat(1, time, i > 2000 && i < 2100 ? 0 : 5000).addFloat(2, time + 0.01, i % 1500 < 1200 && i > 300 ? 100 : 0);
+            file.addFloat(3, time + 0.02, static_cast<float>(altitude)).addFloat(4, time + 0.03, static_cast<float>(random() % 1000)).addFloat(5, time, 1);
+        }
+        QVERIFY(cycle.container.readContainer(card.write()) && cycle.container.loadCycle(cycle.container.recordCycles().begin()->first, -1));
+        const std::vector<RecordFlight>& flights = cycle.container.loadedCycle()->flights;
+        QVERIFY(flights.size() >= 2 && flights[0].endTime > flights[1].startTime);
+        const CycleReview review = reviewCycle(cycle.container.values(), flights, cycle.container.endTime(), EKeyValues::eAll);
+        QCOMPARE(review.keyValues.sources.size(), std::size_t(2));
+        std::map<std::tuple<std::size_t, int, EFlightPhase>, std::vector<double>> samples;
+        for (const std::size_t source : {0, 1}) {
+            const ProfileParameter& parameter = *cycle.profile.findParameter(review.keyValues.sources[source].parameter);
+            for (const RecordEntry entry : cycle.container.recordData().channel(parameter.identifier())->entries) {
+                for (std::size_t i = 0; i < flights.size(); ++i) {
+                    const auto phase = std::ranges::find_if(review.phases, [&entry](const auto& step) { return entry.time <= step.until; })->phase;
+                    if (entry.time >= flights[i].startTime && entry.time <= flights[i].endTime)
+                        samples[{source, static_cast<int>(i) + 1, phase}].push_back(cycle.profile.getDouble(entry, parameter, true));
+                }
+            }
+        }
+        QVERIFY(samples.size() > 12);
+        QCOMPARE(review.keyValues.values.size(), samples.size());
+        for (const KeyValue& value : review.keyValues.values)
+            QCOMPARE(text(value.values), text(literally(samples.at({value.source, value.flight, value.phase}))));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestKeyValues)
+#include "TestKeyValues.moc"
