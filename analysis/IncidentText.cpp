@@ -71,6 +71,16 @@ const Episode& IncidentText::Quantity::worst() const
     });
 }
 
+double IncidentText::Quantity::duration() const
+{
+    double start = episodes.front()->start, end = episodes.front()->end;
+    for (const Episode* pEpisode : episodes) {
+        start = std::min(start, pEpisode->start);
+        end = std::max(end, pEpisode->end);
+    }
+    return end - start;
+}
+
 std::vector<IncidentText::Quantity> IncidentText::quantities(const std::vector<const Episode*>& episodes)
 {
     std::vector<Quantity> found;
@@ -178,12 +188,8 @@ QString IncidentText::headText(const Quantity& quantity, bool withDuration) cons
         text = valueText(quantity, true);
     else if (quantity.kind() == EEpisodeKind::eLamp)
         text = restText(quantity);
-    double start = quantity.episodes.front()->start, end = quantity.episodes.front()->end;
-    for (const Episode* pEpisode : quantity.episodes) {
-        start = std::min(start, pEpisode->start);
-        end = std::max(end, pEpisode->end);
-    }
-    return withDuration && end > start ? tr("%1, for %2").arg(text, duration(end - start)) : text;
+    const double length = quantity.duration();
+    return withDuration && length > 0 ? tr("%1, for %2").arg(text, duration(length)) : text;
 }
 
 QString IncidentText::restText(const Quantity& quantity) const
@@ -212,15 +218,18 @@ IncidentSentence IncidentText::sentence(const std::vector<Incident>& incidents, 
     for (const Quantity& quantity : all)
         worst = quantity.kind() == leading ? std::max(worst, quantity.worst().state) : worst;
     QStringList heads, rest;
+    bool hasDuration = false; // the head told last
     for (const Quantity& quantity : all) {
-        if (quantity.kind() == leading && quantity.worst().state == worst)
-            heads << headText(quantity, places.size() == 1);
-        else
+        if (quantity.kind() != leading || quantity.worst().state != worst) {
             rest << restText(quantity);
+            continue;
+        }
+        heads << headText(quantity, places.size() == 1);
+        hasDuration = quantity.duration() > 0;
     }
     sentence.what = listed(heads, kMostHeads, "; ");
     if (places.size() == 1)
-        sentence.what += " " + phaseText(first.phase);
+        sentence.what += (hasDuration ? " " : ", ") + phaseText(first.phase);
     else
         sentence.when = tr("%1 times, %2 to %3").arg(QString::number(places.size()), sentence.time, time(sentence.end));
     sentence.with = listed(rest, kMostRest, ", ");

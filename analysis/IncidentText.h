@@ -49,6 +49,7 @@ private:
 
         [[nodiscard]] EEpisodeKind kind() const { return episodes.front()->kind; }
         [[nodiscard]] const Episode& worst() const;
+        [[nodiscard]] double duration() const; ///< from the first to the last, in seconds
     };
     [[nodiscard]] static std::vector<Quantity> quantities(const std::vector<const Episode*>& episodes);
     [[nodiscard]] IncidentSentence sentence(const std::vector<Incident>& incidents, const std::vector<std::size_t>& places) const;

@@ -22,7 +22,7 @@ QStringList ReviewText::gaps() const
     if (mReview.sources == 0)
         gaps << tr("The profile has no limits, lamps or faults to watch.");
     else if (hasNoTimes && mReview.engine.duration().value_or(0.0) > 0.0)
-        gaps << tr("Nothing was recorded while the engine ran warm: nothing was watched.");
+        gaps << tr("Nothing was recorded while the engine ran: nothing was watched.");
     else if (hasNoTimes)
         gaps << tr("The engine did not run: nothing was watched.");
     else if (mReview.withSamples == 0)

@@ -56,6 +56,7 @@ private Q_SLOTS:
     void valuesSurviveTheRoundTrip();
     void textsAreEscaped();
     void damageIsNamed();
+    void manyCards();
     void namesMayBeAnyBytes();
     void tablesForPeople_data();
     void tablesForPeople();
@@ -145,6 +146,10 @@ void TestCli::failures_data()
     row("unknown variant", {"summary", "CARD", "--variant", "b"}, 1, "b: the profile has no such variant");
     row("unknown variant of a profile", {"profile", "Profile.xml", "--variant", "AB"}, 1, "AB: the profile has no such variant");
     row("flight for the whole card", {"summary", "CARD", "--flight", "1"}, 2, "--flight");
+    row("no card to sum up", {"summary", "--profile", "Profile.xml"}, 2, "CARD");
+    row("list that is missing", {"summary", "--from-file", "no list", "--profile", "Profile.xml"}, 1, "no list: No such file");
+    row("list that is a folder", {"summary", "--from-file", "empty", "--profile", "Profile.xml"}, 1, "empty: Is a directory");
+    row("missing card to sum up", {"summary", "nowhere", "--profile", "Profile.xml", "--json"}, 1, "nowhere: no such folder");
     row("record file of the card as target", {"csv", "CARD", "-o", "link to a recording"}, 1, "link to a recording: a record file of the card");
     row("other root", {"profile", "other.xml"}, 1, "other.xml: Line 1, column 1: It is no profile");
     row("broken profile", {"csv", "card", "--profile", "broken.xml", "-o", "out.csv"}, 1, "broken.xml: Line 1, column ");
@@ -315,6 +320,21 @@ void TestCli::damageIsNamed()
     QCOMPARE(problem["file"].toString() + ": " + problem["reason"].toString(), QString("LOG2.CAN: 0 bytes, no record"));
 }
 
+/// One that cannot be read is said and keeps no other from being told.
+void TestCli::manyCards()
+{
+    const Answer answer = shell("printf 'nowhere\n\ncard\n' | \"$1\" summary card --from-file - --profile Profile.xml --cycle 0 --json");
+    QCOMPARE(answer.status, 1);
+    QCOMPARE(answer.errors, QByteArray("zarn-cli: nowhere: no such folder\n"));
+    QVERIFY(answer.out.startsWith("{\"schema\":1,"));
+    const QJsonArray cards = json(answer.out)["cards"].toArray();
+    QCOMPARE(cards.size(), 2);
+    QVERIFY(cards[0] == cards[1]);
+    const QJsonObject cycle = cards[0].toObject()["cycles"].toArray().at(0).toObject();
+    QCOMPARE(cycle["verdict"].toString(), QString("limit"));
+    QVERIFY(cycle["engineRunning"].isNull() && cycle["fuel"].isNull() && cycle["incidents"].toArray().size() == 1);
+}
+
 void TestCli::namesMayBeAnyBytes()
 {
     const Answer answer = shell("set -e; d=$'no\\xff\\xc3'; mkdir $d; cp 'card/LOG 1.CAN' $d/$'\\xfe.CAN'; cp Profile.xml $d/$'\\xe9.xml'; "
@@ -340,6 +360,11 @@ void TestCli::tablesForPeople_data()
     QTest::newRow("flights") << QStringList{"flights", "CARD"} << QStringList{"Cycle 0", "No flight"};
     QTest::newRow("value") << QStringList{"value", "CARD", "--parameter", "height", "--time", "60.5", "--time", "99"}
                            << QStringList{"D/height\n", "Value [m]", "0.100000", "ok", "no data"};
+    QTest::newRow("summary") << QStringList{"summary", "CARD"}
+                             << QStringList{"Cycle 0, 2024-05-01 12:00:00, 1 min 0 s recorded: LIMIT EXCEEDED", "1 of 1 watched parameters recorded",
+                                            "  !! 0:37  height 99.8 m, limit 90, for 13 s on the ground", "names no engine speed"};
+    QTest::newRow("summary of lamps and faults") << QStringList{"summary", "card", "--profile", "warnings.xml"}
+                                                 << QStringList{"  !! 0:02  Sensor, on the ground, with Oil yellow", "2 of 2 watched"};
     QTest::newRow("path") << QStringList{"path", "CARD"} << QStringList{"Latitude [deg]"};
     QTest::newRow("limits") << QStringList{"events", "CARD"} << QStringList{"Limit exceedances", "00:00:37.000", "90.0", "No warning lamp was lit"};
     QTest::newRow("lamps") << QStringList{"events", "card", "--profile", "warnings.xml"}
