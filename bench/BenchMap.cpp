@@ -64,6 +64,7 @@ struct MapBench {
         map.setCamera(camera);
         map.render(canvas->device());
         MapScene& scene = withPath ? path : empty;
+        scene.update(camera);
         scene.drawGround(*canvas, camera);
         scene.drawAbove(*canvas, camera);
         canvas->end();

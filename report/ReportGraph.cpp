@@ -33,8 +33,10 @@ ReportGraph::ReportGraph(const LoadedCard& loaded, const EventList& limits) : mL
     settings.displayMode = eSplit;
     settings.cursorOn = false;
     settings.legendOn = false; // it tells of a cursor; the strips have their names in them
-    settings.gridColor = QStringLiteral("#99a6b3");
-    settings.labelBackColor = QStringLiteral("#ffffff");
+    settings.backColor = Palette::print().graph.ground.name();
+    settings.gridColor = Palette::print().graph.grid.name();
+    settings.labelColor = Palette::print().graph.label.name();
+    settings.labelBackColor = Palette::print().graph.labelGround.name();
     mModel.settingsChanged();
     std::set<std::string> taken;
     for (const char* key : kMain) {

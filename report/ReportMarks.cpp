@@ -1,6 +1,7 @@
 #include "report/ReportMarks.h"
 
 #include "ui/canvas/Canvas.h"
+#include "ui/canvas/Triangulation.h"
 
 #include <algorithm>
 #include <cmath>
@@ -29,9 +30,9 @@ double distance(const QPointF& a, const QPointF& b)
 
 std::vector<QPointF> disc(const QPointF& middle, double radius)
 {
-    std::vector<QPointF> points;
-    for (int direction = 0; direction < kDirections; ++direction)
-        points.push_back(middle + towards(direction, radius));
+    std::vector<QPointF> points = circle(radius, kDirections);
+    for (QPointF& point : points)
+        point += middle;
     return points;
 }
 

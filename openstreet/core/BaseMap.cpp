@@ -2,10 +2,12 @@
 
 #include "openstreet/core/BaseMapReader.h"
 #include "openstreet/core/Clip.h"
+#include "openstreet/core/TileCover.h"
 
 #include <QFile>
 #include <QPainter>
 #include <QPainterPath>
+#include <QTransform>
 
 static void initialiseWorldResource()
 {
@@ -18,7 +20,7 @@ namespace {
 
 constexpr std::size_t kKeptTiles = 512;
 constexpr double kMargin = 4.0 / BaseMap::kEdge; // of a tile's edge, for what is drawn across its edges
-constexpr QRgb kWater = 0xffb4d3e6;
+constexpr int kMostDetailed = 10; // zoom: finer tiles tell nothing more
 constexpr QRgb kLand = 0xfff3f0e8;
 constexpr QRgb kCoast = 0xff7fa3ba;
 constexpr QRgb kBorder = 0xff9a86a4;
@@ -29,29 +31,27 @@ QRectF box(const TileId& id)
     return QRectF(id.x * edge, id.y * edge, edge, edge).marginsAdded(QMarginsF(edge, edge, edge, edge) * kMargin);
 }
 
-void fill(QPainter& painter, const std::vector<BaseMap::Area>& areas, QRgb colour)
+QPolygonF moved(const BaseMap::Line& line, const QTransform& toPixels)
+{
+    return toPixels.map(QPolygonF(QList<QPointF>(line.begin(), line.end())));
+}
+
+void fill(QPainter& painter, const std::vector<BaseMap::Area>& areas, const QTransform& toPixels, QRgb colour)
 {
     for (const BaseMap::Area& area : areas) {
         QPainterPath path;
         path.setFillRule(Qt::OddEvenFill);
         for (const BaseMap::Line& ring : area)
-            path.addPolygon(QPolygonF(QList<QPointF>(ring.begin(), ring.end())));
+            path.addPolygon(moved(ring, toPixels));
         painter.fillPath(path, QColor(colour));
     }
 }
 
-void stroke(QPainter& painter, const std::vector<BaseMap::Line>& lines, const QPen& pen)
+void stroke(QPainter& painter, const std::vector<BaseMap::Line>& lines, const QTransform& toPixels, const QPen& pen)
 {
     painter.setPen(pen);
     for (const BaseMap::Line& line : lines)
-        painter.drawPolyline(line.data(), static_cast<int>(line.size()));
-}
-
-QPen pen(QRgb colour, double width, Qt::PenStyle style)
-{
-    QPen result(QColor(colour), width, style);
-    result.setCosmetic(true);
-    return result;
+        painter.drawPolyline(moved(line, toPixels));
 }
 
 } // namespace
@@ -95,19 +95,45 @@ const BaseMap::Geometry& BaseMap::geometry(const TileId& id)
 
 QImage BaseMap::tile(const TileId& id)
 {
-    const Geometry& parts = geometry(id);
     QImage image(kEdge, kEdge, QImage::Format_RGBX8888);
     image.fill(QColor(kWater));
     const double scale = static_cast<double>(kEdge) * TileId::count(id.zoom);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.translate(-static_cast<double>(id.x) * kEdge, -static_cast<double>(id.y) * kEdge);
-    painter.scale(scale, scale);
-    fill(painter, parts.land, kLand);
-    fill(painter, parts.lakes, kWater);
-    stroke(painter, parts.borders, pen(kBorder, 1.2, Qt::DashLine));
-    stroke(painter, parts.coasts, pen(kCoast, 1.0, Qt::SolidLine));
+    const QTransform toPixels(scale, 0, 0, scale, -static_cast<double>(id.x) * kEdge, -static_cast<double>(id.y) * kEdge);
+    paintTile(painter, id, toPixels, 1.0);
     return image;
+}
+
+void BaseMap::paintTile(QPainter& painter, const TileId& id, const QTransform& toPixels, double lineScale)
+{
+    const Geometry& parts = geometry(id);
+    fill(painter, parts.land, toPixels, kLand);
+    fill(painter, parts.lakes, toPixels, kWater);
+    stroke(painter, parts.borders, toPixels, QPen(QColor(kBorder), 1.2 * lineScale, Qt::DashLine));
+    stroke(painter, parts.coasts, toPixels, QPen(QColor(kCoast), lineScale));
+}
+
+void BaseMap::paint(QPainter& painter, const Camera& camera, double lineScale)
+{
+    painter.save();
+    painter.fillRect(QRectF(0, 0, camera.width(), camera.height()), QColor(kWater));
+    const TileCover cover(camera, 1.0, kMostDetailed);
+    for (const TilePlace& place : cover.view()) {
+        WorldPoint northWest, southEast;
+        TileCover::bounds(place, northWest, southEast);
+        const WindowPoint from = camera.worldToWindow(northWest), to = camera.worldToWindow(southEast);
+        const QRectF tile(QPointF(from.x, from.y), QPointF(to.x, to.y));
+        painter.save();
+        painter.setClipRect(tile, Qt::IntersectClip);
+        // The world's edges in the window, from those of the one tile.
+        const double edge = TileId::count(place.id.zoom);
+        const QTransform toPixels(edge * tile.width(), 0, 0, edge * tile.height(), tile.left() - place.id.x * tile.width(),
+                                  tile.top() - place.id.y * tile.height());
+        paintTile(painter, place.id, toPixels, lineScale);
+        painter.restore();
+    }
+    painter.restore();
 }
 
 } // namespace OpenStreet

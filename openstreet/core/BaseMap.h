@@ -1,5 +1,6 @@
 #pragma once
 
+#include "openstreet/core/Camera.h"
 #include "openstreet/core/TileId.h"
 
 #include <QByteArray>
@@ -10,6 +11,9 @@
 #include <list>
 #include <unordered_map>
 #include <vector>
+
+class QPainter;
+class QTransform;
 
 namespace OpenStreet {
 
@@ -36,7 +40,11 @@ public:
     bool loadBuiltIn();
     [[nodiscard]] bool isEmpty() const { return mWorld.land.empty(); }
 
+    static constexpr QRgb kWater = 0xffb4d3e6;
+
     [[nodiscard]] QImage tile(const TileId& id);
+    /// What a camera sees, for a painter whose origin is the window's. @param lineScale of the width that lines have on a tile
+    void paint(QPainter& painter, const Camera& camera, double lineScale);
     /// The reference stays valid until the next call.
     [[nodiscard]] const Geometry& geometry(const TileId& id);
 
@@ -45,6 +53,8 @@ private:
         Geometry geometry;
         std::list<TileId>::iterator order;
     };
+
+    void paintTile(QPainter& painter, const TileId& id, const QTransform& toPixels, double lineScale);
 
     Geometry mWorld;
     std::unordered_map<TileId, Kept, TileIdHash> mKept;

@@ -86,7 +86,7 @@ private Q_SLOTS:
         QCOMPARE(review.keyValues.sources.size(), std::size_t(2));
         std::map<std::tuple<std::size_t, int, EFlightPhase>, std::vector<double>> samples;
         for (const std::size_t source : {0, 1}) {
-            const ProfileParameter& parameter = *cycle.profile.findParameter(review.keyValues.sources[source].parameter);
+            const ProfileParameter& parameter = *cycle.profile.model().find(review.keyValues.sources[source].parameter);
             for (const RecordEntry entry : cycle.container.recordData().channel(parameter.identifier())->entries) {
                 for (std::size_t i = 0; i < flights.size(); ++i) {
                     const auto phase = std::ranges::find_if(review.phases, [&entry](const auto& step) { return entry.time <= step.until; })->phase;

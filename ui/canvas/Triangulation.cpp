@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 
 namespace ZARN {
 
@@ -67,6 +68,16 @@ std::vector<QPointF> triangulate(std::span<const QPointF> points)
         ring.erase(ring.begin() + static_cast<std::ptrdiff_t>(ear));
     }
     return triangles;
+}
+
+std::vector<QPointF> circle(double radius, int corners)
+{
+    std::vector<QPointF> points;
+    for (int i = 0; i < corners; ++i) {
+        const double angle = 2.0 * std::numbers::pi * i / corners;
+        points.emplace_back(radius * std::cos(angle), radius * std::sin(angle));
+    }
+    return points;
 }
 
 } // namespace ZARN

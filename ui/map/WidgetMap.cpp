@@ -4,6 +4,7 @@
 #include "app/Property.h"
 #include "app/Revision.h"
 #include "card/CardContainer.h"
+#include "openstreet/core/BaseMap.h"
 #include "profile/Profile.h"
 #include "ui/map/MapAttribution.h"
 #include "ui/map/model/TileConsent.h"
@@ -23,7 +24,6 @@ namespace {
 constexpr int kRedrawInterval = 20;       // milliseconds
 constexpr double kLookInterval = 1.0;     // seconds after which a still view is painted again
 constexpr double kLoadingInterval = 0.25; // seconds between two drawings while tiles are on their way
-const QColor kBackground(180, 211, 230);
 
 QByteArray userAgent()
 {
@@ -42,8 +42,8 @@ WidgetMap::WidgetMap(const Session& session, const QString& dataPath, MapContext
     setMinimumSize(100, 100);
     setUpMap(dataPath);
     const SurfacePainting painting{
-        .background = kBackground,
-        .update = nullptr,
+        .background = QColor(OpenStreet::BaseMap::kWater),
+        .update = [this](const QSize& /*size*/, double /*ratio*/) { updateGround(); },
         .paint =
             [this](Canvas& canvas, VESK::OpenGL::Device* pDevice) {
                 mpDevice = pDevice;
@@ -180,12 +180,17 @@ void WidgetMap::setViewPortOrtho()
     mpDevice->matrix().clear();
 }
 
-void WidgetMap::paintGL(Canvas& canvas)
+void WidgetMap::updateGround()
 {
     mPacer.begin();
     mIsPainting = true;
     ++mGroundPaints;
     setViewPort();
+    mScene.update(mNavigator.camera());
+}
+
+void WidgetMap::paintGL(Canvas& canvas)
+{
     mMap.render(*mpDevice);
     setViewPortOrtho();
     mScene.drawGround(canvas, mNavigator.camera());

@@ -109,6 +109,7 @@ private:
     void loadWorld();
     void allowTiles();
     void updateNote();
+    void updateGround();
     void releaseGraphics();
     bool moveByKey(const QKeyEvent& event);
     bool arrowKey(const QKeyEvent& event, double right, double down);

@@ -31,6 +31,8 @@ private Q_SLOTS:
     void putsManyAsOneByOne();
     void tickSpacing_data();
     void tickSpacing();
+    void timeTicks_data();
+    void timeTicks();
     void labels();
     void markerValues();
     void markerText();
@@ -268,6 +270,30 @@ void TestGraphModel::tickSpacing()
     QString format;
     getAutoFormat(step, format);
     QTEST(format, "format");
+}
+
+void TestGraphModel::timeTicks_data()
+{
+    QTest::addColumn<double>("width");
+    QTest::addColumn<double>("step");
+    const double steps[] = {1, 2, 5, 10, 15, 30, 60, 120, 300, 600, 900, 1800, 3600, 7200, 10800, 21600, 43200, 86400};
+    for (const double step : steps) {
+        QTest::addRow("%g s: no wider", step) << step * 6 << step;
+        QTest::addRow("%g s: no narrower", step) << step * 4.02 << step;
+    }
+    QTest::newRow("a fifth of a second") << 0.9 << 0.2;
+    QTest::newRow("more than a week") << 9.0 * 86400 << 2.0 * 86400;
+    QTest::newRow("four months") << 1e7 << 20.0 * 86400;
+}
+
+void TestGraphModel::timeTicks()
+{
+    QFETCH(const double, width);
+    QFETCH(const double, step);
+    const AxisTicks ticks = AxisTicks::ofTime(-7200, -7200 + width, 600, 100);
+    QVERIFY2(std::abs(ticks.step() - step) < 1e-9, qPrintable(QString::number(ticks.step())));
+    const auto isMajor = [](const AxisTick& tick) { return tick.isMajor; };
+    QVERIFY(std::ranges::count_if(ticks.ticks(), isMajor) >= static_cast<int>(width / step));
 }
 
 void TestGraphModel::labels()

@@ -3,6 +3,7 @@
 #include "support/RecordingCanvas.h"
 #include "ui/canvas/RasterCanvas.h"
 #include "ui/map/model/MapNavigator.h"
+#include "ui/map/model/Graticule.h"
 #include "ui/map/model/MapScene.h"
 #include "ui/map/model/TileConsent.h"
 
@@ -82,6 +83,7 @@ private Q_SLOTS:
     void scaleBar();
     void consent();
     void picture();
+    void graticule();
     void longNote();
 };
 
@@ -154,6 +156,7 @@ void TestMapModel::damagedPath()
     QImage image(800, 600, QImage::Format_RGB32);
     QPainter painter(&image);
     RasterCanvas canvas(painter);
+    scene.update(view.navigator.camera());
     scene.drawGround(canvas, view.navigator.camera());
     scene.drawAbove(canvas, view.navigator.camera());
     for (const auto& strip : scene.geometry().strips()) {
@@ -382,6 +385,7 @@ void TestMapModel::picture()
     image.fill(Qt::white);
     QPainter painter(&image);
     RasterCanvas canvas(painter);
+    scene.update(view.navigator.camera());
     scene.drawGround(canvas, view.navigator.camera());
     scene.drawAbove(canvas, view.navigator.camera());
     painter.end();
@@ -394,6 +398,20 @@ void TestMapModel::picture()
     // It flies east: the nose lies to the right of the middle, the tail is thin.
     QVERIFY(qBlue(image.pixel(static_cast<int>(aircraft.x) + 10, static_cast<int>(aircraft.y))) > 100);
     QCOMPARE(image.pixel(static_cast<int>(aircraft.x) + 10, static_cast<int>(aircraft.y) - 12), qRgb(255, 255, 255));
+}
+
+void TestMapModel::graticule()
+{
+    for (const auto& [degrees, step, expected] : {std::tuple(48.0 + 5.0 / 60, 5.0, "48\u00b005' N"), std::tuple(-0.5, 30.0, "0\u00b030' S"),
+                                                  std::tuple(11.00125, 0.005, "11\u00b000.075' N"), std::tuple(59.99999, 1.0, "60\u00b000' N")})
+        QCOMPARE(Graticule::label(degrees, step, 'N', 'S'), QString::fromUtf8(expected));
+    OpenStreet::Camera camera;
+    camera.setWindowSize(800, 600);
+    camera.setPosition({0.0, 11.0});
+    for (const auto& [range, step] : {std::pair(25.0, 0.005), std::pair(50e3, 5.0), std::pair(60e3, 10.0), std::pair(7e7, 1800.0)}) {
+        camera.setVisibleRange(range, 0.0);
+        QVERIFY2(std::fabs(Graticule(camera, 130.0).step() - step) < 1e-9, qPrintable(QString::number(Graticule(camera, 130.0).step())));
+    }
 }
 
 void TestMapModel::longNote()

@@ -1,5 +1,4 @@
 #include "vesk/base/Directory.h"
-#include "vesk/base/FirstOrderFilter.h"
 #include "vesk/base/Geodesy.h"
 #include "vesk/base/Timer.h"
 
@@ -20,8 +19,6 @@ class TestVeskBase : public QObject {
 private Q_SLOTS:
     void directories_data();
     void directories();
-    void filterFollowsAStep();
-    void filterIgnoresWhatWouldStay();
     void knownPositions_data();
     void knownPositions();
     void positionsSurviveTheRoundTrip();
@@ -56,34 +53,6 @@ void TestVeskBase::directories()
     QCOMPARE(FileSystem::Directory::exists(whole), created);
     QVERIFY(!FileSystem::Directory::createDirectoryRecursive(""));
     QVERIFY(!FileSystem::Directory::exists(""));
-}
-
-void TestVeskBase::filterFollowsAStep()
-{
-    Math::FirstOrderFilter once(2.0);
-    Math::FirstOrderFilter often(2.0);
-    QCOMPARE(once.update(10.0, 0.0), 10.0);
-    QCOMPARE(often.update(10.0, 0.0), 10.0);
-    const double after = once.update(20.0, 2.0);
-    QVERIFY(std::abs(after - (20.0 - 10.0 * std::exp(-1.0))) < 1e-12);
-    for (int i = 0; i < 1000; ++i)
-        often.update(20.0, 0.002);
-    QVERIFY(std::abs(often.value() - after) < 1e-9);
-    once.reset();
-    QCOMPARE(once.update(-3.0, 1.0), -3.0);
-    Math::FirstOrderFilter open(0.0);
-    open.update(1.0, 1.0);
-    QCOMPARE(open.update(5.0, 1.0), 5.0);
-}
-
-void TestVeskBase::filterIgnoresWhatWouldStay()
-{
-    Math::FirstOrderFilter filter(1.0);
-    QCOMPARE(filter.update(std::nan(""), 1.0), 0.0);
-    QCOMPARE(filter.update(4.0, 1.0), 4.0);
-    QCOMPARE(filter.update(std::numeric_limits<double>::infinity(), 1.0), 4.0);
-    QCOMPARE(filter.update(8.0, -1.0), 4.0);
-    QCOMPARE(filter.update(8.0, std::nan("")), 4.0);
 }
 
 void TestVeskBase::knownPositions_data()

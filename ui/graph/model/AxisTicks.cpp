@@ -17,6 +17,10 @@ struct Spacing {
     int subdivisions;
 };
 
+constexpr double kDay = 86400;
+constexpr Spacing kTimes[] = {{1, 5},   {2, 4},   {5, 5},   {10, 5},   {15, 3},   {30, 6},    {60, 6},    {120, 4},  {300, 5},
+                              {600, 5}, {900, 3}, {1800, 6}, {3600, 4}, {7200, 4}, {10800, 3}, {21600, 6}, {43200, 4}, {kDay, 4}};
+
 Spacing roundSpacing(double raw)
 {
     if (raw < 1)
@@ -35,6 +39,18 @@ Spacing spacingOf(double min, double max, double length, double spacing)
     const double scale = exponent > 1 ? std::pow(10.0, std::trunc(exponent)) : exponent < 0 ? std::pow(10.0, std::trunc(exponent - 1)) : 1.0;
     const Spacing rounded = roundSpacing(raw / scale);
     return {rounded.step * scale, rounded.subdivisions};
+}
+
+/// @param raw seconds
+Spacing timeSpacing(double raw)
+{
+    for (const Spacing& spacing : kTimes) {
+        if (raw <= spacing.step)
+            return spacing;
+    }
+    const double scale = std::pow(10.0, std::floor(std::log10(raw / kDay)));
+    const Spacing days = roundSpacing(raw / kDay / scale);
+    return {days.step * scale * kDay, days.subdivisions};
 }
 
 int decimalsOf(double step)
@@ -61,12 +77,29 @@ AxisTicks::AxisTicks(double min, double max, double length, double spacing)
 {
     const Spacing found = spacingOf(min, max, length, spacing);
     mStep = found.step;
-    const double part = found.step / found.subdivisions;
+    place(min, max, found.subdivisions);
+}
+
+AxisTicks AxisTicks::ofTime(double min, double max, double length, double spacing)
+{
+    AxisTicks ticks;
+    const double raw = (max - min) / (length / spacing);
+    Spacing found = spacingOf(min, max, length, spacing);
+    if (found.step > 0 && raw > 0.5)
+        found = timeSpacing(raw);
+    ticks.mStep = found.step;
+    ticks.place(min, max, found.subdivisions);
+    return ticks;
+}
+
+void AxisTicks::place(double min, double max, int subdivisions)
+{
+    const double part = mStep / subdivisions;
     const double first = std::ceil(min / part), last = std::floor(max / part);
-    if (found.step <= 0 || !(part > 0) || !(last - first < kMostTicks) || std::abs(first) > 1e15)
+    if (mStep <= 0 || !(part > 0) || !(last - first < kMostTicks) || std::abs(first) > 1e15)
         return;
     for (double k = first; k <= last; ++k)
-        mTicks.push_back({k * part, std::fmod(k, found.subdivisions) == 0});
+        mTicks.push_back({k * part, std::fmod(k, subdivisions) == 0});
 }
 
 QString AxisTicks::valueLabel(double value) const

@@ -24,6 +24,8 @@ class AxisTicks {
 public:
     AxisTicks() = default;
     AxisTicks(double min, double max, double length, double spacing);
+    /// The same for seconds: from one second on, ticks are whole parts of minutes, hours and days.
+    [[nodiscard]] static AxisTicks ofTime(double min, double max, double length, double spacing);
 
     [[nodiscard]] const std::vector<AxisTick>& ticks() const { return mTicks; }
     [[nodiscard]] double step() const { return mStep; }
@@ -33,6 +35,8 @@ public:
     [[nodiscard]] QString timeLabel(double seconds) const;
 
 private:
+    void place(double min, double max, int subdivisions);
+
     std::vector<AxisTick> mTicks;
     double mStep = -1.0;
 };

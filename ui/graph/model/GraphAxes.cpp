@@ -55,10 +55,10 @@ void GraphAxes::drawTimeAxis(Canvas& canvas) const
 {
     const QRectF& plot = mLayout.plot();
     const TimeWindow& window = mModel.window();
-    AxisTicks ticks(window.begin(), window.end(), plot.width(), kTickSpacing);
+    AxisTicks ticks = AxisTicks::ofTime(window.begin(), window.end(), plot.width(), kTickSpacing);
     const double label = static_cast<double>(ticks.timeLabel(window.end()).size() + 2) * mLayout.character();
     if (label > kTickSpacing)
-        ticks = AxisTicks(window.begin(), window.end(), plot.width(), label);
+        ticks = AxisTicks::ofTime(window.begin(), window.end(), plot.width(), label);
     std::vector<QPointF> major, fine;
     std::vector<GraphLabels::Label> labels;
     for (const AxisTick& tick : ticks.ticks()) {

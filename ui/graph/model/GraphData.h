@@ -1,8 +1,8 @@
 #pragma once
 
+#include "ui/canvas/Palette.h"
 #include "ui/graph/model/ValueScale.h"
 
-#include <QColor>
 #include <QString>
 
 namespace ZARN {
@@ -18,11 +18,11 @@ struct GraphData {
     eDisplayMode displayMode = eSingleGraph;
     eGraphMode graphMode = eAutomatic;
     eCursorMode cursorMode = eCenter;
-    QString backColor = QStringLiteral("#000000");
+    QString backColor = Palette::light().graph.ground.name();
     bool gridOn = true;
-    QString gridColor = QStringLiteral("#ff6666");
-    QString labelColor = QStringLiteral("#000000");
-    QString labelBackColor = QStringLiteral("#bbbbbb");
+    QString gridColor = Palette::light().graph.grid.name();
+    QString labelColor = Palette::light().graph.label.name();
+    QString labelBackColor = Palette::light().graph.labelGround.name();
     bool cursorOn = true;
     bool legendOn = true;
     ValueScale scale{.lower = -100.0, .upper = 100.0};

@@ -1,6 +1,7 @@
 #include "ui/graph/model/ThresholdBands.h"
 
 #include "profile/ThresholdBand.h"
+#include "ui/canvas/Palette.h"
 
 namespace ZARN {
 
@@ -10,7 +11,7 @@ QColor bandColour(const Threshold& threshold)
 {
     if (threshold.colour.isValid())
         return threshold.colour;
-    return threshold.state == eThresholdLimit ? QColor(220, 40, 40) : QColor(240, 180, 0);
+    return threshold.state == eThresholdLimit ? Palette::light().limit : Palette::light().warning;
 }
 
 } // namespace

@@ -1,6 +1,8 @@
 #include "ui/map/model/MapScene.h"
 
 #include "app/Numeric.h"
+#include "ui/canvas/Triangulation.h"
+#include "ui/map/model/Graticule.h"
 
 #include <QTransform>
 
@@ -8,7 +10,6 @@
 #include <array>
 #include <cmath>
 #include <map>
-#include <numbers>
 #include <unordered_set>
 #include <utility>
 
@@ -16,34 +17,15 @@ namespace ZARN {
 
 namespace {
 
-constexpr double kPathWidth = 3.0;
 constexpr double kMargin = 8.0; // pixels between the window's edges and what stands in its corners
 constexpr double kMessageSize = 16.0;
-constexpr double kBarPixels = 140.0;
 constexpr double kMetresPerMile = 1852.0;
 constexpr double kMetresPerFoot = 0.3048;
+constexpr int kCorners = 12; // of a dot
 constexpr std::size_t kMostDots = 4000;
 constexpr int kDotCell = 2; // pixels: dots that lie closer together are one
-const QColor kPathColour(255, 0, 0);
-const QColor kTextColour = QColor::fromRgbF(0.4F, 0.4F, 0.4F);
-const QColor kTextGround(255, 255, 255, 225);
-const QColor kAircraftColour(25, 60, 140);
-const QColor kGraticuleLine(90, 110, 130, 60);
-const QColor kGraticuleText(90, 110, 130);
 
-using Circle = std::array<QPointF, 12>;
-
-Circle circle(double radius)
-{
-    Circle points;
-    for (std::size_t i = 0; i < points.size(); ++i) {
-        const double angle = 2.0 * std::numbers::pi * static_cast<double>(i) / static_cast<double>(points.size());
-        points[i] = {radius * std::cos(angle), radius * std::sin(angle)};
-    }
-    return points;
-}
-
-void addDisc(std::vector<QPointF>& triangles, const Circle& shape, const QPointF& middle)
+void addDisc(std::vector<QPointF>& triangles, std::span<const QPointF> shape, const QPointF& middle)
 {
     for (std::size_t i = 0; i < shape.size(); ++i)
         triangles.insert(triangles.end(), {middle, middle + shape[i], middle + shape[(i + 1) % shape.size()]});
@@ -54,30 +36,10 @@ QString length(double amount, const char* unit)
     return QString(QLatin1String("%1 %2")).arg(amount, 0, 'g', 6).arg(QLatin1String(unit));
 }
 
-/// Degrees between two lines that lie at least 130 pixels apart.
-double graticuleStep(const OpenStreet::Camera& camera)
-{
-    const double least = 130.0 * camera.metresPerPixel() / OpenStreet::Projection::kWorldWidth * 360.0;
-    for (double power = 0.0001; power < 100.0; power *= 10.0) {
-        for (const double digit : {1.0, 2.0, 5.0}) {
-            if (digit * power >= least)
-                return digit * power;
-        }
-    }
-    return 90.0;
-}
-
-QString degrees(double value, double step, char positive, char negative)
-{
-    const int digits = std::max(0, -static_cast<int>(std::floor(std::log10(step) + 1e-9)));
-    const QString number = QString::number(std::fabs(value), 'f', digits);
-    return number + QChar(0x00B0) + QLatin1Char(value < 0.0 ? negative : positive);
-}
-
 /// The text, or as much of it as is not wider than that; characters are all of one width.
-QString elided(const Canvas& canvas, const QString& text, double width)
+QString elided(const Canvas& canvas, const QString& text, double textSize, double width)
 {
-    const double character = canvas.textSize(QStringLiteral("x"), {MapScene::kTextSize, kTextColour}).width();
+    const double character = canvas.textSize(QStringLiteral("x"), {.size = textSize}).width();
     const auto most = std::max<qsizetype>(saturatingCast<int>(width / character), 1);
     return text.size() <= most ? text : text.left(most - 1) + QChar(0x2026);
 }
@@ -121,11 +83,14 @@ bool MapScene::setNote(const QString& note)
     return std::exchange(mNote, note) != note;
 }
 
-void MapScene::drawGround(Canvas& canvas, const OpenStreet::Camera& camera)
+void MapScene::drawGround(Canvas& canvas, const OpenStreet::Camera& camera) const
 {
-    if (mHasGraticule)
-        drawGraticule(canvas, camera);
-    drawPath(canvas, camera);
+    const CanvasText style{mStyle.textSize, mStyle.colours.gridText, false, Qt::AlignLeft | Qt::AlignBottom};
+    if (mHasGraticule) // the labels keep clear of the scale bar
+        Graticule(camera, mStyle.gridSpacing)
+            .draw(canvas, {mStyle.colours.grid, mStyle.gridWidth}, style,
+                  camera.height() - std::ceil(kMargin + 7.0 + 1.35 * mStyle.textSize));
+    drawPath(canvas);
     drawEvents(canvas, camera);
 }
 
@@ -137,49 +102,19 @@ void MapScene::drawAbove(Canvas& canvas, const OpenStreet::Camera& camera) const
         drawLabel(canvas, {0.5 * camera.width(), 0.5 * camera.height()}, mMessage, Qt::AlignCenter, kMessageSize);
 }
 
-void MapScene::drawGraticule(Canvas& canvas, const OpenStreet::Camera& camera) const
+void MapScene::drawPath(Canvas& canvas) const
 {
-    const auto corner = [&](double x, double y) { return camera.projection().toGeo(camera.windowToWorld({x, y})); };
-    OpenStreet::GeoPoint upper = corner(0.0, 0.0), lower = upper;
-    for (const OpenStreet::GeoPoint& other :
-         {corner(camera.width(), 0.0), corner(0.0, camera.height()), corner(camera.width(), camera.height())}) {
-        upper = {std::max(upper.latitude, other.latitude), std::min(upper.longitude, other.longitude)};
-        lower = {std::min(lower.latitude, other.latitude), std::max(lower.longitude, other.longitude)};
-    }
-    const double step = graticuleStep(camera);
-    const auto point = [&](double latitude, double longitude) {
-        const OpenStreet::WindowPoint at = camera.worldToWindow(camera.projection().toWorld({latitude, longitude}));
-        return QPointF(at.x, at.y);
-    };
-    const CanvasText style{kTextSize, kGraticuleText, false, Qt::AlignLeft | Qt::AlignBottom};
-    std::vector<QPointF> lines;
-    for (double longitude = std::ceil(upper.longitude / step) * step; longitude <= lower.longitude; longitude += step) {
-        const QPointF top = point(upper.latitude, longitude);
-        lines.insert(lines.end(), {top, point(lower.latitude, longitude)});
-        canvas.text({top.x() + 3.0, camera.height() - 30.0}, degrees(OpenStreet::foldLongitude(longitude), step, 'E', 'W'), style);
-    }
-    for (double latitude = std::ceil(lower.latitude / step) * step; latitude <= upper.latitude; latitude += step) {
-        const QPointF left = point(latitude, upper.longitude);
-        lines.insert(lines.end(), {left, point(latitude, lower.longitude)});
-        canvas.text({3.0, left.y() - 1.0}, degrees(latitude, step, 'N', 'S'), style);
-    }
-    canvas.lines(lines, {kGraticuleLine, 1.0});
-}
-
-void MapScene::drawPath(Canvas& canvas, const OpenStreet::Camera& camera)
-{
-    mGeometry.update(mPath, camera);
     canvas.push();
     canvas.translate(mGeometry.offset().x(), mGeometry.offset().y());
     for (const PathGeometry::Strip& strip : mGeometry.strips())
-        canvas.lineStrip(strip, {kPathColour, kPathWidth, true});
+        canvas.lineStrip(strip, {mStyle.colours.path, mStyle.pathWidth, true});
     canvas.pop();
 }
 
 void MapScene::drawEvents(Canvas& canvas, const OpenStreet::Camera& camera) const
 {
     const OpenStreet::WindowPoint start = windowOrigin(camera, mPath.origin());
-    const Circle inner = circle(MapEvents::kRadius), outer = circle(MapEvents::kRadius + 1.2);
+    const std::vector<QPointF> inner = circle(MapEvents::kRadius, kCorners), outer = circle(MapEvents::kRadius + 1.2, kCorners);
     std::map<QRgb, std::vector<QPointF>> discs; // one drawing a colour
     std::vector<QPointF> rims;
     std::unordered_set<qint64> taken;
@@ -194,7 +129,7 @@ void MapScene::drawEvents(Canvas& canvas, const OpenStreet::Camera& camera) cons
         addDisc(rims, outer, middle);
         addDisc(discs[event.colour.rgb()], inner, middle);
     }
-    canvas.triangles(rims, Qt::black);
+    canvas.triangles(rims, mStyle.colours.eventRim);
     for (const auto& [colour, triangles] : discs)
         canvas.triangles(triangles, QColor(colour));
 }
@@ -213,34 +148,34 @@ void MapScene::drawAircraft(Canvas& canvas, const OpenStreet::Camera& camera) co
         const OpenStreet::WindowPoint step = camera.worldToWindowVector({seen.x() * scale, -seen.y() * scale});
         outline.emplace_back(at.x + step.x, at.y + step.y);
     }
-    canvas.polygon(outline, kAircraftColour);
+    canvas.polygon(outline, mStyle.colours.aircraft);
     outline.push_back(outline.front());
-    canvas.lineStrip(outline, {Qt::white, 1.5, true});
+    canvas.lineStrip(outline, {mStyle.colours.aircraftRim, 1.5, true});
 }
 
 void MapScene::drawScaleBar(Canvas& canvas, const OpenStreet::Camera& camera) const
 {
-    const MapScaleBar bar = MapScaleBar::at(camera, std::min(kBarPixels, 0.4 * camera.width()), mIsImperial);
+    const MapScaleBar bar = MapScaleBar::at(camera, std::min(mStyle.barLength, 0.4 * camera.width()), mIsImperial);
     const bool isNarrow = bar.pixels + mCorner.width() + 3.0 * kMargin > camera.width(); // no room beside what stands in the corner
     const double bottom = camera.height() - kMargin - (isNarrow ? mCorner.height() + 4.0 : 0.0);
     const double right = kMargin + bar.pixels;
-    drawLabel(canvas, {kMargin, bottom - 7.0}, bar.text, Qt::AlignLeft | Qt::AlignBottom);
-    canvas.fillRect({kMargin, bottom - 5.0, bar.pixels, 5.0}, kTextGround);
-    canvas.fillRect({kMargin, bottom - 2.0, bar.pixels, 2.0}, kTextColour);
-    canvas.fillRect({kMargin, bottom - 5.0, 2.0, 5.0}, kTextColour);
-    canvas.fillRect({right - 2.0, bottom - 5.0, 2.0, 5.0}, kTextColour);
+    drawLabel(canvas, {kMargin, bottom - 7.0}, bar.text, Qt::AlignLeft | Qt::AlignBottom, mStyle.textSize);
+    canvas.fillRect({kMargin, bottom - 5.0, bar.pixels, 5.0}, mStyle.colours.textGround);
+    canvas.fillRect({kMargin, bottom - 2.0, bar.pixels, 2.0}, mStyle.colours.text);
+    canvas.fillRect({kMargin, bottom - 5.0, 2.0, 5.0}, mStyle.colours.text);
+    canvas.fillRect({right - 2.0, bottom - 5.0, 2.0, 5.0}, mStyle.colours.text);
     if (!mNote.isEmpty())
         drawLabel(canvas, {kMargin, std::min(bottom - 28.0, camera.height() - mCorner.height() - 2.0 * kMargin)},
-                  elided(canvas, mNote, camera.width() - 2.0 * kMargin), Qt::AlignLeft | Qt::AlignBottom);
+                  elided(canvas, mNote, mStyle.textSize, camera.width() - 2.0 * kMargin), Qt::AlignLeft | Qt::AlignBottom, mStyle.textSize);
 }
 
 void MapScene::drawLabel(Canvas& canvas, const QPointF& position, const QString& text, Qt::Alignment align, double textSize) const
 {
-    const CanvasText style{textSize, kTextColour, false, align};
+    const CanvasText style{textSize, mStyle.colours.text, false, align};
     const QSizeF size = canvas.textSize(text, style);
     const double left = align & Qt::AlignHCenter ? position.x() - 0.5 * size.width() : position.x();
     const double top = position.y() - (align & Qt::AlignVCenter ? 0.5 : 1.0) * size.height();
-    canvas.fillRect({left - 3.0, top, size.width() + 6.0, size.height()}, kTextGround);
+    canvas.fillRect({left - 3.0, top, size.width() + 6.0, size.height()}, mStyle.colours.textGround);
     canvas.text(position, text, style);
 }
 

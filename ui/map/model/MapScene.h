@@ -2,6 +2,7 @@
 
 #include "ui/canvas/Canvas.h"
 #include "ui/map/model/MapEvents.h"
+#include "ui/map/model/MapStyle.h"
 #include "ui/map/model/PathGeometry.h"
 
 namespace ZARN {
@@ -16,10 +17,11 @@ struct MapScaleBar {
     [[nodiscard]] static MapScaleBar at(const OpenStreet::Camera& camera, double pixels, bool imperial);
 };
 
-/// What is drawn above the tiles of the map: path, events, aircraft, scale bar, words for people.
+/// What is drawn above the ground of the map: lines of latitude and longitude, path, events, aircraft, scale bar, words for people. Drawing
+/// changes nothing; update() comes before it.
 class MapScene {
 public:
-    static constexpr double kTextSize = 11.0;
+    explicit MapScene(const MapStyle& style = {}) : mStyle(style) {}
 
     [[nodiscard]] MapPath& path() { return mPath; }
     [[nodiscard]] const MapPath& path() const { return mPath; }
@@ -38,21 +40,23 @@ public:
     /// What is taken of the right lower corner, in pixels: the scale bar keeps away from it.
     void setCorner(const QSizeF& size) { mCorner = size; }
 
+    /// Makes what is drawn for a camera.
+    void update(const OpenStreet::Camera& camera) { mGeometry.update(mPath, camera); }
     /// What changes with the view only: path and events.
-    void drawGround(Canvas& canvas, const OpenStreet::Camera& camera);
+    void drawGround(Canvas& canvas, const OpenStreet::Camera& camera) const;
     /// What moves above it, and what stands in the window's corners.
     void drawAbove(Canvas& canvas, const OpenStreet::Camera& camera) const;
+    void drawScaleBar(Canvas& canvas, const OpenStreet::Camera& camera) const;
     /// The aircraft seen from above, pointing north, around the origin.
     [[nodiscard]] static std::span<const QPointF> aircraftOutline();
 
 private:
-    void drawGraticule(Canvas& canvas, const OpenStreet::Camera& camera) const;
-    void drawPath(Canvas& canvas, const OpenStreet::Camera& camera);
+    void drawPath(Canvas& canvas) const;
     void drawEvents(Canvas& canvas, const OpenStreet::Camera& camera) const;
     void drawAircraft(Canvas& canvas, const OpenStreet::Camera& camera) const;
-    void drawScaleBar(Canvas& canvas, const OpenStreet::Camera& camera) const;
-    void drawLabel(Canvas& canvas, const QPointF& position, const QString& text, Qt::Alignment align, double textSize = kTextSize) const;
+    void drawLabel(Canvas& canvas, const QPointF& position, const QString& text, Qt::Alignment align, double textSize) const;
 
+    MapStyle mStyle;
     MapPath mPath;
     MapEvents mEvents;
     PathGeometry mGeometry;
