@@ -10,7 +10,7 @@
 namespace ZARN {
 
 /// The records of one channel in the order of reception: a sequence that only grows, in chunks that never move. The
-/// first chunks double from one record on, so that a channel of few records costs little; from 2,048 on all are alike.
+/// first chunks double from one record on, so that a channel of few records costs little; from 1,024 on all are alike.
 class RecordEntries {
 public:
     explicit RecordEntries(uint32_t identifier) : mIdentifier(identifier) {}
@@ -83,8 +83,8 @@ public:
 
 private:
     static constexpr std::size_t kFirst = 1;                 // records in each of the first two chunks
-    static constexpr std::size_t kChunk = 2048;              // records in every chunk after the doubling ones
-    static constexpr std::size_t kDoubling = 12;             // how many chunks hold the first kChunk records
+    static constexpr std::size_t kChunk = 1024;              // records in every chunk after the doubling ones
+    static constexpr std::size_t kDoubling = 11;             // how many chunks hold the first kChunk records
     static constexpr std::size_t kPrefetch = 4;              // records ahead of the one written
     static_assert((kFirst << (kDoubling - 1)) == kChunk);
 

@@ -14,6 +14,7 @@ namespace {
 
 constexpr uint16_t kByteOrderMark = 0xABBA;
 constexpr uint16_t kExchangedMark = 0xBAAB;
+constexpr long kFieldsEnd = 108;       // bytes of a header that are read
 constexpr long kFirstRecordTime = 148; // offset of the first record's time words; those of the last one stand at 28 x count + 120
 
 template <typename T> bool readField(FILE* pFile, T& value, bool swap)
@@ -174,9 +175,11 @@ bool RecordFile::readHeader(FILE* pFile, bool withTimes)
     if (std::feof(pFile))
         return false;
     const auto seek = [pFile](int64_t offset) { return std::fseek(pFile, static_cast<long>(offset), SEEK_SET) == 0; };
-    if (withTimes && !(seek(kFirstRecordTime) && readTime(pFile, startTime) && seek(kRecordSize * recordCount + 120) && readTime(pFile, endTime)))
-        return false;
-    return seek(kHeaderSize);
+    if (!withTimes)
+        return seek(kHeaderSize);
+    char between[kFirstRecordTime - kFieldsEnd]; // read, since a seek would have the library read the file's beginning again
+    return std::fread(between, sizeof between, 1, pFile) == 1 && readTime(pFile, startTime) && seek(kRecordSize * recordCount + 120) &&
+           readTime(pFile, endTime);
 }
 
 bool RecordFile::readData(FILE* pFile, RecordData& data)

@@ -41,6 +41,7 @@ constexpr const char* kRules = R"(
     location /text/ { default_type image/png; return 200 "<html>please log in</html>"; }
     location /truncated/ { default_type image/png; try_files /truncated.png =404; }
     location /huge/ { try_files /huge.png =404; }
+    location /announced/ { add_header Content-Length 5300000; return 204; }
     location /wide/ { try_files /wide.png =404; }
     location /slow/ { limit_rate 10; try_files /any.png =404; }
     location /cookie/ { add_header Set-Cookie "track=1"; try_files /any.png =404; }
@@ -260,6 +261,7 @@ void TestTileStore::failures_data()
     QTest::newRow("no picture") << "/text" << qsizetype(1) << "[no picture]";
     QTest::newRow("breaks off") << "/truncated" << qsizetype(1) << "[the picture breaks off]";
     QTest::newRow("above 4 MiB") << "/huge" << qsizetype(1) << "[more than 4 MiB]";
+    QTest::newRow("above 4 MiB by its header, without a body") << "/announced" << qsizetype(1) << "[more than 4 MiB]";
     QTest::newRow("above 1024 pixels") << "/wide" << qsizetype(1) << "[not a picture of at most 1024 x 1024 pixels]";
     QTest::newRow("slow") << "/slow" << qsizetype(1) << "";
 }

@@ -242,7 +242,7 @@ QRect DialogDataMap::aircraftPlace() const
         return {};
     double x = width() / 2.0;
     double y = height() / 2.0;
-    if (mContext.centreAircraft == 0) // else it is on its way there
+    if (mContext.centreAircraft != 1) // else it is there, or on its way
         mpMap->latLong2Window(scene.aircraft().latitude, scene.aircraft().longitude, &x, &y);
     return QRect(saturatingCast<int>(x) - kAircraft, saturatingCast<int>(y) - kAircraft, 2 * kAircraft, 2 * kAircraft) & rect();
 }

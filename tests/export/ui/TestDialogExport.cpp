@@ -328,8 +328,16 @@ void TestDialogExport::sizeIsToldBefore()
             Answer no(Answer::press("&No"));
             QVERIFY(outlook.mayWrite(static_cast<int64_t>(outlook.bytes()), nullptr) && no.text.isEmpty());
             QVERIFY(!outlook.mayWrite(static_cast<int64_t>(outlook.bytes()) - 1, nullptr) && no.text.contains("free in the folder"));
+            QVERIFY(outlook.note(1).isEmpty());
         }
     }
+    ProfileBuilder wide;
+    wide.device("Engine");
+    for (int i = 0; i < 4000; ++i)
+        wide.parameter(QString("Speed %1").arg(i), 500, "FLOAT");
+    QVERIFY(wide.load(wizards.profile));
+    const QString note = ExportOutlook(wizards.container.recordData(), wizards.profile, {folder(), "a.csv"}).note(5'000'000'000);
+    QVERIFY2(note.contains(" MB; 5.0 GB are free in the folder."), qPrintable(note));
 }
 
 void TestDialogExport::progressIsSeenAndCancelled()
