@@ -3,12 +3,11 @@
 #include "openstreet/core/TileId.h"
 
 #include <QByteArray>
+#include <QCache>
 #include <QImage>
 #include <QPointF>
 #include <QRectF>
 
-#include <list>
-#include <unordered_map>
 #include <vector>
 
 namespace OpenStreet {
@@ -41,14 +40,10 @@ public:
     [[nodiscard]] const Geometry& geometry(const TileId& id);
 
 private:
-    struct Kept {
-        Geometry geometry;
-        std::list<TileId>::iterator order;
-    };
+    static constexpr int kKeptTiles = 512;
 
     Geometry mWorld;
-    std::unordered_map<TileId, Kept, TileIdHash> mKept;
-    std::list<TileId> mOrder; // of use, the latest first
+    QCache<TileId, Geometry> mKept{kKeptTiles};
 };
 
 } // namespace OpenStreet
