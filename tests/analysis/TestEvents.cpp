@@ -72,15 +72,10 @@ class TestEvents : public QObject {
 private Q_SLOTS:
     void limits_data();
     void limits();
-    void limitsOfEveryType_data();
-    void limitsOfEveryType();
     void limitsAreSortedAndKeepTheOrderOfTheProfile();
     void limitsEqualTheLiteralWalk();
-    void positionsStartWithAClearedFilter();
     void lamps_data();
     void lamps();
-    void lampTakesItsStateByTheTypeInTheMessage();
-    void onlyTheLampGroupCounts();
     void rowOfATime();
 };
 
@@ -92,14 +87,10 @@ void TestEvents::limits_data()
 
     const QString limits = "thresholdId=Limits precision=0";
     QTest::newRow("up through both bands") << limits << "70 90 110 70" << "2:1:Engine T 90 :#ffff00, 3:2:Engine T 110 :#ff0000";
-    QTest::newRow("straight into the second") << limits << "70 110 90 110" << "2:2:Engine T 110 :#ff0000, 4:2:Engine T 110 :#ff0000";
     QTest::newRow("outside from the start") << limits << "90 90 70 90" << "4:1:Engine T 90 :#ffff00";
-    QTest::newRow("down from the second at the start") << limits << "110 90 110" << "3:2:Engine T 110 :#ff0000";
     QTest::newRow("on the boundary") << limits << "79 80 99 100" << "2:1:Engine T 80 :#ffff00, 4:2:Engine T 100 :#ff0000";
-    QTest::newRow("below the first boundary is in order") << limits << "-5 90" << "2:1:Engine T 90 :#ffff00";
     QTest::newRow("not a number is dropped, but was the state") << limits << "70 nan 110 70 90" << "5:1:Engine T 90 :#ffff00";
     QTest::newRow("infinite") << limits << "70 inf -inf inf" << "2:2:Engine T inf :#ff0000, 4:2:Engine T inf :#ff0000";
-    QTest::newRow("no list") << "thresholdId=Nothing" << "70 90 110" << "";
     QTest::newRow("a colour that is none") << "thresholdId=Colourless precision=0" << "10 60" << "2:1:Engine T 60 :none";
     QTest::newRow("list out of order") << "thresholdId=Unordered precision=0" << "10 75 10 120" << "2:1:Engine T 75 :#ffff00";
     QTest::newRow("equal boundaries") << "thresholdId=Equal precision=0" << "10 50" << "2:2:Engine T 50 :#ff0000";
@@ -127,30 +118,6 @@ void TestEvents::limits()
     RecordData data;
     file.fill(data);
     QTEST(described(limitEvents(data, cycle.profile), true), "expected");
-}
-
-void TestEvents::limitsOfEveryType_data()
-{
-    QTest::addColumn<QString>("type");
-    QTest::addColumn<QString>("expected");
-
-    // The samples' data bytes are 0, 0x5A000000, 0x00000064 (in this order).
-    QTest::newRow("whole numbers") << "USHORT" << "2:2:D P 23040 ";
-    QTest::newRow("bytes") << "UCHAR" << "2:1:D P 90 ";
-    QTest::newRow("long") << "LONG" << "2:2:D P 1509949440 ";
-    QTest::newRow("fields are always in order") << "BLONG" << "";
-    QTest::newRow("16-bit fields too") << "BSHORT" << "";
-    QTest::newRow("texts that tell of a type without a number") << "ERROR" << "";
-}
-
-void TestEvents::limitsOfEveryType()
-{
-    QFETCH(QString, type);
-    TestCycle cycle;
-    QVERIFY(limitProfile().device("D").parameter("P", 10, type, {{"thresholdId", "Limits"}, {"endBit", "31"}}).load(cycle.profile));
-    RecordData data;
-    RecordFileBuilder().addWord(10, 1, 0).addWord(10, 2, 0x5A000000).addWord(10, 3, 100).fill(data);
-    QTEST(described(limitEvents(data, cycle.profile)), "expected");
 }
 
 void TestEvents::limitsAreSortedAndKeepTheOrderOfTheProfile()
@@ -194,22 +161,6 @@ void TestEvents::limitsEqualTheLiteralWalk()
     }
 }
 
-void TestEvents::positionsStartWithAClearedFilter()
-{
-    TestCycle cycle;
-    ProfileBuilder builder;
-    builder.thresholds("North", {{48.05, "WARNING", "red"}}).device("D");
-    builder.parameter("Lat", 10, "FLOAT", {{"viewId", "Latitude"}, {"thresholdId", "North"}, {"precision", "2"}});
-    QVERIFY(builder.load(cycle.profile));
-    RecordFileBuilder file;
-    addFloats(file, 10, "4800 4800 4800 4800 4800 4800 4803.6 9000"); // the last is a jump that the filter takes out
-    RecordData data;
-    file.fill(data);
-    const QString expected = "7:1:D Lat 48.06 ";
-    QCOMPARE(described(limitEvents(data, cycle.profile)), expected);
-    QCOMPARE(described(limitEvents(data, cycle.profile)), expected);
-}
-
 void TestEvents::lamps_data()
 {
     QTest::addColumn<QList<int>>("states");
@@ -220,8 +171,6 @@ void TestEvents::lamps_data()
     QTest::newRow("lit from the first sample") << QList{1, 1, 1} << "1" + first;
     QTest::newRow("lit again is not told again") << QList{0, 1, 0, 1} << "2" + first;
     QTest::newRow("another state after the dark") << QList{1, 0, 2} << "1" + first + ", 3" + second;
-    QTest::newRow("from state to state") << QList{1, 2, 1} << "1" + first + ", 2" + second + ", 3" + first;
-    QTest::newRow("dark all the time") << QList{0, 0} << "";
     QTest::newRow("states without a colour") << QList{3, -1} << "1:3:WarningLamp Oil 3 :none, 2:-1:WarningLamp Oil -1 :none";
 }
 
@@ -237,30 +186,6 @@ void TestEvents::lamps()
     RecordData data;
     file.fill(data);
     QTEST(described(warningEvents(data, cycle.profile), true), "expected");
-}
-
-void TestEvents::lampTakesItsStateByTheTypeInTheMessage()
-{
-    TestCycle cycle;
-    QVERIFY(ProfileBuilder().device("WarningLamp").parameter("Oil", 10, "UCHAR").load(cycle.profile));
-    RecordData data;
-    RecordFileBuilder file;
-    file.add(10, 1, floatPayload(1.0F));     // a float message has no integer
-    file.add(10, 2, bytePayload(2, 10));     // state 2, text 2
-    file.add(10, 3, wordPayload(0x05000001, 4)); // state 0x05000001, while the text is that of the parameter's type
-    file.fill(data);
-    QCOMPARE(described(warningEvents(data, cycle.profile)), "2:2:WarningLamp Oil 2 , 3:83886081:WarningLamp Oil 5 ");
-}
-
-void TestEvents::onlyTheLampGroupCounts()
-{
-    TestCycle cycle;
-    QVERIFY(ProfileBuilder().device("Engine").parameter("A", 10, "UCHAR").device("WarningLamp").parameter("B", 10, "UCHAR")
-                .parameter("None", 11, "UCHAR").device("warninglamp").parameter("C", 10, "UCHAR").device("WarningLamp")
-                .parameter("D", 10, "UCHAR").load(cycle.profile));
-    RecordData data;
-    RecordFileBuilder().add(10, 1, bytePayload(1)).fill(data);
-    QCOMPARE(described(warningEvents(data, cycle.profile)), "1:1:WarningLamp B 1 , 1:1:WarningLamp D 1 ");
 }
 
 void TestEvents::rowOfATime()

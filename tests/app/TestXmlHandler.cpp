@@ -21,14 +21,9 @@ class TestXmlHandler : public QObject {
 private Q_SLOTS:
     void intAttribute_data();
     void intAttribute();
-    void doubleAttribute_data();
-    void doubleAttribute();
-    void boolAttribute_data();
-    void boolAttribute();
     void writtenValues();
     void anyTextSurvives();
     void readFailures();
-    void sameBytesOnEveryRun();
 
 private:
     QDomNamedNodeMap attributesWith(const QString& value);
@@ -79,46 +74,6 @@ void TestXmlHandler::intAttribute()
     const XmlHandler xml(mConsole.console);
     QCOMPARE(xml.xmlGetIntAttribute(attributesWith(text), "a", 77), number);
     QCOMPARE(xml.xmlGetIntAttribute(attributesWith(text), "b", 78), 78);
-}
-
-void TestXmlHandler::doubleAttribute_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<double>("number");
-    const std::pair<const char*, double> rows[] = {{"1.5", 1.5}, {" -1.5e-3 ", -1.5e-3}, {"+2", 2.0}, {".5", 0.5}, {"1,5", 0.0}, {"1.000,5", 0.0},
-                                                   {"1.5m", 0.0}, {"0x10", 0.0}, {"text", 0.0}, {" ", 0.0}, {"", 7.5},
-                                                   {"inf", std::numeric_limits<double>::infinity()}};
-    for (const auto& [text, number] : rows)
-        QTest::newRow(text) << QString(text) << number;
-}
-
-void TestXmlHandler::doubleAttribute()
-{
-    QFETCH(QString, text);
-    QFETCH(double, number);
-    const XmlHandler xml(mConsole.console);
-    QCOMPARE(xml.xmlGetDoubleAttribute(attributesWith(text), "a", 7.5), number);
-    QCOMPARE(xml.xmlGetDoubleAttribute(attributesWith(text), "b", 8.5), 8.5);
-}
-
-void TestXmlHandler::boolAttribute_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("value");
-    QTest::newRow("true") << "true" << true;
-    QTest::newRow("1") << "1" << true;
-    for (const char* text : {"", "True", "TRUE", "yes", "01", " true", "2", "false", "0"})
-        QTest::newRow(text) << text << false;
-}
-
-void TestXmlHandler::boolAttribute()
-{
-    QFETCH(QString, text);
-    QFETCH(bool, value);
-    const XmlHandler xml(mConsole.console);
-    QCOMPARE(xml.xmlGetBoolAttribute(attributesWith(text), "a", !value), value);
-    QCOMPARE(xml.xmlGetBoolAttribute(attributesWith(text), "b", true), true);
-    QCOMPARE(xml.xmlGetBoolAttribute(attributesWith(text), "b", false), false);
 }
 
 void TestXmlHandler::writtenValues()
@@ -200,19 +155,6 @@ void TestXmlHandler::readFailures()
         QCOMPARE(mConsole.take(), "could not set content <" + base + "/%s%n.xml>\n");
     }
     QCOMPARE(document.documentElement().tagName(), QString("kept"));
-}
-
-/// This program again, started with the argument "sample", writes the sample and ends.
-void TestXmlHandler::sameBytesOnEveryRun()
-{
-    const QByteArray here = sampleText(mConsole.console);
-    QVERIFY(here.contains("name7919=\"1\""));
-    for (int i = 0; i < 3; ++i) {
-        QProcess process;
-        process.start(QCoreApplication::applicationFilePath(), {"sample"});
-        QVERIFY(process.waitForFinished());
-        QCOMPARE(process.readAllStandardOutput(), here);
-    }
 }
 
 int main(int argc, char** argv)

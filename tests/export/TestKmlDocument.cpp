@@ -15,68 +15,9 @@ class TestKmlDocument : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void layoutIsThatOfTheOtherFiles();
-    void settings();
     void outOfRange_data();
     void outOfRange();
 };
-
-void TestKmlDocument::layoutIsThatOfTheOtherFiles()
-{
-    TestCycle cycle;
-    ProfileBuilder builder;
-    builder.thresholds("Hot", {{100, "WARNING", "yellow"}}).device("GPS").parameter("Latitude", 1036, "FLOAT").parameter("A", 20, "FLOAT", {{"thresholdId", "Hot"}});
-    QVERIFY(builder.parameter("Odd <b>&\"\r\n", 21, "USHORT", {{"unitMetric", "]]> µ\t"}}).load(cycle.profile));
-    cycle.profile.setSelected("A", true);
-    cycle.profile.setSelected("Odd <b>&\"\r\n", true);
-    RecordData data;
-    RecordFileBuilder().addFloat(1036, 1, 48).addFloat(20, 1, 50).addFloat(20, 2, 150).addShort(21, 3, 7).fill(data);
-    const QTemporaryDir folder;
-    KmlExportOptions options;
-    options.directory = folder.path().toStdString();
-    options.fileName = "out.kml";
-    QVERIFY(ExportKml(cycle.console, cycle.profile, {}).exportData(data, options));
-    const std::string written = fileContent(folder.filePath("out.kml").toStdString());
-    QDomDocument parsed;
-    QVERIFY(parsed.setContent(QByteArray::fromStdString(written)));
-    QVERIFY(XmlHandler(cycle.console).xmlWriteFile(parsed, folder.filePath("again.kml")));
-    // The toolkit quotes the declaration otherwise, and escapes no ">" that it need not.
-    const auto comparable = [](const std::string& text) { return QString::fromStdString(text).section('\n', 1).replace("&gt;", ">"); };
-    QVERIFY(written.starts_with("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"));
-    QCOMPARE(comparable(written), comparable(fileContent(folder.filePath("again.kml").toStdString())));
-}
-
-void TestKmlDocument::settings()
-{
-    TestCycle cycle;
-    Property settings(cycle.console);
-    KmlExportOptions options;
-    options.read(settings); // an empty store
-    QCOMPARE(options.timeStamp, 1);
-    QCOMPARE(options.placeMarkInterval, 10);
-    QVERIFY(options.polygonOn);
-
-    settings.setString("KmlTimeStamp", " 3s");
-    settings.setString("KmlLineWidth", "thick");
-    settings.setString("KmlPolygonOn", "1");
-    settings.setString("KmlShowLimit", "TRUE");
-    settings.setString("KmlExportDir", "/tmp");
-    options.read(settings);
-    QCOMPARE(options.timeStamp, 3);
-    QCOMPARE(options.lineWidth, 0);
-    QVERIFY(!options.polygonOn);
-    QVERIFY(options.showLimit);
-    QCOMPARE(options.directory, std::string("/tmp"));
-
-    options.placeMarkInterval = 7;
-    options.errorMarkOn = false;
-    options.write(settings);
-    KmlExportOptions again;
-    again.read(settings);
-    QCOMPARE(again.placeMarkInterval, 7);
-    QVERIFY(!again.errorMarkOn);
-    QCOMPARE(settings.getString("KmlPlaceMarkIntervall", ""), std::string("7"));
-}
 
 void TestKmlDocument::outOfRange_data()
 {

@@ -52,15 +52,7 @@ private Q_SLOTS:
     void variants_data();
     void variants();
     void variantTestAppliesAtEveryLevel();
-    void defaults();
-    void numbers_data();
-    void numbers();
-    void dataTypeNames_data();
-    void dataTypeNames();
-    void listsAreNumberedAndResolved();
     void laterDefinitionsWin();
-    void errorMatricesTakeLaterParameters();
-    void order();
     void failureLeavesTheModelUntouched_data();
     void failureLeavesTheModelUntouched();
     void declaredVariants();
@@ -126,103 +118,6 @@ void TestProfileLoad::variantTestAppliesAtEveryLevel()
     QCOMPARE(none.profile.model().enumLists[1].at(1), std::string("two"));
 }
 
-void TestProfileLoad::defaults()
-{
-    const Loaded loaded("<Device><ErrorMatrix/><Parameter/></Device><ThresholdList><Threshold><Value/></Threshold></ThresholdList>"
-                        "<UnitConversions><Unit offset=\"3\"/></UnitConversions><EnumList><Enum><Value/></Enum></EnumList>");
-    const ProfileParameter& parameter = loaded.only();
-    QCOMPARE(parameter.path, std::string("/"));
-    QCOMPARE(parameter.precision, 6);
-    QCOMPARE(parameter.factor, 1.0);
-    QCOMPARE(parameter.offset, 0.0);
-    QCOMPARE(parameter.dataType + parameter.id + parameter.startByte + parameter.startBit + parameter.endBit + parameter.errorType, 0);
-    const ProfileModel& model = loaded.profile.model();
-    QCOMPARE(model.conversions.at("_").factor, 0.0); // unlike a parameter's
-    QCOMPARE(model.conversions.at("_").offset, 3.0);
-    QCOMPARE(model.enumLists.at(0).at(0), std::string());
-    QCOMPARE(model.thresholdLists.at(0).at(0).state, 0);
-    QVERIFY(!model.thresholdLists.at(0).at(0).colour.isValid());
-}
-
-void TestProfileLoad::numbers_data()
-{
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<int>("integer");
-    QTest::addColumn<double>("real"); // the same text as an offset
-    QTest::newRow("decimal") << QByteArray("300") << 300 << 300.0;
-    QTest::newRow("hexadecimal") << QByteArray("0x1F0") << 0x1F0 << 0.0;
-    QTest::newRow("octal") << QByteArray("010") << 8 << 10.0;
-    QTest::newRow("no octal") << QByteArray("09") << 0 << 9.0;
-    QTest::newRow("negative") << QByteArray("-7") << -7 << -7.0;
-    QTest::newRow("greatest") << QByteArray("2147483647") << INT_MAX << 2147483647.0;
-    QTest::newRow("too great") << QByteArray("2147483648") << 0 << 2147483648.0;
-    QTest::newRow("no number") << QByteArray("12 apples") << 0 << 0.0;
-    QTest::newRow("a fraction") << QByteArray("1.5") << 0 << 1.5;
-    QTest::newRow("comma") << QByteArray("1,5") << 0 << 0.0;
-    QTest::newRow("empty takes the default") << QByteArray("") << 6 << 0.0;
-}
-
-void TestProfileLoad::numbers()
-{
-    QFETCH(QByteArray, text);
-    const Loaded loaded("<Device><Parameter precision=\"" + text + "\" offset=\"" + text + "\"/></Device>");
-    QTEST(loaded.only().precision, "integer");
-    QTEST(loaded.only().offset, "real");
-}
-
-void TestProfileLoad::dataTypeNames_data()
-{
-    QTest::addColumn<QByteArray>("name");
-    QTest::addColumn<int>("number");
-    QTest::newRow("first") << QByteArray("ERROR") << 1;
-    QTest::newRow("of a word and a number") << QByteArray("UCHAR_2") << 19;
-    QTest::newRow("last") << QByteArray("ACHAR_3") << 29;
-    for (const char* unknown : {"float", "FLOAT ", "DOUBLE", ""})
-        QTest::addRow("unknown <%s>", unknown) << QByteArray(unknown) << 0;
-}
-
-void TestProfileLoad::dataTypeNames()
-{
-    QFETCH(QByteArray, name);
-    const Loaded loaded("<Device><Parameter dataType=\"" + name + "\"/></Device>");
-    QTEST(loaded.only().dataType, "number");
-}
-
-void TestProfileLoad::listsAreNumberedAndResolved()
-{
-    const Loaded loaded(R"(
-        <EnumList><Enum name="one"/></EnumList>
-        <Device name="early"><Parameter name="a" enumId="two" thresholdId="t1"/></Device>
-        <EnumList><Enum name="two"><Value val="0x10" label="x"/><Value val="16" label="y"/></Enum><Enum name="one"/></EnumList>
-        <ThresholdList><Threshold name="t1"><Value val="5" color="#00ff00" state="limit"/><Value val="1" color="red" state="LIMIT"/>
-          <Value val="1e2" color="no colour" state="WARNING"/></Threshold></ThresholdList>
-        <Device name="late"><Parameter name="b" enumId="two" thresholdId="t1"/><Parameter name="c" enumId="one"/>
-          <Parameter name="d" enumId="ONE" errorType="Warning"/><Parameter errorType="Info"/><Parameter errorType="Fault"/>
-          <Parameter errorType="fault"/></Device>)");
-    const auto& early = loaded.profile.data()[0].parameters;
-    const auto& late = loaded.profile.data()[1].parameters;
-    QCOMPARE(early[0].enumList, 0); // references are resolved where the parameter is read
-    QCOMPARE(early[0].thresholdList, 0);
-    QCOMPARE(late[0].enumList, 2);
-    QCOMPARE(late[0].thresholdList, 1);
-    QCOMPARE(late[1].enumList, 3); // of two lists of one name the later
-    QCOMPARE(late[2].enumList, 0);
-    QCOMPARE(late[0].deviceIndex, 2);
-    QCOMPARE(loaded.profile.model().enumLists[1], (EnumList{{16, "y"}}));
-    std::vector<int> errorTypes;
-    for (const ProfileParameter& parameter : late)
-        errorTypes.push_back(parameter.errorType);
-    QCOMPARE(errorTypes, (std::vector<int>{0, 0, 2, 1, 3, 0}));
-    const ThresholdList& list = loaded.profile.model().thresholdLists[0]; // in file order, not sorted
-    QCOMPARE(list[0].value, 5.0);
-    QCOMPARE(list[0].state, 0); // "limit" in lower case is no state
-    QCOMPARE(list[0].colour, QColor(0, 255, 0));
-    QCOMPARE(list[1].colour, QColor(255, 0, 0));
-    QCOMPARE(list[1].state, 2);
-    QVERIFY(!list[2].colour.isValid());
-    QCOMPARE(list[2].state, 1);
-}
-
 void TestProfileLoad::laterDefinitionsWin()
 {
     Loaded loaded(R"(<Device name="D"><Parameter name="a" id="5" dataType="UCHAR" startByte="4" zarnDataType="Key"/>
@@ -242,30 +137,6 @@ void TestProfileLoad::laterDefinitionsWin()
     QCOMPARE(loaded.profile.getInt(entry), 42);
     entry.id = 77;
     QCOMPARE(loaded.profile.getDouble(entry, true), 0.0);
-}
-
-void TestProfileLoad::errorMatricesTakeLaterParameters()
-{
-    const Loaded loaded(R"(
-        <Device name="A"><Parameter name="before" id="9" startBit="1"/><ErrorMatrix id="9" name="first"/>
-          <Parameter name="in" id="9" startBit="2" errorType="Fault"/><Parameter name="again" id="9" startBit="2"/>
-          <Parameter name="x" id="8"/></Device>
-        <Device name="B"><ErrorMatrix id="0x9" name="second"/><Parameter name="far" id="9" startBit="31"/><Parameter name="none" id="9" startBit="32"/></Device>)");
-    const auto& matrices = loaded.profile.errorMatrices();
-    QCOMPARE(matrices.size(), std::size_t(2));
-    QCOMPARE(matrices[0].bits.size(), std::size_t(2));
-    QCOMPARE(matrices[0].bits.at(2).name, std::string("again"));
-    QCOMPARE(matrices[0].bits.at(31).description, std::string("B/far"));
-    QCOMPARE(matrices[1].name, std::string("second"));
-    QCOMPARE(matrices[1].bits.size(), std::size_t(1));
-}
-
-void TestProfileLoad::order()
-{
-    const Loaded loaded(R"(<Device name="Z"><Parameter name="z"/><Parameter name="a"/></Device><Unknown><Parameter name="no"/></Unknown>
-        <Device name="A"><Other/><Parameter name="m"/></Device><Parameter name="no"/><Device name="Z"/>)");
-    QCOMPARE(loaded.names(), QString("Z/z Z/a A/m"));
-    QCOMPARE(loaded.profile.data().size(), std::size_t(3));
 }
 
 void TestProfileLoad::failureLeavesTheModelUntouched_data()

@@ -2,6 +2,7 @@
 #include "profile/ProfileCatalogue.h"
 #include "profile/ui/DialogProfileInfo.h"
 #include "project/Project.h"
+#include "support/FileHelpers.h"
 #include "support/FullDisk.h"
 #include "support/TestCycle.h"
 
@@ -93,7 +94,6 @@ private Q_SLOTS:
     void refusesInvalid();
     void goesToUserData();
     void failedCopy();
-    void installsItself();
 };
 
 void TestDialogProfileInfo::textsAreLiteral()
@@ -184,14 +184,6 @@ void TestDialogProfileInfo::failedCopy()
     QCOMPARE(installation.profile.model().name, "New");
     QVERIFY(installation.shown().contains("New"));
     QCOMPARE(installation.changed.count(), 0);
-}
-
-void TestDialogProfileInfo::installsItself()
-{
-    Installation installation;
-    installation.install("profiles/A/Profile.xml", kNew);
-    QCOMPARE(fileContent(installation.installed), kNew);
-    QCOMPARE(installation.changed.count(), 1);
 }
 
 QTEST_MAIN(TestDialogProfileInfo)
