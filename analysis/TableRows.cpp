@@ -4,6 +4,7 @@
 
 #include <array>
 #include <bit>
+#include <functional>
 #include <iterator>
 #include <ranges>
 
@@ -140,11 +141,19 @@ std::optional<std::size_t> TableRows::Channel::last(TimeKey key) const
 {
     const bool ascending = sorted.empty();
     const auto positionAt = [&](std::size_t place) { return ascending ? place : sorted[place]; };
-    const auto places = std::views::iota(std::size_t{0}, ascending ? pTrace->size() : sorted.size());
-    const auto above = std::ranges::partition_point(places, [&](std::size_t place) { return !(keyAt(positionAt(place)) > key); });
-    if (above == places.begin() || keyAt(positionAt(*(above - 1))) != key)
+    const auto isAbove = [&](std::size_t place) { return keyAt(positionAt(place)) > key; };
+    // From where the last search ended, in steps that double, to a span that holds the end of this one.
+    std::size_t low = found, high = found;
+    const std::size_t size = ascending ? pTrace->size() : sorted.size();
+    for (std::size_t step = 1; low > 0 && isAbove(low - 1); step *= 2)
+        low -= std::min(step, low);
+    for (std::size_t step = 1; high < size && !isAbove(high); step *= 2)
+        high += std::min(step, size - high);
+    const auto places = std::views::iota(low, high);
+    found = low + static_cast<std::size_t>(std::ranges::partition_point(places, std::not_fn(isAbove)) - places.begin());
+    if (found == 0 || keyAt(positionAt(found - 1)) != key)
         return {};
-    return positionAt(*(above - 1));
+    return positionAt(found - 1);
 }
 
 std::size_t TableRows::bytes() const

@@ -29,6 +29,7 @@ private:
     struct Channel {
         const Trace* pTrace; // one of those that share the channel
         std::vector<uint32_t> sorted; // positions in ascending order of keys, the last of each; empty when the times ascend
+        mutable std::size_t found = 0; // where the last search ended: a page asks for rows that stand side by side
 
         [[nodiscard]] TimeKey keyAt(std::size_t position) const { return TimeKey::of(pTrace->time(position)); }
         [[nodiscard]] std::optional<std::size_t> last(TimeKey key) const;

@@ -81,6 +81,28 @@ void writeFile(const std::string& path, std::size_t records)
     }
 }
 
+/// @param keys of the first parameters; more: what stands at the end
+std::string writeProfile(const std::string& name, const std::vector<std::string>& keys, const std::string& more)
+{
+    const std::string path = root() + "/" + name;
+    if (std::filesystem::exists(path))
+        return path;
+    std::ofstream file(path);
+    file << "<CanAerospaceProfile name=\"bench\"><ThresholdList><Threshold name=\"t\"><Value val=\"0\" state=\"OK\"/>"
+            "<Value val=\"140\" state=\"WARNING\"/><Value val=\"149\" state=\"LIMIT\"/></Threshold></ThresholdList><Device name=\"ECU\">\n";
+    for (int parameter = 0; parameter < kParameters; ++parameter) {
+        if (parameter == kFirstLamp)
+            file << "</Device><Device name=\"WarningLamp\">\n";
+        const std::string key = static_cast<std::size_t>(parameter) < keys.size() ? keys[static_cast<std::size_t>(parameter)] : "";
+        const bool isSpeed = key == "EngineSpeed"; // thousands, without limits
+        file << "<Parameter name=\"P" << parameter << "\" id=\"" << identifierOf(parameter) << "\" startByte=\"4\" startBit=\"0\" endBit=\"15\" precision=\"" << parameter % 4
+             << "\" dataType=\"" << (parameter < kFirstLamp ? "FLOAT" : "BSHORT") << "\" zarnDataType=\"" << key << "\" viewId=\"" << (parameter < 5 ? key : "")
+             << (isSpeed ? "\" factor=\"40\"/>\n" : "\" thresholdId=\"t\"/>\n");
+    }
+    file << "</Device>\n" << more << "</CanAerospaceProfile>\n";
+    return path;
+}
+
 } // namespace
 
 std::string BenchCard::folder(std::size_t records)
@@ -103,22 +125,17 @@ std::string BenchCard::folderOfFiles(int files)
 
 std::string BenchCard::profile()
 {
-    const std::string path = root() + "/Profile.xml";
-    if (std::filesystem::exists(path))
-        return path;
-    static const char* const positions[] = {"Latitude", "Longitude", "Altitude", "GroundSpeed", "Track"};
-    std::ofstream file(path);
-    file << "<CanAerospaceProfile name=\"bench\"><ThresholdList><Threshold name=\"t\"><Value val=\"0\" state=\"OK\"/>"
-            "<Value val=\"140\" state=\"WARNING\"/><Value val=\"149\" state=\"LIMIT\"/></Threshold></ThresholdList><Device name=\"ECU\">\n";
-    for (int parameter = 0; parameter < kParameters; ++parameter) {
-        if (parameter == kFirstLamp)
-            file << "</Device><Device name=\"WarningLamp\">\n";
-        const std::string key = parameter < 5 ? positions[parameter] : "";
-        file << "<Parameter name=\"P" << parameter << "\" id=\"" << identifierOf(parameter) << "\" startByte=\"4\" startBit=\"0\" endBit=\"15\" precision=\"" << parameter % 4
-             << "\" dataType=\"" << (parameter < kFirstLamp ? "FLOAT" : "BSHORT") << "\" zarnDataType=\"" << key << "\" viewId=\"" << key << "\" thresholdId=\"t\"/>\n";
-    }
-    file << "</Device></CanAerospaceProfile>\n";
-    return path;
+    return writeProfile("Profile.xml", {"Latitude", "Longitude", "Altitude", "GroundSpeed", "Track"}, "");
+}
+
+std::string BenchCard::engineProfile()
+{
+    std::string faults = "<Device name=\"Faults\"><ErrorMatrix id=\"" + std::to_string(identifierOf(kParameters - 1)) + "\" name=\"Faults\"/>\n";
+    for (int bit = 0; bit < 32; ++bit)
+        faults += "<Parameter name=\"F" + std::to_string(bit) + "\" id=\"" + std::to_string(identifierOf(kParameters - 1)) +
+                  "\" dataType=\"BLONG\" startBit=\"" + std::to_string(bit) + "\" endBit=\"" + std::to_string(bit) + "\" errorType=\"Warning\"/>\n";
+    return writeProfile("Engine.xml", {"Latitude", "Longitude", "Altitude", "GroundSpeed", "Track", "EngineSpeed", "ThrottleA", "FuelA", "FuelB"},
+                        faults + "</Device>\n");
 }
 
 } // namespace ZARN

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "card/CardContainer.h"
+#include "card/LoadedCard.h"
 #include "ui/graph/model/GraphModel.h"
 
 namespace ZARN {
@@ -12,20 +12,21 @@ class PaperCanvas;
 /// that exceeded a limit.
 class ReportGraph {
 public:
-    ReportGraph(const CardContainer& container, Profile& profile, const EventList& limits);
+    /// @param loaded must outlive it
+    ReportGraph(const LoadedCard& loaded, const EventList& limits);
 
-    [[nodiscard]] bool isEmpty() const { return mModel.nrActive() == 0; }
+    [[nodiscard]] bool isEmpty() const { return mModel.traces().count() == 0; }
     /// How many parameters that exceeded a limit found no room.
     [[nodiscard]] int leftOut() const { return mLeftOut; }
-    void draw(PaperCanvas& canvas, const QRectF& place);
+    void draw(PaperCanvas& canvas, const QRectF& place) const;
 
 private:
     void addParameter(const ProfileParameter& parameter);
     /// The name of a strip in the place left of it, where it hides no trace.
     void drawName(PaperCanvas& canvas, const GraphParameter& parameter, const QRectF& place) const;
 
-    const CardContainer& mContainer;
-    Profile& mProfile;
+    const LoadedCard& mLoaded;
+    CoordinateFilter mFilter;
     GraphModel mModel;
     int mUsed = 0;
     int mLeftOut = 0;

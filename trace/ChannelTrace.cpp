@@ -6,12 +6,21 @@
 
 namespace ZARN {
 
-ChannelTrace::ChannelTrace(std::string group, const ProfileParameter& parameter, const ValueDecoder& decoder, const RecordChannel* pChannel,
-                           ENumber kind, CoordinateFilter& filter, double latestTime)
-    : Trace(std::move(group), parameter, decoder), mpEntries(pChannel ? &pChannel->entries : nullptr), mKind(kind)
+ChannelTrace::ChannelTrace(std::string group, const ProfileParameter& parameter, const DecodingContext& context, const RecordChannel* pChannel,
+                           ENumber kind, CoordinateFilter* pFilter, double latestTime)
+    : Trace(std::move(group), parameter, context), mpChannel(pChannel), mpEntries(pChannel ? &pChannel->entries : nullptr), mKind(kind)
 {
-    if (mpEntries && parameter.isPosition() && kind != ENumber::eInteger)
-        decodePositions(filter, latestTime);
+    if (mpEntries && pFilter && parameter.isPosition() && kind != ENumber::eInteger)
+        decodePositions(*pFilter, latestTime);
+}
+
+void ChannelTrace::decodeEach(std::span<const StoredRecord> records, double* pOut) const
+{
+    const std::size_t step = parameter().isPosition() ? 1 : records.size();
+    for (std::size_t first = 0; first < records.size(); first += step) {
+        CoordinateFilter filter;
+        decode(records.subspan(first, step), pOut + first, filter);
+    }
 }
 
 void ChannelTrace::decodePositions(CoordinateFilter& filter, double latestTime)
@@ -20,14 +29,19 @@ void ChannelTrace::decodePositions(CoordinateFilter& filter, double latestTime)
         mTextPositions.reserve(mpEntries->size());
     else
         mPositions.reserve(mpEntries->size());
-    double number = 0;
+    const auto isLate = [latestTime](const StoredRecord& record) { return record.time() > latestTime; };
+    double numbers[kRun];
     for (std::size_t chunk = 0; chunk < mpEntries->chunkCount(); ++chunk) {
-        for (const StoredRecord& record : mpEntries->chunk(chunk)) {
-            if (record.time() > latestTime)
-                number = std::numeric_limits<double>::quiet_NaN();
-            else
-                decode({&record, 1}, &number, filter);
-            hold(number);
+        for (std::span<const StoredRecord> rest = mpEntries->chunk(chunk); !rest.empty();) {
+            const bool late = isLate(rest.front());
+            const auto run = rest.first(std::min(rest.size(), kRun));
+            const auto end = std::ranges::find_if(run, [&](const StoredRecord& record) { return isLate(record) != late; });
+            const auto count = static_cast<std::size_t>(end - run.begin());
+            std::fill_n(numbers, count, std::numeric_limits<double>::quiet_NaN());
+            if (!late)
+                decode(run.first(count), numbers, filter);
+            std::for_each_n(numbers, count, [this](double number) { hold(number); });
+            rest = rest.subspan(count);
         }
     }
 }
@@ -56,6 +70,11 @@ void ChannelTrace::decode(std::span<const StoredRecord> records, double* pOut, C
     }
 }
 
+std::vector<PositionRange> ChannelTrace::rangesIn(double from, double to) const
+{
+    return mpChannel ? mpChannel->rangesIn(from, to) : std::vector<PositionRange>();
+}
+
 double ChannelTrace::number(std::size_t position) const
 {
     double number = 0;
@@ -72,13 +91,12 @@ std::size_t ChannelTrace::readTimes(std::size_t position, std::span<double> time
 
 void ChannelTrace::readNumbers(std::size_t position, std::span<double> numbers) const
 {
-    CoordinateFilter unused;
     if (!mTextPositions.empty())
         std::copy_n(mTextPositions.begin() + static_cast<std::ptrdiff_t>(position), numbers.size(), numbers.begin());
     else if (!mPositions.empty())
         std::copy_n(mPositions.begin() + static_cast<std::ptrdiff_t>(position), numbers.size(), numbers.begin());
     else
-        decode(mpEntries->run(position, numbers.size()), numbers.data(), unused);
+        decodeEach(mpEntries->run(position, numbers.size()), numbers.data());
 }
 
 } // namespace ZARN

@@ -72,7 +72,6 @@ class TestEvents : public QObject {
 private Q_SLOTS:
     void limits_data();
     void limits();
-    void limitsAreSortedAndKeepTheOrderOfTheProfile();
     void limitsEqualTheLiteralWalk();
     void lamps_data();
     void lamps();
@@ -120,21 +119,6 @@ void TestEvents::limits()
     QTEST(described(limitEvents(data, cycle.profile), true), "expected");
 }
 
-void TestEvents::limitsAreSortedAndKeepTheOrderOfTheProfile()
-{
-    TestCycle cycle;
-    const ProfileBuilder::Attributes limits{{"thresholdId", "Limits"}, {"precision", "0"}};
-    QVERIFY(limitProfile().device("B").parameter("Late", 12, "FLOAT", limits).parameter("First", 11, "FLOAT", limits)
-                .device("A").parameter("Second", 11, "FLOAT", limits).load(cycle.profile));
-    RecordData data;
-    RecordFileBuilder file;
-    for (const auto& [time, value] : {std::pair(5.0, 0.0F), {6.0, 90.0F}, {2.0, 0.0F}, {3.0, 91.0F}}) // the clock went back
-        file.addFloat(11, time, value).addFloat(12, time, value);
-    file.fill(data);
-    QCOMPARE(described(limitEvents(data, cycle.profile)),
-             "3:1:B Late 91 , 3:1:B First 91 , 3:1:A Second 91 , 6:1:B Late 90 , 6:1:B First 90 , 6:1:A Second 90 ");
-}
-
 void TestEvents::limitsEqualTheLiteralWalk()
 {
     std::mt19937 random(7);
@@ -157,7 +141,7 @@ void TestEvents::limitsEqualTheLiteralWalk()
         const EventList found = limitEvents(data, cycle.profile);
         for (const Event& event : found.events())
             times.push_back(event.time);
-        QCOMPARE(times, eventTimesByScan(cycle.profile, *data.channel(10), cycle.profile.parameter(10)));
+        QCOMPARE(times, eventTimesByScan(cycle.profile, *data.channel(10), cycle.profile.model().parameter(10)));
     }
 }
 

@@ -94,7 +94,6 @@ class TestFlights : public QObject {
 private Q_SLOTS:
     void detection_data();
     void detection();
-    void marginsAndDates();
     void selectedFlight();
     void distances();
     void withoutData();
@@ -134,22 +133,6 @@ void TestFlights::detection()
     QTEST(found.join(' '), "flights");
 }
 
-void TestFlights::marginsAndDates()
-{
-    Recording recording;
-    recording.fly(9.75);
-    recording.fly(100);
-    recording.load();
-    const auto& flights = recording.flights();
-    QCOMPARE(flights.size(), std::size_t(2));
-    QCOMPARE(flights[0].takeOffTime, 20.75);
-    QCOMPARE(flights[0].startTime, 0.0); // never before the power-up
-    QCOMPARE(flights[0].endTime, flights[0].landingTime + 30);
-    QCOMPARE(flights[0].dateTime, kNoon.addSecs(20)); // whole seconds
-    QCOMPARE(flights[1].startTime, 81.0);
-    QVERIFY(recording.cycle.lines.find("Flight 81.000000 -> 177.000000 <12:01:51>\n") != std::string::npos);
-}
-
 void TestFlights::selectedFlight()
 {
     Recording recording;
@@ -165,7 +148,7 @@ void TestFlights::selectedFlight()
     QCOMPARE(loads(), 1);
     QCOMPARE(recording.load(0).startTime(), 31.0); // reads no file again
     QCOMPARE(loads(), 1);
-    QCOMPARE(container.getValue(recording.cycle.profile.parameter(eGroundSpeed), 230.5), 100.0); // all of the cycle has values still
+    QCOMPARE(container.getValue(recording.cycle.profile.model().parameter(eGroundSpeed), 230.5), 100.0); // all of the cycle has values still
     QVERIFY(!container.loadCycle(0, 2));
     QCOMPARE(recording.load(-1).endTime(), 400.0);
     QCOMPARE(container.dateTime(), kNoon);

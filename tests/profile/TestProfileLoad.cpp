@@ -34,8 +34,6 @@ struct Loaded {
         }
         return list.join(' ');
     }
-    /// The only parameter.
-    [[nodiscard]] const ProfileParameter& only() const { return profile.data().at(0).parameters.at(0); }
 
     QTemporaryDir folder;
     std::string lines;
@@ -51,13 +49,11 @@ class TestProfileLoad : public QObject {
 private Q_SLOTS:
     void variants_data();
     void variants();
-    void variantTestAppliesAtEveryLevel();
     void laterDefinitionsWin();
     void failureLeavesTheModelUntouched_data();
     void failureLeavesTheModelUntouched();
     void declaredVariants();
-    void unitChangesEveryParameter();
-    void identityChangesWithEveryLoad();
+    void aContextStaysAsItIs();
 };
 
 void TestProfileLoad::variants_data()
@@ -93,43 +89,18 @@ void TestProfileLoad::variants()
     QCOMPARE(applied, appliesTo);
 }
 
-void TestProfileLoad::variantTestAppliesAtEveryLevel()
-{
-    const char* const content = R"(
-        <UnitConversions variant="B"><Unit unitMetric="m" unitImperial="ft" factor="9"/></UnitConversions>
-        <UnitConversions><Unit unitMetric="k" unitImperial="l" factor="8" variant="B"/></UnitConversions>
-        <EnumList><Enum name="E" variant="B"/><Enum name="F"><Value val="1" label="one"/><Value val="1" label="two" variant="B"/></Enum></EnumList>
-        <ThresholdList><Threshold name="T" variant="B"/><Threshold name="U"><Value val="1" variant="B"/><Value val="2"/></Threshold></ThresholdList>
-        <Device name="D1" variant="B"><Parameter name="x"/></Device>
-        <Device name="D2"><ErrorMatrix id="1" variant="B"/><ErrorMatrix id="2"/>
-          <Parameter name="p" enumId="F" thresholdId="T" variant="A,C"/><Parameter name="q" thresholdId="U" variant="B"/></Device>)";
-    const Loaded a(content, "A");
-    QVERIFY(a.profile.model().conversions.empty());
-    QCOMPARE(a.profile.model().enumLists, (std::vector<EnumList>{{{1, "one"}}}));
-    QCOMPARE(a.profile.model().thresholdLists.size(), std::size_t(1));
-    QCOMPARE(a.profile.model().thresholdLists[0].size(), std::size_t(1));
-    QCOMPARE(a.profile.errorMatrices().size(), std::size_t(1));
-    QCOMPARE(a.names(), QString("D2/p"));
-    QCOMPARE(a.only().enumList, 1);
-    QCOMPARE(a.only().thresholdList, 0); // a list of another variant is no list
-    QCOMPARE(a.only().deviceIndex, 1);   // skipped devices do not count
-    const Loaded none(content);
-    QCOMPARE(none.names(), QString("D1/x D2/p D2/q"));
-    QCOMPARE(none.profile.model().enumLists[1].at(1), std::string("two"));
-}
-
 void TestProfileLoad::laterDefinitionsWin()
 {
     Loaded loaded(R"(<Device name="D"><Parameter name="a" id="5" dataType="UCHAR" startByte="4" zarnDataType="Key"/>
         <Parameter name="a" id="5" dataType="UCHAR" startByte="5" zarnDataType="Key"/><Parameter name="b" id="-1" zarnDataType="key"/></Device>)");
     QCOMPARE(loaded.names(), QString("D/a D/a D/b")); // none is lost from the lists
-    QCOMPARE(loaded.profile.parameter(5).startByte, 5);
+    QCOMPARE(loaded.profile.model().parameter(5).startByte, 5);
     QCOMPARE(loaded.profile.getParameterFromZarnType("Key").startByte, 5);
     QCOMPARE(loaded.profile.getParameterFromZarnType("key").name, std::string("b"));
-    QCOMPARE(loaded.profile.parameter(0xFFFFFFFF).name, std::string("b"));
+    QCOMPARE(loaded.profile.model().parameter(0xFFFFFFFF).name, std::string("b"));
     QCOMPARE(loaded.profile.getParameterFromZarnType("").name, std::string());
-    QCOMPARE(loaded.profile.findParameter("a")->startByte, 4);
-    QVERIFY(!loaded.profile.findParameter("D/a"));
+    QCOMPARE(loaded.profile.model().find("a")->startByte, 4);
+    QVERIFY(!loaded.profile.model().find("D/a"));
     RecordEntry entry;
     entry.payload = {0, 10, 0, 0, 17, 42, 0, 0};
     entry.id = 5;
@@ -159,7 +130,7 @@ void TestProfileLoad::failureLeavesTheModelUntouched()
     QVERIFY(!(content.isNull() ? loaded.profile.loadProfile(loaded.folder.filePath("none.xml"), "v") : loaded.load(content, "v")));
     QVERIFY(loaded.lines.find("Profile::loadProfil <" + loaded.folder.path().toStdString()) != std::string::npos);
     QCOMPARE(loaded.names(), QString("D/kept"));
-    QCOMPARE(loaded.profile.parameter(3).name, std::string("kept"));
+    QCOMPARE(loaded.profile.model().parameter(3).name, std::string("kept"));
     QCOMPARE(loaded.profile.getParameterFromZarnType("Key").name, std::string("kept"));
     QCOMPARE(loaded.profile.identity(), identity);
 }
@@ -180,27 +151,26 @@ void TestProfileLoad::declaredVariants()
     QVERIFY(loaded.lines.ends_with("Profile::loadVariants Not a CanAerospaceProfile"));
 }
 
-void TestProfileLoad::unitChangesEveryParameter()
+void TestProfileLoad::aContextStaysAsItIs()
 {
-    Loaded loaded("<Device><Parameter unitMetric=\"km/h\" unitImperial=\"kt\" id=\"1\" zarnDataType=\"S\"/></Device>");
-    QCOMPARE(loaded.only().unit, std::string("km/h"));
+    Loaded loaded(R"(<UnitConversions><Unit unitMetric="km/h" unitImperial="kt" factor="2"/></UnitConversions>
+        <ThresholdList><Threshold name="T"><Value val="5" state="LIMIT"/></Threshold></ThresholdList>
+        <Device><Parameter name="a" id="1" dataType="UCHAR" startByte="4" unitMetric="km/h" unitImperial="kt" thresholdId="T"/></Device>)");
+    const DecodingContext before = loaded.profile;
+    std::set<int> seen{loaded.profile.identity(), loaded.profile.data()[0].identity};
     loaded.profile.setCurrentUnit(EUnit::eImperial);
-    QCOMPARE(loaded.only().unit, std::string("kt"));
-    QCOMPARE(loaded.profile.getParameterFromZarnType("S").unit, std::string("kt"));
-    loaded.load("<CanAerospaceProfile><Device><Parameter unitImperial=\"lb\"/></Device></CanAerospaceProfile>");
-    QCOMPARE(loaded.only().unit, std::string("lb")); // the system outlives the profile
+    const ProfileParameter& parameter = before.model().parameter(1);
+    QCOMPARE(loaded.profile.context().unitOf(parameter), std::string("kt"));
+    QCOMPARE(loaded.profile.convertUnit(parameter, 3), 6.0);
+    loaded.load("<CanAerospaceProfile><Device><Parameter id=\"1\" unitImperial=\"lb\"/></Device></CanAerospaceProfile>");
+    QCOMPARE(loaded.profile.context().unitOf(loaded.profile.model().parameter(1)), std::string("lb")); // the system outlives the profile
+    seen.insert({loaded.profile.identity(), loaded.profile.data()[0].identity});
+    QCOMPARE(seen.size(), std::size_t(4));
     loaded.profile.clear();
     QVERIFY(loaded.profile.data().empty());
-    QCOMPARE(loaded.profile.parameter(1).name, std::string());
-}
-
-void TestProfileLoad::identityChangesWithEveryLoad()
-{
-    Loaded loaded("<Device/><Device/>");
-    std::set<int> seen{loaded.profile.identity(), loaded.profile.data()[0].identity, loaded.profile.data()[1].identity};
-    loaded.load("<CanAerospaceProfile><Device/></CanAerospaceProfile>");
-    seen.insert({loaded.profile.identity(), loaded.profile.data()[0].identity});
-    QCOMPARE(seen.size(), std::size_t(5));
+    QCOMPARE(before.unitOf(parameter), std::string("km/h"));
+    QCOMPARE(before.decoder(parameter).threshold(7).state, int(eThresholdLimit));
+    QCOMPARE(before.in(EUnit::eImperial).decoder(parameter).toDisplayUnit(3), 6.0);
 }
 
 QTEST_APPLESS_MAIN(TestProfileLoad)

@@ -3,6 +3,7 @@
 #include "support/FullDisk.h"
 #include "support/Places.h"
 #include "support/TestCycle.h"
+#include "trace/TraceSet.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -46,13 +47,11 @@ struct Reading : TestCycle {
     /// The highest state and the highest value of a parameter within a span.
     std::pair<int, double> worst(const std::string& name, double from, double to)
     {
-        const ProfileParameter& parameter = *profile.findParameter(name);
+        const ProfileParameter& parameter = *profile.model().find(name);
         std::pair<int, double> worst{0, -std::numeric_limits<double>::infinity()};
-        container.recordData().channel(parameter.identifier())->forEachIn(from, to, [&](const RecordEntry& entry) {
-            int state = 0;
-            QColor colour;
-            const double value = profile.getDouble(entry, parameter, state, colour, true);
-            worst = {std::max(worst.first, state), std::max(worst.second, value)};
+        const auto pTrace = TraceSet::one(container.recordData(), profile, parameter, ENumber::eMetric);
+        pTrace->forEachSampleIn(from, to, [&](double, double value) {
+            worst = {std::max(worst.first, pTrace->decoder().threshold(value).state), std::max(worst.second, value)};
         });
         return worst;
     }

@@ -36,12 +36,12 @@ void TestShippedProfile::hasWhatTheProgramNeeds()
     const QColor colours[] = {"#009E73", "#E69F00", "#D55E00"}; // that everybody can tell apart
     for (const std::string& variant : variants) {
         QVERIFY(profile.loadProfile(mFile, variant));
-        for (const char* key : {"GroundSpeed", "ThrottleA", "FuelA", "FuelB", "Altitude", "Latitude", "Longitude", "Track"})
+        for (const char* key : {"GroundSpeed", "ThrottleA", "FuelA", "FuelB", "Altitude", "Latitude", "Longitude", "Track", "EngineSpeed", "LaneCheck"})
             QVERIFY2(!profile.getParameterFromZarnType(key).name.empty(), key);
         for (const uint32_t position : {1036, 1037, 1038}) // where the path export looks
-            QVERIFY(!profile.parameter(position).zarnDataType.empty());
-        QCOMPARE(profile.errorMatrices().size(), std::size_t(2));
-        for (const FaultMatrix& matrix : profile.errorMatrices())
+            QVERIFY(!profile.model().parameter(position).zarnDataType.empty());
+        QCOMPARE(profile.model().errorMatrices.size(), std::size_t(2));
+        for (const FaultMatrix& matrix : profile.model().errorMatrices)
             QCOMPARE(matrix.bits.size(), std::size_t(32));
         for (const ThresholdList& list : profile.model().thresholdLists) {
             QVERIFY(list.size() >= 2);

@@ -87,6 +87,19 @@ void DialogDataTable::createLiveView()
 void DialogDataTable::updateProfile()
 {
     const QScopedValueRollback busy(mBusy, true);
+    updateColumns();
+    fill();
+}
+
+void DialogDataTable::update(RecordData* pRecord)
+{
+    const QScopedValueRollback busy(mBusy, true);
+    updateColumns();
+    updateRecord(pRecord);
+}
+
+void DialogDataTable::updateColumns()
+{
     const bool live = mMode != 0;
     mpModel->updateParameters();
     mpLive->updateParameters();
@@ -95,7 +108,6 @@ void DialogDataTable::updateProfile()
     mpHint->setVisible(mpModel->parameters().empty());
     mWidened = false;
     sizeColumns();
-    fill();
 }
 
 void DialogDataTable::sizeColumns()
@@ -144,13 +156,14 @@ void DialogDataTable::widenColumns()
         return;
     mWidened = true;
     const QFontMetrics metrics(cellFont());
+    std::vector<int> widths(1);
     for (int column = 1; column < mpModel->columnCount(); ++column) {
         int width = 0;
         for (const QString& text : mpModel->widestTexts(column))
             width = std::max(width, metrics.horizontalAdvance(text) + kTextMargin);
-        if (width > mpView->columnWidth(column))
-            mpView->setColumnWidth(column, std::min(width, kMaxWidth));
+        widths.push_back(std::min(width, kMaxWidth));
     }
+    mpView->widenColumns(widths);
 }
 
 void DialogDataTable::fill()

@@ -38,6 +38,16 @@ void RowTable::setColumnWidth(int column, int width)
     mpHeader->resizeSection(column, width);
 }
 
+void RowTable::widenColumns(const std::vector<int>& widths)
+{
+    {
+        const QSignalBlocker once(mpHeader); // else each asks all titles for their size
+        for (int column = 0; column < std::min(mpHeader->count(), static_cast<int>(widths.size())); ++column)
+            mpHeader->resizeSection(column, std::max(columnWidth(column), widths[static_cast<std::size_t>(column)]));
+    }
+    relayout();
+}
+
 void RowTable::setRowHeight(int height)
 {
     mRowHeight = height;

@@ -2,6 +2,8 @@
 
 #include <QAbstractItemView>
 
+#include <vector>
+
 class QHeaderView;
 
 namespace ZARN {
@@ -19,6 +21,8 @@ public:
     void setRowHeight(int height);
     [[nodiscard]] int columnWidth(int column) const;
     void setColumnWidth(int column, int width);
+    /// Makes columns at least as wide, all at once; those beyond the list stay as they are.
+    void widenColumns(const std::vector<int>& widths);
     void selectRow(int row);
 
     void setModel(QAbstractItemModel* pModel) override;

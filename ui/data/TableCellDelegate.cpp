@@ -1,14 +1,16 @@
 #include "ui/data/TableCellDelegate.h"
 
 #include "profile/Threshold.h"
+#include "ui/canvas/ColourContrast.h"
 #include "ui/data/model/CellModel.h"
 #include "ui/data/model/ShownParameter.h"
-#include "ui/data/model/TextColour.h"
 
 #include <QAbstractItemView>
 #include <QHelpEvent>
 #include <QPainter>
 #include <QToolTip>
+
+#include <algorithm>
 
 namespace ZARN {
 
@@ -43,6 +45,28 @@ bool fits(const QString& text, const QStyleOptionViewItem& option, const QRect& 
     return option.fontMetrics.horizontalAdvance(text) <= room.width();
 }
 
+/// The widest character of a number, for the font that cells are drawn in: measuring each text would cost as much as drawing it.
+int digitWidth(const QStyleOptionViewItem& option)
+{
+    static QFont font;
+    static int width = 0;
+    if (width == 0 || font != option.font) {
+        font = option.font;
+        width = 0;
+        for (const QChar character : QString("0123456789-.+einfa"))
+            width = std::max(width, option.fontMetrics.horizontalAdvance(character));
+    }
+    return width;
+}
+
+QString fittingText(const TableCell& cell, const QStyleOptionViewItem& option, const QRect& room)
+{
+    const bool surely = cell.isNumber && cell.text.size() * digitWidth(option) <= room.width();
+    if (surely || fits(cell.text, option, room))
+        return cell.text;
+    return option.fontMetrics.elidedText(cell.text, Qt::ElideRight, room.width());
+}
+
 } // namespace
 
 void TableCellDelegate::paint(QPainter* pPainter, const QStyleOptionViewItem& option, const QModelIndex& index) const
@@ -63,7 +87,7 @@ void TableCellDelegate::paint(QPainter* pPainter, const QStyleOptionViewItem& op
     pPainter->setPen(colour);
     // Half a number would be a wrong one: what does not fit ends with an ellipsis.
     pPainter->drawText(room, Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip | (cell.isNumber ? Qt::AlignRight : Qt::AlignLeft),
-                       fits(cell.text, option, room) ? cell.text : option.fontMetrics.elidedText(cell.text, Qt::ElideRight, room.width()));
+                       fittingText(cell, option, room));
 }
 
 bool TableCellDelegate::helpEvent(QHelpEvent* pEvent, QAbstractItemView* pView, const QStyleOptionViewItem& option,

@@ -94,7 +94,9 @@ bool DialogMain::isProjectModified() const
 
 void DialogMain::updateTitle()
 {
-    const QString path = QString::fromStdString(mSession.property.getString("LastPath", ""));
+    QString path = mSession.container.path();
+    if (path.isEmpty() && mpCardController->problem().isEmpty()) // one that was refused is not shown, and neither is the one before it
+        path = QString::fromStdString(mSession.property.getString("LastPath", ""));
     setWindowTitle(path.isEmpty() ? QString("ZARN") : "ZARN " + QDir::cleanPath(path).section('/', -2, -1));
 }
 
@@ -102,8 +104,8 @@ void DialogMain::updateUnit()
 {
     mpProfileController->updateUnit();
     mpProfile->updateProfile();
-    mpData->updateProfile();
     mpCardController->recalculate();
+    mRecord.changeUnit();
 }
 
 void DialogMain::loadProfile()
@@ -113,8 +115,8 @@ void DialogMain::loadProfile()
     mpProfileInfo->setProfileFile(mpProfileController->file(), mpProfileController->isChosenFile());
     mpProfileInfo->fillProfileInfo();
     mpProfile->updateProfile();
-    mpData->loadProfile();
-    mpData->updateProfile();
+    mpCardController->recalculate(); // flights and their statistic are decoded by the profile
+    mRecord.changeProfile();
 }
 
 void DialogMain::tellProfileProblem()
@@ -149,7 +151,7 @@ void DialogMain::openFolder(const QString& path)
 
 void DialogMain::slotProfileChanged()
 {
-    mpData->updateProfile();
+    mRecord.changeSelection();
 }
 
 void DialogMain::slotProfileChanged(const QString& name)
@@ -164,8 +166,6 @@ void DialogMain::slotProfileFileChanged()
 {
     loadProfile();
     fillProfiles();
-    mpCardController->recalculate(); // flights and their statistic are decoded by the profile
-    slotProfileChanged();
     updateTitle();
 }
 
@@ -235,19 +235,19 @@ void DialogMain::updateExports()
 
 void DialogMain::slotDataChanging()
 {
-    mpData->releaseRecord();
+    mRecord.clearRecord();
 }
 
 void DialogMain::slotRecalculated()
 {
-    mpData->recalculated();
+    mRecord.changeFlights();
     if (const auto cycle = mSession.container.loadedCycleNumber())
         mpCard->addFlights(*cycle);
 }
 
 void DialogMain::slotDataChanged()
 {
-    mpData->updateRecord();
+    mRecord.setRecord();
     showProblems();
     updateExports();
     mpWelcome->setState(WidgetWelcome::eEmpty); // seen when there are no data

@@ -13,7 +13,8 @@ namespace {
 
 constexpr std::size_t kMaxRows = std::numeric_limits<int>::max() / 32; // a view counts its height in pixels as an int
 constexpr std::size_t kSomeValues = 64;
-constexpr std::size_t kProbes = 4096; // samples of a column that are looked at to see how wide it is: to decode all takes seconds
+constexpr std::size_t kProbes = 64; // runs of samples of a column that are looked at to see how wide it is: to decode all takes seconds
+constexpr std::size_t kProbe = 32;  // samples of a run: those side by side cost little more than the first
 const QColor kTimeGround(230, 230, 230);
 
 } // namespace
@@ -22,7 +23,7 @@ void DataTableModel::updateParameters()
 {
     removeRecord();
     beginResetModel();
-    mParameters = ShownParameter::all(mProfile);
+    mParameters = ShownParameter::all(mProfile, mProfile.selection());
     mProfileIdentity = mProfile.identity();
     endResetModel();
 }
@@ -47,7 +48,7 @@ void DataTableModel::setRecord(const RecordData* pRecord)
     const auto isColumn = [this](const ProfileDevice&, const ProfileParameter& parameter) {
         return std::ranges::find(mParameters, parameter.name, &ShownParameter::name) != mParameters.end();
     };
-    mTraces = TraceSet(pRecord, mProfile, ENumber::eText, mProfile.sharedFilter(), isColumn);
+    mTraces = TraceSet(pRecord, mProfile, ENumber::eText, isColumn);
     mRows = TableRows(mTraces);
     const int count = static_cast<int>(std::min(mRows.rowCount(), kMaxRows));
     if (count == 0)
@@ -96,7 +97,7 @@ TableCell DataTableModel::valueCell(std::size_t column, std::size_t position) co
 
 QStringList DataTableModel::widestTexts(int column) const
 {
-    if (column < 1 || column >= columnCount() || mRowCount == 0)
+    if (column < 1 || column >= columnCount() || mRowCount == 0 || mProfileIdentity != mProfile.identity())
         return {};
     const auto place = static_cast<std::size_t>(column) - 1;
     std::set<double> some; // the words of a list, or the first of many numbers
@@ -111,16 +112,28 @@ QStringList DataTableModel::widestTexts(int column) const
             some.insert(value);
     };
     const std::size_t size = mTraces[place].size();
-    for (std::size_t position = 0; position < size; position += std::max<std::size_t>(size / kProbes, 1))
-        take(mTraces[place].number(position));
+    const auto takeRun = [&](std::size_t position, std::size_t count) {
+        double times[kProbe], numbers[kProbe];
+        count = mTraces[place].readTimes(position, {times, count});
+        mTraces[place].readNumbers(position, {numbers, count});
+        std::for_each_n(numbers, count, take);
+    };
+    for (std::size_t position = 0; position < size; position += std::max(size / kProbes, kProbe))
+        takeRun(position, std::min(kProbe, size - position));
     if (size > 0)
-        take(mTraces[place].number(size - 1)); // the last text may be the longest
+        takeRun(size - 1, 1); // the last text may be the longest
     if (some.empty())
         return {};
     some.insert({least, greatest});
     QStringList texts;
-    for (const double value : some)
-        texts.append(TableCell::ofValue(mTraces[place].decoder(), value).text);
+    bool isNumber = true;
+    for (const double value : some) {
+        const TableCell cell = TableCell::ofValue(mTraces[place].decoder(), value);
+        isNumber = isNumber && cell.isNumber;
+        texts.append(cell.text);
+    }
+    if (isNumber) // digits are equally wide, so that there is no need to measure them all
+        return {texts.front(), texts.back(), *std::ranges::max_element(texts, {}, &QString::size)};
     return texts;
 }
 
