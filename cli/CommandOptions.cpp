@@ -3,6 +3,7 @@
 #include "app/Revision.h"
 
 #include <CLI/App.hpp>
+#include <CLI/Validators.hpp>
 
 namespace ZARN {
 
@@ -84,23 +85,12 @@ bool CommandOptions::isChosen() const
 
 CommandOptions::Check CommandOptions::oneOf(std::initializer_list<const char*> texts)
 {
-    return [allowed = std::vector<std::string>(texts.begin(), texts.end())](const std::string& text) {
-        std::string list;
-        for (const std::string& one : allowed) {
-            if (text == one)
-                return std::string();
-            list += (list.empty() ? "" : ", ") + one;
-        }
-        return text + ": not one of " + list;
-    };
+    return CLI::IsMember(std::vector<std::string>(texts.begin(), texts.end()));
 }
 
 CommandOptions::Check CommandOptions::between(double least, double most)
 {
-    return [least, most](const std::string& text) {
-        const double number = std::strtod(text.c_str(), nullptr);
-        return number >= least && number <= most ? std::string() : text + ": not between " + std::to_string(least) + " and " + std::to_string(most);
-    };
+    return CLI::Range(least, most);
 }
 
 } // namespace ZARN

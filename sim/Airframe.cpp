@@ -26,6 +26,34 @@ double approach(double value, double target, double most)
     return value + std::clamp(target - value, -most, most);
 }
 
+RunwayPoint placeOf(const Motion& motion)
+{
+    return {motion.east * kRunwaySine + motion.north * kRunwayCosine, motion.north * kRunwaySine - motion.east * kRunwayCosine};
+}
+
+/// A point stays within reach of the tightest turn, or the aircraft would circle about it for ever.
+bool isNear(const Motion& motion, RunwayPoint target)
+{
+    const RunwayPoint here = placeOf(motion);
+    return std::hypot(target.along - here.along, target.left - here.left) < (motion.airborne ? 500 : 13);
+}
+
+double headingTo(const Motion& motion, RunwayPoint target)
+{
+    const RunwayPoint here = placeOf(motion);
+    return wrap(kRunwayHeading - std::atan2(target.left - here.left, target.along - here.along) / kRadian);
+}
+
+double wantedClimb(const Motion& motion, const Leg& leg, double lift)
+{
+    if (leg.phase != EPhase::eFinal)
+        return leg.climb + lift;
+    if (motion.height < kFlareHeight)
+        return -0.9;
+    const double onSlope = std::max(0.0, (kAimingPoint - placeOf(motion).along) * kGlideSlope);
+    return std::clamp(-motion.speed * kGlideSlope + 0.2 * (onSlope - motion.height), -4.5, 0.5);
+}
+
 } // namespace
 
 Airframe::Airframe(const CyclePlan& plan) : mWindSpeed(plan.windSpeed), mWindFrom(plan.windFrom)
@@ -40,36 +68,18 @@ double Airframe::headWind() const
     return mWindSpeed * std::cos((mWindFrom - mMotion.heading) * kRadian);
 }
 
-RunwayPoint Airframe::place() const
-{
-    return {mMotion.east * kRunwaySine + mMotion.north * kRunwayCosine, mMotion.north * kRunwaySine - mMotion.east * kRunwayCosine};
-}
-
-/// A point stays within reach of the tightest turn, or the aircraft would circle about it for ever.
-bool Airframe::isNear(RunwayPoint target) const
-{
-    const RunwayPoint here = place();
-    return std::hypot(target.along - here.along, target.left - here.left) < (mMotion.airborne ? 500 : 13);
-}
-
-double Airframe::headingTo(RunwayPoint target) const
-{
-    const RunwayPoint here = place();
-    return wrap(kRunwayHeading - std::atan2(target.left - here.left, target.along - here.along) / kRadian);
-}
-
 double Airframe::wantedHeading(const Leg& leg)
 {
-    const bool airborne = mMotion.airborne;
+    const double left = placeOf(mMotion).left;
     switch (leg.steer) {
     case ESteer::eHold: break;
     case ESteer::eRunway:
-        return kRunwayHeading + (airborne ? std::clamp(place().left * 0.3, -45.0, 45.0) : std::clamp(place().left * 2, -20.0, 20.0));
-    case ESteer::eTarget: return headingTo(leg.target);
+        return kRunwayHeading + (mMotion.airborne ? std::clamp(left * 0.3, -45.0, 45.0) : std::clamp(left * 2, -20.0, 20.0));
+    case ESteer::eTarget: return headingTo(mMotion, leg.target);
     case ESteer::eTowCircuit:
-        if (isNear(kTowWaypoints[mWaypoint]))
+        if (isNear(mMotion, kTowWaypoints[mWaypoint]))
             mWaypoint = mWaypoint + 1 < kTowWaypoints.size() ? mWaypoint + 1 : 1;
-        return headingTo(kTowWaypoints[mWaypoint]);
+        return headingTo(mMotion, kTowWaypoints[mWaypoint]);
     case ESteer::eRightTurn: return mMotion.heading + 30;
     }
     return mMotion.heading;
@@ -98,23 +108,13 @@ void Airframe::accelerate(const Leg& leg, double throttle)
     mMotion.speed = approach(mMotion.speed, leg.speed - (mMotion.airborne ? headWind() : 0), most * kStep);
 }
 
-double Airframe::wantedClimb(const Leg& leg, double lift) const
-{
-    if (leg.phase != EPhase::eFinal)
-        return leg.climb + lift;
-    if (mMotion.height < kFlareHeight)
-        return -0.9;
-    const double onSlope = std::max(0.0, (kAimingPoint - place().along) * kGlideSlope);
-    return std::clamp(-mMotion.speed * kGlideSlope + 0.2 * (onSlope - mMotion.height), -4.5, 0.5);
-}
-
 void Airframe::climb(const Leg& leg, double lift)
 {
     if (!mMotion.airborne) {
         mMotion.climb = 0;
         return;
     }
-    mMotion.climb = approach(mMotion.climb, wantedClimb(leg, lift), 0.9 * kStep);
+    mMotion.climb = approach(mMotion.climb, wantedClimb(mMotion, leg, lift), 0.9 * kStep);
     mMotion.height += mMotion.climb * kStep;
     if (mMotion.height <= 0) {
         mMotion.height = 0;
@@ -138,7 +138,7 @@ bool Airframe::ended(const Leg& leg, double seconds) const
 {
     switch (leg.end) {
     case ELegEnd::eTime: return seconds >= leg.limit;
-    case ELegEnd::ePoint: return isNear(leg.target);
+    case ELegEnd::ePoint: return isNear(mMotion, leg.target);
     case ELegEnd::eClimbedTo: return mMotion.height >= leg.limit;
     case ELegEnd::eSunkTo: return mMotion.height <= leg.limit;
     case ELegEnd::eLiftOff: return mMotion.speed + headWind() >= kLiftOffSpeed;

@@ -24,11 +24,7 @@ private:
     void accelerate(const Leg& leg, double throttle);
     void climb(const Leg& leg, double lift);
     [[nodiscard]] double wantedHeading(const Leg& leg);
-    [[nodiscard]] double wantedClimb(const Leg& leg, double lift) const;
-    [[nodiscard]] RunwayPoint place() const;
     [[nodiscard]] double headWind() const;
-    [[nodiscard]] bool isNear(RunwayPoint target) const;
-    [[nodiscard]] double headingTo(RunwayPoint target) const;
 
     Motion mMotion;
     double mWindSpeed;

@@ -6,13 +6,14 @@
 
 namespace ZARN::Sim {
 
-// Identifiers of a lane count from its first.
+// Identifiers of a lane, and of its word of faults, count from the first.
 const MessageSchedule::Group MessageSchedule::kLane[] = {
     {eEngineSpeed, 4, eFloat, e10Hz}, {eBoostTarget, 5, eFloat, e2Hz}, {eFuelFlow, 1, eFloat, e5Hz}, {eEgts, 4, eFloat, e2Hz},
     {eCoolant, 2, eFloat, e1Hz}, {eOilPressure, 1, eFloat, e2Hz}, {eManifoldTemperature, 1, eFloat, e1Hz}, {eFuelPressure, 1, eFloat, e2Hz},
     {eAmbientPressure, 1, eFloat, e1Hz}, {eControlTemperature, 1, eShort, e1Hz, 10}, {eSupplyVoltage, 2, eFloat, e1Hz},
     {eWastegate, 1, eFloat, e2Hz}, {eKnock, 1, eUshort, e2Hz, 100}, {eFuelTrim, 1, eChar, e1Hz}, {eLoad, 1, eUchar, e1Hz},
     {eState, 11, eBshort, e1Hz}, {eSeconds, 1, eUlong, e1Hz}, {eTriggerErrors, 1, eUshort, e1Hz}};
+const MessageSchedule::Group MessageSchedule::kFaults[] = {{0, 1, eBlong, e2Hz}};
 const MessageSchedule::Group MessageSchedule::kMonitor[] = {
     {eSpeed, 6, eFloat, e2Hz}, {eTotalFlow, 9, eFloat, e1Hz}, {eEngineState, 1, eBshort, e1Hz}, {eEngineSeconds, 2, eUlong, e1Hz},
     {eSecondsSinceStart, 1, eLong, e1Hz}, {eTotalFuel, 1, eUlong, e1Hz}, {eFuelLeft, 2, eFloat, e1Hz}, {eMonitorTemperature, 1, eChar, e1Hz},
@@ -28,9 +29,9 @@ const MessageSchedule::Group MessageSchedule::kLamps[] = {{eLamps, 12, eBshort, 
 MessageSchedule::MessageSchedule()
 {
     add(1, 0, kLane, eLaneA);
-    add(1, 0, {eFaultWords, 1, eBlong, e2Hz});
+    add(1, 0, kFaults, eFaultWords);
     add(2, 0, kLane, eLaneB);
-    add(2, 0, {eFaultWords + 1, 1, eBlong, e2Hz});
+    add(2, 0, kFaults, eFaultWords + 1);
     add(3, 1, kMonitor);
     add(4, 1, kElectrical);
     add(5, 2, kGps);
@@ -38,23 +39,16 @@ MessageSchedule::MessageSchedule()
     add(3, 1, kLamps);
 }
 
-template <std::size_t Count>
-void MessageSchedule::add(std::uint8_t node, std::uint8_t kind, const Group (&groups)[Count], std::uint32_t base)
-{
-    for (Group group : groups) {
-        group.first += base;
-        add(node, kind, group);
-    }
-}
-
 /// Slow messages are spread over the steps of their period, so that every step carries about the same number.
-void MessageSchedule::add(std::uint8_t node, std::uint8_t kind, const Group& group)
+void MessageSchedule::add(std::uint8_t node, std::uint8_t kind, std::span<const Group> groups, std::uint32_t base)
 {
-    for (std::uint32_t id = group.first; id < group.first + group.count; ++id) {
-        const auto index = static_cast<std::uint32_t>(mMessages.size());
-        mMessages.push_back({id, group.type, node, kind, 0, group.perUnit});
-        for (std::size_t step = index % group.rate; step < kRound; step += group.rate)
-            mDue[step].push_back(index);
+    for (const Group& group : groups) {
+        for (std::uint32_t i = 0; i < group.count; ++i) {
+            const auto index = static_cast<std::uint32_t>(mMessages.size());
+            mMessages.push_back({base + group.first + i, group.type, node, kind, 0, group.perUnit});
+            for (std::size_t step = index % group.rate; step < kRound; step += group.rate)
+                mDue[step].push_back(index);
+        }
     }
 }
 

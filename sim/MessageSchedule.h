@@ -4,6 +4,7 @@
 #include "sim/RandomSource.h"
 #include "sim/Snapshot.h"
 
+#include <span>
 #include <vector>
 
 namespace ZARN::Sim {
@@ -40,10 +41,10 @@ private:
         double perUnit;
     };
 
-    static const Group kLane[], kMonitor[], kElectrical[], kGps[], kAir[], kLamps[];
+    static const Group kLane[], kFaults[], kMonitor[], kElectrical[], kGps[], kAir[], kLamps[];
 
-    template <std::size_t Count> void add(std::uint8_t node, std::uint8_t kind, const Group (&groups)[Count], std::uint32_t base = 0);
-    void add(std::uint8_t node, std::uint8_t kind, const Group& group);
+    /// @param base what the groups' identifiers count from.
+    void add(std::uint8_t node, std::uint8_t kind, std::span<const Group> groups, std::uint32_t base = 0);
     static Payload encode(const Message& message, double value);
 
     static constexpr std::size_t kRound = 10; ///< steps after which the schedule repeats

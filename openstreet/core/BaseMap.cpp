@@ -18,7 +18,6 @@ namespace OpenStreet {
 
 namespace {
 
-constexpr std::size_t kKeptTiles = 512;
 constexpr double kMargin = 4.0 / BaseMap::kEdge; // of a tile's edge, for what is drawn across its edges
 constexpr int kMostDetailed = 10; // zoom: finer tiles tell nothing more
 constexpr QRgb kLand = 0xfff3f0e8;
@@ -66,7 +65,6 @@ bool BaseMap::loadBuiltIn()
 bool BaseMap::load(const QByteArray& packed)
 {
     mKept.clear();
-    mOrder.clear();
     mWorld = {};
     Geometry world;
     if (!BaseMapReader(qUncompress(packed)).read(world))
@@ -79,18 +77,14 @@ const BaseMap::Geometry& BaseMap::geometry(const TileId& id)
 {
     if (id.zoom <= 0)
         return mWorld;
-    if (const auto known = mKept.find(id); known != mKept.end()) {
-        mOrder.splice(mOrder.begin(), mOrder, known->second.order);
-        return known->second.geometry;
-    }
+    if (const Geometry* pKnown = mKept.object(id))
+        return *pKnown;
     const Geometry& parent = geometry(id.parent());
     const QRectF area = box(id);
-    Geometry cut{clipAreas(parent.land, area), clipAreas(parent.lakes, area), clipLines(parent.coasts, area), clipLines(parent.borders, area)};
-    while (mOrder.size() >= kKeptTiles) {
-        mKept.erase(mOrder.back());
-        mOrder.pop_back();
-    }
-    return mKept.emplace(id, Kept{std::move(cut), mOrder.insert(mOrder.begin(), id)}).first->second.geometry;
+    auto* pCut = new Geometry{clipAreas(parent.land, area), clipAreas(parent.lakes, area), clipLines(parent.coasts, area),
+                              clipLines(parent.borders, area)};
+    mKept.insert(id, pCut); // which owns it from here on
+    return *pCut;
 }
 
 QImage BaseMap::tile(const TileId& id)

@@ -4,12 +4,11 @@
 #include "openstreet/core/TileId.h"
 
 #include <QByteArray>
+#include <QCache>
 #include <QImage>
 #include <QPointF>
 #include <QRectF>
 
-#include <list>
-#include <unordered_map>
 #include <vector>
 
 class QPainter;
@@ -49,16 +48,12 @@ public:
     [[nodiscard]] const Geometry& geometry(const TileId& id);
 
 private:
-    struct Kept {
-        Geometry geometry;
-        std::list<TileId>::iterator order;
-    };
+    static constexpr int kKeptTiles = 512;
 
     void paintTile(QPainter& painter, const TileId& id, const QTransform& toPixels, double lineScale);
 
     Geometry mWorld;
-    std::unordered_map<TileId, Kept, TileIdHash> mKept;
-    std::list<TileId> mOrder; // of use, the latest first
+    QCache<TileId, Geometry> mKept{kKeptTiles};
 };
 
 } // namespace OpenStreet

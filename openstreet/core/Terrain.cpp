@@ -56,40 +56,35 @@ bool Terrain::covers(double south, double west, double north, double east) const
     });
 }
 
-Terrain::Square Terrain::load(const Corner& corner) const
+std::unique_ptr<Terrain::Square> Terrain::load(const Corner& corner) const
 {
-    Square result;
-    result.corner = corner;
+    auto pResult = std::make_unique<Square>();
     QFile file(mFolder + fileName(corner));
     if (!file.open(QIODevice::ReadOnly))
-        return result;
+        return pResult;
     for (const int edge : {1201, 3601}) {
         const qint64 bytes = 2LL * edge * edge;
         if (file.size() != bytes)
             continue;
-        result.heights.resize(static_cast<std::size_t>(edge) * static_cast<std::size_t>(edge));
-        if (file.read(reinterpret_cast<char*>(result.heights.data()), bytes) == bytes)
-            result.edge = edge;
+        pResult->heights.resize(static_cast<std::size_t>(edge) * static_cast<std::size_t>(edge));
+        if (file.read(reinterpret_cast<char*>(pResult->heights.data()), bytes) == bytes)
+            pResult->edge = edge;
     }
-    if (result.edge == 0)
-        result.heights.clear();
-    qFromBigEndian<std::int16_t>(result.heights.data(), static_cast<qsizetype>(result.heights.size()), result.heights.data());
-    return result;
+    std::vector<std::int16_t>& heights = pResult->heights;
+    if (pResult->edge == 0)
+        heights.clear();
+    qFromBigEndian<std::int16_t>(heights.data(), static_cast<qsizetype>(heights.size()), heights.data());
+    return pResult;
 }
 
 const Terrain::Square* Terrain::square(const Corner& corner)
 {
-    const auto known = std::find_if(mSquares.begin(), mSquares.end(), [&](const Square& square) { return square.corner == corner; });
-    if (known != mSquares.end()) {
-        mSquares.splice(mSquares.begin(), mSquares, known);
-    } else {
-        if (!mFiles.contains(corner))
-            return nullptr;
-        mSquares.push_front(load(corner));
-        if (mSquares.size() > kFilesInMemory)
-            mSquares.pop_back();
+    const Square* pSquare = mSquares.object(corner);
+    if (!pSquare && mFiles.contains(corner)) {
+        mSquares.insert(corner, load(corner).release());
+        pSquare = mSquares.object(corner);
     }
-    return mSquares.front().edge > 0 ? &mSquares.front() : nullptr;
+    return pSquare && pSquare->edge > 0 ? pSquare : nullptr;
 }
 
 std::optional<double> Terrain::height(const GeoPoint& place)

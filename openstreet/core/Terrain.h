@@ -2,10 +2,11 @@
 
 #include "openstreet/core/Projection.h"
 
+#include <QCache>
 #include <QString>
 
 #include <cstdint>
-#include <list>
+#include <memory>
 #include <optional>
 #include <set>
 #include <utility>
@@ -17,7 +18,7 @@ namespace OpenStreet {
 /// 3601 rows of as many 16-bit big-endian metres, from north to south. Keeps the files that were used last in memory.
 class Terrain {
 public:
-    static constexpr std::size_t kFilesInMemory = 4;
+    static constexpr int kFilesInMemory = 4;
 
     /// @param folder with the files; it may be missing.
     void setFolder(const QString& folder);
@@ -31,7 +32,6 @@ public:
 private:
     using Corner = std::pair<int, int>; ///< latitude and longitude of the south-west corner in degrees
     struct Square {
-        Corner corner;
         int edge = 0; ///< rows and columns; 0 for a file that is not what it should be
         std::vector<std::int16_t> heights;
         [[nodiscard]] double at(int row, int column) const;
@@ -39,11 +39,11 @@ private:
 
     [[nodiscard]] static QString fileName(const Corner& corner);
     [[nodiscard]] const Square* square(const Corner& corner);
-    [[nodiscard]] Square load(const Corner& corner) const;
+    [[nodiscard]] std::unique_ptr<Square> load(const Corner& corner) const;
 
     QString mFolder;
     std::set<Corner> mFiles;
-    std::list<Square> mSquares; // the one used last first
+    QCache<Corner, Square> mSquares{kFilesInMemory};
 };
 
 } // namespace OpenStreet

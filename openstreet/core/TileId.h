@@ -27,13 +27,16 @@ struct TileId {
     [[nodiscard]] constexpr TileId parent() const { return zoom > 0 ? TileId{zoom - 1, x / 2, y / 2} : *this; }
 };
 
-/// For hashed containers.
+/// For the toolkit's hashed containers.
+[[nodiscard]] inline std::size_t qHash(const TileId& id, std::size_t seed = 0)
+{
+    return seed ^ std::hash<std::uint64_t>()((static_cast<std::uint64_t>(id.zoom) << 48) ^ (static_cast<std::uint64_t>(id.x) << 24) ^
+                                             static_cast<std::uint64_t>(id.y));
+}
+
+/// For those of the standard library.
 struct TileIdHash {
-    std::size_t operator()(const TileId& id) const
-    {
-        return std::hash<std::uint64_t>()((static_cast<std::uint64_t>(id.zoom) << 48) ^ (static_cast<std::uint64_t>(id.x) << 24) ^
-                                          static_cast<std::uint64_t>(id.y));
-    }
+    std::size_t operator()(const TileId& id) const { return qHash(id); }
 };
 
 } // namespace OpenStreet

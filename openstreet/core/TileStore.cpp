@@ -43,8 +43,6 @@ void TileStore::setServer(const TileServer& server)
     mServer = server;
     mLoader.cancelAll();
     mImages.clear();
-    mOrder.clear();
-    mMemory = 0;
     mFailures.clear();
     mServerFailure = {};
     for (auto& [id, wanted] : mWanted)
@@ -91,11 +89,8 @@ void TileStore::want(const std::vector<TileId>& view)
 
 QImage TileStore::image(const TileId& id)
 {
-    const auto found = mImages.find(id);
-    if (found == mImages.end())
-        return {};
-    mOrder.splice(mOrder.begin(), mOrder, found->second.order);
-    return found->second.image;
+    const Kept* pKept = mImages.object(id);
+    return pKept ? pKept->image : QImage();
 }
 
 int TileStore::loading() const
@@ -142,7 +137,7 @@ bool TileStore::lookUp()
         return false;
     const TileId id = *next;
     Wanted& wanted = mWanted[id];
-    if (const auto kept = mImages.find(id); kept != mImages.end() && kept->second.expires > now()) {
+    if (const Kept* pKept = mImages.object(id); pKept && pKept->expires > now()) {
         wanted.state = eSettled;
         return true;
     }
@@ -322,8 +317,8 @@ void TileStore::takeNotModified(const TileId& id, const TileReply& reply)
             record->etag = reply.record.etag;
         mDisk.write(mServer.key(), id, *record);
     }
-    if (const auto kept = mImages.find(id); kept != mImages.end())
-        kept->second.expires = reply.record.expires;
+    if (Kept* pKept = mImages.object(id))
+        pKept->expires = reply.record.expires;
     if (const auto wanted = mWanted.find(id); wanted != mWanted.end())
         wanted->second.state = eSettled;
 }
@@ -350,19 +345,7 @@ void TileStore::fail(const TileId& id, const TileReply& reply)
 
 void TileStore::keep(const TileId& id, const QImage& image, qint64 expires)
 {
-    if (const auto old = mImages.find(id); old != mImages.end()) {
-        mMemory -= old->second.image.sizeInBytes();
-        mOrder.erase(old->second.order);
-        mImages.erase(old);
-    }
-    mMemory += image.sizeInBytes();
-    mImages[id] = {image, expires, mOrder.insert(mOrder.begin(), id)};
-    while (mMemory > mMemoryLimit && mOrder.size() > 1) {
-        const auto last = mImages.find(mOrder.back());
-        mMemory -= last->second.image.sizeInBytes();
-        mImages.erase(last);
-        mOrder.pop_back();
-    }
+    mImages.insert(id, new Kept{image, expires}, image.sizeInBytes());
 }
 
 } // namespace OpenStreet

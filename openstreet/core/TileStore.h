@@ -3,11 +3,11 @@
 #include "openstreet/core/TileLoader.h"
 #include "openstreet/core/TileServer.h"
 
+#include <QCache>
 #include <QImage>
 #include <QTimer>
 
 #include <functional>
-#include <list>
 #include <unordered_set>
 #include <vector>
 
@@ -43,7 +43,6 @@ public:
     [[nodiscard]] bool isAllowed() const { return mAllowed; }
     [[nodiscard]] TileDisk& disk() { return mDisk; }
     [[nodiscard]] TileLoader& loader() { return mLoader; }
-    void setMemoryLimit(qint64 bytes) { mMemoryLimit = bytes; }
 
     /// The tiles that are seen from now on, the most important first; the others that are on their way are cancelled.
     void want(const std::vector<TileId>& view);
@@ -69,7 +68,6 @@ private:
     struct Kept {
         QImage image;
         qint64 expires = 0;
-        std::list<TileId>::iterator order;
     };
     struct Failure {
         int count = 0;
@@ -104,10 +102,7 @@ private:
     TileLoader mLoader;
     bool mAllowed = false;
     int mToldLoading = 0;
-    qint64 mMemoryLimit = kMemoryLimit;
-    qint64 mMemory = 0;
-    std::unordered_map<TileId, Kept, TileIdHash> mImages;
-    std::list<TileId> mOrder; // of use, the latest first
+    QCache<TileId, Kept> mImages{kMemoryLimit}; // at the cost of their bytes
     std::vector<TileId> mOrderWanted;
     std::unordered_map<TileId, Wanted, TileIdHash> mWanted;
     std::unordered_map<TileId, Failure, TileIdHash> mFailures;

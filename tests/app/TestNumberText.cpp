@@ -64,7 +64,6 @@ private Q_SLOTS:
     void fixedEqualsPrintf();
     void generalEqualsPrintf();
     void specialNumbers();
-    void integersAtTheirLimits();
 };
 
 void TestNumberText::fixedEqualsPrintf_data()
@@ -113,14 +112,6 @@ void TestNumberText::specialNumbers()
     QCOMPARE(fixedText(-0.001, 2), std::string("-0.00"));
     QCOMPARE(fixedText(0.999, 2), std::string("1.00")); // the carry makes a digit more
     QCOMPARE(fixedText(-DBL_MAX, 17).size(), std::size_t(1 + 309 + 1 + 17));
-}
-
-void TestNumberText::integersAtTheirLimits()
-{
-    for (const long long number : {0LL, -1LL, LLONG_MAX, LLONG_MIN, 4294967296LL}) {
-        char buffer[kNumberTextSize];
-        QCOMPARE(std::string(buffer, writeInteger(buffer, number)), std::to_string(number));
-    }
 }
 
 QTEST_APPLESS_MAIN(TestNumberText)

@@ -110,7 +110,6 @@ private Q_SLOTS:
     void interruptedAndShortWrites_data();
     void interruptedAndShortWrites();
     void lostBytesAreNoticed();
-    void nothingToSeeBeforeCommit();
 };
 
 namespace {
@@ -200,20 +199,6 @@ void TestSafeFileFaults::lostBytesAreNoticed()
     QCOMPARE(writeOver(path, plan, "new"), path + ": Input/output error");
     QCOMPARE(fileContent(path), std::string("old"));
     QCOMPARE(entryCount(folder.path().toStdString()), 1L);
-}
-
-/// A process killed while it writes leaves nothing where the system has files without a name.
-void TestSafeFileFaults::nothingToSeeBeforeCommit()
-{
-    const QTemporaryDir folder;
-    const std::string base = folder.path().toStdString();
-    const int probe = ::open(base.c_str(), O_TMPFILE | O_WRONLY, 0600);
-    const bool supported = probe >= 0;
-    ::close(probe);
-    ZARN::SafeFile file(base + "/x");
-    QVERIFY(file.open());
-    QVERIFY(file.write(std::string(600'000, 'n')));
-    QCOMPARE(entryCount(base), supported ? 0L : 1L);
 }
 
 QTEST_GUILESS_MAIN(TestSafeFileFaults)

@@ -17,8 +17,6 @@ class TestStartMarker : public QObject {
 private Q_SLOTS:
     void failedStart();
     void secondProgram();
-    void damagedMarker();
-    void withoutFolder();
     void putAside();
     void operand();
 };
@@ -54,21 +52,6 @@ void TestStartMarker::secondProgram()
     QVERIFY(!second.begin());
     second.succeed();
     QCOMPARE(fileContent(path + "/ZARN.starting"), std::to_string(getppid()));
-}
-
-void TestStartMarker::damagedMarker()
-{
-    const QTemporaryDir folder;
-    const std::string path = folder.path().toStdString();
-    putFile(path + "/ZARN.starting", "");
-    QVERIFY(StartMarker(path).begin());
-}
-
-void TestStartMarker::withoutFolder()
-{
-    StartMarker marker("");
-    QVERIFY(!marker.begin());
-    marker.succeed();
 }
 
 void TestStartMarker::putAside()

@@ -18,13 +18,10 @@ class TestStartUp : public QObject {
 private Q_SLOTS:
     void parse_data();
     void parse();
-    void usage();
     void folders();
     void foldersThatAreThere();
-    void foldersWithoutHome();
     void resourcePath_data();
     void resourcePath();
-    void banner();
     void console();
 };
 
@@ -62,11 +59,8 @@ void TestStartUp::parse_data()
     QTest::newRow("none") << List{} << List{} << "" << "";
     QTest::newRow("help") << List{"-h"} << List{"-h"} << "" << "";
     QTest::newRow("unknown") << List{"-x", "-h"} << List{"-h"} << "" << "unknown option -x\n";
-    QTest::newRow("several unknown") << List{"%s%n", ""} << List{} << "" << "unknown option %s%n\nunknown option \n";
     QTest::newRow("style and switch") << List{"-s", "file.css", "-emu"} << List{"-s", "-emu"} << "file.css" << "";
-    QTest::newRow("value like an option") << List{"-s", "-emu"} << List{"-s"} << "-emu" << "";
     QTest::newRow("parameter is last") << List{"-emu", "-s"} << List{"-emu", "-s"} << "" << "";
-    QTest::newRow("switch twice") << List{"-emu", "-emu"} << List{"-emu"} << "" << "";
     QTest::newRow("parameter twice") << List{"-s", "a", "-s", "b"} << List{"-s"} << "b" << "";
     QTest::newRow("no other forms") << List{"-S", "-s=a", "-em", "--emu"} << List{} << ""
                                     << "unknown option -S\nunknown option -s=a\nunknown option -em\nunknown option --emu\n";
@@ -91,20 +85,6 @@ void TestStartUp::parse()
     QVERIFY(!cmdLine.getSwitch("-none"));
     QVERIFY(!cmdLine.getParameter("-none", value));
     QCOMPARE(value, style.toStdString());
-}
-
-void TestStartUp::usage()
-{
-    ConsoleText console;
-    CmdLine cmdLine(console.console);
-    registerOptions(cmdLine);
-    const std::string switches = "-connect connect after startup\n-emu     EMU display only\n-h       print this help\n";
-    cmdLine.parse(0, nullptr);
-    cmdLine.printUsage();
-    QCOMPARE(console.take(), "Usage of  :\n" + switches + "-s       [stylefile to load] default []\n\n");
-    QVERIFY(parseArguments(cmdLine, {"-s", "a.css"}));
-    cmdLine.printUsage();
-    QCOMPARE(console.take(), "Usage of zarn :\n" + switches + "-s       [stylefile to load] default [a.css]\n\n");
 }
 
 void TestStartUp::folders()
@@ -138,23 +118,12 @@ void TestStartUp::foldersThatAreThere()
     QVERIFY(console.text.find("created") == std::string::npos);
 }
 
-void TestStartUp::foldersWithoutHome()
-{
-    const QTemporaryDir folder;
-    ConsoleText console;
-    const DataHandler handler("/opt/zarn/bin", std::nullopt, folder.path().toStdString() + "/data", console.console);
-    QCOMPARE(console.text, std::string("Data Path      : <>\nUser Data Path : <>\nResource Path  : </opt/zarn/Resources/>\n"));
-    QCOMPARE(handler.dataPath(), std::string());
-    QCOMPARE(entryCount(folder.path().toStdString()), 0L);
-}
-
 void TestStartUp::resourcePath_data()
 {
     QTest::addColumn<QString>("executable");
     QTest::addColumn<QString>("resources");
     QTest::newRow("bundle") << "/Applications/zarn.app/Contents/MacOS" << "/Applications/zarn.app/Contents/Resources/";
     QTest::newRow("top level") << "/bin" << "/Resources/";
-    QTest::newRow("root") << "/" << "/Resources/";
     QTest::newRow("no separator") << "bin" << "/Resources/";
 }
 
@@ -164,24 +133,6 @@ void TestStartUp::resourcePath()
     QFETCH(QString, resources);
     ConsoleText console;
     QCOMPARE(DataHandler(executable.toStdString(), std::nullopt, "", console.console).resourcePath(), resources.toStdString());
-}
-
-void TestStartUp::banner()
-{
-    ConsoleText console;
-    Revision::printHeader(console.console);
-    const QStringList lines = QString::fromStdString(console.text).split('\n');
-    QVERIFY(lines.size() > 8);
-    QCOMPARE(lines[0], QString(49, '-'));
-    QCOMPARE(lines[1], QString());
-    QVERIFY(lines[2].contains('#') || lines[2].contains('|') || lines[2].contains('-'));
-    QCOMPARE(lines[lines.size() - 5], QString("                Version  : ZARN 2.1.0"));
-    QVERIFY(QRegularExpression("^                Compiled : [A-Z][a-z]{2} [ 0-9][0-9] [0-9]{4} [0-9]{2}:[0-9]{2}:[0-9]{2}$")
-                .match(lines[lines.size() - 4])
-                .hasMatch());
-    QCOMPARE(lines[lines.size() - 3], "                CWD      : " + QDir::currentPath());
-    QCOMPARE(lines[lines.size() - 2], QString(49, '-'));
-    QCOMPARE(lines.back(), QString());
 }
 
 void TestStartUp::console()

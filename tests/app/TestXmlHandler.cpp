@@ -23,7 +23,6 @@ private Q_SLOTS:
     void doubleAttribute();
     void anyTextSurvives();
     void readFailures();
-    void sameBytesOnEveryRun();
 
 private:
     QDomNamedNodeMap attributesWith(const QString& value);
@@ -143,19 +142,6 @@ void TestXmlHandler::readFailures()
         QCOMPARE(mConsole.take(), "could not set content <" + base + "/%s%n.xml>\n");
     }
     QCOMPARE(document.documentElement().tagName(), QString("kept"));
-}
-
-/// This program again, started with the argument "sample", writes the sample and ends.
-void TestXmlHandler::sameBytesOnEveryRun()
-{
-    const QByteArray here = sampleText(mConsole.console);
-    QVERIFY(here.contains("name7919=\"1\""));
-    for (int i = 0; i < 3; ++i) {
-        QProcess process;
-        process.start(QCoreApplication::applicationFilePath(), {"sample"});
-        QVERIFY(process.waitForFinished());
-        QCOMPARE(process.readAllStandardOutput(), here);
-    }
 }
 
 int main(int argc, char** argv)

@@ -88,10 +88,8 @@ class TestExportGpx : public QObject {
 
 private Q_SLOTS:
     void track();
-    void unitsOfTheDisplayDoNotMatter();
     void unitWithoutClock();
     void pointsOffTheEarthDivideTheTrack();
-    void nothingRecorded();
 };
 
 void TestExportGpx::track()
@@ -104,16 +102,6 @@ void TestExportGpx::track()
     QVERIFY2(all.contains("48.017 11.0 510.0 2025-01-01T00:00:00.000Z"), qPrintable(all.join('\n'))); // a minute of arc is a sixtieth of a degree
     QVERIFY(all.contains("48.033 11.0 520.0 2025-01-01T00:00:10.000Z"));
     QVERIFY(!all.contains("|"));
-}
-
-void TestExportGpx::unitsOfTheDisplayDoNotMatter()
-{
-    Track metric;
-    Track imperial;
-    const QStringList expected = points(metric.fly(4, 24).write());
-    QCOMPARE(points(imperial.fly(4, 24).write(EUnit::eImperial)), expected);
-    QVERIFY(imperial.profile.currentUnit() == EUnit::eImperial);
-    QCOMPARE(imperial.container.flightPath().back().altitude, 2 * metric.container.flightPath().back().altitude);
 }
 
 void TestExportGpx::unitWithoutClock()
@@ -132,15 +120,6 @@ void TestExportGpx::pointsOffTheEarthDivideTheTrack()
     const QByteArray document = track.fly(2, 3).fix(4, 4800.0F, 20000.0F).fly(5, 20).write();
     QCOMPARE(validationErrors(document), QString());
     QCOMPARE(points(document).count("|"), 1);
-}
-
-void TestExportGpx::nothingRecorded()
-{
-    Track track;
-    track.file.addFloat(1038, 1, 500).addFloat(1038, 9, 500);
-    const QByteArray document = track.write();
-    QCOMPARE(validationErrors(document), QString());
-    QVERIFY(points(document).isEmpty());
 }
 
 QTEST_APPLESS_MAIN(TestExportGpx)

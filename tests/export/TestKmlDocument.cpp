@@ -11,42 +11,9 @@ class TestKmlDocument : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void settings();
     void outOfRange_data();
     void outOfRange();
 };
-
-void TestKmlDocument::settings()
-{
-    TestCycle cycle;
-    Property settings(cycle.console);
-    KmlExportOptions options;
-    options.read(settings); // an empty store
-    QCOMPARE(options.timeStamp, 1);
-    QCOMPARE(options.placeMarkInterval, 10);
-    QVERIFY(options.polygonOn);
-
-    settings.setString("KmlTimeStamp", " 3s");
-    settings.setString("KmlLineWidth", "thick");
-    settings.setString("KmlPolygonOn", "1");
-    settings.setString("KmlShowLimit", "TRUE");
-    settings.setString("KmlExportDir", "/tmp");
-    options.read(settings);
-    QCOMPARE(options.timeStamp, 3);
-    QCOMPARE(options.lineWidth, 0);
-    QVERIFY(!options.polygonOn);
-    QVERIFY(options.showLimit);
-    QCOMPARE(options.directory, std::string("/tmp"));
-
-    options.placeMarkInterval = 7;
-    options.errorMarkOn = false;
-    options.write(settings);
-    KmlExportOptions again;
-    again.read(settings);
-    QCOMPARE(again.placeMarkInterval, 7);
-    QVERIFY(!again.errorMarkOn);
-    QCOMPARE(settings.getString("KmlPlaceMarkIntervall", ""), std::string("7"));
-}
 
 void TestKmlDocument::outOfRange_data()
 {

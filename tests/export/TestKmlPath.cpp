@@ -61,7 +61,6 @@ class TestKmlPath : public QObject {
 private Q_SLOTS:
     void points_data();
     void points();
-    void debugLines();
     void timesOfDay_data();
     void timesOfDay();
 };
@@ -91,20 +90,6 @@ void TestKmlPath::points()
     QFETCH(std::vector<Fix>, fixes);
     QFETCH(int, step);
     QTEST(described(Track(fixes, step).path), "expected");
-}
-
-void TestKmlPath::debugLines()
-{
-    Track track({{kLatitude, 1, 48.5F}, {kLatitude, 2, 48.75F}, {kLongitude, 2.5, 11}, {kAltitude, 3, 500}});
-    QCOMPARE(QString::fromStdString(track.cycle.lines),
-             "time 1.000000 lat 48.500000\n"
-             "time 2.000000 lat 48.750000\n"
-             "time 2.500000 long 11.000000\n"
-             "new lons 11.000000\n");
-    std::string lines;
-    const auto sink = [&lines](std::string_view text) { lines += text; };
-    track.path.build(track.data, track.cycle.profile, KmlGrid(1), Console(sink, sink, false), {nullProgress(), 0, 100});
-    QCOMPARE(lines, std::string());
 }
 
 void TestKmlPath::timesOfDay_data()

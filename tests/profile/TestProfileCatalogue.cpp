@@ -67,14 +67,11 @@ void TestProfileCatalogue::entries_data()
     QTest::addColumn<Profiles>("user");
     QTest::addColumn<QStringList>("expected");
     QTest::newRow("none") << Profiles{} << Profiles{} << QStringList{};
-    QTest::newRow("without variants") << Profiles{{"B", {}}, {"A", {}}} << Profiles{} << QStringList{"A", "B"};
     QTest::newRow("variants in file order") << Profiles{{"A", {"z", "y"}}} << Profiles{} << QStringList{"z", "y"};
-    QTest::newRow("both places") << Profiles{{"B", {}}} << Profiles{{"A", {"v"}}} << QStringList{"v", "B"};
     QTest::newRow("same folder name") << Profiles{{"A", {"old"}}} << Profiles{{"A", {"new"}}} << QStringList{"new"};
     QTest::newRow("same variant in two") << Profiles{{"A", {"v", "w"}}, {"B", {"v"}}} << Profiles{} << QStringList{"A/v", "w", "B/v"};
     QTest::newRow("variant named like a folder") << Profiles{{"A", {"B"}}, {"B", {}}} << Profiles{} << QStringList{"A/B", "B/B"};
     QTest::newRow("double and empty variants") << Profiles{{"A", {"v", "", "v"}}} << Profiles{} << QStringList{"v"};
-    QTest::newRow("only an empty variant") << Profiles{{"A", {""}}} << Profiles{} << QStringList{"A"};
 }
 
 void TestProfileCatalogue::entries()

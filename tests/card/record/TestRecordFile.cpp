@@ -119,7 +119,6 @@ class TestRecordFile : public QObject {
 private Q_SLOTS:
     void byteOrderHelpers();
     void bothByteOrdersReadAlike();
-    void headerIsReadFieldByField();
     void dates_data();
     void dates();
     void cutAtEveryLength();
@@ -190,23 +189,6 @@ void TestRecordFile::bothByteOrdersReadAlike()
     damaged.read(QByteArray(bigBytes).replace(0, 2, "??")).readRecordData(damaged.data);
     QCOMPARE(described(damaged.file, damaged.data), described(little.file, little.data));
     QCOMPARE(damaged.read(QByteArray(bigBytes).replace(0, 2, "??")).problem(), QString("the header is damaged: no byte-order mark"));
-}
-
-void TestRecordFile::headerIsReadFieldByField()
-{
-    Reader reader;
-    const RecordFile& file = reader.read(sample(true).bytes());
-    QCOMPARE(file.dateTime, kNoon);
-    QCOMPARE(file.ecuSerialNumber, 0x01020304U);
-    QCOMPARE(file.softwarePartA, kTexts[0]); // fills its field: no terminator in the file
-    QCOMPARE(file.ecuType, kTexts[1]);
-    QCOMPARE(file.engineSerial, std::string());
-    QCOMPARE(file.engineType, kTexts[3]);
-    QCOMPARE(file.softwarePartB, std::string("a longer text"));
-    QCOMPARE(file.emuSoftwareVersion, kTexts[5]);
-    QCOMPARE(file.startTime, 134.217728);                           // of the first record, not of the header
-    QCOMPARE(file.endTime, std::fma(3.0, 134.217728, 31.25e-9));
-    QCOMPARE(file.samples, 3U);
 }
 
 void TestRecordFile::dates_data()

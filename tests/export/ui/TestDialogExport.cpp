@@ -80,14 +80,10 @@ class TestDialogExport : public QObject {
 private Q_SLOTS:
     void init() { mFolder.emplace(); }
     void csvRemembers();
-    void csvCancelled();
-    void csvSettingsThatNoListOffers();
     void paths_data();
     void paths();
     void existingFileIsAskedAboutOnce();
-    void kmlDefaults();
     void kmlRemembers();
-    void rangeNamesTheFile();
     void sizeIsToldBefore();
     void progressIsSeenAndCancelled();
 
@@ -128,50 +124,17 @@ void TestDialogExport::csvRemembers()
     QVERIFY(again.fileName == "ExportZarn.csv" && again.separator == '\t' && again.resolution == 10 && !again.allParameters);
 }
 
-void TestDialogExport::csvCancelled()
-{
-    CsvExportOptions options{folder(), "ExportZarn.csv"};
-    Wizards wizards(folder());
-    Answer answer([&](QWidget* pModal) {
-        type(pModal, "directory", folder());
-        press(wizard(pModal), QWizard::NextButton);
-        chooseLast(pModal, "limiter");
-        QTest::keyClick(pModal, Qt::Key_Escape);
-    });
-    QVERIFY(!DialogExportCsv(*wizards.session).getOptions(options));
-    QCOMPARE(options.separator, ';');
-    QCOMPARE(wizards.property.getInt("CsvLimiter", -1), -1);
-    QCOMPARE(entryCount(folder().toStdString()), 0L);
-}
-
-void TestDialogExport::csvSettingsThatNoListOffers()
-{
-    Wizards wizards(folder());
-    wizards.property.setInt("CsvLimiter", 'x');
-    wizards.property.setInt("CsvResolution", -5);
-    wizards.property.setString("CsvExportDir", folder().toStdString());
-    CsvExportOptions options{".", "out.csv", '\t', true, 10};
-    Answer answer([&](QWidget* pModal) {
-        press(wizard(pModal), QWizard::NextButton);
-        press(wizard(pModal), QWizard::FinishButton);
-    });
-    QVERIFY(DialogExportCsv(*wizards.session).getOptions(options));
-    QVERIFY(options.separator == ';' && options.resolution == 100);
-}
-
 void TestDialogExport::paths_data()
 {
     QTest::addColumn<QString>("directory"); // "~" stands for the test's folder
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("problem"); // empty: the user may not even try
     QTest::newRow("missing folder") << "~/no <b>where</b>" << "a.csv" << "/no <b>where</b> does not exist";
-    QTest::newRow("file for a folder") << "~/file" << "a.csv" << "is no folder";
     QTest::newRow("folder for a file") << "~" << "sub" << "is a folder, not a file";
     QTest::newRow("recording") << "~" << "LOG1.CAN" << "is a recording of this card";
     QTest::newRow("folder in the name") << "~" << "sub/a.csv" << "cannot hold";
     QTest::newRow("nothing may be written") << "/proc" << "a.csv" << "Nothing can be written to the folder /proc";
     QTest::newRow("no name") << "~" << " " << "";
-    QTest::newRow("no folder") << " " << "a.csv" << "";
 }
 
 void TestDialogExport::paths()
@@ -226,30 +189,6 @@ void TestDialogExport::existingFileIsAskedAboutOnce()
     QCOMPARE(fileContent(folder().toStdString() + "/out.csv"), std::string("of yesterday"));
 }
 
-void TestDialogExport::kmlDefaults()
-{
-    Wizards wizards(folder());
-    wizards.property.setString("KmlExportDir", folder().toStdString());
-    KmlExportOptions options;
-    options.fileName = "Card.kml";
-    Answer answer([](QWidget* pModal) {
-        press(wizard(pModal), QWizard::NextButton);
-        press(wizard(pModal), QWizard::NextButton);
-        press(wizard(pModal), QWizard::FinishButton);
-    });
-    QVERIFY(DialogExportKml(*wizards.session).getOptions(options));
-    QCOMPARE(answer.title, QString("KML Export"));
-    KmlExportOptions defaults;
-    Property expected(wizards.console);
-    defaults.directory = folder().toStdString();
-    defaults.write(expected);
-    for (const char* key : {"KmlExportDir", "KmlTimeStamp", "KmlLineWidth", "KmlLineColor", "KmlLineAlpha", "KmlPolygonOn", "KmlPolygonColor",
-                            "KmlPolygonAlpha", "KmlPlaceMarkOn", "KmlPlaceMarkIntervall", "KmlPlaceMarkColor", "KmlErrorMarkOn",
-                            "KmlShowLimit", "KmlShowWarning", "KmlErrorMarkColor"})
-        QCOMPARE(wizards.property.getString(key, "unset"), expected.getString(key, "none"));
-    QCOMPARE(options.fileName, std::string("Card.kml"));
-}
-
 void TestDialogExport::kmlRemembers()
 {
     Wizards first(folder());
@@ -288,21 +227,6 @@ void TestDialogExport::kmlRemembers()
         QVERIFY(!got.polygonOn && got.polygonColor == "0000ff" && got.polygonAlpha == 100);
         QVERIFY(!got.placeMarkOn && got.placeMarkInterval == 77 && got.errorMarkOn && got.showLimit && !got.showWarning);
     }
-}
-
-void TestDialogExport::rangeNamesTheFile()
-{
-    Wizards wizards(folder());
-    wizards.property.setString("CsvExportDir", folder().toStdString());
-    CsvExportOptions options{".", "Card.csv"};
-    Answer answer([&](QWidget* pModal) {
-        chooseLast(pModal, "part");
-        press(wizard(pModal), QWizard::NextButton);
-        press(wizard(pModal), QWizard::FinishButton);
-    });
-    const std::vector<ExportPart> parts{{"everything", "Card.csv", {}}, {"flight", "Card flight 1.csv", TimeSpan{10, 20}}};
-    QVERIFY(DialogExportCsv(*wizards.session).getOptions(options, parts));
-    QVERIFY(options.fileName == "Card flight 1.csv" && options.span && options.span->end == 20.0);
 }
 
 void TestDialogExport::sizeIsToldBefore()

@@ -65,29 +65,9 @@ class TestDialogProfile : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void keyboardTicks();
     void searching();
     void projectInStep();
 };
-
-void TestDialogProfile::keyboardTicks()
-{
-    Panel panel;
-    QVERIFY(panel.active);
-    QCOMPARE(panel.count(), "0 of 3 parameters selected");
-    panel.pTree->setFocus();
-    for (const Qt::Key key : {Qt::Key_Home, Qt::Key_Right, Qt::Key_Down, Qt::Key_Space})
-        QTest::keyClick(panel.pTree, key);
-    QVERIFY(panel.profile.isSelected("Speed"));
-    QCOMPARE(panel.changed.count(), 1);
-    QCOMPARE(panel.count(), "1 of 3 parameters selected");
-    for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Space})
-        QTest::keyClick(panel.pTree, key);
-    QVERIFY(panel.profile.isSelected("<b>Oil</b> %1 & co"));
-    QTest::keyClick(panel.pTree, Qt::Key_Space);
-    QCOMPARE(panel.count(), "0 of 3 parameters selected");
-    QCOMPARE(panel.changed.count(), 3);
-}
 
 void TestDialogProfile::searching()
 {

@@ -73,18 +73,14 @@ private Q_SLOTS:
     void damagedPath();
     void timeOfAPlace();
     void longPathIsBounded();
-    void pathGeometryMatchesTheMap();
     void simplifiedPath();
     void zoomsAboutThePointer();
-    void doubleClickMovesThere();
     void dragsAndFollows();
     void eventsOnThePath();
     void scaleBar_data();
     void scaleBar();
-    void consent();
     void picture();
     void graticule();
-    void longNote();
 };
 
 void TestMapModel::positions_data()
@@ -95,13 +91,9 @@ void TestMapModel::positions_data()
     QTest::addColumn<double>("stamp");
     QTest::newRow("before the first") << -5.0 << 10.0 << 0.0 << 1.0;
     QTest::newRow("within the first stretch") << 1.4 << 10.0 << 0.0 << 1.0;
-    QTest::newRow("on a point") << 1.5 << 20.0 << 350.0 << 1.5;
     QTest::newRow("a quarter of the way") << 1.625 << 25.0 << 355.0 << 1.625;
-    QTest::newRow("half of it") << 1.75 << 30.0 << 360.0 << 1.75;
-    QTest::newRow("three quarters") << 1.875 << 35.0 << 365.0 << 1.875;
     QTest::newRow("back across north") << 2.25 << 41.0 << 0.0 << 2.25;
     QTest::newRow("where points are missing") << 4.5 << 44.0 << 350.0 << 4.5;
-    QTest::newRow("on the last") << 7.0 << 46.0 << 350.0 << 7.0;
     QTest::newRow("after the last") << 1e9 << 46.0 << 350.0 << 7.0;
     QTest::newRow("no time at all") << std::numeric_limits<double>::quiet_NaN() << 10.0 << 0.0 << 1.0;
 }
@@ -199,21 +191,6 @@ void TestMapModel::longPathIsBounded()
     QCOMPARE(geometry.builds(), builds + 1);
 }
 
-void TestMapModel::pathGeometryMatchesTheMap()
-{
-    const MapPath flight = path({at(0, 48.15, 10.9), at(1, 48.2, 11.02), at(2, 48.25, 11.1)});
-    View view;
-    view.navigator.turn(30.0, 20.0);
-    view.navigator.drag(40.0, -25.0);
-    PathGeometry geometry;
-    geometry.update(flight, view.navigator.camera());
-    QCOMPARE(geometry.strips().size(), std::size_t(1));
-    for (std::size_t i = 0; i < 3; ++i) {
-        const QPointF drawn = geometry.strips()[0][i] + geometry.offset();
-        QVERIFY(view.distance({flight.points()[i].latitude, flight.points()[i].longitude}, drawn.x(), drawn.y()) < 1e-6);
-    }
-}
-
 void TestMapModel::simplifiedPath()
 {
     std::vector<FlightPathPoint> points;
@@ -273,24 +250,6 @@ void TestMapModel::zoomsAboutThePointer()
     QCOMPARE(view.context.rangeHorizontal, MapNavigator::kClosest);
 }
 
-void TestMapModel::doubleClickMovesThere()
-{
-    View view;
-    view.navigator.setPointer({100.0, 500.0});
-    const double range = view.navigator.camera().horizontalRange();
-    const OpenStreet::GeoPoint place = view.navigator.camera().windowToGeo({100.0, 500.0});
-    view.navigator.doubleClick();
-    QCOMPARE(view.navigator.camera().horizontalRange(), range); // not at once
-    QVERIFY(view.context.isPositionChanged && view.context.isRangeChanged);
-    QVERIFY(std::fabs(view.context.rangeHorizontal - range * 0.25) < 1e-6);
-    view.arrive();
-    QVERIFY(!view.context.isPositionChanged && !view.context.isRangeChanged);
-    QVERIFY(view.distance(place, 100.0, 500.0) < 0.01);
-    view.navigator.zoomCentered(30.0);
-    view.navigator.doubleClick();
-    QCOMPARE(view.context.rangeHorizontal, 25.0);
-}
-
 void TestMapModel::dragsAndFollows()
 {
     View view;
@@ -340,10 +299,8 @@ void TestMapModel::scaleBar_data()
     QTest::addColumn<double>("pixels");
     QTest::newRow("turned") << 200000.0 << false << "50 km" << 125.0;
     QTest::newRow("km") << 100000.0 << false << "10 km" << 100.0;
-    QTest::newRow("m") << 5000.0 << false << "500 m" << 100.0;
     QTest::newRow("2") << 15000.0 << false << "2 km" << 2000.0 / 15.0;
     QTest::newRow("miles") << 92600.0 << true << "5 NM" << 100.0;
-    QTest::newRow("feet") << 304.8 << true << "100 ft" << 100.0;
 }
 
 void TestMapModel::scaleBar()
@@ -360,19 +317,6 @@ void TestMapModel::scaleBar()
     QTEST(bar.text, "text");
     QFETCH(double, pixels);
     QVERIFY(std::fabs(bar.pixels - pixels) < 1e-6);
-}
-
-void TestMapModel::consent()
-{
-    const Console silent([](std::string_view) {}, [](std::string_view) {});
-    Property property(silent);
-    TileConsent consent(property);
-    QCOMPARE(consent.answer("https://a/"), TileConsent::eNotAsked);
-    consent.set("https://a/", true);
-    QCOMPARE(consent.answer("https://a/"), TileConsent::eYes);
-    QCOMPARE(consent.answer("https://b/"), TileConsent::eNotAsked); // another server is another question
-    consent.set("https://b/", false);
-    QCOMPARE(consent.answer("https://a/"), TileConsent::eNo);
 }
 
 void TestMapModel::picture()
@@ -412,18 +356,6 @@ void TestMapModel::graticule()
         camera.setVisibleRange(range, 0.0);
         QVERIFY2(std::fabs(Graticule(camera, 130.0).step() - step) < 1e-9, qPrintable(QString::number(Graticule(camera, 130.0).step())));
     }
-}
-
-void TestMapModel::longNote()
-{
-    MapScene scene;
-    scene.setNote("tiles.example.org: " + QString(300, 'x'));
-    Test::RecordingCanvas canvas;
-    scene.drawAbove(canvas, View().navigator.camera());
-    const auto note =
-        std::find_if(canvas.texts.begin(), canvas.texts.end(), [](const auto& text) { return text.second.startsWith("tiles"); });
-    QVERIFY(note != canvas.texts.end());
-    QVERIFY(note->first.right() <= 800 && note->first.width() > 700 && note->second.endsWith(QChar(0x2026)));
 }
 
 QTEST_MAIN(TestMapModel)
