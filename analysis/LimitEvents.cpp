@@ -38,10 +38,10 @@ private:
 
 } // namespace
 
-EventList limitEvents(const RecordData& data, Profile& profile)
+EventList limitEvents(const RecordData& data, const DecodingContext& context)
 {
     EventList list;
-    const TraceSet traces(&data, profile, ENumber::eText, profile.sharedFilter(), TraceSet::all());
+    const TraceSet traces(&data, context, ENumber::eText, TraceSet::all());
     for (const auto& pTrace : traces.traces()) {
         if (const ThresholdList* pThresholds = pTrace->decoder().textThresholds())
             LimitScan(*pTrace, *pThresholds, list).run();

@@ -42,12 +42,12 @@ private:
 
 } // namespace
 
-EventList warningEvents(const RecordData& data, Profile& profile)
+EventList warningEvents(const RecordData& data, const DecodingContext& context)
 {
     EventList list;
     const auto isLamp = [](const ProfileDevice& device, const ProfileParameter&) { return device.name == kLampGroup; };
-    const TraceSet texts(&data, profile, ENumber::eText, profile.sharedFilter(), isLamp);
-    const TraceSet states(&data, profile, ENumber::eInteger, profile.sharedFilter(), isLamp);
+    const TraceSet texts(&data, context, ENumber::eText, isLamp);
+    const TraceSet states(&data, context, ENumber::eInteger, isLamp);
     for (std::size_t lamp = 0; lamp < texts.size(); ++lamp)
         LampScan(texts[lamp], list).run(states[lamp]);
     list.sortByTime();

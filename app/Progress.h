@@ -3,7 +3,7 @@
 namespace ZARN {
 
 /// Receives the progress of a long operation of the core, in percent, and tells it when its user has had enough of it. The
-/// main window shows it; programs without a window pass nullProgress().
+/// main window shows it; programs without a window pass nullProgress(). Both are called in the thread of the operation.
 class Progress {
 public:
     virtual ~Progress() = default;

@@ -16,6 +16,8 @@ public:
     static std::string folderOfFiles(int files);
     /// A profile that decodes the recordings.
     static std::string profile();
+    /// The same with all that a review of the engine asks for: its speed, flows, a fault matrix.
+    static std::string engineProfile();
 };
 
 } // namespace ZARN

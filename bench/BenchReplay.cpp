@@ -46,7 +46,8 @@ struct ReplayWindow {
         container.readContainer(folder.path() + "/card");
         container.loadCycle(kFlightCycle, -1);
         const Session session{console, property, profile, container, project};
-        pArea = std::make_unique<DialogData>(session, DataViews::create(session, folder.path()), false);
+        pRecord = std::make_unique<RecordSession>(container);
+        pArea = std::make_unique<DialogData>(*pRecord, DataViews::create(session, folder.path()), false);
         pArea->resize(1500, 900);
         pArea->show();
         pArea->updateRecord();
@@ -58,6 +59,7 @@ struct ReplayWindow {
     CardContainer container;
     Property property;
     Project project;
+    std::unique_ptr<RecordSession> pRecord;
     std::unique_ptr<DialogData> pArea;
 };
 

@@ -1,3 +1,4 @@
+#include "analysis/CycleReview.h"
 #include "analysis/LimitEvents.h"
 #include "analysis/WarningEvents.h"
 #include "app/Console.h"
@@ -41,7 +42,7 @@ StoredRecord floatRecord(std::size_t i, uint64_t ticks)
 
 /// One channel of 50 Hz and a profile for it. @param restarts true: the tick counter falls back now and then.
 struct Channel {
-    explicit Channel(std::size_t entries, bool restarts = false) : profile(silent()), values(data, profile)
+    explicit Channel(std::size_t entries, bool restarts = false) : profile(silent())
     {
         QDomDocument document;
         document.setContent(QString(kProfile));
@@ -49,13 +50,11 @@ struct Channel {
         for (std::size_t i = 0; i < entries; ++i)
             data.append(1, floatRecord(i, (i - (restarts && i % 1000 > 500 ? 300 : 0)) * 640000));
         data.buildTimeIndex();
-        values.setEndTime(static_cast<double>(entries) * 0.02);
     }
-    const ProfileParameter& parameter() const { return profile.parameter(1); }
+    const ProfileParameter& parameter() const { return profile.model().parameter(1); }
 
     Profile profile;
     RecordData data;
-    CycleValues values;
 };
 
 /// The floor of decoding: one loop over side-by-side records.
@@ -83,7 +82,7 @@ void decodeChannel(benchmark::State& state)
     std::vector<double> out(kEntries);
     const RecordEntries& entries = channel.data.channel(1)->entries;
     for (auto _ : state) {
-        const ValueDecoder decoder = channel.profile.decoder(channel.parameter());
+        const ValueDecoder decoder = channel.profile.context().decoder(channel.parameter());
         CoordinateFilter filter;
         double* pOut = out.data();
         for (std::size_t i = 0; i < entries.chunkCount(); ++i) {
@@ -98,10 +97,11 @@ void valueAtTime(benchmark::State& state)
 {
     const auto entries = static_cast<std::size_t>(state.range(0));
     const Channel channel(entries, state.range(1) != 0);
+    const CycleValues values(channel.data, channel.profile, static_cast<double>(entries) * 0.02);
     std::mt19937_64 random(1);
     std::uniform_real_distribution<double> time(0, static_cast<double>(entries) * 0.02);
     for (auto _ : state)
-        benchmark::DoNotOptimize(channel.values.getValue(channel.parameter(), time(random)));
+        benchmark::DoNotOptimize(values.getValue(channel.parameter(), time(random)));
 }
 
 std::vector<float> someFloats()
@@ -135,10 +135,11 @@ void textFixed(benchmark::State& state)
 }
 
 /// A loaded card.
-struct LoadedCard {
-    explicit LoadedCard(std::size_t records) : profile(silent()), container(silent(), profile, nullProgress())
+struct MeasuredCard {
+    explicit MeasuredCard(std::size_t records, const std::string& path = BenchCard::profile())
+        : profile(silent()), container(silent(), profile, nullProgress())
     {
-        profile.loadProfile(QString::fromStdString(BenchCard::profile()), "");
+        profile.loadProfile(QString::fromStdString(path), "");
         container.readContainer(QString::fromStdString(BenchCard::folder(records)));
         container.loadCycle(0, -1);
     }
@@ -148,7 +149,7 @@ struct LoadedCard {
 
 void csv(benchmark::State& state)
 {
-    LoadedCard card(kEntries);
+    MeasuredCard card(kEntries);
     CsvExportOptions options;
     options.resolution = static_cast<uint32_t>(state.range(0));
     for (auto _ : state) {
@@ -157,24 +158,35 @@ void csv(benchmark::State& state)
     }
 }
 
-/// Everything that is derived from a loaded cycle before a view shows it.
-void derivedFacts(benchmark::State& state)
+/// Incidents, phases and key values of a loaded cycle.
+void reviewFacts(benchmark::State& state)
 {
-    LoadedCard card(3 * kEntries);
+    MeasuredCard card(kEntries, BenchCard::engineProfile());
+    const std::vector<RecordFlight>& flights = card.container.loadedCycle()->flights;
+    const auto review = [&] { return reviewCycle(card.container.values(), flights, card.container.endTime(), EKeyValues::eAll); };
+    // What the recording does not hold costs nothing to find.
+    const CycleReview found = review();
+    if (flights.empty() || found.incidents.empty() || found.phases.size() < flights.size() || found.keyValues.values.empty())
+        return state.SkipWithError("the recording lacks flights, incidents, phases or key values");
+    for (auto _ : state)
+        benchmark::DoNotOptimize(review().incidents.size());
+    state.counters["flights"] = static_cast<double>(flights.size());
+    state.counters["incidents"] = static_cast<double>(found.incidents.size());
+    state.counters["keyValues"] = static_cast<double>(found.keyValues.values.size());
+}
+
+/// What else is derived from a loaded cycle before a view shows it.
+void listedFacts(benchmark::State& state)
+{
+    MeasuredCard card(kEntries);
     const RecordData& data = card.container.recordData();
     RecordCycle cycle = card.container.recordCycles().begin()->second;
-    card.container.calcFlightPath();
-    card.container.calcFlights(cycle);
-    // What the recording does not hold costs nothing to find.
-    if (cycle.flights.empty() || card.container.flightPath().empty() || limitEvents(data, card.profile).events().empty() || warningEvents(data, card.profile).events().empty())
-        return state.SkipWithError("the recording lacks flights, positions or events");
     for (auto _ : state) {
         card.container.calcFlightPath();
         card.container.calcFlights(cycle);
         benchmark::DoNotOptimize(limitEvents(data, card.profile).events().size());
         benchmark::DoNotOptimize(warningEvents(data, card.profile).events().size());
     }
-    state.counters["flights"] = static_cast<double>(cycle.flights.size());
 }
 
 BENCHMARK(decodeFloor)->Name("decode/floor")->Unit(benchmark::kMillisecond);
@@ -182,7 +194,8 @@ BENCHMARK(decodeChannel)->Name("decode/channel")->Unit(benchmark::kMillisecond);
 BENCHMARK(valueAtTime)->Name("value/at")->Args({1000000, 0})->Args({10000000, 0})->Args({1000000, 1})->Args({10000000, 1});
 BENCHMARK(textSnprintf)->Name("text/snprintf")->Unit(benchmark::kMillisecond);
 BENCHMARK(textFixed)->Name("text/fixed")->Unit(benchmark::kMillisecond);
-BENCHMARK(derivedFacts)->Name("facts/cycle")->Unit(benchmark::kMillisecond);
+BENCHMARK(reviewFacts)->Name("facts/review")->Unit(benchmark::kMillisecond);
+BENCHMARK(listedFacts)->Name("facts/lists")->Unit(benchmark::kMillisecond);
 BENCHMARK(csv)->Name("csv/ms")->Arg(100)->Arg(10)->Unit(benchmark::kMillisecond);
 
 } // namespace

@@ -21,7 +21,7 @@ struct Ratio {
 constexpr Ratio kRatios[] = {
     {"load of 10 M records / plain loader", "load/records/10/real_time", "load/plain/real_time", 0.75},
     {"load of 30 M records / of 10 M", "load/records/30/real_time", "load/records/10/real_time", 4.0},
-    {"flights, path, events of 30 M records / load", "facts/cycle", "load/records/30/real_time", 1.0},
+    {"incidents, phases, key values of 10 M records / load", "facts/review", "load/records/10/real_time", 0.4},
     {"plain decoding loop / decoding a channel", "decode/floor", "decode/channel", 0.6},
     {"value in 10 M entries / in 1 M", "value/at/10000000/0", "value/at/1000000/0", 4.0},
     {"table of 100,000 x 40 ready / item widget", "table/open/100000/40/40/real_time", "table/items/real_time", 0.05},

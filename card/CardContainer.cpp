@@ -4,8 +4,9 @@
 #include "app/FileName.h"
 #include "app/Progress.h"
 #include "card/FlightDetector.h"
+#include "card/PowerUp.h"
 #include "card/record/RecordFormats.h"
-#include "profile/MetricUnits.h"
+#include "profile/Profile.h"
 #include "vesk/base/Timer.h"
 
 #include <QDir>
@@ -67,14 +68,14 @@ int64_t wholeMilliseconds(double seconds)
 
 } // namespace
 
-CardContainer::CardContainer(const Console& console, Profile& profile, Progress& progress)
-    : mConsole(console), mpProgress(&progress), mValues(mData, profile)
+CardContainer::CardContainer(const Console& console, const DecodingContext& context, Progress& progress)
+    : mConsole(console), mpProgress(&progress), mContext(context), mpData(std::make_shared<RecordData>())
 {
 }
 
 CardContainer& CardContainer::instance()
 {
-    static CardContainer container(Console::standardOutput(), Profile::instance(), nullProgress());
+    static CardContainer container(Console::standardOutput(), Profile::instance().context(), nullProgress());
     return container;
 }
 
@@ -181,7 +182,6 @@ bool CardContainer::loadCycle(unsigned int cycle, int flight)
     if (found == mCycles.end())
         return false;
     RecordCycle& loaded = found->second;
-    mValues.profile().resetCoordinates();
     if (flight == -1 || mLoadedCycle != cycle) {
         std::list<QString> paths;
         for (const RecordInfo& info : loaded.files)
@@ -210,8 +210,9 @@ void CardContainer::select(const RecordFlight& flight, bool isFlight)
 
 void CardContainer::loadFiles(const std::list<QString>& files)
 {
-    mData.clear();
-    mValues.clear();
+    mpData.reset(); // before another one takes memory, unless somebody still works on it
+    mpData = std::make_shared<RecordData>();
+    mIndexEnd = 0.0;
     mLoadedCycle.reset();
     mLoadError.clear();
     mLoadProblems.clear();
@@ -222,7 +223,7 @@ void CardContainer::loadFiles(const std::list<QString>& files)
         readRecords(files);
         calcIndex();
     } catch (const std::bad_alloc&) {
-        mData.clear();
+        mpData->clear();
         mLoadError = encodeFileName(name()) + ": not enough memory for its records";
     }
     joinProblems();
@@ -257,7 +258,6 @@ void CardContainer::readRecords(const std::list<QString>& files)
 
 void CardContainer::recalculate(int flight)
 {
-    mValues.profile().resetCoordinates();
     select(mWhole, false);
     if (!mLoadedCycle)
         return;
@@ -269,34 +269,34 @@ void CardContainer::recalculate(int flight)
 
 double CardContainer::loadFile(const RecordInfo& info)
 {
-    const uint32_t before = mData.count();
+    const uint32_t before = mpData->count();
     const auto pFile = RecordFormats::reader(info.fileName, mConsole, *mpProgress);
     if (!pFile) {
         mLoadProblems.push_back({encodeFileName(lastComponent(info.fileName)), tr("its content has changed since the card was opened"), true});
         return 0.0;
     }
     pFile->setRecordInfo(info);
-    if (!pFile->readRecordData(mData) && mLoadError.empty())
+    if (!pFile->readRecordData(*mpData) && mLoadError.empty())
         mLoadError = encodeFileName(info.fileName) + ": not enough memory for its records";
     const CardProblem problem = problemOf(*pFile);
     const auto isKnown = [&problem](const CardProblem& other) { return other.file == problem.file && other.reason == problem.reason; };
     if (!problem.reason.isEmpty() && std::none_of(mFolderProblems.begin(), mFolderProblems.end(), isKnown))
         mLoadProblems.push_back(problem);
     mConsole.print("load Files <%s>\n", info.fileName.toUtf8().constData());
-    return mData.count() > before ? pFile->endTime : 0.0;
+    return mpData->count() > before ? pFile->endTime : 0.0;
 }
 
 void CardContainer::calcIndex()
 {
     const VESK::Misc::Timer timer;
-    mData.buildTimeIndex();
-    mValues.setEndTime(mEndTime);
+    mpData->buildTimeIndex();
+    mIndexEnd = mEndTime;
     mConsole.print("calcIndex : %f ms\n", timer.elapsed() * 1000.0);
 }
 
 void CardContainer::calcFlights(RecordCycle& cycle)
 {
-    cycle.flights = FlightDetector(mValues).detect(cycle.dateTime);
+    cycle.flights = FlightDetector(values()).detect(cycle.dateTime);
     for (const RecordFlight& flight : cycle.flights) {
         mConsole.print("Flight %f -> %f <%s>\n", flight.startTime, flight.endTime,
                        flight.dateTime.toString("hh:mm:ss").toUtf8().constData());
@@ -305,20 +305,19 @@ void CardContainer::calcFlights(RecordCycle& cycle)
 
 void CardContainer::calcFlightStatistic(RecordFlight& flight)
 {
-    const MetricUnits metric(mValues.profile());
-    ZARN::calcFlightStatistic(mValues, flight);
+    ZARN::calcFlightStatistic(values(), flight);
 }
 
 void CardContainer::calcFlightPath()
 {
     try {
-        mFlightPath.build(mValues);
+        mFlightPath.build(*mpData, mContext);
+        if (mFlightIsSelected)
+            mFlightPath.crop(mStartTime, mEndTime);
     } catch (const std::bad_alloc&) {
         mFlightPath.clear();
         mLoadError = encodeFileName(name()) + ": not enough memory for its flight path";
     }
-    if (mFlightIsSelected)
-        mFlightPath.crop(mStartTime, mEndTime);
 }
 
 int CardContainer::selectedFlightNumber() const
@@ -329,6 +328,29 @@ int CardContainer::selectedFlightNumber() const
     const auto isIt = [this](const RecordFlight& flight) { return flight.takeOffTime == mSelectedFlight.takeOffTime; };
     const auto found = std::find_if(pCycle->flights.begin(), pCycle->flights.end(), isIt);
     return found == pCycle->flights.end() ? 0 : static_cast<int>(found - pCycle->flights.begin()) + 1;
+}
+
+LoadedCard CardContainer::loaded() const
+{
+    LoadedCard loaded;
+    loaded.card = name();
+    loaded.context = mContext;
+    loaded.pRecord = mpData;
+    loaded.pPath = mFlightPath.shared();
+    loaded.powerUp = PowerUp::ofLoaded(*this);
+    loaded.flight = mSelectedFlight;
+    loaded.flightNumber = selectedFlightNumber();
+    loaded.startTime = mStartTime;
+    loaded.endTime = mEndTime;
+    if (const RecordCycle* pCycle = loadedCycle()) {
+        loaded.cycle = mLoadedCycle;
+        loaded.cycleName = pCycle->name;
+        loaded.cycleDate = pCycle->dateTime;
+        loaded.flights = pCycle->flights;
+        if (!pCycle->files.empty())
+            loaded.unit = pCycle->files.back().get();
+    }
+    return loaded;
 }
 
 const RecordCycle* CardContainer::loadedCycle() const

@@ -1,7 +1,8 @@
 #pragma once
 
 #include "card/CardProblem.h"
-#include "card/FlightPath.h"
+#include "card/CycleValues.h"
+#include "card/LoadedCard.h"
 #include "card/Geography.h"
 #include "card/RecordCycle.h"
 #include "card/Resampling.h"
@@ -13,6 +14,7 @@
 
 namespace ZARN {
 
+class Console;
 class Progress;
 
 /// The owner of a card's data: the files of a card folder, the power cycles that they form, and the records of the cycle
@@ -21,7 +23,9 @@ class CardContainer {
     Q_DECLARE_TR_FUNCTIONS(ZARN::CardContainer)
 
 public:
-    CardContainer(const Console& console, Profile& profile, Progress& progress);
+    /// @param context what is in force; it may change, and must outlive the container
+    CardContainer(const Console& console, const DecodingContext& context, Progress& progress);
+    CardContainer(const Console& console, DecodingContext&& context, Progress& progress) = delete;
     CardContainer(const CardContainer&) = delete;
     CardContainer& operator=(const CardContainer&) = delete;
     static CardContainer& instance();
@@ -62,9 +66,12 @@ public:
     /// Rebuilds the flight path: of the selected flight, or of the whole cycle.
     void calcFlightPath();
 
-    [[nodiscard]] const RecordData& recordData() const { return mData; }
-    [[nodiscard]] RecordData& recordData() { return mData; }
-    [[nodiscard]] const CycleValues& values() const { return mValues; }
+    [[nodiscard]] const RecordData& recordData() const { return *mpData; }
+    [[nodiscard]] RecordData& recordData() { return *mpData; }
+    /// Everything that is loaded, for who works on it while the container goes on.
+    [[nodiscard]] LoadedCard loaded() const;
+    /// The values of the loaded data as they are decoded now.
+    [[nodiscard]] CycleValues values() const { return {*mpData, mContext, mIndexEnd}; }
     [[nodiscard]] const std::vector<FlightPathPoint>& flightPath() const { return mFlightPath.points(); }
     /// The selected flight; the span of the whole cycle when none is selected.
     [[nodiscard]] const RecordFlight& selectedFlight() const { return mSelectedFlight; }
@@ -81,10 +88,10 @@ public:
 
     /// The parameter's value in the display unit at a time: that of the latest sample strictly before it (before the first
     /// sample, the first). 0, with state and colour untouched, after the last sample.
-    double getValue(const ProfileParameter& parameter, double time) { return mValues.getValue(parameter, time); }
+    double getValue(const ProfileParameter& parameter, double time) { return values().getValue(parameter, time); }
     double getValue(const ProfileParameter& parameter, double time, int& state, QColor& colour)
     {
-        return mValues.getValue(parameter, time, state, colour);
+        return values().getValue(parameter, time, state, colour);
     }
     /// "hh:mm:ss.zzz" of a time in seconds; wraps after 24 hours.
     [[nodiscard]] static QString time(double seconds);
@@ -111,8 +118,9 @@ private:
     QString mPath;
     std::map<std::string, RecordInfo> mFiles;
     std::map<uint32_t, RecordCycle> mCycles;
-    RecordData mData;
-    CycleValues mValues;
+    const DecodingContext& mContext;
+    std::shared_ptr<RecordData> mpData; // never null
+    double mIndexEnd = 0.0;             // times behind it have no value
     FlightPath mFlightPath;
     RecordFlight mSelectedFlight;
     RecordFlight mWhole; ///< the span of all that was loaded

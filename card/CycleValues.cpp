@@ -4,9 +4,16 @@
 
 namespace ZARN {
 
-void CycleValues::setEndTime(double endTime)
+CycleValues::CycleValues(const RecordData& data, const DecodingContext& context, double endTime)
+    : mData(data), mContext(context), mSeconds(std::min(saturatingCast<int64_t>(endTime), INT64_MAX - 2) + 2)
 {
-    mSeconds = std::min(saturatingCast<int64_t>(endTime), INT64_MAX - 2) + 2;
+}
+
+CycleValues CycleValues::metric() const
+{
+    CycleValues values = *this;
+    values.mContext = mContext.in(EUnit::eMetric);
+    return values;
 }
 
 std::optional<RecordEntry> CycleValues::entryAt(const ProfileParameter& parameter, double time) const
@@ -26,7 +33,15 @@ std::optional<RecordEntry> CycleValues::entryAt(const ProfileParameter& paramete
 double CycleValues::getValue(const ProfileParameter& parameter, double time, int& state, QColor& colour) const
 {
     const std::optional<RecordEntry> entry = entryAt(parameter, time);
-    return entry ? mProfile.getDouble(*entry, parameter, state, colour, true) : 0.0;
+    const ValueDecoder decoder = mContext.decoder(parameter);
+    if (!entry || !decoder.isNumeric())
+        return 0.0;
+    CoordinateFilter filter;
+    const double value = decoder.value(entry->payload, true, filter);
+    const ThresholdResult result = decoder.threshold(value);
+    state = result.state;
+    colour = result.colour;
+    return decoder.toDisplayUnit(value);
 }
 
 double CycleValues::getValue(const ProfileParameter& parameter, double time) const
@@ -41,11 +56,11 @@ std::optional<DisplayValue> CycleValues::displayAt(const ProfileParameter& param
     const std::optional<RecordEntry> entry = entryAt(parameter, time);
     if (!entry)
         return {};
-    mProfile.resetCoordinates(); // a single fix has none before it
-    DisplayValue result;
-    ThresholdResult ofText; // bit fields have none; what people are warned by is the value's
-    mProfile.getDouble(*entry, parameter, result.state, result.colour, true);
-    result.text = mProfile.getDataString(*entry, parameter, ofText.state, ofText.colour);
+    DisplayValue result; // bit fields have texts without a state; what people are warned by is the value's
+    getValue(parameter, time, result.state, result.colour);
+    const ValueDecoder decoder = mContext.decoder(parameter);
+    CoordinateFilter filter;
+    result.text = decoder.text(decoder.textValue(entry->payload, filter));
     return result;
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "card/record/RecordData.h"
-#include "profile/Profile.h"
+#include "profile/DecodingContext.h"
 
 #include <optional>
 #include <string>
@@ -15,15 +15,16 @@ struct DisplayValue {
     QColor colour;    ///< the threshold's; invalid for what is no number
 };
 
-/// The values of a loaded cycle by parameter and time.
+/// The values of a loaded cycle by parameter and time, each by itself: a position is judged by none before it. A small value that refers
+/// to the record.
 class CycleValues {
 public:
-    CycleValues(const RecordData& data, Profile& profile) : mData(data), mProfile(profile) {}
-
-    /// Times from the whole second after the next above `endTime` on lie outside the index and have no value.
-    void setEndTime(double endTime);
-    /// No time has a value any more.
-    void clear() { mSeconds = 0; }
+    /// @param endTime times from the whole second after the next above it on lie outside the index and have no value
+    CycleValues(const RecordData& data, const DecodingContext& context, double endTime);
+    /// The same in metric units.
+    [[nodiscard]] CycleValues metric() const;
+    /// Times that have a value lie after -1 and before this.
+    [[nodiscard]] int64_t seconds() const { return mSeconds; }
 
     /// The entry that decides the parameter's value at a time: the latest strictly before it, at or before the channel's first
     /// entry that one; none when the channel has no entry at or after the time, or the time lies outside the index.
@@ -39,12 +40,12 @@ public:
     /// The channel of a parameter; null when it has no entries.
     [[nodiscard]] const RecordChannel* channel(const ProfileParameter& parameter) const { return mData.channel(parameter.identifier()); }
     [[nodiscard]] const RecordData& data() const { return mData; }
-    [[nodiscard]] Profile& profile() const { return mProfile; }
+    [[nodiscard]] const DecodingContext& context() const { return mContext; }
 
 private:
     const RecordData& mData;
-    Profile& mProfile;
-    int64_t mSeconds = 0; // size of the index: one place a second
+    DecodingContext mContext;
+    int64_t mSeconds; // size of the index: one place a second
 };
 
 } // namespace ZARN

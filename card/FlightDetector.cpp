@@ -1,6 +1,5 @@
 #include "card/FlightDetector.h"
 
-#include "profile/MetricUnits.h"
 #include "trace/TraceSet.h"
 
 namespace ZARN {
@@ -54,10 +53,8 @@ private:
 std::vector<RecordFlight> FlightDetector::detect(const QDateTime& dateTime) const
 {
     std::vector<RecordFlight> flights;
-    Profile& profile = mValues.profile();
-    const MetricUnits metric(profile); // the thresholds are km/h, and so is the statistic
-    const auto pSpeed = TraceSet::one(mValues.data(), profile, profile.getParameterFromZarnType("GroundSpeed"), ENumber::eMetric,
-                                      profile.sharedFilter());
+    const DecodingContext& context = mValues.context();
+    const auto pSpeed = TraceSet::one(mValues.data(), context, context.model().ofZarnType("GroundSpeed"), ENumber::eMetric);
     FlightState state;
     RecordFlight flight;
     pSpeed->forEachSample([&](double time, double speed) {

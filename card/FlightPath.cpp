@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 namespace ZARN {
 
@@ -13,11 +14,17 @@ namespace {
 constexpr double kSmallestValue = 0.00001; // exact zeros are a receiver without a fix
 constexpr double kSmallestDegrees = 0.0001;
 
-std::vector<Sample> collect(const CycleValues& values, const char* key)
+/// What a pass that builds a path reads.
+struct Source {
+    const RecordData& data;
+    const DecodingContext& context;
+    CoordinateFilter filter;
+};
+
+std::vector<Sample> collect(Source& source, const char* key)
 {
     std::vector<Sample> samples;
-    Profile& profile = values.profile();
-    const auto pTrace = TraceSet::one(values.data(), profile, profile.getParameterFromZarnType(key), ENumber::eDisplay, profile.sharedFilter(),
+    const auto pTrace = TraceSet::one(source.data, source.context, source.context.model().ofZarnType(key), ENumber::eDisplay, source.filter,
                                       kLatestTime);
     if (!pTrace->decoder().isNumeric())
         return samples;
@@ -32,7 +39,7 @@ std::vector<Sample> collect(const CycleValues& values, const char* key)
 /// One of the path's series at every grid point.
 class PathSeries {
 public:
-    PathSeries(const CycleValues& values, const char* key) : mSamples(collect(values, key)), mGrid(FlightPath::kStep, mSamples)
+    PathSeries(Source& source, const char* key) : mSamples(collect(source, key)), mGrid(FlightPath::kStep, mSamples)
     {
         if (mSamples.size() == 1)
             mLast = mSamples.front().value;
@@ -63,29 +70,35 @@ bool isFix(double degrees)
 
 } // namespace
 
-void FlightPath::build(const CycleValues& values)
+void FlightPath::build(const RecordData& data, const DecodingContext& context)
 {
-    mPoints = {};
-    values.profile().resetCoordinates();
+    clear();
+    Source source{data, context, {}};
     // Each evaluated in this order: positions pass a filter with a memory.
-    PathSeries latitude(values, "Latitude");
-    PathSeries longitude(values, "Longitude");
-    PathSeries altitude(values, "Altitude");
-    PathSeries groundSpeed(values, "GroundSpeed");
-    PathSeries track(values, "Track");
+    PathSeries latitude(source, "Latitude");
+    PathSeries longitude(source, "Longitude");
+    PathSeries altitude(source, "Altitude");
+    PathSeries groundSpeed(source, "GroundSpeed");
+    PathSeries track(source, "Track");
     const std::size_t length = std::max(latitude.size(), longitude.size());
-    mPoints.reserve(length); // not by doubling: the points of three weeks are many
+    std::vector<FlightPathPoint> points;
+    points.reserve(length); // not by doubling: the points of three weeks are many
     for (std::size_t i = 0; i < length; ++i) {
         const FlightPathPoint point{static_cast<double>(i) * kStep, latitude.value(i),    longitude.value(i),
                                     altitude.value(i),              groundSpeed.value(i), track.value(i)};
         if (isFix(point.latitude) && isFix(point.longitude))
-            mPoints.push_back(point);
+            points.push_back(point);
     }
+    mpPoints = std::make_shared<const std::vector<FlightPathPoint>>(std::move(points));
 }
 
 void FlightPath::crop(double from, double to)
 {
-    std::erase_if(mPoints, [=](const FlightPathPoint& point) { return !(point.time >= from && point.time <= to); });
+    const auto isInside = [=](const FlightPathPoint& point) { return point.time >= from && point.time <= to; };
+    std::vector<FlightPathPoint> points;
+    points.reserve(static_cast<std::size_t>(std::ranges::count_if(*mpPoints, isInside)));
+    std::ranges::copy_if(*mpPoints, std::back_inserter(points), isInside);
+    mpPoints = std::make_shared<const std::vector<FlightPathPoint>>(std::move(points));
 }
 
 } // namespace ZARN

@@ -1,7 +1,9 @@
 #pragma once
 
-#include "card/CycleValues.h"
+#include "card/record/RecordData.h"
+#include "profile/DecodingContext.h"
 
+#include <memory>
 #include <vector>
 
 namespace ZARN {
@@ -23,15 +25,17 @@ public:
     static constexpr double kStep = 0.5;
 
     /// Rebuilds the path over everything loaded.
-    void build(const CycleValues& values);
+    void build(const RecordData& data, const DecodingContext& context);
     /// Keeps only the points from `from` to `to`, both included.
     void crop(double from, double to);
-    void clear() { mPoints.clear(); }
+    void clear() { mpPoints = std::make_shared<std::vector<FlightPathPoint>>(); }
 
-    [[nodiscard]] const std::vector<FlightPathPoint>& points() const { return mPoints; }
+    [[nodiscard]] const std::vector<FlightPathPoint>& points() const { return *mpPoints; }
+    /// For whoever works on them while another path is built.
+    [[nodiscard]] std::shared_ptr<const std::vector<FlightPathPoint>> shared() const { return mpPoints; }
 
 private:
-    std::vector<FlightPathPoint> mPoints;
+    std::shared_ptr<const std::vector<FlightPathPoint>> mpPoints = std::make_shared<std::vector<FlightPathPoint>>();
 };
 
 } // namespace ZARN

@@ -1,5 +1,6 @@
 #include "card/FlightDetector.h"
 #include "card/Geography.h"
+#include "trace/TraceSet.h"
 
 #include <cmath>
 #include <limits>
@@ -25,7 +26,7 @@ struct Position {
 /// One computation of a tow statistic: the steps in the order in which the numbers build on each other.
 class StatisticPass {
 public:
-    StatisticPass(const CycleValues& values, RecordFlight& flight) : mValues(values), mFlight(flight) {}
+    StatisticPass(const CycleValues& values, RecordFlight& flight) : mValues(values.metric()), mFlight(flight) {}
 
     void run()
     {
@@ -45,25 +46,13 @@ private:
     /// Calls `visit` with time and value of every sample of the parameter in the flight's span, in order.
     template <typename Visitor> void forEachSample(const char* key, Visitor visit) const
     {
-        Profile& profile = mValues.profile();
-        const ProfileParameter parameter = profile.getParameterFromZarnType(key);
-        if (const RecordChannel* pChannel = mValues.channel(parameter)) {
-            const ValueDecoder decoder = profile.decoder(parameter);
-            pChannel->forEachIn(mFlight.startTime, mFlight.endTime, [&](const RecordEntry& entry) {
-                visit(entry.time, decoder.displayValue(entry.payload, profile.sharedFilter()));
-            });
-        }
+        TraceSet::one(mValues.data(), mValues.context(), parameter(key), ENumber::eMetric)
+            ->forEachSampleIn(mFlight.startTime, mFlight.endTime, visit);
     }
 
-    [[nodiscard]] double valueAt(const char* key, double time) const
-    {
-        return mValues.getValue(mValues.profile().getParameterFromZarnType(key), time);
-    }
-
-    [[nodiscard]] bool hasValueAt(const char* key, double time) const
-    {
-        return mValues.entryAt(mValues.profile().getParameterFromZarnType(key), time).has_value();
-    }
+    [[nodiscard]] const ProfileParameter& parameter(const char* key) const { return mValues.context().model().ofZarnType(key); }
+    [[nodiscard]] double valueAt(const char* key, double time) const { return mValues.getValue(parameter(key), time); }
+    [[nodiscard]] bool hasValueAt(const char* key, double time) const { return mValues.entryAt(parameter(key), time).has_value(); }
 
     [[nodiscard]] Position positionAt(double time) const
     {
@@ -164,7 +153,7 @@ private:
         return calcDistance(mRollStart.latitude, mRollStart.longitude, position.latitude, position.longitude);
     }
 
-    const CycleValues& mValues;
+    const CycleValues mValues;
     RecordFlight& mFlight;
     Position mRollStart;
     Position mLiftOff;
@@ -179,7 +168,6 @@ private:
 
 void calcFlightStatistic(const CycleValues& values, RecordFlight& flight)
 {
-    values.profile().resetCoordinates();
     StatisticPass(values, flight).run();
 }
 

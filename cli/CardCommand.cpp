@@ -15,14 +15,10 @@
 
 namespace ZARN {
 
-namespace {
-
-std::string problemText(const CardContainer& container, const CardProblem& problem)
+std::string problemText(const QString& path, const CardProblem& problem)
 {
-    return (problem.file.empty() ? encodeFileName(container.path()) : problem.file) + ": " + problem.reason.toStdString();
+    return (problem.file.empty() ? encodeFileName(path) : problem.file) + ": " + problem.reason.toStdString();
 }
-
-} // namespace
 
 std::string systemProblem(const CardContainer& container)
 {
@@ -30,16 +26,16 @@ std::string systemProblem(const CardContainer& container)
     std::size_t count = 0;
     for (const CardProblem& problem : container.problems()) {
         if (problem.isSystemError && ++count == 1)
-            line = problemText(container, problem);
+            line = problemText(container.path(), problem);
     }
     return count > 1 ? line + " (and " + std::to_string(count - 1) + " more)" : line;
 }
 
-void sayDamage(const CardContainer& container)
+void sayDamage(const QString& path, const std::vector<CardProblem>& problems)
 {
-    for (const CardProblem& problem : container.problems()) {
+    for (const CardProblem& problem : problems) {
         if (!problem.isSystemError)
-            Command::say(problemText(container, problem));
+            Command::say(problemText(path, problem));
     }
 }
 
@@ -68,10 +64,13 @@ std::string loadProfileFile(Profile& profile, const std::string& file, const std
     return isDeclared ? std::string() : variant + ": the profile has no such variant";
 }
 
-CardCommand::CardCommand(CLI::App& program, const char* name, const char* description, const char* example)
-    : Command(program, name, description, example), mProfile(console()), mContainer(console(), mProfile, nullProgress())
+CardCommand::CardCommand(CLI::App& program, const char* name, const char* description, const char* example, ECards cards)
+    : Command(program, name, description, example), mProfile(console()), mContainer(console(), mProfile.context(), nullProgress())
 {
-    options().add("CARD", mCard, "the card folder, or a log of a CAN bus", CommandOptions::eRequired);
+    if (cards == eManyCards)
+        options().addAll("CARD", mCards, "card folders, or logs of a CAN bus");
+    else
+        options().add("CARD", mCard, "the card folder, or a log of a CAN bus", CommandOptions::eRequired);
     options().add("--profile", mProfileFile, "profile file (default: the shipped profile \"915\")");
     options().add("--variant", mVariant, "variant of the profile (default: none)");
     options().add("--unit", mUnit, "metric (default) or imperial", CommandOptions::eOptional,
@@ -86,15 +85,15 @@ std::optional<unsigned int> CardCommand::chosenCycle() const
 
 int CardCommand::run()
 {
-    for (const auto step : {&CardCommand::loadProfile, &CardCommand::openCard}) {
-        const std::string problem = (this->*step)();
-        if (!problem.empty())
-            return fail(problem);
-    }
+    std::string problem = loadProfile();
+    if (problem.empty())
+        problem = openCard(mCard);
+    if (!problem.empty())
+        return fail(problem);
     const int status = runOnCard();
     // After the work, since a failure is told in one line.
     if (status == eDone)
-        sayDamage(mContainer);
+        sayDamage(mContainer.path(), mContainer.problems());
     return status;
 }
 
@@ -104,15 +103,16 @@ std::string CardCommand::loadProfile()
     return loadProfileFile(mProfile, mProfileFile.empty() ? shippedProfile("915") : mProfileFile, mVariant);
 }
 
-std::string CardCommand::openCard()
+std::string CardCommand::openCard(const std::string& path)
 {
+    mCard = path;
     if (!mContainer.readContainer(decodeFileName(mCard)))
         return folderProblem(mCard);
     const std::string problem = systemProblem(mContainer);
     if (!problem.empty())
         return problem;
     if (mContainer.recordCycles().empty() && !mContainer.problems().empty())
-        return problemText(mContainer, mContainer.problems().front());
+        return problemText(mContainer.path(), mContainer.problems().front());
     if (mContainer.recordCycles().empty())
         return mCard + ": the folder holds no record file (" + RecordFormats::patternText().toStdString() + ")";
     if (isGiven("--cycle") && !mContainer.recordCycles().contains(mCycle))
@@ -120,16 +120,17 @@ std::string CardCommand::openCard()
     return {};
 }
 
-bool CardCommand::load(unsigned int cycle, int flight)
+std::string CardCommand::loadProblem(unsigned int cycle, int flight)
 {
     // Flights count from 1 here, from 0 in the container; -1 stands for the whole cycle there.
-    std::string problem;
     if (!mContainer.loadCycle(cycle, flight - 1))
-        problem = mCard + ": no flight " + std::to_string(flight) + " in cycle " + std::to_string(cycle);
-    else if (!mContainer.loadError().empty())
-        problem = mContainer.loadError();
-    else
-        problem = systemProblem(mContainer);
+        return mCard + ": no flight " + std::to_string(flight) + " in cycle " + std::to_string(cycle);
+    return mContainer.loadError().empty() ? systemProblem(mContainer) : mContainer.loadError();
+}
+
+bool CardCommand::load(unsigned int cycle, int flight)
+{
+    const std::string problem = loadProblem(cycle, flight);
     if (!problem.empty())
         fail(problem);
     return problem.empty();

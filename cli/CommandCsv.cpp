@@ -21,7 +21,7 @@ int CommandCsv::runOnData()
     csv.allParameters = !hasSelection();
     csv.resolution = mResolution;
     csv.span = flightSpan();
-    ExportCsv exporter(mProfile);
+    ExportCsv exporter(mProfile, mProfile.selection());
     return writeOutput([&](SafeFile& file) {
         exporter.writeFile(file, mContainer.recordData(), csv);
         return exporter.error();

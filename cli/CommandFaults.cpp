@@ -58,7 +58,7 @@ std::string CommandFaults::json() const
 {
     JsonWriter writer;
     writer.beginAnswer().key("matrices").beginArray();
-    for (const FaultMatrix& matrix : mProfile.errorMatrices())
+    for (const FaultMatrix& matrix : mProfile.model().errorMatrices)
         write(writer, matrix);
     return writer.endArray().endAnswer();
 }
@@ -81,7 +81,7 @@ void CommandFaults::write(JsonWriter& writer, const FaultMatrix& matrix) const
 std::string CommandFaults::tables() const
 {
     std::string text;
-    for (const FaultMatrix& matrix : mProfile.errorMatrices()) {
+    for (const FaultMatrix& matrix : mProfile.model().errorMatrices) {
         text += (text.empty() ? "" : "\n") + visibleText(matrix.name) + " (" + std::to_string(matrix.id) + ")\n";
         text += changes(matrix, eErrorInfo).empty() ? "  not recorded\n" : table(matrix);
     }

@@ -32,6 +32,21 @@ constexpr Figure kFigures[] = {
 
 } // namespace
 
+void writeFlights(JsonWriter& writer, const std::vector<RecordFlight>& flights)
+{
+    writer.key("flights").beginArray();
+    int number = 0;
+    for (const RecordFlight& flight : flights) {
+        writer.beginObject().member("number", ++number).member("dateTime", flight.dateTime);
+        writer.member("startTime", flight.startTime).member("endTime", flight.endTime);
+        writer.member("takeOffTime", flight.takeOffTime).member("landingTime", flight.landingTime);
+        for (const Figure& figure : kFigures)
+            writer.member(figure.key, flight.*figure.value);
+        writer.endObject();
+    }
+    writer.endArray();
+}
+
 CommandFlights::CommandFlights(CLI::App& program)
     : DataCommand(program, "flights", "list the flights of a cycle with their tow statistics", "zarn-cli flights /media/card --cycle 2")
 {
@@ -47,17 +62,9 @@ std::string CommandFlights::json() const
 {
     JsonWriter writer;
     writer.beginAnswer().member("cycle", *mContainer.loadedCycleNumber()).member("dateTime", mContainer.dateTime());
-    writer.member("startTime", mContainer.startTime()).member("endTime", mContainer.endTime()).key("flights").beginArray();
-    int number = 0;
-    for (const RecordFlight& flight : cycle().flights) {
-        writer.beginObject().member("number", ++number).member("dateTime", flight.dateTime);
-        writer.member("startTime", flight.startTime).member("endTime", flight.endTime);
-        writer.member("takeOffTime", flight.takeOffTime).member("landingTime", flight.landingTime);
-        for (const Figure& figure : kFigures)
-            writer.member(figure.key, flight.*figure.value);
-        writer.endObject();
-    }
-    return writer.endArray().endAnswer();
+    writer.member("startTime", mContainer.startTime()).member("endTime", mContainer.endTime());
+    writeFlights(writer, cycle().flights);
+    return writer.endAnswer();
 }
 
 std::string CommandFlights::tables() const

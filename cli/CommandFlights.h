@@ -4,6 +4,11 @@
 
 namespace ZARN {
 
+class JsonWriter;
+
+/// Writes the member "flights": all that is told of each.
+void writeFlights(JsonWriter& writer, const std::vector<RecordFlight>& flights);
+
 /// `flights`: the flights of a cycle with their tow statistics.
 class CommandFlights : public DataCommand {
 public:

@@ -13,9 +13,9 @@ CommandGpx::CommandGpx(CLI::App& program)
 
 int CommandGpx::runOnData()
 {
-    ExportGpx exporter(mProfile);
+    ExportGpx exporter;
     return writeOutput([&](SafeFile& file) {
-        exporter.exportData(mContainer, file);
+        exporter.exportData(mContainer.loaded(), file);
         return exporter.error();
     });
 }

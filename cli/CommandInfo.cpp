@@ -79,7 +79,7 @@ int CommandInfo::run()
     const std::string problem = systemProblem(container);
     if (!problem.empty())
         return fail(problem);
-    sayDamage(container);
+    sayDamage(container.path(), container.problems());
     return eDone;
 }
 

@@ -34,7 +34,7 @@ int CommandKml::runOnData()
     KmlExportOptions kml;
     kml.read(settings);
     kml.span = flightSpan();
-    ExportKml exporter(console(), mProfile, cycle().dateTime);
+    ExportKml exporter(console(), mProfile, mProfile.selection(), cycle().dateTime);
     const int status = writeOutput([&](SafeFile& file) {
         exporter.exportData(mContainer.recordData(), kml, file);
         return exporter.error();

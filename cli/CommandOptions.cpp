@@ -57,6 +57,11 @@ void CommandOptions::addMany(const char* name, std::vector<double>& values, cons
     mApp.add_option(name, values, help)->allow_extra_args(false)->take_all()->required(need == eRequired);
 }
 
+void CommandOptions::addAll(const char* name, std::vector<std::string>& values, const char* help)
+{
+    mApp.add_option(name, values, help);
+}
+
 void CommandOptions::addFlag(const char* name, bool& value, const char* help)
 {
     mApp.add_flag(name, value, help);

@@ -31,6 +31,8 @@ public:
     /// Options that may be given many times, each time with one value.
     void addMany(const char* name, std::vector<std::string>& values, const char* help, const Check& check = {});
     void addMany(const char* name, std::vector<double>& values, const char* help, ENeed need);
+    /// A place for any number of values without a name before them.
+    void addAll(const char* name, std::vector<std::string>& values, const char* help);
     void addFlag(const char* name, bool& value, const char* help);
 
     /// Whether the option was in the call.

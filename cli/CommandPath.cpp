@@ -21,7 +21,7 @@ int CommandPath::runOnData()
 
 void CommandPath::writeTable(Output& output) const
 {
-    const auto title = [this](const char* name, const char* key) { return tableTitle(name, mProfile.getParameterFromZarnType(key).unit); };
+    const auto title = [this](const char* name, const char* key) { return tableTitle(name, mProfile.context().unitOf(mProfile.model().ofZarnType(key))); };
     const std::vector<std::string> header{"Time [h:m:s]", "Latitude [deg]", "Longitude [deg]", title("Altitude", "Altitude"),
                                           title("Ground speed", "GroundSpeed"), title("Track", "Track")};
     const auto cells = [](const FlightPathPoint& point) {

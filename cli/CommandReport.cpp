@@ -29,7 +29,7 @@ int CommandReport::runOnData()
             return fail(resourceFolder() + ": no texts in the language \"" + mLanguage + "\"");
         QCoreApplication::installTranslator(&texts);
     }
-    FlightReport report(mContainer, mProfile);
+    FlightReport report(mContainer.loaded());
     const ReportOptions paper{mPaper == "letter"};
     return writeOutput([&](SafeFile& file) {
         report.write(file, paper);

@@ -1,119 +1,157 @@
 #include "cli/CommandSummary.h"
 
-#include "analysis/LimitEvents.h"
-#include "analysis/WarningEvents.h"
+#include "app/FileName.h"
+#include "cli/CommandFlights.h"
+#include "cli/JsonWriter.h"
+#include "cli/Output.h"
+#include "cli/SummaryJson.h"
 #include "cli/VisibleText.h"
-#include "report/ReportFaults.h"
 
-#include <limits>
-#include <map>
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <fstream>
+#include <iostream>
 
 namespace ZARN {
 
 namespace {
 
-/// The worst that one parameter reached, and when first.
-struct Passed {
-    int state = 0;
-    double time = 0.0; // seconds
-};
-
-/// "  Label: item, item ..."; nothing without items.
-std::string line(const std::string& label, const std::vector<std::string>& items)
+std::vector<std::string> linesOf(std::istream& stream)
 {
-    std::string text;
-    for (const std::string& item : items)
-        text += (text.empty() ? "  " + visibleText(label) + ": " : ", ") + visibleText(item);
-    return text.empty() ? text : text + "\n";
-}
-
-std::string minutes(double seconds)
-{
-    return tableNumber(seconds / 60, 0) + " min";
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(stream, line);) {
+        if (line.ends_with('\r'))
+            line.pop_back();
+        if (!line.empty())
+            lines.push_back(line);
+    }
+    return lines;
 }
 
 } // namespace
 
 CommandSummary::CommandSummary(CLI::App& program)
-    : CardCommand(program, "summary", "tell on one page what happened on a card", "zarn-cli summary /media/card")
+    : CardCommand(program, "summary", "tell whether the engine was all right, what it took and what happened",
+                  "zarn-cli summary /media/card", eManyCards)
 {
+    options().add("--from-file", mListFile, "file that names more cards, one path a line; \"-\" is standard input");
+    addJson();
+}
+
+int CommandSummary::run()
+{
+    std::vector<std::string> paths = cards();
+    if (paths.empty() && !isGiven("--from-file")) {
+        say("CARD is required (see zarn-cli --help)");
+        return eWrongCall;
+    }
+    std::string problem = loadProfile();
+    if (problem.empty())
+        problem = readList(paths);
+    if (!problem.empty())
+        return fail(problem);
+    int status = eDone;
+    for (auto path = paths.begin(); path != paths.end() && mOutput.isGood(); ++path) {
+        problem = openCard(*path);
+        status = std::max(status, problem.empty() ? runOnCard() : fail(problem));
+    }
+    return finish(status);
+}
+
+std::string CommandSummary::readList(std::vector<std::string>& paths) const
+{
+    if (!isGiven("--from-file"))
+        return {};
+    std::ifstream file;
+    if (mListFile != "-") {
+        file.open(mListFile);
+        if (!file)
+            return mListFile + ": " + std::strerror(errno);
+    }
+    std::istream& stream = mListFile == "-" ? std::cin : file;
+    const std::vector<std::string> lines = linesOf(stream);
+    paths.insert(paths.end(), lines.begin(), lines.end());
+    return stream.bad() ? mListFile + ": " + std::strerror(errno) : std::string();
 }
 
 int CommandSummary::runOnCard()
 {
-    std::string text;
+    mReviewed.clear();
+    mProblems.clear();
+    const std::string problem = reviewCycles();
+    if (!problem.empty())
+        return fail(problem);
+    mJson ? writeJson() : writeText();
+    mIsBegun = true;
+    sayDamage(mContainer.path(), mProblems);
+    return eDone;
+}
+
+int CommandSummary::finish(int status)
+{
+    if (mJson && !mIsBegun && status == eDone)
+        mWriter.beginAnswer().key("cards").beginArray();
+    if (mJson && (mIsBegun || status == eDone))
+        mOutput.write(mWriter.endArray().endAnswer());
+    return std::max(mOutput.finish(), status);
+}
+
+std::string CommandSummary::reviewCycles()
+{
+    keepProblems();
     for (const auto& [number, cycle] : mContainer.recordCycles()) {
         if (chosenCycle().value_or(number) != number)
             continue;
-        if (!load(number, 0))
-            return eFailed;
-        text += (text.empty() ? "" : "\n") + cycleText(number);
+        const std::string problem = loadProblem(number, 0);
+        if (!problem.empty())
+            return problem;
+        keepProblems();
+        mReviewed.push_back({number, &cycle, mContainer.startTime(), mContainer.endTime(), mContainer.recordData().count() == 0,
+                             reviewCycle(mContainer.values(), cycle.flights, mContainer.endTime())});
     }
-    return print(text);
+    return {};
 }
 
-std::string CommandSummary::cycleText(uint32_t number)
+/// A load forgets what was wrong with the cycle before.
+void CommandSummary::keepProblems()
 {
-    const RecordCycle& cycle = mContainer.recordCycles().at(number);
-    std::string text = "Cycle " + std::to_string(number) + ", " + tableDate(cycle.dateTime) + ", " +
-                       lengthText(cycle) + "\n";
-    if (cycle.flights.empty())
-        text += "  No flight\n";
-    for (std::size_t i = 0; i < cycle.flights.size(); ++i)
-        text += flightText(cycle.flights[i], i + 1);
-    const RecordData& data = mContainer.recordData();
-    text += eventsText(limitEvents(data, mProfile), "Limit passed", "Warning");
-    text += eventsText(warningEvents(data, mProfile), "Lamp red", "Lamp yellow");
-    return text + faultsText();
-}
-
-std::string CommandSummary::lengthText(const RecordCycle& cycle) const
-{
-    if (mContainer.recordData().count() == 0)
-        return "no record";
-    return cycle.hasSoundTimes() ? minutes(mContainer.endTime() - mContainer.startTime()) + " recorded" : "damaged, length unknown";
-}
-
-std::string CommandSummary::flightText(const RecordFlight& flight, std::size_t number)
-{
-    return "  Flight " + std::to_string(number) + ": take-off " + tableTime(flight.takeOffTime) + ", " +
-           minutes(flight.landingTime - flight.takeOffTime) + ", climb " + tableNumber(flight.totalClimb, 0) + " m at " +
-           tableNumber(flight.averageClimbRate, 1) + " m/s, fuel " + tableNumber(flight.totalFuel, 1) + " l, take-off distance " +
-           tableNumber(flight.takeOffDistance, 0) + " m\n";
-}
-
-std::string CommandSummary::eventsText(const EventList& list, const char* worst, const char* lesser)
-{
-    constexpr int worstState = 2; // of thresholds and lamps alike
-    std::map<std::pair<std::string, std::string>, Passed> byParameter;
-    for (const Event& event : list.events()) {
-        const EventSource& source = list.source(event);
-        Passed& passed = byParameter[{source.group, source.parameter}];
-        if (event.state > passed.state)
-            passed = {event.state, event.time};
+    for (const CardProblem& problem : mContainer.problems()) {
+        const auto isIt = [&problem](const CardProblem& other) { return other.file == problem.file && other.reason == problem.reason; };
+        if (std::ranges::none_of(mProblems, isIt))
+            mProblems.push_back(problem);
     }
-    std::vector<std::string> worstOnes;
-    std::vector<std::string> lesserOnes;
-    for (const auto& [name, passed] : byParameter)
-        (passed.state == worstState ? worstOnes : lesserOnes).push_back(name.second + " " + tableTime(passed.time).substr(0, 8));
-    return line(worst, worstOnes) + line(lesser, lesserOnes);
 }
 
-std::string CommandSummary::faultsText() const
+void CommandSummary::writeJson()
 {
-    constexpr double always = std::numeric_limits<double>::infinity();
-    const std::vector<ReportFault> present = presentFaults(mProfile, mContainer.recordData(), -always, always);
-    std::string text;
-    for (const FaultMatrix& matrix : mProfile.errorMatrices()) {
-        std::vector<std::string> faults;
-        std::vector<std::string> warnings;
-        for (const ReportFault& fault : present) {
-            if (fault.pMatrix == &matrix && fault.pBit->errorType != eErrorInfo)
-                (fault.pBit->errorType == eErrorFault ? faults : warnings).push_back(fault.pBit->name);
-        }
-        text += line(matrix.name + ", faults", faults) + line(matrix.name + ", warnings", warnings);
+    if (!mIsBegun)
+        mWriter.beginAnswer().key("cards").beginArray();
+    mWriter.beginObject().member("card", encodeFileName(mContainer.name())).member("path", card());
+    mWriter.member("profile", mProfileFile.empty() ? "915" : mProfileFile).member("variant", mVariant).member("unit", mUnit);
+    mWriter.key("problems").beginArray();
+    for (const CardProblem& problem : mProblems)
+        mWriter.beginObject().member("file", problem.file).member("reason", problem.reason).endObject();
+    mWriter.endArray().key("cycles").beginArray();
+    for (const ReviewedCycle& reviewed : mReviewed) {
+        mWriter.beginObject().member("number", reviewed.number).member("name", reviewed.pCycle->name);
+        mWriter.member("dateTime", reviewed.pCycle->dateTime).member("startTime", reviewed.startTime).member("endTime", reviewed.endTime);
+        writeReview(mWriter, reviewed.review);
+        writeFlights(mWriter, reviewed.pCycle->flights);
+        mWriter.endObject();
     }
-    return text;
+    mWriter.endArray().endObject();
+}
+
+void CommandSummary::writeText()
+{
+    std::string text = mIsBegun ? "\n" : "";
+    text += "Card " + visibleText(card()) + "\n";
+    for (const CardProblem& problem : mProblems)
+        text += "  Damaged: " + visibleText(problemText(mContainer.path(), problem)) + "\n";
+    for (const ReviewedCycle& reviewed : mReviewed)
+        text += "\n" + summaryText(reviewed);
+    mOutput.write(text);
 }
 
 } // namespace ZARN

@@ -1,22 +1,35 @@
 #pragma once
 
-#include "analysis/EventList.h"
 #include "cli/CardCommand.h"
+#include "cli/JsonWriter.h"
+#include "cli/Output.h"
+#include "cli/SummaryText.h"
 
 namespace ZARN {
 
-/// `summary`: for people, a card on one page: what flew, which limits were passed, which lamps were lit, which faults were set.
+/// `summary`: whether the engine was all right: of each cycle of any number of cards the verdict, what it took and what happened. A card that
+/// cannot be read is said and does not keep the others from being told.
 class CommandSummary : public CardCommand {
 public:
     explicit CommandSummary(CLI::App& program);
+    int run() override;
 
 private:
     int runOnCard() override;
-    [[nodiscard]] std::string cycleText(uint32_t number);
-    [[nodiscard]] std::string lengthText(const RecordCycle& cycle) const;
-    [[nodiscard]] static std::string flightText(const RecordFlight& flight, std::size_t number);
-    [[nodiscard]] static std::string eventsText(const EventList& list, const char* worst, const char* lesser);
-    [[nodiscard]] std::string faultsText() const;
+    /// Empty when all went well, else what failed and why.
+    [[nodiscard]] std::string readList(std::vector<std::string>& paths) const;
+    [[nodiscard]] std::string reviewCycles();
+    void keepProblems();
+    int finish(int status);
+    void writeJson();
+    void writeText();
+
+    std::string mListFile;
+    std::vector<ReviewedCycle> mReviewed; ///< of the open card
+    std::vector<CardProblem> mProblems;   ///< of the card, its cycles included
+    Output mOutput;
+    JsonWriter mWriter{mOutput};
+    bool mIsBegun = false; ///< a card has been told
 };
 
 } // namespace ZARN

@@ -19,13 +19,9 @@ CommandValue::Answer CommandValue::answer(const ProfileParameter& parameter, dou
 {
     Answer answer{time, 0.0, {}, 0, {}};
     QColor colour;
-    mProfile.resetCoordinates();
     answer.value = mContainer.getValue(parameter, time, answer.state, colour);
-    if (const auto entry = mContainer.values().entryAt(parameter, time)) {
-        int textState = 0;
-        QColor textColour;
-        answer.text = mProfile.getDataString(*entry, parameter, textState, textColour);
-    }
+    if (const auto shown = mContainer.values().displayAt(parameter, time))
+        answer.text = shown->text;
     if (colour.isValid())
         answer.colour = colour.name().toStdString();
     return answer;
@@ -33,12 +29,13 @@ CommandValue::Answer CommandValue::answer(const ProfileParameter& parameter, dou
 
 int CommandValue::runOnData()
 {
-    const ProfileParameter* pParameter = mProfile.findParameter(mParameter);
+    const ProfileParameter* pParameter = mProfile.model().find(mParameter);
     if (!pParameter)
         return fail(mParameter + ": the profile has no such parameter");
+    const std::string& unit = mProfile.context().unitOf(*pParameter);
     JsonWriter writer;
-    writer.beginAnswer().member("parameter", pParameter->name).member("unit", pParameter->unit).key("values").beginArray();
-    TextTable table({"Time [h:m:s]", "Time [s]", tableTitle("Value", pParameter->unit), tableTitle("Text", pParameter->unit), "State"});
+    writer.beginAnswer().member("parameter", pParameter->name).member("unit", unit).key("values").beginArray();
+    TextTable table({"Time [h:m:s]", "Time [s]", tableTitle("Value", unit), tableTitle("Text", unit), "State"});
     static const char* const states[] = {"ok", "warning", "limit"};
     for (const double time : mTimes) {
         const Answer a = answer(*pParameter, time);

@@ -23,7 +23,7 @@ int DataCommand::runOnCard()
 bool DataCommand::selectParameters()
 {
     for (const std::string& name : mSelected) {
-        if (!mProfile.findParameter(name)) {
+        if (!mProfile.model().find(name)) {
             fail(name + ": the profile has no such parameter");
             return false;
         }

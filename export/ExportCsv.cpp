@@ -203,8 +203,7 @@ bool ExportCsv::writeFile(SafeFile& file, const RecordData& recordData, const Cs
     if (!mError.empty())
         return false;
     std::string header = "Time";
-    const TraceSet traces(&recordData, mProfile, ENumber::eText, mProfile.sharedFilter(),
-                          options.allParameters ? TraceSet::all() : TraceSet::selected(mProfile));
+    const TraceSet traces(&recordData, mContext, ENumber::eText, options.allParameters ? TraceSet::all() : TraceSet::selected(mSelection));
     std::vector<CsvColumn> columns;
     if (!makeColumns(traces, options, ProgressSpan(progress, 0, kColumnsPercent), columns, header))
         return false;

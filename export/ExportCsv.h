@@ -29,7 +29,8 @@ struct CsvExportOptions {
 /// reached: memory does not grow with their number.
 class ExportCsv {
 public:
-    explicit ExportCsv(Profile& profile) : mProfile(profile) {}
+    /// @param selection matters when an export is not of all parameters
+    explicit ExportCsv(DecodingContext context, Selection selection = {}) : mContext(std::move(context)), mSelection(std::move(selection)) {}
 
     /// Writes directory/fileName. @return false when it could not be written whole or was cancelled; the old file, if any, is then
     /// untouched.
@@ -44,7 +45,8 @@ private:
     static bool makeColumns(const TraceSet& traces, const CsvExportOptions& options, const ProgressSpan& progress, std::vector<CsvColumn>& columns,
                             std::string& header);
 
-    Profile& mProfile;
+    const DecodingContext mContext;
+    const Selection mSelection;
     std::string mError;
 };
 

@@ -67,11 +67,20 @@ private:
     bool mInSegment = false;
 };
 
-std::string trackName(const CardContainer& container)
+std::string trackName(const LoadedCard& loaded)
 {
-    const RecordCycle* pCycle = container.loadedCycle();
-    const QString card = container.name();
-    return (pCycle && !pCycle->name.isEmpty() ? card + ", " + pCycle->name : card).toStdString();
+    return (loaded.cycleName.isEmpty() ? loaded.card : loaded.card + ", " + loaded.cycleName).toStdString();
+}
+
+/// The path in metric units: the one that is shown, or worked out anew.
+std::shared_ptr<const std::vector<FlightPathPoint>> metricPath(const LoadedCard& loaded)
+{
+    if (loaded.context.unit() == EUnit::eMetric || loaded.pPath->empty())
+        return loaded.pPath;
+    FlightPath rebuilt;
+    rebuilt.build(*loaded.pRecord, loaded.context.in(EUnit::eMetric));
+    rebuilt.crop(loaded.pPath->front().time, loaded.pPath->back().time);
+    return rebuilt.shared();
 }
 
 void beginDocument(KmlWriter& writer, const std::string& name, const QDateTime& cycleDate)
@@ -89,24 +98,21 @@ void beginDocument(KmlWriter& writer, const std::string& name, const QDateTime& 
 
 } // namespace
 
-bool ExportGpx::exportData(const CardContainer& container, SafeFile& file, Progress& progress)
+bool ExportGpx::exportData(const LoadedCard& loaded, SafeFile& file, Progress& progress)
 {
     mError.clear();
     if (!file.open()) {
         mError = file.error();
         return false;
     }
-    const RecordCycle* pCycle = container.loadedCycle();
-    const QDateTime cycleDate = pCycle ? pCycle->dateTime : QDateTime();
-    FlightPath rebuilt;
-    const std::vector<FlightPathPoint>& points = metricPath(container, rebuilt);
+    const auto pPoints = metricPath(loaded);
     const ProgressSpan span(progress, 0, 100);
     KmlWriter writer(file);
-    beginDocument(writer, trackName(container), cycleDate);
-    TrackWriter track(writer, cycleDate);
+    beginDocument(writer, trackName(loaded), loaded.cycleDate);
+    TrackWriter track(writer, loaded.cycleDate);
     uint64_t done = 0;
-    for (const FlightPathPoint& point : points) {
-        if (++done % kPointsAStep == 0 && !span.step(done, points.size()))
+    for (const FlightPathPoint& point : *pPoints) {
+        if (++done % kPointsAStep == 0 && !span.step(done, pPoints->size()))
             return false;
         track.add(point);
     }
@@ -117,19 +123,6 @@ bool ExportGpx::exportData(const CardContainer& container, SafeFile& file, Progr
         return true;
     mError = file.error();
     return false;
-}
-
-const std::vector<FlightPathPoint>& ExportGpx::metricPath(const CardContainer& container, FlightPath& rebuilt)
-{
-    const std::vector<FlightPathPoint>& shown = container.flightPath();
-    const EUnit unit = mProfile.currentUnit();
-    if (unit == EUnit::eMetric || shown.empty())
-        return shown;
-    mProfile.setCurrentUnit(EUnit::eMetric);
-    rebuilt.build(container.values());
-    mProfile.setCurrentUnit(unit);
-    rebuilt.crop(shown.front().time, shown.back().time);
-    return rebuilt.points();
 }
 
 } // namespace ZARN

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/Progress.h"
-#include "card/CardContainer.h"
+#include "card/LoadedCard.h"
 
 namespace ZARN {
 
@@ -13,19 +13,13 @@ class SafeFile;
 /// one gives a track without times. Points that no track can hold are left out, and a new segment begins behind them.
 class ExportGpx {
 public:
-    explicit ExportGpx(Profile& profile) : mProfile(profile) {}
-
     /// Opens the file, writes to it and commits it. @return false when it could not be written whole, or was cancelled; the old
     /// file, if any, is then untouched.
-    bool exportData(const CardContainer& container, SafeFile& file, Progress& progress = nullProgress());
+    bool exportData(const LoadedCard& loaded, SafeFile& file, Progress& progress = nullProgress());
     /// Why the last export failed: "NAME: reason"; empty after one that was cancelled.
     [[nodiscard]] const std::string& error() const { return mError; }
 
 private:
-    /// The path in metric units: the one that is shown, or worked out anew.
-    [[nodiscard]] const std::vector<FlightPathPoint>& metricPath(const CardContainer& container, FlightPath& rebuilt);
-
-    Profile& mProfile;
     std::string mError;
 };
 

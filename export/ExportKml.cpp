@@ -18,7 +18,8 @@ constexpr int kEventsDone = 50;
 
 } // namespace
 
-ExportKml::ExportKml(const Console& console, Profile& profile, const QDateTime& cycleDate) : mConsole(console), mProfile(profile)
+ExportKml::ExportKml(const Console& console, DecodingContext context, Selection selection, const QDateTime& cycleDate)
+    : mConsole(console), mContext(std::move(context)), mSelection(std::move(selection))
 {
     if (cycleDate.isValid())
         mContent.date = cycleDate.toString("d.M.yyyy h:mm:ss");
@@ -38,7 +39,7 @@ bool ExportKml::collect(const RecordData& recordData, const KmlExportOptions& op
 {
     mError.clear();
     const ProgressSpan path(progress, 0, kPathDone);
-    return mContent.path.build(recordData, mProfile, KmlGrid(options.timeStamp), mConsole, path)
+    return mContent.path.build(recordData, mContext, KmlGrid(options.timeStamp), mConsole, path)
            && exportPlaceMarks(recordData, options, progress) && exportErrors(recordData, options, progress);
 }
 
@@ -47,7 +48,7 @@ bool ExportKml::exportPlaceMarks(const RecordData& recordData, const KmlExportOp
     mContent.placemarks.clear();
     const ProgressSpan span(progress, kPathDone, kPlacemarksDone);
     return !options.placeMarkOn
-           || mContent.placemarks.collect(recordData, mProfile, KmlGrid(options.timeStamp), options.placeMarkInterval, span);
+           || mContent.placemarks.collect(recordData, mContext, mSelection, KmlGrid(options.timeStamp), options.placeMarkInterval, span);
 }
 
 bool ExportKml::exportErrors(const RecordData& recordData, const KmlExportOptions& options, Progress& progress)
@@ -57,11 +58,11 @@ bool ExportKml::exportErrors(const RecordData& recordData, const KmlExportOption
         return true;
     const ProgressSpan span(progress, kPlacemarksDone, kEventsDone);
     if (options.showLimit)
-        mContent.limits = limitEvents(recordData, mProfile);
+        mContent.limits = limitEvents(recordData, mContext);
     if (!span.step(1, 2))
         return false;
     if (options.showWarning)
-        mContent.warnings = warningEvents(recordData, mProfile);
+        mContent.warnings = warningEvents(recordData, mContext);
     return span.step(2, 2);
 }
 

@@ -14,7 +14,8 @@ class SafeFile;
 class ExportKml {
 public:
     /// @param cycleDate date and time of the loaded cycle, for the document's name; may be invalid.
-    ExportKml(const Console& console, Profile& profile, const QDateTime& cycleDate);
+    /// @param selection the parameters that placemarks of values show
+    ExportKml(const Console& console, DecodingContext context, Selection selection, const QDateTime& cycleDate);
 
     /// Writes directory/fileName of the options. @return false, with the old file, if any, untouched, when it could not be written,
     /// which a console line tells, or was cancelled.
@@ -37,7 +38,8 @@ private:
     bool collect(const RecordData& recordData, const KmlExportOptions& options, Progress& progress);
 
     const Console& mConsole;
-    Profile& mProfile;
+    const DecodingContext mContext;
+    const Selection mSelection;
     KmlContent mContent;
     std::string mError;
 };

@@ -86,7 +86,7 @@ void KmlDocument::writeParameterPlacemarks()
             return true;
         beginPlacemark(mGrid.timeOfDay(slot, interval), kNormalStyle);
         mContent.placemarks.forEachText(
-            [&](const ProfileParameter& parameter, const std::string& text) { writeValue(parameter.name, text, parameter.unit); });
+            [&](const Trace& trace, const std::string& text) { writeValue(trace.name(), text, trace.unit()); });
         endPlacemark(*pPoint);
         mDone = mContent.placemarks.textsDone();
         return step();

@@ -74,17 +74,17 @@ bool collect(const Trace& trace, const KmlGrid& grid, bool isAngle, const char* 
 
 } // namespace
 
-bool KmlPath::build(const RecordData& data, Profile& profile, const KmlGrid& grid, const Console& console, const ProgressSpan& progress)
+bool KmlPath::build(const RecordData& data, const DecodingContext& context, const KmlGrid& grid, const Console& console,
+                    const ProgressSpan& progress)
 {
     mPoints.clear();
-    CoordinateFilter filter = profile.sharedFilter(); // our own, since a receiver of progress may let views refresh
-    filter.reset();
+    CoordinateFilter filter;
     constexpr uint32_t identifiers[] = {kLatitudeIdentifier, kLongitudeIdentifier, kAltitudeIdentifier};
     constexpr const char* labels[] = {" lat ", " long ", nullptr};
     for (std::size_t i = 0; i < std::size(identifiers); ++i) {
         // The channel counts whether the profile declares it or not.
-        const ProfileParameter& parameter = profile.parameter(identifiers[i]);
-        const ChannelTrace trace({}, parameter, profile.decoder(parameter), data.channel(identifiers[i]), ENumber::eMetric, filter);
+        const ProfileParameter& parameter = context.model().parameter(identifiers[i]);
+        const ChannelTrace trace({}, parameter, context, data.channel(identifiers[i]), ENumber::eMetric, &filter);
         DebugLines lines(console);
         KmlSlots slots;
         const char* label = console.isVerbose() ? labels[i] : nullptr;
@@ -92,7 +92,6 @@ bool KmlPath::build(const RecordData& data, Profile& profile, const KmlGrid& gri
             return false;
         merge(slots, kCoordinates[i]);
     }
-    profile.sharedFilter() = filter;
     fillForward();
     fillBackward(console);
     return true;

@@ -3,9 +3,11 @@
 #include "card/record/RecordData.h"
 #include "export/KmlSlots.h"
 #include "export/ProgressSpan.h"
-#include "profile/Profile.h"
+#include "profile/DecodingContext.h"
 
 namespace ZARN {
+
+class Console;
 
 /// One point of the exported path, in degrees and metres; a coordinate that was never recorded stays at the marker.
 struct KmlPoint {
@@ -25,10 +27,10 @@ public:
     static constexpr uint32_t kAltitudeIdentifier = 1038;
 
     /// Builds the points: in each slot the last sample, missing coordinates filled from the point before, at the start from the
-    /// first that is known. Degrees next to 0 are those of a receiver without a fix: the slot stands, the coordinate counts as missing. The
-    /// shared position filter is reset first. Each position is told to a verbose console.
+    /// first that is known. Degrees next to 0 are those of a receiver without a fix: the slot stands, the coordinate counts as missing.
+    /// Each position is told to a verbose console.
     /// @return false when the user cancels.
-    bool build(const RecordData& data, Profile& profile, const KmlGrid& grid, const Console& console, const ProgressSpan& progress);
+    bool build(const RecordData& data, const DecodingContext& context, const KmlGrid& grid, const Console& console, const ProgressSpan& progress);
 
     /// In ascending order of slots.
     [[nodiscard]] const std::vector<KmlPoint>& points() const { return mPoints; }

@@ -14,10 +14,11 @@ KmlSlots slotsOf(const Trace& trace, const KmlGrid& grid, int interval)
 
 } // namespace
 
-bool KmlPlacemarks::collect(const RecordData& data, Profile& profile, const KmlGrid& grid, int interval, const ProgressSpan& progress)
+bool KmlPlacemarks::collect(const RecordData& data, const DecodingContext& context, const Selection& selection, const KmlGrid& grid, int interval,
+                            const ProgressSpan& progress)
 {
     clear();
-    mTraces = TraceSet(&data, profile, ENumber::eText, profile.sharedFilter(), TraceSet::selected(profile));
+    mTraces = TraceSet(&data, context, ENumber::eText, TraceSet::selected(selection));
     for (std::size_t i = 0; i < mTraces.size(); ++i) {
         if (!mTraces[i].empty())
             mColumns.push_back({&mTraces[i], slotsOf(mTraces[i], grid, interval).take()});

@@ -7,12 +7,13 @@
 namespace ZARN {
 
 /// The values of the selected parameters at regular intervals: in each slot of `interval` path slots, of each parameter the text of
-/// its last sample there. Refers to the profile, which must stay loaded.
+/// its last sample there. Refers to the record.
 class KmlPlacemarks {
 public:
-    /// Decodes the samples of the selected parameters in the profile's order. The shared position filter is reset first.
+    /// Decodes the samples of the selected parameters in the profile's order.
     /// @return false when the user cancels.
-    bool collect(const RecordData& data, Profile& profile, const KmlGrid& grid, int interval, const ProgressSpan& progress);
+    bool collect(const RecordData& data, const DecodingContext& context, const Selection& selection, const KmlGrid& grid, int interval,
+                 const ProgressSpan& progress);
     void clear()
     {
         mColumns.clear();
@@ -22,7 +23,7 @@ public:
     /// Calls `visit` with every slot in which a parameter has a sample, in ascending order, until it returns false; forEachText() then
     /// tells of that slot.
     template <typename Visitor> void forEachSlot(Visitor visit);
-    /// Calls `visit` with parameter and display text of every parameter that has a sample in the current slot, in the profile's order.
+    /// Calls `visit` with trace and display text of every parameter that has a sample in the current slot, in the profile's order.
     template <typename Visitor> void forEachText(Visitor visit) const;
 
     /// How many texts there are, and how many of them the visits of forEachSlot() have passed.
@@ -79,7 +80,7 @@ template <typename Visitor> void KmlPlacemarks::forEachText(Visitor visit) const
             continue;
         text.clear();
         column.pTrace->decoder().appendText(column.values[column.next].value, text);
-        visit(column.pTrace->parameter(), text);
+        visit(*column.pTrace, text);
     }
 }
 

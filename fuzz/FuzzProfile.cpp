@@ -190,7 +190,7 @@ void decodeSingly(Profile& profile, const ProfileParameter& parameter, const std
 /// Whole columns: the same bits as one by one.
 void decodeColumn(const Profile& profile, const ProfileParameter& parameter, const std::vector<StoredRecord>& records)
 {
-    const ValueDecoder decoder = profile.decoder(parameter);
+    const ValueDecoder decoder = profile.context().decoder(parameter);
     std::vector<double> values(records.size());
     std::vector<double> textValues(records.size());
     CoordinateFilter columns[2];

@@ -3,50 +3,14 @@
 
     fuzz/make-seeds.py FOLDER
 
-FOLDER/FuzzRecordFile gets record files of both byte orders: whole, empty, cut, damaged. FOLDER/FuzzProfile gets the commands of
-FuzzProfile.cpp for small profiles of each data type, with the messages that they decode. FOLDER/FuzzProject gets project files: whole,
-of other encodings, with foreign elements, damaged.
+FOLDER/FuzzProfile gets the commands of FuzzProfile.cpp for small profiles of each data type, with the messages that they decode.
+FOLDER/FuzzProject gets project files: whole, of other encodings, with foreign elements, damaged. Record files are made by RecordSeeds.cpp.
 """
 
 import os
 import re
 import struct
 import sys
-
-# ------------------------------------------------------------------------------------------------------------- record files
-
-
-def header(order, date=(2024, 5, 17, 10, 30, 0), ticks=(0, 32000000)):
-    year, *rest = date
-    texts = struct.pack('13s13s13s13s13s7s', b'PART-A', b'ECU', b'ENG-0001', b'TYPE', b'PART-B', b'1.2.3')
-    return (struct.pack(order + 'H10xh', 0xABBA, year) + bytes(rest) + b'\0' + struct.pack(order + 'IIII', *ticks, 1, 4711) + texts).ljust(128, b'\0')
-
-
-def record(order, number, kind=2, identifier=500, ticks=None, value=1.5):
-    payload = struct.pack('>BBBBf', 1, 2, 0, number & 255, value)
-    ticks = number * 3200000 if ticks is None else ticks
-    return payload + bytes((7, 9)) + struct.pack(order + 'HIHHII', kind, identifier, 11, 13, ticks >> 32, ticks & 0xFFFFFFFF)
-
-
-def record_seeds():
-    for name, order in [('little', '<'), ('big', '>')]:
-        plain = [record(order, i, i % 3, 500 + i % 4) for i in range(40)]
-        yield f'{name}-empty', header(order)
-        yield f'{name}-one', header(order) + record(order, 1)
-        yield f'{name}-plain', header(order) + b''.join(plain)
-        yield f'{name}-cut-header', header(order)[:77]
-        yield f'{name}-cut-record', (header(order) + b''.join(plain[:5]))[:-9]
-        yield f'{name}-no-clock', header(order, (0, 0, 0, 0, 0, 0)) + plain[0]
-        yield f'{name}-bad-clock', header(order, (2024, 2, 30, 24, 61, 61)) + plain[0]
-        yield f'{name}-backwards', header(order) + b''.join(record(order, i, i % 3, 500, (20 - i * 7 % 20) * 10 ** 7) for i in range(20))
-        yield f'{name}-equal-times', header(order) + b''.join(record(order, i, 0, 500 + i % 2, 5) for i in range(12))
-        yield f'{name}-high-word', header(order) + b''.join(record(order, i, 1, 500, (i << 32) + 1) for i in range(6))
-        yield f'{name}-late', header(order) + record(order, 1, ticks=2 ** 64 - 1)
-        yield f'{name}-own-pseudo', header(order) + b''.join(record(order, i, i % 2, 0x7FFFFFFE + i % 3) for i in range(6))
-        yield f'{name}-many-channels', header(order) + b''.join(record(order, i, 0, i * 2654435761 % 2 ** 29) for i in range(60))
-    yield 'damaged-mark', b'\x12\x34' + header('>')[2:] + record('>', 1)
-    yield 'nothing', b''
-
 
 # ----------------------------------------------------------------------------------------------------------------- profiles
 
@@ -136,7 +100,7 @@ def main():
     if len(sys.argv) != 2:
         print(__doc__, file=sys.stderr)
         return 2
-    for target, seeds in [('FuzzRecordFile', record_seeds()), ('FuzzProfile', profile_seeds()), ('FuzzProject', project_seeds())]:
+    for target, seeds in [('FuzzProfile', profile_seeds()), ('FuzzProject', project_seeds())]:
         folder = os.path.join(sys.argv[1], target)
         os.makedirs(folder, exist_ok=True)
         for name, content in seeds:

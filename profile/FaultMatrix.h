@@ -11,6 +11,7 @@ struct FaultBit {
     std::string name;
     std::string description; ///< path of the parameter that defines it
     int errorType = eErrorNone;
+    std::string zarnDataType; ///< key of that parameter
 };
 
 /// A 32-bit word of fault bits that a unit sends under one CAN identifier.

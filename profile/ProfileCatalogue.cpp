@@ -1,6 +1,6 @@
 #include "profile/ProfileCatalogue.h"
 
-#include "profile/Profile.h"
+#include "profile/ProfileXml.h"
 
 #include <QDir>
 #include <QFile>
@@ -46,9 +46,9 @@ ProfileCatalogue::ProfileCatalogue(const Console& console, const std::string& re
 
 bool ProfileCatalogue::readProfile(const QString& path, Found& found) const
 {
-    const Profile reader(mConsole);
+    const ProfileXml reader(mConsole);
     QDomDocument document;
-    if (!QFileInfo(path).isFile() || !reader.xmlReadFile(document, path) || !Profile::isProfile(document.documentElement()))
+    if (!QFileInfo(path).isFile() || !reader.xmlReadFile(document, path) || !ProfileXml::isProfile(document.documentElement()))
         return false;
     found = {path, {}};
     for (const ProfileVariant& variant : reader.variantsOf(document.documentElement())) {

@@ -12,7 +12,7 @@ namespace ZARN {
 
 namespace {
 
-QStringList declaredVariants(const Profile& reader, const QDomElement& root, ProfileFindings& findings)
+QStringList declaredVariants(const ProfileXml& reader, const QDomElement& root, ProfileFindings& findings)
 {
     QStringList names;
     for (const ProfileVariant& variant : reader.variantsOf(root)) {
@@ -37,7 +37,7 @@ std::optional<ProfileProblem> ProfileCheck::read(const QString& path, XmlSource&
     if (const auto problem = readXml(encodeFileName(path), source))
         return ProfileProblem{problem->line, problem->column, true, problem->text};
     const QDomElement root = source.document.documentElement();
-    if (Profile::isProfile(root))
+    if (ProfileXml::isProfile(root))
         return std::nullopt;
     const TextPlace place = XmlPlaces(source.text, root).of(root);
     const char* const text =
@@ -59,7 +59,7 @@ std::vector<ProfileProblem> ProfileCheck::problems(const QString& path)
         return {*problem};
     const QDomElement root = source.document.documentElement();
     const Console silent([](std::string_view) {}, [](std::string_view) {});
-    const Profile reader(silent);
+    const ProfileXml reader(silent);
     ProfileFindings findings(source.text, root);
     const QStringList variants = declaredVariants(reader, root, findings);
     ProfileForm(findings, variants).check(root);

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "profile/Profile.h"
 #include "profile/ProfileFindings.h"
+#include "profile/ProfileXml.h"
 
 namespace ZARN {
 
@@ -9,7 +9,7 @@ namespace ZARN {
 /// of units without a conversion, lists out of order, bits that two parameters claim.
 class ProfileLinks {
 public:
-    ProfileLinks(ProfileFindings& findings, const Profile& reader, std::string variant)
+    ProfileLinks(ProfileFindings& findings, const ProfileXml& reader, std::string variant)
         : mFindings(findings), mReader(reader), mVariant(std::move(variant))
     {
     }
@@ -33,7 +33,7 @@ private:
     void claim(Named& taken, const QString& key, const QDomElement& element, const QString& attribute, const QString& outcome);
 
     ProfileFindings& mFindings;
-    const Profile& mReader;
+    const ProfileXml& mReader;
     std::string mVariant;
     Named mUnits, mAllEnums, mAllThresholds, mAllMatrices; ///< of the whole file
     Named mEnums, mThresholds, mMatrices;                  ///< read so far

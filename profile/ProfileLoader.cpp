@@ -2,8 +2,6 @@
 
 #include "profile/CanasType.h"
 
-#include <atomic>
-
 namespace ZARN {
 
 namespace {
@@ -26,18 +24,13 @@ int numberOf(const std::map<std::string, int>& numbers, const std::string& name)
 
 } // namespace
 
-int ProfileLoader::nextIdentity()
+std::shared_ptr<const ProfileModel> ProfileLoader::load(const QDomElement& root)
 {
-    static std::atomic<int> identity{0};
-    return ++identity;
-}
-
-ProfileModel ProfileLoader::load(const QDomElement& root)
-{
-    mModel.version = text(root, "version");
-    mModel.profileId = text(root, "profileId");
-    mModel.name = text(root, "name");
-    mModel.comment = text(root, "comment");
+    mContent.version = text(root, "version");
+    mContent.profileId = text(root, "profileId");
+    mContent.name = text(root, "name");
+    mContent.comment = text(root, "comment");
+    mContent.variant = mVariant;
     forEachChild(root, "", [this](const QDomElement& child) {
         if (child.tagName() == "UnitConversions")
             readUnits(child);
@@ -49,38 +42,38 @@ ProfileModel ProfileLoader::load(const QDomElement& root)
             readDevice(child);
     });
     linkErrorMatrices();
-    return std::move(mModel);
+    return std::make_shared<const ProfileModel>(std::move(mContent));
 }
 
 template <typename Visitor> void ProfileLoader::forEachChild(const QDomElement& parent, const char* name, Visitor visit) const
 {
     for (QDomElement child = parent.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
-        if (mProfile.checkVariant(mVariant, child) && (*name == '\0' || child.tagName() == QLatin1String(name)))
+        if (mXml.checkVariant(mVariant, child) && (*name == '\0' || child.tagName() == QLatin1String(name)))
             visit(child);
     }
 }
 
 std::string ProfileLoader::text(const QDomElement& element, const char* attribute) const
 {
-    return mProfile.xmlGetStdStringAttribute(element.attributes(), QLatin1String(attribute), "");
+    return mXml.xmlGetStdStringAttribute(element.attributes(), QLatin1String(attribute), "");
 }
 
 void ProfileLoader::readUnits(const QDomElement& element)
 {
     forEachChild(element, "Unit", [this](const QDomElement& unit) {
         const QDomNamedNodeMap attributes = unit.attributes();
-        mModel.conversions[text(unit, "unitMetric") + "_" + text(unit, "unitImperial")] = {
-            mProfile.xmlGetDoubleAttribute(attributes, "factor", 0.0), mProfile.xmlGetDoubleAttribute(attributes, "offset", 0.0)};
+        mContent.conversions[text(unit, "unitMetric") + "_" + text(unit, "unitImperial")] = {
+            mXml.xmlGetDoubleAttribute(attributes, "factor", 0.0), mXml.xmlGetDoubleAttribute(attributes, "offset", 0.0)};
     });
 }
 
 void ProfileLoader::readEnums(const QDomElement& element)
 {
     forEachChild(element, "Enum", [this](const QDomElement& list) {
-        EnumList& labels = mModel.enumLists.emplace_back();
-        mEnumNumbers[text(list, "name")] = static_cast<int>(mModel.enumLists.size());
+        EnumList& labels = mContent.enumLists.emplace_back();
+        mEnumNumbers[text(list, "name")] = static_cast<int>(mContent.enumLists.size());
         forEachChild(list, "Value", [&](const QDomElement& value) {
-            labels[mProfile.xmlGetIntAttribute(value.attributes(), "val", 0)] = text(value, "label");
+            labels[mXml.xmlGetIntAttribute(value.attributes(), "val", 0)] = text(value, "label");
         });
     });
 }
@@ -88,11 +81,11 @@ void ProfileLoader::readEnums(const QDomElement& element)
 void ProfileLoader::readThresholds(const QDomElement& element)
 {
     forEachChild(element, "Threshold", [this](const QDomElement& list) {
-        ThresholdList& thresholds = mModel.thresholdLists.emplace_back();
-        mThresholdNumbers[text(list, "name")] = static_cast<int>(mModel.thresholdLists.size());
+        ThresholdList& thresholds = mContent.thresholdLists.emplace_back();
+        mThresholdNumbers[text(list, "name")] = static_cast<int>(mContent.thresholdLists.size());
         forEachChild(list, "Value", [&](const QDomElement& value) {
-            thresholds.push_back({mProfile.xmlGetDoubleAttribute(value.attributes(), "val", 0.0),
-                                  QColor::fromString(mProfile.xmlGetStringAttribute(value.attributes(), "color", "")),
+            thresholds.push_back({mXml.xmlGetDoubleAttribute(value.attributes(), "val", 0.0),
+                                  QColor::fromString(mXml.xmlGetStringAttribute(value.attributes(), "color", "")),
                                   thresholdState(text(value, "state"))});
         });
     });
@@ -100,12 +93,12 @@ void ProfileLoader::readThresholds(const QDomElement& element)
 
 void ProfileLoader::readDevice(const QDomElement& element)
 {
-    mModel.devices.push_back({text(element, "name"), nextIdentity(), {}});
+    mContent.devices.push_back({text(element, "name"), ProfileModel::nextIdentity(), {}});
     forEachChild(element, "", [this](const QDomElement& child) {
         if (child.tagName() == "ErrorMatrix") {
             readErrorMatrix(child);
         } else if (child.tagName() == "Parameter") {
-            ProfileDevice& device = mModel.devices.back();
+            ProfileDevice& device = mContent.devices.back();
             device.parameters.push_back(readParameter(child, device.name));
             noteFaultBit(device.parameters.back());
         }
@@ -114,24 +107,23 @@ void ProfileLoader::readDevice(const QDomElement& element)
 
 void ProfileLoader::readErrorMatrix(const QDomElement& element)
 {
-    mModel.errorMatrices.push_back({mProfile.xmlGetIntAttribute(element.attributes(), "id", 0), text(element, "name"), {}});
+    mContent.errorMatrices.push_back({mXml.xmlGetIntAttribute(element.attributes(), "id", 0), text(element, "name"), {}});
 }
 
 ProfileParameter ProfileLoader::readParameter(const QDomElement& element, const std::string& device) const
 {
     const QDomNamedNodeMap attributes = element.attributes();
     const auto integer = [&](const char* name, int fallback) {
-        return mProfile.xmlGetIntAttribute(attributes, QLatin1String(name), fallback);
+        return mXml.xmlGetIntAttribute(attributes, QLatin1String(name), fallback);
     };
     const auto number = [&](const char* name, double fallback) {
-        return mProfile.xmlGetDoubleAttribute(attributes, QLatin1String(name), fallback);
+        return mXml.xmlGetDoubleAttribute(attributes, QLatin1String(name), fallback);
     };
     ProfileParameter parameter;
     parameter.name = text(element, "name");
     parameter.path = device + "/" + parameter.name;
     parameter.unitMetric = text(element, "unitMetric");
     parameter.unitImperial = text(element, "unitImperial");
-    parameter.unit = mUnit == EUnit::eImperial ? parameter.unitImperial : parameter.unitMetric;
     parameter.viewId = text(element, "viewId");
     parameter.dataType = canasType(text(element, "dataType"));
     parameter.zarnDataType = text(element, "zarnDataType");
@@ -145,21 +137,22 @@ ProfileParameter ProfileLoader::readParameter(const QDomElement& element, const 
     parameter.factor = number("factor", 1.0);
     parameter.precision = integer("precision", 6);
     parameter.errorType = errorType(text(element, "errorType"));
-    parameter.deviceIndex = static_cast<int>(mModel.devices.size());
+    parameter.deviceIndex = static_cast<int>(mContent.devices.size());
     return parameter;
 }
 
 void ProfileLoader::noteFaultBit(const ProfileParameter& parameter)
 {
     // A matrix word has no other bits, and a damaged profile may name as many as it has parameters, for each of its matrices.
-    if (parameter.startBit >= 0 && parameter.startBit < kMatrixBits && !mModel.errorMatrices.empty())
-        mClaims[parameter.id][parameter.startBit] = {{parameter.name, parameter.path, parameter.errorType}, mModel.errorMatrices.size()};
+    if (parameter.startBit >= 0 && parameter.startBit < kMatrixBits && !mContent.errorMatrices.empty())
+        mClaims[parameter.id][parameter.startBit] = {{parameter.name, parameter.path, parameter.errorType, parameter.zarnDataType},
+                                                     mContent.errorMatrices.size()};
 }
 
 void ProfileLoader::linkErrorMatrices()
 {
-    for (std::size_t i = 0; i < mModel.errorMatrices.size(); ++i) {
-        FaultMatrix& matrix = mModel.errorMatrices[i];
+    for (std::size_t i = 0; i < mContent.errorMatrices.size(); ++i) {
+        FaultMatrix& matrix = mContent.errorMatrices[i];
         const auto claims = mClaims.find(matrix.id);
         if (claims == mClaims.end())
             continue;

@@ -1,17 +1,18 @@
 #pragma once
 
-#include "profile/Profile.h"
+#include "profile/ProfileModel.h"
+#include "profile/ProfileXml.h"
+
+#include <memory>
 
 namespace ZARN {
 
 /// Builds the model of a profile document for one variant. Used once for one load.
 class ProfileLoader {
 public:
-    ProfileLoader(const Profile& profile, const std::string& variant, EUnit unit) : mProfile(profile), mVariant(variant), mUnit(unit) {}
+    ProfileLoader(const ProfileXml& xml, const std::string& variant) : mXml(xml), mVariant(variant) {}
 
-    [[nodiscard]] ProfileModel load(const QDomElement& root);
-    /// A number that no profile or device had before.
-    static int nextIdentity();
+    [[nodiscard]] std::shared_ptr<const ProfileModel> load(const QDomElement& root);
 
 private:
     static constexpr int kMatrixBits = 32;
@@ -33,10 +34,9 @@ private:
     void linkErrorMatrices();
     [[nodiscard]] std::string text(const QDomElement& element, const char* attribute) const;
 
-    const Profile& mProfile;
+    const ProfileXml& mXml;
     const std::string& mVariant;
-    EUnit mUnit;
-    ProfileModel mModel;
+    ProfileContent mContent;
     std::map<std::string, int> mEnumNumbers;
     std::map<std::string, int> mThresholdNumbers;
     std::unordered_map<int, std::map<int, Claim>> mClaims; ///< by identifier and bit

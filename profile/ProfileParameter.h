@@ -40,7 +40,6 @@ struct ProfileParameter {
     std::string path; ///< device name, "/", name
     std::string unitMetric;
     std::string unitImperial;
-    std::string unit;   ///< the display unit of the current system
     std::string viewId; ///< "Latitude" and "Longitude" switch on the position decoding
     int dataType = eNoData;
     std::string zarnDataType; ///< the key by which the program finds well-known parameters
@@ -56,6 +55,8 @@ struct ProfileParameter {
     int errorType = eErrorNone;
     int deviceIndex = 0; ///< from 1, in file order
 
+    /// The display unit of a system.
+    [[nodiscard]] const std::string& unit(EUnit system) const { return system == EUnit::eImperial ? unitImperial : unitMetric; }
     [[nodiscard]] uint32_t identifier() const { return static_cast<uint32_t>(id); }
     [[nodiscard]] bool isPosition() const { return dataType == eFloat && (viewId == "Latitude" || viewId == "Longitude"); }
 };

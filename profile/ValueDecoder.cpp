@@ -255,6 +255,13 @@ char* ValueDecoder::writeNumber(double textValue, char* pOut) const
     }
 }
 
+std::string ValueDecoder::text(double textValue) const
+{
+    std::string text;
+    appendText(textValue, text);
+    return text;
+}
+
 void ValueDecoder::appendText(double textValue, std::string& text) const
 {
     char buffer[kNumberTextSize];

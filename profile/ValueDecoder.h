@@ -21,7 +21,7 @@ struct UnitConversion {
 using EnumList = std::map<int, std::string>;
 
 /// How the payloads of one parameter become values and texts: the data type is resolved once, so that loops over millions of
-/// records switch on nothing. Made by Profile::decoder(); refers to the profile's lists and must not outlive the loaded profile.
+/// records switch on nothing. Made by DecodingContext::decoder(); refers to the model's lists and must not outlive it.
 ///
 /// Two kinds of numbers: the value (what getDouble tells) and the text value (what the display text is written from); they
 /// differ by type: whole numbers lose their fraction in texts, floats are rounded to 32 bits, only floats change their unit.
@@ -63,7 +63,8 @@ public:
     {
         return isNumeric() ? toDisplayUnit(value(payload, true, filter)) : 0.0;
     }
-    /// Appends the display text of a text value.
+    /// The display text of a text value; the same appended.
+    [[nodiscard]] std::string text(double textValue) const;
     void appendText(double textValue, std::string& text) const;
     /// Writes the display text when it is a number alone. @return its end, or null for texts with words (use appendText).
     [[nodiscard]] char* writeNumber(double textValue, char* pOut) const;

@@ -7,7 +7,6 @@
 #include "app/SafeFile.h"
 #include "card/CardContainer.h"
 #include "card/FlightFigures.h"
-#include "card/PowerUp.h"
 #include "report/ReportFaults.h"
 #include "report/ReportGraph.h"
 #include "report/ReportMap.h"
@@ -53,7 +52,7 @@ bool FlightReport::write(SafeFile& file, const ReportOptions& options, Progress&
     writer.setPageSize(QPageSize(options.isLetter ? QPageSize::Letter : QPageSize::A4));
     writer.setPageMargins(QMarginsF());
     writer.setResolution(kResolution);
-    writer.setTitle(tr("Flight report") + ", " + mContainer.name());
+    writer.setTitle(tr("Flight report") + ", " + mLoaded.card);
     writer.setCreator(text(Revision::getRevisionString()));
     ReportPages pages(writer, footer());
     if (!writePages(pages, progress))
@@ -77,11 +76,11 @@ bool FlightReport::writePages(ReportPages& pages, Progress& progress)
     writeFlights(pages);
     if (!isWanted(10))
         return false;
-    const EventList limits = limitEvents(mContainer.recordData(), mProfile);
+    const EventList limits = limitEvents(*mLoaded.pRecord, mLoaded.context);
     writeEvents(pages, limits, tr("Exceeded limits"), tr("No limit was exceeded."), {tr("ok"), tr("warning"), tr("limit")});
     if (!isWanted(30))
         return false;
-    const EventList lamps = warningEvents(mContainer.recordData(), mProfile);
+    const EventList lamps = warningEvents(*mLoaded.pRecord, mLoaded.context);
     writeEvents(pages, lamps, tr("Warning lamps"), tr("No warning lamp was lit."), {tr("dark"), tr("yellow"), tr("red")});
     if (!isWanted(45))
         return false;
@@ -97,31 +96,31 @@ bool FlightReport::writePages(ReportPages& pages, Progress& progress)
 
 QString FlightReport::footer() const
 {
-    return text(Revision::getRevisionString()) + "  " + mContainer.name();
+    return text(Revision::getRevisionString()) + "  " + mLoaded.card;
 }
 
 void FlightReport::writeHead(ReportPages& pages) const
 {
     int number = 0;
     const auto chosen = flights(number);
-    const bool isFlight = mContainer.selectedFlight().valid && !chosen.empty();
-    const QString cycle = mContainer.loadedCycleNumber() ? QString::number(*mContainer.loadedCycleNumber()) : tr("single files");
-    pages.pairs({{tr("Card"), mContainer.name()},
-                 {tr("Date, as recorded"), date(PowerUp::ofLoaded(mContainer), tr("no clock"))},
+    const bool isFlight = mLoaded.flight.valid && !chosen.empty();
+    const ProfileModel& model = mLoaded.context.model();
+    const QString cycle = mLoaded.cycle ? QString::number(*mLoaded.cycle) : tr("single files");
+    pages.pairs({{tr("Card"), mLoaded.card},
+                 {tr("Date, as recorded"), date(mLoaded.powerUp, tr("no clock"))},
                  {tr("Power cycle"), isFlight ? tr("%1, flight %2").arg(cycle, QString::number(number)) : cycle},
-                 {tr("From"), CardContainer::time(mContainer.startTime())},
-                 {tr("Profile"), text(mProfile.model().name)},
-                 {tr("To"), CardContainer::time(mContainer.endTime())},
-                 {tr("Variant"), mProfile.currentVariant().empty() ? QStringLiteral("-") : text(mProfile.currentVariant())}});
+                 {tr("From"), CardContainer::time(mLoaded.startTime)},
+                 {tr("Profile"), text(model.name)},
+                 {tr("To"), CardContainer::time(mLoaded.endTime)},
+                 {tr("Variant"), model.variant.empty() ? QStringLiteral("-") : text(model.variant)}});
     pages.line(tr("Times count from the unit's power-up."), true);
 }
 
 void FlightReport::writeUnit(ReportPages& pages) const
 {
-    const RecordCycle* pCycle = mContainer.loadedCycle();
-    if (!pCycle || pCycle->files.empty())
+    if (!mLoaded.unit)
         return;
-    const RecordInfo& unit = pCycle->files.back(); // the first of a cycle may lack what the unit did not know yet
+    const RecordInfo& unit = *mLoaded.unit;
     pages.heading(tr("Engine unit"));
     pages.pairs({{tr("ECU serial number"), QString::number(unit.ecuSerialNumber)},
                  {tr("Engine serial number"), text(unit.engineSerial)},
@@ -135,14 +134,10 @@ void FlightReport::writeUnit(ReportPages& pages) const
 std::vector<RecordFlight> FlightReport::flights(int& firstNumber) const
 {
     firstNumber = 1;
-    const RecordCycle* pCycle = mContainer.loadedCycle();
-    if (!pCycle)
-        return {};
-    const RecordFlight& selected = mContainer.selectedFlight();
-    if (!selected.valid)
-        return pCycle->flights;
-    firstNumber = std::max(mContainer.selectedFlightNumber(), 1);
-    return {selected};
+    if (!mLoaded.cycle || !mLoaded.flight.valid)
+        return mLoaded.flights;
+    firstNumber = std::max(mLoaded.flightNumber, 1);
+    return {mLoaded.flight};
 }
 
 void FlightReport::writeFlights(ReportPages& pages) const
@@ -179,7 +174,7 @@ void FlightReport::writeFigures(ReportPages& pages, const std::vector<RecordFlig
                                           tr("Take-off distance"),
                                           tr("Take-off distance, 15 m")};
     columns.front().cells.append(QStringList(std::begin(labels), std::end(labels)));
-    const QDateTime powerUp = PowerUp::ofLoaded(mContainer);
+    const QDateTime powerUp = mLoaded.powerUp;
     for (const RecordFlight& flight : flights) {
         QStringList cells{date(powerUp.addSecs(saturatingCast<qint64>(flight.takeOffTime)), tr("no clock")), CardContainer::time(flight.takeOffTime),
                           CardContainer::time(flight.landingTime)};
@@ -224,21 +219,21 @@ void FlightReport::writeFaults(ReportPages& pages) const
     std::vector<ReportColumn> columns{{tr("Matrix"), false, {}}, {tr("Bit"), true, {}},   {tr("Kind"), false, {}}, {tr("Fault"), false, {}},
                                       {tr("First"), false, {}},  {tr("Last"), false, {}}, {tr("Times"), true, {}}};
     const QStringList kinds{"", tr("Info"), tr("Warning"), tr("Fault")};
-    for (const ReportFault& fault : presentFaults(mProfile, mContainer.recordData(), mContainer.startTime(), mContainer.endTime())) {
+    for (const ReportFault& fault : presentFaults(mLoaded.context.model(), *mLoaded.pRecord, mLoaded.startTime, mLoaded.endTime)) {
         const QStringList cells{text(fault.pMatrix->name),   QString::number(fault.bit),       kinds.value(fault.pBit->errorType),
                                 text(fault.pBit->name),      CardContainer::time(fault.first), CardContainer::time(fault.last),
                                 QString::number(fault.times)};
         for (std::size_t i = 0; i < columns.size(); ++i)
             columns[i].cells << cells[static_cast<qsizetype>(i)];
     }
-    if (mProfile.errorMatrices().empty())
+    if (mLoaded.context.model().errorMatrices.empty())
         return pages.line(tr("The profile declares no faults."));
     columns.front().cells.isEmpty() ? pages.line(tr("No fault was present.")) : pages.table(columns);
 }
 
 void FlightReport::writeGraph(ReportPages& pages, const EventList& limits) const
 {
-    ReportGraph graph(mContainer, mProfile, limits);
+    ReportGraph graph(mLoaded, limits);
     pages.heading(tr("Main parameters"), graph.isEmpty() ? 20.0 : kGraphHeight);
     if (graph.isEmpty())
         return pages.line(tr("None of them was recorded."));
@@ -249,7 +244,7 @@ void FlightReport::writeGraph(ReportPages& pages, const EventList& limits) const
 
 void FlightReport::writeMap(ReportPages& pages, const EventList& limits) const
 {
-    ReportMap map(mContainer, mProfile.currentUnit() == EUnit::eImperial);
+    ReportMap map(mLoaded);
     pages.heading(tr("Flight path"), map.isEmpty() ? 20.0 : kMapHeight);
     if (map.isEmpty())
         return pages.line(tr("No position was recorded."));

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/Progress.h"
-#include "card/CardContainer.h"
+#include "card/LoadedCard.h"
 
 #include <QCoreApplication>
 
@@ -17,12 +17,13 @@ struct ReportOptions {
 };
 
 /// The loaded cycle or flight on paper, as a PDF of vector graphics: the unit's identity, what flew with its tow statistic, exceeded
-/// limits, warning lamps, faults, the main parameters over time, the flight path on the map. Needs the QGuiApplication, but no screen.
+/// limits, warning lamps, faults, the main parameters over time, the flight path on the map. Needs the QGuiApplication, but no screen, and
+/// may be written on any thread.
 class FlightReport {
     Q_DECLARE_TR_FUNCTIONS(ZARN::FlightReport)
 
 public:
-    FlightReport(const CardContainer& container, Profile& profile) : mContainer(container), mProfile(profile) {}
+    explicit FlightReport(LoadedCard loaded) : mLoaded(std::move(loaded)) {}
 
     /// Opens the file, writes to it and commits it. @return false when it could not be written whole, or was cancelled; the old
     /// file, if any, is then untouched.
@@ -43,11 +44,10 @@ private:
 
     /// The flights that the report is about: the selected one, or all of the cycle; and their numbers, from 1.
     [[nodiscard]] std::vector<RecordFlight> flights(int& firstNumber) const;
-    [[nodiscard]] bool isInside(double time) const { return time >= mContainer.startTime() && time <= mContainer.endTime(); }
+    [[nodiscard]] bool isInside(double time) const { return time >= mLoaded.startTime && time <= mLoaded.endTime; }
     [[nodiscard]] QString footer() const;
 
-    const CardContainer& mContainer;
-    Profile& mProfile;
+    const LoadedCard mLoaded;
     std::string mError;
 };
 

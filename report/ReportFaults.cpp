@@ -42,10 +42,10 @@ void addFaults(const FaultMatrix& matrix, const RecordChannel& channel, double f
 
 } // namespace
 
-std::vector<ReportFault> presentFaults(const Profile& profile, const RecordData& data, double from, double to)
+std::vector<ReportFault> presentFaults(const ProfileModel& model, const RecordData& data, double from, double to)
 {
     std::vector<ReportFault> faults;
-    for (const FaultMatrix& matrix : profile.errorMatrices()) {
+    for (const FaultMatrix& matrix : model.errorMatrices) {
         if (const RecordChannel* pChannel = data.channel(static_cast<uint32_t>(matrix.id)))
             addFaults(matrix, *pChannel, from, to, faults);
     }

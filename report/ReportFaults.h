@@ -1,11 +1,11 @@
 #pragma once
 
 #include "card/record/RecordData.h"
-#include "profile/Profile.h"
+#include "profile/DecodingContext.h"
 
 namespace ZARN {
 
-/// A fault bit that was set, and when. Refers to the profile.
+/// A fault bit that was set, and when. Refers to the model.
 struct ReportFault {
     const FaultMatrix* pMatrix;
     int bit;
@@ -16,6 +16,6 @@ struct ReportFault {
 };
 
 /// The bits of known kinds that were set between two times, in the order of the matrices and of their bits.
-[[nodiscard]] std::vector<ReportFault> presentFaults(const Profile& profile, const RecordData& data, double from, double to);
+[[nodiscard]] std::vector<ReportFault> presentFaults(const ProfileModel& model, const RecordData& data, double from, double to);
 
 } // namespace ZARN

@@ -23,9 +23,9 @@ constexpr double kSmallestSpan = 1.0;  // seconds
 
 } // namespace
 
-ReportGraph::ReportGraph(const CardContainer& container, Profile& profile, const EventList& limits)
-    : mContainer(container), mProfile(profile)
+ReportGraph::ReportGraph(const LoadedCard& loaded, const EventList& limits) : mLoaded(loaded)
 {
+    const ProfileModel& model = loaded.context.model();
     mModel.setMaxParameters(kMostStrips);
     mModel.setOfflineMode(true);
     mModel.setGraphMode(eManual);
@@ -39,35 +39,34 @@ ReportGraph::ReportGraph(const CardContainer& container, Profile& profile, const
     for (int slot = 0; slot < kMostStrips; ++slot)
         mModel.setActive(slot, false);
     std::set<std::string> taken;
-    mProfile.resetCoordinates();
     for (const char* key : kMain) {
-        const ProfileParameter parameter = profile.getParameterFromZarnType(key);
+        const ProfileParameter& parameter = model.ofZarnType(key);
         if (!parameter.name.empty() && taken.insert(parameter.name).second)
             addParameter(parameter);
     }
     for (const int state : {eThresholdLimit, eThresholdWarning}) { // what was worst first: there is room for some only
         for (const Event& event : limits.events()) {
-            const bool isInside = event.state == state && event.time >= container.startTime() && event.time <= container.endTime();
-            const ProfileParameter* pParameter = isInside ? profile.findParameter(limits.source(event).parameter) : nullptr;
+            const bool isInside = event.state == state && event.time >= loaded.startTime && event.time <= loaded.endTime;
+            const ProfileParameter* pParameter = isInside ? model.find(limits.source(event).parameter) : nullptr;
             if (pParameter && taken.insert(pParameter->name).second)
                 addParameter(*pParameter);
         }
     }
-    mModel.setWindow(container.startTime(), std::max(container.endTime(), container.startTime() + kSmallestSpan));
+    mModel.setWindow(loaded.startTime, std::max(loaded.endTime, loaded.startTime + kSmallestSpan));
 }
 
 void ReportGraph::addParameter(const ProfileParameter& parameter)
 {
-    if (!mContainer.recordData().channel(parameter.identifier()) || !mProfile.decoder(parameter).isNumeric())
+    if (!mLoaded.pRecord->channel(parameter.identifier()) || !mLoaded.context.decoder(parameter).isNumeric())
         return;
     if (mUsed == kMostStrips) {
         ++mLeftOut;
         return;
     }
     const int slot = mUsed++;
-    const auto pTrace = TraceSet::one(mContainer.recordData(), mProfile, parameter, ENumber::eDisplay, mProfile.sharedFilter());
+    const auto pTrace = TraceSet::one(*mLoaded.pRecord, mLoaded.context, parameter, ENumber::eDisplay, mFilter);
     describeSlot(mModel, slot, *pTrace);
-    fillSlot(mModel, slot, *pTrace, mContainer.startTime(), mContainer.endTime());
+    fillSlot(mModel, slot, *pTrace, mLoaded.startTime, mLoaded.endTime);
 }
 
 void ReportGraph::draw(PaperCanvas& canvas, const QRectF& place)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "card/CardContainer.h"
+#include "card/LoadedCard.h"
 #include "ui/graph/model/GraphModel.h"
 
 namespace ZARN {
@@ -12,7 +12,8 @@ class PaperCanvas;
 /// that exceeded a limit.
 class ReportGraph {
 public:
-    ReportGraph(const CardContainer& container, Profile& profile, const EventList& limits);
+    /// @param loaded must outlive it
+    ReportGraph(const LoadedCard& loaded, const EventList& limits);
 
     [[nodiscard]] bool isEmpty() const { return mModel.nrActive() == 0; }
     /// How many parameters that exceeded a limit found no room.
@@ -24,8 +25,8 @@ private:
     /// The name of a strip in the place left of it, where it hides no trace.
     void drawName(PaperCanvas& canvas, const GraphParameter& parameter, const QRectF& place) const;
 
-    const CardContainer& mContainer;
-    Profile& mProfile;
+    const LoadedCard& mLoaded;
+    CoordinateFilter mFilter;
     GraphModel mModel;
     int mUsed = 0;
     int mLeftOut = 0;

@@ -67,10 +67,10 @@ double gridStep(double degreesAPoint)
 
 } // namespace
 
-ReportMap::ReportMap(const CardContainer& container, bool isImperial) : mContainer(container), mIsImperial(isImperial)
+ReportMap::ReportMap(const LoadedCard& loaded) : mLoaded(loaded)
 {
     mBaseMap.loadBuiltIn();
-    mPath.setPoints(container.flightPath());
+    mPath.setPoints(*loaded.pPath);
 }
 
 QPointF ReportMap::windowPoint(const FlightPathPoint& point) const
@@ -175,7 +175,7 @@ void ReportMap::drawMarks(Canvas& canvas, const EventList& limits) const
     marks.add(windowPoint(mPath.points().back()), Qt::black);
     std::size_t count = 0;
     for (const Event& event : limits.events()) {
-        if (event.time >= mContainer.startTime() && event.time <= mContainer.endTime() && mPath.spans(event.time) && ++count <= kMostMarks)
+        if (event.time >= mLoaded.startTime && event.time <= mLoaded.endTime && mPath.spans(event.time) && ++count <= kMostMarks)
             marks.addToGroup(windowPoint(mPath.positionAt(event.time)), kExceeded);
     }
     marks.draw(canvas);
@@ -183,7 +183,7 @@ void ReportMap::drawMarks(Canvas& canvas, const EventList& limits) const
 
 MapScaleBar ReportMap::scaleBar() const
 {
-    return MapScaleBar::at(mCamera, kScaleBar, mIsImperial);
+    return MapScaleBar::at(mCamera, kScaleBar, mLoaded.context.unit() == EUnit::eImperial);
 }
 
 void ReportMap::drawScale(Canvas& canvas) const

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "card/CardContainer.h"
+#include "card/LoadedCard.h"
 #include "openstreet/core/BaseMap.h"
 #include "openstreet/core/Camera.h"
 #include "ui/map/model/MapPath.h"
@@ -16,7 +16,8 @@ class EventList;
 /// The flight path of the loaded cycle or flight on the map of the world that comes with the program, with lines of latitude and longitude.
 class ReportMap {
 public:
-    ReportMap(const CardContainer& container, bool isImperial);
+    /// @param loaded must outlive it
+    explicit ReportMap(const LoadedCard& loaded);
 
     [[nodiscard]] bool isEmpty() const { return mPath.isEmpty(); }
     /// @param painter the one that the canvas draws on: outlines with holes are none of a canvas's shapes.
@@ -32,8 +33,7 @@ private:
     void drawScale(Canvas& canvas) const;
     [[nodiscard]] QPointF windowPoint(const FlightPathPoint& point) const;
 
-    const CardContainer& mContainer;
-    bool mIsImperial;
+    const LoadedCard& mLoaded;
     MapPath mPath;
     OpenStreet::BaseMap mBaseMap;
     OpenStreet::Camera mCamera;

@@ -1,18 +1,17 @@
 #include "sim/Airframe.h"
 
 #include <algorithm>
-#include <array>
-#include <cmath>
 
-namespace ZARN {
+namespace ZARN::Sim {
 
 namespace {
 
-constexpr double kRadian = 0.017453292519943295;
 constexpr double kLiftOffSpeed = 29; // m/s through the air
 constexpr double kFlareHeight = 6;
 constexpr double kGlideSlope = 0.09;
 constexpr double kAimingPoint = 60; // m beyond the start of the runway
+const double kRunwaySine = std::sin(kRunwayHeading * kRadian);
+const double kRunwayCosine = std::cos(kRunwayHeading * kRadian);
 
 // The round of a tow: straight out, then a wide left-hand circuit; after the last the round goes on from the second.
 constexpr std::array<RunwayPoint, 6> kTowWaypoints{{{2600, 0}, {3600, 2200}, {2000, 4200}, {-1500, 4200}, {-3500, 2000}, {-2500, -900}}};
@@ -22,30 +21,17 @@ double wrap(double degrees)
     return degrees - 360.0 * std::floor(degrees / 360.0);
 }
 
-/// The way from one heading to another, -180 <= way < 180.
-double turn(double from, double to)
-{
-    return wrap(to - from + 180.0) - 180.0;
-}
-
 double approach(double value, double target, double most)
 {
     return value + std::clamp(target - value, -most, most);
 }
 
-/// A point stays within reach of the tightest turn, or the aircraft would circle about it for ever.
-double captureRadius(bool airborne)
-{
-    return airborne ? 500 : 13;
-}
-
 } // namespace
 
-Airframe::Airframe(const CyclePlan& plan) : mWindSpeed(plan.windSpeed), mWindFrom(plan.windFrom), mLift(0.5, 12, kStep)
+Airframe::Airframe(const CyclePlan& plan) : mWindSpeed(plan.windSpeed), mWindFrom(plan.windFrom)
 {
-    const double along = kRunwayHeading * kRadian;
-    mMotion.east = kParking.along * std::sin(along) - kParking.left * std::cos(along);
-    mMotion.north = kParking.along * std::cos(along) + kParking.left * std::sin(along);
+    mMotion.east = kParking.along * kRunwaySine - kParking.left * kRunwayCosine;
+    mMotion.north = kParking.along * kRunwayCosine + kParking.left * kRunwaySine;
     mMotion.heading = 350;
 }
 
@@ -56,15 +42,14 @@ double Airframe::headWind() const
 
 RunwayPoint Airframe::place() const
 {
-    const double s = std::sin(kRunwayHeading * kRadian);
-    const double c = std::cos(kRunwayHeading * kRadian);
-    return {mMotion.east * s + mMotion.north * c, mMotion.north * s - mMotion.east * c};
+    return {mMotion.east * kRunwaySine + mMotion.north * kRunwayCosine, mMotion.north * kRunwaySine - mMotion.east * kRunwayCosine};
 }
 
-double Airframe::distanceTo(RunwayPoint target) const
+/// A point stays within reach of the tightest turn, or the aircraft would circle about it for ever.
+bool Airframe::isNear(RunwayPoint target) const
 {
     const RunwayPoint here = place();
-    return std::hypot(target.along - here.along, target.left - here.left);
+    return std::hypot(target.along - here.along, target.left - here.left) < (mMotion.airborne ? 500 : 13);
 }
 
 double Airframe::headingTo(RunwayPoint target) const
@@ -75,16 +60,14 @@ double Airframe::headingTo(RunwayPoint target) const
 
 double Airframe::wantedHeading(const Leg& leg)
 {
+    const bool airborne = mMotion.airborne;
     switch (leg.steer) {
     case ESteer::eHold: break;
-    case ESteer::eRunway: {
-        const double most = mMotion.airborne ? 45 : 20;
-        const double gain = mMotion.airborne ? 0.3 : 2;
-        return kRunwayHeading + std::clamp(place().left * gain, -most, most);
-    }
+    case ESteer::eRunway:
+        return kRunwayHeading + (airborne ? std::clamp(place().left * 0.3, -45.0, 45.0) : std::clamp(place().left * 2, -20.0, 20.0));
     case ESteer::eTarget: return headingTo(leg.target);
     case ESteer::eTowCircuit:
-        if (distanceTo(kTowWaypoints[mWaypoint]) < captureRadius(true))
+        if (isNear(kTowWaypoints[mWaypoint]))
             mWaypoint = mWaypoint + 1 < kTowWaypoints.size() ? mWaypoint + 1 : 1;
         return headingTo(kTowWaypoints[mWaypoint]);
     case ESteer::eRightTurn: return mMotion.heading + 30;
@@ -96,26 +79,23 @@ void Airframe::steer(const Leg& leg)
 {
     const double most = mMotion.airborne ? 6 : 25;
     const double hardest = mMotion.airborne ? 3 : 60; // degrees a second, a second: an aircraft has to bank first
-    const double wanted = mMotion.speed < 0.2 ? 0 : std::clamp(turn(mMotion.heading, wantedHeading(leg)) * 0.8, -most, most);
+    double wanted = 0;
+    if (mMotion.speed >= 0.2) {
+        const double turn = wrap(wantedHeading(leg) - mMotion.heading + 180.0) - 180.0;
+        wanted = std::clamp(turn * 0.8, -most, most);
+    }
     mMotion.turnRate = approach(mMotion.turnRate, wanted, hardest * kStep);
     mMotion.heading = wrap(mMotion.heading + mMotion.turnRate * kStep);
 }
 
 void Airframe::accelerate(const Leg& leg, double throttle)
 {
-    double wanted = leg.speed;
-    double most = 0.7;
+    double most = mMotion.airborne ? 1.0 : 0.7;
     if (leg.phase == EPhase::eTakeOffRoll)
         most = 1.75 * (throttle / 100) * (1 - 0.35 * mMotion.speed / kLiftOffSpeed);
     else if (leg.phase == EPhase::eRollOut)
         most = 1.5;
-    else if (mMotion.airborne)
-        most = 1.0;
-    if (mMotion.airborne)
-        wanted -= headWind();
-    const double before = mMotion.speed;
-    mMotion.speed = approach(mMotion.speed, wanted, most * kStep);
-    mMotion.acceleration = (mMotion.speed - before) / kStep;
+    mMotion.speed = approach(mMotion.speed, leg.speed - (mMotion.airborne ? headWind() : 0), most * kStep);
 }
 
 double Airframe::wantedClimb(const Leg& leg, double lift) const
@@ -128,9 +108,8 @@ double Airframe::wantedClimb(const Leg& leg, double lift) const
     return std::clamp(-mMotion.speed * kGlideSlope + 0.2 * (onSlope - mMotion.height), -4.5, 0.5);
 }
 
-void Airframe::climb(const Leg& leg, RandomSource& random)
+void Airframe::climb(const Leg& leg, double lift)
 {
-    const double lift = mLift.step(random);
     if (!mMotion.airborne) {
         mMotion.climb = 0;
         return;
@@ -149,16 +128,17 @@ void Airframe::step(const Leg& leg, double throttle, RandomSource& random)
     accelerate(leg, throttle);
     if (leg.phase == EPhase::eTow)
         mMotion.airborne = true;
-    climb(leg, random);
+    climb(leg, mLift.step(random));
     mMotion.east += mMotion.speed * std::sin(mMotion.heading * kRadian) * kStep;
     mMotion.north += mMotion.speed * std::cos(mMotion.heading * kRadian) * kStep;
+    mMotion.headWind = headWind();
 }
 
 bool Airframe::ended(const Leg& leg, double seconds) const
 {
     switch (leg.end) {
     case ELegEnd::eTime: return seconds >= leg.limit;
-    case ELegEnd::ePoint: return distanceTo(leg.target) < captureRadius(mMotion.airborne);
+    case ELegEnd::ePoint: return isNear(leg.target);
     case ELegEnd::eClimbedTo: return mMotion.height >= leg.limit;
     case ELegEnd::eSunkTo: return mMotion.height <= leg.limit;
     case ELegEnd::eLiftOff: return mMotion.speed + headWind() >= kLiftOffSpeed;
@@ -168,4 +148,4 @@ bool Airframe::ended(const Leg& leg, double seconds) const
     return true;
 }
 
-} // namespace ZARN
+} // namespace ZARN::Sim

@@ -4,10 +4,9 @@
 
 #include <QDateTime>
 
-#include <cstdint>
 #include <vector>
 
-namespace ZARN {
+namespace ZARN::Sim {
 
 /// What happens on one tow with a glider.
 struct TowPlan {
@@ -21,18 +20,18 @@ struct TowPlan {
 
 /// What happens between switching the aircraft's power on and off.
 struct CyclePlan {
-    std::uint64_t seed = 0;      ///< of everything random within this cycle
-    QDateTime powerUp;           ///< UTC
     bool clock = true;           ///< false: no satellites are received, so no file gets a date
     bool generatorFails = false; ///< generator 1 stops some time after the start
     double warmUp = 360;         ///< s
     double groundRun = 0;        ///< s at power on the ground; 0: none
-    std::vector<TowPlan> tows;
-    double windSpeed = 3;      ///< m/s
-    double windFrom = 250;     ///< degrees
-    double temperature = 18;   ///< degrees Celsius at the airfield
-    double qnh = 1018;         ///< hPa
-    double engineWarmth = 0;   ///< 0 cold ... 1 just stopped
+    double engineWarmth = 0;     ///< 0 cold ... 1 just stopped
+    std::vector<TowPlan> tows{};
+    QDateTime powerUp{};    ///< UTC
+    std::uint64_t seed = 0; ///< of everything random within this cycle
+    double windSpeed = 3;   ///< m/s
+    double windFrom = 250;  ///< degrees
+    double temperature = 18; ///< degrees Celsius at the airfield
+    double qnh = 1018;       ///< hPa
 };
 
 /// Plans one power cycle after the other: a ground run, a flight cycle of two tows and a short run without a clock, then
@@ -48,11 +47,8 @@ public:
     CyclePlan next(double previousSeconds);
 
 private:
-    CyclePlan groundRun();
-    CyclePlan storyFlights();
-    CyclePlan shortRun();
+    CyclePlan story();
     CyclePlan towingDay();
-    void setWeather(CyclePlan& plan);
     void advanceClock(double previousSeconds);
 
     RandomSource mRandom;
@@ -60,4 +56,4 @@ private:
     int mCycle = 0;
 };
 
-} // namespace ZARN
+} // namespace ZARN::Sim

@@ -1,152 +1,145 @@
 #include "sim/DemoCard.h"
 
 #include "app/Numeric.h"
+#include "app/SafeFile.h"
 #include "card/record/RecordFormats.h"
 #include "sim/FlightModel.h"
 #include "sim/MessageSchedule.h"
 
-#include <cstdio>
 #include <filesystem>
-#include <system_error>
 
 namespace ZARN {
 
 namespace {
 
-constexpr double kMostHours = 10'000; // keeps the file numbers within five digits
+constexpr double kMostHours = 10'000;      // keeps the file numbers within five digits
 constexpr std::uint64_t kFileSteps = 6000; // the recorder begins a file every ten minutes
-constexpr std::uint64_t kStepTicks = kTicksPerSecond / 10;
 
-CardHeader headerOf(std::uint64_t seed)
+std::string fileName(unsigned number)
 {
-    const unsigned number = static_cast<unsigned>(seed % 1'000'000);
-    char serial[16];
-    std::snprintf(serial, sizeof serial, "DEMO-%06u", number);
-    CardHeader header;
-    header.ecuSerialNumber = 9'150'000 + number % 10'000;
-    header.softwarePartA = "DEMO-LA-02.10";
-    header.softwarePartB = "DEMO-LB-02.10";
-    header.ecuType = "TWO-LANE DEMO";
-    header.engineSerial = serial;
-    header.engineType = "915 TURBO 4";
-    header.emuSoftwareVersion = "01.04.2";
-    return header;
+    return QString::asprintf("/LOG%05u.CAN", number).toStdString();
+}
+
+/// The header of a file. The first of a cycle is begun before any satellite is received, so it has no date.
+void putHeader(const Sim::CyclePlan& plan, std::uint64_t seed, std::uint64_t step, bool firstOfCycle, RecordWriter& writer)
+{
+    const auto number = static_cast<unsigned>(seed % 1'000'000);
+    RecordInfo info;
+    info.busType = 1;
+    info.ecuSerialNumber = 9'150'000 + number % 10'000;
+    info.softwarePartA = "DEMO-LA-02.10";
+    info.softwarePartB = "DEMO-LB-02.10";
+    info.ecuType = "TWO-LANE DEMO";
+    info.engineSerial = QString::asprintf("DEMO-%06u", number).toStdString();
+    info.engineType = "915 TURBO 4";
+    info.emuSoftwareVersion = "01.04.2";
+    if (plan.clock && !firstOfCycle)
+        info.dateTime = plan.powerUp.addMSecs(static_cast<qint64>(step * 100));
+    writer.putHeader(info, step * Sim::MessageSchedule::kStepTicks);
 }
 
 } // namespace
 
-bool DemoCard::prepare(const std::string& directory, const DemoCardOptions& options, std::string& error) const
+bool DemoCard::write(const std::string& directory, const DemoCardOptions& options, std::string& error)
 {
-    if (!(options.hours >= 0 && options.hours <= kMostHours)) {
-        error = "hours: must be a number from 0 to 10000";
+    mOptions = options;
+    mDirectory = directory;
+    mAside = directory + "/.zarn-simulate";
+    mError.clear();
+    mFileNumber = 0;
+    mLogBook = {};
+    bool done = prepare();
+    if (done) {
+        done = writeCycles() && publish();
+        std::error_code ignored;
+        std::filesystem::remove_all(mAside, ignored);
+    }
+    error = mError;
+    return done;
+}
+
+bool DemoCard::prepare()
+{
+    if (!(mOptions.hours >= 0 && mOptions.hours <= kMostHours)) {
+        mError = "hours: must be a number from 0 to 10000";
         return false;
     }
     std::error_code reason;
-    const std::filesystem::path folder(directory);
-    std::filesystem::create_directories(folder, reason);
+    std::filesystem::create_directories(mDirectory, reason);
     std::string first; // by name, of those that are in the way
-    for (std::filesystem::directory_iterator entry(folder, reason), end; !reason && entry != end; entry.increment(reason)) {
+    for (std::filesystem::directory_iterator entry(mDirectory, reason), end; !reason && entry != end; entry.increment(reason)) {
         const std::string name = entry->path().filename().string();
         if (!name.starts_with('.') && RecordFormats::ofName(name) && !entry->is_directory(reason) && (first.empty() || name < first))
             first = name;
     }
-    if (reason || !first.empty()) {
-        error = directory + ": " + (reason ? reason.message() : "holds the record file " + first + " already");
-        return false;
+    if (!reason && first.empty()) {
+        std::filesystem::remove_all(mAside, reason); // of a run that was ended
+        std::filesystem::create_directory(mAside, reason);
     }
-    std::filesystem::remove_all(mDirectory, reason); // of a run that was ended
-    std::filesystem::create_directory(mDirectory, reason);
-    if (reason)
-        error = directory + ": " + reason.message();
-    return !reason;
+    if (reason || !first.empty())
+        mError = mDirectory + ": " + (reason ? reason.message() : "holds the record file " + first + " already");
+    return mError.empty();
 }
 
-bool DemoCard::write(const std::string& directory, const DemoCardOptions& options, std::string& error)
+bool DemoCard::writeCycles()
 {
-    mDirectory = directory + "/.zarn-simulate";
-    mSeed = options.seed;
-    mFileNumber = 0;
-    mLogBook = LogBook();
-    if (!prepare(directory, options, error))
-        return false;
-    const bool done = writeCycles(options, error) && publish(directory, error);
-    std::error_code ignored;
-    std::filesystem::remove_all(mDirectory, ignored);
-    return done;
-}
-
-bool DemoCard::writeCycles(const DemoCardOptions& options, std::string& error)
-{
-    CyclePlanner planner(options.seed);
-    RecordWriter writer(options.bigEndian);
+    Sim::CyclePlanner planner(mOptions.seed);
     double seconds = 0;
-    for (int cycle = 0; cycle < CyclePlanner::kStoryCycles || mLogBook.recordedSeconds < options.hours * 3600; ++cycle) {
-        if (!writeCycle(planner.next(seconds), writer, seconds)) {
-            error = writer.error();
+    for (int cycle = 0; cycle < Sim::CyclePlanner::kStoryCycles || mLogBook.recordedSeconds < mOptions.hours * 3600; ++cycle) {
+        if (!writeCycle(planner.next(seconds), seconds))
             return false;
-        }
     }
     return true;
 }
 
-bool DemoCard::publish(const std::string& directory, std::string& error) const
-{
-    for (unsigned number = 1; number <= mFileNumber; ++number) {
-        std::error_code reason;
-        std::filesystem::rename(mDirectory + fileName(number), directory + fileName(number), reason);
-        if (reason) {
-            error = directory + fileName(number) + ": " + reason.message();
-            while (--number > 0)
-                std::filesystem::remove(directory + fileName(number), reason);
-            return false;
-        }
-    }
-    return true;
-}
-
-std::string DemoCard::fileName(unsigned number)
-{
-    char name[32];
-    std::snprintf(name, sizeof name, "/LOG%05u.CAN", number);
-    return name;
-}
-
-bool DemoCard::writeCycle(const CyclePlan& plan, RecordWriter& writer, double& seconds)
+bool DemoCard::writeCycle(const Sim::CyclePlan& plan, double& seconds)
 {
     // Filled up before each cycle that flies.
     if (!plan.tows.empty())
         mLogBook.fuelLeft = mLogBook.fuelRight = 48;
-    FlightModel model(plan, mLogBook);
-    MessageSchedule schedule(model.snapshot());
-    RandomSource random(plan.seed ^ 0xC0FFEE);
+    Sim::FlightModel model(plan, mLogBook);
+    Sim::MessageSchedule schedule;
+    Sim::RandomSource random(plan.seed ^ 0xC0FFEE);
+    RecordWriter writer(mOptions.bigEndian);
     const std::uint64_t firstStep = 24 + random.below(12); // the recorder needs some seconds before it records
     std::uint64_t step = 0;
-    std::uint64_t fileEnd = 0;
     for (; model.step(); ++step) {
         if (step < firstStep)
             continue;
-        if (step >= fileEnd) {
-            if (!beginFile(plan, writer, step, step == firstStep))
+        if ((step - firstStep) % kFileSteps == 0) {
+            if (step > firstStep && !save(writer.bytes()))
                 return false;
-            fileEnd = step + kFileSteps;
+            putHeader(plan, mOptions.seed, step, step == firstStep, writer);
         }
-        if (!writer.append(schedule.records(step, random)))
-            return false;
+        schedule.write(step, model.snapshot(), random, writer);
     }
-    seconds = static_cast<double>(step) * kStep;
-    return writer.close();
+    seconds = static_cast<double>(step) * Sim::kStep;
+    return save(writer.bytes());
 }
 
-/// The first file of a cycle is begun before any satellite is received, so it has no date.
-bool DemoCard::beginFile(const CyclePlan& plan, RecordWriter& writer, std::uint64_t step, bool firstOfCycle)
+/// Writes the next file and leaves no bytes of it.
+bool DemoCard::save(std::string& bytes)
 {
-    if (writer.isOpen() && !writer.close())
-        return false;
-    CardHeader header = headerOf(mSeed);
-    header.ticks = step * kStepTicks;
-    if (plan.clock && !firstOfCycle)
-        header.dateTime = plan.powerUp.addMSecs(saturatingCast<qint64>(static_cast<double>(step) * kStep * 1000));
-    return writer.open(mDirectory + fileName(++mFileNumber), header);
+    SafeFile file(mAside + fileName(++mFileNumber));
+    if (!file.open() || !file.write(bytes) || !file.commit())
+        mError = file.error();
+    bytes.clear();
+    return mError.empty();
+}
+
+bool DemoCard::publish()
+{
+    for (unsigned number = 1; number <= mFileNumber; ++number) {
+        std::error_code reason;
+        std::filesystem::rename(mAside + fileName(number), mDirectory + fileName(number), reason);
+        if (reason) {
+            mError = mDirectory + fileName(number) + ": " + reason.message();
+            while (--number > 0)
+                std::filesystem::remove(mDirectory + fileName(number), reason);
+            return false;
+        }
+    }
+    return true;
 }
 
 } // namespace ZARN

@@ -1,10 +1,8 @@
 #pragma once
 
 #include "sim/CyclePlan.h"
-#include "sim/RecordWriter.h"
 #include "sim/Situation.h"
 
-#include <cstdint>
 #include <string>
 
 namespace ZARN {
@@ -29,18 +27,18 @@ public:
     bool write(const std::string& directory, const DemoCardOptions& options, std::string& error);
 
 private:
-    bool prepare(const std::string& directory, const DemoCardOptions& options, std::string& error) const;
-    bool writeCycles(const DemoCardOptions& options, std::string& error);
-    bool publish(const std::string& directory, std::string& error) const;
-    bool writeCycle(const CyclePlan& plan, RecordWriter& writer, double& seconds);
-    bool beginFile(const CyclePlan& plan, RecordWriter& writer, std::uint64_t step, bool firstOfCycle);
+    bool prepare();
+    bool writeCycles();
+    bool writeCycle(const Sim::CyclePlan& plan, double& seconds);
+    bool save(std::string& bytes);
+    bool publish();
 
-    [[nodiscard]] static std::string fileName(unsigned number);
-
-    std::string mDirectory; ///< where the files are written
-    std::uint64_t mSeed = 0;
+    DemoCardOptions mOptions;
+    std::string mDirectory;
+    std::string mAside; ///< where the files are written
+    std::string mError;
     unsigned mFileNumber = 0;
-    LogBook mLogBook;
+    Sim::LogBook mLogBook;
 };
 
 } // namespace ZARN

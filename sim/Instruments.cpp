@@ -3,25 +3,19 @@
 #include "app/Numeric.h"
 
 #include <algorithm>
-#include <cmath>
 
-namespace ZARN {
+namespace ZARN::Sim {
 
 namespace {
 
-constexpr double kRadian = 0.017453292519943295;
 constexpr double kMetresPerDegree = 111120;
 constexpr double kSelfTestSeconds = 6;
 constexpr double kTimeSeconds = 18; // the receiver knows the time
 constexpr double kFixSeconds = 36;  // and then the place
 constexpr double kHeightFixSeconds = 47;
+constexpr double kWarm = 60; // degrees Celsius of the coolant
 constexpr double kRatedPower = 104; // kW
 constexpr double kGear = 2.43;
-
-template <typename Enum> double number(Enum value)
-{
-    return static_cast<double>(static_cast<int>(value));
-}
 
 /// Degrees to the form DDDMM.mmmm.
 double degreesAndMinutes(double degrees)
@@ -30,228 +24,206 @@ double degreesAndMinutes(double degrees)
     return whole * 100 + (degrees - whole) * 60;
 }
 
-bool alone(const Situation& situation, std::size_t lane)
+bool hasSensorFault(const Situation& now, std::size_t lane)
 {
-    return situation.leg.laneOn[lane] && !situation.leg.laneOn[1 - lane];
+    return now.incidents.egtSensor && lane == 1;
+}
+
+void readLaneAir(const Situation& now, RandomSource& random, std::size_t lane, double* values)
+{
+    const Engine& engine = now.engine;
+    values[eEngineSpeed] = engine.speed > 0 ? std::max(0.0, engine.speed + random.noise(9)) : 0;
+    values[eManifoldPressure] = engine.manifoldPressure + random.noise(1.5) + (lane == 0 ? 0.6 : -0.4);
+    values[eThrottle] = std::clamp(now.throttle + random.noise(0.15), 0.0, 100.0);
+    values[eBoostPressure] = engine.boostPressure + random.noise(1.5);
+    values[eBoostTarget] = engine.boostTarget;
+    values[eAmbientPressure] = now.ambientPressure + random.noise(0.2);
+    for (std::size_t cylinder = 0; cylinder < engine.egt.size(); ++cylinder) {
+        const double measured = engine.egt[cylinder] + random.noise(0.5) + (lane == 0 ? 0.5 : -1.0);
+        // Without its sensor the lane goes on with the last good value.
+        if (!(hasSensorFault(now, lane) && cylinder == 2))
+            values[eEgts + cylinder] = measured;
+    }
+}
+
+/// Each lane feeds half of the injectors' time; a lane alone feeds all of it.
+void readLaneFuel(const Situation& now, RandomSource& random, std::size_t lane, double* values)
+{
+    const Engine& engine = now.engine;
+    const double power = engine.relativePower;
+    values[eLoad] = std::round(100 * power);
+    if (!(now.leg.laneOn[lane] && now.leg.engine && engine.speed > 0)) {
+        for (const ELaneValue value : {eFuelFlow, eInjectionTime, eInjectionDuty, eIgnitionTiming, eLambda, eFuelTrim, eWastegate, eKnock})
+            values[value] = 0;
+        return;
+    }
+    const double share = now.leg.laneOn[1 - lane] ? 0.5 : 1.0;
+    values[eFuelFlow] = engine.fuelFlow * share * (1 + random.noise(0.012));
+    values[eInjectionTime] = engine.fuelFlow / engine.speed * 1400 * (1 + random.noise(0.01));
+    values[eInjectionDuty] = values[eInjectionTime] * engine.speed / 1200;
+    values[eIgnitionTiming] = 8 + 20 * engine.speed / 5450 - 6 * power + random.noise(0.2);
+    values[eLambda] = 1.0 - 0.16 * power + random.noise(0.008);
+    values[eFuelTrim] = std::round(2 - 3 * power + random.noise(1));
+    values[eWastegate] = std::clamp(100 - 85 * power + random.noise(0.6), 0.0, 100.0);
+    values[eKnock] = 14 + 22 * power + random.noise(8);
+}
+
+void readLaneLiquids(const Situation& now, RandomSource& random, double* values)
+{
+    const Engine& engine = now.engine;
+    values[eCoolant] = engine.coolant + random.noise(0.08);
+    values[eOilTemperature] = engine.oilTemperature + random.noise(0.08);
+    values[eOilPressure] = engine.oilPressure > 0.05 ? engine.oilPressure + random.noise(0.02) : 0;
+    values[eManifoldTemperature] = engine.manifoldTemperature + random.noise(0.08);
+    values[eFuelPressure] = std::max(0.0, engine.fuelPressure + random.noise(0.015));
+    values[eControlTemperature] = now.outsideTemperature + 12 * (1 - std::exp(-now.seconds / 900)) + random.noise(0.1);
+    values[eSupplyVoltage] = now.electrical.voltage - 0.12 + random.noise(0.015);
+    values[eInjectorVoltage] = now.electrical.voltage - 0.2 + random.noise(0.03);
+    values[eSeconds] = std::floor(now.logBook.controlSeconds);
+}
+
+void readLaneStates(const Situation& now, std::size_t lane, double* values)
+{
+    const bool fault = hasSensorFault(now, lane);
+    values[eState] = now.seconds < kSelfTestSeconds ? kSelfTest
+                     : !now.leg.laneOn[lane]        ? kOff
+                     : fault                        ? kDegraded
+                     : now.leg.engine               ? kActive
+                                                    : kStandby;
+    values[eSensorEgt3] = fault ? 4 : 0; // a substitute value
+    // The maps of the fuel table: start, warm-up, economy, power, take-off.
+    values[eFuelMap] = !now.leg.engine ? 0 : (now.engine.coolant < kWarm ? 1 : (now.throttle > 92 ? 4 : (now.throttle > 70 ? 3 : 2)));
+}
+
+/// What the monitoring unit combines from both lanes.
+void readEngine(const Situation& now, Snapshot& values)
+{
+    const double *a = values.lane(0), *b = values.lane(1);
+    const auto mean = [a, b](ELaneValue value) { return (a[value] + b[value]) / 2; };
+    values[eSpeed] = mean(eEngineSpeed);
+    values[ePropellerSpeed] = values[eSpeed] / kGear;
+    values[eMeanManifoldPressure] = mean(eManifoldPressure);
+    values[eRelativePower] = 100 * now.engine.relativePower;
+    values[ePower] = kRatedPower * now.engine.relativePower;
+    values[eTorque] = values[eSpeed] > 600 ? values[ePower] * 9549 / values[eSpeed] : 0;
+    values[eTotalFlow] = a[eFuelFlow] + b[eFuelFlow];
+    values[eFuelUsed] = now.fuelUsed;
+    values[eHighestEgt] = *std::max_element(a + eEgts, a + eCoolant);
+    values[eEgtSpread] = values[eHighestEgt] - *std::min_element(a + eEgts, a + eCoolant);
+    values[eMeanCoolant] = mean(eCoolant);
+    values[eMeanOilTemperature] = mean(eOilTemperature);
+    values[eLowestOilPressure] = std::min(a[eOilPressure], b[eOilPressure]);
+    values[eGearboxTemperature] = now.engine.oilTemperature - 6;
+    values[eIntercoolerTemperature] = now.engine.manifoldTemperature + 9;
+    // Stopped, cranking, running, warm-up, shutting down.
+    values[eEngineState] = now.leg.engine ? (now.engine.coolant < kWarm ? 3 : 2) : (now.isCranking() ? 1 : 0);
+    if (!now.leg.engine && !now.isCranking() && now.engine.speed >= 1 && now.runningSeconds > 0)
+        values[eEngineState] = 4;
+}
+
+void readMonitor(const Situation& now, Snapshot& values)
+{
+    const LogBook& book = now.logBook;
+    values[eEngineSeconds] = std::floor(book.engineSeconds);
+    values[eStarts] = book.starts;
+    values[eSecondsSinceStart] = std::floor(now.runningSeconds);
+    values[eTotalFuel] = std::floor(book.totalFuel);
+    values[eFuelLeft] = std::max(0.0, book.fuelLeft);
+    values[eFuelRight] = std::max(0.0, book.fuelRight);
+    values[eMonitorTemperature] = std::round(now.outsideTemperature + 9);
+    values[eCardFree] = std::max(1.0, std::round(93 - book.recordedSeconds / 3600 * 0.3));
+    values[eRecorderState] = 1;
+}
+
+void readElectrical(const Situation& now, RandomSource& random, Snapshot& values)
+{
+    const Electrical& state = now.electrical;
+    values[eMainBus] = state.voltage + random.noise(0.015);
+    values[eEssentialBus] = state.voltage - 0.06 + random.noise(0.015);
+    values[eBatteryCurrent] = state.batteryCurrent + random.noise(0.2);
+    values[eBatteryTemperature] = now.outsideTemperature + 3;
+    for (std::size_t i = 0; i < 2; ++i) {
+        const bool failed = i == 0 && now.incidents.generator;
+        values[eGeneratorCurrents + i] = state.generatorCurrent[i] > 0 ? state.generatorCurrent[i] + random.noise(0.2) : 0;
+        values[eGeneratorStates + i] = failed ? 2 : (now.leg.engine ? 1 : 0);
+    }
+    values[eFuelPumps] = now.leg.engine || now.isCranking() ? 1 : 0;
+    const bool low = now.motion.height < 150 && now.throttle > 12;
+    values[eFuelPumps + 1] = low ? values[eFuelPumps] : 0;
+    values[eStarter] = now.isCranking() ? 1 : 0;
+}
+
+void readAir(const Situation& now, RandomSource& random, Snapshot& values)
+{
+    const Motion& motion = now.motion;
+    values[ePressure] = now.ambientPressure + random.noise(0.1);
+    values[eTemperature] = now.outsideTemperature + random.noise(0.05);
+    const double standard = 15 - 0.0065 * now.pressureAltitude;
+    values[eDensityAltitude] = now.pressureAltitude + 36.6 * (now.outsideTemperature - standard);
+    values[eHumidity] = std::round(std::clamp(62 + 0.01 * motion.height, 0.0, 100.0));
+    const double through = std::max(0.0, motion.speed + motion.headWind);
+    const double density = now.ambientPressure / 1013.25 * 288.15 / (now.outsideTemperature + 273.15);
+    values[eTrueSpeed] = through > 8 ? through * 3.6 + random.noise(0.5) : 0;
+    values[eIndicatedSpeed] = values[eTrueSpeed] * std::sqrt(density);
+    values[ePressureAltitude] = now.pressureAltitude + random.noise(0.3);
+    values[eVario] = motion.climb + random.noise(0.1);
+    values[eAirTemperature] = now.outsideTemperature + random.noise(0.1);
+    const double side = motion.speed * motion.turnRate * kRadian / 9.81;
+    values[eAcceleration] = std::sqrt(1 + side * side) + random.noise(motion.airborne ? 0.06 : 0.01);
 }
 
 } // namespace
 
-Instruments::Instruments(const CyclePlan& plan)
-    : mSatellites(plan.clock), mQnh(plan.qnh), mPowerUp(plan.powerUp), mEastError(0.7, 40, kStep), mNorthError(0.7, 40, kStep),
-      mAltitudeError(0.4, 60, kStep)
+void Instruments::read(const Situation& situation, RandomSource& random, Snapshot& values)
 {
-}
-
-void Instruments::read(const Situation& situation, RandomSource& random, Snapshot& snapshot)
-{
-    for (std::size_t lane = 0; lane < snapshot.lanes.size(); ++lane)
-        readLane(situation, random, lane, snapshot.lanes[lane]);
-    readEngine(situation, snapshot);
-    readMonitor(situation, snapshot);
-    readElectrical(situation, random, snapshot);
-    readAmbient(situation, random, snapshot);
-    readAir(situation, random, snapshot.air);
-    readGps(situation, random, snapshot.gps);
-}
-
-void Instruments::readLane(const Situation& situation, RandomSource& random, std::size_t lane, LaneValues& values)
-{
-    const EngineCondition& engine = situation.engine;
-    values.engineSpeed = engine.speed > 0 ? std::max(0.0, engine.speed + random.noise(9)) : 0;
-    values.manifoldPressure = engine.manifoldPressure + random.noise(1.5) + (lane == 0 ? 0.6 : -0.4);
-    values.throttle = std::clamp(situation.throttle + random.noise(0.15), 0.0, 100.0);
-    values.boostPressure = engine.boostPressure + random.noise(1.5);
-    values.boostTarget = engine.boostTarget;
-    values.ambientPressure = situation.ambientPressure + random.noise(0.2);
-    for (std::size_t cylinder = 0; cylinder < values.egt.size(); ++cylinder) {
-        const double measured = engine.egt[cylinder] + random.noise(0.5) + (lane == 0 ? 0.5 : -1.0);
-        // Without its sensor the lane goes on with the last good value.
-        if (!(situation.incidents.egtSensor && lane == 1 && cylinder == 2))
-            values.egt[cylinder] = measured;
+    for (std::size_t lane = 0; lane < 2; ++lane) {
+        readLaneAir(situation, random, lane, values.lane(lane));
+        readLaneFuel(situation, random, lane, values.lane(lane));
+        readLaneLiquids(situation, random, values.lane(lane));
+        readLaneStates(situation, lane, values.lane(lane));
     }
-    readLaneFuel(situation, random, lane, values);
-    readLaneLiquids(situation, random, values);
-    readLaneStates(situation, lane, values);
+    readEngine(situation, values);
+    readMonitor(situation, values);
+    readElectrical(situation, random, values);
+    readAir(situation, random, values);
+    values[eQnh] = mQnh;
+    readGps(situation, random, values);
 }
 
-/// Each lane feeds half of the injectors' time; a lane alone feeds all of it.
-void Instruments::readLaneFuel(const Situation& situation, RandomSource& random, std::size_t lane, LaneValues& values) const
-{
-    const EngineCondition& engine = situation.engine;
-    const bool on = situation.leg.laneOn[lane] && situation.leg.engine && engine.speed > 0;
-    const double share = on ? (alone(situation, lane) ? 1.0 : 0.5) : 0;
-    values.fuelFlow = share > 0 ? engine.fuelFlow * share * (1 + random.noise(0.012)) : 0;
-    values.injectionTime = on ? engine.fuelFlow / engine.speed * 1400 * (1 + random.noise(0.01)) : 0;
-    values.injectionDuty = values.injectionTime * engine.speed / 1200;
-    values.ignitionTiming = on ? 8 + 20 * engine.speed / 5450 - 6 * engine.relativePower + random.noise(0.2) : 0;
-    values.lambda = on ? 1.0 - 0.16 * engine.relativePower + random.noise(0.008) : 0;
-    values.fuelTrim = on ? std::round(2 - 3 * engine.relativePower + random.noise(1)) : 0;
-    values.wastegate = on ? std::clamp(100 - 85 * engine.relativePower + random.noise(0.6), 0.0, 100.0) : 0;
-    values.knock = on ? 14 + 22 * engine.relativePower + random.noise(8) : 0;
-    values.load = std::round(100 * engine.relativePower);
-}
-
-void Instruments::readLaneLiquids(const Situation& situation, RandomSource& random, LaneValues& values) const
-{
-    const EngineCondition& engine = situation.engine;
-    values.coolant = engine.coolant + random.noise(0.08);
-    values.oilTemperature = engine.oilTemperature + random.noise(0.08);
-    values.oilPressure = engine.oilPressure > 0.05 ? engine.oilPressure + random.noise(0.02) : 0;
-    values.manifoldTemperature = engine.manifoldTemperature + random.noise(0.08);
-    values.fuelPressure = std::max(0.0, engine.fuelPressure + random.noise(0.015));
-    values.controlTemperature = situation.outsideTemperature + 12 * (1 - std::exp(-situation.seconds / 900)) + random.noise(0.1);
-    values.supplyVoltage = situation.electrical.voltage - 0.12 + random.noise(0.015);
-    values.injectorVoltage = situation.electrical.voltage - 0.2 + random.noise(0.03);
-    values.seconds = std::floor(situation.logBook.controlSeconds);
-}
-
-void Instruments::readLaneStates(const Situation& situation, std::size_t lane, LaneValues& values) const
-{
-    const bool sensorFault = situation.incidents.egtSensor && lane == 1;
-    ELaneState state = situation.leg.engine ? ELaneState::eActive : ELaneState::eStandby;
-    if (situation.seconds < kSelfTestSeconds)
-        state = ELaneState::eSelfTest;
-    else if (!situation.leg.laneOn[lane])
-        state = ELaneState::eOff;
-    else if (sensorFault)
-        state = ELaneState::eDegraded;
-    values.state = number(state);
-    values.sensors.fill(number(ESensorState::eOk));
-    if (sensorFault)
-        values.sensors[static_cast<std::size_t>(ESensor::eEgt3)] = number(ESensorState::eSubstitute);
-    // The maps of the fuel table: start, warm-up, economy, power, take-off.
-    values.fuelMap = 0;
-    if (situation.leg.engine)
-        values.fuelMap = situation.engine.coolant < 60 ? 1 : (situation.throttle > 92 ? 4 : (situation.throttle > 70 ? 3 : 2));
-}
-
-void Instruments::readEngine(const Situation& situation, Snapshot& snapshot) const
-{
-    const LaneValues& a = snapshot.lanes[0];
-    const LaneValues& b = snapshot.lanes[1];
-    EngineValues& engine = snapshot.engine;
-    engine.speed = (a.engineSpeed + b.engineSpeed) / 2;
-    engine.propellerSpeed = engine.speed / kGear;
-    engine.manifoldPressure = (a.manifoldPressure + b.manifoldPressure) / 2;
-    engine.relativePower = 100 * situation.engine.relativePower;
-    engine.power = kRatedPower * situation.engine.relativePower;
-    engine.torque = engine.speed > 600 ? engine.power * 9549 / engine.speed : 0;
-    engine.fuelFlow = a.fuelFlow + b.fuelFlow;
-    engine.fuelUsed = situation.fuelUsed;
-    engine.highestEgt = *std::max_element(a.egt.begin(), a.egt.end());
-    engine.egtSpread = engine.highestEgt - *std::min_element(a.egt.begin(), a.egt.end());
-    engine.coolant = (a.coolant + b.coolant) / 2;
-    engine.oilTemperature = (a.oilTemperature + b.oilTemperature) / 2;
-    engine.oilPressure = std::min(a.oilPressure, b.oilPressure);
-    engine.gearboxTemperature = situation.engine.oilTemperature - 6;
-    engine.intercoolerTemperature = situation.engine.manifoldTemperature + 9;
-    EEngineState state = situation.secondsSinceStart > 0 ? EEngineState::eShuttingDown : EEngineState::eStopped;
-    if (situation.leg.engine)
-        state = situation.engine.coolant < 60 ? EEngineState::eWarmUp : EEngineState::eRunning;
-    else if (situation.leg.phase == EPhase::eCranking)
-        state = EEngineState::eCranking;
-    else if (situation.engine.speed < 1)
-        state = EEngineState::eStopped;
-    engine.state = number(state);
-}
-
-void Instruments::readMonitor(const Situation& situation, Snapshot& snapshot) const
-{
-    const LogBook& book = situation.logBook;
-    MonitorValues& monitor = snapshot.monitor;
-    monitor.engineSeconds = std::floor(book.engineSeconds);
-    monitor.starts = book.starts;
-    monitor.secondsSinceStart = std::floor(situation.secondsSinceStart);
-    monitor.totalFuel = std::floor(book.totalFuel);
-    monitor.fuelLeft = std::max(0.0, book.fuelLeft);
-    monitor.fuelRight = std::max(0.0, book.fuelRight);
-    monitor.temperature = std::round(situation.outsideTemperature + 9);
-    monitor.cardFree = std::max(1.0, std::round(93 - book.recordedSeconds / 3600 * 0.3));
-    monitor.recorderState = 1;
-}
-
-void Instruments::readElectrical(const Situation& situation, RandomSource& random, Snapshot& snapshot) const
-{
-    const ElectricalState& state = situation.electrical;
-    ElectricalValues& values = snapshot.electrical;
-    values.mainBus = state.voltage + random.noise(0.015);
-    values.essentialBus = state.voltage - 0.06 + random.noise(0.015);
-    values.batteryCurrent = state.batteryCurrent + random.noise(0.2);
-    values.batteryTemperature = situation.outsideTemperature + 3;
-    for (std::size_t i = 0; i < 2; ++i) {
-        const bool failed = i == 0 && situation.incidents.generator;
-        values.generatorCurrent[i] = state.generatorCurrent[i] > 0 ? state.generatorCurrent[i] + random.noise(0.2) : 0;
-        values.generatorState[i] = failed ? 2 : (situation.leg.engine ? 1 : 0);
-    }
-    const bool pump = situation.leg.engine || situation.leg.phase == EPhase::eCranking;
-    const bool low = situation.motion.height < 150 && situation.throttle > 12;
-    values.fuelPump = {pump ? 1.0 : 0.0, pump && low ? 1.0 : 0.0};
-    values.starter = situation.leg.phase == EPhase::eCranking ? 1 : 0;
-}
-
-void Instruments::readAmbient(const Situation& situation, RandomSource& random, Snapshot& snapshot) const
-{
-    AmbientValues& values = snapshot.ambient;
-    values.pressure = situation.ambientPressure + random.noise(0.1);
-    values.temperature = situation.outsideTemperature + random.noise(0.05);
-    const double standard = 15 - 0.0065 * situation.pressureAltitude;
-    values.densityAltitude = situation.pressureAltitude + 36.6 * (situation.outsideTemperature - standard);
-    values.humidity = std::round(std::clamp(62 + 0.01 * situation.motion.height, 0.0, 100.0));
-}
-
-void Instruments::readAir(const Situation& situation, RandomSource& random, AirValues& values) const
-{
-    const Motion& motion = situation.motion;
-    const double through = std::max(0.0, motion.speed + situation.headWind);
-    const double density = situation.ambientPressure / 1013.25 * 288.15 / (situation.outsideTemperature + 273.15);
-    values.trueSpeed = through > 8 ? through * 3.6 + random.noise(0.5) : 0;
-    values.indicatedSpeed = values.trueSpeed * std::sqrt(density);
-    values.pressureAltitude = situation.pressureAltitude + random.noise(0.3);
-    values.vario = motion.climb + random.noise(0.1);
-    values.temperature = situation.outsideTemperature + random.noise(0.1);
-    const double side = motion.speed * motion.turnRate * kRadian / 9.81;
-    values.acceleration = std::sqrt(1 + side * side) + (motion.airborne ? random.noise(0.06) : random.noise(0.01));
-    values.qnh = mQnh;
-}
-
-void Instruments::readGps(const Situation& situation, RandomSource& random, GpsValues& values)
+void Instruments::readGps(const Situation& now, RandomSource& random, Snapshot& values)
 {
     const double east = mEastError.step(random);
     const double north = mNorthError.step(random);
     const double altitude = mAltitudeError.step(random);
-    const double seconds = situation.seconds;
+    const double seconds = now.seconds;
     if (!mSatellites) {
         // The antenna is covered: now and then a satellite or two, never a time.
-        values.satellites = std::fmod(seconds, 40) < 12 ? 1 : 0;
+        values[eSatellites] = std::fmod(seconds, 40) < 12 ? 1 : 0;
         return;
     }
-    values.satellites = std::min(11.0, std::floor(seconds / 7));
-    values.fix = seconds < kTimeSeconds ? 0 : (seconds < kFixSeconds ? 1 : (seconds < kHeightFixSeconds ? 2 : 3));
+    values[eSatellites] = std::min(11.0, std::floor(seconds / 7));
+    values[eFix] = seconds < kTimeSeconds ? 0 : (seconds < kFixSeconds ? 1 : (seconds < kHeightFixSeconds ? 2 : 3));
     if (seconds >= kTimeSeconds)
-        readGpsTime(situation, values);
+        readTime(seconds, values);
     if (seconds < kFixSeconds)
         return;
-    const Motion& motion = situation.motion;
+    const Motion& motion = now.motion;
     const double perDegreeEast = kMetresPerDegree * std::cos(kFieldLatitude * kRadian);
-    values.latitude = degreesAndMinutes(kFieldLatitude + (motion.north + north) / kMetresPerDegree);
-    values.longitude = degreesAndMinutes(kFieldLongitude + (motion.east + east) / perDegreeEast);
-    values.groundSpeed = std::max(0.0, motion.speed * 3.6 + (motion.speed > 0.1 ? random.noise(0.4) : 0.1));
-    values.track = motion.heading;
+    values[eLatitude] = degreesAndMinutes(kFieldLatitude + (motion.north + north) / kMetresPerDegree);
+    values[eLongitude] = degreesAndMinutes(kFieldLongitude + (motion.east + east) / perDegreeEast);
+    values[eGroundSpeed] = std::max(0.0, motion.speed * 3.6 + (motion.speed > 0.1 ? random.noise(0.4) : 0.1));
+    values[eTrack] = motion.heading;
     if (seconds < kHeightFixSeconds)
         return;
-    values.altitude = kFieldElevation + motion.height + altitude;
-    values.verticalSpeed = motion.climb + random.noise(0.1);
+    values[eAltitude] = kFieldElevation + motion.height + altitude;
+    values[eVerticalSpeed] = motion.climb + random.noise(0.1);
 }
 
-void Instruments::readGpsTime(const Situation& situation, GpsValues& values) const
+void Instruments::readTime(double seconds, Snapshot& values) const
 {
-    const qint64 midnight = mPowerUp.time().msecsSinceStartOfDay() / 1000;
-    const qint64 second = midnight + saturatingCast<qint64>(situation.seconds);
-    const qint64 ofDay = second % 86400;
-    values.utcTime = static_cast<double>(ofDay / 3600 * 10000 + ofDay / 60 % 60 * 100 + ofDay % 60);
-    const QDate date = mPowerUp.date().addDays(second / 86400);
-    values.utcDate = date.day() * 10000 + date.month() * 100 + date.year() % 100;
+    const QDateTime now = mPowerUp.addSecs(saturatingCast<qint64>(seconds));
+    values[eUtcTime] = now.toString("HHmmss").toDouble();
+    values[eUtcDate] = now.toString("ddMMyy").toDouble();
 }
 
-} // namespace ZARN
+} // namespace ZARN::Sim

@@ -3,36 +3,27 @@
 #include "sim/Situation.h"
 #include "sim/Snapshot.h"
 
-namespace ZARN {
+namespace ZARN::Sim {
 
 /// Turns the true state of the aircraft into what its units measure and send: each lane with sensors of its own, a position
 /// once satellites are received, and the noise of all of them. Lamps and fault words are none of its business.
 class Instruments {
 public:
-    explicit Instruments(const CyclePlan& plan);
+    explicit Instruments(const CyclePlan& plan) : mSatellites(plan.clock), mQnh(plan.qnh), mPowerUp(plan.powerUp) {}
 
-    /// Sets every value of the snapshot but the lamps, the fault words and the lanes' warning level.
-    void read(const Situation& situation, RandomSource& random, Snapshot& snapshot);
+    /// Sets every value but the lamps, the fault words and the lanes' warning level.
+    void read(const Situation& situation, RandomSource& random, Snapshot& values);
 
 private:
-    void readLane(const Situation& situation, RandomSource& random, std::size_t lane, LaneValues& values);
-    void readLaneFuel(const Situation& situation, RandomSource& random, std::size_t lane, LaneValues& values) const;
-    void readLaneLiquids(const Situation& situation, RandomSource& random, LaneValues& values) const;
-    void readLaneStates(const Situation& situation, std::size_t lane, LaneValues& values) const;
-    void readEngine(const Situation& situation, Snapshot& snapshot) const;
-    void readMonitor(const Situation& situation, Snapshot& snapshot) const;
-    void readElectrical(const Situation& situation, RandomSource& random, Snapshot& snapshot) const;
-    void readAmbient(const Situation& situation, RandomSource& random, Snapshot& snapshot) const;
-    void readAir(const Situation& situation, RandomSource& random, AirValues& values) const;
-    void readGps(const Situation& situation, RandomSource& random, GpsValues& values);
-    void readGpsTime(const Situation& situation, GpsValues& values) const;
+    void readGps(const Situation& now, RandomSource& random, Snapshot& values);
+    void readTime(double seconds, Snapshot& values) const;
 
     const bool mSatellites;
     const double mQnh;
     const QDateTime mPowerUp;
-    Drift mEastError;
-    Drift mNorthError;
-    Drift mAltitudeError;
+    Drift mEastError{0.7, 40, kStep};
+    Drift mNorthError{0.7, 40, kStep};
+    Drift mAltitudeError{0.4, 60, kStep};
 };
 
-} // namespace ZARN
+} // namespace ZARN::Sim

@@ -1,66 +1,56 @@
 #pragma once
 
-#include "sim/CardRecord.h"
+#include "card/record/RecordWriter.h"
 #include "sim/RandomSource.h"
 #include "sim/Snapshot.h"
 
-#include <array>
-#include <cstdint>
 #include <vector>
 
-namespace ZARN {
+namespace ZARN::Sim {
 
-/// Which unit sends which value under which identifier and how often, as the CANaerospace messages of the buses. Holds pointers
-/// into the snapshot that it was made with, which must outlive it.
+/// Which unit sends which value under which identifier and how often, as the CANaerospace messages of the buses.
 class MessageSchedule {
 public:
-    explicit MessageSchedule(const Snapshot& snapshot);
+    static constexpr std::uint64_t kStepTicks = 3'200'000; ///< of the unit's counter in a step of 0.1 s
 
-    /// The records of one step of 0.1 s in ascending time, at most as many as there are messages. The vector is the schedule's
-    /// own and is overwritten by the next call.
-    /// @param step counts the steps since power-up.
-    const std::vector<CardRecord>& records(std::uint64_t step, RandomSource& random);
+    MessageSchedule();
+
+    /// Writes the records of one step in ascending time. @param step counts the steps since power-up.
+    void write(std::uint64_t step, const Snapshot& snapshot, RandomSource& random, RecordWriter& writer);
 
 private:
     /// CANaerospace data type codes.
-    enum class EType : std::uint8_t { eFloat = 2, eLong = 3, eUlong = 4, eBlong = 5, eShort = 6, eUshort = 7, eBshort = 8, eChar = 9, eUchar = 10 };
+    enum EType : std::uint8_t { eFloat = 2, eLong = 3, eUlong = 4, eBlong = 5, eShort = 6, eUshort = 7, eBshort = 8, eChar = 9, eUchar = 10 };
     /// Steps of 0.1 s between two messages.
-    enum ERate : unsigned { e10Hz = 1, e5Hz = 2, e2Hz = 5, e1Hz = 10 };
-    enum class ENode : std::uint8_t { eLaneA = 1, eLaneB = 2, eMonitor = 3, eElectrical = 4, eGps = 5, eAirData = 6 };
+    enum ERate : std::uint8_t { e10Hz = 1, e5Hz = 2, e2Hz = 5, e1Hz = 10 };
 
+    /// Messages of one kind with ascending identifiers.
+    struct Group {
+        std::uint32_t first, count;
+        EType type;
+        ERate rate;
+        double perUnit = 1; ///< raw units a unit of the value
+    };
     struct Message {
         std::uint32_t id;
         EType type;
-        ENode node;
+        std::uint8_t node;
         std::uint8_t kind;
         std::uint8_t code; ///< counts the messages of this identifier
-        const double* pValue;
-        double perUnit; ///< raw units a unit of the value
+        double perUnit;
     };
 
-    /// Where and by whom a group of messages is sent.
-    struct Sender {
-        ENode node;
-        std::uint8_t kind;
-    };
+    static const Group kLane[], kMonitor[], kElectrical[], kGps[], kAir[], kLamps[];
 
-    void add(Sender sender, std::uint32_t id, EType type, ERate rate, const double& value, double perUnit = 1);
-    void addLane(Sender sender, std::uint32_t base, std::uint32_t faultId, const LaneValues& lane);
-    void addLaneStates(Sender sender, std::uint32_t base, const LaneValues& lane);
-    void addEngine(const EngineValues& engine);
-    void addMonitor(const MonitorValues& monitor);
-    void addElectrical(const ElectricalValues& electrical, const AmbientValues& ambient);
-    void addGps(const GpsValues& gps);
-    void addAir(const AirValues& air);
-    void addLamps(const std::array<double, kLamps>& lamps);
-    static void encode(const Message& message, CardRecord& record);
+    template <std::size_t Count> void add(std::uint8_t node, std::uint8_t kind, const Group (&groups)[Count], std::uint32_t base = 0);
+    void add(std::uint8_t node, std::uint8_t kind, const Group& group);
+    static Payload encode(const Message& message, double value);
 
     static constexpr std::size_t kRound = 10; ///< steps after which the schedule repeats
 
     std::vector<Message> mMessages;
     std::array<std::vector<std::uint32_t>, kRound> mDue; ///< indexes of the messages of each step of the round
-    std::vector<CardRecord> mRecords;
     std::uint16_t mSequence = 0;
 };
 
-} // namespace ZARN
+} // namespace ZARN::Sim

@@ -3,7 +3,7 @@
 #include <cmath>
 #include <cstdint>
 
-namespace ZARN {
+namespace ZARN::Sim {
 
 /// Random numbers that are the same on every platform for the same seed, which the distributions of the standard library
 /// are not. The generator is xoshiro256** (Blackman and Vigna), its state filled by splitmix64.
@@ -71,4 +71,4 @@ private:
     double mValue = 0;
 };
 
-} // namespace ZARN
+} // namespace ZARN::Sim

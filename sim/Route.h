@@ -2,15 +2,10 @@
 
 #include "sim/CyclePlan.h"
 
-#include <vector>
+namespace ZARN::Sim {
 
-namespace ZARN {
-
-/// The pilot's view of where a power cycle stands.
-enum class EPhase {
-    ePowerUp, eCranking, eWarmUp, eTaxi, eLaneCheck, eGroundRun, eLineUp, eTakeOffRoll, eTow, eRelease, eDescent, ePattern, eFinal,
-    eRollOut, eCoolDown, eShutdown
-};
+/// What of the pilot's doings the aircraft and its units depend on; the ground stands for everything without a rule of its own.
+enum class EPhase { eGround, eCranking, eTakeOffRoll, eTow, eReturn, eFinal, eRollOut };
 
 /// What ends a leg: its time, its target, a height climbed or sunk to, leaving the ground, touching it, a speed slowed to.
 enum class ELegEnd { eTime, ePoint, eClimbedTo, eSunkTo, eLiftOff, eTouchDown, eSlowedTo };
@@ -26,24 +21,23 @@ struct RunwayPoint {
 
 /// One piece of what the pilot does.
 struct Leg {
-    EPhase phase = EPhase::ePowerUp;
+    EPhase phase = EPhase::eGround;
     ELegEnd end = ELegEnd::eTime;
     double limit = 0;    ///< seconds, metres of height or m/s, as the end asks
     double throttle = 0; ///< percent
     ESteer steer = ESteer::eHold;
-    RunwayPoint target;
+    RunwayPoint target{};
     double speed = 0; ///< m/s over ground on the ground, through the air in flight
     double climb = 0; ///< m/s
     bool laneOn[2] = {true, true};
     bool engine = true;
-    int tow = -1; ///< index of the tow that this leg belongs to; -1: none
+    TowPlan tow{}; ///< that the leg belongs to; one without troubles where it belongs to none
 };
 
-/// The runway's direction of take-off in degrees.
-constexpr double kRunwayHeading = 260;
+constexpr double kRunwayHeading = 260; ///< degrees, in the direction of take-off
 constexpr RunwayPoint kParking{-60, -120};
 
 /// The legs of a whole power cycle, in order.
 std::vector<Leg> buildRoute(const CyclePlan& plan);
 
-} // namespace ZARN
+} // namespace ZARN::Sim

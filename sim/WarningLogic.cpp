@@ -1,133 +1,86 @@
 #include "sim/WarningLogic.h"
 
 #include <algorithm>
-#include <cstdint>
 
-namespace ZARN {
+namespace ZARN::Sim {
 
 namespace {
 
-// The bits of a lane's word of faults, as the profile names them.
-enum class EFault : unsigned {
-    eSelfTest = 0, eLaneCheck = 1, eEngineStopped = 2, eWarmUp = 3, eTakeOffPower = 4, eBatterySupply = 5, eTimeNotSet = 6,
-    eOtherLaneOff = 7, eCoolantHigh = 8, eCoolantLimit = 9, eEgtHigh = 10, eEgtLimit = 11, eOilPressureLow = 12, eOilHot = 13,
-    eOverboost = 14, eBoostLimit = 15, eFuelPressureLow = 16, eVoltageLow = 17, eGenerator = 18, eEgt3Sensor = 22
-};
-
-constexpr std::uint32_t kInfoBits = 0x7F; // bits 0 to 6 only inform
+constexpr std::uint32_t kInfoBits = 0x7F; // bits 0 to 6 of a word of faults only inform
 constexpr double kYellow = 1;
 constexpr double kRed = 2;
 
-double& lampOf(Snapshot& snapshot, ELamp lamp)
+void judgeLamps(const Situation& now, Snapshot& values)
 {
-    return snapshot.lamps[static_cast<std::size_t>(lamp)];
-}
-
-double lampOf(const Snapshot& snapshot, ELamp lamp)
-{
-    return snapshot.lamps[static_cast<std::size_t>(lamp)];
-}
-
-/// Collects the bits of a word of faults.
-class FaultWord {
-public:
-    void set(EFault fault, bool on)
-    {
-        if (on)
-            mBits |= 1U << static_cast<unsigned>(fault);
+    double* const lamps = &values[eLamps];
+    const double *a = values.lane(0), *b = values.lane(1);
+    /// A value that must not grow too large; one that must not grow too small is judged by its negative.
+    const auto judge = [lamps](ELamp lamp, double value, double warning, double limit, double hysteresis) {
+        const double lit = lamps[lamp];
+        const bool red = value >= limit - (lit >= kRed ? hysteresis : 0);
+        lamps[lamp] = red ? kRed : (value >= warning - (lit >= kYellow ? hysteresis : 0) ? kYellow : 0);
+    };
+    judge(eCoolantLamp, values[eMeanCoolant], 110, 120, 1.5);
+    judge(eOilTemperatureLamp, values[eMeanOilTemperature], 120, 130, 1.5);
+    judge(eEgtLamp, values[eHighestEgt], 920, 950, 8);
+    judge(eBoostLamp, values[eMeanManifoldPressure], 1500, 1560, 12);
+    judge(eOilPressureLamp, -values[eLowestOilPressure], -1.5, -0.8, 0.08);
+    // The starter pulls the voltage down; the unit does not look while it turns and shortly after.
+    const bool starting = now.isCranking() || (now.leg.engine && now.runningSeconds < 5);
+    judge(eVoltageLamp, starting ? -12.6 : -values[eMainBus], -12.2, -11.5, 0.15);
+    judge(eReserveLamp, -std::min(values[eFuelLeft], values[eFuelRight]), -15, -8, 0.5);
+    judge(eFuelPressureLamp, now.leg.engine ? -std::min(a[eFuelPressure], b[eFuelPressure]) : -3, -2.8, -2.5, 0.05);
+    lamps[eGeneratorLamp] = now.incidents.generator ? kYellow : 0;
+    for (const std::size_t lane : {0, 1}) {
+        const double state = values.lane(lane)[eState];
+        lamps[eLampA + lane] = state == kOff ? kRed : (state == kDegraded ? kYellow : 0);
     }
-    [[nodiscard]] std::uint32_t bits() const { return mBits; }
+}
 
-private:
-    std::uint32_t mBits = 0;
-};
-
-double laneLamp(const LaneValues& lane)
+void judgeLane(const Situation& now, std::size_t lane, Snapshot& values)
 {
-    if (lane.state == static_cast<double>(static_cast<int>(ELaneState::eOff)))
-        return kRed;
-    return lane.state == static_cast<double>(static_cast<int>(ELaneState::eDegraded)) ? kYellow : 0;
+    double* const own = values.lane(lane);
+    const double* const lamps = &values[eLamps];
+    const bool running = now.leg.engine;
+    const bool generator = now.incidents.generator;
+    // In the order of the bits as the profile names them.
+    const bool faults[] = {
+        own[eState] == kSelfTest,                                          // self test
+        !now.leg.laneOn[0] || !now.leg.laneOn[1],                          // lane check
+        !running,                                                          // engine stopped
+        running && own[eCoolant] < 60,                                     // warm-up
+        running && now.throttle > 92,                                      // take-off power
+        !running || generator,                                             // battery supply
+        values[eFix] < 1,                                                  // time not set
+        !now.leg.laneOn[1 - lane],                                         // other lane off
+        lamps[eCoolantLamp] >= kYellow, lamps[eCoolantLamp] >= kRed,       // coolant: high, limit
+        lamps[eEgtLamp] >= kYellow, lamps[eEgtLamp] >= kRed,               // exhaust gas: high, limit
+        now.runningSeconds > 3 && running && lamps[eOilPressureLamp] >= kRed, // a standing engine has no oil pressure; that is no fault
+        lamps[eOilTemperatureLamp] >= kYellow,                             // oil hot
+        lamps[eBoostLamp] >= kYellow, lamps[eBoostLamp] >= kRed,           // overboost, boost limit
+        running && lamps[eFuelPressureLamp] >= kRed,                       // fuel pressure low
+        lamps[eVoltageLamp] >= kYellow,                                    // supply voltage low
+        generator, false, false, false, own[eSensorEgt3] > 0};             // generator failed; bit 22: sensor
+    std::uint32_t word = 0;
+    for (std::size_t bit = 0; bit < std::size(faults); ++bit)
+        word |= static_cast<std::uint32_t>(faults[bit]) << bit;
+    values[eFaultWords + lane] = word;
+    // Levels: none, info, warning, fault.
+    const bool red = std::max({lamps[eCoolantLamp], lamps[eEgtLamp], lamps[eBoostLamp]}) >= kRed || generator;
+    own[eWarning] = red ? 3 : ((word & ~kInfoBits) != 0 ? 2 : (word != 0 ? 1 : 0));
 }
 
 } // namespace
 
-double WarningLogic::high(ELamp lamp, double value, Band band, const Snapshot& snapshot) const
+void judgeWarnings(const Situation& situation, Snapshot& values)
 {
-    const double lit = lampOf(snapshot, lamp);
-    if (value >= band.limit - (lit >= kRed ? band.hysteresis : 0))
-        return kRed;
-    return value >= band.warning - (lit >= kYellow ? band.hysteresis : 0) ? kYellow : 0;
+    judgeLamps(situation, values);
+    judgeLane(situation, 0, values);
+    judgeLane(situation, 1, values);
+    // The master warning repeats the lamps that tell of something while the engine runs.
+    double* const lamps = &values[eLamps];
+    lamps[eMaster] = std::max({lamps[eCoolantLamp], lamps[eOilTemperatureLamp], lamps[eEgtLamp], lamps[eBoostLamp],
+                               lamps[eGeneratorLamp], lamps[eFuelPressureLamp]});
 }
 
-void WarningLogic::judge(const Situation& situation, Snapshot& snapshot)
-{
-    judgeLamps(situation, snapshot);
-    for (std::size_t lane = 0; lane < snapshot.lanes.size(); ++lane)
-        judgeLane(situation, lane, snapshot);
-    judgeMaster(snapshot);
-}
-
-void WarningLogic::judgeLamps(const Situation& situation, Snapshot& snapshot) const
-{
-    const EngineValues& engine = snapshot.engine;
-    const auto set = [&](ELamp lamp, double value, Band band) { lampOf(snapshot, lamp) = high(lamp, value, band, snapshot); };
-    set(ELamp::eCoolant, engine.coolant, {110, 120, 1.5});
-    set(ELamp::eOilTemperature, engine.oilTemperature, {120, 130, 1.5});
-    set(ELamp::eEgt, engine.highestEgt, {920, 950, 8});
-    set(ELamp::eBoost, engine.manifoldPressure, {1500, 1560, 12});
-    // Values that must not grow too small are judged by their negative.
-    set(ELamp::eOilPressure, -engine.oilPressure, {-1.5, -0.8, 0.08});
-    // The starter pulls the voltage down; the unit does not look while it turns and shortly after.
-    const bool starting = situation.leg.phase == EPhase::eCranking || (situation.leg.engine && situation.secondsSinceStart < 5);
-    set(ELamp::eVoltage, starting ? -12.6 : -snapshot.electrical.mainBus, {-12.2, -11.5, 0.15});
-    set(ELamp::eFuelReserve, -std::min(snapshot.monitor.fuelLeft, snapshot.monitor.fuelRight), {-15, -8, 0.5});
-    const double fuelPressure = situation.leg.engine ? std::min(snapshot.lanes[0].fuelPressure, snapshot.lanes[1].fuelPressure) : 3;
-    set(ELamp::eFuelPressure, -fuelPressure, {-2.8, -2.5, 0.05});
-    lampOf(snapshot, ELamp::eGenerator) = situation.incidents.generator ? kYellow : 0;
-    lampOf(snapshot, ELamp::eLaneA) = laneLamp(snapshot.lanes[0]);
-    lampOf(snapshot, ELamp::eLaneB) = laneLamp(snapshot.lanes[1]);
-}
-
-void WarningLogic::judgeLane(const Situation& situation, std::size_t lane, Snapshot& snapshot) const
-{
-    LaneValues& values = snapshot.lanes[lane];
-    const auto lit = [&](ELamp lamp, double level) { return lampOf(snapshot, lamp) >= level; };
-    const bool running = situation.leg.engine;
-    FaultWord word;
-    word.set(EFault::eSelfTest, values.state == static_cast<double>(static_cast<int>(ELaneState::eSelfTest)));
-    word.set(EFault::eLaneCheck, !situation.leg.laneOn[0] || !situation.leg.laneOn[1]);
-    word.set(EFault::eEngineStopped, !running);
-    word.set(EFault::eWarmUp, running && values.coolant < 60);
-    word.set(EFault::eTakeOffPower, running && situation.throttle > 92);
-    word.set(EFault::eBatterySupply, !running || situation.incidents.generator);
-    word.set(EFault::eTimeNotSet, snapshot.gps.fix < 1);
-    word.set(EFault::eOtherLaneOff, !situation.leg.laneOn[1 - lane]);
-    word.set(EFault::eCoolantHigh, lit(ELamp::eCoolant, kYellow));
-    word.set(EFault::eCoolantLimit, lit(ELamp::eCoolant, kRed));
-    word.set(EFault::eEgtHigh, lit(ELamp::eEgt, kYellow));
-    word.set(EFault::eEgtLimit, lit(ELamp::eEgt, kRed));
-    // A standing engine has no oil pressure; that is no fault.
-    word.set(EFault::eOilPressureLow, situation.secondsSinceStart > 3 && running && lit(ELamp::eOilPressure, kRed));
-    word.set(EFault::eOilHot, lit(ELamp::eOilTemperature, kYellow));
-    word.set(EFault::eOverboost, lit(ELamp::eBoost, kYellow));
-    word.set(EFault::eBoostLimit, lit(ELamp::eBoost, kRed));
-    word.set(EFault::eFuelPressureLow, running && lit(ELamp::eFuelPressure, kRed));
-    word.set(EFault::eVoltageLow, lit(ELamp::eVoltage, kYellow));
-    word.set(EFault::eGenerator, situation.incidents.generator);
-    word.set(EFault::eEgt3Sensor, values.sensors[static_cast<std::size_t>(ESensor::eEgt3)] > 0);
-    values.faults = word.bits();
-    // Levels: none, info, warning, fault.
-    const bool red = lit(ELamp::eCoolant, kRed) || lit(ELamp::eEgt, kRed) || lit(ELamp::eBoost, kRed) || situation.incidents.generator;
-    values.warning = red ? 3 : ((word.bits() & ~kInfoBits) != 0 ? 2 : (word.bits() != 0 ? 1 : 0));
-}
-
-/// The master warning repeats the lamps that tell of something while the engine runs.
-void WarningLogic::judgeMaster(Snapshot& snapshot)
-{
-    double most = 0;
-    for (const ELamp lamp : {ELamp::eCoolant, ELamp::eOilTemperature, ELamp::eEgt, ELamp::eBoost, ELamp::eGenerator, ELamp::eFuelPressure})
-        most = std::max(most, lampOf(snapshot, lamp));
-    lampOf(snapshot, ELamp::eMaster) = most;
-}
-
-} // namespace ZARN
+} // namespace ZARN::Sim

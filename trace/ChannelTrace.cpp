@@ -6,12 +6,21 @@
 
 namespace ZARN {
 
-ChannelTrace::ChannelTrace(std::string group, const ProfileParameter& parameter, const ValueDecoder& decoder, const RecordChannel* pChannel,
-                           ENumber kind, CoordinateFilter& filter, double latestTime)
-    : Trace(std::move(group), parameter, decoder), mpEntries(pChannel ? &pChannel->entries : nullptr), mKind(kind)
+ChannelTrace::ChannelTrace(std::string group, const ProfileParameter& parameter, const DecodingContext& context, const RecordChannel* pChannel,
+                           ENumber kind, CoordinateFilter* pFilter, double latestTime)
+    : Trace(std::move(group), parameter, context), mpChannel(pChannel), mpEntries(pChannel ? &pChannel->entries : nullptr), mKind(kind)
 {
-    if (mpEntries && parameter.isPosition() && kind != ENumber::eInteger)
-        decodePositions(filter, latestTime);
+    if (mpEntries && pFilter && parameter.isPosition() && kind != ENumber::eInteger)
+        decodePositions(*pFilter, latestTime);
+}
+
+void ChannelTrace::decodeEach(std::span<const StoredRecord> records, double* pOut) const
+{
+    const std::size_t step = parameter().isPosition() ? 1 : records.size();
+    for (std::size_t first = 0; first < records.size(); first += step) {
+        CoordinateFilter filter;
+        decode(records.subspan(first, step), pOut + first, filter);
+    }
 }
 
 void ChannelTrace::decodePositions(CoordinateFilter& filter, double latestTime)
@@ -61,6 +70,11 @@ void ChannelTrace::decode(std::span<const StoredRecord> records, double* pOut, C
     }
 }
 
+std::vector<PositionRange> ChannelTrace::rangesIn(double from, double to) const
+{
+    return mpChannel ? mpChannel->rangesIn(from, to) : std::vector<PositionRange>();
+}
+
 double ChannelTrace::number(std::size_t position) const
 {
     double number = 0;
@@ -77,13 +91,12 @@ std::size_t ChannelTrace::readTimes(std::size_t position, std::span<double> time
 
 void ChannelTrace::readNumbers(std::size_t position, std::span<double> numbers) const
 {
-    CoordinateFilter unused;
     if (!mTextPositions.empty())
         std::copy_n(mTextPositions.begin() + static_cast<std::ptrdiff_t>(position), numbers.size(), numbers.begin());
     else if (!mPositions.empty())
         std::copy_n(mPositions.begin() + static_cast<std::ptrdiff_t>(position), numbers.size(), numbers.begin());
     else
-        decode(mpEntries->run(position, numbers.size()), numbers.data(), unused);
+        decodeEach(mpEntries->run(position, numbers.size()), numbers.data());
 }
 
 } // namespace ZARN

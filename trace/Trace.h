@@ -1,7 +1,9 @@
 #pragma once
 
-#include "profile/ValueDecoder.h"
+#include "card/record/RecordChannel.h"
+#include "profile/DecodingContext.h"
 
+#include <algorithm>
 #include <limits>
 #include <span>
 #include <string>
@@ -25,13 +27,13 @@ struct TraceRun {
 };
 
 /// The samples of one parameter as numbers over time, wherever they come from. Whoever wants values takes traces and never decodes
-/// by himself. Refers to the profile and to what holds the samples; both must outlive it.
+/// by himself. Holds the profile, and refers to what holds the samples, which must outlive it.
 class Trace {
 public:
     static constexpr std::size_t kRun = 512; ///< samples of a run at most; they stay in the processor's nearest cache
 
-    Trace(std::string group, ProfileParameter parameter, ValueDecoder decoder)
-        : mGroup(std::move(group)), mParameter(std::move(parameter)), mDecoder(std::move(decoder))
+    Trace(std::string group, const ProfileParameter& parameter, const DecodingContext& context)
+        : mContext(context), mGroup(std::move(group)), mParameter(parameter), mDecoder(context.decoder(parameter))
     {
     }
     virtual ~Trace() = default;
@@ -42,7 +44,7 @@ public:
     [[nodiscard]] const std::string& group() const { return mGroup; }
     [[nodiscard]] const ProfileParameter& parameter() const { return mParameter; }
     [[nodiscard]] const std::string& name() const { return mParameter.name; }
-    [[nodiscard]] const std::string& unit() const { return mParameter.unit; }
+    [[nodiscard]] const std::string& unit() const { return mContext.unitOf(mParameter); }
     /// How numbers of the kind eText become texts, and which thresholds they have.
     [[nodiscard]] const ValueDecoder& decoder() const { return mDecoder; }
 
@@ -62,9 +64,13 @@ public:
     /// Memory that the trace itself takes beside its samples.
     [[nodiscard]] virtual std::size_t bytes() const { return 0; }
 
+    /// Where samples may lie whose time is in [from, to], in stored order.
+    [[nodiscard]] virtual std::vector<PositionRange> rangesIn(double /*from*/, double /*to*/) const { return {{0, size()}}; }
+
     /// Calls `visit` with a TraceRun for all samples, in stored order. When `visit` returns a bool, false ends the walk.
     /// @return false when it was ended
-    template <typename Visitor> bool forEachRun(Visitor visit) const;
+    template <typename Visitor> bool forEachRun(Visitor visit) const { return forEachRun({0, size()}, visit); }
+    template <typename Visitor> bool forEachRun(const PositionRange& range, Visitor visit) const;
     /// Calls `visit` with time and number of every sample, in stored order.
     template <typename Visitor> void forEachSample(Visitor visit) const
     {
@@ -73,19 +79,22 @@ public:
                 visit(run.times[i], run.numbers[i]);
         });
     }
+    /// The same for those whose time lies in [from, to].
+    template <typename Visitor> void forEachSampleIn(double from, double to, Visitor visit) const;
 
 private:
+    const DecodingContext mContext;
     const std::string mGroup;
     const ProfileParameter mParameter;
     const ValueDecoder mDecoder;
 };
 
-template <typename Visitor> bool Trace::forEachRun(Visitor visit) const
+template <typename Visitor> bool Trace::forEachRun(const PositionRange& range, Visitor visit) const
 {
     double times[kRun];
     double numbers[kRun];
-    for (std::size_t position = 0; position < size();) {
-        const std::size_t count = readTimes(position, times);
+    for (std::size_t position = range.first; position < range.last;) {
+        const std::size_t count = readTimes(position, std::span(times).first(std::min(kRun, range.last - position)));
         readNumbers(position, {numbers, count});
         const TraceRun run{position, {times, count}, {numbers, count}};
         if constexpr (std::is_void_v<decltype(visit(run))>) {
@@ -96,6 +105,18 @@ template <typename Visitor> bool Trace::forEachRun(Visitor visit) const
         position += count;
     }
     return true;
+}
+
+template <typename Visitor> void Trace::forEachSampleIn(double from, double to, Visitor visit) const
+{
+    for (const PositionRange& range : rangesIn(from, to)) {
+        forEachRun(range, [&](const TraceRun& run) {
+            for (std::size_t i = 0; i < run.times.size(); ++i) {
+                if (run.times[i] >= from && run.times[i] <= to)
+                    visit(run.times[i], run.numbers[i]);
+            }
+        });
+    }
 }
 
 } // namespace ZARN

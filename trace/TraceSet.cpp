@@ -4,15 +4,16 @@
 
 namespace ZARN {
 
-TraceSet::TraceSet(const RecordData* pData, const Profile& profile, ENumber kind, CoordinateFilter& filter, const Wanted& wanted)
+TraceSet::TraceSet(const RecordData* pData, const DecodingContext& context, ENumber kind, const Wanted& wanted, EFixes fixes)
 {
-    filter.reset();
-    for (const ProfileDevice& device : profile.data()) {
+    CoordinateFilter filter;
+    for (const ProfileDevice& device : context.model().devices) {
         for (const ProfileParameter& parameter : device.parameters) {
             if (!wanted(device, parameter))
                 continue;
             const RecordChannel* pChannel = pData ? pData->channel(parameter.identifier()) : nullptr;
-            mTraces.push_back(std::make_unique<ChannelTrace>(device.name, parameter, profile.decoder(parameter), pChannel, kind, filter));
+            mTraces.push_back(std::make_unique<ChannelTrace>(device.name, parameter, context, pChannel, kind,
+                                                             fixes == EFixes::eInPass ? &filter : nullptr));
         }
     }
 }
@@ -22,9 +23,9 @@ TraceSet::Wanted TraceSet::all()
     return [](const ProfileDevice&, const ProfileParameter&) { return true; };
 }
 
-TraceSet::Wanted TraceSet::selected(const Profile& profile)
+TraceSet::Wanted TraceSet::selected(const Selection& selection)
 {
-    return [&profile](const ProfileDevice&, const ProfileParameter& parameter) { return profile.isSelected(parameter.name); };
+    return [&selection](const ProfileDevice&, const ProfileParameter& parameter) { return selection.contains(parameter.name); };
 }
 
 std::size_t TraceSet::bytes() const
@@ -35,10 +36,15 @@ std::size_t TraceSet::bytes() const
     return bytes;
 }
 
-std::unique_ptr<const Trace> TraceSet::one(const RecordData& data, const Profile& profile, const ProfileParameter& parameter, ENumber kind,
+std::unique_ptr<const Trace> TraceSet::one(const RecordData& data, const DecodingContext& context, const ProfileParameter& parameter, ENumber kind)
+{
+    return std::make_unique<ChannelTrace>(std::string(), parameter, context, data.channel(parameter.identifier()), kind, nullptr);
+}
+
+std::unique_ptr<const Trace> TraceSet::one(const RecordData& data, const DecodingContext& context, const ProfileParameter& parameter, ENumber kind,
                                            CoordinateFilter& filter, double latestTime)
 {
-    return std::make_unique<ChannelTrace>(std::string(), parameter, profile.decoder(parameter), data.channel(parameter.identifier()), kind, filter,
+    return std::make_unique<ChannelTrace>(std::string(), parameter, context, data.channel(parameter.identifier()), kind, &filter,
                                           latestTime);
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "card/record/RecordData.h"
-#include "profile/Profile.h"
+#include "profile/Selection.h"
 #include "trace/Trace.h"
 
 #include <functional>
@@ -9,8 +9,14 @@
 
 namespace ZARN {
 
+/// How positions are decoded.
+enum class EFixes {
+    eInPass, ///< each judged by those before it
+    eAlone   ///< each by itself: for few of many samples
+};
+
 /// The traces of a record under a profile, in the profile's order: devices as groups, parameters in them. Making it is one pass over
-/// the positions, in that order. Refers to record and profile.
+/// the positions, in that order. Refers to the record.
 class TraceSet {
 public:
     using Wanted = std::function<bool(const ProfileDevice&, const ProfileParameter&)>;
@@ -18,13 +24,12 @@ public:
     TraceSet() = default;
     explicit TraceSet(std::vector<std::unique_ptr<const Trace>> traces) : mTraces(std::move(traces)) {}
     /// @param pData null: no trace has samples
-    /// @param filter position filter of the pass, reset first
     /// @param wanted which parameters are there, with samples or without
-    TraceSet(const RecordData* pData, const Profile& profile, ENumber kind, CoordinateFilter& filter, const Wanted& wanted);
+    TraceSet(const RecordData* pData, const DecodingContext& context, ENumber kind, const Wanted& wanted, EFixes fixes = EFixes::eInPass);
 
-    /// All parameters, or those whose name is selected.
+    /// All parameters, or those whose name is selected; the selection must outlive what is returned.
     [[nodiscard]] static Wanted all();
-    [[nodiscard]] static Wanted selected(const Profile& profile);
+    [[nodiscard]] static Wanted selected(const Selection& selection);
 
     [[nodiscard]] std::size_t size() const { return mTraces.size(); }
     [[nodiscard]] const Trace& operator[](std::size_t place) const { return *mTraces[place]; }
@@ -32,8 +37,11 @@ public:
     /// Memory that the traces themselves take.
     [[nodiscard]] std::size_t bytes() const;
 
-    /// The trace of a single parameter, its positions advancing the filter where they are any.
-    [[nodiscard]] static std::unique_ptr<const Trace> one(const RecordData& data, const Profile& profile, const ProfileParameter& parameter,
+    /// The trace of a single parameter, each fix of a position by itself.
+    [[nodiscard]] static std::unique_ptr<const Trace> one(const RecordData& data, const DecodingContext& context, const ProfileParameter& parameter,
+                                                          ENumber kind);
+    /// The same as one of several of a pass, positions advancing the filter.
+    [[nodiscard]] static std::unique_ptr<const Trace> one(const RecordData& data, const DecodingContext& context, const ProfileParameter& parameter,
                                                           ENumber kind, CoordinateFilter& filter,
                                                           double latestTime = std::numeric_limits<double>::infinity());
 

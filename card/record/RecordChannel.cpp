@@ -1,6 +1,8 @@
 #include "card/record/RecordChannel.h"
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 
 namespace ZARN {
 
@@ -68,6 +70,22 @@ std::size_t RecordChannel::firstAtOrAfter(double time) const
     return lowerBound(maximum.size(), time, [&maximum](std::size_t i) {
         return recordTime(static_cast<uint32_t>(maximum[i] >> 32), static_cast<uint32_t>(maximum[i]));
     });
+}
+
+std::vector<PositionRange> RecordChannel::rangesIn(double from, double to) const
+{
+    if (entries.ascending()) {
+        const double behind = std::nextafter(to, std::numeric_limits<double>::infinity());
+        return {{firstAtOrAfter(from), firstAtOrAfter(behind)}};
+    }
+    std::vector<PositionRange> ranges;
+    for (std::size_t c = 0, first = 0; c < entries.chunkCount(); ++c) {
+        const std::size_t last = first + entries.chunk(c).size();
+        if (!isIndexed() || (mpIndex->chunkBounds[c].latest >= from && mpIndex->chunkBounds[c].earliest <= to))
+            ranges.push_back({first, last});
+        first = last;
+    }
+    return ranges;
 }
 
 } // namespace ZARN

@@ -4,6 +4,12 @@
 
 namespace ZARN {
 
+/// Positions from `first` up to but not including `last`.
+struct PositionRange {
+    std::size_t first;
+    std::size_t last;
+};
+
 /// All records of one CAN identifier, with what is needed to find the record of a time.
 class RecordChannel {
 public:
@@ -23,8 +29,8 @@ public:
     /// `time` is not a number. Logarithmic, and exactly what a scan from the first entry finds; records that came after the
     /// index was built make it that scan.
     [[nodiscard]] std::size_t firstAtOrAfter(double time) const;
-    /// Calls `visit` with every entry, in stored order, whose time lies in [from, to].
-    template <typename Visitor> void forEachIn(double from, double to, Visitor visit) const;
+    /// Where, in stored order, entries may lie whose time is in [from, to]: all of them do where times ascend, else some.
+    [[nodiscard]] std::vector<PositionRange> rangesIn(double from, double to) const;
 
 private:
     struct Bounds {
@@ -41,23 +47,5 @@ private:
     std::unique_ptr<Index> mpIndex; // null when the times ascend: there may be as many channels as records
     bool mFresh = false;
 };
-
-template <typename Visitor> void RecordChannel::forEachIn(double from, double to, Visitor visit) const
-{
-    if (entries.ascending()) {
-        for (std::size_t i = firstAtOrAfter(from); i < entries.size() && entries.time(i) <= to; ++i)
-            visit(entries[i]);
-        return;
-    }
-    for (std::size_t c = 0, first = 0; c < entries.chunkCount(); first += entries.chunk(c++).size()) {
-        if (isIndexed() && (mpIndex->chunkBounds[c].latest < from || mpIndex->chunkBounds[c].earliest > to))
-            continue;
-        for (std::size_t i = first; i < first + entries.chunk(c).size(); ++i) {
-            const double time = entries.time(i);
-            if (time >= from && time <= to)
-                visit(entries[i]);
-        }
-    }
-}
 
 } // namespace ZARN

@@ -143,6 +143,7 @@ void RecordData::forEachInOrder(const std::function<void(uint32_t, const StoredR
 
 RecordChannel* RecordData::pseudoChannel(uint32_t identifier) const
 {
+    const std::lock_guard guard(mPseudoGuard);
     if (mPseudoCount != mCount) { // made before the newest records came
         mPseudoChannels.clear();
         mPseudoPool = RecordPool(std::max<std::size_t>(1, mPool.left())); // both share one limit

@@ -4,10 +4,11 @@
 
 #include <functional>
 #include <map>
+#include <mutex>
 
 namespace ZARN {
 
-/// The decoded records of one or more files by CAN identifier. Filled completely before anybody reads it; not locked.
+/// The decoded records of one or more files by CAN identifier. Filled completely before anybody reads it, from then on on any thread.
 ///
 /// Two pseudo-channels look like channels but are made when asked for: 0x7FFFFFFF holds a copy of every record of kind 0,
 /// 0x7FFFFFFE of every record of kind 1, in the order of reception.
@@ -99,6 +100,7 @@ private:
     uint64_t mLastTicks = 0;
     uint32_t mCount = 0;
     LateOrder mLateOrder;
+    mutable std::mutex mPseudoGuard; // several threads may read at once
     mutable RecordPool mPseudoPool;
     mutable std::map<uint32_t, RecordChannel> mPseudoChannels; // made on first use, again when records were appended since
     mutable uint32_t mPseudoCount = 0;                         // how many records there were then

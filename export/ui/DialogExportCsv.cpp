@@ -5,6 +5,7 @@
 #include "export/ui/DialogExportCsvOptions.h"
 #include "export/ui/DialogExportCsvPath.h"
 #include "export/ui/ExportOutlook.h"
+#include "profile/Profile.h"
 
 namespace ZARN {
 
@@ -48,7 +49,7 @@ CsvExportOptions DialogExportCsv::chosen() const
 
 ExportOutlook DialogExportCsv::outlook() const
 {
-    return {mSession.container.recordData(), mSession.profile, chosen()};
+    return {mSession.container.recordData(), mSession.profile, mSession.profile.selection(), chosen()};
 }
 
 void DialogExportCsv::slotChanged()

@@ -6,6 +6,7 @@
 #include "export/ui/DialogExportKmlPath.h"
 #include "export/ui/DialogExportKmlPlacemark.h"
 #include "export/ui/ExportOutlook.h"
+#include "profile/Profile.h"
 
 namespace ZARN {
 
@@ -59,7 +60,7 @@ KmlExportOptions DialogExportKml::chosen() const
 
 ExportOutlook DialogExportKml::outlook() const
 {
-    return {mSession.container.recordData(), mSession.profile, chosen()};
+    return {mSession.container.recordData(), mSession.profile, mSession.profile.selection(), chosen()};
 }
 
 void DialogExportKml::slotChanged()

@@ -22,48 +22,33 @@ constexpr double kKmlPlacemarkBytes = 330;  // without its values
 constexpr double kKmlValueBytes = 140;      // without name and text
 constexpr std::size_t kTextsTried = 16;       // of a parameter
 
-/// How many bytes the texts of a parameter have in the mean.
-double meanText(const RecordChannel* pChannel, const ValueDecoder& decoder)
+/// How many bytes the texts of a trace have in the mean.
+double meanText(const Trace& trace)
 {
-    if (!pChannel)
-        return 0.0;
-    const RecordEntries& entries = pChannel->entries;
-    CoordinateFilter filter; // our own: nobody's positions are to be disturbed
-    const std::size_t count = std::min(kTextsTried, entries.size());
+    const std::size_t count = std::min(kTextsTried, trace.size());
     std::string text;
     for (std::size_t i = 0; i < count; ++i)
-        decoder.appendText(decoder.textValue(entries.stored(i * entries.size() / count).payload, filter), text);
+        trace.decoder().appendText(trace.number(i * trace.size() / count), text);
     return count > 0 ? static_cast<double>(text.size()) / static_cast<double>(count) : 0.0;
 }
 
-/// Calls with every channel that has a chosen parameter's samples: parameter, samples.
-template <typename Visitor> void forEachColumn(const RecordData& data, const Profile& profile, bool all, Visitor visit)
-{
-    for (const ProfileDevice& device : profile.data()) {
-        for (const ProfileParameter& parameter : device.parameters) {
-            if (all || profile.isSelected(parameter.name))
-                visit(parameter, data.channel(parameter.identifier()));
-        }
-    }
-}
-
-/// What channels have in a span of time: an upper bound of the steps in which there is a sample.
+/// What traces have in a span of time: an upper bound of the steps in which there is a sample.
 class Extent {
 public:
     explicit Extent(const std::optional<TimeSpan>& span) : mSpan(span) {}
 
-    void add(const RecordChannel* pChannel)
+    /// @param samples a trace, or the entries of a channel
+    template <typename Samples> void add(const Samples& samples)
     {
-        if (!pChannel || pChannel->entries.empty())
+        if (samples.empty())
             return;
-        const RecordEntries& entries = pChannel->entries;
-        const double first = entries.time(0), last = entries.time(entries.size() - 1);
+        const double first = samples.time(0), last = samples.time(samples.size() - 1);
         const double from = mSpan ? std::max(first, mSpan->start) : first, to = mSpan ? std::min(last, mSpan->end) : last;
         if (to < from)
             return;
         mFrom = std::min(mFrom, from);
         mTo = std::max(mTo, to);
-        mSamples += static_cast<double>(entries.size()) * (last > first ? (to - from) / (last - first) : 1.0);
+        mSamples += static_cast<double>(samples.size()) * (last > first ? (to - from) / (last - first) : 1.0);
     }
     [[nodiscard]] double steps(double seconds) const { return mTo < mFrom ? 0.0 : std::min(mSamples, (mTo - mFrom) / seconds) + 1; }
 
@@ -81,44 +66,46 @@ QString shown(uint64_t bytes)
 
 } // namespace
 
-ExportOutlook::ExportOutlook(const RecordData& data, const Profile& profile, const CsvExportOptions& options)
+ExportOutlook::ExportOutlook(const RecordData& data, const DecodingContext& context, const Selection& selection, const CsvExportOptions& options)
 {
+    const TraceSet traces(&data, context, ENumber::eText, options.allParameters ? TraceSet::all() : TraceSet::selected(selection), EFixes::eAlone);
     Extent rows(options.span);
     double line = kCsvTimeBytes;
-    int columns = 0;
-    forEachColumn(data, profile, options.allParameters, [&](const ProfileParameter& parameter, const RecordChannel* pChannel) {
-        ++columns;
-        rows.add(pChannel);
-        line += 1 + meanText(pChannel, profile.decoder(parameter));
-    });
+    for (const auto& pTrace : traces.traces()) {
+        rows.add(*pTrace);
+        line += 1 + meanText(*pTrace);
+    }
     mBytes = saturatingCast<uint64_t>(rows.steps(options.resolution / 1000.0) * line);
     if (data.count() == 0)
         mLack = tr("No data is loaded: the file will hold its header line alone. Choose a power cycle in the card browser first.");
-    else if (columns == 0)
+    else if (traces.size() == 0)
         mLack = tr("No parameter is ticked in the profile panel: the file will hold no values.");
 }
 
-ExportOutlook::ExportOutlook(const RecordData& data, const Profile& profile, const KmlExportOptions& options)
+ExportOutlook::ExportOutlook(const RecordData& data, const DecodingContext& context, const Selection& selection, const KmlExportOptions& options)
 {
     Extent points(options.span);
-    for (const uint32_t identifier : {KmlPath::kLatitudeIdentifier, KmlPath::kLongitudeIdentifier, KmlPath::kAltitudeIdentifier})
-        points.add(data.channel(identifier));
+    for (const uint32_t identifier : {KmlPath::kLatitudeIdentifier, KmlPath::kLongitudeIdentifier, KmlPath::kAltitudeIdentifier}) {
+        if (const RecordChannel* pChannel = data.channel(identifier))
+            points.add(pChannel->entries);
+    }
     double bytes = points.steps(options.timeStamp) * kKmlPointBytes;
-    bool isAnyChosen = false;
+    bool isAnyChosen = true;
     if (options.placeMarkOn) {
+        const TraceSet traces(&data, context, ENumber::eText, TraceSet::selected(selection), EFixes::eAlone);
+        isAnyChosen = traces.size() > 0;
         Extent placemarks(options.span);
         double placemark = kKmlPlacemarkBytes;
-        forEachColumn(data, profile, false, [&](const ProfileParameter& parameter, const RecordChannel* pChannel) {
-            isAnyChosen = true;
-            placemarks.add(pChannel);
-            placemark += kKmlValueBytes + static_cast<double>(parameter.name.size()) + meanText(pChannel, profile.decoder(parameter));
-        });
+        for (const auto& pTrace : traces.traces()) {
+            placemarks.add(*pTrace);
+            placemark += kKmlValueBytes + static_cast<double>(pTrace->name().size()) + meanText(*pTrace);
+        }
         bytes += placemarks.steps(static_cast<double>(options.timeStamp) * options.placeMarkInterval) * placemark;
     }
     mBytes = saturatingCast<uint64_t>(bytes);
     if (data.count() == 0)
         mLack = tr("No data is loaded: the file will hold no flight path. Choose a power cycle in the card browser first.");
-    else if (options.placeMarkOn && !isAnyChosen)
+    else if (!isAnyChosen)
         mLack = tr("No parameter is ticked in the profile panel: there will be no placemarks of values.");
 }
 

@@ -8,8 +8,9 @@ class QWidget;
 
 namespace ZARN {
 
-class Profile;
+class DecodingContext;
 class RecordData;
+class Selection;
 struct CsvExportOptions;
 struct KmlExportOptions;
 
@@ -22,9 +23,9 @@ public:
 
     /// The size is that of a table in which every step of the time has a row, unless there are fewer samples, with texts as long as those of
     /// some samples.
-    ExportOutlook(const RecordData& data, const Profile& profile, const CsvExportOptions& options);
+    ExportOutlook(const RecordData& data, const DecodingContext& context, const Selection& selection, const CsvExportOptions& options);
     /// The size is without the placemarks of exceedances, which are few.
-    ExportOutlook(const RecordData& data, const Profile& profile, const KmlExportOptions& options);
+    ExportOutlook(const RecordData& data, const DecodingContext& context, const Selection& selection, const KmlExportOptions& options);
 
     /// About how large the file will be.
     [[nodiscard]] uint64_t bytes() const { return mBytes; }

@@ -25,7 +25,7 @@ std::vector<ProfileTreeModel::Device> ProfileTreeModel::readProfile() const
         devices.push_back({QString::fromStdString(device.name), {}});
         for (const ProfileParameter& parameter : device.parameters) {
             devices.back().parameters.push_back({parameter.name, QString::fromStdString(parameter.name),
-                                                 QString::fromStdString(parameter.unit), QString::number(parameter.identifier())});
+                                                 QString::fromStdString(mProfile.context().unitOf(parameter)), QString::number(parameter.identifier())});
         }
     }
     return devices;

@@ -72,15 +72,9 @@ class TestEvents : public QObject {
 private Q_SLOTS:
     void limits_data();
     void limits();
-    void limitsOfEveryType_data();
-    void limitsOfEveryType();
-    void limitsAreSortedAndKeepTheOrderOfTheProfile();
     void limitsEqualTheLiteralWalk();
-    void positionsStartWithAClearedFilter();
     void lamps_data();
     void lamps();
-    void lampTakesItsStateByTheTypeInTheMessage();
-    void onlyTheLampGroupCounts();
     void rowOfATime();
 };
 
@@ -129,45 +123,6 @@ void TestEvents::limits()
     QTEST(described(limitEvents(data, cycle.profile), true), "expected");
 }
 
-void TestEvents::limitsOfEveryType_data()
-{
-    QTest::addColumn<QString>("type");
-    QTest::addColumn<QString>("expected");
-
-    // The samples' data bytes are 0, 0x5A000000, 0x00000064 (in this order).
-    QTest::newRow("whole numbers") << "USHORT" << "2:2:D P 23040 ";
-    QTest::newRow("bytes") << "UCHAR" << "2:1:D P 90 ";
-    QTest::newRow("long") << "LONG" << "2:2:D P 1509949440 ";
-    QTest::newRow("fields are always in order") << "BLONG" << "";
-    QTest::newRow("16-bit fields too") << "BSHORT" << "";
-    QTest::newRow("texts that tell of a type without a number") << "ERROR" << "";
-}
-
-void TestEvents::limitsOfEveryType()
-{
-    QFETCH(QString, type);
-    TestCycle cycle;
-    QVERIFY(limitProfile().device("D").parameter("P", 10, type, {{"thresholdId", "Limits"}, {"endBit", "31"}}).load(cycle.profile));
-    RecordData data;
-    RecordFileBuilder().addWord(10, 1, 0).addWord(10, 2, 0x5A000000).addWord(10, 3, 100).fill(data);
-    QTEST(described(limitEvents(data, cycle.profile)), "expected");
-}
-
-void TestEvents::limitsAreSortedAndKeepTheOrderOfTheProfile()
-{
-    TestCycle cycle;
-    const ProfileBuilder::Attributes limits{{"thresholdId", "Limits"}, {"precision", "0"}};
-    QVERIFY(limitProfile().device("B").parameter("Late", 12, "FLOAT", limits).parameter("First", 11, "FLOAT", limits)
-                .device("A").parameter("Second", 11, "FLOAT", limits).load(cycle.profile));
-    RecordData data;
-    RecordFileBuilder file;
-    for (const auto& [time, value] : {std::pair(5.0, 0.0F), {6.0, 90.0F}, {2.0, 0.0F}, {3.0, 91.0F}}) // the clock went back
-        file.addFloat(11, time, value).addFloat(12, time, value);
-    file.fill(data);
-    QCOMPARE(described(limitEvents(data, cycle.profile)),
-             "3:1:B Late 91 , 3:1:B First 91 , 3:1:A Second 91 , 6:1:B Late 90 , 6:1:B First 90 , 6:1:A Second 90 ");
-}
-
 void TestEvents::limitsEqualTheLiteralWalk()
 {
     std::mt19937 random(7);
@@ -190,24 +145,8 @@ void TestEvents::limitsEqualTheLiteralWalk()
         const EventList found = limitEvents(data, cycle.profile);
         for (const Event& event : found.events())
             times.push_back(event.time);
-        QCOMPARE(times, eventTimesByScan(cycle.profile, *data.channel(10), cycle.profile.parameter(10)));
+        QCOMPARE(times, eventTimesByScan(cycle.profile, *data.channel(10), cycle.profile.model().parameter(10)));
     }
-}
-
-void TestEvents::positionsStartWithAClearedFilter()
-{
-    TestCycle cycle;
-    ProfileBuilder builder;
-    builder.thresholds("North", {{48.05, "WARNING", "red"}}).device("D");
-    builder.parameter("Lat", 10, "FLOAT", {{"viewId", "Latitude"}, {"thresholdId", "North"}, {"precision", "2"}});
-    QVERIFY(builder.load(cycle.profile));
-    RecordFileBuilder file;
-    addFloats(file, 10, "4800 4800 4800 4800 4800 4800 4803.6 9000"); // the last is a jump that the filter takes out
-    RecordData data;
-    file.fill(data);
-    const QString expected = "7:1:D Lat 48.06 ";
-    QCOMPARE(described(limitEvents(data, cycle.profile)), expected);
-    QCOMPARE(described(limitEvents(data, cycle.profile)), expected);
 }
 
 void TestEvents::lamps_data()
@@ -237,30 +176,6 @@ void TestEvents::lamps()
     RecordData data;
     file.fill(data);
     QTEST(described(warningEvents(data, cycle.profile), true), "expected");
-}
-
-void TestEvents::lampTakesItsStateByTheTypeInTheMessage()
-{
-    TestCycle cycle;
-    QVERIFY(ProfileBuilder().device("WarningLamp").parameter("Oil", 10, "UCHAR").load(cycle.profile));
-    RecordData data;
-    RecordFileBuilder file;
-    file.add(10, 1, floatPayload(1.0F));     // a float message has no integer
-    file.add(10, 2, bytePayload(2, 10));     // state 2, text 2
-    file.add(10, 3, wordPayload(0x05000001, 4)); // state 0x05000001, while the text is that of the parameter's type
-    file.fill(data);
-    QCOMPARE(described(warningEvents(data, cycle.profile)), "2:2:WarningLamp Oil 2 , 3:83886081:WarningLamp Oil 5 ");
-}
-
-void TestEvents::onlyTheLampGroupCounts()
-{
-    TestCycle cycle;
-    QVERIFY(ProfileBuilder().device("Engine").parameter("A", 10, "UCHAR").device("WarningLamp").parameter("B", 10, "UCHAR")
-                .parameter("None", 11, "UCHAR").device("warninglamp").parameter("C", 10, "UCHAR").device("WarningLamp")
-                .parameter("D", 10, "UCHAR").load(cycle.profile));
-    RecordData data;
-    RecordFileBuilder().add(10, 1, bytePayload(1)).fill(data);
-    QCOMPARE(described(warningEvents(data, cycle.profile)), "1:1:WarningLamp B 1 , 1:1:WarningLamp D 1 ");
 }
 
 void TestEvents::rowOfATime()

@@ -89,7 +89,7 @@ void TestFaultTimeline::changes()
         file.addWord(kMatrix, ++time, word, 5);
     RecordData data;
     file.fill(data);
-    QTEST(described(FaultTimeline(cycle.profile.errorMatrices().front(), data.channel(kMatrix))), "expected");
+    QTEST(described(FaultTimeline(cycle.profile.model().errorMatrices.front(), data.channel(kMatrix))), "expected");
 }
 
 void TestFaultTimeline::timesGoBackwards()
@@ -98,7 +98,7 @@ void TestFaultTimeline::timesGoBackwards()
     QVERIFY(faultProfile(1).load(cycle.profile));
     RecordData data;
     RecordFileBuilder().addWord(kMatrix, 9, 0).addWord(kMatrix, 3, 1).addWord(kMatrix, 5, 0).addWord(kMatrix, 4, 0).fill(data);
-    QCOMPARE(described(FaultTimeline(cycle.profile.errorMatrices().front(), data.channel(kMatrix)), eErrorInfo), "9- 3+ 5- 4-");
+    QCOMPARE(described(FaultTimeline(cycle.profile.model().errorMatrices.front(), data.channel(kMatrix)), eErrorInfo), "9- 3+ 5- 4-");
 }
 
 void TestFaultTimeline::wordAt_data()

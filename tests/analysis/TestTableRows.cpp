@@ -41,11 +41,8 @@ struct NaiveTable {
 TraceSet tracesOf(const RecordData& data, const std::vector<uint32_t>& identifiers)
 {
     std::vector<std::unique_ptr<const Trace>> traces;
-    CoordinateFilter filter;
-    for (const uint32_t identifier : identifiers) {
-        const ValueDecoder decoder({}, nullptr, nullptr, {});
-        traces.push_back(std::make_unique<ChannelTrace>("", ProfileParameter(), decoder, data.channel(identifier), ENumber::eText, filter));
-    }
+    for (const uint32_t identifier : identifiers)
+        traces.push_back(std::make_unique<ChannelTrace>("", ProfileParameter(), DecodingContext(), data.channel(identifier), ENumber::eText, nullptr));
     return TraceSet(std::move(traces));
 }
 

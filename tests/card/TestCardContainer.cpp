@@ -75,7 +75,7 @@ struct Sampled {
         cycle.container.readContainer(card.write());
         cycle.container.loadCycle(0, -1);
     }
-    double at(double time) { return cycle.container.getValue(cycle.profile.parameter(1), time); }
+    double at(double time) { return cycle.container.getValue(cycle.profile.model().parameter(1), time); }
 
     CardBuilder card;
     TestCycle cycle;
@@ -307,7 +307,7 @@ void TestCardContainer::damagedCardLoads()
     QCOMPARE(cycle.container.recordData().count(), 5U);
     QVERIFY(cycle.container.endTime() > 5e11);
     QVERIFY(cycle.container.flightPath().size() <= 2);
-    QVERIFY(cycle.container.getValue(cycle.profile.parameter(1), 1e11) != 0.0);
+    QVERIFY(cycle.container.getValue(cycle.profile.model().parameter(1), 1e11) != 0.0);
 }
 
 void TestCardContainer::valuesAtTimes_data()
@@ -343,15 +343,15 @@ void TestCardContainer::valuesAtTimes()
 void TestCardContainer::valuesOutsideLeaveBandsAlone()
 {
     Sampled sampled({10, 20}, 40);
-    const auto shown = [&](double time) { return sampled.cycle.container.values().displayAt(sampled.cycle.profile.parameter(1), time); };
+    const auto shown = [&](double time) { return sampled.cycle.container.values().displayAt(sampled.cycle.profile.model().parameter(1), time); };
     QVERIFY(!shown(30));
     QCOMPARE(shown(15)->text, "1");
     int state = 9;
     QColor colour(Qt::blue);
-    QCOMPARE(sampled.cycle.container.getValue(sampled.cycle.profile.parameter(1), 30, state, colour), 0.0);
+    QCOMPARE(sampled.cycle.container.getValue(sampled.cycle.profile.model().parameter(1), 30, state, colour), 0.0);
     QCOMPARE(state, 9);
     QCOMPARE(colour, QColor(Qt::blue));
-    QCOMPARE(sampled.cycle.container.getValue(sampled.cycle.profile.parameter(1), 15, state, colour), 1.0);
+    QCOMPARE(sampled.cycle.container.getValue(sampled.cycle.profile.model().parameter(1), 15, state, colour), 1.0);
     QCOMPARE(state, 0);
     QCOMPARE(colour, QColor(255, 255, 255));
 }

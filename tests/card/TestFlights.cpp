@@ -94,17 +94,10 @@ class TestFlights : public QObject {
 private Q_SLOTS:
     void detection_data();
     void detection();
-    void marginsAndDates();
     void selectedFlight();
-    void fuel();
-    void altitudes_data();
-    void altitudes();
     void distances();
     void withoutData();
-    void secondComputationStartsAnew();
-    void path();
     void pathLeavesDamageOut();
-    void pathJoinsSeriesOfOtherLengths();
     void pathOfAFlight();
 };
 
@@ -147,22 +140,6 @@ void TestFlights::detection()
     QTEST(found.join(' '), "flights");
 }
 
-void TestFlights::marginsAndDates()
-{
-    Recording recording;
-    recording.fly(9.75);
-    recording.fly(100);
-    recording.load();
-    const auto& flights = recording.flights();
-    QCOMPARE(flights.size(), std::size_t(2));
-    QCOMPARE(flights[0].takeOffTime, 20.75);
-    QCOMPARE(flights[0].startTime, 0.0); // never before the power-up
-    QCOMPARE(flights[0].endTime, flights[0].landingTime + 30);
-    QCOMPARE(flights[0].dateTime, kNoon.addSecs(20)); // whole seconds
-    QCOMPARE(flights[1].startTime, 81.0);
-    QVERIFY(recording.cycle.lines.find("Flight 81.000000 -> 177.000000 <12:01:51>\n") != std::string::npos);
-}
-
 void TestFlights::selectedFlight()
 {
     Recording recording;
@@ -178,49 +155,11 @@ void TestFlights::selectedFlight()
     QCOMPARE(loads(), 1);
     QCOMPARE(recording.load(0).startTime(), 31.0); // reads no file again
     QCOMPARE(loads(), 1);
-    QCOMPARE(container.getValue(recording.cycle.profile.parameter(eGroundSpeed), 230.5), 100.0); // all of the cycle has values still
+    QCOMPARE(container.getValue(recording.cycle.profile.model().parameter(eGroundSpeed), 230.5), 100.0); // all of the cycle has values still
     QVERIFY(!container.loadCycle(0, 2));
     QCOMPARE(recording.load(-1).endTime(), 400.0);
     QCOMPARE(container.dateTime(), kNoon);
     QCOMPARE(loads(), 2);
-}
-
-void TestFlights::fuel()
-{
-    Statistic statistic;
-    // The first sample within the span gives the time alone, the flow of each later one holds back to the one before.
-    statistic.add(eFuelA, {{99.999, 1000}, {100, 500}, {110, 36}, {130, 72}, {200, 3.6}, {200.001, 1000}});
-    statistic.add(eFuelB, {{150, 7}});
-    const RecordFlight flight = statistic.compute();
-    const double expected = 36.0 * 10 / 3600 + 72.0 * 20 / 3600 + static_cast<double>(3.6F) * 70 / 3600;
-    QCOMPARE(flight.fuelA, expected);
-    QCOMPARE(flight.fuelB, 0.0);
-    QCOMPARE(flight.totalFuel, expected);
-}
-
-void TestFlights::altitudes_data()
-{
-    QTest::addColumn<QString>("samples"); // time:altitude
-    QTest::addColumn<QString>("expected"); // least, greatest, climb rate, descend rate, seconds per 100
-    const auto row = [](const char* name, const char* samples, const char* expected) { QTest::newRow(name) << samples << expected; };
-    row("climb and descent", "110:100 150:300 190:120", "100 300 10 10 20");
-    row("the first is the highest", "110:300 150:100", "100 300 -1.53846 1.17647 20");
-    row("equal height does not move the time", "110:100 140:300 160:300", "100 300 20 6.66667 20");
-    row("below a tenth is skipped", "110:0.09 120:50 130:-7 150:100 160:0", "50 100 2.5 2.5 80");
-    row("none counts", "110:0 150:0.05", "0 0 0 0 inf");
-    row("outside the span", "99:900 110:100 150:200 201:1", "100 200 5 5 40");
-}
-
-void TestFlights::altitudes()
-{
-    QFETCH(QString, samples);
-    Statistic statistic;
-    for (const QString& sample : samples.split(' '))
-        statistic.add(eAltitude, {{sample.section(':', 0, 0).toDouble(), sample.section(':', 1).toDouble()}});
-    const RecordFlight flight = statistic.compute();
-    QCOMPARE(flight.totalClimb, flight.maxAltitude - flight.minAltitude);
-    QTEST(QString("%1 %2 %3 %4 %5").arg(flight.minAltitude).arg(flight.maxAltitude).arg(flight.averageClimbRate).arg(flight.averageDescendRate)
-              .arg(flight.timePer100m), "expected");
 }
 
 void TestFlights::distances()
@@ -272,42 +211,6 @@ void TestFlights::withoutData()
     QVERIFY(bare.container.flightPath().empty());
 }
 
-void TestFlights::secondComputationStartsAnew()
-{
-    Statistic statistic;
-    statistic.add(eGroundSpeed, {{110, 250}, {150, 90}}).add(eAltitude, {{110, 5}, {150, 900}});
-    RecordFlight flight = statistic.compute();
-    QCOMPARE(flight.maxGroundSpeed, 250.0);
-    flight.startTime = 151; // nothing lies in this span
-    statistic.cycle.container.calcFlightStatistic(flight);
-    QCOMPARE(flight.maxGroundSpeed, 0.0);
-    QCOMPARE(flight.maxAltitude, 0.0);
-    QCOMPARE(flight.minAltitude, 0.0);
-}
-
-void TestFlights::path()
-{
-    Recording recording;
-    RecordFileBuilder& file = recording.file();
-    // A receiver without a fix sends zeros, which count for nothing; the fix itself comes at 2 s.
-    for (int i = 0; i <= 8; ++i) {
-        file.addFloat(eLatitude, i * 0.5, i < 4 ? 0 : static_cast<float>(4800 + i));
-        file.addFloat(eLongitude, i * 0.5, i < 4 ? 0 : -1100);
-        file.addFloat(eAltitude, i * 0.5, static_cast<float>(i * 10));
-        file.addFloat(eGroundSpeed, i * 0.5, i == 6 ? std::numeric_limits<float>::quiet_NaN() : static_cast<float>(i));
-    }
-    const std::vector<FlightPathPoint>& points = recording.load().flightPath();
-    QCOMPARE(points.size(), std::size_t(9)); // the grid starts at the power-up, the first fix holds until its time
-    for (std::size_t i = 0; i < points.size(); ++i) {
-        QCOMPARE(points[i].time, static_cast<double>(i) * 0.5);
-        QCOMPARE(points[i].latitude, calcCoordinate(4800.0 + static_cast<double>(std::max<std::size_t>(i, 4))));
-        QCOMPARE(points[i].longitude, -11.0);
-        QCOMPARE(points[i].altitude, static_cast<double>(std::max<std::size_t>(i, 1) * 10)); // the 0 is no value
-        QCOMPARE(points[i].groundSpeed, static_cast<double>(std::max<std::size_t>(i, 1)));   // the gap is interpolated
-        QCOMPARE(points[i].track, 0.0);
-    }
-}
-
 void TestFlights::pathLeavesDamageOut()
 {
     Recording recording;
@@ -327,23 +230,6 @@ void TestFlights::pathLeavesDamageOut()
     Recording edge; // the last time that counts
     edge.file().addFloat(eLatitude, 0, 4800).addFloat(eLatitude, 2000000, 4800).addFloat(eLongitude, 0, 1100).addFloat(eLongitude, 1, 1100);
     QCOMPARE(edge.load().flightPath().size(), std::size_t(4000001));
-}
-
-void TestFlights::pathJoinsSeriesOfOtherLengths()
-{
-    Recording recording;
-    recording.file().addFloat(eLatitude, 0, 4800).addFloat(eLatitude, 1, 4800);
-    recording.file().addFloat(eLongitude, 0, 1100).addFloat(eLongitude, 3, 1100);
-    recording.file().addFloat(eAltitude, 0, 100).addFloat(eAltitude, 1, 120).addFloat(eTrack, 0.2, 270).addFloat(eGroundSpeed, 0, 5);
-    recording.file().addFloat(eGroundSpeed, 9, 5);
-    const std::vector<FlightPathPoint>& points = recording.load().flightPath();
-    QCOMPARE(points.size(), std::size_t(7)); // of the longer position series; what has ended holds its last value
-    QCOMPARE(points.back().latitude, 48.0);
-    QCOMPARE(points.back().altitude, 120.0);
-    QCOMPARE(points.front().track, 270.0); // a series of one sample
-    Recording onlyLatitude;
-    onlyLatitude.file().addFloat(eLatitude, 0, 4800).addFloat(eLatitude, 1, 4800);
-    QVERIFY(onlyLatitude.load().flightPath().empty());
 }
 
 void TestFlights::pathOfAFlight()

@@ -26,15 +26,12 @@ public:
         fellBack = fellBack || percent < last || percent > 100;
         last = percent;
         ++reports;
-        if (whenTold)
-            whenTold();
     }
     [[nodiscard]] bool isCancelled() const override { return reports > mPatience; }
 
     int last = 0;
     int reports = 0;
     bool fellBack = false;
-    std::function<void()> whenTold;
 
 private:
     int mPatience;
@@ -50,8 +47,6 @@ private Q_SLOTS:
     void initTestCase();
     void cancelled_data();
     void cancelled();
-    void viewsMayDecodeMeanwhile_data();
-    void viewsMayDecodeMeanwhile();
 
 private:
     bool write(const QString& format, Progress& progress);
@@ -84,14 +79,14 @@ bool TestExportCancel::write(const QString& format, Progress& progress)
     }
     if (format == "kml") {
         const Console quiet([](std::string_view) {}, [](std::string_view) {}, false);
-        ExportKml exporter(quiet, mCycle.profile, {});
+        ExportKml exporter(quiet, mCycle.profile, mCycle.profile.selection(), {});
         KmlExportOptions options;
         options.directory = mFolder.path().toStdString();
         options.fileName = "out";
         return exporter.exportData(data, options, progress);
     }
     SafeFile file(target());
-    return ExportGpx(mCycle.profile).exportData(mCycle.container, file, progress);
+    return ExportGpx().exportData(mCycle.container.loaded(), file, progress);
 }
 
 void TestExportCancel::cancelled_data()
@@ -118,27 +113,6 @@ void TestExportCancel::cancelled()
     QVERIFY(impatient.reports <= patient.reports);
     QCOMPARE(fileContent(target()), std::string("of yesterday"));
     QCOMPARE(entryCount(mFolder.path().toStdString()), 1L);
-}
-
-void TestExportCancel::viewsMayDecodeMeanwhile_data()
-{
-    QTest::addColumn<QString>("format");
-    QTest::newRow("csv") << "csv";
-    QTest::newRow("kml") << "kml";
-}
-
-void TestExportCancel::viewsMayDecodeMeanwhile()
-{
-    QFETCH(QString, format);
-    QVERIFY(write(format, nullProgress()));
-    const std::string expected = fileContent(target());
-    Impatient disturbing(std::numeric_limits<int>::max());
-    disturbing.whenTold = [this] {
-        for (int i = 0; i < 9; ++i) // a place far away, which the next ones would be jumps from
-            mCycle.profile.calcCoordinateLat(100 * i), mCycle.profile.calcCoordinateLong(100 * i);
-    };
-    QVERIFY(write(format, disturbing));
-    QVERIFY(fileContent(target()) == expected);
 }
 
 QTEST_APPLESS_MAIN(TestExportCancel)

@@ -138,7 +138,7 @@ struct Export {
     Export() { options.directory = folder.path(), options.fileName = "out.csv"; }
     std::string run(const RecordData& data)
     {
-        ExportCsv exporter(cycle.profile);
+        ExportCsv exporter(cycle.profile, cycle.profile.selection());
         if (!exporter.exportData(data, options))
             qFatal("%s", exporter.error().c_str());
         return fileContent((folder.path() + "/out.csv").toStdString());

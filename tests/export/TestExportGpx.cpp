@@ -43,7 +43,7 @@ struct Track : TestCycle {
             qFatal("the card cannot be loaded");
         const std::string path = (card.path() + "/out.gpx").toStdString();
         SafeFile target(path);
-        if (!ExportGpx(profile).exportData(container, target))
+        if (!ExportGpx().exportData(container.loaded(), target))
             qFatal("nothing was written");
         return QByteArray::fromStdString(fileContent(path));
     }

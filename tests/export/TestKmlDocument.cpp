@@ -35,7 +35,7 @@ void TestKmlDocument::layoutIsThatOfTheOtherFiles()
     KmlExportOptions options;
     options.directory = folder.path().toStdString();
     options.fileName = "out.kml";
-    QVERIFY(ExportKml(cycle.console, cycle.profile, {}).exportData(data, options));
+    QVERIFY(ExportKml(cycle.console, cycle.profile, cycle.profile.selection(), {}).exportData(data, options));
     const std::string written = fileContent(folder.filePath("out.kml").toStdString());
     QDomDocument parsed;
     QVERIFY(parsed.setContent(QByteArray::fromStdString(written)));

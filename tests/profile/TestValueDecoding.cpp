@@ -41,7 +41,7 @@ struct OneParameter {
         if (!builder.load(cycle.profile))
             qFatal("the profile does not load");
     }
-    [[nodiscard]] const ProfileParameter& parameter() const { return cycle.profile.parameter(1); }
+    [[nodiscard]] const ProfileParameter& parameter() const { return cycle.profile.model().parameter(1); }
 
     TestCycle cycle;
 };
@@ -247,7 +247,7 @@ void TestValueDecoding::bulkEqualsSingle()
             if (view.size()) // real positions near each other, so that the filter has something to pass and to hold
                 pf(static_cast<float>(4800 + random() % 40), reinterpret_cast<float*>(record.payload.data() + 4));
         }
-        const ValueDecoder decoder = one.cycle.profile.decoder(one.parameter());
+        const ValueDecoder decoder = one.cycle.profile.context().decoder(one.parameter());
         CoordinateFilter filters[4];
         std::vector<double> values(records.size());
         std::vector<double> textValues(records.size());
@@ -314,7 +314,7 @@ void TestValueDecoding::thresholds()
     QVERIFY(ProfileBuilder().thresholds("L", list).device("D").parameter("P", 1, "FLOAT", {{"thresholdId", "L"}}).load(cycle.profile));
     int state = 7;
     QColor colour;
-    cycle.profile.getThreshold(cycle.profile.parameter(1), value, state, colour);
+    cycle.profile.getThreshold(cycle.profile.model().parameter(1), value, state, colour);
     const std::map<QString, int> states{{"OK", 0}, {"WARNING", 1}, {"LIMIT", 2}};
     QCOMPARE(state, passed ? states.at(list[static_cast<std::size_t>(passed - 1)].state) : 0);
     QCOMPARE(colour, passed ? QColor(0, 0, passed) : QColor(255, 255, 255, 255));

@@ -39,9 +39,9 @@ void TestShippedProfile::hasWhatTheProgramNeeds()
         for (const char* key : {"GroundSpeed", "ThrottleA", "FuelA", "FuelB", "Altitude", "Latitude", "Longitude", "Track"})
             QVERIFY2(!profile.getParameterFromZarnType(key).name.empty(), key);
         for (const uint32_t position : {1036, 1037, 1038}) // where the path export looks
-            QVERIFY(!profile.parameter(position).zarnDataType.empty());
-        QCOMPARE(profile.errorMatrices().size(), std::size_t(2));
-        for (const FaultMatrix& matrix : profile.errorMatrices())
+            QVERIFY(!profile.model().parameter(position).zarnDataType.empty());
+        QCOMPARE(profile.model().errorMatrices.size(), std::size_t(2));
+        for (const FaultMatrix& matrix : profile.model().errorMatrices)
             QCOMPARE(matrix.bits.size(), std::size_t(32));
         for (const ThresholdList& list : profile.model().thresholdLists) {
             QVERIFY(list.size() >= 2);

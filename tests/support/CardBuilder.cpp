@@ -1,40 +1,14 @@
 #include "support/CardBuilder.h"
 
+#include "card/record/RecordWriter.h"
 #include "support/FileHelpers.h"
 
-#include <algorithm>
 #include <bit>
 #include <cmath>
 
 namespace ZARN::Test {
 
 namespace {
-
-/// Appends fields in the byte order of the file.
-class FieldWriter {
-public:
-    explicit FieldWriter(bool bigEndian) : mBigEndian(bigEndian) {}
-
-    FieldWriter& number(uint64_t value, int width)
-    {
-        for (int i = 0; i < width; ++i)
-            mBytes += static_cast<char>(value >> 8 * (mBigEndian ? width - 1 - i : i));
-        return *this;
-    }
-    FieldWriter& text(const std::string& text, std::size_t width)
-    {
-        std::string field = text.substr(0, width);
-        field.resize(width, '\0');
-        mBytes.append(field.data(), static_cast<qsizetype>(field.size()));
-        return *this;
-    }
-    FieldWriter& ticks(uint64_t ticks) { return number(ticks >> 32, 4).number(ticks & 0xFFFFFFFF, 4); }
-    [[nodiscard]] const QByteArray& bytes() const { return mBytes; }
-
-private:
-    bool mBigEndian;
-    QByteArray mBytes;
-};
 
 Payload dataPayload(uint8_t dataType, uint32_t data)
 {
@@ -69,27 +43,12 @@ uint64_t ticksOf(double seconds)
     return static_cast<uint64_t>(std::llround(seconds * 32e6));
 }
 
-RecordFileBuilder& RecordFileBuilder::dateTime(const QDateTime& dateTime)
-{
-    mDateTime = dateTime;
-    return *this;
-}
-
-RecordFileBuilder& RecordFileBuilder::headerTicks(uint64_t ticks)
-{
-    mHeaderTicks = ticks;
-    return *this;
-}
-
-RecordFileBuilder& RecordFileBuilder::serial(uint32_t number)
-{
-    mSerial = number;
-    return *this;
-}
-
 RecordFileBuilder& RecordFileBuilder::texts(const std::vector<std::string>& texts)
 {
-    mTexts = texts;
+    std::string* const fields[] = {&mInfo.softwarePartA, &mInfo.ecuType, &mInfo.engineSerial, &mInfo.engineType, &mInfo.softwarePartB,
+                                   &mInfo.emuSoftwareVersion};
+    for (std::size_t i = 0; i < texts.size(); ++i)
+        *fields[i] = texts[i];
     return *this;
 }
 
@@ -121,23 +80,11 @@ RecordFileBuilder& RecordFileBuilder::addShort(uint32_t identifier, double secon
 
 QByteArray RecordFileBuilder::bytes() const
 {
-    FieldWriter writer(mBigEndian);
-    const QDate date = mDateTime.date();
-    const QTime time = mDateTime.time();
-    writer.number(0xABBA, 2).number(0, 6).number(0, 4);
-    writer.number(static_cast<uint64_t>(mDateTime.isValid() ? date.year() : 0), 2);
-    for (const int field : {date.month(), date.day(), time.hour(), time.minute(), time.second(), 0})
-        writer.number(static_cast<uint64_t>(std::max(field, 0)), 1);
-    writer.ticks(mHeaderTicks).number(1, 4).number(mSerial, 4);
-    for (std::size_t i = 0; i < 6; ++i)
-        writer.text(i < mTexts.size() ? mTexts[i] : std::string(), i == 5 ? 7 : 13);
-    writer.text({}, 20);
-    for (const auto& [identifier, record] : mRecords) {
-        writer.text(std::string(record.payload.begin(), record.payload.end()), record.payload.size());
-        writer.number(record.extra0, 1).number(record.extra1, 1).number(record.kind, 2).number(identifier, 4);
-        writer.number(record.word0, 2).number(record.word1, 2).ticks(record.ticks);
-    }
-    return writer.bytes();
+    RecordWriter writer(mBigEndian);
+    writer.putHeader(mInfo, mHeaderTicks);
+    for (const auto& [identifier, record] : mRecords)
+        writer.putRecord(identifier, record);
+    return QByteArray::fromStdString(writer.bytes());
 }
 
 void RecordFileBuilder::fill(RecordData& data) const

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "card/record/RecordData.h"
+#include "card/record/RecordInfo.h"
 
 #include <QByteArray>
-#include <QDateTime>
 #include <QTemporaryDir>
 
 #include <list>
@@ -24,11 +24,12 @@ uint64_t ticksOf(double seconds);
 /// One record file of a card, in either byte order, built record by record.
 class RecordFileBuilder {
 public:
-    explicit RecordFileBuilder(bool bigEndian = false) : mBigEndian(bigEndian) {}
+    explicit RecordFileBuilder(bool bigEndian = false) : mBigEndian(bigEndian) { mInfo.busType = 1; }
 
-    RecordFileBuilder& dateTime(const QDateTime& dateTime); ///< without it the header's date is all 0 and so invalid
-    RecordFileBuilder& headerTicks(uint64_t ticks);
-    RecordFileBuilder& serial(uint32_t number);
+    /// Without it the header's date is all 0 and so invalid.
+    RecordFileBuilder& dateTime(const QDateTime& dateTime) { return mInfo.dateTime = dateTime, *this; }
+    RecordFileBuilder& headerTicks(uint64_t ticks) { return mHeaderTicks = ticks, *this; }
+    RecordFileBuilder& serial(uint32_t number) { return mInfo.ecuSerialNumber = number, *this; }
     /// The header's texts in the file's order: software part A, ECU type, engine serial, engine type, software part B, EMU version.
     RecordFileBuilder& texts(const std::vector<std::string>& texts);
 
@@ -49,10 +50,8 @@ private:
         StoredRecord record;
     };
     bool mBigEndian;
-    QDateTime mDateTime;
+    RecordInfo mInfo;
     uint64_t mHeaderTicks = 0;
-    uint32_t mSerial = 0;
-    std::vector<std::string> mTexts;
     std::vector<Record> mRecords;
 };
 

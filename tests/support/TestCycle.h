@@ -3,6 +3,7 @@
 #include "app/Console.h"
 #include "app/Progress.h"
 #include "card/CardContainer.h"
+#include "profile/Profile.h"
 
 namespace ZARN::Test {
 

@@ -15,34 +15,21 @@ namespace {
 
 template <typename View> DataViewEntry entry(View* pView)
 {
-    return {pView, pView};
+    return {pView, pView, [pView](DialogData& area) {
+                if constexpr (requires { &View::signalTime; })
+                    QObject::connect(pView, &View::signalTime, &area, [&area, pView](double time) { area.moveFrom(*pView, time); });
+                if constexpr (requires { &View::signalReport; })
+                    QObject::connect(pView, &View::signalReport, &area, &DialogData::signalReport);
+            }};
 }
 
 } // namespace
 
 DataViews DataViews::create(const Session& session, const QString& dataPath)
 {
-    auto* pTable = new DialogDataTable(session);
-    auto* pGraph = new DialogDataGraph(session);
-    auto* pLimits = new DialogDataLimit(session);
-    auto* pWarnings = new DialogDataWarning(session);
-    auto* pStatistic = new DialogDataStatistic(session);
-    auto* pMap = new DialogDataMap(session, dataPath);
-    auto* pFaults = new DialogDataErrorMatrix(session);
-    DataViews views;
-    views.entries = {entry(pTable), entry(pGraph), entry(pFaults), entry(pLimits), entry(pWarnings), entry(pStatistic), entry(pMap)};
-    views.connectTo = [=](DialogData& area) {
-        QObject::connect(pTable, &DialogDataTable::signalTime, &area, &DialogData::slotTableTime);
-        QObject::connect(pGraph, &DialogDataGraph::signalCursor, &area, &DialogData::slotCursor);
-        QObject::connect(pFaults, &DialogDataErrorMatrix::signalTime, &area, &DialogData::slotFaultTime);
-        QObject::connect(pLimits, &DialogDataLimit::signalTime, &area, &DialogData::slotLimitTime);
-        QObject::connect(pWarnings, &DialogDataWarning::signalTime, &area, &DialogData::slotWarningTime);
-        QObject::connect(pMap, &DialogDataMap::signalTime, &area, &DialogData::slotMapTime);
-        QObject::connect(pGraph, &DialogDataGraph::signalReport, &area, &DialogData::signalReport);
-        QObject::connect(pStatistic, &DialogDataStatistic::signalReport, &area, &DialogData::signalReport);
-    };
-    views.shareEvents = [=] { pMap->setEvents(pLimits->events(), pWarnings->events()); };
-    return views;
+    return {{entry(new DialogDataTable(session)), entry(new DialogDataGraph(session)), entry(new DialogDataErrorMatrix(session)),
+             entry(new DialogDataLimit(session)), entry(new DialogDataWarning(session)), entry(new DialogDataStatistic(session)),
+             entry(new DialogDataMap(session, dataPath))}};
 }
 
 } // namespace ZARN

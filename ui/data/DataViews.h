@@ -21,15 +21,13 @@ enum EDataView { eViewTable, eViewGraph, eViewFaultMatrix, eViewLimits, eViewWar
 struct DataViewEntry {
     QWidget* pWidget = nullptr;
     DataView* pView = nullptr;
+    /// Connects the view's signals to the data area; empty for a view that has none.
+    std::function<void(DialogData& area)> connectTo = {};
 };
 
 /// What a data area is made of. Tests give it views that only note what they are told.
 struct DataViews {
     std::array<DataViewEntry, eViewCount> entries{};
-    /// Connects the views' signals to the slots of the data area that they were given to.
-    std::function<void(DialogData& area)> connectTo;
-    /// Shows the events of the lists in the views that mark them, once a record is in all views.
-    std::function<void()> shareEvents;
 
     [[nodiscard]] DataView& view(EDataView which) const { return *entries[which].pView; }
 

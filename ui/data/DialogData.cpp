@@ -2,22 +2,20 @@
 
 #include "app/Numeric.h"
 #include "app/gui/ImageHandler.h"
-#include "card/CardContainer.h"
-#include "card/PowerUp.h"
 #include "ui/data/DataTabBar.h"
+#include "ui/data/ViewLink.h"
 #include "ui/data/WidgetReplayBar.h"
 #include "ui/data/model/TimeOfDay.h"
 #include "vesk/base/Timer.h"
 
 #include <QButtonGroup>
 #include <QHBoxLayout>
-#include <QScopedValueRollback>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QTimer>
 #include <QToolButton>
 
-#include <cmath>
+#include <array>
 
 namespace ZARN {
 
@@ -27,14 +25,8 @@ constexpr int kTickMilliseconds = 20;
 constexpr QSize kModeIcon(24, 24);
 constexpr double kRounding = 1e-6; // of a slider position: the time of a position must not come back as the position before it
 
-// Who is told a new time, in this order. The view that the time comes from is not; the warnings leave the map where it is.
-constexpr EDataView kAll[] = {eViewTable, eViewGraph, eViewFaultMatrix, eViewLimits, eViewWarnings, eViewMap};
-constexpr EDataView kFromTable[] = {eViewGraph, eViewFaultMatrix, eViewLimits, eViewWarnings, eViewMap};
-constexpr EDataView kFromGraph[] = {eViewTable, eViewFaultMatrix, eViewLimits, eViewWarnings, eViewMap};
-constexpr EDataView kFromLimits[] = {eViewGraph, eViewFaultMatrix, eViewTable, eViewWarnings, eViewMap};
-constexpr EDataView kFromWarnings[] = {eViewGraph, eViewFaultMatrix, eViewTable, eViewLimits};
-constexpr EDataView kFromMap[] = {eViewTable, eViewGraph, eViewFaultMatrix, eViewLimits, eViewWarnings};
-constexpr EDataView kRecordOrder[] = {eViewTable, eViewGraph, eViewFaultMatrix, eViewStatistic, eViewLimits, eViewWarnings, eViewMap};
+/// The views in the order in which they are told.
+constexpr EDataView kOrder[] = {eViewTable, eViewGraph, eViewFaultMatrix, eViewStatistic, eViewLimits, eViewWarnings, eViewMap};
 
 struct Tab {
     const char* icon;
@@ -60,8 +52,8 @@ static void registerDataIcons()
 
 namespace ZARN {
 
-DialogData::DialogData(const Session& session, const DataViews& views, bool emu, QWidget* pParent, Clock clock)
-    : QWidget(pParent), mSession(session), mViews(views), mClock(clock ? std::move(clock) : Clock(VESK::Misc::Timer::getTime)),
+DialogData::DialogData(RecordSession& record, const DataViews& views, bool emu, QWidget* pParent, Clock clock)
+    : QWidget(pParent), mRecord(record), mViews(views), mClock(clock ? std::move(clock) : Clock(VESK::Misc::Timer::getTime)),
       mpTabs(new DataTabBar), mpMapModes(new QButtonGroup(this)), mpStack(new QStackedWidget), mpSplitter(new QSplitter(Qt::Horizontal)),
       mpBar(nullptr), mpTimer(new QTimer(this))
 {
@@ -79,6 +71,7 @@ DialogData::DialogData(const Session& session, const DataViews& views, bool emu,
     mpTimer->setInterval(kTickMilliseconds);
     mpTimer->setTimerType(Qt::PreciseTimer);
     connectControls();
+    linkViews();
     updateControls();
     if (emu) {
         for (const DataViewEntry& entry : mViews.entries)
@@ -142,68 +135,27 @@ void DialogData::connectControls()
     connect(mpBar, &WidgetReplayBar::signalTime, this, &DialogData::slotValue);
     connect(mpBar, &WidgetReplayBar::signalSpeedSlider, this, qOverload<int>(&DialogData::slotReplaySpeed));
     connect(mpBar, &WidgetReplayBar::signalSpeed, this, qOverload<double>(&DialogData::slotReplaySpeed));
-    if (mViews.connectTo)
-        mViews.connectTo(*this);
 }
 
-void DialogData::updateRecord()
+void DialogData::linkViews()
 {
-    const CardContainer& container = mSession.container;
-    mBase = PowerUp::ofLoaded(container);
-    mStart = container.startTime();
-    mEnd = container.endTime();
-    mpRecord = &mSession.container.recordData();
-    mViewTime = mStart;
-    showRecord();
-}
-
-void DialogData::recalculated()
-{
-    if (!mpRecord)
-        return;
-    mStart = mSession.container.startTime(); // a flight may begin and end elsewhere
-    mEnd = mSession.container.endTime();
-    showRecord();
-}
-
-void DialogData::showRecord()
-{
-    updateDisplay();
-    for (const EDataView view : kRecordOrder) {
-        const QScopedValueRollback pushing(mPushing, true);
-        mViews.view(view).updateRecord(mpRecord);
+    for (const EDataView which : kOrder) {
+        const DataViewEntry& entry = mViews.entries[which];
+        mLinks[which] = new ViewLink(mRecord, *entry.pView, *entry.pWidget);
+        if (entry.connectTo)
+            entry.connectTo(*this);
     }
-    push(kAll);
-    if (mViews.shareEvents)
-        mViews.shareEvents();
-    updateEventCounts();
+    mLinks[eViewMap]->ignore(*mViews.entries[eViewWarnings].pWidget); // a lamp leaves the map where it is
+    connect(&mRecord, &RecordSession::recordChanged, this, &DialogData::slotRecord);
+    connect(&mRecord, &RecordSession::decodingChanged, this, &DialogData::updateEvents);
+    connect(&mRecord, &RecordSession::timeChanged, this, &DialogData::updateDisplay);
 }
 
-void DialogData::releaseRecord()
+void DialogData::slotRecord()
 {
-    setReplay(WidgetReplayBar::eStopped);
-    mpRecord = nullptr;
-    for (const EDataView view : kRecordOrder) {
-        const QScopedValueRollback pushing(mPushing, true);
-        mViews.view(view).updateRecord(nullptr);
-    }
-}
-
-void DialogData::updateProfile()
-{
-    for (const EDataView view : kAll) {
-        const QScopedValueRollback pushing(mPushing, true);
-        mViews.view(view).updateProfile();
-    }
-    push(kAll);
-}
-
-void DialogData::loadProfile()
-{
-    DataView& matrix = mViews.view(eViewFaultMatrix);
-    matrix.loadProfile();
-    matrix.updateRecord(mpRecord);
-    matrix.setTime(mViewTime);
+    if (std::exchange(mReplayed, mRecord.version().record) != mRecord.version().record)
+        setReplay(WidgetReplayBar::eStopped);
+    updateEvents();
 }
 
 void DialogData::updateSettings()
@@ -212,83 +164,35 @@ void DialogData::updateSettings()
         entry.pView->updateSettings();
 }
 
-void DialogData::push(Targets targets)
+std::optional<TimeSpan> DialogData::graphSpan() const
 {
-    const QScopedValueRollback pushing(mPushing, true);
-    for (const EDataView view : targets)
-        mViews.view(view).setTime(mViewTime);
+    mLinks[eViewGraph]->update(); // it may never have been seen
+    return mViews.view(eViewGraph).shownSpan();
 }
 
-void DialogData::moveFromView(double time, Targets targets)
+void DialogData::moveFrom(const QWidget& view, double time)
 {
-    if (mPushing || std::isnan(time))
-        return;
-    mViewTime = time;
-    push(targets);
-    updateDisplay();
-}
-
-void DialogData::slotTableTime(double time)
-{
-    moveFromView(time, kFromTable);
-}
-
-void DialogData::slotCursor(float time, double /*value*/)
-{
-    moveFromView(time, kFromGraph);
-}
-
-void DialogData::slotFaultTime(double time)
-{
-    moveFromView(time, kAll);
-}
-
-void DialogData::slotLimitTime(double time)
-{
-    moveFromView(time, kFromLimits);
-}
-
-void DialogData::slotWarningTime(double time)
-{
-    moveFromView(time, kFromWarnings);
-}
-
-void DialogData::slotMapTime(double time)
-{
-    moveFromView(time, kFromMap);
-}
-
-void DialogData::moveFromControl(double time)
-{
-    if (mUpdatingControls)
-        return;
-    mViewTime = time;
-    push(kAll);
-    updateDisplay();
+    mRecord.setTime(time, &view);
 }
 
 void DialogData::slotSlider(int position)
 {
-    moveFromControl(mStart + (mEnd - mStart) / WidgetReplayBar::kPositions * position);
+    const double start = mRecord.startTime();
+    mRecord.setTime(start + (mRecord.endTime() - start) / WidgetReplayBar::kPositions * position);
 }
 
 void DialogData::slotValue(int seconds)
 {
-    moveFromControl(seconds);
+    mRecord.setTime(seconds);
 }
 
 void DialogData::slotReplaySpeed(int hundredths)
 {
-    if (mUpdatingControls)
-        return;
-    mSpeed = hundredths / 100.0;
-    updateControls();
+    slotReplaySpeed(hundredths / 100.0);
 }
 
 void DialogData::slotReplaySpeed(double factor)
 {
-    if (mUpdatingControls)
-        return;
     mSpeed = factor;
     updateControls();
 }
@@ -311,31 +215,25 @@ void DialogData::slotReplayMode()
 {
     if (mReplay == WidgetReplayBar::eRunning)
         return setReplay(WidgetReplayBar::ePaused);
-    if (mpRecord && mViewTime >= mEnd)
-        moveFromControl(mStart);
+    if (mRecord.record() && mRecord.viewTime() >= mRecord.endTime())
+        mRecord.setTime(mRecord.startTime());
     setReplay(WidgetReplayBar::eRunning);
 }
 
 void DialogData::slotTimeoutReplay()
 {
     const double now = mClock();
-    mViewTime += (now - mLastTick) * mSpeed;
+    const double time = mRecord.viewTime() + (now - mLastTick) * mSpeed;
     mLastTick = now;
-    const bool isOver = mViewTime > mEnd;
-    if (isOver)
-        mViewTime = mEnd; // what the record ended with stays in view
-    push(kAll);
-    updateDisplay();
-    if (isOver)
+    mRecord.setTime(std::min(time, mRecord.endTime())); // what the record ended with stays in view
+    if (time > mRecord.endTime())
         setReplay(WidgetReplayBar::ePaused);
 }
 
 void DialogData::slotReplayStop()
 {
     setReplay(WidgetReplayBar::eStopped);
-    mViewTime = mStart;
-    push(kAll);
-    updateDisplay();
+    mRecord.setTime(mRecord.startTime());
 }
 
 void DialogData::slotMapType(int type)
@@ -356,30 +254,33 @@ void DialogData::slotMapType(int type)
 
 void DialogData::updateDisplay()
 {
-    if (!mpRecord)
+    if (!mRecord.record())
         return; // the clocks keep their dashes until there is a time to show
-    const QScopedValueRollback updating(mUpdatingControls, true);
-    const int64_t milliseconds = wholeMilliseconds(mViewTime);
-    mpBar->setDateTime(mBase.isValid() ? mBase.addMSecs(milliseconds) : QDateTime());
+    const int64_t milliseconds = wholeMilliseconds(mRecord.viewTime());
+    mpBar->setDateTime(mRecord.powerUp().isValid() ? mRecord.powerUp().addMSecs(milliseconds) : QDateTime());
     mpBar->setTime(milliseconds);
-    const double share = mEnd > mStart ? (mViewTime - mStart) / (mEnd - mStart) : 0.0;
+    const double start = mRecord.startTime(), end = mRecord.endTime();
+    const double share = end > start ? (mRecord.viewTime() - start) / (end - start) : 0.0;
     mpBar->setPosition(saturatingCast<int>(share * WidgetReplayBar::kPositions + kRounding));
 }
 
 void DialogData::updateControls()
 {
-    const QScopedValueRollback updating(mUpdatingControls, true);
     mpBar->setReplay(mReplay);
     mpBar->setSpeed(mSpeed);
 }
 
-void DialogData::updateEventCounts()
+void DialogData::updateEvents()
 {
     for (const EDataView view : {eViewLimits, eViewWarnings}) {
         const int count = mViews.view(view).eventCount();
         mpTabs->setCount(view, count);
         mpTabs->setTabToolTip(view, mpTabs->tabText(view) + "\n" + (count == 0 ? tr("No events") : tr("%n event(s)", nullptr, count)));
     }
+    const EventList* pLimits = mViews.view(eViewLimits).eventList();
+    const EventList* pLamps = mViews.view(eViewWarnings).eventList();
+    if (pLimits && pLamps)
+        mViews.view(eViewMap).setEvents(*pLimits, *pLamps);
 }
 
 } // namespace ZARN

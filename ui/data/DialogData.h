@@ -1,13 +1,12 @@
 #pragma once
 
+#include "project/RecordSession.h"
 #include "project/Session.h"
 #include "ui/data/DataViews.h"
 
-#include <QDateTime>
 #include <QWidget>
 
 #include <functional>
-#include <span>
 
 class QButtonGroup;
 class QSplitter;
@@ -17,6 +16,7 @@ class QTimer;
 namespace ZARN {
 
 class DataTabBar;
+class ViewLink;
 class WidgetReplayBar;
 
 /// The data area: the loaded record in six tabbed views and a map, all at one view time, which the user moves in any of them, by the
@@ -28,34 +28,29 @@ public:
     using Clock = std::function<double()>; ///< the wall clock in seconds
 
     /// @param emu the reduced display: fewer controls, and the views show the newest values of a live record
-    DialogData(const Session& session, const DataViews& views, bool emu, QWidget* pParent = nullptr, Clock clock = {});
+    DialogData(RecordSession& record, const DataViews& views, bool emu, QWidget* pParent = nullptr, Clock clock = {});
 
     /// Shows what the container holds now, from its start time on.
-    void updateRecord();
-    /// Takes the record from all views and stops the replay: its data are about to change.
-    void releaseRecord();
-    /// Shows other parameters or units at the same view time.
-    void updateProfile();
-    /// Another profile file is in force: makes the fault matrix anew.
-    void loadProfile();
+    void updateRecord() { mRecord.setRecord(); }
+    /// Shows other parameters at the same view time.
+    void updateProfile() { mRecord.changeSelection(); }
+    /// Another profile file is in force.
+    void loadProfile() { mRecord.changeProfile(); }
     void setZarnMode(int /*mode*/) {}
     /// The settings were changed, by another window.
     void updateSettings();
 
-    /// Flights, statistics and events of the record that is shown were worked out anew: the view time stays, and a replay goes on.
-    void recalculated();
-    [[nodiscard]] double viewTime() const { return mViewTime; }
+    [[nodiscard]] double viewTime() const { return mRecord.viewTime(); }
+    /// The user picked a time in a view.
+    void moveFrom(const QWidget& view, double time);
     /// What the graph shows; none when it is empty.
-    [[nodiscard]] std::optional<TimeSpan> graphSpan() const { return mViews.view(eViewGraph).shownSpan(); }
+    [[nodiscard]] std::optional<TimeSpan> graphSpan() const;
 
 public Q_SLOTS:
-    void slotTableTime(double time);
-    void slotCursor(float time, double value);
-    /// Told to the fault matrix, too: there it was only pointed at.
-    void slotFaultTime(double time);
-    void slotLimitTime(double time);
-    void slotWarningTime(double time);
-    void slotMapTime(double time);
+    void slotTableTime(double time) { moveFrom(eViewTable, time); }
+    void slotCursor(float time, double /*value*/) { moveFrom(eViewGraph, time); }
+    void slotLimitTime(double time) { moveFrom(eViewLimits, time); }
+    void slotWarningTime(double time) { moveFrom(eViewWarnings, time); }
 
     void slotReplayMode();
     void slotReplayStop();
@@ -71,23 +66,21 @@ Q_SIGNALS:
     void signalReport();
 
 private:
-    using Targets = std::span<const EDataView>;
-
     void createTabs();
     QWidget* createHead();
     void createMapModes();
     void connectControls();
-    void moveFromView(double time, Targets targets);
-    void moveFromControl(double time);
-    void push(Targets targets);
-    void showRecord();
+    void linkViews();
+    void moveFrom(EDataView view, double time) { moveFrom(*mViews.entries[view].pWidget, time); }
+    void slotRecord();
     void setReplay(int state);
     void updateDisplay();
     void updateControls();
-    void updateEventCounts();
+    void updateEvents();
 
-    Session mSession;
+    RecordSession& mRecord;
     DataViews mViews;
+    std::array<ViewLink*, eViewCount> mLinks{};
     Clock mClock;
     DataTabBar* mpTabs;
     QButtonGroup* mpMapModes;
@@ -95,16 +88,10 @@ private:
     QSplitter* mpSplitter;
     WidgetReplayBar* mpBar;
     QTimer* mpTimer;
-    RecordData* mpRecord = nullptr;
-    QDateTime mBase; ///< wall clock at the time 0 of the record
-    double mStart = 0.0;
-    double mEnd = 0.0;
-    double mViewTime = 0.0;
     double mSpeed = 1.0;
     double mLastTick = 0.0;
     int mReplay = 0;
-    bool mUpdatingControls = false; ///< the controls are being written: what they signal is not the user
-    bool mPushing = false;          ///< the views are being told: what they signal is an echo
+    unsigned mReplayed = 0; ///< the version of the record that the replay goes through
 };
 
 } // namespace ZARN

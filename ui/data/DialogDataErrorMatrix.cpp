@@ -45,7 +45,7 @@ void DialogDataErrorMatrix::loadProfile()
         delete pPanel;
     mPanels.clear();
     addPanels();
-    const std::size_t count = mSession.profile.errorMatrices().size();
+    const std::size_t count = mSession.profile.model().errorMatrices.size();
     mpHint->setVisible(count == 0 || count > mPanels.size());
     mpHint->setText(count == 0 ? tr("The profile declares no error matrix.")
                                : tr("Only the first %1 of %2 error matrices of the profile are shown.").arg(mPanels.size()).arg(count));
@@ -53,14 +53,17 @@ void DialogDataErrorMatrix::loadProfile()
 
 void DialogDataErrorMatrix::addPanels()
 {
-    for (const FaultMatrix& matrix : mSession.profile.errorMatrices()) {
+    for (const FaultMatrix& matrix : mSession.profile.model().errorMatrices) {
         if (mPanels.size() == kMaxPanels)
             return;
         auto* pPanel = new WidgetFaultMatrix(mSession.container);
         pPanel->setData(matrix);
         mpPanelLayout->insertWidget(static_cast<int>(mPanels.size()), pPanel);
         mPanels.push_back(pPanel);
-        connect(pPanel, &WidgetFaultMatrix::signalTime, this, &DialogDataErrorMatrix::signalTime);
+        connect(pPanel, &WidgetFaultMatrix::signalTime, this, [this](double time) {
+            setTime(time); // all panels; whoever is told moves the other views only
+            Q_EMIT signalTime(time);
+        });
     }
 }
 

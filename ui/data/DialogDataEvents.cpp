@@ -1,6 +1,7 @@
 #include "ui/data/DialogDataEvents.h"
 
 #include "card/CardContainer.h"
+#include "profile/Profile.h"
 #include "ui/data/EventMark.h"
 #include "ui/data/TableCopy.h"
 #include "ui/data/model/TextColour.h"
@@ -126,15 +127,22 @@ bool DialogDataEvents::isInside(const Event& event) const
 void DialogDataEvents::updateRecord(RecordData* pRecord)
 {
     const QScopedValueRollback busy(mBusy, true);
-    mEvents = {};
+    if (!mPrepared || pRecord != mpRecord)
+        prepare(pRecord);
+    mPrepared = false;
     mpTable->setRowCount(0);
-    mpRecord = pRecord;
     if (pRecord) {
-        mEvents = mKind.scan(*pRecord, mSession.profile);
         fillTable();
         setTime(mSession.container.startTime());
     }
     updateHint();
+}
+
+void DialogDataEvents::prepare(RecordData* pRecord)
+{
+    mpRecord = pRecord;
+    mEvents = pRecord ? mKind.scan(*pRecord, mSession.profile) : EventList();
+    mPrepared = true;
 }
 
 void DialogDataEvents::fillTable()

@@ -12,6 +12,8 @@ class QTableWidgetItem;
 
 namespace ZARN {
 
+class DecodingContext;
+
 /// What the lists of events have in common: one row an event in ascending time; the one chosen last moves the view time. With a flight
 /// selected, the events outside of it are there, but dimmed. Which events there are is told by the derived class.
 class DialogDataEvents : public QWidget, public DataView {
@@ -24,10 +26,12 @@ public:
     void updateProfile() override {}
     void updateRecord(RecordData* pRecord) override;
     void setTime(double time) override;
+    /// Finds the events; the rows wait until they are seen.
+    void prepare(RecordData* pRecord) override;
 
     /// Those of the selected flight, or all.
     [[nodiscard]] int eventCount() const override;
-    [[nodiscard]] const EventList& events() const { return mEvents; }
+    [[nodiscard]] const EventList* eventList() const override { return &mEvents; }
 
 Q_SIGNALS:
     /// The time of the event that the user chose, in seconds.
@@ -36,7 +40,7 @@ Q_SIGNALS:
 protected:
     /// What a list is made of.
     struct Kind {
-        EventList (*scan)(const RecordData& data, Profile& profile);
+        EventList (*scan)(const RecordData& data, const DecodingContext& context);
         QString (*stateName)(int state);
         QString title; ///< of the event column
         QString empty; ///< what the view says when there is no event
@@ -68,7 +72,8 @@ private:
     EventList mEvents;
     QTableWidget* mpTable;
     QLabel* mpHint;
-    double mTime = 0.0; ///< the view time that was told last
+    double mTime = 0.0;     ///< the view time that was told last
+    bool mPrepared = false; ///< the events are found, but not in the rows
     bool mBusy = false;
     bool mReported = false; ///< the current row's time was told
     bool mUnseen = false;   ///< the row was selected while nobody saw it

@@ -87,6 +87,19 @@ void DialogDataTable::createLiveView()
 void DialogDataTable::updateProfile()
 {
     const QScopedValueRollback busy(mBusy, true);
+    updateColumns();
+    fill();
+}
+
+void DialogDataTable::update(RecordData* pRecord)
+{
+    const QScopedValueRollback busy(mBusy, true);
+    updateColumns();
+    updateRecord(pRecord);
+}
+
+void DialogDataTable::updateColumns()
+{
     const bool live = mMode != 0;
     mpModel->updateParameters();
     mpLive->updateParameters();
@@ -95,7 +108,6 @@ void DialogDataTable::updateProfile()
     mpHint->setVisible(mpModel->parameters().empty());
     mWidened = false;
     sizeColumns();
-    fill();
 }
 
 void DialogDataTable::sizeColumns()

@@ -28,6 +28,7 @@ public:
 
     void updateProfile() override;
     void updateRecord(RecordData* pRecord) override;
+    void update(RecordData* pRecord) override;
     void setTime(double time) override;
     /// @param mode 0 shows the record, anything else is the live mode
     void setZarnMode(int mode) override;
@@ -52,6 +53,7 @@ private Q_SLOTS:
 private:
     void createView();
     void createLiveView();
+    void updateColumns();
     void fill();
     void centre();
     void updateTimer();

@@ -43,8 +43,8 @@ QLCDNumber* createClock(const char* name, int digits, const QString& text)
 } // namespace
 
 WidgetReplayBar::WidgetReplayBar(bool emu, QWidget* pParent)
-    : QWidget(pParent), mpReplay(new ReplayButton("replay")), mpStop(new ReplayButton("stop")), mpPosition(new JumpSlider), mpTime(new TimeEntry),
-      mpSpeedSlider(new JumpSlider), mpSpeed(new SpeedBox), mpUpper(new QHBoxLayout), mpLower(new QHBoxLayout)
+    : QWidget(pParent), mpReplay(new ReplayButton("replay")), mpStop(new ReplayButton("stop")), mpPosition(new JumpSlider),
+      mpTime(new TimeEntry), mpSpeedSlider(new JumpSlider), mpSpeed(new SpeedBox), mpUpper(new QHBoxLayout), mpLower(new QHBoxLayout)
 {
     createClocks();
     mpStop->setLook(tr("Replay Stop"), ImageHandler::icon("replay-stop"));
@@ -196,13 +196,16 @@ void WidgetReplayBar::changeEvent(QEvent* pEvent)
 
 void WidgetReplayBar::setReplay(int state)
 {
-    mpReplay->setLook(state == eRunning ? tr("Replay Pause") : state == ePaused ? tr("Replay Run") : tr("Replay Start"),
+    mpReplay->setLook(state == eRunning  ? tr("Replay Pause")
+                      : state == ePaused ? tr("Replay Run")
+                                         : tr("Replay Start"),
                       ImageHandler::icon(state == eRunning ? "replay-pause" : "replay-start"));
     mpStop->setEnabled(state != eStopped);
 }
 
 void WidgetReplayBar::setSpeed(double factor)
 {
+    const QSignalBlocker slider(mpSpeedSlider), box(mpSpeed);
     mpSpeedSlider->setValue(saturatingCast<int>(factor * kHundredths));
     mpSpeed->setValue(factor);
 }
@@ -223,6 +226,7 @@ void WidgetReplayBar::setTime(int64_t milliseconds)
 
 void WidgetReplayBar::setPosition(int position)
 {
+    const QSignalBlocker blocker(mpPosition);
     mpPosition->setValue(position);
 }
 

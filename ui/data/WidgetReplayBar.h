@@ -14,8 +14,8 @@ class SpeedBox;
 class TimeEntry;
 
 /// The row of controls below the data views: two clocks, replay, position, time entry and speed. Shows what it is told and reports
-/// what the user does; its signals also come when it is told something. Breaks into two lines where one would be too wide, and
-/// leaves the texts of its buttons to their icons where those would be, too.
+/// what the user does, that alone. Breaks into two lines where one would be too wide, and leaves the texts of its buttons to their
+/// icons where those would be, too.
 class WidgetReplayBar : public QWidget {
     Q_OBJECT
 

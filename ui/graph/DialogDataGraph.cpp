@@ -1,6 +1,7 @@
 #include "ui/graph/DialogDataGraph.h"
 
 #include "card/CardContainer.h"
+#include "profile/Profile.h"
 #include "trace/TraceSet.h"
 #include "ui/graph/DialogGraphSetup.h"
 #include "ui/graph/GraphButtons.h"
@@ -45,6 +46,7 @@ void DialogDataGraph::focusInEvent(QFocusEvent* /*pEvent*/)
 void DialogDataGraph::connectGraph()
 {
     connect(mpGraph, &WidgetGraphES::signalCursor, this, &DialogDataGraph::signalCursor);
+    connect(mpGraph, &WidgetGraphES::signalCursor, this, [this] { Q_EMIT signalTime(mpGraph->model().cursorTime()); });
     connect(mpGraph, &WidgetGraphES::signalManMode, this, &DialogDataGraph::slotManMode);
     connect(mpGraph, &WidgetGraphES::signalMoveParameter, this, &DialogDataGraph::keepStrips);
     connect(mpGraph, &WidgetGraphES::signalMenu, this, &DialogDataGraph::slotMenu);
@@ -59,14 +61,14 @@ void DialogDataGraph::connectGraph()
 /// Calls with slot and trace of each selected parameter, as far as there are slots. @return how many
 template <typename Visitor> int DialogDataGraph::forEachTrace(const RecordData* pRecord, Visitor visit)
 {
-    const TraceSet traces(pRecord, mSession.profile, ENumber::eDisplay, mSession.profile.sharedFilter(), TraceSet::selected(mSession.profile));
+    const TraceSet traces(pRecord, mSession.profile, ENumber::eDisplay, TraceSet::selected(mSession.profile.selection()));
     const int used = std::min(static_cast<int>(traces.size()), kSlots);
     for (int slot = 0; slot < used; ++slot)
         visit(slot, traces[static_cast<std::size_t>(slot)]);
     return used;
 }
 
-void DialogDataGraph::updateProfile()
+void DialogDataGraph::describeSlots()
 {
     GraphModel& model = mpGraph->model();
     const int used = forEachTrace(nullptr, [&](int slot, const Trace& trace) { describeSlot(model, slot, trace); });
@@ -74,9 +76,20 @@ void DialogDataGraph::updateProfile()
         model.setActive(slot, false);
     arrangeStrips(used);
     updateSettings();
+}
+
+void DialogDataGraph::updateProfile()
+{
+    describeSlots();
     // Another parameter may have taken a slot: no trace may keep the samples of the one before.
     fillRecord();
     mKeepsWindow = true;
+}
+
+void DialogDataGraph::update(RecordData* pRecord)
+{
+    describeSlots();
+    updateRecord(pRecord);
 }
 
 void DialogDataGraph::updateSettings()

@@ -32,6 +32,7 @@ public:
 
     void updateProfile() override;
     void updateRecord(RecordData* pRecord) override;
+    void update(RecordData* pRecord) override;
     void setTime(double time) override;
     void setZarnMode(int mode) override;
     void updateSettings() override;
@@ -42,6 +43,8 @@ public:
 
 Q_SIGNALS:
     void signalCursor(float time, double value);
+    /// The same, as exactly as the graph knows it.
+    void signalTime(double time);
     /// The user wants the report of the loaded data.
     void signalReport();
 
@@ -69,6 +72,7 @@ private:
     void slotMenu(const QPoint& point);
 
     void connectGraph();
+    void describeSlots();
     void fillRecord();
     void arrangeStrips(int used);
     void keepStrips();

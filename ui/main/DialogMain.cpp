@@ -59,8 +59,8 @@ constexpr int kMargin = 8;
 } // namespace
 
 DialogMain::DialogMain(const Session& session, const Desktop& desktop)
-    : mSession(session), mDesktop(desktop), mEmu(desktop.cmdLine.getSwitch("-emu")), mpActionGroup(new QActionGroup(this)),
-      mpRecentGroup(new QActionGroup(this)),
+    : mSession(session), mRecord(session.container), mDesktop(desktop), mEmu(desktop.cmdLine.getSwitch("-emu")),
+      mpActionGroup(new QActionGroup(this)), mpRecentGroup(new QActionGroup(this)),
       mpCatalogue(std::make_unique<ProfileCatalogue>(session.console, desktop.folders.resourcePath(), desktop.folders.dataPath()))
 {
     setAcceptDrops(true);
@@ -86,7 +86,7 @@ DialogMain::DialogMain(const Session& session, const Desktop& desktop)
     updateUnit();
     loadProfile();
     if (mEmu)
-        mpData->updateRecord();
+        mRecord.setRecord();
     fillProfiles();
     updateTitle();
     updateExports();
@@ -113,7 +113,7 @@ void DialogMain::createPanels()
     mpSide->addWidget(mpProfile);
     mpWelcome = new WidgetWelcome;
     const QString dataPath = QString::fromStdString(mDesktop.folders.dataPath());
-    mpData = new DialogData(mSession, DataViews::create(mSession, dataPath), mEmu);
+    mpData = new DialogData(mRecord, DataViews::create(mSession, dataPath), mEmu);
     mpCentre = new QStackedWidget;
     mpCentre->addWidget(mpWelcome);
     mpCentre->addWidget(mpData);
@@ -268,7 +268,8 @@ void DialogMain::createControllers()
     connect(pRecent, &RecentFolders::signalChosen, this, &DialogMain::openFolder);
     mpCardController = new CardController(mSession, *mpCard, *pRecent, *mpProgress, this);
     mpProjectController = new ProjectController(mSession, this);
-    mpExportController = new ExportController(mSession, *mpCardController, [this] { return mpData->graphSpan(); }, this);
+    mpExportController = new ExportController(
+        mSession, *mpCardController, [this] { return mpData->graphSpan(); }, this);
     mpProfileController = std::make_unique<ProfileController>(mSession, *mpCatalogue, *mpProfiles, *mpUnits);
     mpLayout = std::make_unique<WindowLayout>(mSession.property, *this, *mpSplitter, *mpSide);
     mSession.container.setProgress(*mpProgress);

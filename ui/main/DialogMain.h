@@ -1,5 +1,6 @@
 #pragma once
 
+#include "project/RecordSession.h"
 #include "project/Session.h"
 #include "ui/main/Desktop.h"
 
@@ -125,6 +126,7 @@ private:
     bool cleanup();
 
     Session mSession;
+    RecordSession mRecord;
     Desktop mDesktop;
     bool mEmu;
     std::map<int, QAction*> mActions;

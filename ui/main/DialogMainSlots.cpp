@@ -102,8 +102,8 @@ void DialogMain::updateUnit()
 {
     mpProfileController->updateUnit();
     mpProfile->updateProfile();
-    mpData->updateProfile();
     mpCardController->recalculate();
+    mRecord.changeUnit();
 }
 
 void DialogMain::loadProfile()
@@ -113,8 +113,8 @@ void DialogMain::loadProfile()
     mpProfileInfo->setProfileFile(mpProfileController->file(), mpProfileController->isChosenFile());
     mpProfileInfo->fillProfileInfo();
     mpProfile->updateProfile();
-    mpData->loadProfile();
-    mpData->updateProfile();
+    mpCardController->recalculate(); // flights and their statistic are decoded by the profile
+    mRecord.changeProfile();
 }
 
 void DialogMain::tellProfileProblem()
@@ -149,7 +149,7 @@ void DialogMain::openFolder(const QString& path)
 
 void DialogMain::slotProfileChanged()
 {
-    mpData->updateProfile();
+    mRecord.changeSelection();
 }
 
 void DialogMain::slotProfileChanged(const QString& name)
@@ -164,8 +164,6 @@ void DialogMain::slotProfileFileChanged()
 {
     loadProfile();
     fillProfiles();
-    mpCardController->recalculate(); // flights and their statistic are decoded by the profile
-    slotProfileChanged();
     updateTitle();
 }
 
@@ -235,19 +233,19 @@ void DialogMain::updateExports()
 
 void DialogMain::slotDataChanging()
 {
-    mpData->releaseRecord();
+    mRecord.clearRecord();
 }
 
 void DialogMain::slotRecalculated()
 {
-    mpData->recalculated();
+    mRecord.changeFlights();
     if (const auto cycle = mSession.container.loadedCycleNumber())
         mpCard->addFlights(*cycle);
 }
 
 void DialogMain::slotDataChanged()
 {
-    mpData->updateRecord();
+    mRecord.setRecord();
     showProblems();
     updateExports();
     mpWelcome->setState(WidgetWelcome::eEmpty); // seen when there are no data

@@ -10,6 +10,7 @@
 #include "export/ui/DialogExportKml.h"
 #include "export/ui/ExportProgress.h"
 #include "export/ui/ExportTarget.h"
+#include "profile/Profile.h"
 #include "report/FlightReport.h"
 #include "ui/main/CardController.h"
 
@@ -75,7 +76,7 @@ void ExportController::exportKml()
     mKmlOptions.fileName = fileName(0, ".kml").toStdString();
     if (!DialogExportKml(mSession, mpWindow).getOptions(mKmlOptions, parts(".kml")))
         return;
-    ExportKml exporter(mSession.console, mSession.profile, PowerUp::ofLoaded(mSession.container));
+    ExportKml exporter(mSession.console, mSession.profile, mSession.profile.selection(), PowerUp::ofLoaded(mSession.container));
     bool isPathMissing = false;
     const auto work = [&](Progress& progress) {
         const bool written = exporter.exportData(mSession.container.recordData(), mKmlOptions, progress);
@@ -96,7 +97,7 @@ void ExportController::exportCsv()
     mCsvOptions.fileName = fileName(0, ".csv");
     if (!DialogExportCsv(mSession, mpWindow).getOptions(mCsvOptions, parts(".csv")))
         return;
-    ExportCsv exporter(mSession.profile);
+    ExportCsv exporter(mSession.profile, mSession.profile.selection());
     const auto work = [&](Progress& progress) { return exporter.exportData(mSession.container.recordData(), mCsvOptions, progress); };
     if (!run(mCsvOptions.directory + "/" + mCsvOptions.fileName, work))
         fail(tr("ZARN Viewer Warning"), tr("Exporting CSV file failed !"), exporter.error());
@@ -109,10 +110,10 @@ void ExportController::exportGpx()
     const QString path = askFile("GpxExportDir", tr("Save GPX Export"), selectionName(".gpx"), tr("GPX Files (*.gpx)"));
     if (path.isEmpty())
         return;
-    ExportGpx exporter(mSession.profile);
+    ExportGpx exporter;
     const auto work = [&](Progress& progress) {
         SafeFile file(QFile::encodeName(path).toStdString());
-        return exporter.exportData(mSession.container, file, progress);
+        return exporter.exportData(mSession.container.loaded(), file, progress);
     };
     if (!run(path, work))
         fail(tr("ZARN Warning"), tr("Exporting GPX file failed !"), exporter.error());
@@ -125,7 +126,7 @@ void ExportController::writeReport()
     const QString path = askFile("ReportDir", tr("Save Flight Report"), selectionName(".pdf"), tr("PDF Files (*.pdf)"));
     if (path.isEmpty())
         return;
-    FlightReport report(mSession.container, mSession.profile);
+    FlightReport report(mSession.container.loaded());
     const ReportOptions paper{QLocale::system().measurementSystem() == QLocale::ImperialUSSystem};
     const auto work = [&](Progress& progress) {
         SafeFile file(QFile::encodeName(path).toStdString());

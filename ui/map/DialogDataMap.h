@@ -28,7 +28,7 @@ public:
     void updateRecord(RecordData* pRecord) override;
     void setTime(double time) override;
     /// Marks the events of the lists on the path, in their colours.
-    void setEvents(const EventList& limits, const EventList& lamps);
+    void setEvents(const EventList& limits, const EventList& lamps) override;
     /// The settings were changed: tile server, consent, shading.
     void updateSettings() override;
     /// Keeps the panels in place.

@@ -322,7 +322,7 @@ void TestDialogExport::sizeIsToldBefore()
             options.span = span;
             QVERIFY(ExportCsv(wizards.profile).exportData(wizards.container.recordData(), options));
             const auto size = static_cast<double>(QFileInfo(folder() + "/a.csv").size());
-            const ExportOutlook outlook(wizards.container.recordData(), wizards.profile, options);
+            const ExportOutlook outlook(wizards.container.recordData(), wizards.profile, wizards.profile.selection(), options);
             QVERIFY2(std::abs(static_cast<double>(outlook.bytes()) - size) < size / 10, qPrintable(QString("%1, %2").arg(outlook.bytes()).arg(size)));
             Answer no(Answer::press("&No"));
             QVERIFY(outlook.mayWrite(static_cast<int64_t>(outlook.bytes()), nullptr) && no.text.isEmpty());

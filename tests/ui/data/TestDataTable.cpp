@@ -162,7 +162,7 @@ void TestDataTable::positions()
     QStringList expected(40);
     cycle.profile.resetCoordinates();
     for (const char* name : {"Latitude", "Longitude"}) {
-        const ProfileParameter& parameter = *cycle.profile.findParameter(name);
+        const ProfileParameter& parameter = *cycle.profile.model().find(name);
         const RecordEntries& entries = cycle.data()->channel(parameter.identifier())->entries;
         for (std::size_t i = 0; i < 40; ++i) {
             int state = 0;

@@ -127,7 +127,7 @@ void TestFaultMatrix::timeline()
     const WidgetErrorTime& timeline = matrix.panel().timeline();
     QCOMPARE(timeline.changes(eErrorInfo).size(), size_t(4)); // off, on, off, closing
     WidgetErrorTime wide(matrix.container);
-    wide.setData(matrix.profile.errorMatrices().front());
+    wide.setData(matrix.profile.model().errorMatrices.front());
     wide.updateRecord(matrix.data());
     wide.resize(99, 47); // a pixel a second, bands of 16
     wide.setTime(110.0);

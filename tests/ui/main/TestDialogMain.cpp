@@ -5,7 +5,9 @@
 #include "ui/data/DialogData.h"
 #include "ui/data/DialogDataLimit.h"
 #include "ui/data/DialogDataStatistic.h"
+#include "ui/data/model/DataTableModel.h"
 #include "ui/graph/DialogDataGraph.h"
+#include "ui/graph/WidgetGraphES.h"
 #include "ui/main/Answer.h"
 #include "ui/main/CardController.h"
 #include "ui/main/DesktopFixture.h"
@@ -45,6 +47,8 @@ private Q_SLOTS:
     void init();
     void firstSight();
     void openCard();
+    void tellsOnce_data();
+    void tellsOnce();
     void refusedFolder();
     void cardProblems();
     void emptyCycle();
@@ -59,7 +63,6 @@ private Q_SLOTS:
     void newProjectAsks_data();
     void newProjectAsks();
     void mapTiles();
-    void profileSelector();
     void styleFile();
     void exportCsv();
     void failedExport_data();
@@ -78,7 +81,8 @@ private:
 namespace {
 
 /// Goes through an export's wizard with the options that it offers.
-void finish(QWidget* pModal, const QString& folder, const QString& name, const std::function<void()>& beforeTheEnd = [] {})
+void finish(
+    QWidget* pModal, const QString& folder, const QString& name, const std::function<void()>& beforeTheEnd = [] {})
 {
     auto* pWizard = qobject_cast<QWizard*>(pModal);
     QVERIFY(pWizard);
@@ -152,9 +156,43 @@ void TestDialogMain::openCard()
     const auto* pData = window.findChild<DialogData*>();
     QVERIFY(pData->isVisible());
     QCOMPARE(pData->viewTime(), desktop.container.startTime());
-    QVERIFY(pData->findChild<DialogDataLimit*>()->eventCount() > 0);
+    QTRY_VERIFY(pData->findChild<DialogDataLimit*>()->eventCount() > 0);
     pTree->setCurrentItem(pCycle->child(1));
     QTRY_COMPARE_WITH_TIMEOUT(pData->viewTime(), desktop.container.loadedCycle()->flights[1].startTime, 20000);
+}
+
+void TestDialogMain::tellsOnce_data()
+{
+    using Action = std::function<void(DialogMain&)>;
+    QTest::addColumn<Action>("action");
+    QTest::newRow("start") << Action(started); // without a record there is nothing to fill
+    QTest::newRow("load") << Action([](DialogMain& window) { window.slotLoadCycle(2, -1); });
+    QTest::newRow("variant") << Action([](DialogMain& window) { window.slotProfileChanged("916 A"); });
+    QTest::newRow("unit") << Action([](DialogMain& window) { window.slotUnitChanged(1); });
+}
+
+void TestDialogMain::tellsOnce()
+{
+    QFETCH(std::function<void(DialogMain&)>, action);
+    const bool isStart = QString(QTest::currentDataTag()) == "start";
+    DesktopFixture desktop(home(), isStart ? std::vector<std::string>() : std::vector{card().toStdString()});
+    DialogMain& window = desktop.open();
+    if (!isStart) {
+        started(window);
+        desktop.profile.setSelected("Oil Temperature", true);
+        desktop.project.takeProfileData();
+        window.slotLoadCycle(1, -1);
+        QTest::qWait(100);
+    }
+    const auto* pTable = window.findChild<DataTableModel*>();
+    const auto* pGraph = &window.findChild<DialogDataGraph*>()->graph().model();
+    QSignalSpy filled(pTable, &DataTableModel::rowsInserted), cleared(pTable, &DataTableModel::rowsRemoved);
+    action(window);
+    QTest::qWait(100);
+    QCOMPARE(filled.count(), isStart ? 0 : 1);
+    QCOMPARE(cleared.count(), isStart ? 0 : 1);
+    QVERIFY(
+        std::ranges::all_of(pGraph->shown(), [pGraph](int slot) { return pGraph->parameter(slot)->samples.empty(); })); // nobody sees it
 }
 
 void TestDialogMain::refusedFolder()
@@ -193,7 +231,8 @@ void TestDialogMain::cardProblems()
     for (const char* name : {"LOG00001.CAN", "LOG00002.CAN"})
         QVERIFY(QFile::copy(card() + "/" + name, folder + "/" + name));
     putFile(folder.toStdString() + "/LOG00003.CAN", "half a header");
-    putFile(folder.toStdString() + "/\xff.CAN", fileContent(card().toStdString() + "/LOG00003.CAN")); // a name that is no text is read all the same
+    putFile(folder.toStdString() + "/\xff.CAN",
+            fileContent(card().toStdString() + "/LOG00003.CAN")); // a name that is no text is read all the same
     const auto told = [](DialogMain& window, const QString& file) {
         const auto* pLabel = window.findChild<QLabel*>("cardProblems");
         return pLabel->isVisible() && pLabel->text().count(file) == 1;
@@ -202,7 +241,7 @@ void TestDialogMain::cardProblems()
         DesktopFixture desktop(home());
         DialogMain& window = desktop.open();
         started(window);
-        window.openFolder(folder); // no box stands in the way
+        window.openFolder(folder);                                         // no box stands in the way
         QCOMPARE(window.windowTitle(), "ZARN " + folder.section('/', -2)); // the others are there
         QVERIFY(told(window, "LOG00003.CAN") && !told(window, "LOG00001.CAN"));
         QFile::remove(folder + "/LOG00001.CAN");
@@ -350,9 +389,10 @@ void TestDialogMain::damagedStore()
 {
     QVERIFY(QDir().mkpath(home() + "/data/profiles/broken"));
     const std::string data = home().toStdString() + "/data";
-    putFile(data + "/ZARN.ini", "<ZARN><Property id=\"Profile\" value=\"" + data + "/profiles/broken/Profile.xml\"/>"
-                                "<Property id=\"WindowGeometry\" value=\"AAAA\"/><Property id=\"WindowSplitter\" value=\"?\"/>"
-                                "<Property id=\"Unit\" value=\"77\"/><Property id=\"FontSize\" value=\"-3\"/></ZARN>");
+    putFile(data + "/ZARN.ini", "<ZARN><Property id=\"Profile\" value=\"" + data +
+                                    "/profiles/broken/Profile.xml\"/>"
+                                    "<Property id=\"WindowGeometry\" value=\"AAAA\"/><Property id=\"WindowSplitter\" value=\"?\"/>"
+                                    "<Property id=\"Unit\" value=\"77\"/><Property id=\"FontSize\" value=\"-3\"/></ZARN>");
     putFile(data + "/CurrentProject.xml", "<ZarnProject><Para");
     putFile(data + "/profiles/broken/Profile.xml", "<CanAerospaceProfile><Device");
     DesktopFixture desktop(home());
@@ -435,20 +475,6 @@ void TestDialogMain::mapTiles()
     QVERIFY(!pMap->map().areTilesAllowed() && !pQuestion->isVisible());
 }
 
-void TestDialogMain::profileSelector()
-{
-    DesktopFixture desktop(home());
-    DialogMain& window = desktop.open();
-    started(window);
-    auto* pProfiles = window.findChild<QComboBox*>("profiles");
-    pProfiles->setCurrentIndex(pProfiles->findText("916 A"));
-    Q_EMIT pProfiles->textActivated("916 A");
-    QCOMPARE(desktop.profile.currentVariant(), std::string("916 A"));
-    QCOMPARE(desktop.property.getString("Profile", ""), std::string("916 A"));
-    QCOMPARE(pProfiles->currentText(), QString("916 A"));
-    QVERIFY(desktop.console.text.find("slotProfileChanged <916 A>\n") != std::string::npos);
-}
-
 void TestDialogMain::styleFile()
 {
     const std::string file = home().toStdString() + "/mine.css";
@@ -496,8 +522,10 @@ void TestDialogMain::failedExport_data()
     QTest::addColumn<int>("id");
     QTest::addColumn<QString>("title");
     QTest::addColumn<QString>("text");
-    QTest::newRow("kml") << int(eActionExportKml) << "ZARN Warning" << "Exporting KML file failed !";
-    QTest::newRow("csv") << int(eActionExportCsv) << "ZARN Viewer Warning" << "Exporting CSV file failed !";
+    QTest::newRow("kml") << int(eActionExportKml) << "ZARN Warning"
+                         << "Exporting KML file failed !";
+    QTest::newRow("csv") << int(eActionExportCsv) << "ZARN Viewer Warning"
+                         << "Exporting CSV file failed !";
 }
 
 void TestDialogMain::failedExport()

@@ -72,7 +72,7 @@ void TestOtherModes::emu()
     desktop.profile.setSelected("Oil Temperature", true);
     window.slotProfileChanged();
     RecordEntry entry;
-    entry.id = desktop.profile.findParameter("Oil Temperature")->identifier();
+    entry.id = desktop.profile.model().find("Oil Temperature")->identifier();
     entry.payload = {0x42, 0xb4, 0, 0, 0x42, 0xb4, 0, 0}; // 90 in each half
     QVERIFY(desktop.container.recordData().appendLive(entry));
     QTRY_VERIFY(showsFirst(window, "90"));

@@ -528,7 +528,7 @@ void TestDialogDataMap::valuesAndColours()
     const auto value = flight().container.values().displayAt(altitude, path[path.size() / 3].time);
     QCOMPARE(texts().size(), 8);
     QVERIFY(texts().contains(QString::fromStdString(altitude.name)));
-    QVERIFY(texts().contains(QString::fromStdString(value->text + " [" + altitude.unit + "]")));
+    QVERIFY(texts().contains(QString::fromStdString(value->text + " [" + altitude.unitMetric + "]")));
     window.dialog->setTime(1e9);
     QCOMPARE(texts().count("-"), 4); // no zero that was not measured
     for (const QSize& size : {QSize(900, 700), QSize(400, 160), QSize(200, 700)}) {

@@ -23,7 +23,7 @@ void DataTableModel::updateParameters()
 {
     removeRecord();
     beginResetModel();
-    mParameters = ShownParameter::all(mProfile);
+    mParameters = ShownParameter::all(mProfile, mProfile.selection());
     mProfileIdentity = mProfile.identity();
     endResetModel();
 }
@@ -48,7 +48,7 @@ void DataTableModel::setRecord(const RecordData* pRecord)
     const auto isColumn = [this](const ProfileDevice&, const ProfileParameter& parameter) {
         return std::ranges::find(mParameters, parameter.name, &ShownParameter::name) != mParameters.end();
     };
-    mTraces = TraceSet(pRecord, mProfile, ENumber::eText, mProfile.sharedFilter(), isColumn);
+    mTraces = TraceSet(pRecord, mProfile, ENumber::eText, isColumn);
     mRows = TableRows(mTraces);
     const int count = static_cast<int>(std::min(mRows.rowCount(), kMaxRows));
     if (count == 0)
@@ -97,7 +97,7 @@ TableCell DataTableModel::valueCell(std::size_t column, std::size_t position) co
 
 QStringList DataTableModel::widestTexts(int column) const
 {
-    if (column < 1 || column >= columnCount() || mRowCount == 0)
+    if (column < 1 || column >= columnCount() || mRowCount == 0 || mProfileIdentity != mProfile.identity())
         return {};
     const auto place = static_cast<std::size_t>(column) - 1;
     std::set<double> some; // the words of a list, or the first of many numbers

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "analysis/TableRows.h"
+#include "profile/Profile.h"
 #include "ui/data/model/CellModel.h"
 #include "ui/data/model/ShownParameter.h"
 
@@ -8,16 +9,16 @@ namespace ZARN {
 
 /// The data table of a loaded record: one row for each tenth of a second at which a shown parameter has a sample, the time in column
 /// 0, one column a parameter. Cells are decoded when they are shown; only positions, whose filter depends on all samples before, are
-/// decoded when the record is set. Refers to record and profile; must be given new ones before either changes.
+/// decoded when the record is set. Refers to the record; must be given another one before that changes.
 class DataTableModel : public CellModel {
     Q_OBJECT
 
 public:
-    explicit DataTableModel(Profile& profile, QObject* pParent = nullptr) : CellModel(pParent), mProfile(profile) {}
+    explicit DataTableModel(const Profile& profile, QObject* pParent = nullptr) : CellModel(pParent), mProfile(profile) {}
 
     /// The columns, as the profile has them now; there are no rows until a record is set.
     void updateParameters();
-    /// The rows of a record; null removes them. Starts a pass of the shared position filter.
+    /// The rows of a record; null removes them.
     void setRecord(const RecordData* pRecord);
 
     [[nodiscard]] const std::vector<ShownParameter>& parameters() const { return mParameters; }
@@ -38,7 +39,7 @@ private:
     void removeRecord();
     [[nodiscard]] TableCell valueCell(std::size_t column, std::size_t position) const;
 
-    Profile& mProfile;
+    const Profile& mProfile;
     int mProfileIdentity = -1; ///< of the profile that the decoders belong to
     std::vector<ShownParameter> mParameters;
     TraceSet mTraces; ///< by column

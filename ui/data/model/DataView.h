@@ -6,10 +6,10 @@
 
 namespace ZARN {
 
+class EventList;
 class RecordData;
 
-/// A view of the loaded record that follows the common view time. The data area hangs on this alone; which view comes in which
-/// order is in one place there.
+/// A view of the loaded record that follows the common view time. Who keeps it up to date, and when, is its ViewLink.
 class DataView {
 public:
     virtual ~DataView() = default;
@@ -19,6 +19,16 @@ public:
 
     /// Shows that record; null shows none. The record is not owned and lives until the next call.
     virtual void updateRecord(RecordData* pRecord) = 0;
+
+    /// Both at once. A view that would be filled by each overrides it, to be filled once.
+    virtual void update(RecordData* pRecord)
+    {
+        updateProfile();
+        updateRecord(pRecord);
+    }
+
+    /// In place of updateRecord() while nobody sees the view: works out what others show of it, no more.
+    virtual void prepare(RecordData* /*pRecord*/) {}
 
     /// @param time view time in seconds on the record's own time base
     virtual void setTime(double time) = 0;
@@ -37,6 +47,11 @@ public:
 
     /// How many events the view lists.
     [[nodiscard]] virtual int eventCount() const { return 0; }
+
+    /// Marks the events that the lists found, for a view that shows them among other things.
+    virtual void setEvents(const EventList& /*limits*/, const EventList& /*lamps*/) {}
+    /// The events of a view that lists them; null for others.
+    [[nodiscard]] virtual const EventList* eventList() const { return nullptr; }
 
     /// The part of the record that the user looks at, where a view has one.
     [[nodiscard]] virtual std::optional<TimeSpan> shownSpan() const { return {}; }

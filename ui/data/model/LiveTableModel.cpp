@@ -7,9 +7,10 @@ namespace ZARN {
 void LiveTableModel::updateParameters()
 {
     beginResetModel();
-    mParameters = ShownParameter::all(mProfile);
+    mParameters = ShownParameter::all(mProfile, mProfile.selection());
     mProfileIdentity = mProfile.identity();
     mCells.assign(mParameters.size(), {});
+    mFilter = {};
     endResetModel();
 }
 
@@ -30,7 +31,7 @@ void LiveTableModel::refresh(RecordData& record)
         if (!pChannel || !pChannel->fresh())
             continue;
         const ValueDecoder& decoder = mParameters[i].decoder();
-        mCells[i] = TableCell::ofValue(decoder, decoder.textValue(pChannel->last().payload, mProfile.sharedFilter()));
+        mCells[i] = TableCell::ofValue(decoder, decoder.textValue(pChannel->last().payload, mFilter));
         const QModelIndex changed = index(static_cast<int>(i), 0);
         Q_EMIT dataChanged(changed, changed);
         shown.push_back(pChannel);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "profile/Profile.h"
 #include "ui/data/model/CellModel.h"
 #include "ui/data/model/ShownParameter.h"
 
@@ -7,13 +8,12 @@ namespace ZARN {
 
 class RecordData;
 
-/// The newest values of a live record: one row a shown parameter, one column. Refers to the profile; must be given its new state
-/// before it is loaded again.
+/// The newest values of a live record: one row a shown parameter, one column.
 class LiveTableModel : public CellModel {
     Q_OBJECT
 
 public:
-    explicit LiveTableModel(Profile& profile, QObject* pParent = nullptr) : CellModel(pParent), mProfile(profile) {}
+    explicit LiveTableModel(const Profile& profile, QObject* pParent = nullptr) : CellModel(pParent), mProfile(profile) {}
 
     /// The rows, as the profile has them now; all without a value.
     void updateParameters();
@@ -28,10 +28,11 @@ public:
     [[nodiscard]] TableCell cell(const QModelIndex& index) const override;
 
 private:
-    Profile& mProfile;
+    const Profile& mProfile;
     int mProfileIdentity = -1;
     std::vector<ShownParameter> mParameters;
     std::vector<TableCell> mCells;
+    CoordinateFilter mFilter; ///< of the positions that came in
 };
 
 } // namespace ZARN

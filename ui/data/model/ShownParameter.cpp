@@ -13,13 +13,13 @@ QString escaped(const std::string& text)
 
 } // namespace
 
-std::vector<ShownParameter> ShownParameter::all(const Profile& profile)
+std::vector<ShownParameter> ShownParameter::all(const DecodingContext& context, const Selection& selection)
 {
     std::vector<ShownParameter> shown;
-    for (const ProfileDevice& device : profile.data()) {
+    for (const ProfileDevice& device : context.model().devices) {
         for (const ProfileParameter& parameter : device.parameters) {
-            if (profile.isSelected(parameter.name))
-                shown.emplace_back(profile, parameter);
+            if (selection.contains(parameter.name))
+                shown.emplace_back(context, parameter);
         }
     }
     return shown;
@@ -28,7 +28,7 @@ std::vector<ShownParameter> ShownParameter::all(const Profile& profile)
 QString ShownParameter::label() const
 {
     const QString name = QString::fromStdString(mParameter.name);
-    return mParameter.unit.empty() ? name : name + " [" + QString::fromStdString(mParameter.unit) + "]";
+    return unit().empty() ? name : name + " [" + QString::fromStdString(unit()) + "]";
 }
 
 QString ShownParameter::stateName(int state)
@@ -40,8 +40,8 @@ QString ShownParameter::toolTip() const
 {
     QString text = "<qt><b>" + escaped(mParameter.path) + "</b><br/>";
     text += tr("CAN identifier: %1").arg(mParameter.identifier());
-    if (!mParameter.unit.empty())
-        text += "<br/>" + tr("Unit:") + " " + escaped(mParameter.unit);
+    if (!unit().empty())
+        text += "<br/>" + tr("Unit:") + " " + escaped(unit());
     return text + thresholdLines() + "</qt>";
 }
 
@@ -58,7 +58,7 @@ QString ShownParameter::thresholdLines() const
         std::string value;
         mDecoder.appendText(threshold.value, value);
         const QString state = stateName(threshold.state);
-        lines += "<br/>&nbsp;&nbsp;" + tr("from") + " " + escaped(value) + " " + escaped(mParameter.unit) + ": ";
+        lines += "<br/>&nbsp;&nbsp;" + tr("from") + " " + escaped(value) + " " + escaped(unit()) + ": ";
         lines += state.isEmpty() ? tr("Normal") : state;
     }
     return lines;

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "profile/Profile.h"
+#include "profile/DecodingContext.h"
+#include "profile/Selection.h"
 
 #include <QCoreApplication>
 #include <QString>
@@ -9,16 +10,18 @@
 
 namespace ZARN {
 
-/// A parameter that the user chose to see, as the data table shows it. Its decoder refers to the profile's lists: valid until the
-/// next load of the profile.
+/// A parameter that the user chose to see, as the data table shows it.
 class ShownParameter {
     Q_DECLARE_TR_FUNCTIONS(ZARN::ShownParameter)
 
 public:
-    ShownParameter(const Profile& profile, const ProfileParameter& parameter) : mParameter(parameter), mDecoder(profile.decoder(parameter)) {}
+    ShownParameter(const DecodingContext& context, const ProfileParameter& parameter)
+        : mContext(context), mParameter(parameter), mDecoder(context.decoder(parameter))
+    {
+    }
 
-    /// The shown parameters of a profile, in its order.
-    [[nodiscard]] static std::vector<ShownParameter> all(const Profile& profile);
+    /// The selected parameters of a profile, in its order.
+    [[nodiscard]] static std::vector<ShownParameter> all(const DecodingContext& context, const Selection& selection);
 
     [[nodiscard]] const std::string& name() const { return mParameter.name; }
     [[nodiscard]] uint32_t identifier() const { return mParameter.identifier(); }
@@ -34,6 +37,9 @@ public:
 private:
     [[nodiscard]] QString thresholdLines() const;
 
+    [[nodiscard]] const std::string& unit() const { return mContext.unitOf(mParameter); }
+
+    DecodingContext mContext;
     ProfileParameter mParameter;
     ValueDecoder mDecoder;
 };

@@ -30,8 +30,8 @@ void MapValues::fill(MapValue& row, const ProfileParameter& parameter, double ti
     if (!value)
         return;
     row.colour = value->colour;
-    if (!parameter.unit.empty())
-        row.text += QLatin1String(" [") + QString::fromStdString(parameter.unit) + QLatin1Char(']');
+    if (const std::string& unit = mSession.profile.context().unitOf(parameter); !unit.empty())
+        row.text += QLatin1String(" [") + QString::fromStdString(unit) + QLatin1Char(']');
 }
 
 } // namespace ZARN

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "analysis/Incident.h"
+#include "analysis/KeyValues.h"
+
+namespace ZARN {
+
+enum class EVerdict { eUnknown, eOk, eWarning, eLimit };
+
+/// "unknown", "ok", "warning" or "limit".
+[[nodiscard]] const char* verdictKey(EVerdict verdict);
+
+/// Whether everything of a cycle was within its limits while the engine ran, and what it took. A plain value, in metric units but for the
+/// texts of episodes. What could not be told is empty, never good.
+struct CycleReview {
+    EngineRunning engine;
+    bool hasEngineSpeed = false; ///< the profile names a parameter for it
+    bool knowsAltitude = false;  ///< climb and descent are told from level flight
+    double flightTime = 0.0;     ///< seconds
+    std::optional<double> fuel;  ///< of both lanes over the whole cycle
+    EVerdict verdict = EVerdict::eUnknown;
+    std::size_t sources = 0;          ///< parameters with limits, lamps and fault bits that the profile has
+    std::size_t withSamples = 0;      ///< those of which a sample was watched
+    std::vector<std::string> missing; ///< names of the others, in the profile's order
+    std::vector<Incident> incidents;  ///< by start
+    std::vector<Episode> standing;    ///< by start: outside, but not while the engine ran
+    std::vector<FlightPhases::Step> phases;
+    KeyValueTable keyValues; ///< where they are asked for
+};
+
+enum class EKeyValues { eNone, eAll };
+
+/// Reviews a loaded cycle. @param endTime of the cycle, in seconds since power-up
+[[nodiscard]] CycleReview reviewCycle(const CycleValues& values, std::span<const RecordFlight> flights, double endTime,
+                                      EKeyValues keyValues = EKeyValues::eNone);
+
+} // namespace ZARN

@@ -1,0 +1,67 @@
+#include "analysis/EngineRunning.h"
+
+#include "card/record/RecordEntry.h"
+
+#include <algorithm>
+
+namespace ZARN {
+
+namespace {
+
+constexpr double kRuns = 400.0; // revolutions a minute
+constexpr double kStands = 300.0;
+constexpr double kStart = 10.0; // seconds until what is measured of a started engine has settled
+constexpr double kStop = 2.0;   // and for which it fell before the stop was seen
+
+} // namespace
+
+EngineRunning::EngineRunning() : mStretches(1, TimeSpan{-std::numeric_limits<double>::infinity(), std::numeric_limits<double>::infinity()})
+{
+}
+
+EngineRunning::EngineRunning(const Trace& speed, double endTime) : EngineRunning()
+{
+    std::vector<TimeSpan> stretches;
+    bool isRunning = false;
+    double last = 0.0;
+    speed.forEachSample([&](double time, double revolutions) {
+        if (time > kLatestTime)
+            return;
+        mIsKnown = true;
+        last = time;
+        if (!isRunning && revolutions > kRuns) {
+            isRunning = true;
+            stretches.push_back({time, time});
+        } else if (isRunning && revolutions < kStands) {
+            isRunning = false;
+            stretches.back().end = time;
+        }
+    });
+    if (!mIsKnown)
+        return;
+    if (isRunning)
+        stretches.back().end = endTime > kLatestTime ? last : std::max(last, endTime);
+    mStretches = std::move(stretches);
+}
+
+std::optional<double> EngineRunning::duration() const
+{
+    if (!mIsKnown)
+        return {};
+    double sum = 0.0;
+    for (const TimeSpan& stretch : mStretches)
+        sum += stretch.end - stretch.start;
+    return sum;
+}
+
+std::vector<TimeSpan> EngineRunning::watched() const
+{
+    std::vector<TimeSpan> spans = mStretches;
+    for (TimeSpan& span : spans) {
+        if (mIsKnown)
+            span = {span.start + kStart, span.end - kStop};
+    }
+    return spans;
+}
+
+} // namespace ZARN

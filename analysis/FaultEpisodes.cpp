@@ -1,0 +1,123 @@
+#include "analysis/FaultEpisodes.h"
+
+#include "analysis/EpisodeExtent.h"
+
+#include <array>
+#include <bit>
+#include <map>
+
+namespace ZARN {
+
+namespace {
+
+bool isJudged(const FaultBit& fault)
+{
+    return fault.errorType == eErrorWarning || fault.errorType == eErrorFault;
+}
+
+uint32_t judgedBits(const FaultMatrix& matrix)
+{
+    uint32_t mask = 0;
+    for (const auto& [bit, fault] : matrix.bits)
+        mask |= isJudged(fault) ? 1U << bit : 0U;
+    return mask;
+}
+
+class FaultScan {
+public:
+    explicit FaultScan(const FaultMatrix& matrix) : mMatrix(matrix), mMask(judgedBits(matrix)) {}
+
+    void walk(int sequence, const TraceRun& part)
+    {
+        Sequence& state = mSequences[sequence];
+        for (std::size_t i = 0; i < part.times.size(); ++i) {
+            const uint32_t word = static_cast<uint32_t>(part.numbers[i]) & mMask;
+            if (word != state.word)
+                change(state, word, part.times[i], sequence);
+            state.last = part.times[i];
+        }
+    }
+
+    /// The episodes bit by bit, each bit's in stored order. @return whether a sample was watched
+    bool finish(EpisodeList& list)
+    {
+        for (auto& [sequence, state] : mSequences) {
+            change(state, 0, state.last, sequence);
+            for (std::size_t bit = 0; bit < kBits; ++bit)
+                close(state.bits[bit], static_cast<int>(bit), sequence);
+        }
+        for (const auto& episodes : mFound) {
+            for (const auto& [sequence, episode] : episodes)
+                list.add(episode, sequence != WatchedTimes::kOthers);
+        }
+        return !mSequences.empty() && mSequences.rbegin()->first != WatchedTimes::kOthers;
+    }
+
+private:
+    static constexpr std::size_t kBits = 32;
+    struct Sequence {
+        uint32_t word = 0;
+        double last = 0.0;
+        std::array<EpisodeExtent, kBits> bits;
+    };
+
+    void change(Sequence& state, uint32_t word, double time, int sequence)
+    {
+        for (uint32_t changed = word ^ state.word; changed != 0; changed &= changed - 1) {
+            const int bit = std::countr_zero(changed);
+            EpisodeExtent& extent = state.bits[static_cast<std::size_t>(bit)];
+            if ((word >> bit & 1) == 0) {
+                extent.outside(state.last);
+                extent.inside();
+                continue;
+            }
+            if (extent.isOverAt(time))
+                close(extent, bit, sequence);
+            extent.outside(time);
+        }
+        state.word = word;
+    }
+
+    void close(EpisodeExtent& extent, int bit, int sequence)
+    {
+        if (!extent.isOpen())
+            return;
+        const FaultBit& fault = mMatrix.bits.at(bit);
+        Episode episode;
+        episode.kind = EEpisodeKind::eFault;
+        episode.group = mMatrix.name;
+        episode.parameter = fault.name;
+        episode.state = fault.errorType == eErrorFault ? eThresholdLimit : eThresholdWarning;
+        episode.start = extent.start();
+        episode.end = extent.end();
+        episode.text = fault.description;
+        mFound[static_cast<std::size_t>(bit)].emplace_back(sequence, std::move(episode));
+        extent.close();
+    }
+
+    const FaultMatrix& mMatrix;
+    const uint32_t mMask;
+    std::map<int, Sequence> mSequences;
+    std::array<std::vector<std::pair<int, Episode>>, kBits> mFound;
+};
+
+} // namespace
+
+std::vector<std::string> FaultEpisodes::sources(const FaultMatrix& matrix)
+{
+    std::vector<std::string> names;
+    for (const auto& [bit, fault] : matrix.bits) {
+        if (isJudged(fault))
+            names.push_back(fault.name);
+    }
+    return names;
+}
+
+bool FaultEpisodes::find(const FaultMatrix& matrix, const Trace& words, const WatchedTimes& watched, EpisodeList& list)
+{
+    FaultScan scan(matrix);
+    watched.forEachPart(words, [&scan](int sequence, const TraceRun& part) { scan.walk(sequence, part); });
+    return scan.finish(list);
+}
+
+} // namespace ZARN

@@ -1,0 +1,71 @@
+#include "analysis/ReviewText.h"
+
+#include "analysis/IncidentText.h"
+
+namespace ZARN {
+
+QString ReviewText::verdict() const
+{
+    switch (mReview.verdict) {
+    case EVerdict::eOk: return tr("within limits");
+    case EVerdict::eWarning: return tr("warning");
+    case EVerdict::eLimit: return tr("limit exceeded");
+    case EVerdict::eUnknown: break;
+    }
+    return tr("unknown");
+}
+
+QStringList ReviewText::gaps() const
+{
+    QStringList gaps;
+    const bool hasNoTimes = mReview.engine.isKnown() && mReview.withSamples == 0;
+    if (mReview.sources == 0)
+        gaps << tr("The profile has no limits, lamps or faults to watch.");
+    else if (hasNoTimes && mReview.engine.duration().value_or(0.0) > 0.0)
+        gaps << tr("Nothing was recorded while the engine ran warm: nothing was watched.");
+    else if (hasNoTimes)
+        gaps << tr("The engine did not run: nothing was watched.");
+    else if (mReview.withSamples == 0)
+        gaps << tr("None of the watched parameters was recorded.");
+    if (!mReview.hasEngineSpeed)
+        gaps << tr("Whether the engine ran is unknown, for the profile names no engine speed: starts and stops count as well.");
+    else if (!mReview.engine.isKnown() && mReview.withSamples > 0)
+        gaps << tr("Whether the engine ran is unknown, for its speed was not recorded: starts and stops count as well.");
+    if (!mReview.knowsAltitude)
+        gaps << tr("Climb and descent are unknown, for no altitude was recorded.");
+    return gaps;
+}
+
+QString ReviewText::some(const QStringList& names, qsizetype most)
+{
+    if (names.size() <= most + 1)
+        return names.join(", ");
+    return tr("%1 and %2 more").arg(names.first(most).join(", ")).arg(names.size() - most);
+}
+
+QString ReviewText::watched() const
+{
+    const QString count = tr("%1 of %2 watched parameters recorded").arg(mReview.withSamples).arg(mReview.sources);
+    if (mReview.missing.empty() || mReview.withSamples == 0)
+        return count;
+    QStringList names;
+    for (const std::string& name : mReview.missing)
+        names << QString::fromStdString(name);
+    return tr("%1; missing: %2").arg(count, some(names));
+}
+
+QString ReviewText::standing(qsizetype most) const
+{
+    if (mReview.standing.empty())
+        return {};
+    return tr("%1 outside while not watched: %2")
+        .arg(QString::number(mReview.standing.size()), some(IncidentText::names(mReview.standing), most));
+}
+
+QString ReviewText::engineRunning() const
+{
+    const std::optional<double> duration = mReview.engine.duration();
+    return duration ? IncidentText::duration(*duration) : tr("unknown");
+}
+
+} // namespace ZARN

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "app/Progress.h"
+
+#include <QCoreApplication>
+#include <QThread>
+
+#include <atomic>
+#include <functional>
+#include <memory>
+
+namespace ZARN {
+
+/// Runs work on a thread of its own while the window goes on, one piece at a time. Tells in the thread of its owner how far it is and
+/// when it ended, by itself, by cancel() or by an exception. What the work refers to must stay until then; a task that is destroyed
+/// cancels its work and waits for it, so that a class whose work refers to its members has the task as the last of them.
+class BackgroundTask : public QObject {
+    Q_OBJECT
+
+public:
+    using Work = std::function<void(Progress&)>;
+
+    explicit BackgroundTask(QObject* pParent = nullptr) : QObject(pParent) {}
+    ~BackgroundTask() override;
+
+    /// Begins the work; nothing else may be running. signalFinished comes later, whatever happens.
+    void start(Work work);
+    /// Until signalFinished is sent.
+    [[nodiscard]] bool isRunning() const { return mpThread != nullptr; }
+    /// Tells the work to end as soon as it can.
+    void cancel() { mReport.cancel(); }
+    [[nodiscard]] bool isCancelled() const { return mReport.isCancelled(); }
+    /// The exception that ended the work, for people; empty when none did.
+    [[nodiscard]] const QString& error() const { return mError; }
+
+Q_SIGNALS:
+    /// From 0 to 100; only what differs from the last one.
+    void signalProgress(int percent);
+    void signalFinished();
+
+private:
+    /// What the work reports to, in its thread.
+    class Report : public Progress {
+    public:
+        explicit Report(BackgroundTask& task) : mTask(task) {}
+
+        void begin();
+        void cancel() { mIsCancelled = true; }
+        void setProgress(int percent) override;
+        [[nodiscard]] bool isCancelled() const override { return mIsCancelled; }
+
+    private:
+        BackgroundTask& mTask;
+        std::atomic<bool> mIsCancelled = false;
+        int mPercent = -1;
+    };
+    void run(const Work& work);
+    void finish();
+
+    Report mReport{*this};
+    QString mError;
+    std::unique_ptr<QThread> mpThread; // null while nothing runs
+};
+
+} // namespace ZARN

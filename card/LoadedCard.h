@@ -1,0 +1,33 @@
+#pragma once
+
+#include "card/FlightPath.h"
+#include "card/RecordFlight.h"
+#include "card/record/RecordInfo.h"
+
+#include <memory>
+
+namespace ZARN {
+
+/// What is loaded of a card, how it is decoded and what of it is selected, as it was when the container was asked. Records and path are
+/// shared and never change, so that whoever works on it, on whatever thread, is not disturbed by what is loaded next. A plain value.
+struct LoadedCard {
+    QString card; ///< its name for display
+    DecodingContext context;
+    std::shared_ptr<const RecordData> pRecord;
+    std::shared_ptr<const std::vector<FlightPathPoint>> pPath;
+
+    // Of the loaded cycle; without one these are empty.
+    std::optional<unsigned int> cycle;
+    QString cycleName;
+    QDateTime cycleDate;
+    std::optional<RecordInfo> unit; ///< of its last file: the first may lack what the unit did not know yet
+    std::vector<RecordFlight> flights;
+
+    QDateTime powerUp;         ///< wall clock of time 0; invalid without one
+    RecordFlight flight;       ///< the selected one, or the span of everything
+    int flightNumber = 0;      ///< from 1; 0 when none is selected
+    double startTime = 0.0;    ///< of the span; seconds since power-up
+    double endTime = 0.0;
+};
+
+} // namespace ZARN

@@ -1,0 +1,77 @@
+#include "cli/SummaryJson.h"
+
+namespace ZARN {
+
+namespace {
+
+const char* kindKey(EEpisodeKind kind)
+{
+    switch (kind) {
+    case EEpisodeKind::eStop: return "stop";
+    case EEpisodeKind::eLimit: return "limit";
+    case EEpisodeKind::eLamp: return "lamp";
+    case EEpisodeKind::eFault: return "fault";
+    }
+    return "";
+}
+
+template <typename Value> void writeOptional(JsonWriter& writer, const char* key, const std::optional<Value>& value)
+{
+    writer.key(key);
+    value ? writer.value(*value) : writer.null();
+}
+
+void writeEpisode(JsonWriter& writer, const Episode& episode)
+{
+    writer.beginObject().member("kind", kindKey(episode.kind)).member("group", episode.group).member("parameter", episode.parameter);
+    writer.member("unit", episode.unit)
+        .member("state", episode.state)
+        .member("start", episode.start)
+        .member("end", episode.end)
+        .key("side");
+    episode.side == ESide::eNone ? writer.null() : writer.value(episode.side == ESide::eHigh ? "high" : "low");
+    const auto& peak = episode.peak;
+    writeOptional(writer, "limit", peak ? std::optional(peak->limit) : std::nullopt);
+    writeOptional(writer, "peak", peak ? std::optional(peak->value) : std::nullopt);
+    writeOptional(writer, "peakTime", peak ? std::optional(episode.peakTime) : std::nullopt);
+    writer.member("text", episode.text).endObject();
+}
+
+void writeEpisodes(JsonWriter& writer, const char* key, const std::vector<Episode>& episodes)
+{
+    writer.key(key).beginArray();
+    for (const Episode& episode : episodes)
+        writeEpisode(writer, episode);
+    writer.endArray();
+}
+
+void writeIncident(JsonWriter& writer, const Incident& incident)
+{
+    writer.beginObject().member("start", incident.start).member("end", incident.end).member("state", incident.state);
+    writer.member("phase", phaseKey(incident.phase));
+    writeOptional(writer, "flight", incident.flight > 0 ? std::optional(incident.flight) : std::nullopt);
+    writer.member("title", incident.title());
+    writeEpisodes(writer, "episodes", incident.episodes);
+    writer.endObject();
+}
+
+} // namespace
+
+void writeReview(JsonWriter& writer, const CycleReview& review)
+{
+    writeOptional(writer, "engineRunning", review.engine.duration());
+    writer.member("flightTime", review.flightTime);
+    writeOptional(writer, "fuel", review.fuel);
+    writer.member("verdict", verdictKey(review.verdict)).key("watched").beginObject();
+    writer.member("sources", static_cast<int64_t>(review.sources))
+        .member("withSamples", static_cast<int64_t>(review.withSamples))
+        .endObject();
+    writer.key("incidents").beginArray();
+    for (const Incident& incident : review.incidents)
+        writeIncident(writer, incident);
+    writer.endArray();
+    writeEpisodes(writer, "standing", review.standing);
+    writer.key("unusual").beginArray().endArray(); // nothing to compare with
+}
+
+} // namespace ZARN

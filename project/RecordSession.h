@@ -1,0 +1,83 @@
+#pragma once
+
+#include <QDateTime>
+#include <QObject>
+#include <QScopedValueRollback>
+
+namespace ZARN {
+
+class CardContainer;
+class RecordData;
+
+/// What all views share: the record that is loaded with its chosen flight, how it is decoded, which parameters are ticked, and the view
+/// time, which is kept nowhere else. Who changes one of them says so here, who shows one of them listens. All changes of one turn of the
+/// event loop are told together, once; only the view times that different sources pick are each told for themselves. Knows no view;
+/// what it is given outlives it.
+class RecordSession : public QObject {
+    Q_OBJECT
+
+public:
+    /// How often each part has changed. A view that notes what it shows sees by comparing what it has missed.
+    struct Version {
+        unsigned record = 0;    ///< other data
+        unsigned flights = 0;   ///< the chosen flight, or flights, statistic and path of the same data
+        unsigned profile = 0;   ///< another profile, or variant of it
+        unsigned decoding = 0;  ///< another profile or unit
+        unsigned selection = 0; ///< the ticked parameters
+        unsigned time = 0;
+        bool operator==(const Version&) const = default;
+    };
+
+    explicit RecordSession(CardContainer& container, QObject* pParent = nullptr) : QObject(pParent), mContainer(container) {}
+
+    /// Takes what the container holds now, and its start as the view time.
+    void setRecord();
+    /// Lets go of the record, and tells so at once: its data are about to be replaced.
+    void clearRecord();
+    /// Flights, statistic and path of the record were worked out anew; the view time stays.
+    void changeFlights();
+    void changeProfile();
+    void changeUnit();
+    void changeSelection();
+    /// @param seconds on the record's own time base; a NaN is no time
+    /// @param pSource who shows that time already; null for whoever is no view
+    void setTime(double seconds, const QObject* pSource = nullptr);
+
+    /// Null while nothing is loaded.
+    [[nodiscard]] RecordData* record() const { return mpRecord; }
+    /// Date and time of the power-up; invalid when the record tells none.
+    [[nodiscard]] const QDateTime& powerUp() const { return mPowerUp; }
+    [[nodiscard]] double startTime() const { return mStartTime; }
+    [[nodiscard]] double endTime() const { return mEndTime; }
+    [[nodiscard]] double viewTime() const { return mViewTime; }
+    [[nodiscard]] const Version& version() const { return mVersion; }
+
+    /// While the result lives, whoever changes the time is a view that is being filled, and no user: it is not heard.
+    [[nodiscard]] QScopedValueRollback<bool> telling() { return QScopedValueRollback<bool>(mIsTelling, true); }
+
+Q_SIGNALS:
+    // In this order, and always closed by the time.
+    void recordChanged(); ///< the data, or what was worked out of them
+    void decodingChanged();
+    void selectionChanged();
+    void timeChanged(double seconds, const QObject* pSource);
+
+private:
+    void takeSpan();
+    void schedule();
+    void tell();
+
+    CardContainer& mContainer;
+    RecordData* mpRecord = nullptr;
+    QDateTime mPowerUp;
+    double mStartTime = 0.0;
+    double mEndTime = 0.0;
+    double mViewTime = 0.0;
+    const QObject* mpSource = nullptr;
+    Version mVersion;
+    Version mTold;
+    bool mIsScheduled = false;
+    bool mIsTelling = false;
+};
+
+} // namespace ZARN
