@@ -53,6 +53,12 @@ const std::vector<MainAction>& MainAction::all()
          QT_TRANSLATE_NOOP("ZARN::DialogMain", "Export Flight Path as GPX File"), "", "flight"},
         {eActionReport, QT_TRANSLATE_NOOP("ZARN::DialogMain", "Flight Report"), "",
          QT_TRANSLATE_NOOP("ZARN::DialogMain", "Write Flight Report as PDF File"), "", "about"},
+        {eActionOverview, QT_TRANSLATE_NOOP("ZARN::DialogMain", "Overview"), "Ctrl+E",
+         QT_TRANSLATE_NOOP("ZARN::DialogMain", "Was the engine all right? The whole card at a glance"), "", "check"},
+        {eActionNextIncident, QT_TRANSLATE_NOOP("ZARN::DialogMain", "Next Incident"), "N",
+         QT_TRANSLATE_NOOP("ZARN::DialogMain", "Go to the next incident of what is loaded"), "", "chevron-right"},
+        {eActionPreviousIncident, QT_TRANSLATE_NOOP("ZARN::DialogMain", "Previous Incident"), "Shift+N",
+         QT_TRANSLATE_NOOP("ZARN::DialogMain", "Go to the previous incident of what is loaded"), "", "chevron-left"},
     };
     // clang-format on
     return actions;

@@ -56,7 +56,6 @@ WidgetCycleCard::WidgetCycleCard(std::shared_ptr<const CycleOverview> pCycle, QW
         addIncidents(*pLayout);
     }
     auto* pBasis = makeLabel(new QLabel(OverviewTexts::basis(*mpCycle)), "quiet");
-    pBasis->setToolTip(OverviewTexts::missing(*mpCycle));
     pLayout->addWidget(pBasis);
     pLayout->addLayout(createFoot());
 }
@@ -97,14 +96,14 @@ QLayout* WidgetCycleCard::createFigures() const
 
 void WidgetCycleCard::addIncidents(QBoxLayout& layout)
 {
-    const std::vector<IncidentSentence> sentences = tellIncidents(mpCycle->review);
+    const std::vector<IncidentSentence> sentences = OverviewTexts::sentences(*mpCycle);
     for (std::size_t i = 0; i < std::min(sentences.size(), kRowsShown); ++i) {
         const IncidentSentence& sentence = sentences[i];
         const Incident& first = mpCycle->review.incidents[sentence.incidents.front()];
-        auto* pRow = new WidgetIncidentRow(first.state, OverviewTexts::clock(first.start), sentence.head, sentence.detail);
+        auto* pRow = new WidgetIncidentRow(sentence.state, sentence.time, sentence.what, OverviewTexts::detail(sentence));
         connect(pRow, &QAbstractButton::clicked, this, [this, &first] { Q_EMIT signalIncident(number(), first); });
         connect(pRow, &WidgetIncidentRow::signalCopy, this,
-                [this, text = OverviewTexts::clock(first.start) + "  " + sentence.plain()] { copy(text); });
+                [this, text = sentence.time + "  " + sentence.text()] { copy(text); });
         layout.addWidget(pRow);
     }
     if (sentences.size() > kRowsShown) {

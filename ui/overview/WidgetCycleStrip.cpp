@@ -21,14 +21,14 @@ constexpr double kMark = 7;     // height of an incident's mark
 constexpr double kLeastMark = 4; // its least width: none is too short to be seen
 constexpr double kNear = 4;     // how far from a mark a click may fall
 
-QColor colourOf(EPhase phase)
+QColor colourOf(EFlightPhase phase)
 {
     switch (phase) {
-    case EPhase::eGround: return {0xd3, 0xdb, 0xe3};
-    case EPhase::eTakeOff: return {0x5f, 0x9a, 0xd0};
-    case EPhase::eClimb: return {0x8b, 0xb8, 0xe0};
-    case EPhase::eLevel: return {0xb3, 0xd2, 0xee};
-    case EPhase::eDescent: return {0xcd, 0xe1, 0xf4};
+    case EFlightPhase::eGround: return {0xd3, 0xdb, 0xe3};
+    case EFlightPhase::eTakeOff: return {0x5f, 0x9a, 0xd0};
+    case EFlightPhase::eClimb: return {0x8b, 0xb8, 0xe0};
+    case EFlightPhase::eLevel: return {0xb3, 0xd2, 0xee};
+    case EFlightPhase::eDescent: return {0xcd, 0xe1, 0xf4};
     default: return kRecorded;
     }
 }
@@ -113,7 +113,7 @@ void WidgetCycleStrip::paintPhases(QPainter& painter) const
     painter.setPen(Qt::NoPen);
     for (const FlightPhases::Step& step : mpCycle->review.phases) {
         const QRectF area = span(step.from, step.until);
-        if (step.phase != EPhase::eOff && area.width() > 0)
+        if (step.phase != EFlightPhase::eOff && area.width() > 0)
             painter.fillRect(area, colourOf(step.phase));
     }
 }
@@ -132,8 +132,8 @@ void WidgetCycleStrip::paintLabels(QPainter& painter) const
         end = x + metrics.horizontalAdvance(text) + metrics.averageCharWidth();
     }
     const QRectF below(bar().left(), height() - metrics.height(), bar().width(), metrics.height());
-    painter.drawText(below, Qt::AlignLeft, OverviewTexts::clock(mpCycle->startTime));
-    painter.drawText(below, Qt::AlignRight, OverviewTexts::clock(mpCycle->endTime));
+    painter.drawText(below, Qt::AlignLeft, IncidentText::time(mpCycle->startTime));
+    painter.drawText(below, Qt::AlignRight, IncidentText::time(mpCycle->endTime));
 }
 
 void WidgetCycleStrip::paintEvent(QPaintEvent* /*pEvent*/)
@@ -172,16 +172,16 @@ void WidgetCycleStrip::mouseReleaseEvent(QMouseEvent* pEvent)
 QString WidgetCycleStrip::toolTipAt(const QPointF& point) const
 {
     if (const auto incident = incidentAt(point)) {
-        for (const IncidentSentence& sentence : tellIncidents(mpCycle->review)) {
+        for (const IncidentSentence& sentence : OverviewTexts::sentences(*mpCycle)) {
             if (std::ranges::find(sentence.incidents, *incident) != sentence.incidents.end())
-                return OverviewTexts::clock(mpCycle->review.incidents[*incident].start) + "  " + sentence.plain();
+                return sentence.time + "  " + sentence.text();
         }
     }
     const int flight = flightAt(point);
     if (flight < 0)
         return {};
     const RecordFlight& found = mpCycle->flights[static_cast<std::size_t>(flight)];
-    return tr("Flight %1, %2 to %3").arg(flight + 1).arg(OverviewTexts::clock(found.takeOffTime), OverviewTexts::clock(found.landingTime));
+    return tr("Flight %1, %2 to %3").arg(flight + 1).arg(IncidentText::time(found.takeOffTime), IncidentText::time(found.landingTime));
 }
 
 bool WidgetCycleStrip::event(QEvent* pEvent)

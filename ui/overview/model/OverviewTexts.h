@@ -1,5 +1,6 @@
 #pragma once
 
+#include "analysis/IncidentText.h"
 #include "ui/overview/model/CycleOverview.h"
 
 #include <QCoreApplication>
@@ -25,19 +26,17 @@ public:
     [[nodiscard]] static QString origin(const CycleOverview& cycle);
     /// Recorded, engine ran, in flight, fuel; "-" for what is not known.
     [[nodiscard]] static std::vector<Figure> figures(const CycleOverview& cycle);
-    /// What the verdict rests on: how much of what is watched was recorded, what could not be told, and what stood outside while the
-    /// engine did not run.
+    /// The incidents, the worst first.
+    [[nodiscard]] static std::vector<IncidentSentence> sentences(const CycleOverview& cycle);
+    /// What of a sentence stands in its second line.
+    [[nodiscard]] static QString detail(const IncidentSentence& sentence);
+    /// What the verdict rests on, what could not be told, and what stood outside while the engine did not run.
     [[nodiscard]] static QString basis(const CycleOverview& cycle);
-    /// The watched parameters that were not recorded, a line each of some; empty when there are none.
-    [[nodiscard]] static QString missing(const CycleOverview& cycle);
-    /// "0:12:26", with as many hours as there are.
-    [[nodiscard]] static QString clock(double seconds);
     /// All of it as text, for other programs.
     [[nodiscard]] static QString plain(const CycleOverview& cycle);
 
 private:
     static QString troubles(const CycleOverview& cycle);
-    static QString unknown(const CycleOverview& cycle);
 };
 
 } // namespace ZARN
