@@ -8,6 +8,7 @@ struct TimeSpan {
     double end = 0.0;
 
     [[nodiscard]] bool holds(double seconds) const { return seconds >= start && seconds <= end; }
+    bool operator==(const TimeSpan&) const = default;
 };
 
 } // namespace ZARN

@@ -29,13 +29,20 @@ void Console::print(const char* format, ...) const
         std::string text(static_cast<std::size_t>(length) + 1, '\0');
         std::vsnprintf(text.data(), text.size(), format, again);
         text.pop_back();
-        mSink(text);
+        write(text);
     }
     va_end(again);
 }
 
+void Console::write(std::string_view text) const
+{
+    const std::lock_guard guard(mGuard);
+    mSink(text);
+}
+
 void Console::systemError(const char* prefix, int error) const
 {
+    const std::lock_guard guard(mGuard);
     mErrorSink(std::string(prefix) + ": " + std::strerror(error) + "\n");
 }
 

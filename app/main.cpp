@@ -7,7 +7,7 @@
 #include "app/StyleHandler.h"
 #include "app/gui/Application.h"
 #include "app/gui/DialogSplash.h"
-#include "app/gui/GraphicsCheck.h"
+#include "ui/gl/GraphicsCheck.h"
 #include "app/gui/ImageHandler.h"
 #include "app/gui/Kernel.h"
 #include "card/CardContainer.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/gui/GraphicsCheck.h"
+#include "ui/gl/GraphicsCheck.h"
 
 #include <QApplication>
 

@@ -16,14 +16,14 @@ constexpr std::size_t kPiece = 100000;
 
 void fill(GraphModel& model, std::size_t samples)
 {
-    model.setMaxParameters(kTraces);
+    model.traces().setCount(kTraces);
     model.setOfflineMode(true);
-    model.setGraphMode(eManual);
+    model.settings().graphMode = eManual;
     std::vector<double> times, values;
     for (int trace = 0; trace < kTraces; ++trace) {
-        model.setActive(trace, true);
-        model.setParameterName(trace, QString("Trace %1").arg(trace), "kPa");
-        model.reserve(trace, samples);
+        model.traces().setActive(trace, true);
+        model.traces().setName(trace, QString("Trace %1").arg(trace), "kPa");
+        model.traces().reserve(trace, samples);
         const auto put = [&] {
             model.putValues(trace, times, values);
             times.clear();
@@ -43,16 +43,17 @@ void rebuild(benchmark::State& state)
 {
     GraphModel model;
     fill(model, static_cast<std::size_t>(state.range(0)));
-    model.setPlot(kColumns, kHeight);
+    FrameCache cache;
     const Span window = windowOf(static_cast<std::size_t>(state.range(0)), true);
     double shift = 0;
     int step = 0;
     std::size_t bytes = 0;
-    for (const GraphParameter& parameter : model.parameters())
+    for (const GraphParameter& parameter : model.traces().all())
         bytes += parameter.samples.bytes();
     for (auto _ : state) {
         shift = pan(window, step++);
-        model.setWindow(window.begin + shift, window.end + shift);
+        model.setWindow({window.begin + shift, window.end + shift});
+        cache.update(model.traces(), model.window(), kColumns);
     }
     state.counters["bytes_a_sample"] = static_cast<double>(bytes) / static_cast<double>(state.range(0)) / kTraces;
 }
@@ -103,7 +104,7 @@ void frame(benchmark::State& state)
     int step = 0;
     for (auto _ : state) {
         shift = pan(window, step++);
-        graph.model().setWindow(window.begin + shift, window.end + shift);
+        graph.model().setWindow({window.begin + shift, window.end + shift});
         graph.model().setCursorPosition((window.begin + window.end) / 2 + shift);
         pSurface->repaint();
         QApplication::processEvents();

@@ -23,7 +23,8 @@ struct WellKnown {
     const char* unit; ///< "" when any will do
 };
 constexpr WellKnown kWellKnown[] = {{"GroundSpeed", "km/h"}, {"ThrottleA", "%"}, {"Altitude", "m"}, {"Latitude", ""},
-                                    {"Longitude", ""},       {"Track", ""},      {"FuelA", ""},     {"FuelB", ""}};
+                                    {"Longitude", ""},       {"Track", ""},      {"FuelA", ""},     {"FuelB", ""},
+                                    {"EngineSpeed", ""},     {"LaneCheck", ""}};
 
 bool isMisspelled(const QString& text, const char* name)
 {

@@ -108,7 +108,8 @@ void ProfileLinks::thresholds(const QDomElement& list)
 void ProfileLinks::parameter(const QDomElement& element)
 {
     claim(mNames, element.attribute("name"), element, "name", "both are shown and hidden together");
-    if (element.hasAttribute("zarnDataType"))
+    const bool mayStandTwice = element.attribute("zarnDataType") == "LaneCheck"; // each lane has its own bit
+    if (element.hasAttribute("zarnDataType") && !mayStandTwice)
         claim(mKeys, element.attribute("zarnDataType"), element, "zarnDataType", "the later one counts");
     reference(element, "enumId", mEnums, mAllEnums, "enumeration");
     reference(element, "thresholdId", mThresholds, mAllThresholds, "threshold list");

@@ -26,18 +26,16 @@ constexpr double kSmallestSpan = 1.0;  // seconds
 ReportGraph::ReportGraph(const LoadedCard& loaded, const EventList& limits) : mLoaded(loaded)
 {
     const ProfileModel& model = loaded.context.model();
-    mModel.setMaxParameters(kMostStrips);
+    mModel.traces().setCount(kMostStrips);
     mModel.setOfflineMode(true);
-    mModel.setGraphMode(eManual);
-    mModel.setDisplayMode(eSplit);
-    mModel.activateCursor(false);
-    mModel.activateLegend(false); // it tells of a cursor; the strips have their names in them
-    GraphColours colours;
-    colours.grid = {0.6F, 0.65F, 0.7F};
-    colours.labelBackground = {1.0F, 1.0F, 1.0F};
-    mModel.setColours(colours);
-    for (int slot = 0; slot < kMostStrips; ++slot)
-        mModel.setActive(slot, false);
+    GraphData& settings = mModel.settings();
+    settings.graphMode = eManual;
+    settings.displayMode = eSplit;
+    settings.cursorOn = false;
+    settings.legendOn = false; // it tells of a cursor; the strips have their names in them
+    settings.gridColor = QStringLiteral("#99a6b3");
+    settings.labelBackColor = QStringLiteral("#ffffff");
+    mModel.settingsChanged();
     std::set<std::string> taken;
     for (const char* key : kMain) {
         const ProfileParameter& parameter = model.ofZarnType(key);
@@ -52,7 +50,7 @@ ReportGraph::ReportGraph(const LoadedCard& loaded, const EventList& limits) : mL
                 addParameter(*pParameter);
         }
     }
-    mModel.setWindow(loaded.startTime, std::max(loaded.endTime, loaded.startTime + kSmallestSpan));
+    mModel.setWindow({loaded.startTime, std::max(loaded.endTime, loaded.startTime + kSmallestSpan)});
 }
 
 void ReportGraph::addParameter(const ProfileParameter& parameter)
@@ -65,23 +63,23 @@ void ReportGraph::addParameter(const ProfileParameter& parameter)
     }
     const int slot = mUsed++;
     const auto pTrace = TraceSet::one(*mLoaded.pRecord, mLoaded.context, parameter, ENumber::eDisplay, mFilter);
-    describeSlot(mModel, slot, *pTrace);
+    describeSlot(mModel.traces(), slot, *pTrace);
     fillSlot(mModel, slot, *pTrace, mLoaded.startTime, mLoaded.endTime);
 }
 
-void ReportGraph::draw(PaperCanvas& canvas, const QRectF& place)
+void ReportGraph::draw(PaperCanvas& canvas, const QRectF& place) const
 {
     const QRectF graph = place.adjusted(kNames, 0, 0, 0);
     canvas.push();
     canvas.clip(graph);
     canvas.translate(graph.left() - kHandles, graph.top());
-    mModel.recalcFrameBuffer();
-    const GraphLayout layout = GraphScene::prepare(mModel, {graph.width() + kHandles, graph.height()}, kTextSize, kColumnsAPoint);
-    GraphScene(mModel, layout).draw(canvas);
+    GraphFrame frame;
+    frame.update(mModel, {graph.width() + kHandles, graph.height()}, kTextSize, kColumnsAPoint);
+    GraphScene(mModel, frame).draw(canvas);
     canvas.pop();
-    for (const int index : mModel.shown()) {
-        const QRectF strip = layout.area(*mModel.parameter(index));
-        drawName(canvas, *mModel.parameter(index), {place.left(), place.top() + strip.top(), kNames, strip.height()});
+    for (const int index : mModel.traces().shown()) {
+        const QRectF strip = frame.layout().area(index);
+        drawName(canvas, *mModel.traces().at(index), {place.left(), place.top() + strip.top(), kNames, strip.height()});
     }
 }
 
@@ -92,7 +90,7 @@ void ReportGraph::drawName(PaperCanvas& canvas, const GraphParameter& parameter,
     const double line = canvas.textSize(lines.front(), style).height();
     canvas.push();
     canvas.clip(place);
-    canvas.fillRect(QRectF(place.left(), place.top() + 2, 3, static_cast<double>(lines.size()) * line), parameter.colour.colour());
+    canvas.fillRect(QRectF(place.left(), place.top() + 2, 3, static_cast<double>(lines.size()) * line), parameter.colour);
     for (qsizetype i = 0; i < lines.size(); ++i)
         canvas.text(place.topLeft() + QPointF(kSwatch, 2 + static_cast<double>(i) * line), lines[i], style);
     canvas.pop();

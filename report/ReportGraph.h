@@ -15,10 +15,10 @@ public:
     /// @param loaded must outlive it
     ReportGraph(const LoadedCard& loaded, const EventList& limits);
 
-    [[nodiscard]] bool isEmpty() const { return mModel.nrActive() == 0; }
+    [[nodiscard]] bool isEmpty() const { return mModel.traces().count() == 0; }
     /// How many parameters that exceeded a limit found no room.
     [[nodiscard]] int leftOut() const { return mLeftOut; }
-    void draw(PaperCanvas& canvas, const QRectF& place);
+    void draw(PaperCanvas& canvas, const QRectF& place) const;
 
 private:
     void addParameter(const ProfileParameter& parameter);

@@ -1,43 +1,63 @@
 #include "export/ui/ExportProgress.h"
 
-#include <QCoreApplication>
 #include <QLabel>
+#include <QProgressBar>
+#include <QProgressDialog>
+#include <QPushButton>
 
 #include <limits>
+#include <utility>
 
 namespace ZARN {
 
 namespace {
 
-constexpr qint64 kQuietMilliseconds = 150;
-constexpr qint64 kPaintingMilliseconds = 40; // often enough to look steady, too seldom to cost time
+constexpr int kQuietMilliseconds = 150;
 constexpr int kWidth = 380;
 
 } // namespace
 
-ExportProgress::ExportProgress(const QString& text, QWidget* pWindow) : mDialog(pWindow)
+ExportProgress::ExportProgress(QWidget* pWindow) : mpWindow(pWindow)
 {
-    mDialog.setWindowTitle(tr("ZARN Info"));
-    auto* pLabel = new QLabel(text);
-    pLabel->setTextFormat(Qt::PlainText); // a file's name may hold what looks like markup
-    mDialog.setLabel(pLabel);
-    mDialog.setWindowModality(Qt::ApplicationModal);
-    mDialog.setMinimumDuration(std::numeric_limits<int>::max()); // shown from here
-    mDialog.setAutoReset(false);
-    mDialog.setAutoClose(false);
-    mDialog.setMinimumWidth(kWidth);
-    mSinceBegin.start();
-    mSincePainting.start();
+    mQuiet.setSingleShot(true);
+    mQuiet.setInterval(kQuietMilliseconds);
+    connect(&mTask, &BackgroundTask::signalFinished, this, &ExportProgress::finish);
 }
 
-void ExportProgress::setProgress(int percent)
+void ExportProgress::start(const QString& text, const BackgroundTask::Work& work, std::function<void()> whenDone)
 {
-    if (mSincePainting.elapsed() < kPaintingMilliseconds || mSinceBegin.elapsed() < kQuietMilliseconds || isCancelled())
-        return;
-    mDialog.show();
-    mDialog.setValue(percent);
-    QCoreApplication::processEvents();
-    mSincePainting.start();
+    mWhenDone = std::move(whenDone);
+    mpDialog = new QProgressDialog(mpWindow);
+    mpDialog->setWindowTitle(tr("ZARN Info"));
+    auto* pLabel = new QLabel(text);
+    pLabel->setTextFormat(Qt::PlainText); // a file's name may hold what looks like markup
+    mpDialog->setLabel(pLabel);
+    auto* pBar = new QProgressBar; // told by itself: the dialog's own way to a value runs events
+    mpDialog->setBar(pBar);
+    mpDialog->setWindowModality(Qt::ApplicationModal);
+    mpDialog->setMinimumDuration(std::numeric_limits<int>::max()); // shown from here
+    mpDialog->setMinimumWidth(kWidth);
+    disconnect(mpDialog, &QProgressDialog::canceled, mpDialog, &QProgressDialog::cancel); // which would hide it
+    connect(mpDialog, &QProgressDialog::canceled, this, &ExportProgress::cancel);
+    connect(&mTask, &BackgroundTask::signalProgress, pBar, &QProgressBar::setValue);
+    connect(&mQuiet, &QTimer::timeout, mpDialog, &QWidget::show);
+    mQuiet.start();
+    mTask.start(work);
+}
+
+void ExportProgress::cancel()
+{
+    mTask.cancel();
+    mpDialog->findChild<QPushButton*>()->setEnabled(false);
+}
+
+void ExportProgress::finish()
+{
+    mQuiet.stop();
+    mpDialog->hide();
+    std::exchange(mpDialog, nullptr)->deleteLater();
+    if (const auto whenDone = std::exchange(mWhenDone, nullptr))
+        whenDone();
 }
 
 } // namespace ZARN

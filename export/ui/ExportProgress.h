@@ -1,28 +1,39 @@
 #pragma once
 
-#include "app/Progress.h"
+#include "app/BackgroundTask.h"
 
-#include <QCoreApplication>
-#include <QElapsedTimer>
-#include <QProgressDialog>
+#include <QTimer>
+
+class QProgressDialog;
+class QWidget;
 
 namespace ZARN {
 
-/// Shows how far an export is, with a button to end it, and keeps the windows alive meanwhile. Short work shows nothing. Everything but
-/// its own window is out of the user's reach; timers run, so that nothing that the export reads may hang on one.
-class ExportProgress : public Progress {
-    Q_DECLARE_TR_FUNCTIONS(ZARN::ExportProgress)
+/// Does an export on a thread of its own, one at a time, and shows how far it is, with a button to end it. Short work shows nothing; while
+/// the window is there, everything else is out of the user's reach, until the work has really ended.
+class ExportProgress : public QObject {
+    Q_OBJECT
 
 public:
-    ExportProgress(const QString& text, QWidget* pWindow);
+    explicit ExportProgress(QWidget* pWindow);
 
-    void setProgress(int percent) override;
-    [[nodiscard]] bool isCancelled() const override { return mDialog.wasCanceled(); }
+    /// Begins the work; nothing else may be running.
+    /// @param whenDone is called in the thread of the windows, whatever became of the work
+    void start(const QString& text, const BackgroundTask::Work& work, std::function<void()> whenDone);
+    [[nodiscard]] bool isRunning() const { return mTask.isRunning(); }
+    [[nodiscard]] bool isCancelled() const { return mTask.isCancelled(); }
+    /// The exception that ended the work, for people; empty when none did.
+    [[nodiscard]] const QString& error() const { return mTask.error(); }
 
 private:
-    QProgressDialog mDialog;
-    QElapsedTimer mSinceBegin;
-    QElapsedTimer mSincePainting;
+    void cancel();
+    void finish();
+
+    QWidget* mpWindow;
+    QProgressDialog* mpDialog = nullptr; // while the work runs
+    std::function<void()> mWhenDone;
+    QTimer mQuiet;
+    BackgroundTask mTask; // the last member: the work has ended before others go
 };
 
 } // namespace ZARN

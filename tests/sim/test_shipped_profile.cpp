@@ -36,7 +36,7 @@ void TestShippedProfile::hasWhatTheProgramNeeds()
     const QColor colours[] = {"#009E73", "#E69F00", "#D55E00"}; // that everybody can tell apart
     for (const std::string& variant : variants) {
         QVERIFY(profile.loadProfile(mFile, variant));
-        for (const char* key : {"GroundSpeed", "ThrottleA", "FuelA", "FuelB", "Altitude", "Latitude", "Longitude", "Track"})
+        for (const char* key : {"GroundSpeed", "ThrottleA", "FuelA", "FuelB", "Altitude", "Latitude", "Longitude", "Track", "EngineSpeed", "LaneCheck"})
             QVERIFY2(!profile.getParameterFromZarnType(key).name.empty(), key);
         for (const uint32_t position : {1036, 1037, 1038}) // where the path export looks
             QVERIFY(!profile.model().parameter(position).zarnDataType.empty());

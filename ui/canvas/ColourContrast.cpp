@@ -34,14 +34,24 @@ double contrastRatio(const QColor& a, const QColor& b)
     return (light + 0.05) / (dark + 0.05);
 }
 
+QColor textColourOn(const QColor& ground)
+{
+    return contrastRatio(ground, Qt::white) > contrastRatio(ground, Qt::black) ? Qt::white : Qt::black;
+}
+
 QColor readableOn(const QColor& ground, const QColor& colour, double ratio)
 {
-    const QColor black(Qt::black), white(Qt::white);
-    const QColor& away = contrastRatio(ground, white) > contrastRatio(ground, black) ? white : black;
+    const QColor away = textColourOn(ground);
     QColor out = colour;
     for (float share = kStep; share <= 1 && contrastRatio(out, ground) < ratio; share += kStep)
         out = mixed(colour, away, share);
     return out;
+}
+
+QColor withAlpha(QColor colour, double alpha)
+{
+    colour.setAlphaF(static_cast<float>(alpha));
+    return colour;
 }
 
 } // namespace ZARN

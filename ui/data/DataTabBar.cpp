@@ -7,6 +7,7 @@
 #include <QStylePainter>
 
 #include <algorithm>
+#include <utility>
 
 namespace ZARN {
 
@@ -15,6 +16,7 @@ namespace {
 constexpr int kIcon = 32;
 constexpr int kMargin = 6; // left and right of the title
 constexpr int kTightMargin = 2;
+constexpr int kBesideIcon = 28; // for a count
 constexpr int kAbove = 5;
 constexpr int kBelow = 6; // the style's line under the selected tab
 constexpr int kBadgeHeight = 15;
@@ -28,6 +30,8 @@ DataTabBar::DataTabBar(QWidget* pParent) : QTabBar(pParent)
     setExpanding(false);
     setIconSize(QSize(kIcon, kIcon));
     setDrawBase(false);
+    setElideMode(Qt::ElideNone);
+    connect(this, &QTabBar::currentChanged, this, [this] { setTabText(currentIndex(), tabText(currentIndex())); }); // lays them out anew
 }
 
 void DataTabBar::setCount(int index, int count)
@@ -51,35 +55,72 @@ QFont DataTabBar::titleFont(bool selected) const
     return title;
 }
 
-QSize DataTabBar::tabSizeHint(int index) const
+QString DataTabBar::title(int index, EFit fit) const
+{
+    QString text = tabText(index);
+    if (fit == eSelectedOnly)
+        return index == currentIndex() ? text : QString();
+    if (fit != eTwoLines)
+        return text;
+    if (const auto blank = text.lastIndexOf(u' '); blank > 0)
+        text[blank] = u'\n';
+    else if (const auto slash = text.lastIndexOf(u'/'); slash > 0)
+        text.insert(slash + 1, u'\n');
+    return text;
+}
+
+int DataTabBar::tabWidth(int index, EFit fit) const
 {
     const QFontMetrics metrics(titleFont(true)); // so that no tab moves when another is selected
-    return {std::max(metrics.horizontalAdvance(tabText(index)), kIcon) + 2 * kMargin, kAbove + kIcon + metrics.height() + kBelow};
+    const auto wide = [&](int tab) { return std::max(metrics.size(0, title(tab, fit)).width(), kIcon) + 2 * (fit == eWide ? kMargin : kTightMargin); };
+    if (fit != eSelectedOnly || index == currentIndex())
+        return wide(index);
+    const int share = (width() - wide(currentIndex())) / std::max(count() - 1, 1); // room for the counts
+    return std::clamp(share, wide(index), kIcon + kBesideIcon);
+}
+
+QSize DataTabBar::tabSizeHint(int index) const
+{
+    const int lines = mFit == eTwoLines ? 2 : 1;
+    return {tabWidth(index, mFit), kAbove + kIcon + lines * QFontMetrics(titleFont(true)).lineSpacing() + kBelow};
 }
 
 QSize DataTabBar::minimumTabSizeHint(int index) const
 {
-    const QSize whole = tabSizeHint(index);
-    return {std::min(whole.width() - 2 * (kMargin - kTightMargin), widestTab()), whole.height()};
+    return tabSizeHint(index);
 }
 
-/// The width that no tab may exceed, or they would not all fit: the long titles give way, not the short ones.
-int DataTabBar::widestTab() const
+void DataTabBar::arrange()
 {
-    std::vector<int> widths;
-    for (int index = 0; index < count(); ++index)
-        widths.push_back(tabSizeHint(index).width() - 2 * (kMargin - kTightMargin));
-    constexpr int kLeast = kIcon + 2 * kTightMargin;
-    int widest = widths.empty() ? kLeast : std::max(*std::max_element(widths.begin(), widths.end()), kLeast);
-    const auto together = [&] {
+    const auto together = [this](EFit fit) {
         int sum = 0;
-        for (const int width : widths)
-            sum += std::min(width, widest);
+        for (int index = 0; index < count(); ++index)
+            sum += tabWidth(index, fit);
         return sum;
     };
-    while (widest > kLeast && together() > width())
-        --widest;
-    return widest;
+    EFit fit = eWide;
+    while (fit != eSelectedOnly && together(fit) > width())
+        fit = static_cast<EFit>(fit + 1);
+    if ((std::exchange(mFit, fit) != fit || fit == eSelectedOnly) && count() > 0)
+        setTabText(0, tabText(0)); // lays them out anew
+}
+
+void DataTabBar::resizeEvent(QResizeEvent* pEvent)
+{
+    arrange();
+    QTabBar::resizeEvent(pEvent);
+}
+
+void DataTabBar::changeEvent(QEvent* pEvent)
+{
+    QTabBar::changeEvent(pEvent);
+    if (pEvent->type() == QEvent::FontChange || pEvent->type() == QEvent::StyleChange)
+        arrange();
+}
+
+void DataTabBar::tabInserted(int /*index*/)
+{
+    arrange();
 }
 
 void DataTabBar::mousePressEvent(QMouseEvent* pEvent)
@@ -105,13 +146,10 @@ void DataTabBar::paintTab(QPainter& painter, int index)
     QRect icon(0, option.rect.top() + kAbove, kIcon, kIcon);
     icon.moveLeft(option.rect.center().x() - kIcon / 2);
     tabIcon(index).paint(&painter, icon);
-    const QRect title(option.rect.left(), icon.bottom() + 1, option.rect.width(), option.rect.bottom() - icon.bottom() - kBelow);
-    const int room = title.width() - 2;
-    const bool fitsBold = QFontMetrics(titleFont(true)).horizontalAdvance(option.text) <= room;
-    painter.setFont(titleFont(selected && fitsBold)); // the line below tells the selected one too; a cut title tells less
+    const QRect place(option.rect.left(), icon.bottom() + 1, option.rect.width(), option.rect.bottom() - icon.bottom() - kBelow);
+    painter.setFont(titleFont(selected));
     painter.setPen(palette().color(QPalette::WindowText));
-    const QString text = QFontMetrics(painter.font()).elidedText(option.text, Qt::ElideRight, room);
-    painter.drawText(title, Qt::AlignCenter | Qt::TextSingleLine, text);
+    painter.drawText(place, Qt::AlignHCenter | Qt::AlignTop, title(index, mFit));
     if (hasFocus() && selected) {
         painter.setPen(QPen(palette().color(QPalette::Highlight), 1, Qt::DotLine));
         painter.drawRect(option.rect.adjusted(2, 2, -3, -4));

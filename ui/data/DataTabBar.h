@@ -6,8 +6,8 @@
 
 namespace ZARN {
 
-/// The tabs of the data area: the icon above the title, so that all six fit a small window, and a count at the icon's corner. Where they do
-/// not fit, they stand closer, and the longest titles are elided.
+/// The tabs of the data area: the icon above the title, so that all six fit a small window, and a count at the icon's corner. No title is cut:
+/// where they do not fit, the tabs stand closer, then long titles take two lines, then only the selected tab has its title.
 class DataTabBar : public QTabBar {
     Q_OBJECT
 
@@ -27,14 +27,23 @@ protected:
     [[nodiscard]] QSize minimumTabSizeHint(int index) const override;
     void mousePressEvent(QMouseEvent* pEvent) override;
     void paintEvent(QPaintEvent* pEvent) override;
+    void resizeEvent(QResizeEvent* pEvent) override;
+    void changeEvent(QEvent* pEvent) override;
+    void tabInserted(int index) override;
 
 private:
-    [[nodiscard]] int widestTab() const;
+    enum EFit { eWide, eClose, eTwoLines, eSelectedOnly };
+
+    [[nodiscard]] QString title(int index, EFit fit) const;
+    [[nodiscard]] int tabWidth(int index, EFit fit) const;
+    /// Takes the first arrangement that the width has room for.
+    void arrange();
     void paintTab(QPainter& painter, int index);
     void paintCount(QPainter& painter, const QRect& icon, int count) const;
     [[nodiscard]] QFont titleFont(bool selected) const;
 
     std::vector<int> mCounts;
+    EFit mFit = eWide;
 };
 
 } // namespace ZARN

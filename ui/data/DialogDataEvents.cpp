@@ -2,9 +2,9 @@
 
 #include "card/CardContainer.h"
 #include "profile/Profile.h"
+#include "ui/canvas/ColourContrast.h"
 #include "ui/data/EventMark.h"
 #include "ui/data/TableCopy.h"
-#include "ui/data/model/TextColour.h"
 #include "ui/data/model/TimeOfDay.h"
 
 #include <QHeaderView>

@@ -1,9 +1,9 @@
 #include "ui/data/TableCellDelegate.h"
 
 #include "profile/Threshold.h"
+#include "ui/canvas/ColourContrast.h"
 #include "ui/data/model/CellModel.h"
 #include "ui/data/model/ShownParameter.h"
-#include "ui/data/model/TextColour.h"
 
 #include <QAbstractItemView>
 #include <QHelpEvent>

@@ -1,17 +1,18 @@
 #include "ui/graph/DialogDataGraph.h"
 
-#include "card/CardContainer.h"
-#include "profile/Profile.h"
-#include "trace/TraceSet.h"
 #include "ui/graph/DialogGraphSetup.h"
 #include "ui/graph/GraphButtons.h"
+#include "ui/graph/GraphSnapshot.h"
 #include "ui/graph/WidgetGraphES.h"
-#include "ui/graph/model/TraceSlot.h"
+#include "ui/graph/model/MarkerValues.h"
+#include "ui/graph/model/TraceColours.h"
 
+#include <QClipboard>
+#include <QFileDialog>
+#include <QGuiApplication>
+#include <QMenu>
+#include <QMessageBox>
 #include <QVBoxLayout>
-
-#include <algorithm>
-#include <utility>
 
 namespace ZARN {
 
@@ -19,23 +20,25 @@ namespace {
 
 constexpr int kHeldInterval = 50;
 
+GraphSnapshot snapshotOf(const WidgetGraphBase& graph)
+{
+    const double ratio = graph.devicePixelRatioF();
+    return {[&graph, ratio](Canvas& canvas, const QSize& size) { graph.paintOn(canvas, size, ratio); }, graph.size(), ratio};
+}
+
 } // namespace
 
 DialogDataGraph::DialogDataGraph(const Session& session, QWidget* pParent)
-    : QWidget(pParent), mSession(session), mSettings(session.property), mpButtons(new GraphButtons), mpGraph(new WidgetGraphES)
+    : QWidget(pParent), mpButtons(new GraphButtons), mpGraph(new WidgetGraphES), mRecord(session, mpGraph->model()),
+      mCommands(mpGraph->model(), mRecord)
 {
     auto* pLayout = new QVBoxLayout(this);
     pLayout->setContentsMargins(0, 0, 0, 0);
     pLayout->setSpacing(0);
     pLayout->addWidget(mpButtons);
     pLayout->addWidget(mpGraph, 1);
-    mpGraph->setMaxParameters(kSlots);
-    mpGraph->setOfflineMode(true);
-    // The record begins with what the graph does: a floating cursor, so that the whole record stays in view while time passes.
-    mData.cursorMode = mpGraph->model().cursorMode();
     connectGraph();
-    slotGraphSetup();
-    updateProfile();
+    slotManMode();
 }
 
 void DialogDataGraph::focusInEvent(QFocusEvent* /*pEvent*/)
@@ -46,195 +49,170 @@ void DialogDataGraph::focusInEvent(QFocusEvent* /*pEvent*/)
 void DialogDataGraph::connectGraph()
 {
     connect(mpGraph, &WidgetGraphES::signalCursor, this, &DialogDataGraph::signalCursor);
-    connect(mpGraph, &WidgetGraphES::signalCursor, this, [this] { Q_EMIT signalTime(mpGraph->model().cursorTime()); });
+    connect(mpGraph, &WidgetGraphES::signalCursor, this, [this] { Q_EMIT signalTime(mpGraph->model().cursor().time); });
     connect(mpGraph, &WidgetGraphES::signalManMode, this, &DialogDataGraph::slotManMode);
-    connect(mpGraph, &WidgetGraphES::signalMoveParameter, this, &DialogDataGraph::keepStrips);
+    connect(mpGraph, &WidgetGraphES::signalMoveParameter, this, [this] { mRecord.keepStrips(); });
     connect(mpGraph, &WidgetGraphES::signalMenu, this, &DialogDataGraph::slotMenu);
-    connect(mpButtons, &GraphButtons::signalHeld, this, [this](int command) {
-        if (command == eZoomIn || command == eZoomOut)
-            mHeldTimer.start(kHeldInterval);
-    });
+    connect(mpButtons, &GraphButtons::signalHeld, this, [this] { mHeldTimer.start(kHeldInterval); });
     connect(mpButtons, &GraphButtons::signalCommand, this, &DialogDataGraph::slotCommand);
     connect(&mHeldTimer, &QTimer::timeout, this, &DialogDataGraph::slotHeldZoom);
 }
 
-/// Calls with slot and trace of each selected parameter, as far as there are slots. @return how many
-template <typename Visitor> int DialogDataGraph::forEachTrace(const RecordData* pRecord, Visitor visit)
-{
-    const TraceSet traces(pRecord, mSession.profile, ENumber::eDisplay, TraceSet::selected(mSession.profile.selection()));
-    const int used = std::min(static_cast<int>(traces.size()), kSlots);
-    for (int slot = 0; slot < used; ++slot)
-        visit(slot, traces[static_cast<std::size_t>(slot)]);
-    return used;
-}
-
-void DialogDataGraph::describeSlots()
-{
-    GraphModel& model = mpGraph->model();
-    const int used = forEachTrace(nullptr, [&](int slot, const Trace& trace) { describeSlot(model, slot, trace); });
-    for (int slot = used; slot < kSlots; ++slot)
-        model.setActive(slot, false);
-    arrangeStrips(used);
-    updateSettings();
-}
-
 void DialogDataGraph::updateProfile()
 {
-    describeSlots();
-    // Another parameter may have taken a slot: no trace may keep the samples of the one before.
-    fillRecord();
-    mKeepsWindow = true;
-}
-
-void DialogDataGraph::update(RecordData* pRecord)
-{
-    describeSlots();
-    updateRecord(pRecord);
+    mRecord.updateProfile();
+    updateSetup();
 }
 
 void DialogDataGraph::updateSettings()
 {
-    mSettings.load(mpGraph->model(), mData);
-    mpGraph->setClickMovesCursor(mData.clickMovesCursor);
-    if (mpSetup)
-        mpSetup->updateDialog();
+    mRecord.updateSettings();
+    updateSetup();
 }
 
-void DialogDataGraph::arrangeStrips(int used)
+void DialogDataGraph::updateSetup()
 {
-    std::vector<QString> names;
-    for (int slot = 0; slot < used; ++slot)
-        names.push_back(mpGraph->model().parameter(slot)->name);
-    mpGraph->model().setOrder(mStrips.slotsFor(names));
-}
-
-void DialogDataGraph::keepStrips()
-{
-    std::vector<QString> names;
-    for (const int slot : mpGraph->model().shown())
-        names.push_back(mpGraph->model().parameter(slot)->name);
-    mStrips.keep(names);
-}
-
-void DialogDataGraph::fillRecord()
-{
-    const double xmin = mpGraph->model().xmin(), xmax = mpGraph->model().xmax();
-    mpGraph->clear();
-    if (mpRecord)
-        forEachTrace(mpRecord, [this](int slot, const Trace& trace) { fillSlot(mpGraph->model(), slot, trace); });
-    // Filling moves the window of the automatic mode along.
-    mpGraph->model().setWindow(xmin, xmax);
-    mpGraph->model().setMessage(emptyMessage());
-}
-
-QString DialogDataGraph::emptyMessage() const
-{
-    const bool isLive = mZarnMode != 0; // with neither card nor profile panel in sight
-    if (!mpRecord && isLive)
-        return tr("No record is loaded.");
-    if (!mpRecord)
-        return tr("No record is loaded.\nOpen a card folder and choose a power cycle or a flight.");
-    if (mpGraph->nrActive() == 0 && isLive)
-        return tr("No parameter is selected.");
-    if (mpGraph->nrActive() == 0)
-        return tr("No parameter is selected.\nTick the parameters to show in the profile panel.");
-    return {};
+    if (!mpSetup)
+        return;
+    mpSetup->showTraces(traceColours(mpGraph->model().traces()));
+    mpSetup->updateDialog();
 }
 
 void DialogDataGraph::updateRecord(RecordData* pRecord)
 {
-    // The same once more is the same in another unit.
-    const RecordKey key = pRecord ? recordKey() : mMarkedRecord;
-    const std::array span{mSession.container.startTime(), mSession.container.endTime()};
-    mKeepsWindow = mpRecord && mpRecord == pRecord && key == mMarkedRecord && span == mSpan;
-    mpRecord = pRecord;
-    fillRecord();
-    if (!mpRecord || mKeepsWindow)
-        return;
-    if (!(key == mMarkedRecord))
-        mpGraph->setMarker(0, 0);
-    mMarkedRecord = key;
-    mSpan = span;
-    zoomAll();
-    mpGraph->recalcFrameBuffer();
-    mpGraph->setCursorPosition(mSession.container.startTime());
+    mRecord.updateRecord(pRecord);
 }
 
-DialogDataGraph::RecordKey DialogDataGraph::recordKey() const
+void DialogDataGraph::update(RecordData* pRecord)
 {
-    // A flight counts its times as its power cycle does: there the marker still stands where it was set.
-    const CardContainer& container = mSession.container;
-    const RecordCycle* pCycle = container.loadedCycle();
-    return {container.path(), container.loadedCycleNumber(), pCycle ? pCycle->dateTime : container.dateTime(),
-            pCycle ? pCycle->endTime : container.endTime()};
+    mRecord.update(pRecord);
+    updateSetup();
 }
 
 void DialogDataGraph::setZarnMode(int mode)
 {
-    mZarnMode = mode;
-    mpGraph->model().setMessage(emptyMessage());
+    mRecord.setZarnMode(mode);
 }
 
 std::optional<TimeSpan> DialogDataGraph::shownSpan() const
 {
-    const GraphModel& model = mpGraph->model();
-    return hasSamples() ? std::optional(TimeSpan{model.xmin(), model.xmax()}) : std::nullopt;
+    return mRecord.shownSpan();
+}
+
+GraphData& DialogDataGraph::graphData()
+{
+    return mpGraph->model().settings();
 }
 
 void DialogDataGraph::setTime(double time)
 {
-    // Where the view time stays, what the user has zoomed to stays too.
-    const bool isKept = std::exchange(mKeepsWindow, false) && static_cast<float>(time) == static_cast<float>(mpGraph->model().cursorTime());
-    if (isKept)
-        return;
     mpGraph->setPaced(true);
-    showTime(time);
+    mRecord.setTime(time);
     mpGraph->setPaced(false);
-}
-
-void DialogDataGraph::showTime(double time)
-{
-    mpGraph->setCursorPosition(time);
-    mpGraph->model().keepInside(time);
 }
 
 void DialogDataGraph::slotManMode()
 {
-    const GraphModel& model = mpGraph->model();
-    mpButtons->setChecked(eSplitMode, model.displayMode() != eSingleGraph);
-    mpButtons->setChecked(eSingleMode, model.displayMode() == eSingleGraph);
-    mpButtons->setChecked(eAutomaticMode, model.graphMode() == eAutomatic);
+    mpButtons->setChecked(eSplitMode, graphData().displayMode != eSingleGraph);
+    mpButtons->setChecked(eSingleMode, graphData().displayMode == eSingleGraph);
+    mpButtons->setChecked(eAutomaticMode, graphData().graphMode == eAutomatic);
 }
 
 void DialogDataGraph::slotSetupChanged()
 {
-    mSettings.store(mData);
-    mSettings.load(mpGraph->model(), mData);
-    // An edit applies the whole record: it must not bring back a window or a mode that the user has left with the mouse.
-    mData.xRange = mpGraph->model().width();
-    mData.graphMode = mpGraph->model().graphMode();
-    slotGraphSetup();
+    mpGraph->model().settingsChanged();
+    mRecord.storeSettings();
+    updateSettings();
+    slotManMode();
 }
 
-void DialogDataGraph::slotGraphSetup()
+void DialogDataGraph::slotCommand(int command)
 {
-    const auto colour = [](const QString& name) {
-        const QColor found(name);
-        return GraphColour{found.redF(), found.greenF(), found.blueF()};
-    };
-    mpGraph->model().setColours({colour(mData.backColor), colour(mData.gridColor), colour(mData.labelColor), colour(mData.labelBackColor)});
-    mpGraph->setXrange(static_cast<float>(mData.xRange));
-    mpGraph->setDisplayMode(mData.displayMode == eSingleGraph ? eSingleGraph : eSplit);
-    mpGraph->setGraphMode(mData.graphMode == eManual ? eManual : eAutomatic);
-    mpGraph->setCursorMode(mData.cursorMode == eFloating ? eFloating : eCenter);
-    mpGraph->activateGrid(mData.gridOn);
-    mpGraph->activateCursor(mData.cursorOn);
-    mpGraph->activateLegend(mData.legendOn);
-    mpGraph->setAutoScaleY(mData.autoscaleOn);
-    mpGraph->setYmin(static_cast<float>(mData.yMin));
-    mpGraph->setYmax(static_cast<float>(mData.yMax));
-    mpGraph->setClickMovesCursor(mData.clickMovesCursor);
+    if (command == eSetup)
+        showSetup();
+    else if (command == eSnapshot)
+        snapshot();
+    else
+        mCommands.run(static_cast<EGraphCommand>(command), mpButtons->isChecked(static_cast<EGraphCommand>(command)));
     slotManMode();
+}
+
+void DialogDataGraph::slotHeldZoom()
+{
+    if (!mCommands.hold(mpButtons->held()))
+        mHeldTimer.stop();
+}
+
+void DialogDataGraph::showSetup()
+{
+    if (!mpSetup) {
+        mpSetup = new DialogGraphSetup(this, graphData());
+        connect(mpSetup, &DialogGraphSetup::signalTraceColour, this,
+                [this](int slot, const QColor& colour) { mpGraph->model().traces().setColour(slot, colour); });
+        connect(mpSetup, &DialogGraphSetup::signalChanged, this, &DialogDataGraph::slotSetupChanged);
+    }
+    updateSetup();
+    mpSetup->show();
+    mpSetup->raise();
+    mpSetup->activateWindow();
+}
+
+QString DialogDataGraph::askSnapshotFile()
+{
+    // With the suffix given here, and not when the file is written, the dialog asks before it replaces that very file.
+    QFileDialog dialog(this, tr("Save Snapshot"), QString(), tr("BMP File (*.bmp);;All Files (*.*)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setDefaultSuffix("bmp");
+    dialog.selectFile("./snapshot.bmp");
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return {};
+    return dialog.selectedFiles().front();
+}
+
+void DialogDataGraph::showProblem(const QString& text)
+{
+    QMessageBox box(QMessageBox::Warning, tr("ZARN Warning"), text, QMessageBox::Ok, this);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
+void DialogDataGraph::snapshot()
+{
+    const QString path = askSnapshotFile();
+    if (path.isEmpty())
+        return;
+    GraphSnapshot snapshot = snapshotOf(*mpGraph);
+    if (!snapshot.save(path))
+        showProblem(tr("The snapshot could not be saved.\n%1").arg(snapshot.error()));
+}
+
+void DialogDataGraph::copyValues()
+{
+    const GraphModel& model = mpGraph->model();
+    QGuiApplication::clipboard()->setText(markerText(model.traces(), model.marker()));
+}
+
+void DialogDataGraph::copyPicture()
+{
+    QGuiApplication::clipboard()->setImage(snapshotOf(*mpGraph).image());
+}
+
+void DialogDataGraph::slotMenu(const QPoint& point)
+{
+    QMenu menu(this);
+    QAction* pCopy = menu.addAction(tr("Copy Values"), this, &DialogDataGraph::copyValues);
+    pCopy->setEnabled(mpGraph->model().marker().isRange() && mRecord.hasSamples());
+    menu.addAction(tr("Copy Picture"), this, &DialogDataGraph::copyPicture);
+    menu.addAction(tr("Snapshot..."), this, &DialogDataGraph::snapshot);
+    menu.addAction(tr("Flight Report..."), this, &DialogDataGraph::signalReport)->setEnabled(mRecord.hasRecord());
+    menu.addSeparator();
+    QAction* pMarker = menu.addAction(tr("Zoom Marker"), this, [this] { slotCommand(eZoomMarker); });
+    pMarker->setEnabled(mpGraph->model().marker().isRange());
+    menu.addAction(tr("Zoom 1:1"), this, [this] { slotCommand(eZoomAll); })->setEnabled(mRecord.hasRecord());
+    menu.addSeparator();
+    menu.addAction(tr("Setup..."), this, &DialogDataGraph::showSetup);
+    menu.exec(point);
 }
 
 } // namespace ZARN

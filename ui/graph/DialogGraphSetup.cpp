@@ -15,6 +15,7 @@
 #include <cmath>
 #include <limits>
 #include <optional>
+#include <utility>
 
 namespace ZARN {
 
@@ -126,20 +127,25 @@ void DialogGraphSetup::updateDialog()
                                        QSignalBlocker(mpLegend), QSignalBlocker(mpAutoscale), QSignalBlocker(mpClickMovesCursor)};
     mpGrid->setChecked(mData.gridOn);
     mpCursor->setChecked(mData.cursorOn);
-    mpCursorMode->setCurrentIndex(mData.cursorMode == 1 ? 1 : 0);
+    mpCursorMode->setCurrentIndex(mData.cursorMode);
     mpClickMovesCursor->setChecked(mData.clickMovesCursor);
     mpLegend->setChecked(mData.legendOn);
-    mpTraces->setTraces(mData.traces);
-    mpAutoscale->setChecked(mData.autoscaleOn);
-    showNumber(mpYmin, mData.yMin);
-    showNumber(mpYmax, mData.yMax);
+    mpAutoscale->setChecked(mData.scale.isAutomatic);
+    showNumber(mpYmin, mData.scale.lower);
+    showNumber(mpYmax, mData.scale.upper);
     // With autoscaling the two say nothing.
-    mpYmin->setEnabled(!mData.autoscaleOn);
-    mpYmax->setEnabled(!mData.autoscaleOn);
+    mpYmin->setEnabled(!mData.scale.isAutomatic);
+    mpYmax->setEnabled(!mData.scale.isAutomatic);
     showColour(mpBackground, mData.backColor);
     showColour(mpGridColour, mData.gridColor);
     showColour(mpLabel, mData.labelColor);
     showColour(mpLabelBackground, mData.labelBackColor);
+}
+
+void DialogGraphSetup::showTraces(std::vector<TraceColour> traces)
+{
+    mTraces = std::move(traces);
+    mpTraces->setTraces(mTraces);
 }
 
 void DialogGraphSetup::showColour(QPushButton* pButton, const QString& name)
@@ -153,7 +159,7 @@ void DialogGraphSetup::showNumber(QLineEdit* pField, double value)
 {
     // What the user is typing stays as he types it, and is marked for as long as it is no number.
     const std::optional<double> typed = numberOf(pField->text());
-    const bool isTyped = pField->isModified() && !mData.autoscaleOn && typed.value_or(value) == value;
+    const bool isTyped = pField->isModified() && !mData.scale.isAutomatic && typed.value_or(value) == value;
     if (!isTyped)
         pField->setText(QString::number(value, 'g', 10));
     const bool isWrong = isTyped && !typed;
@@ -223,7 +229,7 @@ void DialogGraphSetup::slotCursorOn(int state)
 
 void DialogGraphSetup::slotCursorMode(int mode)
 {
-    mData.cursorMode = mode;
+    mData.cursorMode = mode == eCenter ? eCenter : eFloating;
     changed();
 }
 
@@ -235,19 +241,19 @@ void DialogGraphSetup::slotLegendOn(int state)
 
 void DialogGraphSetup::slotAutoscaleOn(int state)
 {
-    mData.autoscaleOn = state != Qt::Unchecked;
+    mData.scale.isAutomatic = state != Qt::Unchecked;
     changed();
 }
 
 void DialogGraphSetup::slotYmin(const QString& text)
 {
-    mData.yMin = numberOf(text).value_or(mData.yMin);
+    mData.scale.lower = numberOf(text).value_or(mData.scale.lower);
     changed();
 }
 
 void DialogGraphSetup::slotYmax(const QString& text)
 {
-    mData.yMax = numberOf(text).value_or(mData.yMax);
+    mData.scale.upper = numberOf(text).value_or(mData.scale.upper);
     changed();
 }
 
@@ -259,18 +265,15 @@ void DialogGraphSetup::slotClickMovesCursor(int state)
 
 void DialogGraphSetup::slotTraceColor()
 {
-    TraceColour& trace = mData.traces[static_cast<std::size_t>(mpTraces->current())];
-    const QColor colour = askColour(trace.colour);
-    if (colour.isValid()) {
-        trace.colour = colour;
-        trace.isOwn = true;
-    }
+    const TraceColour trace = mTraces[static_cast<std::size_t>(mpTraces->current())];
+    if (const QColor colour = askColour(trace.colour); colour.isValid())
+        Q_EMIT signalTraceColour(trace.slot, colour);
     changed();
 }
 
 void DialogGraphSetup::slotTraceDefault()
 {
-    mData.traces[static_cast<std::size_t>(mpTraces->current())].isOwn = false;
+    Q_EMIT signalTraceColour(mTraces[static_cast<std::size_t>(mpTraces->current())].slot, QColor());
     changed();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "ui/graph/GraphData.h"
+#include "ui/graph/model/GraphData.h"
+#include "ui/graph/model/TraceColours.h"
 
 #include <QDialog>
 
@@ -14,8 +15,8 @@ namespace ZARN {
 
 class TraceColourRow;
 
-/// The window "Oscilloscope Setup": edits the graph's display settings in place and tells of every edit. The record is not owned and
-/// outlives the window.
+/// The window "Oscilloscope Setup": edits the graph's display settings in place and tells of every edit; what it edits of traces it tells
+/// only. The record is not owned and outlives the window.
 class DialogGraphSetup : public QDialog {
     Q_OBJECT
 
@@ -24,9 +25,12 @@ public:
 
     /// Shows the record's present values.
     void updateDialog();
+    void showTraces(std::vector<TraceColour> traces);
 
 Q_SIGNALS:
     void signalChanged();
+    /// The user chose a colour for a trace; an invalid one for that which the trace has by itself.
+    void signalTraceColour(int slot, const QColor& colour);
 
 protected:
     /// Asks for a colour; invalid when the user gave up.
@@ -60,6 +64,7 @@ private:
     void changed();
 
     GraphData& mData;
+    std::vector<TraceColour> mTraces;
     QPushButton* mpBackground = nullptr;
     QPushButton* mpGridColour = nullptr;
     QPushButton* mpLabel = nullptr;

@@ -1,27 +1,13 @@
 #pragma once
 
+#include "ui/graph/model/GraphCommands.h"
+
 #include <QWidget>
 
 class QButtonGroup;
 class QToolButton;
 
 namespace ZARN {
-
-/// The graph's commands by the number of their button.
-enum EGraphCommand {
-    eZoomIn = 0,
-    eZoomOut = 1,
-    eZoomAll = 2,
-    eZoomMarker = 3,
-    eClearAll = 4,
-    eAutomaticMode = 5,
-    eSplitMode = 6,
-    eSingleMode = 7,
-    eResetAll = 8,
-    eSetup = 9,
-    eSnapshot = 10,
-    eNoCommand = 99
-};
 
 /// The row of command buttons above the graph.
 class GraphButtons : public QWidget {

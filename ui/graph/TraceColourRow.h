@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/graph/GraphData.h"
+#include "ui/graph/model/TraceColours.h"
 
 #include <QWidget>
 

@@ -16,6 +16,12 @@ namespace {
 constexpr int kRedrawInterval = 30;
 constexpr int kRecalculationDelay = 50;
 constexpr int kCursorDelay = 5000;
+constexpr int kCountdown = 3;
+
+QString colourName(float red, float green, float blue)
+{
+    return QColor::fromRgbF(std::clamp(red, 0.0F, 1.0F), std::clamp(green, 0.0F, 1.0F), std::clamp(blue, 0.0F, 1.0F)).name();
+}
 
 } // namespace
 
@@ -38,7 +44,8 @@ void WidgetGraphBase::connectModel()
 {
     using ZARN::GraphModel;
     connect(&mModel, &GraphModel::signalRepaint, this, &WidgetGraphBase::requestFrame);
-    connect(&mModel, &GraphModel::signalRecalculate, this, [this] {
+    connect(&mModel, &GraphModel::signalWindow, this, [this] {
+        mCountdown = kCountdown;
         if (!mRecalculationTimer.isActive())
             mRecalculationTimer.start(kRecalculationDelay);
     });
@@ -49,24 +56,87 @@ void WidgetGraphBase::connectModel()
     connect(&mModel, &GraphModel::signalMoveParameter, this, &WidgetGraphBase::signalMoveParameter);
 }
 
-void WidgetGraphBase::useSurface(CreateSurface createSurface)
+void WidgetGraphBase::useSurface(ZARN::Surface::EKind kind)
 {
     delete mpSurface;
-    const ZARN::GraphPainting painting{
-        [this](ZARN::Canvas& canvas, const QSize& size, double ratio) { paint(canvas, size, ratio); },
-        [this] { useSurface(&ZARN::createPainterSurface); },
+    const ZARN::SurfacePainting painting{
+        .background = mModel.colours().labelBackground,
+        .update = [this](const QSize& size, double ratio) { updateFrame(size, ratio); },
+        .paint =
+            [this](ZARN::Canvas& canvas, VESK::OpenGL::Device*) {
+                paint(canvas);
+                mPacer.end();
+            },
+        .paintAbove = nullptr,
+        .release = nullptr,
+        .failed = [this](const QString&) { useSurface(ZARN::Surface::EKind::ePainter); },
     };
-    mpSurface = createSurface(painting, this);
-    mpSurface->setGeometry(rect());
-    mpSurface->show();
+    mpSurface = ZARN::Surface::create(kind, painting, this);
+    mpSurface->widget().setGeometry(rect());
+    mpSurface->widget().show();
     requestFrame();
 }
 
-void WidgetGraphBase::setColour(ZARN::GraphColour ZARN::GraphColours::*pMember, const ZARN::GraphColour& colour)
+void WidgetGraphBase::setXrange(float seconds)
 {
-    ZARN::GraphColours colours = mModel.colours();
-    colours.*pMember = colour;
-    mModel.setColours(colours);
+    mModel.setWindow(mModel.window().ofWidth(static_cast<double>(seconds), mModel.settings().graphMode));
+}
+
+void WidgetGraphBase::setBackColor(float red, float green, float blue)
+{
+    set(&ZARN::GraphData::backColor, colourName(red, green, blue));
+}
+
+void WidgetGraphBase::setGridColor(float red, float green, float blue)
+{
+    set(&ZARN::GraphData::gridColor, colourName(red, green, blue));
+}
+
+void WidgetGraphBase::setLabelColor(float red, float green, float blue)
+{
+    set(&ZARN::GraphData::labelColor, colourName(red, green, blue));
+}
+
+void WidgetGraphBase::setLabelBackColor(float red, float green, float blue)
+{
+    set(&ZARN::GraphData::labelBackColor, colourName(red, green, blue));
+}
+
+void WidgetGraphBase::setParameterColor(int index, float red, float green, float blue)
+{
+    mModel.traces().setColour(index, QColor(colourName(red, green, blue)));
+}
+
+bool WidgetGraphBase::getValue(int index, double time, double& value) const
+{
+    const ZARN::GraphParameter* pTrace = mModel.traces().at(index);
+    const auto position = pTrace ? pTrace->samples.lastAtOrBefore(time) : std::nullopt;
+    if (position)
+        value = pTrace->samples.value(*position);
+    return position.has_value();
+}
+
+void WidgetGraphBase::getParameterRangeX(int index, double& first, double& last) const
+{
+    const ZARN::GraphParameter* pTrace = mModel.traces().at(index);
+    const bool isEmpty = !pTrace || pTrace->samples.empty();
+    first = isEmpty ? 0.0 : pTrace->samples.time(0);
+    last = isEmpty ? 0.0 : pTrace->samples.time(pTrace->samples.size() - 1);
+}
+
+void WidgetGraphBase::getParameterRangeY(int index, double& lower, double& upper) const
+{
+    const ZARN::ValueSpan span = mModel.traces().at(index) ? mModel.valueSpan(index) : ZARN::ValueSpan{};
+    lower = span[0];
+    upper = span[1];
+}
+
+double WidgetGraphBase::getCurrentAverageValue() const
+{
+    double sum = 0.0;
+    for (const int index : mModel.traces().shown())
+        sum += mModel.traces().at(index)->samples.average();
+    return nrActive() > 0 ? sum / nrActive() : 0.0;
 }
 
 void WidgetGraphBase::getAutoPara(double min, double max, double length, double spacing, float& step, int& subdivisions)
@@ -84,52 +154,55 @@ double WidgetGraphBase::textSize() const
     return std::clamp(static_cast<double>(QFontInfo(font()).pixelSize()) - 1.0, 8.0, 40.0);
 }
 
-void WidgetGraphBase::paintOn(ZARN::Canvas& canvas, const QSizeF& size, double ratio)
+void WidgetGraphBase::paintOn(ZARN::Canvas& canvas, const QSizeF& size, double ratio) const
 {
-    const ZARN::GraphLayout layout = ZARN::GraphScene::prepare(mModel, size, textSize(), ratio);
-    canvas.fillRect(QRectF(QPointF(), size), mModel.colours().labelBackground.colour());
-    ZARN::GraphScene(mModel, layout).draw(canvas);
+    ZARN::GraphFrame frame;
+    frame.update(mModel, size, textSize(), ratio);
+    ZARN::GraphScene(mModel, frame).draw(canvas);
 }
 
-void WidgetGraphBase::paint(ZARN::Canvas& canvas, const QSize& size, double ratio)
+void WidgetGraphBase::updateFrame(const QSize& size, double ratio)
 {
     mFrameWanted = false;
     mPacer.begin();
     ++mFrames;
-    mLayout = ZARN::GraphScene::prepare(mModel, size, textSize(), ratio);
-    mInteraction.setLayout(mLayout);
-    canvas.fillRect(QRectF(QPointF(), QSizeF(size)), mModel.colours().labelBackground.colour());
-    ZARN::GraphScene scene(mModel, mLayout);
-    scene.setDragged(mInteraction.draggedStrip(), mInteraction.dragY());
-    scene.draw(canvas);
-    mPacer.end();
+    mModel.extendToPresent();
+    mFrame.update(mModel, size, textSize(), ratio);
+    mInteraction.setLayout(mFrame.layout());
+}
+
+void WidgetGraphBase::paint(ZARN::Canvas& canvas) const
+{
+    ZARN::GraphScene(mModel, mFrame, mInteraction.dragged()).draw(canvas);
 }
 
 void WidgetGraphBase::requestFrame()
 {
     mFrameWanted = true;
     if (mpSurface && (!mIsPaced || mPacer.isDue()))
-        mpSurface->update();
+        mpSurface->requestFrame();
 }
 
 void WidgetGraphBase::slotRedraw()
 {
     if (mFrameWanted && mpSurface && isVisible() && mPacer.isDue())
-        mpSurface->update();
+        mpSurface->requestFrame();
 }
 
 void WidgetGraphBase::slotRecalculate()
 {
-    if (mModel.recalculate())
+    if (!mFrame.traces().isCurrent(mModel.traces(), mModel.window()))
+        requestFrame();
+    if (mCountdown-- >= 1)
         mRecalculationTimer.start(kRecalculationDelay);
 }
 
 void WidgetGraphBase::keyPressEvent(QKeyEvent* pEvent)
 {
-    const bool isMoved = mModel.isCursorMoving();
+    const bool isMoved = mModel.cursor().isMoving;
     if (!mInteraction.keyPressed(pEvent->key(), pEvent->modifiers()))
         return QWidget::keyPressEvent(pEvent);
-    if (isMoved || mModel.isCursorMoving())
+    if (isMoved || mModel.cursor().isMoving)
         mCursorTimer.start(kCursorDelay);
 }
 
@@ -190,7 +263,7 @@ void WidgetGraphBase::resizeEvent(QResizeEvent* pEvent)
 {
     QWidget::resizeEvent(pEvent);
     if (mpSurface)
-        mpSurface->setGeometry(rect());
+        mpSurface->widget().setGeometry(rect());
     requestFrame();
 }
 

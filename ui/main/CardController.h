@@ -36,8 +36,6 @@ public:
     /// Works out anew, without reading, what depends on profile and units: flights, statistics, path. The same flight stays selected.
     void recalculate();
 
-    /// While it holds, loading is put off: somebody reads the data and lets the windows live meanwhile.
-    void hold(bool on) { mBusy = on; }
     void loadCycle(unsigned int cycle, int flight);
     void loadRecords(const std::list<QString>& files);
 

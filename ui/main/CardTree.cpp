@@ -64,8 +64,9 @@ std::vector<CardNode> CardTree::cycles(const CardContainer& container)
 CardNode CardTree::cycleNode(unsigned int number, const RecordCycle& cycle)
 {
     CardNode node;
+    const QString name = cycle.name.isEmpty() ? QString() : tr("Cycle %1").arg(number);
     // All three at once: what a name or date contains is never taken for the next mark.
-    node.text = QStringLiteral("%1 %2 (%3)").arg(cycle.name, startText(PowerUp::of(cycle)), clockText(cycle.endTime));
+    node.text = QStringLiteral("%1 %2 (%3)").arg(name, startText(PowerUp::of(cycle)), clockText(cycle.endTime));
     node.cycle = number;
     return node;
 }

@@ -3,6 +3,7 @@
 #include "card/CardContainer.h"
 #include "ui/main/CardTree.h"
 
+#include <QEvent>
 #include <QHash>
 #include <QHeaderView>
 #include <QLineEdit>
@@ -95,9 +96,18 @@ QTreeWidget* DialogCard::createTree(const QString& name, const QString& header)
     pTree->setHeaderLabel(header);
     pTree->setAccessibleName(header);
     pTree->setUniformRowHeights(true); // a card may hold thousands of files
-    pTree->header()->setStretchLastSection(false); // what is wider can be scrolled to
-    pTree->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    QHeaderView* pHeader = pTree->header();
+    pHeader->setStretchLastSection(false); // what is wider can be scrolled to
+    pHeader->setSectionResizeMode(QHeaderView::ResizeToContents);
+    pHeader->installEventFilter(this);
     return pTree;
+}
+
+bool DialogCard::eventFilter(QObject* pObject, QEvent* pEvent)
+{
+    if (auto* pHeader = qobject_cast<QHeaderView*>(pObject); pHeader && pEvent->type() == QEvent::Resize)
+        pHeader->setMinimumSectionSize(pHeader->width()); // the list reaches its right edge
+    return QWidget::eventFilter(pObject, pEvent);
 }
 
 void DialogCard::focusList()

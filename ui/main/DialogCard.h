@@ -43,6 +43,9 @@ Q_SIGNALS:
     /// The lists were made anew.
     void signalChanged();
 
+protected:
+    bool eventFilter(QObject* pObject, QEvent* pEvent) override;
+
 private Q_SLOTS:
     /// Lists the header lines below a record file.
     void slotExpand(QTreeWidgetItem* pItem);

@@ -94,7 +94,9 @@ bool DialogMain::isProjectModified() const
 
 void DialogMain::updateTitle()
 {
-    const QString path = QString::fromStdString(mSession.property.getString("LastPath", ""));
+    QString path = mSession.container.path();
+    if (path.isEmpty() && mpCardController->problem().isEmpty()) // one that was refused is not shown, and neither is the one before it
+        path = QString::fromStdString(mSession.property.getString("LastPath", ""));
     setWindowTitle(path.isEmpty() ? QString("ZARN") : "ZARN " + QDir::cleanPath(path).section('/', -2, -1));
 }
 

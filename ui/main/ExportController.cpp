@@ -3,12 +3,10 @@
 #include "app/Property.h"
 #include "app/SafeFile.h"
 #include "card/CardContainer.h"
-#include "card/PowerUp.h"
 #include "export/ExportGpx.h"
 #include "export/ExportKml.h"
 #include "export/ui/DialogExportCsv.h"
 #include "export/ui/DialogExportKml.h"
-#include "export/ui/ExportProgress.h"
 #include "export/ui/ExportTarget.h"
 #include "profile/Profile.h"
 #include "report/FlightReport.h"
@@ -21,16 +19,19 @@
 #include <QLocale>
 
 #include <algorithm>
+#include <memory>
 
 namespace ZARN {
 
 ExportController::ExportController(const Session& session, CardController& cards, ShownSpan graphSpan, QWidget* pWindow)
-    : QObject(pWindow), mSession(session), mCards(cards), mGraphSpan(std::move(graphSpan)), mpWindow(pWindow)
+    : QObject(pWindow), mSession(session), mCards(cards), mGraphSpan(std::move(graphSpan)), mpWindow(pWindow), mProgress(pWindow)
 {
 }
 
-bool ExportController::hasData()
+bool ExportController::mayExport()
 {
+    if (mProgress.isRunning())
+        return false;
     if (mCards.hasData())
         return true;
     say(QMessageBox::Information, tr("ZARN Warning"), tr("No data of this card is loaded."), tr("Choose a power cycle in the card browser first."));
@@ -71,69 +72,70 @@ std::vector<ExportPart> ExportController::parts(const QString& suffix) const
 
 void ExportController::exportKml()
 {
-    if (!hasData())
+    if (!mayExport())
         return;
     mKmlOptions.fileName = fileName(0, ".kml").toStdString();
     if (!DialogExportKml(mSession, mpWindow).getOptions(mKmlOptions, parts(".kml")))
         return;
-    ExportKml exporter(mSession.console, mSession.profile, mSession.profile.selection(), PowerUp::ofLoaded(mSession.container));
-    bool isPathMissing = false;
-    const auto work = [&](Progress& progress) {
-        const bool written = exporter.exportData(mSession.container.recordData(), mKmlOptions, progress);
-        isPathMissing = written && !exporter.hasPosition();
-        return written;
+    const LoadedCard loaded = mSession.container.loaded();
+    const auto pExporter = std::make_shared<ExportKml>(mSession.console, loaded.context, mSession.profile.selection(), loaded.powerUp);
+    const auto work = [pExporter, loaded, options = mKmlOptions](Progress& progress) {
+        return Outcome{pExporter->exportData(*loaded.pRecord, options, progress), pExporter->error()};
     };
-    if (!run(QString::fromStdString(mKmlOptions.directory + "/" + mKmlOptions.fileName), work))
-        fail(tr("ZARN Warning"), tr("Exporting KML file failed !"), exporter.error());
-    else if (isPathMissing)
-        say(QMessageBox::Information, tr("ZARN Warning"), tr("No position was recorded: the KML file holds no flight path."));
+    run(QString::fromStdString(mKmlOptions.directory + "/" + mKmlOptions.fileName), work,
+        {tr("ZARN Warning"), tr("Exporting KML file failed !")}, [this, pExporter] {
+            if (!pExporter->hasPosition())
+                say(QMessageBox::Information, tr("ZARN Warning"), tr("No position was recorded: the KML file holds no flight path."));
+        });
 }
 
 void ExportController::exportCsv()
 {
-    if (!hasData())
+    if (!mayExport())
         return;
     mCsvOptions.directory = QString::fromStdString(mSession.property.getString("CsvExportDir", "."));
     mCsvOptions.fileName = fileName(0, ".csv");
     if (!DialogExportCsv(mSession, mpWindow).getOptions(mCsvOptions, parts(".csv")))
         return;
-    ExportCsv exporter(mSession.profile, mSession.profile.selection());
-    const auto work = [&](Progress& progress) { return exporter.exportData(mSession.container.recordData(), mCsvOptions, progress); };
-    if (!run(mCsvOptions.directory + "/" + mCsvOptions.fileName, work))
-        fail(tr("ZARN Viewer Warning"), tr("Exporting CSV file failed !"), exporter.error());
+    const auto work = [loaded = mSession.container.loaded(), selection = mSession.profile.selection(), options = mCsvOptions](Progress& progress) {
+        ExportCsv exporter(loaded.context, selection);
+        const bool written = exporter.exportData(*loaded.pRecord, options, progress);
+        return Outcome{written, exporter.error()};
+    };
+    run(mCsvOptions.directory + "/" + mCsvOptions.fileName, work, {tr("ZARN Viewer Warning"), tr("Exporting CSV file failed !")});
 }
 
 void ExportController::exportGpx()
 {
-    if (!hasData())
+    if (!mayExport())
         return;
     const QString path = askFile("GpxExportDir", tr("Save GPX Export"), selectionName(".gpx"), tr("GPX Files (*.gpx)"));
     if (path.isEmpty())
         return;
-    ExportGpx exporter;
-    const auto work = [&](Progress& progress) {
+    const auto work = [path, loaded = mSession.container.loaded()](Progress& progress) {
+        ExportGpx exporter;
         SafeFile file(QFile::encodeName(path).toStdString());
-        return exporter.exportData(mSession.container.loaded(), file, progress);
+        const bool written = exporter.exportData(loaded, file, progress);
+        return Outcome{written, exporter.error()};
     };
-    if (!run(path, work))
-        fail(tr("ZARN Warning"), tr("Exporting GPX file failed !"), exporter.error());
+    run(path, work, {tr("ZARN Warning"), tr("Exporting GPX file failed !")});
 }
 
 void ExportController::writeReport()
 {
-    if (!hasData())
+    if (!mayExport())
         return;
     const QString path = askFile("ReportDir", tr("Save Flight Report"), selectionName(".pdf"), tr("PDF Files (*.pdf)"));
     if (path.isEmpty())
         return;
-    FlightReport report(mSession.container.loaded());
     const ReportOptions paper{QLocale::system().measurementSystem() == QLocale::ImperialUSSystem};
-    const auto work = [&](Progress& progress) {
+    const auto work = [path, paper, loaded = mSession.container.loaded()](Progress& progress) {
+        FlightReport report(loaded);
         SafeFile file(QFile::encodeName(path).toStdString());
-        return report.write(file, paper, progress);
+        const bool written = report.write(file, paper, progress);
+        return Outcome{written, report.error()};
     };
-    if (!run(path, work))
-        fail(tr("ZARN Warning"), tr("Writing the flight report failed !"), report.error());
+    run(path, work, {tr("ZARN Warning"), tr("Writing the flight report failed !")});
 }
 
 QString ExportController::askFile(const char* setting, const QString& title, const QString& name, const QString& filter)
@@ -157,20 +159,19 @@ QString ExportController::askFile(const char* setting, const QString& title, con
     return path;
 }
 
-bool ExportController::run(const QString& path, const std::function<bool(Progress&)>& work)
+void ExportController::run(const QString& path, const Work& work, const Failure& failure, const std::function<void()>& whenWritten)
 {
-    ExportProgress progress(tr("Writing %1 ...").arg(QFileInfo(path).fileName()), mpWindow);
-    mCards.hold(true);
-    const bool written = work(progress);
-    mCards.hold(false);
-    if (written)
-        Q_EMIT signalWritten(path);
-    return written || progress.isCancelled();
-}
-
-void ExportController::fail(const QString& title, const QString& text, const std::string& reason)
-{
-    say(QMessageBox::Critical, title, text, QString::fromStdString(reason));
+    const auto pOutcome = std::make_shared<Outcome>();
+    const auto whenDone = [this, path, failure, whenWritten, pOutcome] {
+        if (pOutcome->written) {
+            Q_EMIT signalWritten(path);
+            if (whenWritten)
+                whenWritten();
+        } else if (const QString& thrown = mProgress.error(); !thrown.isEmpty() || !mProgress.isCancelled()) {
+            say(QMessageBox::Critical, failure.title, failure.text, thrown.isEmpty() ? QString::fromStdString(pOutcome->error) : thrown);
+        }
+    };
+    mProgress.start(tr("Writing %1 ...").arg(QFileInfo(path).fileName()), [work, pOutcome](Progress& progress) { *pOutcome = work(progress); }, whenDone);
 }
 
 void ExportController::say(QMessageBox::Icon icon, const QString& title, const QString& text, const QString& information)

@@ -3,6 +3,7 @@
 #include "export/ExportCsv.h"
 #include "export/KmlExportOptions.h"
 #include "export/ui/ExportPart.h"
+#include "export/ui/ExportProgress.h"
 #include "project/Session.h"
 
 #include <QMessageBox>
@@ -38,18 +39,28 @@ Q_SIGNALS:
     void signalWritten(const QString& path);
 
 private:
-    /// Whether records are loaded, and of the card that is shown. Tells the user when not.
-    bool hasData();
+    /// What became of a file: the reason is empty when it was written, or the user ended it.
+    struct Outcome {
+        bool written = false;
+        std::string error;
+    };
+    using Work = std::function<Outcome(Progress&)>;
+    /// What is said when a file could not be written.
+    struct Failure {
+        QString title;
+        QString text;
+    };
+
+    /// Whether no export is running, and records are loaded, and of the card that is shown. Tells the user when there are none.
+    bool mayExport();
     /// Names card, cycle and flight.
     [[nodiscard]] QString fileName(int flight, const QString& suffix) const;
     [[nodiscard]] QString selectionName(const QString& suffix) const;
     [[nodiscard]] std::vector<ExportPart> parts(const QString& suffix) const;
-    /// Does the work under the eyes of the user, loading being put off meanwhile. @param work returns whether it succeeded.
-    /// @return whether it did, or was cancelled.
-    bool run(const QString& path, const std::function<bool(Progress&)>& work);
+    /// Does the work on a thread of its own, which works on what it holds itself: the windows go on, and may load something else.
+    void run(const QString& path, const Work& work, const Failure& failure, const std::function<void()>& whenWritten = {});
     /// Asks for a file in the folder that the setting remembers. @return its path; empty when the user cancels.
     QString askFile(const char* setting, const QString& title, const QString& name, const QString& filter);
-    void fail(const QString& title, const QString& text, const std::string& reason);
     void say(QMessageBox::Icon icon, const QString& title, const QString& text, const QString& information = {});
 
     Session mSession;
@@ -58,6 +69,7 @@ private:
     QWidget* mpWindow;
     CsvExportOptions mCsvOptions;
     KmlExportOptions mKmlOptions;
+    ExportProgress mProgress;
 };
 
 } // namespace ZARN

@@ -3,9 +3,12 @@
 #include "app/Property.h"
 
 #include <QEvent>
+#include <QFontInfo>
 #include <QMainWindow>
 #include <QScreen>
 #include <QSplitter>
+
+#include <algorithm>
 
 namespace ZARN {
 
@@ -17,6 +20,8 @@ constexpr const char* kSide = "WindowSideSplitter";
 constexpr QSize kFirstSize(1000, 800);
 constexpr QSize kFrame(4, 40); // what the system puts around the window
 constexpr int kFirstSideWidth = 320;
+constexpr int kSideWidthPerPixel = 15; // of a text larger than the usual
+constexpr int kUsualText = 12;
 
 QByteArray stored(const Property& property, const char* key)
 {
@@ -33,7 +38,9 @@ WindowLayout::WindowLayout(Property& property, QMainWindow& window, QSplitter& c
 void WindowLayout::restoreWindow()
 {
     const QRect screen = mWindow.screen()->availableGeometry();
-    mWindow.resize(kFirstSize.boundedTo(screen.size() - kFrame));
+    mWindow.ensurePolished();
+    const double larger = std::max(1.0, QFontInfo(mWindow.font()).pixelSize() / static_cast<double>(kUsualText));
+    mWindow.resize((kFirstSize * larger).boundedTo(screen.size() - kFrame));
     mWindow.restoreGeometry(stored(mProperty, kGeometry)); // refuses what it did not write itself
 }
 
@@ -58,9 +65,10 @@ bool WindowLayout::eventFilter(QObject* pObject, QEvent* pEvent)
 
 void WindowLayout::setSplitters()
 {
-    const int width = mCentre.width();
+    const int larger = std::max(QFontInfo(mCentre.font()).pixelSize() - kUsualText, 0);
+    const int side = kFirstSideWidth + larger * kSideWidthPerPixel;
     if (!mCentre.restoreState(stored(mProperty, kCentre)))
-        mCentre.setSizes({kFirstSideWidth, width - kFirstSideWidth});
+        mCentre.setSizes({side, mCentre.width() - side});
     mSide.restoreState(stored(mProperty, kSide));
     // Other versions may have kept other properties of the splitters; only the sizes are the user's.
     for (QSplitter* pSplitter : {&mCentre, &mSide})

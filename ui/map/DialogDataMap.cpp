@@ -1,7 +1,8 @@
 #include "ui/map/DialogDataMap.h"
 
+#include "app/Numeric.h"
 #include "app/Property.h"
-#include "app/gui/GraphicsCheck.h"
+#include "ui/gl/GraphicsCheck.h"
 #include "ui/map/MapPanels.h"
 #include "ui/map/model/TileConsent.h"
 
@@ -190,33 +191,60 @@ void DialogDataMap::updateGeometry()
     const int tallest = std::max(height() - kBelowPanels, 0);
     mpTools->resize(mpTools->sizeHint().boundedTo({width(), tallest}));
     mpTools->move(margin, margin);
-    placeValues(margin, tallest);
     const int wide = std::max(std::min(width() - 2 * margin, 720), 0);
     const int tall = mpConsent->arrangeFor(wide);
     const int below = std::max(kBelowConsent, mpMap->cornerSize().height() + margin);
     mpConsent->setGeometry((width() - wide) / 2, std::max(height() - margin - below - tall, 0), wide, tall);
     mpConsent->raise();
+    const int lowest = mpConsent->isVisibleTo(this) ? mpConsent->y() - margin : height() - below;
+    placeValues(QRect(margin, margin, width() - 2 * margin, std::min(lowest, margin + tallest) - margin));
 }
 
-/// Beside the commands, or below them where something would be cut there: "Engine ..." may be many things; never over the aircraft that the view follows.
-void DialogDataMap::placeValues(int margin, int tallest)
+/// Where most can be read of them without the aircraft being covered: beside the commands, below them, or below the aircraft.
+void DialogDataMap::placeValues(const QRect& room)
 {
     const int area = width() * height() / kMostOfMap;
-    const auto fit = [&](int top, int wide) {
-        const int tall = tallest + margin - top;
-        const bool isWhole = mpValues->fitInto({std::max(wide, 0), tall}, area);
-        const bool isOverMiddle = width() - margin - mpValues->width() < width() / 2 + kAircraft;
-        if (isOverMiddle && top + mpValues->height() > height() / 2 - kAircraft)
-            mpValues->fitInto({std::max(wide, 0), std::min(tall, std::max(height() / 2 - kAircraft - top, 0))}, area);
-        return isWhole;
+    const QRect aircraft = aircraftPlace();
+    mpValues->measure();
+    MapValuePanel::Fit best;
+    QPoint place = room.topRight();
+    const auto consider = [&](const QRect& part, bool isLow) {
+        const MapValuePanel::Fit fit = mpValues->fit(part.size(), area);
+        QRect panel(part.topLeft(), fit.size);
+        panel.moveRight(part.right());
+        if (isLow)
+            panel.moveBottom(part.bottom());
+        if (panel.intersects(aircraft))
+            return false;
+        if (fit.score() > best.score()) {
+            best = fit;
+            place = panel.topLeft();
+        }
+        return true;
     };
-    const int below = mpTools->geometry().bottom() + margin;
-    int top = margin;
-    if (!fit(top, width() - mpTools->width() - 3 * margin) && below < height() / 3) {
-        top = below;
-        fit(top, width() - 2 * margin);
+    const int margin = room.top();
+    const QRect tools = mpTools->geometry();
+    for (const QRect& part : {room.adjusted(tools.right() + 1, 0, 0, 0), room.adjusted(0, tools.bottom() + 1, 0, 0)}) {
+        if (!consider(part, false))
+            consider(part.intersected({0, 0, width(), aircraft.top()}), false);
     }
-    mpValues->move(width() - margin - mpValues->width(), top);
+    if (const int top = std::max(aircraft.bottom() + 1, tools.bottom() + margin); !aircraft.isEmpty())
+        consider(room.intersected({0, top, width(), height()}), true);
+    mpValues->apply(best);
+    mpValues->move(place);
+}
+
+/// Empty without a path.
+QRect DialogDataMap::aircraftPlace() const
+{
+    const MapScene& scene = mpMap->scene();
+    if (scene.path().isEmpty())
+        return {};
+    double x = width() / 2.0;
+    double y = height() / 2.0;
+    if (mContext.centreAircraft == 0) // else it is on its way there
+        mpMap->latLong2Window(scene.aircraft().latitude, scene.aircraft().longitude, &x, &y);
+    return QRect(saturatingCast<int>(x) - kAircraft, saturatingCast<int>(y) - kAircraft, 2 * kAircraft, 2 * kAircraft) & rect();
 }
 
 void DialogDataMap::resizeEvent(QResizeEvent* pEvent)

@@ -60,7 +60,8 @@ private:
     void fillDataLabel();
     void fillDataValue();
     void updateConsent();
-    void placeValues(int margin, int tallest);
+    void placeValues(const QRect& room);
+    [[nodiscard]] QRect aircraftPlace() const;
 
     Session mSession;
     MapContext mContext;

@@ -75,23 +75,35 @@ QIcon valuesIcon(int edge)
 
 } // namespace
 
-MapValuePanel::MapValuePanel(QWidget* pParent) : QScrollArea(pParent)
+MapValuePanel::MapValuePanel(QWidget* pParent) : QFrame(pParent), mpScroll(new QScrollArea)
 {
-    setFrameShape(QFrame::NoFrame);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setFocusPolicy(Qt::NoFocus);
-    setStyleSheet(QStringLiteral("QScrollArea {background: transparent;}"));
-    viewport()->setAutoFillBackground(false);
+    setObjectName(QStringLiteral("mapValues"));
+    setStyleSheet(QStringLiteral("#mapValues{background-color: %1;border-radius:10px;}").arg(kGround.name()));
+    mpScroll->setFrameShape(QFrame::NoFrame);
+    mpScroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    mpScroll->setFocusPolicy(Qt::NoFocus);
+    mpScroll->setStyleSheet(QStringLiteral("QScrollArea {background: transparent;}"));
+    mpScroll->viewport()->setAutoFillBackground(false);
+    mpScroll->setWidgetResizable(true);
+    auto* pLayout = new QVBoxLayout(this);
+    pLayout->setContentsMargins(kPanelMargin, kPanelMargin, kPanelMargin, kPanelMargin);
+    pLayout->addWidget(mpScroll);
+    QScrollBar* pBar = mpScroll->verticalScrollBar();
+    connect(pBar, &QScrollBar::valueChanged, this, [this, pBar](int value) { pBar->setValue((value + step() / 2) / step() * step()); });
     setRows({});
+}
+
+int MapValuePanel::step() const
+{
+    return std::max(mRowHeight, 1) + kPanelSpacing;
 }
 
 void MapValuePanel::setRows(const std::vector<MapValue>& rows)
 {
     mRows.clear();
     mpPanel = new QWidget;
-    mpPanel->setStyleSheet(QStringLiteral(".QWidget{background-color: %1;border-radius:10px;}").arg(kGround.name()));
     auto* pLayout = new QGridLayout(mpPanel);
-    pLayout->setContentsMargins(kPanelMargin, kPanelMargin, kPanelMargin, kPanelMargin);
+    pLayout->setContentsMargins(0, 0, 0, 0);
     pLayout->setSpacing(kPanelSpacing);
     for (const MapValue& row : rows) {
         auto* pName = new QLabel(row.name);
@@ -106,9 +118,8 @@ void MapValuePanel::setRows(const std::vector<MapValue>& rows)
         mRows.push_back({row.name, {}, pName, pValue, {}});
         setColour(mRows.back(), Qt::white);
     }
-    setWidget(mpPanel);
-    mpPanel->setAutoFillBackground(false); // beside the round corners
-    setWidgetResizable(true);
+    mpScroll->setWidget(mpPanel);
+    mpPanel->setAutoFillBackground(false);
     setValues(rows);
 }
 
@@ -130,43 +141,65 @@ void MapValuePanel::setValues(const std::vector<MapValue>& rows)
     }
 }
 
-bool MapValuePanel::fitInto(const QSize& room, int area)
+void MapValuePanel::measure()
 {
-    const auto tallest = [&](int width) { return std::min(room.height(), area / std::max(width, 1)); };
-    bool isWhole = elide(room.width());
-    QSize wanted = mpPanel->sizeHint().boundedTo({room.width(), QWIDGETSIZE_MAX});
-    const bool isTooTall = wanted.height() > tallest(wanted.width());
-    if (isTooTall) {
-        const int bar = verticalScrollBar()->sizeHint().width();
-        isWhole = elide(room.width() - bar);
-        wanted.setWidth(std::min(mpPanel->sizeHint().width() + bar, room.width()));
+    mNames = mValues = mRowHeight = 0;
+    for (const Row& row : mRows) {
+        row.pName->ensurePolished();
+        row.pValue->ensurePolished();
+        mNames = std::max(mNames, row.pName->fontMetrics().horizontalAdvance(row.name) + 1);
+        mValues = std::max(mValues, row.pValue->fontMetrics().horizontalAdvance(row.value) + 1);
+        mRowHeight = std::max(mRowHeight, row.pName->fontMetrics().height());
     }
-    resize(wanted.width(), std::min(wanted.height(), tallest(wanted.width())));
-    // The map below is to be dragged, zoomed and clicked; only a panel that has to be scrolled, or to tell what was cut, takes the mouse.
-    setAttribute(Qt::WA_TransparentForMouseEvents, !isTooTall && isWhole);
-    return isWhole;
+    for (const Row& row : mRows)
+        row.pName->setFixedHeight(mRowHeight); // rows of one height, whatever letters are in them
+    mpScroll->verticalScrollBar()->setSingleStep(step());
 }
 
-bool MapValuePanel::elide(int width)
+MapValuePanel::Fit MapValuePanel::fit(const QSize& room, int area) const
 {
-    bool isWhole = true;
-    const auto cut = [&isWhole](QLabel& label, const QString& text, int most) {
+    const int wanted = mNames + mValues + 2 * kPanelMargin + kPanelSpacing + kNameGap;
+    const int all = static_cast<int>(mRows.size());
+    const auto rowsIn = [&](int width) {
+        const int tallest = std::min(room.height(), area / std::max(width, 1));
+        return std::clamp((tallest - 2 * kPanelMargin + kPanelSpacing) / step(), 0, all);
+    };
+    int width = std::min(wanted, room.width());
+    int rows = rowsIn(width);
+    const int bar = rows < all ? mpScroll->verticalScrollBar()->sizeHint().width() : 0;
+    if (bar > 0) {
+        width = std::min(wanted + bar, room.width());
+        rows = rowsIn(width);
+    }
+    const int height = rows == 0 ? 0 : 2 * kPanelMargin + rows * step() - kPanelSpacing;
+    return {{std::max(width, 0), height}, rows, width >= wanted + bar, width >= wanted + bar - std::max(mNames - kLeastName, 0)};
+}
+
+void MapValuePanel::apply(const Fit& fit)
+{
+    const bool isScrolled = fit.rows < static_cast<int>(mRows.size());
+    elide(fit.size.width() - (isScrolled ? mpScroll->verticalScrollBar()->sizeHint().width() : 0));
+    mpScroll->setVerticalScrollBarPolicy(isScrolled ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
+    resize(fit.size);
+    // The map below is to be dragged, zoomed and clicked; only a panel that has to be scrolled, or to tell what was cut, takes the mouse.
+    setAttribute(Qt::WA_TransparentForMouseEvents, !isScrolled && fit.isWhole);
+}
+
+void MapValuePanel::elide(int width)
+{
+    const auto cut = [](QLabel& label, const QString& text, int most) {
         const QString shown = label.fontMetrics().elidedText(text, Qt::ElideRight, most);
-        isWhole = isWhole && shown == text;
         if (label.text() != shown)
             label.setText(shown);
         label.setToolTip(shown == text ? QString() : plainToolTip(text));
     };
     const int room = width - 2 * kPanelMargin - kPanelSpacing - kNameGap;
-    int values = 0;
+    const int values = std::clamp(mValues, 0, std::max(room - kLeastName, 0));
     for (const Row& row : mRows) {
-        cut(*row.pValue, row.value, room - kLeastName);
-        values = std::max(values, row.pValue->sizeHint().width());
-    }
-    for (const Row& row : mRows)
+        cut(*row.pValue, row.value, values);
         cut(*row.pName, row.name, std::max(room - values, kLeastName));
+    }
     mpPanel->layout()->activate();
-    return isWhole;
 }
 
 MapToolPanel::MapToolPanel(int scale, QWidget* pParent) : QWidget(pParent)
@@ -235,7 +268,7 @@ void MapConsentBar::setServer(const QString& name)
 {
     mpText->setText(tr("Load detailed map tiles from %1? The server then learns which area is looked at. "
                        "The answer can be changed in the map's menu and in the preferences.")
-                        .arg(name));
+                        .arg(QString(name).replace('.', QStringLiteral(".\u200b")))); // a long name may be broken there
 }
 
 int MapConsentBar::arrangeFor(int width)

@@ -5,6 +5,7 @@
 #include <QFrame>
 #include <QScrollArea>
 
+#include <algorithm>
 #include <array>
 #include <vector>
 
@@ -17,20 +18,34 @@ class QToolBar;
 
 namespace ZARN {
 
-/// The dark panel of current values on the map. Its ground is opaque, and colours are lightened until they can be read on it.
-class MapValuePanel : public QScrollArea {
+/// The dark panel of current values on the map. Its ground is opaque, and colours are lightened until they can be read on it. It shows whole
+/// rows only; what is too wide is cut, what is too tall scrolled row by row.
+class MapValuePanel : public QFrame {
     Q_OBJECT
 
 public:
+    /// What of the rows is shown in some room.
+    struct Fit {
+        QSize size;
+        int rows = 0;
+        bool isWhole = false;    ///< no text is cut
+        bool isReadable = false; ///< no value is cut
+        /// What can be read: a value that is cut tells nothing.
+        [[nodiscard]] int score() const { return isWhole ? 4 * rows : isReadable ? 2 * rows : std::min(rows, 1); }
+    };
+
     explicit MapValuePanel(QWidget* pParent);
 
     /// One row for each value, in this order.
     void setRows(const std::vector<MapValue>& rows);
     /// Values and colours of the rows that are there.
     void setValues(const std::vector<MapValue>& rows);
-    /// As large as its rows want, within the room that there is and an area in pixels; what is too wide is cut, what is too tall scrolled.
-    /// @return whether nothing was cut
-    bool fitInto(const QSize& room, int area);
+    /// Takes the measure of the texts as they are now, for fitting.
+    void measure();
+    /// What would be shown within the room that there is and an area in pixels.
+    [[nodiscard]] Fit fit(const QSize& room, int area) const;
+    /// Takes the size of a fit, and cuts what is too wide for it.
+    void apply(const Fit& fit);
 
 private:
     struct Row {
@@ -41,11 +56,16 @@ private:
         QColor colour;
     };
     void setColour(Row& row, const QColor& colour) const;
-    /// Cuts names with an ellipsis, and values where a name is left the least. @return whether nothing was cut
-    bool elide(int width);
+    /// Cuts names with an ellipsis, and values where a name is left the least.
+    void elide(int width);
+    [[nodiscard]] int step() const;
 
+    QScrollArea* mpScroll;
     QWidget* mpPanel = nullptr;
     std::vector<Row> mRows;
+    int mRowHeight = 0;
+    int mNames = 0; ///< pixels of the widest name
+    int mValues = 0;
 };
 
 /// The light panel of the map's commands.

@@ -3,12 +3,12 @@
 #include "app/Console.h"
 #include "app/Property.h"
 #include "app/Revision.h"
-#include "app/gui/GraphicsCheck.h"
 #include "card/CardContainer.h"
 #include "profile/Profile.h"
 #include "ui/map/MapAttribution.h"
 #include "ui/map/model/TileConsent.h"
 #include "vesk/base/Timer.h"
+#include "vesk/gl/Device.h"
 
 #include <QApplication>
 #include <QResizeEvent>
@@ -41,19 +41,21 @@ WidgetMap::WidgetMap(const Session& session, const QString& dataPath, MapContext
     setAttribute(Qt::WA_AcceptTouchEvents);
     setMinimumSize(100, 100);
     setUpMap(dataPath);
-    const GlPainting painting{
-        kBackground,
-        [this](GlCanvas& canvas, const QSize& /*size*/, double /*ratio*/) {
-            mpCanvas = &canvas;
-            initializeGL();
-            paintGL();
-            mpCanvas = nullptr;
-        },
-        [this](Canvas& canvas) { paintAbove(canvas); },
-        [this] { releaseGraphics(); },
-        [this](const QString& reason) { mSession.console.print("WidgetMap: %s\n", reason.toUtf8().constData()); },
+    const SurfacePainting painting{
+        .background = kBackground,
+        .update = nullptr,
+        .paint =
+            [this](Canvas& canvas, VESK::OpenGL::Device* pDevice) {
+                mpDevice = pDevice;
+                initializeGL();
+                paintGL(canvas);
+                mpDevice = nullptr;
+            },
+        .paintAbove = [this](Canvas& canvas) { paintAbove(canvas); },
+        .release = [this] { releaseGraphics(); },
+        .failed = [this](const QString& reason) { mSession.console.print("WidgetMap: %s\n", reason.toUtf8().constData()); },
     };
-    mpSurface = GraphicsCheck::isSoftware() ? GlSurface::createInMemory(painting, this) : GlSurface::createOnCard(painting, nullptr, this);
+    mpSurface = Surface::create(Surface::EKind::eOpenGl, painting, this);
     mpAttribution = new MapAttribution(this);
     setAccessibleName(tr("Map of the flight"));
     mClick.setSingleShot(true);
@@ -175,18 +177,18 @@ void WidgetMap::setViewPort()
 
 void WidgetMap::setViewPortOrtho()
 {
-    mpCanvas->device().matrix().clear();
+    mpDevice->matrix().clear();
 }
 
-void WidgetMap::paintGL()
+void WidgetMap::paintGL(Canvas& canvas)
 {
     mPacer.begin();
     mIsPainting = true;
     ++mGroundPaints;
     setViewPort();
-    mMap.render(mpCanvas->device());
+    mMap.render(*mpDevice);
     setViewPortOrtho();
-    mScene.drawGround(*mpCanvas, mNavigator.camera());
+    mScene.drawGround(canvas, mNavigator.camera());
     mContext.isLoading = mMap.nrLoadingTiles() != 0;
 }
 

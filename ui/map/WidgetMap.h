@@ -4,7 +4,7 @@
 #include "openstreet/gl/OpenStreetMap.h"
 #include "project/Session.h"
 #include "ui/canvas/FramePacer.h"
-#include "ui/gl/GlSurface.h"
+#include "ui/gl/Surface.h"
 #include "ui/map/model/MapNavigator.h"
 #include "ui/map/model/MapScene.h"
 
@@ -81,7 +81,7 @@ Q_SIGNALS:
 protected:
     /// What the surface asks for, with its context current.
     void initializeGL();
-    void paintGL();
+    void paintGL(Canvas& canvas);
     void paintAbove(Canvas& canvas);
     void resizeGL(int width, int height);
     void resizeEvent(QResizeEvent* pEvent) override;
@@ -124,10 +124,10 @@ private:
     MapNavigator mNavigator;
     MapScene mScene;
     OpenStreet::OpenStreetMap mMap;
-    GlSurface* mpSurface = nullptr;
+    Surface* mpSurface = nullptr;
     MapAttribution* mpAttribution = nullptr;
     OpenStreet::MapSources mSources; // that the attribution names
-    GlCanvas* mpCanvas = nullptr; // while it paints
+    VESK::OpenGL::Device* mpDevice = nullptr; // while it paints
     EUnit mPathUnit{};
     bool mIsInitialised = false;
     bool mIsDirty = true;

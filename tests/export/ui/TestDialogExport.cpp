@@ -16,6 +16,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QProgressBar>
 #include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTest>
@@ -333,14 +334,22 @@ void TestDialogExport::sizeIsToldBefore()
 
 void TestDialogExport::progressIsSeenAndCancelled()
 {
-    ExportProgress progress("Writing ...", nullptr);
-    Answer answer([](QWidget* pModal) { QTest::mouseClick(pModal->findChild<QAbstractButton*>(), Qt::LeftButton); });
-    QElapsedTimer since;
-    since.start();
-    while (!progress.isCancelled() && since.elapsed() < 10000)
-        progress.setProgress(static_cast<int>(since.elapsed() / 100));
-    QVERIFY(progress.isCancelled());
-    QVERIFY(!answer.title.isEmpty());
+    ExportProgress progress(nullptr);
+    int shown = 0;
+    Answer answer([&](QWidget* pModal) {
+        QTRY_COMPARE((shown = pModal->findChild<QProgressBar*>()->value()), 42);
+        QTest::mouseClick(pModal->findChild<QAbstractButton*>(), Qt::LeftButton);
+    });
+    bool isDone = false;
+    const auto work = [](Progress& report) {
+        while (!report.isCancelled())
+            report.setProgress(42);
+    };
+    progress.start("Writing ...", work, [&] { isDone = true; });
+    QVERIFY(progress.isRunning() && !QApplication::activeModalWidget());
+    QTRY_VERIFY(isDone);
+    QVERIFY(progress.isCancelled() && !progress.isRunning() && !QApplication::activeModalWidget());
+    QCOMPARE(shown, 42);
 }
 
 QTEST_MAIN(TestDialogExport)

@@ -28,25 +28,25 @@ private Q_SLOTS:
 void TestGraphInteraction::zoomsAboutPointer()
 {
     OneTrace graph;
-    graph.model.setWindow(0, 100);
+    graph.model.setWindow({0, 100});
     GraphInteraction hand(graph.model);
     const GraphLayout layout = layoutOf(graph.model);
     hand.setLayout(layout);
     hand.moved(QPointF(layout.xOf(25), 100));
     hand.wheel(120, {});
-    QVERIFY(std::abs(graph.model.xmin() - 2.5) < 1e-9);
-    QVERIFY(std::abs(graph.model.xmax() - 92.5) < 1e-9);
+    QVERIFY(std::abs(graph.model.window().begin() - 2.5) < 1e-9);
+    QVERIFY(std::abs(graph.model.window().end() - 92.5) < 1e-9);
     hand.wheel(-120, {});
-    QVERIFY(std::abs(graph.model.xmin()) < 1e-9);
+    QVERIFY(std::abs(graph.model.window().begin()) < 1e-9);
     hand.wheel(120, Qt::ShiftModifier);
-    QVERIFY(std::abs(graph.model.width() - 100) < 1e-9);
+    QVERIFY(std::abs(graph.model.window().width() - 100) < 1e-9);
 }
 
 void TestGraphInteraction::marksAndPans()
 {
     OneTrace graph;
-    graph.model.setWindow(0, 100);
-    graph.model.setGraphMode(eAutomatic);
+    graph.model.setWindow({0, 100});
+    graph.model.settings().graphMode = eAutomatic;
     GraphInteraction hand(graph.model);
     const GraphLayout layout = layoutOf(graph.model);
     hand.setLayout(layout);
@@ -57,44 +57,44 @@ void TestGraphInteraction::marksAndPans()
     QCOMPARE(marker.takeLast().at(1).toFloat(), 60.0F);
     hand.moved(at(20));
     hand.released(Qt::LeftButton, at(20));
-    QVERIFY(std::abs(graph.model.markerStart() - 20) < 1e-6); // swapped
-    QVERIFY(std::abs(graph.model.markerEnd() - 60) < 1e-6);
+    QVERIFY(std::abs(graph.model.marker().start - 20) < 1e-6); // swapped
+    QVERIFY(std::abs(graph.model.marker().end - 60) < 1e-6);
     hand.pressed(Qt::LeftButton, at(10), Qt::ControlModifier);
     hand.released(Qt::LeftButton, at(10));
-    QVERIFY(std::abs(graph.model.markerStart() - 10) < 1e-6);
+    QVERIFY(std::abs(graph.model.marker().start - 10) < 1e-6);
     hand.pressed(Qt::LeftButton, at(30), Qt::ControlModifier);
-    QVERIFY(std::abs(graph.model.markerEnd() - 30) < 1e-6);
+    QVERIFY(std::abs(graph.model.marker().end - 30) < 1e-6);
     hand.released(Qt::LeftButton, at(30));
     hand.pressed(Qt::LeftButton, at(30) + QPointF(2, 0), {}); // its end, which is taken along
     hand.moved(at(40));
     hand.released(Qt::LeftButton, at(40));
-    QVERIFY(std::abs(graph.model.markerStart() - 10) < 1e-6 && std::abs(graph.model.markerEnd() - 40) < 1e-6);
+    QVERIFY(std::abs(graph.model.marker().start - 10) < 1e-6 && std::abs(graph.model.marker().end - 40) < 1e-6);
 
-    hand.setClickMovesCursor(true);
+    graph.model.settings().clickMovesCursor = true;
     hand.pressed(Qt::LeftButton, at(70), {});
     hand.moved(at(70) + QPointF(2, 0));
     hand.released(Qt::LeftButton, at(70));
-    QVERIFY(std::abs(graph.model.cursorTime() - 70) < 1e-6 && std::abs(graph.model.markerEnd() - 40) < 1e-6);
+    QVERIFY(std::abs(graph.model.cursor().time - 70) < 1e-6 && std::abs(graph.model.marker().end - 40) < 1e-6);
     hand.pressed(Qt::LeftButton, at(75), {});
     hand.moved(at(80));
     hand.released(Qt::LeftButton, at(80));
-    QVERIFY(std::abs(graph.model.cursorTime() - 70) < 1e-6 && std::abs(graph.model.markerStart() - 75) < 1e-6);
+    QVERIFY(std::abs(graph.model.cursor().time - 70) < 1e-6 && std::abs(graph.model.marker().start - 75) < 1e-6);
 
     QVERIFY(manual.isEmpty());
     hand.pressed(Qt::RightButton, at(50), {});
     QVERIFY(hand.released(Qt::RightButton, at(50))); // a click wants the menu
-    QCOMPARE(graph.model.xmin(), 0.0);
+    QCOMPARE(graph.model.window().begin(), 0.0);
     hand.pressed(Qt::RightButton, at(50), {});
     hand.moved(at(40));
     QVERIFY(!hand.released(Qt::RightButton, at(40)));
-    QVERIFY(std::abs(graph.model.xmin() - 10) < 1e-6);
+    QVERIFY(std::abs(graph.model.window().begin() - 10) < 1e-6);
     QCOMPARE(manual.count(), 1);
 }
 
 void TestGraphInteraction::keysMoveCursor()
 {
     OneTrace graph;
-    graph.model.setWindow(0, 100);
+    graph.model.setWindow({0, 100});
     graph.model.setCursorPosition(50);
     GraphInteraction hand(graph.model);
     const GraphLayout layout = layoutOf(graph.model);
@@ -102,26 +102,26 @@ void TestGraphInteraction::keysMoveCursor()
     QSignalSpy cursor(&graph.model, &GraphModel::signalCursor);
     const double pixel = 100 / layout.plot().width();
     hand.keyPressed(Qt::Key_Right);
-    QVERIFY(std::abs(graph.model.cursorTime() - 50 - pixel) < 1e-9);
+    QVERIFY(std::abs(graph.model.cursor().time - 50 - pixel) < 1e-9);
     hand.keyPressed(Qt::Key_Left, Qt::ShiftModifier); // held since before the focus came
-    QVERIFY(std::abs(graph.model.cursorTime() - 50 + 9 * pixel) < 1e-9);
-    const double before = graph.model.cursorValue();
+    QVERIFY(std::abs(graph.model.cursor().time - 50 + 9 * pixel) < 1e-9);
+    const double before = graph.model.cursor().value;
     hand.keyPressed(Qt::Key_Up);
-    QVERIFY(std::abs(graph.model.cursorValue() - before - 120 / layout.plot().height()) < 1e-9); // of the range -10..110
+    QVERIFY(std::abs(graph.model.cursor().value - before - 120 / layout.plot().height()) < 1e-9); // of the range -10..110
     QCOMPARE(cursor.count(), 3);
-    QVERIFY(graph.model.isCursorMoving());
+    QVERIFY(graph.model.cursor().isMoving);
     hand.keyPressed(Qt::Key_Shift);
     for (int i = 0; i < 100; ++i)
         hand.keyPressed(Qt::Key_Right);
-    QVERIFY(graph.model.cursorTime() > 120); // the window comes along
-    QVERIFY(std::abs(graph.model.xmax() - graph.model.cursorTime() - 10) < 1e-3);
+    QVERIFY(graph.model.cursor().time > 120); // the window comes along
+    QVERIFY(std::abs(graph.model.window().end() - graph.model.cursor().time - 10) < 1e-3);
 }
 
 void TestGraphInteraction::dragsCursor()
 {
     OneTrace graph;
-    graph.model.setCursorMode(eCenter);
-    graph.model.setWindow(0, 100);
+    graph.model.settings().cursorMode = eCenter;
+    graph.model.setWindow({0, 100});
     GraphInteraction hand(graph.model);
     const GraphLayout first = layoutOf(graph.model);
     hand.setLayout(first);
@@ -130,23 +130,23 @@ void TestGraphInteraction::dragsCursor()
         hand.setLayout(layoutOf(graph.model)); // each step has moved the window
         hand.moved(QPointF(first.xOf(70) + pixel, 200));
     }
-    QVERIFY(std::abs(graph.model.cursorTime() - 70 - 20 / first.pixelsPerSecond()) < 1e-6);
+    QVERIFY(std::abs(graph.model.cursor().time - 70 - 20 / first.pixelsPerSecond()) < 1e-6);
     hand.released(Qt::MiddleButton, {});
 
-    graph.model.setCursorMode(eFloating);
-    graph.model.setWindow(0, 100);
+    graph.model.settings().cursorMode = eFloating;
+    graph.model.setWindow({0, 100});
     hand.setLayout(layoutOf(graph.model));
     hand.pressed(Qt::LeftButton, QPointF(2, 200), Qt::ShiftModifier); // on the labels of the axis
-    QCOMPARE(graph.model.cursorTime(), 0.0);
+    QCOMPARE(graph.model.cursor().time, 0.0);
     hand.moved(QPointF(5000, 200));
-    QVERIFY(std::abs(graph.model.cursorTime() - 100) < 1e-6);
+    QVERIFY(std::abs(graph.model.cursor().time - 100) < 1e-6);
 }
 
 void TestGraphInteraction::wordsAreNoTimes()
 {
     OneTrace graph;
-    graph.model.setWindow(0, 100);
-    graph.model.setMarker(20, 30);
+    graph.model.setWindow({0, 100});
+    graph.model.setMarker({20, 30});
     GraphInteraction hand(graph.model);
     const GraphLayout layout = layoutOf(graph.model, QSizeF(1400, 500), true);
     hand.setLayout(layout);
@@ -158,9 +158,9 @@ void TestGraphInteraction::wordsAreNoTimes()
         hand.pressed(Qt::MiddleButton, point, {});
         hand.released(Qt::MiddleButton, point);
     }
-    QCOMPARE(graph.model.markerStart(), 20.0);
-    QCOMPARE(graph.model.markerEnd(), 30.0);
-    QCOMPARE(graph.model.cursorTime(), 0.0);
+    QCOMPARE(graph.model.marker().start, 20.0);
+    QCOMPARE(graph.model.marker().end, 30.0);
+    QCOMPARE(graph.model.cursor().time, 0.0);
 }
 
 void TestGraphInteraction::legendChooses_data()
@@ -178,10 +178,10 @@ void TestGraphInteraction::legendChooses()
     QFETCH(const bool, split);
     GraphModel model;
     for (const int index : {0, 1, 2}) {
-        model.setActive(index, true);
-        model.setParameterName(index, QString("Oil Pressure %1").arg(index), "bar");
+        model.traces().setActive(index, true);
+        model.traces().setName(index, QString("Oil Pressure %1").arg(index), "bar");
     }
-    model.setDisplayMode(split ? eSplit : eSingleGraph);
+    model.settings().displayMode = split ? eSplit : eSingleGraph;
     layoutOf(model, size, true);
     const GraphLayout layout = layoutOf(model, size, true);
     GraphInteraction hand(model);
@@ -189,59 +189,59 @@ void TestGraphInteraction::legendChooses()
     const QPointF line = layout.legendLine(model, 1).center(), other = layout.legendLine(model, 2).center();
     const QPointF outside(layout.plot().right() - 1, layout.plot().bottom() - 1);
     hand.moved(line);
-    QCOMPARE(model.highlighted(), 1);
+    QCOMPARE(model.traces().highlighted(), 1);
     hand.pressed(Qt::LeftButton, line, {});
     hand.released(Qt::LeftButton, line);
     hand.moved(other);
-    QCOMPARE(model.highlighted(), 2);
+    QCOMPARE(model.traces().highlighted(), 2);
     hand.moved(outside);
-    QCOMPARE(model.highlighted(), 1);
+    QCOMPARE(model.traces().highlighted(), 1);
 
-    model.setParameterName(1, "Torque", "Nm"); // another parameter takes the slot
+    model.traces().setName(1, "Torque", "Nm"); // another parameter takes the slot
     hand.moved(outside);
-    QCOMPARE(model.highlighted(), -1);
+    QCOMPARE(model.traces().highlighted(), -1);
     hand.pressed(Qt::LeftButton, line, {});
     hand.released(Qt::LeftButton, line);
-    model.setActive(1, false);
+    model.traces().setActive(1, false);
     hand.left();
-    model.setActive(1, true);
+    model.traces().setActive(1, true);
     hand.left();
-    QCOMPARE(model.highlighted(), -1);
-    QCOMPARE(model.axisParameter(), 0);
+    QCOMPARE(model.traces().highlighted(), -1);
+    QCOMPARE(model.traces().axis(), 0);
 }
 
 void TestGraphInteraction::dragsStrips()
 {
     GraphModel model;
     for (const int index : {0, 2, 4})
-        model.setActive(index, true);
-    model.setDisplayMode(eSplit);
-    model.setGraphMode(eManual);
+        model.traces().setActive(index, true);
+    model.settings().displayMode = eSplit;
+    model.settings().graphMode = eManual;
     layoutOf(model);
     const GraphLayout layout = layoutOf(model);
     GraphInteraction hand(model);
     hand.setLayout(layout);
     QSignalSpy moved(&model, &GraphModel::signalMoveParameter);
-    model.setMarker(20, 30);
-    hand.pressed(Qt::LeftButton, layout.handle(*model.parameter(0)) + QPointF(5, 5), {});
-    QCOMPARE(hand.draggedStrip(), 0);
-    hand.moved(layout.handle(*model.parameter(4)));
-    hand.released(Qt::LeftButton, layout.handle(*model.parameter(4)));
+    model.setMarker({20, 30});
+    hand.pressed(Qt::LeftButton, layout.handle(0) + QPointF(5, 5), {});
+    QCOMPARE(hand.dragged().index, 0);
+    hand.moved(layout.handle(4));
+    hand.released(Qt::LeftButton, layout.handle(4));
     QCOMPARE(moved.takeFirst(), (QList<QVariant>{0, 4}));
-    QCOMPARE(model.shown(), (std::vector<int>{2, 4, 0}));
-    QCOMPARE(model.markerEnd(), 30.0);
+    QCOMPARE(model.traces().shown(), (std::vector<int>{2, 4, 0}));
+    QCOMPARE(model.marker().end, 30.0);
     hand.pressed(Qt::LeftButton, layout.plot().center(), {});
-    QCOMPARE(hand.draggedStrip(), -1);
+    QCOMPARE(hand.dragged().index, -1);
 
     hand.setLayout(layoutOf(model));
     model.moveCursor(30, 0.5, 2);
     for (const auto& [key, strip] : {std::pair(Qt::Key_Down, 4), std::pair(Qt::Key_Up, 2)}) {
         for (int step = 0; step < 15; ++step)
             hand.keyPressed(key, Qt::ShiftModifier);
-        QCOMPARE(model.cursorIndex(), strip);
+        QCOMPARE(model.cursor().strip, strip);
         const GraphLayout frame = layoutOf(model);
         const CursorLabels cursor(model, frame);
-        QVERIFY(cursor.y() && frame.area(*model.parameter(strip)).contains(frame.plot().center().x(), *cursor.y()));
+        QVERIFY(cursor.y() && frame.area(strip).contains(frame.plot().center().x(), *cursor.y()));
     }
 }
 

@@ -2,6 +2,7 @@
 #include "ui/canvas/ColourContrast.h"
 #include "ui/graph/model/AxisTicks.h"
 #include "ui/graph/model/GraphTexts.h"
+#include "ui/graph/model/MarkerValues.h"
 #include "ui/graph/model/ThresholdBands.h"
 
 #include <QSignalSpy>
@@ -10,20 +11,22 @@
 #include <cmath>
 
 using namespace ZARN;
-using Test::layoutOf;
 using Test::OneTrace;
 
 class TestGraphModel : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void windows_data();
+    void windows();
+    void heldZoom_data();
+    void heldZoom();
+    void scales_data();
+    void scales();
     void coloursCanBeRead();
-    void windowRules();
-    void timeIsClamped_data();
-    void timeIsClamped();
-    void frameTakesNeighbours();
-    void countsDown();
-    void autoscale();
+    void windowFollows();
+    void verticesOfWindow_data();
+    void verticesOfWindow();
     void extendsToPresent();
     void putsManyAsOneByOne();
     void tickSpacing_data();
@@ -35,170 +38,191 @@ private Q_SLOTS:
     void survivesAnything();
 };
 
+void TestGraphModel::windows_data()
+{
+    QTest::addColumn<TimeWindow>("window");
+    QTest::addColumn<double>("begin");
+    QTest::addColumn<double>("end");
+    const TimeWindow minute(0, 60), later(100, 200), moment(20, 20), least(0, 1e-6), most(0, 1e7);
+    QTest::newRow("width, automatic: the end stays") << minute.ofWidth(10, eAutomatic) << 50.0 << 60.0;
+    QTest::newRow("width, manual: the start stays") << minute.ofWidth(10, eManual) << 0.0 << 10.0;
+    QTest::newRow("starts") << later.startingAt(7) << 7.0 << 107.0;
+    QTest::newRow("ends") << later.endingAt(7) << -93.0 << 7.0;
+    QTest::newRow("centred") << later.centredOn(7) << -43.0 << 57.0;
+    QTest::newRow("about a time") << TimeWindow(0, 100).zoomedAbout(25, 0.9) << 2.5 << 92.5;
+    QTest::newRow("wider") << TimeWindow(0, 90).zoomedAbout(90, 10.0 / 9) << -10.0 << 90.0;
+    QTest::newRow("of a moment") << moment.zoomedAbout(20, 1.2) << 19.5 << 20.5;
+    QTest::newRow("narrowest") << least.zoomedAbout(0, 0.9) << 0.0 << 1e-6;
+    QTest::newRow("widest") << most.zoomedAbout(0, 1.1) << 0.0 << 1e7;
+    QTest::newRow("about no number") << minute.zoomedAbout(std::nan(""), 0.9) << 0.0 << 60.0;
+    QTest::newRow("keeps what is inside") << later.keeping(150) << 100.0 << 200.0;
+    QTest::newRow("keeps what is near the end") << later.keeping(195) << 105.0 << 205.0;
+    QTest::newRow("keeps what is before") << later.keeping(50) << 40.0 << 140.0;
+    QTest::newRow("record") << TimeWindow::ofRecord(0, 1000) << -100.0 << 1100.0;
+    QTest::newRow("record of a moment") << TimeWindow::ofRecord(5, 5) << 4.5 << 5.5;
+}
+
+void TestGraphModel::windows()
+{
+    QFETCH(const TimeWindow, window);
+    QFETCH(const double, begin);
+    QFETCH(const double, end);
+    QVERIFY2(std::abs(window.begin() - begin) < 1e-5, qPrintable(QString::number(window.begin())));
+    QVERIFY2(std::abs(window.end() - end) < 1e-5, qPrintable(QString::number(window.end())));
+}
+
+void TestGraphModel::heldZoom_data()
+{
+    QTest::addColumn<double>("width");
+    QTest::addColumn<bool>("isIn");
+    QTest::addColumn<float>("wanted");
+    QTest::newRow("in") << 100.0 << true << 100.0F * 0.97F;
+    QTest::newRow("in, below a second") << 0.5 << true << 0.5F * 0.97F;
+    QTest::newRow("in, from too wide") << 10000.0 << true << 5000.0F;
+    QTest::newRow("out, above 5000 s") << 6000.0 << false << 6000.0F / 0.97F;
+    QTest::newRow("out, from too narrow") << 0.25 << false << 1.0F;
+}
+
+void TestGraphModel::heldZoom()
+{
+    QFETCH(const double, width);
+    QFETCH(const bool, isIn);
+    QTEST(TimeWindow(0, width).widthZoomed(isIn), "wanted");
+}
+
+void TestGraphModel::scales_data()
+{
+    QTest::addColumn<ValueScale>("scale");
+    QTest::addColumn<QList<double>>("values");
+    QTest::addColumn<double>("lower");
+    QTest::addColumn<double>("upper");
+    const auto fixed = [](double lower, double upper) { return ValueScale{.isAutomatic = false, .lower = lower, .upper = upper}; };
+    QTest::newRow("extremes") << ValueScale{} << QList<double>{0, 100, 50} << -10.0 << 110.0;
+    QTest::newRow("spread") << ValueScale{.spread = 5} << QList<double>{0, 100} << -15.0 << 115.0;
+    QTest::newRow("one value") << ValueScale{} << QList<double>{42, 42} << 41.9999 << 42.0001;
+    QTest::newRow("no value") << ValueScale{.reference = {3, 4}} << QList<double>{} << 3.0 << 4.0;
+    QTest::newRow("margin is lost") << ValueScale{} << QList<double>{1e300} << 0.9e300 << 1.1e300;
+    QTest::newRow("fixed") << fixed(-3, 4) << QList<double>{50} << -3.0 << 4.0;
+    QTest::newRow("typed in the other order") << fixed(6, 4) << QList<double>{} << 4.0 << 6.0;
+    QTest::newRow("typed twice") << fixed(6, 6) << QList<double>{} << 5.9999 << 6.0001;
+}
+
+void TestGraphModel::scales()
+{
+    QFETCH(const ValueScale, scale);
+    QFETCH(const QList<double>, values);
+    QFETCH(const double, lower);
+    QFETCH(const double, upper);
+    ValueRange<double> range;
+    for (const double value : values)
+        range.add(value);
+    const ValueSpan span = scale.spanOf(range);
+    const double near = 1e-9 * std::max(1.0, std::abs(upper));
+    QVERIFY2(std::abs(span[0] - lower) < near && std::abs(span[1] - upper) < near, qPrintable(QString("%1 %2").arg(span[0]).arg(span[1])));
+}
+
 void TestGraphModel::coloursCanBeRead()
 {
-    GraphModel model;
-    model.setMaxParameters(30);
-    QCOMPARE(model.parameter(2)->colour, (GraphColour{0.0F, 0.0F, 0.7F}));
-    for (const GraphColours& colours : {GraphColours{}, GraphColours{GraphColour{}}}) {
-        model.setColours(colours);
-        for (const GraphParameter& parameter : model.parameters())
-            QVERIFY(contrastRatio(parameter.drawnColour, colours.background.colour()) >= 3);
+    ShownTraces traces;
+    traces.setCount(30);
+    QCOMPARE(traces.at(2)->colour, QColor::fromRgbF(0.0F, 0.0F, 0.7F));
+    for (const QColor ground : {Qt::white, Qt::black}) {
+        traces.setGround(ground);
+        for (const GraphParameter& trace : traces.all())
+            QVERIFY(contrastRatio(trace.drawnColour, ground) >= 3);
     }
-    model.setParameterColor(2, 0, 0, 0.1F); // the user's own choice
-    QVERIFY(model.parameter(2)->drawnColour.lightnessF() < 0.1F);
+    traces.setColour(2, QColor(0, 0, 20)); // the user's own choice
+    QVERIFY(traces.at(2)->drawnColour.lightnessF() < 0.1F);
 }
 
-void TestGraphModel::windowRules()
+void TestGraphModel::windowFollows()
 {
     GraphModel model;
-    model.setXrange(10); // automatic: the end stays
-    QCOMPARE(model.xmin(), 50.0);
-    model.setGraphMode(eManual);
-    model.setXrange(20); // manual: the start stays
-    QCOMPARE(model.xmax(), 70.0);
-    model.setWindow(1, 2);
-
+    for (const auto& [time, end] : {std::pair(-5.0, 0.0), {100000.0, 86400.0}, {std::nan(""), 0.0}, {12.5, 12.5}}) {
+        model.setTime(time);
+        QCOMPARE(model.window().end(), end);
+        QCOMPARE(model.window().width(), 60.0);
+    }
     QSignalSpy manual(&model, &GraphModel::signalManMode);
-    model.setGraphMode(eAutomatic);
-    model.setMarker(7, 7);
+    const TimeWindow before = model.window();
+    model.setMarker({7, 7});
     model.zoomToMarker(); // of no width
-    QCOMPARE(model.xmax(), 2.0);
-    model.setMarker(9, 7);
+    QVERIFY(model.window() == before && manual.isEmpty());
+    model.setMarker({9, 7});
     model.zoomToMarker();
-    QCOMPARE(model.xmin(), 7.0);
-    QCOMPARE(model.xmax(), 9.0);
-    QCOMPARE(model.graphMode(), eManual);
+    QVERIFY(model.window() == TimeWindow(7, 9));
+    QCOMPARE(model.settings().graphMode, eManual);
     QCOMPARE(manual.count(), 1);
-
-    model.setWindow(20, 20); // a record of one moment
-    model.zoomAbout(20, 1.2);
-    QVERIFY(model.xmin() < 20 && model.xmax() > 20);
-    model.setWindow(0, 10);
-    model.setCursorMode(eCenter);
-    model.setCursorPosition(100);
-    QCOMPARE(model.xmin(), 95.0);
-    QCOMPARE(model.xmax(), 105.0);
-    model.setCursorMode(eFloating);
+    model.setTime(1000);
     model.setCursorPosition(50);
-    QCOMPARE(model.xmin(), 95.0);
-    QCOMPARE(model.cursorTime(), 50.0);
+    QVERIFY(model.window() == TimeWindow(7, 9));
+    model.settings().cursorMode = eCenter;
+    model.setCursorPosition(100);
+    QVERIFY(model.window() == TimeWindow(99, 101));
 }
 
-void TestGraphModel::timeIsClamped_data()
+void TestGraphModel::verticesOfWindow_data()
 {
-    QTest::addColumn<double>("time");
-    QTest::addColumn<double>("expected");
-    QTest::newRow("negative") << -5.0 << 0.0;
-    QTest::newRow("beyond a day") << 100000.0 << 86400.0;
-    QTest::newRow("no number") << std::nan("") << 0.0;
-    QTest::newRow("inside") << 12.5 << 12.5;
-}
-
-void TestGraphModel::timeIsClamped()
-{
-    QFETCH(const double, time);
-    QFETCH(const double, expected);
-    GraphModel model;
-    model.setTime(time);
-    QCOMPARE(model.time(), expected);
-    QCOMPARE(model.xmax(), expected);
-    QCOMPARE(model.width(), 60.0);
-}
-
-void TestGraphModel::frameTakesNeighbours()
-{
-    OneTrace graph;
-    QCOMPARE(graph.frameTimes(10.5, 12.5), (std::vector<double>{10, 11, 12, 13}));
-    QCOMPARE(graph.frameTimes(10, 12), (std::vector<double>{9, 10, 11, 12}));
+    QTest::addColumn<int>("last");
+    QTest::addColumn<TimeWindow>("window");
+    QTest::addColumn<QList<double>>("times");
+    QTest::newRow("between samples") << 100 << TimeWindow(10.5, 12.5) << QList<double>{10, 11, 12, 13};
+    QTest::newRow("at samples") << 100 << TimeWindow(10, 12) << QList<double>{9, 10, 11, 12};
     // The first sample inside is the second of all: the one before the window stays out.
-    QCOMPARE(graph.frameTimes(0.5, 2), (std::vector<double>{1, 2}));
-    QCOMPARE(graph.frameTimes(1.5, 2), (std::vector<double>{1, 2}));
-    QCOMPARE(graph.frameTimes(-10, 1), (std::vector<double>{0, 1}));
-    QCOMPARE(graph.frameTimes(99.5, 200), (std::vector<double>{99, 100}));
-    QCOMPARE(graph.frameTimes(300, 400), (std::vector<double>{100}));
-    QCOMPARE(OneTrace(0).frameTimes(5, 9), std::vector<double>());
+    QTest::newRow("from the second") << 100 << TimeWindow(0.5, 2) << QList<double>{1, 2};
+    QTest::newRow("after the second") << 100 << TimeWindow(1.5, 2) << QList<double>{1, 2};
+    QTest::newRow("before the first") << 100 << TimeWindow(-10, 1) << QList<double>{0, 1};
+    QTest::newRow("to the last") << 100 << TimeWindow(99.5, 200) << QList<double>{99, 100};
+    QTest::newRow("behind the last") << 100 << TimeWindow(300, 400) << QList<double>{100};
+    QTest::newRow("behind the only one") << 0 << TimeWindow(5, 9) << QList<double>{};
 }
 
-void TestGraphModel::countsDown()
+void TestGraphModel::verticesOfWindow()
 {
-    OneTrace graph;
-    QSignalSpy wanted(&graph.model, &GraphModel::signalRecalculate);
-    graph.model.setXmin(5);
-    QCOMPARE(wanted.count(), 1);
-    int runs = 1;
-    while (graph.model.recalculate())
-        ++runs;
-    QCOMPARE(runs, 4);
-    // Nothing has changed since: a further run draws nothing.
-    QSignalSpy repaint(&graph.model, &GraphModel::signalRepaint);
-    graph.model.recalculate();
-    QCOMPARE(repaint.count(), 0);
-}
-
-void TestGraphModel::autoscale()
-{
-    OneTrace graph;
-    graph.model.setYmin(-7);
-    graph.model.calcFrame();
-    QCOMPARE(graph.model.ymin(), 0.0); // back to the reference
-    QCOMPARE(graph.model.ymax(), 1.0);
-    QCOMPARE(graph.model.valueRange(0), (std::array{-10.0, 110.0}));
-    graph.model.setAutoScaleY(false);
-    graph.model.setYmin(-3);
-    graph.model.setYmax(4);
-    graph.model.calcFrame();
-    QCOMPARE(graph.model.valueRange(0), (std::array{-3.0, 4.0}));
-    graph.model.setYmin(6); // the greater one typed first
-    graph.model.calcFrame();
-    QCOMPARE(graph.model.valueRange(0), (std::array{4.0, 6.0}));
-    graph.model.setYmax(6);
-    graph.model.calcFrame();
-    QVERIFY(graph.model.valueRange(0)[0] < 6 && graph.model.valueRange(0)[1] > 6);
-
-    GraphModel equal;
-    equal.setActive(1, true);
-    for (int i = 0; i < 3; ++i) {
-        equal.setTime(i);
-        equal.putValue(1, 42.0, false);
-    }
-    equal.calcFrame();
-    QVERIFY(std::abs(equal.valueRange(1)[0] - 41.9999) < 1e-9);
-    QVERIFY(std::abs(equal.valueRange(1)[1] - 42.0001) < 1e-9);
+    QFETCH(const int, last);
+    QFETCH(const TimeWindow, window);
+    OneTrace graph(last);
+    FrameCache cache;
+    cache.update(graph.model.traces(), window);
+    QList<double> times;
+    for (const QPointF& vertex : cache.vertices(0))
+        times << window.begin() + vertex.x();
+    QTEST(times, "times");
+    QVERIFY(cache.isCurrent(graph.model.traces(), window) && !cache.isCurrent(graph.model.traces(), window.movedBy(1)));
+    graph.model.putValue(0, 1, false);
+    QVERIFY(!cache.isCurrent(graph.model.traces(), window));
 }
 
 void TestGraphModel::extendsToPresent()
 {
     OneTrace graph(10);
+    const SampleSeries& samples = graph.model.traces().at(0)->samples;
     graph.model.setTime(20);
-    graph.model.calcFrame(); // manual mode
-    QCOMPARE(graph.model.parameter(0)->samples.size(), 11U);
-    graph.model.setGraphMode(eAutomatic);
-    graph.model.calcFrame();
-    graph.model.calcFrame();
-    QCOMPARE(graph.model.parameter(0)->samples.size(), 12U); // once for a step of time
-    QCOMPARE(graph.model.parameter(0)->samples.time(11), 20.0);
-    QCOMPARE(graph.model.parameter(0)->samples.value(11), 10.0);
+    graph.model.extendToPresent(); // manual mode
+    QCOMPARE(samples.size(), 11U);
+    graph.model.settings().graphMode = eAutomatic;
+    graph.model.extendToPresent();
+    graph.model.extendToPresent();
+    QCOMPARE(samples.size(), 12U); // once for a step of time
+    QCOMPARE(samples.time(11), 20.0);
+    QCOMPARE(samples.value(11), 10.0);
     graph.model.setOfflineMode(true);
     graph.model.setTime(30);
-    graph.model.calcFrame();
-    QCOMPARE(graph.model.parameter(0)->samples.size(), 12U);
+    graph.model.extendToPresent();
+    QCOMPARE(samples.size(), 12U);
 }
 
 void TestGraphModel::putsManyAsOneByOne()
 {
     const std::vector<double> times{1.0, 2.5, 2.5, 2.0, 80000.0, 0.0}, values{1, 2, 1e300, 0.1, -5, 3};
     GraphModel single, many;
-    for (GraphModel* pModel : {&single, &many})
-        pModel->setActive(0, true);
     for (std::size_t i = 0; i < times.size(); ++i) {
         single.setTime(times[i]);
         single.putValue(0, values[i], false);
     }
     many.putValues(0, times, values);
-    QCOMPARE(many.time(), single.time());
-    QCOMPARE(many.xmin(), single.xmin());
-    const SampleSeries &a = single.parameter(0)->samples, &b = many.parameter(0)->samples;
+    QVERIFY(many.window() == single.window());
+    const SampleSeries &a = single.traces().at(0)->samples, &b = many.traces().at(0)->samples;
     QCOMPARE(a.size(), b.size());
     for (std::size_t i = 0; i < a.size(); ++i) {
         QCOMPARE(a.time(i), b.time(i));
@@ -206,8 +230,8 @@ void TestGraphModel::putsManyAsOneByOne()
         QCOMPARE(a.value(i), values[i]); // to the last bit
     }
     many.putValues(1, std::vector{-4.0, 90000.0}, std::vector{1.0, 2.0}); // where they are
-    QCOMPARE(many.parameter(1)->samples.time(0), -4.0);
-    QCOMPARE(many.parameter(1)->samples.time(1), 90000.0);
+    QCOMPARE(many.traces().at(1)->samples.time(0), -4.0);
+    QCOMPARE(many.traces().at(1)->samples.time(1), 90000.0);
 }
 
 void TestGraphModel::tickSpacing_data()
@@ -267,25 +291,23 @@ void TestGraphModel::labels()
 void TestGraphModel::markerValues()
 {
     GraphModel model;
-    model.setActive(0, true);
-    model.setParameterName(0, "Fuel Flow", "l/h");
+    model.traces().setActive(0, true);
+    model.traces().setName(0, "Fuel Flow", "l/h");
+    const auto marked = [&](double start, double end) { return ZARN::markerValues(model.traces(), {start, end}).front(); };
     // 10 l/h for an hour, then 20 l/h for half of one.
     const std::vector<double> times{0, 3600, 3600.001, 5400}, values{10, 10, 20, 20};
     model.putValues(0, times, values);
-    model.setMarker(1800, 4500);
-    const MarkerValues marked = model.markerValues().front();
-    QCOMPARE(*marked.atStart, 10.0);
-    QCOMPARE(*marked.atEnd, 20.0);
-    QCOMPARE(*marked.difference, 10.0);
-    QCOMPARE(*marked.minimum, 10.0);
-    QCOMPARE(*marked.maximum, 20.0);
-    QVERIFY(std::abs(*marked.integral - 10.0) < 1e-4); // 5 litres in each half
-    QVERIFY(std::abs(*marked.mean - 10.0 / 0.75) < 1e-4);
+    const MarkerValues hour = marked(4500, 1800);
+    QCOMPARE(*hour.atStart, 10.0);
+    QCOMPARE(*hour.atEnd, 20.0);
+    QCOMPARE(*hour.difference, 10.0);
+    QCOMPARE(*hour.minimum, 10.0);
+    QCOMPARE(*hour.maximum, 20.0);
+    QVERIFY(std::abs(*hour.integral - 10.0) < 1e-4); // 5 litres in each half
+    QVERIFY(std::abs(*hour.mean - 10.0 / 0.75) < 1e-4);
 
-    model.setMarker(-20, -10); // nothing is known before the first sample
-    QCOMPARE(model.markerValues().front().texts(), QStringList(7, "-"));
-    model.setMarker(100, 101); // between two samples
-    QCOMPARE(*model.markerValues().front().maximum, 10.0);
+    QCOMPARE(marked(-20, -10).texts(), QStringList(7, "-")); // nothing is known before the first sample
+    QCOMPARE(*marked(100, 101).maximum, 10.0);               // between two samples
     QCOMPARE(integralUnit("l/h"), "l");
     QCOMPARE(integralUnit("rpm"), QString::fromUtf8("rpm\u00b7h"));
 }
@@ -293,11 +315,10 @@ void TestGraphModel::markerValues()
 void TestGraphModel::markerText()
 {
     GraphModel model;
-    model.setActive(0, true);
-    model.setParameterName(0, "A\tB", "%1");
+    model.traces().setActive(0, true);
+    model.traces().setName(0, "A\tB", "%1");
     model.putValues(0, std::vector<double>{0, 10}, std::vector<double>{1, 3});
-    model.setMarker(10, 0); // not ordered yet
-    const QStringList lines = ZARN::markerText(model.markerValues(), 0, 10).split('\n');
+    const QStringList lines = ZARN::markerText(model.traces(), {10, 0}).split('\n');
     QCOMPARE(lines[0], "Time\t00:00:00.000\t00:00:10.000");
     QCOMPARE(lines[1], "dt\t10.000 s");
     QCOMPARE(lines[3], QString::fromUtf8("A B\t%1\t1.00\t3.00\t2.00\t1.00\t3.00\t2.000\t0.006\t%1\u00b7h"));
@@ -326,30 +347,30 @@ void TestGraphModel::bands()
 void TestGraphModel::survivesAnything()
 {
     GraphModel model;
-    for (int index = 0; index < 6; ++index)
-        model.setActive(index, true);
     const std::vector<double> odd{0, -1, 1e9, 1e300, std::nan(""), -INFINITY, INFINITY, 86400, 3, 3, 2};
-    for (int index = 0; index < 6; ++index)
+    for (int index = 0; index < 6; ++index) {
+        model.traces().setActive(index, true);
         model.putValues(index, odd, odd);
+    }
     for (const eDisplayMode mode : {eSingleGraph, eSplit}) {
-        model.setDisplayMode(mode);
+        model.settings().displayMode = mode;
         for (const double width : {1e-6, 1e-300, 60.0, 1e7, 1e300}) {
-            model.setWindow(3, 3 + width);
-            model.setMarker(-1e300, 1e300);
-            const GraphLayout layout = layoutOf(model);
-            QVERIFY(std::isfinite(layout.pixelsPerSecond()));
-            QVERIFY(model.parameter(0)->frame.size() < 20);
-            QCOMPARE(model.markerValues().size(), 6U);
+            model.setWindow({3, 3 + width});
+            model.setMarker({-1e300, 1e300});
+            GraphFrame frame;
+            frame.update(model, QSizeF(800, 500), 11, 1);
+            QVERIFY(std::isfinite(frame.layout().pixelsPerSecond()));
+            QVERIFY(frame.traces().vertices(0).size() < 20);
+            QCOMPARE(ZARN::markerValues(model.traces(), model.marker()).size(), 6U);
         }
     }
-    model.setWindow(INFINITY, 5);
-    QVERIFY(std::isfinite(model.xmin()));
-    model.setMarker(std::nan(""), 5);
-    QVERIFY(std::isfinite(model.markerStart()));
-    model.setMaxParameters(-3);
-    model.setActive(0, true);
-    model.calcFrame();
-    QCOMPARE(model.nrActive(), 0);
+    model.setWindow({INFINITY, 5});
+    QVERIFY(model.window().isFinite());
+    model.setMarker({std::nan(""), 5});
+    QVERIFY(model.marker().isFinite());
+    model.traces().setCount(-3);
+    model.traces().setActive(0, true);
+    QCOMPARE(model.traces().count(), 0);
 }
 
 QTEST_MAIN(TestGraphModel)

@@ -3,6 +3,7 @@
 #include "ui/canvas/WindowCanvas.h"
 #include "ui/graph/model/GraphScene.h"
 #include "ui/graph/model/GraphTexts.h"
+#include "ui/graph/model/MarkerValues.h"
 
 #include <QDir>
 #include <QPainter>
@@ -17,48 +18,58 @@ namespace {
 
 constexpr QSize kSize(900, 600);
 
-QImage picture(GraphModel& model, GraphLayout* pLayout = nullptr, const QSize& size = kSize)
+GraphFrame frameOf(const GraphModel& model, const QSizeF& size)
 {
-    const GraphLayout layout = GraphScene::prepare(model, size, 11, 1);
-    if (pLayout)
-        *pLayout = layout;
-    QImage image(size, QImage::Format_RGB32);
-    image.fill(model.colours().labelBackground.colour());
+    GraphFrame frame;
+    frame.update(model, size, 11, 1);
+    return frame;
+}
+
+QImage picture(const GraphModel& model, const GraphFrame& frame)
+{
+    QImage image(frame.layout().view().size().toSize(), QImage::Format_RGB32);
     QPainter painter(&image);
     RasterCanvas canvas(painter);
-    GraphScene(model, layout).draw(canvas);
+    GraphScene(model, frame).draw(canvas);
     return image;
+}
+
+/// What is written in a frame, with the boxes of the texts.
+auto textsOf(const GraphModel& model, const GraphFrame& frame)
+{
+    Test::RecordingCanvas canvas;
+    GraphScene(model, frame).draw(canvas);
+    return canvas.texts;
 }
 
 void dark(GraphModel& model)
 {
-    GraphColours colours;
-    colours.background = {0.0F, 0.0F, 0.0F};
-    model.setColours(colours);
-    model.setGraphMode(eManual);
+    model.settings().backColor = "#000000";
+    model.settingsChanged();
+    model.settings().graphMode = eManual;
 }
 
 /// Six traces with bands, a marker, a cursor and numbered marks: something of everything.
 void fillFlight(GraphModel& model, int traces = 6)
 {
     dark(model);
-    model.setMaxParameters(30);
+    model.traces().setCount(30);
     for (int index = 0; index < traces; ++index) {
-        model.setActive(index, true);
-        model.setParameterName(index, QString("Parameter number %1").arg(index + 1), index % 2 ? "kPa" : "1/min");
+        model.traces().setActive(index, true);
+        model.traces().setName(index, QString("Parameter number %1").arg(index + 1), index % 2 ? "kPa" : "1/min");
         std::vector<double> times, values;
         for (int i = 0; i < 5000; ++i) {
             times.push_back(i * 0.5);
             values.push_back(1000.0 * (index + 1) + 400 * std::sin(i * 0.004 * (index + 1)) + (i % 97 == 0 ? 300 : 0));
         }
         model.putValues(index, times, values);
-        model.setBands(index, {{1000.0 * (index + 1) + 350, INFINITY, QColor(255, 0, 0)}});
+        model.traces().setBands(index, {{1000.0 * (index + 1) + 350, INFINITY, QColor(255, 0, 0)}});
     }
-    model.setWindow(-100, 2600);
+    model.setWindow({-100, 2600});
     model.setCursorPosition(800);
-    model.addTopMarker(1, 300);
-    model.addTopMarker(2, 302);
-    model.addTopMarker(3, 2000);
+    model.addTopMarker({1, 300});
+    model.addTopMarker({2, 302});
+    model.addTopMarker({3, 2000});
 }
 
 /// How much two pictures differ: the share of pixels that differ plainly.
@@ -112,12 +123,12 @@ void TestGraphScene::likeReference()
     QFETCH(const bool, marker);
     GraphModel model;
     fillFlight(model);
-    model.setDisplayMode(split ? eSplit : eSingleGraph);
+    model.settings().displayMode = split ? eSplit : eSingleGraph;
     if (marker) {
-        model.setMarker(500, 1500);
-        model.setHighlighted(2);
+        model.setMarker({500, 1500});
+        model.traces().point(2);
     }
-    const QImage image = picture(model);
+    const QImage image = picture(model, frameOf(model, kSize));
     const QString name = QString("%1.png").arg(QTest::currentDataTag());
     const QImage reference(sourceDir() + "/tests/ui/graph/reference/" + name);
     const double differing = difference(image, reference.convertToFormat(QImage::Format_RGB32));
@@ -145,11 +156,11 @@ void TestGraphScene::findsEverySpike()
     QFETCH(const double, width);
     GraphModel model;
     dark(model);
-    model.setActive(0, true);
-    model.activateCursor(false);
-    model.activateGrid(false);
-    model.activateLegend(false);
-    model.setMarker(-10, -10);
+    model.traces().setActive(0, true);
+    model.settings().cursorOn = false;
+    model.settings().gridOn = false;
+    model.settings().legendOn = false;
+    model.setMarker({-10, -10});
     std::vector<double> times, values;
     std::vector<int> spikes;
     for (int i = 0; i < samples; ++i) {
@@ -161,16 +172,17 @@ void TestGraphScene::findsEverySpike()
     model.putValues(0, times, values);
     int found = 0;
     for (const double start : {0.0, 0.31 * samples * 0.01, 5.0 - width / 2}) {
-        model.setWindow(start, start + width);
-        GraphLayout layout;
-        const QImage image = picture(model, &layout);
+        model.setWindow({start, start + width});
+        const GraphFrame frame = frameOf(model, kSize);
+        const GraphLayout& layout = frame.layout();
+        const QImage image = picture(model, frame);
         for (const int spike : spikes) {
             const double time = times[static_cast<std::size_t>(spike)], value = values[static_cast<std::size_t>(spike)];
             const int x = static_cast<int>(std::floor(layout.xOf(time)));
             if (time < start || time >= start + width || x <= layout.plot().left() || x >= layout.plot().right() - 1)
                 continue;
             // Its tip, or by rounding a pixel beside it.
-            const double y = GraphLayout::yOf(value, layout.plot(), model.valueRange(0));
+            const double y = GraphLayout::yOf(value, layout.plot(), model.valueSpan(0));
             bool isRed = false;
             for (const int dx : {-1, 0, 1}) {
                 for (const int dy : {-1, 0, 1})
@@ -188,26 +200,20 @@ void TestGraphScene::reducedLikeEverySample()
     // Noise, drawn once from columns and once sample by sample: the same pixels, but for how a painter splits the line to the next column.
     GraphModel model;
     dark(model);
-    model.setActive(0, true);
+    model.traces().setActive(0, true);
     std::vector<double> times, values;
     for (int i = 0; i < 50000; ++i) {
         times.push_back(i * 0.02);
         values.push_back(std::sin(i * 0.001) * 50 + (i * 7919 % 1000) * 0.05);
     }
     model.putValues(0, times, values);
-    model.setWindow(100, 900);
-    GraphLayout layout;
-    const QImage reduced = picture(model, &layout);
-    QVERIFY(model.parameter(0)->frame.size() < 5000);
-    model.setPlot(1000000, layout.plot().height()); // so many columns that none needs reducing
-    model.calcFrame();
-    QVERIFY(model.parameter(0)->frame.size() > 39000);
-    QImage exact(kSize, QImage::Format_RGB32);
-    exact.fill(model.colours().labelBackground.colour());
-    QPainter painter(&exact);
-    RasterCanvas canvas(painter);
-    GraphScene(model, layout).draw(canvas);
-    painter.end();
+    model.setWindow({100, 900});
+    GraphFrame frame = frameOf(model, kSize);
+    const QImage reduced = picture(model, frame);
+    QVERIFY(frame.traces().vertices(0).size() < 5000);
+    frame.traces().update(model.traces(), model.window(), 1000000); // so many columns that none needs reducing
+    QVERIFY(frame.traces().vertices(0).size() > 39000);
+    const QImage exact = picture(model, frame);
     QVERIFY2(difference(reduced, exact) < 0.01, qPrintable(QString::number(difference(reduced, exact))));
 }
 
@@ -238,25 +244,23 @@ void TestGraphScene::labelsNeverOverlap()
     QFETCH(const bool, marker);
     GraphModel model;
     fillFlight(model, traces);
-    model.setDisplayMode(split ? eSplit : eSingleGraph);
-    model.setWindow(800 - width / 3, 800 + width / 3 * 2);
+    model.settings().displayMode = split ? eSplit : eSingleGraph;
+    model.setWindow({800 - width / 3, 800 + width / 3 * 2});
     model.setCursorPosition(800 + width / 8);
     model.moveCursor(800 + width / 8, 2000, 1);
     model.setCursorMoving(true);
     if (marker)
-        model.setMarker(800, 800 + width / 3);
-    const GraphLayout layout = GraphScene::prepare(model, size, 11, 1);
-    Test::RecordingCanvas canvas;
-    GraphScene(model, layout).draw(canvas);
-    QVERIFY(canvas.texts.size() > 1);
+        model.setMarker({800, 800 + width / 3});
+    const auto texts = textsOf(model, frameOf(model, size));
+    QVERIFY(texts.size() > 1);
     const QRectF view(QPointF(-1, -1), QSizeF(size) + QSizeF(2, 2));
-    for (std::size_t i = 0; i < canvas.texts.size(); ++i) {
-        const auto& [box, text] = canvas.texts[i];
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        const auto& [box, text] = texts[i];
         QVERIFY2(view.contains(box), qPrintable(text));
         for (std::size_t k = 0; k < i; ++k) {
-            const bool isMark = canvas.texts[k].second.size() == 1; // of a number, over which a small view puts its legend
-            const QRectF common = box.intersected(canvas.texts[k].first);
-            QVERIFY2(isMark || common.width() < 1 || common.height() < 2, qPrintable(text + " over " + canvas.texts[k].second));
+            const bool isMark = texts[k].second.size() == 1; // of a number, over which a small view puts its legend
+            const QRectF common = box.intersected(texts[k].first);
+            QVERIFY2(isMark || common.width() < 1 || common.height() < 2, qPrintable(text + " over " + texts[k].second));
         }
     }
 }
@@ -265,16 +269,13 @@ void TestGraphScene::legendTellsValues()
 {
     GraphModel model;
     fillFlight(model);
-    double value = 0;
-    QVERIFY(model.getValue(1, 800, value));
+    const double value = *model.traces().valueAt(1, 800);
     for (const auto& [width, precision] : {std::pair(1400, 2), std::pair(1400, 6), std::pair(600, 6), std::pair(330, 6)}) {
-        model.setPrecision(1, precision);
-        const GraphLayout layout = GraphScene::prepare(model, QSizeF(width, 500), 11, 1);
-        Test::RecordingCanvas canvas;
-        GraphScene(model, layout).draw(canvas);
+        model.traces().setPrecision(1, precision);
+        const auto texts = textsOf(model, frameOf(model, QSizeF(width, 500)));
         const QString expected = QString::number(value, 'f', precision) + ' ';
         const auto isLine = [&](const auto& entry) { return entry.second.contains(expected) && entry.second.endsWith(" [kPa]"); };
-        QCOMPARE(std::ranges::count_if(canvas.texts, isLine), 1);
+        QCOMPARE(std::ranges::count_if(texts, isLine), 1);
     }
 }
 
@@ -297,33 +298,28 @@ void TestGraphScene::cursorTellsValues()
     QFETCH(const double, time);
     GraphModel model;
     fillFlight(model, traces);
-    model.setDisplayMode(eSplit);
+    model.settings().displayMode = eSplit;
     model.setCursorPosition(time);
     if (traces < 30)
-        model.setMarker(time - 60, time + 50);
-    const GraphLayout layout = GraphScene::prepare(model, size, 11, 1);
-    Test::RecordingCanvas canvas;
-    GraphScene(model, layout).draw(canvas);
+        model.setMarker({time - 60, time + 50});
+    const auto texts = textsOf(model, frameOf(model, size));
     const auto isLabel = [&](const auto& entry) {
         return entry.second == graphTime(time) || (entry.second.contains('/') && entry.second.startsWith("Parameter") && !entry.second.endsWith(']'));
     };
-    QCOMPARE(std::ranges::count_if(canvas.texts, isLabel), traces + 1);
-    double first = 0.0;
-    QVERIFY(time >= 0 || (!model.getValue(0, time, first) && model.valueAtCursor(0) == 1300.0));
+    QCOMPARE(std::ranges::count_if(texts, isLabel), traces + 1);
+    QVERIFY(time >= 0 || model.traces().valueAt(0, time) == 1300.0); // of the first sample
 }
 
 void TestGraphScene::narrowMarkerTable()
 {
     GraphModel model;
     fillFlight(model, 3);
-    model.setMarker(500, 1500);
+    model.setMarker({500, 1500});
     const auto headers = [&model](int width) {
-        const GraphLayout layout = GraphScene::prepare(model, QSizeF(width, 500), 11, 1);
-        Test::RecordingCanvas canvas;
-        GraphScene(model, layout).draw(canvas);
+        const GraphFrame frame = frameOf(model, QSizeF(width, 500));
         QStringList found;
-        for (const auto& [box, text] : canvas.texts) {
-            if (MarkerValues::headers().contains(text) && layout.table().contains(box.center()))
+        for (const auto& [box, text] : textsOf(model, frame)) {
+            if (MarkerValues::headers().contains(text) && frame.layout().table().contains(box.center()))
                 found << text;
         }
         return found;
@@ -337,11 +333,8 @@ void TestGraphScene::messageIsBroken()
 {
     GraphModel model;
     model.setMessage("Es ist kein Parameter gewählt.\nIm Profilfeld die gewünschten Parameter ankreuzen.");
-    const GraphLayout layout = GraphScene::prepare(model, QSizeF(300, 400), 11, 1);
-    Test::RecordingCanvas canvas;
-    GraphScene(model, layout).draw(canvas);
     QStringList said;
-    for (const auto& [box, text] : canvas.texts) {
+    for (const auto& [box, text] : textsOf(model, frameOf(model, QSizeF(300, 400)))) {
         if (!text.contains(QRegularExpression("[a-z]{3}")))
             continue; // of the axes
         QVERIFY2(box.left() >= 0 && box.right() <= 300, qPrintable(text));

@@ -1,7 +1,7 @@
 #include "analysis/LimitEvents.h"
 #include "analysis/WarningEvents.h"
 #include "app/Property.h"
-#include "app/gui/GraphicsCheck.h"
+#include "ui/gl/GraphicsCheck.h"
 #include "openstreet/TileHost.h"
 #include "project/Project.h"
 #include "sim/DemoCard.h"
@@ -223,7 +223,7 @@ void TestDialogDataMap::tilesAfterConsent()
     window.settle();
     QTest::qWait(300);
     QVERIFY(mHost.requests().isEmpty());
-    QVERIFY(window.consentBar()->findChild<QLabel*>()->text().contains(mHost.name()));
+    QVERIFY(window.consentBar()->findChild<QLabel*>()->text().remove(QChar(0x200b)).contains(mHost.name()));
     window.picture("consent");
     const auto* pSources = window.dialog->findChild<MapAttribution*>();
     QVERIFY(pSources->text().contains("Natural Earth") && !pSources->text().contains("OpenStreetMap")); // what is shown
@@ -529,12 +529,16 @@ void TestDialogDataMap::valuesAndColours()
     QCOMPARE(texts().size(), 8);
     QVERIFY(texts().contains(QString::fromStdString(altitude.name)));
     QVERIFY(texts().contains(QString::fromStdString(value->text + " [" + altitude.unitMetric + "]")));
+    window.dialog->slotConsent(false); // the question would take the room
     window.dialog->setTime(1e9);
     QCOMPARE(texts().count("-"), 4); // no zero that was not measured
     for (const QSize& size : {QSize(900, 700), QSize(400, 160), QSize(200, 700)}) {
         window.dialog->resize(size);
         QTRY_VERIFY(window.dialog->rect().contains(pPanel->geometry()) &&
                     pPanel->width() * pPanel->height() * 3 <= size.width() * size.height());
+        const auto rows = pPanel->findChildren<QLabel*>();
+        QCOMPARE(pPanel->height() % (rows[2]->y() - rows[0]->y()), pPanel->height() == 0 ? 0 : 8); // whole rows in margins of 5
+        QVERIFY(!pPanel->geometry().contains(window.dialog->rect().center()));
     }
     window.tools()->setChecked(MapToolPanel::kShowValues, false);
     QVERIFY(!pPanel->isVisible());

@@ -1,8 +1,8 @@
 #include "ui/data/model/CellModel.h"
 
 #include "app/NumberText.h"
+#include "ui/canvas/ColourContrast.h"
 #include "ui/data/model/ShownParameter.h"
-#include "ui/data/model/TextColour.h"
 
 namespace ZARN {
 

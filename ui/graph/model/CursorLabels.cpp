@@ -4,6 +4,7 @@
 #include "ui/graph/model/GraphTexts.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace ZARN {
@@ -11,19 +12,20 @@ namespace ZARN {
 namespace {
 
 constexpr double kDistance = 5.0; // from the cursor's line
+constexpr double kLevelAlpha = 0.7;
 
 } // namespace
 
 CursorLabels::CursorLabels(const GraphModel& model, const GraphLayout& layout) : mModel(model), mLayout(layout)
 {
-    const double x = std::floor(layout.xOf(model.cursorTime()));
-    if (!model.isCursorOn() || !(x >= layout.plot().left()) || !(x <= layout.plot().right()))
+    const double x = std::floor(layout.xOf(model.cursor().time));
+    if (!model.settings().cursorOn || !(x >= layout.plot().left()) || !(x <= layout.plot().right()))
         return;
     mX = x;
     addTime();
-    if (model.displayMode() == eSplit)
+    if (model.settings().displayMode == eSplit)
         addValues();
-    if (model.isCursorMoving())
+    if (model.cursor().isMoving)
         addMoved();
 }
 
@@ -55,19 +57,19 @@ void CursorLabels::addTime()
 {
     // Above the strips, for the first one's value stands at its top; over a single graph the axis has its name.
     const QRectF& plot = mLayout.plot();
-    const QString text = graphTime(mModel.cursorTime());
-    add(mModel.displayMode() == eSplit ? plot.top() - mLayout.line() - 1 : plot.top() + 3, text, isRightOf(text));
+    const QString text = graphTime(mModel.cursor().time);
+    add(mModel.settings().displayMode == eSplit ? plot.top() - mLayout.line() - 1 : plot.top() + 3, text, isRightOf(text));
 }
 
 void CursorLabels::addValues()
 {
     const double height = mLayout.line() - 2;
-    for (const int index : mModel.shown()) {
-        const QRectF area = mLayout.area(*mModel.parameter(index));
-        const std::optional<double> value = mModel.valueAtCursor(index);
+    for (const int index : mModel.traces().shown()) {
+        const QRectF area = mLayout.area(index);
+        const std::optional<double> value = mModel.traces().valueAt(index, mModel.cursor().time);
         if (!value || area.height() < height)
             continue;
-        const QString name = GraphLayout::shortened(mModel.parameter(index)->name, GraphLayout::kLongestName);
+        const QString name = GraphLayout::shortened(mModel.traces().at(index)->name, GraphLayout::kLongestName);
         const QString text = name + QLatin1Char('/') + graphNumber(*value, 2);
         add(area.top() + std::min(3.0, (area.height() - height) / 2), text, isRightOf(text));
     }
@@ -75,16 +77,16 @@ void CursorLabels::addValues()
 
 void CursorLabels::addMoved()
 {
-    const bool isSplit = mModel.displayMode() == eSplit;
-    const int index = isSplit ? mModel.cursorIndex() : mModel.axisParameter();
-    if (!std::ranges::count(mModel.shown(), index))
+    const bool isSplit = mModel.settings().displayMode == eSplit;
+    const int index = isSplit ? mModel.cursor().strip : mModel.traces().axis();
+    if (!mModel.traces().isShown(index))
         return;
-    const QRectF area = mLayout.area(*mModel.parameter(index));
-    const double y = std::floor(GraphLayout::yOf(mModel.cursorValue(), area, mModel.valueRange(index)));
+    const QRectF area = mLayout.area(index);
+    const double y = std::floor(GraphLayout::yOf(mModel.cursor().value, area, mModel.valueSpan(index)));
     if (y < area.top() || y >= area.bottom())
         return;
     mY = y;
-    const QString text = graphNumber(mModel.cursorValue(), 2);
+    const QString text = graphNumber(mModel.cursor().value, 2);
     const double height = mLayout.line() - 2;
     for (const bool isRight : {!isRightOf(mLabels.front().text), isRightOf(mLabels.front().text)}) {
         const double room = isRight ? mLayout.plot().right() - *mX : *mX - mLayout.plot().left();
@@ -97,6 +99,21 @@ void CursorLabels::addMoved()
         if (widthOf(text) < room && box.bottom() <= area.bottom())
             return add(top, text, isRight);
     }
+}
+
+void CursorLabels::draw(Canvas& canvas, const GraphLabels& labels) const
+{
+    if (!mX)
+        return;
+    const QRectF& plot = mLayout.plot();
+    const std::array upright{QPointF(*mX, plot.top()), QPointF(*mX, plot.bottom() - 1)};
+    canvas.lines(upright, {labels.contrast()});
+    if (mY) {
+        const std::array level{QPointF(plot.left(), *mY), QPointF(plot.right() - 1, *mY)};
+        canvas.lines(level, {labels.contrast(kLevelAlpha), 1.0, false, 3.0});
+    }
+    for (const Label& label : mLabels)
+        labels.draw(canvas, {label.position, label.text}, label.align);
 }
 
 } // namespace ZARN

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/graph/model/GraphLayout.h"
+#include "ui/graph/model/GraphLabels.h"
 
 #include <optional>
 #include <vector>
@@ -26,6 +26,7 @@ public:
     [[nodiscard]] const std::optional<double>& y() const { return mY; }
     [[nodiscard]] const std::vector<Label>& labels() const { return mLabels; }
     [[nodiscard]] bool covers(const QRectF& rect) const;
+    void draw(Canvas& canvas, const GraphLabels& labels) const;
 
 private:
     void addTime();

@@ -54,34 +54,33 @@ bool GraphInteraction::keyReleased(int key)
 void GraphInteraction::moveCursorBy(double seconds)
 {
     mModel.setCursorMoving(true);
-    mModel.moveCursor(mModel.cursorTime() + seconds, mModel.cursorValue(), mModel.cursorIndex());
-    mModel.keepInside(mModel.cursorTime());
+    mModel.moveCursor(mModel.cursor().time + seconds, mModel.cursor().value, mModel.cursor().strip);
+    mModel.setWindow(mModel.window().keeping(mModel.cursor().time));
 }
 
 void GraphInteraction::moveValueBy(double pixels)
 {
-    const bool isSplit = mModel.displayMode() == eSplit;
-    const auto isShown = [this](int index) { return std::ranges::count(mModel.shown(), index) > 0; };
-    int index = isSplit ? mModel.cursorIndex() : mModel.axisParameter();
-    if (isSplit && !isShown(index) && mModel.nrActive() > 0)
-        index = mModel.shown().front();
-    double value = mModel.cursorValue();
-    if (isShown(index)) {
+    const bool isSplit = mModel.settings().displayMode == eSplit;
+    int index = isSplit ? mModel.cursor().strip : mModel.traces().axis();
+    if (isSplit && !mModel.traces().isShown(index) && mModel.traces().count() > 0)
+        index = mModel.traces().shown().front();
+    double value = mModel.cursor().value;
+    if (mModel.traces().isShown(index)) {
         // From where it can be seen: the value may be that of another strip.
-        const QRectF from = mLayout.area(*mModel.parameter(index));
-        const double start = std::clamp(GraphLayout::yOf(value, from, mModel.valueRange(index)), from.top(), from.bottom());
+        const QRectF from = mLayout.area(index);
+        const double start = std::clamp(GraphLayout::yOf(value, from, mModel.valueSpan(index)), from.top(), from.bottom());
         const double y = std::clamp(start + pixels, mLayout.plot().top(), mLayout.plot().bottom());
         if (isSplit)
             index = mLayout.stripAt(mModel, y);
-        value = GraphLayout::valueAt(y, mLayout.area(*mModel.parameter(index)), mModel.valueRange(index));
+        value = GraphLayout::valueAt(y, mLayout.area(index), mModel.valueSpan(index));
     }
     mModel.setCursorMoving(true);
-    mModel.moveCursor(mModel.cursorTime(), value, isSplit ? index : mModel.cursorIndex());
+    mModel.moveCursor(mModel.cursor().time, value, isSplit ? index : mModel.cursor().strip);
 }
 
 int GraphInteraction::legendAt(const QPointF& point) const
 {
-    const std::vector<int>& shown = mModel.shown();
+    const std::vector<int>& shown = mModel.traces().shown();
     for (std::size_t row = 0; row < shown.size(); ++row) {
         const QRectF line = mLayout.legendLine(mModel, row);
         if (line.contains(point)) // over the plot it gives way to the cursor's labels
@@ -92,12 +91,12 @@ int GraphInteraction::legendAt(const QPointF& point) const
 
 int GraphInteraction::handleAt(const QPointF& point) const
 {
-    if (mModel.displayMode() != eSplit)
+    if (mModel.settings().displayMode != eSplit)
         return -1;
     int found = -1;
     double least = GraphLayout::kHandleReach;
-    for (const int index : mModel.shown()) {
-        const QPointF distance = point - mLayout.handle(*mModel.parameter(index));
+    for (const int index : mModel.traces().shown()) {
+        const QPointF distance = point - mLayout.handle(index);
         const double squared = QPointF::dotProduct(distance, distance);
         if (squared < least) {
             least = squared;
@@ -118,7 +117,7 @@ void GraphInteraction::pressed(Qt::MouseButton button, const QPointF& point, Qt:
         return beginCursorDrag(point);
     }
     if (button == Qt::RightButton && mPanningAllowed)
-        mPan = {true, false, mModel.xmin(), mModel.xmax(), point};
+        mPan = {true, false, mModel.window(), point};
 }
 
 void GraphInteraction::pressedLeft(const QPointF& point, Qt::KeyboardModifiers modifiers)
@@ -127,8 +126,8 @@ void GraphInteraction::pressedLeft(const QPointF& point, Qt::KeyboardModifiers m
     const bool isControl = mControl || modifiers.testFlag(Qt::ControlModifier);
     const int line = isShift || isControl ? -1 : legendAt(point);
     if (line >= 0) {
-        mModel.setPinned(mModel.pinned() == line ? -1 : line);
-        return mModel.setHighlighted(line);
+        mModel.traces().togglePin(line);
+        return mModel.traces().point(line);
     }
     if (isInWords(point))
         return;
@@ -137,13 +136,9 @@ void GraphInteraction::pressedLeft(const QPointF& point, Qt::KeyboardModifiers m
         return beginCursorDrag(point);
     if (mDragged >= 0)
         return;
-    const double time = mLayout.timeAt(point.x());
     if (!isControl)
         return pressedPlain(point);
-    if (time < mModel.markerStart())
-        mModel.setMarker(time, mModel.markerEnd());
-    else
-        mModel.setMarker(mModel.markerStart(), time);
+    mModel.setMarker(mModel.marker().extendedTo(mLayout.timeAt(point.x())));
     sendMarker();
 }
 
@@ -151,7 +146,7 @@ void GraphInteraction::pressedPlain(const QPointF& point)
 {
     if (takeMarkerEnd(point))
         return;
-    if (mClickMovesCursor) {
+    if (mModel.settings().clickMovesCursor) {
         mClick = point;
         return;
     }
@@ -163,15 +158,15 @@ void GraphInteraction::beginMarkerDrag(double fixedTime)
 {
     mMarkerDrag = true;
     mMarkerFixed = fixedTime;
-    mModel.setMarker(fixedTime, fixedTime);
+    mModel.setMarker({fixedTime, fixedTime});
 }
 
 bool GraphInteraction::takeMarkerEnd(const QPointF& point)
 {
-    if (!mModel.hasMarkerRange() || !mLayout.plot().contains(point))
+    if (!mModel.marker().isRange() || !mLayout.plot().contains(point))
         return false;
     const auto distance = [&](double time) { return std::abs(mLayout.xOf(time) - point.x()); };
-    const double start = mModel.markerStart(), end = mModel.markerEnd();
+    const auto [start, end] = mModel.marker();
     if (std::min(distance(start), distance(end)) >= kClick)
         return false;
     mMarkerDrag = true;
@@ -181,7 +176,7 @@ bool GraphInteraction::takeMarkerEnd(const QPointF& point)
 
 void GraphInteraction::sendMarker()
 {
-    Q_EMIT mModel.signalMarker(static_cast<float>(mModel.markerStart()), static_cast<float>(mModel.markerEnd()));
+    Q_EMIT mModel.signalMarker(static_cast<float>(mModel.marker().start), static_cast<float>(mModel.marker().end));
 }
 
 bool GraphInteraction::isInWords(const QPointF& point) const
@@ -198,14 +193,14 @@ void GraphInteraction::beginCursorDrag(const QPointF& point)
 
 void GraphInteraction::cursorTo(const QPointF& point)
 {
-    const bool isSplit = mModel.displayMode() == eSplit;
-    const int index = isSplit ? mLayout.stripAt(mModel, point.y()) : mModel.axisParameter();
-    double value = mModel.cursorValue();
-    if (const GraphParameter* pParameter = mModel.parameter(index))
-        value = GraphLayout::valueAt(point.y(), mLayout.area(*pParameter), {pParameter->lower, pParameter->upper});
+    const bool isSplit = mModel.settings().displayMode == eSplit;
+    const int index = isSplit ? mLayout.stripAt(mModel, point.y()) : mModel.traces().axis();
+    double value = mModel.cursor().value;
+    if (mModel.traces().at(index))
+        value = GraphLayout::valueAt(point.y(), mLayout.area(index), mModel.valueSpan(index));
     const QRectF& plot = mDragLayout.plot();
     const double x = std::clamp(point.x(), plot.left(), plot.right());
-    mModel.moveCursor(mDragLayout.timeAt(x), value, isSplit ? index : mModel.cursorIndex());
+    mModel.moveCursor(mDragLayout.timeAt(x), value, isSplit ? index : mModel.cursor().strip);
 }
 
 void GraphInteraction::moved(const QPointF& point)
@@ -223,13 +218,12 @@ void GraphInteraction::moved(const QPointF& point)
         mClick.reset();
     }
     if (mMarkerDrag)
-        return mModel.setMarker(mMarkerFixed, mLayout.timeAt(point.x()));
+        return mModel.setMarker({mMarkerFixed, mLayout.timeAt(point.x())});
     if (mClick)
         return;
     if (mCursorDrag)
         return cursorTo(point);
-    const int line = legendAt(point);
-    mModel.setHighlighted(line >= 0 ? line : mModel.pinned());
+    mModel.traces().point(legendAt(point));
 }
 
 void GraphInteraction::pan(const QPointF& point)
@@ -237,7 +231,7 @@ void GraphInteraction::pan(const QPointF& point)
     mPan.hasMoved = true;
     const double seconds = (mPan.start.x() - point.x()) / mLayout.pixelsPerSecond();
     mModel.takeOverTime();
-    mModel.setWindow(mPan.xmin + seconds, mPan.xmax + seconds);
+    mModel.setWindow(mPan.window.movedBy(seconds));
 }
 
 bool GraphInteraction::released(Qt::MouseButton button, const QPointF& point)
@@ -250,8 +244,6 @@ bool GraphInteraction::released(Qt::MouseButton button, const QPointF& point)
         Q_EMIT mModel.signalMoveCursorFinished();
     } else if (button == Qt::RightButton) {
         const bool isMenu = !mPan.hasMoved;
-        if (mPan.isOn && mPan.hasMoved)
-            mModel.setWindow(mModel.xmin(), mModel.xmax());
         mPan.isOn = mPan.hasMoved = false;
         return isMenu;
     }
@@ -266,13 +258,12 @@ void GraphInteraction::releasedLeft(const QPointF& point)
         beginCursorDrag(point);
     if (dragged >= 0) {
         const int target = mLayout.stripAt(mModel, point.y());
-        if (target >= 0 && target != dragged)
-            mModel.moveParameter(dragged, target);
+        if (mModel.traces().move(dragged, target))
+            Q_EMIT mModel.signalMoveParameter(dragged, target);
         Q_EMIT mModel.signalRepaint();
     }
-    if (mModel.markerEnd() < mModel.markerStart())
-        mModel.setMarker(mModel.markerEnd(), mModel.markerStart());
-    if (mMarkerDrag && mModel.hasMarkerRange())
+    mModel.setMarker(mModel.marker().ordered());
+    if (mMarkerDrag && mModel.marker().isRange())
         sendMarker();
     mMarkerDrag = false;
     mCursorDrag = false;
@@ -283,7 +274,7 @@ void GraphInteraction::wheel(int delta, Qt::KeyboardModifiers modifiers)
     if (mShift || modifiers.testFlag(Qt::ShiftModifier))
         return;
     mModel.takeOverTime();
-    mModel.zoomAbout(mPointerTime, delta >= 1 ? kZoomStep : kWideZoomStep);
+    mModel.setWindow(mModel.window().zoomedAbout(mPointerTime, delta >= 1 ? kZoomStep : kWideZoomStep));
 }
 
 } // namespace ZARN

@@ -2,7 +2,15 @@
 
 #include "ui/graph/model/GraphLayout.h"
 
+#include <optional>
+
 namespace ZARN {
+
+/// A strip that is dragged with its handle, and the height where the pointer is; none when the index is below 0.
+struct DraggedStrip {
+    int index = -1;
+    double y = 0.0;
+};
 
 /// Turns what the user does with keys, pointer and wheel into calls of the model. Knows no widget: events come as points and flags, and
 /// the layout is that of the frame that the user saw.
@@ -11,8 +19,6 @@ public:
     explicit GraphInteraction(GraphModel& model) : mModel(model) {}
 
     void setLayout(const GraphLayout& layout) { mLayout = layout; }
-    /// A click in the plot moves the cursor, and does not make the marker a point; dragging still marks.
-    void setClickMovesCursor(bool on) { mClickMovesCursor = on; }
     void setPanningAllowed(bool on) { mPanningAllowed = on; }
     void setShiftPressed(bool on) { mShift = on; }
 
@@ -28,20 +34,18 @@ public:
     void moved(const QPointF& point);
     /// @return true when the right button was released where it had been pressed: a menu is wanted.
     bool released(Qt::MouseButton button, const QPointF& point);
-    void left() { mModel.setHighlighted(mModel.pinned()); }
+    void left() { mModel.traces().point(-1); }
     /// @param delta of the wheel, at least 1 when it turns forward
     void wheel(int delta, Qt::KeyboardModifiers modifiers);
 
-    [[nodiscard]] int draggedStrip() const { return mDragged; }
-    [[nodiscard]] double dragY() const { return mPointer.y(); }
+    [[nodiscard]] DraggedStrip dragged() const { return {mDragged, mPointer.y()}; }
     [[nodiscard]] bool isPanning() const { return mPan.isOn; }
 
 private:
     struct Pan {
         bool isOn = false;
         bool hasMoved = false;
-        double xmin = 0.0;
-        double xmax = 0.0;
+        TimeWindow window;
         QPointF start;
     };
     void pressedPlain(const QPointF& point);
@@ -73,7 +77,7 @@ private:
     bool mMarkerDrag = false;
     double mMarkerFixed = 0.0; // the end that is not dragged
     bool mCursorDrag = false;
-    bool mPanningAllowed = true, mClickMovesCursor = false;
+    bool mPanningAllowed = true;
     bool mShift = false, mControl = false, mAlt = false;
 };
 

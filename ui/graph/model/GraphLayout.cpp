@@ -22,16 +22,16 @@ constexpr int kFewestOfName = 6, kSomeOfName = 14;
 int longestName(const GraphModel& model)
 {
     qsizetype longest = 0;
-    for (const int index : model.shown())
-        longest = std::max(longest, model.parameter(index)->name.size());
+    for (const int index : model.traces().shown())
+        longest = std::max(longest, model.traces().at(index)->name.size());
     return static_cast<int>(std::min<qsizetype>(longest, GraphLayout::kLongestName));
 }
 
 int longestUnit(const GraphModel& model)
 {
     qsizetype longest = 0;
-    for (const int index : model.shown())
-        longest = std::max(longest, model.parameter(index)->unit.size());
+    for (const int index : model.traces().shown())
+        longest = std::max(longest, model.traces().at(index)->unit.size());
     return static_cast<int>(std::min<qsizetype>(longest, GraphLayout::kLongestName / 2)) + 2;
 }
 
@@ -39,8 +39,8 @@ int longestUnit(const GraphModel& model)
 int longestNumber(const GraphModel& model)
 {
     qsizetype longest = kLeastNumber;
-    for (const int index : model.shown()) {
-        const GraphParameter& parameter = *model.parameter(index);
+    for (const int index : model.traces().shown()) {
+        const GraphParameter& parameter = *model.traces().at(index);
         const ValueRange<double>& values = parameter.samples.extremes();
         for (const double value : {values.least, values.greatest}) {
             if (!values.isEmpty())
@@ -53,8 +53,8 @@ int longestNumber(const GraphModel& model)
 } // namespace
 
 GraphLayout::GraphLayout(const GraphModel& model, const QSizeF& size, double textSize)
-    : mWidth(size.width()), mTextSize(textSize), mLine(canvasTextSize(QStringLiteral("0"), textSize, true).height() + 2),
-      mCharacter(canvasAdvance(textSize)), mNameLength(longestName(model)), mNumberLength(longestNumber(model)), mXmin(model.xmin())
+    : mSize(size), mTextSize(textSize), mLine(canvasTextSize(QStringLiteral("0"), textSize, true).height() + 2),
+      mCharacter(canvasAdvance(textSize)), mNameLength(longestName(model)), mNumberLength(longestNumber(model)), mXmin(model.window().begin())
 {
     const double top = mLine + kGap, table = tableHeight(model, size.height());
     if (table > 0)
@@ -65,25 +65,40 @@ GraphLayout::GraphLayout(const GraphModel& model, const QSizeF& size, double tex
     const double bottom = (mIsBelow ? mLegendRect.top() - kGap / 2 : size.height() - table) - mLine - 2 * kGap;
     const double right = mLegend == ELegend::eNone || mIsBelow ? size.width() - 2 * kGap : mLegendRect.left() - kGap;
     const double height = std::max(kSmallestPlot, std::floor(bottom - top));
-    const double left = std::ceil((model.displayMode() == eSplit ? kHandleRoom : kGap) + axisWidth(model, height) + kGap);
+    const double left = std::ceil((model.settings().displayMode == eSplit ? kHandleRoom : kGap) + axisWidth(model, height) + kGap);
     mPlot = QRectF(left, top, std::max(kSmallestPlot, std::floor(right - left)), height);
     if (!mIsBelow)
         mLegendRect.setRect(mLegendRect.left(), mPlot.top(), mLegendRect.width(), mPlot.height());
-    const double width = model.width();
-    mPixelsPerSecond = mPlot.width() / (width > 0 ? width : GraphModel::kSmallestWindow);
+    const double width = model.window().width();
+    mPixelsPerSecond = mPlot.width() / (width > 0 ? width : TimeWindow::kSmallest);
+    placeStrips(model);
+}
+
+void GraphLayout::placeStrips(const GraphModel& model)
+{
+    const std::vector<int>& shown = model.traces().shown();
+    if (model.settings().displayMode != eSplit || shown.empty())
+        return;
+    mStrips.assign(model.traces().all().size(), mPlot);
+    mStripHeight = mPlot.height() / static_cast<double>(shown.size());
+    for (std::size_t row = 0; row < shown.size(); ++row) {
+        const double top = mStripHeight * static_cast<double>(row);
+        const double first = std::round(top), last = std::round(top + mStripHeight);
+        mStrips[static_cast<std::size_t>(shown[row])] = {mPlot.left(), mPlot.top() + first, mPlot.width(), last - first};
+    }
 }
 
 double GraphLayout::tableHeight(const GraphModel& model, double height) const
 {
-    if (!model.hasMarkerRange() || model.nrActive() == 0)
+    if (!model.marker().isRange() || model.traces().shown().empty())
         return 0;
-    const auto rows = static_cast<double>(model.nrActive()) + 1;
+    const double rows = model.traces().count() + 1;
     return std::min(rows, std::max(2.0, std::floor(height * kTablePart / mLine))) * mLine + kGap;
 }
 
 void GraphLayout::placeLegend(const GraphModel& model, double width)
 {
-    if (!model.isLegendOn() || model.nrActive() == 0)
+    if (!model.settings().legendOn || model.traces().shown().empty())
         return;
     struct Kind {
         ELegend kind;
@@ -107,73 +122,71 @@ void GraphLayout::placeLegend(const GraphModel& model, double width)
 void GraphLayout::placeLegendBelow(const GraphModel& model, double bottom)
 {
     // Strips have their names in them, and their values at the cursor.
-    if (!model.isLegendOn() || model.nrActive() == 0 || model.displayMode() == eSplit)
+    if (!model.settings().legendOn || model.traces().shown().empty() || model.settings().displayMode == eSplit)
         return;
     const double room = std::min(bottom * kLegendPart, bottom - kSmallestPlot - 2 * mLine - 4 * kGap);
-    double rows = std::min(static_cast<double>(model.nrActive()) + 1, std::floor(room / mLine));
+    double rows = std::min(model.traces().count() + 1.0, std::floor(room / mLine));
     if (rows < 2)
         return;
     const auto widthOf = [&](int name, int numbers) {
         return (name + longestUnit(model) + numbers * (mNumberLength + 1) + 1) * mCharacter + kSwatch + kGap;
     };
-    const double wide = mWidth - 2 * kGap;
+    const double wide = mSize.width() - 2 * kGap;
     const int shortName = std::min(mNameLength, kSomeOfName);
     const int columns = std::max(1, static_cast<int>(wide / widthOf(shortName, 1)));
-    if (wide >= widthOf(mNameLength, 3) && (model.nrActive() < rows || columns == 1)) {
+    if (wide >= widthOf(mNameLength, 3) && (model.traces().count() < rows || columns == 1)) {
         mLegend = ELegend::eFull;
     } else {
         mLegend = ELegend::eCursor;
         mLegendColumns = columns;
         const auto longest = static_cast<int>((wide / mLegendColumns - widthOf(0, 1)) / mCharacter);
         mNameLength = std::clamp(longest, kFewestOfName, std::max(mNameLength, kFewestOfName));
-        rows = std::min(rows, std::ceil(static_cast<double>(model.nrActive()) / mLegendColumns) + 1);
+        rows = std::min(rows, std::ceil(model.traces().count() / mLegendColumns) + 1);
     }
     mIsBelow = true;
-    mLegendRect = QRectF(kGap, bottom - rows * mLine - kGap / 2, std::max(0.0, mWidth - 2 * kGap), rows * mLine);
+    mLegendRect = QRectF(kGap, bottom - rows * mLine - kGap / 2, std::max(0.0, mSize.width() - 2 * kGap), rows * mLine);
 }
 
 double GraphLayout::axisWidth(const GraphModel& model, double height) const
 {
     qsizetype longest = 4;
     const auto measure = [&](int index, double length) {
-        const std::array<double, 2> range = model.valueRange(index);
+        const ValueSpan range = model.valueSpan(index);
         const AxisTicks ticks(range[0], range[1], length, kValueSpacing * mLine);
         for (const AxisTick& tick : ticks.ticks()) {
             if (tick.isMajor)
                 longest = std::max(longest, ticks.valueLabel(tick.value).size());
         }
     };
-    if (model.displayMode() == eSplit) {
-        for (const int index : model.shown())
-            measure(index, height / model.nrActive());
+    if (model.settings().displayMode == eSplit) {
+        for (const int index : model.traces().shown())
+            measure(index, height / model.traces().count());
     } else {
-        measure(model.axisParameter(), height);
+        measure(model.traces().axis(), height);
     }
     return static_cast<double>(std::min<qsizetype>(longest, 14)) * mCharacter + kGap;
 }
 
-QRectF GraphLayout::area(const GraphParameter& parameter) const
+QRectF GraphLayout::area(int index) const
 {
-    const double top = std::round(parameter.origin), bottom = std::round(parameter.origin + parameter.height);
-    return {mPlot.left(), mPlot.top() + top, mPlot.width(), bottom - top};
+    return index >= 0 && static_cast<std::size_t>(index) < mStrips.size() ? mStrips[static_cast<std::size_t>(index)] : mPlot;
 }
 
 QRectF GraphLayout::legendLine(const GraphModel& model, std::size_t row) const
 {
-    if (!model.isLegendOn() || row >= model.shown().size())
+    if (!model.settings().legendOn || row >= model.traces().shown().size())
         return {};
     if (mLegend == ELegend::eNone)
         return overlayLine(model, row);
-    if (model.displayMode() == eSplit) {
+    if (model.settings().displayMode == eSplit) {
         // Rounded, some strips have room and others none: all go by the height before that.
-        const GraphParameter& parameter = *model.parameter(model.shown()[row]);
-        if (parameter.height >= mLine)
-            return {mLegendRect.left(), area(parameter).top(), mLegendRect.width(), mLine};
+        if (mStripHeight >= mLine)
+            return {mLegendRect.left(), area(model.traces().shown()[row]).top(), mLegendRect.width(), mLine};
     }
     // The first line is the header, and the last one says how many found no room.
     const auto lines = static_cast<std::size_t>(std::max(0.0, std::floor(mLegendRect.height() / mLine) - 1));
     const std::size_t places = lines * static_cast<std::size_t>(mLegendColumns);
-    if (row + (model.shown().size() > places ? 1 : 0) >= places)
+    if (row + (model.traces().shown().size() > places ? 1 : 0) >= places)
         return {};
     const double width = mLegendRect.width() / mLegendColumns;
     const auto column = static_cast<double>(row / lines), line = static_cast<double>(row % lines + 1);
@@ -182,21 +195,21 @@ QRectF GraphLayout::legendLine(const GraphModel& model, std::size_t row) const
 
 QRectF GraphLayout::overlayLine(const GraphModel& model, std::size_t row) const
 {
-    const GraphParameter& parameter = *model.parameter(model.shown()[row]);
-    const QRectF area = this->area(parameter);
+    const int index = model.traces().shown()[row];
+    const QRectF area = this->area(index);
     // The cursor's time stands in the first line of a single graph.
-    const double line = static_cast<double>(row) + (model.isCursorOn() ? 1.0 : 0.0);
-    const double y = area.top() + (model.displayMode() == eSplit ? 2.0 : 3.0 + line * mLine);
+    const double line = static_cast<double>(row) + (model.settings().cursorOn ? 1.0 : 0.0);
+    const double y = area.top() + (model.settings().displayMode == eSplit ? 2.0 : 3.0 + line * mLine);
     if (y + mLine > area.bottom())
         return {};
-    const double text = canvasTextSize(overlayText(model, model.shown()[row]), mTextSize, true).width();
+    const double text = canvasTextSize(overlayText(model, index), mTextSize, true).width();
     return {area.left() + 3, y, text + kSwatch + 8, mLine};
 }
 
 QString GraphLayout::overlayText(const GraphModel& model, int index) const
 {
-    const GraphParameter& parameter = *model.parameter(index);
-    const std::optional<double> value = model.displayMode() == eSplit ? std::nullopt : model.valueAtCursor(index);
+    const GraphParameter& parameter = *model.traces().at(index);
+    const std::optional<double> value = model.settings().displayMode == eSplit ? std::nullopt : model.traces().valueAt(index, model.cursor().time);
     const QString number = value ? QLatin1Char(' ') + graphNumber(*value, parameter.precision) : QString();
     const auto room = static_cast<int>((mPlot.width() - kSwatch - 12) / mCharacter) - static_cast<int>(number.size());
     return shortened(parameter.label(), std::clamp(room, kFewestOfName, kLongestLabel)) + number;
@@ -205,16 +218,16 @@ QString GraphLayout::overlayText(const GraphModel& model, int index) const
 int GraphLayout::stripAt(const GraphModel& model, double y) const
 {
     int found = -1;
-    for (const int index : model.shown()) {
-        if (found < 0 || y >= area(*model.parameter(index)).top())
+    for (const int index : model.traces().shown()) {
+        if (found < 0 || y >= area(index).top())
             found = index;
     }
     return found;
 }
 
-double GraphLayout::valueAt(double y, const QRectF& area, const std::array<double, 2>& range)
+double GraphLayout::valueAt(double y, const QRectF& area, const ValueSpan& span)
 {
-    return area.height() > 0 ? range[0] + (area.bottom() - y) / area.height() * (range[1] - range[0]) : range[0];
+    return area.height() > 0 ? span[0] + (area.bottom() - y) / area.height() * (span[1] - span[0]) : span[0];
 }
 
 QString GraphLayout::shortened(const QString& name, int length)

@@ -3,6 +3,7 @@
 #include "ui/graph/model/GraphModel.h"
 
 #include <QRectF>
+#include <QSizeF>
 
 #include <algorithm>
 
@@ -18,7 +19,7 @@ public:
     GraphLayout() = default;
     GraphLayout(const GraphModel& model, const QSizeF& size, double textSize);
 
-    [[nodiscard]] double width() const { return mWidth; } ///< of the whole view
+    [[nodiscard]] QRectF view() const { return {QPointF(), mSize}; }
     [[nodiscard]] const QRectF& plot() const { return mPlot; }
     [[nodiscard]] const QRectF& legend() const { return mLegendRect; } ///< right of the plot or below it; empty without one
     [[nodiscard]] const QRectF& table() const { return mTable; }       ///< of the marker's values below the plot; empty without one
@@ -30,21 +31,21 @@ public:
     [[nodiscard]] int nameLength() const { return mNameLength; }
     [[nodiscard]] int numberLength() const { return mNumberLength; }
 
-    /// The area of a trace: its strip, or the plot.
-    [[nodiscard]] QRectF area(const GraphParameter& parameter) const;
+    /// The area of a shown trace: its strip, or the plot.
+    [[nodiscard]] QRectF area(int index) const;
     /// The line of the legend for the shown trace number `row`: beside the plot, or over it where the view is too narrow for that; empty
     /// when there is no room for it.
     [[nodiscard]] QRectF legendLine(const GraphModel& model, std::size_t row) const;
     /// The strip under a height of the view, as its parameter's index; the nearest one outside of the plot; -1 when nothing is shown.
     [[nodiscard]] int stripAt(const GraphModel& model, double y) const;
     /// The middle of a strip's handle.
-    [[nodiscard]] QPointF handle(const GraphParameter& parameter) const { return {kHandleX, area(parameter).center().y()}; }
+    [[nodiscard]] QPointF handle(int index) const { return {kHandleX, area(index).center().y()}; }
 
     [[nodiscard]] double xOf(double time) const { return mPlot.left() + (time - mXmin) * mPixelsPerSecond; }
     [[nodiscard]] double timeAt(double x) const { return mXmin + (x - mPlot.left()) / mPixelsPerSecond; }
     [[nodiscard]] double pixelsPerSecond() const { return mPixelsPerSecond; }
-    [[nodiscard]] static double yOf(double value, const QRectF& area, const std::array<double, 2>& range);
-    [[nodiscard]] static double valueAt(double y, const QRectF& area, const std::array<double, 2>& range);
+    [[nodiscard]] static double yOf(double value, const QRectF& area, const ValueSpan& span);
+    [[nodiscard]] static double valueAt(double y, const QRectF& area, const ValueSpan& span);
 
     /// What the line over the plot says of a trace; with its value where nothing else tells that.
     [[nodiscard]] QString overlayText(const GraphModel& model, int index) const;
@@ -61,12 +62,15 @@ public:
 private:
     void placeLegend(const GraphModel& model, double width);
     void placeLegendBelow(const GraphModel& model, double bottom);
+    void placeStrips(const GraphModel& model);
     [[nodiscard]] double tableHeight(const GraphModel& model, double height) const;
     [[nodiscard]] QRectF overlayLine(const GraphModel& model, std::size_t row) const;
     [[nodiscard]] double axisWidth(const GraphModel& model, double height) const;
 
-    double mWidth = 0.0;
+    QSizeF mSize;
     QRectF mPlot;
+    std::vector<QRectF> mStrips; // by slot; empty in a single graph
+    double mStripHeight = 0.0;   // before they are rounded to pixels
     QRectF mLegendRect;
     QRectF mTable;
     ELegend mLegend = ELegend::eNone;
@@ -78,13 +82,13 @@ private:
 };
 
 // In sight of those that call it for each vertex.
-inline double GraphLayout::yOf(double value, const QRectF& area, const std::array<double, 2>& range)
+inline double GraphLayout::yOf(double value, const QRectF& area, const ValueSpan& span)
 {
     constexpr double kFar = 1e6; // pixels: beyond every view, and small enough for every canvas
-    const double span = range[1] - range[0];
-    if (!(span > 0))
+    const double range = span[1] - span[0];
+    if (!(range > 0))
         return area.center().y();
-    return std::clamp(area.bottom() - (value - range[0]) / span * area.height(), -kFar, kFar);
+    return std::clamp(area.bottom() - (value - span[0]) / range * area.height(), -kFar, kFar);
 }
 
 } // namespace ZARN

@@ -7,266 +7,176 @@ namespace ZARN {
 
 namespace {
 
-constexpr int kFirstParameters = 6;
-constexpr double kWidestWindow = 1e7; // seconds; wheel and keys stop there
-constexpr double kNarrowHalf = 0.5;   // of what the wheel opens where the window has no width
-constexpr float kEdge = 0.1F;         // of the window, between a time that is kept inside and the edge
+constexpr int kFirstTraces = 6;
+
+/// Those of a graph that nobody has set up.
+GraphData plainSettings()
+{
+    GraphData data;
+    data.cursorMode = eFloating;
+    data.backColor = QStringLiteral("#ffffff");
+    data.gridColor = QStringLiteral("#ff4d4d");
+    data.labelBackColor = QStringLiteral("#cccccc");
+    data.scale = {};
+    return data;
+}
 
 } // namespace
 
-GraphModel::GraphModel(QObject* pParent) : QObject(pParent)
+GraphModel::GraphModel(QObject* pParent)
+    : QObject(pParent), mSettings(plainSettings()), mColours(mSettings), mTraces([this] { Q_EMIT signalRepaint(); })
 {
-    setMaxParameters(kFirstParameters);
+    mTraces.setCount(kFirstTraces);
 }
 
-void GraphModel::windowChanged()
+void GraphModel::settingsChanged()
 {
-    mCountdown = kCountdown;
-    Q_EMIT signalRecalculate();
-    recalcFrameBuffer();
-    changed();
+    mColours = GraphColours(mSettings);
+    mTraces.setGround(mColours.background);
 }
 
-void GraphModel::setWindow(double xmin, double xmax)
+void GraphModel::setWindow(const TimeWindow& window)
 {
-    if (!std::isfinite(xmin) || !std::isfinite(xmax))
+    if (!window.isFinite() || window == mWindow)
         return;
-    mXmin = xmin;
-    mXmax = xmax;
-    windowChanged();
-}
-
-void GraphModel::setXmin(float seconds)
-{
-    setWindow(static_cast<double>(seconds), mXmax);
-}
-
-void GraphModel::setXmax(float seconds)
-{
-    setWindow(mXmin, static_cast<double>(seconds));
-}
-
-void GraphModel::setT0(float seconds)
-{
-    const auto start = static_cast<double>(seconds);
-    setWindow(start, start + width());
-}
-
-void GraphModel::setXrange(float seconds)
-{
-    const auto range = static_cast<double>(seconds);
-    if (mGraphMode == eAutomatic)
-        setWindow(mXmax - range, mXmax);
-    else
-        setWindow(mXmin, mXmin + range);
-}
-
-void GraphModel::zoomToMarker()
-{
-    const auto [start, end] = std::minmax(mMarkerStart, mMarkerEnd);
-    if (start == end)
-        return;
-    mGraphMode = eManual;
-    setWindow(start, std::max(end, start + kSmallestWindow));
-    Q_EMIT signalManMode();
-}
-
-void GraphModel::zoomAbout(double time, double factor)
-{
-    const double wanted = width() * factor;
-    if (!std::isfinite(time) || (wanted < kSmallestWindow && factor < 1) || (wanted > kWidestWindow && factor > 1))
-        return;
-    if (!(width() > 0)) // that of a record of one moment, which no factor widens
-        return setWindow(mXmin - kNarrowHalf, mXmin + kNarrowHalf);
-    setWindow(time - (time - mXmin) * factor, time - (time - mXmax) * factor);
-}
-
-void GraphModel::setTime(double seconds)
-{
-    const double time = std::isnan(seconds) ? 0.0 : std::clamp(seconds, 0.0, kLatestTime);
-    mTime = time;
-    mDataPresent = true;
-    for (GraphParameter& parameter : mParameters)
-        parameter.valuePut = false;
-    if (mGraphMode == eAutomatic) {
-        const double width = this->width();
-        mXmax = time;
-        mXmin = time - width;
-    }
-    if (mModeChanged)
-        recalcFrameBuffer();
-    changed();
+    mWindow = window;
+    Q_EMIT signalWindow();
+    Q_EMIT signalRepaint();
 }
 
 void GraphModel::takeOverTime()
 {
-    if (mGraphMode == eManual)
+    if (mSettings.graphMode == eManual)
         return;
-    setGraphMode(eManual);
+    mSettings.graphMode = eManual;
     Q_EMIT signalManMode();
 }
 
-void GraphModel::setYmin(float value)
+void GraphModel::zoomToMarker()
 {
-    mYmin = static_cast<double>(value);
-    windowChanged();
-}
-
-void GraphModel::setYmax(float value)
-{
-    mYmax = static_cast<double>(value);
-    windowChanged();
-}
-
-void GraphModel::setAutoScaleY(bool on)
-{
-    mAutoScaleY = on;
-    changed();
-}
-
-void GraphModel::setAutoScaleYSpread(double spread)
-{
-    mSpread = std::isfinite(spread) ? spread : 0.0;
-    changed();
-}
-
-void GraphModel::setYRange(double lower, double upper)
-{
-    mYRange = {lower, upper};
-    changed();
-}
-
-void GraphModel::setYRangeOn(bool on)
-{
-    mYRangeOn = on;
-    changed();
+    const auto [start, end] = mMarker.ordered();
+    if (start == end)
+        return;
+    mSettings.graphMode = eManual;
+    setWindow({start, std::max(end, start + TimeWindow::kSmallest)});
+    Q_EMIT signalManMode();
 }
 
 void GraphModel::setCursorPosition(double time)
 {
     if (!std::isfinite(time))
         return;
-    mCursorTime = time;
-    if (mCursorMode == eCenter) {
-        const double half = width() / 2;
-        mXmin = time - half;
-        mXmax = time + half;
-        recalcFrameBuffer();
-    }
-    changed();
+    mCursor.time = time;
+    if (mSettings.cursorMode == eCenter)
+        setWindow(mWindow.centredOn(time));
+    Q_EMIT signalRepaint();
 }
 
-void GraphModel::keepInside(double time)
+void GraphModel::moveCursor(double time, double value, int strip)
 {
-    const auto width = static_cast<float>(this->width());
-    const auto margin = static_cast<double>(kEdge * width);
-    double xmin = mXmin, xmax = mXmax;
-    if (xmin + margin > time) {
-        xmin = time - margin;
-        xmax = xmin + static_cast<double>(width);
-    }
-    if (xmax - margin < time) {
-        xmin = time + margin - static_cast<double>(width);
-        xmax = time + margin;
-    }
-    if (xmin != mXmin || xmax != mXmax)
-        setWindow(xmin, xmax);
-}
-
-void GraphModel::moveCursor(double time, double value, int index)
-{
-    mCursorIndex = index;
-    mCursorValue = value;
+    mCursor.value = value;
+    mCursor.strip = strip;
     setCursorPosition(time);
-    Q_EMIT signalCursor(static_cast<float>(mCursorTime), mCursorValue);
+    Q_EMIT signalCursor(static_cast<float>(mCursor.time), mCursor.value);
 }
 
 void GraphModel::setCursorMoving(bool on)
 {
-    if (mCursorMoving == on)
+    if (mCursor.isMoving == on)
         return;
-    mCursorMoving = on;
-    changed();
+    mCursor.isMoving = on;
+    Q_EMIT signalRepaint();
 }
 
-void GraphModel::setMarker(double start, double end)
+void GraphModel::setMarker(const GraphMarker& marker)
 {
-    if (!std::isfinite(start) || !std::isfinite(end))
+    if (!marker.isFinite())
         return;
-    mMarkerStart = start;
-    mMarkerEnd = end;
-    changed();
+    mMarker = marker;
+    Q_EMIT signalRepaint();
 }
 
-std::vector<MarkerValues> GraphModel::markerValues() const
+void GraphModel::addTopMarker(const TopMarker& marker)
 {
-    std::vector<MarkerValues> out;
-    const auto [start, end] = std::minmax(mMarkerStart, mMarkerEnd);
-    for (const int index : mShown)
-        out.push_back(MarkerValues::of(mParameters[static_cast<std::size_t>(index)], start, end));
-    return out;
-}
-
-void GraphModel::addTopMarker(int index, double time)
-{
-    mTopMarkers.push_back({index, time});
-    changed();
-}
-
-void GraphModel::setGraphMode(eGraphMode mode)
-{
-    mGraphMode = mode;
-    mModeChanged = true;
-    changed();
-}
-
-void GraphModel::setDisplayMode(eDisplayMode mode)
-{
-    mDisplayMode = mode;
-    changed();
-}
-
-void GraphModel::setCursorMode(eCursorMode mode)
-{
-    mCursorMode = mode;
-    changed();
-}
-
-void GraphModel::activateGrid(bool on)
-{
-    mGridOn = on;
-    changed();
-}
-
-void GraphModel::activateCursor(bool on)
-{
-    mCursorOn = on;
-    changed();
-}
-
-void GraphModel::activateLegend(bool on)
-{
-    mLegendOn = on;
-    changed();
-}
-
-void GraphModel::setOfflineMode(bool on)
-{
-    mOffline = on;
-    changed();
-}
-
-void GraphModel::setColours(const GraphColours& colours)
-{
-    mColours = colours;
-    updateColours();
-    changed();
+    mTopMarkers.push_back(marker);
+    Q_EMIT signalRepaint();
 }
 
 void GraphModel::setMessage(const QString& text)
 {
     mMessage = text;
-    changed();
+    Q_EMIT signalRepaint();
+}
+
+ValueSpan GraphModel::valueSpan(int index) const
+{
+    const GraphParameter* pTrace = mTraces.at(index);
+    return pTrace ? mSettings.scale.spanOf(pTrace->samples.extremes()) : mSettings.scale.shared();
+}
+
+void GraphModel::setTime(double seconds)
+{
+    mTime = std::isnan(seconds) ? 0.0 : std::clamp(seconds, 0.0, kLatestTime);
+    mDataPresent = true;
+    if (mSettings.graphMode == eAutomatic)
+        mWindow = mWindow.endingAt(mTime);
+    Q_EMIT signalRepaint();
+}
+
+void GraphModel::putValue(int index, double value, bool repaint)
+{
+    if (!mDataPresent)
+        return;
+    mTraces.append(index, {&mTime, 1}, {&value, 1});
+    if (repaint)
+        Q_EMIT signalRepaint();
+}
+
+void GraphModel::putValues(int index, std::span<const double> times, std::span<const double> values)
+{
+    const std::size_t count = std::min(times.size(), values.size());
+    if (!mTraces.at(index) || count == 0)
+        return;
+    std::vector<double> held(times.begin(), times.begin() + static_cast<std::ptrdiff_t>(count));
+    for (double& time : held)
+        time = std::isfinite(time) ? time : 0.0;
+    setTime(held.back());
+    mTraces.append(index, held, values.first(count));
+}
+
+void GraphModel::setOfflineMode(bool on)
+{
+    mIsOffline = on;
+    Q_EMIT signalRepaint();
+}
+
+void GraphModel::clear()
+{
+    mTopMarkers.clear();
+    mTraces.clearSamples();
+}
+
+void GraphModel::reset()
+{
+    clear();
+    mMarker = {};
+    mCursor.time = mCursor.value = 0.0;
+    mTime = 0.0;
+    mDataPresent = false;
+    mSettings.scale.lower = plainSettings().scale.lower;
+    mSettings.scale.upper = plainSettings().scale.upper;
+    setWindow(TimeWindow());
+}
+
+void GraphModel::extendToPresent()
+{
+    if (mSettings.graphMode != eAutomatic || mIsOffline || !mDataPresent)
+        return;
+    for (const int index : mTraces.shown()) {
+        const SampleSeries& samples = mTraces.at(index)->samples;
+        if (!samples.empty() && samples.time(samples.size() - 1) < mTime)
+            putValue(index, samples.value(samples.size() - 1), false);
+    }
 }
 
 } // namespace ZARN

@@ -1,6 +1,7 @@
 #include "ui/graph/model/GraphTables.h"
 
 #include "ui/graph/model/GraphTexts.h"
+#include "ui/graph/model/MarkerValues.h"
 
 #include <QCoreApplication>
 #include <QStringList>
@@ -24,14 +25,14 @@ QString translated(const char* text)
 
 QString markerWidth(const GraphModel& model)
 {
-    return QStringLiteral("dt = %1 s").arg(std::abs(model.markerEnd() - model.markerStart()), 0, 'f', 3);
+    return QStringLiteral("dt = %1 s").arg(std::abs(model.marker().end - model.marker().start), 0, 'f', 3);
 }
 
 /// The extremes within the window; empty when no sample lies in it.
 ValueRange<double> windowRange(const GraphModel& model, const SampleSeries& samples)
 {
-    const std::size_t first = samples.firstAtOrAfter(model.xmin());
-    const auto last = samples.lastAtOrBefore(model.xmax());
+    const std::size_t first = samples.firstAtOrAfter(model.window().begin());
+    const auto last = samples.lastAtOrBefore(model.window().end());
     return last && first <= *last ? samples.range(first, *last + 1) : ValueRange<double>{};
 }
 
@@ -58,13 +59,13 @@ void GraphTables::draw(Canvas& canvas) const
 
 CanvasText GraphTables::style(bool isBold) const
 {
-    return {mLayout.textSize(), mModel.colours().label.colour(), isBold, Qt::AlignLeft | Qt::AlignTop, false};
+    return {mLayout.textSize(), mModel.colours().label, isBold, Qt::AlignLeft | Qt::AlignTop, false};
 }
 
 QString GraphTables::legendText(int index) const
 {
-    const GraphParameter& parameter = *mModel.parameter(index);
-    std::vector<std::optional<double>> values{mModel.valueAtCursor(index)};
+    const GraphParameter& parameter = *mModel.traces().at(index);
+    std::vector<std::optional<double>> values{mModel.traces().valueAt(index, mModel.cursor().time)};
     if (mLayout.legendKind() == GraphLayout::ELegend::eFull) {
         const ValueRange<double> range = windowRange(mModel, parameter.samples);
         for (const double value : {range.least, range.greatest})
@@ -89,7 +90,7 @@ void GraphTables::drawLegend(Canvas& canvas) const
     int missing = 0;
     QRectF last = mLayout.legend();
     last.setHeight(mLayout.line());
-    for (std::size_t row = 0; row < mModel.shown().size(); ++row) {
+    for (std::size_t row = 0; row < mModel.traces().shown().size(); ++row) {
         const QRectF line = mLayout.legendLine(mModel, row);
         if (line.isEmpty())
             ++missing;
@@ -98,8 +99,8 @@ void GraphTables::drawLegend(Canvas& canvas) const
     }
     // All areas, then all bold texts, then all others: what is alike goes to the screen together.
     for (const ELayer layer : {ELayer::eAreas, ELayer::eNames, ELayer::eNumbers}) {
-        for (std::size_t row = 0; row < mModel.shown().size(); ++row)
-            drawLegendLine(canvas, mLayout.legendLine(mModel, row), mModel.shown()[row], layer);
+        for (std::size_t row = 0; row < mModel.traces().shown().size(); ++row)
+            drawLegendLine(canvas, mLayout.legendLine(mModel, row), mModel.traces().shown()[row], layer);
     }
     drawLegendHeader(canvas);
     if (missing > 0)
@@ -115,11 +116,11 @@ void GraphTables::drawLegendHeader(Canvas& canvas) const
         text += inColumn(translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "Max")));
     }
     // Strips have their lines at their own heights, so the header stands above the first.
-    const bool isSplit = mModel.displayMode() == eSplit;
+    const bool isSplit = mModel.settings().displayMode == eSplit;
     const double y = mLayout.legend().top() - (isSplit ? mLayout.line() : 0.0);
     const double names = kSwatch + 6 + mLayout.nameLength() * mLayout.character();
     const double first = mLayout.legendLine(mModel, 0).top();
-    for (std::size_t row = 0; row < mModel.shown().size(); ++row) {
+    for (std::size_t row = 0; row < mModel.traces().shown().size(); ++row) {
         const QRectF line = mLayout.legendLine(mModel, row);
         if (!line.isEmpty() && line.top() == first) // at the head of each column
             canvas.text(QPointF(line.left() + names, y), text, style(false));
@@ -130,10 +131,10 @@ void GraphTables::drawLegendLine(Canvas& canvas, const QRectF& line, int index, 
 {
     if (line.isEmpty())
         return;
-    const GraphParameter& parameter = *mModel.parameter(index);
+    const GraphParameter& parameter = *mModel.traces().at(index);
     const double x = line.left() + kSwatch + 6;
     if (layer == ELayer::eAreas) {
-        if (index == mModel.highlighted())
+        if (index == mModel.traces().highlighted())
             canvas.fillRect(line, kHighlight);
         canvas.fillRect(QRectF(line.left() + 2, line.top() + 3, kSwatch, line.height() - 6), parameter.drawnColour);
     } else if (layer == ELayer::eNames) {
@@ -148,16 +149,16 @@ void GraphTables::drawOverlay(Canvas& canvas, const CursorLabels& cursor) const
 {
     if (mLayout.legendKind() != GraphLayout::ELegend::eNone)
         return;
-    QColor box = mModel.colours().labelBackground.colour();
+    QColor box = mModel.colours().labelBackground;
     box.setAlpha(210);
-    for (std::size_t row = 0; row < mModel.shown().size(); ++row) {
+    for (std::size_t row = 0; row < mModel.traces().shown().size(); ++row) {
         const QRectF line = mLayout.legendLine(mModel, row);
         if (line.isEmpty() || cursor.covers(line))
             continue;
-        const int index = mModel.shown()[row];
-        const GraphParameter& parameter = *mModel.parameter(index);
+        const int index = mModel.traces().shown()[row];
+        const GraphParameter& parameter = *mModel.traces().at(index);
         canvas.fillRect(line, box);
-        if (index == mModel.highlighted())
+        if (index == mModel.traces().highlighted())
             canvas.fillRect(line, kHighlight);
         canvas.fillRect(QRectF(line.left() + 2, line.top() + 3, kSwatch, line.height() - 6), parameter.drawnColour);
         canvas.text(line.topLeft() + QPointF(kSwatch + 5, 0), mLayout.overlayText(mModel, index), style(true));
@@ -171,7 +172,7 @@ void GraphTables::drawMarkerTable(Canvas& canvas) const
         return;
     std::vector<QStringList> rows{QStringList{markerWidth(mModel)} + MarkerValues::headers()};
     const auto room = static_cast<std::size_t>(std::max(2.0, std::floor(table.height() / mLayout.line())));
-    const std::vector<MarkerValues> values = mModel.markerValues();
+    const std::vector<MarkerValues> values = markerValues(mModel.traces(), mModel.marker());
     const std::size_t fitting = values.size() + 1 <= room ? values.size() : room - 2;
     for (std::size_t i = 0; i < fitting; ++i) {
         rows.push_back(QStringList{GraphLayout::shortened(values[i].pParameter->label(), GraphLayout::kLongestName + 8)} +

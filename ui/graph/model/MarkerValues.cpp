@@ -84,6 +84,15 @@ QStringList MarkerValues::headers()
             header(QT_TRANSLATE_NOOP("ZARN::MarkerValues", "Integral"))};
 }
 
+std::vector<MarkerValues> markerValues(const ShownTraces& traces, const GraphMarker& marker)
+{
+    std::vector<MarkerValues> out;
+    const auto [start, end] = marker.ordered();
+    for (const int index : traces.shown())
+        out.push_back(MarkerValues::of(*traces.at(index), start, end));
+    return out;
+}
+
 QString integralUnit(const QString& unit)
 {
     if (unit.endsWith(QLatin1String("/h")))
@@ -91,8 +100,9 @@ QString integralUnit(const QString& unit)
     return unit.isEmpty() ? QStringLiteral("h") : unit + QStringLiteral("\u00b7h");
 }
 
-QString markerText(std::span<const MarkerValues> values, double start, double end)
+QString markerText(const ShownTraces& traces, const GraphMarker& marker)
 {
+    const auto [start, end] = marker.ordered();
     QString text = header(QT_TRANSLATE_NOOP("ZARN::MarkerValues", "Time")) + QLatin1Char('\t') + graphTime(start) + QLatin1Char('\t')
                    + graphTime(end) + QLatin1Char('\n');
     text += QStringLiteral("dt\t%1 s\n").arg(end - start, 0, 'f', 3);
@@ -100,7 +110,7 @@ QString markerText(std::span<const MarkerValues> values, double start, double en
     text += header(QT_TRANSLATE_NOOP("ZARN::MarkerValues", "Parameter")) + QLatin1Char('\t') + header(QT_TRANSLATE_NOOP("ZARN::MarkerValues", "Unit"))
             + QLatin1Char('\t') + columns.join(QLatin1Char('\t')) + QLatin1Char('\t')
             + header(QT_TRANSLATE_NOOP("ZARN::MarkerValues", "Unit of integral")) + QLatin1Char('\n');
-    for (const MarkerValues& line : values) {
+    for (const MarkerValues& line : markerValues(traces, marker)) {
         const QString unit = cell(line.pParameter->unit);
         text += cell(line.pParameter->name) + QLatin1Char('\t') + unit + QLatin1Char('\t') + line.texts().join(QLatin1Char('\t')) + QLatin1Char('\t')
                 + cell(integralUnit(line.pParameter->unit)) + QLatin1Char('\n');

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "ui/graph/model/GraphParameter.h"
+#include "ui/graph/model/GraphMarker.h"
+#include "ui/graph/model/ShownTraces.h"
 
 #include <QStringList>
 
 #include <optional>
-#include <span>
 
 namespace ZARN {
 
@@ -28,10 +28,13 @@ struct MarkerValues {
     [[nodiscard]] static QStringList headers();
 };
 
+/// Of all shown traces, between the marker's earlier and later end.
+[[nodiscard]] std::vector<MarkerValues> markerValues(const ShownTraces& traces, const GraphMarker& marker);
+
 /// The unit of an integral over hours: what is left of a flow per hour, else the unit times hours.
 [[nodiscard]] QString integralUnit(const QString& unit);
 
 /// A table for the clipboard: two lines that name the stretch, the headers, and a line for each trace; cells apart by tabulators.
-[[nodiscard]] QString markerText(std::span<const MarkerValues> values, double start, double end);
+[[nodiscard]] QString markerText(const ShownTraces& traces, const GraphMarker& marker);
 
 } // namespace ZARN

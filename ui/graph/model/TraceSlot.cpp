@@ -7,19 +7,19 @@
 
 namespace ZARN {
 
-void describeSlot(GraphModel& model, int slot, const Trace& trace)
+void describeSlot(ShownTraces& traces, int slot, const Trace& trace)
 {
-    model.setActive(slot, true);
-    model.setParameterName(slot, QString::fromStdString(trace.name()), QString::fromStdString(trace.unit()));
-    model.setPrecision(slot, trace.parameter().precision);
-    model.setBands(slot, graphBands(trace.decoder()));
+    traces.setActive(slot, true);
+    traces.setName(slot, QString::fromStdString(trace.name()), QString::fromStdString(trace.unit()));
+    traces.setPrecision(slot, trace.parameter().precision);
+    traces.setBands(slot, graphBands(trace.decoder()));
 }
 
 void fillSlot(GraphModel& model, int slot, const Trace& trace, double from, double to)
 {
     std::array<double, Trace::kRun> times;
     std::array<double, Trace::kRun> numbers;
-    model.reserve(slot, trace.size());
+    model.traces().reserve(slot, trace.size());
     trace.forEachRun([&](const TraceRun& run) {
         std::size_t kept = 0;
         for (std::size_t i = 0; i < run.times.size(); ++i) {

@@ -1,4 +1,4 @@
-#include "app/gui/GraphicsCheck.h"
+#include "ui/gl/GraphicsCheck.h"
 
 #include "vesk/gl/Renderer.h"
 

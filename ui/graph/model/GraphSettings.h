@@ -1,10 +1,9 @@
 #pragma once
 
-#include "ui/graph/GraphData.h"
+#include "ui/graph/model/GraphModel.h"
 
 namespace ZARN {
 
-class GraphModel;
 class Property;
 
 /// What of the graph's setup lasts from one start to the next: the colours that the user gave to traces, and what a click does.
@@ -12,16 +11,16 @@ class GraphSettings {
 public:
     explicit GraphSettings(Property& property) : mProperty(property) {}
 
-    /// Brings both up to date with the settings, and lists the shown traces with their colours for the setup window.
-    void load(GraphModel& model, GraphData& data) const;
-    /// Puts what the setup window has changed into the settings, and writes them when something has.
-    void store(const GraphData& data);
+    /// Brings the graph up to date with the settings.
+    void load(GraphModel& model) const;
+    /// Keeps what the graph has now, and writes the settings when that is something else.
+    void store(const GraphModel& model);
 
 private:
     /// Under which number the settings keep the colour of the parameter in that slot.
     [[nodiscard]] int colourNumber(int slot, const QString& name) const;
     /// Whether it has changed.
-    bool storeColour(const TraceColour& trace);
+    bool storeColour(int slot, const GraphParameter& trace);
 
     Property& mProperty;
 };

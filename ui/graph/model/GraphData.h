@@ -1,0 +1,45 @@
+#pragma once
+
+#include "ui/graph/model/ValueScale.h"
+
+#include <QColor>
+#include <QString>
+
+namespace ZARN {
+
+enum eGraphMode : int { eManual = 0, eAutomatic = 1 };
+enum eDisplayMode : int { eSingleGraph = 0, eSplit = 1 };
+enum eCursorMode : int { eFloating = 0, eCenter = 1 };
+
+/// The display settings of a graph, as the setup window edits them: the only place where they are kept. Colours are names of the form
+/// #rrggbb.
+struct GraphData {
+    double xRange = 60.0; ///< seconds; the width that the user asked for last
+    eDisplayMode displayMode = eSingleGraph;
+    eGraphMode graphMode = eAutomatic;
+    eCursorMode cursorMode = eCenter;
+    QString backColor = QStringLiteral("#000000");
+    bool gridOn = true;
+    QString gridColor = QStringLiteral("#ff6666");
+    QString labelColor = QStringLiteral("#000000");
+    QString labelBackColor = QStringLiteral("#bbbbbb");
+    bool cursorOn = true;
+    bool legendOn = true;
+    ValueScale scale{.lower = -100.0, .upper = 100.0};
+    bool clickMovesCursor = false; ///< a click in the plot; otherwise it makes the marker a point
+};
+
+/// The colours of the graph beside those of its traces, read from the settings.
+struct GraphColours {
+    GraphColours() = default;
+    explicit GraphColours(const GraphData& data)
+        : background(data.backColor), grid(data.gridColor), label(data.labelColor), labelBackground(data.labelBackColor)
+    {
+    }
+    QColor background;
+    QColor grid;
+    QColor label;
+    QColor labelBackground;
+};
+
+} // namespace ZARN

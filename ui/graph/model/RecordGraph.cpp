@@ -1,0 +1,189 @@
+#include "ui/graph/model/RecordGraph.h"
+
+#include "card/CardContainer.h"
+#include "profile/Profile.h"
+#include "trace/TraceSet.h"
+#include "ui/graph/model/TraceSlot.h"
+
+#include <algorithm>
+#include <numeric>
+#include <utility>
+
+namespace ZARN {
+
+RecordGraph::RecordGraph(const Session& session, GraphModel& model) : mSession(session), mModel(model), mSettings(session.property)
+{
+    mModel.traces().setCount(kSlots);
+    mModel.setOfflineMode(true);
+    // A floating cursor to begin with, so that the whole record stays in view while time passes.
+    mModel.settings() = GraphData{.cursorMode = eFloating};
+    mModel.settingsChanged();
+    updateProfile();
+}
+
+/// Calls with slot and trace of each selected parameter, as far as there are slots. @return how many
+template <typename Visitor> int RecordGraph::forEachTrace(const RecordData* pRecord, Visitor visit) const
+{
+    const TraceSet traces(pRecord, mSession.profile, ENumber::eDisplay, TraceSet::selected(mSession.profile.selection()));
+    const int used = std::min(static_cast<int>(traces.size()), kSlots);
+    for (int slot = 0; slot < used; ++slot)
+        visit(slot, traces[static_cast<std::size_t>(slot)]);
+    return used;
+}
+
+void RecordGraph::describeSlots()
+{
+    ShownTraces& traces = mModel.traces();
+    const int used = forEachTrace(nullptr, [&](int slot, const Trace& trace) { describeSlot(traces, slot, trace); });
+    for (int slot = used; slot < kSlots; ++slot)
+        traces.setActive(slot, false);
+    std::vector<int> inUse(static_cast<std::size_t>(used));
+    std::iota(inUse.begin(), inUse.end(), 0);
+    traces.setOrder(mStrips.slotsFor(names(inUse)));
+    updateSettings();
+}
+
+void RecordGraph::updateProfile()
+{
+    describeSlots();
+    // Another parameter may have taken a slot: no trace may keep the samples of the one before.
+    fillRecord();
+    mKeepsWindow = true;
+}
+
+void RecordGraph::update(RecordData* pRecord)
+{
+    describeSlots();
+    updateRecord(pRecord);
+}
+
+std::vector<QString> RecordGraph::names(const std::vector<int>& slotNumbers) const
+{
+    std::vector<QString> out;
+    for (const int slot : slotNumbers)
+        out.push_back(mModel.traces().at(slot)->name);
+    return out;
+}
+
+void RecordGraph::keepStrips()
+{
+    mStrips.keep(names(mModel.traces().shown()));
+}
+
+void RecordGraph::fillRecord()
+{
+    const TimeWindow window = mModel.window();
+    mModel.clear();
+    if (mpRecord)
+        forEachTrace(mpRecord, [this](int slot, const Trace& trace) { fillSlot(mModel, slot, trace); });
+    // Filling moves the window of the automatic mode along.
+    mModel.setWindow(window);
+    mModel.setMessage(emptyMessage());
+}
+
+QString RecordGraph::emptyMessage() const
+{
+    const bool isLive = mZarnMode != 0; // with neither card nor profile panel in sight
+    if (!mpRecord && isLive)
+        return tr("No record is loaded.");
+    if (!mpRecord)
+        return tr("No record is loaded.\nOpen a card folder and choose a power cycle or a flight.");
+    if (mModel.traces().count() == 0 && isLive)
+        return tr("No parameter is selected.");
+    if (mModel.traces().count() == 0)
+        return tr("No parameter is selected.\nTick the parameters to show in the profile panel.");
+    return {};
+}
+
+void RecordGraph::updateRecord(RecordData* pRecord)
+{
+    // The same once more is the same in another unit.
+    const RecordKey key = pRecord ? recordKey() : mMarkedRecord;
+    mKeepsWindow = mpRecord && mpRecord == pRecord && key == mMarkedRecord && span() == mSpan;
+    mpRecord = pRecord;
+    fillRecord();
+    if (!mpRecord || mKeepsWindow)
+        return;
+    if (!(key == mMarkedRecord))
+        mModel.setMarker({});
+    mMarkedRecord = key;
+    mSpan = span();
+    zoomAll();
+    mModel.setCursorPosition(mSpan.start);
+}
+
+RecordGraph::RecordKey RecordGraph::recordKey() const
+{
+    // A flight counts its times as its power cycle does: there the marker still stands where it was set.
+    const CardContainer& container = mSession.container;
+    const RecordCycle* pCycle = container.loadedCycle();
+    return {container.path(), container.loadedCycleNumber(), pCycle ? pCycle->dateTime : container.dateTime(),
+            pCycle ? pCycle->endTime : container.endTime()};
+}
+
+void RecordGraph::setTime(double time)
+{
+    // Where the view time stays, what the user has zoomed to stays too.
+    const bool isKept = std::exchange(mKeepsWindow, false) && static_cast<float>(time) == static_cast<float>(mModel.cursor().time);
+    if (!isKept)
+        showTime(time);
+}
+
+void RecordGraph::showTime(double time)
+{
+    mModel.setCursorPosition(time);
+    mModel.setWindow(mModel.window().keeping(time));
+}
+
+void RecordGraph::setZarnMode(int mode)
+{
+    mZarnMode = mode;
+    mModel.setMessage(emptyMessage());
+}
+
+bool RecordGraph::hasSamples() const
+{
+    return std::ranges::any_of(mModel.traces().shown(), [this](int index) { return !mModel.traces().at(index)->samples.empty(); });
+}
+
+TimeSpan RecordGraph::span() const
+{
+    return {mSession.container.startTime(), mSession.container.endTime()};
+}
+
+std::optional<TimeSpan> RecordGraph::shownSpan() const
+{
+    const TimeWindow& window = mModel.window();
+    return hasSamples() ? std::optional(TimeSpan{window.begin(), window.end()}) : std::nullopt;
+}
+
+void RecordGraph::zoomAll()
+{
+    if (mpRecord)
+        mModel.setWindow(TimeWindow::ofRecord(span().start, span().end));
+}
+
+void RecordGraph::setRange(float seconds)
+{
+    // In the automatic mode the end of the window stays, and the cursor, or all of the record, would soon be left behind.
+    const double cursor = mModel.cursor().time;
+    const bool wasInSight = mModel.window().contains(cursor);
+    const auto width = static_cast<double>(seconds);
+    mModel.setWindow(mModel.window().ofWidth(width, mModel.settings().graphMode));
+    mModel.settings().xRange = width;
+    const bool isBeside = mModel.window().end() < span().start || mModel.window().begin() > span().end;
+    if (mpRecord && (wasInSight || isBeside))
+        showTime(cursor);
+}
+
+void RecordGraph::clear()
+{
+    mModel.clear();
+    if (!mpRecord || mModel.traces().count() == 0)
+        return;
+    mModel.setMessage(mZarnMode != 0 ? tr("The graph was cleared.")
+                                     : tr("The graph was cleared.\nTick a parameter in the profile panel, or choose another power cycle or "
+                                          "flight, to fill it again."));
+}
+
+} // namespace ZARN

@@ -1,0 +1,79 @@
+#pragma once
+
+#include "analysis/TimeSpan.h"
+#include "project/Session.h"
+#include "ui/graph/model/GraphModel.h"
+#include "ui/graph/model/GraphSettings.h"
+#include "ui/graph/model/StripOrder.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+
+namespace ZARN {
+
+class RecordData;
+
+/// The graph of what is loaded: puts the selected parameters of the profile with their samples into the slots of a graph, and keeps its
+/// window about the common view time. Record and graph are not owned.
+class RecordGraph {
+    Q_DECLARE_TR_FUNCTIONS(ZARN::RecordGraph)
+
+public:
+    static constexpr int kSlots = 30;
+
+    RecordGraph(const Session& session, GraphModel& model);
+
+    void updateProfile();
+    void updateRecord(RecordData* pRecord);
+    /// Both in one pass over the record.
+    void update(RecordData* pRecord);
+    void updateSettings() { mSettings.load(mModel); }
+    void storeSettings() { mSettings.store(mModel); }
+    /// The common view time has changed.
+    void setTime(double time);
+    void setZarnMode(int mode);
+    /// The user moved a strip.
+    void keepStrips();
+
+    [[nodiscard]] bool hasRecord() const { return mpRecord != nullptr; }
+    [[nodiscard]] bool hasSamples() const;
+    /// From the record's start to its end.
+    [[nodiscard]] TimeSpan span() const;
+    /// The part of the record that is seen; none where there is nothing to see.
+    [[nodiscard]] std::optional<TimeSpan> shownSpan() const;
+
+    void zoomAll();
+    /// Gives the window a width, and what was in sight stays there.
+    void setRange(float seconds);
+    /// Puts the cursor there, and the window around it.
+    void showTime(double time);
+    void clear();
+
+private:
+    /// What the marker was set in: another record has another time base.
+    struct RecordKey {
+        QString path;
+        std::optional<unsigned int> cycle;
+        QDateTime dateTime;
+        double endTime = 0.0;
+        bool operator==(const RecordKey&) const = default;
+    };
+    template <typename Visitor> int forEachTrace(const RecordData* pRecord, Visitor visit) const;
+    [[nodiscard]] std::vector<QString> names(const std::vector<int>& slotNumbers) const;
+    [[nodiscard]] RecordKey recordKey() const;
+    [[nodiscard]] QString emptyMessage() const;
+    void describeSlots();
+    void fillRecord();
+
+    const Session mSession;
+    GraphModel& mModel;
+    GraphSettings mSettings;
+    StripOrder mStrips;
+    RecordData* mpRecord = nullptr;
+    RecordKey mMarkedRecord;
+    TimeSpan mSpan{};
+    int mZarnMode = 0;
+    bool mKeepsWindow = false; // at the next setTime() to the time that is shown
+};
+
+} // namespace ZARN

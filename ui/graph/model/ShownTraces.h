@@ -1,0 +1,72 @@
+#pragma once
+
+#include "ui/graph/model/GraphParameter.h"
+
+#include <functional>
+#include <span>
+
+namespace ZARN {
+
+/// The slots of a graph with their traces: which are shown, in which order, what they are called and look like, which one stands out. Calls
+/// a handler at every change but of samples, which come by the million. An index that no slot has is nobody's and changes nothing.
+class ShownTraces {
+public:
+    explicit ShownTraces(std::function<void()> changed = {}) : mChanged(std::move(changed)) {}
+
+    /// That many new ones, none of them shown.
+    void setCount(int count);
+    [[nodiscard]] const std::vector<GraphParameter>& all() const { return mTraces; }
+    /// Null for an index that no slot has.
+    [[nodiscard]] const GraphParameter* at(int index) const;
+    /// The active ones in the order of their strips.
+    [[nodiscard]] const std::vector<int>& shown() const { return mShown; }
+    [[nodiscard]] int count() const { return static_cast<int>(mShown.size()); } ///< of those
+    [[nodiscard]] bool isShown(int index) const;
+    /// Changes with whatever vertices are made from.
+    [[nodiscard]] std::size_t generation() const { return mGeneration; }
+
+    void setActive(int index, bool on);
+    void setName(int index, const QString& name, const QString& unit);
+    void setPrecision(int index, int digits);
+    void setSamplesVisible(int index, bool on);
+    void setBands(int index, std::vector<GraphBand> bands);
+    /// The user's own choice; an invalid one gives back the colour that the slot has by itself.
+    void setColour(int index, const QColor& colour);
+    /// What the traces are drawn on.
+    void setGround(const QColor& colour);
+    /// Puts a strip into the place of another. @return false when one of them does not exist, or both are one
+    bool move(int from, int to);
+    /// The strips from top to bottom; slots that are not named follow in their own order.
+    void setOrder(const std::vector<int>& slotOrder);
+
+    /// The pointer is on what stands for a trace; -1 for none.
+    void point(int index);
+    /// The trace stands out while the pointer is on no other, or no longer. Forgotten when the slot shows something else.
+    void togglePin(int index);
+    /// The trace that stands out; -1 for none.
+    [[nodiscard]] int highlighted() const { return mPointed >= 0 ? mPointed : mPinned; }
+    /// The trace whose values stand at the axis of a single graph; -1 when there is none.
+    [[nodiscard]] int axis() const { return highlighted() >= 0 ? highlighted() : mShown.empty() ? -1 : mShown.front(); }
+
+    void reserve(int index, std::size_t samples);
+    void append(int index, std::span<const double> times, std::span<const double> values);
+    void clearSamples();
+    /// The value in force at a time, and that of the first sample before it; none without samples.
+    [[nodiscard]] std::optional<double> valueAt(int index, double time) const;
+
+private:
+    [[nodiscard]] GraphParameter* slot(int index);
+    void updateShown();
+    void changed() const;
+
+    std::function<void()> mChanged;
+    std::vector<GraphParameter> mTraces;
+    std::vector<int> mOrder; // of strips, all slots
+    std::vector<int> mShown;
+    QColor mGround{Qt::white};
+    int mPointed = -1;
+    int mPinned = -1;
+    std::size_t mGeneration = 1;
+};
+
+} // namespace ZARN
