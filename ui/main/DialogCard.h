@@ -32,6 +32,8 @@ public:
     void focusList();
     /// Marks the record files with which something is wrong, after the folder was read or records were loaded.
     void showProblems();
+    /// Marks what was chosen elsewhere, without loading it. A choice still waiting is dropped.
+    void choose(unsigned int cycle, int flight);
     /// Lists the flights of a loaded cycle below it, in place of those that stood there.
     void addFlights(unsigned int cycle);
 

@@ -34,7 +34,7 @@ enum EMainAction : int {
 struct MainAction {
     int id;
     const char* text;
-    const char* shortcut;
+    const char* shortcut; ///< or several, with "; " between them
     const char* statusTip;
     const char* iconText; ///< empty for the text itself
     const char* icon;

@@ -11,6 +11,7 @@
 #include <QStackedWidget>
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 namespace ZARN {
@@ -98,9 +99,9 @@ void OverviewController::show(const Incident& incident)
     const double length = std::max(incident.end - incident.start, kLeastLength);
     const double middle = (incident.start + incident.end) / 2;
     const Episode& leading = incident.episodes[incident.leading];
-    std::vector<std::string> names;
+    std::set<std::string> names;
     for (const Episode& episode : incident.episodes)
-        names.push_back(episode.parameter);
+        names.insert(episode.parameter);
     mPages.setCurrentWidget(&mData);
     mData.showInGraph({middle - length * (0.5 + kMargin), middle + length * (0.5 + kMargin)}, names);
     mRecord.setTime(leading.peak ? leading.peakTime : leading.start);

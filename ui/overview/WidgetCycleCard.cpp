@@ -107,8 +107,8 @@ void WidgetCycleCard::addIncidents(QBoxLayout& layout)
         layout.addWidget(pRow);
     }
     if (sentences.size() > kRowsShown) {
-        const int others = static_cast<int>(sentences.size() - kRowsShown);
-        layout.addWidget(makeLabel(new QLabel(tr("and %n other(s); the lists of the cycle have them all", nullptr, others)), "quiet"));
+        const QString others = tr("More sentences: %1. The lists of the cycle have them all.").arg(sentences.size() - kRowsShown);
+        layout.addWidget(makeLabel(new QLabel(others), "quiet"));
     }
 }
 

@@ -39,11 +39,11 @@ QString OverviewTexts::troubles(const CycleOverview& cycle)
     if (stops > 0)
         parts.append(tr("engine stopped in flight"));
     if (limits > 0)
-        parts.append(tr("%n limit(s) exceeded", nullptr, limits));
+        parts.append(limits == 1 ? tr("1 limit exceeded") : tr("%1 limits exceeded").arg(limits));
     if (faults > 0)
-        parts.append(tr("%n fault(s)", nullptr, faults));
+        parts.append(faults == 1 ? tr("1 fault") : tr("%1 faults").arg(faults));
     if (warnings > 0)
-        parts.append(tr("%n warning(s)", nullptr, warnings));
+        parts.append(warnings == 1 ? tr("1 warning") : tr("%1 warnings").arg(warnings));
     QString text = parts.join(", ");
     text[0] = text[0].toUpper();
     return text;
@@ -59,7 +59,7 @@ QString OverviewTexts::origin(const CycleOverview& cycle)
         text += ", " + tr("clock not set");
     }
     const int flights = static_cast<int>(cycle.flights.size());
-    return text + ", " + (flights == 0 ? tr("on the ground") : tr("%n flight(s)", nullptr, flights));
+    return text + ", " + (flights == 0 ? tr("on the ground") : flights == 1 ? tr("1 flight") : tr("%1 flights").arg(flights));
 }
 
 std::vector<OverviewTexts::Figure> OverviewTexts::figures(const CycleOverview& cycle)
