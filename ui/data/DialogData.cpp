@@ -170,6 +170,13 @@ std::optional<TimeSpan> DialogData::graphSpan() const
     return mViews.view(eViewGraph).shownSpan();
 }
 
+void DialogData::showInGraph(const TimeSpan& span, const std::set<std::string>& parameters)
+{
+    mpTabs->setCurrentIndex(eViewGraph);
+    mLinks[eViewGraph]->update(); // what it shows already stays
+    mViews.view(eViewGraph).showSpan(span, parameters);
+}
+
 void DialogData::moveFrom(const QWidget& view, double time)
 {
     mRecord.setTime(time, &view);

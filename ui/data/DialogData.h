@@ -45,6 +45,8 @@ public:
     void moveFrom(const QWidget& view, double time);
     /// What the graph shows; none when it is empty.
     [[nodiscard]] std::optional<TimeSpan> graphSpan() const;
+    /// Brings the graph to the front with that part of the record, and parameters of these names beside the ticked ones.
+    void showInGraph(const TimeSpan& span, const std::set<std::string>& parameters);
 
 public Q_SLOTS:
     void slotTableTime(double time) { moveFrom(eViewTable, time); }

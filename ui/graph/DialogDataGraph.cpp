@@ -99,6 +99,12 @@ void DialogDataGraph::setZarnMode(int mode)
     mRecord.setZarnMode(mode);
 }
 
+void DialogDataGraph::showSpan(const TimeSpan& span, const std::set<std::string>& parameters)
+{
+    mRecord.showSpan(span, parameters);
+    updateSetup();
+}
+
 std::optional<TimeSpan> DialogDataGraph::shownSpan() const
 {
     return mRecord.shownSpan();

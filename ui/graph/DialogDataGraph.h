@@ -28,6 +28,7 @@ public:
     void setZarnMode(int mode) override;
     void updateSettings() override;
     [[nodiscard]] std::optional<TimeSpan> shownSpan() const override;
+    void showSpan(const TimeSpan& span, const std::set<std::string>& parameters) override;
 
     [[nodiscard]] WidgetGraphES& graph() { return *mpGraph; }
     [[nodiscard]] GraphData& graphData();

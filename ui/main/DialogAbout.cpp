@@ -2,7 +2,7 @@
 
 #include "app/Revision.h"
 #include "app/gui/ImageHandler.h"
-#include "ui/main/Heading.h"
+#include "app/gui/Heading.h"
 
 #include <QDialogButtonBox>
 #include <QFile>

@@ -176,6 +176,20 @@ QTreeWidgetItem* DialogCard::cycleItem(unsigned int cycle) const
     return nullptr;
 }
 
+void DialogCard::choose(unsigned int cycle, int flight)
+{
+    mpTimer->stop();
+    mpCycleTimer->stop();
+    clearSelection(*mpRawData);
+    QTreeWidgetItem* pItem = cycleItem(cycle);
+    const auto found = mContainer.recordCycles().find(cycle);
+    if (!pItem || found == mContainer.recordCycles().end())
+        return;
+    addFlights(cycle);
+    const QSignalBlocker blocker(mpCycles);
+    mpCycles->setCurrentItem(flight >= 0 && flight < pItem->childCount() ? pItem->child(flight) : pItem);
+}
+
 void DialogCard::addFlights(unsigned int cycle)
 {
     const auto found = mContainer.recordCycles().find(cycle);

@@ -34,6 +34,8 @@ public:
     void focusList();
     /// Marks the record files with which something is wrong, after the folder was read or records were loaded.
     void showProblems();
+    /// Marks what was chosen elsewhere, without loading it. A choice still waiting is dropped.
+    void choose(unsigned int cycle, int flight);
     /// Lists the flights of a loaded cycle below it, in place of those that stood there.
     void addFlights(unsigned int cycle);
     /// Chooses the loaded cycle or flight, without loading it; nothing when what is loaded is none of them.

@@ -20,6 +20,7 @@
 #include "ui/main/ExportController.h"
 #include "ui/main/MainActions.h"
 #include "ui/main/Notices.h"
+#include "ui/main/OverviewController.h"
 #include "ui/main/ProfileController.h"
 #include "ui/main/ProjectController.h"
 #include "ui/main/RecentFolders.h"
@@ -163,6 +164,9 @@ void DialogMain::createMenus()
     QMenu* pExtras = menuBar()->addMenu(tr("&Extras"));
     for (const int id : {eActionPreferences, eActionExportKml, eActionExportCsv})
         pExtras->addAction(action(id));
+    pExtras->addSeparator();
+    for (const int id : {eActionOverview, eActionPreviousIncident, eActionNextIncident})
+        pExtras->addAction(action(id));
     QMenu* pHelp = menuBar()->addMenu(tr("&Help"));
     for (const int id : {eActionPreferences, eActionAbout, eActionProfile})
         pHelp->addAction(action(id));
@@ -180,6 +184,9 @@ void DialogMain::createToolBar()
     pFolderButton->setToolButtonStyle(Qt::ToolButtonTextBesideIcon); // the one to begin with; all others are told by their tool tips
     pFolderButton->setMenu(mpFolderMenu);
     pFolderButton->setPopupMode(QToolButton::MenuButtonPopup);
+    mpToolBar->addSeparator();
+    for (const int id : {eActionOverview, eActionPreviousIncident, eActionNextIncident})
+        mpToolBar->addAction(action(id));
     mpToolBar->addSeparator();
     mpToolBar->addAction(action(eActionExportKml));
     addMorePaths();
@@ -263,6 +270,7 @@ void DialogMain::createControllers()
     mpProjectController = new ProjectController(mSession, this);
     mpExportController = new ExportController(
         mSession, *mpCardController, [this] { return mpData->graphSpan(); }, this);
+    mpOverview = new OverviewController(mSession, mRecord, *mpCardController, *mpCard, *mpData, *mpCentre, *action(eActionOverview), this);
     mpProfileController = std::make_unique<ProfileController>(mSession, *mpCatalogue, *mpProfiles, *mpUnits);
     mpLayout = std::make_unique<WindowLayout>(mSession.property, *this, *mpSplitter, *mpSide);
     mpAbout = new DialogAbout(this);

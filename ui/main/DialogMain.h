@@ -30,6 +30,7 @@ class DialogData;
 class DialogPreferences;
 class DialogProfile;
 class ExportController;
+class OverviewController;
 class Notices;
 class ProfileCatalogue;
 class ProfileController;
@@ -160,6 +161,7 @@ private:
     CardController* mpCardController = nullptr;
     ProjectController* mpProjectController = nullptr;
     ExportController* mpExportController = nullptr;
+    OverviewController* mpOverview = nullptr;
     QString mStyleFile;
     QDateTime mStyleTime; ///< of the style file as it was last applied
     QTimer mStartTimer;

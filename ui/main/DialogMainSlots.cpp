@@ -21,6 +21,7 @@
 #include "ui/main/ExportController.h"
 #include "ui/main/MainActions.h"
 #include "ui/main/Notices.h"
+#include "ui/main/OverviewController.h"
 #include "ui/main/ProfileController.h"
 #include "ui/main/ProjectController.h"
 #include "ui/main/StatusProgress.h"
@@ -56,6 +57,9 @@ void DialogMain::slotMenu(QAction* pAction)
     case eActionExportCsv: mpExportController->exportCsv(); break;
     case eActionExportGpx: mpExportController->exportGpx(); break;
     case eActionReport: mpExportController->writeReport(); break;
+    case eActionOverview: mpOverview->toggle(pAction->isChecked()); break;
+    case eActionNextIncident:
+    case eActionPreviousIncident: mpOverview->step(id == eActionNextIncident); break;
     default: showInformation(id);
     }
 }
@@ -213,8 +217,10 @@ void DialogMain::slotFolderChanged()
     const bool everOpened = !mSession.property.getString("LastPath", "").empty() || !mDesktop.cmdLine.operand().empty();
     mpWelcome->setProblem(everOpened ? mpCardController->problem() : QString());
     mpWelcome->setState(mSession.container.recordFiles().empty() ? WidgetWelcome::eNoCard : WidgetWelcome::eChoose);
-    if (!mEmu)
-        mpCentre->setCurrentWidget(mpWelcome);
+    if (mEmu)
+        return;
+    mpCentre->setCurrentWidget(mpWelcome);
+    mpOverview->showCard();
 }
 
 void DialogMain::showProblems()
@@ -227,7 +233,7 @@ void DialogMain::showProblems()
 
 void DialogMain::updateExports()
 {
-    for (const int id : {eActionExportKml, eActionExportCsv, eActionExportGpx, eActionReport})
+    for (const int id : {eActionExportKml, eActionExportCsv, eActionExportGpx, eActionReport, eActionNextIncident, eActionPreviousIncident})
         action(id)->setEnabled(mpCardController->hasData());
 }
 

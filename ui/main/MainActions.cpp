@@ -53,6 +53,12 @@ const std::vector<MainAction>& MainAction::all()
          QT_TRANSLATE_NOOP("ZARN::DialogMain", "Export Flight Path as GPX File"), "", "flight"},
         {eActionReport, QT_TRANSLATE_NOOP("ZARN::DialogMain", "Flight Report"), "",
          QT_TRANSLATE_NOOP("ZARN::DialogMain", "Write Flight Report as PDF File"), "", "about"},
+        {eActionOverview, QT_TRANSLATE_NOOP("ZARN::DialogMain", "Overview"), "Ctrl+E",
+         QT_TRANSLATE_NOOP("ZARN::DialogMain", "Was the engine all right? The whole card at a glance"), "", "verdict"},
+        {eActionNextIncident, QT_TRANSLATE_NOOP("ZARN::DialogMain", "Next Incident"), "N; Ctrl+Down",
+         QT_TRANSLATE_NOOP("ZARN::DialogMain", "Go to the next incident of what is loaded"), "", "incident-next"},
+        {eActionPreviousIncident, QT_TRANSLATE_NOOP("ZARN::DialogMain", "Previous Incident"), "Shift+N; Ctrl+Up",
+         QT_TRANSLATE_NOOP("ZARN::DialogMain", "Go to the previous incident of what is loaded"), "", "incident-previous"},
     };
     // clang-format on
     return actions;
@@ -67,7 +73,7 @@ QAction* MainAction::create(QObject* pParent) const
 {
     auto* pAction = new QAction(ImageHandler::icon(icon), translated(text), pParent);
     pAction->setData(id);
-    pAction->setShortcut(QKeySequence(shortcut));
+    pAction->setShortcuts(QKeySequence::listFromString(shortcut)); // the second for where letters are typed
     pAction->setStatusTip(translated(statusTip));
     if (*iconText)
         pAction->setIconText(translated(iconText));

@@ -24,14 +24,17 @@ enum EMainAction : int {
     eActionExportKml = 17,
     eActionExportCsv = 18,
     eActionExportGpx = 19,
-    eActionReport = 20
+    eActionReport = 20,
+    eActionOverview = 21,
+    eActionNextIncident = 22,
+    eActionPreviousIncident = 23
 };
 
 /// One command of the main window: texts to be translated, the shortcut, the name of its icon.
 struct MainAction {
     int id;
     const char* text;
-    const char* shortcut;
+    const char* shortcut; ///< or several, with "; " between them
     const char* statusTip;
     const char* iconText; ///< empty for the text itself
     const char* icon;

@@ -1,7 +1,7 @@
 #include "ui/main/WidgetWelcome.h"
 
 #include "app/gui/ImageHandler.h"
-#include "ui/main/Heading.h"
+#include "app/gui/Heading.h"
 
 #include <QEvent>
 #include <QFontInfo>

@@ -3,6 +3,8 @@
 #include "analysis/TimeSpan.h"
 
 #include <optional>
+#include <set>
+#include <string>
 
 namespace ZARN {
 
@@ -58,6 +60,8 @@ public:
 
     /// The part of the record that the user looks at, where a view has one.
     [[nodiscard]] virtual std::optional<TimeSpan> shownSpan() const { return {}; }
+    /// Shows that part of the record, and the parameters of these names whether they are ticked or not.
+    virtual void showSpan(const TimeSpan& /*span*/, const std::set<std::string>& /*parameters*/) {}
 
 protected:
     DataView() = default;

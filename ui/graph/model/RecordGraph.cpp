@@ -24,10 +24,16 @@ RecordGraph::RecordGraph(const Session& session, GraphModel& model) : mSession(s
 /// Calls with slot and trace of each selected parameter, as far as there are slots. @return how many
 template <typename Visitor> int RecordGraph::forEachTrace(const RecordData* pRecord, Visitor visit) const
 {
-    const TraceSet traces(pRecord, mSession.profile, ENumber::eDisplay, TraceSet::selected(mSession.profile.selection()));
-    const int used = std::min(static_cast<int>(traces.size()), kSlots);
-    for (int slot = 0; slot < used; ++slot)
-        visit(slot, traces[static_cast<std::size_t>(slot)]);
+    const TraceSet traces(pRecord, mSession.profile, ENumber::eDisplay, [this](const ProfileDevice&, const ProfileParameter& parameter) {
+        return mSession.profile.isSelected(parameter.name) || mBeside.contains(parameter.name);
+    });
+    const auto isBeside = [this](const auto& pTrace) { return mBeside.contains(pTrace->name()); };
+    // What was asked for last has its place before what was ticked.
+    int ticked = kSlots - static_cast<int>(std::ranges::count_if(traces.traces(), isBeside)), used = 0;
+    for (const auto& pTrace : traces.traces()) {
+        if (used < kSlots && (isBeside(pTrace) || ticked-- > 0))
+            visit(used++, *pTrace);
+    }
     return used;
 }
 
@@ -101,6 +107,10 @@ void RecordGraph::updateRecord(RecordData* pRecord)
     const RecordKey key = pRecord ? recordKey() : mMarkedRecord;
     mKeepsWindow = mpRecord && mpRecord == pRecord && key == mMarkedRecord && span() == mSpan;
     mpRecord = pRecord;
+    if (!mBeside.empty() && !(key == mMarkedRecord)) {
+        mBeside.clear();
+        describeSlots();
+    }
     fillRecord();
     if (!mpRecord || mKeepsWindow)
         return;
@@ -163,6 +173,16 @@ std::optional<TimeSpan> RecordGraph::shownSpan() const
 {
     const TimeWindow& window = mModel.window();
     return hasSamples() ? std::optional(TimeSpan{window.begin(), window.end()}) : std::nullopt;
+}
+
+void RecordGraph::showSpan(const TimeSpan& span, std::set<std::string> beside)
+{
+    if (!mpRecord)
+        return;
+    mBeside = std::move(beside);
+    describeSlots();
+    fillRecord();
+    mModel.setWindow({span.start, span.end});
 }
 
 void RecordGraph::zoomAll()

@@ -9,6 +9,8 @@
 #include <QCoreApplication>
 #include <QDateTime>
 
+#include <set>
+
 namespace ZARN {
 
 class RecordData;
@@ -45,6 +47,8 @@ public:
     [[nodiscard]] std::optional<TimeSpan> shownSpan() const;
 
     void zoomAll();
+    /// Shows a part of the record, with parameters of these names beside the ticked ones until another record is shown.
+    void showSpan(const TimeSpan& span, std::set<std::string> beside);
     /// Gives the window a width, and what was in sight stays there.
     void setRange(float seconds);
     /// Puts the cursor there, and the window around it.
@@ -71,6 +75,7 @@ private:
     GraphModel& mModel;
     GraphSettings mSettings;
     StripOrder mStrips;
+    std::set<std::string> mBeside; ///< names of parameters that are shown without being ticked
     RecordData* mpRecord = nullptr;
     RecordKey mMarkedRecord;
     TimeSpan mSpan{};

@@ -1,17 +1,11 @@
-#include "ui/main/Heading.h"
+#include "app/gui/Heading.h"
 
 #include <QEvent>
 #include <QFontInfo>
 
 namespace ZARN {
 
-namespace {
-
-constexpr double kOfText = 1.7;
-
-} // namespace
-
-Heading::Heading(const QString& text, QWidget* pParent) : QLabel(text, pParent)
+Heading::Heading(const QString& text, QWidget* pParent, double size) : QLabel(text, pParent), mSize(size)
 {
     setObjectName("heading");
 }
@@ -21,7 +15,7 @@ void Heading::follow()
     if (!parentWidget())
         return;
     parentWidget()->ensurePolished();
-    const QString style = QString("font-size: %1px;").arg(qRound(kOfText * QFontInfo(parentWidget()->font()).pixelSize()));
+    const QString style = QString("font-size: %1px;").arg(qRound(mSize * QFontInfo(parentWidget()->font()).pixelSize()));
     if (style != styleSheet())
         setStyleSheet(style);
 }

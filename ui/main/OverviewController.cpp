@@ -1,0 +1,141 @@
+#include "ui/main/OverviewController.h"
+
+#include "card/CardContainer.h"
+#include "project/RecordSession.h"
+#include "ui/data/DialogData.h"
+#include "ui/main/CardController.h"
+#include "ui/main/DialogCard.h"
+#include "ui/overview/DialogOverview.h"
+
+#include <QAction>
+#include <QStackedWidget>
+
+#include <algorithm>
+#include <set>
+#include <utility>
+
+namespace ZARN {
+
+namespace {
+
+constexpr double kMargin = 0.2;       // of an incident's length, before and after it
+constexpr double kLeastLength = 10.0; // seconds that are shown of a short one
+
+} // namespace
+
+OverviewController::OverviewController(const Session& session, RecordSession& record, CardController& cards, DialogCard& browser,
+                                       DialogData& data, QStackedWidget& pages, QAction& action, QObject* pParent)
+    : QObject(pParent), mSession(session), mRecord(record), mCards(cards), mBrowser(browser), mData(data), mPages(pages), mAction(action),
+      mpOverview(new DialogOverview(session))
+{
+    mPages.addWidget(mpOverview);
+    mAction.setCheckable(true);
+    mAction.setEnabled(false);
+    connect(&mPages, &QStackedWidget::currentChanged, this, &OverviewController::slotPage);
+    connect(&mRecord, &RecordSession::recordChanged, this, &OverviewController::slotRecord);
+    connect(&mRecord, &RecordSession::decodingChanged, mpOverview, &DialogOverview::reset);
+    connect(mpOverview, &DialogOverview::signalFlight, this, &OverviewController::open);
+    connect(mpOverview, &DialogOverview::signalIncident, this, &OverviewController::openIncident);
+}
+
+void OverviewController::showCard()
+{
+    const bool hasCard = !mSession.container.recordCycles().empty();
+    mAction.setEnabled(hasCard);
+    mWanted.reset();
+    mpOverview->reset();
+    mpBefore = mPages.currentWidget() == mpOverview ? nullptr : mPages.currentWidget();
+    if (hasCard)
+        mPages.setCurrentWidget(mpOverview);
+}
+
+void OverviewController::toggle(bool isShown)
+{
+    if (isShown) {
+        mpBefore = mPages.currentWidget();
+        mPages.setCurrentWidget(mpOverview);
+    } else if (mpBefore) {
+        mPages.setCurrentWidget(mpBefore);
+    }
+    mAction.setChecked(mPages.currentWidget() == mpOverview);
+}
+
+void OverviewController::slotPage()
+{
+    mAction.setChecked(mPages.currentWidget() == mpOverview);
+}
+
+void OverviewController::open(uint32_t cycle, int flight)
+{
+    mWanted.reset();
+    mBrowser.choose(cycle, flight);
+    mCards.loadCycle(cycle, flight);
+}
+
+void OverviewController::openIncident(uint32_t cycle, const Incident& incident)
+{
+    if (mRecord.record() && mSession.container.loadedCycleNumber() == cycle && mSession.container.selectedFlightNumber() == 0)
+        return show(incident);
+    open(cycle, -1);
+    mWanted = {cycle, incident};
+}
+
+void OverviewController::slotRecord()
+{
+    if (!mWanted || !mRecord.record() || mSession.container.loadedCycleNumber() != mWanted->first)
+        return;
+    // When the views have the record: until then they begin with its start.
+    QMetaObject::invokeMethod(
+        this,
+        [this, wanted = *std::exchange(mWanted, {})] {
+            if (mSession.container.loadedCycleNumber() == wanted.first)
+                show(wanted.second);
+        },
+        Qt::QueuedConnection);
+}
+
+void OverviewController::show(const Incident& incident)
+{
+    const double length = std::max(incident.end - incident.start, kLeastLength);
+    const double middle = (incident.start + incident.end) / 2;
+    const Episode& leading = incident.episodes[incident.leading];
+    std::set<std::string> names;
+    for (const Episode& episode : incident.episodes)
+        names.insert(episode.parameter);
+    mPages.setCurrentWidget(&mData);
+    mData.showInGraph({middle - length * (0.5 + kMargin), middle + length * (0.5 + kMargin)}, names);
+    mRecord.setTime(leading.peak ? leading.peakTime : leading.start);
+}
+
+/// The incidents of what is loaded, found when they are asked for.
+void OverviewController::review()
+{
+    const unsigned version = mRecord.version().record + mRecord.version().flights + mRecord.version().decoding;
+    if (std::exchange(mReviewed, version) == version)
+        return;
+    const CardContainer& card = mSession.container;
+    const RecordCycle* pCycle = card.loadedCycle();
+    mIncidents.clear();
+    if (mRecord.record())
+        mIncidents = reviewCycle(card.values(), pCycle ? std::span<const RecordFlight>(pCycle->flights) : std::span<const RecordFlight>(),
+                                 pCycle ? pCycle->endTime : card.endTime())
+                         .incidents;
+}
+
+void OverviewController::step(bool forward)
+{
+    review();
+    constexpr double same = 0.001; // seconds
+    const double now = mRecord.viewTime();
+    const Incident* pNext = nullptr;
+    for (const Incident& incident : mIncidents) {
+        if (forward && incident.start > now + same && !pNext)
+            pNext = &incident;
+        if (!forward && incident.start < now - same)
+            pNext = &incident;
+    }
+    if (pNext)
+        mRecord.setTime(pNext->start);
+}
+
+} // namespace ZARN

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "project/Session.h"
+#include "ui/overview/model/CardReviewer.h"
+
+#include <QScrollArea>
+
+class QLabel;
+class QProgressBar;
+class QVBoxLayout;
+
+namespace ZARN {
+
+class WidgetCycleCard;
+
+/// The first thing to see of a card: was the engine all right? One card a power cycle, the newest first, each as soon as it is known. The
+/// main window owns it and opens what its signals name.
+class DialogOverview : public QScrollArea {
+    Q_OBJECT
+
+public:
+    explicit DialogOverview(const Session& session, QWidget* pParent = nullptr);
+
+    /// Begins anew: another card is open, or another profile or unit in force. Works when it is seen; hidden, it waits for that.
+    void reset();
+    /// Loads the newest flight, as Return does.
+    void chooseNewest();
+
+Q_SIGNALS:
+    /// @param flight from 0; -1 for the whole cycle
+    void signalFlight(uint32_t cycle, int flight);
+    /// An incident to show in the graph.
+    void signalIncident(uint32_t cycle, const ZARN::Incident& incident);
+
+protected:
+    void showEvent(QShowEvent* pEvent) override;
+    void keyPressEvent(QKeyEvent* pEvent) override;
+
+private:
+    void begin();
+    void addCycle(std::shared_ptr<const CycleOverview> pCycle);
+    void finish();
+    [[nodiscard]] QString cardText() const;
+
+    Session mSession;
+    CardReviewer mReviewer;
+    QLabel* mpCardText;
+    QProgressBar* mpProgress;
+    QLabel* mpEmpty;
+    QVBoxLayout* mpCards;
+    std::vector<WidgetCycleCard*> mCards;
+    bool mIsOld = false; ///< to be made anew when it is seen
+};
+
+} // namespace ZARN

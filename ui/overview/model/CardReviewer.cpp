@@ -1,0 +1,96 @@
+#include "ui/overview/model/CardReviewer.h"
+
+#include "app/Console.h"
+#include "card/CardContainer.h"
+#include "card/PowerUp.h"
+#include "profile/Profile.h"
+
+namespace ZARN {
+
+namespace {
+
+/// The loaded cycle of a container, as a value of its own.
+std::shared_ptr<CycleOverview> overviewOf(const CardContainer& card, uint32_t number)
+{
+    const RecordCycle& cycle = card.recordCycles().at(number);
+    auto pOverview = std::make_shared<CycleOverview>();
+    pOverview->number = number;
+    pOverview->name = cycle.name;
+    pOverview->dateTime = PowerUp::of(cycle);
+    pOverview->startTime = card.startTime();
+    pOverview->endTime = card.endTime();
+    pOverview->flights = cycle.flights;
+    pOverview->problem = QString::fromStdString(card.loadError());
+    if (pOverview->problem.isEmpty())
+        pOverview->review = reviewCycle(card.values(), cycle.flights, cycle.endTime);
+    return pOverview;
+}
+
+} // namespace
+
+CardReviewer::CardReviewer(const Session& session, QObject* pParent) : QObject(pParent), mSession(session)
+{
+    connect(&mTask, &BackgroundTask::signalProgress, this, &CardReviewer::signalProgress);
+    connect(&mTask, &BackgroundTask::signalFinished, this, &CardReviewer::finish);
+}
+
+void CardReviewer::start()
+{
+    stop();
+    mIsWanted = true;
+    if (!mTask.isRunning())
+        begin();
+}
+
+void CardReviewer::stop()
+{
+    mIsWanted = false;
+    ++mGeneration;
+    mTask.cancel();
+}
+
+void CardReviewer::begin()
+{
+    mIsWanted = false;
+    std::vector<uint32_t> numbers;
+    for (const auto& [number, cycle] : mSession.container.recordCycles())
+        numbers.push_back(number);
+    std::ranges::reverse(numbers);
+    mTask.start([this, context = mSession.profile.context(), path = mSession.container.path(), generation = mGeneration,
+                 numbers](Progress& progress) {
+        review(progress, context, path, numbers, [this, generation](std::shared_ptr<const CycleOverview> pCycle) {
+            QMetaObject::invokeMethod(
+                this,
+                [this, generation, pCycle] {
+                    if (generation == mGeneration)
+                        Q_EMIT signalReviewed(pCycle);
+                },
+                Qt::QueuedConnection);
+        });
+    });
+}
+
+void CardReviewer::finish()
+{
+    if (mIsWanted)
+        return begin();
+    if (!mTask.isCancelled())
+        Q_EMIT signalFinished();
+}
+
+/// In a thread of its own.
+void CardReviewer::review(Progress& progress, const DecodingContext& context, const QString& path, const std::vector<uint32_t>& numbers,
+                          const Tell& tell)
+{
+    const Console silent([](std::string_view) {}, [](std::string_view) {}); // the window has its own lines about the same files
+    CardContainer card(silent, context, nullProgress());
+    if (!card.readContainer(path))
+        return;
+    for (std::size_t i = 0; i < numbers.size() && !progress.isCancelled(); ++i) {
+        if (card.loadCycle(numbers[i], -1))
+            tell(overviewOf(card, numbers[i]));
+        progress.setProgress(static_cast<int>((i + 1) * 100 / numbers.size()));
+    }
+}
+
+} // namespace ZARN

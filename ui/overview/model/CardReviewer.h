@@ -1,0 +1,45 @@
+#pragma once
+
+#include "app/BackgroundTask.h"
+#include "project/Session.h"
+#include "ui/overview/model/CycleOverview.h"
+
+#include <QObject>
+
+namespace ZARN {
+
+class DecodingContext;
+
+/// Reviews all cycles of a card, the newest first, while the window goes on, and tells each as soon as it is known. Reads the card by
+/// itself: what is loaded in the window stays as it is.
+class CardReviewer : public QObject {
+    Q_OBJECT
+
+public:
+    explicit CardReviewer(const Session& session, QObject* pParent = nullptr);
+
+    /// Begins with the card that is open now, under the profile and in the units that are in force; what was under way is dropped.
+    void start();
+    void stop();
+    [[nodiscard]] bool isRunning() const { return mTask.isRunning() || mIsWanted; }
+
+Q_SIGNALS:
+    void signalReviewed(std::shared_ptr<const ZARN::CycleOverview> pCycle);
+    void signalProgress(int percent);
+    void signalFinished();
+
+private:
+    using Tell = std::function<void(std::shared_ptr<const CycleOverview>)>;
+
+    void begin();
+    void finish();
+    static void review(Progress& progress, const DecodingContext& context, const QString& path, const std::vector<uint32_t>& numbers,
+                       const Tell& tell);
+
+    const Session mSession;
+    int mGeneration = 0; ///< of the run: what an earlier one still tells is old
+    bool mIsWanted = false;
+    BackgroundTask mTask; // the last: it waits for work that refers to the others
+};
+
+} // namespace ZARN
