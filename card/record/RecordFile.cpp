@@ -77,6 +77,7 @@ void RecordFile::scanFile(FILE* pFile)
 {
     recordCount = recordsOf(fileSize());
     samples = static_cast<uint32_t>(recordCount);
+    std::setvbuf(pFile, mHeaderBuffer.data(), _IOFBF, mHeaderBuffer.size());
     if (readInfo(pFile, true))
         noteDamage();
 }

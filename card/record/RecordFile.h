@@ -2,6 +2,8 @@
 
 #include "card/record/RecordReader.h"
 
+#include <array>
+
 namespace ZARN {
 
 /// Reads one record file: a 128-byte header and 28-byte data records, in the byte order that the mark at offset 0 tells.
@@ -15,7 +17,7 @@ public:
     static constexpr int64_t kHeaderSize = 128;
     static constexpr int64_t kRecordSize = 28;
 
-    /// @return false, leaving no info, when not all of it could be read.
+    /// The file then stands at its first record, unless the times were read. @return false, leaving no info, when not all could be read.
     bool readInfo(FILE* pFile, bool withTimes);
     /// Reads the data records from the file's position on. @return false only when no memory is left for them.
     bool readData(FILE* pFile, RecordData& data);
@@ -50,6 +52,7 @@ private:
     template <bool Swap> bool readRecords(FILE* pFile, RecordData& data);
     template <bool Swap> bool appendRecords(const uint8_t* pRecords, int32_t count, RecordData& data);
 
+    std::array<char, 512> mHeaderBuffer{}; ///< for the library, which would copy whole pages; lives longer than the file is open
     bool mHasMark = false; ///< the header begins with the mark, in either order
     bool swapped = false; ///< the file's byte order differs from the host's
     int32_t recordCount = 0;

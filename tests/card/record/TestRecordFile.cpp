@@ -346,6 +346,7 @@ void TestRecordFile::noFailedReadGoesUntold()
         FailingFile source{bytes, failing};
         FILE* pFile = source.open();
         const bool hasHeader = reader.file.readInfo(pFile, true);
+        std::fseek(pFile, RecordFile::kHeaderSize, SEEK_SET);
         QVERIFY(!hasHeader || reader.file.readData(pFile, reader.data));
         std::fclose(pFile);
         failed = source.readsLeft < 0;
