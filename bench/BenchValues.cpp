@@ -10,6 +10,7 @@
 #include "card/CardContainer.h"
 #include "card/record/ByteOrder.h"
 #include "export/ExportCsv.h"
+#include "profile/Profile.h"
 
 #include <benchmark/benchmark.h>
 
