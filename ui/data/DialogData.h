@@ -52,6 +52,9 @@ public Q_SLOTS:
     void slotLimitTime(double time) { moveFrom(eViewLimits, time); }
     void slotWarningTime(double time) { moveFrom(eViewWarnings, time); }
 
+    /// The lists have other events.
+    void slotEvents();
+
     void slotReplayMode();
     void slotReplayStop();
     void slotSlider(int position);
@@ -76,7 +79,6 @@ private:
     void setReplay(int state);
     void updateDisplay();
     void updateControls();
-    void updateEvents();
 
     RecordSession& mRecord;
     DataViews mViews;
