@@ -4,6 +4,7 @@
 #include "card/CardContainer.h"
 #include "card/record/ByteOrder.h"
 #include "card/record/RecordFile.h"
+#include "profile/Profile.h"
 
 #include <benchmark/benchmark.h>
 

@@ -5,6 +5,7 @@
 #include "app/gui/ImageHandler.h"
 #include "bench/BenchApplication.h"
 #include "card/CardContainer.h"
+#include "profile/Profile.h"
 #include "project/Project.h"
 #include "sim/DemoCard.h"
 #include "ui/data/DialogData.h"

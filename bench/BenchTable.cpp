@@ -3,6 +3,7 @@
 #include "app/Property.h"
 #include "bench/BenchApplication.h"
 #include "card/CardContainer.h"
+#include "profile/Profile.h"
 #include "project/Project.h"
 #include "ui/data/DialogDataTable.h"
 #include "ui/data/RowTable.h"
