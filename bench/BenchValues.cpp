@@ -8,6 +8,7 @@
 #include "app/SafeFile.h"
 #include "bench/BenchCard.h"
 #include "card/CardContainer.h"
+#include "profile/Profile.h"
 #include "card/record/ByteOrder.h"
 #include "export/ExportCsv.h"
 #include "profile/Profile.h"

@@ -18,6 +18,8 @@ template <typename View> DataViewEntry entry(View* pView)
     return {pView, pView, [pView](DialogData& area) {
                 if constexpr (requires { &View::signalTime; })
                     QObject::connect(pView, &View::signalTime, &area, [&area, pView](double time) { area.moveFrom(*pView, time); });
+                if constexpr (requires { &View::signalEvents; })
+                    QObject::connect(pView, &View::signalEvents, &area, &DialogData::slotEvents);
                 if constexpr (requires { &View::signalReport; })
                     QObject::connect(pView, &View::signalReport, &area, &DialogData::signalReport);
             }};

@@ -147,7 +147,7 @@ void DialogData::linkViews()
     }
     mLinks[eViewMap]->ignore(*mViews.entries[eViewWarnings].pWidget); // a lamp leaves the map where it is
     connect(&mRecord, &RecordSession::recordChanged, this, &DialogData::slotRecord);
-    connect(&mRecord, &RecordSession::decodingChanged, this, &DialogData::updateEvents);
+    connect(&mRecord, &RecordSession::decodingChanged, this, &DialogData::slotEvents);
     connect(&mRecord, &RecordSession::timeChanged, this, &DialogData::updateDisplay);
 }
 
@@ -155,7 +155,7 @@ void DialogData::slotRecord()
 {
     if (std::exchange(mReplayed, mRecord.version().record) != mRecord.version().record)
         setReplay(WidgetReplayBar::eStopped);
-    updateEvents();
+    slotEvents();
 }
 
 void DialogData::updateSettings()
@@ -277,7 +277,7 @@ void DialogData::updateControls()
     mpBar->setSpeed(mSpeed);
 }
 
-void DialogData::updateEvents()
+void DialogData::slotEvents()
 {
     for (const EDataView view : {eViewLimits, eViewWarnings}) {
         const int count = mViews.view(view).eventCount();

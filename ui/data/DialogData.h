@@ -54,6 +54,9 @@ public Q_SLOTS:
     void slotLimitTime(double time) { moveFrom(eViewLimits, time); }
     void slotWarningTime(double time) { moveFrom(eViewWarnings, time); }
 
+    /// The lists have other events.
+    void slotEvents();
+
     void slotReplayMode();
     void slotReplayStop();
     void slotSlider(int position);
@@ -78,7 +81,6 @@ private:
     void setReplay(int state);
     void updateDisplay();
     void updateControls();
-    void updateEvents();
 
     RecordSession& mRecord;
     DataViews mViews;

@@ -58,6 +58,7 @@ DialogDataEvents::DialogDataEvents(const Session& session, const Kind& kind, QWi
 {
     createTable();
     updateFonts();
+    connect(&mTask, &BackgroundTask::signalFinished, this, &DialogDataEvents::slotFound);
     mpHint->setObjectName("quiet");
     mpHint->setAlignment(Qt::AlignCenter);
     mpHint->setWordWrap(true);
@@ -127,8 +128,11 @@ bool DialogDataEvents::isInside(const Event& event) const
 void DialogDataEvents::updateRecord(RecordData* pRecord)
 {
     const QScopedValueRollback busy(mBusy, true);
+    mIsSought = false;
+    mIsOutdated = true;
     if (!mPrepared || pRecord != mpRecord)
-        prepare(pRecord);
+        mEvents = pRecord ? mKind.scan(*pRecord, mSession.profile) : EventList();
+    mpRecord = pRecord;
     mPrepared = false;
     mpTable->setRowCount(0);
     if (pRecord) {
@@ -141,8 +145,33 @@ void DialogDataEvents::updateRecord(RecordData* pRecord)
 void DialogDataEvents::prepare(RecordData* pRecord)
 {
     mpRecord = pRecord;
-    mEvents = pRecord ? mKind.scan(*pRecord, mSession.profile) : EventList();
+    mPrepared = false;
+    mIsOutdated = true;
+    mIsSought = pRecord != nullptr;
+    if (!mTask.isRunning())
+        find();
+}
+
+void DialogDataEvents::find()
+{
+    if (!mIsSought)
+        return;
+    mIsOutdated = false;
+    mTask.start([this, pRecord = mSession.container.record(), context = mSession.profile.context()](Progress& /*progress*/) {
+        mFound = mKind.scan(*pRecord, context);
+    });
+}
+
+void DialogDataEvents::slotFound()
+{
+    if (mIsOutdated)
+        return find();
+    mIsSought = false;
+    if (!mTask.error().isEmpty())
+        return; // they are looked for again when somebody wants to see them
+    mEvents = std::exchange(mFound, {});
     mPrepared = true;
+    Q_EMIT signalEvents();
 }
 
 void DialogDataEvents::fillTable()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "analysis/EventList.h"
+#include "app/BackgroundTask.h"
 #include "project/Session.h"
 #include "ui/data/model/DataView.h"
 
@@ -26,7 +27,7 @@ public:
     void updateProfile() override {}
     void updateRecord(RecordData* pRecord) override;
     void setTime(double time) override;
-    /// Finds the events; the rows wait until they are seen.
+    /// Finds the events in another thread, and tells when they are found; the rows wait until they are seen.
     void prepare(RecordData* pRecord) override;
 
     /// Those of the selected flight, or all.
@@ -36,6 +37,8 @@ public:
 Q_SIGNALS:
     /// The time of the event that the user chose, in seconds.
     void signalTime(double time);
+    /// The events of prepare() are found.
+    void signalEvents();
 
 protected:
     /// What a list is made of.
@@ -59,6 +62,8 @@ private Q_SLOTS:
 private:
     void createTable();
     void updateFonts();
+    void find();
+    void slotFound();
     void fillTable();
     [[nodiscard]] QTableWidgetItem* createText(const Event& event) const;
     [[nodiscard]] bool isInside(const Event& event) const;
@@ -72,11 +77,15 @@ private:
     EventList mEvents;
     QTableWidget* mpTable;
     QLabel* mpHint;
-    double mTime = 0.0;     ///< the view time that was told last
-    bool mPrepared = false; ///< the events are found, but not in the rows
+    double mTime = 0.0;       ///< the view time that was told last
+    bool mPrepared = false;   ///< the events are found, but not in the rows
+    bool mIsSought = false;   ///< they are to be found in another thread
+    bool mIsOutdated = false; ///< what is being found there is of no use any more
     bool mBusy = false;
     bool mReported = false; ///< the current row's time was told
     bool mUnseen = false;   ///< the row was selected while nobody saw it
+    EventList mFound;       ///< by the task
+    BackgroundTask mTask;
 };
 
 } // namespace ZARN

@@ -570,7 +570,7 @@ void TestDialogData::realViews()
     const auto tell = [&record] { QCoreApplication::sendPostedEvents(&record); };
     tell();
     auto* pLimits = area.findChild<DialogDataLimit*>();
-    QCOMPARE(pLimits->eventCount(), 1);
+    QTRY_COMPARE(pLimits->eventCount(), 1);
     Q_EMIT pLimits->signalTime(40.0);
     tell();
     QCOMPARE(area.viewTime(), 40.0);
