@@ -1,5 +1,6 @@
 #include "cli/CommandReport.h"
 
+#include "card/record/MemoryLimit.h"
 #include "cli/Resources.h"
 #include "report/FlightReport.h"
 
@@ -7,6 +8,12 @@
 #include <QTranslator>
 
 namespace ZARN {
+
+namespace {
+
+constexpr std::size_t kLeastMemory = std::size_t(56) << 20; // bytes; the libraries that draw text do not look whether they get theirs
+
+} // namespace
 
 CommandReport::CommandReport(CLI::App& program)
     : DataCommand(program, "report", "write a flight report as PDF", "zarn-cli report /media/card --flight 1 -o flight.pdf")
@@ -18,6 +25,8 @@ CommandReport::CommandReport(CLI::App& program)
 
 int CommandReport::runOnData()
 {
+    if (availableMemory() < kLeastMemory)
+        return fail("there is not enough memory for a report");
     qputenv("QT_QPA_PLATFORM", "offscreen"); // paper needs no display
     char name[] = "zarn-cli";
     char* arguments[] = {name, nullptr};

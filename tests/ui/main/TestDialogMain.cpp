@@ -160,6 +160,14 @@ void TestDialogMain::openCard()
 
 void TestDialogMain::refusedFolder()
 {
+    {
+        DesktopFixture desktop(home(), {home().toStdString() + "/gone"});
+        desktop.property.setString("LastPath", "/SD/other");
+        DialogMain& window = desktop.open();
+        const Answer answer(Answer::close);
+        started(window);
+        QCOMPARE(window.windowTitle(), QString("ZARN")); // not the card of the last run
+    }
     DesktopFixture desktop(home(), {card().toStdString()});
     DialogMain& window = desktop.open();
     started(window);
