@@ -17,8 +17,20 @@ namespace {
 
 // Of the font's own tables, in em.
 constexpr double kAdvance = 0.65;
+constexpr double kNarrow = 0.3;
 constexpr double kAscent = 0.965;
 constexpr double kLine = 1.22;
+
+double advance(QChar character)
+{
+    switch (character.unicode()) {
+    case '.':
+    case ',':
+    case ':':
+    case 0x00b7: return kNarrow;
+    default: return kAdvance;
+    }
+}
 
 QByteArray content(const char* name)
 {
@@ -62,7 +74,10 @@ QFont textFont(double size, bool bold)
 
 QSizeF canvasTextSize(const QString& text, double size, bool)
 {
-    return {std::ceil(static_cast<double>(text.size()) * kAdvance * size), std::ceil(kLine * size)};
+    double width = 0.0;
+    for (const QChar character : text)
+        width += advance(character);
+    return {std::ceil(width * size - 1e-6), std::ceil(kLine * size)};
 }
 
 double canvasAdvance(double size)

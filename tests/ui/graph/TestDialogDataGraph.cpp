@@ -14,7 +14,6 @@
 
 #include <QApplication>
 #include <QCheckBox>
-#include <QClipboard>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFileDialog>
@@ -144,7 +143,6 @@ private Q_SLOTS:
     void buttons();
     void heldZoom();
     void setup();
-    void menuCopiesValues();
     void snapshotAsksBeforeReplacing();
     void markerGoesWithCycle();
     void snapshots_data();
@@ -334,22 +332,6 @@ void TestDialogDataGraph::setup()
     pSetup->findChild<QCheckBox*>("clickMovesCursor")->click();
     QVERIFY(shown.property.getSwitch("GraphClickMovesCursor", false));
     pSetup->close();
-}
-
-void TestDialogDataGraph::menuCopiesValues()
-{
-    Shown shown;
-    shown.model.setMarker({100, 200});
-    QTimer::singleShot(200, [] {
-        if (auto* pMenu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
-            QTest::mouseClick(pMenu, Qt::LeftButton, {}, pMenu->actionGeometry(pMenu->actions().front()).center());
-            pMenu->close();
-        }
-    });
-    QTest::mouseClick(&shown.graph, Qt::RightButton, {}, shown.at(150));
-    const QString text = QGuiApplication::clipboard()->text();
-    QVERIFY2(text.contains("P1\tl/h\t12.000000\t12.000000\t0.000000"), qPrintable(text));
-    QVERIFY(text.contains("\tl\n"));
 }
 
 void TestDialogDataGraph::snapshotAsksBeforeReplacing()

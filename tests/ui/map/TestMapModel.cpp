@@ -346,8 +346,8 @@ void TestMapModel::picture()
 
 void TestMapModel::graticule()
 {
-    for (const auto& [degrees, step, expected] : {std::tuple(48.0 + 5.0 / 60, 5.0, "48\u00b005' N"), std::tuple(-0.5, 30.0, "0\u00b030' S"),
-                                                  std::tuple(11.00125, 0.005, "11\u00b000.075' N"), std::tuple(59.99999, 1.0, "60\u00b000' N")})
+    for (const auto& [degrees, step, expected] : {std::tuple(48.0 + 5.0 / 60, 5.0, "48\u00b005'N"), std::tuple(-0.5, 30.0, "0\u00b030'S"),
+                                                  std::tuple(11.00125, 0.005, "11\u00b000.075'N"), std::tuple(59.99999, 1.0, "60\u00b000'N")})
         QCOMPARE(Graticule::label(degrees, step, 'N', 'S'), QString::fromUtf8(expected));
     OpenStreet::Camera camera;
     camera.setWindowSize(800, 600);

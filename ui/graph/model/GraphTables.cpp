@@ -62,25 +62,31 @@ CanvasText GraphTables::style(bool isBold) const
     return {mLayout.textSize(), mModel.colours().label, isBold, Qt::AlignLeft | Qt::AlignTop, false};
 }
 
-QString GraphTables::legendText(int index) const
+QStringList GraphTables::legendNumbers(int index) const
 {
-    const GraphParameter& parameter = *mModel.traces().at(index);
+    const GraphParameter& trace = *mModel.traces().at(index);
     std::vector<std::optional<double>> values{mModel.traces().valueAt(index, mModel.cursor().time)};
     if (mLayout.legendKind() == GraphLayout::ELegend::eFull) {
-        const ValueRange<double> range = windowRange(mModel, parameter.samples);
+        const ValueRange<double> range = windowRange(mModel, trace.samples);
         for (const double value : {range.least, range.greatest})
             values.push_back(range.isEmpty() ? std::nullopt : std::optional(value));
     }
-    QString text;
+    QStringList texts;
     for (const std::optional<double>& value : values)
-        text += inColumn(value ? graphNumber(*value, parameter.precision) : QStringLiteral("-"));
-    const QString unit = GraphLayout::shortened(parameter.unit, GraphLayout::kLongestName / 2);
-    return unit.isEmpty() ? text : text + QStringLiteral(" [") + unit + QLatin1Char(']');
+        texts << (value ? graphNumber(*value, trace.precision) : QStringLiteral("-"));
+    return texts;
 }
 
-QString GraphTables::inColumn(const QString& text) const
+double GraphTables::drawColumns(Canvas& canvas, const QPointF& place, const QStringList& texts) const
 {
-    return QLatin1Char(' ') + text.rightJustified(mLayout.numberLength());
+    CanvasText right = style(false);
+    right.align = Qt::AlignRight | Qt::AlignTop;
+    double x = place.x();
+    for (const QString& text : texts) {
+        x += (mLayout.numberLength() + 1) * mLayout.character();
+        canvas.text(QPointF(std::round(x), place.y()), text, right);
+    }
+    return x;
 }
 
 void GraphTables::drawLegend(Canvas& canvas) const
@@ -104,17 +110,15 @@ void GraphTables::drawLegend(Canvas& canvas) const
     }
     drawLegendHeader(canvas);
     if (missing > 0)
-        canvas.text(last.bottomLeft() + QPointF(kSwatch + 6, 0),
-                    translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "%1 more")).arg(missing), style(false));
+        canvas.text(last.bottomLeft() + QPointF(kSwatch + 6, 0), translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "%1 more")).arg(missing),
+                    style(false));
 }
 
 void GraphTables::drawLegendHeader(Canvas& canvas) const
 {
-    QString text = inColumn(translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "Cursor")));
-    if (mLayout.legendKind() == GraphLayout::ELegend::eFull) {
-        text += inColumn(translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "Min")));
-        text += inColumn(translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "Max")));
-    }
+    QStringList texts{translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "Cursor"))};
+    if (mLayout.legendKind() == GraphLayout::ELegend::eFull)
+        texts << translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "Min")) << translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "Max"));
     // Strips have their lines at their own heights, so the header stands above the first.
     const bool isSplit = mModel.settings().displayMode == eSplit;
     const double y = mLayout.legend().top() - (isSplit ? mLayout.line() : 0.0);
@@ -123,7 +127,7 @@ void GraphTables::drawLegendHeader(Canvas& canvas) const
     for (std::size_t row = 0; row < mModel.traces().shown().size(); ++row) {
         const QRectF line = mLayout.legendLine(mModel, row);
         if (!line.isEmpty() && line.top() == first) // at the head of each column
-            canvas.text(QPointF(line.left() + names, y), text, style(false));
+            drawColumns(canvas, QPointF(line.left() + names, y), texts);
     }
 }
 
@@ -141,7 +145,10 @@ void GraphTables::drawLegendLine(Canvas& canvas, const QRectF& line, int index, 
         canvas.text(QPointF(x, line.top()), GraphLayout::shortened(parameter.name, mLayout.nameLength()), style(true));
     } else {
         const QPointF place(x + mLayout.nameLength() * mLayout.character(), line.top());
-        canvas.text(place, legendText(index), style(false));
+        const double end = drawColumns(canvas, place, legendNumbers(index));
+        const QString unit = GraphLayout::shortened(parameter.unit, GraphLayout::kLongestName / 2);
+        if (!unit.isEmpty())
+            canvas.text(QPointF(end, place.y()), QLatin1String(" [") + unit + QLatin1Char(']'), style(false));
     }
 }
 

@@ -20,9 +20,10 @@ private:
     void drawLegend(Canvas& canvas) const;
     void drawLegendHeader(Canvas& canvas) const;
     void drawLegendLine(Canvas& canvas, const QRectF& line, int index, ELayer layer) const;
-    /// What stands behind the name: the value at the cursor, the least and the greatest in the window, and the unit.
-    [[nodiscard]] QString legendText(int index) const;
-    [[nodiscard]] QString inColumn(const QString& text) const;
+    /// What stands behind the name: the value at the cursor, and where there is room the least and the greatest in the window.
+    [[nodiscard]] QStringList legendNumbers(int index) const;
+    /// Texts in columns of numbers, each at its column's right edge. @return where the last column ends
+    double drawColumns(Canvas& canvas, const QPointF& place, const QStringList& texts) const;
     void drawMarkerTable(Canvas& canvas) const;
     void drawRow(Canvas& canvas, double y, const QStringList& cells, const std::vector<int>& widths) const;
     [[nodiscard]] CanvasText style(bool isBold) const;

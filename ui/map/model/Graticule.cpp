@@ -43,8 +43,7 @@ QString Graticule::label(double degrees, double step, char positive, char negati
                parts = saturatingCast<qint64>(60.0 * unit);
     const QString minutes = QString::number(static_cast<double>(total % parts) / unit, 'f', decimals)
                                 .rightJustified(decimals > 0 ? 3 + decimals : 2, QLatin1Char('0'));
-    return QString::number(total / parts) + QChar(0x00B0) + minutes + QLatin1String("' ") +
-           QLatin1Char(degrees < 0.0 ? negative : positive);
+    return QString::number(total / parts) + QChar(0x00B0) + minutes + QLatin1Char('\'') + QLatin1Char(degrees < 0.0 ? negative : positive);
 }
 
 void Graticule::draw(Canvas& canvas, const CanvasPen& pen, const CanvasText& style, double bottom) const
@@ -72,7 +71,8 @@ void Graticule::draw(Canvas& canvas, const CanvasPen& pen, const CanvasText& sty
     for (double latitude = std::ceil(lower.latitude / step) * step; latitude <= upper.latitude; latitude += step) {
         const QPointF left = point(latitude, upper.longitude);
         lines.insert(lines.end(), {left, point(latitude, lower.longitude)});
-        canvas.text({3.0, left.y() - 1.0}, label(latitude, mStep, 'N', 'S'), style);
+        if (left.y() < bottom)
+            canvas.text({3.0, left.y() - 1.0}, label(latitude, mStep, 'N', 'S'), style);
     }
     canvas.lines(lines, pen);
 }

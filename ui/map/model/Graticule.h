@@ -11,11 +11,11 @@ public:
     /// @param spacing pixels between two lines at least
     Graticule(const OpenStreet::Camera& camera, double spacing);
 
-    /// @param bottom of the longitudes' labels, above which they stand
+    /// @param bottom of the longitudes' labels; below it there are none
     void draw(Canvas& canvas, const CanvasPen& pen, const CanvasText& style, double bottom) const;
     /// The distance of two lines in minutes.
     [[nodiscard]] double step() const { return mStep; }
-    /// "48°05' N"; with the decimals of the minutes that lines so many minutes apart need.
+    /// "48°05'N"; with the decimals of the minutes that lines so many minutes apart need.
     [[nodiscard]] static QString label(double degrees, double step, char positive, char negative);
 
 private:
