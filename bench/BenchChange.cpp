@@ -89,7 +89,16 @@ void fill(benchmark::State& state)
     }
 }
 
-// Flights and path are worked out anew by another thread; what they cost the views is in the figures.
+/// Flights and path are worked out anew by another thread; what they cost the views counts.
+void settleWithFlights(ChangeWindow& window, benchmark::State& state)
+{
+    ChangeWindow::settle();
+    state.PauseTiming();
+    window.container.recalculate(-1);
+    state.ResumeTiming();
+    window.record.changeFlights();
+    ChangeWindow::settle();
+}
 
 void changeUnit(benchmark::State& state)
 {
@@ -100,12 +109,7 @@ void changeUnit(benchmark::State& state)
         isImperial = !isImperial;
         window.profile.setCurrentUnit(isImperial ? EUnit::eImperial : EUnit::eMetric);
         window.record.changeUnit();
-        ChangeWindow::settle();
-        state.PauseTiming();
-        window.container.recalculate(-1);
-        state.ResumeTiming();
-        window.record.changeFlights();
-        ChangeWindow::settle();
+        settleWithFlights(window, state);
     }
 }
 
@@ -119,12 +123,7 @@ void changeVariant(benchmark::State& state)
         window.loadProfile(variant = 1 - variant);
         state.ResumeTiming();
         window.record.changeProfile();
-        ChangeWindow::settle();
-        state.PauseTiming();
-        window.container.recalculate(-1);
-        state.ResumeTiming();
-        window.record.changeFlights();
-        ChangeWindow::settle();
+        settleWithFlights(window, state);
     }
 }
 
