@@ -75,19 +75,30 @@ EDataView frontOf(const benchmark::State& state)
     return static_cast<EDataView>(state.range(0));
 }
 
-/// The anchor: the view in front is filled and painted, once.
+/// The anchor: the views in sight, the one in front and the map, are filled and painted, once.
 void fill(benchmark::State& state)
 {
     startApplication();
     const ChangeWindow window(frontOf(state));
     for (auto _ : state) {
-        window.views.view(frontOf(state)).update(window.record.record());
-        window.views.view(frontOf(state)).setTime(window.record.viewTime());
+        for (const EDataView which : {frontOf(state), eViewMap}) {
+            window.views.view(which).update(window.record.record());
+            window.views.view(which).setTime(window.record.viewTime());
+        }
         ChangeWindow::settle();
     }
 }
 
-// Flights and path are worked out anew by another thread; what they cost the views is in the figures.
+/// Flights and path are worked out anew by another thread; what they cost the views counts.
+void settleWithFlights(ChangeWindow& window, benchmark::State& state)
+{
+    ChangeWindow::settle();
+    state.PauseTiming();
+    window.container.recalculate(-1);
+    state.ResumeTiming();
+    window.record.changeFlights();
+    ChangeWindow::settle();
+}
 
 void changeUnit(benchmark::State& state)
 {
@@ -98,12 +109,7 @@ void changeUnit(benchmark::State& state)
         isImperial = !isImperial;
         window.profile.setCurrentUnit(isImperial ? EUnit::eImperial : EUnit::eMetric);
         window.record.changeUnit();
-        ChangeWindow::settle();
-        state.PauseTiming();
-        window.container.recalculate(-1);
-        state.ResumeTiming();
-        window.record.changeFlights();
-        ChangeWindow::settle();
+        settleWithFlights(window, state);
     }
 }
 
@@ -117,12 +123,7 @@ void changeVariant(benchmark::State& state)
         window.loadProfile(variant = 1 - variant);
         state.ResumeTiming();
         window.record.changeProfile();
-        ChangeWindow::settle();
-        state.PauseTiming();
-        window.container.recalculate(-1);
-        state.ResumeTiming();
-        window.record.changeFlights();
-        ChangeWindow::settle();
+        settleWithFlights(window, state);
     }
 }
 

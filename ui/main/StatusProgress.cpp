@@ -20,12 +20,14 @@ constexpr int kDelay = 150; // milliseconds; what is done by then would only fli
 StatusProgress::StatusProgress(QWidget* pParent) : QWidget(pParent), mpBar(new QProgressBar)
 {
     hide();
+    setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
     mpBar->setObjectName("progress");
     mpBar->setRange(0, 100);
     mpBar->setFixedWidth(kWidth);
     auto* pCancel = new QPushButton(tr("Cancel"));
     pCancel->setObjectName("cancelLoading");
-    pCancel->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    pCancel->setFixedHeight(mpBar->sizeHint().height()); // no higher than the bar: the window must not shift when they come
+    pCancel->setStyleSheet("QPushButton { padding: 0px 12px; min-height: 0px; }");
     pCancel->setToolTip(tr("Stop loading (Esc); what is shown stays"));
     auto* pLayout = new QHBoxLayout(this);
     pLayout->setContentsMargins(0, 0, 0, 0);
