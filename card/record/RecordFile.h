@@ -53,8 +53,8 @@ private:
     template <bool Swap> bool appendRecords(const uint8_t* pRecords, int32_t count, RecordData& data);
 
     std::array<char, 512> mHeaderBuffer{}; ///< for the library, which would copy whole pages; lives longer than the file is open
-    bool mHasMark = false; ///< the header begins with the mark, in either order
-    bool swapped = false; ///< the file's byte order differs from the host's
+    bool mHasMark = false;                 ///< the header begins with the mark, in either order
+    bool swapped = false;                  ///< the file's byte order differs from the host's
     int32_t recordCount = 0;
 };
 

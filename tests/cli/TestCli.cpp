@@ -210,6 +210,7 @@ void TestCli::failedWritesLeaveNothing_data()
 #ifndef __SANITIZE_ADDRESS__ // the sanitizer alone takes more
     QTest::newRow("no memory") << "ulimit -v 262144; cp -r card big; truncate -s 1G 'big/LOG 1.CAN'; "
                                   "\"$1\" csv big -o new.csv; status=$?; rm -r big; exit $status" << "not enough memory";
+    QTest::newRow("no memory, report") << "ulimit -v 122880; \"$1\" report card --profile Profile.xml -o new.pdf" << "not enough memory";
 #endif
     QTest::newRow("reader gone") << "set -o pipefail; \"$1\" csv card --profile Profile.xml -o - | true; exit ${PIPESTATUS[0]}" << "";
 }

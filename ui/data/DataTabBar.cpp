@@ -72,7 +72,9 @@ QString DataTabBar::title(int index, EFit fit) const
 int DataTabBar::tabWidth(int index, EFit fit) const
 {
     const QFontMetrics metrics(titleFont(true)); // so that no tab moves when another is selected
-    const auto wide = [&](int tab) { return std::max(metrics.size(0, title(tab, fit)).width(), kIcon) + 2 * (fit == eWide ? kMargin : kTightMargin); };
+    const auto wide = [&](int tab) {
+        return std::max(metrics.size(0, title(tab, fit)).width(), kIcon) + 2 * (fit == eWide ? kMargin : kTightMargin);
+    };
     if (fit != eSelectedOnly || index == currentIndex())
         return wide(index);
     const int share = (width() - wide(currentIndex())) / std::max(count() - 1, 1); // room for the counts

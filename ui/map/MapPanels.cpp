@@ -27,7 +27,7 @@ constexpr int kPanelSpacing = 2;
 constexpr int kNameGap = 6; // pixels between a name and its value
 constexpr double kLeastContrast = 4.5;
 const QColor kGround(30, 34, 40);
-constexpr int kLeastName = 40;  // pixels that are left of a name at least
+constexpr int kLeastName = 40; // pixels that are left of a name at least
 const QColor kIconColour(25, 60, 140);
 constexpr int kLeastText = 260; // pixels of a line of the question beside its buttons
 
