@@ -156,9 +156,9 @@ void ReviewPass::walkValue(const ProfileDevice& device, const ProfileParameter& 
             count(parameter.name, false);
         return;
     }
-    const auto pTexts = trace(parameter, ENumber::eText);
+    const auto pTexts = isLimited ? trace(parameter, ENumber::eText) : nullptr;
     std::optional<LimitScan> limits;
-    if (isLimited)
+    if (pTexts)
         limits.emplace(device.name, *pTexts, mEngine, mTakeOffs, mEpisodes);
     if (pKeyValues)
         pKeyValues->begin(device.name, *pValues);

@@ -4,6 +4,8 @@
 #include <array>
 #include <cmath>
 #include <cstdint>
+#include <functional>
+#include <numeric>
 
 namespace ZARN {
 
@@ -17,57 +19,48 @@ struct Totals {
     double sum;
 };
 
-/// In four lanes, so that no step waits for the one before.
+constexpr std::size_t kLanes = 8; // values that a processor may take at once, and that do not wait for each other
+
 Totals totalsOf(const std::vector<double>& values)
 {
-    constexpr std::size_t kLanes = 4;
-    double least[kLanes], greatest[kLanes], sum[kLanes]{};
-    std::fill_n(least, kLanes, values.front());
-    std::fill_n(greatest, kLanes, values.front());
-    const auto take = [&](std::size_t lane, double value) {
-        least[lane] = value < least[lane] ? value : least[lane];
-        greatest[lane] = value > greatest[lane] ? value : greatest[lane];
-        sum[lane] += value;
-    };
+    std::array<double, kLanes> least, greatest, sum{};
+    least.fill(values.front());
+    greatest.fill(values.front());
     std::size_t i = 0;
     for (; i + kLanes <= values.size(); i += kLanes) {
-        for (std::size_t lane = 0; lane < kLanes; ++lane)
-            take(lane, values[i + lane]);
+        for (std::size_t lane = 0; lane < kLanes; ++lane) {
+            const double value = values[i + lane];
+            least[lane] = value < least[lane] ? value : least[lane];
+            greatest[lane] = value > greatest[lane] ? value : greatest[lane];
+            sum[lane] += value;
+        }
     }
-    for (; i < values.size(); ++i)
-        take(0, values[i]);
-    return {*std::min_element(least, least + kLanes), *std::max_element(greatest, greatest + kLanes), sum[0] + sum[1] + sum[2] + sum[3]};
+    Totals totals{*std::ranges::min_element(least), *std::ranges::max_element(greatest), std::accumulate(sum.begin(), sum.end(), 0.0)};
+    for (; i < values.size(); ++i) {
+        totals.least = std::min(totals.least, values[i]);
+        totals.greatest = std::max(totals.greatest, values[i]);
+        totals.sum += values[i];
+    }
+    return totals;
 }
 
 /// Sorts values into bins of even width, so that only the few values of the bins that hold a rank need be put in order.
 class Ranks {
 public:
-    Ranks(const std::vector<double>& values, const Totals& totals) : mValues(values), mLeast(totals.least)
+    using Places = std::array<std::size_t, 2 * kParts.size()>;
+
+    Ranks(const std::vector<double>& values, const Totals& totals) : mValues(values), mBins(values.size())
     {
-        mScale = (kBins - 1) / (totals.greatest - totals.least);
-        if (values.size() < kFew || !std::isfinite(mScale))
-            mScale = 0.0; // all in one bin
-        for (const double value : values)
-            ++mCounts[binOf(value)];
+        const double width = totals.greatest - totals.least, scale = (kBins - 1) / width;
+        if (values.size() >= kFew && std::isfinite(width) && std::isfinite(scale)) // else all are in one bin
+            sortOut(totals.least, scale);
+        count();
     }
 
     /// The values that stand at ascending ranks when all are in order.
-    std::array<double, 2 * kParts.size()> valuesAt(std::array<std::size_t, 2 * kParts.size()> ranks)
+    std::array<double, 2 * kParts.size()> valuesAt(Places ranks)
     {
-        std::array<bool, kBins> wanted{};
-        std::size_t before = 0, left = 0, next = 0; // values of lower bins, and those of them that are left out
-        for (std::size_t bin = 0; bin < kBins; before += mCounts[bin++]) {
-            for (; next < ranks.size() && ranks[next] < before + mCounts[bin]; ++next) {
-                wanted[bin] = true;
-                ranks[next] -= left;
-            }
-            left += wanted[bin] ? 0 : mCounts[bin];
-        }
-        std::vector<double> some;
-        for (const double value : mValues) {
-            if (wanted[binOf(value)])
-                some.push_back(value);
-        }
+        std::vector<double> some = valuesAround(ranks);
         std::array<double, 2 * kParts.size()> found{};
         auto first = some.begin();
         for (std::size_t i = 0; i < ranks.size(); ++i) {
@@ -84,14 +77,56 @@ private:
     static constexpr std::size_t kBins = 1024;
     static constexpr std::size_t kFew = 1000; // of so few, sorting out costs more than it saves
 
-    [[nodiscard]] std::size_t binOf(double value) const
+    void sortOut(double least, double scale)
     {
-        return static_cast<std::size_t>(static_cast<int32_t>((value - mLeast) * mScale));
+        // From 0 to kBins - 1, so that no cast has to be held.
+        const auto binOf = [=](double value) { return static_cast<int32_t>((value - least) * scale); };
+        std::size_t i = 0;
+        for (; i + kLanes <= mValues.size(); i += kLanes) {
+            for (std::size_t lane = 0; lane < kLanes; ++lane)
+                mBins[i + lane] = binOf(mValues[i + lane]);
+        }
+        for (; i < mValues.size(); ++i)
+            mBins[i] = binOf(mValues[i]);
+    }
+
+    void count()
+    {
+        // In turns, since neighbours tend to fall into one bin and each count would wait for the one before.
+        std::array<uint32_t, kBins> others{};
+        for (std::size_t i = 0; i + 1 < mBins.size(); i += 2) {
+            ++mCounts[static_cast<std::size_t>(mBins[i])];
+            ++others[static_cast<std::size_t>(mBins[i + 1])];
+        }
+        if (mBins.size() % 2 != 0)
+            ++mCounts[static_cast<std::size_t>(mBins.back())];
+        std::ranges::transform(mCounts, others, mCounts.begin(), std::plus());
+    }
+
+    /// All values of the bins that hold a rank; the ranks become those among them.
+    std::vector<double> valuesAround(Places& ranks) const
+    {
+        std::array<uint8_t, kBins> wanted{};
+        std::size_t before = 0, left = 0, next = 0; // values of lower bins, and those of them that are left out
+        for (std::size_t bin = 0; bin < kBins; before += mCounts[bin++]) {
+            for (; next < ranks.size() && ranks[next] < before + mCounts[bin]; ++next) {
+                wanted[bin] = 1;
+                ranks[next] -= left;
+            }
+            left += wanted[bin] != 0 ? 0 : mCounts[bin];
+        }
+        std::vector<double> some(mValues.size() + 1);
+        std::size_t end = 0;
+        for (std::size_t i = 0; i < mValues.size(); ++i) { // no branch: it could not be foretold
+            some[end] = mValues[i];
+            end += wanted[static_cast<std::size_t>(mBins[i])];
+        }
+        some.resize(end);
+        return some;
     }
 
     const std::vector<double>& mValues;
-    double mLeast;
-    double mScale = 0.0;
+    std::vector<int32_t> mBins; // of each value
     std::array<uint32_t, kBins> mCounts{};
 };
 
@@ -108,7 +143,7 @@ Distribution Distribution::of(std::vector<double>& values)
             return {};
         totals = totalsOf(values);
     }
-    std::array<std::size_t, 2 * kParts.size()> ranks{};
+    Ranks::Places ranks{};
     std::array<double, kParts.size()> shares{};
     for (std::size_t i = 0; i < kParts.size(); ++i) {
         const double rank = kParts[i] * static_cast<double>(values.size() - 1);

@@ -27,10 +27,17 @@ bool LimitScan::allInside(std::span<const double> values) const
 {
     if (isOutside(*mpBand))
         return false;
-    std::size_t inside = 0;
-    for (const double value : values)
-        inside += static_cast<std::size_t>((value >= mpBand->from) & (value < mpBand->to));
-    return inside == values.size();
+    constexpr std::size_t kLanes = 8; // taken at once
+    const double from = mpBand->from, to = mpBand->to;
+    std::size_t i = 0;
+    for (; i + kLanes <= values.size(); i += kLanes) {
+        int inside = 0;
+        for (std::size_t lane = 0; lane < kLanes; ++lane)
+            inside += static_cast<int>((values[i + lane] >= from) & (values[i + lane] < to));
+        if (inside != kLanes)
+            return false;
+    }
+    return std::all_of(values.begin() + static_cast<std::ptrdiff_t>(i), values.end(), [=](double value) { return value >= from && value < to; });
 }
 
 void LimitScan::walk(int number, const TraceRun& part)

@@ -6,8 +6,12 @@ namespace ZARN {
 
 ZARN_FMA_CLONES void recordTimes(std::span<const StoredRecord> records, double* pOut)
 {
-    for (const StoredRecord& record : records)
+    // Whoever walks a channel asks for the times first: what comes next is fetched while this is worked on.
+    constexpr std::size_t kAhead = 192; // records
+    for (const StoredRecord& record : records) {
+        __builtin_prefetch(&record + kAhead);
         *pOut++ = record.time();
+    }
 }
 
 } // namespace ZARN

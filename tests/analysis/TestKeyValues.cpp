@@ -46,9 +46,9 @@ private Q_SLOTS:
     {
         std::mt19937 random(1);
         for (const std::size_t size : {0, 1, 2, 3, 21, 999, 1000, 5000}) {
-            for (const double spread : {0.0, 1.0, 7.0, 1e300, std::numeric_limits<double>::infinity()}) {
+            for (const double spread : {0.0, 1.0, 7.0, 1e300, -1e304, std::numeric_limits<double>::infinity()}) {
                 std::vector<double> values;
-                std::normal_distribution<double> number(3, 1);
+                std::normal_distribution<double> number(spread < 0 ? 0 : 3, 1);
                 while (values.size() < size)
                     values.push_back(std::isinf(spread) && random() % 50 == 0 ? -spread : std::isinf(spread) ? number(random) : std::floor(number(random)) * spread);
                 if (size == 5000)
