@@ -172,7 +172,7 @@ QString IncidentText::valueText(const Quantity& quantity, bool withLimit) const
     const QString name = needsColon ? quantity.name + ":" : quantity.name;
     if (!worst.shown)
         return tr("%1 not a number").arg(name);
-    const QString limit = mLocale.toString(worst.shown->limit, 'g', 6);
+    const QString limit = mLocale.toString(worst.shown->limit, 'g', std::abs(worst.shown->limit) < 1000 ? 4 : 6);
     QString text = name + " " + number(worst.shown->value, limit, worst.precision);
     if (!worst.shownUnit.empty())
         text += " " + QString::fromStdString(worst.shownUnit);
