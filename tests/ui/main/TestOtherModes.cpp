@@ -91,15 +91,14 @@ void TestOtherModes::tellsOnce()
         QTest::qWait(100);
     }
     const auto* pTable = window.findChild<DataTableModel*>();
-    const auto* pGraph = &window.findChild<DialogDataGraph*>()->graph().model();
+    const ShownTraces& traces = window.findChild<DialogDataGraph*>()->graph().model().traces();
     QSignalSpy filled(pTable, &DataTableModel::rowsInserted), cleared(pTable, &DataTableModel::rowsRemoved);
     action(window);
     settled(window);
     QTest::qWait(100);
     QCOMPARE(filled.count(), isStart ? 0 : 1);
     QCOMPARE(cleared.count(), isStart ? 0 : 1);
-    QVERIFY(
-        std::ranges::all_of(pGraph->shown(), [pGraph](int slot) { return pGraph->parameter(slot)->samples.empty(); })); // nobody sees it
+    QVERIFY(std::ranges::all_of(traces.shown(), [&](int slot) { return traces.at(slot)->samples.empty(); })); // nobody sees it
 }
 
 void TestOtherModes::loading()
