@@ -183,6 +183,13 @@ Die Einstellungen bleiben erhalten.</translation>
     </message>
 </context>
 <context>
+    <name>ZARN::BackgroundTask</name>
+    <message>
+        <source>The memory is not enough.</source>
+        <translation>Der Speicher reicht nicht aus.</translation>
+    </message>
+</context>
+<context>
     <name>ZARN::CandumpFile</name>
     <message>
         <source>lines that are no frame: %1</source>
@@ -320,6 +327,10 @@ Die Einstellungen bleiben erhalten.</translation>
         <source>Samples Total</source>
         <translation>Daten gesamt</translation>
     </message>
+    <message>
+        <source>Cycle %1</source>
+        <translation>Zyklus %1</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::ColourButton</name>
@@ -449,18 +460,6 @@ Die Einstellungen bleiben erhalten.</translation>
 <context>
     <name>ZARN::DialogDataGraph</name>
     <message>
-        <source>No record is loaded.
-Open a card folder and choose a power cycle or a flight.</source>
-        <translation>Keine Aufzeichnung geladen.
-Einen Kartenordner öffnen und einen Einschaltzyklus oder Flug wählen.</translation>
-    </message>
-    <message>
-        <source>No parameter is selected.
-Tick the parameters to show in the profile panel.</source>
-        <translation>Kein Parameter gewählt.
-Im Profilfeld die gewünschten Parameter ankreuzen.</translation>
-    </message>
-    <message>
         <source>Save Snapshot</source>
         <translation>Bild speichern</translation>
     </message>
@@ -505,24 +504,6 @@ Im Profilfeld die gewünschten Parameter ankreuzen.</translation>
     <message>
         <source>Flight Report...</source>
         <translation>Flugbericht...</translation>
-    </message>
-    <message>
-        <source>The graph was cleared.
-Tick a parameter in the profile panel, or choose another power cycle or flight, to fill it again.</source>
-        <translation>Der Graph wurde geleert.
-Kreuzen Sie im Profilfeld einen Parameter an oder wählen Sie einen anderen Zyklus oder Flug, um ihn wieder zu füllen.</translation>
-    </message>
-    <message>
-        <source>No record is loaded.</source>
-        <translation>Es ist keine Aufzeichnung geladen.</translation>
-    </message>
-    <message>
-        <source>No parameter is selected.</source>
-        <translation>Es ist kein Parameter ausgewählt.</translation>
-    </message>
-    <message>
-        <source>The graph was cleared.</source>
-        <translation>Der Graph wurde geleert.</translation>
     </message>
 </context>
 <context>
@@ -1115,6 +1096,61 @@ Kreuzen Sie im Profilfeld einen Parameter an oder wählen Sie einen anderen Zykl
 %1</source>
         <translation>Die Einstellungen konnten nicht gespeichert werden:
 %1</translation>
+    </message>
+    <message>
+        <source>Overview</source>
+        <translation>Übersicht</translation>
+    </message>
+    <message>
+        <source>Was the engine all right? The whole card at a glance</source>
+        <translation>War mit dem Motor alles in Ordnung? Die ganze Karte auf einen Blick</translation>
+    </message>
+    <message>
+        <source>Next Incident</source>
+        <translation>Nächster Vorfall</translation>
+    </message>
+    <message>
+        <source>Go to the next incident of what is loaded</source>
+        <translation>Zum nächsten Vorfall des Geladenen gehen</translation>
+    </message>
+    <message>
+        <source>Previous Incident</source>
+        <translation>Voriger Vorfall</translation>
+    </message>
+    <message>
+        <source>Go to the previous incident of what is loaded</source>
+        <translation>Zum vorigen Vorfall des Geladenen gehen</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::DialogOverview</name>
+    <message>
+        <source>Overview</source>
+        <translation>Übersicht</translation>
+    </message>
+    <message>
+        <source>Was the engine all right?</source>
+        <translation>War mit dem Motor alles in Ordnung?</translation>
+    </message>
+    <message>
+        <source>Reviewing the card</source>
+        <translation>Die Karte wird ausgewertet</translation>
+    </message>
+    <message>
+        <source>This card holds no power cycle.</source>
+        <translation>Diese Karte enthält keinen Zyklus.</translation>
+    </message>
+    <message>
+        <source>serial number %1</source>
+        <translation>Seriennummer %1</translation>
+    </message>
+    <message>
+        <source>profile %1</source>
+        <translation>Profil %1</translation>
+    </message>
+    <message>
+        <source>Times since the unit&apos;s power-up.</source>
+        <translation>Zeiten seit dem Einschalten des Geräts.</translation>
     </message>
 </context>
 <context>
@@ -1856,6 +1892,85 @@ Ersetzen ?</translation>
     </message>
 </context>
 <context>
+    <name>ZARN::IncidentText</name>
+    <message>
+        <source>%1, with %2</source>
+        <translation>%1, mit %2</translation>
+    </message>
+    <message>
+        <source>less than 1 s</source>
+        <translation>weniger als 1 s</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 min %2 s</source>
+        <translation>%1 min %2 s</translation>
+    </message>
+    <message>
+        <source>%1 h %2 min</source>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message>
+        <source>with the engine off</source>
+        <translation>bei stehendem Motor</translation>
+    </message>
+    <message>
+        <source>on the ground</source>
+        <translation>am Boden</translation>
+    </message>
+    <message>
+        <source>in take-off</source>
+        <translation>beim Start</translation>
+    </message>
+    <message>
+        <source>in climb</source>
+        <translation>im Steigflug</translation>
+    </message>
+    <message>
+        <source>in level flight</source>
+        <translation>im Horizontalflug</translation>
+    </message>
+    <message>
+        <source>in descent</source>
+        <translation>im Sinkflug</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 und %2 weitere</translation>
+    </message>
+    <message>
+        <source>%1 not a number</source>
+        <translation>%1 keine Zahl</translation>
+    </message>
+    <message>
+        <source>%1, limit %2</source>
+        <translation>%1, Grenzwert %2</translation>
+    </message>
+    <message>
+        <source>Engine stopped</source>
+        <translation>Motor stand</translation>
+    </message>
+    <message>
+        <source>%1, for %2</source>
+        <translation>%1, für %2</translation>
+    </message>
+    <message>
+        <source>%1 red</source>
+        <translation>%1 rot</translation>
+    </message>
+    <message>
+        <source>%1 yellow</source>
+        <translation>%1 gelb</translation>
+    </message>
+    <message>
+        <source>%1 times, %2 to %3</source>
+        <translation>%1-mal, %2 bis %3</translation>
+    </message>
+</context>
+<context>
     <name>ZARN::MapAttribution</name>
     <message>
         <source>Sources of the map</source>
@@ -1946,6 +2061,101 @@ Ersetzen ?</translation>
 %1</source>
         <translation>Eine Datei, die nicht gelesen werden konnte, wurde beiseitegelegt, weil eine neue an ihre Stelle tritt:
 %1</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::OverviewTexts</name>
+    <message>
+        <source>This cycle could not be read</source>
+        <translation>Dieser Zyklus konnte nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>Nothing outside its limits while the engine ran</source>
+        <translation>Alles in den Grenzen, solange der Motor lief</translation>
+    </message>
+    <message>
+        <source>Cannot tell whether the engine was all right</source>
+        <translation>Keine Aussage möglich, ob mit dem Motor alles in Ordnung war</translation>
+    </message>
+    <message>
+        <source>engine stopped in flight</source>
+        <translation>Motor blieb im Flug stehen</translation>
+    </message>
+    <message>
+        <source>1 limit exceeded</source>
+        <translation>1 Grenzwert überschritten</translation>
+    </message>
+    <message>
+        <source>%1 limits exceeded</source>
+        <translation>%1 Grenzwerte überschritten</translation>
+    </message>
+    <message>
+        <source>1 fault</source>
+        <translation>1 Fehler</translation>
+    </message>
+    <message>
+        <source>%1 faults</source>
+        <translation>%1 Fehler</translation>
+    </message>
+    <message>
+        <source>1 warning</source>
+        <translation>1 Warnung</translation>
+    </message>
+    <message>
+        <source>%1 warnings</source>
+        <translation>%1 Warnungen</translation>
+    </message>
+    <message>
+        <source>Cycle %1</source>
+        <translation>Zyklus %1</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>clock not set</source>
+        <translation>Uhr nicht gestellt</translation>
+    </message>
+    <message>
+        <source>on the ground</source>
+        <translation>am Boden</translation>
+    </message>
+    <message>
+        <source>1 flight</source>
+        <translation>1 Flug</translation>
+    </message>
+    <message>
+        <source>%1 flights</source>
+        <translation>%1 Flüge</translation>
+    </message>
+    <message>
+        <source>recorded [h]</source>
+        <translation>aufgezeichnet [h]</translation>
+    </message>
+    <message>
+        <source>engine ran [h]</source>
+        <translation>Motor lief [h]</translation>
+    </message>
+    <message>
+        <source>in flight [h]</source>
+        <translation>im Flug [h]</translation>
+    </message>
+    <message>
+        <source>%1 l</source>
+        <translation>%1 l</translation>
+    </message>
+    <message>
+        <source>fuel</source>
+        <translation>Kraftstoff</translation>
+    </message>
+    <message>
+        <source>with %1</source>
+        <translation>mit %1</translation>
+    </message>
+    <message>
+        <source>Not counted: %1.</source>
+        <translation>Nicht gezählt: %1.</translation>
     </message>
 </context>
 <context>
@@ -2078,6 +2288,39 @@ Jetzt speichern ?</translation>
     </message>
 </context>
 <context>
+    <name>ZARN::RecordGraph</name>
+    <message>
+        <source>No record is loaded.</source>
+        <translation>Es ist keine Aufzeichnung geladen.</translation>
+    </message>
+    <message>
+        <source>No record is loaded.
+Open a card folder and choose a power cycle or a flight.</source>
+        <translation>Keine Aufzeichnung geladen.
+Einen Kartenordner öffnen und einen Einschaltzyklus oder Flug wählen.</translation>
+    </message>
+    <message>
+        <source>No parameter is selected.</source>
+        <translation>Es ist kein Parameter ausgewählt.</translation>
+    </message>
+    <message>
+        <source>No parameter is selected.
+Tick the parameters to show in the profile panel.</source>
+        <translation>Kein Parameter gewählt.
+Im Profilfeld die gewünschten Parameter ankreuzen.</translation>
+    </message>
+    <message>
+        <source>The graph was cleared.</source>
+        <translation>Der Graph wurde geleert.</translation>
+    </message>
+    <message>
+        <source>The graph was cleared.
+Tick a parameter in the profile panel, or choose another power cycle or flight, to fill it again.</source>
+        <translation>Der Graph wurde geleert.
+Kreuzen Sie im Profilfeld einen Parameter an oder wählen Sie einen anderen Zyklus oder Flug, um ihn wieder zu füllen.</translation>
+    </message>
+</context>
+<context>
     <name>ZARN::RecordReader</name>
     <message>
         <source>it cannot be read: %1</source>
@@ -2094,6 +2337,69 @@ Jetzt speichern ?</translation>
     <message>
         <source>%1 of %2 records are left since the card was opened</source>
         <translation>seit dem Öffnen der Karte sind nur noch %1 von %2 Datensätzen da</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::ReviewText</name>
+    <message>
+        <source>within limits</source>
+        <translation>in den Grenzen</translation>
+    </message>
+    <message>
+        <source>warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>limit exceeded</source>
+        <translation>Grenzwert überschritten</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <source>The profile has no limits, lamps or faults to watch.</source>
+        <translation>Das Profil kennt keine Grenzwerte, Lampen oder Fehler, auf die zu achten wäre.</translation>
+    </message>
+    <message>
+        <source>Nothing was recorded while the engine ran: nothing was watched.</source>
+        <translation>Während der Motor lief, wurde nichts aufgezeichnet: es wurde auf nichts geachtet.</translation>
+    </message>
+    <message>
+        <source>The engine did not run: nothing was watched.</source>
+        <translation>Der Motor lief nicht: es wurde auf nichts geachtet.</translation>
+    </message>
+    <message>
+        <source>None of the watched parameters was recorded.</source>
+        <translation>Keiner der beobachteten Parameter wurde aufgezeichnet.</translation>
+    </message>
+    <message>
+        <source>Whether the engine ran is unknown, for the profile names no engine speed: starts and stops count as well.</source>
+        <translation>Ob der Motor lief, ist unbekannt, denn das Profil nennt keine Motordrehzahl: Anlassen und Abstellen zählen mit.</translation>
+    </message>
+    <message>
+        <source>Whether the engine ran is unknown, for its speed was not recorded: starts and stops count as well.</source>
+        <translation>Ob der Motor lief, ist unbekannt, denn seine Drehzahl wurde nicht aufgezeichnet: Anlassen und Abstellen zählen mit.</translation>
+    </message>
+    <message>
+        <source>Climb and descent are unknown, for no altitude was recorded.</source>
+        <translation>Steig- und Sinkflug sind unbekannt, denn es wurde keine Höhe aufgezeichnet.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 und %2 weitere</translation>
+    </message>
+    <message>
+        <source>%1 of %2 watched parameters recorded</source>
+        <translation>%1 von %2 beobachteten Parametern aufgezeichnet</translation>
+    </message>
+    <message>
+        <source>%1; missing: %2</source>
+        <translation>%1; es fehlen: %2</translation>
+    </message>
+    <message>
+        <source>%1 outside while not watched: %2</source>
+        <translation>%1 außerhalb, während nicht beobachtet wurde: %2</translation>
     </message>
 </context>
 <context>
@@ -2135,6 +2441,17 @@ Jetzt speichern ?</translation>
     </message>
 </context>
 <context>
+    <name>ZARN::StatusProgress</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Stop loading (Esc); what is shown stays</source>
+        <translation>Laden abbrechen (Esc); was angezeigt wird, bleibt</translation>
+    </message>
+</context>
+<context>
     <name>ZARN::TableCopy</name>
     <message>
         <source>Copy</source>
@@ -2173,12 +2490,61 @@ Jetzt speichern ?</translation>
     </message>
 </context>
 <context>
+    <name>ZARN::WidgetCycleCard</name>
+    <message>
+        <source>More sentences: %1. The lists of the cycle have them all.</source>
+        <translation>Weitere Sätze: %1. Die Listen des Zyklus haben alle.</translation>
+    </message>
+    <message>
+        <source>Open cycle</source>
+        <translation>Zyklus öffnen</translation>
+    </message>
+    <message>
+        <source>Load the whole power cycle</source>
+        <translation>Den ganzen Zyklus laden</translation>
+    </message>
+    <message>
+        <source>Flight %1</source>
+        <translation>Flug %1</translation>
+    </message>
+    <message>
+        <source>Load this flight</source>
+        <translation>Diesen Flug laden</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy what is told of this cycle as text</source>
+        <translation>Was über diesen Zyklus gesagt ist, als Text kopieren</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::WidgetCycleStrip</name>
+    <message>
+        <source>Flight %1</source>
+        <translation>Flug %1</translation>
+    </message>
+    <message>
+        <source>Flight %1, %2 to %3</source>
+        <translation>Flug %1, %2 bis %3</translation>
+    </message>
+</context>
+<context>
     <name>ZARN::WidgetErrorTime</name>
     <message>
         <source>Bits that were set over time. From top to bottom: Info, Warning, Fault.
 A click goes to the time.</source>
         <translation>Über die Zeit gesetzte Bits. Von oben nach unten: Info, Warnung, Fehler.
 Ein Klick geht zu dem Zeitpunkt.</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::WidgetIncidentRow</name>
+    <message>
+        <source>Show in the graph</source>
+        <translation>Im Graphen zeigen</translation>
     </message>
 </context>
 <context>
