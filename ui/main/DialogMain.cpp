@@ -164,9 +164,6 @@ void DialogMain::createMenus()
     QMenu* pExtras = menuBar()->addMenu(tr("&Extras"));
     for (const int id : {eActionPreferences, eActionExportKml, eActionExportCsv})
         pExtras->addAction(action(id));
-    pExtras->addSeparator();
-    for (const int id : {eActionOverview, eActionPreviousIncident, eActionNextIncident})
-        pExtras->addAction(action(id));
     QMenu* pHelp = menuBar()->addMenu(tr("&Help"));
     for (const int id : {eActionPreferences, eActionAbout, eActionProfile})
         pHelp->addAction(action(id));

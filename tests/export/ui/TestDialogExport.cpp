@@ -260,7 +260,6 @@ void TestDialogExport::sizeIsToldBefore()
     for (int i = 0; i < 4000; ++i)
         wide.parameter(QString("Speed %1").arg(i), 500, "FLOAT");
     QVERIFY(wide.load(wizards.profile));
-    const CsvExportOptions options{folder(), "a.csv"};
     const QString note = ExportOutlook(wizards.container.recordData(), wizards.profile, wizards.profile.selection(), options).note(5'000'000'000);
     QVERIFY2(note.contains(" MB; 5.0 GB are free in the folder."), qPrintable(note));
 }

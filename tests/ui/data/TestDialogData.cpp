@@ -584,16 +584,15 @@ void TestDialogData::realViews()
     QCOMPARE(pTable->model()->columnCount(), 1);
     QCOMPARE(area.viewTime(), 12.0);
     area.findChild<DataTabBar*>()->setCurrentIndex(eViewStatistic);
-    QSignalSpy report(&area, &DialogData::signalReport);
+    const QSignalSpy report(&area, &DialogData::signalReport);
     QTimer::singleShot(100, [] {
         if (auto* pMenu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
             pMenu->actions().back()->trigger();
             pMenu->close();
         }
     });
-    QWidget* pText = area.findChild<DialogDataStatistic*>()->findChild<QTextEdit*>()->viewport();
-    QContextMenuEvent menu(QContextMenuEvent::Mouse, QPoint(5, 5), pText->mapToGlobal(QPoint(5, 5)));
-    QApplication::sendEvent(pText, &menu);
+    QContextMenuEvent menu(QContextMenuEvent::Mouse, QPoint(5, 5), QPoint(5, 5));
+    QApplication::sendEvent(area.findChild<DialogDataStatistic*>()->findChild<QTextEdit*>()->viewport(), &menu);
     QCOMPARE(report.size(), 1);
 }
 
