@@ -9,6 +9,7 @@ namespace ZARN {
 
 namespace {
 
+constexpr double kBetween = 4.0; // pixels between labels
 constexpr double kMinutes = 60.0; // of a degree
 constexpr double kFinest = 0.0001;
 constexpr double kCoarse[] = {10, 30, 60, 120, 300, 600, 1800}; // minutes
@@ -61,18 +62,25 @@ void Graticule::draw(Canvas& canvas, const CanvasPen& pen, const CanvasText& sty
     };
     const double step = mStep / kMinutes;
     std::vector<QPointF> lines;
+    double right = 0.0, above = bottom; // up to where there are labels already
     for (double longitude = std::ceil(upper.longitude / step) * step; longitude <= lower.longitude; longitude += step) {
         const QPointF top = point(upper.latitude, longitude);
         lines.insert(lines.end(), {top, point(lower.latitude, longitude)});
         const QString text = label(OpenStreet::foldLongitude(longitude), mStep, 'E', 'W');
-        if (top.x() + 3.0 + canvas.textSize(text, style).width() <= mCamera.width())
-            canvas.text({top.x() + 3.0, bottom}, text, style);
+        const double width = canvas.textSize(text, style).width();
+        if (top.x() + 3.0 < right || top.x() + 3.0 + width > mCamera.width())
+            continue;
+        canvas.text({top.x() + 3.0, bottom}, text, style);
+        right = top.x() + 3.0 + width + kBetween;
     }
     for (double latitude = std::ceil(lower.latitude / step) * step; latitude <= upper.latitude; latitude += step) {
         const QPointF left = point(latitude, upper.longitude);
         lines.insert(lines.end(), {left, point(latitude, lower.longitude)});
-        if (left.y() < bottom)
-            canvas.text({3.0, left.y() - 1.0}, label(latitude, mStep, 'N', 'S'), style);
+        const QString text = label(latitude, mStep, 'N', 'S');
+        if (left.y() >= above)
+            continue;
+        canvas.text({3.0, left.y() - 1.0}, text, style);
+        above = left.y() - canvas.textSize(text, style).height();
     }
     canvas.lines(lines, pen);
 }

@@ -98,8 +98,10 @@ void MapScene::drawAbove(Canvas& canvas, const OpenStreet::Camera& camera) const
 {
     drawAircraft(canvas, camera);
     drawScaleBar(canvas, camera);
-    if (!mMessage.isEmpty())
-        drawLabel(canvas, {0.5 * camera.width(), 0.5 * camera.height()}, mMessage, Qt::AlignCenter, kMessageSize);
+    if (mMessage.isEmpty())
+        return;
+    const double width = canvas.textSize(mMessage, {kMessageSize}).width(), room = camera.width() - 2.0 * kMargin;
+    drawLabel(canvas, {0.5 * camera.width(), 0.5 * camera.height()}, mMessage, Qt::AlignCenter, kMessageSize * std::min(1.0, room / width));
 }
 
 void MapScene::drawPath(Canvas& canvas) const

@@ -15,7 +15,6 @@ std::shared_ptr<CycleOverview> overviewOf(const CardContainer& card, uint32_t nu
     const RecordCycle& cycle = card.recordCycles().at(number);
     auto pOverview = std::make_shared<CycleOverview>();
     pOverview->number = number;
-    pOverview->name = cycle.name;
     pOverview->dateTime = PowerUp::of(cycle);
     pOverview->startTime = card.startTime();
     pOverview->endTime = card.endTime();

@@ -9,7 +9,6 @@ namespace ZARN {
 /// A power cycle as the overview tells it: what it is, and what its review found. A plain value that refers to nothing.
 struct CycleOverview {
     uint32_t number = 0;
-    QString name;
     QDateTime dateTime;     ///< of the power-up; invalid without a clock
     double startTime = 0.0; ///< seconds since power-up
     double endTime = 0.0;

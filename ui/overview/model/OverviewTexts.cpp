@@ -51,7 +51,7 @@ QString OverviewTexts::troubles(const CycleOverview& cycle)
 
 QString OverviewTexts::origin(const CycleOverview& cycle)
 {
-    QString text = cycle.name.isEmpty() ? tr("Cycle %1").arg(cycle.number) : cycle.name;
+    QString text = tr("Cycle %1").arg(cycle.number);
     if (cycle.dateTime.isValid()) {
         const QDateTime end = cycle.dateTime.addMSecs(saturatingCast<qint64>(cycle.endTime * 1000.0));
         text += ", " + tr("%1 to %2").arg(cycle.dateTime.toString("dd.MM.yyyy hh:mm"), end.toString("hh:mm"));
