@@ -5,9 +5,28 @@
 #include "card/PowerUp.h"
 #include "profile/Profile.h"
 
+#include <algorithm>
+
 namespace ZARN {
 
 namespace {
+
+/// The progress of one cycle of several.
+class PartProgress : public Progress {
+public:
+    PartProgress(Progress& whole, std::size_t parts) : mWhole(whole), mParts(parts) {}
+    void next() { ++mDone; }
+    void setProgress(int percent) override
+    {
+        mWhole.setProgress(static_cast<int>((mDone * 100 + static_cast<std::size_t>(std::clamp(percent, 0, 100))) / mParts));
+    }
+    [[nodiscard]] bool isCancelled() const override { return mWhole.isCancelled(); }
+
+private:
+    Progress& mWhole;
+    const std::size_t mParts;
+    std::size_t mDone = 0;
+};
 
 /// The loaded cycle of a container, as a value of its own.
 std::shared_ptr<CycleOverview> overviewOf(const CardContainer& card, uint32_t number)
@@ -85,10 +104,15 @@ void CardReviewer::review(Progress& progress, const DecodingContext& context, co
     CardContainer card(silent, context, nullProgress());
     if (!card.readContainer(path))
         return;
-    for (std::size_t i = 0; i < numbers.size() && !progress.isCancelled(); ++i) {
-        if (card.loadCycle(numbers[i], -1))
-            tell(overviewOf(card, numbers[i]));
-        progress.setProgress(static_cast<int>((i + 1) * 100 / numbers.size()));
+    PartProgress part(progress, numbers.size());
+    card.setProgress(part);
+    for (const uint32_t number : numbers) {
+        const bool isLoaded = card.loadCycle(number, -1);
+        if (progress.isCancelled())
+            return;
+        if (isLoaded)
+            tell(overviewOf(card, number));
+        part.next();
     }
 }
 

@@ -1,0 +1,97 @@
+#include "sim/DemoCard.h"
+#include "ui/data/DialogData.h"
+#include "ui/main/DesktopFixture.h"
+#include "ui/main/MainActions.h"
+#include "ui/overview/DialogOverview.h"
+#include "ui/overview/WidgetCycleCard.h"
+#include "ui/overview/WidgetIncidentRow.h"
+#include "ui/overview/model/OverviewTexts.h"
+
+#include <QAction>
+#include <QDir>
+#include <QtTest>
+
+using namespace ZARN;
+
+/// The first page of a card, from the review of its cycles to what a click on it opens.
+class TestOverview : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void demoCard();
+    void verdicts_data();
+    void verdicts();
+};
+
+void TestOverview::demoCard()
+{
+    const QTemporaryDir home;
+    const QString card = home.filePath("SD/Card");
+    std::string error;
+    QVERIFY(QDir().mkpath(home.filePath("SD")));
+    QVERIFY2(DemoCard().write(card.toStdString(), DemoCardOptions{}, error), error.c_str());
+    DesktopFixture desktop(home.path(), {card.toStdString()});
+    DialogMain& window = desktop.open();
+    started(window);
+    settled(window);
+    auto* pOverview = window.findChild<DialogOverview*>();
+    QVERIFY(pOverview->isVisible() && window.action(eActionOverview)->isChecked());
+    const auto cards = [pOverview] { return pOverview->findChildren<WidgetCycleCard*>(); };
+    QTRY_COMPARE_WITH_TIMEOUT(cards().size(), 3, 60000);
+    QStringList told;
+    for (const WidgetCycleCard* pCard : cards())
+        told.append(pCard->accessibleName().section(", ", 0, 0) + ": " + pCard->accessibleName().section(": ", 1));
+    QCOMPARE(told, (QStringList{"Cycle 3: 1 limit exceeded", "Cycle 2: 2 limits exceeded, 1 warning",
+                                "Cycle 1: Nothing outside its limits while the engine ran"}));
+
+    // An incident is shown whole, with its parameters and a margin, at its worst moment.
+    const auto rows = cards()[1]->findChildren<WidgetIncidentRow*>();
+    QCOMPARE(rows.size(), 3);
+    QVERIFY2(rows[0]->accessibleName().startsWith("12:26, Manifold Pressure 1,587 hPa"), qPrintable(rows[0]->accessibleName()));
+    rows[0]->setFocus();
+    QTest::keyClick(rows[0], Qt::Key_Return);
+    settled(window);
+    const auto* pData = window.findChild<DialogData*>();
+    const Incident& incident = cards()[1]->cycle().review.incidents.front();
+    QTRY_VERIFY(pData->isVisible() && pData->viewTime() == incident.episodes[incident.leading].peakTime);
+    const std::optional<TimeSpan> span = pData->graphSpan();
+    QVERIFY(span && span->start < incident.start && span->end > incident.end && span->end - span->start < 60);
+    QVERIFY(!desktop.profile.isSelected("Boost Lamp")); // the ticks are the user's
+
+    window.action(eActionNextIncident)->trigger();
+    QCOMPARE(std::round(pData->viewTime()), 1050.0);
+    window.action(eActionPreviousIncident)->trigger();
+    QCOMPARE(pData->viewTime(), incident.start);
+    window.action(eActionOverview)->trigger();
+    QVERIFY(pOverview->isVisible() && !pData->isVisible());
+    window.slotUnitChanged(1); // in other units all is told anew
+    QTRY_VERIFY_WITH_TIMEOUT(cards().size() == 3 && cards()[1]->findChild<WidgetIncidentRow*>()->text().contains("inHg"), 60000);
+    QTest::keyClick(pOverview, Qt::Key_Return);
+    settled(window);
+    QTRY_COMPARE(desktop.container.selectedFlightNumber(), 2);
+}
+
+void TestOverview::verdicts_data()
+{
+    QTest::addColumn<EVerdict>("verdict");
+    QTest::addColumn<QString>("problem");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("ok") << EVerdict::eOk << QString() << "Nothing outside its limits while the engine ran";
+    QTest::newRow("unknown is not ok") << EVerdict::eUnknown << QString() << "Cannot tell whether the engine was all right";
+    QTest::newRow("unread") << EVerdict::eOk << "too large" << "This cycle could not be read";
+}
+
+void TestOverview::verdicts()
+{
+    QFETCH(QString, problem);
+    CycleOverview cycle;
+    QFETCH(EVerdict, verdict);
+    cycle.review.verdict = verdict;
+    cycle.problem = problem;
+    QTEST(OverviewTexts::verdict(cycle), "text");
+    QCOMPARE(OverviewTexts::basis(cycle).isEmpty(), false);
+    QCOMPARE(OverviewTexts::figures(cycle)[1].value, QString("-"));
+}
+
+QTEST_MAIN(TestOverview)
+#include "TestOverview.moc"
