@@ -36,6 +36,7 @@ private Q_SLOTS:
     void tellsHowItEnded()
     {
         QFETCH(BackgroundTask::Work, work);
+        QFETCH(int, reports);
         BackgroundTask task;
         QSignalSpy progress(&task, &BackgroundTask::signalProgress);
         QSignalSpy finished(&task, &BackgroundTask::signalFinished);
@@ -43,13 +44,12 @@ private Q_SLOTS:
         for (int run = 1; run <= 2; ++run) { // a task may be used again
             task.start(work);
             QVERIFY(task.isRunning() && !task.isCancelled());
-            QTest::qWait(1);
+            QTRY_COMPARE(progress.count(), run * reports); // it has begun
             task.cancel();
-            QVERIFY(finished.wait() || finished.count() == run);
+            QTRY_COMPARE(finished.count(), run);
             QVERIFY(!task.isRunning());
             QTEST(task.error(), "error");
         }
-        QFETCH(int, reports);
         QCOMPARE(progress.count(), 2 * reports);
     }
 
