@@ -1,6 +1,7 @@
 #include "ui/main/CardController.h"
 
 #include "app/Property.h"
+#include "app/Settings.h"
 #include "card/CardContainer.h"
 #include "card/CardProblem.h"
 #include "card/record/RecordFormats.h"
@@ -88,8 +89,8 @@ void CardController::cancel()
 
 void CardController::askFolder()
 {
-    const QString start = QString::fromStdString(mSession.property.getString("LastPath", "."));
-    const QString folder = QFileDialog::getExistingDirectory(mpWindow, tr("Open SD Card"), start,
+    const QString last = Settings::kLastPath.text(mSession.property);
+    const QString folder = QFileDialog::getExistingDirectory(mpWindow, tr("Open SD Card"), last.isEmpty() ? "." : last,
                                                              QFileDialog::ShowDirsOnly | QFileDialog::DontUseNativeDialog);
     if (!folder.isEmpty())
         openFolder(folder);
@@ -109,7 +110,7 @@ void CardController::finishOpening(const QString& folder, bool isRead)
         warn(refusal(folder));
         return;
     }
-    mSession.property.setString("LastPath", folder.toStdString());
+    Settings::kLastPath.set(mSession.property, folder);
     mRecent.add(folder);
     mSession.property.writeXmlFile();
     Q_EMIT signalFolderChanged();

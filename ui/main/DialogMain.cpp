@@ -4,6 +4,7 @@
 #include "app/Console.h"
 #include "app/DataHandler.h"
 #include "app/Property.h"
+#include "app/Settings.h"
 #include "app/gui/ImageHandler.h"
 #include "app/gui/Kernel.h"
 #include "app/gui/WheelGuard.h"
@@ -92,7 +93,7 @@ DialogMain::DialogMain(const Session& session, const Desktop& desktop)
     mpCard->focusList(); // not the first field for text: it would take keys that are meant for the window
     show();
     mpLayout->restoreSplitters();
-    mSession.property.setString("LastProjectPath", mDesktop.folders.dataPath() + "/CurrentProject.xml");
+    Settings::kLastProjectPath.set(mSession.property, mDesktop.folders.dataPath() + "/CurrentProject.xml");
 }
 
 DialogMain::~DialogMain()
@@ -271,7 +272,7 @@ void DialogMain::createControllers()
     mpProfileController = std::make_unique<ProfileController>(mSession, *mpCatalogue, *mpProfiles, *mpUnits);
     mpLayout = std::make_unique<WindowLayout>(mSession.property, *this, *mpSplitter, *mpSide);
     mpAbout = new DialogAbout(this);
-    mpHelp = new DialogHelp(QString::fromStdString(mSession.property.getString("Locale", "us")), this);
+    mpHelp = new DialogHelp(Settings::kLocale.text(mSession.property), this);
     mpProfileInfo = new DialogProfileInfo(mSession, *mpCatalogue, this);
     mpPreferences = new DialogPreferences(mSession, mDesktop.kernel, this);
 }

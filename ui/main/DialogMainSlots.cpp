@@ -4,6 +4,7 @@
 #include "app/Console.h"
 #include "app/DataHandler.h"
 #include "app/Property.h"
+#include "app/Settings.h"
 #include "app/gui/Kernel.h"
 #include "card/CardContainer.h"
 #include "card/record/RecordFormats.h"
@@ -100,7 +101,7 @@ void DialogMain::updateTitle()
 {
     QString path = mSession.container.path();
     if (path.isEmpty() && mpCardController->problem().isEmpty()) // one that was refused is not shown, and neither is the one before it
-        path = QString::fromStdString(mSession.property.getString("LastPath", ""));
+        path = Settings::kLastPath.text(mSession.property);
     setWindowTitle(path.isEmpty() ? QString("ZARN") : "ZARN " + QDir::cleanPath(path).section('/', -2, -1));
 }
 
@@ -192,7 +193,7 @@ void DialogMain::slotCanChanged()
 
 void DialogMain::slotZarnMode(int mode)
 {
-    if (const QString last = QString::fromStdString(mSession.property.getString("LastPath", "")); !last.isEmpty())
+    if (const QString last = Settings::kLastPath.text(mSession.property); !last.isEmpty())
         mpCardController->restoreFolder(last);
     mpData->setZarnMode(mode);
 }
@@ -214,7 +215,7 @@ void DialogMain::slotFolderChanged()
     showProblems();
     updateExports();
     // Before the first folder was opened there is nothing that could be missing.
-    const bool everOpened = !mSession.property.getString("LastPath", "").empty() || !mDesktop.cmdLine.operand().empty();
+    const bool everOpened = Settings::kLastPath.isSet(mSession.property) || !mDesktop.cmdLine.operand().empty();
     mpWelcome->setProblem(everOpened ? mpCardController->problem() : QString());
     mpWelcome->setState(mSession.container.recordFiles().empty() ? WidgetWelcome::eNoCard : WidgetWelcome::eChoose);
     if (mEmu)
@@ -296,7 +297,7 @@ void DialogMain::slotTimeout()
 void DialogMain::restoreCard()
 {
     const QFileInfo given(QString::fromStdString(mDesktop.cmdLine.operand()));
-    const QString last = QString::fromStdString(mSession.property.getString("LastPath", ""));
+    const QString last = Settings::kLastPath.text(mSession.property);
     if (!given.filePath().isEmpty() && !given.exists())
         mSession.console.print("could not open folder <%s>\n", mDesktop.cmdLine.operand().c_str());
     if (!given.filePath().isEmpty())

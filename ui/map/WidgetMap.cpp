@@ -3,6 +3,7 @@
 #include "app/Console.h"
 #include "app/Property.h"
 #include "app/Revision.h"
+#include "app/Settings.h"
 #include "card/CardContainer.h"
 #include "openstreet/core/BaseMap.h"
 #include "profile/Profile.h"
@@ -87,10 +88,10 @@ void WidgetMap::setUpMap(const QString& dataPath)
 void WidgetMap::updateSettings()
 {
     const Property& property = mSession.property;
-    mMap.setTileServer(property.getString("TileServer", OpenStreet::TileServer::kDefault).c_str());
-    mMap.setContrast(property.getDouble("MapShadingContrast", 1.0));
-    mMap.setBrightness(property.getDouble("MapShadingBrightness", 1.0));
-    mMap.setShadingFactor(property.getDouble("MapShadingFactor", 0.5));
+    mMap.setTileServer(Settings::kTileServer.get(property).c_str());
+    mMap.setContrast(Settings::kMapShadingContrast.get(property));
+    mMap.setBrightness(Settings::kMapShadingBrightness.get(property));
+    mMap.setShadingFactor(Settings::kMapShadingFactor.get(property));
     mScene.setImperial(mSession.profile.currentUnit() == EUnit::eImperial);
     allowTiles();
 }
