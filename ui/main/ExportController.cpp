@@ -3,6 +3,7 @@
 #include "app/Property.h"
 #include "app/SafeFile.h"
 #include "app/Settings.h"
+#include "app/TimeText.h"
 #include "card/CardContainer.h"
 #include "export/ExportGpx.h"
 #include "export/ExportKml.h"
@@ -66,7 +67,7 @@ std::vector<ExportPart> ExportController::parts(const QString& suffix) const
     }
     if (std::optional<TimeSpan> shown = mGraphSpan()) {
         shown->start = std::max(shown->start, 0.0); // nothing is recorded before
-        const auto time = [](double seconds) { return CardContainer::time(seconds).left(8); };
+        const auto time = [](double seconds) { return timeOfDayText(wholeMilliseconds(seconds), false); };
         parts.push_back({tr("What the graph shows, %1 to %2").arg(time(shown->start), time(shown->end)),
                          tr("%1 from %2").arg(fileName(0, {}), time(shown->start).replace(':', '-')) + suffix, shown});
     }
