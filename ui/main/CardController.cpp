@@ -16,8 +16,6 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
-#include <QMimeData>
-#include <QUrl>
 
 #include <map>
 
@@ -261,16 +259,6 @@ QString CardController::fileProblems() const
         entries.append(file + ": " + texts.join(", "));
     }
     return entries.isEmpty() ? QString() : tr("Not everything on this card could be read:") + "\n" + entries.join("\n");
-}
-
-QString CardController::droppedFolder(const QMimeData* pData)
-{
-    for (const QUrl& url : pData->urls()) {
-        const QFileInfo info(url.toLocalFile());
-        if (info.isDir() || info.isFile())
-            return RecordFormats::cardOf(info.filePath());
-    }
-    return {};
 }
 
 void CardController::warn(const QString& text)
