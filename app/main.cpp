@@ -171,8 +171,8 @@ int runWindow(QApplication& application)
     applyStyle(kernel);
     splash.addEntry("Creating Dialogs ...");
     const Session session{console, Property::instance(), Profile::instance(), CardContainer::instance(), Project::instance()};
-    const Desktop desktop{cmdLine, DataHandler::instance(), kernel, checkGraphics(console), defaults};
-    DialogMain window(session, desktop);
+    const WindowEnvironment environment{cmdLine, DataHandler::instance(), kernel, checkGraphics(console), defaults};
+    DialogMain window(session, environment);
     kernel.setMainWindow(&window);
     application.installEventFilter(&window);
     QObject::connect(&window, &DialogMain::signalStarted, [&marker] { marker.succeed(); });

@@ -52,7 +52,7 @@ static void registerDataIcons()
 
 namespace ZARN {
 
-DialogData::DialogData(RecordSession& record, const DataViews& views, bool emu, QWidget* pParent, Clock clock)
+DialogData::DialogData(RecordSession& record, const DataViewList& views, bool emu, QWidget* pParent, Clock clock)
     : QWidget(pParent), mRecord(record), mViews(views), mClock(clock ? std::move(clock) : Clock(VESK::Misc::Timer::getTime)),
       mpTabs(new DataTabBar), mpMapModes(new QButtonGroup(this)), mpStack(new QStackedWidget), mpSplitter(new QSplitter(Qt::Horizontal)),
       mpBar(nullptr), mpTimer(new QTimer(this))

@@ -55,10 +55,10 @@ constexpr int kMessageDuration = 8000;
 
 } // namespace
 
-DialogMain::DialogMain(const Session& session, const Desktop& desktop)
-    : mSession(session), mRecord(session.container), mDesktop(desktop), mEmu(desktop.cmdLine.getSwitch("-emu")),
+DialogMain::DialogMain(const Session& session, const WindowEnvironment& environment)
+    : mSession(session), mRecord(session.container), mEnvironment(environment), mEmu(environment.cmdLine.getSwitch("-emu")),
       mpActionGroup(new QActionGroup(this)), mpRecentGroup(new QActionGroup(this)),
-      mpCatalogue(std::make_unique<ProfileCatalogue>(session.console, desktop.folders.resourcePath(), desktop.folders.dataPath()))
+      mpCatalogue(std::make_unique<ProfileCatalogue>(session.console, environment.folders.resourcePath(), environment.folders.dataPath()))
 {
     createPanels();
     createActions();
@@ -87,7 +87,7 @@ DialogMain::DialogMain(const Session& session, const Desktop& desktop)
     mpCard->focusList(); // not the first field for text: it would take keys that are meant for the window
     show();
     mpLayout->restoreSplitters();
-    Settings::kLastProjectPath.set(mSession.property, mDesktop.folders.dataPath() + "/CurrentProject.xml");
+    Settings::kLastProjectPath.set(mSession.property, mEnvironment.folders.dataPath() + "/CurrentProject.xml");
 }
 
 DialogMain::~DialogMain()
@@ -100,8 +100,8 @@ void DialogMain::createPanels()
 {
     mpCard = new DialogCard(mSession.container);
     mpProfile = new DialogProfile(mSession);
-    const QString dataPath = QString::fromStdString(mDesktop.folders.dataPath());
-    mpData = new DialogData(mRecord, DataViews::create(mSession, dataPath), mEmu);
+    const QString dataPath = QString::fromStdString(mEnvironment.folders.dataPath());
+    mpData = new DialogData(mRecord, DataViewList::create(mSession, dataPath), mEmu);
     mpPanels = new MainPanels(mpCard, mpProfile, mpData);
     setCentralWidget(mpPanels);
     const auto* pDrop = new FolderDrop(this);
@@ -173,7 +173,7 @@ void DialogMain::createStatusBar()
 void DialogMain::createNotices()
 {
     mpNotices = new Notices(this);
-    mpNotices->setProblem(Notices::eGraphics, mDesktop.graphicsProblem);
+    mpNotices->setProblem(Notices::eGraphics, mEnvironment.graphicsProblem);
     const QString unsaved = tr("Settings cannot be saved");
     const QString file = QString::fromStdString(mSession.property.configFile());
     if (mSession.property.isUnread())
@@ -199,7 +199,7 @@ void DialogMain::createControllers()
     mpAbout = new DialogAbout(this);
     mpHelp = new DialogHelp(Settings::kLocale.text(mSession.property), this);
     mpProfileInfo = new DialogProfileInfo(mSession, *mpCatalogue, this);
-    mpPreferences = new DialogPreferences(mSession, mDesktop.kernel, this);
+    mpPreferences = new DialogPreferences(mSession, mEnvironment.kernel, this);
 }
 
 void DialogMain::connectPanels()
@@ -222,13 +222,13 @@ void DialogMain::connectPanels()
             [this](const QString& path) { statusBar()->showMessage(tr("Written: %1").arg(path), kMessageDuration); });
     connect(&mpPanels->welcome(), &WidgetWelcome::signalOpenFolder, action(eActionOpenFolder), &QAction::trigger);
     connect(&mpPanels->welcome(), &WidgetWelcome::signalOpenDemoCard, this,
-            [this] { mpCardController->openDemoCard(QString::fromStdString(mDesktop.folders.dataPath())); });
+            [this] { mpCardController->openDemoCard(QString::fromStdString(mEnvironment.folders.dataPath())); });
 }
 
 void DialogMain::startTimers()
 {
     std::string style;
-    mDesktop.cmdLine.getParameter("-s", style);
+    mEnvironment.cmdLine.getParameter("-s", style);
     mStyleFile = QString::fromStdString(style);
     mStyleTime = QFileInfo(mStyleFile).lastModified(); // applied by the start
     connect(&mStyleTimer, &QTimer::timeout, this, &DialogMain::slotCheckStyle);
@@ -414,7 +414,7 @@ void DialogMain::slotFolderChanged()
     showProblems();
     updateExports();
     // Before the first folder was opened there is nothing that could be missing.
-    const bool everOpened = Settings::kLastPath.isSet(mSession.property) || !mDesktop.cmdLine.operand().empty();
+    const bool everOpened = Settings::kLastPath.isSet(mSession.property) || !mEnvironment.cmdLine.operand().empty();
     mpPanels->welcome().setProblem(everOpened ? mpCardController->problem() : QString());
     mpPanels->welcome().setState(mSession.container.recordFiles().empty() ? WidgetWelcome::eNoCard : WidgetWelcome::eChoose);
     if (mEmu)
@@ -478,7 +478,7 @@ void DialogMain::slotProjectChanged()
 void DialogMain::slotTimeout()
 {
     restoreCard();
-    if (!mDesktop.withDefaults)
+    if (!mEnvironment.withDefaults)
         mpProjectController->restoreProject();
     if (mSession.project.file().isUnread(mpProjectController->lastPath()))
         mpNotices->setProblem(Notices::eProject, tr("Project unreadable"), mpProjectController->lastPath());
@@ -493,13 +493,13 @@ void DialogMain::slotTimeout()
 
 void DialogMain::restoreCard()
 {
-    const QFileInfo given(QString::fromStdString(mDesktop.cmdLine.operand()));
+    const QFileInfo given(QString::fromStdString(mEnvironment.cmdLine.operand()));
     const QString last = Settings::kLastPath.text(mSession.property);
     if (!given.filePath().isEmpty() && !given.exists())
-        mSession.console.print("could not open folder <%s>\n", mDesktop.cmdLine.operand().c_str());
+        mSession.console.print("could not open folder <%s>\n", mEnvironment.cmdLine.operand().c_str());
     if (!given.filePath().isEmpty())
         openFolder(RecordFormats::cardOf(given.filePath()));
-    else if (!last.isEmpty() && !mDesktop.withDefaults)
+    else if (!last.isEmpty() && !mEnvironment.withDefaults)
         mpCardController->restoreFolder(last);
 }
 
@@ -517,7 +517,7 @@ void DialogMain::slotCheckStyle()
         return;
     mStyleTime = time;
     mSession.console.print("Slot Load Style <%s>\n", mStyleFile.toUtf8().constData());
-    mDesktop.kernel.loadStyleFile(mStyleFile);
+    mEnvironment.kernel.loadStyleFile(mStyleFile);
 }
 
 bool DialogMain::eventFilter(QObject* pObject, QEvent* pEvent)
@@ -537,7 +537,7 @@ void DialogMain::closeEvent(QCloseEvent* pEvent)
 {
     pEvent->setAccepted(cleanup());
     if (!pEvent->isAccepted())
-        mDesktop.kernel.cancelRestart();
+        mEnvironment.kernel.cancelRestart();
 }
 
 bool DialogMain::cleanup()

@@ -2,7 +2,7 @@
 
 #include "project/RecordSession.h"
 #include "project/Session.h"
-#include "ui/main/Desktop.h"
+#include "ui/main/WindowEnvironment.h"
 
 #include <QDateTime>
 #include <QMainWindow>
@@ -42,7 +42,7 @@ class DialogMain : public QMainWindow {
 
 public:
     /// Shows itself.
-    DialogMain(const Session& session, const Desktop& desktop);
+    DialogMain(const Session& session, const WindowEnvironment& environment);
     ~DialogMain() override;
 
     /// The action with that number; null for a number that is not used.
@@ -123,7 +123,7 @@ private:
 
     Session mSession;
     RecordSession mRecord;
-    Desktop mDesktop;
+    WindowEnvironment mEnvironment;
     bool mEmu;
     std::map<int, QAction*> mActions;
     QActionGroup* mpActionGroup;
