@@ -4,38 +4,19 @@
 #include "cli/CommandFlights.h"
 #include "cli/JsonWriter.h"
 #include "cli/Output.h"
+#include "cli/PathList.h"
 #include "cli/SummaryJson.h"
 #include "cli/VisibleText.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <cstring>
-#include <fstream>
-#include <iostream>
 
 namespace ZARN {
-
-namespace {
-
-std::vector<std::string> linesOf(std::istream& stream)
-{
-    std::vector<std::string> lines;
-    for (std::string line; std::getline(stream, line);) {
-        if (line.ends_with('\r'))
-            line.pop_back();
-        if (!line.empty())
-            lines.push_back(line);
-    }
-    return lines;
-}
-
-} // namespace
 
 CommandSummary::CommandSummary(CLI::App& program)
     : CardCommand(program, "summary", "tell whether the engine was all right, what it took and what happened",
                   "zarn-cli summary /media/card", eManyCards)
 {
-    options().add("--from-file", mListFile, "file that names more cards, one path a line; \"-\" is standard input");
+    options().add("--from-file", mListFile, kPathListHelp);
     addJson();
 }
 
@@ -47,8 +28,8 @@ int CommandSummary::run()
         return eWrongCall;
     }
     std::string problem = loadProfile();
-    if (problem.empty())
-        problem = readList(paths);
+    if (problem.empty() && isGiven("--from-file"))
+        problem = readPathList(mListFile, paths);
     if (!problem.empty())
         return fail(problem);
     int status = eDone;
@@ -57,22 +38,6 @@ int CommandSummary::run()
         status = std::max(status, problem.empty() ? runOnCard() : fail(problem));
     }
     return finish(status);
-}
-
-std::string CommandSummary::readList(std::vector<std::string>& paths) const
-{
-    if (!isGiven("--from-file"))
-        return {};
-    std::ifstream file;
-    if (mListFile != "-") {
-        file.open(mListFile);
-        if (!file)
-            return mListFile + ": " + std::strerror(errno);
-    }
-    std::istream& stream = mListFile == "-" ? std::cin : file;
-    const std::vector<std::string> lines = linesOf(stream);
-    paths.insert(paths.end(), lines.begin(), lines.end());
-    return stream.bad() ? mListFile + ": " + std::strerror(errno) : std::string();
 }
 
 int CommandSummary::runOnCard()

@@ -17,7 +17,6 @@ public:
 private:
     int runOnCard() override;
     /// Empty when all went well, else what failed and why.
-    [[nodiscard]] std::string readList(std::vector<std::string>& paths) const;
     [[nodiscard]] std::string reviewCycles();
     void keepProblems();
     int finish(int status);

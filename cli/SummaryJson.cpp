@@ -4,17 +4,6 @@ namespace ZARN {
 
 namespace {
 
-const char* kindKey(EEpisodeKind kind)
-{
-    switch (kind) {
-    case EEpisodeKind::eStop: return "stop";
-    case EEpisodeKind::eLimit: return "limit";
-    case EEpisodeKind::eLamp: return "lamp";
-    case EEpisodeKind::eFault: return "fault";
-    }
-    return "";
-}
-
 template <typename Value> void writeOptional(JsonWriter& writer, const char* key, const std::optional<Value>& value)
 {
     writer.key(key);
@@ -23,13 +12,13 @@ template <typename Value> void writeOptional(JsonWriter& writer, const char* key
 
 void writeEpisode(JsonWriter& writer, const Episode& episode)
 {
-    writer.beginObject().member("kind", kindKey(episode.kind)).member("group", episode.group).member("parameter", episode.parameter);
+    writer.beginObject().member("kind", episodeKindKey(episode.kind)).member("group", episode.group).member("parameter", episode.parameter);
     writer.member("unit", episode.unit)
         .member("state", episode.state)
         .member("start", episode.start)
         .member("end", episode.end)
         .key("side");
-    episode.side == ESide::eNone ? writer.null() : writer.value(episode.side == ESide::eHigh ? "high" : "low");
+    episode.side == ESide::eNone ? writer.null() : writer.value(sideKey(episode.side));
     const auto& peak = episode.peak;
     writeOptional(writer, "limit", peak ? std::optional(peak->limit) : std::nullopt);
     writeOptional(writer, "peak", peak ? std::optional(peak->value) : std::nullopt);

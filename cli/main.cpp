@@ -11,6 +11,7 @@
 #include "cli/CommandPath.h"
 #include "cli/CommandProfile.h"
 #include "cli/CommandReport.h"
+#include "cli/CommandScan.h"
 #include "cli/CommandSimulate.h"
 #include "cli/CommandSummary.h"
 #include "cli/CommandValue.h"
@@ -64,7 +65,7 @@ int runProgram(int argc, char** argv)
     bool isVerbose = false;
     program.add_flag("--verbose", isVerbose, "tell on standard error what is done");
     const auto commands = makeCommands<CommandInfo, CommandIds, CommandFlights, CommandEvents, CommandFaults, CommandPath, CommandValue, CommandCsv,
-                                       CommandKml, CommandGpx, CommandCandump, CommandReport, CommandSummary, CommandProfile, CommandSimulate>(program);
+                                       CommandKml, CommandGpx, CommandCandump, CommandReport, CommandSummary, CommandScan, CommandProfile, CommandSimulate>(program);
     program.footer("Example: zarn-cli csv /media/card -o flight.csv");
     if (argc < 2) {
         std::fputs(program.help().c_str(), stderr);
