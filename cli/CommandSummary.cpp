@@ -7,6 +7,7 @@
 #include "cli/PathList.h"
 #include "cli/SummaryJson.h"
 #include "cli/VisibleText.h"
+#include "store/CycleIdentity.h"
 
 #include <algorithm>
 
@@ -17,6 +18,7 @@ CommandSummary::CommandSummary(CLI::App& program)
                   "zarn-cli summary /media/card", eManyCards)
 {
     options().add("--from-file", mListFile, kPathListHelp);
+    options().add("--store", mStore, "store of earlier flights (see scan) that tells what is unusual for the engine");
     addJson();
 }
 
@@ -30,6 +32,8 @@ int CommandSummary::run()
     std::string problem = loadProfile();
     if (problem.empty() && isGiven("--from-file"))
         problem = readPathList(mListFile, paths);
+    if (problem.empty() && isGiven("--store"))
+        problem = openStore();
     if (!problem.empty())
         return fail(problem);
     int status = eDone;
@@ -38,6 +42,12 @@ int CommandSummary::run()
         status = std::max(status, problem.empty() ? runOnCard() : fail(problem));
     }
     return finish(status);
+}
+
+std::string CommandSummary::openStore()
+{
+    mpStore = std::make_unique<StoreReader>(mStore);
+    return mpStore->error();
 }
 
 int CommandSummary::runOnCard()
@@ -72,8 +82,19 @@ std::string CommandSummary::reviewCycles()
         if (!problem.empty())
             return problem;
         keepProblems();
-        mReviewed.push_back({number, &cycle, mContainer.startTime(), mContainer.endTime(), mContainer.recordData().count() == 0,
-                             reviewCycle(mContainer.values(), cycle.flights, mContainer.endTime())});
+        mReviewed.push_back(
+            {number,
+             &cycle,
+             mContainer.startTime(),
+             mContainer.endTime(),
+             mContainer.recordData().count() == 0,
+             reviewCycle(mContainer.values(), cycle.flights, mContainer.endTime(), mpStore ? EKeyValues::eAll : EKeyValues::eNone),
+             {}});
+        if (!mpStore)
+            continue;
+        mReviewed.back().unusual = findUnusual(*mpStore, cycleHead(mContainer, number, cycle), cycle.flights, mReviewed.back().review);
+        if (!mpStore->error().empty())
+            return mpStore->error();
     }
     return {};
 }
@@ -101,7 +122,7 @@ void CommandSummary::writeJson()
     for (const ReviewedCycle& reviewed : mReviewed) {
         mWriter.beginObject().member("number", reviewed.number).member("name", reviewed.pCycle->name);
         mWriter.member("dateTime", reviewed.pCycle->dateTime).member("startTime", reviewed.startTime).member("endTime", reviewed.endTime);
-        writeReview(mWriter, reviewed.review);
+        writeReview(mWriter, reviewed.review, reviewed.unusual);
         writeFlights(mWriter, reviewed.pCycle->flights);
         mWriter.endObject();
     }

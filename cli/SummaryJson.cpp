@@ -46,7 +46,21 @@ void writeIncident(JsonWriter& writer, const Incident& incident)
 
 } // namespace
 
-void writeReview(JsonWriter& writer, const CycleReview& review)
+void writeJudgement(JsonWriter& writer, const TrendJudgement& judgement)
+{
+    const Distribution& band = judgement.band;
+    writer.key("band");
+    if (band.samples == 0) {
+        writer.null();
+    } else {
+        writer.beginObject().member("flights", static_cast<int64_t>(band.samples)).member("p05", band.p05).member("median", band.median);
+        writer.member("p95", band.p95).endObject();
+    }
+    writeOptional(writer, "z", judgement.z);
+    writer.member("unusual", judgement.isUnusual).member("drifting", judgement.isDrifting);
+}
+
+void writeReview(JsonWriter& writer, const CycleReview& review, const std::vector<Unusual>& unusual)
 {
     writeOptional(writer, "engineRunning", review.engine.duration());
     writer.member("flightTime", review.flightTime);
@@ -60,7 +74,14 @@ void writeReview(JsonWriter& writer, const CycleReview& review)
         writeIncident(writer, incident);
     writer.endArray();
     writeEpisodes(writer, "standing", review.standing);
-    writer.key("unusual").beginArray().endArray(); // nothing to compare with
+    writer.key("unusual").beginArray();
+    for (const Unusual& one : unusual) {
+        writer.beginObject().member("flight", one.flight).member("group", one.source.group).member("parameter", one.source.parameter);
+        writer.member("unit", one.source.unit).member("phase", phaseKey(one.phase)).member("median", one.median);
+        writeJudgement(writer, one.judgement);
+        writer.endObject();
+    }
+    writer.endArray();
 }
 
 } // namespace ZARN
