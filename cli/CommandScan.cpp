@@ -5,6 +5,8 @@
 #include "cli/PathList.h"
 #include "cli/Resources.h"
 #include "cli/VisibleText.h"
+#include "store/CycleIdentity.h"
+#include "store/ParquetDataset.h"
 #include "store/Store.h"
 #include "store/StoreText.h"
 
@@ -92,12 +94,21 @@ int CommandScan::scan(const std::vector<std::string>& paths)
     const std::vector<CardFinder::Failure>& failures = finder.failures();
     for (const CardFinder::Failure& failure : failures)
         say(failure.path + ": " + failure.reason);
-    const int status = scanSqlite(cards, failures);
+    const int status = mFormat == "parquet" ? scanParquet(cards, failures) : scanSqlite(cards, failures);
     const bool isMissing = std::ranges::any_of(failures, &CardFinder::Failure::isSystemError);
     const bool isIncomplete = isMissing || mCount.unread > 0 || (cards.empty() && !failures.empty());
     if (status != eDone)
         return status;
     return std::max(print(countText(mCount)), isIncomplete ? static_cast<int>(eFailed) : static_cast<int>(eDone));
+}
+
+int CommandScan::scanParquet(const std::vector<std::string>& cards, const std::vector<CardFinder::Failure>& failures)
+{
+    ParquetDataset dataset(mStore, mKey, mProfile.context(), mSamples);
+    std::string problem = dataset.prepare();
+    if (problem.empty())
+        problem = scanInto(dataset, cards, failures);
+    return problem.empty() ? eDone : fail(problem);
 }
 
 int CommandScan::scanSqlite(const std::vector<std::string>& cards, const std::vector<CardFinder::Failure>& failures)
@@ -120,6 +131,7 @@ std::string CommandScan::scanInto(ScanTarget& target, const std::vector<std::str
         CardFacts facts;
         facts.listing.path = failure.path;
         facts.name = failure.path.substr(failure.path.rfind('/') + 1);
+        facts.engineId = engineOfCard(facts.name);
         facts.problems.push_back({{}, QString::fromStdString(failure.reason), failure.isSystemError});
         const std::string problem = target.write(facts);
         if (!problem.empty())

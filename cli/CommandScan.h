@@ -16,6 +16,7 @@ public:
 
 private:
     int scan(const std::vector<std::string>& paths);
+    int scanParquet(const std::vector<std::string>& cards, const std::vector<CardFinder::Failure>& failures);
     int scanSqlite(const std::vector<std::string>& cards, const std::vector<CardFinder::Failure>& failures);
     [[nodiscard]] std::string prepare();
     /// @return what ended the scan; empty when nothing did

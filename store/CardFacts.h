@@ -40,12 +40,14 @@ struct CycleFacts {
     double endTime = 0.0;
     std::vector<RecordFlight> flights;
     CycleReview review;
+    std::vector<CardProblem> problems; ///< found when its records were read
 };
 
 /// All that a store keeps of a card. A plain value.
 struct CardFacts {
     CardListing listing;
     std::string name;
+    std::string engineId;                 ///< of its first cycle; without one, as of a card that does not tell its engine
     std::vector<std::string> cycleOfFile; ///< a cycle for each file; empty: none
     std::vector<CycleFacts> cycles;       ///< those that were worked out now, not those that the store has
     std::vector<CardProblem> problems;

@@ -38,6 +38,8 @@ CardFacts CardReader::read(CardListing listing, std::string& failure)
         return card;
     }
     card.name = encodeFileName(container.name());
+    if (container.recordCycles().empty())
+        card.engineId = engineOfCard(card.name);
     readCycles(container, card, failure);
     return card;
 }
@@ -45,16 +47,20 @@ CardFacts CardReader::read(CardListing listing, std::string& failure)
 void CardReader::readCycles(CardContainer& container, CardFacts& card, std::string& failure)
 {
     mSeen.clear();
-    keepProblems(container, card);
+    keepProblems(container.problems(), card);
     for (const auto& [number, cycle] : container.recordCycles()) {
         CycleHead head = cycleHead(container, number, cycle);
         const std::string id = head.id;
-        const bool isDone = !id.empty() && (mSeen.contains(id) || mTarget.hasCycle(head));
+        std::vector<CardProblem> told;
+        if (card.engineId.empty())
+            card.engineId = head.engine.id;
+        const bool isDone = !id.empty() && (mSeen.contains(id) || mTarget.hasCycle(head, told));
         if (id.empty() || (!isDone && !readCycle(container, std::move(head), card, failure)))
             card.isWhole = false;
         else
             markFiles(card, cycle, id);
         mSeen.insert(id);
+        keepProblems(told, card);
         if (!failure.empty())
             return;
     }
@@ -69,7 +75,7 @@ void CardReader::readCycles(CardContainer& container, CardFacts& card, std::stri
 bool CardReader::readCycle(CardContainer& container, CycleHead head, CardFacts& card, std::string& failure)
 {
     container.loadCycle(head.number, -1);
-    keepProblems(container, card);
+    keepProblems(container.problems(), card);
     if (!container.loadError().empty()) {
         card.problems.push_back({{}, QString::fromStdString(container.loadError()), true});
         return false;
@@ -78,17 +84,21 @@ bool CardReader::readCycle(CardContainer& container, CycleHead head, CardFacts& 
     if (std::ranges::any_of(problems, [](const CardProblem& problem) { return problem.isSystemError; }))
         return false;
     const RecordCycle& cycle = *container.loadedCycle();
-    CycleFacts facts{std::move(head), container.startTime(), container.endTime(), cycle.flights,
-                     reviewCycle(container.values(), cycle.flights, container.endTime(), EKeyValues::eAll)};
+    CycleFacts facts{std::move(head),
+                     container.startTime(),
+                     container.endTime(),
+                     cycle.flights,
+                     reviewCycle(container.values(), cycle.flights, container.endTime(), EKeyValues::eAll),
+                     problems};
     failure = mTarget.takeLoaded(card.listing, facts, container.values());
     card.cycles.push_back(std::move(facts));
     return true;
 }
 
 /// A load forgets what was wrong with the cycle before.
-void CardReader::keepProblems(const CardContainer& container, CardFacts& card) const
+void CardReader::keepProblems(const std::vector<CardProblem>& problems, CardFacts& card)
 {
-    for (const CardProblem& problem : container.problems()) {
+    for (const CardProblem& problem : problems) {
         const auto isIt = [&problem](const CardProblem& other) { return other.file == problem.file && other.reason == problem.reason; };
         if (std::ranges::none_of(card.problems, isIt))
             card.problems.push_back(problem);

@@ -25,7 +25,7 @@ private:
     void readCycles(CardContainer& container, CardFacts& card, std::string& failure);
     /// @return false when the system kept it from being read whole
     bool readCycle(CardContainer& container, CycleHead head, CardFacts& card, std::string& failure);
-    void keepProblems(const CardContainer& container, CardFacts& card) const;
+    static void keepProblems(const std::vector<CardProblem>& problems, CardFacts& card);
 
     const Console& mConsole;
     const DecodingContext& mContext;

@@ -47,6 +47,11 @@ std::string cycleIdentity(const std::vector<std::string>& paths)
     return hash.result().toHex().toStdString();
 }
 
+std::string engineOfCard(const std::string& name)
+{
+    return "card:" + storeText(name);
+}
+
 CycleHead cycleHead(const CardContainer& card, uint32_t number, const RecordCycle& cycle)
 {
     CycleHead head;
@@ -68,7 +73,7 @@ CycleHead cycleHead(const CardContainer& card, uint32_t number, const RecordCycl
     else if (head.engine.ecuSerial)
         head.engine.id = "ecu:" + std::to_string(*head.engine.ecuSerial);
     else
-        head.engine.id = "card:" + storeText(encodeFileName(card.name()));
+        head.engine.id = engineOfCard(encodeFileName(card.name()));
     return head;
 }
 

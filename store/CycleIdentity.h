@@ -11,4 +11,7 @@ namespace ZARN {
 /// The same of a cycle of a card, and whose it is.
 [[nodiscard]] CycleHead cycleHead(const CardContainer& card, uint32_t number, const RecordCycle& cycle);
 
+/// The engine of a card of that name that tells neither its serial number nor that of its unit.
+[[nodiscard]] std::string engineOfCard(const std::string& name);
+
 } // namespace ZARN

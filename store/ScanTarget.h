@@ -11,8 +11,9 @@ public:
     virtual ~ScanTarget() = default;
     /// Whether all of a card is there already, as far as its listing tells.
     virtual bool isCurrent(const CardListing& listing) = 0;
-    /// Whether a cycle is there already and was worked out as it would be now.
-    virtual bool hasCycle(const CycleHead& cycle) = 0;
+    /// Whether a cycle is there already and was worked out as it would be now. @param told what was found wrong with it then, where the
+    /// target does not keep that by itself
+    virtual bool hasCycle(const CycleHead& cycle, std::vector<CardProblem>& told) = 0;
     /// Takes a cycle while its records are loaded. @return empty, or what failed and why
     virtual std::string takeLoaded(const CardListing& card, const CycleFacts& cycle, const CycleValues& values) = 0;
     /// Takes a card as a whole or not at all. Called for one card after the other, in the order of the scan. @return empty, or what failed and

@@ -103,7 +103,7 @@ bool Store::isCurrent(const CardListing& listing)
     return isSame && place == listing.files.size() && place > 0;
 }
 
-bool Store::hasCycle(const CycleHead& cycle)
+bool Store::hasCycle(const CycleHead& cycle, std::vector<CardProblem>& /*told*/)
 {
     const std::lock_guard lock(mGuard);
     return mError.empty() && CardWriter(mDatabase, mKey).hasCycle(cycle.id);

@@ -20,7 +20,7 @@ public:
     [[nodiscard]] const std::string& error() const { return mError; }
 
     bool isCurrent(const CardListing& listing) override;
-    bool hasCycle(const CycleHead& cycle) override;
+    bool hasCycle(const CycleHead& cycle, std::vector<CardProblem>& told) override;
     std::string takeLoaded(const CardListing& /*card*/, const CycleFacts& /*cycle*/, const CycleValues& /*values*/) override { return {}; }
     std::string write(const CardFacts& card) override;
     /// Notes the decimals of each parameter of the profile in force, which tell what is unusual of its values.
