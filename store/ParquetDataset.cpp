@@ -170,11 +170,7 @@ std::string ParquetDataset::write(const CardFacts& card)
 {
     const std::string id = hashOf(card.listing.path);
     const std::string file = path("problems", card.engineId, {}, id);
-    if (card.problems.empty()) {
-        ::unlink(file.c_str());
-        return {};
-    }
-    std::vector<Row> rows;
+    std::vector<Row> rows; // none as well, in place of those that it had before
     for (const CardProblem& problem : card.problems)
         rows.push_back({id, textOrNothing(storeText(problem.file)), problem.reason.toStdString(), storeText(card.listing.path)});
     std::ranges::sort(rows);

@@ -60,3 +60,20 @@ def change(path, *statements):
         for statement in statements:
             store.execute(statement)
         store.commit()
+
+
+def duck(folder, *statements):
+    """What DuckDB answers to statements, run one after the other in a folder: lists of rows."""
+    here = os.path.dirname(os.path.abspath(__file__))
+    modules = os.path.normpath(f'{here}/../../build/node/node_modules')
+    assert os.path.isdir(f'{modules}/@duckdb/node-api'), 'DuckDB is not there: run tools/install-packages test'
+    done = subprocess.run(['node', f'{here}/duck.js', folder], input=json.dumps(statements), capture_output=True, text=True, check=False,
+                          env={**os.environ, 'NODE_PATH': modules})
+    assert done.returncode == 0, done.stderr
+    return json.loads(done.stdout)
+
+
+def tree(folder):
+    """The files below a folder with their bytes."""
+    paths = [os.path.join(place, name) for place, _, names in os.walk(folder) for name in names]
+    return {os.path.relpath(path, folder): open(path, 'rb').read() for path in paths}

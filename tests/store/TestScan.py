@@ -144,8 +144,8 @@ def main():
             check_values(store, card)
         assert len(rows(store, 'SELECT 1 FROM card')) == 8 and len(rows(store, 'SELECT 1 FROM cycle')) == 6 * 3 + 2
         assert [row['file'] for row in rows(store, 'SELECT file FROM problem ORDER BY file')] == ['LOG00001.CAN', 'LOG00002.CAN']
-        assert [row['engine_id'] for row in rows(store, "SELECT engine_id FROM cycle JOIN card USING (card_id) WHERE name = 'zbad' ORDER BY number")] \
-            == ['DEMO-000001', 'card:zbad']
+        damaged = rows(store, "SELECT engine_id FROM cycle JOIN card USING (card_id) WHERE name = 'zbad' ORDER BY number")
+        assert [row['engine_id'] for row in damaged] == ['DEMO-000001', 'card:zbad']
         assert 'unchanged, 0 cycles' in run('scan', folder, f'{folder}/card01', '-o', store)[0] and dump(store) == whole
         run('scan', f'{folder}/none', '-o', f'{work}/none.sqlite', status=1)
         assert math.isclose(rows(store, 'SELECT sum(flight_time) AS s FROM cycle')[0]['s'],
