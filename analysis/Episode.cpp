@@ -4,6 +4,27 @@
 
 namespace ZARN {
 
+const char* episodeKindKey(EEpisodeKind kind)
+{
+    switch (kind) {
+    case EEpisodeKind::eStop: return "stop";
+    case EEpisodeKind::eLimit: return "limit";
+    case EEpisodeKind::eLamp: return "lamp";
+    case EEpisodeKind::eFault: return "fault";
+    }
+    return "";
+}
+
+const char* sideKey(ESide side)
+{
+    switch (side) {
+    case ESide::eHigh: return "high";
+    case ESide::eLow: return "low";
+    case ESide::eNone: break;
+    }
+    return "";
+}
+
 void EpisodeList::sort()
 {
     for (std::vector<Episode>* pEpisodes : {&watched, &standing}) {

@@ -10,6 +10,11 @@ namespace ZARN {
 enum class EEpisodeKind { eStop, eLimit, eLamp, eFault };
 enum class ESide { eNone, eHigh, eLow };
 
+/// "stop", "limit", "lamp" or "fault".
+[[nodiscard]] const char* episodeKindKey(EEpisodeKind kind);
+/// "high" or "low"; empty for neither.
+[[nodiscard]] const char* sideKey(ESide side);
+
 /// The worst value of an episode and the limit that it passed.
 struct EpisodePeak {
     double limit = 0.0;

@@ -40,6 +40,8 @@ public:
     [[nodiscard]] static QString time(double seconds);
     /// "9 s", "1 min 5 s" or "1 h 2 min".
     [[nodiscard]] static QString duration(double seconds);
+    /// "in climb".
+    [[nodiscard]] static QString phaseText(EFlightPhase phase);
 
 private:
     /// Episodes of one kind that tell of one thing.
@@ -57,7 +59,6 @@ private:
     [[nodiscard]] QString restText(const Quantity& quantity) const;
     [[nodiscard]] QString valueText(const Quantity& quantity, bool withLimit) const;
     [[nodiscard]] QString number(double value, const QString& limit, int precision) const;
-    [[nodiscard]] static QString phaseText(EFlightPhase phase);
     [[nodiscard]] static QString listed(QStringList items, qsizetype most, const QString& separator);
 
     QLocale mLocale;

@@ -75,7 +75,8 @@ void KeyValues::addSteps(Layer& layer, const SpanIndex& flights, const std::vect
 
 void KeyValues::begin(const std::string& group, const Trace& values)
 {
-    mTable.sources.push_back({group, values.name(), values.parameter().unitMetric});
+    const ProfileParameter& parameter = values.parameter();
+    mTable.sources.push_back({group, values.name(), parameter.unitMetric, std::clamp(parameter.precision, 0, 17)});
     mAscending = values.ascending();
     for (Layer& layer : mLayers)
         layer.current = 0;

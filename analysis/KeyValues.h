@@ -17,7 +17,8 @@ struct KeyValue {
 struct KeyValueSource {
     std::string group;
     std::string parameter;
-    std::string unit; ///< metric
+    std::string unit;  ///< metric
+    int precision = 0; ///< decimals that tell something
 };
 
 /// All key values of a cycle. A plain value.

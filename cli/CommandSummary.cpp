@@ -4,38 +4,21 @@
 #include "cli/CommandFlights.h"
 #include "cli/JsonWriter.h"
 #include "cli/Output.h"
+#include "cli/PathList.h"
 #include "cli/SummaryJson.h"
 #include "cli/VisibleText.h"
+#include "store/CycleIdentity.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <cstring>
-#include <fstream>
-#include <iostream>
 
 namespace ZARN {
-
-namespace {
-
-std::vector<std::string> linesOf(std::istream& stream)
-{
-    std::vector<std::string> lines;
-    for (std::string line; std::getline(stream, line);) {
-        if (line.ends_with('\r'))
-            line.pop_back();
-        if (!line.empty())
-            lines.push_back(line);
-    }
-    return lines;
-}
-
-} // namespace
 
 CommandSummary::CommandSummary(CLI::App& program)
     : CardCommand(program, "summary", "tell whether the engine was all right, what it took and what happened",
                   "zarn-cli summary /media/card", eManyCards)
 {
-    options().add("--from-file", mListFile, "file that names more cards, one path a line; \"-\" is standard input");
+    options().add("--from-file", mListFile, kPathListHelp);
+    options().add("--store", mStore, "store of earlier flights (see scan) that tells what is unusual for the engine");
     addJson();
 }
 
@@ -47,8 +30,10 @@ int CommandSummary::run()
         return eWrongCall;
     }
     std::string problem = loadProfile();
-    if (problem.empty())
-        problem = readList(paths);
+    if (problem.empty() && isGiven("--from-file"))
+        problem = readPathList(mListFile, paths);
+    if (problem.empty() && isGiven("--store"))
+        problem = openStore();
     if (!problem.empty())
         return fail(problem);
     int status = eDone;
@@ -59,20 +44,10 @@ int CommandSummary::run()
     return finish(status);
 }
 
-std::string CommandSummary::readList(std::vector<std::string>& paths) const
+std::string CommandSummary::openStore()
 {
-    if (!isGiven("--from-file"))
-        return {};
-    std::ifstream file;
-    if (mListFile != "-") {
-        file.open(mListFile);
-        if (!file)
-            return mListFile + ": " + std::strerror(errno);
-    }
-    std::istream& stream = mListFile == "-" ? std::cin : file;
-    const std::vector<std::string> lines = linesOf(stream);
-    paths.insert(paths.end(), lines.begin(), lines.end());
-    return stream.bad() ? mListFile + ": " + std::strerror(errno) : std::string();
+    mpStore = std::make_unique<StoreReader>(mStore);
+    return mpStore->error();
 }
 
 int CommandSummary::runOnCard()
@@ -107,8 +82,19 @@ std::string CommandSummary::reviewCycles()
         if (!problem.empty())
             return problem;
         keepProblems();
-        mReviewed.push_back({number, &cycle, mContainer.startTime(), mContainer.endTime(), mContainer.recordData().count() == 0,
-                             reviewCycle(mContainer.values(), cycle.flights, mContainer.endTime())});
+        mReviewed.push_back(
+            {number,
+             &cycle,
+             mContainer.startTime(),
+             mContainer.endTime(),
+             mContainer.recordData().count() == 0,
+             reviewCycle(mContainer.values(), cycle.flights, mContainer.endTime(), mpStore ? EKeyValues::eAll : EKeyValues::eNone),
+             {}});
+        if (!mpStore)
+            continue;
+        mReviewed.back().unusual = findUnusual(*mpStore, cycleHead(mContainer, number, cycle), cycle.flights, mReviewed.back().review);
+        if (!mpStore->error().empty())
+            return mpStore->error();
     }
     return {};
 }
@@ -136,7 +122,7 @@ void CommandSummary::writeJson()
     for (const ReviewedCycle& reviewed : mReviewed) {
         mWriter.beginObject().member("number", reviewed.number).member("name", reviewed.pCycle->name);
         mWriter.member("dateTime", reviewed.pCycle->dateTime).member("startTime", reviewed.startTime).member("endTime", reviewed.endTime);
-        writeReview(mWriter, reviewed.review);
+        writeReview(mWriter, reviewed.review, reviewed.unusual);
         writeFlights(mWriter, reviewed.pCycle->flights);
         mWriter.endObject();
     }

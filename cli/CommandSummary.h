@@ -17,7 +17,7 @@ public:
 private:
     int runOnCard() override;
     /// Empty when all went well, else what failed and why.
-    [[nodiscard]] std::string readList(std::vector<std::string>& paths) const;
+    [[nodiscard]] std::string openStore();
     [[nodiscard]] std::string reviewCycles();
     void keepProblems();
     int finish(int status);
@@ -25,6 +25,8 @@ private:
     void writeText();
 
     std::string mListFile;
+    std::string mStore;
+    std::unique_ptr<StoreReader> mpStore; ///< null without a store
     std::vector<ReviewedCycle> mReviewed; ///< of the open card
     std::vector<CardProblem> mProblems;   ///< of the card, its cycles included
     Output mOutput;

@@ -4,17 +4,6 @@ namespace ZARN {
 
 namespace {
 
-const char* kindKey(EEpisodeKind kind)
-{
-    switch (kind) {
-    case EEpisodeKind::eStop: return "stop";
-    case EEpisodeKind::eLimit: return "limit";
-    case EEpisodeKind::eLamp: return "lamp";
-    case EEpisodeKind::eFault: return "fault";
-    }
-    return "";
-}
-
 template <typename Value> void writeOptional(JsonWriter& writer, const char* key, const std::optional<Value>& value)
 {
     writer.key(key);
@@ -23,13 +12,13 @@ template <typename Value> void writeOptional(JsonWriter& writer, const char* key
 
 void writeEpisode(JsonWriter& writer, const Episode& episode)
 {
-    writer.beginObject().member("kind", kindKey(episode.kind)).member("group", episode.group).member("parameter", episode.parameter);
+    writer.beginObject().member("kind", episodeKindKey(episode.kind)).member("group", episode.group).member("parameter", episode.parameter);
     writer.member("unit", episode.unit)
         .member("state", episode.state)
         .member("start", episode.start)
         .member("end", episode.end)
         .key("side");
-    episode.side == ESide::eNone ? writer.null() : writer.value(episode.side == ESide::eHigh ? "high" : "low");
+    episode.side == ESide::eNone ? writer.null() : writer.value(sideKey(episode.side));
     const auto& peak = episode.peak;
     writeOptional(writer, "limit", peak ? std::optional(peak->limit) : std::nullopt);
     writeOptional(writer, "peak", peak ? std::optional(peak->value) : std::nullopt);
@@ -57,7 +46,21 @@ void writeIncident(JsonWriter& writer, const Incident& incident)
 
 } // namespace
 
-void writeReview(JsonWriter& writer, const CycleReview& review)
+void writeJudgement(JsonWriter& writer, const TrendJudgement& judgement)
+{
+    const Distribution& band = judgement.band;
+    writer.key("band");
+    if (band.samples == 0) {
+        writer.null();
+    } else {
+        writer.beginObject().member("flights", static_cast<int64_t>(band.samples)).member("p05", band.p05).member("median", band.median);
+        writer.member("p95", band.p95).endObject();
+    }
+    writeOptional(writer, "z", judgement.z);
+    writer.member("unusual", judgement.isUnusual).member("drifting", judgement.isDrifting);
+}
+
+void writeReview(JsonWriter& writer, const CycleReview& review, const std::vector<Unusual>& unusual)
 {
     writeOptional(writer, "engineRunning", review.engine.duration());
     writer.member("flightTime", review.flightTime);
@@ -71,7 +74,14 @@ void writeReview(JsonWriter& writer, const CycleReview& review)
         writeIncident(writer, incident);
     writer.endArray();
     writeEpisodes(writer, "standing", review.standing);
-    writer.key("unusual").beginArray().endArray(); // nothing to compare with
+    writer.key("unusual").beginArray();
+    for (const Unusual& one : unusual) {
+        writer.beginObject().member("flight", one.flight).member("group", one.source.group).member("parameter", one.source.parameter);
+        writer.member("unit", one.source.unit).member("phase", phaseKey(one.phase)).member("median", one.median);
+        writeJudgement(writer, one.judgement);
+        writer.endObject();
+    }
+    writer.endArray();
 }
 
 } // namespace ZARN

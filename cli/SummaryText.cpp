@@ -78,6 +78,22 @@ void appendFlights(std::vector<std::string>& lines, const std::vector<RecordFlig
         lines.push_back("  and " + std::to_string(flights.size() - kMost) + " more flights");
 }
 
+QLocale english()
+{
+    return {QLocale::English, QLocale::UnitedStates};
+}
+
+void appendUnusual(std::vector<std::string>& lines, const std::vector<Unusual>& unusual)
+{
+    constexpr std::size_t kMost = 4;
+    for (std::size_t i = 0; i < std::min(kMost, unusual.size()); ++i) {
+        appendWrapped(lines, "  Unusual in flight " + std::to_string(unusual[i].flight) + ": ",
+                      UnusualText(english()).sentence(unusual[i]));
+    }
+    if (unusual.size() > kMost)
+        lines.push_back("  and " + std::to_string(unusual.size() - kMost) + " more unusual figures (--json tells all)");
+}
+
 } // namespace
 
 std::string summaryText(const ReviewedCycle& reviewed)
@@ -86,12 +102,12 @@ std::string summaryText(const ReviewedCycle& reviewed)
     const ReviewText text(reviewed.review);
     appendHead(lines, reviewed);
     appendFlights(lines, reviewed.pCycle->flights);
+    appendUnusual(last, reviewed.unusual);
     for (const QString& gap : text.gaps())
         appendWrapped(last, "  ", gap);
     if (!reviewed.review.standing.empty())
         last.push_back(standingLine(text));
-    const std::vector<IncidentSentence> sentences =
-        IncidentText(QLocale(QLocale::English, QLocale::UnitedStates)).sentences(reviewed.review.incidents);
+    const std::vector<IncidentSentence> sentences = IncidentText(english()).sentences(reviewed.review.incidents);
     for (std::size_t i = 0; i < sentences.size(); ++i) {
         std::vector<std::string> more;
         appendWrapped(more, (sentences[i].state == eThresholdLimit ? "  !! " : "  !  ") + sentences[i].time.toStdString() + "  ",

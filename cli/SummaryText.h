@@ -1,7 +1,7 @@
 #pragma once
 
-#include "analysis/CycleReview.h"
 #include "card/RecordCycle.h"
+#include "store/Unusual.h"
 
 namespace ZARN {
 
@@ -13,6 +13,7 @@ struct ReviewedCycle {
     double endTime = 0.0;
     bool isEmpty = false; ///< no record was there
     CycleReview review;
+    std::vector<Unusual> unusual; ///< where there is a store to compare with
 };
 
 /// A cycle for people, at most a screen: verdict, what it took, its incidents with the worst first.

@@ -11,8 +11,10 @@
 #include "cli/CommandPath.h"
 #include "cli/CommandProfile.h"
 #include "cli/CommandReport.h"
+#include "cli/CommandScan.h"
 #include "cli/CommandSimulate.h"
 #include "cli/CommandSummary.h"
+#include "cli/CommandTrend.h"
 #include "cli/CommandValue.h"
 
 #include <QtGlobal>
@@ -63,8 +65,9 @@ int runProgram(int argc, char** argv)
     program.set_version_flag("--version", Revision::getRevisionString());
     bool isVerbose = false;
     program.add_flag("--verbose", isVerbose, "tell on standard error what is done");
-    const auto commands = makeCommands<CommandInfo, CommandIds, CommandFlights, CommandEvents, CommandFaults, CommandPath, CommandValue, CommandCsv,
-                                       CommandKml, CommandGpx, CommandCandump, CommandReport, CommandSummary, CommandProfile, CommandSimulate>(program);
+    const auto commands = makeCommands<CommandInfo, CommandIds, CommandFlights, CommandEvents, CommandFaults, CommandPath, CommandValue,
+                                       CommandCsv, CommandKml, CommandGpx, CommandCandump, CommandReport, CommandSummary, CommandScan,
+                                       CommandTrend, CommandProfile, CommandSimulate>(program);
     program.footer("Example: zarn-cli csv /media/card -o flight.csv");
     if (argc < 2) {
         std::fputs(program.help().c_str(), stderr);
@@ -106,8 +109,8 @@ int runProgram(int argc, char** argv)
 void holdStandardDescriptors()
 {
     for (int descriptor = STDIN_FILENO; descriptor <= STDERR_FILENO; ++descriptor) {
-        if (fcntl(descriptor, F_GETFD) < 0 && errno == EBADF)
-            [[maybe_unused]] const int held = open("/dev/null", descriptor == STDERR_FILENO ? O_WRONLY : O_RDONLY); // writing results fails
+        if (fcntl(descriptor, F_GETFD) < 0 && errno == EBADF) [[maybe_unused]]
+            const int held = open("/dev/null", descriptor == STDERR_FILENO ? O_WRONLY : O_RDONLY); // writing results fails
     }
 }
 

@@ -40,6 +40,9 @@ public:
     [[nodiscard]] std::size_t samplesDone() const { return mNext; }
     /// Takes the samples that lie in the window and marks their rows.
     void collect(CsvWindow& window);
+    /// What collect() took: the ticks that have a sample, as offsets from the window's first, and the number of the last one of each.
+    [[nodiscard]] std::span<const uint16_t> takenOffsets() const { return {mOffsets.data(), mTaken}; }
+    [[nodiscard]] std::span<const double> takenNumbers() const { return {mValues.data(), mTaken}; }
     /// Writes one cell a row of the window, side by side; texts that are too long for a cell go to `longTexts`.
     void fill(const CsvWindow& window, CsvCell* pCells, std::vector<std::string>& longTexts);
 

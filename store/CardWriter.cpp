@@ -1,0 +1,177 @@
+#include "store/CardWriter.h"
+
+#include "store/StoreText.h"
+
+#include <set>
+
+namespace ZARN {
+
+namespace {
+
+/// The statement that inserts a row of a table; a cycle that is there takes the new fields.
+std::string insertion(const StoreTable& table, bool isCycle)
+{
+    std::string names, places, updates;
+    for (const StoreColumn& column : table.columns) {
+        const std::string name = column.name, comma = names.empty() ? "" : ", ";
+        names += comma + name;
+        places += comma + "?";
+        updates += comma + name + " = excluded." + name;
+    }
+    const std::string sql = "INSERT INTO " + std::string(table.name) + " (" + names + ") VALUES (" + places + ")";
+    return isCycle ? sql + " ON CONFLICT (cycle_id) DO UPDATE SET " + updates : sql;
+}
+
+} // namespace
+
+bool CardWriter::hasCycle(const std::string& id)
+{
+    Statement& found =
+        mDatabase.prepared("SELECT 1 FROM cycle WHERE cycle_id = ? AND analysis_version = ? AND profile_hash = ? AND variant = ?");
+    return found.with({id, int64_t{AnalysisKey::kVersion}, mKey.profileHash, storeText(mKey.variant)}).any();
+}
+
+void CardWriter::write(const CardFacts& facts)
+{
+    const int64_t card = writeCard(facts);
+    if (facts.listing.files.empty()) {
+        writeFailure(card, facts);
+        return;
+    }
+    for (const CycleFacts& cycle : facts.cycles) {
+        if (!hasCycle(cycle.head.id)) // another card, or another program, may have brought it meanwhile
+            writeCycle(card, cycle);
+    }
+    writeProblems(card, facts);
+    writeFiles(card, facts);
+}
+
+int64_t CardWriter::writeCard(const CardFacts& facts)
+{
+    const std::string path = storeText(facts.listing.path);
+    mDatabase.prepared("INSERT INTO card (path, name, first_seen) VALUES (?, ?, ?) ON CONFLICT (path) DO NOTHING")
+        .with({path, storeText(facts.name), storeDate(QDateTime::currentDateTime())})
+        .run();
+    Statement& card = mDatabase.prepared("SELECT card_id FROM card WHERE path = ?").with({path});
+    const int64_t id = card.next() ? card.integer(0) : 0;
+    card.run(); // to its end
+    return id;
+}
+
+/// Where nothing could be listed, what was found there before still holds.
+void CardWriter::writeFailure(int64_t card, const CardFacts& facts)
+{
+    mDatabase.prepared("DELETE FROM problem WHERE card_id = ? AND file IS NULL").with({card}).run();
+    for (const CardProblem& problem : facts.problems)
+        insertProblem(card, {}, problem.reason.toStdString());
+}
+
+void CardWriter::insertProblem(int64_t card, const std::string& file, const std::string& reason)
+{
+    mDatabase.prepared("INSERT INTO problem (card_id, file, reason) VALUES (?, ?, ?)").with({card, textOrNothing(file), reason}).run();
+}
+
+/// What is known only from loading a cycle is told when it is loaded: of the files of a cycle that was loaded before, from this card or a
+/// twin of it, what was told then still holds.
+void CardWriter::writeProblems(int64_t card, const CardFacts& facts)
+{
+    std::set<std::pair<std::string, std::string>> problems;
+    for (const CardProblem& problem : facts.problems)
+        problems.emplace(storeText(problem.file), problem.reason.toStdString());
+    Statement& told =
+        mDatabase.prepared("SELECT DISTINCT reason FROM problem JOIN file ON file.card_id = problem.card_id AND file.name = problem.file "
+                           "WHERE cycle_id = ? AND file.name = ?");
+    for (std::size_t i = 0; i < facts.listing.files.size(); ++i) {
+        const std::string name = storeText(facts.listing.files[i].name);
+        told.with({facts.cycleOfFile[i], name});
+        while (told.next())
+            problems.emplace(name, told.text(0));
+    }
+    mDatabase.prepared("DELETE FROM problem WHERE card_id = ?").with({card}).run();
+    for (const auto& [file, reason] : problems)
+        insertProblem(card, file, reason);
+}
+
+void CardWriter::writeFiles(int64_t card, const CardFacts& facts)
+{
+    struct Known {
+        int64_t size;
+        double mtime;
+        std::string cycle;
+    };
+    std::map<std::string, Known> before;
+    Statement& old =
+        mDatabase.prepared("SELECT name, size, mtime, cycle_id FROM file WHERE card_id = ? AND cycle_id IS NOT NULL").with({card});
+    while (old.next())
+        before[old.text(0)] = {old.integer(1), old.real(2), old.text(3)};
+    mDatabase.prepared("DELETE FROM file WHERE card_id = ?").with({card}).run();
+    Statement& insert = mDatabase.prepared("INSERT OR REPLACE INTO file (card_id, name, size, mtime, cycle_id) VALUES (?, ?, ?, ?, ?)");
+    std::set<std::pair<std::string, std::string>> grown;
+    for (std::size_t i = 0; i < facts.listing.files.size(); ++i) {
+        const ListedFile& file = facts.listing.files[i];
+        const std::string name = storeText(file.name), &cycle = facts.cycleOfFile[i];
+        insert.with({card, name, file.size, facts.isWhole ? Value(file.mtime) : Value(), textOrNothing(cycle)}).run();
+        const auto known = before.find(name);
+        if (known == before.end() || cycle.empty() || known->second.cycle == cycle)
+            continue;
+        const bool isSame = known->second.size == file.size && known->second.mtime == file.mtime;
+        if (isSame || (known->second.size < file.size && isBeginning(known->second.cycle, cycle)))
+            grown.emplace(known->second.cycle, cycle);
+    }
+    for (const auto& [oldCycle, newCycle] : grown)
+        replace(oldCycle, newCycle);
+}
+
+bool CardWriter::isBeginning(const std::string& oldCycle, const std::string& newCycle)
+{
+    return mDatabase
+        .prepared("SELECT 1 FROM cycle AS a JOIN cycle AS b USING (engine_id, number, date_time, start_time) WHERE a.cycle_id = ? AND "
+                  "b.cycle_id = ?")
+        .with({oldCycle, newCycle})
+        .any();
+}
+
+/// A cycle one of whose files now belongs to another one was the beginning of that: a card that was read while it was copied.
+void CardWriter::replace(const std::string& oldCycle, const std::string& newCycle)
+{
+    if (mDatabase.prepared("SELECT 1 FROM file WHERE cycle_id = ?").with({oldCycle}).any())
+        return; // by another card, which has no more of it
+    mDatabase.prepared("UPDATE note SET cycle_id = ?2 WHERE cycle_id = ?1").with({oldCycle, newCycle}).run();
+    mDatabase.prepared("DELETE FROM cycle WHERE cycle_id = ?").with({oldCycle}).run();
+}
+
+void CardWriter::writeEngine(const EngineIdentity& engine)
+{
+    mDatabase
+        .prepared("INSERT INTO engine (engine_id, engine_serial, ecu_serial, engine_type, ecu_type) VALUES (?, ?, ?, ?, ?) "
+                  "ON CONFLICT (engine_id) DO UPDATE SET ecu_serial = coalesce(ecu_serial, excluded.ecu_serial), "
+                  "engine_type = coalesce(engine_type, excluded.engine_type), ecu_type = coalesce(ecu_type, excluded.ecu_type)")
+        .with({engine.id, textOrNothing(engine.serial), engine.ecuSerial ? Value(*engine.ecuSerial) : Value(), textOrNothing(engine.type),
+               textOrNothing(engine.ecuType)})
+        .run();
+}
+
+void CardWriter::insert(EStoreTable table, const Row& row)
+{
+    mDatabase.prepared(insertion(storeTable(table), table == eCycleTable)).with(row).run();
+}
+
+void CardWriter::writeCycle(int64_t card, const CycleFacts& cycle)
+{
+    writeEngine(cycle.head.engine);
+    for (const char* table : {"episode", "incident", "flight"}) // key values go with their flight
+        mDatabase.prepared("DELETE FROM " + std::string(table) + " WHERE cycle_id = ?").with({cycle.head.id}).run();
+    std::map<EStoreTable, int64_t> first;
+    for (const EStoreTable table : {eFlightTable, eIncidentTable, eEpisodeTable}) {
+        const StoreTable& columns = storeTable(table);
+        first[table] = mDatabase.number("SELECT coalesce(max(" + std::string(columns.columns[0].name) + "), 0) + 1 FROM " + columns.name);
+    }
+    const RowIds ids{card, [&first](EStoreTable table, std::size_t place) { return first.at(table) + static_cast<int64_t>(place); }};
+    const CycleRows rows = cycleRows(cycle, mKey, ids);
+    for (int table = eCycleTable; table < eStoreTables; ++table) {
+        for (const Row& row : rows[static_cast<std::size_t>(table)])
+            insert(static_cast<EStoreTable>(table), row);
+    }
+}
+
+} // namespace ZARN

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "store/CardFacts.h"
+#include "store/CycleRows.h"
+#include "store/Database.h"
+
+namespace ZARN {
+
+/// Writes what was found on a card into an open store, within a transaction. What went before it stays where it is still true: a recording
+/// that is no longer on a card remains in the store, one that has grown replaces its beginning, and notes go with it.
+class CardWriter {
+public:
+    CardWriter(Database& database, const AnalysisKey& key) : mDatabase(database), mKey(key) {}
+
+    void write(const CardFacts& card);
+    /// Whether a cycle was worked out as it would be now.
+    [[nodiscard]] bool hasCycle(const std::string& id);
+
+private:
+    int64_t writeCard(const CardFacts& card);
+    void writeFiles(int64_t card, const CardFacts& facts);
+    void writeProblems(int64_t card, const CardFacts& facts);
+    void writeFailure(int64_t card, const CardFacts& facts);
+    void insertProblem(int64_t card, const std::string& file, const std::string& reason);
+    void writeCycle(int64_t card, const CycleFacts& cycle);
+    void writeEngine(const EngineIdentity& engine);
+    void insert(EStoreTable table, const Row& row);
+    /// Whether the one cycle is the other one, of which more was recorded.
+    [[nodiscard]] bool isBeginning(const std::string& oldCycle, const std::string& newCycle);
+    void replace(const std::string& oldCycle, const std::string& newCycle);
+
+    Database& mDatabase;
+    const AnalysisKey& mKey;
+};
+
+} // namespace ZARN

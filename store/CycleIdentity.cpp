@@ -1,0 +1,80 @@
+#include "store/CycleIdentity.h"
+
+#include "app/FileName.h"
+#include "card/record/RecordReader.h"
+#include "store/StoreText.h"
+
+#include <QCryptographicHash>
+
+namespace ZARN {
+
+namespace {
+
+constexpr int64_t kPart = 64 * 1024;
+
+/// @return false when not all of it could be read
+bool addPart(QCryptographicHash& hash, FILE* pFile, int64_t from, int64_t length)
+{
+    QByteArray bytes(static_cast<qsizetype>(length), '\0');
+    if (fseeko(pFile, static_cast<off_t>(from), SEEK_SET) != 0)
+        return false;
+    if (std::fread(bytes.data(), 1, static_cast<std::size_t>(length), pFile) != static_cast<std::size_t>(length))
+        return false;
+    hash.addData(bytes);
+    return true;
+}
+
+bool addFile(QCryptographicHash& hash, const std::string& path)
+{
+    int64_t size = 0;
+    const File file = RecordReader::openFile(decodeFileName(path), size);
+    if (!file)
+        return false;
+    hash.addData(QByteArray::number(static_cast<qlonglong>(size)) + '\n');
+    const int64_t part = std::min(size, kPart);
+    return addPart(hash, file.get(), 0, part) && addPart(hash, file.get(), size - part, part);
+}
+
+} // namespace
+
+std::string cycleIdentity(const std::vector<std::string>& paths)
+{
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    for (const std::string& path : paths) {
+        if (!addFile(hash, path))
+            return {};
+    }
+    return hash.result().toHex().toStdString();
+}
+
+std::string engineOfCard(const std::string& name)
+{
+    return "card:" + storeText(name);
+}
+
+CycleHead cycleHead(const CardContainer& card, uint32_t number, const RecordCycle& cycle)
+{
+    CycleHead head;
+    head.number = number;
+    head.dateTime = cycle.dateTime;
+    std::vector<std::string> paths;
+    for (const RecordInfo& info : cycle.files) { // of a text that differs, the last one that is there counts
+        paths.push_back(encodeFileName(info.fileName));
+        const auto take = [](std::string& text, const std::string& told) { text = told.empty() ? text : storeText(told); };
+        take(head.engine.serial, info.engineSerial);
+        take(head.engine.type, info.engineType);
+        take(head.engine.ecuType, info.ecuType);
+        if (info.ecuSerialNumber != 0)
+            head.engine.ecuSerial = info.ecuSerialNumber;
+    }
+    head.id = cycleIdentity(paths);
+    if (!head.engine.serial.empty())
+        head.engine.id = head.engine.serial;
+    else if (head.engine.ecuSerial)
+        head.engine.id = "ecu:" + std::to_string(*head.engine.ecuSerial);
+    else
+        head.engine.id = engineOfCard(encodeFileName(card.name()));
+    return head;
+}
+
+} // namespace ZARN

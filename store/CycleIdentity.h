@@ -1,0 +1,17 @@
+#pragma once
+
+#include "card/CardContainer.h"
+#include "store/CardFacts.h"
+
+namespace ZARN {
+
+/// The SHA-256 over the files of a cycle in order: of each its size as decimal text and a line feed, its first and its last 64 KiB.
+/// Empty when one of them cannot be read.
+[[nodiscard]] std::string cycleIdentity(const std::vector<std::string>& paths);
+/// The same of a cycle of a card, and whose it is.
+[[nodiscard]] CycleHead cycleHead(const CardContainer& card, uint32_t number, const RecordCycle& cycle);
+
+/// The engine of a card of that name that tells neither its serial number nor that of its unit.
+[[nodiscard]] std::string engineOfCard(const std::string& name);
+
+} // namespace ZARN

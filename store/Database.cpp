@@ -1,0 +1,213 @@
+#include "store/Database.h"
+
+#include "store/StoreText.h"
+
+#include <cstring>
+
+#include <sqlite3.h>
+#include <sys/stat.h>
+
+namespace ZARN {
+
+namespace {
+
+constexpr int kBusyMilliseconds = 5000;
+
+Database::EFailure failureOf(int code)
+{
+    switch (code & 0xFF) {
+    case SQLITE_CORRUPT: return Database::eDamaged;
+    case SQLITE_NOTADB: return Database::eNoDatabase;
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED: return Database::eBusy;
+    default: return Database::eOther;
+    }
+}
+
+} // namespace
+
+Statement::Statement(Database& database, const std::string& sql) : mDatabase(database)
+{
+    if (database.isGood() && database.mpDatabase)
+        database.check(sqlite3_prepare_v2(database.mpDatabase, sql.c_str(), static_cast<int>(sql.size()), &mpStatement, nullptr));
+}
+
+Statement::~Statement()
+{
+    sqlite3_finalize(mpStatement);
+}
+
+Statement& Statement::with(const Row& values)
+{
+    if (!mpStatement)
+        return *this;
+    sqlite3_reset(mpStatement);
+    sqlite3_clear_bindings(mpStatement);
+    int place = 0;
+    for (const Value& value : values) {
+        ++place;
+        int code = SQLITE_OK;
+        if (const auto* pInteger = std::get_if<int64_t>(&value))
+            code = sqlite3_bind_int64(mpStatement, place, *pInteger);
+        else if (const auto* pReal = std::get_if<double>(&value))
+            code = sqlite3_bind_double(mpStatement, place, *pReal);
+        else if (const auto* pText = std::get_if<std::string>(&value))
+            code = sqlite3_bind_text64(mpStatement, place, pText->data(), pText->size(), SQLITE_TRANSIENT, SQLITE_UTF8);
+        mDatabase.check(code);
+    }
+    return *this;
+}
+
+bool Statement::next()
+{
+    if (!mpStatement || !mDatabase.isGood())
+        return false;
+    const int code = sqlite3_step(mpStatement);
+    if (code == SQLITE_ROW)
+        return true;
+    if (code != SQLITE_DONE)
+        mDatabase.note(code);
+    sqlite3_reset(mpStatement);
+    return false;
+}
+
+bool Statement::any()
+{
+    const bool isAny = next();
+    if (isAny)
+        sqlite3_reset(mpStatement);
+    return isAny;
+}
+
+bool Statement::run()
+{
+    while (next()) {
+    }
+    return mDatabase.isGood();
+}
+
+Value Statement::value(int column) const
+{
+    switch (sqlite3_column_type(mpStatement, column)) {
+    case SQLITE_INTEGER: return integer(column);
+    case SQLITE_FLOAT: return real(column);
+    case SQLITE_NULL: return {};
+    default: return text(column);
+    }
+}
+
+int64_t Statement::integer(int column) const
+{
+    return sqlite3_column_int64(mpStatement, column);
+}
+
+double Statement::real(int column) const
+{
+    return sqlite3_column_double(mpStatement, column);
+}
+
+std::string Statement::text(int column) const
+{
+    const auto* pText = reinterpret_cast<const char*>(sqlite3_column_text(mpStatement, column));
+    return pText ? std::string(pText, static_cast<std::size_t>(sqlite3_column_bytes(mpStatement, column))) : std::string();
+}
+
+bool Statement::isNull(int column) const
+{
+    return sqlite3_column_type(mpStatement, column) == SQLITE_NULL;
+}
+
+Database::Database(const std::string& path, EMode mode) : mPath(path)
+{
+    struct stat status = {};
+    if (::stat(path.c_str(), &status) == 0 && !S_ISREG(status.st_mode)) {
+        fail(tr("it is no file"));
+        return;
+    }
+    const int flags = mode == eReadOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE;
+    if (!check(sqlite3_open_v2(path.c_str(), &mpDatabase, flags | SQLITE_OPEN_NOMUTEX, nullptr)))
+        return;
+    sqlite3_extended_result_codes(mpDatabase, 1);
+    sqlite3_busy_timeout(mpDatabase, kBusyMilliseconds);
+    if (mode == eReadWrite && sqlite3_db_readonly(mpDatabase, "main") == 1)
+        fail(tr("it cannot be written, only read"));
+}
+
+Database::~Database()
+{
+    close();
+}
+
+void Database::close()
+{
+    mStatements.clear();
+    sqlite3_close(mpDatabase);
+    mpDatabase = nullptr;
+}
+
+bool Database::run(const std::string& sql)
+{
+    return isGood() && mpDatabase && check(sqlite3_exec(mpDatabase, sql.c_str(), nullptr, nullptr, nullptr));
+}
+
+Statement& Database::prepared(const std::string& sql)
+{
+    std::unique_ptr<Statement>& pStatement = mStatements[sql];
+    if (!pStatement)
+        pStatement = std::make_unique<Statement>(*this, sql);
+    return *pStatement;
+}
+
+int64_t Database::number(const std::string& sql)
+{
+    Statement statement(*this, sql);
+    return statement.next() ? statement.integer(0) : 0;
+}
+
+void Database::rollBack()
+{
+    if (mpDatabase && sqlite3_get_autocommit(mpDatabase) == 0)
+        sqlite3_exec(mpDatabase, "ROLLBACK", nullptr, nullptr, nullptr);
+}
+
+bool Database::fail(const QString& reason)
+{
+    if (isGood()) {
+        mFailure = eOther;
+        mError = mPath + ": " + reason.toStdString();
+    }
+    return false;
+}
+
+void Database::failDamaged()
+{
+    note(SQLITE_CORRUPT);
+}
+
+bool Database::check(int code)
+{
+    if (code != SQLITE_OK)
+        note(code);
+    return code == SQLITE_OK;
+}
+
+void Database::note(int code)
+{
+    if (!isGood())
+        return;
+    const int system = mpDatabase ? sqlite3_system_errno(mpDatabase) : 0;
+    switch (code & 0xFF) {
+    case SQLITE_NOTADB: fail(tr("it is no store: not an SQLite file")); break;
+    case SQLITE_CORRUPT: fail(tr("the store is damaged")); break;
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED: fail(tr("another program is writing to the store")); break;
+    case SQLITE_READONLY: fail(tr("it cannot be written, only read")); break;
+    case SQLITE_FULL: fail(tr("the disk is full")); break;
+    default:
+        fail(system != 0 ? QString::fromLocal8Bit(std::strerror(system))
+                         : QString::fromUtf8(mpDatabase ? sqlite3_errmsg(mpDatabase) : sqlite3_errstr(code)));
+    }
+    mFailure = failureOf(code);
+}
+
+} // namespace ZARN

@@ -1,0 +1,188 @@
+#include "store/ParquetDataset.h"
+
+#include "store/StoreText.h"
+
+#include <algorithm>
+#include <filesystem>
+
+#include <unistd.h>
+
+namespace ZARN {
+
+namespace {
+
+constexpr const char* kMadeBy = "zarn.made_by";    // the note that tells by what a cycle was worked out
+constexpr const char* kProblems = "zarn.problems"; // and that of what was found wrong with it
+constexpr const char* kSamplesFolder = "samples";
+
+/// As a part of a path, which readers of such folders decode.
+std::string percentEncoded(const std::string& text)
+{
+    std::string encoded;
+    for (const char character : text) {
+        const auto byte = static_cast<unsigned char>(character);
+        const bool isPlain = (byte >= '0' && byte <= '9') || (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z') ||
+                             character == '-' || character == '_' || character == '.';
+        encoded += isPlain ? std::string(1, character) : QString::asprintf("%%%02X", byte).toStdString();
+    }
+    return encoded;
+}
+
+ParquetColumn::EType typeOf(EColumn type)
+{
+    switch (type) {
+    case EColumn::eInteger: return ParquetColumn::eInteger;
+    case EColumn::eReal: return ParquetColumn::eReal;
+    case EColumn::eText:
+    case EColumn::eId: break; // what workers that know nothing of each other can make unique
+    }
+    return ParquetColumn::eText;
+}
+
+std::vector<ParquetColumn> columnsOf(const StoreTable& table)
+{
+    std::vector<ParquetColumn> columns;
+    for (const StoreColumn& column : table.columns)
+        columns.push_back({column.name, typeOf(column.type)});
+    return columns;
+}
+
+EParquetSamples samplesOf(const std::string& text)
+{
+    if (text == "100")
+        return EParquetSamples::eTicks100;
+    if (text == "10")
+        return EParquetSamples::eTicks10;
+    return text == "all" ? EParquetSamples::eAll : EParquetSamples::eNone;
+}
+
+/// A problem a line: the file, a tab and the reason.
+std::string textOf(const std::vector<CardProblem>& problems)
+{
+    std::string text;
+    for (const CardProblem& problem : problems)
+        text += storeText(problem.file) + "\t" + problem.reason.toStdString() + "\n";
+    return text;
+}
+
+std::vector<CardProblem> problemsIn(const std::string& text)
+{
+    std::vector<CardProblem> problems;
+    for (const QString& line : QString::fromStdString(text).split('\n', Qt::SkipEmptyParts))
+        problems.push_back({line.section('\t', 0, 0).toStdString(), line.section('\t', 1), false});
+    return problems;
+}
+
+std::string makeFolderOf(const std::string& path)
+{
+    std::error_code error;
+    const std::filesystem::path folder = std::filesystem::path(path).parent_path();
+    std::filesystem::create_directories(folder, error);
+    return error ? folder.string() + ": " + error.message() : std::string();
+}
+
+} // namespace
+
+ParquetDataset::ParquetDataset(std::string folder, AnalysisKey key, DecodingContext context, std::string samples)
+    : mFolder(std::move(folder)), mKey(std::move(key)), mContext(std::move(context)), mSamples(std::move(samples))
+{
+}
+
+std::string ParquetDataset::prepare() const
+{
+    std::error_code error;
+    std::filesystem::create_directories(mFolder, error);
+    if (error)
+        return mFolder + ": " + error.message();
+    if (!std::filesystem::is_directory(mFolder, error))
+        return mFolder + ": " + tr("it is no folder").toStdString();
+    return ::access(mFolder.c_str(), W_OK | X_OK) == 0 ? std::string()
+                                                       : mFolder + ": " + tr("it cannot be written, only read").toStdString();
+}
+
+std::string ParquetDataset::path(const std::string& table, const std::string& engine, const QDateTime& month, const std::string& name) const
+{
+    return mFolder + "/" + table + "/engine=" + percentEncoded(engine) +
+           "/month=" + (month.isValid() ? month.toString("yyyy-MM").toStdString() : "none") + "/" + name + ".parquet";
+}
+
+std::string ParquetDataset::cyclePath(const std::string& table, const CycleHead& cycle, const QDateTime& month) const
+{
+    return path(table, cycle.engine.id, month, cycle.id);
+}
+
+ParquetFile::Notes ParquetDataset::notes(const std::vector<CardProblem>& problems) const
+{
+    return {{kMadeBy, std::to_string(AnalysisKey::kVersion) + " " + mKey.profileHash + " " + mSamples + " " + storeText(mKey.variant)},
+            {kProblems, textOf(problems)}};
+}
+
+bool ParquetDataset::hasCycle(const CycleHead& cycle, std::vector<CardProblem>& told)
+{
+    const ParquetFile::Notes kept = ParquetFile::notesOf(cyclePath(storeTable(eCycleTable).folder, cycle, cycle.dateTime));
+    if (!kept.contains(kMadeBy) || !kept.contains(kProblems) || kept.at(kMadeBy) != notes({}).at(kMadeBy))
+        return false;
+    told = problemsIn(kept.at(kProblems));
+    return true;
+}
+
+std::string ParquetDataset::takeLoaded(const CardListing& card, const CycleFacts& cycle, const CycleValues& values)
+{
+    const CycleHead& head = cycle.head;
+    const RowIds ids{hashOf(card.path), [&head](EStoreTable, std::size_t place) { return head.id + "/" + std::to_string(place + 1); }};
+    const CycleRows rows = cycleRows(cycle, mKey, ids);
+    const ParquetFile::Notes made = notes(cycle.problems);
+    std::string problem;
+    const EParquetSamples samples = samplesOf(mSamples);
+    if (samples != EParquetSamples::eNone) {
+        const std::string file = cyclePath(kSamplesFolder, head, head.dateTime);
+        problem = makeFolderOf(file);
+        if (problem.empty())
+            problem = ParquetSamples(values, samples).write(file, made);
+    }
+    for (int table = eStoreTables - 1; table >= eCycleTable && problem.empty(); --table) {
+        const StoreTable& form = storeTable(static_cast<EStoreTable>(table));
+        const std::string file = cyclePath(form.folder, head, head.dateTime);
+        problem = makeFolderOf(file);
+        if (!problem.empty())
+            break;
+        ParquetFile written(file, columnsOf(form));
+        written.addRows(rows[static_cast<std::size_t>(table)]);
+        problem = written.finish(made);
+    }
+    if (problem.empty())
+        forgetUndated(head);
+    return problem;
+}
+
+/// The date of a cycle without a clock of its own may become known from the file that follows it on the card.
+void ParquetDataset::forgetUndated(const CycleHead& cycle) const
+{
+    if (!cycle.dateTime.isValid())
+        return;
+    for (int table = eCycleTable; table <= eStoreTables; ++table) {
+        const std::string folder = table == eStoreTables ? kSamplesFolder : storeTable(static_cast<EStoreTable>(table)).folder;
+        ::unlink(cyclePath(folder, cycle, {}).c_str());
+    }
+}
+
+std::string ParquetDataset::write(const CardFacts& card)
+{
+    const std::string id = hashOf(card.listing.path);
+    const std::string file = path("problems", card.engineId, {}, id);
+    std::vector<Row> rows; // none as well, in place of those that it had before
+    for (const CardProblem& problem : card.problems)
+        rows.push_back({id, textOrNothing(storeText(problem.file)), problem.reason.toStdString(), storeText(card.listing.path)});
+    std::ranges::sort(rows);
+    const std::string problem = makeFolderOf(file);
+    if (!problem.empty())
+        return problem;
+    ParquetFile written(file, {{"card_id", ParquetColumn::eText},
+                               {"file", ParquetColumn::eText},
+                               {"reason", ParquetColumn::eText},
+                               {"path", ParquetColumn::eText}});
+    written.addRows(rows);
+    return written.finish({});
+}
+
+} // namespace ZARN

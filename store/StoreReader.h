@@ -1,0 +1,33 @@
+#pragma once
+
+#include "store/Database.h"
+#include "store/Trend.h"
+
+namespace ZARN {
+
+/// Which trends are wanted; what is empty leaves all.
+struct TrendFilter {
+    std::string parameter;
+    std::string phase;
+};
+
+/// Reads a store that others may write meanwhile. For one thread.
+class StoreReader {
+public:
+    /// A file that is no store of the present form is an error.
+    explicit StoreReader(const std::string& path);
+
+    /// "PATH: reason" of the first failure; else empty.
+    [[nodiscard]] const std::string& error() const { return mDatabase.error(); }
+    /// The engines by identifier; with a serial number, the one that has it or is called so.
+    [[nodiscard]] std::vector<std::string> engines(const std::string& serial = {});
+    /// The trends of an engine, by parameter and phase.
+    [[nodiscard]] std::vector<Trend> trends(const std::string& engine, const TrendFilter& filter = {});
+    /// Where the flights of a cycle stand in the order of time; empty when the store does not have it.
+    [[nodiscard]] std::vector<TrendPoint::Place> places(const std::string& engine, const std::string& cycle);
+
+private:
+    Database mDatabase;
+};
+
+} // namespace ZARN

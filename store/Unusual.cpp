@@ -1,0 +1,90 @@
+#include "store/Unusual.h"
+
+#include "analysis/IncidentText.h"
+#include "store/StoreText.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace ZARN {
+
+namespace {
+
+using Place = TrendPoint::Place;
+
+constexpr const char* kLast = "~"; // behind every date
+constexpr int64_t kNoCard = std::numeric_limits<int64_t>::max();
+
+/// Where each flight stands in time among those of the store.
+std::vector<Place> placesOf(StoreReader& store, const CycleHead& cycle, std::span<const RecordFlight> flights)
+{
+    std::vector<Place> places = store.places(cycle.engine.id, cycle.id);
+    for (std::size_t i = places.size(); i < flights.size(); ++i) {
+        const std::string date = storeDate(flights[i].dateTime);
+        places.push_back({date.empty() ? kLast : date, kNoCard, cycle.number, static_cast<int64_t>(i + 1)});
+    }
+    return places;
+}
+
+/// The figures before a flight: those of the store, and of the cycle's own flights those that were found now.
+std::vector<double> figuresBefore(const Trend* pTrend, const CycleHead& cycle, std::vector<std::pair<Place, double>> own,
+                                  const Place& flight)
+{
+    if (pTrend) {
+        for (const TrendPoint& point : pTrend->points) {
+            if (point.cycleId != cycle.id)
+                own.emplace_back(point.place, point.median);
+        }
+    }
+    std::erase_if(own, [&flight](const auto& other) { return other.first >= flight; });
+    std::ranges::sort(own);
+    std::vector<double> figures;
+    for (const auto& [place, figure] : own)
+        figures.push_back(figure);
+    return figures;
+}
+
+} // namespace
+
+std::vector<Unusual> findUnusual(StoreReader& store, const CycleHead& cycle, std::span<const RecordFlight> flights,
+                                 const CycleReview& review)
+{
+    const std::vector<Trend> trends = store.trends(cycle.engine.id);
+    const std::vector<Place> places = placesOf(store, cycle, flights);
+    const KeyValueTable& table = review.keyValues;
+    std::vector<Unusual> found;
+    for (const KeyValue& value : table.values) {
+        const KeyValueSource& source = table.sources[value.source];
+        const auto trend = std::ranges::find_if(trends, [&](const Trend& other) {
+            return other.parameter == storeText(source.parameter) && other.phase == phaseKey(value.phase);
+        });
+        std::vector<std::pair<Place, double>> own;
+        for (const KeyValue& other : table.values) {
+            if (other.source == value.source && other.phase == value.phase && other.flight != value.flight)
+                own.emplace_back(places[static_cast<std::size_t>(other.flight - 1)], other.values.median);
+        }
+        const std::vector<double> earlier = figuresBefore(trend == trends.end() ? nullptr : &*trend, cycle, std::move(own),
+                                                          places[static_cast<std::size_t>(value.flight - 1)]);
+        const TrendJudgement judgement = judgeFigure(value.values.median, earlier, source.precision);
+        if (judgement.isUnusual || judgement.isDrifting)
+            found.push_back({value.flight, source, value.phase, value.values.median, judgement});
+    }
+    std::ranges::stable_sort(found, std::ranges::greater(), [](const Unusual& one) { return std::abs(one.judgement.z.value_or(0.0)); });
+    return found;
+}
+
+QString UnusualText::sentence(const Unusual& unusual) const
+{
+    const int decimals = unusual.source.precision;
+    const Distribution& band = unusual.judgement.band;
+    const QString unit = unusual.source.unit.empty() ? QString() : " " + QString::fromStdString(unusual.source.unit);
+    const QString text = tr("%1 %2 %3, in the %4 flights before %5 to %6")
+                             .arg(QString::fromStdString(unusual.source.parameter), IncidentText::phaseText(unusual.phase),
+                                  mLocale.toString(unusual.median, 'f', decimals) + unit, QString::number(band.samples),
+                                  mLocale.toString(band.p05, 'f', decimals), mLocale.toString(band.p95, 'f', decimals) + unit);
+    if (!unusual.judgement.isDrifting)
+        return text;
+    return unusual.judgement.isUnusual ? tr("%1, and drifting").arg(text) : tr("%1, drifting").arg(text);
+}
+
+} // namespace ZARN

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "store/CardFacts.h"
+#include "store/StoreReader.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+
+namespace ZARN {
+
+/// A figure of a flight that is not as it used to be for this engine, in metric units.
+struct Unusual {
+    int flight = 0; ///< number, from 1
+    KeyValueSource source;
+    EFlightPhase phase = EFlightPhase::eGround;
+    double median = 0.0;
+    TrendJudgement judgement;
+};
+
+/// Compares the flights of a reviewed cycle with those before them of the same engine in a store, whether the cycle is in it or not.
+/// @param review with key values; @return what is unusual or drifting: the farthest off first
+[[nodiscard]] std::vector<Unusual> findUnusual(StoreReader& store, const CycleHead& cycle, std::span<const RecordFlight> flights,
+                                               const CycleReview& review);
+
+/// Tells it to people.
+class UnusualText {
+    Q_DECLARE_TR_FUNCTIONS(ZARN::UnusualText)
+
+public:
+    explicit UnusualText(QLocale locale) : mLocale(std::move(locale)) {}
+    /// "Oil Temperature A in climb 104 °C, in 30 flights before 92 to 97 °C, and drifting"
+    [[nodiscard]] QString sentence(const Unusual& unusual) const;
+
+private:
+    QLocale mLocale;
+};
+
+} // namespace ZARN

@@ -1,0 +1,159 @@
+#!/usr/bin/env python3
+"""TestScan.py ZARN_CLI [KILLS]: the store that `scan` makes, against `summary` and `flights`, killed on the way, and of bad files."""
+import contextlib
+import hashlib
+import math
+import os
+import random
+import resource
+import shutil
+import sqlite3
+import subprocess
+import sys
+import tempfile
+import time
+
+from StoreSupport import KEYS, ZARN, answer, camel, change, dump, make_cards, rows, run
+
+
+def check_values(store, card):
+    """Each cycle, flight, incident and episode of a card is in the store as the other subcommands tell it, and by its content."""
+    files = {file['name']: os.path.getsize(f'{card}/{file["name"]}') for file in answer('info', card)['files']}
+    told = answer('info', card)['cycles']
+    for cycle in answer('summary', card)['cards'][0]['cycles']:
+        sha = hashlib.sha256()
+        for name in next(other for other in told if other['number'] == cycle['number'])['files']:
+            with open(f'{card}/{name}', 'rb') as file:
+                content = file.read()
+            sha.update(b'%d\n' % files[name] + content[:65536] + content[-65536:])
+        kept, = rows(store, 'SELECT * FROM cycle WHERE cycle_id = ?', sha.hexdigest())
+        for column, key in [(name, camel(name)) for name in 'number date_time start_time end_time engine_running flight_time fuel verdict'.split()]:
+            assert kept[column] == cycle[key], (column, kept[column], cycle[key])
+        assert [kept['sources'], kept['sources_with_samples']] == list(cycle['watched'].values())
+        flights = rows(store, 'SELECT * FROM flight WHERE cycle_id = ? ORDER BY number', sha.hexdigest())
+        assert [[flight[key] for key in KEYS] for flight in flights] == [[flight[camel(key)] for key in KEYS] for flight in cycle['flights']]
+        episodes = rows(store, 'SELECT * FROM episode WHERE cycle_id = ? ORDER BY episode_id', sha.hexdigest())
+        expected = [episode for incident in cycle['incidents'] for episode in incident['episodes']] + cycle['standing']
+        names = dict(kind='kind', device='group', parameter='parameter', unit='unit', state='state', start_time='start', end_time='end', side='side',
+                     boundary='limit', peak='peak', peak_time='peakTime', text='text')
+        assert [[episode[key] for key in names] for episode in episodes] == [[episode[key] for key in names.values()] for episode in expected]
+        assert [[row['title'], row['phase'], row['number']] for row in rows(
+            store, 'SELECT i.title, i.phase, f.number FROM incident i LEFT JOIN flight f USING (flight_id) WHERE i.cycle_id = ? ORDER BY incident_id',
+            sha.hexdigest())] == [[incident['title'], incident['phase'], incident['flight']] for incident in cycle['incidents']]
+
+
+def check_killed(folder, whole, kills):
+    """However often it is killed, the same call goes on, and the end is that of an undisturbed scan."""
+    began = time.monotonic()
+    run('scan', folder, '-o', f'{folder}/../timed.sqlite', '--jobs', 2)
+    length, rng, store = time.monotonic() - began, random.Random(7), f'{folder}/../killed.sqlite'
+    for _ in range(kills):
+        scan = subprocess.Popen([ZARN, 'scan', folder, '-o', store, '--jobs', '2'], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        time.sleep(rng.random() * length * rng.choice([0.1, 0.5, 1]))
+        scan.kill()
+        scan.wait()
+        if rng.random() < 0.3:
+            run('scan', folder, '-o', store)
+            assert dump(store) == whole
+            os.remove(store)
+    run('scan', folder, '-o', store)
+    assert dump(store) == whole
+
+
+def check_changes(work, cards):
+    """A card that was read while it was copied, one that was emptied and written anew, another variant of the analysis."""
+    card, store = f'{work}/changing', f'{work}/changes.sqlite'
+    shutil.copytree(cards[0], card)
+    late = [name for name in sorted(os.listdir(card))][4:]
+    for name in late:
+        os.rename(f'{card}/{name}', f'{work}/{name}')
+    run('scan', card, '-o', store)
+    part = rows(store, 'SELECT cycle_id FROM cycle WHERE number = 2')[0]['cycle_id']
+    change(store, f"INSERT INTO note (cycle_id, time, text) VALUES ('{part}', 1, 'mine')")
+    for name in late:
+        os.rename(f'{work}/{name}', f'{card}/{name}')
+    run('scan', card, '-o', store)
+    assert [row['number'] for row in rows(store, 'SELECT number FROM cycle ORDER BY number')] == [1, 2, 3]
+    assert rows(store, 'SELECT number FROM note JOIN cycle USING (cycle_id)') == [{'number': 2}]
+    check_values(store, card)
+    shutil.rmtree(card)
+    run('scan', card, '-o', store, status=1)
+    assert rows(store, 'SELECT reason FROM problem') == [{'reason': 'no such folder'}]
+    shutil.copytree(cards[1], card)
+    run('scan', card, '-o', store)
+    assert len(rows(store, 'SELECT 1 FROM cycle')) == 6 and rows(store, 'SELECT 1 FROM problem') == []
+    change(store, "UPDATE cycle SET analysis_version = 0, verdict = 'x' WHERE number = 2")
+    run('scan', card, '-o', store)
+    assert len(rows(store, "SELECT 1 FROM cycle WHERE verdict = 'x'")) == 1 and len(rows(store, 'SELECT 1 FROM note')) == 1
+
+
+def refused(card, store, reason, **options):
+    before = hashlib.sha256(open(store, 'rb').read()).digest() if os.path.isfile(store) else None
+    error = run('scan', card, '-o', store, status=1, **options)[1]
+    assert reason in error and error.count('\n') == 1, error
+    assert before is None or not os.path.exists(store) or before == hashlib.sha256(open(store, 'rb').read()).digest() or options, store
+
+
+def check_bad_stores(work, card):
+    text, other, newer, damaged, locked = (f'{work}/{name}.sqlite' for name in 'text other newer damaged locked'.split())
+    with open(text, 'w', encoding='utf-8') as file:
+        file.write('engine;serial\n' * 1000)
+    refused(card, text, 'not an SQLite file')
+    change(other, 'CREATE TABLE mine (x)')
+    refused(card, other, 'another program')
+    run('scan', card, '-o', newer)
+    shutil.copy(newer, damaged)
+    shutil.copy(newer, locked)
+    change(newer, 'PRAGMA user_version = 2')
+    refused(card, newer, 'newer version')
+    with open(damaged, 'r+b') as file:
+        for page in range(1, os.path.getsize(damaged) // 4096):
+            file.seek(page * 4096)
+            file.write(b'\x55' * 64)
+    refused(card, damaged, 'put aside')
+    aside, = [name for name in os.listdir(work) if name.startswith('damaged.sqlite.damaged-')]
+    assert os.path.getsize(f'{work}/{aside}') > 4096
+    run('scan', card, '-o', damaged)
+    assert dump(damaged) == dump(locked)
+    change(locked, 'DELETE FROM problem', 'DELETE FROM file')
+    with contextlib.closing(sqlite3.connect(locked, isolation_level=None)) as database:
+        database.execute('BEGIN IMMEDIATE')
+        refused(card, locked, 'another program is writing')
+    refused(card, work, 'it is no file')
+    refused(card, f'{work}/no/folder.sqlite', 'No such file')
+    refused(card, f'{work}/full.sqlite', 'full.sqlite: ', preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (60_000, 60_000)))
+
+
+def check_removed(work, folder):
+    """What would be written into a file without a name is said, not lost in silence."""
+    scan = subprocess.Popen([ZARN, 'scan', folder, '-o', f'{work}/removed.sqlite', '--jobs', '1'], stderr=subprocess.PIPE, stdout=subprocess.DEVNULL)
+    while not os.path.exists(f'{work}/removed.sqlite') or not rows(f'{work}/removed.sqlite', "SELECT 1 FROM sqlite_master WHERE name = 'note'"):
+        time.sleep(0.001)
+    os.remove(f'{work}/removed.sqlite')
+    assert b'removed or replaced' in scan.communicate()[1] and scan.returncode == 1
+
+
+def main():
+    kills = int(sys.argv[2]) if len(sys.argv) > 2 else 6
+    with tempfile.TemporaryDirectory() as work:
+        folder, store = f'{work}/cards', f'{work}/store.sqlite'
+        cards = make_cards(folder, 6)
+        run('scan', folder, '-o', store, '--jobs', 1)
+        whole = dump(store)
+        for card in [*cards[:2], f'{folder}/twin', f'{folder}/zbad']:
+            check_values(store, card)
+        assert len(rows(store, 'SELECT 1 FROM card')) == 8 and len(rows(store, 'SELECT 1 FROM cycle')) == 6 * 3 + 2
+        assert [row['file'] for row in rows(store, 'SELECT file FROM problem ORDER BY file')] == ['LOG00001.CAN', 'LOG00002.CAN']
+        damaged = rows(store, "SELECT engine_id FROM cycle JOIN card USING (card_id) WHERE name = 'zbad' ORDER BY number")
+        assert [row['engine_id'] for row in damaged] == ['DEMO-000001', 'card:zbad']
+        assert 'unchanged, 0 cycles' in run('scan', folder, f'{folder}/card01', '-o', store)[0] and dump(store) == whole
+        run('scan', f'{folder}/none', '-o', f'{work}/none.sqlite', status=1)
+        assert math.isclose(rows(store, 'SELECT sum(flight_time) AS s FROM cycle')[0]['s'],
+                            rows(store, 'SELECT sum(landing_time - take_off_time) AS s FROM flight')[0]['s'])
+        check_killed(folder, whole, kills)
+        check_changes(work, cards)
+        check_bad_stores(work, cards[0])
+        check_removed(work, folder)
+
+
+main()
