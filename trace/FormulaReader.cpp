@@ -54,9 +54,10 @@ QString told(const mu::ParserError& error)
     }
 }
 
-FormulaError errorOf(const mu::ParserError& error)
+FormulaError errorOf(const mu::ParserError& error, std::size_t end)
 {
-    return {static_cast<std::size_t>(std::max(0, static_cast<int>(error.GetPos()))), told(error)};
+    // The parser works on a text of its own that is longer.
+    return {std::min(static_cast<std::size_t>(std::max(0, static_cast<int>(error.GetPos()))), end), told(error)};
 }
 
 } // namespace
@@ -261,7 +262,7 @@ mu::Parser FormulaReader::parser(std::size_t begin, std::size_t end) const
             throw FormulaError(begin, tr("A comma separates arguments of functions; a number has a decimal point."));
         return parser;
     } catch (const mu::ParserError& error) {
-        throw errorOf(error);
+        throw errorOf(error, end);
     }
 }
 
