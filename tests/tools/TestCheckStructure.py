@@ -106,9 +106,18 @@ class Violations(unittest.TestCase):
             ('ui/map/A.cpp', 'void f() { functions()->glFlush (); }', 'glFlush'),
             ('card/A.cpp', 'int a = Profile::instance().id();', 'Profile::instance'),
             ('ui/main/A.cpp', 'int a = ZARN::Project::instance ( );', 'Project::instance'),
+            ('ui/main/A.cpp', 'int a = settings.getInt("Unit", 0);', 'app/Settings.h'),
+            ('ui/main/A.cpp', 'constexpr TextSetting k = {"Profile", ""};', 'app/Settings.h'),
         ]:
             with self.subTest(code=code):
                 self.expect(path, '/* a\n' + 'b */ ' + code + '\n', 2, part)
+
+    def test_half_classes(self):
+        header = '#pragma once\n/// One.\nclass A {\n};\n'
+        for code in ['void A::f(int a) const\n{\n}\n', 'template <typename T>\nA::A(T t) : mT(t)\n{\n}\n', 'int N::A::B::f()\n{\n}\n']:
+            with self.subTest(code=code):
+                found = findings({'card/A.h': header, 'card/ASlots.cpp': code, 'card/A.cpp': code})
+                self.assertEqual([(path, text) for path, _, text in found], [('card/ASlots.cpp', 'defines a member of A, a class of another file')])
 
     def test_unknown_folder(self):
         self.expect('extras/A.cpp', 'int a;\n', 1, 'no target')

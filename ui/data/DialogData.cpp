@@ -1,11 +1,11 @@
 #include "ui/data/DialogData.h"
 
 #include "app/Numeric.h"
+#include "app/TimeText.h"
 #include "app/gui/ImageHandler.h"
 #include "ui/data/DataTabBar.h"
 #include "ui/data/ViewLink.h"
 #include "ui/data/WidgetReplayBar.h"
-#include "ui/data/model/TimeOfDay.h"
 #include "vesk/base/Timer.h"
 
 #include <QButtonGroup>
