@@ -29,6 +29,8 @@ public:
     /// The user's computed parameters, which stand behind those of whatever profile is in force.
     void setFormulas(const FormulaDefinitions& formulas);
     [[nodiscard]] const FormulaDefinitions& formulas() const { return mFormulas; }
+    /// What the profile file declares, without formulas.
+    [[nodiscard]] const std::shared_ptr<const ProfileModel>& loadedModel() const { return mpLoaded; }
 
     [[nodiscard]] const std::vector<ProfileVariant>& variants() const { return mVariants; }
     [[nodiscard]] const std::string& currentVariant() const { return mCurrentVariant; }

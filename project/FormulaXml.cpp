@@ -2,6 +2,7 @@
 
 #include "app/XmlHandler.h"
 
+#include <QFileInfo>
 #include <QLocale>
 
 #include <algorithm>
@@ -44,6 +45,12 @@ FormulaDefinitions FormulaXml::read(const QDomElement& parent) const
         }
     }
     return formulas;
+}
+
+FormulaDefinitions FormulaXml::readFile(const QString& path) const
+{
+    QDomDocument document;
+    return QFileInfo::exists(path) && mXml.xmlReadFile(document, path) ? read(document.documentElement()) : FormulaDefinitions();
 }
 
 void FormulaXml::write(QDomDocument& document, QDomElement& parent, const FormulaDefinitions& formulas) const

@@ -4,6 +4,7 @@
 
 class QDomElement;
 class QDomDocument;
+class QString;
 
 namespace ZARN {
 
@@ -19,6 +20,8 @@ public:
 
     /// The formulas of all lists below an element; those without a name or an expression are left out.
     [[nodiscard]] FormulaDefinitions read(const QDomElement& parent) const;
+    /// The formulas of a file; none when there is no such file, or it cannot be read, with a console line.
+    [[nodiscard]] FormulaDefinitions readFile(const QString& path) const;
     /// Appends a list with them; nothing when there are none.
     void write(QDomDocument& document, QDomElement& parent, const FormulaDefinitions& formulas) const;
 
