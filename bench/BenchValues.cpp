@@ -8,10 +8,11 @@
 #include "app/SafeFile.h"
 #include "bench/BenchCard.h"
 #include "card/CardContainer.h"
-#include "profile/Profile.h"
 #include "card/record/ByteOrder.h"
 #include "export/ExportCsv.h"
 #include "profile/Profile.h"
+#include "trace/TraceSet.h"
+#include "trace/ComputedChannel.h"
 
 #include <benchmark/benchmark.h>
 
@@ -92,6 +93,57 @@ void decodeChannel(benchmark::State& state)
             pOut += entries.chunk(i).size();
         }
         benchmark::ClobberMemory();
+    }
+}
+
+/// Two channels of the same pace, and a formula over them.
+struct Operands {
+    Operands() : profile(silent())
+    {
+        QDomDocument document;
+        document.setContent(QString(kProfile).replace("</Device>", "<Parameter name=\"w\" id=\"2\" startByte=\"4\" dataType=\"FLOAT\"/></Device>"));
+        profile.loadDocument(document.documentElement(), "");
+        for (std::size_t i = 0; i < kEntries; ++i) {
+            data.append(1, floatRecord(i, i * 640000));
+            data.append(2, floatRecord(i / 3, i * 640000));
+        }
+        data.buildTimeIndex();
+    }
+    Profile profile;
+    RecordData data;
+};
+
+void decodeOperands(benchmark::State& state)
+{
+    const Operands operands;
+    for (auto _ : state) {
+        const TraceSet traces(&operands.data, operands.profile, ENumber::eMetric, TraceSet::all());
+        for (const auto& pTrace : traces.traces())
+            pTrace->forEachRun([](const TraceRun& run) { benchmark::DoNotOptimize(run.numbers.data()); });
+    }
+}
+
+void computeDifference(benchmark::State& state)
+{
+    const Operands operands;
+    const DecodingContext& context = operands.profile;
+    Formula formula("v - w", context.model());
+    for (auto _ : state) {
+        double sum = 0;
+        evaluate(formula, operands.data, context, [&sum](uint64_t, double value) { sum += value; });
+        benchmark::DoNotOptimize(sum);
+    }
+}
+
+/// The same with the memory for it, as a view asks for it first.
+void makeDifference(benchmark::State& state)
+{
+    Operands operands;
+    for (auto _ : state) {
+        operands.profile.setFormulas({});
+        operands.profile.setFormulas({{"d", "v - w", "", 2, {}, {}, {}, {}}});
+        const DecodingContext& context = operands.profile;
+        benchmark::DoNotOptimize(channelOf(operands.data, context, *context.model().find("d")));
     }
 }
 
@@ -193,6 +245,9 @@ void listedFacts(benchmark::State& state)
 
 BENCHMARK(decodeFloor)->Name("decode/floor")->Unit(benchmark::kMillisecond);
 BENCHMARK(decodeChannel)->Name("decode/channel")->Unit(benchmark::kMillisecond);
+BENCHMARK(decodeOperands)->Name("formula/operands")->Unit(benchmark::kMillisecond);
+BENCHMARK(computeDifference)->Name("formula/difference")->Unit(benchmark::kMillisecond);
+BENCHMARK(makeDifference)->Name("formula/channel")->Unit(benchmark::kMillisecond);
 BENCHMARK(valueAtTime)->Name("value/at")->Args({1000000, 0})->Args({10000000, 0})->Args({1000000, 1})->Args({10000000, 1});
 BENCHMARK(textSnprintf)->Name("text/snprintf")->Unit(benchmark::kMillisecond);
 BENCHMARK(textFixed)->Name("text/fixed")->Unit(benchmark::kMillisecond);

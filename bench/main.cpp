@@ -1,5 +1,5 @@
 // zarn-bench [NAME ...] [Google Benchmark options]
-// Runs the benchmarks whose names begin with NAME (load, headers, decode, value, text, facts, csv, graph, map, table, replay, change; default
+// Runs the benchmarks whose names begin with NAME (load, headers, decode, formula, value, text, facts, csv, graph, map, table, replay, change; default
 // all) and closes with their ratios to a floor measured in the same run. "replay" and "change" need an X server with OpenGL, like Xvfb.
 
 #include <benchmark/benchmark.h>
@@ -23,6 +23,7 @@ constexpr Ratio kRatios[] = {
     {"load of 30 M records / of 10 M", "load/records/30/real_time", "load/records/10/real_time", 4.0},
     {"incidents, phases, key values of 10 M records / load", "facts/review", "load/records/10/real_time", 0.4},
     {"plain decoding loop / decoding a channel", "decode/floor", "decode/channel", 0.6},
+    {"10 M samples of a difference / decoding both", "formula/difference", "formula/operands", 3.0},
     {"value in 10 M entries / in 1 M", "value/at/10000000/0", "value/at/1000000/0", 4.0},
     {"table of 100,000 x 40 ready / item widget", "table/open/100000/40/40/real_time", "table/items/real_time", 0.05},
     {"table scroll step / item widget", "table/scroll/100000/40/40/real_time", "table/scrollItems/real_time", 1.1},

@@ -21,7 +21,7 @@ std::optional<RecordEntry> CycleValues::entryAt(const ProfileParameter& paramete
     const auto second = saturatingCast<int64_t>(time);
     if (second < 0 || second >= mSeconds)
         return {};
-    const RecordChannel* pChannel = channel(parameter);
+    const auto pChannel = channel(parameter);
     if (!pChannel)
         return {};
     const std::size_t position = pChannel->firstAtOrAfter(time);

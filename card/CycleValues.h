@@ -2,6 +2,7 @@
 
 #include "card/record/RecordData.h"
 #include "profile/DecodingContext.h"
+#include "trace/ComputedChannel.h"
 
 #include <optional>
 #include <string>
@@ -38,7 +39,7 @@ public:
     [[nodiscard]] std::optional<DisplayValue> displayAt(const ProfileParameter& parameter, double time) const;
 
     /// The channel of a parameter; null when it has no entries.
-    [[nodiscard]] const RecordChannel* channel(const ProfileParameter& parameter) const { return mData.channel(parameter.identifier()); }
+    [[nodiscard]] std::shared_ptr<const RecordChannel> channel(const ProfileParameter& parameter) const { return channelOf(mData, mContext, parameter); }
     [[nodiscard]] const RecordData& data() const { return mData; }
     [[nodiscard]] const DecodingContext& context() const { return mContext; }
 

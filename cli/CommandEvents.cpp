@@ -1,9 +1,14 @@
 #include "cli/CommandEvents.h"
 
+#include "analysis/Condition.h"
 #include "analysis/LimitEvents.h"
 #include "analysis/WarningEvents.h"
 #include "cli/JsonWriter.h"
 #include "cli/TextTable.h"
+#include "cli/VisibleText.h"
+
+#include <cmath>
+#include <cstdlib>
 
 namespace ZARN {
 
@@ -11,6 +16,13 @@ CommandEvents::CommandEvents(CLI::App& program)
     : DataCommand(program, "events", "list the limit exceedances and warning lamps of a cycle",
                   "zarn-cli events /media/card --cycle 2 --flight 1")
 {
+    const CommandOptions::Check isTime = [](const std::string& text) {
+        char* pEnd = nullptr;
+        const double value = std::strtod(text.c_str(), &pEnd);
+        return pEnd != text.c_str() && *pEnd == 0 && value >= 0 && std::isfinite(value) ? std::string() : "not a number of seconds: " + text;
+    };
+    options().add("--where", mWhere, "also list when this held, for example '\"Oil Temperature\" > 120' (metric)");
+    options().add("--for", mFor, "only where it held for so many seconds", isTime);
     addJson();
 }
 
@@ -22,8 +34,20 @@ int CommandEvents::runOnData()
         limits.crop(*span);
         warnings.crop(*span);
     }
+    std::vector<TimeSpan> found;
+    if (isGiven("--where")) {
+        try {
+            found = timesWhere(mWhere, mFor, mContainer.recordData(), mProfile, flightSpan());
+        } catch (const FormulaError& error) {
+            return fail("--where: character " + std::to_string(error.place() + 1) + ": " + error.what());
+        }
+    } else if (isGiven("--for")) {
+        say("--for: needs --where");
+        return eWrongCall;
+    }
     if (!mJson) {
-        return print(table("Limit exceedances", "No limit was exceeded", limits, {"ok", "warning", "limit"}) + "\n" +
+        const std::string where = isGiven("--where") ? foundTable(found) + "\n" : std::string();
+        return print(where + table("Limit exceedances", "No limit was exceeded", limits, {"ok", "warning", "limit"}) + "\n" +
                      table("Warning lamps", "No warning lamp was lit", warnings, {"dark", "yellow", "red"}));
     }
     JsonWriter writer;
@@ -31,6 +55,12 @@ int CommandEvents::runOnData()
     write(writer, limits);
     writer.key("warnings");
     write(writer, warnings);
+    if (isGiven("--where")) {
+        writer.key("found").beginArray();
+        for (const TimeSpan& span : found)
+            writer.beginObject().member("start", span.start).member("end", span.end).endObject();
+        writer.endArray();
+    }
     return print(writer.endAnswer());
 }
 
@@ -44,6 +74,16 @@ void CommandEvents::write(JsonWriter& writer, const EventList& list)
         writer.endObject();
     }
     writer.endArray();
+}
+
+std::string CommandEvents::foundTable(const std::vector<TimeSpan>& spans) const
+{
+    if (spans.empty())
+        return "Never: " + visibleText(mWhere) + "\n";
+    TextTable table({"From [h:m:s]", "To [h:m:s]", "For [s]"});
+    for (const TimeSpan& span : spans)
+        table.addRow({tableTime(span.start), tableTime(span.end), tableNumber(span.end - span.start, 1)});
+    return visibleText(mWhere) + "\n\n" + table.text();
 }
 
 std::string CommandEvents::table(const char* title, const char* nothing, const EventList& list, const std::vector<std::string>& states)

@@ -14,9 +14,13 @@ public:
 
 private:
     int runOnData() override;
+    [[nodiscard]] std::string foundTable(const std::vector<TimeSpan>& spans) const;
     static void write(JsonWriter& writer, const EventList& list);
     /// @param states the names of the states from 0 on; others show their number.
     static std::string table(const char* title, const char* nothing, const EventList& list, const std::vector<std::string>& states);
+
+    std::string mWhere;
+    double mFor = 0.0;
 };
 
 } // namespace ZARN

@@ -3,6 +3,7 @@
 #include "app/Console.h"
 #include "app/NumberText.h"
 #include "trace/ChannelTrace.h"
+#include "trace/ComputedChannel.h"
 
 #include <cmath>
 
@@ -84,7 +85,7 @@ bool KmlPath::build(const RecordData& data, const DecodingContext& context, cons
     for (std::size_t i = 0; i < std::size(identifiers); ++i) {
         // The channel counts whether the profile declares it or not.
         const ProfileParameter& parameter = context.model().parameter(identifiers[i]);
-        const ChannelTrace trace({}, parameter, context, data.channel(identifiers[i]), ENumber::eMetric, &filter);
+        const ChannelTrace trace({}, parameter, context, recordedChannel(data, identifiers[i]), ENumber::eMetric, &filter);
         ConsoleLines lines(console);
         KmlSlots slots;
         const char* label = console.isVerbose() ? labels[i] : nullptr;

@@ -7,7 +7,10 @@
 
 namespace ZARN {
 
-Profile::Profile(const Console& console, EUnit unit) : ProfileXml(console), mContext(std::make_shared<const ProfileModel>(), unit) {}
+Profile::Profile(const Console& console, EUnit unit)
+    : ProfileXml(console), mpLoaded(std::make_shared<const ProfileModel>()), mContext(mpLoaded, unit)
+{
+}
 
 Profile& Profile::instance()
 {
@@ -26,8 +29,22 @@ bool Profile::loadDocument(const QDomElement& root, const std::string& variant)
 {
     if (!isProfile(root))
         return false;
-    mContext = {ProfileLoader(*this, variant).load(root), currentUnit()};
+    setModel(ProfileLoader(*this, variant).load(root));
     return true;
+}
+
+void Profile::setModel(std::shared_ptr<const ProfileModel> pModel)
+{
+    mpLoaded = std::move(pModel);
+    mContext = {mFormulas.empty() ? mpLoaded : std::make_shared<const ProfileModel>(*mpLoaded, mFormulas), currentUnit()};
+}
+
+void Profile::setFormulas(const FormulaDefinitions& formulas)
+{
+    if (formulas == mFormulas)
+        return;
+    mFormulas = formulas;
+    setModel(mpLoaded);
 }
 
 const std::vector<ProfileVariant>& Profile::loadVariants(const QString& path)
@@ -49,7 +66,7 @@ const std::vector<ProfileVariant>& Profile::loadVariants(const QString& path)
 
 void Profile::clear()
 {
-    mContext = {std::make_shared<const ProfileModel>(), currentUnit()};
+    setModel(std::make_shared<const ProfileModel>());
 }
 
 double Profile::getDouble(const RecordEntry& entry, const ProfileParameter& parameter, int& state, QColor& colour, bool scale)

@@ -26,6 +26,12 @@ public:
     const std::vector<ProfileVariant>& loadVariants(const QString& path);
     void clear();
 
+    /// The user's computed parameters, which stand behind those of whatever profile is in force.
+    void setFormulas(const FormulaDefinitions& formulas);
+    [[nodiscard]] const FormulaDefinitions& formulas() const { return mFormulas; }
+    /// What the profile file declares, without formulas.
+    [[nodiscard]] const std::shared_ptr<const ProfileModel>& loadedModel() const { return mpLoaded; }
+
     [[nodiscard]] const std::vector<ProfileVariant>& variants() const { return mVariants; }
     [[nodiscard]] const std::string& currentVariant() const { return mCurrentVariant; }
     void setCurrentVariant(const std::string& name) { mCurrentVariant = name; }
@@ -64,6 +70,10 @@ public:
     [[nodiscard]] std::string getEnumValue(int /*list*/, int /*value*/) const { return {}; }
 
 private:
+    void setModel(std::shared_ptr<const ProfileModel> pModel);
+
+    std::shared_ptr<const ProfileModel> mpLoaded; // without formulas
+    FormulaDefinitions mFormulas;
     DecodingContext mContext;
     Selection mSelection;
     std::vector<ProfileVariant> mVariants;

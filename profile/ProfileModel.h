@@ -1,6 +1,7 @@
 #pragma once
 
 #include "profile/FaultMatrix.h"
+#include "profile/FormulaDefinition.h"
 #include "profile/ValueDecoder.h"
 
 #include <unordered_map>
@@ -33,8 +34,12 @@ struct ProfileContent {
 /// pointers to const: whoever decodes by it, on whatever thread, holds one, and another profile is another model.
 class ProfileModel : public ProfileContent {
 public:
+    static constexpr const char* kFormulas = "Formulas"; ///< name of the device of computed parameters
+
     ProfileModel() : ProfileModel(ProfileContent{}) {}
     explicit ProfileModel(ProfileContent content);
+    /// What another one declares, and behind it a device of computed parameters. Those whose name is taken are left out.
+    ProfileModel(const ProfileModel& base, const FormulaDefinitions& formulas);
     ProfileModel(const ProfileModel&) = delete;
     ProfileModel& operator=(const ProfileModel&) = delete;
     /// A number that no profile or device had before.
@@ -56,6 +61,8 @@ public:
     [[nodiscard]] UnitConversion conversion(const ProfileParameter& parameter) const;
 
 private:
+    void index();
+
     std::unordered_map<uint32_t, const ProfileParameter*> mByIdentifier;
     std::unordered_map<std::string, const ProfileParameter*> mByZarnType;
     std::unordered_map<std::string, const ProfileParameter*> mByName;

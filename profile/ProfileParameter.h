@@ -34,6 +34,9 @@ enum ECanasType {
 /// What a set fault bit means.
 enum EErrorType { eErrorNone = 0, eErrorInfo = 1, eErrorWarning = 2, eErrorFault = 3 };
 
+/// Where computed parameters have their number in the payloads that are made for them: where CANaerospace has its own.
+inline constexpr int kComputedStartByte = 4;
+
 /// One parameter of a profile: where its value lies in the payload of its messages and how it is shown.
 struct ProfileParameter {
     std::string name;
@@ -54,10 +57,12 @@ struct ProfileParameter {
     int precision = 6; ///< as the profile gives it; held to 0..17 where it is used
     int errorType = eErrorNone;
     int deviceIndex = 0; ///< from 1, in file order
+    std::string expression; ///< of a computed parameter, which no record carries; else empty
 
     /// The display unit of a system.
     [[nodiscard]] const std::string& unit(EUnit system) const { return system == EUnit::eImperial ? unitImperial : unitMetric; }
     [[nodiscard]] uint32_t identifier() const { return static_cast<uint32_t>(id); }
+    [[nodiscard]] bool isComputed() const { return !expression.empty(); }
     [[nodiscard]] bool isPosition() const { return dataType == eFloat && (viewId == "Latitude" || viewId == "Longitude"); }
 };
 

@@ -2,6 +2,7 @@
 
 #include "app/Console.h"
 #include "profile/Profile.h"
+#include "project/FormulaXml.h"
 
 namespace ZARN {
 
@@ -30,6 +31,7 @@ void Project::clear()
 {
     mNames.clear();
     mCanProperties.clear();
+    mProfile.setFormulas({});
 }
 
 bool Project::readProject(const QString& path)
@@ -53,6 +55,8 @@ void Project::readRoot(const QDomElement& root)
         mNames.clear();
     if (!root.firstChildElement(kCanProperties).isNull())
         mCanProperties.clear();
+    if (!root.firstChildElement(FormulaXml::kList).isNull())
+        mProfile.setFormulas(FormulaXml(xml).read(root));
     forEachChild(root, kParameters, [&](const QDomElement& list) {
         forEachChild(list, "Parameter", [&](const QDomElement& parameter) { mNames.insert(text(parameter, "name")); });
     });
@@ -82,6 +86,7 @@ bool Project::saveProject(const QString& path)
         xml.xmlCreateAttribute(document, element, "id", id);
         xml.xmlCreateAttribute(document, element, "value", value);
     }
+    FormulaXml(xml).write(document, root, mProfile.formulas());
     mFile.write(document, path);
     return true;
 }

@@ -12,7 +12,7 @@ namespace ZARN {
 
 class Profile;
 
-/// The user's working choices over the loaded profile: which parameters are shown, and a set of named CAN properties. Names
+/// The user's working choices over the loaded profile: which parameters are shown, those computed by formulas, and a set of named CAN properties. Names
 /// outlive the profile: one that the current profile lacks is kept and applies again when a profile has it. The desktop program
 /// has one project, reached by instance(). Byte strings are UTF-8.
 class Project {
@@ -22,7 +22,7 @@ public:
     Project& operator=(const Project&) = delete;
     static Project& instance();
 
-    /// Forgets the names and the CAN properties; the parameters' flags stay until setProfileData().
+    /// Forgets the names, the CAN properties and the formulas; the parameters' flags stay until setProfileData().
     void clear();
     /// Takes in a project file and applies it to the profile. What the file states replaces what was there: its names the names,
     /// its CAN properties the CAN properties; of what it says nothing about, everything stays. @return false, with a console line

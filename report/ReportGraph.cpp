@@ -2,6 +2,7 @@
 
 #include "analysis/EventList.h"
 #include "report/PaperCanvas.h"
+#include "trace/ComputedChannel.h"
 #include "trace/TraceSet.h"
 #include "ui/graph/model/GraphScene.h"
 #include "ui/graph/model/TraceSlot.h"
@@ -57,7 +58,7 @@ ReportGraph::ReportGraph(const LoadedCard& loaded, const EventList& limits) : mL
 
 void ReportGraph::addParameter(const ProfileParameter& parameter)
 {
-    if (!mLoaded.pRecord->channel(parameter.identifier()) || !mLoaded.context.decoder(parameter).isNumeric())
+    if (!channelOf(*mLoaded.pRecord, mLoaded.context, parameter) || !mLoaded.context.decoder(parameter).isNumeric())
         return;
     if (mUsed == kMostStrips) {
         ++mLeftOut;

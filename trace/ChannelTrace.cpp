@@ -7,8 +7,8 @@
 namespace ZARN {
 
 ChannelTrace::ChannelTrace(std::string group, const ProfileParameter& parameter, const DecodingContext& context,
-                           const RecordChannel* pChannel, ENumber kind, CoordinateFilter* pFilter, double latestTime)
-    : Trace(std::move(group), parameter, context), mpChannel(pChannel), mpEntries(pChannel ? &pChannel->entries : nullptr), mKind(kind)
+                           std::shared_ptr<const RecordChannel> pChannel, ENumber kind, CoordinateFilter* pFilter, double latestTime)
+    : Trace(std::move(group), parameter, context), mpChannel(std::move(pChannel)), mpEntries(mpChannel ? &mpChannel->entries : nullptr), mKind(kind)
 {
     if (mpEntries && pFilter && parameter.isPosition() && kind != ENumber::eInteger)
         decodePositions(*pFilter, latestTime);

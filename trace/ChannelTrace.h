@@ -2,6 +2,8 @@
 
 #include "trace/Trace.h"
 
+#include <memory>
+
 namespace ZARN {
 
 /// The trace of a parameter of the profile: the records of its channel, decoded when they are asked for. Positions of a pass are decoded
@@ -11,7 +13,7 @@ public:
     /// @param pChannel null: a trace without samples
     /// @param pFilter the position filter of the pass; positions advance it, in stored order. Null: each fix by itself
     /// @param latestTime positions after it are damage that the filter must not follow; their number is NaN
-    ChannelTrace(std::string group, const ProfileParameter& parameter, const DecodingContext& context, const RecordChannel* pChannel,
+    ChannelTrace(std::string group, const ProfileParameter& parameter, const DecodingContext& context, std::shared_ptr<const RecordChannel> pChannel,
                  ENumber kind, CoordinateFilter* pFilter, double latestTime = std::numeric_limits<double>::infinity());
 
     [[nodiscard]] std::vector<PositionRange> rangesIn(double from, double to) const override;
@@ -30,7 +32,7 @@ private:
     void decodePositions(CoordinateFilter& filter, double latestTime);
     void hold(double number);
 
-    const RecordChannel* mpChannel; // null without samples
+    const std::shared_ptr<const RecordChannel> mpChannel; // null without samples
     const RecordEntries* mpEntries; // its, or null
     const ENumber mKind;
     std::vector<float> mTextPositions; // of a position: the numbers of all samples, in the one or the other

@@ -1,6 +1,7 @@
 #include "trace/TraceSet.h"
 
 #include "trace/ChannelTrace.h"
+#include "trace/ComputedChannel.h"
 
 namespace ZARN {
 
@@ -11,8 +12,8 @@ TraceSet::TraceSet(const RecordData* pData, const DecodingContext& context, ENum
         for (const ProfileParameter& parameter : device.parameters) {
             if (!wanted(device, parameter))
                 continue;
-            const RecordChannel* pChannel = pData ? pData->channel(parameter.identifier()) : nullptr;
-            mTraces.push_back(std::make_unique<ChannelTrace>(device.name, parameter, context, pChannel, kind,
+            auto pChannel = pData ? channelOf(*pData, context, parameter) : nullptr;
+            mTraces.push_back(std::make_unique<ChannelTrace>(device.name, parameter, context, std::move(pChannel), kind,
                                                              fixes == EFixes::eInPass ? &filter : nullptr));
         }
     }
@@ -39,13 +40,13 @@ std::size_t TraceSet::bytes() const
 std::unique_ptr<const Trace> TraceSet::one(const RecordData& data, const DecodingContext& context, const ProfileParameter& parameter,
                                            ENumber kind)
 {
-    return std::make_unique<ChannelTrace>(std::string(), parameter, context, data.channel(parameter.identifier()), kind, nullptr);
+    return std::make_unique<ChannelTrace>(std::string(), parameter, context, channelOf(data, context, parameter), kind, nullptr);
 }
 
 std::unique_ptr<const Trace> TraceSet::one(const RecordData& data, const DecodingContext& context, const ProfileParameter& parameter,
                                            ENumber kind, CoordinateFilter& filter, double latestTime)
 {
-    return std::make_unique<ChannelTrace>(std::string(), parameter, context, data.channel(parameter.identifier()), kind, &filter,
+    return std::make_unique<ChannelTrace>(std::string(), parameter, context, channelOf(data, context, parameter), kind, &filter,
                                           latestTime);
 }
 

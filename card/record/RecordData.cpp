@@ -36,6 +36,7 @@ void RecordData::clear()
     mPool.clear();
     mPseudoChannels.clear();
     mPseudoPool.clear();
+    mComputed.clear();
     mLateOrder = {};
     mLastTicks = 0;
     mCount = 0;
@@ -139,6 +140,28 @@ template <typename Visitor> void RecordData::visitInOrder(Visitor visit) const
 void RecordData::forEachInOrder(const std::function<void(uint32_t, const StoredRecord&)>& visit) const
 {
     visitInOrder([&visit](uint32_t identifier, const StoredRecord& record) { visit(identifier, record); });
+}
+
+std::shared_ptr<const RecordChannel> RecordData::computedChannel(int group, const std::string& name, const Maker& make) const
+{
+    const std::lock_guard guard(mComputedGuard);
+    if (mComputedGroup != group || mComputedCount != mCount) {
+        mComputed.clear(); // whoever still reads one holds it
+        mComputedGroup = group;
+        mComputedCount = mCount;
+    }
+    auto found = mComputed.find(name);
+    if (found == mComputed.end()) {
+        std::size_t left = mPool.left();
+        for (const auto& [other, pOther] : mComputed)
+            left -= std::min(left, pOther->pool.bytes());
+        const auto pComputed = std::make_shared<Computed>(std::max<std::size_t>(1, left));
+        make(pComputed->channel.entries, pComputed->pool);
+        pComputed->channel.buildTimeIndex();
+        found = mComputed.emplace(name, pComputed).first;
+    }
+    const auto& pComputed = found->second;
+    return pComputed->channel.entries.empty() ? nullptr : std::shared_ptr<const RecordChannel>(pComputed, &pComputed->channel);
 }
 
 RecordChannel* RecordData::pseudoChannel(uint32_t identifier) const

@@ -4,7 +4,9 @@
 
 #include <functional>
 #include <map>
+#include <memory>
 #include <mutex>
+#include <string>
 
 namespace ZARN {
 
@@ -54,6 +56,12 @@ public:
     [[nodiscard]] const RecordChannel* channel(uint32_t identifier) const;
     [[nodiscard]] RecordChannel* channel(uint32_t identifier);
 
+    /// Fills a channel that is computed from others, from a pool that has the memory that is left.
+    using Maker = std::function<void(RecordEntries& entries, RecordPool& pool)>;
+    /// A computed channel, made when it is asked for first and kept until another group of them is asked for. Making one may ask for
+    /// others of its group. @return null when it holds nothing
+    [[nodiscard]] std::shared_ptr<const RecordChannel> computedChannel(int group, const std::string& name, const Maker& make) const;
+
     /// Calls `visit` with every record, without the pseudo-channels, in the order of reception.
     void forEachInOrder(const std::function<void(uint32_t identifier, const StoredRecord& record)>& visit) const;
 
@@ -102,6 +110,15 @@ private:
     uint64_t mLastTicks = 0;
     uint32_t mCount = 0;
     LateOrder mLateOrder;
+    struct Computed {
+        explicit Computed(std::size_t limitBytes) : pool(limitBytes) {}
+        RecordPool pool;
+        RecordChannel channel{0};
+    };
+    mutable std::recursive_mutex mComputedGuard;
+    mutable std::map<std::string, std::shared_ptr<Computed>> mComputed;
+    mutable int mComputedGroup = 0;
+    mutable uint32_t mComputedCount = 0; // how many records there were when they were made
     mutable std::mutex mPseudoGuard; // several threads may read at once
     mutable RecordPool mPseudoPool;
     mutable std::map<uint32_t, RecordChannel> mPseudoChannels; // made on first use, again when records were appended since

@@ -1,5 +1,7 @@
 #include "profile/ui/DialogProfile.h"
 
+#include "profile/Profile.h"
+#include "profile/ui/DialogFormulas.h"
 #include "profile/ui/ProfileFilterModel.h"
 #include "profile/ui/ProfileTreeModel.h"
 #include "project/Project.h"
@@ -12,6 +14,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QToolButton>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -41,7 +44,16 @@ DialogProfile::DialogProfile(const Session& session, QWidget* pParent)
     pLayout->setContentsMargins(0, 0, 0, 0);
     pLayout->addWidget(mpSearch);
     pLayout->addWidget(mpTree);
-    pLayout->addWidget(mpCount);
+    auto* pFormulas = new QToolButton;
+    pFormulas->setObjectName("editFormulas");
+    pFormulas->setText(tr("Formulas ..."));
+    pFormulas->setToolTip(tr("Parameters of your own, computed from others"));
+    pFormulas->setFocusPolicy(Qt::StrongFocus);
+    connect(pFormulas, &QToolButton::clicked, this, &DialogProfile::slotFormulas);
+    auto* pBelow = new QHBoxLayout;
+    pBelow->addWidget(mpCount, 1);
+    pBelow->addWidget(pFormulas);
+    pLayout->addLayout(pBelow);
 
     connect(mpSearch, &QLineEdit::textChanged, this, &DialogProfile::slotFilter);
     connect(mpModel, &ProfileTreeModel::signalChanged, this, &DialogProfile::slotSelectionChanged);
@@ -97,6 +109,7 @@ void DialogProfile::createActions()
     connect(mpSelectNone, &QAction::triggered, this, [this] { mpFilter->selectShown(false); });
     connect(mpOnlyDevice, &QAction::triggered, this, &DialogProfile::slotOnlyDevice);
     connect(mpCopyName, &QAction::triggered, this, &DialogProfile::slotCopyName);
+    connect(addAction("formulas", tr("Formulas ...")), &QAction::triggered, this, &DialogProfile::slotFormulas);
 }
 
 QAction* DialogProfile::addAction(const QString& name, const QString& text)
@@ -105,6 +118,21 @@ QAction* DialogProfile::addAction(const QString& name, const QString& text)
     pAction->setObjectName(name);
     mpTree->addAction(pAction);
     return pAction;
+}
+
+void DialogProfile::slotFormulas()
+{
+    Profile& profile = mSession.profile;
+    DialogFormulas dialog(profile.formulas(), profile.loadedModel(), mExamples, this);
+    if (dialog.exec() != QDialog::Accepted || dialog.formulas() == profile.formulas())
+        return;
+    for (const FormulaDefinition& formula : dialog.formulas()) { // a new one is meant to be seen
+        if (!profile.model().find(formula.name))
+            profile.setSelected(formula.name, true);
+    }
+    profile.setFormulas(dialog.formulas());
+    updateProfile();
+    Q_EMIT signalFormulasChanged();
 }
 
 void DialogProfile::updateProfile()

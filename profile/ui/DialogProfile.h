@@ -1,5 +1,6 @@
 #pragma once
 
+#include "profile/FormulaDefinition.h"
 #include "project/Session.h"
 
 #include <QSet>
@@ -25,12 +26,16 @@ public:
 
     /// Shows the profile as it is now: after it was loaded, after a project was read, after a change of units. Emits nothing.
     void updateProfile();
+    /// Formulas that come with the profile, to be offered.
+    void setExamples(FormulaDefinitions examples) { mExamples = std::move(examples); }
     /// Applies the project's names to the profile and shows them: after the project was cleared. Emits nothing.
     void updateProject();
 
 Q_SIGNALS:
     /// The user changed which parameters are shown.
     void signalChanged();
+    /// The user changed the formulas: another model is in force.
+    void signalFormulasChanged();
 
 private Q_SLOTS:
     void slotSelectionChanged();
@@ -39,6 +44,7 @@ private Q_SLOTS:
     void slotCurrentChanged();
     void slotOnlyDevice();
     void slotCopyName();
+    void slotFormulas();
 
 protected:
     bool eventFilter(QObject* pObject, QEvent* pEvent) override;
@@ -61,6 +67,7 @@ private:
     QAction* mpSelectNone = nullptr;
     QAction* mpOnlyDevice = nullptr;
     QAction* mpCopyName = nullptr;
+    FormulaDefinitions mExamples;
     QSet<QString> mExpanded; ///< names of the devices that are open while nothing is searched
 };
 

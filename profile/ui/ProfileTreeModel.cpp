@@ -26,7 +26,7 @@ std::vector<ProfileTreeModel::Device> ProfileTreeModel::readProfile() const
         for (const ProfileParameter& parameter : device.parameters) {
             const std::string& unit = mProfile.context().unitOf(parameter);
             devices.back().parameters.push_back({parameter.name, QString::fromStdString(parameter.name), QString::fromStdString(unit),
-                                                 QString::number(parameter.identifier())});
+                                                 parameter.isComputed() ? QString() : QString::number(parameter.identifier())});
         }
     }
     return devices;

@@ -5,12 +5,14 @@
 #include "app/DataHandler.h"
 #include "app/Property.h"
 #include "app/Settings.h"
+#include "app/XmlHandler.h"
 #include "app/gui/ImageHandler.h"
 #include "app/gui/Kernel.h"
 #include "card/CardContainer.h"
 #include "card/record/RecordFormats.h"
 #include "profile/ui/DialogProfile.h"
 #include "profile/ui/DialogProfileInfo.h"
+#include "project/FormulaXml.h"
 #include "project/Project.h"
 #include "ui/data/DialogData.h"
 #include "ui/main/CardController.h"
@@ -205,6 +207,7 @@ void DialogMain::createControllers()
 void DialogMain::connectPanels()
 {
     connect(mpProfile, &DialogProfile::signalChanged, this, &DialogMain::slotCanChanged);
+    connect(mpProfile, &DialogProfile::signalFormulasChanged, this, &DialogMain::slotFormulasChanged);
     connect(mpProfile, &DialogProfile::signalChanged, this, qOverload<>(&DialogMain::slotProfileChanged));
     connect(mpCard, &DialogCard::signalLoadRecord, this, &DialogMain::slotLoadRecord);
     connect(mpCard, &DialogCard::signalLoadCycle, this, &DialogMain::slotLoadCycle);
@@ -309,7 +312,7 @@ void DialogMain::updateUnit()
     mpProfileController->updateUnit();
     mpProfile->updateProfile();
     mpCardController->recalculate();
-    mRecord.changeUnit();
+    mRecord.changeProfile(); // it may have formulas
 }
 
 void DialogMain::loadProfile()
@@ -318,6 +321,8 @@ void DialogMain::loadProfile()
     tellProfileProblem();
     mpProfileInfo->setProfileFile(mpProfileController->file(), mpProfileController->isChosenFile());
     mpProfileInfo->fillProfileInfo();
+    const QString examples = QFileInfo(mpProfileController->file()).dir().filePath("Formulas.xml");
+    mpProfile->setExamples(FormulaXml(XmlHandler(mSession.console)).readFile(examples));
     mpProfile->updateProfile();
     mpCardController->recalculate(); // flights and their statistic are decoded by the profile
     mRecord.changeProfile();
@@ -383,6 +388,12 @@ void DialogMain::slotUnitChanged(int index)
 {
     mpProfileController->selectUnit(index);
     updateUnit();
+}
+
+void DialogMain::slotFormulasChanged()
+{
+    mpProjectController->setModified();
+    mRecord.changeProfile();
 }
 
 void DialogMain::slotCanChanged()
@@ -483,7 +494,7 @@ void DialogMain::slotTimeout()
     if (mSession.project.file().isUnread(mpProjectController->lastPath()))
         mpNotices->setProblem(Notices::eProject, tr("Project unreadable"), mpProjectController->lastPath());
     mpProfile->updateProfile();
-    slotProfileChanged();
+    mRecord.changeProfile(); // the project may have formulas
     updateTitle();
     if (mpCardController->isBusy())
         connect(mpCardController, &CardController::signalIdle, this, &DialogMain::signalStarted, Qt::SingleShotConnection);

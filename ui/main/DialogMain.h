@@ -75,6 +75,7 @@ public Q_SLOTS:
     void slotUnitChanged(int index);
     /// The user changed the project in the profile panel.
     void slotCanChanged();
+    void slotFormulasChanged();
     /// Another mode of the engine unit: reads the card anew.
     void slotZarnMode(int mode);
     void slotLoadRecord(const std::list<QString>& files);

@@ -27,7 +27,7 @@ void LiveTableModel::refresh(RecordData& record)
         return;
     std::vector<RecordChannel*> shown; // parameters may share a channel: the marks go when all were asked
     for (std::size_t i = 0; i < mParameters.size(); ++i) {
-        RecordChannel* pChannel = record.channel(mParameters[i].identifier());
+        RecordChannel* pChannel = mParameters[i].isRecorded() ? record.channel(mParameters[i].identifier()) : nullptr;
         if (!pChannel || !pChannel->fresh())
             continue;
         const ValueDecoder& decoder = mParameters[i].decoder();

@@ -39,7 +39,10 @@ QString ShownParameter::stateName(int state)
 QString ShownParameter::toolTip() const
 {
     QString text = "<qt><b>" + escaped(mParameter.path) + "</b><br/>";
-    text += tr("CAN identifier: %1").arg(mParameter.identifier());
+    if (isRecorded())
+        text += tr("CAN identifier: %1").arg(mParameter.identifier());
+    else
+        text += tr("Computed: %1").arg(escaped(mParameter.expression));
     if (!unit().empty())
         text += "<br/>" + tr("Unit:") + " " + escaped(unit());
     return text + thresholdLines() + "</qt>";

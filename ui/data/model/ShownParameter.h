@@ -24,6 +24,8 @@ public:
     [[nodiscard]] static std::vector<ShownParameter> all(const DecodingContext& context, const Selection& selection);
 
     [[nodiscard]] const std::string& name() const { return mParameter.name; }
+    /// Whether its records are of the identifier; else it is computed from others.
+    [[nodiscard]] bool isRecorded() const { return !mParameter.isComputed(); }
     [[nodiscard]] uint32_t identifier() const { return mParameter.identifier(); }
     [[nodiscard]] bool isPosition() const { return mParameter.isPosition(); }
     [[nodiscard]] const ValueDecoder& decoder() const { return mDecoder; }
