@@ -93,12 +93,10 @@ bool FlightReport::fill(ReportDocument& document, Progress& progress) const
     if (!isWanted(40))
         return false;
     const auto pMap = std::make_shared<ReportMap>(mLoaded, limits);
-    if (pMap->isEmpty()) {
-        document.add(ReportHeading{tr("Flight path")});
-        document.add(ReportParagraph{tr("No position was recorded.")});
-    }
+    if (pMap->isSmall())
+        addMap(document, pMap);
     addGraph(document, front.incidents(), limits); // takes what is left of a page
-    if (!pMap->isEmpty())
+    if (!pMap->isSmall())
         addMap(document, pMap);
     return isWanted(50);
 }
@@ -121,6 +119,8 @@ void FlightReport::addGraph(ReportDocument& document, const std::vector<Incident
 void FlightReport::addMap(ReportDocument& document, const std::shared_ptr<ReportMap>& pMap)
 {
     document.add(ReportHeading{tr("Flight path")});
+    if (pMap->isEmpty())
+        return document.add(ReportParagraph{tr("No position was recorded.")});
     const QString text =
         tr("Green: begin. Black: end. Orange: exceeded limits, how many at a place. Grey lines: degrees and minutes.");
     document.add(ReportParagraph{text, ReportParagraph::eQuiet});

@@ -16,7 +16,7 @@ constexpr double kMargin = 0.2;       // of the length, before and after it
 constexpr double kLeastLength = 10.0; // seconds that are shown of a short one
 constexpr double kTogether = 600.0;   // within which several incidents are shown in one picture
 constexpr double kBeside = 3.0;       // seconds, for a line to come from what was before
-constexpr double kStrip = 40.0;       // points
+constexpr double kStrip = 39.0;       // points
 constexpr double kLeastStrips = 60.0; // a graph cannot do with less
 constexpr double kAbove = 3.0;        // the bars, or the strips
 constexpr double kBar = 9.0;
@@ -115,10 +115,11 @@ void IncidentGraph::findStrips(const std::vector<const Incident*>& incidents)
         else
             mLeftOut << quantity.name;
     }
-    for (const char* key : {"EngineSpeed", "EngineSpeedA"}) { // to tell what the engine did when lamps and faults are all there is
-        const ProfileParameter& speed = model.ofZarnType(key);
-        if (mStrips.empty() && !speed.name.empty() && graph.canShow(speed))
-            mStrips.push_back({nullptr, speed});
+    // To tell what the engine did when lamps and faults are all there is.
+    for (const char* key : {"EngineSpeed", "EngineSpeedA", "ManifoldPressureA", "ThrottleA", "FuelA", "GroundSpeed"}) {
+        const ProfileParameter& parameter = model.ofZarnType(key);
+        if (mStrips.empty() && !parameter.name.empty() && graph.canShow(parameter))
+            mStrips.push_back({nullptr, parameter});
     }
 }
 
@@ -165,10 +166,13 @@ void IncidentGraph::draw(PaperCanvas& canvas, const QRectF& place) const
     for (const Strip& strip : mStrips)
         strips.push_back(graph.add(strip.parameter, {mSpan.start - kBeside, mSpan.end + kBeside}, strip.pEpisode ? note(*strip.pEpisode) : QString()));
     graph.setWindow(mSpan);
+    canvas.push();
+    canvas.clip(place); // what a graph has above its strips is left out here
     graph.draw(canvas, place.adjusted(0, barsHeight() + kAbove - PaperGraph::frame().above, 0, 0));
     drawBars(canvas, graph, {place.left(), graph.plot().top() - barsHeight(), place.width(), barsHeight()});
     drawPeaks(canvas, graph, strips);
     drawNotes(canvas, {place.left(), graph.plot().bottom() + 4});
+    canvas.pop();
 }
 
 /// What it leaves out, in the corner that names and times leave free.

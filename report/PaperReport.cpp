@@ -76,7 +76,7 @@ void PaperReport::lines(double x, const QStringList& lines, const CanvasText& st
 void PaperReport::title(const QString& text)
 {
     mPages.text(mPages.left(), text, style(true, kAccent, 20.0), mPages.width());
-    mPages.advance(32.0);
+    mPages.advance(28.0);
 }
 
 void PaperReport::sign(EVerdict verdict, double x, double size)
@@ -131,7 +131,7 @@ void PaperReport::put(const ReportVerdict& verdict)
     mPages.text(x, verdict.word, style(true, kInk, 16.0), mPages.right() - x);
     mPages.advance(22.0);
     lines(x, wrapped(verdict.sentence, mPages.right() - x, style(false, kInk, 10.0), 2), style(false, kInk, 10.0));
-    mPages.advance(std::max(0.0, top + kLarge - mPages.y()) + 10.0);
+    mPages.advance(std::max(0.0, top + kLarge - mPages.y()) + 6.0);
 }
 
 void PaperReport::put(const ReportFigures& figures)

@@ -16,6 +16,7 @@ namespace ZARN {
 /// Draws at the painter's origin on a place of that size, in points.
 using ReportDrawing = std::function<void(QPainter&, const QSizeF&)>;
 
+/// A drawing with its words.
 struct ReportPicture {
     QString text;           ///< what it shows, for who does not see it
     double height = 0.0;    ///< in points, of a page's width
@@ -23,10 +24,12 @@ struct ReportPicture {
     ReportDrawing draw;
 };
 
+/// Begins a section.
 struct ReportHeading {
     QString text;
 };
 
+/// A text of its own.
 struct ReportParagraph {
     enum EKind { eNormal, eQuiet, eAlert };
     QString text;
@@ -46,6 +49,7 @@ struct ReportPair {
     QString value;
 };
 
+/// Names and what they stand for, in two columns.
 struct ReportPairs {
     std::vector<ReportPair> entries;
 };
@@ -73,6 +77,7 @@ struct ReportColumn {
     bool isHead = false; ///< says what its row is about
 };
 
+/// Columns of as many cells each.
 struct ReportTable {
     QString text; ///< what it is about
     std::vector<ReportColumn> columns;

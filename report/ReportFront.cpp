@@ -108,7 +108,8 @@ void ReportFront::addIncidents(ReportDocument& document) const
         document.add(ReportParagraph{tr("The first %n are shown as graphs.", nullptr, static_cast<int>(kMostGraphs)), ReportParagraph::eQuiet});
     if (mOutside > 0)
         document.add(ReportParagraph{tr("%n more of this power cycle outside of the flight.", nullptr, static_cast<int>(mOutside))});
-    document.add(ReportParagraph{OverviewTexts::basis(*mpOverview), ReportParagraph::eQuiet});
+    const bool isAllKnown = ReviewText(mpOverview->review).gaps().isEmpty();
+    document.add(ReportParagraph{OverviewTexts::basis(*mpOverview), isAllKnown ? ReportParagraph::eQuiet : ReportParagraph::eNormal});
 }
 
 QString ReportFront::moreText(const std::vector<IncidentSentence>& sentences, std::size_t told) const

@@ -29,7 +29,7 @@ ReportMap::ReportMap(const LoadedCard& loaded, const EventList& limits)
 bool ReportMap::isSmall() const
 {
     constexpr int kSide = 100; // any square will do
-    return mScene.path().fit(kSide, kSide).range < 2 * kSmallestRange;
+    return isEmpty() || mScene.path().fit(kSide, kSide).range < 2 * kSmallestRange;
 }
 
 void ReportMap::draw(QPainter& painter, Canvas& canvas, const QRectF& place)

@@ -19,7 +19,7 @@ public:
 
     [[nodiscard]] bool isEmpty() const { return mScene.path().isEmpty(); }
     /// @param painter the one that the canvas draws on: outlines with holes are none of a canvas's shapes.
-    /// A place rather than a way.
+    /// A place rather than a way, or nothing.
     [[nodiscard]] bool isSmall() const;
     void draw(QPainter& painter, Canvas& canvas, const QRectF& place);
 
