@@ -4,6 +4,7 @@
 #include "analysis/FaultWords.h"
 #include "analysis/LampEpisodes.h"
 #include "analysis/LimitScan.h"
+#include "card/FlightFigures.h"
 #include "trace/TraceSet.h"
 
 namespace ZARN {
@@ -13,6 +14,16 @@ namespace {
 constexpr const char* kLampGroup = "WarningLamp";
 constexpr const char* kSpeedKey = "EngineSpeed";
 
+EVerdict verdictOn(const CycleReview& review)
+{
+    int state = 0;
+    for (const Incident& incident : review.incidents)
+        state = std::max(state, incident.state);
+    if (state > eThresholdOk)
+        return state == eThresholdLimit ? EVerdict::eLimit : EVerdict::eWarning;
+    return review.withSamples > 0 ? EVerdict::eOk : EVerdict::eUnknown;
+}
+
 bool isLamp(const ProfileDevice& device)
 {
     return device.name == kLampGroup;
@@ -21,9 +32,10 @@ bool isLamp(const ProfileDevice& device)
 /// One review: the steps in the order in which they build on each other.
 class ReviewPass {
 public:
-    ReviewPass(const CycleValues& values, std::span<const RecordFlight> flights, double endTime)
+    /// @param unwatched times that are not watched though the engine ran
+    ReviewPass(const CycleValues& values, std::span<const RecordFlight> flights, double endTime, const std::vector<TimeSpan>& unwatched = {})
         : mData(values.data()), mContext(values.context()), mFlights(flights), mEngine(engineRunning(endTime)),
-          mPhases(values, mEngine, flights), mLimitTimes(mEngine), mLampTimes(mEngine, laneChecks(mData, mContext))
+          mPhases(values, mEngine, flights), mLimitTimes(mEngine, unwatched), mLampTimes(mEngine, withChecks(unwatched))
     {
         for (const RecordFlight& flight : flights)
             mTakeOffs.push_back(flight.takeOffTime);
@@ -59,6 +71,13 @@ private:
         const auto pSpeed = traceOfKey(kSpeedKey);
         mReview.hasEngineSpeed = pSpeed != nullptr;
         return pSpeed ? EngineRunning(*pSpeed, endTime) : EngineRunning();
+    }
+
+    [[nodiscard]] std::vector<TimeSpan> withChecks(std::vector<TimeSpan> unwatched) const
+    {
+        const std::vector<TimeSpan> checks = laneChecks(mData, mContext);
+        unwatched.insert(unwatched.end(), checks.begin(), checks.end());
+        return unwatched;
     }
 
     void findStops();
@@ -195,13 +214,7 @@ void ReviewPass::tell()
     mEpisodes.sort();
     mReview.standing = std::move(mEpisodes.standing);
     mReview.incidents = joinIncidents(std::move(mEpisodes.watched), mPhases, mFlights);
-    int state = 0;
-    for (const Incident& incident : mReview.incidents)
-        state = std::max(state, incident.state);
-    if (state > eThresholdOk)
-        mReview.verdict = state == eThresholdLimit ? EVerdict::eLimit : EVerdict::eWarning;
-    else
-        mReview.verdict = mReview.withSamples > 0 ? EVerdict::eOk : EVerdict::eUnknown;
+    mReview.verdict = verdictOn(mReview);
 }
 
 /// What flowed through both lanes: a flow per hour, each sample for the time since the one before.
@@ -240,6 +253,28 @@ const char* verdictKey(EVerdict verdict)
 CycleReview reviewCycle(const CycleValues& values, std::span<const RecordFlight> flights, double endTime, EKeyValues keyValues)
 {
     return ReviewPass(values, flights, endTime).run(keyValues);
+}
+
+CycleReview reviewFlight(const CycleReview& cycle, const CycleValues& values, std::span<const RecordFlight> flights,
+                         const RecordFlight& flight, double endTime)
+{
+    constexpr double kForever = std::numeric_limits<double>::infinity();
+    const TimeSpan span{flight.startTime, flight.endTime};
+    const auto isOutside = [&span](const auto& found) {
+        return std::max(found.start, found.end) < span.start || std::min(found.start, found.end) > span.end;
+    };
+    CycleReview review = ReviewPass(values, flights, endTime, {{-kForever, lastBefore(span.start)}, {std::nextafter(span.end, kForever), kForever}})
+                             .run(EKeyValues::eNone);
+    review.engine.crop(span);
+    review.flightTime = flight.landingTime - flight.takeOffTime;
+    review.fuel = flightFigure(flight, eFigureTotalFuel);
+    // Those of the cycle: what goes on before or after the flight is not cut, so that it is told alike everywhere.
+    review.incidents = cycle.incidents;
+    review.standing = cycle.standing;
+    std::erase_if(review.incidents, isOutside);
+    std::erase_if(review.standing, isOutside);
+    review.verdict = verdictOn(review);
+    return review;
 }
 
 } // namespace ZARN

@@ -33,5 +33,8 @@ enum class EKeyValues { eNone, eAll };
 /// Reviews a loaded cycle. @param endTime of the cycle, in seconds since power-up
 [[nodiscard]] CycleReview reviewCycle(const CycleValues& values, std::span<const RecordFlight> flights, double endTime,
                                       EKeyValues keyValues = EKeyValues::eNone);
+/// The same of one flight of the cycle, out of the cycle's review: what happened in it, and what was watched between its start and end.
+[[nodiscard]] CycleReview reviewFlight(const CycleReview& cycle, const CycleValues& values, std::span<const RecordFlight> flights,
+                                       const RecordFlight& flight, double endTime);
 
 } // namespace ZARN

@@ -54,6 +54,15 @@ std::optional<double> EngineRunning::duration() const
     return sum;
 }
 
+void EngineRunning::crop(const TimeSpan& span)
+{
+    if (!mIsKnown)
+        return;
+    for (TimeSpan& stretch : mStretches)
+        stretch = {std::max(stretch.start, span.start), std::min(stretch.end, span.end)};
+    std::erase_if(mStretches, [](const TimeSpan& stretch) { return stretch.end <= stretch.start; });
+}
+
 std::vector<TimeSpan> EngineRunning::watched() const
 {
     std::vector<TimeSpan> spans = mStretches;

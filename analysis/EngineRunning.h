@@ -23,6 +23,8 @@ public:
     [[nodiscard]] const std::vector<TimeSpan>& stretches() const { return mStretches; }
     /// How long it ran, in seconds; none when that is not known.
     [[nodiscard]] std::optional<double> duration() const;
+    /// Forgets what lies outside of a span; nothing where it is not known.
+    void crop(const TimeSpan& span);
     /// The part of each stretch that is watched, without the building up of pressures after the start and their fall at the stop. Those
     /// of short stretches hold no time.
     [[nodiscard]] std::vector<TimeSpan> watched() const;

@@ -16,12 +16,6 @@ namespace {
 constexpr qsizetype kMostHeads = 3; // what a sentence can take
 constexpr qsizetype kMostRest = 5;
 
-/// The name without the letter of the lane.
-QString laneless(const QString& name)
-{
-    return name.endsWith(" A") || name.endsWith(" B") ? name.chopped(2) : name;
-}
-
 QString nameOf(const Episode& episode)
 {
     return QString::fromStdString(episode.parameter);
@@ -37,7 +31,7 @@ std::set<QString> parameters(const Incident& incident)
 {
     std::set<QString> names;
     for (const Episode& episode : incident.episodes)
-        names.insert(laneless(nameOf(episode)));
+        names.insert(IncidentText::laneless(nameOf(episode)));
     return names;
 }
 
@@ -109,6 +103,11 @@ QStringList IncidentText::names(const std::vector<Episode>& episodes)
         names << quantity.name;
     names.removeDuplicates();
     return names;
+}
+
+QString IncidentText::laneless(const QString& name)
+{
+    return name.endsWith(" A") || name.endsWith(" B") ? name.chopped(2) : name;
 }
 
 QString IncidentText::time(double seconds)

@@ -36,6 +36,8 @@ public:
     [[nodiscard]] std::vector<IncidentSentence> sentences(const std::vector<Incident>& incidents) const;
     /// The quantities of episodes, each once, in their order.
     [[nodiscard]] static QStringList names(const std::vector<Episode>& episodes);
+    /// The name without the letter of the lane.
+    [[nodiscard]] static QString laneless(const QString& name);
     /// Seconds since power-up as "12:26" or "1:02:03".
     [[nodiscard]] static QString time(double seconds);
     /// "9 s", "1 min 5 s" or "1 h 2 min".

@@ -377,6 +377,10 @@ LoadedCard CardContainer::loaded() const
     loaded.flightNumber = selectedFlightNumber();
     loaded.startTime = mStartTime;
     loaded.endTime = mEndTime;
+    loaded.wholeStart = mWhole.startTime;
+    loaded.wholeEnd = mWhole.endTime;
+    loaded.indexEnd = mIndexEnd;
+    loaded.problems = mProblems;
     if (const RecordCycle* pCycle = loadedCycle()) {
         loaded.cycle = mLoadedCycle;
         loaded.cycleName = pCycle->name;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "card/CardProblem.h"
+#include "card/CycleValues.h"
 #include "card/FlightPath.h"
 #include "card/RecordFlight.h"
 #include "card/record/RecordInfo.h"
@@ -28,6 +30,15 @@ struct LoadedCard {
     int flightNumber = 0;   ///< from 1; 0 when none is selected
     double startTime = 0.0; ///< of the span; seconds since power-up
     double endTime = 0.0;
+    double wholeStart = 0.0; ///< the same of all that was loaded
+    double wholeEnd = 0.0;
+    double indexEnd = 0.0;             ///< times behind it have no value
+    std::vector<CardProblem> problems; ///< what is wrong with the card, as far as it was read
+
+    /// The same with a flight of the cycle selected, from 1, or with none: 0, or a number that no flight has.
+    [[nodiscard]] LoadedCard withFlight(int number) const;
+    /// Refers to the record.
+    [[nodiscard]] CycleValues values() const { return {*pRecord, context, indexEnd}; }
 };
 
 } // namespace ZARN

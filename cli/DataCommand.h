@@ -18,6 +18,7 @@ protected:
     /// The work on the loaded data. @return the exit status.
     virtual int runOnData() = 0;
     void addOutput();
+    [[nodiscard]] const std::string& output() const { return mOutput; }
     void addSelect(const char* description) { options().addMany("--select", mSelected, description); }
     [[nodiscard]] bool hasSelection() const { return !mSelected.empty(); }
     [[nodiscard]] const RecordCycle& cycle() const { return *mContainer.loadedCycle(); }

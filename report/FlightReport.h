@@ -8,22 +8,30 @@
 namespace ZARN {
 
 class EventList;
-class ReportPages;
+class ReportMap;
 class SafeFile;
+struct Incident;
+struct ReportDocument;
 
-/// How a report is printed.
+enum class EReportFormat { ePdf, eHtml };
+
+/// How a report is written.
 struct ReportOptions {
-    bool isLetter = false; ///< A4 otherwise
+    bool isLetter = false; ///< the paper; A4 otherwise
+    EReportFormat format = EReportFormat::ePdf;
 };
 
-/// The loaded cycle or flight on paper, as a PDF of vector graphics: the unit's identity, what flew with its tow statistic, exceeded
-/// limits, warning lamps, faults, the main parameters over time, the flight path on the map. Needs the QGuiApplication, but no screen, and
-/// may be written on any thread.
+/// The loaded cycle or flight as a document, on paper or as a page for a browser: whether the engine was all right and what happened, then
+/// the unit's identity, what flew with its tow statistic, exceeded limits, warning lamps, faults, the main parameters over time, the flight
+/// path on the map. Needs the QGuiApplication, but no screen, and may be written on any thread.
 class FlightReport {
     Q_DECLARE_TR_FUNCTIONS(ZARN::FlightReport)
 
 public:
     explicit FlightReport(LoadedCard loaded) : mLoaded(std::move(loaded)) {}
+
+    /// The format that a file of that name has: the one of its suffix, PDF without one; none for the suffix of something else.
+    [[nodiscard]] static std::optional<EReportFormat> formatOf(const QString& fileName);
 
     /// Opens the file, writes to it and commits it. @return false when it could not be written whole, or was cancelled; the old
     /// file, if any, is then untouched.
@@ -32,20 +40,10 @@ public:
     [[nodiscard]] const std::string& error() const { return mError; }
 
 private:
-    bool writePages(ReportPages& pages, Progress& progress);
-    void writeHead(ReportPages& pages) const;
-    void writeUnit(ReportPages& pages) const;
-    void writeFlights(ReportPages& pages) const;
-    void writeFigures(ReportPages& pages, const std::vector<RecordFlight>& flights, std::size_t first) const;
-    void writeEvents(ReportPages& pages, const EventList& list, const QString& heading, const QString& nothing, const QStringList& states) const;
-    void writeFaults(ReportPages& pages) const;
-    void writeGraph(ReportPages& pages, const EventList& limits) const;
-    void writeMap(ReportPages& pages, const EventList& limits) const;
-
-    /// The flights that the report is about: the selected one, or all of the cycle; and their numbers, from 1.
-    [[nodiscard]] std::vector<RecordFlight> flights(int& firstNumber) const;
-    [[nodiscard]] bool isInside(double time) const { return time >= mLoaded.startTime && time <= mLoaded.endTime; }
-    [[nodiscard]] QString footer() const;
+    bool fill(ReportDocument& document, Progress& progress) const;
+    void addGraph(ReportDocument& document, const std::vector<Incident>& incidents, const EventList& limits) const;
+    static void addMap(ReportDocument& document, const std::shared_ptr<ReportMap>& pMap);
+    [[nodiscard]] QString head() const;
 
     const LoadedCard mLoaded;
     std::string mError;

@@ -9,11 +9,15 @@ class PaperCanvas : public RasterCanvas {
 public:
     using RasterCanvas::RasterCanvas;
 
-    [[nodiscard]] QSizeF textSize(const QString& text, const CanvasText& style) const override;
-    /// The words in lines that are no wider than that; a word that is too wide is cut, its end marked.
-    [[nodiscard]] QStringList wrapped(const QString& text, double width, const CanvasText& style) const;
+    [[nodiscard]] QSizeF textSize(const QString& text, const CanvasText& style) const override { return size(text, style); }
+
+    // Without a painter, as a layout needs them.
+    [[nodiscard]] static QSizeF size(const QString& text, const CanvasText& style);
+    /// The words in lines that are no wider than that, a word that is too wide in pieces. @param most lines; the end of what does not fit
+    /// into them is marked
+    [[nodiscard]] static QStringList wrapped(const QString& text, double width, const CanvasText& style, qsizetype most);
     /// As much of the text as fits, its end marked when that is not all.
-    [[nodiscard]] QString shortened(const QString& text, double width, const CanvasText& style) const;
+    [[nodiscard]] static QString shortened(const QString& text, double width, const CanvasText& style);
 
 protected:
     [[nodiscard]] QFont font(const CanvasText& style) const override;

@@ -1,34 +1,35 @@
 #pragma once
 
-#include "card/LoadedCard.h"
-#include "ui/graph/model/GraphModel.h"
+#include "report/PaperGraph.h"
+
+#include <set>
 
 namespace ZARN {
 
 class EventList;
-class PaperCanvas;
+struct Incident;
 
-/// The main parameters of the loaded cycle or flight over time, each in a strip of its own: those that the program knows, and those
-/// that exceeded a limit.
+/// The main parameters of the loaded cycle or flight over time: those that the program knows, those of its incidents, and others that exceeded
+/// a limit.
 class ReportGraph {
 public:
     /// @param loaded must outlive it
-    ReportGraph(const LoadedCard& loaded, const EventList& limits);
+    ReportGraph(const LoadedCard& loaded, const std::vector<Incident>& incidents, const EventList& limits);
 
-    [[nodiscard]] bool isEmpty() const { return mModel.traces().count() == 0; }
+    [[nodiscard]] bool isEmpty() const { return mGraph.count() == 0; }
     /// How many parameters that exceeded a limit found no room.
     [[nodiscard]] int leftOut() const { return mLeftOut; }
-    void draw(PaperCanvas& canvas, const QRectF& place) const;
+    [[nodiscard]] const QStringList& names() const { return mNames; }
+    void draw(PaperCanvas& canvas, const QRectF& place) { mGraph.draw(canvas, place); }
 
 private:
-    void addParameter(const ProfileParameter& parameter);
-    /// The name of a strip in the place left of it, where it hides no trace.
-    void drawName(PaperCanvas& canvas, const GraphParameter& parameter, const QRectF& place) const;
+    /// Once each.
+    void add(const std::string& name);
 
     const LoadedCard& mLoaded;
-    CoordinateFilter mFilter;
-    GraphModel mModel;
-    int mUsed = 0;
+    PaperGraph mGraph;
+    std::set<std::string> mTaken;
+    QStringList mNames;
     int mLeftOut = 0;
 };
 

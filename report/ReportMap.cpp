@@ -13,15 +13,26 @@ constexpr std::size_t kMostMarks = 2000;
 
 } // namespace
 
-ReportMap::ReportMap(const LoadedCard& loaded) : mLoaded(loaded)
+ReportMap::ReportMap(const LoadedCard& loaded, const EventList& limits)
 {
     mBaseMap.loadBuiltIn();
     mScene.path().setPoints(*loaded.pPath);
     mScene.setImperial(loaded.context.unit() == EUnit::eImperial);
     mScene.setGraticule(true);
+    for (const Event& event : limits.events()) {
+        const bool isShown = event.time >= loaded.startTime && event.time <= loaded.endTime && mScene.path().spans(event.time);
+        if (isShown && mExceeded.size() < kMostMarks)
+            mExceeded.push_back(event.time);
+    }
 }
 
-void ReportMap::draw(QPainter& painter, Canvas& canvas, const QRectF& place, const EventList& limits)
+bool ReportMap::isSmall() const
+{
+    constexpr int kSide = 100; // any square will do
+    return isEmpty() || mScene.path().fit(kSide, kSide).range < 2 * kSmallestRange;
+}
+
+void ReportMap::draw(QPainter& painter, Canvas& canvas, const QRectF& place)
 {
     const int width = static_cast<int>(place.width());
     const int height = static_cast<int>(place.height());
@@ -36,13 +47,13 @@ void ReportMap::draw(QPainter& painter, Canvas& canvas, const QRectF& place, con
     canvas.clip(QRectF(0, 0, width, height));
     mBaseMap.paint(painter, camera, kLineScale);
     mScene.drawGround(canvas, camera);
-    drawMarks(canvas, camera, limits);
+    drawMarks(canvas, camera);
     mScene.drawScaleBar(canvas, camera);
     canvas.outline(QRectF(0, 0, width, height), {Palette::print().map.frame, kLineScale});
     canvas.pop();
 }
 
-void ReportMap::drawMarks(Canvas& canvas, const OpenStreet::Camera& camera, const EventList& limits) const
+void ReportMap::drawMarks(Canvas& canvas, const OpenStreet::Camera& camera) const
 {
     const MapPath& path = mScene.path();
     const Palette::Map& colours = Palette::print().map;
@@ -53,11 +64,8 @@ void ReportMap::drawMarks(Canvas& canvas, const OpenStreet::Camera& camera, cons
     ReportMarks marks(QSizeF(camera.width(), camera.height()));
     marks.add(windowPoint(path.points().front()), colours.begin);
     marks.add(windowPoint(path.points().back()), colours.end);
-    std::size_t count = 0;
-    for (const Event& event : limits.events()) {
-        if (event.time >= mLoaded.startTime && event.time <= mLoaded.endTime && path.spans(event.time) && ++count <= kMostMarks)
-            marks.addToGroup(windowPoint(path.positionAt(event.time)), colours.exceeded);
-    }
+    for (const double time : mExceeded)
+        marks.addToGroup(windowPoint(path.positionAt(time)), colours.exceeded);
     marks.draw(canvas);
 }
 

@@ -15,16 +15,18 @@ class EventList;
 class ReportMap {
 public:
     /// @param loaded must outlive it
-    explicit ReportMap(const LoadedCard& loaded);
+    ReportMap(const LoadedCard& loaded, const EventList& limits);
 
     [[nodiscard]] bool isEmpty() const { return mScene.path().isEmpty(); }
     /// @param painter the one that the canvas draws on: outlines with holes are none of a canvas's shapes.
-    void draw(QPainter& painter, Canvas& canvas, const QRectF& place, const EventList& limits);
+    /// A place rather than a way, or nothing.
+    [[nodiscard]] bool isSmall() const;
+    void draw(QPainter& painter, Canvas& canvas, const QRectF& place);
 
 private:
-    void drawMarks(Canvas& canvas, const OpenStreet::Camera& camera, const EventList& limits) const;
+    void drawMarks(Canvas& canvas, const OpenStreet::Camera& camera) const;
 
-    const LoadedCard& mLoaded;
+    std::vector<double> mExceeded; ///< times at which a limit was exceeded
     MapScene mScene{MapStyle::paper()};
     OpenStreet::BaseMap mBaseMap;
 };

@@ -1,14 +1,43 @@
 #!/usr/bin/env python3
-"""The flight report says what the batch program's JSON says. Called with the program and a folder to work in."""
+"""The flight report says what the batch program's other answers say. Called with the program."""
 
+import html.parser
 import json
+import os
 import re
+import resource
 import subprocess
 import sys
 import tempfile
 import unittest
 
 CLI = sys.argv[1]
+
+
+class Page(html.parser.HTMLParser):
+    """The texts of an HTML file, by the element that they stand in; every element has its end."""
+
+    def __init__(self, content):
+        super().__init__()
+        self.open, self.texts, self.pictures, self.language = [], [], [], None
+        self.feed(content)
+        self.close()
+        if self.open:
+            raise AssertionError(f'without an end: {self.open}')
+
+    def handle_starttag(self, tag, attributes):
+        self.language = dict(attributes).get('lang', self.language)
+        if tag == 'img':
+            self.pictures.append(dict(attributes))
+        elif tag != 'meta':
+            self.open.append(tag)
+
+    def handle_endtag(self, tag):
+        if self.open.pop() != tag:
+            raise AssertionError(f'{tag} ends at {self.getpos()}')
+
+    def handle_data(self, data):
+        self.texts.append((self.open[-1] if self.open else '', data))
 
 
 def clock(seconds):
@@ -43,6 +72,12 @@ class TestReport(unittest.TestCase):
             self.assertTrue(file.read(8).startswith(b'%PDF-1.'))
         text = subprocess.run(['pdftotext', '-layout', path, '-'], capture_output=True, text=True, check=True).stdout
         return [' '.join(line.split()) for line in text.split('\n')]
+
+    def page(self, *arguments):
+        path = self.folder.name + '/report.html'
+        self.run_cli('report', *arguments, '-o', path)
+        with open(path, encoding='utf-8') as file:
+            return Page(file.read())
 
     def facts(self, subcommand, *arguments):
         return json.loads(self.run_cli(subcommand, self.card, *arguments, '--json').stdout)
@@ -113,6 +148,48 @@ class TestReport(unittest.TestCase):
             sizes[paper] = [round(float(number)) for number in re.search(r'Page size: +([\d.]+) x ([\d.]+)', information).groups()]
         self.assertEqual(sizes, {'a4': [595, 842], 'letter': [612, 792]})
 
+    def test_front(self):
+        for cycle, pictures in (('1', 3), ('2', 9), ('3', 4)):    # signs, incidents, main parameters, map
+            told = self.run_cli('summary', self.card, '--cycle', cycle).stdout.decode()
+            told = re.sub(r'\n {3,}(?!!)', ' ', told)    # lines that go on
+            page = self.page(self.card, '--cycle', cycle)
+            text = ''.join(text for _, text in page.texts)
+            paper = ' '.join(self.report('--cycle', cycle))
+            for time, sentence in re.findall(r'^ +!+ +(\S+) +(.*)$', told, re.MULTILINE):
+                self.assertIn(time + sentence, text)
+                self.assertIn(sentence.split(', with ')[0], paper)
+            for shown in (text, paper):
+                self.assertIn(re.search(r'Cycle .*: ([A-Z ]+)$', told, re.MULTILINE)[1].capitalize(), shown)
+                self.assertIn(re.search(r'Not counted: (\d+) outside', told)[0], shown)
+            self.assertEqual((page.language, len(page.pictures)), ('en', pictures))
+            self.assertTrue(all(picture['src'].startswith('data:image/png;base64,iVBOR') for picture in page.pictures))
+            self.assertTrue(all(picture['alt'] for picture in page.pictures[1:]))    # the verdict's word stands beside its sign
+
+    def test_page_numbers(self):
+        path = self.folder.name + '/pages.pdf'
+        self.run_cli('report', self.card, '--cycle', '2', '-o', path)
+        text = subprocess.run(['pdftotext', '-layout', path, '-'], capture_output=True, text=True, check=True).stdout
+        pages = text.split('\f')[:-1]
+        for number, page in enumerate(pages, 1):
+            self.assertRegex(page.strip().split('\n')[0], '^card, power cycle 2, profile ')
+            self.assertRegex(page.strip(), rf'ZARN [\d.]+ +{number} of {len(pages)}$')
+
+    def test_hostile_names(self):
+        card = self.folder.name + '/<script>x & "y"'
+        os.makedirs(card)
+        for name in ('LOG00008.CAN', 'LOG00009.CAN'):    # one that has records, one that has none
+            with open(f'{card}/{name}', 'wb') as file, open(self.card + '/LOG00008.CAN', 'rb') as good:
+                file.write(good.read() if name == 'LOG00008.CAN' else b'')
+        profile = os.path.dirname(CLI) + '/../Resources/profiles/915/Profile.xml'
+        with open(profile, encoding='utf-8') as good, open(self.folder.name + '/hostile.xml', 'w', encoding='utf-8') as file:
+            file.write(good.read().replace('name="Supply Voltage', 'name="&lt;/p>&lt;img src=x onerror=&apos;y()&apos;> Voltage'))
+        page = self.page(card, '--profile', self.folder.name + '/hostile.xml')
+        self.assertNotIn('script', (tag for tag, _ in page.texts))
+        self.assertTrue(all(picture['src'].startswith('data:') for picture in page.pictures))
+        text = ''.join(text for _, text in page.texts)
+        for expected in ('<script>x & "y", power cycle', "</p><img src=x onerror='y()'> Voltage", 'LOG00009.CAN: 0 bytes, no record'):
+            self.assertIn(expected, text)
+
     def test_vectors(self):
         path = self.folder.name + '/report.pdf'
         self.run_cli('report', self.card, '--cycle', '2', '-o', path)
@@ -121,10 +198,17 @@ class TestReport(unittest.TestCase):
 
     def test_failures(self):
         for arguments, status, said in ((('-o', 'no/where.pdf'), 1, 'no/where.pdf: No such file'), ((), 2, '--output'),
-                                        (('-o', 'x.pdf', '--paper', 'a5'), 2, 'a5'), (('-o', '/dev/full'), 1, 'No space left')):
+                                        (('-o', 'x.pdf', '--paper', 'a5'), 2, 'a5'), (('-o', '/dev/full'), 1, 'No space left'),
+                                        (('-o', '/dev/full', '--format', 'html'), 1, 'No space left'),
+                                        (('-o', 'x.txt'), 2, 'x.txt: a report is a .pdf or a .html file')):
             done = self.run_cli('report', self.card, '--cycle', '3', *arguments, status=status)
             self.assertIn(said, done.stderr.decode())
             self.assertEqual(done.stdout, b'')
+        for name in ('pdf', 'html'):    # what a full disk does
+            folder = tempfile.mkdtemp(dir=self.folder.name)
+            done = subprocess.run([CLI, 'report', self.card, '-o', f'{folder}/report.{name}'], capture_output=True, check=False,
+                                  preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (50000, 50000)))
+            self.assertEqual((done.returncode, os.listdir(folder)), (1, []))
 
 
 if __name__ == '__main__':

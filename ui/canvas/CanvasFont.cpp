@@ -60,6 +60,11 @@ QByteArray canvasFontFile(bool bold)
     return content(bold ? ":monofont-bold.ttf" : ":monofont.ttf");
 }
 
+QByteArray textFontFile(bool bold)
+{
+    return content(bold ? ":textfont-bold.otf" : ":textfont.otf");
+}
+
 QFont canvasFont(double size, bool bold)
 {
     static const QString families[] = {family(canvasFontFile(false)), family(canvasFontFile(true))};
@@ -68,7 +73,7 @@ QFont canvasFont(double size, bool bold)
 
 QFont textFont(double size, bool bold)
 {
-    static const QString families[] = {family(content(":textfont.otf")), family(content(":textfont-bold.otf"))};
+    static const QString families[] = {family(textFontFile(false)), family(textFontFile(true))};
     return font(families[bold ? 1 : 0], size, bold);
 }
 

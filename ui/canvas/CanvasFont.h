@@ -9,7 +9,10 @@ namespace ZARN {
 /// The file of the monospaced font that comes with the program, regular or bold.
 [[nodiscard]] QByteArray canvasFontFile(bool bold);
 
-/// The same for painters. @param size em height in pixels. Needs the QGuiApplication.
+/// The file of the proportional one, which is called "ZARN Text".
+[[nodiscard]] QByteArray textFontFile(bool bold);
+
+/// The monospaced font for painters. @param size em height in pixels. Needs the QGuiApplication.
 [[nodiscard]] QFont canvasFont(double size, bool bold);
 
 /// The proportional font that comes with the program, for paper: its digits have one width, its points and colons no holes beside them.

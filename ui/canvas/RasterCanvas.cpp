@@ -14,6 +14,9 @@ namespace {
 /// Beyond it a painter's fixed-point arithmetic would overflow.
 constexpr double kFarthest = 1e6;
 
+/// Points of a strip that are drawn at once: a wide line that crosses itself takes its painter a time that grows with their square.
+constexpr qsizetype kPiece = 64;
+
 QPointF held(const QPointF& point)
 {
     return {std::clamp(point.x(), -kFarthest, kFarthest), std::clamp(point.y(), -kFarthest, kFarthest)};
@@ -118,10 +121,15 @@ void RasterCanvas::drawStrip(std::span<const QPointF> points)
         strip.clear();
     };
     for (const QPointF& point : points) {
-        if (isFinite(point))
-            strip << held(point);
-        else
+        if (!isFinite(point)) {
             finish();
+            continue;
+        }
+        strip << held(point);
+        if (strip.size() == kPiece && mPainter.pen().style() == Qt::SolidLine) { // dashes would begin anew
+            finish();
+            strip << held(point);
+        }
     }
     finish();
 }

@@ -10,6 +10,7 @@
 #include "export/ui/DialogExportCsv.h"
 #include "export/ui/DialogExportKml.h"
 #include "export/ui/ExportTarget.h"
+#include "export/ui/ReportFileDialog.h"
 #include "profile/Profile.h"
 #include "report/FlightReport.h"
 #include "ui/main/CardController.h"
@@ -130,14 +131,22 @@ void ExportController::writeReport()
 {
     if (!mayExport())
         return;
-    const QString path = askFile(Settings::kReportDir, tr("Save Flight Report"), selectionName(".pdf"), tr("PDF Files (*.pdf)"));
+    const LoadedCard loaded = mSession.container.loaded();
+    std::vector<ReportFileDialog::Part> parts{{loaded.cycle ? tr("The whole power cycle") : tr("Everything that is loaded"), fileName(0, {})}};
+    for (int flight = 1; loaded.cycle && flight <= static_cast<int>(loaded.flights.size()); ++flight)
+        parts.push_back({tr("Flight %1").arg(flight), fileName(flight, {})});
+    ReportFileDialog dialog(tr("Save Flight Report"), Settings::kReportDir.text(mSession.property), std::move(parts), loaded.flightNumber, mpWindow);
+    const QString path = askFile(Settings::kReportDir, dialog);
     if (path.isEmpty())
         return;
-    const ReportOptions paper{QLocale::system().measurementSystem() == QLocale::ImperialUSSystem};
-    const auto work = [path, paper, loaded = mSession.container.loaded()](Progress& progress) {
-        FlightReport report(loaded);
+    const auto format = FlightReport::formatOf(path);
+    if (!format)
+        return say(QMessageBox::Critical, tr("ZARN Warning"), tr("A report is a PDF or an HTML file: its name ends in .pdf or .html."));
+    const ReportOptions options{QLocale::system().measurementSystem() == QLocale::ImperialUSSystem, *format};
+    const auto work = [path, options, loaded, flight = dialog.part()](Progress& progress) {
+        FlightReport report(loaded.withFlight(flight));
         SafeFile file(QFile::encodeName(path).toStdString());
-        const bool written = report.write(file, paper, progress);
+        const bool written = report.write(file, options, progress);
         return Outcome{written, report.error()};
     };
     run(path, work, {tr("ZARN Warning"), tr("Writing the flight report failed !")});
@@ -145,12 +154,16 @@ void ExportController::writeReport()
 
 QString ExportController::askFile(const TextSetting& setting, const QString& title, const QString& name, const QString& filter)
 {
-    const QString folder = setting.text(mSession.property);
-    QFileDialog dialog(mpWindow, title, folder, filter);
+    QFileDialog dialog(mpWindow, title, setting.text(mSession.property), filter);
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(QFileInfo(name).suffix()); // part of the name when the dialog asks whether to replace a file
     dialog.selectFile(name);
+    return askFile(setting, dialog);
+}
+
+QString ExportController::askFile(const TextSetting& setting, QFileDialog& dialog)
+{
     if (dialog.exec() != QDialog::Accepted)
         return {};
     const QString path = dialog.selectedFiles().constFirst();

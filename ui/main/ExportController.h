@@ -12,6 +12,7 @@
 #include <functional>
 #include <vector>
 
+class QFileDialog;
 class QWidget;
 
 namespace ZARN {
@@ -61,6 +62,7 @@ private:
     void run(const QString& path, const Work& work, const Failure& failure, const std::function<void()>& whenWritten = {});
     /// Asks for a file in the folder that the setting remembers. @return its path; empty when the user cancels.
     QString askFile(const TextSetting& setting, const QString& title, const QString& name, const QString& filter);
+    QString askFile(const TextSetting& setting, QFileDialog& dialog);
     void say(QMessageBox::Icon icon, const QString& title, const QString& text, const QString& information = {});
 
     Session mSession;

@@ -52,7 +52,7 @@ const std::vector<MainAction>& MainAction::all()
         {eActionExportGpx, QT_TRANSLATE_NOOP("ZARN::DialogMain", "Export GPX File"), "",
          QT_TRANSLATE_NOOP("ZARN::DialogMain", "Export Flight Path as GPX File"), "", "flight"},
         {eActionReport, QT_TRANSLATE_NOOP("ZARN::DialogMain", "Flight Report"), "",
-         QT_TRANSLATE_NOOP("ZARN::DialogMain", "Write Flight Report as PDF File"), "", "about"},
+         QT_TRANSLATE_NOOP("ZARN::DialogMain", "Write Flight Report as PDF or HTML File"), "", "about"},
         {eActionOverview, QT_TRANSLATE_NOOP("ZARN::DialogMain", "Overview"), "Ctrl+E",
          QT_TRANSLATE_NOOP("ZARN::DialogMain", "Was the engine all right? The whole card at a glance"), "", "verdict"},
         {eActionNextIncident, QT_TRANSLATE_NOOP("ZARN::DialogMain", "Next Incident"), "N; Ctrl+Down",

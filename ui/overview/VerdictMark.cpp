@@ -6,53 +6,10 @@
 
 namespace ZARN {
 
-namespace {
-
-constexpr double kUnit = 24; // what the shapes are drawn in
-
-QPolygonF shapeOf(EVerdict verdict)
-{
-    if (verdict == EVerdict::eWarning)
-        return QPolygonF({{12, 2}, {23, 22}, {1, 22}});
-    return QPolygonF({{8, 2}, {16, 2}, {22, 8}, {22, 16}, {16, 22}, {8, 22}, {2, 16}, {2, 8}});
-}
-
-void paintSign(QPainter& painter, EVerdict verdict)
-{
-    const QColor line = verdict == EVerdict::eWarning ? Qt::black : Qt::white;
-    painter.setPen(QPen(line, 2.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.setBrush(Qt::NoBrush);
-    if (verdict == EVerdict::eOk) {
-        painter.drawPolyline(QPolygonF({{7, 12.5}, {10.5, 16}, {17, 8.5}}));
-    } else if (verdict == EVerdict::eUnknown) {
-        QFont font = painter.font();
-        font.setPixelSize(16);
-        font.setBold(true);
-        painter.setFont(font);
-        painter.drawText(QRectF(0, 0, kUnit, kUnit), Qt::AlignCenter, "?");
-    } else {
-        const double down = verdict == EVerdict::eWarning ? 2 : 0;
-        painter.drawLine(QPointF(12, 7 + down), QPointF(12, 12.5 + down));
-        painter.drawPoint(QPointF(12, 16.8 + down));
-    }
-}
-
-} // namespace
-
 VerdictMark::VerdictMark(EVerdict verdict, double size, QWidget* pParent) : QWidget(pParent), mVerdict(verdict), mSize(size)
 {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setAttribute(Qt::WA_TransparentForMouseEvents);
-}
-
-QColor VerdictMark::colour(EVerdict verdict)
-{
-    switch (verdict) {
-    case EVerdict::eOk: return {0x1d, 0x80, 0x4f};
-    case EVerdict::eWarning: return {0xe8, 0xa2, 0x0c};
-    case EVerdict::eLimit: return {0xc4, 0x30, 0x1e};
-    default: return {0x5b, 0x6b, 0x7a};
-    }
 }
 
 QSize VerdictMark::sizeHint() const
@@ -64,15 +21,7 @@ QSize VerdictMark::sizeHint() const
 void VerdictMark::paintEvent(QPaintEvent* /*pEvent*/)
 {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.scale(width() / kUnit, height() / kUnit);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(colour(mVerdict));
-    if (mVerdict == EVerdict::eOk || mVerdict == EVerdict::eUnknown)
-        painter.drawEllipse(QRectF(1, 1, kUnit - 2, kUnit - 2));
-    else
-        painter.drawPolygon(shapeOf(mVerdict));
-    paintSign(painter, mVerdict);
+    VerdictSign::paint(painter, mVerdict, rect());
 }
 
 void VerdictMark::changeEvent(QEvent* pEvent)

@@ -145,7 +145,7 @@ void WidgetCycleCard::paintEvent(QPaintEvent* pEvent)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setClipRect(0, 0, kBar, height());
     painter.setPen(Qt::NoPen);
-    painter.setBrush(VerdictMark::colour(verdictOf(*mpCycle)));
+    painter.setBrush(VerdictSign::colour(verdictOf(*mpCycle)));
     painter.drawRoundedRect(QRectF(0, 0, 2 * kBar, height()), kBar, kBar);
 }
 

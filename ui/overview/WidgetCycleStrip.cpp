@@ -147,7 +147,7 @@ void WidgetCycleStrip::paintEvent(QPaintEvent* /*pEvent*/)
     for (const int state : {1, 2}) { // what is worse lies above
         for (const Incident& incident : mpCycle->review.incidents) {
             if (incident.state == state)
-                painter.fillRect(mark(incident), VerdictMark::colour(VerdictMark::ofState(state)));
+                painter.fillRect(mark(incident), VerdictSign::colour(VerdictSign::ofState(state)));
         }
     }
     paintLabels(painter);

@@ -45,7 +45,7 @@ WidgetIncidentRow::WidgetIncidentRow(int state, const QString& time, const QStri
     auto* pLayout = new QHBoxLayout(this);
     pLayout->setContentsMargins(8, 6, 8, 6);
     pLayout->setSpacing(10);
-    pLayout->addWidget(new VerdictMark(VerdictMark::ofState(state), kMarkSize), 0, Qt::AlignTop);
+    pLayout->addWidget(new VerdictMark(VerdictSign::ofState(state), kMarkSize), 0, Qt::AlignTop);
     pLayout->addWidget(mpTime, 0, Qt::AlignTop);
     pLayout->addLayout(pTexts, 1);
     giveRoom();

@@ -514,26 +514,33 @@ void TestDialogMain::failedExport()
 void TestDialogMain::report_data()
 {
     QTest::addColumn<bool>("fromGraph"); // or from the tow statistic
-    QTest::addColumn<bool>("isWritable");
-    QTest::newRow("graph") << true << true;
-    QTest::newRow("statistic") << false << true;
-    QTest::newRow("unwritable") << true << false;
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<int>("flight"); // 0: all of them
+    QTest::addColumn<QByteArray>("written"); // with that it begins, or holds it; without, it cannot be written
+    QTest::newRow("graph") << true << home() + "/report.pdf" << 1 << QByteArray("%PDF-");
+    QTest::newRow("other flight as HTML") << false << home() + "/report.html" << 2 << QByteArray(", power cycle 2, flight 2, ");
+    QTest::newRow("all flights") << false << home() + "/all.htm" << 0 << QByteArray(", power cycle 2, profile ");
+    QTest::newRow("unwritable") << true << QString("/proc/report.pdf") << 1 << QByteArray(); // where nobody can make a file
 }
 
 void TestDialogMain::report()
 {
     QFETCH(bool, fromGraph);
-    QFETCH(bool, isWritable);
+    QFETCH(QString, path);
+    QFETCH(int, flight);
+    QFETCH(QByteArray, written);
     DesktopFixture desktop(home(), {card().toStdString()});
     DialogMain& window = desktop.open();
     started(window);
     window.slotLoadCycle(2, 0);
     settled(window);
-    const QString path = isWritable ? home() + "/report.pdf" : QString("/proc/report.pdf"); // where nobody can make a file
     std::optional<Answer> told;
     Answer choose([&](QWidget* pModal) {
+        auto* pPart = pModal->findChild<QComboBox*>("part");
+        QCOMPARE(pPart->currentIndex(), 1); // the flight that is selected
+        pPart->setCurrentIndex(flight);
         Answer::choose(pModal, path);
-        if (!isWritable)
+        if (written.isEmpty())
             told.emplace(Answer::close);
     });
     if (fromGraph)
@@ -541,10 +548,11 @@ void TestDialogMain::report()
     else
         Q_EMIT window.findChild<DialogDataStatistic*>()->signalReport();
     QCOMPARE(choose.title, QString("Save Flight Report"));
-    if (isWritable) {
+    if (!written.isEmpty()) {
         QTRY_VERIFY(QFile::exists(path));
-        const std::string written = fileContent(path.toStdString());
-        QVERIFY(written.starts_with("%PDF-") && written.size() > 10000);
+        const std::string content = fileContent(path.toStdString());
+        QVERIFY(content.size() > 10000);
+        QVERIFY(content.find(written.toStdString()) != std::string::npos);
         QCOMPARE(desktop.property.getString("ReportDir", ""), home().toStdString());
     } else {
         QTRY_COMPARE(told->title, QString("ZARN Warning"));

@@ -78,7 +78,7 @@ void GraphAxes::drawValueAxis(Canvas& canvas, int index) const
 {
     const QRectF area = mLayout.area(index);
     const ValueSpan span = mModel.valueSpan(index);
-    const AxisTicks ticks(span[0], span[1], area.height(), GraphLayout::kValueSpacing * mLayout.line());
+    const AxisTicks ticks(span[0], span[1], area.height(), GraphLayout::valueSpacing(area.height(), mLayout.line()));
     std::vector<QPointF> major, fine;
     std::vector<GraphLabels::Label> labels;
     for (const AxisTick& tick : ticks.ticks()) {

@@ -152,7 +152,7 @@ double GraphLayout::axisWidth(const GraphModel& model, double height) const
     qsizetype longest = 4;
     const auto measure = [&](int index, double length) {
         const ValueSpan range = model.valueSpan(index);
-        const AxisTicks ticks(range[0], range[1], length, kValueSpacing * mLine);
+        const AxisTicks ticks(range[0], range[1], length, valueSpacing(length, mLine));
         for (const AxisTick& tick : ticks.ticks()) {
             if (tick.isMajor)
                 longest = std::max(longest, ticks.valueLabel(tick.value).size());

@@ -52,7 +52,8 @@ public:
     /// A name cut to what a line of the legend or the table shows.
     [[nodiscard]] static QString shortened(const QString& name, int length);
 
-    static constexpr double kValueSpacing = 1.8; ///< lines of text between labels of a value axis at least
+    /// Between labels of a value axis of that height at least; low strips need theirs closer to have any.
+    [[nodiscard]] static double valueSpacing(double height, double line) { return (height < 6 * line ? 1.2 : 1.8) * line; }
     static constexpr double kHandleX = 10.0;
     static constexpr double kSwatch = 10.0;        ///< of a trace's colour, before its name
     static constexpr double kHandleReach = 1500.0; ///< squared distance within which a handle is hit

@@ -19,8 +19,12 @@ void fillSlot(GraphModel& model, int slot, const Trace& trace, double from, doub
 {
     std::array<double, Trace::kRun> times;
     std::array<double, Trace::kRun> numbers;
-    model.traces().reserve(slot, trace.size());
-    trace.forEachRun([&](const TraceRun& run) {
+    const std::vector<PositionRange> ranges = trace.rangesIn(from, to);
+    std::size_t samples = 0;
+    for (const PositionRange& range : ranges)
+        samples += range.last - range.first;
+    model.traces().reserve(slot, samples);
+    const auto put = [&](const TraceRun& run) {
         std::size_t kept = 0;
         for (std::size_t i = 0; i < run.times.size(); ++i) {
             if (std::isnan(run.numbers[i]) || run.times[i] < from || run.times[i] > to)
@@ -29,7 +33,9 @@ void fillSlot(GraphModel& model, int slot, const Trace& trace, double from, doub
             numbers[kept++] = run.numbers[i];
         }
         model.putValues(slot, std::span(times).first(kept), std::span(numbers).first(kept));
-    });
+    };
+    for (const PositionRange& range : ranges)
+        trace.forEachRun(range, put);
 }
 
 } // namespace ZARN
