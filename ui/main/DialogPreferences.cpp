@@ -34,11 +34,16 @@ OpenStreet::TileServer tileServer(const Property& property)
     return OpenStreet::TileServer(QString::fromStdString(property.getString("TileServer", OpenStreet::TileServer::kDefault)));
 }
 
+QString localeOf(const Property& property)
+{
+    return QString::fromStdString(property.getString("Locale", "us"));
+}
+
 } // namespace
 
 DialogPreferences::DialogPreferences(const Session& session, Kernel& kernel, QWidget* pParent)
-    : QDialog(pParent), mSession(session), mKernel(kernel), mpList(new QListWidget), mpPages(new QStackedWidget),
-      mpLanguage(new QComboBox), mpFontSize(new QSpinBox), mpTiles(new QCheckBox(tr("Load map tiles from the network"))),
+    : QDialog(pParent), mSession(session), mKernel(kernel), mLocale(localeOf(session.property)), mpList(new QListWidget),
+      mpPages(new QStackedWidget), mpLanguage(new QComboBox), mpFontSize(new QSpinBox), mpTiles(new QCheckBox(tr("Load map tiles from the network"))),
       mpTileServer(new QLabel)
 {
     setWindowTitle(tr("Preferences"));
@@ -128,8 +133,7 @@ void DialogPreferences::addPage(const QString& name, const QString& icon, QWidge
 
 void DialogPreferences::fillDialog()
 {
-    const QString locale = QString::fromStdString(mSession.property.getString("Locale", "us"));
-    mpLanguage->setCurrentIndex(mpLanguage->findData(locale));
+    mpLanguage->setCurrentIndex(mpLanguage->findData(localeOf(mSession.property)));
     const QSignalBlocker blocker(mpFontSize);
     mpFontSize->setValue(Kernel::fontSize(mSession.property));
     fillTiles();
@@ -165,9 +169,13 @@ void DialogPreferences::slotTiles(bool isAllowed)
 
 void DialogPreferences::slotLanguage(const QString& locale)
 {
+    if (locale == localeOf(mSession.property))
+        return;
     mSession.property.setString("Locale", locale.toStdString());
     mSession.property.writeXmlFile();
     Q_EMIT signalLanguageChanged();
+    if (locale == mLocale)
+        return; // taken back before any restart
     QMessageBox box(QMessageBox::Information, tr("ZARN Info"), tr("Please restart ZARN to load new language !"), QMessageBox::NoButton, this);
     const QPushButton* pNow = box.addButton(tr("Restart now"), QMessageBox::AcceptRole);
     box.addButton(tr("Restart later: changes will not applied until next restart"), QMessageBox::RejectRole);
