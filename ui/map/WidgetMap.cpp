@@ -12,6 +12,7 @@
 #include "vesk/gl/Device.h"
 
 #include <QApplication>
+#include <QFontInfo>
 #include <QResizeEvent>
 
 #include <cmath>
@@ -149,6 +150,15 @@ void WidgetMap::initializeGL()
 {
     if (!mIsInitialised)
         init();
+}
+
+void WidgetMap::changeEvent(QEvent* pEvent)
+{
+    QWidget::changeEvent(pEvent);
+    if (pEvent->type() != QEvent::FontChange && pEvent->type() != QEvent::StyleChange)
+        return;
+    mScene.setTextSize(QFontInfo(font()).pixelSize() - 1.0);
+    mIsDirty = true;
 }
 
 void WidgetMap::resizeEvent(QResizeEvent* pEvent)
