@@ -62,6 +62,7 @@ private:
 
     Session mSession;
     Kernel& mKernel;
+    QString mLocale; ///< the one that the program was started in
     QListWidget* mpList;
     QStackedWidget* mpPages;
     QComboBox* mpLanguage;

@@ -13,6 +13,7 @@
 #include "vesk/base/Timer.h"
 #include "vesk/gl/Device.h"
 
+#include <QFontInfo>
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QNativeGestureEvent>
@@ -159,6 +160,15 @@ void WidgetMap::initializeGL()
 {
     if (!mIsInitialised)
         init();
+}
+
+void WidgetMap::changeEvent(QEvent* pEvent)
+{
+    QWidget::changeEvent(pEvent);
+    if (pEvent->type() != QEvent::FontChange && pEvent->type() != QEvent::StyleChange)
+        return;
+    mScene.setTextSize(QFontInfo(font()).pixelSize() - 1.0);
+    mIsDirty = true;
 }
 
 void WidgetMap::resizeEvent(QResizeEvent* pEvent)

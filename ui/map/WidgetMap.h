@@ -76,6 +76,7 @@ protected:
     void paintGL(Canvas& canvas);
     void paintAbove(Canvas& canvas);
     void resizeGL(int width, int height);
+    void changeEvent(QEvent* pEvent) override;
     void resizeEvent(QResizeEvent* pEvent) override;
     void keyPressEvent(QKeyEvent* pEvent) override;
     void mousePressEvent(QMouseEvent* pEvent) override;

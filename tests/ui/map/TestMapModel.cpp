@@ -79,6 +79,7 @@ private Q_SLOTS:
     void eventsOnThePath();
     void scaleBar_data();
     void scaleBar();
+    void note();
     void picture();
     void graticule();
 };
@@ -317,6 +318,25 @@ void TestMapModel::scaleBar()
     QTEST(bar.text, "text");
     QFETCH(double, pixels);
     QVERIFY(std::fabs(bar.pixels - pixels) < 1e-6);
+}
+
+void TestMapModel::note()
+{
+    OpenStreet::Camera camera;
+    camera.setWindowSize(200, 400);
+    MapScene scene;
+    scene.setNote("tiles.example.org: Verbindung verweigert, " + QString(60, 'x') + " usw.");
+    Test::RecordingCanvas canvas;
+    scene.drawScaleBar(canvas, camera);
+    QString words;
+    double bottom = 0.0;
+    canvas.texts.erase(canvas.texts.begin()); // the bar's
+    for (const auto& [box, line] : canvas.texts) {
+        QVERIFY(box.top() >= bottom && box.right() <= 200.0);
+        bottom = box.bottom() - 0.5;
+        words += line;
+    }
+    QCOMPARE(words.remove(' '), "tiles.example.org:Verbindungverweigert," + QString(60, 'x') + "usw.");
 }
 
 void TestMapModel::picture()

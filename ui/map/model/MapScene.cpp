@@ -23,6 +23,7 @@ constexpr double kMetresPerMile = 1852.0;
 constexpr double kMetresPerFoot = 0.3048;
 constexpr int kCorners = 12; // of a dot
 constexpr std::size_t kMostDots = 4000;
+constexpr double kTextAboveBar = 7.0;
 constexpr int kDotCell = 2; // pixels: dots that lie closer together are one
 
 void addDisc(std::vector<QPointF>& triangles, std::span<const QPointF> shape, const QPointF& middle)
@@ -36,12 +37,20 @@ QString length(double amount, const char* unit)
     return QString(QLatin1String("%1 %2")).arg(amount, 0, 'g', 6).arg(QLatin1String(unit));
 }
 
-/// The text, or as much of it as is not wider than that; characters are all of one width.
-QString elided(const Canvas& canvas, const QString& text, double textSize, double width)
+/// The text in lines of at most so many characters, broken at blanks, and within a word that is longer.
+QStringList inLines(const QString& text, qsizetype most)
 {
-    const double character = canvas.textSize(QStringLiteral("x"), {.size = textSize}).width();
-    const auto most = std::max<qsizetype>(saturatingCast<int>(width / character), 1);
-    return text.size() <= most ? text : text.left(most - 1) + QChar(0x2026);
+    QStringList lines{QString()};
+    for (QString word : text.split(QLatin1Char(' '))) {
+        if (!lines.back().isEmpty() && lines.back().size() + 1 + word.size() > most)
+            lines.append(QString());
+        else if (!lines.back().isEmpty())
+            lines.back() += QLatin1Char(' ');
+        for (; word.size() > most; word = word.mid(most))
+            lines.insert(lines.size() - 1, word.left(most));
+        lines.back() += word;
+    }
+    return lines;
 }
 
 } // namespace
@@ -89,7 +98,7 @@ void MapScene::drawGround(Canvas& canvas, const OpenStreet::Camera& camera) cons
     if (mHasGraticule) // the labels keep clear of the scale bar
         Graticule(camera, mStyle.gridSpacing)
             .draw(canvas, {mStyle.colours.grid, mStyle.gridWidth}, style,
-                  camera.height() - std::ceil(kMargin + 7.0 + 1.35 * mStyle.textSize));
+                  camera.height() - std::ceil(kMargin + kTextAboveBar + labelHeight()));
     drawPath(canvas);
     drawEvents(canvas, camera);
 }
@@ -161,14 +170,26 @@ void MapScene::drawScaleBar(Canvas& canvas, const OpenStreet::Camera& camera) co
     const bool isNarrow = bar.pixels + mCorner.width() + 3.0 * kMargin > camera.width(); // no room beside what stands in the corner
     const double bottom = camera.height() - kMargin - (isNarrow ? mCorner.height() + 4.0 : 0.0);
     const double right = kMargin + bar.pixels;
-    drawLabel(canvas, {kMargin, bottom - 7.0}, bar.text, Qt::AlignLeft | Qt::AlignBottom, mStyle.textSize);
+    drawLabel(canvas, {kMargin, bottom - kTextAboveBar}, bar.text, Qt::AlignLeft | Qt::AlignBottom, mStyle.textSize);
     canvas.fillRect({kMargin, bottom - 5.0, bar.pixels, 5.0}, mStyle.colours.textGround);
     canvas.fillRect({kMargin, bottom - 2.0, bar.pixels, 2.0}, mStyle.colours.text);
     canvas.fillRect({kMargin, bottom - 5.0, 2.0, 5.0}, mStyle.colours.text);
     canvas.fillRect({right - 2.0, bottom - 5.0, 2.0, 5.0}, mStyle.colours.text);
-    if (!mNote.isEmpty())
-        drawLabel(canvas, {kMargin, std::min(bottom - 28.0, camera.height() - mCorner.height() - 2.0 * kMargin)},
-                  elided(canvas, mNote, mStyle.textSize, camera.width() - 2.0 * kMargin), Qt::AlignLeft | Qt::AlignBottom, mStyle.textSize);
+    drawNote(canvas, camera, std::min(bottom - kTextAboveBar - labelHeight() - 6.0, camera.height() - mCorner.height() - 2.0 * kMargin));
+}
+
+void MapScene::drawNote(Canvas& canvas, const OpenStreet::Camera& camera, double bottom) const
+{
+    if (mNote.isEmpty())
+        return;
+    // Characters are all of one width.
+    const double characters = (camera.width() - 2.0 * kMargin) / canvas.textSize(QStringLiteral("x"), {.size = mStyle.textSize}).width();
+    const QStringList lines = inLines(mNote, std::max<qsizetype>(saturatingCast<int>(characters), 1));
+    double y = bottom - labelHeight() * static_cast<double>(lines.size() - 1);
+    for (const QString& line : lines) {
+        drawLabel(canvas, {kMargin, y}, line, Qt::AlignLeft | Qt::AlignBottom, mStyle.textSize);
+        y += labelHeight();
+    }
 }
 
 void MapScene::drawLabel(Canvas& canvas, const QPointF& position, const QString& text, Qt::Alignment align, double textSize) const

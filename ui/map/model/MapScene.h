@@ -30,10 +30,12 @@ public:
     [[nodiscard]] const PathGeometry& geometry() const { return mGeometry; }
     void setAircraft(const FlightPathPoint& point) { mAircraft = point; }
     [[nodiscard]] const FlightPathPoint& aircraft() const { return mAircraft; }
+    /// The size of labels in pixels.
+    void setTextSize(double size) { mStyle.textSize = size; }
     void setImperial(bool on) { mIsImperial = on; }
     /// Lines of latitude and longitude, for a map that shows little else.
     void setGraticule(bool on) { mHasGraticule = on; }
-    /// A line for people above the scale bar, for example that the server does not answer; empty for none. @return whether it is another one.
+    /// Words for people above the scale bar, for example that the server does not answer; empty for none. @return whether it is another one.
     bool setNote(const QString& note);
     /// A word in the middle about what cannot be shown; empty for none.
     void setMessage(const QString& message) { mMessage = message; }
@@ -54,6 +56,8 @@ private:
     void drawPath(Canvas& canvas) const;
     void drawEvents(Canvas& canvas, const OpenStreet::Camera& camera) const;
     void drawAircraft(Canvas& canvas, const OpenStreet::Camera& camera) const;
+    void drawNote(Canvas& canvas, const OpenStreet::Camera& camera, double bottom) const;
+    [[nodiscard]] double labelHeight() const { return 1.35 * mStyle.textSize; }
     void drawLabel(Canvas& canvas, const QPointF& position, const QString& text, Qt::Alignment align, double textSize) const;
 
     MapStyle mStyle;
