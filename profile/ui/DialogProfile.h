@@ -5,7 +5,11 @@
 #include <QSet>
 #include <QWidget>
 
+#include <optional>
+#include <set>
+
 class QAction;
+class QCheckBox;
 class QLabel;
 class QLineEdit;
 class QTreeView;
@@ -27,6 +31,10 @@ public:
     void updateProfile();
     /// Applies the project's names to the profile and shows them: after the project was cleared. Emits nothing.
     void updateProject();
+    /// Which parameters the loaded data hold samples of, by identifier; none while nothing is loaded.
+    void setRecorded(std::optional<std::set<uint32_t>> identifiers);
+    /// Puts a widget above everything; owns it from then on.
+    void setHead(QWidget* pHead);
 
 Q_SIGNALS:
     /// The user changed which parameters are shown.
@@ -35,6 +43,7 @@ Q_SIGNALS:
 private Q_SLOTS:
     void slotSelectionChanged();
     void slotFilter(const QString& text);
+    void slotOnlyRecorded(bool on);
     void slotCount();
     void slotCurrentChanged();
     void slotOnlyDevice();
@@ -45,6 +54,7 @@ protected:
 
 private:
     void fitNames();
+    void nameActions();
     void createTree();
     void createActions();
     QAction* addAction(const QString& name, const QString& text);
@@ -55,6 +65,7 @@ private:
     ProfileTreeModel* mpModel;
     ProfileFilterModel* mpFilter;
     QLineEdit* mpSearch;
+    QCheckBox* mpOnlyRecorded;
     QTreeView* mpTree;
     QLabel* mpCount;
     QAction* mpSelectAll = nullptr;

@@ -110,6 +110,11 @@ void ProfileTreeModel::selectOnly(const QModelIndex& index)
     finishAct(changed);
 }
 
+uint32_t ProfileTreeModel::identifier(const QModelIndex& parameter) const
+{
+    return mDevices[parameter.internalId() - 1].parameters[static_cast<std::size_t>(parameter.row())].identifier.toUInt();
+}
+
 int ProfileTreeModel::selectedCount() const
 {
     std::ptrdiff_t count = 0;

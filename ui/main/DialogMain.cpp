@@ -18,6 +18,7 @@
 #include "ui/main/DialogHelp.h"
 #include "ui/main/DialogPreferences.h"
 #include "ui/main/ExportController.h"
+#include "ui/main/LayoutController.h"
 #include "ui/main/MainActions.h"
 #include "ui/main/Notices.h"
 #include "ui/main/OverviewController.h"
@@ -71,6 +72,7 @@ DialogMain::DialogMain(const Session& session, const Desktop& desktop)
     openToolBarsToKeys();
     createStatusBar();
     createControllers();
+    createLayouts();
     connectPanels();
     setWindowIcon(ImageHandler::icon("zarn"));
     startTimers();
@@ -276,12 +278,28 @@ void DialogMain::createControllers()
     mpPreferences = new DialogPreferences(mSession, mDesktop.kernel, this);
 }
 
+void DialogMain::createLayouts()
+{
+    const QString file = QString::fromStdString(mDesktop.folders.dataPath() + '/' + LayoutStore::kFileName);
+    mpLayouts = std::make_unique<LayoutStore>(mSession.console, file, QString::fromStdString(mSession.property.getString("Locale", "us")));
+    mpNotices->watch(mpLayouts->file(), Notices::eLayouts, tr("Layouts cannot be saved"));
+    if (mpLayouts->isUnread())
+        mpNotices->setProblem(Notices::eLayouts, tr("Layouts unreadable"), file);
+    auto* pBar = new LayoutBar;
+    mpProfile->setHead(pBar);
+    mpLayoutController = new LayoutController(mSession, *mpLayouts, *pBar, *mpData, this);
+    connect(mpLayoutController, &LayoutController::signalChosen, mpProfile, &DialogProfile::updateProfile);
+    connect(mpLayoutController, &LayoutController::signalChosen, this, &DialogMain::slotCanChanged);
+    connect(mpLayoutController, &LayoutController::signalChosen, this, qOverload<>(&DialogMain::slotProfileChanged));
+}
+
 void DialogMain::connectPanels()
 {
     connect(mpProfile, &DialogProfile::signalChanged, this, &DialogMain::slotCanChanged);
     connect(mpProfile, &DialogProfile::signalChanged, this, qOverload<>(&DialogMain::slotProfileChanged));
     connect(mpCard, &DialogCard::signalLoadRecord, this, &DialogMain::slotLoadRecord);
     connect(mpCard, &DialogCard::signalLoadCycle, this, &DialogMain::slotLoadCycle);
+    connect(&mRecord, &RecordSession::recordChanged, this, &DialogMain::showRecorded);
     connect(mpProfileInfo, &DialogProfileInfo::signalProfileChanged, this, &DialogMain::slotProfileInstalled);
     connect(mpPreferences, &DialogPreferences::signalProfileFileChanged, this, &DialogMain::slotProfileFileChanged);
     connect(mpPreferences, &DialogPreferences::signalTilesChanged, mpData, &DialogData::updateSettings);

@@ -31,6 +31,8 @@ class DialogPreferences;
 class DialogProfile;
 class ExportController;
 class OverviewController;
+class LayoutController;
+class LayoutStore;
 class Notices;
 class ProfileCatalogue;
 class ProfileController;
@@ -116,6 +118,7 @@ private:
     void connectPanels();
     void startTimers();
     void createNotices();
+    void createLayouts();
     void addMorePaths();
     void addUnits();
     void restoreCard();
@@ -127,6 +130,8 @@ private:
     void showLoaded();
     /// What needs loaded data is offered while there are some.
     void updateExports();
+    /// Tells the profile panel what the loaded data hold.
+    void showRecorded();
     void showInformation(int id);
     bool cleanup();
 
@@ -162,6 +167,8 @@ private:
     ProjectController* mpProjectController = nullptr;
     ExportController* mpExportController = nullptr;
     OverviewController* mpOverview = nullptr;
+    std::unique_ptr<LayoutStore> mpLayouts;
+    LayoutController* mpLayoutController = nullptr;
     QString mStyleFile;
     QDateTime mStyleTime; ///< of the style file as it was last applied
     QTimer mStartTimer;

@@ -6,6 +6,7 @@
 #include "app/Property.h"
 #include "app/gui/Kernel.h"
 #include "card/CardContainer.h"
+#include "card/record/RecordData.h"
 #include "card/record/RecordFormats.h"
 #include "profile/ui/DialogProfile.h"
 #include "profile/ui/DialogProfileInfo.h"
@@ -19,6 +20,7 @@
 #include "ui/main/DialogMain.h"
 #include "ui/main/DialogPreferences.h"
 #include "ui/main/ExportController.h"
+#include "ui/main/LayoutController.h"
 #include "ui/main/MainActions.h"
 #include "ui/main/Notices.h"
 #include "ui/main/OverviewController.h"
@@ -119,6 +121,7 @@ void DialogMain::loadProfile()
     mpProfileInfo->setProfileFile(mpProfileController->file(), mpProfileController->isChosenFile());
     mpProfileInfo->fillProfileInfo();
     mpProfile->updateProfile();
+    mpLayoutController->setProfile(mpProfileController->file(), QString::fromStdString(mDesktop.folders.resourcePath()));
     mpCardController->recalculate(); // flights and their statistic are decoded by the profile
     mRecord.changeProfile();
 }
@@ -156,6 +159,7 @@ void DialogMain::openFolder(const QString& path)
 void DialogMain::slotProfileChanged()
 {
     mRecord.changeSelection();
+    mpLayoutController->update();
 }
 
 void DialogMain::slotProfileChanged(const QString& name)
@@ -237,6 +241,16 @@ void DialogMain::updateExports()
         action(id)->setEnabled(mpCardController->hasData());
 }
 
+void DialogMain::showRecorded()
+{
+    if (!mRecord.record())
+        return mpProfile->setRecorded({});
+    std::set<uint32_t> identifiers;
+    for (const auto& [identifier, channel] : mRecord.record()->channels())
+        identifiers.insert(identifier);
+    mpProfile->setRecorded(std::move(identifiers));
+}
+
 void DialogMain::slotDataChanging()
 {
     mRecord.clearRecord();
@@ -282,6 +296,8 @@ void DialogMain::slotTimeout()
     restoreCard();
     if (!mDesktop.withDefaults)
         mpProjectController->restoreProject();
+    // The reduced display offers no other one.
+    mpLayoutController->restore(!mEmu && !QFileInfo::exists(mpProjectController->lastPath()));
     if (mSession.project.file().isUnread(mpProjectController->lastPath()))
         mpNotices->setProblem(Notices::eProject, tr("Project unreadable"), mpProjectController->lastPath());
     mpProfile->updateProfile();

@@ -13,7 +13,7 @@
 namespace ZARN {
 
 DialogOverview::DialogOverview(const Session& session, QWidget* pParent)
-    : QScrollArea(pParent), mSession(session), mReviewer(session), mpCardText(new QLabel), mpProgress(new QProgressBar), mpEmpty(new QLabel),
+    : QScrollArea(pParent), mSession(session), mReviewer(session), mpCardText(new QLabel), mpProgress(new QProgressBar), mpEmpty(new QLabel), mpGone(new QLabel),
       mpCards(new QVBoxLayout)
 {
     setObjectName("overview");
@@ -29,8 +29,8 @@ DialogOverview::DialogOverview(const Session& session, QWidget* pParent)
     auto* pHeading = new Heading(tr("Was the engine all right?"));
     pHeading->setWordWrap(true);
     pLayout->addWidget(pHeading);
-    for (QLabel* pLabel : {mpCardText, mpEmpty}) {
-        pLabel->setObjectName("quiet");
+    for (QLabel* pLabel : {mpCardText, mpEmpty, mpGone}) {
+        pLabel->setObjectName(pLabel == mpGone ? "warning" : "quiet");
         pLabel->setTextFormat(Qt::PlainText);
         pLabel->setWordWrap(true);
         pLayout->addWidget(pLabel);
@@ -44,6 +44,7 @@ DialogOverview::DialogOverview(const Session& session, QWidget* pParent)
     connect(&mReviewer, &CardReviewer::signalReviewed, this, &DialogOverview::addCycle);
     connect(&mReviewer, &CardReviewer::signalProgress, mpProgress, &QProgressBar::setValue);
     connect(&mReviewer, &CardReviewer::signalFinished, this, &DialogOverview::finish);
+    connect(&mReviewer, &CardReviewer::signalGone, this, &DialogOverview::tellGone);
 }
 
 void DialogOverview::reset()
@@ -62,6 +63,7 @@ void DialogOverview::begin()
     const bool isEmpty = mSession.container.recordCycles().empty();
     mpEmpty->setText(isEmpty ? tr("This card holds no power cycle.") : QString());
     mpEmpty->setVisible(isEmpty);
+    mpGone->hide();
     mpProgress->setVisible(!isEmpty);
     mpProgress->setValue(0);
     if (!isEmpty)
@@ -98,6 +100,15 @@ void DialogOverview::addCycle(std::shared_ptr<const CycleOverview> pCycle)
 void DialogOverview::finish()
 {
     mpProgress->hide();
+}
+
+void DialogOverview::tellGone()
+{
+    finish();
+    mpGone->setText(mCards.empty() ? tr("The card cannot be read any more. Was it removed? Open it again to review it.")
+                                    : tr("The card cannot be read any more. Was it removed? What was reviewed before is told below; open the "
+                                         "card again for the rest."));
+    mpGone->show();
 }
 
 void DialogOverview::chooseNewest()

@@ -40,6 +40,7 @@ private:
     void begin();
     void addCycle(std::shared_ptr<const CycleOverview> pCycle);
     void finish();
+    void tellGone();
     [[nodiscard]] QString cardText() const;
 
     Session mSession;
@@ -47,6 +48,7 @@ private:
     QLabel* mpCardText;
     QProgressBar* mpProgress;
     QLabel* mpEmpty;
+    QLabel* mpGone; ///< what is told when the card is there no more
     QVBoxLayout* mpCards;
     std::vector<WidgetCycleCard*> mCards;
     bool mIsOld = false; ///< to be made anew when it is seen

@@ -32,11 +32,6 @@ QLabel* makeLabel(QLabel* pLabel, const QString& name)
     return pLabel;
 }
 
-EVerdict verdictOf(const CycleOverview& cycle)
-{
-    return cycle.problem.isEmpty() ? cycle.review.verdict : EVerdict::eUnknown;
-}
-
 } // namespace
 
 WidgetCycleCard::WidgetCycleCard(std::shared_ptr<const CycleOverview> pCycle, QWidget* pParent) : QFrame(pParent), mpCycle(std::move(pCycle))
@@ -68,7 +63,7 @@ QBoxLayout* WidgetCycleCard::createHead()
     pTexts->addWidget(makeLabel(new QLabel(OverviewTexts::origin(*mpCycle)), "quiet"));
     auto* pVerdict = new QHBoxLayout;
     pVerdict->setSpacing(12);
-    pVerdict->addWidget(new VerdictMark(verdictOf(*mpCycle), kMarkSize), 0, Qt::AlignTop);
+    pVerdict->addWidget(new VerdictMark(mpCycle->verdict(), kMarkSize), 0, Qt::AlignTop);
     pVerdict->addLayout(pTexts, 1);
     mpHead = new QBoxLayout(QBoxLayout::LeftToRight);
     mpHead->setSpacing(8);
@@ -145,7 +140,7 @@ void WidgetCycleCard::paintEvent(QPaintEvent* pEvent)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setClipRect(0, 0, kBar, height());
     painter.setPen(Qt::NoPen);
-    painter.setBrush(VerdictMark::colour(verdictOf(*mpCycle)));
+    painter.setBrush(VerdictMark::colour(mpCycle->verdict()));
     painter.drawRoundedRect(QRectF(0, 0, 2 * kBar, height()), kBar, kBar);
 }
 

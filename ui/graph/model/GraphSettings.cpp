@@ -36,35 +36,56 @@ void GraphSettings::store(const GraphModel& model)
     const bool clickMovesCursor = model.settings().clickMovesCursor;
     bool isChanged = clickMovesCursor != mProperty.getSwitch(kClickMovesCursor, false);
     mProperty.setSwitch(kClickMovesCursor, clickMovesCursor);
-    for (const int slot : model.traces().shown())
-        isChanged = storeColour(slot, *model.traces().at(slot)) || isChanged;
+    for (const int slot : model.traces().shown()) {
+        const GraphParameter& trace = *model.traces().at(slot);
+        const std::string name = trace.name.toStdString();
+        isChanged |= trace.hasOwnColour ? setColour(colourNumber(slot, trace.name), trace.colour.name().toStdString(), name)
+                                        : setColour(colourNumber(slot, trace.name), {}, {});
+    }
     if (isChanged)
         mProperty.writeXmlFile();
 }
 
-int GraphSettings::colourNumber(int slot, const QString& name) const
+std::string GraphSettings::colour(const std::string& name) const
 {
-    const std::string wanted = name.toStdString();
-    for (int number = 0; number < kMostColours && !wanted.empty(); ++number) {
-        if (mProperty.getString(ownerKey(number), "") == wanted)
+    const std::optional<int> number = ownNumber(name);
+    return number ? mProperty.getString(colourKey(*number), "") : std::string();
+}
+
+bool GraphSettings::setColour(const std::string& name, const std::string& colour)
+{
+    return setColour(ownNumber(name).value_or(freeNumber()), colour, name);
+}
+
+std::optional<int> GraphSettings::ownNumber(const std::string& name) const
+{
+    for (int number = 0; number < kMostColours && !name.empty(); ++number) {
+        if (mProperty.getString(ownerKey(number), "") == name)
             return number;
     }
-    if (mProperty.getString(ownerKey(slot), "").empty()) // one without an owner is the slot's
-        return slot;
+    return std::nullopt;
+}
+
+int GraphSettings::colourNumber(int slot, const QString& name) const
+{
+    if (const std::optional<int> number = ownNumber(name.toStdString()))
+        return *number;
+    return mProperty.getString(ownerKey(slot), "").empty() ? slot : freeNumber(); // one without an owner is the slot's
+}
+
+int GraphSettings::freeNumber() const
+{
     int number = 0;
     while (number < kMostColours && !mProperty.getString(colourKey(number), "").empty())
         ++number;
     return number;
 }
 
-bool GraphSettings::storeColour(int slot, const GraphParameter& trace)
+bool GraphSettings::setColour(int number, const std::string& colour, const std::string& owner)
 {
-    const int number = colourNumber(slot, trace.name);
-    const std::string value = trace.hasOwnColour ? trace.colour.name().toStdString() : std::string();
-    const std::string owner = trace.hasOwnColour ? trace.name.toStdString() : std::string();
-    if (value == mProperty.getString(colourKey(number), "") && owner == mProperty.getString(ownerKey(number), ""))
+    if (colour == mProperty.getString(colourKey(number), "") && owner == mProperty.getString(ownerKey(number), ""))
         return false;
-    mProperty.setString(colourKey(number), value);
+    mProperty.setString(colourKey(number), colour);
     mProperty.setString(ownerKey(number), owner);
     return true;
 }

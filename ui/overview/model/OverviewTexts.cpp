@@ -19,9 +19,9 @@ QString OverviewTexts::verdict(const CycleOverview& cycle)
 {
     if (!cycle.problem.isEmpty())
         return tr("This cycle could not be read");
-    if (cycle.review.verdict == EVerdict::eOk)
+    if (cycle.verdict() == EVerdict::eOk)
         return tr("Nothing outside its limits while the engine ran");
-    if (cycle.review.verdict == EVerdict::eUnknown)
+    if (cycle.verdict() == EVerdict::eUnknown)
         return tr("Cannot tell whether the engine was all right");
     return troubles(cycle);
 }
@@ -98,7 +98,8 @@ QString OverviewTexts::basis(const CycleOverview& cycle)
     if (!cycle.problem.isEmpty())
         return cycle.problem;
     const ReviewText text(cycle.review);
-    QStringList lines = text.gaps();
+    QStringList lines = cycle.damages;
+    lines.append(text.gaps());
     if (cycle.review.sources > 0)
         lines.append(text.watched() + ".");
     if (const QString standing = text.standing(); !standing.isEmpty())
