@@ -13,7 +13,7 @@
 namespace ZARN {
 
 DialogOverview::DialogOverview(const Session& session, QWidget* pParent)
-    : QScrollArea(pParent), mSession(session), mReviewer(session), mpCardText(new QLabel), mpProgress(new QProgressBar), mpEmpty(new QLabel), mpGone(new QLabel),
+    : QScrollArea(pParent), mSession(session), mReviewer(session), mpCardText(new QLabel), mpProgress(new QProgressBar), mpEmpty(new QLabel), mpStopped(new QLabel),
       mpCards(new QVBoxLayout)
 {
     setObjectName("overview");
@@ -29,8 +29,8 @@ DialogOverview::DialogOverview(const Session& session, QWidget* pParent)
     auto* pHeading = new Heading(tr("Was the engine all right?"));
     pHeading->setWordWrap(true);
     pLayout->addWidget(pHeading);
-    for (QLabel* pLabel : {mpCardText, mpEmpty, mpGone}) {
-        pLabel->setObjectName(pLabel == mpGone ? "warning" : "quiet");
+    for (QLabel* pLabel : {mpCardText, mpEmpty, mpStopped}) {
+        pLabel->setObjectName(pLabel == mpStopped ? "warning" : "quiet");
         pLabel->setTextFormat(Qt::PlainText);
         pLabel->setWordWrap(true);
         pLayout->addWidget(pLabel);
@@ -41,15 +41,21 @@ DialogOverview::DialogOverview(const Session& session, QWidget* pParent)
     pLayout->addLayout(mpCards);
     pLayout->addStretch();
     setWidget(pPage);
-    connect(&mReviewer, &CardReviewer::signalReviewed, this, &DialogOverview::addCycle);
+    connect(&mReviewer, &CardReviewer::signalReviewed, this, [this](std::shared_ptr<const CycleOverview> pCycle) {
+        mPending.push_back(std::move(pCycle));
+        mAddTimer.start();
+    });
+    connect(&mAddTimer, &QTimer::timeout, this, &DialogOverview::addNext);
     connect(&mReviewer, &CardReviewer::signalProgress, mpProgress, &QProgressBar::setValue);
-    connect(&mReviewer, &CardReviewer::signalFinished, this, &DialogOverview::finish);
-    connect(&mReviewer, &CardReviewer::signalGone, this, &DialogOverview::tellGone);
+    connect(&mReviewer, &CardReviewer::signalFinished, &mAddTimer, qOverload<>(&QTimer::start));
+    connect(&mReviewer, &CardReviewer::signalStopped, this, &DialogOverview::tellStopped);
 }
 
 void DialogOverview::reset()
 {
     mReviewer.stop();
+    mPending.clear();
+    mIsNewestWanted = false;
     for (WidgetCycleCard* pCard : std::exchange(mCards, {}))
         pCard->deleteLater();
     mIsOld = !isVisible();
@@ -63,7 +69,7 @@ void DialogOverview::begin()
     const bool isEmpty = mSession.container.recordCycles().empty();
     mpEmpty->setText(isEmpty ? tr("This card holds no power cycle.") : QString());
     mpEmpty->setVisible(isEmpty);
-    mpGone->hide();
+    mpStopped->hide();
     mpProgress->setVisible(!isEmpty);
     mpProgress->setValue(0);
     if (!isEmpty)
@@ -88,38 +94,53 @@ QString DialogOverview::cardText() const
     return parts.join(", ") + ". " + tr("Times since the unit's power-up.");
 }
 
-void DialogOverview::addCycle(std::shared_ptr<const CycleOverview> pCycle)
+/// One in each turn of the event loop: the page needs some to take its new height, and would be drawn too low until then.
+void DialogOverview::addNext()
 {
-    auto* pCard = new WidgetCycleCard(std::move(pCycle));
+    if (mPending.empty()) {
+        mAddTimer.stop();
+        if (!mReviewer.isRunning())
+            finish();
+        return;
+    }
+    auto* pCard = new WidgetCycleCard(std::move(mPending.front()));
+    mPending.pop_front();
     connect(pCard, &WidgetCycleCard::signalFlight, this, &DialogOverview::signalFlight);
     connect(pCard, &WidgetCycleCard::signalIncident, this, &DialogOverview::signalIncident);
     mCards.push_back(pCard);
     mpCards->addWidget(pCard);
+    if (mIsNewestWanted && !pCard->cycle().flights.empty())
+        chooseNewest();
 }
 
 void DialogOverview::finish()
 {
     mpProgress->hide();
+    if (std::exchange(mIsNewestWanted, false))
+        chooseNewest();
 }
 
-void DialogOverview::tellGone()
+void DialogOverview::tellStopped(const QString& problem)
 {
-    finish();
-    mpGone->setText(mCards.empty() ? tr("The card cannot be read any more. Was it removed? Open it again to review it.")
-                                    : tr("The card cannot be read any more. Was it removed? What was reviewed before is told below; open the "
-                                         "card again for the rest."));
-    mpGone->show();
+    const bool hasSome = !mCards.empty() || !mPending.empty();
+    const QString why = problem.isEmpty() ? tr("The card cannot be read any more. Was it removed?") : problem;
+    mpStopped->setText(why + ' ' + (hasSome ? tr("What was reviewed before is told below; open the card again for the rest.")
+                                            : tr("Open it again to review it.")));
+    mpStopped->show();
+    mAddTimer.start();
 }
 
 void DialogOverview::chooseNewest()
 {
     for (const WidgetCycleCard* pCard : mCards) {
         if (const auto flights = static_cast<int>(pCard->cycle().flights.size()); flights > 0) {
+            mIsNewestWanted = false;
             Q_EMIT signalFlight(pCard->number(), flights - 1);
             return;
         }
     }
-    if (!mCards.empty())
+    mIsNewestWanted = mReviewer.isRunning() || !mPending.empty(); // it may still come
+    if (!mIsNewestWanted && !mCards.empty())
         Q_EMIT signalFlight(mCards.front()->number(), -1);
 }
 
@@ -128,6 +149,12 @@ void DialogOverview::showEvent(QShowEvent* pEvent)
     QScrollArea::showEvent(pEvent);
     if (std::exchange(mIsOld, false))
         begin();
+}
+
+void DialogOverview::hideEvent(QHideEvent* pEvent)
+{
+    mIsNewestWanted = false; // the user went elsewhere
+    QScrollArea::hideEvent(pEvent);
 }
 
 void DialogOverview::keyPressEvent(QKeyEvent* pEvent)

@@ -1,6 +1,7 @@
 #include "ui/overview/WidgetCycleCard.h"
 
 #include "app/gui/Heading.h"
+#include "ui/overview/FlowLayout.h"
 #include "ui/overview/VerdictMark.h"
 #include "ui/overview/WidgetCycleStrip.h"
 #include "ui/overview/WidgetIncidentRow.h"
@@ -22,6 +23,7 @@ constexpr double kFigureSize = 1.3;
 constexpr int kWide = 58; // times the text: from here on the figures have room beside the verdict
 constexpr int kBar = 6;   // pixels of the verdict's colour at the left
 constexpr std::size_t kRowsShown = 50;
+constexpr int kFlightsShown = 24; // the strip has all
 
 QLabel* makeLabel(QLabel* pLabel, const QString& name)
 {
@@ -74,18 +76,18 @@ QBoxLayout* WidgetCycleCard::createHead()
 
 QLayout* WidgetCycleCard::createFigures() const
 {
-    auto* pFigures = new QHBoxLayout;
-    pFigures->setSpacing(22);
+    auto* pFigures = new FlowLayout(22);
     for (const OverviewTexts::Figure& figure : OverviewTexts::figures(*mpCycle)) {
-        auto* pColumn = new QVBoxLayout;
+        auto* pFigure = new QWidget;
+        auto* pColumn = new QVBoxLayout(pFigure);
+        pColumn->setContentsMargins(0, 0, 0, 0);
         pColumn->setSpacing(1);
         for (QLabel* pLabel : {makeLabel(new Heading(figure.value, nullptr, kFigureSize), "heading"), makeLabel(new QLabel(figure.name), "quiet")}) {
             pLabel->setWordWrap(false);
             pColumn->addWidget(pLabel);
         }
-        pFigures->addLayout(pColumn);
+        pFigures->addWidget(pFigure);
     }
-    pFigures->addStretch();
     return pFigures;
 }
 
@@ -107,7 +109,7 @@ void WidgetCycleCard::addIncidents(QBoxLayout& layout)
     }
 }
 
-void WidgetCycleCard::addButton(QBoxLayout& layout, const QString& text, const QString& description, const std::function<void()>& act)
+void WidgetCycleCard::addButton(QLayout& layout, const QString& text, const QString& description, const std::function<void()>& act)
 {
     auto* pButton = new QToolButton;
     pButton->setText(text);
@@ -119,10 +121,9 @@ void WidgetCycleCard::addButton(QBoxLayout& layout, const QString& text, const Q
 
 QLayout* WidgetCycleCard::createFoot()
 {
-    auto* pFoot = new QHBoxLayout;
-    pFoot->addStretch();
+    auto* pFoot = new FlowLayout(6, Qt::AlignRight);
     addButton(*pFoot, tr("Open cycle"), tr("Load the whole power cycle"), [this] { Q_EMIT signalFlight(number(), -1); });
-    for (int i = 0; i < static_cast<int>(mpCycle->flights.size()) && i < 6; ++i)
+    for (int i = 0; i < static_cast<int>(mpCycle->flights.size()) && i < kFlightsShown; ++i)
         addButton(*pFoot, tr("Flight %1").arg(i + 1), tr("Load this flight"), [this, i] { Q_EMIT signalFlight(number(), i); });
     addButton(*pFoot, tr("Copy"), tr("Copy what is told of this cycle as text"), [this] { copy(OverviewTexts::plain(*mpCycle)); });
     return pFoot;

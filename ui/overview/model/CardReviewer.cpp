@@ -94,7 +94,7 @@ void CardReviewer::stop()
 
 void CardReviewer::begin()
 {
-    mIsWanted = false;
+    mIsWanted = mIsGone = false;
     std::vector<uint32_t> numbers;
     for (const auto& [number, cycle] : mSession.container.recordCycles())
         numbers.push_back(number);
@@ -119,8 +119,8 @@ void CardReviewer::finish()
         return begin();
     if (mTask.isCancelled())
         return;
-    if (mIsGone)
-        Q_EMIT signalGone();
+    if (mIsGone || !mTask.error().isEmpty())
+        Q_EMIT signalStopped(mTask.error());
     else
         Q_EMIT signalFinished();
 }

@@ -28,8 +28,8 @@ public:
 Q_SIGNALS:
     void signalReviewed(std::shared_ptr<const ZARN::CycleOverview> pCycle);
     void signalProgress(int percent);
-    /// The card cannot be read any more; what was told is all. In place of signalFinished().
-    void signalGone();
+    /// In place of signalFinished(): what was told is all. @param problem for people; empty when the card cannot be read any more
+    void signalStopped(const QString& problem);
     void signalFinished();
 
 private:

@@ -59,12 +59,15 @@ QString OverviewTexts::origin(const CycleOverview& cycle)
         text += ", " + tr("clock not set");
     }
     const int flights = static_cast<int>(cycle.flights.size());
-    return text + ", " + (flights == 0 ? tr("on the ground") : flights == 1 ? tr("1 flight") : tr("%1 flights").arg(flights));
+    return text + ", " + (flights == 0 ? tr("no flight found") : flights == 1 ? tr("1 flight") : tr("%1 flights").arg(flights));
 }
 
 std::vector<OverviewTexts::Figure> OverviewTexts::figures(const CycleOverview& cycle)
 {
-    const auto hours = [](double seconds) { // rounded to minutes
+    // Rounded to minutes. What clocks that ran backwards make of it is no length.
+    const auto hours = [](double seconds) {
+        if (seconds < 0)
+            return kNone;
         const int minutes = saturatingCast<int>(std::round(seconds / 60.0));
         return QString("%1:%2").arg(minutes / 60).arg(minutes % 60, 2, 10, QChar('0'));
     };
@@ -75,7 +78,7 @@ std::vector<OverviewTexts::Figure> OverviewTexts::figures(const CycleOverview& c
     return {{hours(cycle.endTime - cycle.startTime), tr("recorded [h]")},
             {engine ? hours(*engine) : kNone, tr("engine ran [h]")},
             {flew ? hours(review.flightTime) : kNone, tr("in flight [h]")},
-            {isReviewed && review.fuel ? tr("%1 l").arg(QLocale().toString(*review.fuel, 'f', 1)) : kNone, tr("fuel")}};
+            {isReviewed && review.fuel.value_or(-1) >= 0 ? tr("%1 l").arg(QLocale().toString(*review.fuel, 'f', 1)) : kNone, tr("fuel")}};
 }
 
 std::vector<IncidentSentence> OverviewTexts::sentences(const CycleOverview& cycle)
