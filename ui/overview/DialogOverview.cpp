@@ -12,6 +12,12 @@
 
 namespace ZARN {
 
+namespace {
+
+constexpr int kProgressStep = 10; // percent
+
+} // namespace
+
 DialogOverview::DialogOverview(const Session& session, QWidget* pParent)
     : QScrollArea(pParent), mSession(session), mReviewer(session), mpCardText(new QLabel), mpProgress(new QProgressBar), mpEmpty(new QLabel), mpStopped(new QLabel),
       mpCards(new QVBoxLayout)
@@ -46,7 +52,8 @@ DialogOverview::DialogOverview(const Session& session, QWidget* pParent)
         mAddTimer.start();
     });
     connect(&mAddTimer, &QTimer::timeout, this, &DialogOverview::addNext);
-    connect(&mReviewer, &CardReviewer::signalProgress, mpProgress, &QProgressBar::setValue);
+    // It paints itself at each value, whatever else there is to do.
+    connect(&mReviewer, &CardReviewer::signalProgress, this, [this](int percent) { mpProgress->setValue(percent / kProgressStep * kProgressStep); });
     connect(&mReviewer, &CardReviewer::signalFinished, &mAddTimer, qOverload<>(&QTimer::start));
     connect(&mReviewer, &CardReviewer::signalStopped, this, &DialogOverview::tellStopped);
 }
@@ -103,8 +110,10 @@ void DialogOverview::addNext()
             finish();
         return;
     }
-    auto* pCard = new WidgetCycleCard(std::move(mPending.front()));
+    auto* pCard = new WidgetCycleCard(std::move(mPending.front()), widget());
     mPending.pop_front();
+    pCard->ensurePolished();
+    pCard->fitTo(mpCards->geometry().width());
     connect(pCard, &WidgetCycleCard::signalFlight, this, &DialogOverview::signalFlight);
     connect(pCard, &WidgetCycleCard::signalIncident, this, &DialogOverview::signalIncident);
     mCards.push_back(pCard);

@@ -30,7 +30,6 @@ QLabel* makeLabel(QLabel* pLabel, const QString& name)
     pLabel->setObjectName(name);
     pLabel->setTextFormat(Qt::PlainText);
     pLabel->setWordWrap(true);
-    pLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
     return pLabel;
 }
 
@@ -148,7 +147,12 @@ void WidgetCycleCard::paintEvent(QPaintEvent* pEvent)
 void WidgetCycleCard::resizeEvent(QResizeEvent* pEvent)
 {
     QFrame::resizeEvent(pEvent);
-    const bool isWide = width() >= kWide * QFontInfo(font()).pixelSize();
+    fitTo(width());
+}
+
+void WidgetCycleCard::fitTo(int room)
+{
+    const bool isWide = room >= kWide * QFontInfo(font()).pixelSize();
     mpHead->setDirection(isWide ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
 }
 
