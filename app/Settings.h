@@ -52,6 +52,9 @@ constexpr FractionSetting kMapShadingFactor = {"MapShadingFactor", 0.5};
 
 constexpr NumberedSetting kGraphColor = {"GraphColor", 300};
 constexpr NumberedSetting kGraphColorName = {"GraphColorName", 300};
+constexpr TextSetting kGraphLayout = {"GraphLayout", ""};
+constexpr TextSetting kLayoutDir = {"LayoutDir", ""};
+constexpr SwitchSetting kParameterOnlyRecorded = {"ParameterOnlyRecorded", false};
 constexpr SwitchSetting kGraphClickMovesCursor = {"GraphClickMovesCursor", false};
 
 } // namespace ZARN::Settings

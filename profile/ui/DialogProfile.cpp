@@ -1,5 +1,6 @@
 #include "profile/ui/DialogProfile.h"
 
+#include "app/Settings.h"
 #include "profile/Profile.h"
 #include "profile/ui/DialogFormulas.h"
 #include "profile/ui/ProfileFilterModel.h"
@@ -7,6 +8,7 @@
 #include "project/Project.h"
 
 #include <QAction>
+#include <QCheckBox>
 #include <QClipboard>
 #include <QEvent>
 #include <QFontInfo>
@@ -30,19 +32,25 @@ constexpr int kLeastName = 11; // in sizes of the font
 
 DialogProfile::DialogProfile(const Session& session, QWidget* pParent)
     : QWidget(pParent), mSession(session), mpModel(new ProfileTreeModel(session.profile, this)),
-      mpFilter(new ProfileFilterModel(*mpModel, this)), mpSearch(new QLineEdit), mpTree(new QTreeView), mpCount(new QLabel)
+      mpFilter(new ProfileFilterModel(*mpModel, this)), mpSearch(new QLineEdit), mpOnlyRecorded(new QCheckBox(tr("Only recorded"))),
+      mpTree(new QTreeView), mpCount(new QLabel)
 {
     mpSearch->setObjectName("search");
     mpSearch->setPlaceholderText(tr("Search name, unit or identifier"));
     mpSearch->setAccessibleName(tr("Search parameters"));
     mpSearch->setClearButtonEnabled(true);
+    mpOnlyRecorded->setObjectName("onlyRecorded");
+    mpOnlyRecorded->setToolTip(tr("List only what the loaded data hold samples of"));
+    mpOnlyRecorded->setChecked(Settings::kParameterOnlyRecorded.get(session.property));
     mpCount->setObjectName("count");
+    mpCount->setWordWrap(true);
     createTree();
     createActions();
 
     auto* pLayout = new QVBoxLayout(this);
     pLayout->setContentsMargins(0, 0, 0, 0);
     pLayout->addWidget(mpSearch);
+    pLayout->addWidget(mpOnlyRecorded);
     pLayout->addWidget(mpTree);
     auto* pFormulas = new QToolButton;
     pFormulas->setObjectName("editFormulas");
@@ -56,11 +64,19 @@ DialogProfile::DialogProfile(const Session& session, QWidget* pParent)
     pLayout->addLayout(pBelow);
 
     connect(mpSearch, &QLineEdit::textChanged, this, &DialogProfile::slotFilter);
+    connect(mpOnlyRecorded, &QCheckBox::toggled, this, &DialogProfile::slotOnlyRecorded);
     connect(mpModel, &ProfileTreeModel::signalChanged, this, &DialogProfile::slotSelectionChanged);
     connect(mpModel, &ProfileTreeModel::signalCounted, this, &DialogProfile::slotCount);
+    mpFilter->setOnlyRecorded(mpOnlyRecorded->isChecked());
     slotCount();
     slotFilter({});
     slotCurrentChanged();
+}
+
+void DialogProfile::setHead(QWidget* pHead)
+{
+    static_cast<QVBoxLayout*>(layout())->insertWidget(0, pHead);
+    setTabOrder(pHead, mpSearch);
 }
 
 void DialogProfile::createTree()
@@ -176,9 +192,35 @@ void DialogProfile::slotFilter(const QString& text)
     rememberExpanded();
     mpFilter->setFilterFixedString(text);
     restoreExpanded();
-    // What the two do is said where it is chosen: with a search they leave alone what it hides.
-    mpSelectAll->setText(text.isEmpty() ? tr("Select All") : tr("Select All Shown"));
-    mpSelectNone->setText(text.isEmpty() ? tr("Select None") : tr("Select None Shown"));
+    nameActions();
+}
+
+/// What the two do is said where it is chosen: they leave alone what is hidden.
+void DialogProfile::nameActions()
+{
+    const bool isAll = mpSearch->text().isEmpty() && !mpFilter->isNarrowed();
+    mpSelectAll->setText(isAll ? tr("Select All") : tr("Select All Shown"));
+    mpSelectNone->setText(isAll ? tr("Select None") : tr("Select None Shown"));
+}
+
+void DialogProfile::setRecorded(std::optional<std::set<uint32_t>> identifiers)
+{
+    rememberExpanded();
+    mpFilter->setRecorded(std::move(identifiers));
+    restoreExpanded();
+    nameActions();
+    slotCount();
+}
+
+void DialogProfile::slotOnlyRecorded(bool on)
+{
+    rememberExpanded();
+    mpFilter->setOnlyRecorded(on);
+    restoreExpanded();
+    nameActions();
+    slotCount();
+    Settings::kParameterOnlyRecorded.set(mSession.property, on);
+    mSession.property.writeXmlFile();
 }
 
 void DialogProfile::slotSelectionChanged()
@@ -189,7 +231,9 @@ void DialogProfile::slotSelectionChanged()
 
 void DialogProfile::slotCount()
 {
-    mpCount->setText(tr("%1 of %2 parameters selected").arg(mpModel->selectedCount()).arg(mpModel->parameterCount()));
+    const QString text = tr("%1 of %2 parameters selected").arg(mpModel->selectedCount()).arg(mpModel->parameterCount());
+    const int hidden = mpFilter->selectedUnrecorded();
+    mpCount->setText(hidden == 0 ? text : tr("%1, %2 of them not recorded").arg(text).arg(hidden));
 }
 
 void DialogProfile::slotCurrentChanged()

@@ -6,7 +6,11 @@
 #include <QSet>
 #include <QWidget>
 
+#include <optional>
+#include <set>
+
 class QAction;
+class QCheckBox;
 class QLabel;
 class QLineEdit;
 class QTreeView;
@@ -30,6 +34,10 @@ public:
     void setExamples(FormulaDefinitions examples) { mExamples = std::move(examples); }
     /// Applies the project's names to the profile and shows them: after the project was cleared. Emits nothing.
     void updateProject();
+    /// Which parameters the loaded data hold samples of, by identifier; none while nothing is loaded.
+    void setRecorded(std::optional<std::set<uint32_t>> identifiers);
+    /// Puts a widget above everything; owns it from then on.
+    void setHead(QWidget* pHead);
 
 Q_SIGNALS:
     /// The user changed which parameters are shown.
@@ -40,6 +48,7 @@ Q_SIGNALS:
 private Q_SLOTS:
     void slotSelectionChanged();
     void slotFilter(const QString& text);
+    void slotOnlyRecorded(bool on);
     void slotCount();
     void slotCurrentChanged();
     void slotOnlyDevice();
@@ -51,6 +60,7 @@ protected:
 
 private:
     void fitNames();
+    void nameActions();
     void createTree();
     void createActions();
     QAction* addAction(const QString& name, const QString& text);
@@ -61,6 +71,7 @@ private:
     ProfileTreeModel* mpModel;
     ProfileFilterModel* mpFilter;
     QLineEdit* mpSearch;
+    QCheckBox* mpOnlyRecorded;
     QTreeView* mpTree;
     QLabel* mpCount;
     QAction* mpSelectAll = nullptr;

@@ -9,8 +9,49 @@ ProfileFilterModel::ProfileFilterModel(ProfileTreeModel& model, QObject* pParent
     setFilterCaseSensitivity(Qt::CaseInsensitive);
     setFilterKeyColumn(-1);
     setRecursiveFilteringEnabled(true);
-    setAutoAcceptChildRows(true);
     setSourceModel(&model);
+}
+
+void ProfileFilterModel::setRecorded(std::optional<std::set<uint32_t>> identifiers)
+{
+    mRecorded = std::move(identifiers);
+    invalidateFilter();
+}
+
+void ProfileFilterModel::setOnlyRecorded(bool on)
+{
+    mIsOnlyRecorded = on;
+    invalidateFilter();
+}
+
+/// A device is there for its parameters; without any it can only be met by its name.
+bool ProfileFilterModel::filterAcceptsRow(int row, const QModelIndex& parent) const
+{
+    const bool isMet = QSortFilterProxyModel::filterAcceptsRow(row, parent);
+    if (!parent.isValid())
+        return isMet && !isNarrowed();
+    if (isNarrowed() && !isRecorded(mModel.index(row, 0, parent)))
+        return false;
+    return isMet || QSortFilterProxyModel::filterAcceptsRow(parent.row(), {});
+}
+
+bool ProfileFilterModel::isRecorded(const QModelIndex& parameter) const
+{
+    const std::optional<uint32_t> identifier = mModel.identifier(parameter);
+    return !identifier || mRecorded->contains(*identifier);
+}
+
+int ProfileFilterModel::selectedUnrecorded() const
+{
+    int count = 0;
+    for (int device = 0; isNarrowed() && device < mModel.rowCount(); ++device) {
+        const QModelIndex parent = mModel.index(device, 0);
+        for (int row = 0; row < mModel.rowCount(parent); ++row) {
+            const QModelIndex parameter = mModel.index(row, 0, parent);
+            count += parameter.data(Qt::CheckStateRole) == Qt::Checked && !isRecorded(parameter) ? 1 : 0;
+        }
+    }
+    return count;
 }
 
 QModelIndexList ProfileFilterModel::parametersOf(const QModelIndex& device) const

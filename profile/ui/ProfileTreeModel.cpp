@@ -110,6 +110,12 @@ void ProfileTreeModel::selectOnly(const QModelIndex& index)
     finishAct(changed);
 }
 
+std::optional<uint32_t> ProfileTreeModel::identifier(const QModelIndex& parameter) const
+{
+    const QString& identifier = mDevices[parameter.internalId() - 1].parameters[static_cast<std::size_t>(parameter.row())].identifier;
+    return identifier.isEmpty() ? std::nullopt : std::optional(identifier.toUInt());
+}
+
 int ProfileTreeModel::selectedCount() const
 {
     std::ptrdiff_t count = 0;

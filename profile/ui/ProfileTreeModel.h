@@ -28,6 +28,8 @@ public:
     void selectOnly(const QModelIndex& index);
     [[nodiscard]] int selectedCount() const;
     [[nodiscard]] int parameterCount() const;
+    /// Of the records of a parameter.
+    [[nodiscard]] std::optional<uint32_t> identifier(const QModelIndex& parameter) const;
     [[nodiscard]] static bool isDevice(const QModelIndex& index) { return index.isValid() && !index.parent().isValid(); }
 
     [[nodiscard]] QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;

@@ -1,8 +1,10 @@
 #include "app/Console.h"
 #include "profile/Profile.h"
 #include "profile/ProfileCheck.h"
+#include "project/LayoutStore.h"
 #include "support/Places.h"
 
+#include <QFileInfo>
 #include <QTest>
 
 using namespace ZARN;
@@ -33,6 +35,9 @@ void TestShippedProfile::hasWhatTheProgramNeeds()
     std::vector<std::string> variants{""};
     for (const ProfileVariant& variant : profile.variants())
         variants.push_back(variant.name);
+    LayoutStore layouts(silent, {}, {});
+    layouts.setProfileFolders({QFileInfo(mFile).path()});
+    QCOMPARE(layouts.all().size(), std::size_t(6));
     const QColor colours[] = {"#009E73", "#E69F00", "#D55E00"}; // that everybody can tell apart
     for (const std::string& variant : variants) {
         QVERIFY(profile.loadProfile(mFile, variant));
@@ -40,6 +45,8 @@ void TestShippedProfile::hasWhatTheProgramNeeds()
             QVERIFY2(!profile.getParameterFromZarnType(key).name.empty(), key);
         for (const uint32_t position : {1036, 1037, 1038}) // where the path export looks
             QVERIFY(!profile.model().parameter(position).zarnDataType.empty());
+        for (const DisplayLayout& layout : layouts.all())
+            QCOMPARE(LayoutStore::missing(layout, profile), QStringList());
         QCOMPARE(profile.model().errorMatrices.size(), std::size_t(2));
         for (const FaultMatrix& matrix : profile.model().errorMatrices)
             QCOMPARE(matrix.bits.size(), std::size_t(32));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "project/DisplayLayout.h"
 #include "project/RecordSession.h"
 #include "project/Session.h"
 #include "ui/data/DataViewList.h"
@@ -47,6 +48,10 @@ public:
     [[nodiscard]] std::optional<TimeSpan> graphSpan() const;
     /// Brings the graph to the front with that part of the record, and parameters of these names beside the ticked ones.
     void showInGraph(const TimeSpan& span, const std::set<std::string>& parameters);
+    /// Order, heights, scale, colours and mode of the graph; what is ticked is not touched.
+    void setLayout(const DisplayLayout& layout) { mViews.view(eViewGraph).setLayout(layout); }
+    /// What is ticked, as the graph shows it; without a name.
+    [[nodiscard]] DisplayLayout layout() const { return mViews.view(eViewGraph).layout().value_or(DisplayLayout()); }
 
 public Q_SLOTS:
     void slotTableTime(double time) { moveFrom(eViewTable, time); }
@@ -69,6 +74,8 @@ public Q_SLOTS:
 Q_SIGNALS:
     /// The user wants the report of what is shown, from the menu of a view.
     void signalReport();
+    /// The user changed how the graph shows what is ticked.
+    void signalLayout();
 
 private:
     void createTabs();

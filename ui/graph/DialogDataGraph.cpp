@@ -51,7 +51,10 @@ void DialogDataGraph::connectGraph()
     connect(mpGraph, &WidgetGraphES::signalCursor, this, &DialogDataGraph::signalCursor);
     connect(mpGraph, &WidgetGraphES::signalCursor, this, [this] { Q_EMIT signalTime(mpGraph->model().cursor().time); });
     connect(mpGraph, &WidgetGraphES::signalManMode, this, &DialogDataGraph::slotManMode);
-    connect(mpGraph, &WidgetGraphES::signalMoveParameter, this, [this] { mRecord.keepStrips(); });
+    connect(mpGraph, &WidgetGraphES::signalMoveParameter, this, [this] {
+        mRecord.keepStrips();
+        Q_EMIT signalLayout();
+    });
     connect(mpGraph, &WidgetGraphES::signalMenu, this, &DialogDataGraph::slotMenu);
     connect(mpButtons, &GraphButtons::signalHeld, this, [this] { mHeldTimer.start(kHeldInterval); });
     connect(mpButtons, &GraphButtons::signalCommand, this, &DialogDataGraph::slotCommand);
@@ -105,6 +108,13 @@ void DialogDataGraph::showSpan(const TimeSpan& span, const std::set<std::string>
     updateSetup();
 }
 
+void DialogDataGraph::setLayout(const DisplayLayout& layout)
+{
+    mRecord.setLayout(layout);
+    updateSetup();
+    slotManMode();
+}
+
 std::optional<TimeSpan> DialogDataGraph::shownSpan() const
 {
     return mRecord.shownSpan();
@@ -135,6 +145,7 @@ void DialogDataGraph::slotSetupChanged()
     mRecord.storeSettings();
     updateSettings();
     slotManMode();
+    Q_EMIT signalLayout();
 }
 
 void DialogDataGraph::slotCommand(int command)
@@ -146,6 +157,7 @@ void DialogDataGraph::slotCommand(int command)
     else
         mCommands.run(static_cast<EGraphCommand>(command), mpButtons->isChecked(static_cast<EGraphCommand>(command)));
     slotManMode();
+    Q_EMIT signalLayout();
 }
 
 void DialogDataGraph::slotHeldZoom()

@@ -29,6 +29,8 @@ public:
     void updateSettings() override;
     [[nodiscard]] std::optional<TimeSpan> shownSpan() const override;
     void showSpan(const TimeSpan& span, const std::set<std::string>& parameters) override;
+    void setLayout(const DisplayLayout& layout) override;
+    [[nodiscard]] std::optional<DisplayLayout> layout() const override { return mRecord.layout(); }
 
     [[nodiscard]] WidgetGraphES& graph() { return *mpGraph; }
     [[nodiscard]] GraphData& graphData();
@@ -39,6 +41,8 @@ Q_SIGNALS:
     void signalTime(double time);
     /// The user wants the report of the loaded data.
     void signalReport();
+    /// The user changed how the traces are shown.
+    void signalLayout();
 
 protected:
     /// The keys are for the graph. No focus proxy: Tab would pass the buttons, which stand before it.

@@ -9,6 +9,7 @@
 #include "app/gui/ImageHandler.h"
 #include "app/gui/Kernel.h"
 #include "card/CardContainer.h"
+#include "card/record/RecordData.h"
 #include "card/record/RecordFormats.h"
 #include "profile/ui/DialogProfile.h"
 #include "profile/ui/DialogProfileInfo.h"
@@ -23,6 +24,7 @@
 #include "ui/main/DialogPreferences.h"
 #include "ui/main/ExportController.h"
 #include "ui/main/FolderDrop.h"
+#include "ui/main/LayoutController.h"
 #include "ui/main/MainActions.h"
 #include "ui/main/MainPanels.h"
 #include "ui/main/MainToolBar.h"
@@ -70,6 +72,7 @@ DialogMain::DialogMain(const Session& session, const WindowEnvironment& environm
     openToolBarsToKeys();
     createStatusBar();
     createControllers();
+    createLayouts();
     connectPanels();
     setWindowIcon(ImageHandler::icon("zarn"));
     startTimers();
@@ -204,6 +207,21 @@ void DialogMain::createControllers()
     mpPreferences = new DialogPreferences(mSession, mEnvironment.kernel, this);
 }
 
+void DialogMain::createLayouts()
+{
+    const QString file = QString::fromStdString(mEnvironment.folders.dataPath() + '/' + LayoutStore::kFileName);
+    mpLayouts = std::make_unique<LayoutStore>(mSession.console, file, Settings::kLocale.text(mSession.property));
+    mpNotices->watch(mpLayouts->file(), Notices::eLayouts, tr("Layouts cannot be saved"));
+    if (mpLayouts->isUnread())
+        mpNotices->setProblem(Notices::eLayouts, tr("Layouts unreadable"), file);
+    auto* pBar = new LayoutBar;
+    mpProfile->setHead(pBar);
+    mpLayoutController = new LayoutController(mSession, *mpLayouts, *pBar, *mpData, this);
+    connect(mpLayoutController, &LayoutController::signalChosen, mpProfile, &DialogProfile::updateProfile);
+    connect(mpLayoutController, &LayoutController::signalChosen, this, &DialogMain::slotCanChanged);
+    connect(mpLayoutController, &LayoutController::signalChosen, this, qOverload<>(&DialogMain::slotProfileChanged));
+}
+
 void DialogMain::connectPanels()
 {
     connect(mpProfile, &DialogProfile::signalChanged, this, &DialogMain::slotCanChanged);
@@ -211,6 +229,7 @@ void DialogMain::connectPanels()
     connect(mpProfile, &DialogProfile::signalChanged, this, qOverload<>(&DialogMain::slotProfileChanged));
     connect(mpCard, &DialogCard::signalLoadRecord, this, &DialogMain::slotLoadRecord);
     connect(mpCard, &DialogCard::signalLoadCycle, this, &DialogMain::slotLoadCycle);
+    connect(&mRecord, &RecordSession::recordChanged, this, &DialogMain::showRecorded);
     connect(mpProfileInfo, &DialogProfileInfo::signalProfileChanged, this, &DialogMain::slotProfileInstalled);
     connect(mpPreferences, &DialogPreferences::signalProfileFileChanged, this, &DialogMain::slotProfileFileChanged);
     connect(mpPreferences, &DialogPreferences::signalTilesChanged, mpData, &DialogData::updateSettings);
@@ -312,7 +331,7 @@ void DialogMain::updateUnit()
     mpProfileController->updateUnit();
     mpProfile->updateProfile();
     mpCardController->recalculate();
-    mRecord.changeProfile(); // it may have formulas
+    mRecord.changeUnit();
 }
 
 void DialogMain::loadProfile()
@@ -324,6 +343,7 @@ void DialogMain::loadProfile()
     const QString examples = QFileInfo(mpProfileController->file()).dir().filePath("Formulas.xml");
     mpProfile->setExamples(FormulaXml(XmlHandler(mSession.console)).readFile(examples));
     mpProfile->updateProfile();
+    mpLayoutController->setProfile(mpProfileController->file(), QString::fromStdString(mEnvironment.folders.resourcePath()));
     mpCardController->recalculate(); // flights and their statistic are decoded by the profile
     mRecord.changeProfile();
 }
@@ -361,6 +381,7 @@ void DialogMain::openFolder(const QString& path)
 void DialogMain::slotProfileChanged()
 {
     mRecord.changeSelection();
+    mpLayoutController->update();
 }
 
 void DialogMain::slotProfileChanged(const QString& name)
@@ -446,6 +467,16 @@ void DialogMain::updateExports()
         action(id)->setEnabled(mpCardController->hasData());
 }
 
+void DialogMain::showRecorded()
+{
+    if (!mRecord.record())
+        return mpProfile->setRecorded({});
+    std::set<uint32_t> identifiers;
+    for (const auto& [identifier, channel] : mRecord.record()->channels())
+        identifiers.insert(identifier);
+    mpProfile->setRecorded(std::move(identifiers));
+}
+
 void DialogMain::slotDataChanging()
 {
     mRecord.clearRecord();
@@ -483,6 +514,7 @@ void DialogMain::slotProjectChanged()
 {
     mpProfile->updateProject();
     slotProfileChanged();
+    mRecord.changeProfile(); // it may have formulas
     updateTitle();
 }
 
@@ -491,6 +523,8 @@ void DialogMain::slotTimeout()
     restoreCard();
     if (!mEnvironment.withDefaults)
         mpProjectController->restoreProject();
+    // The reduced display offers no other one.
+    mpLayoutController->restore(!mEmu && !QFileInfo::exists(mpProjectController->lastPath()));
     if (mSession.project.file().isUnread(mpProjectController->lastPath()))
         mpNotices->setProblem(Notices::eProject, tr("Project unreadable"), mpProjectController->lastPath());
     mpProfile->updateProfile();

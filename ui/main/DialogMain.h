@@ -25,6 +25,8 @@ class DialogData;
 class DialogPreferences;
 class DialogProfile;
 class ExportController;
+class LayoutController;
+class LayoutStore;
 class MainPanels;
 class MainToolBar;
 class Notices;
@@ -110,6 +112,7 @@ private:
     void connectPanels();
     void startTimers();
     void createNotices();
+    void createLayouts();
     void restoreCard();
     void tellProfileProblem();
     void showProblems();
@@ -119,6 +122,8 @@ private:
     void showLoaded();
     /// What needs loaded data is offered while there are some.
     void updateExports();
+    /// Tells the profile panel what the loaded data hold.
+    void showRecorded();
     void showInformation(int id);
     bool cleanup();
 
@@ -147,6 +152,8 @@ private:
     ProjectController* mpProjectController = nullptr;
     ExportController* mpExportController = nullptr;
     OverviewController* mpOverview = nullptr;
+    std::unique_ptr<LayoutStore> mpLayouts;
+    LayoutController* mpLayoutController = nullptr;
     QString mStyleFile;
     QDateTime mStyleTime; ///< of the style file as it was last applied
     QTimer mStartTimer;

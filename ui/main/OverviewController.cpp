@@ -46,14 +46,21 @@ void OverviewController::showCard()
     mpOverview->reset();
     mpBefore = mPages.currentWidget() == mpOverview ? nullptr : mPages.currentWidget();
     if (hasCard)
-        mPages.setCurrentWidget(mpOverview);
+        showOverview();
+}
+
+/// With the keys: Return opens the newest flight, and the page is scrolled.
+void OverviewController::showOverview()
+{
+    mPages.setCurrentWidget(mpOverview);
+    mpOverview->setFocus();
 }
 
 void OverviewController::toggle(bool isShown)
 {
     if (isShown) {
         mpBefore = mPages.currentWidget();
-        mPages.setCurrentWidget(mpOverview);
+        showOverview();
     } else if (mpBefore) {
         mPages.setCurrentWidget(mpBefore);
     }

@@ -40,6 +40,7 @@ private:
     void openIncident(uint32_t cycle, const Incident& incident);
     void slotRecord();
     void show(const Incident& incident);
+    void showOverview();
     void slotPage();
     void review();
 

@@ -12,8 +12,14 @@
 
 namespace ZARN {
 
+namespace {
+
+constexpr int kProgressStep = 10; // percent
+
+} // namespace
+
 DialogOverview::DialogOverview(const Session& session, QWidget* pParent)
-    : QScrollArea(pParent), mSession(session), mReviewer(session), mpCardText(new QLabel), mpProgress(new QProgressBar), mpEmpty(new QLabel),
+    : QScrollArea(pParent), mSession(session), mReviewer(session), mpCardText(new QLabel), mpProgress(new QProgressBar), mpEmpty(new QLabel), mpStopped(new QLabel),
       mpCards(new QVBoxLayout)
 {
     setObjectName("overview");
@@ -29,8 +35,8 @@ DialogOverview::DialogOverview(const Session& session, QWidget* pParent)
     auto* pHeading = new Heading(tr("Was the engine all right?"));
     pHeading->setWordWrap(true);
     pLayout->addWidget(pHeading);
-    for (QLabel* pLabel : {mpCardText, mpEmpty}) {
-        pLabel->setObjectName("quiet");
+    for (QLabel* pLabel : {mpCardText, mpEmpty, mpStopped}) {
+        pLabel->setObjectName(pLabel == mpStopped ? "warning" : "quiet");
         pLabel->setTextFormat(Qt::PlainText);
         pLabel->setWordWrap(true);
         pLayout->addWidget(pLabel);
@@ -41,14 +47,22 @@ DialogOverview::DialogOverview(const Session& session, QWidget* pParent)
     pLayout->addLayout(mpCards);
     pLayout->addStretch();
     setWidget(pPage);
-    connect(&mReviewer, &CardReviewer::signalReviewed, this, &DialogOverview::addCycle);
-    connect(&mReviewer, &CardReviewer::signalProgress, mpProgress, &QProgressBar::setValue);
-    connect(&mReviewer, &CardReviewer::signalFinished, this, &DialogOverview::finish);
+    connect(&mReviewer, &CardReviewer::signalReviewed, this, [this](std::shared_ptr<const CycleOverview> pCycle) {
+        mPending.push_back(std::move(pCycle));
+        mAddTimer.start();
+    });
+    connect(&mAddTimer, &QTimer::timeout, this, &DialogOverview::addNext);
+    // It paints itself at each value, whatever else there is to do.
+    connect(&mReviewer, &CardReviewer::signalProgress, this, [this](int percent) { mpProgress->setValue(percent / kProgressStep * kProgressStep); });
+    connect(&mReviewer, &CardReviewer::signalFinished, &mAddTimer, qOverload<>(&QTimer::start));
+    connect(&mReviewer, &CardReviewer::signalStopped, this, &DialogOverview::tellStopped);
 }
 
 void DialogOverview::reset()
 {
     mReviewer.stop();
+    mPending.clear();
+    mIsNewestWanted = false;
     for (WidgetCycleCard* pCard : std::exchange(mCards, {}))
         pCard->deleteLater();
     mIsOld = !isVisible();
@@ -62,6 +76,7 @@ void DialogOverview::begin()
     const bool isEmpty = mSession.container.recordCycles().empty();
     mpEmpty->setText(isEmpty ? tr("This card holds no power cycle.") : QString());
     mpEmpty->setVisible(isEmpty);
+    mpStopped->hide();
     mpProgress->setVisible(!isEmpty);
     mpProgress->setValue(0);
     if (!isEmpty)
@@ -86,29 +101,55 @@ QString DialogOverview::cardText() const
     return parts.join(", ") + ". " + tr("Times since the unit's power-up.");
 }
 
-void DialogOverview::addCycle(std::shared_ptr<const CycleOverview> pCycle)
+/// One in each turn of the event loop: the page needs some to take its new height, and would be drawn too low until then.
+void DialogOverview::addNext()
 {
-    auto* pCard = new WidgetCycleCard(std::move(pCycle));
+    if (mPending.empty()) {
+        mAddTimer.stop();
+        if (!mReviewer.isRunning())
+            finish();
+        return;
+    }
+    auto* pCard = new WidgetCycleCard(std::move(mPending.front()), widget());
+    mPending.pop_front();
+    pCard->ensurePolished();
+    pCard->fitTo(mpCards->geometry().width());
     connect(pCard, &WidgetCycleCard::signalFlight, this, &DialogOverview::signalFlight);
     connect(pCard, &WidgetCycleCard::signalIncident, this, &DialogOverview::signalIncident);
     mCards.push_back(pCard);
     mpCards->addWidget(pCard);
+    if (mIsNewestWanted && !pCard->cycle().flights.empty())
+        chooseNewest();
 }
 
 void DialogOverview::finish()
 {
     mpProgress->hide();
+    if (std::exchange(mIsNewestWanted, false))
+        chooseNewest();
+}
+
+void DialogOverview::tellStopped(const QString& problem)
+{
+    const bool hasSome = !mCards.empty() || !mPending.empty();
+    const QString why = problem.isEmpty() ? tr("The card cannot be read any more. Was it removed?") : problem;
+    mpStopped->setText(why + ' ' + (hasSome ? tr("What was reviewed before is told below; open the card again for the rest.")
+                                            : tr("Open it again to review it.")));
+    mpStopped->show();
+    mAddTimer.start();
 }
 
 void DialogOverview::chooseNewest()
 {
     for (const WidgetCycleCard* pCard : mCards) {
         if (const auto flights = static_cast<int>(pCard->cycle().flights.size()); flights > 0) {
+            mIsNewestWanted = false;
             Q_EMIT signalFlight(pCard->number(), flights - 1);
             return;
         }
     }
-    if (!mCards.empty())
+    mIsNewestWanted = mReviewer.isRunning() || !mPending.empty(); // it may still come
+    if (!mIsNewestWanted && !mCards.empty())
         Q_EMIT signalFlight(mCards.front()->number(), -1);
 }
 
@@ -117,6 +158,12 @@ void DialogOverview::showEvent(QShowEvent* pEvent)
     QScrollArea::showEvent(pEvent);
     if (std::exchange(mIsOld, false))
         begin();
+}
+
+void DialogOverview::hideEvent(QHideEvent* pEvent)
+{
+    mIsNewestWanted = false; // the user went elsewhere
+    QScrollArea::hideEvent(pEvent);
 }
 
 void DialogOverview::keyPressEvent(QKeyEvent* pEvent)

@@ -4,6 +4,9 @@
 #include "ui/overview/model/CardReviewer.h"
 
 #include <QScrollArea>
+#include <QTimer>
+
+#include <deque>
 
 class QLabel;
 class QProgressBar;
@@ -23,7 +26,7 @@ public:
 
     /// Begins anew: another card is open, or another profile or unit in force. Works when it is seen; hidden, it waits for that.
     void reset();
-    /// Loads the newest flight, as Return does.
+    /// Loads the newest flight, as Return does; when it is known, where the review has not come to it.
     void chooseNewest();
 
 Q_SIGNALS:
@@ -34,12 +37,14 @@ Q_SIGNALS:
 
 protected:
     void showEvent(QShowEvent* pEvent) override;
+    void hideEvent(QHideEvent* pEvent) override;
     void keyPressEvent(QKeyEvent* pEvent) override;
 
 private:
     void begin();
-    void addCycle(std::shared_ptr<const CycleOverview> pCycle);
+    void addNext();
     void finish();
+    void tellStopped(const QString& problem);
     [[nodiscard]] QString cardText() const;
 
     Session mSession;
@@ -47,8 +52,12 @@ private:
     QLabel* mpCardText;
     QProgressBar* mpProgress;
     QLabel* mpEmpty;
+    QLabel* mpStopped; ///< why not all was reviewed
     QVBoxLayout* mpCards;
     std::vector<WidgetCycleCard*> mCards;
+    std::deque<std::shared_ptr<const CycleOverview>> mPending; ///< reviewed, and not shown yet
+    QTimer mAddTimer;
+    bool mIsNewestWanted = false; ///< once it is known
     bool mIsOld = false; ///< to be made anew when it is seen
 };
 

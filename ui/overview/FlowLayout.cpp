@@ -1,8 +1,13 @@
 #include "ui/overview/FlowLayout.h"
 
+#include <QStyle>
+#include <QWidget>
+
 #include <algorithm>
 
 namespace ZARN {
+
+FlowLayout::~FlowLayout() = default;
 
 QLayoutItem* FlowLayout::itemAt(int index) const
 {
@@ -18,49 +23,58 @@ QLayoutItem* FlowLayout::takeAt(int index)
     return pItem;
 }
 
-std::vector<FlowLayout::Row> FlowLayout::rows(int width) const
+QSize FlowLayout::sizeHint() const
 {
-    std::vector<Row> rows;
-    for (std::size_t i = 0; i < mItems.size(); ++i) {
-        const QSize size = mItems[i]->sizeHint();
-        if (rows.empty() || rows.back().width + spacing() + size.width() > width)
-            rows.push_back({i, -spacing(), 0});
-        Row& row = rows.back();
-        row = {i + 1, row.width + spacing() + size.width(), std::max(row.height, size.height())};
-    }
-    return rows;
-}
-
-int FlowLayout::heightForWidth(int width) const
-{
-    int height = -spacing();
-    for (const Row& row : rows(width))
-        height += row.height + spacing();
-    return std::max(height, 0);
+    QSize size;
+    for (const auto& pItem : mItems)
+        size = {size.width() + pItem->sizeHint().width() + (size.isEmpty() ? 0 : mGap), std::max(size.height(), pItem->sizeHint().height())};
+    return size;
 }
 
 QSize FlowLayout::minimumSize() const
 {
-    QSize size(0, 0);
+    QSize size;
     for (const auto& pItem : mItems)
         size = size.expandedTo(pItem->sizeHint());
     return size;
 }
 
-void FlowLayout::setGeometry(const QRect& rect)
+void FlowLayout::setGeometry(const QRect& area)
 {
-    QLayout::setGeometry(rect);
-    std::size_t i = 0;
-    int y = rect.top();
-    for (const Row& row : rows(rect.width())) {
-        int x = rect.right() + 1 - row.width;
-        for (; i < row.end; ++i) {
-            const QSize size = mItems[i]->sizeHint();
-            mItems[i]->setGeometry({QPoint(x, y), size});
-            x += size.width() + spacing();
-        }
-        y += row.height + spacing();
+    QLayout::setGeometry(area);
+    place(area, true);
+}
+
+std::pair<std::size_t, int> FlowLayout::row(std::size_t first, int width) const
+{
+    int taken = mItems[first]->sizeHint().width();
+    std::size_t next = first + 1;
+    for (; next < mItems.size(); ++next) {
+        const int wanted = taken + mGap + mItems[next]->sizeHint().width();
+        if (wanted > width)
+            break;
+        taken = wanted;
     }
+    return {next, taken};
+}
+
+int FlowLayout::place(const QRect& area, bool isMoving) const
+{
+    int top = area.top();
+    for (std::size_t first = 0; first < mItems.size();) {
+        const auto [next, taken] = row(first, area.width());
+        int left = mAlignment.testFlag(Qt::AlignRight) ? area.right() + 1 - taken : area.left();
+        int height = 0;
+        for (; first < next; ++first) {
+            const QRect place(QPoint(left, top), mItems[first]->sizeHint());
+            if (isMoving)
+                mItems[first]->setGeometry(QStyle::visualRect(parentWidget()->layoutDirection(), area, place));
+            left += place.width() + mGap;
+            height = std::max(height, place.height());
+        }
+        top += height + (first < mItems.size() ? mGap / 2 : 0);
+    }
+    return top - area.top();
 }
 
 } // namespace ZARN

@@ -23,19 +23,14 @@ constexpr double kFigureSize = 1.3;
 constexpr int kWide = 58; // times the text: from here on the figures have room beside the verdict
 constexpr int kBar = 6;   // pixels of the verdict's colour at the left
 constexpr std::size_t kRowsShown = 50;
+constexpr int kFlightsShown = 24; // the strip has all
 
 QLabel* makeLabel(QLabel* pLabel, const QString& name)
 {
     pLabel->setObjectName(name);
     pLabel->setTextFormat(Qt::PlainText);
     pLabel->setWordWrap(true);
-    pLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
     return pLabel;
-}
-
-EVerdict verdictOf(const CycleOverview& cycle)
-{
-    return cycle.problem.isEmpty() ? cycle.review.verdict : EVerdict::eUnknown;
 }
 
 } // namespace
@@ -69,7 +64,7 @@ QBoxLayout* WidgetCycleCard::createHead()
     pTexts->addWidget(makeLabel(new QLabel(OverviewTexts::origin(*mpCycle)), "quiet"));
     auto* pVerdict = new QHBoxLayout;
     pVerdict->setSpacing(12);
-    pVerdict->addWidget(new VerdictMark(verdictOf(*mpCycle), kMarkSize), 0, Qt::AlignTop);
+    pVerdict->addWidget(new VerdictMark(mpCycle->verdict(), kMarkSize), 0, Qt::AlignTop);
     pVerdict->addLayout(pTexts, 1);
     mpHead = new QBoxLayout(QBoxLayout::LeftToRight);
     mpHead->setSpacing(8);
@@ -80,18 +75,18 @@ QBoxLayout* WidgetCycleCard::createHead()
 
 QLayout* WidgetCycleCard::createFigures() const
 {
-    auto* pFigures = new QHBoxLayout;
-    pFigures->setSpacing(22);
+    auto* pFigures = new FlowLayout(22);
     for (const OverviewTexts::Figure& figure : OverviewTexts::figures(*mpCycle)) {
-        auto* pColumn = new QVBoxLayout;
+        auto* pFigure = new QWidget;
+        auto* pColumn = new QVBoxLayout(pFigure);
+        pColumn->setContentsMargins(0, 0, 0, 0);
         pColumn->setSpacing(1);
         for (QLabel* pLabel : {makeLabel(new Heading(figure.value, nullptr, kFigureSize), "heading"), makeLabel(new QLabel(figure.name), "quiet")}) {
             pLabel->setWordWrap(false);
             pColumn->addWidget(pLabel);
         }
-        pFigures->addLayout(pColumn);
+        pFigures->addWidget(pFigure);
     }
-    pFigures->addStretch();
     return pFigures;
 }
 
@@ -125,9 +120,9 @@ void WidgetCycleCard::addButton(QLayout& layout, const QString& text, const QStr
 
 QLayout* WidgetCycleCard::createFoot()
 {
-    auto* pFoot = new FlowLayout; // many flights want more width than there is
+    auto* pFoot = new FlowLayout(6, Qt::AlignRight);
     addButton(*pFoot, tr("Open cycle"), tr("Load the whole power cycle"), [this] { Q_EMIT signalFlight(number(), -1); });
-    for (int i = 0; i < static_cast<int>(mpCycle->flights.size()) && i < 6; ++i)
+    for (int i = 0; i < static_cast<int>(mpCycle->flights.size()) && i < kFlightsShown; ++i)
         addButton(*pFoot, tr("Flight %1").arg(i + 1), tr("Load this flight"), [this, i] { Q_EMIT signalFlight(number(), i); });
     addButton(*pFoot, tr("Copy"), tr("Copy what is told of this cycle as text"), [this] { copy(OverviewTexts::plain(*mpCycle)); });
     return pFoot;
@@ -145,14 +140,19 @@ void WidgetCycleCard::paintEvent(QPaintEvent* pEvent)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setClipRect(0, 0, kBar, height());
     painter.setPen(Qt::NoPen);
-    painter.setBrush(VerdictSign::colour(verdictOf(*mpCycle)));
+    painter.setBrush(VerdictSign::colour(mpCycle->verdict()));
     painter.drawRoundedRect(QRectF(0, 0, 2 * kBar, height()), kBar, kBar);
 }
 
 void WidgetCycleCard::resizeEvent(QResizeEvent* pEvent)
 {
     QFrame::resizeEvent(pEvent);
-    const bool isWide = width() >= kWide * QFontInfo(font()).pixelSize();
+    fitTo(width());
+}
+
+void WidgetCycleCard::fitTo(int room)
+{
+    const bool isWide = room >= kWide * QFontInfo(font()).pixelSize();
     mpHead->setDirection(isWide ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
 }
 

@@ -14,6 +14,8 @@ class WidgetCycleCard : public QFrame {
 
 public:
     explicit WidgetCycleCard(std::shared_ptr<const CycleOverview> pCycle, QWidget* pParent = nullptr);
+    /// Arranges itself for that width, before it has it.
+    void fitTo(int room);
 
     [[nodiscard]] uint32_t number() const { return mpCycle->number; }
     [[nodiscard]] const CycleOverview& cycle() const { return *mpCycle; }

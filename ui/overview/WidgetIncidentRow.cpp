@@ -35,6 +35,7 @@ WidgetIncidentRow::WidgetIncidentRow(int state, const QString& time, const QStri
     setAccessibleDescription(detail);
     setToolTip(tr("Show in the graph"));
     setFocusPolicy(Qt::StrongFocus);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred); // a button's own would never let the texts wrap
     setCursor(Qt::PointingHandCursor);
     mpTime->setWordWrap(false);
     auto* pTexts = new QVBoxLayout;

@@ -5,6 +5,7 @@
 #include "support/TestCycle.h"
 
 #include <QAction>
+#include <QCheckBox>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QLabel>
@@ -66,6 +67,7 @@ class TestDialogProfile : public QObject {
 
 private Q_SLOTS:
     void searching();
+    void onlyRecorded();
     void projectInStep();
 };
 
@@ -88,6 +90,24 @@ void TestDialogProfile::searching()
     QCOMPARE(panel.pTree->model()->rowCount(), 2);
     QVERIFY(!panel.pTree->isExpanded(panel.at(0)));
     QVERIFY(panel.pTree->isExpanded(panel.at(1)));
+}
+
+void TestDialogProfile::onlyRecorded()
+{
+    Panel panel;
+    panel.trigger("selectAll", panel.at(0));
+    panel.dialog.findChild<QCheckBox*>()->click();
+    QCOMPARE(panel.pTree->model()->rowCount(), 2); // nothing is loaded
+    panel.dialog.setRecorded(std::set<uint32_t>{301});
+    QCOMPARE(panel.pTree->model()->rowCount(), 1);
+    QCOMPARE(panel.pTree->model()->rowCount(panel.at(0)), 1);
+    QCOMPARE(panel.count(), "3 of 3 parameters selected, 2 of them not recorded");
+    panel.trigger("selectNone", panel.at(0)); // what is hidden keeps its tick
+    QCOMPARE(panel.count(), "2 of 3 parameters selected, 2 of them not recorded");
+    QTest::keyClicks(panel.pSearch, "Lane");
+    QCOMPARE(panel.at(0, 0).data().toString(), "<b>Oil</b> %1 & co");
+    panel.dialog.setRecorded(std::set<uint32_t>{411});
+    QCOMPARE(panel.pTree->model()->rowCount(), 0);
 }
 
 void TestDialogProfile::projectInStep()

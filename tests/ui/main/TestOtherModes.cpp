@@ -11,11 +11,14 @@
 #include "ui/main/StatusProgress.h"
 #include "ui/main/WidgetWelcome.h"
 
+#include <QAction>
 #include <QComboBox>
 #include <QDir>
+#include <QLabel>
 #include <QMenuBar>
 #include <QTableView>
 #include <QToolBar>
+#include <QToolButton>
 #include <QTreeWidget>
 #include <QtTest>
 
@@ -32,6 +35,7 @@ private Q_SLOTS:
     void tellsOnce();
     void loading();
     void emu();
+    void layouts();
     void units();
     void failedSaveAtQuit_data();
     void failedSaveAtQuit();
@@ -163,6 +167,55 @@ void TestOtherModes::emu()
     entry.payload = {0x42, 0xb4, 0, 0, 0x42, 0xb4, 0, 0}; // 90 in each half
     QVERIFY(desktop.container.recordData().appendLive(entry));
     QTRY_VERIFY(showsFirst(window, "90"));
+}
+
+void TestOtherModes::layouts()
+{
+    {
+        DesktopFixture desktop(home(), {card().toStdString()});
+        DialogMain& window = desktop.open();
+        started(window);
+        auto* pLayouts = window.findChild<QComboBox*>("layouts");
+        auto& graph = *window.findChild<DialogDataGraph*>();
+        const auto entry = [&window](const QString& text) {
+            for (QAction* pAction : window.findChild<QToolButton*>("layoutMenu")->menu()->actions())
+                if (pAction->text() == text)
+                    return pAction;
+            return static_cast<QAction*>(nullptr);
+        };
+        QCOMPARE(pLayouts->currentText(), QString("Engine")); // at the very first start
+        QVERIFY(desktop.profile.isSelected("Engine Speed") && !window.isProjectModified());
+        Q_EMIT pLayouts->activated(pLayouts->findText("EGT"));
+        QVERIFY(desktop.profile.isSelected("EGT Spread") && !desktop.profile.isSelected("Engine Speed") && window.isProjectModified());
+        graph.graphData().displayMode = eSingleGraph;
+        Q_EMIT graph.signalLayout();
+        QCOMPARE(pLayouts->currentText(), QString("EGT (changed)"));
+        QVERIFY(!entry("Save")->isEnabled() && !entry("Remove")->isEnabled()); // it is the profile's
+        Answer name([](QWidget* pModal) {
+            pModal->findChild<QLineEdit*>()->setText(" Mine ");
+            static_cast<QDialog*>(pModal)->accept();
+        });
+        entry("Save As...")->trigger();
+        QTRY_COMPARE(pLayouts->currentText(), QString("Mine"));
+        Q_EMIT pLayouts->activated(pLayouts->findText("Tow"));
+        Q_EMIT pLayouts->activated(pLayouts->findText("Mine"));
+        QVERIFY(graph.graphData().displayMode == eSingleGraph && desktop.profile.isSelected("EGT Spread"));
+        desktop.project.saveProject(desktop.folders.dataPath().c_str() + QString("/CurrentProject.xml"));
+        putFile(desktop.folders.dataPath() + "/Layouts.xml", // as another profile's
+                "<ZarnLayouts><Layout name='Mine'><Parameter name='EGT Spread' height='2' color='#ff00ff'/><Parameter name='Vane'/></Layout></ZarnLayouts>");
+    }
+    DesktopFixture desktop(home(), {card().toStdString()});
+    DialogMain& window = desktop.open();
+    started(window);
+    QCOMPARE(window.findChild<QComboBox*>("layouts")->currentText(), QString("Mine (changed)")); // the ticks are the project's
+    QCOMPARE(window.findChild<QLabel*>("missing")->text(), QString("Not in this profile: Vane"));
+    Q_EMIT window.findChild<QComboBox*>("layouts")->activated(window.findChild<QComboBox*>("layouts")->currentIndex());
+    window.slotLoadCycle(2, -1);
+    settled(window);
+    QVERIFY(window.findChild<DialogData*>()->graphSpan().has_value()); // fills it
+    const GraphParameter& trace = *window.findChild<DialogDataGraph*>()->graph().model().traces().at(0);
+    QVERIFY(trace.active && trace.name == "EGT Spread" && trace.height == 2.0 && trace.drawnColour == QColor("#ff00ff"));
+    QCOMPARE(window.findChild<QComboBox*>("layouts")->currentText(), QString("Mine"));
 }
 
 void TestOtherModes::units()

@@ -9,6 +9,7 @@
 
 #include <QAction>
 #include <QDir>
+#include <QLabel>
 #include <QtTest>
 
 using namespace ZARN;
@@ -69,6 +70,12 @@ void TestOverview::demoCard()
     QTest::keyClick(pOverview, Qt::Key_Return);
     settled(window);
     QTRY_COMPARE(desktop.container.selectedFlightNumber(), 2);
+
+    QVERIFY(QDir().rename(card, card + "-pulled"));
+    window.action(eActionOverview)->trigger();
+    window.slotUnitChanged(0);
+    QTRY_VERIFY_WITH_TIMEOUT(!pOverview->findChildren<QLabel*>("warning").isEmpty() && pOverview->findChild<QLabel*>("warning")->isVisible(), 60000);
+    QVERIFY(cards().isEmpty() && pOverview->findChild<QLabel*>("warning")->text().startsWith("The card cannot be read any more."));
 }
 
 void TestOverview::verdicts_data()
@@ -78,6 +85,7 @@ void TestOverview::verdicts_data()
     QTest::addColumn<QString>("text");
     QTest::newRow("ok") << EVerdict::eOk << QString() << "Nothing outside its limits while the engine ran";
     QTest::newRow("unknown is not ok") << EVerdict::eUnknown << QString() << "Cannot tell whether the engine was all right";
+    QTest::newRow("partial is not ok") << EVerdict::eOk << QString() << "Cannot tell whether the engine was all right";
     QTest::newRow("unread") << EVerdict::eOk << "too large" << "This cycle could not be read";
 }
 
@@ -88,8 +96,11 @@ void TestOverview::verdicts()
     QFETCH(EVerdict, verdict);
     cycle.review.verdict = verdict;
     cycle.problem = problem;
+    cycle.isPartial = QByteArray(QTest::currentDataTag()).startsWith("partial");
+    cycle.endTime = -1; // clocks that ran backwards
     QTEST(OverviewTexts::verdict(cycle), "text");
     QCOMPARE(OverviewTexts::basis(cycle).isEmpty(), false);
+    QCOMPARE(OverviewTexts::figures(cycle)[0].value, QString("-"));
     QCOMPARE(OverviewTexts::figures(cycle)[1].value, QString("-"));
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "analysis/TimeSpan.h"
+#include "project/DisplayLayout.h"
 
 #include <optional>
 #include <set>
@@ -62,6 +63,10 @@ public:
     [[nodiscard]] virtual std::optional<TimeSpan> shownSpan() const { return {}; }
     /// Shows that part of the record, and the parameters of these names whether they are ticked or not.
     virtual void showSpan(const TimeSpan& /*span*/, const std::set<std::string>& /*parameters*/) {}
+    /// Shows what is ticked as a layout tells, for a view that can.
+    virtual void setLayout(const DisplayLayout& /*layout*/) {}
+    /// What is ticked, and how the view shows it; none for a view that knows no layouts.
+    [[nodiscard]] virtual std::optional<DisplayLayout> layout() const { return {}; }
 
 protected:
     DataView() = default;

@@ -50,6 +50,15 @@ int longestNumber(const GraphModel& model)
     return static_cast<int>(longest);
 }
 
+/// How much of the plot's height a shown trace's strip takes.
+double partOfStrip(const GraphModel& model, int index)
+{
+    double all = 0;
+    for (const int shown : model.traces().shown())
+        all += model.traces().at(shown)->height;
+    return model.traces().at(index)->height / all;
+}
+
 } // namespace
 
 GraphLayout::GraphLayout(const GraphModel& model, const QSizeF& size, double textSize)
@@ -80,11 +89,13 @@ void GraphLayout::placeStrips(const GraphModel& model)
     if (model.settings().displayMode != eSplit || shown.empty())
         return;
     mStrips.assign(model.traces().all().size(), mPlot);
-    mStripHeight = mPlot.height() / static_cast<double>(shown.size());
-    for (std::size_t row = 0; row < shown.size(); ++row) {
-        const double top = mStripHeight * static_cast<double>(row);
-        const double first = std::round(top), last = std::round(top + mStripHeight);
-        mStrips[static_cast<std::size_t>(shown[row])] = {mPlot.left(), mPlot.top() + first, mPlot.width(), last - first};
+    mStripHeight = mPlot.height();
+    double top = 0;
+    for (const int index : shown) {
+        const double height = mPlot.height() * partOfStrip(model, index), first = std::round(top);
+        mStripHeight = std::min(mStripHeight, height);
+        top += height;
+        mStrips[static_cast<std::size_t>(index)] = {mPlot.left(), mPlot.top() + first, mPlot.width(), std::round(top) - first};
     }
 }
 
@@ -160,7 +171,7 @@ double GraphLayout::axisWidth(const GraphModel& model, double height) const
     };
     if (model.settings().displayMode == eSplit) {
         for (const int index : model.traces().shown())
-            measure(index, height / model.traces().count());
+            measure(index, height * partOfStrip(model, index));
     } else {
         measure(model.traces().axis(), height);
     }

@@ -71,7 +71,7 @@ private:
     QSizeF mSize;
     QRectF mPlot;
     std::vector<QRectF> mStrips; // by slot; empty in a single graph
-    double mStripHeight = 0.0;   // before they are rounded to pixels
+    double mStripHeight = 0.0;   // of the lowest, before it is rounded to pixels
     QRectF mLegendRect;
     QRectF mTable;
     ELegend mLegend = ELegend::eNone;

@@ -25,6 +25,7 @@ struct GraphParameter {
     QColor drawnColour;        ///< such that it can be told from the graph's ground
     int precision = 2;         ///< decimal digits of its values
     bool active = false;
+    double height = 1.0;         ///< of its strip, in those of others
     bool samplesVisible = false; ///< each sample is marked where they stand apart
     SampleSeries samples;
     std::vector<GraphBand> bands;

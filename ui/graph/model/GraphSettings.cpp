@@ -27,35 +27,56 @@ void GraphSettings::store(const GraphModel& model)
     const bool clickMovesCursor = model.settings().clickMovesCursor;
     bool isChanged = clickMovesCursor != Settings::kGraphClickMovesCursor.get(mProperty);
     Settings::kGraphClickMovesCursor.set(mProperty, clickMovesCursor);
-    for (const int slot : model.traces().shown())
-        isChanged = storeColour(slot, *model.traces().at(slot)) || isChanged;
+    for (const int slot : model.traces().shown()) {
+        const GraphParameter& trace = *model.traces().at(slot);
+        const std::string name = trace.name.toStdString();
+        isChanged |= trace.hasOwnColour ? setColour(colourNumber(slot, trace.name), trace.colour.name().toStdString(), name)
+                                        : setColour(colourNumber(slot, trace.name), {}, {});
+    }
     if (isChanged)
         mProperty.writeXmlFile();
 }
 
-int GraphSettings::colourNumber(int slot, const QString& name) const
+std::string GraphSettings::colour(const std::string& name) const
 {
-    const std::string wanted = name.toStdString();
-    for (int number = 0; number < kColour.count && !wanted.empty(); ++number) {
-        if (kOwner.get(mProperty, number) == wanted)
+    const std::optional<int> number = ownNumber(name);
+    return number ? kColour.get(mProperty, *number) : std::string();
+}
+
+bool GraphSettings::setColour(const std::string& name, const std::string& colour)
+{
+    return setColour(ownNumber(name).value_or(freeNumber()), colour, name);
+}
+
+std::optional<int> GraphSettings::ownNumber(const std::string& name) const
+{
+    for (int number = 0; number < kColour.count && !name.empty(); ++number) {
+        if (kOwner.get(mProperty, number) == name)
             return number;
     }
-    if (kOwner.get(mProperty, slot).empty()) // one without an owner is the slot's
-        return slot;
+    return std::nullopt;
+}
+
+int GraphSettings::colourNumber(int slot, const QString& name) const
+{
+    if (const std::optional<int> number = ownNumber(name.toStdString()))
+        return *number;
+    return kOwner.get(mProperty, slot).empty() ? slot : freeNumber(); // one without an owner is the slot's
+}
+
+int GraphSettings::freeNumber() const
+{
     int number = 0;
     while (number < kColour.count && !kColour.get(mProperty, number).empty())
         ++number;
     return number;
 }
 
-bool GraphSettings::storeColour(int slot, const GraphParameter& trace)
+bool GraphSettings::setColour(int number, const std::string& colour, const std::string& owner)
 {
-    const int number = colourNumber(slot, trace.name);
-    const std::string value = trace.hasOwnColour ? trace.colour.name().toStdString() : std::string();
-    const std::string owner = trace.hasOwnColour ? trace.name.toStdString() : std::string();
-    if (value == kColour.get(mProperty, number) && owner == kOwner.get(mProperty, number))
+    if (colour == kColour.get(mProperty, number) && owner == kOwner.get(mProperty, number))
         return false;
-    kColour.set(mProperty, number, value);
+    kColour.set(mProperty, number, colour);
     kOwner.set(mProperty, number, owner);
     return true;
 }

@@ -2,6 +2,9 @@
 
 #include "ui/graph/model/GraphModel.h"
 
+#include <optional>
+#include <string>
+
 namespace ZARN {
 
 class Property;
@@ -16,11 +19,18 @@ public:
     /// Keeps what the graph has now, and writes the settings when that is something else.
     void store(const GraphModel& model);
 
+    /// The colour that the user gave to a parameter, #rrggbb; empty when there is none.
+    [[nodiscard]] std::string colour(const std::string& name) const;
+    /// Keeps a colour for a parameter; what the graph draws follows at the next load(). @return whether it was another one
+    bool setColour(const std::string& name, const std::string& colour);
+
 private:
+    /// The number of the parameter's colour; none when it has none.
+    [[nodiscard]] std::optional<int> ownNumber(const std::string& name) const;
     /// Under which number the settings keep the colour of the parameter in that slot.
     [[nodiscard]] int colourNumber(int slot, const QString& name) const;
-    /// Whether it has changed.
-    bool storeColour(int slot, const GraphParameter& trace);
+    [[nodiscard]] int freeNumber() const;
+    bool setColour(int number, const std::string& colour, const std::string& owner);
 
     Property& mProperty;
 };

@@ -1,5 +1,6 @@
 #include "ui/graph/model/RecordGraph.h"
 
+#include "app/Property.h"
 #include "card/CardContainer.h"
 #include "profile/Profile.h"
 #include "trace/TraceSet.h"
@@ -7,6 +8,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <tuple>
 #include <utility>
 
 namespace ZARN {
@@ -40,7 +42,10 @@ template <typename Visitor> int RecordGraph::forEachTrace(const RecordData* pRec
 void RecordGraph::describeSlots()
 {
     ShownTraces& traces = mModel.traces();
-    const int used = forEachTrace(nullptr, [&](int slot, const Trace& trace) { describeSlot(traces, slot, trace); });
+    const int used = forEachTrace(nullptr, [&](int slot, const Trace& trace) {
+        describeSlot(traces, slot, trace);
+        traces.setHeight(slot, heightOf(trace.name()));
+    });
     for (int slot = used; slot < kSlots; ++slot)
         traces.setActive(slot, false);
     std::vector<int> inUse(static_cast<std::size_t>(used));
@@ -74,6 +79,57 @@ std::vector<QString> RecordGraph::names(const std::vector<int>& slotNumbers) con
 void RecordGraph::keepStrips()
 {
     mStrips.keep(names(mModel.traces().shown()));
+}
+
+double RecordGraph::heightOf(const std::string& name) const
+{
+    const auto found = mHeights.find(name);
+    return found == mHeights.end() ? 1.0 : found->second;
+}
+
+void RecordGraph::setLayout(const DisplayLayout& layout)
+{
+    std::vector<QString> order;
+    mHeights.clear();
+    mBeside.clear();
+    bool isColoured = false;
+    for (const DisplayLayout::Parameter& parameter : layout.parameters) {
+        order.push_back(QString::fromStdString(parameter.name));
+        mHeights[parameter.name] = parameter.height;
+        // Without one in the layout the parameter keeps the colour that the user gave to it.
+        isColoured |= !parameter.colour.isEmpty() && mSettings.setColour(parameter.name, parameter.colour.toStdString());
+    }
+    if (isColoured)
+        mSession.property.writeXmlFile();
+    mStrips.keep(order);
+    GraphData& settings = mModel.settings();
+    settings.displayMode = layout.isSplit ? eSplit : eSingleGraph;
+    settings.scale.isAutomatic = !layout.scale;
+    if (layout.scale)
+        std::tie(settings.scale.lower, settings.scale.upper) = *layout.scale;
+    mModel.settingsChanged();
+}
+
+DisplayLayout RecordGraph::layout() const
+{
+    std::vector<QString> ticked;
+    for (const ProfileDevice& device : mSession.profile.data()) {
+        for (const ProfileParameter& parameter : device.parameters) {
+            const QString name = QString::fromStdString(parameter.name);
+            if (mSession.profile.isSelected(parameter.name) && std::ranges::find(ticked, name) == ticked.end())
+                ticked.push_back(name);
+        }
+    }
+    DisplayLayout layout;
+    for (const int place : StripOrder(mStrips).slotsFor(ticked)) {
+        const std::string name = ticked[static_cast<std::size_t>(place)].toStdString();
+        layout.parameters.push_back({name, heightOf(name), QString::fromStdString(mSettings.colour(name))});
+    }
+    const GraphData& settings = mModel.settings();
+    layout.isSplit = settings.displayMode == eSplit;
+    if (!settings.scale.isAutomatic)
+        layout.scale.emplace(settings.scale.lower, settings.scale.upper);
+    return layout;
 }
 
 void RecordGraph::fillRecord()

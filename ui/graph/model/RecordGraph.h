@@ -1,6 +1,7 @@
 #pragma once
 
 #include "analysis/TimeSpan.h"
+#include "project/DisplayLayout.h"
 #include "project/Session.h"
 #include "ui/graph/model/GraphModel.h"
 #include "ui/graph/model/GraphSettings.h"
@@ -9,6 +10,7 @@
 #include <QCoreApplication>
 #include <QDateTime>
 
+#include <map>
 #include <set>
 
 namespace ZARN {
@@ -38,6 +40,11 @@ public:
     void setZarnMode(int mode);
     /// The user moved a strip.
     void keepStrips();
+    /// Order, heights, colours, scale and mode of a layout; drawn with the next update of profile or record, which the ticks of the layout
+    /// want in any case. What an incident showed beside them goes.
+    void setLayout(const DisplayLayout& layout);
+    /// What is ticked, and how it is shown; without a name.
+    [[nodiscard]] DisplayLayout layout() const;
 
     [[nodiscard]] bool hasRecord() const { return mpRecord != nullptr; }
     [[nodiscard]] bool hasSamples() const;
@@ -68,6 +75,7 @@ private:
     [[nodiscard]] std::vector<QString> names(const std::vector<int>& slotNumbers) const;
     [[nodiscard]] RecordKey recordKey() const;
     [[nodiscard]] QString emptyMessage() const;
+    [[nodiscard]] double heightOf(const std::string& name) const;
     void describeSlots();
     void fillRecord();
 
@@ -75,6 +83,7 @@ private:
     GraphModel& mModel;
     GraphSettings mSettings;
     StripOrder mStrips;
+    std::map<std::string, double> mHeights; ///< of strips, by the name of the parameter; of those that differ
     std::set<std::string> mBeside; ///< names of parameters that are shown without being ticked
     RecordData* mpRecord = nullptr;
     RecordKey mMarkedRecord;

@@ -92,6 +92,13 @@ void ShownTraces::setPrecision(int index, int digits)
     changed();
 }
 
+void ShownTraces::setHeight(int index, double strips)
+{
+    if (GraphParameter* pTrace = slot(index))
+        pTrace->height = strips;
+    changed();
+}
+
 void ShownTraces::setSamplesVisible(int index, bool on)
 {
     if (GraphParameter* pTrace = slot(index))

@@ -27,6 +27,7 @@ public:
     void setActive(int index, bool on);
     void setName(int index, const QString& name, const QString& unit);
     void setPrecision(int index, int digits);
+    void setHeight(int index, double strips);
     void setSamplesVisible(int index, bool on);
     void setBands(int index, std::vector<GraphBand> bands);
     /// The user's own choice; an invalid one gives back the colour that the slot has by itself.

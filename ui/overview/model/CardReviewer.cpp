@@ -1,9 +1,12 @@
 #include "ui/overview/model/CardReviewer.h"
 
 #include "app/Console.h"
+#include "app/FileName.h"
 #include "card/CardContainer.h"
 #include "card/PowerUp.h"
 #include "profile/Profile.h"
+
+#include <QFileInfo>
 
 #include <algorithm>
 
@@ -28,6 +31,27 @@ private:
     std::size_t mDone = 0;
 };
 
+/// Whether the files of the loaded cycle are there no more, so that whatever was read of them is not the whole.
+bool isGone(const CardContainer& card, uint32_t number)
+{
+    const auto& files = card.recordCycles().at(number).files;
+    return std::ranges::any_of(card.loadProblems(), &CardProblem::isSystemError) &&
+           std::ranges::none_of(files, [](const RecordInfo& file) { return QFileInfo::exists(file.fileName); });
+}
+
+/// Notes what of the cycle's files could not be read.
+void noteDamages(CycleOverview& overview, const CardContainer& card)
+{
+    for (const CardProblem& problem : card.problems()) {
+        const QString end = '/' + decodeFileName(problem.file);
+        const auto isOf = [&end](const RecordInfo& file) { return file.fileName.endsWith(end); };
+        if (std::ranges::none_of(card.recordCycles().at(overview.number).files, isOf))
+            continue;
+        overview.damages.append(end.mid(1) + ": " + problem.reason + ".");
+        overview.isPartial |= problem.isSystemError;
+    }
+}
+
 /// The loaded cycle of a container, as a value of its own.
 std::shared_ptr<CycleOverview> overviewOf(const CardContainer& card, uint32_t number)
 {
@@ -38,6 +62,7 @@ std::shared_ptr<CycleOverview> overviewOf(const CardContainer& card, uint32_t nu
     pOverview->startTime = card.startTime();
     pOverview->endTime = card.endTime();
     pOverview->flights = cycle.flights;
+    noteDamages(*pOverview, card);
     pOverview->problem = QString::fromStdString(card.loadError());
     if (pOverview->problem.isEmpty())
         pOverview->review = reviewCycle(card.values(), cycle.flights, cycle.endTime);
@@ -69,14 +94,14 @@ void CardReviewer::stop()
 
 void CardReviewer::begin()
 {
-    mIsWanted = false;
+    mIsWanted = mIsGone = false;
     std::vector<uint32_t> numbers;
     for (const auto& [number, cycle] : mSession.container.recordCycles())
         numbers.push_back(number);
     std::ranges::reverse(numbers);
     mTask.start([this, context = mSession.profile.context(), path = mSession.container.path(), generation = mGeneration,
                  numbers](Progress& progress) {
-        review(progress, context, path, numbers, [this, generation](std::shared_ptr<const CycleOverview> pCycle) {
+        mIsGone = !review(progress, context, path, numbers, [this, generation](std::shared_ptr<const CycleOverview> pCycle) {
             QMetaObject::invokeMethod(
                 this,
                 [this, generation, pCycle] {
@@ -92,28 +117,34 @@ void CardReviewer::finish()
 {
     if (mIsWanted)
         return begin();
-    if (!mTask.isCancelled())
+    if (mTask.isCancelled())
+        return;
+    if (mIsGone || !mTask.error().isEmpty())
+        Q_EMIT signalStopped(mTask.error());
+    else
         Q_EMIT signalFinished();
 }
 
 /// In a thread of its own.
-void CardReviewer::review(Progress& progress, const DecodingContext& context, const QString& path, const std::vector<uint32_t>& numbers,
+bool CardReviewer::review(Progress& progress, const DecodingContext& context, const QString& path, const std::vector<uint32_t>& numbers,
                           const Tell& tell)
 {
     const Console silent([](std::string_view) {}, [](std::string_view) {}); // the window has its own lines about the same files
     CardContainer card(silent, context, nullProgress());
     if (!card.readContainer(path))
-        return;
+        return false;
     PartProgress part(progress, numbers.size());
     card.setProgress(part);
     for (const uint32_t number : numbers) {
         const bool isLoaded = card.loadCycle(number, -1);
         if (progress.isCancelled())
-            return;
-        if (isLoaded)
-            tell(overviewOf(card, number));
+            return true;
+        if (!isLoaded || isGone(card, number))
+            return false;
+        tell(overviewOf(card, number));
         part.next();
     }
+    return true;
 }
 
 } // namespace ZARN

@@ -6,6 +6,8 @@
 
 #include <QObject>
 
+#include <atomic>
+
 namespace ZARN {
 
 class DecodingContext;
@@ -26,6 +28,8 @@ public:
 Q_SIGNALS:
     void signalReviewed(std::shared_ptr<const ZARN::CycleOverview> pCycle);
     void signalProgress(int percent);
+    /// In place of signalFinished(): what was told is all. @param problem for people; empty when the card cannot be read any more
+    void signalStopped(const QString& problem);
     void signalFinished();
 
 private:
@@ -33,12 +37,14 @@ private:
 
     void begin();
     void finish();
-    static void review(Progress& progress, const DecodingContext& context, const QString& path, const std::vector<uint32_t>& numbers,
+    /// @return false when the card cannot be read
+    static bool review(Progress& progress, const DecodingContext& context, const QString& path, const std::vector<uint32_t>& numbers,
                        const Tell& tell);
 
     const Session mSession;
     int mGeneration = 0; ///< of the run: what an earlier one still tells is old
     bool mIsWanted = false;
+    std::atomic<bool> mIsGone = false;
     BackgroundTask mTask; // the last: it waits for work that refers to the others
 };
 

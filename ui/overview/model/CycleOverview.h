@@ -3,6 +3,7 @@
 #include "analysis/CycleReview.h"
 
 #include <QDateTime>
+#include <QStringList>
 
 namespace ZARN {
 
@@ -14,7 +15,14 @@ struct CycleOverview {
     double endTime = 0.0;
     std::vector<RecordFlight> flights;
     CycleReview review;
-    QString problem; ///< why there is no review, for people; else empty
+    QStringList damages; ///< what of its files could not be read, for people
+    bool isPartial = false; ///< the system kept some of it from being read: nothing can be called all right
+    QString problem;        ///< why there is no review, for people; else empty
+
+    [[nodiscard]] EVerdict verdict() const
+    {
+        return !problem.isEmpty() || (isPartial && review.verdict == EVerdict::eOk) ? EVerdict::eUnknown : review.verdict;
+    }
 };
 
 } // namespace ZARN

@@ -20,9 +20,9 @@ QString OverviewTexts::verdict(const CycleOverview& cycle)
 {
     if (!cycle.problem.isEmpty())
         return tr("This cycle could not be read");
-    if (cycle.review.verdict == EVerdict::eOk)
+    if (cycle.verdict() == EVerdict::eOk)
         return tr("Nothing outside its limits while the engine ran");
-    if (cycle.review.verdict == EVerdict::eUnknown)
+    if (cycle.verdict() == EVerdict::eUnknown)
         return tr("Cannot tell whether the engine was all right");
     return troubles(cycle);
 }
@@ -60,12 +60,15 @@ QString OverviewTexts::origin(const CycleOverview& cycle)
         text += ", " + tr("clock not set");
     }
     const int flights = static_cast<int>(cycle.flights.size());
-    return text + ", " + (flights == 0 ? tr("on the ground") : flights == 1 ? tr("1 flight") : tr("%1 flights").arg(flights));
+    return text + ", " + (flights == 0 ? tr("no flight found") : flights == 1 ? tr("1 flight") : tr("%1 flights").arg(flights));
 }
 
 std::vector<OverviewTexts::Figure> OverviewTexts::figures(const CycleOverview& cycle)
 {
-    const auto hours = [](double seconds) { // rounded to minutes
+    // Rounded to minutes. What clocks that ran backwards make of it is no length.
+    const auto hours = [](double seconds) {
+        if (seconds < 0)
+            return kNone;
         const int minutes = saturatingCast<int>(std::round(seconds / 60.0));
         return elapsedText(minutes * int64_t{60}, 1).chopped(3);
     };
@@ -76,7 +79,7 @@ std::vector<OverviewTexts::Figure> OverviewTexts::figures(const CycleOverview& c
     return {{hours(cycle.endTime - cycle.startTime), tr("recorded [h]")},
             {engine ? hours(*engine) : kNone, tr("engine ran [h]")},
             {flew ? hours(review.flightTime) : kNone, tr("in flight [h]")},
-            {isReviewed && review.fuel ? tr("%1 l").arg(QLocale().toString(*review.fuel, 'f', 1)) : kNone, tr("fuel")}};
+            {isReviewed && review.fuel.value_or(-1) >= 0 ? tr("%1 l").arg(QLocale().toString(*review.fuel, 'f', 1)) : kNone, tr("fuel")}};
 }
 
 std::vector<IncidentSentence> OverviewTexts::sentences(const CycleOverview& cycle)
@@ -99,7 +102,8 @@ QString OverviewTexts::basis(const CycleOverview& cycle)
     if (!cycle.problem.isEmpty())
         return cycle.problem;
     const ReviewText text(cycle.review);
-    QStringList lines = text.gaps();
+    QStringList lines = cycle.damages;
+    lines.append(text.gaps());
     if (cycle.review.sources > 0)
         lines.append(text.watched() + ".");
     if (const QString standing = text.standing(); !standing.isEmpty())
