@@ -70,7 +70,8 @@ bool FlightReport::fill(ReportDocument& document, Progress& progress) const
         progress.setProgress(percent);
         return !progress.isCancelled();
     };
-    document.language = tr("en", "code of the language of these texts");
+    //: code of the language that this is translated to
+    document.language = tr("en");
     document.title = tr("Flight report");
     document.head = head();
     document.creator = reportText(Revision::getRevisionString());

@@ -155,8 +155,10 @@ QString IncidentGraph::note(const Episode& episode)
 {
     if (!episode.shown)
         return {};
-    const QString limit = QString::number(episode.shown->limit, 'g', 6);
-    return (episode.side == ESide::eLow ? tr("least %1, limit %2") : tr("peak %1, limit %2")).arg(reportText(episode.text), limit);
+    const QString peak = (episode.side == ESide::eLow ? tr("least %1") : tr("peak %1")).arg(reportText(episode.text));
+    const QString limit = tr("limit %1").arg(QString::number(episode.shown->limit, 'g', 6));
+    const auto whole = [](QString text) { return text.replace(' ', QChar::Nbsp); }; // lines end between the two only
+    return whole(peak + ",") + " " + whole(limit);
 }
 
 void IncidentGraph::draw(PaperCanvas& canvas, const QRectF& place) const

@@ -55,8 +55,9 @@ bool PaperReport::write(SafeFile& file, Progress& progress)
     writer.setResolution(kResolution);
     writer.setTitle(printable(mDocument.title + ", " + mDocument.head));
     writer.setCreator(mDocument.creator);
-    return mPages.write(writer, tr("%1 of %2", "page number"), progress) &&
-           file.write({buffer.data().constData(), static_cast<std::size_t>(buffer.data().size())});
+    //: number of a page, and how many there are
+    const QString pageOf = tr("%1 of %2");
+    return mPages.write(writer, pageOf, progress) && file.write({buffer.data().constData(), static_cast<std::size_t>(buffer.data().size())});
 }
 
 QStringList PaperReport::wrapped(const QString& text, double width, const CanvasText& style, qsizetype most) const

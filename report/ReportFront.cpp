@@ -105,9 +105,9 @@ void ReportFront::addIncidents(ReportDocument& document) const
     if (sentences.size() > kMostSentences)
         document.add(ReportParagraph{moreText(sentences, kMostSentences), ReportParagraph::eAlert});
     else if (sentences.size() > kMostGraphs)
-        document.add(ReportParagraph{tr("The first %n are shown as graphs.", nullptr, static_cast<int>(kMostGraphs)), ReportParagraph::eQuiet});
+        document.add(ReportParagraph{tr("The first %1 are shown as graphs.").arg(kMostGraphs), ReportParagraph::eQuiet});
     if (mOutside > 0)
-        document.add(ReportParagraph{tr("%n more of this power cycle outside of the flight.", nullptr, static_cast<int>(mOutside))});
+        document.add(ReportParagraph{tr("Outside of the flight: %n more in this power cycle.", nullptr, static_cast<int>(mOutside))});
     const bool isAllKnown = ReviewText(mpOverview->review).gaps().isEmpty();
     document.add(ReportParagraph{OverviewTexts::basis(*mpOverview), isAllKnown ? ReportParagraph::eQuiet : ReportParagraph::eNormal});
 }

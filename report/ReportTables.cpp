@@ -28,10 +28,12 @@ bool addRow(ReportTable& table, const QStringList& cells, qsizetype most)
 
 } // namespace
 
-void ReportTables::add(ReportDocument& document, ReportTable table, const QString& nothing, int more)
+void ReportTables::add(ReportDocument& document, ReportTable table, const QString& nothing, int more, const QString& note)
 {
     if (table.columns.front().cells.isEmpty())
         return document.add(ReportParagraph{nothing});
+    if (!note.isEmpty())
+        document.add(ReportParagraph{note, ReportParagraph::eQuiet});
     document.add(std::move(table));
     if (more > 0)
         document.add(ReportParagraph{tr("and %n more", nullptr, more), ReportParagraph::eAlert});
@@ -121,7 +123,7 @@ void ReportTables::addEvents(ReportDocument& document, const EventList& list, co
                                     kMostRows);
         more += hasRoom ? 0 : 1;
     }
-    add(document, std::move(table), nothing, more);
+    add(document, std::move(table), nothing, more, tr("All of them, those of starting and stopping too, which the verdict does not count."));
 }
 
 void ReportTables::addFaults(ReportDocument& document) const
