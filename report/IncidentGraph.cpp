@@ -87,11 +87,14 @@ std::vector<IncidentGraph::Quantity> IncidentGraph::quantities(const std::vector
         for (const Episode& episode : pIncident->episodes) {
             if (isValueKind(episode) != isValue)
                 continue;
-            const QString name = IncidentText::laneless(reportText(episode.parameter));
-            const auto [place, isNew] = places.try_emplace(name, found.size());
+            const QString name = reportText(episode.parameter);
+            const auto [place, isNew] = places.try_emplace(IncidentText::laneless(name), found.size());
             if (isNew)
                 found.push_back({name, {}});
-            found[place->second].episodes.push_back(&episode);
+            Quantity& quantity = found[place->second];
+            if (quantity.name != name)
+                quantity.name = place->first;
+            quantity.episodes.push_back(&episode);
         }
     }
     const auto worseEpisode = [](const Episode* pA, const Episode* pB) { return isWorse(*pA, *pB); };
