@@ -123,7 +123,7 @@ void ReportTables::addEvents(ReportDocument& document, const EventList& list, co
                                     kMostRows);
         more += hasRoom ? 0 : 1;
     }
-    add(document, std::move(table), nothing, more, tr("All of them, those of starting and stopping too, which the verdict does not count."));
+    add(document, std::move(table), nothing, more, tr("All of them, those too which the verdict does not count: of starting, stopping and lane checks."));
 }
 
 void ReportTables::addFaults(ReportDocument& document) const
