@@ -5,8 +5,8 @@
 namespace ZARN::HtmlStyle {
 
 /// Nothing is loaded from elsewhere and nothing runs, whatever a card or profile is called.
-constexpr const char* kPolicy =
-    "<meta http-equiv=\"Content-Security-Policy\" content=\"default-src 'none'; img-src data:; font-src data:; style-src 'unsafe-inline'\">\n";
+constexpr const char* kPolicy = "<meta http-equiv=\"Content-Security-Policy\" content=\"default-src 'none'; img-src data:; font-src data:; "
+                                "style-src 'unsafe-inline'\">\n";
 
 constexpr const char* kSheet = R"(:root{color-scheme:light}
 body{font:15px/1.5 "ZARN Text","DejaVu Sans",sans-serif;color:#14212e;background:#fff;max-width:60rem;margin:1.5rem auto;padding:0 1.5rem}

@@ -63,9 +63,8 @@ std::vector<const Incident*> IncidentGraph::chosen(const std::vector<Incident>& 
         all.push_back(&incidents[place]);
     if (all.size() == 1 || sentence.end - sentence.start <= kTogether)
         return all;
-    return {*std::ranges::min_element(all, [](const Incident* pA, const Incident* pB) {
-        return isWorse(pA->episodes[pA->leading], pB->episodes[pB->leading]);
-    })};
+    return {*std::ranges::min_element(
+        all, [](const Incident* pA, const Incident* pB) { return isWorse(pA->episodes[pA->leading], pB->episodes[pB->leading]); })};
 }
 
 void IncidentGraph::findSpan(const std::vector<const Incident*>& incidents)
@@ -100,7 +99,8 @@ std::vector<IncidentGraph::Quantity> IncidentGraph::quantities(const std::vector
     const auto worseEpisode = [](const Episode* pA, const Episode* pB) { return isWorse(*pA, *pB); };
     for (Quantity& quantity : found)
         std::ranges::stable_sort(quantity.episodes, worseEpisode);
-    std::ranges::stable_sort(found, [&](const Quantity& a, const Quantity& b) { return worseEpisode(a.episodes.front(), b.episodes.front()); });
+    std::ranges::stable_sort(found,
+                             [&](const Quantity& a, const Quantity& b) { return worseEpisode(a.episodes.front(), b.episodes.front()); });
     return found;
 }
 
@@ -169,7 +169,8 @@ void IncidentGraph::draw(PaperCanvas& canvas, const QRectF& place) const
     PaperGraph graph(mLoaded, static_cast<int>(mStrips.size()));
     std::vector<std::optional<int>> strips;
     for (const Strip& strip : mStrips)
-        strips.push_back(graph.add(strip.parameter, {mSpan.start - kBeside, mSpan.end + kBeside}, strip.pEpisode ? note(*strip.pEpisode) : QString()));
+        strips.push_back(
+            graph.add(strip.parameter, {mSpan.start - kBeside, mSpan.end + kBeside}, strip.pEpisode ? note(*strip.pEpisode) : QString()));
     graph.setWindow(mSpan);
     canvas.push();
     canvas.clip(place); // what a graph has above its strips is left out here

@@ -57,7 +57,8 @@ bool PaperReport::write(SafeFile& file, Progress& progress)
     writer.setCreator(mDocument.creator);
     //: number of a page, and how many there are
     const QString pageOf = tr("%1 of %2");
-    return mPages.write(writer, pageOf, progress) && file.write({buffer.data().constData(), static_cast<std::size_t>(buffer.data().size())});
+    return mPages.write(writer, pageOf, progress) &&
+           file.write({buffer.data().constData(), static_cast<std::size_t>(buffer.data().size())});
 }
 
 QStringList PaperReport::wrapped(const QString& text, double width, const CanvasText& style, qsizetype most) const

@@ -53,7 +53,8 @@ void ReportFront::addTo(ReportDocument& document) const
 
 void ReportFront::addVerdict(ReportDocument& document) const
 {
-    document.add(ReportVerdict{mpOverview->review.verdict, capitalised(ReviewText(mpOverview->review).verdict()), OverviewTexts::verdict(*mpOverview)});
+    document.add(ReportVerdict{mpOverview->review.verdict, capitalised(ReviewText(mpOverview->review).verdict()),
+                               OverviewTexts::verdict(*mpOverview)});
     ReportFigures figures;
     for (const OverviewTexts::Figure& figure : OverviewTexts::figures(*mpOverview))
         figures.entries.push_back({figure.name, figure.value});
@@ -66,13 +67,14 @@ void ReportFront::addIdentity(ReportDocument& document) const
 {
     const ProfileModel& model = mLoaded.context.model();
     const QString cycle = mLoaded.cycle ? QString::number(*mLoaded.cycle) : tr("single files");
-    document.add(ReportPairs{{{tr("Card"), mLoaded.card},
-                              {tr("Date, as recorded"), reportDate(mLoaded.powerUp, tr("no clock"))},
-                              {tr("Power cycle"), isFlight() ? tr("%1, flight %2").arg(cycle, QString::number(mLoaded.flightNumber)) : cycle},
-                              {tr("From"), CardContainer::time(mLoaded.startTime)},
-                              {tr("Profile"), reportText(model.name)},
-                              {tr("To"), CardContainer::time(mLoaded.endTime)},
-                              {tr("Variant"), model.variant.empty() ? QStringLiteral("-") : reportText(model.variant)}}});
+    document.add(
+        ReportPairs{{{tr("Card"), mLoaded.card},
+                     {tr("Date, as recorded"), reportDate(mLoaded.powerUp, tr("no clock"))},
+                     {tr("Power cycle"), isFlight() ? tr("%1, flight %2").arg(cycle, QString::number(mLoaded.flightNumber)) : cycle},
+                     {tr("From"), CardContainer::time(mLoaded.startTime)},
+                     {tr("Profile"), reportText(model.name)},
+                     {tr("To"), CardContainer::time(mLoaded.endTime)},
+                     {tr("Variant"), model.variant.empty() ? QStringLiteral("-") : reportText(model.variant)}}});
     document.add(ReportParagraph{tr("Times count from the unit's power-up."), ReportParagraph::eQuiet});
 }
 

@@ -19,7 +19,8 @@ public:
 
     void addUnit(ReportDocument& document) const;
     void addFlights(ReportDocument& document) const;
-    void addEvents(ReportDocument& document, const EventList& list, const QString& heading, const QString& nothing, const QStringList& states) const;
+    void addEvents(ReportDocument& document, const EventList& list, const QString& heading, const QString& nothing,
+                   const QStringList& states) const;
     void addFaults(ReportDocument& document) const;
 
 private:
