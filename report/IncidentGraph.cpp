@@ -16,7 +16,7 @@ constexpr double kMargin = 0.2;       // of the length, before and after it
 constexpr double kLeastLength = 10.0; // seconds that are shown of a short one
 constexpr double kTogether = 600.0;   // within which several incidents are shown in one picture
 constexpr double kBeside = 3.0;       // seconds, for a line to come from what was before
-constexpr double kStrip = 39.0;       // points
+constexpr double kStrip = 38.0;       // points
 constexpr double kLeastStrips = 60.0; // a graph cannot do with less
 constexpr double kAbove = 3.0;        // the bars, or the strips
 constexpr double kBar = 9.0;
@@ -131,12 +131,19 @@ double IncidentGraph::barsHeight() const
     return mBars.empty() ? 0.0 : kBar * static_cast<double>(mBars.size()) + 2.0;
 }
 
+/// Of what a graph has below its strips: the times take one line, two notes take two.
+double IncidentGraph::unused() const
+{
+    constexpr double kLine = 8.0;
+    return mOf && !mLeftOut.isEmpty() ? 0.0 : kLine;
+}
+
 double IncidentGraph::height() const
 {
     if (mStrips.empty())
         return 0.0;
     const double strips = std::max(kStrip * static_cast<double>(mStrips.size()), kLeastStrips);
-    return barsHeight() + kAbove + strips + PaperGraph::frame().below;
+    return barsHeight() + kAbove + strips + PaperGraph::frame().below - unused();
 }
 
 QString IncidentGraph::text() const
@@ -174,7 +181,7 @@ void IncidentGraph::draw(PaperCanvas& canvas, const QRectF& place) const
     graph.setWindow(mSpan);
     canvas.push();
     canvas.clip(place); // what a graph has above its strips is left out here
-    graph.draw(canvas, place.adjusted(0, barsHeight() + kAbove - PaperGraph::frame().above, 0, 0));
+    graph.draw(canvas, place.adjusted(0, barsHeight() + kAbove - PaperGraph::frame().above, 0, unused()));
     drawBars(canvas, graph, {place.left(), graph.plot().top() - barsHeight(), place.width(), barsHeight()});
     drawPeaks(canvas, graph, strips);
     drawNotes(canvas, {place.left(), graph.plot().bottom() + 4});
