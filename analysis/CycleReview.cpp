@@ -33,7 +33,8 @@ bool isLamp(const ProfileDevice& device)
 class ReviewPass {
 public:
     /// @param unwatched times that are not watched though the engine ran
-    ReviewPass(const CycleValues& values, std::span<const RecordFlight> flights, double endTime, const std::vector<TimeSpan>& unwatched = {})
+    ReviewPass(const CycleValues& values, std::span<const RecordFlight> flights, double endTime,
+               const std::vector<TimeSpan>& unwatched = {})
         : mData(values.data()), mContext(values.context()), mFlights(flights), mEngine(engineRunning(endTime)),
           mPhases(values, mEngine, flights), mLimitTimes(mEngine, unwatched), mLampTimes(mEngine, withChecks(unwatched))
     {
@@ -263,8 +264,9 @@ CycleReview reviewFlight(const CycleReview& cycle, const CycleValues& values, st
     const auto isOutside = [&span](const auto& found) {
         return std::max(found.start, found.end) < span.start || std::min(found.start, found.end) > span.end;
     };
-    CycleReview review = ReviewPass(values, flights, endTime, {{-kForever, lastBefore(span.start)}, {std::nextafter(span.end, kForever), kForever}})
-                             .run(EKeyValues::eNone);
+    CycleReview review =
+        ReviewPass(values, flights, endTime, {{-kForever, lastBefore(span.start)}, {std::nextafter(span.end, kForever), kForever}})
+            .run(EKeyValues::eNone);
     review.engine.crop(span);
     review.flightTime = flight.landingTime - flight.takeOffTime;
     review.fuel = flightFigure(flight, eFigureTotalFuel);

@@ -514,19 +514,19 @@ void TestDialogMain::failedExport()
 void TestDialogMain::report_data()
 {
     QTest::addColumn<bool>("fromGraph"); // or from the tow statistic
-    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("file");
     QTest::addColumn<int>("flight"); // 0: all of them
     QTest::addColumn<QByteArray>("written"); // with that it begins, or holds it; without, it cannot be written
-    QTest::newRow("graph") << true << home() + "/report.pdf" << 1 << QByteArray("%PDF-");
-    QTest::newRow("other flight as HTML") << false << home() + "/report.html" << 2 << QByteArray(", power cycle 2, flight 2, ");
-    QTest::newRow("all flights") << false << home() + "/all.htm" << 0 << QByteArray(", power cycle 2, profile ");
+    QTest::newRow("graph") << true << QString("report.pdf") << 1 << QByteArray("%PDF-");
+    QTest::newRow("other flight as HTML") << false << QString("report.html") << 2 << QByteArray(", power cycle 2, flight 2, ");
+    QTest::newRow("all flights") << false << QString("all.htm") << 0 << QByteArray(", power cycle 2, profile ");
     QTest::newRow("unwritable") << true << QString("/proc/report.pdf") << 1 << QByteArray(); // where nobody can make a file
 }
 
 void TestDialogMain::report()
 {
     QFETCH(bool, fromGraph);
-    QFETCH(QString, path);
+    QFETCH(QString, file);
     QFETCH(int, flight);
     QFETCH(QByteArray, written);
     DesktopFixture desktop(home(), {card().toStdString()});
@@ -534,6 +534,7 @@ void TestDialogMain::report()
     started(window);
     window.slotLoadCycle(2, 0);
     settled(window);
+    const QString path = QDir(home()).filePath(file);
     std::optional<Answer> told;
     Answer choose([&](QWidget* pModal) {
         auto* pPart = pModal->findChild<QComboBox*>("part");
