@@ -15,17 +15,9 @@ bool isJudged(const FaultBit& fault)
     return fault.errorType == eErrorWarning || fault.errorType == eErrorFault;
 }
 
-uint32_t judgedBits(const FaultMatrix& matrix)
-{
-    uint32_t mask = 0;
-    for (const auto& [bit, fault] : matrix.bits)
-        mask |= isJudged(fault) ? 1U << bit : 0U;
-    return mask;
-}
-
 class FaultScan {
 public:
-    explicit FaultScan(const FaultMatrix& matrix) : mMatrix(matrix), mMask(judgedBits(matrix)) {}
+    explicit FaultScan(const FaultMatrix& matrix) : mMatrix(matrix), mMask(matrix.mask(isJudged)) {}
 
     void walk(int sequence, const TraceRun& part)
     {
@@ -54,7 +46,7 @@ public:
     }
 
 private:
-    static constexpr std::size_t kBits = 32;
+    static constexpr std::size_t kBits = FaultMatrix::kBits;
     struct Sequence {
         uint32_t word = 0;
         double last = 0.0;

@@ -9,15 +9,13 @@ namespace ZARN {
 
 namespace {
 
-constexpr std::size_t kFirstDataByte = 4;
-constexpr int kBits = 32;
 constexpr double kLateness = 0.01; // seconds by which a sample may be later and still counts as before
 
 } // namespace
 
 uint32_t faultWord(const Payload& payload)
 {
-    return loadBigEndian<uint32_t>(payload.data() + kFirstDataByte);
+    return loadBigEndian<uint32_t>(payload.data() + FaultMatrix::kFirstByte);
 }
 
 std::optional<uint32_t> faultWordAt(const RecordChannel* pChannel, double seconds)
@@ -34,10 +32,8 @@ std::optional<uint32_t> faultWordAt(const RecordChannel* pChannel, double second
 
 FaultTimeline::FaultTimeline(const FaultMatrix& matrix, const RecordChannel* pChannel)
 {
-    for (const auto& [bit, fault] : matrix.bits) {
-        if (bit >= 0 && bit < kBits && fault.errorType >= eErrorInfo && fault.errorType <= eErrorFault)
-            mMasks[static_cast<std::size_t>(fault.errorType - 1)] |= 1U << bit;
-    }
+    for (std::size_t kind = 0; kind < kKinds; ++kind)
+        mMasks[kind] = matrix.mask([kind](const FaultBit& fault) { return fault.errorType == static_cast<int>(kind) + eErrorInfo; });
     if (!pChannel || pChannel->entries.empty())
         return;
     const RecordEntries& entries = pChannel->entries;

@@ -35,8 +35,8 @@ std::unique_ptr<const Trace> faultWords(const RecordData& data, const DecodingCo
     word.name = matrix.name;
     word.id = matrix.id;
     word.dataType = eBLong;
-    word.startByte = 4;
-    word.endBit = 31;
+    word.startByte = FaultMatrix::kFirstByte;
+    word.endBit = FaultMatrix::kBits - 1;
     return TraceSet::one(data, context, word, ENumber::eMetric);
 }
 

@@ -1,6 +1,7 @@
 #include "analysis/IncidentText.h"
 
 #include "app/Numeric.h"
+#include "app/TimeText.h"
 #include "profile/Threshold.h"
 
 #include <algorithm>
@@ -112,10 +113,7 @@ QStringList IncidentText::names(const std::vector<Episode>& episodes)
 
 QString IncidentText::time(double seconds)
 {
-    const int64_t whole = saturatingCast<int64_t>(std::floor(std::max(seconds, 0.0)));
-    const QString tail =
-        QStringLiteral("%1:%2").arg(whole / 60 % 60, whole < 3600 ? 1 : 2, 10, QChar('0')).arg(whole % 60, 2, 10, QChar('0'));
-    return whole < 3600 ? tail : QString::number(whole / 3600) + ":" + tail;
+    return elapsedText(saturatingCast<int64_t>(seconds), 0);
 }
 
 QString IncidentText::duration(double seconds)

@@ -3,17 +3,18 @@
 #include "app/DataHandler.h"
 #include "app/Property.h"
 #include "app/Revision.h"
+#include "app/Settings.h"
 #include "app/StartMarker.h"
 #include "app/StyleHandler.h"
 #include "app/gui/Application.h"
 #include "app/gui/DialogSplash.h"
-#include "ui/gl/GraphicsCheck.h"
 #include "app/gui/ImageHandler.h"
 #include "app/gui/Kernel.h"
 #include "card/CardContainer.h"
 #include "card/record/RecordFormats.h"
 #include "profile/Profile.h"
 #include "project/Project.h"
+#include "ui/gl/GraphicsCheck.h"
 #include "ui/main/DialogMain.h"
 
 #include <QFileInfo>
@@ -66,14 +67,15 @@ void setAttributes()
 /// Loads a translation from beside the executable or from the resources. Never from the current folder: that may be a stranger's card.
 bool loadTranslation(QTranslator& translator, const QString& name)
 {
-    return translator.load(name, QCoreApplication::applicationDirPath())
-           || translator.load(name, QString::fromStdString(DataHandler::instance().resourcePath()));
+    return translator.load(name, QCoreApplication::applicationDirPath()) ||
+           translator.load(name, QString::fromStdString(DataHandler::instance().resourcePath()));
 }
 
 void installTranslation(QTranslator& translator, const QString& prefix, const char* name, const Console& console)
 {
-    const std::string locale = Property::instance().getString("Locale", "us");
-    QLocale::setDefault(QLocale(locale == "us" ? QString("en_US") : QString::fromStdString(locale))); // numbers as the language writes them
+    const std::string locale = Settings::kLocale.get(Property::instance());
+    QLocale::setDefault(QLocale(
+        locale == Settings::kLocale.fallback ? QString("en_US") : QString::fromStdString(locale))); // numbers as the language writes them
     const bool loaded = loadTranslation(translator, prefix + QString::fromStdString(locale));
     console.print("Translation %s <%s> %d\n", name, locale.c_str(), loaded ? 1 : 0);
     if (loaded)
@@ -169,8 +171,8 @@ int runWindow(QApplication& application)
     applyStyle(kernel);
     splash.addEntry("Creating Dialogs ...");
     const Session session{console, Property::instance(), Profile::instance(), CardContainer::instance(), Project::instance()};
-    const Desktop desktop{cmdLine, DataHandler::instance(), kernel, checkGraphics(console), defaults};
-    DialogMain window(session, desktop);
+    const WindowEnvironment environment{cmdLine, DataHandler::instance(), kernel, checkGraphics(console), defaults};
+    DialogMain window(session, environment);
     kernel.setMainWindow(&window);
     application.installEventFilter(&window);
     QObject::connect(&window, &DialogMain::signalStarted, [&marker] { marker.succeed(); });

@@ -44,7 +44,7 @@ struct ChangeWindow {
         DemoCard().write((folder.path() + "/card").toStdString(), options, error);
         container.readContainer(folder.path() + "/card");
         container.loadCycle(kLongestCycle, -1);
-        views = DataViews::create({console, property, profile, container, project}, folder.path());
+        views = DataViewList::create({console, property, profile, container, project}, folder.path());
         pArea = std::make_unique<DialogData>(record, views, false);
         pArea->resize(1500, 900);
         pArea->show();
@@ -66,7 +66,7 @@ struct ChangeWindow {
     Property property;
     Project project;
     RecordSession record;
-    DataViews views;
+    DataViewList views;
     std::unique_ptr<DialogData> pArea;
 };
 

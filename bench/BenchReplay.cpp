@@ -48,7 +48,7 @@ struct ReplayWindow {
         container.loadCycle(kFlightCycle, -1);
         const Session session{console, property, profile, container, project};
         pRecord = std::make_unique<RecordSession>(container);
-        pArea = std::make_unique<DialogData>(*pRecord, DataViews::create(session, folder.path()), false);
+        pArea = std::make_unique<DialogData>(*pRecord, DataViewList::create(session, folder.path()), false);
         pArea->resize(1500, 900);
         pArea->show();
         pArea->updateRecord();

@@ -2,7 +2,7 @@
 #include "analysis/LimitEvents.h"
 #include "analysis/WarningEvents.h"
 #include "app/Console.h"
-#include "app/FmaClones.h"
+#include "app/FusedMultiplyAdd.h"
 #include "app/NumberText.h"
 #include "app/Progress.h"
 #include "app/SafeFile.h"
@@ -60,7 +60,7 @@ struct Channel {
 };
 
 /// The floor of decoding: one loop over side-by-side records.
-ZARN_FMA_CLONES void decodePlain(const std::vector<StoredRecord>& records, double* pOut)
+ZARN_FUSED_MULTIPLY_ADD void decodePlain(const std::vector<StoredRecord>& records, double* pOut)
 {
     for (const StoredRecord& record : records)
         *pOut++ = std::fma(1.5, static_cast<double>(std::bit_cast<float>(loadBigEndian<uint32_t>(record.payload.data() + 4))), 2.0);

@@ -3,6 +3,7 @@
 #include "app/Console.h"
 #include "app/FileName.h"
 #include "app/Progress.h"
+#include "app/TimeText.h"
 #include "card/FlightDetector.h"
 #include "card/PowerUp.h"
 #include "card/record/RecordFormats.h"
@@ -59,11 +60,6 @@ Listing::Listing(const QString& path) : folder(path)
 CardProblem problemOf(const RecordReader& file)
 {
     return {encodeFileName(lastComponent(file.fileName)), file.problem(), file.isSystemError()};
-}
-
-int64_t wholeMilliseconds(double seconds)
-{
-    return saturatingCast<int64_t>(seconds * 1000);
 }
 
 } // namespace
@@ -399,7 +395,7 @@ const RecordCycle* CardContainer::loadedCycle() const
 
 QString CardContainer::time(double seconds)
 {
-    return QTime(0, 0).addMSecs(static_cast<int>(wholeMilliseconds(seconds) % 86400000)).toString("hh:mm:ss.zzz");
+    return timeOfDayText(wholeMilliseconds(seconds), true);
 }
 
 } // namespace ZARN

@@ -1,8 +1,7 @@
 #include "card/FlightFigures.h"
 
 #include "app/Numeric.h"
-
-#include <QTime>
+#include "app/TimeText.h"
 
 #include <array>
 #include <cmath>
@@ -62,7 +61,7 @@ constexpr std::array<Figure, eFigureCount> kFigures{{
 /// A duration as a time of day.
 QString durationText(double seconds)
 {
-    return QTime(0, 0).addSecs(saturatingCast<int>(seconds)).toString("hh:mm:ss");
+    return timeOfDayText(saturatingCast<int>(seconds) * int64_t{1000}, false);
 }
 
 } // namespace

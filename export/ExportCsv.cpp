@@ -2,6 +2,7 @@
 
 #include "app/NumberText.h"
 #include "app/SafeFile.h"
+#include "app/TimeText.h"
 #include "export/CsvColumn.h"
 #include "export/ProgressSpan.h"
 
@@ -14,21 +15,13 @@ namespace ZARN {
 namespace {
 
 constexpr int kColumnsPercent = 5; // of the whole work, to order the columns' samples
-constexpr std::size_t kTimeTextSize = 32; // "%d:%02d:%02d.%03d" and a separator; hours have at most seven digits
-
-char* writeTwoDigits(char* pOut, uint32_t number)
-{
-    *pOut++ = static_cast<char>('0' + number / 10);
-    *pOut++ = static_cast<char>('0' + number % 10);
-    return pOut;
-}
 
 /// Turns the columns' cells of one window after the other into lines.
 class CsvRows {
 public:
     CsvRows(std::vector<CsvColumn>& columns, const CsvExportOptions& options, SafeFile& file, const ProgressSpan& progress)
-        : mColumns(columns), mTicksPerSecond(1000 / options.resolution), mResolution(options.resolution), mSeparator(options.separator), mSpan(options.span),
-          mFile(file), mProgress(progress), mWindow(windowTicks(columns.size())), mCells(columns.size() * mWindow.marked.size()),
+        : mColumns(columns), mResolution(options.resolution), mSeparator(options.separator), mSpan(options.span), mFile(file),
+          mProgress(progress), mWindow(windowTicks(columns.size())), mCells(columns.size() * mWindow.marked.size()),
           mLines(std::max(kLinesSize, kTimeTextSize + (columns.size() + 1) * sizeof(CsvCell)))
     {
     }
@@ -128,7 +121,8 @@ private:
         const std::size_t reserve = (mColumns.size() + 1) * sizeof(CsvCell);
         while (room() < text.size() + reserve) {
             flush();
-            const std::size_t part = std::min(text.size() - 1, mLines.size() - reserve); // the last character stays in reach of the line's end
+            const std::size_t part =
+                std::min(text.size() - 1, mLines.size() - reserve); // the last character stays in reach of the line's end
             std::copy_n(text.data(), part, mpOut);
             mpOut += part;
             text.remove_prefix(part);
@@ -138,16 +132,7 @@ private:
 
     char* writeTime(char* pOut, uint32_t tick) const
     {
-        const uint32_t seconds = tick / mTicksPerSecond;
-        const uint32_t milliseconds = tick % mTicksPerSecond * mResolution;
-        pOut = writeInteger(pOut, seconds / 3600);
-        *pOut++ = ':';
-        pOut = writeTwoDigits(pOut, seconds / 60 % 60);
-        *pOut++ = ':';
-        pOut = writeTwoDigits(pOut, seconds % 60);
-        *pOut++ = '.';
-        *pOut++ = static_cast<char>('0' + milliseconds / 100);
-        pOut = writeTwoDigits(pOut, milliseconds % 100);
+        pOut = writeElapsed(pOut, uint64_t{tick} * mResolution, 3, 1);
         *pOut++ = mSeparator;
         return pOut;
     }
@@ -172,7 +157,6 @@ private:
     }
 
     std::vector<CsvColumn>& mColumns;
-    uint32_t mTicksPerSecond;
     uint32_t mResolution;
     char mSeparator;
     std::optional<TimeSpan> mSpan;
@@ -214,8 +198,8 @@ bool ExportCsv::writeFile(SafeFile& file, const RecordData& recordData, const Cs
     return false;
 }
 
-bool ExportCsv::makeColumns(const TraceSet& traces, const CsvExportOptions& options, const ProgressSpan& progress, std::vector<CsvColumn>& columns,
-                            std::string& header)
+bool ExportCsv::makeColumns(const TraceSet& traces, const CsvExportOptions& options, const ProgressSpan& progress,
+                            std::vector<CsvColumn>& columns, std::string& header)
 {
     const double ticksPerSecond = 1 / (options.resolution * 0.001);
     for (const auto& pTrace : traces.traces()) {

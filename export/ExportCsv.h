@@ -2,6 +2,7 @@
 
 #include "analysis/TimeSpan.h"
 #include "app/Progress.h"
+#include "app/Settings.h"
 #include "trace/TraceSet.h"
 
 #include <QString>
@@ -18,9 +19,9 @@ class SafeFile;
 struct CsvExportOptions {
     QString directory;
     QString fileName;
-    char separator = ';';       ///< ';', ',' or a tab
-    bool allParameters = true;  ///< false: only those selected in the project
-    uint32_t resolution = 100;  ///< milliseconds a row: 100 or 10
+    char separator = static_cast<char>(Settings::kCsvLimiter.fallback); ///< ';', ',' or a tab
+    bool allParameters = Settings::kCsvAllParameter.fallback;           ///< false: only those selected in the project
+    uint32_t resolution = Settings::kCsvResolution.fallback;            ///< milliseconds a row: 100 or 10
     std::optional<TimeSpan> span = {}; ///< only rows in it, with the values that held before; none: the whole
 };
 
@@ -44,8 +45,8 @@ public:
 
 private:
     /// @return false when the user cancels.
-    static bool makeColumns(const TraceSet& traces, const CsvExportOptions& options, const ProgressSpan& progress, std::vector<CsvColumn>& columns,
-                            std::string& header);
+    static bool makeColumns(const TraceSet& traces, const CsvExportOptions& options, const ProgressSpan& progress,
+                            std::vector<CsvColumn>& columns, std::string& header);
 
     const DecodingContext mContext;
     const Selection mSelection;

@@ -3,8 +3,8 @@
 #include "app/NumberText.h"
 #include "app/Revision.h"
 #include "app/SafeFile.h"
-#include "export/KmlWriter.h"
 #include "export/ProgressSpan.h"
+#include "export/XmlWriter.h"
 
 #include <cmath>
 
@@ -38,7 +38,7 @@ bool isOnEarth(const FlightPathPoint& point)
 /// Writes one track point after the other, in segments.
 class TrackWriter {
 public:
-    TrackWriter(KmlWriter& writer, const QDateTime& cycleDate) : mWriter(writer), mCycleDate(cycleDate) {}
+    TrackWriter(XmlWriter& writer, const QDateTime& cycleDate) : mWriter(writer), mCycleDate(cycleDate) {}
 
     void add(const FlightPathPoint& point)
     {
@@ -47,7 +47,8 @@ public:
         if (!mInSegment)
             mWriter.begin("trkseg");
         mInSegment = true;
-        mWriter.begin("trkpt", " lat=\"" + fixed(point.latitude, kDegreeDecimals) + "\" lon=\"" + fixed(point.longitude, kDegreeDecimals) + "\"");
+        mWriter.begin("trkpt",
+                      " lat=\"" + fixed(point.latitude, kDegreeDecimals) + "\" lon=\"" + fixed(point.longitude, kDegreeDecimals) + "\"");
         if (std::isfinite(point.altitude))
             mWriter.text("ele", fixed(point.altitude, kAltitudeDecimals));
         if (mCycleDate.isValid())
@@ -62,7 +63,7 @@ public:
     }
 
 private:
-    KmlWriter& mWriter;
+    XmlWriter& mWriter;
     const QDateTime& mCycleDate;
     bool mInSegment = false;
 };
@@ -83,7 +84,7 @@ std::shared_ptr<const std::vector<FlightPathPoint>> metricPath(const LoadedCard&
     return rebuilt.shared();
 }
 
-void beginDocument(KmlWriter& writer, const std::string& name, const QDateTime& cycleDate)
+void beginDocument(XmlWriter& writer, const std::string& name, const QDateTime& cycleDate)
 {
     writer.declaration();
     writer.begin("gpx", " version=\"1.1\" creator=\"" + Revision::getRevisionString() + "\" xmlns=\"http://www.topografix.com/GPX/1/1\"");
@@ -107,7 +108,7 @@ bool ExportGpx::exportData(const LoadedCard& loaded, SafeFile& file, Progress& p
     }
     const auto pPoints = metricPath(loaded);
     const ProgressSpan span(progress, 0, 100);
-    KmlWriter writer(file);
+    XmlWriter writer(file);
     beginDocument(writer, trackName(loaded), loaded.cycleDate);
     TrackWriter track(writer, loaded.cycleDate);
     uint64_t done = 0;

@@ -5,7 +5,7 @@
 
 namespace ZARN {
 
-class KmlWriter;
+class XmlWriter;
 class SafeFile;
 
 /// Writes the flight path of the loaded cycle or flight as a GPX 1.1 track, a point every half second. Altitudes are metres

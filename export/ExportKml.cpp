@@ -81,7 +81,7 @@ bool ExportKml::exportFile(const KmlExportOptions& options, SafeFile& file, Prog
 {
     mError.clear();
     if (file.open()) {
-        KmlWriter writer(file);
+        XmlWriter writer(file);
         const ProgressSpan span(progress, kEventsDone, 100);
         const bool whole = KmlDocument(mContent, options, writer, span).write();
         if (writer.flush() && whole && file.commit())

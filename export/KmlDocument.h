@@ -4,8 +4,8 @@
 #include "export/KmlExportOptions.h"
 #include "export/KmlPath.h"
 #include "export/KmlPlacemarks.h"
-#include "export/KmlWriter.h"
 #include "export/ProgressSpan.h"
+#include "export/XmlWriter.h"
 
 #include <QString>
 
@@ -23,7 +23,7 @@ struct KmlContent {
 /// Writes a KML document: styles, placemarks, and the path last. Used once for one document.
 class KmlDocument {
 public:
-    KmlDocument(KmlContent& content, const KmlExportOptions& options, KmlWriter& writer, const ProgressSpan& progress)
+    KmlDocument(KmlContent& content, const KmlExportOptions& options, XmlWriter& writer, const ProgressSpan& progress)
         : mContent(content), mOptions(options), mGrid(options.timeStamp), mWriter(writer), mProgress(progress)
     {
     }
@@ -46,7 +46,7 @@ private:
     KmlContent& mContent;
     const KmlExportOptions& mOptions;
     KmlGrid mGrid;
-    KmlWriter& mWriter;
+    XmlWriter& mWriter;
     const ProgressSpan& mProgress;
     uint64_t mPieces = 0; // values, events and points, of which mDone are written
     uint64_t mDone = 0;

@@ -1,59 +1,51 @@
 #include "export/KmlExportOptions.h"
 
-#include "app/Property.h"
-
 #include <algorithm>
 #include <cstdlib>
 #include <iterator>
-#include <limits>
 
 namespace ZARN {
 
 namespace {
 
-template <typename Value> struct Setting {
-    const char* key;
+/// A setting and the option that it is kept for.
+template <typename Setting, typename Value> struct Entry {
+    const Setting& setting;
     Value KmlExportOptions::*value;
 };
 
-constexpr Setting<std::string> kDirectory = {"KmlExportDir", &KmlExportOptions::directory};
+constexpr Entry<TextSetting, std::string> kDirectory = {Settings::kKmlExportDir, &KmlExportOptions::directory};
 
-constexpr Setting<std::string> kColours[] = {
-    {"KmlLineColor", &KmlExportOptions::lineColor},
-    {"KmlPolygonColor", &KmlExportOptions::polygonColor},
-    {"KmlPlaceMarkColor", &KmlExportOptions::placeMarkColor},
-    {"KmlErrorMarkColor", &KmlExportOptions::errorMarkColor},
+constexpr Entry<TextSetting, std::string> kColours[] = {
+    {Settings::kKmlLineColor, &KmlExportOptions::lineColor},
+    {Settings::kKmlPolygonColor, &KmlExportOptions::polygonColor},
+    {Settings::kKmlPlaceMarkColor, &KmlExportOptions::placeMarkColor},
+    {Settings::kKmlErrorMarkColor, &KmlExportOptions::errorMarkColor},
 };
 
-constexpr int kOpaque = 255;
-constexpr int kMost = std::numeric_limits<int>::max();
-
-struct Number : Setting<int> {
-    int least;
-    int most;
+struct Number : Entry<NumberSetting, int> {
     const char* wanted;
 };
 
 constexpr Number kNumbers[] = {
-    {{"KmlTimeStamp", &KmlExportOptions::timeStamp}, 1, kMost, "a number of seconds from 1 on"},
-    {{"KmlLineWidth", &KmlExportOptions::lineWidth}, 0, kMost, "a width from 0 on"},
-    {{"KmlLineAlpha", &KmlExportOptions::lineAlpha}, 0, kOpaque, "an opacity from 0 to 255"},
-    {{"KmlPolygonAlpha", &KmlExportOptions::polygonAlpha}, 0, kOpaque, "an opacity from 0 to 255"},
-    // Spelt so in every settings file there is.
-    {{"KmlPlaceMarkIntervall", &KmlExportOptions::placeMarkInterval}, 1, kMost, "a number of path points from 1 on"},
+    {{Settings::kKmlTimeStamp, &KmlExportOptions::timeStamp}, "a number of seconds from 1 on"},
+    {{Settings::kKmlLineWidth, &KmlExportOptions::lineWidth}, "a width from 0 on"},
+    {{Settings::kKmlLineAlpha, &KmlExportOptions::lineAlpha}, "an opacity from 0 to 255"},
+    {{Settings::kKmlPolygonAlpha, &KmlExportOptions::polygonAlpha}, "an opacity from 0 to 255"},
+    {{Settings::kKmlPlaceMarkInterval, &KmlExportOptions::placeMarkInterval}, "a number of path points from 1 on"},
 };
 
-constexpr Setting<bool> kSwitches[] = {
-    {"KmlPolygonOn", &KmlExportOptions::polygonOn},     {"KmlPlaceMarkOn", &KmlExportOptions::placeMarkOn},
-    {"KmlErrorMarkOn", &KmlExportOptions::errorMarkOn}, {"KmlShowLimit", &KmlExportOptions::showLimit},
-    {"KmlShowWarning", &KmlExportOptions::showWarning},
+constexpr Entry<SwitchSetting, bool> kSwitches[] = {
+    {Settings::kKmlPolygonOn, &KmlExportOptions::polygonOn},     {Settings::kKmlPlaceMarkOn, &KmlExportOptions::placeMarkOn},
+    {Settings::kKmlErrorMarkOn, &KmlExportOptions::errorMarkOn}, {Settings::kKmlShowLimit, &KmlExportOptions::showLimit},
+    {Settings::kKmlShowWarning, &KmlExportOptions::showWarning},
 };
 
-/// The setting of that key; null when there is none.
-template <std::size_t count, typename Entry> const Entry* find(const Entry (&settings)[count], const std::string& key)
+/// The entry of that key; null when there is none.
+template <std::size_t count, typename Entry> const Entry* find(const Entry (&entries)[count], const std::string& key)
 {
-    const auto found = std::ranges::find(settings, key, [](const Entry& setting) { return std::string(setting.key); });
-    return found == std::end(settings) ? nullptr : found;
+    const auto found = std::ranges::find(entries, key, [](const Entry& entry) { return std::string(entry.setting.key); });
+    return found == std::end(entries) ? nullptr : found;
 }
 
 bool isColour(const std::string& text)
@@ -65,32 +57,32 @@ bool isColour(const std::string& text)
 
 void KmlExportOptions::read(const Property& settings)
 {
-    this->*kDirectory.value = settings.getString(kDirectory.key, this->*kDirectory.value);
-    for (const auto& [key, value] : kColours) {
-        const std::string colour = settings.getString(key, this->*value);
+    directory = kDirectory.setting.get(settings);
+    for (const auto& [setting, value] : kColours) {
+        const std::string colour = setting.get(settings);
         if (isColour(colour))
             this->*value = colour;
     }
     for (const Number& number : kNumbers)
-        this->*number.value = std::clamp(settings.getInt(number.key, this->*number.value), number.least, number.most);
-    for (const auto& [key, value] : kSwitches)
-        this->*value = settings.getSwitch(key, this->*value);
+        this->*number.value = number.setting.get(settings);
+    for (const auto& [setting, value] : kSwitches)
+        this->*value = setting.get(settings);
 }
 
 void KmlExportOptions::write(Property& settings) const
 {
-    settings.setString(kDirectory.key, this->*kDirectory.value);
-    for (const auto& [key, value] : kColours)
-        settings.setString(key, this->*value);
+    kDirectory.setting.set(settings, directory);
+    for (const auto& [setting, value] : kColours)
+        setting.set(settings, this->*value);
     for (const Number& number : kNumbers)
-        settings.setInt(number.key, this->*number.value);
-    for (const auto& [key, value] : kSwitches)
-        settings.setSwitch(key, this->*value);
+        number.setting.set(settings, this->*number.value);
+    for (const auto& [setting, value] : kSwitches)
+        setting.set(settings, this->*value);
 }
 
 bool KmlExportOptions::isKey(const std::string& key)
 {
-    return key == kDirectory.key || find(kColours, key) || find(kNumbers, key) || find(kSwitches, key);
+    return key == kDirectory.setting.key || find(kColours, key) || find(kNumbers, key) || find(kSwitches, key);
 }
 
 std::string KmlExportOptions::problem(const std::string& key, const std::string& value)
@@ -101,7 +93,7 @@ std::string KmlExportOptions::problem(const std::string& key, const std::string&
     if (!pNumber)
         return {};
     const long long given = std::strtoll(value.c_str(), nullptr, 10);
-    return given >= pNumber->least && given <= pNumber->most ? "" : key + ": must be " + pNumber->wanted;
+    return given >= pNumber->setting.least && given <= pNumber->setting.most ? "" : key + ": must be " + pNumber->wanted;
 }
 
 } // namespace ZARN

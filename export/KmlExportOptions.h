@@ -1,6 +1,7 @@
 #pragma once
 
 #include "analysis/TimeSpan.h"
+#include "app/Settings.h"
 
 #include <optional>
 #include <string>
@@ -11,26 +12,26 @@ class Property;
 
 /// What the user chose for a KML export. Each value but the file name and the span has a key in the settings; texts are UTF-8.
 struct KmlExportOptions {
-    std::string directory = ".";
+    std::string directory = Settings::kKmlExportDir.fallback;
     std::string fileName;
-    int timeStamp = 1; ///< seconds a path point
-    int lineWidth = 1;
-    std::string lineColor = "ff0000"; ///< colours are six hexadecimal digits, red, green, blue
-    int lineAlpha = 255;              ///< opacities are 0..255
-    bool polygonOn = true;            ///< extrude the path to the ground
-    std::string polygonColor = "0000ff";
-    int polygonAlpha = 100;
-    bool placeMarkOn = true; ///< placemarks of the selected parameters
-    int placeMarkInterval = 10; ///< path points a placemark
-    std::string placeMarkColor = "ffcc00";
-    bool errorMarkOn = true; ///< placemarks of limit exceedances and warning lamps
-    bool showLimit = true;
-    bool showWarning = true;
-    std::string errorMarkColor = "ff0000";
+    int timeStamp = Settings::kKmlTimeStamp.fallback; ///< seconds a path point
+    int lineWidth = Settings::kKmlLineWidth.fallback;
+    std::string lineColor = Settings::kKmlLineColor.fallback; ///< colours are six hexadecimal digits, red, green, blue
+    int lineAlpha = Settings::kKmlLineAlpha.fallback;         ///< opacities are 0..255
+    bool polygonOn = Settings::kKmlPolygonOn.fallback;        ///< extrude the path to the ground
+    std::string polygonColor = Settings::kKmlPolygonColor.fallback;
+    int polygonAlpha = Settings::kKmlPolygonAlpha.fallback;
+    bool placeMarkOn = Settings::kKmlPlaceMarkOn.fallback;            ///< placemarks of the selected parameters
+    int placeMarkInterval = Settings::kKmlPlaceMarkInterval.fallback; ///< path points a placemark
+    std::string placeMarkColor = Settings::kKmlPlaceMarkColor.fallback;
+    bool errorMarkOn = Settings::kKmlErrorMarkOn.fallback; ///< placemarks of limit exceedances and warning lamps
+    bool showLimit = Settings::kKmlShowLimit.fallback;
+    bool showWarning = Settings::kKmlShowWarning.fallback;
+    std::string errorMarkColor = Settings::kKmlErrorMarkColor.fallback;
     std::optional<TimeSpan> span = {}; ///< only path points and placemarks in it; none: the whole
 
-    /// Takes over what the settings have; the rest stays, and so does a colour for one that is none. Numbers out of range are
-    /// brought into it.
+    /// Takes over what the settings have, or their defaults; a colour stays for one that is none. Numbers out of range are brought
+    /// into it.
     void read(const Property& settings);
     void write(Property& settings) const;
     /// Whether the settings know a value of this export by that key.

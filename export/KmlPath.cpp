@@ -10,20 +10,20 @@ namespace ZARN {
 
 namespace {
 
-constexpr double kMissingBelow = -999.0;    // a coordinate below it counts as missing
-constexpr double kNoFix = 0.0001;          // degrees of this magnitude or less
+constexpr double kMissingBelow = -999.0; // a coordinate below it counts as missing
+constexpr double kNoFix = 0.0001;        // degrees of this magnitude or less
 constexpr int kDebugDecimals = 6;
 constexpr double KmlPoint::*kCoordinates[] = {&KmlPoint::latitude, &KmlPoint::longitude, &KmlPoint::altitude};
 
 /// Lines for a verbose console, one a sample: gathered, since each piece that the console gets may be a system call.
-class DebugLines {
+class ConsoleLines {
 public:
-    explicit DebugLines(const Console& console) : mConsole(console) {}
-    ~DebugLines() { flush(); }
-    DebugLines(const DebugLines&) = delete;
-    DebugLines& operator=(const DebugLines&) = delete;
+    explicit ConsoleLines(const Console& console) : mConsole(console) {}
+    ~ConsoleLines() { flush(); }
+    ConsoleLines(const ConsoleLines&) = delete;
+    ConsoleLines& operator=(const ConsoleLines&) = delete;
 
-    DebugLines& add(const char* label, double number)
+    ConsoleLines& add(const char* label, double number)
     {
         char buffer[kNumberTextSize];
         mText.append(label).append(buffer, writeFixed(buffer, number, kDebugDecimals));
@@ -54,7 +54,7 @@ private:
 /// @param isAngle whether the values are degrees of a position.
 /// @param label names the values in the lines; null for no lines.
 /// @return false when the user cancels.
-bool collect(const Trace& trace, const KmlGrid& grid, bool isAngle, const char* label, DebugLines& lines, KmlSlots& slots,
+bool collect(const Trace& trace, const KmlGrid& grid, bool isAngle, const char* label, ConsoleLines& lines, KmlSlots& slots,
              const ProgressSpan& progress)
 {
     const bool isDone = trace.forEachRun([&](const TraceRun& run) {
@@ -85,7 +85,7 @@ bool KmlPath::build(const RecordData& data, const DecodingContext& context, cons
         // The channel counts whether the profile declares it or not.
         const ProfileParameter& parameter = context.model().parameter(identifiers[i]);
         const ChannelTrace trace({}, parameter, context, data.channel(identifiers[i]), ENumber::eMetric, &filter);
-        DebugLines lines(console);
+        ConsoleLines lines(console);
         KmlSlots slots;
         const char* label = console.isVerbose() ? labels[i] : nullptr;
         if (!collect(trace, grid, labels[i] != nullptr, label, lines, slots, progress.part(i, std::size(identifiers))))
@@ -124,7 +124,7 @@ void KmlPath::fillForward()
 
 void KmlPath::fillBackward(const Console& console)
 {
-    DebugLines lines(console);
+    ConsoleLines lines(console);
     for (std::size_t i = mPoints.size(); i-- > 1;) {
         for (const auto coordinate : kCoordinates) {
             const double known = mPoints[i].*coordinate;
@@ -145,7 +145,8 @@ bool KmlPath::hasPosition() const
 
 const KmlPoint* KmlPath::at(int slot) const
 {
-    const auto above = std::upper_bound(mPoints.begin(), mPoints.end(), slot, [](int wanted, const KmlPoint& point) { return wanted < point.slot; });
+    const auto above =
+        std::upper_bound(mPoints.begin(), mPoints.end(), slot, [](int wanted, const KmlPoint& point) { return wanted < point.slot; });
     if (above != mPoints.begin())
         return &*(above - 1);
     return mPoints.empty() ? nullptr : &mPoints.front();

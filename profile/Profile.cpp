@@ -2,6 +2,7 @@
 
 #include "app/Console.h"
 #include "app/Property.h"
+#include "app/Settings.h"
 #include "profile/ProfileLoader.h"
 
 namespace ZARN {
@@ -10,8 +11,7 @@ Profile::Profile(const Console& console, EUnit unit) : ProfileXml(console), mCon
 
 Profile& Profile::instance()
 {
-    static Profile profile(Console::standardOutput(),
-                           Property::instance().getInt("Unit", 0) == 1 ? EUnit::eImperial : EUnit::eMetric);
+    static Profile profile(Console::standardOutput(), Settings::kUnit.get(Property::instance()) == 1 ? EUnit::eImperial : EUnit::eMetric);
     return profile;
 }
 

@@ -142,7 +142,7 @@ ProfileParameter ProfileLoader::readParameter(const QDomElement& element, const 
 void ProfileLoader::noteFaultBit(const ProfileParameter& parameter)
 {
     // A matrix word has no other bits, and a damaged profile may name as many as it has parameters, for each of its matrices.
-    if (parameter.startBit >= 0 && parameter.startBit < kMatrixBits && !mContent.errorMatrices.empty())
+    if (parameter.startBit >= 0 && parameter.startBit < FaultMatrix::kBits && !mContent.errorMatrices.empty())
         mClaims[parameter.id][parameter.startBit] = {{parameter.name, parameter.path, parameter.errorType, parameter.zarnDataType},
                                                      mContent.errorMatrices.size()};
 }

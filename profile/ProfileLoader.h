@@ -15,7 +15,6 @@ public:
     [[nodiscard]] std::shared_ptr<const ProfileModel> load(const QDomElement& root);
 
 private:
-    static constexpr int kMatrixBits = 32;
     /// The parameter that claimed a bit last, and how many matrices had been read by then.
     struct Claim {
         FaultBit bit;

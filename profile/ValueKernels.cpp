@@ -1,6 +1,6 @@
 #include "profile/ValueKernels.h"
 
-#include "app/FmaClones.h"
+#include "app/FusedMultiplyAdd.h"
 #include "card/record/ByteOrder.h"
 
 #include <bit>
@@ -21,43 +21,43 @@ template <typename Word, typename Raw>
 
 } // namespace
 
-ZARN_FMA_CLONES void floats(std::span<const StoredRecord> records, Scaling scaling, double* pOut)
+ZARN_FUSED_MULTIPLY_ADD void floats(std::span<const StoredRecord> records, Scaling scaling, double* pOut)
 {
     scaleAll<uint32_t>(records, scaling, pOut, [](uint32_t word) { return static_cast<double>(std::bit_cast<float>(word)); });
 }
 
-ZARN_FMA_CLONES void longsAsFloat(std::span<const StoredRecord> records, Scaling scaling, double* pOut)
+ZARN_FUSED_MULTIPLY_ADD void longsAsFloat(std::span<const StoredRecord> records, Scaling scaling, double* pOut)
 {
     scaleAll<uint32_t>(records, scaling, pOut,
                        [](uint32_t word) { return static_cast<double>(static_cast<float>(static_cast<int32_t>(word))); });
 }
 
-ZARN_FMA_CLONES void unsignedLongsAsFloat(std::span<const StoredRecord> records, Scaling scaling, double* pOut)
+ZARN_FUSED_MULTIPLY_ADD void unsignedLongsAsFloat(std::span<const StoredRecord> records, Scaling scaling, double* pOut)
 {
     scaleAll<uint32_t>(records, scaling, pOut, [](uint32_t word) { return static_cast<double>(static_cast<float>(word)); });
 }
 
-ZARN_FMA_CLONES void unsignedLongs(std::span<const StoredRecord> records, Scaling scaling, double* pOut)
+ZARN_FUSED_MULTIPLY_ADD void unsignedLongs(std::span<const StoredRecord> records, Scaling scaling, double* pOut)
 {
     scaleAll<uint32_t>(records, scaling, pOut, [](uint32_t word) { return static_cast<double>(word); });
 }
 
-ZARN_FMA_CLONES void shorts(std::span<const StoredRecord> records, Scaling scaling, double* pOut)
+ZARN_FUSED_MULTIPLY_ADD void shorts(std::span<const StoredRecord> records, Scaling scaling, double* pOut)
 {
     scaleAll<uint16_t>(records, scaling, pOut, [](uint16_t word) { return static_cast<double>(static_cast<int16_t>(word)); });
 }
 
-ZARN_FMA_CLONES void unsignedShorts(std::span<const StoredRecord> records, Scaling scaling, double* pOut)
+ZARN_FUSED_MULTIPLY_ADD void unsignedShorts(std::span<const StoredRecord> records, Scaling scaling, double* pOut)
 {
     scaleAll<uint16_t>(records, scaling, pOut, [](uint16_t word) { return static_cast<double>(word); });
 }
 
-ZARN_FMA_CLONES void chars(std::span<const StoredRecord> records, Scaling scaling, double* pOut)
+ZARN_FUSED_MULTIPLY_ADD void chars(std::span<const StoredRecord> records, Scaling scaling, double* pOut)
 {
     scaleAll<uint8_t>(records, scaling, pOut, [](uint8_t word) { return static_cast<double>(static_cast<int8_t>(word)); });
 }
 
-ZARN_FMA_CLONES void unsignedChars(std::span<const StoredRecord> records, Scaling scaling, double* pOut)
+ZARN_FUSED_MULTIPLY_ADD void unsignedChars(std::span<const StoredRecord> records, Scaling scaling, double* pOut)
 {
     scaleAll<uint8_t>(records, scaling, pOut, [](uint8_t word) { return static_cast<double>(word); });
 }

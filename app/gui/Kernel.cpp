@@ -1,6 +1,7 @@
 #include "app/gui/Kernel.h"
 
 #include "app/Property.h"
+#include "app/Settings.h"
 #include "app/StyleHandler.h"
 
 #include <QApplication>
@@ -24,19 +25,13 @@ Kernel& Kernel::instance()
 void Kernel::loadStyleFile(const QString& styleFile)
 {
     mStyle.readStyle(styleFile);
-    applyFontSize(fontSize(mProperty));
+    applyFontSize(Settings::kFontSize.get(mProperty));
 }
 
 void Kernel::applyFontSize(int pixels)
 {
     if (mpApplication)
         mpApplication->setStyleSheet(QString("%1\nQWidget {font-size: %2px;}").arg(mStyle.styleSheet(), QString::number(pixels)));
-}
-
-int Kernel::fontSize(const Property& property)
-{
-    const int size = property.getInt("FontSize", kDefaultFont);
-    return size < kSmallestFont || size > kLargestFont ? kDefaultFont : size;
 }
 
 void Kernel::restart()

@@ -31,12 +31,6 @@ public:
     /// Applies the sheet that was read last with a font size in pixels.
     void applyFontSize(int pixels);
 
-    static constexpr int kSmallestFont = 8; ///< pixels
-    static constexpr int kLargestFont = 20;
-    static constexpr int kDefaultFont = 12;
-    /// The font size of the settings in pixels; the default where they hold none, or none that can be used.
-    static int fontSize(const Property& property);
-
     /// Ends the event loop, for the program to start again. A window may refuse: it calls cancelRestart() then.
     void restart();
     void cancelRestart() { mRestarts = false; }

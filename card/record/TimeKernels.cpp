@@ -1,10 +1,10 @@
 #include "card/record/TimeKernels.h"
 
-#include "app/FmaClones.h"
+#include "app/FusedMultiplyAdd.h"
 
 namespace ZARN {
 
-ZARN_FMA_CLONES void recordTimes(std::span<const StoredRecord> records, double* pOut)
+ZARN_FUSED_MULTIPLY_ADD void recordTimes(std::span<const StoredRecord> records, double* pOut)
 {
     // Whoever walks a channel asks for the times first: what comes next is fetched while this is worked on.
     constexpr std::size_t kAhead = 192; // records

@@ -1,6 +1,7 @@
 #include "export/ui/DialogExportCsv.h"
 
 #include "app/Property.h"
+#include "app/Settings.h"
 #include "card/CardContainer.h"
 #include "export/ui/DialogExportCsvOptions.h"
 #include "export/ui/DialogExportCsvPath.h"
@@ -66,17 +67,18 @@ void DialogExportCsv::accept()
 void DialogExportCsv::loadSettings()
 {
     const Property& settings = mSession.property;
-    mpPath->setTarget(QString::fromStdString(settings.getString("CsvExportDir", ".")), mpPath->fileName());
-    mpOptions->setOptions(settings.getInt("CsvLimiter", ';'), settings.getInt("CsvResolution", 100), settings.getSwitch("CsvAllParameter", true));
+    mpPath->setTarget(Settings::kCsvExportDir.text(settings), mpPath->fileName());
+    mpOptions->setOptions(Settings::kCsvLimiter.get(settings), Settings::kCsvResolution.get(settings),
+                          Settings::kCsvAllParameter.get(settings));
 }
 
 void DialogExportCsv::saveSettings() const
 {
     Property& settings = mSession.property;
-    settings.setString("CsvExportDir", mpPath->directory().toStdString());
-    settings.setInt("CsvLimiter", mpOptions->separator());
-    settings.setInt("CsvResolution", static_cast<int>(mpOptions->resolution()));
-    settings.setSwitch("CsvAllParameter", mpOptions->allParameters());
+    Settings::kCsvExportDir.set(settings, mpPath->directory());
+    Settings::kCsvLimiter.set(settings, mpOptions->separator());
+    Settings::kCsvResolution.set(settings, static_cast<int>(mpOptions->resolution()));
+    Settings::kCsvAllParameter.set(settings, mpOptions->allParameters());
     settings.writeXmlFile();
 }
 

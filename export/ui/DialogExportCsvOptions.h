@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/Settings.h"
+
 #include <QWizardPage>
 
 #include <cstdint>
@@ -38,9 +40,9 @@ private:
     QComboBox* mpResolution;
     QComboBox* mpParameter;
     QLabel* mpNote;
-    char mSeparator = ';';
-    uint32_t mResolution = 100;
-    bool mAllParameters = true;
+    char mSeparator = static_cast<char>(Settings::kCsvLimiter.fallback);
+    uint32_t mResolution = Settings::kCsvResolution.fallback;
+    bool mAllParameters = Settings::kCsvAllParameter.fallback;
 };
 
 } // namespace ZARN

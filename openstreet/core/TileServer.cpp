@@ -4,15 +4,15 @@
 
 namespace OpenStreet {
 
-const char* const TileServer::kDefault = "https://tile.openstreetmap.org/{z}/{x}/{y}.png";
-
 namespace {
+
+constexpr const char* kDefault = "https://tile.openstreetmap.org/{z}/{x}/{y}.png";
 
 QString completed(QString address)
 {
     address = address.trimmed();
     if (address.isEmpty())
-        return QString::fromLatin1(TileServer::kDefault);
+        return QString::fromLatin1(kDefault);
     if (!address.contains(QLatin1String("://")))
         address.prepend(QLatin1String("https://"));
     if (!address.contains(QLatin1Char('{')))

@@ -10,8 +10,6 @@ namespace OpenStreet {
 /// Where tiles come from: an address with {z}, {x}, {y} and, optionally, {s} for one of the sub-domains a, b, c. A plain value.
 class TileServer {
 public:
-    static const char* const kDefault;
-
     /// Takes a whole template, or the address before "/{z}/{x}/{y}.png". Without a scheme it is https; other schemes than https and
     /// http are not valid. An empty text is the default server.
     explicit TileServer(const QString& address = {});

@@ -106,9 +106,38 @@ class Violations(unittest.TestCase):
             ('ui/map/A.cpp', 'void f() { functions()->glFlush (); }', 'glFlush'),
             ('card/A.cpp', 'int a = Profile::instance().id();', 'Profile::instance'),
             ('ui/main/A.cpp', 'int a = ZARN::Project::instance ( );', 'Project::instance'),
+            ('ui/main/A.cpp', 'int a = settings.getInt("Unit", 0);', 'app/Settings.h'),
+            ('ui/main/A.cpp', 'constexpr TextSetting k = {"Profile", ""};', 'app/Settings.h'),
         ]:
             with self.subTest(code=code):
                 self.expect(path, '/* a\n' + 'b */ ' + code + '\n', 2, part)
+
+    def test_half_classes(self):
+        header = '#pragma once\n/// One.\nclass A {\n};\n'
+        for code in ['void A::f(int a) const\n{\n}\n', 'template <typename T>\nA::A(T t) : mT(t)\n{\n}\n', 'int N::A::B::f()\n{\n}\n']:
+            with self.subTest(code=code):
+                found = findings({'card/A.h': header, 'card/ASlots.cpp': code, 'card/A.cpp': code})
+                self.assertEqual([(path, text) for path, _, text in found], [('card/ASlots.cpp', 'defines a member of A, a class of another file')])
+
+    def test_mutual_folders(self):
+        for first, second, is_found in [
+            (('app/A.h', 'vesk/base/A.h'), ('vesk/gl/A.h', 'app/B.h'), True),
+            (('report/A.h', 'ui/canvas/A.h'), ('ui/main/A.h', 'report/B.h'), False),
+            (('project/A.h', 'profile/A.h'), ('profile/ui/A.h', 'project/B.h'), False),
+            (('profile/A.h', 'card/record/A.h'), ('card/A.h', 'profile/B.h'), False),
+            (('ui/main/A.h', 'app/A.h'), ('app/main.cpp', 'ui/main/B.h'), False),
+        ]:
+            with self.subTest(first=first, second=second):
+                found = findings({path: f'#include "{include}"\n' for path, include in (first, second)})
+                self.assertEqual([path for path, _, text in found if 'which includes' in text], [first[0], second[0]] if is_found else [])
+
+    def test_public_functions(self):
+        functions = ''.join(f'    [[nodiscard]] int f{i}(int a = 0) const {{ return mA{{}}; }}\n    int f{i}();\n' for i in range(25))
+        private = 'Q_SIGNALS:\n    void s();\nprivate:\n    int mA{}, mB = f(3);\n    void g();\n};\n'
+        head = '#pragma once\n/// One.\nclass A final {\n    Q_OBJECT\npublic:\n    enum E { eA };\n    A();\n    ~A();\n    using F = void (*)(int);\n' + functions
+        self.assertEqual(findings({'card/A.h': head + private}), [])
+        self.expect('card/A.h', head + 'public Q_SLOTS:\n    bool operator==(const A& a) const;\n' + private, 3, '26 public functions')
+        self.assertEqual(findings({'card/A.h': (head + '    void g();\n' + private).replace('class A', 'class Profile')}), [])
 
     def test_unknown_folder(self):
         self.expect('extras/A.cpp', 'int a;\n', 1, 'no target')

@@ -1,11 +1,11 @@
 #include "ui/data/DialogData.h"
 
 #include "app/Numeric.h"
+#include "app/TimeText.h"
 #include "app/gui/ImageHandler.h"
 #include "ui/data/DataTabBar.h"
 #include "ui/data/ViewLink.h"
 #include "ui/data/WidgetReplayBar.h"
-#include "ui/data/model/TimeOfDay.h"
 #include "vesk/base/Timer.h"
 
 #include <QButtonGroup>
@@ -52,7 +52,7 @@ static void registerDataIcons()
 
 namespace ZARN {
 
-DialogData::DialogData(RecordSession& record, const DataViews& views, bool emu, QWidget* pParent, Clock clock)
+DialogData::DialogData(RecordSession& record, const DataViewList& views, bool emu, QWidget* pParent, Clock clock)
     : QWidget(pParent), mRecord(record), mViews(views), mClock(clock ? std::move(clock) : Clock(VESK::Misc::Timer::getTime)),
       mpTabs(new DataTabBar), mpMapModes(new QButtonGroup(this)), mpStack(new QStackedWidget), mpSplitter(new QSplitter(Qt::Horizontal)),
       mpBar(nullptr), mpTimer(new QTimer(this))

@@ -2,7 +2,7 @@
 
 #include "project/RecordSession.h"
 #include "project/Session.h"
-#include "ui/data/DataViews.h"
+#include "ui/data/DataViewList.h"
 
 #include <QWidget>
 
@@ -28,7 +28,7 @@ public:
     using Clock = std::function<double()>; ///< the wall clock in seconds
 
     /// @param emu the reduced display: fewer controls, and the views show the newest values of a live record
-    DialogData(RecordSession& record, const DataViews& views, bool emu, QWidget* pParent = nullptr, Clock clock = {});
+    DialogData(RecordSession& record, const DataViewList& views, bool emu, QWidget* pParent = nullptr, Clock clock = {});
 
     /// Shows what the container holds now, from its start time on.
     void updateRecord() { mRecord.setRecord(); }
@@ -83,7 +83,7 @@ private:
     void updateControls();
 
     RecordSession& mRecord;
-    DataViews mViews;
+    DataViewList mViews;
     std::array<ViewLink*, eViewCount> mLinks{};
     Clock mClock;
     DataTabBar* mpTabs;

@@ -1,11 +1,11 @@
 #include "ui/data/DialogDataEvents.h"
 
+#include "app/TimeText.h"
 #include "card/CardContainer.h"
 #include "profile/Profile.h"
 #include "ui/canvas/ColourContrast.h"
 #include "ui/data/EventMark.h"
 #include "ui/data/TableCopy.h"
-#include "ui/data/model/TimeOfDay.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -180,7 +180,7 @@ void DialogDataEvents::fillTable()
     mpTable->setRowCount(static_cast<int>(std::min<std::size_t>(events.size(), kMaxRows)));
     for (int row = 0; row < mpTable->rowCount(); ++row) {
         const Event& event = events[static_cast<std::size_t>(row)];
-        QTableWidgetItem* pTime = createItem(timeOfDayText(wholeMilliseconds(event.time)));
+        QTableWidgetItem* pTime = createItem(signedTimeText(wholeMilliseconds(event.time)));
         pTime->setData(Qt::UserRole, timeData(event.time));
         if (!isInside(event))
             pTime->setForeground(kDimText);

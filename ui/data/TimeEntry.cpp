@@ -1,6 +1,6 @@
 #include "ui/data/TimeEntry.h"
 
-#include "ui/data/model/TimeOfDay.h"
+#include "app/TimeText.h"
 
 #include <QFocusEvent>
 #include <QKeyEvent>
@@ -43,7 +43,7 @@ void TimeEntry::finish()
 
 QString TimeEntry::textFromValue(int value) const
 {
-    return elapsedText(value);
+    return elapsedText(value, 2);
 }
 
 int TimeEntry::valueFromText(const QString& text) const
@@ -53,8 +53,8 @@ int TimeEntry::valueFromText(const QString& text) const
 
 QValidator::State TimeEntry::validate(QString& text, int& /*position*/) const
 {
-    const bool isPart = text.size() <= kMostCharacters && text.count(':') <= 2
-                        && std::all_of(text.begin(), text.end(), [](QChar c) { return c == u':' || (c >= u'0' && c <= u'9'); });
+    const bool isPart = text.size() <= kMostCharacters && text.count(':') <= 2 &&
+                        std::all_of(text.begin(), text.end(), [](QChar c) { return c == u':' || (c >= u'0' && c <= u'9'); });
     if (!isPart)
         return QValidator::Invalid;
     return elapsedSeconds(text) ? QValidator::Acceptable : QValidator::Intermediate;

@@ -21,7 +21,7 @@ class WidgetFaultMatrix : public QFrame {
     Q_OBJECT
 
 public:
-    static constexpr int kBits = 32;
+    static constexpr int kBits = FaultMatrix::kBits;
 
     explicit WidgetFaultMatrix(const CardContainer& container, QWidget* pParent = nullptr);
 

@@ -1,13 +1,13 @@
 #include "ui/data/WidgetReplayBar.h"
 
 #include "app/Numeric.h"
+#include "app/TimeText.h"
 #include "app/gui/ImageHandler.h"
 #include "ui/data/JumpSlider.h"
 #include "ui/data/ReplayButton.h"
 #include "ui/data/SpeedBox.h"
 #include "ui/data/TimeEntry.h"
 #include "ui/data/model/ReplaySpeed.h"
-#include "ui/data/model/TimeOfDay.h"
 
 #include <QDateTime>
 #include <QEvent>
@@ -218,7 +218,7 @@ void WidgetReplayBar::setDateTime(const QDateTime& dateTime)
 
 void WidgetReplayBar::setTime(int64_t milliseconds)
 {
-    const QString text = timeOfDayText(milliseconds);
+    const QString text = signedTimeText(milliseconds);
     mpTimeClock->setDigitCount(static_cast<int>(text.size())); // one more for a minus sign
     mpTimeClock->display(text);
     mpTime->showTime(static_cast<int>(std::clamp<int64_t>(milliseconds / 1000, 0, TimeEntry::kLatest)));

@@ -1,6 +1,7 @@
 #include "ui/main/CardController.h"
 
 #include "app/Property.h"
+#include "app/Settings.h"
 #include "card/CardContainer.h"
 #include "card/CardProblem.h"
 #include "card/record/RecordFormats.h"
@@ -15,8 +16,6 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
-#include <QMimeData>
-#include <QUrl>
 
 #include <map>
 
@@ -92,8 +91,8 @@ void CardController::cancel()
 
 void CardController::askFolder()
 {
-    const QString start = QString::fromStdString(mSession.property.getString("LastPath", "."));
-    const QString folder = QFileDialog::getExistingDirectory(mpWindow, tr("Open SD Card"), start,
+    const QString last = Settings::kLastPath.text(mSession.property);
+    const QString folder = QFileDialog::getExistingDirectory(mpWindow, tr("Open SD Card"), last.isEmpty() ? "." : last,
                                                              QFileDialog::ShowDirsOnly | QFileDialog::DontUseNativeDialog);
     if (!folder.isEmpty())
         openFolder(folder);
@@ -113,7 +112,7 @@ void CardController::finishOpening(const QString& folder, bool isRead)
         warn(refusal(folder));
         return;
     }
-    mSession.property.setString("LastPath", folder.toStdString());
+    Settings::kLastPath.set(mSession.property, folder);
     mRecent.add(folder);
     mSession.property.writeXmlFile();
     Q_EMIT signalFolderChanged();
@@ -264,16 +263,6 @@ QString CardController::fileProblems() const
         entries.append(file + ": " + texts.join(", "));
     }
     return entries.isEmpty() ? QString() : tr("Not everything on this card could be read:") + "\n" + entries.join("\n");
-}
-
-QString CardController::droppedFolder(const QMimeData* pData)
-{
-    for (const QUrl& url : pData->urls()) {
-        const QFileInfo info(url.toLocalFile());
-        if (info.isDir() || info.isFile())
-            return RecordFormats::cardOf(info.filePath());
-    }
-    return {};
 }
 
 void CardController::warn(const QString& text)

@@ -9,7 +9,6 @@
 #include <memory>
 #include <optional>
 
-class QMimeData;
 class QWidget;
 
 namespace ZARN {
@@ -45,8 +44,6 @@ public:
     /// Ends it; everything stays as it was.
     void cancel();
 
-    /// The folder that a drop names: a folder itself, or that of a file; empty when it names none.
-    static QString droppedFolder(const QMimeData* pData);
     /// What keeps the last folder from being shown, for people; empty when nothing does.
     [[nodiscard]] const QString& problem() const { return mProblem; }
     /// What of the card could not be read, when its folder was or in the last load, for people: the first of the files by name with

@@ -1,6 +1,6 @@
 #include "ui/main/CardTree.h"
 
-#include "app/Numeric.h"
+#include "app/TimeText.h"
 #include "card/CardContainer.h"
 #include "card/PowerUp.h"
 
@@ -11,7 +11,7 @@ namespace {
 /// A time since power-up, or a duration, as "hh:mm:ss"; wraps after 24 hours like every clock of the program.
 QString clockText(double seconds)
 {
-    return QTime(0, 0).addMSecs(saturatingCast<int>(seconds * 1000.0)).toString("hh:mm:ss");
+    return timeOfDayText(wholeMilliseconds(seconds), false);
 }
 
 QString startText(const QDateTime& dateTime)

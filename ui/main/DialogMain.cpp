@@ -4,21 +4,26 @@
 #include "app/Console.h"
 #include "app/DataHandler.h"
 #include "app/Property.h"
+#include "app/Settings.h"
 #include "app/gui/ImageHandler.h"
 #include "app/gui/Kernel.h"
-#include "app/gui/WheelGuard.h"
 #include "card/CardContainer.h"
+#include "card/record/RecordFormats.h"
 #include "profile/ui/DialogProfile.h"
 #include "profile/ui/DialogProfileInfo.h"
 #include "project/Project.h"
 #include "ui/data/DialogData.h"
 #include "ui/main/CardController.h"
+#include "ui/main/CopyKey.h"
 #include "ui/main/DialogAbout.h"
 #include "ui/main/DialogCard.h"
 #include "ui/main/DialogHelp.h"
 #include "ui/main/DialogPreferences.h"
 #include "ui/main/ExportController.h"
+#include "ui/main/FolderDrop.h"
 #include "ui/main/MainActions.h"
+#include "ui/main/MainPanels.h"
+#include "ui/main/MainToolBar.h"
 #include "ui/main/Notices.h"
 #include "ui/main/OverviewController.h"
 #include "ui/main/ProfileController.h"
@@ -31,18 +36,13 @@
 #include <QAction>
 #include <QActionGroup>
 #include <QCloseEvent>
-#include <QComboBox>
+#include <QDir>
 #include <QFileInfo>
 #include <QFileOpenEvent>
-#include <QLabel>
 #include <QMenuBar>
-#include <QMimeData>
-#include <QSplitter>
-#include <QStackedWidget>
 #include <QStatusBar>
 #include <QToolBar>
 #include <QToolButton>
-#include <QVBoxLayout>
 
 namespace ZARN {
 
@@ -52,17 +52,14 @@ constexpr int kRestoreDelay = 20;   // milliseconds from here on: the event loop
 constexpr int kStartupDelay = 1000; // the window has its size
 constexpr int kStylePeriod = 500;   // from look to look at the style file
 constexpr int kMessageDuration = 8000;
-constexpr int kSelectorWidth = 200;
-constexpr int kMargin = 8;
 
 } // namespace
 
-DialogMain::DialogMain(const Session& session, const Desktop& desktop)
-    : mSession(session), mRecord(session.container), mDesktop(desktop), mEmu(desktop.cmdLine.getSwitch("-emu")),
+DialogMain::DialogMain(const Session& session, const WindowEnvironment& environment)
+    : mSession(session), mRecord(session.container), mEnvironment(environment), mEmu(environment.cmdLine.getSwitch("-emu")),
       mpActionGroup(new QActionGroup(this)), mpRecentGroup(new QActionGroup(this)),
-      mpCatalogue(std::make_unique<ProfileCatalogue>(session.console, desktop.folders.resourcePath(), desktop.folders.dataPath()))
+      mpCatalogue(std::make_unique<ProfileCatalogue>(session.console, environment.folders.resourcePath(), environment.folders.dataPath()))
 {
-    setAcceptDrops(true);
     createPanels();
     createActions();
     if (!mEmu)
@@ -76,11 +73,9 @@ DialogMain::DialogMain(const Session& session, const Desktop& desktop)
     startTimers();
     mpLayout->restoreWindow();
     if (mEmu) {
-        mpSide->hide();
-        mpCard->hide();
-        mpProfile->hide();
+        mpPanels->hideSide();
         mpToolBar->hide();
-        mpCentre->setCurrentWidget(mpData); // what arrives is shown at once
+        mpPanels->showData(true); // what arrives is shown at once
     }
     updateUnit();
     loadProfile();
@@ -92,7 +87,7 @@ DialogMain::DialogMain(const Session& session, const Desktop& desktop)
     mpCard->focusList(); // not the first field for text: it would take keys that are meant for the window
     show();
     mpLayout->restoreSplitters();
-    mSession.property.setString("LastProjectPath", mDesktop.folders.dataPath() + "/CurrentProject.xml");
+    Settings::kLastProjectPath.set(mSession.property, mEnvironment.folders.dataPath() + "/CurrentProject.xml");
 }
 
 DialogMain::~DialogMain()
@@ -105,35 +100,13 @@ void DialogMain::createPanels()
 {
     mpCard = new DialogCard(mSession.container);
     mpProfile = new DialogProfile(mSession);
-    mpSide = new QSplitter(Qt::Vertical);
-    mpSide->setChildrenCollapsible(false);
-    mpSide->addWidget(mpCard);
-    mpSide->addWidget(mpProfile);
-    mpWelcome = new WidgetWelcome;
-    const QString dataPath = QString::fromStdString(mDesktop.folders.dataPath());
-    mpData = new DialogData(mRecord, DataViews::create(mSession, dataPath), mEmu);
-    mpCentre = new QStackedWidget;
-    mpCentre->addWidget(mpWelcome);
-    mpCentre->addWidget(mpData);
-    mpProblems = new QLabel;
-    mpProblems->setObjectName("cardProblems");
-    mpProblems->setTextFormat(Qt::PlainText); // names of files
-    mpProblems->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    mpProblems->setWordWrap(true);
-    mpProblems->hide();
-    auto* pRight = new QWidget;
-    auto* pRightLayout = new QVBoxLayout(pRight);
-    pRightLayout->setContentsMargins(0, 0, 0, 0);
-    pRightLayout->addWidget(mpProblems);
-    pRightLayout->addWidget(mpCentre, 1);
-    mpSplitter = new QSplitter(Qt::Horizontal);
-    mpSplitter->setChildrenCollapsible(false);
-    mpSplitter->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-    mpSplitter->addWidget(mpSide);
-    mpSplitter->addWidget(pRight);
-    mpSplitter->setStretchFactor(0, 1);
-    mpSplitter->setStretchFactor(1, 2);
-    setCentralWidget(mpSplitter);
+    const QString dataPath = QString::fromStdString(mEnvironment.folders.dataPath());
+    mpData = new DialogData(mRecord, DataViewList::create(mSession, dataPath), mEmu);
+    mpPanels = new MainPanels(mpCard, mpProfile, mpData);
+    setCentralWidget(mpPanels);
+    const auto* pDrop = new FolderDrop(this);
+    connect(pDrop, &FolderDrop::signalDragged, &mpPanels->welcome(), &WidgetWelcome::setDragged);
+    connect(pDrop, &FolderDrop::signalDropped, this, &DialogMain::openFolder);
 }
 
 void DialogMain::createActions()
@@ -172,33 +145,10 @@ void DialogMain::createMenus()
 
 void DialogMain::createToolBar()
 {
-    mpToolBar = addToolBar(tr("Main Toolbar"));
-    mpToolBar->setObjectName("MainToolBar");
-    mpToolBar->setMovable(false);
-    mpToolBar->addAction(action(eActionOpenFolder));
-    mpFolderMenu = new QMenu(this);
-    auto* pFolderButton = qobject_cast<QToolButton*>(mpToolBar->widgetForAction(action(eActionOpenFolder)));
-    pFolderButton->setToolButtonStyle(Qt::ToolButtonTextBesideIcon); // the one to begin with; all others are told by their tool tips
-    pFolderButton->setMenu(mpFolderMenu);
-    pFolderButton->setPopupMode(QToolButton::MenuButtonPopup);
-    mpToolBar->addSeparator();
-    for (const int id : {eActionOverview, eActionPreviousIncident, eActionNextIncident})
-        mpToolBar->addAction(action(id));
-    mpToolBar->addSeparator();
-    mpToolBar->addAction(action(eActionExportKml));
-    addMorePaths();
-    mpToolBar->addAction(action(eActionExportCsv));
-    mpToolBar->addSeparator();
-    mpProfiles = new QComboBox;
-    mpProfiles->setObjectName("profiles");
-    mpProfiles->setMinimumWidth(kSelectorWidth);
-    mpProfiles->setToolTip(tr("Profile: what the recorded bytes mean"));
-    mpProfiles->setAccessibleName(tr("Profile"));
-    connect(mpProfiles, &QComboBox::textActivated, this, qOverload<const QString&>(&DialogMain::slotProfileChanged));
-    WheelGuard::install(*mpProfiles);
-    mpToolBar->addWidget(mpProfiles);
-    mpToolBar->addSeparator();
-    addUnits();
+    mpToolBar = new MainToolBar([this](int id) { return action(id); });
+    addToolBar(mpToolBar);
+    connect(mpToolBar, &MainToolBar::signalProfile, this, qOverload<const QString&>(&DialogMain::slotProfileChanged));
+    connect(mpToolBar, &MainToolBar::signalUnit, this, &DialogMain::slotUnitChanged);
 }
 
 /// The toolkit leaves tool bars to the mouse, but some commands are in no menu.
@@ -212,31 +162,6 @@ void DialogMain::openToolBarsToKeys()
     }
 }
 
-// Behind the arrow of the one button: other files of the flight path.
-void DialogMain::addMorePaths()
-{
-    auto* pButton = qobject_cast<QToolButton*>(mpToolBar->widgetForAction(action(eActionExportKml)));
-    auto* pMenu = new QMenu(pButton);
-    pMenu->addAction(action(eActionExportGpx));
-    pMenu->addAction(action(eActionReport));
-    pButton->setMenu(pMenu);
-    pButton->setPopupMode(QToolButton::MenuButtonPopup);
-}
-
-void DialogMain::addUnits()
-{
-    mpUnits = new QComboBox;
-    mpUnits->setObjectName("units");
-    mpUnits->setMinimumWidth(kSelectorWidth);
-    mpUnits->setToolTip(tr("Units of all displays"));
-    mpUnits->setAccessibleName(tr("Units"));
-    mpUnits->addItem(tr("Metric"), "0");
-    mpUnits->addItem(tr("Imperial"), "1");
-    connect(mpUnits, &QComboBox::activated, this, &DialogMain::slotUnitChanged);
-    WheelGuard::install(*mpUnits);
-    mpToolBar->addWidget(mpUnits);
-}
-
 void DialogMain::createStatusBar()
 {
     mpProgress = new StatusProgress;
@@ -248,7 +173,7 @@ void DialogMain::createStatusBar()
 void DialogMain::createNotices()
 {
     mpNotices = new Notices(this);
-    mpNotices->setProblem(Notices::eGraphics, mDesktop.graphicsProblem);
+    mpNotices->setProblem(Notices::eGraphics, mEnvironment.graphicsProblem);
     const QString unsaved = tr("Settings cannot be saved");
     const QString file = QString::fromStdString(mSession.property.configFile());
     if (mSession.property.isUnread())
@@ -261,19 +186,20 @@ void DialogMain::createNotices()
 
 void DialogMain::createControllers()
 {
-    auto* pRecent = new RecentFolders(mSession.property, *mpFolderMenu);
+    auto* pRecent = new RecentFolders(mSession.property, mpToolBar->folders());
     connect(pRecent, &RecentFolders::signalChosen, this, &DialogMain::openFolder);
     mpCardController = new CardController(mSession, *mpCard, *pRecent, *mpProgress, this);
     mpProjectController = new ProjectController(mSession, this);
     mpExportController = new ExportController(
         mSession, *mpCardController, [this] { return mpData->graphSpan(); }, this);
-    mpOverview = new OverviewController(mSession, mRecord, *mpCardController, *mpCard, *mpData, *mpCentre, *action(eActionOverview), this);
-    mpProfileController = std::make_unique<ProfileController>(mSession, *mpCatalogue, *mpProfiles, *mpUnits);
-    mpLayout = std::make_unique<WindowLayout>(mSession.property, *this, *mpSplitter, *mpSide);
+    mpOverview =
+        new OverviewController(mSession, mRecord, *mpCardController, *mpCard, *mpData, mpPanels->pages(), *action(eActionOverview), this);
+    mpProfileController = std::make_unique<ProfileController>(mSession, *mpCatalogue, mpToolBar->profiles(), mpToolBar->units());
+    mpLayout = std::make_unique<WindowLayout>(mSession.property, *this, *mpPanels, mpPanels->side());
     mpAbout = new DialogAbout(this);
-    mpHelp = new DialogHelp(QString::fromStdString(mSession.property.getString("Locale", "us")), this);
+    mpHelp = new DialogHelp(Settings::kLocale.text(mSession.property), this);
     mpProfileInfo = new DialogProfileInfo(mSession, *mpCatalogue, this);
-    mpPreferences = new DialogPreferences(mSession, mDesktop.kernel, this);
+    mpPreferences = new DialogPreferences(mSession, mEnvironment.kernel, this);
 }
 
 void DialogMain::connectPanels()
@@ -294,15 +220,15 @@ void DialogMain::connectPanels()
     connect(mpProjectController, &ProjectController::signalChanged, this, &DialogMain::slotProjectChanged);
     connect(mpExportController, &ExportController::signalWritten, this,
             [this](const QString& path) { statusBar()->showMessage(tr("Written: %1").arg(path), kMessageDuration); });
-    connect(mpWelcome, &WidgetWelcome::signalOpenFolder, action(eActionOpenFolder), &QAction::trigger);
-    connect(mpWelcome, &WidgetWelcome::signalOpenDemoCard, this,
-            [this] { mpCardController->openDemoCard(QString::fromStdString(mDesktop.folders.dataPath())); });
+    connect(&mpPanels->welcome(), &WidgetWelcome::signalOpenFolder, action(eActionOpenFolder), &QAction::trigger);
+    connect(&mpPanels->welcome(), &WidgetWelcome::signalOpenDemoCard, this,
+            [this] { mpCardController->openDemoCard(QString::fromStdString(mEnvironment.folders.dataPath())); });
 }
 
 void DialogMain::startTimers()
 {
     std::string style;
-    mDesktop.cmdLine.getParameter("-s", style);
+    mEnvironment.cmdLine.getParameter("-s", style);
     mStyleFile = QString::fromStdString(style);
     mStyleTime = QFileInfo(mStyleFile).lastModified(); // applied by the start
     connect(&mStyleTimer, &QTimer::timeout, this, &DialogMain::slotCheckStyle);
@@ -311,6 +237,318 @@ void DialogMain::startTimers()
     connect(&mStartTimer, &QTimer::timeout, this, &DialogMain::slotTimeout);
     mStartTimer.start(kRestoreDelay);
     QTimer::singleShot(kStartupDelay, this, &DialogMain::slotTimeoutStartup);
+}
+
+void DialogMain::slotMenu(QAction* pAction)
+{
+    const int id = pAction->data().toInt();
+    mSession.console.print("DialogMain::slotMenu id %d\n", id);
+    switch (id) {
+    case eActionNewProject: mpProjectController->newProject(); break;
+    case eActionOpenProject: mpProjectController->openProject(); break;
+    case eActionOpenFolder: mpCardController->askFolder(); break;
+    case eActionSaveProject:
+    case eActionSaveProjectAs: saveProject(id == eActionSaveProjectAs); break;
+    case eActionQuit:
+        mStartTimer.stop();
+        close();
+        break;
+    case eActionExportKml: mpExportController->exportKml(); break;
+    case eActionExportCsv: mpExportController->exportCsv(); break;
+    case eActionExportGpx: mpExportController->exportGpx(); break;
+    case eActionReport: mpExportController->writeReport(); break;
+    case eActionOverview: mpOverview->toggle(pAction->isChecked()); break;
+    case eActionNextIncident:
+    case eActionPreviousIncident: mpOverview->step(id == eActionNextIncident); break;
+    default: showInformation(id);
+    }
+}
+
+void DialogMain::showInformation(int id)
+{
+    const std::map<int, QWidget*> windows = {
+        {eActionAbout, mpAbout}, {eActionProfile, mpProfileInfo}, {eActionHelp, mpHelp}, {eActionPreferences, mpPreferences}};
+    const auto found = windows.find(id);
+    if (found == windows.end())
+        return;
+    QWidget* pWindow = found->second;
+    pWindow->show();
+    pWindow->raise();
+    pWindow->activateWindow();
+}
+
+void DialogMain::slotMenuRecent(QAction* /*pAction*/) {}
+
+void DialogMain::slotMenuPrefAbout() {}
+
+bool DialogMain::saveProject(bool askName)
+{
+    return mpProjectController->saveProject(askName);
+}
+
+bool DialogMain::askSaveProject()
+{
+    return mpProjectController->askSaveProject();
+}
+
+bool DialogMain::isProjectModified() const
+{
+    return mpProjectController->isModified();
+}
+
+void DialogMain::updateTitle()
+{
+    QString path = mSession.container.path();
+    if (path.isEmpty() && mpCardController->problem().isEmpty()) // one that was refused is not shown, and neither is the one before it
+        path = Settings::kLastPath.text(mSession.property);
+    setWindowTitle(path.isEmpty() ? QString("ZARN") : "ZARN " + QDir::cleanPath(path).section('/', -2, -1));
+}
+
+void DialogMain::updateUnit()
+{
+    mpProfileController->updateUnit();
+    mpProfile->updateProfile();
+    mpCardController->recalculate();
+    mRecord.changeUnit();
+}
+
+void DialogMain::loadProfile()
+{
+    mpProfileController->load();
+    tellProfileProblem();
+    mpProfileInfo->setProfileFile(mpProfileController->file(), mpProfileController->isChosenFile());
+    mpProfileInfo->fillProfileInfo();
+    mpProfile->updateProfile();
+    mpCardController->recalculate(); // flights and their statistic are decoded by the profile
+    mRecord.changeProfile();
+}
+
+void DialogMain::tellProfileProblem()
+{
+    const QString& problem = mpProfileController->problem();
+    if (problem.isEmpty())
+        return mpNotices->setProblem(Notices::eProfile, {});
+    mpNotices->setProblem(Notices::eProfile, mpProfileController->file().isEmpty() ? tr("No profile") : tr("Another profile is in force"),
+                          problem);
+    mpNotices->tell(problem);
+}
+
+void DialogMain::fillProfiles()
+{
+    mpProfileController->fill();
+}
+
+void DialogMain::updateProfiles()
+{
+    mpProfileController->update();
+}
+
+void DialogMain::setProgress(int percent)
+{
+    mpProgress->setProgress(percent);
+}
+
+void DialogMain::openFolder(const QString& path)
+{
+    mpCardController->openFolder(path);
+}
+
+void DialogMain::slotProfileChanged()
+{
+    mRecord.changeSelection();
+}
+
+void DialogMain::slotProfileChanged(const QString& name)
+{
+    if (mpProfileController->select(name))
+        return slotProfileFileChanged();
+    fillProfiles();
+    mpNotices->tell(mpProfileController->problem());
+}
+
+void DialogMain::slotProfileFileChanged()
+{
+    loadProfile();
+    fillProfiles();
+    updateTitle();
+}
+
+void DialogMain::slotProfileInstalled()
+{
+    mpProfileController->adoptInstalled(mpProfileInfo->profileFile());
+    slotProfileFileChanged();
+}
+
+void DialogMain::slotUnitChanged(int index)
+{
+    mpProfileController->selectUnit(index);
+    updateUnit();
+}
+
+void DialogMain::slotCanChanged()
+{
+    mpProjectController->setModified();
+}
+
+void DialogMain::slotZarnMode(int mode)
+{
+    if (const QString last = Settings::kLastPath.text(mSession.property); !last.isEmpty())
+        mpCardController->restoreFolder(last);
+    mpData->setZarnMode(mode);
+}
+
+void DialogMain::slotLoadRecord(const std::list<QString>& files)
+{
+    if (!files.empty())
+        mpCardController->loadRecords(files);
+}
+
+void DialogMain::slotLoadCycle(unsigned int cycle, int flight)
+{
+    mpCardController->loadCycle(cycle, flight);
+}
+
+void DialogMain::slotFolderChanged()
+{
+    updateTitle();
+    showProblems();
+    updateExports();
+    // Before the first folder was opened there is nothing that could be missing.
+    const bool everOpened = Settings::kLastPath.isSet(mSession.property) || !mEnvironment.cmdLine.operand().empty();
+    mpPanels->welcome().setProblem(everOpened ? mpCardController->problem() : QString());
+    mpPanels->welcome().setState(mSession.container.recordFiles().empty() ? WidgetWelcome::eNoCard : WidgetWelcome::eChoose);
+    if (mEmu)
+        return;
+    mpPanels->showData(false);
+    mpOverview->showCard();
+}
+
+void DialogMain::showProblems()
+{
+    mpPanels->setProblems(mpCardController->fileProblems());
+    mpCard->showProblems();
+}
+
+void DialogMain::updateExports()
+{
+    for (const int id : {eActionExportKml, eActionExportCsv, eActionExportGpx, eActionReport, eActionNextIncident, eActionPreviousIncident})
+        action(id)->setEnabled(mpCardController->hasData());
+}
+
+void DialogMain::slotDataChanging()
+{
+    mRecord.clearRecord();
+}
+
+void DialogMain::slotRecalculated()
+{
+    mRecord.changeFlights();
+    listFlights();
+}
+
+void DialogMain::listFlights()
+{
+    if (const auto cycle = mSession.container.loadedCycleNumber())
+        mpCard->addFlights(*cycle);
+}
+
+void DialogMain::showLoaded()
+{
+    mpCard->showLoaded();
+}
+
+void DialogMain::slotDataChanged()
+{
+    mRecord.setRecord();
+    if (mSession.container.selectedFlightNumber() == 0)
+        listFlights(); // a choice of one of them leaves them
+    showProblems();
+    updateExports();
+    mpPanels->welcome().setState(WidgetWelcome::eEmpty); // seen when there are no data
+    mpPanels->showData(mEmu || mpCardController->hasData());
+}
+
+void DialogMain::slotProjectChanged()
+{
+    mpProfile->updateProject();
+    slotProfileChanged();
+    updateTitle();
+}
+
+void DialogMain::slotTimeout()
+{
+    restoreCard();
+    if (!mEnvironment.withDefaults)
+        mpProjectController->restoreProject();
+    if (mSession.project.file().isUnread(mpProjectController->lastPath()))
+        mpNotices->setProblem(Notices::eProject, tr("Project unreadable"), mpProjectController->lastPath());
+    mpProfile->updateProfile();
+    slotProfileChanged();
+    updateTitle();
+    if (mpCardController->isBusy())
+        connect(mpCardController, &CardController::signalIdle, this, &DialogMain::signalStarted, Qt::SingleShotConnection);
+    else
+        Q_EMIT signalStarted();
+}
+
+void DialogMain::restoreCard()
+{
+    const QFileInfo given(QString::fromStdString(mEnvironment.cmdLine.operand()));
+    const QString last = Settings::kLastPath.text(mSession.property);
+    if (!given.filePath().isEmpty() && !given.exists())
+        mSession.console.print("could not open folder <%s>\n", mEnvironment.cmdLine.operand().c_str());
+    if (!given.filePath().isEmpty())
+        openFolder(RecordFormats::cardOf(given.filePath()));
+    else if (!last.isEmpty() && !mEnvironment.withDefaults)
+        mpCardController->restoreFolder(last);
+}
+
+void DialogMain::slotTimeoutStartup()
+{
+    mpLayout->settle();
+}
+
+void DialogMain::slotCheckStyle()
+{
+    if (mStyleFile.isEmpty())
+        return;
+    const QDateTime time = QFileInfo(mStyleFile).lastModified();
+    if (time == mStyleTime)
+        return;
+    mStyleTime = time;
+    mSession.console.print("Slot Load Style <%s>\n", mStyleFile.toUtf8().constData());
+    mEnvironment.kernel.loadStyleFile(mStyleFile);
+}
+
+bool DialogMain::eventFilter(QObject* pObject, QEvent* pEvent)
+{
+    if (pEvent->type() == QEvent::WindowBlocked && pObject == this)
+        Q_EMIT signalStarted(); // who ends the program at a question has seen it start
+    if (CopyKey::isLeftToWindow(pObject, pEvent))
+        return true;
+    if (pEvent->type() != QEvent::FileOpen)
+        return QMainWindow::eventFilter(pObject, pEvent);
+    const QFileInfo info(static_cast<QFileOpenEvent*>(pEvent)->file());
+    openFolder(info.isDir() ? info.absoluteFilePath() : info.absolutePath());
+    return true;
+}
+
+void DialogMain::closeEvent(QCloseEvent* pEvent)
+{
+    pEvent->setAccepted(cleanup());
+    if (!pEvent->isAccepted())
+        mEnvironment.kernel.cancelRestart();
+}
+
+bool DialogMain::cleanup()
+{
+    if (!mpProjectController->saveAtQuit())
+        return false;
+    const bool wasTold = mpNotices->hasProblem(Notices::eSettings);
+    if (!mEmu && mpLayout->store() && !mSession.property.writeXmlFile() && !wasTold)
+        mpNotices->tell(tr("The settings could not be saved:\n%1").arg(QString::fromStdString(mSession.property.configFile())));
+    mpNotices->showWaiting(); // there is no later
+    return true;
 }
 
 } // namespace ZARN

@@ -2,7 +2,7 @@
 
 #include "project/RecordSession.h"
 #include "project/Session.h"
-#include "ui/main/Desktop.h"
+#include "ui/main/WindowEnvironment.h"
 
 #include <QDateTime>
 #include <QMainWindow>
@@ -16,11 +16,6 @@ class DialogAbout;
 class DialogHelp;
 class DialogProfileInfo;
 class QActionGroup;
-class QComboBox;
-class QLabel;
-class QSplitter;
-class QStackedWidget;
-class QToolBar;
 
 namespace ZARN {
 
@@ -30,13 +25,14 @@ class DialogData;
 class DialogPreferences;
 class DialogProfile;
 class ExportController;
-class OverviewController;
+class MainPanels;
+class MainToolBar;
 class Notices;
+class OverviewController;
 class ProfileCatalogue;
 class ProfileController;
 class ProjectController;
 class StatusProgress;
-class WidgetWelcome;
 class WindowLayout;
 
 /// The main window: actions, menus, tool bar, card browser and profile panel at the left, the data at the right. It connects and forwards; what
@@ -46,7 +42,7 @@ class DialogMain : public QMainWindow {
 
 public:
     /// Shows itself.
-    DialogMain(const Session& session, const Desktop& desktop);
+    DialogMain(const Session& session, const WindowEnvironment& environment);
     ~DialogMain() override;
 
     /// The action with that number; null for a number that is not used.
@@ -90,9 +86,6 @@ Q_SIGNALS:
 
 protected:
     void closeEvent(QCloseEvent* pEvent) override;
-    void dragEnterEvent(QDragEnterEvent* pEvent) override;
-    void dragLeaveEvent(QDragLeaveEvent* pEvent) override;
-    void dropEvent(QDropEvent* pEvent) override;
 
 private Q_SLOTS:
     void slotTimeout();
@@ -116,8 +109,6 @@ private:
     void connectPanels();
     void startTimers();
     void createNotices();
-    void addMorePaths();
-    void addUnits();
     void restoreCard();
     void tellProfileProblem();
     void showProblems();
@@ -132,22 +123,15 @@ private:
 
     Session mSession;
     RecordSession mRecord;
-    Desktop mDesktop;
+    WindowEnvironment mEnvironment;
     bool mEmu;
     std::map<int, QAction*> mActions;
     QActionGroup* mpActionGroup;
     QActionGroup* mpRecentGroup;
-    QToolBar* mpToolBar = nullptr;
-    QMenu* mpFolderMenu = nullptr;
-    QComboBox* mpProfiles = nullptr;
-    QComboBox* mpUnits = nullptr;
-    QSplitter* mpSplitter = nullptr;
-    QSplitter* mpSide = nullptr;
-    QStackedWidget* mpCentre = nullptr;
-    QLabel* mpProblems = nullptr; ///< what of the card could not be read
+    MainToolBar* mpToolBar = nullptr;
+    MainPanels* mpPanels = nullptr;
     DialogCard* mpCard = nullptr;
     DialogProfile* mpProfile = nullptr;
-    WidgetWelcome* mpWelcome = nullptr;
     DialogData* mpData = nullptr;
     DialogAbout* mpAbout = nullptr;
     DialogHelp* mpHelp = nullptr;

@@ -1,6 +1,7 @@
 #include "ui/main/DialogPreferences.h"
 
 #include "app/Property.h"
+#include "app/Settings.h"
 #include "app/gui/ImageHandler.h"
 #include "app/gui/Kernel.h"
 #include "app/gui/WheelGuard.h"
@@ -22,6 +23,7 @@
 #include <QStackedWidget>
 
 #include <algorithm>
+#include <utility>
 
 namespace ZARN {
 
@@ -31,20 +33,15 @@ constexpr int kListWidth = 150;
 
 OpenStreet::TileServer tileServer(const Property& property)
 {
-    return OpenStreet::TileServer(QString::fromStdString(property.getString("TileServer", OpenStreet::TileServer::kDefault)));
-}
-
-QString localeOf(const Property& property)
-{
-    return QString::fromStdString(property.getString("Locale", "us"));
+    return OpenStreet::TileServer(Settings::kTileServer.text(property));
 }
 
 } // namespace
 
 DialogPreferences::DialogPreferences(const Session& session, Kernel& kernel, QWidget* pParent)
-    : QDialog(pParent), mSession(session), mKernel(kernel), mLocale(localeOf(session.property)), mpList(new QListWidget),
-      mpPages(new QStackedWidget), mpLanguage(new QComboBox), mpFontSize(new QSpinBox), mpTiles(new QCheckBox(tr("Load map tiles from the network"))),
-      mpTileServer(new QLabel)
+    : QDialog(pParent), mSession(session), mKernel(kernel), mLocale(Settings::kLocale.text(session.property)), mpList(new QListWidget),
+      mpPages(new QStackedWidget), mpLanguage(new QComboBox), mpFontSize(new QSpinBox),
+      mpTiles(new QCheckBox(tr("Load map tiles from the network"))), mpTileServer(new QLabel)
 {
     setWindowTitle(tr("Preferences"));
     mpList->setIconSize(QSize(16, 16));
@@ -69,14 +66,20 @@ DialogPreferences::DialogPreferences(const Session& session, Kernel& kernel, QWi
     // Connected last: what filling the window sets is no change of the user's.
     connect(mpLanguage, &QComboBox::activated, this, [this](int index) { slotLanguage(mpLanguage->itemData(index).toString()); });
     connect(mpFontSize, &QSpinBox::valueChanged, this, &DialogPreferences::slotFont);
+    connect(mpFontSize, &QSpinBox::editingFinished, this, &DialogPreferences::slotFontChosen);
     connect(mpTiles, &QCheckBox::clicked, this, &DialogPreferences::slotTiles);
+}
+
+DialogPreferences::~DialogPreferences()
+{
+    slotFontChosen();
 }
 
 QWidget* DialogPreferences::createGeneralPage()
 {
     mpLanguage->addItem("Deutsch", "de");
     mpLanguage->addItem("English", "us");
-    mpFontSize->setRange(Kernel::kSmallestFont, Kernel::kLargestFont);
+    mpFontSize->setRange(Settings::kFontSize.least, Settings::kFontSize.most);
     WheelGuard::install(*mpLanguage);
     WheelGuard::install(*mpFontSize);
     auto* pGroup = new QGroupBox(tr("Application"));
@@ -133,9 +136,9 @@ void DialogPreferences::addPage(const QString& name, const QString& icon, QWidge
 
 void DialogPreferences::fillDialog()
 {
-    mpLanguage->setCurrentIndex(mpLanguage->findData(localeOf(mSession.property)));
+    mpLanguage->setCurrentIndex(mpLanguage->findData(Settings::kLocale.text(mSession.property)));
     const QSignalBlocker blocker(mpFontSize);
-    mpFontSize->setValue(Kernel::fontSize(mSession.property));
+    mpFontSize->setValue(Settings::kFontSize.get(mSession.property));
     fillTiles();
 }
 
@@ -169,14 +172,15 @@ void DialogPreferences::slotTiles(bool isAllowed)
 
 void DialogPreferences::slotLanguage(const QString& locale)
 {
-    if (locale == localeOf(mSession.property))
+    if (locale == Settings::kLocale.text(mSession.property))
         return;
-    mSession.property.setString("Locale", locale.toStdString());
+    Settings::kLocale.set(mSession.property, locale);
     mSession.property.writeXmlFile();
     Q_EMIT signalLanguageChanged();
     if (locale == mLocale)
         return; // taken back before any restart
-    QMessageBox box(QMessageBox::Information, tr("ZARN Info"), tr("Please restart ZARN to load new language !"), QMessageBox::NoButton, this);
+    QMessageBox box(QMessageBox::Information, tr("ZARN Info"), tr("Please restart ZARN to load new language !"), QMessageBox::NoButton,
+                    this);
     const QPushButton* pNow = box.addButton(tr("Restart now"), QMessageBox::AcceptRole);
     box.addButton(tr("Restart later: changes will not applied until next restart"), QMessageBox::RejectRole);
     box.exec();
@@ -187,13 +191,25 @@ void DialogPreferences::slotLanguage(const QString& locale)
 void DialogPreferences::slotFont(int size)
 {
     mKernel.applyFontSize(size);
-    mSession.property.setInt("FontSize", size);
-    mSession.property.writeXmlFile();
+    Settings::kFontSize.set(mSession.property, size);
+    mIsUnsaved = true; // the field steps through sizes; a file for each would be a wait for each
+}
+
+void DialogPreferences::slotFontChosen()
+{
+    if (std::exchange(mIsUnsaved, false))
+        mSession.property.writeXmlFile();
+}
+
+void DialogPreferences::hideEvent(QHideEvent* pEvent)
+{
+    slotFontChosen();
+    QDialog::hideEvent(pEvent);
 }
 
 void DialogPreferences::slotProfileSelect()
 {
-    const QString start = QString::fromStdString(mSession.property.getString("Profile", "915"));
+    const QString start = Settings::kProfile.text(mSession.property);
     const QString file = QFileDialog::getOpenFileName(this, tr("Select Profile File"), start, tr("ZARN Profile (*.xml);;All files (*.*)"),
                                                       nullptr, QFileDialog::DontUseNativeDialog);
     if (file.isEmpty())
@@ -210,7 +226,7 @@ void DialogPreferences::slotProfilePath(const QString& path)
         box.exec();
         return;
     }
-    mSession.property.setString("Profile", path.toStdString());
+    Settings::kProfile.set(mSession.property, path);
     mSession.property.writeXmlFile();
     Q_EMIT signalProfileFileChanged();
 }

@@ -16,13 +16,14 @@ namespace ZARN {
 
 class Kernel;
 
-/// The preferences window: language and font size, whether the map may use the network, and which profile file to use. Every change is written
-/// to the settings at once. The main window owns it.
+/// The preferences window: language and font size, whether the map may use the network, and which profile file to use. Every change is in force
+/// at once and written to the settings; the font size when its field or the window is left. The main window owns it.
 class DialogPreferences : public QDialog {
     Q_OBJECT
 
 public:
     DialogPreferences(const Session& session, Kernel& kernel, QWidget* pParent = nullptr);
+    ~DialogPreferences() override;
 
     /// Shows what the settings hold.
     void fillDialog();
@@ -30,8 +31,9 @@ public:
 public Q_SLOTS:
     /// Keeps the language and asks whether to start again now, for a language is loaded at start alone.
     void slotLanguage(const QString& locale);
-    /// Applies and keeps a font size in pixels.
+    /// Applies a font size in pixels; slotFontChosen() keeps it.
     void slotFont(int size);
+    void slotFontChosen();
     void slotProfileSelect();
     /// Puts a profile file in force; one that is none changes nothing, and why it is none is said.
     void slotProfilePath(const QString& path);
@@ -49,6 +51,7 @@ Q_SIGNALS:
 
 protected:
     bool event(QEvent* pEvent) override;
+    void hideEvent(QHideEvent* pEvent) override;
 
 private:
     QWidget* createGeneralPage();
@@ -66,6 +69,7 @@ private:
     QSpinBox* mpFontSize;
     QCheckBox* mpTiles;
     QLabel* mpTileServer;
+    bool mIsUnsaved = false; ///< the font size is another one than in the settings file
 };
 
 } // namespace ZARN

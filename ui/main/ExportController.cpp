@@ -2,6 +2,8 @@
 
 #include "app/Property.h"
 #include "app/SafeFile.h"
+#include "app/Settings.h"
+#include "app/TimeText.h"
 #include "card/CardContainer.h"
 #include "export/ExportGpx.h"
 #include "export/ExportKml.h"
@@ -34,7 +36,8 @@ bool ExportController::mayExport()
         return false;
     if (mCards.hasData())
         return true;
-    say(QMessageBox::Information, tr("ZARN Warning"), tr("No data of this card is loaded."), tr("Choose a power cycle in the card browser first."));
+    say(QMessageBox::Information, tr("ZARN Warning"), tr("No data of this card is loaded."),
+        tr("Choose a power cycle in the card browser first."));
     return false;
 }
 
@@ -46,7 +49,8 @@ QString ExportController::fileName(int flight, const QString& suffix) const
         return card + suffix;
     // All at once: what a name contains is never taken for the next mark.
     const QString number = QString::number(*cycle);
-    return (flight > 0 ? tr("%1 cycle %2 flight %3").arg(card, number, QString::number(flight)) : tr("%1 cycle %2").arg(card, number)) + suffix;
+    return (flight > 0 ? tr("%1 cycle %2 flight %3").arg(card, number, QString::number(flight)) : tr("%1 cycle %2").arg(card, number)) +
+           suffix;
 }
 
 QString ExportController::selectionName(const QString& suffix) const
@@ -63,7 +67,7 @@ std::vector<ExportPart> ExportController::parts(const QString& suffix) const
     }
     if (std::optional<TimeSpan> shown = mGraphSpan()) {
         shown->start = std::max(shown->start, 0.0); // nothing is recorded before
-        const auto time = [](double seconds) { return CardContainer::time(seconds).left(8); };
+        const auto time = [](double seconds) { return timeOfDayText(wholeMilliseconds(seconds), false); };
         parts.push_back({tr("What the graph shows, %1 to %2").arg(time(shown->start), time(shown->end)),
                          tr("%1 from %2").arg(fileName(0, {}), time(shown->start).replace(':', '-')) + suffix, shown});
     }
@@ -93,7 +97,7 @@ void ExportController::exportCsv()
 {
     if (!mayExport())
         return;
-    mCsvOptions.directory = QString::fromStdString(mSession.property.getString("CsvExportDir", "."));
+    mCsvOptions.directory = Settings::kCsvExportDir.text(mSession.property);
     mCsvOptions.fileName = fileName(0, ".csv");
     if (!DialogExportCsv(mSession, mpWindow).getOptions(mCsvOptions, parts(".csv")))
         return;
@@ -110,7 +114,7 @@ void ExportController::exportGpx()
 {
     if (!mayExport())
         return;
-    const QString path = askFile("GpxExportDir", tr("Save GPX Export"), selectionName(".gpx"), tr("GPX Files (*.gpx)"));
+    const QString path = askFile(Settings::kGpxExportDir, tr("Save GPX Export"), selectionName(".gpx"), tr("GPX Files (*.gpx)"));
     if (path.isEmpty())
         return;
     const auto work = [path, loaded = mSession.container.loaded()](Progress& progress) {
@@ -126,7 +130,7 @@ void ExportController::writeReport()
 {
     if (!mayExport())
         return;
-    const QString path = askFile("ReportDir", tr("Save Flight Report"), selectionName(".pdf"), tr("PDF Files (*.pdf)"));
+    const QString path = askFile(Settings::kReportDir, tr("Save Flight Report"), selectionName(".pdf"), tr("PDF Files (*.pdf)"));
     if (path.isEmpty())
         return;
     const ReportOptions paper{QLocale::system().measurementSystem() == QLocale::ImperialUSSystem};
@@ -139,9 +143,9 @@ void ExportController::writeReport()
     run(path, work, {tr("ZARN Warning"), tr("Writing the flight report failed !")});
 }
 
-QString ExportController::askFile(const char* setting, const QString& title, const QString& name, const QString& filter)
+QString ExportController::askFile(const TextSetting& setting, const QString& title, const QString& name, const QString& filter)
 {
-    const QString folder = QString::fromStdString(mSession.property.getString(setting, "."));
+    const QString folder = setting.text(mSession.property);
     QFileDialog dialog(mpWindow, title, folder, filter);
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
@@ -151,11 +155,12 @@ QString ExportController::askFile(const char* setting, const QString& title, con
         return {};
     const QString path = dialog.selectedFiles().constFirst();
     const QFileInfo file(path);
-    if (const QString problem = ExportTarget(mSession.container, file.absolutePath(), file.fileName()).recordProblem(); !problem.isEmpty()) {
+    if (const QString problem = ExportTarget(mSession.container, file.absolutePath(), file.fileName()).recordProblem();
+        !problem.isEmpty()) {
         say(QMessageBox::Critical, tr("ZARN Warning"), problem);
         return {};
     }
-    mSession.property.setString(setting, file.absolutePath().toStdString());
+    setting.set(mSession.property, file.absolutePath());
     mSession.property.writeXmlFile();
     return path;
 }

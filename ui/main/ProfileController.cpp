@@ -2,6 +2,7 @@
 
 #include "app/Console.h"
 #include "app/Property.h"
+#include "app/Settings.h"
 #include "profile/Profile.h"
 #include "profile/ui/ProfileProblem.h"
 #include "project/Project.h"
@@ -9,13 +10,6 @@
 #include <QComboBox>
 
 namespace ZARN {
-
-namespace {
-
-/// Preferred while the user has chosen none.
-const QString kFirstProfile = QStringLiteral("915");
-
-} // namespace
 
 ProfileController::ProfileController(const Session& session, ProfileCatalogue& catalogue, QComboBox& profiles, QComboBox& units)
     : mSession(session), mCatalogue(catalogue), mProfiles(profiles), mUnits(units)
@@ -35,15 +29,16 @@ bool ProfileController::loadEntry(const ProfileEntry& entry)
 void ProfileController::load()
 {
     mProblem.clear();
-    const QString setting = QString::fromStdString(mSession.property.getString("Profile", ""));
-    if (!loadEntry(mCatalogue.find(setting.isEmpty() ? kFirstProfile : setting))) {
+    const bool isChosen = Settings::kProfile.isSet(mSession.property);
+    const QString setting = isChosen ? Settings::kProfile.text(mSession.property) : QString(Settings::kProfile.fallback);
+    if (!loadEntry(mCatalogue.find(setting))) {
         for (const ProfileEntry& entry : mCatalogue.entries()) {
             if (!mFile.isEmpty() || loadEntry(entry))
                 break;
         }
         if (mFile.isEmpty())
             mProblem = tr("There is no profile that could be read: nothing of a recording can be decoded.");
-        else if (!setting.isEmpty())
+        else if (isChosen)
             mProblem = tr("The profile \"%1\" of the settings is missing or damaged. In its place is in force: %2").arg(setting, mText);
     }
     mSession.project.setProfileData();
@@ -85,20 +80,20 @@ void ProfileController::adoptInstalled(const QString& file)
 
 void ProfileController::remember(const QString& setting)
 {
-    mSession.property.setString("Profile", setting.toStdString());
+    Settings::kProfile.set(mSession.property, setting);
     mSession.property.writeXmlFile();
 }
 
 void ProfileController::selectUnit(int unit)
 {
-    mSession.property.setInt("Unit", unit);
+    Settings::kUnit.set(mSession.property, unit);
     mSession.property.writeXmlFile();
     updateUnit();
 }
 
 void ProfileController::updateUnit()
 {
-    const EUnit unit = mSession.property.getInt("Unit", 0) == 1 ? EUnit::eImperial : EUnit::eMetric;
+    const EUnit unit = Settings::kUnit.get(mSession.property) == 1 ? EUnit::eImperial : EUnit::eMetric;
     mSession.profile.setCurrentUnit(unit);
     mUnits.setCurrentIndex(unit == EUnit::eImperial ? 1 : 0);
 }

@@ -1,6 +1,7 @@
 #include "ui/main/ProjectController.h"
 
 #include "app/Property.h"
+#include "app/Settings.h"
 #include "project/Project.h"
 
 #include <QDir>
@@ -15,7 +16,7 @@ ProjectController::ProjectController(const Session& session, QWidget* pWindow) :
 
 QString ProjectController::lastPath() const
 {
-    return QString::fromStdString(mSession.property.getString("LastProjectPath", "."));
+    return Settings::kLastProjectPath.text(mSession.property);
 }
 
 void ProjectController::newProject()
@@ -37,12 +38,13 @@ void ProjectController::openProject()
     if (file.isEmpty())
         return;
     if (!readProject(file)) {
-        QMessageBox box(QMessageBox::Warning, tr("ZARN Warning"), tr("%1 is no readable project file.").arg(file), QMessageBox::Ok, mpWindow);
+        QMessageBox box(QMessageBox::Warning, tr("ZARN Warning"), tr("%1 is no readable project file.").arg(file), QMessageBox::Ok,
+                        mpWindow);
         box.setTextFormat(Qt::PlainText);
         box.exec();
         return;
     }
-    mSession.property.setString("LastProjectPath", file.toStdString());
+    Settings::kLastProjectPath.set(mSession.property, file);
     mSession.property.writeXmlFile();
     Q_EMIT signalChanged();
 }
@@ -72,7 +74,7 @@ QString ProjectController::askSaveName()
 
 QString ProjectController::saveName(bool askName)
 {
-    const bool hasName = mHasFile && !lastPath().isEmpty() && lastPath() != ".";
+    const bool hasName = mHasFile && !lastPath().isEmpty() && lastPath() != Settings::kLastProjectPath.fallback;
     return askName || !hasName ? askSaveName() : lastPath();
 }
 
@@ -81,7 +83,7 @@ bool ProjectController::writeProject(const QString& path)
     mSession.project.saveProject(path);
     if (!mSession.project.file().isWritten())
         return false;
-    mSession.property.setString("LastProjectPath", path.toStdString());
+    Settings::kLastProjectPath.set(mSession.property, path);
     mSession.property.writeXmlFile();
     mHasFile = true;
     mModified = 0;
@@ -118,7 +120,8 @@ bool ProjectController::isGoneOn(const QString& path, bool isQuit)
 
 bool ProjectController::askSaveProject()
 {
-    QMessageBox box(QMessageBox::Warning, tr("ZARN Warning"), tr("Current Project not saved !\nSave it now ?"), QMessageBox::NoButton, mpWindow);
+    QMessageBox box(QMessageBox::Warning, tr("ZARN Warning"), tr("Current Project not saved !\nSave it now ?"), QMessageBox::NoButton,
+                    mpWindow);
     const QPushButton* pYes = box.addButton(tr("Yes"), QMessageBox::YesRole);
     const QPushButton* pNo = box.addButton(tr("No"), QMessageBox::NoRole);
     QPushButton* pCancel = box.addButton(tr("Cancel"), QMessageBox::RejectRole);

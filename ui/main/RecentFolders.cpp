@@ -1,19 +1,11 @@
 #include "ui/main/RecentFolders.h"
 
 #include "app/Property.h"
+#include "app/Settings.h"
 
 #include <QMenu>
 
 namespace ZARN {
-
-namespace {
-
-std::string keyOf(int number)
-{
-    return "RecentFolder" + std::to_string(number);
-}
-
-} // namespace
 
 RecentFolders::RecentFolders(Property& property, QMenu& menu) : QObject(&menu), mProperty(property), mMenu(menu)
 {
@@ -23,8 +15,8 @@ RecentFolders::RecentFolders(Property& property, QMenu& menu) : QObject(&menu), 
 QStringList RecentFolders::folders() const
 {
     QStringList folders;
-    for (int i = 0; i < kCount; ++i) {
-        const QString folder = QString::fromStdString(mProperty.getString(keyOf(i), ""));
+    for (int i = 0; i < Settings::kRecentFolder.count; ++i) {
+        const QString folder = Settings::kRecentFolder.text(mProperty, i);
         if (!folder.isEmpty())
             folders.append(folder);
     }
@@ -41,8 +33,8 @@ void RecentFolders::add(const QString& folder)
 
 void RecentFolders::store(const QStringList& folders)
 {
-    for (int i = 0; i < kCount; ++i)
-        mProperty.setString(keyOf(i), folders.value(i).toStdString());
+    for (int i = 0; i < Settings::kRecentFolder.count; ++i)
+        Settings::kRecentFolder.set(mProperty, i, folders.value(i).toStdString());
     fillMenu();
 }
 

@@ -14,8 +14,6 @@ class RecentFolders : public QObject {
     Q_OBJECT
 
 public:
-    static constexpr int kCount = 10;
-
     RecentFolders(Property& property, QMenu& menu);
 
     [[nodiscard]] QStringList folders() const;

@@ -1,6 +1,7 @@
 #include "ui/main/WindowLayout.h"
 
 #include "app/Property.h"
+#include "app/Settings.h"
 
 #include <QEvent>
 #include <QFontInfo>
@@ -14,18 +15,15 @@ namespace ZARN {
 
 namespace {
 
-constexpr const char* kGeometry = "WindowGeometry";
-constexpr const char* kCentre = "WindowSplitter";
-constexpr const char* kSide = "WindowSideSplitter";
 constexpr QSize kFirstSize(1000, 800);
 constexpr QSize kFrame(4, 40); // what the system puts around the window
 constexpr int kFirstSideWidth = 320;
 constexpr int kSideWidthPerPixel = 15; // of a text larger than the usual
 constexpr int kUsualText = 12;
 
-QByteArray stored(const Property& property, const char* key)
+QByteArray stored(const Property& property, const TextSetting& setting)
 {
-    return QByteArray::fromBase64(QByteArray::fromStdString(property.getString(key, "")));
+    return QByteArray::fromBase64(QByteArray::fromStdString(setting.get(property)));
 }
 
 } // namespace
@@ -41,7 +39,7 @@ void WindowLayout::restoreWindow()
     mWindow.ensurePolished();
     const double larger = std::max(1.0, QFontInfo(mWindow.font()).pixelSize() / static_cast<double>(kUsualText));
     mWindow.resize((kFirstSize * larger).boundedTo(screen.size() - kFrame));
-    mWindow.restoreGeometry(stored(mProperty, kGeometry)); // refuses what it did not write itself
+    mWindow.restoreGeometry(stored(mProperty, Settings::kWindowGeometry)); // refuses what it did not write itself
 }
 
 void WindowLayout::restoreSplitters()
@@ -67,9 +65,9 @@ void WindowLayout::setSplitters()
 {
     const int larger = std::max(QFontInfo(mCentre.font()).pixelSize() - kUsualText, 0);
     const int side = kFirstSideWidth + larger * kSideWidthPerPixel;
-    if (!mCentre.restoreState(stored(mProperty, kCentre)))
+    if (!mCentre.restoreState(stored(mProperty, Settings::kWindowSplitter)))
         mCentre.setSizes({side, mCentre.width() - side});
-    mSide.restoreState(stored(mProperty, kSide));
+    mSide.restoreState(stored(mProperty, Settings::kWindowSideSplitter));
     // Other versions may have kept other properties of the splitters; only the sizes are the user's.
     for (QSplitter* pSplitter : {&mCentre, &mSide})
         pSplitter->setChildrenCollapsible(false);
@@ -77,17 +75,17 @@ void WindowLayout::setSplitters()
 
 bool WindowLayout::store()
 {
-    const bool geometry = storeText(kGeometry, mWindow.saveGeometry().toBase64().constData());
-    const bool centre = storeText(kCentre, mCentre.saveState().toBase64().constData());
-    const bool side = storeText(kSide, mSide.saveState().toBase64().constData());
+    const bool geometry = storeText(Settings::kWindowGeometry, mWindow.saveGeometry().toBase64().constData());
+    const bool centre = storeText(Settings::kWindowSplitter, mCentre.saveState().toBase64().constData());
+    const bool side = storeText(Settings::kWindowSideSplitter, mSide.saveState().toBase64().constData());
     return geometry || centre || side;
 }
 
-bool WindowLayout::storeText(const char* key, const char* text)
+bool WindowLayout::storeText(const TextSetting& setting, const char* text)
 {
-    if (mProperty.getString(key, "") == text)
+    if (setting.get(mProperty) == text)
         return false;
-    mProperty.setString(key, text);
+    setting.set(mProperty, std::string(text));
     return true;
 }
 

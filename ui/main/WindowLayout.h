@@ -8,6 +8,7 @@ class QSplitter;
 namespace ZARN {
 
 class Property;
+struct TextSetting;
 
 /// Keeps the place of the main window and of its splitters from run to run, in settings of its own.
 class WindowLayout : public QObject {
@@ -28,7 +29,7 @@ public:
 
 private:
     void setSplitters();
-    bool storeText(const char* key, const char* text);
+    bool storeText(const TextSetting& setting, const char* text);
 
     Property& mProperty;
     QMainWindow& mWindow;

@@ -2,6 +2,7 @@
 
 #include "app/Numeric.h"
 #include "app/Property.h"
+#include "app/Settings.h"
 #include "ui/gl/GraphicsCheck.h"
 #include "ui/map/MapPanels.h"
 #include "ui/map/model/TileConsent.h"
@@ -24,7 +25,6 @@ constexpr int kBelowPanels = 70; // pixels for what is written at the lower edge
 constexpr int kBelowConsent = 40;
 constexpr int kAircraft = 24; // pixels around the aircraft
 constexpr int kMostOfMap = 3; // the values cover no more than this part of the map
-constexpr const char* kValuesKey = "MapShowValues";
 
 } // namespace
 
@@ -51,7 +51,7 @@ void DialogDataMap::createMap(const QString& dataPath)
     pLayout->addWidget(mpMap);
     mpValues = new MapValuePanel(this);
     mpTools = new MapToolPanel(mContext.scale, this);
-    mpTools->setChecked(MapToolPanel::kShowValues, mSession.property.getSwitch(kValuesKey, true));
+    mpTools->setChecked(MapToolPanel::kShowValues, Settings::kMapShowValues.get(mSession.property));
     mpConsent = new MapConsentBar(this);
     mpConsent->hide();
     connect(mpMap, &WidgetMap::signalUpdateMode, this, &DialogDataMap::slotUpdateMode);
@@ -151,7 +151,7 @@ void DialogDataMap::slotCommandToggled(int id, bool isChecked)
         if (isChecked)
             mpMap->setAcPosition(calcPositionAtTime(mTime));
     } else if (id == MapToolPanel::kShowValues) {
-        mSession.property.setSwitch(kValuesKey, isChecked);
+        Settings::kMapShowValues.set(mSession.property, isChecked);
         mSession.property.writeXmlFile();
         fillDataLabel();
     }

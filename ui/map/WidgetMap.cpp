@@ -3,17 +3,24 @@
 #include "app/Console.h"
 #include "app/Property.h"
 #include "app/Revision.h"
+#include "app/Settings.h"
 #include "card/CardContainer.h"
 #include "openstreet/core/BaseMap.h"
 #include "profile/Profile.h"
 #include "ui/map/MapAttribution.h"
 #include "ui/map/model/TileConsent.h"
+#include "ui/map/model/ToolTipText.h"
 #include "vesk/base/Timer.h"
 #include "vesk/gl/Device.h"
 
-#include <QApplication>
 #include <QFontInfo>
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QNativeGestureEvent>
 #include <QResizeEvent>
+#include <QToolTip>
+#include <QTouchEvent>
+#include <QWheelEvent>
 
 #include <cmath>
 #include <utility>
@@ -35,7 +42,7 @@ QByteArray userAgent()
 } // namespace
 
 WidgetMap::WidgetMap(const Session& session, const QString& dataPath, MapContext& context, QWidget* pParent)
-    : QWidget(pParent), mSession(session), mContext(context), mNavigator(context)
+    : QWidget(pParent), mSession(session), mContext(context), mNavigator(context), mInteraction(mNavigator, mScene)
 {
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
@@ -59,9 +66,12 @@ WidgetMap::WidgetMap(const Session& session, const QString& dataPath, MapContext
     mpSurface = Surface::create(Surface::EKind::eOpenGl, painting, this);
     mpAttribution = new MapAttribution(this);
     setAccessibleName(tr("Map of the flight"));
-    mClick.setSingleShot(true);
-    mClick.setInterval(QApplication::doubleClickInterval());
-    connect(&mClick, &QTimer::timeout, this, [this] { Q_EMIT signalTime(mClickTime); });
+    connect(&mInteraction, &MapInteraction::signalMoved, this, [this] {
+        setDirty();
+        QToolTip::hideText(); // what it told of is moving away
+    });
+    connect(&mInteraction, &MapInteraction::signalUpdateMode, this, &WidgetMap::signalUpdateMode);
+    connect(&mInteraction, &MapInteraction::signalTime, this, &WidgetMap::signalTime);
     mTimer.setInterval(kRedrawInterval);
     connect(&mTimer, &QTimer::timeout, this, &WidgetMap::slotTimeout);
     mTimer.start();
@@ -88,10 +98,10 @@ void WidgetMap::setUpMap(const QString& dataPath)
 void WidgetMap::updateSettings()
 {
     const Property& property = mSession.property;
-    mMap.setTileServer(property.getString("TileServer", OpenStreet::TileServer::kDefault).c_str());
-    mMap.setContrast(property.getDouble("MapShadingContrast", 1.0));
-    mMap.setBrightness(property.getDouble("MapShadingBrightness", 1.0));
-    mMap.setShadingFactor(property.getDouble("MapShadingFactor", 0.5));
+    mMap.setTileServer(Settings::kTileServer.get(property).c_str());
+    mMap.setContrast(Settings::kMapShadingContrast.get(property));
+    mMap.setBrightness(Settings::kMapShadingBrightness.get(property));
+    mMap.setShadingFactor(Settings::kMapShadingFactor.get(property));
     mScene.setImperial(mSession.profile.currentUnit() == EUnit::eImperial);
     allowTiles();
 }
@@ -255,7 +265,7 @@ void WidgetMap::hideEvent(QHideEvent* pEvent)
 
 void WidgetMap::setRecordData(RecordData* pRecord)
 {
-    mClick.stop();
+    mInteraction.forgetClick();
     if (pRecord) {
         redrawFlightPath();
     } else {
@@ -314,6 +324,74 @@ double WidgetMap::screenToCartesianSize(double pixels) const
 double WidgetMap::calcDistance(double lat1, double lon1, double lat2, double lon2)
 {
     return CardContainer::calcDistance(lat1, lon1, lat2, lon2);
+}
+
+void WidgetMap::keyPressEvent(QKeyEvent* pEvent)
+{
+    if (!mInteraction.keyPressed(*pEvent))
+        QWidget::keyPressEvent(pEvent);
+}
+
+void WidgetMap::mousePressEvent(QMouseEvent* pEvent)
+{
+    if (pEvent->button() != Qt::LeftButton)
+        return QWidget::mousePressEvent(pEvent);
+    mInteraction.pressed(*pEvent);
+}
+
+void WidgetMap::mouseMoveEvent(QMouseEvent* pEvent)
+{
+    mInteraction.moved(*pEvent);
+}
+
+void WidgetMap::mouseReleaseEvent(QMouseEvent* pEvent)
+{
+    if (pEvent->button() != Qt::LeftButton)
+        return QWidget::mouseReleaseEvent(pEvent);
+    mInteraction.released(*pEvent);
+}
+
+void WidgetMap::mouseDoubleClickEvent(QMouseEvent* pEvent)
+{
+    if (pEvent->button() != Qt::LeftButton)
+        return QWidget::mouseDoubleClickEvent(pEvent);
+    mInteraction.doubleClicked(*pEvent);
+}
+
+void WidgetMap::wheelEvent(QWheelEvent* pEvent)
+{
+    mInteraction.wheel(*pEvent);
+    pEvent->accept();
+}
+
+void WidgetMap::leaveEvent(QEvent* pEvent)
+{
+    QWidget::leaveEvent(pEvent);
+    mInteraction.left();
+}
+
+bool WidgetMap::event(QEvent* pEvent)
+{
+    switch (pEvent->type()) {
+    case QEvent::ToolTip: {
+        const auto& help = static_cast<const QHelpEvent&>(*pEvent);
+        QToolTip::showText(help.globalPos(), plainToolTip(mInteraction.textAt(help.pos())), this);
+        return true;
+    }
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+    case QEvent::TouchCancel:
+        pEvent->accept();
+        mInteraction.touched(static_cast<const QTouchEvent&>(*pEvent));
+        return true;
+    case QEvent::NativeGesture:
+        if (mInteraction.nativeGesture(static_cast<const QNativeGestureEvent&>(*pEvent)))
+            return true;
+        break;
+    default: break;
+    }
+    return QWidget::event(pEvent);
 }
 
 } // namespace ZARN

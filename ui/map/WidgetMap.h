@@ -5,24 +5,16 @@
 #include "project/Session.h"
 #include "ui/canvas/FramePacer.h"
 #include "ui/gl/Surface.h"
-#include "ui/map/model/MapNavigator.h"
-#include "ui/map/model/MapScene.h"
+#include "ui/map/model/MapInteraction.h"
 
 #include <QTimer>
 #include <QWidget>
-
-#include <memory>
-#include <optional>
-
-class QNativeGestureEvent;
-class QTouchEvent;
 
 namespace ZARN {
 
 class MapAttribution;
 
-/// The drawn map: tiles, and above them the flight path with the aircraft. Turns the user's keys, wheel, drags and touches into
-/// moves of the view. Draws only when something has changed. Owned by the panel, as is the context.
+/// The drawn map: tiles, and above them the flight path with the aircraft. Draws only when something has changed. Owned by the panel, as is the context.
 class WidgetMap : public QWidget {
     Q_OBJECT
 
@@ -101,34 +93,22 @@ private Q_SLOTS:
     void slotTimeout();
 
 private:
-    struct Touch {
-        QPointF middle;
-        double spread = 0.0; ///< pixels between two fingers; 0 with one
-    };
-
     void setUpMap(const QString& dataPath);
     void loadWorld();
     void allowTiles();
     void updateNote();
     void updateGround();
     void releaseGraphics();
-    bool moveByKey(const QKeyEvent& event);
-    bool arrowKey(const QKeyEvent& event, double right, double down);
-    void dragBy(const QPointF& step);
-    [[nodiscard]] std::optional<double> timeAt(const QPointF& place) const;
-    void pickTime(const QPointF& place);
-    void showToolTip(const QPoint& place, const QPoint& globalPlace);
-    bool touch(const QTouchEvent& event);
-    bool nativeGesture(const QNativeGestureEvent& event);
 
     Session mSession;
     MapContext& mContext;
     MapNavigator mNavigator;
     MapScene mScene;
+    MapInteraction mInteraction;
     OpenStreet::OpenStreetMap mMap;
     Surface* mpSurface = nullptr;
     MapAttribution* mpAttribution = nullptr;
-    OpenStreet::MapSources mSources; // that the attribution names
+    OpenStreet::MapSources mSources;          // that the attribution names
     VESK::OpenGL::Device* mpDevice = nullptr; // while it paints
     EUnit mPathUnit{};
     bool mIsInitialised = false;
@@ -141,11 +121,6 @@ private:
     int mGroundPaints = 0;
     int mPaints = 0;
     QTimer mTimer;
-    QTimer mClick; // runs while a click may become a double click
-    double mClickTime = 0.0;
-    std::optional<QPointF> mDragFrom;
-    bool mWasDragged = false;
-    std::optional<Touch> mTouch;
 };
 
 } // namespace ZARN

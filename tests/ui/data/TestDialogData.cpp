@@ -68,7 +68,7 @@ struct Area : Test::DataCycle {
     {
         records().addFloat(1, start, 1.0F).addFloat(1, end, 1.0F);
         load(dated);
-        DataViews views;
+        DataViewList views;
         for (std::size_t i = 0; i < eViewCount; ++i) {
             auto* pView = new RecordingView(QString("TGFLWSM").mid(static_cast<qsizetype>(i), 1), log);
             views.entries[i] = {pView, pView};
@@ -534,7 +534,7 @@ void TestDialogData::focusOfTabs()
     Test::DataCycle cycle;
     cycle.load();
     RecordSession record(cycle.container);
-    DialogData area(record, DataViews::create(cycle.session, cycle.card.path()), false);
+    DialogData area(record, DataViewList::create(cycle.session, cycle.card.path()), false);
     area.resize(1200, 700);
     QVERIFY(activate(area));
     auto* pTabs = area.findChild<DataTabBar*>();
@@ -564,7 +564,7 @@ void TestDialogData::realViews()
         cycle.records().addFloat(1, second, second == 40 ? 120.0F : 50.0F);
     cycle.load();
     RecordSession record(cycle.container);
-    DialogData area(record, DataViews::create(cycle.session, cycle.card.path()), false);
+    DialogData area(record, DataViewList::create(cycle.session, cycle.card.path()), false);
     area.show();
     area.updateRecord();
     const auto tell = [&record] { QCoreApplication::sendPostedEvents(&record); };

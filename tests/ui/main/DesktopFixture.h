@@ -50,7 +50,7 @@ struct DesktopFixture {
     ZARN::DialogMain& open(bool withDefaults = false)
     {
         window.emplace(ZARN::Session{console.console, property, profile, container, project},
-                       ZARN::Desktop{cmdLine, folders, kernel, QString(), withDefaults});
+                       ZARN::WindowEnvironment{cmdLine, folders, kernel, QString(), withDefaults});
         qApp->installEventFilter(&*window);
         return *window;
     }

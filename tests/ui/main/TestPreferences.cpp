@@ -100,6 +100,10 @@ void TestPreferences::fontSize()
     QVERIFY(dialog.findChild<QSpinBox*>()->fontMetrics().height() > before);
     dialog.findChild<QSpinBox*>()->setValue(8);
     QCOMPARE(desktop.property.getInt("FontSize", 0), 8);
+    const QString settings = home.filePath("data/ZARN.ini");
+    QVERIFY(!QFileInfo::exists(settings)); // no file a step
+    dialog.close();
+    QVERIFY(fileContent(settings.toStdString()).find("id=\"FontSize\" value=\"8\"") != std::string::npos);
     for (const char* unusable : {"0", "abc", "7", "21", "-3"}) {
         desktop.property.setString("FontSize", unusable);
         dialog.fillDialog();

@@ -1,6 +1,6 @@
 #include "ui/data/model/DataTableModel.h"
 
-#include "ui/data/model/TimeOfDay.h"
+#include "app/TimeText.h"
 
 #include <algorithm>
 #include <cmath>
@@ -84,7 +84,7 @@ TableCell DataTableModel::cell(const QModelIndex& index) const
     if (index.row() >= mRowCount || mProfileIdentity != mProfile.identity())
         return {};
     if (index.column() == 0)
-        return {timeOfDayText(mRows.key(row).milliseconds()), kTimeGround, eThresholdOk, false};
+        return {signedTimeText(mRows.key(row).milliseconds()), kTimeGround, eThresholdOk, false};
     const auto column = static_cast<std::size_t>(index.column()) - 1;
     const auto position = mRows.sampleAt(column, row);
     return position ? valueCell(column, *position) : TableCell{};

@@ -79,7 +79,7 @@ void CursorLabels::addMoved()
 {
     const bool isSplit = mModel.settings().displayMode == eSplit;
     const int index = isSplit ? mModel.cursor().strip : mModel.traces().axis();
-    if (!mModel.traces().isShown(index))
+    if (!isShown(mModel.traces(), index))
         return;
     const QRectF area = mLayout.area(index);
     const double y = std::floor(GraphLayout::yOf(mModel.cursor().value, area, mModel.valueSpan(index)));

@@ -62,10 +62,10 @@ void GraphInteraction::moveValueBy(double pixels)
 {
     const bool isSplit = mModel.settings().displayMode == eSplit;
     int index = isSplit ? mModel.cursor().strip : mModel.traces().axis();
-    if (isSplit && !mModel.traces().isShown(index) && mModel.traces().count() > 0)
+    if (isSplit && !isShown(mModel.traces(), index) && mModel.traces().count() > 0)
         index = mModel.traces().shown().front();
     double value = mModel.cursor().value;
-    if (mModel.traces().isShown(index)) {
+    if (isShown(mModel.traces(), index)) {
         // From where it can be seen: the value may be that of another strip.
         const QRectF from = mLayout.area(index);
         const double start = std::clamp(GraphLayout::yOf(value, from, mModel.valueSpan(index)), from.top(), from.bottom());

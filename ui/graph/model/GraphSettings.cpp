@@ -1,41 +1,32 @@
 #include "ui/graph/model/GraphSettings.h"
 
 #include "app/Property.h"
+#include "app/Settings.h"
 
 namespace ZARN {
 
 namespace {
 
-constexpr auto kClickMovesCursor = "GraphClickMovesCursor";
-constexpr int kMostColours = 300;
-
-std::string colourKey(int number)
-{
-    return "GraphColor" + std::to_string(number);
-}
-
+constexpr const NumberedSetting& kColour = Settings::kGraphColor;
 /// Whose the colour of that number is. Slots change their parameters as others come and go; a colour stays with its parameter.
-std::string ownerKey(int number)
-{
-    return "GraphColorName" + std::to_string(number);
-}
+constexpr const NumberedSetting& kOwner = Settings::kGraphColorName;
 
 } // namespace
 
 void GraphSettings::load(GraphModel& model) const
 {
-    model.settings().clickMovesCursor = mProperty.getSwitch(kClickMovesCursor, false);
+    model.settings().clickMovesCursor = Settings::kGraphClickMovesCursor.get(mProperty);
     for (int slot = 0; slot < static_cast<int>(model.traces().all().size()); ++slot) {
         const int number = colourNumber(slot, model.traces().at(slot)->name);
-        model.traces().setColour(slot, QColor(QString::fromStdString(mProperty.getString(colourKey(number), ""))));
+        model.traces().setColour(slot, QColor(kColour.text(mProperty, number)));
     }
 }
 
 void GraphSettings::store(const GraphModel& model)
 {
     const bool clickMovesCursor = model.settings().clickMovesCursor;
-    bool isChanged = clickMovesCursor != mProperty.getSwitch(kClickMovesCursor, false);
-    mProperty.setSwitch(kClickMovesCursor, clickMovesCursor);
+    bool isChanged = clickMovesCursor != Settings::kGraphClickMovesCursor.get(mProperty);
+    Settings::kGraphClickMovesCursor.set(mProperty, clickMovesCursor);
     for (const int slot : model.traces().shown())
         isChanged = storeColour(slot, *model.traces().at(slot)) || isChanged;
     if (isChanged)
@@ -45,14 +36,14 @@ void GraphSettings::store(const GraphModel& model)
 int GraphSettings::colourNumber(int slot, const QString& name) const
 {
     const std::string wanted = name.toStdString();
-    for (int number = 0; number < kMostColours && !wanted.empty(); ++number) {
-        if (mProperty.getString(ownerKey(number), "") == wanted)
+    for (int number = 0; number < kColour.count && !wanted.empty(); ++number) {
+        if (kOwner.get(mProperty, number) == wanted)
             return number;
     }
-    if (mProperty.getString(ownerKey(slot), "").empty()) // one without an owner is the slot's
+    if (kOwner.get(mProperty, slot).empty()) // one without an owner is the slot's
         return slot;
     int number = 0;
-    while (number < kMostColours && !mProperty.getString(colourKey(number), "").empty())
+    while (number < kColour.count && !kColour.get(mProperty, number).empty())
         ++number;
     return number;
 }
@@ -62,10 +53,10 @@ bool GraphSettings::storeColour(int slot, const GraphParameter& trace)
     const int number = colourNumber(slot, trace.name);
     const std::string value = trace.hasOwnColour ? trace.colour.name().toStdString() : std::string();
     const std::string owner = trace.hasOwnColour ? trace.name.toStdString() : std::string();
-    if (value == mProperty.getString(colourKey(number), "") && owner == mProperty.getString(ownerKey(number), ""))
+    if (value == kColour.get(mProperty, number) && owner == kOwner.get(mProperty, number))
         return false;
-    mProperty.setString(colourKey(number), value);
-    mProperty.setString(ownerKey(number), owner);
+    kColour.set(mProperty, number, value);
+    kOwner.set(mProperty, number, owner);
     return true;
 }
 

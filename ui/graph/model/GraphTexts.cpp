@@ -1,29 +1,20 @@
 #include "ui/graph/model/GraphTexts.h"
 
 #include "app/Numeric.h"
+#include "app/TimeText.h"
 
 #include <algorithm>
 #include <cmath>
 
 namespace ZARN {
 
-namespace {
-
-QString digits(qint64 number, int least)
-{
-    return QStringLiteral("%1").arg(number, least, 10, QLatin1Char('0'));
-}
-
-} // namespace
-
 QString graphTime(double seconds, int decimals, int hours)
 {
-    const auto parts = saturatingCast<qint64>(std::pow(10.0, decimals));
-    const auto total = saturatingCast<qint64>(std::abs(seconds) * static_cast<double>(parts));
-    const qint64 whole = total / parts;
-    QString text = seconds < 0 && total != 0 ? QStringLiteral("-") : QString();
-    text += digits(whole / 3600, hours) + QLatin1Char(':') + digits(whole / 60 % 60, 2) + QLatin1Char(':') + digits(whole % 60, 2);
-    return decimals > 0 ? text + QLatin1Char('.') + digits(total % parts, decimals) : text;
+    const auto total = saturatingCast<qint64>(std::abs(seconds) * std::pow(10.0, decimals));
+    char text[kTimeTextSize] = {'-'};
+    const char* pEnd = writeElapsed(text + 1, static_cast<uint64_t>(total), decimals, hours);
+    const char* pText = seconds < 0 && total != 0 ? text : text + 1;
+    return QString::fromLatin1(pText, pEnd - pText);
 }
 
 QString graphNumber(double value, int precision)

@@ -43,9 +43,9 @@ void ShownTraces::changed() const
         mChanged();
 }
 
-bool ShownTraces::isShown(int index) const
+bool isShown(const ShownTraces& traces, int index)
 {
-    return std::ranges::find(mShown, index) != mShown.end();
+    return std::ranges::find(traces.shown(), index) != traces.shown().end();
 }
 
 void ShownTraces::updateShown()
@@ -56,7 +56,7 @@ void ShownTraces::updateShown()
             mShown.push_back(index);
     }
     for (int* pIndex : {&mPointed, &mPinned}) {
-        if (!isShown(*pIndex))
+        if (!isShown(*this, *pIndex))
             *pIndex = -1;
     }
 }
@@ -150,14 +150,14 @@ void ShownTraces::setOrder(const std::vector<int>& slotOrder)
 void ShownTraces::point(int index)
 {
     const int before = highlighted();
-    mPointed = isShown(index) ? index : -1;
+    mPointed = isShown(*this, index) ? index : -1;
     if (highlighted() != before)
         changed();
 }
 
 void ShownTraces::togglePin(int index)
 {
-    mPinned = mPinned == index || !isShown(index) ? -1 : index;
+    mPinned = mPinned == index || !isShown(*this, index) ? -1 : index;
     changed();
 }
 

@@ -21,7 +21,6 @@ public:
     /// The active ones in the order of their strips.
     [[nodiscard]] const std::vector<int>& shown() const { return mShown; }
     [[nodiscard]] int count() const { return static_cast<int>(mShown.size()); } ///< of those
-    [[nodiscard]] bool isShown(int index) const;
     /// Changes with whatever vertices are made from.
     [[nodiscard]] std::size_t generation() const { return mGeneration; }
 
@@ -68,5 +67,7 @@ private:
     int mPinned = -1;
     std::size_t mGeneration = 1;
 };
+
+[[nodiscard]] bool isShown(const ShownTraces& traces, int index);
 
 } // namespace ZARN

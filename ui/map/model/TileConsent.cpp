@@ -1,6 +1,7 @@
 #include "ui/map/model/TileConsent.h"
 
 #include "app/Property.h"
+#include "app/Settings.h"
 
 namespace ZARN {
 
@@ -12,7 +13,7 @@ constexpr const char* kRefused = "no";
 
 TileConsent::EAnswer TileConsent::answer(const QString& server) const
 {
-    const std::string stored = mProperty.getString(kKey, {});
+    const std::string stored = Settings::kMapTilesAllowed.get(mProperty);
     if (stored == kRefused)
         return eNo;
     return !stored.empty() && stored == server.toStdString() ? eYes : eNotAsked;
@@ -20,7 +21,7 @@ TileConsent::EAnswer TileConsent::answer(const QString& server) const
 
 void TileConsent::set(const QString& server, bool isAllowed)
 {
-    mProperty.setString(kKey, isAllowed ? server.toStdString() : std::string(kRefused));
+    Settings::kMapTilesAllowed.set(mProperty, isAllowed ? server.toStdString() : std::string(kRefused));
 }
 
 } // namespace ZARN

@@ -12,8 +12,6 @@ class TileConsent {
 public:
     enum EAnswer { eNotAsked, eNo, eYes };
 
-    static constexpr const char* kKey = "MapTilesAllowed";
-
     explicit TileConsent(Property& property) : mProperty(property) {}
 
     /// @param server the address of the tile server; agreeing to one is no answer about another.

@@ -2,6 +2,7 @@
 
 #include "analysis/ReviewText.h"
 #include "app/Numeric.h"
+#include "app/TimeText.h"
 
 #include <QLocale>
 
@@ -66,7 +67,7 @@ std::vector<OverviewTexts::Figure> OverviewTexts::figures(const CycleOverview& c
 {
     const auto hours = [](double seconds) { // rounded to minutes
         const int minutes = saturatingCast<int>(std::round(seconds / 60.0));
-        return QString("%1:%2").arg(minutes / 60).arg(minutes % 60, 2, 10, QChar('0'));
+        return elapsedText(minutes * int64_t{60}, 1).chopped(3);
     };
     const CycleReview& review = cycle.review;
     const bool isReviewed = cycle.problem.isEmpty();

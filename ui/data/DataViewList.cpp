@@ -1,4 +1,4 @@
-#include "ui/data/DataViews.h"
+#include "ui/data/DataViewList.h"
 
 #include "ui/data/DialogData.h"
 #include "ui/data/DialogDataErrorMatrix.h"
@@ -27,7 +27,7 @@ template <typename View> DataViewEntry entry(View* pView)
 
 } // namespace
 
-DataViews DataViews::create(const Session& session, const QString& dataPath)
+DataViewList DataViewList::create(const Session& session, const QString& dataPath)
 {
     return {{entry(new DialogDataTable(session)), entry(new DialogDataGraph(session)), entry(new DialogDataErrorMatrix(session)),
              entry(new DialogDataLimit(session)), entry(new DialogDataWarning(session)), entry(new DialogDataStatistic(session)),

@@ -1,4 +1,4 @@
-#include "export/KmlWriter.h"
+#include "export/XmlWriter.h"
 
 #include "app/SafeFile.h"
 
@@ -16,19 +16,19 @@ bool isExcluded(std::string_view character)
 
 } // namespace
 
-void KmlWriter::declaration()
+void XmlWriter::declaration()
 {
     mText += "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
 }
 
-void KmlWriter::begin(const char* element, std::string_view attribute)
+void XmlWriter::begin(const char* element, std::string_view attribute)
 {
     indent();
     mText.append("<").append(element).append(attribute).append(">\n");
     ++mDepth;
 }
 
-void KmlWriter::end(const char* element)
+void XmlWriter::end(const char* element)
 {
     --mDepth;
     indent();
@@ -36,37 +36,37 @@ void KmlWriter::end(const char* element)
     flushWhenFull();
 }
 
-void KmlWriter::text(const char* element, std::string_view content)
+void XmlWriter::text(const char* element, std::string_view content)
 {
     beginPlain(element);
     appendEscaped(content);
     endPlain(element);
 }
 
-void KmlWriter::beginPlain(const char* element)
+void XmlWriter::beginPlain(const char* element)
 {
     indent();
     mText.append("<").append(element).append(">");
 }
 
-void KmlWriter::plain(std::string_view piece)
+void XmlWriter::plain(std::string_view piece)
 {
     mText += piece;
     flushWhenFull();
 }
 
-void KmlWriter::endPlain(const char* element)
+void XmlWriter::endPlain(const char* element)
 {
     mText.append("</").append(element).append(">\n");
     flushWhenFull();
 }
 
-void KmlWriter::indent()
+void XmlWriter::indent()
 {
     mText.append(mDepth * kIndentation, ' ');
 }
 
-void KmlWriter::appendEscaped(std::string_view content)
+void XmlWriter::appendEscaped(std::string_view content)
 {
     for (std::size_t i = 0; i < content.size(); ++i) {
         const char character = content[i];
@@ -86,13 +86,13 @@ void KmlWriter::appendEscaped(std::string_view content)
     }
 }
 
-void KmlWriter::flushWhenFull()
+void XmlWriter::flushWhenFull()
 {
     if (mText.size() >= kFlushSize)
         flush();
 }
 
-bool KmlWriter::flush()
+bool XmlWriter::flush()
 {
     mWritten = mFile.write(mText) && mWritten;
     mText.clear();

@@ -9,9 +9,9 @@ class SafeFile;
 
 /// Writes an XML document element by element, laid out as the program's XML files are: indented by 4 blanks, an element that holds
 /// text on one line. Texts are UTF-8; characters that no XML file can hold are left out. A failed write is the file's to tell.
-class KmlWriter {
+class XmlWriter {
 public:
-    explicit KmlWriter(SafeFile& file) : mFile(file) {}
+    explicit XmlWriter(SafeFile& file) : mFile(file) {}
 
     void declaration();
     /// @param attribute " name=\"value\"", well-formed, or nothing.

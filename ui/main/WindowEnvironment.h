@@ -11,7 +11,7 @@ class Kernel;
 
 /// What the windows of the desktop program have beside the session: command line, folders, the program as a whole, and what
 /// was found out at its start. Owns nothing.
-struct Desktop {
+struct WindowEnvironment {
     const CmdLine& cmdLine;
     const DataHandler& folders;
     Kernel& kernel;

@@ -26,13 +26,13 @@ struct DataViewEntry {
 };
 
 /// What a data area is made of. Tests give it views that only note what they are told.
-struct DataViews {
+struct DataViewList {
     std::array<DataViewEntry, eViewCount> entries{};
 
     [[nodiscard]] DataView& view(EDataView which) const { return *entries[which].pView; }
 
     /// The program's own views. @param dataPath folder for what the map keeps
-    [[nodiscard]] static DataViews create(const Session& session, const QString& dataPath);
+    [[nodiscard]] static DataViewList create(const Session& session, const QString& dataPath);
 };
 
 } // namespace ZARN

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "app/Setting.h"
+
+/// Every setting of the program, with its default and its bounds: the only place that spells their names.
+/// docs/formats/settings.md tells users the same.
+namespace ZARN::Settings {
+
+constexpr TextSetting kLocale = {"Locale", "us"};
+constexpr NumberSetting kFontSize = {"FontSize", 12, 8, 20}; // pixels
+constexpr NumberSetting kUnit = {"Unit", 0, 0, 1};
+constexpr TextSetting kProfile = {"Profile", "915"};
+constexpr TextSetting kLastPath = {"LastPath", ""};
+constexpr TextSetting kLastProjectPath = {"LastProjectPath", "."};
+
+constexpr TextSetting kCsvExportDir = {"CsvExportDir", "."};
+constexpr NumberSetting kCsvLimiter = {"CsvLimiter", ';', '\t', ';'};
+constexpr NumberSetting kCsvResolution = {"CsvResolution", 100, 10, 100}; // milliseconds a row
+constexpr SwitchSetting kCsvAllParameter = {"CsvAllParameter", true};
+constexpr TextSetting kGpxExportDir = {"GpxExportDir", "."};
+constexpr TextSetting kReportDir = {"ReportDir", "."};
+
+constexpr int kNoEnd = std::numeric_limits<int>::max();
+constexpr TextSetting kKmlExportDir = {"KmlExportDir", "."};
+constexpr NumberSetting kKmlTimeStamp = {"KmlTimeStamp", 1, 1, kNoEnd, EOutside::eNearest};
+constexpr NumberSetting kKmlLineWidth = {"KmlLineWidth", 1, 0, kNoEnd, EOutside::eNearest};
+constexpr TextSetting kKmlLineColor = {"KmlLineColor", "ff0000"};
+constexpr NumberSetting kKmlLineAlpha = {"KmlLineAlpha", 255, 0, 255, EOutside::eNearest};
+constexpr SwitchSetting kKmlPolygonOn = {"KmlPolygonOn", true};
+constexpr TextSetting kKmlPolygonColor = {"KmlPolygonColor", "0000ff"};
+constexpr NumberSetting kKmlPolygonAlpha = {"KmlPolygonAlpha", 100, 0, 255, EOutside::eNearest};
+constexpr SwitchSetting kKmlPlaceMarkOn = {"KmlPlaceMarkOn", true};
+// Spelt so in every settings file there is.
+constexpr NumberSetting kKmlPlaceMarkInterval = {"KmlPlaceMarkIntervall", 10, 1, kNoEnd, EOutside::eNearest};
+constexpr TextSetting kKmlPlaceMarkColor = {"KmlPlaceMarkColor", "ffcc00"};
+constexpr SwitchSetting kKmlErrorMarkOn = {"KmlErrorMarkOn", true};
+constexpr SwitchSetting kKmlShowLimit = {"KmlShowLimit", true};
+constexpr SwitchSetting kKmlShowWarning = {"KmlShowWarning", true};
+constexpr TextSetting kKmlErrorMarkColor = {"KmlErrorMarkColor", "ff0000"};
+
+constexpr NumberedSetting kRecentFolder = {"RecentFolder", 10};
+constexpr TextSetting kWindowGeometry = {"WindowGeometry", ""};
+constexpr TextSetting kWindowSplitter = {"WindowSplitter", ""};
+constexpr TextSetting kWindowSideSplitter = {"WindowSideSplitter", ""};
+
+constexpr TextSetting kTileServer = {"TileServer", ""};
+constexpr TextSetting kMapTilesAllowed = {"MapTilesAllowed", ""};
+constexpr SwitchSetting kMapShowValues = {"MapShowValues", true};
+constexpr FractionSetting kMapShadingContrast = {"MapShadingContrast", 1.0};
+constexpr FractionSetting kMapShadingBrightness = {"MapShadingBrightness", 1.0};
+constexpr FractionSetting kMapShadingFactor = {"MapShadingFactor", 0.5};
+
+constexpr NumberedSetting kGraphColor = {"GraphColor", 300};
+constexpr NumberedSetting kGraphColorName = {"GraphColorName", 300};
+constexpr SwitchSetting kGraphClickMovesCursor = {"GraphClickMovesCursor", false};
+
+} // namespace ZARN::Settings
