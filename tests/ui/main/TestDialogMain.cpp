@@ -245,7 +245,12 @@ void TestDialogMain::emptyCycle()
     window.slotLoadCycle(desktop.container.recordCycles().begin()->first, -1);
     settled(window);
     QVERIFY(isShown<WidgetWelcome>(window));
-    QCOMPARE(window.findChild<WidgetWelcome*>()->findChild<QLabel*>("heading")->text(), QString("No records"));
+    const auto* pHeading = window.findChild<WidgetWelcome*>()->findChild<QLabel*>("heading");
+    QCOMPARE(pHeading->text(), QString("No records"));
+    QVERIFY(QFile::remove(home() + "/card/1.CAN"));
+    window.slotLoadCycle(desktop.container.recordCycles().begin()->first, -1);
+    settled(window);
+    QCOMPARE(pHeading->text(), QString("Not read")); // nothing tells that it is empty
     QVERIFY(!window.action(eActionExportCsv)->isEnabled());
 }
 
