@@ -1,7 +1,6 @@
 #include "ui/overview/WidgetCycleCard.h"
 
 #include "app/gui/Heading.h"
-#include "ui/overview/FlowLayout.h"
 #include "ui/overview/VerdictMark.h"
 #include "ui/overview/WidgetCycleStrip.h"
 #include "ui/overview/WidgetIncidentRow.h"
@@ -113,7 +112,7 @@ void WidgetCycleCard::addIncidents(QBoxLayout& layout)
     }
 }
 
-void WidgetCycleCard::addButton(QLayout& layout, const QString& text, const QString& description, const std::function<void()>& act)
+void WidgetCycleCard::addButton(QBoxLayout& layout, const QString& text, const QString& description, const std::function<void()>& act)
 {
     auto* pButton = new QToolButton;
     pButton->setText(text);
@@ -125,7 +124,8 @@ void WidgetCycleCard::addButton(QLayout& layout, const QString& text, const QStr
 
 QLayout* WidgetCycleCard::createFoot()
 {
-    auto* pFoot = new FlowLayout; // many flights want more width than there is
+    auto* pFoot = new QHBoxLayout;
+    pFoot->addStretch();
     addButton(*pFoot, tr("Open cycle"), tr("Load the whole power cycle"), [this] { Q_EMIT signalFlight(number(), -1); });
     for (int i = 0; i < static_cast<int>(mpCycle->flights.size()) && i < 6; ++i)
         addButton(*pFoot, tr("Flight %1").arg(i + 1), tr("Load this flight"), [this, i] { Q_EMIT signalFlight(number(), i); });

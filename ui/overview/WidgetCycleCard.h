@@ -32,7 +32,7 @@ private:
     QLayout* createFigures() const;
     void addIncidents(QBoxLayout& layout);
     QLayout* createFoot();
-    void addButton(QLayout& layout, const QString& text, const QString& description, const std::function<void()>& act);
+    void addButton(QBoxLayout& layout, const QString& text, const QString& description, const std::function<void()>& act);
     void copy(const QString& text) const;
 
     std::shared_ptr<const CycleOverview> mpCycle;

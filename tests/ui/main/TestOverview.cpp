@@ -9,7 +9,6 @@
 
 #include <QAction>
 #include <QDir>
-#include <QToolButton>
 #include <QtTest>
 
 using namespace ZARN;
@@ -22,7 +21,6 @@ private Q_SLOTS:
     void demoCard();
     void verdicts_data();
     void verdicts();
-    void manyFlights();
 };
 
 void TestOverview::demoCard()
@@ -93,19 +91,6 @@ void TestOverview::verdicts()
     QTEST(OverviewTexts::verdict(cycle), "text");
     QCOMPARE(OverviewTexts::basis(cycle).isEmpty(), false);
     QCOMPARE(OverviewTexts::figures(cycle)[1].value, QString("-"));
-}
-
-void TestOverview::manyFlights()
-{
-    const auto pCycle = std::make_shared<CycleOverview>();
-    pCycle->flights.resize(6);
-    WidgetCycleCard card(pCycle);
-    card.resize(480, 100); // no wider than asked for, or the window cuts it
-    card.show();
-    card.resize(480, card.heightForWidth(480));
-    QCOMPARE(card.width(), 480);
-    for (const QToolButton* pButton : card.findChildren<QToolButton*>())
-        QVERIFY(card.rect().contains(pButton->geometry()));
 }
 
 QTEST_MAIN(TestOverview)
