@@ -177,14 +177,20 @@ void TestDialogMain::refusedFolder()
     pTree->setCurrentItem(pTree->topLevelItem(0)->child(0));
     for (const bool chosen : {false, true}) {
         Answer answer(Answer::close);
-        if (chosen)
+        if (chosen) {
+            QTRY_COMPARE(desktop.container.loadedCycleNumber(), 1U); // chosen above
+            settled(window);
+            window.slotLoadCycle(2, -1);
+            settled(window);
             window.openFolder(home() + "/<b>gone</b>");
-        else
+        } else
             window.action(eActionOpenFolder)->trigger();
         settled(window);
         QCOMPARE(answer.title, chosen ? QString("ZARN Warning") : QString("Open SD Card"));
         QCOMPARE(answer.text, chosen ? "The folder " + home() + "/<b>gone</b> is not there, or cannot be read." : QString());
         QVERIFY(isShown<DialogData>(window) && !pTree->selectedItems().isEmpty());
+        if (chosen) // not the choice that the folder cut short
+            QCOMPARE(pTree->selectedItems().front()->data(0, DialogCard::eCycleRole).toUInt(), desktop.container.loadedCycleNumber().value());
         QCOMPARE(window.windowTitle(), QString("ZARN SD/Card"));
         QVERIFY(window.action(eActionExportCsv)->isEnabled());
     }
@@ -239,7 +245,12 @@ void TestDialogMain::emptyCycle()
     window.slotLoadCycle(desktop.container.recordCycles().begin()->first, -1);
     settled(window);
     QVERIFY(isShown<WidgetWelcome>(window));
-    QCOMPARE(window.findChild<WidgetWelcome*>()->findChild<QLabel*>("heading")->text(), QString("No records"));
+    const auto* pHeading = window.findChild<WidgetWelcome*>()->findChild<QLabel*>("heading");
+    QCOMPARE(pHeading->text(), QString("No records"));
+    QVERIFY(QFile::remove(home() + "/card/1.CAN"));
+    window.slotLoadCycle(desktop.container.recordCycles().begin()->first, -1);
+    settled(window);
+    QCOMPARE(pHeading->text(), QString("Not read")); // nothing tells that it is empty
     QVERIFY(!window.action(eActionExportCsv)->isEnabled());
 }
 
