@@ -1,6 +1,7 @@
 #include "cli/CommandScan.h"
 
 #include "analysis/IncidentText.h"
+#include "card/record/RecordFormats.h"
 #include "cli/CardCommand.h"
 #include "cli/PathList.h"
 #include "cli/Resources.h"
@@ -66,6 +67,8 @@ int CommandScan::run()
         say("--samples: only a Parquet dataset keeps samples (see zarn-cli --help)");
         return eWrongCall;
     }
+    if (mFormat == "sqlite" && RecordFormats::ofName(mStore))
+        return fail(mStore + ": called like a record file, which no store replaces");
     std::vector<std::string> paths = mFolders;
     std::string problem = prepare();
     if (problem.empty() && isGiven("--from-file"))
