@@ -63,8 +63,10 @@ int CommandScan::run()
         say("DIR is required (see zarn-cli --help)");
         return eWrongCall;
     }
-    if (mFormat == "sqlite" && mSamples != "none") {
-        say("--samples: only a Parquet dataset keeps samples (see zarn-cli --help)");
+    const bool isWrong = mStore == "-" || (mFormat == "sqlite" && mSamples != "none");
+    if (isWrong) {
+        say(mStore == "-" ? "-o: a store cannot be written to standard output (see zarn-cli --help)"
+                          : "--samples: only a Parquet dataset keeps samples (see zarn-cli --help)");
         return eWrongCall;
     }
     if (mFormat == "sqlite" && RecordFormats::ofName(mStore))
