@@ -226,7 +226,7 @@ QString LayoutController::refusal(const QString& name, bool replaces) const
 {
     if (name.isEmpty())
         return tr("A layout needs a name.");
-    if (mStore.isShipped(name))
+    if (mStore.isShippedText(name))
         return tr("\"%1\" is a layout of the profile. Choose another name for yours.").arg(name);
     if (!replaces && mStore.find(name) && name != current())
         return tr("There is a layout \"%1\" already.").arg(name);
