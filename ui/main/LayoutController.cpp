@@ -63,7 +63,7 @@ void LayoutController::restore(bool isFirst)
         if (isFirst)
             tick(*pLayout);
         mData.setLayout(*pLayout);
-        setCurrent(pLayout->name);
+        mSession.property.setString(kChosen, pLayout->name.toStdString()); // written with the first thing that the user does
     }
     update();
 }
