@@ -208,6 +208,8 @@ void ReviewPass::tell()
 {
     mReview.engine = mEngine;
     mReview.knowsAltitude = mPhases.knowsAltitude();
+    const ProfileParameter& groundSpeed = mContext.model().ofZarnType("GroundSpeed");
+    mReview.knowsFlights = !groundSpeed.name.empty() && mData.channel(groundSpeed.identifier());
     mReview.phases = mPhases.steps();
     for (const RecordFlight& flight : mFlights)
         mReview.flightTime += flight.landingTime - flight.takeOffTime;
