@@ -31,6 +31,7 @@ class DialogPreferences;
 class DialogProfile;
 class ExportController;
 class OverviewController;
+class LayoutBar;
 class LayoutController;
 class LayoutStore;
 class Notices;
@@ -151,6 +152,7 @@ private:
     QStackedWidget* mpCentre = nullptr;
     QLabel* mpProblems = nullptr; ///< what of the card could not be read
     DialogCard* mpCard = nullptr;
+    LayoutBar* mpLayoutBar = nullptr;
     DialogProfile* mpProfile = nullptr;
     WidgetWelcome* mpWelcome = nullptr;
     DialogData* mpData = nullptr;
