@@ -28,6 +28,40 @@ bool WindowCanvas::takesStrip(std::span<const QPointF> points, const CanvasPen& 
     return points.size() >= kLong && !pen.smooth && pen.dash <= 0 && pen.colour.alpha() == 255 && pen.width * mRatio <= kGreatestWidth;
 }
 
+bool WindowCanvas::takesLines(std::span<const QPointF> points, const CanvasPen& pen) const
+{
+    if (pen.smooth || pen.dash > 0 || pen.width > 1 || mPainter.worldTransform().type() > QTransform::TxTranslate)
+        return false;
+    const auto isWhole = [](const QPointF& point) { return point == QPointF(point.toPoint()); };
+    for (std::size_t i = 0; i + 1 < points.size(); i += 2) {
+        const bool isStraight = points[i].x() == points[i + 1].x() || points[i].y() == points[i + 1].y();
+        if (!isStraight || !isWhole(points[i]) || !isWhole(points[i + 1]))
+            return false;
+    }
+    return true;
+}
+
+void WindowCanvas::lines(std::span<const QPointF> points, const CanvasPen& pen)
+{
+    if (!takesLines(points, pen))
+        return RasterCanvas::lines(points, pen);
+    // The painter blends an upright line row by row, in threads that it wakes for each line; an image of the line is blended at once.
+    QPainter& painter = ready();
+    const QRectF window = painter.worldTransform().inverted().mapRect(QRectF(QPointF(), mSize));
+    QImage line;
+    for (std::size_t i = 0; i + 1 < points.size(); i += 2) {
+        const QRectF target = QRectF(points[i], points[i + 1]).normalized().adjusted(0, 0, 1, 1) & window;
+        if (target.isEmpty())
+            continue;
+        const QSize pixels = (target.size() * mRatio).toSize();
+        if (line.size() != pixels) {
+            line = QImage(pixels, QImage::Format_ARGB32_Premultiplied);
+            line.fill(pen.colour);
+        }
+        painter.drawImage(target, line);
+    }
+}
+
 QRect WindowCanvas::clipPixels() const
 {
     const QPainter& painter = mPainter;

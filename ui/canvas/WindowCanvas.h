@@ -17,12 +17,15 @@ public:
     ~WindowCanvas() override;
 
     using RasterCanvas::lineStrip;
+    void lines(std::span<const QPointF> points, const CanvasPen& pen) override;
     void lineStrip(std::span<const QPointF> points, const CanvasPen& pen) override;
 
 protected:
     QPainter& ready() override;
 
 private:
+    /// Whether all of them are upright or level, solid, one pixel wide and on whole pixels.
+    [[nodiscard]] bool takesLines(std::span<const QPointF> points, const CanvasPen& pen) const;
     [[nodiscard]] bool takesStrip(std::span<const QPointF> points, const CanvasPen& pen) const;
     [[nodiscard]] QRect clipPixels() const;
 
