@@ -1244,14 +1244,6 @@ lag(x, s): x, wie es vor s Sekunden war</translation>
         <translation>Zum vorigen Vorfall des Geladenen gehen</translation>
     </message>
     <message>
-        <source>Layouts cannot be saved</source>
-        <translation>Layouts nicht speicherbar</translation>
-    </message>
-    <message>
-        <source>Layouts unreadable</source>
-        <translation>Layouts nicht lesbar</translation>
-    </message>
-    <message>
         <source>Write Flight Report as PDF or HTML File</source>
         <translation>Flugbericht als PDF- oder HTML-Datei schreiben</translation>
     </message>
@@ -2487,6 +2479,14 @@ Ersetzen ?</translation>
     <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Layouts cannot be saved</source>
+        <translation>Layouts nicht speicherbar</translation>
+    </message>
+    <message>
+        <source>Layouts unreadable</source>
+        <translation>Layouts nicht lesbar</translation>
     </message>
 </context>
 <context>

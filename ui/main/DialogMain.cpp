@@ -5,7 +5,6 @@
 #include "app/DataHandler.h"
 #include "app/Property.h"
 #include "app/Settings.h"
-#include "app/XmlHandler.h"
 #include "app/gui/ImageHandler.h"
 #include "app/gui/Kernel.h"
 #include "card/CardContainer.h"
@@ -14,7 +13,6 @@
 #include "card/record/RecordFormats.h"
 #include "profile/ui/DialogProfile.h"
 #include "profile/ui/DialogProfileInfo.h"
-#include "project/FormulaXml.h"
 #include "project/Project.h"
 #include "ui/data/DialogData.h"
 #include "ui/main/CardController.h"
@@ -213,12 +211,8 @@ void DialogMain::createControllers()
 
 void DialogMain::createLayouts()
 {
-    const QString file = QString::fromStdString(mEnvironment.folders.dataPath() + '/' + LayoutStore::kFileName);
-    mpLayouts = std::make_unique<LayoutStore>(mSession.console, file, Settings::kLocale.text(mSession.property));
-    mpNotices->watch(mpLayouts->file(), Notices::eLayouts, tr("Layouts cannot be saved"));
-    if (mpLayouts->isUnread())
-        mpNotices->setProblem(Notices::eLayouts, tr("Layouts unreadable"), file);
-    mpLayoutController = new LayoutController(mSession, *mpLayouts, *mpLayoutBar, *mpData, this);
+    mpLayoutController =
+        new LayoutController(mSession, QString::fromStdString(mEnvironment.folders.dataPath()), *mpNotices, *mpLayoutBar, *mpData, this);
     connect(mpLayoutController, &LayoutController::signalChosen, mpProfile, &DialogProfile::updateProfile);
     connect(mpLayoutController, &LayoutController::signalChosen, this, &DialogMain::slotCanChanged);
     connect(mpLayoutController, &LayoutController::signalChosen, this, qOverload<>(&DialogMain::slotProfileChanged));
@@ -342,8 +336,7 @@ void DialogMain::loadProfile()
     tellProfileProblem();
     mpProfileInfo->setProfileFile(mpProfileController->file(), mpProfileController->isChosenFile());
     mpProfileInfo->fillProfileInfo();
-    const QString examples = QFileInfo(mpProfileController->file()).dir().filePath("Formulas.xml");
-    mpProfile->setExamples(FormulaXml(XmlHandler(mSession.console)).readFile(examples));
+    mpProfile->setExamples(mpProfileController->formulas());
     mpProfile->updateProfile();
     mpLayoutController->setProfile(mpProfileController->file(), QString::fromStdString(mEnvironment.folders.resourcePath()));
     mpCardController->recalculate(); // flights and their statistic are decoded by the profile

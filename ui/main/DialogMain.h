@@ -27,7 +27,6 @@ class DialogProfile;
 class ExportController;
 class LayoutBar;
 class LayoutController;
-class LayoutStore;
 class MainPanels;
 class MainToolBar;
 class Notices;
@@ -154,7 +153,6 @@ private:
     ProjectController* mpProjectController = nullptr;
     ExportController* mpExportController = nullptr;
     OverviewController* mpOverview = nullptr;
-    std::unique_ptr<LayoutStore> mpLayouts;
     LayoutController* mpLayoutController = nullptr;
     QString mStyleFile;
     QDateTime mStyleTime; ///< of the style file as it was last applied

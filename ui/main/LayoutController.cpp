@@ -23,9 +23,14 @@ namespace {
 
 } // namespace
 
-LayoutController::LayoutController(const Session& session, LayoutStore& store, LayoutBar& bar, DialogData& data, QWidget* pWindow)
-    : QObject(pWindow), mSession(session), mStore(store), mBar(bar), mData(data), mpWindow(pWindow)
+LayoutController::LayoutController(const Session& session, const QString& dataPath, Notices& notices, LayoutBar& bar, DialogData& data,
+                                   QWidget* pWindow)
+    : QObject(pWindow), mSession(session), mStore(session.console, dataPath + '/' + LayoutStore::kFileName, Settings::kLocale.text(session.property)),
+      mBar(bar), mData(data), mpWindow(pWindow)
 {
+    notices.watch(mStore.file(), Notices::eLayouts, tr("Layouts cannot be saved"));
+    if (mStore.isUnread())
+        notices.setProblem(Notices::eLayouts, tr("Layouts unreadable"), dataPath + '/' + LayoutStore::kFileName);
     connect(&mBar, &LayoutBar::signalChosen, this, &LayoutController::slotChosen);
     connect(&mBar, &LayoutBar::signalCommand, this, &LayoutController::slotCommand);
     connect(&mData, &DialogData::signalLayout, this, &LayoutController::update);

@@ -3,6 +3,7 @@
 #include "project/LayoutStore.h"
 #include "project/Session.h"
 #include "ui/main/LayoutBar.h"
+#include "ui/main/Notices.h"
 
 #include <QObject>
 
@@ -16,7 +17,8 @@ class LayoutController : public QObject {
     Q_OBJECT
 
 public:
-    LayoutController(const Session& session, LayoutStore& store, LayoutBar& bar, DialogData& data, QWidget* pWindow);
+    /// @param dataPath folder of the user's own ones  @param notices where it is told that they cannot be read or written
+    LayoutController(const Session& session, const QString& dataPath, Notices& notices, LayoutBar& bar, DialogData& data, QWidget* pWindow);
 
     /// Offers the layouts of the profile that is in force. @param file path of its file  @param resourcePath with a trailing "/"
     void setProfile(const QString& file, const QString& resourcePath);
@@ -56,7 +58,7 @@ private:
     void exportFile();
 
     Session mSession;
-    LayoutStore& mStore;
+    LayoutStore mStore;
     LayoutBar& mBar;
     DialogData& mData;
     QWidget* mpWindow;

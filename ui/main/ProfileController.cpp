@@ -3,11 +3,15 @@
 #include "app/Console.h"
 #include "app/Property.h"
 #include "app/Settings.h"
+#include "app/XmlHandler.h"
 #include "profile/Profile.h"
 #include "profile/ui/ProfileProblem.h"
+#include "project/FormulaXml.h"
 #include "project/Project.h"
 
 #include <QComboBox>
+#include <QDir>
+#include <QFileInfo>
 
 namespace ZARN {
 
@@ -42,6 +46,11 @@ void ProfileController::load()
             mProblem = tr("The profile \"%1\" of the settings is missing or damaged. In its place is in force: %2").arg(setting, mText);
     }
     mSession.project.setProfileData();
+}
+
+FormulaDefinitions ProfileController::formulas() const
+{
+    return FormulaXml(XmlHandler(mSession.console)).readFile(QFileInfo(mFile).dir().filePath("Formulas.xml"));
 }
 
 void ProfileController::fill()

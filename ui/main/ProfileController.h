@@ -1,5 +1,6 @@
 #pragma once
 
+#include "profile/FormulaDefinition.h"
 #include "profile/ProfileCatalogue.h"
 #include "project/Session.h"
 
@@ -36,6 +37,8 @@ public:
 
     /// The file that was loaded; empty when none could be.
     [[nodiscard]] const QString& file() const { return mFile; }
+    /// Formulas that come with it.
+    [[nodiscard]] FormulaDefinitions formulas() const;
     /// Whether that file was chosen as such, and is none of the catalogue's.
     [[nodiscard]] bool isChosenFile() const { return !mFile.isEmpty() && mText == mFile; }
     /// Why another profile is in force than the one wanted, for people; empty when it is the one.
