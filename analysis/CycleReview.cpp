@@ -33,7 +33,8 @@ bool isLamp(const ProfileDevice& device)
 class ReviewPass {
 public:
     /// @param unwatched times that are not watched though the engine ran
-    ReviewPass(const CycleValues& values, std::span<const RecordFlight> flights, double endTime, const std::vector<TimeSpan>& unwatched = {})
+    ReviewPass(const CycleValues& values, std::span<const RecordFlight> flights, double endTime,
+               const std::vector<TimeSpan>& unwatched = {})
         : mData(values.data()), mContext(values.context()), mFlights(flights), mEngine(engineRunning(endTime)),
           mPhases(values, mEngine, flights), mLimitTimes(mEngine, unwatched), mLampTimes(mEngine, withChecks(unwatched))
     {
@@ -207,6 +208,8 @@ void ReviewPass::tell()
 {
     mReview.engine = mEngine;
     mReview.knowsAltitude = mPhases.knowsAltitude();
+    const ProfileParameter& groundSpeed = mContext.model().ofZarnType("GroundSpeed");
+    mReview.knowsFlights = !groundSpeed.name.empty() && mData.channel(groundSpeed.identifier());
     mReview.phases = mPhases.steps();
     for (const RecordFlight& flight : mFlights)
         mReview.flightTime += flight.landingTime - flight.takeOffTime;
@@ -263,8 +266,9 @@ CycleReview reviewFlight(const CycleReview& cycle, const CycleValues& values, st
     const auto isOutside = [&span](const auto& found) {
         return std::max(found.start, found.end) < span.start || std::min(found.start, found.end) > span.end;
     };
-    CycleReview review = ReviewPass(values, flights, endTime, {{-kForever, lastBefore(span.start)}, {std::nextafter(span.end, kForever), kForever}})
-                             .run(EKeyValues::eNone);
+    CycleReview review =
+        ReviewPass(values, flights, endTime, {{-kForever, lastBefore(span.start)}, {std::nextafter(span.end, kForever), kForever}})
+            .run(EKeyValues::eNone);
     review.engine.crop(span);
     review.flightTime = flight.landingTime - flight.takeOffTime;
     review.fuel = flightFigure(flight, eFigureTotalFuel);

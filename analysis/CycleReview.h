@@ -16,6 +16,7 @@ struct CycleReview {
     EngineRunning engine;
     bool hasEngineSpeed = false; ///< the profile names a parameter for it
     bool knowsAltitude = false;  ///< climb and descent are told from level flight
+    bool knowsFlights = false;   ///< flight is told from the ground: a ground speed was recorded
     double flightTime = 0.0;     ///< seconds
     std::optional<double> fuel;  ///< of both lanes over the whole cycle
     EVerdict verdict = EVerdict::eUnknown;

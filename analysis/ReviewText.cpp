@@ -32,6 +32,8 @@ QStringList ReviewText::gaps() const
         gaps << tr("Whether the engine ran is unknown, for the profile names no engine speed: starts and stops count as well.");
     else if (isWatched && !mReview.engine.isKnown())
         gaps << tr("Whether the engine ran is unknown, for its speed was not recorded: starts and stops count as well.");
+    if (isWatched && !mReview.knowsFlights)
+        gaps << tr("Flights are unknown, for no ground speed was recorded: all counts as on the ground.");
     if (!mReview.knowsAltitude)
         gaps << tr("Climb and descent are unknown, for no altitude was recorded.");
     return gaps;

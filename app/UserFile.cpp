@@ -50,10 +50,11 @@ bool UserFile::read(QDomDocument& document, const QString& path)
 bool UserFile::write(const QDomDocument& document, const QString& path)
 {
     // What the next start refuses would cost all that the old file held.
-    mWritten = XmlGuard::accepts(document.toString(4).toStdString()) && makeRoom(path);
+    const std::string text = document.toString(4).toStdString();
+    mWritten = XmlGuard::accepts(text) && makeRoom(path);
     if (!mWritten)
         mConsole.print("could not open file for writing !<%s>\n", path.toUtf8().constData());
-    mWritten = mWritten && XmlHandler(mConsole).xmlWriteFile(document, path);
+    mWritten = mWritten && XmlHandler(mConsole).xmlWriteText(text, path);
     tell(mWritten ? EEvent::eWritten : EEvent::eNotWritten, path);
     return mWritten;
 }

@@ -155,10 +155,14 @@ bool XmlHandler::xmlGetBoolAttribute(const QDomNamedNodeMap& attributes, const Q
 
 bool XmlHandler::xmlWriteFile(const QDomDocument& document, const QString& path) const
 {
+    return xmlWriteText(document.toString(4).toStdString(), path);
+}
+
+bool XmlHandler::xmlWriteText(const std::string& text, const QString& path) const
+{
     const std::string name = encodeFileName(path);
     SafeFile file(name);
-    const QByteArray text = document.toString(4).toUtf8();
-    if (file.open() && file.write(std::string_view(text.data(), static_cast<std::size_t>(text.size()))) && file.commit())
+    if (file.open() && file.write(text) && file.commit())
         return true;
     mConsole.print("could not open file for writing !<%s>\n", name.c_str());
     return false;

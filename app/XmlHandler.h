@@ -43,6 +43,8 @@ public:
     /// Writes the document, indented by 4 blanks, through SafeFile. @return false, with a console line, when it was not written.
     bool xmlWriteFile(const QDomDocument& document, const QString& path) const;
     bool xmlWriteFile(const QDomDocument& document, const QString& directory, const QString& fileName) const;
+    /// The same with a document that is a text already.
+    bool xmlWriteText(const std::string& text, const QString& path) const;
     /// Reads and parses a file that XmlGuard lets pass. @return false, with a console line, when it cannot be opened or parsed;
     /// the document is then left as it was.
     bool xmlReadFile(QDomDocument& document, const QString& path) const;

@@ -1,6 +1,7 @@
 #include "cli/CommandScan.h"
 
 #include "analysis/IncidentText.h"
+#include "card/record/RecordFormats.h"
 #include "cli/CardCommand.h"
 #include "cli/PathList.h"
 #include "cli/Resources.h"
@@ -62,10 +63,14 @@ int CommandScan::run()
         say("DIR is required (see zarn-cli --help)");
         return eWrongCall;
     }
-    if (mFormat == "sqlite" && mSamples != "none") {
-        say("--samples: only a Parquet dataset keeps samples (see zarn-cli --help)");
+    const bool isWrong = mStore == "-" || (mFormat == "sqlite" && mSamples != "none");
+    if (isWrong) {
+        say(mStore == "-" ? "-o: a store cannot be written to standard output (see zarn-cli --help)"
+                          : "--samples: only a Parquet dataset keeps samples (see zarn-cli --help)");
         return eWrongCall;
     }
+    if (mFormat == "sqlite" && RecordFormats::ofName(mStore))
+        return fail(mStore + ": called like a record file, which no store replaces");
     std::vector<std::string> paths = mFolders;
     std::string problem = prepare();
     if (problem.empty() && isGiven("--from-file"))

@@ -28,6 +28,14 @@ CsvColumn::CsvColumn(const Trace& trace, double ticksPerSecond, char separator)
     readAhead();
 }
 
+uint64_t CsvColumn::firstTick(const std::vector<CsvColumn>& columns)
+{
+    uint64_t first = kNoTick;
+    for (const CsvColumn& column : columns)
+        first = std::min(first, column.nextTick());
+    return first;
+}
+
 void CsvColumn::sortByTick()
 {
     mSorted.reserve(mpTrace->size());
@@ -68,7 +76,8 @@ void CsvColumn::collectAscending(const CsvWindow& window)
         const std::size_t count = mpTrace->readTimes(mNext, times);
         for (std::size_t i = 0; i < count; ++i)
             ticks[i] = tickOf(times[i], ticksPerSecond);
-        const auto inWindow = static_cast<std::size_t>(std::lower_bound(ticks.begin(), ticks.begin() + count, window.end()) - ticks.begin());
+        const auto inWindow =
+            static_cast<std::size_t>(std::lower_bound(ticks.begin(), ticks.begin() + count, window.end()) - ticks.begin());
         mpTrace->readNumbers(mNext, std::span(values).first(inWindow));
         for (std::size_t i = 0; i < inWindow; ++i)
             take(ticks[i] - window.first, values[i]);

@@ -10,9 +10,9 @@ struct CsvWindow {
 
     [[nodiscard]] uint64_t end() const { return first + marked.size(); }
 
-    uint64_t first = 0; ///< its first tick
+    uint64_t first = 0;          ///< its first tick
     std::vector<uint8_t> marked; ///< one a tick
-    std::vector<uint16_t> rows; ///< the marked ones, as offsets from `first`, ascending
+    std::vector<uint16_t> rows;  ///< the marked ones, as offsets from `first`, ascending
 };
 
 /// One cell, with the separator behind its text. Most texts are short; longer ones stand aside.
@@ -34,6 +34,8 @@ public:
 
     /// The tick of the next sample; kNoTick after the last.
     [[nodiscard]] uint64_t nextTick() const { return mNextTick; }
+    /// The first tick for which one of several columns has a sample that was not taken.
+    [[nodiscard]] static uint64_t firstTick(const std::vector<CsvColumn>& columns);
     /// How many samples there are, and how many of them have been taken: both without those that a later one of their tick replaces,
     /// where the samples had to be sorted.
     [[nodiscard]] std::size_t sampleCount() const { return !mSorted.empty() ? mSorted.size() : mpTrace->size(); }
@@ -62,11 +64,11 @@ private:
     const Trace* mpTrace;
     double mTicksPerSecond;
     char mSeparator;
-    CsvCell mCell;                      // the text that holds
-    std::vector<TickPosition> mSorted;  // when the times do not ascend: the last sample of each tick
-    std::size_t mNext = 0;              // sample, or place in mSorted
+    CsvCell mCell;                     // the text that holds
+    std::vector<TickPosition> mSorted; // when the times do not ascend: the last sample of each tick
+    std::size_t mNext = 0;             // sample, or place in mSorted
     uint64_t mNextTick = kNoTick;
-    std::string mLongText;              // the held text when it is too long for a cell
+    std::string mLongText; // the held text when it is too long for a cell
 
     // The samples taken from the current window: the first mTaken of each.
     std::size_t mTaken = 0;

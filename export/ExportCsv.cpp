@@ -32,7 +32,7 @@ public:
         uint64_t samples = 0;
         for (const CsvColumn& column : mColumns)
             samples += column.sampleCount();
-        for (uint64_t tick = firstTick(); tick != CsvColumn::kNoTick; tick = firstTick()) {
+        for (uint64_t tick = CsvColumn::firstTick(mColumns); tick != CsvColumn::kNoTick; tick = CsvColumn::firstTick(mColumns)) {
             mWindow.first = tick;
             fillWindow();
             if (!writeWindow() || !mProgress.step(samplesDone(), samples))
@@ -44,14 +44,6 @@ public:
     }
 
 private:
-    [[nodiscard]] uint64_t firstTick() const
-    {
-        uint64_t first = CsvColumn::kNoTick;
-        for (const CsvColumn& column : mColumns)
-            first = std::min(first, column.nextTick());
-        return first;
-    }
-
     [[nodiscard]] double seconds(uint64_t tick) const { return static_cast<double>(tick) * mResolution / 1000; }
 
     [[nodiscard]] uint64_t samplesDone() const

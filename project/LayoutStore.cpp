@@ -69,6 +69,11 @@ bool LayoutStore::isShipped(const QString& name) const
     return std::ranges::find(mShipped, name, &DisplayLayout::name) != mShipped.end();
 }
 
+bool LayoutStore::isShippedText(const QString& text) const
+{
+    return isShipped(text) || std::ranges::find(mShipped, text, &DisplayLayout::text) != mShipped.end();
+}
+
 QStringList LayoutStore::missing(const DisplayLayout& layout, const Profile& profile)
 {
     std::set<std::string> known;

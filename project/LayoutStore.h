@@ -25,6 +25,8 @@ public:
     /// Null when there is none of that name; valid until the store changes.
     [[nodiscard]] const DisplayLayout* find(const QString& name) const;
     [[nodiscard]] bool isShipped(const QString& name) const;
+    /// Whether a shipped one is called so, or told so in the user's language.
+    [[nodiscard]] bool isShippedText(const QString& text) const;
     /// The names of parameters of a layout that the profile does not have.
     [[nodiscard]] static QStringList missing(const DisplayLayout& layout, const Profile& profile);
 

@@ -70,7 +70,8 @@ bool FlightReport::fill(ReportDocument& document, Progress& progress) const
         progress.setProgress(percent);
         return !progress.isCancelled();
     };
-    document.language = tr("en", "code of the language of these texts");
+    //: code of the language that this is translated to
+    document.language = tr("en");
     document.title = tr("Flight report");
     document.head = head();
     document.creator = reportText(Revision::getRevisionString());
@@ -121,10 +122,10 @@ void FlightReport::addMap(ReportDocument& document, const std::shared_ptr<Report
     document.add(ReportHeading{tr("Flight path")});
     if (pMap->isEmpty())
         return document.add(ReportParagraph{tr("No position was recorded.")});
-    const QString text =
-        tr("Green: begin. Black: end. Orange: exceeded limits, how many at a place. Grey lines: degrees and minutes.");
+    const QString text = tr("Green: begin. Black: end. Orange: exceeded limits, how many at a place. Grey lines: degrees and minutes.");
     document.add(ReportParagraph{text, ReportParagraph::eQuiet});
-    document.add(ReportPicture{tr("Map of the flight path"), pMap->isSmall() ? kSmallMap : kMapHeight, !pMap->isSmall(), [pMap](QPainter& painter, const QSizeF& size) {
+    document.add(ReportPicture{tr("Map of the flight path"), pMap->isSmall() ? kSmallMap : kMapHeight, !pMap->isSmall(),
+                               [pMap](QPainter& painter, const QSizeF& size) {
                                    PaperCanvas canvas(painter);
                                    pMap->draw(painter, canvas, {QPointF(), size});
                                }});

@@ -28,8 +28,8 @@ QByteArray escaped(const QString& text)
 
 QByteArray fontFace(bool bold)
 {
-    return "@font-face{font-family:\"ZARN Text\";font-weight:" + QByteArray(bold ? "700" : "400") +
-           ";src:url(data:font/otf;base64," + textFontFile(bold).toBase64() + ") format(\"opentype\")}\n";
+    return "@font-face{font-family:\"ZARN Text\";font-weight:" + QByteArray(bold ? "700" : "400") + ";src:url(data:font/otf;base64," +
+           textFontFile(bold).toBase64() + ") format(\"opentype\")}\n";
 }
 
 const char* kindOf(ReportParagraph::EKind kind)
@@ -105,8 +105,8 @@ void HtmlReport::put(const ReportIncident& incident)
 {
     mText += "<article><p class=\"incident\">";
     sign(incident.verdict, 18, incident.state);
-    mText += "<span class=\"time\">" + escaped(incident.time) + "</span><span class=\"sentence\"><strong>" + escaped(incident.what) + "</strong>" +
-             escaped(incident.rest) + "</span></p>\n";
+    mText += "<span class=\"time\">" + escaped(incident.time) + "</span><span class=\"sentence\"><strong>" + escaped(incident.what) +
+             "</strong>" + escaped(incident.rest) + "</span></p>\n";
     if (incident.graph.draw)
         put(incident.graph);
     mText += "</article>\n";
@@ -147,8 +147,9 @@ void HtmlReport::put(const ReportPicture& picture)
 
 void HtmlReport::sign(EVerdict verdict, int size, const QString& text)
 {
-    image({static_cast<double>(size), static_cast<double>(size)}, text,
-          [verdict](QPainter& painter, const QSizeF& place) { VerdictSign::paint(painter, verdict, {QPointF(), place}); });
+    image({static_cast<double>(size), static_cast<double>(size)}, text, [verdict](QPainter& painter, const QSizeF& place) {
+        VerdictSign::paint(painter, verdict, {QPointF(), place});
+    });
 }
 
 void HtmlReport::image(const QSizeF& size, const QString& text, const ReportDrawing& draw)
@@ -164,8 +165,9 @@ void HtmlReport::image(const QSizeF& size, const QString& text, const ReportDraw
     QBuffer buffer(&png);
     buffer.open(QIODevice::WriteOnly);
     image.save(&buffer, "PNG");
-    mText += "<img width=\"" + QByteArray::number(std::lround(size.width())) + "\" height=\"" + QByteArray::number(std::lround(size.height())) +
-             "\" alt=\"" + escaped(text) + "\" src=\"data:image/png;base64," + png.toBase64() + "\">";
+    mText += "<img width=\"" + QByteArray::number(std::lround(size.width())) + "\" height=\"" +
+             QByteArray::number(std::lround(size.height())) + "\" alt=\"" + escaped(text) + "\" src=\"data:image/png;base64," +
+             png.toBase64() + "\">";
 }
 
 } // namespace ZARN

@@ -1,11 +1,12 @@
 #pragma once
 
-/// What a report for a browser looks like, on a screen and printed.
+/// What a report for a browser looks like, on a screen and printed. Margins and inline blocks rather than gaps and grids, which mail programs and
+/// older readers do not know.
 namespace ZARN::HtmlStyle {
 
 /// Nothing is loaded from elsewhere and nothing runs, whatever a card or profile is called.
-constexpr const char* kPolicy =
-    "<meta http-equiv=\"Content-Security-Policy\" content=\"default-src 'none'; img-src data:; font-src data:; style-src 'unsafe-inline'\">\n";
+constexpr const char* kPolicy = "<meta http-equiv=\"Content-Security-Policy\" content=\"default-src 'none'; img-src data:; font-src data:; "
+                                "style-src 'unsafe-inline'\">\n";
 
 constexpr const char* kSheet = R"(:root{color-scheme:light}
 body{font:15px/1.5 "ZARN Text","DejaVu Sans",sans-serif;color:#14212e;background:#fff;max-width:60rem;margin:1.5rem auto;padding:0 1.5rem}
@@ -14,20 +15,22 @@ h2{font-size:1.15rem;color:#12588f;border-bottom:1px solid #b4bfca;margin:2rem 0
 p{margin:.3rem 0}
 header p,.quiet,dt,caption,footer{color:#4a5b6b}
 .alert{color:#961e0f;font-weight:700}
-.verdict{display:flex;gap:1rem;align-items:center;margin:1.2rem 0}
+.verdict{display:flex;align-items:center;margin:1.2rem 0}
+.verdict img{width:48px;height:48px;margin-right:1rem}
 .word{font-size:1.5rem;font-weight:700;line-height:1.2}
 dl{margin:.6rem 0}
-dd{margin:0;overflow-wrap:anywhere}
-.figures{display:flex;flex-wrap:wrap;gap:.4rem 2.5rem}
-.figures div{display:flex;flex-direction:column-reverse}
+dd{margin:0;overflow-wrap:break-word}
+.figures div{display:inline-flex;flex-direction:column-reverse;margin:.2rem 2.5rem .2rem 0}
+.figures dt,.figures dd{white-space:nowrap}
 .figures dd{font-size:1.3rem;font-weight:700}
-.pairs{display:grid;grid-template-columns:repeat(auto-fill,minmax(24rem,1fr));gap:.1rem 2rem}
-.pairs div{display:grid;grid-template-columns:11rem 1fr}
+.pairs div{display:inline-block;width:49%;vertical-align:top}
+.pairs dt{display:inline-block;width:38%;vertical-align:top}
+.pairs dd{display:inline-block;width:60%}
 article{margin:1rem 0}
-.incident{display:flex;gap:.7rem;align-items:flex-start}
-.incident img{flex:none;margin-top:.15rem}
-.time{flex:none;min-width:3.2rem}
-.sentence{overflow-wrap:anywhere}
+.incident{position:relative;padding-left:6.2rem;min-height:1.5rem}
+.incident img{position:absolute;left:0;top:.1rem;width:18px;height:18px}
+.time{position:absolute;left:1.8rem;white-space:nowrap}
+.sentence{overflow-wrap:break-word}
 figure{margin:.5rem 0}
 figure img{width:100%;height:auto}
 .wide{overflow-x:auto}
@@ -38,8 +41,8 @@ thead th{font-weight:700;color:#4a5b6b;border-bottom:1px solid #b4bfca}
 .number{text-align:right}
 tbody tr:nth-child(even){background:#f4f7fa}
 footer{margin-top:2rem;border-top:1px solid #b4bfca}
-@media (max-width:40rem){.pairs{grid-template-columns:1fr}}
-@media print{body{font-size:9pt;max-width:none;margin:0;padding:0}article,figure,tr,.verdict,.figures{break-inside:avoid}h2{break-after:avoid}
+@media screen and (max-width:40rem){.pairs div{width:100%}}
+@media print{body{font-size:9pt;max-width:none;margin:0;padding:0}article,figure,tr,.verdict,.figures{break-inside:avoid}h2,.quiet{break-after:avoid}
 thead{display:table-header-group}.wide{overflow:visible}@page{margin:15mm}}
 )";
 

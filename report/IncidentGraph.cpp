@@ -16,7 +16,7 @@ constexpr double kMargin = 0.2;       // of the length, before and after it
 constexpr double kLeastLength = 10.0; // seconds that are shown of a short one
 constexpr double kTogether = 600.0;   // within which several incidents are shown in one picture
 constexpr double kBeside = 3.0;       // seconds, for a line to come from what was before
-constexpr double kStrip = 39.0;       // points
+constexpr double kStrip = 38.0;       // points
 constexpr double kLeastStrips = 60.0; // a graph cannot do with less
 constexpr double kAbove = 3.0;        // the bars, or the strips
 constexpr double kBar = 9.0;
@@ -63,9 +63,8 @@ std::vector<const Incident*> IncidentGraph::chosen(const std::vector<Incident>& 
         all.push_back(&incidents[place]);
     if (all.size() == 1 || sentence.end - sentence.start <= kTogether)
         return all;
-    return {*std::ranges::min_element(all, [](const Incident* pA, const Incident* pB) {
-        return isWorse(pA->episodes[pA->leading], pB->episodes[pB->leading]);
-    })};
+    return {*std::ranges::min_element(
+        all, [](const Incident* pA, const Incident* pB) { return isWorse(pA->episodes[pA->leading], pB->episodes[pB->leading]); })};
 }
 
 void IncidentGraph::findSpan(const std::vector<const Incident*>& incidents)
@@ -87,17 +86,21 @@ std::vector<IncidentGraph::Quantity> IncidentGraph::quantities(const std::vector
         for (const Episode& episode : pIncident->episodes) {
             if (isValueKind(episode) != isValue)
                 continue;
-            const QString name = IncidentText::laneless(reportText(episode.parameter));
-            const auto [place, isNew] = places.try_emplace(name, found.size());
+            const QString name = reportText(episode.parameter);
+            const auto [place, isNew] = places.try_emplace(IncidentText::laneless(name), found.size());
             if (isNew)
                 found.push_back({name, {}});
-            found[place->second].episodes.push_back(&episode);
+            Quantity& quantity = found[place->second];
+            if (quantity.name != name)
+                quantity.name = place->first;
+            quantity.episodes.push_back(&episode);
         }
     }
     const auto worseEpisode = [](const Episode* pA, const Episode* pB) { return isWorse(*pA, *pB); };
     for (Quantity& quantity : found)
         std::ranges::stable_sort(quantity.episodes, worseEpisode);
-    std::ranges::stable_sort(found, [&](const Quantity& a, const Quantity& b) { return worseEpisode(a.episodes.front(), b.episodes.front()); });
+    std::ranges::stable_sort(found,
+                             [&](const Quantity& a, const Quantity& b) { return worseEpisode(a.episodes.front(), b.episodes.front()); });
     return found;
 }
 
@@ -128,12 +131,19 @@ double IncidentGraph::barsHeight() const
     return mBars.empty() ? 0.0 : kBar * static_cast<double>(mBars.size()) + 2.0;
 }
 
+/// Of what a graph has below its strips: the times take one line, two notes take two.
+double IncidentGraph::unused() const
+{
+    constexpr double kLine = 8.0;
+    return mOf && !mLeftOut.isEmpty() ? 0.0 : kLine;
+}
+
 double IncidentGraph::height() const
 {
     if (mStrips.empty())
         return 0.0;
     const double strips = std::max(kStrip * static_cast<double>(mStrips.size()), kLeastStrips);
-    return barsHeight() + kAbove + strips + PaperGraph::frame().below;
+    return barsHeight() + kAbove + strips + PaperGraph::frame().below - unused();
 }
 
 QString IncidentGraph::text() const
@@ -155,8 +165,10 @@ QString IncidentGraph::note(const Episode& episode)
 {
     if (!episode.shown)
         return {};
-    const QString limit = QString::number(episode.shown->limit, 'g', 6);
-    return (episode.side == ESide::eLow ? tr("least %1, limit %2") : tr("peak %1, limit %2")).arg(reportText(episode.text), limit);
+    const QString peak = (episode.side == ESide::eLow ? tr("least %1") : tr("peak %1")).arg(reportText(episode.text));
+    const QString limit = tr("limit %1").arg(QString::number(episode.shown->limit, 'g', 6));
+    const auto whole = [](QString text) { return text.replace(' ', QChar::Nbsp); }; // lines end between the two only
+    return whole(peak + ",") + " " + whole(limit);
 }
 
 void IncidentGraph::draw(PaperCanvas& canvas, const QRectF& place) const
@@ -164,11 +176,12 @@ void IncidentGraph::draw(PaperCanvas& canvas, const QRectF& place) const
     PaperGraph graph(mLoaded, static_cast<int>(mStrips.size()));
     std::vector<std::optional<int>> strips;
     for (const Strip& strip : mStrips)
-        strips.push_back(graph.add(strip.parameter, {mSpan.start - kBeside, mSpan.end + kBeside}, strip.pEpisode ? note(*strip.pEpisode) : QString()));
+        strips.push_back(
+            graph.add(strip.parameter, {mSpan.start - kBeside, mSpan.end + kBeside}, strip.pEpisode ? note(*strip.pEpisode) : QString()));
     graph.setWindow(mSpan);
     canvas.push();
     canvas.clip(place); // what a graph has above its strips is left out here
-    graph.draw(canvas, place.adjusted(0, barsHeight() + kAbove - PaperGraph::frame().above, 0, 0));
+    graph.draw(canvas, place.adjusted(0, barsHeight() + kAbove - PaperGraph::frame().above, 0, unused()));
     drawBars(canvas, graph, {place.left(), graph.plot().top() - barsHeight(), place.width(), barsHeight()});
     drawPeaks(canvas, graph, strips);
     drawNotes(canvas, {place.left(), graph.plot().bottom() + 4});

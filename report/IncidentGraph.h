@@ -39,6 +39,7 @@ private:
     void drawPeaks(PaperCanvas& canvas, const PaperGraph& graph, const std::vector<std::optional<int>>& strips) const;
     void drawNotes(PaperCanvas& canvas, QPointF corner) const;
     [[nodiscard]] double barsHeight() const;
+    [[nodiscard]] double unused() const;
 
     const LoadedCard& mLoaded;
     TimeSpan mSpan;

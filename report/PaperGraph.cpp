@@ -106,7 +106,8 @@ void PaperGraph::drawName(PaperCanvas& canvas, const QString& name, const QStrin
         y += line;
     }
     style.bold = false;
-    for (const QString& text : note.isEmpty() ? QStringList() : PaperCanvas::wrapped(printable(note), place.width() - kSwatch, style, kMostNotes)) {
+    for (const QString& text :
+         note.isEmpty() ? QStringList() : PaperCanvas::wrapped(printable(note), place.width() - kSwatch, style, kMostNotes)) {
         canvas.text({place.left() + kSwatch, y}, text, style);
         y += line;
     }

@@ -39,7 +39,7 @@ public:
     /// A name in the place left of what it names.
     static void drawName(PaperCanvas& canvas, const QString& name, const QString& note, const QRectF& place, const QColor& colour);
 
-    static constexpr double kNames = 104.0;  ///< width of the place of the names
+    static constexpr double kNames = 104.0; ///< width of the place of the names
     static constexpr double kTextSize = 7.0;
 
 private:

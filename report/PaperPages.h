@@ -24,8 +24,8 @@ public:
     [[nodiscard]] double width() const { return mRight - left(); }
     [[nodiscard]] double y() const { return mY; }
     [[nodiscard]] bool isAtTop() const;
-    [[nodiscard]] double room() const { return mBottom - mY; }     ///< what is left of this page
-    [[nodiscard]] double mostRoom() const;                         ///< of an empty one
+    [[nodiscard]] double room() const { return mBottom - mY; } ///< what is left of this page
+    [[nodiscard]] double mostRoom() const;                     ///< of an empty one
     [[nodiscard]] std::size_t count() const { return mPages.size(); }
 
     /// Begins the next page unless this one has room for that; an empty page is never left.

@@ -55,7 +55,9 @@ bool PaperReport::write(SafeFile& file, Progress& progress)
     writer.setResolution(kResolution);
     writer.setTitle(printable(mDocument.title + ", " + mDocument.head));
     writer.setCreator(mDocument.creator);
-    return mPages.write(writer, tr("%1 of %2", "page number"), progress) &&
+    //: number of a page, and how many there are
+    const QString pageOf = tr("%1 of %2");
+    return mPages.write(writer, pageOf, progress) &&
            file.write({buffer.data().constData(), static_cast<std::size_t>(buffer.data().size())});
 }
 
@@ -183,7 +185,7 @@ void PaperReport::drawPicture(const ReportPicture& picture, double height)
         picture.draw(painter, place.size());
         painter.restore();
     });
-    mPages.advance(height + 4.0);
+    mPages.advance(height + 2.0);
 }
 
 void PaperReport::put(const ReportPicture& picture)
@@ -202,7 +204,7 @@ void PaperReport::put(const ReportIncident& incident)
     const QStringList what = wrapped(incident.what, mPages.right() - text, style(true), kLongText);
     const QString rest = incident.rest.startsWith(", ") ? incident.rest.mid(2) : incident.rest;
     const QStringList more = rest.isEmpty() ? QStringList() : wrapped(rest, mPages.right() - text, style(false, kQuiet), kLongText);
-    const double graph = incident.graph.draw ? incident.graph.height + 8.0 : 0.0;
+    const double graph = incident.graph.draw ? incident.graph.height + 5.0 : 0.0;
     mPages.reserve(std::min(kLine * static_cast<double>(what.size() + more.size()) + graph + 6.0, mPages.mostRoom()));
     sign(incident.verdict, mPages.left(), kSign);
     mPages.text(x, incident.time, style(), kTimes);
@@ -211,7 +213,7 @@ void PaperReport::put(const ReportIncident& incident)
     mPages.advance(3.0);
     if (incident.graph.draw)
         drawPicture(incident.graph, incident.graph.height);
-    mPages.advance(3.0);
+    mPages.advance(2.0);
 }
 
 std::vector<double> PaperReport::widths(const std::vector<ReportColumn>& columns) const

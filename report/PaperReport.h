@@ -32,7 +32,7 @@ private:
 
     void title(const QString& text);
     void sign(EVerdict verdict, double x, double size);
-    /// In lines between two heights of the page's width. @return how many
+    /// One below the other from there on, going on with the next page.
     void lines(double x, const QStringList& lines, const CanvasText& style);
     [[nodiscard]] QStringList wrapped(const QString& text, double width, const CanvasText& style, qsizetype most) const;
     /// The width of each column in points, such that a row fits the page.

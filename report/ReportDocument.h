@@ -83,7 +83,8 @@ struct ReportTable {
     std::vector<ReportColumn> columns;
 };
 
-using ReportBlock = std::variant<ReportHeading, ReportParagraph, ReportVerdict, ReportPairs, ReportFigures, ReportIncident, ReportTable, ReportPicture>;
+using ReportBlock =
+    std::variant<ReportHeading, ReportParagraph, ReportVerdict, ReportPairs, ReportFigures, ReportIncident, ReportTable, ReportPicture>;
 
 /// What a report says, in the order in which it says it; on paper and elsewhere. Texts may hold whatever a file does: who writes them makes
 /// them fit to be shown. Drawings refer to what the report is about.

@@ -53,7 +53,8 @@ void ReportFront::addTo(ReportDocument& document) const
 
 void ReportFront::addVerdict(ReportDocument& document) const
 {
-    document.add(ReportVerdict{mpOverview->review.verdict, capitalised(ReviewText(mpOverview->review).verdict()), OverviewTexts::verdict(*mpOverview)});
+    document.add(ReportVerdict{mpOverview->review.verdict, capitalised(ReviewText(mpOverview->review).verdict()),
+                               OverviewTexts::verdict(*mpOverview)});
     ReportFigures figures;
     for (const OverviewTexts::Figure& figure : OverviewTexts::figures(*mpOverview))
         figures.entries.push_back({figure.name, figure.value});
@@ -66,13 +67,14 @@ void ReportFront::addIdentity(ReportDocument& document) const
 {
     const ProfileModel& model = mLoaded.context.model();
     const QString cycle = mLoaded.cycle ? QString::number(*mLoaded.cycle) : tr("single files");
-    document.add(ReportPairs{{{tr("Card"), mLoaded.card},
-                              {tr("Date, as recorded"), reportDate(mLoaded.powerUp, tr("no clock"))},
-                              {tr("Power cycle"), isFlight() ? tr("%1, flight %2").arg(cycle, QString::number(mLoaded.flightNumber)) : cycle},
-                              {tr("From"), CardContainer::time(mLoaded.startTime)},
-                              {tr("Profile"), reportText(model.name)},
-                              {tr("To"), CardContainer::time(mLoaded.endTime)},
-                              {tr("Variant"), model.variant.empty() ? QStringLiteral("-") : reportText(model.variant)}}});
+    document.add(
+        ReportPairs{{{tr("Card"), mLoaded.card},
+                     {tr("Date, as recorded"), reportDate(mLoaded.powerUp, tr("no clock"))},
+                     {tr("Power cycle"), isFlight() ? tr("%1, flight %2").arg(cycle, QString::number(mLoaded.flightNumber)) : cycle},
+                     {tr("From"), CardContainer::time(mLoaded.startTime)},
+                     {tr("Profile"), reportText(model.name)},
+                     {tr("To"), CardContainer::time(mLoaded.endTime)},
+                     {tr("Variant"), model.variant.empty() ? QStringLiteral("-") : reportText(model.variant)}}});
     document.add(ReportParagraph{tr("Times count from the unit's power-up."), ReportParagraph::eQuiet});
 }
 
@@ -105,9 +107,9 @@ void ReportFront::addIncidents(ReportDocument& document) const
     if (sentences.size() > kMostSentences)
         document.add(ReportParagraph{moreText(sentences, kMostSentences), ReportParagraph::eAlert});
     else if (sentences.size() > kMostGraphs)
-        document.add(ReportParagraph{tr("The first %n are shown as graphs.", nullptr, static_cast<int>(kMostGraphs)), ReportParagraph::eQuiet});
+        document.add(ReportParagraph{tr("The first %1 are shown as graphs.").arg(kMostGraphs), ReportParagraph::eQuiet});
     if (mOutside > 0)
-        document.add(ReportParagraph{tr("%n more of this power cycle outside of the flight.", nullptr, static_cast<int>(mOutside))});
+        document.add(ReportParagraph{tr("Outside of the flight: %n more in this power cycle.", nullptr, static_cast<int>(mOutside))});
     const bool isAllKnown = ReviewText(mpOverview->review).gaps().isEmpty();
     document.add(ReportParagraph{OverviewTexts::basis(*mpOverview), isAllKnown ? ReportParagraph::eQuiet : ReportParagraph::eNormal});
 }

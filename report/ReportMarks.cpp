@@ -50,9 +50,8 @@ void ReportMarks::add(const QPointF& at, const QColor& colour)
 
 void ReportMarks::addToGroup(const QPointF& at, const QColor& colour)
 {
-    const auto group = std::find_if(mMarks.begin(), mMarks.end(), [&](const Mark& mark) {
-        return mark.colour == colour && distance(mark.at, at) < 2 * kRadius + kGap;
-    });
+    const auto group = std::find_if(mMarks.begin(), mMarks.end(),
+                                    [&](const Mark& mark) { return mark.colour == colour && distance(mark.at, at) < 2 * kRadius + kGap; });
     if (group == mMarks.end())
         add(at, colour);
     else

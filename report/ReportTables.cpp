@@ -28,10 +28,12 @@ bool addRow(ReportTable& table, const QStringList& cells, qsizetype most)
 
 } // namespace
 
-void ReportTables::add(ReportDocument& document, ReportTable table, const QString& nothing, int more)
+void ReportTables::add(ReportDocument& document, ReportTable table, const QString& nothing, int more, const QString& note)
 {
     if (table.columns.front().cells.isEmpty())
         return document.add(ReportParagraph{nothing});
+    if (!note.isEmpty())
+        document.add(ReportParagraph{note, ReportParagraph::eQuiet});
     document.add(std::move(table));
     if (more > 0)
         document.add(ReportParagraph{tr("and %n more", nullptr, more), ReportParagraph::eAlert});
@@ -77,7 +79,8 @@ void ReportTables::addFlights(ReportDocument& document) const
 
 ReportTable ReportTables::figures(const std::vector<RecordFlight>& flights, std::size_t first, std::size_t last, int firstNumber) const
 {
-    ReportTable table{tr("Flights and tow statistic"), {{tr("Flight"), false, {tr("Take-off, clock"), tr("Take-off"), tr("Landing")}, true}}};
+    ReportTable table{tr("Flights and tow statistic"),
+                      {{tr("Flight"), false, {tr("Take-off, clock"), tr("Take-off"), tr("Landing")}, true}}};
     const QString labels[eFigureCount] = {tr("Flight time"),
                                           tr("Fuel, lane A"),
                                           tr("Fuel, lane B"),
@@ -96,7 +99,8 @@ ReportTable ReportTables::figures(const std::vector<RecordFlight>& flights, std:
     for (std::size_t i = first; i < last; ++i) {
         const RecordFlight& flight = flights[i];
         const QDateTime takeOff = mLoaded.powerUp.addSecs(saturatingCast<qint64>(flight.takeOffTime));
-        QStringList cells{reportDate(takeOff, tr("no clock")), CardContainer::time(flight.takeOffTime), CardContainer::time(flight.landingTime)};
+        QStringList cells{reportDate(takeOff, tr("no clock")), CardContainer::time(flight.takeOffTime),
+                          CardContainer::time(flight.landingTime)};
         for (int figure = 0; figure < eFigureCount; ++figure)
             cells.append(flightFigureText(flight, static_cast<EFlightFigure>(figure), EFigureText::eFixed));
         table.columns.push_back({QString::number(firstNumber + static_cast<int>(i)), true, cells});
@@ -116,25 +120,34 @@ void ReportTables::addEvents(ReportDocument& document, const EventList& list, co
             continue;
         const EventSource& source = list.source(event);
         const QString state = states.value(event.state, QString::number(event.state));
-        const bool hasRoom = addRow(table, {CardContainer::time(event.time), reportText(source.group), reportText(source.parameter),
-                                            reportText(event.value), reportText(source.unit), state},
+        const bool hasRoom = addRow(table,
+                                    {CardContainer::time(event.time), reportText(source.group), reportText(source.parameter),
+                                     reportText(event.value), reportText(source.unit), state},
                                     kMostRows);
         more += hasRoom ? 0 : 1;
     }
-    add(document, std::move(table), nothing, more);
+    add(document, std::move(table), nothing, more,
+        tr("All of them, those too which the verdict does not count: of starting, stopping and lane checks."));
 }
 
 void ReportTables::addFaults(ReportDocument& document) const
 {
     document.add(ReportHeading{tr("Faults")});
     ReportTable table{tr("Faults"),
-                      {{tr("Matrix")}, {tr("Bit"), true}, {tr("Kind")}, {tr("Fault"), false, {}, true}, {tr("First")}, {tr("Last")}, {tr("Times"), true}}};
+                      {{tr("Matrix")},
+                       {tr("Bit"), true},
+                       {tr("Kind")},
+                       {tr("Fault"), false, {}, true},
+                       {tr("First")},
+                       {tr("Last")},
+                       {tr("Times"), true}}};
     const QStringList kinds{"", tr("Info"), tr("Warning"), tr("Fault")};
     int more = 0;
     for (const ReportFault& fault : presentFaults(mLoaded.context.model(), *mLoaded.pRecord, mLoaded.startTime, mLoaded.endTime)) {
-        const bool hasRoom = addRow(table, {reportText(fault.pMatrix->name), QString::number(fault.bit), kinds.value(fault.pBit->errorType),
-                                            reportText(fault.pBit->name), CardContainer::time(fault.first), CardContainer::time(fault.last),
-                                            QString::number(fault.times)},
+        const bool hasRoom = addRow(table,
+                                    {reportText(fault.pMatrix->name), QString::number(fault.bit), kinds.value(fault.pBit->errorType),
+                                     reportText(fault.pBit->name), CardContainer::time(fault.first), CardContainer::time(fault.last),
+                                     QString::number(fault.times)},
                                     kMostFaults);
         more += hasRoom ? 0 : 1;
     }

@@ -19,7 +19,8 @@ public:
 
     void addUnit(ReportDocument& document) const;
     void addFlights(ReportDocument& document) const;
-    void addEvents(ReportDocument& document, const EventList& list, const QString& heading, const QString& nothing, const QStringList& states) const;
+    void addEvents(ReportDocument& document, const EventList& list, const QString& heading, const QString& nothing,
+                   const QStringList& states) const;
     void addFaults(ReportDocument& document) const;
 
 private:
@@ -28,7 +29,7 @@ private:
     [[nodiscard]] std::vector<RecordFlight> flights(int& firstNumber) const;
     [[nodiscard]] bool isInside(double time) const { return time >= mLoaded.startTime && time <= mLoaded.endTime; }
     /// The table, or `nothing` where it has no rows, and how many of them are left out.
-    static void add(ReportDocument& document, ReportTable table, const QString& nothing, int more);
+    static void add(ReportDocument& document, ReportTable table, const QString& nothing, int more, const QString& note = {});
 
     const LoadedCard& mLoaded;
 };

@@ -1,9 +1,10 @@
 #include "store/CardScan.h"
 
 #include "store/CardReader.h"
+#include "store/CycleIdentity.h"
 
 #include <algorithm>
-#include <new>
+#include <exception>
 
 namespace ZARN {
 
@@ -17,8 +18,13 @@ CardScan::Result CardScan::read(const std::string& path) const
     const std::string kept = listing.path;
     try {
         result.card = CardReader(mConsole, mContext, mTarget).read(std::move(listing), result.failure);
-    } catch (const std::bad_alloc&) {
-        result.failure = kept + ": not enough memory";
+    } catch (const std::exception& error) { // too little memory, as a rule: the other cards need not be as large
+        result.card = {};
+        result.card.listing.path = kept;
+        result.card.name = kept.substr(kept.rfind('/') + 1);
+        result.card.engineId = engineOfCard(result.card.name);
+        result.card.problems.push_back({{}, QString::fromUtf8(error.what()), true});
+        result.card.isWhole = false;
     }
     return result;
 }

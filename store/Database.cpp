@@ -24,6 +24,12 @@ Database::EFailure failureOf(int code)
     }
 }
 
+/// The name of a file that nobody writes.
+std::string immutable(const std::string& path)
+{
+    return "file:" + QByteArray::fromStdString(path).toPercentEncoding("/").toStdString() + "?immutable=1";
+}
+
 } // namespace
 
 Statement::Statement(Database& database, const std::string& sql) : mDatabase(database)
@@ -124,13 +130,24 @@ Database::Database(const std::string& path, EMode mode) : mPath(path)
         fail(tr("it is no file"));
         return;
     }
-    const int flags = mode == eReadOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE;
-    if (!check(sqlite3_open_v2(path.c_str(), &mpDatabase, flags | SQLITE_OPEN_NOMUTEX, nullptr)))
+    if (!open(path, mode == eReadOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE))
         return;
-    sqlite3_extended_result_codes(mpDatabase, 1);
-    sqlite3_busy_timeout(mpDatabase, kBusyMilliseconds);
+    // Where nothing can be written a reader cannot announce itself; nobody writes there.
+    if (mode == eReadOnly && sqlite3_exec(mpDatabase, "SELECT 1 FROM sqlite_master", nullptr, nullptr, nullptr) % 256 == SQLITE_CANTOPEN) {
+        close();
+        open(immutable(path), SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
+    }
     if (mode == eReadWrite && sqlite3_db_readonly(mpDatabase, "main") == 1)
         fail(tr("it cannot be written, only read"));
+}
+
+bool Database::open(const std::string& name, int flags)
+{
+    if (!check(sqlite3_open_v2(name.c_str(), &mpDatabase, flags | SQLITE_OPEN_NOMUTEX, nullptr)))
+        return false;
+    sqlite3_extended_result_codes(mpDatabase, 1);
+    sqlite3_busy_timeout(mpDatabase, kBusyMilliseconds);
+    return true;
 }
 
 Database::~Database()

@@ -78,6 +78,7 @@ public:
 
 private:
     friend class Statement;
+    bool open(const std::string& name, int flags);
     /// @return whether the code tells of success; else notes the failure
     bool check(int code);
     void note(int code);

@@ -45,7 +45,7 @@ public:
 
     void write(ParquetFile& file)
     {
-        for (uint64_t tick = firstTick(); tick != CsvColumn::kNoTick; tick = firstTick()) {
+        for (uint64_t tick = CsvColumn::firstTick(mColumns); tick != CsvColumn::kNoTick; tick = CsvColumn::firstTick(mColumns)) {
             mWindow.first = tick;
             fillWindow();
             file.addGroup(mFields);
@@ -53,14 +53,6 @@ public:
     }
 
 private:
-    [[nodiscard]] uint64_t firstTick() const
-    {
-        uint64_t first = CsvColumn::kNoTick;
-        for (const CsvColumn& column : mColumns)
-            first = std::min(first, column.nextTick());
-        return first;
-    }
-
     void fillWindow()
     {
         std::ranges::fill(mWindow.marked, uint8_t{0});

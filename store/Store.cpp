@@ -2,6 +2,7 @@
 
 #include "profile/ProfileModel.h"
 #include "store/CardWriter.h"
+#include "store/StoreRescue.h"
 #include "store/StoreSchema.h"
 #include "store/StoreText.h"
 
@@ -50,9 +51,11 @@ void Store::putAside()
         if (isAside && ::stat((path + companion).c_str(), &status) == 0)
             isAside = std::rename((path + companion).c_str(), (aside + companion).c_str()) == 0;
     }
-    if (isAside)
-        mError +=
-            tr("; it was put aside as %1, and the next scan makes it anew").arg(QString::fromStdString(storeText(aside))).toStdString();
+    if (!isAside)
+        return;
+    mError += tr("; it was put aside as %1, and the next scan makes it anew").arg(QString::fromStdString(storeText(aside))).toStdString();
+    if (const std::size_t rows = rescueTyped(aside, path))
+        mError += tr("; rows of notes, services and readings that were kept: %1").arg(rows).toStdString();
 }
 
 /// What goes into a file that has no name any more would be lost without a word.

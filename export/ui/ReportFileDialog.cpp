@@ -50,7 +50,8 @@ void ReportFileDialog::propose()
     setDefaultSuffix(suffix()); // part of the name when the dialog asks whether to replace a file
     const auto* pName = findChild<QLineEdit*>("fileNameEdit");
     const QString typed = pName ? pName->text() : QString();
-    const QString base = typed.isEmpty() || typed == mProposed ? mParts[static_cast<std::size_t>(part())].name : QFileInfo(typed).completeBaseName();
+    const QString base =
+        typed.isEmpty() || typed == mProposed ? mParts[static_cast<std::size_t>(part())].name : QFileInfo(typed).completeBaseName();
     const QString name = base + "." + suffix();
     if (typed.isEmpty() || typed == mProposed)
         mProposed = name;

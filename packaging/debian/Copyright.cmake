@@ -9,6 +9,7 @@ set(title_cli11 "CLI11: part of zarn-cli")
 set(title_geographiclib "GeographicLib: linked, or part of the programs")
 set(title_freetype "FreeType: linked. Used under its own licence, the first of the two that it offers")
 set(title_icons "The icons in the windows")
+set(title_store "The store of many cards: SQLite and Zstandard, linked; Apache Thrift, the interface definition of Parquet and headers of Boost, part of zarn-cli")
 set(title_fonts "Fonts: part of the programs")
 set(title_base-map "The map of the world: part of zarn")
 

@@ -1,5 +1,6 @@
 #include "profile/ui/DialogProfile.h"
 
+#include "app/Property.h"
 #include "app/Settings.h"
 #include "profile/Profile.h"
 #include "profile/ui/DialogFormulas.h"

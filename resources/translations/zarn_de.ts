@@ -791,6 +791,103 @@ Die Einstellungen bleiben erhalten.</translation>
     </message>
 </context>
 <context>
+    <name>ZARN::DialogFormulas</name>
+    <message>
+        <source>Formulas</source>
+        <translation>Formeln</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Neu</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Nach oben</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Nach unten</translation>
+    </message>
+    <message>
+        <source>Examples</source>
+        <translation>Beispiele</translation>
+    </message>
+    <message>
+        <source>Names of parameters in quotes, numbers with a point, + - * / ^ &lt; &gt; == &amp;&amp; || ? :
+min, max, abs, sqrt, sin, ...; t is the time in seconds
+delta(x): change since the sample before
+integral(x): sum of x times seconds
+avg(x, s): mean of the last s seconds
+lag(x, s): x as it was s seconds ago</source>
+        <translation>Namen von Parametern in Anführungszeichen, Zahlen mit Punkt, + - * / ^ &lt; &gt; == &amp;&amp; || ? :
+min, max, abs, sqrt, sin, ...; t ist die Zeit in Sekunden
+delta(x): Änderung seit dem vorigen Messwert
+integral(x): Summe von x mal Sekunden
+avg(x, s): Mittel der letzten s Sekunden
+lag(x, s): x, wie es vor s Sekunden war</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Name:</translation>
+    </message>
+    <message>
+        <source>Formula:</source>
+        <translation>Formel:</translation>
+    </message>
+    <message>
+        <source>Unit:</source>
+        <translation>Einheit:</translation>
+    </message>
+    <message>
+        <source>Decimals:</source>
+        <translation>Nachkommastellen:</translation>
+    </message>
+    <message>
+        <source>Limit up to:</source>
+        <translation>Grenzwert bis:</translation>
+    </message>
+    <message>
+        <source>Warning up to:</source>
+        <translation>Warnung bis:</translation>
+    </message>
+    <message>
+        <source>Warning from:</source>
+        <translation>Warnung ab:</translation>
+    </message>
+    <message>
+        <source>Limit from:</source>
+        <translation>Grenzwert ab:</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>Insert Parameter</source>
+        <translation>Parameter einfügen</translation>
+    </message>
+    <message>
+        <source>%1: character %2: %3</source>
+        <translation>%1: Zeichen %2: %3</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number.</source>
+        <translation>„%1“ ist keine Zahl.</translation>
+    </message>
+    <message>
+        <source>Begin with an example, or with an empty formula by &quot;New&quot;.</source>
+        <translation>Beginnen Sie mit einem Beispiel oder über „Neu“ mit einer leeren Formel.</translation>
+    </message>
+</context>
+<context>
     <name>ZARN::DialogGraphSetup</name>
     <message>
         <source>Oscilloscope Setup</source>
@@ -920,26 +1017,6 @@ Die Einstellungen bleiben erhalten.</translation>
         <translation>&amp;Hilfe</translation>
     </message>
     <message>
-        <source>Main Toolbar</source>
-        <translation>Hauptwerkzeugleiste</translation>
-    </message>
-    <message>
-        <source>Profile: what the recorded bytes mean</source>
-        <translation>Profil: was die aufgezeichneten Bytes bedeuten</translation>
-    </message>
-    <message>
-        <source>Units of all displays</source>
-        <translation>Einheiten aller Anzeigen</translation>
-    </message>
-    <message>
-        <source>Metric</source>
-        <translation>Metrisch</translation>
-    </message>
-    <message>
-        <source>Imperial</source>
-        <translation>Imperial</translation>
-    </message>
-    <message>
         <source>Written: %1</source>
         <translation>Geschrieben: %1</translation>
     </message>
@@ -1060,14 +1137,6 @@ Die Einstellungen bleiben erhalten.</translation>
         <translation>Flugbericht</translation>
     </message>
     <message>
-        <source>Write Flight Report as PDF File</source>
-        <translation>Flugbericht als PDF-Datei schreiben</translation>
-    </message>
-    <message>
-        <source>Units</source>
-        <translation>Einheiten</translation>
-    </message>
-    <message>
         <source>Settings cannot be saved</source>
         <translation>Einstellungen nicht speicherbar</translation>
     </message>
@@ -1121,6 +1190,18 @@ Die Einstellungen bleiben erhalten.</translation>
         <source>Go to the previous incident of what is loaded</source>
         <translation>Zum vorigen Vorfall des Geladenen gehen</translation>
     </message>
+    <message>
+        <source>Layouts cannot be saved</source>
+        <translation>Layouts nicht speicherbar</translation>
+    </message>
+    <message>
+        <source>Layouts unreadable</source>
+        <translation>Layouts nicht lesbar</translation>
+    </message>
+    <message>
+        <source>Write Flight Report as PDF or HTML File</source>
+        <translation>Flugbericht als PDF- oder HTML-Datei schreiben</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::DialogOverview</name>
@@ -1151,6 +1232,18 @@ Die Einstellungen bleiben erhalten.</translation>
     <message>
         <source>Times since the unit&apos;s power-up.</source>
         <translation>Zeiten seit dem Einschalten des Geräts.</translation>
+    </message>
+    <message>
+        <source>The card cannot be read any more. Was it removed?</source>
+        <translation>Die Karte ist nicht mehr lesbar. Wurde sie entfernt?</translation>
+    </message>
+    <message>
+        <source>What was reviewed before is told below; open the card again for the rest.</source>
+        <translation>Was vorher durchgesehen wurde, steht unten; öffnen Sie die Karte für den Rest erneut.</translation>
+    </message>
+    <message>
+        <source>Open it again to review it.</source>
+        <translation>Öffnen Sie sie erneut, um sie durchzusehen.</translation>
     </message>
 </context>
 <context>
@@ -1290,6 +1383,26 @@ Die Einstellungen bleiben erhalten.</translation>
         <source>%1 of %2 parameters selected</source>
         <translation>%1 von %2 Parametern gewählt</translation>
     </message>
+    <message>
+        <source>Only recorded</source>
+        <translation>Nur aufgezeichnete</translation>
+    </message>
+    <message>
+        <source>List only what the loaded data hold samples of</source>
+        <translation>Nur aufführen, wovon die geladenen Daten Werte enthalten</translation>
+    </message>
+    <message>
+        <source>Formulas ...</source>
+        <translation>Formeln ...</translation>
+    </message>
+    <message>
+        <source>Parameters of your own, computed from others</source>
+        <translation>Eigene Parameter, aus anderen berechnet</translation>
+    </message>
+    <message>
+        <source>%1, %2 of them not recorded</source>
+        <translation>%1, %2 davon nicht aufgezeichnet</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::ExportController</name>
@@ -1330,10 +1443,6 @@ Die Einstellungen bleiben erhalten.</translation>
         <translation>Flugbericht speichern</translation>
     </message>
     <message>
-        <source>PDF Files (*.pdf)</source>
-        <translation>PDF-Dateien (*.pdf)</translation>
-    </message>
-    <message>
         <source>Writing the flight report failed !</source>
         <translation>Schreiben des Flugberichts fehlgeschlagen !</translation>
     </message>
@@ -1372,6 +1481,14 @@ Die Einstellungen bleiben erhalten.</translation>
     <message>
         <source>No position was recorded: the KML file holds no flight path.</source>
         <translation>Es wurde keine Position aufgezeichnet: Die KML-Datei enthält keinen Flugweg.</translation>
+    </message>
+    <message>
+        <source>The whole power cycle</source>
+        <translation>Der ganze Einschaltzyklus</translation>
+    </message>
+    <message>
+        <source>A report is a PDF or an HTML file: its name ends in .pdf or .html.</source>
+        <translation>Ein Bericht ist eine PDF- oder eine HTML-Datei: Ihr Name endet auf .pdf oder .html.</translation>
     </message>
 </context>
 <context>
@@ -1794,6 +1911,184 @@ Ersetzen ?</translation>
         <source>Green: begin. Black: end. Orange: exceeded limits, how many at a place. Grey lines: degrees and minutes.</source>
         <translation>Grün: Anfang. Schwarz: Ende. Orange: überschrittene Grenzwerte, wie viele an einer Stelle. Graue Linien: Grade und Minuten.</translation>
     </message>
+    <message>
+        <source>power cycle %1</source>
+        <translation>Einschaltzyklus %1</translation>
+    </message>
+    <message>
+        <source>flight %1</source>
+        <translation>Flug %1</translation>
+    </message>
+    <message>
+        <source>profile %1</source>
+        <translation>Profil %1</translation>
+    </message>
+    <message>
+        <source>variant %1</source>
+        <translation>Variante %1</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <comment>code of the language of these texts</comment>
+        <translation>de</translation>
+    </message>
+    <message>
+        <source>Over time: %1</source>
+        <translation>Über der Zeit: %1</translation>
+    </message>
+    <message>
+        <source>Map of the flight path</source>
+        <translation>Karte des Flugwegs</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <comment>page number</comment>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>flights</source>
+        <translation>Flüge</translation>
+    </message>
+    <message>
+        <source>Problems of the card</source>
+        <translation>Probleme der Karte</translation>
+    </message>
+    <message>
+        <source>What happened</source>
+        <translation>Was geschah</translation>
+    </message>
+    <message numerus="yes">
+        <source>The first %n are shown as graphs.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more of this power cycle outside of the flight.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not told here: %1 more incidents, %2 of them beyond a limit, %3 warnings. The first %4 are shown as graphs.</source>
+        <translation>Hier nicht aufgeführt: %1 weitere Vorfälle, davon %2 über einem Grenzwert, %3 Warnungen. Die ersten %4 sind als Graphen gezeigt.</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::FormulaCheck</name>
+    <message>
+        <source>A formula needs a name.</source>
+        <translation>Eine Formel braucht einen Namen.</translation>
+    </message>
+    <message>
+        <source>The profile has a parameter of this name.</source>
+        <translation>Das Profil hat einen Parameter dieses Namens.</translation>
+    </message>
+    <message>
+        <source>Another formula has this name.</source>
+        <translation>Eine andere Formel hat diesen Namen.</translation>
+    </message>
+    <message>
+        <source>What is it computed by?</source>
+        <translation>Wie wird sie berechnet?</translation>
+    </message>
+    <message>
+        <source>The limits do not ascend.</source>
+        <translation>Die Grenzen steigen nicht an.</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::FormulaReader</name>
+    <message>
+        <source>&quot;%1&quot; is no parameter, function or number.</source>
+        <translation>„%1“ ist kein Parameter, keine Funktion und keine Zahl.</translation>
+    </message>
+    <message>
+        <source>The formula ends too early.</source>
+        <translation>Die Formel endet zu früh.</translation>
+    </message>
+    <message>
+        <source>A closing bracket is missing.</source>
+        <translation>Eine schließende Klammer fehlt.</translation>
+    </message>
+    <message>
+        <source>No bracket can stand here.</source>
+        <translation>Hier kann keine Klammer stehen.</translation>
+    </message>
+    <message>
+        <source>The function takes another number of arguments.</source>
+        <translation>Die Funktion nimmt eine andere Zahl von Argumenten.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot stand here.</source>
+        <translation>„%1“ kann hier nicht stehen.</translation>
+    </message>
+    <message>
+        <source>The formula is longer than %1 characters.</source>
+        <translation>Die Formel ist länger als %1 Zeichen.</translation>
+    </message>
+    <message>
+        <source>The formula names no parameter.</source>
+        <translation>Die Formel nennt keinen Parameter.</translation>
+    </message>
+    <message>
+        <source>The formula has more than %1 brackets.</source>
+        <translation>Die Formel hat mehr als %1 Klammern.</translation>
+    </message>
+    <message>
+        <source>Two equal signs compare: &quot;==&quot;.</source>
+        <translation>Verglichen wird mit zwei Gleichheitszeichen: „==“.</translation>
+    </message>
+    <message>
+        <source>This character cannot stand in a formula; names with such characters stand in quotes.</source>
+        <translation>Dieses Zeichen kann nicht in einer Formel stehen; Namen mit solchen Zeichen stehen in Anführungszeichen.</translation>
+    </message>
+    <message>
+        <source>The closing quote is missing.</source>
+        <translation>Das schließende Anführungszeichen fehlt.</translation>
+    </message>
+    <message>
+        <source>The profile has no parameter &quot;%1&quot;.</source>
+        <translation>Das Profil hat keinen Parameter „%1“.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is computed after this formula.</source>
+        <translation>„%1“ wird nach dieser Formel berechnet.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; holds no number.</source>
+        <translation>„%1“ enthält keine Zahl.</translation>
+    </message>
+    <message>
+        <source>More than %1 calls stand within each other.</source>
+        <translation>Mehr als %1 Aufrufe stehen ineinander.</translation>
+    </message>
+    <message>
+        <source>It takes two arguments: the value and the seconds.</source>
+        <translation>Sie nimmt zwei Argumente: den Wert und die Sekunden.</translation>
+    </message>
+    <message>
+        <source>It takes one argument.</source>
+        <translation>Sie nimmt ein Argument.</translation>
+    </message>
+    <message>
+        <source>The seconds are a number.</source>
+        <translation>Die Sekunden sind eine Zahl.</translation>
+    </message>
+    <message>
+        <source>The seconds lie above 0, up to %1.</source>
+        <translation>Die Sekunden liegen über 0 und höchstens bei %1.</translation>
+    </message>
+    <message>
+        <source>The formula has more than %1 names in quotes and calls that look back.</source>
+        <translation>Die Formel hat mehr als %1 Namen in Anführungszeichen und Aufrufe, die zurückblicken.</translation>
+    </message>
+    <message>
+        <source>A comma separates arguments of functions; a number has a decimal point.</source>
+        <translation>Ein Komma trennt Argumente von Funktionen; Zahlen haben einen Punkt.</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::GraphButtons</name>
@@ -1892,6 +2187,36 @@ Ersetzen ?</translation>
     </message>
 </context>
 <context>
+    <name>ZARN::IncidentGraph</name>
+    <message>
+        <source>%1, %2 to %3</source>
+        <translation>%1, %2 bis %3</translation>
+    </message>
+    <message>
+        <source>the worst of them, at %1</source>
+        <translation>der schlimmste, bei %1</translation>
+    </message>
+    <message>
+        <source>not shown: %1</source>
+        <translation>nicht gezeigt: %1</translation>
+    </message>
+    <message>
+        <source>least %1, limit %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>peak %1, limit %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>not shown: %n more</source>
+        <translation>
+            <numerusform>nicht gezeigt: %n weiterer</numerusform>
+            <numerusform>nicht gezeigt: %n weitere</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ZARN::IncidentText</name>
     <message>
         <source>%1, with %2</source>
@@ -1968,6 +2293,173 @@ Ersetzen ?</translation>
     <message>
         <source>%1 times, %2 to %3</source>
         <translation>%1-mal, %2 bis %3</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::LayoutBar</name>
+    <message>
+        <source>Layout</source>
+        <translation>Layout</translation>
+    </message>
+    <message>
+        <source>Layout: which parameters are shown, and how the graph shows them</source>
+        <translation>Layout: welche Parameter gezeigt werden, und wie der Graph sie zeigt</translation>
+    </message>
+    <message>
+        <source>Choose a layout</source>
+        <translation>Layout wählen</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Save As...</source>
+        <translation>Speichern unter...</translation>
+    </message>
+    <message>
+        <source>Rename...</source>
+        <translation>Umbenennen...</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Import...</source>
+        <translation>Importieren...</translation>
+    </message>
+    <message>
+        <source>Export...</source>
+        <translation>Exportieren...</translation>
+    </message>
+    <message>
+        <source>Save, rename, remove, import and export layouts</source>
+        <translation>Layouts speichern, umbenennen, entfernen, importieren und exportieren</translation>
+    </message>
+    <message>
+        <source>Layout menu</source>
+        <translation>Layout-Menü</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1 (geändert)</translation>
+    </message>
+    <message>
+        <source>Not in this profile: %1 and %2 more</source>
+        <translation>Nicht in diesem Profil: %1 und %2 weitere</translation>
+    </message>
+    <message>
+        <source>Not in this profile: %1</source>
+        <translation>Nicht in diesem Profil: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::LayoutController</name>
+    <message>
+        <source>There are too many layouts to add one.</source>
+        <translation>Es gibt zu viele Layouts, um noch eines hinzuzufügen.</translation>
+    </message>
+    <message>
+        <source>Save Layout</source>
+        <translation>Layout speichern</translation>
+    </message>
+    <message>
+        <source>Rename Layout</source>
+        <translation>Layout umbenennen</translation>
+    </message>
+    <message>
+        <source>Remove the layout &quot;%1&quot; ?</source>
+        <translation>Das Layout „%1“ entfernen?</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Import Layouts</source>
+        <translation>Layouts importieren</translation>
+    </message>
+    <message>
+        <source>Layout Files (*.xml)</source>
+        <translation>Layoutdateien (*.xml)</translation>
+    </message>
+    <message>
+        <source>%1 holds no layout that could be read.</source>
+        <translation>%1 enthält kein lesbares Layout.</translation>
+    </message>
+    <message>
+        <source>Export Layout</source>
+        <translation>Layout exportieren</translation>
+    </message>
+    <message>
+        <source>The layout could not be written:
+%1</source>
+        <translation>Das Layout konnte nicht geschrieben werden:
+%1</translation>
+    </message>
+    <message>
+        <source>A layout needs a name.</source>
+        <translation>Ein Layout braucht einen Namen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a layout of the profile. Choose another name for yours.</source>
+        <translation>„%1“ ist ein Layout des Profils. Wählen Sie für Ihres einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>There is a layout &quot;%1&quot; already.</source>
+        <translation>Es gibt schon ein Layout „%1“.</translation>
+    </message>
+    <message>
+        <source>Name of the layout:</source>
+        <translation>Name des Layouts:</translation>
+    </message>
+    <message>
+        <source>Replace the layout &quot;%1&quot; ?</source>
+        <translation>Das Layout „%1“ ersetzen?</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>ZARN Warning</source>
+        <translation>ZARN Warnung</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::MainToolBar</name>
+    <message>
+        <source>Main Toolbar</source>
+        <translation>Hauptwerkzeugleiste</translation>
+    </message>
+    <message>
+        <source>Profile: what the recorded bytes mean</source>
+        <translation>Profil: was die aufgezeichneten Bytes bedeuten</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>Units of all displays</source>
+        <translation>Einheiten aller Anzeigen</translation>
+    </message>
+    <message>
+        <source>Units</source>
+        <translation>Einheiten</translation>
+    </message>
+    <message>
+        <source>Metric</source>
+        <translation>Metrisch</translation>
+    </message>
+    <message>
+        <source>Imperial</source>
+        <translation>Imperial</translation>
     </message>
 </context>
 <context>
@@ -2118,10 +2610,6 @@ Ersetzen ?</translation>
         <translation>Uhr nicht gestellt</translation>
     </message>
     <message>
-        <source>on the ground</source>
-        <translation>am Boden</translation>
-    </message>
-    <message>
         <source>1 flight</source>
         <translation>1 Flug</translation>
     </message>
@@ -2156,6 +2644,10 @@ Ersetzen ?</translation>
     <message>
         <source>Not counted: %1.</source>
         <translation>Nicht gezählt: %1.</translation>
+    </message>
+    <message>
+        <source>no flight found</source>
+        <translation>kein Flug gefunden</translation>
     </message>
 </context>
 <context>
@@ -2340,6 +2832,21 @@ Kreuzen Sie im Profilfeld einen Parameter an oder wählen Sie einen anderen Zykl
     </message>
 </context>
 <context>
+    <name>ZARN::ReportFileDialog</name>
+    <message>
+        <source>PDF Files (*.pdf)</source>
+        <translation>PDF-Dateien (*.pdf)</translation>
+    </message>
+    <message>
+        <source>HTML Files (*.html *.htm)</source>
+        <translation>HTML-Dateien (*.html *.htm)</translation>
+    </message>
+    <message>
+        <source>Report about:</source>
+        <translation>Bericht über:</translation>
+    </message>
+</context>
+<context>
     <name>ZARN::ReviewText</name>
     <message>
         <source>within limits</source>
@@ -2438,6 +2945,10 @@ Kreuzen Sie im Profilfeld einen Parameter an oder wählen Sie einen anderen Zykl
     <message>
         <source>Normal</source>
         <translation>Normal</translation>
+    </message>
+    <message>
+        <source>Computed: %1</source>
+        <translation>Berechnet: %1</translation>
     </message>
 </context>
 <context>

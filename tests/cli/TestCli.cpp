@@ -144,6 +144,9 @@ void TestCli::failures_data()
     row("no card to sum up", {"summary", "--profile", "Profile.xml"}, 2, "CARD");
     row("list that is missing", {"summary", "--from-file", "no list", "--profile", "Profile.xml"}, 1, "no list: No such file");
     row("list that is a folder", {"summary", "--from-file", "empty", "--profile", "Profile.xml"}, 1, "empty: Is a directory");
+    row("store on standard output", {"scan", "CARD", "-o", "-"}, 2, "-o");
+    row("store in place of a record file", {"scan", "CARD", "-o", "LOG.CAN"}, 1, "LOG.CAN: called like a record file");
+    row("samples of no dataset", {"scan", "CARD", "-o", "store", "--samples", "all"}, 2, "--samples");
     row("missing card to sum up", {"summary", "nowhere", "--profile", "Profile.xml", "--json"}, 1, "nowhere: no such folder");
     row("record file of the card as target", {"csv", "CARD", "-o", "link to a recording"}, 1, "link to a recording: a record file of the card");
     row("other root", {"profile", "other.xml"}, 1, "other.xml: Line 1, column 1: It is no profile");

@@ -15,7 +15,7 @@ import unittest
 import xml.etree.ElementTree as ElementTree
 
 LUPDATE, ROOT = sys.argv[1:3]
-FOLDERS = ['analysis', 'app', 'card', 'profile', 'ui', 'export', 'report', 'openstreet']
+FOLDERS = ['analysis', 'app', 'card', 'profile', 'ui', 'export', 'report', 'openstreet', 'store']
 MARK = re.compile(r'%(?:\d|n)|\(\*[^)]*\)|</?\w+')
 
 

@@ -46,7 +46,6 @@ DialogDataTable::DialogDataTable(const Session& session, QWidget* pParent)
     mpViews->addWidget(mpView);
     mpViews->addWidget(mpLiveView);
     mpHint->setObjectName("quiet");
-    mpHint->setText(tr("No parameters are shown. Tick the ones to see in the profile panel."));
     mpHint->setAlignment(Qt::AlignCenter);
     mpHint->setWordWrap(true);
     pLayout->addWidget(mpHint);
@@ -105,6 +104,8 @@ void DialogDataTable::updateColumns()
     mpLive->updateParameters();
     mpViews->setCurrentIndex(live ? 1 : 0);
     setFocusProxy(live ? static_cast<QAbstractItemView*>(mpLiveView) : mpView);
+    mpHint->setText(live ? tr("No parameters are shown: none is ticked in the current project.")
+                         : tr("No parameters are shown. Tick the ones to see in the profile panel."));
     mpHint->setVisible(mpModel->parameters().empty());
     mWidened = false;
     sizeColumns();

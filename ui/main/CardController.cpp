@@ -70,9 +70,13 @@ void CardController::slotFinished()
         Q_EMIT signalCancelled();
     else if (!mTask.error().isEmpty()) {
         mDecodedBy = mJobDecoding; // or it would be tried for ever
+        Q_EMIT signalCancelled();
         warn(tr("Not everything could be loaded:\n%1").arg(mTask.error()));
-    } else
+    } else {
+        if (!mIsDone)
+            Q_EMIT signalCancelled(); // nor of the load whose place it took
         job.finish(mIsDone);
+    }
     if (mTask.isRunning())
         return;
     mpDraft.reset();

@@ -61,7 +61,7 @@ Q_SIGNALS:
     void signalDataChanged();
     /// What was loaded is the same; what is worked out of it may be not.
     void signalRecalculated();
-    /// The user has cancelled a load.
+    /// Nothing came of what was begun, by the user's will or not: what was loaded is the same.
     void signalCancelled();
     /// All that was asked for is done.
     void signalIdle();

@@ -23,6 +23,7 @@ struct Licence {
 constexpr Licence kLicences[] = {
     {"ZARN", "zarn"},       {"Qt (LGPL 3)", "lgpl-3"}, {"GPL 3", "gpl-3"}, {"GeographicLib", "geographiclib"},
     {"CLI11", "cli11"},     {"FreeType", "freetype"},  {"Lucide", "icons"}, {"B612 Mono", "fonts"}, {"Natural Earth", "base-map"},
+    {"SQLite, Thrift, Boost, Zstandard", "store"},
 };
 
 constexpr int kPictureSize = 48;

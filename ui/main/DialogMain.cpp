@@ -9,6 +9,7 @@
 #include "app/gui/ImageHandler.h"
 #include "app/gui/Kernel.h"
 #include "card/CardContainer.h"
+#include "card/CardProblem.h"
 #include "card/record/RecordData.h"
 #include "card/record/RecordFormats.h"
 #include "profile/ui/DialogProfile.h"
@@ -47,6 +48,8 @@
 #include <QStatusBar>
 #include <QToolBar>
 #include <QToolButton>
+
+#include <algorithm>
 
 namespace ZARN {
 
@@ -506,7 +509,8 @@ void DialogMain::slotDataChanged()
         listFlights(); // a choice of one of them leaves them
     showProblems();
     updateExports();
-    mpPanels->welcome().setState(WidgetWelcome::eEmpty); // seen when there are no data
+    const bool isUnread = std::ranges::any_of(mSession.container.loadProblems(), &CardProblem::isSystemError);
+    mpPanels->welcome().setState(isUnread ? WidgetWelcome::eUnread : WidgetWelcome::eEmpty); // seen when there are no data
     mpPanels->showData(mEmu || mpCardController->hasData());
 }
 

@@ -36,17 +36,12 @@ OpenStreet::TileServer tileServer(const Property& property)
     return OpenStreet::TileServer(Settings::kTileServer.text(property));
 }
 
-QString localeOf(const Property& property)
-{
-    return Settings::kLocale.text(property);
-}
-
 } // namespace
 
 DialogPreferences::DialogPreferences(const Session& session, Kernel& kernel, QWidget* pParent)
-    : QDialog(pParent), mSession(session), mKernel(kernel), mLocale(localeOf(session.property)), mpList(new QListWidget),
-      mpPages(new QStackedWidget), mpLanguage(new QComboBox), mpFontSize(new QSpinBox), mpTiles(new QCheckBox(tr("Load map tiles from the network"))),
-      mpTileServer(new QLabel)
+    : QDialog(pParent), mSession(session), mKernel(kernel), mLocale(Settings::kLocale.text(session.property)), mpList(new QListWidget),
+      mpPages(new QStackedWidget), mpLanguage(new QComboBox), mpFontSize(new QSpinBox),
+      mpTiles(new QCheckBox(tr("Load map tiles from the network"))), mpTileServer(new QLabel)
 {
     setWindowTitle(tr("Preferences"));
     mpList->setIconSize(QSize(16, 16));
@@ -141,7 +136,7 @@ void DialogPreferences::addPage(const QString& name, const QString& icon, QWidge
 
 void DialogPreferences::fillDialog()
 {
-    mpLanguage->setCurrentIndex(mpLanguage->findData(localeOf(mSession.property)));
+    mpLanguage->setCurrentIndex(mpLanguage->findData(Settings::kLocale.text(mSession.property)));
     const QSignalBlocker blocker(mpFontSize);
     mpFontSize->setValue(Settings::kFontSize.get(mSession.property));
     fillTiles();
@@ -177,14 +172,15 @@ void DialogPreferences::slotTiles(bool isAllowed)
 
 void DialogPreferences::slotLanguage(const QString& locale)
 {
-    if (locale == localeOf(mSession.property))
+    if (locale == Settings::kLocale.text(mSession.property))
         return;
     Settings::kLocale.set(mSession.property, locale);
     mSession.property.writeXmlFile();
     Q_EMIT signalLanguageChanged();
     if (locale == mLocale)
         return; // taken back before any restart
-    QMessageBox box(QMessageBox::Information, tr("ZARN Info"), tr("Please restart ZARN to load new language !"), QMessageBox::NoButton, this);
+    QMessageBox box(QMessageBox::Information, tr("ZARN Info"), tr("Please restart ZARN to load new language !"), QMessageBox::NoButton,
+                    this);
     const QPushButton* pNow = box.addButton(tr("Restart now"), QMessageBox::AcceptRole);
     box.addButton(tr("Restart later: changes will not applied until next restart"), QMessageBox::RejectRole);
     box.exec();

@@ -69,10 +69,12 @@ void LayoutBar::setLayouts(const std::vector<Entry>& entries)
 {
     mEntries = entries;
     mpLayouts->clear();
+    const Entry* pBefore = nullptr;
     for (const Entry& entry : mEntries) {
-        if (entry.isOwn && mpLayouts->count() > 0 && !mEntries[static_cast<std::size_t>(mpLayouts->count() - 1)].isOwn)
+        if (pBefore && entry.isOwn != pBefore->isOwn)
             mpLayouts->insertSeparator(mpLayouts->count());
         mpLayouts->addItem(entry.text, entry.name);
+        pBefore = &entry;
     }
     showState();
 }
@@ -110,7 +112,7 @@ void LayoutBar::showMissing()
     const QStringList& names = mState.missing;
     QString text;
     if (names.size() > kNamesShown)
-        text = tr("Not in this profile: %1 and %2 more").arg(names.mid(0, kNamesShown).join(", ")).arg(names.size() - kNamesShown);
+        text = tr("Not in this profile: %1 and %2 more").arg(names.mid(0, kNamesShown).join(", "), QString::number(names.size() - kNamesShown));
     else if (!names.isEmpty())
         text = tr("Not in this profile: %1").arg(names.join(", "));
     mpMissing->setText(text);

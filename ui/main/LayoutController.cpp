@@ -62,7 +62,7 @@ void LayoutController::restore(bool isFirst)
         if (isFirst)
             tick(*pLayout);
         mData.setLayout(*pLayout);
-        setCurrent(pLayout->name);
+        mSession.property.setString(kChosen, pLayout->name.toStdString()); // written with the first thing that the user does
     }
     update();
 }
@@ -225,7 +225,7 @@ QString LayoutController::refusal(const QString& name, bool replaces) const
 {
     if (name.isEmpty())
         return tr("A layout needs a name.");
-    if (mStore.isShipped(name))
+    if (mStore.isShippedText(name))
         return tr("\"%1\" is a layout of the profile. Choose another name for yours.").arg(name);
     if (!replaces && mStore.find(name) && name != current())
         return tr("There is a layout \"%1\" already.").arg(name);

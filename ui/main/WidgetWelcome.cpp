@@ -119,13 +119,15 @@ void WidgetWelcome::setProblem(const QString& problem)
 
 void WidgetWelcome::setState(EState state)
 {
-    const QString headings[] = {tr("No card is open"), tr("Choose a power cycle"), tr("No records")};
+    const QString headings[] = {tr("No card is open"), tr("Choose a power cycle"), tr("No records"), tr("Not read")};
     const QString texts[] = {tr("Open the folder of a memory card, or drop it here. Without a card at hand the demo card shows "
                                 "an hour with two tows."),
                              tr("The list on the left holds the power cycles of the card. Click one to load it; "
                                 "its flights then appear below it."),
                              tr("What was chosen in the list on the left is empty: the unit was switched on, but recorded nothing. "
-                                "Choose another entry.")};
+                                "Choose another entry."),
+                             tr("What was chosen in the list on the left could not be read; above stands why. "
+                                "If the card was taken out, put it in again and choose anew.")};
     mpHeading->setText(headings[state]);
     mpText->setText(texts[state]);
     giveRoom();

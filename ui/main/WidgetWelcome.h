@@ -13,7 +13,8 @@ class WidgetWelcome : public QFrame {
     Q_OBJECT
 
 public:
-    enum EState { eNoCard, eChoose, eEmpty }; ///< a card is to be opened, something of it to be chosen; what was chosen is empty
+    /// A card is to be opened, something of it to be chosen; what was chosen is empty, or could not be read.
+    enum EState { eNoCard, eChoose, eEmpty, eUnread };
 
     explicit WidgetWelcome(QWidget* pParent = nullptr);
 

@@ -4,6 +4,7 @@
 #include "card/CardContainer.h"
 #include "profile/Profile.h"
 #include "ui/overview/WidgetCycleCard.h"
+#include "ui/overview/model/OverviewTexts.h"
 
 #include <QKeyEvent>
 #include <QLabel>
@@ -72,7 +73,7 @@ void DialogOverview::reset()
 
 void DialogOverview::begin()
 {
-    mpCardText->setText(cardText());
+    mpCardText->setText(OverviewTexts::breakable(cardText()));
     const bool isEmpty = mSession.container.recordCycles().empty();
     mpEmpty->setText(isEmpty ? tr("This card holds no power cycle.") : QString());
     mpEmpty->setVisible(isEmpty);

@@ -29,6 +29,7 @@ QLabel* makeLabel(QLabel* pLabel, const QString& name)
 {
     pLabel->setObjectName(name);
     pLabel->setTextFormat(Qt::PlainText);
+    pLabel->setText(OverviewTexts::breakable(pLabel->text()));
     pLabel->setWordWrap(true);
     return pLabel;
 }

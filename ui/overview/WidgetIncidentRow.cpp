@@ -1,6 +1,7 @@
 #include "ui/overview/WidgetIncidentRow.h"
 
 #include "ui/overview/VerdictMark.h"
+#include "ui/overview/model/OverviewTexts.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -17,7 +18,7 @@ constexpr int kRadius = 5;
 
 QLabel* makeLabel(const QString& text, const char* name)
 {
-    auto* pLabel = new QLabel(text);
+    auto* pLabel = new QLabel(OverviewTexts::breakable(text));
     pLabel->setObjectName(name);
     pLabel->setTextFormat(Qt::PlainText); // names of a profile
     pLabel->setWordWrap(true);

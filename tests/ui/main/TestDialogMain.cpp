@@ -177,14 +177,20 @@ void TestDialogMain::refusedFolder()
     pTree->setCurrentItem(pTree->topLevelItem(0)->child(0));
     for (const bool chosen : {false, true}) {
         Answer answer(Answer::close);
-        if (chosen)
+        if (chosen) {
+            QTRY_COMPARE(desktop.container.loadedCycleNumber(), 1U); // chosen above
+            settled(window);
+            window.slotLoadCycle(2, -1);
+            settled(window);
             window.openFolder(home() + "/<b>gone</b>");
-        else
+        } else
             window.action(eActionOpenFolder)->trigger();
         settled(window);
         QCOMPARE(answer.title, chosen ? QString("ZARN Warning") : QString("Open SD Card"));
         QCOMPARE(answer.text, chosen ? "The folder " + home() + "/<b>gone</b> is not there, or cannot be read." : QString());
         QVERIFY(isShown<DialogData>(window) && !pTree->selectedItems().isEmpty());
+        if (chosen) // not the choice that the folder cut short
+            QCOMPARE(pTree->selectedItems().front()->data(0, DialogCard::eCycleRole).toUInt(), desktop.container.loadedCycleNumber().value());
         QCOMPARE(window.windowTitle(), QString("ZARN SD/Card"));
         QVERIFY(window.action(eActionExportCsv)->isEnabled());
     }
@@ -239,7 +245,12 @@ void TestDialogMain::emptyCycle()
     window.slotLoadCycle(desktop.container.recordCycles().begin()->first, -1);
     settled(window);
     QVERIFY(isShown<WidgetWelcome>(window));
-    QCOMPARE(window.findChild<WidgetWelcome*>()->findChild<QLabel*>("heading")->text(), QString("No records"));
+    const auto* pHeading = window.findChild<WidgetWelcome*>()->findChild<QLabel*>("heading");
+    QCOMPARE(pHeading->text(), QString("No records"));
+    QVERIFY(QFile::remove(home() + "/card/1.CAN"));
+    window.slotLoadCycle(desktop.container.recordCycles().begin()->first, -1);
+    settled(window);
+    QCOMPARE(pHeading->text(), QString("Not read")); // nothing tells that it is empty
     QVERIFY(!window.action(eActionExportCsv)->isEnabled());
 }
 
@@ -514,19 +525,19 @@ void TestDialogMain::failedExport()
 void TestDialogMain::report_data()
 {
     QTest::addColumn<bool>("fromGraph"); // or from the tow statistic
-    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("file");
     QTest::addColumn<int>("flight"); // 0: all of them
     QTest::addColumn<QByteArray>("written"); // with that it begins, or holds it; without, it cannot be written
-    QTest::newRow("graph") << true << home() + "/report.pdf" << 1 << QByteArray("%PDF-");
-    QTest::newRow("other flight as HTML") << false << home() + "/report.html" << 2 << QByteArray(", power cycle 2, flight 2, ");
-    QTest::newRow("all flights") << false << home() + "/all.htm" << 0 << QByteArray(", power cycle 2, profile ");
+    QTest::newRow("graph") << true << QString("report.pdf") << 1 << QByteArray("%PDF-");
+    QTest::newRow("other flight as HTML") << false << QString("report.html") << 2 << QByteArray(", power cycle 2, flight 2, ");
+    QTest::newRow("all flights") << false << QString("all.htm") << 0 << QByteArray(", power cycle 2, profile ");
     QTest::newRow("unwritable") << true << QString("/proc/report.pdf") << 1 << QByteArray(); // where nobody can make a file
 }
 
 void TestDialogMain::report()
 {
     QFETCH(bool, fromGraph);
-    QFETCH(QString, path);
+    QFETCH(QString, file);
     QFETCH(int, flight);
     QFETCH(QByteArray, written);
     DesktopFixture desktop(home(), {card().toStdString()});
@@ -534,6 +545,7 @@ void TestDialogMain::report()
     started(window);
     window.slotLoadCycle(2, 0);
     settled(window);
+    const QString path = QDir(home()).filePath(file);
     std::optional<Answer> told;
     Answer choose([&](QWidget* pModal) {
         auto* pPart = pModal->findChild<QComboBox*>("part");

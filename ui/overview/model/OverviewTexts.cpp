@@ -111,6 +111,23 @@ QString OverviewTexts::basis(const CycleOverview& cycle)
     return lines.join(' ');
 }
 
+QString OverviewTexts::breakable(const QString& text)
+{
+    constexpr int longest = 24; // characters
+    constexpr QChar zeroWidthSpace(0x200b);
+    QString out;
+    int length = 0;
+    for (const QChar character : text) {
+        if (length >= longest && !character.isLowSurrogate() && !character.isMark()) {
+            out += zeroWidthSpace;
+            length = 0;
+        }
+        length = character.isSpace() ? 0 : length + 1;
+        out += character;
+    }
+    return out;
+}
+
 QString OverviewTexts::plain(const CycleOverview& cycle)
 {
     QStringList lines{origin(cycle), verdict(cycle)};

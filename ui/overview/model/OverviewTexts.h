@@ -32,6 +32,8 @@ public:
     [[nodiscard]] static QString detail(const IncidentSentence& sentence);
     /// What the verdict rests on, what could not be told, and what stood outside while the engine did not run.
     [[nodiscard]] static QString basis(const CycleOverview& cycle);
+    /// The text with places where a line may end in words that no line has room for.
+    [[nodiscard]] static QString breakable(const QString& text);
     /// All of it as text, for other programs.
     [[nodiscard]] static QString plain(const CycleOverview& cycle);
 
