@@ -12,6 +12,7 @@ namespace ZARN {
 namespace {
 
 constexpr const char* kMadeBy = "zarn.made_by";    // the note that tells by what a cycle was worked out
+constexpr const char* kSamples = "zarn.samples";   // that of the samples that are kept
 constexpr const char* kProblems = "zarn.problems"; // and that of what was found wrong with it
 constexpr const char* kSamplesFolder = "samples";
 
@@ -113,16 +114,18 @@ std::string ParquetDataset::cyclePath(const std::string& table, const CycleHead&
 
 ParquetFile::Notes ParquetDataset::notes(const std::vector<CardProblem>& problems) const
 {
-    return {{kMadeBy, std::to_string(AnalysisKey::kVersion) + " " + mKey.profileHash + " " + mSamples + " " + storeText(mKey.variant)},
+    return {{kMadeBy, std::to_string(AnalysisKey::kVersion) + " " + mKey.profileHash + " " + storeText(mKey.variant)},
+            {kSamples, mSamples},
             {kProblems, textOf(problems)}};
 }
 
 bool ParquetDataset::hasCycle(const CycleHead& cycle, std::vector<CardProblem>& told)
 {
-    const ParquetFile::Notes kept = ParquetFile::notesOf(cyclePath(storeTable(eCycleTable).folder, cycle, cycle.dateTime));
-    if (!kept.contains(kMadeBy) || !kept.contains(kProblems) || kept.at(kMadeBy) != notes({}).at(kMadeBy))
+    ParquetFile::Notes kept = ParquetFile::notesOf(cyclePath(storeTable(eCycleTable).folder, cycle, cycle.dateTime));
+    const bool hasSamples = mSamples == kept[kSamples] || samplesOf(mSamples) == EParquetSamples::eNone;
+    if (!hasSamples || kept[kMadeBy] != notes({}).at(kMadeBy))
         return false;
-    told = problemsIn(kept.at(kProblems));
+    told = problemsIn(kept[kProblems]);
     return true;
 }
 
@@ -134,12 +137,13 @@ std::string ParquetDataset::takeLoaded(const CardListing& card, const CycleFacts
     const ParquetFile::Notes made = notes(cycle.problems);
     std::string problem;
     const EParquetSamples samples = samplesOf(mSamples);
-    if (samples != EParquetSamples::eNone) {
-        const std::string file = cyclePath(kSamplesFolder, head, head.dateTime);
-        problem = makeFolderOf(file);
-        if (problem.empty())
-            problem = ParquetSamples(values, samples).write(file, made);
-    }
+    const std::string sampleFile = cyclePath(kSamplesFolder, head, head.dateTime);
+    if (samples == EParquetSamples::eNone)
+        ::unlink(sampleFile.c_str()); // those of another profile
+    else
+        problem = makeFolderOf(sampleFile);
+    if (samples != EParquetSamples::eNone && problem.empty())
+        problem = ParquetSamples(values, samples).write(sampleFile, made);
     for (int table = eStoreTables - 1; table >= eCycleTable && problem.empty(); --table) {
         const StoreTable& form = storeTable(static_cast<EStoreTable>(table));
         const std::string file = cyclePath(form.folder, head, head.dateTime);
