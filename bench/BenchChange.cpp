@@ -1,20 +1,7 @@
-#include "app/Console.h"
-#include "app/Progress.h"
-#include "app/Property.h"
-#include "bench/BenchApplication.h"
-#include "card/CardContainer.h"
-#include "profile/Profile.h"
-#include "project/Project.h"
-#include "project/RecordSession.h"
-#include "sim/DemoCard.h"
+#include "bench/BenchWindow.h"
 #include "ui/data/DataTabBar.h"
-#include "ui/data/DialogData.h"
 
 #include <benchmark/benchmark.h>
-
-#include <QTemporaryDir>
-
-#include <memory>
 
 namespace ZARN {
 
@@ -22,52 +9,18 @@ namespace {
 
 constexpr double kHours = 3.0;
 constexpr unsigned kLongestCycle = 4; // of a demo card of three hours
-constexpr std::size_t kShownParameters = 16;
 const char* const kVariants[] = {"915 A", "916 A"};
 
-/// The data area of the program over the demo card, with one of its views in front.
-struct ChangeWindow {
-    explicit ChangeWindow(EDataView front)
-        : profile(console), container(console, profile, nullProgress()), property(console), project(console, profile), record(container)
+/// With one of the views in front.
+struct ChangeWindow : BenchWindow {
+    explicit ChangeWindow(EDataView front) : BenchWindow(kHours, kLongestCycle, kVariants[0])
     {
-        loadProfile(0);
-        std::size_t shown = 0;
-        for (const ProfileDevice& device : profile.data()) {
-            for (const ProfileParameter& parameter : device.parameters) {
-                if (shown < kShownParameters && ++shown > 0)
-                    profile.setSelected(parameter.name, true);
-            }
-        }
-        DemoCardOptions options;
-        options.hours = kHours;
-        std::string error;
-        DemoCard().write((folder.path() + "/card").toStdString(), options, error);
-        container.readContainer(folder.path() + "/card");
-        container.loadCycle(kLongestCycle, -1);
-        views = DataViewList::create({console, property, profile, container, project}, folder.path());
-        pArea = std::make_unique<DialogData>(record, views, false);
-        pArea->resize(1500, 900);
-        pArea->show();
         pArea->findChild<DataTabBar*>()->setCurrentIndex(front);
         record.setRecord();
         settle();
     }
-    void loadProfile(int variant)
-    {
-        profile.loadProfile(QString(ZARN_SOURCE_DIR "/resources/profiles/915/Profile.xml"), kVariants[variant]);
-    }
     /// Until all is painted.
     static void settle() { QApplication::processEvents(); }
-
-    QTemporaryDir folder;
-    Console console{[](std::string_view) {}, [](std::string_view) {}};
-    Profile profile;
-    CardContainer container;
-    Property property;
-    Project project;
-    RecordSession record;
-    DataViewList views;
-    std::unique_ptr<DialogData> pArea;
 };
 
 EDataView frontOf(const benchmark::State& state)
@@ -120,7 +73,7 @@ void changeVariant(benchmark::State& state)
     int variant = 0;
     for (auto _ : state) {
         state.PauseTiming();
-        window.loadProfile(variant = 1 - variant);
+        window.loadProfile(kVariants[variant = 1 - variant]);
         state.ResumeTiming();
         window.record.changeProfile();
         settleWithFlights(window, state);

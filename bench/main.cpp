@@ -32,7 +32,8 @@ constexpr Ratio kRatios[] = {
     {"graph frame 30 x 1 M / plotting library", "graph/frame/1000000/1/process_time", "graph/library/1000000/1/process_time", 0.2},
     {"graph frame 30 x 1 M, 60 s / library", "graph/frame/1000000/0/process_time", "graph/library/1000000/0/process_time", 0.2},
     {"graph frame 30 x 10 M / plotting library", "graph/frame/10000000/1/process_time", "graph/library/10000000/1/process_time", 0.05},
-    {"overview of the demo card / reading and reviewing it", "overview/open/process_time/real_time", "overview/facts/process_time/real_time", 2.0},
+    {"overview of the demo card / reading and reviewing it", "overview/open/process_time/real_time",
+     "overview/facts/process_time/real_time", 2.0},
     {"map frame with a path of 200,000 points / without", "map/frame/1", "map/frame/0", 2.0},
 };
 

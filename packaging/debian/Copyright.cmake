@@ -6,7 +6,7 @@ set(refers_gpl-3 "the GNU General Public License, version 3, which the LGPL supp
 set(title_lgpl-3 "Qt: linked, and its German texts in share/zarn/qt_de.qm. Copyright (c) The Qt Company Ltd and contributors. Used under\n${refers_lgpl-3}")
 set(title_gpl-3 "Of the same:\n${refers_gpl-3}")
 set(title_cli11 "CLI11: part of zarn-cli")
-set(title_geographiclib "GeographicLib: linked, or part of the programs")
+set(title_muparser "muParser: linked")
 set(title_freetype "FreeType: linked. Used under its own licence, the first of the two that it offers")
 set(title_icons "The icons in the windows")
 set(title_store "The store of many cards: SQLite and Zstandard, linked; Apache Thrift, the interface definition of Parquet and headers of Boost, part of zarn-cli")

@@ -31,7 +31,7 @@ constexpr int kLeastName = 11; // in sizes of the font
 
 } // namespace
 
-DialogProfile::DialogProfile(const Session& session, QWidget* pParent)
+DialogProfile::DialogProfile(const Session& session, QWidget* pHead, QWidget* pParent)
     : QWidget(pParent), mSession(session), mpModel(new ProfileTreeModel(session.profile, this)),
       mpFilter(new ProfileFilterModel(*mpModel, this)), mpSearch(new QLineEdit), mpOnlyRecorded(new QCheckBox(tr("Only recorded"))),
       mpTree(new QTreeView), mpCount(new QLabel)
@@ -50,6 +50,8 @@ DialogProfile::DialogProfile(const Session& session, QWidget* pParent)
 
     auto* pLayout = new QVBoxLayout(this);
     pLayout->setContentsMargins(0, 0, 0, 0);
+    if (pHead)
+        pLayout->addWidget(pHead);
     pLayout->addWidget(mpSearch);
     pLayout->addWidget(mpOnlyRecorded);
     pLayout->addWidget(mpTree);
@@ -72,12 +74,6 @@ DialogProfile::DialogProfile(const Session& session, QWidget* pParent)
     slotCount();
     slotFilter({});
     slotCurrentChanged();
-}
-
-void DialogProfile::setHead(QWidget* pHead)
-{
-    static_cast<QVBoxLayout*>(layout())->insertWidget(0, pHead);
-    setTabOrder(pHead, mpSearch);
 }
 
 void DialogProfile::createTree()

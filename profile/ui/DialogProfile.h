@@ -26,7 +26,8 @@ class DialogProfile : public QWidget {
     Q_OBJECT
 
 public:
-    explicit DialogProfile(const Session& session, QWidget* pParent = nullptr);
+    /// @param pHead what stands above everything; owned from then on
+    explicit DialogProfile(const Session& session, QWidget* pHead = nullptr, QWidget* pParent = nullptr);
 
     /// Shows the profile as it is now: after it was loaded, after a project was read, after a change of units. Emits nothing.
     void updateProfile();
@@ -36,8 +37,6 @@ public:
     void updateProject();
     /// Which parameters the loaded data hold samples of, by identifier; none while nothing is loaded.
     void setRecorded(std::optional<std::set<uint32_t>> identifiers);
-    /// Puts a widget above everything; owns it from then on.
-    void setHead(QWidget* pHead);
 
 Q_SIGNALS:
     /// The user changed which parameters are shown.

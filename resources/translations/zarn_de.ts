@@ -270,6 +270,28 @@ Die Einstellungen bleiben erhalten.</translation>
     </message>
 </context>
 <context>
+    <name>ZARN::CardFinder</name>
+    <message>
+        <source>the folder holds no record file (%1)</source>
+        <translation>der Ordner enthält keine Aufzeichnungsdatei (%1)</translation>
+    </message>
+    <message>
+        <source>no such folder</source>
+        <translation>kein solcher Ordner</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::CardReader</name>
+    <message>
+        <source>the folder cannot be listed</source>
+        <translation>der Ordner kann nicht aufgelistet werden</translation>
+    </message>
+    <message>
+        <source>it changed while it was read</source>
+        <translation>der Inhalt hat sich beim Lesen geändert</translation>
+    </message>
+</context>
+<context>
     <name>ZARN::CardTree</name>
     <message>
         <source>Unknown Date</source>
@@ -348,6 +370,33 @@ Die Einstellungen bleiben erhalten.</translation>
     <message>
         <source>Time since the unit&apos;s power-up</source>
         <translation>Zeit seit dem Einschalten des Geräts</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::Database</name>
+    <message>
+        <source>it is no file</source>
+        <translation>es ist keine Datei</translation>
+    </message>
+    <message>
+        <source>it cannot be written, only read</source>
+        <translation>sie kann nicht geschrieben werden, nur gelesen</translation>
+    </message>
+    <message>
+        <source>it is no store: not an SQLite file</source>
+        <translation>kein Datenspeicher: keine SQLite-Datei</translation>
+    </message>
+    <message>
+        <source>the store is damaged</source>
+        <translation>der Datenspeicher ist beschädigt</translation>
+    </message>
+    <message>
+        <source>another program is writing to the store</source>
+        <translation>ein anderes Programm schreibt in den Datenspeicher</translation>
+    </message>
+    <message>
+        <source>the disk is full</source>
+        <translation>der Datenträger ist voll</translation>
     </message>
 </context>
 <context>
@@ -604,6 +653,10 @@ Die Einstellungen bleiben erhalten.</translation>
     <message>
         <source>Newest values</source>
         <translation>Neueste Werte</translation>
+    </message>
+    <message>
+        <source>No parameters are shown: none is ticked in the current project.</source>
+        <translation>Es werden keine Parameter gezeigt: Im aktuellen Projekt ist keiner angekreuzt.</translation>
     </message>
 </context>
 <context>
@@ -1928,22 +1981,12 @@ Ersetzen ?</translation>
         <translation>Variante %1</translation>
     </message>
     <message>
-        <source>en</source>
-        <comment>code of the language of these texts</comment>
-        <translation>de</translation>
-    </message>
-    <message>
         <source>Over time: %1</source>
         <translation>Über der Zeit: %1</translation>
     </message>
     <message>
         <source>Map of the flight path</source>
         <translation>Karte des Flugwegs</translation>
-    </message>
-    <message>
-        <source>%1 of %2</source>
-        <comment>page number</comment>
-        <translation>%1 von %2</translation>
     </message>
     <message>
         <source>flights</source>
@@ -1957,23 +2000,34 @@ Ersetzen ?</translation>
         <source>What happened</source>
         <translation>Was geschah</translation>
     </message>
-    <message numerus="yes">
-        <source>The first %n are shown as graphs.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n more of this power cycle outside of the flight.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-        </translation>
-    </message>
     <message>
         <source>Not told here: %1 more incidents, %2 of them beyond a limit, %3 warnings. The first %4 are shown as graphs.</source>
         <translation>Hier nicht aufgeführt: %1 weitere Vorfälle, davon %2 über einem Grenzwert, %3 Warnungen. Die ersten %4 sind als Graphen gezeigt.</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <extracomment>code of the language that this is translated to</extracomment>
+        <translation>de</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <extracomment>number of a page, and how many there are</extracomment>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>The first %1 are shown as graphs.</source>
+        <translation>Die ersten %1 sind als Graphen gezeigt.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Outside of the flight: %n more in this power cycle.</source>
+        <translation>
+            <numerusform>Außerhalb des Fluges: noch %n in diesem Einschaltzyklus.</numerusform>
+            <numerusform>Außerhalb des Fluges: noch %n in diesem Einschaltzyklus.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>All of them, those too which the verdict does not count: of starting, stopping and lane checks.</source>
+        <translation>Alle, auch die, die für das Ergebnis nicht zählen: vom Anlassen, Abstellen und Prüfen der Lanes.</translation>
     </message>
 </context>
 <context>
@@ -2200,20 +2254,24 @@ Ersetzen ?</translation>
         <source>not shown: %1</source>
         <translation>nicht gezeigt: %1</translation>
     </message>
-    <message>
-        <source>least %1, limit %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>peak %1, limit %2</source>
-        <translation type="unfinished"></translation>
-    </message>
     <message numerus="yes">
         <source>not shown: %n more</source>
         <translation>
             <numerusform>nicht gezeigt: %n weiterer</numerusform>
             <numerusform>nicht gezeigt: %n weitere</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>least %1</source>
+        <translation>tiefster %1</translation>
+    </message>
+    <message>
+        <source>peak %1</source>
+        <translation>Spitze %1</translation>
+    </message>
+    <message>
+        <source>limit %1</source>
+        <translation>Grenzwert %1</translation>
     </message>
 </context>
 <context>
@@ -2651,6 +2709,17 @@ Ersetzen ?</translation>
     </message>
 </context>
 <context>
+    <name>ZARN::ParquetDataset</name>
+    <message>
+        <source>it is no folder</source>
+        <translation>es ist kein Ordner</translation>
+    </message>
+    <message>
+        <source>it cannot be written, only read</source>
+        <translation>er kann nicht geschrieben werden, nur gelesen</translation>
+    </message>
+</context>
+<context>
     <name>ZARN::ProfileCheck</name>
     <message>
         <source>It is no profile: its first element is &lt;%1&gt;, another one than &lt;CanAerospaceProfile&gt;.</source>
@@ -2908,6 +2977,10 @@ Kreuzen Sie im Profilfeld einen Parameter an oder wählen Sie einen anderen Zykl
         <source>%1 outside while not watched: %2</source>
         <translation>%1 außerhalb, während nicht beobachtet wurde: %2</translation>
     </message>
+    <message>
+        <source>Flights are unknown, for no ground speed was recorded: all counts as on the ground.</source>
+        <translation>Flüge sind unbekannt, denn es wurde keine Geschwindigkeit über Grund aufgezeichnet: alles zählt als am Boden.</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::ShownParameter</name>
@@ -2963,6 +3036,40 @@ Kreuzen Sie im Profilfeld einen Parameter an oder wählen Sie einen anderen Zykl
     </message>
 </context>
 <context>
+    <name>ZARN::Store</name>
+    <message>
+        <source>; it was put aside as %1, and the next scan makes it anew</source>
+        <translation>; er wurde als %1 beiseitegelegt, und die nächste Aufnahme legt ihn neu an</translation>
+    </message>
+    <message>
+        <source>; rows of notes, services and readings that were kept: %1</source>
+        <translation>; erhaltene Zeilen von Notizen, Wartungen und Zählerständen: %1</translation>
+    </message>
+    <message>
+        <source>the store was removed or replaced while it was written</source>
+        <translation>der Datenspeicher wurde entfernt oder ersetzt, während er geschrieben wurde</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::StoreSchema</name>
+    <message>
+        <source>the store was written by a newer version of the program (form %1, this one knows %2)</source>
+        <translation>der Datenspeicher stammt von einer neueren Version des Programms (Form %1, diese kennt %2)</translation>
+    </message>
+    <message>
+        <source>it is no store: an SQLite file of another program</source>
+        <translation>kein Datenspeicher: eine SQLite-Datei eines anderen Programms</translation>
+    </message>
+    <message>
+        <source>the store is empty</source>
+        <translation>der Datenspeicher ist leer</translation>
+    </message>
+    <message>
+        <source>the store is of an older version: scan a card into it first</source>
+        <translation>der Datenspeicher stammt von einer älteren Version: Nehmen Sie zuerst eine Karte darin auf</translation>
+    </message>
+</context>
+<context>
     <name>ZARN::TableCopy</name>
     <message>
         <source>Copy</source>
@@ -2998,6 +3105,21 @@ Kreuzen Sie im Profilfeld einen Parameter an oder wählen Sie einen anderen Zykl
     <message>
         <source>Back to the color that the trace has by itself</source>
         <translation>Zurück zur Farbe, die die Kurve von selbst hat</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::UnusualText</name>
+    <message>
+        <source>%1 %2 %3, in the %4 flights before %5 to %6</source>
+        <translation>%1 %2 %3, in den %4 Flügen davor %5 bis %6</translation>
+    </message>
+    <message>
+        <source>%1, and drifting</source>
+        <translation>%1, und es driftet</translation>
+    </message>
+    <message>
+        <source>%1, drifting</source>
+        <translation>%1, driftet</translation>
     </message>
 </context>
 <context>
@@ -3149,6 +3271,14 @@ Ein Klick geht zu dem Zeitpunkt.</translation>
     <message>
         <source>What was chosen in the list on the left is empty: the unit was switched on, but recorded nothing. Choose another entry.</source>
         <translation>Was in der Liste links gewählt wurde, ist leer: Das Gerät war eingeschaltet, hat aber nichts aufgezeichnet. Wählen Sie einen anderen Eintrag.</translation>
+    </message>
+    <message>
+        <source>Not read</source>
+        <translation>Nicht gelesen</translation>
+    </message>
+    <message>
+        <source>What was chosen in the list on the left could not be read; above stands why. If the card was taken out, put it in again and choose anew.</source>
+        <translation>Was in der Liste links gewählt wurde, konnte nicht gelesen werden; warum, steht darüber. Wurde die Karte herausgenommen, stecken Sie sie wieder ein und wählen Sie neu.</translation>
     </message>
 </context>
 <context>

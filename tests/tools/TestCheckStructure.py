@@ -106,7 +106,7 @@ class Violations(unittest.TestCase):
             ('ui/map/A.cpp', 'void f() { functions()->glFlush (); }', 'glFlush'),
             ('card/A.cpp', 'int a = Profile::instance().id();', 'Profile::instance'),
             ('ui/main/A.cpp', 'int a = ZARN::Project::instance ( );', 'Project::instance'),
-            ('ui/main/A.cpp', 'int a = settings.getInt("Unit", 0);', 'app/Settings.h'),
+            ('ui/main/A.cpp', 'int a = mSession.property.getInt(kUnit, 0);', 'app/Settings.h'),
             ('ui/main/A.cpp', 'constexpr TextSetting k = {"Profile", ""};', 'app/Settings.h'),
         ]:
             with self.subTest(code=code):

@@ -1,8 +1,8 @@
 #include "ui/main/DialogAbout.h"
 
 #include "app/Revision.h"
-#include "app/gui/ImageHandler.h"
 #include "app/gui/Heading.h"
+#include "app/gui/ImageHandler.h"
 
 #include <QDialogButtonBox>
 #include <QFile>
@@ -21,9 +21,9 @@ struct Licence {
 };
 
 constexpr Licence kLicences[] = {
-    {"ZARN", "zarn"},       {"Qt (LGPL 3)", "lgpl-3"}, {"GPL 3", "gpl-3"}, {"GeographicLib", "geographiclib"},
-    {"CLI11", "cli11"},     {"FreeType", "freetype"},  {"Lucide", "icons"}, {"B612 Mono", "fonts"}, {"Natural Earth", "base-map"},
-    {"SQLite, Thrift, Boost, Zstandard", "store"},
+    {"ZARN", "zarn"},         {"Qt (LGPL 3)", "lgpl-3"}, {"GPL 3", "gpl-3"},     {"CLI11", "cli11"},
+    {"FreeType", "freetype"}, {"Lucide", "icons"},       {"B612 Mono", "fonts"}, {"Natural Earth", "base-map"},
+    {"muParser", "muparser"}, {"SQLite, Thrift, Boost, Zstandard", "store"},
 };
 
 constexpr int kPictureSize = 48;
@@ -55,9 +55,9 @@ QWidget* DialogAbout::createHead() const
     auto* pPicture = new QLabel;
     pPicture->setPixmap(ImageHandler::icon("zarn").pixmap(QSize(kPictureSize, kPictureSize), devicePixelRatioF()));
     auto* pName = new ZARN::Heading(QString::fromStdString(ZARN::Revision::getRevisionString()));
-    auto* pText = new QLabel(tr("After-flight review of engine recordings.") + "\n"
-                             + tr("Compiled %1 with Qt %2, running on Qt %3")
-                                   .arg(QString::fromStdString(ZARN::Revision::compileTime()), QT_VERSION_STR, QLatin1String(qVersion())));
+    auto* pText = new QLabel(tr("After-flight review of engine recordings.") + "\n" +
+                             tr("Compiled %1 with Qt %2, running on Qt %3")
+                                 .arg(QString::fromStdString(ZARN::Revision::compileTime()), QT_VERSION_STR, QLatin1String(qVersion())));
     pText->setObjectName("quiet");
     auto* pHead = new QWidget;
     auto* pLayout = new QHBoxLayout(pHead);

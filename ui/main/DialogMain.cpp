@@ -107,7 +107,8 @@ DialogMain::~DialogMain()
 void DialogMain::createPanels()
 {
     mpCard = new DialogCard(mSession.container);
-    mpProfile = new DialogProfile(mSession);
+    mpLayoutBar = new LayoutBar;
+    mpProfile = new DialogProfile(mSession, mpLayoutBar);
     const QString dataPath = QString::fromStdString(mEnvironment.folders.dataPath());
     mpData = new DialogData(mRecord, DataViewList::create(mSession, dataPath), mEmu);
     mpPanels = new MainPanels(mpCard, mpProfile, mpData);
@@ -217,9 +218,7 @@ void DialogMain::createLayouts()
     mpNotices->watch(mpLayouts->file(), Notices::eLayouts, tr("Layouts cannot be saved"));
     if (mpLayouts->isUnread())
         mpNotices->setProblem(Notices::eLayouts, tr("Layouts unreadable"), file);
-    auto* pBar = new LayoutBar;
-    mpProfile->setHead(pBar);
-    mpLayoutController = new LayoutController(mSession, *mpLayouts, *pBar, *mpData, this);
+    mpLayoutController = new LayoutController(mSession, *mpLayouts, *mpLayoutBar, *mpData, this);
     connect(mpLayoutController, &LayoutController::signalChosen, mpProfile, &DialogProfile::updateProfile);
     connect(mpLayoutController, &LayoutController::signalChosen, this, &DialogMain::slotCanChanged);
     connect(mpLayoutController, &LayoutController::signalChosen, this, qOverload<>(&DialogMain::slotProfileChanged));

@@ -25,6 +25,7 @@ class DialogData;
 class DialogPreferences;
 class DialogProfile;
 class ExportController;
+class LayoutBar;
 class LayoutController;
 class LayoutStore;
 class MainPanels;
@@ -137,6 +138,7 @@ private:
     MainToolBar* mpToolBar = nullptr;
     MainPanels* mpPanels = nullptr;
     DialogCard* mpCard = nullptr;
+    LayoutBar* mpLayoutBar = nullptr;
     DialogProfile* mpProfile = nullptr;
     DialogData* mpData = nullptr;
     DialogAbout* mpAbout = nullptr;

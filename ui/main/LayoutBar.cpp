@@ -112,7 +112,8 @@ void LayoutBar::showMissing()
     const QStringList& names = mState.missing;
     QString text;
     if (names.size() > kNamesShown)
-        text = tr("Not in this profile: %1 and %2 more").arg(names.mid(0, kNamesShown).join(", "), QString::number(names.size() - kNamesShown));
+        text = tr("Not in this profile: %1 and %2 more")
+                   .arg(names.mid(0, kNamesShown).join(", "), QString::number(names.size() - kNamesShown));
     else if (!names.isEmpty())
         text = tr("Not in this profile: %1").arg(names.join(", "));
     mpMissing->setText(text);

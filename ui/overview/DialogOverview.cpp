@@ -20,8 +20,8 @@ constexpr int kProgressStep = 10; // percent
 } // namespace
 
 DialogOverview::DialogOverview(const Session& session, QWidget* pParent)
-    : QScrollArea(pParent), mSession(session), mReviewer(session), mpCardText(new QLabel), mpProgress(new QProgressBar), mpEmpty(new QLabel), mpStopped(new QLabel),
-      mpCards(new QVBoxLayout)
+    : QScrollArea(pParent), mSession(session), mReviewer(session), mpCardText(new QLabel), mpProgress(new QProgressBar),
+      mpEmpty(new QLabel), mpStopped(new QLabel), mpCards(new QVBoxLayout)
 {
     setObjectName("overview");
     setAccessibleName(tr("Overview"));
@@ -54,7 +54,8 @@ DialogOverview::DialogOverview(const Session& session, QWidget* pParent)
     });
     connect(&mAddTimer, &QTimer::timeout, this, &DialogOverview::addNext);
     // It paints itself at each value, whatever else there is to do.
-    connect(&mReviewer, &CardReviewer::signalProgress, this, [this](int percent) { mpProgress->setValue(percent / kProgressStep * kProgressStep); });
+    connect(&mReviewer, &CardReviewer::signalProgress, this,
+            [this](int percent) { mpProgress->setValue(percent / kProgressStep * kProgressStep); });
     connect(&mReviewer, &CardReviewer::signalFinished, &mAddTimer, qOverload<>(&QTimer::start));
     connect(&mReviewer, &CardReviewer::signalStopped, this, &DialogOverview::tellStopped);
 }
@@ -134,8 +135,9 @@ void DialogOverview::tellStopped(const QString& problem)
 {
     const bool hasSome = !mCards.empty() || !mPending.empty();
     const QString why = problem.isEmpty() ? tr("The card cannot be read any more. Was it removed?") : problem;
-    mpStopped->setText(why + ' ' + (hasSome ? tr("What was reviewed before is told below; open the card again for the rest.")
-                                            : tr("Open it again to review it.")));
+    mpStopped->setText(
+        why + ' ' +
+        (hasSome ? tr("What was reviewed before is told below; open the card again for the rest.") : tr("Open it again to review it.")));
     mpStopped->show();
     mAddTimer.start();
 }

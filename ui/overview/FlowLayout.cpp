@@ -27,7 +27,8 @@ QSize FlowLayout::sizeHint() const
 {
     QSize size;
     for (const auto& pItem : mItems)
-        size = {size.width() + pItem->sizeHint().width() + (size.isEmpty() ? 0 : mGap), std::max(size.height(), pItem->sizeHint().height())};
+        size = {size.width() + pItem->sizeHint().width() + (size.isEmpty() ? 0 : mGap),
+                std::max(size.height(), pItem->sizeHint().height())};
     return size;
 }
 

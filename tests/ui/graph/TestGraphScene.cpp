@@ -307,6 +307,11 @@ void TestGraphScene::cursorTellsValues()
     };
     QCOMPARE(std::ranges::count_if(texts, isLabel), traces + 1);
     QVERIFY(time >= 0 || model.traces().valueAt(0, time) == 1300.0); // of the first sample
+
+    model.traces().setHeight(0, 3.0);
+    const GraphFrame higher = frameOf(model, size);
+    QVERIFY(std::abs(higher.layout().area(0).height() - 3 * higher.layout().area(1).height()) <= 3); // of pixels that are rounded
+    QCOMPARE(higher.layout().area(traces - 1).bottom(), higher.layout().plot().bottom());
 }
 
 void TestGraphScene::narrowMarkerTable()

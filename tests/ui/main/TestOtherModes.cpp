@@ -202,7 +202,8 @@ void TestOtherModes::layouts()
         QVERIFY(graph.graphData().displayMode == eSingleGraph && desktop.profile.isSelected("EGT Spread"));
         desktop.project.saveProject(desktop.folders.dataPath().c_str() + QString("/CurrentProject.xml"));
         putFile(desktop.folders.dataPath() + "/Layouts.xml", // as another profile's
-                "<ZarnLayouts><Layout name='Mine'><Parameter name='EGT Spread' height='2' color='#ff00ff'/><Parameter name='Vane'/></Layout></ZarnLayouts>");
+                "<ZarnLayouts><Layout name='Mine'><Parameter name='EGT Spread' height='2' color='#ff00ff'/><Parameter "
+                "name='Vane'/></Layout></ZarnLayouts>");
     }
     DesktopFixture desktop(home(), {card().toStdString()});
     DialogMain& window = desktop.open();

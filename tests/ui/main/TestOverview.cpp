@@ -74,7 +74,8 @@ void TestOverview::demoCard()
     QVERIFY(QDir().rename(card, card + "-pulled"));
     window.action(eActionOverview)->trigger();
     window.slotUnitChanged(0);
-    QTRY_VERIFY_WITH_TIMEOUT(!pOverview->findChildren<QLabel*>("warning").isEmpty() && pOverview->findChild<QLabel*>("warning")->isVisible(), 60000);
+    QTRY_VERIFY_WITH_TIMEOUT(
+        !pOverview->findChildren<QLabel*>("warning").isEmpty() && pOverview->findChild<QLabel*>("warning")->isVisible(), 60000);
     QVERIFY(cards().isEmpty() && pOverview->findChild<QLabel*>("warning")->text().startsWith("The card cannot be read any more."));
 }
 

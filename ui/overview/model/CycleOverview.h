@@ -15,7 +15,7 @@ struct CycleOverview {
     double endTime = 0.0;
     std::vector<RecordFlight> flights;
     CycleReview review;
-    QStringList damages; ///< what of its files could not be read, for people
+    QStringList damages;    ///< what of its files could not be read, for people
     bool isPartial = false; ///< the system kept some of it from being read: nothing can be called all right
     QString problem;        ///< why there is no review, for people; else empty
 
