@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 
@@ -118,6 +119,9 @@ int CommandScan::scanParquet(const std::vector<std::string>& cards, const std::v
 
 int CommandScan::scanSqlite(const std::vector<std::string>& cards, const std::vector<CardFinder::Failure>& failures)
 {
+    std::error_code ignored;
+    if (cards.empty() && !failures.empty() && !std::filesystem::exists(mStore, ignored))
+        return eFailed; // said already; a store of that alone helps nobody
     Store store(mStore, mKey);
     std::string problem = store.error();
     if (problem.empty())

@@ -33,6 +33,12 @@ struct CycleHead {
     QDateTime dateTime;
 };
 
+/// What the unit's own counter of engine hours told.
+struct HoursReading {
+    QDateTime date;
+    double hours = 0.0;
+};
+
 /// All that a store keeps of a power cycle, in metric units.
 struct CycleFacts {
     CycleHead head;
@@ -41,6 +47,7 @@ struct CycleFacts {
     std::vector<RecordFlight> flights;
     CycleReview review;
     std::vector<CardProblem> problems; ///< found when its records were read
+    std::optional<HoursReading> hours; ///< the last one, where the profile names the counter and the unit had a clock
 };
 
 /// All that a store keeps of a card. A plain value.

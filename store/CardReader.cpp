@@ -1,11 +1,14 @@
 #include "store/CardReader.h"
 
 #include "app/FileName.h"
+#include "app/Numeric.h"
 #include "app/Progress.h"
+#include "card/PowerUp.h"
 #include "store/CycleIdentity.h"
-#include "store/StoreText.h"
+#include "trace/TraceSet.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace ZARN {
 
@@ -21,6 +24,19 @@ void markFiles(CardFacts& card, const RecordCycle& cycle, const std::string& id)
         else
             card.isWhole = false; // it came after the listing
     }
+}
+
+std::optional<HoursReading> hoursReading(const CycleValues& values, const QDateTime& powerUp)
+{
+    const ProfileParameter counter = values.context().model().ofZarnType("EngineHours");
+    std::optional<HoursReading> last;
+    if (counter.zarnDataType.empty() || !powerUp.isValid())
+        return last;
+    TraceSet::one(values.data(), values.context(), counter, ENumber::eMetric)->forEachSample([&](double time, double hours) {
+        if (std::isfinite(hours) && time <= kLatestTime)
+            last = {powerUp.addMSecs(saturatingCast<int64_t>(time * 1000)), hours};
+    });
+    return last;
 }
 
 } // namespace
@@ -89,7 +105,8 @@ bool CardReader::readCycle(CardContainer& container, CycleHead head, CardFacts& 
                      container.endTime(),
                      cycle.flights,
                      reviewCycle(container.values(), cycle.flights, container.endTime(), EKeyValues::eAll),
-                     problems};
+                     problems,
+                     hoursReading(container.values(), PowerUp::of(cycle))};
     failure = mTarget.takeLoaded(card.listing, facts, container.values());
     card.cycles.push_back(std::move(facts));
     return true;

@@ -151,6 +151,15 @@ void CardWriter::writeEngine(const EngineIdentity& engine)
         .run();
 }
 
+void CardWriter::writeReading(const std::string& engine, const HoursReading& reading)
+{
+    const std::string date = storeDate(reading.date);
+    mDatabase.prepared("DELETE FROM reading WHERE engine_id = ? AND date = ? AND source = 'unit'").with({engine, date}).run();
+    mDatabase.prepared("INSERT INTO reading (engine_id, date, hours, source) VALUES (?, ?, ?, 'unit')")
+        .with({engine, date, reading.hours})
+        .run();
+}
+
 void CardWriter::insert(EStoreTable table, const Row& row)
 {
     mDatabase.prepared(insertion(storeTable(table), table == eCycleTable)).with(row).run();
@@ -159,6 +168,8 @@ void CardWriter::insert(EStoreTable table, const Row& row)
 void CardWriter::writeCycle(int64_t card, const CycleFacts& cycle)
 {
     writeEngine(cycle.head.engine);
+    if (cycle.hours)
+        writeReading(cycle.head.engine.id, *cycle.hours);
     for (const char* table : {"episode", "incident", "flight"}) // key values go with their flight
         mDatabase.prepared("DELETE FROM " + std::string(table) + " WHERE cycle_id = ?").with({cycle.head.id}).run();
     std::map<EStoreTable, int64_t> first;

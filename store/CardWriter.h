@@ -23,6 +23,7 @@ private:
     void writeFailure(int64_t card, const CardFacts& facts);
     void insertProblem(int64_t card, const std::string& file, const std::string& reason);
     void writeCycle(int64_t card, const CycleFacts& cycle);
+    void writeReading(const std::string& engine, const HoursReading& reading);
     void writeEngine(const EngineIdentity& engine);
     void insert(EStoreTable table, const Row& row);
     /// Whether the one cycle is the other one, of which more was recorded.

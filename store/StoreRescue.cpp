@@ -11,17 +11,19 @@ namespace {
 struct TypedTable {
     const char* name;
     int columns;
-    int engine; ///< the column that names an engine; negative: none
+    int engine;        ///< the column that names an engine; negative: none
+    const char* which; ///< of its rows
 };
 
-constexpr TypedTable kTables[] = {{"engine", 5, 0}, {"service", 8, 1}, {"reading", 4, 0}, {"note", 5, -1}};
+constexpr TypedTable kTables[] = {
+    {"engine", 5, 0, ""}, {"service", 8, 1, ""}, {"reading", 4, 0, " WHERE source = 'typed'"}, {"note", 5, -1, ""}};
 
 /// The rows that come before the damage.
 std::vector<Row> legibleRows(const std::string& path, const TypedTable& table)
 {
     std::vector<Row> rows;
     Database damaged(path, Database::eReadOnly); // a new one each time, for a failure ends it
-    Statement read(damaged, "SELECT * FROM " + std::string(table.name));
+    Statement read(damaged, "SELECT * FROM " + std::string(table.name) + table.which);
     while (read.next()) {
         Row& row = rows.emplace_back();
         for (int column = 0; column < table.columns; ++column)

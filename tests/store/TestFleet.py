@@ -27,8 +27,8 @@ def workers(parent):
 
 
 def check_dask(cards, dataset, kill):
-    fleet = subprocess.Popen(['/usr/bin/python3', f'{ROOT}/contrib/dask/zarn_fleet.py', '-o', dataset, '--workers', '2', '--shards', '6', '--zarn-cli', ZARN,
-                              cards, '--', '--samples', '100'], stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
+    fleet = subprocess.Popen(['/usr/bin/python3', f'{ROOT}/contrib/dask/zarn_fleet.py', '-o', dataset, '--workers', '2', '--shards', '6',
+                              '--zarn-cli', ZARN, cards, '--', '--samples', '100'], stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
     deadline = time.monotonic() + 120
     while kill and not os.path.isdir(f'{dataset}/cycles') and fleet.poll() is None and time.monotonic() < deadline:
         time.sleep(0.01)
