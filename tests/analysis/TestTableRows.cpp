@@ -1,6 +1,7 @@
 #include "analysis/TableRows.h"
 #include "support/CardBuilder.h"
 #include "trace/ChannelTrace.h"
+#include "trace/ComputedChannel.h"
 
 #include <QTest>
 
@@ -43,7 +44,7 @@ TraceSet tracesOf(const RecordData& data, const std::vector<uint32_t>& identifie
     std::vector<std::unique_ptr<const Trace>> traces;
     for (const uint32_t identifier : identifiers)
         traces.push_back(
-            std::make_unique<ChannelTrace>("", ProfileParameter(), DecodingContext(), data.channel(identifier), ENumber::eText, nullptr));
+            std::make_unique<ChannelTrace>("", ProfileParameter(), DecodingContext(), recordedChannel(data, identifier), ENumber::eText, nullptr));
     return TraceSet(std::move(traces));
 }
 

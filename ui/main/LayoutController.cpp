@@ -62,7 +62,7 @@ void LayoutController::restore(bool isFirst)
         if (isFirst)
             tick(*pLayout);
         mData.setLayout(*pLayout);
-        mSession.property.setString(kChosen, pLayout->name.toStdString()); // written with the first thing that the user does
+        Settings::kGraphLayout.set(mSession.property, pLayout->name); // written with the first thing that the user does
     }
     update();
 }
