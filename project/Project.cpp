@@ -55,8 +55,7 @@ void Project::readRoot(const QDomElement& root)
         mNames.clear();
     if (!root.firstChildElement(kCanProperties).isNull())
         mCanProperties.clear();
-    if (!root.firstChildElement(FormulaXml::kList).isNull())
-        mProfile.setFormulas(FormulaXml(xml).read(root));
+    mProfile.setFormulas(FormulaXml(xml).read(root)); // another project's would be saved with this one
     forEachChild(root, kParameters, [&](const QDomElement& list) {
         forEachChild(list, "Parameter", [&](const QDomElement& parameter) { mNames.insert(text(parameter, "name")); });
     });
