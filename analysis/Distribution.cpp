@@ -4,8 +4,10 @@
 #include <array>
 #include <cmath>
 #include <cstdint>
-#include <functional>
+#include <iterator>
+#include <limits>
 #include <numeric>
+#include <optional>
 
 namespace ZARN {
 
@@ -44,91 +46,113 @@ Totals totalsOf(const std::vector<double>& values)
     return totals;
 }
 
-/// Sorts values into bins of even width, so that only the few values of the bins that hold a rank need be put in order.
-class Ranks {
+/// Where a part of the values ends when they are in order: between two borders that a sample tells, so that only the values between
+/// them need be put in order. Values on a border are counted alone, for many are alike.
+class Bracket {
 public:
-    using Places = std::array<std::size_t, 2 * kParts.size()>;
+    static constexpr std::size_t kBlock = 64; // of values that are taken at once
 
-    Ranks(const std::vector<double>& values, const Totals& totals) : mValues(values), mBins(values.size())
+    Bracket(const std::vector<double>& sample, double part)
     {
-        const double width = totals.greatest - totals.least, scale = (kBins - 1) / width;
-        if (values.size() >= kFew && std::isfinite(width) && std::isfinite(scale)) // else all are in one bin
-            sortOut(totals.least, scale);
-        count();
+        constexpr double kMargin = 40; // of 1,024: the real place lies further off once in thousands of times
+        const double last = static_cast<double>(sample.size() - 1), place = part * last;
+        mLower = sample[static_cast<std::size_t>(std::max(0.0, place - kMargin))];
+        mUpper = sample[static_cast<std::size_t>(std::min(last, place + kMargin))];
     }
 
-    /// The values that stand at ascending ranks when all are in order.
-    std::array<double, 2 * kParts.size()> valuesAt(Places ranks)
+    void add(const double* pValues)
     {
-        std::vector<double> some = valuesAround(ranks);
-        std::array<double, 2 * kParts.size()> found{};
-        auto first = some.begin();
-        for (std::size_t i = 0; i < ranks.size(); ++i) {
-            const auto place = some.begin() + static_cast<std::ptrdiff_t>(ranks[i]);
-            if (place >= first)
-                std::nth_element(first, place, some.end());
-            first = std::max(first, place + 1);
-            found[i] = *place;
+        std::array<uint32_t, 4> counts{};
+        for (std::size_t i = 0; i < kBlock; ++i) { // no branch, for the processor to take several at once
+            const double value = pValues[i];
+            counts[0] += value < mLower ? 1U : 0U;
+            counts[1] += value == mLower ? 1U : 0U;
+            counts[2] += value == mUpper ? 1U : 0U;
+            counts[3] += value > mLower && value < mUpper ? 1U : 0U;
         }
-        return found;
+        mBelow += counts[0];
+        mOnLower += counts[1];
+        mOnUpper += counts[2];
+        if (counts[3] > 0)
+            std::copy_if(pValues, pValues + kBlock, std::back_inserter(mBetween), [this](double value) { return value > mLower && value < mUpper; });
+    }
+
+    /// The value at a rank; none where it lies outside of the borders.
+    std::optional<double> at(std::size_t rank)
+    {
+        if (rank < mBelow)
+            return std::nullopt;
+        rank -= mBelow;
+        if (rank < mOnLower)
+            return mLower;
+        rank -= mOnLower;
+        if (rank < mBetween.size()) {
+            const auto place = mBetween.begin() + static_cast<std::ptrdiff_t>(rank);
+            std::nth_element(mBetween.begin(), place, mBetween.end());
+            return *place;
+        }
+        return rank - mBetween.size() < (mLower < mUpper ? mOnUpper : 0) ? std::optional(mUpper) : std::nullopt;
     }
 
 private:
-    static constexpr std::size_t kBins = 1024;
-    static constexpr std::size_t kFew = 1000; // of so few, sorting out costs more than it saves
-
-    void sortOut(double least, double scale)
-    {
-        // From 0 to kBins - 1, so that no cast has to be held.
-        const auto binOf = [=](double value) { return static_cast<int32_t>((value - least) * scale); };
-        std::size_t i = 0;
-        for (; i + kLanes <= mValues.size(); i += kLanes) {
-            for (std::size_t lane = 0; lane < kLanes; ++lane)
-                mBins[i + lane] = binOf(mValues[i + lane]);
-        }
-        for (; i < mValues.size(); ++i)
-            mBins[i] = binOf(mValues[i]);
-    }
-
-    void count()
-    {
-        // In turns, since neighbours tend to fall into one bin and each count would wait for the one before.
-        std::array<uint32_t, kBins> others{};
-        for (std::size_t i = 0; i + 1 < mBins.size(); i += 2) {
-            ++mCounts[static_cast<std::size_t>(mBins[i])];
-            ++others[static_cast<std::size_t>(mBins[i + 1])];
-        }
-        if (mBins.size() % 2 != 0)
-            ++mCounts[static_cast<std::size_t>(mBins.back())];
-        std::ranges::transform(mCounts, others, mCounts.begin(), std::plus());
-    }
-
-    /// All values of the bins that hold a rank; the ranks become those among them.
-    std::vector<double> valuesAround(Places& ranks) const
-    {
-        std::array<uint8_t, kBins> wanted{};
-        std::size_t before = 0, left = 0, next = 0; // values of lower bins, and those of them that are left out
-        for (std::size_t bin = 0; bin < kBins; before += mCounts[bin++]) {
-            for (; next < ranks.size() && ranks[next] < before + mCounts[bin]; ++next) {
-                wanted[bin] = 1;
-                ranks[next] -= left;
-            }
-            left += wanted[bin] != 0 ? 0 : mCounts[bin];
-        }
-        std::vector<double> some(mValues.size() + 1);
-        std::size_t end = 0;
-        for (std::size_t i = 0; i < mValues.size(); ++i) { // no branch: it could not be foretold
-            some[end] = mValues[i];
-            end += wanted[static_cast<std::size_t>(mBins[i])];
-        }
-        some.resize(end);
-        return some;
-    }
-
-    const std::vector<double>& mValues;
-    std::vector<int32_t> mBins; // of each value
-    std::array<uint32_t, kBins> mCounts{};
+    double mLower;
+    double mUpper;
+    std::size_t mBelow = 0, mOnLower = 0, mOnUpper = 0; // values below the lower border, on it, on the upper one
+    std::vector<double> mBetween;
 };
+
+constexpr std::size_t kFew = 4096; // of so few, all are put in order
+
+using Ranks = std::array<std::size_t, 2 * kParts.size()>;
+using Ranked = std::array<double, 2 * kParts.size()>;
+
+/// The values at ascending ranks; the values change their order.
+Ranked inOrder(std::vector<double>& values, const Ranks& ranks)
+{
+    Ranked found{};
+    auto first = values.begin();
+    for (std::size_t i = 0; i < ranks.size(); ++i) {
+        const auto place = values.begin() + static_cast<std::ptrdiff_t>(ranks[i]);
+        if (place >= first)
+            std::nth_element(first, place, values.end());
+        first = std::max(first, place + 1);
+        found[i] = *place;
+    }
+    return found;
+}
+
+/// The same, without looking at most of the values twice.
+Ranked valuesAt(std::vector<double>& values, const Ranks& ranks)
+{
+    constexpr std::size_t kSample = 1024;
+    if (values.size() < kFew)
+        return inOrder(values, ranks);
+    std::vector<double> sample(kSample);
+    for (std::size_t i = 0; i < kSample; ++i)
+        sample[i] = values[i * values.size() / kSample];
+    std::ranges::sort(sample);
+    std::vector<Bracket> brackets;
+    for (const double part : kParts)
+        brackets.emplace_back(sample, part);
+    const std::size_t whole = values.size() / Bracket::kBlock * Bracket::kBlock;
+    std::array<double, Bracket::kBlock> rest;
+    rest.fill(std::numeric_limits<double>::quiet_NaN()); // which none counts
+    std::copy(values.begin() + static_cast<std::ptrdiff_t>(whole), values.end(), rest.begin());
+    for (std::size_t i = 0; i < whole; i += Bracket::kBlock) {
+        for (Bracket& bracket : brackets)
+            bracket.add(values.data() + i);
+    }
+    Ranked found{};
+    for (std::size_t i = 0; i < ranks.size(); ++i) {
+        if (i % 2 == 0)
+            brackets[i / 2].add(rest.data());
+        const std::optional<double> value = brackets[i / 2].at(ranks[i]);
+        if (!value)
+            return inOrder(values, ranks);
+        found[i] = *value;
+    }
+    return found;
+}
 
 } // namespace
 
@@ -143,7 +167,7 @@ Distribution Distribution::of(std::vector<double>& values)
             return {};
         totals = totalsOf(values);
     }
-    Ranks::Places ranks{};
+    Ranks ranks{};
     std::array<double, kParts.size()> shares{};
     for (std::size_t i = 0; i < kParts.size(); ++i) {
         const double rank = kParts[i] * static_cast<double>(values.size() - 1);
@@ -151,7 +175,7 @@ Distribution Distribution::of(std::vector<double>& values)
         ranks[2 * i + 1] = std::min(ranks[2 * i] + 1, values.size() - 1);
         shares[i] = rank - std::floor(rank);
     }
-    const std::array<double, 2 * kParts.size()> found = Ranks(values, totals).valuesAt(ranks);
+    const Ranked found = valuesAt(values, ranks);
     const auto percentile = [&](std::size_t i) { return found[2 * i] + (found[2 * i + 1] - found[2 * i]) * shares[i]; };
     return {values.size(),
             totals.least,
