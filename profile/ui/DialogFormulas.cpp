@@ -17,6 +17,8 @@
 #include <QVBoxLayout>
 
 #include <cmath>
+#include <limits>
+#include <tuple>
 
 namespace ZARN {
 
@@ -35,14 +37,29 @@ QToolButton* createButton(const char* name, const QString& text, QBoxLayout& lay
     return pButton;
 }
 
-/// The chosen language's way of writing numbers, and the one with a point.
-std::optional<double> numberIn(const QString& text)
+/// The chosen language's way of writing numbers, or the one with a point. Separators of thousands are refused: what is one of them in one
+/// way is the decimal point of the other, and a limit would be off a thousandfold. @return NaN for what is no number, none for nothing
+std::optional<double> numberIn(const QString& written)
 {
-    bool isNumber = false;
-    double value = QLocale().toDouble(text.trimmed(), &isNumber);
-    if (!isNumber)
-        value = text.trimmed().toDouble(&isNumber);
-    return isNumber && std::isfinite(value) ? std::optional(value) : std::nullopt;
+    const QString text = written.trimmed();
+    if (text.isEmpty())
+        return std::nullopt;
+    bool isOwn = false, isPointed = false, isGrouped = false;
+    QLocale locale;
+    std::ignore = locale.toDouble(text, &isGrouped);
+    locale.setNumberOptions(QLocale::RejectGroupSeparator);
+    const double own = locale.toDouble(text, &isOwn);
+    const double pointed = text.toDouble(&isPointed);
+    const double value = isOwn ? own : pointed;
+    const bool isNumber = isOwn || (isPointed && !isGrouped);
+    return isNumber && std::isfinite(value) ? value : std::numeric_limits<double>::quiet_NaN();
+}
+
+QString writtenNumber(const std::optional<double>& number)
+{
+    QLocale locale;
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    return number ? locale.toString(*number, 'g', QLocale::FloatingPointShortest) : QString();
 }
 
 } // namespace
@@ -192,7 +209,7 @@ void DialogFormulas::slotChosen(int row)
     mpUnit->setText(QString::fromStdString(formula.unit));
     mpPrecision->setValue(formula.precision);
     for (const Limit& limit : mLimits)
-        limit.pEdit->setText(formula.*limit.pMember ? QLocale().toString(*(formula.*limit.pMember), 'g', QLocale::FloatingPointShortest) : QString());
+        limit.pEdit->setText(writtenNumber(formula.*limit.pMember));
     mIsFilling = false;
     showProblems();
 }
@@ -262,10 +279,6 @@ void DialogFormulas::showProblems()
                                                                            : tr("%1: %2").arg(name, problem->text);
         if (text.isEmpty() || static_cast<int>(i) == row())
             text = told;
-    }
-    for (const Limit& limit : mLimits) {
-        if (text.isEmpty() && !limit.pEdit->text().trimmed().isEmpty() && !numberIn(limit.pEdit->text()))
-            text = tr("\"%1\" is no number.").arg(limit.pEdit->text());
     }
     mpProblem->setText(mFormulas.empty() ? tr("Begin with an example, or with an empty formula by \"New\".") : text);
     mpButtons->button(QDialogButtonBox::Ok)->setEnabled(text.isEmpty());

@@ -410,6 +410,7 @@ void DialogMain::slotFormulasChanged()
 {
     mpProjectController->setModified();
     mRecord.changeProfile();
+    mpLayoutController->update();
 }
 
 void DialogMain::slotCanChanged()
