@@ -16,6 +16,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <tuple>
@@ -83,8 +84,11 @@ DialogFormulas::DialogFormulas(FormulaDefinitions formulas, std::shared_ptr<cons
     pLayout->addWidget(mpButtons);
     connect(mpButtons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(mpButtons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    for (const FormulaDefinition& formula : mFormulas)
-        mpList->addItem(QString::fromStdString(formula.name));
+    for (std::size_t i = 0; i < mFormulas.size(); ++i) {
+        mpList->addItem(QString::fromStdString(mFormulas[i].name));
+        if (checkFormula(mFormulas, i, *mpProfile))
+            mWrongBefore.push_back(mFormulas[i]);
+    }
     connect(mpList, &QListWidget::currentRowChanged, this, &DialogFormulas::slotChosen);
     mpList->setCurrentRow(0);
     slotChosen(row());
@@ -103,8 +107,14 @@ QWidget* DialogFormulas::createList(const FormulaDefinitions& examples)
     pLayout->addLayout(pButtons);
     connect(createButton("add", tr("New"), *pButtons), &QToolButton::clicked, this, &DialogFormulas::slotAdd);
     connect(createButton("remove", tr("Remove"), *pButtons), &QToolButton::clicked, this, &DialogFormulas::slotRemove);
-    connect(createButton("up", tr("Up"), *pButtons), &QToolButton::clicked, this, [this] { move(-1); });
-    connect(createButton("down", tr("Down"), *pButtons), &QToolButton::clicked, this, [this] { move(1); });
+    QToolButton* pUp = createButton("up", tr("Up"), *pButtons);
+    QToolButton* pDown = createButton("down", tr("Down"), *pButtons);
+    pUp->setArrowType(Qt::UpArrow); // in place of words, which made the window wider than small screens with large text
+    pDown->setArrowType(Qt::DownArrow);
+    for (QToolButton* pButton : {pUp, pDown})
+        pButton->setToolTip(pButton->text());
+    connect(pUp, &QToolButton::clicked, this, [this] { move(-1); });
+    connect(pDown, &QToolButton::clicked, this, [this] { move(1); });
     addExamples(*createButton("examples", tr("Examples"), *pButtons), examples);
     pButtons->addStretch();
     return pSide;
@@ -115,7 +125,8 @@ void DialogFormulas::addExamples(QToolButton& button, const FormulaDefinitions& 
     auto* pMenu = new QMenu(&button);
     for (std::size_t i = 0; i < examples.size(); ++i) {
         if (!checkFormula(examples, i, *mpProfile))
-            connect(pMenu->addAction(QString::fromStdString(examples[i].name)), &QAction::triggered, this, [this, example = examples[i]] { add(example); });
+            connect(pMenu->addAction(QString::fromStdString(examples[i].name)), &QAction::triggered, this,
+                    [this, example = examples[i]] { add(example); });
     }
     button.setMenu(pMenu);
     button.setPopupMode(QToolButton::InstantPopup);
@@ -265,23 +276,27 @@ void DialogFormulas::move(int by)
     slotChosen(to);
 }
 
-/// What is wrong with the chosen one, or with the first that is: all must be right before they are taken.
+/// What is wrong with the chosen one, or with the first that is: all must be right before they are taken, but for those that were given so,
+/// of another profile.
 void DialogFormulas::showProblems()
 {
     QString text;
+    bool isWrong = false;
     for (std::size_t i = 0; i < mFormulas.size(); ++i) {
         std::optional<FormulaProblem> problem = checkFormula(mFormulas, i, *mpProfile);
         mpList->item(static_cast<int>(i))->setIcon(problem ? style()->standardIcon(QStyle::SP_MessageBoxWarning) : QIcon());
         if (!problem)
             continue;
+        isWrong |= std::ranges::find(mWrongBefore, mFormulas[i]) == mWrongBefore.end();
         const QString name = QString::fromStdString(mFormulas[i].name);
-        const QString told = problem->field == FormulaProblem::EField::eExpression ? tr("%1: character %2: %3").arg(name).arg(problem->place + 1).arg(problem->text)
-                                                                           : tr("%1: %2").arg(name, problem->text);
+        const QString told = problem->field == FormulaProblem::EField::eExpression
+                                 ? tr("%1: character %2: %3").arg(name, QString::number(problem->place + 1), problem->text)
+                                 : tr("%1: %2").arg(name, problem->text);
         if (text.isEmpty() || static_cast<int>(i) == row())
             text = told;
     }
     mpProblem->setText(mFormulas.empty() ? tr("Begin with an example, or with an empty formula by \"New\".") : text);
-    mpButtons->button(QDialogButtonBox::Ok)->setEnabled(text.isEmpty());
+    mpButtons->button(QDialogButtonBox::Ok)->setEnabled(!isWrong);
 }
 
 } // namespace ZARN
