@@ -408,7 +408,7 @@ void DialogMain::slotUnitChanged(int index)
 
 void DialogMain::slotFormulasChanged()
 {
-    mpProjectController->setModified();
+    mpProjectController->keep();
     mRecord.changeProfile();
     mpLayoutController->update();
 }
