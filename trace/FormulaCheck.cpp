@@ -4,6 +4,10 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+#include <array>
+#include <cmath>
+
 namespace ZARN {
 
 namespace {
@@ -12,10 +16,20 @@ struct FormulaTexts {
     Q_DECLARE_TR_FUNCTIONS(ZARN::FormulaCheck)
 };
 
+auto limitsOf(const FormulaDefinition& formula)
+{
+    return std::array{formula.lowerLimit, formula.lowerWarning, formula.upperWarning, formula.upperLimit};
+}
+
+bool areNumbers(const FormulaDefinition& formula)
+{
+    return std::ranges::all_of(limitsOf(formula), [](const auto& limit) { return std::isfinite(limit.value_or(0.0)); });
+}
+
 bool areOrdered(const FormulaDefinition& formula)
 {
     double last = -HUGE_VAL;
-    for (const auto& limit : {formula.lowerLimit, formula.lowerWarning, formula.upperWarning, formula.upperLimit}) {
+    for (const auto& limit : limitsOf(formula)) {
         if (limit && *limit < last)
             return false;
         last = limit.value_or(last);
@@ -46,6 +60,8 @@ std::optional<FormulaProblem> checkFormula(const FormulaDefinitions& formulas, s
         const QString before = QString::fromStdString(formula.expression.substr(0, error.place()));
         return FormulaProblem{eExpression, error.text(), static_cast<int>(before.size())};
     }
+    if (!areNumbers(formula))
+        return FormulaProblem{eLimits, FormulaTexts::tr("A limit is no number; thousands stand without a separator.")};
     if (!areOrdered(formula))
         return FormulaProblem{eLimits, FormulaTexts::tr("The limits do not ascend.")};
     return std::nullopt;

@@ -1,10 +1,10 @@
 #include "export/ui/ReportFileDialog.h"
 
 #include <QComboBox>
-#include <QFileInfo>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QRegularExpression>
 
 namespace ZARN {
 
@@ -50,8 +50,9 @@ void ReportFileDialog::propose()
     setDefaultSuffix(suffix()); // part of the name when the dialog asks whether to replace a file
     const auto* pName = findChild<QLineEdit*>("fileNameEdit");
     const QString typed = pName ? pName->text() : QString();
-    const QString base =
-        typed.isEmpty() || typed == mProposed ? mParts[static_cast<std::size_t>(part())].name : QFileInfo(typed).completeBaseName();
+    static const QRegularExpression suffixes("\\.(pdf|html?)$", QRegularExpression::CaseInsensitiveOption);
+    // The user's own name stays as it is, with its folder and its dots.
+    const QString base = typed.isEmpty() || typed == mProposed ? mParts[static_cast<std::size_t>(part())].name : QString(typed).remove(suffixes);
     const QString name = base + "." + suffix();
     if (typed.isEmpty() || typed == mProposed)
         mProposed = name;

@@ -16,7 +16,10 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
+#include <tuple>
 
 namespace ZARN {
 
@@ -35,14 +38,29 @@ QToolButton* createButton(const char* name, const QString& text, QBoxLayout& lay
     return pButton;
 }
 
-/// The chosen language's way of writing numbers, and the one with a point.
-std::optional<double> numberIn(const QString& text)
+/// The chosen language's way of writing numbers, or the one with a point. Separators of thousands are refused: what is one of them in one
+/// way is the decimal point of the other, and a limit would be off a thousandfold. @return NaN for what is no number, none for nothing
+std::optional<double> numberIn(const QString& written)
 {
-    bool isNumber = false;
-    double value = QLocale().toDouble(text.trimmed(), &isNumber);
-    if (!isNumber)
-        value = text.trimmed().toDouble(&isNumber);
-    return isNumber && std::isfinite(value) ? std::optional(value) : std::nullopt;
+    const QString text = written.trimmed();
+    if (text.isEmpty())
+        return std::nullopt;
+    bool isOwn = false, isPointed = false, isGrouped = false;
+    QLocale locale;
+    std::ignore = locale.toDouble(text, &isGrouped);
+    locale.setNumberOptions(QLocale::RejectGroupSeparator);
+    const double own = locale.toDouble(text, &isOwn);
+    const double pointed = text.toDouble(&isPointed);
+    const double value = isOwn ? own : pointed;
+    const bool isNumber = isOwn || (isPointed && !isGrouped);
+    return isNumber && std::isfinite(value) ? value : std::numeric_limits<double>::quiet_NaN();
+}
+
+QString writtenNumber(const std::optional<double>& number)
+{
+    QLocale locale;
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    return number ? locale.toString(*number, 'g', QLocale::FloatingPointShortest) : QString();
 }
 
 } // namespace
@@ -66,8 +84,11 @@ DialogFormulas::DialogFormulas(FormulaDefinitions formulas, std::shared_ptr<cons
     pLayout->addWidget(mpButtons);
     connect(mpButtons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(mpButtons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    for (const FormulaDefinition& formula : mFormulas)
-        mpList->addItem(QString::fromStdString(formula.name));
+    for (std::size_t i = 0; i < mFormulas.size(); ++i) {
+        mpList->addItem(QString::fromStdString(mFormulas[i].name));
+        if (checkFormula(mFormulas, i, *mpProfile))
+            mWrongBefore.push_back(mFormulas[i]);
+    }
     connect(mpList, &QListWidget::currentRowChanged, this, &DialogFormulas::slotChosen);
     mpList->setCurrentRow(0);
     slotChosen(row());
@@ -86,8 +107,14 @@ QWidget* DialogFormulas::createList(const FormulaDefinitions& examples)
     pLayout->addLayout(pButtons);
     connect(createButton("add", tr("New"), *pButtons), &QToolButton::clicked, this, &DialogFormulas::slotAdd);
     connect(createButton("remove", tr("Remove"), *pButtons), &QToolButton::clicked, this, &DialogFormulas::slotRemove);
-    connect(createButton("up", tr("Up"), *pButtons), &QToolButton::clicked, this, [this] { move(-1); });
-    connect(createButton("down", tr("Down"), *pButtons), &QToolButton::clicked, this, [this] { move(1); });
+    QToolButton* pUp = createButton("up", tr("Up"), *pButtons);
+    QToolButton* pDown = createButton("down", tr("Down"), *pButtons);
+    pUp->setArrowType(Qt::UpArrow); // in place of words, which made the window wider than small screens with large text
+    pDown->setArrowType(Qt::DownArrow);
+    for (QToolButton* pButton : {pUp, pDown})
+        pButton->setToolTip(pButton->text());
+    connect(pUp, &QToolButton::clicked, this, [this] { move(-1); });
+    connect(pDown, &QToolButton::clicked, this, [this] { move(1); });
     addExamples(*createButton("examples", tr("Examples"), *pButtons), examples);
     pButtons->addStretch();
     return pSide;
@@ -98,7 +125,8 @@ void DialogFormulas::addExamples(QToolButton& button, const FormulaDefinitions& 
     auto* pMenu = new QMenu(&button);
     for (std::size_t i = 0; i < examples.size(); ++i) {
         if (!checkFormula(examples, i, *mpProfile))
-            connect(pMenu->addAction(QString::fromStdString(examples[i].name)), &QAction::triggered, this, [this, example = examples[i]] { add(example); });
+            connect(pMenu->addAction(QString::fromStdString(examples[i].name)), &QAction::triggered, this,
+                    [this, example = examples[i]] { add(example); });
     }
     button.setMenu(pMenu);
     button.setPopupMode(QToolButton::InstantPopup);
@@ -192,7 +220,7 @@ void DialogFormulas::slotChosen(int row)
     mpUnit->setText(QString::fromStdString(formula.unit));
     mpPrecision->setValue(formula.precision);
     for (const Limit& limit : mLimits)
-        limit.pEdit->setText(formula.*limit.pMember ? QLocale().toString(*(formula.*limit.pMember), 'g', QLocale::FloatingPointShortest) : QString());
+        limit.pEdit->setText(writtenNumber(formula.*limit.pMember));
     mIsFilling = false;
     showProblems();
 }
@@ -248,27 +276,27 @@ void DialogFormulas::move(int by)
     slotChosen(to);
 }
 
-/// What is wrong with the chosen one, or with the first that is: all must be right before they are taken.
+/// What is wrong with the chosen one, or with the first that is: all must be right before they are taken, but for those that were given so,
+/// of another profile.
 void DialogFormulas::showProblems()
 {
     QString text;
+    bool isWrong = false;
     for (std::size_t i = 0; i < mFormulas.size(); ++i) {
         std::optional<FormulaProblem> problem = checkFormula(mFormulas, i, *mpProfile);
         mpList->item(static_cast<int>(i))->setIcon(problem ? style()->standardIcon(QStyle::SP_MessageBoxWarning) : QIcon());
         if (!problem)
             continue;
+        isWrong |= std::ranges::find(mWrongBefore, mFormulas[i]) == mWrongBefore.end();
         const QString name = QString::fromStdString(mFormulas[i].name);
-        const QString told = problem->field == FormulaProblem::EField::eExpression ? tr("%1: character %2: %3").arg(name).arg(problem->place + 1).arg(problem->text)
-                                                                           : tr("%1: %2").arg(name, problem->text);
+        const QString told = problem->field == FormulaProblem::EField::eExpression
+                                 ? tr("%1: character %2: %3").arg(name, QString::number(problem->place + 1), problem->text)
+                                 : tr("%1: %2").arg(name, problem->text);
         if (text.isEmpty() || static_cast<int>(i) == row())
             text = told;
     }
-    for (const Limit& limit : mLimits) {
-        if (text.isEmpty() && !limit.pEdit->text().trimmed().isEmpty() && !numberIn(limit.pEdit->text()))
-            text = tr("\"%1\" is no number.").arg(limit.pEdit->text());
-    }
     mpProblem->setText(mFormulas.empty() ? tr("Begin with an example, or with an empty formula by \"New\".") : text);
-    mpButtons->button(QDialogButtonBox::Ok)->setEnabled(text.isEmpty());
+    mpButtons->button(QDialogButtonBox::Ok)->setEnabled(!isWrong);
 }
 
 } // namespace ZARN

@@ -51,6 +51,7 @@ private:
     };
 
     FormulaDefinitions mFormulas;
+    FormulaDefinitions mWrongBefore; ///< as they were given, of another profile: they must not keep others from being taken
     const std::shared_ptr<const ProfileModel> mpProfile;
     QListWidget* mpList;
     QWidget* mpForm = nullptr;

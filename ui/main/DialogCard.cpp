@@ -200,12 +200,21 @@ void DialogCard::addFlights(unsigned int cycle)
     int chosen = -1;
     for (int i = 0; i < pItem->childCount(); ++i)
         chosen = pItem->child(i)->isSelected() ? i : chosen;
+    if (pItem->childCount() == 0 && pItem->isSelected() && mContainer.loadedCycleNumber() == cycle)
+        chosen = mContainer.selectedFlightNumber() - 1; // chosen from outside, before it was known here
     qDeleteAll(pItem->takeChildren());
     for (const CardNode& flight : CardTree::flights(cycle, found->second))
         pItem->addChild(makeItem(flight));
     pItem->setExpanded(true);
     if (chosen >= 0 && chosen < pItem->childCount())
         mpCycles->setCurrentItem(pItem->child(chosen));
+}
+
+bool DialogCard::listsLoaded() const
+{
+    const auto cycle = mContainer.loadedCycleNumber();
+    const QTreeWidgetItem* pItem = cycle ? cycleItem(*cycle) : nullptr;
+    return !pItem || pItem->childCount() > 0;
 }
 
 void DialogCard::showLoaded()

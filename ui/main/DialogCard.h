@@ -38,6 +38,8 @@ public:
     void choose(unsigned int cycle, int flight);
     /// Lists the flights of a loaded cycle below it, in place of those that stood there.
     void addFlights(unsigned int cycle);
+    /// False while the loaded cycle has no flights below it.
+    [[nodiscard]] bool listsLoaded() const;
     /// Chooses the loaded cycle or flight, without loading it; nothing when what is loaded is none of them.
     void showLoaded();
 

@@ -408,8 +408,9 @@ void DialogMain::slotUnitChanged(int index)
 
 void DialogMain::slotFormulasChanged()
 {
-    mpProjectController->setModified();
+    mpProjectController->keep();
     mRecord.changeProfile();
+    mpLayoutController->update();
 }
 
 void DialogMain::slotCanChanged()
@@ -497,7 +498,7 @@ void DialogMain::showLoaded()
 void DialogMain::slotDataChanged()
 {
     mRecord.setRecord();
-    if (mSession.container.selectedFlightNumber() == 0)
+    if (mSession.container.selectedFlightNumber() == 0 || !mpCard->listsLoaded())
         listFlights(); // a choice of one of them leaves them
     showProblems();
     updateExports();

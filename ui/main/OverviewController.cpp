@@ -11,6 +11,7 @@
 #include <QStackedWidget>
 
 #include <algorithm>
+#include <cmath>
 #include <set>
 #include <utility>
 
@@ -20,6 +21,12 @@ namespace {
 
 constexpr double kMargin = 0.2;       // of an incident's length, before and after it
 constexpr double kLeastLength = 10.0; // seconds that are shown of a short one
+
+/// At a sample's own time the views still tell the one before it.
+double justBehind(double time)
+{
+    return std::nextafter(time, HUGE_VAL);
+}
 
 } // namespace
 
@@ -111,7 +118,7 @@ void OverviewController::show(const Incident& incident)
         names.insert(episode.parameter);
     mPages.setCurrentWidget(&mData);
     mData.showInGraph({middle - length * (0.5 + kMargin), middle + length * (0.5 + kMargin)}, names);
-    mRecord.setTime(leading.peak ? leading.peakTime : leading.start);
+    mRecord.setTime(justBehind(leading.peak ? leading.peakTime : leading.start));
 }
 
 /// The incidents of what is loaded, found when they are asked for.
@@ -142,7 +149,7 @@ void OverviewController::step(bool forward)
             pNext = &incident;
     }
     if (pNext)
-        mRecord.setTime(pNext->start);
+        mRecord.setTime(justBehind(pNext->start));
 }
 
 } // namespace ZARN

@@ -72,10 +72,23 @@ QString ProjectController::askSaveName()
     return name.isEmpty() || name.endsWith(".xml") ? name : name + ".xml";
 }
 
+bool ProjectController::hasName() const
+{
+    return mHasFile && !lastPath().isEmpty() && lastPath() != Settings::kLastProjectPath.fallback;
+}
+
 QString ProjectController::saveName(bool askName)
 {
-    const bool hasName = mHasFile && !lastPath().isEmpty() && lastPath() != Settings::kLastProjectPath.fallback;
-    return askName || !hasName ? askSaveName() : lastPath();
+    return askName || !hasName() ? askSaveName() : lastPath();
+}
+
+void ProjectController::keep()
+{
+    setModified();
+    if (!hasName())
+        return;
+    mSession.project.saveProject(lastPath());
+    mModified = mSession.project.file().isWritten() ? 0 : 1;
 }
 
 bool ProjectController::writeProject(const QString& path)

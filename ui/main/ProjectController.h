@@ -29,6 +29,9 @@ public:
     /// @return false when the user wants to stay with the project.
     bool askSaveProject();
 
+    /// Saves what took work to write at once, where the project has a file: a crash or the end of the desktop session must not take it. A
+    /// failure is told by whoever watches the file, and it is saved again at the end.
+    void keep();
     void setModified() { mModified = 1; }
     [[nodiscard]] bool isModified() const { return mModified != 0; }
     [[nodiscard]] QString lastPath() const;
@@ -40,6 +43,7 @@ Q_SIGNALS:
 private:
     bool readProject(const QString& path);
     QString askSaveName();
+    [[nodiscard]] bool hasName() const;
     /// The file to save to, asked for where it must be; empty when the user gave up.
     QString saveName(bool askName);
     bool writeProject(const QString& path);

@@ -1,4 +1,5 @@
 #include "app/Property.h"
+#include "profile/ui/DialogFormulas.h"
 #include "profile/ui/DialogProfile.h"
 #include "project/Project.h"
 #include "support/ProfileBuilder.h"
@@ -7,9 +8,13 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QClipboard>
+#include <QDialogButtonBox>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
+#include <QLocale>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTreeView>
@@ -69,6 +74,8 @@ private Q_SLOTS:
     void searching();
     void onlyRecorded();
     void projectInStep();
+    void limitsOfFormulas_data();
+    void limitsOfFormulas();
 };
 
 void TestDialogProfile::searching()
@@ -123,6 +130,38 @@ void TestDialogProfile::projectInStep()
     QCOMPARE(panel.count(), "0 of 3 parameters selected");
     QVERIFY(!panel.profile.isSelected("Altitude"));
     QCOMPARE(panel.changed.count(), 1);
+}
+
+void TestDialogProfile::limitsOfFormulas_data()
+{
+    QTest::addColumn<QLocale>("locale");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<double>("limit"); // 0: none is taken
+    const QLocale english(QLocale::English), german(QLocale::German);
+    QTest::newRow("own") << german << "1560,5" << 1560.5;
+    QTest::newRow("with a point") << german << "95.5" << 95.5;
+    QTest::newRow("a point as separator") << german << "0.125" << 0.0; // or was it one?
+    QTest::newRow("a comma as separator") << english << "1,560" << 0.0;
+    QTest::newRow("no number") << english << "95x" << 0.0;
+}
+
+void TestDialogProfile::limitsOfFormulas()
+{
+    QFETCH(QLocale, locale);
+    QFETCH(double, limit);
+    QFETCH(QString, text);
+    QLocale::setDefault(locale);
+    const Panel panel;
+    FormulaDefinitions formulas(2);
+    formulas[0].name = "a";
+    formulas[0].expression = "Speed";
+    formulas[1].name = formulas[1].expression = "Gone";
+    DialogFormulas dialog(formulas, panel.profile.loadedModel(), {}); // the second is of another profile
+    dialog.findChild<QLineEdit*>("upperLimit")->setText(text);
+    dialog.findChild<QListWidget*>()->setCurrentRow(1); // and it is not forgotten
+    QCOMPARE(dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->isEnabled(), limit != 0);
+    QVERIFY(limit == 0 || dialog.formulas()[0].upperLimit == limit);
+    QLocale::setDefault(QLocale::c());
 }
 
 QTEST_MAIN(TestDialogProfile)

@@ -163,7 +163,7 @@ void RecordGraph::updateRecord(RecordData* pRecord)
     const RecordKey key = pRecord ? recordKey() : mMarkedRecord;
     mKeepsWindow = mpRecord && mpRecord == pRecord && key == mMarkedRecord && span() == mSpan;
     mpRecord = pRecord;
-    if (!mBeside.empty() && !(key == mMarkedRecord)) {
+    if (!mBeside.empty() && (!pRecord || !(key == mMarkedRecord))) {
         mBeside.clear();
         describeSlots();
     }

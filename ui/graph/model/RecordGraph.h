@@ -54,7 +54,7 @@ public:
     [[nodiscard]] std::optional<TimeSpan> shownSpan() const;
 
     void zoomAll();
-    /// Shows a part of the record, with parameters of these names beside the ticked ones until another record is shown.
+    /// Shows a part of the record, with parameters of these names beside the ticked ones until another record is shown, or none.
     void showSpan(const TimeSpan& span, std::set<std::string> beside);
     /// Gives the window a width, and what was in sight stays there.
     void setRange(float seconds);
