@@ -100,6 +100,7 @@ private:
     const WatchedTimes mLimitTimes;
     const WatchedTimes mLampTimes; // of faults as well
     std::vector<double> mTakeOffs;
+    CoordinateFilter mFixes;
     EpisodeList mEpisodes;
 };
 
@@ -168,7 +169,7 @@ void ReviewPass::walkLamp(const std::string& group, const ProfileParameter& para
 
 void ReviewPass::walkValue(const ProfileDevice& device, const ProfileParameter& parameter, KeyValues* pKeyValues)
 {
-    const auto pValues = trace(parameter, ENumber::eMetric);
+    const auto pValues = TraceSet::one(mData, mContext, parameter, ENumber::eMetric, mFixes, kLatestTime); // positions: for key values alone
     const bool isLimited = !isLamp(device) && hasLimits(parameter);
     if (!pValues->decoder().isNumeric()) {
         if (isLimited)

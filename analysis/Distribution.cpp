@@ -6,7 +6,6 @@
 #include <cstdint>
 #include <iterator>
 #include <limits>
-#include <numeric>
 #include <optional>
 
 namespace ZARN {
@@ -23,9 +22,18 @@ struct Totals {
 
 constexpr std::size_t kLanes = 8; // values that a processor may take at once, and that do not wait for each other
 
+/// Adds a value; what the sum is too coarse to hold goes into the rest. Else one damaged value, 10^30 times the others, would leave no
+/// trace of them in the mean.
+void addTo(double& sum, double& rest, double value)
+{
+    const double next = sum + value, taken = next - sum;
+    rest += (sum - (next - taken)) + (value - taken);
+    sum = next;
+}
+
 Totals totalsOf(const std::vector<double>& values)
 {
-    std::array<double, kLanes> least, greatest, sum{};
+    std::array<double, kLanes> least, greatest, sums{}, rests{};
     least.fill(values.front());
     greatest.fill(values.front());
     std::size_t i = 0;
@@ -34,15 +42,21 @@ Totals totalsOf(const std::vector<double>& values)
             const double value = values[i + lane];
             least[lane] = value < least[lane] ? value : least[lane];
             greatest[lane] = value > greatest[lane] ? value : greatest[lane];
-            sum[lane] += value;
+            addTo(sums[lane], rests[lane], value);
         }
     }
-    Totals totals{*std::ranges::min_element(least), *std::ranges::max_element(greatest), std::accumulate(sum.begin(), sum.end(), 0.0)};
+    Totals totals{*std::ranges::min_element(least), *std::ranges::max_element(greatest), 0.0};
+    double rest = 0;
+    for (std::size_t lane = 0; lane < kLanes; ++lane) {
+        addTo(totals.sum, rest, sums[lane]);
+        addTo(totals.sum, rest, rests[lane]);
+    }
     for (; i < values.size(); ++i) {
         totals.least = std::min(totals.least, values[i]);
         totals.greatest = std::max(totals.greatest, values[i]);
-        totals.sum += values[i];
+        addTo(totals.sum, rest, values[i]);
     }
+    totals.sum += rest;
     return totals;
 }
 

@@ -122,11 +122,12 @@ void CardWriter::writeFiles(int64_t card, const CardFacts& facts)
         replace(oldCycle, newCycle);
 }
 
+/// The date of a recording may become known from a file that was not there yet.
 bool CardWriter::isBeginning(const std::string& oldCycle, const std::string& newCycle)
 {
     return mDatabase
-        .prepared("SELECT 1 FROM cycle AS a JOIN cycle AS b USING (engine_id, number, date_time, start_time) WHERE a.cycle_id = ? AND "
-                  "b.cycle_id = ?")
+        .prepared("SELECT 1 FROM cycle AS a JOIN cycle AS b USING (engine_id, number, start_time) WHERE a.cycle_id = ? AND "
+                  "b.cycle_id = ? AND (a.date_time IS NULL OR a.date_time = b.date_time)")
         .with({oldCycle, newCycle})
         .any();
 }

@@ -24,6 +24,16 @@ Database::EFailure failureOf(int code)
     }
 }
 
+int flagsOf(Database::EMode mode)
+{
+    switch (mode) {
+    case Database::eReadWrite: return SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE;
+    case Database::eRead: return SQLITE_OPEN_READWRITE; // or less, where the file is write-protected
+    case Database::eReadOnly: break;
+    }
+    return SQLITE_OPEN_READONLY;
+}
+
 /// The name of a file that nobody writes.
 std::string immutable(const std::string& path)
 {
@@ -130,12 +140,15 @@ Database::Database(const std::string& path, EMode mode) : mPath(path)
         fail(tr("it is no file"));
         return;
     }
-    if (!open(path, mode == eReadOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE))
+    if (!open(path, flagsOf(mode)))
         return;
-    // Where nothing can be written a reader cannot announce itself; nobody writes there.
-    if (mode == eReadOnly && sqlite3_exec(mpDatabase, "SELECT 1 FROM sqlite_master", nullptr, nullptr, nullptr) % 256 == SQLITE_CANTOPEN) {
-        close();
-        open(immutable(path), SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
+    if (mode != eReadWrite) {
+        // Where nothing can be written a reader cannot announce itself; nobody writes there.
+        const int code = sqlite3_exec(mpDatabase, "SELECT 1 FROM sqlite_master", nullptr, nullptr, nullptr) % 256;
+        if (code == SQLITE_CANTOPEN || code == SQLITE_READONLY) {
+            close();
+            open(immutable(path), SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
+        }
     }
     if (mode == eReadWrite && sqlite3_db_readonly(mpDatabase, "main") == 1)
         fail(tr("it cannot be written, only read"));

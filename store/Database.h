@@ -48,7 +48,11 @@ class Database {
     Q_DECLARE_TR_FUNCTIONS(ZARN::Database)
 
 public:
-    enum EMode { eReadWrite, eReadOnly };
+    enum EMode {
+        eReadWrite,
+        eRead,    ///< reads alone, but tidies up as a writer does: the last one that closes leaves nothing beside the file
+        eReadOnly ///< never touches the file
+    };
     /// What kind of failure it was, where someone can do something about it.
     enum EFailure { eNone, eDamaged, eNoDatabase, eBusy, eOther };
 

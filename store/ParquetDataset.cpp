@@ -16,17 +16,25 @@ constexpr const char* kSamples = "zarn.samples";   // that of the samples that a
 constexpr const char* kProblems = "zarn.problems"; // and that of what was found wrong with it
 constexpr const char* kSamplesFolder = "samples";
 
-/// As a part of a path, which readers of such folders decode.
+constexpr std::size_t kLongestFolder = 255 - (sizeof "engine=" - 1);
+constexpr std::size_t kHash = 16; // digits of it, after a name that was cut
+
+/// As a part of a path, which readers of such folders decode. What no folder can be called in full is cut between two characters, and told
+/// from others that begin alike by its hash.
 std::string percentEncoded(const std::string& text)
 {
     std::string encoded;
+    std::size_t fits = 0;
     for (const char character : text) {
         const auto byte = static_cast<unsigned char>(character);
+        const bool isFirst = (byte & 0xC0u) != 0x80u;
+        if (isFirst && encoded.size() < kLongestFolder - kHash)
+            fits = encoded.size();
         const bool isPlain = (byte >= '0' && byte <= '9') || (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z') ||
                              character == '-' || character == '_' || character == '.';
         encoded += isPlain ? std::string(1, character) : QString::asprintf("%%%02X", byte).toStdString();
     }
-    return encoded;
+    return encoded.size() <= kLongestFolder ? encoded : encoded.substr(0, fits) + "-" + hashOf(text).substr(0, kHash);
 }
 
 ParquetColumn::EType typeOf(EColumn type)

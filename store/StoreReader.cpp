@@ -25,7 +25,7 @@ TrendPoint::Place placeOf(const Statement& row)
 
 } // namespace
 
-StoreReader::StoreReader(const std::string& path) : mDatabase(path, Database::eReadOnly)
+StoreReader::StoreReader(const std::string& path) : mDatabase(path, Database::eRead)
 {
     if (mDatabase.isGood())
         StoreSchema::check(mDatabase);

@@ -45,6 +45,7 @@ QString told(const mu::ParserError& error)
     switch (error.GetCode()) {
     case mu::ecUNASSIGNABLE_TOKEN:
         return FormulaReader::tr("\"%1\" is no parameter, function or number.").arg(shown(error.GetToken()));
+    case mu::ecEMPTY_EXPRESSION:
     case mu::ecUNEXPECTED_EOF: return FormulaReader::tr("The formula ends too early.");
     case mu::ecMISSING_PARENS: return FormulaReader::tr("A closing bracket is missing.");
     case mu::ecUNEXPECTED_PARENS: return FormulaReader::tr("No bracket can stand here.");

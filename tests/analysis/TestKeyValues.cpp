@@ -57,6 +57,9 @@ private Q_SLOTS:
                 QCOMPARE(text(Distribution::of(values)), text(expected));
             }
         }
+        std::vector<double> damaged(20, 3.0);
+        damaged[2] = 1e30, damaged[18] = -1e30; // in two lanes, and beyond the last
+        QCOMPARE(Distribution::of(damaged).mean, 2.7);
     }
 
     /// Two flights so close that their margins overlap, with climbs, a cut engine and times that run backwards.
@@ -67,7 +70,7 @@ private Q_SLOTS:
         builder.thresholds("T", {{0, "OK", "green"}, {90, "LIMIT", "red"}}).device("D");
         builder.parameter("rpm", 1, "FLOAT", {{"zarnDataType", "EngineSpeed"}}).parameter("gs", 2, "FLOAT", {{"zarnDataType", "GroundSpeed"}});
         builder.parameter("alt", 3, "FLOAT", {{"zarnDataType", "Altitude"}}).parameter("t", 4, "FLOAT", {{"thresholdId", "T"}, {"factor", "0.1"}});
-        builder.parameter("other", 5, "FLOAT");
+        builder.parameter("other", 5, "FLOAT").parameter("lat", 6, "FLOAT", {{"viewId", "Latitude"}, {"thresholdId", "T"}});
         QVERIFY(builder.load(cycle.profile));
         CardBuilder card;
         RecordFileBuilder& file = card.file("A.CAN");
@@ -77,15 +80,16 @@ private Q_SLOTS:
             const double time = i * 0.1 - (i > 3000 && i < 3100 ? 20 : 0);
             altitude += static_cast<double>(random() % 5) / 8 - (i % 800 < 300 ? 0.2 : 0.3);
             file.addFloat(1, time, i > 2000 && i < 2100 ? 0 : 5000).addFloat(2, time + 0.01, i % 1500 < 1200 && i > 300 ? 100 : 0);
+            file.addFloat(6, time + 0.04, i % 700 == 500 ? 0 : 4807); // a lost fix is filtered out
             file.addFloat(3, time + 0.02, static_cast<float>(altitude)).addFloat(4, time + 0.03, static_cast<float>(random() % 1000)).addFloat(5, time, 1);
         }
         QVERIFY(cycle.container.readContainer(card.write()) && cycle.container.loadCycle(cycle.container.recordCycles().begin()->first, -1));
         const std::vector<RecordFlight>& flights = cycle.container.loadedCycle()->flights;
         QVERIFY(flights.size() >= 2 && flights[0].endTime > flights[1].startTime);
         const CycleReview review = reviewCycle(cycle.container.values(), flights, cycle.container.endTime(), EKeyValues::eAll);
-        QCOMPARE(review.keyValues.sources.size(), std::size_t(2));
+        QCOMPARE(review.keyValues.sources.size(), std::size_t(3));
         std::map<std::tuple<std::size_t, int, EFlightPhase>, std::vector<double>> samples;
-        for (const std::size_t source : {0, 1}) {
+        for (const std::size_t source : {0, 1, 2}) {
             const ProfileParameter& parameter = *cycle.profile.model().find(review.keyValues.sources[source].parameter);
             for (const RecordEntry entry : cycle.container.recordData().channel(parameter.identifier())->entries) {
                 for (std::size_t i = 0; i < flights.size(); ++i) {

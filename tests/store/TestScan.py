@@ -67,6 +67,8 @@ def check_changes(work, cards):
     late = [name for name in sorted(os.listdir(card))][4:]
     for name in late:
         os.rename(f'{card}/{name}', f'{work}/{name}')
+    with open(f'{work}/{late[-1]}', 'rb') as whole, open(f'{card}/{late[-1]}', 'wb') as beginning: # of a cycle without a clock
+        beginning.write(whole.read(56128))
     run('scan', card, '-o', store)
     part = rows(store, 'SELECT cycle_id FROM cycle WHERE number = 2')[0]['cycle_id']
     change(store, f"INSERT INTO note (cycle_id, time, text) VALUES ('{part}', 1, 'mine')")

@@ -60,6 +60,7 @@ def main():
         run('simulate', card)
         run('scan', card, '-o', store)
         assert answer('trend', store)['schema'] == 1 and not answer('summary', card, '--store', store)['cards'][0]['cycles'][1]['unusual']
+        assert sorted(os.listdir(work)) == ['card', 'store.sqlite'] # nothing beside it
         rng = random.Random(5)
         medians = [round(60 + rng.gauss(0, 1) + (4 if 30 <= n < 40 else 0) + (25 if n == 20 else 0), 3) for n in range(48)]
         add_flights(store, 'DEMO-000001', medians, parameter, phase)
