@@ -932,10 +932,6 @@ lag(x, s): x, wie es vor s Sekunden war</translation>
         <translation>%1: %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no number.</source>
-        <translation>„%1“ ist keine Zahl.</translation>
-    </message>
-    <message>
         <source>Begin with an example, or with an empty formula by &quot;New&quot;.</source>
         <translation>Beginnen Sie mit einem Beispiel oder über „Neu“ mit einer leeren Formel.</translation>
     </message>
@@ -2043,6 +2039,10 @@ Ersetzen ?</translation>
     <message>
         <source>The limits do not ascend.</source>
         <translation>Die Grenzen steigen nicht an.</translation>
+    </message>
+    <message>
+        <source>A limit is no number; thousands stand without a separator.</source>
+        <translation>Ein Grenzwert ist keine Zahl; Tausender stehen ohne Trennzeichen.</translation>
     </message>
 </context>
 <context>
