@@ -25,7 +25,7 @@ QLayoutItem* FlowLayout::takeAt(int index)
 
 QSize FlowLayout::sizeHint() const
 {
-    QSize size;
+    QSize size(0, 0);
     for (const auto& pItem : mItems)
         size = {size.width() + pItem->sizeHint().width() + (size.isEmpty() ? 0 : mGap),
                 std::max(size.height(), pItem->sizeHint().height())};
@@ -34,7 +34,7 @@ QSize FlowLayout::sizeHint() const
 
 QSize FlowLayout::minimumSize() const
 {
-    QSize size;
+    QSize size(0, 0);
     for (const auto& pItem : mItems)
         size = size.expandedTo(pItem->sizeHint());
     return size;
