@@ -88,21 +88,27 @@ void OverviewController::open(uint32_t cycle, int flight)
 
 void OverviewController::openIncident(uint32_t cycle, const Incident& incident)
 {
-    if (mRecord.record() && mSession.container.loadedCycleNumber() == cycle && mSession.container.selectedFlightNumber() == 0)
+    if (mRecord.record() && isWholeCycle(cycle))
         return show(incident);
     open(cycle, -1);
     mWanted = {cycle, incident};
 }
 
+bool OverviewController::isWholeCycle(uint32_t cycle) const
+{
+    return mSession.container.loadedCycleNumber() == cycle && mSession.container.selectedFlightNumber() == 0;
+}
+
 void OverviewController::slotRecord()
 {
-    if (!mWanted || !mRecord.record() || mSession.container.loadedCycleNumber() != mWanted->first)
+    // One of its flights may still be told of, which was chosen just before.
+    if (!mWanted || !mRecord.record() || !isWholeCycle(mWanted->first))
         return;
     // When the views have the record: until then they begin with its start.
     QMetaObject::invokeMethod(
         this,
         [this, wanted = *std::exchange(mWanted, {})] {
-            if (mSession.container.loadedCycleNumber() == wanted.first)
+            if (isWholeCycle(wanted.first))
                 show(wanted.second);
         },
         Qt::QueuedConnection);

@@ -38,6 +38,8 @@ public:
 private:
     void open(uint32_t cycle, int flight);
     void openIncident(uint32_t cycle, const Incident& incident);
+    /// Whether that cycle is what is loaded, and not one of its flights.
+    [[nodiscard]] bool isWholeCycle(uint32_t cycle) const;
     void slotRecord();
     void show(const Incident& incident);
     void showOverview();
