@@ -8,6 +8,7 @@
 #include "cli/CommandIds.h"
 #include "cli/CommandInfo.h"
 #include "cli/CommandKml.h"
+#include "cli/CommandLive.h"
 #include "cli/CommandPath.h"
 #include "cli/CommandProfile.h"
 #include "cli/CommandReport.h"
@@ -67,7 +68,7 @@ int runProgram(int argc, char** argv)
     program.add_flag("--verbose", isVerbose, "tell on standard error what is done");
     const auto commands = makeCommands<CommandInfo, CommandIds, CommandFlights, CommandEvents, CommandFaults, CommandPath, CommandValue,
                                        CommandCsv, CommandKml, CommandGpx, CommandCandump, CommandReport, CommandSummary, CommandScan,
-                                       CommandTrend, CommandProfile, CommandSimulate>(program);
+                                       CommandTrend, CommandLive, CommandProfile, CommandSimulate>(program);
     program.footer("Example: zarn-cli csv /media/card -o flight.csv");
     if (argc < 2) {
         std::fputs(program.help().c_str(), stderr);
