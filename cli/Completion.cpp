@@ -160,7 +160,7 @@ std::vector<std::string> Completion::all(const std::vector<std::string>& words) 
         return {};
     if (const CLI::Option* pOption = optionBefore(*pCommand, words, words.size() - 1))
         return values(*pCommand, *pOption, words);
-    if (words.back().starts_with('-') && std::ranges::count(words, "--") == 0)
+    if (words.back().starts_with('-') && std::count(words.begin(), words.end() - 1, "--") == 0)
         return optionNames(*pCommand);
     return {pCommand->get_option_no_throw("DIR") && !pCommand->get_option_no_throw("--jobs") ? kFolders : kFiles};
 }
