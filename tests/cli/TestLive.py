@@ -148,6 +148,19 @@ class Live(unittest.TestCase):
         clock = time.strptime(cycles[0]['dateTime'][:19], '%Y-%m-%dT%H:%M:%S')
         self.assertLess(abs(time.mktime(clock) - time.mktime(time.gmtime())), 300)
 
+    def testOtherReaders(self):
+        card, log = self.folder.name + '/card', self.folder.name + '/card.log'
+        run('simulate', card)
+        run('candump', card, '--cycle', '3', '-o', log)
+        with open(log) as file:
+            lines = file.read().splitlines()
+        # Debian's own interpreter has the library.
+        read = 'import can, sys; print(sum(not m.is_error_frame and m.dlc == 8 for m in can.LogReader(sys.argv[1])))'
+        done = subprocess.run(['/usr/bin/python3', '-c', read, log], capture_output=True, text=True, check=True)
+        self.assertEqual(len(lines), int(done.stdout))
+        done = subprocess.run(['log2asc', '-I', log, 'zarn0'], capture_output=True, text=True, check=True)
+        self.assertEqual(len(lines), sum(' d 8 ' in line for line in done.stdout.splitlines()))
+
     def testCall(self):
         for arguments, reason in ((['can0'], 'must be PLUGIN:INTERFACE'), (['nothing:can0'], 'virtualcan'),
                                   (['socketcan:can0', '--replay', self.folder.name], 'holds no record file')):
