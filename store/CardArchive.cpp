@@ -58,6 +58,18 @@ std::string CardArchive::folderOf(const std::string& engine, const std::string& 
     return mRoot + "/" + name.substr(0, 200) + "/" + cycle;
 }
 
+std::vector<std::string> CardArchive::foldersOf(const std::string& cycle) const
+{
+    std::vector<std::string> folders;
+    std::error_code error;
+    for (Files::directory_iterator engine(mRoot, error), end; !error && engine != end; engine.increment(error)) {
+        std::error_code ignored;
+        if (Files::path folder = engine->path() / cycle; Files::is_directory(folder, ignored))
+            folders.push_back(folder);
+    }
+    return folders;
+}
+
 std::string CardArchive::copy(const std::string& from, const std::string& to)
 {
     std::ifstream source(from, std::ios::binary);
@@ -102,14 +114,11 @@ std::string CardArchive::add(const std::string& card, Progress& progress) const
         return card + ": " + tr("the folder cannot be listed").toStdString();
     for (const auto& [number, cycle] : container.recordCycles()) {
         const CycleHead head = cycleHead(container, number, cycle);
-        std::vector<std::string> files;
-        for (const RecordInfo& info : cycle.files)
-            files.push_back(encodeFileName(info.fileName));
         if (progress.isCancelled())
             return {};
         if (head.id.empty())
             return card + ": " + tr("it cannot be read").toStdString();
-        if (std::string problem = addCycle(files, folderOf(head.engine.id, head.id)); !problem.empty())
+        if (std::string problem = addCycle(cyclePaths(cycle), folderOf(head.engine.id, head.id)); !problem.empty())
             return problem;
     }
     return {};

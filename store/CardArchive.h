@@ -25,10 +25,11 @@ public:
 
     /// Copies the cycles of a card that are not there yet. @return empty, or what failed and why
     [[nodiscard]] std::string add(const std::string& card, Progress& progress) const;
-    /// The folder of a cycle, be it there or not.
-    [[nodiscard]] std::string folderOf(const std::string& engine, const std::string& cycle) const;
+    /// The folders that hold a copy of a cycle.
+    [[nodiscard]] std::vector<std::string> foldersOf(const std::string& cycle) const;
 
 private:
+    [[nodiscard]] std::string folderOf(const std::string& engine, const std::string& cycle) const;
     [[nodiscard]] std::string addCycle(const std::vector<std::string>& files, const std::string& folder) const;
     [[nodiscard]] static std::string copy(const std::string& from, const std::string& to);
 

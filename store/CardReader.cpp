@@ -70,13 +70,13 @@ void CardReader::readCycles(CardContainer& container, CardFacts& card, std::stri
         std::vector<CardProblem> told;
         if (card.engineId.empty())
             card.engineId = head.engine.id;
+        if (!id.empty() && !mSeen.contains(id))
+            card.heads.push_back(head);
         const bool isDone = !id.empty() && (mSeen.contains(id) || mTarget.hasCycle(head, told));
         if (id.empty() || (!isDone && !readCycle(container, std::move(head), card, failure)))
             card.isWhole = false;
         else
             markFiles(card, cycle, id);
-        if (!id.empty() && !mSeen.contains(id))
-            card.numbers.emplace_back(id, number);
         mSeen.insert(id);
         keepProblems(told, card);
         if (mProgress.isCancelled())

@@ -38,8 +38,9 @@ void CardWriter::write(const CardFacts& facts)
         writeFailure(card, facts);
         return;
     }
-    for (const auto& [cycle, number] : facts.numbers) // older files may be gone from the card
-        mDatabase.prepared("UPDATE cycle SET number = ?1 WHERE cycle_id = ?2 AND card_id = ?3 AND number <> ?1").with({number, cycle, card}).run();
+    Statement& number = mDatabase.prepared("UPDATE cycle SET number = ?1 WHERE cycle_id = ?2 AND card_id = ?3 AND number <> ?1");
+    for (const CycleHead& cycle : facts.heads) // older files may be gone from the card
+        number.with({int64_t{cycle.number}, cycle.id, card}).run();
     for (const CycleFacts& cycle : facts.cycles) {
         if (!hasCycle(cycle.head.id)) // another card, or another program, may have brought it meanwhile
             writeCycle(card, cycle);

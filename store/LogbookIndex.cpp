@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <numeric>
 #include <set>
+#include <tuple>
 
 namespace ZARN {
 
@@ -64,28 +65,49 @@ void LogbookIndex::read()
     mCycleOf.clear();
     mEngines = mCards = {};
     readCycles();
-    Statement& found = mDatabase.prepared(
-        placedFlights({}) + "SELECT flight_id, at, placed.date_time IS NOT NULL, placed.cycle_id, landing_time - take_off_time, "
-                            "CASE WHEN cycle.fuel IS NOT NULL THEN total_fuel END, total_climb FROM placed JOIN flight USING (flight_id) "
-                            "JOIN cycle ON cycle.cycle_id = placed.cycle_id ORDER BY at, placed.card_id, cycle_number, placed.number");
+    Statement& found = mDatabase.prepared("SELECT flight_id, cycle_id, number, date_time, landing_time - take_off_time, total_fuel, total_climb FROM flight");
     found.with({});
     while (found.next()) {
-        const auto cycle = mCycleOf.find(found.text(3));
-        if (cycle != mCycleOf.end())
-            mFlights.push_back({found.integer(0), found.text(1), found.integer(2) != 0, cycle->second, realOr(found, 4, 0.0),
-                                realOr(found, 5, kUnknown), realOr(found, 6, kUnknown)});
+        const auto cycle = mCycleOf.find(found.text(1));
+        if (cycle == mCycleOf.end())
+            continue;
+        const double fuel = mCycles[cycle->second].hasFuel ? realOr(found, 5, kUnknown) : kUnknown;
+        mFlights.push_back({found.integer(0), cycle->second, found.integer(2), found.text(3), !found.isNull(3), realOr(found, 4, 0.0), fuel,
+                            realOr(found, 6, kUnknown)});
+    }
+    placeUndated();
+    std::ranges::sort(mFlights, [this](const Flight& a, const Flight& b) {
+        const Cycle &one = mCycles[a.cycle], &other = mCycles[b.cycle];
+        return std::tie(a.at, one.card, one.number, a.number, a.id) < std::tie(b.at, other.card, other.number, b.number, b.id);
+    });
+}
+
+/// Few flights have no date, and only their cards have to be looked through for their places.
+void LogbookIndex::placeUndated()
+{
+    std::unordered_map<int64_t, std::string> places;
+    Statement& found = mDatabase.prepared(
+        placedFlights("WHERE cycle.card_id IN (SELECT card_id FROM flight JOIN cycle USING (cycle_id) WHERE flight.date_time IS NULL)") +
+        "SELECT flight_id, at FROM placed WHERE date_time IS NULL");
+    found.with({});
+    while (found.next())
+        places.emplace(found.integer(0), found.text(1));
+    for (Flight& flight : mFlights) {
+        if (const auto place = flight.hasDate ? places.end() : places.find(flight.id); place != places.end())
+            flight.at = place->second;
     }
 }
 
 void LogbookIndex::readCycles()
 {
-    Statement& found = mDatabase.prepared("SELECT cycle_id, engine_id, coalesce(card.name, ''), verdict, engine_running FROM cycle "
-                                          "LEFT JOIN card USING (card_id)");
+    Statement& found = mDatabase.prepared("SELECT cycle_id, engine_id, coalesce(card.name, ''), verdict, engine_running, cycle.card_id, "
+                                          "number, fuel IS NOT NULL FROM cycle LEFT JOIN card USING (card_id)");
     found.with({});
     while (found.next()) {
         mCycleOf.emplace(found.text(0), mCycles.size());
         mCycles.push_back(
-            {found.text(0), mEngines.of(found.text(1)), mCards.of(found.text(2)), found.text(3), realOr(found, 4, kUnknown)});
+            {mEngines.of(found.text(1)), mCards.of(found.text(2)), found.text(3), realOr(found, 4, kUnknown), found.integer(5), found.integer(6),
+             found.integer(7) != 0});
     }
 }
 
@@ -134,7 +156,7 @@ std::vector<std::size_t> LogbookIndex::chosen(const LogbookFilter& filter)
         const bool isOfEngine = filter.engine.empty() || (engine != mEngines.places.end() && cycle.engine == engine->second);
         const bool isOfVerdict = filter.verdict.empty() || cycle.verdict == filter.verdict;
         if (isInTime && isOfEngine && isOfVerdict &&
-            (wanted.isEmpty() || found.engines[cycle.engine] || found.cards[cycle.card] || found.cycles[flight.cycle] || found.flights[i]))
+            (wanted.isEmpty() || found.engines[cycle.engine] || found.cards[cycle.cardName] || found.cycles[flight.cycle] || found.flights[i]))
             places.push_back(i);
     }
     return places;

@@ -47,19 +47,22 @@ public:
 private:
     struct Flight {
         int64_t id = 0;
+        std::size_t cycle = 0;
+        int64_t number = 0;
         std::string at; ///< its place in time, as text
         bool hasDate = false;
-        std::size_t cycle = 0;
         double flightTime = 0.0;
         double fuel = 0.0; ///< NaN: not known
         double climb = 0.0;
     };
     struct Cycle {
-        std::string id;
         std::size_t engine = 0;
-        std::size_t card = 0;
+        std::size_t cardName = 0;
         std::string verdict;
         double running = 0.0; ///< NaN: not known
+        int64_t card = 0;
+        int64_t number = 0;
+        bool hasFuel = false;
     };
     /// Texts that many rows share.
     struct Texts {
@@ -75,6 +78,7 @@ private:
         std::vector<bool> flights; ///< by their incidents
     };
     void readCycles();
+    void placeUndated();
     [[nodiscard]] Found find(const QString& text);
     [[nodiscard]] std::vector<std::size_t> chosen(const LogbookFilter& filter);
     void sort(std::vector<std::size_t>& places, ELogbookOrder order, bool isDescending) const;

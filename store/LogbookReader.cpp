@@ -1,5 +1,6 @@
 #include "store/LogbookReader.h"
 
+#include "store/PlacedFlights.h"
 #include "store/StoreSchema.h"
 
 #include <QStringList>
@@ -132,6 +133,11 @@ std::vector<Service> LogbookReader::services(const std::string& engine)
         service.note = textOf(found, 7);
     }
     return services;
+}
+
+std::string LogbookReader::engineOf(const std::string& engine)
+{
+    return mergedEngine(mDatabase, engine);
 }
 
 std::vector<LogbookNote> LogbookReader::notes(const std::string& cycle)

@@ -72,6 +72,8 @@ public:
     [[nodiscard]] std::vector<LogbookEntry> entries(std::span<const int64_t> flights);
     [[nodiscard]] std::vector<LogbookEngine> engines();
     [[nodiscard]] std::vector<Service> services(const std::string& engine);
+    /// The engine that one is since the user said so; else itself.
+    [[nodiscard]] std::string engineOf(const std::string& engine);
     /// Of a cycle; without one, of all.
     [[nodiscard]] std::vector<LogbookNote> notes(const std::string& cycle = {});
     /// Where a cycle was found: folders of cards, the latest first.

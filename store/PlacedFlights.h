@@ -1,6 +1,6 @@
 #pragma once
 
-#include <string>
+#include "store/Database.h"
 
 namespace ZARN {
 
@@ -14,6 +14,15 @@ namespace ZARN {
            "min(flight.date_time) OVER (card_order ROWS BETWEEN CURRENT ROW AND UNBOUNDED FOLLOWING), first_seen, '') AS at "
            "FROM cycle JOIN flight USING (cycle_id) LEFT JOIN card USING (card_id) " +
            condition + " WINDOW card_order AS (PARTITION BY cycle.card_id ORDER BY cycle.number, flight.number)) ";
+}
+
+/// The engine that one is since the user said so; else itself.
+[[nodiscard]] inline std::string mergedEngine(Database& database, const std::string& engine)
+{
+    Statement& found = database.prepared("SELECT merged_into FROM engine_merge WHERE engine_id = ?").with({engine});
+    std::string merged = found.next() ? found.text(0) : engine;
+    found.run(); // to its end
+    return merged;
 }
 
 } // namespace ZARN

@@ -36,10 +36,7 @@ std::vector<std::string> StoreReader::engines(const std::string& serial)
 
 std::string StoreReader::engineOf(const std::string& engine)
 {
-    Statement& found = mDatabase.prepared("SELECT merged_into FROM engine_merge WHERE engine_id = ?").with({engine});
-    const std::string merged = found.next() ? found.text(0) : engine;
-    found.run(); // to its end
-    return merged;
+    return mergedEngine(mDatabase, engine);
 }
 
 std::vector<Trend> StoreReader::trends(const std::string& engine, const TrendFilter& filter)

@@ -27,6 +27,7 @@ public:
     void setTime(double time) override;
     void setZarnMode(int mode) override;
     void updateSettings() override;
+    void setNotes(const std::vector<CycleNote>& notes) override;
     [[nodiscard]] std::optional<TimeSpan> shownSpan() const override;
     void showSpan(const TimeSpan& span, const std::set<std::string>& parameters) override;
     void setLayout(const DisplayLayout& layout) override;

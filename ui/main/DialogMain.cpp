@@ -24,10 +24,12 @@
 #include "ui/main/ExportController.h"
 #include "ui/main/FolderDrop.h"
 #include "ui/main/LayoutController.h"
+#include "ui/main/LogbookController.h"
 #include "ui/main/MainActions.h"
 #include "ui/main/MainCommands.h"
 #include "ui/main/MainPanels.h"
 #include "ui/main/MainToolBar.h"
+#include "ui/main/NoteController.h"
 #include "ui/main/Notices.h"
 #include "ui/main/OverviewController.h"
 #include "ui/main/ProfileController.h"
@@ -36,6 +38,7 @@
 #include "ui/main/StatusProgress.h"
 #include "ui/main/WidgetWelcome.h"
 #include "ui/main/WindowLayout.h"
+#include "ui/overview/DialogOverview.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -180,6 +183,10 @@ void DialogMain::createControllers()
         mSession, *mpCardController, [this] { return mpData->graphSpan(); }, this);
     mpOverview =
         new OverviewController(mSession, mRecord, *mpCardController, *mpCard, *mpData, mpPanels->pages(), *action(eActionOverview), this);
+    mpLogbook = new LogbookController(mSession, {*mpCardController, *mpCard, *mpOverview, *mpPanels, *mpCommands, *mpNotices, mRecord},
+                                      QString::fromStdString(mEnvironment.folders.dataPath()), this);
+    const auto* pNotes = new NoteController(mSession, mRecord, mpLogbook->worker(), *mpCommands, *mpNotices, this);
+    connect(pNotes, &NoteController::signalChanged, &mpOverview->view(), &DialogOverview::reset);
     mpProfileController = std::make_unique<ProfileController>(mSession, *mpCatalogue, mpToolBar->profiles(), mpToolBar->units());
     mpLayout = std::make_unique<WindowLayout>(mSession.property, *this, *mpPanels, mpPanels->side());
     mpAbout = new DialogAbout(this);
@@ -215,8 +222,9 @@ void DialogMain::connectPanels()
     connect(mpCardController, &CardController::signalRecalculated, this, &DialogMain::slotRecalculated);
     connect(mpCardController, &CardController::signalCancelled, this, &DialogMain::showLoaded);
     connect(mpProjectController, &ProjectController::signalChanged, this, &DialogMain::slotProjectChanged);
-    connect(mpExportController, &ExportController::signalWritten, this,
-            [this](const QString& path) { statusBar()->showMessage(tr("Written: %1").arg(path), kMessageDuration); });
+    const auto tellWritten = [this](const QString& path) { statusBar()->showMessage(tr("Written: %1").arg(path), kMessageDuration); };
+    connect(mpExportController, &ExportController::signalWritten, this, tellWritten);
+    connect(mpLogbook, &LogbookController::signalWritten, this, tellWritten); });
     connect(&mpPanels->welcome(), &WidgetWelcome::signalOpenFolder, action(eActionOpenFolder), &QAction::trigger);
     connect(&mpPanels->welcome(), &WidgetWelcome::signalOpenDemoCard, this,
             [this] { mpCardController->openDemoCard(QString::fromStdString(mEnvironment.folders.dataPath())); });
@@ -253,7 +261,7 @@ void DialogMain::connectCommands()
     on(eActionExportKml, [this] { mpExportController->exportKml(); });
     on(eActionExportCsv, [this] { mpExportController->exportCsv(); });
     on(eActionExportGpx, [this] { mpExportController->exportGpx(); });
-    on(eActionReport, [this] { mpExportController->writeReport(); });
+    on(eActionReport, [this] { mpExportController->writeReport(mRecord.notes()); });
     mpCommands->handle(eActionOverview, [this](const QAction& action) { mpOverview->toggle(action.isChecked()); });
     on(eActionNextIncident, [this] { mpOverview->step(true); });
     on(eActionPreviousIncident, [this] { mpOverview->step(false); });
@@ -315,6 +323,7 @@ void DialogMain::loadProfile()
     tellProfileProblem();
     mpProfileInfo->setProfileFile(mpProfileController->file(), mpProfileController->isChosenFile());
     mpProfileInfo->fillProfileInfo();
+    mpLogbook->setProfile(mpProfileController->file());
     mpProfile->setExamples(mpProfileController->formulas());
     mpProfile->updateProfile();
     mpLayoutController->setProfile(mpProfileController->file(), QString::fromStdString(mEnvironment.folders.resourcePath()));

@@ -26,6 +26,7 @@ class DialogProfile;
 class ExportController;
 class LayoutBar;
 class LayoutController;
+class LogbookController;
 class MainCommands;
 class MainPanels;
 class MainToolBar;
@@ -151,6 +152,7 @@ private:
     ProjectController* mpProjectController = nullptr;
     ExportController* mpExportController = nullptr;
     OverviewController* mpOverview = nullptr;
+    LogbookController* mpLogbook = nullptr;
     LayoutController* mpLayoutController = nullptr;
     StyleWatch mStyle{QString()};
     QTimer mStartTimer;

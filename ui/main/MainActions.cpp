@@ -59,6 +59,10 @@ const std::vector<MainAction>& MainAction::all()
          QT_TRANSLATE_NOOP("ZARN::DialogMain", "Go to the next incident of what is loaded"), "", "incident-next"},
         {eActionPreviousIncident, QT_TRANSLATE_NOOP("ZARN::DialogMain", "Previous Incident"), "Shift+N; Ctrl+Up",
          QT_TRANSLATE_NOOP("ZARN::DialogMain", "Go to the previous incident of what is loaded"), "", "incident-previous"},
+        {eActionLogbook, QT_TRANSLATE_NOOP("ZARN::DialogMain", "Logbook"), "Ctrl+L",
+         QT_TRANSLATE_NOOP("ZARN::DialogMain", "Flights, engine hours, trends and services of the cards that were opened"), "", "flight"},
+        {eActionNote, QT_TRANSLATE_NOOP("ZARN::DialogMain", "Note"), "M; Ctrl+M",
+         QT_TRANSLATE_NOOP("ZARN::DialogMain", "Write a note about the moment that is shown"), "", "project-save-as"},
     };
     // clang-format on
     return actions;

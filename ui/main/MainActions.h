@@ -27,7 +27,9 @@ enum EMainAction : int {
     eActionReport = 20,
     eActionOverview = 21,
     eActionNextIncident = 22,
-    eActionPreviousIncident = 23
+    eActionPreviousIncident = 23,
+    eActionLogbook = 24,
+    eActionNote = 25
 };
 
 /// One command of the main window: texts to be translated, the shortcut, the name of its icon.

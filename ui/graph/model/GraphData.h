@@ -1,9 +1,12 @@
 #pragma once
 
+#include "card/CycleNote.h"
 #include "ui/canvas/Palette.h"
 #include "ui/graph/model/ValueScale.h"
 
 #include <QString>
+
+#include <vector>
 
 namespace ZARN {
 
@@ -26,6 +29,7 @@ struct GraphData {
     bool cursorOn = true;
     bool legendOn = true;
     ValueScale scale{.lower = -100.0, .upper = 100.0};
+    std::vector<CycleNote> notes = {}; ///< of the record, by time
     bool clickMovesCursor = false; ///< a click in the plot; otherwise it makes the marker a point
 };
 

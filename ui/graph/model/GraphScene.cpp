@@ -3,6 +3,7 @@
 #include "ui/canvas/ColourContrast.h"
 #include "ui/graph/model/GraphAxes.h"
 #include "ui/graph/model/GraphTables.h"
+#include "ui/graph/model/NoteMarks.h"
 
 #include <algorithm>
 #include <cmath>
@@ -41,6 +42,7 @@ void GraphScene::draw(Canvas& canvas) const
     drawMarker(canvas);
     const CursorLabels cursor(mModel, mLayout);
     drawTopMarkers(canvas, cursor);
+    NoteMarks(mModel, mLayout, mLabels).draw(canvas);
     canvas.outline(mLayout.plot(), {mLabels.contrast(0.6)});
     drawHandles(canvas);
     const GraphTables tables(mModel, mLayout);

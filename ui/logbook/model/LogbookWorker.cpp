@@ -27,8 +27,11 @@ void LogbookWorker::post(std::function<void()> work)
 
 LogbookReader* LogbookWorker::reader()
 {
-    if (mpReader && !mpReader->isInPlace()) // removed, or another one in its place
+    if (mpReader && !mpReader->isInPlace()) { // removed, or another one in its place
         mpReader.reset();
+        if (!QFileInfo::exists(mPath))
+            Q_EMIT signalFailed(tr("%1: it was removed while it was shown; what is shown is what it held").arg(mPath));
+    }
     if (mpReader)
         return mpReader.get();
     const bool isThere = QFileInfo::exists(mPath);
