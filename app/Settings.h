@@ -57,4 +57,9 @@ constexpr TextSetting kLayoutDir = {"LayoutDir", ""};
 constexpr SwitchSetting kParameterOnlyRecorded = {"ParameterOnlyRecorded", false};
 constexpr SwitchSetting kGraphClickMovesCursor = {"GraphClickMovesCursor", false};
 
+constexpr NumberSetting kLogbook = {"Logbook", 0, 0, 2}; // whether opened cards are taken in: not asked yet, yes, no
+constexpr SwitchSetting kArchive = {"Archive", false};
+constexpr TextSetting kArchiveDir = {"ArchiveDir", ""};
+constexpr TextSetting kLogbookDir = {"LogbookDir", "."};
+
 } // namespace ZARN::Settings

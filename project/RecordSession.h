@@ -1,10 +1,12 @@
 #pragma once
 
-#include <QDateTime>
+#include "card/CycleNote.h"
+
 #include <QObject>
 #include <QScopedValueRollback>
 
 #include <memory>
+#include <vector>
 
 namespace ZARN {
 
@@ -54,6 +56,14 @@ public:
     [[nodiscard]] double viewTime() const { return mViewTime; }
     [[nodiscard]] const Version& version() const { return mVersion; }
 
+    /// What somebody wrote about moments of the record, by time.
+    [[nodiscard]] const std::vector<CycleNote>& notes() const { return mNotes; }
+    void setNotes(std::vector<CycleNote> notes)
+    {
+        mNotes = std::move(notes);
+        Q_EMIT notesChanged();
+    }
+
     /// While the result lives, whoever changes the time is a view that is being filled, and no user: it is not heard.
     [[nodiscard]] QScopedValueRollback<bool> telling() { return QScopedValueRollback<bool>(mIsTelling, true); }
 
@@ -63,6 +73,7 @@ Q_SIGNALS:
     void decodingChanged();
     void selectionChanged();
     void timeChanged(double seconds, const QObject* pSource);
+    void notesChanged(); ///< at any time, at once
 
 private:
     void takeSpan();
@@ -72,6 +83,7 @@ private:
     CardContainer& mContainer;
     std::shared_ptr<RecordData> mpRecord;
     std::shared_ptr<RecordData> mpLast; ///< that which the views still refer to, until they are told
+    std::vector<CycleNote> mNotes;
     QDateTime mPowerUp;
     double mStartTime = 0.0;
     double mEndTime = 0.0;

@@ -76,7 +76,7 @@ bool FlightReport::fill(ReportDocument& document, Progress& progress) const
     document.head = head();
     document.creator = reportText(Revision::getRevisionString());
     const ReportFront front(mLoaded);
-    front.addTo(document);
+    front.addTo(document, mNotes);
     if (!isWanted(20))
         return false;
     const ReportTables tables(mLoaded);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/Progress.h"
+#include "card/CycleNote.h"
 #include "card/LoadedCard.h"
 
 #include <QCoreApplication>
@@ -28,7 +29,8 @@ class FlightReport {
     Q_DECLARE_TR_FUNCTIONS(ZARN::FlightReport)
 
 public:
-    explicit FlightReport(LoadedCard loaded) : mLoaded(std::move(loaded)) {}
+    /// @param notes what somebody wrote about moments of it, by time
+    explicit FlightReport(LoadedCard loaded, std::vector<CycleNote> notes = {}) : mLoaded(std::move(loaded)), mNotes(std::move(notes)) {}
 
     /// The format that a file of that name has: the one of its suffix, PDF without one; none for the suffix of something else.
     [[nodiscard]] static std::optional<EReportFormat> formatOf(const QString& fileName);
@@ -46,6 +48,7 @@ private:
     [[nodiscard]] QString head() const;
 
     const LoadedCard mLoaded;
+    const std::vector<CycleNote> mNotes;
     std::string mError;
 };
 

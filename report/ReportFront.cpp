@@ -43,12 +43,13 @@ ReportFront::ReportFront(const LoadedCard& loaded) : mLoaded(loaded), mpOverview
     mOutside = all - overview.review.incidents.size();
 }
 
-void ReportFront::addTo(ReportDocument& document) const
+void ReportFront::addTo(ReportDocument& document, const std::vector<CycleNote>& notes) const
 {
     addVerdict(document);
     addIdentity(document);
     addProblems(document);
     addIncidents(document);
+    addNotes(document, notes);
 }
 
 void ReportFront::addVerdict(ReportDocument& document) const
@@ -112,6 +113,22 @@ void ReportFront::addIncidents(ReportDocument& document) const
         document.add(ReportParagraph{tr("Outside of the flight: %n more in this power cycle.", nullptr, static_cast<int>(mOutside))});
     const bool isAllKnown = ReviewText(mpOverview->review).gaps().isEmpty();
     document.add(ReportParagraph{OverviewTexts::basis(*mpOverview), isAllKnown ? ReportParagraph::eQuiet : ReportParagraph::eNormal});
+}
+
+/// Those of the span that the report is about.
+void ReportFront::addNotes(ReportDocument& document, const std::vector<CycleNote>& notes) const
+{
+    ReportTable table{tr("Notes"), {{tr("Time"), false, {}, true}, {tr("Note")}}};
+    for (const CycleNote& note : notes) {
+        if (note.time < mLoaded.startTime || note.time > mLoaded.endTime)
+            continue;
+        table.columns[0].cells << CardContainer::time(note.time);
+        table.columns[1].cells << printable(note.text);
+    }
+    if (table.columns[0].cells.isEmpty())
+        return;
+    document.add(ReportHeading{tr("Notes")});
+    document.add(std::move(table));
 }
 
 QString ReportFront::moreText(const std::vector<IncidentSentence>& sentences, std::size_t told) const

@@ -17,7 +17,7 @@ public:
     /// @param loaded must outlive the document
     explicit ReportFront(const LoadedCard& loaded);
 
-    void addTo(ReportDocument& document) const;
+    void addTo(ReportDocument& document, const std::vector<CycleNote>& notes) const;
     [[nodiscard]] const std::vector<Incident>& incidents() const { return mpOverview->review.incidents; }
 
 private:
@@ -25,6 +25,7 @@ private:
     void addIdentity(ReportDocument& document) const;
     void addProblems(ReportDocument& document) const;
     void addIncidents(ReportDocument& document) const;
+    void addNotes(ReportDocument& document, const std::vector<CycleNote>& notes) const;
     [[nodiscard]] ReportPicture graph(const IncidentSentence& sentence) const;
     [[nodiscard]] QString moreText(const std::vector<IncidentSentence>& sentences, std::size_t told) const;
     [[nodiscard]] bool isFlight() const { return mLoaded.cycle && mLoaded.flightNumber > 0; }

@@ -56,6 +56,7 @@ struct CardFacts {
     std::string name;
     std::string engineId;                 ///< of its first cycle; without one, as of a card that does not tell its engine
     std::vector<std::string> cycleOfFile; ///< a cycle for each file; empty: none
+    std::vector<CycleHead> heads;         ///< of all its cycles that could be read
     std::vector<CycleFacts> cycles;       ///< those that were worked out now, not those that the store has
     std::vector<CardProblem> problems;
     bool isWhole = true; ///< else the system kept some of it from being read, and it is to be read again

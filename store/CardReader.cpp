@@ -46,7 +46,7 @@ CardFacts CardReader::read(CardListing listing, std::string& failure)
     CardFacts card;
     card.listing = std::move(listing);
     card.cycleOfFile.resize(card.listing.files.size());
-    CardContainer container(mConsole, mContext, nullProgress());
+    CardContainer container(mConsole, mContext, mProgress);
     if (!container.readContainer(decodeFileName(card.listing.path))) {
         const std::string& reason = card.listing.problem;
         card.problems.push_back({{}, reason.empty() ? tr("the folder cannot be listed") : QString::fromStdString(reason), true});
@@ -70,6 +70,8 @@ void CardReader::readCycles(CardContainer& container, CardFacts& card, std::stri
         std::vector<CardProblem> told;
         if (card.engineId.empty())
             card.engineId = head.engine.id;
+        if (!id.empty() && !mSeen.contains(id))
+            card.heads.push_back(head);
         const bool isDone = !id.empty() && (mSeen.contains(id) || mTarget.hasCycle(head, told));
         if (id.empty() || (!isDone && !readCycle(container, std::move(head), card, failure)))
             card.isWhole = false;
@@ -77,6 +79,8 @@ void CardReader::readCycles(CardContainer& container, CardFacts& card, std::stri
             markFiles(card, cycle, id);
         mSeen.insert(id);
         keepProblems(told, card);
+        if (mProgress.isCancelled())
+            failure = tr("ended before it was done").toStdString();
         if (!failure.empty())
             return;
     }
@@ -107,7 +111,8 @@ bool CardReader::readCycle(CardContainer& container, CycleHead head, CardFacts& 
                      reviewCycle(container.values(), cycle.flights, container.endTime(), EKeyValues::eAll),
                      problems,
                      hoursReading(container.values(), PowerUp::of(cycle))};
-    failure = mTarget.takeLoaded(card.listing, facts, container.values());
+    if (!mProgress.isCancelled())
+        failure = mTarget.takeLoaded(card.listing, facts, container.values());
     card.cycles.push_back(std::move(facts));
     return true;
 }

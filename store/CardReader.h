@@ -7,14 +7,16 @@
 
 namespace ZARN {
 
+class Progress;
+
 /// Reads one card: its cycles one after the other, each worked out and forgotten. For one thread; many may read cards side by side.
 class CardReader {
     Q_DECLARE_TR_FUNCTIONS(ZARN::CardReader)
 
 public:
-    /// @param context metric; all must outlive the reader
-    CardReader(const Console& console, const DecodingContext& context, ScanTarget& target)
-        : mConsole(console), mContext(context), mTarget(target)
+    /// @param context metric; @param progress may cancel it, and the card is worth nothing then; all must outlive the reader
+    CardReader(const Console& console, const DecodingContext& context, ScanTarget& target, Progress& progress)
+        : mConsole(console), mContext(context), mTarget(target), mProgress(progress)
     {
     }
 
@@ -30,6 +32,7 @@ private:
     const Console& mConsole;
     const DecodingContext& mContext;
     ScanTarget& mTarget;
+    Progress& mProgress;
     std::set<std::string> mSeen; ///< cycles of the card
 };
 

@@ -17,7 +17,7 @@ CardScan::Result CardScan::read(const std::string& path) const
         return result;
     const std::string kept = listing.path;
     try {
-        result.card = CardReader(mConsole, mContext, mTarget).read(std::move(listing), result.failure);
+        result.card = CardReader(mConsole, mContext, mTarget, mProgress).read(std::move(listing), result.failure);
     } catch (const std::exception& error) { // too little memory, as a rule: the other cards need not be as large
         result.card = {};
         result.card.listing.path = kept;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/Progress.h"
 #include "store/ScanTarget.h"
 
 #include <condition_variable>
@@ -28,9 +29,9 @@ class CardScan {
 public:
     using Told = std::function<void(const ScanCount&)>;
 
-    /// @param context metric; @param jobs how many cards are read side by side
-    CardScan(const Console& console, const DecodingContext& context, ScanTarget& target, unsigned int jobs)
-        : mConsole(console), mContext(context), mTarget(target), mJobs(jobs)
+    /// @param context metric; @param jobs how many cards are read side by side; @param progress of one card may end it
+    CardScan(const Console& console, const DecodingContext& context, ScanTarget& target, unsigned int jobs, Progress& progress = nullProgress())
+        : mConsole(console), mContext(context), mTarget(target), mJobs(jobs), mProgress(progress)
     {
     }
 
@@ -56,6 +57,7 @@ private:
     const DecodingContext& mContext;
     ScanTarget& mTarget;
     const unsigned int mJobs;
+    Progress& mProgress;
     ScanCount mCount;
     std::mutex mGuard; // of what follows
     std::condition_variable mChanged;

@@ -38,6 +38,9 @@ void CardWriter::write(const CardFacts& facts)
         writeFailure(card, facts);
         return;
     }
+    Statement& number = mDatabase.prepared("UPDATE cycle SET number = ?1 WHERE cycle_id = ?2 AND card_id = ?3 AND number <> ?1");
+    for (const CycleHead& cycle : facts.heads) // older files may be gone from the card
+        number.with({int64_t{cycle.number}, cycle.id, card}).run();
     for (const CycleFacts& cycle : facts.cycles) {
         if (!hasCycle(cycle.head.id)) // another card, or another program, may have brought it meanwhile
             writeCycle(card, cycle);
@@ -184,6 +187,20 @@ void CardWriter::writeCycle(int64_t card, const CycleFacts& cycle)
         for (const Row& row : rows[static_cast<std::size_t>(table)])
             insert(static_cast<EStoreTable>(table), row);
     }
+    joinEngine(cycle.head);
+}
+
+/// The user may have said that the engine of the card is another one.
+void CardWriter::joinEngine(const CycleHead& cycle)
+{
+    mDatabase
+        .prepared("INSERT OR REPLACE INTO merged_cycle SELECT ?1, engine_id FROM engine_merge WHERE engine_id = ?2")
+        .with({cycle.id, cycle.engine.id})
+        .run();
+    mDatabase
+        .prepared("UPDATE cycle SET engine_id = merged_into FROM engine_merge WHERE cycle_id = ?1 AND engine_merge.engine_id = ?2")
+        .with({cycle.id, cycle.engine.id})
+        .run();
 }
 
 } // namespace ZARN

@@ -25,6 +25,7 @@ private:
     void writeCycle(int64_t card, const CycleFacts& cycle);
     void writeReading(const std::string& engine, const HoursReading& reading);
     void writeEngine(const EngineIdentity& engine);
+    void joinEngine(const CycleHead& cycle);
     void insert(EStoreTable table, const Row& row);
     /// Whether the one cycle is the other one, of which more was recorded.
     [[nodiscard]] bool isBeginning(const std::string& oldCycle, const std::string& newCycle);

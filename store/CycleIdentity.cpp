@@ -52,29 +52,37 @@ std::string engineOfCard(const std::string& name)
     return "card:" + storeText(name);
 }
 
+EngineIdentity cycleEngine(const CardContainer& card, const RecordCycle& cycle)
+{
+    EngineIdentity engine;
+    for (const RecordInfo& info : cycle.files) { // of a text that differs, the last one that is there counts
+        const auto take = [](std::string& text, const std::string& told) { text = told.empty() ? text : storeText(told); };
+        take(engine.serial, info.engineSerial);
+        take(engine.type, info.engineType);
+        take(engine.ecuType, info.ecuType);
+        if (info.ecuSerialNumber != 0)
+            engine.ecuSerial = info.ecuSerialNumber;
+    }
+    if (!engine.serial.empty())
+        engine.id = engine.serial;
+    else if (engine.ecuSerial)
+        engine.id = "ecu:" + std::to_string(*engine.ecuSerial);
+    else
+        engine.id = engineOfCard(encodeFileName(card.name()));
+    return engine;
+}
+
+std::vector<std::string> cyclePaths(const RecordCycle& cycle)
+{
+    std::vector<std::string> paths;
+    for (const RecordInfo& info : cycle.files)
+        paths.push_back(encodeFileName(info.fileName));
+    return paths;
+}
+
 CycleHead cycleHead(const CardContainer& card, uint32_t number, const RecordCycle& cycle)
 {
-    CycleHead head;
-    head.number = number;
-    head.dateTime = cycle.dateTime;
-    std::vector<std::string> paths;
-    for (const RecordInfo& info : cycle.files) { // of a text that differs, the last one that is there counts
-        paths.push_back(encodeFileName(info.fileName));
-        const auto take = [](std::string& text, const std::string& told) { text = told.empty() ? text : storeText(told); };
-        take(head.engine.serial, info.engineSerial);
-        take(head.engine.type, info.engineType);
-        take(head.engine.ecuType, info.ecuType);
-        if (info.ecuSerialNumber != 0)
-            head.engine.ecuSerial = info.ecuSerialNumber;
-    }
-    head.id = cycleIdentity(paths);
-    if (!head.engine.serial.empty())
-        head.engine.id = head.engine.serial;
-    else if (head.engine.ecuSerial)
-        head.engine.id = "ecu:" + std::to_string(*head.engine.ecuSerial);
-    else
-        head.engine.id = engineOfCard(encodeFileName(card.name()));
-    return head;
+    return {cycleIdentity(cyclePaths(cycle)), cycleEngine(card, cycle), number, cycle.dateTime};
 }
 
 } // namespace ZARN

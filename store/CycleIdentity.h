@@ -8,6 +8,10 @@ namespace ZARN {
 /// The SHA-256 over the files of a cycle in order: of each its size as decimal text and a line feed, its first and its last 64 KiB.
 /// Empty when one of them cannot be read.
 [[nodiscard]] std::string cycleIdentity(const std::vector<std::string>& paths);
+/// The files of a cycle, in order.
+[[nodiscard]] std::vector<std::string> cyclePaths(const RecordCycle& cycle);
+/// The engine that a cycle of a card tells of.
+[[nodiscard]] EngineIdentity cycleEngine(const CardContainer& card, const RecordCycle& cycle);
 /// The same of a cycle of a card, and whose it is.
 [[nodiscard]] CycleHead cycleHead(const CardContainer& card, uint32_t number, const RecordCycle& cycle);
 

@@ -152,6 +152,16 @@ Database::Database(const std::string& path, EMode mode) : mPath(path)
     }
     if (mode == eReadWrite && sqlite3_db_readonly(mpDatabase, "main") == 1)
         fail(tr("it cannot be written, only read"));
+    if (::stat(path.c_str(), &status) == 0) {
+        mDevice = status.st_dev;
+        mInode = status.st_ino;
+    }
+}
+
+bool Database::isInPlace() const
+{
+    struct stat status = {};
+    return ::stat(mPath.c_str(), &status) == 0 && status.st_dev == mDevice && status.st_ino == mInode;
 }
 
 bool Database::open(const std::string& name, int flags)

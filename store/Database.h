@@ -78,6 +78,8 @@ public:
     void failDamaged();
     /// Undoes the open transaction, whatever failed in it.
     void rollBack();
+    /// Whether the open file is still the one of that name: what goes into one that was removed or replaced would be lost without a word.
+    [[nodiscard]] bool isInPlace() const;
     void close();
 
 private:
@@ -91,6 +93,8 @@ private:
     std::string mError;
     EFailure mFailure = eNone;
     sqlite3* mpDatabase = nullptr;
+    uint64_t mDevice = 0; ///< where the open file is
+    uint64_t mInode = 0;
     std::map<std::string, std::unique_ptr<Statement>> mStatements;
 };
 

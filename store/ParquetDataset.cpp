@@ -14,6 +14,7 @@ namespace {
 constexpr const char* kMadeBy = "zarn.made_by";    // the note that tells by what a cycle was worked out
 constexpr const char* kSamples = "zarn.samples";   // that of the samples that are kept
 constexpr const char* kProblems = "zarn.problems"; // and that of what was found wrong with it
+constexpr const char* kFiles = "zarn.files";       // that of the files of a card and their cycles
 constexpr const char* kSamplesFolder = "samples";
 
 constexpr std::size_t kLongestFolder = 255 - (sizeof "engine=" - 1);
@@ -63,6 +64,20 @@ EParquetSamples samplesOf(const std::string& text)
     if (text == "10")
         return EParquetSamples::eTicks10;
     return text == "all" ? EParquetSamples::eAll : EParquetSamples::eNone;
+}
+
+/// The files of a card, a line each, with the cycles that they belong to.
+std::string filesOf(const CardFacts& card)
+{
+    std::string text;
+    for (std::size_t i = 0; i < card.listing.files.size(); ++i) {
+        const ListedFile& file = card.listing.files[i];
+        const auto cycle = std::ranges::find(card.heads, card.cycleOfFile[i], &CycleHead::id);
+        if (cycle != card.heads.end())
+            text += storeText(file.name) + "\t" + std::to_string(file.size) + "\t" + cycle->id + "\t" + cycle->engine.id + "\t" +
+                    std::to_string(cycle->number) + "\t" + storeDate(cycle->dateTime) + "\n";
+    }
+    return text;
 }
 
 /// A problem a line: the file, a tab and the reason.
@@ -170,11 +185,38 @@ std::string ParquetDataset::takeLoaded(const CardListing& card, const CycleFacts
 /// The date of a cycle without a clock of its own may become known from the file that follows it on the card.
 void ParquetDataset::forgetUndated(const CycleHead& cycle) const
 {
-    if (!cycle.dateTime.isValid())
-        return;
+    if (cycle.dateTime.isValid())
+        forgetFiles(cycle, {});
+}
+
+void ParquetDataset::forgetFiles(const CycleHead& cycle, const QDateTime& month) const
+{
     for (int table = eCycleTable; table <= eStoreTables; ++table) {
         const std::string folder = table == eStoreTables ? kSamplesFolder : storeTable(static_cast<EStoreTable>(table)).folder;
-        ::unlink(cyclePath(folder, cycle, {}).c_str());
+        ::unlink(cyclePath(folder, cycle, month).c_str());
+    }
+}
+
+/// A cycle one of whose files has grown since, and belongs to another one of that engine and number now, was the beginning of that: a card
+/// that was read while it was copied.
+void ParquetDataset::forgetBeginnings(const CardFacts& card, const std::string& before) const
+{
+    const std::vector<ListedFile>& files = card.listing.files;
+    for (const QString& line : QString::fromStdString(before).split('\n', Qt::SkipEmptyParts)) {
+        const QStringList fields = line.split('\t');
+        if (fields.size() != 6)
+            continue;
+        CycleHead old;
+        old.id = fields[2].toStdString();
+        old.engine.id = fields[3].toStdString();
+        old.number = fields[4].toUInt();
+        const bool isThere = std::ranges::find(card.cycleOfFile, old.id) != card.cycleOfFile.end();
+        for (std::size_t i = 0; i < files.size() && !isThere; ++i) {
+            const auto now = std::ranges::find(card.heads, card.cycleOfFile[i], &CycleHead::id);
+            if (storeText(files[i].name) == fields[0].toStdString() && files[i].size > fields[1].toLongLong() && now != card.heads.end() &&
+                now->engine.id == old.engine.id && now->number == old.number)
+                forgetFiles(old, QDateTime::fromString(fields[5], Qt::ISODate));
+        }
     }
 }
 
@@ -189,12 +231,15 @@ std::string ParquetDataset::write(const CardFacts& card)
     const std::string problem = makeFolderOf(file);
     if (!problem.empty())
         return problem;
+    ParquetFile::Notes before = ParquetFile::notesOf(file);
+    if (card.isWhole)
+        forgetBeginnings(card, before[kFiles]);
     ParquetFile written(file, {{"card_id", ParquetColumn::eText},
                                {"file", ParquetColumn::eText},
                                {"reason", ParquetColumn::eText},
                                {"path", ParquetColumn::eText}});
     written.addRows(rows);
-    return written.finish({});
+    return written.finish({{kFiles, card.isWhole ? filesOf(card) : before[kFiles]}});
 }
 
 } // namespace ZARN

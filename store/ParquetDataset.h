@@ -30,6 +30,8 @@ private:
                                    const std::string& name) const;
     [[nodiscard]] std::string cyclePath(const std::string& table, const CycleHead& cycle, const QDateTime& month) const;
     [[nodiscard]] ParquetFile::Notes notes(const std::vector<CardProblem>& problems) const;
+    void forgetFiles(const CycleHead& cycle, const QDateTime& month) const;
+    void forgetBeginnings(const CardFacts& card, const std::string& before) const;
     void forgetUndated(const CycleHead& cycle) const;
 
     const std::string mFolder;

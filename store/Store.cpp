@@ -7,63 +7,38 @@
 #include "store/StoreText.h"
 
 #include <algorithm>
-#include <cstdio>
-
-#include <sys/stat.h>
 
 namespace ZARN {
 
 Store::Store(const std::string& path, AnalysisKey key) : mKey(std::move(key)), mDatabase(path, Database::eReadWrite)
 {
     if (mDatabase.isGood())
-        open(path);
-    mError = mDatabase.error();
-    if (mDatabase.failure() == Database::eDamaged)
-        putAside();
+        open();
+    finishFailure();
 }
 
-void Store::open(const std::string& path)
+void Store::open()
 {
-    mDatabase.run("PRAGMA foreign_keys = ON");
-    if (!StoreSchema::bringUp(mDatabase)) // first, so that what is no store stays as it is
+    if (!StoreSchema::prepare(mDatabase))
         return;
-    mDatabase.run("PRAGMA journal_mode = WAL");
-    mDatabase.run("PRAGMA synchronous = NORMAL");
     Statement check(mDatabase, "PRAGMA quick_check(1)");
     if (check.next() && check.text(0) != "ok")
         mDatabase.failDamaged();
-    struct stat status = {};
-    if (::stat(path.c_str(), &status) == 0) {
-        mDevice = status.st_dev;
-        mInode = status.st_ino;
-    }
 }
 
 /// A damaged store is not written any more: it is kept under another name, so that the next scan makes a sound one.
-void Store::putAside()
+void Store::finishFailure()
 {
-    const std::string path = mDatabase.path();
-    mDatabase.close();
-    const std::string aside = path + ".damaged-" + QDateTime::currentDateTime().toString("yyyyMMdd-hhmmss").toStdString();
-    bool isAside = std::rename(path.c_str(), aside.c_str()) == 0;
-    for (const char* companion : {"-wal", "-shm"}) {
-        struct stat status = {};
-        if (isAside && ::stat((path + companion).c_str(), &status) == 0)
-            isAside = std::rename((path + companion).c_str(), (aside + companion).c_str()) == 0;
-    }
-    if (!isAside)
+    mError = mDatabase.error();
+    if (mDatabase.failure() != Database::eDamaged)
         return;
-    mError += tr("; it was put aside as %1, and the next scan makes it anew").arg(QString::fromStdString(storeText(aside))).toStdString();
-    if (const std::size_t rows = rescueTyped(aside, path))
-        mError += tr("; rows of notes, services and readings that were kept: %1").arg(rows).toStdString();
+    mDatabase.close();
+    mError += putAside(mDatabase.path());
 }
 
-/// What goes into a file that has no name any more would be lost without a word.
 void Store::checkPlace()
 {
-    struct stat status = {};
-    const bool isThere = ::stat(mDatabase.path().c_str(), &status) == 0;
-    if (!isThere || status.st_dev != mDevice || status.st_ino != mInode)
+    if (mDatabase.isGood() && !mDatabase.isInPlace())
         mDatabase.fail(tr("the store was removed or replaced while it was written"));
 }
 
@@ -79,9 +54,7 @@ template <typename Work> const std::string& Store::write(Work work)
             work();
         transaction.commit();
     }
-    mError = mDatabase.error();
-    if (mDatabase.failure() == Database::eDamaged)
-        putAside();
+    finishFailure();
     return mError;
 }
 

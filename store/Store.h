@@ -29,9 +29,9 @@ public:
     std::string finish();
 
 private:
-    void open(const std::string& path);
-    void putAside();
+    void open();
     void checkPlace();
+    void finishFailure();
     /// Does work on the database, in a transaction. @return error()
     template <typename Work> const std::string& write(Work work);
 
@@ -39,8 +39,6 @@ private:
     std::mutex mGuard;
     Database mDatabase;
     std::string mError;
-    uint64_t mDevice = 0; ///< where the open file is
-    uint64_t mInode = 0;
 };
 
 } // namespace ZARN

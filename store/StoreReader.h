@@ -21,6 +21,8 @@ public:
     [[nodiscard]] const std::string& error() const { return mDatabase.error(); }
     /// The engines by identifier; with a serial number, the one that has it or is called so.
     [[nodiscard]] std::vector<std::string> engines(const std::string& serial = {});
+    /// The engine that one is since the user said so; else itself.
+    [[nodiscard]] std::string engineOf(const std::string& engine);
     /// The trends of an engine, by parameter and phase.
     [[nodiscard]] std::vector<Trend> trends(const std::string& engine, const TrendFilter& filter = {});
     /// Where the flights of a cycle stand in the order of time; empty when the store does not have it.

@@ -4,8 +4,9 @@
 
 namespace ZARN {
 
-/// Takes over what people typed (services, readings, notes) from a damaged store into a new one, as far as it can be read: no scan brings that
-/// back. @return how many rows; without any no new store is made
-std::size_t rescueTyped(const std::string& damaged, const std::string& fresh);
+/// Gives a damaged store another name, so that the next scan makes a sound one, and takes what people typed (services, readings, notes,
+/// names of aircraft, which engines are one) over into a new one, as far as it can be read: no scan brings that back.
+/// @return "; ..." for people, what became of it; empty when it could not be put aside
+[[nodiscard]] std::string putAside(const std::string& path);
 
 } // namespace ZARN

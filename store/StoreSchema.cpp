@@ -49,8 +49,17 @@ CREATE INDEX reading_engine ON reading (engine_id);
 CREATE INDEX note_cycle ON note (cycle_id);
 )sql";
 
+// What people tell of their engines: the aircraft, and which of those that tell no serial number are one. A merged engine keeps its row and
+// what was typed for it; the cycles know where they came from, so that it can be undone.
+constexpr const char* kSecond = R"sql(
+CREATE TABLE aircraft (engine_id TEXT PRIMARY KEY REFERENCES engine, name TEXT NOT NULL) WITHOUT ROWID;
+CREATE TABLE engine_merge (engine_id TEXT PRIMARY KEY REFERENCES engine, merged_into TEXT NOT NULL REFERENCES engine) WITHOUT ROWID;
+CREATE TABLE merged_cycle (cycle_id TEXT PRIMARY KEY REFERENCES cycle ON DELETE CASCADE, engine_id TEXT NOT NULL) WITHOUT ROWID;
+CREATE INDEX engine_merge_into ON engine_merge (merged_into);
+)sql";
+
 /// Step n leads from the form n to n + 1; the form 0 is an empty file.
-constexpr std::array kSteps{kFirst};
+constexpr std::array kSteps{kFirst, kSecond};
 
 bool isEmpty(Database& database)
 {
@@ -72,6 +81,14 @@ bool StoreSchema::check(Database& database)
     if (database.isGood() && version < kVersion)
         return database.fail(version == 0 ? tr("the store is empty") : tr("the store is of an older version: scan a card into it first"));
     return database.isGood();
+}
+
+bool StoreSchema::prepare(Database& database)
+{
+    database.run("PRAGMA foreign_keys = ON");
+    if (!bringUp(database)) // first, so that what is no store stays as it is
+        return false;
+    return database.run("PRAGMA journal_mode = WAL") && database.run("PRAGMA synchronous = NORMAL");
 }
 
 bool StoreSchema::bringUp(Database& database)

@@ -17,6 +17,8 @@ public:
     /// Brings an open store to the present form, in one transaction; an empty file becomes a store. @return false, with the reason noted in the
     /// database, when it is a newer one, or of another program.
     static bool bringUp(Database& database);
+    /// The same to an open file that is going to be written, in the ways in which stores are written.
+    static bool prepare(Database& database);
     /// Whether an open file has the present form; else the reason is noted.
     static bool check(Database& database);
 };

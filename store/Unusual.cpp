@@ -16,9 +16,9 @@ constexpr const char* kLast = "~"; // behind every date
 constexpr int64_t kNoCard = std::numeric_limits<int64_t>::max();
 
 /// Where each flight stands in time among those of the store.
-std::vector<Place> placesOf(StoreReader& store, const CycleHead& cycle, std::span<const RecordFlight> flights)
+std::vector<Place> placesOf(StoreReader& store, const std::string& engine, const CycleHead& cycle, std::span<const RecordFlight> flights)
 {
-    std::vector<Place> places = store.places(cycle.engine.id, cycle.id);
+    std::vector<Place> places = store.places(engine, cycle.id);
     for (std::size_t i = places.size(); i < flights.size(); ++i) {
         const std::string date = storeDate(flights[i].dateTime);
         places.push_back({date.empty() ? kLast : date, kNoCard, cycle.number, static_cast<int64_t>(i + 1)});
@@ -49,8 +49,9 @@ std::vector<double> figuresBefore(const Trend* pTrend, const CycleHead& cycle, s
 std::vector<Unusual> findUnusual(StoreReader& store, const CycleHead& cycle, std::span<const RecordFlight> flights,
                                  const CycleReview& review)
 {
-    const std::vector<Trend> trends = store.trends(cycle.engine.id);
-    const std::vector<Place> places = placesOf(store, cycle, flights);
+    const std::string engine = store.engineOf(cycle.engine.id);
+    const std::vector<Trend> trends = store.trends(engine);
+    const std::vector<Place> places = placesOf(store, engine, cycle, flights);
     const KeyValueTable& table = review.keyValues;
     std::vector<Unusual> found;
     for (const KeyValue& value : table.values) {

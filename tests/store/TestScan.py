@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""TestScan.py ZARN_CLI [KILLS]: the store that `scan` makes, against `summary` and `flights`, killed on the way, and of bad files."""
+"""TestScan.py ZARN_CLI [KILLS [CARDS]]: the store that `scan` makes, against `summary` and `flights`, killed on the way, and of bad files."""
 import contextlib
 import hashlib
 import math
@@ -62,19 +62,23 @@ def check_killed(folder, whole, kills):
 
 def check_changes(work, cards):
     """A card that was read while it was copied, one that was emptied and written anew, another variant of the analysis."""
-    card, store = f'{work}/changing', f'{work}/changes.sqlite'
+    card, store, dataset = f'{work}/changing', f'{work}/changes.sqlite', f'{work}/changes'
     shutil.copytree(cards[0], card)
     late = [name for name in sorted(os.listdir(card))][4:]
     for name in late:
         os.rename(f'{card}/{name}', f'{work}/{name}')
     with open(f'{work}/{late[-1]}', 'rb') as whole, open(f'{card}/{late[-1]}', 'wb') as beginning: # of a cycle without a clock
         beginning.write(whole.read(56128))
-    run('scan', card, '-o', store)
+    for form in ((store,), (dataset, '--format', 'parquet')):
+        run('scan', card, '-o', *form)
     part = rows(store, 'SELECT cycle_id FROM cycle WHERE number = 2')[0]['cycle_id']
     change(store, f"INSERT INTO note (cycle_id, time, text) VALUES ('{part}', 1, 'mine')")
     for name in late:
         os.rename(f'{work}/{name}', f'{card}/{name}')
-    run('scan', card, '-o', store)
+    for form in ((store,), (dataset, '--format', 'parquet')):
+        run('scan', card, '-o', *form)
+    kept = {name for table in ('cycles', 'flights') for _, _, names in os.walk(f'{dataset}/{table}') for name in names}
+    assert kept == {row['cycle_id'] + '.parquet' for row in rows(store, 'SELECT cycle_id FROM cycle')}
     assert [row['number'] for row in rows(store, 'SELECT number FROM cycle ORDER BY number')] == [1, 2, 3]
     assert rows(store, 'SELECT number FROM note JOIN cycle USING (cycle_id)') == [{'number': 2}]
     check_values(store, card)
@@ -84,8 +88,12 @@ def check_changes(work, cards):
     shutil.copytree(cards[1], card)
     run('scan', card, '-o', store)
     assert len(rows(store, 'SELECT 1 FROM cycle')) == 6 and rows(store, 'SELECT 1 FROM problem') == []
-    change(store, "UPDATE cycle SET analysis_version = 0, verdict = 'x' WHERE number = 2")
+    other = {row['engine_id'] for row in rows(store, 'SELECT engine_id FROM cycle')} - {'DEMO-000001'}
+    change(store, *(f"INSERT INTO engine_merge VALUES ('{engine}', 'DEMO-000001')" for engine in other),
+           "UPDATE cycle SET analysis_version = 0, verdict = 'x' WHERE number = 2")
     run('scan', card, '-o', store)
+    moved = rows(store, 'SELECT merged_cycle.engine_id AS own, cycle.engine_id AS now FROM merged_cycle JOIN cycle USING (cycle_id)')
+    assert moved and {row['own'] for row in moved} <= other and {row['now'] for row in moved} == {'DEMO-000001'}
     assert len(rows(store, "SELECT 1 FROM cycle WHERE verdict = 'x'")) == 1 and len(rows(store, 'SELECT 1 FROM note')) == 1
 
 
@@ -109,7 +117,11 @@ def check_bad_stores(work, card):
     change(newer, "INSERT INTO reading VALUES ('DEMO-000001', '2025-01-01T00:00:00', 12.5, 'typed')")
     shutil.copy(newer, damaged)
     shutil.copy(newer, locked)
-    change(newer, 'PRAGMA user_version = 2')
+    before = dump(newer)
+    change(newer, *(f'DROP TABLE {table}' for table in ('merged_cycle', 'engine_merge', 'aircraft')), 'PRAGMA user_version = 1')
+    run('scan', card, '-o', newer)
+    assert dump(newer) == before    # the form before this one
+    change(newer, 'PRAGMA user_version = 99')
     refused(card, newer, 'newer version')
     with open(damaged, 'r+b') as file:
         for row in rows(damaged, "SELECT rootpage FROM sqlite_master WHERE name IN ('key_value', 'episode')"):
@@ -142,12 +154,13 @@ def main():
     kills = int(sys.argv[2]) if len(sys.argv) > 2 else 6
     with tempfile.TemporaryDirectory() as work:
         folder, store = f'{work}/cards', f'{work}/store.sqlite'
-        cards = make_cards(folder, 6)
+        count = int(sys.argv[3]) if len(sys.argv) > 3 else 6
+        cards = make_cards(folder, count)
         run('scan', folder, '-o', store, '--jobs', 1)
         whole = dump(store)
         for card in [*cards[:2], f'{folder}/twin', f'{folder}/zbad']:
             check_values(store, card)
-        assert len(rows(store, 'SELECT 1 FROM card')) == 8 and len(rows(store, 'SELECT 1 FROM cycle')) == 6 * 3 + 2
+        assert len(rows(store, 'SELECT 1 FROM card')) == count + 2 and len(rows(store, 'SELECT 1 FROM cycle')) == count * 3 + 2
         assert [row['file'] for row in rows(store, 'SELECT file FROM problem ORDER BY file')] == ['LOG00001.CAN', 'LOG00002.CAN']
         damaged = rows(store, "SELECT engine_id FROM cycle JOIN card USING (card_id) WHERE name = 'zbad' ORDER BY number")
         assert [row['engine_id'] for row in damaged] == ['DEMO-000001', 'card:zbad']

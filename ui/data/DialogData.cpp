@@ -149,6 +149,10 @@ void DialogData::linkViews()
     connect(&mRecord, &RecordSession::recordChanged, this, &DialogData::slotRecord);
     connect(&mRecord, &RecordSession::decodingChanged, this, &DialogData::slotEvents);
     connect(&mRecord, &RecordSession::timeChanged, this, &DialogData::updateDisplay);
+    connect(&mRecord, &RecordSession::notesChanged, this, [this] {
+        for (const DataViewEntry& entry : mViews.entries)
+            entry.pView->setNotes(mRecord.notes());
+    });
 }
 
 void DialogData::slotRecord()

@@ -54,7 +54,7 @@ QTableWidgetItem* createItem(const QString& text)
 } // namespace
 
 DialogDataEvents::DialogDataEvents(const Session& session, const Kind& kind, QWidget* pParent)
-    : QWidget(pParent), mSession(session), mKind(kind), mpTable(new QTableWidget), mpHint(new QLabel)
+    : QWidget(pParent), mSession(session), mKind(kind), mpTable(new QTableWidget), mpHint(new QLabel), mpNotes(new QLabel)
 {
     createTable();
     updateFonts();
@@ -68,6 +68,23 @@ DialogDataEvents::DialogDataEvents(const Session& session, const Kind& kind, QWi
     pLayout->setContentsMargins(0, 0, 0, 0);
     pLayout->addWidget(mpTable);
     pLayout->addWidget(mpHint);
+    pLayout->addWidget(mpNotes);
+    mpNotes->setTextFormat(Qt::RichText);
+    mpNotes->setWordWrap(true);
+    mpNotes->setMargin(6);
+    mpNotes->hide();
+    connect(mpNotes, &QLabel::linkActivated, this, [this](const QString& time) { Q_EMIT signalTime(time.toDouble()); });
+}
+
+void DialogDataEvents::setNotes(const std::vector<CycleNote>& notes)
+{
+    QStringList lines;
+    for (const CycleNote& note : notes) {
+        lines.append(QStringLiteral("<a href=\"%1\">%2</a> %3")
+                         .arg(QString::number(note.time, 'g', 17), signedTimeText(wholeMilliseconds(note.time)), note.text.toHtmlEscaped()));
+    }
+    mpNotes->setText(tr("Notes:") + "<br>" + lines.join("<br>"));
+    mpNotes->setVisible(!notes.empty());
 }
 
 void DialogDataEvents::createTable()

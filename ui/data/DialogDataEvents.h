@@ -33,6 +33,8 @@ public:
     /// Those of the selected flight, or all.
     [[nodiscard]] int eventCount() const override;
     [[nodiscard]] const EventList* eventList() const override { return &mEvents; }
+    /// Below the events, each with its moment to be chosen.
+    void setNotes(const std::vector<CycleNote>& notes) override;
 
 Q_SIGNALS:
     /// The time of the event that the user chose, in seconds.
@@ -77,6 +79,7 @@ private:
     EventList mEvents;
     QTableWidget* mpTable;
     QLabel* mpHint;
+    QLabel* mpNotes;
     double mTime = 0.0;       ///< the view time that was told last
     bool mPrepared = false;   ///< the events are found, but not in the rows
     bool mIsSought = false;   ///< they are to be found in another thread

@@ -107,6 +107,12 @@ void DialogDataGraph::updateProfile()
     updateSetup();
 }
 
+void DialogDataGraph::setNotes(const std::vector<CycleNote>& notes)
+{
+    graphData().notes = notes;
+    mpGraph->model().settingsChanged();
+}
+
 void DialogDataGraph::updateSettings()
 {
     mRecord.updateSettings();

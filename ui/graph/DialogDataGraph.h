@@ -29,6 +29,7 @@ public:
     void setTime(double time) override;
     void setZarnMode(int mode) override;
     void updateSettings() override;
+    void setNotes(const std::vector<CycleNote>& notes) override;
     [[nodiscard]] std::optional<TimeSpan> shownSpan() const override;
     void showSpan(const TimeSpan& span, const std::set<std::string>& parameters) override;
     void setFound(const std::vector<TimeSpan>& spans) override;

@@ -25,10 +25,12 @@
 #include "ui/main/FindController.h"
 #include "ui/main/FolderDrop.h"
 #include "ui/main/LayoutController.h"
+#include "ui/main/LogbookController.h"
 #include "ui/main/MainActions.h"
 #include "ui/main/MainCommands.h"
 #include "ui/main/MainPanels.h"
 #include "ui/main/MainToolBar.h"
+#include "ui/main/NoteController.h"
 #include "ui/main/Notices.h"
 #include "ui/main/OverviewController.h"
 #include "ui/main/ProfileController.h"
@@ -37,6 +39,7 @@
 #include "ui/main/StatusProgress.h"
 #include "ui/main/WidgetWelcome.h"
 #include "ui/main/WindowLayout.h"
+#include "ui/overview/DialogOverview.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -182,6 +185,10 @@ void DialogMain::createControllers()
     mpOverview =
         new OverviewController(mSession, mRecord, *mpCardController, *mpCard, *mpData, mpPanels->pages(), *action(eActionOverview), this);
     mpFind = new FindController(mSession, mRecord, *mpData, mpPanels->pages(), *action(eActionFind), this);
+    mpLogbook = new LogbookController(mSession, {*mpCardController, *mpCard, *mpOverview, *mpPanels, *mpCommands, *mpNotices, mRecord},
+                                      QString::fromStdString(mEnvironment.folders.dataPath()), this);
+    const auto* pNotes = new NoteController(mSession, mRecord, mpLogbook->worker(), *mpCommands, *mpNotices, this);
+    connect(pNotes, &NoteController::signalChanged, &mpOverview->view(), &DialogOverview::reset);
     mpProfileController = std::make_unique<ProfileController>(mSession, *mpCatalogue, mpToolBar->profiles(), mpToolBar->units());
     mpLayout = std::make_unique<WindowLayout>(mSession.property, *this, *mpPanels, mpPanels->side());
     mpAbout = new DialogAbout(this);
@@ -217,8 +224,9 @@ void DialogMain::connectPanels()
     connect(mpCardController, &CardController::signalRecalculated, this, &DialogMain::slotRecalculated);
     connect(mpCardController, &CardController::signalCancelled, this, &DialogMain::showLoaded);
     connect(mpProjectController, &ProjectController::signalChanged, this, &DialogMain::slotProjectChanged);
-    connect(mpExportController, &ExportController::signalWritten, this,
-            [this](const QString& path) { statusBar()->showMessage(tr("Written: %1").arg(path), kMessageDuration); });
+    const auto tellWritten = [this](const QString& path) { statusBar()->showMessage(tr("Written: %1").arg(path), kMessageDuration); };
+    connect(mpExportController, &ExportController::signalWritten, this, tellWritten);
+    connect(mpLogbook, &LogbookController::signalWritten, this, tellWritten); });
     connect(&mpPanels->welcome(), &WidgetWelcome::signalOpenFolder, action(eActionOpenFolder), &QAction::trigger);
     connect(&mpPanels->welcome(), &WidgetWelcome::signalOpenDemoCard, this,
             [this] { mpCardController->openDemoCard(QString::fromStdString(mEnvironment.folders.dataPath())); });
@@ -255,7 +263,7 @@ void DialogMain::connectCommands()
     on(eActionExportKml, [this] { mpExportController->exportKml(); });
     on(eActionExportCsv, [this] { mpExportController->exportCsv(); });
     on(eActionExportGpx, [this] { mpExportController->exportGpx(); });
-    on(eActionReport, [this] { mpExportController->writeReport(); });
+    on(eActionReport, [this] { mpExportController->writeReport(mRecord.notes()); });
     mpCommands->handle(eActionOverview, [this](const QAction& action) { mpOverview->toggle(action.isChecked()); });
     on(eActionFind, [this] { mpFind->open(); });
     on(eActionNextIncident, [this] { mpOverview->step(true); });
@@ -318,6 +326,7 @@ void DialogMain::loadProfile()
     tellProfileProblem();
     mpProfileInfo->setProfileFile(mpProfileController->file(), mpProfileController->isChosenFile());
     mpProfileInfo->fillProfileInfo();
+    mpLogbook->setProfile(mpProfileController->file());
     mpProfile->setExamples(mpProfileController->formulas());
     mpProfile->updateProfile();
     mpLayoutController->setProfile(mpProfileController->file(), QString::fromStdString(mEnvironment.folders.resourcePath()));

@@ -27,6 +27,7 @@ class ExportController;
 class FindController;
 class LayoutBar;
 class LayoutController;
+class LogbookController;
 class MainCommands;
 class MainPanels;
 class MainToolBar;
@@ -153,6 +154,7 @@ private:
     ExportController* mpExportController = nullptr;
     FindController* mpFind = nullptr;
     OverviewController* mpOverview = nullptr;
+    LogbookController* mpLogbook = nullptr;
     LayoutController* mpLayoutController = nullptr;
     StyleWatch mStyle{QString()};
     QTimer mStartTimer;

@@ -127,7 +127,7 @@ void ExportController::exportGpx()
     run(path, work, {tr("ZARN Warning"), tr("Exporting GPX file failed !")});
 }
 
-void ExportController::writeReport()
+void ExportController::writeReport(const std::vector<CycleNote>& notes)
 {
     if (!mayExport())
         return;
@@ -143,8 +143,8 @@ void ExportController::writeReport()
     if (!format)
         return say(QMessageBox::Critical, tr("ZARN Warning"), tr("A report is a PDF or an HTML file: its name ends in .pdf or .html."));
     const ReportOptions options{QLocale::system().measurementSystem() == QLocale::ImperialUSSystem, *format};
-    const auto work = [path, options, loaded, flight = dialog.part()](Progress& progress) {
-        FlightReport report(loaded.withFlight(flight));
+    const auto work = [path, options, loaded, notes, flight = dialog.part()](Progress& progress) {
+        FlightReport report(loaded.withFlight(flight), notes);
         SafeFile file(QFile::encodeName(path).toStdString());
         const bool written = report.write(file, options, progress);
         return Outcome{written, report.error()};

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "card/CycleNote.h"
 #include "export/ExportCsv.h"
 #include "export/KmlExportOptions.h"
 #include "export/ui/ExportPart.h"
@@ -33,7 +34,8 @@ public:
     void exportKml();
     void exportCsv();
     void exportGpx();
-    void writeReport();
+    /// @param notes of the loaded data, which a report has too
+    void writeReport(const std::vector<CycleNote>& notes);
 
 Q_SIGNALS:
     /// A file was written.

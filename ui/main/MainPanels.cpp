@@ -42,11 +42,16 @@ QWidget* MainPanels::createRight()
     mpProblems->setWordWrap(true);
     mpProblems->hide();
     auto* pRight = new QWidget;
-    auto* pLayout = new QVBoxLayout(pRight);
-    pLayout->setContentsMargins(0, 0, 0, 0);
-    pLayout->addWidget(mpProblems);
-    pLayout->addWidget(mpPages, 1);
+    mpRight = new QVBoxLayout(pRight);
+    mpRight->setContentsMargins(0, 0, 0, 0);
+    mpRight->addWidget(mpProblems);
+    mpRight->addWidget(mpPages, 1);
     return pRight;
+}
+
+void MainPanels::addNotice(QWidget* pNotice)
+{
+    mpRight->insertWidget(0, pNotice);
 }
 
 void MainPanels::showData(bool isData)

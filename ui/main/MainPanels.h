@@ -4,6 +4,7 @@
 
 class QLabel;
 class QStackedWidget;
+class QVBoxLayout;
 
 namespace ZARN {
 
@@ -29,6 +30,8 @@ public:
     void showData(bool isData);
     /// For good: nothing is chosen, the data are all there is.
     void hideSide();
+    /// Puts something above all else of the right side; taken over.
+    void addNotice(QWidget* pNotice);
     /// What of the card could not be read; empty for nothing.
     void setProblems(const QString& problems);
 
@@ -38,6 +41,7 @@ private:
     QSplitter* mpSide;
     QStackedWidget* mpPages;
     WidgetWelcome* mpWelcome;
+    QVBoxLayout* mpRight = nullptr;
     QWidget* mpData;
     QLabel* mpProblems;
 };

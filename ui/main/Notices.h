@@ -18,7 +18,7 @@ class Notices : public QObject {
     Q_OBJECT
 
 public:
-    enum EProblem { eGraphics, eProfile, eSettings, eProject, eLayouts };
+    enum EProblem { eGraphics, eProfile, eSettings, eProject, eLayouts, eLogbook };
 
     explicit Notices(QMainWindow* pWindow);
 

@@ -28,6 +28,7 @@ public:
     OverviewController(const Session& session, RecordSession& record, CardController& cards, DialogCard& browser, DialogData& data,
                        QStackedWidget& pages, QAction& action, QObject* pParent = nullptr);
 
+    [[nodiscard]] DialogOverview& view() { return *mpOverview; }
     /// Another card is open: its overview is what is seen first.
     void showCard();
     /// Between the overview and what was seen before.

@@ -118,6 +118,15 @@ void DialogDataMap::setEvents(const EventList& limits, const EventList& lamps)
     mpMap->setDirty();
 }
 
+void DialogDataMap::setNotes(const std::vector<CycleNote>& notes)
+{
+    if (!mpMap)
+        return;
+    mpMap->scene().events().setNotes(notes);
+    mpMap->scene().events().place(mpMap->scene().path());
+    mpMap->setDirty();
+}
+
 void DialogDataMap::updateSettings()
 {
     if (!mpMap)

@@ -29,6 +29,7 @@ public:
     void setTime(double time) override;
     /// Marks the events of the lists on the path, in their colours.
     void setEvents(const EventList& limits, const EventList& lamps) override;
+    void setNotes(const std::vector<CycleNote>& notes) override;
     /// The settings were changed: tile server, consent, shading.
     void updateSettings() override;
     /// Keeps the panels in place.

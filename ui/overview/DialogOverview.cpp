@@ -21,7 +21,7 @@ constexpr int kProgressStep = 10; // percent
 
 DialogOverview::DialogOverview(const Session& session, QWidget* pParent)
     : QScrollArea(pParent), mSession(session), mReviewer(session), mpCardText(new QLabel), mpProgress(new QProgressBar),
-      mpEmpty(new QLabel), mpStopped(new QLabel), mpCards(new QVBoxLayout)
+      mpEmpty(new QLabel), mpServices(new QLabel), mpStopped(new QLabel), mpCards(new QVBoxLayout)
 {
     setObjectName("overview");
     setAccessibleName(tr("Overview"));
@@ -36,8 +36,9 @@ DialogOverview::DialogOverview(const Session& session, QWidget* pParent)
     auto* pHeading = new Heading(tr("Was the engine all right?"));
     pHeading->setWordWrap(true);
     pLayout->addWidget(pHeading);
-    for (QLabel* pLabel : {mpCardText, mpEmpty, mpStopped}) {
-        pLabel->setObjectName(pLabel == mpStopped ? "warning" : "quiet");
+    mpServices->hide();
+    for (QLabel* pLabel : {mpCardText, mpServices, mpEmpty, mpStopped}) {
+        pLabel->setObjectName(pLabel == mpStopped ? "warning" : pLabel == mpServices ? "services" : "quiet");
         pLabel->setTextFormat(Qt::PlainText);
         pLabel->setWordWrap(true);
         pLayout->addWidget(pLabel);
@@ -70,6 +71,12 @@ void DialogOverview::reset()
     mIsOld = !isVisible();
     if (!mIsOld)
         begin();
+}
+
+void DialogOverview::setServices(const QStringList& services)
+{
+    mpServices->setText(OverviewTexts::breakable(services.join('\n')));
+    mpServices->setVisible(!services.isEmpty());
 }
 
 void DialogOverview::begin()

@@ -26,6 +26,10 @@ public:
 
     /// Begins anew: another card is open, or another profile or unit in force. Works when it is seen; hidden, it waits for that.
     void reset();
+    /// What is known of cycles beside the card, from the next review on.
+    void setSupplement(CardReviewer::Supplement supplement) { mReviewer.setSupplement(std::move(supplement)); }
+    /// What has to be done to the engines of the card, a sentence each.
+    void setServices(const QStringList& services);
     /// Loads the newest flight, as Return does; when it is known, where the review has not come to it.
     void chooseNewest();
 
@@ -52,6 +56,7 @@ private:
     QLabel* mpCardText;
     QProgressBar* mpProgress;
     QLabel* mpEmpty;
+    QLabel* mpServices;
     QLabel* mpStopped; ///< why not all was reviewed
     QVBoxLayout* mpCards;
     std::vector<WidgetCycleCard*> mCards;

@@ -52,6 +52,8 @@ WidgetCycleCard::WidgetCycleCard(std::shared_ptr<const CycleOverview> pCycle, QW
         pLayout->addWidget(pStrip);
         addIncidents(*pLayout);
     }
+    if (const QStringList remarks = OverviewTexts::remarks(*mpCycle); !remarks.isEmpty())
+        pLayout->addWidget(makeLabel(new QLabel(remarks.join('\n')), "remarks"));
     auto* pBasis = makeLabel(new QLabel(OverviewTexts::basis(*mpCycle)), "quiet");
     pLayout->addWidget(pBasis);
     pLayout->addLayout(createFoot());

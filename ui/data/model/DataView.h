@@ -1,6 +1,7 @@
 #pragma once
 
 #include "analysis/TimeSpan.h"
+#include "card/CycleNote.h"
 #include "project/DisplayLayout.h"
 
 #include <optional>
@@ -54,6 +55,9 @@ public:
 
     /// How many events the view lists.
     [[nodiscard]] virtual int eventCount() const { return 0; }
+
+    /// Shows what somebody wrote about moments of the record, by time.
+    virtual void setNotes(const std::vector<CycleNote>& /*notes*/) {}
 
     /// Marks the events that the lists found, for a view that shows them among other things.
     virtual void setEvents(const EventList& /*limits*/, const EventList& /*lamps*/) {}

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "card/CycleNote.h"
 #include "ui/canvas/Palette.h"
 #include "ui/graph/model/ValueScale.h"
 
 #include <QString>
+
+#include <vector>
 
 namespace ZARN {
 
@@ -27,6 +30,7 @@ struct GraphData {
     bool legendOn = true;
     ValueScale scale{.lower = -100.0, .upper = 100.0};
     int firstTableRow = 0, firstLegendRow = 0; ///< of the marker's table and of the legend where they have no room for all
+    std::vector<CycleNote> notes = {}; ///< of the record, by time
     bool clickMovesCursor = false; ///< a click in the plot; otherwise it makes the marker a point
 };
 

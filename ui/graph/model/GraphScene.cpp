@@ -4,6 +4,7 @@
 #include "ui/graph/model/FoundMarks.h"
 #include "ui/graph/model/GraphAxes.h"
 #include "ui/graph/model/GraphTables.h"
+#include "ui/graph/model/NoteMarks.h"
 
 #include <algorithm>
 #include <cmath>
@@ -43,6 +44,7 @@ void GraphScene::draw(Canvas& canvas) const
     drawMarker(canvas);
     const CursorLabels cursor(mModel, mLayout);
     drawTopMarkers(canvas, cursor);
+    NoteMarks(mModel, mLayout, mLabels).draw(canvas);
     canvas.outline(mLayout.plot(), {mLabels.contrast(0.6)});
     drawHandles(canvas);
     const GraphTables tables(mModel, mLayout);

@@ -12,6 +12,7 @@ namespace ZARN {
 namespace {
 
 constexpr QRgb kNoColour = 0xff606060;
+constexpr QRgb kNoteColour = 0xff2060ff;
 constexpr double kOneDot = 3.0; // pixels by which dots may lie apart that nobody can point at one by one
 
 } // namespace
@@ -29,11 +30,24 @@ void MapEvents::add(const EventList& list)
         mAll.push_back({event.time, event.colour.isValid() ? event.colour : QColor(kNoColour), list.text(event), {}});
 }
 
+void MapEvents::setNotes(const std::vector<CycleNote>& notes)
+{
+    mNotes.clear();
+    for (const CycleNote& note : notes)
+        mNotes.push_back({note.time, QColor(kNoteColour), note.text.toStdString(), {}});
+}
+
 void MapEvents::place(const MapPath& path)
 {
     mDots.clear();
+    placeAll(mAll, path);
+    placeAll(mNotes, path); // above the others: there are few of them
+}
+
+void MapEvents::placeAll(const std::vector<MapEvent>& events, const MapPath& path)
+{
     const OpenStreet::Projection mercator(OpenStreet::ProjectionType::eMercator);
-    for (const MapEvent& event : mAll) {
+    for (const MapEvent& event : events) {
         if (!path.spans(event.time))
             continue;
         const FlightPathPoint at = path.positionAt(event.time);

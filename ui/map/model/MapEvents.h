@@ -1,6 +1,7 @@
 #pragma once
 
 #include "analysis/EventList.h"
+#include "card/CycleNote.h"
 #include "ui/map/model/MapPath.h"
 
 #include <QColor>
@@ -28,6 +29,8 @@ public:
     void clear();
     /// Adds those of a list, with their colours.
     void add(const EventList& list);
+    /// Takes these notes in place of those before; clear() leaves them.
+    void setNotes(const std::vector<CycleNote>& notes);
     /// Puts the events on the path.
     void place(const MapPath& path);
 
@@ -40,7 +43,10 @@ public:
     [[nodiscard]] static QString text(const std::vector<const MapEvent*>& events);
 
 private:
+    void placeAll(const std::vector<MapEvent>& events, const MapPath& path);
+
     std::vector<MapEvent> mAll;
+    std::vector<MapEvent> mNotes;
     std::vector<MapEvent> mDots;
 };
 

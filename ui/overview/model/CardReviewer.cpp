@@ -53,7 +53,7 @@ void noteDamages(CycleOverview& overview, const CardContainer& card)
 }
 
 /// The loaded cycle of a container, as a value of its own.
-std::shared_ptr<CycleOverview> overviewOf(const CardContainer& card, uint32_t number)
+std::shared_ptr<CycleOverview> overviewOf(const CardContainer& card, uint32_t number, const CardReviewer::Supplement& supplement)
 {
     const RecordCycle& cycle = card.recordCycles().at(number);
     auto pOverview = std::make_shared<CycleOverview>();
@@ -65,7 +65,9 @@ std::shared_ptr<CycleOverview> overviewOf(const CardContainer& card, uint32_t nu
     noteDamages(*pOverview, card);
     pOverview->problem = QString::fromStdString(card.loadError());
     if (pOverview->problem.isEmpty())
-        pOverview->review = reviewCycle(card.values(), cycle.flights, cycle.endTime);
+        pOverview->review = reviewCycle(card.values(), cycle.flights, cycle.endTime, supplement ? EKeyValues::eAll : EKeyValues::eNone);
+    if (pOverview->problem.isEmpty() && supplement)
+        supplement(*pOverview, card);
     return pOverview;
 }
 
@@ -100,8 +102,8 @@ void CardReviewer::begin()
         numbers.push_back(number);
     std::ranges::reverse(numbers);
     mTask.start([this, context = mSession.profile.context(), path = mSession.container.path(), generation = mGeneration,
-                 numbers](Progress& progress) {
-        mIsGone = !review(progress, context, path, numbers, [this, generation](std::shared_ptr<const CycleOverview> pCycle) {
+                 numbers, supplement = mSupplement](Progress& progress) {
+        mIsGone = !review(progress, context, path, numbers, supplement, [this, generation](std::shared_ptr<const CycleOverview> pCycle) {
             QMetaObject::invokeMethod(
                 this,
                 [this, generation, pCycle] {
@@ -127,7 +129,7 @@ void CardReviewer::finish()
 
 /// In a thread of its own.
 bool CardReviewer::review(Progress& progress, const DecodingContext& context, const QString& path, const std::vector<uint32_t>& numbers,
-                          const Tell& tell)
+                          const Supplement& supplement, const Tell& tell)
 {
     const Console silent([](std::string_view) {}, [](std::string_view) {}); // the window has its own lines about the same files
     CardContainer card(silent, context, nullProgress());
@@ -141,7 +143,7 @@ bool CardReviewer::review(Progress& progress, const DecodingContext& context, co
             return true;
         if (!isLoaded || isGone(card, number))
             return false;
-        tell(overviewOf(card, number));
+        tell(overviewOf(card, number, supplement));
         part.next();
     }
     return true;

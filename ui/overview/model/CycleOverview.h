@@ -1,6 +1,7 @@
 #pragma once
 
 #include "analysis/CycleReview.h"
+#include "card/CycleNote.h"
 
 #include <QDateTime>
 #include <QStringList>
@@ -17,6 +18,8 @@ struct CycleOverview {
     CycleReview review;
     QStringList damages;    ///< what of its files could not be read, for people
     bool isPartial = false; ///< the system kept some of it from being read: nothing can be called all right
+    std::vector<CycleNote> notes; ///< what somebody wrote about it
+    QStringList unusual;    ///< figures that are not as they used to be for this engine, for people
     QString problem;        ///< why there is no review, for people; else empty
 
     [[nodiscard]] EVerdict verdict() const

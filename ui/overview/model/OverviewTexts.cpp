@@ -97,6 +97,16 @@ QString OverviewTexts::detail(const IncidentSentence& sentence)
     return parts.join(", ");
 }
 
+QStringList OverviewTexts::remarks(const CycleOverview& cycle)
+{
+    QStringList lines;
+    for (const QString& unusual : cycle.unusual)
+        lines.append(tr("Unusual for this engine: %1").arg(unusual));
+    for (const CycleNote& note : cycle.notes)
+        lines.append(tr("Note at %1: %2").arg(IncidentText::time(note.time), note.text));
+    return lines;
+}
+
 QString OverviewTexts::basis(const CycleOverview& cycle)
 {
     if (!cycle.problem.isEmpty())
@@ -138,6 +148,7 @@ QString OverviewTexts::plain(const CycleOverview& cycle)
     if (cycle.problem.isEmpty()) {
         for (const IncidentSentence& sentence : sentences(cycle))
             lines.append(sentence.time + "  " + sentence.text());
+        lines.append(remarks(cycle));
     }
     lines.append(basis(cycle));
     return lines.join('\n') + '\n';

@@ -30,6 +30,8 @@ public:
     [[nodiscard]] static std::vector<IncidentSentence> sentences(const CycleOverview& cycle);
     /// What of a sentence stands in its second line.
     [[nodiscard]] static QString detail(const IncidentSentence& sentence);
+    /// What somebody wrote about moments of the cycle, and what is unusual of it.
+    [[nodiscard]] static QStringList remarks(const CycleOverview& cycle);
     /// What the verdict rests on, what could not be told, and what stood outside while the engine did not run.
     [[nodiscard]] static QString basis(const CycleOverview& cycle);
     /// The text with places where a line may end in words that no line has room for.

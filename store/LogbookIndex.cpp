@@ -1,0 +1,208 @@
+#include "store/LogbookIndex.h"
+
+#include "store/PlacedFlights.h"
+
+#include <algorithm>
+#include <numeric>
+#include <set>
+#include <tuple>
+
+namespace ZARN {
+
+namespace {
+
+constexpr double kUnknown = std::numeric_limits<double>::quiet_NaN();
+
+double realOr(const Statement& row, int column, double otherwise)
+{
+    return row.isNull(column) ? otherwise : row.real(column);
+}
+
+bool holds(const QString& text, const QString& wanted)
+{
+    return text.contains(wanted, Qt::CaseInsensitive);
+}
+
+std::vector<bool> holders(const std::vector<QString>& texts, const QString& wanted)
+{
+    std::vector<bool> found;
+    for (const QString& text : texts)
+        found.push_back(holds(text, wanted));
+    return found;
+}
+
+void add(std::optional<double>& sum, double value)
+{
+    if (!std::isnan(value))
+        sum = sum.value_or(0.0) + value;
+}
+
+/// The number that flights are put in order by; unknown ones come before all others.
+double rank(double value)
+{
+    return std::isnan(value) ? -std::numeric_limits<double>::infinity() : value;
+}
+
+} // namespace
+
+std::size_t LogbookIndex::Texts::of(const std::string& text)
+{
+    const auto [found, isNew] = places.try_emplace(text, texts.size());
+    if (isNew)
+        texts.push_back(QString::fromStdString(text));
+    return found->second;
+}
+
+LogbookIndex::LogbookIndex(Database& database) : mDatabase(database)
+{
+    read();
+}
+
+void LogbookIndex::read()
+{
+    mFlights.clear();
+    mCycles.clear();
+    mCycleOf.clear();
+    mEngines = mCards = {};
+    readCycles();
+    Statement& found = mDatabase.prepared("SELECT flight_id, cycle_id, number, date_time, landing_time - take_off_time, total_fuel, total_climb FROM flight");
+    found.with({});
+    while (found.next()) {
+        const auto cycle = mCycleOf.find(found.text(1));
+        if (cycle == mCycleOf.end())
+            continue;
+        const double fuel = mCycles[cycle->second].hasFuel ? realOr(found, 5, kUnknown) : kUnknown;
+        mFlights.push_back({found.integer(0), cycle->second, found.integer(2), found.text(3), !found.isNull(3), realOr(found, 4, 0.0), fuel,
+                            realOr(found, 6, kUnknown)});
+    }
+    placeUndated();
+    std::ranges::sort(mFlights, [this](const Flight& a, const Flight& b) {
+        const Cycle &one = mCycles[a.cycle], &other = mCycles[b.cycle];
+        return std::tie(a.at, one.card, one.number, a.number, a.id) < std::tie(b.at, other.card, other.number, b.number, b.id);
+    });
+}
+
+/// Few flights have no date, and only their cards have to be looked through for their places.
+void LogbookIndex::placeUndated()
+{
+    std::unordered_map<int64_t, std::string> places;
+    Statement& found = mDatabase.prepared(
+        placedFlights("WHERE cycle.card_id IN (SELECT card_id FROM flight JOIN cycle USING (cycle_id) WHERE flight.date_time IS NULL)") +
+        "SELECT flight_id, at FROM placed WHERE date_time IS NULL");
+    found.with({});
+    while (found.next())
+        places.emplace(found.integer(0), found.text(1));
+    for (Flight& flight : mFlights) {
+        if (const auto place = flight.hasDate ? places.end() : places.find(flight.id); place != places.end())
+            flight.at = place->second;
+    }
+}
+
+void LogbookIndex::readCycles()
+{
+    Statement& found = mDatabase.prepared("SELECT cycle_id, engine_id, coalesce(card.name, ''), verdict, engine_running, cycle.card_id, "
+                                          "number, fuel IS NOT NULL FROM cycle LEFT JOIN card USING (card_id)");
+    found.with({});
+    while (found.next()) {
+        mCycleOf.emplace(found.text(0), mCycles.size());
+        mCycles.push_back(
+            {mEngines.of(found.text(1)), mCards.of(found.text(2)), found.text(3), realOr(found, 4, kUnknown), found.integer(5), found.integer(6),
+             found.integer(7) != 0});
+    }
+}
+
+LogbookIndex::Found LogbookIndex::find(const QString& text)
+{
+    Found found{holders(mEngines.texts, text), holders(mCards.texts, text), std::vector<bool>(mCycles.size()), std::vector<bool>(mFlights.size())};
+    Statement& aircraft = mDatabase.prepared("SELECT engine_id, name FROM aircraft").with({});
+    while (aircraft.next()) {
+        const auto engine = mEngines.places.find(aircraft.text(0));
+        if (engine != mEngines.places.end() && holds(QString::fromStdString(aircraft.text(1)), text))
+            found.engines[engine->second] = true;
+    }
+    Statement& notes = mDatabase.prepared("SELECT cycle_id, text FROM note").with({});
+    while (notes.next()) {
+        const auto cycle = mCycleOf.find(notes.text(0));
+        if (cycle != mCycleOf.end() && holds(QString::fromStdString(notes.text(1)), text))
+            found.cycles[cycle->second] = true;
+    }
+    std::set<int64_t> flights;
+    Statement& titles = mDatabase.prepared("SELECT DISTINCT title FROM incident").with({});
+    Statement& incidents = mDatabase.prepared("SELECT flight_id FROM incident WHERE title = ? AND flight_id IS NOT NULL");
+    while (titles.next()) {
+        if (!holds(QString::fromStdString(titles.text(0)), text))
+            continue;
+        incidents.with({titles.text(0)});
+        while (incidents.next())
+            flights.insert(incidents.integer(0));
+    }
+    for (std::size_t i = 0; i < mFlights.size(); ++i)
+        found.flights[i] = flights.contains(mFlights[i].id);
+    return found;
+}
+
+std::vector<std::size_t> LogbookIndex::chosen(const LogbookFilter& filter)
+{
+    const std::string from = filter.from.isValid() ? filter.from.toString(Qt::ISODate).toStdString() : std::string();
+    const std::string end = filter.until.isValid() ? filter.until.addDays(1).toString(Qt::ISODate).toStdString() : std::string("~");
+    const auto engine = mEngines.places.find(filter.engine);
+    const QString wanted = filter.text.simplified();
+    const Found found = wanted.isEmpty() ? Found() : find(wanted);
+    std::vector<std::size_t> places;
+    for (std::size_t i = 0; i < mFlights.size(); ++i) {
+        const Flight& flight = mFlights[i];
+        const Cycle& cycle = mCycles[flight.cycle];
+        const bool isInTime = flight.hasDate ? flight.at >= from && flight.at < end : !filter.from.isValid() && !filter.until.isValid();
+        const bool isOfEngine = filter.engine.empty() || (engine != mEngines.places.end() && cycle.engine == engine->second);
+        const bool isOfVerdict = filter.verdict.empty() || cycle.verdict == filter.verdict;
+        if (isInTime && isOfEngine && isOfVerdict &&
+            (wanted.isEmpty() || found.engines[cycle.engine] || found.cards[cycle.cardName] || found.cycles[flight.cycle] || found.flights[i]))
+            places.push_back(i);
+    }
+    return places;
+}
+
+void LogbookIndex::sort(std::vector<std::size_t>& places, ELogbookOrder order, bool isDescending) const
+{
+    const auto by = [&](auto key) { std::ranges::stable_sort(places, {}, [&](std::size_t place) { return key(mFlights[place]); }); };
+    switch (order) {
+    case ELogbookOrder::eDate: break; // as they stand
+    case ELogbookOrder::eEngine: by([this](const Flight& flight) -> const QString& { return mEngines.texts[mCycles[flight.cycle].engine]; }); break;
+    case ELogbookOrder::eVerdict: by([this](const Flight& flight) -> const std::string& { return mCycles[flight.cycle].verdict; }); break;
+    case ELogbookOrder::eFlightTime: by([](const Flight& flight) { return flight.flightTime; }); break;
+    case ELogbookOrder::eFuel: by([](const Flight& flight) { return rank(flight.fuel); }); break;
+    case ELogbookOrder::eClimb: by([](const Flight& flight) { return rank(flight.climb); }); break;
+    }
+    if (isDescending)
+        std::ranges::reverse(places);
+}
+
+LogbookTotals LogbookIndex::totals(const std::vector<std::size_t>& places) const
+{
+    LogbookTotals totals;
+    totals.flights = places.size();
+    std::vector<bool> isCounted(mCycles.size());
+    for (const std::size_t place : places) {
+        const Flight& flight = mFlights[place];
+        totals.flightTime += flight.flightTime;
+        add(totals.fuel, flight.fuel);
+        if (isCounted[flight.cycle])
+            continue;
+        isCounted[flight.cycle] = true;
+        add(totals.running, mCycles[flight.cycle].running);
+        totals.cyclesWithoutEngine += std::isnan(mCycles[flight.cycle].running);
+    }
+    return totals;
+}
+
+LogbookSelection LogbookIndex::select(const LogbookFilter& filter, ELogbookOrder order, bool isDescending)
+{
+    std::vector<std::size_t> places = chosen(filter);
+    LogbookSelection selection{{}, totals(places)};
+    sort(places, order, isDescending);
+    for (const std::size_t place : places)
+        selection.flights.push_back(mFlights[place].id);
+    return selection;
+}
+
+} // namespace ZARN

@@ -1,0 +1,167 @@
+#include "store/LogbookReader.h"
+
+#include "store/PlacedFlights.h"
+#include "store/StoreSchema.h"
+
+#include <QStringList>
+
+namespace ZARN {
+
+namespace {
+
+// An engine together with those that were merged into it.
+constexpr const char* kSame = "(engine_id = ?1 OR engine_id IN (SELECT engine_id FROM engine_merge WHERE merged_into = ?1))";
+
+QDateTime dateOf(const std::string& text)
+{
+    QDateTime date = QDateTime::fromString(QString::fromStdString(text), Qt::ISODate);
+    date.setTimeSpec(Qt::UTC);
+    return date;
+}
+
+std::optional<double> realOf(const Statement& row, int column)
+{
+    return row.isNull(column) ? std::nullopt : std::optional(row.real(column));
+}
+
+QString textOf(const Statement& row, int column)
+{
+    return QString::fromStdString(row.text(column));
+}
+
+} // namespace
+
+LogbookReader::LogbookReader(const std::string& path) : mDatabase(path, Database::eRead)
+{
+    if (mDatabase.isGood())
+        StoreSchema::check(mDatabase);
+}
+
+int64_t LogbookReader::version()
+{
+    return mDatabase.number("PRAGMA data_version");
+}
+
+LogbookIndex& LogbookReader::index()
+{
+    if (!mIndex)
+        mIndex.emplace(mDatabase);
+    return *mIndex;
+}
+
+std::vector<LogbookEntry> LogbookReader::entries(std::span<const int64_t> flights)
+{
+    std::vector<LogbookEntry> entries;
+    Statement& found = mDatabase.prepared(
+        "SELECT flight_id, cycle.cycle_id, flight.date_time, engine_id, aircraft.name, card.path, card.name, cycle.number, flight.number, "
+        "landing_time - take_off_time, CASE WHEN cycle.fuel IS NOT NULL THEN total_fuel END, "
+        "CASE WHEN min_altitude <> max_altitude THEN total_climb END, verdict, flight.start_time, flight.end_time "
+        "FROM flight JOIN cycle USING (cycle_id) LEFT JOIN aircraft USING (engine_id) LEFT JOIN card USING (card_id) WHERE flight_id = ?");
+    Statement& notes = mDatabase.prepared("SELECT text FROM note WHERE cycle_id = ? AND time BETWEEN ? AND ? ORDER BY time, note_id");
+    for (const int64_t flight : flights) {
+        LogbookEntry& entry = entries.emplace_back();
+        found.with({flight});
+        if (!found.next())
+            continue;
+        entry = {found.integer(0), found.text(1), found.text(2), found.text(3), found.text(4), found.text(5), found.text(6),
+                 static_cast<int>(found.integer(7)), static_cast<int>(found.integer(8)), found.real(9), realOf(found, 10), realOf(found, 11),
+                 found.text(12), {}};
+        QStringList texts;
+        notes.with({entry.cycleId, found.value(13), found.value(14)});
+        while (notes.next())
+            texts.append(textOf(notes, 0).simplified());
+        entry.notes = texts.join("; ");
+        found.run(); // to its end
+    }
+    return entries;
+}
+
+std::vector<LogbookEngine> LogbookReader::engines()
+{
+    std::vector<LogbookEngine> engines;
+    Statement& found = mDatabase.prepared(
+        "SELECT engine_id, aircraft.name, engine_type, engine_serial IS NOT NULL, total(engine_running), "
+        "count(cycle_id) - count(engine_running), (SELECT count(*) FROM flight JOIN cycle AS c USING (cycle_id) WHERE c.engine_id = engine.engine_id) "
+        "FROM engine LEFT JOIN aircraft USING (engine_id) LEFT JOIN cycle USING (engine_id) "
+        "WHERE engine_id NOT IN (SELECT engine_id FROM engine_merge) GROUP BY engine_id ORDER BY aircraft.name IS NULL, aircraft.name, engine_id");
+    found.with({});
+    while (found.next()) {
+        LogbookEngine& engine = engines.emplace_back();
+        engine.id = found.text(0);
+        engine.aircraft = found.text(1);
+        engine.type = found.text(2);
+        engine.hasSerial = found.integer(3) != 0;
+        engine.running = found.real(4);
+        engine.unknownCycles = static_cast<std::size_t>(found.integer(5));
+        engine.flights = static_cast<std::size_t>(found.integer(6));
+    }
+    Statement& typed = mDatabase.prepared("SELECT hours FROM reading WHERE engine_id = ? AND source = 'typed' AND date IS NULL");
+    Statement& counter = mDatabase.prepared("SELECT hours, date FROM reading WHERE source = 'unit' AND " + std::string(kSame) + " ORDER BY date DESC LIMIT 1");
+    Statement& merged = mDatabase.prepared("SELECT engine_id FROM engine_merge WHERE merged_into = ? ORDER BY 1");
+    for (LogbookEngine& engine : engines) {
+        if (typed.with({engine.id}).next())
+            engine.hoursBefore = typed.real(0);
+        if (counter.with({engine.id}).next()) {
+            engine.counter = counter.real(0);
+            engine.counterDate = dateOf(counter.text(1));
+        }
+        merged.with({engine.id});
+        while (merged.next())
+            engine.merged.push_back(merged.text(0));
+    }
+    typed.with({}).run(); // an open one would keep the store as it was
+    counter.with({}).run();
+    return engines;
+}
+
+std::vector<Service> LogbookReader::services(const std::string& engine)
+{
+    std::vector<Service> services;
+    Statement& found = mDatabase.prepared("SELECT service_id, engine_id, name, every_hours, every_months, done_hours, done_date, note FROM service WHERE " +
+                                          std::string(kSame) + " ORDER BY name, service_id");
+    found.with({engine});
+    while (found.next()) {
+        Service& service = services.emplace_back();
+        service.id = found.integer(0);
+        service.engine = found.text(1);
+        service.name = textOf(found, 2);
+        service.everyHours = realOf(found, 3);
+        if (!found.isNull(4))
+            service.everyMonths = static_cast<int>(found.integer(4));
+        service.doneHours = realOf(found, 5);
+        service.doneDate = QDate::fromString(textOf(found, 6).left(10), Qt::ISODate);
+        service.note = textOf(found, 7);
+    }
+    return services;
+}
+
+std::string LogbookReader::engineOf(const std::string& engine)
+{
+    return mergedEngine(mDatabase, engine);
+}
+
+std::vector<LogbookNote> LogbookReader::notes(const std::string& cycle)
+{
+    std::vector<LogbookNote> notes;
+    Statement& found = mDatabase.prepared(
+        "SELECT note_id, time, text, written, note.cycle_id, engine_id, card.name, cycle.number, date_time FROM note LEFT JOIN cycle USING "
+        "(cycle_id) LEFT JOIN card USING (card_id) WHERE ?1 = '' OR note.cycle_id = ?1 ORDER BY date_time, note.cycle_id, time, note_id");
+    found.with({cycle});
+    while (found.next()) {
+        notes.push_back({{found.integer(0), found.real(1), textOf(found, 2), dateOf(found.text(3))}, found.text(4), found.text(5), found.text(6),
+                         static_cast<int>(found.integer(7)), found.text(8)});
+    }
+    return notes;
+}
+
+std::vector<std::string> LogbookReader::foldersOf(const std::string& cycle)
+{
+    std::vector<std::string> folders;
+    Statement& found = mDatabase.prepared("SELECT DISTINCT path, card_id FROM file JOIN card USING (card_id) WHERE cycle_id = ? ORDER BY card_id DESC");
+    found.with({cycle});
+    while (found.next())
+        folders.push_back(found.text(0));
+    return folders;
+}
+
+} // namespace ZARN

@@ -1,0 +1,121 @@
+#include "app/Settings.h"
+#include "project/RecordSession.h"
+#include "sim/DemoCard.h"
+#include "ui/data/DialogData.h"
+#include "ui/graph/WidgetGraphES.h"
+#include "ui/logbook/DialogLogbook.h"
+#include "ui/logbook/LogbookEngines.h"
+#include "ui/logbook/LogbookFlights.h"
+#include "ui/logbook/LogbookNotes.h"
+#include "ui/main/Answer.h"
+#include "ui/main/DesktopFixture.h"
+#include "ui/main/LogbookBar.h"
+#include "ui/main/MainActions.h"
+#include "ui/overview/DialogOverview.h"
+#include "ui/overview/WidgetCycleCard.h"
+
+#include <QAbstractItemModelTester>
+#include <QAction>
+#include <QDir>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTableView>
+#include <QTableWidget>
+#include <QtTest>
+
+using namespace ZARN;
+
+/// The logbook from the question about it to a flight that is opened out of it, and the notes beside it.
+class TestLogbookWindow : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void logbook();
+};
+
+void TestLogbookWindow::logbook()
+{
+    const QTemporaryDir home;
+    const QString card = home.filePath("SD/Card"), store = home.filePath("data/logbook.sqlite");
+    std::string error;
+    QVERIFY(QDir().mkpath(home.filePath("SD")) && QDir().mkpath(home.filePath("archive")));
+    QVERIFY2(DemoCard().write(card.toStdString(), DemoCardOptions{}, error), error.c_str());
+    DesktopFixture desktop(home.path(), {card.toStdString()});
+    Settings::kArchive.set(desktop.property, true);
+    Settings::kArchiveDir.set(desktop.property, home.filePath("archive"));
+    DialogMain& window = desktop.open();
+    started(window);
+    settled(window);
+
+    // Asked once, and nothing is kept before the answer.
+    auto* pBar = window.findChild<LogbookBar*>();
+    QTRY_VERIFY(pBar->isVisible());
+    QVERIFY(!QFile::exists(store));
+    pBar->findChild<QPushButton*>()->click();
+    QVERIFY(!pBar->isVisible());
+    window.action(eActionLogbook)->trigger();
+    DialogLogbook* pLogbook = nullptr;
+    for (QWidget* pWidget : QApplication::topLevelWidgets())
+        pLogbook = qobject_cast<DialogLogbook*>(pWidget) ? qobject_cast<DialogLogbook*>(pWidget) : pLogbook;
+    QVERIFY(pLogbook && pLogbook->isVisible());
+    auto* pTable = pLogbook->findChild<QTableView*>();
+    const QAbstractItemModelTester tester(pTable->model(), QAbstractItemModelTester::FailureReportingMode::QtTest);
+    const auto text = [pTable](int row, int column) { return pTable->model()->index(row, column).data().toString(); };
+    QTRY_COMPARE_WITH_TIMEOUT(pTable->model()->rowCount(), 2, 60000);
+    QTRY_COMPARE(text(0, LogbookModel::eCard), QString("Card, cycle 2, flight 2"));
+    QCOMPARE(text(0, LogbookModel::eEngine), QString("DEMO-000001"));
+
+    // A flight is opened where its card is, and out of the archive when that is gone.
+    QTRY_COMPARE(QDir(home.filePath("archive/DEMO-000001")).entryList({QString(64, '?')}, QDir::Dirs).size(), 3);
+    Q_EMIT pTable->activated(pTable->model()->index(1, 0));
+    QTRY_COMPARE(desktop.container.selectedFlightNumber(), 1);
+    settled(window);
+    QVERIFY(QDir().rename(card, home.filePath("SD/Pulled")));
+    Q_EMIT pTable->activated(pTable->model()->index(0, 0));
+    QTRY_VERIFY_WITH_TIMEOUT(desktop.container.path().startsWith(home.filePath("archive")) && desktop.container.selectedFlightNumber() == 2, 30000);
+    settled(window);
+
+    // A note is at the view time of whatever copy of the recording is open.
+    auto* pData = window.findChild<DialogData*>();
+    QTRY_VERIFY(window.action(eActionNote)->isEnabled());
+    pData->moveFrom(*pTable, 3000.25);
+    Answer note([](QWidget* pModal) {
+        pModal->findChild<QPlainTextEdit*>()->setPlainText("Rough <running>");
+        QMetaObject::invokeMethod(pModal, "accept");
+    });
+    window.action(eActionNote)->trigger();
+    const auto& notes = window.findChild<WidgetGraphES*>()->model().settings().notes;
+    QTRY_COMPARE(notes.size(), 1u);
+    QCOMPARE(notes[0].time, 3000.25);
+    window.openFolder(home.filePath("SD/Pulled"));
+    settled(window);
+    window.slotLoadCycle(2, -1);
+    settled(window);
+    QTRY_VERIFY(notes.size() == 1 && notes[0].text == "Rough <running>");
+    window.action(eActionOverview)->trigger();
+    const auto* pOverview = window.findChild<DialogOverview*>();
+    const auto remarks = [pOverview] { return pOverview->findChild<QLabel*>("remarks"); };
+    QTRY_VERIFY_WITH_TIMEOUT(remarks() && remarks()->text().contains("50:00: Rough <running>"), 60000);
+    QTRY_COMPARE(pLogbook->findChild<LogbookNotes*>()->notes().size(), 1u);
+
+    // What another program writes is seen: a service that is due stands in the window and in the overview.
+    {
+        LogbookEditor other(store.toStdString());
+        QVERIFY(other.saveService({0, "DEMO-000001", "Oil <change>", 0.5, {}, {}, {}, {}}));
+    }
+    QTRY_VERIFY_WITH_TIMEOUT(pOverview->findChild<QLabel*>("services")->text().startsWith("Overdue: Oil <change>, "), 10000);
+
+    // A store that is damaged or replaced is said; one that is sound again is shown.
+    QVERIFY(QFile::rename(store, store + ".sound"));
+    QFile bad(store);
+    QVERIFY(bad.open(QIODevice::WriteOnly) && bad.write(QByteArray(100, 'x')) == 100);
+    bad.close();
+    const auto* pProblem = pLogbook->findChild<QLabel*>("warning");
+    QTRY_VERIFY_WITH_TIMEOUT(pProblem->isVisible() && pProblem->text().contains("not an SQLite file"), 10000);
+    QVERIFY(QFile::remove(store) && QFile::rename(store + ".sound", store));
+    QTRY_VERIFY_WITH_TIMEOUT(!pProblem->isVisible(), 10000);
+}
+
+QTEST_MAIN(TestLogbookWindow)
+#include "TestLogbookWindow.moc"

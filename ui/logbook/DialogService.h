@@ -1,0 +1,42 @@
+#pragma once
+
+#include "store/Service.h"
+
+#include <QDialog>
+
+class QCheckBox;
+class QDateEdit;
+class QDoubleSpinBox;
+class QLineEdit;
+class QPushButton;
+class QSpinBox;
+
+namespace ZARN {
+
+/// Asks for a service: what it is, how often, when it was done last.
+class DialogService : public QDialog {
+    Q_OBJECT
+
+public:
+    explicit DialogService(Service service, QWidget* pParent = nullptr);
+
+    /// What was entered.
+    [[nodiscard]] Service service() const;
+
+private:
+    void update();
+
+    const Service mService;
+    QLineEdit* mpName;
+    QCheckBox* mpByHours;
+    QDoubleSpinBox* mpHours;
+    QCheckBox* mpByMonths;
+    QSpinBox* mpMonths;
+    QCheckBox* mpIsDone;
+    QDoubleSpinBox* mpDoneHours;
+    QDateEdit* mpDoneDate;
+    QLineEdit* mpNote;
+    QPushButton* mpOk = nullptr;
+};
+
+} // namespace ZARN

@@ -1,0 +1,182 @@
+#include "ui/logbook/LogbookFlights.h"
+
+#include "app/gui/WheelGuard.h"
+#include "ui/logbook/model/LogbookTexts.h"
+#include "ui/overview/model/VerdictSign.h"
+
+#include <QComboBox>
+#include <QDateEdit>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPainter>
+#include <QStyledItemDelegate>
+#include <QTableView>
+
+namespace ZARN {
+
+namespace {
+
+constexpr int kTypingPause = 150; // milliseconds
+constexpr int kSign = 14;         // pixels
+const QDate kAnyDate(1999, 12, 31);
+
+/// Puts the sign of the verdict before its word.
+class VerdictDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* pOption, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(pOption, index);
+        const QVariant verdict = index.data(Qt::UserRole);
+        if (!verdict.isValid())
+            return;
+        const double ratio = pOption->widget ? pOption->widget->devicePixelRatioF() : 1.0;
+        QPixmap sign(QSizeF(kSign * ratio, kSign * ratio).toSize());
+        sign.setDevicePixelRatio(ratio);
+        sign.fill(Qt::transparent);
+        QPainter painter(&sign);
+        VerdictSign::paint(painter, static_cast<EVerdict>(verdict.toInt()), QRectF(0, 0, kSign, kSign));
+        painter.end();
+        pOption->features |= QStyleOptionViewItem::HasDecoration;
+        pOption->icon = QIcon(sign);
+        pOption->decorationSize = QSize(kSign, kSign);
+    }
+};
+
+} // namespace
+
+LogbookFlights::LogbookFlights(LogbookWorker& worker, QWidget* pParent)
+    : QWidget(pParent), mModel(worker), mpFrom(createDate(tr("From"))), mpUntil(createDate(tr("Until"))), mpVerdict(new QComboBox),
+      mpText(new QLineEdit), mpTable(new QTableView), mpTotals(new QLabel)
+{
+    createTable();
+    mpTotals->setTextFormat(Qt::PlainText);
+    mpTotals->setWordWrap(true);
+    auto* pLayout = new QVBoxLayout(this);
+    pLayout->addWidget(createFilter());
+    pLayout->addWidget(mpTable, 1);
+    pLayout->addWidget(mpTotals);
+    mTyping.setSingleShot(true);
+    connect(&mTyping, &QTimer::timeout, this, &LogbookFlights::takeFilter);
+    connect(&mModel, &LogbookModel::signalSelected, this, &LogbookFlights::slotSelected);
+}
+
+QDateEdit* LogbookFlights::createDate(const QString& name)
+{
+    auto* pDate = new QDateEdit;
+    pDate->setMinimumDate(kAnyDate);
+    pDate->setDate(kAnyDate);
+    pDate->setSpecialValueText(tr("any"));
+    pDate->setDisplayFormat("dd.MM.yyyy");
+    pDate->setCalendarPopup(true);
+    pDate->setAccessibleName(name);
+    WheelGuard::install(*pDate);
+    connect(pDate, &QDateEdit::dateChanged, &mTyping, qOverload<>(&QTimer::start));
+    return pDate;
+}
+
+QWidget* LogbookFlights::createFilter()
+{
+    mpVerdict->setAccessibleName(tr("Verdict"));
+    mpVerdict->addItem(tr("Any verdict"), QString());
+    for (const EVerdict verdict : {EVerdict::eLimit, EVerdict::eWarning, EVerdict::eOk, EVerdict::eUnknown})
+        mpVerdict->addItem(LogbookTexts::verdictName(verdictKey(verdict)), verdictKey(verdict));
+    WheelGuard::install(*mpVerdict);
+    connect(mpVerdict, &QComboBox::currentIndexChanged, this, &LogbookFlights::takeFilter);
+    mpText->setPlaceholderText(tr("Text in aircraft, card, notes or incidents"));
+    mpText->setAccessibleName(tr("Text"));
+    mpText->setClearButtonEnabled(true);
+    connect(mpText, &QLineEdit::textChanged, this, [this] { mTyping.start(kTypingPause); });
+    auto* pFilter = new QWidget;
+    auto* pRow = new QHBoxLayout(pFilter);
+    pRow->setContentsMargins(0, 0, 0, 0);
+    pRow->addWidget(new QLabel(tr("From")));
+    pRow->addWidget(mpFrom);
+    pRow->addWidget(new QLabel(tr("until")));
+    pRow->addWidget(mpUntil);
+    pRow->addWidget(mpVerdict);
+    pRow->addWidget(mpText, 1);
+    return pFilter;
+}
+
+void LogbookFlights::createTable()
+{
+    mpTable->setModel(&mModel);
+    mpTable->setAccessibleName(tr("Flights"));
+    mpTable->setItemDelegateForColumn(LogbookModel::eVerdict, new VerdictDelegate(mpTable));
+    mpTable->setSelectionBehavior(QAbstractItemView::SelectRows);
+    mpTable->setSelectionMode(QAbstractItemView::SingleSelection);
+    mpTable->setAlternatingRowColors(true);
+    mpTable->setShowGrid(false);
+    mpTable->setWordWrap(false);
+    mpTable->setTabKeyNavigation(false);
+    mpTable->verticalHeader()->hide();
+    mpTable->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed); // nothing is measured, whatever the number of rows
+    QHeaderView* pHeader = mpTable->horizontalHeader();
+    const int letter = fontMetrics().horizontalAdvance('x');
+    for (const auto& [column, letters] : {std::pair(LogbookModel::eDate, 22), {LogbookModel::eEngine, 26}, {LogbookModel::eFlightTime, 11},
+                                          {LogbookModel::eFuel, 11}, {LogbookModel::eClimb, 12}, {LogbookModel::eVerdict, 14}, {LogbookModel::eCard, 32}})
+        pHeader->resizeSection(column, letters * letter);
+    pHeader->setStretchLastSection(true);
+    pHeader->setHighlightSections(false);
+    pHeader->setSortIndicator(LogbookModel::eDate, Qt::DescendingOrder);
+    mpTable->setSortingEnabled(true);
+    connect(mpTable, &QTableView::activated, this, &LogbookFlights::slotPicked);
+    connect(mpTable->selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this](const QModelIndex& index) {
+        if (index.isValid())
+            mCurrent = mModel.flightOf(index.row());
+    });
+}
+
+void LogbookFlights::setEngine(const std::string& engine)
+{
+    mFilter.engine = engine;
+    takeFilter();
+}
+
+void LogbookFlights::takeFilter()
+{
+    mTyping.stop();
+    const auto dateOf = [](const QDateEdit& field) { return field.date() == kAnyDate ? QDate() : field.date(); };
+    mFilter.from = dateOf(*mpFrom);
+    mFilter.until = dateOf(*mpUntil);
+    mFilter.verdict = mpVerdict->currentData().toString().toStdString();
+    mFilter.text = mpText->text();
+    mModel.setFilter(mFilter);
+}
+
+QString LogbookFlights::filterText() const
+{
+    QStringList parts;
+    if (mFilter.from.isValid())
+        parts.append(tr("from %1").arg(LogbookTexts::date(mFilter.from)));
+    if (mFilter.until.isValid())
+        parts.append(tr("until %1").arg(LogbookTexts::date(mFilter.until)));
+    if (!mFilter.verdict.empty())
+        parts.append(tr("verdict %1").arg(LogbookTexts::verdictName(mFilter.verdict)));
+    if (!mFilter.text.trimmed().isEmpty())
+        parts.append(tr("with \"%1\"").arg(mFilter.text.trimmed()));
+    return parts.join(", ");
+}
+
+void LogbookFlights::slotSelected()
+{
+    mpTotals->setText(mModel.flights().empty() ? tr("No flight.") : LogbookTexts::totals(mModel.totals()));
+    const int row = mModel.rowOf(mCurrent);
+    if (row >= 0) { // the same flight stays chosen where there is one
+        mpTable->selectRow(row);
+        mpTable->scrollTo(mModel.index(row, 0));
+    }
+}
+
+void LogbookFlights::slotPicked(const QModelIndex& index)
+{
+    if (const LogbookEntry* pEntry = mModel.entry(index.row()))
+        Q_EMIT signalOpen(QString::fromStdString(pEntry->cycleId), pEntry->number);
+}
+
+} // namespace ZARN

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "ui/logbook/model/LogbookModel.h"
+
+#include <QTimer>
+#include <QWidget>
+
+class QComboBox;
+class QDateEdit;
+class QLabel;
+class QLineEdit;
+class QTableView;
+
+namespace ZARN {
+
+/// The flights of the logbook: what is wanted of them above, the table, what they come to below.
+class LogbookFlights : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit LogbookFlights(LogbookWorker& worker, QWidget* pParent = nullptr);
+
+    /// An empty one: all engines.
+    void setEngine(const std::string& engine);
+    /// The store was written.
+    void reload() { mModel.reload(); }
+    [[nodiscard]] const LogbookModel& model() const { return mModel; }
+    /// The filter in words, for who sees its result elsewhere.
+    [[nodiscard]] QString filterText() const;
+
+Q_SIGNALS:
+    /// A flight that the user wants to see. @param flight from 1
+    void signalOpen(const QString& cycleId, int flight);
+
+private:
+    QWidget* createFilter();
+    void createTable();
+    QDateEdit* createDate(const QString& name);
+    void takeFilter();
+    void slotSelected();
+    void slotPicked(const QModelIndex& index);
+
+    LogbookModel mModel;
+    LogbookFilter mFilter;
+    QDateEdit* mpFrom;
+    QDateEdit* mpUntil;
+    QComboBox* mpVerdict;
+    QLineEdit* mpText;
+    QTableView* mpTable;
+    QLabel* mpTotals;
+    QTimer mTyping;
+    int64_t mCurrent = 0; ///< the flight whose row is chosen
+};
+
+} // namespace ZARN

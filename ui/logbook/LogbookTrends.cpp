@@ -1,0 +1,149 @@
+#include "ui/logbook/LogbookTrends.h"
+
+#include "app/FileName.h"
+#include "store/StoreReader.h"
+#include "ui/logbook/WidgetTrend.h"
+#include "ui/logbook/model/LogbookTexts.h"
+
+#include <QLabel>
+#include <QListWidget>
+#include <QSplitter>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace ZARN {
+
+namespace {
+
+QString nameOf(const JudgedTrend& trend)
+{
+    const QString name = QString::fromStdString(trend.trend.parameter) + " " + LogbookTexts::phase(trend.trend.phase);
+    return trend.trend.unit.empty() ? name : name + " [" + QString::fromStdString(trend.trend.unit) + "]";
+}
+
+/// The latest flight is what matters.
+int weight(const JudgedTrend& trend)
+{
+    return 2 * trend.isUnusual() + trend.isDrifting();
+}
+
+} // namespace
+
+LogbookTrends::LogbookTrends(LogbookWorker& worker, QWidget* pParent)
+    : QWidget(pParent), mWorker(worker), mpList(new QListWidget), mpTitle(new QLabel), mpChart(new WidgetTrend), mpPoint(new QLabel)
+{
+    mpList->setAccessibleName(tr("Parameters and phases"));
+    for (QLabel* pLabel : {mpTitle, mpPoint}) {
+        pLabel->setTextFormat(Qt::PlainText);
+        pLabel->setWordWrap(true);
+    }
+    auto* pRight = new QWidget;
+    auto* pColumn = new QVBoxLayout(pRight);
+    pColumn->setContentsMargins(0, 0, 0, 0);
+    pColumn->addWidget(mpTitle);
+    pColumn->addWidget(mpChart, 1);
+    pColumn->addWidget(mpPoint);
+    auto* pSplitter = new QSplitter;
+    pSplitter->addWidget(mpList);
+    pSplitter->addWidget(pRight);
+    pSplitter->setStretchFactor(1, 1);
+    pSplitter->setSizes({280, 700});
+    auto* pLayout = new QVBoxLayout(this);
+    pLayout->addWidget(pSplitter);
+    connect(mpList, &QListWidget::currentRowChanged, this, &LogbookTrends::slotCurrent);
+    connect(mpChart, &WidgetTrend::signalChosen, this, &LogbookTrends::slotPoint);
+    connect(mpChart, &WidgetTrend::signalOpen, this, [this](int point) {
+        const TrendPoint& flight = mTrends[static_cast<std::size_t>(mpList->currentRow())]->trend.points[static_cast<std::size_t>(point)];
+        Q_EMIT signalOpen(QString::fromStdString(flight.cycleId), static_cast<int>(flight.place.flight));
+    });
+}
+
+void LogbookTrends::setEngine(const std::string& engine)
+{
+    mEngine = engine;
+    reload();
+}
+
+void LogbookTrends::reload()
+{
+    mIsOld = true;
+    if (isVisible())
+        read();
+}
+
+void LogbookTrends::showEvent(QShowEvent* pEvent)
+{
+    QWidget::showEvent(pEvent);
+    if (mIsOld)
+        read();
+}
+
+void LogbookTrends::read()
+{
+    mIsOld = false;
+    ++mAsked;
+    if (mEngine.empty())
+        return fill({});
+    mWorker.ask(
+        [engine = mEngine, path = mWorker.path()](LogbookReader&) {
+            StoreReader store(encodeFileName(path));
+            Trends trends;
+            for (Trend& trend : store.trends(engine)) {
+                JudgedTrend judged{std::move(trend), {}};
+                judged.judgements = judgeTrend(judged.trend, 1);
+                trends.push_back(std::make_shared<const JudgedTrend>(std::move(judged)));
+            }
+            std::ranges::stable_sort(trends, std::ranges::greater(), [](const auto& pTrend) { return weight(*pTrend); });
+            return trends;
+        },
+        [this, asked = mAsked](Trends trends) {
+            if (asked == mAsked)
+                fill(std::move(trends));
+        });
+}
+
+void LogbookTrends::fill(Trends trends)
+{
+    const int before = mpList->currentRow();
+    const QString chosen = before >= 0 && before < static_cast<int>(mTrends.size()) ? nameOf(*mTrends[static_cast<std::size_t>(before)]) : QString();
+    mpList->clear();
+    mTrends = std::move(trends);
+    int row = 0;
+    for (std::size_t i = 0; i < mTrends.size(); ++i) {
+        const JudgedTrend& trend = *mTrends[i];
+        const QString name = nameOf(trend);
+        row = name == chosen ? static_cast<int>(i) : row;
+        const QString mark = trend.isUnusual() ? tr("unusual") : trend.isDrifting() ? tr("drifting") : QString();
+        auto* pItem = new QListWidgetItem(mark.isEmpty() ? name : name + ": " + mark);
+        QFont font = pItem->font();
+        font.setBold(!mark.isEmpty());
+        pItem->setFont(font);
+        mpList->addItem(pItem);
+    }
+    mpChart->setVisible(!mTrends.empty());
+    mpPoint->clear();
+    if (mTrends.empty()) {
+        mpChart->setTrend(nullptr);
+        mpTitle->setText(mEngine.empty() ? tr("Choose an engine above to see its trends.") : tr("No flight of this engine tells a figure."));
+    } else {
+        mpList->setCurrentRow(row);
+    }
+}
+
+void LogbookTrends::slotCurrent(int row)
+{
+    if (row < 0 || row >= static_cast<int>(mTrends.size()))
+        return;
+    const auto& pTrend = mTrends[static_cast<std::size_t>(row)];
+    mpTitle->setText(tr("%1, %2 flights").arg(nameOf(*pTrend)).arg(pTrend->trend.points.size()));
+    mpChart->setTrend(pTrend);
+    mpPoint->setText(TrendScene::text(*pTrend, static_cast<int>(pTrend->trend.points.size()) - 1));
+}
+
+void LogbookTrends::slotPoint(int point)
+{
+    mpPoint->setText(TrendScene::text(*mTrends[static_cast<std::size_t>(mpList->currentRow())], point));
+}
+
+} // namespace ZARN

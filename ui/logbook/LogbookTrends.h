@@ -1,0 +1,52 @@
+#pragma once
+
+#include "ui/logbook/model/LogbookWorker.h"
+#include "ui/logbook/model/TrendScene.h"
+
+#include <QWidget>
+
+class QLabel;
+class QListWidget;
+
+namespace ZARN {
+
+class WidgetTrend;
+
+/// The trends of an engine: a list of them with the unusual and drifting ones on top, and the chosen one as a chart.
+class LogbookTrends : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit LogbookTrends(LogbookWorker& worker, QWidget* pParent = nullptr);
+
+    /// An empty one: none.
+    void setEngine(const std::string& engine);
+    /// Reads what is shown anew; waits until it is seen.
+    void reload();
+
+Q_SIGNALS:
+    /// A flight that the user wants to see. @param flight from 1
+    void signalOpen(const QString& cycleId, int flight);
+
+protected:
+    void showEvent(QShowEvent* pEvent) override;
+
+private:
+    using Trends = std::vector<std::shared_ptr<const JudgedTrend>>;
+    void read();
+    void fill(Trends trends);
+    void slotCurrent(int row);
+    void slotPoint(int point);
+
+    LogbookWorker& mWorker;
+    std::string mEngine;
+    Trends mTrends;
+    QListWidget* mpList;
+    QLabel* mpTitle;
+    WidgetTrend* mpChart;
+    QLabel* mpPoint;
+    bool mIsOld = true;
+    unsigned mAsked = 0;
+};
+
+} // namespace ZARN

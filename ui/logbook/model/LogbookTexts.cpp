@@ -1,0 +1,136 @@
+#include "ui/logbook/model/LogbookTexts.h"
+
+#include "analysis/IncidentText.h"
+#include "app/Numeric.h"
+#include "app/TimeText.h"
+
+#include <cmath>
+
+namespace ZARN {
+
+namespace {
+
+QString decimal(double number, int decimals = 1)
+{
+    return QLocale().toString(number, 'f', decimals);
+}
+
+} // namespace
+
+QString LogbookTexts::engine(const std::string& id, const std::string& aircraft)
+{
+    QString name = QString::fromStdString(id);
+    if (name.startsWith("ecu:"))
+        name = tr("unit %1").arg(name.mid(4));
+    else if (name.startsWith("card:"))
+        name = tr("card %1").arg(name.mid(5));
+    return aircraft.empty() ? name : QString::fromStdString(aircraft) + " (" + name + ")";
+}
+
+QString LogbookTexts::duration(double seconds)
+{
+    if (!(seconds >= 0))
+        return QStringLiteral("-");
+    const auto minutes = saturatingCast<int64_t>(std::round(seconds / 60.0));
+    return elapsedText(minutes * 60, 1).chopped(3);
+}
+
+QString LogbookTexts::hours(double hours)
+{
+    return decimal(hours);
+}
+
+QString LogbookTexts::dateTime(const std::string& text)
+{
+    const QDateTime dateTime = QDateTime::fromString(QString::fromStdString(text), Qt::ISODate);
+    return dateTime.isValid() ? dateTime.toString("dd.MM.yyyy hh:mm") : QString();
+}
+
+QString LogbookTexts::date(const QDate& date)
+{
+    return date.isValid() ? date.toString("dd.MM.yyyy") : QStringLiteral("-");
+}
+
+EVerdict LogbookTexts::verdict(const std::string& key)
+{
+    for (const EVerdict verdict : {EVerdict::eOk, EVerdict::eWarning, EVerdict::eLimit}) {
+        if (key == verdictKey(verdict))
+            return verdict;
+    }
+    return EVerdict::eUnknown;
+}
+
+QString LogbookTexts::verdictName(const std::string& key)
+{
+    switch (verdict(key)) {
+    case EVerdict::eOk: return tr("OK");
+    case EVerdict::eWarning: return tr("Warning");
+    case EVerdict::eLimit: return tr("Limit");
+    case EVerdict::eUnknown: break;
+    }
+    return tr("Unknown");
+}
+
+QString LogbookTexts::phase(const std::string& key)
+{
+    for (const EFlightPhase phase : {EFlightPhase::eOff, EFlightPhase::eGround, EFlightPhase::eTakeOff, EFlightPhase::eClimb,
+                                     EFlightPhase::eLevel, EFlightPhase::eDescent}) {
+        if (key == phaseKey(phase))
+            return IncidentText::phaseText(phase);
+    }
+    return QString::fromStdString(key);
+}
+
+QString LogbookTexts::totals(const LogbookTotals& totals)
+{
+    QStringList parts{totals.flights == 1 ? tr("1 flight") : tr("%1 flights").arg(QLocale().toString(static_cast<qulonglong>(totals.flights))),
+                      tr("in flight %1 h").arg(duration(totals.flightTime))};
+    if (totals.running) {
+        const QString hours = tr("engine ran %1 h in these cycles").arg(duration(*totals.running));
+        parts.append(totals.cyclesWithoutEngine == 0 ? hours : tr("%1 (%2 cycles do not tell)").arg(hours).arg(totals.cyclesWithoutEngine));
+    }
+    if (totals.fuel)
+        parts.append(tr("fuel in flight %1 l").arg(decimal(*totals.fuel)));
+    return parts.join(", ");
+}
+
+QString LogbookTexts::engineHours(const LogbookEngine& engine)
+{
+    QString text = engine.hoursBefore ? tr("%1 h: %2 h before the first recording and %3 h recorded")
+                                            .arg(hours(engine.hours()), hours(*engine.hoursBefore), hours(engine.running / 3600))
+                                      : tr("%1 h recorded; the hours before the first recording are not entered").arg(hours(engine.running / 3600));
+    if (engine.unknownCycles > 0)
+        text += "; " + tr("cycles that do not tell whether the engine ran: %1").arg(engine.unknownCycles);
+    if (engine.counter)
+        text += ".\n" + tr("The unit's own counter: %1 h on %2").arg(hours(*engine.counter), date(engine.counterDate.date()));
+    return text + ".";
+}
+
+QString LogbookTexts::interval(const Service& service)
+{
+    QStringList parts;
+    if (service.everyHours)
+        parts.append(tr("%1 h").arg(decimal(*service.everyHours)));
+    if (service.everyMonths)
+        parts.append(*service.everyMonths == 1 ? tr("1 month") : tr("%1 months").arg(*service.everyMonths));
+    return parts.join(tr(" or "));
+}
+
+QString LogbookTexts::due(const ServiceDue& due)
+{
+    QStringList parts;
+    if (due.hoursLeft)
+        parts.append(*due.hoursLeft >= 0 ? tr("in %1 h").arg(hours(*due.hoursLeft)) : tr("%1 h ago").arg(hours(-*due.hoursLeft)));
+    if (due.date.isValid())
+        parts.append(tr("on %1").arg(date(due.date)));
+    return parts.isEmpty() ? tr("not known: enter when it was done") : parts.join(tr(" or "));
+}
+
+QString LogbookTexts::warning(const Service& service, const ServiceDue& due)
+{
+    if (due.state < ServiceDue::eSoon)
+        return {};
+    return (due.state == ServiceDue::eOverdue ? tr("Overdue: %1, %2") : tr("Due soon: %1, %2")).arg(service.name, LogbookTexts::due(due));
+}
+
+} // namespace ZARN

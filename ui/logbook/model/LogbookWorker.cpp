@@ -1,0 +1,100 @@
+#include "ui/logbook/model/LogbookWorker.h"
+
+#include "app/FileName.h"
+#include "store/Store.h"
+
+#include <QFileInfo>
+
+namespace ZARN {
+
+LogbookWorker::LogbookWorker(const QString& path, QObject* pParent) : QObject(pParent), mPath(path), mpPlace(new QObject)
+{
+    mpPlace->moveToThread(&mThread);
+    connect(&mThread, &QThread::finished, mpPlace, &QObject::deleteLater);
+    mThread.start();
+}
+
+LogbookWorker::~LogbookWorker()
+{
+    mThread.quit(); // what still waits is dropped
+    mThread.wait();
+}
+
+void LogbookWorker::post(std::function<void()> work)
+{
+    QMetaObject::invokeMethod(mpPlace, std::move(work), Qt::QueuedConnection);
+}
+
+LogbookReader* LogbookWorker::reader()
+{
+    if (mpReader && !mpReader->isInPlace()) { // removed, or another one in its place
+        mpReader.reset();
+        if (!QFileInfo::exists(mPath))
+            Q_EMIT signalFailed(tr("%1: it was removed while it was shown; what is shown is what it held").arg(mPath));
+    }
+    if (mpReader)
+        return mpReader.get();
+    const bool isThere = QFileInfo::exists(mPath);
+    Q_EMIT signalFound(isThere);
+    if (!isThere)
+        return nullptr;
+    // Brings an older form up. Where nothing can be written the reader tells what can be read all the same.
+    if (const LogbookEditor editor(encodeFileName(mPath)); editor.isDamaged())
+        Q_EMIT signalFailed(QString::fromStdString(editor.error()));
+    mpReader = std::make_unique<LogbookReader>(encodeFileName(mPath));
+    mVersion = mpReader->version();
+    if (!check())
+        return nullptr;
+    Q_EMIT signalChanged();
+    return mpReader.get();
+}
+
+bool LogbookWorker::check()
+{
+    if (!mpReader || mpReader->error().empty())
+        return true;
+    std::string error = mpReader->error();
+    const bool isDamaged = mpReader->isDamaged();
+    mpReader.reset(); // to be tried anew
+    if (isDamaged) {
+        const Store store(encodeFileName(mPath), {}); // looks through all of it, and puts it aside
+        error = store.error().empty() ? error : store.error();
+    }
+    Q_EMIT signalFailed(QString::fromStdString(error));
+    return false;
+}
+
+void LogbookWorker::edit(const std::function<void(LogbookEditor&)>& work, const std::function<void(const QString&)>& then)
+{
+    post([this, work, then] {
+        LogbookEditor editor(encodeFileName(mPath));
+        work(editor);
+        const QString error = QString::fromStdString(editor.error());
+        QMetaObject::invokeMethod(this, [then, error] { then(error); }, Qt::QueuedConnection);
+    });
+    look();
+}
+
+void LogbookWorker::run(const std::function<void()>& work, const std::function<void()>& then)
+{
+    post([this, work, then] {
+        work();
+        QMetaObject::invokeMethod(this, then, Qt::QueuedConnection);
+    });
+}
+
+void LogbookWorker::look()
+{
+    post([this] {
+        if (!mpReader && !QFileInfo::exists(mPath))
+            return;
+        LogbookReader* pReader = reader();
+        if (!pReader)
+            return;
+        const int64_t version = pReader->version();
+        if (check() && std::exchange(mVersion, version) != version)
+            Q_EMIT signalChanged();
+    });
+}
+
+} // namespace ZARN

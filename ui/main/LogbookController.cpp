@@ -1,0 +1,245 @@
+#include "ui/main/LogbookController.h"
+
+#include "app/Console.h"
+#include "app/FileName.h"
+#include "app/Property.h"
+#include "app/Settings.h"
+#include "card/CardContainer.h"
+#include "project/RecordSession.h"
+#include "store/CardArchive.h"
+#include "store/CycleIdentity.h"
+#include "store/Unusual.h"
+#include "ui/logbook/DialogLogbook.h"
+#include "ui/logbook/model/LogbookTexts.h"
+#include "ui/main/CardController.h"
+#include "ui/main/DialogCard.h"
+#include "ui/main/LogbookBar.h"
+#include "ui/main/LogbookExport.h"
+#include "ui/main/LogbookOptions.h"
+#include "ui/main/MainActions.h"
+#include "ui/main/MainCommands.h"
+#include "ui/main/MainPanels.h"
+#include "ui/main/Notices.h"
+#include "ui/main/OverviewController.h"
+#include "ui/overview/DialogOverview.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QMessageBox>
+
+#include <cmath>
+#include <set>
+
+namespace ZARN {
+
+namespace {
+
+constexpr std::size_t kMostUnusual = 5; // sentences of a cycle
+
+/// What of a cycle the store finds unusual, in sentences.
+QStringList unusualTexts(StoreReader& store, const CycleHead& head, const CycleOverview& overview)
+{
+    QStringList lines;
+    const std::vector<Unusual> found = findUnusual(store, head, overview.flights, overview.review);
+    for (std::size_t i = 0; i < std::min(found.size(), kMostUnusual); ++i) {
+        const QString text = UnusualText(QLocale()).sentence(found[i]);
+        lines.append(overview.flights.size() > 1 ? LogbookController::tr("flight %1, %2").arg(found[i].flight).arg(text) : text);
+    }
+    if (found.size() > kMostUnusual)
+        lines.append(LogbookController::tr("and %1 more; the trends in the logbook have them all").arg(found.size() - kMostUnusual));
+    return lines;
+}
+
+} // namespace
+
+LogbookController::LogbookController(const Session& session, const Parts& parts, const QString& dataPath, QWidget* pWindow)
+    : QObject(pWindow), mSession(session), mParts(parts), mDataPath(dataPath), mStore(dataPath + "/logbook.sqlite"), mpWindow(pWindow),
+      mpWorker(std::make_unique<LogbookWorker>(mStore)), mpBar(new LogbookBar), mpExport(new LogbookExport(session, mStore, pWindow)),
+      mIntake(session, mStore)
+{
+    mParts.panels.addNotice(mpBar);
+    mpBar->hide();
+    mParts.overview.view().setSupplement(supplement());
+    mParts.commands.handle(eActionLogbook, [this](QAction&) { show(); });
+    connect(mpBar, &LogbookBar::signalAnswer, this, &LogbookController::slotAnswer);
+    connect(&mIntake, &LogbookIntake::signalDone, this, &LogbookController::slotTaken);
+    connect(mpWorker.get(), &LogbookWorker::signalChanged, this, &LogbookController::askServices);
+    connect(mpExport, &LogbookExport::signalWritten, this, &LogbookController::signalWritten);
+    // When the window has shown the card.
+    connect(&mParts.cards, &CardController::signalFolderChanged, this, &LogbookController::slotCard, Qt::QueuedConnection);
+    connect(&mParts.cards, &CardController::signalCancelled, this, [this] { mWanted.reset(); });
+    connect(&mParts.record, &RecordSession::recordChanged, this, &LogbookController::slotRecord);
+}
+
+LogbookController::~LogbookController()
+{
+    mIntake.cancel();
+    mpWorker.reset(); // before those who wait for its answers
+}
+
+void LogbookController::createWindow()
+{
+    mpOptions = new LogbookOptions(mSession, mStore);
+    mpDialog = std::make_unique<DialogLogbook>(*mpWorker, mpOptions);
+    mpDialog->setAttribute(Qt::WA_QuitOnClose, false); // it stands beside the main window, not above it
+    connect(mpOptions, &LogbookOptions::signalChanged, this, [this] {
+        mpBar->setVisible(Settings::kLogbook.get(mSession.property) == eLogbookNotAsked && mpBar->isVisible());
+        takeCard();
+    });
+    connect(mpDialog.get(), &DialogLogbook::signalOpen, this, &LogbookController::open);
+    connect(mpDialog.get(), &DialogLogbook::signalExportFlights, this,
+            [this](const std::vector<int64_t>& flights, const QString& title) { mpExport->exportFlights(mpDialog.get(), flights, title); });
+    connect(mpDialog.get(), &DialogLogbook::signalExportNotes, this,
+            [this](const std::vector<LogbookNote>& notes) { mpExport->exportNotes(mpDialog.get(), notes); });
+}
+
+void LogbookController::show()
+{
+    if (!mpDialog)
+        createWindow();
+    mpOptions->fill();
+    mpDialog->show();
+    mpDialog->raise();
+    mpDialog->activateWindow();
+}
+
+/// The demo card is nobody's flight.
+bool LogbookController::isDemo() const
+{
+    return QFileInfo(mSession.container.path()).absoluteFilePath() == QFileInfo(mDataPath + "/DemoCard").absoluteFilePath();
+}
+
+void LogbookController::slotCard()
+{
+    mParts.overview.view().setServices({});
+    const bool hasCard = !mSession.container.recordCycles().empty() && !isDemo();
+    mpBar->setVisible(hasCard && Settings::kLogbook.get(mSession.property) == eLogbookNotAsked);
+    takeCard();
+    askServices();
+    if (mWanted && mWanted->folder == mSession.container.path())
+        showWanted();
+}
+
+void LogbookController::slotAnswer(bool isWanted)
+{
+    mpBar->hide();
+    Settings::kLogbook.set(mSession.property, isWanted ? eLogbookYes : eLogbookNo);
+    mSession.property.writeXmlFile();
+    if (mpOptions)
+        mpOptions->fill();
+    takeCard();
+}
+
+void LogbookController::takeCard()
+{
+    const QString folder = mSession.container.path();
+    if (Settings::kLogbook.get(mSession.property) == eLogbookYes && QFileInfo(folder).isDir() && !mSession.container.recordCycles().empty() && !isDemo())
+        mIntake.take(folder);
+}
+
+void LogbookController::slotTaken(const QString& folder, const QString& error)
+{
+    mParts.notices.setProblem(Notices::eLogbook, error.isEmpty() ? QString() : tr("Card not in the logbook"), QDir::toNativeSeparators(folder) + "\n" + error);
+    if (mpDialog && !error.isEmpty())
+        mpDialog->tell(error);
+    mpWorker->look();
+}
+
+/// What is due for the engines of the card that is shown.
+void LogbookController::askServices()
+{
+    std::set<std::string> ids;
+    for (const auto& [number, cycle] : mSession.container.recordCycles())
+        ids.insert(cycleEngine(mSession.container, cycle).id);
+    if (ids.empty() || !QFileInfo::exists(mStore))
+        return;
+    mpWorker->ask(
+        [ids](LogbookReader& reader) {
+            QStringList texts;
+            std::set<std::string> wanted;
+            for (const std::string& id : ids)
+                wanted.insert(reader.engineOf(id));
+            for (const LogbookEngine& engine : reader.engines()) {
+                if (!wanted.contains(engine.id))
+                    continue;
+                for (const Service& service : reader.services(engine.id)) {
+                    const ServiceDue due = dueOf(service, engine.hours(), QDate::currentDate());
+                    if (const QString text = LogbookTexts::warning(service, due); !text.isEmpty())
+                        texts.append(wanted.size() > 1 ? LogbookTexts::engine(engine.id, engine.aircraft) + ": " + text : text);
+                }
+            }
+            return texts;
+        },
+        [this, path = mSession.container.path()](const QStringList& texts) {
+            if (path == mSession.container.path())
+                mParts.overview.view().setServices(texts);
+        });
+}
+
+CardReviewer::Supplement LogbookController::supplement() const
+{
+    return [path = encodeFileName(mStore)](CycleOverview& overview, const CardContainer& card) {
+        if (!QFileInfo::exists(decodeFileName(path)))
+            return;
+        LogbookReader logbook(path);
+        StoreReader store(path);
+        const CycleHead head = cycleHead(card, overview.number, card.recordCycles().at(overview.number));
+        if (head.id.empty())
+            return;
+        for (const LogbookNote& note : logbook.notes(head.id))
+            overview.notes.push_back(note.note);
+        if (!overview.flights.empty())
+            overview.unusual = unusualTexts(store, head, overview);
+    };
+}
+
+void LogbookController::open(const QString& cycleId, int flight, double time)
+{
+    const std::string archive = Settings::kArchiveDir.get(mSession.property);
+    mpWorker->ask(
+        [cycle = cycleId.toStdString(), archive](LogbookReader& reader) {
+            const Console silent([](std::string_view) {}, [](std::string_view) {});
+            std::vector<std::string> folders = reader.foldersOf(cycle);
+            if (!archive.empty()) {
+                for (std::string& folder : CardArchive(archive, silent).foldersOf(cycle))
+                    folders.push_back(std::move(folder));
+            }
+            return std::pair(findCycle(folders, cycle, silent, nullProgress()), folders);
+        },
+        [this, flight, time](const std::pair<std::optional<CyclePlace>, std::vector<std::string>>& found) {
+            if (found.first)
+                return openAt(*found.first, flight, time);
+            const QString where = found.second.empty() ? QString() : "\n" + QDir::toNativeSeparators(decodeFileName(found.second.front()));
+            mpDialog->tell(tr("The card of this recording is not at hand.") + where);
+        });
+}
+
+void LogbookController::openAt(const CyclePlace& place, int flight, double time)
+{
+    mpDialog->tell({});
+    mWanted = {place.folder, place.cycle, flight, time};
+    if (mSession.container.path() == place.folder)
+        showWanted();
+    else
+        mParts.cards.openFolder(place.folder);
+    mpWindow->raise();
+    mpWindow->activateWindow();
+}
+
+void LogbookController::showWanted()
+{
+    const Wanted wanted = *std::exchange(mWanted, {});
+    mWantedTime = std::isnan(wanted.time) ? std::nullopt : std::optional(wanted.time);
+    mParts.browser.choose(wanted.cycle, wanted.flight - 1);
+    mParts.cards.loadCycle(wanted.cycle, wanted.flight - 1);
+}
+
+void LogbookController::slotRecord()
+{
+    if (!mWantedTime || !mParts.record.record())
+        return;
+    // When the views have the record: until then they begin with its start.
+    QMetaObject::invokeMethod(this, [this, time = *std::exchange(mWantedTime, {})] { mParts.record.setTime(time); }, Qt::QueuedConnection);
+}
+
+} // namespace ZARN

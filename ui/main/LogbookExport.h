@@ -1,0 +1,37 @@
+#pragma once
+
+#include "export/ui/ExportProgress.h"
+#include "project/Session.h"
+#include "store/LogbookReader.h"
+
+namespace ZARN {
+
+/// Writes what the logbook shows to files: its table as CSV or PDF, its notes as CSV. Asks for the file, shows the progress, and says what
+/// failed. Owned by the logbook's controller.
+class LogbookExport : public QObject {
+    Q_OBJECT
+
+public:
+    /// @param store path of the file
+    LogbookExport(const Session& session, QString store, QWidget* pWindow);
+
+    /// @param flights in the order in which they are shown; @param title what they are
+    void exportFlights(QWidget* pParent, const std::vector<int64_t>& flights, const QString& title);
+    void exportNotes(QWidget* pParent, const std::vector<LogbookNote>& notes);
+
+Q_SIGNALS:
+    void signalWritten(const QString& path);
+
+private:
+    using Write = std::function<std::string(const std::string& path, Progress& progress)>;
+
+    QString askFile(QWidget* pParent, const QString& title, const QString& name, const QStringList& filters);
+    void run(QWidget* pParent, const QString& path, const Write& write);
+    [[nodiscard]] char separator() const;
+
+    Session mSession;
+    const QString mStore;
+    ExportProgress mProgress;
+};
+
+} // namespace ZARN

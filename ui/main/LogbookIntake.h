@@ -1,0 +1,55 @@
+#pragma once
+
+#include "app/BackgroundTask.h"
+#include "project/Session.h"
+
+#include <QStringList>
+
+namespace ZARN {
+
+class DecodingContext;
+
+/// Takes cards into the logbook, one after the other, in a thread of its own, and copies them into the archive where the user wants that.
+/// A card that is there already costs a look at its folder. Owned by the logbook's controller.
+class LogbookIntake : public QObject {
+    Q_OBJECT
+
+public:
+    /// @param store path of the file
+    LogbookIntake(const Session& session, QString store, QObject* pParent = nullptr);
+
+    /// The file of the profile that is in force.
+    void setProfile(const QString& file) { mProfile = file; }
+    /// A card to be taken in when its turn comes.
+    void take(const QString& folder);
+    /// Ends what is under way; nothing of that card is kept.
+    void cancel();
+    [[nodiscard]] bool isRunning() const { return mTask.isRunning(); }
+
+Q_SIGNALS:
+    /// A card was taken in, or could not be. @param error for people; empty when it was
+    void signalDone(const QString& folder, const QString& error);
+
+private:
+    /// What a piece of work has, whatever is chosen in the window meanwhile.
+    struct Job {
+        std::string card;
+        std::string store;
+        QString profile;
+        std::string variant;
+        std::string archive; ///< empty: none
+    };
+    void begin();
+    void finish();
+    static std::string work(const Job& job, const DecodingContext& context, Progress& progress);
+    static std::string keep(const Job& job, const DecodingContext& context, Progress& progress);
+
+    Session mSession;
+    const QString mStore;
+    QString mProfile;
+    QStringList mFolders; ///< the first is being taken
+    QString mError;
+    BackgroundTask mTask; // the last: its work refers to the error
+};
+
+} // namespace ZARN
