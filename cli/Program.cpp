@@ -10,6 +10,7 @@
 #include "cli/CommandIds.h"
 #include "cli/CommandInfo.h"
 #include "cli/CommandKml.h"
+#include "cli/CommandLive.h"
 #include "cli/CommandPath.h"
 #include "cli/CommandProfile.h"
 #include "cli/CommandReport.h"
@@ -55,7 +56,7 @@ Program::Program(std::vector<std::string> arguments)
     mpApp->set_version_flag("--version", Revision::getRevisionString());
     mpApp->add_flag("--verbose", mVerbose, "tell on standard error what is done");
     mCommands = makeCommands<CommandInfo, CommandIds, CommandFlights, CommandEvents, CommandFaults, CommandPath, CommandValue, CommandCsv,
-                             CommandKml, CommandGpx, CommandCandump, CommandReport, CommandSummary, CommandScan, CommandTrend, CommandProfile,
+                             CommandKml, CommandGpx, CommandCandump, CommandReport, CommandSummary, CommandScan, CommandTrend, CommandLive, CommandProfile,
                              CommandSimulate>(*mpApp);
     mpApp->footer("Example: zarn-cli csv /media/card -o flight.csv");
     mpApp->require_subcommand(1);
