@@ -13,7 +13,7 @@ if(UNIX AND NOT APPLE)
 endif()
 
 # Of the release only: each costs something, and sanitizers do more.
-# _GLIBCXX_ASSERTIONS is not among them: it costs several percent where values are decoded (docs/performance.md has the figures).
+# _GLIBCXX_ASSERTIONS is not among them: it checks every access to a sequence, in the loops that decode values too.
 set(hardening -fstack-protector-strong -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2)
 check_cxx_compiler_flag(-fcf-protection=full ZARN_HAS_CF_PROTECTION)
 if(ZARN_HAS_CF_PROTECTION)
