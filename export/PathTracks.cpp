@@ -12,6 +12,22 @@ namespace {
 constexpr double kMostLatitude = 90.0;
 constexpr double kMostLongitude = 180.0;
 
+/// The flights' numbers and spans, as far as they lie in a span; without any flight 0 and everything.
+std::vector<std::pair<int, TimeSpan>> partsOf(const LoadedCard& loaded, const std::optional<TimeSpan>& span)
+{
+    const TimeSpan wanted = span.value_or(TimeSpan{loaded.wholeStart, loaded.wholeEnd});
+    if (loaded.flights.empty())
+        return {{0, wanted}};
+    std::vector<std::pair<int, TimeSpan>> parts;
+    int number = 0;
+    for (const RecordFlight& flight : loaded.flights) {
+        ++number;
+        if (flight.landingTime >= wanted.start && flight.takeOffTime <= wanted.end) // not for the seconds before or behind it alone
+            parts.push_back({number, {std::max(flight.startTime, wanted.start), std::min(flight.endTime, wanted.end)}});
+    }
+    return parts;
+}
+
 } // namespace
 
 PathTracks::PathTracks(const LoadedCard& loaded, bool isWholePath) : mPowerUp(loaded.powerUp), mpPoints(loaded.pPath)
@@ -38,17 +54,19 @@ PathTracks PathTracks::whole(const LoadedCard& loaded)
 PathTracks PathTracks::perFlight(const LoadedCard& loaded, const std::optional<TimeSpan>& span)
 {
     PathTracks path(loaded, true);
-    const TimeSpan wanted = span.value_or(TimeSpan{-HUGE_VAL, HUGE_VAL});
-    if (loaded.flights.empty())
-        path.mTracks.push_back({0, path.pointsIn(wanted)});
-    int number = 0;
-    for (const RecordFlight& flight : loaded.flights) {
-        ++number;
-        if (flight.landingTime >= wanted.start && flight.takeOffTime <= wanted.end) // not for the seconds before or behind it alone
-            path.mTracks.push_back({number, path.pointsIn({std::max(flight.startTime, wanted.start), std::min(flight.endTime, wanted.end)})});
+    for (const auto& [flight, part] : partsOf(loaded, span)) {
+        if (const auto points = path.pointsIn(part); !points.empty())
+            path.mTracks.push_back({flight, points});
     }
-    std::erase_if(path.mTracks, [](const Track& track) { return track.points.empty(); });
     return path;
+}
+
+double PathTracks::seconds(const LoadedCard& loaded, const std::optional<TimeSpan>& span)
+{
+    double seconds = 0.0;
+    for (const auto& [flight, part] : partsOf(loaded, span))
+        seconds += part.end - part.start;
+    return loaded.powerUp.isValid() ? seconds : 0.0;
 }
 
 std::span<const FlightPathPoint> PathTracks::pointsIn(const TimeSpan& span) const

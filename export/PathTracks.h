@@ -26,6 +26,9 @@ public:
     /// @param span only what lies in it; none: all flights
     [[nodiscard]] static PathTracks perFlight(const LoadedCard& loaded, const std::optional<TimeSpan>& span);
 
+    /// How long the tracks of perFlight() are together; 0 without a clock.
+    [[nodiscard]] static double seconds(const LoadedCard& loaded, const std::optional<TimeSpan>& span);
+
     [[nodiscard]] const std::vector<Track>& tracks() const { return mTracks; }
     /// Whether altitudes were recorded; without any those of the points say nothing.
     [[nodiscard]] bool hasAltitude() const { return mHasAltitude; }
