@@ -1,7 +1,5 @@
 #include "export/KmlExportOptions.h"
 
-#include "app/Property.h"
-
 #include <algorithm>
 #include <cstdlib>
 #include <iterator>
@@ -38,6 +36,7 @@ constexpr Number kNumbers[] = {
 };
 
 constexpr Entry<SwitchSetting, bool> kTrack = {Settings::kKmlTrack, &KmlExportOptions::track};
+constexpr TextSetting kTrackText = {Settings::kKmlTrack.key, ""};
 constexpr const char* kTrackOn = "1"; // what a call says, beside the texts of every switch
 
 constexpr Entry<SwitchSetting, bool> kSwitches[] = {
@@ -72,7 +71,7 @@ void KmlExportOptions::read(const Property& settings)
         this->*number.value = number.setting.get(settings);
     for (const auto& [setting, value] : kSwitches)
         this->*value = setting.get(settings);
-    track = track || settings.getString(kTrack.setting.key, {}) == kTrackOn;
+    track = track || kTrackText.get(settings) == kTrackOn;
 }
 
 void KmlExportOptions::write(Property& settings) const
