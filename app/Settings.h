@@ -17,7 +17,9 @@ constexpr TextSetting kCsvExportDir = {"CsvExportDir", "."};
 constexpr NumberSetting kCsvLimiter = {"CsvLimiter", ';', '\t', ';'};
 constexpr NumberSetting kCsvResolution = {"CsvResolution", 100, 10, 100}; // milliseconds a row
 constexpr SwitchSetting kCsvAllParameter = {"CsvAllParameter", true};
+constexpr TextSetting kCsvLocale = {"CsvLocale", ""};
 constexpr TextSetting kGpxExportDir = {"GpxExportDir", "."};
+constexpr SwitchSetting kGpxTrackPerFlight = {"GpxTrackPerFlight", false};
 constexpr TextSetting kReportDir = {"ReportDir", "."};
 
 constexpr int kNoEnd = std::numeric_limits<int>::max();
@@ -37,6 +39,7 @@ constexpr SwitchSetting kKmlErrorMarkOn = {"KmlErrorMarkOn", true};
 constexpr SwitchSetting kKmlShowLimit = {"KmlShowLimit", true};
 constexpr SwitchSetting kKmlShowWarning = {"KmlShowWarning", true};
 constexpr TextSetting kKmlErrorMarkColor = {"KmlErrorMarkColor", "ff0000"};
+constexpr SwitchSetting kKmlTrack = {"KmlTrack", false};
 
 constexpr NumberedSetting kRecentFolder = {"RecentFolder", 10};
 constexpr TextSetting kWindowGeometry = {"WindowGeometry", ""};

@@ -11,9 +11,12 @@ public:
 
 private:
     int runOnData() override;
+    /// Empty when there is such a locale; else what is wrong with it.
+    static std::string checkLocale(const std::string& name);
 
     unsigned int mResolution = 100;
     std::string mSeparator = "semicolon";
+    std::string mLocale;
 };
 
 } // namespace ZARN

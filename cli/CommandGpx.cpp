@@ -9,13 +9,14 @@ CommandGpx::CommandGpx(CLI::App& program)
                   "zarn-cli gpx /media/card --flight 1 -o flight.gpx")
 {
     addOutput();
+    options().addFlag("--track-per-flight", mTrackPerFlight, "one track a flight (default: one of the whole cycle)");
 }
 
 int CommandGpx::runOnData()
 {
     ExportGpx exporter;
     return writeOutput([&](SafeFile& file) {
-        exporter.exportData(mContainer.loaded(), file);
+        exporter.exportData(mContainer.loaded(), file, mTrackPerFlight ? ExportGpx::eTrackPerFlight : ExportGpx::eOneTrack);
         return exporter.error();
     });
 }

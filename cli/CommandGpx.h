@@ -11,6 +11,8 @@ public:
 
 private:
     int runOnData() override;
+
+    bool mTrackPerFlight = false;
 };
 
 } // namespace ZARN

@@ -40,12 +40,16 @@ int CommandKml::runOnData()
     kml.read(settings);
     kml.span = flightSpan();
     ExportKml exporter(console(), mProfile, mProfile.selection(), cycle().dateTime);
+    const LoadedCard loaded = mContainer.loaded();
+    exporter.setTracksOf(loaded);
     const int status = writeOutput([&](SafeFile& file) {
         exporter.exportData(mContainer.recordData(), kml, file);
         return exporter.error();
     });
     if (status == eDone && !exporter.hasPosition())
         say(card() + ": no position recorded");
+    else if (status == eDone && kml.track && !exporter.hasTracks())
+        say(card() + ": no track with times: " + (loaded.powerUp.isValid() ? "the profile knows no flight path" : "the unit had no clock"));
     return status;
 }
 

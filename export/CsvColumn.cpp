@@ -20,8 +20,8 @@ uint32_t tickOf(double time, double ticksPerSecond)
 
 } // namespace
 
-CsvColumn::CsvColumn(const Trace& trace, double ticksPerSecond, char separator)
-    : mpTrace(&trace), mTicksPerSecond(ticksPerSecond), mSeparator(separator), mCell{{separator}, 1}
+CsvColumn::CsvColumn(const Trace& trace, double ticksPerSecond, const CsvForm& form)
+    : mpTrace(&trace), mTicksPerSecond(ticksPerSecond), mForm(form), mCell{{form.separator}, 1}
 {
     if (!trace.ascending())
         sortByTick();
@@ -127,7 +127,8 @@ void CsvColumn::makeCell(double textValue, CsvCell& cell)
 {
     char buffer[kNumberTextSize + 1];
     if (char* pEnd = mpTrace->decoder().writeNumber(textValue, buffer)) {
-        *pEnd++ = mSeparator;
+        pEnd = mForm.number(buffer, pEnd);
+        *pEnd++ = mForm.separator;
         const auto length = static_cast<std::size_t>(pEnd - buffer);
         if (length <= sizeof cell.text) {
             std::memcpy(cell.text, buffer, sizeof cell.text); // a fixed size is a pair of moves
@@ -138,7 +139,8 @@ void CsvColumn::makeCell(double textValue, CsvCell& cell)
     } else {
         mLongText.clear();
         mpTrace->decoder().appendText(textValue, mLongText);
-        mLongText += mSeparator;
+        mForm.makeCell(mLongText);
+        mLongText += mForm.separator;
         if (mLongText.size() <= sizeof cell.text) {
             std::memcpy(cell.text, mLongText.data(), mLongText.size());
             cell.length = static_cast<uint8_t>(mLongText.size());

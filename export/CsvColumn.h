@@ -1,5 +1,6 @@
 #pragma once
 
+#include "export/CsvForm.h"
 #include "trace/Trace.h"
 
 namespace ZARN {
@@ -30,7 +31,7 @@ public:
 
     /// @param trace of the kind eText, which must outlive the column
     /// @param ticksPerSecond the rows' resolution
-    CsvColumn(const Trace& trace, double ticksPerSecond, char separator);
+    CsvColumn(const Trace& trace, double ticksPerSecond, const CsvForm& form);
 
     /// The tick of the next sample; kNoTick after the last.
     [[nodiscard]] uint64_t nextTick() const { return mNextTick; }
@@ -63,7 +64,7 @@ private:
 
     const Trace* mpTrace;
     double mTicksPerSecond;
-    char mSeparator;
+    CsvForm mForm;
     CsvCell mCell;                     // the text that holds
     std::vector<TickPosition> mSorted; // when the times do not ascend: the last sample of each tick
     std::size_t mNext = 0;             // sample, or place in mSorted

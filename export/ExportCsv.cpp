@@ -2,8 +2,8 @@
 
 #include "app/NumberText.h"
 #include "app/SafeFile.h"
-#include "app/TimeText.h"
 #include "export/CsvColumn.h"
+#include "export/CsvTime.h"
 #include "export/ProgressSpan.h"
 
 #include <QFile>
@@ -14,15 +14,16 @@ namespace ZARN {
 
 namespace {
 
+constexpr const char* kByteOrderMark = "\xEF\xBB\xBF"; // tells spreadsheets that texts are UTF-8
 constexpr int kColumnsPercent = 5; // of the whole work, to order the columns' samples
 
 /// Turns the columns' cells of one window after the other into lines.
 class CsvRows {
 public:
-    CsvRows(std::vector<CsvColumn>& columns, const CsvExportOptions& options, SafeFile& file, const ProgressSpan& progress)
-        : mColumns(columns), mResolution(options.resolution), mSeparator(options.separator), mSpan(options.span), mFile(file),
+    CsvRows(std::vector<CsvColumn>& columns, const CsvExportOptions& options, CsvTime time, SafeFile& file, const ProgressSpan& progress)
+        : mColumns(columns), mResolution(options.resolution), mTime(std::move(time)), mSpan(options.span), mFile(file),
           mProgress(progress), mWindow(windowTicks(columns.size())), mCells(columns.size() * mWindow.marked.size()),
-          mLines(std::max(kLinesSize, kTimeTextSize + (columns.size() + 1) * sizeof(CsvCell)))
+          mLines(std::max(kLinesSize, CsvTime::kSize + (columns.size() + 1) * sizeof(CsvCell)))
     {
     }
 
@@ -86,9 +87,9 @@ private:
     void writeLine(std::size_t row)
     {
         // Room for a line of short texts; long ones see to theirs themselves.
-        if (room() < kTimeTextSize + (mColumns.size() + 1) * sizeof(CsvCell))
+        if (room() < CsvTime::kSize + (mColumns.size() + 1) * sizeof(CsvCell))
             flush();
-        mpOut = writeTime(mpOut, static_cast<uint32_t>(mWindow.first + mWindow.rows[row]));
+        mpOut = mTime.write(mpOut, static_cast<uint32_t>(mWindow.first + mWindow.rows[row]));
         const CsvCell* pCell = mCells.data() + row;
         char* pOut = mpOut; // a local one: what is written through it cannot be the pointer itself
         for (std::size_t column = 0; column < mColumns.size(); ++column, pCell += mWindow.marked.size()) {
@@ -122,13 +123,6 @@ private:
         mpOut = std::copy(text.begin(), text.end(), mpOut);
     }
 
-    char* writeTime(char* pOut, uint32_t tick) const
-    {
-        pOut = writeElapsed(pOut, uint64_t{tick} * mResolution, 3, 1);
-        *pOut++ = mSeparator;
-        return pOut;
-    }
-
     [[nodiscard]] std::size_t room() const { return static_cast<std::size_t>(mLines.data() + mLines.size() - mpOut); }
 
     /// After a failure every later call fails too.
@@ -150,7 +144,7 @@ private:
 
     std::vector<CsvColumn>& mColumns;
     uint32_t mResolution;
-    char mSeparator;
+    CsvTime mTime;
     std::optional<TimeSpan> mSpan;
     SafeFile& mFile;
     const ProgressSpan& mProgress;
@@ -172,31 +166,35 @@ bool ExportCsv::exportData(const RecordData& recordData, const CsvExportOptions&
 bool ExportCsv::writeFile(SafeFile& file, const RecordData& recordData, const CsvExportOptions& options, Progress& progress)
 {
     mError.clear();
-    if (options.resolution == 0 || 1000 % options.resolution != 0)
+    const std::optional<CsvForm> form = CsvForm::of(options.locale, options.separator);
+    if (!form)
+        mError = "no locale " + options.locale.toStdString();
+    else if (options.resolution == 0 || 1000 % options.resolution != 0)
         mError = "no resolution of " + std::to_string(options.resolution) + " ms";
     else if (!file.open())
         mError = file.error();
     if (!mError.empty())
         return false;
-    std::string header = "Time";
+    const CsvTime time(*form, mPowerUp, options.resolution);
+    std::string header = (form->isForSpreadsheet ? kByteOrderMark : "") + time.titles();
     const TraceSet traces(&recordData, mContext, ENumber::eText, options.allParameters ? TraceSet::all() : TraceSet::selected(mSelection));
     std::vector<CsvColumn> columns;
-    if (!makeColumns(traces, options, ProgressSpan(progress, 0, kColumnsPercent), columns, header))
+    if (!makeColumns(traces, options, *form, ProgressSpan(progress, 0, kColumnsPercent), columns, header))
         return false;
     const ProgressSpan rows(progress, kColumnsPercent, 100);
-    if (file.write(header + "\n") && CsvRows(columns, options, file, rows).write() && file.commit())
+    if (file.write(header + "\n") && CsvRows(columns, options, time, file, rows).write() && file.commit())
         return true;
     mError = file.error();
     return false;
 }
 
-bool ExportCsv::makeColumns(const TraceSet& traces, const CsvExportOptions& options, const ProgressSpan& progress,
-                            std::vector<CsvColumn>& columns, std::string& header)
+bool ExportCsv::makeColumns(const TraceSet& traces, const CsvExportOptions& options, const CsvForm& form,
+                            const ProgressSpan& progress, std::vector<CsvColumn>& columns, std::string& header)
 {
     const double ticksPerSecond = 1 / (options.resolution * 0.001);
     for (const auto& pTrace : traces.traces()) {
-        header += options.separator + pTrace->name();
-        columns.emplace_back(*pTrace, ticksPerSecond, options.separator);
+        header += form.separator + form.title(pTrace->name(), pTrace->unit());
+        columns.emplace_back(*pTrace, ticksPerSecond, form);
         if (!progress.step(columns.size(), traces.size()))
             return false;
     }

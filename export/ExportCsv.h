@@ -5,13 +5,14 @@
 #include "app/Settings.h"
 #include "trace/TraceSet.h"
 
-#include <QString>
+#include <QDateTime>
 
 #include <optional>
 
 namespace ZARN {
 
 class CsvColumn;
+struct CsvForm;
 class ProgressSpan;
 class SafeFile;
 
@@ -23,6 +24,7 @@ struct CsvExportOptions {
     bool allParameters = Settings::kCsvAllParameter.fallback;           ///< false: only those selected in the project
     uint32_t resolution = Settings::kCsvResolution.fallback;            ///< milliseconds a row: 100 or 10
     std::optional<TimeSpan> span = {}; ///< only rows in it, with the values that held before; none: the whole
+    QString locale = {};               ///< as CsvForm takes it: not empty for spreadsheets of that place, which have a separator of their own
 };
 
 /// Writes the decoded data of the loaded cycle as a table of separated values: one row per time step that has a sample, one
@@ -31,7 +33,9 @@ struct CsvExportOptions {
 class ExportCsv {
 public:
     /// @param selection matters when an export is not of all parameters
-    explicit ExportCsv(DecodingContext context, Selection selection = {}) : mContext(std::move(context)), mSelection(std::move(selection))
+    /// @param powerUp wall clock of time 0, which tables for spreadsheets show
+    explicit ExportCsv(DecodingContext context, Selection selection = {}, const QDateTime& powerUp = {})
+        : mContext(std::move(context)), mSelection(std::move(selection)), mPowerUp(powerUp)
     {
     }
 
@@ -45,11 +49,12 @@ public:
 
 private:
     /// @return false when the user cancels.
-    static bool makeColumns(const TraceSet& traces, const CsvExportOptions& options, const ProgressSpan& progress,
+    static bool makeColumns(const TraceSet& traces, const CsvExportOptions& options, const CsvForm& form, const ProgressSpan& progress,
                             std::vector<CsvColumn>& columns, std::string& header);
 
     const DecodingContext mContext;
     const Selection mSelection;
+    const QDateTime mPowerUp;
     std::string mError;
 };
 

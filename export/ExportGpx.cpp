@@ -3,6 +3,7 @@
 #include "app/NumberText.h"
 #include "app/Revision.h"
 #include "app/SafeFile.h"
+#include "export/PathTracks.h"
 #include "export/ProgressSpan.h"
 #include "export/XmlWriter.h"
 
@@ -15,8 +16,6 @@ namespace {
 constexpr int kDegreeDecimals = 8;
 constexpr int kAltitudeDecimals = 1;
 constexpr uint64_t kPointsAStep = 1024; // between two reports of progress
-constexpr double kMostLatitude = 90.0;
-constexpr double kMostLongitude = 180.0;
 
 std::string fixed(double number, int decimals)
 {
@@ -24,48 +23,52 @@ std::string fixed(double number, int decimals)
     return {buffer, writeFixed(buffer, number, decimals)};
 }
 
-std::string timeText(const QDateTime& cycleDate, double seconds)
-{
-    const auto milliseconds = static_cast<qint64>(std::llround(seconds * 1000)); // a path's times are bounded
-    return cycleDate.addMSecs(milliseconds).toString("yyyy-MM-ddThh:mm:ss.zzz'Z'").toStdString();
-}
-
-bool isOnEarth(const FlightPathPoint& point)
-{
-    return std::fabs(point.latitude) <= kMostLatitude && point.longitude >= -kMostLongitude && point.longitude < kMostLongitude;
-}
-
-/// Writes one track point after the other, in segments.
+/// Writes one track after the other.
 class TrackWriter {
 public:
-    TrackWriter(XmlWriter& writer, const QDateTime& cycleDate) : mWriter(writer), mCycleDate(cycleDate) {}
-
-    void add(const FlightPathPoint& point)
+    TrackWriter(XmlWriter& writer, const PathTracks& path, const ProgressSpan& progress) : mWriter(writer), mPath(path), mProgress(progress)
     {
-        if (!isOnEarth(point))
-            return endSegment();
-        if (!mInSegment)
-            mWriter.begin("trkseg");
-        mInSegment = true;
-        mWriter.begin("trkpt",
-                      " lat=\"" + fixed(point.latitude, kDegreeDecimals) + "\" lon=\"" + fixed(point.longitude, kDegreeDecimals) + "\"");
-        if (std::isfinite(point.altitude))
-            mWriter.text("ele", fixed(point.altitude, kAltitudeDecimals));
-        if (mCycleDate.isValid())
-            mWriter.text("time", timeText(mCycleDate, point.time));
-        mWriter.end("trkpt");
+        for (const PathTracks::Track& track : path.tracks())
+            mPoints += track.points.size();
     }
-    void endSegment()
+
+    /// @return false when the user cancels.
+    bool write(const PathTracks::Track& track, const std::string& name)
     {
-        if (mInSegment)
+        mWriter.begin("trk");
+        mWriter.text("name", name);
+        PathTracks::forEachSegment(track.points, [this](std::span<const FlightPathPoint> points) {
+            mWriter.begin("trkseg");
+            for (const FlightPathPoint& point : points)
+                writePoint(point);
             mWriter.end("trkseg");
-        mInSegment = false;
+        });
+        mWriter.end("trk");
+        return mGoesOn;
     }
 
 private:
+    void writePoint(const FlightPathPoint& point)
+    {
+        if (++mDone % kPointsAStep == 0)
+            mGoesOn = mGoesOn && mProgress.step(mDone, mPoints);
+        if (!mGoesOn)
+            return;
+        mWriter.begin("trkpt",
+                      " lat=\"" + fixed(point.latitude, kDegreeDecimals) + "\" lon=\"" + fixed(point.longitude, kDegreeDecimals) + "\"");
+        if (mPath.hasAltitude() && std::isfinite(point.altitude))
+            mWriter.text("ele", fixed(point.altitude, kAltitudeDecimals));
+        if (mPath.hasClock())
+            mWriter.text("time", mPath.clock(point.time));
+        mWriter.end("trkpt");
+    }
+
     XmlWriter& mWriter;
-    const QDateTime& mCycleDate;
-    bool mInSegment = false;
+    const PathTracks& mPath;
+    const ProgressSpan& mProgress;
+    uint64_t mPoints = 0; // of which mDone are written
+    uint64_t mDone = 0;
+    bool mGoesOn = true;
 };
 
 std::string trackName(const LoadedCard& loaded)
@@ -73,52 +76,37 @@ std::string trackName(const LoadedCard& loaded)
     return (loaded.cycleName.isEmpty() ? loaded.card : loaded.card + ", " + loaded.cycleName).toStdString();
 }
 
-/// The path in metric units: the one that is shown, or worked out anew.
-std::shared_ptr<const std::vector<FlightPathPoint>> metricPath(const LoadedCard& loaded)
-{
-    if (loaded.context.unit() == EUnit::eMetric || loaded.pPath->empty())
-        return loaded.pPath;
-    FlightPath rebuilt;
-    rebuilt.build(*loaded.pRecord, loaded.context.in(EUnit::eMetric));
-    rebuilt.crop(loaded.pPath->front().time, loaded.pPath->back().time);
-    return rebuilt.shared();
-}
-
-void beginDocument(XmlWriter& writer, const std::string& name, const QDateTime& cycleDate)
+void beginDocument(XmlWriter& writer, const std::string& name, const PathTracks& path)
 {
     writer.declaration();
     writer.begin("gpx", " version=\"1.1\" creator=\"" + Revision::getRevisionString() + "\" xmlns=\"http://www.topografix.com/GPX/1/1\"");
     writer.begin("metadata");
     writer.text("name", name);
-    if (cycleDate.isValid())
-        writer.text("time", timeText(cycleDate, 0));
+    if (path.hasClock())
+        writer.text("time", path.clock(0));
     writer.end("metadata");
-    writer.begin("trk");
-    writer.text("name", name);
 }
 
 } // namespace
 
-bool ExportGpx::exportData(const LoadedCard& loaded, SafeFile& file, Progress& progress)
+bool ExportGpx::exportData(const LoadedCard& loaded, SafeFile& file, ETracks tracks, Progress& progress)
 {
     mError.clear();
     if (!file.open()) {
         mError = file.error();
         return false;
     }
-    const auto pPoints = metricPath(loaded);
+    const bool isPerFlight = tracks == eTrackPerFlight && loaded.flightNumber == 0;
+    const PathTracks path = isPerFlight ? PathTracks::perFlight(loaded, {}) : PathTracks::whole(loaded);
+    const std::string name = trackName(loaded);
     const ProgressSpan span(progress, 0, 100);
     XmlWriter writer(file);
-    beginDocument(writer, trackName(loaded), loaded.cycleDate);
-    TrackWriter track(writer, loaded.cycleDate);
-    uint64_t done = 0;
-    for (const FlightPathPoint& point : *pPoints) {
-        if (++done % kPointsAStep == 0 && !span.step(done, pPoints->size()))
+    beginDocument(writer, name, path);
+    TrackWriter writeTrack(writer, path, span);
+    for (const PathTracks::Track& track : path.tracks()) {
+        if (!writeTrack.write(track, track.flight > 0 ? name + ", Flight " + std::to_string(track.flight) : name))
             return false;
-        track.add(point);
     }
-    track.endSegment();
-    writer.end("trk");
     writer.end("gpx");
     if (writer.flush() && file.commit())
         return true;

@@ -39,6 +39,9 @@ bool ExportKml::collect(const RecordData& recordData, const KmlExportOptions& op
 {
     mError.clear();
     const ProgressSpan path(progress, 0, kPathDone);
+    mContent.tracks = {};
+    if (options.track && mTracked && mTracked->powerUp.isValid())
+        mContent.tracks = PathTracks::perFlight(*mTracked, options.span);
     return mContent.path.build(recordData, mContext, KmlGrid(options.timeStamp), mConsole, path) &&
            exportPlaceMarks(recordData, options, progress) && exportErrors(recordData, options, progress);
 }

@@ -17,6 +17,9 @@ public:
     /// @param selection the parameters that placemarks of values show
     ExportKml(const Console& console, DecodingContext context, Selection selection, const QDateTime& cycleDate);
 
+    /// What tracks with times are made of, if the options want them.
+    void setTracksOf(const LoadedCard& loaded) { mTracked = loaded; }
+
     /// Writes directory/fileName of the options. @return false, with the old file, if any, untouched, when it could not be written,
     /// which a console line tells, or was cancelled.
     bool exportData(const RecordData& recordData, const KmlExportOptions& options, Progress& progress = nullProgress());
@@ -31,6 +34,8 @@ public:
 
     /// Whether the last document has a path: without one there is little to see in it.
     [[nodiscard]] bool hasPosition() const { return mContent.path.hasPosition(); }
+    /// Whether the last document has tracks with times.
+    [[nodiscard]] bool hasTracks() const { return !mContent.tracks.tracks().empty(); }
     /// Why the last export failed: "NAME: reason"; empty after one that was cancelled.
     [[nodiscard]] const std::string& error() const { return mError; }
 
@@ -40,6 +45,7 @@ private:
     const Console& mConsole;
     const DecodingContext mContext;
     const Selection mSelection;
+    std::optional<LoadedCard> mTracked;
     KmlContent mContent;
     std::string mError;
 };

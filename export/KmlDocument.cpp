@@ -1,6 +1,7 @@
 #include "export/KmlDocument.h"
 
 #include "app/NumberText.h"
+#include "export/KmlTracks.h"
 
 #include <QColor>
 
@@ -45,15 +46,19 @@ bool KmlDocument::write()
 {
     countPieces();
     mWriter.declaration();
-    mWriter.begin("kml", " xmlns=\"http://www.opengis.net/kml/2.2\"");
+    const bool hasTracks = !mContent.tracks.tracks().empty();
+    mWriter.begin("kml", std::string(" xmlns=\"http://www.opengis.net/kml/2.2\"") + (hasTracks ? KmlTracks::kNamespace : ""));
     mWriter.begin("Document");
     addData("name", "ZARN Flightpath " + mContent.date.toStdString());
     writeStyle(kNormalStyle, mOptions.placeMarkColor);
     writeStyle(kErrorStyle, mOptions.errorMarkColor);
+    if (hasTracks)
+        writeTrackStyle();
     writeParameterPlacemarks();
     writeEventPlacemarks(mContent.limits);
     writeEventPlacemarks(mContent.warnings);
     writePath();
+    writeTracks();
     mWriter.end("Document");
     mWriter.end("kml");
     return mGoesOn;
@@ -63,6 +68,8 @@ void KmlDocument::countPieces()
 {
     mPieces = mContent.placemarks.textCount() + mContent.limits.events().size() + mContent.warnings.events().size()
               + mContent.path.points().size();
+    for (const PathTracks::Track& track : mContent.tracks.tracks())
+        mPieces += track.points.size();
 }
 
 void KmlDocument::writeStyle(const char* name, const std::string& colour)
@@ -84,7 +91,7 @@ void KmlDocument::writeParameterPlacemarks()
         const KmlPoint* pPoint = mContent.path.at(saturatingCast<int>(static_cast<double>(slot) * interval));
         if (!pPoint || !isWanted(mGrid.seconds(slot, interval)))
             return true;
-        beginPlacemark(mGrid.timeOfDay(slot, interval), kNormalStyle);
+        beginPlacemark(mGrid.timeOfDay(slot, interval), mGrid.seconds(slot, interval), kNormalStyle);
         mContent.placemarks.forEachText([&](const Trace& trace, const std::string& text) { writeValue(trace.name(), text, trace.unit()); });
         endPlacemark(*pPoint);
         mDone = mContent.placemarks.textsDone();
@@ -106,16 +113,21 @@ void KmlDocument::writeEventPlacemarks(const EventList& list)
         if (!pPoint)
             return;
         const EventSource& source = list.source(event);
-        beginPlacemark(mGrid.timeOfDay(slot), kErrorStyle);
+        beginPlacemark(mGrid.timeOfDay(slot), event.time, kErrorStyle);
         writeValue(source.parameter, event.value, source.unit);
         endPlacemark(*pPoint);
     }
 }
 
-void KmlDocument::beginPlacemark(const std::string& title, const char* style)
+void KmlDocument::beginPlacemark(const std::string& title, double seconds, const char* style)
 {
     mWriter.begin("Placemark");
     addData("name", title);
+    if (const std::string clock = mContent.tracks.clock(seconds); !clock.empty()) {
+        mWriter.begin("TimeStamp");
+        addData("when", clock);
+        mWriter.end("TimeStamp");
+    }
     addData("styleUrl", style);
     mWriter.begin("ExtendedData");
 }
@@ -139,14 +151,37 @@ void KmlDocument::endPlacemark(const KmlPoint& point)
     mWriter.end("Placemark");
 }
 
-void KmlDocument::writePath()
+void KmlDocument::writeLineStyle()
 {
-    mWriter.begin("Placemark");
-    mWriter.begin("Style");
     mWriter.begin("LineStyle");
     addData("color", kmlColour(mOptions.lineAlpha, mOptions.lineColor));
     addData("width", std::to_string(mOptions.lineWidth));
     mWriter.end("LineStyle");
+}
+
+void KmlDocument::writeTrackStyle()
+{
+    mWriter.begin("Style", std::string(" id=\"") + KmlTracks::kStyle + "\"");
+    writeLineStyle();
+    mWriter.end("Style");
+}
+
+void KmlDocument::writeTracks()
+{
+    KmlTracks tracks(mContent.tracks, mOptions.timeStamp, mWriter);
+    for (const PathTracks::Track& track : mContent.tracks.tracks()) {
+        if (mGoesOn)
+            tracks.write(track);
+        mDone += track.points.size();
+        step();
+    }
+}
+
+void KmlDocument::writePath()
+{
+    mWriter.begin("Placemark");
+    mWriter.begin("Style");
+    writeLineStyle();
     mWriter.begin("PolyStyle");
     addData("color", kmlColour(mOptions.polygonAlpha, mOptions.polygonColor));
     mWriter.end("PolyStyle");

@@ -4,6 +4,7 @@
 #include "export/KmlExportOptions.h"
 #include "export/KmlPath.h"
 #include "export/KmlPlacemarks.h"
+#include "export/PathTracks.h"
 #include "export/ProgressSpan.h"
 #include "export/XmlWriter.h"
 
@@ -18,9 +19,10 @@ struct KmlContent {
     KmlPlacemarks placemarks;
     EventList limits;
     EventList warnings;
+    PathTracks tracks; ///< none unless they are wanted, and the unit had a clock
 };
 
-/// Writes a KML document: styles, placemarks, and the path last. Used once for one document.
+/// Writes a KML document: styles, placemarks, the path, and what tracks are wanted. Used once for one document.
 class KmlDocument {
 public:
     KmlDocument(KmlContent& content, const KmlExportOptions& options, XmlWriter& writer, const ProgressSpan& progress)
@@ -38,10 +40,13 @@ private:
     bool step() { return mGoesOn = mProgress.step(mDone, mPieces); }
     void writeParameterPlacemarks();
     void writeEventPlacemarks(const EventList& list);
-    void beginPlacemark(const std::string& title, const char* style);
+    void beginPlacemark(const std::string& title, double seconds, const char* style);
     void writeValue(const std::string& name, const std::string& value, const std::string& unit);
     void endPlacemark(const KmlPoint& point);
+    void writeLineStyle();
+    void writeTrackStyle();
     void writePath();
+    void writeTracks();
 
     KmlContent& mContent;
     const KmlExportOptions& mOptions;

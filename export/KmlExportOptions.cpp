@@ -35,10 +35,14 @@ constexpr Number kNumbers[] = {
     {{Settings::kKmlPlaceMarkInterval, &KmlExportOptions::placeMarkInterval}, "a number of path points from 1 on"},
 };
 
+constexpr Entry<SwitchSetting, bool> kTrack = {Settings::kKmlTrack, &KmlExportOptions::track};
+constexpr TextSetting kTrackText = {Settings::kKmlTrack.key, ""};
+constexpr const char* kTrackOn = "1"; // what a call says, beside the texts of every switch
+
 constexpr Entry<SwitchSetting, bool> kSwitches[] = {
     {Settings::kKmlPolygonOn, &KmlExportOptions::polygonOn},     {Settings::kKmlPlaceMarkOn, &KmlExportOptions::placeMarkOn},
     {Settings::kKmlErrorMarkOn, &KmlExportOptions::errorMarkOn}, {Settings::kKmlShowLimit, &KmlExportOptions::showLimit},
-    {Settings::kKmlShowWarning, &KmlExportOptions::showWarning},
+    {Settings::kKmlShowWarning, &KmlExportOptions::showWarning}, kTrack,
 };
 
 /// The entry of that key; null when there is none.
@@ -67,6 +71,7 @@ void KmlExportOptions::read(const Property& settings)
         this->*number.value = number.setting.get(settings);
     for (const auto& [setting, value] : kSwitches)
         this->*value = setting.get(settings);
+    track = track || kTrackText.get(settings) == kTrackOn;
 }
 
 void KmlExportOptions::write(Property& settings) const
@@ -97,6 +102,8 @@ std::string KmlExportOptions::problem(const std::string& key, const std::string&
 {
     if (find(kColours, key))
         return isColour(value) ? "" : key + ": must be a colour of six hexadecimal digits";
+    if (key == kTrack.setting.key)
+        return value == kTrackOn || value == "0" || value == "true" || value == "false" ? "" : key + ": must be 1 or 0";
     const Number* pNumber = find(kNumbers, key);
     if (!pNumber)
         return {};

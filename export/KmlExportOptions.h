@@ -29,6 +29,7 @@ struct KmlExportOptions {
     bool showLimit = Settings::kKmlShowLimit.fallback;
     bool showWarning = Settings::kKmlShowWarning.fallback;
     std::string errorMarkColor = Settings::kKmlErrorMarkColor.fallback;
+    bool track = Settings::kKmlTrack.fallback; ///< tracks with times, flight by flight, and times of the placemarks
     std::optional<TimeSpan> span = {}; ///< only path points and placemarks in it; none: the whole
 
     /// Takes over what the settings have, or their defaults; a colour stays for one that is none. Numbers out of range are brought

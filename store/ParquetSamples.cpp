@@ -38,7 +38,7 @@ public:
           mHeld(traces.size()), mFields(traces.size() + 1)
     {
         for (const auto& pTrace : traces.traces()) {
-            mColumns.emplace_back(*pTrace, ticksPerSecond, ';');
+            mColumns.emplace_back(*pTrace, ticksPerSecond, CsvForm{});
             mIsNumeric.push_back(pTrace->decoder().isNumeric() ? 1 : 0);
         }
     }

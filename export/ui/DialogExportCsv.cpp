@@ -25,16 +25,18 @@ DialogExportCsv::DialogExportCsv(const Session& session, QWidget* pParent)
     addPage(mpOptions);
     resize(kSize);
     connect(mpOptions, &DialogExportCsvOptions::signalChanged, this, &DialogExportCsv::slotChanged);
+    connect(mpPath, &ExportPathPage::signalPart, this, &DialogExportCsv::slotChanged);
     connect(this, &QWizard::currentIdChanged, this, &DialogExportCsv::slotChanged);
 }
 
 bool DialogExportCsv::getOptions(CsvExportOptions& options, const std::vector<ExportPart>& parts)
 {
     mpPath->setTarget(options.directory, options.fileName);
-    mpOptions->setOptions(options.separator, static_cast<int>(options.resolution), options.allParameters);
+    mpOptions->setOptions(options.separator, static_cast<int>(options.resolution), options.allParameters, options.locale);
     mpPath->setParts(parts);
     restart();
     loadSettings();
+    slotChanged();
     if (exec() != QDialog::Accepted)
         return false;
     options = chosen();
@@ -45,7 +47,7 @@ bool DialogExportCsv::getOptions(CsvExportOptions& options, const std::vector<Ex
 CsvExportOptions DialogExportCsv::chosen() const
 {
     return {mpPath->directory(),        mpPath->fileName(),      mpOptions->separator(),
-            mpOptions->allParameters(), mpOptions->resolution(), mpPath->span()};
+            mpOptions->allParameters(), mpOptions->resolution(), mpPath->span(), mpOptions->locale()};
 }
 
 ExportOutlook DialogExportCsv::outlook() const
@@ -55,7 +57,9 @@ ExportOutlook DialogExportCsv::outlook() const
 
 void DialogExportCsv::slotChanged()
 {
-    mpOptions->setNote(outlook().note(ExportOutlook::freeBytes(mpPath->directory())));
+    const ExportOutlook outlook = this->outlook();
+    mpOptions->setOutlook(outlook.note(ExportOutlook::freeBytes(mpPath->directory())), outlook.size());
+    mpPath->setSize(outlook.size());
 }
 
 void DialogExportCsv::accept()
@@ -69,7 +73,7 @@ void DialogExportCsv::loadSettings()
     const Property& settings = mSession.property;
     mpPath->setTarget(Settings::kCsvExportDir.text(settings), mpPath->fileName());
     mpOptions->setOptions(Settings::kCsvLimiter.get(settings), Settings::kCsvResolution.get(settings),
-                          Settings::kCsvAllParameter.get(settings));
+                          Settings::kCsvAllParameter.get(settings), Settings::kCsvLocale.text(settings));
 }
 
 void DialogExportCsv::saveSettings() const
@@ -78,6 +82,7 @@ void DialogExportCsv::saveSettings() const
     Settings::kCsvExportDir.set(settings, mpPath->directory());
     Settings::kCsvLimiter.set(settings, mpOptions->separator());
     Settings::kCsvResolution.set(settings, static_cast<int>(mpOptions->resolution()));
+    Settings::kCsvLocale.set(settings, mpOptions->locale());
     Settings::kCsvAllParameter.set(settings, mpOptions->allParameters());
     settings.writeXmlFile();
 }

@@ -2,6 +2,8 @@
 
 #include "app/Property.h"
 #include "card/CardContainer.h"
+#include "card/PowerUp.h"
+#include "export/PathTracks.h"
 #include "export/ui/DialogExportKmlOptions.h"
 #include "export/ui/DialogExportKmlPath.h"
 #include "export/ui/DialogExportKmlPlacemark.h"
@@ -17,8 +19,8 @@ constexpr QSize kSize(560, 440);
 } // namespace
 
 DialogExportKml::DialogExportKml(const Session& session, QWidget* pParent)
-    : QWizard(pParent), mSession(session), mpPath(new DialogExportKmlPath(session.container)), mpOptions(new DialogExportKmlOptions),
-      mpPlacemark(new DialogExportKmlPlacemark)
+    : QWizard(pParent), mSession(session), mpPath(new DialogExportKmlPath(session.container)),
+      mpOptions(new DialogExportKmlOptions(PowerUp::ofLoaded(session.container).isValid())), mpPlacemark(new DialogExportKmlPlacemark)
 {
     setWindowTitle(tr("KML Export"));
     setWizardStyle(QWizard::ModernStyle);
@@ -27,6 +29,7 @@ DialogExportKml::DialogExportKml(const Session& session, QWidget* pParent)
     addPage(mpPlacemark);
     resize(kSize);
     connect(mpPlacemark, &DialogExportKmlPlacemark::signalChanged, this, &DialogExportKml::slotChanged);
+    connect(mpPath, &ExportPathPage::signalPart, this, &DialogExportKml::slotChanged);
     connect(this, &QWizard::currentIdChanged, this, &DialogExportKml::slotChanged);
 }
 
@@ -39,6 +42,7 @@ bool DialogExportKml::getOptions(KmlExportOptions& options, const std::vector<Ex
     mpOptions->show(shown);
     mpPlacemark->show(shown);
     restart();
+    slotChanged();
     if (exec() != QDialog::Accepted)
         return false;
     options = chosen();
@@ -60,12 +64,16 @@ KmlExportOptions DialogExportKml::chosen() const
 
 ExportOutlook DialogExportKml::outlook() const
 {
-    return {mSession.container.recordData(), mSession.profile, mSession.profile.selection(), chosen()};
+    const KmlExportOptions options = chosen();
+    return {mSession.container.recordData(), mSession.profile, mSession.profile.selection(), options,
+            options.track ? PathTracks::seconds(mSession.container.loaded(), options.span) : 0.0};
 }
 
 void DialogExportKml::slotChanged()
 {
-    mpPlacemark->setNote(outlook().note(ExportOutlook::freeBytes(mpPath->directory())));
+    const ExportOutlook outlook = this->outlook();
+    mpPlacemark->setOutlook(outlook.note(ExportOutlook::freeBytes(mpPath->directory())), outlook.size());
+    mpPath->setSize(outlook.size());
 }
 
 void DialogExportKml::accept()

@@ -2,8 +2,10 @@
 
 #include "export/ui/ColourButton.h"
 
+#include <QCheckBox>
 #include <QFormLayout>
 #include <QGroupBox>
+#include <QLabel>
 #include <QSpinBox>
 
 namespace ZARN {
@@ -15,10 +17,12 @@ constexpr int kWidestLine = 50;
 
 } // namespace
 
-DialogExportKmlOptions::DialogExportKmlOptions(QWidget* pParent)
+DialogExportKmlOptions::DialogExportKmlOptions(bool hasClock, QWidget* pParent)
     : QWizardPage(pParent), mpTimeStamp(new QSpinBox), mpLineWidth(new QSpinBox),
       mpLineColour(new ColourButton(tr("Select Line Color"), ColourButton::eWithOpacity)), mpPolygon(new QGroupBox(tr("Draw Polygon"))),
-      mpPolygonColour(new ColourButton(tr("Select Polygon Color"), ColourButton::eWithOpacity))
+      mpPolygonColour(new ColourButton(tr("Select Polygon Color"), ColourButton::eWithOpacity)),
+      mpTrack(new QCheckBox(tr("Tracks with times to replay, one folder a flight"))),
+      mpNoClock(new QLabel(tr("The unit had no clock: there will be no tracks.")))
 {
     setTitle(tr("Select KML Option"));
     mpTimeStamp->setObjectName("timeStamp");
@@ -43,7 +47,14 @@ DialogExportKmlOptions::DialogExportKmlOptions(QWidget* pParent)
     pLayout->addLayout(pForm);
     pLayout->addWidget(pLine);
     pLayout->addWidget(mpPolygon);
+    pLayout->addWidget(mpTrack);
+    pLayout->addWidget(mpNoClock);
     pLayout->addStretch();
+    mpTrack->setObjectName("track");
+    mpNoClock->setObjectName("warning");
+    mpNoClock->setVisible(false);
+    if (!hasClock)
+        connect(mpTrack, &QCheckBox::toggled, mpNoClock, &QLabel::setVisible);
 }
 
 void DialogExportKmlOptions::show(const KmlExportOptions& options)
@@ -53,6 +64,7 @@ void DialogExportKmlOptions::show(const KmlExportOptions& options)
     mpLineColour->setColour(options.lineColor, options.lineAlpha);
     mpPolygon->setChecked(options.polygonOn);
     mpPolygonColour->setColour(options.polygonColor, options.polygonAlpha);
+    mpTrack->setChecked(options.track);
 }
 
 void DialogExportKmlOptions::store(KmlExportOptions& options) const
@@ -64,6 +76,7 @@ void DialogExportKmlOptions::store(KmlExportOptions& options) const
     options.polygonOn = mpPolygon->isChecked();
     options.polygonColor = mpPolygonColour->digits();
     options.polygonAlpha = mpPolygonColour->alpha();
+    options.track = mpTrack->isChecked();
 }
 
 } // namespace ZARN

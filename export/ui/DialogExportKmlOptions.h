@@ -4,7 +4,9 @@
 
 #include <QWizardPage>
 
+class QCheckBox;
 class QGroupBox;
+class QLabel;
 class QSpinBox;
 
 namespace ZARN {
@@ -16,7 +18,8 @@ class DialogExportKmlOptions : public QWizardPage {
     Q_OBJECT
 
 public:
-    explicit DialogExportKmlOptions(QWidget* pParent = nullptr);
+    /// @param hasClock whether times can be told of what is exported
+    explicit DialogExportKmlOptions(bool hasClock, QWidget* pParent = nullptr);
 
     void show(const KmlExportOptions& options);
     void store(KmlExportOptions& options) const;
@@ -27,6 +30,8 @@ private:
     ColourButton* mpLineColour;
     QGroupBox* mpPolygon;
     ColourButton* mpPolygonColour;
+    QCheckBox* mpTrack;
+    QLabel* mpNoClock;
 };
 
 } // namespace ZARN

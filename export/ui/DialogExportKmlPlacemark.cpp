@@ -20,7 +20,8 @@ DialogExportKmlPlacemark::DialogExportKmlPlacemark(QWidget* pParent)
     : QWizardPage(pParent), mpParameters(new QGroupBox(tr("Draw selected parameters as placemarks"))), mpInterval(new QSpinBox),
       mpColour(new ColourButton(tr("Select Placemark Color"), ColourButton::eOpaque)),
       mpErrors(new QGroupBox(tr("Show Limit exceedance / Warning Lamps"))), mpLimits(new QCheckBox(tr("Limit Exceedance"))),
-      mpWarnings(new QCheckBox(tr("Warning Lamps"))), mpErrorColour(new ColourButton(tr("Select Exceedance Color"), ColourButton::eOpaque)), mpNote(new QLabel)
+      mpWarnings(new QCheckBox(tr("Warning Lamps"))), mpErrorColour(new ColourButton(tr("Select Exceedance Color"), ColourButton::eOpaque)),
+      mpSize(new QLabel), mpNote(new QLabel)
 {
     setTitle(tr("Select KML Placemarks"));
     mpParameters->setObjectName("placeMarks");
@@ -45,6 +46,9 @@ DialogExportKmlPlacemark::DialogExportKmlPlacemark(QWidget* pParent)
     auto* pLayout = new QVBoxLayout(this);
     pLayout->addWidget(mpParameters);
     pLayout->addWidget(mpErrors);
+    auto* pSize = new QFormLayout;
+    pSize->addRow(tr("Size of the file"), mpSize);
+    pLayout->addLayout(pSize);
     pLayout->addWidget(mpNote);
     pLayout->addStretch();
     mpNote->setObjectName("warning");
@@ -64,9 +68,10 @@ void DialogExportKmlPlacemark::show(const KmlExportOptions& options)
     mpErrorColour->setColour(options.errorMarkColor);
 }
 
-void DialogExportKmlPlacemark::setNote(const QString& text)
+void DialogExportKmlPlacemark::setOutlook(const QString& note, const QString& size)
 {
-    mpNote->setText(text);
+    mpNote->setText(note);
+    mpSize->setText(size);
 }
 
 void DialogExportKmlPlacemark::store(KmlExportOptions& options) const

@@ -22,8 +22,8 @@ public:
 
     void show(const KmlExportOptions& options);
     void store(KmlExportOptions& options) const;
-    /// What the user should know before the file is written.
-    void setNote(const QString& text);
+    /// What the user should know before the file is written, and how large it will be.
+    void setOutlook(const QString& note, const QString& size);
 
 Q_SIGNALS:
     void signalChanged();
@@ -36,6 +36,7 @@ private:
     QCheckBox* mpLimits;
     QCheckBox* mpWarnings;
     ColourButton* mpErrorColour;
+    QLabel* mpSize;
     QLabel* mpNote;
 };
 

@@ -17,7 +17,9 @@ namespace ZARN {
 namespace {
 
 constexpr double kCsvTimeBytes = 12;        // "0:33:23.200;"
+constexpr double kCsvClockBytes = 36;       // "2003.200;" and "15.06.2024 09:42:42.202;"
 constexpr double kKmlPointBytes = 34;       // a line of coordinates
+constexpr double kKmlTrackPointBytes = 130; // its time and its coordinates
 constexpr double kKmlPlacemarkBytes = 330;  // without its values
 constexpr double kKmlValueBytes = 140;      // without name and text
 constexpr std::size_t kTextsTried = 16;       // of a parameter
@@ -72,7 +74,7 @@ ExportOutlook::ExportOutlook(const RecordData& data, const DecodingContext& cont
     const TraceSet traces(&data, context, ENumber::eText, options.allParameters ? TraceSet::all() : TraceSet::selected(selection),
                           EFixes::eAlone);
     Extent rows(options.span);
-    double line = kCsvTimeBytes;
+    double line = options.locale.isEmpty() ? kCsvTimeBytes : kCsvTimeBytes + kCsvClockBytes;
     for (const auto& pTrace : traces.traces()) {
         rows.add(*pTrace);
         line += 1 + meanText(*pTrace);
@@ -85,14 +87,14 @@ ExportOutlook::ExportOutlook(const RecordData& data, const DecodingContext& cont
 }
 
 ExportOutlook::ExportOutlook(const RecordData& data, const DecodingContext& context, const Selection& selection,
-                             const KmlExportOptions& options)
+                             const KmlExportOptions& options, double trackSeconds)
 {
     Extent points(options.span);
     for (const uint32_t identifier : {KmlPath::kLatitudeIdentifier, KmlPath::kLongitudeIdentifier, KmlPath::kAltitudeIdentifier}) {
         if (const RecordChannel* pChannel = data.channel(identifier))
             points.add(pChannel->entries);
     }
-    double bytes = points.steps(options.timeStamp) * kKmlPointBytes;
+    double bytes = points.steps(options.timeStamp) * kKmlPointBytes + trackSeconds / options.timeStamp * kKmlTrackPointBytes;
     bool isAnyChosen = true;
     if (options.placeMarkOn) {
         const TraceSet traces(&data, context, ENumber::eText, TraceSet::selected(selection), EFixes::eAlone);
@@ -110,6 +112,11 @@ ExportOutlook::ExportOutlook(const RecordData& data, const DecodingContext& cont
         mLack = tr("No data is loaded: the file will hold no flight path. Choose a power cycle in the card browser first.");
     else if (!isAnyChosen)
         mLack = tr("No parameter is ticked in the profile panel: there will be no placemarks of values.");
+}
+
+QString ExportOutlook::size() const
+{
+    return tr("about %1").arg(shown(mBytes));
 }
 
 QString ExportOutlook::note(int64_t free) const

@@ -25,11 +25,15 @@ public:
     /// some samples.
     ExportOutlook(const RecordData& data, const DecodingContext& context, const Selection& selection, const CsvExportOptions& options);
     /// The size is without the placemarks of exceedances, which are few.
-    ExportOutlook(const RecordData& data, const DecodingContext& context, const Selection& selection, const KmlExportOptions& options);
+    /// @param trackSeconds how long the tracks with times are
+    ExportOutlook(const RecordData& data, const DecodingContext& context, const Selection& selection, const KmlExportOptions& options,
+                  double trackSeconds = 0.0);
 
     /// About how large the file will be.
     [[nodiscard]] uint64_t bytes() const { return mBytes; }
-    /// For people; empty when there is nothing to say. @param free bytes in the folder, < 0 when unknown
+    /// The same for people.
+    [[nodiscard]] QString size() const;
+    /// What is to be considered, for people; empty when there is nothing to say. @param free bytes in the folder, < 0 when unknown
     [[nodiscard]] QString note(int64_t free) const;
     /// Asks the user when the file will hardly fit. @return whether it is to be written.
     [[nodiscard]] bool mayWrite(int64_t free, QWidget* pWindow) const;

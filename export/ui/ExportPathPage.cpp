@@ -15,7 +15,8 @@
 namespace ZARN {
 
 ExportPathPage::ExportPathPage(const CardContainer& card, const QString& chooser, QWidget* pParent)
-    : QWizardPage(pParent), mCard(card), mChooser(chooser), mpForm(new QFormLayout(this)), mpPart(new QComboBox), mpDirectory(new QLineEdit), mpName(new QLineEdit), mpProblem(new QLabel)
+    : QWizardPage(pParent), mCard(card), mChooser(chooser), mpForm(new QFormLayout(this)), mpPart(new QComboBox), mpSize(new QLabel),
+      mpDirectory(new QLineEdit), mpName(new QLineEdit), mpProblem(new QLabel)
 {
     setTitle(tr("Select the output directory and file"));
     mpPart->setObjectName("part");
@@ -32,10 +33,12 @@ ExportPathPage::ExportPathPage(const CardContainer& card, const QString& chooser
     pFolder->addWidget(pChoose);
     mpForm->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     mpForm->addRow(tr("Range"), mpPart);
+    mpForm->addRow(tr("Size of the file"), mpSize);
     mpForm->addRow(tr("Export Path"), pFolder);
     mpForm->addRow(tr("Export Filename"), mpName);
     mpForm->addRow(mpProblem);
     mpForm->setRowVisible(mpPart, false);
+    mpForm->setRowVisible(mpSize, false);
     connect(mpPart, &QComboBox::activated, this, &ExportPathPage::slotPart);
     connect(pChoose, &QPushButton::clicked, this, &ExportPathPage::slotChoose);
     connect(mpDirectory, &QLineEdit::textChanged, this, &ExportPathPage::slotChanged);
@@ -67,6 +70,13 @@ void ExportPathPage::slotPart(int index)
 {
     if (!mpName->isModified()) // a name that the user typed stays
         mpName->setText(mParts[static_cast<std::size_t>(index)].fileName);
+    Q_EMIT signalPart();
+}
+
+void ExportPathPage::setSize(const QString& text)
+{
+    mpSize->setText(text);
+    mpForm->setRowVisible(mpSize, mParts.size() > 1); // there is something to choose by it
 }
 
 QString ExportPathPage::directory() const

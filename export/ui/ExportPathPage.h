@@ -28,11 +28,16 @@ public:
     /// What can be exported, the first being chosen. None or a single one leaves no choice.
     void setParts(const std::vector<ExportPart>& parts);
     [[nodiscard]] std::optional<TimeSpan> span() const; ///< of the chosen part
+    /// How large the file of that part will be, for people.
+    void setSize(const QString& text);
     [[nodiscard]] QString directory() const; ///< absolute
     [[nodiscard]] QString fileName() const;
 
     [[nodiscard]] bool isComplete() const override;
     bool validatePage() override;
+
+Q_SIGNALS:
+    void signalPart();
 
 private Q_SLOTS:
     void slotChoose();
@@ -47,6 +52,7 @@ private:
     std::vector<ExportPart> mParts;
     QFormLayout* mpForm;
     QComboBox* mpPart;
+    QLabel* mpSize;
     QLineEdit* mpDirectory;
     QLineEdit* mpName;
     QLabel* mpProblem;

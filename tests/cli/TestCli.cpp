@@ -174,6 +174,8 @@ void TestCli::failures_data()
     row("separator", {"csv", "CARD", "-o", "out.csv", "--separator", "|"}, 2, "--separator");
     row("setting of another export", {"kml", "CARD", "-o", "out.kml", "--set", "KmlLineWidth=3", "--set", "CsvLimiter=59"}, 2, "CsvLimiter");
     row("interval of no seconds", {"kml", "CARD", "-o", "out.kml", "--set", "KmlTimeStamp=0"}, 2, "KmlTimeStamp: must be a number of seconds");
+    row("locale that nobody has", {"csv", "CARD", "-o", "out.csv", "--locale", "klingon"}, 2, "klingon: no locale");
+    row("separator beside a locale", {"csv", "CARD", "-o", "out.csv", "--locale", "de", "--separator", "comma"}, 2, "--separator");
     row("json for a file", {"csv", "CARD", "-o", "out.csv", "--json"}, 2, "--json");
     row("what a terminal would obey", {"info", "no\n\x1b[2J\u202e\u009b"}, 1, "no\\n\\x1b[2J\\u202e\\x9b: no such folder");
 }
@@ -254,6 +256,8 @@ void TestCli::csvGoesWhereItIsTold()
     QCOMPARE(csv().section('\n', 0, 2), QString("Time\tDrehzahl ü\n0:00:01.000\t0\n0:00:01.100\t1"));
     cli(QStringList{"csv"} + mWith + QStringList{"-o", "out.csv", "--separator", "comma", "--select", "only A", "--select", "height"});
     QCOMPARE(csv().section('\n', 0, 0), QString("Time,height,only A")); // in the profile's order
+    cli(QStringList{"csv"} + mWith + QStringList{"-o", "out.csv", "--locale", "de", "--select", "height"});
+    QCOMPARE(csv().section('\n', 1, 1), QString("1,000;0:00:01,000;01.05.2024 12:00:00,000;0,0"));
     std::filesystem::remove((mFolder.path() + "/out.csv").toStdString());
 }
 

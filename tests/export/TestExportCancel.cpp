@@ -96,7 +96,7 @@ bool TestExportCancel::write(const QString& format, Progress& progress)
         return exporter.exportData(*loaded.pRecord, options, progress);
     }
     SafeFile file(target());
-    return ExportGpx().exportData(loaded, file, progress);
+    return ExportGpx().exportData(loaded, file, ExportGpx::eOneTrack, progress);
 }
 
 void TestExportCancel::cancelled_data()

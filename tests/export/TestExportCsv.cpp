@@ -138,7 +138,7 @@ struct Export {
     Export() { options.directory = folder.path(), options.fileName = "out.csv"; }
     std::string run(const RecordData& data)
     {
-        ExportCsv exporter(cycle.profile, cycle.profile.selection());
+        ExportCsv exporter(cycle.profile, cycle.profile.selection(), powerUp);
         if (!exporter.exportData(data, options))
             qFatal("%s", exporter.error().c_str());
         return fileContent((folder.path() + "/out.csv").toStdString());
@@ -147,6 +147,7 @@ struct Export {
     QTemporaryDir folder;
     TestCycle cycle;
     CsvExportOptions options;
+    QDateTime powerUp;
 };
 
 /// Compares line by line, so that a failure names the place.
@@ -171,6 +172,8 @@ private Q_SLOTS:
     void equalsNaiveTable();
     void widthsAndTextsBeyondTheBuffers_data();
     void widthsAndTextsBeyondTheBuffers();
+    void spreadsheets_data();
+    void spreadsheets();
 };
 
 void TestExportCsv::equalsNaiveTable_data()
@@ -230,6 +233,36 @@ void TestExportCsv::widthsAndTextsBeyondTheBuffers()
         file.addWord(static_cast<uint32_t>(i * 7 % 50), i * 0.1 + (i > 100 ? 100 : 0), static_cast<uint32_t>(i / 3 % 8), 5);
     file.fill(data);
     compareLines(csv.run(data), NaiveCsv(csv.cycle.profile, data, csv.options).text());
+}
+
+void TestExportCsv::spreadsheets_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("expected"); // behind the mark
+
+    QTest::newRow("comma") << "de_DE" << "Time [s];Time [h:mm:ss];Date and time;Speed [km/h];'=1+1;State\n"
+                                         "1,000;0:00:01,000;31.12.2024 23:59:59,500;-1,5;\"0: a;b \"\"c\"\"\";0: a, b\n"
+                                         "2,000;0:00:02,000;01.01.2025 00:00:00,500;;1 = 30;1 = 30\n";
+    QTest::newRow("point") << "en_US" << "Time [s],Time [h:mm:ss],Date and time,Speed [km/h],'=1+1,State\n"
+                                         "1.000,0:00:01.000,12/31/2024 23:59:59.500,-1.5,\"0: a;b \"\"c\"\"\",\"0: a, b\"\n"
+                                         "2.000,0:00:02.000,1/1/2025 00:00:00.500,,1 = 30,1 = 30\n";
+}
+
+void TestExportCsv::spreadsheets()
+{
+    QFETCH(QString, expected);
+    QFETCH(QString, locale);
+    Export csv;
+    ProfileBuilder builder;
+    builder.enumeration("A", {{0, "a;b \"c\""}, {1, "30"}}).enumeration("B", {{0, "a, b"}, {1, "30"}});
+    builder.unit("km/h", "kt", 0.5).device("D").parameter("Speed", 1, "FLOAT", {{"unitMetric", "km/h"}, {"precision", "1"}});
+    builder.parameter("=1+1", 2, "BLONG", {{"enumId", "A"}, {"endBit", "2"}}).parameter("State", 2, "BLONG", {{"enumId", "B"}, {"endBit", "2"}});
+    QVERIFY(builder.load(csv.cycle.profile));
+    RecordData data;
+    RecordFileBuilder().addFloat(1, 1, -1.5F).addWord(2, 1, 0).addFloat(1, 2, std::numeric_limits<float>::quiet_NaN()).addWord(2, 2, 1).fill(data);
+    csv.options.locale = locale;
+    csv.powerUp = QDateTime(QDate(2024, 12, 31), QTime(23, 59, 58, 500), Qt::UTC);
+    compareLines(csv.run(data), "\xEF\xBB\xBF" + expected.toStdString());
 }
 
 QTEST_APPLESS_MAIN(TestExportCsv)

@@ -84,6 +84,7 @@ void ExportController::exportKml()
         return;
     const LoadedCard loaded = mSession.container.loaded();
     const auto pExporter = std::make_shared<ExportKml>(mSession.console, loaded.context, mSession.profile.selection(), loaded.powerUp);
+    pExporter->setTracksOf(loaded);
     const auto work = [pExporter, loaded, options = mKmlOptions](Progress& progress) {
         return Outcome{pExporter->exportData(*loaded.pRecord, options, progress), pExporter->error()};
     };
@@ -104,7 +105,7 @@ void ExportController::exportCsv()
         return;
     const auto work = [loaded = mSession.container.loaded(), selection = mSession.profile.selection(),
                        options = mCsvOptions](Progress& progress) {
-        ExportCsv exporter(loaded.context, selection);
+        ExportCsv exporter(loaded.context, selection, loaded.powerUp);
         const bool written = exporter.exportData(*loaded.pRecord, options, progress);
         return Outcome{written, exporter.error()};
     };
@@ -115,13 +116,30 @@ void ExportController::exportGpx()
 {
     if (!mayExport())
         return;
-    const QString path = askFile(Settings::kGpxExportDir, tr("Save GPX Export"), selectionName(".gpx"), tr("GPX Files (*.gpx)"));
+    const LoadedCard loaded = mSession.container.loaded();
+    QFileDialog dialog(mpWindow, tr("Save GPX Export"), Settings::kGpxExportDir.text(mSession.property), tr("GPX Files (*.gpx)"));
+    const bool isChoice = loaded.flightNumber == 0 && loaded.flights.size() > 1;
+    const QString perFlight = tr("GPX Files, one track a flight (*.gpx)");
+    if (isChoice)
+        dialog.setNameFilters(dialog.nameFilters() << perFlight);
+    if (isChoice && Settings::kGpxTrackPerFlight.get(mSession.property))
+        dialog.selectNameFilter(perFlight);
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix("gpx"); // part of the name when the dialog asks whether to replace a file
+    dialog.selectFile(selectionName(".gpx"));
+    const QString path = askFile(Settings::kGpxExportDir, dialog);
     if (path.isEmpty())
         return;
-    const auto work = [path, loaded = mSession.container.loaded()](Progress& progress) {
+    const auto tracks = isChoice && dialog.selectedNameFilter() == perFlight ? ExportGpx::eTrackPerFlight : ExportGpx::eOneTrack;
+    if (isChoice) {
+        Settings::kGpxTrackPerFlight.set(mSession.property, tracks == ExportGpx::eTrackPerFlight);
+        mSession.property.writeXmlFile();
+    }
+    const auto work = [path, loaded, tracks](Progress& progress) {
         ExportGpx exporter;
         SafeFile file(QFile::encodeName(path).toStdString());
-        const bool written = exporter.exportData(loaded, file, progress);
+        const bool written = exporter.exportData(loaded, file, tracks, progress);
         return Outcome{written, exporter.error()};
     };
     run(path, work, {tr("ZARN Warning"), tr("Exporting GPX file failed !")});
@@ -150,16 +168,6 @@ void ExportController::writeReport(const std::vector<CycleNote>& notes)
         return Outcome{written, report.error()};
     };
     run(path, work, {tr("ZARN Warning"), tr("Writing the flight report failed !")});
-}
-
-QString ExportController::askFile(const TextSetting& setting, const QString& title, const QString& name, const QString& filter)
-{
-    QFileDialog dialog(mpWindow, title, setting.text(mSession.property), filter);
-    dialog.setOption(QFileDialog::DontUseNativeDialog);
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(QFileInfo(name).suffix()); // part of the name when the dialog asks whether to replace a file
-    dialog.selectFile(name);
-    return askFile(setting, dialog);
 }
 
 QString ExportController::askFile(const TextSetting& setting, QFileDialog& dialog)

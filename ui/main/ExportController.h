@@ -62,8 +62,7 @@ private:
     [[nodiscard]] std::vector<ExportPart> parts(const QString& suffix) const;
     /// Does the work on a thread of its own, which works on what it holds itself: the windows go on, and may load something else.
     void run(const QString& path, const Work& work, const Failure& failure, const std::function<void()>& whenWritten = {});
-    /// Asks for a file in the folder that the setting remembers. @return its path; empty when the user cancels.
-    QString askFile(const TextSetting& setting, const QString& title, const QString& name, const QString& filter);
+    /// Asks for a file, whose folder the setting is to remember. @return its path; empty when the user cancels.
     QString askFile(const TextSetting& setting, QFileDialog& dialog);
     void say(QMessageBox::Icon icon, const QString& title, const QString& text, const QString& information = {});
 

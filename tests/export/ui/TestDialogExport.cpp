@@ -102,6 +102,8 @@ void TestDialogExport::csvRemembers()
         type(pModal, "fileName", "a b.csv");
         press(wizard(pModal), QWizard::NextButton);
         chooseLast(pModal, "limiter");
+        chooseLast(pModal, "form");
+        QVERIFY(!pModal->findChild<QComboBox*>("limiter")->isEnabled()); // the computer has its own
         chooseLast(pModal, "resolution");
         chooseLast(pModal, "parameters");
         QVERIFY(!warning(pModal).isEmpty()); // nothing is loaded
@@ -109,7 +111,7 @@ void TestDialogExport::csvRemembers()
     });
     QVERIFY(DialogExportCsv(*first.session).getOptions(options));
     QVERIFY(options.directory == folder() && options.fileName == "a b.csv");
-    QVERIFY(options.separator == '\t' && options.resolution == 10 && !options.allParameters);
+    QVERIFY(options.separator == '\t' && options.resolution == 10 && !options.allParameters && options.locale == "system");
 
     Wizards next(folder());
     QCOMPARE(next.property.getString("CsvExportDir", ""), folder().toStdString());
@@ -122,6 +124,7 @@ void TestDialogExport::csvRemembers()
     });
     QVERIFY(DialogExportCsv(*next.session).getOptions(again));
     QVERIFY(again.fileName == "ExportZarn.csv" && again.separator == '\t' && again.resolution == 10 && !again.allParameters);
+    QCOMPARE(again.locale, QString("system"));
 }
 
 void TestDialogExport::paths_data()
@@ -212,6 +215,8 @@ void TestDialogExport::kmlRemembers()
         QTest::mouseClick(pModal->findChild<ColourButton*>("lineColour"), Qt::LeftButton);
         QCOMPARE(colour.title, QString("Select Line Color"));
         QTest::keyClick(pModal->findChild<QGroupBox*>("polygon"), Qt::Key_Space);
+        QTest::keyClick(pModal->findChild<QWidget*>("track"), Qt::Key_Space);
+        QVERIFY(wizard(pModal)->currentPage()->findChild<QLabel*>("warning")->isVisible()); // nothing that is loaded has a clock
         press(wizard(pModal), QWizard::NextButton);
         spin("interval", "77");
         QTest::keyClick(pModal->findChild<QGroupBox*>("placeMarks"), Qt::Key_Space);
@@ -224,7 +229,7 @@ void TestDialogExport::kmlRemembers()
     stored.read(next.property);
     for (const KmlExportOptions& got : {options, stored}) {
         QVERIFY(got.timeStamp == 5 && got.lineWidth == 4 && got.lineColor == "010203" && got.lineAlpha == 51);
-        QVERIFY(!got.polygonOn && got.polygonColor == "0000ff" && got.polygonAlpha == 100);
+        QVERIFY(got.track && !got.polygonOn && got.polygonColor == "0000ff" && got.polygonAlpha == 100);
         QVERIFY(!got.placeMarkOn && got.placeMarkInterval == 77 && got.errorMarkOn && got.showLimit && !got.showWarning);
     }
 }
@@ -245,7 +250,8 @@ void TestDialogExport::sizeIsToldBefore()
         for (const auto& span : {std::optional<TimeSpan>(), std::optional(TimeSpan{300, 400})}) {
             options.resolution = resolution;
             options.span = span;
-            QVERIFY(ExportCsv(wizards.profile).exportData(wizards.container.recordData(), options));
+            options.locale = resolution == 10 ? "de_DE" : "";
+            QVERIFY(ExportCsv(wizards.profile, {}, QDateTime(QDate(2024, 12, 31), QTime(1, 0))).exportData(wizards.container.recordData(), options));
             const auto size = static_cast<double>(QFileInfo(folder() + "/a.csv").size());
             const ExportOutlook outlook(wizards.container.recordData(), wizards.profile, wizards.profile.selection(), options);
             QVERIFY2(std::abs(static_cast<double>(outlook.bytes()) - size) < size / 10, qPrintable(QString("%1, %2").arg(outlook.bytes()).arg(size)));
