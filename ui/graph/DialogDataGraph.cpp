@@ -167,6 +167,11 @@ void DialogDataGraph::showSpan(const TimeSpan& span, const std::set<std::string>
     updateSetup();
 }
 
+void DialogDataGraph::setFound(const std::vector<TimeSpan>& spans)
+{
+    mpGraph->model().setFound(spans);
+}
+
 void DialogDataGraph::setLayout(const DisplayLayout& layout)
 {
     mHistory.begin();

@@ -102,6 +102,14 @@ void GraphModel::addTopMarker(const TopMarker& marker)
     Q_EMIT signalRepaint();
 }
 
+void GraphModel::setFound(std::vector<TimeSpan> spans)
+{
+    if (mFound.empty() && spans.empty())
+        return;
+    mFound = std::move(spans);
+    Q_EMIT signalRepaint();
+}
+
 void GraphModel::setMessage(const QString& text)
 {
     mMessage = text;
