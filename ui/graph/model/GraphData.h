@@ -31,7 +31,7 @@ struct GraphData {
     ValueScale scale{.lower = -100.0, .upper = 100.0};
     int firstTableRow = 0, firstLegendRow = 0; ///< of the marker's table and of the legend where they have no room for all
     std::vector<CycleNote> notes = {}; ///< of the record, by time
-    bool clickMovesCursor = false; ///< a click in the plot; otherwise it makes the marker a point
+    bool clickMovesCursor = false;             ///< a click in the plot; otherwise it makes the marker a point
 };
 
 /// The colours of the graph beside those of its traces, read from the settings.

@@ -80,9 +80,9 @@ private:
     AxisHand mAxis;
     StripHand mStrip;
     MarkerHand mMarker;
-    int mDragged = -1; // parameter whose strip is dragged
+    int mDragged = -1;             // parameter whose strip is dragged
     std::optional<QPointF> mClick; // where the button went down, as long as it may still become a click
-    double mScrolled = 0.0; // lines of a list, less than one
+    double mScrolled = 0.0;        // lines of a list, less than one
     bool mCursorDrag = false;
     bool mPanningAllowed = true;
     bool mShift = false, mControl = false, mAlt = false;

@@ -65,7 +65,8 @@ double partOfStrip(const GraphModel& model, int index)
 
 GraphLayout::GraphLayout(const GraphModel& model, const QSizeF& size, double textSize)
     : mSize(size), mTextSize(textSize), mLine(canvasTextSize(QStringLiteral("0"), textSize, true).height() + 2),
-      mCharacter(canvasAdvance(textSize)), mNameLength(longestName(model)), mNumberLength(longestNumber(model)), mXmin(model.window().begin())
+      mCharacter(canvasAdvance(textSize)), mNameLength(longestName(model)), mNumberLength(longestNumber(model)),
+      mXmin(model.window().begin())
 {
     const double top = mLine + kGap, table = placeTable(model);
     placeLegend(model, size.width());
@@ -221,24 +222,6 @@ void GraphLayout::moveAxes(const GraphModel& model)
     }
 }
 
-int GraphLayout::axisAt(const QPointF& point) const
-{
-    const auto found = std::ranges::find_if(mAxes, [&point](const ValueAxis& axis) { return axis.labels.contains(point); });
-    return found == mAxes.end() ? -1 : found->index;
-}
-
-int GraphLayout::edgeAt(const GraphModel& model, const QPointF& point) const
-{
-    const std::vector<int>& shown = model.traces().shown();
-    if (mStrips.empty() || point.x() < 0 || point.x() >= mPlot.left())
-        return -1;
-    for (std::size_t i = 0; i + 1 < shown.size(); ++i) {
-        if (std::abs(area(shown[i]).bottom() - point.y()) < kEdgeReach)
-            return shown[i];
-    }
-    return -1;
-}
-
 QRectF GraphLayout::area(int index) const
 {
     return index >= 0 && static_cast<std::size_t>(index) < mStrips.size() ? mStrips[static_cast<std::size_t>(index)] : mPlot;
@@ -289,7 +272,8 @@ QRectF GraphLayout::overlayLine(const GraphModel& model, std::size_t row) const
 QString GraphLayout::overlayText(const GraphModel& model, int index) const
 {
     const GraphParameter& parameter = *model.traces().at(index);
-    const std::optional<double> value = model.settings().displayMode == eSplit ? std::nullopt : model.traces().valueAt(index, model.cursor().time);
+    const std::optional<double> value =
+        model.settings().displayMode == eSplit ? std::nullopt : model.traces().valueAt(index, model.cursor().time);
     const QString number = value ? QLatin1Char(' ') + graphNumber(*value, parameter.precision) : QString();
     const auto room = static_cast<int>((mPlot.width() - kSwatch - 12) / mCharacter) - static_cast<int>(number.size());
     return shortened(parameter.label(), std::clamp(room, kFewestOfName, kLongestLabel)) + number;
@@ -305,14 +289,20 @@ int GraphLayout::stripAt(const GraphModel& model, double y) const
     return found;
 }
 
-double GraphLayout::valueAt(double y, const QRectF& area, const ValueSpan& span)
-{
-    return area.height() > 0 ? span[0] + (area.bottom() - y) / area.height() * (span[1] - span[0]) : span[0];
-}
-
 QString GraphLayout::shortened(const QString& name, int length)
 {
     return name.size() <= length ? name : name.left(std::max(0, length - 1)) + QChar(0x2026);
+}
+
+int axisAt(const GraphLayout& layout, const QPointF& point)
+{
+    const auto found = std::ranges::find_if(layout.axes(), [&point](const ValueAxis& axis) { return axis.labels.contains(point); });
+    return found == layout.axes().end() ? -1 : found->index;
+}
+
+double valueAt(double y, const QRectF& area, const ValueSpan& span)
+{
+    return area.height() > 0 ? span[0] + (area.bottom() - y) / area.height() * (span[1] - span[0]) : span[0];
 }
 
 } // namespace ZARN

@@ -21,7 +21,7 @@ public:
     void move(double time) { mModel.setMarker({mFixed, time}); }
     void release();
 
-    /// An end goes to another time, the nearer one as Control and a click do.
+    /// The start goes to a time before it, the end to any other one.
     void extend(double time);
     /// Moves an end by pixels, and the window along; without a marker it begins at the cursor.
     void moveEnd(const GraphLayout& layout, bool isStart, double pixels);
