@@ -4,6 +4,7 @@
 #include "app/Numeric.h"
 #include "card/CardContainer.h"
 #include "card/FlightFigures.h"
+#include "card/record/HeaderField.h"
 #include "report/ReportFaults.h"
 #include "report/ReportText.h"
 
@@ -39,15 +40,11 @@ void ReportTables::addUnit(ReportDocument& document) const
 {
     if (!mLoaded.unit)
         return;
-    const RecordInfo& unit = *mLoaded.unit;
     document.add(ReportHeading{tr("Engine unit")});
-    document.add(ReportPairs{{{tr("ECU serial number"), QString::number(unit.ecuSerialNumber)},
-                              {tr("Engine serial number"), reportText(unit.engineSerial)},
-                              {tr("ECU type"), reportText(unit.ecuType)},
-                              {tr("Engine type"), reportText(unit.engineType)},
-                              {tr("Software A"), reportText(unit.softwarePartA)},
-                              {tr("EMU software"), reportText(unit.emuSoftwareVersion)},
-                              {tr("Software B"), reportText(unit.softwarePartB)}}});
+    ReportPairs pairs;
+    for (const HeaderField& field : HeaderField::all())
+        pairs.entries.push_back({field.title(), reportText(field.text(*mLoaded.unit))});
+    document.add(std::move(pairs));
 }
 
 std::vector<RecordFlight> ReportTables::flights(int& firstNumber) const
