@@ -21,6 +21,10 @@ public:
     /// The number of a cell among the children; -1 for those beyond what a number of children can be.
     [[nodiscard]] int childOf(const QModelIndex& index) const;
 
+protected:
+    ~RowTableAccess() override;
+
+private: // what is asked for through the toolkit's interfaces
     [[nodiscard]] QAccessibleInterface* child(int index) const override;
     [[nodiscard]] int childCount() const override;
     [[nodiscard]] int indexOfChild(const QAccessibleInterface* pChild) const override;
@@ -49,9 +53,6 @@ public:
     bool unselectRow(int row) override { return select(row, QItemSelectionModel::Deselect); }
     bool unselectColumn(int /*column*/) override { return false; }
     void modelChange(QAccessibleTableModelChangeEvent* pEvent) override;
-
-protected:
-    ~RowTableAccess() override;
 
 private:
     explicit RowTableAccess(RowTable& table);
