@@ -4,6 +4,7 @@
 #include "analysis/FaultWords.h"
 #include "analysis/LampEpisodes.h"
 #include "analysis/LimitScan.h"
+#include "app/Parallel.h"
 #include "card/FlightFigures.h"
 #include "trace/TraceSet.h"
 
@@ -45,17 +46,25 @@ public:
 
     CycleReview run(EKeyValues keyValues)
     {
-        const auto pKeyValues = keyValues == EKeyValues::eAll ? std::make_unique<KeyValues>(mPhases, mFlights) : nullptr;
         findStops();
-        walkValues(pKeyValues.get());
+        walkParameters(keyValues == EKeyValues::eAll);
         walkFaults();
         tell();
-        if (pKeyValues)
-            mReview.keyValues = pKeyValues->take();
         return std::move(mReview);
     }
 
 private:
+    /// A parameter that is walked, and what was found; by one worker, which touches nothing else.
+    struct Walk {
+        const ProfileDevice& device;
+        const ProfileParameter& parameter;
+        bool isLimited;
+        bool hasKeyValues;
+        std::unique_ptr<const Trace> pFixes; // of a position, decoded before: each fix is judged by those before it
+        EpisodeList episodes{};
+        std::optional<bool> hasSamples{}; // of one that can be outside
+        KeyValueTable keyValues{};
+    };
     [[nodiscard]] std::unique_ptr<const Trace> trace(const ProfileParameter& parameter, ENumber kind) const
     {
         return TraceSet::one(mData, mContext, parameter, kind);
@@ -82,9 +91,10 @@ private:
     }
 
     void findStops();
-    void walkValues(KeyValues* pKeyValues);
-    void walkLamp(const std::string& group, const ProfileParameter& parameter);
-    void walkValue(const ProfileDevice& device, const ProfileParameter& parameter, KeyValues* pKeyValues);
+    void walkParameters(bool withKeyValues);
+    [[nodiscard]] std::vector<Walk> walks(bool withKeyValues) const;
+    void walkLamp(Walk& walk) const;
+    void walkValue(Walk& walk, KeyValues& keyValues) const;
     [[nodiscard]] bool hasLimits(const ProfileParameter& parameter) const;
     void walkFaults();
     void count(const std::string& name, bool hasSamples);
@@ -100,7 +110,6 @@ private:
     const WatchedTimes mLimitTimes;
     const WatchedTimes mLampTimes; // of faults as well
     std::vector<double> mTakeOffs;
-    CoordinateFilter mFixes;
     EpisodeList mEpisodes;
 };
 
@@ -147,51 +156,70 @@ void ReviewPass::count(const std::string& name, bool hasSamples)
         mReview.missing.push_back(name);
 }
 
-void ReviewPass::walkValues(KeyValues* pKeyValues)
+std::vector<ReviewPass::Walk> ReviewPass::walks(bool withKeyValues) const
 {
+    std::vector<Walk> walks;
+    CoordinateFilter fixes;
     for (const ProfileDevice& device : mContext.model().devices) {
         for (const ProfileParameter& parameter : device.parameters) {
-            const bool hasKeyValues = pKeyValues && KeyValues::isWanted(parameter);
-            if (isLamp(device))
-                walkLamp(device.name, parameter);
-            if (hasKeyValues || (!isLamp(device) && hasLimits(parameter)))
-                walkValue(device, parameter, hasKeyValues ? pKeyValues : nullptr);
+            Walk walk{device, parameter, !isLamp(device) && hasLimits(parameter), withKeyValues && KeyValues::isWanted(parameter), nullptr};
+            if (parameter.isPosition() && walk.hasKeyValues)
+                walk.pFixes = TraceSet::one(mData, mContext, parameter, ENumber::eMetric, fixes, kLatestTime);
+            if (isLamp(device) || walk.isLimited || walk.hasKeyValues)
+                walks.push_back(std::move(walk));
         }
     }
+    return walks;
 }
 
-void ReviewPass::walkLamp(const std::string& group, const ProfileParameter& parameter)
+void ReviewPass::walkParameters(bool withKeyValues)
 {
-    const bool hasSamples =
-        LampEpisodes::find(group, *trace(parameter, ENumber::eInteger), *trace(parameter, ENumber::eText), mLampTimes, mEpisodes);
-    count(parameter.name, hasSamples);
+    std::vector<Walk> all = walks(withKeyValues);
+    std::vector<KeyValues> keyValues(kWorkers, KeyValues(mPhases, withKeyValues ? mFlights : std::span<const RecordFlight>()));
+    inParallel(all.size(), [&](std::size_t i, std::size_t worker) {
+        if (isLamp(all[i].device))
+            walkLamp(all[i]);
+        if (all[i].isLimited || all[i].hasKeyValues)
+            walkValue(all[i], keyValues[worker]);
+    });
+    for (Walk& walk : all) {
+        mEpisodes.add(std::move(walk.episodes));
+        if (walk.hasSamples)
+            count(walk.parameter.name, *walk.hasSamples);
+        mReview.keyValues.add(std::move(walk.keyValues));
+    }
 }
 
-void ReviewPass::walkValue(const ProfileDevice& device, const ProfileParameter& parameter, KeyValues* pKeyValues)
+void ReviewPass::walkLamp(Walk& walk) const
 {
-    const auto pValues = TraceSet::one(mData, mContext, parameter, ENumber::eMetric, mFixes, kLatestTime); // positions: for key values alone
-    const bool isLimited = !isLamp(device) && hasLimits(parameter);
+    walk.hasSamples = LampEpisodes::find(walk.device.name, *trace(walk.parameter, ENumber::eInteger), *trace(walk.parameter, ENumber::eText),
+                                         mLampTimes, walk.episodes);
+}
+
+void ReviewPass::walkValue(Walk& walk, KeyValues& keyValues) const
+{
+    const auto pValues = walk.pFixes ? std::move(walk.pFixes) : trace(walk.parameter, ENumber::eMetric);
     if (!pValues->decoder().isNumeric()) {
-        if (isLimited)
-            count(parameter.name, false);
+        if (walk.isLimited)
+            walk.hasSamples = false;
         return;
     }
-    const auto pTexts = isLimited ? trace(parameter, ENumber::eText) : nullptr;
+    const auto pTexts = walk.isLimited ? trace(walk.parameter, ENumber::eText) : nullptr;
     std::optional<LimitScan> limits;
     if (pTexts)
-        limits.emplace(device.name, *pTexts, mEngine, mTakeOffs, mEpisodes);
-    if (pKeyValues)
-        pKeyValues->begin(device.name, *pValues);
-    mLimitTimes.forEachPart(*pValues, [&](int sequence, const TraceRun& part) {
+        limits.emplace(walk.device.name, *pTexts, mEngine, mTakeOffs, walk.episodes);
+    if (walk.hasKeyValues)
+        keyValues.begin(walk.device.name, *pValues);
+    mLimitTimes.forEachPart(*pValues, [&](int sequence, const WatchedPart& part) {
         if (limits)
             limits->walk(sequence, part);
-        if (pKeyValues)
-            pKeyValues->add(part);
+        if (walk.hasKeyValues)
+            keyValues.add(part);
     });
-    if (pKeyValues)
-        pKeyValues->end();
+    if (walk.hasKeyValues)
+        walk.keyValues = keyValues.end();
     if (limits)
-        count(parameter.name, limits->finish());
+        walk.hasSamples = limits->finish();
 }
 
 void ReviewPass::walkFaults()

@@ -26,14 +26,14 @@ constexpr std::size_t kLanes = 8; // values that a processor may take at once, a
 
 /// Adds a value; what the sum is too coarse to hold goes into the rest. Else one damaged value, 10^30 times the others, would leave no
 /// trace of them in the mean.
-void addTo(double& sum, double& rest, double value)
+[[gnu::always_inline]] inline void addTo(double& sum, double& rest, double value)
 {
     const double next = sum + value, taken = next - sum;
     rest += (sum - (next - taken)) + (value - taken);
     sum = next;
 }
 
-Totals totalsOf(const std::vector<double>& values)
+ZARN_FUSED_MULTIPLY_ADD Totals totalsOf(const std::vector<double>& values)
 {
     std::array<double, kLanes> least, greatest, sums{}, rests{};
     least.fill(values.front());
@@ -87,10 +87,10 @@ class Bracket {
 public:
     Bracket(const std::vector<double>& sample, double part)
     {
-        constexpr double kMargin = 24; // of 256: the real place seldom lies further off
         const double last = static_cast<double>(sample.size() - 1), place = part * last;
-        mLower = sample[static_cast<std::size_t>(std::max(0.0, place - kMargin))];
-        mUpper = sample[static_cast<std::size_t>(std::min(last, place + kMargin))];
+        const double margin = 3 * std::sqrt(last * part * (1 - part)); // the real place seldom lies further off
+        mLower = sample[static_cast<std::size_t>(std::max(0.0, place - margin))];
+        mUpper = sample[static_cast<std::size_t>(std::min(last, place + margin + 1))];
     }
 
     void add(const double* pValues)
@@ -103,7 +103,7 @@ public:
             std::copy_if(pValues, pValues + kBlock, std::back_inserter(mBetween), [this](double value) { return value > mLower && value < mUpper; });
     }
 
-    /// The value at a rank; none where it lies outside of the borders.
+    /// The value at a rank, not below one that was asked for before; none where it lies outside of the borders.
     std::optional<double> at(std::size_t rank)
     {
         if (rank < mBelow)
@@ -114,7 +114,11 @@ public:
         rank -= mOnLower;
         if (rank < mBetween.size()) {
             const auto place = mBetween.begin() + static_cast<std::ptrdiff_t>(rank);
-            std::nth_element(mBetween.begin(), place, mBetween.end());
+            if (rank == mNext)
+                std::iter_swap(place, std::min_element(place, mBetween.end()));
+            else
+                std::nth_element(mBetween.begin(), place, mBetween.end());
+            mNext = rank + 1;
             return *place;
         }
         return rank - mBetween.size() < (mLower < mUpper ? mOnUpper : 0) ? std::optional(mUpper) : std::nullopt;
@@ -125,6 +129,7 @@ private:
     double mUpper;
     std::size_t mBelow = 0, mOnLower = 0, mOnUpper = 0; // values below the lower border, on it, on the upper one
     std::vector<double> mBetween;
+    std::size_t mNext = std::numeric_limits<std::size_t>::max(); // those before it are in place
 };
 
 constexpr std::size_t kFew = 1024; // of so few, all are put in order

@@ -25,6 +25,12 @@ const char* sideKey(ESide side)
     return "";
 }
 
+void EpisodeList::add(EpisodeList&& other)
+{
+    std::ranges::move(other.watched, std::back_inserter(watched));
+    std::ranges::move(other.standing, std::back_inserter(standing));
+}
+
 void EpisodeList::sort()
 {
     for (std::vector<Episode>* pEpisodes : {&watched, &standing}) {

@@ -47,6 +47,7 @@ struct EpisodeList {
     std::vector<Episode> standing; ///< told apart, never part of the verdict
 
     void add(Episode episode, bool isWatched) { (isWatched ? watched : standing).push_back(std::move(episode)); }
+    void add(EpisodeList&& other);
     /// By start and end; those found first stay first.
     void sort();
 };

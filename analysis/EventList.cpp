@@ -1,5 +1,7 @@
 #include "analysis/EventList.h"
 
+#include "profile/Threshold.h"
+
 #include <algorithm>
 
 namespace ZARN {
@@ -24,6 +26,21 @@ void EventList::sortByTime()
 void EventList::crop(const TimeSpan& span)
 {
     std::erase_if(mEvents, [&span](const Event& event) { return !span.holds(event.time); });
+}
+
+std::vector<const Event*> EventList::weightiest(std::size_t most) const
+{
+    std::vector<const Event*> events;
+    for (const Event& event : mEvents)
+        events.push_back(&event);
+    if (events.size() > most) {
+        std::ranges::stable_sort(events, {}, [this](const Event* pEvent) {
+            return std::pair(source(*pEvent).isComputed, pEvent->state != eThresholdLimit);
+        });
+        events.resize(most);
+        std::ranges::sort(events); // they lie side by side, by time
+    }
+    return events;
 }
 
 std::string EventList::text(const Event& event) const

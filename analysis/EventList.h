@@ -16,6 +16,7 @@ struct EventSource {
     std::string group; ///< name of its device
     std::string parameter;
     std::string unit; ///< in the unit system that was current
+    bool isComputed = false; ///< by a formula of the user's
 };
 
 /// One moment at which something went wrong.
@@ -42,6 +43,9 @@ public:
 
     [[nodiscard]] const std::vector<Event>& events() const { return mEvents; }
     [[nodiscard]] const EventSource& source(const Event& event) const { return mSources[event.source]; }
+    /// At most so many of them, by time: those of recorded values, which formulas must not crowd out, before those of formulas; then those of
+    /// the state eThresholdLimit; then the first ones. Valid while the list is.
+    [[nodiscard]] std::vector<const Event*> weightiest(std::size_t most) const;
     /// Group, parameter, value and unit, joined by blanks.
     [[nodiscard]] std::string text(const Event& event) const;
     /// The row of the last event at or before a time, to the tenth of a second; none before the first.

@@ -16,7 +16,7 @@ protected:
     void addEvent(double time, double textNumber, int state, const QColor& colour)
     {
         if (!mSource)
-            mSource = mList.addSource({mTrace.group(), mTrace.name(), mTrace.unit()});
+            mSource = mList.addSource({mTrace.group(), mTrace.name(), mTrace.unit(), mTrace.parameter().isComputed()});
         Event event{time, TimeKey::of(time), *mSource, state, colour, {}};
         mTrace.decoder().appendText(textNumber, event.value);
         mList.add(std::move(event));

@@ -19,15 +19,18 @@ class FaultScan {
 public:
     explicit FaultScan(const FaultMatrix& matrix) : mMatrix(matrix), mMask(matrix.mask(isJudged)) {}
 
-    void walk(int sequence, const TraceRun& part)
+    void walk(int sequence, const WatchedPart& part)
     {
         Sequence& state = mSequences[sequence];
-        for (std::size_t i = 0; i < part.times.size(); ++i) {
-            const uint32_t word = static_cast<uint32_t>(part.numbers[i]) & mMask;
-            if (word != state.word)
-                change(state, word, part.times[i], sequence);
-            state.last = part.times[i];
+        for (std::size_t i = 0; i < part.size(); ++i) {
+            const uint32_t word = static_cast<uint32_t>(part.numbers()[i]) & mMask;
+            if (word == state.word)
+                continue;
+            if (i > 0)
+                state.last = part.times()[i - 1];
+            change(state, word, part.times()[i], sequence);
         }
+        state.last = part.time(part.size() - 1);
     }
 
     /// The episodes bit by bit, each bit's in stored order. @return whether a sample was watched
@@ -108,7 +111,7 @@ std::vector<std::string> FaultEpisodes::sources(const FaultMatrix& matrix)
 bool FaultEpisodes::find(const FaultMatrix& matrix, const Trace& words, const WatchedTimes& watched, EpisodeList& list)
 {
     FaultScan scan(matrix);
-    watched.forEachPart(words, [&scan](int sequence, const TraceRun& part) { scan.walk(sequence, part); });
+    watched.forEachPart(words, [&scan](int sequence, const WatchedPart& part) { scan.walk(sequence, part); });
     return scan.finish(list);
 }
 

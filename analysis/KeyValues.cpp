@@ -21,6 +21,15 @@ std::vector<int> inOrderOfStart(std::span<const RecordFlight> flights)
 
 } // namespace
 
+void KeyValueTable::add(KeyValueTable&& other)
+{
+    for (KeyValue& value : other.values) {
+        value.source += sources.size();
+        values.push_back(value);
+    }
+    std::ranges::move(other.sources, std::back_inserter(sources));
+}
+
 KeyValues::KeyValues(const FlightPhases& phases, std::span<const RecordFlight> flights) : mPhases(phases)
 {
     makeLayers(flights);
@@ -82,28 +91,29 @@ void KeyValues::begin(const std::string& group, const Trace& values)
         layer.current = 0;
 }
 
-void KeyValues::add(const TraceRun& part)
+void KeyValues::add(const WatchedPart& part)
 {
     for (Layer& layer : mLayers)
         add(layer, part);
 }
 
-void KeyValues::add(Layer& layer, const TraceRun& part)
+void KeyValues::add(Layer& layer, const WatchedPart& part)
 {
-    for (std::size_t first = 0, last = 0; first < part.times.size(); first = last) {
+    for (std::size_t first = 0, last = 0; first < part.size(); first = last) {
         const Step* pStep = &layer.steps[layer.current];
-        const double time = part.times[first];
+        const double time = part.time(first);
         if (!(time > pStep->from && time <= pStep->until)) {
             layer.current = static_cast<std::size_t>(std::ranges::lower_bound(layer.steps, time, {}, &Step::until) - layer.steps.begin());
             pStep = &layer.steps[layer.current];
         }
-        last = part.times.size();
-        if (!mAscending || part.times.back() > pStep->until) {
-            for (last = first; last < part.times.size() && part.times[last] > pStep->from && part.times[last] <= pStep->until;)
+        last = part.size();
+        if (!mAscending || part.time(last - 1) > pStep->until) {
+            const std::span<const double> times = part.times();
+            for (last = first; last < times.size() && times[last] > pStep->from && times[last] <= pStep->until;)
                 ++last;
         }
         if (pStep->slot != kNone)
-            keep(pStep->slot, part.numbers.subspan(first, last - first));
+            keep(pStep->slot, part.numbers().subspan(first, last - first));
     }
 }
 
@@ -115,7 +125,7 @@ void KeyValues::keep(int slot, std::span<const double> numbers)
     values.insert(values.end(), numbers.begin(), numbers.end());
 }
 
-void KeyValues::end()
+KeyValueTable KeyValues::end()
 {
     std::ranges::sort(mUsed);
     for (const int slot : mUsed) {
@@ -127,6 +137,7 @@ void KeyValues::end()
         values.clear();
     }
     mUsed.clear();
+    return std::exchange(mTable, {});
 }
 
 } // namespace ZARN

@@ -2,6 +2,7 @@
 
 #include "analysis/Distribution.h"
 #include "analysis/FlightPhases.h"
+#include "analysis/WatchedPart.h"
 
 namespace ZARN {
 
@@ -25,9 +26,11 @@ struct KeyValueSource {
 struct KeyValueTable {
     std::vector<KeyValueSource> sources;
     std::vector<KeyValue> values; ///< by source, flight and phase; none without samples
+
+    void add(KeyValueTable&& other);
 };
 
-/// Gathers the key values of a cycle, parameter by parameter, in the walk that others make over its samples. Refers to phases and flights.
+/// Gathers key values of a cycle, parameter by parameter, in the walk that others make over its samples. Refers to phases and flights.
 class KeyValues {
 public:
     KeyValues(const FlightPhases& phases, std::span<const RecordFlight> flights);
@@ -37,9 +40,9 @@ public:
 
     /// A parameter begins; add() then takes all its samples in stored order, as metric values.
     void begin(const std::string& group, const Trace& values);
-    void add(const TraceRun& part);
-    void end();
-    [[nodiscard]] KeyValueTable take() { return std::move(mTable); }
+    void add(const WatchedPart& part);
+    /// @return the parameter's key values
+    [[nodiscard]] KeyValueTable end();
 
 private:
     static constexpr int kNone = -1;
@@ -56,7 +59,7 @@ private:
     };
     void makeLayers(std::span<const RecordFlight> flights);
     void addSteps(Layer& layer, const SpanIndex& flights, const std::vector<int>& numbers) const;
-    void add(Layer& layer, const TraceRun& part);
+    void add(Layer& layer, const WatchedPart& part);
     void keep(int slot, std::span<const double> numbers);
 
     const FlightPhases& mPhases;

@@ -12,15 +12,15 @@ class LampScan {
 public:
     LampScan(const std::string& group, const Trace& texts, EpisodeList& list) : mGroup(group), mTexts(texts), mList(list) {}
 
-    void walk(int sequence, const TraceRun& part)
+    void walk(int sequence, const WatchedPart& part)
     {
         Sequence& lamp = mSequences[sequence];
-        for (std::size_t i = 0; i < part.times.size(); ++i) {
-            const int number = static_cast<int>(part.numbers[i]);
+        for (std::size_t i = 0; i < part.size(); ++i) {
+            const int number = static_cast<int>(part.numbers()[i]);
             if (number == 0)
                 lamp.extent.inside();
             else
-                light(lamp, sequence, part.times[i], number == eThresholdLimit ? eThresholdLimit : eThresholdWarning, part.position + i);
+                light(lamp, sequence, part.times()[i], number == eThresholdLimit ? eThresholdLimit : eThresholdWarning, part.position() + i);
         }
     }
 
@@ -79,7 +79,7 @@ private:
 bool LampEpisodes::find(const std::string& group, const Trace& states, const Trace& texts, const WatchedTimes& watched, EpisodeList& list)
 {
     LampScan scan(group, texts, list);
-    watched.forEachPart(states, [&scan](int sequence, const TraceRun& part) { scan.walk(sequence, part); });
+    watched.forEachPart(states, [&scan](int sequence, const WatchedPart& part) { scan.walk(sequence, part); });
     return scan.finish();
 }
 

@@ -1,6 +1,7 @@
 #include "analysis/LimitScan.h"
 
 #include "analysis/WatchedTimes.h"
+#include "app/FusedMultiplyAdd.h"
 
 #include <algorithm>
 #include <cmath>
@@ -14,6 +15,22 @@ bool isOutside(const ThresholdBand& band)
     return band.pThreshold && band.pThreshold->state != eThresholdOk;
 }
 
+/// As wide as the values and without a branch, for the processor to take several at once.
+ZARN_FUSED_MULTIPLY_ADD bool areInside(std::span<const double> values, double from, double to)
+{
+    constexpr std::size_t kBlock = 64;
+    std::size_t i = 0;
+    for (; i + kBlock <= values.size(); i += kBlock) {
+        const double* pValues = values.data() + i;
+        uint64_t inside = 0;
+        for (std::size_t k = 0; k < kBlock; ++k)
+            inside += static_cast<uint64_t>(pValues[k] >= from) & static_cast<uint64_t>(pValues[k] < to);
+        if (inside != kBlock)
+            return false;
+    }
+    return std::ranges::all_of(values.subspan(i), [=](double value) { return value >= from && value < to; });
+}
+
 } // namespace
 
 LimitScan::LimitScan(const std::string& group, const Trace& texts, const EngineRunning& engine, const std::vector<double>& takeOffs,
@@ -25,35 +42,25 @@ LimitScan::LimitScan(const std::string& group, const Trace& texts, const EngineR
 
 bool LimitScan::allInside(std::span<const double> values) const
 {
-    if (isOutside(*mpBand))
-        return false;
-    constexpr std::size_t kLanes = 8; // taken at once
-    const double from = mpBand->from, to = mpBand->to;
-    std::size_t i = 0;
-    for (; i + kLanes <= values.size(); i += kLanes) {
-        int inside = 0;
-        for (std::size_t lane = 0; lane < kLanes; ++lane)
-            inside += static_cast<int>((values[i + lane] >= from) & (values[i + lane] < to));
-        if (inside != kLanes)
-            return false;
-    }
-    return std::all_of(values.begin() + static_cast<std::ptrdiff_t>(i), values.end(), [=](double value) { return value >= from && value < to; });
+    return !isOutside(*mpBand) && areInside(values, mpBand->from, mpBand->to);
 }
 
-void LimitScan::walk(int number, const TraceRun& part)
+void LimitScan::walk(int number, const WatchedPart& part)
 {
     Sequence& sequence = mSequences[number];
-    if (allInside(part.numbers)) { // nearly always
+    const std::span<const double> numbers = part.numbers();
+    if (allInside(numbers)) { // nearly always
         sequence.extent.inside();
         sequence.isEmpty = false;
         return;
     }
-    for (std::size_t i = 0; i < part.times.size(); ++i) {
-        const double value = part.numbers[i];
+    const std::span<const double> times = part.times();
+    for (std::size_t i = 0; i < numbers.size(); ++i) {
+        const double value = numbers[i];
         if (!mpBand->holds(value))
             mpBand = &findBand(mBands, value);
         if (isOutside(*mpBand))
-            outside(sequence, number, part.times[i], value, part.position + i);
+            outside(sequence, number, times[i], value, part.position() + i);
         else
             sequence.extent.inside();
         sequence.isEmpty = false;

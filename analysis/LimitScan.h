@@ -3,6 +3,7 @@
 #include "analysis/EngineRunning.h"
 #include "analysis/Episode.h"
 #include "analysis/EpisodeExtent.h"
+#include "analysis/WatchedPart.h"
 #include "profile/ThresholdBand.h"
 
 #include <map>
@@ -19,7 +20,7 @@ public:
               EpisodeList& list);
 
     /// Takes samples of a sequence that follow each other, as metric values.
-    void walk(int sequence, const TraceRun& part);
+    void walk(int sequence, const WatchedPart& part);
     /// Tells the episodes that are still open. @return whether a sample was watched
     bool finish();
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "analysis/EngineRunning.h"
+#include "analysis/WatchedPart.h"
 #include "card/record/RecordEntry.h"
 
 #include <algorithm>
@@ -31,8 +32,7 @@ public:
                 other.span == SpanIndex::kNone ? stretch.span : kOthers};
     }
 
-    /// Calls `visit` with the sequence and the position in the trace, times and numbers of samples, damaged ones left out, that follow
-    /// each other in it; in stored order.
+    /// Calls `visit` with the sequence and a WatchedPart of samples, damaged ones left out, that follow each other in it; in stored order.
     template <typename Visitor> void forEachPart(const Trace& trace, Visitor visit) const;
 
 private:
@@ -44,18 +44,20 @@ template <typename Visitor> void WatchedTimes::forEachPart(const Trace& trace, V
 {
     const bool ascending = trace.ascending();
     Step step{1.0, 0.0, kDamaged}; // holds no time
-    trace.forEachRun([&](const TraceRun& run) {
-        for (std::size_t first = 0, last = 0; first < run.times.size(); first = last) {
-            if (!step.holds(run.times[first]))
-                step = at(run.times[first]);
-            last = run.times.size();
-            if (!ascending || !step.holds(run.times.back()))
-                last = static_cast<std::size_t>(std::find_if_not(run.times.begin() + static_cast<std::ptrdiff_t>(first), run.times.end(),
-                                                                 [&step](double time) { return step.holds(time); }) -
-                                                run.times.begin());
+    RunTimes times(trace);
+    trace.forEachNumbers([&](const TraceNumbers& run) {
+        const std::size_t count = run.numbers.size();
+        times.moveTo(run.position, count);
+        for (std::size_t first = 0, last = 0; first < count; first = last) {
+            if (!step.holds(times.at(first)))
+                step = at(times.at(first));
+            last = count;
+            if (!ascending || !step.holds(times.at(count - 1))) {
+                const auto rest = times.all().subspan(first);
+                last = first + static_cast<std::size_t>(std::ranges::find_if_not(rest, [&step](double time) { return step.holds(time); }) - rest.begin());
+            }
             if (step.span != kDamaged)
-                visit(step.span,
-                      TraceRun{run.position + first, run.times.subspan(first, last - first), run.numbers.subspan(first, last - first)});
+                visit(step.span, WatchedPart(times, first, {run.position + first, run.numbers.subspan(first, last - first)}));
         }
     });
 }

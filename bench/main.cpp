@@ -21,7 +21,8 @@ struct Ratio {
 constexpr Ratio kRatios[] = {
     {"load of 10 M records / plain loader", "load/records/10/real_time", "load/plain/real_time", 0.75},
     {"load of 30 M records / of 10 M", "load/records/30/real_time", "load/records/10/real_time", 4.0},
-    {"incidents, phases, key values of 10 M records / load", "facts/review", "load/records/10/real_time", 0.4},
+    {"incidents, phases, key values of 10 M records / load, work of both threads", "facts/review/process_time/real_time",
+     "load/records/10/real_time", 0.75},
     {"plain decoding loop / decoding a channel", "decode/floor", "decode/channel", 0.6},
     {"10 M samples of a difference / decoding both", "formula/difference", "formula/operands", 3.0},
     {"value in 10 M entries / in 1 M", "value/at/10000000/0", "value/at/1000000/0", 4.0},

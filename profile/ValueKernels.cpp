@@ -2,6 +2,7 @@
 
 #include "app/FusedMultiplyAdd.h"
 #include "card/record/ByteOrder.h"
+#include "card/record/TimeKernels.h"
 
 #include <bit>
 #include <cmath>
@@ -14,6 +15,7 @@ template <typename Word, typename Raw>
 [[gnu::always_inline]] inline void scaleAll(std::span<const StoredRecord> records, Scaling scaling, double* pOut, Raw raw)
 {
     for (std::size_t i = 0; i < records.size(); ++i) {
+        __builtin_prefetch(records.data() + i + kFetchAhead);
         const Word word = loadBigEndian<Word>(records[i].payload.data() + scaling.startByte);
         pOut[i] = std::fma(scaling.factor, raw(word), scaling.offset);
     }

@@ -4,6 +4,7 @@
 #include "app/Numeric.h"
 #include "card/CardContainer.h"
 #include "card/FlightFigures.h"
+#include "card/record/HeaderField.h"
 #include "report/ReportFaults.h"
 #include "report/ReportText.h"
 
@@ -13,17 +14,13 @@ namespace {
 
 constexpr std::size_t kFlightsSideBySide = 4;
 constexpr std::size_t kMostFlights = 40;
-constexpr qsizetype kMostRows = 60;    // of one table of events
-constexpr qsizetype kMostFaults = 200; // of the table of faults
+constexpr std::size_t kMostRows = 60;    // of one table of events
+constexpr std::size_t kMostFaults = 200; // of the table of faults
 
-/// Appends a row to a table. @return false when it has as many as it may have
-bool addRow(ReportTable& table, const QStringList& cells, qsizetype most)
+void addRow(ReportTable& table, const QStringList& cells)
 {
-    if (table.columns.front().cells.size() == most)
-        return false;
     for (std::size_t i = 0; i < table.columns.size(); ++i)
         table.columns[i].cells << cells[static_cast<qsizetype>(i)];
-    return true;
 }
 
 } // namespace
@@ -43,15 +40,11 @@ void ReportTables::addUnit(ReportDocument& document) const
 {
     if (!mLoaded.unit)
         return;
-    const RecordInfo& unit = *mLoaded.unit;
     document.add(ReportHeading{tr("Engine unit")});
-    document.add(ReportPairs{{{tr("ECU serial number"), QString::number(unit.ecuSerialNumber)},
-                              {tr("Engine serial number"), reportText(unit.engineSerial)},
-                              {tr("ECU type"), reportText(unit.ecuType)},
-                              {tr("Engine type"), reportText(unit.engineType)},
-                              {tr("Software A"), reportText(unit.softwarePartA)},
-                              {tr("EMU software"), reportText(unit.emuSoftwareVersion)},
-                              {tr("Software B"), reportText(unit.softwarePartB)}}});
+    ReportPairs pairs;
+    for (const HeaderField& field : HeaderField::all())
+        pairs.entries.push_back({field.title(), reportText(field.text(*mLoaded.unit))});
+    document.add(std::move(pairs));
 }
 
 std::vector<RecordFlight> ReportTables::flights(int& firstNumber) const
@@ -114,20 +107,19 @@ void ReportTables::addEvents(ReportDocument& document, const EventList& list, co
     document.add(ReportHeading{heading});
     ReportTable table{heading,
                       {{tr("Time"), false, {}, true}, {tr("Group")}, {tr("Parameter")}, {tr("Value"), true}, {tr("Unit")}, {tr("State")}}};
-    int more = 0;
-    for (const Event& event : list.events()) {
-        if (!isInside(event.time))
-            continue;
-        const EventSource& source = list.source(event);
-        const QString state = states.value(event.state, QString::number(event.state));
-        const bool hasRoom = addRow(table,
-                                    {CardContainer::time(event.time), reportText(source.group), reportText(source.parameter),
-                                     reportText(event.value), reportText(source.unit), state},
-                                    kMostRows);
-        more += hasRoom ? 0 : 1;
+    EventList inside = list;
+    inside.crop({mLoaded.startTime, mLoaded.endTime});
+    const std::vector<const Event*> shown = inside.weightiest(kMostRows);
+    const auto more = static_cast<int>(inside.events().size() - shown.size());
+    for (const Event* pEvent : shown) {
+        const EventSource& source = inside.source(*pEvent);
+        addRow(table, {CardContainer::time(pEvent->time), reportText(source.group), reportText(source.parameter), reportText(pEvent->value),
+                       reportText(source.unit), states.value(pEvent->state, QString::number(pEvent->state))});
     }
     add(document, std::move(table), nothing, more,
-        tr("All of them, those too which the verdict does not count: of starting, stopping and lane checks."));
+        more == 0 ? tr("All of them, those too which the verdict does not count: of starting, stopping and lane checks.")
+                  : tr("Not all of them: what was recorded comes before formulas, what is worse before the rest. Those too which the verdict "
+                       "does not count: of starting, stopping and lane checks."));
 }
 
 void ReportTables::addFaults(ReportDocument& document) const
@@ -142,14 +134,13 @@ void ReportTables::addFaults(ReportDocument& document) const
                        {tr("Last")},
                        {tr("Times"), true}}};
     const QStringList kinds{"", tr("Info"), tr("Warning"), tr("Fault")};
-    int more = 0;
-    for (const ReportFault& fault : presentFaults(mLoaded.context.model(), *mLoaded.pRecord, mLoaded.startTime, mLoaded.endTime)) {
-        const bool hasRoom = addRow(table,
-                                    {reportText(fault.pMatrix->name), QString::number(fault.bit), kinds.value(fault.pBit->errorType),
-                                     reportText(fault.pBit->name), CardContainer::time(fault.first), CardContainer::time(fault.last),
-                                     QString::number(fault.times)},
-                                    kMostFaults);
-        more += hasRoom ? 0 : 1;
+    const std::vector<ReportFault> faults = presentFaults(mLoaded.context.model(), *mLoaded.pRecord, mLoaded.startTime, mLoaded.endTime);
+    const std::size_t room = std::min(faults.size(), kMostFaults);
+    const int more = static_cast<int>(faults.size() - room);
+    for (const ReportFault& fault : std::span(faults).first(room)) {
+        addRow(table, {reportText(fault.pMatrix->name), QString::number(fault.bit), kinds.value(fault.pBit->errorType),
+                       reportText(fault.pBit->name), CardContainer::time(fault.first), CardContainer::time(fault.last),
+                       QString::number(fault.times)});
     }
     const bool hasFaults = !mLoaded.context.model().errorMatrices.empty();
     add(document, std::move(table), hasFaults ? tr("No fault was present.") : tr("The profile declares no faults."), more);

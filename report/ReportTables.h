@@ -27,7 +27,6 @@ private:
     [[nodiscard]] ReportTable figures(const std::vector<RecordFlight>& flights, std::size_t first, std::size_t last, int firstNumber) const;
     /// The flights that the report is about: the selected one, or all of the cycle; and their numbers, from 1.
     [[nodiscard]] std::vector<RecordFlight> flights(int& firstNumber) const;
-    [[nodiscard]] bool isInside(double time) const { return time >= mLoaded.startTime && time <= mLoaded.endTime; }
     /// The table, or `nothing` where it has no rows, and how many of them are left out.
     static void add(ReportDocument& document, ReportTable table, const QString& nothing, int more, const QString& note = {});
 

@@ -82,6 +82,11 @@ double ChannelTrace::number(std::size_t position) const
     return number;
 }
 
+std::size_t ChannelTrace::sideBySide(std::size_t position, std::size_t most) const
+{
+    return mpEntries->run(position, most).size();
+}
+
 std::size_t ChannelTrace::readTimes(std::size_t position, std::span<double> times) const
 {
     const std::span<const StoredRecord> records = mpEntries->run(position, times.size());

@@ -22,6 +22,7 @@ public:
     [[nodiscard]] double time(std::size_t position) const override { return mpEntries->time(position); }
     [[nodiscard]] const void* timesIdentity() const override { return mpEntries; }
     [[nodiscard]] double number(std::size_t position) const override;
+    [[nodiscard]] std::size_t sideBySide(std::size_t position, std::size_t most) const override;
     std::size_t readTimes(std::size_t position, std::span<double> times) const override;
     void readNumbers(std::size_t position, std::span<double> numbers) const override;
     [[nodiscard]] std::size_t bytes() const override { return mTextPositions.capacity() * sizeof(float) + mPositions.capacity() * sizeof(double); }

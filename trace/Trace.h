@@ -26,6 +26,12 @@ struct TraceRun {
     std::span<const double> numbers; ///< as many
 };
 
+/// The same without their times.
+struct TraceNumbers {
+    std::size_t position = 0;
+    std::span<const double> numbers;
+};
+
 /// The samples of one parameter as numbers over time, wherever they come from. Whoever wants values takes traces and never decodes
 /// by himself. Holds the profile, and refers to what holds the samples, which must outlive it.
 class Trace {
@@ -56,8 +62,9 @@ public:
     /// Equal for traces whose samples have the same times, as those of one channel do.
     [[nodiscard]] virtual const void* timesIdentity() const { return this; }
     [[nodiscard]] virtual double number(std::size_t position) const = 0;
-    /// The times of samples from `position` on, as many as lie side by side and the span takes. @return how many; at least one while
-    /// position < size()
+    /// How many samples from `position` on lie side by side, up to `most`; at least one while position < size().
+    [[nodiscard]] virtual std::size_t sideBySide(std::size_t position, std::size_t most) const = 0;
+    /// The times of samples from `position` on, as many as lie side by side and the span takes. @return how many, as sideBySide() tells
     virtual std::size_t readTimes(std::size_t position, std::span<double> times) const = 0;
     /// The numbers of samples from `position` on: of as many as readTimes() told, or fewer.
     virtual void readNumbers(std::size_t position, std::span<double> numbers) const = 0;
@@ -71,6 +78,8 @@ public:
     /// @return false when it was ended
     template <typename Visitor> bool forEachRun(Visitor visit) const { return forEachRun({0, size()}, visit); }
     template <typename Visitor> bool forEachRun(const PositionRange& range, Visitor visit) const;
+    /// Calls `visit` with TraceNumbers for all samples, in stored order.
+    template <typename Visitor> void forEachNumbers(Visitor visit) const;
     /// Calls `visit` with time and number of every sample, in stored order.
     template <typename Visitor> void forEachSample(Visitor visit) const
     {
@@ -105,6 +114,16 @@ template <typename Visitor> bool Trace::forEachRun(const PositionRange& range, V
         position += count;
     }
     return true;
+}
+
+template <typename Visitor> void Trace::forEachNumbers(Visitor visit) const
+{
+    double numbers[kRun];
+    for (std::size_t position = 0, count = 0; position < size(); position += count) {
+        count = sideBySide(position, kRun);
+        readNumbers(position, {numbers, count});
+        visit(TraceNumbers{position, {numbers, count}});
+    }
 }
 
 template <typename Visitor> void Trace::forEachSampleIn(double from, double to, Visitor visit) const

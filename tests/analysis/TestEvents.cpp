@@ -76,6 +76,7 @@ private Q_SLOTS:
     void lamps_data();
     void lamps();
     void rowOfATime();
+    void weightiest();
 };
 
 void TestEvents::limits_data()
@@ -188,6 +189,27 @@ void TestEvents::rowOfATime()
     QCOMPARE(list.rowAt(3.0), 2U);
     QCOMPARE(list.rowAt(1e30), 3U);
     QVERIFY(!list.rowAt(kNan) && !EventList().rowAt(5));
+}
+
+void TestEvents::weightiest()
+{
+    TestCycle cycle;
+    QVERIFY(limitProfile().device("Engine").parameter("T", 10, "FLOAT", {{"thresholdId", "Limits"}}).load(cycle.profile));
+    cycle.profile.setFormulas({{"F", "T", "", 0, {}, {}, {}, 85.0}});
+    RecordFileBuilder file;
+    addFloats(file, 10, "70 90 70 110 70 90 70 90");
+    RecordData data;
+    file.fill(data);
+    const EventList list = limitEvents(data, cycle.profile);
+    const auto times = [&list](std::size_t most) {
+        QStringList shown;
+        for (const Event* pEvent : list.weightiest(most))
+            shown << QString::number(pEvent->time) + QString::fromStdString(list.source(*pEvent).parameter);
+        return shown.join(' ');
+    };
+    QCOMPARE(times(8), "2T 2F 4T 4F 6T 6F 8T 8F");
+    QCOMPARE(times(5), "2T 2F 4T 6T 8T");
+    QCOMPARE(times(2), "2T 4T");
 }
 
 QTEST_GUILESS_MAIN(TestEvents)

@@ -1,4 +1,5 @@
 #include "app/BackgroundTask.h"
+#include "app/Parallel.h"
 
 #include <QSignalSpy>
 #include <QtTest>
@@ -19,6 +20,13 @@ class TestBackgroundTask : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void inParallelDoesAllOnce()
+    {
+        std::vector<std::atomic<int>> done(1000);
+        inParallel(done.size(), [&done](std::size_t item, std::size_t worker) { done[item] += worker < kWorkers ? 1 : 100; });
+        QVERIFY(std::ranges::all_of(done, [](int count) { return count == 1; }));
+        QVERIFY_EXCEPTION_THROWN(inParallel(2, [](std::size_t, std::size_t) { throw std::bad_alloc(); }), std::bad_alloc);
+    }
     void tellsHowItEnded_data()
     {
         QTest::addColumn<BackgroundTask::Work>("work");

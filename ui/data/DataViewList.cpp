@@ -29,7 +29,20 @@ template <typename View> DataViewEntry entry(View* pView)
             }};
 }
 
+constexpr DataViewTab kTabs[] = {{"view-table", QT_TRANSLATE_NOOP("ZARN::DialogData", "Data")},
+                                 {"view-graph", QT_TRANSLATE_NOOP("ZARN::DialogData", "Graph")},
+                                 {"view-faults", QT_TRANSLATE_NOOP("ZARN::DialogData", "Fault Matrix")},
+                                 {"view-limits", QT_TRANSLATE_NOOP("ZARN::DialogData", "Limit/Warning")},
+                                 {"view-lamps", QT_TRANSLATE_NOOP("ZARN::DialogData", "Warning Lamps")},
+                                 {"view-statistic", QT_TRANSLATE_NOOP("ZARN::DialogData", "Tow Statistic")}};
+static_assert(std::size(kTabs) == eViewMap);
+
 } // namespace
+
+const DataViewTab& DataViewList::tab(EDataView which)
+{
+    return kTabs[which];
+}
 
 DataViewList DataViewList::create(const Session& session, const QString& dataPath)
 {

@@ -17,6 +17,12 @@ class DialogData;
 /// The views of the data area, in the order of their tabs; the map, which has none, is the last.
 enum EDataView { eViewTable, eViewGraph, eViewFaultMatrix, eViewLimits, eViewWarnings, eViewStatistic, eViewMap, eViewCount };
 
+/// How a view is chosen.
+struct DataViewTab {
+    const char* icon;
+    const char* title; ///< in English, of the context "ZARN::DialogData"
+};
+
 /// A view as the data area needs it: a widget to place and the interface to drive it. Both are the same object.
 struct DataViewEntry {
     QWidget* pWidget = nullptr;
@@ -31,6 +37,8 @@ struct DataViewList {
 
     [[nodiscard]] DataView& view(EDataView which) const { return *entries[which].pView; }
 
+    /// @param which not the map
+    [[nodiscard]] static const DataViewTab& tab(EDataView which);
     /// The program's own views. @param dataPath folder for what the map keeps
     [[nodiscard]] static DataViewList create(const Session& session, const QString& dataPath);
 };

@@ -15,8 +15,6 @@
 #include <QTimer>
 #include <QToolButton>
 
-#include <array>
-
 namespace ZARN {
 
 namespace {
@@ -25,20 +23,12 @@ constexpr int kTickMilliseconds = 20;
 constexpr QSize kModeIcon(24, 24);
 constexpr double kRounding = 1e-6; // of a slider position: the time of a position must not come back as the position before it
 
-/// The views in the order in which they are told.
-constexpr EDataView kOrder[] = {eViewTable, eViewGraph, eViewFaultMatrix, eViewStatistic, eViewLimits, eViewWarnings, eViewMap};
-
-struct Tab {
-    const char* icon;
-    const char* title;
-};
-constexpr Tab kTabs[] = {{"view-table", QT_TRANSLATE_NOOP("ZARN::DialogData", "Data")},
-                         {"view-graph", QT_TRANSLATE_NOOP("ZARN::DialogData", "Graph")},
-                         {"view-faults", QT_TRANSLATE_NOOP("ZARN::DialogData", "Fault Matrix")},
-                         {"view-limits", QT_TRANSLATE_NOOP("ZARN::DialogData", "Limit/Warning")},
-                         {"view-lamps", QT_TRANSLATE_NOOP("ZARN::DialogData", "Warning Lamps")},
-                         {"view-statistic", QT_TRANSLATE_NOOP("ZARN::DialogData", "Tow Statistic")}};
-static_assert(std::size(kTabs) == eViewMap);
+/// The map is told last, and before it the views that list events.
+int turnOf(std::size_t view)
+{
+    return view == eViewMap ? 2 : view == eViewLimits || view == eViewWarnings ? 1 : 0;
+}
+constexpr int kTurns = 3;
 
 } // namespace
 
@@ -84,9 +74,11 @@ void DialogData::createTabs()
     for (int i = 0; i < eViewMap; ++i) {
         QWidget* pView = mViews.entries[static_cast<std::size_t>(i)].pWidget;
         mpStack->addWidget(pView);
-        (pView->focusProxy() ? pView->focusProxy() : pView)->setAccessibleName(tr(kTabs[i].title));
-        mpTabs->addTab(ImageHandler::icon(kTabs[i].icon), tr(kTabs[i].title));
-        mpTabs->setTabToolTip(i, tr(kTabs[i].title)); // where there is no room for the title
+        const auto& [icon, name] = DataViewList::tab(static_cast<EDataView>(i));
+        const QString title = tr(name);
+        (pView->focusProxy() ? pView->focusProxy() : pView)->setAccessibleName(title);
+        mpTabs->addTab(ImageHandler::icon(icon), title);
+        mpTabs->setTabToolTip(i, title); // where there is no room for the title
     }
     connect(mpTabs, &QTabBar::currentChanged, mpStack, &QStackedWidget::setCurrentIndex);
     // A click is followed by keys for what it shows. Who walks along the tabs by keys goes on with them.
@@ -139,11 +131,15 @@ void DialogData::connectControls()
 
 void DialogData::linkViews()
 {
-    for (const EDataView which : kOrder) {
-        const DataViewEntry& entry = mViews.entries[which];
-        mLinks[which] = new ViewLink(mRecord, *entry.pView, *entry.pWidget);
-        if (entry.connectTo)
-            entry.connectTo(*this);
+    for (int turn = 0; turn < kTurns; ++turn) {
+        for (std::size_t which = 0; which < mLinks.size(); ++which) {
+            const DataViewEntry& entry = mViews.entries[which];
+            if (turnOf(which) != turn)
+                continue;
+            mLinks[which] = new ViewLink(mRecord, *entry.pView, *entry.pWidget);
+            if (entry.connectTo)
+                entry.connectTo(*this);
+        }
     }
     mLinks[eViewMap]->ignore(*mViews.entries[eViewWarnings].pWidget); // a lamp leaves the map where it is
     connect(&mRecord, &RecordSession::recordChanged, this, &DialogData::slotRecord);

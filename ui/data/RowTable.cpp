@@ -1,5 +1,7 @@
 #include "ui/data/RowTable.h"
 
+#include "ui/data/RowTableAccess.h"
+
 #include <QAbstractItemDelegate>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -20,12 +22,24 @@ constexpr int kStep = 40; // pixels to the side
 RowTable::RowTable(int rowHeight, QWidget* pParent)
     : QAbstractItemView(pParent), mpHeader(new QHeaderView(Qt::Horizontal, this)), mRowHeight(rowHeight)
 {
+    [[maybe_unused]] static const bool isInstalled = (RowTableAccess::install(), true);
     setSelectionBehavior(SelectRows);
     setSelectionMode(ExtendedSelection);
     horizontalScrollBar()->setSingleStep(kStep);
     connect(mpHeader, &QHeaderView::sectionResized, this, &RowTable::relayout);
     connect(mpHeader, &QHeaderView::sectionCountChanged, this, &RowTable::relayout);
     connect(mpHeader, &QHeaderView::geometriesChanged, this, &RowTable::relayout);
+}
+
+/// A screen reader reads the cell that the cursor comes to; the toolkit tells it of its own tables alone.
+void RowTable::currentChanged(const QModelIndex& current, const QModelIndex& previous)
+{
+    QAbstractItemView::currentChanged(current, previous);
+    if (!QAccessible::isActive() || !current.isValid())
+        return;
+    QAccessibleEvent event(this, QAccessible::Focus);
+    event.setChild(RowTableAccess::of(*this).childOf(current));
+    QAccessible::updateAccessibility(&event);
 }
 
 int RowTable::columnWidth(int column) const

@@ -34,6 +34,7 @@ public:
     [[nodiscard]] int sizeHintForColumn(int column) const override;
 
 protected:
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
     /// Home and End choose a row, with Control as without it: there is nothing to do at a row that is not chosen.
     [[nodiscard]] QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent* pEvent) const override;
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;

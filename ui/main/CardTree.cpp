@@ -3,6 +3,7 @@
 #include "app/TimeText.h"
 #include "card/CardContainer.h"
 #include "card/PowerUp.h"
+#include "card/record/HeaderField.h"
 
 namespace ZARN {
 
@@ -110,14 +111,8 @@ std::vector<CardNode> CardTree::headerLines(const RecordInfo& info)
     add(tr("Date"), dateText(info.dateTime.date()));
     add(tr("Start Time"), clockText(info.startTime));
     add(tr("Stop Time"), clockText(info.endTime));
-    add(tr("Bus Type"), QString::number(info.busType));
-    add(tr("ECU Serial Number"), QString::number(info.ecuSerialNumber));
-    add(tr("Software Part Nr. A"), printable(info.softwarePartA));
-    add(tr("Software Part Nr. B"), printable(info.softwarePartB));
-    add(tr("ECU Type"), printable(info.ecuType));
-    add(tr("EMU SW Version"), printable(info.emuSoftwareVersion));
-    add(tr("Engine Serial Nr."), printable(info.engineSerial));
-    add(tr("Engine Type"), printable(info.engineType));
+    for (const HeaderField& field : HeaderField::all())
+        add(field.title(), printable(field.text(info)));
     add(tr("Samples Total"), QString::number(info.samples));
     return lines;
 }

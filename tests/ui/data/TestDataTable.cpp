@@ -5,6 +5,7 @@
 #include "ui/data/model/DataTableModel.h"
 
 #include <QAbstractItemModelTester>
+#include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
 #include <QHeaderView>
@@ -78,6 +79,7 @@ private Q_SLOTS:
     void rowOfTime();
     void selection();
     void manyRows();
+    void readAloud();
     void selectedWhileHidden();
     void copy();
     void live();
@@ -309,6 +311,42 @@ void TestDataTable::manyRows()
     QTest::keyClick(&view, Qt::Key_Right);
     const QRect cell = view.visualRect(model.index(0, 2));
     QVERIFY(cell.left() >= 0 && view.horizontalHeader()->sectionViewportPosition(2) == cell.left());
+}
+
+/// What a screen reader is told, walked as it walks.
+void TestDataTable::readAloud()
+{
+    Table table;
+    table.open();
+    QAccessibleInterface& view = *QAccessible::queryAccessibleInterface(table.view());
+    QAccessibleTableInterface& rows = *view.tableInterface();
+    QStringList texts;
+    for (int i = 0; i < view.childCount(); ++i) {
+        QAccessibleInterface* pCell = view.child(i);
+        QVERIFY(view.indexOfChild(pCell) == i && pCell->parent() == &view && view.child(i) == pCell);
+        texts << pCell->text(QAccessible::Name);
+    }
+    QCOMPARE(texts.join('|'), QString("Time|A [rpm]|B|C [m]|00:00:10.000|1.0|7||00:00:10.500|9.0|||00:00:11.000|99.0|||00:00:12.000||8|"));
+    QVERIFY(!view.child(20) && !view.child(-1) && !rows.cellAt(4, 0) && !rows.cellAt(0, 4) && !rows.cellAt(-1, 0));
+    QVERIFY(rows.selectRow(2) && rows.unselectRow(0));
+    QCOMPARE(rows.selectedRows(), QList<int>{2});
+    QCOMPARE(rows.selectedCells().size(), 4);
+    QAccessibleInterface* pCell = rows.cellAt(2, 1);
+    QVERIFY(pCell->state().selected && !rows.cellAt(1, 1)->state().selected);
+    QCOMPARE(pCell->text(QAccessible::Description), QString("Limit"));
+    QCOMPARE(pCell->tableCellInterface()->columnHeaderCells().value(0)->text(QAccessible::Name), QString("A [rpm]"));
+    QCOMPARE(pCell->tableCellInterface()->rowHeaderCells().value(0)->text(QAccessible::Name), QString("00:00:11.000"));
+    QCOMPARE(view.childAt(pCell->rect().center().x(), pCell->rect().center().y()), pCell);
+    table.view()->setFocus();
+    QTest::keyClick(table.view(), Qt::Key_Down);
+    QTest::keyClick(table.view(), Qt::Key_Right);
+    QCOMPARE(view.focusChild(), rows.cellAt(1, 1));
+    table.addRows(20000);
+    table.table->updateRecord(table.data());
+    QCOMPARE(view.childCount(), 4 * (table.view()->model()->rowCount() + 1));
+    QCOMPARE(rows.cellAt(20003, 1)->text(QAccessible::Name), QString("19999.0"));
+    table.table->updateRecord(nullptr);
+    QVERIFY(rows.rowCount() == 0 && view.childCount() == 4 && !rows.cellAt(0, 0) && rows.selectedRows().isEmpty());
 }
 
 void TestDataTable::selectedWhileHidden()
