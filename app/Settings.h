@@ -17,6 +17,7 @@ constexpr TextSetting kCsvExportDir = {"CsvExportDir", "."};
 constexpr NumberSetting kCsvLimiter = {"CsvLimiter", ';', '\t', ';'};
 constexpr NumberSetting kCsvResolution = {"CsvResolution", 100, 10, 100}; // milliseconds a row
 constexpr SwitchSetting kCsvAllParameter = {"CsvAllParameter", true};
+constexpr TextSetting kPictureDir = {"PictureDir", "."};
 constexpr TextSetting kGpxExportDir = {"GpxExportDir", "."};
 constexpr TextSetting kReportDir = {"ReportDir", "."};
 

@@ -37,6 +37,7 @@
 #include "ui/main/StatusProgress.h"
 #include "ui/main/WidgetWelcome.h"
 #include "ui/main/WindowLayout.h"
+#include "ui/main/XyController.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -182,6 +183,7 @@ void DialogMain::createControllers()
     mpOverview =
         new OverviewController(mSession, mRecord, *mpCardController, *mpCard, *mpData, mpPanels->pages(), *action(eActionOverview), this);
     mpFind = new FindController(mSession, mRecord, *mpData, mpPanels->pages(), *action(eActionFind), this);
+    mpXy = new XyController(mSession, mRecord, *mpData, *action(eActionXy), this);
     mpProfileController = std::make_unique<ProfileController>(mSession, *mpCatalogue, mpToolBar->profiles(), mpToolBar->units());
     mpLayout = std::make_unique<WindowLayout>(mSession.property, *this, *mpPanels, mpPanels->side());
     mpAbout = new DialogAbout(this);
@@ -204,6 +206,7 @@ void DialogMain::connectPanels()
     connect(mpProfile, &DialogProfile::signalChanged, this, &DialogMain::slotCanChanged);
     connect(mpProfile, &DialogProfile::signalFormulasChanged, this, &DialogMain::slotFormulasChanged);
     connect(mpProfile, &DialogProfile::signalChanged, this, qOverload<>(&DialogMain::slotProfileChanged));
+    connect(mpProfile, &DialogProfile::signalShow, this, &DialogMain::slotShowParameter);
     connect(mpCard, &DialogCard::signalLoadRecord, this, &DialogMain::slotLoadRecord);
     connect(mpCard, &DialogCard::signalLoadCycle, this, &DialogMain::slotLoadCycle);
     connect(&mRecord, &RecordSession::recordChanged, this, &DialogMain::showRecorded);
@@ -257,6 +260,7 @@ void DialogMain::connectCommands()
     on(eActionExportGpx, [this] { mpExportController->exportGpx(); });
     on(eActionReport, [this] { mpExportController->writeReport(); });
     mpCommands->handle(eActionOverview, [this](const QAction& action) { mpOverview->toggle(action.isChecked()); });
+    on(eActionXy, [this] { mpXy->open(); });
     on(eActionFind, [this] { mpFind->open(); });
     on(eActionNextIncident, [this] { mpOverview->step(true); });
     on(eActionPreviousIncident, [this] { mpOverview->step(false); });
@@ -393,6 +397,14 @@ void DialogMain::slotFormulasChanged()
     mpProjectController->keep();
     mRecord.changeProfile();
     mpLayoutController->update();
+}
+
+void DialogMain::slotShowParameter(const QString& name)
+{
+    if (!mRecord.record())
+        return;
+    mpPanels->showData(true);
+    mpData->showMoment(GraphMoment::around(mRecord.viewTime(), {name.toStdString()}));
 }
 
 void DialogMain::slotCanChanged()

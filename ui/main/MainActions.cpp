@@ -61,6 +61,8 @@ const std::vector<MainAction>& MainAction::all()
          QT_TRANSLATE_NOOP("ZARN::DialogMain", "Go to the previous incident of what is loaded"), "", "incident-previous"},
         {eActionFind, QT_TRANSLATE_NOOP("ZARN::DialogMain", "Find"), "Ctrl+F",
          QT_TRANSLATE_NOOP("ZARN::DialogMain", "Where was a value above or below another, and for how long"), "", "find"},
+        {eActionXy, QT_TRANSLATE_NOOP("ZARN::DialogMain", "X against Y"), "Ctrl+Shift+X",
+         QT_TRANSLATE_NOOP("ZARN::DialogMain", "One parameter over another, with their limits"), "", "xy"},
     };
     // clang-format on
     return actions;

@@ -28,7 +28,8 @@ enum EMainAction : int {
     eActionOverview = 21,
     eActionNextIncident = 22,
     eActionPreviousIncident = 23,
-    eActionFind = 24
+    eActionFind = 24,
+    eActionXy = 25
 };
 
 /// One command of the main window: texts to be translated, the shortcut, the name of its icon.
