@@ -84,6 +84,8 @@ Q_SIGNALS:
     void signalMarker();
     /// The user changed how the graph shows what is ticked.
     void signalLayout();
+    /// The user took back, or did again, what changed the ticks: those of the layout are wanted.
+    void signalTicks(const DisplayLayout& layout);
 
 private:
     void createTabs();

@@ -6,6 +6,8 @@
 #include <QTimer>
 #include <QWidget>
 
+class QLabel;
+class QMenu;
 class WidgetGraphES;
 
 namespace ZARN {
@@ -50,6 +52,8 @@ Q_SIGNALS:
     void signalReport();
     /// The user changed how the traces are shown.
     void signalLayout();
+    /// The user took back, or did again, what changed the ticks: those of the layout are wanted.
+    void signalTicks(const DisplayLayout& layout);
 
 protected:
     /// The keys are for the graph. No focus proxy: Tab would pass the buttons, which stand before it.
@@ -64,8 +68,12 @@ private:
     void slotCommand(int command);
     void slotHeldZoom();
     void slotMenu(const QPoint& point);
+    void addViewActions(QMenu& menu);
 
     void connectGraph();
+    void connectHistory();
+    void showView(const GraphView& from, const GraphView& to);
+    void showUnshown();
     void updateSetup();
     void showSetup();
     void snapshot();
@@ -76,6 +84,8 @@ private:
     RecordGraph mRecord;
     GraphCommands mCommands;
     PictureMenu* mpPicture;
+    GraphHistory mHistory;
+    QLabel* mpUnshown;
     DialogGraphSetup* mpSetup = nullptr;
     QTimer mHeldTimer;
 };

@@ -118,8 +118,7 @@ void GraphModel::setMessage(const QString& text)
 
 ValueSpan GraphModel::valueSpan(int index) const
 {
-    const GraphParameter* pTrace = mTraces.at(index);
-    return pTrace ? mSettings.scale.spanOf(pTrace->samples.extremes()) : mSettings.scale.shared();
+    return mTraces.at(index) ? mSettings.scale.spanOf(mTraces, index) : mSettings.scale.shared();
 }
 
 void GraphModel::setTime(double seconds)
@@ -173,6 +172,7 @@ void GraphModel::reset()
     mDataPresent = false;
     mSettings.scale.lower = plainSettings().scale.lower;
     mSettings.scale.upper = plainSettings().scale.upper;
+    mSettings.scale.zoomed.clear();
     setWindow(TimeWindow());
 }
 
