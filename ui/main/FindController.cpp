@@ -100,9 +100,11 @@ void FindController::search()
     setHits({});
     const FindForm& form = mpBar->form();
     const QString expression = form.expression();
-    if (expression.trimmed().isEmpty())
-        return form.isFree() ? mpBar->setNote(tr("Write a condition, for example \"Engine Speed A\" > 4000."))
-                             : mpBar->setProblem(tr("There is no parameter of that name."));
+    if (expression.trimmed().isEmpty() && form.isFree())
+        return mpBar->setNote(tr("Write a condition, for example \"Engine Speed A\" > 4000."));
+    if (expression.isEmpty())
+        return mpBar->setProblem(form.isKnown() ? tr("The profile cannot convert the unit of this parameter.")
+                                                : tr("There is no such parameter in this record."));
     try {
         const Formula formula(expression.toStdString(), mSession.profile.model());
     } catch (const FormulaError& error) {

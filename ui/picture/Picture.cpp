@@ -70,6 +70,7 @@ QByteArray Picture::pdf() const
 
 bool Picture::print(QPrinter& printer) const
 {
+    printer.setResolution(kResolution); // lines are as wide as a pixel, which would be a hair at that of the printer
     QPainter painter;
     if (!painter.begin(&printer))
         return false;

@@ -44,8 +44,10 @@ bool XyPoints::describe(const LoadedCard& card)
 {
     const std::array<const std::string*, 3> names{&mChoice.x, &mChoice.y, &mChoice.colour};
     for (std::size_t i = 0; i < names.size(); ++i) {
-        if (i == eColour && names[i]->empty())
+        if (i == eColour && names[i]->empty()) {
+            mAxes[i].label = tr("Time");
             break;
+        }
         const ProfileParameter* pParameter = card.context.model().find(*names[i]);
         const auto pChannel = pParameter ? channelOf(*card.pRecord, card.context, *pParameter) : nullptr;
         if (!pChannel || pChannel->entries.empty()) {

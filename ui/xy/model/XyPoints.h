@@ -5,6 +5,8 @@
 #include "card/LoadedCard.h"
 #include "ui/graph/model/GraphParameter.h"
 
+#include <QCoreApplication>
+
 #include <array>
 
 namespace ZARN {
@@ -40,6 +42,8 @@ struct XyPoint {
 /// One parameter over another: at each sample of either the newest value of the other is held. However many samples there are, no more
 /// points than cells of a grid are kept, which is as fine as a screen. A plain value.
 class XyPoints {
+    Q_DECLARE_TR_FUNCTIONS(ZARN::XyPoints)
+
 public:
     static constexpr std::size_t kColumns = 1200, kRows = 800;
     enum EAxis { eX, eY, eColour };
