@@ -18,6 +18,7 @@ constexpr NumberSetting kCsvLimiter = {"CsvLimiter", ';', '\t', ';'};
 constexpr NumberSetting kCsvResolution = {"CsvResolution", 100, 10, 100}; // milliseconds a row
 constexpr SwitchSetting kCsvAllParameter = {"CsvAllParameter", true};
 constexpr TextSetting kCsvLocale = {"CsvLocale", ""};
+constexpr TextSetting kPictureDir = {"PictureDir", "."};
 constexpr TextSetting kGpxExportDir = {"GpxExportDir", "."};
 constexpr SwitchSetting kGpxTrackPerFlight = {"GpxTrackPerFlight", false};
 constexpr TextSetting kReportDir = {"ReportDir", "."};

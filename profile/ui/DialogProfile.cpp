@@ -93,6 +93,10 @@ void DialogProfile::createTree()
         if (section != ProfileTreeModel::eName)
             fitNames();
     });
+    connect(mpTree, &QTreeView::doubleClicked, this, [this](const QModelIndex& index) {
+        if (!ProfileTreeModel::isDevice(index))
+            Q_EMIT signalShow(index.siblingAtColumn(ProfileTreeModel::eName).data().toString());
+    });
     connect(mpTree->selectionModel(), &QItemSelectionModel::currentChanged, this, &DialogProfile::slotCurrentChanged);
     connect(mpFilter, &QAbstractItemModel::modelReset, this, &DialogProfile::slotCurrentChanged);
 }

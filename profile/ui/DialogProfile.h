@@ -41,6 +41,8 @@ public:
 Q_SIGNALS:
     /// The user changed which parameters are shown.
     void signalChanged();
+    /// He wants to see a parameter of that name in the graph, ticked or not.
+    void signalShow(const QString& name);
     /// The user changed the formulas: another model is in force.
     void signalFormulasChanged();
 

@@ -20,6 +20,12 @@ template <typename View> DataViewEntry entry(View* pView)
                     QObject::connect(pView, &View::signalTime, &area, [&area, pView](double time) { area.moveFrom(*pView, time); });
                 if constexpr (requires { &View::signalEvents; })
                     QObject::connect(pView, &View::signalEvents, &area, &DialogData::slotEvents);
+                if constexpr (requires { &View::signalMoment; })
+                    QObject::connect(pView, &View::signalMoment, &area, &DialogData::showMoment);
+                if constexpr (requires { &View::signalCurves; }) {
+                    QObject::connect(pView, &View::signalCurves, &area, &DialogData::signalCurves);
+                    QObject::connect(pView, &View::signalMarker, &area, &DialogData::signalMarker);
+                }
                 if constexpr (requires { &View::signalReport; })
                     QObject::connect(pView, &View::signalReport, &area, &DialogData::signalReport);
                 if constexpr (requires { &View::signalLayout; })

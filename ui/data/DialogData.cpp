@@ -170,7 +170,7 @@ std::optional<TimeSpan> DialogData::graphSpan() const
     return mViews.view(eViewGraph).shownSpan();
 }
 
-void DialogData::show(const GraphMoment& moment)
+void DialogData::showMoment(const GraphMoment& moment)
 {
     mpTabs->setCurrentIndex(eViewGraph);
     mLinks[eViewGraph]->update(); // what it shows already stays

@@ -48,9 +48,8 @@ public:
     /// What the graph shows; none when it is empty.
     [[nodiscard]] std::optional<TimeSpan> graphSpan() const;
     /// Brings the graph to the front with that moment; the way there from everywhere. The project is not changed.
-    void show(const GraphMoment& moment);
-    /// Has the graph mark what was found.
-    void setFound(const std::vector<TimeSpan>& spans) { mViews.view(eViewGraph).setFound(spans); }
+    void showMoment(const GraphMoment& moment);
+    [[nodiscard]] DataView& graph() { return mViews.view(eViewGraph); }
     /// Puts a bar between tabs and views; takes it over.
     void addBar(QWidget* pBar);
     /// Order, heights, scale, colours and mode of the graph; what is ticked is not touched.
@@ -79,6 +78,10 @@ public Q_SLOTS:
 Q_SIGNALS:
     /// The user wants the report of what is shown, from the menu of a view.
     void signalReport();
+    /// The user wants to see one parameter over another.
+    void signalCurves();
+    /// Something else is marked in the graph.
+    void signalMarker();
     /// The user changed how the graph shows what is ticked.
     void signalLayout();
     /// The user took back, or did again, what changed the ticks: those of the layout are wanted.

@@ -60,6 +60,7 @@ void DialogDataErrorMatrix::addPanels()
         pPanel->setData(matrix);
         mpPanelLayout->insertWidget(static_cast<int>(mPanels.size()), pPanel);
         mPanels.push_back(pPanel);
+        connect(pPanel, &WidgetFaultMatrix::signalMoment, this, &DialogDataErrorMatrix::signalMoment);
         connect(pPanel, &WidgetFaultMatrix::signalTime, this, [this](double time) {
             setTime(time); // all panels; whoever is told moves the other views only
             Q_EMIT signalTime(time);

@@ -2,6 +2,7 @@
 
 #include "project/Session.h"
 #include "ui/data/model/DataView.h"
+#include "ui/data/model/GraphMoment.h"
 
 #include <QWidget>
 
@@ -37,6 +38,8 @@ public:
 Q_SIGNALS:
     /// The user clicked at a time, in seconds.
     void signalTime(double time);
+    /// He wants to see faults in the graph.
+    void signalMoment(const GraphMoment& moment);
 
 private Q_SLOTS:
     void slotTimeoutLive();

@@ -5,6 +5,7 @@
 #include "profile/Profile.h"
 #include "ui/canvas/ColourContrast.h"
 #include "ui/data/EventMark.h"
+#include "ui/data/GraphJump.h"
 #include "ui/data/TableCopy.h"
 
 #include <QHeaderView>
@@ -106,6 +107,10 @@ void DialogDataEvents::createTable()
     pHeader->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     pHeader->setStretchLastSection(true);
     new TableCopy(mpTable);
+    new GraphJump(mpTable, [this](const QModelIndex& index) {
+        const Event& event = mEvents.events()[static_cast<std::size_t>(index.row())];
+        Q_EMIT signalMoment(GraphMoment::around(event.time, {mEvents.source(event).parameter}));
+    });
     mpTable->installEventFilter(this);
     connect(mpTable->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &DialogDataEvents::slotSelect);
     connect(mpTable, &QTableWidget::clicked, this, &DialogDataEvents::slotChoose);

@@ -4,6 +4,7 @@
 #include "app/BackgroundTask.h"
 #include "project/Session.h"
 #include "ui/data/model/DataView.h"
+#include "ui/data/model/GraphMoment.h"
 
 #include <QWidget>
 
@@ -39,6 +40,8 @@ public:
 Q_SIGNALS:
     /// The time of the event that the user chose, in seconds.
     void signalTime(double time);
+    /// The user wants to see an event in the graph.
+    void signalMoment(const GraphMoment& moment);
     /// The events of prepare() are found.
     void signalEvents();
 

@@ -1,6 +1,7 @@
 #include "ui/data/DialogDataTable.h"
 
 #include "card/CardContainer.h"
+#include "ui/data/GraphJump.h"
 #include "ui/data/RowTable.h"
 #include "ui/data/TableCellDelegate.h"
 #include "ui/data/TableCopy.h"
@@ -64,6 +65,12 @@ void DialogDataTable::createView()
     font.setWeight(QFont::Bold);
     mpView->horizontalHeader()->setFont(font);
     new TableCopy(mpView);
+    new GraphJump(mpView, [this](const QModelIndex& index) {
+        std::set<std::string> names; // of the time's own column, none
+        if (index.column() > 0)
+            names.insert(mpModel->parameters()[static_cast<std::size_t>(index.column() - 1)].name());
+        Q_EMIT signalMoment(GraphMoment::around(timeOf(index.row()), std::move(names)));
+    });
     connect(mpView, &RowTable::clicked, this, &DialogDataTable::slotChoose);
     connect(mpView, &RowTable::activated, this, &DialogDataTable::slotChoose);
     connect(mpView->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &DialogDataTable::slotSelect);
@@ -223,7 +230,12 @@ void DialogDataTable::slotSelect()
     if (!index.isValid())
         return;
     mReported = true;
-    Q_EMIT signalTime(static_cast<double>(mpModel->index(index.row(), 0).data(Qt::UserRole).toLongLong()) * 0.001);
+    Q_EMIT signalTime(timeOf(index.row()));
+}
+
+double DialogDataTable::timeOf(int row) const
+{
+    return static_cast<double>(mpModel->index(row, 0).data(Qt::UserRole).toLongLong()) * 0.001;
 }
 
 /// A click on the row that is current already changes nothing, but is a choice all the same.

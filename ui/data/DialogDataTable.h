@@ -2,6 +2,7 @@
 
 #include "project/Session.h"
 #include "ui/data/model/DataView.h"
+#include "ui/data/model/GraphMoment.h"
 
 #include <QWidget>
 
@@ -40,6 +41,8 @@ public:
 Q_SIGNALS:
     /// The time of the row that the user chose last, in seconds; the selection may be of many, or of all.
     void signalTime(double time);
+    /// The user wants to see a cell in the graph.
+    void signalMoment(const GraphMoment& moment);
 
 protected:
     void showEvent(QShowEvent* pEvent) override;
@@ -54,6 +57,7 @@ private Q_SLOTS:
 private:
     void createView();
     void createLiveView();
+    [[nodiscard]] double timeOf(int row) const;
     void updateColumns();
     void fill();
     void centre();

@@ -45,7 +45,7 @@ WidgetErrorTime::WidgetErrorTime(const CardContainer& container, QWidget* pParen
 {
     setMinimumHeight(kHeight);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    setToolTip(tr("Bits that were set over time. From top to bottom: Info, Warning, Fault.\nA click goes to the time."));
+    setToolTip(tr("Bits that were set over time. From top to bottom: Info, Warning, Fault.\nA click goes to the time, a double click to the graph."));
     setCursor(Qt::PointingHandCursor);
     mTimeline.emplace(mMatrix, nullptr);
 }
@@ -89,13 +89,25 @@ void WidgetErrorTime::mouseMoveEvent(QMouseEvent* pEvent)
     chooseTime(*pEvent);
 }
 
-/// The middle of the pixel, so that the line comes to stand where the user pointed.
+void WidgetErrorTime::mouseDoubleClickEvent(QMouseEvent* pEvent)
+{
+    if (const std::optional<double> time = timeAt(*pEvent))
+        Q_EMIT signalShow(*time);
+}
+
 void WidgetErrorTime::chooseTime(const QMouseEvent& event)
 {
+    if (const std::optional<double> time = timeAt(event))
+        Q_EMIT signalTime(*time);
+}
+
+/// The middle of the pixel, so that the line comes to stand where the user pointed.
+std::optional<double> WidgetErrorTime::timeAt(const QMouseEvent& event) const
+{
     if (!event.buttons().testFlag(Qt::LeftButton) || !mWithRecord || !(mEnd > mStart))
-        return;
+        return std::nullopt;
     const double x = std::clamp(event.position().x(), 0.0, width() - 1.0) + 0.5;
-    Q_EMIT signalTime(mStart + x * (mEnd - mStart) / (width() + 1));
+    return mStart + x * (mEnd - mStart) / (width() + 1);
 }
 
 void WidgetErrorTime::drawBand(QPainter& painter, EErrorType kind, const QRect& band) const

@@ -33,14 +33,19 @@ public:
 Q_SIGNALS:
     /// The user clicked at a time of the record, in seconds.
     void signalTime(double time);
+    /// He wants to see the faults of a time in the graph.
+    void signalShow(double time);
 
 protected:
     void mousePressEvent(QMouseEvent* pEvent) override;
+    void mouseDoubleClickEvent(QMouseEvent* pEvent) override;
     void mouseMoveEvent(QMouseEvent* pEvent) override;
     void paintEvent(QPaintEvent* pEvent) override;
     void resizeEvent(QResizeEvent* pEvent) override;
 
 private:
+    /// The time under the pointer while the left button is down.
+    [[nodiscard]] std::optional<double> timeAt(const QMouseEvent& event) const;
     void chooseTime(const QMouseEvent& event);
     void drawBands();
     void drawBand(QPainter& painter, EErrorType kind, const QRect& band) const;

@@ -2,6 +2,7 @@
 
 #include "analysis/FaultTimeline.h"
 #include "card/record/RecordData.h"
+#include "ui/data/GraphJump.h"
 #include "ui/data/TextSize.h"
 #include "ui/data/WidgetErrorItem.h"
 #include "ui/data/WidgetErrorTime.h"
@@ -39,6 +40,8 @@ WidgetFaultMatrix::WidgetFaultMatrix(const CardContainer& container, QWidget* pP
     createTable();
     updateFonts();
     connect(mpTimeline, &WidgetErrorTime::signalTime, this, &WidgetFaultMatrix::signalTime);
+    connect(mpTimeline, &WidgetErrorTime::signalShow, this, [this](double time) { showBits(faultWordAt(channel(), time).value_or(0), time); });
+    new GraphJump(mpTable, [this](const QModelIndex& index) { showBits(1U << columnOf(index.column()), mTime); });
     auto* pLayout = new QVBoxLayout(this);
     pLayout->addWidget(mpTitle);
     pLayout->addWidget(mpTimeline);
@@ -103,16 +106,32 @@ void WidgetFaultMatrix::showWord(uint32_t word)
     }
 }
 
+const RecordChannel* WidgetFaultMatrix::channel() const
+{
+    return mpRecord ? mpRecord->channel(static_cast<uint32_t>(mMatrix.id)) : nullptr;
+}
+
 void WidgetFaultMatrix::setTime(double time)
 {
+    mTime = time;
     mpTimeline->setTime(time);
-    const RecordChannel* pChannel = mpRecord ? mpRecord->channel(static_cast<uint32_t>(mMatrix.id)) : nullptr;
-    showWord(faultWordAt(pChannel, time).value_or(0));
+    showWord(faultWordAt(channel(), time).value_or(0));
+}
+
+/// The graph has a parameter of its own for each bit.
+void WidgetFaultMatrix::showBits(uint32_t word, double time)
+{
+    std::set<std::string> names;
+    for (const auto& [bit, fault] : mMatrix.bits) {
+        if (bit >= 0 && bit < kBits && (word >> bit & 1U) != 0)
+            names.insert(fault.name);
+    }
+    Q_EMIT signalMoment(GraphMoment::around(time, std::move(names)));
 }
 
 void WidgetFaultMatrix::updateLiveData()
 {
-    const RecordChannel* pChannel = mpRecord ? mpRecord->channel(static_cast<uint32_t>(mMatrix.id)) : nullptr;
+    const RecordChannel* pChannel = channel();
     if (pChannel && !pChannel->entries.empty())
         showWord(faultWord(pChannel->last().payload));
 }

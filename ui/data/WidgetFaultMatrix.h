@@ -1,6 +1,7 @@
 #pragma once
 
 #include "profile/FaultMatrix.h"
+#include "ui/data/model/GraphMoment.h"
 
 #include <QFrame>
 
@@ -13,6 +14,7 @@ class WidgetErrorItem;
 namespace ZARN {
 
 class CardContainer;
+class RecordChannel;
 class RecordData;
 class WidgetErrorTime;
 
@@ -41,18 +43,23 @@ public:
 Q_SIGNALS:
     /// The user clicked at a time of the timeline, in seconds.
     void signalTime(double time);
+    /// The user wants to see faults in the graph.
+    void signalMoment(const GraphMoment& moment);
 
 protected:
     void changeEvent(QEvent* pEvent) override;
 
 private:
     void createTable();
+    [[nodiscard]] const RecordChannel* channel() const;
     void showWord(uint32_t word);
+    void showBits(uint32_t word, double time);
     void updateFonts();
     void layoutTable();
 
     FaultMatrix mMatrix;
     RecordData* mpRecord = nullptr;
+    double mTime = 0.0;
     QLabel* mpTitle;
     WidgetErrorTime* mpTimeline;
     QTableWidget* mpTable;

@@ -18,7 +18,7 @@ namespace {
 
 constexpr double kMost = 1e9;
 constexpr double kLongest = 1e6; // seconds
-constexpr int kNameLength = 14;
+constexpr int kNameLength = 9;
 constexpr int kValueWidth = 9, kSecondsWidth = 5; // characters
 
 void setWidth(QAbstractSpinBox& box, int characters)

@@ -23,6 +23,8 @@ public:
     void setParameters(std::vector<FindParameter> parameters, const QString& preferred, const DecodingContext& context);
     /// The condition as a formula; empty where the choices make none.
     [[nodiscard]] QString expression() const;
+    /// Whether there is a parameter of the chosen name.
+    [[nodiscard]] bool isKnown() const { return parameter() != nullptr; }
     [[nodiscard]] double seconds() const;
     [[nodiscard]] bool isFree() const;
     void setFree(bool isFree);

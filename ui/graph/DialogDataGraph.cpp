@@ -1,11 +1,13 @@
 #include "ui/graph/DialogDataGraph.h"
 
+#include "app/Settings.h"
 #include "ui/graph/DialogGraphSetup.h"
 #include "ui/graph/GraphButtons.h"
-#include "ui/graph/GraphSnapshot.h"
+#include "ui/graph/model/PaperColours.h"
 #include "ui/graph/WidgetGraphES.h"
 #include "ui/graph/model/MarkerValues.h"
 #include "ui/graph/model/TraceColours.h"
+#include "ui/picture/PictureMenu.h"
 
 #include <QClipboard>
 #include <QFileDialog>
@@ -22,10 +24,14 @@ namespace {
 constexpr int kHeldInterval = 50;
 constexpr qsizetype kMostTold = 100; // characters of names
 
-GraphSnapshot snapshotOf(const WidgetGraphBase& graph)
+Picture pictureOf(WidgetGraphBase& graph)
 {
     const double ratio = graph.devicePixelRatioF();
-    return {[&graph, ratio](Canvas& canvas, const QSize& size) { graph.paintOn(canvas, size, ratio); }, graph.size(), ratio};
+    const auto paint = [&graph, ratio](Canvas& canvas, const QSize& size, bool forPaper) {
+        const std::optional<PaperColours> colours = forPaper ? std::optional<PaperColours>(std::in_place, graph.model()) : std::nullopt;
+        graph.paintOn(canvas, size, ratio);
+    };
+    return {paint, graph.size(), ratio};
 }
 
 } // namespace
@@ -33,6 +39,9 @@ GraphSnapshot snapshotOf(const WidgetGraphBase& graph)
 DialogDataGraph::DialogDataGraph(const Session& session, QWidget* pParent)
     : QWidget(pParent), mpButtons(new GraphButtons), mpGraph(new WidgetGraphES), mRecord(session, mpGraph->model()),
       mCommands(mpGraph->model(), mRecord),
+      mpPicture(new PictureMenu(
+          session, [this] { return pictureOf(*mpGraph); },
+          [&property = session.property] { return Settings::kGraphLayout.text(property); }, this)),
       mHistory([this] { return mRecord.view(); }, [this](const GraphView& from, const GraphView& to) { showView(from, to); }),
       mpUnshown(new QLabel)
 {
@@ -69,12 +78,14 @@ void DialogDataGraph::connectGraph()
     connect(mpGraph, &WidgetGraphES::signalMoveParameter, this, keepStrips);
     connect(&mpGraph->model(), &GraphModel::signalStrips, this, keepStrips);
     connect(&mpGraph->model(), &GraphModel::signalCommand, this, &DialogDataGraph::slotCommand);
+    connect(mpGraph, &WidgetGraphES::signalMarker, this, &DialogDataGraph::signalMarker);
     connect(mpGraph, &WidgetGraphES::signalMenu, this, &DialogDataGraph::slotMenu);
     connect(mpButtons, &GraphButtons::signalHeld, this, [this] {
         mHistory.begin();
         mHeldTimer.start(kHeldInterval);
     });
     connect(mpButtons, &GraphButtons::signalCommand, this, &DialogDataGraph::slotCommand);
+    connect(mpPicture, &PictureMenu::signalProblem, this, &DialogDataGraph::showProblem);
     connect(&mHeldTimer, &QTimer::timeout, this, &DialogDataGraph::slotHeldZoom);
 }
 
@@ -191,6 +202,12 @@ std::optional<TimeSpan> DialogDataGraph::shownSpan() const
     return mRecord.shownSpan();
 }
 
+std::optional<TimeSpan> DialogDataGraph::markedSpan() const
+{
+    const GraphMarker marker = mpGraph->model().marker().ordered();
+    return marker.isRange() ? std::optional(TimeSpan{marker.start, marker.end}) : std::nullopt;
+}
+
 GraphData& DialogDataGraph::graphData()
 {
     return mpGraph->model().settings();
@@ -284,7 +301,7 @@ void DialogDataGraph::snapshot()
     const QString path = askSnapshotFile();
     if (path.isEmpty())
         return;
-    GraphSnapshot snapshot = snapshotOf(*mpGraph);
+    Picture snapshot = pictureOf(*mpGraph);
     if (!snapshot.save(path))
         showProblem(tr("The snapshot could not be saved.\n%1").arg(snapshot.error()));
 }
@@ -293,11 +310,6 @@ void DialogDataGraph::copyValues()
 {
     const GraphModel& model = mpGraph->model();
     QGuiApplication::clipboard()->setText(markerText(model.traces(), model.marker()));
-}
-
-void DialogDataGraph::copyPicture()
-{
-    QGuiApplication::clipboard()->setImage(snapshotOf(*mpGraph).image());
 }
 
 void DialogDataGraph::addViewActions(QMenu& menu)
@@ -328,8 +340,8 @@ void DialogDataGraph::slotMenu(const QPoint& point)
     QMenu menu(this);
     QAction* pCopy = menu.addAction(tr("Copy Values"), this, &DialogDataGraph::copyValues);
     pCopy->setEnabled(mpGraph->model().marker().isRange() && mRecord.hasSamples());
-    menu.addAction(tr("Copy Picture"), this, &DialogDataGraph::copyPicture);
-    menu.addAction(tr("Snapshot..."), this, &DialogDataGraph::snapshot);
+    mpPicture->addTo(menu);
+    menu.addAction(tr("X against Y..."), this, &DialogDataGraph::signalCurves)->setEnabled(mRecord.hasRecord());
     menu.addAction(tr("Flight Report..."), this, &DialogDataGraph::signalReport)->setEnabled(mRecord.hasRecord());
     menu.addSeparator();
     addViewActions(menu);

@@ -14,6 +14,7 @@ namespace ZARN {
 
 class DialogGraphSetup;
 class GraphButtons;
+class PictureMenu;
 
 /// The graph tab: the graph of the loaded record with a row of command buttons, its menu and its setup window. Its cursor is the view time.
 class DialogDataGraph : public QWidget, public DataView {
@@ -31,6 +32,7 @@ public:
     void updateSettings() override;
     void setNotes(const std::vector<CycleNote>& notes) override;
     [[nodiscard]] std::optional<TimeSpan> shownSpan() const override;
+    [[nodiscard]] std::optional<TimeSpan> markedSpan() const override;
     void showSpan(const TimeSpan& span, const std::set<std::string>& parameters) override;
     void setFound(const std::vector<TimeSpan>& spans) override;
     void setLayout(const DisplayLayout& layout) override;
@@ -43,6 +45,10 @@ Q_SIGNALS:
     void signalCursor(float time, double value);
     /// The same, as exactly as the graph knows it.
     void signalTime(double time);
+    /// The user wants to see one parameter over another.
+    void signalCurves();
+    /// Something else is marked.
+    void signalMarker();
     /// The user wants the report of the loaded data.
     void signalReport();
     /// The user changed how the traces are shown.
@@ -73,12 +79,12 @@ private:
     void showSetup();
     void snapshot();
     void copyValues();
-    void copyPicture();
 
     GraphButtons* mpButtons;
     WidgetGraphES* mpGraph;
     RecordGraph mRecord;
     GraphCommands mCommands;
+    PictureMenu* mpPicture;
     GraphHistory mHistory;
     QLabel* mpUnshown;
     DialogGraphSetup* mpSetup = nullptr;

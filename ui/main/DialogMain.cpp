@@ -39,6 +39,7 @@
 #include "ui/main/StatusProgress.h"
 #include "ui/main/WidgetWelcome.h"
 #include "ui/main/WindowLayout.h"
+#include "ui/main/XyController.h"
 #include "ui/overview/DialogOverview.h"
 
 #include <QAction>
@@ -189,6 +190,7 @@ void DialogMain::createControllers()
                                       QString::fromStdString(mEnvironment.folders.dataPath()), this);
     const auto* pNotes = new NoteController(mSession, mRecord, mpLogbook->worker(), *mpCommands, *mpNotices, this);
     connect(pNotes, &NoteController::signalChanged, &mpOverview->view(), &DialogOverview::reset);
+    mpXy = new XyController(mSession, mRecord, *mpData, *action(eActionXy), this);
     mpProfileController = std::make_unique<ProfileController>(mSession, *mpCatalogue, mpToolBar->profiles(), mpToolBar->units());
     mpLayout = std::make_unique<WindowLayout>(mSession.property, *this, *mpPanels, mpPanels->side());
     mpAbout = new DialogAbout(this);
@@ -211,6 +213,7 @@ void DialogMain::connectPanels()
     connect(mpProfile, &DialogProfile::signalChanged, this, &DialogMain::slotCanChanged);
     connect(mpProfile, &DialogProfile::signalFormulasChanged, this, &DialogMain::slotFormulasChanged);
     connect(mpProfile, &DialogProfile::signalChanged, this, qOverload<>(&DialogMain::slotProfileChanged));
+    connect(mpProfile, &DialogProfile::signalShow, this, &DialogMain::slotShowParameter);
     connect(mpCard, &DialogCard::signalLoadRecord, this, &DialogMain::slotLoadRecord);
     connect(mpCard, &DialogCard::signalLoadCycle, this, &DialogMain::slotLoadCycle);
     connect(&mRecord, &RecordSession::recordChanged, this, &DialogMain::showRecorded);
@@ -265,6 +268,7 @@ void DialogMain::connectCommands()
     on(eActionExportGpx, [this] { mpExportController->exportGpx(); });
     on(eActionReport, [this] { mpExportController->writeReport(mRecord.notes()); });
     mpCommands->handle(eActionOverview, [this](const QAction& action) { mpOverview->toggle(action.isChecked()); });
+    on(eActionXy, [this] { mpXy->open(); });
     on(eActionFind, [this] { mpFind->open(); });
     on(eActionNextIncident, [this] { mpOverview->step(true); });
     on(eActionPreviousIncident, [this] { mpOverview->step(false); });
@@ -402,6 +406,14 @@ void DialogMain::slotFormulasChanged()
     mpProjectController->keep();
     mRecord.changeProfile();
     mpLayoutController->update();
+}
+
+void DialogMain::slotShowParameter(const QString& name)
+{
+    if (!mRecord.record())
+        return;
+    mpPanels->showData(true);
+    mpData->showMoment(GraphMoment::around(mRecord.viewTime(), {name.toStdString()}));
 }
 
 void DialogMain::slotCanChanged()

@@ -38,6 +38,7 @@ class ProfileController;
 class ProjectController;
 class StatusProgress;
 class WindowLayout;
+class XyController;
 
 /// The main window: actions, menus, tool bar, card browser and profile panel at the left, the data at the right. It connects and forwards; what
 /// the commands do is in one controller each. Owned by the main function; what it is given outlives it.
@@ -80,6 +81,8 @@ public Q_SLOTS:
     /// The user changed the project in the profile panel.
     void slotCanChanged();
     void slotFormulasChanged();
+    /// In the graph, at the view time.
+    void slotShowParameter(const QString& name);
     /// Another mode of the engine unit: reads the card anew.
     void slotZarnMode(int mode);
     void slotLoadRecord(const std::list<QString>& files);
@@ -153,6 +156,7 @@ private:
     ProjectController* mpProjectController = nullptr;
     ExportController* mpExportController = nullptr;
     FindController* mpFind = nullptr;
+    XyController* mpXy = nullptr;
     OverviewController* mpOverview = nullptr;
     LogbookController* mpLogbook = nullptr;
     LayoutController* mpLayoutController = nullptr;

@@ -12,6 +12,7 @@
 #include "export/ui/ExportTarget.h"
 #include "export/ui/ReportFileDialog.h"
 #include "profile/Profile.h"
+#include "project/DataName.h"
 #include "report/FlightReport.h"
 #include "ui/main/CardController.h"
 
@@ -44,14 +45,7 @@ bool ExportController::mayExport()
 
 QString ExportController::fileName(int flight, const QString& suffix) const
 {
-    const QString card = mSession.container.name().isEmpty() ? QStringLiteral("ZARN") : mSession.container.name();
-    const auto cycle = mSession.container.loadedCycleNumber();
-    if (!cycle)
-        return card + suffix;
-    // All at once: what a name contains is never taken for the next mark.
-    const QString number = QString::number(*cycle);
-    return (flight > 0 ? tr("%1 cycle %2 flight %3").arg(card, number, QString::number(flight)) : tr("%1 cycle %2").arg(card, number)) +
-           suffix;
+    return dataName(mSession.container, flight) + suffix;
 }
 
 QString ExportController::selectionName(const QString& suffix) const

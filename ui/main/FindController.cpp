@@ -37,7 +37,7 @@ FindController::FindController(const Session& session, RecordSession& record, Di
     mDelay.setSingleShot(true);
     mDelay.setInterval(kTyping);
     connect(&mDelay, &QTimer::timeout, this, &FindController::search);
-    connect(&mSearch, &FindSearch::signalFinished, this, &FindController::slotFound);
+    connect(&mSearch, &LatestTask::signalFinished, this, &FindController::slotFound);
     connect(&mRecord, &RecordSession::recordChanged, this, &FindController::slotRecord);
     connect(&mRecord, &RecordSession::decodingChanged, this, &FindController::slotRecord);
     connect(&mRecord, &RecordSession::timeChanged, mpBar, &FindBar::setTime);
@@ -100,9 +100,11 @@ void FindController::search()
     setHits({});
     const FindForm& form = mpBar->form();
     const QString expression = form.expression();
-    if (expression.trimmed().isEmpty())
-        return form.isFree() ? mpBar->setNote(tr("Write a condition, for example \"Engine Speed A\" > 4000."))
-                             : mpBar->setProblem(tr("There is no parameter of that name."));
+    if (expression.trimmed().isEmpty() && form.isFree())
+        return mpBar->setNote(tr("Write a condition, for example \"Engine Speed A\" > 4000."));
+    if (expression.isEmpty())
+        return mpBar->setProblem(form.isKnown() ? tr("The profile cannot convert the unit of this parameter.")
+                                                : tr("There is no such parameter in this record."));
     try {
         const Formula formula(expression.toStdString(), mSession.profile.model());
     } catch (const FormulaError& error) {
@@ -110,12 +112,16 @@ void FindController::search()
         return mpBar->setProblem(tr("Character %1: %2").arg(place + 1).arg(error.text()));
     }
     mpBar->setNote(tr("Searching..."));
-    mSearch.start(mSession.container.loaded(), expression.toStdString(), form.seconds());
+    mSearch.start([this, card = mSession.container.loaded(), condition = expression.toStdString(), atLeast = form.seconds()](Progress& progress) {
+        const auto within = card.flightNumber > 0 ? std::optional(TimeSpan{card.startTime, card.endTime}) : std::nullopt;
+        mFound = timesWhere(condition, atLeast, *card.pRecord, card.context, within, progress);
+    });
 }
 
 void FindController::slotFound()
 {
-    const ConditionTimes& times = mSearch.times();
+    const ConditionTimes times = std::exchange(mFound, {});
+    mOperands = {times.operands.begin(), times.operands.end()};
     if (!mSearch.error().isEmpty())
         mpBar->setProblem(mSearch.error());
     else if (!times.unrecorded.empty())
@@ -131,7 +137,7 @@ void FindController::setHits(const FindHits& hits)
     mHits = hits;
     mpBar->setHits(mHits);
     mpBar->setTime(mRecord.viewTime());
-    mData.setFound(mHits.spans());
+    mData.graph().setFound(mHits.spans());
 }
 
 void FindController::slotClosed()
@@ -158,8 +164,7 @@ void FindController::go(std::size_t hit)
 void FindController::show(std::size_t hit)
 {
     const TimeSpan& span = mHits.spans()[hit];
-    const std::vector<std::string>& names = mSearch.times().operands;
-    mData.show(GraphMoment::of(span, {names.begin(), names.end()}, span.start));
+    mData.showMoment(GraphMoment::of(span, mOperands, span.start));
 }
 
 } // namespace ZARN

@@ -1,10 +1,13 @@
 #pragma once
 
+#include "analysis/Condition.h"
+#include "app/LatestTask.h"
 #include "project/Session.h"
 #include "ui/find/model/FindHits.h"
-#include "ui/find/model/FindSearch.h"
 
 #include <QTimer>
+
+#include <set>
 
 class QAction;
 class QStackedWidget;
@@ -47,7 +50,9 @@ private:
     FindBar* mpBar; ///< owned by the data area
     FindHits mHits;
     QTimer mDelay; ///< while the user types on
-    FindSearch mSearch;
+    std::set<std::string> mOperands; ///< of the condition that the hits are of
+    ConditionTimes mFound;           ///< by the task
+    LatestTask mSearch;
 };
 
 } // namespace ZARN

@@ -65,6 +65,8 @@ const std::vector<MainAction>& MainAction::all()
          QT_TRANSLATE_NOOP("ZARN::DialogMain", "Flights, engine hours, trends and services of the cards that were opened"), "", "flight"},
         {eActionNote, QT_TRANSLATE_NOOP("ZARN::DialogMain", "Note"), "M; Ctrl+M",
          QT_TRANSLATE_NOOP("ZARN::DialogMain", "Write a note about the moment that is shown"), "", "project-save-as"},
+        {eActionXy, QT_TRANSLATE_NOOP("ZARN::DialogMain", "X against Y"), "Ctrl+Shift+X",
+         QT_TRANSLATE_NOOP("ZARN::DialogMain", "One parameter over another, with their limits"), "", "xy"},
     };
     // clang-format on
     return actions;

@@ -30,7 +30,8 @@ enum EMainAction : int {
     eActionPreviousIncident = 23,
     eActionFind = 24,
     eActionLogbook = 25,
-    eActionNote = 26
+    eActionNote = 26,
+    eActionXy = 27
 };
 
 /// One command of the main window: texts to be translated, the shortcut, the name of its icon.

@@ -21,8 +21,9 @@ MainToolBar::MainToolBar(const std::function<QAction*(int id)>& action) : QToolB
     setMovable(false);
     addFolders(action(eActionOpenFolder));
     addSeparator();
-    for (const int id : {eActionOverview, eActionPreviousIncident, eActionNextIncident, eActionFind})
+    for (const int id : {eActionOverview, eActionPreviousIncident, eActionNextIncident})
         addAction(action(id));
+    addMore(action(eActionFind), {action(eActionXy)});
     addSeparator();
     addMore(action(eActionExportKml), {action(eActionExportGpx), action(eActionReport)});
     addAction(action(eActionExportCsv));
@@ -41,11 +42,11 @@ void MainToolBar::addFolders(QAction* pOpen)
     pButton->setPopupMode(QToolButton::MenuButtonPopup);
 }
 
-/// Behind the arrow of the one button: other files of the flight path.
-void MainToolBar::addMore(QAction* pPath, const QList<QAction*>& others)
+/// Behind the arrow of the one button: others of its kind.
+void MainToolBar::addMore(QAction* pFirst, const QList<QAction*>& others)
 {
-    addAction(pPath);
-    auto* pButton = qobject_cast<QToolButton*>(widgetForAction(pPath));
+    addAction(pFirst);
+    auto* pButton = qobject_cast<QToolButton*>(widgetForAction(pFirst));
     auto* pMenu = new QMenu(pButton);
     pMenu->addActions(others);
     pButton->setMenu(pMenu);

@@ -28,7 +28,7 @@ Q_SIGNALS:
 
 private:
     void addFolders(QAction* pOpen);
-    void addMore(QAction* pPath, const QList<QAction*>& others);
+    void addMore(QAction* pFirst, const QList<QAction*>& others);
     void addProfiles();
     void addUnits();
     QComboBox* addSelector(const char* name, const QString& toolTip, const QString& accessibleName);

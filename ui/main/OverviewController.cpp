@@ -102,7 +102,7 @@ void OverviewController::slotRecord()
 void OverviewController::show(const Incident& incident)
 {
     mPages.setCurrentWidget(&mData);
-    mData.show(GraphMoment::of(incident));
+    mData.showMoment(GraphMoment::of(incident));
 }
 
 /// The incidents of what is loaded, found when they are asked for.

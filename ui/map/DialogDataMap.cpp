@@ -55,6 +55,7 @@ void DialogDataMap::createMap(const QString& dataPath)
     mpConsent = new MapConsentBar(this);
     mpConsent->hide();
     connect(mpMap, &WidgetMap::signalUpdateMode, this, &DialogDataMap::slotUpdateMode);
+    connect(mpMap, &WidgetMap::signalMoment, this, &DialogDataMap::signalMoment);
     connect(mpMap, &WidgetMap::signalTime, this, [this](double time) {
         setTime(time); // whoever is told moves the other views only
         Q_EMIT signalTime(time);
@@ -267,6 +268,8 @@ void DialogDataMap::contextMenuEvent(QContextMenuEvent* pEvent)
     if (!mpMap)
         return;
     QMenu menu(this);
+    const std::optional<GraphMoment> moment = mpMap->interaction().momentAt(mpMap->mapFrom(this, pEvent->pos()));
+    menu.addAction(tr("Show in Graph"), this, [this, moment] { Q_EMIT signalMoment(*moment); })->setEnabled(moment.has_value());
     menu.addAction(tr("Show the whole flight"), mpMap, &WidgetMap::fitPath);
     const OpenStreet::TileServer& server = mpMap->map().tileServer();
     QAction* pTiles = menu.addAction(tr("Load map tiles from %1").arg(server.name()));

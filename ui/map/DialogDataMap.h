@@ -50,6 +50,8 @@ public Q_SLOTS:
 Q_SIGNALS:
     /// A time in seconds that was picked on the map.
     void signalTime(double time);
+    /// The user wants to see a place of the path in the graph.
+    void signalMoment(const GraphMoment& moment);
 
 protected:
     void resizeEvent(QResizeEvent* pEvent) override;

@@ -72,6 +72,7 @@ WidgetMap::WidgetMap(const Session& session, const QString& dataPath, MapContext
     });
     connect(&mInteraction, &MapInteraction::signalUpdateMode, this, &WidgetMap::signalUpdateMode);
     connect(&mInteraction, &MapInteraction::signalTime, this, &WidgetMap::signalTime);
+    connect(&mInteraction, &MapInteraction::signalMoment, this, &WidgetMap::signalMoment);
     mTimer.setInterval(kRedrawInterval);
     connect(&mTimer, &QTimer::timeout, this, &WidgetMap::slotTimeout);
     mTimer.start();

@@ -57,6 +57,7 @@ public:
 
     [[nodiscard]] MapScene& scene() { return mScene; }
     [[nodiscard]] const MapScene& scene() const { return mScene; }
+    [[nodiscard]] const MapInteraction& interaction() const { return mInteraction; }
     [[nodiscard]] MapNavigator& navigator() { return mNavigator; }
     [[nodiscard]] OpenStreet::OpenStreetMap& map() { return mMap; }
     [[nodiscard]] const OpenStreet::OpenStreetMap& map() const { return mMap; }
@@ -69,6 +70,8 @@ Q_SIGNALS:
     void signalUpdateMode();
     /// The user picked a place of the path; its time in seconds.
     void signalTime(double time);
+    /// He wants to see an event in the graph.
+    void signalMoment(const GraphMoment& moment);
 
 protected:
     /// What the surface asks for, with its context current.

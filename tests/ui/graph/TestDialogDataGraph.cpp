@@ -2,6 +2,7 @@
 #include "project/Project.h"
 #include "support/CardBuilder.h"
 #include "support/FileHelpers.h"
+#include "support/FullDisk.h"
 #include "support/Places.h"
 #include "support/ProfileBuilder.h"
 #include "support/TestCycle.h"
@@ -476,6 +477,8 @@ void TestDialogDataGraph::snapshots_data()
     QTest::newRow("svg") << "d.svg" << QByteArray("<?xml");
     QTest::newRow("pdf") << "e.pdf" << QByteArray("%PDF-");
     QTest::newRow("unknown") << "f.xyz" << QByteArray();
+    QTest::newRow("full disk") << "g.png" << QByteArray();
+    QTest::newRow("no such folder") << "none/h.pdf" << QByteArray();
 }
 
 void TestDialogDataGraph::snapshots()
@@ -485,8 +488,19 @@ void TestDialogDataGraph::snapshots()
     Shown shown;
     const QTemporaryDir folder;
     shown.dialog.answer = folder.filePath(name);
-    shown.click("snapshot");
+    const bool isFull = QByteArray(QTest::currentDataTag()) == "full disk";
+    if (isFull) {
+        putFile(folder.filePath(name).toStdString(), "old");
+        const FullDisk full(1000);
+        shown.click("snapshot");
+    } else {
+        shown.click("snapshot");
+    }
     QCOMPARE(shown.dialog.problems.size(), begin.isEmpty() ? 1 : 0);
+    if (isFull) {
+        QCOMPARE(fileContent(folder.filePath(name).toStdString()), "old");
+        return;
+    }
     const QString path = name.contains('.') ? folder.filePath(name) : folder.filePath(name + ".bmp");
     QCOMPARE(QFileInfo::exists(path), !begin.isEmpty());
     if (begin.isEmpty())

@@ -66,6 +66,8 @@ public:
 
     /// The part of the record that the user looks at, where a view has one.
     [[nodiscard]] virtual std::optional<TimeSpan> shownSpan() const { return {}; }
+    /// The part of the record that the user marked, where a view has one.
+    [[nodiscard]] virtual std::optional<TimeSpan> markedSpan() const { return {}; }
     /// Shows that part of the record, and the parameters of these names whether they are ticked or not.
     virtual void showSpan(const TimeSpan& /*span*/, const std::set<std::string>& /*parameters*/) {}
     /// Marks these parts of the record, in order of time, for a view that can.

@@ -294,7 +294,12 @@ void RecordGraph::showSpan(const TimeSpan& span, std::set<std::string> beside)
     mBeside = std::move(beside);
     describeSlots();
     fillRecord();
-    mModel.setWindow({span.start, span.end});
+    mModel.setWindow({span.end > 0 ? std::max(span.start, 0.0) : span.start, span.end}); // nothing is recorded before
+    // In a single graph the trace that stands out is the one whose bands are seen.
+    const auto isAsked = [this](int slot) { return mModel.traces().at(slot)->name.toStdString() == *mBeside.begin(); };
+    const auto asked = std::ranges::find_if(mModel.traces().shown(), isAsked);
+    if (mBeside.size() == 1 && asked != mModel.traces().shown().end() && mModel.traces().highlighted() != *asked)
+        mModel.traces().togglePin(*asked);
 }
 
 void RecordGraph::zoomAll()

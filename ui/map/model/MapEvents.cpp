@@ -27,7 +27,7 @@ void MapEvents::add(const EventList& list)
 {
     mAll.reserve(mAll.size() + list.events().size());
     for (const Event& event : list.events())
-        mAll.push_back({event.time, event.colour.isValid() ? event.colour : QColor(kNoColour), list.text(event), {}});
+        mAll.push_back({event.time, event.colour.isValid() ? event.colour : QColor(kNoColour), list.text(event), list.source(event).parameter, {}});
 }
 
 void MapEvents::setNotes(const std::vector<CycleNote>& notes)

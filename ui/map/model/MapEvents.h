@@ -16,6 +16,7 @@ struct MapEvent {
     double time = 0.0;
     QColor colour;
     std::string text;
+    std::string parameter; ///< whose samples made it
     OpenStreet::WorldPoint place; ///< relative to the path's origin
 };
 

@@ -143,7 +143,15 @@ QString MapInteraction::textAt(const QPointF& place) const
     return time ? CardContainer::time(*time) : text;
 }
 
-/// Told after the time in which a second click could make it a double click, which only zooms.
+std::optional<GraphMoment> MapInteraction::momentAt(const QPointF& place) const
+{
+    if (const auto events = eventsAt(place); !events.empty())
+        return GraphMoment::around(events.front()->time, {events.front()->parameter});
+    const std::optional<double> time = timeAt(place);
+    return time ? std::optional(GraphMoment::around(*time, {})) : std::nullopt;
+}
+
+/// Told after the time in which a second click could make it a double click, which zooms, or goes to the graph.
 void MapInteraction::pickTime(const QPointF& place)
 {
     const auto events = eventsAt(place);
@@ -158,6 +166,8 @@ void MapInteraction::doubleClicked(const QMouseEvent& event)
 {
     mDragFrom.reset();
     mClick.stop();
+    if (!eventsAt(event.position()).empty())
+        return Q_EMIT signalMoment(*momentAt(event.position()));
     mNavigator.setPointer(windowPoint(event.position()));
     mNavigator.doubleClick();
     Q_EMIT signalMoved();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/data/model/GraphMoment.h"
 #include "ui/map/model/MapNavigator.h"
 #include "ui/map/model/MapScene.h"
 
@@ -40,6 +41,8 @@ public:
 
     /// What is to be told of a place of the window: its events, else the time of the path there; empty for nothing.
     [[nodiscard]] QString textAt(const QPointF& place) const;
+    /// What the graph can show of a place of the window: its event, else the time of the path there; none elsewhere.
+    [[nodiscard]] std::optional<GraphMoment> momentAt(const QPointF& place) const;
 
 Q_SIGNALS:
     /// The view has been moved, or is about to.
@@ -48,6 +51,8 @@ Q_SIGNALS:
     void signalUpdateMode();
     /// The user picked a place of the path; its time in seconds.
     void signalTime(double time);
+    /// He wants to see an event in the graph.
+    void signalMoment(const GraphMoment& moment);
 
 private:
     struct Touch {

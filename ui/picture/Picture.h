@@ -6,23 +6,28 @@
 
 #include <functional>
 
+class QPrinter;
+
 namespace ZARN {
 
 class Canvas;
 
-/// Writes the graph's picture to a file: SVG and PDF as lines, every other format that the toolkit can write as pixels. The old file
-/// stays when anything fails.
-class GraphSnapshot {
+/// The picture of a drawn view, as pixels, and as a file: SVG and PDF as lines, every other format that the toolkit can write as pixels.
+/// The old file stays when anything fails.
+class Picture {
 public:
-    using Paint = std::function<void(Canvas& canvas, const QSize& size)>;
+    /// @param forPaper in the colours of paper, else as the view has them
+    using Paint = std::function<void(Canvas& canvas, const QSize& size, bool forPaper)>;
 
     /// @param ratio pixels of a pixel picture for each of the view's
-    GraphSnapshot(Paint paint, const QSize& size, double ratio) : mPaint(std::move(paint)), mSize(size), mRatio(ratio) {}
+    Picture(Paint paint, const QSize& size, double ratio) : mPaint(std::move(paint)), mSize(size), mRatio(ratio) {}
 
     /// @param path the suffix chooses the format; without one it is BMP. @return false with error() set
     bool save(const QString& path);
     [[nodiscard]] const QString& error() const { return mError; }
     [[nodiscard]] QImage image() const;
+    /// Fills the page. @return false when the printer takes nothing
+    bool print(QPrinter& printer) const;
 
 private:
     [[nodiscard]] QByteArray svg() const;

@@ -1,4 +1,4 @@
-#include "ui/graph/GraphSnapshot.h"
+#include "ui/picture/Picture.h"
 
 #include "app/SafeFile.h"
 #include "ui/canvas/RasterCanvas.h"
@@ -9,6 +9,7 @@
 #include <QImageWriter>
 #include <QPainter>
 #include <QPdfWriter>
+#include <QPrinter>
 #include <QSvgGenerator>
 
 namespace ZARN {
@@ -19,23 +20,23 @@ constexpr int kResolution = 96; // pixels of the view an inch, as browsers have 
 
 QString translated(const char* text)
 {
-    return QCoreApplication::translate("ZARN::GraphSnapshot", text);
+    return QCoreApplication::translate("ZARN::Picture", text);
 }
 
 } // namespace
 
-QImage GraphSnapshot::image() const
+QImage Picture::image() const
 {
     QImage image((QSizeF(mSize) * mRatio).toSize(), QImage::Format_RGB32);
     image.setDevicePixelRatio(mRatio);
     image.fill(Qt::white);
     QPainter painter(&image);
     RasterCanvas canvas(painter);
-    mPaint(canvas, mSize);
+    mPaint(canvas, mSize, false);
     return image;
 }
 
-QByteArray GraphSnapshot::svg() const
+QByteArray Picture::svg() const
 {
     QBuffer buffer;
     QSvgGenerator generator;
@@ -43,15 +44,15 @@ QByteArray GraphSnapshot::svg() const
     generator.setResolution(kResolution);
     generator.setSize(mSize);
     generator.setViewBox(QRect(QPoint(), mSize));
-    generator.setTitle(translated(QT_TRANSLATE_NOOP("ZARN::GraphSnapshot", "Graph")));
+    generator.setTitle(translated(QT_TRANSLATE_NOOP("ZARN::Picture", "Graph")));
     QPainter painter(&generator);
     RasterCanvas canvas(painter);
-    mPaint(canvas, mSize);
+    mPaint(canvas, mSize, false);
     painter.end();
     return buffer.data();
 }
 
-QByteArray GraphSnapshot::pdf() const
+QByteArray Picture::pdf() const
 {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
@@ -62,12 +63,25 @@ QByteArray GraphSnapshot::pdf() const
         writer.setPageSize(QPageSize(QSizeF(mSize) * 72.0 / kResolution, QPageSize::Point, QString(), QPageSize::ExactMatch));
         QPainter painter(&writer);
         RasterCanvas canvas(painter);
-        mPaint(canvas, mSize);
+        mPaint(canvas, mSize, true);
     }
     return buffer.data();
 }
 
-QByteArray GraphSnapshot::pixels(const QString& format)
+bool Picture::print(QPrinter& printer) const
+{
+    printer.setResolution(kResolution); // lines are as wide as a pixel, which would be a hair at that of the printer
+    QPainter painter;
+    if (!painter.begin(&printer))
+        return false;
+    const double scale = static_cast<double>(printer.resolution()) / kResolution;
+    painter.scale(scale, scale);
+    RasterCanvas canvas(painter);
+    mPaint(canvas, (QSizeF(printer.pageLayout().paintRectPixels(printer.resolution()).size()) / scale).toSize(), true);
+    return painter.end();
+}
+
+QByteArray Picture::pixels(const QString& format)
 {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
@@ -75,13 +89,13 @@ QByteArray GraphSnapshot::pixels(const QString& format)
     QImage picture = image();
     picture.setDevicePixelRatio(1.0);
     if (!writer.write(picture)) {
-        mError = translated(QT_TRANSLATE_NOOP("ZARN::GraphSnapshot", "Pictures of the format \"%1\" cannot be written")).arg(format);
+        mError = translated(QT_TRANSLATE_NOOP("ZARN::Picture", "Pictures of the format \"%1\" cannot be written")).arg(format);
         return {};
     }
     return buffer.data();
 }
 
-bool GraphSnapshot::save(const QString& path)
+bool Picture::save(const QString& path)
 {
     const QString suffix = QFileInfo(path).suffix().toLower();
     const QString format = suffix.isEmpty() ? QStringLiteral("bmp") : suffix;
