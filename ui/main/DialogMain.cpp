@@ -224,7 +224,7 @@ void DialogMain::connectPanels()
     connect(mpProjectController, &ProjectController::signalChanged, this, &DialogMain::slotProjectChanged);
     const auto tellWritten = [this](const QString& path) { statusBar()->showMessage(tr("Written: %1").arg(path), kMessageDuration); };
     connect(mpExportController, &ExportController::signalWritten, this, tellWritten);
-    connect(mpLogbook, &LogbookController::signalWritten, this, tellWritten); });
+    connect(mpLogbook, &LogbookController::signalWritten, this, tellWritten);
     connect(&mpPanels->welcome(), &WidgetWelcome::signalOpenFolder, action(eActionOpenFolder), &QAction::trigger);
     connect(&mpPanels->welcome(), &WidgetWelcome::signalOpenDemoCard, this,
             [this] { mpCardController->openDemoCard(QString::fromStdString(mEnvironment.folders.dataPath())); });
