@@ -75,9 +75,15 @@ std::string filesOf(const CardFacts& card)
         const auto cycle = std::ranges::find(card.heads, card.cycleOfFile[i], &CycleHead::id);
         if (cycle != card.heads.end())
             text += storeText(file.name) + "\t" + std::to_string(file.size) + "\t" + cycle->id + "\t" + cycle->engine.id + "\t" +
-                    std::to_string(cycle->number) + "\t" + storeDate(cycle->dateTime) + "\n";
+                    std::to_string(cycle->number) + "\t" + storeDate(cycle->dateTime) + "\t" +
+                    QByteArray::number(file.mtime, 'g', 17).toStdString() + "\n";
     }
     return text;
+}
+
+QDateTime dateOf(const QString& text)
+{
+    return QDateTime::fromString(text, Qt::ISODate);
 }
 
 /// A problem a line: the file, a tab and the reason.
@@ -197,25 +203,31 @@ void ParquetDataset::forgetFiles(const CycleHead& cycle, const QDateTime& month)
     }
 }
 
-/// A cycle one of whose files has grown since, and belongs to another one of that engine and number now, was the beginning of that: a card
-/// that was read while it was copied.
+/// A cycle one of whose files now belongs to another one was the beginning of that: a card that was read while it was copied. The file is the
+/// same, or has grown, and then engine, number and date tell that the recording is the same.
 void ParquetDataset::forgetBeginnings(const CardFacts& card, const std::string& before) const
 {
     const std::vector<ListedFile>& files = card.listing.files;
     for (const QString& line : QString::fromStdString(before).split('\n', Qt::SkipEmptyParts)) {
         const QStringList fields = line.split('\t');
-        if (fields.size() != 6)
+        if (fields.size() != 7)
             continue;
         CycleHead old;
         old.id = fields[2].toStdString();
         old.engine.id = fields[3].toStdString();
         old.number = fields[4].toUInt();
-        const bool isThere = std::ranges::find(card.cycleOfFile, old.id) != card.cycleOfFile.end();
-        for (std::size_t i = 0; i < files.size() && !isThere; ++i) {
+        old.dateTime = dateOf(fields[5]);
+        if (std::ranges::find(card.cycleOfFile, old.id) != card.cycleOfFile.end())
+            continue;
+        for (std::size_t i = 0; i < files.size(); ++i) {
             const auto now = std::ranges::find(card.heads, card.cycleOfFile[i], &CycleHead::id);
-            if (storeText(files[i].name) == fields[0].toStdString() && files[i].size > fields[1].toLongLong() && now != card.heads.end() &&
-                now->engine.id == old.engine.id && now->number == old.number)
-                forgetFiles(old, QDateTime::fromString(fields[5], Qt::ISODate));
+            if (now == card.heads.end() || storeText(files[i].name) != fields[0].toStdString())
+                continue;
+            const bool isSame = files[i].size == fields[1].toLongLong() && files[i].mtime == fields[6].toDouble();
+            const bool isGrown = files[i].size > fields[1].toLongLong() && now->engine.id == old.engine.id && now->number == old.number &&
+                                 (!old.dateTime.isValid() || storeDate(now->dateTime) == fields[5].toStdString());
+            if (isSame || isGrown)
+                forgetFiles(old, old.dateTime);
         }
     }
 }

@@ -16,6 +16,7 @@
 #include <QVBoxLayout>
 
 #include <cmath>
+#include <utility>
 
 namespace ZARN {
 
@@ -113,7 +114,8 @@ void DialogLogbook::fillEngines(const std::vector<LogbookEngine>& engines)
         mpEngine->addItem(tr("All engines"), QString());
         for (const LogbookEngine& engine : engines)
             mpEngine->addItem(LogbookTexts::engine(engine.id, engine.aircraft), QString::fromStdString(engine.id));
-        mpEngine->setCurrentIndex(std::max(mpEngine->findData(chosen), 0));
+        const int before = std::max(mpEngine->findData(chosen), 0);
+        mpEngine->setCurrentIndex(before == 0 && engines.size() == 1 ? 1 : before); // the only one there is
     }
     mpEngines->setEngines(engines);
     if (mpEngine->currentData() != chosen)
@@ -146,7 +148,10 @@ void DialogLogbook::tell(const QString& problem)
 void DialogLogbook::showEvent(QShowEvent* pEvent)
 {
     QDialog::showEvent(pEvent);
-    mpEmpty->setVisible(!QFileInfo::exists(mWorker.path()));
+    const bool isThere = QFileInfo::exists(mWorker.path());
+    mpEmpty->setVisible(!isThere);
+    if (isThere && !std::exchange(mIsShown, true)) // others may have opened the store before
+        reload();
     mWorker.look();
     mLook.start(kLookPeriod);
 }

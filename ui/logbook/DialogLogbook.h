@@ -57,6 +57,7 @@ private:
     LogbookEngines* mpEngines;
     LogbookNotes* mpNotes;
     QTimer mLook;
+    bool mIsShown = false; ///< was seen once
 };
 
 } // namespace ZARN

@@ -61,6 +61,9 @@ LogbookFlights::LogbookFlights(LogbookWorker& worker, QWidget* pParent)
     pLayout->addWidget(mpTable, 1);
     pLayout->addWidget(mpTotals);
     mTyping.setSingleShot(true);
+    mTyping.setInterval(kTypingPause);
+    for (const QDateEdit* pDate : {mpFrom, mpUntil})
+        connect(pDate, &QDateEdit::dateChanged, &mTyping, qOverload<>(&QTimer::start));
     connect(&mTyping, &QTimer::timeout, this, &LogbookFlights::takeFilter);
     connect(&mModel, &LogbookModel::signalSelected, this, &LogbookFlights::slotSelected);
 }
@@ -75,7 +78,6 @@ QDateEdit* LogbookFlights::createDate(const QString& name)
     pDate->setCalendarPopup(true);
     pDate->setAccessibleName(name);
     WheelGuard::install(*pDate);
-    connect(pDate, &QDateEdit::dateChanged, &mTyping, qOverload<>(&QTimer::start));
     return pDate;
 }
 
@@ -90,7 +92,7 @@ QWidget* LogbookFlights::createFilter()
     mpText->setPlaceholderText(tr("Text in aircraft, card, notes or incidents"));
     mpText->setAccessibleName(tr("Text"));
     mpText->setClearButtonEnabled(true);
-    connect(mpText, &QLineEdit::textChanged, this, [this] { mTyping.start(kTypingPause); });
+    connect(mpText, &QLineEdit::textChanged, this, [this] { mTyping.start(); });
     auto* pFilter = new QWidget;
     auto* pRow = new QHBoxLayout(pFilter);
     pRow->setContentsMargins(0, 0, 0, 0);
@@ -118,8 +120,8 @@ void LogbookFlights::createTable()
     mpTable->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed); // nothing is measured, whatever the number of rows
     QHeaderView* pHeader = mpTable->horizontalHeader();
     const int letter = fontMetrics().horizontalAdvance('x');
-    for (const auto& [column, letters] : {std::pair(LogbookModel::eDate, 22), {LogbookModel::eEngine, 26}, {LogbookModel::eFlightTime, 11},
-                                          {LogbookModel::eFuel, 11}, {LogbookModel::eClimb, 12}, {LogbookModel::eVerdict, 14}, {LogbookModel::eCard, 32}})
+    for (const auto& [column, letters] : {std::pair(LogbookModel::eDate, 19), {LogbookModel::eEngine, 23}, {LogbookModel::eFlightTime, 13},
+                                          {LogbookModel::eFuel, 12}, {LogbookModel::eClimb, 13}, {LogbookModel::eVerdict, 14}, {LogbookModel::eCard, 24}})
         pHeader->resizeSection(column, letters * letter);
     pHeader->setStretchLastSection(true);
     pHeader->setHighlightSections(false);

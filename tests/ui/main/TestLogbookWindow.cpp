@@ -50,8 +50,7 @@ void TestLogbookWindow::logbook()
 
     // Asked once, and nothing is kept before the answer.
     auto* pBar = window.findChild<LogbookBar*>();
-    QTRY_VERIFY(pBar->isVisible());
-    QVERIFY(!QFile::exists(store));
+    QTRY_VERIFY(pBar->isVisible() && !QFile::exists(store));
     pBar->findChild<QPushButton*>()->click();
     QVERIFY(!pBar->isVisible());
     window.action(eActionLogbook)->trigger();
@@ -99,11 +98,8 @@ void TestLogbookWindow::logbook()
     QTRY_VERIFY_WITH_TIMEOUT(remarks() && remarks()->text().contains("50:00: Rough <running>"), 60000);
     QTRY_COMPARE(pLogbook->findChild<LogbookNotes*>()->notes().size(), 1u);
 
-    // What another program writes is seen: a service that is due stands in the window and in the overview.
-    {
-        LogbookEditor other(store.toStdString());
-        QVERIFY(other.saveService({0, "DEMO-000001", "Oil <change>", 0.5, {}, {}, {}, {}}));
-    }
+    // What another program writes is seen: a service that is due stands in the overview.
+    QVERIFY(LogbookEditor(store.toStdString()).saveService({0, "DEMO-000001", "Oil <change>", 0.5, {}, {}, {}, {}}));
     QTRY_VERIFY_WITH_TIMEOUT(pOverview->findChild<QLabel*>("services")->text().startsWith("Overdue: Oil <change>, "), 10000);
 
     // A store that is damaged or replaced is said; one that is sound again is shown.
