@@ -20,8 +20,8 @@ constexpr int kColumnsPercent = 5; // of the whole work, to order the columns' s
 class CsvRows {
 public:
     CsvRows(std::vector<CsvColumn>& columns, const CsvExportOptions& options, SafeFile& file, const ProgressSpan& progress)
-        : mColumns(columns), mResolution(options.resolution), mSeparator(options.separator), mSpan(options.span), mFile(file),
-          mProgress(progress), mWindow(windowTicks(columns.size())), mCells(columns.size() * mWindow.marked.size()),
+        : mColumns(columns), mResolution(options.resolution), mSeparator(options.separator), mTimes(options.times), mSpan(options.span),
+          mFile(file), mProgress(progress), mWindow(windowTicks(columns.size())), mCells(columns.size() * mWindow.marked.size()),
           mLines(std::max(kLinesSize, kTimeTextSize + (columns.size() + 1) * sizeof(CsvCell)))
     {
     }
@@ -124,7 +124,10 @@ private:
 
     char* writeTime(char* pOut, uint32_t tick) const
     {
-        pOut = writeElapsed(pOut, uint64_t{tick} * mResolution, 3, 1);
+        const int64_t time = mTimes.toldMilliseconds(int64_t{tick} * mResolution);
+        if (time < 0)
+            *pOut++ = '-';
+        pOut = writeElapsed(pOut, static_cast<uint64_t>(std::abs(time)), 3, 1);
         *pOut++ = mSeparator;
         return pOut;
     }
@@ -151,6 +154,7 @@ private:
     std::vector<CsvColumn>& mColumns;
     uint32_t mResolution;
     char mSeparator;
+    TimeReference mTimes;
     std::optional<TimeSpan> mSpan;
     SafeFile& mFile;
     const ProgressSpan& mProgress;
@@ -178,7 +182,7 @@ bool ExportCsv::writeFile(SafeFile& file, const RecordData& recordData, const Cs
         mError = file.error();
     if (!mError.empty())
         return false;
-    std::string header = "Time";
+    std::string header = options.times.heading();
     const TraceSet traces(&recordData, mContext, ENumber::eText, options.allParameters ? TraceSet::all() : TraceSet::selected(mSelection));
     std::vector<CsvColumn> columns;
     if (!makeColumns(traces, options, ProgressSpan(progress, 0, kColumnsPercent), columns, header))

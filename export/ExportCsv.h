@@ -3,6 +3,7 @@
 #include "analysis/TimeSpan.h"
 #include "app/Progress.h"
 #include "app/Settings.h"
+#include "project/TimeReference.h"
 #include "trace/TraceSet.h"
 
 #include <QString>
@@ -23,6 +24,7 @@ struct CsvExportOptions {
     bool allParameters = Settings::kCsvAllParameter.fallback;           ///< false: only those selected in the project
     uint32_t resolution = Settings::kCsvResolution.fallback;            ///< milliseconds a row: 100 or 10
     std::optional<TimeSpan> span = {}; ///< only rows in it, with the values that held before; none: the whole
+    TimeReference times = {};          ///< what the first column tells
 };
 
 /// Writes the decoded data of the loaded cycle as a table of separated values: one row per time step that has a sample, one

@@ -171,6 +171,7 @@ private Q_SLOTS:
     void equalsNaiveTable();
     void widthsAndTextsBeyondTheBuffers_data();
     void widthsAndTextsBeyondTheBuffers();
+    void tellsOtherTimes();
 };
 
 void TestExportCsv::equalsNaiveTable_data()
@@ -230,6 +231,19 @@ void TestExportCsv::widthsAndTextsBeyondTheBuffers()
         file.addWord(static_cast<uint32_t>(i * 7 % 50), i * 0.1 + (i > 100 ? 100 : 0), static_cast<uint32_t>(i / 3 % 8), 5);
     file.fill(data);
     compareLines(csv.run(data), NaiveCsv(csv.cycle.profile, data, csv.options).text());
+}
+
+void TestExportCsv::tellsOtherTimes()
+{
+    Export csv;
+    QVERIFY(ProfileBuilder().device("D").parameter("a", 1, "UCHAR").load(csv.cycle.profile));
+    RecordData data;
+    RecordFileBuilder().addWord(1, 5, 0, 4).addWord(1, 15, 0, 4).fill(data);
+    csv.options.times = {ETimeReference::eClock, 86390};
+    QVERIFY(csv.run(data).starts_with("Clock;a\n23:59:55.000;0\n0:00:05.000;"));
+    csv.options.times = {ETimeReference::eTakeOff, -10};
+    QVERIFY(csv.run(data).starts_with("Time since take-off;a\n-0:00:05.000;0\n0:00:05.000;"));
+    QCOMPARE(csv.options.times.text(5000) + TimeReference(ETimeReference::eClock, 1).text(-2000), "-00:00:05.00023:59:59.000");
 }
 
 QTEST_APPLESS_MAIN(TestExportCsv)

@@ -1,18 +1,26 @@
 #include "ui/graph/DialogDataGraph.h"
 
+#include "card/CardContainer.h"
+#include "profile/Profile.h"
 #include "ui/graph/DialogGraphSetup.h"
+#include "ui/graph/GhostMenu.h"
 #include "ui/graph/GraphButtons.h"
 #include "ui/graph/GraphSnapshot.h"
+#include "ui/graph/TraceMenu.h"
 #include "ui/graph/WidgetGraphES.h"
 #include "ui/graph/model/MarkerValues.h"
 #include "ui/graph/model/TraceColours.h"
 
 #include <QClipboard>
+#include <QColorDialog>
 #include <QFileDialog>
 #include <QGuiApplication>
 #include <QMenu>
 #include <QMessageBox>
 #include <QVBoxLayout>
+
+#include <cmath>
+#include <utility>
 
 namespace ZARN {
 
@@ -29,7 +37,7 @@ GraphSnapshot snapshotOf(const WidgetGraphBase& graph)
 } // namespace
 
 DialogDataGraph::DialogDataGraph(const Session& session, QWidget* pParent)
-    : QWidget(pParent), mpButtons(new GraphButtons), mpGraph(new WidgetGraphES), mRecord(session, mpGraph->model()),
+    : QWidget(pParent), mSession(session), mpButtons(new GraphButtons), mpGraph(new WidgetGraphES), mRecord(session, mpGraph->model()),
       mCommands(mpGraph->model(), mRecord)
 {
     auto* pLayout = new QVBoxLayout(this);
@@ -56,6 +64,13 @@ void DialogDataGraph::connectGraph()
         Q_EMIT signalLayout();
     });
     connect(mpGraph, &WidgetGraphES::signalMenu, this, &DialogDataGraph::slotMenu);
+    connect(&mpGraph->model(), &GraphModel::signalIncident, this, &DialogDataGraph::slotIncident);
+    connect(&mCourse, &CourseFinder::signalFound, this,
+            [this](const std::shared_ptr<const CycleCourse>& pCourse) { mpGraph->model().scenery().setCourse(pCourse); });
+    connect(&mGhosts, &GhostLoader::signalLoaded, this,
+            [this](const std::shared_ptr<const GhostCycle>& pCycle, int flight) { mRecord.setGhost(pCycle, flight); });
+    connect(&mGhosts, &GhostLoader::signalFailed, this,
+            [this](const QString& reason) { showProblem(tr("The cycle to compare with could not be read.\n%1").arg(reason)); });
     connect(mpButtons, &GraphButtons::signalHeld, this, [this] { mHeldTimer.start(kHeldInterval); });
     connect(mpButtons, &GraphButtons::signalCommand, this, &DialogDataGraph::slotCommand);
     connect(&mHeldTimer, &QTimer::timeout, this, &DialogDataGraph::slotHeldZoom);
@@ -84,17 +99,43 @@ void DialogDataGraph::updateSetup()
 void DialogDataGraph::updateRecord(RecordData* pRecord)
 {
     mRecord.updateRecord(pRecord);
+    findCourse();
 }
 
 void DialogDataGraph::updateFlights(RecordData* pRecord)
 {
     mRecord.updateFlights(pRecord);
+    findCourse();
 }
 
 void DialogDataGraph::update(RecordData* pRecord)
 {
     mRecord.update(pRecord);
     updateSetup();
+    findCourse();
+}
+
+void DialogDataGraph::findCourse()
+{
+    // That of the same record stays until it is found anew.
+    if (std::exchange(mpCourseOf, mSession.container.record().get()) != mSession.container.record().get() || !mRecord.hasRecord())
+        mpGraph->model().scenery().setCourse(nullptr);
+    if (mRecord.hasRecord())
+        mCourse.start(mSession.container.loaded());
+    else
+        mCourse.stop();
+}
+
+void DialogDataGraph::slotIncident(std::size_t incident)
+{
+    const std::shared_ptr<const CycleCourse> pCourse = mpGraph->model().scenery().course();
+    if (!pCourse || incident >= pCourse->incidents.size())
+        return;
+    const CycleCourse::Mark& mark = pCourse->incidents[incident];
+    showSpan(spanAround(mark.span), mark.parameters);
+    const double time = std::nextafter(mark.time, HUGE_VAL); // at a sample's own time the views still tell the one before it
+    mRecord.showTime(time);
+    Q_EMIT signalTime(time);
 }
 
 void DialogDataGraph::setZarnMode(int mode)
@@ -213,7 +254,7 @@ void DialogDataGraph::snapshot()
 void DialogDataGraph::copyValues()
 {
     const GraphModel& model = mpGraph->model();
-    QGuiApplication::clipboard()->setText(markerText(model.traces(), model.marker()));
+    QGuiApplication::clipboard()->setText(markerText(model.traces(), model.marker(), model.settings().times));
 }
 
 void DialogDataGraph::copyPicture()
@@ -221,15 +262,73 @@ void DialogDataGraph::copyPicture()
     QGuiApplication::clipboard()->setImage(snapshotOf(*mpGraph).image());
 }
 
+void DialogDataGraph::addTraceMenu(QMenu& menu)
+{
+    ShownTraces& traces = mpGraph->model().traces();
+    const int slot = traces.highlighted();
+    if (slot < 0)
+        return;
+    auto* pTrace = new TraceMenu(*traces.at(slot), &menu);
+    const auto setStroke = [this, &traces, slot](const TraceStroke& stroke) {
+        traces.edit(slot, [&stroke](GraphParameter& trace) { trace.stroke = stroke; });
+        slotSetupChanged();
+    };
+    connect(pTrace, &TraceMenu::signalColour, this, [this, &traces, slot] {
+        if (const QColor colour = askColour(traces.at(slot)->drawnColour); colour.isValid())
+            traces.setColour(slot, colour);
+        slotSetupChanged();
+    });
+    connect(pTrace, &TraceMenu::signalStroke, this, setStroke);
+    connect(pTrace, &TraceMenu::signalDefault, this, [setStroke, &traces, slot] {
+        traces.setColour(slot, QColor());
+        setStroke({});
+    });
+    menu.addMenu(pTrace);
+    menu.addSeparator();
+}
+
+void DialogDataGraph::addTimeMenu(QMenu& menu)
+{
+    QMenu* pTimes = menu.addMenu(tr("Times"));
+    for (const ETimeReference kind : {ETimeReference::ePowerUp, ETimeReference::eClock, ETimeReference::eTakeOff}) {
+        QAction* pAction = pTimes->addAction(TimeReference::name(kind), this, [this, kind] {
+            mRecord.setTimes(kind);
+            Q_EMIT signalSettings();
+        });
+        pAction->setCheckable(true);
+        pAction->setChecked(kind == mpGraph->model().settings().times.kind());
+    }
+}
+
+void DialogDataGraph::addGhostMenu(QMenu& menu)
+{
+    if (!mRecord.hasRecord())
+        return;
+    // Its actions ask further questions: it stays until the next one.
+    delete mpGhostMenu;
+    mpGhostMenu = new GhostMenu(mSession, mRecord, this);
+    connect(mpGhostMenu, &GhostMenu::signalWish, this,
+            [this](const GhostLoader::Wish& wish) { mGhosts.start(wish, mSession.profile.context()); });
+    menu.addMenu(mpGhostMenu);
+}
+
+QColor DialogDataGraph::askColour(const QColor& present)
+{
+    return QColorDialog::getColor(present, this);
+}
+
 void DialogDataGraph::slotMenu(const QPoint& point)
 {
     QMenu menu(this);
+    addTraceMenu(menu);
     QAction* pCopy = menu.addAction(tr("Copy Values"), this, &DialogDataGraph::copyValues);
     pCopy->setEnabled(mpGraph->model().marker().isRange() && mRecord.hasSamples());
     menu.addAction(tr("Copy Picture"), this, &DialogDataGraph::copyPicture);
     menu.addAction(tr("Snapshot..."), this, &DialogDataGraph::snapshot);
     menu.addAction(tr("Flight Report..."), this, &DialogDataGraph::signalReport)->setEnabled(mRecord.hasRecord());
     menu.addSeparator();
+    addTimeMenu(menu);
+    addGhostMenu(menu);
     QAction* pMarker = menu.addAction(tr("Zoom Marker"), this, [this] { slotCommand(eZoomMarker); });
     pMarker->setEnabled(mpGraph->model().marker().isRange());
     menu.addAction(tr("Zoom 1:1"), this, [this] { slotCommand(eZoomAll); })->setEnabled(mRecord.hasRecord());

@@ -1,16 +1,20 @@
 #pragma once
 
 #include "ui/data/model/DataView.h"
+#include "ui/graph/model/CourseFinder.h"
+#include "ui/graph/model/GhostLoader.h"
 #include "ui/graph/model/GraphCommands.h"
 
 #include <QTimer>
 #include <QWidget>
 
+class QMenu;
 class WidgetGraphES;
 
 namespace ZARN {
 
 class DialogGraphSetup;
+class GhostMenu;
 class GraphButtons;
 
 /// The graph tab: the graph of the loaded record with a row of command buttons, its menu and its setup window. Its cursor is the view time.
@@ -43,6 +47,8 @@ Q_SIGNALS:
     void signalReport();
     /// The user changed how the traces are shown.
     void signalLayout();
+    /// Settings that other views have as well are others.
+    void signalSettings();
 
 protected:
     /// The keys are for the graph. No focus proxy: Tab would pass the buttons, which stand before it.
@@ -50,27 +56,40 @@ protected:
     /// Asks where to save the snapshot; empty when the user gave up.
     virtual QString askSnapshotFile();
     virtual void showProblem(const QString& text);
+    /// Asks for a colour; invalid when the user gave up.
+    virtual QColor askColour(const QColor& present);
 
 private:
     void slotManMode();
     void slotSetupChanged();
     void slotCommand(int command);
     void slotHeldZoom();
+    void slotIncident(std::size_t incident);
     void slotMenu(const QPoint& point);
 
     void connectGraph();
+    /// What is chosen for the trace that stands out: the one whose line of the legend is under the pointer.
+    void addTraceMenu(QMenu& menu);
+    void addTimeMenu(QMenu& menu);
+    void addGhostMenu(QMenu& menu);
     void updateSetup();
+    void findCourse();
     void showSetup();
     void snapshot();
     void copyValues();
     void copyPicture();
 
+    const Session mSession;
     GraphButtons* mpButtons;
     WidgetGraphES* mpGraph;
     RecordGraph mRecord;
     GraphCommands mCommands;
     DialogGraphSetup* mpSetup = nullptr;
     QTimer mHeldTimer;
+    const RecordData* mpCourseOf = nullptr;
+    GhostMenu* mpGhostMenu = nullptr;
+    GhostLoader mGhosts;
+    CourseFinder mCourse; // the last: it waits for what it finds
 };
 
 } // namespace ZARN

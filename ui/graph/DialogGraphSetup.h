@@ -50,6 +50,8 @@ private:
     void slotYmin(const QString& text);
     void slotYmax(const QString& text);
     void slotClickMovesCursor(int state);
+    void slotPalette(int palette);
+    void slotGapsOn(int state);
     void slotTraceColor();
     void slotTraceDefault();
     void slotClose();
@@ -65,6 +67,8 @@ private:
 
     GraphData& mData;
     std::vector<TraceColour> mTraces;
+    QComboBox* mpPalette = nullptr;
+    QCheckBox* mpGaps = nullptr;
     QPushButton* mpBackground = nullptr;
     QPushButton* mpGridColour = nullptr;
     QPushButton* mpLabel = nullptr;

@@ -308,7 +308,7 @@ void TestGraphScene::cursorTellsValues()
     QCOMPARE(std::ranges::count_if(texts, isLabel), traces + 1);
     QVERIFY(time >= 0 || model.traces().valueAt(0, time) == 1300.0); // of the first sample
 
-    model.traces().setHeight(0, 3.0);
+    model.traces().edit(0, [](GraphParameter& trace) { trace.height = 3.0; });
     const GraphFrame higher = frameOf(model, size);
     QVERIFY(std::abs(higher.layout().area(0).height() - 3 * higher.layout().area(1).height()) <= 3); // of pixels that are rounded
     QCOMPARE(higher.layout().area(traces - 1).bottom(), higher.layout().plot().bottom());
@@ -336,7 +336,7 @@ void TestGraphScene::narrowMarkerTable()
 void TestGraphScene::messageIsBroken()
 {
     GraphModel model;
-    model.setMessage("Es ist kein Parameter gewählt.\nIm Profilfeld die gewünschten Parameter ankreuzen.");
+    model.scenery().setMessage("Es ist kein Parameter gewählt.\nIm Profilfeld die gewünschten Parameter ankreuzen.");
     QStringList said;
     for (const auto& [box, text] : textsOf(model, frameOf(model, QSizeF(300, 400)))) {
         if (!text.contains(QRegularExpression("[a-z]{3}")))
@@ -345,7 +345,7 @@ void TestGraphScene::messageIsBroken()
         said << text;
     }
     QVERIFY(said.size() > 2);
-    QCOMPARE(said.join(' '), QString(model.message()).replace('\n', ' '));
+    QCOMPARE(said.join(' '), QString(model.scenery().message()).replace('\n', ' '));
 }
 
 void TestGraphScene::denseLines()

@@ -15,6 +15,8 @@ private:
     void drawBands(Canvas& canvas) const;
     void drawBand(Canvas& canvas, int index, const ValueSpan& values, const QColor& colour) const;
     void drawTimeAxis(Canvas& canvas) const;
+    /// What the times are counted from, where that is not the power-up. @return the pixel from which ticks may have labels
+    double drawTimeTitle(Canvas& canvas) const;
     void drawValueAxis(Canvas& canvas, int index) const;
     void drawAxisName(Canvas& canvas, const GraphParameter& trace) const;
     void drawGrid(Canvas& canvas, std::span<const QPointF> fine, std::span<const QPointF> major) const;

@@ -72,8 +72,9 @@ private:
     QPointF mPointer;
     double mPointerTime = 0.0;
     Pan mPan;
-    int mDragged = -1; // parameter whose strip is dragged
-    std::optional<QPointF> mClick; // where the button went down, as long as it may still become a click
+    int mDragged = -1;                // parameter whose strip is dragged
+    std::optional<QPointF> mClick;    // where the button went down, as long as it may still become a click
+    std::optional<double> mGhostDrag; // the ghost's shift less the time under the pointer
     bool mMarkerDrag = false;
     double mMarkerFixed = 0.0; // the end that is not dragged
     bool mCursorDrag = false;

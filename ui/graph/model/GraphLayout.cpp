@@ -13,6 +13,7 @@ namespace {
 
 constexpr double kGap = 6.0;
 constexpr double kHandleRoom = 22.0;
+constexpr double kLinesForBand = 16; // lower views have none
 constexpr double kSmallestPlot = 60.0;
 constexpr double kTablePart = 0.38; // of the view's height at most
 constexpr double kLegendPart = 0.4; // the same for the legend
@@ -42,8 +43,10 @@ int longestNumber(const GraphModel& model)
     for (const int index : model.traces().shown()) {
         const GraphParameter& parameter = *model.traces().at(index);
         const ValueRange<double>& values = parameter.samples.extremes();
+        if (parameter.pStates)
+            longest = std::max<qsizetype>(longest, std::min(parameter.pStates->longest(), GraphLayout::kLongestState));
         for (const double value : {values.least, values.greatest}) {
-            if (!values.isEmpty())
+            if (!values.isEmpty() && !parameter.pStates)
                 longest = std::max(longest, graphNumber(value, parameter.precision).size());
         }
     }
@@ -63,9 +66,11 @@ double partOfStrip(const GraphModel& model, int index)
 
 GraphLayout::GraphLayout(const GraphModel& model, const QSizeF& size, double textSize)
     : mSize(size), mTextSize(textSize), mLine(canvasTextSize(QStringLiteral("0"), textSize, true).height() + 2),
-      mCharacter(canvasAdvance(textSize)), mNameLength(longestName(model)), mNumberLength(longestNumber(model)), mXmin(model.window().begin())
+      mCharacter(canvasAdvance(textSize)), mNameLength(longestName(model)), mNumberLength(longestNumber(model)),
+      mXmin(model.window().begin())
 {
-    const double top = mLine + kGap, table = tableHeight(model, size.height());
+    const bool hasBand = model.scenery().course() && size.height() > kLinesForBand * mLine;
+    const double band = hasBand ? mLine + 1 : 0.0, top = mLine + kGap + band, table = tableHeight(model, size.height());
     if (table > 0)
         mTable = QRectF(kGap, size.height() - table, std::max(0.0, size.width() - 2 * kGap), table - kGap);
     placeLegend(model, size.width());
@@ -76,6 +81,8 @@ GraphLayout::GraphLayout(const GraphModel& model, const QSizeF& size, double tex
     const double height = std::max(kSmallestPlot, std::floor(bottom - top));
     const double left = std::ceil((model.settings().displayMode == eSplit ? kHandleRoom : kGap) + axisWidth(model, height) + kGap);
     mPlot = QRectF(left, top, std::max(kSmallestPlot, std::floor(right - left)), height);
+    if (hasBand)
+        mBand = QRectF(mPlot.left(), 3, mPlot.width(), mLine);
     if (!mIsBelow)
         mLegendRect.setRect(mLegendRect.left(), mPlot.top(), mLegendRect.width(), mPlot.height());
     const double width = model.window().width();
@@ -162,6 +169,8 @@ double GraphLayout::axisWidth(const GraphModel& model, double height) const
 {
     qsizetype longest = 4;
     const auto measure = [&](int index, double length) {
+        if (isStateStrip(model, index))
+            return;
         const ValueSpan range = model.valueSpan(index);
         const AxisTicks ticks(range[0], range[1], length, valueSpacing(length, mLine));
         for (const AxisTick& tick : ticks.ticks()) {
@@ -220,8 +229,9 @@ QRectF GraphLayout::overlayLine(const GraphModel& model, std::size_t row) const
 QString GraphLayout::overlayText(const GraphModel& model, int index) const
 {
     const GraphParameter& parameter = *model.traces().at(index);
-    const std::optional<double> value = model.settings().displayMode == eSplit ? std::nullopt : model.traces().valueAt(index, model.cursor().time);
-    const QString number = value ? QLatin1Char(' ') + graphNumber(*value, parameter.precision) : QString();
+    const std::optional<double> value =
+        model.settings().displayMode == eSplit ? std::nullopt : model.traces().valueAt(index, model.cursor().time);
+    const QString number = value ? QLatin1Char(' ') + parameter.text(*value) : QString();
     const auto room = static_cast<int>((mPlot.width() - kSwatch - 12) / mCharacter) - static_cast<int>(number.size());
     return shortened(parameter.label(), std::clamp(room, kFewestOfName, kLongestLabel)) + number;
 }

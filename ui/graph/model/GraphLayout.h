@@ -21,6 +21,7 @@ public:
 
     [[nodiscard]] QRectF view() const { return {QPointF(), mSize}; }
     [[nodiscard]] const QRectF& plot() const { return mPlot; }
+    [[nodiscard]] const QRectF& band() const { return mBand; }         ///< of the cycle's phases above the plot; empty without one
     [[nodiscard]] const QRectF& legend() const { return mLegendRect; } ///< right of the plot or below it; empty without one
     [[nodiscard]] const QRectF& table() const { return mTable; }       ///< of the marker's values below the plot; empty without one
     [[nodiscard]] ELegend legendKind() const { return mLegend; }
@@ -58,6 +59,7 @@ public:
     static constexpr double kSwatch = 10.0;        ///< of a trace's colour, before its name
     static constexpr double kHandleReach = 1500.0; ///< squared distance within which a handle is hit
     static constexpr int kLongestName = 24;
+    static constexpr int kLongestState = 13; ///< of the name of a state in a column of numbers
     static constexpr int kLongestLabel = 40; ///< of a name with its unit over the plot
 
 private:
@@ -70,6 +72,7 @@ private:
 
     QSizeF mSize;
     QRectF mPlot;
+    QRectF mBand;
     std::vector<QRectF> mStrips; // by slot; empty in a single graph
     double mStripHeight = 0.0;   // of the lowest, before it is rounded to pixels
     QRectF mLegendRect;
@@ -83,6 +86,13 @@ private:
 };
 
 // In sight of those that call it for each vertex.
+/// Whether a trace has a strip of states, which has their names in it and no values at its axis.
+[[nodiscard]] inline bool isStateStrip(const GraphModel& model, int index)
+{
+    const GraphParameter* pTrace = model.traces().at(index);
+    return pTrace && pTrace->pStates && model.settings().displayMode == eSplit;
+}
+
 inline double GraphLayout::yOf(double value, const QRectF& area, const ValueSpan& span)
 {
     constexpr double kFar = 1e6; // pixels: beyond every view, and small enough for every canvas

@@ -24,7 +24,8 @@ GraphData plainSettings()
 } // namespace
 
 GraphModel::GraphModel(QObject* pParent)
-    : QObject(pParent), mSettings(plainSettings()), mColours(mSettings), mTraces([this] { Q_EMIT signalRepaint(); })
+    : QObject(pParent), mSettings(plainSettings()), mColours(mSettings), mScenery([this] { Q_EMIT signalRepaint(); }),
+      mTraces([this] { Q_EMIT signalRepaint(); })
 {
     mTraces.setCount(kFirstTraces);
 }
@@ -32,7 +33,7 @@ GraphModel::GraphModel(QObject* pParent)
 void GraphModel::settingsChanged()
 {
     mColours = GraphColours(mSettings);
-    mTraces.setGround(mColours.background);
+    mTraces.setGround(mColours.background, mSettings.palette);
 }
 
 void GraphModel::setWindow(const TimeWindow& window)
@@ -102,16 +103,17 @@ void GraphModel::addTopMarker(const TopMarker& marker)
     Q_EMIT signalRepaint();
 }
 
-void GraphModel::setMessage(const QString& text)
-{
-    mMessage = text;
-    Q_EMIT signalRepaint();
-}
-
 ValueSpan GraphModel::valueSpan(int index) const
 {
     const GraphParameter* pTrace = mTraces.at(index);
-    return pTrace ? mSettings.scale.spanOf(pTrace->samples.extremes()) : mSettings.scale.shared();
+    if (!pTrace)
+        return mSettings.scale.shared();
+    ValueRange<double> values = pTrace->samples.extremes();
+    if (pTrace->pStates)
+        values.add(pTrace->pStates->range()); // off is below and on is above, even where only one of them was recorded
+    if (const GraphParameter* pGhost = mScenery.ghost() ? mScenery.ghost()->traces.at(index) : nullptr)
+        values.add(pGhost->samples.extremes());
+    return mSettings.scale.spanOf(values);
 }
 
 void GraphModel::setTime(double seconds)

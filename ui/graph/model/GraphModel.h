@@ -2,6 +2,7 @@
 
 #include "ui/graph/model/GraphCursor.h"
 #include "ui/graph/model/GraphMarker.h"
+#include "ui/graph/model/GraphScenery.h"
 #include "ui/graph/model/ShownTraces.h"
 #include "ui/graph/model/TimeWindow.h"
 
@@ -43,9 +44,8 @@ public:
     void setMarker(const GraphMarker& marker);
     [[nodiscard]] const std::vector<TopMarker>& topMarkers() const { return mTopMarkers; }
     void addTopMarker(const TopMarker& marker);
-    /// What stands in an empty graph.
-    [[nodiscard]] const QString& message() const { return mMessage; }
-    void setMessage(const QString& text);
+    [[nodiscard]] const GraphScenery& scenery() const { return mScenery; }
+    [[nodiscard]] GraphScenery& scenery() { return mScenery; }
 
     [[nodiscard]] const ShownTraces& traces() const { return mTraces; }
     [[nodiscard]] ShownTraces& traces() { return mTraces; }
@@ -74,6 +74,8 @@ Q_SIGNALS:
     void signalMarker(float start, float end);
     void signalManMode();
     void signalMoveParameter(int from, int to);
+    /// The user wants to see an incident of the course.
+    void signalIncident(std::size_t incident);
 
 private:
     GraphData mSettings;
@@ -82,7 +84,7 @@ private:
     GraphCursor mCursor;
     GraphMarker mMarker;
     std::vector<TopMarker> mTopMarkers;
-    QString mMessage;
+    GraphScenery mScenery;
     ShownTraces mTraces;
     double mTime = 0.0;
     bool mDataPresent = false;

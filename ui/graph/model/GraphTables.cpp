@@ -1,5 +1,6 @@
 #include "ui/graph/model/GraphTables.h"
 
+#include "ui/canvas/ColourContrast.h"
 #include "ui/graph/model/GraphTexts.h"
 #include "ui/graph/model/MarkerValues.h"
 
@@ -16,7 +17,7 @@ namespace ZARN {
 namespace {
 
 constexpr double kSwatch = GraphLayout::kSwatch;
-constexpr QColor kHighlight(255, 255, 255, 110);
+constexpr QColor kHighlight(255, 255, 255, 110), kDarkHighlight(255, 255, 255, 45);
 
 QString translated(const char* text)
 {
@@ -62,18 +63,28 @@ CanvasText GraphTables::style(bool isBold) const
     return {mLayout.textSize(), mModel.colours().label, isBold, Qt::AlignLeft | Qt::AlignTop, false};
 }
 
+QColor GraphTables::highlight() const
+{
+    return textColourOn(mModel.colours().labelBackground) == Qt::black ? kHighlight : kDarkHighlight;
+}
+
 QStringList GraphTables::legendNumbers(int index) const
 {
     const GraphParameter& trace = *mModel.traces().at(index);
     std::vector<std::optional<double>> values{mModel.traces().valueAt(index, mModel.cursor().time)};
-    if (mLayout.legendKind() == GraphLayout::ELegend::eFull) {
+    const Ghost* pGhost = mModel.scenery().ghost().get();
+    if (pGhost && mLayout.legendKind() == GraphLayout::ELegend::eFull) {
+        values.push_back(ghostValue(*pGhost, index, mModel.cursor().time, mModel.scenery().ghostShift()));
+        const bool isDifferent = values[0] && values[1] && !trace.pStates;
+        values.push_back(isDifferent ? std::optional(*values[0] - *values[1]) : std::nullopt);
+    } else if (mLayout.legendKind() == GraphLayout::ELegend::eFull) {
         const ValueRange<double> range = windowRange(mModel, trace.samples);
         for (const double value : {range.least, range.greatest})
             values.push_back(range.isEmpty() ? std::nullopt : std::optional(value));
     }
     QStringList texts;
     for (const std::optional<double>& value : values)
-        texts << (value ? graphNumber(*value, trace.precision) : QStringLiteral("-"));
+        texts << (value ? GraphLayout::shortened(trace.text(*value), GraphLayout::kLongestState) : QStringLiteral("-"));
     return texts;
 }
 
@@ -117,7 +128,11 @@ void GraphTables::drawLegend(Canvas& canvas) const
 void GraphTables::drawLegendHeader(Canvas& canvas) const
 {
     QStringList texts{translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "Cursor"))};
-    if (mLayout.legendKind() == GraphLayout::ELegend::eFull)
+    const Ghost* pGhost = mModel.scenery().ghost().get();
+    if (pGhost && mLayout.legendKind() == GraphLayout::ELegend::eFull)
+        texts << GraphLayout::shortened(pGhost->name, mLayout.numberLength())
+              << GraphLayout::shortened(translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "Difference")), mLayout.numberLength());
+    else if (mLayout.legendKind() == GraphLayout::ELegend::eFull)
         texts << translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "Min")) << translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "Max"));
     // Strips have their lines at their own heights, so the header stands above the first.
     const bool isSplit = mModel.settings().displayMode == eSplit;
@@ -139,7 +154,7 @@ void GraphTables::drawLegendLine(Canvas& canvas, const QRectF& line, int index, 
     const double x = line.left() + kSwatch + 6;
     if (layer == ELayer::eAreas) {
         if (index == mModel.traces().highlighted())
-            canvas.fillRect(line, kHighlight);
+            canvas.fillRect(line, highlight());
         canvas.fillRect(QRectF(line.left() + 2, line.top() + 3, kSwatch, line.height() - 6), parameter.drawnColour);
     } else if (layer == ELayer::eNames) {
         canvas.text(QPointF(x, line.top()), GraphLayout::shortened(parameter.name, mLayout.nameLength()), style(true));
@@ -166,7 +181,7 @@ void GraphTables::drawOverlay(Canvas& canvas, const CursorLabels& cursor) const
         const GraphParameter& parameter = *mModel.traces().at(index);
         canvas.fillRect(line, box);
         if (index == mModel.traces().highlighted())
-            canvas.fillRect(line, kHighlight);
+            canvas.fillRect(line, highlight());
         canvas.fillRect(QRectF(line.left() + 2, line.top() + 3, kSwatch, line.height() - 6), parameter.drawnColour);
         canvas.text(line.topLeft() + QPointF(kSwatch + 5, 0), mLayout.overlayText(mModel, index), style(true));
     }

@@ -27,6 +27,7 @@ private:
     void drawMarkerTable(Canvas& canvas) const;
     void drawRow(Canvas& canvas, double y, const QStringList& cells, const std::vector<int>& widths) const;
     [[nodiscard]] CanvasText style(bool isBold) const;
+    [[nodiscard]] QColor highlight() const; ///< of the line of the trace that stands out
 
     const GraphModel& mModel;
     const GraphLayout& mLayout;

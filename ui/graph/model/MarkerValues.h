@@ -1,5 +1,6 @@
 #pragma once
 
+#include "project/TimeReference.h"
 #include "ui/graph/model/GraphMarker.h"
 #include "ui/graph/model/ShownTraces.h"
 
@@ -35,6 +36,6 @@ struct MarkerValues {
 [[nodiscard]] QString integralUnit(const QString& unit);
 
 /// A table for the clipboard: two lines that name the stretch, the headers, and a line for each trace; cells apart by tabulators.
-[[nodiscard]] QString markerText(const ShownTraces& traces, const GraphMarker& marker);
+[[nodiscard]] QString markerText(const ShownTraces& traces, const GraphMarker& marker, const TimeReference& times = {});
 
 } // namespace ZARN

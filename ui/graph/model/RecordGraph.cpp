@@ -1,6 +1,7 @@
 #include "ui/graph/model/RecordGraph.h"
 
 #include "app/Property.h"
+#include "app/Settings.h"
 #include "card/CardContainer.h"
 #include "profile/Profile.h"
 #include "trace/TraceSet.h"
@@ -44,14 +45,39 @@ void RecordGraph::describeSlots()
     ShownTraces& traces = mModel.traces();
     const int used = forEachTrace(nullptr, [&](int slot, const Trace& trace) {
         describeSlot(traces, slot, trace);
-        traces.setHeight(slot, heightOf(trace.name()));
+        traces.edit(slot, [&](GraphParameter& parameter) {
+            const double height = heightOf(trace.name());
+            parameter.height = height == 1.0 && parameter.pStates ? parameter.pStates->height() : height;
+        });
     });
     for (int slot = used; slot < kSlots; ++slot)
         traces.setActive(slot, false);
     std::vector<int> inUse(static_cast<std::size_t>(used));
     std::iota(inUse.begin(), inUse.end(), 0);
     traces.setOrder(mStrips.slotsFor(names(inUse)));
+    const std::vector<int> numbers = mColours.assign(names(inUse));
+    for (std::size_t slot = 0; slot < numbers.size(); ++slot)
+        traces.setColourNumber(static_cast<int>(slot), numbers[slot]);
     updateSettings();
+}
+
+void RecordGraph::updateSettings()
+{
+    mSettings.load(mModel);
+    updateTimes();
+}
+
+void RecordGraph::setTimes(ETimeReference kind)
+{
+    Settings::kTimeReference.set(mSession.property, static_cast<int>(kind));
+    mSession.property.writeXmlFile();
+    updateTimes();
+}
+
+void RecordGraph::updateTimes()
+{
+    mModel.settings().times = TimeReference::of(mSession.property, mSession.container);
+    mModel.settingsChanged();
 }
 
 void RecordGraph::updateProfile()
@@ -138,9 +164,52 @@ void RecordGraph::fillRecord()
     mModel.clear();
     if (mpRecord)
         forEachTrace(mpRecord, [this](int slot, const Trace& trace) { fillSlot(mModel, slot, trace); });
+    fillGhost();
     // Filling moves the window of the automatic mode along.
     mModel.setWindow(window);
-    mModel.setMessage(emptyMessage());
+    mModel.scenery().setMessage(emptyMessage());
+}
+
+void RecordGraph::fillGhost()
+{
+    if (!mpGhost || !mpRecord)
+        return mModel.scenery().setGhost(nullptr);
+    auto pGhost = std::make_shared<Ghost>();
+    pGhost->name = mpGhost->name;
+    pGhost->traces.setCount(kSlots);
+    forEachTrace(mpGhost->loaded.pRecord.get(), [&](int slot, const Trace& trace) {
+        describeSlot(pGhost->traces, slot, trace);
+        fillSlot(pGhost->traces, slot, trace);
+    });
+    mModel.scenery().setGhost(std::move(pGhost));
+}
+
+void RecordGraph::setGhost(std::shared_ptr<const GhostCycle> pGhost, int flight)
+{
+    mpGhost = std::move(pGhost);
+    mModel.scenery().setGhostShift(0.0);
+    fillGhost();
+    if (mpGhost && !alignTakeOff(flight))
+        alignEngineStart();
+}
+
+bool RecordGraph::alignTakeOff(int flight)
+{
+    const RecordCycle* pCycle = mSession.container.loadedCycle();
+    const auto place = static_cast<std::size_t>(std::max(flight, 1) - 1);
+    if (!mpGhost || !pCycle || pCycle->flights.empty() || place >= mpGhost->takeOffs.size())
+        return false;
+    const RecordFlight& own = mSession.container.selectedFlightNumber() > 0 ? mSession.container.selectedFlight() : pCycle->flights.front();
+    mModel.scenery().setGhostShift(own.takeOffTime - mpGhost->takeOffs[place]);
+    return true;
+}
+
+bool RecordGraph::alignEngineStart()
+{
+    const std::optional<double> own = mpGhost && mpGhost->engineStart ? firstEngineStart(mSession.container.loaded()) : std::nullopt;
+    if (own)
+        mModel.scenery().setGhostShift(*own - *mpGhost->engineStart);
+    return own.has_value();
 }
 
 QString RecordGraph::emptyMessage() const
@@ -163,6 +232,7 @@ void RecordGraph::updateRecord(RecordData* pRecord)
     const RecordKey key = pRecord ? recordKey() : mMarkedRecord;
     mKeepsWindow = mpRecord && mpRecord == pRecord && key == mMarkedRecord && span() == mSpan;
     mpRecord = pRecord;
+    updateTimes();
     if (!mBeside.empty() && (!pRecord || !(key == mMarkedRecord))) {
         mBeside.clear();
         describeSlots();
@@ -180,6 +250,7 @@ void RecordGraph::updateRecord(RecordData* pRecord)
 
 void RecordGraph::updateFlights(RecordData* pRecord)
 {
+    updateTimes();
     if (span() == mSpan)
         mKeepsWindow = true; // the traces are the same
     else
@@ -212,7 +283,7 @@ void RecordGraph::showTime(double time)
 void RecordGraph::setZarnMode(int mode)
 {
     mZarnMode = mode;
-    mModel.setMessage(emptyMessage());
+    mModel.scenery().setMessage(emptyMessage());
 }
 
 bool RecordGraph::hasSamples() const
@@ -265,9 +336,10 @@ void RecordGraph::clear()
     mModel.clear();
     if (!mpRecord || mModel.traces().count() == 0)
         return;
-    mModel.setMessage(mZarnMode != 0 ? tr("The graph was cleared.")
-                                     : tr("The graph was cleared.\nTick a parameter in the profile panel, or choose another power cycle or "
-                                          "flight, to fill it again."));
+    mModel.scenery().setMessage(mZarnMode != 0
+                                    ? tr("The graph was cleared.")
+                                    : tr("The graph was cleared.\nTick a parameter in the profile panel, or choose another power cycle or "
+                                         "flight, to fill it again."));
 }
 
 } // namespace ZARN

@@ -3,9 +3,11 @@
 #include "analysis/TimeSpan.h"
 #include "project/DisplayLayout.h"
 #include "project/Session.h"
+#include "ui/graph/model/GhostCycle.h"
 #include "ui/graph/model/GraphModel.h"
 #include "ui/graph/model/GraphSettings.h"
 #include "ui/graph/model/StripOrder.h"
+#include "ui/graph/model/TraceColours.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -33,7 +35,9 @@ public:
     void updateFlights(RecordData* pRecord);
     /// Both in one pass over the record.
     void update(RecordData* pRecord);
-    void updateSettings() { mSettings.load(mModel); }
+    void updateSettings();
+    /// How times are told from now on, here and in every other view.
+    void setTimes(ETimeReference kind);
     void storeSettings() { mSettings.store(mModel); }
     /// The common view time has changed.
     void setTime(double time);
@@ -45,6 +49,14 @@ public:
     void setLayout(const DisplayLayout& layout);
     /// What is ticked, and how it is shown; without a name.
     [[nodiscard]] DisplayLayout layout() const;
+
+    /// Another cycle behind the traces; null for none. Laid on this one by their take-offs, of the ghost's flight of that number (from 1,
+    /// 0: the first), else by the starts of their engines.
+    void setGhost(std::shared_ptr<const GhostCycle> pGhost, int flight);
+    [[nodiscard]] const std::shared_ptr<const GhostCycle>& ghost() const { return mpGhost; }
+    /// @return false where one of the two has no such moment
+    bool alignTakeOff(int flight);
+    bool alignEngineStart();
 
     [[nodiscard]] bool hasRecord() const { return mpRecord != nullptr; }
     [[nodiscard]] bool hasSamples() const;
@@ -76,15 +88,19 @@ private:
     [[nodiscard]] RecordKey recordKey() const;
     [[nodiscard]] QString emptyMessage() const;
     [[nodiscard]] double heightOf(const std::string& name) const;
+    void updateTimes();
     void describeSlots();
     void fillRecord();
+    void fillGhost();
 
     const Session mSession;
     GraphModel& mModel;
     GraphSettings mSettings;
     StripOrder mStrips;
+    ColourNumbers mColours;
     std::map<std::string, double> mHeights; ///< of strips, by the name of the parameter; of those that differ
-    std::set<std::string> mBeside; ///< names of parameters that are shown without being ticked
+    std::set<std::string> mBeside;          ///< names of parameters that are shown without being ticked
+    std::shared_ptr<const GhostCycle> mpGhost;
     RecordData* mpRecord = nullptr;
     RecordKey mMarkedRecord;
     TimeSpan mSpan{};

@@ -19,12 +19,12 @@ void ShownTraces::setCount(int count)
     mTraces.resize(static_cast<std::size_t>(std::clamp(count, 0, kMostTraces)));
     mOrder.clear();
     for (std::size_t i = 0; i < mTraces.size(); ++i) {
-        mTraces[i].colour = standardTraceColour(i);
+        mTraces[i].colourNumber = static_cast<int>(i);
         mOrder.push_back(static_cast<int>(i));
     }
     ++mGeneration;
     updateShown();
-    setGround(mGround);
+    setGround(mGround, mPalette);
 }
 
 const GraphParameter* ShownTraces::at(int index) const
@@ -92,17 +92,10 @@ void ShownTraces::setPrecision(int index, int digits)
     changed();
 }
 
-void ShownTraces::setHeight(int index, double strips)
+void ShownTraces::edit(int index, const std::function<void(GraphParameter&)>& change)
 {
     if (GraphParameter* pTrace = slot(index))
-        pTrace->height = strips;
-    changed();
-}
-
-void ShownTraces::setSamplesVisible(int index, bool on)
-{
-    if (GraphParameter* pTrace = slot(index))
-        pTrace->samplesVisible = on;
+        change(*pTrace);
     changed();
 }
 
@@ -113,22 +106,40 @@ void ShownTraces::setBands(int index, std::vector<GraphBand> bands)
     changed();
 }
 
+void ShownTraces::colour(GraphParameter& trace) const
+{
+    if (!trace.hasOwnColour)
+        trace.colour = standardTraceColour(mPalette, trace.colourNumber);
+    trace.drawnColour = drawnTraceColour(trace, mGround);
+}
+
 void ShownTraces::setColour(int index, const QColor& colour)
 {
     GraphParameter* pTrace = slot(index);
     if (!pTrace)
         return;
     pTrace->hasOwnColour = colour.isValid();
-    pTrace->colour = colour.isValid() ? colour : standardTraceColour(static_cast<std::size_t>(index));
-    pTrace->drawnColour = drawnTraceColour(*pTrace, mGround);
+    pTrace->colour = colour;
+    this->colour(*pTrace);
     changed();
 }
 
-void ShownTraces::setGround(const QColor& colour)
+void ShownTraces::setColourNumber(int index, int number)
+{
+    GraphParameter* pTrace = slot(index);
+    if (!pTrace)
+        return;
+    pTrace->colourNumber = std::max(number, 0);
+    colour(*pTrace);
+    changed();
+}
+
+void ShownTraces::setGround(const QColor& colour, EGraphPalette palette)
 {
     mGround = colour;
+    mPalette = palette;
     for (GraphParameter& trace : mTraces)
-        trace.drawnColour = drawnTraceColour(trace, mGround);
+        this->colour(trace);
     changed();
 }
 
@@ -185,8 +196,10 @@ void ShownTraces::append(int index, std::span<const double> times, std::span<con
 
 void ShownTraces::clearSamples()
 {
-    for (GraphParameter& trace : mTraces)
+    for (GraphParameter& trace : mTraces) {
         trace.samples.clear();
+        trace.breaks.clear();
+    }
     ++mGeneration;
     changed();
 }
