@@ -218,7 +218,7 @@ void TestGraphModel::interruptedAndStepped()
     traces.append(0, times, values);
     traces.edit(0, [](GraphParameter& trace) { trace.breaks = {500}; });
     for (const auto& [columns, window, gaps] : {std::tuple(1000, TimeWindow(90000, 91100), 2), {20, TimeWindow(90000, 91100), 1},
-                                                {1000, TimeWindow(90300, 90500), 0}, {1000, TimeWindow(90520, 90530), 0}}) {
+                                                {1000, TimeWindow(90300, 90499), 0}, {1000, TimeWindow(90520, 90530), 1}}) {
         FrameCache cache;
         cache.update(traces, window, columns);
         QVERIFY(std::ranges::none_of(cache.vertices(0), [](const QPointF& vertex) { return std::isnan(vertex.y()); }));

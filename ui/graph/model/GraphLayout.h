@@ -59,7 +59,7 @@ public:
     static constexpr double kSwatch = 10.0;        ///< of a trace's colour, before its name
     static constexpr double kHandleReach = 1500.0; ///< squared distance within which a handle is hit
     static constexpr int kLongestName = 24;
-    static constexpr int kLongestState = 13; ///< of the name of a state in a column of numbers
+    static constexpr int kLongestState = 10; ///< of the name of a state in a column of numbers
     static constexpr int kLongestLabel = 40; ///< of a name with its unit over the plot
 
 private:

@@ -11,7 +11,7 @@ namespace ZARN {
 namespace {
 
 constexpr double kFewStates = 3;
-constexpr double kLowStrip = 0.25, kStrip = 0.4;
+constexpr double kLowStrip = 0.3, kStrip = 0.4;
 
 bool isPlainInteger(const ProfileParameter& parameter)
 {
