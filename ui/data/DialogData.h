@@ -76,6 +76,8 @@ Q_SIGNALS:
     void signalReport();
     /// The user changed how the graph shows what is ticked.
     void signalLayout();
+    /// The user took back, or did again, what changed the ticks: those of the layout are wanted.
+    void signalTicks(const DisplayLayout& layout);
 
 private:
     void createTabs();

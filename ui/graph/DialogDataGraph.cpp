@@ -15,6 +15,7 @@
 #include <QColorDialog>
 #include <QFileDialog>
 #include <QGuiApplication>
+#include <QLabel>
 #include <QMenu>
 #include <QMessageBox>
 #include <QVBoxLayout>
@@ -38,14 +39,23 @@ GraphSnapshot snapshotOf(const WidgetGraphBase& graph)
 
 DialogDataGraph::DialogDataGraph(const Session& session, QWidget* pParent)
     : QWidget(pParent), mSession(session), mpButtons(new GraphButtons), mpGraph(new WidgetGraphES), mRecord(session, mpGraph->model()),
-      mCommands(mpGraph->model(), mRecord)
+      mCommands(mpGraph->model(), mRecord), mHistory([this] { return mRecord.view(); },
+                                                     [this](const GraphView& from, const GraphView& to) { showView(from, to); }),
+      mpUnshown(new QLabel)
 {
     auto* pLayout = new QVBoxLayout(this);
     pLayout->setContentsMargins(0, 0, 0, 0);
     pLayout->setSpacing(0);
     pLayout->addWidget(mpButtons);
+    mpUnshown->setObjectName("unshown");
+    mpUnshown->setTextFormat(Qt::PlainText);
+    mpUnshown->setWordWrap(true);
+    mpUnshown->setMargin(4);
+    pLayout->addWidget(mpUnshown);
     pLayout->addWidget(mpGraph, 1);
     connectGraph();
+    connectHistory();
+    showUnshown();
     slotManMode();
 }
 
@@ -59,26 +69,56 @@ void DialogDataGraph::connectGraph()
     connect(mpGraph, &WidgetGraphES::signalCursor, this, &DialogDataGraph::signalCursor);
     connect(mpGraph, &WidgetGraphES::signalCursor, this, [this] { Q_EMIT signalTime(mpGraph->model().cursor().time); });
     connect(mpGraph, &WidgetGraphES::signalManMode, this, &DialogDataGraph::slotManMode);
-    connect(mpGraph, &WidgetGraphES::signalMoveParameter, this, [this] {
+    const auto keepStrips = [this] {
         mRecord.keepStrips();
         Q_EMIT signalLayout();
-    });
+    };
+    connect(mpGraph, &WidgetGraphES::signalMoveParameter, this, keepStrips);
+    connect(&mpGraph->model(), &GraphModel::signalStrips, this, keepStrips);
+    connect(&mpGraph->model(), &GraphModel::signalCommand, this, &DialogDataGraph::slotCommand);
     connect(mpGraph, &WidgetGraphES::signalMenu, this, &DialogDataGraph::slotMenu);
     connect(&mpGraph->model(), &GraphModel::signalIncident, this, &DialogDataGraph::slotIncident);
     connect(&mCourse, &CourseFinder::signalFound, this,
             [this](const std::shared_ptr<const CycleCourse>& pCourse) { mpGraph->model().scenery().setCourse(pCourse); });
     connect(&mGhosts, &GhostLoader::signalLoaded, this,
-            [this](const std::shared_ptr<const GhostCycle>& pCycle, int flight) { mRecord.setGhost(pCycle, flight); });
+            [this](const std::shared_ptr<const GhostCycle>& pCycle, int flight) { mRecord.ghost().set(pCycle, flight); });
     connect(&mGhosts, &GhostLoader::signalFailed, this,
             [this](const QString& reason) { showProblem(tr("The cycle to compare with could not be read.\n%1").arg(reason)); });
-    connect(mpButtons, &GraphButtons::signalHeld, this, [this] { mHeldTimer.start(kHeldInterval); });
+    connect(mpButtons, &GraphButtons::signalHeld, this, [this] {
+        mHistory.begin();
+        mHeldTimer.start(kHeldInterval);
+    });
     connect(mpButtons, &GraphButtons::signalCommand, this, &DialogDataGraph::slotCommand);
     connect(&mHeldTimer, &QTimer::timeout, this, &DialogDataGraph::slotHeldZoom);
+}
+
+void DialogDataGraph::connectHistory()
+{
+    connect(mpGraph, &WidgetGraphES::signalHand, &mHistory, &GraphHistory::begin);
+    // Scales, too, belong to the layout.
+    connect(&mHistory, &GraphHistory::signalStep, this, &DialogDataGraph::signalLayout);
+}
+
+void DialogDataGraph::showView(const GraphView& from, const GraphView& to)
+{
+    if (mRecord.showView(from, to))
+        Q_EMIT signalTicks(to.layout);
+    updateSetup();
+    slotManMode();
+    Q_EMIT signalLayout();
+}
+
+void DialogDataGraph::showUnshown()
+{
+    const QStringList& names = mRecord.unshown();
+    mpUnshown->setVisible(!names.isEmpty());
+    mpUnshown->setText(tr("The graph has room for %1 parameters. Not shown: %2").arg(RecordGraph::kSlots).arg(names.join(QLatin1String(", "))));
 }
 
 void DialogDataGraph::updateProfile()
 {
     mRecord.updateProfile();
+    showUnshown();
     updateSetup();
 }
 
@@ -98,19 +138,23 @@ void DialogDataGraph::updateSetup()
 
 void DialogDataGraph::updateRecord(RecordData* pRecord)
 {
-    mRecord.updateRecord(pRecord);
+    if (!mRecord.updateRecord(pRecord))
+        mHistory.clear();
     findCourse();
 }
 
 void DialogDataGraph::updateFlights(RecordData* pRecord)
 {
-    mRecord.updateFlights(pRecord);
+    if (!mRecord.updateFlights(pRecord))
+        mHistory.clear();
     findCourse();
 }
 
 void DialogDataGraph::update(RecordData* pRecord)
 {
-    mRecord.update(pRecord);
+    if (!mRecord.update(pRecord))
+        mHistory.clear();
+    showUnshown();
     updateSetup();
     findCourse();
 }
@@ -145,12 +189,15 @@ void DialogDataGraph::setZarnMode(int mode)
 
 void DialogDataGraph::showSpan(const TimeSpan& span, const std::set<std::string>& parameters)
 {
+    mHistory.begin();
     mRecord.showSpan(span, parameters);
+    showUnshown();
     updateSetup();
 }
 
 void DialogDataGraph::setLayout(const DisplayLayout& layout)
 {
+    mHistory.begin();
     mRecord.setLayout(layout);
     updateSetup();
     slotManMode();
@@ -191,12 +238,18 @@ void DialogDataGraph::slotSetupChanged()
 
 void DialogDataGraph::slotCommand(int command)
 {
-    if (command == eSetup)
+    if (command == eUndo)
+        return mHistory.undo();
+    if (command == eRedo)
+        return mHistory.redo();
+    if (command == eSetup) {
         showSetup();
-    else if (command == eSnapshot)
+    } else if (command == eSnapshot) {
         snapshot();
-    else
-        mCommands.run(static_cast<EGraphCommand>(command), mpButtons->isChecked(static_cast<EGraphCommand>(command)));
+    } else {
+        mHistory.begin();
+        mCommands.run(static_cast<EGraphCommand>(command), command <= eSnapshot && mpButtons->isChecked(static_cast<EGraphCommand>(command)));
+    }
     slotManMode();
     Q_EMIT signalLayout();
 }
@@ -213,6 +266,7 @@ void DialogDataGraph::showSetup()
         mpSetup = new DialogGraphSetup(this, graphData());
         connect(mpSetup, &DialogGraphSetup::signalTraceColour, this,
                 [this](int slot, const QColor& colour) { mpGraph->model().traces().setColour(slot, colour); });
+        connect(mpSetup, &DialogGraphSetup::signalChanging, &mHistory, &GraphHistory::begin);
         connect(mpSetup, &DialogGraphSetup::signalChanged, this, &DialogDataGraph::slotSetupChanged);
     }
     updateSetup();
@@ -254,7 +308,7 @@ void DialogDataGraph::snapshot()
 void DialogDataGraph::copyValues()
 {
     const GraphModel& model = mpGraph->model();
-    QGuiApplication::clipboard()->setText(markerText(model.traces(), model.marker(), model.settings().times));
+    QGuiApplication::clipboard()->setText(markerText(model.traces(), model.marker(), model.settings().times, &model.scenery()));
 }
 
 void DialogDataGraph::copyPicture()
@@ -317,6 +371,29 @@ QColor DialogDataGraph::askColour(const QColor& present)
     return QColorDialog::getColor(present, this);
 }
 
+void DialogDataGraph::addViewActions(QMenu& menu)
+{
+    mHistory.end();
+    const auto add = [&](const QString& text, const char* keys, EGraphCommand command, bool isEnabled) {
+        QAction* pAction = menu.addAction(text, this, [this, command] { slotCommand(command); });
+        pAction->setShortcut(QKeySequence(QLatin1String(keys)));
+        pAction->setEnabled(isEnabled);
+        return pAction;
+    };
+    const GraphModel& model = mpGraph->model();
+    add(tr("Undo"), "Ctrl+Z", eUndo, mHistory.canUndo());
+    add(tr("Redo"), "Ctrl+Shift+Z", eRedo, mHistory.canRedo());
+    menu.addSeparator();
+    add(tr("Zoom Marker"), "Return", eZoomMarker, model.marker().isRange());
+    add(tr("Zoom 1:1"), "Ctrl+1", eZoomAll, mRecord.hasRecord());
+    menu.addSeparator();
+    add(tr("Fit Scales to What Is Visible"), "Ctrl+0", eFitValues, mRecord.hasSamples());
+    add(tr("Scales of the Whole Record"), "", eWholeValues, !model.settings().scale.zoomed.empty());
+    QAction* pShared = add(tr("One Scale for Each Unit"), "Ctrl+U", eSharedScale, true);
+    pShared->setCheckable(true);
+    pShared->setChecked(model.settings().scale.isShared);
+}
+
 void DialogDataGraph::slotMenu(const QPoint& point)
 {
     QMenu menu(this);
@@ -329,9 +406,7 @@ void DialogDataGraph::slotMenu(const QPoint& point)
     menu.addSeparator();
     addTimeMenu(menu);
     addGhostMenu(menu);
-    QAction* pMarker = menu.addAction(tr("Zoom Marker"), this, [this] { slotCommand(eZoomMarker); });
-    pMarker->setEnabled(mpGraph->model().marker().isRange());
-    menu.addAction(tr("Zoom 1:1"), this, [this] { slotCommand(eZoomAll); })->setEnabled(mRecord.hasRecord());
+    addViewActions(menu);
     menu.addSeparator();
     menu.addAction(tr("Setup..."), this, &DialogDataGraph::showSetup);
     menu.exec(point);

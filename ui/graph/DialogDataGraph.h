@@ -8,6 +8,7 @@
 #include <QTimer>
 #include <QWidget>
 
+class QLabel;
 class QMenu;
 class WidgetGraphES;
 
@@ -49,6 +50,8 @@ Q_SIGNALS:
     void signalLayout();
     /// Settings that other views have as well are others.
     void signalSettings();
+    /// The user took back, or did again, what changed the ticks: those of the layout are wanted.
+    void signalTicks(const DisplayLayout& layout);
 
 protected:
     /// The keys are for the graph. No focus proxy: Tab would pass the buttons, which stand before it.
@@ -66,8 +69,12 @@ private:
     void slotHeldZoom();
     void slotIncident(std::size_t incident);
     void slotMenu(const QPoint& point);
+    void addViewActions(QMenu& menu);
 
     void connectGraph();
+    void connectHistory();
+    void showView(const GraphView& from, const GraphView& to);
+    void showUnshown();
     /// What is chosen for the trace that stands out: the one whose line of the legend is under the pointer.
     void addTraceMenu(QMenu& menu);
     void addTimeMenu(QMenu& menu);
@@ -84,6 +91,8 @@ private:
     WidgetGraphES* mpGraph;
     RecordGraph mRecord;
     GraphCommands mCommands;
+    GraphHistory mHistory;
+    QLabel* mpUnshown;
     DialogGraphSetup* mpSetup = nullptr;
     QTimer mHeldTimer;
     const RecordData* mpCourseOf = nullptr;

@@ -30,11 +30,11 @@ GhostMenu::GhostMenu(const Session& session, RecordGraph& graph, QWidget* pParen
     addFlights();
     addCycles();
     addAction(tr("Another Card..."), this, &GhostMenu::askCard);
-    if (!mGraph.ghost())
+    if (!mGraph.ghost().cycle())
         return;
     addSeparator();
     addAlignment();
-    addAction(tr("Nothing"), this, [this] { mGraph.setGhost(nullptr, 0); });
+    addAction(tr("Nothing"), this, [this] { mGraph.ghost().set(nullptr, 0); });
 }
 
 void GhostMenu::addFlights()
@@ -48,7 +48,7 @@ void GhostMenu::addFlights()
             continue;
         const QString name = tr("Flight %1").arg(flight);
         addAction(name, this, [this, flight, name] {
-            mGraph.setGhost(std::make_shared<const GhostCycle>(mSession.container.loaded().withFlight(0), name), flight);
+            mGraph.ghost().set(std::make_shared<const GhostCycle>(mSession.container.loaded().withFlight(0), name), flight);
         });
     }
 }
@@ -68,13 +68,13 @@ void GhostMenu::addCycles()
 
 void GhostMenu::addAlignment()
 {
-    const auto flights = static_cast<int>(mGraph.ghost()->takeOffs.size());
+    const auto flights = static_cast<int>(mGraph.ghost().cycle()->takeOffs.size());
     for (int flight = 1; flight <= flights; ++flight) {
         const QString text = flights == 1 ? tr("Align Take-offs") : tr("Align to the Take-off of its Flight %1").arg(flight);
-        addAction(text, this, [this, flight] { mGraph.alignTakeOff(flight); });
+        addAction(text, this, [this, flight] { mGraph.ghost().alignTakeOff(flight); });
     }
-    if (mGraph.ghost()->engineStart)
-        addAction(tr("Align Engine Starts"), this, [this] { mGraph.alignEngineStart(); });
+    if (mGraph.ghost().cycle()->engineStart)
+        addAction(tr("Align Engine Starts"), this, [this] { mGraph.ghost().alignEngineStart(); });
     addAction(tr("Drag with the Alt key to align by hand"))->setEnabled(false);
 }
 

@@ -25,6 +25,7 @@
 #include "ui/main/FolderDrop.h"
 #include "ui/main/LayoutController.h"
 #include "ui/main/MainActions.h"
+#include "ui/main/MainCommands.h"
 #include "ui/main/MainPanels.h"
 #include "ui/main/MainToolBar.h"
 #include "ui/main/Notices.h"
@@ -62,11 +63,10 @@ constexpr int kMessageDuration = 8000;
 
 DialogMain::DialogMain(const Session& session, const WindowEnvironment& environment)
     : mSession(session), mRecord(session.container), mEnvironment(environment), mEmu(environment.cmdLine.getSwitch("-emu")),
-      mpActionGroup(new QActionGroup(this)), mpRecentGroup(new QActionGroup(this)),
-      mpCatalogue(std::make_unique<ProfileCatalogue>(session.console, environment.folders.resourcePath(), environment.folders.dataPath()))
+      mpCommands(new MainCommands(this)),
+      mpRecentGroup(new QActionGroup(this)), mpCatalogue(std::make_unique<ProfileCatalogue>(session.console, environment.folders.resourcePath(), environment.folders.dataPath()))
 {
     createPanels();
-    createActions();
     if (!mEmu)
         createMenus();
     createToolBar();
@@ -75,6 +75,7 @@ DialogMain::DialogMain(const Session& session, const WindowEnvironment& environm
     createControllers();
     createLayouts();
     connectPanels();
+    connectCommands();
     setWindowIcon(ImageHandler::icon("zarn"));
     startTimers();
     mpLayout->restoreWindow();
@@ -116,38 +117,16 @@ void DialogMain::createPanels()
     connect(pDrop, &FolderDrop::signalDropped, this, &DialogMain::openFolder);
 }
 
-void DialogMain::createActions()
-{
-    mpActionGroup->setExclusionPolicy(QActionGroup::ExclusionPolicy::None);
-    mpRecentGroup->setExclusionPolicy(QActionGroup::ExclusionPolicy::None);
-    for (const MainAction& entry : MainAction::all()) {
-        mActions[entry.id] = entry.create(this);
-        mpActionGroup->addAction(mActions[entry.id]);
-    }
-    connect(mpActionGroup, &QActionGroup::triggered, this, &DialogMain::slotMenu);
-    connect(mpRecentGroup, &QActionGroup::triggered, this, &DialogMain::slotMenuRecent);
-}
-
 QAction* DialogMain::action(int id) const
 {
-    const auto found = mActions.find(id);
-    return found == mActions.end() ? nullptr : found->second;
+    return mpCommands->action(id);
 }
 
 void DialogMain::createMenus()
 {
-    addActions(mpActionGroup->actions()); // those without a place in a menu have their keys
-    QMenu* pFile = menuBar()->addMenu(tr("&File"));
-    pFile->addAction(action(eActionOpenFolder));
-    pFile->addSeparator();
-    pFile->addAction(action(eActionQuit));
-    QMenu* pExtras = menuBar()->addMenu(tr("&Extras"));
-    for (const int id : {eActionPreferences, eActionExportKml, eActionExportCsv})
-        pExtras->addAction(action(id));
-    QMenu* pHelp = menuBar()->addMenu(tr("&Help"));
-    for (const int id : {eActionPreferences, eActionAbout, eActionProfile})
-        pHelp->addAction(action(id));
-    connect(pHelp, &QMenu::aboutToShow, this, &DialogMain::slotMenuPrefAbout);
+    addActions(mpCommands->group().actions()); // those without a place in a menu have their keys
+    mpCommands->fillMenus(*menuBar());
+    connect(mpCommands, &MainCommands::signalHelpMenuOpening, this, &DialogMain::slotMenuPrefAbout);
 }
 
 void DialogMain::createToolBar()
@@ -247,8 +226,7 @@ void DialogMain::startTimers()
 {
     std::string style;
     mEnvironment.cmdLine.getParameter("-s", style);
-    mStyleFile = QString::fromStdString(style);
-    mStyleTime = QFileInfo(mStyleFile).lastModified(); // applied by the start
+    mStyle = StyleWatch(QString::fromStdString(style));
     connect(&mStyleTimer, &QTimer::timeout, this, &DialogMain::slotCheckStyle);
     mStyleTimer.start(kStylePeriod);
     mStartTimer.setSingleShot(true);
@@ -257,42 +235,43 @@ void DialogMain::startTimers()
     QTimer::singleShot(kStartupDelay, this, &DialogMain::slotTimeoutStartup);
 }
 
-void DialogMain::slotMenu(QAction* pAction)
+void DialogMain::connectCommands()
 {
-    const int id = pAction->data().toInt();
-    mSession.console.print("DialogMain::slotMenu id %d\n", id);
-    switch (id) {
-    case eActionNewProject: mpProjectController->newProject(); break;
-    case eActionOpenProject: mpProjectController->openProject(); break;
-    case eActionOpenFolder: mpCardController->askFolder(); break;
-    case eActionSaveProject:
-    case eActionSaveProjectAs: saveProject(id == eActionSaveProjectAs); break;
-    case eActionQuit:
+    connect(&mpCommands->group(), &QActionGroup::triggered, this, &DialogMain::slotMenu);
+    mpRecentGroup->setExclusionPolicy(QActionGroup::ExclusionPolicy::None);
+    connect(mpRecentGroup, &QActionGroup::triggered, this, &DialogMain::slotMenuRecent);
+    const auto on = [this](int id, auto&& run) { mpCommands->handle(id, [run](QAction&) { run(); }); };
+    on(eActionNewProject, [this] { mpProjectController->newProject(); });
+    on(eActionOpenProject, [this] { mpProjectController->openProject(); });
+    on(eActionOpenFolder, [this] { mpCardController->askFolder(); });
+    on(eActionSaveProject, [this] { saveProject(false); });
+    on(eActionSaveProjectAs, [this] { saveProject(true); });
+    on(eActionQuit, [this] {
         mStartTimer.stop();
         close();
-        break;
-    case eActionExportKml: mpExportController->exportKml(); break;
-    case eActionExportCsv: mpExportController->exportCsv(); break;
-    case eActionExportGpx: mpExportController->exportGpx(); break;
-    case eActionReport: mpExportController->writeReport(); break;
-    case eActionOverview: mpOverview->toggle(pAction->isChecked()); break;
-    case eActionNextIncident:
-    case eActionPreviousIncident: mpOverview->step(id == eActionNextIncident); break;
-    default: showInformation(id);
+    });
+    on(eActionExportKml, [this] { mpExportController->exportKml(); });
+    on(eActionExportCsv, [this] { mpExportController->exportCsv(); });
+    on(eActionExportGpx, [this] { mpExportController->exportGpx(); });
+    on(eActionReport, [this] { mpExportController->writeReport(); });
+    mpCommands->handle(eActionOverview, [this](const QAction& action) { mpOverview->toggle(action.isChecked()); });
+    on(eActionNextIncident, [this] { mpOverview->step(true); });
+    on(eActionPreviousIncident, [this] { mpOverview->step(false); });
+    const std::initializer_list<std::pair<int, QWidget*>> windows = {
+        {eActionAbout, mpAbout}, {eActionProfile, mpProfileInfo}, {eActionHelp, mpHelp}, {eActionPreferences, mpPreferences}};
+    for (const auto& [id, pWindow] : windows) {
+        on(id, [pWindow] {
+            pWindow->show();
+            pWindow->raise();
+            pWindow->activateWindow();
+        });
     }
 }
 
-void DialogMain::showInformation(int id)
+void DialogMain::slotMenu(QAction* pAction)
 {
-    const std::map<int, QWidget*> windows = {
-        {eActionAbout, mpAbout}, {eActionProfile, mpProfileInfo}, {eActionHelp, mpHelp}, {eActionPreferences, mpPreferences}};
-    const auto found = windows.find(id);
-    if (found == windows.end())
-        return;
-    QWidget* pWindow = found->second;
-    pWindow->show();
-    pWindow->raise();
-    pWindow->activateWindow();
+    mSession.console.print("DialogMain::slotMenu id %d\n", pAction->data().toInt());
+    mpCommands->run(*pAction);
 }
 
 void DialogMain::slotMenuRecent(QAction* /*pAction*/) {}
@@ -459,8 +438,8 @@ void DialogMain::showProblems()
 
 void DialogMain::updateExports()
 {
-    for (const int id : {eActionExportKml, eActionExportCsv, eActionExportGpx, eActionReport, eActionNextIncident, eActionPreviousIncident})
-        action(id)->setEnabled(mpCardController->hasData());
+    mpCommands->setEnabled({eActionExportKml, eActionExportCsv, eActionExportGpx, eActionReport, eActionNextIncident, eActionPreviousIncident},
+                           mpCardController->hasData());
 }
 
 void DialogMain::showRecorded()
@@ -552,14 +531,10 @@ void DialogMain::slotTimeoutStartup()
 
 void DialogMain::slotCheckStyle()
 {
-    if (mStyleFile.isEmpty())
+    if (!mStyle.takeChange())
         return;
-    const QDateTime time = QFileInfo(mStyleFile).lastModified();
-    if (time == mStyleTime)
-        return;
-    mStyleTime = time;
-    mSession.console.print("Slot Load Style <%s>\n", mStyleFile.toUtf8().constData());
-    mEnvironment.kernel.loadStyleFile(mStyleFile);
+    mSession.console.print("Slot Load Style <%s>\n", mStyle.file().toUtf8().constData());
+    mEnvironment.kernel.loadStyleFile(mStyle.file());
 }
 
 bool DialogMain::eventFilter(QObject* pObject, QEvent* pEvent)

@@ -2,14 +2,13 @@
 
 #include "project/RecordSession.h"
 #include "project/Session.h"
+#include "ui/main/StyleWatch.h"
 #include "ui/main/WindowEnvironment.h"
 
-#include <QDateTime>
 #include <QMainWindow>
 #include <QTimer>
 
 #include <list>
-#include <map>
 #include <memory>
 
 class DialogAbout;
@@ -27,6 +26,7 @@ class DialogProfile;
 class ExportController;
 class LayoutBar;
 class LayoutController;
+class MainCommands;
 class MainPanels;
 class MainToolBar;
 class Notices;
@@ -102,7 +102,6 @@ private Q_SLOTS:
     void slotProfileInstalled();
 
 private:
-    void createActions();
     void createMenus();
     void createToolBar();
     void openToolBarsToKeys();
@@ -110,6 +109,7 @@ private:
     void createStatusBar();
     void createControllers();
     void connectPanels();
+    void connectCommands();
     void startTimers();
     void createNotices();
     void createLayouts();
@@ -124,15 +124,13 @@ private:
     void updateExports();
     /// Tells the profile panel what the loaded data hold.
     void showRecorded();
-    void showInformation(int id);
     bool cleanup();
 
     Session mSession;
     RecordSession mRecord;
     WindowEnvironment mEnvironment;
     bool mEmu;
-    std::map<int, QAction*> mActions;
-    QActionGroup* mpActionGroup;
+    MainCommands* mpCommands;
     QActionGroup* mpRecentGroup;
     MainToolBar* mpToolBar = nullptr;
     MainPanels* mpPanels = nullptr;
@@ -154,8 +152,7 @@ private:
     ExportController* mpExportController = nullptr;
     OverviewController* mpOverview = nullptr;
     LayoutController* mpLayoutController = nullptr;
-    QString mStyleFile;
-    QDateTime mStyleTime; ///< of the style file as it was last applied
+    StyleWatch mStyle{QString()};
     QTimer mStartTimer;
     QTimer mStyleTimer;
 };

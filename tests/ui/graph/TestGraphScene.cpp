@@ -308,7 +308,7 @@ void TestGraphScene::cursorTellsValues()
     QCOMPARE(std::ranges::count_if(texts, isLabel), traces + 1);
     QVERIFY(time >= 0 || model.traces().valueAt(0, time) == 1300.0); // of the first sample
 
-    model.traces().edit(0, [](GraphParameter& trace) { trace.height = 3.0; });
+    model.traces().setHeight(0, 3.0);
     const GraphFrame higher = frameOf(model, size);
     QVERIFY(std::abs(higher.layout().area(0).height() - 3 * higher.layout().area(1).height()) <= 3); // of pixels that are rounded
     QCOMPARE(higher.layout().area(traces - 1).bottom(), higher.layout().plot().bottom());
@@ -331,6 +331,19 @@ void TestGraphScene::narrowMarkerTable()
     QCOMPARE(headers(1200), MarkerValues::headers());
     QCOMPARE(headers(680), MarkerValues::headers().mid(2));
     QCOMPARE(headers(400), QStringList({"Mean"}));
+
+    fillFlight(model, 30); // every line can be seen
+    model.setMarker({500, 1500});
+    QSet<QString> names;
+    for (int first = 0; first < 30; first += 5) {
+        model.settings().firstTableRow = first;
+        const GraphFrame frame = frameOf(model, QSizeF(900, 500));
+        for (const auto& [box, text] : textsOf(model, frame)) {
+            if (frame.layout().table().contains(box.center()) && text.startsWith("Parameter"))
+                names << text;
+        }
+    }
+    QCOMPARE(names.size(), 30);
 }
 
 void TestGraphScene::messageIsBroken()

@@ -11,6 +11,12 @@ struct Ghost {
     ShownTraces traces;
 };
 
+/// Whether there is something to compare a trace with.
+[[nodiscard]] inline bool hasGhost(const Ghost* pGhost, int index)
+{
+    return pGhost && isShown(pGhost->traces, index) && !pGhost->traces.at(index)->samples.empty();
+}
+
 /// A value of the ghost at a time of the traces, where it has recorded one.
 [[nodiscard]] inline std::optional<double> ghostValue(const Ghost& ghost, int index, double time, double shift)
 {

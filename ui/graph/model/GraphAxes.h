@@ -17,8 +17,10 @@ private:
     void drawTimeAxis(Canvas& canvas) const;
     /// What the times are counted from, where that is not the power-up. @return the pixel from which ticks may have labels
     double drawTimeTitle(Canvas& canvas) const;
-    void drawValueAxis(Canvas& canvas, int index) const;
-    void drawAxisName(Canvas& canvas, const GraphParameter& trace) const;
+    void drawValueAxis(Canvas& canvas, const ValueAxis& axis, bool hasGrid) const;
+    void drawAxisName(Canvas& canvas, const ValueAxis& axis, bool isFront) const;
+    /// Of the labels of a trace's own axis; none for that of all labels.
+    [[nodiscard]] std::optional<QColor> axisColour(int index) const;
     void drawGrid(Canvas& canvas, std::span<const QPointF> fine, std::span<const QPointF> major) const;
 
     const GraphModel& mModel;

@@ -105,15 +105,7 @@ void GraphModel::addTopMarker(const TopMarker& marker)
 
 ValueSpan GraphModel::valueSpan(int index) const
 {
-    const GraphParameter* pTrace = mTraces.at(index);
-    if (!pTrace)
-        return mSettings.scale.shared();
-    ValueRange<double> values = pTrace->samples.extremes();
-    if (pTrace->pStates)
-        values.add(pTrace->pStates->range()); // off is below and on is above, even where only one of them was recorded
-    if (const GraphParameter* pGhost = mScenery.ghost() ? mScenery.ghost()->traces.at(index) : nullptr)
-        values.add(pGhost->samples.extremes());
-    return mSettings.scale.spanOf(values);
+    return mTraces.at(index) ? mSettings.scale.spanOf(mTraces, index) : mSettings.scale.shared();
 }
 
 void GraphModel::setTime(double seconds)
@@ -167,6 +159,7 @@ void GraphModel::reset()
     mDataPresent = false;
     mSettings.scale.lower = plainSettings().scale.lower;
     mSettings.scale.upper = plainSettings().scale.upper;
+    mSettings.scale.zoomed.clear();
     setWindow(TimeWindow());
 }
 

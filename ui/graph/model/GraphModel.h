@@ -74,6 +74,10 @@ Q_SIGNALS:
     void signalMarker(float start, float end);
     void signalManMode();
     void signalMoveParameter(int from, int to);
+    /// The user made strips higher or lower.
+    void signalStrips();
+    /// A key stands for a command of the graph.
+    void signalCommand(int command);
     /// The user wants to see an incident of the course.
     void signalIncident(std::size_t incident);
 

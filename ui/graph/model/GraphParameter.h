@@ -36,6 +36,17 @@ struct GraphParameter {
     std::vector<uint32_t> breaks; ///< places of samples before which something without a number was recorded
     std::vector<GraphBand> bands;
     std::shared_ptr<const StateNames> pStates; ///< null for quantities
+    ValueRange<double> ghostValues;            ///< the extremes of what it is compared with
+
+    /// The values that its area has room for: off is below and on is above, even where only one of them was recorded.
+    [[nodiscard]] ValueRange<double> range() const
+    {
+        ValueRange<double> values = samples.extremes();
+        if (pStates)
+            values.add(pStates->range());
+        values.add(ghostValues);
+        return values;
+    }
 
     /// "NAME [UNIT]", or the name alone.
     [[nodiscard]] QString label() const { return unit.isEmpty() ? name : name + QStringLiteral(" [") + unit + QLatin1Char(']'); }

@@ -61,7 +61,8 @@ std::string GraphSettings::colour(const std::string& name) const
 bool GraphSettings::setColour(const std::string& name, const std::string& colour)
 {
     const std::optional<int> number = ownNumber(name);
-    return setLook(number.value_or(freeNumber()), {colour, number ? look(*number).stroke : TraceStroke()}, name);
+    const Look look{colour, number ? this->look(*number).stroke : TraceStroke()};
+    return setLook(number.value_or(freeNumber()), look, look == Look() ? std::string() : name);
 }
 
 std::optional<int> GraphSettings::ownNumber(const std::string& name) const

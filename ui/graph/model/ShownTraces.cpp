@@ -92,10 +92,18 @@ void ShownTraces::setPrecision(int index, int digits)
     changed();
 }
 
+void ShownTraces::setHeight(int index, double strips)
+{
+    edit(index, [strips](GraphParameter& trace) { trace.height = strips; });
+}
+
 void ShownTraces::edit(int index, const std::function<void(GraphParameter&)>& change)
 {
-    if (GraphParameter* pTrace = slot(index))
-        change(*pTrace);
+    GraphParameter* pTrace = slot(index);
+    if (!pTrace)
+        return;
+    change(*pTrace);
+    colour(*pTrace);
     changed();
 }
 
@@ -121,16 +129,6 @@ void ShownTraces::setColour(int index, const QColor& colour)
     pTrace->hasOwnColour = colour.isValid();
     pTrace->colour = colour;
     this->colour(*pTrace);
-    changed();
-}
-
-void ShownTraces::setColourNumber(int index, int number)
-{
-    GraphParameter* pTrace = slot(index);
-    if (!pTrace)
-        return;
-    pTrace->colourNumber = std::max(number, 0);
-    colour(*pTrace);
     changed();
 }
 

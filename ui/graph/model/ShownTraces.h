@@ -28,13 +28,12 @@ public:
     void setActive(int index, bool on);
     void setName(int index, const QString& name, const QString& unit);
     void setPrecision(int index, int digits);
+    void setHeight(int index, double strips);
     /// For all that needs no rule: how it is drawn, what is said of it.
     void edit(int index, const std::function<void(GraphParameter&)>& change);
     void setBands(int index, std::vector<GraphBand> bands);
     /// The user's own choice; an invalid one gives back the colour that the slot has by itself.
     void setColour(int index, const QColor& colour);
-    /// Which of the palette's colours a trace has by itself: that of its slot, unless it is told another one.
-    void setColourNumber(int index, int number);
     /// What the traces are drawn on, and the palette of those without a colour of their own.
     void setGround(const QColor& colour, EGraphPalette palette = EGraphPalette::eStandard);
     /// Puts a strip into the place of another. @return false when one of them does not exist, or both are one
