@@ -23,9 +23,9 @@ struct DisplayLayout {
         bool operator==(const Scale&) const = default;
     };
     struct Parameter {
-        std::string name;    ///< as ticks are kept: of whatever device
-        double height = 1.0; ///< of its strip, in those of others
-        QString colour;      ///< #rrggbb; empty for that which the trace has without the layout
+        std::string name;                ///< as ticks are kept: of whatever device
+        double height = 1.0;             ///< of its strip, in those of others
+        QString colour;                  ///< #rrggbb; empty for that which the trace has without the layout
         std::optional<Scale> scale = {}; ///< what the user zoomed to; without it the values have the say
         bool operator==(const Parameter&) const = default;
     };

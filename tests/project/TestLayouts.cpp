@@ -34,7 +34,8 @@ void TestLayouts::reads_data()
     row("scales", zoomed.toUtf8(), zoomed);
     row("numbers beyond measure",
         "<Layout name='N'><Scale lower='-inf' upper='1'/><Parameter name='A' height='1e300'/><Parameter name='B' height='-1'/>"
-        "<Parameter name='C' height='nan' lower='2' upper='1'/><Parameter name='D' color='red'/><Parameter name='E' color='#12345'/></Layout>",
+        "<Parameter name='C' height='nan' lower='2' upper='1'/><Parameter name='D' color='red'/><Parameter name='E' "
+        "color='#12345'/></Layout>",
         "<Layout mode=\"split\" name=\"N\"><Parameter name=\"A\"/><Parameter height=\"0.2\" name=\"B\"/>"
         "<Parameter name=\"C\"/><Parameter name=\"D\"/><Parameter name=\"E\"/></Layout>");
     row("names",

@@ -28,6 +28,7 @@ namespace ZARN {
 namespace {
 
 constexpr int kHeldInterval = 50;
+constexpr qsizetype kMostTold = 100; // characters of names
 
 GraphSnapshot snapshotOf(const WidgetGraphBase& graph)
 {
@@ -39,8 +40,8 @@ GraphSnapshot snapshotOf(const WidgetGraphBase& graph)
 
 DialogDataGraph::DialogDataGraph(const Session& session, QWidget* pParent)
     : QWidget(pParent), mSession(session), mpButtons(new GraphButtons), mpGraph(new WidgetGraphES), mRecord(session, mpGraph->model()),
-      mCommands(mpGraph->model(), mRecord), mHistory([this] { return mRecord.view(); },
-                                                     [this](const GraphView& from, const GraphView& to) { showView(from, to); }),
+      mCommands(mpGraph->model(), mRecord),
+      mHistory([this] { return mRecord.view(); }, [this](const GraphView& from, const GraphView& to) { showView(from, to); }),
       mpUnshown(new QLabel)
 {
     auto* pLayout = new QVBoxLayout(this);
@@ -112,7 +113,19 @@ void DialogDataGraph::showUnshown()
 {
     const QStringList& names = mRecord.unshown();
     mpUnshown->setVisible(!names.isEmpty());
-    mpUnshown->setText(tr("The graph has room for %1 parameters. Not shown: %2").arg(RecordGraph::kSlots).arg(names.join(QLatin1String(", "))));
+    const QString all =
+        tr("The graph has room for %1 parameters. Not shown: %2").arg(RecordGraph::kSlots).arg(names.join(QLatin1String(", ")));
+    const auto line = [&names](qsizetype count) { return names.mid(0, count).join(QLatin1String(", ")); };
+    qsizetype told = names.size();
+    while (told > 1 && line(told).size() > kMostTold)
+        --told;
+    mpUnshown->setText(told == names.size() ? all
+                                            : tr("The graph has room for %1 parameters. Not shown: %2 and %n more", nullptr,
+                                                 static_cast<int>(names.size() - told))
+                                                  .arg(RecordGraph::kSlots)
+                                                  .arg(line(told)));
+    mpUnshown->setToolTip(all);
+    mpUnshown->setAccessibleDescription(all);
 }
 
 void DialogDataGraph::updateProfile()
@@ -195,6 +208,11 @@ void DialogDataGraph::showSpan(const TimeSpan& span, const std::set<std::string>
     updateSetup();
 }
 
+void DialogDataGraph::setFound(const std::vector<TimeSpan>& spans)
+{
+    mpGraph->model().scenery().setFound(spans);
+}
+
 void DialogDataGraph::setLayout(const DisplayLayout& layout)
 {
     mHistory.begin();
@@ -248,7 +266,8 @@ void DialogDataGraph::slotCommand(int command)
         snapshot();
     } else {
         mHistory.begin();
-        mCommands.run(static_cast<EGraphCommand>(command), command <= eSnapshot && mpButtons->isChecked(static_cast<EGraphCommand>(command)));
+        mCommands.run(static_cast<EGraphCommand>(command),
+                      command <= eSnapshot && mpButtons->isChecked(static_cast<EGraphCommand>(command)));
     }
     slotManMode();
     Q_EMIT signalLayout();

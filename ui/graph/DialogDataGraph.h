@@ -34,6 +34,7 @@ public:
     void updateSettings() override;
     [[nodiscard]] std::optional<TimeSpan> shownSpan() const override;
     void showSpan(const TimeSpan& span, const std::set<std::string>& parameters) override;
+    void setFound(const std::vector<TimeSpan>& spans) override;
     void setLayout(const DisplayLayout& layout) override;
     [[nodiscard]] std::optional<DisplayLayout> layout() const override { return mRecord.layout(); }
 

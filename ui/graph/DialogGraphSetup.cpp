@@ -130,6 +130,8 @@ void DialogGraphSetup::connectControls()
     connect(mpSharedScale, &QCheckBox::stateChanged, this, &DialogGraphSetup::slotSharedScale);
     connect(mpYmin, &QLineEdit::textEdited, this, &DialogGraphSetup::slotYmin);
     connect(mpYmax, &QLineEdit::textEdited, this, &DialogGraphSetup::slotYmax);
+    connect(mpYmin, &QLineEdit::editingFinished, this, [this] { mBefore[mpYmin] = mData.scale.lower; });
+    connect(mpYmax, &QLineEdit::editingFinished, this, [this] { mBefore[mpYmax] = mData.scale.upper; });
     connect(mpClose, &QPushButton::clicked, this, &DialogGraphSetup::slotClose);
 }
 
@@ -194,11 +196,15 @@ void DialogGraphSetup::showNumber(QLineEdit* pField, double value)
     // What the user is typing stays as he types it, and is marked for as long as it is no number.
     const std::optional<double> typed = numberOf(pField->text());
     const bool isTyped = pField->isModified() && !mData.scale.isAutomatic && typed.value_or(value) == value;
-    if (!isTyped)
+    if (!isTyped) {
         pField->setText(fieldText(value));
+        mBefore[pField] = value;
+    }
     const bool isWrong = isTyped && !typed;
     pField->setStyleSheet(isWrong ? QLatin1String(kWrongInput) : QLatin1String());
-    pField->setToolTip(isWrong ? tr("This is not a number, or might be read as two: the scale stays as it was. Numbers have no sign between thousands.") : QString());
+    pField->setToolTip(
+        isWrong ? tr("This is not a number, or might be read as two: the scale stays as it was. Numbers have no sign between thousands.")
+                : QString());
 }
 
 void DialogGraphSetup::showEvent(QShowEvent* pEvent)
@@ -292,14 +298,19 @@ void DialogGraphSetup::slotSharedScale(int state)
     setScale(&ValueScale::isShared, state != Qt::Unchecked);
 }
 
-void DialogGraphSetup::slotYmin(const QString& text)
+double DialogGraphSetup::typed(const QLineEdit* pField)
 {
-    setScale(&ValueScale::lower, numberOf(text).value_or(mData.scale.lower));
+    return numberOf(pField->text()).value_or(mBefore[pField]);
 }
 
-void DialogGraphSetup::slotYmax(const QString& text)
+void DialogGraphSetup::slotYmin(const QString& /*text*/)
 {
-    setScale(&ValueScale::upper, numberOf(text).value_or(mData.scale.upper));
+    setScale(&ValueScale::lower, typed(mpYmin));
+}
+
+void DialogGraphSetup::slotYmax(const QString& /*text*/)
+{
+    setScale(&ValueScale::upper, typed(mpYmax));
 }
 
 void DialogGraphSetup::slotClickMovesCursor(int state)

@@ -5,6 +5,8 @@
 
 #include <QDialog>
 
+#include <map>
+
 class QCheckBox;
 class QComboBox;
 class QFormLayout;
@@ -66,10 +68,13 @@ private:
     void chooseColour(QString& name);
     void showColour(QPushButton* pButton, const QString& name);
     void showNumber(QLineEdit* pField, double value);
+    /// What is typed there, and while that is no number what was there before.
+    double typed(const QLineEdit* pField);
     template <typename Value> void setScale(Value ValueScale::*pMember, const Value& value);
     void changed();
 
     GraphData& mData;
+    std::map<const QLineEdit*, double> mBefore; ///< of the fields, before the user began to type
     std::vector<TraceColour> mTraces;
     QComboBox* mpPalette = nullptr;
     QCheckBox* mpGaps = nullptr;

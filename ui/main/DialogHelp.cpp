@@ -28,8 +28,8 @@ QUrl manual(const QString& locale)
 /// The keys of the main window's commands and of the graph, as they are.
 QString commandKeys()
 {
-    QString text = "\n\n### " + DialogHelp::tr("Commands of the main window") + "\n\n| " + DialogHelp::tr("Key") + " | "
-                   + DialogHelp::tr("Command") + " |\n| --- | --- |\n";
+    QString text = "\n\n### " + DialogHelp::tr("Commands of the main window") + "\n\n| " + DialogHelp::tr("Key") + " | " +
+                   DialogHelp::tr("Command") + " |\n| --- | --- |\n";
     for (const ZARN::MainAction& action : ZARN::MainAction::all()) {
         if (*action.shortcut)
             text += "| " + QKeySequence(action.shortcut).toString(QKeySequence::NativeText) + " | " + action.title() + " |\n";

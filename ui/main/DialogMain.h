@@ -24,6 +24,7 @@ class DialogData;
 class DialogPreferences;
 class DialogProfile;
 class ExportController;
+class FindController;
 class LayoutBar;
 class LayoutController;
 class MainCommands;
@@ -150,6 +151,7 @@ private:
     CardController* mpCardController = nullptr;
     ProjectController* mpProjectController = nullptr;
     ExportController* mpExportController = nullptr;
+    FindController* mpFind = nullptr;
     OverviewController* mpOverview = nullptr;
     LayoutController* mpLayoutController = nullptr;
     StyleWatch mStyle{QString()};

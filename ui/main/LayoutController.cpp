@@ -20,13 +20,13 @@ namespace ZARN {
 
 namespace {
 
-
 } // namespace
 
 LayoutController::LayoutController(const Session& session, const QString& dataPath, Notices& notices, LayoutBar& bar, DialogData& data,
                                    QWidget* pWindow)
-    : QObject(pWindow), mSession(session), mStore(session.console, dataPath + '/' + LayoutStore::kFileName, Settings::kLocale.text(session.property)),
-      mBar(bar), mData(data), mpWindow(pWindow)
+    : QObject(pWindow), mSession(session),
+      mStore(session.console, dataPath + '/' + LayoutStore::kFileName, Settings::kLocale.text(session.property)), mBar(bar), mData(data),
+      mpWindow(pWindow)
 {
     notices.watch(mStore.file(), Notices::eLayouts, tr("Layouts cannot be saved"));
     if (mStore.isUnread())

@@ -27,7 +27,8 @@ enum EMainAction : int {
     eActionReport = 20,
     eActionOverview = 21,
     eActionNextIncident = 22,
-    eActionPreviousIncident = 23
+    eActionPreviousIncident = 23,
+    eActionFind = 24
 };
 
 /// One command of the main window: texts to be translated, the shortcut, the name of its icon.

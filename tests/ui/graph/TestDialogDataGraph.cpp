@@ -1,5 +1,4 @@
 #include "app/Property.h"
-#include "ui/gl/GraphicsCheck.h"
 #include "project/Project.h"
 #include "support/CardBuilder.h"
 #include "support/FileHelpers.h"
@@ -7,6 +6,7 @@
 #include "support/ProfileBuilder.h"
 #include "support/TestCycle.h"
 #include "ui/canvas/RasterCanvas.h"
+#include "ui/gl/GraphicsCheck.h"
 #include "ui/graph/DialogDataGraph.h"
 #include "ui/graph/DialogGraphSetup.h"
 #include "ui/graph/WidgetGraph.h"
@@ -18,6 +18,7 @@
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QImageReader>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
@@ -143,6 +144,7 @@ private Q_SLOTS:
     void buttons();
     void heldZoom();
     void setup();
+    void takesBack();
     void snapshotAsksBeforeReplacing();
     void markerGoesWithCycle();
     void snapshots_data();
@@ -156,6 +158,7 @@ void TestDialogDataGraph::showsRecord()
 {
     Shown many(35);
     QCOMPARE(many.model.traces().count(), 30);
+    QVERIFY(many.dialog.findChild<QLabel*>("unshown")->text().contains("P30, P31, P32, P33, P34"));
     many.model.traces().move(0, 2);
     Q_EMIT many.model.signalMoveParameter(0, 2);
     for (const bool isOn : {false, true}) { // strips belong to parameters
@@ -168,6 +171,7 @@ void TestDialogDataGraph::showsRecord()
     }
     Shown shown;
     QCOMPARE(shown.model.traces().count(), 2);
+    QVERIFY(!shown.dialog.findChild<QLabel*>("unshown")->isVisible());
     QCOMPARE(shown.model.traces().at(0)->samples.size(), 1001U);
     QCOMPARE(shown.model.traces().at(1)->samples.size(), 1000U); // without the value that is no number
     QCOMPARE(shown.model.window().begin(), -100.0);
@@ -213,6 +217,15 @@ void TestDialogDataGraph::handsOnGraph()
     QWheelEvent wheel(middle, shown.graph.mapToGlobal(middle), {}, QPoint(0, 120), Qt::NoButton, {}, Qt::NoScrollPhase, false);
     QApplication::sendEvent(&shown.graph, &wheel);
     QVERIFY(std::abs(shown.model.window().width() - 1080) < 1e-3);
+    const TimeWindow before = shown.model.window();
+    QWheelEvent swipe(middle, shown.graph.mapToGlobal(middle), QPoint(-40, 3), QPoint(-80, 6), Qt::NoButton, {}, Qt::ScrollUpdate, false);
+    QApplication::sendEvent(&shown.graph, &swipe);
+    const double seconds = 40 / shown.graph.layoutOfFrame().pixelsPerSecond();
+    QVERIFY(std::abs(shown.model.window().begin() - before.begin() - seconds) < 1 && std::abs(shown.model.window().width() - 1080) < 1e-3);
+    QNativeGestureEvent pinch(Qt::ZoomNativeGesture, QPointingDevice::primaryPointingDevice(), 2, middle, middle,
+                              shown.graph.mapToGlobal(middle), 0.25, QPointF());
+    QApplication::sendEvent(&shown.graph, &pinch);
+    QVERIFY(std::abs(shown.model.window().width() - 864) < 1e-3);
     QVERIFY(!shown.button("automatic")->isChecked());
 }
 
@@ -296,14 +309,29 @@ void TestDialogDataGraph::setup()
     QCOMPARE(shown.model.settings().scale.lower, -12.5);
     shown.model.setWindow({500, 510}); // as with the wheel, while the setup stays open
     shown.model.takeOverTime();
-    for (const auto& [text, value] : {std::pair("1,5", 1.5), std::pair("abc", 1.5), std::pair("1e99", 1e9), std::pair("2", 2.0)}) {
+    struct Typed {
+        const char* text;
+        double value; // what is refused leaves what was there before anybody typed
+        QLocale::Language language = QLocale::English;
+    };
+    for (const auto& [text, value, language] : {Typed{"1,5", 1.5},
+                                                {"abc", -100},
+                                                {"1e99", -100},
+                                                {"2", 2},
+                                                {"1,560", -100},
+                                                {"1.560", 1.56},
+                                                {"1,234,567", -100},
+                                                {"1.560", -100, QLocale::German},
+                                                {"1,560", 1.56, QLocale::German}}) {
+        QLocale::setDefault(language);
         pYmin->selectAll();
         QTest::keyClicks(pYmin, text);
         QCOMPARE(shown.model.settings().scale.lower, value);
         QCOMPARE(pYmin->text(), text);
-        QCOMPARE(pYmin->toolTip().isEmpty(), QString(text) != "abc" && QString(text) != "1e99");
+        QCOMPARE(pYmin->toolTip().isEmpty(), value != -100);
         QCOMPARE(pYmin->styleSheet().isEmpty(), pYmin->toolTip().isEmpty());
     }
+    QLocale::setDefault(QLocale::c());
     QCOMPARE(shown.model.window().begin(), 500.0);
     QVERIFY(std::abs(shown.model.window().width() - 10) < 1e-4);
     QCOMPARE(shown.model.settings().graphMode, eManual);
@@ -342,6 +370,58 @@ void TestDialogDataGraph::setup()
     QCOMPARE(shown.property.getInt("GraphPalette", 0), 1);
     QVERIFY(shown.property.getSwitch("GraphClickMovesCursor", false));
     pSetup->close();
+}
+
+void TestDialogDataGraph::takesBack()
+{
+    Shown shown;
+    const auto pause = [] { QTest::qWait(600); };
+    const auto press = [&shown](int key, Qt::KeyboardModifiers modifiers) {
+        QTest::keyClick(&shown.graph, static_cast<Qt::Key>(key), modifiers);
+    };
+    const TimeWindow whole = shown.model.window();
+    const ValueSpan speed = shown.model.valueSpan(0);
+    press(Qt::Key_Plus, {});
+    press(Qt::Key_Plus, {}); // at once: the same step
+    pause();
+    press(Qt::Key_Right, Qt::ControlModifier);
+    press(Qt::Key_Up, Qt::AltModifier);
+    press(Qt::Key_Plus, Qt::ControlModifier);
+    pause();
+    shown.click("single");
+    shown.dialog.setTime(77); // nobody's hand
+    const TimeWindow closer = shown.model.window();
+    press(Qt::Key_Z, Qt::ControlModifier);
+    QVERIFY(shown.model.settings().displayMode == eSingleGraph && shown.button("single")->isChecked()); // as at first: no step
+    QCOMPARE(shown.dialog.layout()->parameters[0].height, 1.0);
+    QVERIFY(!shown.model.marker().isRange() && shown.model.valueSpan(0) == speed && shown.model.window() == closer);
+    press(Qt::Key_Z, Qt::ControlModifier);
+    QVERIFY(shown.model.window() == whole && shown.model.cursor().time == 77);
+    press(Qt::Key_Z, Qt::ControlModifier); // nothing is left
+    QVERIFY(shown.model.window() == whole);
+    for (const int key : {Qt::Key_Y, Qt::Key_Y})
+        press(key, Qt::ControlModifier);
+    QVERIFY(shown.model.marker().isRange() && shown.model.valueSpan(0) != speed && shown.model.window() == closer);
+    const std::optional<DisplayLayout> layout = shown.dialog.layout();
+    QVERIFY(layout->parameters[0].scale && layout->parameters[0].scale->unit == "rpm" && layout->parameters[0].height == 1.25);
+    shown.model.settings().scale.zoomed.clear();
+    shown.dialog.setLayout(*layout);
+    QVERIFY(shown.model.valueSpan(0) != speed);
+
+    QSignalSpy ticks(&shown.dialog, &DialogDataGraph::signalTicks);
+    DisplayLayout less;
+    less.parameters = {{"P1", 2.0, {}}};
+    shown.dialog.setLayout(less);
+    shown.profile.setSelected("P0", false); // as whoever chooses a layout does
+    shown.dialog.updateProfile();
+    press(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(ticks.count(), 1);
+    QCOMPARE(ticks[0][0].value<DisplayLayout>().parameters.size(), 2U);
+    QVERIFY(shown.container.loadCycle(1, -1));
+    shown.dialog.updateRecord(&shown.container.recordData());
+    const TimeWindow other = shown.model.window();
+    press(Qt::Key_Z, Qt::ControlModifier); // steps of another record
+    QVERIFY(shown.model.window() == other);
 }
 
 void TestDialogDataGraph::snapshotAsksBeforeReplacing()

@@ -5,6 +5,7 @@
 #include "ui/graph/model/MarkerValues.h"
 #include "ui/graph/model/ThresholdBands.h"
 #include "ui/graph/model/TraceColours.h"
+#include "ui/graph/model/ValueZoom.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -424,15 +425,22 @@ void TestGraphModel::survivesAnything()
 {
     GraphModel model;
     const std::vector<double> odd{0, -1, 1e9, 1e300, std::nan(""), -INFINITY, INFINITY, 86400, 3, 3, 2};
+    const std::vector<double> one{7}, endless{INFINITY, -INFINITY, std::nan("")}, none;
     for (int index = 0; index < 6; ++index) {
+        const std::vector<double>& values = index == 0 ? odd : index == 1 ? one : index == 2 ? endless : index == 3 ? none : odd;
         model.traces().setActive(index, true);
-        model.putValues(index, odd, odd);
+        model.putValues(index, odd, values);
     }
     for (const eDisplayMode mode : {eSingleGraph, eSplit}) {
         model.settings().displayMode = mode;
         for (const double width : {1e-6, 1e-300, 60.0, 1e7, 1e300}) {
             model.setWindow({3, 3 + width});
             model.setMarker({-1e300, 1e300});
+            ValueZoom(model).toggleFit();
+            for (const int index : model.traces().shown()) {
+                const ValueSpan span = model.valueSpan(index);
+                QVERIFY2(std::isfinite(span[0]) && span[1] > span[0], qPrintable(QString::number(index)));
+            }
             GraphFrame frame;
             frame.update(model, QSizeF(800, 500), 11, 1);
             QVERIFY(std::isfinite(frame.layout().pixelsPerSecond()));

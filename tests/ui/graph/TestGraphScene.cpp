@@ -303,7 +303,8 @@ void TestGraphScene::cursorTellsValues()
         model.setMarker({time - 60, time + 50});
     const auto texts = textsOf(model, frameOf(model, size));
     const auto isLabel = [&](const auto& entry) {
-        return entry.second == graphTime(time) || (entry.second.contains('/') && entry.second.startsWith("Parameter") && !entry.second.endsWith(']'));
+        return entry.second == graphTime(time) ||
+               (entry.second.contains('/') && entry.second.startsWith("Parameter") && !entry.second.endsWith(']'));
     };
     QCOMPARE(std::ranges::count_if(texts, isLabel), traces + 1);
     QVERIFY(time >= 0 || model.traces().valueAt(0, time) == 1300.0); // of the first sample

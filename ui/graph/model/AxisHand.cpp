@@ -6,7 +6,7 @@ namespace ZARN {
 
 bool AxisHand::press(const GraphLayout& layout, const QPointF& point)
 {
-    mIndex = layout.axisAt(point);
+    mIndex = axisAt(layout, point);
     if (mIndex < 0)
         return false;
     mSpan = mModel.valueSpan(mIndex);
@@ -24,16 +24,16 @@ void AxisHand::move(const QPointF& point)
 
 bool AxisHand::zoom(const GraphLayout& layout, const QPointF& point, double factor)
 {
-    const int index = layout.axisAt(point);
+    const int index = axisAt(layout, point);
     if (index < 0)
         return false;
-    ValueZoom(mModel).zoom(index, GraphLayout::valueAt(point.y(), layout.area(index), mModel.valueSpan(index)), factor);
+    ValueZoom(mModel).zoom(index, valueAt(point.y(), layout.area(index), mModel.valueSpan(index)), factor);
     return true;
 }
 
 bool AxisHand::toggleFit(const GraphLayout& layout, const QPointF& point)
 {
-    const int index = layout.axisAt(point);
+    const int index = axisAt(layout, point);
     ValueZoom(mModel).toggleFit(index);
     return index >= 0;
 }

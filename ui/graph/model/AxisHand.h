@@ -20,8 +20,8 @@ public:
 
 private:
     GraphModel& mModel;
-    int mIndex = -1;    // of the trace whose axis is dragged
-    ValueSpan mSpan{};  // when it was taken
+    int mIndex = -1;     // of the trace whose axis is dragged
+    ValueSpan mSpan{};   // when it was taken
     double mStart = 0.0; // the pointer's height then
     double mHeight = 1.0;
 };

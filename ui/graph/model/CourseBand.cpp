@@ -45,6 +45,12 @@ QString nameOf(EFlightPhase phase)
 
 } // namespace
 
+QRectF CourseBand::band() const
+{
+    const QRectF& plot = mLayout.plot();
+    return plot.top() > 2 * mLayout.line() ? QRectF(plot.left(), 3, plot.width(), mLayout.line()) : QRectF();
+}
+
 QRectF CourseBand::area(double from, double until, const QRectF& rect) const
 {
     const double left = std::clamp(std::round(mLayout.xOf(from)), rect.left(), rect.right());
@@ -70,7 +76,7 @@ void CourseBand::draw(Canvas& canvas) const
     if (!mModel.scenery().course())
         return;
     drawIncidents(canvas);
-    if (mLayout.band().isEmpty())
+    if (band().isEmpty())
         return;
     drawPhases(canvas);
     drawEngine(canvas);
@@ -80,7 +86,7 @@ void CourseBand::drawPhases(Canvas& canvas) const
 {
     std::vector<std::tuple<QPointF, QString, QColor>> names;
     for (const FlightPhases::Step& step : mModel.scenery().course()->phases) {
-        const QRectF part = area(step.from, step.until, mLayout.band());
+        const QRectF part = area(step.from, step.until, band());
         if (part.isEmpty() || step.phase == EFlightPhase::eOff)
             continue;
         const QColor colour = mixed(mModel.colours().labelBackground, kFlight, shareOf(step.phase));
@@ -95,7 +101,7 @@ void CourseBand::drawPhases(Canvas& canvas) const
 
 void CourseBand::drawEngine(Canvas& canvas) const
 {
-    QRectF line = mLayout.band();
+    QRectF line = band();
     line.setTop(line.bottom() - kEngineHeight);
     for (const TimeSpan& stretch : mModel.scenery().course()->engine) {
         const QRectF part = area(stretch.start, stretch.end, line);

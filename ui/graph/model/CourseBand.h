@@ -19,6 +19,8 @@ public:
     [[nodiscard]] std::optional<std::size_t> incidentAt(const QPointF& point) const;
 
 private:
+    /// Where the layout leaves room for it; empty where it does not.
+    [[nodiscard]] QRectF band() const;
     void drawPhases(Canvas& canvas) const;
     void drawEngine(Canvas& canvas) const;
     void drawIncidents(Canvas& canvas) const;

@@ -94,7 +94,7 @@ void GraphAxes::drawValueAxis(Canvas& canvas, const ValueAxis& axis, bool hasGri
 {
     const QRectF area = mLayout.area(axis.index);
     const ValueSpan span = mModel.valueSpan(axis.index);
-    const AxisTicks ticks(span[0], span[1], area.height(), GraphLayout::valueSpacing(area.height(), mLayout.line()));
+    const AxisTicks ticks(span[0], span[1], area.height(), valueSpacing(area.height(), mLayout.line()));
     const double right = axis.labels.right();
     std::vector<QPointF> major, fine, marks;
     std::vector<GraphLabels::Label> labels;
@@ -152,7 +152,8 @@ void GraphAxes::drawAxisName(Canvas& canvas, const ValueAxis& axis, bool isFront
     const bool isUnit = !axis.isOwn && mModel.settings().scale.isShared && !trace.unit.isEmpty();
     if (!isUnit)
         canvas.fillRect(QRectF(corner.x(), corner.y() + 2, 10, mLayout.line() - 4), trace.drawnColour);
-    const QString text = isUnit ? QLatin1Char('[') + trace.unit + QLatin1Char(']') : GraphLayout::shortened(trace.label(), GraphLayout::kLongestLabel);
+    const QString text =
+        isUnit ? QLatin1Char('[') + trace.unit + QLatin1Char(']') : GraphLayout::shortened(trace.label(), GraphLayout::kLongestLabel);
     canvas.text(corner + QPointF(isUnit ? 0 : 14, 1), text, mLabels.style(Qt::AlignLeft | Qt::AlignTop));
 }
 

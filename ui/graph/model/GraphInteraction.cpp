@@ -135,7 +135,7 @@ void GraphInteraction::pressedPlain(const QPointF& point)
 bool GraphInteraction::doublePressed(const QPointF& point, Qt::KeyboardModifiers modifiers)
 {
     const bool isPlain = !mShift && !mControl && modifiers == Qt::NoModifier;
-    return isPlain && handleAt(point) < 0 && mLayout.edgeAt(mModel, point) < 0 && mAxis.toggleFit(mLayout, point);
+    return isPlain && handleAt(point) < 0 && mStrip.edgeAt(mLayout, point) < 0 && mAxis.toggleFit(mLayout, point);
 }
 
 bool GraphInteraction::isInWords(const QPointF& point) const
@@ -156,7 +156,7 @@ void GraphInteraction::cursorTo(const QPointF& point)
     const int index = isSplit ? mLayout.stripAt(mModel, point.y()) : mModel.traces().axis();
     double value = mModel.cursor().value;
     if (mModel.traces().at(index))
-        value = GraphLayout::valueAt(point.y(), mLayout.area(index), mModel.valueSpan(index));
+        value = valueAt(point.y(), mLayout.area(index), mModel.valueSpan(index));
     const QRectF& plot = mDragLayout.plot();
     const double x = std::clamp(point.x(), plot.left(), plot.right());
     mModel.moveCursor(mDragLayout.timeAt(x), value, isSplit ? index : mModel.cursor().strip);
@@ -277,9 +277,9 @@ Qt::CursorShape GraphInteraction::shape() const
         return mStrip.isOn() ? Qt::SplitVCursor : Qt::SizeVerCursor;
     if (legendAt(mPointer) >= 0 || handleAt(mPointer) >= 0)
         return Qt::PointingHandCursor;
-    if (mLayout.edgeAt(mModel, mPointer) >= 0)
+    if (mStrip.edgeAt(mLayout, mPointer) >= 0)
         return Qt::SplitVCursor;
-    if (mLayout.axisAt(mPointer) >= 0)
+    if (axisAt(mLayout, mPointer) >= 0)
         return Qt::SizeVerCursor;
     return mMarker.isEnd(mLayout, mPointer) ? Qt::SplitHCursor : Qt::ArrowCursor;
 }

@@ -15,15 +15,18 @@ constexpr double kPage = 0.9, kStep = 0.1; // of the window, and of the span of 
 
 constexpr auto kCursor = QT_TRANSLATE_NOOP("ZARN::GraphKeys", "Cursor by a pixel of time, with Shift by ten");
 constexpr auto kLevel = QT_TRANSLATE_NOOP("ZARN::GraphKeys", "Height of the cursor by a pixel, with Shift by ten");
-constexpr auto kStart = QT_TRANSLATE_NOOP("ZARN::GraphKeys", "Start of the marker by a pixel, with Shift by ten; without a marker from the cursor");
-constexpr auto kEnd = QT_TRANSLATE_NOOP("ZARN::GraphKeys", "End of the marker by a pixel, with Shift by ten; without a marker from the cursor");
+constexpr auto kStart =
+    QT_TRANSLATE_NOOP("ZARN::GraphKeys", "Start of the marker by a pixel, with Shift by ten; without a marker from the cursor");
+constexpr auto kEnd =
+    QT_TRANSLATE_NOOP("ZARN::GraphKeys", "End of the marker by a pixel, with Shift by ten; without a marker from the cursor");
 constexpr auto kNone = QT_TRANSLATE_NOOP("ZARN::GraphKeys", "Take the marker away");
 constexpr auto kZoomMarker = QT_TRANSLATE_NOOP("ZARN::GraphKeys", "Show what is marked");
 constexpr auto kTime = QT_TRANSLATE_NOOP("ZARN::GraphKeys", "Look closer or from farther away in time, about the cursor");
 constexpr auto kPages = QT_TRANSLATE_NOOP("ZARN::GraphKeys", "A page back or on in time");
 constexpr auto kEdges = QT_TRANSLATE_NOOP("ZARN::GraphKeys", "Start or end of the record");
 constexpr auto kAll = QT_TRANSLATE_NOOP("ZARN::GraphKeys", "The whole record");
-constexpr auto kChoose = QT_TRANSLATE_NOOP("ZARN::GraphKeys", "Choose the trace above or below: it stands out, and the keys for values are for it");
+constexpr auto kChoose =
+    QT_TRANSLATE_NOOP("ZARN::GraphKeys", "Choose the trace above or below: it stands out, and the keys for values are for it");
 constexpr auto kValues = QT_TRANSLATE_NOOP("ZARN::GraphKeys", "Scale of the chosen trace up or down");
 constexpr auto kZoomValues = QT_TRANSLATE_NOOP("ZARN::GraphKeys", "Look closer or from farther away at the values of the chosen trace");
 constexpr auto kFit = QT_TRANSLATE_NOOP("ZARN::GraphKeys", "Fit the scales to what is visible; once more: to the whole record");

@@ -23,7 +23,8 @@ public:
     [[nodiscard]] QColor highlight() const;
     void draw(Canvas& canvas, const Label& label, Qt::Alignment align) const;
     /// The same for many that do not overlap: all boxes, then all texts.
-    void draw(Canvas& canvas, const std::vector<Label>& labels, Qt::Alignment align, const std::optional<QColor>& colour = std::nullopt) const;
+    void draw(Canvas& canvas, const std::vector<Label>& labels, Qt::Alignment align,
+              const std::optional<QColor>& colour = std::nullopt) const;
     /// How much of a list is seen, and where: at the right edge of its rows.
     void drawScrollBar(Canvas& canvas, const QRectF& list, const VisibleRows& rows) const;
 

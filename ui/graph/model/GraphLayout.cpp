@@ -82,8 +82,6 @@ GraphLayout::GraphLayout(const GraphModel& model, const QSizeF& size, double tex
     const double height = std::max(kSmallestPlot, std::floor(bottom - top));
     const double left = placeAxes(model, height);
     mPlot = QRectF(left, top, std::max(kSmallestPlot, std::floor(right - left)), height);
-    if (hasBand)
-        mBand = QRectF(mPlot.left(), 3, mPlot.width(), mLine);
     if (!mIsBelow)
         mLegendRect.setRect(mLegendRect.left(), mPlot.top(), mLegendRect.width(), mPlot.height());
     const double width = model.window().width();
@@ -232,24 +230,6 @@ void GraphLayout::moveAxes(const GraphModel& model)
     }
 }
 
-int GraphLayout::axisAt(const QPointF& point) const
-{
-    const auto found = std::ranges::find_if(mAxes, [&point](const ValueAxis& axis) { return axis.labels.contains(point); });
-    return found == mAxes.end() ? -1 : found->index;
-}
-
-int GraphLayout::edgeAt(const GraphModel& model, const QPointF& point) const
-{
-    const std::vector<int>& shown = model.traces().shown();
-    if (mStrips.empty() || point.x() < 0 || point.x() >= mPlot.left())
-        return -1;
-    for (std::size_t i = 0; i + 1 < shown.size(); ++i) {
-        if (std::abs(area(shown[i]).bottom() - point.y()) < kEdgeReach)
-            return shown[i];
-    }
-    return -1;
-}
-
 QRectF GraphLayout::area(int index) const
 {
     return index >= 0 && static_cast<std::size_t>(index) < mStrips.size() ? mStrips[static_cast<std::size_t>(index)] : mPlot;
@@ -317,14 +297,20 @@ int GraphLayout::stripAt(const GraphModel& model, double y) const
     return found;
 }
 
-double GraphLayout::valueAt(double y, const QRectF& area, const ValueSpan& span)
-{
-    return area.height() > 0 ? span[0] + (area.bottom() - y) / area.height() * (span[1] - span[0]) : span[0];
-}
-
 QString GraphLayout::shortened(const QString& name, int length)
 {
     return name.size() <= length ? name : name.left(std::max(0, length - 1)) + QChar(0x2026);
+}
+
+int axisAt(const GraphLayout& layout, const QPointF& point)
+{
+    const auto found = std::ranges::find_if(layout.axes(), [&point](const ValueAxis& axis) { return axis.labels.contains(point); });
+    return found == layout.axes().end() ? -1 : found->index;
+}
+
+double valueAt(double y, const QRectF& area, const ValueSpan& span)
+{
+    return area.height() > 0 ? span[0] + (area.bottom() - y) / area.height() * (span[1] - span[0]) : span[0];
 }
 
 } // namespace ZARN

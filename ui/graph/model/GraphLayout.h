@@ -23,7 +23,10 @@ struct VisibleRows {
     int all = 0;
     VisibleRows() = default;
     /// @param first wanted; no row below the last is shown
-    VisibleRows(int wanted, int room, int rows) : first(std::clamp(wanted, 0, std::max(0, rows - room))), count(std::min(room, rows)), all(rows) {}
+    VisibleRows(int wanted, int room, int rows)
+        : first(std::clamp(wanted, 0, std::max(0, rows - room))), count(std::min(room, rows)), all(rows)
+    {
+    }
     [[nodiscard]] bool isCut() const { return count < all; }
 };
 
@@ -39,7 +42,6 @@ public:
 
     [[nodiscard]] QRectF view() const { return {QPointF(), mSize}; }
     [[nodiscard]] const QRectF& plot() const { return mPlot; }
-    [[nodiscard]] const QRectF& band() const { return mBand; }         ///< of the cycle's phases above the plot; empty without one
     [[nodiscard]] const QRectF& legend() const { return mLegendRect; } ///< right of the plot or below it; empty without one
     [[nodiscard]] const QRectF& table() const { return mTable; }       ///< of the marker's values below the plot; empty without one
     [[nodiscard]] ELegend legendKind() const { return mLegend; }
@@ -52,10 +54,6 @@ public:
 
     /// The one next to the plot first; in split mode that of each strip.
     [[nodiscard]] const std::vector<ValueAxis>& axes() const { return mAxes; }
-    /// The trace whose axis lies there; -1 for none.
-    [[nodiscard]] int axisAt(const QPointF& point) const;
-    /// The strip whose lower edge can be taken there, left of the plot; -1 for none.
-    [[nodiscard]] int edgeAt(const GraphModel& model, const QPointF& point) const;
     /// Which traces the marker's table has lines of, and the legend where it is a list.
     [[nodiscard]] const VisibleRows& tableRows() const { return mTableRows; }
     [[nodiscard]] const VisibleRows& legendRows() const { return mLegendRows; }
@@ -70,8 +68,6 @@ public:
     [[nodiscard]] bool isLegendInStrips() const { return !mStrips.empty() && !mIsBelow && mStripHeight >= mLine; }
     /// The line over the plot or in the strip that names a trace.
     [[nodiscard]] QRectF overlayLine(const GraphModel& model, std::size_t row) const;
-    /// Whether such lines are drawn: where nothing else stands beside the plot, and in strips that have their values below.
-    [[nodiscard]] bool hasOverlay() const { return mLegend == ELegend::eNone || (mIsBelow && !mStrips.empty()); }
     /// The strip under a height of the view, as its parameter's index; the nearest one outside of the plot; -1 when nothing is shown.
     [[nodiscard]] int stripAt(const GraphModel& model, double y) const;
     /// The middle of a strip's handle.
@@ -81,17 +77,13 @@ public:
     [[nodiscard]] double timeAt(double x) const { return mXmin + (x - mPlot.left()) / mPixelsPerSecond; }
     [[nodiscard]] double pixelsPerSecond() const { return mPixelsPerSecond; }
     [[nodiscard]] static double yOf(double value, const QRectF& area, const ValueSpan& span);
-    [[nodiscard]] static double valueAt(double y, const QRectF& area, const ValueSpan& span);
 
     /// What the line over the plot says of a trace; with its value where nothing else tells that.
     [[nodiscard]] QString overlayText(const GraphModel& model, int index) const;
     /// A name cut to what a line of the legend or the table shows.
     [[nodiscard]] static QString shortened(const QString& name, int length);
 
-    /// Between labels of a value axis of that height at least; low strips need theirs closer to have any.
-    [[nodiscard]] static double valueSpacing(double height, double line) { return (height < 6 * line ? 1.2 : 1.8) * line; }
     static constexpr double kHandleX = 10.0;
-    static constexpr double kEdgeReach = 4.0; ///< of a strip's lower edge
     static constexpr double kSwatch = 10.0;        ///< of a trace's colour, before its name
     static constexpr double kHandleReach = 1500.0; ///< squared distance within which a handle is hit
     static constexpr int kLongestName = 24;
@@ -113,7 +105,6 @@ private:
 
     QSizeF mSize;
     QRectF mPlot;
-    QRectF mBand;
     std::vector<ValueAxis> mAxes;
     VisibleRows mTableRows, mLegendRows;
     std::vector<QRectF> mStrips; // by slot; empty in a single graph
@@ -127,6 +118,18 @@ private:
     int mLegendColumns = 1;
     double mXmin = 0.0, mPixelsPerSecond = 1.0;
 };
+
+/// The trace whose axis lies there; -1 for none.
+[[nodiscard]] int axisAt(const GraphLayout& layout, const QPointF& point);
+
+/// Which value stands at a height of the view.
+[[nodiscard]] double valueAt(double y, const QRectF& area, const ValueSpan& span);
+
+/// Between labels of a value axis of that height at least; low strips need theirs closer to have any.
+[[nodiscard]] inline double valueSpacing(double height, double line)
+{
+    return (height < 6 * line ? 1.2 : 1.8) * line;
+}
 
 // In sight of those that call it for each vertex.
 /// Whether a trace has a strip of states, which has their names in it and no values at its axis.

@@ -2,6 +2,7 @@
 
 #include "ui/canvas/ColourContrast.h"
 #include "ui/graph/model/CourseBand.h"
+#include "ui/graph/model/FoundMarks.h"
 #include "ui/graph/model/GraphAxes.h"
 #include "ui/graph/model/GraphTables.h"
 #include "ui/graph/model/StateSteps.h"
@@ -45,6 +46,7 @@ void GraphScene::draw(Canvas& canvas) const
     course.drawFlights(canvas);
     GraphAxes(mModel, mLayout).draw(canvas);
     course.draw(canvas);
+    FoundMarks(mModel, mLayout).draw(canvas);
     drawTraces(canvas);
     drawMarker(canvas);
     const CursorLabels cursor(mModel, mLayout);

@@ -7,7 +7,7 @@
 
 namespace ZARN {
 
-/// What a graph shows beside its traces: the course of the cycle, another one to compare with, and a message where there is nothing to draw. Calls a handler at every
+/// What a graph shows beside its traces: the course of the cycle, another one to compare with, what a search found, and a message where there is nothing to draw. Calls a handler at every
 /// change.
 class GraphScenery {
 public:
@@ -42,12 +42,23 @@ public:
         mChanged();
     }
 
+    /// The parts of the record that a search found, in order of time.
+    [[nodiscard]] const std::vector<TimeSpan>& found() const { return mFound; }
+    void setFound(std::vector<TimeSpan> spans)
+    {
+        if (mFound.empty() && spans.empty())
+            return;
+        mFound = std::move(spans);
+        mChanged();
+    }
+
 private:
     std::function<void()> mChanged;
     QString mMessage;
     std::shared_ptr<const CycleCourse> mpCourse;
     std::shared_ptr<const Ghost> mpGhost;
     double mGhostShift = 0.0;
+    std::vector<TimeSpan> mFound;
 };
 
 } // namespace ZARN

@@ -135,7 +135,9 @@ void GraphTables::drawLegendLine(Canvas& canvas, const QRectF& line, int index, 
 
 void GraphTables::drawOverlay(Canvas& canvas, const CursorLabels& cursor) const
 {
-    if (!mLayout.hasOverlay() || !mModel.settings().legendOn)
+    // In strips that have their values below, too, nothing else says whose they are.
+    const bool isBelow = mModel.settings().displayMode == eSplit && mLayout.legend().top() > mLayout.plot().bottom();
+    if (!mModel.settings().legendOn || (mLayout.legendKind() != GraphLayout::ELegend::eNone && !isBelow))
         return;
     QColor box = mModel.colours().labelBackground;
     box.setAlpha(210);

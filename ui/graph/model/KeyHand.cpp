@@ -59,7 +59,7 @@ void KeyHand::moveValue(double pixels)
         const double y = std::clamp(start + pixels, mLayout.plot().top(), mLayout.plot().bottom());
         if (isSplit)
             index = mLayout.stripAt(mModel, y);
-        value = GraphLayout::valueAt(y, mLayout.area(index), mModel.valueSpan(index));
+        value = valueAt(y, mLayout.area(index), mModel.valueSpan(index));
     }
     mModel.setCursorMoving(true);
     mModel.moveCursor(mModel.cursor().time, value, isSplit ? index : mModel.cursor().strip);

@@ -52,7 +52,8 @@ void MarkerHand::moveEnd(const GraphLayout& layout, bool isStart, double pixels)
     time += pixels / layout.pixelsPerSecond();
     const double moved = time;
     mModel.setMarker(marker.ordered());
-    mModel.setWindow(mModel.window().keeping(moved));
+    if (!mModel.window().contains(moved))
+        mModel.setWindow(mModel.window().keeping(moved));
     send();
 }
 

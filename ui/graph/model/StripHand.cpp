@@ -3,19 +3,33 @@
 #include "project/DisplayLayout.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace ZARN {
 
 namespace {
 
+constexpr double kReach = 4.0; // pixels beside an edge
 constexpr double kLeast = DisplayLayout::kLeastHeight, kGreatest = DisplayLayout::kGreatestHeight;
 
 } // namespace
 
+int StripHand::edgeAt(const GraphLayout& layout, const QPointF& point) const
+{
+    const std::vector<int>& shown = mModel.traces().shown();
+    if (mModel.settings().displayMode != eSplit || point.x() < 0 || point.x() >= layout.plot().left())
+        return -1;
+    for (std::size_t i = 0; i + 1 < shown.size(); ++i) {
+        if (std::abs(layout.area(shown[i]).bottom() - point.y()) < kReach)
+            return shown[i];
+    }
+    return -1;
+}
+
 bool StripHand::press(const GraphLayout& layout, const QPointF& point)
 {
     const std::vector<int>& shown = mModel.traces().shown();
-    mUpper = layout.edgeAt(mModel, point);
+    mUpper = edgeAt(layout, point);
     if (mUpper < 0)
         return false;
     mLower = *(std::ranges::find(shown, mUpper) + 1);

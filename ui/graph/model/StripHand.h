@@ -9,6 +9,8 @@ class StripHand {
 public:
     explicit StripHand(GraphModel& model) : mModel(model) {}
 
+    /// The strip whose lower edge can be taken there, left of the plot; -1 for none.
+    [[nodiscard]] int edgeAt(const GraphLayout& layout, const QPointF& point) const;
     /// @return whether the lower edge of a strip lies there, which is taken then: it moves between its two strips
     bool press(const GraphLayout& layout, const QPointF& point);
     [[nodiscard]] bool isOn() const { return mUpper >= 0; }
@@ -21,8 +23,8 @@ public:
 
 private:
     GraphModel& mModel;
-    int mUpper = -1, mLower = -1; // the strips at the edge
-    double mStart = 0.0;          // the pointer's height when the edge was taken
+    int mUpper = -1, mLower = -1;                          // the strips at the edge
+    double mStart = 0.0;                                   // the pointer's height when the edge was taken
     double mUpperHeight = 1.0, mBoth = 2.0, mPixels = 1.0; // then: heights in strips, pixels of one
 };
 
