@@ -20,7 +20,6 @@
 #include <QMessageBox>
 #include <QVBoxLayout>
 
-#include <cmath>
 #include <utility>
 
 namespace ZARN {
@@ -188,11 +187,10 @@ void DialogDataGraph::slotIncident(std::size_t incident)
     const std::shared_ptr<const CycleCourse> pCourse = mpGraph->model().scenery().course();
     if (!pCourse || incident >= pCourse->incidents.size())
         return;
-    const CycleCourse::Mark& mark = pCourse->incidents[incident];
-    showSpan(spanAround(mark.span), mark.parameters);
-    const double time = std::nextafter(mark.time, HUGE_VAL); // at a sample's own time the views still tell the one before it
-    mRecord.showTime(time);
-    Q_EMIT signalTime(time);
+    const GraphMoment& moment = pCourse->incidents[incident].moment;
+    showSpan(moment.span, moment.parameters);
+    mRecord.showTime(moment.time);
+    Q_EMIT signalTime(moment.time);
 }
 
 void DialogDataGraph::setZarnMode(int mode)

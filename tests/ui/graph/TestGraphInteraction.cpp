@@ -157,7 +157,7 @@ void TestGraphInteraction::courseAndGhost()
     QCOMPARE(ghostValue(*pGhost, 0, 40.5, 10).value(), 30.0);
     QVERIFY(!ghostValue(*pGhost, 0, 9, 10) && !ghostValue(*pGhost, 0, 111, 10) && !ghostValue(*pGhost, 1, 40, 10));
     auto pCourse = std::make_shared<CycleCourse>();
-    pCourse->incidents = {{{30, 60}, 1, 40, "A", {}}, {{50, 50.1}, 2, 50, "B", {}}};
+    pCourse->incidents = {{{30, 60}, 1, "A", {}}, {{50, 50.1}, 2, "B", {}}};
     graph.model.scenery().setCourse(pCourse);
     const GraphLayout layout = layoutOf(graph.model);
     GraphInteraction hand(graph.model);

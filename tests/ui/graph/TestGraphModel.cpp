@@ -229,7 +229,7 @@ void TestGraphModel::interruptedAndStepped()
     }
     traces.edit(0, [](GraphParameter& trace) { trace.pStates = std::make_shared<const StateNames>(std::map<int64_t, QString>{{1, "On"}}, true); });
     FrameCache cache;
-    cache.update(traces, {90000, 90400}, 100);
+    cache.update(traces, {90000, 90400}, 1000);
     const std::vector<QPointF>& steps = cache.vertices(0);
     QCOMPARE(steps.size(), 17U);
     for (std::size_t i = 1; i < steps.size(); ++i)

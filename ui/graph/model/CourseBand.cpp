@@ -14,6 +14,7 @@ namespace {
 
 constexpr QColor kFlight(0x3d, 0x7f, 0xbd), kEngine(0x2e, 0x9e, 0x5b);
 constexpr double kEngineHeight = 3.0, kMarkHeight = 4.0, kLeastMark = 4.0; // pixels
+constexpr double kTremble = 1.5; // pixels beside a mark that are on it
 constexpr double kNear = 4.0;                                              // how far from a mark a click may fall
 constexpr float kFlightShade = 0.09F;
 
@@ -143,7 +144,7 @@ std::optional<std::size_t> CourseBand::incidentAt(const QPointF& point) const
     double least = kNear;
     for (std::size_t i = 0; i < incidents.size(); ++i) {
         const QRectF place = mark(incidents[i].span);
-        const double distance = std::max({place.left() - point.x(), point.x() - place.right(), 0.0});
+        const double distance = std::max({place.left() - point.x() - kTremble, point.x() - place.right() - kTremble, 0.0});
         if (place.isEmpty() || distance > least)
             continue;
         if (distance < least || !nearest || incidents[i].state > incidents[*nearest].state)

@@ -1,12 +1,10 @@
 #pragma once
 
 #include "analysis/FlightPhases.h"
-#include "analysis/TimeSpan.h"
 #include "card/LoadedCard.h"
+#include "ui/data/model/GraphMoment.h"
 
 #include <QString>
-
-#include <set>
 
 namespace ZARN {
 
@@ -14,10 +12,9 @@ namespace ZARN {
 struct CycleCourse {
     struct Mark {
         TimeSpan span;
-        int state = 0;     ///< 1 warning, 2 limit
-        double time = 0.0; ///< of its worst value, or its start
+        int state = 0; ///< 1 warning, 2 limit
         QString title;
-        std::set<std::string> parameters; ///< names
+        GraphMoment moment; ///< that shows it
     };
     std::vector<FlightPhases::Step> phases;
     std::vector<TimeSpan> engine;  ///< while it ran; empty where that is not known
@@ -27,8 +24,5 @@ struct CycleCourse {
     /// Reads all of the cycle.
     [[nodiscard]] static CycleCourse of(const LoadedCard& loaded);
 };
-
-/// The part of a cycle that shows an incident: a fifth of its length before and after it, ten seconds at least.
-[[nodiscard]] TimeSpan spanAround(const TimeSpan& incident);
 
 } // namespace ZARN

@@ -10,16 +10,15 @@ void GraphFrame::update(const GraphModel& model, const QSizeF& size, double text
     mLayout = GraphLayout(model, size, textSize);
     const auto columns = static_cast<int>(std::lround(mLayout.plot().width() * ratio));
     mTraces.update(model.traces(), model.window(), columns);
-    const Ghost* pGhost = model.scenery().ghost().get();
-    if (pGhost != mpGhost)
+    if (mpGhost != model.scenery().ghost())
         mGhost = FrameCache();
-    mpGhost = pGhost;
-    if (!pGhost)
+    mpGhost = model.scenery().ghost();
+    if (!mpGhost)
         return;
     mGhost.setGapsOn(model.settings().gapsOn);
     // In one area for all, those of every trace would hide each other.
     const int only = model.settings().displayMode == eSplit ? -1 : model.traces().axis();
-    mGhost.update(pGhost->traces, model.window().movedBy(-model.scenery().ghostShift()), columns, only);
+    mGhost.update(mpGhost->traces, model.window().movedBy(-model.scenery().ghostShift()), columns, only);
 }
 
 } // namespace ZARN

@@ -22,7 +22,7 @@ private:
     GraphLayout mLayout;
     FrameCache mTraces;
     FrameCache mGhost;
-    const Ghost* mpGhost = nullptr; ///< whose vertices these are
+    std::shared_ptr<const Ghost> mpGhost; ///< whose vertices these are
 };
 
 } // namespace ZARN

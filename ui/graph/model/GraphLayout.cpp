@@ -45,7 +45,7 @@ int longestNumber(const GraphModel& model)
     qsizetype longest = kLeastNumber;
     for (const int index : model.traces().shown()) {
         const GraphParameter& parameter = *model.traces().at(index);
-        const ValueRange<double>& values = parameter.samples.extremes();
+        const ValueRange<double> values = parameter.range();
         if (parameter.pStates)
             longest = std::max<qsizetype>(longest, std::min(parameter.pStates->longest(), GraphLayout::kLongestState));
         for (const double value : {values.least, values.greatest}) {
@@ -53,7 +53,7 @@ int longestNumber(const GraphModel& model)
                 longest = std::max(longest, graphNumber(value, parameter.precision).size());
         }
     }
-    return static_cast<int>(longest);
+    return static_cast<int>(longest) + (model.scenery().ghost() ? 1 : 0); // a difference may have a sign more
 }
 
 /// How much of the plot's height a shown trace's strip takes.

@@ -55,8 +55,10 @@ QStringList GraphTables::legendNumbers(int index) const
             values.push_back(range.isEmpty() ? std::nullopt : std::optional(value));
     }
     QStringList texts;
-    for (const std::optional<double>& value : values)
-        texts << (value ? GraphLayout::shortened(trace.text(*value), GraphLayout::kLongestState) : QStringLiteral("-"));
+    for (const std::optional<double>& value : values) {
+        const QString text = value ? trace.text(*value) : QStringLiteral("-");
+        texts << (trace.pStates ? GraphLayout::shortened(text, GraphLayout::kLongestState) : text); // a number is never cut
+    }
     return texts;
 }
 

@@ -21,7 +21,7 @@ void makeSteps(std::vector<QPointF>& vertices)
     steps.reserve(vertices.size());
     for (std::size_t i = 0; i < vertices.size(); ++i) {
         const QPointF& vertex = vertices[i];
-        const bool isFollowed = i + 1 < vertices.size() && vertices[i + 1].y() == vertex.y();
+        const bool isFollowed = i + 1 < vertices.size() && !std::isnan(vertices[i + 1].y());
         if (steps.empty() || std::isnan(vertex.y()) || std::isnan(steps.back().y())) {
             steps.push_back(vertex);
         } else if (vertex.y() != steps.back().y()) {
