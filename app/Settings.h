@@ -56,6 +56,11 @@ constexpr FractionSetting kMapShadingFactor = {"MapShadingFactor", 0.5};
 
 constexpr NumberedSetting kGraphColor = {"GraphColor", 300};
 constexpr NumberedSetting kGraphColorName = {"GraphColorName", 300};
+constexpr NumberedSetting kGraphWidth = {"GraphWidth", 300};
+constexpr NumberedSetting kGraphStyle = {"GraphStyle", 300};
+constexpr NumberSetting kGraphPalette = {"GraphPalette", 0, 0, 3};
+constexpr SwitchSetting kGraphGaps = {"GraphGaps", false};
+constexpr NumberSetting kTimeReference = {"TimeReference", 0, 0, 2};
 constexpr TextSetting kGraphLayout = {"GraphLayout", ""};
 constexpr TextSetting kLayoutDir = {"LayoutDir", ""};
 constexpr SwitchSetting kParameterOnlyRecorded = {"ParameterOnlyRecorded", false};

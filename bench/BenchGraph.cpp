@@ -86,6 +86,38 @@ void rebuildByScan(benchmark::State& state)
     }
 }
 
+/// Six of the traces are states, all may be interrupted, and another cycle lies behind them.
+void addStatesAndGhost(GraphModel& model)
+{
+    const auto pStates = std::make_shared<const StateNames>(std::map<int64_t, QString>{{0, "Stopped"}, {1, "Running"}}, false);
+    auto pGhost = std::make_shared<Ghost>();
+    pGhost->name = "Flight 1";
+    pGhost->traces.setCount(kTraces);
+    std::vector<double> times, values;
+    for (int trace = 0; trace < kTraces; ++trace) {
+        const SampleSeries& samples = model.traces().at(trace)->samples;
+        times.clear();
+        values.clear();
+        for (std::size_t i = 0; i < samples.size(); i += 10) {
+            times.push_back(samples.time(i));
+            values.push_back(samples.value(i));
+        }
+        pGhost->traces.setActive(trace, true);
+        pGhost->traces.append(trace, times, values);
+        if (trace % 5 == 0)
+            model.traces().edit(trace, [&](GraphParameter& parameter) {
+                parameter.pStates = pStates;
+                SampleSeries states;
+                states.reserve(parameter.samples.size());
+                for (std::size_t i = 0; i < parameter.samples.size(); ++i)
+                    states.append(parameter.samples.time(i), static_cast<double>(i / 20000 % 2));
+                parameter.samples = std::move(states);
+            });
+    }
+    model.settings().gapsOn = true;
+    model.scenery().setGhost(std::move(pGhost));
+}
+
 void frame(benchmark::State& state)
 {
     if (!displayApplication())
@@ -94,6 +126,9 @@ void frame(benchmark::State& state)
     WidgetGraphES graph;
     graph.resize(kColumns, kHeight);
     fill(graph.model(), samples);
+    if (state.range(2) != 0)
+        addStatesAndGhost(graph.model());
+    graph.model().settings().displayMode = state.range(3) != 0 ? eSplit : eSingleGraph;
     graph.show();
     QApplication::processEvents();
     auto* pSurface = graph.findChild<QWidget*>();
@@ -112,7 +147,9 @@ void frame(benchmark::State& state)
     state.counters["columns"] = graph.layoutOfFrame().plot().width();
 }
 
-BENCHMARK(frame)->Name("graph/frame")->Args({1000000, 1})->Args({1000000, 0})->Args({10000000, 1})
+BENCHMARK(frame)->Name("graph/frame")->ArgNames({"", "", "states", "split"})
+    ->Args({1000000, 1, 0, 0})->Args({1000000, 0, 0, 0})->Args({10000000, 1, 0, 0})
+    ->Args({1000000, 1, 1, 0})->Args({1000000, 0, 1, 0})->Args({1000000, 1, 0, 1})->Args({1000000, 1, 1, 1})
     ->MeasureProcessCPUTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(rebuild)->Name("graph/rebuild")->Arg(10000000)->Unit(benchmark::kMillisecond);
 BENCHMARK(rebuildByScan)->Name("graph/scan")->Arg(10000000)->Unit(benchmark::kMillisecond);

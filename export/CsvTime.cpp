@@ -4,6 +4,7 @@
 #include "app/TimeText.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace ZARN {
 
@@ -13,16 +14,16 @@ constexpr int64_t kDayMilliseconds = 24 * 3600 * INT64_C(1000);
 
 } // namespace
 
-CsvTime::CsvTime(const CsvForm& form, const QDateTime& powerUp, uint32_t resolution)
+CsvTime::CsvTime(const CsvForm& form, const QDateTime& powerUp, const TimeReference& times, uint32_t resolution)
     : mForm(form), mHasClock(form.isForSpreadsheet && powerUp.isValid()), mPowerUp(mHasClock ? powerUp.toMSecsSinceEpoch() : 0),
-      mResolution(resolution)
+      mTimes(form.isForSpreadsheet ? TimeReference() : times), mResolution(resolution)
 {
 }
 
 std::string CsvTime::titles() const
 {
     if (!mForm.isForSpreadsheet)
-        return "Time";
+        return mTimes.heading();
     const std::string times = std::string("Time [s]") + mForm.separator + "Time [h:mm:ss]";
     return mHasClock ? times + mForm.separator + "Date and time" : times;
 }
@@ -35,7 +36,10 @@ char* CsvTime::write(char* pOut, uint32_t tick)
         pOut = mForm.number(pOut, writeFixed(pOut, static_cast<double>(milliseconds) / 1000, 3));
         *pOut++ = mForm.separator;
     }
-    pOut = mForm.number(pOut, writeElapsed(pOut, static_cast<uint64_t>(milliseconds), 3, 1));
+    const int64_t told = mTimes.toldMilliseconds(milliseconds);
+    if (told < 0)
+        *pOut++ = '-';
+    pOut = mForm.number(pOut, writeElapsed(pOut, static_cast<uint64_t>(std::abs(told)), 3, 1));
     *pOut++ = mForm.separator;
     return mHasClock ? writeDateTime(pOut, mPowerUp + milliseconds) : pOut;
 }

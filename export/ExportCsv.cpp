@@ -175,7 +175,7 @@ bool ExportCsv::writeFile(SafeFile& file, const RecordData& recordData, const Cs
         mError = file.error();
     if (!mError.empty())
         return false;
-    const CsvTime time(*form, mPowerUp, options.resolution);
+    const CsvTime time(*form, mPowerUp, options.times, options.resolution);
     std::string header = (form->isForSpreadsheet ? kByteOrderMark : "") + time.titles();
     const TraceSet traces(&recordData, mContext, ENumber::eText, options.allParameters ? TraceSet::all() : TraceSet::selected(mSelection));
     std::vector<CsvColumn> columns;

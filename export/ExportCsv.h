@@ -3,6 +3,7 @@
 #include "analysis/TimeSpan.h"
 #include "app/Progress.h"
 #include "app/Settings.h"
+#include "project/TimeReference.h"
 #include "trace/TraceSet.h"
 
 #include <QDateTime>
@@ -25,6 +26,7 @@ struct CsvExportOptions {
     uint32_t resolution = Settings::kCsvResolution.fallback;            ///< milliseconds a row: 100 or 10
     std::optional<TimeSpan> span = {}; ///< only rows in it, with the values that held before; none: the whole
     QString locale = {};               ///< as CsvForm takes it: not empty for spreadsheets of that place, which have a separator of their own
+    TimeReference times = {};          ///< what the first column tells
 };
 
 /// Writes the decoded data of the loaded cycle as a table of separated values: one row per time step that has a sample, one

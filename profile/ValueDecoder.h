@@ -39,6 +39,10 @@ public:
     [[nodiscard]] static int rawSize(int dataType);
     /// False for data types that hold no number; their value is 0.
     [[nodiscard]] bool isNumeric() const { return mRaw != ERaw::eNone; }
+    /// Bits of a word: numbers that are states, and no quantities.
+    [[nodiscard]] bool isField() const { return mRaw == ERaw::eField32 || mRaw == ERaw::eField16; }
+    /// What the numbers are called; null without a list.
+    [[nodiscard]] const EnumList* labels() const { return mpLabels; }
     /// The value in metric units, without threshold and unit conversion. @param scale applies factor and offset.
     [[nodiscard]] double value(const Payload& payload, bool scale, CoordinateFilter& filter) const;
     /// The number that the text is written from, in metric units; for data types without a number the entry's type code.
@@ -78,7 +82,6 @@ private:
     template <ERaw kind> [[nodiscard]] double raw(const Payload& payload) const;
     [[nodiscard]] double raw(const Payload& payload) const;
     [[nodiscard]] double applyFilter(double value, CoordinateFilter& filter) const;
-    [[nodiscard]] bool isField() const { return mRaw == ERaw::eField32 || mRaw == ERaw::eField16; }
     using Kernel = void (*)(std::span<const StoredRecord>, Kernels::Scaling, double*);
     [[nodiscard]] Kernel kernel() const;
     bool decodeRun(Kernel run, std::span<const StoredRecord> records, double* pOut) const;

@@ -25,16 +25,12 @@ PaperGraph::PaperGraph(const LoadedCard& loaded, int mostStrips) : mLoaded(loade
 {
     mModel.traces().setCount(mostStrips);
     mModel.setOfflineMode(true);
-    const Palette::Graph& colours = Palette::print().graph;
     GraphData& settings = mModel.settings();
     settings.graphMode = eManual;
     settings.displayMode = eSplit;
     settings.cursorOn = false;
     settings.legendOn = false; // it tells of a cursor; the strips have their names beside them
-    settings.backColor = colours.ground.name();
-    settings.gridColor = colours.grid.name();
-    settings.labelColor = colours.label.name();
-    settings.labelBackColor = colours.labelGround.name();
+    settings.usePalette(EGraphPalette::ePrint);
     mModel.settingsChanged();
 }
 

@@ -174,6 +174,7 @@ private Q_SLOTS:
     void widthsAndTextsBeyondTheBuffers();
     void spreadsheets_data();
     void spreadsheets();
+    void tellsOtherTimes();
 };
 
 void TestExportCsv::equalsNaiveTable_data()
@@ -263,6 +264,19 @@ void TestExportCsv::spreadsheets()
     csv.options.locale = locale;
     csv.powerUp = QDateTime(QDate(2024, 12, 31), QTime(23, 59, 58, 500), Qt::UTC);
     compareLines(csv.run(data), "\xEF\xBB\xBF" + expected.toStdString());
+}
+
+void TestExportCsv::tellsOtherTimes()
+{
+    Export csv;
+    QVERIFY(ProfileBuilder().device("D").parameter("a", 1, "UCHAR").load(csv.cycle.profile));
+    RecordData data;
+    RecordFileBuilder().addWord(1, 5, 0, 4).addWord(1, 15, 0, 4).fill(data);
+    csv.options.times = {ETimeReference::eClock, 86390};
+    QVERIFY(csv.run(data).starts_with("Clock;a\n23:59:55.000;0\n0:00:05.000;"));
+    csv.options.times = {ETimeReference::eTakeOff, -10};
+    QVERIFY(csv.run(data).starts_with("Time since take-off;a\n-0:00:05.000;0\n0:00:05.000;"));
+    QCOMPARE(csv.options.times.text(5000) + TimeReference(ETimeReference::eClock, 1).text(-2000), "-00:00:05.00023:59:59.000");
 }
 
 QTEST_APPLESS_MAIN(TestExportCsv)

@@ -20,12 +20,6 @@ double luminance(const QColor& colour)
     return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
 }
 
-QColor mixed(const QColor& a, const QColor& b, float share)
-{
-    const auto mix = [share](float from, float to) { return from + (to - from) * share; };
-    return QColor::fromRgbF(mix(a.redF(), b.redF()), mix(a.greenF(), b.greenF()), mix(a.blueF(), b.blueF()));
-}
-
 } // namespace
 
 double contrastRatio(const QColor& a, const QColor& b)
@@ -46,6 +40,12 @@ QColor readableOn(const QColor& ground, const QColor& colour, double ratio)
     for (float share = kStep; share <= 1 && contrastRatio(out, ground) < ratio; share += kStep)
         out = mixed(colour, away, share);
     return out;
+}
+
+QColor mixed(const QColor& a, const QColor& b, float share)
+{
+    const auto mix = [share](float from, float to) { return from + (to - from) * share; };
+    return QColor::fromRgbF(mix(a.redF(), b.redF()), mix(a.greenF(), b.greenF()), mix(a.blueF(), b.blueF()));
 }
 
 QColor withAlpha(QColor colour, double alpha)

@@ -13,6 +13,9 @@ namespace ZARN {
 /// The colour, or the nearest one of its hue, lightened on a dark ground and darkened on a light one, that reaches the ratio.
 [[nodiscard]] QColor readableOn(const QColor& ground, const QColor& colour, double ratio);
 
+/// Between two opaque colours. @param share of the second one
+[[nodiscard]] QColor mixed(const QColor& a, const QColor& b, float share);
+
 /// @param alpha from 0 (not seen) to 1
 [[nodiscard]] QColor withAlpha(QColor colour, double alpha);
 

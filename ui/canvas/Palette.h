@@ -2,7 +2,12 @@
 
 #include <QColor>
 
+#include <array>
+
 namespace ZARN {
+
+/// The colours that the user can have the graph in. The numbers are those of the setting "GraphPalette".
+enum class EGraphPalette { eStandard, eDark, eLight, ePrint };
 
 /// The colours of what is drawn on a canvas: one set for each medium.
 struct Palette {
@@ -11,6 +16,7 @@ struct Palette {
         QColor grid;
         QColor label;
         QColor labelGround;
+        std::array<QColor, 12> traces; ///< in turn
     };
     struct Map {
         QColor path;
@@ -35,6 +41,8 @@ struct Palette {
 
     [[nodiscard]] static const Palette& light();
     [[nodiscard]] static const Palette& print();
+    /// All but the standard one have traces that people of every kind of colour vision can tell apart and from the ground.
+    [[nodiscard]] static const Graph& graphColours(EGraphPalette palette);
 };
 
 } // namespace ZARN

@@ -28,6 +28,8 @@ template <typename View> DataViewEntry entry(View* pView)
                 }
                 if constexpr (requires { &View::signalReport; })
                     QObject::connect(pView, &View::signalReport, &area, &DialogData::signalReport);
+                if constexpr (requires { &View::signalSettings; })
+                    QObject::connect(pView, &View::signalSettings, &area, &DialogData::updateSettings);
                 if constexpr (requires { &View::signalLayout; })
                     QObject::connect(pView, &View::signalLayout, &area, &DialogData::signalLayout);
                 if constexpr (requires { &View::signalTicks; })

@@ -3,6 +3,7 @@
 #include "app/TimeText.h"
 #include "card/CardContainer.h"
 #include "profile/Profile.h"
+#include "project/TimeReference.h"
 #include "ui/canvas/ColourContrast.h"
 #include "ui/data/EventMark.h"
 #include "ui/data/GraphJump.h"
@@ -202,13 +203,23 @@ void DialogDataEvents::fillTable()
     mpTable->setRowCount(static_cast<int>(std::min<std::size_t>(events.size(), kMaxRows)));
     for (int row = 0; row < mpTable->rowCount(); ++row) {
         const Event& event = events[static_cast<std::size_t>(row)];
-        QTableWidgetItem* pTime = createItem(signedTimeText(wholeMilliseconds(event.time)));
+        QTableWidgetItem* pTime = createItem({});
         pTime->setData(Qt::UserRole, timeData(event.time));
         if (!isInside(event))
             pTime->setForeground(kDimText);
         mpTable->setItem(row, 0, pTime);
         mpTable->setItem(row, 1, createText(event));
     }
+    showTimes();
+}
+
+void DialogDataEvents::showTimes()
+{
+    const QScopedValueRollback busy(mBusy, true);
+    const TimeReference times = TimeReference::of(mSession.property, mSession.container);
+    mpTable->horizontalHeaderItem(0)->setText(times.title());
+    for (int row = 0; row < mpTable->rowCount(); ++row)
+        mpTable->item(row, 0)->setText(times.text(mpTable->item(row, 0)->data(Qt::UserRole).toLongLong()));
 }
 
 QTableWidgetItem* DialogDataEvents::createText(const Event& event) const

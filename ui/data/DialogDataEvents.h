@@ -28,6 +28,7 @@ public:
     void updateProfile() override {}
     void updateRecord(RecordData* pRecord) override;
     void setTime(double time) override;
+    void updateSettings() override { showTimes(); }
     /// Finds the events in another thread, and tells when they are found; the rows wait until they are seen.
     void prepare(RecordData* pRecord) override;
 
@@ -70,6 +71,8 @@ private:
     void find();
     void slotFound();
     void fillTable();
+    /// In the way that the user wants times told.
+    void showTimes();
     [[nodiscard]] QTableWidgetItem* createText(const Event& event) const;
     [[nodiscard]] bool isInside(const Event& event) const;
     void updateHint();

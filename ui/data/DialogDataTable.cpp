@@ -35,7 +35,7 @@ constexpr int kRefreshMilliseconds = 50;
 } // namespace
 
 DialogDataTable::DialogDataTable(const Session& session, QWidget* pParent)
-    : QWidget(pParent), mContainer(session.container), mpModel(new DataTableModel(session.profile, this)),
+    : QWidget(pParent), mProperty(session.property), mContainer(session.container), mpModel(new DataTableModel(session.profile, this)),
       mpLive(new LiveTableModel(session.profile, this)), mpView(new RowTable(kRowHeight)), mpLiveView(new QTableView),
       mpViews(new QStackedLayout), mpHint(new QLabel), mpTimer(new QTimer(this))
 {
@@ -174,6 +174,11 @@ void DialogDataTable::widenColumns()
     mpView->widenColumns(widths);
 }
 
+void DialogDataTable::updateSettings()
+{
+    mpModel->setTimes(TimeReference::of(mProperty, mContainer));
+}
+
 void DialogDataTable::fill()
 {
     if (mMode != 0) {
@@ -181,6 +186,7 @@ void DialogDataTable::fill()
         mpLive->clearValues();
         return;
     }
+    updateSettings();
     mpModel->setRecord(mpRecord);
     widenColumns();
 }

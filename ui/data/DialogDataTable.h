@@ -32,6 +32,7 @@ public:
     void update(RecordData* pRecord) override;
     void updateFlights(RecordData* /*pRecord*/) override {} // the time, which is told next, is all that it shows of them
     void setTime(double time) override;
+    void updateSettings() override;
     /// @param mode 0 shows the record, anything else is the live mode
     void setZarnMode(int mode) override;
     void setPaused(bool paused) override;
@@ -66,6 +67,7 @@ private:
     void widenColumns();
     [[nodiscard]] QFont cellFont() const;
 
+    const Property& mProperty;
     const CardContainer& mContainer;
     DataTableModel* mpModel;
     LiveTableModel* mpLive;

@@ -1,21 +1,28 @@
 #include "ui/graph/DialogDataGraph.h"
 
 #include "app/Settings.h"
+#include "card/CardContainer.h"
+#include "profile/Profile.h"
 #include "ui/graph/DialogGraphSetup.h"
+#include "ui/graph/GhostMenu.h"
 #include "ui/graph/GraphButtons.h"
-#include "ui/graph/model/PaperColours.h"
+#include "ui/graph/TraceMenu.h"
 #include "ui/graph/WidgetGraphES.h"
 #include "ui/graph/model/MarkerValues.h"
+#include "ui/graph/model/PaperColours.h"
 #include "ui/graph/model/TraceColours.h"
 #include "ui/picture/PictureMenu.h"
 
 #include <QClipboard>
+#include <QColorDialog>
 #include <QFileDialog>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QMenu>
 #include <QMessageBox>
 #include <QVBoxLayout>
+
+#include <utility>
 
 namespace ZARN {
 
@@ -37,7 +44,7 @@ Picture pictureOf(WidgetGraphBase& graph)
 } // namespace
 
 DialogDataGraph::DialogDataGraph(const Session& session, QWidget* pParent)
-    : QWidget(pParent), mpButtons(new GraphButtons), mpGraph(new WidgetGraphES), mRecord(session, mpGraph->model()),
+    : QWidget(pParent), mSession(session), mpButtons(new GraphButtons), mpGraph(new WidgetGraphES), mRecord(session, mpGraph->model()),
       mCommands(mpGraph->model(), mRecord),
       mpPicture(new PictureMenu(
           session, [this] { return pictureOf(*mpGraph); },
@@ -80,6 +87,13 @@ void DialogDataGraph::connectGraph()
     connect(&mpGraph->model(), &GraphModel::signalCommand, this, &DialogDataGraph::slotCommand);
     connect(mpGraph, &WidgetGraphES::signalMarker, this, &DialogDataGraph::signalMarker);
     connect(mpGraph, &WidgetGraphES::signalMenu, this, &DialogDataGraph::slotMenu);
+    connect(&mpGraph->model(), &GraphModel::signalIncident, this, &DialogDataGraph::slotIncident);
+    connect(&mCourse, &CourseFinder::signalFound, this,
+            [this](const std::shared_ptr<const CycleCourse>& pCourse) { mpGraph->model().scenery().setCourse(pCourse); });
+    connect(&mGhosts, &GhostLoader::signalLoaded, this,
+            [this](const std::shared_ptr<const GhostCycle>& pCycle, int flight) { mRecord.ghost().set(pCycle, flight); });
+    connect(&mGhosts, &GhostLoader::signalFailed, this,
+            [this](const QString& reason) { showProblem(tr("The cycle to compare with could not be read.\n%1").arg(reason)); });
     connect(mpButtons, &GraphButtons::signalHeld, this, [this] {
         mHistory.begin();
         mHeldTimer.start(kHeldInterval);
@@ -155,12 +169,14 @@ void DialogDataGraph::updateRecord(RecordData* pRecord)
 {
     if (!mRecord.updateRecord(pRecord))
         mHistory.clear();
+    findCourse();
 }
 
 void DialogDataGraph::updateFlights(RecordData* pRecord)
 {
     if (!mRecord.updateFlights(pRecord))
         mHistory.clear();
+    findCourse();
 }
 
 void DialogDataGraph::update(RecordData* pRecord)
@@ -169,6 +185,29 @@ void DialogDataGraph::update(RecordData* pRecord)
         mHistory.clear();
     showUnshown();
     updateSetup();
+    findCourse();
+}
+
+void DialogDataGraph::findCourse()
+{
+    // That of the same record stays until it is found anew.
+    if (std::exchange(mpCourseOf, mSession.container.record().get()) != mSession.container.record().get() || !mRecord.hasRecord())
+        mpGraph->model().scenery().setCourse(nullptr);
+    if (mRecord.hasRecord())
+        mCourse.start(mSession.container.loaded());
+    else
+        mCourse.stop();
+}
+
+void DialogDataGraph::slotIncident(std::size_t incident)
+{
+    const std::shared_ptr<const CycleCourse> pCourse = mpGraph->model().scenery().course();
+    if (!pCourse || incident >= pCourse->incidents.size())
+        return;
+    const GraphMoment& moment = pCourse->incidents[incident].moment;
+    showSpan(moment.span, moment.parameters);
+    mRecord.showTime(moment.time);
+    Q_EMIT signalTime(moment.time);
 }
 
 void DialogDataGraph::setZarnMode(int mode)
@@ -186,7 +225,7 @@ void DialogDataGraph::showSpan(const TimeSpan& span, const std::set<std::string>
 
 void DialogDataGraph::setFound(const std::vector<TimeSpan>& spans)
 {
-    mpGraph->model().setFound(spans);
+    mpGraph->model().scenery().setFound(spans);
 }
 
 void DialogDataGraph::setLayout(const DisplayLayout& layout)
@@ -309,7 +348,62 @@ void DialogDataGraph::snapshot()
 void DialogDataGraph::copyValues()
 {
     const GraphModel& model = mpGraph->model();
-    QGuiApplication::clipboard()->setText(markerText(model.traces(), model.marker()));
+    QGuiApplication::clipboard()->setText(markerText(model.traces(), model.marker(), model.settings().times, &model.scenery()));
+}
+
+void DialogDataGraph::addTraceMenu(QMenu& menu)
+{
+    ShownTraces& traces = mpGraph->model().traces();
+    const int slot = traces.highlighted();
+    if (slot < 0)
+        return;
+    auto* pTrace = new TraceMenu(*traces.at(slot), &menu);
+    const auto setStroke = [this, &traces, slot](const TraceStroke& stroke) {
+        traces.edit(slot, [&stroke](GraphParameter& trace) { trace.stroke = stroke; });
+        slotSetupChanged();
+    };
+    connect(pTrace, &TraceMenu::signalColour, this, [this, &traces, slot] {
+        if (const QColor colour = askColour(traces.at(slot)->drawnColour); colour.isValid())
+            traces.setColour(slot, colour);
+        slotSetupChanged();
+    });
+    connect(pTrace, &TraceMenu::signalStroke, this, setStroke);
+    connect(pTrace, &TraceMenu::signalDefault, this, [setStroke, &traces, slot] {
+        traces.setColour(slot, QColor());
+        setStroke({});
+    });
+    menu.addMenu(pTrace);
+    menu.addSeparator();
+}
+
+void DialogDataGraph::addTimeMenu(QMenu& menu)
+{
+    QMenu* pTimes = menu.addMenu(tr("Times"));
+    for (const ETimeReference kind : {ETimeReference::ePowerUp, ETimeReference::eClock, ETimeReference::eTakeOff}) {
+        QAction* pAction = pTimes->addAction(TimeReference::name(kind), this, [this, kind] {
+            mRecord.setTimes(kind);
+            Q_EMIT signalSettings();
+        });
+        pAction->setCheckable(true);
+        pAction->setChecked(kind == mpGraph->model().settings().times.kind());
+    }
+}
+
+void DialogDataGraph::addGhostMenu(QMenu& menu)
+{
+    if (!mRecord.hasRecord())
+        return;
+    // Its actions ask further questions: it stays until the next one.
+    delete mpGhostMenu;
+    mpGhostMenu = new GhostMenu(mSession, mRecord, this);
+    connect(mpGhostMenu, &GhostMenu::signalWish, this,
+            [this](const GhostLoader::Wish& wish) { mGhosts.start(wish, mSession.profile.context()); });
+    menu.addMenu(mpGhostMenu);
+}
+
+QColor DialogDataGraph::askColour(const QColor& present)
+{
+    return QColorDialog::getColor(present, this);
 }
 
 void DialogDataGraph::addViewActions(QMenu& menu)
@@ -338,12 +432,15 @@ void DialogDataGraph::addViewActions(QMenu& menu)
 void DialogDataGraph::slotMenu(const QPoint& point)
 {
     QMenu menu(this);
+    addTraceMenu(menu);
     QAction* pCopy = menu.addAction(tr("Copy Values"), this, &DialogDataGraph::copyValues);
     pCopy->setEnabled(mpGraph->model().marker().isRange() && mRecord.hasSamples());
     mpPicture->addTo(menu);
     menu.addAction(tr("X against Y..."), this, &DialogDataGraph::signalCurves)->setEnabled(mRecord.hasRecord());
     menu.addAction(tr("Flight Report..."), this, &DialogDataGraph::signalReport)->setEnabled(mRecord.hasRecord());
     menu.addSeparator();
+    addTimeMenu(menu);
+    addGhostMenu(menu);
     addViewActions(menu);
     menu.addSeparator();
     menu.addAction(tr("Setup..."), this, &DialogDataGraph::showSetup);

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "ui/data/model/DataView.h"
+#include "ui/graph/model/CourseFinder.h"
+#include "ui/graph/model/GhostLoader.h"
 #include "ui/graph/model/GraphCommands.h"
 
 #include <QTimer>
@@ -13,6 +15,7 @@ class WidgetGraphES;
 namespace ZARN {
 
 class DialogGraphSetup;
+class GhostMenu;
 class GraphButtons;
 class PictureMenu;
 
@@ -53,6 +56,8 @@ Q_SIGNALS:
     void signalReport();
     /// The user changed how the traces are shown.
     void signalLayout();
+    /// Settings that other views have as well are others.
+    void signalSettings();
     /// The user took back, or did again, what changed the ticks: those of the layout are wanted.
     void signalTicks(const DisplayLayout& layout);
 
@@ -62,12 +67,15 @@ protected:
     /// Asks where to save the snapshot; empty when the user gave up.
     virtual QString askSnapshotFile();
     virtual void showProblem(const QString& text);
+    /// Asks for a colour; invalid when the user gave up.
+    virtual QColor askColour(const QColor& present);
 
 private:
     void slotManMode();
     void slotSetupChanged();
     void slotCommand(int command);
     void slotHeldZoom();
+    void slotIncident(std::size_t incident);
     void slotMenu(const QPoint& point);
     void addViewActions(QMenu& menu);
 
@@ -75,11 +83,17 @@ private:
     void connectHistory();
     void showView(const GraphView& from, const GraphView& to);
     void showUnshown();
+    /// What is chosen for the trace that stands out: the one whose line of the legend is under the pointer.
+    void addTraceMenu(QMenu& menu);
+    void addTimeMenu(QMenu& menu);
+    void addGhostMenu(QMenu& menu);
     void updateSetup();
+    void findCourse();
     void showSetup();
     void snapshot();
     void copyValues();
 
+    const Session mSession;
     GraphButtons* mpButtons;
     WidgetGraphES* mpGraph;
     RecordGraph mRecord;
@@ -89,6 +103,10 @@ private:
     QLabel* mpUnshown;
     DialogGraphSetup* mpSetup = nullptr;
     QTimer mHeldTimer;
+    const RecordData* mpCourseOf = nullptr;
+    GhostMenu* mpGhostMenu = nullptr;
+    GhostLoader mGhosts;
+    CourseFinder mCourse; // the last: it waits for what it finds
 };
 
 } // namespace ZARN

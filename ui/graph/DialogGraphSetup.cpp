@@ -52,6 +52,7 @@ DialogGraphSetup::DialogGraphSetup(QWidget* pParent, GraphData& graphData) : QDi
     setWindowTitle(tr("Oscilloscope Setup"));
     createControls();
     auto* pForm = new QFormLayout(this);
+    addRow(pForm, tr("Palette :"), {mpPalette});
     addRow(pForm, tr("Background Color :"), {mpBackground});
     addRow(pForm, tr("Grid On/Color :"), {mpGrid, mpGridColour});
     addRow(pForm, tr("Label Color :"), {mpLabel});
@@ -59,6 +60,7 @@ DialogGraphSetup::DialogGraphSetup(QWidget* pParent, GraphData& graphData) : QDi
     addRow(pForm, tr("Cursor On/Mode :"), {mpCursor, mpCursorMode});
     addRow(pForm, tr("Click :"), {mpClickMovesCursor});
     addRow(pForm, tr("Legend :"), {mpLegend});
+    addRow(pForm, tr("Gaps :"), {mpGaps});
     addRow(pForm, tr("Trace Color :"), {mpTraces});
     addRow(pForm, tr("Y-Scale :"), {mpAutoscale, mpYmin, mpYmax});
     addRow(pForm, QString(), {mpSharedScale});
@@ -69,6 +71,13 @@ DialogGraphSetup::DialogGraphSetup(QWidget* pParent, GraphData& graphData) : QDi
 
 void DialogGraphSetup::createControls()
 {
+    mpPalette = new QComboBox;
+    mpPalette->setObjectName("palette");
+    mpPalette->addItems({tr("Standard"), tr("Dark"), tr("Light"), tr("Print")});
+    mpPalette->setAccessibleName(tr("Colors of the graph"));
+    mpGaps = new QCheckBox(tr("Interrupt the traces"));
+    mpGaps->setObjectName("gapsOn");
+    mpGaps->setToolTip(tr("Where nothing was recorded for five times the usual time, at least 2 s, or no number."));
     mpBackground = colourButton("background", tr("Background color"));
     mpGrid = new QCheckBox(tr("Grid On"));
     mpGrid->setObjectName("gridOn");
@@ -104,6 +113,8 @@ void DialogGraphSetup::createControls()
 
 void DialogGraphSetup::connectControls()
 {
+    connect(mpPalette, &QComboBox::activated, this, &DialogGraphSetup::slotPalette);
+    connect(mpGaps, &QCheckBox::stateChanged, this, &DialogGraphSetup::slotGapsOn);
     connect(mpBackground, &QPushButton::clicked, this, &DialogGraphSetup::slotBackgroundColor);
     connect(mpGrid, &QCheckBox::stateChanged, this, &DialogGraphSetup::slotGridOn);
     connect(mpGridColour, &QPushButton::clicked, this, &DialogGraphSetup::slotGridColor);
@@ -144,9 +155,11 @@ QPushButton* DialogGraphSetup::colourButton(const QString& name, const QString& 
 
 void DialogGraphSetup::updateDialog()
 {
-    const QSignalBlocker blockers[] = {QSignalBlocker(mpGrid),       QSignalBlocker(mpCursor),    QSignalBlocker(mpCursorMode),
-                                       QSignalBlocker(mpLegend),     QSignalBlocker(mpAutoscale), QSignalBlocker(mpClickMovesCursor),
-                                       QSignalBlocker(mpSharedScale)};
+    const QSignalBlocker blockers[] = {QSignalBlocker(mpGrid),   QSignalBlocker(mpCursor),    QSignalBlocker(mpCursorMode),
+                                       QSignalBlocker(mpLegend), QSignalBlocker(mpAutoscale), QSignalBlocker(mpClickMovesCursor),
+                                       QSignalBlocker(mpGaps),   QSignalBlocker(mpSharedScale)};
+    mpPalette->setCurrentIndex(static_cast<int>(mData.palette));
+    mpGaps->setChecked(mData.gapsOn);
     mpGrid->setChecked(mData.gridOn);
     mpCursor->setChecked(mData.cursorOn);
     mpCursorMode->setCurrentIndex(mData.cursorMode);
@@ -303,6 +316,18 @@ void DialogGraphSetup::slotYmax(const QString& /*text*/)
 void DialogGraphSetup::slotClickMovesCursor(int state)
 {
     mData.clickMovesCursor = state != Qt::Unchecked;
+    changed();
+}
+
+void DialogGraphSetup::slotPalette(int palette)
+{
+    mData.usePalette(static_cast<EGraphPalette>(palette));
+    changed();
+}
+
+void DialogGraphSetup::slotGapsOn(int state)
+{
+    mData.gapsOn = state != Qt::Unchecked;
     changed();
 }
 

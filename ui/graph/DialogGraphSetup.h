@@ -55,6 +55,8 @@ private:
     void slotYmin(const QString& text);
     void slotYmax(const QString& text);
     void slotClickMovesCursor(int state);
+    void slotPalette(int palette);
+    void slotGapsOn(int state);
     void slotTraceColor();
     void slotTraceDefault();
     void slotClose();
@@ -74,6 +76,8 @@ private:
     GraphData& mData;
     std::map<const QLineEdit*, double> mBefore; ///< of the fields, before the user began to type
     std::vector<TraceColour> mTraces;
+    QComboBox* mpPalette = nullptr;
+    QCheckBox* mpGaps = nullptr;
     QPushButton* mpBackground = nullptr;
     QPushButton* mpGridColour = nullptr;
     QPushButton* mpLabel = nullptr;

@@ -38,7 +38,10 @@ public:
     void activateGrid(bool on) { set(&ZARN::GraphData::gridOn, on); }
     void activateCursor(bool on) { set(&ZARN::GraphData::cursorOn, on); }
     void activateLegend(bool on) { set(&ZARN::GraphData::legendOn, on); }
-    void activateSamples(int index, bool on) { mModel.traces().setSamplesVisible(index, on); }
+    void activateSamples(int index, bool on)
+    {
+        mModel.traces().edit(index, [on](ZARN::GraphParameter& trace) { trace.samplesVisible = on; });
+    }
     void setActive(int index, bool on) { mModel.traces().setActive(index, on); }
     void setMaxParameters(int count) { mModel.traces().setCount(count); }
     void setPrecision(int index, int digits) { mModel.traces().setPrecision(index, digits); }

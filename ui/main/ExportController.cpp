@@ -97,6 +97,7 @@ void ExportController::exportCsv()
     mCsvOptions.fileName = fileName(0, ".csv");
     if (!DialogExportCsv(mSession, mpWindow).getOptions(mCsvOptions, parts(".csv")))
         return;
+    mCsvOptions.times = TimeReference::of(mSession.property, mSession.container);
     const auto work = [loaded = mSession.container.loaded(), selection = mSession.profile.selection(),
                        options = mCsvOptions](Progress& progress) {
         ExportCsv exporter(loaded.context, selection, loaded.powerUp);
@@ -144,10 +145,12 @@ void ExportController::writeReport(const std::vector<CycleNote>& notes)
     if (!mayExport())
         return;
     const LoadedCard loaded = mSession.container.loaded();
-    std::vector<ReportFileDialog::Part> parts{{loaded.cycle ? tr("The whole power cycle") : tr("Everything that is loaded"), fileName(0, {})}};
+    std::vector<ReportFileDialog::Part> parts{
+        {loaded.cycle ? tr("The whole power cycle") : tr("Everything that is loaded"), fileName(0, {})}};
     for (int flight = 1; loaded.cycle && flight <= static_cast<int>(loaded.flights.size()); ++flight)
         parts.push_back({tr("Flight %1").arg(flight), fileName(flight, {})});
-    ReportFileDialog dialog(tr("Save Flight Report"), Settings::kReportDir.text(mSession.property), std::move(parts), loaded.flightNumber, mpWindow);
+    ReportFileDialog dialog(tr("Save Flight Report"), Settings::kReportDir.text(mSession.property), std::move(parts), loaded.flightNumber,
+                            mpWindow);
     const QString path = askFile(Settings::kReportDir, dialog);
     if (path.isEmpty())
         return;

@@ -188,9 +188,9 @@ void TestDialogDataGraph::showsRecord()
     QCOMPARE(shown.model.window().begin(), -100.0);
     shown.profile.clearSelection();
     shown.dialog.updateProfile();
-    QVERIFY(shown.model.message().contains("No parameter"));
+    QVERIFY(shown.model.scenery().message().contains("No parameter"));
     shown.dialog.updateRecord(nullptr);
-    QVERIFY(shown.model.message().contains("No record"));
+    QVERIFY(shown.model.scenery().message().contains("No record"));
 }
 
 void TestDialogDataGraph::followsTime()
@@ -263,10 +263,10 @@ void TestDialogDataGraph::buttons()
     QVERIFY(!shown.model.traces().at(0)->samples.empty());
     shown.click("clear");
     QVERIFY(shown.model.traces().at(0)->samples.empty());
-    QVERIFY(shown.model.message().contains("cleared"));
+    QVERIFY(shown.model.scenery().message().contains("cleared"));
     QVERIFY(!shown.menuTexts().contains("Copy Values") && shown.menuTexts().contains("Flight Report..."));
     shown.dialog.updateProfile(); // as when a parameter is ticked
-    QVERIFY(!shown.model.traces().at(0)->samples.empty() && shown.model.message().isEmpty());
+    QVERIFY(!shown.model.traces().at(0)->samples.empty() && shown.model.scenery().message().isEmpty());
     QVERIFY(shown.menuTexts().contains("Copy Values"));
 }
 
@@ -358,7 +358,17 @@ void TestDialogDataGraph::setup()
     pSetup->findChild<QPushButton*>("traceDefault")->click();
     QCOMPARE(shown.model.traces().at(0)->drawnColour, QColor(Qt::red));
     QCOMPARE(shown.property.getString("GraphColor0", ""), "#123456");
+    shown.model.traces().edit(0, [](GraphParameter& trace) { trace.stroke = {3, ELineStyle::eDotted}; });
     pSetup->findChild<QCheckBox*>("clickMovesCursor")->click();
+    shown.dialog.updateSettings();
+    QVERIFY(shown.model.traces().at(0)->stroke == TraceStroke(3, ELineStyle::eDotted) && !shown.model.traces().at(0)->hasOwnColour);
+    QCOMPARE(shown.property.getString("GraphWidth1", "") + shown.property.getString("GraphStyle1", ""), "33");
+    auto* pPalette = pSetup->findChild<QComboBox*>("palette");
+    pPalette->setFocus();
+    QTest::keyClick(pPalette, Qt::Key_Down);
+    QCOMPARE(shown.model.colours().background, Palette::graphColours(EGraphPalette::eDark).ground);
+    QCOMPARE(shown.model.traces().at(0)->drawnColour, Palette::graphColours(EGraphPalette::eDark).traces[0]);
+    QCOMPARE(shown.property.getInt("GraphPalette", 0), 1);
     QVERIFY(shown.property.getSwitch("GraphClickMovesCursor", false));
     pSetup->close();
 }

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void marksAndPans();
     void keysMoveCursor();
     void dragsCursor();
+    void courseAndGhost();
     void wordsAreNoTimes();
     void legendChooses_data();
     void legendChooses();
@@ -144,6 +145,37 @@ void TestGraphInteraction::dragsCursor()
     QCOMPARE(graph.model.cursor().time, 0.0);
     hand.moved(QPointF(5000, 200));
     QVERIFY(std::abs(graph.model.cursor().time - 100) < 1e-6);
+}
+
+void TestGraphInteraction::courseAndGhost()
+{
+    OneTrace graph;
+    graph.model.setWindow({0, 100});
+    auto pGhost = std::make_shared<Ghost>(Ghost{"Flight 1", graph.model.traces()});
+    graph.model.scenery().setGhost(pGhost);
+    graph.model.scenery().setGhostShift(10);
+    QCOMPARE(ghostValue(*pGhost, 0, 40.5, 10).value(), 30.0);
+    QVERIFY(!ghostValue(*pGhost, 0, 9, 10) && !ghostValue(*pGhost, 0, 111, 10) && !ghostValue(*pGhost, 1, 40, 10));
+    auto pCourse = std::make_shared<CycleCourse>();
+    pCourse->incidents = {{{30, 60}, 1, "A", {}}, {{50, 50.1}, 2, "B", {}}};
+    graph.model.scenery().setCourse(pCourse);
+    const GraphLayout layout = layoutOf(graph.model);
+    GraphInteraction hand(graph.model);
+    hand.setLayout(layout);
+    QSignalSpy incidents(&graph.model, &GraphModel::signalIncident);
+    const QPointF mark(0, layout.plot().bottom() + 3);
+    for (const auto& [time, incident] : {std::pair(35.0, 0), {50.0, 1}, {90.0, -1}}) {
+        hand.pressed(Qt::LeftButton, mark + QPointF(layout.xOf(time), 0), {});
+        hand.released(Qt::LeftButton, mark + QPointF(layout.xOf(time), 0));
+        QCOMPARE(incidents.empty() ? -1 : incidents.takeFirst().front().value<std::size_t>(), static_cast<std::size_t>(incident));
+    }
+    const GraphMarker before = graph.model.marker();
+    const QPointF from = layout.plot().center();
+    hand.pressed(Qt::LeftButton, from, Qt::AltModifier);
+    hand.moved(from + QPointF(layout.pixelsPerSecond() * 7, 0));
+    hand.released(Qt::LeftButton, from);
+    hand.moved(from);
+    QVERIFY(std::abs(graph.model.scenery().ghostShift() - 17) < 1e-6 && graph.model.marker().start == before.start);
 }
 
 void TestGraphInteraction::wordsAreNoTimes()

@@ -4,11 +4,13 @@
 #include "ui/graph/model/GraphTexts.h"
 #include "ui/graph/model/MarkerValues.h"
 #include "ui/graph/model/ThresholdBands.h"
+#include "ui/graph/model/TraceColours.h"
 #include "ui/graph/model/ValueZoom.h"
 
 #include <QSignalSpy>
 #include <QTest>
 
+#include <algorithm>
 #include <cmath>
 
 using namespace ZARN;
@@ -28,6 +30,8 @@ private Q_SLOTS:
     void windowFollows();
     void verticesOfWindow_data();
     void verticesOfWindow();
+    void interruptedAndStepped();
+    void coloursStay();
     void extendsToPresent();
     void putsManyAsOneByOne();
     void tickSpacing_data();
@@ -134,6 +138,12 @@ void TestGraphModel::coloursCanBeRead()
         for (const GraphParameter& trace : traces.all())
             QVERIFY(contrastRatio(trace.drawnColour, ground) >= 3);
     }
+    for (const EGraphPalette palette : {EGraphPalette::eDark, EGraphPalette::eLight, EGraphPalette::ePrint}) {
+        const Palette::Graph& colours = Palette::graphColours(palette);
+        QVERIFY(contrastRatio(colours.label, colours.labelGround) >= 4.5);
+        for (const QColor& colour : colours.traces)
+            QVERIFY2(contrastRatio(colour, colours.ground) >= 3 && std::ranges::count(colours.traces, colour) == 1, qPrintable(colour.name()));
+    }
     traces.setColour(2, QColor(0, 0, 20)); // the user's own choice
     QVERIFY(traces.at(2)->drawnColour.lightnessF() < 0.1F);
 }
@@ -194,6 +204,46 @@ void TestGraphModel::verticesOfWindow()
     QVERIFY(cache.isCurrent(graph.model.traces(), window) && !cache.isCurrent(graph.model.traces(), window.movedBy(1)));
     graph.model.putValue(0, 1, false);
     QVERIFY(!cache.isCurrent(graph.model.traces(), window));
+}
+
+void TestGraphModel::interruptedAndStepped()
+{
+    ShownTraces traces;
+    traces.setCount(1);
+    traces.setActive(0, true);
+    std::vector<double> times, values;
+    for (int i = 0; i < 2000; ++i) { // nothing for a minute, and no number once
+        times.push_back(90000 + i * 0.5 + (i >= 1000 ? 60 : 0));
+        values.push_back(i / 100 % 2);
+    }
+    traces.append(0, times, values);
+    traces.edit(0, [](GraphParameter& trace) { trace.breaks = {500}; });
+    for (const auto& [columns, window, gaps] : {std::tuple(1000, TimeWindow(90000, 91100), 2), {20, TimeWindow(90000, 91100), 1},
+                                                {1000, TimeWindow(90300, 90499), 0}, {1000, TimeWindow(90520, 90530), 1}}) {
+        FrameCache cache;
+        cache.update(traces, window, columns);
+        QVERIFY(std::ranges::none_of(cache.vertices(0), [](const QPointF& vertex) { return std::isnan(vertex.y()); }));
+        cache.setGapsOn(true);
+        cache.update(traces, window, columns);
+        QCOMPARE(std::ranges::count_if(cache.vertices(0), [](const QPointF& vertex) { return std::isnan(vertex.y()); }), gaps);
+    }
+    traces.edit(0, [](GraphParameter& trace) { trace.pStates = std::make_shared<const StateNames>(std::map<int64_t, QString>{{1, "On"}}, true); });
+    FrameCache cache;
+    cache.update(traces, {90000, 90400}, 1000);
+    const std::vector<QPointF>& steps = cache.vertices(0);
+    QCOMPARE(steps.size(), 17U);
+    for (std::size_t i = 1; i < steps.size(); ++i)
+        QVERIFY(steps[i].x() == steps[i - 1].x() || steps[i].y() == steps[i - 1].y());
+    QCOMPARE(traces.at(0)->text(1) + traces.at(0)->text(0), "On0");
+}
+
+void TestGraphModel::coloursStay()
+{
+    ColourNumbers numbers;
+    using Names = std::vector<QString>;
+    for (const auto& [names, expected] : {std::pair(Names{"a", "b", "b"}, std::vector{0, 1, 2}), {{"x", "a", "b", "b"}, {3, 0, 1, 2}},
+                                          {{"x", "b", "y"}, {3, 1, 2}}, {{"a", "b", "y", "z"}, {0, 1, 2, 3}}})
+        QVERIFY(numbers.assign(names) == expected);
 }
 
 void TestGraphModel::extendsToPresent()

@@ -350,7 +350,7 @@ void TestGraphScene::narrowMarkerTable()
 void TestGraphScene::messageIsBroken()
 {
     GraphModel model;
-    model.setMessage("Es ist kein Parameter gewählt.\nIm Profilfeld die gewünschten Parameter ankreuzen.");
+    model.scenery().setMessage("Es ist kein Parameter gewählt.\nIm Profilfeld die gewünschten Parameter ankreuzen.");
     QStringList said;
     for (const auto& [box, text] : textsOf(model, frameOf(model, QSizeF(300, 400)))) {
         if (!text.contains(QRegularExpression("[a-z]{3}")))
@@ -359,7 +359,7 @@ void TestGraphScene::messageIsBroken()
         said << text;
     }
     QVERIFY(said.size() > 2);
-    QCOMPARE(said.join(' '), QString(model.message()).replace('\n', ' '));
+    QCOMPARE(said.join(' '), QString(model.scenery().message()).replace('\n', ' '));
 }
 
 void TestGraphScene::denseLines()

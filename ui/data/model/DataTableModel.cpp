@@ -58,6 +58,16 @@ void DataTableModel::setRecord(const RecordData* pRecord)
     endInsertRows();
 }
 
+void DataTableModel::setTimes(const TimeReference& times)
+{
+    if (mTimes == times)
+        return;
+    mTimes = times;
+    Q_EMIT headerDataChanged(Qt::Horizontal, 0, 0);
+    if (mRowCount > 0)
+        Q_EMIT dataChanged(index(0, 0), index(mRowCount - 1, 0));
+}
+
 int DataTableModel::rowAt(double seconds) const
 {
     return std::min(static_cast<int>(std::min(mRows.rowAt(seconds), kMaxRows)), std::max(mRowCount - 1, 0));
@@ -84,7 +94,7 @@ TableCell DataTableModel::cell(const QModelIndex& index) const
     if (index.row() >= mRowCount || mProfileIdentity != mProfile.identity())
         return {};
     if (index.column() == 0)
-        return {signedTimeText(mRows.key(row).milliseconds()), kTimeGround, eThresholdOk, false};
+        return {mTimes.text(mRows.key(row).milliseconds()), kTimeGround, eThresholdOk, false};
     const auto column = static_cast<std::size_t>(index.column()) - 1;
     const auto position = mRows.sampleAt(column, row);
     return position ? valueCell(column, *position) : TableCell{};
@@ -152,11 +162,11 @@ QVariant DataTableModel::headerData(int section, Qt::Orientation orientation, in
     if (orientation != Qt::Horizontal || section < 0 || section >= columnCount())
         return {};
     if (role == Qt::DisplayRole)
-        return section == 0 ? tr("Time") : mParameters[static_cast<std::size_t>(section) - 1].label();
+        return section == 0 ? mTimes.title() : mParameters[static_cast<std::size_t>(section) - 1].label();
     if (role != Qt::ToolTipRole)
         return {};
     if (section == 0)
-        return tr("Time since the unit's power-up");
+        return mTimes.kind() == ETimeReference::ePowerUp ? tr("Time since the unit's power-up") : TimeReference::name(mTimes.kind());
     return mProfileIdentity == mProfile.identity() ? mParameters[static_cast<std::size_t>(section) - 1].toolTip() : QString();
 }
 

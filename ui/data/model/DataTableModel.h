@@ -2,6 +2,7 @@
 
 #include "analysis/TableRows.h"
 #include "profile/Profile.h"
+#include "project/TimeReference.h"
 #include "ui/data/model/CellModel.h"
 #include "ui/data/model/ShownParameter.h"
 
@@ -20,6 +21,8 @@ public:
     void updateParameters();
     /// The rows of a record; null removes them.
     void setRecord(const RecordData* pRecord);
+    /// How the rows' times are told.
+    void setTimes(const TimeReference& times);
 
     [[nodiscard]] const std::vector<ShownParameter>& parameters() const { return mParameters; }
     /// The row that shows a time: that of the greatest key at or before it, 0 when there is none.
@@ -44,6 +47,7 @@ private:
     std::vector<ShownParameter> mParameters;
     TraceSet mTraces; ///< by column
     TableRows mRows;
+    TimeReference mTimes;
     int mRowCount = 0;
 };
 

@@ -57,7 +57,7 @@ void CursorLabels::addTime()
 {
     // Above the strips, for the first one's value stands at its top; over a single graph the axis has its name.
     const QRectF& plot = mLayout.plot();
-    const QString text = graphTime(mModel.cursor().time);
+    const QString text = graphTime(mModel.settings().times.told(mModel.cursor().time));
     add(mModel.settings().displayMode == eSplit ? plot.top() - mLayout.line() - 1 : plot.top() + 3, text, isRightOf(text));
 }
 
@@ -69,8 +69,9 @@ void CursorLabels::addValues()
         const std::optional<double> value = mModel.traces().valueAt(index, mModel.cursor().time);
         if (!value || area.height() < height)
             continue;
-        const QString name = GraphLayout::shortened(mModel.traces().at(index)->name, GraphLayout::kLongestName);
-        const QString text = name + QLatin1Char('/') + graphNumber(*value, 2);
+        const GraphParameter& trace = *mModel.traces().at(index);
+        const QString name = GraphLayout::shortened(trace.name, GraphLayout::kLongestName);
+        const QString text = name + QLatin1Char('/') + (trace.pStates ? trace.text(*value) : graphNumber(*value, 2));
         add(area.top() + std::min(3.0, (area.height() - height) / 2), text, isRightOf(text));
     }
 }

@@ -31,7 +31,7 @@ std::vector<std::pair<double, double>> FoundMarks::columns() const
 {
     std::vector<std::pair<double, double>> columns;
     const TimeWindow& window = mModel.window();
-    for (const TimeSpan& span : mModel.found()) {
+    for (const TimeSpan& span : mModel.scenery().found()) {
         if (span.end < window.begin() || span.start > window.end())
             continue;
         const double left = std::floor(mLayout.xOf(std::max(span.start, window.begin())));

@@ -1,23 +1,44 @@
 #include "ui/graph/model/FrameCache.h"
 
+#include "ui/graph/model/StateSteps.h"
+#include "ui/graph/model/TraceGaps.h"
+
 #include <algorithm>
+#include <utility>
 
 namespace ZARN {
 
-void FrameCache::update(const ShownTraces& traces, const TimeWindow& window, int columns)
+void FrameCache::update(const ShownTraces& traces, const TimeWindow& window, int columns, int only)
 {
-    const Key key{window, std::max(1, columns), traces.generation()};
+    const Key key{window, std::max(1, columns), traces.generation(), mGapsOn, only};
     if (key == mKey)
         return;
     mKey = key;
     mVertices.resize(traces.all().size());
-    for (const int index : traces.shown())
-        mBuilder.build(traces.at(index)->samples, window.begin(), window.end(), key.columns, mVertices[static_cast<std::size_t>(index)]);
+    for (const int index : traces.shown()) {
+        if (only >= 0 && index != only)
+            continue;
+        std::vector<QPointF>& vertices = mVertices[static_cast<std::size_t>(index)];
+        mBuilder.setGaps(mGapsOn ? std::span<const uint32_t>(gapsOf(traces, index)) : std::span<const uint32_t>());
+        mBuilder.build(traces.at(index)->samples, window.begin(), window.end(), key.columns, vertices);
+        if (traces.at(index)->pStates)
+            makeSteps(vertices);
+    }
+}
+
+const std::vector<uint32_t>& FrameCache::gapsOf(const ShownTraces& traces, int index)
+{
+    mGaps.resize(traces.all().size());
+    mGapsOf.resize(traces.all().size(), 0);
+    const auto place = static_cast<std::size_t>(index);
+    if (std::exchange(mGapsOf[place], traces.generation()) != traces.generation())
+        mGaps[place] = traceGaps(traces.at(index)->samples, traces.at(index)->breaks);
+    return mGaps[place];
 }
 
 bool FrameCache::isCurrent(const ShownTraces& traces, const TimeWindow& window) const
 {
-    return mKey == Key{window, mKey.columns, traces.generation()};
+    return mKey == Key{window, mKey.columns, traces.generation(), mGapsOn, mKey.only};
 }
 
 const std::vector<QPointF>& FrameCache::vertices(int index) const

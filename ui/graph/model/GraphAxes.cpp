@@ -55,24 +55,39 @@ void GraphAxes::drawBand(Canvas& canvas, int index, const ValueSpan& values, con
 void GraphAxes::drawTimeAxis(Canvas& canvas) const
 {
     const QRectF& plot = mLayout.plot();
-    const TimeWindow& window = mModel.window();
+    const TimeReference& times = mModel.settings().times;
+    // Round are the times that are told.
+    const TimeWindow window = mModel.window().movedBy(times.shift());
     AxisTicks ticks = AxisTicks::ofTime(window.begin(), window.end(), plot.width(), kTickSpacing);
     const double label = static_cast<double>(ticks.timeLabel(window.end()).size() + 2) * mLayout.character();
     if (label > kTickSpacing)
         ticks = AxisTicks::ofTime(window.begin(), window.end(), plot.width(), label);
+    const double free = drawTimeTitle(canvas);
     std::vector<QPointF> major, fine;
     std::vector<GraphLabels::Label> labels;
     for (const AxisTick& tick : ticks.ticks()) {
-        const double x = std::floor(mLayout.xOf(tick.value));
+        const double recorded = tick.value - times.shift();
+        const double x = std::floor(mLayout.xOf(recorded));
         std::vector<QPointF>& lines = tick.isMajor ? major : fine;
         lines.insert(lines.end(), {QPointF(x, plot.top()), QPointF(x, plot.bottom() - 1)});
-        const QString text = ticks.timeLabel(tick.value);
+        const QString text = ticks.timeLabel(times.kind() == ETimeReference::eClock ? times.told(recorded) : tick.value);
         const double half = static_cast<double>(text.size()) * mLayout.character() / 2 + 2;
-        if (tick.isMajor && x - half >= 0 && x + half <= mLayout.view().width())
+        if (tick.isMajor && x - half >= free && x + half <= mLayout.view().width())
             labels.push_back({QPointF(x, plot.bottom() + 5), text});
     }
     mLabels.draw(canvas, labels, Qt::AlignHCenter | Qt::AlignTop);
     drawGrid(canvas, fine, major);
+}
+
+double GraphAxes::drawTimeTitle(Canvas& canvas) const
+{
+    const TimeReference& times = mModel.settings().times;
+    if (times.kind() == ETimeReference::ePowerUp)
+        return 0.0;
+    const QString text = times.title();
+    const QPointF corner(4, mLayout.plot().bottom() + 5);
+    canvas.text(corner, text, mLabels.style(Qt::AlignLeft | Qt::AlignTop));
+    return corner.x() + static_cast<double>(text.size()) * mLayout.character() + 4;
 }
 
 void GraphAxes::drawValueAxis(Canvas& canvas, const ValueAxis& axis, bool hasGrid) const
@@ -83,7 +98,7 @@ void GraphAxes::drawValueAxis(Canvas& canvas, const ValueAxis& axis, bool hasGri
     const double right = axis.labels.right();
     std::vector<QPointF> major, fine, marks;
     std::vector<GraphLabels::Label> labels;
-    for (const AxisTick& tick : ticks.ticks()) {
+    for (const AxisTick& tick : isStateStrip(mModel, axis.index) ? std::vector<AxisTick>() : ticks.ticks()) {
         const double y = std::floor(GraphLayout::yOf(tick.value, area, span));
         if (y < area.top() || y >= area.bottom())
             continue;

@@ -15,6 +15,8 @@ private:
     void drawBands(Canvas& canvas) const;
     void drawBand(Canvas& canvas, int index, const ValueSpan& values, const QColor& colour) const;
     void drawTimeAxis(Canvas& canvas) const;
+    /// What the times are counted from, where that is not the power-up. @return the pixel from which ticks may have labels
+    double drawTimeTitle(Canvas& canvas) const;
     void drawValueAxis(Canvas& canvas, const ValueAxis& axis, bool hasGrid) const;
     void drawAxisName(Canvas& canvas, const ValueAxis& axis, bool isFront) const;
     /// Of the labels of a trace's own axis; none for that of all labels.

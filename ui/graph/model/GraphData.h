@@ -1,6 +1,7 @@
 #pragma once
 
 #include "card/CycleNote.h"
+#include "project/TimeReference.h"
 #include "ui/canvas/Palette.h"
 #include "ui/graph/model/ValueScale.h"
 
@@ -21,6 +22,7 @@ struct GraphData {
     eDisplayMode displayMode = eSingleGraph;
     eGraphMode graphMode = eAutomatic;
     eCursorMode cursorMode = eCenter;
+    EGraphPalette palette = EGraphPalette::eStandard; ///< of the traces, and of what follows unless it is changed
     QString backColor = Palette::light().graph.ground.name();
     bool gridOn = true;
     QString gridColor = Palette::light().graph.grid.name();
@@ -29,9 +31,21 @@ struct GraphData {
     bool cursorOn = true;
     bool legendOn = true;
     ValueScale scale{.lower = -100.0, .upper = 100.0};
+    TimeReference times = {};      ///< how those of the axis and the cursor are told
+    bool gapsOn = false;           ///< traces are interrupted where nothing was recorded for long, or no number
     int firstTableRow = 0, firstLegendRow = 0; ///< of the marker's table and of the legend where they have no room for all
-    std::vector<CycleNote> notes = {}; ///< of the record, by time
-    bool clickMovesCursor = false;             ///< a click in the plot; otherwise it makes the marker a point
+    std::vector<CycleNote> notes = {};         ///< of the record, by time
+    bool clickMovesCursor = false; ///< a click in the plot; otherwise it makes the marker a point
+
+    void usePalette(EGraphPalette wanted)
+    {
+        const Palette::Graph& colours = Palette::graphColours(wanted);
+        palette = wanted;
+        backColor = colours.ground.name();
+        gridColor = colours.grid.name();
+        labelColor = colours.label.name();
+        labelBackColor = colours.labelGround.name();
+    }
 };
 
 /// The colours of the graph beside those of its traces, read from the settings.

@@ -6,8 +6,19 @@ namespace ZARN {
 
 void GraphFrame::update(const GraphModel& model, const QSizeF& size, double textSize, double ratio)
 {
+    mTraces.setGapsOn(model.settings().gapsOn);
     mLayout = GraphLayout(model, size, textSize);
-    mTraces.update(model.traces(), model.window(), static_cast<int>(std::lround(mLayout.plot().width() * ratio)));
+    const auto columns = static_cast<int>(std::lround(mLayout.plot().width() * ratio));
+    mTraces.update(model.traces(), model.window(), columns);
+    if (mpGhost != model.scenery().ghost())
+        mGhost = FrameCache();
+    mpGhost = model.scenery().ghost();
+    if (!mpGhost)
+        return;
+    mGhost.setGapsOn(model.settings().gapsOn);
+    // In one area for all, those of every trace would hide each other.
+    const int only = model.settings().displayMode == eSplit ? -1 : model.traces().axis();
+    mGhost.update(mpGhost->traces, model.window().movedBy(-model.scenery().ghostShift()), columns, only);
 }
 
 } // namespace ZARN

@@ -15,10 +15,14 @@ public:
     [[nodiscard]] const GraphLayout& layout() const { return mLayout; }
     [[nodiscard]] const FrameCache& traces() const { return mTraces; }
     [[nodiscard]] FrameCache& traces() { return mTraces; }
+    /// Those of what the traces are compared with.
+    [[nodiscard]] const FrameCache& ghost() const { return mGhost; }
 
 private:
     GraphLayout mLayout;
     FrameCache mTraces;
+    FrameCache mGhost;
+    std::shared_ptr<const Ghost> mpGhost; ///< whose vertices these are
 };
 
 } // namespace ZARN

@@ -1,5 +1,6 @@
 #include "ui/graph/model/GraphInteraction.h"
 
+#include "ui/graph/model/CourseBand.h"
 #include "ui/graph/model/CursorLabels.h"
 #include "ui/graph/model/KeyHand.h"
 
@@ -99,8 +100,14 @@ void GraphInteraction::pressedLeft(const QPointF& point, Qt::KeyboardModifiers m
         mModel.traces().togglePin(line);
         return mModel.traces().point(line);
     }
+    if (const auto incident = CourseBand(mModel, mLayout).incidentAt(point))
+        return Q_EMIT mModel.signalIncident(*incident);
     if (isInWords(point))
         return;
+    if ((mAlt || modifiers.testFlag(Qt::AltModifier)) && mModel.scenery().ghost()) {
+        mGhostDrag = mModel.scenery().ghostShift() - mLayout.timeAt(point.x());
+        return;
+    }
     mDragged = handleAt(point);
     if (isShift)
         return beginCursorDrag(point);
@@ -165,6 +172,8 @@ void GraphInteraction::moved(const QPointF& point)
         return;
     if (mDragged >= 0)
         return Q_EMIT mModel.signalRepaint();
+    if (mGhostDrag)
+        return mModel.scenery().setGhostShift(*mGhostDrag + mLayout.timeAt(point.x()));
     if (mStrip.isOn())
         return mStrip.move(point);
     if (mAxis.isOn())
@@ -208,6 +217,7 @@ bool GraphInteraction::released(Qt::MouseButton button, const QPointF& point)
 
 void GraphInteraction::releasedLeft(const QPointF& point)
 {
+    mGhostDrag.reset();
     const int dragged = mDragged;
     mDragged = -1;
     if (std::exchange(mClick, std::nullopt))

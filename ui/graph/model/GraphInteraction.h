@@ -80,9 +80,10 @@ private:
     AxisHand mAxis;
     StripHand mStrip;
     MarkerHand mMarker;
-    int mDragged = -1;             // parameter whose strip is dragged
-    std::optional<QPointF> mClick; // where the button went down, as long as it may still become a click
-    double mScrolled = 0.0;        // lines of a list, less than one
+    int mDragged = -1;                // parameter whose strip is dragged
+    std::optional<QPointF> mClick;    // where the button went down, as long as it may still become a click
+    std::optional<double> mGhostDrag; // the ghost's shift less the time under the pointer
+    double mScrolled = 0.0;           // lines of a list, less than one
     bool mCursorDrag = false;
     bool mPanningAllowed = true;
     bool mShift = false, mControl = false, mAlt = false;

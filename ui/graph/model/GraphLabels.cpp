@@ -14,6 +14,12 @@ QColor GraphLabels::contrast(double alpha) const
     return withAlpha(textColourOn(mModel.colours().background), alpha);
 }
 
+QColor GraphLabels::highlight() const
+{
+    const bool isLight = textColourOn(mModel.colours().labelBackground) == Qt::black;
+    return {255, 255, 255, isLight ? 110 : 45};
+}
+
 void GraphLabels::drawBox(Canvas& canvas, const Label& label, const CanvasText& style) const
 {
     const QSizeF box = canvas.textSize(label.text, style);

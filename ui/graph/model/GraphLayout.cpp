@@ -3,6 +3,7 @@
 #include "ui/canvas/CanvasFont.h"
 #include "ui/graph/model/AxisTicks.h"
 #include "ui/graph/model/GraphTexts.h"
+#include "ui/graph/model/MarkerValues.h"
 
 #include <algorithm>
 #include <cmath>
@@ -13,6 +14,7 @@ namespace {
 
 constexpr double kGap = 6.0;
 constexpr double kHandleRoom = 22.0;
+constexpr double kLinesForBand = 16; // lower views have none
 constexpr double kSmallestPlot = 60.0;
 constexpr double kAxesPart = 0.22;  // of the view's width at most, but for the first
 constexpr double kLeastGrip = 27.0; // pixels of an axis beside the handles of the strips
@@ -43,13 +45,15 @@ int longestNumber(const GraphModel& model)
     qsizetype longest = kLeastNumber;
     for (const int index : model.traces().shown()) {
         const GraphParameter& parameter = *model.traces().at(index);
-        const ValueRange<double>& values = parameter.samples.extremes();
+        const ValueRange<double> values = parameter.range();
+        if (parameter.pStates)
+            longest = std::max<qsizetype>(longest, std::min(parameter.pStates->longest(), GraphLayout::kLongestState));
         for (const double value : {values.least, values.greatest}) {
-            if (!values.isEmpty())
+            if (!values.isEmpty() && !parameter.pStates)
                 longest = std::max(longest, graphNumber(value, parameter.precision).size());
         }
     }
-    return static_cast<int>(longest);
+    return static_cast<int>(longest) + (model.scenery().ghost() ? 1 : 0); // a difference may have a sign more
 }
 
 /// How much of the plot's height a shown trace's strip takes.
@@ -68,7 +72,8 @@ GraphLayout::GraphLayout(const GraphModel& model, const QSizeF& size, double tex
       mCharacter(canvasAdvance(textSize)), mNameLength(longestName(model)), mNumberLength(longestNumber(model)),
       mXmin(model.window().begin())
 {
-    const double top = mLine + kGap, table = placeTable(model);
+    const bool hasBand = model.scenery().course() && size.height() > kLinesForBand * mLine;
+    const double top = mLine + kGap + (hasBand ? mLine + 1 : 0.0), table = placeTable(model);
     placeLegend(model, size.width());
     if (mLegend == ELegend::eNone)
         placeLegendBelow(model, size.height() - table);
@@ -107,7 +112,7 @@ double GraphLayout::placeTable(const GraphModel& model)
     if (!model.marker().isRange() || model.traces().shown().empty())
         return 0;
     // The header takes a line, and what is said of the rows that have no room another one.
-    const int traces = model.traces().count(), room = std::max(3, static_cast<int>(mSize.height() * kTablePart / mLine));
+    const int traces = markerRows(model.traces(), model.scenery().ghost().get()), room = std::max(3, static_cast<int>(mSize.height() * kTablePart / mLine));
     mTableRows = VisibleRows(model.settings().firstTableRow, traces < room ? traces : room - 2, traces);
     const double height = (mTableRows.count + (mTableRows.isCut() ? 2 : 1)) * mLine + kGap;
     mTable = QRectF(kGap, mSize.height() - height, std::max(0.0, mSize.width() - 2 * kGap), height - kGap);
@@ -124,7 +129,10 @@ void GraphLayout::placeLegend(const GraphModel& model, double width)
         int numbers;
     };
     const int unit = 3 + longestUnit(model);
-    for (const Kind& kind : {Kind{ELegend::eFull, mNameLength, 3}, Kind{ELegend::eCursor, mNameLength, 1},
+    // Where two are compared, the numbers are what is looked for.
+    const Kind second{model.scenery().ghost() ? ELegend::eFull : ELegend::eCursor,
+                      model.scenery().ghost() ? std::min(mNameLength, kSomeOfName) : mNameLength, model.scenery().ghost() ? 3 : 1};
+    for (const Kind& kind : {Kind{ELegend::eFull, mNameLength, 3}, second, Kind{ELegend::eCursor, mNameLength, 1},
                              Kind{ELegend::eCursor, std::min(mNameLength, kSomeOfName), 1}}) {
         const int characters = kind.name + unit + kind.numbers * (mNumberLength + 1);
         const double wanted = std::ceil(characters * mCharacter + 2 * kGap);
@@ -169,7 +177,7 @@ double GraphLayout::axisWidth(const GraphModel& model, int index, double height)
     const ValueSpan range = model.valueSpan(index);
     const AxisTicks ticks(range[0], range[1], height, valueSpacing(height, mLine));
     qsizetype longest = 4;
-    for (const AxisTick& tick : ticks.ticks()) {
+    for (const AxisTick& tick : isStateStrip(model, index) ? std::vector<AxisTick>() : ticks.ticks()) {
         if (tick.isMajor)
             longest = std::max(longest, ticks.valueLabel(tick.value).size());
     }
@@ -274,7 +282,7 @@ QString GraphLayout::overlayText(const GraphModel& model, int index) const
     const GraphParameter& parameter = *model.traces().at(index);
     const std::optional<double> value =
         model.settings().displayMode == eSplit ? std::nullopt : model.traces().valueAt(index, model.cursor().time);
-    const QString number = value ? QLatin1Char(' ') + graphNumber(*value, parameter.precision) : QString();
+    const QString number = value ? QLatin1Char(' ') + parameter.text(*value) : QString();
     const auto room = static_cast<int>((mPlot.width() - kSwatch - 12) / mCharacter) - static_cast<int>(number.size());
     return shortened(parameter.label(), std::clamp(room, kFewestOfName, kLongestLabel)) + number;
 }

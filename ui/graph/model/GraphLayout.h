@@ -87,6 +87,7 @@ public:
     static constexpr double kSwatch = 10.0;        ///< of a trace's colour, before its name
     static constexpr double kHandleReach = 1500.0; ///< squared distance within which a handle is hit
     static constexpr int kLongestName = 24;
+    static constexpr int kLongestState = 10; ///< of the name of a state in a column of numbers
     static constexpr int kLongestLabel = 40; ///< of a name with its unit over the plot
 
 private:
@@ -131,6 +132,13 @@ private:
 }
 
 // In sight of those that call it for each vertex.
+/// Whether a trace has a strip of states, which has their names in it and no values at its axis.
+[[nodiscard]] inline bool isStateStrip(const GraphModel& model, int index)
+{
+    const GraphParameter* pTrace = model.traces().at(index);
+    return pTrace && pTrace->pStates && model.settings().displayMode == eSplit;
+}
+
 inline double GraphLayout::yOf(double value, const QRectF& area, const ValueSpan& span)
 {
     constexpr double kFar = 1e6; // pixels: beyond every view, and small enough for every canvas

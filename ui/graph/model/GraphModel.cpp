@@ -24,7 +24,8 @@ GraphData plainSettings()
 } // namespace
 
 GraphModel::GraphModel(QObject* pParent)
-    : QObject(pParent), mSettings(plainSettings()), mColours(mSettings), mTraces([this] { Q_EMIT signalRepaint(); })
+    : QObject(pParent), mSettings(plainSettings()), mColours(mSettings), mScenery([this] { Q_EMIT signalRepaint(); }),
+      mTraces([this] { Q_EMIT signalRepaint(); })
 {
     mTraces.setCount(kFirstTraces);
 }
@@ -32,7 +33,7 @@ GraphModel::GraphModel(QObject* pParent)
 void GraphModel::settingsChanged()
 {
     mColours = GraphColours(mSettings);
-    mTraces.setGround(mColours.background);
+    mTraces.setGround(mColours.background, mSettings.palette);
 }
 
 void GraphModel::setWindow(const TimeWindow& window)
@@ -99,20 +100,6 @@ void GraphModel::setMarker(const GraphMarker& marker)
 void GraphModel::addTopMarker(const TopMarker& marker)
 {
     mTopMarkers.push_back(marker);
-    Q_EMIT signalRepaint();
-}
-
-void GraphModel::setFound(std::vector<TimeSpan> spans)
-{
-    if (mFound.empty() && spans.empty())
-        return;
-    mFound = std::move(spans);
-    Q_EMIT signalRepaint();
-}
-
-void GraphModel::setMessage(const QString& text)
-{
-    mMessage = text;
     Q_EMIT signalRepaint();
 }
 

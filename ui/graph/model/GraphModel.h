@@ -1,8 +1,8 @@
 #pragma once
 
-#include "analysis/TimeSpan.h"
 #include "ui/graph/model/GraphCursor.h"
 #include "ui/graph/model/GraphMarker.h"
+#include "ui/graph/model/GraphScenery.h"
 #include "ui/graph/model/ShownTraces.h"
 #include "ui/graph/model/TimeWindow.h"
 
@@ -44,12 +44,8 @@ public:
     void setMarker(const GraphMarker& marker);
     [[nodiscard]] const std::vector<TopMarker>& topMarkers() const { return mTopMarkers; }
     void addTopMarker(const TopMarker& marker);
-    /// The parts of the record that a search found, in order of time.
-    [[nodiscard]] const std::vector<TimeSpan>& found() const { return mFound; }
-    void setFound(std::vector<TimeSpan> spans);
-    /// What stands in an empty graph.
-    [[nodiscard]] const QString& message() const { return mMessage; }
-    void setMessage(const QString& text);
+    [[nodiscard]] const GraphScenery& scenery() const { return mScenery; }
+    [[nodiscard]] GraphScenery& scenery() { return mScenery; }
 
     [[nodiscard]] const ShownTraces& traces() const { return mTraces; }
     [[nodiscard]] ShownTraces& traces() { return mTraces; }
@@ -82,6 +78,8 @@ Q_SIGNALS:
     void signalStrips();
     /// A key stands for a command of the graph.
     void signalCommand(int command);
+    /// The user wants to see an incident of the course.
+    void signalIncident(std::size_t incident);
 
 private:
     GraphData mSettings;
@@ -90,8 +88,7 @@ private:
     GraphCursor mCursor;
     GraphMarker mMarker;
     std::vector<TopMarker> mTopMarkers;
-    std::vector<TimeSpan> mFound;
-    QString mMessage;
+    GraphScenery mScenery;
     ShownTraces mTraces;
     double mTime = 0.0;
     bool mDataPresent = false;

@@ -1,10 +1,13 @@
 #include "ui/graph/model/GraphScene.h"
 
 #include "ui/canvas/ColourContrast.h"
+#include "ui/graph/model/CourseBand.h"
 #include "ui/graph/model/FoundMarks.h"
 #include "ui/graph/model/GraphAxes.h"
 #include "ui/graph/model/GraphTables.h"
 #include "ui/graph/model/NoteMarks.h"
+#include "ui/graph/model/StateSteps.h"
+#include "ui/graph/model/TraceColours.h"
 
 #include <algorithm>
 #include <cmath>
@@ -14,6 +17,8 @@ namespace ZARN {
 
 namespace {
 
+constexpr double kGhostDash = 5.0;      // pixels
+constexpr float kGhostShare = 0.6F;     // of the trace's colour in that of its ghost
 constexpr double kSampleDistance = 5.0; // pixels from sample to sample from which each can be marked
 
 /// The lines of a text, broken between words where they have more characters than that.
@@ -38,7 +43,10 @@ void GraphScene::draw(Canvas& canvas) const
 {
     canvas.fillRect(mLayout.view(), mModel.colours().labelBackground);
     canvas.fillRect(mLayout.plot(), mModel.colours().background);
+    const CourseBand course(mModel, mLayout);
+    course.drawFlights(canvas);
     GraphAxes(mModel, mLayout).draw(canvas);
+    course.draw(canvas);
     FoundMarks(mModel, mLayout).draw(canvas);
     drawTraces(canvas);
     drawMarker(canvas);
@@ -57,30 +65,62 @@ void GraphScene::draw(Canvas& canvas) const
 void GraphScene::drawTraces(Canvas& canvas) const
 {
     std::vector<QPointF> points; // one memory for all of them
+    drawGhost(canvas, points);
     const int highlighted = mModel.traces().highlighted();
     for (const int index : mModel.traces().shown()) {
         if (index != highlighted)
-            drawTrace(canvas, index, 1.0, points);
+            drawTrace(canvas, index, 0, points);
     }
     if (highlighted >= 0)
-        drawTrace(canvas, highlighted, 2.0, points);
+        drawTrace(canvas, highlighted, 1, points);
 }
 
-void GraphScene::drawTrace(Canvas& canvas, int index, double width, std::vector<QPointF>& points) const
+void GraphScene::drawGhost(Canvas& canvas, std::vector<QPointF>& points) const
 {
-    const GraphParameter& trace = *mModel.traces().at(index);
+    const Ghost* pGhost = mModel.scenery().ghost().get();
+    if (!pGhost)
+        return;
+    const bool isSplit = mModel.settings().displayMode == eSplit;
+    for (const int index : mModel.traces().shown()) {
+        if (!isShown(pGhost->traces, index) || (!isSplit && index != mModel.traces().axis()))
+            continue;
+        const QRectF area = mLayout.area(index);
+        place(mFrame.ghost().vertices(index), index, points);
+        const double phase =
+            std::fmod((mModel.window().begin() - mModel.scenery().ghostShift()) * mLayout.pixelsPerSecond(), 2 * kGhostDash);
+        makeDashes(points, kGhostDash, phase, area.left(), area.right());
+        canvas.push();
+        canvas.clip(area);
+        canvas.lineStrip(points, {mixed(mModel.colours().background, mModel.traces().at(index)->drawnColour, kGhostShare)});
+        canvas.pop();
+    }
+}
+
+void GraphScene::place(const std::vector<QPointF>& vertices, int index, std::vector<QPointF>& points) const
+{
     const QRectF area = mLayout.area(index);
     const ValueSpan span = mModel.valueSpan(index);
     // Vertices become pixels: the middle of a pixel is half a pixel after its edge.
     const double left = area.left() - 0.5, scale = mLayout.pixelsPerSecond();
     points.clear();
-    for (const QPointF& vertex : mFrame.traces().vertices(index))
+    for (const QPointF& vertex : vertices)
         points.emplace_back(left + vertex.x() * scale, GraphLayout::yOf(vertex.y(), area, span) - 0.5);
+}
+
+void GraphScene::drawTrace(Canvas& canvas, int index, int wider, std::vector<QPointF>& points) const
+{
+    const GraphParameter& trace = *mModel.traces().at(index);
+    const QRectF area = mLayout.area(index);
+    place(mFrame.traces().vertices(index), index, points);
     canvas.push();
     canvas.clip(area);
-    canvas.lineStrip(points, {trace.drawnColour, width});
+    if (isStateStrip(mModel, index))
+        StateSteps(mModel, mLayout).draw(canvas, index, mFrame.traces().vertices(index));
     if (trace.samplesVisible || points.size() == 1)
         drawSamples(canvas, points, trace.drawnColour);
+    if (const double dash = dashOf(trace); dash > 0)
+        makeDashes(points, dash, std::fmod(mModel.window().begin() * mLayout.pixelsPerSecond(), 2 * dash), area.left(), area.right());
+    canvas.lineStrip(points, {trace.drawnColour, static_cast<double>(trace.stroke.width + wider)});
     canvas.pop();
 }
 
@@ -153,12 +193,12 @@ void GraphScene::drawHandles(Canvas& canvas) const
 
 void GraphScene::drawMessage(Canvas& canvas) const
 {
-    if (mModel.message().isEmpty())
+    if (mModel.scenery().message().isEmpty())
         return;
     const QRectF& plot = mLayout.plot();
     CanvasText style{mLayout.textSize() + 2, mLabels.contrast(), false, Qt::AlignHCenter | Qt::AlignVCenter, false};
-    const QStringList lines =
-        wrapped(mModel.message(), std::max(static_cast<int>(plot.width() / canvas.textSize(QStringLiteral("x"), style).width()), 1));
+    const QStringList lines = wrapped(mModel.scenery().message(),
+                                      std::max(static_cast<int>(plot.width() / canvas.textSize(QStringLiteral("x"), style).width()), 1));
     const double height = mLayout.line() + 4;
     double y = plot.center().y() - static_cast<double>(lines.size() - 1) * height / 2, width = 0.0;
     for (const QString& line : lines)

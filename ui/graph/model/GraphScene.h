@@ -19,7 +19,11 @@ public:
 
 private:
     void drawTraces(Canvas& canvas) const;
-    void drawTrace(Canvas& canvas, int index, double width, std::vector<QPointF>& points) const;
+    /// What the traces are compared with, dimmed behind them.
+    void drawGhost(Canvas& canvas, std::vector<QPointF>& points) const;
+    /// Vertices to pixels.
+    void place(const std::vector<QPointF>& vertices, int index, std::vector<QPointF>& points) const;
+    void drawTrace(Canvas& canvas, int index, int wider, std::vector<QPointF>& points) const;
     static void drawSamples(Canvas& canvas, std::span<const QPointF> points, const QColor& colour);
     void drawMarker(Canvas& canvas) const;
     void drawTopMarkers(Canvas& canvas, const CursorLabels& cursor) const;

@@ -9,7 +9,8 @@ namespace ZARN {
 
 class Property;
 
-/// What of the graph's setup lasts from one start to the next: the colours that the user gave to traces, and what a click does.
+/// What of the graph's setup lasts from one start to the next: the looks that the user gave to traces, the palette, and what a click
+/// does.
 class GraphSettings {
 public:
     explicit GraphSettings(Property& property) : mProperty(property) {}
@@ -26,12 +27,18 @@ public:
     bool setColour(const std::string& name, const std::string& colour);
 
 private:
-    /// The number of the parameter's colour; none when it has none.
+    struct Look {
+        std::string colour; ///< #rrggbb; empty for that which the trace has by itself
+        TraceStroke stroke;
+        bool operator==(const Look&) const = default;
+    };
+    /// The number of the parameter's look; none when it has none.
     [[nodiscard]] std::optional<int> ownNumber(const std::string& name) const;
-    /// Under which number the settings keep the colour of the parameter in that slot.
-    [[nodiscard]] int colourNumber(int slot, const QString& name) const;
+    /// Under which number the settings keep the look of the parameter in that slot.
+    [[nodiscard]] int lookNumber(int slot, const QString& name) const;
     [[nodiscard]] int freeNumber() const;
-    bool setColour(int number, const std::string& colour, const std::string& owner);
+    [[nodiscard]] Look look(int number) const;
+    bool setLook(int number, const Look& look, const std::string& owner);
 
     Property& mProperty;
 };

@@ -44,14 +44,21 @@ QStringList GraphTables::legendNumbers(int index) const
 {
     const GraphParameter& trace = *mModel.traces().at(index);
     std::vector<std::optional<double>> values{mModel.traces().valueAt(index, mModel.cursor().time)};
-    if (mLayout.legendKind() == GraphLayout::ELegend::eFull) {
+    const Ghost* pGhost = mModel.scenery().ghost().get();
+    if (pGhost && mLayout.legendKind() == GraphLayout::ELegend::eFull) {
+        values.push_back(ghostValue(*pGhost, index, mModel.cursor().time, mModel.scenery().ghostShift()));
+        const bool isDifferent = values[0] && values[1] && !trace.pStates;
+        values.push_back(isDifferent ? std::optional(*values[0] - *values[1]) : std::nullopt);
+    } else if (mLayout.legendKind() == GraphLayout::ELegend::eFull) {
         const ValueRange<double> range = windowRange(mModel, trace.samples);
         for (const double value : {range.least, range.greatest})
             values.push_back(range.isEmpty() ? std::nullopt : std::optional(value));
     }
     QStringList texts;
-    for (const std::optional<double>& value : values)
-        texts << (value ? graphNumber(*value, trace.precision) : QStringLiteral("-"));
+    for (const std::optional<double>& value : values) {
+        const QString text = value ? trace.text(*value) : QStringLiteral("-");
+        texts << (trace.pStates ? GraphLayout::shortened(text, GraphLayout::kLongestState) : text); // a number is never cut
+    }
     return texts;
 }
 
@@ -89,7 +96,11 @@ void GraphTables::drawLegend(Canvas& canvas) const
 void GraphTables::drawLegendHeader(Canvas& canvas) const
 {
     QStringList texts{translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "Cursor"))};
-    if (mLayout.legendKind() == GraphLayout::ELegend::eFull)
+    const Ghost* pGhost = mModel.scenery().ghost().get();
+    if (pGhost && mLayout.legendKind() == GraphLayout::ELegend::eFull)
+        texts << GraphLayout::shortened(pGhost->name, mLayout.numberLength())
+              << GraphLayout::shortened(translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "Difference")), mLayout.numberLength());
+    else if (mLayout.legendKind() == GraphLayout::ELegend::eFull)
         texts << translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "Min")) << translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "Max"));
     // Strips have their lines at their own heights, so the header stands above the first.
     const bool isInStrips = mLayout.isLegendInStrips();
@@ -111,7 +122,7 @@ void GraphTables::drawLegendLine(Canvas& canvas, const QRectF& line, int index, 
     const double x = line.left() + kSwatch + 6;
     if (layer == ELayer::eAreas) {
         if (index == mModel.traces().highlighted())
-            canvas.fillRect(line, GraphLabels::kHighlight);
+            canvas.fillRect(line, mLabels.highlight());
         canvas.fillRect(QRectF(line.left() + 2, line.top() + 3, kSwatch, line.height() - 6), parameter.drawnColour);
     } else if (layer == ELayer::eNames) {
         canvas.text(QPointF(x, line.top()), GraphLayout::shortened(parameter.name, mLayout.nameLength()), style(true));
@@ -140,7 +151,7 @@ void GraphTables::drawOverlay(Canvas& canvas, const CursorLabels& cursor) const
         const GraphParameter& parameter = *mModel.traces().at(index);
         canvas.fillRect(line, box);
         if (index == mModel.traces().highlighted())
-            canvas.fillRect(line, GraphLabels::kHighlight);
+            canvas.fillRect(line, mLabels.highlight());
         canvas.fillRect(QRectF(line.left() + 2, line.top() + 3, kSwatch, line.height() - 6), parameter.drawnColour);
         canvas.text(line.topLeft() + QPointF(kSwatch + 5, 0), mLayout.overlayText(mModel, index), style(true));
     }

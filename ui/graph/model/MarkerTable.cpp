@@ -1,5 +1,7 @@
 #include "ui/graph/model/MarkerTable.h"
 
+#include "ui/canvas/ColourContrast.h"
+
 #include <QCoreApplication>
 
 #include <algorithm>
@@ -11,6 +13,7 @@ namespace ZARN {
 
 namespace {
 
+constexpr float kGhostShare = 0.5F; // of the trace's colour in that of its ghost
 constexpr double kSwatch = GraphLayout::kSwatch;
 enum EColumn { eName, eFrom, eTo, eDifference, eMinimum, eMaximum, eMean, eIntegral, eUnit };
 
@@ -21,7 +24,7 @@ void MarkerTable::draw(Canvas& canvas) const
     const QRectF& table = mLayout.table();
     if (table.isEmpty())
         return;
-    const std::vector<MarkerValues> values = markerValues(mModel.traces(), mModel.marker());
+    const std::vector<MarkerValues> values = markerValues(mModel.traces(), mModel.marker(), &mModel.scenery());
     const std::vector<QStringList> rows = cells(values);
     const std::vector<int> widths = this->widths(rows);
     const VisibleRows& visible = mLayout.tableRows();
@@ -30,9 +33,9 @@ void MarkerTable::draw(Canvas& canvas) const
     for (int i = visible.first; i < visible.first + visible.count; ++i) {
         y += mLayout.line();
         const auto place = static_cast<std::size_t>(i);
-        if (mModel.traces().shown()[place] == mModel.traces().highlighted())
-            canvas.fillRect(QRectF(table.left(), y, table.width(), mLayout.line()), GraphLabels::kHighlight);
-        canvas.fillRect(QRectF(table.left() + 2, y + 3, kSwatch, mLayout.line() - 6), values[place].pParameter->drawnColour);
+        if (values[place].index == mModel.traces().highlighted())
+            canvas.fillRect(QRectF(table.left(), y, table.width(), mLayout.line()), mLabels.highlight());
+        canvas.fillRect(QRectF(table.left() + 2, y + 3, kSwatch, mLayout.line() - 6), colourOf(values[place]));
         drawRow(canvas, y, rows[place + 1], widths);
     }
     if (!visible.isCut())
@@ -45,6 +48,12 @@ void MarkerTable::draw(Canvas& canvas) const
     canvas.text(QPointF(table.left() + kSwatch + 6, y + mLayout.line()), text, style(false));
 }
 
+QColor MarkerTable::colourOf(const MarkerValues& value) const
+{
+    const QColor& colour = mModel.traces().at(value.index)->drawnColour;
+    return value.ghost.isEmpty() ? colour : mixed(mModel.colours().labelBackground, colour, kGhostShare);
+}
+
 std::vector<QStringList> MarkerTable::cells(const std::vector<MarkerValues>& values) const
 {
     const GraphMarker& marker = mModel.marker();
@@ -52,7 +61,7 @@ std::vector<QStringList> MarkerTable::cells(const std::vector<MarkerValues>& val
     std::vector<QStringList> rows{QStringList{width} + MarkerValues::headers() + QStringList{QString()}};
     for (const MarkerValues& value : values) {
         const GraphParameter& trace = *value.pParameter;
-        rows.push_back(QStringList{GraphLayout::shortened(trace.label(), GraphLayout::kLongestName + 8)} + value.texts() +
+        rows.push_back(QStringList{GraphLayout::shortened(value.label(), GraphLayout::kLongestName + 8)} + value.texts() +
                        QStringList{QLatin1Char('[') + integralUnit(trace.unit) + QLatin1Char(']')});
     }
     return rows;

@@ -17,6 +17,7 @@ private:
     [[nodiscard]] std::vector<QStringList> cells(const std::vector<MarkerValues>& values) const;
     [[nodiscard]] std::vector<int> widths(const std::vector<QStringList>& rows) const;
     void drawRow(Canvas& canvas, double y, const QStringList& cells, const std::vector<int>& widths) const;
+    [[nodiscard]] QColor colourOf(const MarkerValues& value) const;
     [[nodiscard]] CanvasText style(bool isBold) const;
 
     const GraphModel& mModel;

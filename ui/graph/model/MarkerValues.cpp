@@ -5,6 +5,8 @@
 #include <QCoreApplication>
 #include <QStringList>
 
+#include <algorithm>
+
 namespace ZARN {
 
 namespace {
@@ -66,9 +68,18 @@ MarkerValues MarkerValues::of(const GraphParameter& parameter, double start, dou
     return out;
 }
 
+QString MarkerValues::label() const
+{
+    return ghost.isEmpty() ? pParameter->label() : ghost + QStringLiteral(": ") + pParameter->label();
+}
+
 QStringList MarkerValues::texts() const
 {
     const int precision = pParameter->precision;
+    if (pParameter->pStates) { // nothing can be computed of them
+        const auto name = [this](const std::optional<double>& value) { return value ? pParameter->text(*value) : QStringLiteral("-"); };
+        return {name(atStart), name(atEnd), "-", name(minimum), name(maximum), "-", "-"};
+    }
     QStringList out;
     for (const std::optional<double>& value : {atStart, atEnd, difference, minimum, maximum})
         out << numberText(value, precision);
@@ -78,19 +89,33 @@ QStringList MarkerValues::texts() const
 
 QStringList MarkerValues::headers()
 {
-    return {header(QT_TRANSLATE_NOOP("ZARN::MarkerValues", "From")), header(QT_TRANSLATE_NOOP("ZARN::MarkerValues", "To")),
+    return {header(QT_TRANSLATE_NOOP("ZARN::MarkerValues", "From")),       header(QT_TRANSLATE_NOOP("ZARN::MarkerValues", "To")),
             header(QT_TRANSLATE_NOOP("ZARN::MarkerValues", "Difference")), header(QT_TRANSLATE_NOOP("ZARN::MarkerValues", "Minimum")),
-            header(QT_TRANSLATE_NOOP("ZARN::MarkerValues", "Maximum")), header(QT_TRANSLATE_NOOP("ZARN::MarkerValues", "Mean")),
+            header(QT_TRANSLATE_NOOP("ZARN::MarkerValues", "Maximum")),    header(QT_TRANSLATE_NOOP("ZARN::MarkerValues", "Mean")),
             header(QT_TRANSLATE_NOOP("ZARN::MarkerValues", "Integral"))};
 }
 
-std::vector<MarkerValues> markerValues(const ShownTraces& traces, const GraphMarker& marker)
+std::vector<MarkerValues> markerValues(const ShownTraces& traces, const GraphMarker& marker, const GraphScenery* pScenery)
 {
     std::vector<MarkerValues> out;
     const auto [start, end] = marker.ordered();
-    for (const int index : traces.shown())
+    const Ghost* pGhost = pScenery ? pScenery->ghost().get() : nullptr;
+    const double shift = pScenery ? pScenery->ghostShift() : 0.0;
+    for (const int index : traces.shown()) {
         out.push_back(MarkerValues::of(*traces.at(index), start, end));
+        out.back().index = index;
+        if (!hasGhost(pGhost, index))
+            continue;
+        out.push_back(MarkerValues::of(*pGhost->traces.at(index), start - shift, end - shift));
+        out.back().index = index;
+        out.back().ghost = pGhost->name;
+    }
     return out;
+}
+
+int markerRows(const ShownTraces& traces, const Ghost* pGhost)
+{
+    return static_cast<int>(traces.count() + std::ranges::count_if(traces.shown(), [pGhost](int index) { return hasGhost(pGhost, index); }));
 }
 
 QString integralUnit(const QString& unit)
@@ -100,20 +125,20 @@ QString integralUnit(const QString& unit)
     return unit.isEmpty() ? QStringLiteral("h") : unit + QStringLiteral("\u00b7h");
 }
 
-QString markerText(const ShownTraces& traces, const GraphMarker& marker)
+QString markerText(const ShownTraces& traces, const GraphMarker& marker, const TimeReference& times, const GraphScenery* pScenery)
 {
     const auto [start, end] = marker.ordered();
-    QString text = header(QT_TRANSLATE_NOOP("ZARN::MarkerValues", "Time")) + QLatin1Char('\t') + graphTime(start) + QLatin1Char('\t')
-                   + graphTime(end) + QLatin1Char('\n');
+    QString text = times.title() + QLatin1Char('\t') + graphTime(times.told(start)) + QLatin1Char('\t') + graphTime(times.told(end)) +
+                   QLatin1Char('\n');
     text += QStringLiteral("dt\t%1 s\n").arg(end - start, 0, 'f', 3);
     const QStringList columns = MarkerValues::headers();
-    text += header(QT_TRANSLATE_NOOP("ZARN::MarkerValues", "Parameter")) + QLatin1Char('\t') + header(QT_TRANSLATE_NOOP("ZARN::MarkerValues", "Unit"))
-            + QLatin1Char('\t') + columns.join(QLatin1Char('\t')) + QLatin1Char('\t')
-            + header(QT_TRANSLATE_NOOP("ZARN::MarkerValues", "Unit of integral")) + QLatin1Char('\n');
-    for (const MarkerValues& line : markerValues(traces, marker)) {
+    text += header(QT_TRANSLATE_NOOP("ZARN::MarkerValues", "Parameter")) + QLatin1Char('\t') +
+            header(QT_TRANSLATE_NOOP("ZARN::MarkerValues", "Unit")) + QLatin1Char('\t') + columns.join(QLatin1Char('\t')) +
+            QLatin1Char('\t') + header(QT_TRANSLATE_NOOP("ZARN::MarkerValues", "Unit of integral")) + QLatin1Char('\n');
+    for (const MarkerValues& line : markerValues(traces, marker, pScenery)) {
         const QString unit = cell(line.pParameter->unit);
-        text += cell(line.pParameter->name) + QLatin1Char('\t') + unit + QLatin1Char('\t') + line.texts().join(QLatin1Char('\t')) + QLatin1Char('\t')
-                + cell(integralUnit(line.pParameter->unit)) + QLatin1Char('\n');
+        text += cell(line.ghost.isEmpty() ? line.pParameter->name : line.ghost + ": " + line.pParameter->name) + QLatin1Char('\t') + unit + QLatin1Char('\t') + line.texts().join(QLatin1Char('\t')) +
+                QLatin1Char('\t') + cell(integralUnit(line.pParameter->unit)) + QLatin1Char('\n');
     }
     return text;
 }

@@ -1,6 +1,7 @@
 #include "ui/graph/model/RecordGraph.h"
 
 #include "app/Property.h"
+#include "app/Settings.h"
 #include "card/CardContainer.h"
 #include "profile/Profile.h"
 #include "trace/TraceSet.h"
@@ -14,7 +15,8 @@
 
 namespace ZARN {
 
-RecordGraph::RecordGraph(const Session& session, GraphModel& model) : mSession(session), mModel(model), mSettings(session.property)
+RecordGraph::RecordGraph(const Session& session, GraphModel& model) : mSession(session), mModel(model), mSettings(session.property),
+      mGhost(session, model, [this](const RecordData* pRecord, const auto& visit) { forEachTrace(pRecord, visit); })
 {
     mModel.traces().setCount(kSlots);
     mModel.setOfflineMode(true);
@@ -47,7 +49,10 @@ void RecordGraph::describeSlots()
     ShownTraces& traces = mModel.traces();
     const auto describe = [&](int slot, const Trace& trace) {
         describeSlot(traces, slot, trace);
-        traces.setHeight(slot, heightOf(trace.name()));
+        traces.edit(slot, [&](GraphParameter& parameter) {
+            const double height = heightOf(trace.name());
+            parameter.height = height == 1.0 && parameter.pStates ? parameter.pStates->height() : height;
+        });
     };
     mUnshown.clear();
     const int used = forEachTrace(nullptr, describe, &mUnshown);
@@ -56,7 +61,30 @@ void RecordGraph::describeSlots()
     std::vector<int> inUse(static_cast<std::size_t>(used));
     std::iota(inUse.begin(), inUse.end(), 0);
     traces.setOrder(mStrips.slotsFor(names(inUse)));
+    const std::vector<int> numbers = mColours.assign(names(inUse));
+    for (std::size_t slot = 0; slot < numbers.size(); ++slot)
+        traces.edit(static_cast<int>(slot), [&](GraphParameter& trace) { trace.colourNumber = numbers[slot]; });
     updateSettings();
+}
+
+void RecordGraph::updateSettings()
+{
+    mSettings.load(mModel);
+    updateTimes();
+}
+
+void RecordGraph::setTimes(ETimeReference kind)
+{
+    Settings::kTimeReference.set(mSession.property, static_cast<int>(kind));
+    mSession.property.writeXmlFile();
+    updateTimes();
+}
+
+void RecordGraph::updateTimes()
+{
+    mModel.settings().times = TimeReference::of(mSession.property, mSession.container);
+    mModel.settingsChanged();
+    mGhost.follow();
 }
 
 void RecordGraph::updateProfile()
@@ -193,9 +221,10 @@ void RecordGraph::fillRecord()
     mModel.clear();
     if (mpRecord)
         forEachTrace(mpRecord, [this](int slot, const Trace& trace) { fillSlot(mModel, slot, trace); });
+    mGhost.fill(mpRecord != nullptr);
     // Filling moves the window of the automatic mode along.
     mModel.setWindow(window);
-    mModel.setMessage(emptyMessage());
+    mModel.scenery().setMessage(emptyMessage());
 }
 
 QString RecordGraph::emptyMessage() const
@@ -218,6 +247,7 @@ bool RecordGraph::updateRecord(RecordData* pRecord)
     const RecordKey key = pRecord ? recordKey() : mMarkedRecord;
     mKeepsWindow = mpRecord && mpRecord == pRecord && key == mMarkedRecord && span() == mSpan;
     mpRecord = pRecord;
+    updateTimes();
     if (!mBeside.empty() && (!pRecord || !(key == mMarkedRecord))) {
         mBeside.clear();
         describeSlots();
@@ -236,6 +266,7 @@ bool RecordGraph::updateRecord(RecordData* pRecord)
 
 bool RecordGraph::updateFlights(RecordData* pRecord)
 {
+    updateTimes();
     if (!(span() == mSpan))
         return updateRecord(pRecord);
     mKeepsWindow = true; // the traces are the same
@@ -268,7 +299,7 @@ void RecordGraph::showTime(double time)
 void RecordGraph::setZarnMode(int mode)
 {
     mZarnMode = mode;
-    mModel.setMessage(emptyMessage());
+    mModel.scenery().setMessage(emptyMessage());
 }
 
 bool RecordGraph::hasSamples() const
@@ -326,9 +357,10 @@ void RecordGraph::clear()
     mModel.clear();
     if (!mpRecord || mModel.traces().count() == 0)
         return;
-    mModel.setMessage(mZarnMode != 0 ? tr("The graph was cleared.")
-                                     : tr("The graph was cleared.\nTick a parameter in the profile panel, or choose another power cycle or "
-                                          "flight, to fill it again."));
+    mModel.scenery().setMessage(mZarnMode != 0
+                                    ? tr("The graph was cleared.")
+                                    : tr("The graph was cleared.\nTick a parameter in the profile panel, or choose another power cycle or "
+                                         "flight, to fill it again."));
 }
 
 } // namespace ZARN

@@ -6,7 +6,9 @@
 #include "ui/graph/model/GraphHistory.h"
 #include "ui/graph/model/GraphModel.h"
 #include "ui/graph/model/GraphSettings.h"
+#include "ui/graph/model/RecordGhost.h"
 #include "ui/graph/model/StripOrder.h"
+#include "ui/graph/model/TraceColours.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -35,7 +37,9 @@ public:
     bool updateFlights(RecordData* pRecord);
     /// Profile and record in one pass over the latter.
     bool update(RecordData* pRecord);
-    void updateSettings() { mSettings.load(mModel); }
+    void updateSettings();
+    /// How times are told from now on, here and in every other view.
+    void setTimes(ETimeReference kind);
     void storeSettings() { mSettings.store(mModel); }
     /// The common view time has changed.
     void setTime(double time);
@@ -52,6 +56,9 @@ public:
     bool showView(const GraphView& from, const GraphView& to);
     /// What is ticked and has no slot.
     [[nodiscard]] const QStringList& unshown() const { return mUnshown; }
+
+    /// What it is compared with.
+    [[nodiscard]] RecordGhost& ghost() { return mGhost; }
 
     [[nodiscard]] bool hasRecord() const { return mpRecord != nullptr; }
     [[nodiscard]] bool hasSamples() const;
@@ -83,6 +90,7 @@ private:
     [[nodiscard]] RecordKey recordKey() const;
     [[nodiscard]] QString emptyMessage() const;
     [[nodiscard]] double heightOf(const std::string& name) const;
+    void updateTimes();
     [[nodiscard]] std::optional<DisplayLayout::Scale> zoomOf(const QString& name) const;
     void describeSlots();
     void fillRecord();
@@ -91,9 +99,11 @@ private:
     GraphModel& mModel;
     GraphSettings mSettings;
     StripOrder mStrips;
+    ColourNumbers mColours;
     std::map<std::string, double> mHeights; ///< of strips, by the name of the parameter; of those that differ
     QStringList mUnshown;
     std::set<std::string> mBeside; ///< names of parameters that are shown without being ticked
+    RecordGhost mGhost;
     RecordData* mpRecord = nullptr;
     RecordKey mMarkedRecord;
     TimeSpan mSpan{};

@@ -19,12 +19,12 @@ void ShownTraces::setCount(int count)
     mTraces.resize(static_cast<std::size_t>(std::clamp(count, 0, kMostTraces)));
     mOrder.clear();
     for (std::size_t i = 0; i < mTraces.size(); ++i) {
-        mTraces[i].colour = standardTraceColour(i);
+        mTraces[i].colourNumber = static_cast<int>(i);
         mOrder.push_back(static_cast<int>(i));
     }
     ++mGeneration;
     updateShown();
-    setGround(mGround);
+    setGround(mGround, mPalette);
 }
 
 const GraphParameter* ShownTraces::at(int index) const
@@ -94,15 +94,16 @@ void ShownTraces::setPrecision(int index, int digits)
 
 void ShownTraces::setHeight(int index, double strips)
 {
-    if (GraphParameter* pTrace = slot(index))
-        pTrace->height = strips;
-    changed();
+    edit(index, [strips](GraphParameter& trace) { trace.height = strips; });
 }
 
-void ShownTraces::setSamplesVisible(int index, bool on)
+void ShownTraces::edit(int index, const std::function<void(GraphParameter&)>& change)
 {
-    if (GraphParameter* pTrace = slot(index))
-        pTrace->samplesVisible = on;
+    GraphParameter* pTrace = slot(index);
+    if (!pTrace)
+        return;
+    change(*pTrace);
+    colour(*pTrace);
     changed();
 }
 
@@ -113,22 +114,30 @@ void ShownTraces::setBands(int index, std::vector<GraphBand> bands)
     changed();
 }
 
+void ShownTraces::colour(GraphParameter& trace) const
+{
+    if (!trace.hasOwnColour)
+        trace.colour = standardTraceColour(mPalette, trace.colourNumber);
+    trace.drawnColour = drawnTraceColour(trace, mGround);
+}
+
 void ShownTraces::setColour(int index, const QColor& colour)
 {
     GraphParameter* pTrace = slot(index);
     if (!pTrace)
         return;
     pTrace->hasOwnColour = colour.isValid();
-    pTrace->colour = colour.isValid() ? colour : standardTraceColour(static_cast<std::size_t>(index));
-    pTrace->drawnColour = drawnTraceColour(*pTrace, mGround);
+    pTrace->colour = colour;
+    this->colour(*pTrace);
     changed();
 }
 
-void ShownTraces::setGround(const QColor& colour)
+void ShownTraces::setGround(const QColor& colour, EGraphPalette palette)
 {
     mGround = colour;
+    mPalette = palette;
     for (GraphParameter& trace : mTraces)
-        trace.drawnColour = drawnTraceColour(trace, mGround);
+        this->colour(trace);
     changed();
 }
 
@@ -185,8 +194,10 @@ void ShownTraces::append(int index, std::span<const double> times, std::span<con
 
 void ShownTraces::clearSamples()
 {
-    for (GraphParameter& trace : mTraces)
+    for (GraphParameter& trace : mTraces) {
         trace.samples.clear();
+        trace.breaks.clear();
+    }
     ++mGeneration;
     changed();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/canvas/Palette.h"
 #include "ui/graph/model/GraphParameter.h"
 
 #include <functional>
@@ -28,12 +29,13 @@ public:
     void setName(int index, const QString& name, const QString& unit);
     void setPrecision(int index, int digits);
     void setHeight(int index, double strips);
-    void setSamplesVisible(int index, bool on);
+    /// For all that needs no rule: how it is drawn, what is said of it.
+    void edit(int index, const std::function<void(GraphParameter&)>& change);
     void setBands(int index, std::vector<GraphBand> bands);
     /// The user's own choice; an invalid one gives back the colour that the slot has by itself.
     void setColour(int index, const QColor& colour);
-    /// What the traces are drawn on.
-    void setGround(const QColor& colour);
+    /// What the traces are drawn on, and the palette of those without a colour of their own.
+    void setGround(const QColor& colour, EGraphPalette palette = EGraphPalette::eStandard);
     /// Puts a strip into the place of another. @return false when one of them does not exist, or both are one
     bool move(int from, int to);
     /// The strips from top to bottom; slots that are not named follow in their own order.
@@ -56,6 +58,7 @@ public:
 
 private:
     [[nodiscard]] GraphParameter* slot(int index);
+    void colour(GraphParameter& trace) const;
     void updateShown();
     void changed() const;
 
@@ -64,6 +67,7 @@ private:
     std::vector<int> mOrder; // of strips, all slots
     std::vector<int> mShown;
     QColor mGround{Qt::white};
+    EGraphPalette mPalette = EGraphPalette::eStandard;
     int mPointed = -1;
     int mPinned = -1;
     std::size_t mGeneration = 1;

@@ -2,7 +2,9 @@
 
 #include "app/Numeric.h"
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace ZARN {
 
@@ -38,6 +40,7 @@ void TraceBuilder::build(const SampleSeries& samples, double begin, double end, 
     const Window visible = window(samples, begin, end);
     if (visible.first > visible.last)
         return;
+    mGapsLeft = mGaps.subspan(static_cast<std::size_t>(std::ranges::lower_bound(mGaps, visible.first) - mGaps.begin()));
     const auto most = static_cast<std::size_t>(std::max(columns, 1)) * kSamplesPerColumn;
     if (visible.last - visible.first < most)
         addSamples(samples, begin, visible.first, visible.last + 1, vertices);
@@ -47,13 +50,26 @@ void TraceBuilder::build(const SampleSeries& samples, double begin, double end, 
         addUnordered(samples, begin, end, std::max(columns, 1), visible, vertices);
 }
 
-void TraceBuilder::addSamples(const SampleSeries& samples, double begin, std::size_t first, std::size_t last, std::vector<QPointF>& vertices) const
+void TraceBuilder::addSamples(const SampleSeries& samples, double begin, std::size_t first, std::size_t last,
+                              std::vector<QPointF>& vertices)
 {
-    for (; first < last; ++first)
+    for (; first < last; ++first) {
+        if (!mGapsLeft.empty())
+            addGap(first, vertices);
         vertices.emplace_back(samples.time(first) - begin, samples.value(first));
+    }
 }
 
-void TraceBuilder::addColumns(const SampleSeries& samples, double begin, double end, int columns, Window window, std::vector<QPointF>& vertices)
+void TraceBuilder::addGap(std::size_t position, std::vector<QPointF>& vertices)
+{
+    while (!mGapsLeft.empty() && mGapsLeft.front() < position)
+        mGapsLeft = mGapsLeft.subspan(1);
+    if (!mGapsLeft.empty() && mGapsLeft.front() == position && !vertices.empty())
+        vertices.emplace_back(vertices.back().x(), std::numeric_limits<double>::quiet_NaN());
+}
+
+void TraceBuilder::addColumns(const SampleSeries& samples, double begin, double end, int columns, Window window,
+                              std::vector<QPointF>& vertices)
 {
     const double step = (end - begin) / columns;
     mPositions.resize(static_cast<std::size_t>(columns) + 1);
@@ -69,18 +85,21 @@ void TraceBuilder::addColumns(const SampleSeries& samples, double begin, double 
     addSamples(samples, begin, mPositions.back(), window.last + 1, vertices);
 }
 
-void TraceBuilder::addColumn(const SampleSeries& samples, double begin, double step, int column, std::vector<QPointF>& vertices) const
+void TraceBuilder::addColumn(const SampleSeries& samples, double begin, double step, int column, std::vector<QPointF>& vertices)
 {
     const std::size_t first = mPositions[static_cast<std::size_t>(column)], last = mPositions[static_cast<std::size_t>(column) + 1];
     if (last <= first + kSamplesPerColumn)
         return addSamples(samples, begin, first, last, vertices);
+    if (!mGapsLeft.empty())
+        addGap(first, vertices);
     const ValueRange<double>& range = mRanges[static_cast<std::size_t>(column)];
     const double values[] = {samples.value(first), range.least, range.greatest, samples.value(last - 1)};
     for (int i = 0; i < 4; ++i)
         vertices.emplace_back(step * (column + placeInColumn(i)), values[i]);
 }
 
-void TraceBuilder::addUnordered(const SampleSeries& samples, double begin, double end, int columns, Window window, std::vector<QPointF>& vertices)
+void TraceBuilder::addUnordered(const SampleSeries& samples, double begin, double end, int columns, Window window,
+                                std::vector<QPointF>& vertices)
 {
     // Times that go back belong to earlier columns: each sample is looked at. Only damaged recordings come here.
     struct Column {

@@ -2,16 +2,16 @@
 
 #include "ui/canvas/ColourContrast.h"
 
-#include <array>
+#include <set>
+#include <tuple>
+#include <utility>
 
 namespace ZARN {
 
 namespace {
 
-constexpr double kLeastContrast = 3.0; // of thin lines
-constexpr std::array<float, 3> kColours[] = {{1.0F, 0.0F, 0.0F}, {0.0F, 0.7F, 0.0F}, {0.0F, 0.0F, 0.7F},  {0.5F, 0.5F, 0.0F},
-                                             {0.0F, 0.5F, 0.5F}, {0.5F, 0.0F, 0.5F}, {1.0F, 0.55F, 0.0F}, {0.3F, 0.75F, 1.0F},
-                                             {1.0F, 0.2F, 0.8F}, {0.9F, 0.9F, 0.2F}, {0.6F, 0.4F, 0.25F}, {0.3F, 0.95F, 0.75F}};
+constexpr double kLeastContrast = 3.0;    // of thin lines
+constexpr double kDash = 7.0, kDot = 2.0; // pixels
 
 } // namespace
 
@@ -25,10 +25,45 @@ std::vector<TraceColour> traceColours(const ShownTraces& traces)
     return colours;
 }
 
-QColor standardTraceColour(std::size_t slot)
+QColor standardTraceColour(EGraphPalette palette, int number)
 {
-    const auto& [red, green, blue] = kColours[slot % std::size(kColours)];
-    return QColor::fromRgbF(red, green, blue);
+    const auto& colours = Palette::graphColours(palette).traces;
+    return colours[static_cast<std::size_t>(number) % colours.size()];
+}
+
+double dashOf(const GraphParameter& trace)
+{
+    switch (trace.stroke.style) {
+    case ELineStyle::eSolid: return 0.0;
+    case ELineStyle::eDashed: return kDash;
+    case ELineStyle::eDotted: return kDot;
+    case ELineStyle::eAutomatic: break;
+    }
+    const std::size_t round = static_cast<std::size_t>(trace.colourNumber) / std::tuple_size_v<decltype(Palette::Graph::traces)>;
+    return round == 0 || trace.hasOwnColour ? 0.0 : round % 2 == 1 ? kDash : kDot;
+}
+
+std::vector<int> ColourNumbers::assign(const std::vector<QString>& names)
+{
+    std::multimap<QString, int> before = std::exchange(mNumbers, {});
+    std::vector<int> numbers(names.size(), -1);
+    std::set<int> taken;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        if (const auto found = before.find(names[i]); found != before.end()) {
+            taken.insert(numbers[i] = found->second);
+            before.erase(found);
+        }
+    }
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        int number = numbers[i] >= 0 ? numbers[i] : static_cast<int>(i);
+        if (numbers[i] < 0 && taken.contains(number)) {
+            for (number = 0; taken.contains(number);)
+                ++number;
+        }
+        taken.insert(numbers[i] = number);
+        mNumbers.emplace(names[i], number);
+    }
+    return numbers;
 }
 
 QColor drawnTraceColour(const GraphParameter& trace, const QColor& ground)

@@ -31,11 +31,11 @@ ValueSpan ValueScale::spanOf(const ShownTraces& traces, int index) const
         if (const auto found = zoomed.find(keyOf(trace.name, trace.unit)); found != zoomed.end())
             return found->second;
     }
-    ValueRange<double> values = trace.samples.extremes();
+    ValueRange<double> values = trace.range();
     if (isShared && isAutomatic) {
         for (const int other : traces.shown()) {
             if (isCommon(trace, *traces.at(other)))
-                values.add(traces.at(other)->samples.extremes());
+                values.add(traces.at(other)->range());
         }
     }
     return spanOf(values);

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QString>
+
+namespace ZARN {
+
+class CardContainer;
+class Property;
+
+/// What times are counted from. The numbers are those of the setting "TimeReference".
+enum class ETimeReference { ePowerUp, eClock, eTakeOff };
+
+/// How the times of what is loaded are told to the user: since power-up, as they are recorded, as the recorder's clock or since take-off.
+/// The same for axes, cursors, lists and exports. A small value; only texts know of it, every time that is kept is one since power-up.
+class TimeReference {
+public:
+    TimeReference() = default;
+    /// @param shift seconds from a time since power-up to the one that is told
+    TimeReference(ETimeReference kind, double shift) : mKind(kind), mShift(shift) {}
+    /// The one that the user chose; since power-up where there is no clock, or no flight. Of several flights the selected one counts, else
+    /// the first.
+    [[nodiscard]] static TimeReference of(const Property& property, const CardContainer& container);
+    bool operator==(const TimeReference&) const = default;
+
+    [[nodiscard]] ETimeReference kind() const { return mKind; }
+    [[nodiscard]] double shift() const { return mShift; }
+    /// The seconds that are told of a time since power-up; those of a clock begin anew every day.
+    [[nodiscard]] double told(double seconds) const;
+    [[nodiscard]] int64_t toldMilliseconds(int64_t milliseconds) const;
+    /// "hh:mm:ss.zzz", as lists have it.
+    [[nodiscard]] QString text(int64_t milliseconds) const;
+    /// Over a column of times, in the user's language.
+    [[nodiscard]] QString title() const;
+    /// The same in files, in English; "Time" since power-up.
+    [[nodiscard]] const char* heading() const;
+    /// For a choice, in the user's language.
+    [[nodiscard]] static QString name(ETimeReference kind);
+
+private:
+    ETimeReference mKind = ETimeReference::ePowerUp;
+    double mShift = 0.0;
+};
+
+} // namespace ZARN

@@ -1,0 +1,24 @@
+#include "ui/graph/model/CycleCourse.h"
+
+#include "analysis/CycleReview.h"
+
+#include <algorithm>
+
+namespace ZARN {
+
+CycleCourse CycleCourse::of(const LoadedCard& loaded)
+{
+    const CycleReview review = reviewCycle(loaded.values(), loaded.flights, loaded.wholeEnd);
+    CycleCourse course;
+    course.phases = review.phases;
+    if (review.engine.isKnown())
+        course.engine = review.engine.stretches();
+    for (const RecordFlight& flight : loaded.flights)
+        course.flights.push_back({flight.takeOffTime, flight.landingTime});
+    for (const Incident& incident : review.incidents)
+        course.incidents.push_back({{incident.start, std::max(incident.start, incident.end)}, incident.state,
+                                    QString::fromStdString(incident.title()), GraphMoment::of(incident)});
+    return course;
+}
+
+} // namespace ZARN

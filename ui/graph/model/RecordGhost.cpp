@@ -1,0 +1,79 @@
+#include "ui/graph/model/RecordGhost.h"
+
+#include "card/CardContainer.h"
+#include "trace/Trace.h"
+#include "ui/graph/model/TraceSlot.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace ZARN {
+
+void RecordGhost::fill(bool isWanted)
+{
+    mIsWanted = isWanted;
+    const auto setValues = [this](int slot, const ValueRange<double>& values) {
+        mModel.traces().edit(slot, [&values](GraphParameter& trace) { trace.ghostValues = values; });
+    };
+    const auto slots = static_cast<int>(mModel.traces().all().size());
+    for (int slot = 0; slot < slots; ++slot)
+        setValues(slot, {});
+    if (!mpCycle || !mIsWanted)
+        return mModel.scenery().setGhost(nullptr);
+    auto pGhost = std::make_shared<Ghost>();
+    pGhost->name = mpCycle->name;
+    pGhost->traces.setCount(slots);
+    mForEach(mpCycle->loaded.pRecord.get(), [&](int slot, const Trace& trace) {
+        describeSlot(pGhost->traces, slot, trace);
+        fillSlot(pGhost->traces, slot, trace);
+        setValues(slot, pGhost->traces.at(slot)->samples.extremes());
+    });
+    mModel.scenery().setGhost(std::move(pGhost));
+}
+
+void RecordGhost::set(std::shared_ptr<const GhostCycle> pCycle, int flight)
+{
+    mpCycle = std::move(pCycle);
+    mModel.scenery().setGhostShift(0.0);
+    fill(mIsWanted);
+    mFlight.reset();
+    if (mpCycle && !alignTakeOff(flight))
+        alignEngineStart();
+}
+
+std::optional<double> RecordGhost::takeOff() const
+{
+    const RecordCycle* pCycle = mSession.container.loadedCycle();
+    if (!pCycle || pCycle->flights.empty())
+        return {};
+    return mSession.container.selectedFlightNumber() > 0 ? mSession.container.selectedFlight().takeOffTime : pCycle->flights.front().takeOffTime;
+}
+
+bool RecordGhost::alignTakeOff(int flight)
+{
+    const std::optional<double> own = takeOff();
+    const auto place = static_cast<std::size_t>(std::max(flight, 1) - 1);
+    if (!mpCycle || !own || place >= mpCycle->takeOffs.size())
+        return false;
+    mModel.scenery().setGhostShift(*own - mpCycle->takeOffs[place]);
+    mFlight = flight;
+    mTakeOff = *own;
+    return true;
+}
+
+bool RecordGhost::alignEngineStart()
+{
+    const std::optional<double> own = mpCycle && mpCycle->engineStart ? firstEngineStart(mSession.container.loaded()) : std::nullopt;
+    mFlight.reset();
+    if (own)
+        mModel.scenery().setGhostShift(*own - *mpCycle->engineStart);
+    return own.has_value();
+}
+
+void RecordGhost::follow()
+{
+    if (mFlight && takeOff() != mTakeOff)
+        alignTakeOff(*mFlight);
+}
+
+} // namespace ZARN

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "project/Session.h"
+#include "ui/graph/model/GhostCycle.h"
+#include "ui/graph/model/GraphModel.h"
+
+#include <functional>
+
+namespace ZARN {
+
+class Trace;
+
+/// What the graph of a record is compared with: fills the ghost's traces for the slots of those that are shown, and lays it on the record.
+/// Graph and session are not owned.
+class RecordGhost {
+public:
+    /// Calls for each trace of a record that has a slot.
+    using ForEach = std::function<void(const RecordData* pRecord, const std::function<void(int slot, const Trace& trace)>& visit)>;
+
+    RecordGhost(const Session& session, GraphModel& model, ForEach forEach) : mSession(session), mModel(model), mForEach(std::move(forEach)) {}
+
+    /// Another cycle behind the traces; null for none. Laid on this one by their take-offs, of the ghost's flight of that number (from 1,
+    /// 0: the first), else by the starts of their engines.
+    void set(std::shared_ptr<const GhostCycle> pCycle, int flight);
+    [[nodiscard]] const std::shared_ptr<const GhostCycle>& cycle() const { return mpCycle; }
+    // False where one of the two has no such moment.
+    bool alignTakeOff(int flight);
+    bool alignEngineStart();
+
+    /// The slots show other traces. @param isWanted whether there is a record to compare with
+    void fill(bool isWanted);
+    /// Another flight of the record may be selected.
+    void follow();
+
+private:
+    /// Of the selected flight, or the first.
+    [[nodiscard]] std::optional<double> takeOff() const;
+
+    const Session mSession;
+    GraphModel& mModel;
+    ForEach mForEach;
+    std::shared_ptr<const GhostCycle> mpCycle;
+    std::optional<int> mFlight; ///< the flight of the ghost whose take-off was laid on ours
+    double mTakeOff = 0.0;      ///< ours then
+    bool mIsWanted = false;
+};
+
+} // namespace ZARN
