@@ -42,6 +42,7 @@ XyScene::XyScene(const XyPoints& points, const Palette& palette, const QSizeF& s
 {
     const double left = 9 * mCharacter, right = 13 * mCharacter, top = 2 * mLine + 8, bottom = 2.6 * mLine;
     mPlot = QRectF(left, top, std::max(size.width() - left - right, 1.0), std::max(size.height() - top - bottom, 1.0));
+    mixColours();
     mScale = QRectF(mPlot.right() + 1.5 * mCharacter, mPlot.top(), 1.5 * mCharacter, mPlot.height());
 }
 
@@ -55,15 +56,23 @@ QPointF XyScene::placeOf(const XyPoint& point) const
     return placeOf(mPoints.valueOf(XyPoints::eX, point.column), mPoints.valueOf(XyPoints::eY, point.row));
 }
 
-QColor XyScene::colourOf(double share) const
+/// Points come by the hundred thousand: each takes one of these.
+void XyScene::mixColours()
 {
     const auto& stops = mPalette.graph.ground.lightness() < 128 ? kOnDark : kOnLight;
-    const double place = std::clamp(share, 0.0, 1.0) * static_cast<double>(std::size(stops) - 1);
-    const auto first = std::min(static_cast<std::size_t>(place), std::size(stops) - 2);
-    const double part = place - static_cast<double>(first);
-    const QColor a(stops[first]), b(stops[first + 1]);
-    const auto mixed = [part](int from, int to) { return static_cast<int>(std::lround(from + part * (to - from))); };
-    return {mixed(a.red(), b.red()), mixed(a.green(), b.green()), mixed(a.blue(), b.blue())};
+    for (std::size_t i = 0; i < kColours; ++i) {
+        const double place = static_cast<double>(i) / (kColours - 1) * static_cast<double>(std::size(stops) - 1);
+        const auto first = std::min(static_cast<std::size_t>(place), std::size(stops) - 2);
+        const double part = place - static_cast<double>(first);
+        const QColor a(stops[first]), b(stops[first + 1]);
+        const auto mixed = [part](int from, int to) { return static_cast<int>(std::lround(from + part * (to - from))); };
+        mColours[i] = QColor(mixed(a.red(), b.red()), mixed(a.green(), b.green()), mixed(a.blue(), b.blue()));
+    }
+}
+
+const QColor& XyScene::colourOf(double share) const
+{
+    return mColours[static_cast<std::size_t>(std::clamp(share, 0.0, 1.0) * (kColours - 1) + 0.5)];
 }
 
 double XyScene::shareOf(const XyPoint& point) const
