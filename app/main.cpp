@@ -198,6 +198,7 @@ int runProgram(int argc, char** argv)
     Application application(argc, argv);
     QApplication::setApplicationName(QString::fromStdString(Revision::getName()));
     QApplication::setApplicationVersion(QString::fromStdString(Revision::getRevisionNumber()));
+    QGuiApplication::setDesktopFileName(ZARN_APPLICATION_ID); // so that desktops find name and icon of its windows
     ImageHandler::initialise();
     return runWindow(application);
 }

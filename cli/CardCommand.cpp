@@ -49,6 +49,22 @@ std::string folderProblem(const std::string& path)
     return path + ": " + (::access(path.c_str(), R_OK | X_OK) != 0 ? std::strerror(errno) : "the folder cannot be listed");
 }
 
+std::string openContainer(CardContainer& container, const std::string& path, std::optional<unsigned int> cycle)
+{
+    if (!container.readContainer(decodeFileName(path)))
+        return folderProblem(path);
+    const std::string problem = systemProblem(container);
+    if (!problem.empty())
+        return problem;
+    if (container.recordCycles().empty() && !container.problems().empty())
+        return problemText(container.path(), container.problems().front());
+    if (container.recordCycles().empty())
+        return path + ": the folder holds no record file (" + RecordFormats::patternText().toStdString() + ")";
+    if (cycle && !container.recordCycles().contains(*cycle))
+        return path + ": no cycle " + std::to_string(*cycle);
+    return {};
+}
+
 std::string loadProfileFile(Profile& profile, const std::string& file, const std::string& variant)
 {
     const QString path = decodeFileName(file);
@@ -106,18 +122,7 @@ std::string CardCommand::loadProfile()
 std::string CardCommand::openCard(const std::string& path)
 {
     mCard = path;
-    if (!mContainer.readContainer(decodeFileName(mCard)))
-        return folderProblem(mCard);
-    const std::string problem = systemProblem(mContainer);
-    if (!problem.empty())
-        return problem;
-    if (mContainer.recordCycles().empty() && !mContainer.problems().empty())
-        return problemText(mContainer.path(), mContainer.problems().front());
-    if (mContainer.recordCycles().empty())
-        return mCard + ": the folder holds no record file (" + RecordFormats::patternText().toStdString() + ")";
-    if (isGiven("--cycle") && !mContainer.recordCycles().contains(mCycle))
-        return mCard + ": no cycle " + std::to_string(mCycle);
-    return {};
+    return openContainer(mContainer, mCard, chosenCycle());
 }
 
 std::string CardCommand::loadProblem(unsigned int cycle, int flight)

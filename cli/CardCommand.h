@@ -13,6 +13,8 @@ void sayDamage(const QString& path, const std::vector<CardProblem>& problems);
 [[nodiscard]] std::string problemText(const QString& path, const CardProblem& problem);
 /// Why a path cannot be listed as a card folder.
 [[nodiscard]] std::string folderProblem(const std::string& path);
+/// Opens a card. @return empty, or why not all of it could be read, or that it has no such cycle.
+[[nodiscard]] std::string openContainer(CardContainer& container, const std::string& path, std::optional<unsigned int> cycle);
 
 /// A subcommand that decodes a card's data: the options that all of them share, and the way from them to the card.
 class CardCommand : public Command {

@@ -1,6 +1,5 @@
 #include "cli/CommandEvents.h"
 
-#include "analysis/Condition.h"
 #include "analysis/LimitEvents.h"
 #include "analysis/WarningEvents.h"
 #include "cli/JsonWriter.h"
@@ -34,7 +33,7 @@ int CommandEvents::runOnData()
         limits.crop(*span);
         warnings.crop(*span);
     }
-    std::vector<TimeSpan> found;
+    ConditionTimes found;
     if (isGiven("--where")) {
         try {
             found = timesWhere(mWhere, mFor, mContainer.recordData(), mProfile, flightSpan());
@@ -57,9 +56,15 @@ int CommandEvents::runOnData()
     write(writer, warnings);
     if (isGiven("--where")) {
         writer.key("found").beginArray();
-        for (const TimeSpan& span : found)
+        for (const TimeSpan& span : found.spans)
             writer.beginObject().member("start", span.start).member("end", span.end).endObject();
         writer.endArray();
+        for (const auto& [key, pNames] : {std::pair("unrecorded", &found.unrecorded), std::pair("withoutNumber", &found.withoutNumber)}) {
+            writer.key(key).beginArray();
+            for (const std::string& name : *pNames)
+                writer.value(name);
+            writer.endArray();
+        }
     }
     return print(writer.endAnswer());
 }
@@ -76,14 +81,21 @@ void CommandEvents::write(JsonWriter& writer, const EventList& list)
     writer.endArray();
 }
 
-std::string CommandEvents::foundTable(const std::vector<TimeSpan>& spans) const
+std::string CommandEvents::foundTable(const ConditionTimes& found) const
 {
-    if (spans.empty())
-        return "Never: " + visibleText(mWhere) + "\n";
+    std::string remarks;
+    for (const std::string& name : found.unrecorded)
+        remarks += "Not recorded: " + visibleText(name) + "\n";
+    for (const std::string& name : found.withoutNumber)
+        remarks += "No sample is a number: " + visibleText(name) + "\n";
+    if (!found.unrecorded.empty())
+        return "Unknown: " + visibleText(mWhere) + "\n" + remarks;
+    if (found.spans.empty())
+        return "Never: " + visibleText(mWhere) + "\n" + remarks;
     TextTable table({"From [h:m:s]", "To [h:m:s]", "For [s]"});
-    for (const TimeSpan& span : spans)
+    for (const TimeSpan& span : found.spans)
         table.addRow({tableTime(span.start), tableTime(span.end), tableNumber(span.end - span.start, 1)});
-    return visibleText(mWhere) + "\n\n" + table.text();
+    return visibleText(mWhere) + "\n" + remarks + "\n" + table.text();
 }
 
 std::string CommandEvents::table(const char* title, const char* nothing, const EventList& list, const std::vector<std::string>& states)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "analysis/Condition.h"
 #include "analysis/EventList.h"
 #include "cli/DataCommand.h"
 
@@ -14,7 +15,7 @@ public:
 
 private:
     int runOnData() override;
-    [[nodiscard]] std::string foundTable(const std::vector<TimeSpan>& spans) const;
+    [[nodiscard]] std::string foundTable(const ConditionTimes& found) const;
     static void write(JsonWriter& writer, const EventList& list);
     /// @param states the names of the states from 0 on; others show their number.
     static std::string table(const char* title, const char* nothing, const EventList& list, const std::vector<std::string>& states);

@@ -1,6 +1,9 @@
 #include "cli/CommandKml.h"
 
+#include "cli/Suggestion.h"
 #include "export/ExportKml.h"
+
+#include <algorithm>
 
 namespace ZARN {
 
@@ -20,8 +23,10 @@ std::string CommandKml::checkSetting(const std::string& text)
     if (equals == std::string::npos)
         return text + ": no KEY=VALUE";
     const std::string key = text.substr(0, equals);
-    return KmlExportOptions::isKey(key) ? KmlExportOptions::problem(key, text.substr(equals + 1))
-                                        : key + ": the KML export has no such setting";
+    const std::vector<std::string> keys = KmlExportOptions::keys();
+    if (std::ranges::find(keys, key) != keys.end())
+        return KmlExportOptions::problem(key, text.substr(equals + 1));
+    return key + ": the KML export has no such setting" + suggestion(key, keys);
 }
 
 int CommandKml::runOnData()

@@ -12,8 +12,8 @@ class App;
 
 namespace ZARN {
 
-/// The options of one subcommand, over the command-line library; the one place that knows it, beside the main function, for
-/// its headers are heavy. The values given are stored into the variables named here when the call is parsed.
+/// The options of one subcommand, over the command-line library; the one place that knows it, beside what reads and completes
+/// whole calls, for its headers are heavy. The values given are stored into the variables named here when the call is parsed.
 class CommandOptions {
 public:
     enum ENeed { eOptional, eRequired };
@@ -41,6 +41,8 @@ public:
     /// Whether the call was for this subcommand.
     [[nodiscard]] bool isChosen() const;
 
+    /// One of these texts; the help and what completes calls name them, with this between them.
+    static constexpr const char* kOr = "|";
     static Check oneOf(std::initializer_list<const char*> texts);
     static Check between(double least, double most);
 

@@ -15,7 +15,7 @@
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
+#include <sstream>
 
 #include <unistd.h>
 
@@ -83,12 +83,15 @@ std::string CommandScan::prepare()
 {
     const std::string file = mProfileFile.empty() ? shippedProfile("915") : mProfileFile;
     const std::string problem = loadProfileFile(mProfile, file, mVariant);
-    std::ifstream stream(file, std::ios::binary);
-    const std::string bytes{std::istreambuf_iterator<char>(stream), {}};
-    if (!stream && problem.empty())
+    if (!problem.empty())
+        return problem;
+    // Not by iterators over its buffer: these throw where a read fails.
+    std::ostringstream bytes;
+    bytes << std::ifstream(file, std::ios::binary).rdbuf();
+    if (!bytes)
         return file + ": it cannot be read";
-    mKey = {mProfileFile.empty() ? "915" : mProfileFile, hashOf(bytes), mVariant};
-    return problem;
+    mKey = {mProfileFile.empty() ? "915" : mProfileFile, hashOf(bytes.str()), mVariant};
+    return {};
 }
 
 int CommandScan::scan(const std::vector<std::string>& paths)

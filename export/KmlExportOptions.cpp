@@ -80,9 +80,17 @@ void KmlExportOptions::write(Property& settings) const
         setting.set(settings, this->*value);
 }
 
-bool KmlExportOptions::isKey(const std::string& key)
+std::vector<std::string> KmlExportOptions::keys()
 {
-    return key == kDirectory.setting.key || find(kColours, key) || find(kNumbers, key) || find(kSwitches, key);
+    std::vector<std::string> keys = {kDirectory.setting.key};
+    const auto add = [&keys](const auto& entries) {
+        for (const auto& entry : entries)
+            keys.emplace_back(entry.setting.key);
+    };
+    add(kColours);
+    add(kNumbers);
+    add(kSwitches);
+    return keys;
 }
 
 std::string KmlExportOptions::problem(const std::string& key, const std::string& value)

@@ -5,6 +5,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace ZARN {
 
@@ -34,8 +35,8 @@ struct KmlExportOptions {
     /// into it.
     void read(const Property& settings);
     void write(Property& settings) const;
-    /// Whether the settings know a value of this export by that key.
-    [[nodiscard]] static bool isKey(const std::string& key);
+    /// The keys by which the settings know the values of this export.
+    [[nodiscard]] static std::vector<std::string> keys();
     /// What is wrong with a value for that key; empty when nothing is. Texts are taken for numbers as the settings take them.
     [[nodiscard]] static std::string problem(const std::string& key, const std::string& value);
 };

@@ -14,6 +14,7 @@ namespace {
 
 constexpr const char* kRoot = "ZarnLayouts";
 constexpr const char* kSingle = "single";
+constexpr const char* kUnit = "unit";
 constexpr double kGreatestValue = 1e12;
 
 /// Of a value that is there, and a number that can be drawn.
@@ -22,6 +23,13 @@ std::optional<double> number(const QDomElement& element, const char* attribute)
     bool isNumber = false;
     const double value = element.attribute(attribute).toDouble(&isNumber);
     return isNumber && std::abs(value) <= kGreatestValue ? std::optional(value) : std::nullopt;
+}
+
+/// What two attributes say; none where they say nothing that can be drawn.
+std::optional<std::pair<double, double>> span(const QDomElement& element)
+{
+    const std::optional<double> lower = number(element, "lower"), upper = number(element, "upper");
+    return lower && upper ? std::optional(std::pair(*lower, *upper)) : std::nullopt;
 }
 
 QString colourOf(const QDomElement& element)
@@ -43,6 +51,8 @@ std::vector<DisplayLayout::Parameter> readParameters(const QDomElement& layout)
         const double height =
             std::clamp(number(element, "height").value_or(1.0), DisplayLayout::kLeastHeight, DisplayLayout::kGreatestHeight);
         parameters.push_back({name, height, colourOf(element)});
+        if (const auto values = span(element); values && values->first < values->second)
+            parameters.back().scale = {values->first, values->second, element.attribute("unit")};
     }
     return parameters;
 }
@@ -54,10 +64,8 @@ DisplayLayout readLayout(const QDomElement& element, const QString& language)
     layout.title = DisplayLayout::tidyName(element.attribute("name." + language));
     layout.parameters = readParameters(element);
     layout.isSplit = element.attribute("mode") != kSingle;
-    const QDomElement scale = element.firstChildElement("Scale");
-    const std::optional<double> lower = number(scale, "lower"), upper = number(scale, "upper");
-    if (lower && upper)
-        layout.scale.emplace(*lower, *upper);
+    layout.isShared = element.attribute("scales") == kUnit;
+    layout.scale = span(element.firstChildElement("Scale"));
     return layout;
 }
 
@@ -93,15 +101,20 @@ QDomDocument layoutDocument(const std::vector<DisplayLayout>& layouts, const Con
     const XmlHandler xml(console);
     const auto text = [](double value) { return QString::number(value, 'g', 12); };
     QDomDocument document;
+    const auto writeSpan = [&](QDomElement& element, double lower, double upper) {
+        xml.xmlCreateAttribute(document, element, "lower", text(lower));
+        xml.xmlCreateAttribute(document, element, "upper", text(upper));
+    };
     QDomElement root = xml.xmlCreateElement(document, document, kRoot);
     for (const DisplayLayout& layout : layouts) {
         QDomElement element = xml.xmlCreateElement(document, root, "Layout");
         xml.xmlCreateAttribute(document, element, "name", layout.name);
         xml.xmlCreateAttribute(document, element, "mode", QString(layout.isSplit ? "split" : kSingle));
+        if (layout.isShared)
+            xml.xmlCreateAttribute(document, element, "scales", QString(kUnit));
         if (layout.scale) {
             QDomElement scale = xml.xmlCreateElement(document, element, "Scale");
-            xml.xmlCreateAttribute(document, scale, "lower", text(layout.scale->first));
-            xml.xmlCreateAttribute(document, scale, "upper", text(layout.scale->second));
+            writeSpan(scale, layout.scale->first, layout.scale->second);
         }
         for (const DisplayLayout::Parameter& parameter : layout.parameters) {
             QDomElement child = xml.xmlCreateElement(document, element, "Parameter");
@@ -110,6 +123,10 @@ QDomDocument layoutDocument(const std::vector<DisplayLayout>& layouts, const Con
                 xml.xmlCreateAttribute(document, child, "height", text(parameter.height));
             if (!parameter.colour.isEmpty())
                 xml.xmlCreateAttribute(document, child, "color", parameter.colour);
+            if (parameter.scale) {
+                writeSpan(child, parameter.scale->lower, parameter.scale->upper);
+                xml.xmlCreateAttribute(document, child, "unit", parameter.scale->unit);
+            }
         }
     }
     return document;

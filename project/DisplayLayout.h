@@ -15,10 +15,18 @@ class Console;
 /// Which parameters are shown and how the graph shows them, under a name. A plain value; what it was read from may have been anything,
 /// but its numbers are finite and its sizes bounded.
 struct DisplayLayout {
+    /// The values at the bottom and at the top, in a unit.
+    struct Scale {
+        double lower = 0.0;
+        double upper = 1.0;
+        QString unit; ///< where another one is in force the scale is not
+        bool operator==(const Scale&) const = default;
+    };
     struct Parameter {
         std::string name;    ///< as ticks are kept: of whatever device
         double height = 1.0; ///< of its strip, in those of others
         QString colour;      ///< #rrggbb; empty for that which the trace has without the layout
+        std::optional<Scale> scale = {}; ///< what the user zoomed to; without it the values have the say
         bool operator==(const Parameter&) const = default;
     };
     static constexpr double kLeastHeight = 0.2, kGreatestHeight = 5.0;
@@ -31,6 +39,7 @@ struct DisplayLayout {
     bool isSplit = true;               ///< a strip for each trace, not one area for all
     /// The values at the bottom and at the top of all traces, in display units; each has its own without.
     std::optional<std::pair<double, double>> scale;
+    bool isShared = false; ///< the traces of one unit have one scale
     bool operator==(const DisplayLayout&) const = default;
 
     [[nodiscard]] const QString& text() const { return title.isEmpty() ? name : title; }

@@ -12,6 +12,7 @@
 #include <QPainter>
 
 #include <cmath>
+#include <new>
 
 namespace ZARN {
 
@@ -154,7 +155,10 @@ void HtmlReport::sign(EVerdict verdict, int size, const QString& text)
 
 void HtmlReport::image(const QSizeF& size, const QString& text, const ReportDrawing& draw)
 {
+    // The toolkit paints on an image without memory, and saves nothing of it, without a word.
     QImage image((size * kDots).toSize(), QImage::Format_RGB32);
+    if (image.isNull())
+        throw std::bad_alloc();
     image.setDevicePixelRatio(kDots);
     image.fill(Qt::white);
     QPainter painter(&image);
@@ -164,7 +168,8 @@ void HtmlReport::image(const QSizeF& size, const QString& text, const ReportDraw
     QByteArray png;
     QBuffer buffer(&png);
     buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "PNG");
+    if (!image.save(&buffer, "PNG"))
+        throw std::bad_alloc();
     mText += "<img width=\"" + QByteArray::number(std::lround(size.width())) + "\" height=\"" +
              QByteArray::number(std::lround(size.height())) + "\" alt=\"" + escaped(text) + "\" src=\"data:image/png;base64," +
              png.toBase64() + "\">";

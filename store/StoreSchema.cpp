@@ -100,6 +100,7 @@ bool StoreSchema::bringUp(Database& database)
     for (auto step = static_cast<std::size_t>(version()); step < kSteps.size() && database.isGood(); ++step)
         database.run(kSteps[step]);
     database.run("PRAGMA user_version = " + std::to_string(kVersion));
+    database.run("PRAGMA application_id = 0x5A41524E"); // by which file managers tell the store from other SQLite files
     return transaction.commit();
 }
 

@@ -1,4 +1,4 @@
-# "cpack" makes zarn_VERSION_ARCHITECTURE.deb of what is installed; packaging/make-deb builds and checks it.
+# What "cpack" makes the Debian package zarn_VERSION-1_ARCHITECTURE.deb with; packaging/make-deb builds and checks it.
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME zarn)
@@ -17,10 +17,10 @@ and faults, the statistic of a tow, and the flight path on a map.
 It exports to CSV, KML and GPX. The program zarn-cli does the same for scripts,
 without a display.")
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
 set(CPACK_DEBIAN_PACKAGE_SECTION science)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 # Loaded while the program runs, so that no linker knows of them: the software renderer for machines without a driver, a font.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "libgl1-mesa-dri, fonts-dejavu-core")
-include(CPack)

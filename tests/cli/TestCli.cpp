@@ -108,6 +108,7 @@ void TestCli::helps_data()
     QTest::addColumn<QString>("needle");
     QTest::newRow("help") << QStringList{"--help"} << "Example: zarn-cli";
     QTest::newRow("help of a subcommand") << QStringList{"csv", "--help"} << "--resolution";
+    QTest::newRow("help by a word") << QStringList{"help", "csv"} << "--separator";
     QTest::newRow("help although the rest is wrong") << QStringList{"value", "nowhere", "--help"} << "--parameter";
     QTest::newRow("version") << QStringList{"--version"} << ".";
 }
@@ -155,10 +156,14 @@ void TestCli::failures_data()
     row("folder as target", {"csv", "CARD", "-o", "card"}, 1, "card: Is a directory");
     row("full device", {"csv", "CARD", "-o", "/dev/full"}, 1, "/dev/full: No space left on device");
     row("missing target folder of GPX", {"gpx", "CARD", "-o", "no/out.gpx"}, 1, "no/out.gpx: No such file or directory");
-    row("unknown subcommand", {"bogus"}, 2, "bogus");
+    row("unknown subcommand", {"bogus"}, 2, "bogus: no such subcommand (");
+    row("misspelt subcommand", {"sumary", "card"}, 2, "sumary: no such subcommand; did you mean summary?");
+    row("help of a misspelt subcommand", {"help", "fligths"}, 2, "fligths: no such subcommand; did you mean flights?");
+    row("misspelt option that is needed", {"csv", "card", "--outptu", "x"}, 2, "--outptu: no such option of csv; did you mean --output?");
     row("no card", {"info"}, 2, "CARD");
     row("unknown option", {"info", "card", "--bogus"}, 2, "--bogus");
     row("too many cards", {"info", "card", "empty"}, 2, "empty");
+    row("card in brackets", {"summary", "[card]", "--profile", "Profile.xml"}, 1, "[card]: no such folder");
     row("option without value", {"flights", "CARD", "--cycle"}, 2, "--cycle");
     row("cycle no number", {"flights", "CARD", "--cycle", "x"}, 2, "--cycle");
     row("cycle beyond 32 bits", {"flights", "CARD", "--cycle", "4294967296"}, 2, "--cycle");
@@ -326,11 +331,12 @@ void TestCli::namesMayBeAnyBytes()
     const Answer answer = shell("set -e; d=$'no\\xff\\xc3'; mkdir $d; cp 'card/LOG 1.CAN' $d/$'\\xfe.CAN'; cp Profile.xml $d/$'\\xe9.xml'; "
                                 "\"$1\" csv $d --profile $d/$'\\xe9.xml' -o $d/$'\\xe9.csv'; head -n 1 $d/$'\\xe9.csv'; \"$1\" info $d/$'\\xfe.CAN'; "
                                 "\"$1\" simulate $d 2>&1 || true; \"$1\" csv $d --profile Profile.xml -o $d/v.csv --verbose 2>&-; "
-                                "if grep flight $d/v.csv; then exit 1; fi; rm -r $d");
+                                "if grep flight $d/v.csv; then exit 1; fi; rm -r $d; cp -r card ./-c; \"$1\" summary card --profile Profile.xml -- -c; rm -r ./-c");
     QCOMPARE(answer.status, 0);
     QCOMPARE(answer.errors, QByteArray());
     QVERIFY2(answer.out.startsWith("Time;height") && answer.out.contains("\n\\xfe.CAN  2024-05-01") &&
-                 answer.out.contains("no\\xff\\xc3: holds the record file \\xfe.CAN already"), answer.out.constData());
+                 answer.out.contains("no\\xff\\xc3: holds the record file \\xfe.CAN already") && answer.out.contains("\nCard -c\n"),
+             answer.out.constData());
 }
 
 void TestCli::tablesForPeople_data()

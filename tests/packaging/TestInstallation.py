@@ -2,14 +2,18 @@
 """What "cmake --install" leaves behind: programs that find their resources through links, and everything that a desktop, a shell and man
 read of it. Called with the build and the source folder."""
 
+import json
 import os
 import re
+import struct
 import subprocess
 import sys
 import tempfile
 import unittest
+from xml.etree import ElementTree
 
 BUILD, SOURCE = sys.argv[1], sys.argv[2]
+ID = 'org.zarn.zarn'
 
 
 def run(*command, **options):
@@ -62,20 +66,59 @@ class TestInstallation(unittest.TestCase):
 
     def test_files_are_what_they_claim(self):
         share = self.prefix + '/share'
-        for command in (['desktop-file-validate', share + '/applications/zarn.desktop'],
-                        ['appstreamcli', 'validate', '--no-net', share + '/metainfo/org.zarn.zarn.metainfo.xml'],
-                        ['xmllint', '--noout', '--nonet', share + '/mime/packages/zarn.xml']):
-            done = run(*command)
+        modules = dict(os.environ, NODE_PATH=SOURCE + '/build/node/node_modules')
+        for command in (['desktop-file-validate', f'{share}/applications/{ID}.desktop'],
+                        ['appstreamcli', 'validate', '--no-net', f'{share}/metainfo/{ID}.metainfo.xml'],
+                        ['xmllint', '--noout', '--nonet', f'{share}/mime/packages/{ID}.xml'],
+                        ['node', SOURCE + '/packaging/check-sbom.js', share + '/doc/zarn/zarn.cdx.json'],
+                        [SOURCE + '/packaging/licences.py'],
+                        [SOURCE + '/packaging/check-hardening', '--linked', self.prefix + '/bin/zarn', self.cli]):
+            done = run(*command, env=modules)
             self.assertEqual(done.returncode, 0, f'{command}: {done.stdout}{done.stderr}')
 
-    def test_record_files_have_their_type(self):
+    def test_bill_of_materials(self):
+        with open(self.prefix + '/share/doc/zarn/zarn.cdx.json', encoding='utf-8') as file:
+            bill = json.load(file)
+        parts = {part['name'].split('1.')[0]: part['licenses'][0]['expression'] for part in bill['components']}
+        for name, licence in (('libqt6core6', 'LGPL-3.0-only'), ('libcli11-dev', 'BSD-3-Clause'), ('B612', 'OFL-1.1'), ('libboost', 'BSL-1.0'),
+                              ('Natural Earth', 'ISC AND MIT'), ('Lucide', 'ISC'), ('qt6-translations-l10n', 'LGPL-3.0-only')):
+            self.assertEqual(parts.get(name), licence, name)
+
+    def test_pictures_and_changes_of_the_description(self):
+        component = ElementTree.parse(f'{self.prefix}/share/metainfo/{ID}.metainfo.xml').getroot()
+        images = component.findall('.//screenshot/image')
+        self.assertGreater(len(images), 2)
+        for image in images:
+            with open(f'{SOURCE}/docs/images/{os.path.basename(image.text)}', 'rb') as file:
+                size = struct.unpack('>II', file.read(24)[16:])
+            self.assertEqual(size, (int(image.get('width')), int(image.get('height'))), image.text)
+        with open(SOURCE + '/CHANGELOG.md', encoding='utf-8') as file:
+            changes = [re.sub(r'\W+', '', change) for change in re.findall(r'^- (.*(?:\n  .*)*)', file.read(), re.M)]
+        version = run(self.cli, '--version').stdout.split()[1]
+        self.assertEqual(component.find('releases/release').get('version'), version)
+        self.assertEqual([re.sub(r'\W+', '', item.text) for item in component.findall('releases//li')], changes)
+        log = f'{self.prefix}/share/doc/zarn/changelog.Debian.gz'
+        fields = run('bash', '-c', 'zcat "$1" | dpkg-parsechangelog -l -', 'bash', log).stdout
+        self.assertIn(f'\nVersion: {version}-1\n', fields)
+        for change in changes:
+            self.assertIn(change, re.sub(r'\W+', '', fields))
+
+    def test_files_have_their_types(self):
         run('update-mime-database', self.prefix + '/share/mime')
         with open(self.prefix + '/share/mime/globs2', encoding='utf-8') as file:
             types = file.read()
         for ending in ('can', 'xcb'):    # capitals count as well
             self.assertRegex(types, rf'(?m)^\d+:application/x-zarn-record:\*\.{ending}$')
-        with open(self.prefix + '/share/applications/zarn.desktop', encoding='utf-8') as file:
+        with open(f'{self.prefix}/share/applications/{ID}.desktop', encoding='utf-8') as file:
             self.assertIn('MimeType=application/x-zarn-record;', file.read())
+        card, store = self.folder.name + '/few', self.folder.name + '/store'
+        self.assertEqual(run(self.cli, 'simulate', card, '--hours', '0.2').returncode, 0)
+        self.assertEqual(run(self.cli, 'scan', card, '-o', store).returncode, 0)
+        home = self.folder.name + '/nobody'
+        os.makedirs(home, exist_ok=True)
+        there = dict(os.environ, XDG_DATA_DIRS=self.prefix + '/share', XDG_DATA_HOME=home, HOME=home)
+        found = run('gio', 'info', '-a', 'standard::content-type', store, env=there).stdout
+        self.assertIn('application/x-zarn-store', found)
 
     def test_man_pages(self):
         for page in ('zarn', 'zarn-cli'):
@@ -91,20 +134,31 @@ class TestInstallation(unittest.TestCase):
                         self.assertIn(option, text, f'{option} of {name} is not described')
 
     def complete(self, *words):
+        """What bash makes of a call; fish must offer the same."""
         script = f'''source {self.prefix}/share/bash-completion/completions/zarn-cli
             COMP_WORDS=("$@"); COMP_CWORD=$(($# - 1)); compopt() {{ :; }}; _zarn_cli; printf '%s\\n' "${{COMPREPLY[@]}}"'''
         done = run('bash', '-c', script, 'bash', self.cli, *words)
         self.assertEqual(done.stderr, '')
-        return done.stdout.split()
+        found = done.stdout.split('\n')[:-1] if done.stdout.strip() else []
+        script = f'source {self.prefix}/share/fish/vendor_completions.d/zarn-cli.fish; complete -C "$argv"'
+        shown = run('fish', '-N', '-c', script, 'zarn-cli', *words, cwd=self.folder.name,
+                    env=dict(os.environ, PATH=f'{self.prefix}/bin:' + os.environ['PATH'], HOME=self.folder.name)).stdout
+        self.assertEqual({line.split('\t')[0] for line in shown.splitlines()}, {word.replace('\\', '') for word in found}, words)
+        return found
 
     def test_completion(self):
-        self.assertEqual(sorted(self.complete('')), sorted(self.subcommands() + ['--help', '--version']))
+        card = self.folder.name + '/small'
+        self.assertEqual(run(self.cli, 'simulate', card, '--hours', '0.2').returncode, 0)
+        self.assertEqual(sorted(self.complete('')), sorted(self.subcommands() + ['help', '--help', '--version']))
         self.assertEqual(sorted(self.complete('f')), ['faults', 'flights'])
-        self.assertIn('--separator', self.complete('csv', 'card', '--'))
-        self.assertNotIn('--separator', self.complete('info', 'card', '--'))
-        self.assertEqual(self.complete('csv', 'card', '--separator', 't'), ['tab'])
-        self.assertEqual(self.complete('kml', 'card', '--set', 'KmlTime'), ['KmlTimeStamp='])
-        self.assertEqual(self.complete('csv', 'card', '--cycle', ''), [])
+        self.assertIn('--separator', self.complete('csv', card, '--'))
+        self.assertNotIn('--separator', self.complete('info', card, '--'))
+        self.assertEqual(self.complete('csv', card, '--separator', 't'), ['tab'])
+        self.assertEqual(self.complete('kml', card, '--set', 'KmlTime'), ['KmlTimeStamp='])
+        self.assertEqual(self.complete('csv', card, '--cycle', '2'), ['2'])
+        self.assertEqual(self.complete('csv', card, '--select', 'Engine\\ St'), ['Engine\\ State'])
+        self.assertEqual(self.complete('csv', card, '--flight', ''), [])
+        self.assertEqual(run('zsh', '-n', self.prefix + '/share/zsh/vendor-completions/_zarn-cli').stderr, '')
 
     def test_licences_of_all_that_is_shipped(self):
         with open(self.prefix + '/share/doc/zarn/copyright', encoding='utf-8') as file:

@@ -29,9 +29,12 @@ void TestLayouts::reads_data()
     const QString whole = "<Layout mode=\"single\" name=\"Own\"><Scale upper=\"1000000000\" lower=\"-2.5\"/>"
                           "<Parameter height=\"2.25\" name=\"B\" color=\"#ff8000\"/><Parameter name=\"A\"/></Layout>";
     row("round trip", whole.toUtf8(), whole);
+    const QString zoomed = "<Layout mode=\"split\" scales=\"unit\" name=\"Zoomed\">"
+                           "<Parameter name=\"A\" upper=\"95.5\" lower=\"80\" unit=\"bar\"/></Layout>";
+    row("scales", zoomed.toUtf8(), zoomed);
     row("numbers beyond measure",
         "<Layout name='N'><Scale lower='-inf' upper='1'/><Parameter name='A' height='1e300'/><Parameter name='B' height='-1'/>"
-        "<Parameter name='C' height='nan'/><Parameter name='D' color='red'/><Parameter name='E' color='#12345'/></Layout>",
+        "<Parameter name='C' height='nan' lower='2' upper='1'/><Parameter name='D' color='red'/><Parameter name='E' color='#12345'/></Layout>",
         "<Layout mode=\"split\" name=\"N\"><Parameter name=\"A\"/><Parameter height=\"0.2\" name=\"B\"/>"
         "<Parameter name=\"C\"/><Parameter name=\"D\"/><Parameter name=\"E\"/></Layout>");
     row("names",

@@ -140,13 +140,18 @@ private Q_SLOTS:
         Recording recording;
         const auto times = [&](const char* condition, double atLeast, std::optional<TimeSpan> within = {}) {
             QStringList texts;
-            for (const TimeSpan& span : timesWhere(condition, atLeast, recording.data, recording.cycle.profile, within))
+            for (const TimeSpan& span : timesWhere(condition, atLeast, recording.data, recording.cycle.profile, within).spans)
                 texts << QString("%1-%2").arg(span.start).arg(span.end);
             return texts.join(' ');
         };
         QCOMPARE(times("a < 15 || a > 30", 0), "0-1 3-3");
         QCOMPARE(times("a < 15 || a > 30", 0.5), "0-1");
         QCOMPARE(times("\"b (b)\" < 4 && a > 15", 1, TimeSpan{1.25, 9}), "1.25-2.5");
+        QCOMPARE(times("1 / (a - 20) > 0", 0), "1-3"); // infinite is above everything, and ends as everything else
+        recording.cycle.profile.setFormulas({{"no", "log(-a)", "", 2, {}, {}, {}, {}}});
+        const ConditionTimes never = timesWhere("no > a", 0, recording.data, recording.cycle.profile);
+        QVERIFY(never.spans.empty() && never.withoutNumber == std::vector<std::string>{"no"} && never.operands.size() == 2);
+        QCOMPARE(timesWhere("(u > a) == 0", 0, recording.data, recording.cycle.profile).unrecorded, std::vector<std::string>{"u"});
     }
 
     void isKeptInTheProject()

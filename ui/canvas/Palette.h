@@ -31,6 +31,7 @@ struct Palette {
     Map map;
     QColor warning{240, 180, 0};
     QColor limit{220, 40, 40};
+    QColor found{60, 140, 255}; ///< by a search
 
     [[nodiscard]] static const Palette& light();
     [[nodiscard]] static const Palette& print();

@@ -24,6 +24,8 @@ template <typename View> DataViewEntry entry(View* pView)
                     QObject::connect(pView, &View::signalReport, &area, &DialogData::signalReport);
                 if constexpr (requires { &View::signalLayout; })
                     QObject::connect(pView, &View::signalLayout, &area, &DialogData::signalLayout);
+                if constexpr (requires { &View::signalTicks; })
+                    QObject::connect(pView, &View::signalTicks, &area, &DialogData::signalTicks);
             }};
 }
 

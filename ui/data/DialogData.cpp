@@ -174,11 +174,17 @@ std::optional<TimeSpan> DialogData::graphSpan() const
     return mViews.view(eViewGraph).shownSpan();
 }
 
-void DialogData::showInGraph(const TimeSpan& span, const std::set<std::string>& parameters)
+void DialogData::show(const GraphMoment& moment)
 {
     mpTabs->setCurrentIndex(eViewGraph);
     mLinks[eViewGraph]->update(); // what it shows already stays
-    mViews.view(eViewGraph).showSpan(span, parameters);
+    mViews.view(eViewGraph).showSpan(moment.span, moment.parameters);
+    mRecord.setTime(moment.time);
+}
+
+void DialogData::addBar(QWidget* pBar)
+{
+    static_cast<QVBoxLayout*>(QWidget::layout())->insertWidget(1, pBar);
 }
 
 void DialogData::moveFrom(const QWidget& view, double time)

@@ -4,6 +4,7 @@
 #include "project/RecordSession.h"
 #include "project/Session.h"
 #include "ui/data/DataViewList.h"
+#include "ui/data/model/GraphMoment.h"
 
 #include <QWidget>
 
@@ -46,8 +47,12 @@ public:
     void moveFrom(const QWidget& view, double time);
     /// What the graph shows; none when it is empty.
     [[nodiscard]] std::optional<TimeSpan> graphSpan() const;
-    /// Brings the graph to the front with that part of the record, and parameters of these names beside the ticked ones.
-    void showInGraph(const TimeSpan& span, const std::set<std::string>& parameters);
+    /// Brings the graph to the front with that moment; the way there from everywhere. The project is not changed.
+    void show(const GraphMoment& moment);
+    /// Has the graph mark what was found.
+    void setFound(const std::vector<TimeSpan>& spans) { mViews.view(eViewGraph).setFound(spans); }
+    /// Puts a bar between tabs and views; takes it over.
+    void addBar(QWidget* pBar);
     /// Order, heights, scale, colours and mode of the graph; what is ticked is not touched.
     void setLayout(const DisplayLayout& layout) { mViews.view(eViewGraph).setLayout(layout); }
     /// What is ticked, as the graph shows it; without a name.
@@ -76,6 +81,8 @@ Q_SIGNALS:
     void signalReport();
     /// The user changed how the graph shows what is ticked.
     void signalLayout();
+    /// The user took back, or did again, what changed the ticks: those of the layout are wanted.
+    void signalTicks(const DisplayLayout& layout);
 
 private:
     void createTabs();

@@ -1,23 +1,18 @@
 #pragma once
 
-#include <QDoubleSpinBox>
+#include "app/gui/DecimalBox.h"
 
 namespace ZARN {
 
-/// The entry for the replay's speed: the decimal sign of the chosen language, and the other one is understood; steps that lead somewhere.
-class SpeedBox : public QDoubleSpinBox {
+/// The entry for the replay's speed: steps that lead somewhere.
+class SpeedBox : public DecimalBox {
     Q_OBJECT
 
 public:
     explicit SpeedBox(QWidget* pParent = nullptr);
 
 protected:
-    [[nodiscard]] double valueFromText(const QString& text) const override;
-    [[nodiscard]] QValidator::State validate(QString& text, int& position) const override;
     void stepBy(int steps) override;
-
-private:
-    [[nodiscard]] QString withDecimalSign(const QString& text) const;
 };
 
 } // namespace ZARN

@@ -10,6 +10,7 @@
 #include <QClipboard>
 #include <QFileDialog>
 #include <QGuiApplication>
+#include <QLabel>
 #include <QMenu>
 #include <QMessageBox>
 #include <QVBoxLayout>
@@ -30,14 +31,23 @@ GraphSnapshot snapshotOf(const WidgetGraphBase& graph)
 
 DialogDataGraph::DialogDataGraph(const Session& session, QWidget* pParent)
     : QWidget(pParent), mpButtons(new GraphButtons), mpGraph(new WidgetGraphES), mRecord(session, mpGraph->model()),
-      mCommands(mpGraph->model(), mRecord)
+      mCommands(mpGraph->model(), mRecord), mHistory([this] { return mRecord.view(); },
+                                                     [this](const GraphView& from, const GraphView& to) { showView(from, to); }),
+      mpUnshown(new QLabel)
 {
     auto* pLayout = new QVBoxLayout(this);
     pLayout->setContentsMargins(0, 0, 0, 0);
     pLayout->setSpacing(0);
     pLayout->addWidget(mpButtons);
+    mpUnshown->setObjectName("unshown");
+    mpUnshown->setTextFormat(Qt::PlainText);
+    mpUnshown->setWordWrap(true);
+    mpUnshown->setMargin(4);
+    pLayout->addWidget(mpUnshown);
     pLayout->addWidget(mpGraph, 1);
     connectGraph();
+    connectHistory();
+    showUnshown();
     slotManMode();
 }
 
@@ -51,19 +61,49 @@ void DialogDataGraph::connectGraph()
     connect(mpGraph, &WidgetGraphES::signalCursor, this, &DialogDataGraph::signalCursor);
     connect(mpGraph, &WidgetGraphES::signalCursor, this, [this] { Q_EMIT signalTime(mpGraph->model().cursor().time); });
     connect(mpGraph, &WidgetGraphES::signalManMode, this, &DialogDataGraph::slotManMode);
-    connect(mpGraph, &WidgetGraphES::signalMoveParameter, this, [this] {
+    const auto keepStrips = [this] {
         mRecord.keepStrips();
         Q_EMIT signalLayout();
-    });
+    };
+    connect(mpGraph, &WidgetGraphES::signalMoveParameter, this, keepStrips);
+    connect(&mpGraph->model(), &GraphModel::signalStrips, this, keepStrips);
+    connect(&mpGraph->model(), &GraphModel::signalCommand, this, &DialogDataGraph::slotCommand);
     connect(mpGraph, &WidgetGraphES::signalMenu, this, &DialogDataGraph::slotMenu);
-    connect(mpButtons, &GraphButtons::signalHeld, this, [this] { mHeldTimer.start(kHeldInterval); });
+    connect(mpButtons, &GraphButtons::signalHeld, this, [this] {
+        mHistory.begin();
+        mHeldTimer.start(kHeldInterval);
+    });
     connect(mpButtons, &GraphButtons::signalCommand, this, &DialogDataGraph::slotCommand);
     connect(&mHeldTimer, &QTimer::timeout, this, &DialogDataGraph::slotHeldZoom);
+}
+
+void DialogDataGraph::connectHistory()
+{
+    connect(mpGraph, &WidgetGraphES::signalHand, &mHistory, &GraphHistory::begin);
+    // Scales, too, belong to the layout.
+    connect(&mHistory, &GraphHistory::signalStep, this, &DialogDataGraph::signalLayout);
+}
+
+void DialogDataGraph::showView(const GraphView& from, const GraphView& to)
+{
+    if (mRecord.showView(from, to))
+        Q_EMIT signalTicks(to.layout);
+    updateSetup();
+    slotManMode();
+    Q_EMIT signalLayout();
+}
+
+void DialogDataGraph::showUnshown()
+{
+    const QStringList& names = mRecord.unshown();
+    mpUnshown->setVisible(!names.isEmpty());
+    mpUnshown->setText(tr("The graph has room for %1 parameters. Not shown: %2").arg(RecordGraph::kSlots).arg(names.join(QLatin1String(", "))));
 }
 
 void DialogDataGraph::updateProfile()
 {
     mRecord.updateProfile();
+    showUnshown();
     updateSetup();
 }
 
@@ -89,17 +129,21 @@ void DialogDataGraph::updateSetup()
 
 void DialogDataGraph::updateRecord(RecordData* pRecord)
 {
-    mRecord.updateRecord(pRecord);
+    if (!mRecord.updateRecord(pRecord))
+        mHistory.clear();
 }
 
 void DialogDataGraph::updateFlights(RecordData* pRecord)
 {
-    mRecord.updateFlights(pRecord);
+    if (!mRecord.updateFlights(pRecord))
+        mHistory.clear();
 }
 
 void DialogDataGraph::update(RecordData* pRecord)
 {
-    mRecord.update(pRecord);
+    if (!mRecord.update(pRecord))
+        mHistory.clear();
+    showUnshown();
     updateSetup();
 }
 
@@ -110,12 +154,20 @@ void DialogDataGraph::setZarnMode(int mode)
 
 void DialogDataGraph::showSpan(const TimeSpan& span, const std::set<std::string>& parameters)
 {
+    mHistory.begin();
     mRecord.showSpan(span, parameters);
+    showUnshown();
     updateSetup();
+}
+
+void DialogDataGraph::setFound(const std::vector<TimeSpan>& spans)
+{
+    mpGraph->model().setFound(spans);
 }
 
 void DialogDataGraph::setLayout(const DisplayLayout& layout)
 {
+    mHistory.begin();
     mRecord.setLayout(layout);
     updateSetup();
     slotManMode();
@@ -156,12 +208,18 @@ void DialogDataGraph::slotSetupChanged()
 
 void DialogDataGraph::slotCommand(int command)
 {
-    if (command == eSetup)
+    if (command == eUndo)
+        return mHistory.undo();
+    if (command == eRedo)
+        return mHistory.redo();
+    if (command == eSetup) {
         showSetup();
-    else if (command == eSnapshot)
+    } else if (command == eSnapshot) {
         snapshot();
-    else
-        mCommands.run(static_cast<EGraphCommand>(command), mpButtons->isChecked(static_cast<EGraphCommand>(command)));
+    } else {
+        mHistory.begin();
+        mCommands.run(static_cast<EGraphCommand>(command), command <= eSnapshot && mpButtons->isChecked(static_cast<EGraphCommand>(command)));
+    }
     slotManMode();
     Q_EMIT signalLayout();
 }
@@ -178,6 +236,7 @@ void DialogDataGraph::showSetup()
         mpSetup = new DialogGraphSetup(this, graphData());
         connect(mpSetup, &DialogGraphSetup::signalTraceColour, this,
                 [this](int slot, const QColor& colour) { mpGraph->model().traces().setColour(slot, colour); });
+        connect(mpSetup, &DialogGraphSetup::signalChanging, &mHistory, &GraphHistory::begin);
         connect(mpSetup, &DialogGraphSetup::signalChanged, this, &DialogDataGraph::slotSetupChanged);
     }
     updateSetup();
@@ -227,6 +286,29 @@ void DialogDataGraph::copyPicture()
     QGuiApplication::clipboard()->setImage(snapshotOf(*mpGraph).image());
 }
 
+void DialogDataGraph::addViewActions(QMenu& menu)
+{
+    mHistory.end();
+    const auto add = [&](const QString& text, const char* keys, EGraphCommand command, bool isEnabled) {
+        QAction* pAction = menu.addAction(text, this, [this, command] { slotCommand(command); });
+        pAction->setShortcut(QKeySequence(QLatin1String(keys)));
+        pAction->setEnabled(isEnabled);
+        return pAction;
+    };
+    const GraphModel& model = mpGraph->model();
+    add(tr("Undo"), "Ctrl+Z", eUndo, mHistory.canUndo());
+    add(tr("Redo"), "Ctrl+Shift+Z", eRedo, mHistory.canRedo());
+    menu.addSeparator();
+    add(tr("Zoom Marker"), "Return", eZoomMarker, model.marker().isRange());
+    add(tr("Zoom 1:1"), "Ctrl+1", eZoomAll, mRecord.hasRecord());
+    menu.addSeparator();
+    add(tr("Fit Scales to What Is Visible"), "Ctrl+0", eFitValues, mRecord.hasSamples());
+    add(tr("Scales of the Whole Record"), "", eWholeValues, !model.settings().scale.zoomed.empty());
+    QAction* pShared = add(tr("One Scale for Each Unit"), "Ctrl+U", eSharedScale, true);
+    pShared->setCheckable(true);
+    pShared->setChecked(model.settings().scale.isShared);
+}
+
 void DialogDataGraph::slotMenu(const QPoint& point)
 {
     QMenu menu(this);
@@ -236,9 +318,7 @@ void DialogDataGraph::slotMenu(const QPoint& point)
     menu.addAction(tr("Snapshot..."), this, &DialogDataGraph::snapshot);
     menu.addAction(tr("Flight Report..."), this, &DialogDataGraph::signalReport)->setEnabled(mRecord.hasRecord());
     menu.addSeparator();
-    QAction* pMarker = menu.addAction(tr("Zoom Marker"), this, [this] { slotCommand(eZoomMarker); });
-    pMarker->setEnabled(mpGraph->model().marker().isRange());
-    menu.addAction(tr("Zoom 1:1"), this, [this] { slotCommand(eZoomAll); })->setEnabled(mRecord.hasRecord());
+    addViewActions(menu);
     menu.addSeparator();
     menu.addAction(tr("Setup..."), this, &DialogDataGraph::showSetup);
     menu.exec(point);

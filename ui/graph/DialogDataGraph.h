@@ -6,6 +6,8 @@
 #include <QTimer>
 #include <QWidget>
 
+class QLabel;
+class QMenu;
 class WidgetGraphES;
 
 namespace ZARN {
@@ -30,6 +32,7 @@ public:
     void setNotes(const std::vector<CycleNote>& notes) override;
     [[nodiscard]] std::optional<TimeSpan> shownSpan() const override;
     void showSpan(const TimeSpan& span, const std::set<std::string>& parameters) override;
+    void setFound(const std::vector<TimeSpan>& spans) override;
     void setLayout(const DisplayLayout& layout) override;
     [[nodiscard]] std::optional<DisplayLayout> layout() const override { return mRecord.layout(); }
 
@@ -44,6 +47,8 @@ Q_SIGNALS:
     void signalReport();
     /// The user changed how the traces are shown.
     void signalLayout();
+    /// The user took back, or did again, what changed the ticks: those of the layout are wanted.
+    void signalTicks(const DisplayLayout& layout);
 
 protected:
     /// The keys are for the graph. No focus proxy: Tab would pass the buttons, which stand before it.
@@ -58,8 +63,12 @@ private:
     void slotCommand(int command);
     void slotHeldZoom();
     void slotMenu(const QPoint& point);
+    void addViewActions(QMenu& menu);
 
     void connectGraph();
+    void connectHistory();
+    void showView(const GraphView& from, const GraphView& to);
+    void showUnshown();
     void updateSetup();
     void showSetup();
     void snapshot();
@@ -70,6 +79,8 @@ private:
     WidgetGraphES* mpGraph;
     RecordGraph mRecord;
     GraphCommands mCommands;
+    GraphHistory mHistory;
+    QLabel* mpUnshown;
     DialogGraphSetup* mpSetup = nullptr;
     QTimer mHeldTimer;
 };

@@ -8,7 +8,9 @@
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLineEdit>
+#include <QLocale>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QShowEvent>
 #include <QSignalBlocker>
 
@@ -23,12 +25,24 @@ namespace {
 
 constexpr auto kWrongInput = "QLineEdit { color: white; background-color: #b02020; }";
 
-/// The number that a text says, with a point or a comma; none when it says no number that the graph can take.
+/// The number that a text says, with a point or a comma; none when it says no number that the graph can take. What one reader takes for
+/// thousands and another one for decimals is none, but for the sign that the language in force has for decimals.
 std::optional<double> numberOf(const QString& text)
 {
+    static const QRegularExpression thousands(QRegularExpression::anchoredPattern("[+-]?[1-9][0-9]{0,2}([.,])[0-9]{3}"));
+    const QRegularExpressionMatch match = thousands.match(text.trimmed());
+    if (match.hasMatch() && match.captured(1) != QLocale().decimalPoint())
+        return std::nullopt;
     bool isNumber = false;
     const double value = text.trimmed().replace(QLatin1Char(','), QLatin1Char('.')).toDouble(&isNumber);
     return isNumber && std::abs(value) <= static_cast<double>(std::numeric_limits<float>::max()) ? std::optional(value) : std::nullopt;
+}
+
+QString fieldText(double value)
+{
+    QLocale locale;
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    return locale.toString(value, 'g', 10);
 }
 
 } // namespace
@@ -47,6 +61,7 @@ DialogGraphSetup::DialogGraphSetup(QWidget* pParent, GraphData& graphData) : QDi
     addRow(pForm, tr("Legend :"), {mpLegend});
     addRow(pForm, tr("Trace Color :"), {mpTraces});
     addRow(pForm, tr("Y-Scale :"), {mpAutoscale, mpYmin, mpYmax});
+    addRow(pForm, QString(), {mpSharedScale});
     addRow(pForm, QString(), {mpClose});
     updateDialog();
     connectControls();
@@ -74,6 +89,9 @@ void DialogGraphSetup::createControls()
     mpLegend->setObjectName("legendOn");
     mpAutoscale = new QCheckBox(tr("Autoscale On"));
     mpAutoscale->setObjectName("autoscaleOn");
+    mpSharedScale = new QCheckBox(tr("One scale for each unit"));
+    mpSharedScale->setObjectName("sharedScale");
+    mpSharedScale->setToolTip(tr("Traces of one unit can be compared by their heights. Otherwise each trace has a scale of its own."));
     mpYmin = new QLineEdit;
     mpYmin->setObjectName("yMin");
     mpYmin->setAccessibleName(tr("Least value of the scale"));
@@ -98,6 +116,7 @@ void DialogGraphSetup::connectControls()
     connect(mpTraces, &TraceColourRow::signalDefault, this, &DialogGraphSetup::slotTraceDefault);
     connect(mpLegend, &QCheckBox::stateChanged, this, &DialogGraphSetup::slotLegendOn);
     connect(mpAutoscale, &QCheckBox::stateChanged, this, &DialogGraphSetup::slotAutoscaleOn);
+    connect(mpSharedScale, &QCheckBox::stateChanged, this, &DialogGraphSetup::slotSharedScale);
     connect(mpYmin, &QLineEdit::textEdited, this, &DialogGraphSetup::slotYmin);
     connect(mpYmax, &QLineEdit::textEdited, this, &DialogGraphSetup::slotYmax);
     connect(mpClose, &QPushButton::clicked, this, &DialogGraphSetup::slotClose);
@@ -124,13 +143,14 @@ QPushButton* DialogGraphSetup::colourButton(const QString& name, const QString& 
 void DialogGraphSetup::updateDialog()
 {
     const QSignalBlocker blockers[] = {QSignalBlocker(mpGrid),   QSignalBlocker(mpCursor),    QSignalBlocker(mpCursorMode),
-                                       QSignalBlocker(mpLegend), QSignalBlocker(mpAutoscale), QSignalBlocker(mpClickMovesCursor)};
+                                       QSignalBlocker(mpLegend), QSignalBlocker(mpAutoscale), QSignalBlocker(mpClickMovesCursor), QSignalBlocker(mpSharedScale)};
     mpGrid->setChecked(mData.gridOn);
     mpCursor->setChecked(mData.cursorOn);
     mpCursorMode->setCurrentIndex(mData.cursorMode);
     mpClickMovesCursor->setChecked(mData.clickMovesCursor);
     mpLegend->setChecked(mData.legendOn);
     mpAutoscale->setChecked(mData.scale.isAutomatic);
+    mpSharedScale->setChecked(mData.scale.isShared);
     showNumber(mpYmin, mData.scale.lower);
     showNumber(mpYmax, mData.scale.upper);
     // With autoscaling the two say nothing.
@@ -161,10 +181,10 @@ void DialogGraphSetup::showNumber(QLineEdit* pField, double value)
     const std::optional<double> typed = numberOf(pField->text());
     const bool isTyped = pField->isModified() && !mData.scale.isAutomatic && typed.value_or(value) == value;
     if (!isTyped)
-        pField->setText(QString::number(value, 'g', 10));
+        pField->setText(fieldText(value));
     const bool isWrong = isTyped && !typed;
     pField->setStyleSheet(isWrong ? QLatin1String(kWrongInput) : QLatin1String());
-    pField->setToolTip(isWrong ? tr("This is not a number: the scale stays as it was.") : QString());
+    pField->setToolTip(isWrong ? tr("This is not a number, or might be read as two: the scale stays as it was. Numbers have no sign between thousands.") : QString());
 }
 
 void DialogGraphSetup::showEvent(QShowEvent* pEvent)
@@ -174,6 +194,15 @@ void DialogGraphSetup::showEvent(QShowEvent* pEvent)
         pField->setModified(pField->isModified() && pEvent->spontaneous());
     updateDialog();
     QDialog::showEvent(pEvent);
+}
+
+template <typename Value> void DialogGraphSetup::setScale(Value ValueScale::*pMember, const Value& value)
+{
+    Q_EMIT signalChanging();
+    if (mData.scale.*pMember != value)
+        mData.scale.zoomed.clear(); // what was zoomed to would hide the edit
+    mData.scale.*pMember = value;
+    changed();
 }
 
 void DialogGraphSetup::changed()
@@ -241,20 +270,22 @@ void DialogGraphSetup::slotLegendOn(int state)
 
 void DialogGraphSetup::slotAutoscaleOn(int state)
 {
-    mData.scale.isAutomatic = state != Qt::Unchecked;
-    changed();
+    setScale(&ValueScale::isAutomatic, state != Qt::Unchecked);
+}
+
+void DialogGraphSetup::slotSharedScale(int state)
+{
+    setScale(&ValueScale::isShared, state != Qt::Unchecked);
 }
 
 void DialogGraphSetup::slotYmin(const QString& text)
 {
-    mData.scale.lower = numberOf(text).value_or(mData.scale.lower);
-    changed();
+    setScale(&ValueScale::lower, numberOf(text).value_or(mData.scale.lower));
 }
 
 void DialogGraphSetup::slotYmax(const QString& text)
 {
-    mData.scale.upper = numberOf(text).value_or(mData.scale.upper);
-    changed();
+    setScale(&ValueScale::upper, numberOf(text).value_or(mData.scale.upper));
 }
 
 void DialogGraphSetup::slotClickMovesCursor(int state)
@@ -266,13 +297,16 @@ void DialogGraphSetup::slotClickMovesCursor(int state)
 void DialogGraphSetup::slotTraceColor()
 {
     const TraceColour trace = mTraces[static_cast<std::size_t>(mpTraces->current())];
-    if (const QColor colour = askColour(trace.colour); colour.isValid())
+    if (const QColor colour = askColour(trace.colour); colour.isValid()) {
+        Q_EMIT signalChanging();
         Q_EMIT signalTraceColour(trace.slot, colour);
+    }
     changed();
 }
 
 void DialogGraphSetup::slotTraceDefault()
 {
+    Q_EMIT signalChanging();
     Q_EMIT signalTraceColour(mTraces[static_cast<std::size_t>(mpTraces->current())].slot, QColor());
     changed();
 }

@@ -29,6 +29,8 @@ public:
 
 Q_SIGNALS:
     void signalChanged();
+    /// An edit is about to be told.
+    void signalChanging();
     /// The user chose a colour for a trace; an invalid one for that which the trace has by itself.
     void signalTraceColour(int slot, const QColor& colour);
 
@@ -47,6 +49,7 @@ private:
     void slotCursorMode(int mode);
     void slotLegendOn(int state);
     void slotAutoscaleOn(int state);
+    void slotSharedScale(int state);
     void slotYmin(const QString& text);
     void slotYmax(const QString& text);
     void slotClickMovesCursor(int state);
@@ -61,6 +64,7 @@ private:
     void chooseColour(QString& name);
     void showColour(QPushButton* pButton, const QString& name);
     void showNumber(QLineEdit* pField, double value);
+    template <typename Value> void setScale(Value ValueScale::*pMember, const Value& value);
     void changed();
 
     GraphData& mData;
@@ -73,6 +77,7 @@ private:
     QCheckBox* mpCursor = nullptr;
     QCheckBox* mpLegend = nullptr;
     QCheckBox* mpAutoscale = nullptr;
+    QCheckBox* mpSharedScale = nullptr;
     QCheckBox* mpClickMovesCursor = nullptr;
     QComboBox* mpCursorMode = nullptr;
     TraceColourRow* mpTraces = nullptr;

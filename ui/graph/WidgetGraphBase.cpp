@@ -5,11 +5,15 @@
 
 #include <QContextMenuEvent>
 #include <QFontInfo>
+#include <QGestureEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QNativeGestureEvent>
+#include <QPinchGesture>
 #include <QWheelEvent>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -17,6 +21,7 @@ constexpr int kRedrawInterval = 30;
 constexpr int kRecalculationDelay = 50;
 constexpr int kCursorDelay = 5000;
 constexpr int kCountdown = 3;
+constexpr double kPixelsAnAngle = 0.5; // of the wheel, where it does not tell pixels itself
 
 QString colourName(float red, float green, float blue)
 {
@@ -28,6 +33,7 @@ QString colourName(float red, float green, float blue)
 WidgetGraphBase::WidgetGraphBase(QWidget* pParent) : QWidget(pParent), mInteraction(mModel)
 {
     setFocusPolicy(Qt::StrongFocus);
+    grabGesture(Qt::PinchGesture);
     setMouseTracking(true);
     setMinimumSize(160, 120);
     setAccessibleName(tr("Graph of the selected parameters"));
@@ -200,6 +206,7 @@ void WidgetGraphBase::slotRecalculate()
 void WidgetGraphBase::keyPressEvent(QKeyEvent* pEvent)
 {
     const bool isMoved = mModel.cursor().isMoving;
+    Q_EMIT signalHand();
     if (!mInteraction.keyPressed(pEvent->key(), pEvent->modifiers()))
         return QWidget::keyPressEvent(pEvent);
     if (isMoved || mModel.cursor().isMoving)
@@ -214,19 +221,29 @@ void WidgetGraphBase::keyReleaseEvent(QKeyEvent* pEvent)
 
 void WidgetGraphBase::mousePressEvent(QMouseEvent* pEvent)
 {
+    Q_EMIT signalHand();
     mInteraction.pressed(pEvent->button(), pEvent->position(), pEvent->modifiers());
 }
 
 void WidgetGraphBase::mouseMoveEvent(QMouseEvent* pEvent)
 {
+    if (pEvent->buttons() != Qt::NoButton)
+        Q_EMIT signalHand();
     mInteraction.moved(pEvent->position());
-    setCursor(mInteraction.isPanning() && pEvent->buttons().testFlag(Qt::RightButton) ? Qt::ClosedHandCursor : Qt::ArrowCursor);
+    setCursor(mInteraction.shape());
+}
+
+void WidgetGraphBase::mouseDoubleClickEvent(QMouseEvent* pEvent)
+{
+    Q_EMIT signalHand();
+    if (pEvent->button() != Qt::LeftButton || !mInteraction.doublePressed(pEvent->position(), pEvent->modifiers()))
+        mousePressEvent(pEvent);
 }
 
 void WidgetGraphBase::mouseReleaseEvent(QMouseEvent* pEvent)
 {
     const bool isMenu = mInteraction.released(pEvent->button(), pEvent->position());
-    unsetCursor();
+    setCursor(mInteraction.shape());
     if (isMenu)
         Q_EMIT signalMenu(pEvent->globalPosition().toPoint());
 }
@@ -240,12 +257,41 @@ void WidgetGraphBase::contextMenuEvent(QContextMenuEvent* pEvent)
 
 void WidgetGraphBase::wheelEvent(QWheelEvent* pEvent)
 {
+    Q_EMIT signalHand();
     mInteraction.moved(pEvent->position());
-    // Some systems turn the wheel sideways while a modifier is held.
-    const int delta = pEvent->angleDelta().y() != 0 ? pEvent->angleDelta().y() : pEvent->angleDelta().x();
-    if (delta != 0)
-        mInteraction.wheel(delta, pEvent->modifiers());
+    const QPoint angle = pEvent->angleDelta();
+    // Some systems turn the wheel sideways while a modifier is held; without one it is a touch pad or a wheel that tilts.
+    if (std::abs(angle.x()) > std::abs(angle.y()) && pEvent->modifiers() == Qt::NoModifier)
+        mInteraction.swiped(pEvent->pixelDelta().x() != 0 ? pEvent->pixelDelta().x() : angle.x() * kPixelsAnAngle);
+    else if (angle != QPoint())
+        mInteraction.wheel(angle.y() != 0 ? angle.y() : angle.x(), pEvent->modifiers());
     pEvent->accept();
+}
+
+bool WidgetGraphBase::event(QEvent* pEvent)
+{
+    if (pEvent->type() == QEvent::NativeGesture) { // of a touch pad
+        const auto* pGesture = static_cast<QNativeGestureEvent*>(pEvent);
+        if (pGesture->gestureType() != Qt::ZoomNativeGesture)
+            return QWidget::event(pEvent);
+        pinched(1 + pGesture->value(), pGesture->position());
+        return true;
+    }
+    if (pEvent->type() == QEvent::Gesture) { // of a touch screen
+        const auto* pPinch = static_cast<QPinchGesture*>(static_cast<QGestureEvent*>(pEvent)->gesture(Qt::PinchGesture));
+        if (!pPinch)
+            return QWidget::event(pEvent);
+        pinched(pPinch->scaleFactor() / pPinch->lastScaleFactor(), mapFromGlobal(pPinch->centerPoint()));
+        return true;
+    }
+    return QWidget::event(pEvent);
+}
+
+void WidgetGraphBase::pinched(double scale, const QPointF& point)
+{
+    Q_EMIT signalHand();
+    mInteraction.moved(point);
+    mInteraction.zoom(1 / scale);
 }
 
 void WidgetGraphBase::leaveEvent(QEvent*)

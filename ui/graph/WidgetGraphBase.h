@@ -83,8 +83,11 @@ Q_SIGNALS:
     void signalMoveParameter(int from, int to);
     /// The right button was clicked without moving, or the menu key was pressed, at a point of the screen.
     void signalMenu(const QPoint& point);
+    /// The user is about to change something with keys, pointer, wheel or fingers, or goes on.
+    void signalHand();
 
 protected:
+    bool event(QEvent* pEvent) override;
     /// Puts a surface in place; called by the constructors of the derived classes.
     void useSurface(ZARN::Surface::EKind kind);
 
@@ -93,6 +96,7 @@ protected:
     void mousePressEvent(QMouseEvent* pEvent) override;
     void mouseMoveEvent(QMouseEvent* pEvent) override;
     void mouseReleaseEvent(QMouseEvent* pEvent) override;
+    void mouseDoubleClickEvent(QMouseEvent* pEvent) override;
     void wheelEvent(QWheelEvent* pEvent) override;
     void leaveEvent(QEvent* pEvent) override;
     void focusOutEvent(QFocusEvent* pEvent) override;
@@ -112,6 +116,7 @@ private:
         mModel.settingsChanged();
     }
     void connectModel();
+    void pinched(double scale, const QPointF& point);
     void updateFrame(const QSize& size, double ratio);
     void paint(ZARN::Canvas& canvas) const;
     void requestFrame();

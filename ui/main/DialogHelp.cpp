@@ -1,5 +1,6 @@
 #include "ui/main/DialogHelp.h"
 
+#include "ui/graph/model/GraphKeys.h"
 #include "ui/main/MainActions.h"
 
 #include <QDialogButtonBox>
@@ -24,7 +25,7 @@ QUrl manual(const QString& locale)
     return QFile::exists(":" + path) ? "qrc:" + path : QString("qrc:/manual/en.md");
 }
 
-/// The keys of the main window's commands, as they are.
+/// The keys of the main window's commands and of the graph, as they are.
 QString commandKeys()
 {
     QString text = "\n\n### " + DialogHelp::tr("Commands of the main window") + "\n\n| " + DialogHelp::tr("Key") + " | "
@@ -33,6 +34,10 @@ QString commandKeys()
         if (*action.shortcut)
             text += "| " + QKeySequence(action.shortcut).toString(QKeySequence::NativeText) + " | " + action.title() + " |\n";
     }
+    text += "\n\n### " + DialogHelp::tr("Keys of the graph") + "\n\n| " + DialogHelp::tr("Key") + " | " + DialogHelp::tr("What it does") +
+            " |\n| --- | --- |\n";
+    for (const auto& [keys, what] : ZARN::GraphKey::descriptions())
+        text += "| " + keys + " | " + what + " |\n";
     return text;
 }
 

@@ -22,6 +22,7 @@
 #include "ui/main/DialogHelp.h"
 #include "ui/main/DialogPreferences.h"
 #include "ui/main/ExportController.h"
+#include "ui/main/FindController.h"
 #include "ui/main/FolderDrop.h"
 #include "ui/main/LayoutController.h"
 #include "ui/main/LogbookController.h"
@@ -187,6 +188,7 @@ void DialogMain::createControllers()
                                       QString::fromStdString(mEnvironment.folders.dataPath()), this);
     const auto* pNotes = new NoteController(mSession, mRecord, mpLogbook->worker(), *mpCommands, *mpNotices, this);
     connect(pNotes, &NoteController::signalChanged, &mpOverview->view(), &DialogOverview::reset);
+    mpFind = new FindController(mSession, mRecord, *mpData, mpPanels->pages(), *action(eActionFind), this);
     mpProfileController = std::make_unique<ProfileController>(mSession, *mpCatalogue, mpToolBar->profiles(), mpToolBar->units());
     mpLayout = std::make_unique<WindowLayout>(mSession.property, *this, *mpPanels, mpPanels->side());
     mpAbout = new DialogAbout(this);
@@ -263,6 +265,7 @@ void DialogMain::connectCommands()
     on(eActionExportGpx, [this] { mpExportController->exportGpx(); });
     on(eActionReport, [this] { mpExportController->writeReport(mRecord.notes()); });
     mpCommands->handle(eActionOverview, [this](const QAction& action) { mpOverview->toggle(action.isChecked()); });
+    on(eActionFind, [this] { mpFind->open(); });
     on(eActionNextIncident, [this] { mpOverview->step(true); });
     on(eActionPreviousIncident, [this] { mpOverview->step(false); });
     const std::initializer_list<std::pair<int, QWidget*>> windows = {

@@ -24,6 +24,7 @@ class DialogData;
 class DialogPreferences;
 class DialogProfile;
 class ExportController;
+class FindController;
 class LayoutBar;
 class LayoutController;
 class LogbookController;
@@ -151,6 +152,7 @@ private:
     CardController* mpCardController = nullptr;
     ProjectController* mpProjectController = nullptr;
     ExportController* mpExportController = nullptr;
+    FindController* mpFind = nullptr;
     OverviewController* mpOverview = nullptr;
     LogbookController* mpLogbook = nullptr;
     LayoutController* mpLayoutController = nullptr;

@@ -34,6 +34,7 @@ LayoutController::LayoutController(const Session& session, const QString& dataPa
     connect(&mBar, &LayoutBar::signalChosen, this, &LayoutController::slotChosen);
     connect(&mBar, &LayoutBar::signalCommand, this, &LayoutController::slotCommand);
     connect(&mData, &DialogData::signalLayout, this, &LayoutController::update);
+    connect(&mData, &DialogData::signalTicks, this, &LayoutController::slotTicks);
 }
 
 QString LayoutController::current() const
@@ -87,9 +88,16 @@ void LayoutController::slotChosen(const QString& name)
     const DisplayLayout* pLayout = mStore.find(name);
     if (!pLayout)
         return;
+    mData.setLayout(*pLayout); // before the ticks, for the graph remembers what it showed
     tick(*pLayout);
-    mData.setLayout(*pLayout);
     setCurrent(name);
+    Q_EMIT signalChosen();
+    update();
+}
+
+void LayoutController::slotTicks(const DisplayLayout& layout)
+{
+    tick(layout);
     Q_EMIT signalChosen();
     update();
 }
@@ -130,9 +138,9 @@ bool LayoutController::isShown(const DisplayLayout& layout) const
     std::ranges::copy_if(layout.parameters, std::back_inserter(wanted),
                          [&](const auto& parameter) { return !missing.contains(QString::fromStdString(parameter.name)); });
     const DisplayLayout present = mData.layout();
-    return present.isSplit == layout.isSplit && present.scale == layout.scale &&
+    return present.isSplit == layout.isSplit && present.scale == layout.scale && present.isShared == layout.isShared &&
            std::ranges::equal(wanted, present.parameters, [](const auto& a, const auto& b) {
-               return a.name == b.name && a.height == b.height && (a.colour.isEmpty() || a.colour == b.colour);
+               return a.name == b.name && a.height == b.height && a.scale == b.scale && (a.colour.isEmpty() || a.colour == b.colour);
            });
 }
 

@@ -33,6 +33,8 @@ Q_SIGNALS:
 
 private:
     void slotChosen(const QString& name);
+    /// The parameters of a layout are wanted, and nothing else of it.
+    void slotTicks(const DisplayLayout& layout);
     void slotCommand(int command);
 
     [[nodiscard]] QString current() const;

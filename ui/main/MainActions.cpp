@@ -59,6 +59,8 @@ const std::vector<MainAction>& MainAction::all()
          QT_TRANSLATE_NOOP("ZARN::DialogMain", "Go to the next incident of what is loaded"), "", "incident-next"},
         {eActionPreviousIncident, QT_TRANSLATE_NOOP("ZARN::DialogMain", "Previous Incident"), "Shift+N; Ctrl+Up",
          QT_TRANSLATE_NOOP("ZARN::DialogMain", "Go to the previous incident of what is loaded"), "", "incident-previous"},
+        {eActionFind, QT_TRANSLATE_NOOP("ZARN::DialogMain", "Find"), "Ctrl+F",
+         QT_TRANSLATE_NOOP("ZARN::DialogMain", "Where was a value above or below another, and for how long"), "", "find"},
         {eActionLogbook, QT_TRANSLATE_NOOP("ZARN::DialogMain", "Logbook"), "Ctrl+L",
          QT_TRANSLATE_NOOP("ZARN::DialogMain", "Flights, engine hours, trends and services of the cards that were opened"), "", "flight"},
         {eActionNote, QT_TRANSLATE_NOOP("ZARN::DialogMain", "Note"), "M; Ctrl+M",

@@ -28,8 +28,9 @@ enum EMainAction : int {
     eActionOverview = 21,
     eActionNextIncident = 22,
     eActionPreviousIncident = 23,
-    eActionLogbook = 24,
-    eActionNote = 25
+    eActionFind = 24,
+    eActionLogbook = 25,
+    eActionNote = 26
 };
 
 /// One command of the main window: texts to be translated, the shortcut, the name of its icon.

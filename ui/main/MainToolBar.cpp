@@ -21,7 +21,7 @@ MainToolBar::MainToolBar(const std::function<QAction*(int id)>& action) : QToolB
     setMovable(false);
     addFolders(action(eActionOpenFolder));
     addSeparator();
-    for (const int id : {eActionOverview, eActionPreviousIncident, eActionNextIncident})
+    for (const int id : {eActionOverview, eActionPreviousIncident, eActionNextIncident, eActionFind})
         addAction(action(id));
     addSeparator();
     addMore(action(eActionExportKml), {action(eActionExportGpx), action(eActionReport)});

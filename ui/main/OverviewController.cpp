@@ -11,24 +11,9 @@
 #include <QStackedWidget>
 
 #include <algorithm>
-#include <cmath>
-#include <set>
 #include <utility>
 
 namespace ZARN {
-
-namespace {
-
-constexpr double kMargin = 0.2;       // of an incident's length, before and after it
-constexpr double kLeastLength = 10.0; // seconds that are shown of a short one
-
-/// At a sample's own time the views still tell the one before it.
-double justBehind(double time)
-{
-    return std::nextafter(time, HUGE_VAL);
-}
-
-} // namespace
 
 OverviewController::OverviewController(const Session& session, RecordSession& record, CardController& cards, DialogCard& browser,
                                        DialogData& data, QStackedWidget& pages, QAction& action, QObject* pParent)
@@ -116,15 +101,8 @@ void OverviewController::slotRecord()
 
 void OverviewController::show(const Incident& incident)
 {
-    const double length = std::max(incident.end - incident.start, kLeastLength);
-    const double middle = (incident.start + incident.end) / 2;
-    const Episode& leading = incident.episodes[incident.leading];
-    std::set<std::string> names;
-    for (const Episode& episode : incident.episodes)
-        names.insert(episode.parameter);
     mPages.setCurrentWidget(&mData);
-    mData.showInGraph({middle - length * (0.5 + kMargin), middle + length * (0.5 + kMargin)}, names);
-    mRecord.setTime(justBehind(leading.peak ? leading.peakTime : leading.start));
+    mData.show(GraphMoment::of(incident));
 }
 
 /// The incidents of what is loaded, found when they are asked for.
@@ -155,7 +133,7 @@ void OverviewController::step(bool forward)
             pNext = &incident;
     }
     if (pNext)
-        mRecord.setTime(justBehind(pNext->start));
+        mRecord.setTime(GraphMoment::justBehind(pNext->start));
 }
 
 } // namespace ZARN

@@ -23,6 +23,9 @@ private Q_SLOTS:
     void legendChooses_data();
     void legendChooses();
     void dragsStrips();
+    void valueAxis_data();
+    void valueAxis();
+    void keys();
 };
 
 void TestGraphInteraction::zoomsAboutPointer()
@@ -34,7 +37,8 @@ void TestGraphInteraction::zoomsAboutPointer()
     hand.setLayout(layout);
     hand.moved(QPointF(layout.xOf(25), 100));
     for (const auto& [delta, modifiers, begin, end] :
-         {std::tuple(120, Qt::NoModifier, 2.5, 92.5), {-120, Qt::NoModifier, 0.0, 100.0}, {120, Qt::ShiftModifier, 0.0, 100.0}}) {
+         {std::tuple(120, Qt::NoModifier, 2.5, 92.5), {-120, Qt::NoModifier, 0.0, 100.0}, {120, Qt::ShiftModifier, 0.0, 100.0},
+          {60, Qt::NoModifier, 25 - 25 * std::sqrt(0.9), 25 + 75 * std::sqrt(0.9)}, {-60, Qt::NoModifier, 0.0, 100.0}}) {
         hand.wheel(delta, modifiers);
         QVERIFY(std::abs(graph.model.window().begin() - begin) < 1e-9 && std::abs(graph.model.window().end() - end) < 1e-9);
     }
@@ -241,6 +245,132 @@ void TestGraphInteraction::dragsStrips()
         const CursorLabels cursor(model, frame);
         QVERIFY(cursor.y() && frame.area(strip).contains(frame.plot().center().x(), *cursor.y()));
     }
+}
+
+void TestGraphInteraction::valueAxis_data()
+{
+    QTest::addColumn<bool>("split");
+    QTest::addColumn<bool>("shared");
+    QTest::newRow("single") << false << false;
+    QTest::newRow("strips") << true << false;
+    QTest::newRow("strips, one scale for the unit") << true << true;
+}
+
+void TestGraphInteraction::valueAxis()
+{
+    QFETCH(const bool, split);
+    QFETCH(const bool, shared);
+    OneTrace graph;
+    GraphModel& model = graph.model;
+    for (const int index : {1, 2}) {
+        model.traces().setActive(index, true);
+        model.putValues(index, std::vector<double>{0, 50, 100}, std::vector<double>{300.0 * index, 300.0 * index, 400});
+    }
+    for (const int index : {0, 1, 2})
+        model.traces().setName(index, QString::number(index), index == 2 ? "K" : "bar");
+    model.settings().displayMode = split ? eSplit : eSingleGraph;
+    model.settings().scale.isShared = shared;
+    model.setWindow({0, 50});
+    GraphInteraction hand(model);
+    const auto spans = [&model] { return std::array{model.valueSpan(0), model.valueSpan(1), model.valueSpan(2)}; };
+    const auto before = spans();
+    QCOMPARE(before[0] == before[1], shared);
+    const GraphLayout layout = layoutOf(model, QSizeF(900, 700));
+    hand.setLayout(layout);
+    QCOMPARE(layout.axes().size(), 3U);
+    const QRectF axis = layout.axes()[1].labels;
+    const QPointF grip(axis.right() - 3, axis.top() + axis.height() / 4);
+    QCOMPARE(layout.axisAt(grip), 1);
+    hand.moved(grip);
+    hand.wheel(120, {}); // about the value under the pointer, at three quarters
+    const double width = before[1][1] - before[1][0];
+    QVERIFY(std::abs(model.valueSpan(1)[0] - before[1][0] - 0.075 * width) < 1e-6);
+    QVERIFY(std::abs(model.valueSpan(1)[1] - before[1][1] + 0.025 * width) < 1e-6);
+    hand.pressed(Qt::LeftButton, grip, {});
+    hand.moved(grip + QPointF(0, axis.height() / 2));
+    hand.released(Qt::LeftButton, grip);
+    QVERIFY(std::abs(model.valueSpan(1)[0] - before[1][0] - 0.525 * width) < 1e-6); // the values follow the pointer
+    QVERIFY(model.valueSpan(2) == before[2] && (model.valueSpan(0) == before[0]) != shared);
+    QVERIFY(model.window() == TimeWindow(0, 50) && !model.marker().isRange());
+    QVERIFY(hand.doublePressed(grip, {}));
+    QVERIFY(std::abs(model.valueSpan(1)[0] - (shared ? -30 : 299.9999)) < 1e-3); // of the 300 in sight, or with the other trace's 0 to 50
+    hand.keyPressed(Qt::Key_0, Qt::ControlModifier);
+    QVERIFY(!hand.doublePressed(layout.plot().center(), {}));
+    hand.doublePressed(grip, {});
+    QVERIFY(model.valueSpan(1) == before[1]); // back to the whole record
+    for (const double factor : {1e-30, std::nan(""), -1.0, 0.0, 1e30})
+        hand.zoom(factor);
+    QVERIFY(model.valueSpan(1)[1] - model.valueSpan(1)[0] > 1e-7 && model.valueSpan(1)[1] < 1e13);
+    model.reset();
+    QVERIFY(model.settings().scale.zoomed.empty());
+}
+
+void TestGraphInteraction::keys()
+{
+    GraphModel model;
+    model.traces().setCount(30);
+    for (int index = 0; index < 30; ++index) {
+        model.traces().setActive(index, true);
+        model.putValues(index, std::vector<double>{0, 1000}, std::vector<double>{0, 1});
+    }
+    model.settings().displayMode = eSplit;
+    model.settings().graphMode = eManual;
+    model.setWindow({0, 100});
+    model.setCursorPosition(50);
+    const auto press = [&model](int key, Qt::KeyboardModifiers modifiers = {}, const QSizeF& size = QSizeF(800, 500)) {
+        GraphInteraction hand(model);
+        const GraphLayout layout = layoutOf(model, size, true);
+        hand.setLayout(layout);
+        return hand.keyPressed(key, modifiers) ? layout : GraphLayout();
+    };
+    const double pixel = 1 / press(Qt::Key_Right, Qt::ControlModifier).pixelsPerSecond();
+    QVERIFY(std::abs(model.marker().start - 50) < 1e-9 && std::abs(model.marker().end - 50 - pixel) < 1e-9);
+    press(Qt::Key_Left, Qt::AltModifier | Qt::ShiftModifier);
+    QVERIFY(std::abs(model.marker().start - 50 + 10 * pixel) < 1e-9);
+    for (int i = 0; i < 29; ++i) // every line of the table can be reached
+        press(Qt::Key_PageDown, Qt::AltModifier);
+    press(Qt::Key_PageDown, Qt::AltModifier);
+    QCOMPARE(model.traces().highlighted(), 29);
+    const VisibleRows rows = layoutOf(model).tableRows();
+    QVERIFY(rows.isCut() && rows.first + rows.count == 30);
+    press(Qt::Key_PageUp, Qt::ControlModifier);
+    QCOMPARE(model.traces().shown()[28], 29);
+    press(Qt::Key_Plus, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(model.traces().at(29)->height, 1.25);
+    press(Qt::Key_Up, Qt::AltModifier);
+    QVERIFY(std::abs(model.valueSpan(29)[0] - 0.02) < 1e-9);
+    press(Qt::Key_End);
+    QCOMPARE(model.window().end(), 1000.0);
+    press(Qt::Key_PageUp, Qt::KeypadModifier);
+    QCOMPARE(model.window().end(), 910.0);
+    press(Qt::Key_Minus);
+    QCOMPARE(model.window().width(), 125.0);
+    press(Qt::Key_Escape);
+    QVERIFY(!model.marker().isRange());
+    QSignalSpy command(&model, &GraphModel::signalCommand);
+    for (const int key : {Qt::Key_Z, Qt::Key_Y, Qt::Key_0, Qt::Key_1})
+        press(key, Qt::ControlModifier);
+    press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    press(Qt::Key_Enter, Qt::KeypadModifier);
+    QCOMPARE(command.count(), 6);
+    QCOMPARE(command[4][0], command[1][0]);
+
+    model.traces().setCount(2); // an edge between two strips
+    for (const int index : {0, 1})
+        model.traces().setActive(index, true);
+    const GraphLayout layout = layoutOf(model);
+    GraphInteraction hand(model);
+    hand.setLayout(layout);
+    const QPointF edge(layout.plot().left() - 5, layout.area(0).bottom());
+    QSignalSpy strips(&model, &GraphModel::signalStrips);
+    hand.pressed(Qt::LeftButton, edge, {});
+    hand.moved(edge - QPointF(0, layout.area(0).height() / 2));
+    QCOMPARE(model.traces().at(0)->height, 0.5);
+    QCOMPARE(model.traces().at(1)->height, 1.5);
+    hand.moved(edge - QPointF(0, 5000)); // never away
+    hand.released(Qt::LeftButton, edge);
+    QVERIFY(model.traces().at(0)->height > 0.1);
+    QCOMPARE(strips.count(), 1);
 }
 
 QTEST_MAIN(TestGraphInteraction)

@@ -331,6 +331,19 @@ void TestGraphScene::narrowMarkerTable()
     QCOMPARE(headers(1200), MarkerValues::headers());
     QCOMPARE(headers(680), MarkerValues::headers().mid(2));
     QCOMPARE(headers(400), QStringList({"Mean"}));
+
+    fillFlight(model, 30); // every line can be seen
+    model.setMarker({500, 1500});
+    QSet<QString> names;
+    for (int first = 0; first < 30; first += 5) {
+        model.settings().firstTableRow = first;
+        const GraphFrame frame = frameOf(model, QSizeF(900, 500));
+        for (const auto& [box, text] : textsOf(model, frame)) {
+            if (frame.layout().table().contains(box.center()) && text.startsWith("Parameter"))
+                names << text;
+        }
+    }
+    QCOMPARE(names.size(), 30);
 }
 
 void TestGraphScene::messageIsBroken()

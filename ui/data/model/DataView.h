@@ -68,6 +68,8 @@ public:
     [[nodiscard]] virtual std::optional<TimeSpan> shownSpan() const { return {}; }
     /// Shows that part of the record, and the parameters of these names whether they are ticked or not.
     virtual void showSpan(const TimeSpan& /*span*/, const std::set<std::string>& /*parameters*/) {}
+    /// Marks these parts of the record, in order of time, for a view that can.
+    virtual void setFound(const std::vector<TimeSpan>& /*spans*/) {}
     /// Shows what is ticked as a layout tells, for a view that can.
     virtual void setLayout(const DisplayLayout& /*layout*/) {}
     /// What is ticked, and how the view shows it; none for a view that knows no layouts.

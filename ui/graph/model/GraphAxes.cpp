@@ -14,6 +14,8 @@ constexpr double kTickSpacing = 100.0; // pixels between labels of the time axis
 constexpr double kGridAlpha = 0.55, kFineAlpha = 0.18;
 constexpr double kBandAlpha = 0.22, kReferenceAlpha = 0.12;
 constexpr double kEdgeAlpha = 0.6; // between strips
+constexpr double kLabelGap = 5.0;  // between the labels of an axis and the plot
+constexpr double kLabelContrast = 4.5;
 
 } // namespace
 
@@ -21,10 +23,9 @@ void GraphAxes::draw(Canvas& canvas) const
 {
     drawBands(canvas);
     drawTimeAxis(canvas);
-    if (mModel.settings().displayMode == eSingleGraph || mModel.traces().count() == 0)
-        return drawValueAxis(canvas, mModel.traces().axis());
-    for (const int index : mModel.traces().shown())
-        drawValueAxis(canvas, index);
+    const bool isSplit = mModel.settings().displayMode == eSplit;
+    for (const ValueAxis& axis : mLayout.axes())
+        drawValueAxis(canvas, axis, isSplit || &axis == &mLayout.axes().front());
 }
 
 void GraphAxes::drawBands(Canvas& canvas) const
@@ -74,12 +75,13 @@ void GraphAxes::drawTimeAxis(Canvas& canvas) const
     drawGrid(canvas, fine, major);
 }
 
-void GraphAxes::drawValueAxis(Canvas& canvas, int index) const
+void GraphAxes::drawValueAxis(Canvas& canvas, const ValueAxis& axis, bool hasGrid) const
 {
-    const QRectF area = mLayout.area(index);
-    const ValueSpan span = mModel.valueSpan(index);
+    const QRectF area = mLayout.area(axis.index);
+    const ValueSpan span = mModel.valueSpan(axis.index);
     const AxisTicks ticks(span[0], span[1], area.height(), GraphLayout::valueSpacing(area.height(), mLayout.line()));
-    std::vector<QPointF> major, fine;
+    const double right = axis.labels.right();
+    std::vector<QPointF> major, fine, marks;
     std::vector<GraphLabels::Label> labels;
     for (const AxisTick& tick : ticks.ticks()) {
         const double y = std::floor(GraphLayout::yOf(tick.value, area, span));
@@ -89,27 +91,54 @@ void GraphAxes::drawValueAxis(Canvas& canvas, int index) const
         lines.insert(lines.end(), {QPointF(area.left(), y), QPointF(area.right() - 1, y)});
         // A label that would hang over into the next strip is left out.
         const double half = mLayout.line() / 2;
-        if (tick.isMajor && y - half >= area.top() - 1 && y + half <= area.bottom() + 1)
-            labels.push_back({QPointF(area.left() - 5, y), ticks.valueLabel(tick.value)});
+        if (!tick.isMajor || y - half < area.top() - 1 || y + half > area.bottom() + 1)
+            continue;
+        labels.push_back({QPointF(right - kLabelGap, y), ticks.valueLabel(tick.value)});
+        marks.insert(marks.end(), {QPointF(right - kLabelGap + 2, y), QPointF(right - 1, y)});
     }
-    mLabels.draw(canvas, labels, Qt::AlignRight | Qt::AlignVCenter);
-    drawGrid(canvas, fine, major);
     const bool isSplit = mModel.settings().displayMode == eSplit;
+    const std::optional<QColor> colour = isSplit || !axis.isOwn ? std::nullopt : axisColour(axis.index);
+    mLabels.draw(canvas, labels, Qt::AlignRight | Qt::AlignVCenter, colour);
+    if (hasGrid)
+        drawGrid(canvas, fine, major);
     if (isSplit && area.bottom() < mLayout.plot().bottom()) {
         const std::array line{QPointF(area.left(), area.bottom()), QPointF(area.right() - 1, area.bottom())};
         canvas.lines(line, {mLabels.contrast(kEdgeAlpha)});
     }
-    if (const GraphParameter* pTrace = mModel.traces().at(index); pTrace && !isSplit && mModel.traces().count() > 1)
-        drawAxisName(canvas, *pTrace);
+    if (isSplit || mModel.traces().count() <= 1)
+        return;
+    if (mLayout.axes().size() > 1) {
+        marks.insert(marks.end(), {QPointF(right - 1, area.top()), QPointF(right - 1, area.bottom() - 1)});
+        canvas.lines(marks, {colour.value_or(mModel.colours().label)});
+    }
+    drawAxisName(canvas, axis, hasGrid);
 }
 
-void GraphAxes::drawAxisName(Canvas& canvas, const GraphParameter& trace) const
+std::optional<QColor> GraphAxes::axisColour(int index) const
 {
-    // Whose values the axis shows; the others have spans of their own.
-    const QString text = GraphLayout::shortened(trace.label(), GraphLayout::kLongestLabel);
-    const QPointF corner(GraphLayout::kHandleX - 4, mLayout.plot().top() - mLayout.line() - 3);
-    canvas.fillRect(QRectF(corner.x(), corner.y() + 2, 10, mLayout.line() - 4), trace.drawnColour);
-    canvas.text(corner + QPointF(14, 1), text, mLabels.style(Qt::AlignLeft | Qt::AlignTop));
+    // One trace needs no telling which.
+    if (mModel.traces().count() <= 1)
+        return std::nullopt;
+    return readableOn(mModel.colours().labelBackground, mModel.traces().at(index)->drawnColour, kLabelContrast);
+}
+
+void GraphAxes::drawAxisName(Canvas& canvas, const ValueAxis& axis, bool isFront) const
+{
+    const GraphParameter& trace = *mModel.traces().at(axis.index);
+    const double top = mLayout.plot().top() - mLayout.line() - 3;
+    if (!isFront) {
+        // No room for more than the unit: the colour tells whose it is.
+        const auto room = static_cast<int>((axis.labels.width() - kLabelGap) / mLayout.character());
+        const CanvasText style = mLabels.style(Qt::AlignRight | Qt::AlignTop, axis.isOwn ? axisColour(axis.index) : std::nullopt);
+        return canvas.text(QPointF(axis.labels.right() - kLabelGap, top + 1), GraphLayout::shortened(trace.unit, room), style);
+    }
+    // Whose values the grid stands at; the others have spans of their own.
+    const QPointF corner(mLayout.axes().size() > 1 ? axis.labels.left() : GraphLayout::kHandleX - 4, top);
+    const bool isUnit = !axis.isOwn && mModel.settings().scale.isShared && !trace.unit.isEmpty();
+    if (!isUnit)
+        canvas.fillRect(QRectF(corner.x(), corner.y() + 2, 10, mLayout.line() - 4), trace.drawnColour);
+    const QString text = isUnit ? QLatin1Char('[') + trace.unit + QLatin1Char(']') : GraphLayout::shortened(trace.label(), GraphLayout::kLongestLabel);
+    canvas.text(corner + QPointF(isUnit ? 0 : 14, 1), text, mLabels.style(Qt::AlignLeft | Qt::AlignTop));
 }
 
 void GraphAxes::drawGrid(Canvas& canvas, std::span<const QPointF> fine, std::span<const QPointF> major) const

@@ -15,8 +15,10 @@ private:
     void drawBands(Canvas& canvas) const;
     void drawBand(Canvas& canvas, int index, const ValueSpan& values, const QColor& colour) const;
     void drawTimeAxis(Canvas& canvas) const;
-    void drawValueAxis(Canvas& canvas, int index) const;
-    void drawAxisName(Canvas& canvas, const GraphParameter& trace) const;
+    void drawValueAxis(Canvas& canvas, const ValueAxis& axis, bool hasGrid) const;
+    void drawAxisName(Canvas& canvas, const ValueAxis& axis, bool isFront) const;
+    /// Of the labels of a trace's own axis; none for that of all labels.
+    [[nodiscard]] std::optional<QColor> axisColour(int index) const;
     void drawGrid(Canvas& canvas, std::span<const QPointF> fine, std::span<const QPointF> major) const;
 
     const GraphModel& mModel;

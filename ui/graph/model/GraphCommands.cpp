@@ -1,5 +1,7 @@
 #include "ui/graph/model/GraphCommands.h"
 
+#include "ui/graph/model/ValueZoom.h"
+
 namespace ZARN {
 
 namespace {
@@ -23,7 +25,11 @@ void GraphCommands::run(EGraphCommand command, bool isChecked)
         break;
     case eSplitMode: setDisplayMode(eSplit); break;
     case eSingleMode: setDisplayMode(eSingleGraph); break;
+    case eFitValues: ValueZoom(mModel).toggleFit(); break;
+    case eWholeValues: ValueZoom(mModel).showAll(); break;
+    case eSharedScale: ValueZoom(mModel).setShared(!mModel.settings().scale.isShared); break;
     case eResetAll:
+        ValueZoom(mModel).showAll();
         setDisplayMode(eSplit);
         mRecord.setRange(kDefaultRange);
         mRecord.showTime(mModel.cursor().time);

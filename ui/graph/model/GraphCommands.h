@@ -1,26 +1,11 @@
 #pragma once
 
+#include "ui/graph/model/GraphCommand.h"
 #include "ui/graph/model/RecordGraph.h"
 
 namespace ZARN {
 
-/// The graph's commands by the number of their button.
-enum EGraphCommand {
-    eZoomIn = 0,
-    eZoomOut = 1,
-    eZoomAll = 2,
-    eZoomMarker = 3,
-    eClearAll = 4,
-    eAutomaticMode = 5,
-    eSplitMode = 6,
-    eSingleMode = 7,
-    eResetAll = 8,
-    eSetup = 9,
-    eSnapshot = 10,
-    eNoCommand = 99
-};
-
-/// What the buttons of the graph do, but for those that open a window.
+/// What the commands of the graph do, but for those that open a window or go through the history.
 class GraphCommands {
 public:
     GraphCommands(GraphModel& model, RecordGraph& record) : mModel(model), mRecord(record) {}

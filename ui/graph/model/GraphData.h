@@ -30,6 +30,7 @@ struct GraphData {
     bool legendOn = true;
     ValueScale scale{.lower = -100.0, .upper = 100.0};
     std::vector<CycleNote> notes = {}; ///< of the record, by time
+    int firstTableRow = 0, firstLegendRow = 0; ///< of the marker's table and of the legend where they have no room for all
     bool clickMovesCursor = false; ///< a click in the plot; otherwise it makes the marker a point
 };
 

@@ -1,6 +1,7 @@
 #include "ui/graph/model/GraphInteraction.h"
 
 #include "ui/graph/model/CursorLabels.h"
+#include "ui/graph/model/KeyHand.h"
 
 #include <algorithm>
 #include <cmath>
@@ -11,7 +12,7 @@ namespace ZARN {
 namespace {
 
 constexpr double kZoomStep = 0.9;
-constexpr double kWideZoomStep = 1.1111111111111112;
+constexpr double kNotch = 120.0; // of the wheel
 constexpr double kFastKey = 10.0;
 constexpr double kClick = 4.0; // pixels that a hand may tremble
 
@@ -30,15 +31,11 @@ bool GraphInteraction::keyPressed(int key, Qt::KeyboardModifiers modifiers)
     case Qt::Key_Alt: mAlt = true; return true;
     default: break;
     }
-    const double step = mShift || modifiers.testFlag(Qt::ShiftModifier) ? kFastKey : 1.0;
-    const double second = step / mLayout.pixelsPerSecond();
-    switch (key) {
-    case Qt::Key_Left: moveCursorBy(-second); return true;
-    case Qt::Key_Right: moveCursorBy(second); return true;
-    case Qt::Key_Up: moveValueBy(-step); return true;
-    case Qt::Key_Down: moveValueBy(step); return true;
-    default: return false;
+    if (const GraphKey* pKey = GraphKey::find(key, modifiers)) {
+        KeyHand(mModel, mLayout, mShift || modifiers.testFlag(Qt::ShiftModifier) ? kFastKey : 1.0).press(*pKey);
+        return true;
     }
+    return false;
 }
 
 bool GraphInteraction::keyReleased(int key)
@@ -49,33 +46,6 @@ bool GraphInteraction::keyReleased(int key)
     case Qt::Key_Alt: mAlt = false; return true;
     default: return false;
     }
-}
-
-void GraphInteraction::moveCursorBy(double seconds)
-{
-    mModel.setCursorMoving(true);
-    mModel.moveCursor(mModel.cursor().time + seconds, mModel.cursor().value, mModel.cursor().strip);
-    mModel.setWindow(mModel.window().keeping(mModel.cursor().time));
-}
-
-void GraphInteraction::moveValueBy(double pixels)
-{
-    const bool isSplit = mModel.settings().displayMode == eSplit;
-    int index = isSplit ? mModel.cursor().strip : mModel.traces().axis();
-    if (isSplit && !isShown(mModel.traces(), index) && mModel.traces().count() > 0)
-        index = mModel.traces().shown().front();
-    double value = mModel.cursor().value;
-    if (isShown(mModel.traces(), index)) {
-        // From where it can be seen: the value may be that of another strip.
-        const QRectF from = mLayout.area(index);
-        const double start = std::clamp(GraphLayout::yOf(value, from, mModel.valueSpan(index)), from.top(), from.bottom());
-        const double y = std::clamp(start + pixels, mLayout.plot().top(), mLayout.plot().bottom());
-        if (isSplit)
-            index = mLayout.stripAt(mModel, y);
-        value = GraphLayout::valueAt(y, mLayout.area(index), mModel.valueSpan(index));
-    }
-    mModel.setCursorMoving(true);
-    mModel.moveCursor(mModel.cursor().time, value, isSplit ? index : mModel.cursor().strip);
 }
 
 int GraphInteraction::legendAt(const QPointF& point) const
@@ -134,49 +104,31 @@ void GraphInteraction::pressedLeft(const QPointF& point, Qt::KeyboardModifiers m
     mDragged = handleAt(point);
     if (isShift)
         return beginCursorDrag(point);
-    if (mDragged >= 0)
+    if (mDragged >= 0 || mStrip.press(mLayout, point) || mAxis.press(mLayout, point))
         return;
-    if (!isControl)
-        return pressedPlain(point);
-    mModel.setMarker(mModel.marker().extendedTo(mLayout.timeAt(point.x())));
-    sendMarker();
+    if (isControl)
+        mMarker.extend(mLayout.timeAt(point.x()));
+    else
+        pressedPlain(point);
 }
 
 void GraphInteraction::pressedPlain(const QPointF& point)
 {
-    if (takeMarkerEnd(point))
+    if (mMarker.take(mLayout, point))
         return;
     if (mModel.settings().clickMovesCursor) {
         mClick = point;
         return;
     }
-    beginMarkerDrag(mLayout.timeAt(point.x()));
-    sendMarker();
+    const double time = mLayout.timeAt(point.x());
+    mMarker.begin(time);
+    mMarker.extend(time);
 }
 
-void GraphInteraction::beginMarkerDrag(double fixedTime)
+bool GraphInteraction::doublePressed(const QPointF& point, Qt::KeyboardModifiers modifiers)
 {
-    mMarkerDrag = true;
-    mMarkerFixed = fixedTime;
-    mModel.setMarker({fixedTime, fixedTime});
-}
-
-bool GraphInteraction::takeMarkerEnd(const QPointF& point)
-{
-    if (!mModel.marker().isRange() || !mLayout.plot().contains(point))
-        return false;
-    const auto distance = [&](double time) { return std::abs(mLayout.xOf(time) - point.x()); };
-    const auto [start, end] = mModel.marker();
-    if (std::min(distance(start), distance(end)) >= kClick)
-        return false;
-    mMarkerDrag = true;
-    mMarkerFixed = distance(start) < distance(end) ? end : start;
-    return true;
-}
-
-void GraphInteraction::sendMarker()
-{
-    Q_EMIT mModel.signalMarker(static_cast<float>(mModel.marker().start), static_cast<float>(mModel.marker().end));
+    const bool isPlain = !mShift && !mControl && modifiers == Qt::NoModifier;
+    return isPlain && handleAt(point) < 0 && mLayout.edgeAt(mModel, point) < 0 && mAxis.toggleFit(mLayout, point);
 }
 
 bool GraphInteraction::isInWords(const QPointF& point) const
@@ -213,12 +165,16 @@ void GraphInteraction::moved(const QPointF& point)
         return;
     if (mDragged >= 0)
         return Q_EMIT mModel.signalRepaint();
+    if (mStrip.isOn())
+        return mStrip.move(point);
+    if (mAxis.isOn())
+        return mAxis.move(point);
     if (mClick && isFar(point, *mClick)) {
-        beginMarkerDrag(mLayout.timeAt(mClick->x()));
+        mMarker.begin(mLayout.timeAt(mClick->x()));
         mClick.reset();
     }
-    if (mMarkerDrag)
-        return mModel.setMarker({mMarkerFixed, mLayout.timeAt(point.x())});
+    if (mMarker.isOn())
+        return mMarker.move(mLayout.timeAt(point.x()));
     if (mClick)
         return;
     if (mCursorDrag)
@@ -257,15 +213,12 @@ void GraphInteraction::releasedLeft(const QPointF& point)
     if (std::exchange(mClick, std::nullopt))
         beginCursorDrag(point);
     if (dragged >= 0) {
-        const int target = mLayout.stripAt(mModel, point.y());
-        if (mModel.traces().move(dragged, target))
-            Q_EMIT mModel.signalMoveParameter(dragged, target);
+        mStrip.moveTo(dragged, mLayout.stripAt(mModel, point.y()));
         Q_EMIT mModel.signalRepaint();
     }
-    mModel.setMarker(mModel.marker().ordered());
-    if (mMarkerDrag && mModel.marker().isRange())
-        sendMarker();
-    mMarkerDrag = false;
+    mStrip.release();
+    mAxis.release();
+    mMarker.release();
     mCursorDrag = false;
 }
 
@@ -273,8 +226,52 @@ void GraphInteraction::wheel(int delta, Qt::KeyboardModifiers modifiers)
 {
     if (mShift || modifiers.testFlag(Qt::ShiftModifier))
         return;
+    const bool isTable = mLayout.table().contains(mPointer) && mLayout.tableRows().isCut();
+    if (isTable || (mLayout.legend().contains(mPointer) && mLayout.legendRows().isCut() && !mLayout.isLegendInStrips()))
+        return scroll(isTable, delta);
+    // A notch is a step, and what a touch pad tells a part of one.
+    zoom(std::pow(kZoomStep, static_cast<double>(delta) / kNotch));
+}
+
+void GraphInteraction::zoom(double factor)
+{
+    if (!(factor > 0) || !std::isfinite(factor) || mAxis.zoom(mLayout, mPointer, factor))
+        return;
     mModel.takeOverTime();
-    mModel.setWindow(mModel.window().zoomedAbout(mPointerTime, delta >= 1 ? kZoomStep : kWideZoomStep));
+    mModel.setWindow(mModel.window().zoomedAbout(mPointerTime, factor));
+}
+
+void GraphInteraction::swiped(double pixels)
+{
+    mModel.takeOverTime();
+    mModel.setWindow(mModel.window().movedBy(-pixels / mLayout.pixelsPerSecond()));
+}
+
+void GraphInteraction::scroll(bool isTable, int delta)
+{
+    constexpr double kLines = 3.0; // a notch
+    const VisibleRows& rows = isTable ? mLayout.tableRows() : mLayout.legendRows();
+    mScrolled -= kLines * delta / kNotch;
+    const double whole = std::trunc(mScrolled);
+    mScrolled -= whole;
+    (isTable ? mModel.settings().firstTableRow : mModel.settings().firstLegendRow) =
+        std::clamp(rows.first + static_cast<int>(whole), 0, rows.all - rows.count);
+    Q_EMIT mModel.signalRepaint();
+}
+
+Qt::CursorShape GraphInteraction::shape() const
+{
+    if (mPan.isOn)
+        return Qt::ClosedHandCursor;
+    if (mStrip.isOn() || mAxis.isOn())
+        return mStrip.isOn() ? Qt::SplitVCursor : Qt::SizeVerCursor;
+    if (legendAt(mPointer) >= 0 || handleAt(mPointer) >= 0)
+        return Qt::PointingHandCursor;
+    if (mLayout.edgeAt(mModel, mPointer) >= 0)
+        return Qt::SplitVCursor;
+    if (mLayout.axisAt(mPointer) >= 0)
+        return Qt::SizeVerCursor;
+    return mMarker.isEnd(mLayout, mPointer) ? Qt::SplitHCursor : Qt::ArrowCursor;
 }
 
 } // namespace ZARN

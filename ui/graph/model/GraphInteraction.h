@@ -1,6 +1,8 @@
 #pragma once
 
-#include "ui/graph/model/GraphLayout.h"
+#include "ui/graph/model/AxisHand.h"
+#include "ui/graph/model/MarkerHand.h"
+#include "ui/graph/model/StripHand.h"
 
 #include <optional>
 
@@ -16,7 +18,7 @@ struct DraggedStrip {
 /// the layout is that of the frame that the user saw.
 class GraphInteraction {
 public:
-    explicit GraphInteraction(GraphModel& model) : mModel(model) {}
+    explicit GraphInteraction(GraphModel& model) : mModel(model), mAxis(model), mStrip(model), mMarker(model) {}
 
     void setLayout(const GraphLayout& layout) { mLayout = layout; }
     void setPanningAllowed(bool on) { mPanningAllowed = on; }
@@ -34,12 +36,20 @@ public:
     void moved(const QPointF& point);
     /// @return true when the right button was released where it had been pressed: a menu is wanted.
     bool released(Qt::MouseButton button, const QPointF& point);
+    /// The second press of a double click of the left button. @return whether it means something else than the first one
+    bool doublePressed(const QPointF& point, Qt::KeyboardModifiers modifiers);
     void left() { mModel.traces().point(-1); }
-    /// @param delta of the wheel, at least 1 when it turns forward
+    // Wheel and touch pad mean what lies under the pointer: time, the values of an axis, the rows of a list.
+    /// @param delta of the wheel, 120 for a notch forward
     void wheel(int delta, Qt::KeyboardModifiers modifiers);
+    /// Two fingers went sideways.
+    void swiped(double pixels);
+    /// @param factor of the span that is seen
+    void zoom(double factor);
 
     [[nodiscard]] DraggedStrip dragged() const { return {mDragged, mPointer.y()}; }
-    [[nodiscard]] bool isPanning() const { return mPan.isOn; }
+    /// What the pointer can take where it is.
+    [[nodiscard]] Qt::CursorShape shape() const;
 
 private:
     struct Pan {
@@ -49,22 +59,17 @@ private:
         QPointF start;
     };
     void pressedPlain(const QPointF& point);
-    void beginMarkerDrag(double fixedTime);
-    /// Whether an end of the marker lies under the pointer, which is taken then.
-    bool takeMarkerEnd(const QPointF& point);
     void pressedLeft(const QPointF& point, Qt::KeyboardModifiers modifiers);
     void releasedLeft(const QPointF& point);
     void pan(const QPointF& point);
     void beginCursorDrag(const QPointF& point);
     void cursorTo(const QPointF& point);
-    void moveCursorBy(double seconds);
-    void moveValueBy(double pixels);
+    void scroll(bool isTable, int delta);
     /// The trace whose line of the legend is seen under the pointer; -1 for none.
     [[nodiscard]] int legendAt(const QPointF& point) const;
     [[nodiscard]] int handleAt(const QPointF& point) const;
     /// Beside and below the plot, where the graph tells in words and no time lies under the pointer.
     [[nodiscard]] bool isInWords(const QPointF& point) const;
-    void sendMarker();
 
     GraphModel& mModel;
     GraphLayout mLayout;
@@ -72,10 +77,12 @@ private:
     QPointF mPointer;
     double mPointerTime = 0.0;
     Pan mPan;
+    AxisHand mAxis;
+    StripHand mStrip;
+    MarkerHand mMarker;
     int mDragged = -1; // parameter whose strip is dragged
     std::optional<QPointF> mClick; // where the button went down, as long as it may still become a click
-    bool mMarkerDrag = false;
-    double mMarkerFixed = 0.0; // the end that is not dragged
+    double mScrolled = 0.0; // lines of a list, less than one
     bool mCursorDrag = false;
     bool mPanningAllowed = true;
     bool mShift = false, mControl = false, mAlt = false;

@@ -13,14 +13,19 @@ public:
         QString text;
     };
 
+    static constexpr QColor kHighlight{255, 255, 255, 110}; ///< on the line of the trace that stands out
+
     GraphLabels(const GraphModel& model, const GraphLayout& layout) : mModel(model), mLayout(layout) {}
 
-    [[nodiscard]] CanvasText style(Qt::Alignment align) const;
+    /// @param colour in place of that of all labels
+    [[nodiscard]] CanvasText style(Qt::Alignment align, const std::optional<QColor>& colour = std::nullopt) const;
     /// What can be told best from the graph's ground.
     [[nodiscard]] QColor contrast(double alpha = 1.0) const;
     void draw(Canvas& canvas, const Label& label, Qt::Alignment align) const;
     /// The same for many that do not overlap: all boxes, then all texts.
-    void draw(Canvas& canvas, const std::vector<Label>& labels, Qt::Alignment align) const;
+    void draw(Canvas& canvas, const std::vector<Label>& labels, Qt::Alignment align, const std::optional<QColor>& colour = std::nullopt) const;
+    /// How much of a list is seen, and where: at the right edge of its rows.
+    void drawScrollBar(Canvas& canvas, const QRectF& list, const VisibleRows& rows) const;
 
 private:
     void drawBox(Canvas& canvas, const Label& label, const CanvasText& style) const;

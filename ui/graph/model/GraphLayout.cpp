@@ -14,6 +14,8 @@ namespace {
 constexpr double kGap = 6.0;
 constexpr double kHandleRoom = 22.0;
 constexpr double kSmallestPlot = 60.0;
+constexpr double kAxesPart = 0.22;  // of the view's width at most, but for the first
+constexpr double kLeastGrip = 27.0; // pixels of an axis beside the handles of the strips
 constexpr double kTablePart = 0.38; // of the view's height at most
 constexpr double kLegendPart = 0.4; // the same for the legend
 constexpr int kLeastNumber = 8;     // characters of a number in the legend
@@ -65,22 +67,22 @@ GraphLayout::GraphLayout(const GraphModel& model, const QSizeF& size, double tex
     : mSize(size), mTextSize(textSize), mLine(canvasTextSize(QStringLiteral("0"), textSize, true).height() + 2),
       mCharacter(canvasAdvance(textSize)), mNameLength(longestName(model)), mNumberLength(longestNumber(model)), mXmin(model.window().begin())
 {
-    const double top = mLine + kGap, table = tableHeight(model, size.height());
-    if (table > 0)
-        mTable = QRectF(kGap, size.height() - table, std::max(0.0, size.width() - 2 * kGap), table - kGap);
+    const double top = mLine + kGap, table = placeTable(model);
     placeLegend(model, size.width());
     if (mLegend == ELegend::eNone)
         placeLegendBelow(model, size.height() - table);
     const double bottom = (mIsBelow ? mLegendRect.top() - kGap / 2 : size.height() - table) - mLine - 2 * kGap;
     const double right = mLegend == ELegend::eNone || mIsBelow ? size.width() - 2 * kGap : mLegendRect.left() - kGap;
     const double height = std::max(kSmallestPlot, std::floor(bottom - top));
-    const double left = std::ceil((model.settings().displayMode == eSplit ? kHandleRoom : kGap) + axisWidth(model, height) + kGap);
+    const double left = placeAxes(model, height);
     mPlot = QRectF(left, top, std::max(kSmallestPlot, std::floor(right - left)), height);
     if (!mIsBelow)
         mLegendRect.setRect(mLegendRect.left(), mPlot.top(), mLegendRect.width(), mPlot.height());
     const double width = model.window().width();
     mPixelsPerSecond = mPlot.width() / (width > 0 ? width : TimeWindow::kSmallest);
     placeStrips(model);
+    moveAxes(model);
+    placeLegendRows(model);
 }
 
 void GraphLayout::placeStrips(const GraphModel& model)
@@ -99,12 +101,16 @@ void GraphLayout::placeStrips(const GraphModel& model)
     }
 }
 
-double GraphLayout::tableHeight(const GraphModel& model, double height) const
+double GraphLayout::placeTable(const GraphModel& model)
 {
     if (!model.marker().isRange() || model.traces().shown().empty())
         return 0;
-    const double rows = model.traces().count() + 1;
-    return std::min(rows, std::max(2.0, std::floor(height * kTablePart / mLine))) * mLine + kGap;
+    // The header takes a line, and what is said of the rows that have no room another one.
+    const int traces = model.traces().count(), room = std::max(3, static_cast<int>(mSize.height() * kTablePart / mLine));
+    mTableRows = VisibleRows(model.settings().firstTableRow, traces < room ? traces : room - 2, traces);
+    const double height = (mTableRows.count + (mTableRows.isCut() ? 2 : 1)) * mLine + kGap;
+    mTable = QRectF(kGap, mSize.height() - height, std::max(0.0, mSize.width() - 2 * kGap), height - kGap);
+    return height;
 }
 
 void GraphLayout::placeLegend(const GraphModel& model, double width)
@@ -132,8 +138,7 @@ void GraphLayout::placeLegend(const GraphModel& model, double width)
 
 void GraphLayout::placeLegendBelow(const GraphModel& model, double bottom)
 {
-    // Strips have their names in them, and their values at the cursor.
-    if (!model.settings().legendOn || model.traces().shown().empty() || model.settings().displayMode == eSplit)
+    if (!model.settings().legendOn || model.traces().shown().empty())
         return;
     const double room = std::min(bottom * kLegendPart, bottom - kSmallestPlot - 2 * mLine - 4 * kGap);
     double rows = std::min(model.traces().count() + 1.0, std::floor(room / mLine));
@@ -158,24 +163,80 @@ void GraphLayout::placeLegendBelow(const GraphModel& model, double bottom)
     mLegendRect = QRectF(kGap, bottom - rows * mLine - kGap / 2, std::max(0.0, mSize.width() - 2 * kGap), rows * mLine);
 }
 
-double GraphLayout::axisWidth(const GraphModel& model, double height) const
+double GraphLayout::axisWidth(const GraphModel& model, int index, double height) const
 {
+    const ValueSpan range = model.valueSpan(index);
+    const AxisTicks ticks(range[0], range[1], height, valueSpacing(height, mLine));
     qsizetype longest = 4;
-    const auto measure = [&](int index, double length) {
-        const ValueSpan range = model.valueSpan(index);
-        const AxisTicks ticks(range[0], range[1], length, valueSpacing(length, mLine));
-        for (const AxisTick& tick : ticks.ticks()) {
-            if (tick.isMajor)
-                longest = std::max(longest, ticks.valueLabel(tick.value).size());
-        }
-    };
-    if (model.settings().displayMode == eSplit) {
-        for (const int index : model.traces().shown())
-            measure(index, height * partOfStrip(model, index));
-    } else {
-        measure(model.traces().axis(), height);
+    for (const AxisTick& tick : ticks.ticks()) {
+        if (tick.isMajor)
+            longest = std::max(longest, ticks.valueLabel(tick.value).size());
     }
     return static_cast<double>(std::min<qsizetype>(longest, 14)) * mCharacter + kGap;
+}
+
+double GraphLayout::placeAxes(const GraphModel& model, double height)
+{
+    const ShownTraces& traces = model.traces();
+    if (model.settings().displayMode == eSplit && traces.count() > 0) {
+        double widest = 0;
+        for (const int index : traces.shown()) {
+            widest = std::max(widest, axisWidth(model, index, height * partOfStrip(model, index)));
+            mAxes.push_back({index, true, {}});
+        }
+        // Beside the reach of the handles there is room to take an axis, and the edges of strips.
+        return std::ceil(std::max(kHandleRoom + widest + kGap, kHandleX + std::sqrt(kHandleReach) + kLeastGrip));
+    }
+    // Traces with the same values at both ends share an axis; the chosen trace's stands next to the plot.
+    mAxes.push_back({traces.axis(), true, {}});
+    double width = axisWidth(model, traces.axis(), height) + kGap;
+    mAxes.back().labels.setWidth(width);
+    std::vector<ValueSpan> spans{model.valueSpan(traces.axis())};
+    for (const int index : traces.shown()) {
+        const ValueSpan span = model.valueSpan(index);
+        if (const auto same = std::ranges::find(spans, span); same != spans.end()) {
+            ValueAxis& axis = mAxes[static_cast<std::size_t>(same - spans.begin())];
+            axis.isOwn = axis.isOwn && axis.index == index;
+            continue;
+        }
+        const double more = axisWidth(model, index, height) + kGap;
+        if (width + more > mSize.width() * kAxesPart)
+            break;
+        width += more;
+        spans.push_back(span);
+        mAxes.push_back({index, true, QRectF(0, 0, more, 0)});
+    }
+    return std::ceil(kGap + width);
+}
+
+void GraphLayout::moveAxes(const GraphModel& model)
+{
+    double right = mPlot.left();
+    for (ValueAxis& axis : mAxes) {
+        const QRectF area = this->area(axis.index);
+        const double left = model.settings().displayMode == eSplit ? kHandleRoom : right - axis.labels.width();
+        axis.labels.setRect(left, area.top(), right - left, area.height());
+        if (model.settings().displayMode != eSplit)
+            right = left;
+    }
+}
+
+int GraphLayout::axisAt(const QPointF& point) const
+{
+    const auto found = std::ranges::find_if(mAxes, [&point](const ValueAxis& axis) { return axis.labels.contains(point); });
+    return found == mAxes.end() ? -1 : found->index;
+}
+
+int GraphLayout::edgeAt(const GraphModel& model, const QPointF& point) const
+{
+    const std::vector<int>& shown = model.traces().shown();
+    if (mStrips.empty() || point.x() < 0 || point.x() >= mPlot.left())
+        return -1;
+    for (std::size_t i = 0; i + 1 < shown.size(); ++i) {
+        if (std::abs(area(shown[i]).bottom() - point.y()) < kEdgeReach)
+            return shown[i];
+    }
+    return -1;
 }
 
 QRectF GraphLayout::area(int index) const
@@ -189,19 +250,27 @@ QRectF GraphLayout::legendLine(const GraphModel& model, std::size_t row) const
         return {};
     if (mLegend == ELegend::eNone)
         return overlayLine(model, row);
-    if (model.settings().displayMode == eSplit) {
-        // Rounded, some strips have room and others none: all go by the height before that.
-        if (mStripHeight >= mLine)
-            return {mLegendRect.left(), area(model.traces().shown()[row]).top(), mLegendRect.width(), mLine};
-    }
-    // The first line is the header, and the last one says how many found no room.
-    const auto lines = static_cast<std::size_t>(std::max(0.0, std::floor(mLegendRect.height() / mLine) - 1));
-    const std::size_t places = lines * static_cast<std::size_t>(mLegendColumns);
-    if (row + (model.traces().shown().size() > places ? 1 : 0) >= places)
+    if (isLegendInStrips())
+        return {mLegendRect.left(), area(model.traces().shown()[row]).top(), mLegendRect.width(), mLine};
+    const int place = static_cast<int>(row) - mLegendRows.first;
+    if (place < 0 || place >= mLegendRows.count)
         return {};
+    const int lines = legendLines();
     const double width = mLegendRect.width() / mLegendColumns;
-    const auto column = static_cast<double>(row / lines), line = static_cast<double>(row % lines + 1);
-    return {mLegendRect.left() + column * width, mLegendRect.top() + line * mLine, width, mLine};
+    return {mLegendRect.left() + place / lines * width, mLegendRect.top() + (place % lines + 1) * mLine, width, mLine};
+}
+
+int GraphLayout::legendLines() const
+{
+    // The first line is the header.
+    return std::max(1, static_cast<int>(mLegendRect.height() / mLine) - 1);
+}
+
+void GraphLayout::placeLegendRows(const GraphModel& model)
+{
+    // The last line says how many found no room.
+    const int traces = model.traces().count(), places = legendLines() * mLegendColumns;
+    mLegendRows = VisibleRows(model.settings().firstLegendRow, traces <= places ? traces : std::max(0, places - 1), traces);
 }
 
 QRectF GraphLayout::overlayLine(const GraphModel& model, std::size_t row) const

@@ -9,6 +9,24 @@
 
 namespace ZARN {
 
+/// One axis of values: where its labels stand, left of the plot.
+struct ValueAxis {
+    int index = -1;     ///< the trace whose values it shows; -1 where there is no trace
+    bool isOwn = false; ///< of no other trace
+    QRectF labels;      ///< as high as the area of the trace, and to its edge
+};
+
+/// What of a list of rows has room.
+struct VisibleRows {
+    int first = 0;
+    int count = 0;
+    int all = 0;
+    VisibleRows() = default;
+    /// @param first wanted; no row below the last is shown
+    VisibleRows(int wanted, int room, int rows) : first(std::clamp(wanted, 0, std::max(0, rows - room))), count(std::min(room, rows)), all(rows) {}
+    [[nodiscard]] bool isCut() const { return count < all; }
+};
+
 /// Where the parts of the graph lie in a view, in pixels, and which time and value a pixel stands for. Made anew for each frame.
 class GraphLayout {
 public:
@@ -31,11 +49,28 @@ public:
     [[nodiscard]] int nameLength() const { return mNameLength; }
     [[nodiscard]] int numberLength() const { return mNumberLength; }
 
+    /// The one next to the plot first; in split mode that of each strip.
+    [[nodiscard]] const std::vector<ValueAxis>& axes() const { return mAxes; }
+    /// The trace whose axis lies there; -1 for none.
+    [[nodiscard]] int axisAt(const QPointF& point) const;
+    /// The strip whose lower edge can be taken there, left of the plot; -1 for none.
+    [[nodiscard]] int edgeAt(const GraphModel& model, const QPointF& point) const;
+    /// Which traces the marker's table has lines of, and the legend where it is a list.
+    [[nodiscard]] const VisibleRows& tableRows() const { return mTableRows; }
+    [[nodiscard]] const VisibleRows& legendRows() const { return mLegendRows; }
+
     /// The area of a shown trace: its strip, or the plot.
     [[nodiscard]] QRectF area(int index) const;
     /// The line of the legend for the shown trace number `row`: beside the plot, or over it where the view is too narrow for that; empty
     /// when there is no room for it.
     [[nodiscard]] QRectF legendLine(const GraphModel& model, std::size_t row) const;
+    /// Whether the legend's lines stand beside the strips, each at its own. Rounded, some strips have room for one and others none: all go
+    /// by the height before that.
+    [[nodiscard]] bool isLegendInStrips() const { return !mStrips.empty() && !mIsBelow && mStripHeight >= mLine; }
+    /// The line over the plot or in the strip that names a trace.
+    [[nodiscard]] QRectF overlayLine(const GraphModel& model, std::size_t row) const;
+    /// Whether such lines are drawn: where nothing else stands beside the plot, and in strips that have their values below.
+    [[nodiscard]] bool hasOverlay() const { return mLegend == ELegend::eNone || (mIsBelow && !mStrips.empty()); }
     /// The strip under a height of the view, as its parameter's index; the nearest one outside of the plot; -1 when nothing is shown.
     [[nodiscard]] int stripAt(const GraphModel& model, double y) const;
     /// The middle of a strip's handle.
@@ -55,6 +90,7 @@ public:
     /// Between labels of a value axis of that height at least; low strips need theirs closer to have any.
     [[nodiscard]] static double valueSpacing(double height, double line) { return (height < 6 * line ? 1.2 : 1.8) * line; }
     static constexpr double kHandleX = 10.0;
+    static constexpr double kEdgeReach = 4.0; ///< of a strip's lower edge
     static constexpr double kSwatch = 10.0;        ///< of a trace's colour, before its name
     static constexpr double kHandleReach = 1500.0; ///< squared distance within which a handle is hit
     static constexpr int kLongestName = 24;
@@ -64,12 +100,19 @@ private:
     void placeLegend(const GraphModel& model, double width);
     void placeLegendBelow(const GraphModel& model, double bottom);
     void placeStrips(const GraphModel& model);
-    [[nodiscard]] double tableHeight(const GraphModel& model, double height) const;
-    [[nodiscard]] QRectF overlayLine(const GraphModel& model, std::size_t row) const;
-    [[nodiscard]] double axisWidth(const GraphModel& model, double height) const;
+    /// @return how high it is with the gap above it; 0 without one
+    double placeTable(const GraphModel& model);
+    [[nodiscard]] int legendLines() const;
+    /// Where the room left of the plot ends.
+    [[nodiscard]] double placeAxes(const GraphModel& model, double height);
+    [[nodiscard]] double axisWidth(const GraphModel& model, int index, double height) const;
+    void moveAxes(const GraphModel& model);
+    void placeLegendRows(const GraphModel& model);
 
     QSizeF mSize;
     QRectF mPlot;
+    std::vector<ValueAxis> mAxes;
+    VisibleRows mTableRows, mLegendRows;
     std::vector<QRectF> mStrips; // by slot; empty in a single graph
     double mStripHeight = 0.0;   // of the lowest, before it is rounded to pixels
     QRectF mLegendRect;

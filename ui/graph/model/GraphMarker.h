@@ -10,6 +10,7 @@ struct GraphMarker {
     double start = 0.0;
     double end = 0.0;
 
+    bool operator==(const GraphMarker&) const = default;
     [[nodiscard]] bool isRange() const { return start != end; }
     [[nodiscard]] bool isFinite() const { return std::isfinite(start) && std::isfinite(end); }
     [[nodiscard]] GraphMarker ordered() const { return {std::min(start, end), std::max(start, end)}; }

@@ -102,6 +102,14 @@ void GraphModel::addTopMarker(const TopMarker& marker)
     Q_EMIT signalRepaint();
 }
 
+void GraphModel::setFound(std::vector<TimeSpan> spans)
+{
+    if (mFound.empty() && spans.empty())
+        return;
+    mFound = std::move(spans);
+    Q_EMIT signalRepaint();
+}
+
 void GraphModel::setMessage(const QString& text)
 {
     mMessage = text;
@@ -110,8 +118,7 @@ void GraphModel::setMessage(const QString& text)
 
 ValueSpan GraphModel::valueSpan(int index) const
 {
-    const GraphParameter* pTrace = mTraces.at(index);
-    return pTrace ? mSettings.scale.spanOf(pTrace->samples.extremes()) : mSettings.scale.shared();
+    return mTraces.at(index) ? mSettings.scale.spanOf(mTraces, index) : mSettings.scale.shared();
 }
 
 void GraphModel::setTime(double seconds)
@@ -165,6 +172,7 @@ void GraphModel::reset()
     mDataPresent = false;
     mSettings.scale.lower = plainSettings().scale.lower;
     mSettings.scale.upper = plainSettings().scale.upper;
+    mSettings.scale.zoomed.clear();
     setWindow(TimeWindow());
 }
 

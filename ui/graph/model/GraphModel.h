@@ -1,5 +1,6 @@
 #pragma once
 
+#include "analysis/TimeSpan.h"
 #include "ui/graph/model/GraphCursor.h"
 #include "ui/graph/model/GraphMarker.h"
 #include "ui/graph/model/ShownTraces.h"
@@ -43,6 +44,9 @@ public:
     void setMarker(const GraphMarker& marker);
     [[nodiscard]] const std::vector<TopMarker>& topMarkers() const { return mTopMarkers; }
     void addTopMarker(const TopMarker& marker);
+    /// The parts of the record that a search found, in order of time.
+    [[nodiscard]] const std::vector<TimeSpan>& found() const { return mFound; }
+    void setFound(std::vector<TimeSpan> spans);
     /// What stands in an empty graph.
     [[nodiscard]] const QString& message() const { return mMessage; }
     void setMessage(const QString& text);
@@ -74,6 +78,10 @@ Q_SIGNALS:
     void signalMarker(float start, float end);
     void signalManMode();
     void signalMoveParameter(int from, int to);
+    /// The user made strips higher or lower.
+    void signalStrips();
+    /// A key stands for a command of the graph.
+    void signalCommand(int command);
 
 private:
     GraphData mSettings;
@@ -82,6 +90,7 @@ private:
     GraphCursor mCursor;
     GraphMarker mMarker;
     std::vector<TopMarker> mTopMarkers;
+    std::vector<TimeSpan> mFound;
     QString mMessage;
     ShownTraces mTraces;
     double mTime = 0.0;

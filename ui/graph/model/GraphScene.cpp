@@ -1,6 +1,7 @@
 #include "ui/graph/model/GraphScene.h"
 
 #include "ui/canvas/ColourContrast.h"
+#include "ui/graph/model/FoundMarks.h"
 #include "ui/graph/model/GraphAxes.h"
 #include "ui/graph/model/GraphTables.h"
 #include "ui/graph/model/NoteMarks.h"
@@ -38,6 +39,7 @@ void GraphScene::draw(Canvas& canvas) const
     canvas.fillRect(mLayout.view(), mModel.colours().labelBackground);
     canvas.fillRect(mLayout.plot(), mModel.colours().background);
     GraphAxes(mModel, mLayout).draw(canvas);
+    FoundMarks(mModel, mLayout).draw(canvas);
     drawTraces(canvas);
     drawMarker(canvas);
     const CursorLabels cursor(mModel, mLayout);

@@ -45,7 +45,7 @@ std::string GraphSettings::colour(const std::string& name) const
 
 bool GraphSettings::setColour(const std::string& name, const std::string& colour)
 {
-    return setColour(ownNumber(name).value_or(freeNumber()), colour, name);
+    return setColour(ownNumber(name).value_or(freeNumber()), colour, colour.empty() ? std::string() : name);
 }
 
 std::optional<int> GraphSettings::ownNumber(const std::string& name) const

@@ -21,7 +21,8 @@ public:
 
     /// The colour that the user gave to a parameter, #rrggbb; empty when there is none.
     [[nodiscard]] std::string colour(const std::string& name) const;
-    /// Keeps a colour for a parameter; what the graph draws follows at the next load(). @return whether it was another one
+    /// Keeps a colour for a parameter, or with an empty one none; what the graph draws follows at the next load(). @return whether it was
+    /// another one
     bool setColour(const std::string& name, const std::string& colour);
 
 private:

@@ -8,7 +8,7 @@ namespace ZARN {
 /// Draws what the graph tells in words: the legend beside the plot, and the values of the marker below it.
 class GraphTables {
 public:
-    GraphTables(const GraphModel& model, const GraphLayout& layout) : mModel(model), mLayout(layout) {}
+    GraphTables(const GraphModel& model, const GraphLayout& layout) : mModel(model), mLayout(layout), mLabels(model, layout) {}
 
     void draw(Canvas& canvas) const;
     /// The legend of a view that has no room for it beside the plot.
@@ -24,12 +24,11 @@ private:
     [[nodiscard]] QStringList legendNumbers(int index) const;
     /// Texts in columns of numbers, each at its column's right edge. @return where the last column ends
     double drawColumns(Canvas& canvas, const QPointF& place, const QStringList& texts) const;
-    void drawMarkerTable(Canvas& canvas) const;
-    void drawRow(Canvas& canvas, double y, const QStringList& cells, const std::vector<int>& widths) const;
     [[nodiscard]] CanvasText style(bool isBold) const;
 
     const GraphModel& mModel;
     const GraphLayout& mLayout;
+    const GraphLabels mLabels;
 };
 
 } // namespace ZARN

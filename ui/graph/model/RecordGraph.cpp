@@ -7,6 +7,7 @@
 #include "ui/graph/model/TraceSlot.h"
 
 #include <algorithm>
+#include <iterator>
 #include <numeric>
 #include <tuple>
 #include <utility>
@@ -23,8 +24,8 @@ RecordGraph::RecordGraph(const Session& session, GraphModel& model) : mSession(s
     updateProfile();
 }
 
-/// Calls with slot and trace of each selected parameter, as far as there are slots. @return how many
-template <typename Visitor> int RecordGraph::forEachTrace(const RecordData* pRecord, Visitor visit) const
+/// Calls with slot and trace of each selected parameter, as far as there are slots. @return how many  @param pUnshown gets the others
+template <typename Visitor> int RecordGraph::forEachTrace(const RecordData* pRecord, Visitor visit, QStringList* pUnshown) const
 {
     const TraceSet traces(pRecord, mSession.profile, ENumber::eDisplay, [this](const ProfileDevice&, const ProfileParameter& parameter) {
         return mSession.profile.isSelected(parameter.name) || mBeside.contains(parameter.name);
@@ -35,6 +36,8 @@ template <typename Visitor> int RecordGraph::forEachTrace(const RecordData* pRec
     for (const auto& pTrace : traces.traces()) {
         if (used < kSlots && (isBeside(pTrace) || ticked-- > 0))
             visit(used++, *pTrace);
+        else if (pUnshown)
+            *pUnshown << QString::fromStdString(pTrace->name());
     }
     return used;
 }
@@ -42,10 +45,12 @@ template <typename Visitor> int RecordGraph::forEachTrace(const RecordData* pRec
 void RecordGraph::describeSlots()
 {
     ShownTraces& traces = mModel.traces();
-    const int used = forEachTrace(nullptr, [&](int slot, const Trace& trace) {
+    const auto describe = [&](int slot, const Trace& trace) {
         describeSlot(traces, slot, trace);
         traces.setHeight(slot, heightOf(trace.name()));
-    });
+    };
+    mUnshown.clear();
+    const int used = forEachTrace(nullptr, describe, &mUnshown);
     for (int slot = used; slot < kSlots; ++slot)
         traces.setActive(slot, false);
     std::vector<int> inUse(static_cast<std::size_t>(used));
@@ -62,10 +67,10 @@ void RecordGraph::updateProfile()
     mKeepsWindow = true;
 }
 
-void RecordGraph::update(RecordData* pRecord)
+bool RecordGraph::update(RecordData* pRecord)
 {
     describeSlots();
-    updateRecord(pRecord);
+    return updateRecord(pRecord);
 }
 
 std::vector<QString> RecordGraph::names(const std::vector<int>& slotNumbers) const
@@ -79,6 +84,10 @@ std::vector<QString> RecordGraph::names(const std::vector<int>& slotNumbers) con
 void RecordGraph::keepStrips()
 {
     mStrips.keep(names(mModel.traces().shown()));
+    for (const int slot : mModel.traces().shown()) {
+        const GraphParameter& trace = *mModel.traces().at(slot);
+        mHeights[trace.name.toStdString()] = trace.height;
+    }
 }
 
 double RecordGraph::heightOf(const std::string& name) const
@@ -87,27 +96,71 @@ double RecordGraph::heightOf(const std::string& name) const
     return found == mHeights.end() ? 1.0 : found->second;
 }
 
+std::optional<DisplayLayout::Scale> RecordGraph::zoomOf(const QString& name) const
+{
+    const ValueScale& scale = mModel.settings().scale;
+    for (const int slot : mModel.traces().shown()) {
+        const GraphParameter& trace = *mModel.traces().at(slot);
+        const auto found = trace.name == name ? scale.zoomed.find(scale.keyOf(name, trace.unit)) : scale.zoomed.end();
+        if (found != scale.zoomed.end())
+            return DisplayLayout::Scale{found->second[0], found->second[1], trace.unit};
+    }
+    return std::nullopt;
+}
+
 void RecordGraph::setLayout(const DisplayLayout& layout)
 {
     std::vector<QString> order;
     mHeights.clear();
     mBeside.clear();
     bool isColoured = false;
+    ValueScale& scale = mModel.settings().scale;
+    scale.isShared = layout.isShared;
+    scale.zoomed.clear();
     for (const DisplayLayout::Parameter& parameter : layout.parameters) {
         order.push_back(QString::fromStdString(parameter.name));
         mHeights[parameter.name] = parameter.height;
+        if (parameter.scale)
+            scale.zoomed[scale.keyOf(order.back(), parameter.scale->unit)] = {parameter.scale->lower, parameter.scale->upper};
         // Without one in the layout the parameter keeps the colour that the user gave to it.
         isColoured |= !parameter.colour.isEmpty() && mSettings.setColour(parameter.name, parameter.colour.toStdString());
     }
     if (isColoured)
         mSession.property.writeXmlFile();
     mStrips.keep(order);
-    GraphData& settings = mModel.settings();
-    settings.displayMode = layout.isSplit ? eSplit : eSingleGraph;
-    settings.scale.isAutomatic = !layout.scale;
+    mModel.settings().displayMode = layout.isSplit ? eSplit : eSingleGraph;
+    scale.isAutomatic = !layout.scale;
     if (layout.scale)
-        std::tie(settings.scale.lower, settings.scale.upper) = *layout.scale;
+        std::tie(scale.lower, scale.upper) = *layout.scale;
     mModel.settingsChanged();
+}
+
+bool RecordGraph::showView(const GraphView& from, const GraphView& to)
+{
+    bool areOthers = false;
+    if (from.layout != to.layout) {
+        for (const auto& [name, height, colour, scale] : to.layout.parameters) { // a layout leaves the colours that it does not name
+            if (colour.isEmpty())
+                mSettings.setColour(name, {});
+        }
+        const std::set<std::string> beside = mBeside;
+        setLayout(to.layout);
+        mBeside = beside; // slots must keep what they are filled with
+        describeSlots();
+        const auto names = [](const GraphView& view) {
+            std::set<std::string> all;
+            std::ranges::transform(view.layout.parameters, std::inserter(all, all.end()), &DisplayLayout::Parameter::name);
+            return all;
+        };
+        areOthers = names(from) != names(to);
+    }
+    if (from.mode != to.mode)
+        mModel.settings().graphMode = to.mode;
+    if (!(from.window == to.window))
+        mModel.setWindow(to.window);
+    if (from.marker != to.marker)
+        mModel.setMarker(to.marker);
+    return areOthers;
 }
 
 DisplayLayout RecordGraph::layout() const
@@ -122,10 +175,12 @@ DisplayLayout RecordGraph::layout() const
     }
     DisplayLayout layout;
     for (const int place : StripOrder(mStrips).slotsFor(ticked)) {
-        const std::string name = ticked[static_cast<std::size_t>(place)].toStdString();
-        layout.parameters.push_back({name, heightOf(name), QString::fromStdString(mSettings.colour(name))});
+        const QString& text = ticked[static_cast<std::size_t>(place)];
+        const std::string name = text.toStdString();
+        layout.parameters.push_back({name, heightOf(name), QString::fromStdString(mSettings.colour(name)), zoomOf(text)});
     }
     const GraphData& settings = mModel.settings();
+    layout.isShared = settings.scale.isShared;
     layout.isSplit = settings.displayMode == eSplit;
     if (!settings.scale.isAutomatic)
         layout.scale.emplace(settings.scale.lower, settings.scale.upper);
@@ -157,7 +212,7 @@ QString RecordGraph::emptyMessage() const
     return {};
 }
 
-void RecordGraph::updateRecord(RecordData* pRecord)
+bool RecordGraph::updateRecord(RecordData* pRecord)
 {
     // The same once more is the same in another unit.
     const RecordKey key = pRecord ? recordKey() : mMarkedRecord;
@@ -169,21 +224,22 @@ void RecordGraph::updateRecord(RecordData* pRecord)
     }
     fillRecord();
     if (!mpRecord || mKeepsWindow)
-        return;
+        return mKeepsWindow;
     if (!(key == mMarkedRecord))
         mModel.setMarker({});
     mMarkedRecord = key;
     mSpan = span();
     zoomAll();
     mModel.setCursorPosition(mSpan.start);
+    return false;
 }
 
-void RecordGraph::updateFlights(RecordData* pRecord)
+bool RecordGraph::updateFlights(RecordData* pRecord)
 {
-    if (span() == mSpan)
-        mKeepsWindow = true; // the traces are the same
-    else
-        updateRecord(pRecord);
+    if (!(span() == mSpan))
+        return updateRecord(pRecord);
+    mKeepsWindow = true; // the traces are the same
+    return true;
 }
 
 RecordGraph::RecordKey RecordGraph::recordKey() const

@@ -3,6 +3,7 @@
 #include "analysis/TimeSpan.h"
 #include "project/DisplayLayout.h"
 #include "project/Session.h"
+#include "ui/graph/model/GraphHistory.h"
 #include "ui/graph/model/GraphModel.h"
 #include "ui/graph/model/GraphSettings.h"
 #include "ui/graph/model/StripOrder.h"
@@ -28,23 +29,29 @@ public:
     RecordGraph(const Session& session, GraphModel& model);
 
     void updateProfile();
-    void updateRecord(RecordData* pRecord);
+    // These return whether the record is the one that was shown before, in another unit or with other parameters.
+    bool updateRecord(RecordData* pRecord);
     /// The chosen flight, or what is worked out of the record, is another.
-    void updateFlights(RecordData* pRecord);
-    /// Both in one pass over the record.
-    void update(RecordData* pRecord);
+    bool updateFlights(RecordData* pRecord);
+    /// Profile and record in one pass over the latter.
+    bool update(RecordData* pRecord);
     void updateSettings() { mSettings.load(mModel); }
     void storeSettings() { mSettings.store(mModel); }
     /// The common view time has changed.
     void setTime(double time);
     void setZarnMode(int mode);
-    /// The user moved a strip.
+    /// The user moved a strip, or made it higher or lower.
     void keepStrips();
     /// Order, heights, colours, scale and mode of a layout; drawn with the next update of profile or record, which the ticks of the layout
     /// want in any case. What an incident showed beside them goes.
     void setLayout(const DisplayLayout& layout);
     /// What is ticked, and how it is shown; without a name.
     [[nodiscard]] DisplayLayout layout() const;
+    [[nodiscard]] GraphView view() const { return {mModel.window(), mModel.settings().graphMode, mModel.marker(), layout()}; }
+    /// Goes from one view to another; what is alike in both stays as it is. @return whether other parameters are to be ticked
+    bool showView(const GraphView& from, const GraphView& to);
+    /// What is ticked and has no slot.
+    [[nodiscard]] const QStringList& unshown() const { return mUnshown; }
 
     [[nodiscard]] bool hasRecord() const { return mpRecord != nullptr; }
     [[nodiscard]] bool hasSamples() const;
@@ -71,11 +78,12 @@ private:
         double endTime = 0.0;
         bool operator==(const RecordKey&) const = default;
     };
-    template <typename Visitor> int forEachTrace(const RecordData* pRecord, Visitor visit) const;
+    template <typename Visitor> int forEachTrace(const RecordData* pRecord, Visitor visit, QStringList* pUnshown = nullptr) const;
     [[nodiscard]] std::vector<QString> names(const std::vector<int>& slotNumbers) const;
     [[nodiscard]] RecordKey recordKey() const;
     [[nodiscard]] QString emptyMessage() const;
     [[nodiscard]] double heightOf(const std::string& name) const;
+    [[nodiscard]] std::optional<DisplayLayout::Scale> zoomOf(const QString& name) const;
     void describeSlots();
     void fillRecord();
 
@@ -84,6 +92,7 @@ private:
     GraphSettings mSettings;
     StripOrder mStrips;
     std::map<std::string, double> mHeights; ///< of strips, by the name of the parameter; of those that differ
+    QStringList mUnshown;
     std::set<std::string> mBeside; ///< names of parameters that are shown without being ticked
     RecordData* mpRecord = nullptr;
     RecordKey mMarkedRecord;

@@ -1,5 +1,7 @@
 #include "ui/graph/model/ValueScale.h"
 
+#include "ui/graph/model/ShownTraces.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -12,15 +14,44 @@ constexpr double kSmallestSpan = 0.001;
 
 } // namespace
 
+QString ValueScale::keyOf(const QString& name, const QString& unit) const
+{
+    return isShared && !unit.isEmpty() ? unit : name + QLatin1Char('\t') + unit;
+}
+
+bool ValueScale::isCommon(const GraphParameter& a, const GraphParameter& b) const
+{
+    return &a == &b || (isShared && !a.unit.isEmpty() && a.unit == b.unit);
+}
+
+ValueSpan ValueScale::spanOf(const ShownTraces& traces, int index) const
+{
+    const GraphParameter& trace = *traces.at(index);
+    if (!zoomed.empty()) {
+        if (const auto found = zoomed.find(keyOf(trace.name, trace.unit)); found != zoomed.end())
+            return found->second;
+    }
+    ValueRange<double> values = trace.samples.extremes();
+    if (isShared && isAutomatic) {
+        for (const int other : traces.shown()) {
+            if (isCommon(trace, *traces.at(other)))
+                values.add(traces.at(other)->samples.extremes());
+        }
+    }
+    return spanOf(values);
+}
+
 ValueSpan ValueScale::spanOf(const ValueRange<double>& values) const
 {
-    if (!isAutomatic) {
-        const double margin = lower == upper ? kMargin * kSmallestSpan : 0.0;
-        return {std::min(lower, upper) - margin, std::max(lower, upper) + margin};
-    }
-    if (values.isEmpty())
-        return reference;
-    const double margin = kMargin * std::max(values.greatest - values.least, kSmallestSpan) + spread;
+    if (isAutomatic)
+        return values.isEmpty() ? reference : around(values, spread);
+    const double margin = lower == upper ? kMargin * kSmallestSpan : 0.0;
+    return {std::min(lower, upper) - margin, std::max(lower, upper) + margin};
+}
+
+ValueSpan ValueScale::around(const ValueRange<double>& values, double more)
+{
+    const double margin = kMargin * std::max(values.greatest - values.least, kSmallestSpan) + more;
     const ValueSpan span{values.least - margin, values.greatest + margin};
     if (span[1] > span[0] && std::isfinite(span[1] - span[0]))
         return span;

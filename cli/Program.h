@@ -1,0 +1,44 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace CLI {
+class App;
+class ParseError;
+}
+
+namespace ZARN {
+
+class Command;
+
+/// The batch program as it is called: finds the subcommand that a call is for and lets it work, answers what is asked about calls, and says
+/// what is wrong with one.
+class Program {
+public:
+    /// @param arguments of the call, behind the program's name
+    explicit Program(std::vector<std::string> arguments);
+    ~Program();
+    Program(const Program&) = delete;
+    Program& operator=(const Program&) = delete;
+
+    /// @return the exit status.
+    int run();
+
+private:
+    [[nodiscard]] std::vector<std::string> names() const;
+    int runSubcommand();
+    int help(const std::string& subcommand) const;
+    int complete() const;
+    int refuse(const CLI::ParseError& error) const;
+    int refuseSubcommand(const std::string& name) const;
+    [[nodiscard]] std::string unknownOption() const;
+
+    const std::vector<std::string> mArguments;
+    bool mVerbose = false;
+    std::unique_ptr<CLI::App> mpApp;
+    std::vector<std::unique_ptr<Command>> mCommands; // their options refer to the app
+};
+
+} // namespace ZARN

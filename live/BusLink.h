@@ -1,0 +1,62 @@
+#pragma once
+
+#include "live/BusAddress.h"
+#include "live/FrameReader.h"
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QTimer>
+
+#include <memory>
+
+class QCanBusDevice;
+
+namespace ZARN {
+
+/// Listens to a CAN interface and hands its frames on in batches, some thirty a second. It never sends. An interface that goes away
+/// or is not there yet is tried again every second. Lives in any thread that has an event loop.
+class BusLink : public QObject {
+    Q_OBJECT
+
+public:
+    enum EState { eClosed, eConnecting, eConnected };
+    Q_ENUM(EState)
+
+    /// @param bitRate bits a second to set on the interface; 0 leaves it as the system has it.
+    explicit BusLink(BusAddress address, int bitRate = 0, QObject* pParent = nullptr);
+    ~BusLink() override;
+
+    void open();
+    void close();
+    [[nodiscard]] EState state() const { return mState; }
+    [[nodiscard]] const LiveCounts& counts() const { return mReader.counts(); }
+    /// What the interface says about the bus: "good", "warning", "error", "off"; empty when it says nothing.
+    [[nodiscard]] QString busStatus() const;
+
+Q_SIGNALS:
+    /// Never empty.
+    void received(const ZARN::LiveRecords& records);
+    /// @param reason for people, why it is not connected; each only once while it lasts.
+    void stateChanged(ZARN::BusLink::EState state, const QString& reason);
+
+private:
+    void connectDevice();
+    void watch();
+    void read();
+    void handOn();
+    void lose(const QString& reason);
+    void setState(EState state, const QString& reason);
+
+    BusAddress mAddress;
+    int mBitRate;
+    std::unique_ptr<QCanBusDevice> mpDevice;
+    FrameReader mReader;
+    LiveRecords mRecords;
+    EState mState = eClosed;
+    QString mReason;
+    QElapsedTimer mHost;
+    QTimer mBatchTimer;
+    QTimer mRetryTimer;
+};
+
+} // namespace ZARN

@@ -1,0 +1,48 @@
+#include "ui/find/model/FindTableModel.h"
+
+#include "app/TimeText.h"
+
+#include <QLocale>
+
+namespace ZARN {
+
+void FindTableModel::setSpans(const std::vector<TimeSpan>& spans)
+{
+    beginResetModel();
+    mSpans = spans;
+    endResetModel();
+}
+
+int FindTableModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(mSpans.size());
+}
+
+int FindTableModel::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : 3;
+}
+
+QVariant FindTableModel::data(const QModelIndex& index, int role) const
+{
+    if (!index.isValid())
+        return {};
+    if (role == Qt::TextAlignmentRole)
+        return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+    if (role != Qt::DisplayRole)
+        return {};
+    const TimeSpan& span = mSpans[static_cast<std::size_t>(index.row())];
+    if (index.column() == 2)
+        return tr("%1 s").arg(QLocale().toString(span.end - span.start, 'f', 1));
+    return signedTimeText(wholeMilliseconds(index.column() == 0 ? span.start : span.end));
+}
+
+QVariant FindTableModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation == Qt::Vertical || role != Qt::DisplayRole)
+        return QAbstractTableModel::headerData(section, orientation, role);
+    const QString titles[] = {tr("From"), tr("To"), tr("For")};
+    return section < 3 ? titles[section] : QString();
+}
+
+} // namespace ZARN

@@ -1,0 +1,41 @@
+#include "ui/graph/model/AxisHand.h"
+
+#include "ui/graph/model/ValueZoom.h"
+
+namespace ZARN {
+
+bool AxisHand::press(const GraphLayout& layout, const QPointF& point)
+{
+    mIndex = layout.axisAt(point);
+    if (mIndex < 0)
+        return false;
+    mSpan = mModel.valueSpan(mIndex);
+    mStart = point.y();
+    mHeight = std::max(1.0, layout.area(mIndex).height());
+    return true;
+}
+
+void AxisHand::move(const QPointF& point)
+{
+    const double way = (point.y() - mStart) / mHeight * (mSpan[1] - mSpan[0]);
+    if (isOn() && way != 0.0)
+        ValueZoom(mModel).set(mIndex, {mSpan[0] + way, mSpan[1] + way});
+}
+
+bool AxisHand::zoom(const GraphLayout& layout, const QPointF& point, double factor)
+{
+    const int index = layout.axisAt(point);
+    if (index < 0)
+        return false;
+    ValueZoom(mModel).zoom(index, GraphLayout::valueAt(point.y(), layout.area(index), mModel.valueSpan(index)), factor);
+    return true;
+}
+
+bool AxisHand::toggleFit(const GraphLayout& layout, const QPointF& point)
+{
+    const int index = layout.axisAt(point);
+    ValueZoom(mModel).toggleFit(index);
+    return index >= 0;
+}
+
+} // namespace ZARN

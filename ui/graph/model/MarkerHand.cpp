@@ -1,0 +1,71 @@
+#include "ui/graph/model/MarkerHand.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace ZARN {
+
+bool MarkerHand::isEnd(const GraphLayout& layout, const QPointF& point) const
+{
+    const auto [start, end] = mModel.marker();
+    const auto distance = [&](double time) { return std::abs(layout.xOf(time) - point.x()); };
+    return mModel.marker().isRange() && layout.plot().contains(point) && std::min(distance(start), distance(end)) < kReach;
+}
+
+bool MarkerHand::take(const GraphLayout& layout, const QPointF& point)
+{
+    if (!isEnd(layout, point))
+        return false;
+    const auto [start, end] = mModel.marker();
+    mFixed = std::abs(layout.xOf(start) - point.x()) < std::abs(layout.xOf(end) - point.x()) ? end : start;
+    mIsOn = true;
+    return true;
+}
+
+void MarkerHand::begin(double time)
+{
+    mIsOn = true;
+    mFixed = time;
+    move(time);
+}
+
+void MarkerHand::release()
+{
+    mModel.setMarker(mModel.marker().ordered());
+    if (mIsOn && mModel.marker().isRange())
+        send();
+    mIsOn = false;
+}
+
+void MarkerHand::extend(double time)
+{
+    mModel.setMarker(mModel.marker().extendedTo(time));
+    send();
+}
+
+void MarkerHand::moveEnd(const GraphLayout& layout, bool isStart, double pixels)
+{
+    GraphMarker marker = mModel.marker();
+    if (marker == GraphMarker())
+        marker.start = marker.end = mModel.cursor().time;
+    double& time = isStart ? marker.start : marker.end;
+    time += pixels / layout.pixelsPerSecond();
+    const double moved = time;
+    mModel.setMarker(marker.ordered());
+    mModel.setWindow(mModel.window().keeping(moved));
+    send();
+}
+
+void MarkerHand::clear()
+{
+    mIsOn = false;
+    mModel.setMarker({});
+    send();
+}
+
+void MarkerHand::send()
+{
+    Q_EMIT mModel.signalMarker(static_cast<float>(mModel.marker().start), static_cast<float>(mModel.marker().end));
+}
+
+} // namespace ZARN
