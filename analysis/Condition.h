@@ -11,9 +11,9 @@ namespace ZARN {
 
 /// What was found of a condition.
 struct ConditionTimes {
-    std::vector<TimeSpan> spans;          ///< in order of time
-    std::vector<std::string> operands;    ///< the parameters that it names
-    std::vector<std::string> unrecorded;  ///< those of them without a sample: nobody knows whether it held
+    std::vector<TimeSpan> spans;            ///< in order of time
+    std::vector<std::string> operands;      ///< the parameters that it names
+    std::vector<std::string> unrecorded;    ///< those of them without a sample: nobody knows whether it held
     std::vector<std::string> withoutNumber; ///< those whose samples are all "not a number"
 };
 

@@ -88,7 +88,8 @@ Words cycles(const CLI::App& command, const Words& words)
     Words numbers;
     const Profile profile(silence());
     CardContainer container(silence(), profile, nullProgress());
-    if (container.readContainer(decodeFileName(firstOperand(command, words)))) {
+    const bool isOption = command.get_option_no_throw("--replay");
+    if (container.readContainer(decodeFileName(isOption ? given(command, words, "replay") : firstOperand(command, words)))) {
         for (const auto& [number, cycle] : container.recordCycles())
             numbers.push_back(std::to_string(number) + "\t" + tableDate(cycle.dateTime));
     }
@@ -105,6 +106,19 @@ Words files(const CLI::App&, const Words&)
     return {Completion::kFiles};
 }
 
+Words folders(const CLI::App&, const Words&)
+{
+    return {Completion::kFolders};
+}
+
+/// What a name without an option before it may be: the interface of a bus is no file, a card to make is none that is there.
+Words operands(const CLI::App& command)
+{
+    if (command.get_name() == "live")
+        return {};
+    return {command.get_name() == "simulate" ? Completion::kFolders : Completion::kFiles};
+}
+
 Words settings(const CLI::App&, const Words&)
 {
     Words keys = KmlExportOptions::keys();
@@ -119,8 +133,9 @@ struct Kind {
 };
 
 constexpr Kind kKinds[] = {
-    {"cycle", cycles},  {"parameter", parameters}, {"select", parameters}, {"variant", variants}, {"profile", profiles},
-    {"output", files}, {"from-file", files},      {"store", files},       {"set", settings},
+    {"cycle", cycles},     {"parameter", parameters}, {"select", parameters}, {"variant", variants},
+    {"profile", profiles}, {"output", files},         {"from-file", files},   {"store", files},
+    {"set", settings},     {"record", folders},       {"replay", files},
 };
 
 Words split(const std::string& text, char separator)
@@ -162,7 +177,7 @@ std::vector<std::string> Completion::all(const std::vector<std::string>& words) 
         return values(*pCommand, *pOption, words);
     if (words.back().starts_with('-') && std::count(words.begin(), words.end() - 1, "--") == 0)
         return optionNames(*pCommand);
-    return {pCommand->get_option_no_throw("DIR") && !pCommand->get_option_no_throw("--jobs") ? kFolders : kFiles};
+    return operands(*pCommand);
 }
 
 const CLI::App* Completion::subcommand(const CLI::App& program, const std::string& name)

@@ -6,7 +6,7 @@
 namespace CLI {
 class App;
 class Option;
-}
+} // namespace CLI
 
 namespace ZARN {
 
@@ -31,7 +31,8 @@ public:
 private:
     [[nodiscard]] std::vector<std::string> all(const std::vector<std::string>& words) const;
     [[nodiscard]] std::vector<std::string> subcommands() const;
-    [[nodiscard]] static std::vector<std::string> values(const CLI::App& command, const CLI::Option& option, const std::vector<std::string>& words);
+    [[nodiscard]] static std::vector<std::string> values(const CLI::App& command, const CLI::Option& option,
+                                                         const std::vector<std::string>& words);
 
     const CLI::App& mProgram;
 };

@@ -51,13 +51,14 @@ template <typename... Commands> std::vector<std::unique_ptr<Command>> makeComman
 
 Program::Program(std::vector<std::string> arguments)
     : mArguments(std::move(arguments)),
-      mpApp(std::make_unique<CLI::App>("Decodes what an engine management unit recorded: card folders to values, tables and files.", "zarn-cli"))
+      mpApp(std::make_unique<CLI::App>("Decodes what an engine management unit recorded: card folders to values, tables and files.",
+                                       "zarn-cli"))
 {
     mpApp->set_version_flag("--version", Revision::getRevisionString());
     mpApp->add_flag("--verbose", mVerbose, "tell on standard error what is done");
     mCommands = makeCommands<CommandInfo, CommandIds, CommandFlights, CommandEvents, CommandFaults, CommandPath, CommandValue, CommandCsv,
-                             CommandKml, CommandGpx, CommandCandump, CommandReport, CommandSummary, CommandScan, CommandTrend, CommandLive, CommandProfile,
-                             CommandSimulate>(*mpApp);
+                             CommandKml, CommandGpx, CommandCandump, CommandReport, CommandSummary, CommandScan, CommandTrend, CommandLive,
+                             CommandProfile, CommandSimulate>(*mpApp);
     mpApp->footer("Example: zarn-cli csv /media/card -o flight.csv");
     mpApp->require_subcommand(1);
 }

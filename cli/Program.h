@@ -7,7 +7,7 @@
 namespace CLI {
 class App;
 class ParseError;
-}
+} // namespace CLI
 
 namespace ZARN {
 

@@ -2,7 +2,8 @@
 
 namespace ZARN {
 
-HeldOperand::HeldOperand(const RecordData& data, const DecodingContext& context, const ProfileParameter& parameter, CoordinateFilter& filter)
+HeldOperand::HeldOperand(const RecordData& data, const DecodingContext& context, const ProfileParameter& parameter,
+                         CoordinateFilter& filter)
     : mpChannel(channelOf(data, context, parameter)), mTrace({}, parameter, context, mpChannel, ENumber::eDisplay, &filter)
 {
     read();

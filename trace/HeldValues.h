@@ -38,7 +38,8 @@ private:
 /// newest value of each is held until its next. Begins when every one of them has had a sample; never where one has none. Values are in the
 /// context's unit.
 template <typename Visitor>
-void forEachHeld(const std::vector<const ProfileParameter*>& parameters, const RecordData& data, const DecodingContext& context, Visitor visit)
+void forEachHeld(const std::vector<const ProfileParameter*>& parameters, const RecordData& data, const DecodingContext& context,
+                 Visitor visit)
 {
     CoordinateFilter filter;
     std::vector<std::unique_ptr<HeldOperand>> operands;

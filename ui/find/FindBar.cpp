@@ -150,8 +150,9 @@ void FindBar::updateStatus()
     const QLocale locale;
     const std::optional<std::size_t> here = mHits.at(mTime);
     const QString all = locale.toString(static_cast<qulonglong>(mHits.size()));
-    const QString together = tr("%1 together").arg(mTogether < 60 ? tr("%1 s").arg(locale.toString(mTogether, 'f', 1))
-                                                                  : elapsedText(wholeMilliseconds(mTogether) / 1000, 0));
+    const QString together =
+        tr("%1 together")
+            .arg(mTogether < 60 ? tr("%1 s").arg(locale.toString(mTogether, 'f', 1)) : elapsedText(wholeMilliseconds(mTogether) / 1000, 0));
     if (!mText.isEmpty())
         mpStatus->setText(mText);
     else if (mHits.size() == 0)

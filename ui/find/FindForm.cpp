@@ -29,8 +29,8 @@ void setWidth(QAbstractSpinBox& box, int characters)
 } // namespace
 
 FindForm::FindForm(QWidget* pParent)
-    : QWidget(pParent), mpForms(new QStackedWidget), mpParameter(new QComboBox), mpSide(new QComboBox), mpValue(new ValueBox(-kMost, kMost)),
-      mpUnit(new QLabel), mpExpression(new QLineEdit), mpSeconds(new ValueBox(0, kLongest))
+    : QWidget(pParent), mpForms(new QStackedWidget), mpParameter(new QComboBox), mpSide(new QComboBox),
+      mpValue(new ValueBox(-kMost, kMost)), mpUnit(new QLabel), mpExpression(new QLineEdit), mpSeconds(new ValueBox(0, kLongest))
 {
     mpForms->addWidget(createChoices());
     mpExpression->setPlaceholderText(tr("\"Oil Temperature A\" > 110 && \"Engine Speed A\" > 4000"));

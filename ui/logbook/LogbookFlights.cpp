@@ -107,6 +107,7 @@ QWidget* LogbookFlights::createFilter()
 
 void LogbookFlights::createTable()
 {
+    mpTable->setObjectName("flights");
     mpTable->setModel(&mModel);
     mpTable->setAccessibleName(tr("Flights"));
     mpTable->setItemDelegateForColumn(LogbookModel::eVerdict, new VerdictDelegate(mpTable));
@@ -119,10 +120,6 @@ void LogbookFlights::createTable()
     mpTable->verticalHeader()->hide();
     mpTable->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed); // nothing is measured, whatever the number of rows
     QHeaderView* pHeader = mpTable->horizontalHeader();
-    const int letter = fontMetrics().horizontalAdvance('x');
-    for (const auto& [column, letters] : {std::pair(LogbookModel::eDate, 19), {LogbookModel::eEngine, 23}, {LogbookModel::eFlightTime, 13},
-                                          {LogbookModel::eFuel, 12}, {LogbookModel::eClimb, 13}, {LogbookModel::eVerdict, 14}, {LogbookModel::eCard, 24}})
-        pHeader->resizeSection(column, letters * letter);
     pHeader->setStretchLastSection(true);
     pHeader->setHighlightSections(false);
     pHeader->setSortIndicator(LogbookModel::eDate, Qt::DescendingOrder);
@@ -132,6 +129,20 @@ void LogbookFlights::createTable()
         if (index.isValid())
             mCurrent = mModel.flightOf(index.row());
     });
+}
+
+/// As wide as what stands in them, and their titles, take in the font that the window has by now.
+void LogbookFlights::showEvent(QShowEvent* pEvent)
+{
+    QWidget::showEvent(pEvent);
+    if (std::exchange(mIsArranged, true))
+        return;
+    QHeaderView* pHeader = mpTable->horizontalHeader();
+    pHeader->ensurePolished();
+    const int letter = fontMetrics().horizontalAdvance('x');
+    for (const auto& [column, letters] : {std::pair(LogbookModel::eDate, 19), {LogbookModel::eEngine, 22}, {LogbookModel::eFlightTime, 0},
+                                          {LogbookModel::eFuel, 0}, {LogbookModel::eClimb, 0}, {LogbookModel::eVerdict, 14}, {LogbookModel::eCard, 24}})
+        pHeader->resizeSection(column, std::max(letters * letter, pHeader->sectionSizeHint(column)));
 }
 
 void LogbookFlights::setEngine(const std::string& engine)

@@ -32,6 +32,9 @@ Q_SIGNALS:
     /// A flight that the user wants to see. @param flight from 1
     void signalOpen(const QString& cycleId, int flight);
 
+protected:
+    void showEvent(QShowEvent* pEvent) override;
+
 private:
     QWidget* createFilter();
     void createTable();
@@ -49,6 +52,7 @@ private:
     QTableView* mpTable;
     QLabel* mpTotals;
     QTimer mTyping;
+    bool mIsArranged = false; ///< the columns
     int64_t mCurrent = 0; ///< the flight whose row is chosen
 };
 

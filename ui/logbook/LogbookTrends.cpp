@@ -115,7 +115,7 @@ void LogbookTrends::fill(Trends trends)
         const QString name = nameOf(trend);
         row = name == chosen ? static_cast<int>(i) : row;
         const QString mark = trend.isUnusual() ? tr("unusual") : trend.isDrifting() ? tr("drifting") : QString();
-        auto* pItem = new QListWidgetItem(mark.isEmpty() ? name : name + ": " + mark);
+        auto* pItem = new QListWidgetItem(mark.isEmpty() ? name : mark + ": " + name);
         QFont font = pItem->font();
         font.setBold(!mark.isEmpty());
         pItem->setFont(font);

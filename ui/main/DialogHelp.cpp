@@ -32,7 +32,8 @@ QString commandKeys()
                    DialogHelp::tr("Command") + " |\n| --- | --- |\n";
     for (const ZARN::MainAction& action : ZARN::MainAction::all()) {
         if (*action.shortcut)
-            text += "| " + QKeySequence(action.shortcut).toString(QKeySequence::NativeText) + " | " + action.title() + " |\n";
+            text += "| " + QKeySequence::listToString(QKeySequence::listFromString(action.shortcut), QKeySequence::NativeText) + " | " +
+                    action.title() + " |\n";
     }
     text += "\n\n### " + DialogHelp::tr("Keys of the graph") + "\n\n| " + DialogHelp::tr("Key") + " | " + DialogHelp::tr("What it does") +
             " |\n| --- | --- |\n";

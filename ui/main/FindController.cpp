@@ -112,10 +112,11 @@ void FindController::search()
         return mpBar->setProblem(tr("Character %1: %2").arg(place + 1).arg(error.text()));
     }
     mpBar->setNote(tr("Searching..."));
-    mSearch.start([this, card = mSession.container.loaded(), condition = expression.toStdString(), atLeast = form.seconds()](Progress& progress) {
-        const auto within = card.flightNumber > 0 ? std::optional(TimeSpan{card.startTime, card.endTime}) : std::nullopt;
-        mFound = timesWhere(condition, atLeast, *card.pRecord, card.context, within, progress);
-    });
+    mSearch.start(
+        [this, card = mSession.container.loaded(), condition = expression.toStdString(), atLeast = form.seconds()](Progress& progress) {
+            const auto within = card.flightNumber > 0 ? std::optional(TimeSpan{card.startTime, card.endTime}) : std::nullopt;
+            mFound = timesWhere(condition, atLeast, *card.pRecord, card.context, within, progress);
+        });
 }
 
 void FindController::slotFound()

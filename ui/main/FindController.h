@@ -49,7 +49,7 @@ private:
     QAction& mAction;
     FindBar* mpBar; ///< owned by the data area
     FindHits mHits;
-    QTimer mDelay; ///< while the user types on
+    QTimer mDelay;                   ///< while the user types on
     std::set<std::string> mOperands; ///< of the condition that the hits are of
     ConditionTimes mFound;           ///< by the task
     LatestTask mSearch;

@@ -46,7 +46,7 @@ QStringList unusualTexts(StoreReader& store, const CycleHead& head, const CycleO
         lines.append(overview.flights.size() > 1 ? LogbookController::tr("flight %1, %2").arg(found[i].flight).arg(text) : text);
     }
     if (found.size() > kMostUnusual)
-        lines.append(LogbookController::tr("and %1 more; the trends in the logbook have them all").arg(found.size() - kMostUnusual));
+        lines.append(LogbookController::tr("%1 more figures; the trends in the logbook have them all").arg(found.size() - kMostUnusual));
     return lines;
 }
 

@@ -11,7 +11,7 @@ namespace ZARN {
 
 namespace {
 
-constexpr int kSelectorWidth = 200;
+constexpr int kSelectorWidth = 165; // all of the bar has room in 1000 pixels
 
 } // namespace
 

@@ -45,7 +45,8 @@ DialogXy::DialogXy(const Session& session, RecordSession& record, QWidget* pPare
     mpStatus->setWordWrap(true);
     mpStatus->setTextFormat(Qt::PlainText);
     pLayout->addWidget(mpStatus);
-    connect(mpPicture, &PictureMenu::signalProblem, this, [this](const QString& text) { QMessageBox::warning(this, tr("ZARN Warning"), text); });
+    connect(mpPicture, &PictureMenu::signalProblem, this,
+            [this](const QString& text) { QMessageBox::warning(this, tr("ZARN Warning"), text); });
     connect(mpView, &WidgetXy::signalTime, this, [this](double time) { mRecord.setTime(GraphMoment::justBehind(time)); });
     connect(mpView, &WidgetXy::signalMenu, this, &DialogXy::showMenu);
     connect(&mTask, &LatestTask::signalFinished, this, &DialogXy::slotFinished);
@@ -165,7 +166,8 @@ void DialogXy::refresh()
     if (mpSpan->currentIndex() == eMarked && !mMarked)
         return mpView->setMessage(tr("Nothing is marked in the graph: drag over a part of it."));
     mpView->setMessage(tr("One moment..."));
-    mTask.start([this, card = mSession.container.loaded(), choice = choice()](Progress& progress) { mFound = XyPoints(card, choice, progress); });
+    mTask.start(
+        [this, card = mSession.container.loaded(), choice = choice()](Progress& progress) { mFound = XyPoints(card, choice, progress); });
 }
 
 void DialogXy::slotFinished()
@@ -189,9 +191,11 @@ QString DialogXy::status() const
     const QLocale locale;
     if (points.samples() == 0)
         return tr("No sample lies in this part of the record.");
-    QString text = tr("%1 samples; the newest value of each parameter is held until its next.").arg(locale.toString(static_cast<qulonglong>(points.samples())));
+    QString text = tr("%1 samples; the newest value of each parameter is held until its next.")
+                       .arg(locale.toString(static_cast<qulonglong>(points.samples())));
     if (points.dropped() > 0)
-        text += ' ' + tr("%1 of them hold no finite number and are left out.").arg(locale.toString(static_cast<qulonglong>(points.dropped())));
+        text +=
+            ' ' + tr("%1 of them hold no finite number and are left out.").arg(locale.toString(static_cast<qulonglong>(points.dropped())));
     return text;
 }
 

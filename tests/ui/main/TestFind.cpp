@@ -66,9 +66,12 @@ void TestFind::conditions_data()
     QTest::addColumn<FindCondition>("condition");
     QTest::addColumn<QString>("metric");
     QTest::addColumn<QString>("imperial");
-    QTest::newRow("above") << FindCondition{"x", true, 212.0} << "\"x\" > 212" << "\"x\" > 100";
-    QTest::newRow("quoted") << FindCondition{"y \"1\"", false, -0.1} << "'y \"1\"' < -0.1" << "";
-    QTest::newRow("unknown") << FindCondition{"z", true, 1.0} << "" << "";
+    QTest::newRow("above") << FindCondition{"x", true, 212.0} << "\"x\" > 212"
+                           << "\"x\" > 100";
+    QTest::newRow("quoted") << FindCondition{"y \"1\"", false, -0.1} << "'y \"1\"' < -0.1"
+                            << "";
+    QTest::newRow("unknown") << FindCondition{"z", true, 1.0} << ""
+                             << "";
 }
 
 void TestFind::conditions()
@@ -119,7 +122,8 @@ void TestFind::curves()
         return;
     const XyScene scene(points, Palette::light(), QSizeF(500, 400), 11);
     const XyPoint& last = points.points().back();
-    QCOMPARE(scene.timeAt(scene.placeOf(points.valueOf(XyPoints::eX, last.column), points.valueOf(XyPoints::eY, last.row)) + QPointF(5, 5)), last.time);
+    QCOMPARE(scene.timeAt(scene.placeOf(points.valueOf(XyPoints::eX, last.column), points.valueOf(XyPoints::eY, last.row)) + QPointF(5, 5)),
+             last.time);
     QVERIFY(!scene.timeAt(scene.plot().center() + QPointF(100, -30)));
 }
 
@@ -185,7 +189,8 @@ void TestFind::window()
     auto* pCurves = window.findChild<DialogXy*>();
     QTRY_VERIFY(pCurves->view().points().points().size() > 100);
     const XyPoints& points = pCurves->view().points();
-    const XyScene scene(points, Palette::light(), pCurves->view().size(), std::max(QFontInfo(pCurves->view().font()).pixelSize() - 1.0, 8.0));
+    const XyScene scene(points, Palette::light(), pCurves->view().size(),
+                        std::max(QFontInfo(pCurves->view().font()).pixelSize() - 1.0, 8.0));
     const XyPoint& last = points.points().back();
     const QPoint place = scene.placeOf(points.valueOf(XyPoints::eX, last.column), points.valueOf(XyPoints::eY, last.row)).toPoint();
     const std::optional<double> time = scene.timeAt(place);

@@ -16,11 +16,12 @@ constexpr double kGap = 6.0;
 constexpr double kHandleRoom = 22.0;
 constexpr double kLinesForBand = 16; // lower views have none
 constexpr double kSmallestPlot = 60.0;
-constexpr double kAxesPart = 0.22;  // of the view's width at most, but for the first
-constexpr double kLeastGrip = 27.0; // pixels of an axis beside the handles of the strips
-constexpr double kTablePart = 0.38; // of the view's height at most
-constexpr double kLegendPart = 0.4; // the same for the legend
-constexpr int kLeastNumber = 8;     // characters of a number in the legend
+constexpr double kAxesPart = 0.22;     // of the view's width at most, but for the first
+constexpr double kLeastGrip = 27.0;    // pixels of an axis beside the handles of the strips
+constexpr double kReadableStrip = 2.5; // lines
+constexpr double kTablePart = 0.38;    // of the view's height at most
+constexpr double kLegendPart = 0.4;    // the same for the legend
+constexpr int kLeastNumber = 8;        // characters of a number in the legend
 constexpr int kFewestOfName = 6, kSomeOfName = 14;
 
 int longestName(const GraphModel& model)
@@ -151,7 +152,7 @@ void GraphLayout::placeLegendBelow(const GraphModel& model, double bottom)
         return;
     const double room = std::min(bottom * kLegendPart, bottom - kSmallestPlot - 2 * mLine - 4 * kGap);
     double rows = std::min(model.traces().count() + 1.0, std::floor(room / mLine));
-    if (rows < 2)
+    if (rows < 2 || (model.settings().displayMode == eSplit && !isPanelWanted(model, bottom - 2 * mLine - 3 * kGap, rows * mLine)))
         return;
     const auto widthOf = [&](int name, int numbers) {
         return (name + longestUnit(model) + numbers * (mNumberLength + 1) + 1) * mCharacter + kSwatch + kGap;
@@ -170,6 +171,14 @@ void GraphLayout::placeLegendBelow(const GraphModel& model, double bottom)
     }
     mIsBelow = true;
     mLegendRect = QRectF(kGap, bottom - rows * mLine - kGap / 2, std::max(0.0, mSize.width() - 2 * kGap), rows * mLine);
+}
+
+bool GraphLayout::isPanelWanted(const GraphModel& model, double height, double panel) const
+{
+    double least = 1.0;
+    for (const int index : model.traces().shown())
+        least = std::min(least, partOfStrip(model, index));
+    return height * least < mLine || (height - panel) * least >= kReadableStrip * mLine;
 }
 
 double GraphLayout::axisWidth(const GraphModel& model, int index, double height) const

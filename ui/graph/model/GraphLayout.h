@@ -93,6 +93,8 @@ public:
 private:
     void placeLegend(const GraphModel& model, double width);
     void placeLegendBelow(const GraphModel& model, double bottom);
+    /// Strips tell their values themselves as long as they have room for a line. @param height of all without a panel  @param panel its height
+    [[nodiscard]] bool isPanelWanted(const GraphModel& model, double height, double panel) const;
     void placeStrips(const GraphModel& model);
     /// @return how high it is with the gap above it; 0 without one
     double placeTable(const GraphModel& model);

@@ -4,7 +4,7 @@
 
 namespace ZARN {
 
-/// The notes of the record as flags along the top of the plot, with their texts where there is room.
+/// The notes of the record as flags along the bottom of the plot, with their texts where there is room.
 class NoteMarks {
 public:
     NoteMarks(const GraphModel& model, const GraphLayout& layout, const GraphLabels& labels) : mModel(model), mLayout(layout), mLabels(labels) {}

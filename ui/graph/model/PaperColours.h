@@ -9,12 +9,7 @@ class PaperColours {
 public:
     explicit PaperColours(GraphModel& model) : mModel(model), mKept(model.settings())
     {
-        GraphData& data = mModel.settings();
-        const Palette::Graph& paper = Palette::print().graph;
-        data.backColor = paper.ground.name();
-        data.gridColor = paper.grid.name();
-        data.labelColor = paper.label.name();
-        data.labelBackColor = paper.labelGround.name();
+        mModel.settings().usePalette(EGraphPalette::ePrint);
         mModel.settingsChanged();
     }
     ~PaperColours()

@@ -15,6 +15,12 @@ constexpr unsigned kPatience = 1 << 16; // samples between two looks at whether 
 /// Ends work that nobody waits for.
 struct Cancelled {};
 
+/// A number whose distance to every other one is a number, too.
+bool canBeShown(double value)
+{
+    return std::abs(value) < 1e300;
+}
+
 XyAxis describeAxis(const ProfileParameter& parameter, const DecodingContext& context)
 {
     GraphParameter named;
@@ -81,7 +87,7 @@ void XyPoints::findRanges(const LoadedCard& card, const Progress& progress)
     }
     forEach(card, progress, [&](double /*time*/, const std::array<double, 3>& values) {
         ++mSamples;
-        if (!std::ranges::all_of(values, [](double value) { return std::isfinite(value); })) {
+        if (!std::ranges::all_of(values, canBeShown)) {
             ++mDropped;
             return;
         }
@@ -99,7 +105,7 @@ void XyPoints::findRanges(const LoadedCard& card, const Progress& progress)
 
 std::size_t XyPoints::cellOf(const XyAxis& axis, double value, std::size_t cells)
 {
-    const double share = axis.range() > 0 && std::isfinite(axis.range()) ? (value - axis.lower) / axis.range() : 0.5;
+    const double share = axis.range() > 0 ? (value - axis.lower) / axis.range() : 0.5;
     return std::min(static_cast<std::size_t>(std::clamp(share, 0.0, 1.0) * static_cast<double>(cells)), cells - 1);
 }
 
@@ -117,7 +123,7 @@ void XyPoints::fillGrid(const LoadedCard& card, const Progress& progress)
     };
     std::vector<Cell> grid(kColumns * kRows);
     forEach(card, progress, [&](double time, const std::array<double, 3>& values) {
-        if (!std::ranges::all_of(values, [](double value) { return std::isfinite(value); }))
+        if (!std::ranges::all_of(values, canBeShown))
             return;
         Cell& cell = grid[cellOf(mAxes[eY], values[eY], kRows) * kColumns + cellOf(mAxes[eX], values[eX], kColumns)];
         if (time >= cell.time)

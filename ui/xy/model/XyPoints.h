@@ -15,16 +15,16 @@ namespace ZARN {
 struct XyChoice {
     std::string x;
     std::string y;
-    std::string colour; ///< empty: points have the colour of their time
+    std::string colour;           ///< empty: points have the colour of their time
     std::optional<TimeSpan> span; ///< none: all that is selected of the card
     bool operator==(const XyChoice&) const = default;
 };
 
 /// What one axis tells, or the scale of colours.
 struct XyAxis {
-    QString label;                ///< "Name [unit]"
-    int precision = 0;            ///< decimals
-    double lower = 0.0;           ///< the least and the greatest of what is shown
+    QString label;      ///< "Name [unit]"
+    int precision = 0;  ///< decimals
+    double lower = 0.0; ///< the least and the greatest of what is shown
     double upper = 0.0;
     std::vector<GraphBand> bands; ///< of its limits
 

@@ -37,11 +37,12 @@ double shareIn(const ValueSpan& span, double value)
 } // namespace
 
 XyScene::XyScene(const XyPoints& points, const Palette& palette, const QSizeF& size, double textSize)
-    : mPoints(points), mPalette(palette), mSize(size), mTextSize(textSize), mLine(std::ceil(textSize * 1.22) + 1), mCharacter(canvasAdvance(textSize)),
-      mSpanX(spanOf(points.axis(XyPoints::eX))), mSpanY(spanOf(points.axis(XyPoints::eY)))
+    : mPoints(points), mPalette(palette), mSize(size), mTextSize(textSize), mLine(std::ceil(textSize * 1.22) + 1),
+      mCharacter(canvasAdvance(textSize)), mSpanX(spanOf(points.axis(XyPoints::eX))), mSpanY(spanOf(points.axis(XyPoints::eY)))
 {
     const double left = 9 * mCharacter, right = 13 * mCharacter, top = 2 * mLine + 8, bottom = 2.6 * mLine;
     mPlot = QRectF(left, top, std::max(size.width() - left - right, 1.0), std::max(size.height() - top - bottom, 1.0));
+    mixColours();
     mScale = QRectF(mPlot.right() + 1.5 * mCharacter, mPlot.top(), 1.5 * mCharacter, mPlot.height());
 }
 
@@ -55,15 +56,23 @@ QPointF XyScene::placeOf(const XyPoint& point) const
     return placeOf(mPoints.valueOf(XyPoints::eX, point.column), mPoints.valueOf(XyPoints::eY, point.row));
 }
 
-QColor XyScene::colourOf(double share) const
+/// Points come by the hundred thousand: each takes one of these.
+void XyScene::mixColours()
 {
     const auto& stops = mPalette.graph.ground.lightness() < 128 ? kOnDark : kOnLight;
-    const double place = std::clamp(share, 0.0, 1.0) * static_cast<double>(std::size(stops) - 1);
-    const auto first = std::min(static_cast<std::size_t>(place), std::size(stops) - 2);
-    const double part = place - static_cast<double>(first);
-    const QColor a(stops[first]), b(stops[first + 1]);
-    const auto mixed = [part](int from, int to) { return static_cast<int>(std::lround(from + part * (to - from))); };
-    return {mixed(a.red(), b.red()), mixed(a.green(), b.green()), mixed(a.blue(), b.blue())};
+    for (std::size_t i = 0; i < kColours; ++i) {
+        const double place = static_cast<double>(i) / (kColours - 1) * static_cast<double>(std::size(stops) - 1);
+        const auto first = std::min(static_cast<std::size_t>(place), std::size(stops) - 2);
+        const double part = place - static_cast<double>(first);
+        const QColor a(stops[first]), b(stops[first + 1]);
+        const auto mixed = [part](int from, int to) { return static_cast<int>(std::lround(from + part * (to - from))); };
+        mColours[i] = QColor(mixed(a.red(), b.red()), mixed(a.green(), b.green()), mixed(a.blue(), b.blue()));
+    }
+}
+
+const QColor& XyScene::colourOf(double share) const
+{
+    return mColours[static_cast<std::size_t>(std::clamp(share, 0.0, 1.0) * (kColours - 1) + 0.5)];
 }
 
 double XyScene::shareOf(const XyPoint& point) const
@@ -112,13 +121,15 @@ void XyScene::drawPoints(Canvas& canvas) const
     if (mPoints.points().size() <= kFewPoints) {
         for (const XyPoint& point : mPoints.points()) {
             const QPointF place = placeOf(point);
-            canvas.fillRect(QRectF(std::round(place.x()) - kDot / 2, std::round(place.y()) - kDot / 2, kDot, kDot), colourOf(shareOf(point)));
+            canvas.fillRect(QRectF(std::round(place.x()) - kDot / 2, std::round(place.y()) - kDot / 2, kDot, kDot),
+                            colourOf(shareOf(point)));
         }
     } else {
         QImage image(static_cast<int>(XyPoints::kColumns), static_cast<int>(XyPoints::kRows), QImage::Format_ARGB32_Premultiplied);
         image.fill(Qt::transparent);
         for (const XyPoint& point : mPoints.points())
-            image.setPixel(static_cast<int>(point.column), static_cast<int>(XyPoints::kRows - 1 - point.row), colourOf(shareOf(point)).rgba());
+            image.setPixel(static_cast<int>(point.column), static_cast<int>(XyPoints::kRows - 1 - point.row),
+                           colourOf(shareOf(point)).rgba());
         const XyAxis &x = mPoints.axis(XyPoints::eX), &y = mPoints.axis(XyPoints::eY);
         canvas.image(QRectF(placeOf(x.lower, y.upper), placeOf(x.upper, y.lower)), image);
     }
@@ -137,7 +148,8 @@ void XyScene::drawAxisX(Canvas& canvas) const
         canvas.text(QPointF(x, mPlot.bottom() + 3), ticks.valueLabel(tick.value), style(Qt::AlignHCenter | Qt::AlignTop));
     }
     canvas.lines(grid, {withAlpha(mPalette.graph.grid, kGridAlpha)});
-    canvas.text(QPointF(mPlot.center().x(), mSize.height() - 2), mPoints.axis(XyPoints::eX).label, style(Qt::AlignHCenter | Qt::AlignBottom));
+    canvas.text(QPointF(mPlot.center().x(), mSize.height() - 2), mPoints.axis(XyPoints::eX).label,
+                style(Qt::AlignHCenter | Qt::AlignBottom));
 }
 
 void XyScene::drawAxisY(Canvas& canvas) const
@@ -165,14 +177,16 @@ void XyScene::drawScale(Canvas& canvas) const
     const XyAxis& scale = mPoints.axis(XyPoints::eColour);
     const double step = mScale.height() / kScaleSteps;
     for (int i = 0; i < kScaleSteps; ++i)
-        canvas.fillRect(QRectF(mScale.left(), mScale.bottom() - (i + 1) * step, mScale.width(), step + 0.5), colourOf((i + 0.5) / kScaleSteps));
+        canvas.fillRect(QRectF(mScale.left(), mScale.bottom() - (i + 1) * step, mScale.width(), step + 0.5),
+                        colourOf((i + 0.5) / kScaleSteps));
     canvas.outline(mScale, {mPalette.graph.label});
     const double x = mScale.right() + 4;
     canvas.text(QPointF(x, mScale.top()), scaleLabel(scale.upper), style(Qt::AlignLeft | Qt::AlignTop));
     if (scale.range() > 0)
         canvas.text(QPointF(x, mScale.center().y()), scaleLabel(scale.lower + scale.range() / 2), style(Qt::AlignLeft | Qt::AlignVCenter));
     canvas.text(QPointF(x, mScale.bottom()), scaleLabel(scale.lower), style(Qt::AlignLeft | Qt::AlignBottom));
-    canvas.text(QPointF(mSize.width() - 4, 4 + mLine), scale.label, style(Qt::AlignRight | Qt::AlignTop)); // the other label has the line above
+    canvas.text(QPointF(mSize.width() - 4, 4 + mLine), scale.label,
+                style(Qt::AlignRight | Qt::AlignTop)); // the other label has the line above
 }
 
 void XyScene::drawCursor(Canvas& canvas, const XyCursor& cursor) const

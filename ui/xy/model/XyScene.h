@@ -34,7 +34,9 @@ public:
 
 private:
     [[nodiscard]] QPointF placeOf(const XyPoint& point) const;
-    [[nodiscard]] QColor colourOf(double share) const;
+    static constexpr std::size_t kColours = 256;
+    void mixColours();
+    [[nodiscard]] const QColor& colourOf(double share) const;
     [[nodiscard]] double shareOf(const XyPoint& point) const;
     [[nodiscard]] CanvasText style(Qt::Alignment align) const { return {mTextSize, mPalette.graph.label, false, align, false}; }
     void drawBands(Canvas& canvas) const;
@@ -50,6 +52,7 @@ private:
     double mTextSize, mLine, mCharacter;
     QRectF mPlot;
     QRectF mScale; ///< of the colours
+    std::array<QColor, kColours> mColours;
     ValueSpan mSpanX, mSpanY;
 };
 
