@@ -58,6 +58,14 @@
         <source>Search the text</source>
         <translation>Text durchsuchen</translation>
     </message>
+    <message>
+        <source>Keys of the graph</source>
+        <translation>Tasten des Graphen</translation>
+    </message>
+    <message>
+        <source>What it does</source>
+        <translation>Was sie bewirkt</translation>
+    </message>
 </context>
 <context>
     <name>DialogProfileInfo</name>
@@ -129,6 +137,17 @@
     </message>
 </context>
 <context>
+    <name>LogbookController</name>
+    <message>
+        <source>flight %1, %2</source>
+        <translation>Flug %1, %2</translation>
+    </message>
+    <message>
+        <source>%1 more figures; the trends in the logbook have them all</source>
+        <translation>%1 weitere Werte; die Trends im Logbuch haben alle</translation>
+    </message>
+</context>
+<context>
     <name>OpenStreet::TileImage</name>
     <message>
         <source>more than 4 MiB</source>
@@ -190,6 +209,44 @@ Die Einstellungen bleiben erhalten.</translation>
     </message>
 </context>
 <context>
+    <name>ZARN::BusAddress</name>
+    <message>
+        <source>none</source>
+        <translation>keines</translation>
+    </message>
+    <message>
+        <source>%1: must be PLUGIN:INTERFACE, with a plugin of: %2</source>
+        <translation>%1: muss PLUGIN:SCHNITTSTELLE sein, mit einem dieser Plugins: %2</translation>
+    </message>
+    <message>
+        <source>%1: there is no plugin &quot;%2&quot;, only: %3</source>
+        <translation>%1: Es gibt kein Plugin „%2“, nur: %3</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::BusLink</name>
+    <message>
+        <source>the interface is gone</source>
+        <translation>Die Schnittstelle ist fort</translation>
+    </message>
+    <message>
+        <source>good</source>
+        <translation>gut</translation>
+    </message>
+    <message>
+        <source>warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>aus</translation>
+    </message>
+</context>
+<context>
     <name>ZARN::CandumpFile</name>
     <message>
         <source>lines that are no frame: %1</source>
@@ -206,6 +263,21 @@ Die Einstellungen bleiben erhalten.</translation>
     <message>
         <source>the frames of several interfaces are read as one bus</source>
         <translation>die Telegramme mehrerer Schnittstellen werden als ein Bus gelesen</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::CardArchive</name>
+    <message>
+        <source>it cannot be read</source>
+        <translation>es kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>the copy differs from the card</source>
+        <translation>die Kopie weicht von der Karte ab</translation>
+    </message>
+    <message>
+        <source>the folder cannot be listed</source>
+        <translation>der Ordner kann nicht gelesen werden</translation>
     </message>
 </context>
 <context>
@@ -290,6 +362,10 @@ Die Einstellungen bleiben erhalten.</translation>
         <source>it changed while it was read</source>
         <translation>der Inhalt hat sich beim Lesen geändert</translation>
     </message>
+    <message>
+        <source>ended before it was done</source>
+        <translation>beendet, bevor es fertig war</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::CardTree</name>
@@ -362,11 +438,30 @@ Die Einstellungen bleiben erhalten.</translation>
     </message>
 </context>
 <context>
-    <name>ZARN::DataTableModel</name>
+    <name>ZARN::CourseBand</name>
     <message>
-        <source>Time</source>
-        <translation>Zeit</translation>
+        <source>Ground</source>
+        <translation>Boden</translation>
     </message>
+    <message>
+        <source>Take-off</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Climb</source>
+        <translation>Steigflug</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Horizontalflug</translation>
+    </message>
+    <message>
+        <source>Descent</source>
+        <translation>Sinkflug</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::DataTableModel</name>
     <message>
         <source>Time since the unit&apos;s power-up</source>
         <translation>Zeit seit dem Einschalten des Geräts</translation>
@@ -505,6 +600,10 @@ Die Einstellungen bleiben erhalten.</translation>
         <source>Outside of the selected flight</source>
         <translation>Außerhalb des gewählten Flugs</translation>
     </message>
+    <message>
+        <source>Notes:</source>
+        <translation>Notizen:</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::DialogDataGraph</name>
@@ -531,14 +630,6 @@ Die Einstellungen bleiben erhalten.</translation>
         <translation>Werte kopieren</translation>
     </message>
     <message>
-        <source>Copy Picture</source>
-        <translation>Bild kopieren</translation>
-    </message>
-    <message>
-        <source>Snapshot...</source>
-        <translation>Bild speichern...</translation>
-    </message>
-    <message>
         <source>Zoom Marker</source>
         <translation>Auf Marke zoomen</translation>
     </message>
@@ -553,6 +644,51 @@ Die Einstellungen bleiben erhalten.</translation>
     <message>
         <source>Flight Report...</source>
         <translation>Flugbericht...</translation>
+    </message>
+    <message>
+        <source>The cycle to compare with could not be read.
+%1</source>
+        <translation>Der Einschaltzyklus zum Vergleichen konnte nicht gelesen werden.
+%1</translation>
+    </message>
+    <message>
+        <source>The graph has room for %1 parameters. Not shown: %2</source>
+        <translation>Der Graph hat Platz für %1 Parameter. Nicht gezeigt: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>The graph has room for %1 parameters. Not shown: %2 and %n more</source>
+        <translation>
+            <numerusform>Der Graph hat Platz für %1 Parameter. Nicht gezeigt: %2 und %n weiterer</numerusform>
+            <numerusform>Der Graph hat Platz für %1 Parameter. Nicht gezeigt: %2 und %n weitere</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Times</source>
+        <translation>Zeiten</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Fit Scales to What Is Visible</source>
+        <translation>Skalen an das Sichtbare anpassen</translation>
+    </message>
+    <message>
+        <source>Scales of the Whole Record</source>
+        <translation>Skalen der ganzen Aufzeichnung</translation>
+    </message>
+    <message>
+        <source>One Scale for Each Unit</source>
+        <translation>Eine Skala je Einheit</translation>
+    </message>
+    <message>
+        <source>X against Y...</source>
+        <translation>X über Y ...</translation>
     </message>
 </context>
 <context>
@@ -575,6 +711,10 @@ Die Einstellungen bleiben erhalten.</translation>
     <message>
         <source>Load map tiles from %1</source>
         <translation>Kartenkacheln von %1 laden</translation>
+    </message>
+    <message>
+        <source>Show in Graph</source>
+        <translation>Im Graphen zeigen</translation>
     </message>
 </context>
 <context>
@@ -727,6 +867,26 @@ Die Einstellungen bleiben erhalten.</translation>
         <source>Parameter Selection</source>
         <translation>Parameterauswahl</translation>
     </message>
+    <message>
+        <source>Fixed, for programs: decimal point</source>
+        <translation>Fest, für Programme: mit Dezimalpunkt</translation>
+    </message>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>Size of the file</source>
+        <translation>Größe der Datei</translation>
+    </message>
+    <message>
+        <source>For spreadsheets on this computer: %1</source>
+        <translation>Für Tabellenprogramme auf diesem Computer: %1</translation>
+    </message>
+    <message>
+        <source>For spreadsheets, %1: %2</source>
+        <translation>Für Tabellenprogramme, %1: %2</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::DialogExportCsvPath</name>
@@ -783,6 +943,14 @@ Die Einstellungen bleiben erhalten.</translation>
     <message>
         <source>Timestamp every :</source>
         <translation>Zeitstempel alle :</translation>
+    </message>
+    <message>
+        <source>Tracks with times to replay, one folder a flight</source>
+        <translation>Tracks mit Zeiten zum Abspielen, ein Ordner je Flug</translation>
+    </message>
+    <message>
+        <source>The unit had no clock: there will be no tracks.</source>
+        <translation>Das Gerät hatte keine Uhrzeit: Es wird keine Tracks geben.</translation>
     </message>
 </context>
 <context>
@@ -841,6 +1009,10 @@ Die Einstellungen bleiben erhalten.</translation>
     <message>
         <source>Exceedance Placemark Color</source>
         <translation>Farbe der Überschreitungsmarken</translation>
+    </message>
+    <message>
+        <source>Size of the file</source>
+        <translation>Größe der Datei</translation>
     </message>
 </context>
 <context>
@@ -1031,10 +1203,6 @@ lag(x, s): x, wie es vor s Sekunden war</translation>
         <translation>Wählen</translation>
     </message>
     <message>
-        <source>This is not a number: the scale stays as it was.</source>
-        <translation>Das ist keine Zahl: die Skala bleibt, wie sie war.</translation>
-    </message>
-    <message>
         <source>Click :</source>
         <translation>Klick :</translation>
     </message>
@@ -1049,6 +1217,101 @@ lag(x, s): x, wie es vor s Sekunden war</translation>
     <message>
         <source>Otherwise a click makes the marker a point. Dragging marks either way.</source>
         <translation>Sonst macht ein Klick den Marker zu einem Punkt. Ziehen markiert in jedem Fall.</translation>
+    </message>
+    <message>
+        <source>Palette :</source>
+        <translation>Farbpalette:</translation>
+    </message>
+    <message>
+        <source>Gaps :</source>
+        <translation>Lücken:</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Hell</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Druck</translation>
+    </message>
+    <message>
+        <source>Colors of the graph</source>
+        <translation>Farben des Graphen</translation>
+    </message>
+    <message>
+        <source>Interrupt the traces</source>
+        <translation>Kurven unterbrechen</translation>
+    </message>
+    <message>
+        <source>Where nothing was recorded for five times the usual time, at least 2 s, or no number.</source>
+        <translation>Wo fünfmal so lange wie üblich, mindestens aber 2 s lang, nichts aufgezeichnet wurde, oder keine Zahl.</translation>
+    </message>
+    <message>
+        <source>One scale for each unit</source>
+        <translation>Eine Skala je Einheit</translation>
+    </message>
+    <message>
+        <source>Traces of one unit can be compared by their heights. Otherwise each trace has a scale of its own.</source>
+        <translation>Kurven einer Einheit lassen sich an ihrer Höhe vergleichen. Sonst hat jede Kurve ihre eigene Skala.</translation>
+    </message>
+    <message>
+        <source>This is not a number, or might be read as two: the scale stays as it was. Numbers have no sign between thousands.</source>
+        <translation>Das ist keine Zahl, oder sie lässt sich auf zwei Arten lesen: Die Skala bleibt, wie sie war. Zahlen haben kein Zeichen zwischen den Tausendern.</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::DialogLogbook</name>
+    <message>
+        <source>Logbook</source>
+        <translation>Logbuch</translation>
+    </message>
+    <message>
+        <source>Nothing is kept yet. Cards that you open are taken in once you allow it on the page &quot;Options&quot;.</source>
+        <translation>Noch ist nichts aufgehoben. Karten, die Sie öffnen, werden aufgenommen, sobald Sie es auf der Seite „Optionen“ erlauben.</translation>
+    </message>
+    <message>
+        <source>Flights</source>
+        <translation>Flüge</translation>
+    </message>
+    <message>
+        <source>Trends</source>
+        <translation>Trends</translation>
+    </message>
+    <message>
+        <source>Engines and services</source>
+        <translation>Motoren und Wartung</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Notizen</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Optionen</translation>
+    </message>
+    <message>
+        <source>Aircraft or engine</source>
+        <translation>Flugzeug oder Motor</translation>
+    </message>
+    <message>
+        <source>All engines</source>
+        <translation>Alle Motoren</translation>
+    </message>
+    <message>
+        <source>Export table ...</source>
+        <translation>Tabelle exportieren ...</translation>
+    </message>
+    <message>
+        <source>The flights that are shown, as a CSV or PDF file</source>
+        <translation>Die angezeigten Flüge als CSV- oder PDF-Datei</translation>
     </message>
 </context>
 <context>
@@ -1242,6 +1505,38 @@ lag(x, s): x, wie es vor s Sekunden war</translation>
     <message>
         <source>Write Flight Report as PDF or HTML File</source>
         <translation>Flugbericht als PDF- oder HTML-Datei schreiben</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Where was a value above or below another, and for how long</source>
+        <translation>Wo lag ein Wert über oder unter einem anderen, und wie lange</translation>
+    </message>
+    <message>
+        <source>Logbook</source>
+        <translation>Logbuch</translation>
+    </message>
+    <message>
+        <source>Flights, engine hours, trends and services of the cards that were opened</source>
+        <translation>Flüge, Motorstunden, Trends und Wartungen der geöffneten Karten</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Notiz</translation>
+    </message>
+    <message>
+        <source>Write a note about the moment that is shown</source>
+        <translation>Eine Notiz zum angezeigten Zeitpunkt schreiben</translation>
+    </message>
+    <message>
+        <source>X against Y</source>
+        <translation>X über Y</translation>
+    </message>
+    <message>
+        <source>One parameter over another, with their limits</source>
+        <translation>Ein Parameter über einem anderen, mit ihren Grenzen</translation>
     </message>
 </context>
 <context>
@@ -1446,6 +1741,124 @@ lag(x, s): x, wie es vor s Sekunden war</translation>
     </message>
 </context>
 <context>
+    <name>ZARN::DialogService</name>
+    <message>
+        <source>Every</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Was done at</source>
+        <translation>Erledigt bei</translation>
+    </message>
+    <message>
+        <source>Service</source>
+        <translation>Wartung</translation>
+    </message>
+    <message>
+        <source> months</source>
+        <translation> Monate</translation>
+    </message>
+    <message>
+        <source>Engine hours when it was done</source>
+        <translation>Motorstunden, als sie erledigt wurde</translation>
+    </message>
+    <message>
+        <source>Date when it was done</source>
+        <translation>Datum, an dem sie erledigt wurde</translation>
+    </message>
+    <message>
+        <source>Interval in engine hours</source>
+        <translation>Abstand in Motorstunden</translation>
+    </message>
+    <message>
+        <source>Interval in months</source>
+        <translation>Abstand in Monaten</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>Bemerkung</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::DialogXy</name>
+    <message>
+        <source>X against Y</source>
+        <translation>X über Y</translation>
+    </message>
+    <message>
+        <source>ZARN Warning</source>
+        <translation>ZARN Warnung</translation>
+    </message>
+    <message>
+        <source>X:</source>
+        <translation>X:</translation>
+    </message>
+    <message>
+        <source>Y:</source>
+        <translation>Y:</translation>
+    </message>
+    <message>
+        <source>Colour:</source>
+        <translation>Farbe:</translation>
+    </message>
+    <message>
+        <source>Of:</source>
+        <translation>Von:</translation>
+    </message>
+    <message>
+        <source>All of it</source>
+        <translation>Allem</translation>
+    </message>
+    <message>
+        <source>Marker</source>
+        <translation>Markierung</translation>
+    </message>
+    <message>
+        <source>The loaded cycle or flight, or what is marked in the graph</source>
+        <translation>Der geladene Zyklus oder Flug, oder was im Graphen markiert ist</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>No record is loaded.</source>
+        <translation>Keine Aufzeichnung geladen.</translation>
+    </message>
+    <message>
+        <source>Nothing is marked in the graph: drag over a part of it.</source>
+        <translation>Im Graphen ist nichts markiert: Ziehen Sie über einen Teil davon.</translation>
+    </message>
+    <message>
+        <source>One moment...</source>
+        <translation>Einen Augenblick ...</translation>
+    </message>
+    <message>
+        <source>Not recorded here: %1</source>
+        <translation>Hier nicht aufgezeichnet: %1</translation>
+    </message>
+    <message>
+        <source>No sample lies in this part of the record.</source>
+        <translation>In diesem Teil der Aufzeichnung liegt kein Messwert.</translation>
+    </message>
+    <message>
+        <source>%1 samples; the newest value of each parameter is held until its next.</source>
+        <translation>%1 Messwerte; der neueste Wert jedes Parameters gilt bis zu seinem nächsten.</translation>
+    </message>
+    <message>
+        <source>%1 of them hold no finite number and are left out.</source>
+        <translation>%1 davon enthalten keine endliche Zahl und sind weggelassen.</translation>
+    </message>
+    <message>
+        <source>%2 over %1</source>
+        <translation>%2 über %1</translation>
+    </message>
+</context>
+<context>
     <name>ZARN::ExportController</name>
     <message>
         <source>ZARN Warning</source>
@@ -1496,14 +1909,6 @@ lag(x, s): x, wie es vor s Sekunden war</translation>
         <translation>Zuerst im Kartenfeld einen Einschaltzyklus wählen.</translation>
     </message>
     <message>
-        <source>%1 cycle %2 flight %3</source>
-        <translation>%1 Zyklus %2 Flug %3</translation>
-    </message>
-    <message>
-        <source>%1 cycle %2</source>
-        <translation>%1 Zyklus %2</translation>
-    </message>
-    <message>
         <source>Everything that is loaded</source>
         <translation>Alles, was geladen ist</translation>
     </message>
@@ -1530,6 +1935,10 @@ lag(x, s): x, wie es vor s Sekunden war</translation>
     <message>
         <source>A report is a PDF or an HTML file: its name ends in .pdf or .html.</source>
         <translation>Ein Bericht ist eine PDF- oder eine HTML-Datei: Ihr Name endet auf .pdf oder .html.</translation>
+    </message>
+    <message>
+        <source>GPX Files, one track a flight (*.gpx)</source>
+        <translation>GPX-Dateien, ein Track je Flug (*.gpx)</translation>
     </message>
 </context>
 <context>
@@ -1568,6 +1977,10 @@ Try it nevertheless ?</source>
         <translation>Die Datei wird etwa %1 groß, und im Ordner sind nur %2 frei.
 Trotzdem versuchen?</translation>
     </message>
+    <message>
+        <source>about %1</source>
+        <translation>etwa %1</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::ExportPathPage</name>
@@ -1604,6 +2017,10 @@ Ersetzen ?</translation>
     <message>
         <source>Range</source>
         <translation>Bereich</translation>
+    </message>
+    <message>
+        <source>Size of the file</source>
+        <translation>Größe der Datei</translation>
     </message>
 </context>
 <context>
@@ -1642,6 +2059,178 @@ Ersetzen ?</translation>
     <message>
         <source>%1 is a recording of this card and is not replaced.</source>
         <translation>%1 ist eine Aufzeichnung dieser Karte und wird nicht ersetzt.</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::FindBar</name>
+    <message>
+        <source>Formula</source>
+        <translation>Formel</translation>
+    </message>
+    <message>
+        <source>Write the condition as a formula</source>
+        <translation>Die Bedingung als Formel schreiben</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>To the one before (Shift+F3)</source>
+        <translation>Zur vorigen Stelle (Umschalt+F3)</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>To the next one (F3)</source>
+        <translation>Zur nächsten Stelle (F3)</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation>Liste</translation>
+    </message>
+    <message>
+        <source>List all that were found</source>
+        <translation>Alle gefundenen Stellen auflisten</translation>
+    </message>
+    <message>
+        <source>Close (Esc)</source>
+        <translation>Schließen (Esc)</translation>
+    </message>
+    <message>
+        <source>What was found</source>
+        <translation>Gefundene Stellen</translation>
+    </message>
+    <message>
+        <source>A double click shows it in the graph</source>
+        <translation>Ein Doppelklick zeigt die Stelle im Graphen</translation>
+    </message>
+    <message>
+        <source>%1 together</source>
+        <translation>zusammen %1</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Nie</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>%1 found</source>
+        <translation>%1 gefunden</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::FindController</name>
+    <message>
+        <source>No record is loaded.</source>
+        <translation>Keine Aufzeichnung geladen.</translation>
+    </message>
+    <message>
+        <source>Write a condition, for example &quot;Engine Speed A&quot; &gt; 4000.</source>
+        <translation>Schreiben Sie eine Bedingung, zum Beispiel &quot;Engine Speed A&quot; &gt; 4000.</translation>
+    </message>
+    <message>
+        <source>The profile cannot convert the unit of this parameter.</source>
+        <translation>Das Profil kann die Einheit dieses Parameters nicht umrechnen.</translation>
+    </message>
+    <message>
+        <source>There is no such parameter in this record.</source>
+        <translation>Diesen Parameter gibt es in dieser Aufzeichnung nicht.</translation>
+    </message>
+    <message>
+        <source>Character %1: %2</source>
+        <translation>Zeichen %1: %2</translation>
+    </message>
+    <message>
+        <source>Searching...</source>
+        <translation>Suche läuft ...</translation>
+    </message>
+    <message>
+        <source>Not recorded here: %1</source>
+        <translation>Hier nicht aufgezeichnet: %1</translation>
+    </message>
+    <message>
+        <source>No sample is a number: %1</source>
+        <translation>Kein Messwert ist eine Zahl: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::FindForm</name>
+    <message>
+        <source>&quot;Oil Temperature A&quot; &gt; 110 &amp;&amp; &quot;Engine Speed A&quot; &gt; 4000</source>
+        <translation>&quot;Oil Temperature A&quot; &gt; 110 &amp;&amp; &quot;Engine Speed A&quot; &gt; 4000</translation>
+    </message>
+    <message>
+        <source>A formula of parameters, in metric units: names in quotation marks; &lt; &gt; &lt;= &gt;= == != &amp;&amp; || and functions</source>
+        <translation>Eine Formel aus Parametern, in metrischen Einheiten: Namen in Anführungszeichen; &lt; &gt; &lt;= &gt;= == != &amp;&amp; || und Funktionen</translation>
+    </message>
+    <message>
+        <source>Condition</source>
+        <translation>Bedingung</translation>
+    </message>
+    <message>
+        <source>For at least so many seconds</source>
+        <translation>Mindestens so viele Sekunden lang</translation>
+    </message>
+    <message>
+        <source>Where is</source>
+        <translation>Wo ist</translation>
+    </message>
+    <message>
+        <source>for at least</source>
+        <translation>mindestens</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>above</source>
+        <translation>über</translation>
+    </message>
+    <message>
+        <source>below</source>
+        <translation>unter</translation>
+    </message>
+    <message>
+        <source>Above or below</source>
+        <translation>Über oder unter</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::FindTableModel</name>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Von</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Bis</translation>
+    </message>
+    <message>
+        <source>For</source>
+        <translation>Dauer</translation>
     </message>
 </context>
 <context>
@@ -1733,34 +2322,6 @@ Ersetzen ?</translation>
     <message>
         <source>Unit</source>
         <translation>Einheit</translation>
-    </message>
-    <message>
-        <source>ECU serial number</source>
-        <translation>ECU-Seriennummer</translation>
-    </message>
-    <message>
-        <source>Engine serial number</source>
-        <translation>Motorseriennummer</translation>
-    </message>
-    <message>
-        <source>ECU type</source>
-        <translation>ECU-Typ</translation>
-    </message>
-    <message>
-        <source>Engine type</source>
-        <translation>Motortyp</translation>
-    </message>
-    <message>
-        <source>Software A</source>
-        <translation>Software A</translation>
-    </message>
-    <message>
-        <source>EMU software</source>
-        <translation>EMU-Software</translation>
-    </message>
-    <message>
-        <source>Software B</source>
-        <translation>Software B</translation>
     </message>
     <message>
         <source>Flights and tow statistic</source>
@@ -2017,6 +2578,18 @@ Ersetzen ?</translation>
         <source>All of them, those too which the verdict does not count: of starting, stopping and lane checks.</source>
         <translation>Alle, auch die, die für das Ergebnis nicht zählen: vom Anlassen, Abstellen und Prüfen der Lanes.</translation>
     </message>
+    <message>
+        <source>Notes</source>
+        <translation>Notizen</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Notiz</translation>
+    </message>
+    <message>
+        <source>Not all of them: what was recorded comes before formulas, what is worse before the rest. Those too which the verdict does not count: of starting, stopping and lane checks.</source>
+        <translation>Nicht alle: Aufgezeichnetes geht vor Formeln, Schlimmeres vor dem Übrigen. Auch die, die das Urteil nicht zählt: vom Anlassen, Abstellen und von Lane-Prüfungen.</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::FormulaCheck</name>
@@ -2137,6 +2710,57 @@ Ersetzen ?</translation>
     </message>
 </context>
 <context>
+    <name>ZARN::GhostMenu</name>
+    <message>
+        <source>Cycle %1</source>
+        <translation>Zyklus %1</translation>
+    </message>
+    <message>
+        <source>Compare With</source>
+        <translation>Vergleichen mit</translation>
+    </message>
+    <message>
+        <source>Another Card...</source>
+        <translation>Einer anderen Karte...</translation>
+    </message>
+    <message>
+        <source>Nothing</source>
+        <translation>Nichts</translation>
+    </message>
+    <message>
+        <source>Flight %1</source>
+        <translation>Flug %1</translation>
+    </message>
+    <message>
+        <source>Align Take-offs</source>
+        <translation>Starts übereinanderlegen</translation>
+    </message>
+    <message>
+        <source>Align to the Take-off of its Flight %1</source>
+        <translation>Auf den Start seines Flugs %1 legen</translation>
+    </message>
+    <message>
+        <source>Align Engine Starts</source>
+        <translation>Anlassen des Motors übereinanderlegen</translation>
+    </message>
+    <message>
+        <source>Drag with the Alt key to align by hand</source>
+        <translation>Mit der Alt-Taste ziehen, um von Hand auszurichten</translation>
+    </message>
+    <message>
+        <source>ZARN Warning</source>
+        <translation>ZARN Warnung</translation>
+    </message>
+    <message>
+        <source>No power cycles were found there.</source>
+        <translation>Dort wurden keine Einschaltzyklen gefunden.</translation>
+    </message>
+    <message>
+        <source>Power cycle of %1 :</source>
+        <translation>Einschaltzyklus von %1:</translation>
+    </message>
+</context>
+<context>
     <name>ZARN::GraphButtons</name>
     <message>
         <source>Zoom In</source>
@@ -2188,14 +2812,89 @@ Ersetzen ?</translation>
     </message>
 </context>
 <context>
-    <name>ZARN::GraphSnapshot</name>
+    <name>ZARN::GraphJump</name>
     <message>
-        <source>Graph</source>
-        <translation>Graph</translation>
+        <source>Show in Graph</source>
+        <translation>Im Graphen zeigen</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::GraphKeys</name>
+    <message>
+        <source>Cursor by a pixel of time, with Shift by ten</source>
+        <translation>Cursor um ein Pixel der Zeit, mit der Umschalttaste um zehn</translation>
     </message>
     <message>
-        <source>Pictures of the format &quot;%1&quot; cannot be written</source>
-        <translation>Bilder im Format „%1“ können nicht geschrieben werden</translation>
+        <source>Height of the cursor by a pixel, with Shift by ten</source>
+        <translation>Höhe des Cursors um ein Pixel, mit der Umschalttaste um zehn</translation>
+    </message>
+    <message>
+        <source>Start of the marker by a pixel, with Shift by ten; without a marker from the cursor</source>
+        <translation>Anfang der Marke um ein Pixel, mit der Umschalttaste um zehn; ohne Marke ab dem Cursor</translation>
+    </message>
+    <message>
+        <source>End of the marker by a pixel, with Shift by ten; without a marker from the cursor</source>
+        <translation>Ende der Marke um ein Pixel, mit der Umschalttaste um zehn; ohne Marke ab dem Cursor</translation>
+    </message>
+    <message>
+        <source>Take the marker away</source>
+        <translation>Marke wegnehmen</translation>
+    </message>
+    <message>
+        <source>Show what is marked</source>
+        <translation>Das Markierte zeigen</translation>
+    </message>
+    <message>
+        <source>Look closer or from farther away in time, about the cursor</source>
+        <translation>Zeit näher oder weiter weg betrachten, um den Cursor</translation>
+    </message>
+    <message>
+        <source>A page back or on in time</source>
+        <translation>Eine Seite zurück oder weiter in der Zeit</translation>
+    </message>
+    <message>
+        <source>Start or end of the record</source>
+        <translation>Anfang oder Ende der Aufzeichnung</translation>
+    </message>
+    <message>
+        <source>The whole record</source>
+        <translation>Die ganze Aufzeichnung</translation>
+    </message>
+    <message>
+        <source>Choose the trace above or below: it stands out, and the keys for values are for it</source>
+        <translation>Kurve darüber oder darunter wählen: sie ist hervorgehoben, und die Tasten für Werte gelten ihr</translation>
+    </message>
+    <message>
+        <source>Scale of the chosen trace up or down</source>
+        <translation>Skala der gewählten Kurve nach oben oder unten</translation>
+    </message>
+    <message>
+        <source>Look closer or from farther away at the values of the chosen trace</source>
+        <translation>Werte der gewählten Kurve näher oder weiter weg betrachten</translation>
+    </message>
+    <message>
+        <source>Fit the scales to what is visible; once more: to the whole record</source>
+        <translation>Skalen an das Sichtbare anpassen; noch einmal: an die ganze Aufzeichnung</translation>
+    </message>
+    <message>
+        <source>One scale for the traces of each unit, or one for each trace</source>
+        <translation>Eine Skala für die Kurven jeder Einheit oder eine für jede Kurve</translation>
+    </message>
+    <message>
+        <source>Strip of the chosen trace up or down</source>
+        <translation>Streifen der gewählten Kurve nach oben oder unten</translation>
+    </message>
+    <message>
+        <source>Strip of the chosen trace higher or lower</source>
+        <translation>Streifen der gewählten Kurve höher oder niedriger</translation>
+    </message>
+    <message>
+        <source>Take back what changed view, scales, marker or layout</source>
+        <translation>Zurücknehmen, was Ansicht, Skalen, Marke oder Darstellung verändert hat</translation>
+    </message>
+    <message>
+        <source>Do it again</source>
+        <translation>Wiederherstellen</translation>
     </message>
 </context>
 <context>
@@ -2217,8 +2916,8 @@ Ersetzen ?</translation>
         <translation>Max</translation>
     </message>
     <message>
-        <source>%1 more: see Copy Values</source>
-        <translation>%1 weitere: siehe „Werte kopieren“</translation>
+        <source>Difference</source>
+        <translation>Differenz</translation>
     </message>
 </context>
 <context>
@@ -2490,6 +3189,677 @@ Ersetzen ?</translation>
     </message>
 </context>
 <context>
+    <name>ZARN::LiveRecorder</name>
+    <message>
+        <source>%1: another program records there</source>
+        <translation>%1: Ein anderes Programm zeichnet dort auf</translation>
+    </message>
+    <message>
+        <source>%1: the folder cannot be written</source>
+        <translation>%1: In den Ordner kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>%1: holds the record file %2, which is none of a recording</source>
+        <translation>%1: enthält die Aufzeichnungsdatei %2, die nicht zu einer Aufnahme gehört</translation>
+    </message>
+    <message>
+        <source>%1: all numbers of files are used up</source>
+        <translation>%1: Alle Dateinummern sind verbraucht</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::LogbookBar</name>
+    <message>
+        <source>Keep a logbook of the cards that you open?</source>
+        <translation>Ein Logbuch der Karten führen, die Sie öffnen?</translation>
+    </message>
+    <message>
+        <source>Flights, engine hours and trends, in a file on this computer. Nothing is sent anywhere.</source>
+        <translation>Flüge, Motorstunden und Trends, in einer Datei auf diesem Rechner. Nichts wird irgendwohin gesendet.</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nein</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::LogbookController</name>
+    <message>
+        <source>Card not in the logbook</source>
+        <translation>Karte nicht im Logbuch</translation>
+    </message>
+    <message>
+        <source>The card of this recording is not at hand.</source>
+        <translation>Die Karte dieser Aufzeichnung ist nicht zur Hand.</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::LogbookCsv</name>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Aircraft</source>
+        <translation>Flugzeug</translation>
+    </message>
+    <message>
+        <source>Engine</source>
+        <translation>Motor</translation>
+    </message>
+    <message>
+        <source>Flight time [h]</source>
+        <translation>Flugzeit [h]</translation>
+    </message>
+    <message>
+        <source>Fuel [l]</source>
+        <translation>Kraftstoff [l]</translation>
+    </message>
+    <message>
+        <source>Climb [m]</source>
+        <translation>Steigen [m]</translation>
+    </message>
+    <message>
+        <source>Verdict</source>
+        <translation>Urteil</translation>
+    </message>
+    <message>
+        <source>Card</source>
+        <translation>Karte</translation>
+    </message>
+    <message>
+        <source>Cycle</source>
+        <translation>Zyklus</translation>
+    </message>
+    <message>
+        <source>Flight</source>
+        <translation>Flug</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Notizen</translation>
+    </message>
+    <message>
+        <source>Time since power-up</source>
+        <translation>Zeit seit dem Einschalten</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Notiz</translation>
+    </message>
+    <message>
+        <source>Written</source>
+        <translation>Geschrieben</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Aufzeichnung</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::LogbookEditor</name>
+    <message>
+        <source>the store was removed or replaced</source>
+        <translation>der Speicher wurde entfernt oder ersetzt</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::LogbookEngines</name>
+    <message>
+        <source>Engines</source>
+        <translation>Motoren</translation>
+    </message>
+    <message>
+        <source>Aircraft or engine</source>
+        <translation>Flugzeug oder Motor</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Flights</source>
+        <translation>Flüge</translation>
+    </message>
+    <message>
+        <source>Engine hours</source>
+        <translation>Motorstunden</translation>
+    </message>
+    <message>
+        <source>Unit&apos;s counter</source>
+        <translation>Zähler des Geräts</translation>
+    </message>
+    <message>
+        <source>Services</source>
+        <translation>Wartungen</translation>
+    </message>
+    <message>
+        <source>Service</source>
+        <translation>Wartung</translation>
+    </message>
+    <message>
+        <source>Every</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Last done</source>
+        <translation>Zuletzt erledigt</translation>
+    </message>
+    <message>
+        <source>Due</source>
+        <translation>Fällig</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>Bemerkung</translation>
+    </message>
+    <message>
+        <source>Aircraft ...</source>
+        <translation>Flugzeug ...</translation>
+    </message>
+    <message>
+        <source>Hours before ...</source>
+        <translation>Stunden davor ...</translation>
+    </message>
+    <message>
+        <source>Same engine as ...</source>
+        <translation>Gleicher Motor wie ...</translation>
+    </message>
+    <message>
+        <source>An engine whose unit tells no serial number may be one that is here already</source>
+        <translation>Ein Motor, dessen Gerät keine Seriennummer nennt, kann einer sein, den es hier schon gibt</translation>
+    </message>
+    <message>
+        <source>Separate ...</source>
+        <translation>Trennen ...</translation>
+    </message>
+    <message>
+        <source>Takes back that engines are the same</source>
+        <translation>Nimmt zurück, dass Motoren derselbe sind</translation>
+    </message>
+    <message>
+        <source>New service ...</source>
+        <translation>Neue Wartung ...</translation>
+    </message>
+    <message>
+        <source>Change ...</source>
+        <translation>Ändern ...</translation>
+    </message>
+    <message>
+        <source>Done now</source>
+        <translation>Jetzt erledigt</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>overdue: %1</source>
+        <translation>überfällig: %1</translation>
+    </message>
+    <message>
+        <source>soon: %1</source>
+        <translation>bald: %1</translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation>nie</translation>
+    </message>
+    <message>
+        <source>Choose an engine to see its hours and services.</source>
+        <translation>Wählen Sie einen Motor, um seine Stunden und Wartungen zu sehen.</translation>
+    </message>
+    <message>
+        <source>Aircraft</source>
+        <translation>Flugzeug</translation>
+    </message>
+    <message>
+        <source>The aircraft that this engine is in, for example its registration:</source>
+        <translation>Das Flugzeug, in dem dieser Motor ist, zum Beispiel sein Kennzeichen:</translation>
+    </message>
+    <message>
+        <source>Hours that the engine ran before its first recording:</source>
+        <translation>Stunden, die der Motor vor seiner ersten Aufzeichnung lief:</translation>
+    </message>
+    <message>
+        <source>Same engine</source>
+        <translation>Gleicher Motor</translation>
+    </message>
+    <message>
+        <source>%1 is the same engine as:</source>
+        <translation>%1 ist derselbe Motor wie:</translation>
+    </message>
+    <message>
+        <source>Separate engines</source>
+        <translation>Motoren trennen</translation>
+    </message>
+    <message>
+        <source>An engine of its own again:</source>
+        <translation>Wieder ein eigener Motor:</translation>
+    </message>
+    <message>
+        <source>Delete service</source>
+        <translation>Wartung löschen</translation>
+    </message>
+    <message>
+        <source>Delete the service &quot;%1&quot;?</source>
+        <translation>Die Wartung „%1“ löschen?</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::LogbookExport</name>
+    <message>
+        <source>en</source>
+        <extracomment>code of the language that this is translated to</extracomment>
+        <translation>de</translation>
+    </message>
+    <message>
+        <source>Logbook</source>
+        <translation>Logbuch</translation>
+    </message>
+    <message>
+        <source>Flights</source>
+        <translation>Flüge</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Aircraft or engine</source>
+        <translation>Flugzeug oder Motor</translation>
+    </message>
+    <message>
+        <source>Flight [h]</source>
+        <translation>Flug [h]</translation>
+    </message>
+    <message>
+        <source>Fuel [l]</source>
+        <translation>Kraftstoff [l]</translation>
+    </message>
+    <message>
+        <source>Climb [m]</source>
+        <translation>Steigen [m]</translation>
+    </message>
+    <message>
+        <source>Verdict</source>
+        <translation>Urteil</translation>
+    </message>
+    <message>
+        <source>Card</source>
+        <translation>Karte</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Notizen</translation>
+    </message>
+    <message>
+        <source>Flights: %1, together %2 h in flight.</source>
+        <translation>Flüge: %1, zusammen %2 h in der Luft.</translation>
+    </message>
+    <message>
+        <source>Export logbook</source>
+        <translation>Logbuch exportieren</translation>
+    </message>
+    <message>
+        <source>CSV Files (*.csv)</source>
+        <translation>CSV-Dateien (*.csv)</translation>
+    </message>
+    <message>
+        <source>PDF Files (*.pdf)</source>
+        <translation>PDF-Dateien (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Export notes</source>
+        <translation>Notizen exportieren</translation>
+    </message>
+    <message>
+        <source>Writing %1 ...</source>
+        <translation>%1 wird geschrieben ...</translation>
+    </message>
+    <message>
+        <source>ZARN Warning</source>
+        <translation>ZARN Warnung</translation>
+    </message>
+    <message>
+        <source>The file could not be written.</source>
+        <translation>Die Datei konnte nicht geschrieben werden.</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::LogbookFlights</name>
+    <message>
+        <source>From</source>
+        <translation>Von</translation>
+    </message>
+    <message>
+        <source>Until</source>
+        <translation>Bis</translation>
+    </message>
+    <message>
+        <source>any</source>
+        <translation>beliebig</translation>
+    </message>
+    <message>
+        <source>Verdict</source>
+        <translation>Urteil</translation>
+    </message>
+    <message>
+        <source>Any verdict</source>
+        <translation>Jedes Urteil</translation>
+    </message>
+    <message>
+        <source>Text in aircraft, card, notes or incidents</source>
+        <translation>Text in Flugzeug, Karte, Notizen oder Vorfällen</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>until</source>
+        <translation>bis</translation>
+    </message>
+    <message>
+        <source>Flights</source>
+        <translation>Flüge</translation>
+    </message>
+    <message>
+        <source>from %1</source>
+        <translation>von %1</translation>
+    </message>
+    <message>
+        <source>until %1</source>
+        <translation>bis %1</translation>
+    </message>
+    <message>
+        <source>verdict %1</source>
+        <translation>Urteil %1</translation>
+    </message>
+    <message>
+        <source>with &quot;%1&quot;</source>
+        <translation>mit „%1“</translation>
+    </message>
+    <message>
+        <source>No flight.</source>
+        <translation>Kein Flug.</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::LogbookModel</name>
+    <message>
+        <source>clock not set</source>
+        <translation>Uhr nicht gestellt</translation>
+    </message>
+    <message>
+        <source>%1, cycle %2, flight %3</source>
+        <translation>%1, Zyklus %2, Flug %3</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Aircraft or engine</source>
+        <translation>Flugzeug oder Motor</translation>
+    </message>
+    <message>
+        <source>Flight [h]</source>
+        <translation>Flug [h]</translation>
+    </message>
+    <message>
+        <source>Fuel [l]</source>
+        <translation>Kraftstoff [l]</translation>
+    </message>
+    <message>
+        <source>Climb [m]</source>
+        <translation>Steigen [m]</translation>
+    </message>
+    <message>
+        <source>Verdict</source>
+        <translation>Urteil</translation>
+    </message>
+    <message>
+        <source>Card</source>
+        <translation>Karte</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Notizen</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::LogbookNotes</name>
+    <message>
+        <source>Key M in the main window pins a note to the moment that is shown.</source>
+        <translation>Die Taste M im Hauptfenster heftet eine Notiz an den angezeigten Zeitpunkt.</translation>
+    </message>
+    <message>
+        <source>Export notes ...</source>
+        <translation>Notizen exportieren ...</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Notizen</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Aufzeichnung</translation>
+    </message>
+    <message>
+        <source>Aircraft or engine</source>
+        <translation>Flugzeug oder Motor</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Notiz</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Anzeigen</translation>
+    </message>
+    <message>
+        <source>Change ...</source>
+        <translation>Ändern ...</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>not in the logbook</source>
+        <translation>nicht im Logbuch</translation>
+    </message>
+    <message>
+        <source>%1, cycle %2</source>
+        <translation>%1, Zyklus %2</translation>
+    </message>
+    <message>
+        <source>Note:</source>
+        <translation>Notiz:</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::LogbookOptions</name>
+    <message>
+        <source>Keep a logbook of the cards that are opened</source>
+        <translation>Ein Logbuch der geöffneten Karten führen</translation>
+    </message>
+    <message>
+        <source>Copy each new recording into an archive</source>
+        <translation>Jede neue Aufzeichnung in ein Archiv kopieren</translation>
+    </message>
+    <message>
+        <source>Folder ...</source>
+        <translation>Ordner ...</translation>
+    </message>
+    <message>
+        <source>The logbook is the file %1.</source>
+        <translation>Das Logbuch ist die Datei %1.</translation>
+    </message>
+    <message>
+        <source>A copy counts once it was compared with the card, byte by byte. Flights are shown from there when their card is not at hand.</source>
+        <translation>Eine Kopie zählt, sobald sie Byte für Byte mit der Karte verglichen wurde. Flüge werden von dort gezeigt, wenn ihre Karte nicht zur Hand ist.</translation>
+    </message>
+    <message>
+        <source>No folder is chosen.</source>
+        <translation>Kein Ordner ist gewählt.</translation>
+    </message>
+    <message>
+        <source>Folder of the archive</source>
+        <translation>Ordner des Archivs</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::LogbookTexts</name>
+    <message>
+        <source>unit %1</source>
+        <translation>Gerät %1</translation>
+    </message>
+    <message>
+        <source>card %1</source>
+        <translation>Karte %1</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>Limit</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Unbekannt</translation>
+    </message>
+    <message>
+        <source>1 flight</source>
+        <translation>1 Flug</translation>
+    </message>
+    <message>
+        <source>%1 flights</source>
+        <translation>%1 Flüge</translation>
+    </message>
+    <message>
+        <source>in flight %1 h</source>
+        <translation>in der Luft %1 h</translation>
+    </message>
+    <message>
+        <source>engine ran %1 h in these cycles</source>
+        <translation>Motor lief %1 h in diesen Zyklen</translation>
+    </message>
+    <message>
+        <source>%1 (%2 cycles do not tell)</source>
+        <translation>%1 (%2 Zyklen sagen es nicht)</translation>
+    </message>
+    <message>
+        <source>fuel in flight %1 l</source>
+        <translation>Kraftstoff im Flug %1 l</translation>
+    </message>
+    <message>
+        <source>%1 h: %2 h before the first recording and %3 h recorded</source>
+        <translation>%1 h: %2 h vor der ersten Aufzeichnung und %3 h aufgezeichnet</translation>
+    </message>
+    <message>
+        <source>%1 h recorded; the hours before the first recording are not entered</source>
+        <translation>%1 h aufgezeichnet; die Stunden vor der ersten Aufzeichnung sind nicht eingetragen</translation>
+    </message>
+    <message>
+        <source>cycles that do not tell whether the engine ran: %1</source>
+        <translation>Zyklen, die nicht sagen, ob der Motor lief: %1</translation>
+    </message>
+    <message>
+        <source>The unit&apos;s own counter: %1 h on %2</source>
+        <translation>Der Zähler des Geräts: %1 h am %2</translation>
+    </message>
+    <message>
+        <source>%1 h</source>
+        <translation>%1 h</translation>
+    </message>
+    <message>
+        <source>1 month</source>
+        <translation>1 Monat</translation>
+    </message>
+    <message>
+        <source>%1 months</source>
+        <translation>%1 Monate</translation>
+    </message>
+    <message>
+        <source> or </source>
+        <translation> oder </translation>
+    </message>
+    <message>
+        <source>in %1 h</source>
+        <translation>in %1 h</translation>
+    </message>
+    <message>
+        <source>%1 h ago</source>
+        <translation>vor %1 h</translation>
+    </message>
+    <message>
+        <source>on %1</source>
+        <translation>am %1</translation>
+    </message>
+    <message>
+        <source>not known: enter when it was done</source>
+        <translation>nicht bekannt: tragen Sie ein, wann sie erledigt wurde</translation>
+    </message>
+    <message>
+        <source>Overdue: %1, %2</source>
+        <translation>Überfällig: %1, %2</translation>
+    </message>
+    <message>
+        <source>Due soon: %1, %2</source>
+        <translation>Bald fällig: %1, %2</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::LogbookTrends</name>
+    <message>
+        <source>Parameters and phases</source>
+        <translation>Parameter und Phasen</translation>
+    </message>
+    <message>
+        <source>unusual</source>
+        <translation>ungewöhnlich</translation>
+    </message>
+    <message>
+        <source>drifting</source>
+        <translation>driftet</translation>
+    </message>
+    <message>
+        <source>Choose an engine above to see its trends.</source>
+        <translation>Wählen Sie oben einen Motor, um seine Trends zu sehen.</translation>
+    </message>
+    <message>
+        <source>No flight of this engine tells a figure.</source>
+        <translation>Kein Flug dieses Motors nennt einen Wert.</translation>
+    </message>
+    <message>
+        <source>%1, %2 flights</source>
+        <translation>%1, %2 Flüge</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::LogbookWorker</name>
+    <message>
+        <source>%1: it was removed while it was shown; what is shown is what it held</source>
+        <translation>%1: Es wurde entfernt, während es gezeigt wurde; zu sehen ist, was darin stand</translation>
+    </message>
+</context>
+<context>
     <name>ZARN::MainToolBar</name>
     <message>
         <source>Main Toolbar</source>
@@ -2554,6 +3924,13 @@ Ersetzen ?</translation>
     </message>
 </context>
 <context>
+    <name>ZARN::MarkerTable</name>
+    <message>
+        <source>Lines %1 to %2 of %3: the wheel shows the others</source>
+        <translation>Zeilen %1 bis %2 von %3: das Mausrad zeigt die anderen</translation>
+    </message>
+</context>
+<context>
     <name>ZARN::MarkerValues</name>
     <message>
         <source>From</source>
@@ -2584,10 +3961,6 @@ Ersetzen ?</translation>
         <translation>Integral</translation>
     </message>
     <message>
-        <source>Time</source>
-        <translation>Zeit</translation>
-    </message>
-    <message>
         <source>Parameter</source>
         <translation>Parameter</translation>
     </message>
@@ -2598,6 +3971,31 @@ Ersetzen ?</translation>
     <message>
         <source>Unit of integral</source>
         <translation>Einheit des Integrals</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::NoteController</name>
+    <message>
+        <source>Note at %1; without a text it is removed:</source>
+        <translation>Notiz bei %1; ohne Text wird sie entfernt:</translation>
+    </message>
+    <message>
+        <source>Note at %1:</source>
+        <translation>Notiz bei %1:</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Notiz</translation>
+    </message>
+    <message>
+        <source>The note could not be kept:
+%1
+
+%2</source>
+        <translation>Die Notiz konnte nicht aufgehoben werden:
+%1
+
+%2</translation>
     </message>
 </context>
 <context>
@@ -2707,6 +4105,14 @@ Ersetzen ?</translation>
         <source>no flight found</source>
         <translation>kein Flug gefunden</translation>
     </message>
+    <message>
+        <source>Unusual for this engine: %1</source>
+        <translation>Ungewöhnlich für diesen Motor: %1</translation>
+    </message>
+    <message>
+        <source>Note at %1: %2</source>
+        <translation>Notiz bei %1: %2</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::ParquetDataset</name>
@@ -2717,6 +4123,58 @@ Ersetzen ?</translation>
     <message>
         <source>it cannot be written, only read</source>
         <translation>er kann nicht geschrieben werden, nur gelesen</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::Picture</name>
+    <message>
+        <source>Graph</source>
+        <translation>Graph</translation>
+    </message>
+    <message>
+        <source>Pictures of the format &quot;%1&quot; cannot be written</source>
+        <translation>Bilder im Format „%1“ können nicht geschrieben werden</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::PictureMenu</name>
+    <message>
+        <source>Copy Picture</source>
+        <translation>Bild kopieren</translation>
+    </message>
+    <message>
+        <source>Save Picture...</source>
+        <translation>Bild speichern ...</translation>
+    </message>
+    <message>
+        <source>Print Picture...</source>
+        <translation>Bild drucken ...</translation>
+    </message>
+    <message>
+        <source>PNG Picture (*.png)</source>
+        <translation>PNG-Bild (*.png)</translation>
+    </message>
+    <message>
+        <source>SVG Drawing (*.svg)</source>
+        <translation>SVG-Zeichnung (*.svg)</translation>
+    </message>
+    <message>
+        <source>PDF Document (*.pdf)</source>
+        <translation>PDF-Dokument (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation>Bild speichern</translation>
+    </message>
+    <message>
+        <source>The picture could not be saved.
+%1</source>
+        <translation>Das Bild konnte nicht gespeichert werden.
+%1</translation>
+    </message>
+    <message>
+        <source>The picture could not be printed.</source>
+        <translation>Das Bild konnte nicht gedruckt werden.</translation>
     </message>
 </context>
 <context>
@@ -2898,6 +4356,17 @@ Kreuzen Sie im Profilfeld einen Parameter an oder wählen Sie einen anderen Zykl
     <message>
         <source>%1 of %2 records are left since the card was opened</source>
         <translation>seit dem Öffnen der Karte sind nur noch %1 von %2 Datensätzen da</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::RecordSender</name>
+    <message>
+        <source>%1: recordings are sent into a virtual bus only (virtualcan), never to an engine</source>
+        <translation>%1: Aufzeichnungen werden nur in einen virtuellen Bus (virtualcan) gesendet, nie zu einem Motor</translation>
+    </message>
+    <message>
+        <source>the bus is gone</source>
+        <translation>Der Bus ist fort</translation>
     </message>
 </context>
 <context>
@@ -3108,6 +4577,79 @@ Kreuzen Sie im Profilfeld einen Parameter an oder wählen Sie einen anderen Zykl
     </message>
 </context>
 <context>
+    <name>ZARN::TraceMenu</name>
+    <message>
+        <source>Color...</source>
+        <translation>Farbe...</translation>
+    </message>
+    <message>
+        <source>Line Width</source>
+        <translation>Linienbreite</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pixel(s)</source>
+        <translation>
+            <numerusform>%n Pixel</numerusform>
+            <numerusform>%n Pixel</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Line Style</source>
+        <translation>Linienart</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>Solid</source>
+        <translation>Durchgezogen</translation>
+    </message>
+    <message>
+        <source>Dashed</source>
+        <translation>Gestrichelt</translation>
+    </message>
+    <message>
+        <source>Dotted</source>
+        <translation>Gepunktet</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Standard</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::TrendScene</name>
+    <message>
+        <source>median, line: 5 to 95 %</source>
+        <translation>Median, Linie: 5 bis 95 %</translation>
+    </message>
+    <message>
+        <source>unusual</source>
+        <translation>ungewöhnlich</translation>
+    </message>
+    <message>
+        <source>drifting</source>
+        <translation>driftet</translation>
+    </message>
+    <message>
+        <source>grey: the 30 flights before</source>
+        <translation>grau: die 30 Flüge davor</translation>
+    </message>
+    <message>
+        <source>clock not set</source>
+        <translation>Uhr nicht gestellt</translation>
+    </message>
+    <message>
+        <source>median %1, 5 to 95 % %2 to %3</source>
+        <translation>Median %1, 5 bis 95 % %2 bis %3</translation>
+    </message>
+    <message>
+        <source>in the %1 flights before %2 to %3</source>
+        <translation>in den %1 Flügen davor %2 bis %3</translation>
+    </message>
+</context>
+<context>
     <name>ZARN::UnusualText</name>
     <message>
         <source>%1 %2 %3, in the %4 flights before %5 to %6</source>
@@ -3168,9 +4710,9 @@ Kreuzen Sie im Profilfeld einen Parameter an oder wählen Sie einen anderen Zykl
     <name>ZARN::WidgetErrorTime</name>
     <message>
         <source>Bits that were set over time. From top to bottom: Info, Warning, Fault.
-A click goes to the time.</source>
+A click goes to the time, a double click to the graph.</source>
         <translation>Über die Zeit gesetzte Bits. Von oben nach unten: Info, Warnung, Fehler.
-Ein Klick geht zu dem Zeitpunkt.</translation>
+Ein Klick geht zu dem Zeitpunkt, ein Doppelklick zum Graphen.</translation>
     </message>
 </context>
 <context>
@@ -3236,6 +4778,13 @@ Ein Klick geht zu dem Zeitpunkt.</translation>
     <message>
         <source>Time since the unit&apos;s power-up. 15:30 and 1530 are 15 minutes and 30 seconds, 1:15:30 is an hour later.</source>
         <translation>Zeit seit dem Einschalten des Geräts. 15:30 und 1530 sind 15 Minuten und 30 Sekunden, 1:15:30 ist eine Stunde später.</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::WidgetTrend</name>
+    <message>
+        <source>Trend</source>
+        <translation>Trend</translation>
     </message>
 </context>
 <context>
@@ -3353,6 +4902,13 @@ Ein Klick geht zu dem Zeitpunkt.</translation>
     <message>
         <source>It cannot be read: %1.</source>
         <translation>Sie ist nicht lesbar: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::XyPoints</name>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
     </message>
 </context>
 <context>
