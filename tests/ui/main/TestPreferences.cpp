@@ -227,7 +227,7 @@ void TestPreferences::linksOfTheManual()
                 pages.append(page);
         }
     }
-    QCOMPARE(pages.size(), 13); // manual and profiles in two languages, five other formats, zarn-cli, stores and fleets, the demo card
+    QCOMPARE(pages.size(), 16); // manual and profiles in two languages, eight other formats, zarn-cli, stores and fleets, the demo card
 }
 
 void TestPreferences::licences()
