@@ -18,7 +18,7 @@ constexpr double kMargin = 0.06; // of the range of values, above and below
 
 QColor pointColour()
 {
-    return readableOn(Palette::light().graph.ground, standardTraceColour(1), 3.0);
+    return readableOn(Palette::light().graph.ground, standardTraceColour(EGraphPalette::eStandard, 1), 3.0);
 }
 
 QString number(double value, const TrendPoint& point)
