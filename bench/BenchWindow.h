@@ -40,7 +40,7 @@ struct BenchWindow {
         views = DataViewList::create({console, property, profile, container, project}, folder.path());
         pArea = std::make_unique<DialogData>(record, views, false);
         pArea->resize(1500, 900);
-        pArea->show();
+        pArea->QWidget::show();
     }
     void loadProfile(const char* variant) { profile.loadProfile(QString(ZARN_SOURCE_DIR "/resources/profiles/915/Profile.xml"), variant); }
 

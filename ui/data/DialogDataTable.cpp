@@ -125,7 +125,15 @@ void DialogDataTable::sizeColumns()
         return;
     }
     mpView->horizontalHeader()->resizeSections(QHeaderView::ResizeToContents);
-    mpView->setColumnWidth(0, std::max(kTimeWidth, QFontMetrics(cellFont()).horizontalAdvance("00:00:00.000") + kTextMargin / 2));
+    sizeTimes();
+}
+
+void DialogDataTable::sizeTimes()
+{
+    const bool hasSign = mpModel->times().kind() == ETimeReference::eTakeOff;
+    const int text = QFontMetrics(cellFont()).horizontalAdvance(hasSign ? "-00:00:00.000" : "00:00:00.000") + kTextMargin / 2;
+    const int title = hasSign ? mpView->horizontalHeader()->sectionSizeHint(0) : 0;
+    mpView->setColumnWidth(0, std::max({kTimeWidth, text, title}));
 }
 
 /// A little smaller than the program's text: a page has many rows, and they are low.
@@ -176,7 +184,11 @@ void DialogDataTable::widenColumns()
 
 void DialogDataTable::updateSettings()
 {
-    mpModel->setTimes(TimeReference::of(mProperty, mContainer));
+    const TimeReference times = TimeReference::of(mProperty, mContainer);
+    if (times.kind() == mpModel->times().kind())
+        return mpModel->setTimes(times);
+    mpModel->setTimes(times);
+    sizeTimes();
 }
 
 void DialogDataTable::fill()

@@ -63,6 +63,7 @@ private:
     void fill();
     void centre();
     void updateTimer();
+    void sizeTimes();
     void sizeColumns();
     void widenColumns();
     [[nodiscard]] QFont cellFont() const;

@@ -23,6 +23,7 @@ public:
     void setRecord(const RecordData* pRecord);
     /// How the rows' times are told.
     void setTimes(const TimeReference& times);
+    [[nodiscard]] const TimeReference& times() const { return mTimes; }
 
     [[nodiscard]] const std::vector<ShownParameter>& parameters() const { return mParameters; }
     /// The row that shows a time: that of the greatest key at or before it, 0 when there is none.

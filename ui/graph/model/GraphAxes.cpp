@@ -3,6 +3,8 @@
 #include "ui/canvas/ColourContrast.h"
 #include "ui/graph/model/AxisTicks.h"
 
+#include <QCoreApplication>
+
 #include <array>
 #include <cmath>
 
@@ -84,7 +86,10 @@ double GraphAxes::drawTimeTitle(Canvas& canvas) const
     const TimeReference& times = mModel.settings().times;
     if (times.kind() == ETimeReference::ePowerUp)
         return 0.0;
-    const QString text = times.title();
+    // Little room: the tick at the take-off itself is worth more.
+    const bool isTakeOff = times.kind() == ETimeReference::eTakeOff;
+    const QString text =
+        isTakeOff ? QCoreApplication::translate("ZARN::GraphAxes", QT_TRANSLATE_NOOP("ZARN::GraphAxes", "Take-off")) : times.title();
     const QPointF corner(4, mLayout.plot().bottom() + 5);
     canvas.text(corner, text, mLabels.style(Qt::AlignLeft | Qt::AlignTop));
     return corner.x() + static_cast<double>(text.size()) * mLayout.character() + 4;

@@ -99,7 +99,7 @@ void GraphTables::drawLegendHeader(Canvas& canvas) const
     const Ghost* pGhost = mModel.scenery().ghost().get();
     if (pGhost && mLayout.legendKind() == GraphLayout::ELegend::eFull)
         texts << GraphLayout::shortened(pGhost->name, mLayout.numberLength())
-              << GraphLayout::shortened(translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "Difference")), mLayout.numberLength());
+              << GraphLayout::shortened(translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "Diff.")), mLayout.numberLength());
     else if (mLayout.legendKind() == GraphLayout::ELegend::eFull)
         texts << translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "Min")) << translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "Max"));
     // Strips have their lines at their own heights, so the header stands above the first.

@@ -34,7 +34,7 @@ void MapEvents::setNotes(const std::vector<CycleNote>& notes)
 {
     mNotes.clear();
     for (const CycleNote& note : notes)
-        mNotes.push_back({note.time, QColor(kNoteColour), note.text.toStdString(), {}});
+        mNotes.push_back({note.time, QColor(kNoteColour), note.text.toStdString(), {}, {}});
 }
 
 void MapEvents::place(const MapPath& path)
