@@ -2916,8 +2916,8 @@ Ersetzen ?</translation>
         <translation>Max</translation>
     </message>
     <message>
-        <source>Difference</source>
-        <translation>Differenz</translation>
+        <source>Diff.</source>
+        <translation>Diff.</translation>
     </message>
 </context>
 <context>

@@ -149,10 +149,10 @@ void TestFind::window()
     const auto* pList = pBar->findChild<QAbstractItemView*>();
     QTRY_COMPARE(pList->model()->rowCount(), 1);
     const GraphModel& graph = window.findChild<WidgetGraphES*>()->model();
-    QCOMPARE(graph.found().size(), 1U);
+    QCOMPARE(graph.scenery().found().size(), 1U);
     const auto* pData = window.findChild<DialogData*>();
     QTest::keyClick(pBar, Qt::Key_Return);
-    QCOMPARE(pData->viewTime(), std::nextafter(graph.found().front().start, HUGE_VAL));
+    QCOMPARE(pData->viewTime(), std::nextafter(graph.scenery().found().front().start, HUGE_VAL));
 
     // As a formula: what is wrong is said with its place, what was not recorded as such.
     pBar->findChild<QToolButton*>()->click();
@@ -165,15 +165,15 @@ void TestFind::window()
     };
     pExpression->setText("\"EGT 2 A\" > 920 && \"EGT\" > 1");
     QTRY_VERIFY(says("Character 20: "));
-    QCOMPARE(graph.found().size(), 0U);
+    QCOMPARE(graph.scenery().found().size(), 0U);
     pExpression->setText("\"EGT 2 A\" - \"EGT 1 A\" > 12 && \"Engine Speed A\" > 2000");
     QTRY_VERIFY(pList->model()->rowCount() > 10);
     Q_EMIT pBar->signalShow(3); // a row of the list
-    const TimeSpan third = graph.found()[3];
+    const TimeSpan third = graph.scenery().found()[3];
     QVERIFY(graph.window().begin() < third.start && graph.window().end() > third.end && graph.window().end() - graph.window().begin() < 60);
     QVERIFY(!desktop.profile.isSelected("EGT 1 A")); // the ticks are the user's
     QTest::keyClick(pBar, Qt::Key_Escape);
-    QVERIFY(pBar->isHidden() && graph.found().empty());
+    QVERIFY(pBar->isHidden() && graph.scenery().found().empty());
 
     // From an event to its parameter, around it.
     window.findChild<DataTabBar*>()->setCurrentIndex(eViewLimits);
