@@ -11,7 +11,7 @@ namespace ZARN {
 
 namespace {
 
-constexpr int kSelectorWidth = 165; // all of the bar has room in 1000 pixels
+constexpr int kSelectorWidth = 200;
 
 } // namespace
 
@@ -21,9 +21,8 @@ MainToolBar::MainToolBar(const std::function<QAction*(int id)>& action) : QToolB
     setMovable(false);
     addFolders(action(eActionOpenFolder));
     addSeparator();
-    for (const int id : {eActionOverview, eActionPreviousIncident, eActionNextIncident})
+    for (const int id : {eActionOverview, eActionPreviousIncident, eActionNextIncident, eActionFind})
         addAction(action(id));
-    addMore(action(eActionFind), {action(eActionXy)});
     addSeparator();
     addMore(action(eActionExportKml), {action(eActionExportGpx), action(eActionReport)});
     addAction(action(eActionExportCsv));
