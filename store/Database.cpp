@@ -2,6 +2,7 @@
 
 #include "store/StoreText.h"
 
+#include <cstdlib>
 #include <cstring>
 
 #include <sqlite3.h>
@@ -219,9 +220,15 @@ bool Database::fail(const QString& reason)
     return false;
 }
 
-void Database::failDamaged()
+void Database::failChecked(const std::string& finding)
 {
-    note(SQLITE_CORRUPT);
+    constexpr std::string_view kCode = "error code=";
+    const std::size_t place = finding.find(kCode);
+    const int code = place == std::string::npos ? SQLITE_CORRUPT : std::atoi(finding.c_str() + place + kCode.size());
+    if ((code & 0xFF) == SQLITE_IOERR)
+        fail(QString::fromUtf8(sqlite3_errstr(SQLITE_IOERR)));
+    else
+        note(SQLITE_CORRUPT);
 }
 
 bool Database::check(int code)

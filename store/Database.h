@@ -74,8 +74,8 @@ public:
     int64_t number(const std::string& sql);
     /// Makes a failure of its own.
     bool fail(const QString& reason);
-    /// Notes that the content makes no sense.
-    void failDamaged();
+    /// Notes what the check of the content found: damage, or a page that the medium did not give, of which nothing else is known.
+    void failChecked(const std::string& finding);
     /// Undoes the open transaction, whatever failed in it.
     void rollBack();
     /// Whether the open file is still the one of that name: what goes into one that was removed or replaced would be lost without a word.

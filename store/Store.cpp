@@ -19,11 +19,23 @@ Store::Store(const std::string& path, AnalysisKey key) : mKey(std::move(key)), m
 
 void Store::open()
 {
-    if (!StoreSchema::prepare(mDatabase))
-        return;
-    Statement check(mDatabase, "PRAGMA quick_check(1)");
+    if (StoreSchema::prepare(mDatabase))
+        checkContent(mDatabase);
+}
+
+/// The second look: what a medium did not give once is no damage.
+bool Store::isDamaged(const std::string& path)
+{
+    Database again(path, Database::eReadOnly);
+    checkContent(again);
+    return again.failure() == Database::eDamaged;
+}
+
+void Store::checkContent(Database& database)
+{
+    Statement check(database, "PRAGMA quick_check(1)");
     if (check.next() && check.text(0) != "ok")
-        mDatabase.failDamaged();
+        database.failChecked(check.text(0));
 }
 
 /// A damaged store is not written any more: it is kept under another name, so that the next scan makes a sound one.
@@ -33,7 +45,10 @@ void Store::finishFailure()
     if (mDatabase.failure() != Database::eDamaged)
         return;
     mDatabase.close();
-    mError += putAside(mDatabase.path());
+    if (isDamaged(mDatabase.path()))
+        mError += putAside(mDatabase.path());
+    else
+        mError = mDatabase.path() + ": " + tr("it could not be read; nothing is wrong with it").toStdString();
 }
 
 void Store::checkPlace()

@@ -4518,6 +4518,10 @@ Kreuzen Sie im Profilfeld einen Parameter an oder wählen Sie einen anderen Zykl
         <source>the store was removed or replaced while it was written</source>
         <translation>der Datenspeicher wurde entfernt oder ersetzt, während er geschrieben wurde</translation>
     </message>
+    <message>
+        <source>it could not be read; nothing is wrong with it</source>
+        <translation>Er konnte nicht gelesen werden; beschädigt ist er nicht</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::StoreSchema</name>

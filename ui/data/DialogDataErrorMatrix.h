@@ -38,7 +38,7 @@ public:
 Q_SIGNALS:
     /// The user clicked at a time, in seconds.
     void signalTime(double time);
-    /// He wants to see faults in the graph.
+    /// The user wants to see faults in the graph.
     void signalMoment(const GraphMoment& moment);
 
 private Q_SLOTS:

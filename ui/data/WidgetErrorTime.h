@@ -33,7 +33,7 @@ public:
 Q_SIGNALS:
     /// The user clicked at a time of the record, in seconds.
     void signalTime(double time);
-    /// He wants to see the faults of a time in the graph.
+    /// The user wants to see the faults of a time in the graph.
     void signalShow(double time);
 
 protected:

@@ -38,7 +38,7 @@ Q_SIGNALS:
     void signalStep(bool forward);
     /// The user chose a row of the list.
     void signalChosen(int row);
-    /// He wants to see it in the graph.
+    /// The user wants to see it in the graph.
     void signalShow(int row);
     void signalClosed();
 

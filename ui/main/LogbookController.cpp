@@ -26,6 +26,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QStackedWidget>
 
 #include <cmath>
 #include <set>
@@ -122,6 +123,7 @@ void LogbookController::slotCard()
 
 void LogbookController::slotAnswer(bool isWanted)
 {
+    mParts.panels.pages().currentWidget()->setFocus(); // it would go to the next text field, which takes keys that are meant for the window
     mpBar->hide();
     Settings::kLogbook.set(mSession.property, isWanted ? eLogbookYes : eLogbookNo);
     mSession.property.writeXmlFile();

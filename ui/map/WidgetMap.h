@@ -70,7 +70,7 @@ Q_SIGNALS:
     void signalUpdateMode();
     /// The user picked a place of the path; its time in seconds.
     void signalTime(double time);
-    /// He wants to see an event in the graph.
+    /// The user wants to see an event in the graph.
     void signalMoment(const GraphMoment& moment);
 
 protected:
