@@ -82,7 +82,7 @@ function(zarn_test name source)
     set_tests_properties(${name} PROPERTIES LABELS "${ARG_LABELS};gui" RESOURCE_LOCK display
                                             ENVIRONMENT "DBUS_SESSION_BUS_ADDRESS=disabled:")
     if(ZARN_SANITIZE)
-      target_sources(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests/sanitize/KeepLibraries.cpp")
+      target_sources(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests/sanitize/LeakCheck.cpp")
     endif()
   else()
     set_tests_properties(${name} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
