@@ -2,6 +2,7 @@
 
 #include "card/CardContainer.h"
 #include "card/PowerUp.h"
+#include "card/record/CanFrame.h"
 
 #include <algorithm>
 #include <cinttypes>
@@ -11,8 +12,6 @@ namespace ZARN {
 
 namespace {
 
-constexpr uint32_t kHighestStandard = 0x7FF;
-constexpr uint32_t kHighestIdentifier = 0x1FFFFFFF;
 constexpr uint64_t kTicksPerMicrosecond = 32;
 constexpr uint64_t kMicroseconds = 1'000'000; // of a second
 

@@ -1,5 +1,7 @@
 #include "live/FrameReader.h"
 
+#include "card/record/CanFrame.h"
+
 #include <QCanBusFrame>
 
 #include <algorithm>
@@ -8,7 +10,6 @@ namespace ZARN {
 
 namespace {
 
-constexpr uint16_t kKind = 2;           // of a record that belongs to no pseudo-channel
 constexpr uint64_t kStandardFrame = 47; // bits beside the data, with the pause between frames
 constexpr uint64_t kExtendedFrame = 67;
 
@@ -43,7 +44,7 @@ void FrameReader::read(const QCanBusFrame& frame, int64_t hostMicroseconds, Live
         return;
     const QCanBusFrame::TimeStamp stamp = frame.timeStamp();
     LiveRecord record{frame.frameId(), {}};
-    record.record.kind = kKind;
+    record.record.kind = kFrameKind;
     // Seconds that no clock has would not fit as microseconds.
     const qint64 seconds = std::clamp<qint64>(stamp.seconds(), 0, INT64_MAX / 4'000'000);
     record.record.ticks = mClock.ticks(seconds * 1'000'000 + stamp.microSeconds() % 1'000'000, hostMicroseconds);

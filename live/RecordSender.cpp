@@ -1,5 +1,6 @@
 #include "live/RecordSender.h"
 
+#include "card/record/CanFrame.h"
 #include "card/record/RecordData.h"
 
 #include <QCanBus>
@@ -11,7 +12,6 @@ namespace ZARN {
 
 namespace {
 
-constexpr uint32_t kHighestStandard = 0x7FF;
 constexpr int kPeriod = 2;             // milliseconds
 constexpr std::size_t kMostFrames = 400; // a period: what is sent faster would only pile up in memory
 

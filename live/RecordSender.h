@@ -21,9 +21,6 @@ class RecordSender : public QObject {
     Q_OBJECT
 
 public:
-    /// The highest identifier that a frame can have.
-    static constexpr uint32_t kHighestIdentifier = 0x1FFFFFFF;
-
     /// Takes the frames of the data, in the order of their reception; records that no frame can carry are left out.
     RecordSender(const RecordData& data, double speed, QObject* pParent = nullptr);
     ~RecordSender() override;

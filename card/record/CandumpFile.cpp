@@ -1,5 +1,6 @@
 #include "card/record/CandumpFile.h"
 
+#include "card/record/CanFrame.h"
 #include "card/record/CandumpLine.h"
 #include "card/record/RecordData.h"
 
@@ -19,7 +20,6 @@ constexpr std::size_t kPiece = 256 * 1024;     // bytes a read
 constexpr std::size_t kLongestLine = 8 * 1024; // a longer one is none
 constexpr std::string_view kNoLine = "?";
 constexpr uint64_t kLeastClock = 365 * 86'400 * uint64_t(1'000'000'000); // smaller stamps count from power-up
-constexpr uint16_t kKind = 2;                                            // of a record that belongs to no pseudo-channel
 
 } // namespace
 
@@ -160,7 +160,7 @@ bool CandumpFile::loadFile(FILE* pFile, RecordData& data)
     bool hasMemory = true;
     const bool isWhole = forEachFrame(pFile, tally, [&](const CandumpLine& line) {
         if (line.nanoseconds >= clockStart)
-            hasMemory = data.append(line.identifier, StoredRecord{line.payload, 0, 0, kKind, 0, 0, ticks(line.nanoseconds)});
+            hasMemory = data.append(line.identifier, StoredRecord{line.payload, 0, 0, kFrameKind, 0, 0, ticks(line.nanoseconds)});
         return hasMemory;
     });
     const uint32_t added = data.count() - before;

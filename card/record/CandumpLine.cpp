@@ -1,5 +1,7 @@
 #include "card/record/CandumpLine.h"
 
+#include "card/record/CanFrame.h"
+
 #include <algorithm>
 #include <charconv>
 
@@ -12,8 +14,6 @@ constexpr std::size_t kSecondDigits = 10; // until the year 2286
 constexpr std::size_t kFractionDigits = 9;
 constexpr std::size_t kStandardDigits = 3; // an identifier of more digits is one of 29 bits
 constexpr std::size_t kIdentifierDigits = 8;
-constexpr uint32_t kHighestStandard = 0x7FF;
-constexpr uint32_t kHighestIdentifier = 0x1FFFFFFF;
 constexpr uint32_t kErrorFlag = 0x20000000;
 constexpr std::size_t kFdBytes = 64;
 
