@@ -1,6 +1,7 @@
 #include "cli/CommandIds.h"
 
 #include "cli/JsonWriter.h"
+#include "cli/Output.h"
 #include "cli/TextTable.h"
 
 #include <algorithm>
@@ -24,6 +25,15 @@ std::string joined(const std::vector<std::string>& texts)
     for (const std::string& text : texts)
         line += (line.empty() ? "" : ", ") + text;
     return line;
+}
+
+/// Calls `visit` with each code of a set.
+template <typename Visitor> void forEachType(const std::bitset<256>& types, Visitor visit)
+{
+    for (uint32_t type = 0; type < types.size(); ++type) {
+        if (types.test(type))
+            visit(type);
+    }
 }
 
 std::string hexadecimal(uint32_t identifier)
@@ -52,7 +62,11 @@ int CommandIds::runOnCard()
             return eFailed;
         add(identifiers, mContainer.recordData());
     }
-    return print(mJson ? json(identifiers) : table(identifiers));
+    mContainer.forgetRecord();
+    findKnown();
+    Output output;
+    mJson ? writeJson(output, identifiers) : writeTable(output, identifiers);
+    return output.finish();
 }
 
 void CommandIds::add(Identifiers& identifiers, const RecordData& data)
@@ -65,7 +79,7 @@ void CommandIds::add(Identifiers& identifiers, const RecordData& data)
             for (const StoredRecord& record : channel.entries.chunk(c)) {
                 earliest = std::min(earliest, record.ticks);
                 latest = std::max(latest, record.ticks);
-                identifier.types.insert(record.payload[kTypeByte]);
+                identifier.types.set(record.payload[kTypeByte]);
             }
         }
         const double first = StoredRecord{{}, 0, 0, 0, 0, 0, earliest}.time();
@@ -78,48 +92,54 @@ void CommandIds::add(Identifiers& identifiers, const RecordData& data)
     }
 }
 
-std::vector<std::string> CommandIds::known(uint32_t identifier) const
+void CommandIds::findKnown()
 {
-    std::vector<std::string> names;
     for (const ProfileDevice& device : mProfile.data()) {
-        for (const ProfileParameter& parameter : device.parameters) {
-            if (parameter.identifier() == identifier)
-                names.push_back(parameter.name);
-        }
+        for (const ProfileParameter& parameter : device.parameters)
+            mKnown[parameter.identifier()].push_back(parameter.name);
     }
-    return names;
 }
 
-std::string CommandIds::json(const Identifiers& identifiers) const
+void CommandIds::writeJson(Output& output, const Identifiers& identifiers) const
 {
-    JsonWriter writer;
+    JsonWriter writer(output);
     writer.beginAnswer().key("ids").beginArray();
     for (const auto& [number, identifier] : identifiers) {
         writer.beginObject().member("id", number).member("count", static_cast<int64_t>(identifier.count)).key("types").beginArray();
-        for (const uint8_t type : identifier.types)
-            writer.value(static_cast<uint32_t>(type));
+        forEachType(identifier.types, [&writer](uint32_t type) { writer.value(type); });
         writer.endArray().member("first", identifier.first).member("last", identifier.last);
         writer.member("rate", rate(identifier.intervals, identifier.seconds)).key("known").beginArray();
-        for (const std::string& name : known(number))
-            writer.value(name);
+        if (const auto names = mKnown.find(number); names != mKnown.end())
+            std::ranges::for_each(names->second, [&writer](const std::string& name) { writer.value(name); });
         writer.endArray().endObject();
     }
-    return writer.endArray().endAnswer();
+    output.write(writer.endArray().endAnswer());
 }
 
-std::string CommandIds::table(const Identifiers& identifiers) const
+void CommandIds::writeTable(Output& output, const Identifiers& identifiers) const
 {
-    if (identifiers.empty())
-        return "No record\n";
-    TextTable table({"Identifier", "Hex", "Records", "Types", "First [h:m:s]", "Last [h:m:s]", "Rate [1/s]", "Known as"});
-    for (const auto& [number, identifier] : identifiers) {
-        std::vector<std::string> types;
-        for (const uint8_t type : identifier.types)
-            types.push_back(std::to_string(type));
-        table.addRow({std::to_string(number), hexadecimal(number), std::to_string(identifier.count), joined(types), tableTime(identifier.first),
-                      tableTime(identifier.last), tableNumber(rate(identifier.intervals, identifier.seconds), 2), joined(known(number))});
+    if (identifiers.empty()) {
+        output.write("No record\n");
+        return;
     }
-    return table.text();
+    // Twice over them, so that no text is held.
+    const std::vector<std::string> header{"Identifier", "Hex", "Records", "Types", "First [h:m:s]", "Last [h:m:s]", "Rate [1/s]", "Known as"};
+    TableColumns columns;
+    columns.measure(header);
+    for (const auto& [number, identifier] : identifiers)
+        columns.measure(cells(number, identifier));
+    output.write(columns.line(header));
+    for (const auto& [number, identifier] : identifiers)
+        output.write(columns.line(cells(number, identifier)));
+}
+
+std::vector<std::string> CommandIds::cells(uint32_t number, const Identifier& identifier) const
+{
+    std::vector<std::string> types;
+    forEachType(identifier.types, [&types](uint32_t type) { types.push_back(std::to_string(type)); });
+    const auto names = mKnown.find(number);
+    return {std::to_string(number), hexadecimal(number), std::to_string(identifier.count), joined(types), tableTime(identifier.first),
+            tableTime(identifier.last), tableNumber(rate(identifier.intervals, identifier.seconds), 2), names == mKnown.end() ? "" : joined(names->second)};
 }
 
 } // namespace ZARN

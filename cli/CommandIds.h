@@ -2,9 +2,11 @@
 
 #include "cli/CardCommand.h"
 
-#include <set>
+#include <bitset>
 
 namespace ZARN {
+
+class Output;
 
 /// `ids`: every identifier on a card, or in one of its cycles: how often, since when and of which type it was recorded, and what the
 /// profile knows of it.
@@ -19,16 +21,18 @@ private:
         double seconds = 0.0;   ///< all of them together
         double first = 0.0;     ///< seconds since power-up
         double last = 0.0;
-        std::set<uint8_t> types;
+        std::bitset<256> types; // codes of CANaerospace; a card may hold as many identifiers as records
     };
     using Identifiers = std::map<uint32_t, Identifier>;
 
     int runOnCard() override;
     static void add(Identifiers& identifiers, const RecordData& data);
-    [[nodiscard]] std::string json(const Identifiers& identifiers) const;
-    [[nodiscard]] std::string table(const Identifiers& identifiers) const;
-    /// The names of the profile's parameters that read an identifier, in its order.
-    [[nodiscard]] std::vector<std::string> known(uint32_t identifier) const;
+    void writeJson(Output& output, const Identifiers& identifiers) const;
+    void writeTable(Output& output, const Identifiers& identifiers) const;
+    [[nodiscard]] std::vector<std::string> cells(uint32_t number, const Identifier& identifier) const;
+    void findKnown();
+
+    std::map<uint32_t, std::vector<std::string>> mKnown; ///< by identifier, the profile's parameters that read it, in its order
 };
 
 } // namespace ZARN

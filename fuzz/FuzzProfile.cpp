@@ -1,5 +1,5 @@
-#include "app/Console.h"
 #include "app/NumberText.h"
+#include "fuzz/Input.h"
 #include "fuzz/Require.h"
 #include "profile/Profile.h"
 
@@ -8,7 +8,6 @@
 
 #include <bit>
 #include <cmath>
-#include <cstring>
 #include <string>
 #include <vector>
 
@@ -18,35 +17,6 @@
 namespace {
 
 using namespace ZARN;
-
-/// Hands out the input piece by piece; zeros when it is used up.
-class Input {
-public:
-    Input(const uint8_t* pData, std::size_t size) : mpNext(pData), mLeft(size) {}
-
-    [[nodiscard]] bool empty() const { return mLeft == 0; }
-    uint8_t byte()
-    {
-        if (mLeft == 0)
-            return 0;
-        --mLeft;
-        return *mpNext++;
-    }
-    template <typename T> T number()
-    {
-        T value{};
-        const std::size_t size = std::min(sizeof value, mLeft);
-        if (size > 0)
-            std::memcpy(&value, mpNext, size);
-        mpNext += size;
-        mLeft -= size;
-        return value;
-    }
-
-private:
-    const uint8_t* mpNext;
-    std::size_t mLeft;
-};
 
 constexpr const char* kElements[] = {"Variants",  "Variant", "UnitConversions", "Unit",        "EnumList",  "Enum",   "ThresholdList",
                                      "Threshold", "Value",   "Device",          "ErrorMatrix", "Parameter", "Unknown"};
@@ -226,13 +196,12 @@ void writeNumbers(const std::vector<StoredRecord>& records)
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* pData, std::size_t size)
 {
-    static const Console silence([](std::string_view) {}, [](std::string_view) {});
     Input input(pData, size);
     const EUnit unit = input.byte() % 2 ? EUnit::eImperial : EUnit::eMetric;
     constexpr const char* kVariants[] = {"", "A", "B"};
     const std::string variant = oneOf(kVariants, input.byte());
     const QDomDocument document = buildDocument(input);
-    Profile profile(silence, unit);
+    Profile profile(silence(), unit);
     REQUIRE(profile.loadDocument(document.documentElement(), variant));
 
     const std::vector<StoredRecord> records = readRecords(input);

@@ -1,4 +1,4 @@
-#include "app/Console.h"
+#include "fuzz/Input.h"
 #include "fuzz/MemoryFile.h"
 #include "profile/Profile.h"
 #include "project/Project.h"
@@ -14,15 +14,9 @@ namespace {
 
 using namespace ZARN;
 
-const Console& silent()
-{
-    static const Console console([](std::string_view) {}, [](std::string_view) {});
-    return console;
-}
-
 Profile& smallProfile()
 {
-    static Profile profile(silent());
+    static Profile profile(silence());
     static const bool loaded = [] {
         const std::string text = R"(<CanAerospaceProfile><Device name="D"><Parameter name="A"/><Parameter name="B"/>)"
                                  R"(<Parameter name="Oil &lt;T&gt;"/></Device></CanAerospaceProfile>)";
@@ -52,7 +46,7 @@ void writeAndRead(Project& project)
     project.saveProject(file);
     for (const std::string& name : shown)
         smallProfile().setSelected(name, false);
-    Project again(silent(), smallProfile());
+    Project again(silence(), smallProfile());
     REQUIRE(again.readProject(file));
     REQUIRE(selected() == shown);
     REQUIRE(again.canProperties() == project.canProperties());
@@ -62,7 +56,7 @@ void writeAndRead(Project& project)
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* pData, std::size_t size)
 {
-    Project project(silent(), smallProfile());
+    Project project(silence(), smallProfile());
     const std::map<std::string, std::string> before{{"kept", "1"}};
     project.setCanProperties(before);
     const std::set<std::string> shown = selected();

@@ -1,7 +1,7 @@
-#include "app/Console.h"
 #include "app/Progress.h"
 #include "card/record/RecordData.h"
 #include "card/record/RecordFile.h"
+#include "fuzz/Input.h"
 #include "fuzz/MemoryFile.h"
 
 #include <algorithm>
@@ -38,12 +38,6 @@ struct Reading {
     RecordData data{kMemoryLimit};
     RecordInfo span; ///< the info after the full pass
 };
-
-const Console& silence()
-{
-    static const Console console([](std::string_view) {}, [](std::string_view) {});
-    return console;
-}
 
 /// Checks that progress runs upward within 0..99.
 class RisingProgress : public Progress {

@@ -12,14 +12,16 @@ namespace {
 
 constexpr std::size_t kHugePage = std::size_t(2) << 20;
 
-std::size_t defaultLimit()
-{
-    return availableMemory() / 4 * 3;
-}
-
 } // namespace
 
-RecordPool::RecordPool(std::size_t limitBytes) : mGivenLimit(limitBytes), mLimit(limitBytes ? limitBytes : defaultLimit()) {}
+std::size_t RecordPool::limit() const
+{
+    if (mGivenLimit != 0)
+        return mGivenLimit;
+    if (mAskedLimit == 0)
+        mAskedLimit = availableMemory() / 4 * 3;
+    return mAskedLimit;
+}
 
 void RecordPool::Free::operator()(std::byte* pSlab) const
 {
@@ -39,7 +41,7 @@ StoredRecord* RecordPool::allocate(std::size_t count)
 
 bool RecordPool::charge(std::size_t bytes)
 {
-    if (bytes > mLimit || mBytes > mLimit - bytes)
+    if (bytes > limit() || mBytes > limit() - bytes)
         return false;
     mBytes += bytes;
     return true;
@@ -49,7 +51,7 @@ bool RecordPool::addSlab(std::size_t bytes)
 {
     // Small recordings stay small: the first slabs are one huge page each, later ones grow with what is held already.
     const std::size_t size = std::max(kHugePage, std::min(mBytes / 8, 16 * kHugePage) / kHugePage * kHugePage);
-    if (bytes > size || mBytes + size > mLimit)
+    if (bytes > size || mBytes + size > limit())
         return false;
     auto* pSlab = static_cast<std::byte*>(std::aligned_alloc(kHugePage, size));
     if (!pSlab)
@@ -70,7 +72,7 @@ void RecordPool::clear()
     mpNext = nullptr;
     mLeft = 0;
     mBytes = 0;
-    mLimit = mGivenLimit ? mGivenLimit : defaultLimit();
+    mAskedLimit = 0;
 }
 
 } // namespace ZARN

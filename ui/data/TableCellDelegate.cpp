@@ -29,8 +29,13 @@ void paintMark(QPainter& painter, const QRect& rect, int state, const QColor& te
 
 QColor textColour(const QStyleOptionViewItem& option, const TableCell& cell, bool ownGround, bool selected)
 {
-    if (ownGround)
-        return textColourOn(cell.background);
+    if (ownGround) {
+        // A page has few grounds, most of them side by side, and the contrast is dear to work out.
+        static QColor ground, text;
+        if (ground != cell.background)
+            text = textColourOn(ground = cell.background);
+        return text;
+    }
     return option.palette.color(selected ? QPalette::HighlightedText : QPalette::Text);
 }
 
