@@ -21,26 +21,12 @@ fs::path nativePath(const QString& path)
     return QFile::encodeName(path).toStdString();
 }
 
-/// Whether something is there that writing would destroy. A file that cannot even be asked for counts; a device or a pipe does not.
-bool isThere(const fs::path& path)
-{
-    std::error_code error;
-    switch (fs::status(path, error).type()) {
-    case fs::file_type::not_found:
-    case fs::file_type::block:
-    case fs::file_type::character:
-    case fs::file_type::fifo:
-    case fs::file_type::socket: return false;
-    default: return true;
-    }
-}
-
 } // namespace
 
 bool UserFile::read(QDomDocument& document, const QString& path)
 {
     const bool isRead = XmlHandler(mConsole).xmlReadFile(document, path);
-    if (!isRead && isThere(nativePath(path)))
+    if (!isRead && isThere(path))
         mUnread.insert(path);
     else
         mUnread.erase(path);
@@ -59,12 +45,25 @@ bool UserFile::write(const QDomDocument& document, const QString& path)
     return mWritten;
 }
 
+bool UserFile::isThere(const QString& path)
+{
+    std::error_code error;
+    switch (fs::status(nativePath(path), error).type()) {
+    case fs::file_type::not_found:
+    case fs::file_type::block:
+    case fs::file_type::character:
+    case fs::file_type::fifo:
+    case fs::file_type::socket: return false;
+    default: return true;
+    }
+}
+
 bool UserFile::makeRoom(const QString& path)
 {
     if (!isUnread(path))
         return true;
     const QString name = putAside(path, "damaged");
-    if (name.isEmpty() && isThere(nativePath(path)))
+    if (name.isEmpty() && isThere(path))
         return false;
     mUnread.erase(path);
     if (name.isEmpty())

@@ -34,6 +34,9 @@ public:
     /// Whether the last write succeeded; true before the first.
     [[nodiscard]] bool isWritten() const { return mWritten; }
 
+    /// Whether something is at a path that writing would destroy. What cannot even be asked for counts; a device or a pipe does not.
+    [[nodiscard]] static bool isThere(const QString& path);
+
     /// Renames what is at a path to "PATH.LABEL-1", or the next number that is free.
     /// @return the new name; empty when nothing is there or it cannot be renamed.
     static QString putAside(const QString& path, const QString& label);

@@ -93,7 +93,9 @@ void requireValueAt(const RecordData& data, const CycleValues& values, const Pro
     const StoredRecord& expected = pChannel->entries.stored(scan == 0 ? 0 : scan - 1);
     REQUIRE(entry->stored().payload == expected.payload && entry->stored().ticks == expected.ticks);
     CoordinateFilter filter;
-    REQUIRE(same(values.getValue(parameter, time), values.context().decoder(parameter).value(expected.payload, true, filter)));
+    const ValueDecoder decoder = values.context().decoder(parameter);
+    const double value = decoder.isNumeric() ? decoder.toDisplayUnit(decoder.value(expected.payload, true, filter)) : 0.0;
+    REQUIRE(same(values.getValue(parameter, time), value));
 }
 
 } // namespace

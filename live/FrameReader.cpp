@@ -19,13 +19,13 @@ constexpr uint64_t kExtendedFrame = 67;
 bool FrameReader::count(const QCanBusFrame& frame)
 {
     const auto length = static_cast<uint64_t>(frame.payload().size());
-    if (frame.frameType() == QCanBusFrame::ErrorFrame || !frame.isValid()) {
+    const bool isRemote = frame.frameType() == QCanBusFrame::RemoteRequestFrame;
+    if ((frame.frameType() != QCanBusFrame::DataFrame && !isRemote) || !frame.isValid()) {
         // The controller's own trouble is that its buffer ran over.
         const bool isLoss = frame.isValid() && frame.error().testFlag(QCanBusFrame::ControllerError);
         ++(isLoss ? mCounts.losses : mCounts.errors);
         return false;
     }
-    const bool isRemote = frame.frameType() == QCanBusFrame::RemoteRequestFrame;
     mCounts.bits += (frame.hasExtendedFrameFormat() ? kExtendedFrame : kStandardFrame) + (isRemote ? 0 : 8 * length);
     if (isRemote) {
         ++mCounts.remote;

@@ -16,7 +16,7 @@ LayoutStore::LayoutStore(const Console& console, const QString& ownFile, const Q
     : mConsole(console), mFile(console), mPath(ownFile), mLanguage(language)
 {
     QDomDocument document;
-    if (!QFileInfo::exists(mPath) || !mFile.read(document, mPath))
+    if (!UserFile::isThere(mPath) || !mFile.read(document, mPath))
         return;
     const auto layouts = readLayouts(document, {});
     mIsForeign = !layouts;

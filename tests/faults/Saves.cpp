@@ -19,7 +19,7 @@ using namespace ZARN;
 const Console& console()
 {
     const auto say = [](std::string_view text) { std::fprintf(stderr, "fault_saves: %.*s", static_cast<int>(text.size()), text.data()); };
-    static const Console errors([](std::string_view) {}, say);
+    static const Console errors(say, say);
     return errors;
 }
 
@@ -46,7 +46,7 @@ bool saveLayouts(const QString& path)
     LayoutStore store(console(), path, {});
     DisplayLayout layout;
     layout.name = "new";
-    layout.parameters.push_back({.name = "A"});
+    layout.parameters.emplace_back().name = "A";
     return store.save(layout);
 }
 
