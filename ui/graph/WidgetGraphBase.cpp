@@ -1,6 +1,8 @@
 #include "ui/graph/WidgetGraphBase.h"
 
+#include "app/gui/TextTwin.h"
 #include "ui/graph/model/AxisTicks.h"
+#include "ui/graph/model/GraphDescription.h"
 #include "ui/graph/model/GraphScene.h"
 
 #include <QContextMenuEvent>
@@ -37,6 +39,7 @@ WidgetGraphBase::WidgetGraphBase(QWidget* pParent) : QWidget(pParent), mInteract
     setMouseTracking(true);
     setMinimumSize(160, 120);
     setAccessibleName(tr("Graph of the selected parameters"));
+    ZARN::TextTwin::give(*this, [this] { return ZARN::GraphDescription(mModel).text(); });
     connectModel();
     mRecalculationTimer.setSingleShot(true);
     mCursorTimer.setSingleShot(true);

@@ -4,10 +4,12 @@
 #include "app/Property.h"
 #include "app/Revision.h"
 #include "app/Settings.h"
+#include "app/gui/TextTwin.h"
 #include "card/CardContainer.h"
 #include "openstreet/core/BaseMap.h"
 #include "profile/Profile.h"
 #include "ui/map/MapAttribution.h"
+#include "ui/map/model/MapDescription.h"
 #include "ui/map/model/TileConsent.h"
 #include "ui/map/model/ToolTipText.h"
 #include "vesk/base/Timer.h"
@@ -66,6 +68,7 @@ WidgetMap::WidgetMap(const Session& session, const QString& dataPath, MapContext
     mpSurface = Surface::create(Surface::EKind::eOpenGl, painting, this);
     mpAttribution = new MapAttribution(this);
     setAccessibleName(tr("Map of the flight"));
+    TextTwin::give(*this, [this] { return MapDescription(mScene).text(); });
     connect(&mInteraction, &MapInteraction::signalMoved, this, [this] {
         setDirty();
         QToolTip::hideText(); // what it told of is moving away

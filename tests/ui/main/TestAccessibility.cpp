@@ -4,7 +4,9 @@
 #include "sim/DemoCard.h"
 #include "ui/data/DataTabBar.h"
 #include "ui/graph/DialogGraphSetup.h"
+#include "ui/graph/WidgetGraphES.h"
 #include "ui/main/DesktopFixture.h"
+#include "ui/map/WidgetMap.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -16,6 +18,7 @@
 #include <QLineEdit>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QRegularExpression>
 #include <QTabBar>
 #include <QWizard>
 #include <QtTest>
@@ -55,7 +58,7 @@ QList<QWidget*> controls(const QWidget& window)
     return list;
 }
 
-QString described(const QWidget* pWidget)
+QString placeOf(const QWidget* pWidget)
 {
     return QString("%1 %2 in %3 (%4)")
         .arg(pWidget->metaObject()->className(), pWidget->objectName(), pWidget->parentWidget()->metaObject()->className(),
@@ -69,7 +72,7 @@ QStringList unnamed(const QWidget& window)
         if (qobject_cast<QTabBar*>(pWidget) || qobject_cast<QScrollArea*>(pWidget))
             continue; // named by what they hold
         if (QAccessible::queryAccessibleInterface(pWidget)->text(QAccessible::Name).isEmpty())
-            list << "no name: " + described(pWidget);
+            list << "no name: " + placeOf(pWidget);
     }
     return list;
 }
@@ -99,7 +102,7 @@ QStringList unreached(QWidget& window)
     QStringList list;
     for (const QWidget* pWidget : controls(window)) {
         if (pWidget->isVisible() && pWidget->isEnabled() && !isReached(pWidget, seen))
-            list << "no key leads to: " + described(pWidget);
+            list << "no key leads to: " + placeOf(pWidget);
     }
     return list;
 }
@@ -135,6 +138,11 @@ void TestAccessibility::everyWindow()
     window.slotLoadCycle(2, -1);
     settled(window);
     faults << unnamed(window);
+    const auto described = [](QWidget* pWidget) { return QAccessible::queryAccessibleInterface(pWidget)->text(QAccessible::Description); };
+    const QString graph = described(window.findChild<WidgetGraphES*>());
+    QVERIFY2(graph.contains(QRegularExpression("From 00:..:.. to .*Cursor at .*Incidents: ")), qPrintable(graph));
+    const QString map = described(window.findChild<WidgetMap*>());
+    QVERIFY2(map.contains(QRegularExpression("Flight path from 00:.*Aircraft at 48\\.\\d{4}° N, 11\\.")), qPrintable(map));
     auto* pTabs = window.findChild<DataTabBar*>();
     for (int tab = 0; tab < pTabs->count(); ++tab) {
         pTabs->setCurrentIndex(tab);
@@ -144,8 +152,8 @@ void TestAccessibility::everyWindow()
     DialogExportCsv csv(session, &window);
     DialogExportKml kml(session, &window);
     faults << wizard(csv, home.path()) << wizard(kml, home.path());
-    GraphData graph;
-    DialogGraphSetup setup(&window, graph);
+    GraphData settings;
+    DialogGraphSetup setup(&window, settings);
     for (QDialog* pDialog : window.findChildren<QDialog*>()) {
         if (qobject_cast<QWizard*>(pDialog))
             continue;

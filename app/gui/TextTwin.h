@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QObject>
+
+#include <functional>
+
+class QWidget;
+
+namespace ZARN {
+
+/// What a drawing shows, in words, for assistive technology: it is put together when it is asked for, since most users never do. The toolkit
+/// then finds it as the description of the widget, which owns it.
+class TextTwin : public QObject {
+public:
+    using Text = std::function<QString()>;
+
+    /// Gives a widget such a text. Its name stays what it is.
+    static void give(QWidget& widget, Text text);
+    [[nodiscard]] QString text() const { return mText(); }
+
+private:
+    TextTwin(QWidget& widget, Text text);
+
+    Text mText;
+};
+
+} // namespace ZARN
