@@ -7,6 +7,39 @@
 
 namespace ZARN {
 
+namespace {
+
+/// The first of so many positions, of ascending times, whose time is at or after one. Looks first where it would be if they were evenly
+/// spread, as those of a recording nearly are, and from there in steps that double: a bisection of all of them would wait for memory at
+/// each step. Logarithmic whatever the times.
+template <typename TimeAt> std::size_t lowerBound(std::size_t size, double time, TimeAt timeAt)
+{
+    if (size == 0 || timeAt(0) >= time)
+        return 0;
+    std::size_t low = 0, high = size - 1; // of which the first is before the time, the last is not
+    const double first = timeAt(low), last = timeAt(high);
+    if (last < time)
+        return size;
+    const auto guess = std::min(static_cast<std::size_t>((time - first) / (last - first) * static_cast<double>(high)), high);
+    if (timeAt(guess) < time) {
+        low = guess;
+        std::size_t step = 1;
+        for (; step < high - low && timeAt(low + step) < time; step *= 2)
+            low += step;
+        high = std::min(high, low + step);
+    } else {
+        high = guess;
+        std::size_t step = 1;
+        for (; step < high - low && timeAt(high - step) >= time; step *= 2)
+            high -= step;
+        low = std::max(low, high - std::min(step, high));
+    }
+    const auto between = std::views::iota(low + 1, high);
+    return low + 1 + static_cast<std::size_t>(std::ranges::lower_bound(between, time, {}, timeAt) - between.begin());
+}
+
+} // namespace
+
 RecordEntry RecordChannel::last() const
 {
     if (entries.empty())
@@ -37,11 +70,8 @@ std::size_t RecordChannel::firstAtOrAfter(double time) const
 {
     if (std::isnan(time))
         return entries.size();
-    if (entries.ascending()) {
-        const auto positions = std::views::iota(uint32_t{0}, static_cast<uint32_t>(entries.size()));
-        const auto found = std::ranges::lower_bound(positions, time, {}, [this](uint32_t position) { return entries.time(position); });
-        return static_cast<std::size_t>(found - positions.begin());
-    }
+    if (entries.ascending())
+        return lowerBound(entries.size(), time, [this](std::size_t position) { return entries.time(position); });
     if (!isIndexed()) {
         std::size_t position = 0;
         while (position < entries.size() && entries.time(position) < time)
@@ -49,8 +79,9 @@ std::size_t RecordChannel::firstAtOrAfter(double time) const
         return position;
     }
     const std::vector<uint64_t>& latest = mpIndex->latest.maxima();
-    const auto timeOf = [](uint64_t ticks) { return recordTime(static_cast<uint32_t>(ticks >> 32), static_cast<uint32_t>(ticks)); };
-    return static_cast<std::size_t>(std::ranges::lower_bound(latest, time, {}, timeOf) - latest.begin());
+    return lowerBound(latest.size(), time, [&latest](std::size_t position) {
+        return recordTime(static_cast<uint32_t>(latest[position] >> 32), static_cast<uint32_t>(latest[position]));
+    });
 }
 
 std::vector<PositionRange> RecordChannel::rangesIn(double from, double to) const
