@@ -52,8 +52,10 @@ std::string CommandSummary::openStore()
 
 int CommandSummary::runOnCard()
 {
-    mReviewed.clear();
     mProblems.clear();
+    mText.clear();
+    mCycles = {};
+    mCycles.beginArray();
     const std::string problem = reviewCycles();
     if (!problem.empty())
         return fail(problem);
@@ -82,19 +84,19 @@ std::string CommandSummary::reviewCycles()
         if (!problem.empty())
             return problem;
         keepProblems();
-        mReviewed.push_back(
-            {number,
-             &cycle,
-             mContainer.startTime(),
-             mContainer.endTime(),
-             mContainer.recordData().count() == 0,
-             reviewCycle(mContainer.values(), cycle.flights, mContainer.endTime(), mpStore ? EKeyValues::eAll : EKeyValues::eNone),
-             {}});
-        if (!mpStore)
-            continue;
-        mReviewed.back().unusual = findUnusual(*mpStore, cycleHead(mContainer, number, cycle), cycle.flights, mReviewed.back().review);
-        if (!mpStore->error().empty())
+        ReviewedCycle reviewed{
+            number,
+            &cycle,
+            mContainer.startTime(),
+            mContainer.endTime(),
+            mContainer.recordData().count() == 0,
+            reviewCycle(mContainer.values(), cycle.flights, mContainer.endTime(), mpStore ? EKeyValues::eAll : EKeyValues::eNone),
+            {}};
+        if (mpStore)
+            reviewed.unusual = findUnusual(*mpStore, cycleHead(mContainer, number, cycle), cycle.flights, reviewed.review);
+        if (mpStore && !mpStore->error().empty())
             return mpStore->error();
+        tell(reviewed);
     }
     return {};
 }
@@ -109,6 +111,19 @@ void CommandSummary::keepProblems()
     }
 }
 
+void CommandSummary::tell(const ReviewedCycle& reviewed)
+{
+    if (!mJson) {
+        mText += "\n" + summaryText(reviewed);
+        return;
+    }
+    mCycles.beginObject().member("number", reviewed.number).member("name", reviewed.pCycle->name);
+    mCycles.member("dateTime", reviewed.pCycle->dateTime).member("startTime", reviewed.startTime).member("endTime", reviewed.endTime);
+    writeReview(mCycles, reviewed.review, reviewed.unusual);
+    writeFlights(mCycles, reviewed.pCycle->flights);
+    mCycles.endObject();
+}
+
 void CommandSummary::writeJson()
 {
     if (!mIsBegun)
@@ -118,15 +133,7 @@ void CommandSummary::writeJson()
     mWriter.key("problems").beginArray();
     for (const CardProblem& problem : mProblems)
         mWriter.beginObject().member("file", problem.file).member("reason", problem.reason).endObject();
-    mWriter.endArray().key("cycles").beginArray();
-    for (const ReviewedCycle& reviewed : mReviewed) {
-        mWriter.beginObject().member("number", reviewed.number).member("name", reviewed.pCycle->name);
-        mWriter.member("dateTime", reviewed.pCycle->dateTime).member("startTime", reviewed.startTime).member("endTime", reviewed.endTime);
-        writeReview(mWriter, reviewed.review, reviewed.unusual);
-        writeFlights(mWriter, reviewed.pCycle->flights);
-        mWriter.endObject();
-    }
-    mWriter.endArray().endObject();
+    mWriter.endArray().member("cycles", mCycles.endArray()).endObject();
 }
 
 void CommandSummary::writeText()
@@ -135,9 +142,8 @@ void CommandSummary::writeText()
     text += "Card " + visibleText(card()) + "\n";
     for (const CardProblem& problem : mProblems)
         text += "  Damaged: " + visibleText(problemText(mContainer.path(), problem)) + "\n";
-    for (const ReviewedCycle& reviewed : mReviewed)
-        text += "\n" + summaryText(reviewed);
     mOutput.write(text);
+    mOutput.write(mText);
 }
 
 } // namespace ZARN

@@ -20,6 +20,7 @@ private:
     [[nodiscard]] std::string openStore();
     [[nodiscard]] std::string reviewCycles();
     void keepProblems();
+    void tell(const ReviewedCycle& reviewed);
     int finish(int status);
     void writeJson();
     void writeText();
@@ -27,8 +28,9 @@ private:
     std::string mListFile;
     std::string mStore;
     std::unique_ptr<StoreReader> mpStore; ///< null without a store
-    std::vector<ReviewedCycle> mReviewed; ///< of the open card
-    std::vector<CardProblem> mProblems;   ///< of the card, its cycles included
+    std::vector<CardProblem> mProblems;   ///< of the open card, its cycles included: they are told first
+    std::string mText;                    ///< what is told of its cycles, which takes a tenth of the memory of what is known of them
+    JsonWriter mCycles;                   ///< the same for --json
     Output mOutput;
     JsonWriter mWriter{mOutput};
     bool mIsBegun = false; ///< a card has been told

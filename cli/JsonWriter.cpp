@@ -112,6 +112,13 @@ JsonWriter& JsonWriter::value(int64_t number)
     return *this;
 }
 
+JsonWriter& JsonWriter::value(const JsonWriter& built)
+{
+    separate();
+    mText += built.mText;
+    return *this;
+}
+
 JsonWriter& JsonWriter::value(bool flag)
 {
     separate();

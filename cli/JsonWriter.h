@@ -39,6 +39,8 @@ public:
     JsonWriter& value(const QString& text);
     JsonWriter& value(const QDateTime& dateTime);
     JsonWriter& null();
+    /// The value that another writer, without an output, has built.
+    JsonWriter& value(const JsonWriter& built);
 
     template <typename Value> JsonWriter& member(std::string_view name, const Value& content) { return key(name).value(content); }
 
