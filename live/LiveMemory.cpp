@@ -72,6 +72,8 @@ void LiveMemory::slotTrimmed()
     mpData = pCopy;
     for (const LiveRecords& records : since)
         mDropped += records.size() - add(records);
+    if (mLatest - mFirst > mWindow * kSlack)
+        trim(); // it took long
 }
 
 } // namespace ZARN

@@ -37,15 +37,15 @@ LiveBar::LiveBar(QWidget* pParent)
     mpPause->setToolTip(tr("Hold what is shown and look back, while everything is received and recorded on (space)"));
     mpReport->setToolTip(tr("Write what was received so far as a flight report"));
     auto* pRow = new QHBoxLayout;
-    pRow->addWidget(mpStatus, 1);
+    pRow->addWidget(mpIncidents, 1);
     for (QPushButton* pButton : {mpPause, mpReport, mpConnect})
         pRow->addWidget(pButton);
     auto* pLayout = new QVBoxLayout(this);
     pLayout->setContentsMargins(6, 2, 6, 2);
     pLayout->setSpacing(2);
-    pLayout->addLayout(pRow);
+    pLayout->addWidget(mpStatus);
     pLayout->addWidget(mpNote);
-    pLayout->addWidget(mpIncidents);
+    pLayout->addLayout(pRow);
     setRunning(false, false);
     setIncidents({});
     connect(mpPause, &QPushButton::clicked, this, &LiveBar::signalPause);
@@ -82,7 +82,7 @@ void LiveBar::setIncidents(const std::vector<IncidentSentence>& sentences)
     }
     if (sentences.size() > kMostSentences)
         parts.append(tr("and %n more", nullptr, static_cast<int>(sentences.size() - kMostSentences)));
-    mpIncidents->setText(parts.isEmpty() ? tr("Nothing out of order so far") : parts.join(" &nbsp;|&nbsp; "));
+    mpIncidents->setText(parts.isEmpty() ? (mpIncidents->isEnabled() ? tr("Nothing out of order so far") : QString()) : parts.join(" &nbsp;|&nbsp; "));
     mpIncidents->setToolTip(all.isEmpty() ? QString() : "<qt>" + all.join("<br/>") + "</qt>");
 }
 
@@ -92,12 +92,17 @@ void LiveBar::setPaused(bool isPaused)
     mpPause->setText(isPaused ? tr("Go on") : tr("Pause"));
 }
 
+void LiveBar::takeKeys()
+{
+    mpPause->setFocus();
+}
+
 void LiveBar::setRunning(bool isOpen, bool hasData)
 {
     mIsOpen = isOpen;
     mpPause->setEnabled(hasData);
     mpReport->setEnabled(hasData);
-    mpIncidents->setVisible(hasData);
+    mpIncidents->setEnabled(hasData);
     mpConnect->setText(isOpen ? tr("Disconnect") : tr("Connect"));
 }
 

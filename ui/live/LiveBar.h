@@ -23,6 +23,8 @@ public:
     /// @param sentences the worst first
     void setIncidents(const std::vector<IncidentSentence>& sentences);
     void setPaused(bool isPaused);
+    /// The keys are for it: space pauses.
+    void takeKeys();
     /// Whether there is something to pause, and something to report.
     void setRunning(bool isOpen, bool hasData);
 

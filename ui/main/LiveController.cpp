@@ -178,6 +178,7 @@ void LiveController::showNewest()
         mParts.cards.beginLive(mPowerUp, pRecord);
         mParts.commands.action(eActionOverview)->setEnabled(false); // there is no card to look through
         updateBar();
+        mpBar->takeKeys();
         Q_EMIT signalBegun();
     }
     mParts.record.growRecord(mShownTime, std::exchange(mHasReview, false), this);

@@ -131,6 +131,7 @@ void TestLive::grows()
     QVERIFY(desktop.traces().count() >= 5);
     for (int slot = 0; slot < desktop.traces().count(); ++slot) {
         ShownTraces expected;
+        expected.setCount(1);
         fillSlot(expected, 0, whole[static_cast<std::size_t>(slot)]);
         const SampleSeries &shown = desktop.traces().at(slot)->samples, &wanted = expected.at(0)->samples;
         QCOMPARE(shown.size(), wanted.size());
