@@ -14,12 +14,15 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <limits>
 #include <new>
 #include <utility>
 
 namespace ZARN {
 
 namespace {
+
+constexpr uint32_t kLiveCycle = 1;
 
 QString lastComponent(const QString& path)
 {
@@ -89,8 +92,46 @@ CardContainer& CardContainer::instance()
     return container;
 }
 
+void CardContainer::beginLive(const QDateTime& powerUp, std::shared_ptr<RecordData> pRecord)
+{
+    CardState state;
+    state.mIsLive = true;
+    state.mDateTime = powerUp;
+    state.mLoadedCycle = kLiveCycle;
+    state.mCycles[kLiveCycle].name = tr("Live");
+    state.mCycles[kLiveCycle].dateTime = powerUp;
+    std::swap<CardState>(*this, state);
+    growLive(std::move(pRecord));
+}
+
+void CardContainer::growLive(std::shared_ptr<RecordData> pRecord)
+{
+    mpData = std::move(pRecord);
+    mStartTime = mpData->channels().empty() ? 0.0 : std::numeric_limits<double>::infinity();
+    mEndTime = 0.0;
+    for (const auto& [identifier, channel] : mpData->channels()) {
+        mStartTime = std::min(mStartTime, channel.entries.front().time);
+        mEndTime = std::max(mEndTime, channel.entries.back().time);
+    }
+    mIndexEnd = mEndTime;
+    mWhole = {};
+    mWhole.dateTime = mDateTime;
+    mWhole.startTime = mStartTime;
+    mWhole.endTime = mEndTime;
+    mSelectedFlight = mWhole;
+    mCycles.at(kLiveCycle).endTime = mEndTime;
+}
+
+void CardContainer::adoptFlights(CardContainer& draft)
+{
+    mFlightPath = draft.mFlightPath;
+    if (mIsLive && draft.mIsLive)
+        mCycles.at(kLiveCycle).flights = draft.mCycles.at(kLiveCycle).flights;
+}
+
 void CardContainer::clear()
 {
+    mIsLive = false;
     mLoadedCycle.reset();
     mCycles.clear(); // they refer to the files
     mFiles.clear();
@@ -183,6 +224,8 @@ void CardContainer::calcCycles()
 
 QString CardContainer::name() const
 {
+    if (mIsLive)
+        return mCycles.at(kLiveCycle).name;
     if (mPath.isEmpty())
         return {};
     const QString full = QDir::cleanPath(QDir(mPath).absolutePath()); // "." has a name too
@@ -204,7 +247,7 @@ bool CardContainer::loadCycle(unsigned int cycle, int flight)
     if (found == mCycles.end())
         return false;
     RecordCycle& loaded = found->second;
-    if (flight == -1 || mLoadedCycle != cycle) {
+    if (!mIsLive && (flight == -1 || mLoadedCycle != cycle)) {
         std::list<QString> paths;
         for (const RecordInfo& info : loaded.files)
             paths.push_back(info.fileName);

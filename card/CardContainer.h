@@ -29,6 +29,7 @@ struct CardState {
     RecordFlight mSelectedFlight;
     RecordFlight mWhole; ///< the span of all that was loaded
     bool mFlightIsSelected = false;
+    bool mIsLive = false; ///< what is loaded came from a bus
     std::optional<unsigned int> mLoadedCycle;
     QDateTime mDateTime;
     double mStartTime = 0.0;
@@ -57,6 +58,15 @@ public:
     void adopt(CardContainer& draft);
     /// Who is told of the progress of reading from now on, and may cancel it; what is held then is worth nothing.
     void setProgress(Progress& progress) { mpProgress = &progress; }
+
+    /// Goes over to what comes in from a bus: one power cycle without files, with a record that never changes itself but is replaced by
+    /// longer ones. Ends with the next card that is read. @param powerUp the wall clock at time 0
+    void beginLive(const QDateTime& powerUp, std::shared_ptr<RecordData> pRecord);
+    /// The times of its channels rise. Flights and path stay as they are.
+    void growLive(std::shared_ptr<RecordData> pRecord);
+    [[nodiscard]] bool isLive() const { return mIsLive; }
+    /// Takes flights and path that a draft worked out of an earlier record of the same bus.
+    void adoptFlights(CardContainer& draft);
 
     /// Forgets the files and cycles; the loaded data stays.
     void clear();

@@ -1,6 +1,7 @@
 #include "live/BusAddress.h"
 
 #include <QCanBus>
+#include <QCanBusDeviceInfo>
 
 namespace ZARN {
 
@@ -8,6 +9,14 @@ QStringList BusAddress::plugins()
 {
     QStringList names = QCanBus::instance()->plugins();
     names.sort();
+    return names;
+}
+
+QStringList BusAddress::interfaces(const QString& plugin)
+{
+    QStringList names;
+    for (const QCanBusDeviceInfo& info : QCanBus::instance()->availableDevices(plugin))
+        names.append(info.name());
     return names;
 }
 

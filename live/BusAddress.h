@@ -23,6 +23,8 @@ public:
     [[nodiscard]] bool isVirtual() const { return plugin == "virtualcan"; }
     /// By name.
     [[nodiscard]] static QStringList plugins();
+    /// What a plugin finds on this machine.
+    [[nodiscard]] static QStringList interfaces(const QString& plugin);
 };
 
 } // namespace ZARN

@@ -19,6 +19,18 @@ void RecordSession::setRecord()
     schedule();
 }
 
+void RecordSession::growRecord(double viewTime, bool isReviewed, const QObject* pSource)
+{
+    if (!mpLast)
+        mpLast = mpRecord;
+    mpRecord = mContainer.record();
+    takeSpan();
+    ++mVersion.growth;
+    mVersion.review += isReviewed ? 1 : 0;
+    setTime(viewTime, pSource);
+    tell();
+}
+
 void RecordSession::clearRecord()
 {
     mpLast = std::exchange(mpRecord, {});
@@ -88,6 +100,8 @@ void RecordSession::tell()
     const bool isRecord = told.record != mVersion.record || told.flights != mVersion.flights;
     if (isRecord)
         Q_EMIT recordChanged();
+    if (told.growth != mVersion.growth)
+        Q_EMIT recordGrown();
     if (told.decoding != mVersion.decoding)
         Q_EMIT decodingChanged();
     if (told.selection != mVersion.selection)

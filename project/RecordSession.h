@@ -29,6 +29,8 @@ public:
         unsigned decoding = 0;  ///< another profile or unit
         unsigned selection = 0; ///< the ticked parameters
         unsigned time = 0;
+        unsigned growth = 0; ///< more of the same recording
+        unsigned review = 0; ///< flights and path of that which grows
         bool operator==(const Version&) const = default;
     };
 
@@ -36,6 +38,9 @@ public:
 
     /// Takes what the container holds now, and its start as the view time.
     void setRecord();
+    /// Takes what the container holds now: the same recording, which has become longer and may have lost its beginning. Tells it at once.
+    /// @param isReviewed flights and path are others, too
+    void growRecord(double viewTime, bool isReviewed, const QObject* pSource);
     /// Lets go of the record, and tells so at once: its data are about to be replaced.
     void clearRecord();
     /// Flights, statistic and path of the record were worked out anew; the view time stays.
@@ -49,6 +54,8 @@ public:
 
     /// Null while nothing is loaded.
     [[nodiscard]] RecordData* record() const { return mpRecord.get(); }
+    /// The same, for who refers to it longer than until the next change is told.
+    [[nodiscard]] const std::shared_ptr<RecordData>& sharedRecord() const { return mpRecord; }
     /// Date and time of the power-up; invalid when the record tells none.
     [[nodiscard]] const QDateTime& powerUp() const { return mPowerUp; }
     [[nodiscard]] double startTime() const { return mStartTime; }
@@ -70,6 +77,7 @@ public:
 Q_SIGNALS:
     // In this order, and always closed by the time.
     void recordChanged(); ///< the data, or what was worked out of them
+    void recordGrown();
     void decodingChanged();
     void selectionChanged();
     void timeChanged(double seconds, const QObject* pSource);

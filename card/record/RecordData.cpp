@@ -34,6 +34,8 @@ void RecordData::clear()
     mSlots.assign(2, {0, nullptr});
     mHashShift = 31;
     mPool.clear();
+    mpGrowing.reset();
+    mSharedBytes = 0;
     mPseudoChannels.clear();
     mPseudoPool.clear();
     mComputed.clear();
@@ -69,9 +71,26 @@ void RecordData::buildTimeIndex()
         channel.buildTimeIndex();
 }
 
+std::shared_ptr<RecordData> RecordData::snapshot(const std::shared_ptr<const RecordData>& pGrowing, const RecordData* pShown)
+{
+    const auto pSnapshot = std::make_shared<RecordData>(std::max<std::size_t>(1, pGrowing->mPool.left()));
+    pSnapshot->mpGrowing = pGrowing;
+    pSnapshot->mSharedBytes = pGrowing->mPool.bytes();
+    pSnapshot->mLastTicks = pGrowing->mLastTicks;
+    pSnapshot->mCount = pGrowing->mCount;
+    for (const auto& [identifier, channel] : pGrowing->mChannels) {
+        RecordChannel& shared = pSnapshot->mChannels.try_emplace(pSnapshot->mChannels.end(), identifier, identifier)->second;
+        shared.entries = channel.entries.sealed();
+        const auto before = pShown ? pShown->mChannels.find(identifier) : pGrowing->mChannels.end();
+        const bool wasShown = pShown && before != pShown->mChannels.end();
+        shared.setFresh(!wasShown || before->second.fresh() || before->second.last().time < shared.last().time);
+    }
+    return pSnapshot;
+}
+
 RecordChannel* RecordData::addChannel(uint32_t identifier)
 {
-    if (!mPool.charge(kChannelBytes))
+    if (mpGrowing || !mPool.charge(kChannelBytes))
         return nullptr;
     const auto [place, added] = mChannels.try_emplace(identifier, identifier);
     if (mChannels.size() * 2 > mSlots.size())

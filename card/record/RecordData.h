@@ -10,7 +10,8 @@
 
 namespace ZARN {
 
-/// The decoded records of one or more files by CAN identifier. Filled completely before anybody reads it, from then on on any thread.
+/// The decoded records of one or more files by CAN identifier. Filled completely before anybody reads it, from then on on any thread;
+/// of what goes on growing, others read snapshots.
 ///
 /// Two pseudo-channels look like channels but are made when asked for: 0x7FFFFFFF holds a copy of every record of kind 0,
 /// 0x7FFFFFFE of every record of kind 1, in the order of reception.
@@ -67,7 +68,12 @@ public:
 
     void buildTimeIndex();
     /// The memory that the records take.
-    [[nodiscard]] std::size_t bytes() const { return mPool.bytes(); }
+    [[nodiscard]] std::size_t bytes() const { return mPool.bytes() + mSharedBytes; }
+
+    /// What growing data hold now, for whoever reads it on any thread while they go on: it takes no more records and never changes. Their
+    /// memory is shared. To be called where they grow; times must rise.
+    /// @param pShown what was shown before; channels with newer records are fresh, and those that nobody has looked at since
+    [[nodiscard]] static std::shared_ptr<RecordData> snapshot(const std::shared_ptr<const RecordData>& pGrowing, const RecordData* pShown);
 
 private:
     struct Slot {
@@ -104,6 +110,8 @@ private:
     template <typename Visitor> void visitInOrder(Visitor visit) const;
 
     RecordPool mPool;
+    std::shared_ptr<const RecordData> mpGrowing; // of a snapshot: whose memory it is
+    std::size_t mSharedBytes = 0;
     std::map<uint32_t, RecordChannel> mChannels;
     std::vector<Slot> mSlots{2, Slot{0, nullptr}}; // open addressing, a power of two, never full
     unsigned mHashShift = 31;

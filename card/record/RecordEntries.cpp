@@ -12,8 +12,21 @@ bool RecordEntries::appendCopy(const StoredRecord& record, uint32_t identifier, 
     return true;
 }
 
+RecordEntries RecordEntries::sealed() const
+{
+    RecordEntries entries(mIdentifier);
+    entries.mpNext = entries.mpEnd = mpNext; // what is left of the last chunk is the other's
+    entries.mLastTicks = mLastTicks;
+    entries.mAscending = mAscending;
+    entries.mIsSealed = true;
+    entries.mChunks = mChunks;
+    return entries;
+}
+
 bool RecordEntries::addChunk(RecordPool& pool)
 {
+    if (mIsSealed)
+        return false;
     const std::size_t capacity = chunkCapacity(mChunks.size());
     StoredRecord* pChunk = pool.allocate(capacity);
     if (!pChunk)

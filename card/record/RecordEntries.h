@@ -41,6 +41,8 @@ public:
         __builtin_prefetch(mpNext + kPrefetch, 1);
         return true;
     }
+    /// The records that are there now. They are shared: this sequence may go on, the other takes no more, and needs the pool as long.
+    [[nodiscard]] RecordEntries sealed() const;
     /// Appends a copy of another channel's record; it keeps that channel's identifier.
     bool appendCopy(const StoredRecord& record, uint32_t identifier, RecordPool& pool);
 
@@ -109,6 +111,7 @@ private:
     uint64_t mLastTicks = 0;
     uint32_t mIdentifier;
     bool mAscending = true;
+    bool mIsSealed = false;
     std::vector<StoredRecord*> mChunks;
     std::unique_ptr<std::vector<uint32_t>> mpCopiedIdentifiers; // one a record in a pseudo-channel, else null
 };

@@ -74,6 +74,13 @@ void DialogDataErrorMatrix::updateRecord(RecordData* pRecord)
         pPanel->updateRecord(pRecord);
 }
 
+void DialogDataErrorMatrix::growRecord(RecordData* pRecord, bool /*isReviewed*/)
+{
+    updateRecord(pRecord);
+    if (isLive())
+        slotTimeoutLive();
+}
+
 void DialogDataErrorMatrix::setTime(double time)
 {
     if (isLive())

@@ -29,6 +29,7 @@ public:
     void loadProfile() override;
     void updateProfile() override {}
     void updateRecord(RecordData* pRecord) override;
+    void growRecord(RecordData* pRecord, bool isReviewed) override;
     void setTime(double time) override;
     /// @param mode 0 shows the record, anything else is the live mode
     void setZarnMode(int mode) override;

@@ -27,6 +27,7 @@ public:
     /// Texts and colours come from the profile but are rebuilt with the record alone.
     void updateProfile() override {}
     void updateRecord(RecordData* pRecord) override;
+    [[nodiscard]] int growthPeriod() const override { return 1000; } // all of the record is looked through
     void setTime(double time) override;
     void updateSettings() override { showTimes(); }
     /// Finds the events in another thread, and tells when they are found; the rows wait until they are seen.

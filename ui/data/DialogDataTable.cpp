@@ -211,6 +211,13 @@ void DialogDataTable::updateRecord(RecordData* pRecord)
     setTime(mContainer.startTime());
 }
 
+void DialogDataTable::growRecord(RecordData* pRecord, bool /*isReviewed*/)
+{
+    if (mMode == 0)
+        return updateRecord(pRecord);
+    mpRecord = pRecord; // its newest values are marked
+}
+
 void DialogDataTable::setTime(double time)
 {
     if (mMode != 0 || mpModel->rowCount() == 0)

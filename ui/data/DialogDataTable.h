@@ -29,6 +29,8 @@ public:
 
     void updateProfile() override;
     void updateRecord(RecordData* pRecord) override;
+    void growRecord(RecordData* pRecord, bool isReviewed) override;
+    [[nodiscard]] int growthPeriod() const override { return mMode == 0 ? DataView::growthPeriod() : 0; }
     void update(RecordData* pRecord) override;
     void updateFlights(RecordData* /*pRecord*/) override {} // the time, which is told next, is all that it shows of them
     void setTime(double time) override;

@@ -2,7 +2,9 @@
 
 #include "project/RecordSession.h"
 
+#include <QElapsedTimer>
 #include <QObject>
+#include <QTimer>
 
 class QWidget;
 
@@ -11,8 +13,8 @@ namespace ZARN {
 class DataView;
 
 /// Keeps one view at what the record session holds. A view in sight is brought up to date at once, and filled once however much has
-/// changed; one that is not in sight when it is shown. The time that the view picked itself is not told back to it. Belongs to the
-/// view's widget.
+/// changed; one that is not in sight when it is shown. The time that the view picked itself is not told back to it. A record that grows is
+/// told to a view no oftener than it can show it in a quarter of the time; what it shows is kept until then. Belongs to the view's widget.
 class ViewLink : public QObject {
     Q_OBJECT
 
@@ -28,9 +30,13 @@ public:
 
 private:
     void slotChanged();
+    void slotGrown();
+    void slotLate();
     void slotTime(double seconds, const QObject* pSource);
     void prepare();
     void updateData();
+    [[nodiscard]] bool isOnlyGrown() const;
+    void letGo();
 
     RecordSession& mSession;
     DataView& mView;
@@ -38,6 +44,11 @@ private:
     const QObject* mpIgnored = nullptr;
     RecordSession::Version mShown;    ///< what the view shows
     RecordSession::Version mPrepared; ///< what others show of it
+    std::shared_ptr<RecordData> mpHeld; ///< what the view refers to
+    bool mIsLetGo = false;              ///< the view was in nobody's sight when the record grew, and shows none
+    QElapsedTimer mClock;
+    qint64 mNextGrowth = 0; ///< on that clock, milliseconds
+    QTimer mLate;           ///< until then, for growth that was left out
 };
 
 } // namespace ZARN

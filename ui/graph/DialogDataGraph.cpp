@@ -179,6 +179,16 @@ void DialogDataGraph::updateFlights(RecordData* pRecord)
     findCourse();
 }
 
+void DialogDataGraph::growRecord(RecordData* pRecord, bool isReviewed)
+{
+    mpGraph->setPaced(true);
+    mRecord.updateFlights(pRecord);
+    mpGraph->setPaced(false);
+    mpCourseOf = mSession.container.record().get(); // of the same recording
+    if (isReviewed && mRecord.hasRecord())
+        mCourse.start(mSession.container.loaded());
+}
+
 void DialogDataGraph::update(RecordData* pRecord)
 {
     if (!mRecord.update(pRecord))
@@ -239,6 +249,11 @@ void DialogDataGraph::setLayout(const DisplayLayout& layout)
 std::optional<TimeSpan> DialogDataGraph::shownSpan() const
 {
     return mRecord.shownSpan();
+}
+
+bool DialogDataGraph::hasLeft(double time) const
+{
+    return isVisible() && mRecord.hasSamples() && !mpGraph->model().window().contains(time);
 }
 
 std::optional<TimeSpan> DialogDataGraph::markedSpan() const

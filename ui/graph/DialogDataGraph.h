@@ -30,11 +30,14 @@ public:
     void updateRecord(RecordData* pRecord) override;
     void update(RecordData* pRecord) override;
     void updateFlights(RecordData* pRecord) override;
+    void growRecord(RecordData* pRecord, bool isReviewed) override;
+    [[nodiscard]] int growthPeriod() const override { return 0; }
     void setTime(double time) override;
     void setZarnMode(int mode) override;
     void updateSettings() override;
     void setNotes(const std::vector<CycleNote>& notes) override;
     [[nodiscard]] std::optional<TimeSpan> shownSpan() const override;
+    [[nodiscard]] bool hasLeft(double time) const override;
     [[nodiscard]] std::optional<TimeSpan> markedSpan() const override;
     void showSpan(const TimeSpan& span, const std::set<std::string>& parameters) override;
     void setFound(const std::vector<TimeSpan>& spans) override;

@@ -134,7 +134,7 @@ bool CardController::showFolder(const QString& folder, bool isRead)
 {
     if (!isRead) {
         // A card that is shown stays as it is; where there is none, the window says why.
-        if (mSession.container.path().isEmpty()) {
+        if (mSession.container.path().isEmpty() && !mSession.container.isLive()) {
             mProblem = refusal(folder);
             Q_EMIT signalFolderChanged();
         }
@@ -183,8 +183,22 @@ void CardController::openDemoCard(const QString& parentFolder)
            }});
 }
 
+void CardController::beginLive(const QDateTime& powerUp, std::shared_ptr<RecordData> pRecord)
+{
+    cancel();
+    mSession.container.beginLive(powerUp, std::move(pRecord));
+    mBrowser.reloadCardInfo();
+    mProblem.clear();
+    mIsLoaded = true;
+    mFlight = -1;
+    mDecodedBy = mDecoding;
+    Q_EMIT signalDataChanged();
+}
+
 void CardController::loadCycle(unsigned int cycle, int flight)
 {
+    if (mSession.container.isLive())
+        return Q_EMIT signalLiveChosen(flight);
     load([cycle, flight](CardContainer& card) { return card.loadCycle(cycle, flight); }, flight);
 }
 
@@ -242,7 +256,10 @@ void CardController::recalculateIfOutdated()
                return true;
            },
            [this](bool) {
-               mSession.container.adopt(*mpDraft);
+               if (mSession.container.isLive())
+                   mSession.container.adoptFlights(*mpDraft); // the records have grown since
+               else
+                   mSession.container.adopt(*mpDraft);
                mDecodedBy = mJobDecoding;
                Q_EMIT signalRecalculated();
            }});

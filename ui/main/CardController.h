@@ -9,12 +9,14 @@
 #include <memory>
 #include <optional>
 
+class QDateTime;
 class QWidget;
 
 namespace ZARN {
 
 class DialogCard;
 class RecentFolders;
+class RecordData;
 class StatusProgress;
 
 /// Opens card folders and loads what the card browser chooses, on a thread of its own: the window goes on with what it shows until all of
@@ -38,6 +40,8 @@ public:
     void recalculate();
     void loadCycle(unsigned int cycle, int flight);
     void loadRecords(const std::list<QString>& files);
+    /// Shows what comes in from a bus, in place of what is loaded or being read. @param powerUp the wall clock at time 0
+    void beginLive(const QDateTime& powerUp, std::shared_ptr<RecordData> pRecord);
 
     /// Whether something is being read or worked out.
     [[nodiscard]] bool isBusy() const { return mTask.isRunning(); }
@@ -63,6 +67,8 @@ Q_SIGNALS:
     void signalRecalculated();
     /// Nothing came of what was begun, by the user's will or not: what was loaded is the same.
     void signalCancelled();
+    /// The user chose the cycle that comes in from a bus, or a flight of it (from 0; else -1).
+    void signalLiveChosen(int flight);
     /// All that was asked for is done.
     void signalIdle();
 

@@ -65,10 +65,14 @@ std::vector<CardNode> CardTree::cycles(const CardContainer& container)
 CardNode CardTree::cycleNode(unsigned int number, const RecordCycle& cycle)
 {
     CardNode node;
+    node.cycle = number;
+    if (cycle.files.empty()) { // it is received still
+        node.text = cycle.name + " " + startText(cycle.dateTime);
+        return node;
+    }
     const QString name = cycle.name.isEmpty() ? QString() : tr("Cycle %1").arg(number);
     // All three at once: what a name or date contains is never taken for the next mark.
     node.text = QStringLiteral("%1 %2 (%3)").arg(name, startText(PowerUp::of(cycle)), clockText(cycle.endTime));
-    node.cycle = number;
     return node;
 }
 

@@ -25,6 +25,7 @@
 #include "ui/main/FindController.h"
 #include "ui/main/FolderDrop.h"
 #include "ui/main/LayoutController.h"
+#include "ui/main/LiveController.h"
 #include "ui/main/LogbookController.h"
 #include "ui/main/MainActions.h"
 #include "ui/main/MainCommands.h"
@@ -191,6 +192,10 @@ void DialogMain::createControllers()
     const auto* pNotes = new NoteController(mSession, mRecord, mpLogbook->worker(), *mpCommands, *mpNotices, this);
     connect(pNotes, &NoteController::signalChanged, &mpOverview->view(), &DialogOverview::reset);
     mpXy = new XyController(mSession, mRecord, *mpData, *action(eActionXy), this);
+    const auto* pLive = new LiveController(mSession, {*mpCardController, *mpCard, *mpData, *mpPanels, *mpCommands, mRecord}, this);
+    connect(pLive, &LiveController::signalBegun, this, &DialogMain::updateTitle);
+    if (mEnvironment.cmdLine.getSwitch("-connect"))
+        connect(this, &DialogMain::signalStarted, pLive, &LiveController::connectLast, Qt::SingleShotConnection);
     mpProfileController = std::make_unique<ProfileController>(mSession, *mpCatalogue, mpToolBar->profiles(), mpToolBar->units());
     mpLayout = std::make_unique<WindowLayout>(mSession.property, *this, *mpPanels, mpPanels->side());
     mpAbout = new DialogAbout(this);
@@ -310,7 +315,7 @@ bool DialogMain::isProjectModified() const
 
 void DialogMain::updateTitle()
 {
-    QString path = mSession.container.path();
+    QString path = mSession.container.isLive() ? mSession.container.name() : mSession.container.path();
     if (path.isEmpty() && mpCardController->problem().isEmpty()) // one that was refused is not shown, and neither is the one before it
         path = Settings::kLastPath.text(mSession.property);
     setWindowTitle(path.isEmpty() ? QString("ZARN") : "ZARN " + QDir::cleanPath(path).section('/', -2, -1));

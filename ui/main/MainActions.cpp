@@ -67,6 +67,8 @@ const std::vector<MainAction>& MainAction::all()
          QT_TRANSLATE_NOOP("ZARN::DialogMain", "Write a note about the moment that is shown"), "", "project-save-as"},
         {eActionXy, QT_TRANSLATE_NOOP("ZARN::DialogMain", "X against Y"), "Ctrl+Shift+X",
          QT_TRANSLATE_NOOP("ZARN::DialogMain", "One parameter over another, with their limits"), "", "xy"},
+        {eActionLive, QT_TRANSLATE_NOOP("ZARN::DialogMain", "Live ..."), "Ctrl+Shift+L",
+         QT_TRANSLATE_NOOP("ZARN::DialogMain", "Watch and record what a CAN interface receives"), "", "replay-start"},
     };
     // clang-format on
     return actions;

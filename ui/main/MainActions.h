@@ -31,7 +31,8 @@ enum EMainAction : int {
     eActionFind = 24,
     eActionLogbook = 25,
     eActionNote = 26,
-    eActionXy = 27
+    eActionXy = 27,
+    eActionLive = 28
 };
 
 /// One command of the main window: texts to be translated, the shortcut, the name of its icon.

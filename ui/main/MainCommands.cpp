@@ -45,7 +45,7 @@ void MainCommands::fillMenus(QMenuBar& menuBar) const
     pFile->addSeparator();
     fill(pFile, {eActionQuit});
     fill(menuBar.addMenu(menuTitle(QT_TRANSLATE_NOOP("ZARN::DialogMain", "&Extras"))),
-         {eActionPreferences, eActionExportKml, eActionExportCsv, eActionLogbook, eActionNote, eActionXy});
+         {eActionPreferences, eActionExportKml, eActionExportCsv, eActionLogbook, eActionNote, eActionXy, eActionLive});
     QMenu* pHelp = menuBar.addMenu(menuTitle(QT_TRANSLATE_NOOP("ZARN::DialogMain", "&Help")));
     fill(pHelp, {eActionPreferences, eActionAbout, eActionProfile});
     connect(pHelp, &QMenu::aboutToShow, this, &MainCommands::signalHelpMenuOpening);

@@ -48,8 +48,8 @@ void NoteController::slotRecord()
     mRecord.setNotes({});
     mCommands.action(eActionNote)->setEnabled(false);
     const RecordCycle* pCycle = mRecord.record() ? mSession.container.loadedCycle() : nullptr;
-    if (!pCycle)
-        return;
+    if (!pCycle || pCycle->files.empty())
+        return; // what no file holds has no identity yet
     // A slow card has to be read for it.
     const auto pId = std::make_shared<std::string>();
     std::vector<std::string> paths = cyclePaths(*pCycle);

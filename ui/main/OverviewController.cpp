@@ -108,7 +108,7 @@ void OverviewController::show(const Incident& incident)
 /// The incidents of what is loaded, found when they are asked for.
 void OverviewController::review()
 {
-    const unsigned version = mRecord.version().record + mRecord.version().flights + mRecord.version().decoding;
+    const unsigned version = mRecord.version().record + mRecord.version().flights + mRecord.version().decoding + mRecord.version().growth;
     if (std::exchange(mReviewed, version) == version)
         return;
     const CardContainer& card = mSession.container;

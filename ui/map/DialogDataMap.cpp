@@ -92,6 +92,13 @@ void DialogDataMap::updateRecord(RecordData* pRecord)
     setMinimumWidth(kLeastWidth);
 }
 
+void DialogDataMap::growRecord(RecordData* pRecord, bool isReviewed)
+{
+    if (isReviewed)
+        return updateRecord(pRecord);
+    mpRecord = pRecord;
+}
+
 FlightPathPoint DialogDataMap::calcPositionAtTime(double time) const
 {
     if (!mpRecord || !mpMap)

@@ -26,6 +26,8 @@ public:
 
     void updateProfile() override;
     void updateRecord(RecordData* pRecord) override;
+    void growRecord(RecordData* pRecord, bool isReviewed) override;
+    [[nodiscard]] int growthPeriod() const override { return 0; } // the path is another one seldom
     void setTime(double time) override;
     /// Marks the events of the lists on the path, in their colours.
     void setEvents(const EventList& limits, const EventList& lamps) override;

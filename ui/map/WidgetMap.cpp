@@ -284,10 +284,11 @@ void WidgetMap::setRecordData(RecordData* pRecord)
 
 void WidgetMap::redrawFlightPath()
 {
+    const bool isGrown = mSession.container.isLive() && !mScene.path().isEmpty();
     const bool isSamePath = !mScene.path().setPoints(mSession.container.flightPath());
     const bool isOtherUnit = std::exchange(mPathUnit, mSession.profile.currentUnit()) != mSession.profile.currentUnit();
     mScene.events().place(mScene.path());
-    if (!isSamePath || !isOtherUnit)
+    if (!isGrown && (!isSamePath || !isOtherUnit))
         mNavigator.fit(mScene.path(), true);
     allowTiles();
 }

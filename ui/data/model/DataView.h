@@ -35,6 +35,11 @@ public:
     /// The flights of the record that is shown, its path or the chosen flight are others, the samples are not.
     virtual void updateFlights(RecordData* pRecord) { updateRecord(pRecord); }
 
+    /// The record that is shown has become longer, and may have lost its beginning. @param isReviewed flights and path are others, too
+    virtual void growRecord(RecordData* pRecord, bool /*isReviewed*/) { updateRecord(pRecord); }
+    /// Milliseconds after which it is worth while to be told that again.
+    [[nodiscard]] virtual int growthPeriod() const { return 250; }
+
     /// In place of updateRecord() while nobody sees the view: works out what others show of it, no more.
     virtual void prepare(RecordData* /*pRecord*/) {}
 
@@ -66,6 +71,8 @@ public:
 
     /// The part of the record that the user looks at, where a view has one.
     [[nodiscard]] virtual std::optional<TimeSpan> shownSpan() const { return {}; }
+    /// Whether the user, who sees the view, has moved it away from that time.
+    [[nodiscard]] virtual bool hasLeft(double /*time*/) const { return false; }
     /// The part of the record that the user marked, where a view has one.
     [[nodiscard]] virtual std::optional<TimeSpan> markedSpan() const { return {}; }
     /// Shows that part of the record, and the parameters of these names whether they are ticked or not.

@@ -15,6 +15,12 @@
 
 namespace ZARN {
 
+namespace {
+
+constexpr double kLiveWidth = 60.0; // seconds that are seen at first of what comes from a bus
+
+} // namespace
+
 RecordGraph::RecordGraph(const Session& session, GraphModel& model) : mSession(session), mModel(model), mSettings(session.property),
       mGhost(session, model, [this](const RecordData* pRecord, const auto& visit) { forEachTrace(pRecord, visit); })
 {
@@ -219,8 +225,13 @@ void RecordGraph::fillRecord()
 {
     const TimeWindow window = mModel.window();
     mModel.clear();
+    mFills = {};
+    const auto fill = [this](int slot, const Trace& trace) {
+        fillSlot(mModel, slot, trace);
+        mFills[static_cast<std::size_t>(slot)] = SlotFill::of(trace);
+    };
     if (mpRecord)
-        forEachTrace(mpRecord, [this](int slot, const Trace& trace) { fillSlot(mModel, slot, trace); });
+        forEachTrace(mpRecord, fill);
     mGhost.fill(mpRecord != nullptr);
     // Filling moves the window of the automatic mode along.
     mModel.setWindow(window);
@@ -257,15 +268,41 @@ bool RecordGraph::updateRecord(RecordData* pRecord)
         return mKeepsWindow;
     if (!(key == mMarkedRecord))
         mModel.setMarker({});
+    const bool isLive = mSession.container.isLive(), isSameRun = isLive && key == mMarkedRecord;
     mMarkedRecord = key;
     mSpan = span();
-    zoomAll();
+    if (isSameRun)
+        return true; // where the user looked
+    if (isLive)
+        mModel.setWindow({mSpan.start, mSpan.start + kLiveWidth});
+    else
+        zoomAll();
     mModel.setCursorPosition(mSpan.start);
     return false;
 }
 
+/// The record goes on, and may have lost its beginning: what is new of it is put behind what is there.
+void RecordGraph::growRecord(RecordData* pRecord)
+{
+    if (!mpRecord || !pRecord) {
+        updateRecord(pRecord);
+        return;
+    }
+    mpRecord = pRecord;
+    mSpan = span();
+    updateTimes();
+    forEachTrace(mpRecord, [this](int slot, const Trace& trace) {
+        growSlot(mModel.traces(), slot, trace, mFills[static_cast<std::size_t>(slot)]);
+    });
+    mModel.scenery().setMessage(emptyMessage());
+}
+
 bool RecordGraph::updateFlights(RecordData* pRecord)
 {
+    if (mSession.container.isLive()) {
+        growRecord(pRecord);
+        return true;
+    }
     updateTimes();
     if (!(span() == mSpan))
         return updateRecord(pRecord);
@@ -278,8 +315,8 @@ RecordGraph::RecordKey RecordGraph::recordKey() const
     // A flight counts its times as its power cycle does: there the marker still stands where it was set.
     const CardContainer& container = mSession.container;
     const RecordCycle* pCycle = container.loadedCycle();
-    return {container.path(), container.loadedCycleNumber(), pCycle ? pCycle->dateTime : container.dateTime(),
-            pCycle ? pCycle->endTime : container.endTime()};
+    const double end = container.isLive() ? 0.0 : pCycle ? pCycle->endTime : container.endTime(); // none yet
+    return {container.path(), container.loadedCycleNumber(), pCycle ? pCycle->dateTime : container.dateTime(), end};
 }
 
 void RecordGraph::setTime(double time)

@@ -9,10 +9,12 @@
 #include "ui/graph/model/RecordGhost.h"
 #include "ui/graph/model/StripOrder.h"
 #include "ui/graph/model/TraceColours.h"
+#include "ui/graph/model/TraceSlot.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
 
+#include <array>
 #include <map>
 #include <set>
 
@@ -33,7 +35,7 @@ public:
     void updateProfile();
     // These return whether the record is the one that was shown before, in another unit or with other parameters.
     bool updateRecord(RecordData* pRecord);
-    /// The chosen flight, or what is worked out of the record, is another.
+    /// The chosen flight, or what is worked out of the record, is another; what comes in from a bus goes on.
     bool updateFlights(RecordData* pRecord);
     /// Profile and record in one pass over the latter.
     bool update(RecordData* pRecord);
@@ -94,6 +96,7 @@ private:
     [[nodiscard]] std::optional<DisplayLayout::Scale> zoomOf(const QString& name) const;
     void describeSlots();
     void fillRecord();
+    void growRecord(RecordData* pRecord);
 
     const Session mSession;
     GraphModel& mModel;
@@ -105,6 +108,7 @@ private:
     std::set<std::string> mBeside; ///< names of parameters that are shown without being ticked
     RecordGhost mGhost;
     RecordData* mpRecord = nullptr;
+    std::array<SlotFill, kSlots> mFills{};
     RecordKey mMarkedRecord;
     TimeSpan mSpan{};
     int mZarnMode = 0;

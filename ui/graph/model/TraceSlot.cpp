@@ -20,17 +20,20 @@ void describeSlot(ShownTraces& traces, int slot, const Trace& trace)
 namespace {
 
 /// Puts times and numbers of a trace, run after run, without what is not a number.
-template <typename Put> void fill(ShownTraces& traces, int slot, const Trace& trace, double from, double to, Put putRun)
+template <typename Put>
+void fill(ShownTraces& traces, int slot, const Trace& trace, const std::vector<PositionRange>& ranges, double from, double to, Put putRun)
 {
+    if (!traces.at(slot))
+        return;
     std::array<double, Trace::kRun> times;
     std::array<double, Trace::kRun> numbers;
-    const std::vector<PositionRange> ranges = trace.rangesIn(from, to);
     std::size_t samples = 0;
     for (const PositionRange& range : ranges)
         samples += range.last - range.first;
-    traces.reserve(slot, samples);
-    std::size_t before = traces.at(slot) ? traces.at(slot)->samples.size() : 0;
-    std::vector<uint32_t> breaks;
+    std::size_t before = traces.at(slot)->samples.size();
+    if (before == 0) // what grows little by little makes its room by itself
+        traces.reserve(slot, samples);
+    std::vector<uint32_t> breaks = traces.at(slot)->breaks;
     const auto put = [&](const TraceRun& run) {
         std::size_t kept = 0;
         for (std::size_t i = 0; i < run.times.size(); ++i) {
@@ -54,20 +57,48 @@ template <typename Put> void fill(ShownTraces& traces, int slot, const Trace& tr
 
 constexpr double kEver = std::numeric_limits<double>::infinity();
 
+void fillRanges(ShownTraces& traces, int slot, const Trace& trace, const std::vector<PositionRange>& ranges)
+{
+    // A time that is no number would be found nowhere.
+    fill(traces, slot, trace, ranges, -kEver, kEver, [&](auto times, auto numbers) {
+        if (std::ranges::all_of(times, [](double time) { return std::isfinite(time); }))
+            traces.append(slot, times, numbers);
+    });
+}
+
 } // namespace
 
 void fillSlot(GraphModel& model, int slot, const Trace& trace, double from, double to)
 {
-    fill(model.traces(), slot, trace, from, to, [&](auto times, auto numbers) { model.putValues(slot, times, numbers); });
+    fill(model.traces(), slot, trace, trace.rangesIn(from, to), from, to, [&](auto times, auto numbers) { model.putValues(slot, times, numbers); });
 }
 
 void fillSlot(ShownTraces& traces, int slot, const Trace& trace)
 {
-    // A time that is no number would be found nowhere.
-    fill(traces, slot, trace, -kEver, kEver, [&](auto times, auto numbers) {
-        if (std::ranges::all_of(times, [](double time) { return std::isfinite(time); }))
-            traces.append(slot, times, numbers);
-    });
+    fillRanges(traces, slot, trace, trace.rangesIn(-kEver, kEver));
+}
+
+SlotFill SlotFill::of(const Trace& trace)
+{
+    const std::size_t size = trace.size();
+    return size == 0 ? SlotFill() : SlotFill{size, trace.time(0), trace.time(size - 1)};
+}
+
+void growSlot(ShownTraces& traces, int slot, const Trace& trace, SlotFill& fill)
+{
+    const bool isGrown =
+        fill.count == 0 || (fill.count <= trace.size() && trace.time(0) == fill.first && trace.time(fill.count - 1) == fill.last);
+    if (!isGrown) {
+        traces.edit(slot, [](GraphParameter& parameter) {
+            parameter.samples.clear();
+            parameter.breaks.clear();
+        });
+        fill = {};
+    }
+    if (fill.count == trace.size())
+        return;
+    fillRanges(traces, slot, trace, {{fill.count, trace.size()}});
+    fill = SlotFill::of(trace);
 }
 
 } // namespace ZARN

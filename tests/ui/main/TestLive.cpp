@@ -1,0 +1,185 @@
+#include "live/LiveRecorder.h"
+#include "sim/DemoCard.h"
+#include "support/TestCycle.h"
+#include "trace/TraceSet.h"
+#include "ui/data/DataTabBar.h"
+#include "ui/data/DialogData.h"
+#include "ui/graph/WidgetGraphES.h"
+#include "ui/graph/model/TraceSlot.h"
+#include "ui/live/LiveBar.h"
+#include "ui/main/DesktopFixture.h"
+#include "ui/main/LiveController.h"
+
+#include <QLabel>
+
+#include <algorithm>
+
+using namespace ZARN;
+
+/// What a bus sends in the main window, against the same frames recorded and opened as a card.
+class TestLive : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void grows_data();
+    void grows();
+    void looksBack();
+
+private:
+    QTemporaryDir mFolder;
+    std::vector<LiveRecords> mBatches; ///< of a second
+    const QDateTime mNow{QDate(2026, 11, 22), QTime(12, 0), Qt::UTC};
+};
+
+namespace {
+
+LiveRecords contentOf(const RecordData& data)
+{
+    LiveRecords records;
+    data.forEachInOrder([&](uint32_t identifier, const StoredRecord& record) { records.push_back({identifier, record}); });
+    return records;
+}
+
+bool isSame(const LiveRecord& a, const LiveRecord& b)
+{
+    return a.identifier == b.identifier && a.record.ticks == b.record.ticks && a.record.payload == b.record.payload;
+}
+
+struct Desktop {
+    explicit Desktop(double window) : fixture(home.path()), main(fixture.open())
+    {
+        started(main);
+        for (const char* name : {"Engine Speed A", "Manifold Pressure A", "Lane State A", "Latitude", "Boost Lamp"})
+            fixture.profile.setSelected(name, true);
+        main.findChild<DataTabBar*>()->setCurrentIndex(eViewGraph);
+        pLive->beginRun(window);
+        main.slotProfileChanged();
+    }
+    const ShownTraces& traces() { return main.findChild<WidgetGraphES*>()->model().traces(); }
+
+    QTemporaryDir home;
+    DesktopFixture fixture;
+    DialogMain& main;
+    LiveController* pLive = main.findChild<LiveController*>();
+};
+
+} // namespace
+
+void TestLive::initTestCase()
+{
+    const QString path = mFolder.filePath("card");
+    std::string error;
+    QVERIFY2(DemoCard().write(path.toStdString(), {}, error), error.c_str());
+    Test::TestCycle card;
+    QVERIFY(card.container.readContainer(path) && card.container.loadCycle(2, -1));
+    LiveRecorder recorder(mFolder.filePath("run"));
+    QVERIFY(recorder.open());
+    uint64_t last = 0;
+    for (LiveRecord record : contentOf(card.container.recordData())) {
+        record.record.ticks = last = std::max(record.record.ticks, last + 1); // as a bus has them
+        if (mBatches.empty() || record.record.time() > mBatches.back().front().record.time() + 1)
+            mBatches.emplace_back();
+        mBatches.back().push_back(record);
+    }
+    for (const LiveRecords& batch : mBatches)
+        QVERIFY(recorder.append(batch, mNow));
+    QVERIFY(recorder.close());
+}
+
+void TestLive::grows_data()
+{
+    QTest::addColumn<double>("window");
+    QTest::newRow("all of it") << 1e6;
+    QTest::newRow("the oldest go") << 100.0;
+}
+
+void TestLive::grows()
+{
+    QFETCH(double, window);
+    Desktop desktop(window);
+    const CardContainer& live = desktop.fixture.container;
+    std::optional<LoadedCard> early;
+    LiveRecords atFirst;
+    for (std::size_t i = 0; i < mBatches.size(); ++i) {
+        desktop.pLive->take(mBatches[i], mNow);
+        if (i % 20 != 0)
+            continue;
+        desktop.pLive->showNewest();
+        QCoreApplication::processEvents();
+        if (i == 40) {
+            early = live.loaded();
+            atFirst = contentOf(*early->pRecord);
+        }
+    }
+    CardContainer recorded(desktop.fixture.console.console, desktop.fixture.profile.context(), nullProgress());
+    QVERIFY(recorded.readContainer(mFolder.filePath("run")) && recorded.loadCycle(1, -1));
+    const double end = recorded.endTime();
+    QTRY_VERIFY((desktop.pLive->showNewest(), live.startTime() >= end - 2 * window));
+    QVERIFY(live.startTime() <= std::max(end - window, recorded.startTime()) + 1);
+    QCOMPARE(live.endTime(), end);
+    QVERIFY(std::ranges::equal(contentOf(*early->pRecord), atFirst, isSame)); // whoever works on it is not disturbed
+
+    for (const ProfileDevice& device : desktop.fixture.profile.data()) {
+        for (const ProfileParameter& parameter : device.parameters) {
+            for (const double time : {end, end - 10, end - 60.5})
+                QCOMPARE(live.values().getValue(parameter, time), recorded.values().getValue(parameter, time));
+        }
+    }
+    // What was put behind what the graph had is what it has when it is filled at once.
+    const TraceSet whole(&live.recordData(), desktop.fixture.profile, ENumber::eDisplay, TraceSet::selected(desktop.fixture.profile.selection()));
+    QVERIFY(desktop.traces().count() >= 5);
+    for (int slot = 0; slot < desktop.traces().count(); ++slot) {
+        ShownTraces expected;
+        expected.setCount(1);
+        fillSlot(expected, 0, whole[static_cast<std::size_t>(slot)]);
+        const SampleSeries &shown = desktop.traces().at(slot)->samples, &wanted = expected.at(0)->samples;
+        QCOMPARE(shown.size(), wanted.size());
+        QCOMPARE(desktop.traces().at(slot)->breaks, expected.at(0)->breaks);
+        for (std::size_t i = 0; i < wanted.size(); i += 7)
+            QVERIFY(shown.time(i) == wanted.time(i) && shown.value(i) == wanted.value(i));
+        QCOMPARE(shown.range(1, shown.size() - 1).greatest, wanted.range(1, wanted.size() - 1).greatest);
+    }
+}
+
+void TestLive::looksBack()
+{
+    Desktop desktop(1e6);
+    auto* pData = desktop.main.findChild<DialogData*>();
+    const auto feed = [&](std::size_t from, std::size_t to) {
+        while (from < to)
+            desktop.pLive->take(mBatches[from++], mNow);
+    };
+    const auto latest = [this](std::size_t batches) { return mBatches[batches - 1].back().record.time(); };
+    feed(0, 100);
+    QTRY_COMPARE(pData->viewTime(), latest(100));
+    QTRY_COMPARE(desktop.main.findChild<WidgetGraphES*>()->model().window().contains(latest(100)), true);
+    pData->slotTableTime(20.0);
+    QTRY_VERIFY(desktop.pLive->isPaused());
+    const std::size_t all = mBatches.size();
+    feed(100, all);
+    QTest::qWait(200);
+    QCOMPARE(pData->viewTime(), 20.0);
+    QCOMPARE(desktop.fixture.container.endTime(), latest(100));
+
+    // What happened meanwhile is told, and shown with a click.
+    auto* pBar = desktop.main.findChild<LiveBar*>();
+    const auto* pIncidents = pBar->findChild<QLabel*>("liveIncidents");
+    QTRY_VERIFY_WITH_TIMEOUT(pIncidents->text().contains("Manifold Pressure 1,587 hPa"), 20000);
+    Q_EMIT pBar->signalIncident(0);
+    QTRY_VERIFY(pData->viewTime() > 20.0 && pData->graphSpan()->holds(pData->viewTime()));
+    desktop.pLive->setPaused(false);
+    QTRY_COMPARE(pData->viewTime(), latest(all));
+    QTRY_COMPARE_WITH_TIMEOUT(desktop.fixture.container.loadedCycle()->flights.size(), std::size_t{2}, 20000);
+
+    desktop.main.openFolder(mFolder.filePath("card"));
+    settled(desktop.main);
+    QVERIFY(!desktop.fixture.container.isLive() && !pBar->isVisible());
+    QCOMPARE(desktop.fixture.container.recordCycles().size(), std::size_t{3});
+    feed(0, 1); // belated
+    QTest::qWait(100);
+    QVERIFY(!desktop.fixture.container.isLive());
+}
+
+QTEST_MAIN(TestLive)
+#include "TestLive.moc"

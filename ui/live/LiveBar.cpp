@@ -1,0 +1,109 @@
+#include "ui/live/LiveBar.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace ZARN {
+
+namespace {
+
+constexpr std::size_t kMostSentences = 3;
+
+/// A line that is cut off rather than that it makes the window wider.
+QLabel* createLine(const char* name)
+{
+    auto* pLine = new QLabel;
+    pLine->setObjectName(name);
+    pLine->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    pLine->setTextInteractionFlags(Qt::TextBrowserInteraction);
+    return pLine;
+}
+
+} // namespace
+
+LiveBar::LiveBar(QWidget* pParent)
+    : QFrame(pParent), mpStatus(createLine("liveStatus")), mpNote(createLine("liveNote")), mpIncidents(createLine("liveIncidents")),
+      mpPause(new QPushButton(tr("Pause"))), mpReport(new QPushButton(tr("Report ..."))), mpConnect(new QPushButton)
+{
+    setObjectName("liveBar");
+    setAccessibleName(tr("Live"));
+    mpStatus->setTextFormat(Qt::PlainText);
+    mpNote->setTextFormat(Qt::PlainText);
+    mpNote->hide();
+    mpIncidents->setTextFormat(Qt::RichText);
+    mpPause->setCheckable(true);
+    mpPause->setToolTip(tr("Hold what is shown and look back, while everything is received and recorded on (space)"));
+    mpReport->setToolTip(tr("Write what was received so far as a flight report"));
+    auto* pRow = new QHBoxLayout;
+    pRow->addWidget(mpIncidents, 1);
+    for (QPushButton* pButton : {mpPause, mpReport, mpConnect})
+        pRow->addWidget(pButton);
+    auto* pLayout = new QVBoxLayout(this);
+    pLayout->setContentsMargins(6, 2, 6, 2);
+    pLayout->setSpacing(2);
+    pLayout->addWidget(mpStatus);
+    pLayout->addWidget(mpNote);
+    pLayout->addLayout(pRow);
+    setRunning(false, false);
+    setIncidents({});
+    connect(mpPause, &QPushButton::clicked, this, &LiveBar::signalPause);
+    connect(mpReport, &QPushButton::clicked, this, &LiveBar::signalReport);
+    connect(mpConnect, &QPushButton::clicked, this, [this] { Q_EMIT signalConnect(!mIsOpen); });
+    connect(mpIncidents, &QLabel::linkActivated, this, [this](const QString& place) { Q_EMIT signalIncident(place.toULongLong()); });
+}
+
+void LiveBar::setStatus(const QString& text, bool isTrouble)
+{
+    mpStatus->setText(text);
+    mpStatus->setToolTip(text);
+    QFont font = mpStatus->font();
+    font.setBold(isTrouble);
+    mpStatus->setFont(font);
+}
+
+void LiveBar::setNote(const QString& text)
+{
+    mpNote->setText(text);
+    mpNote->setToolTip(text);
+    mpNote->setVisible(!text.isEmpty());
+}
+
+void LiveBar::setIncidents(const std::vector<IncidentSentence>& sentences)
+{
+    QStringList parts, all;
+    for (std::size_t i = 0; i < sentences.size(); ++i) {
+        const IncidentSentence& sentence = sentences[i];
+        const QString text = (sentence.time + " " + sentence.text() + (sentence.when.isEmpty() ? QString() : ", " + sentence.when)).toHtmlEscaped();
+        all.append(text);
+        if (i < kMostSentences)
+            parts.append(QStringLiteral("<a href=\"%1\">%2</a>").arg(QString::number(i), sentence.state > 1 ? "<b>" + text + "</b>" : text));
+    }
+    if (sentences.size() > kMostSentences)
+        parts.append(tr("and %n more", nullptr, static_cast<int>(sentences.size() - kMostSentences)));
+    mpIncidents->setText(parts.isEmpty() ? (mpIncidents->isEnabled() ? tr("Nothing out of order so far") : QString()) : parts.join(" &nbsp;|&nbsp; "));
+    mpIncidents->setToolTip(all.isEmpty() ? QString() : "<qt>" + all.join("<br/>") + "</qt>");
+}
+
+void LiveBar::setPaused(bool isPaused)
+{
+    mpPause->setChecked(isPaused);
+    mpPause->setText(isPaused ? tr("Go on") : tr("Pause"));
+}
+
+void LiveBar::takeKeys()
+{
+    mpPause->setFocus();
+}
+
+void LiveBar::setRunning(bool isOpen, bool hasData)
+{
+    mIsOpen = isOpen;
+    mpPause->setEnabled(hasData);
+    mpReport->setEnabled(hasData);
+    mpIncidents->setEnabled(hasData);
+    mpConnect->setText(isOpen ? tr("Disconnect") : tr("Connect"));
+}
+
+} // namespace ZARN

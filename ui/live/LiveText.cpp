@@ -1,0 +1,88 @@
+#include "ui/live/LiveText.h"
+
+#include <QDir>
+#include <QLocale>
+#include <QStringList>
+
+#include <cmath>
+
+namespace ZARN {
+
+namespace {
+
+constexpr qint64 kRatePeriod = 900;    // milliseconds
+constexpr int kUsualBitRate = 1'000'000;
+
+QString number(double value)
+{
+    return QLocale().toString(static_cast<qlonglong>(std::llround(value)));
+}
+
+} // namespace
+
+void LiveText::take(const LiveStatus& status)
+{
+    mStatus = status;
+    mWasConnected |= status.state == BusLink::eConnected;
+    const qint64 elapsed = mClock.isValid() ? mClock.elapsed() : 0;
+    if (mClock.isValid() && elapsed < kRatePeriod)
+        return;
+    mClock.start();
+    if (elapsed > 0) {
+        const auto rate = [elapsed](uint64_t now, uint64_t before) { return static_cast<double>(now - before) * 1000.0 / static_cast<double>(elapsed); };
+        mFrames = rate(status.counts.frames, mBefore.frames);
+        mBits = rate(status.counts.bits, mBefore.bits);
+    }
+    mBefore = status.counts;
+}
+
+QString LiveText::connection() const
+{
+    if (mStatus.state == BusLink::eClosed)
+        return tr("%1: disconnected").arg(mBus);
+    if (mStatus.state == BusLink::eConnected)
+        return mStatus.busStatus.isEmpty() ? tr("%1: connected").arg(mBus) : tr("%1: connected, bus %2").arg(mBus, mStatus.busStatus);
+    const QString text = mWasConnected ? tr("%1: connection lost, trying again ...") : tr("%1: connecting ...");
+    return text.arg(mBus) + (mStatus.reason.isEmpty() ? QString() : " (" + mStatus.reason + ")");
+}
+
+QString LiveText::counts() const
+{
+    const LiveCounts& counts = mStatus.counts;
+    QStringList parts;
+    if (mStatus.state == BusLink::eConnected) {
+        const int bitRate = mBitRate > 0 ? mBitRate : kUsualBitRate;
+        parts << tr("%1 frames/s").arg(number(mFrames))
+              << tr("load %1 % of %2 kbit/s").arg(number(mBits * 100.0 / bitRate), number(bitRate / 1000.0));
+    } else {
+        parts << tr("%1 frames").arg(number(static_cast<double>(counts.frames)));
+    }
+    parts << tr("%1 errors").arg(number(static_cast<double>(counts.errors))) << tr("%1 times frames lost").arg(number(static_cast<double>(counts.losses)));
+    if (counts.remote + counts.fd > 0)
+        parts << tr("%1 frames of other kinds").arg(number(static_cast<double>(counts.remote + counts.fd)));
+    return parts.join(", ");
+}
+
+QString LiveText::recording() const
+{
+    if (!mStatus.recordingError.isEmpty())
+        return tr("NOT RECORDED: %1").arg(mStatus.recordingError);
+    if (mStatus.recorded == 0 && !mStatus.isRecording)
+        return {};
+    return tr("%1 frames recorded").arg(number(static_cast<double>(mStatus.recorded)));
+}
+
+QString LiveText::text() const
+{
+    QStringList parts{connection(), counts()};
+    if (const QString recorded = recording(); !recorded.isEmpty())
+        parts << recorded;
+    return parts.join("  |  ");
+}
+
+bool LiveText::isTrouble() const
+{
+    return !mStatus.recordingError.isEmpty() || (mStatus.state == BusLink::eConnecting && mWasConnected);
+}
+
+} // namespace ZARN

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "live/LiveWorker.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+
+namespace ZARN {
+
+/// Tells people how a bus is, in one line, with its rates over the last second or so.
+class LiveText {
+    Q_DECLARE_TR_FUNCTIONS(ZARN::LiveText)
+
+public:
+    /// @param bitRate of the bus; 0 when it is not known
+    explicit LiveText(QString bus = {}, int bitRate = 0) : mBus(std::move(bus)), mBitRate(bitRate) {}
+
+    /// To be called with each status that is told.
+    void take(const LiveStatus& status);
+    [[nodiscard]] QString text() const;
+    /// Whether something is not as it should be.
+    [[nodiscard]] bool isTrouble() const;
+
+private:
+    [[nodiscard]] QString connection() const;
+    [[nodiscard]] QString counts() const;
+    [[nodiscard]] QString recording() const;
+
+    QString mBus;
+    int mBitRate;
+    LiveStatus mStatus;
+    bool mWasConnected = false;
+    QElapsedTimer mClock;
+    LiveCounts mBefore; ///< when the rates were worked out
+    double mFrames = 0.0;  ///< a second
+    double mBits = 0.0;    ///< a second
+};
+
+} // namespace ZARN
