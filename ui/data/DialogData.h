@@ -56,8 +56,6 @@ public:
     void setCourse(const std::shared_ptr<const CycleCourse>& pCourse);
     /// Puts a bar between tabs and views; takes it over.
     void addBar(QWidget* pBar);
-    /// Order, heights, scale, colours and mode of the graph; what is ticked is not touched.
-    void setLayout(const DisplayLayout& layout) { mViews.view(eViewGraph).setLayout(layout); }
     /// What is ticked, as the graph shows it; without a name.
     [[nodiscard]] DisplayLayout layout() const { return mViews.view(eViewGraph).layout().value_or(DisplayLayout()); }
 

@@ -193,10 +193,10 @@ void WidgetReplayBar::arrange()
     mpTime->setFixedWidth(std::max(kEntryWidth, mpTime->sizeHint().width()));
     mpSpeed->setFixedWidth(std::max(kEntryWidth, mpSpeed->sizeHint().width()));
     const int text = widthOfText(), icon = mpStop->widthFor({});
-    EFit fit = eAll;
-    while (fit != eClocks && width() < widthFor(fit, fit == eAll ? text : icon))
-        fit = static_cast<EFit>(fit + 1);
-    const int buttonWidth = width() >= widthFor(fit, text) ? text : icon;
+    // The best first: texts beside the clocks, then icons there, which leave the position its room.
+    const std::pair<EFit, int> ways[] = {{eAll, text}, {eAllButPosition, text}, {eClocksAndReplay, text}, {eClocksAndReplay, icon}, {eClocks, text}};
+    const auto* pWay = std::ranges::find_if(ways, [this](const auto& way) { return width() >= widthFor(way.first, way.second); });
+    const auto [fit, buttonWidth] = pWay == std::end(ways) ? std::pair(eClocks, icon) : *pWay;
     mpReplay->setFixedWidth(buttonWidth);
     mpStop->setFixedWidth(buttonWidth);
     if (fit != mFit)
