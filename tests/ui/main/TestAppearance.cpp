@@ -75,7 +75,7 @@ void TestAppearance::damagedColours_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QString>("told"); // empty: it is in force
-    QTest::newRow("own colours") << QByteArray("# mine\n\naccent #a02060 #b04080\n") << "";
+    QTest::newRow("own colours") << QByteArray("# mine\n\naccent #a02060 #b84888\n") << "";
     QTest::newRow("no such name") << QByteArray("text #000000\nGround #ffffff") << "Line 2: there is no colour \"Ground\"";
     QTest::newRow("no colour") << QByteArray("text #00000g #ffffff") << "\"#00000g\" is no colour";
     QTest::newRow("half a line") << QByteArray("text") << "\"text\" has no colour";
