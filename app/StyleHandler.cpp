@@ -2,7 +2,6 @@
 
 #include <QFile>
 #include <QRegularExpression>
-#include <QStringList>
 #include <QTextStream>
 
 namespace {
@@ -40,7 +39,25 @@ QString StyleHandler::readStyle(const QString& path)
     const QStringList pieces = mStyleSheet.split('}');
     for (int i = 0; i + 1 < pieces.size(); ++i)
         readSection(pieces[i]);
+    mStyleSheet = insert(mStyleSheet, mShared);
     return mStyleSheet;
+}
+
+QString StyleHandler::insert(QString sheet, const Properties& variables)
+{
+    for (const auto& [name, value] : variables)
+        sheet.replace("$(" + name + ")", value);
+    return sheet;
+}
+
+QStringList StyleHandler::unknown() const
+{
+    static const QRegularExpression reference("\\$\\(([^)]*)\\)");
+    QStringList names;
+    for (auto found = reference.globalMatch(mStyleSheet); found.hasNext();)
+        names.append(found.next().captured(1));
+    names.removeDuplicates();
+    return names;
 }
 
 void StyleHandler::readSection(const QString& piece)
@@ -57,8 +74,7 @@ void StyleHandler::readSection(const QString& piece)
 void StyleHandler::readVariables(const QString& body)
 {
     forEachProperty(body, [this](const QString& name, const QString& value) { mVariables[name] = value; });
-    for (const auto& [name, value] : mVariables)
-        mStyleSheet.replace("$(" + name + ")", value);
+    mStyleSheet = insert(mStyleSheet, mVariables);
 }
 
 void StyleHandler::readEntry(const QString& name, const QString& body)

@@ -121,7 +121,8 @@ void applyStyle(Kernel& kernel)
 {
     std::string file;
     CmdLine::instance().getParameter("-s", file);
-    kernel.loadStyleFile(file.empty() ? QString(":/styles/style.ZARN.css") : QString::fromStdString(file));
+    kernel.readColours(QString::fromStdString(DataHandler::instance().dataPath() + "/palette.txt"));
+    kernel.loadStyleFile(file.empty() ? Kernel::kBuiltInStyle : QString::fromStdString(file));
 }
 
 QString checkGraphics(const Console& console)

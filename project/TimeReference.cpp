@@ -44,6 +44,12 @@ double TimeReference::told(double seconds) const
     return mKind == ETimeReference::eClock ? told - std::floor(told / kDay) * kDay : told;
 }
 
+double TimeReference::meant(double told, double from) const
+{
+    const double seconds = told - mShift;
+    return mKind == ETimeReference::eClock ? seconds + std::ceil((from - seconds) / kDay) * kDay : seconds;
+}
+
 int64_t TimeReference::toldMilliseconds(int64_t milliseconds) const
 {
     const int64_t told = milliseconds + std::llround(mShift * 1000);

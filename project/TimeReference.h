@@ -26,6 +26,8 @@ public:
     [[nodiscard]] double shift() const { return mShift; }
     /// The seconds that are told of a time since power-up; those of a clock begin anew every day.
     [[nodiscard]] double told(double seconds) const;
+    /// The other way: the first time since power-up, from that one on, of which these seconds are told. Only those of a clock are told of several.
+    [[nodiscard]] double meant(double told, double from) const;
     [[nodiscard]] int64_t toldMilliseconds(int64_t milliseconds) const;
     /// "hh:mm:ss.zzz", as lists have it.
     [[nodiscard]] QString text(int64_t milliseconds) const;

@@ -2,9 +2,11 @@
 
 #include "app/Progress.h"
 #include "app/SafeFile.h"
+#include "app/StyleHandler.h"
 #include "report/HtmlStyle.h"
 #include "report/ReportText.h"
 #include "ui/canvas/CanvasFont.h"
+#include "ui/canvas/ColourTable.h"
 #include "ui/overview/model/VerdictSign.h"
 
 #include <QBuffer>
@@ -30,7 +32,7 @@ QByteArray escaped(const QString& text)
 QByteArray fontFace(bool bold)
 {
     return "@font-face{font-family:\"ZARN Text\";font-weight:" + QByteArray(bold ? "700" : "400") + ";src:url(data:font/otf;base64," +
-           textFontFile(bold).toBase64() + ") format(\"opentype\")}\n";
+           canvasFontFile(bold).toBase64() + ") format(\"opentype\")}\n";
 }
 
 const char* kindOf(ReportParagraph::EKind kind)
@@ -62,7 +64,8 @@ void HtmlReport::begin()
     mText += HtmlStyle::kPolicy;
     mText += "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n<meta name=\"generator\" content=\"" +
              escaped(mDocument.creator) + "\">\n<title>" + title + ", " + head + "</title>\n<style>\n";
-    mText += fontFace(false) + fontFace(true) + HtmlStyle::kSheet;
+    mText += fontFace(false) + fontFace(true) +
+             StyleHandler::insert(HtmlStyle::kSheet, ColourTable::builtIn().variables(ColourTable::ePaper)).toUtf8();
     mText += "</style>\n</head>\n<body>\n<header><h1>" + title + "</h1><p>" + head + "</p></header>\n<main>\n";
 }
 

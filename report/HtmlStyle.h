@@ -8,13 +8,14 @@ namespace ZARN::HtmlStyle {
 constexpr const char* kPolicy = "<meta http-equiv=\"Content-Security-Policy\" content=\"default-src 'none'; img-src data:; font-src data:; "
                                 "style-src 'unsafe-inline'\">\n";
 
+/// Colours are those of paper by their names.
 constexpr const char* kSheet = R"(:root{color-scheme:light}
-body{font:15px/1.5 "ZARN Text","DejaVu Sans",sans-serif;color:#14212e;background:#fff;max-width:60rem;margin:1.5rem auto;padding:0 1.5rem}
-h1{font-size:1.7rem;color:#12588f;margin:0}
-h2{font-size:1.15rem;color:#12588f;border-bottom:1px solid #b4bfca;margin:2rem 0 .6rem}
+body{font:15px/1.5 "ZARN Text","DejaVu Sans",sans-serif;color:$(text);background:$(paper);max-width:60rem;margin:1.5rem auto;padding:0 1.5rem}
+h1{font-size:1.7rem;color:$(accent);margin:0}
+h2{font-size:1.15rem;color:$(accent);border-bottom:1px solid $(border);margin:2rem 0 .6rem}
 p{margin:.3rem 0}
-header p,.quiet,dt,caption,footer{color:#4a5b6b}
-.alert{color:#961e0f;font-weight:700}
+header p,.quiet,dt,caption,footer{color:$(quiet)}
+.alert{color:$(alert);font-weight:700}
 .verdict{display:flex;align-items:center;margin:1.2rem 0}
 .verdict img{width:48px;height:48px;margin-right:1rem}
 .word{font-size:1.5rem;font-weight:700;line-height:1.2}
@@ -37,10 +38,10 @@ figure img{width:100%;height:auto}
 table{border-collapse:collapse}
 caption{text-align:left;position:absolute;clip-path:inset(50%);width:1px;height:1px;overflow:hidden}
 th,td{text-align:left;font-weight:400;padding:.1rem 1.2rem .1rem 0;vertical-align:top}
-thead th{font-weight:700;color:#4a5b6b;border-bottom:1px solid #b4bfca}
+thead th{font-weight:700;color:$(quiet);border-bottom:1px solid $(border)}
 .number{text-align:right}
-tbody tr:nth-child(even){background:#f4f7fa}
-footer{margin-top:2rem;border-top:1px solid #b4bfca}
+tbody tr:nth-child(even){background:$(alternate)}
+footer{margin-top:2rem;border-top:1px solid $(border)}
 @media screen and (max-width:40rem){.pairs div{width:100%}}
 @media print{body{font-size:9pt;max-width:none;margin:0;padding:0}article,figure,tr,.verdict,.figures{break-inside:avoid}h2,.quiet{break-after:avoid}
 thead{display:table-header-group}.wide{overflow:visible}@page{margin:15mm}}

@@ -14,7 +14,11 @@ namespace {
 constexpr double kMargin = 40.0; // points
 constexpr double kTop = 50.0;
 constexpr double kHeadLine = 30.0; // where the head stands
-constexpr CanvasText kSmall{7.0, PaperStyle::kQuiet, false, Qt::AlignLeft | Qt::AlignTop, false};
+
+CanvasText smallText(Qt::Alignment align = Qt::AlignLeft | Qt::AlignTop)
+{
+    return {7.0, PaperStyle::colours().quiet, false, align, false};
+}
 
 } // namespace
 
@@ -57,20 +61,19 @@ void PaperPages::text(double x, const QString& text, const CanvasText& style, do
 void PaperPages::rule(double y)
 {
     draw([line = std::vector<QPointF>{{left(), y}, {mRight, y}}](QPainter&, PaperCanvas& canvas) {
-        canvas.lines(line, {PaperStyle::kRule, 0.5});
+        canvas.lines(line, {PaperStyle::colours().rule, 0.5});
     });
 }
 
 void PaperPages::drawFrame(PaperCanvas& canvas, const QString& number) const
 {
-    CanvasText right = kSmall;
-    right.align = Qt::AlignRight | Qt::AlignTop;
+    const CanvasText small = smallText();
     const double foot = mBottom + PaperStyle::kLine;
-    const double rest = width() - PaperCanvas::size(number, kSmall).width() - PaperStyle::kGap;
-    canvas.text({left(), kHeadLine}, PaperCanvas::shortened(mHead, width(), kSmall), kSmall);
-    canvas.lines(std::vector<QPointF>{{left(), foot - 3}, {mRight, foot - 3}}, {PaperStyle::kRule, 0.5});
-    canvas.text({left(), foot}, PaperCanvas::shortened(mFoot, rest, kSmall), kSmall);
-    canvas.text({mRight, foot}, number, right);
+    const double rest = width() - PaperCanvas::size(number, small).width() - PaperStyle::kGap;
+    canvas.text({left(), kHeadLine}, PaperCanvas::shortened(mHead, width(), small), small);
+    canvas.lines(std::vector<QPointF>{{left(), foot - 3}, {mRight, foot - 3}}, {PaperStyle::colours().rule, 0.5});
+    canvas.text({left(), foot}, PaperCanvas::shortened(mFoot, rest, small), small);
+    canvas.text({mRight, foot}, number, smallText(Qt::AlignRight | Qt::AlignTop));
 }
 
 bool PaperPages::write(QPdfWriter& writer, const QString& pageOf, Progress& progress) const

@@ -25,7 +25,7 @@ constexpr double kTimes = 42.0;
 constexpr qsizetype kMostLines = 3; // of a cell
 constexpr qsizetype kLongText = 40; // lines of a paragraph
 
-CanvasText style(bool bold = false, const QColor& colour = kInk, double size = kText)
+CanvasText style(bool bold = false, const QColor& colour = colours().ink, double size = kText)
 {
     return {size, colour, bold};
 }
@@ -77,7 +77,7 @@ void PaperReport::lines(double x, const QStringList& lines, const CanvasText& st
 
 void PaperReport::title(const QString& text)
 {
-    mPages.text(mPages.left(), text, style(true, kAccent, 20.0), mPages.width());
+    mPages.text(mPages.left(), text, style(true, colours().accent, 20.0), mPages.width());
     mPages.advance(28.0);
 }
 
@@ -110,7 +110,7 @@ void PaperReport::put(const ReportHeading& heading)
     }
     mPages.reserve(std::min(least, mPages.mostRoom()));
     mPages.advance(mPages.isAtTop() ? 0.0 : 12.0);
-    mPages.text(mPages.left(), heading.text, style(true, kAccent, 11.0), mPages.width());
+    mPages.text(mPages.left(), heading.text, style(true, colours().accent, 11.0), mPages.width());
     mPages.advance(15.0);
     mPages.rule(mPages.y() - 1);
     mPages.advance(3.0);
@@ -118,7 +118,7 @@ void PaperReport::put(const ReportHeading& heading)
 
 void PaperReport::put(const ReportParagraph& paragraph)
 {
-    const QColor& colour = paragraph.kind == ReportParagraph::eQuiet ? kQuiet : paragraph.kind == ReportParagraph::eAlert ? kAlert : kInk;
+    const QColor& colour = paragraph.kind == ReportParagraph::eQuiet ? colours().quiet : paragraph.kind == ReportParagraph::eAlert ? colours().alert : colours().ink;
     const CanvasText text = style(paragraph.kind == ReportParagraph::eAlert, colour);
     lines(mPages.left(), wrapped(paragraph.text, mPages.width(), text, kLongText), text);
 }
@@ -130,9 +130,9 @@ void PaperReport::put(const ReportVerdict& verdict)
     mPages.reserve(kLarge);
     const double top = mPages.y();
     sign(verdict.verdict, mPages.left(), kLarge);
-    mPages.text(x, verdict.word, style(true, kInk, 16.0), mPages.right() - x);
+    mPages.text(x, verdict.word, style(true, colours().ink, 16.0), mPages.right() - x);
     mPages.advance(22.0);
-    lines(x, wrapped(verdict.sentence, mPages.right() - x, style(false, kInk, 10.0), 2), style(false, kInk, 10.0));
+    lines(x, wrapped(verdict.sentence, mPages.right() - x, style(false, colours().ink, 10.0), 2), style(false, colours().ink, 10.0));
     mPages.advance(std::max(0.0, top + kLarge - mPages.y()) + 6.0);
 }
 
@@ -143,9 +143,9 @@ void PaperReport::put(const ReportFigures& figures)
     const double share = mPages.width() / static_cast<double>(std::max<std::size_t>(figures.entries.size(), 1));
     double x = mPages.left();
     for (const auto& [name, value] : figures.entries) {
-        mPages.text(x, value, style(true, kInk, 14.0), share - kGap);
+        mPages.text(x, value, style(true, colours().ink, 14.0), share - kGap);
         mPages.advance(18.0);
-        mPages.text(x, name, style(false, kQuiet), share - kGap);
+        mPages.text(x, name, style(false, colours().quiet), share - kGap);
         mPages.advance(-18.0);
         x += share;
     }
@@ -167,7 +167,7 @@ void PaperReport::put(const ReportPairs& pairs)
         const double top = mPages.y();
         for (std::size_t j = 0; j < values.size(); ++j) {
             const double x = mPages.left() + (j == 0 ? 0.0 : half);
-            mPages.text(x, pairs.entries[i + j].name, style(false, kQuiet), indent);
+            mPages.text(x, pairs.entries[i + j].name, style(false, colours().quiet), indent);
             lines(x + indent, values[j], style());
             mPages.advance(top - mPages.y());
         }
@@ -203,13 +203,13 @@ void PaperReport::put(const ReportIncident& incident)
     const double text = x + kTimes;
     const QStringList what = wrapped(incident.what, mPages.right() - text, style(true), kLongText);
     const QString rest = incident.rest.startsWith(", ") ? incident.rest.mid(2) : incident.rest;
-    const QStringList more = rest.isEmpty() ? QStringList() : wrapped(rest, mPages.right() - text, style(false, kQuiet), kLongText);
+    const QStringList more = rest.isEmpty() ? QStringList() : wrapped(rest, mPages.right() - text, style(false, colours().quiet), kLongText);
     const double graph = incident.graph.draw ? incident.graph.height + 5.0 : 0.0;
     mPages.reserve(std::min(kLine * static_cast<double>(what.size() + more.size()) + graph + 6.0, mPages.mostRoom()));
     sign(incident.verdict, mPages.left(), kSign);
     mPages.text(x, incident.time, style(), kTimes);
     lines(text, what, style(true));
-    lines(text, more, style(false, kQuiet));
+    lines(text, more, style(false, colours().quiet));
     mPages.advance(3.0);
     if (incident.graph.draw)
         drawPicture(incident.graph, incident.graph.height);
@@ -254,7 +254,7 @@ void PaperReport::row(const std::vector<ReportColumn>& columns, const std::vecto
     const double top = mPages.y();
     double x = mPages.left();
     for (std::size_t i = 0; i < columns.size(); ++i) {
-        CanvasText text = style(isTitle, isTitle ? kQuiet : kInk);
+        CanvasText text = style(isTitle, isTitle ? colours().quiet : colours().ink);
         text.align = (columns[i].isNumber ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignTop;
         for (const QString& line : cells[i]) {
             mPages.text(columns[i].isNumber ? x + widths[i] : x, line, text, widths[i]);

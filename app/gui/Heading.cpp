@@ -1,11 +1,10 @@
 #include "app/gui/Heading.h"
 
 #include <QEvent>
-#include <QFontInfo>
 
 namespace ZARN {
 
-Heading::Heading(const QString& text, QWidget* pParent, double size) : QLabel(text, pParent), mSize(size)
+Heading::Heading(const QString& text, QWidget* pParent, EText size) : QLabel(text, pParent), mSize(size)
 {
     setObjectName("heading");
 }
@@ -15,7 +14,7 @@ void Heading::follow()
     if (!parentWidget())
         return;
     parentWidget()->ensurePolished();
-    const QString style = QString("font-size: %1px;").arg(qRound(mSize * QFontInfo(parentWidget()->font()).pixelSize()));
+    const QString style = QString("font-size: %1px;").arg(textSize(*parentWidget(), mSize));
     if (style != styleSheet())
         setStyleSheet(style);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/gui/TextSize.h"
+
 #include <QLabel>
 
 namespace ZARN {
@@ -9,9 +11,7 @@ class Heading : public QLabel {
     Q_OBJECT
 
 public:
-    static constexpr double kWindow = 1.7; ///< times the text: the heading of a window
-
-    explicit Heading(const QString& text = {}, QWidget* pParent = nullptr, double size = kWindow);
+    explicit Heading(const QString& text = {}, QWidget* pParent = nullptr, EText size = EText::eTitle);
 
     /// Takes the size of the parent's font.
     void follow();
@@ -21,7 +21,7 @@ protected:
     void showEvent(QShowEvent* pEvent) override;
 
 private:
-    const double mSize;
+    const EText mSize;
 };
 
 } // namespace ZARN

@@ -1,5 +1,7 @@
 #include "app/gui/ImageHandler.h"
 
+#include "ui/canvas/Palette.h"
+
 #include <QFile>
 #include <QIconEngine>
 #include <QPainter>
@@ -7,21 +9,19 @@
 
 namespace {
 
-const QColor kLineColour(0x1f, 0x3a, 0x5f);
 constexpr qreal kDisabledOpacity = 0.35;
 
 /// Draws one line drawing; unlike the toolkit's own engine it needs no plug-in and can colour the lines.
 class LineIconEngine : public QIconEngine {
 public:
-    LineIconEngine(const QByteArray& drawing, const QColor& colour)
-        : mDrawing(QByteArray(drawing).replace("currentColor", colour.name().toLatin1())),
-          mSelected(QByteArray(drawing).replace("currentColor", "#ffffff"))
-    {
-    }
+    /// @param colour of its own; an invalid one is that of the palette
+    LineIconEngine(const QByteArray& drawing, const QColor& colour) : mDrawing(drawing), mColour(colour) {}
 
     void paint(QPainter* pPainter, const QRect& rect, QIcon::Mode mode, QIcon::State /*state*/) override
     {
-        QSvgRenderer renderer(mode == QIcon::Selected ? mSelected : mDrawing);
+        const ZARN::Palette& palette = ZARN::Palette::screen();
+        const QColor colour = mode == QIcon::Selected ? palette.onAccent : mColour.isValid() ? mColour : palette.icon;
+        QSvgRenderer renderer(QByteArray(mDrawing).replace("currentColor", colour.name().toLatin1()));
         pPainter->save();
         pPainter->setRenderHint(QPainter::Antialiasing);
         if (mode == QIcon::Disabled)
@@ -43,7 +43,7 @@ public:
 
 private:
     QByteArray mDrawing;
-    QByteArray mSelected; ///< on the dark ground of a chosen entry
+    QColor mColour;
 };
 
 } // namespace
@@ -61,7 +61,7 @@ void ImageHandler::initialise()
 
 QIcon ImageHandler::icon(const QString& name)
 {
-    return icon(name, kLineColour);
+    return icon(name, QColor());
 }
 
 QIcon ImageHandler::icon(const QString& name, const QColor& colour)

@@ -9,8 +9,10 @@
 
 namespace ZARN {
 
-Kernel::Kernel(const Property& property, StyleHandler& style, Starter starter)
-    : mProperty(property), mStyle(style), mStarter(std::move(starter))
+const QString Kernel::kBuiltInStyle = QStringLiteral(":/styles/style.ZARN.css");
+
+Kernel::Kernel(const Property& property, StyleHandler& style, Starter starter, const Appearance& appearance)
+    : mProperty(property), mStyle(style), mStarter(std::move(starter)), mAppearance(appearance)
 {
 }
 
@@ -24,8 +26,34 @@ Kernel& Kernel::instance()
 
 void Kernel::loadStyleFile(const QString& styleFile)
 {
-    mStyle.readStyle(styleFile);
+    mStyleFile = styleFile;
+    applyPalette();
+}
+
+void Kernel::readColours(const QString& file)
+{
+    const QString problem = mAppearance.readColours(file);
+    mColourProblem = problem.isEmpty() ? QString() : file + "\n" + problem;
+}
+
+void Kernel::applyPalette()
+{
+    mAppearance.apply(static_cast<EAppearance>(Settings::kPalette.get(mProperty)));
+    mStyle.setShared(mAppearance.variables());
+    mStyleProblem.clear();
+    if (!mStyleFile.isEmpty())
+        mStyle.readStyle(mStyleFile);
+    if (const QStringList unknown = mStyle.unknown(); !unknown.isEmpty()) { // the toolkit would refuse all of it
+        mStyleProblem = mStyleFile + "\n" + QCoreApplication::translate("ZARN::Kernel", "Unknown variables: %1").arg(unknown.join(", "));
+        mStyle.readStyle(kBuiltInStyle);
+    }
     applyFontSize(Settings::kFontSize.get(mProperty));
+    Appearance::renewLinks();
+}
+
+bool Kernel::followsSystem() const
+{
+    return static_cast<EAppearance>(Settings::kPalette.get(mProperty)) == EAppearance::eSystem && !mAppearance.isApplying();
 }
 
 void Kernel::applyFontSize(int pixels)

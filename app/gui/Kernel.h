@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/gui/Appearance.h"
+
 #include <QStringList>
 
 #include <functional>
@@ -19,7 +21,9 @@ public:
     /// Starts a program with arguments on its own, independent of this process.
     using Starter = std::function<bool(const QString& program, const QStringList& arguments)>;
 
-    Kernel(const Property& property, StyleHandler& style, Starter starter);
+    static const QString kBuiltInStyle;
+
+    Kernel(const Property& property, StyleHandler& style, Starter starter, const Appearance& appearance = Appearance());
     static Kernel& instance();
 
     void setApplication(QApplication* pApplication) { mpApplication = pApplication; }
@@ -28,6 +32,14 @@ public:
 
     /// Reads a style sheet file and applies it with the font size of the settings.
     void loadStyleFile(const QString& styleFile);
+    /// The user's own colours, for what is applied from then on.
+    void readColours(const QString& file);
+    /// Gives all windows the palette of the settings, at once.
+    void applyPalette();
+    /// Whether the palette is that of the system, and what comes of the toolkit is not of the kernel's own making.
+    [[nodiscard]] bool followsSystem() const;
+    /// What is wrong with the style file or the user's colours: what comes with the program is in force instead. Empty when nothing is.
+    [[nodiscard]] QString styleProblem() const { return mStyleProblem.isEmpty() ? mColourProblem : mStyleProblem; }
     /// Applies the sheet that was read last with a font size in pixels.
     void applyFontSize(int pixels);
 
@@ -41,6 +53,9 @@ private:
     const Property& mProperty;
     StyleHandler& mStyle;
     Starter mStarter;
+    Appearance mAppearance;
+    QString mStyleFile; ///< that was loaded last
+    QString mStyleProblem, mColourProblem;
     QApplication* mpApplication = nullptr;
     DialogMain* mpMainWindow = nullptr;
     bool mRestarts = false;

@@ -18,7 +18,7 @@ struct CanvasPen {
     double dash = 0.0; ///< length of the dashes and of the gaps between them in pixels; 0 draws solid lines
 };
 
-/// How a text is drawn. Always the program's own monospaced font, so that a picture looks alike on every machine.
+/// How a text is drawn. Always the program's own font, so that a picture looks alike on every machine.
 struct CanvasText {
     double size = 12.0; ///< height of the em square in pixels
     QColor colour = Qt::black;

@@ -1,5 +1,7 @@
 #include "ui/canvas/CanvasFont.h"
 
+#include "ui/canvas/FontAdvances.h"
+
 #include <QFile>
 #include <QFontDatabase>
 
@@ -16,21 +18,9 @@ namespace ZARN {
 namespace {
 
 // Of the font's own tables, in em.
-constexpr double kAdvance = 0.65;
-constexpr double kNarrow = 0.3;
+constexpr double kDigit = 0.65; // of every digit, regular and bold
 constexpr double kAscent = 0.965;
 constexpr double kLine = 1.22;
-
-double advance(QChar character)
-{
-    switch (character.unicode()) {
-    case '.':
-    case ',':
-    case ':':
-    case 0x00b7: return kNarrow;
-    default: return kAdvance;
-    }
-}
 
 QByteArray content(const char* name)
 {
@@ -44,9 +34,10 @@ QString family(const QByteArray& file)
     return QFontDatabase::applicationFontFamilies(QFontDatabase::addApplicationFontFromData(file)).value(0);
 }
 
-QFont font(const QString& family, double size, bool bold)
+QFont fontOf(double size, bool bold)
 {
-    QFont font(family);
+    static const QString families[] = {family(canvasFontFile(false)), family(canvasFontFile(true))};
+    QFont font(families[bold ? 1 : 0]);
     font.setPixelSize(std::max(1, static_cast<int>(std::lround(size))));
     font.setBold(bold);
     font.setHintingPreference(QFont::PreferNoHinting);
@@ -57,37 +48,38 @@ QFont font(const QString& family, double size, bool bold)
 
 QByteArray canvasFontFile(bool bold)
 {
-    return content(bold ? ":monofont-bold.ttf" : ":monofont.ttf");
+    return content(bold ? ":textfont-bold.otf" : ":textfont.otf");
 }
 
-QByteArray textFontFile(bool bold)
+QByteArray paletteFile()
 {
-    return content(bold ? ":textfont-bold.otf" : ":textfont.otf");
+    return content(":palette.txt");
 }
 
 QFont canvasFont(double size, bool bold)
 {
-    static const QString families[] = {family(canvasFontFile(false)), family(canvasFontFile(true))};
-    return font(families[bold ? 1 : 0], size, bold);
+    QFont font = fontOf(size, bold);
+    font.setKerning(false); // or a text would be as wide as what it is drawn with makes it
+    return font;
 }
 
 QFont textFont(double size, bool bold)
 {
-    static const QString families[] = {family(textFontFile(false)), family(textFontFile(true))};
-    return font(families[bold ? 1 : 0], size, bold);
+    return fontOf(size, bold);
 }
 
 QSizeF canvasTextSize(const QString& text, double size, bool)
 {
+    static const FontAdvances kAdvances(canvasFontFile(false)); // those of the bold one are the same
     double width = 0.0;
     for (const QChar character : text)
-        width += advance(character);
-    return {std::ceil(width * size - 1e-6), std::ceil(kLine * size)};
+        width += kAdvances.of(character.unicode());
+    return {std::ceil(width * size - 1e-4), std::ceil(kLine * size)};
 }
 
 double canvasAdvance(double size)
 {
-    return kAdvance * size;
+    return kDigit * size;
 }
 
 double canvasAscent(double size)

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QColor>
+#include "analysis/FlightPhases.h"
+#include "ui/canvas/ColourTable.h"
 
 #include <array>
 
@@ -9,7 +10,7 @@ namespace ZARN {
 /// The colours that the user can have the graph in. The numbers are those of the setting "GraphPalette".
 enum class EGraphPalette { eStandard, eDark, eLight, ePrint };
 
-/// The colours of what is drawn on a canvas: one set for each medium.
+/// The colours of what is drawn, one set for each medium, all of them out of the table of named colours.
 struct Palette {
     struct Graph {
         QColor ground;
@@ -25,23 +26,63 @@ struct Palette {
         QColor grid;
         QColor gridText;
         QColor frame;
-        QColor aircraft{25, 60, 140};
-        QColor aircraftRim{Qt::white};
-        QColor eventRim{Qt::black};
-        QColor begin{0, 150, 90}; ///< of a flight
-        QColor end{Qt::black};
-        QColor exceeded{230, 159, 0};
+        QColor aircraft;
+        QColor aircraftRim;
+        QColor eventRim;
+        QColor begin; ///< of a flight
+        QColor end;
+        QColor exceeded;
     };
+    struct Faults {
+        QColor info, warning, fault;
+        QColor quiet; ///< of a bit that is not set
+        QColor none;  ///< where there is no bit
+        QColor line, pointer;
+    };
+    struct Course {
+        QColor recorded, border, label, outline;
+        QColor ground, takeOff, climb, level, descent; ///< phases
+
+        [[nodiscard]] const QColor& of(EFlightPhase phase) const;
+    };
+    struct Signs {
+        QColor good, warning, limit, unknown;
+        QColor inside, insideWarning;
+    };
+    struct Table {
+        QColor time; ///< ground of the column of times
+        QColor mark; ///< of a value outside its limits, on light grounds
+        QColor field, dimText;
+        QColor badge, onBadge;
+    };
+    struct Text {
+        QColor ink, quiet, rule, accent, alert;
+    };
+
+    Palette(const ColourTable& table, ColourTable::EMedium medium);
 
     Graph graph;
     Map map;
-    QColor warning{240, 180, 0};
-    QColor limit{220, 40, 40};
-    QColor found{60, 140, 255}; ///< by a search
+    Faults faults;
+    Course course;
+    Signs signs;
+    Table tables;
+    Text text;
+    QColor icon;
+    QColor onAccent; ///< icons on what is chosen
+    QColor warning;
+    QColor limit;
+    QColor found; ///< by a search
+    QColor phaseFlight, phaseEngine;
 
+    /// What windows are drawn in now. Every thread may ask; what it refers to stays as it is.
+    [[nodiscard]] static const Palette& screen();
+    /// For the windows' thread; who draws is told by the toolkit's change of style, which must follow.
+    static void setScreen(const ColourTable& table, ColourTable::EMedium medium);
     [[nodiscard]] static const Palette& light();
     [[nodiscard]] static const Palette& print();
-    /// All but the standard one have traces that people of every kind of colour vision can tell apart and from the ground.
+    /// All but the standard one, which is that of the windows, have traces that people of every kind of colour vision can tell apart and
+    /// from the ground.
     [[nodiscard]] static const Graph& graphColours(EGraphPalette palette);
 };
 

@@ -1,6 +1,7 @@
 #include "ui/data/DataTabBar.h"
 
-#include "ui/data/TextSize.h"
+#include "app/gui/TextSize.h"
+#include "ui/canvas/Palette.h"
 
 #include <QMouseEvent>
 #include <QStyleOptionTab>
@@ -21,7 +22,6 @@ constexpr int kAbove = 5;
 constexpr int kBelow = 6; // the style's line under the selected tab
 constexpr int kBadgeHeight = 15;
 constexpr int kMostShown = 99;
-const QColor kBadge(178, 34, 34);
 
 } // namespace
 
@@ -164,7 +164,7 @@ void DataTabBar::paintCount(QPainter& painter, const QRect& icon, int count) con
 {
     const QString text = count > kMostShown ? QString("%1+").arg(kMostShown) : QString::number(count);
     QFont small = font();
-    small.setPixelSize(std::max(textSize(*this) * 5 / 6, kSmallestText));
+    small.setPixelSize(textSize(*this, EText::eFine));
     small.setBold(true);
     const QFontMetrics metrics(small);
     const int height = std::max(metrics.height(), kBadgeHeight);
@@ -173,10 +173,10 @@ void DataTabBar::paintCount(QPainter& painter, const QRect& icon, int count) con
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(kBadge);
+    painter.setBrush(Palette::screen().tables.badge);
     painter.drawRoundedRect(badge, height / 2, height / 2);
     painter.setFont(small);
-    painter.setPen(Qt::white);
+    painter.setPen(Palette::screen().tables.onBadge);
     painter.drawText(badge, Qt::AlignCenter, text);
     painter.restore();
 }

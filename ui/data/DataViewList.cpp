@@ -32,6 +32,8 @@ template <typename View> DataViewEntry entry(View* pView)
                     QObject::connect(pView, &View::signalSettings, &area, &DialogData::updateSettings);
                 if constexpr (requires { &View::signalLayout; })
                     QObject::connect(pView, &View::signalLayout, &area, &DialogData::signalLayout);
+                if constexpr (requires { &View::signalCourse; })
+                    QObject::connect(pView, &View::signalCourse, &area, &DialogData::setCourse);
                 if constexpr (requires { &View::signalTicks; })
                     QObject::connect(pView, &View::signalTicks, &area, &DialogData::signalTicks);
             }};
@@ -56,7 +58,8 @@ DataViewList DataViewList::create(const Session& session, const QString& dataPat
 {
     return {{entry(new DialogDataTable(session)), entry(new DialogDataGraph(session)), entry(new DialogDataErrorMatrix(session)),
              entry(new DialogDataLimit(session)), entry(new DialogDataWarning(session)), entry(new DialogDataStatistic(session)),
-             entry(new DialogDataMap(session, dataPath))}};
+             entry(new DialogDataMap(session, dataPath))},
+            [session] { return TimeReference::of(session.property, session.container); }};
 }
 
 } // namespace ZARN

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "project/Session.h"
+#include "project/TimeReference.h"
 #include "ui/data/model/DataView.h"
 
 #include <QString>
@@ -34,6 +35,7 @@ struct DataViewEntry {
 /// What a data area is made of. Tests give it views that only note what they are told.
 struct DataViewList {
     std::array<DataViewEntry, eViewCount> entries{};
+    std::function<TimeReference()> times = {}; ///< how the user wants times told; empty: since power-up
 
     [[nodiscard]] DataView& view(EDataView which) const { return *entries[which].pView; }
 

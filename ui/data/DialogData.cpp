@@ -155,11 +155,31 @@ void DialogData::slotRecord()
 {
     if (std::exchange(mReplayed, mRecord.version().record) != mRecord.version().record)
         setReplay(WidgetReplayBar::eStopped);
+    updateTimes();
     slotEvents();
+}
+
+void DialogData::updateTimes()
+{
+    mpBar->setTimes(mViews.times ? mViews.times() : TimeReference(), mRecord.startTime(), mRecord.endTime());
+    updateMarks();
+    updateDisplay();
+}
+
+void DialogData::setCourse(const std::shared_ptr<const CycleCourse>& pCourse)
+{
+    mpCourse = pCourse;
+    updateMarks();
+}
+
+void DialogData::updateMarks()
+{
+    mpBar->setMarks(mpCourse ? PositionMarks(*mpCourse, mRecord.startTime(), mRecord.endTime()) : PositionMarks());
 }
 
 void DialogData::updateSettings()
 {
+    updateTimes();
     for (const DataViewEntry& entry : mViews.entries)
         entry.pView->updateSettings();
 }
@@ -194,7 +214,7 @@ void DialogData::slotSlider(int position)
     mRecord.setTime(start + (mRecord.endTime() - start) / WidgetReplayBar::kPositions * position);
 }
 
-void DialogData::slotValue(int seconds)
+void DialogData::slotValue(double seconds)
 {
     mRecord.setTime(seconds);
 }

@@ -9,6 +9,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <memory>
 
 class QButtonGroup;
 class QSplitter;
@@ -18,6 +19,7 @@ class QTimer;
 namespace ZARN {
 
 class DataTabBar;
+struct CycleCourse;
 class ViewLink;
 class WidgetReplayBar;
 
@@ -50,10 +52,10 @@ public:
     /// Brings the graph to the front with that moment; the way there from everywhere. The project is not changed.
     void showMoment(const GraphMoment& moment);
     [[nodiscard]] DataView& graph() { return mViews.view(eViewGraph); }
+    /// What happened in the cycle, for the bar below; null while that is not known.
+    void setCourse(const std::shared_ptr<const CycleCourse>& pCourse);
     /// Puts a bar between tabs and views; takes it over.
     void addBar(QWidget* pBar);
-    /// Order, heights, scale, colours and mode of the graph; what is ticked is not touched.
-    void setLayout(const DisplayLayout& layout) { mViews.view(eViewGraph).setLayout(layout); }
     /// What is ticked, as the graph shows it; without a name.
     [[nodiscard]] DisplayLayout layout() const { return mViews.view(eViewGraph).layout().value_or(DisplayLayout()); }
 
@@ -69,7 +71,7 @@ public Q_SLOTS:
     void slotReplayMode();
     void slotReplayStop();
     void slotSlider(int position);
-    void slotValue(int seconds);
+    void slotValue(double seconds);
     void slotReplaySpeed(int hundredths);
     void slotReplaySpeed(double factor);
     void slotTimeoutReplay();
@@ -95,6 +97,8 @@ private:
     void linkViews();
     void moveFrom(EDataView view, double time) { moveFrom(*mViews.entries[view].pWidget, time); }
     void slotRecord();
+    void updateTimes();
+    void updateMarks();
     void setReplay(int state);
     void updateDisplay();
     void updateControls();
@@ -112,6 +116,7 @@ private:
     double mSpeed = 1.0;
     double mLastTick = 0.0;
     int mReplay = 0;
+    std::shared_ptr<const CycleCourse> mpCourse;
     unsigned mReplayed = 0; ///< the version of the record that the replay goes through
 };
 

@@ -5,6 +5,7 @@
 #include "profile/Profile.h"
 #include "project/TimeReference.h"
 #include "ui/canvas/ColourContrast.h"
+#include "ui/canvas/Palette.h"
 #include "ui/data/EventMark.h"
 #include "ui/data/GraphJump.h"
 #include "ui/data/TableCopy.h"
@@ -28,7 +29,8 @@ namespace {
 constexpr int kTimeWidth = 110;
 constexpr int kTimeMargin = 14;
 constexpr int kRowHeight = 22;
-const QColor kDimText(90, 90, 90);
+constexpr float kDimmed = 0.75F;
+constexpr double kLeastContrast = 4.5;
 
 /// Whole milliseconds as a cell keeps them.
 QVariant timeData(double seconds)
@@ -42,8 +44,14 @@ QVariant timeData(double seconds)
 /// A colour that is still told apart, but steps back.
 QColor dimmed(const QColor& colour)
 {
-    const auto mixed = [](int part) { return (part + 3 * 255) / 4; };
-    return {mixed(colour.red()), mixed(colour.green()), mixed(colour.blue())};
+    return mixed(colour, Palette::screen().tables.field, kDimmed);
+}
+
+/// Of what is outside the selected flight. @param ground of the cell; an invalid one is the table's
+QColor dimText(const QColor& ground)
+{
+    const Palette::Table& colours = Palette::screen().tables;
+    return readableOn(ground.isValid() ? dimmed(ground) : colours.field, colours.dimText, kLeastContrast);
 }
 
 QTableWidgetItem* createItem(const QString& text)
@@ -95,7 +103,6 @@ void DialogDataEvents::createTable()
     mpTable->setHorizontalHeaderLabels({tr("Time"), mKind.title});
     mpTable->setSelectionBehavior(QAbstractItemView::SelectRows);
     mpTable->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    mpTable->setStyleSheet("selection-background-color: rgba(100, 100, 255, 255);");
     mpTable->setTabKeyNavigation(false);
     mpTable->setWordWrap(false);
     mpTable->setTextElideMode(Qt::ElideLeft); // name and value tell more than the group
@@ -134,6 +141,8 @@ void DialogDataEvents::changeEvent(QEvent* pEvent)
     QWidget::changeEvent(pEvent);
     if (pEvent->type() == QEvent::FontChange)
         updateFonts();
+    if (pEvent->type() == QEvent::StyleChange)
+        updateColours();
 }
 
 int DialogDataEvents::eventCount() const
@@ -205,10 +214,9 @@ void DialogDataEvents::fillTable()
         const Event& event = events[static_cast<std::size_t>(row)];
         QTableWidgetItem* pTime = createItem({});
         pTime->setData(Qt::UserRole, timeData(event.time));
-        if (!isInside(event))
-            pTime->setForeground(kDimText);
         mpTable->setItem(row, 0, pTime);
         mpTable->setItem(row, 1, createText(event));
+        giveColours(*pTime, *mpTable->item(row, 1), event);
     }
     showTimes();
 }
@@ -222,23 +230,36 @@ void DialogDataEvents::showTimes()
         mpTable->item(row, 0)->setText(times.text(mpTable->item(row, 0)->data(Qt::UserRole).toLongLong()));
 }
 
+void DialogDataEvents::updateColours()
+{
+    const QScopedValueRollback busy(mBusy, true);
+    for (int row = 0; row < mpTable->rowCount(); ++row)
+        giveColours(*mpTable->item(row, 0), *mpTable->item(row, 1), mEvents.events()[static_cast<std::size_t>(row)]);
+}
+
+void DialogDataEvents::giveColours(QTableWidgetItem& time, QTableWidgetItem& text, const Event& event) const
+{
+    const bool inside = isInside(event);
+    if (event.colour.isValid())
+        text.setBackground(inside ? event.colour : dimmed(event.colour));
+    if (!inside)
+        time.setForeground(dimText({}));
+    if (!inside)
+        text.setForeground(dimText(event.colour));
+    else if (event.colour.isValid())
+        text.setForeground(textColourOn(event.colour)); // legible in every style
+}
+
 QTableWidgetItem* DialogDataEvents::createText(const Event& event) const
 {
     const QString text = QString::fromStdString(mEvents.text(event)), state = mKind.stateName(event.state);
-    const bool inside = isInside(event);
     QTableWidgetItem* pText = createItem(text);
     QString toolTip = text.toHtmlEscaped() + (state.isEmpty() ? QString() : "<br/>" + state);
-    if (!inside)
+    if (!isInside(event))
         toolTip += "<br/>" + tr("Outside of the selected flight");
     pText->setToolTip("<qt>" + toolTip + "</qt>");
     pText->setData(Qt::AccessibleDescriptionRole, state);
     pText->setIcon(eventMark(event.state));
-    if (event.colour.isValid())
-        pText->setBackground(inside ? event.colour : dimmed(event.colour));
-    if (!inside)
-        pText->setForeground(kDimText);
-    else if (event.colour.isValid())
-        pText->setForeground(textColourOn(event.colour)); // legible in every style
     return pText;
 }
 

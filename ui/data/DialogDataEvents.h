@@ -69,6 +69,8 @@ private Q_SLOTS:
 private:
     void createTable();
     void updateFonts();
+    void updateColours();
+    void giveColours(QTableWidgetItem& time, QTableWidgetItem& text, const Event& event) const;
     void find();
     void slotFound();
     void fillTable();

@@ -1,11 +1,11 @@
 #include "ui/data/DialogDataTable.h"
 
+#include "app/gui/TextSize.h"
 #include "card/CardContainer.h"
 #include "ui/data/GraphJump.h"
 #include "ui/data/RowTable.h"
 #include "ui/data/TableCellDelegate.h"
 #include "ui/data/TableCopy.h"
-#include "ui/data/TextSize.h"
 #include "ui/data/model/DataTableModel.h"
 #include "ui/data/model/LiveTableModel.h"
 
@@ -140,7 +140,7 @@ void DialogDataTable::sizeTimes()
 QFont DialogDataTable::cellFont() const
 {
     QFont font = this->font();
-    font.setPixelSize(std::max(textSize(*this) - 1, kSmallestText));
+    font.setPixelSize(textSize(*this, EText::eDrawn));
     return font;
 }
 

@@ -1,26 +1,27 @@
 #pragma once
 
 #include "profile/ProfileParameter.h"
-
-#include <QColor>
+#include "ui/canvas/Palette.h"
 
 namespace ZARN {
 
-/// The fill of a set fault bit of a kind; white for bits of no known kind.
+/// The fill of a set fault bit of a kind; plain for bits of no known kind.
 [[nodiscard]] inline QColor faultColour(int errorType)
 {
+    const Palette::Faults& colours = Palette::screen().faults;
     switch (errorType) {
-    case eErrorInfo: return {150, 150, 255};
-    case eErrorWarning: return {255, 200, 150};
-    case eErrorFault: return {255, 150, 150};
-    default: return Qt::white;
+    case eErrorInfo: return colours.info;
+    case eErrorWarning: return colours.warning;
+    case eErrorFault: return colours.fault;
+    default: return colours.none;
     }
 }
 
-/// The fill of a defined bit that is not set; white for bits of no known kind.
+/// The fill of a defined bit that is not set; plain for bits of no known kind.
 [[nodiscard]] inline QColor quietFaultColour(int errorType)
 {
-    return errorType >= eErrorInfo && errorType <= eErrorFault ? QColor(220, 255, 220) : QColor(Qt::white);
+    const Palette::Faults& colours = Palette::screen().faults;
+    return errorType >= eErrorInfo && errorType <= eErrorFault ? colours.quiet : colours.none;
 }
 
 } // namespace ZARN

@@ -2,6 +2,7 @@
 
 #include "profile/Threshold.h"
 #include "ui/canvas/ColourContrast.h"
+#include "ui/canvas/Palette.h"
 #include "ui/data/model/CellModel.h"
 #include "ui/data/model/ShownParameter.h"
 
@@ -18,13 +19,12 @@ namespace {
 
 constexpr int kPadding = 4;
 constexpr int kWordPadding = 2;
-const QColor kMark(120, 0, 0);
 
 /// A bar at the left edge: a short one for a warning, the whole height for a limit.
 void paintMark(QPainter& painter, const QRect& rect, int state, const QColor& text)
 {
     const int height = state == eThresholdLimit ? rect.height() : rect.height() / 2;
-    painter.fillRect(QRect(rect.left(), rect.bottom() - height + 1, 3, height), text == Qt::white ? text : kMark);
+    painter.fillRect(QRect(rect.left(), rect.bottom() - height + 1, 3, height), text == Qt::white ? text : Palette::screen().tables.mark);
 }
 
 QColor textColour(const QStyleOptionViewItem& option, const TableCell& cell, bool ownGround, bool selected)

@@ -35,29 +35,38 @@ void TimeEntry::showTime(int seconds)
 /// The time that was typed may be the one that the entry had before, which is no change of it: the view time may have gone on since.
 void TimeEntry::finish()
 {
-    if (const std::optional<int> seconds = elapsedSeconds(std::exchange(mTyped, {})))
-        Q_EMIT signalTime(std::min(*seconds, kLatest));
+    if (const std::optional<int> seconds = secondsOf(std::exchange(mTyped, {})))
+        Q_EMIT signalTime(std::clamp(*seconds, minimum(), kLatest));
     if (hasFocus())
         selectAll(); // for the next time
 }
 
 QString TimeEntry::textFromValue(int value) const
 {
-    return elapsedText(value, 2);
+    return value < 0 ? '-' + elapsedText(-value, 2) : elapsedText(value, 2);
 }
 
 int TimeEntry::valueFromText(const QString& text) const
 {
-    return std::min(elapsedSeconds(text).value_or(value()), kLatest);
+    return std::clamp(secondsOf(text).value_or(value()), minimum(), kLatest);
 }
 
 QValidator::State TimeEntry::validate(QString& text, int& /*position*/) const
 {
-    const bool isPart = text.size() <= kMostCharacters && text.count(':') <= 2 &&
-                        std::all_of(text.begin(), text.end(), [](QChar c) { return c == u':' || (c >= u'0' && c <= u'9'); });
+    const QStringView digits = QStringView(text).mid(minimum() < 0 && text.startsWith('-') ? 1 : 0);
+    const bool isPart = digits.size() <= kMostCharacters && digits.count(u':') <= 2 &&
+                        std::all_of(digits.begin(), digits.end(), [](QChar c) { return c == u':' || (c >= u'0' && c <= u'9'); });
     if (!isPart)
         return QValidator::Invalid;
-    return elapsedSeconds(text) ? QValidator::Acceptable : QValidator::Intermediate;
+    return secondsOf(text) ? QValidator::Acceptable : QValidator::Intermediate;
+}
+
+std::optional<int> TimeEntry::secondsOf(const QString& text) const
+{
+    if (minimum() == 0 || !text.startsWith('-'))
+        return elapsedSeconds(text);
+    const std::optional<int> seconds = elapsedSeconds(text.mid(1));
+    return seconds ? std::optional(-*seconds) : std::nullopt;
 }
 
 /// What is no time gives way to the time that was there.
@@ -73,9 +82,9 @@ void TimeEntry::stepBy(int steps)
     const int position = lineEdit()->cursorPosition();
     const qsizetype behind = hasFocus() ? before.mid(position).count(':') : 0;
     const int unit = behind == 2 ? 3600 : behind == 1 ? 60 : 1;
-    const int now = elapsedSeconds(before).value_or(value());
+    const int now = secondsOf(before).value_or(value());
     mTyped.clear();
-    setValue(std::clamp(now + steps * unit, 0, kLatest));
+    setValue(std::clamp(now + steps * unit, minimum(), kLatest));
     lineEdit()->setCursorPosition(position);
     Q_EMIT signalTime(value());
 }
@@ -87,7 +96,7 @@ void TimeEntry::keyPressEvent(QKeyEvent* pEvent)
     if (pEvent->matches(QKeySequence::MoveToStartOfLine))
         return selectAll();
     const QString typed = pEvent->text();
-    if (mTyped.isEmpty() && !lineEdit()->hasSelectedText() && !typed.isEmpty() && typed[0].isDigit())
+    if (mTyped.isEmpty() && !lineEdit()->hasSelectedText() && !typed.isEmpty() && (typed[0].isDigit() || typed[0] == u'-'))
         selectAll();
     QSpinBox::keyPressEvent(pEvent);
 }

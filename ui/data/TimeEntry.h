@@ -2,9 +2,11 @@
 
 #include <QSpinBox>
 
+#include <optional>
+
 namespace ZARN {
 
-/// An entry for a time since power-up, of any number of hours. Reports what the user typed when he has finished, and each step at once;
+/// An entry for a time, of any number of hours. Reports what the user typed when he has finished, and each step at once;
 /// what it is told does not disturb a time that is being typed.
 class TimeEntry : public QSpinBox {
     Q_OBJECT
@@ -15,6 +17,8 @@ public:
     explicit TimeEntry(QWidget* pParent = nullptr);
 
     void showTime(int seconds);
+    /// Whether there are times before 0, behind a minus sign.
+    void setSigned(bool isSigned) { setMinimum(isSigned ? -kLatest : 0); }
 
 Q_SIGNALS:
     void signalTime(int seconds);
@@ -30,6 +34,7 @@ protected:
 
 private:
     void finish();
+    [[nodiscard]] std::optional<int> secondsOf(const QString& text) const;
 
     QString mTyped; ///< since the last time that was told; empty when nothing was
 };

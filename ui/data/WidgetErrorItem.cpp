@@ -1,7 +1,8 @@
 #include "ui/data/WidgetErrorItem.h"
 
+#include "app/gui/TextSize.h"
+#include "ui/canvas/ColourContrast.h"
 #include "ui/data/FaultColours.h"
-#include "ui/data/TextSize.h"
 
 #include <QPainter>
 
@@ -9,7 +10,6 @@ namespace {
 
 constexpr int kMinimumWidth = 15;
 constexpr int kMinimumHeight = 150;
-constexpr int kSmaller = 2; // pixels, than the program's text
 constexpr int kMargin = 4;
 
 } // namespace
@@ -48,7 +48,7 @@ QColor WidgetErrorItem::fill() const
 QFont WidgetErrorItem::textFont() const
 {
     QFont font = this->font();
-    font.setPixelSize(std::max(ZARN::textSize(*this) - kSmaller, ZARN::kSmallestText));
+    font.setPixelSize(ZARN::textSize(*this, ZARN::EText::eFine));
     return font;
 }
 
@@ -69,7 +69,7 @@ void WidgetErrorItem::paintEvent(QPaintEvent* /*pEvent*/)
     if (lengthOfText() == 0)
         return;
     painter.setFont(textFont());
-    painter.setPen(Qt::black);
+    painter.setPen(ZARN::textColourOn(fill()));
     painter.translate(0, height());
     painter.rotate(-90);
     const QRect room(kMargin, 0, height() - 2 * kMargin, width());

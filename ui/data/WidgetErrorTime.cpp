@@ -2,6 +2,7 @@
 
 #include "app/Numeric.h"
 #include "card/CardContainer.h"
+#include "ui/canvas/ColourContrast.h"
 #include "ui/data/FaultColours.h"
 
 #include <QMouseEvent>
@@ -15,7 +16,7 @@ namespace ZARN {
 namespace {
 
 constexpr int kHeight = 46;
-const QColor kLine(200, 200, 200);
+constexpr double kLeastContrast = 3.0; // of marks that may be a pixel wide
 constexpr EErrorType kKinds[] = {eErrorInfo, eErrorWarning, eErrorFault};
 
 /// For each pixel column whether some stretch that is on touches it. A fault shorter than a pixel takes one all the same.
@@ -113,16 +114,17 @@ std::optional<double> WidgetErrorTime::timeAt(const QMouseEvent& event) const
 void WidgetErrorTime::drawBand(QPainter& painter, EErrorType kind, const QRect& band) const
 {
     const std::vector<bool> columns = columnsOn(changes(kind), width(), [this](double time) { return xOf(time); });
+    const QColor colour = readableOn(Palette::screen().faults.none, faultColour(kind), kLeastContrast);
     for (int x = 0; x < width(); ++x) {
         if (columns[static_cast<std::size_t>(x)])
-            painter.fillRect(x, band.top(), 1, band.height(), faultColour(kind));
+            painter.fillRect(x, band.top(), 1, band.height(), colour);
     }
 }
 
 void WidgetErrorTime::drawBands()
 {
     mBands = QImage(size(), QImage::Format_RGB32);
-    mBands.fill(Qt::white);
+    mBands.fill(Palette::screen().faults.none);
     QPainter painter(&mBands);
     const int height = (this->height() + 1) / 3;
     int top = 0;
@@ -130,7 +132,7 @@ void WidgetErrorTime::drawBands()
         drawBand(painter, kind, QRect(0, top, width(), height));
         top += height;
     }
-    painter.setPen(kLine);
+    painter.setPen(Palette::screen().faults.line);
     painter.drawLine(0, height, width(), height);
     painter.drawLine(0, 2 * height, width(), 2 * height);
     painter.drawRect(0, 0, width() - 1, this->height() - 1);
@@ -143,8 +145,15 @@ void WidgetErrorTime::paintEvent(QPaintEvent* /*pEvent*/)
     QPainter painter(this);
     painter.drawImage(0, 0, mBands);
     const int x = std::clamp(xOf(mTime), -1, width());
-    painter.setPen(Qt::black);
+    painter.setPen(Palette::screen().faults.pointer);
     painter.drawLine(x, 0, x, height());
+}
+
+void WidgetErrorTime::changeEvent(QEvent* pEvent)
+{
+    if (pEvent->type() == QEvent::StyleChange)
+        mBands = {};
+    QWidget::changeEvent(pEvent);
 }
 
 void WidgetErrorTime::resizeEvent(QResizeEvent* pEvent)

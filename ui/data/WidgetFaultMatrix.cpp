@@ -1,9 +1,9 @@
 #include "ui/data/WidgetFaultMatrix.h"
 
 #include "analysis/FaultTimeline.h"
+#include "app/gui/TextSize.h"
 #include "card/record/RecordData.h"
 #include "ui/data/GraphJump.h"
-#include "ui/data/TextSize.h"
 #include "ui/data/WidgetErrorItem.h"
 #include "ui/data/WidgetErrorTime.h"
 
@@ -54,7 +54,6 @@ void WidgetFaultMatrix::createTable()
     mpTable->verticalHeader()->hide();
     mpTable->setSelectionBehavior(QAbstractItemView::SelectRows);
     mpTable->setSelectionMode(QAbstractItemView::SingleSelection);
-    mpTable->setStyleSheet("selection-background-color: rgba(100, 100, 255, 255);");
     mpTable->setTabKeyNavigation(false);
     mpTable->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     QHeaderView* pHeader = mpTable->horizontalHeader();
@@ -143,9 +142,9 @@ void WidgetFaultMatrix::updateFonts()
     if (size == mTextSize)
         return;
     mTextSize = size;
-    mpTitle->setStyleSheet(QString("font-weight: bold; font-size: %1px;").arg(size * 4 / 3));
+    mpTitle->setStyleSheet(QString("font-weight: bold; font-size: %1px;").arg(textSize(size, EText::eHeading)));
     mpTable->horizontalHeader()->setStyleSheet(
-        QString("QHeaderView::section { font-size: %1px; padding: 2px 0px; }").arg(std::max(size * 2 / 3, kSmallestText)));
+        QString("QHeaderView::section { font-size: %1px; padding: 2px 0px; }").arg(textSize(size, EText::eFine)));
     layoutTable();
 }
 

@@ -1,9 +1,9 @@
 #include "ui/data/WidgetReplayBar.h"
 
 #include "app/Numeric.h"
-#include "app/TimeText.h"
 #include "app/gui/ImageHandler.h"
 #include "ui/data/JumpSlider.h"
+#include "ui/data/PositionBar.h"
 #include "ui/data/ReplayButton.h"
 #include "ui/data/SpeedBox.h"
 #include "ui/data/TimeEntry.h"
@@ -15,6 +15,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <cmath>
 
 namespace ZARN {
 
@@ -25,8 +26,8 @@ constexpr int kTimeDigits = 12; // without a minus sign
 constexpr QSize kClockSize(220, 60);
 constexpr int kEntryWidth = 120;
 constexpr int kSliderWidth = 120;
+constexpr int kWidePosition = 600; // below, a line for itself serves it better
 constexpr double kHundredths = 100.0;
-constexpr const char* kClockStyle = "QLCDNumber { background-color: white; color: rgb(146, 128, 74); border: 1px solid #b4bfca; }";
 
 QLCDNumber* createClock(const char* name, int digits, const QString& text)
 {
@@ -35,7 +36,6 @@ QLCDNumber* createClock(const char* name, int digits, const QString& text)
     pClock->setSegmentStyle(QLCDNumber::Flat);
     pClock->setMinimumSize(kClockSize);
     pClock->setAutoFillBackground(true);
-    pClock->setStyleSheet(kClockStyle);
     pClock->display(text);
     return pClock;
 }
@@ -43,7 +43,7 @@ QLCDNumber* createClock(const char* name, int digits, const QString& text)
 } // namespace
 
 WidgetReplayBar::WidgetReplayBar(bool emu, QWidget* pParent)
-    : QWidget(pParent), mpReplay(new ReplayButton("replay")), mpStop(new ReplayButton("stop")), mpPosition(new JumpSlider),
+    : QWidget(pParent), mpReplay(new ReplayButton("replay")), mpStop(new ReplayButton("stop")), mpPosition(new PositionBar),
       mpTime(new TimeEntry), mpSpeedSlider(new JumpSlider), mpSpeed(new SpeedBox), mpUpper(new QHBoxLayout), mpLower(new QHBoxLayout)
 {
     createClocks();
@@ -55,7 +55,7 @@ WidgetReplayBar::WidgetReplayBar(bool emu, QWidget* pParent)
     pLayout->setContentsMargins(0, 0, 0, 0);
     pLayout->addLayout(mpUpper);
     pLayout->addLayout(mpLower);
-    fillLines(false);
+    fillLines(eClocks);
     for (QWidget* pHidden : {static_cast<QWidget*>(mpTimeClock), static_cast<QWidget*>(mpPosition), static_cast<QWidget*>(mpTime)})
         pHidden->setVisible(!emu);
     connectControls();
@@ -67,14 +67,12 @@ void WidgetReplayBar::createClocks()
     mpDateClock = createClock("dateClock", kDateDigits, "--.--.---- --:--:--");
     mpDateClock->setToolTip(tr("Date and time of the view, as the unit recorded it"));
     mpTimeClock = createClock("timeClock", kTimeDigits, "--:--:--.---");
-    mpTimeClock->setToolTip(tr("Time since the unit's power-up"));
 }
 
 void WidgetReplayBar::createSliders()
 {
     mpPosition->setObjectName("position");
     mpPosition->setRange(0, kPositions);
-    mpPosition->setMinimumWidth(kSliderWidth);
     mpPosition->setToolTip(tr("Position in the record"));
     mpPosition->setAccessibleName(mpPosition->toolTip());
     mpSpeedSlider->setObjectName("speedSlider");
@@ -87,14 +85,35 @@ void WidgetReplayBar::createSliders()
 void WidgetReplayBar::createEntries()
 {
     mpTime->setObjectName("time");
-    mpTime->setToolTip(tr("Time since the unit's power-up. 15:30 and 1530 are 15 minutes and 30 seconds, 1:15:30 is an hour later."));
-    mpTime->setAccessibleName(tr("Time since the unit's power-up"));
+    nameTimes();
     mpSpeed->setObjectName("speed");
     mpSpeed->setPrefix(tr("Speed "));
     mpSpeed->setToolTip(mpSpeedSlider->toolTip());
     mpSpeed->setAccessibleName(mpSpeedSlider->toolTip());
     mpSpeed->setStyleSheet("QDoubleSpinBox { padding-left: 2px; padding-right: 0px; }" // "Speed 100.00" must fit
                            "QDoubleSpinBox::up-button, QDoubleSpinBox::down-button { width: 16px; }");
+}
+
+void WidgetReplayBar::nameTimes()
+{
+    const QString name = TimeReference::name(mTimes.kind());
+    mpTimeClock->setToolTip(name);
+    mpTime->setAccessibleName(name);
+    mpTime->setToolTip(tr("%1. 15:30 and 1530 are 15 minutes and 30 seconds, 1:15:30 is an hour later.").arg(name));
+}
+
+void WidgetReplayBar::setTimes(const TimeReference& times, double start, double end)
+{
+    mTimes = times;
+    mStart = std::floor(start); // an entry has whole seconds
+    mpTime->setSigned(times.kind() == ETimeReference::eTakeOff);
+    mpPosition->setSpan(start, end, times);
+    nameTimes();
+}
+
+void WidgetReplayBar::setMarks(PositionMarks marks)
+{
+    mpPosition->setMarks(std::move(marks));
 }
 
 void WidgetReplayBar::stepSpeed(int steps)
@@ -107,7 +126,7 @@ void WidgetReplayBar::connectControls()
     connect(mpReplay, &ReplayButton::clicked, this, &WidgetReplayBar::signalReplay);
     connect(mpStop, &ReplayButton::clicked, this, &WidgetReplayBar::signalStop);
     connect(mpPosition, &QSlider::valueChanged, this, &WidgetReplayBar::signalPosition);
-    connect(mpTime, &TimeEntry::signalTime, this, &WidgetReplayBar::signalTime);
+    connect(mpTime, &TimeEntry::signalTime, this, [this](int told) { Q_EMIT signalTime(mTimes.meant(told, mStart)); });
     connect(mpSpeedSlider, &JumpSlider::signalWheel, this, &WidgetReplayBar::stepSpeed);
     connect(mpSpeedSlider, &QSlider::actionTriggered, this, [this](int action) {
         const bool isUp = action == QSlider::SliderSingleStepAdd || action == QSlider::SliderPageStepAdd;
@@ -118,28 +137,25 @@ void WidgetReplayBar::connectControls()
     connect(mpSpeed, &SpeedBox::valueChanged, this, &WidgetReplayBar::signalSpeed);
 }
 
-/// One line in the order of the tasks; in two lines the clocks and the time entry stand above the replay.
-void WidgetReplayBar::fillLines(bool oneLine)
+void WidgetReplayBar::fillLines(EFit fit)
 {
-    mOneLine = oneLine;
+    mFit = fit;
     for (QBoxLayout* pLine : {mpUpper, mpLower}) {
         while (QLayoutItem* pItem = pLine->takeAt(0))
             delete pItem;
     }
-    QBoxLayout* pLower = oneLine ? mpUpper : mpLower;
+    QBoxLayout* pReplay = fit == eClocks ? mpLower : mpUpper;
+    QBoxLayout* pSpeed = fit <= eAllButPosition ? mpUpper : mpLower;
     mpUpper->addWidget(mpDateClock);
     mpUpper->addWidget(mpTimeClock);
-    if (!oneLine) {
+    pReplay->addWidget(mpReplay);
+    pReplay->addWidget(mpStop);
+    if (fit != eAll)
         mpUpper->addStretch();
-        mpUpper->addWidget(mpTime);
-    }
-    pLower->addWidget(mpReplay);
-    pLower->addWidget(mpStop);
-    pLower->addWidget(mpPosition, 1);
-    if (oneLine)
-        pLower->addWidget(mpTime);
-    pLower->addWidget(mpSpeedSlider);
-    pLower->addWidget(mpSpeed);
+    mpUpper->addWidget(mpTime);
+    (fit == eAll ? mpUpper : mpLower)->addWidget(mpPosition, 1);
+    pSpeed->addWidget(mpSpeedSlider);
+    pSpeed->addWidget(mpSpeed);
     updateGeometry();
 }
 
@@ -152,33 +168,39 @@ int WidgetReplayBar::widthOfText() const
     return width;
 }
 
-int WidgetReplayBar::widthOfReplay(int buttonWidth) const
+/// What both lines need at least.
+int WidgetReplayBar::widthFor(EFit fit, int buttonWidth) const
 {
-    return 2 * buttonWidth + 2 * kSliderWidth + mpSpeed->width() + 4 * mpLower->spacing();
-}
-
-int WidgetReplayBar::widthOfClocks() const
-{
-    return 2 * kClockSize.width() + mpTime->width() + 3 * mpUpper->spacing();
+    const int gap = mpLower->spacing();
+    const int clocks = 2 * kClockSize.width() + mpTime->width() + 2 * gap, replay = 2 * buttonWidth + 2 * gap;
+    const int speed = kSliderWidth + mpSpeed->width() + 2 * gap, position = mpPosition->minimumSizeHint().width();
+    switch (fit) {
+    case eAll: return clocks + replay + speed + kWidePosition;
+    case eAllButPosition: return clocks + replay + speed;
+    case eClocksAndReplay: return std::max(clocks + replay, position + speed);
+    default: return std::max(clocks, replay + position + speed);
+    }
 }
 
 QSize WidgetReplayBar::minimumSizeHint() const
 {
     // That of two lines and icons, or the bar could never become narrow enough for them.
-    return {std::max(widthOfReplay(mpStop->widthFor({})), widthOfClocks()), QWidget::minimumSizeHint().height()};
+    return {widthFor(eClocks, mpStop->widthFor({})), QWidget::minimumSizeHint().height()};
 }
 
 void WidgetReplayBar::arrange()
 {
     mpTime->setFixedWidth(std::max(kEntryWidth, mpTime->sizeHint().width()));
     mpSpeed->setFixedWidth(std::max(kEntryWidth, mpSpeed->sizeHint().width()));
-    const int text = widthOfText();
-    const bool oneLine = width() >= widthOfReplay(text) + widthOfClocks() + kSliderWidth; // with more than the least for the position
-    const int buttonWidth = width() >= widthOfReplay(text) ? text : mpStop->widthFor({});
+    const int text = widthOfText(), icon = mpStop->widthFor({});
+    // The best first: texts beside the clocks, then icons there, which leave the position its room.
+    const std::pair<EFit, int> ways[] = {{eAll, text}, {eAllButPosition, text}, {eClocksAndReplay, text}, {eClocksAndReplay, icon}, {eClocks, text}};
+    const auto* pWay = std::ranges::find_if(ways, [this](const auto& way) { return width() >= widthFor(way.first, way.second); });
+    const auto [fit, buttonWidth] = pWay == std::end(ways) ? std::pair(eClocks, icon) : *pWay;
     mpReplay->setFixedWidth(buttonWidth);
     mpStop->setFixedWidth(buttonWidth);
-    if (oneLine != mOneLine)
-        fillLines(oneLine);
+    if (fit != mFit)
+        fillLines(fit);
 }
 
 void WidgetReplayBar::resizeEvent(QResizeEvent* pEvent)
@@ -218,10 +240,11 @@ void WidgetReplayBar::setDateTime(const QDateTime& dateTime)
 
 void WidgetReplayBar::setTime(int64_t milliseconds)
 {
-    const QString text = signedTimeText(milliseconds);
+    const QString text = mTimes.text(milliseconds);
     mpTimeClock->setDigitCount(static_cast<int>(text.size())); // one more for a minus sign
     mpTimeClock->display(text);
-    mpTime->showTime(static_cast<int>(std::clamp<int64_t>(milliseconds / 1000, 0, TimeEntry::kLatest)));
+    const int64_t told = mTimes.toldMilliseconds(milliseconds) / 1000;
+    mpTime->showTime(static_cast<int>(std::clamp<int64_t>(told, -TimeEntry::kLatest, TimeEntry::kLatest)));
 }
 
 void WidgetReplayBar::setPosition(int position)

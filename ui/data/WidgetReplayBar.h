@@ -1,5 +1,8 @@
 #pragma once
 
+#include "project/TimeReference.h"
+#include "ui/data/model/PositionMarks.h"
+
 #include <QWidget>
 
 class QBoxLayout;
@@ -9,13 +12,14 @@ class QLCDNumber;
 namespace ZARN {
 
 class JumpSlider;
+class PositionBar;
 class ReplayButton;
 class SpeedBox;
 class TimeEntry;
 
-/// The row of controls below the data views: two clocks, replay, position, time entry and speed. Shows what it is told and reports
-/// what the user does, that alone. Breaks into two lines where one would be too wide, and leaves the texts of its buttons to their
-/// icons where those would be, too.
+/// The controls below the data views: two clocks, replay, time entry, speed, and the position over what happened in the record. Shows what it is
+/// told and reports what the user does, that alone. The position has a line for itself, together with what the line above has no room for, unless
+/// all have room in one; the texts of the buttons are left to their icons where they would not.
 class WidgetReplayBar : public QWidget {
     Q_OBJECT
 
@@ -30,7 +34,10 @@ public:
     void setSpeed(double factor);
     /// The wall clock; dashes for an invalid one, or one that the clock has no digits for.
     void setDateTime(const QDateTime& dateTime);
-    /// The view time: as a time of day in its clock, as it is in the entry, which follows when the user has finished typing into it.
+    /// How times are told, and the span of the record in seconds since power-up.
+    void setTimes(const TimeReference& times, double start, double end);
+    void setMarks(PositionMarks marks);
+    /// The view time since power-up: as a time of day in its clock, as it is in the entry, which follows when the user has finished typing into it.
     void setTime(int64_t milliseconds);
     /// @param position 0 to kPositions
     void setPosition(int position);
@@ -41,7 +48,7 @@ Q_SIGNALS:
     void signalReplay();
     void signalStop();
     void signalPosition(int position);
-    void signalTime(int seconds);
+    void signalTime(double seconds); ///< since power-up
     void signalSpeedSlider(int hundredths);
     void signalSpeed(double factor);
 
@@ -50,28 +57,33 @@ protected:
     void changeEvent(QEvent* pEvent) override;
 
 private:
+    /// What the upper line holds, from the widest on; the others stand in the lower one, beside the position.
+    enum EFit { eAll, eAllButPosition, eClocksAndReplay, eClocks };
+
     void createClocks();
     void createSliders();
     void createEntries();
+    void nameTimes();
     void stepSpeed(int steps);
     void connectControls();
     void arrange();
-    void fillLines(bool oneLine);
+    void fillLines(EFit fit);
     [[nodiscard]] int widthOfText() const;
-    [[nodiscard]] int widthOfReplay(int buttonWidth) const;
-    [[nodiscard]] int widthOfClocks() const;
+    [[nodiscard]] int widthFor(EFit fit, int buttonWidth) const;
 
     QLCDNumber* mpDateClock = nullptr;
     QLCDNumber* mpTimeClock = nullptr;
     ReplayButton* mpReplay;
     ReplayButton* mpStop;
-    JumpSlider* mpPosition;
+    PositionBar* mpPosition;
     TimeEntry* mpTime;
     JumpSlider* mpSpeedSlider;
     SpeedBox* mpSpeed;
     QBoxLayout* mpUpper;
     QBoxLayout* mpLower;
-    bool mOneLine = false;
+    EFit mFit = eClocks;
+    TimeReference mTimes;
+    double mStart = 0.0; ///< of the record
 };
 
 } // namespace ZARN

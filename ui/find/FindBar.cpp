@@ -2,6 +2,7 @@
 
 #include "app/TimeText.h"
 #include "app/gui/ImageHandler.h"
+#include "app/gui/StyleProperty.h"
 #include "ui/find/FindForm.h"
 #include "ui/find/model/FindTableModel.h"
 
@@ -146,7 +147,7 @@ void FindBar::updateStatus()
     mpNext->setEnabled(mHits.next(mTime).has_value());
     mpPrevious->setEnabled(mHits.previous(mTime).has_value());
     mpListed->setEnabled(mHits.size() > 0 || mpListed->isChecked());
-    mpStatus->setStyleSheet(mIsProblem ? "color: #b22222;" : "");
+    setStyleProperty(*mpStatus, "problem", mIsProblem);
     const QLocale locale;
     const std::optional<std::size_t> here = mHits.at(mTime);
     const QString all = locale.toString(static_cast<qulonglong>(mHits.size()));

@@ -33,8 +33,8 @@ bool GlCanvas::init()
     const VESK::OpenGL::StateScope scope;
     if (!mDevice.init())
         return false;
-    mpRegular = mFonts.add("mononfont", canvasFontFile(false));
-    mpBold = mFonts.add("mononfont-bold", canvasFontFile(true));
+    mpRegular = mFonts.add("text", canvasFontFile(false));
+    mpBold = mFonts.add("text-bold", canvasFontFile(true));
     return mpRegular && mpBold;
 }
 

@@ -88,8 +88,7 @@ void DialogDataGraph::connectGraph()
     connect(mpGraph, &WidgetGraphES::signalMarker, this, &DialogDataGraph::signalMarker);
     connect(mpGraph, &WidgetGraphES::signalMenu, this, &DialogDataGraph::slotMenu);
     connect(&mpGraph->model(), &GraphModel::signalIncident, this, &DialogDataGraph::slotIncident);
-    connect(&mCourse, &CourseFinder::signalFound, this,
-            [this](const std::shared_ptr<const CycleCourse>& pCourse) { mpGraph->model().scenery().setCourse(pCourse); });
+    connect(&mCourse, &CourseFinder::signalFound, this, &DialogDataGraph::setCourse);
     connect(&mGhosts, &GhostLoader::signalLoaded, this,
             [this](const std::shared_ptr<const GhostCycle>& pCycle, int flight) { mRecord.ghost().set(pCycle, flight); });
     connect(&mGhosts, &GhostLoader::signalFailed, this,
@@ -169,14 +168,14 @@ void DialogDataGraph::updateRecord(RecordData* pRecord)
 {
     if (!mRecord.updateRecord(pRecord))
         mHistory.clear();
-    findCourse();
+    findCourse(mRecord.hasRecord());
 }
 
 void DialogDataGraph::updateFlights(RecordData* pRecord)
 {
     if (!mRecord.updateFlights(pRecord))
         mHistory.clear();
-    findCourse();
+    findCourse(mRecord.hasRecord());
 }
 
 void DialogDataGraph::growRecord(RecordData* pRecord, bool isReviewed)
@@ -195,15 +194,26 @@ void DialogDataGraph::update(RecordData* pRecord)
         mHistory.clear();
     showUnshown();
     updateSetup();
-    findCourse();
+    findCourse(mRecord.hasRecord());
 }
 
-void DialogDataGraph::findCourse()
+void DialogDataGraph::prepare(RecordData* pRecord)
+{
+    findCourse(pRecord != nullptr);
+}
+
+void DialogDataGraph::setCourse(const std::shared_ptr<const CycleCourse>& pCourse)
+{
+    mpGraph->model().scenery().setCourse(pCourse);
+    Q_EMIT signalCourse(pCourse);
+}
+
+void DialogDataGraph::findCourse(bool hasRecord)
 {
     // That of the same record stays until it is found anew.
-    if (std::exchange(mpCourseOf, mSession.container.record().get()) != mSession.container.record().get() || !mRecord.hasRecord())
-        mpGraph->model().scenery().setCourse(nullptr);
-    if (mRecord.hasRecord())
+    if (std::exchange(mpCourseOf, mSession.container.record().get()) != mSession.container.record().get() || !hasRecord)
+        setCourse(nullptr);
+    if (hasRecord)
         mCourse.start(mSession.container.loaded());
     else
         mCourse.stop();

@@ -32,6 +32,8 @@ public:
     void updateFlights(RecordData* pRecord) override;
     void growRecord(RecordData* pRecord, bool isReviewed) override;
     [[nodiscard]] int growthPeriod() const override { return 0; }
+    /// The course is shown elsewhere, too.
+    void prepare(RecordData* pRecord) override;
     void setTime(double time) override;
     void setZarnMode(int mode) override;
     void updateSettings() override;
@@ -63,6 +65,8 @@ Q_SIGNALS:
     void signalSettings();
     /// The user took back, or did again, what changed the ticks: those of the layout are wanted.
     void signalTicks(const DisplayLayout& layout);
+    /// What happened in the cycle; null while that is not known.
+    void signalCourse(const std::shared_ptr<const ZARN::CycleCourse>& pCourse);
 
 protected:
     /// The keys are for the graph. No focus proxy: Tab would pass the buttons, which stand before it.
@@ -91,7 +95,8 @@ private:
     void addTimeMenu(QMenu& menu);
     void addGhostMenu(QMenu& menu);
     void updateSetup();
-    void findCourse();
+    void findCourse(bool hasRecord);
+    void setCourse(const std::shared_ptr<const CycleCourse>& pCourse);
     void showSetup();
     void snapshot();
     void copyValues();

@@ -1,5 +1,6 @@
 #include "ui/graph/DialogGraphSetup.h"
 
+#include "app/gui/StyleProperty.h"
 #include "ui/graph/TraceColourRow.h"
 
 #include <QCheckBox>
@@ -23,7 +24,6 @@ namespace ZARN {
 
 namespace {
 
-constexpr auto kWrongInput = "QLineEdit { color: white; background-color: #b02020; }";
 
 /// The number that a text says, with a point or a comma; none when it says no number that the graph can take. What one reader takes for
 /// thousands and another one for decimals is none, but for the sign that the language in force has for decimals.
@@ -201,7 +201,7 @@ void DialogGraphSetup::showNumber(QLineEdit* pField, double value)
         mBefore[pField] = value;
     }
     const bool isWrong = isTyped && !typed;
-    pField->setStyleSheet(isWrong ? QLatin1String(kWrongInput) : QLatin1String());
+    setStyleProperty(*pField, "wrong", isWrong);
     pField->setToolTip(
         isWrong ? tr("This is not a number, or might be read as two: the scale stays as it was. Numbers have no sign between thousands.")
                 : QString());

@@ -1,12 +1,12 @@
 #include "ui/graph/WidgetGraphBase.h"
 
+#include "app/gui/TextSize.h"
 #include "app/gui/TextTwin.h"
 #include "ui/graph/model/AxisTicks.h"
 #include "ui/graph/model/GraphDescription.h"
 #include "ui/graph/model/GraphScene.h"
 
 #include <QContextMenuEvent>
-#include <QFontInfo>
 #include <QGestureEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -160,7 +160,7 @@ void WidgetGraphBase::getAutoFormat(float step, QString& format)
 
 double WidgetGraphBase::textSize() const
 {
-    return std::clamp(static_cast<double>(QFontInfo(font()).pixelSize()) - 1.0, 8.0, 40.0);
+    return ZARN::textSize(*this, ZARN::EText::eDrawn);
 }
 
 void WidgetGraphBase::paintOn(ZARN::Canvas& canvas, const QSizeF& size, double ratio) const
@@ -319,6 +319,8 @@ void WidgetGraphBase::resizeEvent(QResizeEvent* pEvent)
 void WidgetGraphBase::changeEvent(QEvent* pEvent)
 {
     QWidget::changeEvent(pEvent);
+    if (pEvent->type() == QEvent::StyleChange && mModel.settings().followScreen())
+        mModel.settingsChanged();
     if (pEvent->type() == QEvent::FontChange || pEvent->type() == QEvent::StyleChange)
         requestFrame();
 }

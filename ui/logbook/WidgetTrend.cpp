@@ -1,8 +1,8 @@
 #include "ui/logbook/WidgetTrend.h"
 
+#include "app/gui/TextSize.h"
 #include "ui/canvas/RasterCanvas.h"
 
-#include <QFontInfo>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPainter>
@@ -37,7 +37,7 @@ void WidgetTrend::choose(int point)
 
 TrendScene WidgetTrend::scene() const
 {
-    return {*mpTrend, QSizeF(size()), static_cast<double>(QFontInfo(font()).pixelSize())};
+    return {*mpTrend, QSizeF(size()), static_cast<double>(textSize(*this, EText::eDrawn))};
 }
 
 int WidgetTrend::pointAt(const QPointF& place) const

@@ -2,13 +2,13 @@
 
 #include "app/Revision.h"
 #include "app/gui/Heading.h"
-#include "app/gui/ImageHandler.h"
+#include "app/gui/IconLabel.h"
+#include "app/gui/SideList.h"
 
 #include <QDialogButtonBox>
 #include <QFile>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QListWidget>
 #include <QPlainTextEdit>
 #include <QStackedWidget>
 
@@ -22,12 +22,11 @@ struct Licence {
 
 constexpr Licence kLicences[] = {
     {"ZARN", "zarn"},         {"Qt (LGPL 3)", "lgpl-3"}, {"GPL 3", "gpl-3"},     {"CLI11", "cli11"},
-    {"FreeType", "freetype"}, {"Lucide", "icons"},       {"B612 Mono", "fonts"}, {"Natural Earth", "base-map"},
+    {"FreeType", "freetype"}, {"Lucide", "icons"},       {"B612", "fonts"}, {"Natural Earth", "base-map"},
     {"muParser", "muparser"}, {"SQLite, Thrift, Boost, Zstandard", "store"},
 };
 
 constexpr int kPictureSize = 48;
-constexpr int kListMargin = 40; // beside the longest name
 
 QString licenceText(const char* file)
 {
@@ -52,8 +51,7 @@ DialogAbout::DialogAbout(QWidget* pParent) : QDialog(pParent)
 
 QWidget* DialogAbout::createHead() const
 {
-    auto* pPicture = new QLabel;
-    pPicture->setPixmap(ImageHandler::icon("zarn").pixmap(QSize(kPictureSize, kPictureSize), devicePixelRatioF()));
+    auto* pPicture = new ZARN::IconLabel("zarn", kPictureSize);
     auto* pName = new ZARN::Heading(QString::fromStdString(ZARN::Revision::getRevisionString()));
     auto* pText = new QLabel(tr("After-flight review of engine recordings.") + "\n" +
                              tr("Compiled %1 with Qt %2, running on Qt %3")
@@ -73,7 +71,7 @@ QWidget* DialogAbout::createHead() const
 
 QLayout* DialogAbout::createLicences() const
 {
-    auto* pNames = new QListWidget; // more than fit into a row of tabs
+    auto* pNames = new ZARN::SideList; // more than fit into a row of tabs
     auto* pTexts = new QStackedWidget;
     pNames->setAccessibleName(tr("Licences"));
     for (const Licence& licence : kLicences) {
@@ -86,8 +84,6 @@ QLayout* DialogAbout::createLicences() const
     }
     connect(pNames, &QListWidget::currentRowChanged, pTexts, &QStackedWidget::setCurrentIndex);
     pNames->setCurrentRow(0);
-    pNames->ensurePolished();
-    pNames->setFixedWidth(pNames->sizeHintForColumn(0) + kListMargin);
     auto* pLayout = new QHBoxLayout;
     pLayout->addWidget(pNames);
     pLayout->addWidget(pTexts, 1);

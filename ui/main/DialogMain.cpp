@@ -38,6 +38,7 @@
 #include "ui/main/ProjectController.h"
 #include "ui/main/RecentFolders.h"
 #include "ui/main/StatusProgress.h"
+#include "ui/main/StyleWatch.h"
 #include "ui/main/WidgetWelcome.h"
 #include "ui/main/WindowLayout.h"
 #include "ui/main/XyController.h"
@@ -62,7 +63,6 @@ namespace {
 
 constexpr int kRestoreDelay = 20;   // milliseconds from here on: the event loop runs
 constexpr int kStartupDelay = 1000; // the window has its size
-constexpr int kStylePeriod = 500;   // from look to look at the style file
 constexpr int kMessageDuration = 8000;
 
 } // namespace
@@ -174,6 +174,9 @@ void DialogMain::createNotices()
         mpNotices->setProblem(Notices::eSettings, unsaved, file);
     mpNotices->watch(mSession.property.file(), Notices::eSettings, unsaved);
     mpNotices->watch(mSession.project.file(), Notices::eProject, tr("Project cannot be saved"));
+    std::string style;
+    mEnvironment.cmdLine.getParameter("-s", style);
+    new StyleWatch(mSession.console, mEnvironment.kernel, *mpNotices, QString::fromStdString(style), this);
 }
 
 void DialogMain::createControllers()
@@ -242,11 +245,6 @@ void DialogMain::connectPanels()
 
 void DialogMain::startTimers()
 {
-    std::string style;
-    mEnvironment.cmdLine.getParameter("-s", style);
-    mStyle = StyleWatch(QString::fromStdString(style));
-    connect(&mStyleTimer, &QTimer::timeout, this, &DialogMain::slotCheckStyle);
-    mStyleTimer.start(kStylePeriod);
     mStartTimer.setSingleShot(true);
     connect(&mStartTimer, &QTimer::timeout, this, &DialogMain::slotTimeout);
     mStartTimer.start(kRestoreDelay);
@@ -556,14 +554,6 @@ void DialogMain::restoreCard()
 void DialogMain::slotTimeoutStartup()
 {
     mpLayout->settle();
-}
-
-void DialogMain::slotCheckStyle()
-{
-    if (!mStyle.takeChange())
-        return;
-    mSession.console.print("Slot Load Style <%s>\n", mStyle.file().toUtf8().constData());
-    mEnvironment.kernel.loadStyleFile(mStyle.file());
 }
 
 bool DialogMain::eventFilter(QObject* pObject, QEvent* pEvent)

@@ -2,7 +2,6 @@
 
 #include "project/RecordSession.h"
 #include "project/Session.h"
-#include "ui/main/StyleWatch.h"
 #include "ui/main/WindowEnvironment.h"
 
 #include <QMainWindow>
@@ -98,7 +97,6 @@ protected:
 private Q_SLOTS:
     void slotTimeout();
     void slotTimeoutStartup();
-    void slotCheckStyle();
     void slotFolderChanged();
     void slotDataChanging();
     void slotDataChanged();
@@ -160,9 +158,7 @@ private:
     OverviewController* mpOverview = nullptr;
     LogbookController* mpLogbook = nullptr;
     LayoutController* mpLayoutController = nullptr;
-    StyleWatch mStyle{QString()};
     QTimer mStartTimer;
-    QTimer mStyleTimer;
 };
 
 } // namespace ZARN

@@ -4,6 +4,7 @@
 #include "app/Settings.h"
 #include "app/gui/ImageHandler.h"
 #include "app/gui/Kernel.h"
+#include "app/gui/SideList.h"
 #include "app/gui/WheelGuard.h"
 #include "openstreet/core/TileServer.h"
 #include "profile/ui/ProfileProblem.h"
@@ -39,13 +40,12 @@ OpenStreet::TileServer tileServer(const Property& property)
 } // namespace
 
 DialogPreferences::DialogPreferences(const Session& session, Kernel& kernel, QWidget* pParent)
-    : QDialog(pParent), mSession(session), mKernel(kernel), mLocale(Settings::kLocale.text(session.property)), mpList(new QListWidget),
-      mpPages(new QStackedWidget), mpLanguage(new QComboBox), mpFontSize(new QSpinBox),
+    : QDialog(pParent), mSession(session), mKernel(kernel), mLocale(Settings::kLocale.text(session.property)), mpList(new SideList(kListWidth)),
+      mpPages(new QStackedWidget), mpLanguage(new QComboBox), mpPalette(new QComboBox), mpFontSize(new QSpinBox),
       mpTiles(new QCheckBox(tr("Load map tiles from the network"))), mpTileServer(new QLabel)
 {
     setWindowTitle(tr("Preferences"));
     mpList->setIconSize(QSize(16, 16));
-    mpList->setFixedWidth(kListWidth);
     mpList->setAccessibleName(tr("Pages"));
     connect(mpList, &QListWidget::currentItemChanged, this, &DialogPreferences::slotChangePage);
     addPage(tr("General"), "general", createGeneralPage());
@@ -65,6 +65,7 @@ DialogPreferences::DialogPreferences(const Session& session, Kernel& kernel, QWi
     fillDialog();
     // Connected last: what filling the window sets is no change of the user's.
     connect(mpLanguage, &QComboBox::activated, this, [this](int index) { slotLanguage(mpLanguage->itemData(index).toString()); });
+    connect(mpPalette, &QComboBox::activated, this, &DialogPreferences::slotPalette);
     connect(mpFontSize, &QSpinBox::valueChanged, this, &DialogPreferences::slotFont);
     connect(mpFontSize, &QSpinBox::editingFinished, this, &DialogPreferences::slotFontChosen);
     connect(mpTiles, &QCheckBox::clicked, this, &DialogPreferences::slotTiles);
@@ -80,12 +81,16 @@ QWidget* DialogPreferences::createGeneralPage()
     mpLanguage->addItem("Deutsch", "de");
     mpLanguage->addItem("English", "us");
     mpFontSize->setRange(Settings::kFontSize.least, Settings::kFontSize.most);
+    mpPalette->setObjectName("palette");
+    mpPalette->addItems({tr("Light"), tr("Dark"), tr("As the system")}); // in the order of the setting's numbers
     WheelGuard::install(*mpLanguage);
+    WheelGuard::install(*mpPalette);
     WheelGuard::install(*mpFontSize);
     auto* pGroup = new QGroupBox(tr("Application"));
     auto* pForm = new QFormLayout(pGroup);
     pForm->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     pForm->addRow(tr("Language :"), mpLanguage);
+    pForm->addRow(tr("Colours :"), mpPalette);
     pForm->addRow(tr("Font Size :"), mpFontSize);
     auto* pPage = new QWidget;
     auto* pLayout = new QVBoxLayout(pPage);
@@ -137,6 +142,7 @@ void DialogPreferences::addPage(const QString& name, const QString& icon, QWidge
 void DialogPreferences::fillDialog()
 {
     mpLanguage->setCurrentIndex(mpLanguage->findData(Settings::kLocale.text(mSession.property)));
+    mpPalette->setCurrentIndex(Settings::kPalette.get(mSession.property));
     const QSignalBlocker blocker(mpFontSize);
     mpFontSize->setValue(Settings::kFontSize.get(mSession.property));
     fillTiles();
@@ -186,6 +192,13 @@ void DialogPreferences::slotLanguage(const QString& locale)
     box.exec();
     if (box.clickedButton() == pNow)
         mKernel.restart();
+}
+
+void DialogPreferences::slotPalette(int palette)
+{
+    Settings::kPalette.set(mSession.property, palette);
+    mSession.property.writeXmlFile();
+    mKernel.applyPalette();
 }
 
 void DialogPreferences::slotFont(int size)

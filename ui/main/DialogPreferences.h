@@ -31,6 +31,8 @@ public:
 public Q_SLOTS:
     /// Keeps the language and asks whether to start again now, for a language is loaded at start alone.
     void slotLanguage(const QString& locale);
+    /// Applies a palette and keeps it.
+    void slotPalette(int palette);
     /// Applies a font size in pixels; slotFontChosen() keeps it.
     void slotFont(int size);
     void slotFontChosen();
@@ -66,6 +68,7 @@ private:
     QListWidget* mpList;
     QStackedWidget* mpPages;
     QComboBox* mpLanguage;
+    QComboBox* mpPalette;
     QSpinBox* mpFontSize;
     QCheckBox* mpTiles;
     QLabel* mpTileServer;

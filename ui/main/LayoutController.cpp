@@ -67,7 +67,7 @@ void LayoutController::restore(bool isFirst)
     if (pLayout) {
         if (isFirst)
             tick(*pLayout);
-        mData.setLayout(*pLayout);
+        mData.graph().setLayout(*pLayout);
         Settings::kGraphLayout.set(mSession.property, pLayout->name); // written with the first thing that the user does
     }
     update();
@@ -88,7 +88,7 @@ void LayoutController::slotChosen(const QString& name)
     const DisplayLayout* pLayout = mStore.find(name);
     if (!pLayout)
         return;
-    mData.setLayout(*pLayout); // before the ticks, for the graph remembers what it showed
+    mData.graph().setLayout(*pLayout); // before the ticks, for the graph remembers what it showed
     tick(*pLayout);
     setCurrent(name);
     Q_EMIT signalChosen();

@@ -18,7 +18,7 @@ class Notices : public QObject {
     Q_OBJECT
 
 public:
-    enum EProblem { eGraphics, eProfile, eSettings, eProject, eLayouts, eLogbook };
+    enum EProblem { eGraphics, eProfile, eSettings, eProject, eLayouts, eLogbook, eStyle };
 
     explicit Notices(QMainWindow* pWindow);
 

@@ -1,24 +1,38 @@
 #pragma once
 
 #include <QDateTime>
-#include <QString>
+#include <QObject>
+#include <QTimer>
 
 namespace ZARN {
 
-/// Notices when the style file of the command line was written again.
-class StyleWatch {
+class Console;
+class Kernel;
+class Notices;
+
+/// Keeps the program's look current while it runs: the style file of the command line when it is written again, and the system's palette
+/// where that is followed. Tells what is wrong with either. Owned by the main window.
+class StyleWatch : public QObject {
+    Q_OBJECT
+
 public:
-    /// Empty path: there is none.
-    explicit StyleWatch(const QString& file);
+    /// @param file of the command line; empty when there is none
+    StyleWatch(const Console& console, Kernel& kernel, Notices& notices, const QString& file, QObject* pParent);
 
-    /// Once after each change; the file as it stood at first is none.
-    [[nodiscard]] bool takeChange();
-
-    [[nodiscard]] const QString& file() const { return mFile; }
+protected:
+    bool eventFilter(QObject* pObject, QEvent* pEvent) override;
 
 private:
+    void checkFile();
+    void tellProblem();
+
+    const Console& mConsole;
+    Kernel& mKernel;
+    Notices& mNotices;
     QString mFile;
     QDateTime mTime; ///< of the file as it was last seen
+    QTimer mTimer;
+    QTimer mFollow; ///< one change of the system is told to each window
 };
 
 } // namespace ZARN

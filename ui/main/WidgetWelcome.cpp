@@ -2,13 +2,14 @@
 
 #include "app/gui/ImageHandler.h"
 #include "app/gui/Heading.h"
+#include "app/gui/IconLabel.h"
+#include "app/gui/StyleProperty.h"
 
 #include <QEvent>
 #include <QFontInfo>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QStyle>
 
 #include <algorithm>
 
@@ -36,8 +37,7 @@ WidgetWelcome::WidgetWelcome(QWidget* pParent)
     : QFrame(pParent), mpArea(new QFrame), mpColumn(new QWidget), mpHeading(makeLabel<Heading>("heading")), mpText(makeLabel<QLabel>("quiet")),
       mpProblem(makeLabel<QLabel>("warning")), mpButtons(new QWidget)
 {
-    auto* pPicture = new QLabel;
-    pPicture->setPixmap(ImageHandler::icon("zarn").pixmap(QSize(kPictureSize, kPictureSize), devicePixelRatioF()));
+    auto* pPicture = new IconLabel("zarn", kPictureSize);
     pPicture->setAlignment(Qt::AlignCenter);
 
     auto* pOpen = new QPushButton(ImageHandler::icon("open-folder", Qt::white), tr("Open card folder ..."));
@@ -136,9 +136,7 @@ void WidgetWelcome::setState(EState state)
 
 void WidgetWelcome::setDragged(bool dragged)
 {
-    mpArea->setProperty("dragged", dragged);
-    mpArea->style()->unpolish(mpArea);
-    mpArea->style()->polish(mpArea);
+    setStyleProperty(*mpArea, "dragged", dragged);
 }
 
 } // namespace ZARN

@@ -205,7 +205,8 @@ void MapValuePanel::elide(int width)
 MapToolPanel::MapToolPanel(int scale, QWidget* pParent) : QWidget(pParent)
 {
     auto* pPanel = new QWidget(this);
-    pPanel->setStyleSheet(QStringLiteral(".QWidget{background-color: #66ffffff;border-radius:10px;}"));
+    pPanel->setStyleSheet(QStringLiteral(".QWidget{background-color: #66ffffff;border-radius:10px;}"
+                                          "QToolButton:checked, QToolButton:hover {background-color: #d7e8f6;}"));
     auto* pOuter = new QVBoxLayout(this);
     pOuter->setContentsMargins(0, 0, 0, 0);
     pOuter->addWidget(pPanel);

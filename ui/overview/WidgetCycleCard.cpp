@@ -18,8 +18,6 @@ namespace ZARN {
 namespace {
 
 constexpr double kMarkSize = 2.6;    // times the text
-constexpr double kVerdictSize = 1.35;
-constexpr double kFigureSize = 1.3;
 constexpr int kWide = 58; // times the text: from here on the figures have room beside the verdict
 constexpr int kBar = 6;   // pixels of the verdict's colour at the left
 constexpr std::size_t kRowsShown = 50;
@@ -63,7 +61,7 @@ QBoxLayout* WidgetCycleCard::createHead()
 {
     auto* pTexts = new QVBoxLayout;
     pTexts->setSpacing(1);
-    pTexts->addWidget(makeLabel(new Heading(OverviewTexts::verdict(*mpCycle), nullptr, kVerdictSize), "heading"));
+    pTexts->addWidget(makeLabel(new Heading(OverviewTexts::verdict(*mpCycle), nullptr, EText::eHeading), "heading"));
     pTexts->addWidget(makeLabel(new QLabel(OverviewTexts::origin(*mpCycle)), "quiet"));
     auto* pVerdict = new QHBoxLayout;
     pVerdict->setSpacing(12);
@@ -84,7 +82,7 @@ QLayout* WidgetCycleCard::createFigures() const
         auto* pColumn = new QVBoxLayout(pFigure);
         pColumn->setContentsMargins(0, 0, 0, 0);
         pColumn->setSpacing(1);
-        for (QLabel* pLabel : {makeLabel(new Heading(figure.value, nullptr, kFigureSize), "heading"), makeLabel(new QLabel(figure.name), "quiet")}) {
+        for (QLabel* pLabel : {makeLabel(new Heading(figure.value, nullptr, EText::eHeading), "heading"), makeLabel(new QLabel(figure.name), "quiet")}) {
             pLabel->setWordWrap(false);
             pColumn->addWidget(pLabel);
         }

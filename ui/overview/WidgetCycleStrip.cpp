@@ -1,5 +1,6 @@
 #include "ui/overview/WidgetCycleStrip.h"
 
+#include "ui/canvas/Palette.h"
 #include "ui/overview/VerdictMark.h"
 #include "ui/overview/model/OverviewTexts.h"
 
@@ -14,24 +15,9 @@ namespace ZARN {
 
 namespace {
 
-const QColor kRecorded(0xf1, 0xf4, 0xf7);
-const QColor kBorder(0xb4, 0xbf, 0xca);
-const QColor kLabel(0x4a, 0x5b, 0x6b);
 constexpr double kMark = 7;     // height of an incident's mark
 constexpr double kLeastMark = 4; // its least width: none is too short to be seen
 constexpr double kNear = 4;     // how far from a mark a click may fall
-
-QColor colourOf(EFlightPhase phase)
-{
-    switch (phase) {
-    case EFlightPhase::eGround: return {0xd3, 0xdb, 0xe3};
-    case EFlightPhase::eTakeOff: return {0x5f, 0x9a, 0xd0};
-    case EFlightPhase::eClimb: return {0x8b, 0xb8, 0xe0};
-    case EFlightPhase::eLevel: return {0xb3, 0xd2, 0xee};
-    case EFlightPhase::eDescent: return {0xcd, 0xe1, 0xf4};
-    default: return kRecorded;
-    }
-}
 
 } // namespace
 
@@ -114,13 +100,13 @@ void WidgetCycleStrip::paintPhases(QPainter& painter) const
     for (const FlightPhases::Step& step : mpCycle->review.phases) {
         const QRectF area = span(step.from, step.until);
         if (step.phase != EFlightPhase::eOff && area.width() > 0)
-            painter.fillRect(area, colourOf(step.phase));
+            painter.fillRect(area, Palette::screen().course.of(step.phase));
     }
 }
 
 void WidgetCycleStrip::paintLabels(QPainter& painter) const
 {
-    painter.setPen(kLabel);
+    painter.setPen(Palette::screen().course.label);
     const QFontMetricsF metrics(painter.font());
     double end = 0;
     for (std::size_t i = 0; i < mpCycle->flights.size(); ++i) {
@@ -139,9 +125,9 @@ void WidgetCycleStrip::paintLabels(QPainter& painter) const
 void WidgetCycleStrip::paintEvent(QPaintEvent* /*pEvent*/)
 {
     QPainter painter(this);
-    painter.fillRect(bar(), kRecorded);
+    painter.fillRect(bar(), Palette::screen().course.recorded);
     paintPhases(painter);
-    painter.setPen(kBorder);
+    painter.setPen(Palette::screen().course.border);
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(bar());
     for (const int state : {1, 2}) { // what is worse lies above

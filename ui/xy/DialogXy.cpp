@@ -34,7 +34,7 @@ DialogXy::DialogXy(const Session& session, RecordSession& record, QWidget* pPare
     setWindowTitle(tr("X against Y"));
     resize(kFirstSize);
     const auto paint = [this](Canvas& canvas, const QSize& size, bool forPaper) {
-        mpView->paintOn(canvas, size, forPaper ? Palette::print() : Palette::light());
+        mpView->paintOn(canvas, size, forPaper ? Palette::print() : Palette::screen());
     };
     mpPicture = new PictureMenu(
         session, [this, paint] { return Picture(paint, mpView->size(), devicePixelRatioF()); }, [this] { return about(); }, this);

@@ -1,10 +1,10 @@
 #include "ui/xy/WidgetXy.h"
 
+#include "app/gui/TextSize.h"
 #include "ui/canvas/ColourContrast.h"
 #include "ui/canvas/RasterCanvas.h"
 
 #include <QContextMenuEvent>
-#include <QFontInfo>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -24,7 +24,7 @@ WidgetXy::WidgetXy(QWidget* pParent) : QWidget(pParent)
 
 XyScene WidgetXy::scene(const QSize& size, const Palette& palette) const
 {
-    return {mPoints, palette, QSizeF(size), std::clamp(static_cast<double>(QFontInfo(font()).pixelSize()) - 1.0, 8.0, 40.0)};
+    return {mPoints, palette, QSizeF(size), static_cast<double>(textSize(*this, EText::eDrawn))};
 }
 
 void WidgetXy::setPoints(XyPoints points)
@@ -61,7 +61,14 @@ void WidgetXy::drawGround()
     mGround.setDevicePixelRatio(devicePixelRatioF());
     QPainter painter(&mGround);
     RasterCanvas canvas(painter);
-    scene(size(), Palette::light()).draw(canvas);
+    scene(size(), Palette::screen()).draw(canvas);
+}
+
+void WidgetXy::changeEvent(QEvent* pEvent)
+{
+    if (pEvent->type() == QEvent::StyleChange)
+        mGround = {};
+    QWidget::changeEvent(pEvent);
 }
 
 void WidgetXy::paintEvent(QPaintEvent* /*pEvent*/)
@@ -72,10 +79,10 @@ void WidgetXy::paintEvent(QPaintEvent* /*pEvent*/)
     painter.drawImage(0, 0, mGround);
     if (mCursor && !mPoints.points().empty()) {
         RasterCanvas canvas(painter);
-        scene(size(), Palette::light()).drawCursor(canvas, *mCursor);
+        scene(size(), Palette::screen()).drawCursor(canvas, *mCursor);
     }
     if (!mMessage.isEmpty()) {
-        painter.setPen(textColourOn(mPoints.points().empty() ? Palette::light().graph.ground : Palette::light().graph.labelGround));
+        painter.setPen(textColourOn(mPoints.points().empty() ? Palette::screen().graph.ground : Palette::screen().graph.labelGround));
         painter.drawText(rect().adjusted(20, 20, -20, -20), Qt::AlignCenter | Qt::TextWordWrap, mMessage);
     }
 }
@@ -84,7 +91,7 @@ void WidgetXy::mousePressEvent(QMouseEvent* pEvent)
 {
     if (pEvent->button() != Qt::LeftButton)
         return QWidget::mousePressEvent(pEvent);
-    if (const std::optional<double> time = scene(size(), Palette::light()).timeAt(pEvent->position()))
+    if (const std::optional<double> time = scene(size(), Palette::screen()).timeAt(pEvent->position()))
         Q_EMIT signalTime(*time);
 }
 

@@ -28,6 +28,7 @@ Q_SIGNALS:
     void signalMenu(const QPoint& point);
 
 protected:
+    void changeEvent(QEvent* pEvent) override;
     void paintEvent(QPaintEvent* pEvent) override;
     void mousePressEvent(QMouseEvent* pEvent) override;
     void contextMenuEvent(QContextMenuEvent* pEvent) override;

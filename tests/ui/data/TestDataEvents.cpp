@@ -237,9 +237,9 @@ void TestDataEvents::noStatistic()
     Events events;
     DialogDataStatistic view(events.session);
     const auto shown = [&] { return view.findChild<QTextEdit*>()->toPlainText(); };
-    QCOMPARE(shown(), QString("\n\nNo flight selected"));
+    QVERIFY(shown().startsWith("\n\nNo flight selected\n"));
     view.updateRecord(events.data()); // the whole cycle
-    QCOMPARE(shown(), QString("\n\nNo flight selected"));
+    QVERIFY(shown().startsWith("\n\nNo flight selected\n"));
 }
 
 QTEST_MAIN(TestDataEvents)

@@ -1,4 +1,5 @@
 #include "card/CardContainer.h"
+#include "ui/canvas/ColourContrast.h"
 #include "ui/data/DataCycle.h"
 #include "ui/data/DialogDataErrorMatrix.h"
 #include "ui/data/WidgetErrorItem.h"
@@ -134,15 +135,16 @@ void TestFaultMatrix::timeline()
     QCOMPARE(wide.xOf(60.0), 50);
     const QImage image = wide.grab().toImage();
     const auto colour = [&](int x, int y) { return image.pixelColor(x, y); };
+    const auto mark = [](const QColor& kind) { return QColor(readableOn(Qt::white, kind, 3.0).rgb()); };
     QCOMPARE(colour(19, 8), QColor(Qt::white));
-    QCOMPARE(colour(20, 8), kInfo);
-    QCOMPARE(colour(49, 8), kInfo);
+    QCOMPARE(colour(20, 8), mark(kInfo));
+    QCOMPARE(colour(49, 8), mark(kInfo));
     QCOMPARE(colour(50, 8), QColor(Qt::white));
-    QCOMPARE(colour(50, 24), kWarning);
+    QCOMPARE(colour(50, 24), mark(kWarning));
     QCOMPARE(colour(70, 24), QColor(Qt::white));
-    QCOMPARE(colour(59, 40), kFault);
+    QCOMPARE(colour(59, 40), mark(kFault));
     QCOMPARE(colour(69, 40), QColor(Qt::white));
-    QCOMPARE(colour(70, 40), kFault); // shorter than a pixel, but there
+    QCOMPARE(colour(70, 40), mark(kFault)); // shorter than a pixel, but there
     QCOMPARE(colour(71, 40), QColor(Qt::white));
     QCOMPARE(colour(30, 16), QColor(200, 200, 200));
     wide.setTime(60.0);

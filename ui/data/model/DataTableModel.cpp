@@ -1,6 +1,7 @@
 #include "ui/data/model/DataTableModel.h"
 
 #include "app/TimeText.h"
+#include "ui/canvas/Palette.h"
 
 #include <algorithm>
 #include <cmath>
@@ -15,7 +16,6 @@ constexpr std::size_t kMaxRows = std::numeric_limits<int>::max() / 32; // a view
 constexpr std::size_t kSomeValues = 64;
 constexpr std::size_t kProbes = 64; // runs of samples of a column that are looked at to see how wide it is: to decode all takes seconds
 constexpr std::size_t kProbe = 32;  // samples of a run: those side by side cost little more than the first
-const QColor kTimeGround(230, 230, 230);
 
 } // namespace
 
@@ -94,7 +94,7 @@ TableCell DataTableModel::cell(const QModelIndex& index) const
     if (index.row() >= mRowCount || mProfileIdentity != mProfile.identity())
         return {};
     if (index.column() == 0)
-        return {mTimes.text(mRows.key(row).milliseconds()), kTimeGround, eThresholdOk, false};
+        return {mTimes.text(mRows.key(row).milliseconds()), Palette::screen().tables.time, eThresholdOk, false};
     const auto column = static_cast<std::size_t>(index.column()) - 1;
     const auto position = mRows.sampleAt(column, row);
     return position ? valueCell(column, *position) : TableCell{};

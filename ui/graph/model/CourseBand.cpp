@@ -12,10 +12,10 @@ namespace ZARN {
 
 namespace {
 
-constexpr QColor kFlight(0x3d, 0x7f, 0xbd), kEngine(0x2e, 0x9e, 0x5b);
 constexpr double kEngineHeight = 3.0, kMarkHeight = 4.0, kLeastMark = 4.0; // pixels
 constexpr double kTremble = 1.5; // pixels beside a mark that are on it
 constexpr double kNear = 4.0;                                              // how far from a mark a click may fall
+constexpr double kLeastContrast = 3.0; // of marks, some of them narrow
 constexpr float kFlightShade = 0.09F;
 
 /// How much of the flights' colour a phase has.
@@ -31,7 +31,9 @@ float shareOf(EFlightPhase phase)
     }
 }
 
-QString nameOf(EFlightPhase phase)
+} // namespace
+
+QString CourseBand::phaseName(EFlightPhase phase)
 {
     const auto translated = [](const char* text) { return QCoreApplication::translate("ZARN::CourseBand", text); };
     switch (phase) {
@@ -43,8 +45,6 @@ QString nameOf(EFlightPhase phase)
     default: return {};
     }
 }
-
-} // namespace
 
 QRectF CourseBand::band() const
 {
@@ -90,9 +90,9 @@ void CourseBand::drawPhases(Canvas& canvas) const
         const QRectF part = area(step.from, step.until, band());
         if (part.isEmpty() || step.phase == EFlightPhase::eOff)
             continue;
-        const QColor colour = mixed(mModel.colours().labelBackground, kFlight, shareOf(step.phase));
+        const QColor colour = mixed(mModel.colours().labelBackground, Palette::light().phaseFlight, shareOf(step.phase));
         canvas.fillRect(part, colour);
-        const QString name = nameOf(step.phase);
+        const QString name = phaseName(step.phase);
         if (canvasTextSize(name, mLayout.textSize(), false).width() + 4 < part.width())
             names.emplace_back(QPointF(part.center().x(), part.top() - 1), name, textColourOn(colour));
     }
@@ -107,7 +107,7 @@ void CourseBand::drawEngine(Canvas& canvas) const
     for (const TimeSpan& stretch : mModel.scenery().course()->engine) {
         const QRectF part = area(stretch.start, stretch.end, line);
         if (!part.isEmpty())
-            canvas.fillRect(part, kEngine);
+            canvas.fillRect(part, Palette::light().phaseEngine);
     }
 }
 
@@ -129,7 +129,7 @@ void CourseBand::drawIncidents(Canvas& canvas) const
         for (const CycleCourse::Mark& incident : mModel.scenery().course()->incidents) {
             const QRectF place = incident.state == state ? mark(incident.span) : QRectF();
             if (!place.isEmpty())
-                canvas.fillRect(place, state == 2 ? palette.limit : palette.warning);
+                canvas.fillRect(place, readableOn(mModel.colours().labelBackground, state == 2 ? palette.limit : palette.warning, kLeastContrast));
         }
     }
 }

@@ -17,6 +17,8 @@ public:
     void draw(Canvas& canvas) const;
     /// The incident whose mark is under a point, by its place in the course.
     [[nodiscard]] std::optional<std::size_t> incidentAt(const QPointF& point) const;
+    /// In the user's language; empty where nothing runs.
+    [[nodiscard]] static QString phaseName(EFlightPhase phase);
 
 private:
     /// Where the layout leaves room for it; empty where it does not.

@@ -1,5 +1,6 @@
 #include "ui/graph/model/CourseFinder.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace ZARN {
@@ -11,6 +12,8 @@ CourseFinder::CourseFinder(QObject* pParent) : QObject(pParent)
 
 void CourseFinder::start(LoadedCard loaded)
 {
+    if (isFound(loaded))
+        return Q_EMIT signalFound(mpFound);
     mWanted = std::move(loaded);
     if (mTask.isRunning())
         mTask.cancel();
@@ -24,8 +27,20 @@ void CourseFinder::stop()
     mTask.cancel();
 }
 
+bool CourseFinder::isFound(const LoadedCard& loaded) const
+{
+    const auto isSame = [](const RecordFlight& a, const RecordFlight& b) { return a.takeOffTime == b.takeOffTime && a.landingTime == b.landingTime; };
+    return mpFound && !mTask.isRunning() && mFoundIn.lock() == loaded.pRecord && &mFoundBy.model() == &loaded.context.model() &&
+           mFoundBy.unit() == loaded.context.unit() && mFoundUntil == loaded.wholeEnd && std::ranges::equal(mFoundWith, loaded.flights, isSame);
+}
+
 void CourseFinder::begin()
 {
+    mpFound.reset();
+    mFoundIn = mWanted->pRecord;
+    mFoundBy = mWanted->context;
+    mFoundWith = mWanted->flights;
+    mFoundUntil = mWanted->wholeEnd;
     mTask.start([this, loaded = *std::exchange(mWanted, {})](Progress& /*progress*/) {
         mpFound = std::make_shared<const CycleCourse>(CycleCourse::of(loaded));
     });

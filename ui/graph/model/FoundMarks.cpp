@@ -17,7 +17,7 @@ constexpr double kShade = 0.18;
 void FoundMarks::draw(Canvas& canvas) const
 {
     const QRectF& plot = mLayout.plot();
-    const QColor colour = Palette::light().found;
+    const QColor colour = Palette::screen().found;
     canvas.push();
     canvas.clip(plot);
     for (const auto& [left, right] : columns()) {

@@ -23,6 +23,7 @@ struct GraphData {
     eGraphMode graphMode = eAutomatic;
     eCursorMode cursorMode = eCenter;
     EGraphPalette palette = EGraphPalette::eStandard; ///< of the traces, and of what follows unless it is changed
+    const Palette::Graph* pColours = &Palette::light().graph; ///< of that palette
     QString backColor = Palette::light().graph.ground.name();
     bool gridOn = true;
     QString gridColor = Palette::light().graph.grid.name();
@@ -41,10 +42,20 @@ struct GraphData {
     {
         const Palette::Graph& colours = Palette::graphColours(wanted);
         palette = wanted;
+        pColours = &colours;
         backColor = colours.ground.name();
         gridColor = colours.grid.name();
         labelColor = colours.label.name();
         labelBackColor = colours.labelGround.name();
+    }
+    /// The windows have another palette: the standard colours are those of it then, while colours of the user's own stay. @return whether any changed
+    bool followScreen()
+    {
+        const bool isStandard = backColor == pColours->ground.name() && gridColor == pColours->grid.name() && labelColor == pColours->label.name() &&
+                                labelBackColor == pColours->labelGround.name();
+        if (palette == EGraphPalette::eStandard && isStandard)
+            usePalette(palette);
+        return palette == EGraphPalette::eStandard && isStandard;
     }
 };
 

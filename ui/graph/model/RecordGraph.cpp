@@ -28,6 +28,7 @@ RecordGraph::RecordGraph(const Session& session, GraphModel& model) : mSession(s
     mModel.setOfflineMode(true);
     // A floating cursor to begin with, so that the whole record stays in view while time passes.
     mModel.settings() = GraphData{.cursorMode = eFloating};
+    mModel.settings().followScreen();
     mModel.settingsChanged();
     updateProfile();
 }

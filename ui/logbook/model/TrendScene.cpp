@@ -18,7 +18,7 @@ constexpr double kMargin = 0.06; // of the range of values, above and below
 
 QColor pointColour()
 {
-    return readableOn(Palette::light().graph.ground, standardTraceColour(EGraphPalette::eStandard, 1), 3.0);
+    return readableOn(Palette::screen().graph.ground, standardTraceColour(EGraphPalette::eStandard, 1), 3.0);
 }
 
 QString number(double value, const TrendPoint& point)
@@ -75,7 +75,7 @@ int TrendScene::pointAt(double x) const
 
 void TrendScene::draw(Canvas& canvas, int chosen) const
 {
-    const Palette::Graph& colours = Palette::light().graph;
+    const Palette::Graph& colours = Palette::screen().graph;
     canvas.fillRect(QRectF(QPointF(), mSize), colours.labelGround);
     canvas.fillRect(mPlot, colours.ground);
     if (!(mPlot.width() > 0) || !(mPlot.height() > 0))
@@ -99,7 +99,7 @@ void TrendScene::draw(Canvas& canvas, int chosen) const
 
 void TrendScene::drawAxes(Canvas& canvas) const
 {
-    const Palette::Graph& colours = Palette::light().graph;
+    const Palette::Graph& colours = Palette::screen().graph;
     const AxisTicks ticks(mLow, mHigh, mPlot.height(), 2.4 * mTextSize);
     const CanvasText style{mTextSize, textColourOn(colours.labelGround), false, Qt::AlignRight | Qt::AlignVCenter};
     for (const AxisTick& tick : ticks.ticks()) {
@@ -115,7 +115,7 @@ void TrendScene::drawAxes(Canvas& canvas) const
 /// Dates below points that are as far from each other as a date is wide.
 void TrendScene::drawDates(Canvas& canvas) const
 {
-    const CanvasText style{mTextSize, textColourOn(Palette::light().graph.labelGround), false, Qt::AlignHCenter | Qt::AlignTop};
+    const CanvasText style{mTextSize, textColourOn(Palette::screen().graph.labelGround), false, Qt::AlignHCenter | Qt::AlignTop};
     const double room = canvas.textSize(QStringLiteral("00.00.0000"), style).width() * 1.25;
     double free = mPlot.left();
     for (std::size_t i = 0; i < count(); ++i) {
@@ -130,7 +130,7 @@ void TrendScene::drawDates(Canvas& canvas) const
 
 void TrendScene::drawBand(Canvas& canvas) const
 {
-    const QColor colour = withAlpha(textColourOn(Palette::light().graph.ground), 0.22);
+    const QColor colour = withAlpha(textColourOn(Palette::screen().graph.ground), 0.22);
     const double half = mPlot.width() / static_cast<double>(std::max<std::size_t>(count(), 1)) / 2;
     for (std::size_t i = 0; i < count(); ++i) {
         const TrendJudgement& judgement = mTrend.judgements[i];
@@ -143,7 +143,7 @@ void TrendScene::drawBand(Canvas& canvas) const
 
 double TrendScene::drawSign(Canvas& canvas, const QPointF& at, bool isUnusual, bool isDrifting) const
 {
-    const Palette& palette = Palette::light();
+    const Palette& palette = Palette::screen();
     const double room = mPlot.width() / static_cast<double>(std::max<std::size_t>(count(), 1));
     const double size = isUnusual || isDrifting ? 5.0 : std::clamp(room / 3, 1.5, 3.0);
     if (isUnusual)
@@ -168,7 +168,7 @@ void TrendScene::drawPoint(Canvas& canvas, std::size_t point) const
 
 void TrendScene::drawLegend(Canvas& canvas) const
 {
-    const CanvasText style{mTextSize, textColourOn(Palette::light().graph.labelGround), false, Qt::AlignLeft | Qt::AlignVCenter};
+    const CanvasText style{mTextSize, textColourOn(Palette::screen().graph.labelGround), false, Qt::AlignLeft | Qt::AlignVCenter};
     double x = mPlot.left();
     const double y = mPlot.top() / 2;
     const auto entry = [&](const QString& text, bool isUnusual, bool isDrifting) {

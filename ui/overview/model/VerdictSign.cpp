@@ -1,6 +1,7 @@
 #include "ui/overview/model/VerdictSign.h"
 
 #include "ui/canvas/CanvasFont.h"
+#include "ui/canvas/Palette.h"
 
 #include <QPainter>
 
@@ -19,7 +20,8 @@ QPolygonF shapeOf(EVerdict verdict)
 
 void paintInside(QPainter& painter, EVerdict verdict)
 {
-    const QColor line = verdict == EVerdict::eWarning ? Qt::black : Qt::white;
+    const Palette::Signs& colours = Palette::light().signs; // the same everywhere
+    const QColor line = verdict == EVerdict::eWarning ? colours.insideWarning : colours.inside;
     painter.setPen(QPen(line, 2.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.setBrush(Qt::NoBrush);
     if (verdict == EVerdict::eOk) {
@@ -38,11 +40,12 @@ void paintInside(QPainter& painter, EVerdict verdict)
 
 QColor VerdictSign::colour(EVerdict verdict)
 {
+    const Palette::Signs& colours = Palette::light().signs;
     switch (verdict) {
-    case EVerdict::eOk: return {0x1d, 0x80, 0x4f};
-    case EVerdict::eWarning: return {0xe8, 0xa2, 0x0c};
-    case EVerdict::eLimit: return {0xc4, 0x30, 0x1e};
-    default: return {0x5b, 0x6b, 0x7a};
+    case EVerdict::eOk: return colours.good;
+    case EVerdict::eWarning: return colours.warning;
+    case EVerdict::eLimit: return colours.limit;
+    default: return colours.unknown;
     }
 }
 
