@@ -18,7 +18,8 @@ ReportMap::ReportMap(const LoadedCard& loaded, const EventList& limits)
     mBaseMap.loadBuiltIn();
     mScene.path().setPoints(*loaded.pPath);
     mScene.setImperial(loaded.context.unit() == EUnit::eImperial);
-    mScene.setGraticule(true);
+    mScene.setPlain(true);
+    mScene.places().open(OpenStreet::DetailFile::builtInFolder());
     for (const Event& event : limits.events()) {
         const bool isShown = event.time >= loaded.startTime && event.time <= loaded.endTime && mScene.path().spans(event.time);
         if (isShown && mExceeded.size() < kMostMarks)

@@ -97,6 +97,13 @@ void TileDisk::drop(const QString& path)
     mFiles.erase(known);
 }
 
+void TileDisk::clear()
+{
+    index();
+    while (!mOrder.empty())
+        drop(QString(mOrder.back().path));
+}
+
 bool TileDisk::has(const QString& server, const TileId& id)
 {
     index();
