@@ -117,6 +117,8 @@ std::optional<TileRecord> TileDisk::read(const QString& server, const TileId& id
     index();
     const QString name = path(server, id);
     QFile file(fullPath(name));
+    if (!QFileInfo(file).isFile())
+        drop(name); // somebody else has removed it
     if (!QFileInfo(file).isFile() || file.size() > kLargestFile || !file.open(QIODevice::ReadOnly))
         return {};
     QDataStream stream(&file);

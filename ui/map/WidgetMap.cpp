@@ -9,6 +9,7 @@
 #include "profile/Profile.h"
 #include "ui/map/MapAttribution.h"
 #include "ui/map/model/TileConsent.h"
+#include "ui/map/model/TileFolder.h"
 #include "ui/map/model/ToolTipText.h"
 #include "vesk/base/Timer.h"
 #include "vesk/gl/Device.h"
@@ -18,7 +19,6 @@
 #include <QMouseEvent>
 #include <QNativeGestureEvent>
 #include <QResizeEvent>
-#include <QStandardPaths>
 #include <QToolTip>
 #include <QTouchEvent>
 #include <QWheelEvent>
@@ -87,9 +87,7 @@ WidgetMap::~WidgetMap()
 
 void WidgetMap::setUpMap(const QString& dataPath)
 {
-    const QString cache = QStandardPaths::writableLocation(QStandardPaths::CacheLocation);
-    mMap.setTileDirectory(cache.isEmpty() ? "" : (cache + QLatin1String("/tiles/")).toUtf8().constData(),
-                          (dataPath + QLatin1String("/tiles/")).toUtf8().constData());
+    mMap.setTileDirectory(tileFolder().toUtf8().constData(), (dataPath + QLatin1String("/tiles/")).toUtf8().constData());
     mScene.places().open(OpenStreet::DetailFile::builtInFolder());
     mMap.setTerrainPath((dataPath + QLatin1String("/terrain/")).toUtf8().constData());
     mMap.setProjection(OpenStreet::ProjectionType::eMercator);

@@ -32,6 +32,7 @@ public:
     [[nodiscard]] const PathGeometry& geometry() const { return mGeometry; }
     [[nodiscard]] const MapMarks& marks() const { return mMarks; }
     [[nodiscard]] PlaceLabels& places() { return mPlaces; }
+    [[nodiscard]] const PlaceLabels& places() const { return mPlaces; }
     /// The path of the whole cycle, of which path() is a part; shown dim. Empty where path() is all.
     void setWholePath(std::span<const FlightPathPoint> points) { mWhole.setPoints(points); }
     /// What is known of the cycle: marks, and where nothing was received.

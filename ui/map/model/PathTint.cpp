@@ -20,7 +20,7 @@ constexpr EFlightPhase kPhases[] = {EFlightPhase::eOff,   EFlightPhase::eGround,
 
 QColor between(const std::array<QColor, 5>& stops, double share)
 {
-    const double place = std::clamp(share, 0.0, 1.0) * (stops.size() - 1);
+    const double place = std::clamp(share, 0.0, 1.0) * static_cast<double>(stops.size() - 1);
     const auto below = std::min(static_cast<std::size_t>(place), stops.size() - 2);
     const auto part = static_cast<float>(place - static_cast<double>(below));
     const auto mix = [part](float a, float b) { return a + (b - a) * part; };
