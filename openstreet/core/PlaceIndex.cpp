@@ -86,15 +86,20 @@ void PlaceIndex::add(Source& source, const QRectF& part, int zoom, std::size_t m
         return;
     const int count = TileId::count(pLayer->zoom);
     const auto index = [count](double place) { return static_cast<int>(std::floor(std::clamp(place, -1.0, 2.0) * count)); };
-    const int left = index(part.left()), right = index(part.right());
+    const int west = index(part.left()), east = index(part.right());
     const int top = std::max(index(part.top()), 0), bottom = std::min(index(part.bottom()), count - 1);
-    if ((right - left + 1) * (bottom - top + 1) > kMostTiles)
+    if ((east - west + 1) * (bottom - top + 1) > kMostTiles)
         return;
     for (int y = top; y <= bottom; ++y) {
-        for (int x = left; x <= right; ++x) {
-            const Places& places = tile(source, *pLayer, {pLayer->zoom, ((x % count) + count) % count, y});
-            for (std::size_t i = 0; i < std::min(places.size(), mostOfTile); ++i)
-                result.push_back(&places[i]);
+        for (int x = west; x <= east; ++x) {
+            const QRectF here = part.translated(-std::floor(static_cast<double>(x) / count), 0.0); // in the world that the tile is of
+            std::size_t left = mostOfTile;
+            for (const MapPlace& place : tile(source, *pLayer, {pLayer->zoom, ((x % count) + count) % count, y})) {
+                if (left > 0 && here.contains(place.at)) {
+                    result.push_back(&place);
+                    --left;
+                }
+            }
         }
     }
 }

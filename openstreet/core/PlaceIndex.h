@@ -29,7 +29,7 @@ public:
     /// Why places are lacking, for people; empty when all files are there and whole as far as they were looked at.
     [[nodiscard]] const QString& problem() const { return mProblem; }
 
-    /// The places of a part of the world, those that matter most first within each tile, and no more than so many of a tile.
+    /// The places of a part of the world, those that matter most first within each tile, and no more than so many of it.
     /// @param zoom of the view: from it on, smaller places are told of
     [[nodiscard]] std::vector<const MapPlace*> in(const QRectF& part, int zoom, std::size_t mostOfTile);
 

@@ -88,7 +88,6 @@ WidgetMap::~WidgetMap()
 void WidgetMap::setUpMap(const QString& dataPath)
 {
     mMap.setTileDirectory(tileFolder().toUtf8().constData(), (dataPath + QLatin1String("/tiles/")).toUtf8().constData());
-    mScene.places().open(OpenStreet::DetailFile::builtInFolder());
     mMap.setTerrainPath((dataPath + QLatin1String("/terrain/")).toUtf8().constData());
     mMap.setProjection(OpenStreet::ProjectionType::eMercator);
     mMap.setMapType(OpenStreet::MapType::eTiles);
@@ -177,6 +176,11 @@ void WidgetMap::loadWorld()
 {
     if (!mMap.loadBaseMap())
         mSession.console.print("WidgetMap::loadWorld: no map of the world\n");
+    mScene.places().open(OpenStreet::DetailFile::builtInFolder());
+    for (const QString& problem : {mMap.baseMap().problem(), mScene.places().problem()}) {
+        if (!problem.isEmpty())
+            mSession.console.print("WidgetMap::loadWorld: %s\n", problem.toUtf8().constData());
+    }
 }
 
 void WidgetMap::releaseGraphics()
@@ -312,12 +316,15 @@ void WidgetMap::setRecordData(RecordData* pRecord)
 
 void WidgetMap::redrawFlightPath()
 {
+    const std::vector<FlightPathPoint>& points = mScene.path().points();
+    const double before = points.empty() ? -1.0 : points.front().time;
     const bool isSamePath = !mScene.path().setPoints(mSession.container.flightPath());
+    const bool isBeginning = !points.empty() && points.front().time == before; // it may go on growing
     const bool isOtherUnit = std::exchange(mPathUnit, mSession.profile.currentUnit()) != mSession.profile.currentUnit();
     mScene.events().place(mScene.path());
     if (!isSamePath || !isOtherUnit)
         mNavigator.fit(mScene.path(), true);
-    if (!isSamePath)
+    if (!isSamePath && !isBeginning)
         setCourse({}); // until it is known
     else
         updateTint();
