@@ -159,7 +159,7 @@ void TestMapData::details()
     const QPointF augsburg = QPointF(tileAt(48.425, 10.93, 16).x, tileAt(48.425, 10.93, 16).y) / 65536.0;
     const auto found = places.in(QRectF(augsburg - QPointF(1e-3, 1e-3), QSizeF(2e-3, 2e-3)), 11, 1000);
     const auto field = std::ranges::find(found, QStringLiteral("EDMA"), &MapPlace::ident);
-    QVERIFY(field != found.end() && (*field)->kind == MapPlace::eMediumAirfield && (*field)->elevation == 1515);
+    QVERIFY(field != found.end() && (*field)->kind == MapPlace::eMediumAirfield && (*field)->elevation == 1516);
     QVERIFY(std::abs((*field)->runwayHeading - 71) <= 2 && QLineF((*field)->at, augsburg).length() < 1e-4);
     QVERIFY(std::ranges::find(found, QStringLiteral("Augsburg"), &MapPlace::name) != found.end() && places.problem().isEmpty());
 }

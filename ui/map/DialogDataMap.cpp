@@ -302,7 +302,7 @@ void DialogDataMap::updateGeometry()
     const QRect map(mpMap->mapTo(this, QPoint()), mpMap->size());
     const int margin = kMargin * mContext.scale;
     const int tallest = std::max(map.height() - kBelowPanels, 0);
-    mpTools->resize(mpTools->sizeHint().boundedTo({map.width(), tallest}));
+    mpTools->arrangeFor({map.width() - margin, tallest});
     mpTools->move(map.topLeft() + QPoint(margin, margin));
     mpTools->raise();
     const int wide = std::max(std::min(map.width() - 2 * margin, kWidestConsent), 0);

@@ -118,7 +118,7 @@ QIcon valuesIcon(int edge)
 
 } // namespace
 
-MapToolPanel::MapToolPanel(int scale, QWidget* pParent) : QWidget(pParent), mpColours(new QMenu(this))
+MapToolPanel::MapToolPanel(int scale, QWidget* pParent) : QWidget(pParent), mpColours(new QMenu(this)), mpBar(new QToolBar)
 {
     auto* pPanel = new QWidget(this);
     pPanel->setStyleSheet(QStringLiteral(".QWidget{background-color: #66ffffff;border-radius:10px;}"));
@@ -127,20 +127,28 @@ MapToolPanel::MapToolPanel(int scale, QWidget* pParent) : QWidget(pParent), mpCo
     pOuter->addWidget(pPanel);
     auto* pLayout = new QVBoxLayout(pPanel);
     pLayout->setContentsMargins(3, 3, 3, 3);
-    auto* pBar = new QToolBar;
-    pBar->setStyleSheet(QStringLiteral(".QToolBar{background-color: #00ffffff;border-radius:10px;}"));
-    pBar->setOrientation(Qt::Vertical);
-    pBar->setIconSize({kIconSize * scale, kIconSize * scale});
-    addCommand(*pBar, aircraftIcon(kIconSize * scale), tr("Center AC"), kCentreAircraft);
-    addCommand(*pBar, valuesIcon(kIconSize * scale), tr("Show values"), kShowValues);
-    addCommand(*pBar, profileIcon(kIconSize * scale), tr("Show the altitude below the map"), kShowProfile);
-    addColours(*pBar, coloursIcon(kIconSize * scale));
-    connect(addButton(*pBar, zoomIcon(kIconSize * scale, true), tr("Zoom in")), &QAction::triggered, this,
+    mpBar->setStyleSheet(QStringLiteral(".QToolBar{background-color: #00ffffff;border-radius:10px;spacing:0px;padding:0px;} "
+                                        "QToolButton{padding:1px;margin:0px;} QToolButton::menu-indicator{image:none;}"));
+    mpBar->setOrientation(Qt::Vertical);
+    mpBar->setIconSize({kIconSize * scale, kIconSize * scale});
+    addCommand(*mpBar, aircraftIcon(kIconSize * scale), tr("Center AC"), kCentreAircraft);
+    addCommand(*mpBar, valuesIcon(kIconSize * scale), tr("Show values"), kShowValues);
+    addCommand(*mpBar, profileIcon(kIconSize * scale), tr("Show the altitude below the map"), kShowProfile);
+    addColours(*mpBar, coloursIcon(kIconSize * scale));
+    connect(addButton(*mpBar, zoomIcon(kIconSize * scale, true), tr("Zoom in")), &QAction::triggered, this,
             [this] { Q_EMIT signalZoom(kZoomStep); });
-    connect(addButton(*pBar, zoomIcon(kIconSize * scale, false), tr("Zoom out")), &QAction::triggered, this,
+    connect(addButton(*mpBar, zoomIcon(kIconSize * scale, false), tr("Zoom out")), &QAction::triggered, this,
             [this] { Q_EMIT signalZoom(1.0 / kZoomStep); });
-    connect(addButton(*pBar, fitIcon(kIconSize * scale), tr("Show the whole flight")), &QAction::triggered, this, &MapToolPanel::signalFit);
-    pLayout->addWidget(pBar);
+    connect(addButton(*mpBar, fitIcon(kIconSize * scale), tr("Show the whole flight")), &QAction::triggered, this, &MapToolPanel::signalFit);
+    pLayout->addWidget(mpBar);
+}
+
+void MapToolPanel::arrangeFor(const QSize& room)
+{
+    mpBar->setOrientation(Qt::Vertical);
+    if (sizeHint().height() > room.height())
+        mpBar->setOrientation(Qt::Horizontal);
+    resize(sizeHint().boundedTo(room));
 }
 
 QAction* MapToolPanel::addButton(QToolBar& bar, const QIcon& icon, const QString& text)

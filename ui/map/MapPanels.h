@@ -25,6 +25,8 @@ public:
 
     /// @param scale of the overlays, see MapContext
     MapToolPanel(int scale, QWidget* pParent);
+    /// Stands upright where there is room for all commands, else lies.
+    void arrangeFor(const QSize& room);
     void setChecked(int id, bool isChecked);
     [[nodiscard]] bool isChecked(int id) const;
     /// What the path can be coloured by; to be filled when it is about to be shown.
@@ -44,6 +46,7 @@ private:
 
     std::array<QAbstractButton*, 3> mButtons{}; ///< by command; no group, which would leave one of them to the Tab key
     QMenu* mpColours;
+    QToolBar* mpBar;
 };
 
 /// Asks, on the map itself, whether map tiles may be fetched, and names the server that would be asked.

@@ -102,8 +102,11 @@ void ProfileStrip::draw(Canvas& canvas, const QSizeF& size, double viewTime, con
         const QString number = PathLegend::number(altitude, mHigh - mLow);
         return mUnit.isEmpty() ? number : number + QLatin1Char(' ') + mUnit;
     };
-    canvas.text({3.0, 1.0}, label(mHigh), text);
-    canvas.text({3.0, size.height() - 1.0}, label(mLow), {text.size, text.colour, false, Qt::AlignLeft | Qt::AlignBottom});
+    const double line = canvas.textSize(label(mHigh), text).height();
+    for (const auto& [altitude, top] : {std::pair(mHigh, 1.0), std::pair(mLow, size.height() - line - 1.0)}) {
+        canvas.fillRect({1.0, top, canvas.textSize(label(altitude), text).width() + 4.0, line}, style.colours.textGround);
+        canvas.text({3.0, top}, label(altitude), text);
+    }
     const double now = placeOf(viewTime, width);
     canvas.lines(std::array{QPointF(now, 0.0), QPointF(now, size.height())}, {style.colours.aircraft, 2.0});
 }
