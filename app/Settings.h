@@ -50,7 +50,14 @@ constexpr TextSetting kWindowSideSplitter = {"WindowSideSplitter", ""};
 
 constexpr TextSetting kTileServer = {"TileServer", ""};
 constexpr TextSetting kMapTilesAllowed = {"MapTilesAllowed", ""};
+constexpr TextSetting kMapTilePath = {"MapTilePath", ""};
+constexpr SwitchSetting kMapOffline = {"MapOffline", false};
+constexpr NumberSetting kMapCacheSize = {"MapCacheSize", 256, 16, 4096}; // MiB
+constexpr NumberSetting kMapHighestZoom = {"MapHighestZoom", 19, 1, 22};
+constexpr TextSetting kMapAttribution = {"MapAttribution", ""};
 constexpr SwitchSetting kMapShowValues = {"MapShowValues", true};
+constexpr SwitchSetting kMapShowProfile = {"MapShowProfile", true};
+constexpr TextSetting kMapPathColour = {"MapPathColour", ""};
 constexpr FractionSetting kMapShadingContrast = {"MapShadingContrast", 1.0};
 constexpr FractionSetting kMapShadingBrightness = {"MapShadingBrightness", 1.0};
 constexpr FractionSetting kMapShadingFactor = {"MapShadingFactor", 0.5};

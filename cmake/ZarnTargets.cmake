@@ -22,6 +22,10 @@ foreach(profile ${profiles})
   configure_file("${PROJECT_SOURCE_DIR}/resources/${profile}" "${ZARN_RESOURCES}/${profile}" COPYONLY)
 endforeach()
 
+foreach(part shores places airfields)
+  configure_file("${PROJECT_SOURCE_DIR}/resources/map/${part}.bin" "${ZARN_RESOURCES}/map/${part}.bin" COPYONLY)
+endforeach()
+
 option(ZARN_WERROR "Treat warnings as errors" OFF)
 option(ZARN_SANITIZE "Address and undefined behaviour sanitizers" OFF)
 

@@ -9,6 +9,7 @@ namespace {
 
 constexpr double kSmallestRange = 500.0; // metres
 constexpr double kLineScale = 0.7;       // of the map's lines
+constexpr double kSourceSize = 5.0;      // of the names of those who made the map
 constexpr std::size_t kMostMarks = 2000;
 
 } // namespace
@@ -18,7 +19,8 @@ ReportMap::ReportMap(const LoadedCard& loaded, const EventList& limits)
     mBaseMap.loadBuiltIn();
     mScene.path().setPoints(*loaded.pPath);
     mScene.setImperial(loaded.context.unit() == EUnit::eImperial);
-    mScene.setGraticule(true);
+    mScene.setPlain(true);
+    mScene.places().open(OpenStreet::DetailFile::builtInFolder());
     for (const Event& event : limits.events()) {
         const bool isShown = event.time >= loaded.startTime && event.time <= loaded.endTime && mScene.path().spans(event.time);
         if (isShown && mExceeded.size() < kMostMarks)
@@ -49,6 +51,8 @@ void ReportMap::draw(QPainter& painter, Canvas& canvas, const QRectF& place)
     mScene.drawGround(canvas, camera);
     drawMarks(canvas, camera);
     mScene.drawScaleBar(canvas, camera);
+    canvas.text({width - 4.0, height - 3.0}, QStringLiteral("Natural Earth, GSHHG, GeoNames, OurAirports"),
+                {kSourceSize, Palette::print().map.gridText, false, Qt::AlignRight | Qt::AlignBottom});
     canvas.outline(QRectF(0, 0, width, height), {Palette::print().map.frame, kLineScale});
     canvas.pop();
 }

@@ -2,12 +2,16 @@
 
 #include "openstreet/core/BaseMapReader.h"
 #include "openstreet/core/Clip.h"
+#include "openstreet/core/ShoreTile.h"
 #include "openstreet/core/TileCover.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QPainter>
 #include <QPainterPath>
 #include <QTransform>
+
+#include <memory>
 
 static void initialiseWorldResource()
 {
@@ -20,9 +24,7 @@ namespace {
 
 constexpr double kMargin = 4.0 / BaseMap::kEdge; // of a tile's edge, for what is drawn across its edges
 constexpr int kMostDetailed = 10; // zoom: finer tiles tell nothing more
-constexpr QRgb kLand = 0xfff3f0e8;
-constexpr QRgb kCoast = 0xff7fa3ba;
-constexpr QRgb kBorder = 0xff9a86a4;
+constexpr int kWideRivers = 9;    // zoom from which there is room for them
 
 QRectF box(const TileId& id)
 {
@@ -59,7 +61,33 @@ bool BaseMap::loadBuiltIn()
 {
     initialiseWorldResource();
     QFile file(QStringLiteral(":/openstreet/world.bin"));
-    return file.open(QIODevice::ReadOnly) && load(file.readAll());
+    if (!file.open(QIODevice::ReadOnly) || !load(file.readAll()))
+        return false;
+    loadDetail(DetailFile::builtInFolder() + QLatin1String("shores.bin"));
+    return true;
+}
+
+bool BaseMap::loadDetail(const QString& path)
+{
+    mKept.clear();
+    const bool isGood = mDetail.open(path, DetailFile::eShores);
+    mProblem = mDetail.problem();
+    return isGood;
+}
+
+/// @return false where the tile is to be cut out of the one above: there is none of its own, or it is damaged.
+bool BaseMap::readDetail(const TileId& id, Geometry& geometry)
+{
+    const DetailFile::Layer* pLayer = mDetail.layer(id.zoom);
+    const std::optional<QByteArray> bytes = pLayer ? mDetail.tile(*pLayer, id) : std::nullopt;
+    if (!bytes)
+        return false;
+    if (ShoreTile(*bytes, *pLayer, id).read(geometry))
+        return true;
+    geometry = {};
+    if (mProblem.isEmpty())
+        mProblem = QCoreApplication::translate("OpenStreet::BaseMap", "The map of coasts and rivers is damaged: a plainer one is shown");
+    return false;
 }
 
 bool BaseMap::load(const QByteArray& packed)
@@ -79,18 +107,22 @@ const BaseMap::Geometry& BaseMap::geometry(const TileId& id)
         return mWorld;
     if (const Geometry* pKnown = mKept.object(id))
         return *pKnown;
-    const Geometry& parent = geometry(id.parent());
-    const QRectF area = box(id);
-    auto* pCut = new Geometry{clipAreas(parent.land, area), clipAreas(parent.lakes, area), clipLines(parent.coasts, area),
-                              clipLines(parent.borders, area)};
-    mKept.insert(id, pCut); // which owns it from here on
-    return *pCut;
+    auto pTile = std::make_unique<Geometry>();
+    if (!readDetail(id, *pTile)) {
+        const Geometry& parent = geometry(id.parent());
+        const QRectF area = box(id);
+        *pTile = {clipAreas(parent.land, area), clipAreas(parent.lakes, area), clipLines(parent.coasts, area), clipLines(parent.rivers, area),
+                  clipLines(parent.borders, area)};
+    }
+    const Geometry& result = *pTile;
+    mKept.insert(id, pTile.release()); // which owns it from here on
+    return result;
 }
 
 QImage BaseMap::tile(const TileId& id)
 {
     QImage image(kEdge, kEdge, QImage::Format_RGBX8888);
-    image.fill(QColor(kWater));
+    image.fill(QColor(mColours.water));
     const double scale = static_cast<double>(kEdge) * TileId::count(id.zoom);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -102,16 +134,17 @@ QImage BaseMap::tile(const TileId& id)
 void BaseMap::paintTile(QPainter& painter, const TileId& id, const QTransform& toPixels, double lineScale)
 {
     const Geometry& parts = geometry(id);
-    fill(painter, parts.land, toPixels, kLand);
-    fill(painter, parts.lakes, toPixels, kWater);
-    stroke(painter, parts.borders, toPixels, QPen(QColor(kBorder), 1.2 * lineScale, Qt::DashLine));
-    stroke(painter, parts.coasts, toPixels, QPen(QColor(kCoast), lineScale));
+    fill(painter, parts.land, toPixels, mColours.land);
+    fill(painter, parts.lakes, toPixels, mColours.water);
+    stroke(painter, parts.rivers, toPixels, QPen(QColor(mColours.river), (id.zoom < kWideRivers ? 0.8 : 1.4) * lineScale));
+    stroke(painter, parts.borders, toPixels, QPen(QColor(mColours.border), 1.2 * lineScale, Qt::DashLine));
+    stroke(painter, parts.coasts, toPixels, QPen(QColor(mColours.coast), lineScale));
 }
 
 void BaseMap::paint(QPainter& painter, const Camera& camera, double lineScale)
 {
     painter.save();
-    painter.fillRect(QRectF(0, 0, camera.width(), camera.height()), QColor(kWater));
+    painter.fillRect(QRectF(0, 0, camera.width(), camera.height()), QColor(mColours.water));
     const TileCover cover(camera, 1.0, kMostDetailed);
     for (const TilePlace& place : cover.view()) {
         WorldPoint northWest, southEast;

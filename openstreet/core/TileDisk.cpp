@@ -97,6 +97,13 @@ void TileDisk::drop(const QString& path)
     mFiles.erase(known);
 }
 
+void TileDisk::clear()
+{
+    index();
+    while (!mOrder.empty())
+        drop(QString(mOrder.back().path));
+}
+
 bool TileDisk::has(const QString& server, const TileId& id)
 {
     index();
@@ -110,6 +117,8 @@ std::optional<TileRecord> TileDisk::read(const QString& server, const TileId& id
     index();
     const QString name = path(server, id);
     QFile file(fullPath(name));
+    if (!QFileInfo(file).isFile())
+        drop(name); // somebody else has removed it
     if (!QFileInfo(file).isFile() || file.size() > kLargestFile || !file.open(QIODevice::ReadOnly))
         return {};
     QDataStream stream(&file);

@@ -27,7 +27,10 @@ public:
     static constexpr qint64 kDefaultLimit = 256LL * 1024 * 1024;
 
     void setFolder(const QString& folder);
+    /// Keeps no more than that from the next tile on.
     void setLimit(qint64 bytes) { mLimit = bytes; }
+    /// Removes all tiles that are kept.
+    void clear();
     /// Bytes of all tiles kept.
     [[nodiscard]] qint64 size();
 

@@ -7,6 +7,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <limits>
 
 namespace OpenStreet {
 
@@ -30,10 +31,19 @@ TileStore::TileStore(QObject* pParent, Clock clock) : QObject(pParent), mClock(s
     connect(&mLoader, &TileLoader::signalFinished, this, &TileStore::slotFinished);
 }
 
-void TileStore::setFolder(const QString& folder)
+void TileStore::setFolder(const QString& folder, const QString& former)
 {
     mDisk.setFolder(folder);
+    mFormer.setFolder(former);
     schedule();
+}
+
+void TileStore::setLocal(std::unique_ptr<LocalTiles> pLocal)
+{
+    if (!pLocal && !mpLocal)
+        return;
+    mpLocal = std::move(pLocal);
+    forget();
 }
 
 void TileStore::setServer(const TileServer& server)
@@ -41,6 +51,11 @@ void TileStore::setServer(const TileServer& server)
     if (server == mServer)
         return;
     mServer = server;
+    forget();
+}
+
+void TileStore::forget()
+{
     mLoader.cancelAll();
     mImages.clear();
     mFailures.clear();
@@ -48,6 +63,7 @@ void TileStore::setServer(const TileServer& server)
     for (auto& [id, wanted] : mWanted)
         wanted = {};
     schedule();
+    tellLoading();
 }
 
 void TileStore::setAllowed(bool allowed)
@@ -99,7 +115,7 @@ int TileStore::loading() const
         const auto& [id, wanted] = entry;
         if (wanted.state == eSettled)
             return false;
-        return wanted.state != eAsk || (mAllowed && mServer.isValid() && waitUntil(id) <= now());
+        return wanted.state != eAsk || (mayAsk() && waitUntil(id) <= now());
     }));
 }
 
@@ -151,29 +167,48 @@ bool TileStore::lookUp()
     return true;
 }
 
+std::optional<TileRecord> TileStore::record(const TileId& id)
+{
+    if (mpLocal) {
+        const std::optional<QByteArray> bytes = id.zoom <= mpLocal->highestZoom() ? mpLocal->read(id) : std::nullopt;
+        return bytes ? std::optional(TileRecord{*bytes, {}, {}, std::numeric_limits<qint64>::max()}) : std::nullopt;
+    }
+    if (std::optional<TileRecord> kept = mDisk.read(mServer.key(), id))
+        return kept;
+    std::optional<TileRecord> former = mFormer.has(mServer.key(), id) ? mFormer.read(mServer.key(), id) : std::nullopt;
+    if (former && former->expires > now())
+        return former;
+    if (former)
+        mFormer.remove(mServer.key(), id);
+    return {};
+}
+
 bool TileStore::readKept(const TileId& id, Wanted& wanted)
 {
-    std::optional<TileRecord> record = mDisk.read(mServer.key(), id);
-    if (!record)
+    std::optional<TileRecord> kept = record(id);
+    if (!kept)
         return false;
-    const QImage image = TileImage::decode(record->body);
+    const QImage image = TileImage::decode(kept->body);
     if (image.isNull()) {
-        mDisk.remove(mServer.key(), id);
+        if (!mpLocal)
+            mDisk.remove(mServer.key(), id);
         return false;
     }
-    if (record->expires > now())
+    if (kept->expires > now())
         wanted.state = eSettled;
-    record->body.clear();
-    wanted.known = *record;
-    keep(id, image, record->expires);
+    kept->body.clear();
+    wanted.known = *kept;
+    keep(id, image, kept->expires);
     Q_EMIT signalTile(id);
     return true;
 }
 
 QImage TileStore::readPicture(const TileId& id)
 {
-    const std::optional<TileRecord> record = mDisk.has(mServer.key(), id) ? mDisk.read(mServer.key(), id) : std::nullopt;
-    return record ? TileImage::decode(record->body) : QImage();
+    if (!mpLocal && !mDisk.has(mServer.key(), id) && !mFormer.has(mServer.key(), id))
+        return {};
+    const std::optional<TileRecord> kept = record(id);
+    return kept ? TileImage::decode(kept->body) : QImage();
 }
 
 QImage TileStore::standIn(const TileId& id)
@@ -230,7 +265,7 @@ QString TileStore::lastError() const
 /// Sends one request when one may be sent and one is due. @return whether it did.
 bool TileStore::ask()
 {
-    if (!mAllowed || !mServer.isValid() || !mLoader.isFree() || mServerFailure.until > now())
+    if (!mayAsk() || !mLoader.isFree() || mServerFailure.until > now())
         return false;
     const auto next = std::find_if(mOrderWanted.begin(), mOrderWanted.end(), [this](const TileId& id) {
         return mWanted[id].state == eAsk && waitUntil(id) <= now();
@@ -257,7 +292,7 @@ qint64 TileStore::waitUntil(const TileId& id) const
 void TileStore::scheduleRetry()
 {
     mRetry.stop();
-    if (!mAllowed || !mServer.isValid() || !mLoader.isFree())
+    if (!mayAsk() || !mLoader.isFree())
         return;
     qint64 earliest = 0;
     for (const auto& [id, wanted] : mWanted) {
@@ -310,12 +345,11 @@ void TileStore::takeNotModified(const TileId& id, const TileReply& reply)
 {
     mServerFailure = {};
     mFailures.erase(id);
-    std::optional<TileRecord> record = mDisk.read(mServer.key(), id);
-    if (record) {
-        record->expires = reply.record.expires;
+    if (std::optional<TileRecord> kept = mDisk.read(mServer.key(), id)) {
+        kept->expires = reply.record.expires;
         if (!reply.record.etag.isEmpty())
-            record->etag = reply.record.etag;
-        mDisk.write(mServer.key(), id, *record);
+            kept->etag = reply.record.etag;
+        mDisk.write(mServer.key(), id, *kept);
     }
     if (Kept* pKept = mImages.object(id))
         pKept->expires = reply.record.expires;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "openstreet/core/LocalTiles.h"
 #include "openstreet/core/TileLoader.h"
 #include "openstreet/core/TileServer.h"
 
@@ -15,7 +16,8 @@ class QPainter;
 
 namespace OpenStreet {
 
-/// The pictures of a server's tiles: out of memory, else off the disk, else - only when that is allowed - out of the network. What is on
+/// The pictures of a server's tiles: out of memory, else off the disk, else - only when that is allowed - out of the network; or those of an
+/// archive or folder of the user's, and then nothing else. What is on
 /// its way is stood in for by what the disk has of other zooms. Asks for nothing but the tiles that are wanted now, two at a time, and for
 /// each again only when it has expired. After failures it waits, longer from time to time. Lives on one thread; works off one tile per turn
 /// of the event loop.
@@ -34,7 +36,11 @@ public:
 
     explicit TileStore(QObject* pParent = nullptr, Clock clock = {});
 
-    void setFolder(const QString& folder);
+    /// @param former where tiles were kept before; those that have not expired are still read there
+    void setFolder(const QString& folder, const QString& former = {});
+    /// Tiles of the user's in place of the server's; null for the server again.
+    void setLocal(std::unique_ptr<LocalTiles> pLocal);
+    [[nodiscard]] const LocalTiles* local() const { return mpLocal.get(); }
     /// Another server: forgets what is in memory, cancels what is on its way.
     void setServer(const TileServer& server);
     [[nodiscard]] const TileServer& server() const { return mServer; }
@@ -76,6 +82,10 @@ private:
     };
 
     [[nodiscard]] qint64 now() const { return mClock(); }
+    [[nodiscard]] bool mayAsk() const { return mAllowed && !mpLocal && mServer.isValid(); }
+    void forget();
+    /// A tile as it is kept, here or where tiles were kept before, or of the user's.
+    [[nodiscard]] std::optional<TileRecord> record(const TileId& id);
     void work();
     void tellLoading();
     void schedule();
@@ -99,6 +109,8 @@ private:
     Clock mClock;
     TileServer mServer;
     TileDisk mDisk;
+    TileDisk mFormer;
+    std::unique_ptr<LocalTiles> mpLocal;
     TileLoader mLoader;
     bool mAllowed = false;
     int mToldLoading = 0;

@@ -11,7 +11,6 @@ namespace OpenStreet {
 
 namespace {
 
-constexpr int kMaxServerZoom = 19;
 constexpr qint64 kFrameBudget = 12000000; // nanoseconds that a frame may spend on making tiles
 constexpr std::size_t kMaxUnshaded = 8192;
 
@@ -182,9 +181,27 @@ OpenStreetMap::OpenStreetMap()
 
 OpenStreetMap::~OpenStreetMap() = default;
 
-void OpenStreetMap::setTileDirectory(const char* path)
+void OpenStreetMap::setTileDirectory(const char* path, const char* pFormer)
 {
-    mStore.setFolder(QString::fromUtf8(path));
+    mStore.setFolder(QString::fromUtf8(path), QString::fromUtf8(pFormer));
+}
+
+bool OpenStreetMap::setLocalTiles(const QString& path, QString* pProblem)
+{
+    std::unique_ptr<LocalTiles> pTiles = path.isEmpty() ? nullptr : LocalTiles::open(path, pProblem);
+    const bool isGood = path.isEmpty() || pTiles;
+    mStore.setLocal(std::move(pTiles));
+    mTextures.forget(ELayer::eServer);
+    mAsked.clear();
+    return isGood;
+}
+
+void OpenStreetMap::setColours(const BaseMap::Colours& colours)
+{
+    if (colours == mBaseMap.colours())
+        return;
+    mBaseMap.setColours(colours);
+    mTextures.forget(ELayer::eBuiltIn);
 }
 
 void OpenStreetMap::setTerrainPath(const char* path)
@@ -282,8 +299,9 @@ int OpenStreetMap::nrLoadingTiles() const
 
 void OpenStreetMap::render(VESK::OpenGL::Device& device)
 {
-    const TileCover cover(mCamera, mPixelRatio, kMaxServerZoom);
-    if (mType == MapType::eTiles && mStore.server().isValid() && !mIsMoving) {
+    const LocalTiles* pLocal = mStore.local();
+    const TileCover cover(mCamera, mPixelRatio, pLocal ? std::min(mHighestZoom, pLocal->highestZoom()) : mHighestZoom);
+    if (mType == MapType::eTiles && (pLocal || mStore.server().isValid()) && !mIsMoving) {
         std::vector<TileId> seen = cover.ids();
         if (seen != mAsked) {
             mStore.want(seen);

@@ -36,8 +36,13 @@ public:
     OpenStreetMap(const OpenStreetMap&) = delete;
     OpenStreetMap& operator=(const OpenStreetMap&) = delete;
 
-    /// Folder in which tiles are kept.
-    void setTileDirectory(const char* path);
+    /// Folder in which tiles are kept. @param pFormer the one in which they were before
+    void setTileDirectory(const char* path, const char* pFormer = "");
+    /// Tiles of an archive or folder in place of a server's; an empty path is the server. @return false with the problem, for people
+    bool setLocalTiles(const QString& path, QString* pProblem);
+    [[nodiscard]] const LocalTiles* localTiles() const { return mStore.local(); }
+    /// The most detailed zoom of the tiles that are shown.
+    void setHighestZoom(int zoom) { mHighestZoom = zoom; }
     /// Folder with SRTM files.
     void setTerrainPath(const char* path);
     /// See TileServer; what is not valid is answered by the built-in map alone.
@@ -49,6 +54,8 @@ public:
     [[nodiscard]] bool areTilesAllowed() const { return mStore.isAllowed(); }
     /// What is shown where there are no tiles. @return false when the program comes without it
     bool loadBaseMap() { return mBaseMap.loadBuiltIn(); }
+    [[nodiscard]] const BaseMap& baseMap() const { return mBaseMap; }
+    void setColours(const BaseMap::Colours& colours);
 
     void setProjection(ProjectionType type) { mCamera.setProjection(type); }
     void setMapType(MapType type);
@@ -98,6 +105,7 @@ private:
 
     Camera mCamera;
     double mPixelRatio = 1.0;
+    int mHighestZoom = 19;
     MapType mType = MapType::eTiles;
     bool mIsShaded = true;
     bool mIsMoving = false;

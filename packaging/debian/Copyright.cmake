@@ -12,6 +12,9 @@ set(title_icons "The icons in the windows")
 set(title_store "The store of many cards: SQLite and Zstandard, linked; Apache Thrift, the interface definition of Parquet and headers of Boost, part of zarn-cli")
 set(title_fonts "Fonts: part of the programs")
 set(title_base-map "The map of the world: part of zarn")
+set(title_map-shores "The detailed map: share/zarn/map/shores.bin")
+set(title_map-places "The detailed map: share/zarn/map/places.bin")
+set(title_map-airfields "The detailed map: share/zarn/map/airfields.bin")
 
 set(copyright "ZARN, after-flight review of engine recordings.
 

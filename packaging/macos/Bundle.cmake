@@ -27,6 +27,7 @@ set_target_properties(zarn PROPERTIES
 add_custom_command(TARGET zarn POST_BUILD
   COMMAND ${CMAKE_COMMAND} -E make_directory "$<TARGET_BUNDLE_CONTENT_DIR:zarn>/Resources"
   COMMAND ${CMAKE_COMMAND} -E copy_directory "${PROJECT_SOURCE_DIR}/resources/profiles" "$<TARGET_BUNDLE_CONTENT_DIR:zarn>/Resources/profiles"
+  COMMAND ${CMAKE_COMMAND} -E copy_directory "${ZARN_RESOURCES}/map" "$<TARGET_BUNDLE_CONTENT_DIR:zarn>/Resources/map"
   COMMAND ${CMAKE_COMMAND} -E copy_directory "${PROJECT_SOURCE_DIR}/resources/licences" "$<TARGET_BUNDLE_CONTENT_DIR:zarn>/Resources/licences"
   COMMAND ${CMAKE_COMMAND} -E copy "${icon}" ${translations} "$<TARGET_BUNDLE_CONTENT_DIR:zarn>/Resources"
   COMMAND ${CMAKE_COMMAND} -E copy "$<TARGET_FILE:zarn-cli>" "$<TARGET_BUNDLE_CONTENT_DIR:zarn>/MacOS"

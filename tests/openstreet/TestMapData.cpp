@@ -2,15 +2,18 @@
 #include "openstreet/core/BaseMap.h"
 #include "openstreet/core/Clip.h"
 #include "openstreet/core/HillShade.h"
+#include "openstreet/core/PlaceIndex.h"
 #include "openstreet/core/TileCover.h"
 #include "openstreet/core/TileImage.h"
 #include "support/Places.h"
 
 #include <QFile>
+#include <QLineF>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QtEndian>
 
+#include <algorithm>
 #include <cmath>
 
 using namespace OpenStreet;
@@ -48,6 +51,9 @@ private Q_SLOTS:
     void shades();
     void world();
     void worldRefusesDamage();
+    void details();
+    void damagedDetails_data();
+    void damagedDetails();
     void clipping();
     void pictures();
 };
@@ -135,6 +141,68 @@ void TestMapData::worldRefusesDamage()
     QVERIFY(!map.load(qCompress(swollen)));
     QVERIFY(map.isEmpty());
     QCOMPARE(map.tile({4, 3, 3}).size(), QSize(256, 256)); // water, no crash
+}
+
+void TestMapData::details()
+{
+    BaseMap map;
+    QVERIFY(map.loadBuiltIn() && map.problem().isEmpty());
+    const auto points = [&](const TileId& id) {
+        std::size_t count = 0;
+        for (const BaseMap::Line& line : map.geometry(id).rivers)
+            count += line.size();
+        return count;
+    };
+    QVERIFY(points(tileAt(48.7, 11.0, 7)) > 200 && points(tileAt(48.72, 11.0, 11)) > 5); // the Danube
+    PlaceIndex places;
+    places.open(DetailFile::builtInFolder());
+    const QPointF augsburg = QPointF(tileAt(48.425, 10.93, 16).x, tileAt(48.425, 10.93, 16).y) / 65536.0;
+    const auto found = places.in(QRectF(augsburg - QPointF(1e-3, 1e-3), QSizeF(2e-3, 2e-3)), 11, 1000);
+    const auto field = std::ranges::find(found, QStringLiteral("EDMA"), &MapPlace::ident);
+    QVERIFY(field != found.end() && (*field)->kind == MapPlace::eMediumAirfield && (*field)->elevation == 1516);
+    QVERIFY(std::abs((*field)->runwayHeading - 71) <= 2 && QLineF((*field)->at, augsburg).length() < 1e-4);
+    QVERIFY(std::ranges::find(found, QStringLiteral("Augsburg"), &MapPlace::name) != found.end() && places.problem().isEmpty());
+}
+
+void TestMapData::damagedDetails_data()
+{
+    QTest::addColumn<int>("place"); // of the byte that is another one; below 0: the file ends there
+    QTest::addColumn<bool>("isOpened");
+    QTest::newRow("no such file") << 0 << false;
+    QTest::newRow("cut in the index") << -5000 << false;
+    QTest::newRow("number of tiles") << 13 << false;
+    QTest::newRow("place of a tile") << 28 << false;
+    QTest::newRow("unpacked size of a tile") << 199701 << true;
+}
+
+/// Whatever is wrong with it, the plain map is drawn and the reason said.
+void TestMapData::damagedDetails()
+{
+    QFETCH(int, place);
+    QFETCH(bool, isOpened);
+    QFile whole(DetailFile::builtInFolder() + "shores.bin");
+    QVERIFY(whole.open(QIODevice::ReadOnly));
+    QByteArray bytes = whole.readAll();
+    const QTemporaryDir folder;
+    QFile file(folder.filePath("shores.bin"));
+    if (place < 0)
+        bytes.truncate(-place);
+    else
+        bytes[place] = '\x7f';
+    if (place != 0)
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush());
+    BaseMap map;
+    QVERIFY(map.loadBuiltIn());
+    QCOMPARE(map.loadDetail(file.fileName()), isOpened);
+    const QRgb land = map.tile(tileAt(48.2, 11.05, 6)).pixel(100, 100);
+    if (isOpened) {
+        for (int y = 0; y < 16; ++y) {
+            for (int x = 0; x < 16; ++x)
+                (void)map.geometry({4, x, y});
+        }
+    }
+    QVERIFY(!map.problem().isEmpty());
+    QVERIFY(land == map.colours().land || isOpened);
 }
 
 void TestMapData::clipping()

@@ -32,6 +32,8 @@ public:
 
 constexpr const char* kRules = R"(
     location /missing/ { return 404; }
+    location /forbidden/ { return 403; }
+    location /lasting/ { expires off; etag off; add_header Last-Modified ""; try_files /any.png =404; }
     location /broken/ { return 500; }
     location /busy/ { add_header Retry-After 90 always; return 429; }
     location /loop/ { return 302 $request_uri; }
@@ -83,6 +85,10 @@ private Q_SLOTS:
     void encryptedInOneConnection();
     void asksAgainOnlyWhenExpired();
     void keepsOnDisk();
+    void lifeWithoutHeaders();
+    void formerFolder();
+    void localTiles_data();
+    void localTiles();
     void failures_data();
     void failures();
     void backsOff();
@@ -230,12 +236,102 @@ void TestTileStore::keepsOnDisk()
     QVERIFY(third.store.image({15, 5 << 7, 5 << 7}).isNull() && third.store.image({7, 100, 100}).isNull());
 }
 
+void TestTileStore::lifeWithoutHeaders()
+{
+    Store store(mpHost->address(QStringLiteral("/lasting")));
+    for (const qint64 wait : {0, 6 * 24 * 3600, 2 * 24 * 3600}) { // a server that names no time of expiry is asked again after seven days
+        store.now += wait;
+        store.store.want({});
+        store.store.want({{3, 1, 1}});
+        QVERIFY(store.waitIdle());
+    }
+    QTRY_COMPARE(mpHost->requests().size(), qsizetype(2));
+    QVERIFY(TileServer().url({1, 0, 0}).scheme() == "https");
+}
+
+void TestTileStore::formerFolder()
+{
+    const QTemporaryDir former;
+    {
+        Store before(mpHost->address(), former.path());
+        before.store.want({{3, 1, 1}, {3, 2, 1}});
+        QVERIFY(before.waitIdle());
+    }
+    mpHost->clearLog();
+    Store store(mpHost->address());
+    store.store.setFolder(store.own.path(), former.path());
+    store.store.want({{3, 1, 1}});
+    QVERIFY(store.waitIdle() && !store.store.image({3, 1, 1}).isNull());
+    QVERIFY(mpHost->requests().isEmpty());
+    store.now += 4000; // it expires after an hour
+    store.store.want({{3, 2, 1}});
+    QVERIFY(store.waitIdle());
+    QTRY_COMPARE(mpHost->requests().size(), qsizetype(1));
+}
+
+void TestTileStore::localTiles_data()
+{
+    QTest::addColumn<QString>("script"); // of SQL, for an archive; else a folder
+    QTest::addColumn<QString>("reason");
+    const QString tables = "CREATE TABLE metadata (name text, value text); CREATE TABLE tiles (zoom_level, tile_column, tile_row, tile_data);";
+    const QString picture = QString("x'%1'").arg(QString::fromLatin1(TileHost::tile("local").toHex()));
+    QTest::newRow("archive") << tables + "INSERT INTO metadata VALUES ('name', 'My map'), ('attribution', '<a>me</a>');"
+                                    "INSERT INTO tiles VALUES (3, 1, 6, " + picture + ");"
+                             << "";
+    QTest::newRow("folder") << "" << "";
+    QTest::newRow("vector tiles") << tables + "INSERT INTO metadata VALUES ('format', 'pbf'); INSERT INTO tiles VALUES (0, 0, 0, x'1f8b0800');"
+                                  << "vector tiles";
+    QTest::newRow("no tiles") << tables << "no tile";
+    QTest::newRow("another database") << "CREATE TABLE a (b);" << "no archive";
+    QTest::newRow("no database") << "-" << "no archive";
+}
+
+void TestTileStore::localTiles()
+{
+    QFETCH(QString, script);
+    QFETCH(QString, reason);
+    const QTemporaryDir folder;
+    QString path = folder.path();
+    if (script.isEmpty()) {
+        QDir(path).mkpath("3/1");
+        QFile file(path + "/3/1/1.png");
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(TileHost::tile("local")) > 0);
+    } else {
+        path += "/map.mbtiles";
+        QFile text(path);
+        QVERIFY(text.open(QIODevice::WriteOnly) && text.write(script == "-" ? QByteArray(5000, 'x') : QByteArray()) >= 0);
+        text.close();
+        QProcess sqlite;
+        sqlite.start("python3", {"-c", "import sqlite3, sys; sqlite3.connect(sys.argv[1]).executescript(sys.stdin.read())", path});
+        sqlite.write(script == "-" ? QByteArray() : script.toUtf8());
+        sqlite.closeWriteChannel();
+        QVERIFY(sqlite.waitForFinished(20000));
+    }
+    QString problem;
+    std::unique_ptr<LocalTiles> pTiles = LocalTiles::open(path, &problem);
+    QCOMPARE(pTiles != nullptr, reason.isEmpty());
+    QVERIFY2(problem.contains(reason) && problem.contains(pTiles ? "" : path), qPrintable(problem));
+    if (!pTiles)
+        return;
+    if (!script.isEmpty())
+        QVERIFY(pTiles->name() == "My map" && pTiles->attribution() == "me");
+    QCOMPARE(pTiles->highestZoom(), 3);
+    Store store(mpHost->address());
+    store.store.setLocal(std::move(pTiles));
+    store.store.want({{3, 1, 1}, {3, 2, 1}, {2, 0, 0}}); // rows of an archive count from the south
+    QVERIFY(store.waitIdle());
+    QVERIFY(!store.store.image({3, 1, 1}).isNull() && store.store.image({3, 2, 1}).isNull());
+    QVERIFY(store.store.image({2, 0, 0}).pixelColor(200, 200).alpha() == 255); // a smaller one stands in
+    QVERIFY(mpHost->requests().isEmpty());
+}
+
 void TestTileStore::failures_data()
 {
     QTest::addColumn<QString>("place");
     QTest::addColumn<qsizetype>("requests"); // for one tile, at once
     QTest::addColumn<QString>("reason");
     QTest::newRow("404") << "/missing" << qsizetype(1) << "[HTTP status 404]";
+    QTest::newRow("403") << "/forbidden" << qsizetype(1) << "[HTTP status 403]";
     QTest::newRow("500") << "/broken" << qsizetype(1) << "[HTTP status 500]";
     QTest::newRow("redirections without end") << "/loop" << qsizetype(4) << "[HTTP status 302]";
     QTest::newRow("redirection to another server") << "/elsewhere" << qsizetype(1) << "[HTTP status 302]";

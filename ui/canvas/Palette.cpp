@@ -35,7 +35,13 @@ Palette::Palette(const ColourTable& table, ColourTable::EMedium medium) : graph(
 {
     const auto of = [&](const char* name) { return table.colour(QLatin1String(name), medium); };
     map = {of("mapPath"), of("mapText"), of("mapTextGround"), of("mapGrid"), of("mapGridText"), of("mapFrame"), of("mapAircraft"),
-           of("mapAircraftRim"), of("mapEventRim"), of("mapBegin"), of("mapEnd"), of("mapExceeded")};
+           of("mapAircraftRim"), of("mapEventRim"), of("mapBegin"), of("mapEnd"), of("mapExceeded"), of("mapLimit"), of("mapMarkRim"), of("mapLabel"),
+           of("mapPathDim"), of("mapPathRim"), of("mapWrongFix"), of("mapTown"), of("mapAirfield"), of("mapStripGround"), of("mapSelection"),
+           of("mapUnknown"), {}, {}};
+    for (std::size_t i = 0; i < map.scale.size(); ++i)
+        map.scale[i] = table.colour(QStringLiteral("mapScale%1").arg(i + 1), medium);
+    for (std::size_t i = 0; i < map.phases.size(); ++i)
+        map.phases[i] = table.colour(QStringLiteral("mapPhase%1").arg(i + 1), medium);
     faults = {of("faultInfo"), of("faultWarning"), of("faultFault"), of("faultQuiet"), of("faultNone"), of("faultLine"), of("timePointer")};
     course = {of("courseRecorded"), of("border"), of("quiet"), of("fieldBorder"), of("courseGround"), of("courseTakeOff"),
               of("courseClimb"), of("courseLevel"), of("courseDescent")};

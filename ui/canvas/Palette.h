@@ -32,6 +32,19 @@ struct Palette {
         QColor begin; ///< of a flight
         QColor end;
         QColor exceeded;
+        QColor limit;
+        QColor markRim;
+        QColor label;      ///< of marks and of what the legend tells
+        QColor pathDim;    ///< what is not looked at
+        QColor pathRim;    ///< on both sides of a path in several colours
+        QColor wrongFix;
+        QColor town;
+        QColor airfield;
+        QColor stripGround; ///< of the altitude below the map
+        QColor selection;
+        QColor unknown;               ///< of a place without a value
+        std::array<QColor, 5> scale;  ///< from the lowest value to the highest: rising in lightness, whatever the kind of colour vision
+        std::array<QColor, 6> phases; ///< engine off, ground, take-off, climb, level flight, descent
     };
     struct Faults {
         QColor info, warning, fault;

@@ -142,6 +142,8 @@ void DialogData::linkViews()
         }
     }
     mLinks[eViewMap]->ignore(*mViews.entries[eViewWarnings].pWidget); // a lamp leaves the map where it is
+    mViews.view(eViewMap).followSpan(
+        [this] { return mpTabs->currentIndex() == eViewGraph ? mViews.view(eViewGraph).shownSpan() : std::nullopt; });
     connect(&mRecord, &RecordSession::recordChanged, this, &DialogData::slotRecord);
     connect(&mRecord, &RecordSession::decodingChanged, this, &DialogData::slotEvents);
     connect(&mRecord, &RecordSession::timeChanged, this, &DialogData::updateDisplay);

@@ -24,6 +24,7 @@ constexpr Licence kLicences[] = {
     {"ZARN", "zarn"},         {"Qt (LGPL 3)", "lgpl-3"}, {"GPL 3", "gpl-3"},     {"CLI11", "cli11"},
     {"FreeType", "freetype"}, {"Lucide", "icons"},       {"B612", "fonts"}, {"Natural Earth", "base-map"},
     {"muParser", "muparser"}, {"SQLite, Thrift, Boost, Zstandard", "store"},
+    {"GSHHG", "map-shores"},  {"GeoNames", "map-places"}, {"OurAirports", "map-airfields"},
 };
 
 constexpr int kPictureSize = 48;

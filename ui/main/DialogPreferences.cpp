@@ -6,11 +6,9 @@
 #include "app/gui/Kernel.h"
 #include "app/gui/SideList.h"
 #include "app/gui/WheelGuard.h"
-#include "openstreet/core/TileServer.h"
 #include "profile/ui/ProfileProblem.h"
-#include "ui/map/model/TileConsent.h"
+#include "ui/main/MapOptions.h"
 
-#include <QCheckBox>
 #include <QComboBox>
 #include <QEvent>
 #include <QFileDialog>
@@ -32,23 +30,18 @@ namespace {
 
 constexpr int kListWidth = 150;
 
-OpenStreet::TileServer tileServer(const Property& property)
-{
-    return OpenStreet::TileServer(Settings::kTileServer.text(property));
-}
-
 } // namespace
 
 DialogPreferences::DialogPreferences(const Session& session, Kernel& kernel, QWidget* pParent)
     : QDialog(pParent), mSession(session), mKernel(kernel), mLocale(Settings::kLocale.text(session.property)), mpList(new SideList(kListWidth)),
-      mpPages(new QStackedWidget), mpLanguage(new QComboBox), mpPalette(new QComboBox), mpFontSize(new QSpinBox),
-      mpTiles(new QCheckBox(tr("Load map tiles from the network"))), mpTileServer(new QLabel)
+      mpPages(new QStackedWidget), mpLanguage(new QComboBox), mpPalette(new QComboBox), mpFontSize(new QSpinBox), mpMap(new MapOptions(session))
 {
     setWindowTitle(tr("Preferences"));
     mpList->setIconSize(QSize(16, 16));
     mpList->setAccessibleName(tr("Pages"));
     connect(mpList, &QListWidget::currentItemChanged, this, &DialogPreferences::slotChangePage);
     addPage(tr("General"), "general", createGeneralPage());
+    addPage(tr("Map"), "flight", mpMap);
     addPage(tr("Profile"), "profile", createProfilePage());
     mpList->setCurrentRow(0);
 
@@ -68,7 +61,7 @@ DialogPreferences::DialogPreferences(const Session& session, Kernel& kernel, QWi
     connect(mpPalette, &QComboBox::activated, this, &DialogPreferences::slotPalette);
     connect(mpFontSize, &QSpinBox::valueChanged, this, &DialogPreferences::slotFont);
     connect(mpFontSize, &QSpinBox::editingFinished, this, &DialogPreferences::slotFontChosen);
-    connect(mpTiles, &QCheckBox::clicked, this, &DialogPreferences::slotTiles);
+    connect(mpMap, &MapOptions::signalChanged, this, &DialogPreferences::signalTilesChanged);
 }
 
 DialogPreferences::~DialogPreferences()
@@ -96,22 +89,8 @@ QWidget* DialogPreferences::createGeneralPage()
     auto* pLayout = new QVBoxLayout(pPage);
     pLayout->setContentsMargins(8, 0, 0, 0);
     pLayout->addWidget(pGroup);
-    pLayout->addWidget(createMapGroup());
     pLayout->addStretch();
     return pPage;
-}
-
-QWidget* DialogPreferences::createMapGroup()
-{
-    mpTiles->setObjectName("tiles");
-    mpTileServer->setObjectName("tileServer");
-    mpTileServer->setTextFormat(Qt::PlainText);
-    mpTileServer->setWordWrap(true);
-    auto* pGroup = new QGroupBox(tr("Map"));
-    auto* pLayout = new QVBoxLayout(pGroup);
-    pLayout->addWidget(mpTiles);
-    pLayout->addWidget(mpTileServer);
-    return pGroup;
 }
 
 QWidget* DialogPreferences::createProfilePage()
@@ -145,35 +124,19 @@ void DialogPreferences::fillDialog()
     mpPalette->setCurrentIndex(Settings::kPalette.get(mSession.property));
     const QSignalBlocker blocker(mpFontSize);
     mpFontSize->setValue(Settings::kFontSize.get(mSession.property));
-    fillTiles();
-}
-
-void DialogPreferences::fillTiles()
-{
-    const OpenStreet::TileServer server = tileServer(mSession.property);
-    mpTiles->setEnabled(server.isValid());
-    mpTiles->setChecked(server.isValid() && TileConsent(mSession.property).answer(server.address()) == TileConsent::eYes);
-    mpTileServer->setText(server.isValid() ? tr("Server: %1. It learns which area is looked at.").arg(server.name())
-                                           : tr("The setting \"TileServer\" is no address of map tiles."));
+    mpMap->fill();
 }
 
 bool DialogPreferences::event(QEvent* pEvent)
 {
     // The map asks the same question, and may have its answer since this window was last looked at.
     if (pEvent->type() == QEvent::Show || pEvent->type() == QEvent::WindowActivate)
-        fillTiles();
+        mpMap->fill();
     const bool isHandled = QDialog::event(pEvent);
     // Wrapped texts in larger letters need more height than the layout asks for.
     if (pEvent->type() == QEvent::Show || pEvent->type() == QEvent::LayoutRequest)
         setMinimumHeight(std::max(0, layout()->totalHeightForWidth(width()))); // below 0 while no text is wrapped
     return isHandled;
-}
-
-void DialogPreferences::slotTiles(bool isAllowed)
-{
-    TileConsent(mSession.property).set(tileServer(mSession.property).address(), isAllowed);
-    mSession.property.writeXmlFile();
-    Q_EMIT signalTilesChanged();
 }
 
 void DialogPreferences::slotLanguage(const QString& locale)

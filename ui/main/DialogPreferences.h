@@ -4,9 +4,7 @@
 
 #include <QDialog>
 
-class QCheckBox;
 class QComboBox;
-class QLabel;
 class QListWidget;
 class QListWidgetItem;
 class QSpinBox;
@@ -15,8 +13,9 @@ class QStackedWidget;
 namespace ZARN {
 
 class Kernel;
+class MapOptions;
 
-/// The preferences window: language and font size, whether the map may use the network, and which profile file to use. Every change is in force
+/// The preferences window: language and font size, where the map has its tiles from, and which profile file to use. Every change is in force
 /// at once and written to the settings; the font size when its field or the window is left. The main window owns it.
 class DialogPreferences : public QDialog {
     Q_OBJECT
@@ -40,15 +39,13 @@ public Q_SLOTS:
     /// Puts a profile file in force; one that is none changes nothing, and why it is none is said.
     void slotProfilePath(const QString& path);
     void slotChangePage(QListWidgetItem* pCurrent, QListWidgetItem* pPrevious);
-    /// Keeps whether map tiles may be loaded from the server of the settings.
-    void slotTiles(bool isAllowed);
     void slotClose();
 
 Q_SIGNALS:
     void signalLanguageChanged();
     /// The setting "Profile" names another profile file.
     void signalProfileFileChanged();
-    /// The user allowed the map to load tiles, or took that back.
+    /// Where the map's tiles come from, or whether they may be loaded, is another matter.
     void signalTilesChanged();
 
 protected:
@@ -57,9 +54,7 @@ protected:
 
 private:
     QWidget* createGeneralPage();
-    QWidget* createMapGroup();
     QWidget* createProfilePage();
-    void fillTiles();
     void addPage(const QString& name, const QString& icon, QWidget* pPage);
 
     Session mSession;
@@ -70,8 +65,7 @@ private:
     QComboBox* mpLanguage;
     QComboBox* mpPalette;
     QSpinBox* mpFontSize;
-    QCheckBox* mpTiles;
-    QLabel* mpTileServer;
+    MapOptions* mpMap;
     bool mIsUnsaved = false; ///< the font size is another one than in the settings file
 };
 

@@ -1,16 +1,24 @@
 #include "ui/map/DialogDataMap.h"
 
-#include "app/Numeric.h"
 #include "app/Property.h"
 #include "app/Settings.h"
+#include "card/CardContainer.h"
+#include "profile/Profile.h"
+#include "ui/canvas/Canvas.h"
 #include "ui/gl/GraphicsCheck.h"
 #include "ui/map/MapPanels.h"
+#include "ui/map/MapProfile.h"
+#include "ui/map/MapValueTable.h"
 #include "ui/map/model/TileConsent.h"
+#include "ui/picture/PictureMenu.h"
 
 #include <QAction>
+#include <QActionGroup>
 #include <QContextMenuEvent>
 #include <QLabel>
 #include <QMenu>
+#include <QMessageBox>
+#include <QSplitter>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -23,8 +31,9 @@ constexpr int kMargin = 10;
 constexpr int kLeastWidth = 200;
 constexpr int kBelowPanels = 70; // pixels for what is written at the lower edge
 constexpr int kBelowConsent = 40;
-constexpr int kAircraft = 24; // pixels around the aircraft
-constexpr int kMostOfMap = 3; // the values cover no more than this part of the map
+constexpr int kWidestConsent = 720;
+constexpr int kBesideMap = 520; // pixels of width from which values stand beside the map, else below it
+constexpr int kCourseDelay = 150; // milliseconds
 
 } // namespace
 
@@ -35,7 +44,7 @@ DialogDataMap::DialogDataMap(const Session& session, const QString& dataPath, QW
     if (problem.isEmpty())
         createMap(dataPath);
     else
-        showProblem(problem);
+        showReason(problem);
 }
 
 DialogDataMap::~DialogDataMap()
@@ -46,27 +55,75 @@ DialogDataMap::~DialogDataMap()
 void DialogDataMap::createMap(const QString& dataPath)
 {
     mpMap = new WidgetMap(mSession, dataPath, mContext, this);
+    mpMap->installEventFilter(this);
+    mpValues = new MapValueTable;
+    mpProfile = new MapProfile;
+    mpSplitter = new QSplitter(Qt::Horizontal);
+    mpSplitter->setChildrenCollapsible(false);
+    mpSplitter->addWidget(mpMap);
+    mpSplitter->addWidget(mpValues);
+    mpSplitter->setStretchFactor(0, 1);
+    mpSplitter->setStretchFactor(1, 0);
     auto* pLayout = new QVBoxLayout(this);
     pLayout->setContentsMargins(0, 0, 0, 0);
-    pLayout->addWidget(mpMap);
-    mpValues = new MapValuePanel(this);
-    mpTools = new MapToolPanel(mContext.scale, this);
-    mpTools->setChecked(MapToolPanel::kShowValues, Settings::kMapShowValues.get(mSession.property));
-    mpConsent = new MapConsentBar(this);
-    mpConsent->hide();
-    connect(mpMap, &WidgetMap::signalUpdateMode, this, &DialogDataMap::slotUpdateMode);
-    connect(mpMap, &WidgetMap::signalMoment, this, &DialogDataMap::signalMoment);
-    connect(mpMap, &WidgetMap::signalTime, this, [this](double time) {
-        setTime(time); // whoever is told moves the other views only
-        Q_EMIT signalTime(time);
-    });
-    connect(mpTools, &MapToolPanel::signalToggled, this, &DialogDataMap::slotCommandToggled);
-    connect(mpConsent, &MapConsentBar::signalAnswer, this, &DialogDataMap::slotConsent);
+    pLayout->setSpacing(1);
+    pLayout->addWidget(mpSplitter, 1);
+    pLayout->addWidget(mpProfile);
+    createPanels();
+    connectMap();
+    mpProfile->hide(); // until there is an altitude
+    updateValues();
 }
 
-void DialogDataMap::showProblem(const QString& problem)
+void DialogDataMap::createPanels()
 {
-    auto* pText = new QLabel(problem);
+    mpTools = new MapToolPanel(mContext.scale, this);
+    mpTools->setChecked(MapToolPanel::kShowValues, Settings::kMapShowValues.get(mSession.property));
+    mpTools->setChecked(MapToolPanel::kShowProfile, Settings::kMapShowProfile.get(mSession.property));
+    mpConsent = new MapConsentBar(this);
+    mpConsent->hide();
+    const auto take = [this] {
+        const QImage image = mpMap->grab().toImage();
+        return Picture([image](Canvas& canvas, const QSize& size, bool /*forPaper*/) { canvas.image(QRectF(QPointF(), size), image); }, mpMap->size(),
+                       image.devicePixelRatio());
+    };
+    mpPicture = new PictureMenu(mSession, take, [] { return tr("Map"); }, this);
+    connect(mpPicture, &PictureMenu::signalProblem, this, &DialogDataMap::showProblem);
+}
+
+void DialogDataMap::connectMap()
+{
+    connect(mpMap, &WidgetMap::signalUpdateMode, this, &DialogDataMap::slotUpdateMode);
+    connect(mpMap, &WidgetMap::signalMoment, this, &DialogDataMap::signalMoment);
+    connect(mpMap, &WidgetMap::signalTime, this, &DialogDataMap::pickTime);
+    connect(mpMap, &WidgetMap::signalShown, mpProfile, &MapProfile::setShown);
+    connect(mpProfile, &MapProfile::signalTime, this, &DialogDataMap::pickTime);
+    connect(mpTools, &MapToolPanel::signalToggled, this, &DialogDataMap::slotCommandToggled);
+    connect(mpTools, &MapToolPanel::signalFit, mpMap, &WidgetMap::fitPath);
+    connect(mpTools, &MapToolPanel::signalZoom, this, [this](double factor) {
+        mpMap->navigator().zoomAboutMiddle(factor);
+        mpMap->setDirty();
+    });
+    connect(&mpTools->colourMenu(), &QMenu::aboutToShow, this, [this] { fillColours(mpTools->colourMenu()); });
+    connect(mpConsent, &MapConsentBar::signalAnswer, this, &DialogDataMap::slotConsent);
+    mCourseDelay.setSingleShot(true);
+    mCourseDelay.setInterval(kCourseDelay);
+    connect(&mCourseDelay, &QTimer::timeout, this, [this] { mCourse.start(mSession.container.loaded()); });
+    connect(&mCourse, &MapCourseFinder::signalFound, this, [this](const std::shared_ptr<const MapCourse>& pCourse) {
+        mpMap->setCourse(*pCourse);
+        updateProfileStrip(); // with the gaps
+    });
+}
+
+void DialogDataMap::pickTime(double time)
+{
+    setTime(time); // whoever is told moves the other views only
+    Q_EMIT signalTime(time);
+}
+
+void DialogDataMap::showReason(const QString& reason)
+{
+    auto* pText = new QLabel(reason);
     pText->setTextFormat(Qt::PlainText);
     pText->setWordWrap(true);
     pText->setAlignment(Qt::AlignCenter);
@@ -74,10 +131,21 @@ void DialogDataMap::showProblem(const QString& problem)
     pLayout->addWidget(pText);
 }
 
+void DialogDataMap::showProblem(const QString& text)
+{
+    QMessageBox::warning(this, tr("ZARN Warning"), text);
+}
+
+void DialogDataMap::followSpan(std::function<std::optional<TimeSpan>()> span)
+{
+    if (mpMap)
+        mpMap->followSpan(std::move(span));
+}
+
 void DialogDataMap::updateProfile()
 {
     updateSettings(); // the unit may be another one
-    fillDataLabel();
+    updateValues();
 }
 
 void DialogDataMap::updateRecord(RecordData* pRecord)
@@ -85,6 +153,8 @@ void DialogDataMap::updateRecord(RecordData* pRecord)
     mpRecord = pRecord;
     if (mpMap) {
         mpMap->setRecordData(pRecord);
+        updateProfileStrip();
+        findCourse();
         updateConsent();
     }
     if (!pRecord)
@@ -99,6 +169,22 @@ void DialogDataMap::growRecord(RecordData* pRecord, bool isReviewed)
     mpRecord = pRecord;
 }
 
+void DialogDataMap::findCourse()
+{
+    mCourse.stop();
+    mCourseDelay.stop();
+    if (mpRecord && !mpMap->scene().path().isEmpty())
+        mCourseDelay.start();
+}
+
+void DialogDataMap::updateProfileStrip()
+{
+    const ProfileParameter& altitude = mSession.profile.context().model().ofZarnType("Altitude");
+    const std::string unit = altitude.name.empty() ? std::string() : mSession.profile.context().unitOf(altitude);
+    mpProfile->setPath(mpMap->scene().path(), QString::fromStdString(unit));
+    mpProfile->setVisible(!mpProfile->isEmpty() && Settings::kMapShowProfile.get(mSession.property));
+}
+
 FlightPathPoint DialogDataMap::calcPositionAtTime(double time) const
 {
     if (!mpRecord || !mpMap)
@@ -111,7 +197,10 @@ void DialogDataMap::setTime(double time)
     if (mpMap)
         mpMap->setAcPosition(calcPositionAtTime(time));
     mTime = time;
-    fillDataValue();
+    if (mpProfile)
+        mpProfile->setTime(time);
+    if (mpValues && mpValues->isVisibleTo(this))
+        mpValues->setValues(mValues.at(mTime, mpRecord != nullptr));
 }
 
 void DialogDataMap::setEvents(const EventList& limits, const EventList& lamps)
@@ -168,11 +257,19 @@ void DialogDataMap::slotCommandToggled(int id, bool isChecked)
         if (isChecked)
             mpMap->setAcPosition(calcPositionAtTime(mTime));
     } else if (id == MapToolPanel::kShowValues) {
-        Settings::kMapShowValues.set(mSession.property, isChecked);
-        mSession.property.writeXmlFile();
-        fillDataLabel();
+        keepSwitch(Settings::kMapShowValues, isChecked);
+        updateValues();
+    } else if (id == MapToolPanel::kShowProfile) {
+        keepSwitch(Settings::kMapShowProfile, isChecked);
+        updateProfileStrip();
     }
     mpMap->setDirty();
+}
+
+void DialogDataMap::keepSwitch(const SwitchSetting& setting, bool isOn)
+{
+    setting.set(mSession.property, isOn);
+    mSession.property.writeXmlFile();
 }
 
 void DialogDataMap::slotUpdateMode()
@@ -181,93 +278,92 @@ void DialogDataMap::slotUpdateMode()
         mpTools->setChecked(MapToolPanel::kCentreAircraft, mContext.centreAircraft != 0);
 }
 
-void DialogDataMap::fillDataLabel()
+/// Other parameters are shown, or none.
+void DialogDataMap::updateValues()
 {
     if (!mpValues)
         return;
     const bool isWanted = mpTools->isChecked(MapToolPanel::kShowValues);
-    const std::vector<MapValue> rows = isWanted ? mValues.at(mTime, mpRecord != nullptr) : std::vector<MapValue>();
-    mpValues->setRows(rows);
-    mpValues->setVisible(!rows.empty());
-    updateGeometry();
+    const int rows = mpValues->model().rowCount();
+    mpValues->setValues(isWanted ? mValues.at(mTime, mpRecord != nullptr) : std::vector<MapValue>());
+    mpValues->setVisible(mpValues->model().rowCount() > 0);
+    if (rows != mpValues->model().rowCount())
+        arrangeValues();
 }
 
-void DialogDataMap::fillDataValue()
+/// As much as the values take, while the map keeps most of the room. The user may move the border then.
+void DialogDataMap::arrangeValues()
 {
-    if (!mpValues || !mpValues->isVisibleTo(this))
-        return;
-    mpValues->setValues(mValues.at(mTime, mpRecord != nullptr));
-    updateGeometry();
+    const bool isBeside = width() >= kBesideMap;
+    mpSplitter->setOrientation(isBeside ? Qt::Horizontal : Qt::Vertical);
+    const QSize wanted = mpValues->sizeHint();
+    const int room = isBeside ? mpSplitter->width() : mpSplitter->height();
+    const int values = std::min(isBeside ? wanted.width() : wanted.height(), isBeside ? room * 2 / 5 : room / 3);
+    mpSplitter->setSizes({std::max(room - values, 1), std::max(values, 1)});
 }
 
 void DialogDataMap::updateGeometry()
 {
     if (!mpMap)
         return;
+    const QRect map(mpMap->mapTo(this, QPoint()), mpMap->size());
     const int margin = kMargin * mContext.scale;
-    const int tallest = std::max(height() - kBelowPanels, 0);
-    mpTools->resize(mpTools->sizeHint().boundedTo({width(), tallest}));
-    mpTools->move(margin, margin);
-    const int wide = std::max(std::min(width() - 2 * margin, 720), 0);
+    const int tallest = std::max(map.height() - kBelowPanels, 0);
+    mpTools->arrangeFor({map.width() - margin, tallest});
+    mpTools->move(map.topLeft() + QPoint(margin, margin));
+    mpTools->raise();
+    const int wide = std::max(std::min(map.width() - 2 * margin, kWidestConsent), 0);
     const int tall = mpConsent->arrangeFor(wide);
     const int below = std::max(kBelowConsent, mpMap->cornerSize().height() + margin);
-    mpConsent->setGeometry((width() - wide) / 2, std::max(height() - margin - below - tall, 0), wide, tall);
+    mpConsent->setGeometry(map.left() + (map.width() - wide) / 2, map.top() + std::max(map.height() - margin - below - tall, 0), wide, tall);
     mpConsent->raise();
-    const int lowest = mpConsent->isVisibleTo(this) ? mpConsent->y() - margin : height() - below;
-    placeValues(QRect(margin, margin, width() - 2 * margin, std::min(lowest, margin + tallest) - margin));
 }
 
-/// Where most can be read of them without the aircraft being covered: beside the commands, below them, or below the aircraft.
-void DialogDataMap::placeValues(const QRect& room)
+bool DialogDataMap::eventFilter(QObject* pObject, QEvent* pEvent)
 {
-    const int area = width() * height() / kMostOfMap;
-    const QRect aircraft = aircraftPlace();
-    mpValues->measure();
-    MapValuePanel::Fit best;
-    QPoint place = room.topRight();
-    const auto consider = [&](const QRect& part, bool isLow) {
-        const MapValuePanel::Fit fit = mpValues->fit(part.size(), area);
-        QRect panel(part.topLeft(), fit.size);
-        panel.moveRight(part.right());
-        if (isLow)
-            panel.moveBottom(part.bottom());
-        if (panel.intersects(aircraft))
-            return false;
-        if (fit.score() > best.score()) {
-            best = fit;
-            place = panel.topLeft();
-        }
-        return true;
-    };
-    const int margin = room.top();
-    const QRect tools = mpTools->geometry();
-    for (const QRect& part : {room.adjusted(tools.right() + 1, 0, 0, 0), room.adjusted(0, tools.bottom() + 1, 0, 0)}) {
-        if (!consider(part, false))
-            consider(part.intersected({0, 0, width(), aircraft.top()}), false);
-    }
-    if (const int top = std::max(aircraft.bottom() + 1, tools.bottom() + margin); !aircraft.isEmpty())
-        consider(room.intersected({0, top, width(), height()}), true);
-    mpValues->apply(best);
-    mpValues->move(place);
-}
-
-/// Empty without a path.
-QRect DialogDataMap::aircraftPlace() const
-{
-    const MapScene& scene = mpMap->scene();
-    if (scene.path().isEmpty())
-        return {};
-    double x = width() / 2.0;
-    double y = height() / 2.0;
-    if (mContext.centreAircraft != 1) // else it is there, or on its way
-        mpMap->latLong2Window(scene.aircraft().latitude, scene.aircraft().longitude, &x, &y);
-    return QRect(saturatingCast<int>(x) - kAircraft, saturatingCast<int>(y) - kAircraft, 2 * kAircraft, 2 * kAircraft) & rect();
+    if (pObject == mpMap && (pEvent->type() == QEvent::Resize || pEvent->type() == QEvent::Move))
+        updateGeometry();
+    return QWidget::eventFilter(pObject, pEvent);
 }
 
 void DialogDataMap::resizeEvent(QResizeEvent* pEvent)
 {
     QWidget::resizeEvent(pEvent);
+    if (mpMap && (mpSplitter->orientation() == Qt::Horizontal) != (width() >= kBesideMap))
+        arrangeValues();
     updateGeometry();
+}
+
+void DialogDataMap::fillColours(QMenu& menu)
+{
+    menu.clear();
+    auto* pGroup = new QActionGroup(&menu);
+    const PathColouring present = PathColouring::of(Settings::kMapPathColour.get(mSession.property));
+    const auto add = [&](const PathColouring& colouring) {
+        QAction* pAction = menu.addAction(PathTinter::title(colouring).replace('&', QLatin1String("&&")), this, [this, colouring] {
+            Settings::kMapPathColour.set(mSession.property, colouring.key());
+            mSession.property.writeXmlFile();
+            mpMap->updateSettings();
+        });
+        pAction->setCheckable(true);
+        pAction->setChecked(colouring == present);
+        pGroup->addAction(pAction);
+    };
+    for (const auto by : {PathColouring::ePlain, PathColouring::eAltitude, PathColouring::eSpeed, PathColouring::ePhase})
+        add({by, {}});
+    menu.addSeparator();
+    for (const MapValue& value : mValues.at(mTime, false))
+        add({PathColouring::eParameter, value.name.toStdString()});
+}
+
+void DialogDataMap::addTileActions(QMenu& menu)
+{
+    const OpenStreet::TileServer& server = mpMap->map().tileServer();
+    QAction* pTiles = menu.addAction(tr("Load map tiles from %1").arg(server.name()));
+    pTiles->setCheckable(true);
+    pTiles->setChecked(TileConsent(mSession.property).answer(server.address()) == TileConsent::eYes);
+    pTiles->setEnabled(server.isValid() && Settings::kMapTilePath.get(mSession.property).empty() && !Settings::kMapOffline.get(mSession.property));
+    connect(pTiles, &QAction::toggled, this, &DialogDataMap::slotConsent);
 }
 
 void DialogDataMap::contextMenuEvent(QContextMenuEvent* pEvent)
@@ -278,12 +374,10 @@ void DialogDataMap::contextMenuEvent(QContextMenuEvent* pEvent)
     const std::optional<GraphMoment> moment = mpMap->interaction().momentAt(mpMap->mapFrom(this, pEvent->pos()));
     menu.addAction(tr("Show in Graph"), this, [this, moment] { Q_EMIT signalMoment(*moment); })->setEnabled(moment.has_value());
     menu.addAction(tr("Show the whole flight"), mpMap, &WidgetMap::fitPath);
-    const OpenStreet::TileServer& server = mpMap->map().tileServer();
-    QAction* pTiles = menu.addAction(tr("Load map tiles from %1").arg(server.name()));
-    pTiles->setCheckable(true);
-    pTiles->setChecked(TileConsent(mSession.property).answer(server.address()) == TileConsent::eYes);
-    pTiles->setEnabled(server.isValid());
-    connect(pTiles, &QAction::toggled, this, &DialogDataMap::slotConsent);
+    fillColours(*menu.addMenu(tr("Colours of the path")));
+    addTileActions(menu);
+    menu.addSeparator();
+    mpPicture->addTo(menu);
     menu.exec(pEvent->globalPos());
 }
 

@@ -1,21 +1,30 @@
 #pragma once
 
 #include "analysis/EventList.h"
+#include "app/Setting.h"
 #include "project/Session.h"
 #include "ui/data/model/DataView.h"
 #include "ui/map/WidgetMap.h"
+#include "ui/map/model/MapCourse.h"
 #include "ui/map/model/MapValues.h"
 
+#include <QTimer>
 #include <QWidget>
+
+class QMenu;
+class QSplitter;
 
 namespace ZARN {
 
 class MapConsentBar;
+class MapProfile;
 class MapToolPanel;
-class MapValuePanel;
+class MapValueTable;
+class PictureMenu;
 
-/// The map beside the data: the flight path of the loaded record with the aircraft at the view time, and above it a panel of current
-/// values, the map's commands and the question about the network. Where nothing can be drawn it says so instead.
+/// The map beside the data: the flight path of the loaded record with the aircraft at the view time, the map's commands and the question
+/// about the network on it; beside or below it the current values, and below both the altitude. Where nothing can be drawn it says so
+/// instead.
 class DialogDataMap : public QWidget, public DataView {
     Q_OBJECT
 
@@ -34,6 +43,7 @@ public:
     void setNotes(const std::vector<CycleNote>& notes) override;
     /// The settings were changed: tile server, consent, shading.
     void updateSettings() override;
+    void followSpan(std::function<std::optional<TimeSpan>()> span) override;
     /// Keeps the panels in place.
     void updateGeometry();
 
@@ -58,25 +68,39 @@ Q_SIGNALS:
 protected:
     void resizeEvent(QResizeEvent* pEvent) override;
     void contextMenuEvent(QContextMenuEvent* pEvent) override;
+    /// The map has another size.
+    bool eventFilter(QObject* pObject, QEvent* pEvent) override;
+    virtual void showProblem(const QString& text);
 
 private:
     void createMap(const QString& dataPath);
-    void showProblem(const QString& problem);
-    void fillDataLabel();
-    void fillDataValue();
+    void createPanels();
+    void connectMap();
+    void showReason(const QString& reason);
+    void updateValues();
+    void updateProfileStrip();
     void updateConsent();
-    void placeValues(const QRect& room);
-    [[nodiscard]] QRect aircraftPlace() const;
+    void arrangeValues();
+    void findCourse();
+    void pickTime(double time);
+    void keepSwitch(const SwitchSetting& setting, bool isOn);
+    void fillColours(QMenu& menu);
+    void addTileActions(QMenu& menu);
 
     Session mSession;
     MapContext mContext;
     MapValues mValues;
     WidgetMap* mpMap = nullptr;
-    MapValuePanel* mpValues = nullptr;
+    QSplitter* mpSplitter = nullptr;
+    MapValueTable* mpValues = nullptr;
+    MapProfile* mpProfile = nullptr;
     MapToolPanel* mpTools = nullptr;
     MapConsentBar* mpConsent = nullptr;
+    PictureMenu* mpPicture = nullptr;
     RecordData* mpRecord = nullptr;
     double mTime = 0.0;
+    QTimer mCourseDelay; // while a record grows it is not worked out each time
+    MapCourseFinder mCourse; // the last: it waits for what it finds
 };
 
 } // namespace ZARN

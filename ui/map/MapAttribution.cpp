@@ -1,7 +1,6 @@
 #include "ui/map/MapAttribution.h"
 
 #include <QEvent>
-#include <QStringList>
 #include <QUrl>
 
 #include <algorithm>
@@ -31,28 +30,41 @@ MapAttribution::MapAttribution(QWidget* pParent) : QLabel(pParent)
     setStyleSheet(QStringLiteral("#mapAttribution {background-color: #e1ffffff; color: #404040;}"));
 }
 
-QString MapAttribution::links(const OpenStreet::MapSources& sources, const OpenStreet::TileServer& server)
+QStringList MapAttribution::serverLinks(const OpenStreet::TileServer& server, const QString& own)
+{
+    // Who serves the tiles says what they are made of; hardly one is not made of this.
+    QStringList result{link(QStringLiteral("https://www.openstreetmap.org/copyright"), QStringLiteral("(c) OpenStreetMap contributors"))};
+    const QUrl example = server.url({});
+    QUrl host;
+    host.setScheme(example.scheme());
+    host.setHost(example.host());
+    host.setPort(example.port());
+    if (!own.isEmpty())
+        result << own.toHtmlEscaped();
+    if (!example.host().endsWith(QLatin1String("openstreetmap.org")))
+        result << link(host.toString(), server.name());
+    return result;
+}
+
+QString MapAttribution::links(const OpenStreet::MapSources& sources, const OpenStreet::OpenStreetMap& map, const QString& own)
 {
     QStringList result;
-    if (sources.hasTiles) {
-        // Who serves the tiles says what they are made of; hardly one is not made of this.
-        result << link(QStringLiteral("https://www.openstreetmap.org/copyright"), QStringLiteral("(c) OpenStreetMap contributors"));
-        const QUrl example = server.url({});
-        QUrl host;
-        host.setScheme(example.scheme());
-        host.setHost(example.host());
-        host.setPort(example.port());
-        if (!example.host().endsWith(QLatin1String("openstreetmap.org")))
-            result << link(host.toString(), server.name());
+    if (const OpenStreet::LocalTiles* pLocal = map.localTiles(); sources.hasTiles && pLocal)
+        result << (pLocal->attribution().isEmpty() ? pLocal->name() : pLocal->attribution()).toHtmlEscaped();
+    else if (sources.hasTiles)
+        result << serverLinks(map.tileServer(), own);
+    if (sources.hasBuiltIn) {
+        result << link(QStringLiteral("https://www.naturalearthdata.com"), QStringLiteral("Natural Earth"))
+               << link(QStringLiteral("https://www.soest.hawaii.edu/pwessel/gshhg/"), QStringLiteral("GSHHG"))
+               << link(QStringLiteral("https://www.geonames.org"), QStringLiteral("GeoNames"))
+               << link(QStringLiteral("https://ourairports.com"), QStringLiteral("OurAirports"));
     }
-    if (sources.hasBuiltIn)
-        result << link(QStringLiteral("https://www.naturalearthdata.com"), QStringLiteral("Natural Earth"));
     return result.join(QStringLiteral(", "));
 }
 
-void MapAttribution::setSources(const OpenStreet::MapSources& sources, const OpenStreet::TileServer& server)
+void MapAttribution::setSources(const OpenStreet::MapSources& sources, const OpenStreet::OpenStreetMap& map, const QString& own)
 {
-    const QString html = links(sources, server);
+    const QString html = links(sources, map, own);
     setVisible(!html.isEmpty());
     if (html != text())
         setText(html);

@@ -3,6 +3,7 @@
 #include "openstreet/gl/OpenStreetMap.h"
 
 #include <QLabel>
+#include <QStringList>
 
 namespace ZARN {
 
@@ -14,7 +15,8 @@ class MapAttribution : public QLabel {
 public:
     explicit MapAttribution(QWidget* pParent);
 
-    void setSources(const OpenStreet::MapSources& sources, const OpenStreet::TileServer& server);
+    /// @param own what the user wants to be told of the server's map; may be empty
+    void setSources(const OpenStreet::MapSources& sources, const OpenStreet::OpenStreetMap& map, const QString& own);
     /// Keeps it in the corner.
     void place();
 
@@ -23,7 +25,8 @@ protected:
 
 private:
     /// The sources as links, in HTML.
-    [[nodiscard]] static QString links(const OpenStreet::MapSources& sources, const OpenStreet::TileServer& server);
+    [[nodiscard]] static QString links(const OpenStreet::MapSources& sources, const OpenStreet::OpenStreetMap& map, const QString& own);
+    [[nodiscard]] static QStringList serverLinks(const OpenStreet::TileServer& server, const QString& own);
 };
 
 } // namespace ZARN

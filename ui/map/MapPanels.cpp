@@ -1,17 +1,14 @@
 #include "ui/map/MapPanels.h"
 
-#include "ui/canvas/ColourContrast.h"
 #include "ui/map/model/MapScene.h"
-#include "ui/map/model/ToolTipText.h"
 
 #include <QAbstractButton>
 #include <QAction>
-#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMenu>
 #include <QPainter>
 #include <QPushButton>
-#include <QScrollBar>
 #include <QToolBar>
 #include <QToolButton>
 
@@ -22,12 +19,7 @@ namespace ZARN {
 namespace {
 
 constexpr int kIconSize = 32;
-constexpr int kPanelMargin = 5;
-constexpr int kPanelSpacing = 2;
-constexpr int kNameGap = 6; // pixels between a name and its value
-constexpr double kLeastContrast = 4.5;
-const QColor kGround(30, 34, 40);
-constexpr int kLeastName = 40; // pixels that are left of a name at least
+constexpr double kZoomStep = 0.5; // of the range, for a click
 const QColor kIconColour(25, 60, 140);
 constexpr int kLeastText = 260; // pixels of a line of the question beside its buttons
 
@@ -60,6 +52,57 @@ QIcon aircraftIcon(int edge)
     });
 }
 
+/// A plus, or a minus, in a lens.
+QIcon zoomIcon(int edge, bool isIn)
+{
+    return drawnIcon(edge, [isIn](QPainter& painter) {
+        painter.setPen(QPen(kIconColour, 3.0, Qt::SolidLine, Qt::RoundCap));
+        painter.drawEllipse(QPointF(-3, -3), 14.0, 14.0);
+        painter.drawLine(QPointF(7.5, 7.5), QPointF(18, 18));
+        painter.drawLine(QPointF(-10, -3), QPointF(4, -3));
+        if (isIn)
+            painter.drawLine(QPointF(-3, -10), QPointF(-3, 4));
+    });
+}
+
+/// The corners of a frame around a path.
+QIcon fitIcon(int edge)
+{
+    return drawnIcon(edge, [](QPainter& painter) {
+        painter.setPen(QPen(kIconColour, 3.0, Qt::SolidLine, Qt::RoundCap));
+        for (const double x : {-1.0, 1.0}) {
+            for (const double y : {-1.0, 1.0}) {
+                painter.drawLine(QPointF(18 * x, 16 * y), QPointF(10 * x, 16 * y));
+                painter.drawLine(QPointF(18 * x, 16 * y), QPointF(18 * x, 8 * y));
+            }
+        }
+        painter.drawPolyline(QPolygonF({{-9, 6}, {-2, -6}, {3, 3}, {9, -5}}));
+    });
+}
+
+/// Mountains above a line.
+QIcon profileIcon(int edge)
+{
+    return drawnIcon(edge, [](QPainter& painter) {
+        painter.setPen(QPen(kIconColour, 2.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.drawLine(QPointF(-19, 15), QPointF(19, 15));
+        painter.drawPolyline(QPolygonF({{-18, 10}, {-8, -8}, {0, 2}, {8, -14}, {18, 10}}));
+    });
+}
+
+/// A path in three colours.
+QIcon coloursIcon(int edge)
+{
+    return drawnIcon(edge, [](QPainter& painter) {
+        const QPolygonF way({{-18, 12}, {-7, -8}, {6, 8}, {18, -12}});
+        const QColor colours[] = {QColor(59, 82, 139), QColor(33, 145, 140), QColor(214, 120, 20)};
+        for (int i = 0; i < 3; ++i) {
+            painter.setPen(QPen(colours[i], 6.0, Qt::SolidLine, Qt::RoundCap));
+            painter.drawLine(way[i], way[i + 1]);
+        }
+    });
+}
+
 /// Lines of names and values in a frame.
 QIcon valuesIcon(int edge)
 {
@@ -75,134 +118,7 @@ QIcon valuesIcon(int edge)
 
 } // namespace
 
-MapValuePanel::MapValuePanel(QWidget* pParent) : QFrame(pParent), mpScroll(new QScrollArea)
-{
-    setObjectName(QStringLiteral("mapValues"));
-    setStyleSheet(QStringLiteral("#mapValues{background-color: %1;border-radius:10px;}").arg(kGround.name()));
-    mpScroll->setFrameShape(QFrame::NoFrame);
-    mpScroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    mpScroll->setFocusPolicy(Qt::NoFocus);
-    mpScroll->setStyleSheet(QStringLiteral("QScrollArea {background: transparent;}"));
-    mpScroll->viewport()->setAutoFillBackground(false);
-    mpScroll->setWidgetResizable(true);
-    auto* pLayout = new QVBoxLayout(this);
-    pLayout->setContentsMargins(kPanelMargin, kPanelMargin, kPanelMargin, kPanelMargin);
-    pLayout->addWidget(mpScroll);
-    QScrollBar* pBar = mpScroll->verticalScrollBar();
-    connect(pBar, &QScrollBar::valueChanged, this, [this, pBar](int value) { pBar->setValue((value + step() / 2) / step() * step()); });
-    setRows({});
-}
-
-int MapValuePanel::step() const
-{
-    return std::max(mRowHeight, 1) + kPanelSpacing;
-}
-
-void MapValuePanel::setRows(const std::vector<MapValue>& rows)
-{
-    mRows.clear();
-    mpPanel = new QWidget;
-    auto* pLayout = new QGridLayout(mpPanel);
-    pLayout->setContentsMargins(0, 0, 0, 0);
-    pLayout->setSpacing(kPanelSpacing);
-    for (const MapValue& row : rows) {
-        auto* pName = new QLabel(row.name);
-        pName->setTextFormat(Qt::PlainText);
-        pName->setContentsMargins(0, 0, kNameGap, 0);
-        pName->setStyleSheet(QStringLiteral("QLabel {color: white; font-weight: bold;}"));
-        auto* pValue = new QLabel;
-        pValue->setTextFormat(Qt::PlainText);
-        const int line = static_cast<int>(mRows.size());
-        pLayout->addWidget(pName, line, 0);
-        pLayout->addWidget(pValue, line, 1);
-        mRows.push_back({row.name, {}, pName, pValue, {}});
-        setColour(mRows.back(), Qt::white);
-    }
-    mpScroll->setWidget(mpPanel);
-    mpPanel->setAutoFillBackground(false);
-    setValues(rows);
-}
-
-void MapValuePanel::setColour(Row& row, const QColor& colour) const
-{
-    if (row.colour == colour)
-        return;
-    row.colour = colour;
-    const QColor readable = readableOn(kGround, colour, kLeastContrast);
-    row.pValue->setStyleSheet(QStringLiteral("QLabel {color: %1; font-weight: bold;}").arg(readable.name()));
-}
-
-void MapValuePanel::setValues(const std::vector<MapValue>& rows)
-{
-    for (std::size_t i = 0; i < std::min(rows.size(), mRows.size()); ++i) {
-        mRows[i].value = rows[i].text;
-        mRows[i].pValue->setText(rows[i].text);
-        setColour(mRows[i], rows[i].colour.isValid() ? rows[i].colour : QColor(Qt::white));
-    }
-}
-
-void MapValuePanel::measure()
-{
-    mNames = mValues = mRowHeight = 0;
-    for (const Row& row : mRows) {
-        row.pName->ensurePolished();
-        row.pValue->ensurePolished();
-        mNames = std::max(mNames, row.pName->fontMetrics().horizontalAdvance(row.name) + 1);
-        mValues = std::max(mValues, row.pValue->fontMetrics().horizontalAdvance(row.value) + 1);
-        mRowHeight = std::max(mRowHeight, row.pName->fontMetrics().height());
-    }
-    for (const Row& row : mRows)
-        row.pName->setFixedHeight(mRowHeight); // rows of one height, whatever letters are in them
-    mpScroll->verticalScrollBar()->setSingleStep(step());
-}
-
-MapValuePanel::Fit MapValuePanel::fit(const QSize& room, int area) const
-{
-    const int wanted = mNames + mValues + 2 * kPanelMargin + kPanelSpacing + kNameGap;
-    const int all = static_cast<int>(mRows.size());
-    const auto rowsIn = [&](int width) {
-        const int tallest = std::min(room.height(), area / std::max(width, 1));
-        return std::clamp((tallest - 2 * kPanelMargin + kPanelSpacing) / step(), 0, all);
-    };
-    int width = std::min(wanted, room.width());
-    int rows = rowsIn(width);
-    const int bar = rows < all ? mpScroll->verticalScrollBar()->sizeHint().width() : 0;
-    if (bar > 0) {
-        width = std::min(wanted + bar, room.width());
-        rows = rowsIn(width);
-    }
-    const int height = rows == 0 ? 0 : 2 * kPanelMargin + rows * step() - kPanelSpacing;
-    return {{std::max(width, 0), height}, rows, width >= wanted + bar, width >= wanted + bar - std::max(mNames - kLeastName, 0)};
-}
-
-void MapValuePanel::apply(const Fit& fit)
-{
-    const bool isScrolled = fit.rows < static_cast<int>(mRows.size());
-    elide(fit.size.width() - (isScrolled ? mpScroll->verticalScrollBar()->sizeHint().width() : 0));
-    mpScroll->setVerticalScrollBarPolicy(isScrolled ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
-    resize(fit.size);
-    // The map below is to be dragged, zoomed and clicked; only a panel that has to be scrolled, or to tell what was cut, takes the mouse.
-    setAttribute(Qt::WA_TransparentForMouseEvents, !isScrolled && fit.isWhole);
-}
-
-void MapValuePanel::elide(int width)
-{
-    const auto cut = [](QLabel& label, const QString& text, int most) {
-        const QString shown = label.fontMetrics().elidedText(text, Qt::ElideRight, most);
-        if (label.text() != shown)
-            label.setText(shown);
-        label.setToolTip(shown == text ? QString() : plainToolTip(text));
-    };
-    const int room = width - 2 * kPanelMargin - kPanelSpacing - kNameGap;
-    const int values = std::clamp(mValues, 0, std::max(room - kLeastName, 0));
-    for (const Row& row : mRows) {
-        cut(*row.pValue, row.value, values);
-        cut(*row.pName, row.name, std::max(room - values, kLeastName));
-    }
-    mpPanel->layout()->activate();
-}
-
-MapToolPanel::MapToolPanel(int scale, QWidget* pParent) : QWidget(pParent)
+MapToolPanel::MapToolPanel(int scale, QWidget* pParent) : QWidget(pParent), mpColours(new QMenu(this)), mpBar(new QToolBar)
 {
     auto* pPanel = new QWidget(this);
     pPanel->setStyleSheet(QStringLiteral(".QWidget{background-color: #66ffffff;border-radius:10px;}"
@@ -212,23 +128,56 @@ MapToolPanel::MapToolPanel(int scale, QWidget* pParent) : QWidget(pParent)
     pOuter->addWidget(pPanel);
     auto* pLayout = new QVBoxLayout(pPanel);
     pLayout->setContentsMargins(3, 3, 3, 3);
-    auto* pBar = new QToolBar;
-    pBar->setStyleSheet(QStringLiteral(".QToolBar{background-color: #00ffffff;border-radius:10px;}"));
-    pBar->setOrientation(Qt::Vertical);
-    pBar->setIconSize({kIconSize * scale, kIconSize * scale});
-    addCommand(*pBar, aircraftIcon(kIconSize * scale), tr("Center AC"), kCentreAircraft);
-    addCommand(*pBar, valuesIcon(kIconSize * scale), tr("Show values"), kShowValues);
-    pLayout->addWidget(pBar);
+    mpBar->setStyleSheet(QStringLiteral(".QToolBar{background-color: #00ffffff;border-radius:10px;spacing:0px;padding:0px;} "
+                                        "QToolButton{padding:1px;margin:0px;} QToolButton::menu-indicator{image:none;}"));
+    mpBar->setOrientation(Qt::Vertical);
+    mpBar->setIconSize({kIconSize * scale, kIconSize * scale});
+    addCommand(*mpBar, aircraftIcon(kIconSize * scale), tr("Center AC"), kCentreAircraft);
+    addCommand(*mpBar, valuesIcon(kIconSize * scale), tr("Show values"), kShowValues);
+    addCommand(*mpBar, profileIcon(kIconSize * scale), tr("Show the altitude below the map"), kShowProfile);
+    addColours(*mpBar, coloursIcon(kIconSize * scale));
+    connect(addButton(*mpBar, zoomIcon(kIconSize * scale, true), tr("Zoom in")), &QAction::triggered, this,
+            [this] { Q_EMIT signalZoom(kZoomStep); });
+    connect(addButton(*mpBar, zoomIcon(kIconSize * scale, false), tr("Zoom out")), &QAction::triggered, this,
+            [this] { Q_EMIT signalZoom(1.0 / kZoomStep); });
+    connect(addButton(*mpBar, fitIcon(kIconSize * scale), tr("Show the whole flight")), &QAction::triggered, this, &MapToolPanel::signalFit);
+    pLayout->addWidget(mpBar);
+}
+
+void MapToolPanel::arrangeFor(const QSize& room)
+{
+    mpBar->setOrientation(Qt::Vertical);
+    if (sizeHint().height() > room.height())
+        mpBar->setOrientation(Qt::Horizontal);
+    resize(sizeHint().boundedTo(room));
+}
+
+QAction* MapToolPanel::addButton(QToolBar& bar, const QIcon& icon, const QString& text)
+{
+    QAction* pAction = bar.addAction(icon, text);
+    pAction->setToolTip(text);
+    bar.widgetForAction(pAction)->setAccessibleName(text);
+    return pAction;
+}
+
+void MapToolPanel::addColours(QToolBar& bar, const QIcon& icon)
+{
+    auto* pButton = new QToolButton;
+    pButton->setIcon(icon);
+    pButton->setToolTip(tr("Colours of the path"));
+    pButton->setAccessibleName(pButton->toolTip());
+    pButton->setFocusPolicy(Qt::TabFocus);
+    pButton->setPopupMode(QToolButton::InstantPopup);
+    pButton->setMenu(mpColours);
+    bar.addWidget(pButton);
 }
 
 void MapToolPanel::addCommand(QToolBar& bar, const QIcon& icon, const QString& text, int id)
 {
-    QAction* pAction = bar.addAction(icon, text);
-    pAction->setToolTip(text);
+    QAction* pAction = addButton(bar, icon, text);
     pAction->setCheckable(true);
     pAction->setChecked(true);
     auto* pButton = qobject_cast<QAbstractButton*>(bar.widgetForAction(pAction));
-    pButton->setAccessibleName(text);
     connect(pButton, &QAbstractButton::toggled, this, [this, id](bool isChecked) { Q_EMIT signalToggled(id, isChecked); });
     mButtons[static_cast<std::size_t>(id)] = pButton;
 }

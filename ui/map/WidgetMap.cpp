@@ -11,6 +11,7 @@
 #include "ui/map/MapAttribution.h"
 #include "ui/map/model/MapDescription.h"
 #include "ui/map/model/TileConsent.h"
+#include "ui/map/model/TileFolder.h"
 #include "ui/map/model/ToolTipText.h"
 #include "vesk/base/Timer.h"
 #include "vesk/gl/Device.h"
@@ -38,7 +39,7 @@ constexpr double kLoadingInterval = 0.25; // seconds between two drawings while 
 QByteArray userAgent()
 {
     return QByteArray::fromStdString(Revision::getName()) + '/' + QByteArray::fromStdString(Revision::getRevisionNumber()) +
-           " (desktop review of engine recordings; map view)";
+           " (+" ZARN_CONTACT_PAGE "; map view of a desktop program)";
 }
 
 } // namespace
@@ -52,7 +53,7 @@ WidgetMap::WidgetMap(const Session& session, const QString& dataPath, MapContext
     setMinimumSize(100, 100);
     setUpMap(dataPath);
     const SurfacePainting painting{
-        .background = QColor(OpenStreet::BaseMap::kWater),
+        .background = QColor(OpenStreet::BaseMap::Colours().water),
         .update = [this](const QSize& /*size*/, double /*ratio*/) { updateGround(); },
         .paint =
             [this](Canvas& canvas, VESK::OpenGL::Device* pDevice) {
@@ -73,6 +74,7 @@ WidgetMap::WidgetMap(const Session& session, const QString& dataPath, MapContext
         setDirty();
         QToolTip::hideText(); // what it told of is moving away
     });
+    connect(&mInteraction, &MapInteraction::signalPointer, this, [this] { mIsAboveDirty = true; });
     connect(&mInteraction, &MapInteraction::signalUpdateMode, this, &WidgetMap::signalUpdateMode);
     connect(&mInteraction, &MapInteraction::signalTime, this, &WidgetMap::signalTime);
     connect(&mInteraction, &MapInteraction::signalMoment, this, &WidgetMap::signalMoment);
@@ -88,7 +90,7 @@ WidgetMap::~WidgetMap()
 
 void WidgetMap::setUpMap(const QString& dataPath)
 {
-    mMap.setTileDirectory((dataPath + QLatin1String("/tiles/")).toUtf8().constData());
+    mMap.setTileDirectory(tileFolder().toUtf8().constData(), (dataPath + QLatin1String("/tiles/")).toUtf8().constData());
     mMap.setTerrainPath((dataPath + QLatin1String("/terrain/")).toUtf8().constData());
     mMap.setProjection(OpenStreet::ProjectionType::eMercator);
     mMap.setMapType(OpenStreet::MapType::eTiles);
@@ -106,15 +108,31 @@ void WidgetMap::updateSettings()
     mMap.setContrast(Settings::kMapShadingContrast.get(property));
     mMap.setBrightness(Settings::kMapShadingBrightness.get(property));
     mMap.setShadingFactor(Settings::kMapShadingFactor.get(property));
+    mMap.setHighestZoom(Settings::kMapHighestZoom.get(property));
+    mMap.store().disk().setLimit(qint64(Settings::kMapCacheSize.get(property)) * 1024 * 1024);
     mScene.setImperial(mSession.profile.currentUnit() == EUnit::eImperial);
+    openTiles();
     allowTiles();
+    updateTint();
+}
+
+/// Once for a path: an archive is not read anew for every other setting.
+void WidgetMap::openTiles()
+{
+    const QString path = Settings::kMapTilePath.text(mSession.property);
+    if (std::exchange(mTilePath, path) == path)
+        return;
+    mTileProblem.clear();
+    if (!mMap.setLocalTiles(path, &mTileProblem))
+        mSession.console.print("WidgetMap::openTiles: %s\n", mTileProblem.toUtf8().constData());
 }
 
 void WidgetMap::allowTiles()
 {
     const QString& server = mMap.tileServer().address();
-    mMap.setTilesAllowed(!mScene.path().isEmpty() && TileConsent(mSession.property).answer(server) == TileConsent::eYes);
-    mScene.setGraticule(!mMap.areTilesAllowed());
+    const bool isOffline = Settings::kMapOffline.get(mSession.property);
+    mMap.setTilesAllowed(!isOffline && !mScene.path().isEmpty() && TileConsent(mSession.property).answer(server) == TileConsent::eYes);
+    mScene.setPlain(!mSources.hasTiles);
     updateNote();
     mIsDirty = true;
 }
@@ -122,19 +140,27 @@ void WidgetMap::allowTiles()
 bool WidgetMap::isConsentMissing() const
 {
     const OpenStreet::TileServer& server = mMap.tileServer();
-    return !mScene.path().isEmpty() && server.isValid() &&
+    return !mScene.path().isEmpty() && server.isValid() && mTilePath.isEmpty() && !Settings::kMapOffline.get(mSession.property) &&
            TileConsent(mSession.property).answer(server.address()) == TileConsent::eNotAsked;
 }
 
 void WidgetMap::updateNote()
 {
-    QString note;
-    if (!mMap.tileServer().isValid())
-        note = tr("The setting \"TileServer\" is no address of map tiles");
-    else if (mMap.areTilesAllowed() && !mMap.lastError().isEmpty())
-        note = mMap.tileServer().name() + QLatin1String(": ") + mMap.lastError();
-    if (mScene.setNote(note))
+    if (mScene.setNote(note()))
         mIsAboveDirty = true;
+}
+
+QString WidgetMap::note() const
+{
+    if (!mTileProblem.isEmpty())
+        return tr("Map tiles: %1").arg(mTileProblem);
+    if (mTilePath.isEmpty() && !mMap.tileServer().isValid())
+        return tr("The setting \"TileServer\" is no address of map tiles");
+    if (mMap.areTilesAllowed() && !mMap.lastError().isEmpty())
+        return mMap.tileServer().name() + QLatin1String(": ") + mMap.lastError();
+    if (mMap.nrLoadingTiles() > 0)
+        return tr("Loading the map: %n tile(s)", nullptr, mMap.nrLoadingTiles());
+    return mMap.baseMap().problem().isEmpty() ? mScene.places().problem() : mMap.baseMap().problem();
 }
 
 QSize WidgetMap::cornerSize() const
@@ -153,6 +179,11 @@ void WidgetMap::loadWorld()
 {
     if (!mMap.loadBaseMap())
         mSession.console.print("WidgetMap::loadWorld: no map of the world\n");
+    mScene.places().open(OpenStreet::DetailFile::builtInFolder());
+    for (const QString& problem : {mMap.baseMap().problem(), mScene.places().problem()}) {
+        if (!problem.isEmpty())
+            mSession.console.print("WidgetMap::loadWorld: %s\n", problem.toUtf8().constData());
+    }
 }
 
 void WidgetMap::releaseGraphics()
@@ -237,14 +268,16 @@ void WidgetMap::slotTimeout()
     mIsDirty = mIsDirty || mNavigator.isMoving();
     mNavigator.tick(now - mLastTick);
     mLastTick = now;
+    updateShown();
     const double still = std::fabs(now - mLastRedraw); // the clock may be set back
     if (isDirty() || still > kLookInterval) {
         mContext.isLoading = mMap.nrLoadingTiles() != 0;
         updateNote();
     }
     if (std::exchange(mSources, mMap.sources()) != mMap.sources()) {
-        mpAttribution->setSources(mSources, mMap.tileServer());
-        mIsAboveDirty = true; // the scale bar makes room
+        mpAttribution->setSources(mSources, mMap, Settings::kMapAttribution.text(mSession.property));
+        mScene.setPlain(!mSources.hasTiles);
+        mIsDirty = mIsAboveDirty = true; // the scale bar makes room
     }
     const bool isFrame = mIsDirty || (mContext.isLoading && still > kLoadingInterval);
     if (!mPacer.isDue() || !(isFrame || mIsAboveDirty || still > kLookInterval))
@@ -275,6 +308,7 @@ void WidgetMap::setRecordData(RecordData* pRecord)
     } else {
         mScene.path().setPoints({});
         mScene.events().place(mScene.path());
+        setCourse({});
         allowTiles();
     }
     // What is being received may have a position yet.
@@ -285,12 +319,47 @@ void WidgetMap::setRecordData(RecordData* pRecord)
 void WidgetMap::redrawFlightPath()
 {
     const bool isGrown = mSession.container.isLive() && !mScene.path().isEmpty();
+    const std::vector<FlightPathPoint>& points = mScene.path().points();
+    const double before = points.empty() ? -1.0 : points.front().time;
     const bool isSamePath = !mScene.path().setPoints(mSession.container.flightPath());
+    const bool isBeginning = !points.empty() && points.front().time == before; // it may go on growing
     const bool isOtherUnit = std::exchange(mPathUnit, mSession.profile.currentUnit()) != mSession.profile.currentUnit();
     mScene.events().place(mScene.path());
     if (!isGrown && (!isSamePath || !isOtherUnit))
         mNavigator.fit(mScene.path(), true);
+    if (!isSamePath && !isBeginning)
+        setCourse({}); // until it is known
+    else
+        updateTint();
     allowTiles();
+}
+
+void WidgetMap::setCourse(const MapCourse& course)
+{
+    mPhases = course.course.phases;
+    mScene.setWholePath(course.pWhole ? std::span<const FlightPathPoint>(*course.pWhole) : std::span<const FlightPathPoint>());
+    mScene.setCourse(course.course, course.gaps);
+    updateTint();
+}
+
+void WidgetMap::updateTint()
+{
+    const PathColouring colouring = PathColouring::of(Settings::kMapPathColour.get(mSession.property));
+    const PathTinter tinter(mScene.path().points(), mSession.profile.context(), Palette::light().map);
+    mScene.setTint(tinter.tint(colouring, &mSession.container.recordData(), mPhases));
+    mIsDirty = true;
+}
+
+void WidgetMap::updateShown()
+{
+    std::optional<TimeSpan> span = mSpan ? mSpan() : std::nullopt;
+    const std::vector<FlightPathPoint>& points = mScene.path().points();
+    if (span && (points.empty() || (span->holds(points.front().time) && span->holds(points.back().time))))
+        span.reset();
+    if (!mScene.setShown(span))
+        return;
+    mIsDirty = true;
+    Q_EMIT signalShown(span);
 }
 
 void WidgetMap::fitPath()

@@ -5,10 +5,13 @@
 #include "project/Session.h"
 #include "ui/canvas/FramePacer.h"
 #include "ui/gl/Surface.h"
+#include "ui/map/model/MapCourse.h"
 #include "ui/map/model/MapInteraction.h"
 
 #include <QTimer>
 #include <QWidget>
+
+#include <functional>
 
 namespace ZARN {
 
@@ -43,8 +46,12 @@ public:
     /// Great-circle distance in metres between two places in degrees.
     [[nodiscard]] static double calcDistance(double lat1, double lon1, double lat2, double lon2);
 
-    /// Reads server, consent and shading from the settings again.
+    /// Reads the source of tiles, consent, shading and the colours of the path from the settings again.
     void updateSettings();
+    /// What is known of the cycle whose path is shown.
+    void setCourse(const MapCourse& course);
+    /// Asked again and again for the part of the path that is shown bright.
+    void followSpan(std::function<std::optional<TimeSpan>()> span) { mSpan = std::move(span); }
     /// Shows the whole path again.
     void fitPath();
     void setDirty() { mIsDirty = true; }
@@ -70,8 +77,10 @@ Q_SIGNALS:
     void signalUpdateMode();
     /// The user picked a place of the path; its time in seconds.
     void signalTime(double time);
-    /// The user wants to see an event in the graph.
+    /// The user wants to see something in the graph.
     void signalMoment(const GraphMoment& moment);
+    /// Another part of the path is shown bright; none for all of it.
+    void signalShown(const std::optional<ZARN::TimeSpan>& span);
 
 protected:
     /// What the surface asks for, with its context current.
@@ -99,7 +108,11 @@ private:
     void setUpMap(const QString& dataPath);
     void loadWorld();
     void allowTiles();
+    void openTiles();
+    void updateTint();
+    void updateShown();
     void updateNote();
+    [[nodiscard]] QString note() const;
     void updateGround();
     void releaseGraphics();
 
@@ -114,6 +127,10 @@ private:
     OpenStreet::MapSources mSources;          // that the attribution names
     VESK::OpenGL::Device* mpDevice = nullptr; // while it paints
     EUnit mPathUnit{};
+    std::vector<FlightPhases::Step> mPhases; // of the cycle, once they are known
+    std::function<std::optional<TimeSpan>()> mSpan;
+    QString mTilePath;    // of tiles of the user's
+    QString mTileProblem; // why they cannot be shown
     bool mIsInitialised = false;
     bool mIsDirty = true;
     bool mIsAboveDirty = true; // what is drawn above tiles and path

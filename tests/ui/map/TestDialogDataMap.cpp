@@ -12,6 +12,8 @@
 #include "ui/map/DialogDataMap.h"
 #include "ui/map/MapAttribution.h"
 #include "ui/map/MapPanels.h"
+#include "ui/map/MapProfile.h"
+#include "ui/map/MapValueTable.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -73,6 +75,8 @@ struct Window {
     WidgetMap& map() { return *dialog->mapWidget(); }
     void settle()
     {
+        const MapScene& scene = map().scene(); // what is worked out beside the window has come
+        QTRY_VERIFY_WITH_TIMEOUT(scene.path().isEmpty() || scene.marks().size() > 0, 20000);
         QTRY_VERIFY_WITH_TIMEOUT(!map().navigator().isMoving(), 20000);
         QTRY_COMPARE_WITH_TIMEOUT(map().map().nrLoadingTiles(), 0, 20000);
         QTRY_VERIFY_WITH_TIMEOUT(!map().isDirty(), 20000);
@@ -137,6 +141,7 @@ private Q_SLOTS:
     void pointerAndKeys();
     void picksTimes();
     void valuesAndColours();
+    void brushing();
 
 private:
     TileHost mHost;
@@ -301,10 +306,7 @@ void TestDialogDataMap::pointerAndKeys()
         map.latLong2Window(place.latitude, place.longitude, &x, &y);
         return std::hypot(x - point.x(), y - point.y()) < 1.5;
     };
-    const auto* pValues = window.dialog->findChild<MapValuePanel*>();
-    QVERIFY(pValues->isVisible());
-    QCOMPARE(window.dialog->childAt(pValues->geometry().center()), &map); // the map is moved below the values, too
-    const QPoint pointer(640, 200);
+    const QPoint pointer(440, 200);
     const double range = map.navigator().camera().horizontalRange();
     OpenStreet::GeoPoint place = placeAt(pointer);
     QWheelEvent wheel(pointer, map.mapToGlobal(pointer), {}, {0, 240}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
@@ -365,38 +367,72 @@ void TestDialogDataMap::valuesAndColours()
 {
     Window window;
     window.load();
-    auto* pPanel = window.dialog->findChild<MapValuePanel*>();
-    const auto texts = [&] {
+    auto* pTable = window.dialog->findChild<MapValueTable*>();
+    const auto texts = [&](int column) {
         QStringList result;
-        for (const QLabel* pLabel : pPanel->findChildren<QLabel*>())
-            result << pLabel->text();
+        for (int row = 0; row < pTable->model().rowCount(); ++row)
+            result << pTable->model().index(row, column).data().toString();
         return result;
     };
     const ProfileParameter altitude = flight().profile.getParameterFromZarnType("Altitude");
     const auto& path = flight().container.flightPath();
     const auto value = flight().container.values().displayAt(altitude, path[path.size() / 3].time);
-    QCOMPARE(texts().size(), 8);
-    QVERIFY(texts().contains(QString::fromStdString(altitude.name)));
-    QVERIFY(texts().contains(QString::fromStdString(value->text + " [" + altitude.unitMetric + "]")));
-    window.dialog->slotConsent(false); // the question would take the room
+    const qsizetype row = texts(MapValueModel::eName).indexOf(QString::fromStdString(altitude.name));
+    QVERIFY(row >= 0 && texts(MapValueModel::eName).size() == 4);
+    QCOMPARE(texts(MapValueModel::eValue)[row], QString::fromStdString(value->text));
+    QCOMPARE(texts(MapValueModel::eUnit)[row], QString::fromStdString(altitude.unitMetric));
     window.dialog->setTime(1e9);
-    QCOMPARE(texts().count("-"), 4); // no zero that was not measured
-    for (const QSize& size : {QSize(900, 700), QSize(400, 160), QSize(200, 700)}) {
+    QCOMPARE(texts(MapValueModel::eValue).count("-"), 4); // no zero that was not measured
+    for (const QSize& size : {QSize(900, 700), QSize(400, 360), QSize(300, 700)}) {
         window.dialog->resize(size);
-        QTRY_VERIFY(window.dialog->rect().contains(pPanel->geometry()) &&
-                    pPanel->width() * pPanel->height() * 3 <= size.width() * size.height());
-        const auto rows = pPanel->findChildren<QLabel*>();
-        QCOMPARE(pPanel->height() % (rows[2]->y() - rows[0]->y()), pPanel->height() == 0 ? 0 : 8); // whole rows in margins of 5
-        QVERIFY(!pPanel->geometry().contains(window.dialog->rect().center()));
+        QTRY_VERIFY(window.map().width() * window.map().height() * 2 > size.width() * size.height()); // most of it is the map
+        QVERIFY(!pTable->visualRect(pTable->model().index(0, MapValueModel::eValue)).isEmpty());
     }
     window.tools()->setChecked(MapToolPanel::kShowValues, false);
-    QVERIFY(!pPanel->isVisible());
+    QVERIFY(!pTable->isVisible());
     window.dialog->updateProfile();
-    QVERIFY(!pPanel->isVisible() && !window.property.getSwitch("MapShowValues", true));
+    QVERIFY(!pTable->isVisible() && !window.property.getSwitch("MapShowValues", true));
+}
+
+void TestDialogDataMap::brushing()
+{
+    Window window;
+    const auto& path = flight().container.flightPath();
+    std::optional<TimeSpan> graph = TimeSpan{path[path.size() / 4].time, path[path.size() / 2].time};
+    window.dialog->followSpan([&] { return graph; });
+    QSignalSpy shown(&window.map(), &WidgetMap::signalShown);
+    window.load();
+    window.settle();
+    QTRY_COMPARE(shown.size(), 1);
+    graph = TimeSpan{-1e9, 1e9}; // the whole of it is no part
+    QTRY_COMPARE(shown.size(), 2);
+    QVERIFY(!qvariant_cast<std::optional<TimeSpan>>(shown.back()[0]));
+    // A rectangle around a place of the path shows the time there; a click on the altitude picks its time.
+    double x = 0, y = 0;
+    const FlightPathPoint& place = path[path.size() / 3];
+    window.map().latLong2Window(place.latitude, place.longitude, &x, &y);
+    const QPoint middle(static_cast<int>(x), static_cast<int>(y));
+    window.dialog->setTime(place.time);
+    QSignalSpy moments(window.dialog.get(), &DialogDataMap::signalMoment);
+    QTest::mousePress(&window.map(), Qt::LeftButton, Qt::ShiftModifier, middle - QPoint(15, 15));
+    QTest::mouseMove(&window.map(), middle + QPoint(5, 5));
+    QTest::mouseRelease(&window.map(), Qt::LeftButton, Qt::ShiftModifier, middle + QPoint(15, 15));
+    QCOMPARE(moments.size(), 1);
+    const auto moment = qvariant_cast<GraphMoment>(moments[0][0]);
+    QVERIFY(moment.span.holds(place.time) && moment.span.end - moment.span.start < 0.5 * (path.back().time - path.front().time));
+    QVERIFY(std::fabs(moment.time - place.time) < 0.1);
+    auto* pProfile = window.dialog->findChild<MapProfile*>();
+    QVERIFY(pProfile->isVisible());
+    QSignalSpy picked(window.dialog.get(), &DialogDataMap::signalTime);
+    QTest::mouseClick(pProfile, Qt::LeftButton, {}, {pProfile->width() / 4, 5});
+    const double expected = path.front().time + 0.25 * (path.back().time - path.front().time);
+    QVERIFY(picked.size() == 1 && std::fabs(picked[0][0].toDouble() - expected) < 0.01 * (path.back().time - path.front().time));
 }
 
 int main(int argc, char** argv)
 {
+    const QTemporaryDir cache;
+    qputenv("XDG_CACHE_HOME", cache.path().toUtf8());
     QSurfaceFormat::setDefaultFormat(GraphicsCheck::surfaceFormat());
     QApplication application(argc, argv);
     TestDialogDataMap test;

@@ -5,6 +5,7 @@
 #include "ui/map/model/MapNavigator.h"
 #include "ui/map/model/Graticule.h"
 #include "ui/map/model/MapScene.h"
+#include "ui/map/model/PointerText.h"
 #include "ui/map/model/TileConsent.h"
 
 #include <QLineF>
@@ -71,6 +72,9 @@ private Q_SLOTS:
     void fits_data();
     void fits();
     void damagedPath();
+    void wrongFixes_data();
+    void wrongFixes();
+    void colouredPath();
     void timeOfAPlace();
     void longPathIsBounded();
     void simplifiedPath();
@@ -153,10 +157,71 @@ void TestMapModel::damagedPath()
     scene.drawGround(canvas, view.navigator.camera());
     scene.drawAbove(canvas, view.navigator.camera());
     for (const auto& strip : scene.geometry().strips()) {
-        for (const QPointF& point : strip)
+        for (const QPointF& point : strip.points)
             QVERIFY(std::fabs(point.x() + scene.geometry().offset().x()) < 2000 &&
                     std::fabs(point.y() + scene.geometry().offset().y()) < 2000);
     }
+}
+
+void TestMapModel::wrongFixes_data()
+{
+    QTest::addColumn<QList<double>>("latitudes"); // of points every half second
+    QTest::addColumn<int>("wrong");
+    QTest::addColumn<int>("left");
+    QTest::newRow("a way") << QList<double>{48, 48.001, 48.002, 48.003} << 0 << 4;
+    QTest::newRow("alone") << QList<double>{48, 48.001, 48.5, 48.001, 48.002} << 1 << 4;
+    QTest::newRow("with points of the grid on the way") << QList<double>{48, 48.001, 48.06, 48.12, 48.06, 48.001, 48.002} << 1 << 4;
+    QTest::newRow("not far enough") << QList<double>{48, 48.05, 48, 48.001} << 0 << 4;
+    QTest::newRow("does not come back") << QList<double>{48, 48.5, 48.501, 48.502} << 0 << 4;
+    QTest::newRow("the first one") << QList<double>{47, 48, 48.001} << 0 << 3;
+    QTest::newRow("on the equator") << QList<double>{0.002, 89, 0.002} << 1 << 2;
+}
+
+void TestMapModel::wrongFixes()
+{
+    QFETCH(QList<double>, latitudes);
+    std::vector<FlightPathPoint> points;
+    for (const double latitude : latitudes)
+        points.push_back(at(0.5 * static_cast<double>(points.size()), latitude, 11.0));
+    const MapPath flight = path(points);
+    QTEST(static_cast<int>(flight.wrongFixes().size()), "wrong");
+    QTEST(static_cast<int>(flight.points().size()), "left");
+}
+
+void TestMapModel::colouredPath()
+{
+    std::vector<FlightPathPoint> points;
+    for (int i = 0; i <= 1000; ++i) {
+        points.push_back(at(i, 48.15 + i * 1e-4, 10.9 + i * 1e-4));
+        points.back().altitude = i;
+    }
+    MapScene scene;
+    scene.path().setPoints(points);
+    const DecodingContext context;
+    const PathTinter tinter(scene.path().points(), context, Palette::light().map);
+    const PathTint altitude = tinter.tint(PathColouring::of("altitude"), nullptr, {});
+    QVERIFY(altitude.isScale && altitude.low == 0.0 && altitude.high == 1000.0);
+    QVERIFY(altitude.steps.front() == 0 && altitude.steps.back() == PathTint::kSteps - 1 && altitude.steps[500] == PathTint::kSteps / 2);
+    const PathTint phases = tinter.tint({PathColouring::ePhase, {}}, nullptr,
+                                        {{-1, 300, EFlightPhase::eGround}, {300, 700, EFlightPhase::eClimb}});
+    QVERIFY(phases.entries.size() == 2 && phases.steps.back() == PathTint::kUnknown);
+    scene.setCourse({}, {{100, 200}});
+    scene.setTint(phases);
+    scene.setShown(TimeSpan{50, 900});
+    const View view;
+    scene.update(view.navigator.camera());
+    const auto& strips = scene.geometry().strips();
+    QCOMPARE(strips.size(), std::size_t(5)); // ground, the gap, ground, climb, unknown
+    QVERIFY(!strips[0].isDashed && strips[1].isDashed && !strips[2].isDashed && strips[3].colours.front() == strips[3].colours.back());
+    QVERIFY(strips[2].points.back() == strips[3].points.front() && strips[2].colours.back() != strips[3].colours.front());
+    for (const auto& arrow : scene.geometry().arrows())
+        QVERIFY(arrow.way.x() > 0 && arrow.way.y() < 0); // to the north-east
+    scene.setTint(altitude);
+    scene.update(view.navigator.camera());
+    QVERIFY(scene.geometry().strips().size() == 3 && scene.geometry().vertexCount() > 20 && scene.geometry().vertexCount() < 200);
+    QVERIFY(PathColouring::of("=EGT 1").parameter == "EGT 1" && PathColouring::of(PathColouring::of("=EGT 1").key()).by == PathColouring::eParameter);
+    QCOMPARE(PointerText::at({48.5, 11.25}, &points.front()).section("   ", 0, 0), QString::fromUtf8("48\u00b030.00'N 11\u00b015.00'E"));
+    QVERIFY(std::fabs(PointerText::bearing({0, 179}, {0, -179}) - 90.0) < 1e-9 && PointerText::bearing({10, 5}, {0, 5}) == 180.0);
 }
 
 void TestMapModel::timeOfAPlace()
@@ -213,7 +278,7 @@ void TestMapModel::simplifiedPath()
     geometry.update(flight, view.navigator.camera());
     QCOMPARE(geometry.strips().size(), std::size_t(1));
     QVERIFY2(geometry.vertexCount() < 400, qPrintable(QString::number(geometry.vertexCount())));
-    const PathGeometry::Strip& strip = geometry.strips().front();
+    const std::vector<QPointF>& strip = geometry.strips().front().points;
     std::size_t stretch = 1; // points and stretches come in the same order
     for (const FlightPathPoint& point : points) {
         const OpenStreet::WindowPoint seen = view.navigator.camera().geoToWindow({point.latitude, point.longitude});

@@ -4,6 +4,7 @@
 #include "card/CycleNote.h"
 #include "project/DisplayLayout.h"
 
+#include <functional>
 #include <optional>
 #include <set>
 #include <string>
@@ -75,6 +76,8 @@ public:
     [[nodiscard]] virtual bool hasLeft(double /*time*/) const { return false; }
     /// The part of the record that the user marked, where a view has one.
     [[nodiscard]] virtual std::optional<TimeSpan> markedSpan() const { return {}; }
+    /// Takes whom to ask for the part of the record that another view shows, for a view that tells it apart.
+    virtual void followSpan(std::function<std::optional<TimeSpan>()> /*span*/) {}
     /// Shows that part of the record, and the parameters of these names whether they are ticked or not.
     virtual void showSpan(const TimeSpan& /*span*/, const std::set<std::string>& /*parameters*/) {}
     /// Marks these parts of the record, in order of time, for a view that can.

@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace ZARN {
 
@@ -22,6 +23,7 @@ constexpr double kClickRadius = 12.0; // pixels around the path in which a click
 constexpr double kWheelFactor = 0.75; // of the range, for a notch of the wheel
 constexpr double kKeyFactor = 0.7;
 constexpr double kTurn = 5.0; // degrees a key press
+constexpr double kOnePassage = 10.0; // seconds outside of a rectangle that do not end a passage through it
 
 OpenStreet::WindowPoint windowPoint(const QPointF& point)
 {
@@ -38,7 +40,7 @@ double amount(Qt::KeyboardModifiers modifiers)
 
 } // namespace
 
-MapInteraction::MapInteraction(MapNavigator& navigator, const MapScene& scene) : mNavigator(navigator), mScene(scene)
+MapInteraction::MapInteraction(MapNavigator& navigator, MapScene& scene) : mNavigator(navigator), mScene(scene)
 {
     mClick.setSingleShot(true);
     mClick.setInterval(QGuiApplication::styleHints()->mouseDoubleClickInterval());
@@ -85,14 +87,44 @@ bool MapInteraction::keyPressed(const QKeyEvent& event)
 
 void MapInteraction::pressed(const QMouseEvent& event)
 {
-    mDragFrom = event.position();
     mWasDragged = false;
+    if (event.modifiers() & Qt::ShiftModifier)
+        mSelectFrom = event.position();
+    else
+        mDragFrom = event.position();
+}
+
+void MapInteraction::select(const QPointF& place)
+{
+    mScene.setSelection(QRectF(*mSelectFrom, place).normalized());
+    Q_EMIT signalPointer();
+}
+
+/// Of several passages through the rectangle the one at the view time is meant, else the longest.
+void MapInteraction::finishSelection(const QPointF& place)
+{
+    const QRectF area = QRectF(*std::exchange(mSelectFrom, std::nullopt), place).normalized();
+    mScene.setSelection(std::nullopt);
+    Q_EMIT signalPointer();
+    if (std::max(area.width(), area.height()) < kDragStart)
+        return pickTime(place);
+    const std::vector<TimeSpan> passages = mScene.path().timesIn(mNavigator.camera(), area, kOnePassage);
+    const double now = mScene.aircraft().time;
+    auto chosen = std::ranges::find_if(passages, [now](const TimeSpan& span) { return span.holds(now); });
+    if (chosen == passages.end())
+        chosen = std::ranges::max_element(passages, {}, [](const TimeSpan& span) { return span.end - span.start; });
+    if (chosen != passages.end())
+        Q_EMIT signalMoment(GraphMoment::of(*chosen, {}, chosen->holds(now) ? now : chosen->start));
 }
 
 void MapInteraction::moved(const QMouseEvent& event)
 {
     const QPointF place = event.position();
     mNavigator.setPointer(windowPoint(place));
+    if (mScene.setPointer(place))
+        Q_EMIT signalPointer();
+    if (mSelectFrom)
+        return select(place);
     if (!mDragFrom || !(event.buttons() & Qt::LeftButton))
         return;
     const QPointF step = place - *mDragFrom;
@@ -120,6 +152,8 @@ void MapInteraction::stopFollowing()
 
 void MapInteraction::released(const QMouseEvent& event)
 {
+    if (mSelectFrom)
+        return finishSelection(event.position());
     const bool isClick = mDragFrom && !mWasDragged;
     mDragFrom.reset();
     if (isClick)
@@ -136,8 +170,15 @@ std::vector<const MapEvent*> MapInteraction::eventsAt(const QPointF& place) cons
     return mScene.events().near(mScene.path(), mNavigator.camera(), windowPoint(place), mScene.aircraft().time);
 }
 
+const CycleCourse::Mark* MapInteraction::incidentAt(const QPointF& place) const
+{
+    return mScene.marks().incidentAt(mScene.path(), mNavigator.camera(), place);
+}
+
 QString MapInteraction::textAt(const QPointF& place) const
 {
+    if (const CycleCourse::Mark* pIncident = incidentAt(place))
+        return CardContainer::time(pIncident->span.start) + QLatin1String("  ") + pIncident->title;
     const QString text = MapEvents::text(eventsAt(place));
     const std::optional<double> time = text.isEmpty() ? timeAt(place) : std::nullopt;
     return time ? CardContainer::time(*time) : text;
@@ -145,6 +186,8 @@ QString MapInteraction::textAt(const QPointF& place) const
 
 std::optional<GraphMoment> MapInteraction::momentAt(const QPointF& place) const
 {
+    if (const CycleCourse::Mark* pIncident = incidentAt(place))
+        return pIncident->moment;
     if (const auto events = eventsAt(place); !events.empty())
         return GraphMoment::around(events.front()->time, {events.front()->parameter});
     const std::optional<double> time = timeAt(place);
@@ -155,7 +198,9 @@ std::optional<GraphMoment> MapInteraction::momentAt(const QPointF& place) const
 void MapInteraction::pickTime(const QPointF& place)
 {
     const auto events = eventsAt(place);
-    const std::optional<double> time = events.empty() ? timeAt(place) : events.front()->time;
+    std::optional<double> time = events.empty() ? timeAt(place) : events.front()->time;
+    if (const CycleCourse::Mark* pIncident = incidentAt(place))
+        time = pIncident->moment.time;
     if (!time)
         return;
     mClickTime = *time;
@@ -166,6 +211,8 @@ void MapInteraction::doubleClicked(const QMouseEvent& event)
 {
     mDragFrom.reset();
     mClick.stop();
+    if (const CycleCourse::Mark* pIncident = incidentAt(event.position()))
+        return Q_EMIT signalMoment(pIncident->moment);
     if (!eventsAt(event.position()).empty())
         return Q_EMIT signalMoment(*momentAt(event.position()));
     mNavigator.setPointer(windowPoint(event.position()));
@@ -186,6 +233,8 @@ void MapInteraction::left()
 {
     const OpenStreet::Camera& camera = mNavigator.camera();
     mNavigator.setPointer({0.5 * camera.width(), 0.5 * camera.height()});
+    if (mScene.setPointer(std::nullopt))
+        Q_EMIT signalPointer();
 }
 
 void MapInteraction::touched(const QTouchEvent& event)

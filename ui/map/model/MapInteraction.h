@@ -17,13 +17,13 @@ class QWheelEvent;
 
 namespace ZARN {
 
-/// Turns what the user does on the map with keys, pointer, wheel and fingers into moves of the view, and clicks into times of the path.
-/// Knows no widget.
+/// Turns what the user does on the map with keys, pointer, wheel and fingers into moves of the view, clicks into times of the path, and
+/// rectangles drawn with Shift held into stretches of it. Knows no widget.
 class MapInteraction : public QObject {
     Q_OBJECT
 
 public:
-    MapInteraction(MapNavigator& navigator, const MapScene& scene);
+    MapInteraction(MapNavigator& navigator, MapScene& scene);
 
     /// @return whether the key means something here.
     bool keyPressed(const QKeyEvent& event);
@@ -47,11 +47,13 @@ public:
 Q_SIGNALS:
     /// The view has been moved, or is about to.
     void signalMoved();
+    /// What is told of the place under the pointer, or the rectangle that is drawn, is another one.
+    void signalPointer();
     /// The user's moves have switched the following of the aircraft off.
     void signalUpdateMode();
     /// The user picked a place of the path; its time in seconds.
     void signalTime(double time);
-    /// The user wants to see an event in the graph.
+    /// The user wants to see an event, or what was in a rectangle, in the graph.
     void signalMoment(const GraphMoment& moment);
 
 private:
@@ -67,14 +69,18 @@ private:
     void pinch(const Touch& before, const Touch& now);
     void zoomTo(const QPointF& pointer, double range);
     [[nodiscard]] std::optional<double> timeAt(const QPointF& place) const;
+    [[nodiscard]] const CycleCourse::Mark* incidentAt(const QPointF& place) const;
     [[nodiscard]] std::vector<const MapEvent*> eventsAt(const QPointF& place) const;
     void pickTime(const QPointF& place);
+    void select(const QPointF& place);
+    void finishSelection(const QPointF& place);
 
     MapNavigator& mNavigator;
-    const MapScene& mScene;
+    MapScene& mScene;
     QTimer mClick; // runs while a click may become a double click
     double mClickTime = 0.0;
     std::optional<QPointF> mDragFrom;
+    std::optional<QPointF> mSelectFrom;
     bool mWasDragged = false;
     std::optional<Touch> mTouch;
 };

@@ -1,5 +1,7 @@
 #include "ui/map/model/MapPath.h"
 
+#include "ui/map/model/WrongFixes.h"
+
 #include <algorithm>
 #include <cmath>
 #include <numbers>
@@ -11,6 +13,7 @@ namespace {
 
 constexpr double kMetresPerDegree = 60.0 * 1852.0;
 constexpr double kMargin = 1.2;
+constexpr double kMissing = 5.0;  // seconds between two points behind which points are missing
 constexpr double kOneLine = 3.0; // pixels by which lines may lie apart that nobody can point at one by one
 
 const OpenStreet::Projection& mercator()
@@ -60,16 +63,54 @@ bool MapPath::setPoints(std::span<const FlightPathPoint> points)
 {
     const std::vector<FlightPathPoint> before = std::exchange(mPoints, {});
     std::copy_if(points.begin(), points.end(), std::back_inserter(mPoints), isPlace);
+    const std::vector<FlightPathPoint> wrong = WrongFixes::takeFrom(mPoints);
     if (std::equal(before.begin(), before.end(), mPoints.begin(), mPoints.end(), isSamePlace))
         return false;
-    ++mGeneration;
-    placePoints();
+    placePoints(wrong);
+    setGaps({});
     return true;
 }
 
-void MapPath::placePoints()
+void MapPath::setGaps(const std::vector<TimeSpan>& gaps)
+{
+    ++mGeneration;
+    mGaps.assign(mPoints.size(), 0);
+    auto gap = gaps.begin();
+    for (std::size_t i = 1; i < mPoints.size(); ++i) {
+        const double middle = 0.5 * (mPoints[i - 1].time + mPoints[i].time);
+        while (gap != gaps.end() && gap->end < middle)
+            ++gap;
+        mGaps[i] = mPoints[i].time - mPoints[i - 1].time > kMissing || (gap != gaps.end() && gap->start < middle);
+    }
+}
+
+std::pair<std::size_t, std::size_t> MapPath::within(const TimeSpan& span) const
+{
+    const auto first = std::ranges::lower_bound(mPoints, span.start, {}, &FlightPathPoint::time);
+    const auto last = std::ranges::upper_bound(mPoints, span.end, {}, &FlightPathPoint::time);
+    const auto place = [this](auto iterator) { return static_cast<std::size_t>(iterator - mPoints.begin()); };
+    return {place(first), std::max(place(first), place(last))};
+}
+
+std::vector<TimeSpan> MapPath::timesIn(const OpenStreet::Camera& camera, const QRectF& area, double interruption) const
+{
+    const OpenStreet::WindowPoint start = windowOrigin(camera, mOrigin);
+    std::vector<TimeSpan> result;
+    for (std::size_t i = 0; i < mWorld.size(); ++i) {
+        const OpenStreet::WindowPoint at = camera.worldToWindowVector(mWorld[i]);
+        if (!area.contains(QPointF(start.x + at.x, start.y + at.y)))
+            continue;
+        if (result.empty() || mPoints[i].time - result.back().end > interruption)
+            result.push_back({mPoints[i].time, mPoints[i].time});
+        result.back().end = mPoints[i].time;
+    }
+    return result;
+}
+
+void MapPath::placePoints(const std::vector<FlightPathPoint>& wrong)
 {
     mWorld.clear();
+    mWrong.clear();
     if (mPoints.empty())
         return;
     mOrigin = mercator().toWorld({mPoints.front().latitude, mPoints.front().longitude});
@@ -80,6 +121,10 @@ void MapPath::placePoints()
         const double x = before + std::remainder(place.x - mOrigin.x - before, OpenStreet::Projection::kWorldWidth);
         mWorld.push_back({x, place.y - mOrigin.y});
         before = x;
+    }
+    for (const FlightPathPoint& point : wrong) {
+        const OpenStreet::WorldPoint place = mercator().toWorld({point.latitude, point.longitude});
+        mWrong.push_back({std::remainder(place.x - mOrigin.x, OpenStreet::Projection::kWorldWidth), place.y - mOrigin.y});
     }
 }
 

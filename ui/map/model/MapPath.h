@@ -1,12 +1,15 @@
 #pragma once
 
+#include "analysis/TimeSpan.h"
 #include "card/FlightPath.h"
 #include "openstreet/core/Camera.h"
 
 #include <QPointF>
+#include <QRectF>
 
 #include <optional>
 #include <span>
+#include <utility>
 #include <vector>
 
 namespace ZARN {
@@ -21,15 +24,26 @@ struct MapFit {
 /// The flight path as the map has it: its points, where they lie on the flat map, and what is found on it.
 class MapPath {
 public:
-    /// Takes the points over, in ascending time. Those whose place is no number are left out. @return whether their places are other ones
+    /// Takes the points over, in ascending time. Those whose place is no number are left out, and so are isolated wrong fixes. @return whether
+    /// their places are other ones
     bool setPoints(std::span<const FlightPathPoint> points);
+    /// The times, in order, in which nothing was received: what the path shows of them is made up.
+    void setGaps(const std::vector<TimeSpan>& gaps);
 
     [[nodiscard]] const std::vector<FlightPathPoint>& points() const { return mPoints; }
+    /// Whether the way from the point before to that one was not received.
+    [[nodiscard]] bool isGap(std::size_t point) const { return mGaps[point] != 0; }
+    /// Where isolated wrong fixes were, relative to the first point.
+    [[nodiscard]] const std::vector<OpenStreet::WorldPoint>& wrongFixes() const { return mWrong; }
+    /// The points whose time lies in a span: the first one, and the one behind the last.
+    [[nodiscard]] std::pair<std::size_t, std::size_t> within(const TimeSpan& span) const;
+    /// The passages through a rectangle of the window, in order of time; such as are interrupted for less than that many seconds are one.
+    [[nodiscard]] std::vector<TimeSpan> timesIn(const OpenStreet::Camera& camera, const QRectF& area, double interruption) const;
     [[nodiscard]] bool isEmpty() const { return mPoints.empty(); }
     /// Where the points lie, relative to the first one, in the same order. A path across the date line goes on beyond it.
     [[nodiscard]] const std::vector<OpenStreet::WorldPoint>& world() const { return mWorld; }
     [[nodiscard]] const OpenStreet::WorldPoint& origin() const { return mOrigin; }
-    /// Changes with every path of other places.
+    /// Changes with every path of other places or gaps.
     [[nodiscard]] int generation() const { return mGeneration; }
 
     /// The middle of the path, and the width that shows all of it in a window of that size, with a margin.
@@ -53,10 +67,12 @@ private:
     [[nodiscard]] std::vector<Passage> passages(const OpenStreet::Camera& camera, const OpenStreet::WindowPoint& point,
                                                 double pixels) const;
 
-    void placePoints();
+    void placePoints(const std::vector<FlightPathPoint>& wrong);
 
     std::vector<FlightPathPoint> mPoints;
     std::vector<OpenStreet::WorldPoint> mWorld;
+    std::vector<OpenStreet::WorldPoint> mWrong;
+    std::vector<char> mGaps; // for each point, whether one is before it
     OpenStreet::WorldPoint mOrigin;
     int mGeneration = 0;
 };

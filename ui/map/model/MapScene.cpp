@@ -3,6 +3,8 @@
 #include "app/Numeric.h"
 #include "ui/canvas/Triangulation.h"
 #include "ui/map/model/Graticule.h"
+#include "ui/map/model/PathLegend.h"
+#include "ui/map/model/PointerText.h"
 
 #include <QTransform>
 
@@ -24,6 +26,9 @@ constexpr double kMetresPerFoot = 0.3048;
 constexpr int kCorners = 12; // of a dot
 constexpr std::size_t kMostDots = 4000;
 constexpr double kTextAboveBar = 7.0;
+constexpr double kDash = 6.0;  // pixels, of a way on which nothing was received
+constexpr double kRim = 2.0;   // pixels by which a path of several colours is wider below them
+constexpr double kArrow = 5.0; // pixels from the middle of a mark of the direction to its point
 constexpr int kDotCell = 2; // pixels: dots that lie closer together are one
 
 void addDisc(std::vector<QPointF>& triangles, std::span<const QPointF> shape, const QPointF& middle)
@@ -92,21 +97,59 @@ bool MapScene::setNote(const QString& note)
     return std::exchange(mNote, note) != note;
 }
 
+void MapScene::setCourse(const CycleCourse& course, const std::vector<TimeSpan>& gaps)
+{
+    mPath.setGaps(gaps);
+    mWhole.setGaps(gaps);
+    mMarks.set(course, mPath);
+}
+
+void MapScene::setTint(PathTint tint)
+{
+    mTint = std::move(tint);
+    ++mTintGeneration;
+}
+
+bool MapScene::setShown(const std::optional<TimeSpan>& span)
+{
+    return std::exchange(mShown, span) != span;
+}
+
+void MapScene::update(const OpenStreet::Camera& camera)
+{
+    const std::size_t all = mPath.points().size();
+    const auto [first, last] = mShown ? mPath.within(*mShown) : std::pair(std::size_t(0), all);
+    mGeometry.update(mPath, camera, {first, last, mTint.isPlain() ? nullptr : &mTint, mTintGeneration});
+    const bool isPart = first > 0 || last < all;
+    const MapPath& rest = mWhole.isEmpty() ? mPath : mWhole;
+    mRest.update(rest, camera, {0, isPart || !mWhole.isEmpty() ? rest.points().size() : 0});
+    if (mIsPlain)
+        mPlaces.update(camera, mStyle);
+}
+
 void MapScene::drawGround(Canvas& canvas, const OpenStreet::Camera& camera) const
 {
     const CanvasText style{mStyle.textSize, mStyle.colours.gridText, false, Qt::AlignLeft | Qt::AlignBottom};
-    if (mHasGraticule) // the labels keep clear of the scale bar
+    if (mIsPlain) // the labels keep clear of the scale bar
         Graticule(camera, mStyle.gridSpacing)
             .draw(canvas, {mStyle.colours.grid, mStyle.gridWidth}, style,
                   camera.height() - std::ceil(kMargin + kTextAboveBar + labelHeight()));
+    if (mIsPlain)
+        mPlaces.draw(canvas, camera, mStyle);
+    drawRest(canvas);
     drawPath(canvas);
+    drawWrongFixes(canvas, camera);
     drawEvents(canvas, camera);
+    mMarks.draw(canvas, camera, mPath, mStyle);
 }
 
 void MapScene::drawAbove(Canvas& canvas, const OpenStreet::Camera& camera) const
 {
     drawAircraft(canvas, camera);
     drawScaleBar(canvas, camera);
+    if (!mPath.isEmpty())
+        PathLegend(mTint, mStyle).draw(canvas, QPointF(camera.width() - kMargin, kMargin));
+    drawSelection(canvas);
     if (mMessage.isEmpty())
         return;
     const double width = canvas.textSize(mMessage, {kMessageSize}).width(), room = camera.width() - 2.0 * kMargin;
@@ -117,9 +160,64 @@ void MapScene::drawPath(Canvas& canvas) const
 {
     canvas.push();
     canvas.translate(mGeometry.offset().x(), mGeometry.offset().y());
-    for (const PathGeometry::Strip& strip : mGeometry.strips())
-        canvas.lineStrip(strip, {mStyle.colours.path, mStyle.pathWidth, true});
+    for (const PathGeometry::Strip& strip : mGeometry.strips()) {
+        const double dash = strip.isDashed ? kDash : 0.0;
+        if (strip.colours.empty()) {
+            canvas.lineStrip(strip.points, {mStyle.colours.path, mStyle.pathWidth, true, dash});
+            continue;
+        }
+        canvas.lineStrip(strip.points, {mStyle.colours.pathRim, mStyle.pathWidth + kRim, true, dash});
+        canvas.lineStrip(strip.points, strip.colours, {mStyle.colours.path, mStyle.pathWidth, true, dash});
+    }
+    drawArrows(canvas);
     canvas.pop();
+}
+
+void MapScene::drawRest(Canvas& canvas) const
+{
+    canvas.push();
+    canvas.translate(mRest.offset().x(), mRest.offset().y());
+    for (const PathGeometry::Strip& strip : mRest.strips())
+        canvas.lineStrip(strip.points, {mStyle.colours.pathDim, 0.7 * mStyle.pathWidth, true, strip.isDashed ? kDash : 0.0});
+    canvas.pop();
+}
+
+void MapScene::drawArrows(Canvas& canvas) const
+{
+    std::vector<QPointF> outer, inner;
+    const auto add = [](std::vector<QPointF>& triangles, const PathGeometry::Arrow& arrow, double size) {
+        const QPointF along = arrow.way * size, across = QPointF(-arrow.way.y(), arrow.way.x()) * (0.8 * size);
+        triangles.insert(triangles.end(), {arrow.place + along, arrow.place - along + across, arrow.place - along - across});
+    };
+    for (const PathGeometry::Arrow& arrow : mGeometry.arrows()) {
+        add(outer, arrow, kArrow + 2.5);
+        add(inner, arrow, kArrow);
+    }
+    canvas.triangles(outer, mStyle.colours.markRim);
+    canvas.triangles(inner, mTint.isPlain() ? mStyle.colours.path : mStyle.colours.pathRim);
+}
+
+void MapScene::drawWrongFixes(Canvas& canvas, const OpenStreet::Camera& camera) const
+{
+    const OpenStreet::WindowPoint start = windowOrigin(camera, mPath.origin());
+    const std::vector<QPointF> dot = circle(2.5, kCorners);
+    std::vector<QPointF> triangles;
+    for (const OpenStreet::WorldPoint& fix : mPath.wrongFixes()) {
+        const OpenStreet::WindowPoint at = camera.worldToWindowVector(fix);
+        if (triangles.size() < 3 * kCorners * kMostDots)
+            addDisc(triangles, dot, {start.x + at.x, start.y + at.y});
+    }
+    canvas.triangles(triangles, mStyle.colours.wrongFix);
+}
+
+void MapScene::drawSelection(Canvas& canvas) const
+{
+    if (!mSelection)
+        return;
+    QColor ground = mStyle.colours.selection;
+    ground.setAlpha(40);
+    canvas.fillRect(*mSelection, ground);
+    canvas.outline(*mSelection, {mStyle.colours.selection, 1.0});
 }
 
 void MapScene::drawEvents(Canvas& canvas, const OpenStreet::Camera& camera) const
@@ -175,17 +273,24 @@ void MapScene::drawScaleBar(Canvas& canvas, const OpenStreet::Camera& camera) co
     canvas.fillRect({kMargin, bottom - 2.0, bar.pixels, 2.0}, mStyle.colours.text);
     canvas.fillRect({kMargin, bottom - 5.0, 2.0, 5.0}, mStyle.colours.text);
     canvas.fillRect({right - 2.0, bottom - 5.0, 2.0, 5.0}, mStyle.colours.text);
-    drawNote(canvas, camera, std::min(bottom - kTextAboveBar - labelHeight() - 6.0, camera.height() - mCorner.height() - 2.0 * kMargin));
+    double above = std::min(bottom - kTextAboveBar - labelHeight() - 6.0, camera.height() - mCorner.height() - 2.0 * kMargin);
+    if (mPointer) {
+        const QString text = PointerText::at(camera.windowToGeo({mPointer->x(), mPointer->y()}), mPath.isEmpty() ? nullptr : &mAircraft);
+        drawLines(canvas, camera, text, above);
+    }
+    drawLines(canvas, camera, mNote, above);
 }
 
-void MapScene::drawNote(Canvas& canvas, const OpenStreet::Camera& camera, double bottom) const
+/// Lines at the left edge that end at a height, from which on there is no room any more.
+void MapScene::drawLines(Canvas& canvas, const OpenStreet::Camera& camera, const QString& text, double& bottom) const
 {
-    if (mNote.isEmpty())
+    if (text.isEmpty())
         return;
     // Characters are all of one width.
     const double characters = (camera.width() - 2.0 * kMargin) / canvas.textSize(QStringLiteral("x"), {.size = mStyle.textSize}).width();
-    const QStringList lines = inLines(mNote, std::max<qsizetype>(saturatingCast<int>(characters), 1));
+    const QStringList lines = inLines(text, std::max<qsizetype>(saturatingCast<int>(characters), 1));
     double y = bottom - labelHeight() * static_cast<double>(lines.size() - 1);
+    bottom = y - labelHeight() - 4.0;
     for (const QString& line : lines) {
         drawLabel(canvas, {kMargin, y}, line, Qt::AlignLeft | Qt::AlignBottom, mStyle.textSize);
         y += labelHeight();

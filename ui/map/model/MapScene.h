@@ -2,8 +2,10 @@
 
 #include "ui/canvas/Canvas.h"
 #include "ui/map/model/MapEvents.h"
+#include "ui/map/model/MapMarks.h"
 #include "ui/map/model/MapStyle.h"
 #include "ui/map/model/PathGeometry.h"
+#include "ui/map/model/PlaceLabels.h"
 
 namespace ZARN {
 
@@ -28,13 +30,28 @@ public:
     [[nodiscard]] MapEvents& events() { return mEvents; }
     [[nodiscard]] const MapEvents& events() const { return mEvents; }
     [[nodiscard]] const PathGeometry& geometry() const { return mGeometry; }
+    [[nodiscard]] const MapMarks& marks() const { return mMarks; }
+    [[nodiscard]] PlaceLabels& places() { return mPlaces; }
+    [[nodiscard]] const PlaceLabels& places() const { return mPlaces; }
+    /// The path of the whole cycle, of which path() is a part; shown dim. Empty where path() is all.
+    void setWholePath(std::span<const FlightPathPoint> points) { mWhole.setPoints(points); }
+    /// What is known of the cycle: marks, and where nothing was received.
+    void setCourse(const CycleCourse& course, const std::vector<TimeSpan>& gaps);
+    /// Colours for the points of path(), in its order.
+    void setTint(PathTint tint);
+    /// The part of the path that is shown bright; none for all of it. @return whether it is another one
+    bool setShown(const std::optional<TimeSpan>& span);
+    /// The place of the window that is pointed at. @return whether anything else is told of it
+    bool setPointer(const std::optional<QPointF>& place) { return std::exchange(mPointer, place) != place; }
+    /// A rectangle that is being drawn; none for none.
+    void setSelection(const std::optional<QRectF>& area) { mSelection = area; }
     void setAircraft(const FlightPathPoint& point) { mAircraft = point; }
     [[nodiscard]] const FlightPathPoint& aircraft() const { return mAircraft; }
     /// The size of labels in pixels.
     void setTextSize(double size) { mStyle.textSize = size; }
     void setImperial(bool on) { mIsImperial = on; }
-    /// Lines of latitude and longitude, for a map that shows little else.
-    void setGraticule(bool on) { mHasGraticule = on; }
+    /// Lines of latitude and longitude and the names of places, for a map that shows little else.
+    void setPlain(bool on) { mIsPlain = on; }
     /// Words for people above the scale bar, for example that the server does not answer; empty for none. @return whether it is another one.
     bool setNote(const QString& note);
     /// A word in the middle about what cannot be shown; empty for none.
@@ -43,7 +60,7 @@ public:
     void setCorner(const QSizeF& size) { mCorner = size; }
 
     /// Makes what is drawn for a camera.
-    void update(const OpenStreet::Camera& camera) { mGeometry.update(mPath, camera); }
+    void update(const OpenStreet::Camera& camera);
     /// What changes with the view only: path and events.
     void drawGround(Canvas& canvas, const OpenStreet::Camera& camera) const;
     /// What moves above it, and what stands in the window's corners.
@@ -54,9 +71,13 @@ public:
 
 private:
     void drawPath(Canvas& canvas) const;
+    void drawRest(Canvas& canvas) const;
+    void drawArrows(Canvas& canvas) const;
+    void drawWrongFixes(Canvas& canvas, const OpenStreet::Camera& camera) const;
+    void drawSelection(Canvas& canvas) const;
     void drawEvents(Canvas& canvas, const OpenStreet::Camera& camera) const;
     void drawAircraft(Canvas& canvas, const OpenStreet::Camera& camera) const;
-    void drawNote(Canvas& canvas, const OpenStreet::Camera& camera, double bottom) const;
+    void drawLines(Canvas& canvas, const OpenStreet::Camera& camera, const QString& text, double& bottom) const;
     [[nodiscard]] double labelHeight() const { return 1.35 * mStyle.textSize; }
     void drawLabel(Canvas& canvas, const QPointF& position, const QString& text, Qt::Alignment align, double textSize) const;
 
@@ -64,12 +85,21 @@ private:
     MapPath mPath;
     MapEvents mEvents;
     PathGeometry mGeometry;
+    MapPath mWhole;
+    PathGeometry mRest;
+    PathTint mTint;
+    int mTintGeneration = 0;
+    std::optional<TimeSpan> mShown;
+    MapMarks mMarks;
+    PlaceLabels mPlaces;
+    std::optional<QPointF> mPointer;
+    std::optional<QRectF> mSelection;
     FlightPathPoint mAircraft{};
     QString mNote;
     QString mMessage;
     QSizeF mCorner;
     bool mIsImperial = false;
-    bool mHasGraticule = false;
+    bool mIsPlain = false;
 };
 
 } // namespace ZARN

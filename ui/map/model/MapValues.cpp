@@ -48,7 +48,7 @@ std::vector<MapValue> MapValues::at(double time, bool hasRecord) const
                 continue;
             if (result.size() == kMostRows)
                 return result;
-            MapValue row{QString::fromStdString(parameter.name), {}, {}};
+            MapValue row{QString::fromStdString(parameter.name), {}, {}, {}};
             if (hasRecord)
                 fill(row, parameter, time);
             result.push_back(row);
@@ -66,8 +66,8 @@ void MapValues::fill(MapValue& row, const ProfileParameter& parameter, double ti
     if (!value)
         return;
     row.colour = value->colour;
-    if (const std::string& unit = mSession.profile.context().unitOf(parameter); !unit.empty())
-        row.text += QLatin1String(" [") + QString::fromStdString(unit) + QLatin1Char(']');
+    row.state = value->state;
+    row.unit = QString::fromStdString(mSession.profile.context().unitOf(parameter));
 }
 
 } // namespace ZARN

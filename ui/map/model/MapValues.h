@@ -11,14 +11,17 @@ namespace ZARN {
 
 struct ProfileParameter;
 
-/// A line of the value panel.
+/// A line of the values beside the map.
 struct MapValue {
     QString name;
-    QString text;  ///< as tables show it, with the unit; "-" where nothing was recorded for the time
+    QString text;  ///< as tables show it; "-" where nothing was recorded for the time
+    QString unit;  ///< of what was recorded; empty for none
     QColor colour; ///< of its threshold; invalid when there is none
+    int state = 0; ///< of its threshold: 1 warning, 2 limit
+    friend bool operator==(const MapValue&, const MapValue&) = default;
 };
 
-/// The values that the panel on the map shows: those of the parameters that are shown, in the profile's order.
+/// The values that stand beside the map: those of the parameters that are shown, in the profile's order.
 class MapValues {
 public:
     static constexpr std::size_t kMostRows = 1000;

@@ -1,0 +1,229 @@
+#include "ui/main/MapOptions.h"
+
+#include "app/Property.h"
+#include "app/Settings.h"
+#include "app/gui/WheelGuard.h"
+#include "openstreet/core/LocalTiles.h"
+#include "openstreet/core/TileDisk.h"
+#include "openstreet/core/TileServer.h"
+#include "ui/map/model/TileConsent.h"
+#include "ui/map/model/TileFolder.h"
+
+#include <QCheckBox>
+#include <QDir>
+#include <QFileDialog>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSpinBox>
+
+namespace ZARN {
+
+namespace {
+
+OpenStreet::TileServer tileServer(const Property& property)
+{
+    return OpenStreet::TileServer(Settings::kTileServer.text(property));
+}
+
+QLabel* wrapped()
+{
+    auto* pLabel = new QLabel;
+    pLabel->setTextFormat(Qt::PlainText);
+    pLabel->setWordWrap(true);
+    return pLabel;
+}
+
+QSpinBox* box(const NumberSetting& setting, const QString& suffix)
+{
+    auto* pBox = new QSpinBox;
+    pBox->setRange(setting.least, setting.most);
+    pBox->setSuffix(suffix);
+    pBox->setKeyboardTracking(false);
+    WheelGuard::install(*pBox);
+    return pBox;
+}
+
+} // namespace
+
+MapOptions::MapOptions(const Session& session, QWidget* pParent)
+    : QWidget(pParent), mSession(session), mpTiles(new QCheckBox(tr("Load map tiles from the network"))), mpServerText(wrapped()),
+      mpServer(new QLineEdit), mpAttribution(new QLineEdit), mpOffline(new QCheckBox(tr("Offline: ask no server, show what is kept"))),
+      mpPath(wrapped()), mpZoom(box(Settings::kMapHighestZoom, {})), mpSize(box(Settings::kMapCacheSize, tr(" MiB"))), mpUsed(wrapped())
+{
+    mpTiles->setObjectName("tiles");
+    mpServerText->setObjectName("tileServer");
+    mpServer->setObjectName("tileAddress");
+    mpServer->setPlaceholderText(OpenStreet::TileServer().address());
+    mpAttribution->setObjectName("tileAttribution");
+    mpOffline->setObjectName("tilesOffline");
+    mpPath->setObjectName("tilePath");
+    auto* pLayout = new QVBoxLayout(this);
+    pLayout->setContentsMargins(8, 0, 0, 0);
+    pLayout->addWidget(createNetwork());
+    pLayout->addWidget(createLocal());
+    pLayout->addWidget(createKept());
+    pLayout->addStretch();
+    fill();
+    connectFields();
+}
+
+QWidget* MapOptions::createNetwork()
+{
+    auto* pGroup = new QGroupBox(tr("Map tiles from a server"));
+    auto* pForm = new QFormLayout(pGroup);
+    pForm->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    pForm->addRow(mpTiles);
+    pForm->addRow(mpServerText);
+    pForm->addRow(tr("Server :"), mpServer);
+    pForm->addRow(tr("Made by :"), mpAttribution);
+    pForm->addRow(tr("Highest zoom :"), mpZoom);
+    pForm->addRow(mpOffline);
+    mpAttribution->setToolTip(tr("Shown on the map beside the name of the server"));
+    return pGroup;
+}
+
+QWidget* MapOptions::createLocal()
+{
+    auto* pGroup = new QGroupBox(tr("Map tiles of this computer"));
+    auto* pArchive = new QPushButton(tr("Archive ..."));
+    auto* pFolder = new QPushButton(tr("Folder ..."));
+    auto* pNone = new QPushButton(tr("None"));
+    connect(pArchive, &QPushButton::clicked, this, [this] {
+        setPath(QFileDialog::getOpenFileName(this, tr("Archive of map tiles"), Settings::kMapTilePath.text(mSession.property),
+                                             tr("Map tiles (*.mbtiles);;All files (*.*)"), nullptr, QFileDialog::DontUseNativeDialog));
+    });
+    connect(pFolder, &QPushButton::clicked, this, [this] {
+        setPath(QFileDialog::getExistingDirectory(this, tr("Folder of map tiles"), Settings::kMapTilePath.text(mSession.property),
+                                                  QFileDialog::ShowDirsOnly | QFileDialog::DontUseNativeDialog));
+    });
+    connect(pNone, &QPushButton::clicked, this, [this] {
+        Settings::kMapTilePath.set(mSession.property, QString());
+        keep();
+    });
+    auto* pButtons = new QHBoxLayout;
+    for (QPushButton* pButton : {pArchive, pFolder, pNone})
+        pButtons->addWidget(pButton);
+    pButtons->addStretch();
+    auto* pLayout = new QVBoxLayout(pGroup);
+    pLayout->addWidget(mpPath);
+    pLayout->addLayout(pButtons);
+    return pGroup;
+}
+
+QWidget* MapOptions::createKept()
+{
+    auto* pGroup = new QGroupBox(tr("Map tiles that are kept"));
+    auto* pEmpty = new QPushButton(tr("Remove all"));
+    connect(pEmpty, &QPushButton::clicked, this, &MapOptions::empty);
+    auto* pRow = new QHBoxLayout;
+    pRow->addWidget(mpUsed, 1);
+    pRow->addWidget(pEmpty);
+    auto* pForm = new QFormLayout(pGroup);
+    pForm->addRow(tr("At most :"), mpSize);
+    pForm->addRow(pRow);
+    return pGroup;
+}
+
+void MapOptions::connectFields()
+{
+    connect(mpTiles, &QCheckBox::clicked, this, &MapOptions::slotTiles);
+    const auto keepText = [this](QLineEdit* pLine, const TextSetting& setting) {
+        connect(pLine, &QLineEdit::editingFinished, this, [this, pLine, setting] {
+            if (pLine->text().trimmed() == setting.text(mSession.property))
+                return;
+            setting.set(mSession.property, pLine->text().trimmed());
+            keep();
+        });
+    };
+    keepText(mpServer, Settings::kTileServer);
+    keepText(mpAttribution, Settings::kMapAttribution);
+    connect(mpOffline, &QCheckBox::clicked, this, [this](bool isOn) {
+        Settings::kMapOffline.set(mSession.property, isOn);
+        keep();
+    });
+    for (const auto& [pBox, setting] : {std::pair(mpZoom, Settings::kMapHighestZoom), std::pair(mpSize, Settings::kMapCacheSize)}) {
+        connect(pBox, &QSpinBox::valueChanged, this, [this, setting = setting](int value) {
+            setting.set(mSession.property, value);
+            keep();
+        });
+    }
+}
+
+void MapOptions::fill()
+{
+    const Property& property = mSession.property;
+    const OpenStreet::TileServer server = tileServer(property);
+    mpTiles->setEnabled(server.isValid());
+    mpTiles->setChecked(server.isValid() && TileConsent(mSession.property).answer(server.address()) == TileConsent::eYes);
+    mpServerText->setText(server.isValid() ? tr("Server: %1. It learns which area is looked at.").arg(server.name())
+                                           : tr("The setting \"TileServer\" is no address of map tiles."));
+    mpServer->setText(Settings::kTileServer.text(property));
+    mpAttribution->setText(Settings::kMapAttribution.text(property));
+    mpOffline->setChecked(Settings::kMapOffline.get(property));
+    const QString path = Settings::kMapTilePath.text(property);
+    mpPath->setText(path.isEmpty() ? tr("None: an archive (MBTiles) or a folder ZOOM/X/Y.png can take the place of the server.")
+                                   : QDir::toNativeSeparators(path));
+    for (const auto& [pBox, setting] : {std::pair(mpZoom, Settings::kMapHighestZoom), std::pair(mpSize, Settings::kMapCacheSize)}) {
+        const QSignalBlocker blocker(pBox);
+        pBox->setValue(setting.get(property));
+    }
+    if (isVisible())
+        fillUsed();
+}
+
+/// Walks through all that is kept, so not before it is seen.
+void MapOptions::fillUsed()
+{
+    OpenStreet::TileDisk disk;
+    disk.setFolder(tileFolder());
+    mpUsed->setText(tr("%1 are kept.").arg(locale().formattedDataSize(disk.size())));
+}
+
+void MapOptions::showEvent(QShowEvent* pEvent)
+{
+    QWidget::showEvent(pEvent);
+    fillUsed();
+}
+
+void MapOptions::keep()
+{
+    mSession.property.writeXmlFile();
+    fill();
+    Q_EMIT signalChanged();
+}
+
+void MapOptions::slotTiles(bool isAllowed)
+{
+    TileConsent(mSession.property).set(tileServer(mSession.property).address(), isAllowed);
+    keep();
+}
+
+/// What cannot be shown is said, and changes nothing.
+void MapOptions::setPath(const QString& path)
+{
+    QString problem;
+    if (path.isEmpty())
+        return;
+    if (!OpenStreet::LocalTiles::open(path, &problem)) {
+        QMessageBox box(QMessageBox::Warning, tr("ZARN Warning"), tr("These map tiles cannot be shown.") + '\n' + problem, QMessageBox::Ok, this);
+        box.setTextFormat(Qt::PlainText);
+        box.exec();
+        return;
+    }
+    Settings::kMapTilePath.set(mSession.property, path);
+    keep();
+}
+
+void MapOptions::empty()
+{
+    OpenStreet::TileDisk disk;
+    disk.setFolder(tileFolder());
+    disk.clear();
+    keep();
+}
+
+} // namespace ZARN

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "project/Session.h"
+
+#include <QWidget>
+
+class QCheckBox;
+class QFormLayout;
+class QLabel;
+class QLineEdit;
+class QSpinBox;
+
+namespace ZARN {
+
+/// Where the map's tiles come from and how many are kept, as a page of the preferences. Every change is in force at once and written to the
+/// settings. Owned by the preferences window.
+class MapOptions : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit MapOptions(const Session& session, QWidget* pParent = nullptr);
+
+    /// Shows what the settings hold.
+    void fill();
+
+public Q_SLOTS:
+    /// Keeps whether map tiles may be loaded from the server of the settings.
+    void slotTiles(bool isAllowed);
+
+Q_SIGNALS:
+    void signalChanged();
+
+protected:
+    void showEvent(QShowEvent* pEvent) override;
+
+private:
+    void fillUsed();
+    QWidget* createNetwork();
+    QWidget* createLocal();
+    QWidget* createKept();
+    void connectFields();
+    void keep();
+    void setPath(const QString& path);
+    void empty();
+
+    Session mSession;
+    QCheckBox* mpTiles;
+    QLabel* mpServerText;
+    QLineEdit* mpServer;
+    QLineEdit* mpAttribution;
+    QCheckBox* mpOffline;
+    QLabel* mpPath;
+    QSpinBox* mpZoom;
+    QSpinBox* mpSize;
+    QLabel* mpUsed;
+};
+
+} // namespace ZARN

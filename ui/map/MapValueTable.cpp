@@ -1,0 +1,101 @@
+#include "ui/map/MapValueTable.h"
+
+#include <QEvent>
+#include <QHeaderView>
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace ZARN {
+
+namespace {
+
+const QColor kGround(30, 34, 40);
+constexpr int kPadding = 8; // pixels beside a text in its column
+constexpr int kLeastName = 60;
+
+} // namespace
+
+MapValueTable::MapValueTable(QWidget* pParent) : QTableView(pParent), mpModel(new MapValueModel(this))
+{
+    setObjectName(QStringLiteral("mapValues"));
+    setAccessibleName(tr("Values at the view time"));
+    mpModel->setGround(kGround);
+    setModel(mpModel);
+    setStyleSheet(QStringLiteral("#mapValues {background-color: %1; color: white; border: none; font-weight: bold;} "
+                                 "#mapValues::item {padding: 0px 2px;}")
+                      .arg(kGround.name()));
+    horizontalHeader()->hide();
+    verticalHeader()->hide();
+    horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    horizontalHeader()->setMinimumSectionSize(0);
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    setShowGrid(false);
+    setWordWrap(false);
+    setSelectionMode(QAbstractItemView::NoSelection);
+    setTabKeyNavigation(false);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
+    setMinimumSize(80, 40);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+}
+
+void MapValueTable::setValues(std::vector<MapValue> values)
+{
+    const int rows = mpModel->rowCount();
+    if (static_cast<int>(values.size()) != rows)
+        mWidest = mUnits = 0;
+    mpModel->setValues(std::move(values));
+    fitColumns();
+}
+
+void MapValueTable::fitColumns()
+{
+    ensurePolished();
+    const QFontMetrics metrics = fontMetrics();
+    const auto widest = [&](auto member) {
+        int width = 0;
+        for (const MapValue& value : mpModel->values())
+            width = std::max(width, metrics.horizontalAdvance(value.*member));
+        return width > 0 ? width + kPadding : 0;
+    };
+    mWidest = std::max(mWidest, widest(&MapValue::text));
+    mUnits = std::max(mUnits, widest(&MapValue::unit));
+    const int mark = metrics.height() + kPadding / 2, unit = mUnits;
+    const int name = viewport()->width() - mark - mWidest - unit;
+    const int widths[] = {mark, std::clamp(name, kLeastName, std::max(widest(&MapValue::name), kLeastName)), mWidest, unit};
+    for (int column = 0; column < MapValueModel::eColumns; ++column) {
+        if (columnWidth(column) != widths[column])
+            setColumnWidth(column, widths[column]);
+    }
+    if (verticalHeader()->defaultSectionSize() != metrics.height() + 4)
+        verticalHeader()->setDefaultSectionSize(metrics.height() + 4);
+}
+
+QSize MapValueTable::sizeHint() const
+{
+    const QFontMetrics metrics = fontMetrics();
+    int name = kLeastName;
+    for (const MapValue& value : mpModel->values())
+        name = std::max(name, metrics.horizontalAdvance(value.name) + kPadding);
+    const int width = columnWidth(MapValueModel::eState) + name + columnWidth(MapValueModel::eValue) + columnWidth(MapValueModel::eUnit);
+    return {width + verticalScrollBar()->sizeHint().width(), mpModel->rowCount() * verticalHeader()->defaultSectionSize() + 4};
+}
+
+void MapValueTable::changeEvent(QEvent* pEvent)
+{
+    QTableView::changeEvent(pEvent);
+    if (pEvent->type() == QEvent::FontChange || pEvent->type() == QEvent::StyleChange) {
+        mWidest = mUnits = 0;
+        fitColumns();
+    }
+}
+
+void MapValueTable::resizeEvent(QResizeEvent* pEvent)
+{
+    QTableView::resizeEvent(pEvent);
+    fitColumns();
+}
+
+} // namespace ZARN

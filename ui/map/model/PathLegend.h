@@ -1,0 +1,29 @@
+#pragma once
+
+#include "ui/canvas/Canvas.h"
+#include "ui/map/model/MapStyle.h"
+#include "ui/map/model/PathTint.h"
+
+namespace ZARN {
+
+/// Tells what the colours of the path mean: a scale with its values, or colours with their words. A plain value that refers to what it tells of.
+class PathLegend {
+public:
+    PathLegend(const PathTint& tint, const MapStyle& style) : mTint(tint), mStyle(style) {}
+
+    /// @param corner the right upper one
+    void draw(Canvas& canvas, const QPointF& corner) const;
+    /// A value of the scale, with as many decimals as tell it from the others.
+    [[nodiscard]] static QString number(double value, double range);
+
+private:
+    void drawScale(Canvas& canvas, const QRectF& place) const;
+    void drawEntries(Canvas& canvas, const QRectF& place) const;
+    [[nodiscard]] double line() const { return 1.4 * mStyle.textSize; }
+    [[nodiscard]] CanvasText text(Qt::Alignment align) const { return {mStyle.textSize, mStyle.colours.label, false, align}; }
+
+    const PathTint& mTint;
+    const MapStyle& mStyle;
+};
+
+} // namespace ZARN

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QStandardPaths>
+#include <QString>
+
+namespace ZARN {
+
+/// The folder in which map tiles are kept, with a trailing "/"; empty where the platform has no place for such things.
+[[nodiscard]] inline QString tileFolder()
+{
+    const QString cache = QStandardPaths::writableLocation(QStandardPaths::CacheLocation);
+    return cache.isEmpty() ? QString() : cache + QLatin1String("/tiles/");
+}
+
+} // namespace ZARN
