@@ -2,6 +2,7 @@
 
 #include "store/StoreText.h"
 
+#include <optional>
 #include <set>
 
 namespace ZARN {
@@ -99,17 +100,19 @@ void CardWriter::writeFiles(int64_t card, const CardFacts& facts)
 {
     struct Known {
         int64_t size;
-        double mtime;
+        std::optional<double> mtime; ///< none where the card could not be read whole
         std::string cycle;
+
+        [[nodiscard]] bool is(const ListedFile& file) const { return size == file.size && mtime.value_or(file.mtime) == file.mtime; }
     };
     std::map<std::string, Known> before;
     Statement& old =
         mDatabase.prepared("SELECT name, size, mtime, cycle_id FROM file WHERE card_id = ? AND cycle_id IS NOT NULL").with({card});
     while (old.next())
-        before[old.text(0)] = {old.integer(1), old.real(2), old.text(3)};
+        before[old.text(0)] = {old.integer(1), old.isNull(2) ? std::nullopt : std::optional(old.real(2)), old.text(3)};
     mDatabase.prepared("DELETE FROM file WHERE card_id = ?").with({card}).run();
     Statement& insert = mDatabase.prepared("INSERT OR REPLACE INTO file (card_id, name, size, mtime, cycle_id) VALUES (?, ?, ?, ?, ?)");
-    std::set<std::pair<std::string, std::string>> grown;
+    std::set<std::pair<std::string, std::string>> grown, shrunk;
     for (std::size_t i = 0; i < facts.listing.files.size(); ++i) {
         const ListedFile& file = facts.listing.files[i];
         const std::string name = storeText(file.name), &cycle = facts.cycleOfFile[i];
@@ -117,12 +120,33 @@ void CardWriter::writeFiles(int64_t card, const CardFacts& facts)
         const auto known = before.find(name);
         if (known == before.end() || cycle.empty() || known->second.cycle == cycle)
             continue;
-        const bool isSame = known->second.size == file.size && known->second.mtime == file.mtime;
-        if (isSame || (known->second.size < file.size && isBeginning(known->second.cycle, cycle)))
-            grown.emplace(known->second.cycle, cycle);
+        const std::string& oldCycle = known->second.cycle;
+        const bool isGrown = known->second.is(file) || (known->second.size < file.size && isBeginning(oldCycle, cycle));
+        if (isGrown && isCovered(oldCycle, cycle))
+            grown.emplace(oldCycle, cycle);
+        else if (known->second.is(file) && isCovered(cycle, oldCycle))
+            shrunk.emplace(oldCycle, cycle);
     }
     for (const auto& [oldCycle, newCycle] : grown)
         replace(oldCycle, newCycle);
+    for (const auto& [wholeCycle, rest] : shrunk)
+        keepWhole(card, wholeCycle, rest);
+}
+
+bool CardWriter::isCovered(const std::string& cycle, const std::string& byCycle)
+{
+    return mDatabase
+        .prepared("SELECT 1 FROM cycle AS a, cycle AS b WHERE a.cycle_id = ? AND b.cycle_id = ? AND b.start_time <= a.start_time AND "
+                  "b.end_time >= a.end_time")
+        .with({cycle, byCycle})
+        .any();
+}
+
+/// The card has lost a part of a recording: what is left of it is no recording of its own, or its hours would count twice.
+void CardWriter::keepWhole(int64_t card, const std::string& wholeCycle, const std::string& rest)
+{
+    mDatabase.prepared("UPDATE file SET cycle_id = ?1 WHERE card_id = ?2 AND cycle_id = ?3").with({wholeCycle, card, rest}).run();
+    replace(rest, wholeCycle);
 }
 
 /// The date of a recording may become known from a file that was not there yet.

@@ -7,7 +7,7 @@
 namespace ZARN {
 
 /// Writes what was found on a card into an open store, within a transaction. What went before it stays where it is still true: a recording
-/// that is no longer on a card remains in the store, one that has grown replaces its beginning, and notes go with it.
+/// that is no longer on a card, or not whole any more, remains in the store, one that has grown replaces its beginning, and notes go with it.
 class CardWriter {
 public:
     CardWriter(Database& database, const AnalysisKey& key) : mDatabase(database), mKey(key) {}
@@ -29,7 +29,10 @@ private:
     void insert(EStoreTable table, const Row& row);
     /// Whether the one cycle is the other one, of which more was recorded.
     [[nodiscard]] bool isBeginning(const std::string& oldCycle, const std::string& newCycle);
+    /// Whether the other one has all of its time.
+    [[nodiscard]] bool isCovered(const std::string& cycle, const std::string& byCycle);
     void replace(const std::string& oldCycle, const std::string& newCycle);
+    void keepWhole(int64_t card, const std::string& wholeCycle, const std::string& rest);
 
     Database& mDatabase;
     const AnalysisKey& mKey;

@@ -14,6 +14,7 @@ namespace {
 constexpr const char* kMadeBy = "zarn.made_by";    // the note that tells by what a cycle was worked out
 constexpr const char* kSamples = "zarn.samples";   // that of the samples that are kept
 constexpr const char* kProblems = "zarn.problems"; // and that of what was found wrong with it
+constexpr const char* kSpan = "zarn.span";         // its first and last time
 constexpr const char* kFiles = "zarn.files";       // that of the files of a card and their cycles
 constexpr const char* kSamplesFolder = "samples";
 
@@ -66,19 +67,30 @@ EParquetSamples samplesOf(const std::string& text)
     return text == "all" ? EParquetSamples::eAll : EParquetSamples::eNone;
 }
 
-/// The files of a card, a line each, with the cycles that they belong to.
-std::string filesOf(const CardFacts& card)
+/// The files of a card, a line each, with the cycles that they belong to. @param wholes for what is left of a cycle, the one that it was
+std::string filesOf(const CardFacts& card, const std::map<std::string, CycleHead>& wholes)
 {
     std::string text;
     for (std::size_t i = 0; i < card.listing.files.size(); ++i) {
         const ListedFile& file = card.listing.files[i];
-        const auto cycle = std::ranges::find(card.heads, card.cycleOfFile[i], &CycleHead::id);
-        if (cycle != card.heads.end())
-            text += storeText(file.name) + "\t" + std::to_string(file.size) + "\t" + cycle->id + "\t" + cycle->engine.id + "\t" +
-                    std::to_string(cycle->number) + "\t" + storeDate(cycle->dateTime) + "\t" +
-                    QByteArray::number(file.mtime, 'g', 17).toStdString() + "\n";
+        const auto found = std::ranges::find(card.heads, card.cycleOfFile[i], &CycleHead::id);
+        if (found == card.heads.end())
+            continue;
+        const auto whole = wholes.find(found->id);
+        const CycleHead& cycle = whole == wholes.end() ? *found : whole->second;
+        text += storeText(file.name) + "\t" + std::to_string(file.size) + "\t" + cycle.id + "\t" + cycle.engine.id + "\t" +
+                std::to_string(cycle.number) + "\t" + storeDate(cycle.dateTime) + "\t" + QByteArray::number(file.mtime, 'g', 17).toStdString() +
+                "\n";
     }
     return text;
+}
+
+/// The lines of both texts, each once.
+std::string joinedLines(const std::string& first, const std::string& second)
+{
+    QStringList lines = QString::fromStdString(first + second).split('\n', Qt::SkipEmptyParts);
+    lines.removeDuplicates();
+    return lines.isEmpty() ? std::string() : (lines.join('\n') + '\n').toStdString();
 }
 
 QDateTime dateOf(const QString& text)
@@ -163,7 +175,8 @@ std::string ParquetDataset::takeLoaded(const CardListing& card, const CycleFacts
     const CycleHead& head = cycle.head;
     const RowIds ids{hashOf(card.path), [&head](EStoreTable, std::size_t place) { return head.id + "/" + std::to_string(place + 1); }};
     const CycleRows rows = cycleRows(cycle, mKey, ids);
-    const ParquetFile::Notes made = notes(cycle.problems);
+    ParquetFile::Notes made = notes(cycle.problems);
+    made[kSpan] = QByteArray::number(cycle.startTime, 'g', 17).toStdString() + " " + QByteArray::number(cycle.endTime, 'g', 17).toStdString();
     std::string problem;
     const EParquetSamples samples = samplesOf(mSamples);
     const std::string sampleFile = cyclePath(kSamplesFolder, head, head.dateTime);
@@ -203,11 +216,28 @@ void ParquetDataset::forgetFiles(const CycleHead& cycle, const QDateTime& month)
     }
 }
 
+/// Whether all of the time of a cycle is in another one, as far as both tell.
+bool ParquetDataset::isCovered(const CycleHead& cycle, const CycleHead& other) const
+{
+    double spans[2][2];
+    for (const auto& [pHead, place] : {std::pair(&cycle, 0), std::pair(&other, 1)}) {
+        const std::string text = ParquetFile::notesOf(cyclePath(storeTable(eCycleTable).folder, *pHead, pHead->dateTime))[kSpan];
+        const QStringList fields = QString::fromStdString(text).split(' ');
+        if (fields.size() != 2)
+            return true;
+        spans[place][0] = fields[0].toDouble();
+        spans[place][1] = fields[1].toDouble();
+    }
+    return spans[1][0] <= spans[0][0] && spans[1][1] >= spans[0][1];
+}
+
 /// A cycle one of whose files now belongs to another one was the beginning of that: a card that was read while it was copied. The file is the
-/// same, or has grown, and then engine, number and date tell that the recording is the same.
-void ParquetDataset::forgetBeginnings(const CardFacts& card, const std::string& before) const
+/// same, or has grown, and then engine, number and date tell that the recording is the same. Or the card has lost a part of it since.
+/// @return for what is left of a cycle, the whole one, which stays in its place
+std::map<std::string, CycleHead> ParquetDataset::forgetParts(const CardFacts& card, const std::string& before) const
 {
     const std::vector<ListedFile>& files = card.listing.files;
+    std::map<std::string, CycleHead> wholes;
     for (const QString& line : QString::fromStdString(before).split('\n', Qt::SkipEmptyParts)) {
         const QStringList fields = line.split('\t');
         if (fields.size() != 7)
@@ -221,15 +251,20 @@ void ParquetDataset::forgetBeginnings(const CardFacts& card, const std::string& 
             continue;
         for (std::size_t i = 0; i < files.size(); ++i) {
             const auto now = std::ranges::find(card.heads, card.cycleOfFile[i], &CycleHead::id);
-            if (now == card.heads.end() || storeText(files[i].name) != fields[0].toStdString())
+            if (now == card.heads.end() || wholes.contains(now->id) || storeText(files[i].name) != fields[0].toStdString())
                 continue;
             const bool isSame = files[i].size == fields[1].toLongLong() && files[i].mtime == fields[6].toDouble();
             const bool isGrown = files[i].size > fields[1].toLongLong() && now->engine.id == old.engine.id && now->number == old.number &&
                                  (!old.dateTime.isValid() || storeDate(now->dateTime) == fields[5].toStdString());
-            if (isSame || isGrown)
+            if ((isSame || isGrown) && isCovered(old, *now)) {
                 forgetFiles(old, old.dateTime);
+            } else if (isSame && isCovered(*now, old)) {
+                forgetFiles(*now, now->dateTime);
+                wholes.emplace(now->id, old);
+            }
         }
     }
+    return wholes;
 }
 
 std::string ParquetDataset::write(const CardFacts& card)
@@ -244,14 +279,15 @@ std::string ParquetDataset::write(const CardFacts& card)
     if (!problem.empty())
         return problem;
     ParquetFile::Notes before = ParquetFile::notesOf(file);
+    std::map<std::string, CycleHead> wholes;
     if (card.isWhole)
-        forgetBeginnings(card, before[kFiles]);
+        wholes = forgetParts(card, before[kFiles]);
     ParquetFile written(file, {{"card_id", ParquetColumn::eText},
                                {"file", ParquetColumn::eText},
                                {"reason", ParquetColumn::eText},
                                {"path", ParquetColumn::eText}});
     written.addRows(rows);
-    return written.finish({{kFiles, card.isWhole ? filesOf(card) : before[kFiles]}});
+    return written.finish({{kFiles, card.isWhole ? filesOf(card, wholes) : joinedLines(before[kFiles], filesOf(card, wholes))}});
 }
 
 } // namespace ZARN

@@ -31,7 +31,8 @@ private:
     [[nodiscard]] std::string cyclePath(const std::string& table, const CycleHead& cycle, const QDateTime& month) const;
     [[nodiscard]] ParquetFile::Notes notes(const std::vector<CardProblem>& problems) const;
     void forgetFiles(const CycleHead& cycle, const QDateTime& month) const;
-    void forgetBeginnings(const CardFacts& card, const std::string& before) const;
+    [[nodiscard]] bool isCovered(const CycleHead& cycle, const CycleHead& other) const;
+    std::map<std::string, CycleHead> forgetParts(const CardFacts& card, const std::string& before) const;
     void forgetUndated(const CycleHead& cycle) const;
 
     const std::string mFolder;
