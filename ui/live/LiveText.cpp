@@ -76,7 +76,7 @@ QString LiveText::text() const
 {
     QStringList parts{connection(), counts()};
     if (const QString recorded = recording(); !recorded.isEmpty())
-        parts << recorded;
+        parts.insert(1, recorded); // it must be seen in narrow windows
     return parts.join("  |  ");
 }
 
