@@ -4,14 +4,18 @@
 #include "ui/main/MainActions.h"
 
 #include <QComboBox>
+#include <QEvent>
 #include <QMenu>
 #include <QToolButton>
+
+#include <algorithm>
 
 namespace ZARN {
 
 namespace {
 
-constexpr int kSelectorWidth = 200;
+constexpr int kProfileWidth = 200;
+constexpr int kBesideUnit = 52;   // pixels of a selector beside its text
 
 } // namespace
 
@@ -52,11 +56,11 @@ void MainToolBar::addMore(QAction* pFirst, const QList<QAction*>& others)
     pButton->setPopupMode(QToolButton::MenuButtonPopup);
 }
 
-QComboBox* MainToolBar::addSelector(const char* name, const QString& toolTip, const QString& accessibleName)
+QComboBox* MainToolBar::addSelector(const char* name, int leastWidth, const QString& toolTip, const QString& accessibleName)
 {
     auto* pSelector = new QComboBox;
     pSelector->setObjectName(name);
-    pSelector->setMinimumWidth(kSelectorWidth);
+    pSelector->setMinimumWidth(leastWidth);
     pSelector->setToolTip(toolTip);
     pSelector->setAccessibleName(accessibleName);
     WheelGuard::install(*pSelector);
@@ -66,16 +70,32 @@ QComboBox* MainToolBar::addSelector(const char* name, const QString& toolTip, co
 
 void MainToolBar::addProfiles()
 {
-    mpProfiles = addSelector("profiles", tr("Profile: what the recorded bytes mean"), tr("Profile"));
+    mpProfiles = addSelector("profiles", kProfileWidth, tr("Profile: what the recorded bytes mean"), tr("Profile"));
     connect(mpProfiles, &QComboBox::textActivated, this, &MainToolBar::signalProfile);
 }
 
 void MainToolBar::addUnits()
 {
-    mpUnits = addSelector("units", tr("Units of all displays"), tr("Units"));
+    mpUnits = addSelector("units", 0, tr("Units of all displays"), tr("Units"));
     mpUnits->addItem(tr("Metric"), "0");
     mpUnits->addItem(tr("Imperial"), "1");
     connect(mpUnits, &QComboBox::activated, this, &MainToolBar::signalUnit);
+}
+
+/// Under a style sheet a selector does not know how wide it must be.
+void MainToolBar::giveRoom()
+{
+    int text = 0;
+    for (int i = 0; i < mpUnits->count(); ++i)
+        text = std::max(text, mpUnits->fontMetrics().horizontalAdvance(mpUnits->itemText(i)));
+    mpUnits->setMinimumWidth(text + kBesideUnit);
+}
+
+void MainToolBar::changeEvent(QEvent* pEvent)
+{
+    QToolBar::changeEvent(pEvent);
+    if (mpUnits && (pEvent->type() == QEvent::FontChange || pEvent->type() == QEvent::StyleChange))
+        QMetaObject::invokeMethod(this, &MainToolBar::giveRoom, Qt::QueuedConnection); // when it has its font, too
 }
 
 } // namespace ZARN

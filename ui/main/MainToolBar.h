@@ -26,12 +26,16 @@ Q_SIGNALS:
     void signalProfile(const QString& name);
     void signalUnit(int index);
 
+protected:
+    void changeEvent(QEvent* pEvent) override;
+
 private:
     void addFolders(QAction* pOpen);
     void addMore(QAction* pFirst, const QList<QAction*>& others);
     void addProfiles();
     void addUnits();
-    QComboBox* addSelector(const char* name, const QString& toolTip, const QString& accessibleName);
+    void giveRoom();
+    QComboBox* addSelector(const char* name, int leastWidth, const QString& toolTip, const QString& accessibleName);
 
     QMenu* mpFolders;
     QComboBox* mpProfiles = nullptr;
