@@ -72,6 +72,7 @@ QWidget* DialogPreferences::createGeneralPage()
 {
     mpLanguage->addItem("Deutsch", "de");
     mpLanguage->addItem("English", "us");
+    mpFontSize->setObjectName("fontSize");
     mpFontSize->setRange(Settings::kFontSize.least, Settings::kFontSize.most);
     WheelGuard::install(*mpLanguage);
     WheelGuard::install(*mpFontSize);
