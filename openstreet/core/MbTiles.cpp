@@ -4,7 +4,7 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QRegularExpression>
+#include <QTextDocumentFragment>
 #include <QUrl>
 
 #include <algorithm>
@@ -112,8 +112,7 @@ void MbTiles::readMetadata()
 {
     if (const QString name = metadata("name"); !name.isEmpty())
         mName = name;
-    static const QRegularExpression kMarkup(QStringLiteral("<[^>]*>"));
-    mAttribution = metadata("attribution").remove(kMarkup).simplified();
+    mAttribution = QTextDocumentFragment::fromHtml(metadata("attribution")).toPlainText().simplified();
     sqlite3_stmt* pZoom = nullptr;
     if (sqlite3_prepare_v2(mpBase, "SELECT max(zoom_level) FROM tiles", -1, &pZoom, nullptr) == SQLITE_OK && sqlite3_step(pZoom) == SQLITE_ROW)
         mHighestZoom = std::clamp(sqlite3_column_int(pZoom, 0), 0, TileId::kMaxZoom);

@@ -275,7 +275,7 @@ void TestTileStore::localTiles_data()
     QTest::addColumn<QString>("reason");
     const QString tables = "CREATE TABLE metadata (name text, value text); CREATE TABLE tiles (zoom_level, tile_column, tile_row, tile_data);";
     const QString picture = QString("x'%1'").arg(QString::fromLatin1(TileHost::tile("local").toHex()));
-    QTest::newRow("archive") << tables + "INSERT INTO metadata VALUES ('name', 'My map'), ('attribution', '<a>me</a>');"
+    QTest::newRow("archive") << tables + "INSERT INTO metadata VALUES ('name', 'My map'), ('attribution', '<a>me &amp; you</a>');"
                                     "INSERT INTO tiles VALUES (3, 1, 6, " + picture + ");"
                              << "";
     QTest::newRow("folder") << "" << "";
@@ -314,7 +314,7 @@ void TestTileStore::localTiles()
     if (!pTiles)
         return;
     if (!script.isEmpty())
-        QVERIFY(pTiles->name() == "My map" && pTiles->attribution() == "me");
+        QVERIFY(pTiles->name() == "My map" && pTiles->attribution() == "me & you");
     QCOMPARE(pTiles->highestZoom(), 3);
     Store store(mpHost->address());
     store.store.setLocal(std::move(pTiles));

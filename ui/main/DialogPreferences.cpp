@@ -73,6 +73,7 @@ QWidget* DialogPreferences::createGeneralPage()
 {
     mpLanguage->addItem("Deutsch", "de");
     mpLanguage->addItem("English", "us");
+    mpFontSize->setObjectName("fontSize");
     mpFontSize->setRange(Settings::kFontSize.least, Settings::kFontSize.most);
     mpPalette->setObjectName("palette");
     mpPalette->addItems({tr("Light"), tr("Dark"), tr("As the system")}); // in the order of the setting's numbers

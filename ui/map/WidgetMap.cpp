@@ -150,7 +150,7 @@ void WidgetMap::updateNote()
         mIsAboveDirty = true;
 }
 
-QString WidgetMap::note() const
+QString WidgetMap::note()
 {
     if (!mTileProblem.isEmpty())
         return tr("Map tiles: %1").arg(mTileProblem);
@@ -158,8 +158,8 @@ QString WidgetMap::note() const
         return tr("The setting \"TileServer\" is no address of map tiles");
     if (mMap.areTilesAllowed() && !mMap.lastError().isEmpty())
         return mMap.tileServer().name() + QLatin1String(": ") + mMap.lastError();
-    if (mMap.nrLoadingTiles() > 0)
-        return tr("Loading the map: %n tile(s)", nullptr, mMap.nrLoadingTiles());
+    if (const int loading = mMap.store().loading(); loading > 0 && mMap.areTilesAllowed())
+        return tr("Loading the map: %n tile(s)", nullptr, loading);
     return mMap.baseMap().problem().isEmpty() ? mScene.places().problem() : mMap.baseMap().problem();
 }
 
@@ -202,7 +202,7 @@ void WidgetMap::changeEvent(QEvent* pEvent)
     QWidget::changeEvent(pEvent);
     if (pEvent->type() != QEvent::FontChange && pEvent->type() != QEvent::StyleChange)
         return;
-    mScene.setTextSize(QFontInfo(font()).pixelSize() - 1.0);
+    mScene.style().textSize = QFontInfo(font()).pixelSize() - 1.0;
     mIsDirty = true;
 }
 
@@ -345,7 +345,7 @@ void WidgetMap::setCourse(const MapCourse& course)
 void WidgetMap::updateTint()
 {
     const PathColouring colouring = PathColouring::of(Settings::kMapPathColour.get(mSession.property));
-    const PathTinter tinter(mScene.path().points(), mSession.profile.context(), Palette::light().map);
+    const PathTinter tinter(mScene.path().points(), mSession.profile.context(), mScene.style().colours);
     mScene.setTint(tinter.tint(colouring, &mSession.container.recordData(), mPhases));
     mIsDirty = true;
 }

@@ -112,7 +112,7 @@ private:
     void updateTint();
     void updateShown();
     void updateNote();
-    [[nodiscard]] QString note() const;
+    [[nodiscard]] QString note();
     void updateGround();
     void releaseGraphics();
 

@@ -94,11 +94,11 @@ void TestPreferences::fontSize()
     desktop.style.readStyle(home.filePath("a.css"));
     DialogPreferences dialog(sessionOf(desktop), desktop.kernel);
     dialog.show();
-    const int before = dialog.findChild<QSpinBox*>()->fontMetrics().height();
-    dialog.findChild<QSpinBox*>()->setValue(20);
+    const int before = dialog.findChild<QSpinBox*>("fontSize")->fontMetrics().height();
+    dialog.findChild<QSpinBox*>("fontSize")->setValue(20);
     QCOMPARE(qApp->styleSheet(), QString("QLabel { margin: 1px; }\nQWidget {font-size: 20px;}"));
-    QVERIFY(dialog.findChild<QSpinBox*>()->fontMetrics().height() > before);
-    dialog.findChild<QSpinBox*>()->setValue(8);
+    QVERIFY(dialog.findChild<QSpinBox*>("fontSize")->fontMetrics().height() > before);
+    dialog.findChild<QSpinBox*>("fontSize")->setValue(8);
     QCOMPARE(desktop.property.getInt("FontSize", 0), 8);
     const QString settings = home.filePath("data/ZARN.ini");
     QVERIFY(!QFileInfo::exists(settings)); // no file a step
@@ -107,7 +107,7 @@ void TestPreferences::fontSize()
     for (const char* unusable : {"0", "abc", "7", "21", "-3"}) {
         desktop.property.setString("FontSize", unusable);
         dialog.fillDialog();
-        QCOMPARE(dialog.findChild<QSpinBox*>()->value(), 12);
+        QCOMPARE(dialog.findChild<QSpinBox*>("fontSize")->value(), 12);
         desktop.kernel.loadStyleFile(home.filePath("a.css"));
         QVERIFY(qApp->styleSheet().endsWith("{font-size: 12px;}"));
     }
@@ -123,7 +123,7 @@ void TestPreferences::wheelPassesOver()
     const auto value = [](const QWidget* pField) { return pField->property(qobject_cast<const QSpinBox*>(pField) ? "value" : "currentIndex"); };
     const auto* pPreferences = window.findChild<DialogPreferences*>();
     const QList<QWidget*> fields{window.findChild<QComboBox*>("profiles"), window.findChild<QComboBox*>("units"),
-                                 pPreferences->findChild<QComboBox*>(), pPreferences->findChild<QSpinBox*>()};
+                                 pPreferences->findChild<QComboBox*>(), pPreferences->findChild<QSpinBox*>("fontSize")};
     for (QWidget* pField : fields) {
         const QVariant before = value(pField);
         for (const int notch : {-120, 120}) {
@@ -180,6 +180,13 @@ void TestPreferences::mapTiles()
     dialog.fillDialog();
     QVERIFY(!pTiles->isEnabled());
     QCOMPARE(changed.size(), 2); // filling is no change of the user's
+    auto* pAddress = dialog.findChild<QLineEdit*>("tileAddress");
+    pAddress->setText(" tiles.example.net ");
+    Q_EMIT pAddress->editingFinished();
+    QCOMPARE(desktop.property.getString("TileServer", ""), std::string("tiles.example.net"));
+    QVERIFY(pTiles->isEnabled() && dialog.findChild<QLabel*>("tileServer")->text().contains("tiles.example.net"));
+    dialog.findChild<QCheckBox*>("tilesOffline")->click();
+    QVERIFY(desktop.property.getSwitch("MapOffline", false) && changed.size() == 4);
 }
 
 void TestPreferences::manual_data()

@@ -17,6 +17,7 @@
 
 #include <QLabel>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QSet>
 #include <QSignalSpy>
@@ -215,17 +216,22 @@ void TestDialogDataMap::tilesAfterConsent()
     QTRY_COMPARE(mHost.requests().size(), allowed.size());
     for (const auto& request : mHost.requests()) {
         QVERIFY2(allowed.contains(request.path), qPrintable(request.path));
-        QVERIFY(request.userAgent.startsWith("ZARN/"));
+        QVERIFY2(QRegularExpression("^ZARN/\\d+\\.\\d+\\.\\d+ \\(\\+https://\\S+;").match(request.userAgent).hasMatch(), qPrintable(request.userAgent));
     }
     Property stored(flight().console); // the answer is with the settings, and can be taken back there
     stored.readXmlFile(window.data.filePath("ZARN.ini").toStdString());
     QCOMPARE(QString::fromStdString(stored.getString("MapTilesAllowed", "")), mHost.address());
     mHost.clearLog();
-    QTest::mouseClick(window.button("consentNo"), Qt::LeftButton);
-    QTest::keyClick(&window.map(), Qt::Key_Plus);
-    window.load();
-    window.settle();
-    QVERIFY(!window.consentBar()->isVisible() && mHost.requests().isEmpty());
+    for (const bool isOffline : {false, true}) { // taken back; agreed to, and offline
+        if (!isOffline)
+            QTest::mouseClick(window.button("consentNo"), Qt::LeftButton);
+        window.property.setString("MapOffline", isOffline ? "true" : "false");
+        window.property.setString("MapTilesAllowed", isOffline ? mHost.address().toStdString() : "no");
+        QTest::keyClick(&window.map(), Qt::Key_Plus);
+        window.load();
+        window.settle();
+        QVERIFY(!window.consentBar()->isVisible() && mHost.requests().isEmpty());
+    }
 }
 
 void TestDialogDataMap::flightWithoutPosition()

@@ -189,9 +189,10 @@ void MapScene::drawArrows(Canvas& canvas) const
         const QPointF along = arrow.way * size, across = QPointF(-arrow.way.y(), arrow.way.x()) * (0.8 * size);
         triangles.insert(triangles.end(), {arrow.place + along, arrow.place - along + across, arrow.place - along - across});
     };
+    const double size = kArrow * std::clamp(mStyle.pathWidth / 3.0, 0.6, 1.0); // a thin path on paper has small ones
     for (const PathGeometry::Arrow& arrow : mGeometry.arrows()) {
-        add(outer, arrow, kArrow + 2.5);
-        add(inner, arrow, kArrow);
+        add(outer, arrow, size + 2.0);
+        add(inner, arrow, size);
     }
     canvas.triangles(outer, mStyle.colours.markRim);
     canvas.triangles(inner, mTint.isPlain() ? mStyle.colours.path : mStyle.colours.pathRim);

@@ -47,8 +47,8 @@ public:
     void setSelection(const std::optional<QRectF>& area) { mSelection = area; }
     void setAircraft(const FlightPathPoint& point) { mAircraft = point; }
     [[nodiscard]] const FlightPathPoint& aircraft() const { return mAircraft; }
-    /// The size of labels in pixels.
-    void setTextSize(double size) { mStyle.textSize = size; }
+    /// Colours and sizes; what is changed shows with the next drawing.
+    [[nodiscard]] MapStyle& style() { return mStyle; }
     void setImperial(bool on) { mIsImperial = on; }
     /// Lines of latitude and longitude and the names of places, for a map that shows little else.
     void setPlain(bool on) { mIsPlain = on; }
