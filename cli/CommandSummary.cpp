@@ -136,7 +136,7 @@ void CommandSummary::writeText()
     for (const CardProblem& problem : mProblems)
         text += "  Damaged: " + visibleText(problemText(mContainer.path(), problem)) + "\n";
     for (const ReviewedCycle& reviewed : mReviewed)
-        text += "\n" + summaryText(reviewed);
+        text += "\n" + summaryText(reviewed, mContainer.values().context());
     mOutput.write(text);
 }
 

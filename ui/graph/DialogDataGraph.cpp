@@ -89,7 +89,7 @@ void DialogDataGraph::connectGraph()
     connect(mpGraph, &WidgetGraphES::signalMenu, this, &DialogDataGraph::slotMenu);
     connect(&mpGraph->model(), &GraphModel::signalIncident, this, &DialogDataGraph::slotIncident);
     connect(&mCourse, &CourseFinder::signalFound, this,
-            [this](const std::shared_ptr<const CycleCourse>& pCourse) { mpGraph->model().scenery().setCourse(pCourse); });
+            [this](const std::shared_ptr<const CycleCourse>& pCourse) { mRecord.ghost().normal().setCourse(pCourse); });
     connect(&mGhosts, &GhostLoader::signalLoaded, this,
             [this](const std::shared_ptr<const GhostCycle>& pCycle, int flight) { mRecord.ghost().set(pCycle, flight); });
     connect(&mGhosts, &GhostLoader::signalFailed, this,
@@ -192,7 +192,7 @@ void DialogDataGraph::findCourse()
 {
     // That of the same record stays until it is found anew.
     if (std::exchange(mpCourseOf, mSession.container.record().get()) != mSession.container.record().get() || !mRecord.hasRecord())
-        mpGraph->model().scenery().setCourse(nullptr);
+        mRecord.ghost().normal().setCourse(nullptr);
     if (mRecord.hasRecord())
         mCourse.start(mSession.container.loaded());
     else
@@ -234,6 +234,12 @@ void DialogDataGraph::setLayout(const DisplayLayout& layout)
     mRecord.setLayout(layout);
     updateSetup();
     slotManMode();
+}
+
+Comparison DialogDataGraph::comparison() const
+{
+    const GraphScenery& scenery = mpGraph->model().scenery();
+    return {scenery.ghost() ? scenery.ghost()->pCycle : nullptr, scenery.ghostShift()};
 }
 
 std::optional<TimeSpan> DialogDataGraph::shownSpan() const

@@ -59,7 +59,6 @@ public:
 
     /// What it is compared with.
     [[nodiscard]] RecordGhost& ghost() { return mGhost; }
-
     [[nodiscard]] bool hasRecord() const { return mpRecord != nullptr; }
     [[nodiscard]] bool hasSamples() const;
     /// From the record's start to its end.
@@ -94,6 +93,7 @@ private:
     [[nodiscard]] std::optional<DisplayLayout::Scale> zoomOf(const QString& name) const;
     void describeSlots();
     void fillRecord();
+    void highlightAsked();
 
     const Session mSession;
     GraphModel& mModel;

@@ -52,8 +52,6 @@ template <typename Put> void fill(ShownTraces& traces, int slot, const Trace& tr
     traces.edit(slot, [&breaks](GraphParameter& parameter) { parameter.breaks = std::move(breaks); });
 }
 
-constexpr double kEver = std::numeric_limits<double>::infinity();
-
 } // namespace
 
 void fillSlot(GraphModel& model, int slot, const Trace& trace, double from, double to)
@@ -61,10 +59,10 @@ void fillSlot(GraphModel& model, int slot, const Trace& trace, double from, doub
     fill(model.traces(), slot, trace, from, to, [&](auto times, auto numbers) { model.putValues(slot, times, numbers); });
 }
 
-void fillSlot(ShownTraces& traces, int slot, const Trace& trace)
+void fillSlot(ShownTraces& traces, int slot, const Trace& trace, double from, double to)
 {
     // A time that is no number would be found nowhere.
-    fill(traces, slot, trace, -kEver, kEver, [&](auto times, auto numbers) {
+    fill(traces, slot, trace, from, to, [&](auto times, auto numbers) {
         if (std::ranges::all_of(times, [](double time) { return std::isfinite(time); }))
             traces.append(slot, times, numbers);
     });

@@ -1,7 +1,5 @@
 #include "ui/map/model/MapInteraction.h"
 
-#include "card/CardContainer.h"
-
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -136,11 +134,11 @@ std::vector<const MapEvent*> MapInteraction::eventsAt(const QPointF& place) cons
     return mScene.events().near(mScene.path(), mNavigator.camera(), windowPoint(place), mScene.aircraft().time);
 }
 
-QString MapInteraction::textAt(const QPointF& place) const
+QString MapInteraction::textAt(const QPointF& place, const TimeReference& times) const
 {
-    const QString text = MapEvents::text(eventsAt(place));
+    const QString text = MapEvents::text(eventsAt(place), times);
     const std::optional<double> time = text.isEmpty() ? timeAt(place) : std::nullopt;
-    return time ? CardContainer::time(*time) : text;
+    return time ? times.textAt(*time) : text;
 }
 
 std::optional<GraphMoment> MapInteraction::momentAt(const QPointF& place) const
