@@ -199,7 +199,7 @@ QString IncidentText::restText(const Quantity& quantity) const
 IncidentSentence IncidentText::sentence(const std::vector<Incident>& incidents, const std::vector<std::size_t>& places) const
 {
     const Incident& first = incidents[places.front()];
-    IncidentSentence sentence{0, places, first.start, first.end, time(first.start), {}, {}, {}};
+    IncidentSentence sentence{0, places, first.start, first.end, mTime(first.start), {}, {}, {}};
     std::vector<const Episode*> episodes;
     for (const std::size_t place : places) {
         sentence.state = std::max(sentence.state, incidents[place].state);
@@ -228,7 +228,7 @@ IncidentSentence IncidentText::sentence(const std::vector<Incident>& incidents, 
     if (places.size() == 1)
         sentence.what += (hasDuration ? " " : ", ") + phaseText(first.phase);
     else
-        sentence.when = tr("%1 times, %2 to %3").arg(QString::number(places.size()), sentence.time, time(sentence.end));
+        sentence.when = tr("%1 times, %2 to %3").arg(QString::number(places.size()), sentence.time, mTime(sentence.end));
     sentence.with = listed(rest, kMostRest, ", ");
     return sentence;
 }

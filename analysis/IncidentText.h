@@ -6,6 +6,8 @@
 #include <QLocale>
 #include <QStringList>
 
+#include <functional>
+
 namespace ZARN {
 
 /// Incidents that are told in one sentence, in parts that a window can lay out.
@@ -29,8 +31,10 @@ class IncidentText {
     Q_DECLARE_TR_FUNCTIONS(ZARN::IncidentText)
 
 public:
-    /// @param locale how numbers are written
-    explicit IncidentText(QLocale locale) : mLocale(std::move(locale)) {}
+    using TimeText = std::function<QString(double seconds)>;
+
+    /// @param locale how numbers are written  @param time how times are
+    explicit IncidentText(QLocale locale, TimeText timeText = time) : mLocale(std::move(locale)), mTime(std::move(timeText)) {}
 
     /// One sentence for each set of parameters, the worst first, then by time.
     [[nodiscard]] std::vector<IncidentSentence> sentences(const std::vector<Incident>& incidents) const;
@@ -64,6 +68,7 @@ private:
     [[nodiscard]] static QString listed(QStringList items, qsizetype most, const QString& separator);
 
     QLocale mLocale;
+    TimeText mTime;
 };
 
 } // namespace ZARN

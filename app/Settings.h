@@ -68,6 +68,7 @@ constexpr NumberedSetting kGraphWidth = {"GraphWidth", 300};
 constexpr NumberedSetting kGraphStyle = {"GraphStyle", 300};
 constexpr NumberSetting kGraphPalette = {"GraphPalette", 0, 0, 3};
 constexpr SwitchSetting kGraphGaps = {"GraphGaps", false};
+constexpr SwitchSetting kGraphNormal = {"GraphNormal", false};
 constexpr NumberSetting kTimeReference = {"TimeReference", 0, 0, 2};
 constexpr TextSetting kGraphLayout = {"GraphLayout", ""};
 constexpr TextSetting kLayoutDir = {"LayoutDir", ""};
@@ -78,6 +79,7 @@ constexpr NumberSetting kLogbook = {"Logbook", 0, 0, 2}; // whether opened cards
 constexpr SwitchSetting kArchive = {"Archive", false};
 constexpr TextSetting kArchiveDir = {"ArchiveDir", ""};
 constexpr TextSetting kLogbookDir = {"LogbookDir", "."};
+constexpr TextSetting kLogbookHidden = {"LogbookHidden", ""};
 
 constexpr TextSetting kLiveBus = {"LiveBus", ""};
 constexpr NumberSetting kLiveBitRate = {"LiveBitRate", 0, 0, 8'000'000}; // bits a second; 0: as the system has it

@@ -55,7 +55,7 @@ int CommandReport::run()
 
 int CommandReport::runOnData()
 {
-    FlightReport report(mContainer.loaded());
+    FlightReport report(ReportSubject{mContainer.loaded()});
     return writeOutput([&](SafeFile& file) {
         report.write(file, mReport);
         return report.error();

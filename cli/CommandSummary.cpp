@@ -114,7 +114,7 @@ void CommandSummary::keepProblems()
 void CommandSummary::tell(const ReviewedCycle& reviewed)
 {
     if (!mJson) {
-        mText += "\n" + summaryText(reviewed);
+        mText += "\n" + summaryText(reviewed, mContainer.values().context());
         return;
     }
     mCycles.beginObject().member("number", reviewed.number).member("name", reviewed.pCycle->name);

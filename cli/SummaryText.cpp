@@ -83,12 +83,12 @@ QLocale english()
     return {QLocale::English, QLocale::UnitedStates};
 }
 
-void appendUnusual(std::vector<std::string>& lines, const std::vector<Unusual>& unusual)
+void appendUnusual(std::vector<std::string>& lines, const std::vector<Unusual>& unusual, const DecodingContext& context)
 {
     constexpr std::size_t kMost = 4;
     for (std::size_t i = 0; i < std::min(kMost, unusual.size()); ++i) {
         appendWrapped(lines, "  Unusual in flight " + std::to_string(unusual[i].flight) + ": ",
-                      UnusualText(english()).sentence(unusual[i]));
+                      UnusualText(english(), context).sentence(unusual[i]));
     }
     if (unusual.size() > kMost)
         lines.push_back("  and " + std::to_string(unusual.size() - kMost) + " more unusual figures (--json tells all)");
@@ -96,13 +96,13 @@ void appendUnusual(std::vector<std::string>& lines, const std::vector<Unusual>& 
 
 } // namespace
 
-std::string summaryText(const ReviewedCycle& reviewed)
+std::string summaryText(const ReviewedCycle& reviewed, const DecodingContext& context)
 {
     std::vector<std::string> lines, last;
     const ReviewText text(reviewed.review);
     appendHead(lines, reviewed);
     appendFlights(lines, reviewed.pCycle->flights);
-    appendUnusual(last, reviewed.unusual);
+    appendUnusual(last, reviewed.unusual, context);
     for (const QString& gap : text.gaps())
         appendWrapped(last, "  ", gap);
     if (!reviewed.review.standing.empty())

@@ -16,7 +16,7 @@ struct ReviewedCycle {
     std::vector<Unusual> unusual; ///< where there is a store to compare with
 };
 
-/// A cycle for people, at most a screen: verdict, what it took, its incidents with the worst first.
-[[nodiscard]] std::string summaryText(const ReviewedCycle& reviewed);
+/// A cycle for people, at most a screen: verdict, what it took, its incidents with the worst first. @param context by which it was read
+[[nodiscard]] std::string summaryText(const ReviewedCycle& reviewed, const DecodingContext& context);
 
 } // namespace ZARN

@@ -17,7 +17,7 @@ compared AS (
     FROM ranked GROUP BY engine_id)
 SELECT engine_id, latest, low, high FROM compared WHERE flights = 25 AND (latest < low OR latest > high) ORDER BY engine_id;
 
--- 2. How many hours has each engine run since its manifold pressure was last above the limit?
+-- 2. How many hours has each engine run since its manifold pressure was last above the limit? Cycles whose unit had no clock are in neither.
 WITH overboost AS (
     SELECT engine_id, max(cycle.date_time) AS last_time
     FROM episode JOIN cycle USING (cycle_id)

@@ -22,6 +22,8 @@ struct CsvForm {
     /// A number as a cell holds it; for spreadsheets, which have none that is not finite, an empty cell. @return its end
     [[nodiscard]] char* number(char* pText, char* pEnd) const { return isForSpreadsheet ? localNumber(pText, pEnd) : pEnd; }
 
+    static constexpr const char* kByteOrderMark = "\xEF\xBB\xBF"; ///< tells spreadsheets that texts are UTF-8
+
     char separator = ';';
     char decimal = '.';
     bool isForSpreadsheet = false;

@@ -14,7 +14,6 @@ namespace ZARN {
 
 namespace {
 
-constexpr const char* kByteOrderMark = "\xEF\xBB\xBF"; // tells spreadsheets that texts are UTF-8
 constexpr int kColumnsPercent = 5; // of the whole work, to order the columns' samples
 
 /// Turns the columns' cells of one window after the other into lines.
@@ -176,7 +175,7 @@ bool ExportCsv::writeFile(SafeFile& file, const RecordData& recordData, const Cs
     if (!mError.empty())
         return false;
     const CsvTime time(*form, mPowerUp, options.times, options.resolution);
-    std::string header = (form->isForSpreadsheet ? kByteOrderMark : "") + time.titles();
+    std::string header = (form->isForSpreadsheet ? CsvForm::kByteOrderMark : "") + time.titles();
     const TraceSet traces(&recordData, mContext, ENumber::eText, options.allParameters ? TraceSet::all() : TraceSet::selected(mSelection));
     std::vector<CsvColumn> columns;
     if (!makeColumns(traces, options, *form, ProgressSpan(progress, 0, kColumnsPercent), columns, header))

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "card/CycleNote.h"
+#include "card/NormalBand.h"
 
 #include <QObject>
 #include <QScopedValueRollback>
@@ -71,6 +72,14 @@ public:
         Q_EMIT notesChanged();
     }
 
+    /// Where parameters lay in earlier flights of the engine.
+    [[nodiscard]] const std::vector<NormalBand>& normal() const { return mNormal; }
+    void setNormal(std::vector<NormalBand> bands)
+    {
+        mNormal = std::move(bands);
+        Q_EMIT normalChanged();
+    }
+
     /// While the result lives, whoever changes the time is a view that is being filled, and no user: it is not heard.
     [[nodiscard]] QScopedValueRollback<bool> telling() { return QScopedValueRollback<bool>(mIsTelling, true); }
 
@@ -82,6 +91,7 @@ Q_SIGNALS:
     void selectionChanged();
     void timeChanged(double seconds, const QObject* pSource);
     void notesChanged(); ///< at any time, at once
+    void normalChanged(); ///< the same
 
 private:
     void takeSpan();
@@ -92,6 +102,7 @@ private:
     std::shared_ptr<RecordData> mpRecord;
     std::shared_ptr<RecordData> mpLast; ///< that which the views still refer to, until they are told
     std::vector<CycleNote> mNotes;
+    std::vector<NormalBand> mNormal;
     QDateTime mPowerUp;
     double mStartTime = 0.0;
     double mEndTime = 0.0;

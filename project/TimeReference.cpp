@@ -1,5 +1,6 @@
 #include "project/TimeReference.h"
 
+#include "app/Numeric.h"
 #include "app/Property.h"
 #include "app/Settings.h"
 #include "app/TimeText.h"
@@ -24,18 +25,35 @@ QString translated(const char* text)
 
 } // namespace
 
+ETimeReference TimeReference::wanted(const Property& property)
+{
+    return static_cast<ETimeReference>(Settings::kTimeReference.get(property));
+}
+
+TimeReference TimeReference::of(ETimeReference kind, const QDateTime& powerUp, const std::optional<double>& takeOff)
+{
+    if (kind == ETimeReference::eClock && powerUp.isValid())
+        return {kind, powerUp.time().msecsSinceStartOfDay() / 1000.0};
+    if (kind == ETimeReference::eTakeOff && takeOff)
+        return {kind, -*takeOff};
+    return {};
+}
+
 TimeReference TimeReference::of(const Property& property, const CardContainer& container)
 {
-    const auto kind = static_cast<ETimeReference>(Settings::kTimeReference.get(property));
-    if (kind == ETimeReference::eClock) {
-        const QDateTime powerUp = PowerUp::ofLoaded(container);
-        return powerUp.isValid() ? TimeReference(kind, powerUp.time().msecsSinceStartOfDay() / 1000.0) : TimeReference();
-    }
     const RecordCycle* pCycle = container.loadedCycle();
-    if (kind != ETimeReference::eTakeOff || !pCycle || pCycle->flights.empty())
-        return {};
-    const RecordFlight& flight = container.selectedFlightNumber() > 0 ? container.selectedFlight() : pCycle->flights.front();
-    return {kind, -flight.takeOffTime};
+    std::optional<double> takeOff;
+    if (pCycle && !pCycle->flights.empty())
+        takeOff = (container.selectedFlightNumber() > 0 ? container.selectedFlight() : pCycle->flights.front()).takeOffTime;
+    return of(wanted(property), PowerUp::ofLoaded(container), takeOff);
+}
+
+TimeReference TimeReference::of(ETimeReference kind, const LoadedCard& loaded)
+{
+    std::optional<double> takeOff;
+    if (loaded.cycle && !loaded.flights.empty())
+        takeOff = (loaded.flightNumber > 0 ? loaded.flight : loaded.flights.front()).takeOffTime;
+    return of(kind, loaded.powerUp, takeOff);
 }
 
 double TimeReference::told(double seconds) const
@@ -62,6 +80,28 @@ int64_t TimeReference::toldMilliseconds(int64_t milliseconds) const
 QString TimeReference::text(int64_t milliseconds) const
 {
     return signedTimeText(toldMilliseconds(milliseconds));
+}
+
+QString TimeReference::textAt(double seconds) const
+{
+    return text(wholeMilliseconds(seconds));
+}
+
+QString TimeReference::shortText(double seconds) const
+{
+    const auto told = saturatingCast<int64_t>(std::floor(this->told(seconds)));
+    if (mKind == ETimeReference::eClock)
+        return timeOfDayText(told * 1000, false);
+    return told < 0 && mKind == ETimeReference::eTakeOff ? '-' + elapsedText(-told, 0) : elapsedText(told, 0);
+}
+
+QString TimeReference::sentence() const
+{
+    switch (mKind) {
+    case ETimeReference::eClock: return translated(QT_TRANSLATE_NOOP("ZARN::TimeReference", "Times are those of the recorder's clock."));
+    case ETimeReference::eTakeOff: return translated(QT_TRANSLATE_NOOP("ZARN::TimeReference", "Times count from the take-off."));
+    default: return translated(QT_TRANSLATE_NOOP("ZARN::TimeReference", "Times count from the unit's power-up."));
+    }
 }
 
 QString TimeReference::title() const

@@ -6,6 +6,7 @@
 #include "app/SafeFile.h"
 #include "report/HtmlReport.h"
 #include "report/PaperReport.h"
+#include "report/ReportComparison.h"
 #include "report/ReportFront.h"
 #include "report/ReportGraph.h"
 #include "report/ReportMap.h"
@@ -64,7 +65,7 @@ QString FlightReport::head() const
     return parts.join(", ");
 }
 
-bool FlightReport::fill(ReportDocument& document, Progress& progress) const
+bool FlightReport::fill(ReportDocument& document, Progress& progress)
 {
     const auto isWanted = [&](int percent) {
         progress.setProgress(percent);
@@ -75,11 +76,12 @@ bool FlightReport::fill(ReportDocument& document, Progress& progress) const
     document.title = tr("Flight report");
     document.head = head();
     document.creator = reportText(Revision::getRevisionString());
-    const ReportFront front(mLoaded);
-    front.addTo(document, mNotes);
+    const ReportFront front(mSubject);
+    mSubject.phases = front.phases();
+    front.addTo(document);
     if (!isWanted(20))
         return false;
-    const ReportTables tables(mLoaded);
+    const ReportTables tables(mSubject);
     tables.addUnit(document);
     tables.addFlights(document);
     const EventList limits = limitEvents(*mLoaded.pRecord, mLoaded.context);
@@ -104,17 +106,21 @@ bool FlightReport::fill(ReportDocument& document, Progress& progress) const
 
 void FlightReport::addGraph(ReportDocument& document, const std::vector<Incident>& incidents, const EventList& limits) const
 {
-    const auto pGraph = std::make_shared<ReportGraph>(mLoaded, incidents, limits);
+    const auto pGraph = std::make_shared<ReportGraph>(mSubject, incidents, limits);
     document.add(ReportHeading{tr("Main parameters")});
     if (pGraph->isEmpty())
         return document.add(ReportParagraph{tr("None of them was recorded.")});
     if (pGraph->leftOut() > 0)
         document.add(ReportParagraph{tr("Not shown: %n more that exceeded a limit", nullptr, pGraph->leftOut()), ReportParagraph::eQuiet});
+    if (pGraph->hasNormal())
+        document.add(ReportParagraph{tr("Shaded: where nine of ten samples of the earlier flights of this engine lay, by phase of flight."),
+                                     ReportParagraph::eQuiet});
     document.add(ReportPicture{tr("Over time: %1").arg(pGraph->names().join(", ")), kGraphHeight, true,
                                [pGraph](QPainter& painter, const QSizeF& size) {
                                    PaperCanvas canvas(painter);
                                    pGraph->draw(canvas, {QPointF(), size});
                                }});
+    ReportComparison::addTo(document, mSubject, *pGraph);
 }
 
 void FlightReport::addMap(ReportDocument& document, const std::shared_ptr<ReportMap>& pMap)

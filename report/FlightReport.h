@@ -1,8 +1,7 @@
 #pragma once
 
 #include "app/Progress.h"
-#include "card/CycleNote.h"
-#include "card/LoadedCard.h"
+#include "report/ReportSubject.h"
 
 #include <QCoreApplication>
 
@@ -29,8 +28,7 @@ class FlightReport {
     Q_DECLARE_TR_FUNCTIONS(ZARN::FlightReport)
 
 public:
-    /// @param notes what somebody wrote about moments of it, by time
-    explicit FlightReport(LoadedCard loaded, std::vector<CycleNote> notes = {}) : mLoaded(std::move(loaded)), mNotes(std::move(notes)) {}
+    explicit FlightReport(ReportSubject subject) : mSubject(std::move(subject)) {}
 
     /// The format that a file of that name has: the one of its suffix, PDF without one; none for the suffix of something else.
     [[nodiscard]] static std::optional<EReportFormat> formatOf(const QString& fileName);
@@ -41,14 +39,17 @@ public:
     /// Why the last report failed: "NAME: reason"; empty after one that was cancelled.
     [[nodiscard]] const std::string& error() const { return mError; }
 
+    FlightReport(const FlightReport&) = delete;
+    FlightReport& operator=(const FlightReport&) = delete;
+
 private:
-    bool fill(ReportDocument& document, Progress& progress) const;
+    bool fill(ReportDocument& document, Progress& progress);
     void addGraph(ReportDocument& document, const std::vector<Incident>& incidents, const EventList& limits) const;
     static void addMap(ReportDocument& document, const std::shared_ptr<ReportMap>& pMap);
     [[nodiscard]] QString head() const;
 
-    const LoadedCard mLoaded;
-    const std::vector<CycleNote> mNotes;
+    ReportSubject mSubject;
+    const LoadedCard& mLoaded = mSubject.loaded;
     std::string mError;
 };
 

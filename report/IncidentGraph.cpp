@@ -42,8 +42,8 @@ bool isValueKind(const Episode& episode)
 
 } // namespace
 
-IncidentGraph::IncidentGraph(const LoadedCard& loaded, const std::vector<Incident>& incidents, const IncidentSentence& sentence)
-    : mLoaded(loaded)
+IncidentGraph::IncidentGraph(const ReportSubject& subject, const std::vector<Incident>& incidents, const IncidentSentence& sentence)
+    : mSubject(subject)
 {
     const std::vector<const Incident*> shown = chosen(incidents, sentence);
     if (shown.size() < sentence.incidents.size())
@@ -106,8 +106,8 @@ std::vector<IncidentGraph::Quantity> IncidentGraph::quantities(const std::vector
 
 void IncidentGraph::findStrips(const std::vector<const Incident*>& incidents)
 {
-    const ProfileModel& model = mLoaded.context.model();
-    const PaperGraph graph(mLoaded, 1);
+    const ProfileModel& model = mSubject.loaded.context.model();
+    const PaperGraph graph(mSubject, 1);
     for (const Quantity& quantity : quantities(incidents, true)) {
         const Episode& worst = *quantity.episodes.front();
         const ProfileParameter* pParameter = model.find(worst.parameter);
@@ -153,9 +153,9 @@ QString IncidentGraph::text() const
         names << quantity.name;
     for (const Strip& strip : mStrips)
         names << reportText(strip.parameter.name);
-    QString text = tr("%1, %2 to %3").arg(names.join(", "), IncidentText::time(mSpan.start), IncidentText::time(mSpan.end));
+    QString text = tr("%1, %2 to %3").arg(names.join(", "), time(mSpan.start), time(mSpan.end));
     if (mOf)
-        text += "; " + tr("the worst of them, at %1").arg(IncidentText::time(*mOf));
+        text += "; " + tr("the worst of them, at %1").arg(time(*mOf));
     if (!mLeftOut.isEmpty())
         text += "; " + tr("not shown: %1").arg(mLeftOut.join(", "));
     return text;
@@ -173,7 +173,7 @@ QString IncidentGraph::note(const Episode& episode)
 
 void IncidentGraph::draw(PaperCanvas& canvas, const QRectF& place) const
 {
-    PaperGraph graph(mLoaded, static_cast<int>(mStrips.size()));
+    PaperGraph graph(mSubject, static_cast<int>(mStrips.size()));
     std::vector<std::optional<int>> strips;
     for (const Strip& strip : mStrips)
         strips.push_back(
@@ -194,7 +194,7 @@ void IncidentGraph::drawNotes(PaperCanvas& canvas, QPointF corner) const
     const CanvasText style{PaperGraph::kTextSize, Qt::darkGray, false, Qt::AlignLeft | Qt::AlignTop, false};
     QStringList notes;
     if (mOf)
-        notes << tr("the worst of them, at %1").arg(IncidentText::time(*mOf));
+        notes << tr("the worst of them, at %1").arg(time(*mOf));
     if (!mLeftOut.isEmpty())
         notes << tr("not shown: %n more", nullptr, static_cast<int>(mLeftOut.size()));
     for (const QString& note : notes) {

@@ -11,8 +11,8 @@ class IncidentGraph {
     Q_DECLARE_TR_FUNCTIONS(ZARN::IncidentGraph)
 
 public:
-    /// @param loaded and the incidents must outlive it
-    IncidentGraph(const LoadedCard& loaded, const std::vector<Incident>& incidents, const IncidentSentence& sentence);
+    /// @param subject and the incidents must outlive it
+    IncidentGraph(const ReportSubject& subject, const std::vector<Incident>& incidents, const IncidentSentence& sentence);
 
     /// In points; 0 where there is nothing to draw.
     [[nodiscard]] double height() const;
@@ -41,7 +41,9 @@ private:
     [[nodiscard]] double barsHeight() const;
     [[nodiscard]] double unused() const;
 
-    const LoadedCard& mLoaded;
+    [[nodiscard]] QString time(double seconds) const { return mSubject.reference().shortText(seconds); }
+
+    const ReportSubject& mSubject;
     TimeSpan mSpan;
     std::vector<Strip> mStrips;
     std::vector<Quantity> mBars;

@@ -5,8 +5,12 @@
 #include "report/ReportText.h"
 #include "trace/ComputedChannel.h"
 #include "trace/TraceSet.h"
+#include "ui/graph/model/GhostCycle.h"
 #include "ui/graph/model/GraphScene.h"
+#include "ui/graph/model/NormalRange.h"
 #include "ui/graph/model/TraceSlot.h"
+
+#include <algorithm>
 
 namespace ZARN {
 
@@ -21,7 +25,7 @@ constexpr qsizetype kMostNotes = 2;    // lines below it
 
 } // namespace
 
-PaperGraph::PaperGraph(const LoadedCard& loaded, int mostStrips) : mLoaded(loaded), mMost(mostStrips)
+PaperGraph::PaperGraph(const ReportSubject& subject, int mostStrips) : mSubject(subject), mLoaded(subject.loaded), mMost(mostStrips)
 {
     mModel.traces().setCount(mostStrips);
     mModel.setOfflineMode(true);
@@ -30,8 +34,32 @@ PaperGraph::PaperGraph(const LoadedCard& loaded, int mostStrips) : mLoaded(loade
     settings.displayMode = eSplit;
     settings.cursorOn = false;
     settings.legendOn = false; // it tells of a cursor; the strips have their names beside them
+    settings.times = subject.reference();
     settings.usePalette(EGraphPalette::ePrint);
     mModel.settingsChanged();
+}
+
+void PaperGraph::compare()
+{
+    const auto& [pCycle, shift] = mSubject.comparison;
+    if (!pCycle || !pCycle->loaded.pRecord)
+        return;
+    mpGhost = std::make_shared<Ghost>();
+    mpGhost->name = pCycle->name;
+    mpGhost->traces.setCount(mMost);
+    mModel.scenery().setGhost(mpGhost);
+    mModel.scenery().setGhostShift(shift);
+}
+
+void PaperGraph::addGhost(int slot, const ProfileParameter& parameter, const TimeSpan& samples)
+{
+    const double shift = mSubject.comparison.shift;
+    const auto pTrace =
+        TraceSet::one(*mSubject.comparison.pCycle->loaded.pRecord, mLoaded.context, parameter, ENumber::eDisplay, mGhostFilter);
+    describeSlot(mpGhost->traces, slot, *pTrace);
+    fillSlot(mpGhost->traces, slot, *pTrace, samples.start - shift, samples.end - shift);
+    const ValueRange<double> values = mpGhost->traces.at(slot)->samples.extremes();
+    mModel.traces().edit(slot, [&values](GraphParameter& own) { own.ghostValues = values; });
 }
 
 std::optional<int> PaperGraph::add(const ProfileParameter& parameter, const TimeSpan& samples, const QString& note)
@@ -45,7 +73,24 @@ std::optional<int> PaperGraph::add(const ProfileParameter& parameter, const Time
     if (mModel.traces().at(slot)->samples.extremes().isEmpty())
         return {};
     describeSlot(mModel.traces(), slot, *pTrace);
+    if (mpGhost)
+        addGhost(slot, parameter, samples);
+    std::vector<TimeSpan> flights;
+    for (const RecordFlight& flight : mLoaded.flights)
+        flights.push_back({flight.startTime, flight.endTime});
+    const std::vector<NormalStretch> normal = normalStretches(mSubject.normal, mSubject.phases, flights, *pTrace);
+    mModel.traces().edit(slot, [&normal](GraphParameter& trace) { trace.normal = normal; });
     return slot;
+}
+
+std::vector<MarkerValues> PaperGraph::values(const TimeSpan& span) const
+{
+    return markerValues(mModel.traces(), {span.start, span.end}, &mModel.scenery());
+}
+
+bool PaperGraph::hasNormal() const
+{
+    return std::ranges::any_of(mModel.traces().shown(), [this](int slot) { return !mModel.traces().at(slot)->normal.empty(); });
 }
 
 bool PaperGraph::canShow(const ProfileParameter& parameter) const

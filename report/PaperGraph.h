@@ -1,6 +1,6 @@
 #pragma once
 
-#include "card/LoadedCard.h"
+#include "report/ReportSubject.h"
 #include "ui/graph/model/GraphFrame.h"
 
 namespace ZARN {
@@ -11,8 +11,11 @@ struct TimeSpan;
 /// Parameters over time on paper, each in a strip of its own with its bands; what they are called stands left of them, where it hides no trace.
 class PaperGraph {
 public:
-    /// @param loaded must outlive it
-    PaperGraph(const LoadedCard& loaded, int mostStrips);
+    /// @param subject must outlive it
+    PaperGraph(const ReportSubject& subject, int mostStrips);
+
+    /// Before strips are added: each has what the subject is compared with behind it.
+    void compare();
 
     /// Whether the parameter was recorded, as a number.
     [[nodiscard]] bool canShow(const ProfileParameter& parameter) const;
@@ -22,6 +25,10 @@ public:
     std::optional<int> add(const ProfileParameter& parameter, const TimeSpan& samples, const QString& note = {});
     [[nodiscard]] int count() const { return mModel.traces().count(); }
     void setWindow(const TimeSpan& span);
+    /// Of the strips, and of what each is compared with.
+    [[nodiscard]] std::vector<MarkerValues> values(const TimeSpan& span) const;
+    /// Whether a strip shows where earlier flights lay.
+    [[nodiscard]] bool hasNormal() const;
 
     /// What a drawing has above and below its strips, in points.
     struct Frame {
@@ -43,8 +50,12 @@ public:
     static constexpr double kTextSize = 7.0;
 
 private:
+    void addGhost(int slot, const ProfileParameter& parameter, const TimeSpan& samples);
+
+    const ReportSubject& mSubject;
     const LoadedCard& mLoaded;
-    CoordinateFilter mFilter;
+    CoordinateFilter mFilter, mGhostFilter;
+    std::shared_ptr<Ghost> mpGhost; ///< null where nothing is compared
     GraphModel mModel;
     GraphFrame mFrame;
     QPointF mShift;

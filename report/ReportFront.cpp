@@ -1,7 +1,6 @@
 #include "report/ReportFront.h"
 
 #include "analysis/ReviewText.h"
-#include "card/CardContainer.h"
 #include "report/IncidentGraph.h"
 #include "report/PaperCanvas.h"
 #include "report/ReportText.h"
@@ -25,8 +24,10 @@ QString capitalised(QString text)
 
 } // namespace
 
-ReportFront::ReportFront(const LoadedCard& loaded) : mLoaded(loaded), mpOverview(std::make_shared<CycleOverview>())
+ReportFront::ReportFront(const ReportSubject& subject)
+    : mSubject(subject), mLoaded(subject.loaded), mTimes(subject.reference()), mpOverview(std::make_shared<CycleOverview>())
 {
+    const LoadedCard& loaded = mLoaded;
     CycleOverview& overview = *mpOverview;
     const std::vector<RecordFlight> flights = loaded.cycle ? loaded.flights : std::vector<RecordFlight>();
     overview.number = loaded.cycle.value_or(0);
@@ -34,7 +35,9 @@ ReportFront::ReportFront(const LoadedCard& loaded) : mLoaded(loaded), mpOverview
     overview.startTime = loaded.startTime;
     overview.endTime = loaded.endTime;
     overview.flights = flights;
+    overview.times = mTimes;
     overview.review = reviewCycle(loaded.values(), flights, loaded.wholeEnd);
+    mPhases = overview.review.phases;
     if (!isFlight())
         return;
     const std::size_t all = overview.review.incidents.size();
@@ -43,13 +46,13 @@ ReportFront::ReportFront(const LoadedCard& loaded) : mLoaded(loaded), mpOverview
     mOutside = all - overview.review.incidents.size();
 }
 
-void ReportFront::addTo(ReportDocument& document, const std::vector<CycleNote>& notes) const
+void ReportFront::addTo(ReportDocument& document) const
 {
     addVerdict(document);
     addIdentity(document);
     addProblems(document);
     addIncidents(document);
-    addNotes(document, notes);
+    addNotes(document);
 }
 
 void ReportFront::addVerdict(ReportDocument& document) const
@@ -72,11 +75,11 @@ void ReportFront::addIdentity(ReportDocument& document) const
         ReportPairs{{{tr("Card"), mLoaded.card},
                      {tr("Date, as recorded"), reportDate(mLoaded.powerUp, tr("no clock"))},
                      {tr("Power cycle"), isFlight() ? tr("%1, flight %2").arg(cycle, QString::number(mLoaded.flightNumber)) : cycle},
-                     {tr("From"), CardContainer::time(mLoaded.startTime)},
+                     {tr("From"), mTimes.textAt(mLoaded.startTime)},
                      {tr("Profile"), reportText(model.name)},
-                     {tr("To"), CardContainer::time(mLoaded.endTime)},
+                     {tr("To"), mTimes.textAt(mLoaded.endTime)},
                      {tr("Variant"), model.variant.empty() ? QStringLiteral("-") : reportText(model.variant)}}});
-    document.add(ReportParagraph{tr("Times count from the unit's power-up."), ReportParagraph::eQuiet});
+    document.add(ReportParagraph{mTimes.sentence(), ReportParagraph::eQuiet});
 }
 
 void ReportFront::addProblems(ReportDocument& document) const
@@ -116,13 +119,13 @@ void ReportFront::addIncidents(ReportDocument& document) const
 }
 
 /// Those of the span that the report is about.
-void ReportFront::addNotes(ReportDocument& document, const std::vector<CycleNote>& notes) const
+void ReportFront::addNotes(ReportDocument& document) const
 {
     ReportTable table{tr("Notes"), {{tr("Time"), false, {}, true}, {tr("Note")}}};
-    for (const CycleNote& note : notes) {
+    for (const CycleNote& note : mSubject.notes) {
         if (note.time < mLoaded.startTime || note.time > mLoaded.endTime)
             continue;
-        table.columns[0].cells << CardContainer::time(note.time);
+        table.columns[0].cells << mTimes.textAt(note.time);
         table.columns[1].cells << printable(note.text);
     }
     if (table.columns[0].cells.isEmpty())
@@ -144,7 +147,7 @@ QString ReportFront::moreText(const std::vector<IncidentSentence>& sentences, st
 
 ReportPicture ReportFront::graph(const IncidentSentence& sentence) const
 {
-    const auto pGraph = std::make_shared<IncidentGraph>(mLoaded, mpOverview->review.incidents, sentence);
+    const auto pGraph = std::make_shared<IncidentGraph>(mSubject, mpOverview->review.incidents, sentence);
     if (pGraph->height() <= 0.0)
         return {};
     return {pGraph->text(), pGraph->height(), false, [pGraph, pOverview = mpOverview](QPainter& painter, const QSizeF& size) {

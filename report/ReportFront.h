@@ -1,8 +1,8 @@
 #pragma once
 
 #include "analysis/IncidentText.h"
-#include "card/LoadedCard.h"
 #include "report/ReportDocument.h"
+#include "report/ReportSubject.h"
 #include "ui/overview/model/CycleOverview.h"
 
 #include <QCoreApplication>
@@ -14,10 +14,12 @@ class ReportFront {
     Q_DECLARE_TR_FUNCTIONS(ZARN::FlightReport)
 
 public:
-    /// @param loaded must outlive the document
-    explicit ReportFront(const LoadedCard& loaded);
+    /// @param subject must outlive the document
+    explicit ReportFront(const ReportSubject& subject);
 
-    void addTo(ReportDocument& document, const std::vector<CycleNote>& notes) const;
+    void addTo(ReportDocument& document) const;
+    /// Of the whole cycle.
+    [[nodiscard]] const std::vector<FlightPhases::Step>& phases() const { return mPhases; }
     [[nodiscard]] const std::vector<Incident>& incidents() const { return mpOverview->review.incidents; }
 
 private:
@@ -25,12 +27,15 @@ private:
     void addIdentity(ReportDocument& document) const;
     void addProblems(ReportDocument& document) const;
     void addIncidents(ReportDocument& document) const;
-    void addNotes(ReportDocument& document, const std::vector<CycleNote>& notes) const;
+    void addNotes(ReportDocument& document) const;
     [[nodiscard]] ReportPicture graph(const IncidentSentence& sentence) const;
     [[nodiscard]] QString moreText(const std::vector<IncidentSentence>& sentences, std::size_t told) const;
     [[nodiscard]] bool isFlight() const { return mLoaded.cycle && mLoaded.flightNumber > 0; }
 
+    const ReportSubject& mSubject;
     const LoadedCard& mLoaded;
+    const TimeReference mTimes;
+    std::vector<FlightPhases::Step> mPhases;
     std::shared_ptr<CycleOverview> mpOverview; // shared with the drawings
     std::size_t mOutside = 0;                  ///< incidents of the cycle outside of the flight
 };

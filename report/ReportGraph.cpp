@@ -13,11 +13,12 @@ constexpr int kMostStrips = 10;
 
 } // namespace
 
-ReportGraph::ReportGraph(const LoadedCard& loaded, const std::vector<Incident>& incidents, const EventList& limits)
-    : mLoaded(loaded), mGraph(loaded, kMostStrips)
+ReportGraph::ReportGraph(const ReportSubject& subject, const std::vector<Incident>& incidents, const EventList& limits)
+    : mLoaded(subject.loaded), mGraph(subject, kMostStrips)
 {
+    mGraph.compare();
     for (const char* key : kMain)
-        add(loaded.context.model().ofZarnType(key).name);
+        add(mLoaded.context.model().ofZarnType(key).name);
     for (const int state : {eThresholdLimit, eThresholdWarning}) { // what was worst first: there is room for some only
         for (const Incident& incident : incidents) {
             for (const Episode& episode : incident.episodes) {
@@ -28,11 +29,11 @@ ReportGraph::ReportGraph(const LoadedCard& loaded, const std::vector<Incident>& 
     }
     for (const int state : {eThresholdLimit, eThresholdWarning}) {
         for (const Event& event : limits.events()) {
-            if (event.state == state && event.time >= loaded.startTime && event.time <= loaded.endTime)
+            if (event.state == state && event.time >= mLoaded.startTime && event.time <= mLoaded.endTime)
                 add(limits.source(event).parameter);
         }
     }
-    mGraph.setWindow({loaded.startTime, loaded.endTime});
+    mGraph.setWindow({mLoaded.startTime, mLoaded.endTime});
 }
 
 void ReportGraph::add(const std::string& name)

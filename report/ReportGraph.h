@@ -13,13 +13,16 @@ struct Incident;
 /// a limit.
 class ReportGraph {
 public:
-    /// @param loaded must outlive it
-    ReportGraph(const LoadedCard& loaded, const std::vector<Incident>& incidents, const EventList& limits);
+    /// @param subject must outlive it
+    ReportGraph(const ReportSubject& subject, const std::vector<Incident>& incidents, const EventList& limits);
 
     [[nodiscard]] bool isEmpty() const { return mGraph.count() == 0; }
     /// How many parameters that exceeded a limit found no room.
     [[nodiscard]] int leftOut() const { return mLeftOut; }
     [[nodiscard]] const QStringList& names() const { return mNames; }
+    /// Of the parameters, each followed by what it is compared with.
+    [[nodiscard]] std::vector<MarkerValues> values(const TimeSpan& span) const { return mGraph.values(span); }
+    [[nodiscard]] bool hasNormal() const { return mGraph.hasNormal(); }
     void draw(PaperCanvas& canvas, const QRectF& place) { mGraph.draw(canvas, place); }
 
 private:

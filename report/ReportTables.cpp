@@ -2,7 +2,6 @@
 
 #include "analysis/EventList.h"
 #include "app/Numeric.h"
-#include "card/CardContainer.h"
 #include "card/FlightFigures.h"
 #include "card/record/HeaderField.h"
 #include "report/ReportFaults.h"
@@ -92,8 +91,7 @@ ReportTable ReportTables::figures(const std::vector<RecordFlight>& flights, std:
     for (std::size_t i = first; i < last; ++i) {
         const RecordFlight& flight = flights[i];
         const QDateTime takeOff = mLoaded.powerUp.addSecs(saturatingCast<qint64>(flight.takeOffTime));
-        QStringList cells{reportDate(takeOff, tr("no clock")), CardContainer::time(flight.takeOffTime),
-                          CardContainer::time(flight.landingTime)};
+        QStringList cells{reportDate(takeOff, tr("no clock")), mTimes.textAt(flight.takeOffTime), mTimes.textAt(flight.landingTime)};
         for (int figure = 0; figure < eFigureCount; ++figure)
             cells.append(flightFigureText(flight, static_cast<EFlightFigure>(figure), EFigureText::eFixed));
         table.columns.push_back({QString::number(firstNumber + static_cast<int>(i)), true, cells});
@@ -113,7 +111,7 @@ void ReportTables::addEvents(ReportDocument& document, const EventList& list, co
     const auto more = static_cast<int>(inside.events().size() - shown.size());
     for (const Event* pEvent : shown) {
         const EventSource& source = inside.source(*pEvent);
-        addRow(table, {CardContainer::time(pEvent->time), reportText(source.group), reportText(source.parameter), reportText(pEvent->value),
+        addRow(table, {mTimes.textAt(pEvent->time), reportText(source.group), reportText(source.parameter), reportText(pEvent->value),
                        reportText(source.unit), states.value(pEvent->state, QString::number(pEvent->state))});
     }
     add(document, std::move(table), nothing, more,
@@ -139,8 +137,7 @@ void ReportTables::addFaults(ReportDocument& document) const
     const int more = static_cast<int>(faults.size() - room);
     for (const ReportFault& fault : std::span(faults).first(room)) {
         addRow(table, {reportText(fault.pMatrix->name), QString::number(fault.bit), kinds.value(fault.pBit->errorType),
-                       reportText(fault.pBit->name), CardContainer::time(fault.first), CardContainer::time(fault.last),
-                       QString::number(fault.times)});
+                       reportText(fault.pBit->name), mTimes.textAt(fault.first), mTimes.textAt(fault.last), QString::number(fault.times)});
     }
     const bool hasFaults = !mLoaded.context.model().errorMatrices.empty();
     add(document, std::move(table), hasFaults ? tr("No fault was present.") : tr("The profile declares no faults."), more);

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "card/LoadedCard.h"
 #include "report/ReportDocument.h"
+#include "report/ReportSubject.h"
 
 #include <QCoreApplication>
 
@@ -14,8 +14,8 @@ class ReportTables {
     Q_DECLARE_TR_FUNCTIONS(ZARN::FlightReport)
 
 public:
-    /// @param loaded must outlive it
-    explicit ReportTables(const LoadedCard& loaded) : mLoaded(loaded) {}
+    /// @param subject must outlive it
+    explicit ReportTables(const ReportSubject& subject) : mLoaded(subject.loaded), mTimes(subject.reference()) {}
 
     void addUnit(ReportDocument& document) const;
     void addFlights(ReportDocument& document) const;
@@ -31,6 +31,7 @@ private:
     static void add(ReportDocument& document, ReportTable table, const QString& nothing, int more, const QString& note = {});
 
     const LoadedCard& mLoaded;
+    const TimeReference mTimes;
 };
 
 } // namespace ZARN

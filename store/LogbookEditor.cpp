@@ -30,10 +30,12 @@ LogbookEditor::LogbookEditor(const std::string& path) : mDatabase(path, Database
 void LogbookEditor::finishFailure()
 {
     mError = mDatabase.error();
-    if (!isDamaged())
+    if (mDatabase.failure() != Database::eDamaged)
         return;
     mDatabase.close();
-    mError += putAside(mDatabase.path());
+    const StoreRescue rescue = rescueStore(mDatabase.path(), mError);
+    mError = rescue.error;
+    mIsDamaged = rescue.isDamaged;
 }
 
 bool LogbookEditor::write(const std::function<void()>& work)

@@ -19,7 +19,7 @@ public:
     /// "PATH: reason" of the first failure; else empty. Nothing is written after it.
     [[nodiscard]] const std::string& error() const { return mError; }
     /// Whether that was damage: the store was put aside.
-    [[nodiscard]] bool isDamaged() const { return mDatabase.failure() == Database::eDamaged; }
+    [[nodiscard]] bool isDamaged() const { return mIsDamaged; }
 
     // All return whether it was kept.
     /// A note of a cycle; one with an identifier takes the place of what it was, and without a text is removed.
@@ -42,6 +42,7 @@ private:
 
     Database mDatabase;
     std::string mError;
+    bool mIsDamaged = false;
 };
 
 } // namespace ZARN

@@ -52,6 +52,7 @@ struct LogbookNote {
     std::string card;
     int cycle = 0;
     std::string dateTime; ///< of the cycle
+    std::string aircraft = {}; ///< that the engine is in; empty: not told
 };
 
 /// What the logbook shows of a store that others may write meanwhile. For one thread.

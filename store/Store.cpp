@@ -20,22 +20,7 @@ Store::Store(const std::string& path, AnalysisKey key) : mKey(std::move(key)), m
 void Store::open()
 {
     if (StoreSchema::prepare(mDatabase))
-        checkContent(mDatabase);
-}
-
-/// The second look: what a medium did not give once is no damage.
-bool Store::isDamaged(const std::string& path)
-{
-    Database again(path, Database::eReadOnly);
-    checkContent(again);
-    return again.failure() == Database::eDamaged;
-}
-
-void Store::checkContent(Database& database)
-{
-    Statement check(database, "PRAGMA quick_check(1)");
-    if (check.next() && check.text(0) != "ok")
-        database.failChecked(check.text(0));
+        checkStoreContent(mDatabase);
 }
 
 /// A damaged store is not written any more: it is kept under another name, so that the next scan makes a sound one.
@@ -45,10 +30,7 @@ void Store::finishFailure()
     if (mDatabase.failure() != Database::eDamaged)
         return;
     mDatabase.close();
-    if (isDamaged(mDatabase.path()))
-        mError += putAside(mDatabase.path());
-    else
-        mError = mDatabase.path() + ": " + tr("it could not be read; nothing is wrong with it").toStdString();
+    mError = rescueStore(mDatabase.path(), mError).error;
 }
 
 void Store::checkPlace()

@@ -31,8 +31,6 @@ public:
 private:
     void open();
     void checkPlace();
-    static bool isDamaged(const std::string& path);
-    static void checkContent(Database& database);
     void finishFailure();
     /// Does work on the database, in a transaction. @return error()
     template <typename Work> const std::string& write(Work work);

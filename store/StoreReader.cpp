@@ -43,20 +43,21 @@ std::vector<Trend> StoreReader::trends(const std::string& engine, const TrendFil
 {
     std::vector<Trend> trends;
     Statement& found = mDatabase.prepared(
-        kFlights + "SELECT at, card_id, cycle_number, placed.number, cycle_id, date_time, median, p05, p95, decimals, "
-                                "key_value.parameter, phase, unit FROM placed JOIN key_value USING (flight_id) "
-                                "LEFT JOIN parameter_precision AS p ON p.profile_hash = placed.profile_hash AND p.parameter = "
-                                "key_value.parameter WHERE (?2 = '' OR key_value.parameter = ?2) AND (?3 = '' OR phase = ?3) "
-                                "AND median IS NOT NULL ORDER BY 11, 12, 1, 2, 3, 4, key_value.rowid");
+        kFlights + "SELECT at, card_id, cycle_number, placed.number, cycle_id, date_time, median, p05, p95, minimum, maximum, decimals, "
+                   "key_value.parameter, phase, unit FROM placed JOIN key_value USING (flight_id) "
+                   "LEFT JOIN parameter_precision AS p ON p.profile_hash = placed.profile_hash AND p.parameter = "
+                   "key_value.parameter WHERE (?2 = '' OR key_value.parameter = ?2) AND (?3 = '' OR phase = ?3) "
+                   "AND median IS NOT NULL ORDER BY 13, 14, 1, 2, 3, 4, key_value.rowid");
     found.with({engine, filter.parameter, filter.phase});
     while (found.next()) {
-        const std::string parameter = found.text(10), phase = found.text(11);
+        const std::string parameter = found.text(12), phase = found.text(13);
         if (trends.empty() || trends.back().parameter != parameter || trends.back().phase != phase)
-            trends.push_back({engine, parameter, found.text(12), phase, {}});
+            trends.push_back({engine, parameter, found.text(14), phase, {}});
         std::vector<TrendPoint>& points = trends.back().points;
-        TrendPoint point{placeOf(found), found.text(4), found.text(5), found.real(6), found.real(7), found.real(8), {}};
-        if (!found.isNull(9))
-            point.precision = static_cast<int>(found.integer(9));
+        TrendPoint point{
+            placeOf(found), found.text(4), found.text(5), found.real(6), found.real(7), found.real(8), found.real(9), found.real(10), {}};
+        if (!found.isNull(11))
+            point.precision = static_cast<int>(found.integer(11));
         if (points.empty() || points.back().place != point.place) // two parameters of one name tell it once
             points.push_back(std::move(point));
     }

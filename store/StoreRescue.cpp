@@ -86,8 +86,7 @@ QString translated(const char* text)
     return QCoreApplication::translate("ZARN::Store", text);
 }
 
-} // namespace
-
+/// Under another name, so that the next scan makes a sound one.
 std::string putAside(const std::string& path)
 {
     const std::string aside = path + ".damaged-" + QDateTime::currentDateTime().toString("yyyyMMdd-hhmmss").toStdString();
@@ -104,6 +103,31 @@ std::string putAside(const std::string& path)
     if (const std::size_t rows = rescueTyped(aside, path))
         told += translated(QT_TRANSLATE_NOOP("ZARN::Store", "; rows of notes, services and readings that were kept: %1")).arg(rows);
     return told.toStdString();
+}
+
+/// The second look: what a medium did not give once is no damage.
+bool isDamaged(const std::string& path)
+{
+    Database again(path, Database::eReadOnly);
+    checkStoreContent(again);
+    return again.failure() == Database::eDamaged;
+}
+
+} // namespace
+
+void checkStoreContent(Database& database)
+{
+    Statement check(database, "PRAGMA quick_check(1)");
+    if (check.next() && check.text(0) != "ok")
+        database.failChecked(check.text(0));
+}
+
+StoreRescue rescueStore(const std::string& path, const std::string& error)
+{
+    if (isDamaged(path))
+        return {error + putAside(path), true};
+    return {path + ": " + translated(QT_TRANSLATE_NOOP("ZARN::Store", "it could not be read; nothing is wrong with it")).toStdString(),
+            false};
 }
 
 } // namespace ZARN

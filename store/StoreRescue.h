@@ -4,9 +4,19 @@
 
 namespace ZARN {
 
-/// Gives a damaged store another name, so that the next scan makes a sound one, and takes what people typed (services, readings, notes,
-/// names of aircraft, which engines are one) over into a new one, as far as it can be read: no scan brings that back.
-/// @return "; ..." for people, what became of it; empty when it could not be put aside
-[[nodiscard]] std::string putAside(const std::string& path);
+class Database;
+
+/// What became of a store whose reading failed as that of a damaged one does.
+struct StoreRescue {
+    std::string error;      ///< to be told
+    bool isDamaged = false; ///< it was put aside
+};
+
+/// Looks a second time, and puts a damaged store aside under another name. What people typed into it is kept in a new one as far as it can be
+/// read. @param error what was found first; nobody may have the store open here
+[[nodiscard]] StoreRescue rescueStore(const std::string& path, const std::string& error);
+
+/// Fails the database where its content is not sound.
+void checkStoreContent(Database& database);
 
 } // namespace ZARN

@@ -36,6 +36,8 @@ struct TrendPoint {
     double median = 0.0;
     double p05 = 0.0;
     double p95 = 0.0;
+    double minimum = 0.0;
+    double maximum = 0.0;
     std::optional<int> precision; ///< of the parameter, where the store knows it
 };
 

@@ -1,6 +1,7 @@
 #include "store/Unusual.h"
 
 #include "analysis/IncidentText.h"
+#include "profile/DisplayUnit.h"
 #include "store/StoreText.h"
 
 #include <algorithm>
@@ -14,17 +15,6 @@ using Place = TrendPoint::Place;
 
 constexpr const char* kLast = "~"; // behind every date
 constexpr int64_t kNoCard = std::numeric_limits<int64_t>::max();
-
-/// Where each flight stands in time among those of the store.
-std::vector<Place> placesOf(StoreReader& store, const std::string& engine, const CycleHead& cycle, std::span<const RecordFlight> flights)
-{
-    std::vector<Place> places = store.places(engine, cycle.id);
-    for (std::size_t i = places.size(); i < flights.size(); ++i) {
-        const std::string date = storeDate(flights[i].dateTime);
-        places.push_back({date.empty() ? kLast : date, kNoCard, cycle.number, static_cast<int64_t>(i + 1)});
-    }
-    return places;
-}
 
 /// The figures before a flight: those of the store, and of the cycle's own flights those that were found now.
 std::vector<double> figuresBefore(const Trend* pTrend, const CycleHead& cycle, std::vector<std::pair<Place, double>> own,
@@ -45,6 +35,16 @@ std::vector<double> figuresBefore(const Trend* pTrend, const CycleHead& cycle, s
 }
 
 } // namespace
+
+std::vector<Place> placesOf(StoreReader& store, const std::string& engine, const CycleHead& cycle, std::span<const RecordFlight> flights)
+{
+    std::vector<Place> places = store.places(engine, cycle.id);
+    for (std::size_t i = places.size(); i < flights.size(); ++i) {
+        const std::string date = storeDate(flights[i].dateTime);
+        places.push_back({date.empty() ? kLast : date, kNoCard, cycle.number, static_cast<int64_t>(i + 1)});
+    }
+    return places;
+}
 
 std::vector<Unusual> findUnusual(StoreReader& store, const CycleHead& cycle, std::span<const RecordFlight> flights,
                                  const CycleReview& review)
@@ -78,11 +78,12 @@ QString UnusualText::sentence(const Unusual& unusual) const
 {
     const int decimals = unusual.source.precision;
     const Distribution& band = unusual.judgement.band;
-    const QString unit = unusual.source.unit.empty() ? QString() : " " + QString::fromStdString(unusual.source.unit);
+    const DisplayUnit shown(mContext, unusual.source.parameter, unusual.source.unit);
+    const auto number = [&](double value) { return mLocale.toString(shown.value(value), 'f', decimals); };
+    const QString unit = shown.unit().empty() ? QString() : " " + QString::fromStdString(shown.unit());
     const QString text = tr("%1 %2 %3, in the %4 flights before %5 to %6")
                              .arg(QString::fromStdString(unusual.source.parameter), IncidentText::phaseText(unusual.phase),
-                                  mLocale.toString(unusual.median, 'f', decimals) + unit, QString::number(band.samples),
-                                  mLocale.toString(band.p05, 'f', decimals), mLocale.toString(band.p95, 'f', decimals) + unit);
+                                  number(unusual.median) + unit, QString::number(band.samples), number(band.p05), number(band.p95) + unit);
     if (!unusual.judgement.isDrifting)
         return text;
     return unusual.judgement.isUnusual ? tr("%1, and drifting").arg(text) : tr("%1, drifting").arg(text);

@@ -17,6 +17,10 @@ struct Unusual {
     TrendJudgement judgement;
 };
 
+/// Where the flights of a cycle stand in the order of time among those of a store, whether it has them or not.
+[[nodiscard]] std::vector<TrendPoint::Place> placesOf(StoreReader& store, const std::string& engine, const CycleHead& cycle,
+                                                      std::span<const RecordFlight> flights);
+
 /// Compares the flights of a reviewed cycle with those before them of the same engine in a store, whether the cycle is in it or not.
 /// @param review with key values; @return what is unusual or drifting: the farthest off first
 [[nodiscard]] std::vector<Unusual> findUnusual(StoreReader& store, const CycleHead& cycle, std::span<const RecordFlight> flights,
@@ -27,12 +31,14 @@ class UnusualText {
     Q_DECLARE_TR_FUNCTIONS(ZARN::UnusualText)
 
 public:
-    explicit UnusualText(QLocale locale) : mLocale(std::move(locale)) {}
+    /// @param context whose unit is wanted; where its profile does not know the parameter, figures stay metric
+    UnusualText(QLocale locale, DecodingContext context) : mLocale(std::move(locale)), mContext(std::move(context)) {}
     /// "Oil Temperature A in climb 104 °C, in 30 flights before 92 to 97 °C, and drifting"
     [[nodiscard]] QString sentence(const Unusual& unusual) const;
 
 private:
     QLocale mLocale;
+    DecodingContext mContext;
 };
 
 } // namespace ZARN

@@ -21,6 +21,16 @@ StoredRecord recordOf(uint64_t ticks, double value)
     return record;
 }
 
+template <typename Visitor> void forEachValue(Formula& formula, const RecordData& data, const DecodingContext& context, Visitor visit)
+{
+    formula.begin();
+    forEachHeld(formula.operands(), data, context.in(EUnit::eMetric), [&](uint64_t ticks, std::span<const double> values) {
+        for (std::size_t i = 0; i < values.size(); ++i)
+            formula.set(i, values[i]);
+        visit(ticks, formula.at(recordTime(static_cast<uint32_t>(ticks >> 32), static_cast<uint32_t>(ticks))));
+    });
+}
+
 } // namespace
 
 std::shared_ptr<const RecordChannel> recordedChannel(const RecordData& data, uint32_t identifier)
@@ -35,7 +45,7 @@ std::shared_ptr<const RecordChannel> channelOf(const RecordData& data, const Dec
     return data.computedChannel(context.model().identity(), parameter.name, [&](RecordEntries& entries, RecordPool& pool) {
         try {
             Formula formula(parameter.expression, context.model(), parameter.name);
-            evaluate(formula, data, context, [&](uint64_t ticks, double value) {
+            forEachValue(formula, data, context, [&](uint64_t ticks, double value) {
                 if (!entries.append(recordOf(ticks, value), pool))
                     throw std::bad_alloc();
             });
@@ -47,12 +57,7 @@ std::shared_ptr<const RecordChannel> channelOf(const RecordData& data, const Dec
 
 void evaluate(Formula& formula, const RecordData& data, const DecodingContext& context, const std::function<void(uint64_t, double)>& visit)
 {
-    formula.begin();
-    forEachHeld(formula.operands(), data, context.in(EUnit::eMetric), [&](uint64_t ticks, std::span<const double> values) {
-        for (std::size_t i = 0; i < values.size(); ++i)
-            formula.set(i, values[i]);
-        visit(ticks, formula.at(recordTime(static_cast<uint32_t>(ticks >> 32), static_cast<uint32_t>(ticks))));
-    });
+    forEachValue(formula, data, context, visit);
 }
 
 } // namespace ZARN

@@ -14,9 +14,11 @@ void HeldOperand::read()
     mPosition += mRun.size();
     mNext = 0;
     mRun = {};
+    mTicks = kEnd;
     if (!mpChannel || mPosition >= mpChannel->entries.size())
         return;
     mRun = mpChannel->entries.run(mPosition, Trace::kRun);
+    mTicks = mRun.front().ticks;
     mTrace.readNumbers(mPosition, std::span(mNumbers).first(mRun.size()));
 }
 

@@ -12,14 +12,19 @@ class HeldOperand {
 public:
     HeldOperand(const RecordData& data, const DecodingContext& context, const ProfileParameter& parameter, CoordinateFilter& filter);
 
-    [[nodiscard]] bool atEnd() const { return mNext == mRun.size(); }
-    [[nodiscard]] uint64_t ticks() const { return mRun[mNext].ticks; }
+    /// What no record has.
+    static constexpr uint64_t kEnd = UINT64_MAX;
+
+    /// The time of the sample; kEnd behind the last.
+    [[nodiscard]] uint64_t ticks() const { return mTicks; }
     /// The value of the sample, which is left.
     double take()
     {
         const double number = mNumbers[mNext++];
         if (mNext == mRun.size())
             read();
+        else
+            mTicks = mRun[mNext].ticks;
         return number;
     }
 
@@ -31,6 +36,7 @@ private:
     std::size_t mPosition = 0;
     std::span<const StoredRecord> mRun;
     std::size_t mNext = 0;
+    uint64_t mTicks = kEnd;
     std::array<double, Trace::kRun> mNumbers;
 };
 
@@ -45,23 +51,24 @@ void forEachHeld(const std::vector<const ProfileParameter*>& parameters, const R
     std::vector<std::unique_ptr<HeldOperand>> operands;
     for (const ProfileParameter* pParameter : parameters) {
         operands.push_back(std::make_unique<HeldOperand>(data, context, *pParameter, filter));
-        if (operands.back()->atEnd())
+        if (operands.back()->ticks() == HeldOperand::kEnd)
             return;
     }
     std::vector<double> values(operands.size());
     std::vector<bool> isKnown(operands.size());
-    std::size_t unknown = operands.size(), ended = 0;
-    while (ended < operands.size()) {
-        uint64_t ticks = UINT64_MAX;
-        for (const auto& pOperand : operands) {
-            if (!pOperand->atEnd())
-                ticks = std::min(ticks, pOperand->ticks());
-        }
+    std::size_t unknown = operands.size();
+    while (true) {
+        uint64_t ticks = HeldOperand::kEnd;
+        for (const auto& pOperand : operands)
+            ticks = std::min(ticks, pOperand->ticks());
+        if (ticks == HeldOperand::kEnd)
+            return;
         for (std::size_t i = 0; i < operands.size(); ++i) {
-            if (operands[i]->atEnd() || operands[i]->ticks() != ticks)
+            if (operands[i]->ticks() != ticks)
                 continue;
             values[i] = operands[i]->take();
-            ended += operands[i]->atEnd() ? 1 : 0;
+            if (unknown == 0)
+                continue;
             unknown -= isKnown[i] ? 0 : 1;
             isKnown[i] = true;
         }

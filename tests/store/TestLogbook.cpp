@@ -1,14 +1,24 @@
+#include "app/SafeFile.h"
 #include "card/CycleNote.h"
 #include "store/LogbookEditor.h"
 #include "store/LogbookReader.h"
+#include "store/NormalBands.h"
 #include "store/Service.h"
 #include "store/StoreSchema.h"
+#include "ui/logbook/model/LogbookCsv.h"
 
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
 using namespace ZARN;
+
+namespace {
+
+/// Least, 5 %, median, 95 % and greatest of each.
+using Flights = std::vector<std::array<double, 5>>;
+
+} // namespace
 
 /// What people see of a store, and what they write into it.
 class TestLogbook : public QObject {
@@ -23,6 +33,10 @@ private Q_SLOTS:
     void mergesEngines();
     void services_data();
     void services();
+    void percentiles_data();
+    void percentiles();
+    void bandsOfEarlierFlights();
+    void formulasAreText();
     void badStores_data();
     void badStores();
 
@@ -176,6 +190,78 @@ void TestLogbook::services()
     QFETCH(Service, service);
     QFETCH(double, hours);
     QTEST(static_cast<int>(dueOf(service, hours, QDate(2025, 5, 1)).state), "state");
+}
+
+void TestLogbook::percentiles_data()
+{
+    QTest::addColumn<Flights>("flights");
+    QTest::addColumn<double>("share");
+    QTest::addColumn<double>("value");
+    const std::array<double, 5> even{0, 5, 50, 95, 100}, far{1000, 1005, 1050, 1095, 1100}, still{7, 7, 7, 7, 7};
+    const auto row = [](const char* pName, const Flights& flights, double share, double value) {
+        QTest::newRow(pName) << flights << share << value;
+    };
+    row("one flight is itself", {even}, 0.05, 5);
+    row("its upper end", {even}, 0.95, 95);
+    row("two alike", {even, even}, 0.95, 95);
+    row("apart: a tenth of the lower one", {even, far}, 0.05, 10);
+    row("apart: all but a tenth of the upper one", {even, far}, 0.95, 1090);
+    row("one value", {still, still}, 0.05, 7);
+    row("a jump within", {even, still}, 0.3, 7); // half of all samples are 7
+    row("behind the jump", {even, still}, 0.75, 50);
+}
+
+void TestLogbook::percentiles()
+{
+    QFETCH(Flights, flights);
+    QFETCH(double, share);
+    std::vector<TrendPoint> points;
+    for (const auto& [least, p05, median, p95, greatest] : flights) {
+        TrendPoint& point = points.emplace_back();
+        point.minimum = least;
+        point.p05 = p05;
+        point.median = median;
+        point.p95 = p95;
+        point.maximum = greatest;
+    }
+    QTEST(jointPercentile(points, share), "value");
+}
+
+void TestLogbook::bandsOfEarlierFlights()
+{
+    fill(R"sql(
+WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 40)
+INSERT INTO cycle (cycle_id, engine_id, card_id, number, date_time) SELECT 'n' || i, 'E1', 1, i + 2, date('2025-06-01', i || ' days') FROM n;
+INSERT INTO flight (flight_id, cycle_id, number, date_time) SELECT number + 100, cycle_id, 1, date_time FROM cycle WHERE cycle_id LIKE 'n%';
+INSERT INTO key_value SELECT flight_id, 'climb', 'Oil', '°C', 9, flight_id, flight_id, flight_id, flight_id, flight_id, 0 FROM flight WHERE flight_id > 100;
+)sql");
+    StoreReader store(mPath);
+    RecordFlight late, early;
+    late.dateTime = QDateTime(QDate(2026, 1, 1), QTime(8, 0));
+    early.dateTime = QDateTime(QDate(2025, 6, 10), QTime(8, 0)); // after nine
+    const CycleHead head{"of no cycle here", {"E1", {}, {}, {}, {}}, 7, late.dateTime};
+    const std::vector<NormalBand> bands = normalBands(store, head, std::array{early, late});
+    QCOMPARE(bands.size(), 1u);
+    QVERIFY(bands[0].flight == 2 && bands[0].flights == 30u && bands[0].phase == "climb");
+    QVERIFY(bands[0].lower == 114.0 && bands[0].upper == 141.0); // of 113 to 142
+}
+
+void TestLogbook::formulasAreText()
+{
+    std::vector<LogbookNote> notes;
+    for (const char* text : {"=1+1", "+1+cmd", "-5.5", "@x", "a;\"b\""})
+        notes.push_back({{0, 1.0, text, {}}, "", "-E", "", 0, ""});
+    const QString path = mFolder.filePath("notes.csv");
+    SafeFile file(path.toStdString());
+    QVERIFY(LogbookCsv(CsvForm::of("de_DE", ';').value()).writeNotes(file, notes));
+    QFile written(path);
+    QVERIFY(written.open(QIODevice::ReadOnly));
+    const QByteArray bytes = written.readAll();
+    QVERIFY(bytes.startsWith(CsvForm::kByteOrderMark));
+    const QStringList lines = QString::fromUtf8(bytes).split("\r\n");
+    const QStringList expected{"'=1+1", "'+1+cmd", "-5.5", "'@x", "\"a;\"\"b\"\"\""};
+    for (int i = 0; i < expected.size(); ++i)
+        QCOMPARE(lines[i + 1], ";00:00:01.000;" + expected[i] + ";;'-E;;;");
 }
 
 void TestLogbook::badStores_data()

@@ -151,6 +151,10 @@ void DialogData::linkViews()
         for (const DataViewEntry& entry : mViews.entries)
             entry.pView->setNotes(mRecord.notes());
     });
+    connect(&mRecord, &RecordSession::normalChanged, this, [this] {
+        for (const DataViewEntry& entry : mViews.entries)
+            entry.pView->setNormal(mRecord.normal());
+    });
 }
 
 void DialogData::slotRecord()
@@ -184,6 +188,7 @@ void DialogData::updateSettings()
     updateTimes();
     for (const DataViewEntry& entry : mViews.entries)
         entry.pView->updateSettings();
+    Q_EMIT signalSettings();
 }
 
 std::optional<TimeSpan> DialogData::graphSpan() const

@@ -78,6 +78,8 @@ public Q_SLOTS:
     void slotMapType(int type);
 
 Q_SIGNALS:
+    /// The settings that views have were changed.
+    void signalSettings();
     /// The user wants the report of what is shown, from the menu of a view.
     void signalReport();
     /// The user wants to see one parameter over another.

@@ -56,7 +56,7 @@ void DialogDataErrorMatrix::addPanels()
     for (const FaultMatrix& matrix : mSession.profile.model().errorMatrices) {
         if (mPanels.size() == kMaxPanels)
             return;
-        auto* pPanel = new WidgetFaultMatrix(mSession.container);
+        auto* pPanel = new WidgetFaultMatrix(mSession);
         pPanel->setData(matrix);
         mpPanelLayout->insertWidget(static_cast<int>(mPanels.size()), pPanel);
         mPanels.push_back(pPanel);

@@ -88,13 +88,20 @@ DialogDataEvents::DialogDataEvents(const Session& session, const Kind& kind, QWi
 
 void DialogDataEvents::setNotes(const std::vector<CycleNote>& notes)
 {
+    mNotes = notes;
+    showNotes();
+}
+
+void DialogDataEvents::showNotes()
+{
+    const TimeReference times = TimeReference::of(mSession.property, mSession.container);
     QStringList lines;
-    for (const CycleNote& note : notes) {
+    for (const CycleNote& note : mNotes) {
         lines.append(QStringLiteral("<a href=\"%1\">%2</a> %3")
-                         .arg(QString::number(note.time, 'g', 17), signedTimeText(wholeMilliseconds(note.time)), note.text.toHtmlEscaped()));
+                         .arg(QString::number(note.time, 'g', 17), times.textAt(note.time), note.text.toHtmlEscaped()));
     }
     mpNotes->setText(tr("Notes:") + "<br>" + lines.join("<br>"));
-    mpNotes->setVisible(!notes.empty());
+    mpNotes->setVisible(!mNotes.empty());
 }
 
 void DialogDataEvents::createTable()
@@ -226,6 +233,7 @@ void DialogDataEvents::showTimes()
     const QScopedValueRollback busy(mBusy, true);
     const TimeReference times = TimeReference::of(mSession.property, mSession.container);
     mpTable->horizontalHeaderItem(0)->setText(times.title());
+    showNotes();
     for (int row = 0; row < mpTable->rowCount(); ++row)
         mpTable->item(row, 0)->setText(times.text(mpTable->item(row, 0)->data(Qt::UserRole).toLongLong()));
 }

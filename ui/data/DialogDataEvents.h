@@ -76,6 +76,7 @@ private:
     void fillTable();
     /// In the way that the user wants times told.
     void showTimes();
+    void showNotes();
     [[nodiscard]] QTableWidgetItem* createText(const Event& event) const;
     [[nodiscard]] bool isInside(const Event& event) const;
     void updateHint();
@@ -86,6 +87,7 @@ private:
     const Kind mKind;
     RecordData* mpRecord = nullptr;
     EventList mEvents;
+    std::vector<CycleNote> mNotes;
     QTableWidget* mpTable;
     QLabel* mpHint;
     QLabel* mpNotes;

@@ -5,8 +5,10 @@
 #include "ui/canvas/ColourContrast.h"
 #include "ui/data/FaultColours.h"
 
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QToolTip>
 
 #include <algorithm>
 #include <functional>
@@ -42,7 +44,8 @@ std::vector<bool> columnsOn(const std::vector<FaultChange>& changes, int width, 
 
 } // namespace
 
-WidgetErrorTime::WidgetErrorTime(const CardContainer& container, QWidget* pParent) : QWidget(pParent), mContainer(container)
+WidgetErrorTime::WidgetErrorTime(const CardContainer& container, Tell tell, QWidget* pParent)
+    : QWidget(pParent), mContainer(container), mTell(std::move(tell))
 {
     setMinimumHeight(kHeight);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -102,13 +105,29 @@ void WidgetErrorTime::chooseTime(const QMouseEvent& event)
         Q_EMIT signalTime(*time);
 }
 
-/// The middle of the pixel, so that the line comes to stand where the user pointed.
 std::optional<double> WidgetErrorTime::timeAt(const QMouseEvent& event) const
 {
-    if (!event.buttons().testFlag(Qt::LeftButton) || !mWithRecord || !(mEnd > mStart))
+    return event.buttons().testFlag(Qt::LeftButton) ? timeAt(event.position().x()) : std::nullopt;
+}
+
+/// The middle of the pixel, so that the line comes to stand where the user pointed.
+std::optional<double> WidgetErrorTime::timeAt(double x) const
+{
+    if (!mWithRecord || !(mEnd > mStart))
         return std::nullopt;
-    const double x = std::clamp(event.position().x(), 0.0, width() - 1.0) + 0.5;
-    return mStart + x * (mEnd - mStart) / (width() + 1);
+    return mStart + (std::clamp(x, 0.0, width() - 1.0) + 0.5) * (mEnd - mStart) / (width() + 1);
+}
+
+bool WidgetErrorTime::event(QEvent* pEvent)
+{
+    if (pEvent->type() != QEvent::ToolTip)
+        return QWidget::event(pEvent);
+    const auto& help = static_cast<const QHelpEvent&>(*pEvent);
+    const std::optional<double> time = timeAt(help.x());
+    QToolTip::showText(help.globalPos(),
+                       time ? "<qt>" + mTell(*time) + "<br/><br/>" + toolTip().toHtmlEscaped().replace('\n', "<br/>") + "</qt>" : toolTip(),
+                       this);
+    return true;
 }
 
 void WidgetErrorTime::drawBand(QPainter& painter, EErrorType kind, const QRect& band) const

@@ -5,6 +5,7 @@
 #include <QImage>
 #include <QWidget>
 
+#include <functional>
 #include <optional>
 
 namespace ZARN {
@@ -18,7 +19,10 @@ class WidgetErrorTime : public QWidget {
     Q_OBJECT
 
 public:
-    explicit WidgetErrorTime(const CardContainer& container, QWidget* pParent = nullptr);
+    /// What is told of a time when the pointer rests on it.
+    using Tell = std::function<QString(double time)>;
+
+    WidgetErrorTime(const CardContainer& container, Tell tell, QWidget* pParent = nullptr);
 
     /// The matrix whose bits are shown: identifier, name and bit definitions.
     void setData(const FaultMatrix& matrix);
@@ -37,6 +41,7 @@ Q_SIGNALS:
     void signalShow(double time);
 
 protected:
+    bool event(QEvent* pEvent) override;
     void mousePressEvent(QMouseEvent* pEvent) override;
     void mouseDoubleClickEvent(QMouseEvent* pEvent) override;
     void mouseMoveEvent(QMouseEvent* pEvent) override;
@@ -45,6 +50,8 @@ protected:
     void resizeEvent(QResizeEvent* pEvent) override;
 
 private:
+    /// None without a record that lasts.
+    [[nodiscard]] std::optional<double> timeAt(double x) const;
     /// The time under the pointer while the left button is down.
     [[nodiscard]] std::optional<double> timeAt(const QMouseEvent& event) const;
     void chooseTime(const QMouseEvent& event);
@@ -52,6 +59,7 @@ private:
     void drawBand(QPainter& painter, EErrorType kind, const QRect& band) const;
 
     const CardContainer& mContainer;
+    const Tell mTell;
     FaultMatrix mMatrix;
     std::optional<FaultTimeline> mTimeline;
     QImage mBands; ///< null when it must be drawn anew

@@ -3,6 +3,7 @@
 #include "analysis/FaultTimeline.h"
 #include "app/gui/TextSize.h"
 #include "card/record/RecordData.h"
+#include "project/TimeReference.h"
 #include "ui/data/GraphJump.h"
 #include "ui/data/WidgetErrorItem.h"
 #include "ui/data/WidgetErrorTime.h"
@@ -31,8 +32,9 @@ int columnOf(int bit)
 
 } // namespace
 
-WidgetFaultMatrix::WidgetFaultMatrix(const CardContainer& container, QWidget* pParent)
-    : QFrame(pParent), mpTitle(new QLabel), mpTimeline(new WidgetErrorTime(container)), mpTable(new QTableWidget(1, kBits))
+WidgetFaultMatrix::WidgetFaultMatrix(const Session& session, QWidget* pParent)
+    : QFrame(pParent), mSession(session), mpTitle(new QLabel),
+      mpTimeline(new WidgetErrorTime(session.container, [this](double time) { return textAt(time); })), mpTable(new QTableWidget(1, kBits))
 {
     setFrameStyle(QFrame::Panel | QFrame::Plain);
     mpTitle->setTextFormat(Qt::PlainText);
@@ -117,15 +119,28 @@ void WidgetFaultMatrix::setTime(double time)
     showWord(faultWordAt(channel(), time).value_or(0));
 }
 
-/// The graph has a parameter of its own for each bit.
-void WidgetFaultMatrix::showBits(uint32_t word, double time)
+std::set<std::string> WidgetFaultMatrix::names(uint32_t word) const
 {
     std::set<std::string> names;
     for (const auto& [bit, fault] : mMatrix.bits) {
         if (bit >= 0 && bit < kBits && (word >> bit & 1U) != 0)
             names.insert(fault.name);
     }
-    Q_EMIT signalMoment(GraphMoment::around(time, std::move(names)));
+    return names;
+}
+
+QString WidgetFaultMatrix::textAt(double time) const
+{
+    QStringList lines{TimeReference::of(mSession.property, mSession.container).textAt(time)};
+    for (const std::string& name : names(faultWordAt(channel(), time).value_or(0)))
+        lines << QString::fromStdString(name).toHtmlEscaped();
+    return lines.join("<br/>");
+}
+
+/// The graph has a parameter of its own for each bit.
+void WidgetFaultMatrix::showBits(uint32_t word, double time)
+{
+    Q_EMIT signalMoment(GraphMoment::around(time, names(word)));
 }
 
 void WidgetFaultMatrix::updateLiveData()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "profile/FaultMatrix.h"
+#include "project/Session.h"
 #include "ui/data/model/GraphMoment.h"
 
 #include <QFrame>
@@ -13,7 +14,6 @@ class WidgetErrorItem;
 
 namespace ZARN {
 
-class CardContainer;
 class RecordChannel;
 class RecordData;
 class WidgetErrorTime;
@@ -25,7 +25,7 @@ class WidgetFaultMatrix : public QFrame {
 public:
     static constexpr int kBits = FaultMatrix::kBits;
 
-    explicit WidgetFaultMatrix(const CardContainer& container, QWidget* pParent = nullptr);
+    explicit WidgetFaultMatrix(const Session& session, QWidget* pParent = nullptr);
 
     void setData(const FaultMatrix& matrix);
     void updateRecord(RecordData* pRecord);
@@ -53,10 +53,14 @@ private:
     void createTable();
     [[nodiscard]] const RecordChannel* channel() const;
     void showWord(uint32_t word);
+    /// The names of the bits of a word.
+    [[nodiscard]] std::set<std::string> names(uint32_t word) const;
+    [[nodiscard]] QString textAt(double time) const;
     void showBits(uint32_t word, double time);
     void updateFonts();
     void layoutTable();
 
+    const Session mSession;
     FaultMatrix mMatrix;
     RecordData* mpRecord = nullptr;
     double mTime = 0.0;

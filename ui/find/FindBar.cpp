@@ -121,6 +121,12 @@ void FindBar::setHits(const FindHits& hits)
     updateStatus();
 }
 
+void FindBar::setTimes(const TimeReference& times)
+{
+    mpModel->setTimes(times);
+    updateStatus(); // the row of the view time is marked anew
+}
+
 void FindBar::setProblem(const QString& text)
 {
     setHits({});

@@ -12,6 +12,7 @@ namespace ZARN {
 
 class FindForm;
 class FindTableModel;
+class TimeReference;
 
 /// The bar below the tabs in which one asks where something held: the condition, what was found of it, the way from one place to the next,
 /// and a list of all. Knows no record: who owns it searches.
@@ -29,6 +30,8 @@ public:
     void setProblem(const QString& text);
     /// Says something that is neither.
     void setNote(const QString& text);
+    /// How the times of the list are told.
+    void setTimes(const TimeReference& times);
     /// Marks where the view time is.
     void setTime(double time);
 

@@ -204,7 +204,7 @@ void DialogDataGraph::prepare(RecordData* pRecord)
 
 void DialogDataGraph::setCourse(const std::shared_ptr<const CycleCourse>& pCourse)
 {
-    mpGraph->model().scenery().setCourse(pCourse);
+    mRecord.ghost().normal().setCourse(pCourse);
     Q_EMIT signalCourse(pCourse);
 }
 
@@ -254,6 +254,12 @@ void DialogDataGraph::setLayout(const DisplayLayout& layout)
     mRecord.setLayout(layout);
     updateSetup();
     slotManMode();
+}
+
+Comparison DialogDataGraph::comparison() const
+{
+    const GraphScenery& scenery = mpGraph->model().scenery();
+    return {scenery.ghost() ? scenery.ghost()->pCycle : nullptr, scenery.ghostShift()};
 }
 
 std::optional<TimeSpan> DialogDataGraph::shownSpan() const

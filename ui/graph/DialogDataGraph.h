@@ -38,6 +38,8 @@ public:
     void setZarnMode(int mode) override;
     void updateSettings() override;
     void setNotes(const std::vector<CycleNote>& notes) override;
+    void setNormal(const std::vector<NormalBand>& bands) override { mRecord.ghost().normal().set(bands); }
+    [[nodiscard]] Comparison comparison() const override;
     [[nodiscard]] std::optional<TimeSpan> shownSpan() const override;
     [[nodiscard]] bool hasLeft(double time) const override;
     [[nodiscard]] std::optional<TimeSpan> markedSpan() const override;

@@ -30,6 +30,7 @@ GhostMenu::GhostMenu(const Session& session, RecordGraph& graph, QWidget* pParen
     addFlights();
     addCycles();
     addAction(tr("Another Card..."), this, &GhostMenu::askCard);
+    addNormal();
     if (!mGraph.ghost().cycle())
         return;
     addSeparator();
@@ -76,6 +77,19 @@ void GhostMenu::addAlignment()
     if (mGraph.ghost().cycle()->engineStart)
         addAction(tr("Align Engine Starts"), this, [this] { mGraph.ghost().alignEngineStart(); });
     addAction(tr("Drag with the Alt key to align by hand"))->setEnabled(false);
+}
+
+/// Of this engine, by the logbook.
+void GhostMenu::addNormal()
+{
+    addSeparator();
+    const bool isKnown = mGraph.ghost().normal().isKnown();
+    QAction* pAction = addAction(isKnown ? tr("Earlier Flights of This Engine, 5 to 95 %")
+                                         : tr("Earlier Flights of This Engine: Fewer than 10 in the Logbook"));
+    pAction->setCheckable(true);
+    pAction->setEnabled(isKnown);
+    pAction->setChecked(isKnown && mGraph.ghost().normal().isOn());
+    connect(pAction, &QAction::toggled, this, [this](bool on) { mGraph.ghost().normal().setOn(on); });
 }
 
 void GhostMenu::askCard()

@@ -22,6 +22,7 @@ private:
     void addFlights();
     void addCycles();
     void addAlignment();
+    void addNormal();
     void askCard();
     void askCycle(const QString& path);
 

@@ -81,8 +81,10 @@ void DialogLogbook::connectPages()
     connect(mpEngine, &QComboBox::currentIndexChanged, this, &DialogLogbook::setEngine);
     connect(&mWorker, &LogbookWorker::signalChanged, this, &DialogLogbook::reload);
     connect(&mWorker, &LogbookWorker::signalFailed, this, &DialogLogbook::tell);
+    connect(&mWorker, &LogbookWorker::signalPutAside, this, &DialogLogbook::tellLasting);
     connect(&mWorker, &LogbookWorker::signalFound, this, [this](bool isThere) { mpEmpty->setVisible(!isThere); });
     connect(mpFlights, &LogbookFlights::signalOpen, this, [this](const QString& cycle, int flight) { Q_EMIT signalOpen(cycle, flight, NAN); });
+    connect(mpFlights, &LogbookFlights::signalHiddenColumns, this, &DialogLogbook::signalHiddenColumns);
     connect(mpTrends, &LogbookTrends::signalOpen, this, [this](const QString& cycle, int flight) { Q_EMIT signalOpen(cycle, flight, NAN); });
     connect(mpNotes, &LogbookNotes::signalOpen, this, [this](const QString& cycle, double time) { Q_EMIT signalOpen(cycle, 0, time); });
     connect(mpNotes, &LogbookNotes::signalExport, this, [this] { Q_EMIT signalExportNotes(mpNotes->notes()); });
@@ -98,7 +100,7 @@ void DialogLogbook::connectPages()
 
 void DialogLogbook::reload()
 {
-    mpProblem->hide();
+    tell({});
     mWorker.ask([](LogbookReader& reader) { return reader.engines(); }, [this](const std::vector<LogbookEngine>& engines) { fillEngines(engines); });
     mpFlights->reload();
     mpTrends->reload();
@@ -139,10 +141,28 @@ void DialogLogbook::exportFlights()
     Q_EMIT signalExportFlights(mpFlights->model().flights(), parts.join(", "));
 }
 
+void DialogLogbook::setContext(const DecodingContext& context)
+{
+    mpTrends->setContext(context);
+}
+
+void DialogLogbook::setHiddenColumns(const QStringList& keys)
+{
+    mpFlights->setHiddenColumns(keys);
+}
+
 void DialogLogbook::tell(const QString& problem)
 {
-    mpProblem->setText(problem);
-    mpProblem->setVisible(!problem.isEmpty());
+    QStringList lines{mLasting, problem};
+    lines.removeAll(QString());
+    mpProblem->setText(lines.join('\n'));
+    mpProblem->setVisible(!lines.isEmpty());
+}
+
+void DialogLogbook::tellLasting(const QString& problem)
+{
+    mLasting = problem;
+    tell({});
 }
 
 void DialogLogbook::showEvent(QShowEvent* pEvent)
@@ -159,6 +179,7 @@ void DialogLogbook::showEvent(QShowEvent* pEvent)
 void DialogLogbook::hideEvent(QHideEvent* pEvent)
 {
     mLook.stop();
+    tellLasting({});
     QDialog::hideEvent(pEvent);
 }
 

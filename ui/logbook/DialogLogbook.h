@@ -11,6 +11,7 @@ class QTabWidget;
 
 namespace ZARN {
 
+class DecodingContext;
 class LogbookEngines;
 class LogbookFlights;
 class LogbookNotes;
@@ -25,14 +26,22 @@ public:
     /// @param options a widget with what the logbook is to do, as its last page; taken over
     DialogLogbook(LogbookWorker& worker, QWidget* pOptions, QWidget* pParent = nullptr);
 
+    /// In whose units figures are shown.
+    void setContext(const DecodingContext& context);
+    /// The columns of the flights that are not shown.
+    void setHiddenColumns(const QStringList& keys);
     /// What went wrong, until the store can be read again; empty: nothing.
     void tell(const QString& problem);
+    /// The same until the window is closed.
+    void tellLasting(const QString& problem);
 
 Q_SIGNALS:
     /// A flight that the user wants to see. @param flight from 1; 0: the whole cycle. @param time the moment; a NaN is none
     void signalOpen(const QString& cycleId, int flight, double time);
     /// The user wants what is chosen as a file.
     void signalExportFlights(const std::vector<int64_t>& flights, const QString& title);
+    /// The user wants other columns.
+    void signalHiddenColumns(const QStringList& keys);
     void signalExportNotes(const std::vector<ZARN::LogbookNote>& notes);
 
 protected:
@@ -50,6 +59,7 @@ private:
     LogbookWorker& mWorker;
     QComboBox* mpEngine;
     QLabel* mpProblem;
+    QString mLasting; ///< what is told whatever else is
     QLabel* mpEmpty;
     QTabWidget* mpPages;
     LogbookFlights* mpFlights;

@@ -234,26 +234,32 @@ void LogbookEngines::edit(const std::function<void(LogbookEditor&)>& work)
     });
 }
 
+// While one of these asks, another instance may write, and the engines be others.
+
 void LogbookEngines::askAircraft()
 {
+    const std::string engine = mEngine;
     bool isGiven = false;
-    const QString name = QInputDialog::getText(this, tr("Aircraft"), tr("The aircraft that this engine is in, for example its registration:"),
-                                               QLineEdit::Normal, QString::fromStdString(engine()->aircraft), &isGiven);
+    const QString name =
+        QInputDialog::getText(this, tr("Aircraft"), tr("The aircraft that this engine is in, for example its registration:"),
+                              QLineEdit::Normal, QString::fromStdString(this->engine()->aircraft), &isGiven);
     if (isGiven)
-        edit([engine = mEngine, name](LogbookEditor& editor) { editor.nameAircraft(engine, name); });
+        edit([engine, name](LogbookEditor& editor) { editor.nameAircraft(engine, name); });
 }
 
 void LogbookEngines::askHours()
 {
+    const std::string engine = mEngine;
     bool isGiven = false;
     const double hours = QInputDialog::getDouble(this, tr("Engine hours"), tr("Hours that the engine ran before its first recording:"),
-                                                 engine()->hoursBefore.value_or(0.0), 0.0, kMostHours, 1, &isGiven);
+                                                 this->engine()->hoursBefore.value_or(0.0), 0.0, kMostHours, 1, &isGiven);
     if (isGiven)
-        edit([engine = mEngine, hours](LogbookEditor& editor) { editor.setHoursBefore(engine, hours); });
+        edit([engine, hours](LogbookEditor& editor) { editor.setHoursBefore(engine, hours); });
 }
 
 void LogbookEngines::askMerge()
 {
+    const std::string engine = mEngine;
     QStringList names;
     std::vector<std::string> ids;
     for (const LogbookEngine& other : mEngines) {
@@ -263,24 +269,26 @@ void LogbookEngines::askMerge()
         ids.push_back(other.id);
     }
     bool isGiven = false;
-    const QString name = QInputDialog::getItem(this, tr("Same engine"), tr("%1 is the same engine as:").arg(LogbookTexts::engine(mEngine, engine()->aircraft)),
+    const QString name = QInputDialog::getItem(this, tr("Same engine"),
+                                               tr("%1 is the same engine as:").arg(LogbookTexts::engine(mEngine, this->engine()->aircraft)),
                                                names, 0, false, &isGiven);
     if (!isGiven)
         return;
     const std::string into = ids[static_cast<std::size_t>(names.indexOf(name))];
-    edit([engine = mEngine, into](LogbookEditor& editor) { editor.merge(engine, into); });
+    edit([engine, into](LogbookEditor& editor) { editor.merge(engine, into); });
     Q_EMIT signalEngine(QString::fromStdString(into));
 }
 
 void LogbookEngines::askSeparate()
 {
     QStringList names;
-    for (const std::string& merged : engine()->merged)
+    const std::vector<std::string> all = engine()->merged;
+    for (const std::string& merged : all)
         names.append(LogbookTexts::engine(merged, {}));
     bool isGiven = false;
     const QString name = QInputDialog::getItem(this, tr("Separate engines"), tr("An engine of its own again:"), names, 0, false, &isGiven);
     if (isGiven)
-        edit([merged = engine()->merged[static_cast<std::size_t>(names.indexOf(name))]](LogbookEditor& editor) { editor.separate(merged); });
+        edit([merged = all[static_cast<std::size_t>(names.indexOf(name))]](LogbookEditor& editor) { editor.separate(merged); });
 }
 
 void LogbookEngines::askService(Service service)

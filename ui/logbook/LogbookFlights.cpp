@@ -6,13 +6,18 @@
 
 #include <QComboBox>
 #include <QDateEdit>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPainter>
+#include <QScopedValueRollback>
 #include <QStyledItemDelegate>
 #include <QTableView>
+
+#include <array>
 
 namespace ZARN {
 
@@ -21,6 +26,12 @@ namespace {
 constexpr int kTypingPause = 150; // milliseconds
 constexpr int kSign = 14;         // pixels
 const QDate kAnyDate(1999, 12, 31);
+
+// By column.
+constexpr std::array kKeys = {"date", "engine", "flight", "fuel", "climb", "verdict", "card", "notes"};
+constexpr std::array kLetters = {19, 22, 0, 0, 0, 14, 24, 12};
+constexpr int kFewestLetters = 10;
+static_assert(kKeys.size() == LogbookModel::eColumns && kLetters.size() == LogbookModel::eColumns);
 
 /// Puts the sign of the verdict before its word.
 class VerdictDelegate : public QStyledItemDelegate {
@@ -124,6 +135,13 @@ void LogbookFlights::createTable()
     pHeader->setHighlightSections(false);
     pHeader->setSortIndicator(LogbookModel::eDate, Qt::DescendingOrder);
     mpTable->setSortingEnabled(true);
+    connect(pHeader, &QHeaderView::sectionResized, this,
+            [this] { mIsUsers |= !mIsArranging && isVisible() && QGuiApplication::mouseButtons() != Qt::NoButton; });
+    for (QWidget* pWidget : {static_cast<QWidget*>(pHeader), static_cast<QWidget*>(mpTable)}) {
+        pWidget->setContextMenuPolicy(Qt::CustomContextMenu);
+        connect(pWidget, &QWidget::customContextMenuRequested, this,
+                [this, pWidget](const QPoint& point) { chooseColumns(pWidget->mapToGlobal(point)); });
+    }
     connect(mpTable, &QTableView::activated, this, &LogbookFlights::slotPicked);
     connect(mpTable->selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this](const QModelIndex& index) {
         if (index.isValid())
@@ -131,18 +149,74 @@ void LogbookFlights::createTable()
     });
 }
 
-/// As wide as what stands in them, and their titles, take in the font that the window has by now.
 void LogbookFlights::showEvent(QShowEvent* pEvent)
 {
     QWidget::showEvent(pEvent);
-    if (std::exchange(mIsArranged, true))
+    arrange();
+}
+
+void LogbookFlights::resizeEvent(QResizeEvent* pEvent)
+{
+    QWidget::resizeEvent(pEvent);
+    arrange();
+}
+
+/// As wide as what stands in them, and their titles, take; where that is too much the columns of words give way, to their titles at most.
+void LogbookFlights::arrange()
+{
+    if (mIsUsers || !isVisible())
         return;
+    const QScopedValueRollback arranging(mIsArranging, true);
     QHeaderView* pHeader = mpTable->horizontalHeader();
     pHeader->ensurePolished();
     const int letter = fontMetrics().horizontalAdvance('x');
-    for (const auto& [column, letters] : {std::pair(LogbookModel::eDate, 19), {LogbookModel::eEngine, 22}, {LogbookModel::eFlightTime, 0},
-                                          {LogbookModel::eFuel, 0}, {LogbookModel::eClimb, 0}, {LogbookModel::eVerdict, 14}, {LogbookModel::eCard, 24}})
-        pHeader->resizeSection(column, std::max(letters * letter, pHeader->sectionSizeHint(column)));
+    std::array<int, LogbookModel::eColumns> widths{};
+    int rest = mpTable->viewport()->width();
+    for (int column = 0; column < LogbookModel::eColumns; ++column) {
+        const auto place = static_cast<std::size_t>(column);
+        if (!mpTable->isColumnHidden(column))
+            widths[place] = std::max(kLetters[place] * letter, pHeader->sectionSizeHint(column));
+        rest -= widths[place];
+    }
+    for (const int column : {LogbookModel::eCard, LogbookModel::eEngine, LogbookModel::eNotes, LogbookModel::eVerdict}) {
+        int& width = widths[static_cast<std::size_t>(column)];
+        if (rest >= 0 || width == 0)
+            continue;
+        const int less = std::min(-rest, std::max(0, width - std::max(kFewestLetters * letter, pHeader->sectionSizeHint(column))));
+        width -= less;
+        rest += less;
+    }
+    for (int column = 0; column < LogbookModel::eColumns; ++column) {
+        if (widths[static_cast<std::size_t>(column)] > 0)
+            pHeader->resizeSection(column, widths[static_cast<std::size_t>(column)]);
+    }
+}
+
+void LogbookFlights::setHiddenColumns(const QStringList& keys)
+{
+    for (int column = LogbookModel::eDate + 1; column < LogbookModel::eColumns; ++column) // without its date nobody knows a flight
+        mpTable->setColumnHidden(column, keys.contains(QLatin1String(kKeys[static_cast<std::size_t>(column)])));
+    arrange();
+}
+
+void LogbookFlights::chooseColumns(const QPoint& point)
+{
+    QMenu menu(this);
+    QStringList hidden;
+    for (int column = LogbookModel::eDate + 1; column < LogbookModel::eColumns; ++column) {
+        QAction* pAction = menu.addAction(mModel.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString());
+        pAction->setCheckable(true);
+        pAction->setChecked(!mpTable->isColumnHidden(column));
+    }
+    if (!menu.exec(point))
+        return;
+    for (int column = LogbookModel::eDate + 1; column < LogbookModel::eColumns; ++column) {
+        if (!menu.actions()[column - 1]->isChecked())
+            hidden << QLatin1String(kKeys[static_cast<std::size_t>(column)]);
+    }
+    mIsUsers = false;
+    setHiddenColumns(hidden);
+    Q_EMIT signalHiddenColumns(hidden);
 }
 
 void LogbookFlights::setEngine(const std::string& engine)

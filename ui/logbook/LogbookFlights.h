@@ -25,6 +25,8 @@ public:
     /// The store was written.
     void reload() { mModel.reload(); }
     [[nodiscard]] const LogbookModel& model() const { return mModel; }
+    /// Which columns are not shown, by their keys.
+    void setHiddenColumns(const QStringList& keys);
     /// The filter in words, for who sees its result elsewhere.
     [[nodiscard]] QString filterText() const;
 
@@ -32,14 +34,20 @@ Q_SIGNALS:
     /// A flight that the user wants to see. @param flight from 1
     void signalOpen(const QString& cycleId, int flight);
 
+    /// The user wants other columns.
+    void signalHiddenColumns(const QStringList& keys);
+
 protected:
     void showEvent(QShowEvent* pEvent) override;
+    void resizeEvent(QResizeEvent* pEvent) override;
 
 private:
     QWidget* createFilter();
     void createTable();
     QDateEdit* createDate(const QString& name);
     void takeFilter();
+    void arrange();
+    void chooseColumns(const QPoint& point);
     void slotSelected();
     void slotPicked(const QModelIndex& index);
 
@@ -52,7 +60,8 @@ private:
     QTableView* mpTable;
     QLabel* mpTotals;
     QTimer mTyping;
-    bool mIsArranged = false; ///< the columns
+    bool mIsArranging = false; ///< the columns
+    bool mIsUsers = false;     ///< the user gave the columns their widths
     int64_t mCurrent = 0; ///< the flight whose row is chosen
 };
 

@@ -7,6 +7,7 @@
 #include <QHeaderView>
 #include <QInputDialog>
 #include <QLabel>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QVBoxLayout>
@@ -80,7 +81,7 @@ void LogbookNotes::fill(std::vector<LogbookNote> notes)
         const QString origin = note.engine.empty() ? tr("not in the logbook")
                                                    : tr("%1, cycle %2").arg(QString::fromStdString(note.card)).arg(note.cycle) +
                                                          (note.dateTime.empty() ? QString() : ", " + LogbookTexts::dateTime(note.dateTime));
-        const QString texts[] = {origin, note.engine.empty() ? QString() : LogbookTexts::engine(note.engine, {}),
+        const QString texts[] = {origin, note.engine.empty() ? QString() : LogbookTexts::engine(note.engine, note.aircraft),
                                  signedTimeText(wholeMilliseconds(note.note.time)), note.note.text};
         for (int column = 0; column < 4; ++column)
             mpTable->setItem(row, column, new QTableWidgetItem(texts[column]));
@@ -104,15 +105,26 @@ void LogbookNotes::update()
 void LogbookNotes::change(bool isRemoved)
 {
     LogbookNote note = *chosen();
+    const QString before = note.note.text;
     bool isGiven = true;
-    note.note.text = isRemoved ? QString() : QInputDialog::getMultiLineText(this, tr("Note"), tr("Note:"), note.note.text, &isGiven);
-    if (!isGiven)
+    if (isRemoved)
+        isGiven = isSure(before);
+    note.note.text = isRemoved ? QString() : QInputDialog::getMultiLineText(this, tr("Note"), tr("Note:"), before, &isGiven);
+    if (!isGiven || note.note.text == before)
         return;
     mWorker.edit([note](LogbookEditor& editor) { editor.saveNote(note.cycleId, note.note); },
-                 [this](const QString& error) {
-                     if (!error.isEmpty())
-                         Q_EMIT signalFailed(error);
+                 [this, text = note.note.text](const QString& error) {
+                     if (!error.isEmpty()) // what was typed is not lost
+                         Q_EMIT signalFailed(text.isEmpty() ? error : error + "\n" + tr("Not kept: %1").arg(text));
                  });
+}
+
+bool LogbookNotes::isSure(const QString& text)
+{
+    QMessageBox box(QMessageBox::Question, tr("Note"), tr("Delete this note?") + "\n\n" + text, QMessageBox::Yes | QMessageBox::No, this);
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
 }
 
 } // namespace ZARN

@@ -34,6 +34,8 @@ private:
     void fill(std::vector<LogbookNote> notes);
     void update();
     void change(bool isRemoved);
+    /// Whether the user wants that note gone.
+    bool isSure(const QString& text);
     [[nodiscard]] const LogbookNote* chosen() const;
 
     LogbookWorker& mWorker;

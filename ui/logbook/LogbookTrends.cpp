@@ -1,6 +1,7 @@
 #include "ui/logbook/LogbookTrends.h"
 
 #include "app/FileName.h"
+#include "profile/DisplayUnit.h"
 #include "store/StoreReader.h"
 #include "ui/logbook/WidgetTrend.h"
 #include "ui/logbook/model/LogbookTexts.h"
@@ -22,6 +23,22 @@ QString nameOf(const JudgedTrend& trend)
     return trend.trend.unit.empty() ? name : name + " [" + QString::fromStdString(trend.trend.unit) + "]";
 }
 
+/// The same in the units of a context; judged it was in metric ones.
+JudgedTrend shownIn(JudgedTrend judged, const DecodingContext& context)
+{
+    const DisplayUnit shown(context, judged.trend.parameter, judged.trend.unit);
+    judged.trend.unit = shown.unit();
+    for (TrendPoint& point : judged.trend.points) {
+        for (double* pValue : {&point.median, &point.p05, &point.p95})
+            *pValue = shown.value(*pValue);
+    }
+    for (TrendJudgement& judgement : judged.judgements) {
+        for (double* pValue : {&judgement.band.p05, &judgement.band.median, &judgement.band.p95})
+            *pValue = shown.value(*pValue);
+    }
+    return judged;
+}
+
 /// The latest flight is what matters.
 int weight(const JudgedTrend& trend)
 {
@@ -33,6 +50,9 @@ int weight(const JudgedTrend& trend)
 LogbookTrends::LogbookTrends(LogbookWorker& worker, QWidget* pParent)
     : QWidget(pParent), mWorker(worker), mpList(new QListWidget), mpTitle(new QLabel), mpChart(new WidgetTrend), mpPoint(new QLabel)
 {
+    mpList->setWordWrap(true); // names are as long as they are
+    mpList->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    mpList->setResizeMode(QListView::Adjust);
     mpList->setAccessibleName(tr("Parameters and phases"));
     for (QLabel* pLabel : {mpTitle, mpPoint}) {
         pLabel->setTextFormat(Qt::PlainText);
@@ -65,6 +85,12 @@ void LogbookTrends::setEngine(const std::string& engine)
     reload();
 }
 
+void LogbookTrends::setContext(const DecodingContext& context)
+{
+    mContext = context;
+    reload();
+}
+
 void LogbookTrends::reload()
 {
     mIsOld = true;
@@ -86,13 +112,13 @@ void LogbookTrends::read()
     if (mEngine.empty())
         return fill({});
     mWorker.ask(
-        [engine = mEngine, path = mWorker.path()](LogbookReader&) {
+        [engine = mEngine, path = mWorker.path(), context = mContext](LogbookReader&) {
             StoreReader store(encodeFileName(path));
             Trends trends;
             for (Trend& trend : store.trends(engine)) {
                 JudgedTrend judged{std::move(trend), {}};
                 judged.judgements = judgeTrend(judged.trend, 1);
-                trends.push_back(std::make_shared<const JudgedTrend>(std::move(judged)));
+                trends.push_back(std::make_shared<const JudgedTrend>(shownIn(std::move(judged), context)));
             }
             std::ranges::stable_sort(trends, std::ranges::greater(), [](const auto& pTrend) { return weight(*pTrend); });
             return trends;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "profile/DecodingContext.h"
 #include "ui/logbook/model/LogbookWorker.h"
 #include "ui/logbook/model/TrendScene.h"
 
@@ -21,6 +22,8 @@ public:
 
     /// An empty one: none.
     void setEngine(const std::string& engine);
+    /// In whose units figures are shown.
+    void setContext(const DecodingContext& context);
     /// Reads what is shown anew; waits until it is seen.
     void reload();
 
@@ -40,6 +43,7 @@ private:
 
     LogbookWorker& mWorker;
     std::string mEngine;
+    DecodingContext mContext;
     Trends mTrends;
     QListWidget* mpList;
     QLabel* mpTitle;

@@ -190,8 +190,9 @@ void DialogMain::createControllers()
     mpOverview =
         new OverviewController(mSession, mRecord, *mpCardController, *mpCard, *mpData, mpPanels->pages(), *action(eActionOverview), this);
     mpFind = new FindController(mSession, mRecord, *mpData, mpPanels->pages(), *action(eActionFind), this);
-    mpLogbook = new LogbookController(mSession, {*mpCardController, *mpCard, *mpOverview, *mpPanels, *mpCommands, *mpNotices, mRecord},
-                                      QString::fromStdString(mEnvironment.folders.dataPath()), this);
+    mpLogbook =
+        new LogbookController(mSession, {*mpCardController, *mpCard, *mpOverview, *mpPanels, *mpCommands, *mpNotices, mRecord, mEmu},
+                              QString::fromStdString(mEnvironment.folders.dataPath()), this);
     const auto* pNotes = new NoteController(mSession, mRecord, mpLogbook->worker(), *mpCommands, *mpNotices, this);
     connect(pNotes, &NoteController::signalChanged, &mpOverview->view(), &DialogOverview::reset);
     mpXy = new XyController(mSession, mRecord, *mpData, *action(eActionXy), this);
@@ -269,7 +270,7 @@ void DialogMain::connectCommands()
     on(eActionExportKml, [this] { mpExportController->exportKml(); });
     on(eActionExportCsv, [this] { mpExportController->exportCsv(); });
     on(eActionExportGpx, [this] { mpExportController->exportGpx(); });
-    on(eActionReport, [this] { mpExportController->writeReport(mRecord.notes()); });
+    on(eActionReport, [this] { mpExportController->writeReport(mRecord, mpData->graph().comparison()); });
     mpCommands->handle(eActionOverview, [this](const QAction& action) { mpOverview->toggle(action.isChecked()); });
     on(eActionXy, [this] { mpXy->open(); });
     on(eActionFind, [this] { mpFind->open(); });

@@ -13,6 +13,7 @@
 #include "export/ui/ReportFileDialog.h"
 #include "profile/Profile.h"
 #include "project/DataName.h"
+#include "project/RecordSession.h"
 #include "report/FlightReport.h"
 #include "ui/main/CardController.h"
 
@@ -63,7 +64,8 @@ std::vector<ExportPart> ExportController::parts(const QString& suffix) const
     if (std::optional<TimeSpan> shown = mGraphSpan()) {
         shown->start = std::max(shown->start, 0.0); // nothing is recorded before
         const auto time = [](double seconds) { return timeOfDayText(wholeMilliseconds(seconds), false); };
-        parts.push_back({tr("What the graph shows, %1 to %2").arg(time(shown->start), time(shown->end)),
+        const TimeReference times = TimeReference::of(mSession.property, mSession.container);
+        parts.push_back({tr("What the graph shows, %1 to %2").arg(times.shortText(shown->start), times.shortText(shown->end)),
                          tr("%1 from %2").arg(fileName(0, {}), time(shown->start).replace(':', '-')) + suffix, shown});
     }
     return parts;
@@ -140,7 +142,7 @@ void ExportController::exportGpx()
     run(path, work, {tr("ZARN Warning"), tr("Exporting GPX file failed !")});
 }
 
-void ExportController::writeReport(const std::vector<CycleNote>& notes)
+void ExportController::writeReport(const RecordSession& record, const Comparison& comparison)
 {
     if (!mayExport())
         return;
@@ -158,8 +160,11 @@ void ExportController::writeReport(const std::vector<CycleNote>& notes)
     if (!format)
         return say(QMessageBox::Critical, tr("ZARN Warning"), tr("A report is a PDF or an HTML file: its name ends in .pdf or .html."));
     const ReportOptions options{QLocale::system().measurementSystem() == QLocale::ImperialUSSystem, *format};
-    const auto work = [path, options, loaded, notes, flight = dialog.part()](Progress& progress) {
-        FlightReport report(loaded.withFlight(flight), notes);
+    ReportSubject subject{loaded.withFlight(dialog.part()), record.notes(), TimeReference::wanted(mSession.property), comparison};
+    if (Settings::kGraphNormal.get(mSession.property))
+        subject.normal = record.normal();
+    const auto work = [path, options, subject](Progress& progress) {
+        FlightReport report(subject);
         SafeFile file(QFile::encodeName(path).toStdString());
         const bool written = report.write(file, options, progress);
         return Outcome{written, report.error()};

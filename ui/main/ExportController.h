@@ -1,6 +1,5 @@
 #pragma once
 
-#include "card/CycleNote.h"
 #include "export/ExportCsv.h"
 #include "export/KmlExportOptions.h"
 #include "export/ui/ExportPart.h"
@@ -19,6 +18,8 @@ class QWidget;
 namespace ZARN {
 
 class CardController;
+class RecordSession;
+struct Comparison;
 
 /// Exports the loaded data of the card that is shown: asks for the options, shows the progress, and says when it failed. Owned by the main
 /// window.
@@ -34,8 +35,8 @@ public:
     void exportKml();
     void exportCsv();
     void exportGpx();
-    /// @param notes of the loaded data, which a report has too
-    void writeReport(const std::vector<CycleNote>& notes);
+    /// @param comparison what the graph compares the loaded data with
+    void writeReport(const RecordSession& record, const Comparison& comparison);
 
 Q_SIGNALS:
     /// A file was written.

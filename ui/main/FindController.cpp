@@ -3,6 +3,7 @@
 #include "card/CardContainer.h"
 #include "profile/Profile.h"
 #include "project/RecordSession.h"
+#include "project/TimeReference.h"
 #include "trace/Formula.h"
 #include "ui/data/DialogData.h"
 #include "ui/find/FindBar.h"
@@ -41,6 +42,7 @@ FindController::FindController(const Session& session, RecordSession& record, Di
     connect(&mRecord, &RecordSession::recordChanged, this, &FindController::slotRecord);
     connect(&mRecord, &RecordSession::decodingChanged, this, &FindController::slotRecord);
     connect(&mRecord, &RecordSession::timeChanged, mpBar, &FindBar::setTime);
+    connect(&mData, &DialogData::signalSettings, this, &FindController::updateTimes);
     connect(mpBar, &FindBar::signalChanged, this, &FindController::searchSoon);
     connect(mpBar, &FindBar::signalStep, this, &FindController::step);
     connect(mpBar, &FindBar::signalChosen, this, [this](int row) { go(static_cast<std::size_t>(row)); });
@@ -66,12 +68,18 @@ void FindController::slotRecord()
     mAction.setEnabled(mRecord.record() != nullptr);
     mSearch.stop();
     setHits({});
+    updateTimes();
     if (mpBar->isHidden())
         return;
     if (!mRecord.record())
         return mpBar->setNote(tr("No record is loaded."));
     updateParameters();
     search();
+}
+
+void FindController::updateTimes()
+{
+    mpBar->setTimes(TimeReference::of(mSession.property, mSession.container));
 }
 
 void FindController::updateParameters()

@@ -32,6 +32,7 @@ public:
 
 private:
     void slotRecord();
+    void updateTimes();
     void updateParameters();
     void searchSoon();
     void search();

@@ -5,6 +5,7 @@
 #include "app/Property.h"
 #include "app/Settings.h"
 #include "card/CardContainer.h"
+#include "profile/Profile.h"
 #include "project/RecordSession.h"
 #include "store/CardArchive.h"
 #include "store/CycleIdentity.h"
@@ -19,6 +20,7 @@
 #include "ui/main/MainActions.h"
 #include "ui/main/MainCommands.h"
 #include "ui/main/MainPanels.h"
+#include "ui/main/NormalController.h"
 #include "ui/main/Notices.h"
 #include "ui/main/OverviewController.h"
 #include "ui/overview/DialogOverview.h"
@@ -38,12 +40,12 @@ namespace {
 constexpr std::size_t kMostUnusual = 5; // sentences of a cycle
 
 /// What of a cycle the store finds unusual, in sentences.
-QStringList unusualTexts(StoreReader& store, const CycleHead& head, const CycleOverview& overview)
+QStringList unusualTexts(StoreReader& store, const CycleHead& head, const CycleOverview& overview, const DecodingContext& context)
 {
     QStringList lines;
     const std::vector<Unusual> found = findUnusual(store, head, overview.flights, overview.review);
     for (std::size_t i = 0; i < std::min(found.size(), kMostUnusual); ++i) {
-        const QString text = UnusualText(QLocale()).sentence(found[i]);
+        const QString text = UnusualText(QLocale(), context).sentence(found[i]);
         lines.append(overview.flights.size() > 1 ? LogbookController::tr("flight %1, %2").arg(found[i].flight).arg(text) : text);
     }
     if (found.size() > kMostUnusual)
@@ -65,11 +67,14 @@ LogbookController::LogbookController(const Session& session, const Parts& parts,
     connect(mpBar, &LogbookBar::signalAnswer, this, &LogbookController::slotAnswer);
     connect(&mIntake, &LogbookIntake::signalDone, this, &LogbookController::slotTaken);
     connect(mpWorker.get(), &LogbookWorker::signalChanged, this, &LogbookController::askServices);
+    connect(mpWorker.get(), &LogbookWorker::signalPutAside, this,
+            [this](const QString& error) { mParts.notices.tell(tr("The logbook was damaged.\n%1").arg(error)); });
     connect(mpExport, &LogbookExport::signalWritten, this, &LogbookController::signalWritten);
     // When the window has shown the card.
     connect(&mParts.cards, &CardController::signalFolderChanged, this, &LogbookController::slotCard, Qt::QueuedConnection);
     connect(&mParts.cards, &CardController::signalCancelled, this, [this] { mWanted.reset(); });
     connect(&mParts.record, &RecordSession::recordChanged, this, &LogbookController::slotRecord);
+    new NormalController(session, mParts.record, *mpWorker, this);
 }
 
 LogbookController::~LogbookController()
@@ -86,6 +91,13 @@ void LogbookController::createWindow()
     connect(mpOptions, &LogbookOptions::signalChanged, this, [this] {
         mpBar->setVisible(Settings::kLogbook.get(mSession.property) == eLogbookNotAsked && mpBar->isVisible());
         takeCard();
+    });
+    mpDialog->setContext(mSession.profile.context());
+    mpDialog->setHiddenColumns(Settings::kLogbookHidden.text(mSession.property).split(','));
+    connect(&mParts.record, &RecordSession::decodingChanged, mpDialog.get(), [this] { mpDialog->setContext(mSession.profile.context()); });
+    connect(mpDialog.get(), &DialogLogbook::signalHiddenColumns, this, [this](const QStringList& keys) {
+        Settings::kLogbookHidden.set(mSession.property, keys.join(','));
+        mSession.property.writeXmlFile();
     });
     connect(mpDialog.get(), &DialogLogbook::signalOpen, this, &LogbookController::open);
     connect(mpDialog.get(), &DialogLogbook::signalExportFlights, this,
@@ -114,7 +126,7 @@ void LogbookController::slotCard()
 {
     mParts.overview.view().setServices({});
     const bool hasCard = !mSession.container.recordCycles().empty() && !isDemo();
-    mpBar->setVisible(hasCard && Settings::kLogbook.get(mSession.property) == eLogbookNotAsked);
+    mpBar->setVisible(hasCard && !mParts.isReduced && Settings::kLogbook.get(mSession.property) == eLogbookNotAsked);
     takeCard();
     askServices();
     if (mWanted && mWanted->folder == mSession.container.path())
@@ -191,7 +203,7 @@ CardReviewer::Supplement LogbookController::supplement() const
         for (const LogbookNote& note : logbook.notes(head.id))
             overview.notes.push_back(note.note);
         if (!overview.flights.empty())
-            overview.unusual = unusualTexts(store, head, overview);
+            overview.unusual = unusualTexts(store, head, overview, card.values().context());
     };
 }
 

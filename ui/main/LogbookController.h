@@ -40,6 +40,7 @@ public:
         MainCommands& commands;
         Notices& notices;
         RecordSession& record;
+        bool isReduced = false; ///< the display has no room for questions
     };
 
     LogbookController(const Session& session, const Parts& parts, const QString& dataPath, QWidget* pWindow);

@@ -5,6 +5,7 @@
 #include "app/Revision.h"
 #include "app/SafeFile.h"
 #include "app/Settings.h"
+#include "export/ui/ExportTarget.h"
 #include "report/PaperReport.h"
 #include "report/ReportText.h"
 #include "ui/logbook/model/LogbookCsv.h"
@@ -60,9 +61,10 @@ LogbookExport::LogbookExport(const Session& session, QString store, QWidget* pWi
 {
 }
 
-char LogbookExport::separator() const
+CsvForm LogbookExport::form() const
 {
-    return static_cast<char>(Settings::kCsvLimiter.get(mSession.property));
+    const auto separator = static_cast<char>(Settings::kCsvLimiter.get(mSession.property));
+    return CsvForm::of(Settings::kCsvLocale.text(mSession.property), separator).value_or(CsvForm{separator});
 }
 
 QString LogbookExport::askFile(QWidget* pParent, const QString& title, const QString& name, const QStringList& filters)
@@ -82,6 +84,12 @@ QString LogbookExport::askFile(QWidget* pParent, const QString& title, const QSt
     if (mProgress.isRunning() || dialog.exec() != QDialog::Accepted)
         return {};
     const QString path = dialog.selectedFiles().constFirst();
+    const QFileInfo file(path);
+    if (const QString problem = ExportTarget(mSession.container, file.absolutePath(), file.fileName()).recordProblem();
+        !problem.isEmpty()) {
+        tell(pParent, problem);
+        return {};
+    }
     Settings::kLogbookDir.set(mSession.property, QFileInfo(path).absolutePath());
     mSession.property.writeXmlFile();
     return path;
@@ -93,17 +101,18 @@ void LogbookExport::exportFlights(QWidget* pParent, const std::vector<int64_t>& 
     if (path.isEmpty())
         return;
     const bool isLetter = QLocale::system().measurementSystem() == QLocale::ImperialUSSystem;
-    run(pParent, path, [flights, title, isLetter, store = encodeFileName(mStore), separator = separator()](const std::string& name, Progress& progress) {
-        LogbookReader reader(store);
-        std::vector<LogbookEntry> entries = reader.entries(flights);
-        if (!reader.error().empty())
-            return reader.error();
-        std::erase_if(entries, [](const LogbookEntry& entry) { return entry.flight == 0; }); // gone meanwhile
-        SafeFile file(name);
-        if (QString::fromStdString(name).endsWith(".pdf", Qt::CaseInsensitive))
-            return writePdf(file, documentOf(entries, title), isLetter, progress);
-        return LogbookCsv(separator).writeFlights(file, entries) ? std::string() : file.error();
-    });
+    run(pParent, path,
+        [flights, title, isLetter, store = encodeFileName(mStore), form = form()](const std::string& name, Progress& progress) {
+            LogbookReader reader(store);
+            std::vector<LogbookEntry> entries = reader.entries(flights);
+            if (!reader.error().empty())
+                return reader.error();
+            std::erase_if(entries, [](const LogbookEntry& entry) { return entry.flight == 0; }); // gone meanwhile
+            SafeFile file(name);
+            if (QString::fromStdString(name).endsWith(".pdf", Qt::CaseInsensitive))
+                return writePdf(file, documentOf(entries, title), isLetter, progress);
+            return LogbookCsv(form).writeFlights(file, entries) ? std::string() : file.error();
+        });
 }
 
 void LogbookExport::exportNotes(QWidget* pParent, const std::vector<LogbookNote>& notes)
@@ -111,9 +120,9 @@ void LogbookExport::exportNotes(QWidget* pParent, const std::vector<LogbookNote>
     const QString path = askFile(pParent, tr("Export notes"), tr("Notes") + ".csv", {tr("CSV Files (*.csv)")});
     if (path.isEmpty())
         return;
-    run(pParent, path, [notes, separator = separator()](const std::string& name, Progress&) {
+    run(pParent, path, [notes, form = form()](const std::string& name, Progress&) {
         SafeFile file(name);
-        return LogbookCsv(separator).writeNotes(file, notes) ? std::string() : file.error();
+        return LogbookCsv(form).writeNotes(file, notes) ? std::string() : file.error();
     });
 }
 
@@ -129,10 +138,15 @@ void LogbookExport::run(QWidget* pParent, const QString& path, const Write& writ
                 Q_EMIT signalWritten(path);
             if (error.isEmpty() || mProgress.isCancelled())
                 return;
-            QMessageBox box(QMessageBox::Critical, tr("ZARN Warning"), tr("The file could not be written.") + "\n" + error, QMessageBox::Ok, pParent);
-            box.setTextFormat(Qt::PlainText);
-            box.exec();
+            tell(pParent, tr("The file could not be written.") + "\n" + error);
         });
+}
+
+void LogbookExport::tell(QWidget* pParent, const QString& problem)
+{
+    QMessageBox box(QMessageBox::Critical, tr("ZARN Warning"), problem, QMessageBox::Ok, pParent);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
 }
 
 } // namespace ZARN

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "export/CsvForm.h"
 #include "export/ui/ExportProgress.h"
 #include "project/Session.h"
 #include "store/LogbookReader.h"
@@ -26,8 +27,9 @@ private:
     using Write = std::function<std::string(const std::string& path, Progress& progress)>;
 
     QString askFile(QWidget* pParent, const QString& title, const QString& name, const QStringList& filters);
+    static void tell(QWidget* pParent, const QString& problem);
     void run(QWidget* pParent, const QString& path, const Write& write);
-    [[nodiscard]] char separator() const;
+    [[nodiscard]] CsvForm form() const;
 
     Session mSession;
     const QString mStore;

@@ -1,8 +1,8 @@
 #include "ui/main/NoteController.h"
 
-#include "app/TimeText.h"
 #include "card/CardContainer.h"
 #include "project/RecordSession.h"
+#include "project/TimeReference.h"
 #include "store/CycleIdentity.h"
 #include "ui/logbook/model/LogbookWorker.h"
 #include "ui/main/MainActions.h"
@@ -89,7 +89,8 @@ void NoteController::write()
             note = other;
     }
     bool isGiven = false;
-    const QString label = (note.id > 0 ? tr("Note at %1; without a text it is removed:") : tr("Note at %1:")).arg(signedTimeText(wholeMilliseconds(note.time)));
+    const QString label = (note.id > 0 ? tr("Note at %1; without a text it is removed:") : tr("Note at %1:"))
+                              .arg(TimeReference::of(mSession.property, mSession.container).textAt(note.time));
     const std::string cycle = mCycle;
     const QString text = QInputDialog::getMultiLineText(mpWindow, tr("Note"), label, note.text, &isGiven).trimmed();
     if (!isGiven || text == note.text || cycle != mCycle)

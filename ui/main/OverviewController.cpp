@@ -26,6 +26,7 @@ OverviewController::OverviewController(const Session& session, RecordSession& re
     connect(&mPages, &QStackedWidget::currentChanged, this, &OverviewController::slotPage);
     connect(&mRecord, &RecordSession::recordChanged, this, &OverviewController::slotRecord);
     connect(&mRecord, &RecordSession::decodingChanged, mpOverview, &DialogOverview::reset);
+    connect(&mData, &DialogData::signalSettings, mpOverview, &DialogOverview::updateTimes);
     connect(mpOverview, &DialogOverview::signalFlight, this, &OverviewController::open);
     connect(mpOverview, &DialogOverview::signalIncident, this, &OverviewController::openIncident);
 }

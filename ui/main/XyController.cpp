@@ -23,6 +23,7 @@ XyController::XyController(const Session& session, RecordSession& record, Dialog
     mDelay.setInterval(kDragging);
     connect(&mDelay, &QTimer::timeout, this, [this] { mpWindow->setMarked(mData.graph().markedSpan()); });
     connect(&mData, &DialogData::signalMarker, &mDelay, qOverload<>(&QTimer::start));
+    connect(&mData, &DialogData::signalSettings, mpWindow, &DialogXy::refresh);
     connect(&mData, &DialogData::signalCurves, &action, &QAction::trigger);
 }
 

@@ -449,7 +449,8 @@ bool WidgetMap::event(QEvent* pEvent)
     switch (pEvent->type()) {
     case QEvent::ToolTip: {
         const auto& help = static_cast<const QHelpEvent&>(*pEvent);
-        QToolTip::showText(help.globalPos(), plainToolTip(mInteraction.textAt(help.pos())), this);
+        QToolTip::showText(help.globalPos(),
+                           plainToolTip(mInteraction.textAt(help.pos(), TimeReference::of(mSession.property, mSession.container))), this);
         return true;
     }
     case QEvent::TouchBegin:

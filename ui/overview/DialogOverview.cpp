@@ -11,6 +11,9 @@
 #include <QProgressBar>
 #include <QVBoxLayout>
 
+#include <algorithm>
+#include <functional>
+
 namespace ZARN {
 
 namespace {
@@ -73,6 +76,28 @@ void DialogOverview::reset()
         begin();
 }
 
+void DialogOverview::updateTimes()
+{
+    if (std::exchange(mTimes, TimeReference::wanted(mSession.property)) == TimeReference::wanted(mSession.property))
+        return;
+    for (WidgetCycleCard* pCard : std::exchange(mCards, {})) {
+        mPending.push_back(std::make_shared<const CycleOverview>(pCard->cycle()));
+        pCard->deleteLater();
+    }
+    std::ranges::stable_sort(mPending, std::ranges::greater(), [](const auto& pCycle) { return pCycle->number; });
+    mpCardText->setText(OverviewTexts::breakable(cardText()));
+    mAddTimer.start();
+}
+
+/// Each by its own clock and take-off.
+std::shared_ptr<const CycleOverview> DialogOverview::timed(const CycleOverview& cycle) const
+{
+    auto pTimed = std::make_shared<CycleOverview>(cycle);
+    const auto takeOff = cycle.flights.empty() ? std::nullopt : std::optional(cycle.flights.front().takeOffTime);
+    pTimed->times = TimeReference::of(mTimes, cycle.dateTime, takeOff);
+    return pTimed;
+}
+
 void DialogOverview::setServices(const QStringList& services)
 {
     mpServices->setText(OverviewTexts::breakable(services.join('\n')));
@@ -81,6 +106,7 @@ void DialogOverview::setServices(const QStringList& services)
 
 void DialogOverview::begin()
 {
+    mTimes = TimeReference::wanted(mSession.property);
     mpCardText->setText(OverviewTexts::breakable(cardText()));
     const bool isEmpty = mSession.container.recordCycles().empty();
     mpEmpty->setText(isEmpty ? tr("This card holds no power cycle.") : QString());
@@ -90,6 +116,15 @@ void DialogOverview::begin()
     mpProgress->setValue(0);
     if (!isEmpty)
         mReviewer.start();
+}
+
+QString DialogOverview::timesText(ETimeReference times)
+{
+    switch (times) {
+    case ETimeReference::eClock: return tr("Times of the recorder's clock; where it was not set, since the unit's power-up.");
+    case ETimeReference::eTakeOff: return tr("Times since the first take-off; without a flight, since the unit's power-up.");
+    default: return tr("Times since the unit's power-up.");
+    }
 }
 
 QString DialogOverview::cardText() const
@@ -107,7 +142,7 @@ QString DialogOverview::cardText() const
     const ProfileModel& profile = mSession.profile.model();
     const QString variant = QString::fromStdString(mSession.profile.currentVariant());
     parts.append(tr("profile %1").arg(variant.isEmpty() ? QString::fromStdString(profile.name) : variant));
-    return parts.join(", ") + ". " + tr("Times since the unit's power-up.");
+    return parts.join(", ") + ". " + timesText(mTimes);
 }
 
 /// One in each turn of the event loop: the page needs some to take its new height, and would be drawn too low until then.
@@ -119,7 +154,7 @@ void DialogOverview::addNext()
             finish();
         return;
     }
-    auto* pCard = new WidgetCycleCard(std::move(mPending.front()), widget());
+    auto* pCard = new WidgetCycleCard(timed(*mPending.front()), widget());
     mPending.pop_front();
     pCard->ensurePolished();
     pCard->fitTo(mpCards->geometry().width());

@@ -26,6 +26,8 @@ public:
 
     /// Begins anew: another card is open, or another profile or unit in force. Works when it is seen; hidden, it waits for that.
     void reset();
+    /// How times are told may be another way.
+    void updateTimes();
     /// What is known of cycles beside the card, from the next review on.
     void setSupplement(CardReviewer::Supplement supplement) { mReviewer.setSupplement(std::move(supplement)); }
     /// What has to be done to the engines of the card, a sentence each.
@@ -47,9 +49,11 @@ protected:
 private:
     void begin();
     void addNext();
+    [[nodiscard]] std::shared_ptr<const CycleOverview> timed(const CycleOverview& cycle) const;
     void finish();
     void tellStopped(const QString& problem);
     [[nodiscard]] QString cardText() const;
+    static QString timesText(ETimeReference times);
 
     Session mSession;
     CardReviewer mReviewer;
@@ -62,6 +66,7 @@ private:
     std::vector<WidgetCycleCard*> mCards;
     std::deque<std::shared_ptr<const CycleOverview>> mPending; ///< reviewed, and not shown yet
     QTimer mAddTimer;
+    ETimeReference mTimes = ETimeReference::ePowerUp; ///< of what is shown
     bool mIsNewestWanted = false; ///< once it is known
     bool mIsOld = false; ///< to be made anew when it is seen
 };

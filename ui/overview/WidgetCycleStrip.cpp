@@ -118,8 +118,8 @@ void WidgetCycleStrip::paintLabels(QPainter& painter) const
         end = x + metrics.horizontalAdvance(text) + metrics.averageCharWidth();
     }
     const QRectF below(bar().left(), height() - metrics.height(), bar().width(), metrics.height());
-    painter.drawText(below, Qt::AlignLeft, IncidentText::time(mpCycle->startTime));
-    painter.drawText(below, Qt::AlignRight, IncidentText::time(mpCycle->endTime));
+    painter.drawText(below, Qt::AlignLeft, mpCycle->times.shortText(mpCycle->startTime));
+    painter.drawText(below, Qt::AlignRight, mpCycle->times.shortText(mpCycle->endTime));
 }
 
 void WidgetCycleStrip::paintEvent(QPaintEvent* /*pEvent*/)
@@ -167,7 +167,9 @@ QString WidgetCycleStrip::toolTipAt(const QPointF& point) const
     if (flight < 0)
         return {};
     const RecordFlight& found = mpCycle->flights[static_cast<std::size_t>(flight)];
-    return tr("Flight %1, %2 to %3").arg(flight + 1).arg(IncidentText::time(found.takeOffTime), IncidentText::time(found.landingTime));
+    return tr("Flight %1, %2 to %3")
+        .arg(flight + 1)
+        .arg(mpCycle->times.shortText(found.takeOffTime), mpCycle->times.shortText(found.landingTime));
 }
 
 bool WidgetCycleStrip::event(QEvent* pEvent)

@@ -150,7 +150,7 @@ XyChoice DialogXy::choice() const
 {
     const std::string colour = mpColour->currentIndex() > 0 ? mpColour->currentText().toStdString() : std::string();
     return {mpX->currentText().toStdString(), mpY->currentText().toStdString(), colour,
-            mpSpan->currentIndex() == eMarked ? mMarked : std::nullopt};
+            mpSpan->currentIndex() == eMarked ? mMarked : std::nullopt, TimeReference::of(mSession.property, mSession.container)};
 }
 
 void DialogXy::refresh()

@@ -365,7 +365,7 @@ void TestGraphInteraction::keys()
         press(Qt::Key_PageDown, Qt::AltModifier);
     press(Qt::Key_PageDown, Qt::AltModifier);
     QCOMPARE(model.traces().highlighted(), 29);
-    const VisibleRows rows = layoutOf(model).tableRows();
+    const VisibleRows rows = layoutOf(model).markerSheet().visible();
     QVERIFY(rows.isCut() && rows.first + rows.count == 30);
     press(Qt::Key_PageUp, Qt::ControlModifier);
     QCOMPARE(model.traces().shown()[28], 29);

@@ -2,7 +2,9 @@
 
 #include "analysis/TimeSpan.h"
 #include "card/CycleNote.h"
+#include "card/NormalBand.h"
 #include "project/DisplayLayout.h"
+#include "ui/data/model/Comparison.h"
 
 #include <functional>
 #include <optional>
@@ -64,6 +66,11 @@ public:
 
     /// Shows what somebody wrote about moments of the record, by time.
     virtual void setNotes(const std::vector<CycleNote>& /*notes*/) {}
+
+    /// Shows where earlier flights of the engine lay, for a view that can.
+    virtual void setNormal(const std::vector<NormalBand>& /*bands*/) {}
+    /// What the view compares the record with, where it does.
+    [[nodiscard]] virtual Comparison comparison() const { return {}; }
 
     /// Marks the events that the lists found, for a view that shows them among other things.
     virtual void setEvents(const EventList& /*limits*/, const EventList& /*lamps*/) {}

@@ -1,7 +1,5 @@
 #include "ui/find/model/FindTableModel.h"
 
-#include "app/TimeText.h"
-
 #include <QLocale>
 
 namespace ZARN {
@@ -10,6 +8,13 @@ void FindTableModel::setSpans(const std::vector<TimeSpan>& spans)
 {
     beginResetModel();
     mSpans = spans;
+    endResetModel();
+}
+
+void FindTableModel::setTimes(const TimeReference& times)
+{
+    beginResetModel();
+    mTimes = times;
     endResetModel();
 }
 
@@ -34,7 +39,7 @@ QVariant FindTableModel::data(const QModelIndex& index, int role) const
     const TimeSpan& span = mSpans[static_cast<std::size_t>(index.row())];
     if (index.column() == 2)
         return tr("%1 s").arg(QLocale().toString(span.end - span.start, 'f', 1));
-    return signedTimeText(wholeMilliseconds(index.column() == 0 ? span.start : span.end));
+    return mTimes.textAt(index.column() == 0 ? span.start : span.end);
 }
 
 QVariant FindTableModel::headerData(int section, Qt::Orientation orientation, int role) const

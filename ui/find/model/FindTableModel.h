@@ -1,6 +1,7 @@
 #pragma once
 
 #include "analysis/TimeSpan.h"
+#include "project/TimeReference.h"
 
 #include <QAbstractTableModel>
 
@@ -16,6 +17,7 @@ public:
     using QAbstractTableModel::QAbstractTableModel;
 
     void setSpans(const std::vector<TimeSpan>& spans);
+    void setTimes(const TimeReference& times);
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
@@ -24,6 +26,7 @@ public:
 
 private:
     std::vector<TimeSpan> mSpans;
+    TimeReference mTimes;
 };
 
 } // namespace ZARN

@@ -13,8 +13,10 @@ CycleCourse CycleCourse::of(const LoadedCard& loaded)
     course.phases = review.phases;
     if (review.engine.isKnown())
         course.engine = review.engine.stretches();
-    for (const RecordFlight& flight : loaded.flights)
+    for (const RecordFlight& flight : loaded.flights) {
         course.flights.push_back({flight.takeOffTime, flight.landingTime});
+        course.figured.push_back({flight.startTime, flight.endTime});
+    }
     for (const Incident& incident : review.incidents)
         course.incidents.push_back({{incident.start, std::max(incident.start, incident.end)}, incident.state,
                                     QString::fromStdString(incident.title()), GraphMoment::of(incident)});

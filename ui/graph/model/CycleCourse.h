@@ -19,6 +19,7 @@ struct CycleCourse {
     std::vector<FlightPhases::Step> phases;
     std::vector<TimeSpan> engine;  ///< while it ran; empty where that is not known
     std::vector<TimeSpan> flights; ///< from take-off to landing
+    std::vector<TimeSpan> figured; ///< flights with what is before and after them: what their figures are of
     std::vector<Mark> incidents;   ///< by start
 
     /// Reads all of the cycle.

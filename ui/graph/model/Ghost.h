@@ -2,13 +2,18 @@
 
 #include "ui/graph/model/ShownTraces.h"
 
+#include <memory>
+
 namespace ZARN {
+
+struct GhostCycle;
 
 /// Another flight or cycle behind the traces: its traces stand in the slots of those that they are compared with. One that was not
 /// recorded there has no samples.
 struct Ghost {
     QString name; ///< for people
     ShownTraces traces;
+    std::shared_ptr<const GhostCycle> pCycle = {}; ///< whose they are
 };
 
 /// Whether there is something to compare a trace with.

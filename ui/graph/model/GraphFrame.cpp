@@ -18,7 +18,8 @@ void GraphFrame::update(const GraphModel& model, const QSizeF& size, double text
     mGhost.setGapsOn(model.settings().gapsOn);
     // In one area for all, those of every trace would hide each other.
     const int only = model.settings().displayMode == eSplit ? -1 : model.traces().axis();
-    mGhost.update(mpGhost->traces, model.window().movedBy(-model.scenery().ghostShift()), columns, only);
+    // It stands behind: every second column, with the extremes of two, tells as much at half the cost.
+    mGhost.update(mpGhost->traces, model.window().movedBy(-model.scenery().ghostShift()), (columns + 1) / 2, only);
 }
 
 } // namespace ZARN

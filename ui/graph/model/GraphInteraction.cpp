@@ -236,7 +236,7 @@ void GraphInteraction::wheel(int delta, Qt::KeyboardModifiers modifiers)
 {
     if (mShift || modifiers.testFlag(Qt::ShiftModifier))
         return;
-    const bool isTable = mLayout.table().contains(mPointer) && mLayout.tableRows().isCut();
+    const bool isTable = mLayout.table().contains(mPointer) && mLayout.markerSheet().visible().isCut();
     if (isTable || (mLayout.legend().contains(mPointer) && mLayout.legendRows().isCut() && !mLayout.isLegendInStrips()))
         return scroll(isTable, delta);
     // A notch is a step, and what a touch pad tells a part of one.
@@ -260,7 +260,7 @@ void GraphInteraction::swiped(double pixels)
 void GraphInteraction::scroll(bool isTable, int delta)
 {
     constexpr double kLines = 3.0; // a notch
-    const VisibleRows& rows = isTable ? mLayout.tableRows() : mLayout.legendRows();
+    const VisibleRows& rows = isTable ? mLayout.markerSheet().visible() : mLayout.legendRows();
     mScrolled -= kLines * delta / kNotch;
     const double whole = std::trunc(mScrolled);
     mScrolled -= whole;

@@ -3,7 +3,6 @@
 #include "ui/canvas/CanvasFont.h"
 #include "ui/graph/model/AxisTicks.h"
 #include "ui/graph/model/GraphTexts.h"
-#include "ui/graph/model/MarkerValues.h"
 
 #include <algorithm>
 #include <cmath>
@@ -21,6 +20,7 @@ constexpr double kLeastGrip = 27.0;    // pixels of an axis beside the handles o
 constexpr double kReadableStrip = 2.5; // lines
 constexpr double kTablePart = 0.38;    // of the view's height at most
 constexpr double kLegendPart = 0.4;    // the same for the legend
+constexpr double kShortLegend = 0.34;  // of the view's width at most, where it tells the cursor's values alone
 constexpr int kLeastNumber = 8;        // characters of a number in the legend
 constexpr int kFewestOfName = 6, kSomeOfName = 14;
 
@@ -112,11 +112,14 @@ double GraphLayout::placeTable(const GraphModel& model)
 {
     if (!model.marker().isRange() || model.traces().shown().empty())
         return 0;
-    // The header takes a line, and what is said of the rows that have no room another one.
-    const int traces = markerRows(model.traces(), model.scenery().ghost().get()), room = std::max(3, static_cast<int>(mSize.height() * kTablePart / mLine));
-    mTableRows = VisibleRows(model.settings().firstTableRow, traces < room ? traces : room - 2, traces);
-    const double height = (mTableRows.count + (mTableRows.isCut() ? 2 : 1)) * mLine + kGap;
-    mTable = QRectF(kGap, mSize.height() - height, std::max(0.0, mSize.width() - 2 * kGap), height - kGap);
+    const double width = std::max(0.0, mSize.width() - 2 * kGap);
+    mSheet = MarkerSheet(model, static_cast<int>((width - kSwatch - 6) / mCharacter) + 1);
+    // The headings take a line, and what is said of the lines that have no room another one.
+    const auto lines = static_cast<int>(mSheet.lines().size());
+    const int room = std::max(3, static_cast<int>(mSize.height() * kTablePart / mLine));
+    mSheet.show(VisibleRows(model.settings().firstTableRow, lines < room ? lines : room - 2, lines));
+    const double height = (mSheet.visible().count + (mSheet.visible().isCut() ? 2 : 1)) * mLine + kGap;
+    mTable = QRectF(kGap, mSize.height() - height, width, height - kGap);
     return height;
 }
 
@@ -137,7 +140,7 @@ void GraphLayout::placeLegend(const GraphModel& model, double width)
                              Kind{ELegend::eCursor, std::min(mNameLength, kSomeOfName), 1}}) {
         const int characters = kind.name + unit + kind.numbers * (mNumberLength + 1);
         const double wanted = std::ceil(characters * mCharacter + 2 * kGap);
-        if (wanted > width * kLegendPart)
+        if (wanted > width * (kind.kind == ELegend::eFull ? kLegendPart : kShortLegend))
             continue;
         mLegend = kind.kind;
         mNameLength = kind.name;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/graph/model/GraphModel.h"
+#include "ui/graph/model/MarkerSheet.h"
 
 #include <QRectF>
 #include <QSizeF>
@@ -14,20 +15,6 @@ struct ValueAxis {
     int index = -1;     ///< the trace whose values it shows; -1 where there is no trace
     bool isOwn = false; ///< of no other trace
     QRectF labels;      ///< as high as the area of the trace, and to its edge
-};
-
-/// What of a list of rows has room.
-struct VisibleRows {
-    int first = 0;
-    int count = 0;
-    int all = 0;
-    VisibleRows() = default;
-    /// @param first wanted; no row below the last is shown
-    VisibleRows(int wanted, int room, int rows)
-        : first(std::clamp(wanted, 0, std::max(0, rows - room))), count(std::min(room, rows)), all(rows)
-    {
-    }
-    [[nodiscard]] bool isCut() const { return count < all; }
 };
 
 /// Where the parts of the graph lie in a view, in pixels, and which time and value a pixel stands for. Made anew for each frame.
@@ -54,8 +41,9 @@ public:
 
     /// The one next to the plot first; in split mode that of each strip.
     [[nodiscard]] const std::vector<ValueAxis>& axes() const { return mAxes; }
-    /// Which traces the marker's table has lines of, and the legend where it is a list.
-    [[nodiscard]] const VisibleRows& tableRows() const { return mTableRows; }
+    /// What the marker's table says, and which of its lines are shown.
+    [[nodiscard]] const MarkerSheet& markerSheet() const { return mSheet; }
+    /// Which traces the legend shows where it is a list.
     [[nodiscard]] const VisibleRows& legendRows() const { return mLegendRows; }
 
     /// The area of a shown trace: its strip, or the plot.
@@ -108,7 +96,8 @@ private:
     QSizeF mSize;
     QRectF mPlot;
     std::vector<ValueAxis> mAxes;
-    VisibleRows mTableRows, mLegendRows;
+    MarkerSheet mSheet;
+    VisibleRows mLegendRows;
     std::vector<QRectF> mStrips; // by slot; empty in a single graph
     double mStripHeight = 0.0;   // of the lowest, before it is rounded to pixels
     QRectF mLegendRect;

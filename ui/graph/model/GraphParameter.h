@@ -1,6 +1,7 @@
 #pragma once
 
 #include "analysis/SampleSeries.h"
+#include "analysis/TimeSpan.h"
 #include "ui/graph/model/GraphTexts.h"
 #include "ui/graph/model/StateNames.h"
 #include "ui/graph/model/TraceStroke.h"
@@ -17,6 +18,13 @@ struct GraphBand {
     double lower = 0.0;
     double upper = 0.0;
     QColor colour;
+};
+
+/// Values from `lower` to `upper`, in the trace's display unit, where earlier flights had it at such a time.
+struct NormalStretch {
+    TimeSpan span;
+    double lower = 0.0;
+    double upper = 0.0;
 };
 
 /// One trace of the graph: what it is called and how it is drawn, its samples.
@@ -37,6 +45,7 @@ struct GraphParameter {
     std::vector<GraphBand> bands;
     std::shared_ptr<const StateNames> pStates; ///< null for quantities
     ValueRange<double> ghostValues;            ///< the extremes of what it is compared with
+    std::vector<NormalStretch> normal;         ///< by time
 
     /// The values that its area has room for: off is below and on is above, even where only one of them was recorded.
     [[nodiscard]] ValueRange<double> range() const
@@ -45,6 +54,10 @@ struct GraphParameter {
         if (pStates)
             values.add(pStates->range());
         values.add(ghostValues);
+        for (const NormalStretch& stretch : normal) {
+            values.add(stretch.lower);
+            values.add(stretch.upper);
+        }
         return values;
     }
 

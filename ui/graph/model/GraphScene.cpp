@@ -5,6 +5,7 @@
 #include "ui/graph/model/FoundMarks.h"
 #include "ui/graph/model/GraphAxes.h"
 #include "ui/graph/model/GraphTables.h"
+#include "ui/graph/model/NormalRange.h"
 #include "ui/graph/model/NoteMarks.h"
 #include "ui/graph/model/StateSteps.h"
 #include "ui/graph/model/TraceColours.h"
@@ -45,6 +46,7 @@ void GraphScene::draw(Canvas& canvas) const
     canvas.fillRect(mLayout.plot(), mModel.colours().background);
     const CourseBand course(mModel, mLayout);
     course.drawFlights(canvas);
+    NormalRange(mModel, mLayout).draw(canvas);
     GraphAxes(mModel, mLayout).draw(canvas);
     course.draw(canvas);
     FoundMarks(mModel, mLayout).draw(canvas);

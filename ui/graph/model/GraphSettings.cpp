@@ -22,6 +22,7 @@ void GraphSettings::load(GraphModel& model) const
     GraphData& settings = model.settings();
     settings.clickMovesCursor = Settings::kGraphClickMovesCursor.get(mProperty);
     settings.gapsOn = Settings::kGraphGaps.get(mProperty);
+    settings.normalOn = Settings::kGraphNormal.get(mProperty);
     // The one in force may have colours that were changed since.
     if (const auto palette = static_cast<EGraphPalette>(Settings::kGraphPalette.get(mProperty)); palette != settings.palette) {
         settings.usePalette(palette);

@@ -89,8 +89,12 @@ void GraphTables::drawLegend(Canvas& canvas) const
         return;
     const QRectF list = mLayout.legend();
     mLabels.drawScrollBar(canvas, list.adjusted(0, mLayout.line(), 0, 0), rows);
-    canvas.text(QPointF(list.left() + kSwatch + 6, std::floor(list.height() / mLayout.line() - 1) * mLayout.line() + list.top()),
-                translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "%1 more")).arg(rows.all - rows.count), style(false));
+    // In the last line of the last column.
+    const QRectF line = mLayout.legendLine(mModel, static_cast<std::size_t>(rows.first));
+    const QPointF place(line.isEmpty() ? list.left() : list.right() - line.width(),
+                        std::floor(list.height() / mLayout.line() - 1) * mLayout.line() + list.top());
+    canvas.text(place + QPointF(kSwatch + 6, 0), translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "%1 more")).arg(rows.all - rows.count),
+                style(false));
 }
 
 void GraphTables::drawLegendHeader(Canvas& canvas) const

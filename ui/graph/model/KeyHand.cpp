@@ -118,11 +118,11 @@ void KeyHand::choose(int step)
     mModel.moveCursor(mModel.cursor().time, mModel.cursor().value, next);
     // Its lines of the lists come into sight.
     const int row = static_cast<int>(std::ranges::find(traces.shown(), next) - traces.shown().begin());
-    const auto show = [row](int& first, const VisibleRows& rows) {
-        first = std::clamp(rows.first, std::max(0, row - rows.count + 1), row);
+    const auto show = [](int line, int& first, const VisibleRows& rows) {
+        first = std::clamp(rows.first, std::max(0, line - rows.count + 1), line);
     };
-    show(mModel.settings().firstTableRow, mLayout.tableRows());
-    show(mModel.settings().firstLegendRow, mLayout.legendRows());
+    show(mLayout.markerSheet().lineOf(next), mModel.settings().firstTableRow, mLayout.markerSheet().visible());
+    show(row, mModel.settings().firstLegendRow, mLayout.legendRows());
 }
 
 void KeyHand::moveStrip(int step)

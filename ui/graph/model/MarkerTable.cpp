@@ -4,18 +4,12 @@
 
 #include <QCoreApplication>
 
-#include <algorithm>
-#include <cmath>
-#include <numeric>
-#include <utility>
-
 namespace ZARN {
 
 namespace {
 
 constexpr float kGhostShare = 0.5F; // of the trace's colour in that of its ghost
 constexpr double kSwatch = GraphLayout::kSwatch;
-enum EColumn { eName, eFrom, eTo, eDifference, eMinimum, eMaximum, eMean, eIntegral, eUnit };
 
 } // namespace
 
@@ -24,19 +18,18 @@ void MarkerTable::draw(Canvas& canvas) const
     const QRectF& table = mLayout.table();
     if (table.isEmpty())
         return;
-    const std::vector<MarkerValues> values = markerValues(mModel.traces(), mModel.marker(), &mModel.scenery());
-    const std::vector<QStringList> rows = cells(values);
-    const std::vector<int> widths = this->widths(rows);
-    const VisibleRows& visible = mLayout.tableRows();
+    const MarkerSheet& sheet = mLayout.markerSheet();
+    const VisibleRows& visible = mLayout.markerSheet().visible();
     double y = table.top();
-    drawRow(canvas, y, rows.front(), widths);
     for (int i = visible.first; i < visible.first + visible.count; ++i) {
+        const auto [part, row] = sheet.lines()[static_cast<std::size_t>(i)];
+        if (i == visible.first)
+            drawCells(canvas, y, sheet.headings(), part); // of what follows, wherever its own are
         y += mLayout.line();
-        const auto place = static_cast<std::size_t>(i);
-        if (values[place].index == mModel.traces().highlighted())
-            canvas.fillRect(QRectF(table.left(), y, table.width(), mLayout.line()), mLabels.highlight());
-        canvas.fillRect(QRectF(table.left() + 2, y + 3, kSwatch, mLayout.line() - 6), colourOf(values[place]));
-        drawRow(canvas, y, rows[place + 1], widths);
+        if (row >= 0)
+            drawRow(canvas, y, sheet.rows()[static_cast<std::size_t>(row)], part);
+        else if (i > visible.first)
+            drawCells(canvas, y, sheet.headings(), part);
     }
     if (!visible.isCut())
         return;
@@ -48,42 +41,19 @@ void MarkerTable::draw(Canvas& canvas) const
     canvas.text(QPointF(table.left() + kSwatch + 6, y + mLayout.line()), text, style(false));
 }
 
-QColor MarkerTable::colourOf(const MarkerValues& value) const
+void MarkerTable::drawRow(Canvas& canvas, double y, const MarkerSheet::Row& row, std::size_t part) const
 {
-    const QColor& colour = mModel.traces().at(value.index)->drawnColour;
-    return value.ghost.isEmpty() ? colour : mixed(mModel.colours().labelBackground, colour, kGhostShare);
+    const QRectF& table = mLayout.table();
+    if (row.index == mModel.traces().highlighted())
+        canvas.fillRect(QRectF(table.left(), y, table.width(), mLayout.line()), mLabels.highlight());
+    canvas.fillRect(QRectF(table.left() + 2, y + 3, kSwatch, mLayout.line() - 6), colourOf(row));
+    drawCells(canvas, y, row.cells, part);
 }
 
-std::vector<QStringList> MarkerTable::cells(const std::vector<MarkerValues>& values) const
+QColor MarkerTable::colourOf(const MarkerSheet::Row& row) const
 {
-    const GraphMarker& marker = mModel.marker();
-    const QString width = QStringLiteral("dt = %1 s").arg(std::abs(marker.end - marker.start), 0, 'f', 3);
-    std::vector<QStringList> rows{QStringList{width} + MarkerValues::headers() + QStringList{QString()}};
-    for (const MarkerValues& value : values) {
-        const GraphParameter& trace = *value.pParameter;
-        rows.push_back(QStringList{GraphLayout::shortened(value.label(), GraphLayout::kLongestName + 8)} + value.texts() +
-                       QStringList{QLatin1Char('[') + integralUnit(trace.unit) + QLatin1Char(']')});
-    }
-    return rows;
-}
-
-std::vector<int> MarkerTable::widths(const std::vector<QStringList>& rows) const
-{
-    std::vector<int> widths(static_cast<std::size_t>(rows.front().size()), 0);
-    for (const QStringList& row : rows) {
-        for (std::size_t i = 0; i < widths.size(); ++i)
-            widths[i] = std::max(widths[i], static_cast<int>(row[static_cast<qsizetype>(i)].size()) + (i == eUnit ? 1 : 2));
-    }
-    int wanted = std::accumulate(widths.begin(), widths.end(), 0);
-    const int room = static_cast<int>((mLayout.table().width() - kSwatch - 6) / mLayout.character()) + 1;
-    for (const std::size_t column : {eFrom, eTo, eDifference, eMinimum, eMaximum, eIntegral, eMean}) {
-        if (wanted <= room)
-            break;
-        wanted -= std::exchange(widths[column], 0);
-        if (column == eIntegral)
-            wanted -= std::exchange(widths[eUnit], 0);
-    }
-    return widths;
+    const QColor& colour = mModel.traces().at(row.index)->drawnColour;
+    return row.isGhost ? mixed(mModel.colours().labelBackground, colour, kGhostShare) : colour;
 }
 
 CanvasText MarkerTable::style(bool isBold) const
@@ -91,18 +61,18 @@ CanvasText MarkerTable::style(bool isBold) const
     return {mLayout.textSize(), mModel.colours().label, isBold, Qt::AlignLeft | Qt::AlignTop, false};
 }
 
-void MarkerTable::drawRow(Canvas& canvas, double y, const QStringList& cells, const std::vector<int>& widths) const
+void MarkerTable::drawCells(Canvas& canvas, double y, const QStringList& cells, std::size_t part) const
 {
     double x = mLayout.table().left() + kSwatch + 6;
-    for (std::size_t i = 0; i < widths.size(); ++i) {
-        const double width = widths[i] * mLayout.character();
-        const QString& cell = cells[static_cast<qsizetype>(i)];
-        CanvasText text = style(i == eName);
-        const bool isNumber = i != eName && i != eUnit;
+    for (const auto& [cell, columnWidth] : mLayout.markerSheet().columns(part)) {
+        const double width = columnWidth * mLayout.character();
+        const QString text = cell == MarkerSheet::eName ? GraphLayout::shortened(cells[cell], columnWidth - 1) : cells[cell];
+        CanvasText style = this->style(cell == MarkerSheet::eName);
+        const bool isNumber = cell != MarkerSheet::eName && cell != MarkerSheet::eUnit;
         if (isNumber)
-            text.align = Qt::AlignRight | Qt::AlignTop;
-        if (widths[i] > 0 && !cell.isEmpty())
-            canvas.text(QPointF(isNumber ? x + width : i == eUnit ? x + mLayout.character() : x, y), cell, text);
+            style.align = Qt::AlignRight | Qt::AlignTop;
+        if (!text.isEmpty())
+            canvas.text(QPointF(isNumber ? x + width : cell == MarkerSheet::eUnit ? x + mLayout.character() : x, y), text, style);
         x += width;
     }
 }

@@ -1,12 +1,11 @@
 #pragma once
 
 #include "ui/graph/model/GraphLabels.h"
-#include "ui/graph/model/MarkerValues.h"
 
 namespace ZARN {
 
 /// Draws the values of the marker below the plot: a line for each trace, in columns as wide as what stands in them. Where there is no room
-/// for all lines they are scrolled; where there is none for all columns those go first that can be read from the traces.
+/// for all lines they are scrolled below the headings.
 class MarkerTable {
 public:
     MarkerTable(const GraphModel& model, const GraphLayout& layout) : mModel(model), mLayout(layout), mLabels(model, layout) {}
@@ -14,10 +13,9 @@ public:
     void draw(Canvas& canvas) const;
 
 private:
-    [[nodiscard]] std::vector<QStringList> cells(const std::vector<MarkerValues>& values) const;
-    [[nodiscard]] std::vector<int> widths(const std::vector<QStringList>& rows) const;
-    void drawRow(Canvas& canvas, double y, const QStringList& cells, const std::vector<int>& widths) const;
-    [[nodiscard]] QColor colourOf(const MarkerValues& value) const;
+    void drawCells(Canvas& canvas, double y, const QStringList& cells, std::size_t part) const;
+    void drawRow(Canvas& canvas, double y, const MarkerSheet::Row& row, std::size_t part) const;
+    [[nodiscard]] QColor colourOf(const MarkerSheet::Row& row) const;
     [[nodiscard]] CanvasText style(bool isBold) const;
 
     const GraphModel& mModel;

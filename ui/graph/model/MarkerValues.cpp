@@ -113,11 +113,6 @@ std::vector<MarkerValues> markerValues(const ShownTraces& traces, const GraphMar
     return out;
 }
 
-int markerRows(const ShownTraces& traces, const Ghost* pGhost)
-{
-    return static_cast<int>(traces.count() + std::ranges::count_if(traces.shown(), [pGhost](int index) { return hasGhost(pGhost, index); }));
-}
-
 QString integralUnit(const QString& unit)
 {
     if (unit.endsWith(QLatin1String("/h")))

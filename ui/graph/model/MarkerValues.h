@@ -36,10 +36,7 @@ struct MarkerValues {
 
 /// Of all shown traces, between the marker's earlier and later end; each followed by what it is compared with.
 [[nodiscard]] std::vector<MarkerValues> markerValues(const ShownTraces& traces, const GraphMarker& marker,
-                                                      const GraphScenery* pScenery = nullptr);
-/// How many these are.
-[[nodiscard]] int markerRows(const ShownTraces& traces, const Ghost* pGhost);
-
+                                                     const GraphScenery* pScenery = nullptr);
 /// The unit of an integral over hours: what is left of a flow per hour, else the unit times hours.
 [[nodiscard]] QString integralUnit(const QString& unit);
 

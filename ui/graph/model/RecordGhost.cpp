@@ -22,6 +22,7 @@ void RecordGhost::fill(bool isWanted)
         return mModel.scenery().setGhost(nullptr);
     auto pGhost = std::make_shared<Ghost>();
     pGhost->name = mpCycle->name;
+    pGhost->pCycle = mpCycle;
     pGhost->traces.setCount(slots);
     mForEach(mpCycle->loaded.pRecord.get(), [&](int slot, const Trace& trace) {
         describeSlot(pGhost->traces, slot, trace);

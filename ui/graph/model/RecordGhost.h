@@ -3,6 +3,7 @@
 #include "project/Session.h"
 #include "ui/graph/model/GhostCycle.h"
 #include "ui/graph/model/GraphModel.h"
+#include "ui/graph/model/RecordNormal.h"
 
 #include <functional>
 
@@ -17,7 +18,11 @@ public:
     /// Calls for each trace of a record that has a slot.
     using ForEach = std::function<void(const RecordData* pRecord, const std::function<void(int slot, const Trace& trace)>& visit)>;
 
-    RecordGhost(const Session& session, GraphModel& model, ForEach forEach) : mSession(session), mModel(model), mForEach(std::move(forEach)) {}
+    RecordGhost(const Session& session, GraphModel& model, const ForEach& forEach)
+        : mSession(session), mModel(model), mForEach(forEach),
+          mNormal(session.property, model, [forEach](const auto& visit) { forEach(nullptr, visit); })
+    {
+    }
 
     /// Another cycle behind the traces; null for none. Laid on this one by their take-offs, of the ghost's flight of that number (from 1,
     /// 0: the first), else by the starts of their engines.
@@ -26,6 +31,9 @@ public:
     // False where one of the two has no such moment.
     bool alignTakeOff(int flight);
     bool alignEngineStart();
+
+    /// Where earlier flights lay.
+    [[nodiscard]] RecordNormal& normal() { return mNormal; }
 
     /// The slots show other traces. @param isWanted whether there is a record to compare with
     void fill(bool isWanted);
@@ -39,6 +47,7 @@ private:
     const Session mSession;
     GraphModel& mModel;
     ForEach mForEach;
+    RecordNormal mNormal;
     std::shared_ptr<const GhostCycle> mpCycle;
     std::optional<int> mFlight; ///< the flight of the ghost whose take-off was laid on ours
     double mTakeOff = 0.0;      ///< ours then

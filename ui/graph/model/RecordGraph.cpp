@@ -21,7 +21,8 @@ constexpr double kLiveWidth = 60.0; // seconds that are seen at first of what co
 
 } // namespace
 
-RecordGraph::RecordGraph(const Session& session, GraphModel& model) : mSession(session), mModel(model), mSettings(session.property),
+RecordGraph::RecordGraph(const Session& session, GraphModel& model)
+    : mSession(session), mModel(model), mSettings(session.property),
       mGhost(session, model, [this](const RecordData* pRecord, const auto& visit) { forEachTrace(pRecord, visit); })
 {
     mModel.traces().setCount(kSlots);
@@ -78,6 +79,7 @@ void RecordGraph::updateSettings()
 {
     mSettings.load(mModel);
     updateTimes();
+    mGhost.normal().fill();
 }
 
 void RecordGraph::setTimes(ETimeReference kind)
@@ -364,11 +366,21 @@ void RecordGraph::showSpan(const TimeSpan& span, std::set<std::string> beside)
     describeSlots();
     fillRecord();
     mModel.setWindow({span.end > 0 ? std::max(span.start, 0.0) : span.start, span.end}); // nothing is recorded before
-    // In a single graph the trace that stands out is the one whose bands are seen.
-    const auto isAsked = [this](int slot) { return mModel.traces().at(slot)->name.toStdString() == *mBeside.begin(); };
-    const auto asked = std::ranges::find_if(mModel.traces().shown(), isAsked);
-    if (mBeside.size() == 1 && asked != mModel.traces().shown().end() && mModel.traces().highlighted() != *asked)
-        mModel.traces().togglePin(*asked);
+    highlightAsked();
+}
+
+/// In a single graph the trace that stands out is the one whose bands are seen; of several none is meant before the others.
+void RecordGraph::highlightAsked()
+{
+    ShownTraces& traces = mModel.traces();
+    if (mBeside.empty())
+        return;
+    const auto isAsked = [&](int slot) { return traces.at(slot)->name.toStdString() == *mBeside.begin(); };
+    const auto asked = mBeside.size() == 1 ? std::ranges::find_if(traces.shown(), isAsked) : traces.shown().end();
+    if (asked == traces.shown().end())
+        traces.togglePin(-1);
+    else if (traces.highlighted() != *asked)
+        traces.togglePin(*asked);
 }
 
 void RecordGraph::zoomAll()

@@ -61,7 +61,6 @@ public:
 
     /// What it is compared with.
     [[nodiscard]] RecordGhost& ghost() { return mGhost; }
-
     [[nodiscard]] bool hasRecord() const { return mpRecord != nullptr; }
     [[nodiscard]] bool hasSamples() const;
     /// From the record's start to its end.
@@ -97,6 +96,7 @@ private:
     void describeSlots();
     void fillRecord();
     void growRecord(RecordData* pRecord);
+    void highlightAsked();
 
     const Session mSession;
     GraphModel& mModel;

@@ -55,12 +55,10 @@ void fill(ShownTraces& traces, int slot, const Trace& trace, const std::vector<P
     traces.edit(slot, [&breaks](GraphParameter& parameter) { parameter.breaks = std::move(breaks); });
 }
 
-constexpr double kEver = std::numeric_limits<double>::infinity();
-
-void fillRanges(ShownTraces& traces, int slot, const Trace& trace, const std::vector<PositionRange>& ranges)
+void fillRanges(ShownTraces& traces, int slot, const Trace& trace, const std::vector<PositionRange>& ranges, double from, double to)
 {
     // A time that is no number would be found nowhere.
-    fill(traces, slot, trace, ranges, -kEver, kEver, [&](auto times, auto numbers) {
+    fill(traces, slot, trace, ranges, from, to, [&](auto times, auto numbers) {
         if (std::ranges::all_of(times, [](double time) { return std::isfinite(time); }))
             traces.append(slot, times, numbers);
     });
@@ -73,9 +71,9 @@ void fillSlot(GraphModel& model, int slot, const Trace& trace, double from, doub
     fill(model.traces(), slot, trace, trace.rangesIn(from, to), from, to, [&](auto times, auto numbers) { model.putValues(slot, times, numbers); });
 }
 
-void fillSlot(ShownTraces& traces, int slot, const Trace& trace)
+void fillSlot(ShownTraces& traces, int slot, const Trace& trace, double from, double to)
 {
-    fillRanges(traces, slot, trace, trace.rangesIn(-kEver, kEver));
+    fillRanges(traces, slot, trace, trace.rangesIn(from, to), from, to);
 }
 
 SlotFill SlotFill::of(const Trace& trace)
@@ -97,7 +95,8 @@ void growSlot(ShownTraces& traces, int slot, const Trace& trace, SlotFill& fill)
     }
     if (fill.count == trace.size())
         return;
-    fillRanges(traces, slot, trace, {{fill.count, trace.size()}});
+    constexpr double kEver = std::numeric_limits<double>::infinity();
+    fillRanges(traces, slot, trace, {{fill.count, trace.size()}}, -kEver, kEver);
     fill = SlotFill::of(trace);
 }
 

@@ -7,10 +7,11 @@ namespace ZARN {
 
 /// Gives a slot of the graph the name, unit, precision and bands of a trace.
 void describeSlot(ShownTraces& traces, int slot, const Trace& trace);
-/// The same without a graph.
-void fillSlot(ShownTraces& traces, int slot, const Trace& trace);
 /// Puts the samples of a trace of the kind eDisplay into a slot: those from one time to the other, without
 /// what is not a number, where the trace may be interrupted.
+void fillSlot(ShownTraces& traces, int slot, const Trace& trace, double from = -std::numeric_limits<double>::infinity(),
+              double to = std::numeric_limits<double>::infinity());
+/// The same, the latest one being the graph's present.
 void fillSlot(GraphModel& model, int slot, const Trace& trace, double from = -std::numeric_limits<double>::infinity(),
               double to = std::numeric_limits<double>::infinity());
 

@@ -1,7 +1,7 @@
 #include "ui/logbook/model/LogbookWorker.h"
 
 #include "app/FileName.h"
-#include "store/Store.h"
+#include "store/StoreRescue.h"
 
 #include <QFileInfo>
 
@@ -40,7 +40,7 @@ LogbookReader* LogbookWorker::reader()
         return nullptr;
     // Brings an older form up. Where nothing can be written the reader tells what can be read all the same.
     if (const LogbookEditor editor(encodeFileName(mPath)); editor.isDamaged())
-        Q_EMIT signalFailed(QString::fromStdString(editor.error()));
+        Q_EMIT signalPutAside(QString::fromStdString(editor.error()));
     mpReader = std::make_unique<LogbookReader>(encodeFileName(mPath));
     mVersion = mpReader->version();
     if (!check())
@@ -53,15 +53,24 @@ bool LogbookWorker::check()
 {
     if (!mpReader || mpReader->error().empty())
         return true;
-    std::string error = mpReader->error();
+    const std::string error = mpReader->error();
     const bool isDamaged = mpReader->isDamaged();
     mpReader.reset(); // to be tried anew
-    if (isDamaged) {
-        const Store store(encodeFileName(mPath), {}); // looks through all of it, and puts it aside
-        error = store.error().empty() ? error : store.error();
-    }
-    Q_EMIT signalFailed(QString::fromStdString(error));
+    if (isDamaged)
+        rescue(error);
+    else
+        Q_EMIT signalFailed(QString::fromStdString(error));
     return false;
+}
+
+/// Looks a second time, and puts it aside.
+void LogbookWorker::rescue(const std::string& found)
+{
+    const StoreRescue rescued = rescueStore(encodeFileName(mPath), found);
+    if (rescued.isDamaged)
+        Q_EMIT signalPutAside(QString::fromStdString(rescued.error));
+    else
+        Q_EMIT signalFailed(QString::fromStdString(rescued.error));
 }
 
 void LogbookWorker::edit(const std::function<void(LogbookEditor&)>& work, const std::function<void(const QString&)>& then)
@@ -70,6 +79,8 @@ void LogbookWorker::edit(const std::function<void(LogbookEditor&)>& work, const 
         LogbookEditor editor(encodeFileName(mPath));
         work(editor);
         const QString error = QString::fromStdString(editor.error());
+        if (editor.isDamaged())
+            Q_EMIT signalPutAside(error);
         QMetaObject::invokeMethod(this, [then, error] { then(error); }, Qt::QueuedConnection);
     });
     look();

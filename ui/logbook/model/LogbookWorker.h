@@ -46,6 +46,8 @@ Q_SIGNALS:
     void signalChanged();
     /// The store cannot be read, and why.
     void signalFailed(const QString& error);
+    /// It was damaged, and is kept under another name, by what the error tells: what is shown from now on is of a new one.
+    void signalPutAside(const QString& error);
 
 private:
     void post(std::function<void()> work);
@@ -53,6 +55,7 @@ private:
     LogbookReader* reader();
     /// Whether nothing failed; else says so.
     bool check();
+    void rescue(const std::string& found);
 
     const QString mPath;
     std::unique_ptr<LogbookReader> mpReader; // of the thread

@@ -83,7 +83,8 @@ void TrendScene::draw(Canvas& canvas, int chosen) const
     drawAxes(canvas);
     drawDates(canvas);
     canvas.push();
-    canvas.clip(mPlot);
+    constexpr double kSign = 5.0; // of the first and last flights, too, signs are whole
+    canvas.clip(mPlot.adjusted(-kSign, 0, kSign, 0));
     drawBand(canvas);
     if (chosen >= 0 && chosen < static_cast<int>(count())) {
         const double x = std::floor(xOf(static_cast<std::size_t>(chosen)));

@@ -1,7 +1,5 @@
 #include "ui/map/model/MapEvents.h"
 
-#include "card/CardContainer.h"
-
 #include <QStringList>
 
 #include <algorithm>
@@ -76,11 +74,11 @@ std::vector<const MapEvent*> MapEvents::near(const MapPath& path, const OpenStre
     return result;
 }
 
-QString MapEvents::text(const std::vector<const MapEvent*>& events)
+QString MapEvents::text(const std::vector<const MapEvent*>& events, const TimeReference& times)
 {
     QStringList lines;
     for (const MapEvent* pEvent : events)
-        lines << CardContainer::time(pEvent->time) + QLatin1String("  ") + QString::fromStdString(pEvent->text);
+        lines << times.textAt(pEvent->time) + QLatin1String("  ") + QString::fromStdString(pEvent->text);
     return lines.join(QLatin1Char('\n'));
 }
 

@@ -2,6 +2,7 @@
 
 #include "analysis/EventList.h"
 #include "card/CycleNote.h"
+#include "project/TimeReference.h"
 #include "ui/map/model/MapPath.h"
 
 #include <QColor>
@@ -41,7 +42,7 @@ public:
     [[nodiscard]] std::vector<const MapEvent*> near(const MapPath& path, const OpenStreet::Camera& camera,
                                                     const OpenStreet::WindowPoint& point, double viewTime) const;
     /// Times and texts of events, one a line.
-    [[nodiscard]] static QString text(const std::vector<const MapEvent*>& events);
+    [[nodiscard]] static QString text(const std::vector<const MapEvent*>& events, const TimeReference& times = {});
 
 private:
     void placeAll(const std::vector<MapEvent>& events, const MapPath& path);

@@ -1,7 +1,5 @@
 #include "ui/map/model/MapInteraction.h"
 
-#include "card/CardContainer.h"
-
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -175,13 +173,13 @@ const CycleCourse::Mark* MapInteraction::incidentAt(const QPointF& place) const
     return mScene.marks().incidentAt(mScene.path(), mNavigator.camera(), place);
 }
 
-QString MapInteraction::textAt(const QPointF& place) const
+QString MapInteraction::textAt(const QPointF& place, const TimeReference& times) const
 {
     if (const CycleCourse::Mark* pIncident = incidentAt(place))
-        return CardContainer::time(pIncident->span.start) + QLatin1String("  ") + pIncident->title;
-    const QString text = MapEvents::text(eventsAt(place));
+        return times.textAt(pIncident->span.start) + QLatin1String("  ") + pIncident->title;
+    const QString text = MapEvents::text(eventsAt(place), times);
     const std::optional<double> time = text.isEmpty() ? timeAt(place) : std::nullopt;
-    return time ? CardContainer::time(*time) : text;
+    return time ? times.textAt(*time) : text;
 }
 
 std::optional<GraphMoment> MapInteraction::momentAt(const QPointF& place) const

@@ -40,7 +40,7 @@ public:
     void forgetClick() { mClick.stop(); }
 
     /// What is to be told of a place of the window: its events, else the time of the path there; empty for nothing.
-    [[nodiscard]] QString textAt(const QPointF& place) const;
+    [[nodiscard]] QString textAt(const QPointF& place, const TimeReference& times) const;
     /// What the graph can show of a place of the window: its event, else the time of the path there; none elsewhere.
     [[nodiscard]] std::optional<GraphMoment> momentAt(const QPointF& place) const;
 

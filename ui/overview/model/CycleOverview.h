@@ -2,6 +2,7 @@
 
 #include "analysis/CycleReview.h"
 #include "card/CycleNote.h"
+#include "project/TimeReference.h"
 
 #include <QDateTime>
 #include <QStringList>
@@ -20,6 +21,7 @@ struct CycleOverview {
     bool isPartial = false; ///< the system kept some of it from being read: nothing can be called all right
     std::vector<CycleNote> notes; ///< what somebody wrote about it
     QStringList unusual;    ///< figures that are not as they used to be for this engine, for people
+    TimeReference times;    ///< how its times are told
     QString problem;        ///< why there is no review, for people; else empty
 
     [[nodiscard]] EVerdict verdict() const

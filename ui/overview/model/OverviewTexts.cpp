@@ -84,7 +84,7 @@ std::vector<OverviewTexts::Figure> OverviewTexts::figures(const CycleOverview& c
 
 std::vector<IncidentSentence> OverviewTexts::sentences(const CycleOverview& cycle)
 {
-    return IncidentText(QLocale()).sentences(cycle.review.incidents);
+    return IncidentText(QLocale(), [&cycle](double seconds) { return cycle.times.shortText(seconds); }).sentences(cycle.review.incidents);
 }
 
 QString OverviewTexts::detail(const IncidentSentence& sentence)
@@ -103,7 +103,7 @@ QStringList OverviewTexts::remarks(const CycleOverview& cycle)
     for (const QString& unusual : cycle.unusual)
         lines.append(tr("Unusual for this engine: %1").arg(unusual));
     for (const CycleNote& note : cycle.notes)
-        lines.append(tr("Note at %1: %2").arg(IncidentText::time(note.time), note.text));
+        lines.append(tr("Note at %1: %2").arg(cycle.times.shortText(note.time), note.text));
     return lines;
 }
 

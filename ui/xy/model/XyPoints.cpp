@@ -51,7 +51,7 @@ bool XyPoints::describe(const LoadedCard& card)
     const std::array<const std::string*, 3> names{&mChoice.x, &mChoice.y, &mChoice.colour};
     for (std::size_t i = 0; i < names.size(); ++i) {
         if (i == eColour && names[i]->empty()) {
-            mAxes[i].label = tr("Time");
+            mAxes[i].label = mChoice.times.title();
             break;
         }
         const ProfileParameter* pParameter = card.context.model().find(*names[i]);

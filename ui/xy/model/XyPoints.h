@@ -3,9 +3,8 @@
 #include "analysis/TimeSpan.h"
 #include "app/Progress.h"
 #include "card/LoadedCard.h"
+#include "project/TimeReference.h"
 #include "ui/graph/model/GraphParameter.h"
-
-#include <QCoreApplication>
 
 #include <array>
 
@@ -17,6 +16,7 @@ struct XyChoice {
     std::string y;
     std::string colour;           ///< empty: points have the colour of their time
     std::optional<TimeSpan> span; ///< none: all that is selected of the card
+    TimeReference times = {};     ///< how those of the colours are told
     bool operator==(const XyChoice&) const = default;
 };
 
@@ -42,8 +42,6 @@ struct XyPoint {
 /// One parameter over another: at each sample of either the newest value of the other is held. However many samples there are, no more
 /// points than cells of a grid are kept, which is as fine as a screen. A plain value.
 class XyPoints {
-    Q_DECLARE_TR_FUNCTIONS(ZARN::XyPoints)
-
 public:
     static constexpr std::size_t kColumns = 1200, kRows = 800;
     enum EAxis { eX, eY, eColour };

@@ -169,7 +169,8 @@ void XyScene::drawAxisY(Canvas& canvas) const
 
 QString XyScene::scaleLabel(double value) const
 {
-    return mPoints.isTimeColour() ? graphTime(value, 0, 1) : graphNumber(value, mPoints.axis(XyPoints::eColour).precision);
+    return mPoints.isTimeColour() ? graphTime(mPoints.choice().times.told(value), 0, 1)
+                                  : graphNumber(value, mPoints.axis(XyPoints::eColour).precision);
 }
 
 void XyScene::drawScale(Canvas& canvas) const

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "analysis/FlightPhases.h"
+#include "card/NormalBand.h"
+#include "ui/canvas/Canvas.h"
+#include "ui/graph/model/GraphLayout.h"
+
+namespace ZARN {
+
+class Trace;
+
+/// Where a trace would lie in the flights of a cycle if it were as in the flights before them. Flights may overlap by what is before and after
+/// them: the earlier one counts there.
+[[nodiscard]] std::vector<NormalStretch> normalStretches(const std::vector<NormalBand>& bands, std::span<const FlightPhases::Step> phases,
+                                                         std::span<const TimeSpan> flights, const Trace& trace);
+
+/// Draws it below the traces: in strips for each, in one area for the one whose values stand at the axis.
+class NormalRange {
+public:
+    NormalRange(const GraphModel& model, const GraphLayout& layout) : mModel(model), mLayout(layout) {}
+
+    void draw(Canvas& canvas) const;
+
+private:
+    void draw(Canvas& canvas, int index) const;
+
+    const GraphModel& mModel;
+    const GraphLayout& mLayout;
+};
+
+} // namespace ZARN

@@ -1,0 +1,43 @@
+#include "ui/graph/model/RecordNormal.h"
+
+#include "app/Property.h"
+#include "app/Settings.h"
+#include "trace/Trace.h"
+#include "ui/graph/model/NormalRange.h"
+
+#include <utility>
+
+namespace ZARN {
+
+void RecordNormal::set(std::vector<NormalBand> bands)
+{
+    mBands = std::move(bands);
+    fill();
+}
+
+void RecordNormal::setOn(bool on)
+{
+    mModel.settings().normalOn = on;
+    Settings::kGraphNormal.set(mProperty, on);
+    mProperty.writeXmlFile();
+    fill();
+}
+
+void RecordNormal::setCourse(const std::shared_ptr<const CycleCourse>& pCourse)
+{
+    mModel.scenery().setCourse(pCourse);
+    fill();
+}
+
+void RecordNormal::fill()
+{
+    const CycleCourse* pCourse = mModel.settings().normalOn ? mModel.scenery().course().get() : nullptr;
+    mForEach([&](int slot, const Trace& trace) {
+        std::vector<NormalStretch> normal;
+        if (pCourse)
+            normal = normalStretches(mBands, pCourse->phases, pCourse->figured, trace);
+        mModel.traces().edit(slot, [&normal](GraphParameter& parameter) { parameter.normal = std::move(normal); });
+    });
+}
+
+} // namespace ZARN

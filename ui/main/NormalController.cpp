@@ -1,0 +1,54 @@
+#include "ui/main/NormalController.h"
+
+#include "app/FileName.h"
+#include "card/CardContainer.h"
+#include "project/RecordSession.h"
+#include "store/CycleIdentity.h"
+#include "store/NormalBands.h"
+#include "ui/logbook/model/LogbookWorker.h"
+
+#include <QFileInfo>
+
+namespace ZARN {
+
+NormalController::NormalController(const Session& session, RecordSession& record, LogbookWorker& worker, QObject* pParent)
+    : QObject(pParent), mSession(session), mRecord(record), mWorker(worker)
+{
+    connect(&mRecord, &RecordSession::recordChanged, this, &NormalController::slotRecord);
+    connect(&mWorker, &LogbookWorker::signalChanged, this, &NormalController::ask);
+}
+
+void NormalController::slotRecord()
+{
+    const unsigned version = mRecord.version().record + mRecord.version().flights;
+    if (std::exchange(mShown, version) == version)
+        return;
+    mRecord.setNormal({});
+    ask();
+}
+
+void NormalController::ask()
+{
+    ++mAsked;
+    const CardContainer& card = mSession.container;
+    const RecordCycle* pCycle = mRecord.record() ? card.loadedCycle() : nullptr;
+    if (!pCycle || pCycle->flights.empty() || !QFileInfo::exists(mWorker.path()))
+        return;
+    // A slow card has to be read for its identity.
+    const auto pBands = std::make_shared<std::vector<NormalBand>>();
+    const CycleHead head{{}, cycleEngine(card, *pCycle), *card.loadedCycleNumber(), pCycle->dateTime};
+    mWorker.run(
+        [pBands, head, flights = pCycle->flights, paths = cyclePaths(*pCycle), path = encodeFileName(mWorker.path())] {
+            CycleHead known = head;
+            known.id = cycleIdentity(paths);
+            StoreReader store(path);
+            if (store.error().empty() && !known.id.empty())
+                *pBands = normalBands(store, known, flights);
+        },
+        [this, pBands, asked = mAsked] {
+            if (asked == mAsked)
+                mRecord.setNormal(*pBands);
+        });
+}
+
+} // namespace ZARN
