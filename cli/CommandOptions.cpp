@@ -120,7 +120,8 @@ CommandOptions::Check CommandOptions::oneOf(std::initializer_list<const char*> t
 
 CommandOptions::Check CommandOptions::between(double least, double most)
 {
-    return CLI::Range(least, most);
+    // What is no number lies in every range of the library's.
+    return [range = CLI::Range(least, most)](const std::string& text) { return range(text.find_first_of("nN") == std::string::npos ? text : ""); };
 }
 
 } // namespace ZARN

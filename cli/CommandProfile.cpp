@@ -131,7 +131,11 @@ int CommandProfile::check() const
     const std::vector<ProfileProblem> problems = ProfileCheck::problems(decodeFileName(mFile));
     const int status = print(mJson ? json(problems) : table(problems));
     const auto error = std::ranges::find_if(problems, &ProfileProblem::isError);
-    return error == problems.end() ? status : fail(mFile + ": " + ProfileCheck::text(*error).toStdString());
+    if (error != problems.end())
+        return fail(mFile + ": " + ProfileCheck::text(*error).toStdString());
+    Profile profile(console());
+    const std::string problem = loadProfileFile(profile, mFile, mVariant); // it may have no such variant
+    return problem.empty() ? status : fail(problem);
 }
 
 int CommandProfile::run()

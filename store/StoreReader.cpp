@@ -52,8 +52,11 @@ std::vector<Trend> StoreReader::trends(const std::string& engine, const TrendFil
     while (found.next()) {
         const std::string parameter = found.text(12), phase = found.text(13);
         if (trends.empty() || trends.back().parameter != parameter || trends.back().phase != phase)
-            trends.push_back({engine, parameter, found.text(14), phase, {}});
+            trends.push_back({engine, parameter, {}, phase, {}});
         std::vector<TrendPoint>& points = trends.back().points;
+        if (trends.back().unit != found.text(14)) // figures before another profile, in another unit, do not compare
+            points.clear();
+        trends.back().unit = found.text(14);
         TrendPoint point{
             placeOf(found), found.text(4), found.text(5), found.real(6), found.real(7), found.real(8), found.real(9), found.real(10), {}};
         if (!found.isNull(11))

@@ -6,6 +6,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <set>
+#include <tuple>
 
 namespace ZARN {
 
@@ -34,6 +36,18 @@ std::vector<double> figuresBefore(const Trend* pTrend, const CycleHead& cycle, s
     return figures;
 }
 
+/// Those that a store tells: of parameters of one name the first that there is in a phase of a flight.
+std::vector<KeyValue> toldOf(const KeyValueTable& table)
+{
+    std::set<std::tuple<int, EFlightPhase, std::string>> names;
+    std::vector<KeyValue> told;
+    for (const KeyValue& value : table.values) {
+        if (names.emplace(value.flight, value.phase, storeText(table.sources[value.source].parameter)).second)
+            told.push_back(value);
+    }
+    return told;
+}
+
 } // namespace
 
 std::vector<Place> placesOf(StoreReader& store, const std::string& engine, const CycleHead& cycle, std::span<const RecordFlight> flights)
@@ -52,16 +66,17 @@ std::vector<Unusual> findUnusual(StoreReader& store, const CycleHead& cycle, std
     const std::string engine = store.engineOf(cycle.engine.id);
     const std::vector<Trend> trends = store.trends(engine);
     const std::vector<Place> places = placesOf(store, engine, cycle, flights);
-    const KeyValueTable& table = review.keyValues;
+    const std::vector<KeyValueSource>& sources = review.keyValues.sources;
+    const std::vector<KeyValue> values = toldOf(review.keyValues);
     std::vector<Unusual> found;
-    for (const KeyValue& value : table.values) {
-        const KeyValueSource& source = table.sources[value.source];
+    for (const KeyValue& value : values) {
+        const KeyValueSource& source = sources[value.source];
         const auto trend = std::ranges::find_if(trends, [&](const Trend& other) {
-            return other.parameter == storeText(source.parameter) && other.phase == phaseKey(value.phase);
+            return other.parameter == storeText(source.parameter) && other.phase == phaseKey(value.phase) && other.unit == storeText(source.unit);
         });
         std::vector<std::pair<Place, double>> own;
-        for (const KeyValue& other : table.values) {
-            if (other.source == value.source && other.phase == value.phase && other.flight != value.flight)
+        for (const KeyValue& other : values) {
+            if (sources[other.source].parameter == source.parameter && other.phase == value.phase && other.flight != value.flight)
                 own.emplace_back(places[static_cast<std::size_t>(other.flight - 1)], other.values.median);
         }
         const std::vector<double> earlier = figuresBefore(trend == trends.end() ? nullptr : &*trend, cycle, std::move(own),
