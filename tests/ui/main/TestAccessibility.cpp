@@ -4,6 +4,7 @@
 #include "sim/DemoCard.h"
 #include "ui/data/DataTabBar.h"
 #include "ui/graph/DialogGraphSetup.h"
+#include "ui/live/DialogLive.h"
 #include "ui/main/DesktopFixture.h"
 
 #include <QAbstractButton>
@@ -146,6 +147,8 @@ void TestAccessibility::everyWindow()
     faults << wizard(csv, home.path()) << wizard(kml, home.path());
     GraphData graph;
     DialogGraphSetup setup(&window, graph);
+    DialogLive live(session, &window);
+    live.ask(false);
     for (QDialog* pDialog : window.findChildren<QDialog*>()) {
         if (qobject_cast<QWizard*>(pDialog))
             continue;
