@@ -243,7 +243,8 @@ void LiveController::slotFound()
     }
     mIncidents = mReviewer.review().incidents;
     mSentences = IncidentText(QLocale()).sentences(mIncidents);
-    mpBar->setIncidents(mSentences, mReviewer.review().verdict != EVerdict::eUnknown);
+    const CycleReview& review = mReviewer.review();
+    mpBar->setIncidents(mSentences, review.verdict != EVerdict::eUnknown && review.engine.isKnown() && !review.engine.stretches().empty());
     if (mIsPaused)
         return; // the views hold what they show
     mSession.container.adoptFlights(mReviewer.draft());
