@@ -12,6 +12,7 @@ namespace {
 
 constexpr int kBatchPeriod = 33;   // milliseconds
 constexpr int kRetryPeriod = 1000; // milliseconds
+constexpr int kAnswerPeriod = 5000; // milliseconds: some plugins never say that nobody answers
 
 } // namespace
 
@@ -52,6 +53,8 @@ void BusLink::close()
 void BusLink::connectDevice()
 {
     setState(eConnecting, mReason);
+    if (mpDevice)
+        mpDevice->disconnect(this);
     QString error;
     mpDevice.reset(QCanBus::instance()->createDevice(mAddress.plugin, mAddress.interface, &error));
     if (!mpDevice)
@@ -59,7 +62,9 @@ void BusLink::connectDevice()
     if (mBitRate > 0)
         mpDevice->setConfigurationParameter(QCanBusDevice::BitRateKey, mBitRate);
     watch();
-    if (!mpDevice->connectDevice())
+    if (mpDevice->connectDevice())
+        mRetryTimer.start(kAnswerPeriod);
+    else
         lose(mpDevice->errorString());
 }
 
@@ -70,10 +75,12 @@ void BusLink::watch()
     connect(
         mpDevice.get(), &QCanBusDevice::stateChanged, this,
         [this](QCanBusDevice::CanBusDeviceState state) {
-            if (state == QCanBusDevice::ConnectedState)
+            if (state == QCanBusDevice::ConnectedState) {
+                mRetryTimer.stop();
                 setState(eConnected, {});
-            else if (state == QCanBusDevice::UnconnectedState && mpDevice)
+            } else if (state == QCanBusDevice::UnconnectedState && mpDevice) {
                 lose(mpDevice->errorString());
+            }
         },
         Qt::QueuedConnection);
 }

@@ -56,6 +56,7 @@ void DialogLive::createRows()
         mpBitRate->addItem(tr("%1 kbit/s").arg(rate / 1000), rate);
     mpFolder->setPlaceholderText(tr("Nothing is recorded"));
     mpFolder->setClearButtonEnabled(true);
+    mpFolder->setAccessibleName(tr("Record into"));
     mpHours->setRange(Settings::kLiveHours.least, Settings::kLiveHours.most);
     mpProblem->setTextFormat(Qt::PlainText);
     mpProblem->setWordWrap(true);
@@ -81,6 +82,9 @@ void DialogLive::createRows()
     pLayout->addWidget(mpProblem);
     pLayout->addStretch();
     pLayout->addWidget(pButtons);
+    setTabOrder(mpHours, mpConnect);
+    setTabOrder(mpConnect, mpDisconnect);
+    setTabOrder(mpDisconnect, pButtons->button(QDialogButtonBox::Close));
 }
 
 void DialogLive::ask(bool isOpen)

@@ -17,7 +17,6 @@ QLabel* createLine(const char* name)
     auto* pLine = new QLabel;
     pLine->setObjectName(name);
     pLine->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    pLine->setTextInteractionFlags(Qt::TextBrowserInteraction);
     return pLine;
 }
 
@@ -33,6 +32,7 @@ LiveBar::LiveBar(QWidget* pParent)
     mpNote->setTextFormat(Qt::PlainText);
     mpNote->hide();
     mpIncidents->setTextFormat(Qt::RichText);
+    mpIncidents->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     mpPause->setCheckable(true);
     mpPause->setToolTip(tr("Hold what is shown and look back, while everything is received and recorded on (space)"));
     mpReport->setToolTip(tr("Write what was received so far as a flight report"));
@@ -47,7 +47,7 @@ LiveBar::LiveBar(QWidget* pParent)
     pLayout->addWidget(mpNote);
     pLayout->addLayout(pRow);
     setRunning(false, false);
-    setIncidents({});
+    setIncidents({}, false);
     connect(mpPause, &QPushButton::clicked, this, &LiveBar::signalPause);
     connect(mpReport, &QPushButton::clicked, this, &LiveBar::signalReport);
     connect(mpConnect, &QPushButton::clicked, this, [this] { Q_EMIT signalConnect(!mIsOpen); });
@@ -70,7 +70,7 @@ void LiveBar::setNote(const QString& text)
     mpNote->setVisible(!text.isEmpty());
 }
 
-void LiveBar::setIncidents(const std::vector<IncidentSentence>& sentences)
+void LiveBar::setIncidents(const std::vector<IncidentSentence>& sentences, bool isKnown)
 {
     QStringList parts, all;
     for (std::size_t i = 0; i < sentences.size(); ++i) {
@@ -82,7 +82,9 @@ void LiveBar::setIncidents(const std::vector<IncidentSentence>& sentences)
     }
     if (sentences.size() > kMostSentences)
         parts.append(tr("and %n more", nullptr, static_cast<int>(sentences.size() - kMostSentences)));
-    mpIncidents->setText(parts.isEmpty() ? (mpIncidents->isEnabled() ? tr("Nothing out of order so far") : QString()) : parts.join(" &nbsp;|&nbsp; "));
+    if (parts.isEmpty())
+        parts.append(isKnown ? tr("Nothing outside its limits so far while the engine ran") : tr("Nothing can be told of the engine yet"));
+    mpIncidents->setText(parts.join(" &nbsp;|&nbsp; "));
     mpIncidents->setToolTip(all.isEmpty() ? QString() : "<qt>" + all.join("<br/>") + "</qt>");
 }
 

@@ -20,8 +20,8 @@ public:
     void setStatus(const QString& text, bool isTrouble);
     /// What else there is to know of it; empty for nothing.
     void setNote(const QString& text);
-    /// @param sentences the worst first
-    void setIncidents(const std::vector<IncidentSentence>& sentences);
+    /// @param sentences the worst first  @param isKnown whether so much was received that anything can be told
+    void setIncidents(const std::vector<IncidentSentence>& sentences, bool isKnown);
     void setPaused(bool isPaused);
     /// The keys are for it: space pauses.
     void takeKeys();

@@ -113,7 +113,7 @@ void LiveController::beginRun(double window)
     mHasReview = false;
     mHasNew = mIsPaused = false;
     mIsReviewed = mIsRunning = true;
-    mpBar->setIncidents({});
+    mpBar->setIncidents({}, false);
     mpBar->setNote({});
     mpBar->setPaused(false);
     mpBar->show();
@@ -243,7 +243,8 @@ void LiveController::slotFound()
     }
     mIncidents = mReviewer.review().incidents;
     mSentences = IncidentText(QLocale()).sentences(mIncidents);
-    mpBar->setIncidents(mSentences);
+    const CycleReview& review = mReviewer.review();
+    mpBar->setIncidents(mSentences, review.verdict != EVerdict::eUnknown && review.engine.isKnown() && !review.engine.stretches().empty());
     if (mIsPaused)
         return; // the views hold what they show
     mSession.container.adoptFlights(mReviewer.draft());

@@ -5,6 +5,7 @@
 #include "ui/data/DataTabBar.h"
 #include "ui/graph/DialogGraphSetup.h"
 #include "ui/graph/WidgetGraphES.h"
+#include "ui/live/DialogLive.h"
 #include "ui/main/DesktopFixture.h"
 #include "ui/map/WidgetMap.h"
 
@@ -154,6 +155,10 @@ void TestAccessibility::everyWindow()
     faults << wizard(csv, home.path()) << wizard(kml, home.path());
     GraphData settings;
     DialogGraphSetup setup(&window, settings);
+    GraphData graph;
+    DialogGraphSetup setup(&window, graph);
+    DialogLive live(session, &window);
+    live.ask(false);
     for (QDialog* pDialog : window.findChildren<QDialog*>()) {
         if (qobject_cast<QWizard*>(pDialog))
             continue;

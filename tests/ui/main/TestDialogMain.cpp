@@ -118,7 +118,7 @@ void TestDialogMain::firstSight()
         for (const QAction* pEntry : pMenu->menu()->actions())
             menus.append(pEntry->isSeparator() ? "-" : pEntry->data().toString());
     }
-    QCOMPARE(menus, QStringList({"&File", "2", "-", "6", "&Extras", "15", "17", "18", "25", "26", "27", "&Help", "15", "8", "9"}));
+    QCOMPARE(menus, QStringList({"&File", "2", "-", "6", "&Extras", "15", "17", "18", "25", "26", "27", "28", "&Help", "15", "8", "9"}));
     const auto* pProfiles = window.findChild<QComboBox*>("profiles");
     QVERIFY(pProfiles->minimumWidth() == 200 && pProfiles->count() >= 3);
     QCOMPARE(pProfiles->currentText(), QString("915 A")); // the first of "915"

@@ -4,6 +4,7 @@
 #include "trace/TraceSet.h"
 #include "ui/data/DataTabBar.h"
 #include "ui/data/DialogData.h"
+#include "ui/data/model/LiveTableModel.h"
 #include "ui/graph/WidgetGraphES.h"
 #include "ui/graph/model/TraceSlot.h"
 #include "ui/live/LiveBar.h"
@@ -25,6 +26,7 @@ private Q_SLOTS:
     void grows_data();
     void grows();
     void looksBack();
+    void emu();
 
 private:
     QTemporaryDir mFolder;
@@ -47,7 +49,7 @@ bool isSame(const LiveRecord& a, const LiveRecord& b)
 }
 
 struct Desktop {
-    explicit Desktop(double window) : fixture(home.path()), main(fixture.open())
+    explicit Desktop(double window, const std::vector<std::string>& arguments = {}) : fixture(home.path(), arguments), main(fixture.open())
     {
         started(main);
         for (const char* name : {"Engine Speed A", "Manifold Pressure A", "Lane State A", "Latitude", "Boost Lamp"})
@@ -179,6 +181,28 @@ void TestLive::looksBack()
     feed(0, 1); // belated
     QTest::qWait(100);
     QVERIFY(!desktop.fixture.container.isLive());
+}
+
+/// The newest values, of whichever snapshot they came with.
+void TestLive::emu()
+{
+    Desktop desktop(1e6, {"-emu"});
+    desktop.main.findChild<DataTabBar*>()->setCurrentIndex(eViewTable);
+    for (std::size_t i = 0; i < mBatches.size() / 2; ++i) {
+        desktop.pLive->take(mBatches[i], mNow);
+        if (i % 50 == 0)
+            desktop.pLive->showNewest();
+    }
+    desktop.pLive->showNewest();
+    const std::shared_ptr<RecordData> pRecord = desktop.fixture.container.record(); // the next one takes its place
+    const TraceSet traces(pRecord.get(), desktop.fixture.profile, ENumber::eText,
+                          TraceSet::selected(desktop.fixture.profile.selection()));
+    const auto* pModel = desktop.main.findChild<LiveTableModel*>();
+    QCOMPARE(pModel->rowCount(), static_cast<int>(traces.size()));
+    for (std::size_t i = 0; i < traces.size(); ++i) {
+        const QString newest = QString::fromStdString(traces[i].decoder().text(traces[i].number(traces[i].size() - 1)));
+        QTRY_COMPARE(pModel->index(static_cast<int>(i), 0).data().toString(), newest);
+    }
 }
 
 QTEST_MAIN(TestLive)
