@@ -6,9 +6,12 @@
 #include "ui/graph/WidgetGraphES.h"
 #include "ui/main/DesktopFixture.h"
 #include "ui/main/DialogPreferences.h"
+#include "ui/main/Notices.h"
+#include "ui/main/StyleWatch.h"
 
 #include <QComboBox>
 #include <QLabel>
+#include <QMainWindow>
 #include <QRegularExpression>
 #include <QtTest>
 
@@ -152,7 +155,13 @@ void TestAppearance::switched()
     isSystemDark = true;
     choose(2);
     QVERIFY(isDark() && kernel.followsSystem());
-    choose(0);
+    QMainWindow window;
+    Notices notices(&window);
+    const StyleWatch watch(desktop.console.console, kernel, notices, {}, nullptr);
+    isSystemDark = false;
+    QEvent change(QEvent::ThemeChange);
+    QCoreApplication::sendEvent(&window, &change);
+    QTRY_VERIFY(!isDark());
 }
 
 QTEST_MAIN(TestAppearance)
