@@ -34,11 +34,11 @@ Palette::Graph graphOf(const ColourTable& table, ColourTable::EMedium medium, co
 Palette::Palette(const ColourTable& table, ColourTable::EMedium medium) : graph(graphOf(table, medium, QStringLiteral("graph"), medium))
 {
     const auto of = [&](const char* name) { return table.colour(QLatin1String(name), medium); };
-    map = {of("mapPath"), of("mapText"), of("mapTextGround"), of("mapGrid"), of("mapGridText"), of("mapFrame"), of("mapAircraft"),
-           of("mapAircraftRim"), of("mapEventRim"), of("mapBegin"), of("mapEnd"), of("mapExceeded")};
+    map = {of("mapPath"),     of("mapText"),        of("mapTextGround"), of("mapGrid"),  of("mapGridText"), of("mapFrame"),
+           of("mapAircraft"), of("mapAircraftRim"), of("mapEventRim"),   of("mapBegin"), of("mapEnd"),      of("mapExceeded")};
     faults = {of("faultInfo"), of("faultWarning"), of("faultFault"), of("faultQuiet"), of("faultNone"), of("faultLine"), of("timePointer")};
-    course = {of("courseRecorded"), of("border"), of("quiet"), of("fieldBorder"), of("courseGround"), of("courseTakeOff"),
-              of("courseClimb"), of("courseLevel"), of("courseDescent")};
+    course = {of("courseRecorded"), of("border"),      of("quiet"),       of("fieldBorder"),  of("courseGround"),
+              of("courseTakeOff"),  of("courseClimb"), of("courseLevel"), of("courseDescent")};
     signs = {of("signGood"), of("signWarning"), of("signLimit"), of("signUnknown"), of("onSign"), of("onWarning")};
     tables = {of("timeColumn"), of("valueMark"), of("field"), of("dimText"), of("badge"), of("onBadge")};
     text = {of("text"), of("quiet"), of("border"), of("accent"), of("alert")};

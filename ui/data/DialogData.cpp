@@ -24,7 +24,7 @@ namespace {
 constexpr int kTickMilliseconds = 20;
 constexpr QSize kModeIcon(24, 24);
 constexpr int kLists = 200, kMap = 300; // shares of the width in the usual size of text
-constexpr double kRounding = 1e-6; // of a slider position: the time of a position must not come back as the position before it
+constexpr double kRounding = 1e-6;      // of a slider position: the time of a position must not come back as the position before it
 
 /// The map is told last, and before it the views that list events.
 int turnOf(std::size_t view)

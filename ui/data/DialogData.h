@@ -121,7 +121,7 @@ private:
     double mLastTick = 0.0;
     int mReplay = 0;
     std::shared_ptr<const CycleCourse> mpCourse;
-    int mTextSize = 0;    ///< that views and map share their room by
+    int mTextSize = 0;      ///< that views and map share their room by
     unsigned mReplayed = 0; ///< the version of the record that the replay goes through
 };
 

@@ -40,9 +40,9 @@ OpenStreet::TileServer tileServer(const Property& property)
 } // namespace
 
 DialogPreferences::DialogPreferences(const Session& session, Kernel& kernel, QWidget* pParent)
-    : QDialog(pParent), mSession(session), mKernel(kernel), mLocale(Settings::kLocale.text(session.property)), mpList(new SideList(kListWidth)),
-      mpPages(new QStackedWidget), mpLanguage(new QComboBox), mpPalette(new QComboBox), mpFontSize(new QSpinBox),
-      mpTiles(new QCheckBox(tr("Load map tiles from the network"))), mpTileServer(new QLabel)
+    : QDialog(pParent), mSession(session), mKernel(kernel), mLocale(Settings::kLocale.text(session.property)),
+      mpList(new SideList(kListWidth)), mpPages(new QStackedWidget), mpLanguage(new QComboBox), mpPalette(new QComboBox),
+      mpFontSize(new QSpinBox), mpTiles(new QCheckBox(tr("Load map tiles from the network"))), mpTileServer(new QLabel)
 {
     setWindowTitle(tr("Preferences"));
     mpList->setIconSize(QSize(16, 16));

@@ -391,11 +391,21 @@ void TestDialogData::timesAreTold_data()
     QTest::addColumn<QString>("entry");
     QTest::addColumn<QString>("typed");
     QTest::addColumn<double>("seconds");
-    QTest::newRow("before the take-off") << ETimeReference::eTakeOff << -30.0 << "-00:00:04.500" << "-00:00:04" << "-0:08" << 22.0;
-    QTest::newRow("after it") << ETimeReference::eTakeOff << -20.0 << "00:00:05.500" << "00:00:05" << "1:00" << 80.0;
-    QTest::newRow("clock") << ETimeReference::eClock << 28800.0 << "08:00:25.500" << "08:00:25" << "8:01:00" << 60.0;
-    QTest::newRow("midnight") << ETimeReference::eClock << 86380.0 << "00:00:05.500" << "00:00:05" << "23:59:50" << 10.0;
-    QTest::newRow("after midnight") << ETimeReference::eClock << 86380.0 << "00:00:05.500" << "00:00:05" << "0:00:20" << 40.0;
+    QTest::newRow("before the take-off") << ETimeReference::eTakeOff << -30.0 << "-00:00:04.500"
+                                         << "-00:00:04"
+                                         << "-0:08" << 22.0;
+    QTest::newRow("after it") << ETimeReference::eTakeOff << -20.0 << "00:00:05.500"
+                              << "00:00:05"
+                              << "1:00" << 80.0;
+    QTest::newRow("clock") << ETimeReference::eClock << 28800.0 << "08:00:25.500"
+                           << "08:00:25"
+                           << "8:01:00" << 60.0;
+    QTest::newRow("midnight") << ETimeReference::eClock << 86380.0 << "00:00:05.500"
+                              << "00:00:05"
+                              << "23:59:50" << 10.0;
+    QTest::newRow("after midnight") << ETimeReference::eClock << 86380.0 << "00:00:05.500"
+                                    << "00:00:05"
+                                    << "0:00:20" << 40.0;
 }
 
 void TestDialogData::timesAreTold()

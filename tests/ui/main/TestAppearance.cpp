@@ -59,7 +59,8 @@ void TestAppearance::contrast()
 /// A text and its ground that a rule of the style sheet brings together are judged together.
 void TestAppearance::rulesNameTheirUses()
 {
-    static const QRegularExpression rule("\\{([^}]*)\\}"), text("(?<![-\\w])color: \\$\\((\\w+)\\)"), ground("(?<!-)background-color: \\$\\((\\w+)\\)");
+    static const QRegularExpression rule("\\{([^}]*)\\}"), text("(?<![-\\w])color: \\$\\((\\w+)\\)"),
+        ground("(?<!-)background-color: \\$\\((\\w+)\\)");
     const QString sheet = QString::fromStdString(fileContent(sourceDir().toStdString() + "/resources/styles/style.ZARN.css"));
     int found = 0;
     for (auto rules = rule.globalMatch(sheet); rules.hasNext();) {
