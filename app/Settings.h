@@ -8,7 +8,7 @@ namespace ZARN::Settings {
 
 constexpr TextSetting kLocale = {"Locale", "us"};
 constexpr NumberSetting kFontSize = {"FontSize", 12, 8, 20}; // pixels
-constexpr NumberSetting kPalette = {"Palette", 0, 0, 2}; // light, dark, as the system
+constexpr NumberSetting kPalette = {"Palette", 0, 0, 2};     // light, dark, as the system
 constexpr NumberSetting kUnit = {"Unit", 0, 0, 1};
 constexpr TextSetting kProfile = {"Profile", "915"};
 constexpr TextSetting kLastPath = {"LastPath", ""};

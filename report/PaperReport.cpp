@@ -118,7 +118,9 @@ void PaperReport::put(const ReportHeading& heading)
 
 void PaperReport::put(const ReportParagraph& paragraph)
 {
-    const QColor& colour = paragraph.kind == ReportParagraph::eQuiet ? colours().quiet : paragraph.kind == ReportParagraph::eAlert ? colours().alert : colours().ink;
+    const QColor& colour = paragraph.kind == ReportParagraph::eQuiet   ? colours().quiet
+                           : paragraph.kind == ReportParagraph::eAlert ? colours().alert
+                                                                       : colours().ink;
     const CanvasText text = style(paragraph.kind == ReportParagraph::eAlert, colour);
     lines(mPages.left(), wrapped(paragraph.text, mPages.width(), text, kLongText), text);
 }
@@ -203,7 +205,8 @@ void PaperReport::put(const ReportIncident& incident)
     const double text = x + kTimes;
     const QStringList what = wrapped(incident.what, mPages.right() - text, style(true), kLongText);
     const QString rest = incident.rest.startsWith(", ") ? incident.rest.mid(2) : incident.rest;
-    const QStringList more = rest.isEmpty() ? QStringList() : wrapped(rest, mPages.right() - text, style(false, colours().quiet), kLongText);
+    const QStringList more =
+        rest.isEmpty() ? QStringList() : wrapped(rest, mPages.right() - text, style(false, colours().quiet), kLongText);
     const double graph = incident.graph.draw ? incident.graph.height + 5.0 : 0.0;
     mPages.reserve(std::min(kLine * static_cast<double>(what.size() + more.size()) + graph + 6.0, mPages.mostRoom()));
     sign(incident.verdict, mPages.left(), kSign);

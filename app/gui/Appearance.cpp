@@ -66,15 +66,28 @@ void Appearance::renewLinks()
 QPalette Appearance::toolkitPalette() const
 {
     using Role = std::pair<QPalette::ColorRole, const char*>;
-    static constexpr Role kRoles[] = {
-        {QPalette::Window, "ground"},          {QPalette::WindowText, "text"},      {QPalette::Base, "field"},
-        {QPalette::AlternateBase, "alternate"}, {QPalette::Text, "text"},           {QPalette::Button, "raised"},
-        {QPalette::ButtonText, "text"},        {QPalette::BrightText, "alert"},     {QPalette::Link, "link"},
-        {QPalette::LinkVisited, "link"},       {QPalette::Highlight, "accent"},     {QPalette::HighlightedText, "onAccent"},
-        {QPalette::ToolTipBase, "tipGround"},  {QPalette::ToolTipText, "tipText"},  {QPalette::PlaceholderText, "quiet"},
-        {QPalette::Light, "raised"},           {QPalette::Midlight, "gridLine"},    {QPalette::Mid, "border"},
-        {QPalette::Dark, "fieldBorder"},       {QPalette::Shadow, "border"}};
-    static constexpr Role kDisabled[] = {{QPalette::WindowText, "disabled"}, {QPalette::Text, "disabled"}, {QPalette::ButtonText, "disabled"}};
+    static constexpr Role kRoles[] = {{QPalette::Window, "ground"},
+                                      {QPalette::WindowText, "text"},
+                                      {QPalette::Base, "field"},
+                                      {QPalette::AlternateBase, "alternate"},
+                                      {QPalette::Text, "text"},
+                                      {QPalette::Button, "raised"},
+                                      {QPalette::ButtonText, "text"},
+                                      {QPalette::BrightText, "alert"},
+                                      {QPalette::Link, "link"},
+                                      {QPalette::LinkVisited, "link"},
+                                      {QPalette::Highlight, "accent"},
+                                      {QPalette::HighlightedText, "onAccent"},
+                                      {QPalette::ToolTipBase, "tipGround"},
+                                      {QPalette::ToolTipText, "tipText"},
+                                      {QPalette::PlaceholderText, "quiet"},
+                                      {QPalette::Light, "raised"},
+                                      {QPalette::Midlight, "gridLine"},
+                                      {QPalette::Mid, "border"},
+                                      {QPalette::Dark, "fieldBorder"},
+                                      {QPalette::Shadow, "border"}};
+    static constexpr Role kDisabled[] = {
+        {QPalette::WindowText, "disabled"}, {QPalette::Text, "disabled"}, {QPalette::ButtonText, "disabled"}};
     const auto of = [this](const char* name) { return mColours.colour(QLatin1String(name), mMedium); };
     QPalette palette;
     for (const auto& [role, name] : kRoles)

@@ -107,8 +107,9 @@ QString ColourTable::problemOfUses() const
             const QColor colour = this->colour(use.colour, medium), ground = this->colour(use.ground, medium);
             if (!colour.isValid() || !ground.isValid() || contrastRatio(colour, ground) >= use.least)
                 continue;
-            return problem(QT_TRANSLATE_NOOP("ZARN::ColourTable", "\"%1\" cannot be read on \"%2\": the contrast is %3 : 1, less than %4 : 1"), use.colour,
-                           use.ground, QString::number(contrastRatio(colour, ground), 'f', 2), QString::number(use.least));
+            return problem(
+                QT_TRANSLATE_NOOP("ZARN::ColourTable", "\"%1\" cannot be read on \"%2\": the contrast is %3 : 1, less than %4 : 1"),
+                use.colour, use.ground, QString::number(contrastRatio(colour, ground), 'f', 2), QString::number(use.least));
         }
     }
     return {};

@@ -59,7 +59,8 @@ void FontAdvances::readRun(const QByteArray& map, qsizetype run, qsizetype runs,
     const quint16 first = word(map, starts + 2 * run), last = std::min<quint16>(word(map, ends + 2 * run), kNone - 1);
     const quint16 delta = word(map, deltas + 2 * run), offset = word(map, offsets + 2 * run);
     for (qsizetype character = first; character <= last; ++character) {
-        const quint16 listed = offset == 0 ? static_cast<quint16>(character) : word(map, offsets + 2 * run + offset + 2 * (character - first));
+        const quint16 listed =
+            offset == 0 ? static_cast<quint16>(character) : word(map, offsets + 2 * run + offset + 2 * (character - first));
         const auto glyph = static_cast<quint16>(listed + delta);
         if (listed != 0 && glyph != 0) // the last width is that of all later glyphs
             mAdvances[static_cast<std::size_t>(character)] =

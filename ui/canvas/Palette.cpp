@@ -43,8 +43,8 @@ Palette::Palette(const ColourTable& table, ColourTable::EMedium medium) : graph(
     for (std::size_t i = 0; i < map.phases.size(); ++i)
         map.phases[i] = table.colour(QStringLiteral("mapPhase%1").arg(i + 1), medium);
     faults = {of("faultInfo"), of("faultWarning"), of("faultFault"), of("faultQuiet"), of("faultNone"), of("faultLine"), of("timePointer")};
-    course = {of("courseRecorded"), of("border"), of("quiet"), of("fieldBorder"), of("courseGround"), of("courseTakeOff"),
-              of("courseClimb"), of("courseLevel"), of("courseDescent")};
+    course = {of("courseRecorded"), of("border"),      of("quiet"),       of("fieldBorder"),  of("courseGround"),
+              of("courseTakeOff"),  of("courseClimb"), of("courseLevel"), of("courseDescent")};
     signs = {of("signGood"), of("signWarning"), of("signLimit"), of("signUnknown"), of("onSign"), of("onWarning")};
     tables = {of("timeColumn"), of("valueMark"), of("field"), of("dimText"), of("badge"), of("onBadge")};
     text = {of("text"), of("quiet"), of("border"), of("accent"), of("alert")};

@@ -3,12 +3,14 @@
 #include "app/Numeric.h"
 #include "app/TimeText.h"
 #include "app/gui/ImageHandler.h"
+#include "app/gui/TextSize.h"
 #include "ui/data/DataTabBar.h"
 #include "ui/data/ViewLink.h"
 #include "ui/data/WidgetReplayBar.h"
 #include "vesk/base/Timer.h"
 
 #include <QButtonGroup>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QSplitter>
 #include <QStackedWidget>
@@ -21,7 +23,8 @@ namespace {
 
 constexpr int kTickMilliseconds = 20;
 constexpr QSize kModeIcon(24, 24);
-constexpr double kRounding = 1e-6; // of a slider position: the time of a position must not come back as the position before it
+constexpr int kLists = 200, kMap = 300; // shares of the width in the usual size of text
+constexpr double kRounding = 1e-6;      // of a slider position: the time of a position must not come back as the position before it
 
 /// The map is told last, and before it the views that list events.
 int turnOf(std::size_t view)
@@ -52,7 +55,7 @@ DialogData::DialogData(RecordSession& record, const DataViewList& views, bool em
     createTabs();
     mpSplitter->addWidget(mpStack);
     mpSplitter->addWidget(mViews.entries[eViewMap].pWidget);
-    mpSplitter->setSizes({200, 300});
+    shareRoom();
     auto* pLayout = new QVBoxLayout(this);
     pLayout->setContentsMargins(0, 0, 0, 0);
     pLayout->addWidget(createHead());
@@ -67,6 +70,25 @@ DialogData::DialogData(RecordSession& record, const DataViewList& views, bool em
         for (const DataViewEntry& entry : mViews.entries)
             entry.pView->setZarnMode(1);
     }
+}
+
+/// Lists need room for their texts, the map does not.
+void DialogData::shareRoom()
+{
+    const QList<int> sizes = mpSplitter->sizes();
+    const bool isMapHidden = sizes[0] > 0 && sizes[1] == 0;
+    if (std::exchange(mTextSize, textSize(*this)) == mTextSize || isMapHidden)
+        return;
+    constexpr int kUsual = 12;
+    const int lists = kLists * std::max(mTextSize * mTextSize, kUsual * kUsual) / (kUsual * kUsual);
+    mpSplitter->setSizes({lists, kMap});
+}
+
+void DialogData::changeEvent(QEvent* pEvent)
+{
+    QWidget::changeEvent(pEvent);
+    if (pEvent->type() == QEvent::FontChange && mpSplitter->orientation() == Qt::Horizontal)
+        shareRoom();
 }
 
 void DialogData::createTabs()

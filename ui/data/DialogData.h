@@ -91,8 +91,12 @@ Q_SIGNALS:
     /// The user took back, or did again, what changed the ticks: those of the layout are wanted.
     void signalTicks(const DisplayLayout& layout);
 
+protected:
+    void changeEvent(QEvent* pEvent) override;
+
 private:
     void createTabs();
+    void shareRoom();
     QWidget* createHead();
     void createMapModes();
     void connectControls();
@@ -119,6 +123,7 @@ private:
     double mLastTick = 0.0;
     int mReplay = 0;
     std::shared_ptr<const CycleCourse> mpCourse;
+    int mTextSize = 0;      ///< that views and map share their room by
     unsigned mReplayed = 0; ///< the version of the record that the replay goes through
 };
 

@@ -59,7 +59,8 @@ void DialogDataStatistic::updateRecord(RecordData* pRecord)
     mPlainText.clear();
     const RecordFlight& flight = mSession.container.selectedFlight();
     if (!pRecord || !flight.valid) {
-        mText = tr("<br><br><b>No flight selected</b>") + "<br>" + tr("A click on a flight in the list on the left shows its figures here.");
+        mText =
+            tr("<br><br><b>No flight selected</b>") + "<br>" + tr("A click on a flight in the list on the left shows its figures here.");
     } else {
         mText = "<table>";
         addFlight(flight);

@@ -194,7 +194,8 @@ void WidgetReplayBar::arrange()
     mpSpeed->setFixedWidth(std::max(kEntryWidth, mpSpeed->sizeHint().width()));
     const int text = widthOfText(), icon = mpStop->widthFor({});
     // The best first: texts beside the clocks, then icons there, which leave the position its room.
-    const std::pair<EFit, int> ways[] = {{eAll, text}, {eAllButPosition, text}, {eClocksAndReplay, text}, {eClocksAndReplay, icon}, {eClocks, text}};
+    const std::pair<EFit, int> ways[] = {
+        {eAll, text}, {eAllButPosition, text}, {eClocksAndReplay, text}, {eClocksAndReplay, icon}, {eClocks, text}};
     const auto* pWay = std::ranges::find_if(ways, [this](const auto& way) { return width() >= widthFor(way.first, way.second); });
     const auto [fit, buttonWidth] = pWay == std::end(ways) ? std::pair(eClocks, icon) : *pWay;
     mpReplay->setFixedWidth(buttonWidth);

@@ -15,7 +15,7 @@ namespace ZARN {
 namespace {
 
 constexpr int kProfileWidth = 200;
-constexpr int kBesideUnit = 52;   // pixels of a selector beside its text
+constexpr int kBesideUnit = 52; // pixels of a selector beside its text
 
 } // namespace
 

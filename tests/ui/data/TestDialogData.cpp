@@ -74,6 +74,7 @@ struct Area : Test::DataCycle {
             views.entries[i] = {pView, pView};
             widgets[i] = pView;
         }
+        views.times = [this] { return times; };
         area.emplace(record, views, emu, nullptr, [this] { return now; });
     }
     /// With the table and the map in sight.
@@ -96,6 +97,7 @@ struct Area : Test::DataCycle {
     std::array<QWidget*, eViewCount> widgets{};
     QStringList log;
     double now = 1000.0;
+    TimeReference times;
     RecordSession record{container};
     std::optional<DialogData> area;
 };
@@ -135,6 +137,8 @@ private Q_SLOTS:
     void positionsStay();
     void typedTimes_data();
     void typedTimes();
+    void timesAreTold_data();
+    void timesAreTold();
     void replay();
     void withoutRecord();
     void emu();
@@ -377,6 +381,53 @@ void TestDialogData::typedTimes()
     area.area->slotTableTime(90070.5);
     area.take();
     QCOMPARE(pTime->text(), QString("25:01:10"));
+}
+
+void TestDialogData::timesAreTold_data()
+{
+    QTest::addColumn<ETimeReference>("kind");
+    QTest::addColumn<double>("shift");
+    QTest::addColumn<QString>("clock"); // at 25.5 s
+    QTest::addColumn<QString>("entry");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<double>("seconds");
+    QTest::newRow("before the take-off") << ETimeReference::eTakeOff << -30.0 << "-00:00:04.500"
+                                         << "-00:00:04"
+                                         << "-0:08" << 22.0;
+    QTest::newRow("after it") << ETimeReference::eTakeOff << -20.0 << "00:00:05.500"
+                              << "00:00:05"
+                              << "1:00" << 80.0;
+    QTest::newRow("clock") << ETimeReference::eClock << 28800.0 << "08:00:25.500"
+                           << "08:00:25"
+                           << "8:01:00" << 60.0;
+    QTest::newRow("midnight") << ETimeReference::eClock << 86380.0 << "00:00:05.500"
+                              << "00:00:05"
+                              << "23:59:50" << 10.0;
+    QTest::newRow("after midnight") << ETimeReference::eClock << 86380.0 << "00:00:05.500"
+                                    << "00:00:05"
+                                    << "0:00:20" << 40.0;
+}
+
+void TestDialogData::timesAreTold()
+{
+    QFETCH(QString, clock);
+    QFETCH(QString, typed);
+    Area area;
+    QVERIFY(activate(*area.area));
+    area.show();
+    QFETCH(ETimeReference, kind);
+    QFETCH(double, shift);
+    area.times = {kind, shift};
+    area.area->updateSettings();
+    area.area->slotLimitTime(25.5);
+    area.take();
+    QVERIFY(shows(*area.find<QLCDNumber>("timeClock"), clock));
+    auto* pEntry = area.find<TimeEntry>("time");
+    QTEST(pEntry->text(), "entry");
+    pEntry->selectAll();
+    QTest::keyClicks(pEntry, typed);
+    QTest::keyClick(pEntry, Qt::Key_Return);
+    QTEST(area.area->viewTime(), "seconds");
 }
 
 void TestDialogData::replay()

@@ -155,8 +155,6 @@ void TestAccessibility::everyWindow()
     faults << wizard(csv, home.path()) << wizard(kml, home.path());
     GraphData settings;
     DialogGraphSetup setup(&window, settings);
-    GraphData graph;
-    DialogGraphSetup setup(&window, graph);
     DialogLive live(session, &window);
     live.ask(false);
     for (QDialog* pDialog : window.findChildren<QDialog*>()) {

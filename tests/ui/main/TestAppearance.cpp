@@ -6,9 +6,12 @@
 #include "ui/graph/WidgetGraphES.h"
 #include "ui/main/DesktopFixture.h"
 #include "ui/main/DialogPreferences.h"
+#include "ui/main/Notices.h"
+#include "ui/main/StyleWatch.h"
 
 #include <QComboBox>
 #include <QLabel>
+#include <QMainWindow>
 #include <QRegularExpression>
 #include <QtTest>
 
@@ -56,7 +59,8 @@ void TestAppearance::contrast()
 /// A text and its ground that a rule of the style sheet brings together are judged together.
 void TestAppearance::rulesNameTheirUses()
 {
-    static const QRegularExpression rule("\\{([^}]*)\\}"), text("(?<![-\\w])color: \\$\\((\\w+)\\)"), ground("(?<!-)background-color: \\$\\((\\w+)\\)");
+    static const QRegularExpression rule("\\{([^}]*)\\}"), text("(?<![-\\w])color: \\$\\((\\w+)\\)"),
+        ground("(?<!-)background-color: \\$\\((\\w+)\\)");
     const QString sheet = QString::fromStdString(fileContent(sourceDir().toStdString() + "/resources/styles/style.ZARN.css"));
     int found = 0;
     for (auto rules = rule.globalMatch(sheet); rules.hasNext();) {
@@ -152,7 +156,13 @@ void TestAppearance::switched()
     isSystemDark = true;
     choose(2);
     QVERIFY(isDark() && kernel.followsSystem());
-    choose(0);
+    QMainWindow window;
+    Notices notices(&window);
+    const StyleWatch watch(desktop.console.console, kernel, notices, {}, nullptr);
+    isSystemDark = false;
+    QEvent change(QEvent::ThemeChange);
+    QCoreApplication::sendEvent(&window, &change);
+    QTRY_VERIFY(!isDark());
 }
 
 QTEST_MAIN(TestAppearance)

@@ -29,9 +29,12 @@ void CourseFinder::stop()
 
 bool CourseFinder::isFound(const LoadedCard& loaded) const
 {
-    const auto isSame = [](const RecordFlight& a, const RecordFlight& b) { return a.takeOffTime == b.takeOffTime && a.landingTime == b.landingTime; };
+    const auto isSame = [](const RecordFlight& a, const RecordFlight& b) {
+        return a.takeOffTime == b.takeOffTime && a.landingTime == b.landingTime;
+    };
     return mpFound && !mTask.isRunning() && mFoundIn.lock() == loaded.pRecord && &mFoundBy.model() == &loaded.context.model() &&
-           mFoundBy.unit() == loaded.context.unit() && mFoundUntil == loaded.wholeEnd && std::ranges::equal(mFoundWith, loaded.flights, isSame);
+           mFoundBy.unit() == loaded.context.unit() && mFoundUntil == loaded.wholeEnd &&
+           std::ranges::equal(mFoundWith, loaded.flights, isSame);
 }
 
 void CourseFinder::begin()
