@@ -55,6 +55,12 @@ public:
     /// Shows the whole path again.
     void fitPath();
     void setDirty() { mIsDirty = true; }
+    /// Pixels of the upper edge that something else covers.
+    void setLegendTop(int pixels)
+    {
+        mScene.style().legendTop = pixels;
+        mIsAboveDirty = true;
+    }
     /// Whether the picture is behind what it should show.
     [[nodiscard]] bool isDirty() const { return mIsDirty || mIsAboveDirty; }
     /// Pixels that are taken of the lower right corner.
