@@ -17,7 +17,8 @@ namespace ZARN {
 
 class MapAttribution;
 
-/// The drawn map: tiles, and above them the flight path with the aircraft. Draws only when something has changed. Owned by the panel, as is the context.
+/// The drawn map: tiles, and above them the flight path with the aircraft. Draws only when something has changed. Owned by the panel, as is
+/// the context.
 class WidgetMap : public QWidget {
     Q_OBJECT
 
