@@ -67,7 +67,8 @@ bool MbTiles::open(QString& problem)
         sqlite3_limit(mpBase, SQLITE_LIMIT_LENGTH, static_cast<int>(4 * TileImage::kMaxBytes));
     constexpr const char* kSelect = "SELECT tile_data FROM tiles WHERE zoom_level = ?1 AND tile_column = ?2 AND tile_row = ?3";
     if (!isOpen || sqlite3_prepare_v2(mpBase, kSelect, -1, &mpTile, nullptr) != SQLITE_OK) {
-        problem = translated(QT_TRANSLATE_NOOP("OpenStreet::MbTiles", "this is no archive of tiles (%1)")).arg(QString::fromUtf8(sqlite3_errmsg(mpBase)));
+        problem = translated(QT_TRANSLATE_NOOP("OpenStreet::MbTiles", "this is no archive of tiles (%1)"))
+                      .arg(QString::fromUtf8(sqlite3_errmsg(mpBase)));
         return false;
     }
     if (!hasPictures(problem))
@@ -80,7 +81,8 @@ bool MbTiles::hasPictures(QString& problem)
 {
     sqlite3_stmt* pAny = nullptr;
     QByteArray bytes;
-    if (sqlite3_prepare_v2(mpBase, "SELECT tile_data FROM tiles LIMIT 1", -1, &pAny, nullptr) == SQLITE_OK && sqlite3_step(pAny) == SQLITE_ROW)
+    if (sqlite3_prepare_v2(mpBase, "SELECT tile_data FROM tiles LIMIT 1", -1, &pAny, nullptr) == SQLITE_OK &&
+        sqlite3_step(pAny) == SQLITE_ROW)
         bytes = blob(pAny);
     sqlite3_finalize(pAny);
     if (!bytes.isEmpty() && !TileImage::decode(bytes).isNull())
@@ -88,7 +90,8 @@ bool MbTiles::hasPictures(QString& problem)
     if (bytes.isEmpty())
         problem = translated(QT_TRANSLATE_NOOP("OpenStreet::MbTiles", "the archive holds no tile that can be read"));
     else if (isVector(metadata("format"), bytes))
-        problem = translated(QT_TRANSLATE_NOOP("OpenStreet::MbTiles", "the archive holds vector tiles; only pictures (PNG, JPEG, WebP) can be shown"));
+        problem = translated(
+            QT_TRANSLATE_NOOP("OpenStreet::MbTiles", "the archive holds vector tiles; only pictures (PNG, JPEG, WebP) can be shown"));
     else
         problem = translated(QT_TRANSLATE_NOOP("OpenStreet::MbTiles", "its tiles are no pictures of the formats PNG, JPEG or WebP"));
     return false;
@@ -102,7 +105,8 @@ QString MbTiles::metadata(const char* name)
         sqlite3_bind_text(pRow, 1, name, -1, SQLITE_STATIC);
         constexpr int kMost = 1000; // characters
         if (sqlite3_step(pRow) == SQLITE_ROW && sqlite3_column_text(pRow, 0))
-            result = QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(pRow, 0)), sqlite3_column_bytes(pRow, 0)).left(kMost);
+            result =
+                QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(pRow, 0)), sqlite3_column_bytes(pRow, 0)).left(kMost);
     }
     sqlite3_finalize(pRow);
     return result.trimmed();
@@ -114,7 +118,8 @@ void MbTiles::readMetadata()
         mName = name;
     mAttribution = QTextDocumentFragment::fromHtml(metadata("attribution")).toPlainText().simplified();
     sqlite3_stmt* pZoom = nullptr;
-    if (sqlite3_prepare_v2(mpBase, "SELECT max(zoom_level) FROM tiles", -1, &pZoom, nullptr) == SQLITE_OK && sqlite3_step(pZoom) == SQLITE_ROW)
+    if (sqlite3_prepare_v2(mpBase, "SELECT max(zoom_level) FROM tiles", -1, &pZoom, nullptr) == SQLITE_OK &&
+        sqlite3_step(pZoom) == SQLITE_ROW)
         mHighestZoom = std::clamp(sqlite3_column_int(pZoom, 0), 0, TileId::kMaxZoom);
     sqlite3_finalize(pZoom);
 }

@@ -12,7 +12,7 @@ namespace OpenStreet {
 namespace {
 
 constexpr int kNoHeading = 255;
-constexpr int kMostTiles = 64; // that a view may need of a layer: it shows a part of the world
+constexpr int kMostTiles = 64;  // that a view may need of a layer: it shows a part of the world
 constexpr int kLevelsBelow = 1; // a layer serves views from so many zooms above its tiles' on
 
 void readAirfield(PackedReader& reader, MapPlace& place)

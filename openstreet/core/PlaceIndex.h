@@ -15,10 +15,10 @@ struct MapPlace {
     QPointF at;    ///< x and y of the whole world run from 0 to 1, from the north-west
     QString ident; ///< of an airfield, "EDMA"; empty for one without
     QString name;
-    double inhabitants = 0.0;  ///< of a town, about; 0 where nobody counted
-    int elevation = 0;         ///< of an airfield in feet
-    int runwayHeading = -1;    ///< true heading of the longest runway in degrees below 180; -1 when it is not known
-    quint32 runwayLength = 0;  ///< feet; 0 when it is not known
+    double inhabitants = 0.0; ///< of a town, about; 0 where nobody counted
+    int elevation = 0;        ///< of an airfield in feet
+    int runwayHeading = -1;   ///< true heading of the longest runway in degrees below 180; -1 when it is not known
+    quint32 runwayLength = 0; ///< feet; 0 when it is not known
 };
 
 /// Towns and airfields of the built-in map, by tile. Tiles are read when they are asked for, and kept.

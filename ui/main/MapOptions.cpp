@@ -209,7 +209,8 @@ void MapOptions::setPath(const QString& path)
     if (path.isEmpty())
         return;
     if (!OpenStreet::LocalTiles::open(path, &problem)) {
-        QMessageBox box(QMessageBox::Warning, tr("ZARN Warning"), tr("These map tiles cannot be shown.") + '\n' + problem, QMessageBox::Ok, this);
+        QMessageBox box(QMessageBox::Warning, tr("ZARN Warning"), tr("These map tiles cannot be shown.") + '\n' + problem, QMessageBox::Ok,
+                        this);
         box.setTextFormat(Qt::PlainText);
         box.exec();
         return;

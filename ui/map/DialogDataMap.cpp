@@ -298,7 +298,8 @@ void DialogDataMap::arrangeValues()
     mpSplitter->setOrientation(isBeside ? Qt::Horizontal : Qt::Vertical);
     const QSize wanted = mpValues->sizeHint();
     const int room = isBeside ? mpSplitter->width() : mpSplitter->height();
-    const int values = std::min(isBeside ? wanted.width() : wanted.height(), isBeside ? room * 2 / 5 : room / 3);
+    const int row = mpValues->rowHeight();
+    const int values = isBeside ? std::min(wanted.width(), room * 2 / 5) : std::min(wanted.height(), std::max(room / 4 / row, 2) * row); // whole rows
     mpSplitter->setSizes({std::max(room - values, 1), std::max(values, 1)});
 }
 
@@ -312,6 +313,8 @@ void DialogDataMap::updateGeometry()
     mpTools->arrangeFor({map.width() - margin, tallest});
     mpTools->move(map.topLeft() + QPoint(margin, margin));
     mpTools->raise();
+    const bool isLying = mpTools->width() > mpTools->height(); // the legend stands below it then
+    mpMap->setLegendTop(isLying ? mpTools->height() + 2 * margin : margin);
     const int wide = std::max(std::min(map.width() - 2 * margin, kWidestConsent), 0);
     const int tall = mpConsent->arrangeFor(wide);
     const int below = std::max(kBelowConsent, mpMap->cornerSize().height() + margin);

@@ -146,10 +146,18 @@ MapToolPanel::MapToolPanel(int scale, QWidget* pParent) : QWidget(pParent), mpCo
 
 void MapToolPanel::arrangeFor(const QSize& room)
 {
-    mpBar->setOrientation(Qt::Vertical);
+    const std::array layouts{layout(), mpBar->parentWidget()->layout(), mpBar->layout()};
+    const auto turn = [&](Qt::Orientation orientation) {
+        mpBar->setOrientation(orientation);
+        for (QLayout* pLayout : layouts)
+            pLayout->invalidate(); // what they want is asked for at once
+    };
+    turn(Qt::Vertical);
     if (sizeHint().height() > room.height())
-        mpBar->setOrientation(Qt::Horizontal);
+        turn(Qt::Horizontal);
     resize(sizeHint().boundedTo(room));
+    for (QLayout* pLayout : layouts)
+        pLayout->activate();
 }
 
 QAction* MapToolPanel::addButton(QToolBar& bar, const QIcon& icon, const QString& text)

@@ -73,6 +73,11 @@ void MapValueTable::fitColumns()
         verticalHeader()->setDefaultSectionSize(metrics.height() + 4);
 }
 
+int MapValueTable::rowHeight() const
+{
+    return std::max(verticalHeader()->defaultSectionSize(), 1);
+}
+
 QSize MapValueTable::sizeHint() const
 {
     const QFontMetrics metrics = fontMetrics();
@@ -80,7 +85,7 @@ QSize MapValueTable::sizeHint() const
     for (const MapValue& value : mpModel->values())
         name = std::max(name, metrics.horizontalAdvance(value.name) + kPadding);
     const int width = columnWidth(MapValueModel::eState) + name + columnWidth(MapValueModel::eValue) + columnWidth(MapValueModel::eUnit);
-    return {width + verticalScrollBar()->sizeHint().width(), mpModel->rowCount() * verticalHeader()->defaultSectionSize() + 4};
+    return {width + verticalScrollBar()->sizeHint().width(), mpModel->rowCount() * rowHeight()};
 }
 
 void MapValueTable::changeEvent(QEvent* pEvent)

@@ -15,6 +15,8 @@ public:
 
     void setValues(std::vector<MapValue> values);
     [[nodiscard]] MapValueModel& model() { return *mpModel; }
+    /// Pixels of each row.
+    [[nodiscard]] int rowHeight() const;
     /// What all rows and columns take.
     [[nodiscard]] QSize sizeHint() const override;
 

@@ -17,7 +17,8 @@ namespace ZARN {
 
 class MapAttribution;
 
-/// The drawn map: tiles, and above them the flight path with the aircraft. Draws only when something has changed. Owned by the panel, as is the context.
+/// The drawn map: tiles, and above them the flight path with the aircraft. Draws only when something has changed. Owned by the panel, as is
+/// the context.
 class WidgetMap : public QWidget {
     Q_OBJECT
 
@@ -55,6 +56,12 @@ public:
     /// Shows the whole path again.
     void fitPath();
     void setDirty() { mIsDirty = true; }
+    /// Pixels of the upper edge that something else covers.
+    void setLegendTop(int pixels)
+    {
+        mScene.style().legendTop = pixels;
+        mIsAboveDirty = true;
+    }
     /// Whether the picture is behind what it should show.
     [[nodiscard]] bool isDirty() const { return mIsDirty || mIsAboveDirty; }
     /// Pixels that are taken of the lower right corner.

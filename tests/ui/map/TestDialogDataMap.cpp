@@ -216,7 +216,8 @@ void TestDialogDataMap::tilesAfterConsent()
     QTRY_COMPARE(mHost.requests().size(), allowed.size());
     for (const auto& request : mHost.requests()) {
         QVERIFY2(allowed.contains(request.path), qPrintable(request.path));
-        QVERIFY2(QRegularExpression("^ZARN/\\d+\\.\\d+\\.\\d+ \\(\\+https://\\S+;").match(request.userAgent).hasMatch(), qPrintable(request.userAgent));
+        const QRegularExpression agent("^ZARN/\\d+\\.\\d+\\.\\d+ \\(\\+https://\\S+;");
+        QVERIFY2(agent.match(request.userAgent).hasMatch(), qPrintable(request.userAgent));
     }
     Property stored(flight().console); // the answer is with the settings, and can be taken back there
     stored.readXmlFile(window.data.filePath("ZARN.ini").toStdString());

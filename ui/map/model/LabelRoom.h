@@ -21,9 +21,8 @@ public:
     [[nodiscard]] std::optional<QRectF> take(const QPointF& point, double distance, const QSizeF& size)
     {
         const double left = point.x() - size.width() - distance, right = point.x() + distance, middle = point.x() - 0.5 * size.width();
-        for (const QPointF& corner :
-             {QPointF(right, point.y() - 0.5 * size.height()), QPointF(left, point.y() - 0.5 * size.height()),
-              QPointF(middle, point.y() - distance - size.height()), QPointF(middle, point.y() + distance)}) {
+        for (const QPointF& corner : {QPointF(right, point.y() - 0.5 * size.height()), QPointF(left, point.y() - 0.5 * size.height()),
+                                      QPointF(middle, point.y() - distance - size.height()), QPointF(middle, point.y() + distance)}) {
             const QRectF box(corner, size);
             if (mArea.contains(box) && isFree(box)) {
                 block(box);

@@ -64,7 +64,8 @@ MapCourseFinder::MapCourseFinder(QObject* pParent) : QObject(pParent)
 
 void MapCourseFinder::start(LoadedCard loaded)
 {
-    mTask.start([this, loaded = std::move(loaded)](Progress& /*progress*/) { mpFound = std::make_shared<const MapCourse>(MapCourse::of(loaded)); });
+    mTask.start(
+        [this, loaded = std::move(loaded)](Progress& /*progress*/) { mpFound = std::make_shared<const MapCourse>(MapCourse::of(loaded)); });
 }
 
 } // namespace ZARN

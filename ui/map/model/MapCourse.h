@@ -10,7 +10,7 @@ namespace ZARN {
 /// cycle where a flight of it is selected.
 struct MapCourse {
     CycleCourse course;
-    std::vector<TimeSpan> gaps; ///< in order of time
+    std::vector<TimeSpan> gaps;                                 ///< in order of time
     std::shared_ptr<const std::vector<FlightPathPoint>> pWhole; ///< null where the path is the whole one
 
     /// Takes a while.

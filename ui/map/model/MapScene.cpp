@@ -148,7 +148,7 @@ void MapScene::drawAbove(Canvas& canvas, const OpenStreet::Camera& camera) const
     drawAircraft(canvas, camera);
     drawScaleBar(canvas, camera);
     if (!mPath.isEmpty())
-        PathLegend(mTint, mStyle).draw(canvas, QPointF(camera.width() - kMargin, kMargin));
+        PathLegend(mTint, mStyle).draw(canvas, QPointF(camera.width() - kMargin, mStyle.legendTop));
     drawSelection(canvas);
     if (mMessage.isEmpty())
         return;

@@ -60,7 +60,8 @@ QVariant MapValueModel::data(const QModelIndex& index, int role) const
     const MapValue& value = mValues[static_cast<std::size_t>(index.row())];
     switch (role) {
     case Qt::DisplayRole: return text(value, index.column());
-    case Qt::ToolTipRole: return plainToolTip(index.column() == eState ? ShownParameter::stateName(value.state) : text(value, index.column()));
+    case Qt::ToolTipRole:
+        return plainToolTip(index.column() == eState ? ShownParameter::stateName(value.state) : text(value, index.column()));
     case Qt::AccessibleTextRole: return index.column() == eState ? ShownParameter::stateName(value.state) : text(value, index.column());
     case Qt::TextAlignmentRole: return QVariant::fromValue(Qt::AlignVCenter | (index.column() == eValue ? Qt::AlignRight : Qt::AlignLeft));
     case Qt::ForegroundRole:

@@ -8,9 +8,9 @@ namespace ZARN {
 namespace {
 
 constexpr double kPadding = 6.0;
-constexpr double kBar = 8.0;      // height of the scale
-constexpr double kSwatch = 18.0;  // width of a colour
-constexpr double kLeast = 150.0;  // pixels of a scale
+constexpr double kBar = 8.0;     // height of the scale
+constexpr double kSwatch = 18.0; // width of a colour
+constexpr double kLeast = 150.0; // pixels of a scale
 
 } // namespace
 

@@ -83,7 +83,7 @@ std::string PathTinter::unitOf(const char* type) const
 PathTint PathTinter::tint(const PathColouring& colouring, const RecordData* pRecord, const std::vector<FlightPhases::Step>& phases) const
 {
     std::vector<double> values(mPoints.size());
-    const auto take = [&](double FlightPathPoint::* pMember) {
+    const auto take = [&](double FlightPathPoint::*pMember) {
         std::ranges::transform(mPoints, values.begin(), [pMember](const FlightPathPoint& point) { return point.*pMember; });
     };
     switch (colouring.by) {

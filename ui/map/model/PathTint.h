@@ -29,7 +29,7 @@ struct PathColouring {
 
 /// The colours of a path's points, worked out once for a path, and what a legend tells of them. A plain value.
 struct PathTint {
-    static constexpr int kSteps = 32; ///< colours of a scale
+    static constexpr int kSteps = 32;          ///< colours of a scale
     static constexpr quint8 kUnknown = kSteps; ///< of a point without a value
 
     /// A colour with its words, of a legend without a scale.
@@ -62,7 +62,8 @@ public:
     }
 
     /// @param pRecord null: without values of parameters  @param phases in order of time; empty while they are not known
-    [[nodiscard]] PathTint tint(const PathColouring& colouring, const RecordData* pRecord, const std::vector<FlightPhases::Step>& phases) const;
+    [[nodiscard]] PathTint tint(const PathColouring& colouring, const RecordData* pRecord,
+                                const std::vector<FlightPhases::Step>& phases) const;
     /// "Altitude", "Ground speed", "Phase of flight", the parameter's name.
     [[nodiscard]] static QString title(const PathColouring& colouring);
     [[nodiscard]] static QString phaseName(EFlightPhase phase);

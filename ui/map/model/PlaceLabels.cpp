@@ -22,8 +22,8 @@ constexpr double kDot = 2.0;    // radius of a town
 constexpr double kField = 4.5;  // of an airfield
 constexpr double kRunway = 8.0; // half the length of a runway's sign
 constexpr std::size_t kMostOfTile = 400;
-constexpr int kNamesOfFields = 11;      // zoom from which airfields have their name beside their identifier
-constexpr double kSmallestMark = 14.0;  // weight of a place that is marked although there is no room for its name
+constexpr int kNamesOfFields = 11;     // zoom from which airfields have their name beside their identifier
+constexpr double kSmallestMark = 14.0; // weight of a place that is marked although there is no room for its name
 
 /// How far apart places have to be to be told of at a zoom, as the least weight of those that are.
 double leastWeight(int zoom)
@@ -55,7 +55,8 @@ QRectF partOfWorld(const OpenStreet::Camera& camera)
 {
     const double width = camera.width(), height = camera.height();
     QPolygonF corners;
-    for (const auto& [x, y] : {std::pair(-kAround, -kAround), {1 + kAround, -kAround}, {1 + kAround, 1 + kAround}, {-kAround, 1 + kAround}}) {
+    for (const auto& [x, y] :
+         {std::pair(-kAround, -kAround), {1 + kAround, -kAround}, {1 + kAround, 1 + kAround}, {-kAround, 1 + kAround}}) {
         const WorldPoint at = camera.windowToWorld({x * width, y * height});
         corners << QPointF(at.x / OpenStreet::Projection::kWorldWidth + 0.5, 0.5 - at.y / OpenStreet::Projection::kWorldWidth);
     }

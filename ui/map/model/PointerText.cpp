@@ -41,7 +41,8 @@ QString PointerText::at(const OpenStreet::GeoPoint& place, const FlightPathPoint
     const double metres = calcDistance(pAircraft->latitude, pAircraft->longitude, place.latitude, place.longitude);
     const int degrees = static_cast<int>(std::lround(bearing({pAircraft->latitude, pAircraft->longitude}, place))) % 360;
     return tr("%1   %2 km, %3 NM, %4\u00b0 from the aircraft")
-        .arg(where, inUnit(metres, 1000.0), inUnit(metres, kMetresPerMile), QString(QLatin1String("%1")).arg(degrees, 3, 10, QLatin1Char('0')));
+        .arg(where, inUnit(metres, 1000.0), inUnit(metres, kMetresPerMile),
+             QString(QLatin1String("%1")).arg(degrees, 3, 10, QLatin1Char('0')));
 }
 
 } // namespace ZARN

@@ -52,7 +52,8 @@ void ProfileStrip::fill(int width)
     mColumns.assign(static_cast<std::size_t>(width), {});
     const auto add = [this, width](double place, double altitude) {
         Column& column = mColumns[static_cast<std::size_t>(std::clamp(static_cast<int>(place), 0, width - 1))];
-        column = column.isKnown ? Column{std::min(column.low, altitude), std::max(column.high, altitude), true} : Column{altitude, altitude, true};
+        column = column.isKnown ? Column{std::min(column.low, altitude), std::max(column.high, altitude), true}
+                                : Column{altitude, altitude, true};
     };
     for (std::size_t i = 0; i < mPoints.size(); ++i) {
         const double here = placeOf(mPoints[i].time, width);
