@@ -1,6 +1,7 @@
 #include "app/gui/TextTwin.h"
 
 #include <QAccessibleWidget>
+#include <QWidget>
 
 namespace ZARN {
 
