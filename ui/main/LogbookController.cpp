@@ -67,8 +67,10 @@ LogbookController::LogbookController(const Session& session, const Parts& parts,
     connect(mpBar, &LogbookBar::signalAnswer, this, &LogbookController::slotAnswer);
     connect(&mIntake, &LogbookIntake::signalDone, this, &LogbookController::slotTaken);
     connect(mpWorker.get(), &LogbookWorker::signalChanged, this, &LogbookController::askServices);
-    connect(mpWorker.get(), &LogbookWorker::signalPutAside, this,
-            [this](const QString& error) { mParts.notices.tell(tr("The logbook was damaged.\n%1").arg(error)); });
+    connect(mpWorker.get(), &LogbookWorker::signalPutAside, this, [this](const QString& error) {
+        mParts.notices.tell(tr("The logbook was damaged.\n%1").arg(error));
+        takeCard(); // what is at hand is kept again
+    });
     connect(mpExport, &LogbookExport::signalWritten, this, &LogbookController::signalWritten);
     // When the window has shown the card.
     connect(&mParts.cards, &CardController::signalFolderChanged, this, &LogbookController::slotCard, Qt::QueuedConnection);

@@ -6,6 +6,8 @@
 #include "ui/data/WidgetErrorTime.h"
 #include "ui/data/WidgetFaultMatrix.h"
 
+#include <QApplication>
+#include <QHelpEvent>
 #include <QSignalSpy>
 #include <QTableWidget>
 #include <QTest>
@@ -127,7 +129,8 @@ void TestFaultMatrix::timeline()
     Matrix matrix;
     const WidgetErrorTime& timeline = matrix.panel().timeline();
     QCOMPARE(timeline.changes(eErrorInfo).size(), size_t(4)); // off, on, off, closing
-    WidgetErrorTime wide(matrix.container);
+    double told = 0.0;
+    WidgetErrorTime wide(matrix.container, [&told](double time) { return QString::number(told = time); });
     wide.setData(matrix.profile.model().errorMatrices.front());
     wide.updateRecord(matrix.data());
     wide.resize(99, 47); // a pixel a second, bands of 16
@@ -153,6 +156,9 @@ void TestFaultMatrix::timeline()
     QTest::mouseClick(&wide, Qt::LeftButton, {}, QPoint(50, 8));
     QCOMPARE(times.size(), 1);
     QCOMPARE(wide.xOf(times[0][0].toDouble()), 50);
+    QHelpEvent help(QEvent::ToolTip, QPoint(50, 8), QPoint());
+    QApplication::sendEvent(&wide, &help);
+    QCOMPARE(wide.xOf(told), 50);
     for (const double time : {-1e300, 1e300, std::numeric_limits<double>::quiet_NaN()}) {
         wide.setTime(time);
         wide.grab();

@@ -113,7 +113,8 @@ double GraphLayout::placeTable(const GraphModel& model)
     if (!model.marker().isRange() || model.traces().shown().empty())
         return 0;
     const double width = std::max(0.0, mSize.width() - 2 * kGap);
-    mSheet = MarkerSheet(model, static_cast<int>((width - kSwatch - 6) / mCharacter) + 1);
+    constexpr double kBeside = 6.0 + 5.0; // the swatch, and below the scroll bar nothing stands
+    mSheet = MarkerSheet(model, static_cast<int>((width - kSwatch - kBeside) / mCharacter));
     // The headings take a line, and what is said of the lines that have no room another one.
     const auto lines = static_cast<int>(mSheet.lines().size());
     const int room = std::max(3, static_cast<int>(mSize.height() * kTablePart / mLine));
