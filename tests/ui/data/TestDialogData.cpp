@@ -5,7 +5,6 @@
 #include "ui/data/DialogDataLimit.h"
 #include "ui/data/DialogDataStatistic.h"
 #include "ui/data/DialogDataTable.h"
-#include "ui/data/ReplayButton.h"
 #include "ui/data/RowTable.h"
 #include "ui/data/TimeEntry.h"
 #include "ui/data/WidgetReplayBar.h"
@@ -25,7 +24,6 @@
 #include <QTest>
 #include <QTextEdit>
 #include <QTimer>
-#include <QTranslator>
 #include <QWheelEvent>
 
 using namespace ZARN;
@@ -51,17 +49,6 @@ private:
     QStringList& mLog;
 };
 
-/// A language in which the replay's buttons have much to say.
-class LongTexts : public QTranslator {
-public:
-    LongTexts() { QCoreApplication::installTranslator(this); }
-    [[nodiscard]] bool isEmpty() const override { return false; }
-    QString translate(const char*, const char* source, const char*, int) const override
-    {
-        return QByteArray(source).startsWith("Replay ") ? QString("%1 %1").arg(source) : QString();
-    }
-};
-
 /// The data area over recording views: Table, Graph, Fault matrix, Limits, Warnings, Statistic, Map. The record lasts from 10 to 110 s.
 struct Area : Test::DataCycle {
     explicit Area(bool emu = false, double end = 110.0, bool dated = true, double start = 10.0)
@@ -74,7 +61,6 @@ struct Area : Test::DataCycle {
             views.entries[i] = {pView, pView};
             widgets[i] = pView;
         }
-        views.times = [this] { return times; };
         area.emplace(record, views, emu, nullptr, [this] { return now; });
     }
     /// With the table and the map in sight.
@@ -97,7 +83,6 @@ struct Area : Test::DataCycle {
     std::array<QWidget*, eViewCount> widgets{};
     QStringList log;
     double now = 1000.0;
-    TimeReference times;
     RecordSession record{container};
     std::optional<DialogData> area;
 };
@@ -137,14 +122,10 @@ private Q_SLOTS:
     void positionsStay();
     void typedTimes_data();
     void typedTimes();
-    void timesAreTold_data();
-    void timesAreTold();
     void replay();
     void withoutRecord();
     void emu();
     void mapPane();
-    void narrow_data();
-    void narrow();
     void tabs();
     void focusOfTabs();
     void realViews();
@@ -383,53 +364,6 @@ void TestDialogData::typedTimes()
     QCOMPARE(pTime->text(), QString("25:01:10"));
 }
 
-void TestDialogData::timesAreTold_data()
-{
-    QTest::addColumn<ETimeReference>("kind");
-    QTest::addColumn<double>("shift");
-    QTest::addColumn<QString>("clock"); // at 25.5 s
-    QTest::addColumn<QString>("entry");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<double>("seconds");
-    QTest::newRow("before the take-off") << ETimeReference::eTakeOff << -30.0 << "-00:00:04.500"
-                                         << "-00:00:04"
-                                         << "-0:08" << 22.0;
-    QTest::newRow("after it") << ETimeReference::eTakeOff << -20.0 << "00:00:05.500"
-                              << "00:00:05"
-                              << "1:00" << 80.0;
-    QTest::newRow("clock") << ETimeReference::eClock << 28800.0 << "08:00:25.500"
-                           << "08:00:25"
-                           << "8:01:00" << 60.0;
-    QTest::newRow("midnight") << ETimeReference::eClock << 86380.0 << "00:00:05.500"
-                              << "00:00:05"
-                              << "23:59:50" << 10.0;
-    QTest::newRow("after midnight") << ETimeReference::eClock << 86380.0 << "00:00:05.500"
-                                    << "00:00:05"
-                                    << "0:00:20" << 40.0;
-}
-
-void TestDialogData::timesAreTold()
-{
-    QFETCH(QString, clock);
-    QFETCH(QString, typed);
-    Area area;
-    QVERIFY(activate(*area.area));
-    area.show();
-    QFETCH(ETimeReference, kind);
-    QFETCH(double, shift);
-    area.times = {kind, shift};
-    area.area->updateSettings();
-    area.area->slotLimitTime(25.5);
-    area.take();
-    QVERIFY(shows(*area.find<QLCDNumber>("timeClock"), clock));
-    auto* pEntry = area.find<TimeEntry>("time");
-    QTEST(pEntry->text(), "entry");
-    pEntry->selectAll();
-    QTest::keyClicks(pEntry, typed);
-    QTest::keyClick(pEntry, Qt::Key_Return);
-    QTEST(area.area->viewTime(), "seconds");
-}
-
 void TestDialogData::replay()
 {
     Area area;
@@ -518,39 +452,6 @@ void TestDialogData::mapPane()
     QCOMPARE(pSplitter->sizes(), sizes);
     area.area->slotMapType(1);
     QCOMPARE(pSplitter->orientation(), Qt::Horizontal);
-}
-
-void TestDialogData::narrow_data()
-{
-    QTest::addColumn<int>("width"); // 0 is the least
-    QTest::addColumn<bool>("withText");
-    QTest::newRow("icons") << 0 << false;
-    QTest::newRow("two lines") << 1000 << true;
-    QTest::newRow("one line") << 1600 << true;
-}
-
-void TestDialogData::narrow()
-{
-    QFETCH(int, width);
-    const LongTexts language;
-    QWidget window; // a window itself would not become narrower than its layout
-    WidgetReplayBar bar(false, &window);
-    bar.setReplay(WidgetReplayBar::ePaused);
-    window.show();
-    bar.resize(1600, 200);
-    bar.resize(width == 0 ? bar.minimumSizeHint().width() : width, 200);
-    QTest::qWait(50);
-    QRegion taken;
-    for (const QWidget* pControl : bar.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
-        QVERIFY2(bar.rect().contains(pControl->geometry()) && !taken.intersects(pControl->geometry()), qPrintable(pControl->objectName()));
-        taken += pControl->geometry();
-    }
-    for (const ReplayButton* pButton : bar.findChildren<ReplayButton*>()) {
-        QTEST(pButton->width() >= pButton->widthFor(pButton->text()), "withText");
-        QVERIFY(pButton->width() >= pButton->widthFor({}));
-        QVERIFY(!pButton->text().isEmpty() && pButton->toolTip() == pButton->text());
-    }
-    QCOMPARE(bar.findChild<ReplayButton*>("replay")->text(), QString("Replay Run Replay Run"));
 }
 
 void TestDialogData::tabs()

@@ -73,6 +73,9 @@ void TestAppearance::rulesNameTheirUses()
         QVERIFY2(std::ranges::any_of(ColourTable::builtIn().uses(), isIt), qPrintable(colour + " on " + below));
     }
     QVERIFY(found > 5);
+    const std::string arrow = fileContent(sourceDir().toStdString() + "/resources/icons/chevron-down.svg");
+    for (const ColourTable::EMedium medium : {ColourTable::eLight, ColourTable::eDark}) // the one picture serves both
+        QVERIFY(arrow.find(ColourTable::builtIn().colour("arrow", medium).name().toStdString()) != std::string::npos);
 }
 
 void TestAppearance::damagedColours_data()
