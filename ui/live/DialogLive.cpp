@@ -34,8 +34,9 @@ QLabel* createText(const QString& text)
 } // namespace
 
 DialogLive::DialogLive(const Session& session, QWidget* pParent)
-    : QDialog(pParent), mSession(session), mpFields(new QWidget), mpPlugin(new QComboBox), mpInterface(new QComboBox), mpBitRate(new QComboBox), mpFolder(new QLineEdit),
-      mpHours(new QSpinBox), mpProblem(new QLabel), mpConnect(new QPushButton(tr("Connect"))), mpDisconnect(new QPushButton(tr("Disconnect")))
+    : QDialog(pParent), mSession(session), mpFields(new QWidget), mpPlugin(new QComboBox), mpInterface(new QComboBox), mpBitRate(new QComboBox),
+      mpFolder(new QLineEdit), mpHours(new QSpinBox), mpProblem(new QLabel), mpConnect(new QPushButton(tr("Connect"))),
+      mpDisconnect(new QPushButton(tr("Disconnect")))
 {
     setWindowTitle(tr("Live"));
     createRows();
@@ -78,7 +79,8 @@ void DialogLive::createRows()
     pForm->addRow(tr("Hours kept in memory"), mpHours);
     auto* pLayout = new QVBoxLayout(this);
     pLayout->addWidget(mpFields);
-    pLayout->addWidget(createText(tr("The program only listens: it never sends anything to the bus. Whether the interface confirms frames is set in the system.")));
+    pLayout->addWidget(createText(tr("The program only listens: it never sends anything to the bus. "
+                                     "Whether the interface confirms frames is set in the system.")));
     pLayout->addWidget(mpProblem);
     pLayout->addStretch();
     pLayout->addWidget(pButtons);

@@ -29,7 +29,8 @@ void LiveText::take(const LiveStatus& status)
         return;
     mClock.start();
     if (elapsed > 0) {
-        const auto rate = [elapsed](uint64_t now, uint64_t before) { return static_cast<double>(now - before) * 1000.0 / static_cast<double>(elapsed); };
+        const double seconds = static_cast<double>(elapsed) / 1000.0;
+        const auto rate = [seconds](uint64_t now, uint64_t before) { return static_cast<double>(now - before) / seconds; };
         mFrames = rate(status.counts.frames, mBefore.frames);
         mBits = rate(status.counts.bits, mBefore.bits);
     }
@@ -57,7 +58,8 @@ QString LiveText::counts() const
     } else {
         parts << tr("%1 frames").arg(number(static_cast<double>(counts.frames)));
     }
-    parts << tr("%1 errors").arg(number(static_cast<double>(counts.errors))) << tr("%1 times frames lost").arg(number(static_cast<double>(counts.losses)));
+    parts << tr("%1 errors").arg(number(static_cast<double>(counts.errors)))
+          << tr("%1 times frames lost").arg(number(static_cast<double>(counts.losses)));
     if (counts.remote + counts.fd > 0)
         parts << tr("%1 frames of other kinds").arg(number(static_cast<double>(counts.remote + counts.fd)));
     return parts.join(", ");
