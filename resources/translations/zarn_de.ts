@@ -148,6 +148,57 @@
     </message>
 </context>
 <context>
+    <name>OpenStreet::BaseMap</name>
+    <message>
+        <source>The map of coasts and rivers is damaged: a plainer one is shown</source>
+        <translation>Die Karte der Küsten und Flüsse ist beschädigt: eine einfachere wird gezeigt</translation>
+    </message>
+</context>
+<context>
+    <name>OpenStreet::DetailFile</name>
+    <message>
+        <source>this is no map of the program, or a damaged one</source>
+        <translation>das ist keine Karte des Programms, oder eine beschädigte</translation>
+    </message>
+</context>
+<context>
+    <name>OpenStreet::FolderTiles</name>
+    <message>
+        <source>there is no folder of a zoom, from 0 to 22, with tiles in it</source>
+        <translation>es gibt darin keinen Ordner einer Zoomstufe, von 0 bis 22, mit Kacheln</translation>
+    </message>
+</context>
+<context>
+    <name>OpenStreet::MbTiles</name>
+    <message>
+        <source>there is no such file</source>
+        <translation>diese Datei gibt es nicht</translation>
+    </message>
+    <message>
+        <source>this is no archive of tiles (%1)</source>
+        <translation>das ist kein Kachelarchiv (%1)</translation>
+    </message>
+    <message>
+        <source>the archive holds no tile that can be read</source>
+        <translation>das Archiv enthält keine lesbare Kachel</translation>
+    </message>
+    <message>
+        <source>the archive holds vector tiles; only pictures (PNG, JPEG, WebP) can be shown</source>
+        <translation>das Archiv enthält Vektorkacheln; gezeigt werden können nur Bilder (PNG, JPEG, WebP)</translation>
+    </message>
+    <message>
+        <source>its tiles are no pictures of the formats PNG, JPEG or WebP</source>
+        <translation>seine Kacheln sind keine Bilder der Formate PNG, JPEG oder WebP</translation>
+    </message>
+</context>
+<context>
+    <name>OpenStreet::PlaceIndex</name>
+    <message>
+        <source>The map of places is damaged: some are missing</source>
+        <translation>Die Karte der Orte ist beschädigt: einige fehlen</translation>
+    </message>
+</context>
+<context>
     <name>OpenStreet::TileImage</name>
     <message>
         <source>more than 4 MiB</source>
@@ -186,6 +237,13 @@
     <message>
         <source>Graph of the selected parameters</source>
         <translation>Graph der gewählten Parameter</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::Appearance</name>
+    <message>
+        <source>It cannot be read.</source>
+        <translation>Sie kann nicht gelesen werden.</translation>
     </message>
 </context>
 <context>
@@ -293,6 +351,10 @@ Die Einstellungen bleiben erhalten.</translation>
     <message>
         <source>its content has changed since the card was opened</source>
         <translation>ihr Inhalt hat sich seit dem Öffnen der Karte geändert</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>Live</translation>
     </message>
 </context>
 <context>
@@ -435,6 +497,29 @@ Die Einstellungen bleiben erhalten.</translation>
     <message>
         <source>%1, opacity %2 %</source>
         <translation>%1, Deckkraft %2 %</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::ColourTable</name>
+    <message>
+        <source>there is no colour &quot;%1&quot;</source>
+        <translation>es gibt keine Farbe „%1“</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no colour</source>
+        <translation>„%1“ hat keine Farbe</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no colour: #rrggbb is one</source>
+        <translation>„%1“ ist keine Farbe: #rrggbb ist eine</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read on &quot;%2&quot;: the contrast is %3 : 1, less than %4 : 1</source>
+        <translation>„%1“ ist auf „%2“ nicht zu lesen: Der Kontrast ist %3 : 1, weniger als %4 : 1</translation>
     </message>
 </context>
 <context>
@@ -716,6 +801,18 @@ Die Einstellungen bleiben erhalten.</translation>
         <source>Show in Graph</source>
         <translation>Im Graphen zeigen</translation>
     </message>
+    <message>
+        <source>Map</source>
+        <translation>Karte</translation>
+    </message>
+    <message>
+        <source>ZARN Warning</source>
+        <translation>ZARN Warnung</translation>
+    </message>
+    <message>
+        <source>Colours of the path</source>
+        <translation>Farben des Flugwegs</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::DialogDataStatistic</name>
@@ -782,6 +879,10 @@ Die Einstellungen bleiben erhalten.</translation>
     <message>
         <source>Flight Report...</source>
         <translation>Flugbericht...</translation>
+    </message>
+    <message>
+        <source>A click on a flight in the list on the left shows its figures here.</source>
+        <translation>Ein Klick auf einen Flug in der Liste links zeigt hier seine Werte.</translation>
     </message>
 </context>
 <context>
@@ -1268,6 +1369,65 @@ lag(x, s): x, wie es vor s Sekunden war</translation>
     </message>
 </context>
 <context>
+    <name>ZARN::DialogLive</name>
+    <message>
+        <source>Connect</source>
+        <translation>Verbinden</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>Trennen</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>Live</translation>
+    </message>
+    <message>
+        <source>As it is set in the system</source>
+        <translation>Wie im System eingestellt</translation>
+    </message>
+    <message>
+        <source>%1 kbit/s</source>
+        <translation>%1 kbit/s</translation>
+    </message>
+    <message>
+        <source>Nothing is recorded</source>
+        <translation>Es wird nicht aufgezeichnet</translation>
+    </message>
+    <message>
+        <source>Record into</source>
+        <translation>Aufzeichnen nach</translation>
+    </message>
+    <message>
+        <source>Folder ...</source>
+        <translation>Ordner ...</translation>
+    </message>
+    <message>
+        <source>Plugin</source>
+        <translation>Plugin</translation>
+    </message>
+    <message>
+        <source>Interface</source>
+        <translation>Schnittstelle</translation>
+    </message>
+    <message>
+        <source>Bit rate</source>
+        <translation>Bitrate</translation>
+    </message>
+    <message>
+        <source>Hours kept in memory</source>
+        <translation>Stunden im Arbeitsspeicher</translation>
+    </message>
+    <message>
+        <source>The program only listens: it never sends anything to the bus. Whether the interface confirms frames is set in the system.</source>
+        <translation>Das Programm hört nur zu: Es sendet nie etwas auf den Bus. Ob die Schnittstelle Telegramme bestätigt, ist im System eingestellt.</translation>
+    </message>
+    <message>
+        <source>Folder to record into</source>
+        <translation>Ordner für die Aufzeichnung</translation>
+    </message>
+</context>
+<context>
     <name>ZARN::DialogLogbook</name>
     <message>
         <source>Logbook</source>
@@ -1538,6 +1698,14 @@ lag(x, s): x, wie es vor s Sekunden war</translation>
         <source>One parameter over another, with their limits</source>
         <translation>Ein Parameter über einem anderen, mit ihren Grenzen</translation>
     </message>
+    <message>
+        <source>Live ...</source>
+        <translation>Live ...</translation>
+    </message>
+    <message>
+        <source>Watch and record what a CAN interface receives</source>
+        <translation>Ansehen und aufzeichnen, was eine CAN-Schnittstelle empfängt</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::DialogOverview</name>
@@ -1580,6 +1748,14 @@ lag(x, s): x, wie es vor s Sekunden war</translation>
     <message>
         <source>Open it again to review it.</source>
         <translation>Öffnen Sie sie erneut, um sie durchzusehen.</translation>
+    </message>
+    <message>
+        <source>Times of the recorder&apos;s clock; where it was not set, since the unit&apos;s power-up.</source>
+        <translation>Zeiten der Uhr des Geräts; wo sie nicht gestellt war, seit dem Einschalten des Geräts.</translation>
+    </message>
+    <message>
+        <source>Times since the first take-off; without a flight, since the unit&apos;s power-up.</source>
+        <translation>Zeiten seit dem ersten Start; ohne Flug seit dem Einschalten des Geräts.</translation>
     </message>
 </context>
 <context>
@@ -1649,20 +1825,8 @@ lag(x, s): x, wie es vor s Sekunden war</translation>
         <translation>ZARN-Profil (*.xml);;Alle Dateien (*.*)</translation>
     </message>
     <message>
-        <source>Load map tiles from the network</source>
-        <translation>Kartenkacheln aus dem Netz laden</translation>
-    </message>
-    <message>
         <source>Map</source>
         <translation>Karte</translation>
-    </message>
-    <message>
-        <source>Server: %1. It learns which area is looked at.</source>
-        <translation>Server: %1. Er erfährt, welches Gebiet betrachtet wird.</translation>
-    </message>
-    <message>
-        <source>The setting &quot;TileServer&quot; is no address of map tiles.</source>
-        <translation>Die Einstellung „TileServer“ ist keine Adresse für Kartenkacheln.</translation>
     </message>
     <message>
         <source>Pages</source>
@@ -1675,6 +1839,22 @@ lag(x, s): x, wie es vor s Sekunden war</translation>
     <message>
         <source>Not a valid ZARN profile !</source>
         <translation>Kein gültiges ZARN-Profil !</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Hell</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>As the system</source>
+        <translation>Wie das System</translation>
+    </message>
+    <message>
+        <source>Colours :</source>
+        <translation>Farben :</translation>
     </message>
 </context>
 <context>
@@ -2316,10 +2496,6 @@ Ersetzen ?</translation>
         <translation>Bis</translation>
     </message>
     <message>
-        <source>Times count from the unit&apos;s power-up.</source>
-        <translation>Zeiten zählen ab dem Einschalten des Geräts.</translation>
-    </message>
-    <message>
         <source>Unit</source>
         <translation>Einheit</translation>
     </message>
@@ -2590,6 +2766,50 @@ Ersetzen ?</translation>
         <source>Not all of them: what was recorded comes before formulas, what is worse before the rest. Those too which the verdict does not count: of starting, stopping and lane checks.</source>
         <translation>Nicht alle: Aufgezeichnetes geht vor Formeln, Schlimmeres vor dem Übrigen. Auch die, die das Urteil nicht zählt: vom Anlassen, Abstellen und von Lane-Prüfungen.</translation>
     </message>
+    <message>
+        <source>Shaded: where nine of ten samples of the earlier flights of this engine lay, by phase of flight.</source>
+        <translation>Schattiert: wo neun von zehn Messwerten der früheren Flüge dieses Motors lagen, je Flugphase.</translation>
+    </message>
+    <message>
+        <source>Compared with %1</source>
+        <translation>Verglichen mit %1</translation>
+    </message>
+    <message>
+        <source>As the two are laid on each other they have no time in common.</source>
+        <translation>So, wie beide aufeinandergelegt sind, haben sie keine gemeinsame Zeit.</translation>
+    </message>
+    <message>
+        <source>Dashed in the graph of the main parameters. Its recording begins at %1 of this one. What follows is of the time that both have, %2 to %3.</source>
+        <translation>Gestrichelt im Graphen der Hauptparameter. Die andere Aufzeichnung beginnt bei %1 von dieser. Das Folgende gilt für die Zeit, die beide haben, %2 bis %3.</translation>
+    </message>
+    <message>
+        <source>Lowest</source>
+        <translation>Niedrigster</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>Mittel</translation>
+    </message>
+    <message>
+        <source>Highest</source>
+        <translation>Höchster</translation>
+    </message>
+    <message>
+        <source>Lowest there</source>
+        <translation>Niedrigster dort</translation>
+    </message>
+    <message>
+        <source>Mean there</source>
+        <translation>Mittel dort</translation>
+    </message>
+    <message>
+        <source>Highest there</source>
+        <translation>Höchster dort</translation>
+    </message>
+    <message>
+        <source>Difference of the means</source>
+        <translation>Unterschied der Mittel</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::FormulaCheck</name>
@@ -2759,6 +2979,14 @@ Ersetzen ?</translation>
         <source>Power cycle of %1 :</source>
         <translation>Einschaltzyklus von %1:</translation>
     </message>
+    <message>
+        <source>Earlier Flights of This Engine, 5 to 95 %</source>
+        <translation>Frühere Flüge dieses Motors, 5 bis 95 %</translation>
+    </message>
+    <message>
+        <source>Earlier Flights of This Engine: Fewer than 10 in the Logbook</source>
+        <translation>Frühere Flüge dieses Motors: weniger als 10 im Logbuch</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::GraphButtons</name>
@@ -2809,6 +3037,41 @@ Ersetzen ?</translation>
     <message>
         <source>Auto</source>
         <translation>Auto</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::GraphDescription</name>
+    <message>
+        <source>Nothing is shown.</source>
+        <translation>Nichts wird gezeigt.</translation>
+    </message>
+    <message>
+        <source>From %1 to %2.</source>
+        <translation>Von %1 bis %2.</translation>
+    </message>
+    <message>
+        <source>Cursor at %1.</source>
+        <translation>Cursor bei %1.</translation>
+    </message>
+    <message>
+        <source>Marked from %1 to %2.</source>
+        <translation>Markiert von %1 bis %2.</translation>
+    </message>
+    <message>
+        <source>without a value</source>
+        <translation>ohne Wert</translation>
+    </message>
+    <message>
+        <source>%1, here %2 to %3</source>
+        <translation>%1, hier %2 bis %3</translation>
+    </message>
+    <message>
+        <source>%1 at %2</source>
+        <translation>%1 bei %2</translation>
+    </message>
+    <message>
+        <source>Incidents: %1.</source>
+        <translation>Vorfälle: %1.</translation>
     </message>
 </context>
 <context>
@@ -3045,6 +3308,13 @@ Ersetzen ?</translation>
     </message>
 </context>
 <context>
+    <name>ZARN::Kernel</name>
+    <message>
+        <source>Unknown variables: %1</source>
+        <translation>Unbekannte Variablen: %1</translation>
+    </message>
+</context>
+<context>
     <name>ZARN::LayoutBar</name>
     <message>
         <source>Layout</source>
@@ -3189,6 +3459,63 @@ Ersetzen ?</translation>
     </message>
 </context>
 <context>
+    <name>ZARN::LiveBar</name>
+    <message>
+        <source>Pause</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>Report ...</source>
+        <translation>Bericht ...</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>Live</translation>
+    </message>
+    <message>
+        <source>Hold what is shown and look back, while everything is received and recorded on (space)</source>
+        <translation>Die Anzeige anhalten und zurückblicken, während weiter empfangen und aufgezeichnet wird (Leertaste)</translation>
+    </message>
+    <message>
+        <source>Write what was received so far as a flight report</source>
+        <translation>Das bisher Empfangene als Flugbericht schreiben</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>und %n weiteres</numerusform>
+            <numerusform>und %n weitere</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing outside its limits so far while the engine ran</source>
+        <translation>Bisher nichts außerhalb seiner Grenzen, während der Motor lief</translation>
+    </message>
+    <message>
+        <source>Nothing can be told of the engine yet</source>
+        <translation>Über den Motor lässt sich noch nichts sagen</translation>
+    </message>
+    <message>
+        <source>Go on</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>Trennen</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Verbinden</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::LiveController</name>
+    <message>
+        <source>The memory is short: only the last %1 min are kept.</source>
+        <translation>Der Arbeitsspeicher ist knapp: Nur die letzten %1 min werden behalten.</translation>
+    </message>
+</context>
+<context>
     <name>ZARN::LiveRecorder</name>
     <message>
         <source>%1: another program records there</source>
@@ -3205,6 +3532,61 @@ Ersetzen ?</translation>
     <message>
         <source>%1: all numbers of files are used up</source>
         <translation>%1: Alle Dateinummern sind verbraucht</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::LiveText</name>
+    <message>
+        <source>%1: disconnected</source>
+        <translation>%1: getrennt</translation>
+    </message>
+    <message>
+        <source>%1: connected</source>
+        <translation>%1: verbunden</translation>
+    </message>
+    <message>
+        <source>%1: connected, bus %2</source>
+        <translation>%1: verbunden, Bus %2</translation>
+    </message>
+    <message>
+        <source>%1: connection lost, trying again ...</source>
+        <translation>%1: Verbindung verloren, neuer Versuch ...</translation>
+    </message>
+    <message>
+        <source>%1: connecting ...</source>
+        <translation>%1: Verbindung wird aufgebaut ...</translation>
+    </message>
+    <message>
+        <source>%1 frames/s</source>
+        <translation>%1 Telegramme/s</translation>
+    </message>
+    <message>
+        <source>load %1 % of %2 kbit/s</source>
+        <translation>Last %1 % von %2 kbit/s</translation>
+    </message>
+    <message>
+        <source>%1 frames</source>
+        <translation>%1 Telegramme</translation>
+    </message>
+    <message>
+        <source>%1 errors</source>
+        <translation>%1 Fehler</translation>
+    </message>
+    <message>
+        <source>%1 times frames lost</source>
+        <translation>%1-mal Telegramme verloren</translation>
+    </message>
+    <message>
+        <source>%1 frames of other kinds</source>
+        <translation>%1 Telegramme anderer Art</translation>
+    </message>
+    <message>
+        <source>NOT RECORDED: %1</source>
+        <translation>NICHT AUFGEZEICHNET: %1</translation>
+    </message>
+    <message>
+        <source>%1 frames recorded</source>
+        <translation>%1 Telegramme aufgezeichnet</translation>
     </message>
 </context>
 <context>
@@ -3235,6 +3617,12 @@ Ersetzen ?</translation>
     <message>
         <source>The card of this recording is not at hand.</source>
         <translation>Die Karte dieser Aufzeichnung ist nicht zur Hand.</translation>
+    </message>
+    <message>
+        <source>The logbook was damaged.
+%1</source>
+        <translation>Das Logbuch war beschädigt.
+%1</translation>
     </message>
 </context>
 <context>
@@ -3686,6 +4074,14 @@ Ersetzen ?</translation>
         <source>Note:</source>
         <translation>Notiz:</translation>
     </message>
+    <message>
+        <source>Not kept: %1</source>
+        <translation>Nicht behalten: %1</translation>
+    </message>
+    <message>
+        <source>Delete this note?</source>
+        <translation>Diese Notiz löschen?</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::LogbookOptions</name>
@@ -3913,6 +4309,138 @@ Ersetzen ?</translation>
     </message>
 </context>
 <context>
+    <name>ZARN::MapDescription</name>
+    <message>
+        <source>There is no path to show.</source>
+        <translation>Es gibt keinen Weg zu zeigen.</translation>
+    </message>
+    <message>
+        <source>Flight path from %1 to %2.</source>
+        <translation>Flugweg von %1 bis %2.</translation>
+    </message>
+    <message>
+        <source>Aircraft at %1, %2, track %3°.</source>
+        <translation>Flugzeug bei %1, %2, Kurs über Grund %3°.</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::MapMarks</name>
+    <message>
+        <source>Take-off</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Landing</source>
+        <translation>Landung</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::MapOptions</name>
+    <message>
+        <source>Load map tiles from the network</source>
+        <translation>Kartenkacheln aus dem Netz laden</translation>
+    </message>
+    <message>
+        <source>Offline: ask no server, show what is kept</source>
+        <translation>Offline: keinen Server fragen, zeigen, was da ist</translation>
+    </message>
+    <message>
+        <source> MiB</source>
+        <translation> MiB</translation>
+    </message>
+    <message>
+        <source>Map tiles from a server</source>
+        <translation>Kartenkacheln von einem Server</translation>
+    </message>
+    <message>
+        <source>Server :</source>
+        <translation>Server :</translation>
+    </message>
+    <message>
+        <source>Made by :</source>
+        <translation>Hergestellt von :</translation>
+    </message>
+    <message>
+        <source>Highest zoom :</source>
+        <translation>Höchste Zoomstufe :</translation>
+    </message>
+    <message>
+        <source>Shown on the map beside the name of the server</source>
+        <translation>Wird auf der Karte neben dem Namen des Servers gezeigt</translation>
+    </message>
+    <message>
+        <source>Map tiles of this computer</source>
+        <translation>Kartenkacheln dieses Computers</translation>
+    </message>
+    <message>
+        <source>Archive ...</source>
+        <translation>Archiv ...</translation>
+    </message>
+    <message>
+        <source>Folder ...</source>
+        <translation>Ordner ...</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Archive of map tiles</source>
+        <translation>Archiv mit Kartenkacheln</translation>
+    </message>
+    <message>
+        <source>Map tiles (*.mbtiles);;All files (*.*)</source>
+        <translation>Kartenkacheln (*.mbtiles);;Alle Dateien (*.*)</translation>
+    </message>
+    <message>
+        <source>Folder of map tiles</source>
+        <translation>Ordner mit Kartenkacheln</translation>
+    </message>
+    <message>
+        <source>Map tiles that are kept</source>
+        <translation>Aufbewahrte Kartenkacheln</translation>
+    </message>
+    <message>
+        <source>Remove all</source>
+        <translation>Alle entfernen</translation>
+    </message>
+    <message>
+        <source>At most :</source>
+        <translation>Höchstens :</translation>
+    </message>
+    <message>
+        <source>Server: %1. It learns which area is looked at.</source>
+        <translation>Server: %1. Er erfährt, welches Gebiet betrachtet wird.</translation>
+    </message>
+    <message>
+        <source>The setting &quot;TileServer&quot; is no address of map tiles.</source>
+        <translation>Die Einstellung „TileServer“ ist keine Adresse für Kartenkacheln.</translation>
+    </message>
+    <message>
+        <source>None: an archive (MBTiles) or a folder ZOOM/X/Y.png can take the place of the server.</source>
+        <translation>Keine: ein Archiv (MBTiles) oder ein Ordner ZOOM/X/Y.png kann an die Stelle des Servers treten.</translation>
+    </message>
+    <message>
+        <source>%1 are kept.</source>
+        <translation>%1 sind aufbewahrt.</translation>
+    </message>
+    <message>
+        <source>ZARN Warning</source>
+        <translation>ZARN Warnung</translation>
+    </message>
+    <message>
+        <source>These map tiles cannot be shown.</source>
+        <translation>Diese Kartenkacheln können nicht gezeigt werden.</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::MapProfile</name>
+    <message>
+        <source>Altitude of the flight</source>
+        <translation>Höhe des Fluges</translation>
+    </message>
+</context>
+<context>
     <name>ZARN::MapToolPanel</name>
     <message>
         <source>Center AC</source>
@@ -3921,6 +4449,48 @@ Ersetzen ?</translation>
     <message>
         <source>Show values</source>
         <translation>Werte zeigen</translation>
+    </message>
+    <message>
+        <source>Show the altitude below the map</source>
+        <translation>Höhe unter der Karte zeigen</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Vergrößern</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Verkleinern</translation>
+    </message>
+    <message>
+        <source>Show the whole flight</source>
+        <translation>Ganzen Flug zeigen</translation>
+    </message>
+    <message>
+        <source>Colours of the path</source>
+        <translation>Farben des Flugwegs</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::MapValueModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::MapValueTable</name>
+    <message>
+        <source>Values at the view time</source>
+        <translation>Werte zur gezeigten Zeit</translation>
     </message>
 </context>
 <context>
@@ -4126,6 +4696,53 @@ Ersetzen ?</translation>
     </message>
 </context>
 <context>
+    <name>ZARN::PathTinter</name>
+    <message>
+        <source>Altitude</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>Ground speed</source>
+        <translation>Geschwindigkeit über Grund</translation>
+    </message>
+    <message>
+        <source>Phase of flight</source>
+        <translation>Flugphase</translation>
+    </message>
+    <message>
+        <source>One colour</source>
+        <translation>Eine Farbe</translation>
+    </message>
+    <message>
+        <source>Engine off</source>
+        <translation>Motor aus</translation>
+    </message>
+    <message>
+        <source>Ground</source>
+        <translation>Boden</translation>
+    </message>
+    <message>
+        <source>Take-off</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Climb</source>
+        <translation>Steigflug</translation>
+    </message>
+    <message>
+        <source>Level flight</source>
+        <translation>Horizontalflug</translation>
+    </message>
+    <message>
+        <source>Descent</source>
+        <translation>Sinkflug</translation>
+    </message>
+    <message>
+        <source>%1: no values</source>
+        <translation>%1: keine Werte</translation>
+    </message>
+</context>
+<context>
     <name>ZARN::Picture</name>
     <message>
         <source>Graph</source>
@@ -4175,6 +4792,13 @@ Ersetzen ?</translation>
     <message>
         <source>The picture could not be printed.</source>
         <translation>Das Bild konnte nicht gedruckt werden.</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::PointerText</name>
+    <message>
+        <source>%1   %2 km, %3 NM, %4° from the aircraft</source>
+        <translation>%1   %2 km, %3 NM, %4° vom Flugzeug</translation>
     </message>
 </context>
 <context>
@@ -4543,6 +5167,13 @@ Kreuzen Sie im Profilfeld einen Parameter an oder wählen Sie einen anderen Zykl
     </message>
 </context>
 <context>
+    <name>ZARN::StyleWatch</name>
+    <message>
+        <source>Style damaged: the built-in one is in force</source>
+        <translation>Stil beschädigt: der eingebaute gilt</translation>
+    </message>
+</context>
+<context>
     <name>ZARN::TableCopy</name>
     <message>
         <source>Copy</source>
@@ -4740,6 +5371,17 @@ Ein Klick geht zu dem Zeitpunkt, ein Doppelklick zum Graphen.</translation>
         <source>No position recorded</source>
         <translation>Keine Position aufgezeichnet</translation>
     </message>
+    <message>
+        <source>Map tiles: %1</source>
+        <translation>Kartenkacheln: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Loading the map: %n tile(s)</source>
+        <translation>
+            <numerusform>Karte wird geladen: %n Kachel</numerusform>
+            <numerusform>Karte wird geladen: %n Kacheln</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ZARN::WidgetReplayBar</name>
@@ -4750,10 +5392,6 @@ Ein Klick geht zu dem Zeitpunkt, ein Doppelklick zum Graphen.</translation>
     <message>
         <source>Position in the record</source>
         <translation>Stelle in der Aufzeichnung</translation>
-    </message>
-    <message>
-        <source>Time since the unit&apos;s power-up</source>
-        <translation>Zeit seit dem Einschalten des Geräts</translation>
     </message>
     <message>
         <source>Date and time of the view, as the unit recorded it</source>
@@ -4780,8 +5418,8 @@ Ein Klick geht zu dem Zeitpunkt, ein Doppelklick zum Graphen.</translation>
         <translation>Wiedergabe Start</translation>
     </message>
     <message>
-        <source>Time since the unit&apos;s power-up. 15:30 and 1530 are 15 minutes and 30 seconds, 1:15:30 is an hour later.</source>
-        <translation>Zeit seit dem Einschalten des Geräts. 15:30 und 1530 sind 15 Minuten und 30 Sekunden, 1:15:30 ist eine Stunde später.</translation>
+        <source>%1. 15:30 and 1530 are 15 minutes and 30 seconds, 1:15:30 is an hour later.</source>
+        <translation>%1. 15:30 und 1530 sind 15 Minuten und 30 Sekunden, 1:15:30 ist eine Stunde später.</translation>
     </message>
 </context>
 <context>
@@ -4906,13 +5544,6 @@ Ein Klick geht zu dem Zeitpunkt, ein Doppelklick zum Graphen.</translation>
     <message>
         <source>It cannot be read: %1.</source>
         <translation>Sie ist nicht lesbar: %1.</translation>
-    </message>
-</context>
-<context>
-    <name>ZARN::XyPoints</name>
-    <message>
-        <source>Time</source>
-        <translation>Zeit</translation>
     </message>
 </context>
 <context>
