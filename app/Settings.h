@@ -82,7 +82,7 @@ constexpr TextSetting kLogbookDir = {"LogbookDir", "."};
 constexpr TextSetting kLogbookHidden = {"LogbookHidden", ""};
 
 constexpr TextSetting kLiveBus = {"LiveBus", ""};
-constexpr NumberSetting kLiveBitRate = {"LiveBitRate", 0, 0, 8'000'000}; // bits a second; 0: as the system has it
+constexpr NumberSetting kLiveBitRate = {"LiveBitRate", 0, 0, 8000000}; // bits a second; 0: as the system has it
 constexpr TextSetting kLiveFolder = {"LiveFolder", ""};
 constexpr NumberSetting kLiveHours = {"LiveHours", 2, 1, 48};
 
