@@ -14,7 +14,7 @@ class TextTwin : public QObject {
 public:
     using Text = std::function<QString()>;
 
-    /// Gives a widget such a text. Its name stays what it is.
+    /// Gives a widget such a text; first of all, for the toolkit asks but once. Its name stays what it is.
     static void give(QWidget& widget, Text text);
     [[nodiscard]] QString text() const { return mText(); }
 

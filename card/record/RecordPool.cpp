@@ -2,6 +2,7 @@
 
 #include "card/record/MemoryLimit.h"
 
+#include <cerrno>
 #include <cstdlib>
 
 #include <sys/mman.h>
@@ -18,8 +19,11 @@ std::size_t RecordPool::limit() const
 {
     if (mGivenLimit != 0)
         return mGivenLimit;
-    if (mAskedLimit == 0)
+    if (mAskedLimit == 0) {
+        const int error = errno; // who appends what was read may have yet to tell why reading ended
         mAskedLimit = availableMemory() / 4 * 3;
+        errno = error;
+    }
     return mAskedLimit;
 }
 

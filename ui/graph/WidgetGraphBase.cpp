@@ -34,12 +34,12 @@ QString colourName(float red, float green, float blue)
 
 WidgetGraphBase::WidgetGraphBase(QWidget* pParent) : QWidget(pParent), mInteraction(mModel)
 {
+    ZARN::TextTwin::give(*this, [this] { return ZARN::GraphDescription(mModel).text(); });
     setFocusPolicy(Qt::StrongFocus);
     grabGesture(Qt::PinchGesture);
     setMouseTracking(true);
     setMinimumSize(160, 120);
     setAccessibleName(tr("Graph of the selected parameters"));
-    ZARN::TextTwin::give(*this, [this] { return ZARN::GraphDescription(mModel).text(); });
     connectModel();
     mRecalculationTimer.setSingleShot(true);
     mCursorTimer.setSingleShot(true);

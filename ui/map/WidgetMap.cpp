@@ -47,6 +47,7 @@ QByteArray userAgent()
 WidgetMap::WidgetMap(const Session& session, const QString& dataPath, MapContext& context, QWidget* pParent)
     : QWidget(pParent), mSession(session), mContext(context), mNavigator(context), mInteraction(mNavigator, mScene)
 {
+    TextTwin::give(*this, [this] { return MapDescription(mScene).text(); });
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_AcceptTouchEvents);
@@ -69,7 +70,6 @@ WidgetMap::WidgetMap(const Session& session, const QString& dataPath, MapContext
     mpSurface = Surface::create(Surface::EKind::eOpenGl, painting, this);
     mpAttribution = new MapAttribution(this);
     setAccessibleName(tr("Map of the flight"));
-    TextTwin::give(*this, [this] { return MapDescription(mScene).text(); });
     connect(&mInteraction, &MapInteraction::signalMoved, this, [this] {
         setDirty();
         QToolTip::hideText(); // what it told of is moving away

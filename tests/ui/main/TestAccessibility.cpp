@@ -3,6 +3,7 @@
 #include "export/ui/DialogExportKml.h"
 #include "sim/DemoCard.h"
 #include "ui/data/DataTabBar.h"
+#include "ui/data/DataViewList.h"
 #include "ui/graph/DialogGraphSetup.h"
 #include "ui/graph/WidgetGraphES.h"
 #include "ui/live/DialogLive.h"
@@ -139,16 +140,17 @@ void TestAccessibility::everyWindow()
     window.slotLoadCycle(2, -1);
     settled(window);
     faults << unnamed(window);
-    const auto described = [](QWidget* pWidget) { return QAccessible::queryAccessibleInterface(pWidget)->text(QAccessible::Description); };
-    const QString graph = described(window.findChild<WidgetGraphES*>());
-    QVERIFY2(graph.contains(QRegularExpression("From 00:..:.. to .*Cursor at .*Incidents: ")), qPrintable(graph));
-    const QString map = described(window.findChild<WidgetMap*>());
-    QVERIFY2(map.contains(QRegularExpression("Flight path from 00:.*Aircraft at 48\\.\\d{4}° N, 11\\.")), qPrintable(map));
     auto* pTabs = window.findChild<DataTabBar*>();
     for (int tab = 0; tab < pTabs->count(); ++tab) {
         pTabs->setCurrentIndex(tab);
         faults << unreached(window);
     }
+    const auto described = [](QWidget* pWidget) { return QAccessible::queryAccessibleInterface(pWidget)->text(QAccessible::Description); };
+    pTabs->setCurrentIndex(eViewGraph);
+    const QString graph = described(window.findChild<WidgetGraphES*>());
+    QVERIFY2(graph.contains(QRegularExpression("From -?00:..:.. to .*Cursor at .*Incidents: ")), qPrintable(graph));
+    const QString map = described(window.findChild<WidgetMap*>());
+    QVERIFY2(map.contains(QRegularExpression("Flight path from 00:.*Aircraft at 48\\.\\d{4}° N, 11\\.")), qPrintable(map));
     const Session session{desktop.console.console, desktop.property, desktop.profile, desktop.container, desktop.project};
     DialogExportCsv csv(session, &window);
     DialogExportKml kml(session, &window);
