@@ -142,9 +142,10 @@ bool CardContainer::readContainer(const QString& folder)
     QString path = folder;
     while (path.size() > 1 && path.endsWith('/'))
         path.chop(1);
-    const Listing listing(path);
+    Listing listing(path);
     if (listing.openError)
         return false;
+    RecordFormats::keepCard(listing.names, std::identity());
     mPath = path;
     clear();
     mConsole.print("CardContainer::readContainer: Path <%s> NrFiles %d\n", path.toUtf8().constData(),

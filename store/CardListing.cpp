@@ -85,6 +85,7 @@ CardListing listCard(const std::string& path)
     });
     if (error != 0)
         listing.problem = std::strerror(error);
+    RecordFormats::keepCard(listing.files, &ListedFile::name);
     std::ranges::sort(listing.files, {}, &ListedFile::name);
     return listing;
 }

@@ -4,9 +4,12 @@
 
 #include <QStringList>
 
+#include <algorithm>
+#include <functional>
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace ZARN {
 
@@ -26,6 +29,18 @@ public:
     [[nodiscard]] static const RecordFormat* ofName(std::string_view fileName);
     /// The reader of a file; null when its content is of no format that its name tells.
     [[nodiscard]] static std::unique_ptr<RecordReader> reader(const QString& path, const Console& console, Progress& progress);
+    /// Leaves those of a folder's files that can be of one card: beside the unit's own files, one that holds a whole cycle is somebody's notes.
+    template <typename File, typename NameOf> static void keepCard(std::vector<File>& files, NameOf nameOf)
+    {
+        const auto holdsCycle = [&nameOf](bool wanted) {
+            return [&nameOf, wanted](const File& file) {
+                const RecordFormat* pFormat = ofName(std::invoke(nameOf, file));
+                return pFormat && pFormat->holdsCycle == wanted;
+            };
+        };
+        if (std::ranges::any_of(files, holdsCycle(false)))
+            std::erase_if(files, holdsCycle(true));
+    }
     /// "*.CAN" and so on, for the listing of a folder.
     [[nodiscard]] static QStringList patterns();
     /// All of them in one text, for people.
