@@ -110,6 +110,13 @@ void MapScene::setTint(PathTint tint)
     ++mTintGeneration;
 }
 
+bool MapScene::setPointer(const std::optional<QPointF>& place)
+{
+    const bool isOther = mPointer.has_value() != place.has_value() || (place && *mPointer != *place);
+    mPointer = place;
+    return isOther;
+}
+
 bool MapScene::setShown(const std::optional<TimeSpan>& span)
 {
     return std::exchange(mShown, span) != span;

@@ -42,7 +42,7 @@ public:
     /// The part of the path that is shown bright; none for all of it. @return whether it is another one
     bool setShown(const std::optional<TimeSpan>& span);
     /// The place of the window that is pointed at. @return whether anything else is told of it
-    bool setPointer(const std::optional<QPointF>& place) { return std::exchange(mPointer, place) != place; }
+    bool setPointer(const std::optional<QPointF>& place);
     /// A rectangle that is being drawn; none for none.
     void setSelection(const std::optional<QRectF>& area) { mSelection = area; }
     void setAircraft(const FlightPathPoint& point) { mAircraft = point; }
