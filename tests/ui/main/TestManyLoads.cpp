@@ -6,7 +6,7 @@
 
 #include <malloc.h>
 #ifdef __SANITIZE_ADDRESS__
-#include <sanitizer/allocator_interface.h>
+extern "C" size_t __sanitizer_get_current_allocated_bytes(); // its header is not shipped with every compiler
 #endif
 
 using namespace ZARN;
