@@ -147,8 +147,9 @@ void TestAccessibility::everyWindow()
     }
     const auto described = [](QWidget* pWidget) { return QAccessible::queryAccessibleInterface(pWidget)->text(QAccessible::Description); };
     pTabs->setCurrentIndex(eViewGraph);
-    const QString graph = described(window.findChild<WidgetGraphES*>());
-    QVERIFY2(graph.contains(QRegularExpression("From -?00:..:.. to .*Cursor at .*Incidents: ")), qPrintable(graph));
+    auto* pGraph = window.findChild<WidgetGraphES*>(); // what happened is found beside
+    const QRegularExpression graph("From -?00:..:.. to .*Cursor at .*Incidents: ");
+    QTRY_VERIFY_WITH_TIMEOUT(described(pGraph).contains(graph), 30000);
     const QString map = described(window.findChild<WidgetMap*>());
     QVERIFY2(map.contains(QRegularExpression("Flight path from 00:.*Aircraft at 48\\.\\d{4}° N, 11\\.")), qPrintable(map));
     const Session session{desktop.console.console, desktop.property, desktop.profile, desktop.container, desktop.project};
