@@ -1,12 +1,12 @@
 #include "analysis/TableRows.h"
 
+#include "app/FirstNumber.h"
 #include "app/LastOfKey.h"
 
 #include <array>
 #include <bit>
 #include <functional>
 #include <iterator>
-#include <ranges>
 
 namespace ZARN {
 
@@ -149,8 +149,7 @@ std::optional<std::size_t> TableRows::Channel::last(TimeKey key) const
         low -= std::min(step, low);
     for (std::size_t step = 1; high < size && !isAbove(high); step *= 2)
         high += std::min(step, size - high);
-    const auto places = std::views::iota(low, high);
-    found = low + static_cast<std::size_t>(std::ranges::partition_point(places, std::not_fn(isAbove)) - places.begin());
+    found = firstNumber(low, high, isAbove);
     if (found == 0 || keyAt(positionAt(found - 1)) != key)
         return {};
     return positionAt(found - 1);

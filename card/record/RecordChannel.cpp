@@ -1,9 +1,10 @@
 #include "card/record/RecordChannel.h"
 
+#include "app/FirstNumber.h"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <ranges>
 
 namespace ZARN {
 
@@ -34,8 +35,7 @@ template <typename TimeAt> std::size_t lowerBound(std::size_t size, double time,
             high -= step;
         low = std::max(low, high - std::min(step, high));
     }
-    const auto between = std::views::iota(low + 1, high);
-    return low + 1 + static_cast<std::size_t>(std::ranges::lower_bound(between, time, {}, timeAt) - between.begin());
+    return firstNumber(low + 1, high, [&](std::size_t position) { return timeAt(position) >= time; });
 }
 
 } // namespace

@@ -1,12 +1,12 @@
 #include "card/record/RecordFile.h"
 
 #include "app/Console.h"
+#include "app/FirstNumber.h"
 #include "card/record/ByteOrder.h"
 #include "card/record/RecordData.h"
 
 #include <algorithm>
 #include <cerrno>
-#include <ranges>
 
 namespace ZARN {
 
@@ -53,9 +53,8 @@ int32_t percentOf(int32_t record, int32_t count)
 int32_t nextPercent(int32_t record, int32_t count)
 {
     const int32_t first = std::min(record, count - 1) + 1;
-    const auto later = std::views::iota(first, count);
-    const auto found = std::ranges::upper_bound(later, percentOf(record, count), {}, [count](int32_t r) { return percentOf(r, count); });
-    return first + static_cast<int32_t>(found - later.begin());
+    const int32_t percent = percentOf(record, count);
+    return firstNumber(first, count, [=](int32_t later) { return percentOf(later, count) > percent; });
 }
 
 template <bool Swap> StoredRecord parseRecord(const uint8_t* pRecord)
