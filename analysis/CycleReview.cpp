@@ -8,6 +8,9 @@
 #include "card/FlightFigures.h"
 #include "trace/TraceSet.h"
 
+#include <cmath>
+#include <limits>
+
 namespace ZARN {
 
 namespace {
@@ -36,7 +39,7 @@ public:
     /// @param unwatched times that are not watched though the engine ran
     ReviewPass(const CycleValues& values, std::span<const RecordFlight> flights, double endTime,
                const std::vector<TimeSpan>& unwatched = {})
-        : mData(values.data()), mContext(values.context()), mFlights(flights), mEngine(engineRunning(endTime)),
+        : mData(values.data()), mContext(values.context()), mFlights(flights), mEndTime(endTime), mEngine(engineRunning(endTime)),
           mPhases(values, mEngine, flights), mLimitTimes(mEngine, unwatched), mLampTimes(mEngine, withChecks(unwatched))
     {
         for (const RecordFlight& flight : flights)
@@ -100,11 +103,13 @@ private:
     void count(const std::string& name, bool hasSamples);
     void tell();
     [[nodiscard]] std::optional<double> fuel() const;
+    void lookAtParameters();
 
     CycleReview mReview;
     const RecordData& mData;
     const DecodingContext mContext;
     const std::span<const RecordFlight> mFlights;
+    const double mEndTime;
     const EngineRunning mEngine;
     const FlightPhases mPhases;
     const WatchedTimes mLimitTimes;
@@ -136,6 +141,7 @@ void ReviewPass::findStops()
         episode.state = eThresholdWarning;
         episode.start = stretches[i].end;
         episode.end = i + 1 < stretches.size() ? std::min(stretches[i + 1].start, landing) : landing;
+        episode.stateTime = episode.end - episode.start;
         mEpisodes.add(std::move(episode), true);
     }
 }
@@ -238,15 +244,34 @@ void ReviewPass::tell()
     mReview.engine = mEngine;
     mReview.knowsAltitude = mPhases.knowsAltitude();
     const ProfileParameter& groundSpeed = mContext.model().ofZarnType("GroundSpeed");
+    mReview.hasGroundSpeed = !groundSpeed.name.empty();
+    mReview.hasAltitude = !mContext.model().ofZarnType("Altitude").name.empty();
     mReview.knowsFlights = !groundSpeed.name.empty() && mData.channel(groundSpeed.identifier());
     mReview.phases = mPhases.steps();
     for (const RecordFlight& flight : mFlights)
         mReview.flightTime += flight.landingTime - flight.takeOffTime;
     mReview.fuel = fuel();
+    lookAtParameters();
     mEpisodes.sort();
     mReview.standing = std::move(mEpisodes.standing);
     mReview.incidents = joinIncidents(std::move(mEpisodes.watched), mPhases, mFlights);
     mReview.verdict = verdictOn(mReview);
+}
+
+/// What is watched at all, and whose times are damaged: the value at a time is that before the first later sample, so that a damaged time
+/// stands in the way of all that come after it.
+void ReviewPass::lookAtParameters()
+{
+    constexpr double kEver = std::numeric_limits<double>::infinity();
+    const double damaged = std::nextafter(mEndTime > 0.0 ? std::min(mEndTime, kLatestTime) : kLatestTime, kEver);
+    for (const ProfileDevice& device : mContext.model().devices) {
+        for (const ProfileParameter& parameter : device.parameters) {
+            (device.name == kLampGroup ? mReview.hasLamps : mReview.hasLimits) |= device.name == kLampGroup || hasLimits(parameter);
+            const RecordChannel* pChannel = mData.channel(parameter.identifier());
+            if (pChannel && !pChannel->entries.ascending() && !pChannel->rangesIn(damaged, kEver).empty())
+                mReview.damaged.push_back(parameter.name);
+        }
+    }
 }
 
 /// What flowed through both lanes: a flow per hour, each sample for the time since the one before.

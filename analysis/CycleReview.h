@@ -15,6 +15,10 @@ enum class EVerdict { eUnknown, eOk, eWarning, eLimit };
 struct CycleReview {
     EngineRunning engine;
     bool hasEngineSpeed = false; ///< the profile names a parameter for it
+    bool hasAltitude = false;    ///< the same
+    bool hasGroundSpeed = false;
+    bool hasLimits = false; ///< the profile has parameters with limits
+    bool hasLamps = false;  ///< it has warning lamps
     bool knowsAltitude = false;  ///< climb and descent are told from level flight
     bool knowsFlights = false;   ///< flight is told from the ground: a ground speed was recorded
     double flightTime = 0.0;     ///< seconds
@@ -23,6 +27,7 @@ struct CycleReview {
     std::size_t sources = 0;          ///< parameters with limits, lamps and fault bits that the profile has
     std::size_t withSamples = 0;      ///< those of which a sample was watched
     std::vector<std::string> missing; ///< names of the others, in the profile's order
+    std::vector<std::string> damaged; ///< names of those with damaged times between sound ones, in the profile's order
     std::vector<Incident> incidents;  ///< by start
     std::vector<Episode> standing;    ///< by start: outside, but not while the engine ran
     std::vector<FlightPhases::Step> phases;

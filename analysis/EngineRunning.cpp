@@ -3,6 +3,7 @@
 #include "card/record/RecordEntry.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace ZARN {
 
@@ -11,6 +12,7 @@ namespace {
 constexpr double kRuns = 400.0; // revolutions a minute
 constexpr double kStands = 300.0;
 constexpr double kStart = 10.0; // seconds until what is measured of a started engine has settled
+constexpr double kSilent = 10.0; // seconds without a sample of the speed
 constexpr double kStop = 2.0;   // and for which it fell before the stop was seen
 
 } // namespace
@@ -27,7 +29,10 @@ EngineRunning::EngineRunning(const Trace& speed, double endTime) : EngineRunning
     speed.forEachSample([&](double time, double revolutions) {
         if (time > kLatestTime)
             return;
+        if (mIsKnown && time - last > kSilent)
+            mSilences.push_back({last, time});
         mIsKnown = true;
+        mHasNumbers = mHasNumbers || !std::isnan(revolutions);
         last = time;
         if (!isRunning && revolutions > kRuns) {
             isRunning = true;
@@ -39,6 +44,8 @@ EngineRunning::EngineRunning(const Trace& speed, double endTime) : EngineRunning
     });
     if (!mIsKnown)
         return;
+    if (endTime <= kLatestTime && endTime - last > kSilent)
+        mSilences.push_back({last, endTime});
     if (isRunning)
         stretches.back().end = endTime > kLatestTime ? last : std::max(last, endTime);
     mStretches = std::move(stretches);
@@ -58,9 +65,11 @@ void EngineRunning::crop(const TimeSpan& span)
 {
     if (!mIsKnown)
         return;
-    for (TimeSpan& stretch : mStretches)
-        stretch = {std::max(stretch.start, span.start), std::min(stretch.end, span.end)};
-    std::erase_if(mStretches, [](const TimeSpan& stretch) { return stretch.end <= stretch.start; });
+    for (auto* pSpans : {&mStretches, &mSilences}) {
+        for (TimeSpan& own : *pSpans)
+            own = {std::max(own.start, span.start), std::min(own.end, span.end)};
+        std::erase_if(*pSpans, [](const TimeSpan& own) { return own.end <= own.start; });
+    }
 }
 
 std::vector<TimeSpan> EngineRunning::watched() const

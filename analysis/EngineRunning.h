@@ -21,6 +21,10 @@ public:
     /// Each from the sample that started it to that which stopped it, in the order found: overlapping where times go backwards. One
     /// without ends when nothing is known.
     [[nodiscard]] const std::vector<TimeSpan>& stretches() const { return mStretches; }
+    /// Whether any sample of its speed was a number.
+    [[nodiscard]] bool hasNumbers() const { return mHasNumbers; }
+    /// When its speed was not recorded for long, up to the end of the cycle: it counts as what it was before.
+    [[nodiscard]] const std::vector<TimeSpan>& silences() const { return mSilences; }
     /// How long it ran, in seconds; none when that is not known.
     [[nodiscard]] std::optional<double> duration() const;
     /// Forgets what lies outside of a span; nothing where it is not known.
@@ -31,6 +35,8 @@ public:
 
 private:
     bool mIsKnown = false;
+    bool mHasNumbers = false;
+    std::vector<TimeSpan> mSilences;
     std::vector<TimeSpan> mStretches;
 };
 

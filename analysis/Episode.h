@@ -31,6 +31,7 @@ struct Episode {
     int state = 0;    ///< the greatest in it: 1 warning, 2 limit
     double start = 0.0;
     double end = 0.0; ///< of the last sample outside in stored order: before the start where times go backwards
+    double stateTime = 0.0; ///< seconds in that state: outside the limit that is told, of the time between start and end
     ESide side = ESide::eNone;
     std::optional<EpisodePeak> peak; ///< metric; none without a finite value, and of lamps, faults and stops
     double peakTime = 0.0;           ///< the first time of the peak

@@ -62,15 +62,20 @@ private:
             const int bit = std::countr_zero(changed);
             EpisodeExtent& extent = state.bits[static_cast<std::size_t>(bit)];
             if ((word >> bit & 1) == 0) {
-                extent.outside(state.last);
-                extent.inside();
+                extent.outside(state.last, stateOf(bit));
+                extent.inside(time);
                 continue;
             }
             if (extent.isOverAt(time))
                 close(extent, bit, sequence);
-            extent.outside(time);
+            extent.outside(time, stateOf(bit));
         }
         state.word = word;
+    }
+
+    [[nodiscard]] int stateOf(int bit) const
+    {
+        return mMatrix.bits.at(bit).errorType == eErrorFault ? eThresholdLimit : eThresholdWarning;
     }
 
     void close(EpisodeExtent& extent, int bit, int sequence)
@@ -82,7 +87,8 @@ private:
         episode.kind = EEpisodeKind::eFault;
         episode.group = mMatrix.name;
         episode.parameter = fault.name;
-        episode.state = fault.errorType == eErrorFault ? eThresholdLimit : eThresholdWarning;
+        episode.state = extent.state();
+        episode.stateTime = extent.stateTime();
         episode.start = extent.start();
         episode.end = extent.end();
         episode.text = fault.description;

@@ -56,7 +56,7 @@ std::vector<Incident> joinIncidents(std::vector<Episode> episodes, const FlightP
             continue;
         }
         joinedUntil = end;
-        Incident incident{start, episode.end, episode.state, phases.at(start), flightAt.spanAt(start) + 1, 0, {}};
+        Incident incident{start, episode.end, episode.state, phases.at(start), phases.knowsAltitude(), flightAt.spanAt(start) + 1, 0, {}};
         incident.episodes.push_back(std::move(episode));
         incidents.push_back(std::move(incident));
     }

@@ -11,6 +11,7 @@ struct Incident {
     double end = 0.0;
     int state = 0;                              ///< the greatest of its episodes
     EFlightPhase phase = EFlightPhase::eGround; ///< at the start
+    bool knowsAltitude = true;                  ///< else it may have climbed or descended where the phase is level flight
     int flight = 0;                             ///< number, from 1, of the first one that its start lies in; 0: none
     std::size_t leading = 0;                    ///< place of the episode that weighs most
     std::vector<Episode> episodes;              ///< by start; never empty

@@ -76,6 +76,18 @@ double IncidentText::Quantity::duration() const
     return end - start;
 }
 
+double IncidentText::Quantity::stateTime() const
+{
+    std::map<std::string, double> lanes; // both lanes outside at a time are so once
+    const int state = worst().state;
+    double longest = 0.0;
+    for (const Episode* pEpisode : episodes) {
+        if (pEpisode->state == state)
+            longest = std::max(longest, lanes[pEpisode->parameter] += pEpisode->stateTime);
+    }
+    return longest;
+}
+
 std::vector<IncidentText::Quantity> IncidentText::quantities(const std::vector<const Episode*>& episodes)
 {
     std::vector<Quantity> found;
@@ -117,22 +129,23 @@ QString IncidentText::time(double seconds)
 
 QString IncidentText::duration(double seconds)
 {
-    if (seconds < 0.95)
+    constexpr double kRounding = 0.0005; // a sum of steps of a tenth may fall short of the second
+    const int64_t whole = saturatingCast<int64_t>(seconds + kRounding); // cut, as clocks are
+    if (whole < 1)
         return tr("less than 1 s");
-    const int64_t whole = saturatingCast<int64_t>(std::round(seconds));
     if (whole < 60)
         return tr("%1 s").arg(whole);
     return whole < 3600 ? tr("%1 min %2 s").arg(whole / 60).arg(whole % 60) : tr("%1 h %2 min").arg(whole / 3600).arg(whole / 60 % 60);
 }
 
-QString IncidentText::phaseText(EFlightPhase phase)
+QString IncidentText::phaseText(EFlightPhase phase, bool knowsAltitude)
 {
     switch (phase) {
     case EFlightPhase::eOff: return tr("with the engine off");
     case EFlightPhase::eGround: return tr("on the ground");
     case EFlightPhase::eTakeOff: return tr("in take-off");
     case EFlightPhase::eClimb: return tr("in climb");
-    case EFlightPhase::eLevel: return tr("in level flight");
+    case EFlightPhase::eLevel: return knowsAltitude ? tr("in level flight") : tr("in flight");
     case EFlightPhase::eDescent: return tr("in descent");
     }
     return {};
@@ -186,7 +199,11 @@ QString IncidentText::headText(const Quantity& quantity, bool withDuration) cons
     else if (quantity.kind() == EEpisodeKind::eLamp)
         text = restText(quantity);
     const double length = quantity.duration();
-    return withDuration && length > 0 ? tr("%1, for %2").arg(text, duration(length)) : text;
+    if (!withDuration || length <= 0)
+        return text;
+    constexpr double kAlike = 1.5; // seconds
+    const QString whole = duration(length), part = duration(std::min(quantity.stateTime(), length));
+    return length - quantity.stateTime() < kAlike ? tr("%1, for %2").arg(text, whole) : tr("%1, for %2 within %3").arg(text, part, whole);
 }
 
 QString IncidentText::restText(const Quantity& quantity) const
@@ -226,7 +243,7 @@ IncidentSentence IncidentText::sentence(const std::vector<Incident>& incidents, 
     }
     sentence.what = listed(heads, kMostHeads, "; ");
     if (places.size() == 1)
-        sentence.what += (hasDuration ? " " : ", ") + phaseText(first.phase);
+        sentence.what += (hasDuration ? " " : ", ") + phaseText(first.phase, first.knowsAltitude);
     else
         sentence.when = tr("%1 times, %2 to %3").arg(QString::number(places.size()), sentence.time, mTime(sentence.end));
     sentence.with = listed(rest, kMostRest, ", ");

@@ -47,7 +47,7 @@ public:
     /// "9 s", "1 min 5 s" or "1 h 2 min".
     [[nodiscard]] static QString duration(double seconds);
     /// "in climb".
-    [[nodiscard]] static QString phaseText(EFlightPhase phase);
+    [[nodiscard]] static QString phaseText(EFlightPhase phase, bool knowsAltitude = true);
 
 private:
     /// Episodes of one kind that tell of one thing.
@@ -58,6 +58,7 @@ private:
         [[nodiscard]] EEpisodeKind kind() const { return episodes.front()->kind; }
         [[nodiscard]] const Episode& worst() const;
         [[nodiscard]] double duration() const; ///< from the first to the last, in seconds
+        [[nodiscard]] double stateTime() const; ///< seconds of it in the worst state
     };
     [[nodiscard]] static std::vector<Quantity> quantities(const std::vector<const Episode*>& episodes);
     [[nodiscard]] IncidentSentence sentence(const std::vector<Incident>& incidents, const std::vector<std::size_t>& places) const;

@@ -17,10 +17,10 @@ public:
         Sequence& lamp = mSequences[sequence];
         for (std::size_t i = 0; i < part.size(); ++i) {
             const int number = static_cast<int>(part.numbers()[i]);
-            if (number == 0)
-                lamp.extent.inside();
-            else
+            if (number != 0)
                 light(lamp, sequence, part.times()[i], number == eThresholdLimit ? eThresholdLimit : eThresholdWarning, part.position() + i);
+            else if (lamp.extent.isOutside())
+                lamp.extent.inside(part.time(i));
         }
     }
 
@@ -34,21 +34,15 @@ public:
 private:
     struct Sequence {
         EpisodeExtent extent;
-        int state = 0;
-        std::size_t position = 0; // of the first sample of that state
+        std::size_t position = 0; // of the first sample of its greatest state
     };
 
     void light(Sequence& lamp, int sequence, double time, int state, std::size_t position)
     {
         if (lamp.extent.isOverAt(time))
             close(lamp, sequence);
-        if (!lamp.extent.isOpen())
-            lamp.state = 0;
-        lamp.extent.outside(time);
-        if (state > lamp.state) {
-            lamp.state = state;
+        if (lamp.extent.outside(time, state))
             lamp.position = position;
-        }
     }
 
     void close(Sequence& lamp, int sequence)
@@ -60,7 +54,8 @@ private:
         episode.group = mGroup;
         episode.parameter = mTexts.name();
         episode.unit = mTexts.parameter().unitMetric;
-        episode.state = lamp.state;
+        episode.state = lamp.extent.state();
+        episode.stateTime = lamp.extent.stateTime();
         episode.start = lamp.extent.start();
         episode.end = lamp.extent.end();
         mTexts.decoder().appendText(mTexts.number(lamp.position), episode.text);

@@ -50,7 +50,8 @@ void LimitScan::walk(int number, const WatchedPart& part)
     Sequence& sequence = mSequences[number];
     const std::span<const double> numbers = part.numbers();
     if (allInside(numbers)) { // nearly always
-        sequence.extent.inside();
+        if (sequence.extent.isOutside())
+            sequence.extent.inside(part.time(0));
         sequence.isEmpty = false;
         return;
     }
@@ -62,7 +63,7 @@ void LimitScan::walk(int number, const WatchedPart& part)
         if (isOutside(*mpBand))
             outside(sequence, number, times[i], value, part.position() + i);
         else
-            sequence.extent.inside();
+            sequence.extent.inside(times[i]);
         sequence.isEmpty = false;
     }
 }
@@ -71,19 +72,15 @@ void LimitScan::outside(Sequence& sequence, int number, double time, double valu
 {
     if (sequence.extent.isOverAt(time))
         close(sequence, number);
-    if (!sequence.extent.isOpen()) {
+    if (!sequence.extent.isOpen())
         sequence.isFromFirst = sequence.isEmpty;
-        sequence.state = eThresholdOk;
-    }
-    sequence.extent.outside(time);
     const int state = mpBand->pThreshold->state;
-    if (state > sequence.state) {
-        sequence.state = state;
+    if (sequence.extent.outside(time, state)) {
         sequence.position = position;
         sequence.side = sideOf(value);
         sequence.hasPeak = false;
     }
-    if (state == sequence.state && std::isfinite(value))
+    if (state == sequence.extent.state() && std::isfinite(value))
         takePeak(sequence, time, value, position);
 }
 
@@ -113,7 +110,8 @@ void LimitScan::close(Sequence& sequence, int number)
     episode.group = mGroup;
     episode.parameter = mTexts.name();
     episode.unit = mTexts.parameter().unitMetric;
-    episode.state = sequence.state;
+    episode.state = sequence.extent.state();
+    episode.stateTime = sequence.extent.stateTime();
     episode.start = sequence.extent.start();
     episode.end = sequence.extent.end();
     episode.side = sequence.side;
@@ -168,11 +166,11 @@ double LimitScan::limitOf(const Sequence& sequence) const
 {
     std::size_t band = bandOf(sequence.peak);
     if (sequence.side == ESide::eHigh) {
-        while (band > 0 && mThresholds[band - 1].state == sequence.state)
+        while (band > 0 && mThresholds[band - 1].state == sequence.extent.state())
             --band;
         return mThresholds[band].value;
     }
-    while (band + 1 < mThresholds.size() && mThresholds[band].state == sequence.state)
+    while (band + 1 < mThresholds.size() && mThresholds[band].state == sequence.extent.state())
         ++band;
     return mThresholds[band].value;
 }

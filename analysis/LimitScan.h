@@ -29,8 +29,7 @@ private:
         bool isEmpty = true;
         EpisodeExtent extent;
         bool isFromFirst = false; // the episode began with the first sample of the sequence
-        int state = 0;            // the greatest of the episode, and of its samples:
-        std::size_t position = 0; // the first one,
+        std::size_t position = 0; // of the samples of the greatest state: the first one,
         ESide side = ESide::eNone;
         bool hasPeak = false; // and the worst that is finite
         double peak = 0.0;

@@ -1,7 +1,5 @@
 #include "analysis/ReviewText.h"
 
-#include "analysis/IncidentText.h"
-
 namespace ZARN {
 
 QString ReviewText::verdict() const
@@ -21,22 +19,49 @@ QStringList ReviewText::gaps() const
     const bool hasNoTimes = mReview.engine.isKnown() && mReview.withSamples == 0;
     if (mReview.sources == 0)
         gaps << tr("The profile has no limits, lamps or faults to watch.");
-    else if (hasNoTimes && mReview.engine.duration().value_or(0.0) > 0.0)
+    else if (hasNoTimes && !mReview.engine.hasNumbers())
+        gaps << tr("Whether the engine ran is unknown, for its recorded speed is no number: nothing was watched.");
+    else if (hasNoTimes && !mReview.engine.stretches().empty())
         gaps << tr("Nothing was recorded while the engine ran: nothing was watched.");
     else if (hasNoTimes)
         gaps << tr("The engine did not run: nothing was watched.");
     else if (mReview.withSamples == 0)
         gaps << tr("None of the watched parameters was recorded.");
+    if (mReview.sources > 0 && !mReview.hasLimits)
+        gaps << tr("The profile has no limits: values outside of any are not seen.");
+    if (mReview.sources > 0 && !mReview.hasLamps)
+        gaps << tr("The profile has no warning lamps: none is watched.");
     const bool isWatched = mReview.withSamples > 0;
     if (isWatched && !mReview.hasEngineSpeed)
         gaps << tr("Whether the engine ran is unknown, for the profile names no engine speed: starts and stops count as well.");
     else if (isWatched && !mReview.engine.isKnown())
         gaps << tr("Whether the engine ran is unknown, for its speed was not recorded: starts and stops count as well.");
-    if (isWatched && !mReview.knowsFlights)
+    if (isWatched && !mReview.hasGroundSpeed)
+        gaps << tr("Flights are unknown, for the profile names no ground speed: all counts as on the ground.");
+    else if (isWatched && !mReview.knowsFlights)
         gaps << tr("Flights are unknown, for no ground speed was recorded: all counts as on the ground.");
-    if (!mReview.knowsAltitude)
+    if (!mReview.engine.silences().empty())
+        gaps << tr("The engine speed was not recorded %1: what the engine did then is unknown, and it counts as doing what it did before.")
+                    .arg(silences());
+    if (!mReview.damaged.empty()) {
+        QStringList names;
+        for (const std::string& name : mReview.damaged)
+            names << QString::fromStdString(name);
+        gaps << tr("Times of %1 are damaged, some lie behind the end of the record: their values at a time may stand still.").arg(some(names));
+    }
+    if (!mReview.hasAltitude)
+        gaps << tr("Climb and descent are unknown, for the profile names no altitude.");
+    else if (!mReview.knowsAltitude)
         gaps << tr("Climb and descent are unknown, for no altitude was recorded.");
     return gaps;
+}
+
+QString ReviewText::silences() const
+{
+    QStringList spans;
+    for (const TimeSpan& span : mReview.engine.silences())
+        spans << tr("from %1 to %2").arg(mTime(span.start), mTime(span.end));
+    return some(spans);
 }
 
 QString ReviewText::some(const QStringList& names, qsizetype most)
@@ -68,7 +93,7 @@ QString ReviewText::standing(qsizetype most) const
 QString ReviewText::engineRunning() const
 {
     const std::optional<double> duration = mReview.engine.duration();
-    return duration ? IncidentText::duration(*duration) : tr("unknown");
+    return duration && mReview.engine.hasNumbers() ? IncidentText::duration(*duration) : tr("unknown");
 }
 
 } // namespace ZARN

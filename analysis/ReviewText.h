@@ -1,6 +1,7 @@
 #pragma once
 
 #include "analysis/CycleReview.h"
+#include "analysis/IncidentText.h"
 
 #include <QCoreApplication>
 #include <QStringList>
@@ -12,7 +13,11 @@ class ReviewText {
     Q_DECLARE_TR_FUNCTIONS(ZARN::ReviewText)
 
 public:
-    explicit ReviewText(const CycleReview& review) : mReview(review) {}
+    /// @param timeText of a time since power-up
+    explicit ReviewText(const CycleReview& review, IncidentText::TimeText timeText = IncidentText::time)
+        : mReview(review), mTime(std::move(timeText))
+    {
+    }
 
     /// The verdict in a few words.
     [[nodiscard]] QString verdict() const;
@@ -27,9 +32,11 @@ public:
 
 private:
     static constexpr qsizetype kNames = 4;
+    [[nodiscard]] QString silences() const;
     [[nodiscard]] static QString some(const QStringList& names, qsizetype most = kNames);
 
     const CycleReview& mReview;
+    IncidentText::TimeText mTime;
 };
 
 } // namespace ZARN

@@ -54,7 +54,7 @@ void appendHead(std::vector<std::string>& lines, const ReviewedCycle& reviewed)
     const std::optional<double>& fuel = reviewed.review.fuel;
     appendWrapped(lines, "  ",
                   "Engine ran: " + text.engineRunning() + "; fuel: " +
-                      (fuel ? QString::fromStdString(tableNumber(*fuel, 1)) + " l" : QString("unknown")) + "; " + text.watched());
+                      (fuel && *fuel >= 0.0 ? QString::fromStdString(tableNumber(*fuel, 1)) + " l" : QString("unknown")) + "; " + text.watched());
 }
 
 /// With the words that follow it.
@@ -64,15 +64,21 @@ std::string figure(const RecordFlight& flight, EFlightFigure figure, int decimal
     return (value ? tableNumber(*value, decimals) : "-") + then;
 }
 
+std::string climbText(const RecordFlight& flight)
+{
+    if (!flightFigure(flight, eFigureTotalClimb))
+        return "climb unknown";
+    return "climb " + figure(flight, eFigureTotalClimb, 0, " m at ") + figure(flight, eFigureClimbRate, 1, " m/s");
+}
+
 void appendFlights(std::vector<std::string>& lines, const std::vector<RecordFlight>& flights)
 {
     constexpr std::size_t kMost = 4;
     for (std::size_t i = 0; i < std::min(kMost, flights.size()); ++i) {
         const RecordFlight& flight = flights[i];
         lines.push_back("  Flight " + std::to_string(i + 1) + ": take-off " + IncidentText::time(flight.takeOffTime).toStdString() + ", " +
-                        IncidentText::duration(flight.landingTime - flight.takeOffTime).toStdString() + ", climb " +
-                        figure(flight, eFigureTotalClimb, 0, " m at ") + figure(flight, eFigureClimbRate, 1, " m/s, fuel ") +
-                        figure(flight, eFigureTotalFuel, 1, " l"));
+                        IncidentText::duration(flight.landingTime - flight.takeOffTime).toStdString() + ", " + climbText(flight) + ", fuel " +
+                        (flightFigure(flight, eFigureTotalFuel) ? figure(flight, eFigureTotalFuel, 1, " l") : "unknown"));
     }
     if (flights.size() > kMost)
         lines.push_back("  and " + std::to_string(flights.size() - kMost) + " more flights");

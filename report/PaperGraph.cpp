@@ -53,11 +53,12 @@ void PaperGraph::compare()
 
 void PaperGraph::addGhost(int slot, const ProfileParameter& parameter, const TimeSpan& samples)
 {
-    const double shift = mSubject.comparison.shift;
+    const auto& [pCycle, shift] = mSubject.comparison;
     const auto pTrace =
-        TraceSet::one(*mSubject.comparison.pCycle->loaded.pRecord, mLoaded.context, parameter, ENumber::eDisplay, mGhostFilter);
+        TraceSet::one(*pCycle->loaded.pRecord, mLoaded.context, parameter, ENumber::eDisplay, mGhostFilter);
     describeSlot(mpGhost->traces, slot, *pTrace);
-    fillSlot(mpGhost->traces, slot, *pTrace, samples.start - shift, samples.end - shift);
+    fillSlot(mpGhost->traces, slot, *pTrace, std::max(samples.start - shift, pCycle->part.start),
+             std::min(samples.end - shift, pCycle->part.end));
     const ValueRange<double> values = mpGhost->traces.at(slot)->samples.extremes();
     mModel.traces().edit(slot, [&values](GraphParameter& own) { own.ghostValues = values; });
 }

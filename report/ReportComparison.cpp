@@ -35,8 +35,8 @@ void ReportComparison::addTo(ReportDocument& document, const ReportSubject& subj
         return;
     const auto& [pCycle, shift] = subject.comparison;
     const TimeReference times = subject.reference();
-    const double start = std::max(subject.loaded.startTime, pCycle->loaded.wholeStart + shift);
-    const double end = std::min(subject.loaded.endTime, pCycle->loaded.wholeEnd + shift);
+    const double start = std::max(subject.loaded.startTime, std::max(pCycle->loaded.wholeStart, pCycle->part.start) + shift);
+    const double end = std::min(subject.loaded.endTime, std::min(pCycle->loaded.wholeEnd, pCycle->part.end) + shift);
     document.add(ReportHeading{tr("Compared with %1").arg(reportText(pCycle->name.toStdString()))});
     if (!(start < end))
         return document.add(ReportParagraph{tr("As the two are laid on each other they have no time in common.")});

@@ -1,6 +1,7 @@
 #include "app/gui/Application.h"
 
 #include "app/Console.h"
+#include "app/gui/PasteGuard.h"
 
 #include <QMessageBox>
 
@@ -14,7 +15,10 @@ constexpr std::size_t kReserve = std::size_t(4) * 1024 * 1024;
 
 } // namespace
 
-Application::Application(int& argc, char** argv) : QApplication(argc, argv), mReserve(kReserve) {}
+Application::Application(int& argc, char** argv) : QApplication(argc, argv), mReserve(kReserve)
+{
+    installEventFilter(new PasteGuard(this));
+}
 
 bool Application::notify(QObject* pReceiver, QEvent* pEvent)
 {

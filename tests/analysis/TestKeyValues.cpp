@@ -1,4 +1,4 @@
-#include "analysis/CycleReview.h"
+#include "analysis/ReviewText.h"
 #include "support/CardBuilder.h"
 #include "support/ProfileBuilder.h"
 #include "support/TestCycle.h"
@@ -103,6 +103,34 @@ private Q_SLOTS:
         QCOMPARE(review.keyValues.values.size(), samples.size());
         for (const KeyValue& value : review.keyValues.values)
             QCOMPARE(text(value.values), text(literally(samples.at({value.source, value.flight, value.phase}))));
+    }
+
+    /// Ten seconds outside, six of them beyond the limit; an engine speed that is not sent for a while and ends early; a damaged time.
+    void toPeople()
+    {
+        TestCycle cycle;
+        ProfileBuilder builder;
+        builder.thresholds("T", {{0, "OK", "green"}, {80, "WARNING", "yellow"}, {90, "LIMIT", "red"}}).device("D");
+        builder.parameter("rpm", 1, "FLOAT", {{"zarnDataType", "EngineSpeed"}}).parameter("t", 2, "FLOAT", {{"thresholdId", "T"}});
+        QVERIFY(builder.load(cycle.profile));
+        CardBuilder card;
+        RecordFileBuilder& file = card.file("A.CAN");
+        for (int i = 0; i < 1200; ++i) {
+            const double time = i * 0.1;
+            if (i < 1000 && (i < 400 || i >= 700))
+                file.addFloat(1, time, 5000);
+            file.addFloat(2, time, i < 200 || i >= 300 ? 50 : i >= 220 && i < 280 ? 95 : 85);
+            if (i == 600)
+                file.addFloat(2, 3e6, 50).addFloat(1, 3e6, 5000);
+        }
+        QVERIFY(cycle.container.readContainer(card.write()) && cycle.container.loadCycle(cycle.container.recordCycles().begin()->first, -1));
+        const CycleReview review = reviewCycle(cycle.container.values(), {}, 119.9);
+        const auto sentences = IncidentText(QLocale::c()).sentences(review.incidents);
+        QCOMPARE(sentences.size(), std::size_t(1));
+        QCOMPARE(sentences.front().what, QString("t 95.0, limit 90, for 6 s within 9 s on the ground"));
+        QCOMPARE(review.damaged, (std::vector<std::string>{"rpm", "t"}));
+        const QString gaps = ReviewText(review).gaps().join(' ');
+        QVERIFY2(gaps.contains("from 0:39 to 1:10, from 1:39 to 1:59"), qPrintable(gaps));
     }
 };
 

@@ -15,7 +15,8 @@ import unittest
 import xml.etree.ElementTree as ElementTree
 
 LUPDATE, ROOT = sys.argv[1:3]
-FOLDERS = ['analysis', 'app', 'card', 'profile', 'ui', 'export', 'report', 'openstreet', 'store']
+with open(os.path.join(ROOT, 'cmake', 'Translations.cmake'), encoding='utf-8') as cmake:
+    FOLDERS = re.search(r'-recursive (.*?) -ts', cmake.read()).group(1).split()
 MARK = re.compile(r'%(?:\d|n)|\(\*[^)]*\)|</?\w+')
 
 
@@ -37,6 +38,14 @@ class TestTranslations(unittest.TestCase):
         folder = os.path.join(ROOT, 'resources', 'translations')
         self.files = [os.path.join(folder, name) for name in sorted(os.listdir(folder)) if name.endswith('.ts')]
         self.assertTrue(self.files, 'no .ts file')
+
+    def test_folders(self):
+        texts = re.compile(r'\btr\("|QT_TRANSLATE_NOOP\(')
+        for folder in sorted(set(os.listdir(ROOT)) - {'build', 'tests', 'bench', 'fuzz', *FOLDERS}):
+            for place, _, names in os.walk(os.path.join(ROOT, folder)):
+                for name in (name for name in names if name.endswith('.cpp')):
+                    with open(os.path.join(place, name), encoding='utf-8') as file:
+                        self.assertIsNone(texts.search(file.read()), f'{place}/{name}: its folder is not translated')
 
     def test_complete(self):
         for ts in self.files:

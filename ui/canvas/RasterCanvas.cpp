@@ -2,6 +2,7 @@
 
 #include "ui/canvas/CanvasFont.h"
 
+#include <QPaintEngine>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -196,15 +197,24 @@ void RasterCanvas::text(const QPointF& position, const QString& text, const Canv
     ready().save();
     mPainter.setFont(font(style));
     mPainter.setPen(style.colour);
-    const QPointF origin = textOrigin(position, text, style);
-    if (style.upwards) {
-        mPainter.translate(origin);
+    mPainter.translate(textOrigin(position, text, style));
+    if (style.upwards)
         mPainter.rotate(-90);
-        mPainter.drawText(QPointF(0, canvasAscent(style.size)), text);
-    } else {
-        mPainter.drawText(origin + QPointF(0, canvasAscent(style.size)), text);
-    }
+    const QPointF start(0, canvasAscent(style.size));
+    if (mPainter.paintEngine()->type() == QPaintEngine::SVG)
+        drawOutlines(start, text, style);
+    else
+        mPainter.drawText(start, text);
     mPainter.restore();
+}
+
+/// A file that names the font would be shown in another, wider one: it is the program's own.
+void RasterCanvas::drawOutlines(const QPointF& start, const QString& text, const CanvasText& style)
+{
+    QPainterPath outlines;
+    outlines.addText(start, font(style), text);
+    mPainter.setRenderHint(QPainter::Antialiasing);
+    mPainter.fillPath(outlines, style.colour);
 }
 
 void RasterCanvas::image(const QRectF& target, const QImage& image)

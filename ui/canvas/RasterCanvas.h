@@ -39,6 +39,7 @@ protected:
 private:
     class Scope;
     void drawStrip(std::span<const QPointF> points);
+    void drawOutlines(const QPointF& start, const QString& text, const CanvasText& style);
 };
 
 } // namespace ZARN

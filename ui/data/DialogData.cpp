@@ -223,7 +223,7 @@ void DialogData::showMoment(const GraphMoment& moment)
 {
     mpTabs->setCurrentIndex(eViewGraph);
     mLinks[eViewGraph]->update(); // what it shows already stays
-    mViews.view(eViewGraph).showSpan(moment.span, moment.parameters);
+    mViews.view(eViewGraph).showMoment(moment);
     mRecord.setTime(moment.time);
 }
 

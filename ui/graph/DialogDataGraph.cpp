@@ -122,17 +122,15 @@ void DialogDataGraph::showUnshown()
 {
     const QStringList& names = mRecord.unshown();
     mpUnshown->setVisible(!names.isEmpty());
-    const QString all =
-        tr("The graph has room for %1 parameters. Not shown: %2").arg(RecordGraph::kSlots).arg(names.join(QLatin1String(", ")));
+    const QString why = mRecord.isCrowded() ? tr("Only what was asked for is shown; choosing a layout shows the rest again.")
+                                            : tr("The graph has room for %1 parameters.").arg(RecordGraph::kSlots);
+    const QString all = tr("%1 Not shown: %2").arg(why, names.join(QLatin1String(", ")));
     const auto line = [&names](qsizetype count) { return names.mid(0, count).join(QLatin1String(", ")); };
     qsizetype told = names.size();
     while (told > 1 && line(told).size() > kMostTold)
         --told;
     mpUnshown->setText(told == names.size() ? all
-                                            : tr("The graph has room for %1 parameters. Not shown: %2 and %n more", nullptr,
-                                                 static_cast<int>(names.size() - told))
-                                                  .arg(RecordGraph::kSlots)
-                                                  .arg(line(told)));
+                                            : tr("%1 Not shown: %2 and %n more", nullptr, static_cast<int>(names.size() - told)).arg(why, line(told)));
     mpUnshown->setToolTip(all);
     mpUnshown->setAccessibleDescription(all);
 }
@@ -225,7 +223,7 @@ void DialogDataGraph::slotIncident(std::size_t incident)
     if (!pCourse || incident >= pCourse->incidents.size())
         return;
     const GraphMoment& moment = pCourse->incidents[incident].moment;
-    showSpan(moment.span, moment.parameters);
+    showMoment(moment);
     mRecord.showTime(moment.time);
     Q_EMIT signalTime(moment.time);
 }
@@ -235,10 +233,10 @@ void DialogDataGraph::setZarnMode(int mode)
     mRecord.setZarnMode(mode);
 }
 
-void DialogDataGraph::showSpan(const TimeSpan& span, const std::set<std::string>& parameters)
+void DialogDataGraph::showMoment(const GraphMoment& moment)
 {
     mHistory.begin();
-    mRecord.showSpan(span, parameters);
+    mRecord.showMoment(moment);
     showUnshown();
     updateSetup();
 }

@@ -43,7 +43,7 @@ public:
     [[nodiscard]] std::optional<TimeSpan> shownSpan() const override;
     [[nodiscard]] bool hasLeft(double time) const override;
     [[nodiscard]] std::optional<TimeSpan> markedSpan() const override;
-    void showSpan(const TimeSpan& span, const std::set<std::string>& parameters) override;
+    void showMoment(const GraphMoment& moment) override;
     void setFound(const std::vector<TimeSpan>& spans) override;
     void setLayout(const DisplayLayout& layout) override;
     [[nodiscard]] std::optional<DisplayLayout> layout() const override { return mRecord.layout(); }

@@ -49,7 +49,7 @@ void GhostMenu::addFlights()
             continue;
         const QString name = tr("Flight %1").arg(flight);
         addAction(name, this, [this, flight, name] {
-            mGraph.ghost().set(std::make_shared<const GhostCycle>(mSession.container.loaded().withFlight(0), name), flight);
+            mGraph.ghost().set(std::make_shared<const GhostCycle>(mSession.container.loaded().withFlight(0), name, flight), flight);
         });
     }
 }

@@ -98,6 +98,7 @@ void LayoutController::slotChosen(const QString& name)
 void LayoutController::slotTicks(const DisplayLayout& layout)
 {
     tick(layout);
+    setCurrent(layout.name); // else what is saved next would go to the one that was chosen in between
     Q_EMIT signalChosen();
     update();
 }

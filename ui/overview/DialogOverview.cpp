@@ -131,8 +131,13 @@ QString DialogOverview::cardText() const
 {
     QStringList parts{mSession.container.name()};
     const auto& files = mSession.container.recordFiles();
+    const auto& problems = mSession.container.problems();
+    const auto isSound = [&problems](const auto& file) {
+        return std::ranges::none_of(problems, [&file](const CardProblem& problem) { return problem.file == file.first; });
+    };
     if (!files.empty()) {
-        const RecordInfo& newest = files.rbegin()->second;
+        const auto sound = std::find_if(files.rbegin(), files.rend(), isSound); // a damaged one may name any engine
+        const RecordInfo& newest = sound != files.rend() ? sound->second : files.rbegin()->second;
         const QString type = QString::fromStdString(newest.engineType).simplified(), serial = QString::fromStdString(newest.engineSerial).simplified();
         if (!type.isEmpty())
             parts.append(type);

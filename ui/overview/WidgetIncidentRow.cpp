@@ -82,6 +82,16 @@ void WidgetIncidentRow::paintEvent(QPaintEvent* /*pEvent*/)
     painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), kRadius, kRadius);
 }
 
+bool WidgetIncidentRow::event(QEvent* pEvent)
+{
+    // The window opens a card by the same key.
+    if (pEvent->type() == QEvent::ShortcutOverride && static_cast<QKeyEvent*>(pEvent)->matches(QKeySequence::Copy)) {
+        pEvent->accept();
+        return true;
+    }
+    return QAbstractButton::event(pEvent);
+}
+
 void WidgetIncidentRow::keyPressEvent(QKeyEvent* pEvent)
 {
     if (pEvent->matches(QKeySequence::Copy))

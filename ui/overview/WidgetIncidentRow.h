@@ -22,6 +22,7 @@ Q_SIGNALS:
 
 protected:
     void paintEvent(QPaintEvent* pEvent) override;
+    bool event(QEvent* pEvent) override;
     void keyPressEvent(QKeyEvent* pEvent) override;
     void enterEvent(QEnterEvent* pEvent) override;
     void leaveEvent(QEvent* pEvent) override;

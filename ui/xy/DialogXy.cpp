@@ -16,6 +16,7 @@
 #include <QLocale>
 #include <QMenu>
 #include <QMessageBox>
+#include <QShortcut>
 
 #include <utility>
 
@@ -33,6 +34,7 @@ DialogXy::DialogXy(const Session& session, RecordSession& record, QWidget* pPare
 {
     setWindowTitle(tr("X against Y"));
     resize(kFirstSize);
+    new QShortcut(QKeySequence(Qt::Key_Escape), this, this, &QWidget::close);
     const auto paint = [this](Canvas& canvas, const QSize& size, bool forPaper) {
         mpView->paintOn(canvas, size, forPaper ? Palette::print() : Palette::screen());
     };

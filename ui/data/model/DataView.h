@@ -5,10 +5,10 @@
 #include "card/NormalBand.h"
 #include "project/DisplayLayout.h"
 #include "ui/data/model/Comparison.h"
+#include "ui/data/model/GraphMoment.h"
 
 #include <functional>
 #include <optional>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -85,8 +85,8 @@ public:
     [[nodiscard]] virtual std::optional<TimeSpan> markedSpan() const { return {}; }
     /// Takes whom to ask for the part of the record that another view shows, for a view that tells it apart.
     virtual void followSpan(std::function<std::optional<TimeSpan>()> /*span*/) {}
-    /// Shows that part of the record, and the parameters of these names whether they are ticked or not.
-    virtual void showSpan(const TimeSpan& /*span*/, const std::set<std::string>& /*parameters*/) {}
+    /// Shows its part of the record, and its parameters whether they are ticked or not; who asks sets the time.
+    virtual void showMoment(const GraphMoment& /*moment*/) {}
     /// Marks these parts of the record, in order of time, for a view that can.
     virtual void setFound(const std::vector<TimeSpan>& /*spans*/) {}
     /// Shows what is ticked as a layout tells, for a view that can.

@@ -25,4 +25,10 @@ GhostCycle::GhostCycle(LoadedCard card, QString text)
         takeOffs.push_back(flight.takeOffTime);
 }
 
+GhostCycle::GhostCycle(LoadedCard card, QString text, int flight) : GhostCycle(std::move(card), std::move(text))
+{
+    const RecordFlight& shown = loaded.flights.at(static_cast<std::size_t>(flight - 1));
+    part = {shown.startTime, shown.endTime};
+}
+
 } // namespace ZARN

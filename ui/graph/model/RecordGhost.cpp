@@ -18,7 +18,7 @@ void RecordGhost::fill(bool isWanted)
     const auto slots = static_cast<int>(mModel.traces().all().size());
     for (int slot = 0; slot < slots; ++slot)
         setValues(slot, {});
-    if (!mpCycle || !mIsWanted)
+    if (!mpCycle || !mIsWanted || isItself())
         return mModel.scenery().setGhost(nullptr);
     auto pGhost = std::make_shared<Ghost>();
     pGhost->name = mpCycle->name;
@@ -26,7 +26,7 @@ void RecordGhost::fill(bool isWanted)
     pGhost->traces.setCount(slots);
     mForEach(mpCycle->loaded.pRecord.get(), [&](int slot, const Trace& trace) {
         describeSlot(pGhost->traces, slot, trace);
-        fillSlot(pGhost->traces, slot, trace);
+        fillSlot(pGhost->traces, slot, trace, mpCycle->part.start, mpCycle->part.end);
         setValues(slot, pGhost->traces.at(slot)->samples.extremes());
     });
     mModel.scenery().setGhost(std::move(pGhost));
@@ -35,26 +35,42 @@ void RecordGhost::fill(bool isWanted)
 void RecordGhost::set(std::shared_ptr<const GhostCycle> pCycle, int flight)
 {
     mpCycle = std::move(pCycle);
+    mFlight.reset();
     mModel.scenery().setGhostShift(0.0);
     fill(mIsWanted);
-    mFlight.reset();
     if (mpCycle && !alignTakeOff(flight))
         alignEngineStart();
 }
 
-std::optional<double> RecordGhost::takeOff() const
+std::optional<double> RecordGhost::takeOff(std::size_t ghostFlight) const
 {
     const RecordCycle* pCycle = mSession.container.loadedCycle();
     if (!pCycle || pCycle->flights.empty())
         return {};
-    return mSession.container.selectedFlightNumber() > 0 ? mSession.container.selectedFlight().takeOffTime : pCycle->flights.front().takeOffTime;
+    if (mSession.container.selectedFlightNumber() > 0)
+        return mSession.container.selectedFlight().takeOffTime;
+    // A flight of this very record is not laid on itself.
+    const bool isItself = ghostFlight == 0 && pCycle->flights.size() > 1 && isOwnFlight();
+    return pCycle->flights[isItself ? 1 : 0].takeOffTime;
+}
+
+/// A flight of the record that is now the one in front.
+bool RecordGhost::isItself() const
+{
+    const int selected = mSession.container.selectedFlightNumber();
+    return selected > 0 && mFlight == selected && isOwnFlight();
+}
+
+bool RecordGhost::isOwnFlight() const
+{
+    return mpCycle->part != GhostCycle::kAll && mpCycle->loaded.pRecord == mSession.container.loaded().pRecord;
 }
 
 bool RecordGhost::alignTakeOff(int flight)
 {
-    const std::optional<double> own = takeOff();
     const auto place = static_cast<std::size_t>(std::max(flight, 1) - 1);
-    if (!mpCycle || !own || place >= mpCycle->takeOffs.size())
+    const std::optional<double> own = mpCycle ? takeOff(place) : std::nullopt;
+    if (!own || place >= mpCycle->takeOffs.size())
         return false;
     mModel.scenery().setGhostShift(*own - mpCycle->takeOffs[place]);
     mFlight = flight;
@@ -73,7 +89,7 @@ bool RecordGhost::alignEngineStart()
 
 void RecordGhost::follow()
 {
-    if (mFlight && takeOff() != mTakeOff)
+    if (mpCycle && mFlight && takeOff(static_cast<std::size_t>(std::max(*mFlight, 1) - 1)) != mTakeOff)
         alignTakeOff(*mFlight);
 }
 

@@ -41,8 +41,11 @@ public:
     void follow();
 
 private:
-    /// Of the selected flight, or the first.
-    [[nodiscard]] std::optional<double> takeOff() const;
+    /// Of the selected flight, or the first that the ghost's flight, counted from 0, can be laid behind.
+    [[nodiscard]] std::optional<double> takeOff(std::size_t ghostFlight) const;
+
+    [[nodiscard]] bool isItself() const;
+    [[nodiscard]] bool isOwnFlight() const;
 
     const Session mSession;
     GraphModel& mModel;

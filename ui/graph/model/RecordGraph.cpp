@@ -42,7 +42,8 @@ template <typename Visitor> int RecordGraph::forEachTrace(const RecordData* pRec
     });
     const auto isBeside = [this](const auto& pTrace) { return mBeside.contains(pTrace->name()); };
     // What was asked for last has its place before what was ticked.
-    int ticked = kSlots - static_cast<int>(std::ranges::count_if(traces.traces(), isBeside)), used = 0;
+    const auto asked = static_cast<int>(std::ranges::count_if(traces.traces(), isBeside));
+    int ticked = isCrowded() ? 0 : kSlots - asked, used = 0;
     for (const auto& pTrace : traces.traces()) {
         if (used < kSlots && (isBeside(pTrace) || ticked-- > 0))
             visit(used++, *pTrace);
@@ -189,7 +190,7 @@ bool RecordGraph::showView(const GraphView& from, const GraphView& to)
             std::ranges::transform(view.layout.parameters, std::inserter(all, all.end()), &DisplayLayout::Parameter::name);
             return all;
         };
-        areOthers = names(from) != names(to);
+        areOthers = from.layout.name != to.layout.name || names(from) != names(to);
     }
     if (from.mode != to.mode)
         mModel.settings().graphMode = to.mode;
@@ -211,6 +212,7 @@ DisplayLayout RecordGraph::layout() const
         }
     }
     DisplayLayout layout;
+    layout.name = Settings::kGraphLayout.text(mSession.property);
     for (const int place : StripOrder(mStrips).slotsFor(ticked)) {
         const QString& text = ticked[static_cast<std::size_t>(place)];
         const std::string name = text.toStdString();
@@ -358,25 +360,27 @@ std::optional<TimeSpan> RecordGraph::shownSpan() const
     return hasSamples() ? std::optional(TimeSpan{window.begin(), window.end()}) : std::nullopt;
 }
 
-void RecordGraph::showSpan(const TimeSpan& span, std::set<std::string> beside)
+void RecordGraph::showMoment(const GraphMoment& moment)
 {
     if (!mpRecord)
         return;
-    mBeside = std::move(beside);
+    const TimeSpan& span = moment.span;
+    mBeside = moment.parameters;
+    mLeading = moment.leading;
     describeSlots();
     fillRecord();
     mModel.setWindow({span.end > 0 ? std::max(span.start, 0.0) : span.start, span.end}); // nothing is recorded before
     highlightAsked();
 }
 
-/// In a single graph the trace that stands out is the one whose bands are seen; of several none is meant before the others.
+/// In a single graph the trace that stands out is the one whose bands are seen.
 void RecordGraph::highlightAsked()
 {
     ShownTraces& traces = mModel.traces();
     if (mBeside.empty())
         return;
-    const auto isAsked = [&](int slot) { return traces.at(slot)->name.toStdString() == *mBeside.begin(); };
-    const auto asked = mBeside.size() == 1 ? std::ranges::find_if(traces.shown(), isAsked) : traces.shown().end();
+    const auto isAsked = [&](int slot) { return traces.at(slot)->name.toStdString() == mLeading; };
+    const auto asked = std::ranges::find_if(traces.shown(), isAsked);
     if (asked == traces.shown().end())
         traces.togglePin(-1);
     else if (traces.highlighted() != *asked)

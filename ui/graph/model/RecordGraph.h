@@ -3,6 +3,7 @@
 #include "analysis/TimeSpan.h"
 #include "project/DisplayLayout.h"
 #include "project/Session.h"
+#include "ui/data/model/GraphMoment.h"
 #include "ui/graph/model/GraphHistory.h"
 #include "ui/graph/model/GraphModel.h"
 #include "ui/graph/model/GraphSettings.h"
@@ -58,6 +59,8 @@ public:
     bool showView(const GraphView& from, const GraphView& to);
     /// What is ticked and has no slot.
     [[nodiscard]] const QStringList& unshown() const { return mUnshown; }
+    /// Much was asked for besides what is ticked: the strips of both would be too low to be read, and what is ticked is left out.
+    [[nodiscard]] bool isCrowded() const { return mBeside.size() > kCrowd; }
 
     /// What it is compared with.
     [[nodiscard]] RecordGhost& ghost() { return mGhost; }
@@ -70,7 +73,7 @@ public:
 
     void zoomAll();
     /// Shows a part of the record, with parameters of these names beside the ticked ones until another record is shown, or none.
-    void showSpan(const TimeSpan& span, std::set<std::string> beside);
+    void showMoment(const GraphMoment& moment);
     /// Gives the window a width, and what was in sight stays there.
     void setRange(float seconds);
     /// Puts the cursor there, and the window around it.
@@ -105,6 +108,8 @@ private:
     ColourNumbers mColours;
     std::map<std::string, double> mHeights; ///< of strips, by the name of the parameter; of those that differ
     QStringList mUnshown;
+    static constexpr std::size_t kCrowd = 8;
+    std::string mLeading; ///< of these, the one that stands out
     std::set<std::string> mBeside; ///< names of parameters that are shown without being ticked
     RecordGhost mGhost;
     RecordData* mpRecord = nullptr;

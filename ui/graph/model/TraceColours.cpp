@@ -54,6 +54,13 @@ std::vector<int> ColourNumbers::assign(const std::vector<QString>& names)
             before.erase(found);
         }
     }
+    for (const auto& [name, number] : before)
+        mEarlier.insert_or_assign(name, number);
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        const auto earlier = mEarlier.find(names[i]);
+        if (numbers[i] < 0 && earlier != mEarlier.end() && !taken.contains(earlier->second))
+            taken.insert(numbers[i] = earlier->second);
+    }
     for (std::size_t i = 0; i < names.size(); ++i) {
         int number = numbers[i] >= 0 ? numbers[i] : static_cast<int>(i);
         if (numbers[i] < 0 && taken.contains(number)) {

@@ -29,7 +29,8 @@ public:
     std::vector<int> assign(const std::vector<QString>& names);
 
 private:
-    std::multimap<QString, int> mNumbers;
+    std::multimap<QString, int> mNumbers; // of those shown last
+    std::map<QString, int> mEarlier;      // of others, for when they come back
 };
 
 /// What a trace is drawn in: the colour that the user chose as it is, any other one such that it can be told from the ground.

@@ -74,7 +74,7 @@ std::vector<OverviewTexts::Figure> OverviewTexts::figures(const CycleOverview& c
     };
     const CycleReview& review = cycle.review;
     const bool isReviewed = cycle.problem.isEmpty();
-    const std::optional<double> engine = isReviewed ? review.engine.duration() : std::nullopt;
+    const std::optional<double> engine = isReviewed && review.engine.hasNumbers() ? review.engine.duration() : std::nullopt;
     const bool flew = isReviewed && !cycle.flights.empty();
     return {{hours(cycle.endTime - cycle.startTime), tr("recorded [h]")},
             {engine ? hours(*engine) : kNone, tr("engine ran [h]")},
@@ -111,7 +111,7 @@ QString OverviewTexts::basis(const CycleOverview& cycle)
 {
     if (!cycle.problem.isEmpty())
         return cycle.problem;
-    const ReviewText text(cycle.review);
+    const ReviewText text(cycle.review, [&cycle](double seconds) { return cycle.times.shortText(seconds); });
     QStringList lines = cycle.damages;
     lines.append(text.gaps());
     if (cycle.review.sources > 0)
