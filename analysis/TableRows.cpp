@@ -7,6 +7,7 @@
 #include <bit>
 #include <functional>
 #include <iterator>
+#include <utility>
 
 namespace ZARN {
 
@@ -96,8 +97,20 @@ void TableRows::collectKeys()
 void TableRows::sortKeys(TimeKey first, TimeKey last)
 {
     std::vector<uint64_t> bits((last.tenths - first.tenths) / 64 + 1);
-    for (const Channel& channel : mChannels)
-        channel.forEachKey([&](TimeKey key) { bits[(key.tenths - first.tenths) / 64] |= uint64_t{1} << (key.tenths - first.tenths) % 64; });
+    for (const Channel& channel : mChannels) {
+        // Neighbours share a word: to write it for each of them would wait for the one before.
+        uint32_t word = 0;
+        uint64_t gathered = 0;
+        channel.forEachKey([&](TimeKey key) {
+            const uint32_t place = key.tenths - first.tenths;
+            if (place / 64 != word) {
+                bits[word] |= std::exchange(gathered, 0);
+                word = place / 64;
+            }
+            gathered |= uint64_t{1} << place % 64;
+        });
+        bits[word] |= gathered;
+    }
     std::size_t count = 0;
     for (const uint64_t word : bits)
         count += static_cast<std::size_t>(std::popcount(word));

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/StyleHandler.h"
+#include "app/gui/Appearance.h"
 #include "ui/gl/GraphicsCheck.h"
 
 #include <QApplication>
@@ -19,6 +21,16 @@ inline void startApplication()
     QSurfaceFormat::setDefaultFormat(GraphicsCheck::surfaceFormat());
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
     [[maybe_unused]] static QApplication* pApplication = new QApplication(count, arguments); // outlives all static objects
+}
+
+/// The program's style sheet as it is in force at first.
+inline QString styleSheet()
+{
+    Appearance appearance;
+    appearance.apply(EAppearance::eLight);
+    StyleHandler style;
+    style.setShared(appearance.variables());
+    return style.readStyle(ZARN_SOURCE_DIR "/resources/styles/style.ZARN.css") + "\nQWidget {font-size: 12px;}";
 }
 
 /// The application that a window with OpenGL needs; null where there is no display.

@@ -2,7 +2,6 @@
 #include "app/Console.h"
 #include "app/Progress.h"
 #include "app/Property.h"
-#include "app/StyleHandler.h"
 #include "bench/BenchApplication.h"
 #include "card/CardContainer.h"
 #include "profile/Profile.h"
@@ -44,9 +43,8 @@ struct OverviewCard {
 void open(benchmark::State& state)
 {
     OverviewCard card;
-    StyleHandler style;
     DialogOverview overview({card.console, card.property, card.profile, card.container, card.project});
-    overview.setStyleSheet(style.readStyle(ZARN_SOURCE_DIR "/resources/styles/style.ZARN.css") + "\nQWidget {font-size: 12px;}");
+    overview.setStyleSheet(styleSheet());
     overview.resize(kSize);
     overview.show();
     QApplication::processEvents();

@@ -1,4 +1,3 @@
-#include "app/StyleHandler.h"
 #include "app/gui/ImageHandler.h"
 #include "bench/BenchWindow.h"
 
@@ -51,8 +50,7 @@ void replay(benchmark::State& state)
 {
     startApplication();
     ImageHandler::initialise();
-    StyleHandler style;
-    qApp->setStyleSheet(style.readStyle(":/styles/style.ZARN.css"));
+    qApp->setStyleSheet(styleSheet());
     BenchWindow window(DemoCardOptions().hours, kFlightCycle);
     window.record.setRecord();
     window.pArea->findChild<QTabBar*>()->setCurrentIndex(static_cast<int>(state.range(0)));

@@ -273,7 +273,7 @@ void CardContainer::select(const RecordFlight& flight, bool isFlight)
     mStartTime = flight.startTime;
     mEndTime = flight.endTime;
     mFlightIsSelected = isFlight;
-    calcFlightPath();
+    updatePath();
 }
 
 std::shared_ptr<RecordData> CardContainer::makeRecord() const
@@ -305,7 +305,7 @@ void CardContainer::loadFiles(const std::list<QString>& files)
         mLoadError = encodeFileName(name()) + ": not enough memory for its records";
     }
     joinProblems();
-    calcFlightPath();
+    updatePath();
     mWhole = {};
     mWhole.dateTime = mDateTime;
     mWhole.startTime = mStartTime;
@@ -385,6 +385,13 @@ void CardContainer::calcFlights(RecordCycle& cycle)
 void CardContainer::calcFlightStatistic(RecordFlight& flight)
 {
     ZARN::calcFlightStatistic(values(), flight);
+}
+
+void CardContainer::updatePath()
+{
+    mFlightPath.clear();
+    if (mIsPathWanted)
+        calcFlightPath();
 }
 
 void CardContainer::calcFlightPath()

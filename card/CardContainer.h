@@ -59,6 +59,9 @@ public:
     /// Who is told of the progress of reading from now on, and may cancel it; what is held then is worth nothing.
     void setProgress(Progress& progress) { mpProgress = &progress; }
 
+    /// Whether loading works out the flight path as well, at first it does: a good part of the time, which many have no use for.
+    void setPathWanted(bool wanted) { mIsPathWanted = wanted; }
+
     /// Goes over to what comes in from a bus: one power cycle without files, with a record that never changes itself but is replaced by
     /// longer ones. Ends with the next card that is read. @param powerUp the wall clock at time 0
     void beginLive(const QDateTime& powerUp, std::shared_ptr<RecordData> pRecord);
@@ -113,6 +116,7 @@ public:
     /// The values of the loaded data as they are decoded now.
     [[nodiscard]] CycleValues values() const { return {*mpData, mContext, mIndexEnd}; }
     [[nodiscard]] const std::vector<FlightPathPoint>& flightPath() const { return mFlightPath.points(); }
+    [[nodiscard]] const FlightPath& wholeFlightPath() const { return mFlightPath; } ///< the same with its unit
     /// The selected flight; the span of the whole cycle when none is selected.
     [[nodiscard]] const RecordFlight& selectedFlight() const { return mSelectedFlight; }
     /// The number of the selected flight, from 1; 0 when none is.
@@ -152,6 +156,7 @@ private:
     void joinProblems();
     /// A flight of the loaded cycle, or the span of all that was loaded.
     void select(const RecordFlight& flight, bool isFlight);
+    void updatePath();
 
     /// Room for records beside those that are still there.
     [[nodiscard]] std::shared_ptr<RecordData> makeRecord() const;
@@ -159,6 +164,7 @@ private:
     const Console& mConsole;
     const DecodingContext& mContext;
     Progress* mpProgress;
+    bool mIsPathWanted = true;
 };
 
 } // namespace ZARN

@@ -14,54 +14,53 @@ namespace {
 constexpr double kSmallestValue = 0.00001; // exact zeros are a receiver without a fix
 constexpr double kSmallestDegrees = 0.0001;
 
-/// What a pass that builds a path reads.
+/// What a pass that builds a path reads, and the samples of the series that it is at: one memory for all of them.
 struct Source {
     const RecordData& data;
     const DecodingContext& context;
     CoordinateFilter filter;
+    std::vector<Sample> samples;
 };
 
-std::vector<Sample> collect(Source& source, const char* key)
+void collect(Source& source, const char* key)
 {
-    std::vector<Sample> samples;
+    source.samples.clear();
     const auto pTrace =
         TraceSet::one(source.data, source.context, source.context.model().ofZarnType(key), ENumber::eDisplay, source.filter, kLatestTime);
     if (!pTrace->decoder().isNumeric())
-        return samples;
-    samples.reserve(pTrace->size());
-    pTrace->forEachSample([&samples](double time, double value) {
+        return;
+    source.samples.reserve(pTrace->size());
+    pTrace->forEachSample([&samples = source.samples](double time, double value) {
         if (time <= kLatestTime && std::fabs(value) > kSmallestValue)
             samples.push_back({time, value});
     });
-    return samples;
 }
 
-/// One of the path's series at every grid point.
-class PathSeries {
-public:
-    PathSeries(Source& source, const char* key) : mSamples(collect(source, key)), mGrid(FlightPath::kStep, mSamples)
-    {
-        if (mSamples.size() == 1)
-            mLast = mSamples.front().value;
-    }
-    PathSeries(const PathSeries&) = delete; // the grid refers to the samples
-    PathSeries& operator=(const PathSeries&) = delete;
+/// The points that there are keep what they have; further ones go on as the last.
+void lengthen(std::vector<FlightPathPoint>& points, std::size_t length)
+{
+    const std::size_t before = points.size();
+    points.resize(std::max(before, length), points.empty() ? FlightPathPoint{} : points.back());
+    for (std::size_t i = before; i < points.size(); ++i)
+        points[i].time = static_cast<double>(i) * FlightPath::kStep;
+}
 
-    /// Grid points of its own; a single sample stands for one.
-    [[nodiscard]] std::size_t size() const { return mSamples.size() == 1 ? 1 : mGrid.size(); }
-    /// A series that has ended holds its last value; an empty one gives 0.
-    double value(std::size_t point)
-    {
-        if (point < mGrid.size())
-            mLast = mGrid.value(point);
-        return mLast;
+/// Puts one of the path's series into its points. A series that has ended holds its last value; an empty one gives 0.
+/// @param isPlace whether the path is as long as that series at least, of which a single sample stands for one point
+void put(Source& source, const char* key, double FlightPathPoint::*member, bool isPlace, std::vector<FlightPathPoint>& points)
+{
+    collect(source, key);
+    GridSeries grid(FlightPath::kStep, source.samples);
+    const bool isSingle = source.samples.size() == 1;
+    if (isPlace)
+        lengthen(points, isSingle ? 1 : grid.size());
+    double last = isSingle ? source.samples.front().value : 0.0;
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        if (i < grid.size())
+            last = grid.value(i);
+        points[i].*member = last;
     }
-
-private:
-    std::vector<Sample> mSamples;
-    GridSeries mGrid;
-    double mLast = 0.0;
-};
+}
 
 bool isFix(double degrees)
 {
@@ -73,22 +72,16 @@ bool isFix(double degrees)
 void FlightPath::build(const RecordData& data, const DecodingContext& context)
 {
     clear();
-    Source source{data, context, {}};
-    // Each evaluated in this order: positions pass a filter with a memory.
-    PathSeries latitude(source, "Latitude");
-    PathSeries longitude(source, "Longitude");
-    PathSeries altitude(source, "Altitude");
-    PathSeries groundSpeed(source, "GroundSpeed");
-    PathSeries track(source, "Track");
-    const std::size_t length = std::max(latitude.size(), longitude.size());
+    mUnit = context.unit();
+    Source source{data, context, {}, {}};
     std::vector<FlightPathPoint> points;
-    points.reserve(length); // not by doubling: the points of three weeks are many
-    for (std::size_t i = 0; i < length; ++i) {
-        const FlightPathPoint point{static_cast<double>(i) * kStep, latitude.value(i),    longitude.value(i),
-                                    altitude.value(i),              groundSpeed.value(i), track.value(i)};
-        if (isFix(point.latitude) && isFix(point.longitude))
-            points.push_back(point);
-    }
+    // Each evaluated in this order: positions pass a filter with a memory.
+    put(source, "Latitude", &FlightPathPoint::latitude, true, points);
+    put(source, "Longitude", &FlightPathPoint::longitude, true, points);
+    put(source, "Altitude", &FlightPathPoint::altitude, false, points);
+    put(source, "GroundSpeed", &FlightPathPoint::groundSpeed, false, points);
+    put(source, "Track", &FlightPathPoint::track, false, points);
+    std::erase_if(points, [](const FlightPathPoint& point) { return !isFix(point.latitude) || !isFix(point.longitude); });
     mpPoints = std::make_shared<const std::vector<FlightPathPoint>>(std::move(points));
 }
 

@@ -31,11 +31,14 @@ public:
     void clear() { mpPoints = std::make_shared<std::vector<FlightPathPoint>>(); }
 
     [[nodiscard]] const std::vector<FlightPathPoint>& points() const { return *mpPoints; }
+    /// That of the altitudes and speeds, which is not the one in force until the path has been built anew.
+    [[nodiscard]] EUnit unit() const { return mUnit; }
     /// For whoever works on them while another path is built.
     [[nodiscard]] std::shared_ptr<const std::vector<FlightPathPoint>> shared() const { return mpPoints; }
 
 private:
     std::shared_ptr<const std::vector<FlightPathPoint>> mpPoints = std::make_shared<std::vector<FlightPathPoint>>();
+    EUnit mUnit = EUnit::eMetric;
 };
 
 } // namespace ZARN

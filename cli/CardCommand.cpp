@@ -83,6 +83,7 @@ std::string loadProfileFile(Profile& profile, const std::string& file, const std
 CardCommand::CardCommand(CLI::App& program, const char* name, const char* description, const char* example, ECards cards)
     : Command(program, name, description, example), mProfile(console()), mContainer(console(), mProfile.context(), nullProgress())
 {
+    mContainer.setPathWanted(false); // but for the few that tell of it
     if (cards == eManyCards)
         options().addAll("CARD", mCards, "card folders, or logs of a CAN bus");
     else

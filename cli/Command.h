@@ -23,6 +23,8 @@ public:
     /// Also tells what the core says while it works.
     void setVerbose() { mVerbose = true; }
     [[nodiscard]] bool isVerbose() const { return mVerbose; }
+    /// All arguments of the call, for who hands it on.
+    void setCall(const std::vector<std::string>& arguments) { mCall = arguments; }
     /// @return the process's exit status; a failure has been said on standard error.
     virtual int run() = 0;
 
@@ -35,6 +37,7 @@ public:
 
 protected:
     CommandOptions& options() { return mOptions; }
+    [[nodiscard]] const std::vector<std::string>& call() const { return mCall; }
     [[nodiscard]] bool isGiven(const char* option) const { return mOptions.isGiven(option); }
     void addJson() { mOptions.addFlag("--json", mJson, "one JSON object instead of tables for people"); }
     /// Where the core's diagnostics go: to standard error when they are wanted.
@@ -46,6 +49,7 @@ private:
     void diagnose(std::string_view text) const;
 
     CommandOptions mOptions;
+    std::vector<std::string> mCall;
     bool mVerbose = false;
     Console mConsole;
 };

@@ -8,6 +8,7 @@ CommandGpx::CommandGpx(CLI::App& program)
     : DataCommand(program, "gpx", "export the flight path as a GPX track, altitudes in metres",
                   "zarn-cli gpx /media/card --flight 1 -o flight.gpx")
 {
+    mContainer.setPathWanted(true);
     addOutput();
     options().addFlag("--track-per-flight", mTrackPerFlight, "one track a flight (default: one of the whole cycle)");
 }

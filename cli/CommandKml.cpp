@@ -39,6 +39,8 @@ int CommandKml::runOnData()
     KmlExportOptions kml;
     kml.read(settings);
     kml.span = flightSpan();
+    if (kml.track)
+        mContainer.calcFlightPath();
     ExportKml exporter(console(), mProfile, mProfile.selection(), cycle().dateTime);
     const LoadedCard loaded = mContainer.loaded();
     exporter.setTracksOf(loaded);

@@ -9,6 +9,7 @@ namespace ZARN {
 CommandPath::CommandPath(CLI::App& program)
     : DataCommand(program, "path", "print the flight path, a point every half second", "zarn-cli path /media/card --flight 1 --json")
 {
+    mContainer.setPathWanted(true);
     addJson();
 }
 

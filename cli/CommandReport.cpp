@@ -19,6 +19,7 @@ constexpr std::size_t kLeastMemory = std::size_t(56) << 20; // bytes; the librar
 CommandReport::CommandReport(CLI::App& program)
     : DataCommand(program, "report", "write a flight report as PDF or HTML", "zarn-cli report /media/card --flight 1 -o flight.pdf")
 {
+    mContainer.setPathWanted(true);
     addOutput();
     options().add("--format", mFormat, "pdf or html (default: that of the file's suffix, else pdf)", CommandOptions::eOptional,
                   CommandOptions::oneOf({"pdf", "html"}));

@@ -1,24 +1,7 @@
 #include "cli/Program.h"
 
 #include "app/Revision.h"
-#include "cli/CommandCandump.h"
-#include "cli/CommandCsv.h"
-#include "cli/CommandEvents.h"
-#include "cli/CommandFaults.h"
-#include "cli/CommandFlights.h"
-#include "cli/CommandGpx.h"
-#include "cli/CommandIds.h"
-#include "cli/CommandInfo.h"
-#include "cli/CommandKml.h"
-#include "cli/CommandLive.h"
-#include "cli/CommandPath.h"
-#include "cli/CommandProfile.h"
-#include "cli/CommandReport.h"
-#include "cli/CommandScan.h"
-#include "cli/CommandSimulate.h"
-#include "cli/CommandSummary.h"
-#include "cli/CommandTrend.h"
-#include "cli/CommandValue.h"
+#include "cli/Command.h"
 #include "cli/Completion.h"
 #include "cli/Operands.h"
 #include "cli/Suggestion.h"
@@ -40,25 +23,16 @@ constexpr const char* kHelp = "help";
 constexpr const char* kComplete = "--complete"; // for shells only, and so in no help
 constexpr const char* kSeeHelp = " (see zarn-cli --help)";
 
-template <typename... Commands> std::vector<std::unique_ptr<Command>> makeCommands(CLI::App& program)
-{
-    std::vector<std::unique_ptr<Command>> commands;
-    (commands.push_back(std::make_unique<Commands>(program)), ...);
-    return commands;
-}
-
 } // namespace
 
-Program::Program(std::vector<std::string> arguments)
+Program::Program(std::vector<std::string> arguments, const MakeCommands& makeCommands)
     : mArguments(std::move(arguments)),
       mpApp(std::make_unique<CLI::App>("Decodes what an engine management unit recorded: card folders to values, tables and files.",
                                        "zarn-cli"))
 {
     mpApp->set_version_flag("--version", Revision::getRevisionString());
     mpApp->add_flag("--verbose", mVerbose, "tell on standard error what is done");
-    mCommands = makeCommands<CommandInfo, CommandIds, CommandFlights, CommandEvents, CommandFaults, CommandPath, CommandValue, CommandCsv,
-                             CommandKml, CommandGpx, CommandCandump, CommandReport, CommandSummary, CommandScan, CommandTrend, CommandLive,
-                             CommandProfile, CommandSimulate>(*mpApp);
+    mCommands = makeCommands(*mpApp);
     mpApp->footer("Example: zarn-cli csv /media/card -o flight.csv");
     mpApp->require_subcommand(1);
 }
@@ -103,6 +77,7 @@ int Program::runSubcommand()
         (*chosen)->setVerbose();
     if (!(*chosen)->isVerbose())
         qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+    (*chosen)->setCall(mArguments);
     return (*chosen)->run();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -17,8 +18,11 @@ class Command;
 /// what is wrong with one.
 class Program {
 public:
+    /// Declares the subcommands, whose options refer to the app.
+    using MakeCommands = std::function<std::vector<std::unique_ptr<Command>>(CLI::App&)>;
+
     /// @param arguments of the call, behind the program's name
-    explicit Program(std::vector<std::string> arguments);
+    Program(std::vector<std::string> arguments, const MakeCommands& makeCommands);
     ~Program();
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
@@ -38,7 +42,7 @@ private:
     const std::vector<std::string> mArguments;
     bool mVerbose = false;
     std::unique_ptr<CLI::App> mpApp;
-    std::vector<std::unique_ptr<Command>> mCommands; // their options refer to the app
+    std::vector<std::unique_ptr<Command>> mCommands;
 };
 
 } // namespace ZARN

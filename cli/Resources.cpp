@@ -24,6 +24,11 @@ std::filesystem::path executable()
 
 } // namespace
 
+std::string programFolder()
+{
+    return executable().parent_path().string();
+}
+
 std::string resourceFolder()
 {
     return (executable().parent_path().parent_path() / "Resources").string();

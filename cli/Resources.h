@@ -4,6 +4,9 @@
 
 namespace ZARN {
 
+/// Where the executable lies, links followed.
+std::string programFolder();
+
 /// The folder of what the program ships, beside that of the executable.
 std::string resourceFolder();
 

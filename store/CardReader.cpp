@@ -47,6 +47,7 @@ CardFacts CardReader::read(CardListing listing, std::string& failure)
     card.listing = std::move(listing);
     card.cycleOfFile.resize(card.listing.files.size());
     CardContainer container(mConsole, mContext, mProgress);
+    container.setPathWanted(false);
     if (!container.readContainer(decodeFileName(card.listing.path))) {
         const std::string& reason = card.listing.problem;
         card.problems.push_back({{}, reason.empty() ? tr("the folder cannot be listed") : QString::fromStdString(reason), true});

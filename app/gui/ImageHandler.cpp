@@ -7,6 +7,8 @@
 #include <QPainter>
 #include <QSvgRenderer>
 
+#include <memory>
+
 namespace {
 
 constexpr qreal kDisabledOpacity = 0.35;
@@ -21,12 +23,15 @@ public:
     {
         const ZARN::Palette& palette = ZARN::Palette::screen();
         const QColor colour = mode == QIcon::Selected ? palette.onAccent : mColour.isValid() ? mColour : palette.icon;
-        QSvgRenderer renderer(QByteArray(mDrawing).replace("currentColor", colour.name().toLatin1()));
+        if (!mpRenderer || mDrawnColour != colour) { // reading the drawing costs as much as painting it
+            mDrawnColour = colour;
+            mpRenderer = std::make_shared<QSvgRenderer>(QByteArray(mDrawing).replace("currentColor", colour.name().toLatin1()));
+        }
         pPainter->save();
         pPainter->setRenderHint(QPainter::Antialiasing);
         if (mode == QIcon::Disabled)
             pPainter->setOpacity(pPainter->opacity() * kDisabledOpacity);
-        renderer.render(pPainter, rect);
+        mpRenderer->render(pPainter, rect);
         pPainter->restore();
     }
 
@@ -44,6 +49,8 @@ public:
 private:
     QByteArray mDrawing;
     QColor mColour;
+    std::shared_ptr<QSvgRenderer> mpRenderer; // of the drawing in that colour
+    QColor mDrawnColour;
 };
 
 } // namespace

@@ -12,7 +12,7 @@ foreach(pair 16:16x16 32:16x16@2x 32:32x32 64:32x32@2x 128:128x128 256:128x128@2
 endforeach()
 add_custom_command(OUTPUT "${icon}" COMMAND iconutil --convert icns --output "${icon}" "${iconset}" VERBATIM)
 add_custom_target(icon ALL DEPENDS "${icon}")
-add_dependencies(zarn icon zarn-cli translations)
+add_dependencies(zarn icon zarn-cli zarn-cli-live translations)
 
 set_target_properties(zarn PROPERTIES
   MACOSX_BUNDLE ON
@@ -30,7 +30,7 @@ add_custom_command(TARGET zarn POST_BUILD
   COMMAND ${CMAKE_COMMAND} -E copy_directory "${ZARN_RESOURCES}/map" "$<TARGET_BUNDLE_CONTENT_DIR:zarn>/Resources/map"
   COMMAND ${CMAKE_COMMAND} -E copy_directory "${PROJECT_SOURCE_DIR}/resources/licences" "$<TARGET_BUNDLE_CONTENT_DIR:zarn>/Resources/licences"
   COMMAND ${CMAKE_COMMAND} -E copy "${icon}" ${translations} "$<TARGET_BUNDLE_CONTENT_DIR:zarn>/Resources"
-  COMMAND ${CMAKE_COMMAND} -E copy "$<TARGET_FILE:zarn-cli>" "$<TARGET_BUNDLE_CONTENT_DIR:zarn>/MacOS"
+  COMMAND ${CMAKE_COMMAND} -E copy "$<TARGET_FILE:zarn-cli>" "$<TARGET_FILE:zarn-cli-live>" "$<TARGET_BUNDLE_CONTENT_DIR:zarn>/MacOS"
   VERBATIM)
 install(TARGETS zarn BUNDLE DESTINATION .)
 

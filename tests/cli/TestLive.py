@@ -7,6 +7,7 @@
 import json
 import os
 import resource
+import shutil
 import signal
 import socket
 import subprocess
@@ -165,6 +166,10 @@ class Live(unittest.TestCase):
         for arguments, reason in ((['can0'], 'must be PLUGIN:INTERFACE'), (['nothing:can0'], 'virtualcan'),
                                   (['socketcan:can0', '--replay', self.folder.name], 'holds no record file')):
             self.assertIn(reason, run('live', *arguments, status=1))
+        alone = shutil.copy(CLI, self.folder.name)  # without what does the work
+        done = subprocess.run([alone, 'live', 'virtualcan:can0'], capture_output=True, text=True)
+        self.assertEqual(1, done.returncode)
+        self.assertIn('/zarn-cli-live: No such file', done.stderr)
         self.assertIn('only with --replay', run('live', 'virtualcan:can0', '--speed', '2', status=2))
         card = self.folder.name + '/card'
         run('simulate', card)

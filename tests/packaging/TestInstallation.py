@@ -72,7 +72,7 @@ class TestInstallation(unittest.TestCase):
                         ['xmllint', '--noout', '--nonet', f'{share}/mime/packages/{ID}.xml'],
                         ['node', SOURCE + '/packaging/check-sbom.js', share + '/doc/zarn/zarn.cdx.json'],
                         [SOURCE + '/packaging/licences.py'],
-                        [SOURCE + '/packaging/check-hardening', '--linked', self.prefix + '/bin/zarn', self.cli]):
+                        [SOURCE + '/packaging/check-hardening', '--linked', self.prefix + '/bin/zarn', self.cli, self.prefix + '/lib/zarn/bin/zarn-cli-live']):
             done = run(*command, env=modules)
             self.assertEqual(done.returncode, 0, f'{command}: {done.stdout}{done.stderr}')
 

@@ -37,8 +37,8 @@ DataTabBar::DataTabBar(QWidget* pParent) : QTabBar(pParent)
 void DataTabBar::setCount(int index, int count)
 {
     mCounts.resize(static_cast<std::size_t>(this->count()));
-    mCounts[static_cast<std::size_t>(index)] = count;
-    update();
+    if (std::exchange(mCounts[static_cast<std::size_t>(index)], count) != count)
+        update();
 }
 
 int DataTabBar::countOf(int index) const

@@ -144,16 +144,34 @@ void DialogDataMap::followSpan(std::function<std::optional<TimeSpan>()> span)
 
 void DialogDataMap::updateProfile()
 {
-    updateSettings(); // the unit may be another one
+    if (mpMap)
+        mpMap->updateUnit();
     updateValues();
 }
 
 void DialogDataMap::updateRecord(RecordData* pRecord)
 {
+    showRecord(pRecord, true);
+}
+
+void DialogDataMap::update(RecordData* pRecord)
+{
+    const bool isSame = pRecord == mpRecord;
+    updateProfile();
+    showRecord(pRecord, !isSame);
+}
+
+void DialogDataMap::updateFlights(RecordData* pRecord)
+{
+    showRecord(pRecord, false);
+}
+
+void DialogDataMap::showRecord(RecordData* pRecord, bool isChosen)
+{
     mpRecord = pRecord;
     if (mpMap) {
-        mpMap->setRecordData(pRecord);
-        updateProfileStrip();
+        if (mpMap->setRecordData(pRecord, isChosen))
+            updateProfileStrip();
         findCourse();
         updateConsent();
     }
@@ -165,7 +183,7 @@ void DialogDataMap::updateRecord(RecordData* pRecord)
 void DialogDataMap::growRecord(RecordData* pRecord, bool isReviewed)
 {
     if (isReviewed)
-        return updateRecord(pRecord);
+        return updateFlights(pRecord);
     mpRecord = pRecord;
 }
 
@@ -180,7 +198,8 @@ void DialogDataMap::findCourse()
 void DialogDataMap::updateProfileStrip()
 {
     const ProfileParameter& altitude = mSession.profile.context().model().ofZarnType("Altitude");
-    const std::string unit = altitude.name.empty() ? std::string() : mSession.profile.context().unitOf(altitude);
+    // The path may have been worked out in the unit before.
+    const std::string unit = altitude.name.empty() ? std::string() : altitude.unit(mSession.container.wholeFlightPath().unit());
     mpProfile->setPath(mpMap->scene().path(), QString::fromStdString(unit));
     mpProfile->setVisible(!mpProfile->isEmpty() && Settings::kMapShowProfile.get(mSession.property));
 }
@@ -211,8 +230,8 @@ void DialogDataMap::setEvents(const EventList& limits, const EventList& lamps)
     events.clear();
     events.add(limits);
     events.add(lamps);
-    events.place(mpMap->scene().path());
-    mpMap->setDirty();
+    if (events.place(mpMap->scene().path()))
+        mpMap->setDirty();
 }
 
 void DialogDataMap::setNotes(const std::vector<CycleNote>& notes)
@@ -220,8 +239,8 @@ void DialogDataMap::setNotes(const std::vector<CycleNote>& notes)
     if (!mpMap)
         return;
     mpMap->scene().events().setNotes(notes);
-    mpMap->scene().events().place(mpMap->scene().path());
-    mpMap->setDirty();
+    if (mpMap->scene().events().place(mpMap->scene().path()))
+        mpMap->setDirty();
 }
 
 void DialogDataMap::updateSettings()

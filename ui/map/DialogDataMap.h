@@ -35,6 +35,8 @@ public:
 
     void updateProfile() override;
     void updateRecord(RecordData* pRecord) override;
+    void update(RecordData* pRecord) override;
+    void updateFlights(RecordData* pRecord) override;
     void growRecord(RecordData* pRecord, bool isReviewed) override;
     [[nodiscard]] int growthPeriod() const override { return 0; } // the path is another one seldom
     void setTime(double time) override;
@@ -77,6 +79,7 @@ private:
     void createPanels();
     void connectMap();
     void showReason(const QString& reason);
+    void showRecord(RecordData* pRecord, bool isChosen);
     void updateValues();
     void updateProfileStrip();
     void updateConsent();

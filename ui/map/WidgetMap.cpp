@@ -110,10 +110,10 @@ void WidgetMap::updateSettings()
     mMap.setShadingFactor(Settings::kMapShadingFactor.get(property));
     mMap.setHighestZoom(Settings::kMapHighestZoom.get(property));
     mMap.store().disk().setLimit(qint64(Settings::kMapCacheSize.get(property)) * 1024 * 1024);
-    mScene.setImperial(mSession.profile.currentUnit() == EUnit::eImperial);
     openTiles();
     allowTiles();
-    updateTint();
+    updateUnit();
+    mIsDirty = true;
 }
 
 /// Once for a path: an archive is not read anew for every other setting.
@@ -131,10 +131,11 @@ void WidgetMap::allowTiles()
 {
     const QString& server = mMap.tileServer().address();
     const bool isOffline = Settings::kMapOffline.get(mSession.property);
+    const bool wereAllowed = mMap.areTilesAllowed();
     mMap.setTilesAllowed(!isOffline && !mScene.path().isEmpty() && TileConsent(mSession.property).answer(server) == TileConsent::eYes);
     mScene.setPlain(!mSources.hasTiles);
     updateNote();
-    mIsDirty = true;
+    mIsDirty = mIsDirty || wereAllowed != mMap.areTilesAllowed();
 }
 
 bool WidgetMap::isConsentMissing() const
@@ -219,7 +220,7 @@ void WidgetMap::resizeGL(int width, int height)
 {
     mNavigator.setWindowSize(width, height);
     if (mNavigator.isFitted())
-        mNavigator.fit(mScene.path(), true);
+        fitAtOnce();
     mIsDirty = true;
 }
 
@@ -300,12 +301,14 @@ void WidgetMap::hideEvent(QHideEvent* pEvent)
     mTimer.stop();
 }
 
-void WidgetMap::setRecordData(RecordData* pRecord)
+bool WidgetMap::setRecordData(RecordData* pRecord, bool isChosen)
 {
     mInteraction.forgetClick();
+    bool isOther = true;
     if (pRecord) {
-        redrawFlightPath();
+        isOther = redrawFlightPath(isChosen);
     } else {
+        mpPath.reset();
         mScene.path().setPoints({});
         mScene.events().place(mScene.path());
         setCourse({});
@@ -314,24 +317,37 @@ void WidgetMap::setRecordData(RecordData* pRecord)
     // What is being received may have a position yet.
     const bool isPlaceless = pRecord && !pRecord->channels().empty() && mScene.path().isEmpty();
     mScene.setMessage(isPlaceless ? tr("No position recorded") : QString());
+    mIsAboveDirty = true;
+    return isOther;
 }
 
-void WidgetMap::redrawFlightPath()
+bool WidgetMap::redrawFlightPath(bool isChosen)
 {
+    const FlightPath& path = mSession.container.wholeFlightPath();
+    if (std::exchange(mpPath, path.shared()) == path.shared() && !isChosen)
+        return false;
     const bool isGrown = mSession.container.isLive() && !mScene.path().isEmpty();
     const std::vector<FlightPathPoint>& points = mScene.path().points();
     const double before = points.empty() ? -1.0 : points.front().time;
-    const bool isSamePath = !mScene.path().setPoints(mSession.container.flightPath());
+    const bool isSamePath = !mScene.path().setPoints(path.points());
     const bool isBeginning = !points.empty() && points.front().time == before; // it may go on growing
-    const bool isOtherUnit = std::exchange(mPathUnit, mSession.profile.currentUnit()) != mSession.profile.currentUnit();
+    const bool isOtherUnit = std::exchange(mPathUnit, path.unit()) != path.unit();
     mScene.events().place(mScene.path());
-    if (!isGrown && (!isSamePath || !isOtherUnit))
-        mNavigator.fit(mScene.path(), true);
+    if (!isGrown && (!isSamePath || (isChosen && !isOtherUnit)))
+        fitAtOnce();
+    mIsDirty = mIsDirty || !isSamePath;
     if (!isSamePath && !isBeginning)
         setCourse({}); // until it is known
     else
         updateTint();
     allowTiles();
+    return true;
+}
+
+void WidgetMap::fitAtOnce()
+{
+    mNavigator.fit(mScene.path(), true);
+    mIsDirty = true;
 }
 
 void WidgetMap::setCourse(const MapCourse& course)
@@ -340,14 +356,24 @@ void WidgetMap::setCourse(const MapCourse& course)
     mScene.setWholePath(course.pWhole ? std::span<const FlightPathPoint>(*course.pWhole) : std::span<const FlightPathPoint>());
     mScene.setCourse(course.course, course.gaps);
     updateTint();
+    mIsDirty = true;
+}
+
+void WidgetMap::updateUnit()
+{
+    mScene.setImperial(mSession.profile.currentUnit() == EUnit::eImperial);
+    updateTint();
+    mIsAboveDirty = true;
 }
 
 void WidgetMap::updateTint()
 {
     const PathColouring colouring = PathColouring::of(Settings::kMapPathColour.get(mSession.property));
-    const PathTinter tinter(mScene.path().points(), mSession.profile.context(), mScene.style().colours);
-    mScene.setTint(tinter.tint(colouring, &mSession.container.recordData(), mPhases));
-    mIsDirty = true;
+    const DecodingContext& inForce = mSession.profile.context();
+    const DecodingContext context = colouring.by == PathColouring::eParameter ? inForce : inForce.in(mPathUnit);
+    const PathTinter tinter(mScene.path().points(), context, mScene.style().colours);
+    if (mScene.setTint(tinter.tint(colouring, &mSession.container.recordData(), mPhases)))
+        mIsDirty = true;
 }
 
 void WidgetMap::updateShown()

@@ -30,9 +30,9 @@ public:
     /// Before the first drawing.
     void init();
     /// Shows the path of the record that is loaded; null takes the path away and leaves the view.
-    void setRecordData(RecordData* pRecord);
-    /// Takes the path over anew and shows the whole of it, unless only the unit of its values is another one.
-    void redrawFlightPath();
+    /// @param isChosen whether the user wants to see it; else it is the one shown before
+    /// @return whether the path may be another one, or its values
+    bool setRecordData(RecordData* pRecord, bool isChosen = true);
     /// Where the aircraft is drawn; repaints.
     void setAcPosition(const FlightPathPoint& position);
     /// Hands the camera, with its angles, to the map library.
@@ -49,6 +49,8 @@ public:
 
     /// Reads the source of tiles, consent, shading and the colours of the path from the settings again.
     void updateSettings();
+    /// Another unit is in force, which the path follows when it is worked out anew.
+    void updateUnit();
     /// What is known of the cycle whose path is shown.
     void setCourse(const MapCourse& course);
     /// Asked again and again for the part of the path that is shown bright.
@@ -117,6 +119,9 @@ private:
     void allowTiles();
     void openTiles();
     void updateTint();
+    /// Takes the path over anew and shows the whole of it, unless only the unit of its values is another one.
+    bool redrawFlightPath(bool isChosen);
+    void fitAtOnce();
     void updateShown();
     void updateNote();
     [[nodiscard]] QString note();
@@ -133,6 +138,7 @@ private:
     MapAttribution* mpAttribution = nullptr;
     OpenStreet::MapSources mSources;          // that the attribution names
     VESK::OpenGL::Device* mpDevice = nullptr; // while it paints
+    std::shared_ptr<const std::vector<FlightPathPoint>> mpPath; // that which is shown
     EUnit mPathUnit{};
     std::vector<FlightPhases::Step> mPhases; // of the cycle, once they are known
     std::function<std::optional<TimeSpan>()> mSpan;

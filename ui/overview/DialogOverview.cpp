@@ -18,7 +18,7 @@ namespace ZARN {
 
 namespace {
 
-constexpr int kProgressStep = 10; // percent
+constexpr int kProgressPeriod = 100; // milliseconds
 
 } // namespace
 
@@ -57,9 +57,13 @@ DialogOverview::DialogOverview(const Session& session, QWidget* pParent)
         mAddTimer.start();
     });
     connect(&mAddTimer, &QTimer::timeout, this, &DialogOverview::addNext);
-    // It paints itself at each value, whatever else there is to do.
-    connect(&mReviewer, &CardReviewer::signalProgress, this,
-            [this](int percent) { mpProgress->setValue(percent / kProgressStep * kProgressStep); });
+    // The bar paints itself at each value, whatever else there is to do: for a card that is soon reviewed it would take longer than the review.
+    connect(&mReviewer, &CardReviewer::signalProgress, this, [this](int percent) {
+        if (mProgressTold.elapsed() < kProgressPeriod)
+            return;
+        mpProgress->setValue(percent);
+        mProgressTold.start();
+    });
     connect(&mReviewer, &CardReviewer::signalFinished, &mAddTimer, qOverload<>(&QTimer::start));
     connect(&mReviewer, &CardReviewer::signalStopped, this, &DialogOverview::tellStopped);
 }
@@ -114,6 +118,7 @@ void DialogOverview::begin()
     mpStopped->hide();
     mpProgress->setVisible(!isEmpty);
     mpProgress->setValue(0);
+    mProgressTold.start();
     if (!isEmpty)
         mReviewer.start();
 }

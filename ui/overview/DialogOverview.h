@@ -3,6 +3,7 @@
 #include "project/Session.h"
 #include "ui/overview/model/CardReviewer.h"
 
+#include <QElapsedTimer>
 #include <QScrollArea>
 #include <QTimer>
 
@@ -65,6 +66,7 @@ private:
     QVBoxLayout* mpCards;
     std::vector<WidgetCycleCard*> mCards;
     std::deque<std::shared_ptr<const CycleOverview>> mPending; ///< reviewed, and not shown yet
+    QElapsedTimer mProgressTold;
     QTimer mAddTimer;
     ETimeReference mTimes = ETimeReference::ePowerUp; ///< of what is shown
     bool mIsNewestWanted = false; ///< once it is known

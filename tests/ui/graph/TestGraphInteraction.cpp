@@ -1,10 +1,12 @@
 #include "GraphFixtures.h"
 #include "ui/graph/model/CursorLabels.h"
+#include "ui/graph/model/GhostLines.h"
 #include "ui/graph/model/GraphInteraction.h"
 
 #include <QSignalSpy>
 #include <QTest>
 
+#include <algorithm>
 #include <cmath>
 
 using namespace ZARN;
@@ -156,6 +158,20 @@ void TestGraphInteraction::courseAndGhost()
     graph.model.scenery().setGhostShift(10);
     QCOMPARE(ghostValue(*pGhost, 0, 40.5, 10).value(), 30.0);
     QVERIFY(!ghostValue(*pGhost, 0, 9, 10) && !ghostValue(*pGhost, 0, 111, 10) && !ghostValue(*pGhost, 1, 40, 10));
+    GhostLines kept;
+    for (const double begin : {36.0, 39.0, 90.0, 37.0, 0.0}) { // what is kept of its line is what is made anew
+        graph.model.setWindow({begin, begin + 64});
+        const GraphLayout layout = layoutOf(graph.model);
+        GhostLines anew;
+        std::vector<QPointF> points, others;
+        for (auto& [lines, places] : {std::pair<GhostLines&, std::vector<QPointF>&>(kept, points), {anew, others}}) {
+            lines.update(graph.model, layout, 1);
+            lines.place(0, layout.area(0), places);
+        }
+        const auto isSame = [](const QPointF& a, const QPointF& b) { return a == b || (std::isnan(a.y()) && std::isnan(b.y())); };
+        QVERIFY(points.size() > 10 && std::ranges::equal(points, others, isSame));
+    }
+    graph.model.setWindow({0, 100});
     auto pCourse = std::make_shared<CycleCourse>();
     pCourse->incidents = {{{30, 60}, 1, "A", {}}, {{50, 50.1}, 2, "B", {}}};
     graph.model.scenery().setCourse(pCourse);

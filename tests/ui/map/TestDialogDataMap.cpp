@@ -269,6 +269,9 @@ void TestDialogDataMap::anotherUnitKeepsTheView()
         return window.map().navigator().camera().horizontalRange();
     };
     QVERIFY(recalculated(EUnit::eImperial) == 5000.0 && recalculated(EUnit::eMetric) == 5000.0);
+    flight().container.calcFlightPath(); // as the flights are, after the unit
+    window.dialog->updateFlights(&flight().container.recordData());
+    QCOMPARE(window.map().navigator().camera().horizontalRange(), 5000.0);
     QVERIFY(recalculated(EUnit::eMetric) != 5000.0); // chosen again: the whole of it
 }
 

@@ -123,8 +123,8 @@ QStringList DataTableModel::widestTexts(int column) const
     };
     const std::size_t size = mTraces[place].size();
     const auto takeRun = [&](std::size_t position, std::size_t count) {
-        double times[kProbe], numbers[kProbe];
-        count = mTraces[place].readTimes(position, {times, count});
+        double numbers[kProbe];
+        count = mTraces[place].sideBySide(position, count);
         mTraces[place].readNumbers(position, {numbers, count});
         std::for_each_n(numbers, count, take);
     };

@@ -8,16 +8,14 @@
 
 namespace ZARN {
 
-void FrameCache::update(const ShownTraces& traces, const TimeWindow& window, int columns, int only)
+void FrameCache::update(const ShownTraces& traces, const TimeWindow& window, int columns)
 {
-    const Key key{window, std::max(1, columns), traces.generation(), mGapsOn, only};
+    const Key key{window, std::max(1, columns), traces.generation(), mGapsOn};
     if (key == mKey)
         return;
     mKey = key;
     mVertices.resize(traces.all().size());
     for (const int index : traces.shown()) {
-        if (only >= 0 && index != only)
-            continue;
         std::vector<QPointF>& vertices = mVertices[static_cast<std::size_t>(index)];
         mBuilder.setGaps(mGapsOn ? std::span<const uint32_t>(gapsOf(traces, index)) : std::span<const uint32_t>());
         mBuilder.build(traces.at(index)->samples, window.begin(), window.end(), key.columns, vertices);
@@ -38,7 +36,7 @@ const std::vector<uint32_t>& FrameCache::gapsOf(const ShownTraces& traces, int i
 
 bool FrameCache::isCurrent(const ShownTraces& traces, const TimeWindow& window) const
 {
-    return mKey == Key{window, mKey.columns, traces.generation(), mGapsOn, mKey.only};
+    return mKey == Key{window, mKey.columns, traces.generation(), mGapsOn};
 }
 
 const std::vector<QPointF>& FrameCache::vertices(int index) const

@@ -9,8 +9,8 @@ namespace ZARN {
 /// The vertices of what a window shows of each trace, made anew only when something that they are made from has changed.
 class FrameCache {
 public:
-    /// @param columns pixels of the screen that the plot is wide  @param only the slot that is wanted; -1 for all that are shown
-    void update(const ShownTraces& traces, const TimeWindow& window, int columns, int only = -1);
+    /// @param columns pixels of the screen that the plot is wide
+    void update(const ShownTraces& traces, const TimeWindow& window, int columns);
     /// The same for as many columns as before.
     void update(const ShownTraces& traces, const TimeWindow& window) { update(traces, window, mKey.columns); }
     /// Whether traces are interrupted where nothing was recorded for long, or no number.
@@ -26,7 +26,6 @@ private:
         int columns = 1000;
         std::size_t generation = 0;
         bool gapsOn = false;
-        int only = -1;
         bool operator==(const Key&) const = default;
     };
 

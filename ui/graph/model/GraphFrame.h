@@ -1,7 +1,7 @@
 #pragma once
 
 #include "ui/graph/model/FrameCache.h"
-#include "ui/graph/model/GraphLayout.h"
+#include "ui/graph/model/GhostLines.h"
 
 namespace ZARN {
 
@@ -16,13 +16,12 @@ public:
     [[nodiscard]] const FrameCache& traces() const { return mTraces; }
     [[nodiscard]] FrameCache& traces() { return mTraces; }
     /// Those of what the traces are compared with.
-    [[nodiscard]] const FrameCache& ghost() const { return mGhost; }
+    [[nodiscard]] const GhostLines& ghost() const { return mGhost; }
 
 private:
     GraphLayout mLayout;
     FrameCache mTraces;
-    FrameCache mGhost;
-    std::shared_ptr<const Ghost> mpGhost; ///< whose vertices these are
+    GhostLines mGhost;
 };
 
 } // namespace ZARN

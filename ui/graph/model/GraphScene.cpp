@@ -7,7 +7,6 @@
 #include "ui/graph/model/GraphTables.h"
 #include "ui/graph/model/NormalRange.h"
 #include "ui/graph/model/NoteMarks.h"
-#include "ui/graph/model/StateSteps.h"
 #include "ui/graph/model/TraceColours.h"
 
 #include <algorithm>
@@ -18,7 +17,6 @@ namespace ZARN {
 
 namespace {
 
-constexpr double kGhostDash = 5.0;      // pixels
 constexpr float kGhostShare = 0.6F;     // of the trace's colour in that of its ghost
 constexpr double kSampleDistance = 5.0; // pixels from sample to sample from which each can be marked
 
@@ -66,6 +64,11 @@ void GraphScene::draw(Canvas& canvas) const
 
 void GraphScene::drawTraces(Canvas& canvas) const
 {
+    // Grounds before all lines and names after them: a canvas that gathers lines draws them at once then.
+    const std::map<int, std::vector<StateSteps::Run>> states = stateRuns();
+    const StateSteps steps(mModel, mLayout);
+    for (const auto& [index, runs] : states)
+        steps.drawGrounds(canvas, index, runs);
     std::vector<QPointF> points; // one memory for all of them
     drawGhost(canvas, points);
     const int highlighted = mModel.traces().highlighted();
@@ -75,22 +78,27 @@ void GraphScene::drawTraces(Canvas& canvas) const
     }
     if (highlighted >= 0)
         drawTrace(canvas, highlighted, 1, points);
+    for (const auto& [index, runs] : states)
+        steps.drawNames(canvas, index, runs);
+}
+
+std::map<int, std::vector<StateSteps::Run>> GraphScene::stateRuns() const
+{
+    std::map<int, std::vector<StateSteps::Run>> states;
+    for (const int index : mModel.traces().shown()) {
+        if (isStateStrip(mModel, index))
+            states[index] = StateSteps(mModel, mLayout).runs(index, mFrame.traces().vertices(index));
+    }
+    return states;
 }
 
 void GraphScene::drawGhost(Canvas& canvas, std::vector<QPointF>& points) const
 {
-    const Ghost* pGhost = mModel.scenery().ghost().get();
-    if (!pGhost)
-        return;
-    const bool isSplit = mModel.settings().displayMode == eSplit;
     for (const int index : mModel.traces().shown()) {
-        if (!isShown(pGhost->traces, index) || (!isSplit && index != mModel.traces().axis()))
-            continue;
         const QRectF area = mLayout.area(index);
-        place(mFrame.ghost().vertices(index), index, points);
-        const double phase =
-            std::fmod((mModel.window().begin() - mModel.scenery().ghostShift()) * mLayout.pixelsPerSecond(), 2 * kGhostDash);
-        makeDashes(points, kGhostDash, phase, area.left(), area.right());
+        mFrame.ghost().place(index, area, points);
+        if (points.empty())
+            continue;
         canvas.push();
         canvas.clip(area);
         canvas.lineStrip(points, {mixed(mModel.colours().background, mModel.traces().at(index)->drawnColour, kGhostShare)});
@@ -116,8 +124,6 @@ void GraphScene::drawTrace(Canvas& canvas, int index, int wider, std::vector<QPo
     place(mFrame.traces().vertices(index), index, points);
     canvas.push();
     canvas.clip(area);
-    if (isStateStrip(mModel, index))
-        StateSteps(mModel, mLayout).draw(canvas, index, mFrame.traces().vertices(index));
     if (trace.samplesVisible || points.size() == 1)
         drawSamples(canvas, points, trace.drawnColour);
     if (const double dash = dashOf(trace); dash > 0)

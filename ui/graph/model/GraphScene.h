@@ -3,6 +3,7 @@
 #include "ui/graph/model/CursorLabels.h"
 #include "ui/graph/model/GraphFrame.h"
 #include "ui/graph/model/GraphInteraction.h"
+#include "ui/graph/model/StateSteps.h"
 
 namespace ZARN {
 
@@ -23,6 +24,7 @@ private:
     void drawGhost(Canvas& canvas, std::vector<QPointF>& points) const;
     /// Vertices to pixels.
     void place(const std::vector<QPointF>& vertices, int index, std::vector<QPointF>& points) const;
+    [[nodiscard]] std::map<int, std::vector<StateSteps::Run>> stateRuns() const;
     void drawTrace(Canvas& canvas, int index, int wider, std::vector<QPointF>& points) const;
     static void drawSamples(Canvas& canvas, std::span<const QPointF> points, const QColor& colour);
     void drawMarker(Canvas& canvas) const;

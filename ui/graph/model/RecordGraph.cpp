@@ -79,6 +79,7 @@ void RecordGraph::describeSlots()
 void RecordGraph::updateSettings()
 {
     mSettings.load(mModel);
+    mModel.settingsChanged();
     updateTimes();
     mGhost.normal().fill();
 }
@@ -92,8 +93,9 @@ void RecordGraph::setTimes(ETimeReference kind)
 
 void RecordGraph::updateTimes()
 {
-    mModel.settings().times = TimeReference::of(mSession.property, mSession.container);
-    mModel.settingsChanged();
+    const TimeReference times = TimeReference::of(mSession.property, mSession.container);
+    if (!(std::exchange(mModel.settings().times, times) == times))
+        mModel.settingsChanged();
     mGhost.follow();
 }
 

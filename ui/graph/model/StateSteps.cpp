@@ -34,12 +34,11 @@ void makeSteps(std::vector<QPointF>& vertices)
     vertices = std::move(steps);
 }
 
-void StateSteps::draw(Canvas& canvas, int index, std::span<const QPointF> vertices) const
+std::vector<StateSteps::Run> StateSteps::runs(int index, std::span<const QPointF> vertices) const
 {
-    const GraphParameter& trace = *mModel.traces().at(index);
     const QRectF area = mLayout.area(index);
     const ValueSpan span = mModel.valueSpan(index);
-    std::vector<std::pair<QRectF, double>> runs;
+    std::vector<Run> runs;
     for (std::size_t i = 1; i < vertices.size(); ++i) {
         const QPointF &from = vertices[i - 1], &to = vertices[i];
         if (from.y() != to.y())
@@ -47,19 +46,29 @@ void StateSteps::draw(Canvas& canvas, int index, std::span<const QPointF> vertic
         const double left = std::max(area.left(), area.left() + from.x() * mLayout.pixelsPerSecond());
         const double right = std::min(area.right(), area.left() + to.x() * mLayout.pixelsPerSecond());
         const double y = GraphLayout::yOf(from.y(), area, span);
-        if (right - left < kLeastGround || !(y < area.bottom()) || !(y >= area.top()))
-            continue;
-        runs.emplace_back(QRectF(QPointF(left, y), QPointF(right, area.bottom())), from.y());
-        if (from.y() > (trace.pStates->range().isEmpty() ? 0.0 : trace.pStates->range().least))
-            drawGround(canvas, index, runs.back().first);
+        if (right - left >= kLeastGround && y < area.bottom() && y >= area.top())
+            runs.emplace_back(QRectF(QPointF(left, y), QPointF(right, area.bottom())), from.y());
     }
-    for (const auto& [run, value] : runs)
-        drawName(canvas, trace.pStates->text(value), run);
+    return runs;
 }
 
-void StateSteps::drawGround(Canvas& canvas, int index, const QRectF& run) const
+void StateSteps::drawGrounds(Canvas& canvas, int index, const std::vector<Run>& runs) const
 {
-    canvas.fillRect(run, withAlpha(mModel.traces().at(index)->drawnColour, kGroundAlpha));
+    const GraphParameter& trace = *mModel.traces().at(index);
+    const double none = trace.pStates->range().isEmpty() ? 0.0 : trace.pStates->range().least;
+    for (const auto& [run, value] : runs) {
+        if (value > none)
+            canvas.fillRect(run, withAlpha(trace.drawnColour, kGroundAlpha));
+    }
+}
+
+void StateSteps::drawNames(Canvas& canvas, int index, const std::vector<Run>& runs) const
+{
+    canvas.push();
+    canvas.clip(mLayout.area(index));
+    for (const auto& [run, value] : runs)
+        drawName(canvas, mModel.traces().at(index)->pStates->text(value), run);
+    canvas.pop();
 }
 
 void StateSteps::drawName(Canvas& canvas, const QString& name, const QRectF& run) const

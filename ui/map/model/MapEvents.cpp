@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace ZARN {
 
@@ -14,12 +15,6 @@ constexpr QRgb kNoteColour = 0xff2060ff;
 constexpr double kOneDot = 3.0; // pixels by which dots may lie apart that nobody can point at one by one
 
 } // namespace
-
-void MapEvents::clear()
-{
-    mAll.clear();
-    mDots.clear();
-}
 
 void MapEvents::add(const EventList& list)
 {
@@ -35,11 +30,14 @@ void MapEvents::setNotes(const std::vector<CycleNote>& notes)
         mNotes.push_back({note.time, QColor(kNoteColour), note.text.toStdString(), {}, {}});
 }
 
-void MapEvents::place(const MapPath& path)
+bool MapEvents::place(const MapPath& path)
 {
-    mDots.clear();
+    const std::vector<MapEvent> before = std::exchange(mDots, {});
     placeAll(mAll, path);
     placeAll(mNotes, path); // above the others: there are few of them
+    return !std::ranges::equal(before, mDots, [](const MapEvent& a, const MapEvent& b) {
+        return a.colour == b.colour && a.place.x == b.place.x && a.place.y == b.place.y;
+    });
 }
 
 void MapEvents::placeAll(const std::vector<MapEvent>& events, const MapPath& path)

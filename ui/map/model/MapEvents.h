@@ -27,14 +27,14 @@ public:
     static constexpr double kRadius = 5.0; ///< pixels
     static constexpr std::size_t kMostTips = 8;
 
-    /// Forgets all events.
-    void clear();
+    /// Forgets all events; their dots stay until the others are placed.
+    void clear() { mAll.clear(); }
     /// Adds those of a list, with their colours.
     void add(const EventList& list);
     /// Takes these notes in place of those before; clear() leaves them.
     void setNotes(const std::vector<CycleNote>& notes);
-    /// Puts the events on the path.
-    void place(const MapPath& path);
+    /// Puts the events on the path. @return whether their dots look otherwise
+    bool place(const MapPath& path);
 
     [[nodiscard]] const std::vector<MapEvent>& dots() const { return mDots; }
     /// The events under a place of the window, the nearest first, at most kMostTips. Of those that lie upon each other, first the nearer to the

@@ -104,10 +104,14 @@ void MapScene::setCourse(const CycleCourse& course, const std::vector<TimeSpan>&
     mMarks.set(course, mPath);
 }
 
-void MapScene::setTint(PathTint tint)
+bool MapScene::setTint(PathTint tint)
 {
+    const auto isNone = [](const PathTint& one) { return one.isPlain() && !one.hasLegend(); };
+    if (isNone(tint) && isNone(mTint))
+        return false;
     mTint = std::move(tint);
     ++mTintGeneration;
+    return true;
 }
 
 bool MapScene::setPointer(const std::optional<QPointF>& place)

@@ -37,8 +37,8 @@ public:
     void setWholePath(std::span<const FlightPathPoint> points) { mWhole.setPoints(points); }
     /// What is known of the cycle: marks, and where nothing was received.
     void setCourse(const CycleCourse& course, const std::vector<TimeSpan>& gaps);
-    /// Colours for the points of path(), in its order.
-    void setTint(PathTint tint);
+    /// Colours for the points of path(), in its order. @return whether anything looks otherwise
+    bool setTint(PathTint tint);
     /// The part of the path that is shown bright; none for all of it. @return whether it is another one
     bool setShown(const std::optional<TimeSpan>& span);
     /// The place of the window that is pointed at. @return whether anything else is told of it

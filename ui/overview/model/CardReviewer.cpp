@@ -133,6 +133,7 @@ bool CardReviewer::review(Progress& progress, const DecodingContext& context, co
 {
     const Console silent([](std::string_view) {}, [](std::string_view) {}); // the window has its own lines about the same files
     CardContainer card(silent, context, nullProgress());
+    card.setPathWanted(false);
     if (!card.readContainer(path))
         return false;
     PartProgress part(progress, numbers.size());
