@@ -2,15 +2,21 @@
 
 #include <exception>
 #include <new>
+#include <system_error>
 #include <utility>
 
 namespace ZARN {
 
+BackgroundTask::BackgroundTask(QObject* pParent) : QObject(pParent)
+{
+    connect(this, &BackgroundTask::signalEnded, this, &BackgroundTask::finish, Qt::QueuedConnection);
+}
+
 BackgroundTask::~BackgroundTask()
 {
     cancel();
-    if (mpThread)
-        mpThread->wait();
+    if (mThread.joinable())
+        mThread.join();
 }
 
 void BackgroundTask::start(Work work)
@@ -18,9 +24,13 @@ void BackgroundTask::start(Work work)
     Q_ASSERT(!isRunning());
     mReport.begin();
     mError.clear();
-    mpThread.reset(QThread::create([this, work = std::move(work)] { run(work); }));
-    connect(mpThread.get(), &QThread::finished, this, &BackgroundTask::finish, Qt::QueuedConnection);
-    mpThread->start();
+    mIsRunning = true;
+    try {
+        mThread = std::thread([this, work = std::move(work)] { run(work); });
+    } catch (const std::system_error& problem) { // the machine has no thread to give
+        mError = QString::fromLocal8Bit(problem.what());
+        Q_EMIT signalEnded({});
+    }
 }
 
 void BackgroundTask::run(const Work& work)
@@ -32,12 +42,14 @@ void BackgroundTask::run(const Work& work)
     } catch (const std::exception& problem) {
         mError = QString::fromLocal8Bit(problem.what());
     }
+    Q_EMIT signalEnded({});
 }
 
 void BackgroundTask::finish()
 {
-    mpThread->wait();
-    mpThread.reset();
+    if (mThread.joinable())
+        mThread.join();
+    mIsRunning = false;
     Q_EMIT signalFinished();
 }
 

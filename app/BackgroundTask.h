@@ -3,11 +3,10 @@
 #include "app/Progress.h"
 
 #include <QCoreApplication>
-#include <QThread>
 
 #include <atomic>
 #include <functional>
-#include <memory>
+#include <thread>
 
 namespace ZARN {
 
@@ -20,13 +19,13 @@ class BackgroundTask : public QObject {
 public:
     using Work = std::function<void(Progress&)>;
 
-    explicit BackgroundTask(QObject* pParent = nullptr) : QObject(pParent) {}
+    explicit BackgroundTask(QObject* pParent = nullptr);
     ~BackgroundTask() override;
 
     /// Begins the work; nothing else may be running. signalFinished comes later, whatever happens.
     void start(Work work);
     /// Until signalFinished is sent.
-    [[nodiscard]] bool isRunning() const { return mpThread != nullptr; }
+    [[nodiscard]] bool isRunning() const { return mIsRunning; }
     /// Tells the work to end as soon as it can.
     void cancel() { mReport.cancel(); }
     [[nodiscard]] bool isCancelled() const { return mReport.isCancelled(); }
@@ -37,6 +36,7 @@ Q_SIGNALS:
     /// From 0 to 100; only what differs from the last one.
     void signalProgress(int percent);
     void signalFinished();
+    void signalEnded(QPrivateSignal); ///< in the thread of the work
 
 private:
     /// What the work reports to, in its thread.
@@ -59,7 +59,8 @@ private:
 
     Report mReport{*this};
     QString mError;
-    std::unique_ptr<QThread> mpThread; // null while nothing runs
+    bool mIsRunning = false;
+    std::thread mThread; // of the standard library, since the thread sanitizer sees what it waits for
 };
 
 } // namespace ZARN

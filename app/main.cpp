@@ -74,9 +74,9 @@ bool loadTranslation(QTranslator& translator, const QString& name)
 void installTranslation(QTranslator& translator, const QString& prefix, const char* name, const Console& console)
 {
     const std::string locale = Settings::kLocale.get(Property::instance());
-    QLocale::setDefault(QLocale(
-        locale == Settings::kLocale.fallback ? QString("en_US") : QString::fromStdString(locale))); // numbers as the language writes them
-    const bool loaded = loadTranslation(translator, prefix + QString::fromStdString(locale));
+    const bool isEnglish = locale == Settings::kLocale.fallback;
+    QLocale::setDefault(QLocale(isEnglish ? QString("en_US") : QString::fromStdString(locale))); // numbers as the language writes them
+    const bool loaded = loadTranslation(translator, prefix + (isEnglish ? QString("en") : QString::fromStdString(locale)));
     console.print("Translation %s <%s> %d\n", name, locale.c_str(), loaded ? 1 : 0);
     if (loaded)
         QCoreApplication::installTranslator(&translator);

@@ -49,6 +49,11 @@ std::string tableDate(const QDateTime& dateTime)
     return dateTime.isValid() ? dateTime.toString("yyyy-MM-dd hh:mm:ss").toStdString() : "no clock";
 }
 
+std::string countedText(uint64_t count, const char* one, const char* many)
+{
+    return std::to_string(count) + " " + (count == 1 ? one : many);
+}
+
 std::string tableNumber(double number, int decimals)
 {
     char buffer[kNumberTextSize];

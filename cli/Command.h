@@ -58,6 +58,8 @@ private:
 std::string tableTime(double seconds);                    ///< "hh:mm:ss.zzz"
 std::string tableDate(const QDateTime& dateTime);         ///< "yyyy-MM-dd hh:mm:ss", "no clock" when invalid
 std::string tableNumber(double number, int decimals);
+/// A count and what is counted: "1 card", "2 cards".
+std::string countedText(uint64_t count, const char* one, const char* many);
 std::string tableTitle(const char* title, const std::string& unit); ///< "Title [unit]", the title alone without a unit
 
 } // namespace ZARN

@@ -44,13 +44,10 @@ int CommandReport::run()
     int count = 1;
     const QGuiApplication application(count, arguments);
     QTranslator texts;
-    const bool isEnglish = mLanguage == "en";
-    QLocale::setDefault(isEnglish ? QLocale(QLocale::English, QLocale::UnitedStates) : QLocale(QString::fromStdString(mLanguage)));
-    if (!isEnglish) {
-        if (!texts.load("zarn_" + QString::fromStdString(mLanguage), QString::fromStdString(resourceFolder())))
-            return fail(resourceFolder() + ": no texts in the language \"" + mLanguage + "\"");
-        QCoreApplication::installTranslator(&texts);
-    }
+    QLocale::setDefault(mLanguage == "en" ? QLocale(QLocale::English, QLocale::UnitedStates) : QLocale(QString::fromStdString(mLanguage)));
+    if (!texts.load("zarn_" + QString::fromStdString(mLanguage), QString::fromStdString(resourceFolder())))
+        return fail(resourceFolder() + ": no texts in the language \"" + mLanguage + "\"");
+    QCoreApplication::installTranslator(&texts);
     return DataCommand::run(); // what is wrong with the card is told in the language of the report
 }
 

@@ -23,15 +23,10 @@ namespace ZARN {
 
 namespace {
 
-std::string number(std::size_t count, const char* one, const char* many)
-{
-    return std::to_string(count) + " " + (count == 1 ? one : many);
-}
-
 std::string countText(const ScanCount& count)
 {
-    std::string text = number(count.cards, "card", "cards") + ": " + std::to_string(count.unchanged) + " unchanged, " +
-                       number(count.cycles, "cycle", "cycles") + " and " + number(count.flights, "flight", "flights") + " worked out";
+    std::string text = countedText(count.cards, "card", "cards") + ": " + std::to_string(count.unchanged) + " unchanged, " +
+                       countedText(count.cycles, "cycle", "cycles") + " and " + countedText(count.flights, "flight", "flights") + " worked out";
     if (count.damaged > 0)
         text += ", " + std::to_string(count.damaged) + " damaged";
     if (count.unread > 0)

@@ -1,10 +1,8 @@
-#include "fuzz/Input.h"
-#include "fuzz/Require.h"
+#include "fuzz/DatabaseInput.h"
 #include "store/LogbookReader.h"
 #include "store/Store.h"
 #include "store/StoreReader.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 
 // A store of which the input changes bytes, or fields to whatever SQLite takes. Readers tell what is wrong or answer, and change nothing.
@@ -37,13 +35,6 @@ INSERT INTO note VALUES (1, 'c1', 100, 'a note', '2024-06-16T10:00:00');
 INSERT INTO parameter_precision VALUES ('h', 'P', 0);
 )sql";
 
-QByteArray contentOf(const QString& path)
-{
-    QFile file(path);
-    REQUIRE(file.open(QIODevice::ReadOnly));
-    return file.readAll();
-}
-
 constexpr const char* kFields[][2] = {
     {"engine", "engine_serial"}, {"engine", "ecu_serial"}, {"card", "name"}, {"card", "first_seen"}, {"cycle", "number"}, {"cycle", "date_time"},
     {"cycle", "start_time"}, {"cycle", "engine_running"}, {"cycle", "fuel"}, {"cycle", "verdict"}, {"cycle", "profile_hash"}, {"flight", "number"},
@@ -52,19 +43,6 @@ constexpr const char* kFields[][2] = {
     {"key_value", "p05"}, {"key_value", "median"}, {"key_value", "p95"}, {"service", "name"}, {"service", "every_hours"}, {"service", "every_months"},
     {"service", "done_hours"}, {"service", "done_date"}, {"reading", "date"}, {"reading", "hours"}, {"note", "time"}, {"note", "text"},
     {"note", "written"}, {"parameter_precision", "decimals"}};
-
-/// What SQLite takes in any column, whatever its type.
-std::string literal(Input& input)
-{
-    const uint8_t form = input.byte();
-    switch (form % 5) {
-    case 0: return "NULL";
-    case 1: return std::to_string(input.number<int64_t>());
-    case 2: return form & 0x80 ? "9e999" : QByteArray::number(input.number<float>(), 'g', 17).replace("nan", "0").replace("inf", "9e999").toStdString();
-    case 3: return "x'" + QByteArray::fromStdString(input.text(40)).toHex().toStdString() + "'";
-    default: return "CAST(x'" + QByteArray::fromStdString(input.text(40)).toHex().toStdString() + "' AS TEXT)";
-    }
-}
 
 void changeFields(const QString& path, Input& input)
 {
@@ -76,18 +54,6 @@ void changeFields(const QString& path, Input& input)
         database.run("UPDATE OR IGNORE " + std::string(pTable) + " SET " + pColumn + " = " + literal(input) + where);
     }
     database.run("PRAGMA journal_mode = DELETE");
-}
-
-void changeBytes(QByteArray& bytes, Input& input)
-{
-    while (!input.empty()) {
-        const auto place = input.number<uint16_t>() % bytes.size();
-        bytes[place] = static_cast<char>(input.byte());
-        if (input.byte() == 0xFF)
-            bytes.truncate(place);
-        if (bytes.isEmpty())
-            return;
-    }
 }
 
 std::size_t readAll(const std::string& path)
@@ -138,18 +104,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* pData, std::size_t size)
 {
     Input input(pData, size);
     const QString path = folder().filePath("store");
-    for (const char* pBeside : {"", "-wal", "-shm", "-journal"})
-        QFile::remove(path + pBeside);
-    QByteArray bytes = wholeStore();
-    const bool areBytes = input.byte() % 2 == 0;
-    if (areBytes)
-        changeBytes(bytes, input);
-    QFile file(path);
-    REQUIRE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-    file.close();
-    if (!areBytes)
-        changeFields(path, input);
-    const QByteArray before = contentOf(path);
+    const QByteArray before = putChanged(path, wholeStore(), input, [&] { changeFields(path, input); });
     REQUIRE(readAll(path.toStdString()) < 1000);
     REQUIRE(contentOf(path) == before);
     return 0;

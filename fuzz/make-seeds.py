@@ -182,6 +182,35 @@ def tile_seeds():
     yield 'map-counts', b'\1ZMAP\1' + b'\xff\xff\xff\xff\x0f' * 3
 
 
+def map_detail_seeds():
+    shore = b'\1\5' + b'\2\2\x80\1\0\0\x80\1\x7f\0\0\x7f' + b'\1\2\4\4\6\6' + b'\1\1\1\1'
+    town, field = b'\2\5\7\x1e\3Ulm\xff\x0f\xff\x0f\0\0', b'\1\5\7\1\xd8\x17\x23\xc0\x1f\4EDMA\3\xc3\xbcx'
+    for kind, tile in enumerate((shore, town, field)):
+        form = bytes((kind,))
+        yield f'tile-{kind}', bytes((0x80 + kind + 1, 7, 12)) + tile    # 0x80 is 2 of 3
+        yield f'tile-coarse-{kind}', bytes((0x80 + kind + 1, 0, 20)) + tile
+        packed = struct.pack('>I', len(tile)) + zlib.compress(tile)
+        head = b'ZMAPD\1\2' + b''.join(struct.pack('<BBBI', kind + 1, zoom, 12, 1) for zoom in (1, 3))
+        at = len(head) + 24
+        index = struct.pack('<IIIIII', 0, at, len(packed), 19, at, len(packed))
+        yield f'file-{kind}', form + head + index + packed
+        yield f'file-swollen-{kind}', form + head + index + struct.pack('>I', 0x700000) + packed[4:]
+        yield f'file-short-{kind}', form + (head + index + packed)[:-3]
+        yield f'file-many-{kind}', form + head[:-4] + b'\xff\xff\xff\xff' + index + packed
+        yield f'file-empty-{kind}', form + head + struct.pack('<IIIIII', 0, at, 0, 0, 0xffffffff, 1)
+
+
+def tile_archive_seeds():
+    yield 'whole', b''
+    yield 'header', b'\0' + b''.join(struct.pack('<HBB', place, 0x41, 0) for place in (16, 18, 20, 28, 56, 100, 103, 105))
+    yield 'pages', b'\0' + b''.join(struct.pack('<HBB', 512 * page + place, 0x7f, 0) for page in range(1, 4) for place in (0, 3, 8, 100, 500))
+    yield 'cut', b'\0' + struct.pack('<HBB', 1500, 0, 0xFF)
+    for form in range(5):
+        number = struct.pack('<q', -1 << 62) if form == 1 else struct.pack('<f', 1e30) if form == 2 else b'\x0e<a href=x>\xff&#9;'
+        yield f'fields-{form}', b'\1' + b''.join(bytes((field, field % 3, 0, form)) + (number if form else b'') for field in range(6))
+    yield 'large', b'\1' + bytes((5, 0, 0x84, 5, 1, 0x87, 5, 2, 0x85, 1, 0, 0x81))
+
+
 def store_seeds():
     yield 'whole', b'\0'
     yield 'header', b'\0' + b''.join(struct.pack('<HBB', place, 0x41, 0) for place in (0, 18, 28, 60, 100, 103, 105))
@@ -193,7 +222,7 @@ def store_seeds():
 
 SEEDS = {'FuzzProfile': profile_seeds, 'FuzzProject': project_seeds, 'FuzzSettings': settings_seeds, 'FuzzLayouts': layout_seeds,
          'FuzzCandump': candump_seeds, 'FuzzFrames': frame_seeds, 'FuzzValues': value_seeds, 'FuzzFormula': formula_seeds, 'FuzzTile': tile_seeds,
-         'FuzzStore': store_seeds}
+         'FuzzMapDetail': map_detail_seeds, 'FuzzTileArchive': tile_archive_seeds, 'FuzzStore': store_seeds}
 
 
 def main():

@@ -141,7 +141,7 @@ QString ReportFront::moreText(const std::vector<IncidentSentence>& sentences, st
         limits += sentences[i].state >= eThresholdLimit ? sentences[i].incidents.size() : 0;
         incidents += sentences[i].incidents.size();
     }
-    return tr("Not told here: %1 more incidents, %2 of them beyond a limit, %3 warnings. The first %4 are shown as graphs.")
+    return tr("Not told here: %1 more of the incidents (beyond a limit: %2, warnings: %3). The first %4 are shown as graphs.")
         .arg(QString::number(incidents), QString::number(limits), QString::number(incidents - limits), QString::number(kMostGraphs));
 }
 

@@ -24,15 +24,10 @@ void interrupt(int /*signal*/)
     isInterrupted = 1;
 }
 
-std::string countText(uint64_t count, const char* what)
-{
-    return std::to_string(count) + " " + what;
-}
-
 std::string troubleText(const LiveCounts& counts)
 {
-    return countText(counts.errors, "errors, ") + countText(counts.losses, "losses, ") + countText(counts.remote, "remote, ") +
-           countText(counts.fd, "FD");
+    return countedText(counts.errors, "error", "errors") + ", " + countedText(counts.losses, "loss", "losses") + ", " +
+           std::to_string(counts.remote) + " remote, " + std::to_string(counts.fd) + " FD";
 }
 
 } // namespace
@@ -107,14 +102,14 @@ void LiveCommand::tellCounts()
 {
     const LiveCounts& counts = mpLink->counts();
     const unsigned int bitRate = mBitRate > 0 ? mBitRate : kUsualBitRate;
-    std::string line = countText(counts.frames, "frames, ") + countText(counts.frames - mTold.frames, "a second, ") + "load " +
+    std::string line = countedText(counts.frames, "frame", "frames") + ", " + std::to_string(counts.frames - mTold.frames) + " a second, load " +
                        tableNumber(static_cast<double>(counts.bits - mTold.bits) * 100 / bitRate, 0) + " %, " + troubleText(counts);
     if (mpLink->state() != BusLink::eConnected)
         line += ", not connected";
     else if (const QString status = mpLink->busStatus(); !status.isEmpty())
         line += ", bus " + status.toStdString();
     if (mpRecorder)
-        line += ", " + countText(mpRecorder->recorded(), "recorded");
+        line += ", " + std::to_string(mpRecorder->recorded()) + " recorded";
     mTold = counts;
     std::fprintf(stderr, "%s\n", line.c_str());
 }
@@ -138,8 +133,8 @@ int LiveCommand::tellEnd(double seconds) const
         number("recorded", recorded);
         status = print(json.endAnswer());
     } else {
-        status = print(countText(counts.frames, "frames in ") + tableNumber(seconds, 1) + " s, " + troubleText(counts) +
-                       (mpRecorder ? ", " + countText(recorded, "recorded") : "") + "\n");
+        status = print(countedText(counts.frames, "frame", "frames") + " in " + tableNumber(seconds, 1) + " s, " + troubleText(counts) +
+                       (mpRecorder ? ", " + std::to_string(recorded) + " recorded" : "") + "\n");
     }
     return mIsFailed ? static_cast<int>(eFailed) : status;
 }
@@ -172,7 +167,7 @@ int LiveCommand::replay(const BusAddress& address)
         return fail(mBus + ": " + ended.toStdString());
     if (sender.leftOut() > 0)
         say(mCard + ": records left out, since no frame has their identifier: " + std::to_string(sender.leftOut()));
-    return print(countText(sender.sent(), "of ") + countText(sender.count(), "frames sent\n"));
+    return print(std::to_string(sender.sent()) + " of " + countedText(sender.count(), "frame", "frames") + " sent\n");
 }
 
 } // namespace ZARN

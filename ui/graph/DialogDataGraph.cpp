@@ -176,14 +176,18 @@ void DialogDataGraph::updateFlights(RecordData* pRecord)
     findCourse(mRecord.hasRecord());
 }
 
-void DialogDataGraph::growRecord(RecordData* pRecord, bool isReviewed)
+void DialogDataGraph::growRecord(RecordData* pRecord, bool /*isReviewed*/)
 {
     mpGraph->setPaced(true);
     mRecord.updateFlights(pRecord);
     mpGraph->setPaced(false);
     mpCourseOf = mSession.container.record().get(); // of the same recording
-    if (isReviewed && mRecord.hasRecord())
-        mCourse.start(mSession.container.loaded());
+}
+
+void DialogDataGraph::growCourse(const std::shared_ptr<const CycleCourse>& pCourse)
+{
+    mCourse.stop();
+    setCourse(pCourse);
 }
 
 void DialogDataGraph::update(RecordData* pRecord)

@@ -32,6 +32,7 @@ public:
     void updateFlights(RecordData* pRecord) override;
     void growRecord(RecordData* pRecord, bool isReviewed) override;
     [[nodiscard]] int growthPeriod() const override { return 0; }
+    void growCourse(const std::shared_ptr<const CycleCourse>& pCourse) override;
     /// The course is shown elsewhere, too.
     void prepare(RecordData* pRecord) override;
     void setTime(double time) override;

@@ -2,9 +2,8 @@
 
 #include "analysis/CycleReview.h"
 #include "app/BackgroundTask.h"
+#include "app/GrowthTimer.h"
 #include "card/CardContainer.h"
-
-#include <QElapsedTimer>
 
 #include <memory>
 
@@ -19,7 +18,7 @@ public:
     explicit LiveReviewer(QObject* pParent = nullptr);
 
     /// Whether the time has come for the next one.
-    [[nodiscard]] bool isDue() const;
+    [[nodiscard]] bool isDue() const { return mPace.isDue() && !mTask.isRunning(); }
     /// @param container that shows the recording  @param pRecord what there is of it by now
     void start(const CardContainer& container, const DecodingContext& context, std::shared_ptr<RecordData> pRecord);
     /// What was begun is not told.
@@ -38,8 +37,7 @@ private:
     DecodingContext mContext;
     std::unique_ptr<CardContainer> mpDraft;
     CycleReview mReview;
-    QElapsedTimer mElapsed; ///< since it was begun
-    qint64 mDue = 0;        ///< milliseconds of that
+    GrowthTimer mPace;
     BackgroundTask mTask;   // the last: it refers to the others
 };
 

@@ -1,5 +1,7 @@
 #include "ui/live/LiveText.h"
 
+#include "app/Numeric.h"
+
 #include <QDir>
 #include <QLocale>
 #include <QStringList>
@@ -16,6 +18,12 @@ constexpr int kUsualBitRate = 1'000'000;
 QString number(double value)
 {
     return QLocale().toString(static_cast<qlonglong>(std::llround(value)));
+}
+
+/// For the forms of a text with a number.
+int plural(uint64_t count)
+{
+    return saturatingCast<int>(static_cast<double>(count));
 }
 
 } // namespace
@@ -42,7 +50,8 @@ QString LiveText::connection() const
     if (mStatus.state == BusLink::eClosed)
         return tr("%1: disconnected").arg(mBus);
     if (mStatus.state == BusLink::eConnected)
-        return mStatus.busStatus.isEmpty() ? tr("%1: connected").arg(mBus) : tr("%1: connected, bus %2").arg(mBus, mStatus.busStatus);
+        return mStatus.busStatus.isEmpty() ? tr("%1: connected, only listening").arg(mBus)
+                                           : tr("%1: connected, only listening, bus %2").arg(mBus, mStatus.busStatus);
     const QString text = mWasConnected ? tr("%1: connection lost, trying again ...") : tr("%1: connecting ...");
     return text.arg(mBus) + (mStatus.reason.isEmpty() ? QString() : " (" + mStatus.reason + ")");
 }
@@ -56,12 +65,12 @@ QString LiveText::counts() const
         parts << tr("%1 frames/s").arg(number(mFrames))
               << tr("load %1 % of %2 kbit/s").arg(number(mBits * 100.0 / bitRate), number(bitRate / 1000.0));
     } else {
-        parts << tr("%1 frames").arg(number(static_cast<double>(counts.frames)));
+        parts << tr("%Ln frame(s)", nullptr, plural(counts.frames));
     }
-    parts << tr("%1 errors").arg(number(static_cast<double>(counts.errors)))
-          << tr("%1 times frames lost").arg(number(static_cast<double>(counts.losses)));
+    parts << tr("%Ln error(s)", nullptr, plural(counts.errors))
+          << tr("frames lost: %Ln time(s)", nullptr, plural(counts.losses));
     if (counts.remote + counts.fd > 0)
-        parts << tr("%1 frames of other kinds").arg(number(static_cast<double>(counts.remote + counts.fd)));
+        parts << tr("%Ln frame(s) of other kinds", nullptr, plural(counts.remote + counts.fd));
     return parts.join(", ");
 }
 
@@ -71,7 +80,7 @@ QString LiveText::recording() const
         return tr("NOT RECORDED: %1").arg(mStatus.recordingError);
     if (mStatus.recorded == 0 && !mStatus.isRecording)
         return {};
-    return tr("%1 frames recorded").arg(number(static_cast<double>(mStatus.recorded)));
+    return tr("%Ln frame(s) recorded into %1", nullptr, plural(mStatus.recorded)).arg(QDir(mFolder).dirName());
 }
 
 QString LiveText::text() const

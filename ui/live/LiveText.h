@@ -12,8 +12,11 @@ class LiveText {
     Q_DECLARE_TR_FUNCTIONS(ZARN::LiveText)
 
 public:
-    /// @param bitRate of the bus; 0 when it is not known
-    explicit LiveText(QString bus = {}, int bitRate = 0) : mBus(std::move(bus)), mBitRate(bitRate) {}
+    /// @param bitRate of the bus; 0 when it is not known  @param folder that is recorded into
+    explicit LiveText(QString bus = {}, int bitRate = 0, QString folder = {})
+        : mBus(std::move(bus)), mBitRate(bitRate), mFolder(std::move(folder))
+    {
+    }
 
     /// To be called with each status that is told.
     void take(const LiveStatus& status);
@@ -28,6 +31,7 @@ private:
 
     QString mBus;
     int mBitRate;
+    QString mFolder;
     LiveStatus mStatus;
     bool mWasConnected = false;
     QElapsedTimer mClock;

@@ -162,7 +162,7 @@ void LogbookTrends::slotCurrent(int row)
     if (row < 0 || row >= static_cast<int>(mTrends.size()))
         return;
     const auto& pTrend = mTrends[static_cast<std::size_t>(row)];
-    mpTitle->setText(tr("%1, %2 flights").arg(nameOf(*pTrend)).arg(pTrend->trend.points.size()));
+    mpTitle->setText(tr("%1, %n flight(s)", nullptr, static_cast<int>(pTrend->trend.points.size())).arg(nameOf(*pTrend)));
     mpChart->setTrend(pTrend);
     mpPoint->setText(TrendScene::text(*pTrend, static_cast<int>(pTrend->trend.points.size()) - 1));
 }

@@ -40,6 +40,8 @@ FindController::FindController(const Session& session, RecordSession& record, Di
     connect(&mDelay, &QTimer::timeout, this, &FindController::search);
     connect(&mSearch, &LatestTask::signalFinished, this, &FindController::slotFound);
     connect(&mRecord, &RecordSession::recordChanged, this, &FindController::slotRecord);
+    connect(&mRecord, &RecordSession::recordGrown, &mPace, &GrowthTimer::grow);
+    connect(&mPace, &GrowthTimer::signalDue, this, &FindController::searchGrown);
     connect(&mRecord, &RecordSession::decodingChanged, this, &FindController::slotRecord);
     connect(&mRecord, &RecordSession::timeChanged, mpBar, &FindBar::setTime);
     connect(&mData, &DialogData::signalSettings, this, &FindController::updateTimes);
@@ -67,6 +69,7 @@ void FindController::slotRecord()
 {
     mAction.setEnabled(mRecord.record() != nullptr);
     mSearch.stop();
+    mPace.end();
     setHits({});
     updateTimes();
     if (mpBar->isHidden())
@@ -95,6 +98,7 @@ void FindController::updateParameters()
 void FindController::searchSoon()
 {
     mSearch.stop();
+    mPace.end();
     mDelay.start();
 }
 
@@ -103,6 +107,9 @@ void FindController::search()
 {
     mDelay.stop();
     mSearch.stop();
+    mPace.end();
+    mPace.forget();
+    mCondition.clear();
     if (mpBar->isHidden() || !mRecord.record())
         return;
     setHits({});
@@ -120,15 +127,29 @@ void FindController::search()
         return mpBar->setProblem(tr("Character %1: %2").arg(place + 1).arg(error.text()));
     }
     mpBar->setNote(tr("Searching..."));
-    mSearch.start(
-        [this, card = mSession.container.loaded(), condition = expression.toStdString(), atLeast = form.seconds()](Progress& progress) {
-            const auto within = card.flightNumber > 0 ? std::optional(TimeSpan{card.startTime, card.endTime}) : std::nullopt;
-            mFound = timesWhere(condition, atLeast, *card.pRecord, card.context, within, progress);
-        });
+    begin(expression.toStdString());
+}
+
+void FindController::begin(const std::string& condition)
+{
+    mCondition = condition;
+    mPace.begin();
+    mSearch.start([this, card = mSession.container.loaded(), condition, atLeast = mpBar->form().seconds()](Progress& progress) {
+        const auto within = card.flightNumber > 0 ? std::optional(TimeSpan{card.startTime, card.endTime}) : std::nullopt;
+        mFound = timesWhere(condition, atLeast, *card.pRecord, card.context, within, progress);
+    });
+}
+
+/// What was found stays until there is more.
+void FindController::searchGrown()
+{
+    if (!mpBar->isHidden() && mRecord.record() && !mCondition.empty() && !mDelay.isActive())
+        begin(mCondition);
 }
 
 void FindController::slotFound()
 {
+    mPace.end();
     const ConditionTimes times = std::exchange(mFound, {});
     mOperands = {times.operands.begin(), times.operands.end()};
     if (!mSearch.error().isEmpty())
@@ -153,6 +174,7 @@ void FindController::slotClosed()
 {
     mDelay.stop();
     mSearch.stop();
+    mPace.end();
     setHits({});
     mData.setFocus();
 }

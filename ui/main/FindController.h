@@ -1,6 +1,7 @@
 #pragma once
 
 #include "analysis/Condition.h"
+#include "app/GrowthTimer.h"
 #include "app/LatestTask.h"
 #include "project/Session.h"
 #include "ui/find/model/FindHits.h"
@@ -36,6 +37,8 @@ private:
     void updateParameters();
     void searchSoon();
     void search();
+    void begin(const std::string& condition);
+    void searchGrown();
     void slotFound();
     void slotClosed();
     void step(bool forward);
@@ -53,6 +56,8 @@ private:
     QTimer mDelay;                   ///< while the user types on
     std::set<std::string> mOperands; ///< of the condition that the hits are of
     ConditionTimes mFound;           ///< by the task
+    std::string mCondition;          ///< that was searched last; empty for none
+    GrowthTimer mPace;
     LatestTask mSearch;
 };
 

@@ -6,6 +6,7 @@
 #include "profile/Profile.h"
 #include "project/RecordSession.h"
 #include "ui/data/DialogData.h"
+#include "ui/graph/model/CycleCourse.h"
 #include "ui/live/DialogLive.h"
 #include "ui/live/LiveBar.h"
 #include "ui/main/CardController.h"
@@ -97,7 +98,7 @@ void LiveController::connectTo(const LiveWish& wish)
 {
     mFeed.close();
     mWish = wish;
-    mText = LiveText(wish.address.text(), wish.bitRate);
+    mText = LiveText(wish.address.text(), wish.bitRate, wish.folder);
     beginRun(kSecondsOfHour * Settings::kLiveHours.get(mSession.property));
     mFeed.open(wish);
     updateBar();
@@ -248,6 +249,7 @@ void LiveController::slotFound()
     if (mIsPaused)
         return; // the views hold what they show
     mSession.container.adoptFlights(mReviewer.draft());
+    mParts.data.graph().growCourse(std::make_shared<const CycleCourse>(CycleCourse::of(review, mSession.container.loadedCycle()->flights)));
     mHasReview = true;
     showNewest();
     const std::size_t flights = mSession.container.loadedCycle()->flights.size(), channels = mSession.container.recordData().channels().size();

@@ -1,5 +1,6 @@
 #include "ui/xy/DialogXy.h"
 
+#include "app/Numeric.h"
 #include "app/gui/WheelGuard.h"
 #include "card/CardContainer.h"
 #include "profile/Profile.h"
@@ -53,6 +54,8 @@ DialogXy::DialogXy(const Session& session, RecordSession& record, QWidget* pPare
     connect(mpView, &WidgetXy::signalMenu, this, &DialogXy::showMenu);
     connect(&mTask, &LatestTask::signalFinished, this, &DialogXy::slotFinished);
     connect(&mRecord, &RecordSession::recordChanged, this, &DialogXy::slotData);
+    connect(&mRecord, &RecordSession::recordGrown, &mPace, &GrowthTimer::grow);
+    connect(&mPace, &GrowthTimer::signalDue, this, &DialogXy::slotGrown);
     connect(&mRecord, &RecordSession::decodingChanged, this, &DialogXy::slotData);
     connect(&mRecord, &RecordSession::timeChanged, this, &DialogXy::showTime);
 }
@@ -112,6 +115,7 @@ void DialogXy::showEvent(QShowEvent* pEvent)
 void DialogXy::slotData()
 {
     mTask.stop();
+    mPace.end();
     mpView->setPoints({});
     mIsBehind = true;
     if (!isVisible())
@@ -158,6 +162,8 @@ XyChoice DialogXy::choice() const
 void DialogXy::refresh()
 {
     mTask.stop();
+    mPace.end();
+    mPace.forget();
     mIsBehind = true;
     if (!isVisible())
         return;
@@ -168,12 +174,28 @@ void DialogXy::refresh()
     if (mpSpan->currentIndex() == eMarked && !mMarked)
         return mpView->setMessage(tr("Nothing is marked in the graph: drag over a part of it."));
     mpView->setMessage(tr("One moment..."));
+    begin();
+}
+
+void DialogXy::begin()
+{
+    mPace.begin();
     mTask.start(
         [this, card = mSession.container.loaded(), choice = choice()](Progress& progress) { mFound = XyPoints(card, choice, progress); });
 }
 
+/// The points stay until there are more.
+void DialogXy::slotGrown()
+{
+    if (!isVisible())
+        mIsBehind = true;
+    else if (mRecord.record() && (mpSpan->currentIndex() != eMarked || mMarked))
+        begin();
+}
+
 void DialogXy::slotFinished()
 {
+    mPace.end();
     mIsBehind = false;
     mpView->setPoints(mTask.error().isEmpty() ? std::exchange(mFound, {}) : XyPoints());
     mpStatus->setText(status());
@@ -193,11 +215,11 @@ QString DialogXy::status() const
     const QLocale locale;
     if (points.samples() == 0)
         return tr("No sample lies in this part of the record.");
-    QString text = tr("%1 samples; the newest value of each parameter is held until its next.")
-                       .arg(locale.toString(static_cast<qulonglong>(points.samples())));
+    QString text = tr("%Ln sample(s); the newest value of each parameter is held until its next.", nullptr,
+                      saturatingCast<int>(static_cast<double>(points.samples())));
     if (points.dropped() > 0)
         text +=
-            ' ' + tr("%1 of them hold no finite number and are left out.").arg(locale.toString(static_cast<qulonglong>(points.dropped())));
+            ' ' + tr("Left out, since they hold no finite number: %1.").arg(locale.toString(static_cast<qulonglong>(points.dropped())));
     return text;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/GrowthTimer.h"
 #include "app/LatestTask.h"
 #include "project/Session.h"
 #include "ui/xy/model/XyPoints.h"
@@ -31,6 +32,8 @@ public:
     [[nodiscard]] WidgetXy& view() { return *mpView; }
     /// Works the points out now or, while hidden, when it is shown.
     void refresh();
+    void begin();
+    void slotGrown();
 
 protected:
     void showEvent(QShowEvent* pEvent) override;
@@ -60,6 +63,7 @@ private:
     std::optional<TimeSpan> mMarked;
     bool mIsBehind = true; ///< something has changed that the points do not show
     XyPoints mFound;       ///< by the task
+    GrowthTimer mPace;
     LatestTask mTask;
 };
 

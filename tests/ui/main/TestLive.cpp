@@ -7,11 +7,18 @@
 #include "ui/data/model/LiveTableModel.h"
 #include "ui/graph/WidgetGraphES.h"
 #include "ui/graph/model/TraceSlot.h"
+#include "ui/find/FindBar.h"
+#include "ui/find/FindForm.h"
 #include "ui/live/LiveBar.h"
 #include "ui/main/DesktopFixture.h"
 #include "ui/main/LiveController.h"
+#include "ui/xy/DialogXy.h"
+#include "ui/xy/WidgetXy.h"
 
+#include <QAction>
 #include <QLabel>
+#include <QLineEdit>
+#include <QToolButton>
 
 #include <algorithm>
 
@@ -156,13 +163,28 @@ void TestLive::looksBack()
     feed(0, 100);
     QTRY_COMPARE(pData->viewTime(), latest(100));
     QTRY_COMPARE(desktop.main.findChild<WidgetGraphES*>()->model().window().contains(latest(100)), true);
+
+    // What was found of it, and what is drawn, grows by itself.
+    desktop.main.action(eActionFind)->trigger();
+    auto* pFind = desktop.main.findChild<FindBar*>();
+    pFind->findChild<QToolButton*>()->click();
+    for (QLineEdit* pEdit : pFind->form().findChildren<QLineEdit*>())
+        pEdit->setText(pEdit->placeholderText().isEmpty() ? pEdit->text() : "\"Engine Speed A\" > 0");
+    desktop.main.action(eActionXy)->trigger();
+    const XyPoints& points = desktop.main.findChild<DialogXy*>()->view().points();
+    const std::vector<TimeSpan>& found = desktop.main.findChild<WidgetGraphES*>()->model().scenery().found();
+    QTRY_VERIFY(points.samples() > 0 && !found.empty());
+    const std::size_t samples = points.samples();
+    feed(100, 110);
+    QTRY_VERIFY(points.samples() > samples && found.back().end > latest(105));
+
     pData->slotTableTime(20.0);
     QTRY_VERIFY(desktop.pLive->isPaused());
     const std::size_t all = mBatches.size();
-    feed(100, all);
+    feed(110, all);
     QTest::qWait(200);
     QCOMPARE(pData->viewTime(), 20.0);
-    QCOMPARE(desktop.fixture.container.endTime(), latest(100));
+    QCOMPARE(desktop.fixture.container.endTime(), latest(110));
 
     // What happened meanwhile is told, and shown with a click.
     auto* pBar = desktop.main.findChild<LiveBar*>();

@@ -8,6 +8,7 @@
 #include "ui/data/model/GraphMoment.h"
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -16,6 +17,7 @@ namespace ZARN {
 
 class EventList;
 class RecordData;
+struct CycleCourse;
 
 /// A view of the loaded record that follows the common view time. Who keeps it up to date, and when, is its ViewLink.
 class DataView {
@@ -40,6 +42,8 @@ public:
 
     /// The record that is shown has become longer, and may have lost its beginning. @param isReviewed flights and path are others, too
     virtual void growRecord(RecordData* pRecord, bool /*isReviewed*/) { updateRecord(pRecord); }
+    /// The course of a record that grows, as it is by now: who lets it grow has worked it out.
+    virtual void growCourse(const std::shared_ptr<const CycleCourse>& /*pCourse*/) {}
     /// Milliseconds after which it is worth while to be told that again.
     [[nodiscard]] virtual int growthPeriod() const { return 250; }
 

@@ -2,13 +2,28 @@
 
 #include <QLocale>
 
+#include <algorithm>
+
 namespace ZARN {
 
 void FindTableModel::setSpans(const std::vector<TimeSpan>& spans)
 {
-    beginResetModel();
+    const auto isSame = [](const TimeSpan& a, const TimeSpan& b) { return a.start == b.start; };
+    const bool isGrown = !mSpans.empty() && spans.size() >= mSpans.size() && std::equal(mSpans.begin(), mSpans.end(), spans.begin(), isSame);
+    if (!isGrown) {
+        beginResetModel();
+        mSpans = spans;
+        endResetModel();
+        return;
+    }
+    const int before = rowCount();
+    const bool hasNew = spans.size() > mSpans.size();
+    if (hasNew)
+        beginInsertRows({}, before, static_cast<int>(spans.size()) - 1);
     mSpans = spans;
-    endResetModel();
+    if (hasNew)
+        endInsertRows();
+    Q_EMIT dataChanged(index(0, 1), index(before - 1, 2)); // the last one may go on
 }
 
 void FindTableModel::setTimes(const TimeReference& times)

@@ -16,6 +16,7 @@ class FindTableModel : public QAbstractTableModel {
 public:
     using QAbstractTableModel::QAbstractTableModel;
 
+    /// Rows of spans that begin as before stay what they are.
     void setSpans(const std::vector<TimeSpan>& spans);
     void setTimes(const TimeReference& times);
 

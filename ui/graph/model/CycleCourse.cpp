@@ -8,12 +8,16 @@ namespace ZARN {
 
 CycleCourse CycleCourse::of(const LoadedCard& loaded)
 {
-    const CycleReview review = reviewCycle(loaded.values(), loaded.flights, loaded.wholeEnd);
+    return of(reviewCycle(loaded.values(), loaded.flights, loaded.wholeEnd), loaded.flights);
+}
+
+CycleCourse CycleCourse::of(const CycleReview& review, const std::vector<RecordFlight>& flights)
+{
     CycleCourse course;
     course.phases = review.phases;
     if (review.engine.isKnown())
         course.engine = review.engine.stretches();
-    for (const RecordFlight& flight : loaded.flights) {
+    for (const RecordFlight& flight : flights) {
         course.flights.push_back({flight.takeOffTime, flight.landingTime});
         course.figured.push_back({flight.startTime, flight.endTime});
     }

@@ -8,6 +8,8 @@
 
 namespace ZARN {
 
+struct CycleReview;
+
 /// What happened in a cycle: phases, engine, flights, incidents. A plain value.
 struct CycleCourse {
     struct Mark {
@@ -22,6 +24,7 @@ struct CycleCourse {
     std::vector<TimeSpan> figured; ///< flights with what is before and after them: what their figures are of
     std::vector<Mark> incidents;   ///< by start
 
+    [[nodiscard]] static CycleCourse of(const CycleReview& review, const std::vector<RecordFlight>& flights);
     /// Reads all of the cycle.
     [[nodiscard]] static CycleCourse of(const LoadedCard& loaded);
 };

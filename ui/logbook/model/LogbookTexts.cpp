@@ -87,7 +87,7 @@ QString LogbookTexts::totals(const LogbookTotals& totals)
                       tr("in flight %1 h").arg(duration(totals.flightTime))};
     if (totals.running) {
         const QString hours = tr("engine ran %1 h in these cycles").arg(duration(*totals.running));
-        parts.append(totals.cyclesWithoutEngine == 0 ? hours : tr("%1 (%2 cycles do not tell)").arg(hours).arg(totals.cyclesWithoutEngine));
+        parts.append(totals.cyclesWithoutEngine == 0 ? hours : tr("%1 (%n cycle(s) do not tell)", nullptr, static_cast<int>(totals.cyclesWithoutEngine)).arg(hours));
     }
     if (totals.fuel)
         parts.append(tr("fuel in flight %1 l").arg(decimal(*totals.fuel)));
