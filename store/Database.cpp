@@ -2,6 +2,7 @@
 
 #include "store/StoreText.h"
 
+#include <cerrno>
 #include <cstdlib>
 #include <cstring>
 
@@ -137,6 +138,10 @@ bool Statement::isNull(int column) const
 Database::Database(const std::string& path, EMode mode) : mPath(path)
 {
     struct stat status = {};
+    if (path.empty()) { // which would be a store for the time being, kept nowhere
+        fail(QString::fromLocal8Bit(std::strerror(ENOENT)));
+        return;
+    }
     if (::stat(path.c_str(), &status) == 0 && !S_ISREG(status.st_mode)) {
         fail(tr("it is no file"));
         return;
