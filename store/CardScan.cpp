@@ -64,14 +64,11 @@ std::string CardScan::take(const Result& result, const std::function<void(const 
     return mTarget.write(card);
 }
 
-/// Copies of a card that are read side by side are worked out each, but are one recording, whatever the number of workers.
+/// Copies of a card that are read side by side are worked out each, yet are one recording, whatever the number of workers.
 void CardScan::count(const CycleFacts& cycle)
 {
-    while (!mLatest.empty() && mLatest.front().first + ahead() < mCount.cards)
-        mLatest.pop_front();
-    if (std::ranges::find(mLatest, cycle.head.id, &Counted::second) != mLatest.end())
+    if (!mCounted.insert(std::hash<std::string>()(cycle.head.id)).second)
         return;
-    mLatest.emplace_back(mCount.cards, cycle.head.id);
     ++mCount.cycles;
     mCount.flights += cycle.flights.size();
 }

@@ -4,11 +4,11 @@
 #include "store/ScanTarget.h"
 
 #include <condition_variable>
-#include <deque>
 #include <functional>
 #include <map>
 #include <mutex>
 #include <thread>
+#include <unordered_set>
 
 namespace ZARN {
 
@@ -50,9 +50,7 @@ private:
     };
     void work(const std::vector<std::string>& cards);
     [[nodiscard]] Result read(const std::string& path) const;
-    /// How many cards are read at most before the one whose turn it is was written.
-    [[nodiscard]] std::size_t ahead() const { return 4u * mJobs; }
-    [[nodiscard]] bool isOpen(std::size_t place) const { return place < mWritten + ahead(); }
+    [[nodiscard]] bool isOpen(std::size_t place) const { return place < mWritten + 4u * mJobs; }
     void count(const CycleFacts& cycle);
     std::string take(const Result& result, const std::function<void(const std::string&)>& problem);
     void end(std::vector<std::thread>& workers);
@@ -63,8 +61,7 @@ private:
     const unsigned int mJobs;
     Progress& mProgress;
     ScanCount mCount;
-    using Counted = std::pair<std::size_t, std::string>; ///< number of a card, from 1, and identity of a cycle
-    std::deque<Counted> mLatest;
+    std::unordered_set<std::size_t> mCounted; // hashes of cycles
     std::mutex mGuard; // of what follows
     std::condition_variable mChanged;
     std::map<std::size_t, Result> mResults; // that wait for their turn

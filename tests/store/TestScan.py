@@ -44,10 +44,10 @@ def check_values(store, card):
             sha.hexdigest())] == [[incident['title'], incident['phase'], incident['flight']] for incident in cycle['incidents']]
 
 
-def check_killed(folder, whole, kills):
+def check_killed(folder, whole, line, kills):
     """However often it is killed, the same call goes on, and the end is that of an undisturbed scan."""
     began = time.monotonic()
-    run('scan', folder, '-o', f'{folder}/../timed.sqlite', '--jobs', 2)
+    assert run('scan', folder, '-o', f'{folder}/../timed.sqlite', '--jobs', 2)[0] == line    # copies side by side, too
     length, rng, store, hits, ends = time.monotonic() - began, random.Random(7), f'{folder}/../killed.sqlite', 0, 0
     while hits < kills or os.path.exists(store):
         status = killed([ZARN, 'scan', folder, '-o', store, '--jobs', '2'], rng.random() * length * rng.choice([0.1, 0.5, 1]) if hits < kills else None)
@@ -184,7 +184,7 @@ def main():
         folder, store = f'{work}/cards', f'{work}/store.sqlite'
         count = int(sys.argv[3]) if len(sys.argv) > 3 else 6
         cards = make_cards(folder, count)
-        run('scan', folder, '-o', store, '--jobs', 1)
+        line = run('scan', folder, '-o', store, '--jobs', 1)[0]
         whole = dump(store)
         for card in [*cards[:2], f'{folder}/twin', f'{folder}/zbad']:
             check_values(store, card)
@@ -200,7 +200,7 @@ def main():
         first, last = [row['hours'] for row in rows(store, "SELECT hours FROM reading WHERE engine_id = 'DEMO-000001' ORDER BY date")]
         ran = rows(store, "SELECT engine_running AS s FROM cycle WHERE engine_id = 'DEMO-000001' AND number = 2")[0]['s']
         assert abs(last - first - ran / 3600) < 0.01
-        check_killed(folder, whole, kills)
+        check_killed(folder, whole, line, kills)
         check_changes(work, cards)
         check_bad_stores(work, cards[0])
         check_removed(work, folder)
