@@ -117,7 +117,7 @@ int CardCommand::run()
 std::string CardCommand::loadProfile()
 {
     mProfile.setCurrentUnit(mUnit == "imperial" ? EUnit::eImperial : EUnit::eMetric);
-    return loadProfileFile(mProfile, mProfileFile.empty() ? shippedProfile("915") : mProfileFile, mVariant);
+    return loadProfileFile(mProfile, isGiven("--profile") ? mProfileFile : shippedProfile("915"), mVariant);
 }
 
 std::string CardCommand::openCard(const std::string& path)

@@ -41,7 +41,7 @@ protected:
 
     Profile mProfile;
     CardContainer mContainer;
-    std::string mProfileFile; ///< empty: the shipped one
+    std::string mProfileFile; ///< where it is given, else the shipped one
     std::string mVariant;
     std::string mUnit = "metric";
 

@@ -30,7 +30,8 @@ int Command::print(const std::string& text)
 
 void Command::say(const std::string& message)
 {
-    std::fprintf(stderr, "zarn-cli: %s\n", visibleText(message).c_str());
+    const char* pName = message.starts_with(": ") ? "\"\"" : ""; // what has no name is told by that
+    std::fprintf(stderr, "zarn-cli: %s%s\n", pName, visibleText(message).c_str());
 }
 
 int Command::fail(const std::string& message)

@@ -76,7 +76,7 @@ int CommandScan::run()
 
 std::string CommandScan::prepare()
 {
-    const std::string file = mProfileFile.empty() ? shippedProfile("915") : mProfileFile;
+    const std::string file = isGiven("--profile") ? mProfileFile : shippedProfile("915");
     const std::string problem = loadProfileFile(mProfile, file, mVariant);
     if (!problem.empty())
         return problem;
@@ -94,50 +94,50 @@ int CommandScan::scan(const std::vector<std::string>& paths)
     CardFinder finder;
     for (const std::string& path : paths)
         finder.add(path);
-    const std::vector<std::string> cards = finder.take();
-    const std::vector<CardFinder::Failure>& failures = finder.failures();
-    for (const CardFinder::Failure& failure : failures)
+    const CardFinder::Found found = finder.take();
+    for (const CardFinder::Failure& failure : found.failures)
         say(failure.path + ": " + failure.reason);
-    const int status = mFormat == "parquet" ? scanParquet(cards, failures) : scanSqlite(cards, failures);
-    const bool isMissing = std::ranges::any_of(failures, &CardFinder::Failure::isSystemError);
-    const bool isIncomplete = isMissing || mCount.unread > 0 || (cards.empty() && !failures.empty());
+    const int status = mFormat == "parquet" ? scanParquet(found) : scanSqlite(found);
+    const bool isMissing = std::ranges::any_of(found.failures, &CardFinder::Failure::isSystemError);
+    const bool isIncomplete = isMissing || mCount.unread > 0 || (found.cards.empty() && !found.failures.empty());
     if (status != eDone)
         return status;
     return std::max(print(countText(mCount)), isIncomplete ? static_cast<int>(eFailed) : static_cast<int>(eDone));
 }
 
-int CommandScan::scanParquet(const std::vector<std::string>& cards, const std::vector<CardFinder::Failure>& failures)
+int CommandScan::scanParquet(const CardFinder::Found& found)
 {
     ParquetDataset dataset(mStore, mKey, mProfile.context(), mSamples);
     std::string problem = dataset.prepare();
     if (problem.empty())
-        problem = scanInto(dataset, cards, failures);
+        problem = scanInto(dataset, found);
     return problem.empty() ? eDone : fail(problem);
 }
 
-int CommandScan::scanSqlite(const std::vector<std::string>& cards, const std::vector<CardFinder::Failure>& failures)
+int CommandScan::scanSqlite(const CardFinder::Found& found)
 {
     std::error_code ignored;
-    if (cards.empty() && !failures.empty() && !std::filesystem::exists(mStore, ignored))
+    if (found.cards.empty() && !found.failures.empty() && !std::filesystem::exists(mStore, ignored))
         return eFailed; // said already; a store of that alone helps nobody
     Store store(mStore, mKey);
     std::string problem = store.error();
     if (problem.empty())
         problem = store.writePrecisions(mProfile.model());
     if (problem.empty())
-        problem = scanInto(store, cards, failures);
+        problem = scanInto(store, found);
     if (problem.empty())
         problem = store.finish();
     return problem.empty() ? eDone : fail(problem);
 }
 
-std::string CommandScan::scanInto(ScanTarget& target, const std::vector<std::string>& cards,
-                                  const std::vector<CardFinder::Failure>& failures)
+std::string CommandScan::scanInto(ScanTarget& target, const CardFinder::Found& found)
 {
-    for (const CardFinder::Failure& failure : failures) {
+    if (const std::string problem = target.forgetFailures(found.others); !problem.empty())
+        return problem;
+    for (const CardFinder::Failure& failure : found.failures) {
         CardFacts facts;
         facts.listing.path = failure.path;
-        facts.name = failure.path.substr(failure.path.rfind('/') + 1);
+        facts.name = nameOfCard(failure.path);
         facts.engineId = engineOfCard(facts.name);
         facts.problems.push_back({{}, QString::fromStdString(failure.reason), failure.isSystemError});
         const std::string problem = target.write(facts);
@@ -148,7 +148,7 @@ std::string CommandScan::scanInto(ScanTarget& target, const std::vector<std::str
     const unsigned int jobs = mJobs > 0 ? mJobs : std::max(1u, std::thread::hardware_concurrency());
     CardScan cardScan(console(), mProfile.context(), target, jobs);
     const std::string ended = cardScan.run(
-        cards, [&](const ScanCount& count) { tellProgress(count, cards.size()); },
+        found.cards, [&](const ScanCount& count) { tellProgress(count, found.cards.size()); },
         [this](const std::string& problem) {
             clearProgress();
             say(problem);

@@ -16,12 +16,11 @@ public:
 
 private:
     int scan(const std::vector<std::string>& paths);
-    int scanParquet(const std::vector<std::string>& cards, const std::vector<CardFinder::Failure>& failures);
-    int scanSqlite(const std::vector<std::string>& cards, const std::vector<CardFinder::Failure>& failures);
+    int scanParquet(const CardFinder::Found& found);
+    int scanSqlite(const CardFinder::Found& found);
     [[nodiscard]] std::string prepare();
     /// @return what ended the scan; empty when nothing did
-    [[nodiscard]] std::string scanInto(ScanTarget& target, const std::vector<std::string>& cards,
-                                       const std::vector<CardFinder::Failure>& failures);
+    [[nodiscard]] std::string scanInto(ScanTarget& target, const CardFinder::Found& found);
     void tellProgress(const ScanCount& count, std::size_t cards);
     void clearProgress();
 

@@ -93,10 +93,10 @@ CardListing listCard(const std::string& path)
 void CardFinder::add(const std::string& path)
 {
     const std::string absolute = absolutePath(path);
-    const std::size_t cards = mCards.size(), failures = mFailures.size();
+    const std::size_t cards = mFound.cards.size(), failures = mFound.failures.size();
     search(absolute);
-    if (mCards.size() == cards && mFailures.size() == failures)
-        mFailures.push_back({absolute, tr("the folder holds no record file (%1)").arg(RecordFormats::patternText()).toStdString(), false});
+    if (mFound.cards.size() == cards && mFound.failures.size() == failures)
+        mFound.failures.push_back({absolute, tr("the folder holds no record file (%1)").arg(RecordFormats::patternText()).toStdString(), false});
 }
 
 void CardFinder::search(const std::string& folder)
@@ -110,19 +110,25 @@ void CardFinder::search(const std::string& folder)
             mayBeCard = mayBeCard || (!name.starts_with('.') && RecordFormats::ofName(name));
     });
     if (error != 0)
-        mFailures.push_back({folder, error == ENOENT ? tr("no such folder").toStdString() : std::strerror(error), true});
-    if (mayBeCard && holdsRecord(listCard(folder)))
-        mCards.push_back(folder);
+        mFound.failures.push_back({folder, error == ENOENT ? tr("no such folder").toStdString() : std::strerror(error), true});
+    const bool isCard = mayBeCard && holdsRecord(listCard(folder));
+    if (isCard || error == 0)
+        (isCard ? mFound.cards : mFound.others).push_back(folder);
     for (const std::string& below : folders)
         search(below);
 }
 
-std::vector<std::string> CardFinder::take()
+CardFinder::Found CardFinder::take()
 {
-    std::ranges::sort(mCards);
-    const auto repeated = std::ranges::unique(mCards);
-    mCards.erase(repeated.begin(), repeated.end());
-    return std::move(mCards);
+    for (std::vector<std::string>* pPaths : {&mFound.cards, &mFound.others}) {
+        std::ranges::sort(*pPaths);
+        const auto repeated = std::ranges::unique(*pPaths);
+        pPaths->erase(repeated.begin(), repeated.end());
+    }
+    std::erase_if(mFound.others, [this](const std::string& path) {
+        return std::ranges::find(mFound.failures, path, &Failure::path) != mFound.failures.end();
+    });
+    return std::move(mFound);
 }
 
 } // namespace ZARN

@@ -37,16 +37,20 @@ public:
         bool isSystemError = false; ///< else it holds no card
     };
 
+    struct Found {
+        std::vector<std::string> cards;
+        std::vector<Failure> failures;
+        std::vector<std::string> others; ///< folders that are neither
+    };
+
     void add(const std::string& path);
-    /// All that were found.
-    [[nodiscard]] std::vector<std::string> take();
-    [[nodiscard]] const std::vector<Failure>& failures() const { return mFailures; }
+    /// All that was found.
+    [[nodiscard]] Found take();
 
 private:
     void search(const std::string& folder);
 
-    std::vector<std::string> mCards;
-    std::vector<Failure> mFailures;
+    Found mFound;
 };
 
 } // namespace ZARN

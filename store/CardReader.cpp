@@ -5,6 +5,7 @@
 #include "app/Progress.h"
 #include "card/PowerUp.h"
 #include "store/CycleIdentity.h"
+#include "store/StoreText.h"
 #include "trace/TraceSet.h"
 
 #include <algorithm>
@@ -79,6 +80,9 @@ void CardReader::readCycles(CardContainer& container, CardFacts& card, std::stri
         else
             markFiles(card, cycle, id);
         mSeen.insert(id);
+        std::erase_if(told, [&card](const CardProblem& problem) { // a copy may have files of other names
+            return std::ranges::none_of(card.listing.files, [&](const ListedFile& file) { return storeText(file.name) == problem.file; });
+        });
         keepProblems(told, card);
         if (mProgress.isCancelled())
             failure = tr("ended before it was done").toStdString();

@@ -21,7 +21,7 @@ CardScan::Result CardScan::read(const std::string& path) const
     } catch (const std::exception& error) { // too little memory, as a rule: the other cards need not be as large
         result.card = {};
         result.card.listing.path = kept;
-        result.card.name = kept.substr(kept.rfind('/') + 1);
+        result.card.name = nameOfCard(kept);
         result.card.engineId = engineOfCard(result.card.name);
         result.card.problems.push_back({{}, QString::fromUtf8(error.what()), true});
         result.card.isWhole = false;
@@ -59,10 +59,18 @@ std::string CardScan::take(const Result& result, const std::function<void(const 
         ++mCount.unread;
     else if (!card.problems.empty())
         ++mCount.damaged;
-    mCount.cycles += card.cycles.size();
     for (const CycleFacts& cycle : card.cycles)
-        mCount.flights += cycle.flights.size();
+        count(cycle);
     return mTarget.write(card);
+}
+
+/// Copies of a card that are read side by side are worked out each, yet are one recording, whatever the number of workers.
+void CardScan::count(const CycleFacts& cycle)
+{
+    if (!mCounted.insert(std::hash<std::string>()(cycle.head.id)).second)
+        return;
+    ++mCount.cycles;
+    mCount.flights += cycle.flights.size();
 }
 
 std::string CardScan::run(const std::vector<std::string>& cards, const Told& told, const std::function<void(const std::string&)>& problem)

@@ -8,6 +8,7 @@
 #include <map>
 #include <mutex>
 #include <thread>
+#include <unordered_set>
 
 namespace ZARN {
 
@@ -50,6 +51,7 @@ private:
     void work(const std::vector<std::string>& cards);
     [[nodiscard]] Result read(const std::string& path) const;
     [[nodiscard]] bool isOpen(std::size_t place) const { return place < mWritten + 4u * mJobs; }
+    void count(const CycleFacts& cycle);
     std::string take(const Result& result, const std::function<void(const std::string&)>& problem);
     void end(std::vector<std::thread>& workers);
 
@@ -59,6 +61,7 @@ private:
     const unsigned int mJobs;
     Progress& mProgress;
     ScanCount mCount;
+    std::unordered_set<std::size_t> mCounted; // hashes of cycles
     std::mutex mGuard; // of what follows
     std::condition_variable mChanged;
     std::map<std::size_t, Result> mResults; // that wait for their turn

@@ -75,22 +75,22 @@ void CardWriter::insertProblem(int64_t card, const std::string& file, const std:
     mDatabase.prepared("INSERT INTO problem (card_id, file, reason) VALUES (?, ?, ?)").with({card, textOrNothing(file), reason}).run();
 }
 
-/// What is known only from loading a cycle is told when it is loaded: of the files of a cycle that was loaded before, from this card or a
-/// twin of it, what was told then still holds.
+void CardWriter::forgetFailure(const std::string& path)
+{
+    const Row folder{storeText(path)};
+    mDatabase.prepared("DELETE FROM problem WHERE file IS NULL AND card_id = (SELECT card_id FROM card WHERE path = ?)").with(folder).run();
+    mDatabase
+        .prepared("DELETE FROM card WHERE path = ? AND card_id NOT IN (SELECT card_id FROM file WHERE file.card_id = card.card_id UNION ALL "
+                  "SELECT card_id FROM cycle WHERE cycle.card_id = card.card_id)")
+        .with(folder)
+        .run();
+}
+
 void CardWriter::writeProblems(int64_t card, const CardFacts& facts)
 {
     std::set<std::pair<std::string, std::string>> problems;
     for (const CardProblem& problem : facts.problems)
         problems.emplace(storeText(problem.file), problem.reason.toStdString());
-    Statement& told =
-        mDatabase.prepared("SELECT DISTINCT reason FROM problem JOIN file ON file.card_id = problem.card_id AND file.name = problem.file "
-                           "WHERE cycle_id = ? AND file.name = ?");
-    for (std::size_t i = 0; i < facts.listing.files.size(); ++i) {
-        const std::string name = storeText(facts.listing.files[i].name);
-        told.with({facts.cycleOfFile[i], name});
-        while (told.next())
-            problems.emplace(name, told.text(0));
-    }
     mDatabase.prepared("DELETE FROM problem WHERE card_id = ?").with({card}).run();
     for (const auto& [file, reason] : problems)
         insertProblem(card, file, reason);
@@ -182,6 +182,8 @@ void CardWriter::writeEngine(const EngineIdentity& engine)
 void CardWriter::writeReading(const std::string& engine, const HoursReading& reading)
 {
     const std::string date = storeDate(reading.date);
+    if (date.empty())
+        return;
     mDatabase.prepared("DELETE FROM reading WHERE engine_id = ? AND date = ? AND source = 'unit'").with({engine, date}).run();
     mDatabase.prepared("INSERT INTO reading (engine_id, date, hours, source) VALUES (?, ?, ?, 'unit')")
         .with({engine, date, reading.hours})

@@ -15,6 +15,8 @@ public:
     void write(const CardFacts& card);
     /// Whether a cycle was worked out as it would be now.
     [[nodiscard]] bool hasCycle(const std::string& id);
+    /// A folder in which nothing could be read is one that can, and is no card.
+    void forgetFailure(const std::string& path);
 
 private:
     int64_t writeCard(const CardFacts& card);

@@ -47,6 +47,11 @@ std::string cycleIdentity(const std::vector<std::string>& paths)
     return hash.result().toHex().toStdString();
 }
 
+std::string nameOfCard(const std::string& path)
+{
+    return path.substr(path.rfind('/') + 1);
+}
+
 std::string engineOfCard(const std::string& name)
 {
     return "card:" + storeText(name);
@@ -82,7 +87,8 @@ std::vector<std::string> cyclePaths(const RecordCycle& cycle)
 
 CycleHead cycleHead(const CardContainer& card, uint32_t number, const RecordCycle& cycle)
 {
-    return {cycleIdentity(cyclePaths(cycle)), cycleEngine(card, cycle), number, cycle.dateTime};
+    const QDateTime date = isStoreDate(cycle.dateTime) ? cycle.dateTime : QDateTime();
+    return {cycleIdentity(cyclePaths(cycle)), cycleEngine(card, cycle), number, date};
 }
 
 } // namespace ZARN

@@ -15,6 +15,8 @@ namespace ZARN {
 /// The same of a cycle of a card, and whose it is.
 [[nodiscard]] CycleHead cycleHead(const CardContainer& card, uint32_t number, const RecordCycle& cycle);
 
+/// The name of the card at a path.
+[[nodiscard]] std::string nameOfCard(const std::string& path);
 /// The engine of a card of that name that tells neither its serial number nor that of its unit.
 [[nodiscard]] std::string engineOfCard(const std::string& name);
 

@@ -2,6 +2,7 @@
 
 #include "store/StoreText.h"
 
+#include <cerrno>
 #include <cstdlib>
 #include <cstring>
 
@@ -33,6 +34,22 @@ int flagsOf(Database::EMode mode)
     case Database::eReadOnly: break;
     }
     return SQLITE_OPEN_READONLY;
+}
+
+int64_t writtenAt(const struct stat& status)
+{
+#ifdef __APPLE__
+    const timespec& time = status.st_mtimespec;
+#else
+    const timespec& time = status.st_mtim;
+#endif
+    return int64_t{time.tv_sec} * 1'000'000'000 + time.tv_nsec;
+}
+
+bool isEmpty(const std::string& path)
+{
+    struct stat status = {};
+    return ::stat(path.c_str(), &status) != 0 || status.st_size == 0;
 }
 
 /// The name of a file that nobody writes.
@@ -137,6 +154,10 @@ bool Statement::isNull(int column) const
 Database::Database(const std::string& path, EMode mode) : mPath(path)
 {
     struct stat status = {};
+    if (path.empty()) { // which would be a store for the time being, kept nowhere
+        fail(QString::fromLocal8Bit(std::strerror(ENOENT)));
+        return;
+    }
     if (::stat(path.c_str(), &status) == 0 && !S_ISREG(status.st_mode)) {
         fail(tr("it is no file"));
         return;
@@ -146,9 +167,10 @@ Database::Database(const std::string& path, EMode mode) : mPath(path)
     if (mode != eReadWrite) {
         // Where nothing can be written a reader cannot announce itself; nobody writes there.
         const int code = sqlite3_exec(mpDatabase, "SELECT 1 FROM sqlite_master", nullptr, nullptr, nullptr) % 256;
-        if (code == SQLITE_CANTOPEN || code == SQLITE_READONLY) {
+        const bool isFull = sqlite3_system_errno(mpDatabase) == ENOSPC && isEmpty(path + "-wal"); // else the file alone is not all
+        if (code == SQLITE_CANTOPEN || code == SQLITE_READONLY || (code != SQLITE_OK && isFull)) {
             close();
-            open(immutable(path), SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
+            mIsFixed = open(immutable(path), SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
         }
     }
     if (mode == eReadWrite && sqlite3_db_readonly(mpDatabase, "main") == 1)
@@ -156,13 +178,15 @@ Database::Database(const std::string& path, EMode mode) : mPath(path)
     if (::stat(path.c_str(), &status) == 0) {
         mDevice = status.st_dev;
         mInode = status.st_ino;
+        mWritten = writtenAt(status);
     }
 }
 
 bool Database::isInPlace() const
 {
     struct stat status = {};
-    return ::stat(mPath.c_str(), &status) == 0 && status.st_dev == mDevice && status.st_ino == mInode;
+    return ::stat(mPath.c_str(), &status) == 0 && status.st_dev == mDevice && status.st_ino == mInode &&
+           (!mIsFixed || writtenAt(status) == mWritten); // which nothing else tells there
 }
 
 bool Database::open(const std::string& name, int flags)

@@ -12,6 +12,14 @@ namespace {
 // An engine together with those that were merged into it.
 constexpr const char* kSame = "(engine_id = ?1 OR engine_id IN (SELECT engine_id FROM engine_merge WHERE merged_into = ?1))";
 
+/// The unit's clock at a date of a cycle's recording. One that does not begin with the start of a cycle is dated by the beginning of its first
+/// file, while its times count from power-up.
+std::string clockOf(const std::string& date)
+{
+    return "CASE WHEN cycle.number = 0 THEN coalesce(strftime('%Y-%m-%dT%H:%M:%S', " + date + ", -cycle.start_time || ' seconds'), " + date +
+           ") ELSE " + date + " END";
+}
+
 QDateTime dateOf(const std::string& text)
 {
     QDateTime date = QDateTime::fromString(QString::fromStdString(text), Qt::ISODate);
@@ -53,7 +61,7 @@ std::vector<LogbookEntry> LogbookReader::entries(std::span<const int64_t> flight
 {
     std::vector<LogbookEntry> entries;
     Statement& found = mDatabase.prepared(
-        "SELECT flight_id, cycle.cycle_id, flight.date_time, engine_id, aircraft.name, card.path, card.name, cycle.number, flight.number, "
+        "SELECT flight_id, cycle.cycle_id, " + clockOf("flight.date_time") + ", engine_id, aircraft.name, card.path, card.name, cycle.number, flight.number, "
         "landing_time - take_off_time, CASE WHEN cycle.fuel IS NOT NULL THEN total_fuel END, "
         "CASE WHEN min_altitude <> max_altitude THEN total_climb END, verdict, flight.start_time, flight.end_time "
         "FROM flight JOIN cycle USING (cycle_id) LEFT JOIN aircraft USING (engine_id) LEFT JOIN card USING (card_id) WHERE flight_id = ?");
@@ -144,7 +152,7 @@ std::vector<LogbookNote> LogbookReader::notes(const std::string& cycle)
 {
     std::vector<LogbookNote> notes;
     Statement& found = mDatabase.prepared(
-        "SELECT note_id, time, text, written, note.cycle_id, engine_id, card.name, cycle.number, date_time, aircraft.name FROM note "
+        "SELECT note_id, time, text, written, note.cycle_id, engine_id, card.name, cycle.number, " + clockOf("date_time") + ", aircraft.name FROM note "
         "LEFT JOIN cycle USING (cycle_id) LEFT JOIN card USING (card_id) LEFT JOIN aircraft USING (engine_id) WHERE ?1 = '' OR "
         "note.cycle_id = ?1 ORDER BY date_time, note.cycle_id, time, note_id");
     found.with({cycle});

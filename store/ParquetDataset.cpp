@@ -1,5 +1,6 @@
 #include "store/ParquetDataset.h"
 
+#include "store/CycleIdentity.h"
 #include "store/StoreText.h"
 
 #include <algorithm>
@@ -267,10 +268,35 @@ std::map<std::string, CycleHead> ParquetDataset::forgetParts(const CardFacts& ca
     return wholes;
 }
 
+std::string ParquetDataset::problemPath(const std::string& engine, const std::string& card) const
+{
+    return path("problems", engine, {}, hashOf(card));
+}
+
+std::string ParquetDataset::forgetFailures(const std::vector<std::string>& folders)
+{
+    for (const std::string& folder : folders) {
+        CardFacts facts;
+        facts.listing.path = folder;
+        facts.engineId = engineOfCard(nameOfCard(folder));
+        facts.isWhole = false; // the files that it had as a card stay noted
+        const std::string file = problemPath(facts.engineId, folder);
+        if (::access(file.c_str(), F_OK) != 0)
+            continue;
+        if (ParquetFile::notesOf(file)[kFiles].empty())
+            ::unlink(file.c_str());
+        else if (const std::string problem = write(facts); !problem.empty())
+            return problem;
+    }
+    return {};
+}
+
 std::string ParquetDataset::write(const CardFacts& card)
 {
     const std::string id = hashOf(card.listing.path);
-    const std::string file = path("problems", card.engineId, {}, id);
+    const std::string file = problemPath(card.engineId, card.listing.path);
+    if (const std::string unknown = problemPath(engineOfCard(card.name), card.listing.path); unknown != file)
+        ::unlink(unknown.c_str()); // of a time when nothing could be read
     std::vector<Row> rows; // none as well, in place of those that it had before
     for (const CardProblem& problem : card.problems)
         rows.push_back({id, textOrNothing(storeText(problem.file)), problem.reason.toStdString(), storeText(card.listing.path)});

@@ -23,12 +23,14 @@ public:
     bool isCurrent(const CardListing& /*listing*/) override { return false; }
     bool hasCycle(const CycleHead& cycle, std::vector<CardProblem>& told) override;
     std::string takeLoaded(const CardListing& card, const CycleFacts& cycle, const CycleValues& values) override;
+    std::string forgetFailures(const std::vector<std::string>& folders) override;
     std::string write(const CardFacts& card) override;
 
 private:
     [[nodiscard]] std::string path(const std::string& table, const std::string& engine, const QDateTime& month,
                                    const std::string& name) const;
     [[nodiscard]] std::string cyclePath(const std::string& table, const CycleHead& cycle, const QDateTime& month) const;
+    [[nodiscard]] std::string problemPath(const std::string& engine, const std::string& card) const;
     [[nodiscard]] ParquetFile::Notes notes(const std::vector<CardProblem>& problems) const;
     void forgetFiles(const CycleHead& cycle, const QDateTime& month) const;
     [[nodiscard]] bool isCovered(const CycleHead& cycle, const CycleHead& other) const;

@@ -76,10 +76,26 @@ bool Store::isCurrent(const CardListing& listing)
     return isSame && place == listing.files.size() && place > 0;
 }
 
-bool Store::hasCycle(const CycleHead& cycle, std::vector<CardProblem>& /*told*/)
+bool Store::hasCycle(const CycleHead& cycle, std::vector<CardProblem>& told)
 {
     const std::lock_guard lock(mGuard);
-    return mError.empty() && CardWriter(mDatabase, mKey).hasCycle(cycle.id);
+    if (!mError.empty() || !CardWriter(mDatabase, mKey).hasCycle(cycle.id))
+        return false;
+    Statement& problems = mDatabase.prepared("SELECT DISTINCT file.name, reason FROM file JOIN problem ON problem.card_id = file.card_id AND "
+                                             "problem.file = file.name WHERE cycle_id = ?");
+    problems.with({cycle.id});
+    while (problems.next())
+        told.push_back({problems.text(0), QString::fromStdString(problems.text(1)), false});
+    return true;
+}
+
+std::string Store::forgetFailures(const std::vector<std::string>& folders)
+{
+    return write([&] {
+        CardWriter writer(mDatabase, mKey);
+        for (const std::string& folder : folders)
+            writer.forgetFailure(folder);
+    });
 }
 
 std::string Store::write(const CardFacts& card)

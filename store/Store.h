@@ -22,6 +22,7 @@ public:
     bool isCurrent(const CardListing& listing) override;
     bool hasCycle(const CycleHead& cycle, std::vector<CardProblem>& told) override;
     std::string takeLoaded(const CardListing& /*card*/, const CycleFacts& /*cycle*/, const CycleValues& /*values*/) override { return {}; }
+    std::string forgetFailures(const std::vector<std::string>& folders) override;
     std::string write(const CardFacts& card) override;
     /// Notes the decimals of each parameter of the profile in force, which tell what is unusual of its values.
     std::string writePrecisions(const ProfileModel& model);

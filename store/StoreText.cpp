@@ -35,9 +35,14 @@ std::string storeText(const std::string& bytes)
     return text.toStdString();
 }
 
+bool isStoreDate(const QDateTime& dateTime)
+{
+    return dateTime.isValid() && dateTime.date().year() >= 0 && dateTime.date().year() <= 9999;
+}
+
 std::string storeDate(const QDateTime& dateTime)
 {
-    return dateTime.isValid() ? dateTime.toString("yyyy-MM-ddThh:mm:ss").toStdString() : std::string();
+    return isStoreDate(dateTime) ? dateTime.toString("yyyy-MM-ddThh:mm:ss").toStdString() : std::string();
 }
 
 std::string hashOf(const std::string& bytes)

@@ -42,8 +42,10 @@ int LiveCommand::work()
     std::signal(SIGTERM, &interrupt);
     QString problem;
     const BusAddress address = BusAddress::parse(QString::fromStdString(mBus), problem);
-    if (!problem.isEmpty())
-        return fail(problem.toStdString());
+    if (!problem.isEmpty()) { // what is none, or one of a plugin that is not here
+        say(problem.toStdString());
+        return address.plugin.isEmpty() || address.interface.isEmpty() ? eWrongCall : eFailed;
+    }
     return isGiven("--replay") ? replay(address) : listen(address);
 }
 

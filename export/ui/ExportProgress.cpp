@@ -24,10 +24,10 @@ ExportProgress::ExportProgress(QWidget* pWindow) : mpWindow(pWindow)
     connect(&mTask, &BackgroundTask::signalFinished, this, &ExportProgress::finish);
 }
 
-void ExportProgress::start(const QString& text, const BackgroundTask::Work& work, std::function<void()> whenDone)
+void ExportProgress::start(const QString& text, const BackgroundTask::Work& work, std::function<void()> whenDone, QWidget* pAbove)
 {
     mWhenDone = std::move(whenDone);
-    mpDialog = new QProgressDialog(mpWindow);
+    mpDialog = new QProgressDialog(pAbove ? pAbove : mpWindow);
     mpDialog->setWindowTitle(tr("ZARN Info"));
     auto* pLabel = new QLabel(text);
     pLabel->setTextFormat(Qt::PlainText); // a file's name may hold what looks like markup
@@ -54,8 +54,11 @@ void ExportProgress::cancel()
 void ExportProgress::finish()
 {
     mQuiet.stop();
-    mpDialog->hide();
-    std::exchange(mpDialog, nullptr)->deleteLater();
+    if (mpDialog) {
+        mpDialog->hide();
+        mpDialog->deleteLater();
+    }
+    mpDialog = nullptr;
     if (const auto whenDone = std::exchange(mWhenDone, nullptr))
         whenDone();
 }

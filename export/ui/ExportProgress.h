@@ -2,6 +2,7 @@
 
 #include "app/BackgroundTask.h"
 
+#include <QPointer>
 #include <QTimer>
 
 class QProgressDialog;
@@ -19,7 +20,8 @@ public:
 
     /// Begins the work; nothing else may be running.
     /// @param whenDone is called in the thread of the windows, whatever became of the work
-    void start(const QString& text, const BackgroundTask::Work& work, std::function<void()> whenDone);
+    /// @param pAbove the window that it was asked for in, where that is not the one of the constructor
+    void start(const QString& text, const BackgroundTask::Work& work, std::function<void()> whenDone, QWidget* pAbove = nullptr);
     [[nodiscard]] bool isRunning() const { return mTask.isRunning(); }
     [[nodiscard]] bool isCancelled() const { return mTask.isCancelled(); }
     /// The exception that ended the work, for people; empty when none did.
@@ -30,7 +32,7 @@ private:
     void finish();
 
     QWidget* mpWindow;
-    QProgressDialog* mpDialog = nullptr; // while the work runs
+    QPointer<QProgressDialog> mpDialog; // while the work runs
     std::function<void()> mWhenDone;
     QTimer mQuiet;
     BackgroundTask mTask; // the last member: the work has ended before others go

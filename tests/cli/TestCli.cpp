@@ -144,6 +144,7 @@ void TestCli::failures_data()
     row("flight for the whole card", {"summary", "CARD", "--flight", "1"}, 2, "--flight");
     row("no card to sum up", {"summary", "--profile", "Profile.xml"}, 2, "CARD");
     row("list that is missing", {"summary", "--from-file", "no list", "--profile", "Profile.xml"}, 1, "no list: No such file");
+    row("profile without a name", {"flights", "card", "--profile", ""}, 1, "\"\": ");
     row("list that is a folder", {"summary", "--from-file", "empty", "--profile", "Profile.xml"}, 1, "empty: Is a directory");
     row("store on standard output", {"scan", "CARD", "-o", "-"}, 2, "-o");
     row("store in place of a record file", {"scan", "CARD", "-o", "LOG.CAN"}, 1, "LOG.CAN: called like a record file");

@@ -163,9 +163,9 @@ class Live(unittest.TestCase):
         self.assertEqual(len(lines), sum(' d 8 ' in line for line in done.stdout.splitlines()))
 
     def testCall(self):
-        for arguments, reason in ((['can0'], 'must be PLUGIN:INTERFACE'), (['nothing:can0'], 'virtualcan'),
-                                  (['socketcan:can0', '--replay', self.folder.name], 'holds no record file')):
-            self.assertIn(reason, run('live', *arguments, status=1))
+        for arguments, reason, status in ((['can0'], 'must be PLUGIN:INTERFACE', 2), (['nothing:can0'], 'virtualcan', 1),
+                                          (['socketcan:can0', '--replay', self.folder.name], 'holds no record file', 1)):
+            self.assertIn(reason, run('live', *arguments, status=status))
         alone = shutil.copy(CLI, self.folder.name)  # without what does the work
         done = subprocess.run([alone, 'live', 'virtualcan:can0'], capture_output=True, text=True)
         self.assertEqual(1, done.returncode)

@@ -19,6 +19,15 @@ def run(*arguments, status=0, **options):
     return done.stdout, done.stderr
 
 
+def killed(call, seconds):
+    """The status of a call that is killed after a time, where it has not ended by itself; without a time it is left alone."""
+    with subprocess.Popen(call, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL) as process:
+        with contextlib.suppress(subprocess.TimeoutExpired):
+            process.wait(seconds)
+        process.kill()
+    return process.returncode
+
+
 def answer(*arguments):
     return json.loads(run(*arguments, '--json')[0])
 

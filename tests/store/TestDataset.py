@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""TestDataset.py ZARN_CLI [KILLS]: a Parquet dataset, read by DuckDB, against the SQLite store, `csv` and `value`; written by several at once."""
+"""TestDataset.py ZARN_CLI [KILLS [CARDS]]: a Parquet dataset, read by DuckDB, against the SQLite store, `csv` and `value`; written by several at once."""
+import concurrent.futures
 import contextlib
 import csv
 import json
@@ -7,14 +8,14 @@ import os
 import random
 import re
 import shutil
+import signal
 import sqlite3
-import subprocess
 import sys
 import tempfile
 import time
 import zlib
 
-from StoreSupport import ZARN, answer, duck, make_cards, rows, run, tree
+from StoreSupport import ZARN, answer, duck, killed, make_cards, rows, run, tree
 
 DOCS = os.path.normpath(os.path.join(os.path.dirname(os.path.abspath(__file__)), '../../docs'))
 TABLES = ['cycle', 'flight', 'incident', 'episode', 'key_value']
@@ -91,6 +92,17 @@ def check_tables(store, dataset):
     assert duck(dataset, views, joins)[1] == rows(store, joins)
 
 
+def check_copies(card, work):
+    """A copy of a card that tells no serial number has another engine in its path, which no worker can know of: the views count it once."""
+    for name in ('a', 'b'):
+        shutil.copytree(card, f'{work}/copies/{name}')
+    run('scan', f'{work}/copies', '-o', f'{work}/copies.sqlite')
+    run('scan', f'{work}/copies', '-o', f'{work}/copied', '--format', 'parquet')
+    sql = 'SELECT cycle_id, engine_id, number FROM cycle ORDER BY cycle_id'
+    assert duck(f'{work}/copied', open(f'{DOCS}/dataset.sql', encoding='utf-8').read(), sql)[1] == rows(f'{work}/copies.sqlite', sql)
+    assert len([name for name in tree(f'{work}/copied/cycles') if 'card%3A' in name]) == 2
+
+
 def check_samples(card, work):
     names = [parameter['name'] for parameter in answer('profile', f'{os.path.dirname(ZARN)}/../Resources/profiles/915/Profile.xml')['parameters']]
     for kind, ticks in [('100', 10), ('10', 100)]:
@@ -130,24 +142,24 @@ def check_samples(card, work):
     assert codings >= {(5, True), (6, True), (2, True)}, codings
 
 
-def check_together(folder, whole, kills, work):
+def check_together(folder, whole, kills, length, work):
     """Scans of the same cards at once into one dataset, killed at any moment and begun again, make what one alone makes."""
-    rng, dataset = random.Random(11), f'{work}/together'
+    rng, dataset, hits, ends = random.Random(11), f'{work}/together', 0, 0
     call = [ZARN, 'scan', folder, '-o', dataset, '--format', 'parquet', '--samples', '100', '--jobs', '2']
-    for _ in range(kills):
-        scans = [subprocess.Popen(call, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL) for _ in range(2)]
-        for scan in scans:
-            time.sleep(rng.random() * 0.4)
-            scan.kill()
-        for scan in scans:
-            scan.wait()
+    while hits < kills or os.path.exists(dataset):
+        times = [rng.random() * length * rng.choice([0.5, 1]) for _ in range(2)] if hits < kills else [None, None]
+        times = [time if rng.random() < 0.7 else None for time in times]    # the other one goes on alone
+        with concurrent.futures.ThreadPoolExecutor() as pool:
+            statuses = list(pool.map(killed, [call, call], times))
+        assert set(statuses) <= {0, -signal.SIGKILL}, statuses
+        hits += statuses.count(-signal.SIGKILL)
         for name, content in tree(dataset).items():
             assert whole.get(name) == content, name
-        if len(tree(dataset)) == len(whole):
+        if 0 in statuses:
+            assert len(tree(dataset)) == len(whole), set(whole) - set(tree(dataset))
+            ends += 1
             shutil.rmtree(dataset)
-    scans = [subprocess.Popen(call, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL) for _ in range(2)]
-    assert [scan.wait() for scan in scans] == [0, 0]
-    assert tree(dataset) == whole
+    print(f'{hits} scans killed beside another one, {ends} datasets brought to their end')
 
 
 def queries():
@@ -189,17 +201,20 @@ def main():
     kills = int(sys.argv[2]) if len(sys.argv) > 2 else 4
     with tempfile.TemporaryDirectory() as work:
         folder, store, dataset = f'{work}/cards', f'{work}/store.sqlite', f'{work}/dataset'
-        cards = make_cards(folder, 3)
+        cards = make_cards(folder, int(sys.argv[3]) if len(sys.argv) > 3 else 3)
         shutil.rmtree(f'{folder}/twin')    # which of two copies of a card comes first is left open here
         run('scan', folder, '-o', store)
+        began = time.monotonic()
         run('scan', folder, '-o', dataset, '--format', 'parquet', '--samples', '100', '--jobs', 1)
+        length = time.monotonic() - began
         check_tables(store, dataset)
+        check_copies(f'{folder}/zbad', work)
         problem = 'SELECT file, reason, card.path FROM problem JOIN card USING (card_id) ORDER BY file'
         assert duck(dataset, "SELECT file, reason, path FROM read_parquet('problems/**/*.parquet') ORDER BY file")[0] == rows(store, problem)
         check_samples(cards[0], work)
         whole = tree(dataset)
         assert '3 damaged' not in run('scan', folder, '-o', dataset, '--format', 'parquet', '--samples', '100')[0] and tree(dataset) == whole
-        check_together(folder, whole, kills, work)
+        check_together(folder, whole, kills, length, work)
         check_queries(store, dataset)
 
 

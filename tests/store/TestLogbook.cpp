@@ -120,6 +120,9 @@ void TestLogbook::sums()
     QCOMPARE(entries[1].flight, 0);
     QVERIFY(entries[2].dateTime.empty() && !entries[2].fuel && !entries[2].climb);
     QVERIFY(reader.entries(std::vector<int64_t>{11})[0].notes.isEmpty());
+    fill("UPDATE cycle SET number = 0, start_time = 1800.5 WHERE cycle_id = 'a'"); // times count from 1800.5 s before its date
+    QCOMPARE(reader.entries(std::vector<int64_t>{12})[0].dateTime, std::string("2025-05-01T10:29:59"));
+    QCOMPARE(reader.notes("a")[0].dateTime, std::string("2025-05-01T09:29:59"));
     const int64_t version = reader.version();
     fill("DELETE FROM flight WHERE flight_id = 13");
     QVERIFY(reader.version() != version);

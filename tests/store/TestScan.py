@@ -8,13 +8,14 @@ import os
 import random
 import resource
 import shutil
+import signal
 import sqlite3
 import subprocess
 import sys
 import tempfile
 import time
 
-from StoreSupport import KEYS, ZARN, answer, camel, change, dump, make_cards, rows, run
+from StoreSupport import KEYS, ZARN, answer, camel, change, duck, dump, killed, make_cards, rows, run
 
 
 def check_values(store, card):
@@ -43,22 +44,19 @@ def check_values(store, card):
             sha.hexdigest())] == [[incident['title'], incident['phase'], incident['flight']] for incident in cycle['incidents']]
 
 
-def check_killed(folder, whole, kills):
+def check_killed(folder, whole, line, kills):
     """However often it is killed, the same call goes on, and the end is that of an undisturbed scan."""
     began = time.monotonic()
-    run('scan', folder, '-o', f'{folder}/../timed.sqlite', '--jobs', 2)
-    length, rng, store = time.monotonic() - began, random.Random(7), f'{folder}/../killed.sqlite'
-    for _ in range(kills):
-        scan = subprocess.Popen([ZARN, 'scan', folder, '-o', store, '--jobs', '2'], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        time.sleep(rng.random() * length * rng.choice([0.1, 0.5, 1]))
-        scan.kill()
-        scan.wait()
-        if rng.random() < 0.3:
-            run('scan', folder, '-o', store)
-            assert dump(store) == whole
+    assert run('scan', folder, '-o', f'{folder}/../timed.sqlite', '--jobs', 2)[0] == line    # copies side by side, too
+    length, rng, store, hits, ends = time.monotonic() - began, random.Random(7), f'{folder}/../killed.sqlite', 0, 0
+    while hits < kills or os.path.exists(store):
+        status = killed([ZARN, 'scan', folder, '-o', store, '--jobs', '2'], rng.random() * length * rng.choice([0.1, 0.5, 1]) if hits < kills else None)
+        hits += status == -signal.SIGKILL
+        if status != -signal.SIGKILL:
+            assert status == 0 and dump(store) == whole, status
+            ends += 1
             os.remove(store)
-    run('scan', folder, '-o', store)
-    assert dump(store) == whole
+    print(f'{hits} scans killed while they ran, {ends} stores brought to their end')
 
 
 def check_changes(work, cards):
@@ -70,14 +68,19 @@ def check_changes(work, cards):
         os.rename(f'{card}/{name}', f'{work}/{name}')
     with open(f'{work}/{late[-1]}', 'rb') as whole, open(f'{card}/{late[-1]}', 'wb') as beginning: # of a cycle without a clock
         beginning.write(whole.read(56128))
-    for form in ((store,), (dataset, '--format', 'parquet')):
+    forms = ((store,), (dataset, '--format', 'parquet'))
+    for form in forms:
         run('scan', card, '-o', *form)
     part = rows(store, 'SELECT cycle_id FROM cycle WHERE number = 2')[0]['cycle_id']
     change(store, f"INSERT INTO note (cycle_id, time, text) VALUES ('{part}', 1, 'mine')")
     for name in late:
         os.rename(f'{work}/{name}', f'{card}/{name}')
-    for form in ((store,), (dataset, '--format', 'parquet')):
+    for form in forms:
         run('scan', card, '-o', *form)
+
+    def told():
+        return [rows(store, 'SELECT reason FROM problem'), duck(dataset, "SELECT reason FROM read_parquet('problems/**/*.parquet')")[0]]
+
     def kept():
         return sorted({name for table in ('cycles', 'flights') for _, _, names in os.walk(f'{dataset}/{table}') for name in names})
 
@@ -92,18 +95,21 @@ def check_changes(work, cards):
                 os.rename(f'{card}/{name}', f'{work}/{name}')
             elif name not in lost and os.path.exists(f'{work}/{name}'):
                 os.rename(f'{work}/{name}', f'{card}/{name}')
-        for form in ((store,), (dataset, '--format', 'parquet')):
+        for form in forms:
             run('scan', card, '-o', *form)
         assert cycles() == before and kept() == [row['cycle_id'] + '.parquet' for row in before], lost
     assert [row['number'] for row in rows(store, 'SELECT number FROM cycle ORDER BY number')] == [1, 2, 3]
     assert rows(store, 'SELECT number FROM note JOIN cycle USING (cycle_id)') == [{'number': 2}]
     check_values(store, card)
-    shutil.rmtree(card)
-    run('scan', card, '-o', store, status=1)
-    assert rows(store, 'SELECT reason FROM problem') == [{'reason': 'no such folder'}]
-    shutil.copytree(cards[1], card)
-    run('scan', card, '-o', store)
-    assert len(rows(store, 'SELECT 1 FROM cycle')) == 6 and rows(store, 'SELECT 1 FROM problem') == []
+    for place in (card, f'{card}/below'):    # what could not be read is forgotten when a card is there again, or a folder of cards
+        shutil.rmtree(card)
+        for form in forms:
+            run('scan', card, '-o', *form, status=1)
+        assert told() == [[{'reason': 'no such folder'}]] * 2
+        shutil.copytree(cards[1], place)
+        for form in forms:
+            run('scan', card, '-o', *form)
+        assert len(rows(store, 'SELECT 1 FROM cycle')) == 6 and told() == [[], []], place
     other = {row['engine_id'] for row in rows(store, 'SELECT engine_id FROM cycle')} - {'DEMO-000001'}
     change(store, *(f"INSERT INTO engine_merge VALUES ('{engine}', 'DEMO-000001')" for engine in other),
            "UPDATE cycle SET analysis_version = 0, verdict = 'x' WHERE number = 2")
@@ -178,7 +184,7 @@ def main():
         folder, store = f'{work}/cards', f'{work}/store.sqlite'
         count = int(sys.argv[3]) if len(sys.argv) > 3 else 6
         cards = make_cards(folder, count)
-        run('scan', folder, '-o', store, '--jobs', 1)
+        line = run('scan', folder, '-o', store, '--jobs', 1)[0]
         whole = dump(store)
         for card in [*cards[:2], f'{folder}/twin', f'{folder}/zbad']:
             check_values(store, card)
@@ -194,7 +200,7 @@ def main():
         first, last = [row['hours'] for row in rows(store, "SELECT hours FROM reading WHERE engine_id = 'DEMO-000001' ORDER BY date")]
         ran = rows(store, "SELECT engine_running AS s FROM cycle WHERE engine_id = 'DEMO-000001' AND number = 2")[0]['s']
         assert abs(last - first - ran / 3600) < 0.01
-        check_killed(folder, whole, kills)
+        check_killed(folder, whole, line, kills)
         check_changes(work, cards)
         check_bad_stores(work, cards[0])
         check_removed(work, folder)

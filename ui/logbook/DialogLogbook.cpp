@@ -27,15 +27,15 @@ constexpr int kLookPeriod = 2000; // milliseconds from look to look at the store
 } // namespace
 
 DialogLogbook::DialogLogbook(LogbookWorker& worker, QWidget* pOptions, QWidget* pParent)
-    : QDialog(pParent, Qt::Window), mWorker(worker), mpEngine(new QComboBox), mpProblem(new QLabel), mpEmpty(new QLabel), mpPages(new QTabWidget),
-      mpFlights(new LogbookFlights(worker)), mpTrends(new LogbookTrends(worker)), mpEngines(new LogbookEngines(worker)),
-      mpNotes(new LogbookNotes(worker))
+    : QDialog(pParent, Qt::Window), mWorker(worker), mpEngine(new QComboBox), mpProblem(new QLabel), mpEmpty(new QLabel),
+      mpWritten(new QLabel), mpPages(new QTabWidget), mpFlights(new LogbookFlights(worker)), mpTrends(new LogbookTrends(worker)),
+      mpEngines(new LogbookEngines(worker)), mpNotes(new LogbookNotes(worker))
 {
     setWindowTitle(tr("Logbook"));
     setObjectName("logbook");
     auto* pLayout = new QVBoxLayout(this);
     pLayout->addWidget(createHead());
-    for (QLabel* pLabel : {mpProblem, mpEmpty}) {
+    for (QLabel* pLabel : {mpProblem, mpEmpty, mpWritten}) {
         pLabel->setObjectName(pLabel == mpProblem ? "warning" : "quiet");
         pLabel->setTextFormat(Qt::PlainText);
         pLabel->setWordWrap(true);
@@ -159,6 +159,12 @@ void DialogLogbook::tell(const QString& problem)
     mpProblem->setVisible(!lines.isEmpty());
 }
 
+void DialogLogbook::tellWritten(const QString& path)
+{
+    mpWritten->setText(tr("Written: %1").arg(QDir::toNativeSeparators(path)));
+    mpWritten->show();
+}
+
 void DialogLogbook::tellLasting(const QString& problem)
 {
     mLasting = problem;
@@ -179,6 +185,7 @@ void DialogLogbook::showEvent(QShowEvent* pEvent)
 void DialogLogbook::hideEvent(QHideEvent* pEvent)
 {
     mLook.stop();
+    mpWritten->hide();
     tellLasting({});
     QDialog::hideEvent(pEvent);
 }

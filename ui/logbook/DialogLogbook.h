@@ -34,6 +34,8 @@ public:
     void tell(const QString& problem);
     /// The same until the window is closed.
     void tellLasting(const QString& problem);
+    /// A file that was exported.
+    void tellWritten(const QString& path);
 
 Q_SIGNALS:
     /// A flight that the user wants to see. @param flight from 1; 0: the whole cycle. @param time the moment; a NaN is none
@@ -61,6 +63,7 @@ private:
     QLabel* mpProblem;
     QString mLasting; ///< what is told whatever else is
     QLabel* mpEmpty;
+    QLabel* mpWritten;
     QTabWidget* mpPages;
     LogbookFlights* mpFlights;
     LogbookTrends* mpTrends;

@@ -13,6 +13,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPainter>
+#include <QPushButton>
 #include <QScopedValueRollback>
 #include <QStyledItemDelegate>
 #include <QTableView>
@@ -28,10 +29,9 @@ constexpr int kSign = 14;         // pixels
 const QDate kAnyDate(1999, 12, 31);
 
 // By column.
-constexpr std::array kKeys = {"date", "engine", "flight", "fuel", "climb", "verdict", "card", "notes"};
-constexpr std::array kLetters = {19, 22, 0, 0, 0, 14, 24, 12};
+constexpr std::array kLetters = {19, 22, 0, 0, 0, 14, 29, 12};
 constexpr int kFewestLetters = 10;
-static_assert(kKeys.size() == LogbookModel::eColumns && kLetters.size() == LogbookModel::eColumns);
+static_assert(kLetters.size() == LogbookModel::eColumns);
 
 /// Puts the sign of the verdict before its word.
 class VerdictDelegate : public QStyledItemDelegate {
@@ -62,7 +62,8 @@ protected:
 
 LogbookFlights::LogbookFlights(LogbookWorker& worker, QWidget* pParent)
     : QWidget(pParent), mModel(worker), mpFrom(createDate(tr("From"))), mpUntil(createDate(tr("Until"))), mpVerdict(new QComboBox),
-      mpText(new QLineEdit), mpTable(new QTableView), mpTotals(new QLabel)
+      mpText(new QLineEdit), mpTable(new QTableView), mpTotals(new QLabel),
+      mpOpen(new QPushButton(tr("Open flight")))
 {
     createTable();
     mpTotals->setTextFormat(Qt::PlainText);
@@ -70,7 +71,12 @@ LogbookFlights::LogbookFlights(LogbookWorker& worker, QWidget* pParent)
     auto* pLayout = new QVBoxLayout(this);
     pLayout->addWidget(createFilter());
     pLayout->addWidget(mpTable, 1);
-    pLayout->addWidget(mpTotals);
+    auto* pRow = new QHBoxLayout;
+    pRow->addWidget(mpTotals, 1);
+    pRow->addWidget(mpOpen);
+    pLayout->addLayout(pRow);
+    mpOpen->setEnabled(false);
+    connect(mpOpen, &QPushButton::clicked, this, [this] { slotPicked(mpTable->currentIndex()); });
     mTyping.setSingleShot(true);
     mTyping.setInterval(kTypingPause);
     for (const QDateEdit* pDate : {mpFrom, mpUntil})
@@ -144,6 +150,7 @@ void LogbookFlights::createTable()
     }
     connect(mpTable, &QTableView::activated, this, &LogbookFlights::slotPicked);
     connect(mpTable->selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this](const QModelIndex& index) {
+        mpOpen->setEnabled(index.isValid());
         if (index.isValid())
             mCurrent = mModel.flightOf(index.row());
     });
@@ -195,7 +202,7 @@ void LogbookFlights::arrange()
 void LogbookFlights::setHiddenColumns(const QStringList& keys)
 {
     for (int column = LogbookModel::eDate + 1; column < LogbookModel::eColumns; ++column) // without its date nobody knows a flight
-        mpTable->setColumnHidden(column, keys.contains(QLatin1String(kKeys[static_cast<std::size_t>(column)])));
+        mpTable->setColumnHidden(column, keys.contains(LogbookModel::key(column)));
     arrange();
 }
 
@@ -212,7 +219,7 @@ void LogbookFlights::chooseColumns(const QPoint& point)
         return;
     for (int column = LogbookModel::eDate + 1; column < LogbookModel::eColumns; ++column) {
         if (!menu.actions()[column - 1]->isChecked())
-            hidden << QLatin1String(kKeys[static_cast<std::size_t>(column)]);
+            hidden << LogbookModel::key(column);
     }
     mIsUsers = false;
     setHiddenColumns(hidden);
@@ -253,6 +260,7 @@ QString LogbookFlights::filterText() const
 void LogbookFlights::slotSelected()
 {
     mpTotals->setText(mModel.flights().empty() ? tr("No flight.") : LogbookTexts::totals(mModel.totals()));
+    mpOpen->setEnabled(false);
     const int row = mModel.rowOf(mCurrent);
     if (row >= 0) { // the same flight stays chosen where there is one
         mpTable->selectRow(row);
@@ -262,7 +270,8 @@ void LogbookFlights::slotSelected()
 
 void LogbookFlights::slotPicked(const QModelIndex& index)
 {
-    if (const LogbookEntry* pEntry = mModel.entry(index.row()))
+    const LogbookEntry* pEntry = index.isValid() ? mModel.entry(index.row()) : nullptr;
+    if (pEntry)
         Q_EMIT signalOpen(QString::fromStdString(pEntry->cycleId), pEntry->number);
 }
 

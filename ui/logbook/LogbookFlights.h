@@ -9,6 +9,7 @@ class QComboBox;
 class QDateEdit;
 class QLabel;
 class QLineEdit;
+class QPushButton;
 class QTableView;
 
 namespace ZARN {
@@ -59,6 +60,7 @@ private:
     QLineEdit* mpText;
     QTableView* mpTable;
     QLabel* mpTotals;
+    QPushButton* mpOpen;
     QTimer mTyping;
     bool mIsArranging = false; ///< the columns
     bool mIsUsers = false;     ///< the user gave the columns their widths

@@ -1,11 +1,11 @@
 #include "ui/logbook/LogbookNotes.h"
 
 #include "app/TimeText.h"
+#include "ui/logbook/NoteDialog.h"
 #include "ui/logbook/model/LogbookTexts.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
@@ -21,7 +21,7 @@ LogbookNotes::LogbookNotes(LogbookWorker& worker, QWidget* pParent)
       mpExport(new QPushButton(tr("Export notes ...")))
 {
     mpTable->setAccessibleName(tr("Notes"));
-    mpTable->setHorizontalHeaderLabels({tr("Recording"), tr("Aircraft or engine"), tr("Time"), tr("Note")});
+    mpTable->setHorizontalHeaderLabels({tr("Recording"), tr("Aircraft or engine"), tr("Since power-up"), tr("Note")});
     mpTable->setSelectionBehavior(QAbstractItemView::SelectRows);
     mpTable->setSelectionMode(QAbstractItemView::SingleSelection);
     mpTable->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -32,7 +32,7 @@ LogbookNotes::LogbookNotes(LogbookWorker& worker, QWidget* pParent)
     mpTable->horizontalHeader()->setHighlightSections(false);
     mpTable->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     const int letter = fontMetrics().horizontalAdvance('x');
-    for (const auto& [column, letters] : {std::pair(0, 40), {1, 28}, {2, 14}})
+    for (const auto& [column, letters] : {std::pair(0, 40), {1, 28}, {2, 20}})
         mpTable->setColumnWidth(column, letters * letter);
     mpHint->setObjectName("quiet");
     mpHint->setWordWrap(true);
@@ -106,12 +106,12 @@ void LogbookNotes::change(bool isRemoved)
 {
     LogbookNote note = *chosen();
     const QString before = note.note.text;
-    bool isGiven = true;
-    if (isRemoved)
-        isGiven = isSure(before);
-    note.note.text = isRemoved ? QString() : QInputDialog::getMultiLineText(this, tr("Note"), tr("Note:"), before, &isGiven);
-    if (!isGiven || note.note.text == before)
+    if (isRemoved && !isSure(before))
         return;
+    const std::optional<QString> text = isRemoved ? QString() : NoteDialog::ask(this, tr("Note:"), before);
+    if (!text || *text == before)
+        return;
+    note.note.text = *text;
     mWorker.edit([note](LogbookEditor& editor) { editor.saveNote(note.cycleId, note.note); },
                  [this, text = note.note.text](const QString& error) {
                      if (!error.isEmpty()) // what was typed is not lost

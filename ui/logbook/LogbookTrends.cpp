@@ -6,8 +6,10 @@
 #include "ui/logbook/WidgetTrend.h"
 #include "ui/logbook/model/LogbookTexts.h"
 
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
+#include <QPushButton>
 #include <QSplitter>
 #include <QVBoxLayout>
 
@@ -48,7 +50,8 @@ int weight(const JudgedTrend& trend)
 } // namespace
 
 LogbookTrends::LogbookTrends(LogbookWorker& worker, QWidget* pParent)
-    : QWidget(pParent), mWorker(worker), mpList(new QListWidget), mpTitle(new QLabel), mpChart(new WidgetTrend), mpPoint(new QLabel)
+    : QWidget(pParent), mWorker(worker), mpList(new QListWidget), mpTitle(new QLabel), mpChart(new WidgetTrend), mpPoint(new QLabel),
+      mpOpen(new QPushButton(tr("Open flight"))), mpPointRow(createPointRow())
 {
     mpList->setWordWrap(true); // names are as long as they are
     mpList->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -57,26 +60,50 @@ LogbookTrends::LogbookTrends(LogbookWorker& worker, QWidget* pParent)
     for (QLabel* pLabel : {mpTitle, mpPoint}) {
         pLabel->setTextFormat(Qt::PlainText);
         pLabel->setWordWrap(true);
+        pLabel->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     }
     auto* pRight = new QWidget;
     auto* pColumn = new QVBoxLayout(pRight);
     pColumn->setContentsMargins(0, 0, 0, 0);
     pColumn->addWidget(mpTitle);
     pColumn->addWidget(mpChart, 1);
-    pColumn->addWidget(mpPoint);
+    pColumn->addWidget(mpPointRow);
     auto* pSplitter = new QSplitter;
     pSplitter->addWidget(mpList);
     pSplitter->addWidget(pRight);
     pSplitter->setStretchFactor(1, 1);
-    pSplitter->setSizes({280, 700});
+    pSplitter->setSizes({330, 650});
     auto* pLayout = new QVBoxLayout(this);
     pLayout->addWidget(pSplitter);
     connect(mpList, &QListWidget::currentRowChanged, this, &LogbookTrends::slotCurrent);
     connect(mpChart, &WidgetTrend::signalChosen, this, &LogbookTrends::slotPoint);
-    connect(mpChart, &WidgetTrend::signalOpen, this, [this](int point) {
-        const TrendPoint& flight = mTrends[static_cast<std::size_t>(mpList->currentRow())]->trend.points[static_cast<std::size_t>(point)];
-        Q_EMIT signalOpen(QString::fromStdString(flight.cycleId), static_cast<int>(flight.place.flight));
-    });
+    connect(mpChart, &WidgetTrend::signalOpen, this, &LogbookTrends::open);
+    connect(mpOpen, &QPushButton::clicked, this, [this] { open(mPoint); });
+}
+
+QWidget* LogbookTrends::createPointRow()
+{
+    auto* pMeaning = new QLabel(tr("Unusual: far from the flights before. Drifting: the latest five lie outside the range of the twenty before them."));
+    pMeaning->setObjectName("quiet");
+    pMeaning->setWordWrap(true);
+    auto* pTexts = new QVBoxLayout;
+    pTexts->addWidget(mpPoint);
+    pTexts->addWidget(pMeaning);
+    auto* pWidget = new QWidget;
+    auto* pRow = new QHBoxLayout(pWidget);
+    pRow->setContentsMargins(0, 0, 0, 0);
+    pRow->addLayout(pTexts, 1);
+    pRow->addWidget(mpOpen);
+    return pWidget;
+}
+
+void LogbookTrends::open(int point)
+{
+    const int row = mpList->currentRow();
+    if (row < 0 || row >= static_cast<int>(mTrends.size()) || point < 0)
+        return;
+    const TrendPoint& flight = mTrends[static_cast<std::size_t>(row)]->trend.points[static_cast<std::size_t>(point)];
+    Q_EMIT signalOpen(QString::fromStdString(flight.cycleId), static_cast<int>(flight.place.flight));
 }
 
 void LogbookTrends::setEngine(const std::string& engine)
@@ -148,6 +175,7 @@ void LogbookTrends::fill(Trends trends)
         mpList->addItem(pItem);
     }
     mpChart->setVisible(!mTrends.empty());
+    mpPointRow->setVisible(!mTrends.empty());
     mpPoint->clear();
     if (mTrends.empty()) {
         mpChart->setTrend(nullptr);
@@ -164,11 +192,12 @@ void LogbookTrends::slotCurrent(int row)
     const auto& pTrend = mTrends[static_cast<std::size_t>(row)];
     mpTitle->setText(tr("%1, %n flight(s)", nullptr, static_cast<int>(pTrend->trend.points.size())).arg(nameOf(*pTrend)));
     mpChart->setTrend(pTrend);
-    mpPoint->setText(TrendScene::text(*pTrend, static_cast<int>(pTrend->trend.points.size()) - 1));
+    slotPoint(static_cast<int>(pTrend->trend.points.size()) - 1);
 }
 
 void LogbookTrends::slotPoint(int point)
 {
+    mPoint = point;
     mpPoint->setText(TrendScene::text(*mTrends[static_cast<std::size_t>(mpList->currentRow())], point));
 }
 

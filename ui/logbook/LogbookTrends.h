@@ -8,6 +8,7 @@
 
 class QLabel;
 class QListWidget;
+class QPushButton;
 
 namespace ZARN {
 
@@ -40,6 +41,8 @@ private:
     void fill(Trends trends);
     void slotCurrent(int row);
     void slotPoint(int point);
+    void open(int point);
+    QWidget* createPointRow();
 
     LogbookWorker& mWorker;
     std::string mEngine;
@@ -49,6 +52,9 @@ private:
     QLabel* mpTitle;
     WidgetTrend* mpChart;
     QLabel* mpPoint;
+    QPushButton* mpOpen;
+    QWidget* mpPointRow;
+    int mPoint = -1; ///< the flight that is told of
     bool mIsOld = true;
     unsigned mAsked = 0;
 };

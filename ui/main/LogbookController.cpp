@@ -71,7 +71,10 @@ LogbookController::LogbookController(const Session& session, const Parts& parts,
         mParts.notices.tell(tr("The logbook was damaged.\n%1").arg(error));
         takeCard(); // what is at hand is kept again
     });
-    connect(mpExport, &LogbookExport::signalWritten, this, &LogbookController::signalWritten);
+    connect(mpExport, &LogbookExport::signalWritten, this, [this](const QString& path) {
+        mpDialog->tellWritten(path);
+        Q_EMIT signalWritten(path);
+    });
     // When the window has shown the card.
     connect(&mParts.cards, &CardController::signalFolderChanged, this, &LogbookController::slotCard, Qt::QueuedConnection);
     connect(&mParts.cards, &CardController::signalCancelled, this, [this] { mWanted.reset(); });

@@ -21,7 +21,7 @@ namespace ZARN {
 namespace {
 
 /// The flights as a document: what they come to, and the table.
-ReportDocument documentOf(const std::vector<LogbookEntry>& entries, const QString& title)
+ReportDocument documentOf(const std::vector<LogbookEntry>& entries, const QString& title, const QStringList& hidden)
 {
     ReportDocument document;
     //: code of the language that this is translated to
@@ -30,12 +30,10 @@ ReportDocument documentOf(const std::vector<LogbookEntry>& entries, const QStrin
     document.head = title;
     document.creator = reportText(Revision::getRevisionString());
     ReportTable table{LogbookExport::tr("Flights"), {}};
-    const QString titles[] = {LogbookExport::tr("Date"),        LogbookExport::tr("Aircraft or engine"), LogbookExport::tr("Flight [h]"),
-                              LogbookExport::tr("Fuel [l]"),    LogbookExport::tr("Climb [m]"),          LogbookExport::tr("Verdict"),
-                              LogbookExport::tr("Card"),        LogbookExport::tr("Notes")};
     for (int column = 0; column < LogbookModel::eColumns; ++column) {
-        const bool isNumber = column == LogbookModel::eFlightTime || column == LogbookModel::eFuel || column == LogbookModel::eClimb;
-        table.columns.push_back({titles[column], isNumber, {}, column == LogbookModel::eDate});
+        if (hidden.contains(LogbookModel::key(column)))
+            continue;
+        table.columns.push_back({LogbookModel::title(column), LogbookModel::isNumber(column), {}, column == LogbookModel::eDate});
         for (const LogbookEntry& entry : entries)
             table.columns.back().cells << printable(LogbookModel::text(entry, column));
     }
@@ -100,9 +98,10 @@ void LogbookExport::exportFlights(QWidget* pParent, const std::vector<int64_t>& 
     const QString path = askFile(pParent, tr("Export logbook"), tr("Logbook") + ".csv", {tr("CSV Files (*.csv)"), tr("PDF Files (*.pdf)")});
     if (path.isEmpty())
         return;
+    const QStringList hidden = Settings::kLogbookHidden.text(mSession.property).split(',');
     const bool isLetter = QLocale::system().measurementSystem() == QLocale::ImperialUSSystem;
     run(pParent, path,
-        [flights, title, isLetter, store = encodeFileName(mStore), form = form()](const std::string& name, Progress& progress) {
+        [flights, title, isLetter, store = encodeFileName(mStore), form = form(), hidden](const std::string& name, Progress& progress) {
             LogbookReader reader(store);
             std::vector<LogbookEntry> entries = reader.entries(flights);
             if (!reader.error().empty())
@@ -110,7 +109,7 @@ void LogbookExport::exportFlights(QWidget* pParent, const std::vector<int64_t>& 
             std::erase_if(entries, [](const LogbookEntry& entry) { return entry.flight == 0; }); // gone meanwhile
             SafeFile file(name);
             if (QString::fromStdString(name).endsWith(".pdf", Qt::CaseInsensitive))
-                return writePdf(file, documentOf(entries, title), isLetter, progress);
+                return writePdf(file, documentOf(entries, title, hidden), isLetter, progress);
             return LogbookCsv(form).writeFlights(file, entries) ? std::string() : file.error();
         });
 }
@@ -139,7 +138,8 @@ void LogbookExport::run(QWidget* pParent, const QString& path, const Write& writ
             if (error.isEmpty() || mProgress.isCancelled())
                 return;
             tell(pParent, tr("The file could not be written.") + "\n" + error);
-        });
+        },
+        pParent);
 }
 
 void LogbookExport::tell(QWidget* pParent, const QString& problem)

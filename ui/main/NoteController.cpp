@@ -4,6 +4,7 @@
 #include "project/RecordSession.h"
 #include "project/TimeReference.h"
 #include "store/CycleIdentity.h"
+#include "ui/logbook/NoteDialog.h"
 #include "ui/logbook/model/LogbookWorker.h"
 #include "ui/main/MainActions.h"
 #include "ui/main/MainCommands.h"
@@ -11,7 +12,6 @@
 
 #include <QAction>
 #include <QFileInfo>
-#include <QInputDialog>
 
 #include <algorithm>
 #include <cmath>
@@ -88,14 +88,13 @@ void NoteController::write()
         if (std::abs(other.time - note.time) < kSameMoment)
             note = other;
     }
-    bool isGiven = false;
     const QString label = (note.id > 0 ? tr("Note at %1; without a text it is removed:") : tr("Note at %1:"))
                               .arg(TimeReference::of(mSession.property, mSession.container).textAt(note.time));
     const std::string cycle = mCycle;
-    const QString text = QInputDialog::getMultiLineText(mpWindow, tr("Note"), label, note.text, &isGiven).trimmed();
-    if (!isGiven || text == note.text || cycle != mCycle)
+    const std::optional<QString> text = NoteDialog::ask(mpWindow, label, note.text);
+    if (!text || text->trimmed() == note.text || cycle != mCycle)
         return;
-    note.text = text;
+    note.text = text->trimmed();
     note.written = QDateTime::currentDateTime();
     keep(note);
 }

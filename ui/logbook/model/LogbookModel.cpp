@@ -3,6 +3,7 @@
 #include "ui/logbook/model/LogbookTexts.h"
 
 #include <algorithm>
+#include <array>
 
 namespace ZARN {
 
@@ -146,7 +147,7 @@ QString LogbookModel::text(const LogbookEntry& entry, int column)
 QVariant LogbookModel::data(const QModelIndex& index, int role) const
 {
     const int column = index.column();
-    if (role == Qt::TextAlignmentRole && (column == eFlightTime || column == eFuel || column == eClimb))
+    if (role == Qt::TextAlignmentRole && isNumber(column))
         return static_cast<int>(Qt::AlignRight | Qt::AlignVCenter);
     if (role != Qt::DisplayRole && role != Qt::UserRole && (role != Qt::ToolTipRole || (column != eNotes && column != eCard)))
         return {};
@@ -167,13 +168,22 @@ QVariant LogbookModel::headerData(int section, Qt::Orientation orientation, int 
     if (orientation != Qt::Horizontal)
         return {};
     if (role == Qt::TextAlignmentRole)
-        return static_cast<int>(section == eFlightTime || section == eFuel || section == eClimb ? Qt::AlignRight | Qt::AlignVCenter
-                                                                                               : Qt::AlignLeft | Qt::AlignVCenter);
-    if (role != Qt::DisplayRole)
-        return {};
+        return static_cast<int>(isNumber(section) ? Qt::AlignRight | Qt::AlignVCenter : Qt::AlignLeft | Qt::AlignVCenter);
+    return role == Qt::DisplayRole ? title(section) : QVariant();
+}
+
+QString LogbookModel::title(int column)
+{
     const QString titles[] = {tr("Date"),      tr("Aircraft or engine"), tr("Flight [h]"), tr("Fuel [l]"),
                               tr("Climb [m]"), tr("Verdict"),            tr("Card"),       tr("Notes")};
-    return section >= 0 && section < eColumns ? titles[section] : QString();
+    return column >= 0 && column < eColumns ? titles[column] : QString();
+}
+
+QString LogbookModel::key(int column)
+{
+    constexpr std::array kKeys = {"date", "engine", "flight", "fuel", "climb", "verdict", "card", "notes"};
+    static_assert(kKeys.size() == eColumns);
+    return QLatin1String(kKeys.at(static_cast<std::size_t>(column)));
 }
 
 } // namespace ZARN

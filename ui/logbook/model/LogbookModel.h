@@ -30,6 +30,10 @@ public:
     [[nodiscard]] const std::vector<int64_t>& flights() const { return mFlights; }
     [[nodiscard]] const LogbookTotals& totals() const { return mTotals; }
     [[nodiscard]] static QString text(const LogbookEntry& entry, int column);
+    [[nodiscard]] static QString title(int column);
+    /// By which settings name the column.
+    [[nodiscard]] static QString key(int column);
+    [[nodiscard]] static bool isNumber(int column) { return column == eFlightTime || column == eFuel || column == eClimb; }
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;

@@ -109,7 +109,7 @@ void TrendScene::drawAxes(Canvas& canvas) const
             continue;
         const std::array line{QPointF(mPlot.left(), y), QPointF(mPlot.right() - 1, y)};
         canvas.lines(line, {withAlpha(colours.grid, 0.5), 1.0, false, 3.0});
-        canvas.text(QPointF(mPlot.left() - 5, y), ticks.valueLabel(tick.value), style);
+        canvas.text(QPointF(mPlot.left() - 5, y), ticks.valueLabel(tick.value).replace('.', QLocale().decimalPoint()), style);
     }
 }
 
@@ -196,9 +196,11 @@ QString TrendScene::text(const JudgedTrend& trend, int point)
     const TrendJudgement& judgement = trend.judgements[static_cast<std::size_t>(point)];
     const QString unit = trend.trend.unit.empty() ? QString() : " " + QString::fromStdString(trend.trend.unit);
     QStringList parts{flight.dateTime.empty() ? tr("clock not set") : LogbookTexts::dateTime(flight.dateTime),
-                      tr("median %1, 5 to 95 % %2 to %3").arg(number(flight.median, flight) + unit, number(flight.p05, flight), number(flight.p95, flight) + unit)};
+                      tr("median %1 (5 to 95 %: %2 to %3)")
+                          .arg(number(flight.median, flight) + unit, number(flight.p05, flight), number(flight.p95, flight) + unit)};
     if (judgement.z)
-        parts.append(tr("in the %1 flights before %2 to %3").arg(QString::number(judgement.band.samples), number(judgement.band.p05, flight), number(judgement.band.p95, flight) + unit));
+        parts.append(tr("the %1 flights before: %2 to %3")
+                         .arg(QString::number(judgement.band.samples), number(judgement.band.p05, flight), number(judgement.band.p95, flight) + unit));
     if (judgement.isUnusual)
         parts.append(tr("unusual"));
     if (judgement.isDrifting)
