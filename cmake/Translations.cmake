@@ -23,5 +23,5 @@ add_custom_target(translations ALL DEPENDS ${translations})
 add_dependencies(zarn translations)
 
 add_custom_target(update_translations
-  COMMAND Qt6::lupdate -no-obsolete -locations none -I . -recursive analysis app card live profile trace ui export store report openstreet -ts resources/translations/zarn_de.ts
+  COMMAND Qt6::lupdate -no-obsolete -locations none -I . -recursive analysis app card live profile project trace ui export store report openstreet vesk -ts resources/translations/zarn_de.ts
   WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}" VERBATIM)

@@ -15,7 +15,8 @@ import unittest
 import xml.etree.ElementTree as ElementTree
 
 LUPDATE, ROOT = sys.argv[1:3]
-FOLDERS = ['analysis', 'app', 'card', 'profile', 'ui', 'export', 'report', 'openstreet', 'store']
+with open(os.path.join(ROOT, 'cmake', 'Translations.cmake'), encoding='utf-8') as file:
+    FOLDERS = re.search(r'-recursive (.+) -ts', file.read())[1].split()
 MARK = re.compile(r'%(?:\d|n)|\(\*[^)]*\)|</?\w+')
 
 

@@ -1,5 +1,6 @@
 #include "ui/graph/DialogGraphSetup.h"
 
+#include "app/gui/FormLayout.h"
 #include "app/gui/StyleProperty.h"
 #include "ui/graph/TraceColourRow.h"
 
@@ -51,7 +52,7 @@ DialogGraphSetup::DialogGraphSetup(QWidget* pParent, GraphData& graphData) : QDi
 {
     setWindowTitle(tr("Oscilloscope Setup"));
     createControls();
-    auto* pForm = new QFormLayout(this);
+    auto* pForm = new FormLayout(this);
     addRow(pForm, tr("Palette :"), {mpPalette});
     addRow(pForm, tr("Background Color :"), {mpBackground});
     addRow(pForm, tr("Grid On/Color :"), {mpGrid, mpGridColour});

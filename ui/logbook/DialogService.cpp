@@ -1,10 +1,11 @@
 #include "ui/logbook/DialogService.h"
 
+#include "app/gui/FormLayout.h"
+
 #include <QCheckBox>
 #include <QDateEdit>
 #include <QDialogButtonBox>
 #include <QDoubleSpinBox>
-#include <QFormLayout>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSpinBox>
@@ -47,7 +48,7 @@ DialogService::DialogService(Service service, QWidget* pParent)
     mpDoneDate->setAccessibleName(tr("Date when it was done"));
     mpHours->setAccessibleName(tr("Interval in engine hours"));
     mpMonths->setAccessibleName(tr("Interval in months"));
-    auto* pForm = new QFormLayout(this);
+    auto* pForm = new FormLayout(this);
     pForm->addRow(tr("Name"), mpName);
     pForm->addRow(mpByHours, mpHours);
     pForm->addRow(mpByMonths, mpMonths);

@@ -2,6 +2,7 @@
 
 #include "app/Property.h"
 #include "app/Settings.h"
+#include "app/gui/FormLayout.h"
 #include "app/gui/ImageHandler.h"
 #include "app/gui/Kernel.h"
 #include "app/gui/SideList.h"
@@ -32,9 +33,10 @@ constexpr int kListWidth = 150;
 
 } // namespace
 
-DialogPreferences::DialogPreferences(const Session& session, Kernel& kernel, QWidget* pParent)
-    : QDialog(pParent), mSession(session), mKernel(kernel), mLocale(Settings::kLocale.text(session.property)), mpList(new SideList(kListWidth)),
-      mpPages(new QStackedWidget), mpLanguage(new QComboBox), mpPalette(new QComboBox), mpFontSize(new QSpinBox), mpMap(new MapOptions(session))
+DialogPreferences::DialogPreferences(const Session& session, Kernel& kernel, QWidget* pParent, const QString& dataPath)
+    : QDialog(pParent), mSession(session), mKernel(kernel), mLocale(Settings::kLocale.text(session.property)),
+      mpList(new SideList(kListWidth)), mpPages(new QStackedWidget), mpLanguage(new QComboBox), mpPalette(new QComboBox),
+      mpFontSize(new QSpinBox), mpMap(new MapOptions(session, dataPath))
 {
     setWindowTitle(tr("Preferences"));
     mpList->setIconSize(QSize(16, 16));
@@ -81,7 +83,7 @@ QWidget* DialogPreferences::createGeneralPage()
     WheelGuard::install(*mpPalette);
     WheelGuard::install(*mpFontSize);
     auto* pGroup = new QGroupBox(tr("Application"));
-    auto* pForm = new QFormLayout(pGroup);
+    auto* pForm = new FormLayout(pGroup);
     pForm->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     pForm->addRow(tr("Language :"), mpLanguage);
     pForm->addRow(tr("Colours :"), mpPalette);

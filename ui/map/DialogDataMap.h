@@ -99,7 +99,7 @@ private:
     PictureMenu* mpPicture = nullptr;
     RecordData* mpRecord = nullptr;
     double mTime = 0.0;
-    QTimer mCourseDelay; // while a record grows it is not worked out each time
+    QTimer mCourseDelay;     // while a record grows it is not worked out each time
     MapCourseFinder mCourse; // the last: it waits for what it finds
 };
 

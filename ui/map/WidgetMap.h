@@ -56,12 +56,10 @@ public:
     /// Shows the whole path again.
     void fitPath();
     void setDirty() { mIsDirty = true; }
-    /// Pixels of the upper edge that something else covers.
-    void setLegendTop(int pixels)
-    {
-        mScene.style().legendTop = pixels;
-        mIsAboveDirty = true;
-    }
+    /// What is shown, or the same on light ground.
+    [[nodiscard]] QImage picture(bool forPaper);
+    /// What something else covers of the left upper corner, and how far down the legend in the right one begins.
+    void setCovered(const QSize& corner, int legendTop);
     /// Whether the picture is behind what it should show.
     [[nodiscard]] bool isDirty() const { return mIsDirty || mIsAboveDirty; }
     /// Pixels that are taken of the lower right corner.
@@ -86,6 +84,8 @@ Q_SIGNALS:
     void signalTime(double time);
     /// The user wants to see something in the graph.
     void signalMoment(const GraphMoment& moment);
+    /// Others than before are named as those who made the map, which may take more room.
+    void signalSources();
     /// Another part of the path is shown bright; none for all of it.
     void signalShown(const std::optional<ZARN::TimeSpan>& span);
 
@@ -116,6 +116,7 @@ private:
     void loadWorld();
     void allowTiles();
     void openTiles();
+    void updateColours(bool isLight = false);
     void updateTint();
     void updateShown();
     void updateNote();
@@ -136,8 +137,9 @@ private:
     EUnit mPathUnit{};
     std::vector<FlightPhases::Step> mPhases; // of the cycle, once they are known
     std::function<std::optional<TimeSpan>()> mSpan;
-    QString mTilePath;    // of tiles of the user's
-    QString mTileProblem; // why they cannot be shown
+    QString mTilePath;      // of tiles of the user's
+    QString mTileProblem;   // why they cannot be shown
+    bool mIsServed = false; // tiles were shown since the source of tiles was set, which are light
     bool mIsInitialised = false;
     bool mIsDirty = true;
     bool mIsAboveDirty = true; // what is drawn above tiles and path

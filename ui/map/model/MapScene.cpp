@@ -29,7 +29,7 @@ constexpr double kTextAboveBar = 7.0;
 constexpr double kDash = 6.0;  // pixels, of a way on which nothing was received
 constexpr double kRim = 2.0;   // pixels by which a path of several colours is wider below them
 constexpr double kArrow = 5.0; // pixels from the middle of a mark of the direction to its point
-constexpr int kDotCell = 2; // pixels: dots that lie closer together are one
+constexpr int kDotCell = 2;    // pixels: dots that lie closer together are one
 
 void addDisc(std::vector<QPointF>& triangles, std::span<const QPointF> shape, const QPointF& middle)
 {
@@ -137,12 +137,12 @@ void MapScene::update(const OpenStreet::Camera& camera)
 void MapScene::drawGround(Canvas& canvas, const OpenStreet::Camera& camera) const
 {
     const CanvasText style{mStyle.textSize, mStyle.colours.gridText, false, Qt::AlignLeft | Qt::AlignBottom};
-    if (mIsPlain) // the labels keep clear of the scale bar
+    if (mIsPlain) { // the labels keep clear of the scale bar, and of what stands in the corners
+        const double below = std::max(std::ceil(kMargin + kTextAboveBar + labelHeight()), mCorner.height() + kMargin + 4.0);
         Graticule(camera, mStyle.gridSpacing)
-            .draw(canvas, {mStyle.colours.grid, mStyle.gridWidth}, style,
-                  camera.height() - std::ceil(kMargin + kTextAboveBar + labelHeight()));
-    if (mIsPlain)
+            .draw(canvas, {mStyle.colours.grid, mStyle.gridWidth}, style, camera.height() - below, mStyle.tools);
         mPlaces.draw(canvas, camera, mStyle);
+    }
     drawRest(canvas);
     drawPath(canvas);
     drawWrongFixes(canvas, camera);
