@@ -14,10 +14,12 @@
 #include "card/record/RecordFormats.h"
 #include "profile/Profile.h"
 #include "project/Project.h"
+#include "ui/canvas/CanvasFont.h"
 #include "ui/gl/GraphicsCheck.h"
 #include "ui/main/DialogMain.h"
 
 #include <QFileInfo>
+#include <QFontDatabase>
 #include <QLocale>
 #include <QMessageBox>
 #include <QPushButton>
@@ -74,12 +76,12 @@ bool loadTranslation(QTranslator& translator, const QString& name)
 void installTranslation(QTranslator& translator, const QString& prefix, const char* name, const Console& console)
 {
     const std::string locale = Settings::kLocale.get(Property::instance());
-    QLocale::setDefault(QLocale(
-        locale == Settings::kLocale.fallback ? QString("en_US") : QString::fromStdString(locale))); // numbers as the language writes them
     const bool loaded = loadTranslation(translator, prefix + QString::fromStdString(locale));
     console.print("Translation %s <%s> %d\n", name, locale.c_str(), loaded ? 1 : 0);
-    if (loaded)
-        QCoreApplication::installTranslator(&translator);
+    if (!loaded)
+        return;
+    QLocale::setDefault(QLocale(QString::fromStdString(locale))); // numbers as the language writes them
+    QCoreApplication::installTranslator(&translator);
 }
 
 /// Asked before the settings are read, and so in the language of the system.
@@ -197,6 +199,10 @@ int runProgram(int argc, char** argv)
         cmdLine.printUsage();
     QApplication::setStyle("Fusion");
     Application application(argc, argv);
+    QApplication::setLayoutDirection(Qt::LeftToRight); // as all of the program's languages are read, whatever the system's
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates)); // where there is no translation
+    if (QFontDatabase::families().isEmpty())
+        QApplication::setFont(canvasFont(Settings::kFontSize.fallback, false)); // better than a box for each letter
     QApplication::setApplicationName(QString::fromStdString(Revision::getName()));
     QApplication::setApplicationVersion(QString::fromStdString(Revision::getRevisionNumber()));
     QGuiApplication::setDesktopFileName(ZARN_APPLICATION_ID); // so that desktops find name and icon of its windows

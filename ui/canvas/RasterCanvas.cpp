@@ -2,6 +2,7 @@
 
 #include "ui/canvas/CanvasFont.h"
 
+#include <QPaintEngine>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -194,15 +195,18 @@ void RasterCanvas::text(const QPointF& position, const QString& text, const Canv
     if (!isFinite(position) || text.isEmpty())
         return;
     ready().save();
-    mPainter.setFont(font(style));
-    mPainter.setPen(style.colour);
-    const QPointF origin = textOrigin(position, text, style);
-    if (style.upwards) {
-        mPainter.translate(origin);
+    mPainter.translate(textOrigin(position, text, style));
+    if (style.upwards)
         mPainter.rotate(-90);
-        mPainter.drawText(QPointF(0, canvasAscent(style.size)), text);
+    const QPointF base(0, canvasAscent(style.size));
+    if (mPainter.paintEngine()->type() == QPaintEngine::SVG) { // which would only name the font, and nobody else has it
+        QPainterPath outlines;
+        outlines.addText(base, font(style), text);
+        mPainter.fillPath(outlines, style.colour);
     } else {
-        mPainter.drawText(origin + QPointF(0, canvasAscent(style.size)), text);
+        mPainter.setFont(font(style));
+        mPainter.setPen(style.colour);
+        mPainter.drawText(base, text);
     }
     mPainter.restore();
 }
