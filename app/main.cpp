@@ -10,6 +10,7 @@
 #include "app/gui/DialogSplash.h"
 #include "app/gui/ImageHandler.h"
 #include "app/gui/Kernel.h"
+#include "app/gui/ProgramStyle.h"
 #include "card/CardContainer.h"
 #include "card/record/RecordFormats.h"
 #include "profile/Profile.h"
@@ -197,7 +198,7 @@ int runProgram(int argc, char** argv)
     registerOptions(cmdLine);
     if (!cmdLine.parse(argc, argv) || cmdLine.getSwitch("-h"))
         cmdLine.printUsage();
-    QApplication::setStyle("Fusion");
+    QApplication::setStyle(new ProgramStyle); // which the application takes
     Application application(argc, argv);
     QApplication::setLayoutDirection(Qt::LeftToRight); // as all of the program's languages are read, whatever the system's
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates)); // where there is no translation

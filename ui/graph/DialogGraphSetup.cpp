@@ -1,6 +1,5 @@
 #include "ui/graph/DialogGraphSetup.h"
 
-#include "app/gui/FormLayout.h"
 #include "app/gui/StyleProperty.h"
 #include "ui/graph/TraceColourRow.h"
 
@@ -52,7 +51,7 @@ DialogGraphSetup::DialogGraphSetup(QWidget* pParent, GraphData& graphData) : QDi
 {
     setWindowTitle(tr("Oscilloscope Setup"));
     createControls();
-    auto* pForm = new FormLayout(this);
+    auto* pForm = new QFormLayout(this);
     addRow(pForm, tr("Palette :"), {mpPalette});
     addRow(pForm, tr("Background Color :"), {mpBackground});
     addRow(pForm, tr("Grid On/Color :"), {mpGrid, mpGridColour});

@@ -2,12 +2,12 @@
 
 #include "app/Property.h"
 #include "app/Settings.h"
-#include "app/gui/FormLayout.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
+#include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -70,7 +70,7 @@ void DialogLive::createRows()
     pButtons->addButton(mpConnect, QDialogButtonBox::ActionRole);
     pButtons->addButton(mpDisconnect, QDialogButtonBox::ActionRole);
     connect(pButtons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    auto* pForm = new FormLayout(mpFields);
+    auto* pForm = new QFormLayout(mpFields);
     pForm->setContentsMargins(0, 0, 0, 0);
     pForm->addRow(tr("Plugin"), mpPlugin);
     pForm->addRow(tr("Interface"), mpInterface);

@@ -1,11 +1,10 @@
 #include "ui/logbook/DialogService.h"
 
-#include "app/gui/FormLayout.h"
-
 #include <QCheckBox>
 #include <QDateEdit>
 #include <QDialogButtonBox>
 #include <QDoubleSpinBox>
+#include <QFormLayout>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSpinBox>
@@ -48,7 +47,7 @@ DialogService::DialogService(Service service, QWidget* pParent)
     mpDoneDate->setAccessibleName(tr("Date when it was done"));
     mpHours->setAccessibleName(tr("Interval in engine hours"));
     mpMonths->setAccessibleName(tr("Interval in months"));
-    auto* pForm = new FormLayout(this);
+    auto* pForm = new QFormLayout(this);
     pForm->addRow(tr("Name"), mpName);
     pForm->addRow(mpByHours, mpHours);
     pForm->addRow(mpByMonths, mpMonths);

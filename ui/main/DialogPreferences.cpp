@@ -2,7 +2,6 @@
 
 #include "app/Property.h"
 #include "app/Settings.h"
-#include "app/gui/FormLayout.h"
 #include "app/gui/ImageHandler.h"
 #include "app/gui/Kernel.h"
 #include "app/gui/SideList.h"
@@ -83,7 +82,7 @@ QWidget* DialogPreferences::createGeneralPage()
     WheelGuard::install(*mpPalette);
     WheelGuard::install(*mpFontSize);
     auto* pGroup = new QGroupBox(tr("Application"));
-    auto* pForm = new FormLayout(pGroup);
+    auto* pForm = new QFormLayout(pGroup);
     pForm->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     pForm->addRow(tr("Language :"), mpLanguage);
     pForm->addRow(tr("Colours :"), mpPalette);

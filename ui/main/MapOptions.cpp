@@ -2,7 +2,6 @@
 
 #include "app/Property.h"
 #include "app/Settings.h"
-#include "app/gui/FormLayout.h"
 #include "app/gui/WheelGuard.h"
 #include "openstreet/core/LocalTiles.h"
 #include "openstreet/core/TileDisk.h"
@@ -76,7 +75,7 @@ MapOptions::MapOptions(const Session& session, const QString& dataPath, QWidget*
 QWidget* MapOptions::createNetwork()
 {
     auto* pGroup = new QGroupBox(tr("Map tiles from a server"));
-    auto* pForm = new FormLayout(pGroup);
+    auto* pForm = new QFormLayout(pGroup);
     pForm->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     pForm->addRow(mpTiles);
     pForm->addRow(mpServerText);
@@ -125,7 +124,7 @@ QWidget* MapOptions::createKept()
     auto* pRow = new QHBoxLayout;
     pRow->addWidget(mpUsed, 1);
     pRow->addWidget(pEmpty);
-    auto* pForm = new FormLayout(pGroup);
+    auto* pForm = new QFormLayout(pGroup);
     pForm->addRow(tr("At most :"), mpSize);
     pForm->addRow(pRow);
     return pGroup;

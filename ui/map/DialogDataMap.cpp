@@ -30,7 +30,6 @@ namespace {
 constexpr int kMargin = 10;
 constexpr int kLeastWidth = 200;
 constexpr int kBelowPanels = 40; // pixels for what is written at the lower edge
-constexpr int kWidestConsent = 720;
 constexpr int kBesideMap = 520;   // pixels of width from which values stand beside the map, else below it
 constexpr int kLegendRoom = 240;  // pixels beside the tools from which the legend stands there, else below them
 constexpr int kCourseDelay = 150; // milliseconds
@@ -67,9 +66,10 @@ void DialogDataMap::createMap(const QString& dataPath)
     auto* pLayout = new QVBoxLayout(this);
     pLayout->setContentsMargins(0, 0, 0, 0);
     pLayout->setSpacing(1);
+    createPanels();
+    pLayout->addWidget(mpConsent);
     pLayout->addWidget(mpSplitter, 1);
     pLayout->addWidget(mpProfile);
-    createPanels();
     connectMap();
     mpProfile->hide(); // until there is an altitude
     updateValues();
@@ -98,7 +98,10 @@ void DialogDataMap::connectMap()
     connect(mpMap, &WidgetMap::signalUpdateMode, this, &DialogDataMap::slotUpdateMode);
     connect(mpMap, &WidgetMap::signalMoment, this, &DialogDataMap::signalMoment);
     connect(mpMap, &WidgetMap::signalTime, this, &DialogDataMap::pickTime);
-    connect(mpMap, &WidgetMap::signalSources, this, &DialogDataMap::updateGeometry);
+    connect(mpMap, &WidgetMap::signalCorner, this, [this](const QSize& size) {
+        mCorner = size;
+        updateGeometry();
+    });
     connect(mpMap, &WidgetMap::signalShown, mpProfile, &MapProfile::setShown);
     connect(mpProfile, &MapProfile::signalTime, this, &DialogDataMap::pickTime);
     connect(mpTools, &MapToolPanel::signalToggled, this, &DialogDataMap::slotCommandToggled);
@@ -239,7 +242,6 @@ void DialogDataMap::updateConsent()
 {
     mpConsent->setServer(mpMap->map().tileServer().name());
     mpConsent->setVisible(mpMap->isConsentMissing());
-    updateGeometry();
 }
 
 void DialogDataMap::slotConsent(bool isAllowed)
@@ -313,14 +315,8 @@ void DialogDataMap::updateGeometry()
         return;
     const QRect map(mpMap->mapTo(this, QPoint()), mpMap->size());
     const int margin = kMargin * mContext.scale;
-    const int wide = std::max(std::min(map.width() - 2 * margin, kWidestConsent), 0);
-    const int tall = mpConsent->arrangeFor(wide);
-    const int below = std::max(kBelowPanels, mpMap->cornerSize().height() + margin);
-    const int top = map.top() + std::max(map.height() - margin - below - tall, 0);
-    mpConsent->setGeometry(map.left() + (map.width() - wide) / 2, top, wide, tall);
-    mpConsent->raise();
-    const int bottom = mpConsent->isVisibleTo(this) ? top : map.top() + map.height() - margin - below;
-    mpTools->arrangeFor({map.width() - 2 * margin, std::max(bottom - map.top() - 2 * margin, 0)});
+    const int below = std::max(kBelowPanels, mCorner.height() + margin);
+    mpTools->arrangeFor({map.width() - 2 * margin, std::max(map.height() - 3 * margin - below, 0)});
     mpTools->move(map.topLeft() + QPoint(margin, margin));
     mpTools->raise();
     const bool isBeside = map.width() - mpTools->width() > kLegendRoom;
@@ -337,6 +333,8 @@ bool DialogDataMap::eventFilter(QObject* pObject, QEvent* pEvent)
 void DialogDataMap::resizeEvent(QResizeEvent* pEvent)
 {
     QWidget::resizeEvent(pEvent);
+    if (mpMap)
+        mpConsent->arrangeFor(width());
     if (mpMap && (mpSplitter->orientation() == Qt::Horizontal) != (width() >= kBesideMap))
         arrangeValues();
     updateGeometry();

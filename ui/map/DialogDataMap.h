@@ -91,6 +91,7 @@ private:
     MapContext mContext;
     MapValues mValues;
     WidgetMap* mpMap = nullptr;
+    QSize mCorner; // of the map, that is taken
     QSplitter* mpSplitter = nullptr;
     MapValueTable* mpValues = nullptr;
     MapProfile* mpProfile = nullptr;

@@ -136,7 +136,7 @@ void MapConsentBar::setServer(const QString& name)
                         .arg(QString(name).replace('.', QStringLiteral(".\u200b")))); // a long name may be broken there
 }
 
-int MapConsentBar::arrangeFor(int width)
+void MapConsentBar::arrangeFor(int width)
 {
     const QMargins margins = mpLine->contentsMargins();
     const int room = width - margins.left() - margins.right();
@@ -146,7 +146,6 @@ int MapConsentBar::arrangeFor(int width)
     mpLine->setDirection(isNarrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
     if (buttons > room)
         mpButtons->setDirection(QBoxLayout::TopToBottom);
-    return std::max(mpLine->totalHeightForWidth(width), mpLine->totalMinimumSize().height());
 }
 
 } // namespace ZARN

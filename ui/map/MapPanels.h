@@ -49,15 +49,15 @@ private:
     QGridLayout* mpGrid;
 };
 
-/// Asks, on the map itself, whether map tiles may be fetched, and names the server that would be asked.
+/// Asks, above the map, whether map tiles may be fetched, and names the server that would be asked.
 class MapConsentBar : public QFrame {
     Q_OBJECT
 
 public:
     explicit MapConsentBar(QWidget* pParent);
     void setServer(const QString& name);
-    /// Puts the buttons beside the text, or below it where that would leave the text too little. @return the height that the bar then needs.
-    int arrangeFor(int width);
+    /// Puts the buttons beside the text, or below it where that would leave the text too little.
+    void arrangeFor(int width);
 
 Q_SIGNALS:
     void signalAnswer(bool isAllowed);

@@ -300,7 +300,7 @@ void WidgetMap::slotTimeout()
         if (mSources.hasTiles && !std::exchange(mIsServed, true))
             updateColours();
         mIsDirty = mIsAboveDirty = true; // the scale bar makes room
-        Q_EMIT signalSources();
+        Q_EMIT signalCorner(cornerSize());
     }
     const bool isFrame = mIsDirty || (mContext.isLoading && still > kLoadingInterval);
     if (!mPacer.isDue() || !(isFrame || mIsAboveDirty || still > kLookInterval))

@@ -62,8 +62,6 @@ public:
     void setCovered(const QSize& corner, int legendTop);
     /// Whether the picture is behind what it should show.
     [[nodiscard]] bool isDirty() const { return mIsDirty || mIsAboveDirty; }
-    /// Pixels that are taken of the lower right corner.
-    [[nodiscard]] QSize cornerSize() const;
     /// Whether the user has yet to be asked for the network: there is a path, and a server whose tiles could lie under it.
     [[nodiscard]] bool isConsentMissing() const;
 
@@ -72,7 +70,6 @@ public:
     [[nodiscard]] const MapInteraction& interaction() const { return mInteraction; }
     [[nodiscard]] MapNavigator& navigator() { return mNavigator; }
     [[nodiscard]] OpenStreet::OpenStreetMap& map() { return mMap; }
-    [[nodiscard]] const OpenStreet::OpenStreetMap& map() const { return mMap; }
     /// How often tiles and path were drawn, and how often the whole picture.
     [[nodiscard]] int groundPaints() const { return mGroundPaints; }
     [[nodiscard]] int paints() const { return mPaints; }
@@ -84,8 +81,8 @@ Q_SIGNALS:
     void signalTime(double time);
     /// The user wants to see something in the graph.
     void signalMoment(const GraphMoment& moment);
-    /// Others than before are named as those who made the map, which may take more room.
-    void signalSources();
+    /// Others than before are named as those who made the map, and take so much of the lower right corner.
+    void signalCorner(const QSize& size);
     /// Another part of the path is shown bright; none for all of it.
     void signalShown(const std::optional<ZARN::TimeSpan>& span);
 
@@ -118,6 +115,7 @@ private:
     void openTiles();
     void updateColours(bool isLight = false);
     void updateTint();
+    [[nodiscard]] QSize cornerSize() const;
     void updateShown();
     void updateNote();
     [[nodiscard]] QString note();
