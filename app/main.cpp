@@ -10,14 +10,17 @@
 #include "app/gui/DialogSplash.h"
 #include "app/gui/ImageHandler.h"
 #include "app/gui/Kernel.h"
+#include "app/gui/ProgramStyle.h"
 #include "card/CardContainer.h"
 #include "card/record/RecordFormats.h"
 #include "profile/Profile.h"
 #include "project/Project.h"
+#include "ui/canvas/CanvasFont.h"
 #include "ui/gl/GraphicsCheck.h"
 #include "ui/main/DialogMain.h"
 
 #include <QFileInfo>
+#include <QFontDatabase>
 #include <QLocale>
 #include <QMessageBox>
 #include <QPushButton>
@@ -75,9 +78,10 @@ void installTranslation(QTranslator& translator, const QString& prefix, const ch
 {
     const std::string locale = Settings::kLocale.get(Property::instance());
     const bool isEnglish = locale == Settings::kLocale.fallback;
-    QLocale::setDefault(QLocale(isEnglish ? QString("en_US") : QString::fromStdString(locale))); // numbers as the language writes them
     const bool loaded = loadTranslation(translator, prefix + (isEnglish ? QString("en") : QString::fromStdString(locale)));
     console.print("Translation %s <%s> %d\n", name, locale.c_str(), loaded ? 1 : 0);
+    if (isEnglish || loaded)
+        QLocale::setDefault(QLocale(isEnglish ? QString("en_US") : QString::fromStdString(locale))); // numbers as the language writes them
     if (loaded)
         QCoreApplication::installTranslator(&translator);
 }
@@ -195,8 +199,12 @@ int runProgram(int argc, char** argv)
     registerOptions(cmdLine);
     if (!cmdLine.parse(argc, argv) || cmdLine.getSwitch("-h"))
         cmdLine.printUsage();
-    QApplication::setStyle("Fusion");
+    QApplication::setStyle(new ProgramStyle); // which the application takes
     Application application(argc, argv);
+    QApplication::setLayoutDirection(Qt::LeftToRight); // as all of the program's languages are read, whatever the system's
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates)); // where there is no translation
+    if (QFontDatabase::families().isEmpty())
+        QApplication::setFont(canvasFont(Settings::kFontSize.fallback, false)); // better than a box for each letter
     QApplication::setApplicationName(QString::fromStdString(Revision::getName()));
     QApplication::setApplicationVersion(QString::fromStdString(Revision::getRevisionNumber()));
     QGuiApplication::setDesktopFileName(ZARN_APPLICATION_ID); // so that desktops find name and icon of its windows

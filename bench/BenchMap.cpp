@@ -10,6 +10,7 @@
 #include <QOpenGLFramebufferObject>
 #include <QOpenGLFunctions>
 
+#include <array>
 #include <cmath>
 #include <optional>
 
@@ -46,6 +47,19 @@ struct MapBench {
             points.push_back({i * 0.5, 48.2 + 0.08 * std::sin(i * 2e-4) + 0.01 * std::sin(i * 0.02),
                               11.05 + 0.12 * std::cos(i * 1.3e-4) + 0.015 * std::cos(i * 0.02), 0, 0, 0});
         path.path().setPoints(points);
+        coloured.path().setPoints(points);
+        coloured.setTint(altitudes());
+    }
+    /// As of climbs and descents of a few minutes.
+    static PathTint altitudes()
+    {
+        PathTint tint;
+        tint.isScale = true;
+        for (int i = 0; i <= PathTint::kSteps; ++i)
+            tint.colours.push_back(QColor::fromHsvF(0.7F * static_cast<float>(i) / PathTint::kSteps, 1.0F, 0.8F));
+        for (int i = 0; i < kPoints; ++i)
+            tint.steps.push_back(static_cast<quint8>(std::lround((PathTint::kSteps - 1) * (0.5 + 0.5 * std::sin(i * 0.01)))));
+        return tint;
     }
     static MapBench& instance()
     {
@@ -54,7 +68,7 @@ struct MapBench {
         return bench;
     }
     /// One frame, waited for.
-    void frame(bool withPath, double moved)
+    void frame(MapScene& scene, double moved)
     {
         camera.setWorld({camera.projection().toWorld(camera.position()).x + moved * camera.metresPerPixel(),
                          camera.projection().toWorld(camera.position()).y},
@@ -63,7 +77,6 @@ struct MapBench {
         canvas->begin(kWindow, 1.0, Qt::white);
         map.setCamera(camera);
         map.render(canvas->device());
-        MapScene& scene = withPath ? path : empty;
         scene.update(camera);
         scene.drawGround(*canvas, camera);
         scene.drawAbove(*canvas, camera);
@@ -78,6 +91,7 @@ struct MapBench {
     OpenStreet::OpenStreetMap map;
     OpenStreet::Camera camera;
     MapScene path;
+    MapScene coloured;
     MapScene empty;
     bool isReady = false;
 };
@@ -87,18 +101,18 @@ void mapFrame(benchmark::State& state)
     MapBench& bench = MapBench::instance();
     if (!bench.isReady)
         return state.SkipWithError("no OpenGL: run it under a display");
-    const bool withPath = state.range(0) != 0;
+    MapScene& scene = *std::array{&bench.empty, &bench.path, &bench.coloured}[static_cast<std::size_t>(state.range(0))];
     do {
-        bench.frame(withPath, 0.0);
+        bench.frame(scene, 0.0);
         QCoreApplication::processEvents(); // tiles are looked for on the disk between frames
     } while (bench.map.nrLoadingTiles() != 0);
     double step = 3.0;
     for (auto _ : state) {
         step = -step; // a pan that stays over the same tiles
-        bench.frame(withPath, step);
+        bench.frame(scene, step);
     }
     state.counters["tiles"] = static_cast<double>(OpenStreet::TileCover(bench.camera, 1.0, 19).view().size());
-    state.counters["vertices"] = static_cast<double>(withPath ? bench.path.geometry().vertexCount() : 0);
+    state.counters["vertices"] = static_cast<double>(scene.geometry().vertexCount());
 }
 
 void pathBuild(benchmark::State& state)
@@ -124,7 +138,7 @@ void builtInTile(benchmark::State& state)
         benchmark::DoNotOptimize(map.tile({12, 2100 + column++ % 256, 1400}));
 }
 
-BENCHMARK(mapFrame)->Name("map/frame")->Arg(0)->Arg(1)->MeasureProcessCPUTime()->UseRealTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(mapFrame)->Name("map/frame")->Arg(0)->Arg(1)->Arg(2)->MeasureProcessCPUTime()->UseRealTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(pathBuild)->Name("map/path/zoom")->Unit(benchmark::kMillisecond);
 BENCHMARK(builtInTile)->Name("map/tile")->Unit(benchmark::kMillisecond);
 

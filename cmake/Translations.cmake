@@ -25,7 +25,7 @@ endforeach()
 add_custom_target(translations ALL DEPENDS ${translations})
 add_dependencies(zarn translations)
 
-set(update Qt6::lupdate -no-obsolete -locations none -I . -recursive analysis app card live profile project trace ui export store report openstreet)
+set(update Qt6::lupdate -no-obsolete -locations none -I . -recursive analysis app card live profile project trace ui export store report openstreet vesk)
 add_custom_target(update_translations
   COMMAND ${update} -ts resources/translations/zarn_de.ts
   COMMAND ${update} -pluralonly -ts resources/translations/zarn_en.ts

@@ -17,6 +17,7 @@ constexpr std::size_t kMostMarks = 2000;
 ReportMap::ReportMap(const LoadedCard& loaded, const EventList& limits)
 {
     mBaseMap.loadBuiltIn();
+    mBaseMap.setColours(MapStyle::paper().ground());
     mScene.path().setPoints(*loaded.pPath);
     mScene.setImperial(loaded.context.unit() == EUnit::eImperial);
     mScene.setPlain(true);

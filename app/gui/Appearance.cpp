@@ -1,5 +1,6 @@
 #include "app/gui/Appearance.h"
 
+#include "app/gui/DesktopScheme.h"
 #include "ui/canvas/CanvasFont.h"
 #include "ui/canvas/Palette.h"
 
@@ -32,6 +33,8 @@ QString Appearance::readColours(const QString& path)
 
 bool Appearance::isSystemDark()
 {
+    if (const std::optional<bool> isDark = DesktopScheme::isDark())
+        return *isDark;
     QApplication::setPalette(QPalette()); // nothing else gives the platform's
     return QApplication::palette().color(QPalette::Window).lightness() < kHalfLightness;
 }

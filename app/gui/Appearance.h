@@ -30,7 +30,7 @@ public:
     /// While true the toolkit tells of changes that are no news.
     [[nodiscard]] bool isApplying() const { return mIsApplying; }
 
-    /// By the windows' ground in the platform's palette, which the application takes for it.
+    /// As the desktop says, else by the windows' ground in the platform's palette, which the application takes for it.
     [[nodiscard]] static bool isSystemDark();
 
 private:

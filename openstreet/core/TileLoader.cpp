@@ -31,7 +31,7 @@ qint64 seconds(const QByteArray& text)
 /// Whether a server of that answer is to be left alone for a while: it fails, or wants no more of these requests.
 bool isFailing(int status)
 {
-    constexpr int kStatus[] = {401, 403, 408, 429};
+    constexpr int kStatus[] = {401, 403, 408, 418, 429}; // 418: what some tell whom they have shut out
     return status < 300 || status >= 500 || std::find(std::begin(kStatus), std::end(kStatus), status) != std::end(kStatus);
 }
 

@@ -13,6 +13,8 @@ QString completed(QString address)
     address = address.trimmed();
     if (address.isEmpty())
         return QString::fromLatin1(kDefault);
+    if (address.startsWith(QLatin1String("http://")) && QUrl(address).host().endsWith(QLatin1String("openstreetmap.org")))
+        address.insert(4, QLatin1Char('s')); // who runs it asks for that
     if (!address.contains(QLatin1String("://")))
         address.prepend(QLatin1String("https://"));
     if (!address.contains(QLatin1Char('{')))

@@ -30,7 +30,7 @@ QString escaped(const std::string& text)
 
 QString tableRow(const QString& label, const std::string& value)
 {
-    return "<tr><td>" + label + "</td><td><b>" + escaped(value) + "</b></td></tr>";
+    return "<tr><td>" + label + "</td><td style=\"padding-left: 8px\"><b>" + escaped(value) + "</b></td></tr>";
 }
 
 /// Puts a copy of the file in the target's place; a failure leaves the old one, and an old one that cannot be read is put aside.

@@ -184,6 +184,8 @@ void TestMapCamera::serverAddresses_data()
     QTest::newRow("template") << "https://a.example/t/{z}/{y}/{x}.jpg?k=1" << "https://a.example/t/3/5/4.jpg?k=1" << "a.example";
     QTest::newRow("sub-domains") << "https://{s}.tile.example/{z}/{x}/{y}.png" << "https://a.tile.example/3/4/5.png" << "tile.example";
     QTest::newRow("port") << "http://127.0.0.1:8080/x/" << "http://127.0.0.1:8080/x/3/4/5.png" << "127.0.0.1:8080";
+    QTest::newRow("unencrypted") << "http://tile.openstreetmap.org/{z}/{x}/{y}.png" << "https://tile.openstreetmap.org/3/4/5.png"
+                                 << "tile.openstreetmap.org";
     QTest::newRow("file") << "file:///etc/{z}/{x}/{y}" << "" << "";
     QTest::newRow("no host") << "https:///{z}/{x}/{y}" << "" << "";
 }

@@ -20,6 +20,7 @@ struct Palette {
         std::array<QColor, 12> traces; ///< in turn
     };
     struct Map {
+        QColor water, land, shore, river, country; ///< of the ground; the last one between countries
         QColor path;
         QColor text;
         QColor textGround;

@@ -195,26 +195,20 @@ void RasterCanvas::text(const QPointF& position, const QString& text, const Canv
     if (!isFinite(position) || text.isEmpty())
         return;
     ready().save();
-    mPainter.setFont(font(style));
-    mPainter.setPen(style.colour);
     mPainter.translate(textOrigin(position, text, style));
     if (style.upwards)
         mPainter.rotate(-90);
-    const QPointF start(0, canvasAscent(style.size));
-    if (mPainter.paintEngine()->type() == QPaintEngine::SVG)
-        drawOutlines(start, text, style);
-    else
-        mPainter.drawText(start, text);
+    const QPointF base(0, canvasAscent(style.size));
+    if (mPainter.paintEngine()->type() == QPaintEngine::SVG) { // which would only name the font, and nobody else has it
+        QPainterPath outlines;
+        outlines.addText(base, font(style), text);
+        mPainter.fillPath(outlines, style.colour);
+    } else {
+        mPainter.setFont(font(style));
+        mPainter.setPen(style.colour);
+        mPainter.drawText(base, text);
+    }
     mPainter.restore();
-}
-
-/// A file that names the font would be shown in another, wider one: it is the program's own.
-void RasterCanvas::drawOutlines(const QPointF& start, const QString& text, const CanvasText& style)
-{
-    QPainterPath outlines;
-    outlines.addText(start, font(style), text);
-    mPainter.setRenderHint(QPainter::Antialiasing);
-    mPainter.fillPath(outlines, style.colour);
 }
 
 void RasterCanvas::image(const QRectF& target, const QImage& image)

@@ -39,7 +39,6 @@ protected:
 private:
     class Scope;
     void drawStrip(std::span<const QPointF> points);
-    void drawOutlines(const QPointF& start, const QString& text, const CanvasText& style);
 };
 
 } // namespace ZARN

@@ -374,6 +374,7 @@ void DialogDataGraph::snapshot()
     if (path.isEmpty())
         return;
     Picture snapshot = pictureOf(*mpGraph);
+    snapshot.setTitle(mpPicture->name());
     if (!snapshot.save(path))
         showProblem(tr("The snapshot could not be saved.\n%1").arg(snapshot.error()));
 }

@@ -72,7 +72,10 @@ DialogHelp::DialogHelp(const QString& locale, QWidget* pParent)
     pSplitter->addWidget(mpChapters);
     pSplitter->addWidget(mpBrowser);
     pSplitter->setStretchFactor(1, 1);
-    pSplitter->setSizes({230, 720});
+    mpChapters->ensurePolished();
+    constexpr int kAround = 40, kText = 720; // pixels
+    const int chapters = std::min(mpChapters->sizeHintForColumn(0) + kAround, kText / 2);
+    pSplitter->setSizes({chapters, kText});
     auto* pButtons = new QDialogButtonBox(QDialogButtonBox::Close);
     connect(pButtons, &QDialogButtonBox::rejected, this, &QDialog::close);
     pButtons->button(QDialogButtonBox::Close)->setAutoDefault(false); // the return key belongs to the search
@@ -80,7 +83,7 @@ DialogHelp::DialogHelp(const QString& locale, QWidget* pParent)
     pLayout->addWidget(createHead());
     pLayout->addWidget(pSplitter, 1);
     pLayout->addWidget(pButtons);
-    resize(960, 700);
+    resize(chapters + kText, 700);
 }
 
 QWidget* DialogHelp::createHead()

@@ -205,7 +205,7 @@ void DialogMain::createControllers()
     mpAbout = new DialogAbout(this);
     mpHelp = new DialogHelp(Settings::kLocale.text(mSession.property), this);
     mpProfileInfo = new DialogProfileInfo(mSession, *mpCatalogue, this);
-    mpPreferences = new DialogPreferences(mSession, mEnvironment.kernel, this);
+    mpPreferences = new DialogPreferences(mSession, mEnvironment.kernel, this, QString::fromStdString(mEnvironment.folders.dataPath()));
 }
 
 void DialogMain::createLayouts()

@@ -32,9 +32,10 @@ constexpr int kListWidth = 150;
 
 } // namespace
 
-DialogPreferences::DialogPreferences(const Session& session, Kernel& kernel, QWidget* pParent)
-    : QDialog(pParent), mSession(session), mKernel(kernel), mLocale(Settings::kLocale.text(session.property)), mpList(new SideList(kListWidth)),
-      mpPages(new QStackedWidget), mpLanguage(new QComboBox), mpPalette(new QComboBox), mpFontSize(new QSpinBox), mpMap(new MapOptions(session))
+DialogPreferences::DialogPreferences(const Session& session, Kernel& kernel, QWidget* pParent, const QString& dataPath)
+    : QDialog(pParent), mSession(session), mKernel(kernel), mLocale(Settings::kLocale.text(session.property)),
+      mpList(new SideList(kListWidth)), mpPages(new QStackedWidget), mpLanguage(new QComboBox), mpPalette(new QComboBox),
+      mpFontSize(new QSpinBox), mpMap(new MapOptions(session, dataPath))
 {
     setWindowTitle(tr("Preferences"));
     mpList->setIconSize(QSize(16, 16));

@@ -21,7 +21,8 @@ class DialogPreferences : public QDialog {
     Q_OBJECT
 
 public:
-    DialogPreferences(const Session& session, Kernel& kernel, QWidget* pParent = nullptr);
+    /// @param dataPath folder in which earlier versions kept map tiles
+    DialogPreferences(const Session& session, Kernel& kernel, QWidget* pParent = nullptr, const QString& dataPath = {});
     ~DialogPreferences() override;
 
     /// Shows what the settings hold.

@@ -49,10 +49,11 @@ QSpinBox* box(const NumberSetting& setting, const QString& suffix)
 
 } // namespace
 
-MapOptions::MapOptions(const Session& session, QWidget* pParent)
-    : QWidget(pParent), mSession(session), mpTiles(new QCheckBox(tr("Load map tiles from the network"))), mpServerText(wrapped()),
-      mpServer(new QLineEdit), mpAttribution(new QLineEdit), mpOffline(new QCheckBox(tr("Offline: ask no server, show what is kept"))),
-      mpPath(wrapped()), mpZoom(box(Settings::kMapHighestZoom, {})), mpSize(box(Settings::kMapCacheSize, tr(" MiB"))), mpUsed(wrapped())
+MapOptions::MapOptions(const Session& session, const QString& dataPath, QWidget* pParent)
+    : QWidget(pParent), mSession(session), mFormerTiles(dataPath.isEmpty() ? QString() : formerTileFolder(dataPath)),
+      mpTiles(new QCheckBox(tr("Load map tiles from the network"))), mpServerText(wrapped()), mpServer(new QLineEdit),
+      mpAttribution(new QLineEdit), mpOffline(new QCheckBox(tr("Offline: ask no server, show what is kept"))), mpPath(wrapped()),
+      mpZoom(box(Settings::kMapHighestZoom, {})), mpSize(box(Settings::kMapCacheSize, tr(" MiB"))), mpUsed(wrapped())
 {
     mpTiles->setObjectName("tiles");
     mpServerText->setObjectName("tileServer");
@@ -118,6 +119,7 @@ QWidget* MapOptions::createKept()
 {
     auto* pGroup = new QGroupBox(tr("Map tiles that are kept"));
     auto* pEmpty = new QPushButton(tr("Remove all"));
+    pEmpty->setObjectName("tilesEmpty");
     connect(pEmpty, &QPushButton::clicked, this, &MapOptions::empty);
     auto* pRow = new QHBoxLayout;
     pRow->addWidget(mpUsed, 1);
@@ -178,9 +180,13 @@ void MapOptions::fill()
 /// Walks through all that is kept, so not before it is seen.
 void MapOptions::fillUsed()
 {
-    OpenStreet::TileDisk disk;
-    disk.setFolder(tileFolder());
-    mpUsed->setText(tr("%1 are kept.").arg(locale().formattedDataSize(disk.size())));
+    qint64 size = 0;
+    for (const QString& folder : {tileFolder(), mFormerTiles}) {
+        OpenStreet::TileDisk disk;
+        disk.setFolder(folder);
+        size += disk.size();
+    }
+    mpUsed->setText(tr("%1 are kept.").arg(locale().formattedDataSize(size)));
 }
 
 void MapOptions::showEvent(QShowEvent* pEvent)
@@ -221,9 +227,11 @@ void MapOptions::setPath(const QString& path)
 
 void MapOptions::empty()
 {
-    OpenStreet::TileDisk disk;
-    disk.setFolder(tileFolder());
-    disk.clear();
+    for (const QString& folder : {tileFolder(), mFormerTiles}) {
+        OpenStreet::TileDisk disk;
+        disk.setFolder(folder);
+        disk.clear();
+    }
     keep();
 }
 

@@ -18,7 +18,8 @@ class MapOptions : public QWidget {
     Q_OBJECT
 
 public:
-    explicit MapOptions(const Session& session, QWidget* pParent = nullptr);
+    /// @param dataPath folder below which earlier versions kept tiles; empty for none
+    MapOptions(const Session& session, const QString& dataPath, QWidget* pParent = nullptr);
 
     /// Shows what the settings hold.
     void fill();
@@ -44,6 +45,7 @@ private:
     void empty();
 
     Session mSession;
+    const QString mFormerTiles;
     QCheckBox* mpTiles;
     QLabel* mpServerText;
     QLineEdit* mpServer;

@@ -25,6 +25,7 @@ StyleWatch::StyleWatch(const Console& console, Kernel& kernel, Notices& notices,
     mFollow.setSingleShot(true);
     connect(&mFollow, &QTimer::timeout, this, [this] { mKernel.applyPalette(); });
     QCoreApplication::instance()->installEventFilter(this);
+    connect(&mDesktop, &DesktopScheme::signalChanged, this, &StyleWatch::follow);
     if (mFile.isEmpty())
         return;
     connect(&mTimer, &QTimer::timeout, this, &StyleWatch::checkFile);
@@ -50,9 +51,15 @@ void StyleWatch::tellProblem()
 bool StyleWatch::eventFilter(QObject* pObject, QEvent* pEvent)
 {
     const bool isNews = pEvent->type() == QEvent::ThemeChange || pEvent->type() == QEvent::ApplicationPaletteChange;
-    if (isNews && mKernel.followsSystem())
-        mFollow.start(); // later: the toolkit is in the midst of its change
+    if (isNews)
+        follow();
     return QObject::eventFilter(pObject, pEvent);
+}
+
+void StyleWatch::follow()
+{
+    if (mKernel.followsSystem())
+        mFollow.start(); // later: the toolkit is in the midst of its change
 }
 
 } // namespace ZARN

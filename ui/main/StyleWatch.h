@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/gui/DesktopScheme.h"
+
 #include <QDateTime>
 #include <QObject>
 #include <QTimer>
@@ -23,6 +25,7 @@ protected:
     bool eventFilter(QObject* pObject, QEvent* pEvent) override;
 
 private:
+    void follow();
     void checkFile();
     void tellProblem();
 
@@ -32,6 +35,7 @@ private:
     QString mFile;
     QDateTime mTime; ///< of the file as it was last seen
     QTimer mTimer;
+    DesktopScheme mDesktop;
     QTimer mFollow; ///< one change of the system is told to each window
 };
 

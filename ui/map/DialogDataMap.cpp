@@ -29,10 +29,9 @@ namespace {
 
 constexpr int kMargin = 10;
 constexpr int kLeastWidth = 200;
-constexpr int kBelowPanels = 70; // pixels for what is written at the lower edge
-constexpr int kBelowConsent = 40;
-constexpr int kWidestConsent = 720;
-constexpr int kBesideMap = 520; // pixels of width from which values stand beside the map, else below it
+constexpr int kBelowPanels = 40; // pixels for what is written at the lower edge
+constexpr int kBesideMap = 520;   // pixels of width from which values stand beside the map, else below it
+constexpr int kLegendRoom = 240;  // pixels beside the tools from which the legend stands there, else below them
 constexpr int kCourseDelay = 150; // milliseconds
 
 } // namespace
@@ -67,9 +66,10 @@ void DialogDataMap::createMap(const QString& dataPath)
     auto* pLayout = new QVBoxLayout(this);
     pLayout->setContentsMargins(0, 0, 0, 0);
     pLayout->setSpacing(1);
+    createPanels();
+    pLayout->addWidget(mpConsent);
     pLayout->addWidget(mpSplitter, 1);
     pLayout->addWidget(mpProfile);
-    createPanels();
     connectMap();
     mpProfile->hide(); // until there is an altitude
     updateValues();
@@ -83,11 +83,13 @@ void DialogDataMap::createPanels()
     mpConsent = new MapConsentBar(this);
     mpConsent->hide();
     const auto take = [this] {
-        const QImage image = mpMap->grab().toImage();
-        return Picture([image](Canvas& canvas, const QSize& size, bool /*forPaper*/) { canvas.image(QRectF(QPointF(), size), image); }, mpMap->size(),
-                       image.devicePixelRatio());
+        const QImage image = mpMap->picture(false), paper = mpMap->picture(true);
+        return Picture([image, paper](Canvas& canvas, const QSize& size,
+                                      bool forPaper) { canvas.image(QRectF(QPointF(), size), forPaper ? paper : image); },
+                       mpMap->size(), image.devicePixelRatio());
     };
-    mpPicture = new PictureMenu(mSession, take, [] { return tr("Map"); }, this);
+    mpPicture = new PictureMenu(
+        mSession, take, [] { return tr("Map"); }, this);
     connect(mpPicture, &PictureMenu::signalProblem, this, &DialogDataMap::showProblem);
 }
 
@@ -96,6 +98,10 @@ void DialogDataMap::connectMap()
     connect(mpMap, &WidgetMap::signalUpdateMode, this, &DialogDataMap::slotUpdateMode);
     connect(mpMap, &WidgetMap::signalMoment, this, &DialogDataMap::signalMoment);
     connect(mpMap, &WidgetMap::signalTime, this, &DialogDataMap::pickTime);
+    connect(mpMap, &WidgetMap::signalCorner, this, [this](const QSize& size) {
+        mCorner = size;
+        updateGeometry();
+    });
     connect(mpMap, &WidgetMap::signalShown, mpProfile, &MapProfile::setShown);
     connect(mpProfile, &MapProfile::signalTime, this, &DialogDataMap::pickTime);
     connect(mpTools, &MapToolPanel::signalToggled, this, &DialogDataMap::slotCommandToggled);
@@ -255,7 +261,6 @@ void DialogDataMap::updateConsent()
 {
     mpConsent->setServer(mpMap->map().tileServer().name());
     mpConsent->setVisible(mpMap->isConsentMissing());
-    updateGeometry();
 }
 
 void DialogDataMap::slotConsent(bool isAllowed)
@@ -318,7 +323,8 @@ void DialogDataMap::arrangeValues()
     const QSize wanted = mpValues->sizeHint();
     const int room = isBeside ? mpSplitter->width() : mpSplitter->height();
     const int row = mpValues->rowHeight();
-    const int values = isBeside ? std::min(wanted.width(), room * 2 / 5) : std::min(wanted.height(), std::max(room / 4 / row, 2) * row); // whole rows
+    const int values =
+        isBeside ? std::min(wanted.width(), room * 2 / 5) : std::min(wanted.height(), std::max(room / 4 / row, 2) * row); // whole rows
     mpSplitter->setSizes({std::max(room - values, 1), std::max(values, 1)});
 }
 
@@ -328,17 +334,12 @@ void DialogDataMap::updateGeometry()
         return;
     const QRect map(mpMap->mapTo(this, QPoint()), mpMap->size());
     const int margin = kMargin * mContext.scale;
-    const int tallest = std::max(map.height() - kBelowPanels, 0);
-    mpTools->arrangeFor({map.width() - margin, tallest});
+    const int below = std::max(kBelowPanels, mCorner.height() + margin);
+    mpTools->arrangeFor({map.width() - 2 * margin, std::max(map.height() - 3 * margin - below, 0)});
     mpTools->move(map.topLeft() + QPoint(margin, margin));
     mpTools->raise();
-    const bool isLying = mpTools->width() > mpTools->height(); // the legend stands below it then
-    mpMap->setLegendTop(isLying ? mpTools->height() + 2 * margin : margin);
-    const int wide = std::max(std::min(map.width() - 2 * margin, kWidestConsent), 0);
-    const int tall = mpConsent->arrangeFor(wide);
-    const int below = std::max(kBelowConsent, mpMap->cornerSize().height() + margin);
-    mpConsent->setGeometry(map.left() + (map.width() - wide) / 2, map.top() + std::max(map.height() - margin - below - tall, 0), wide, tall);
-    mpConsent->raise();
+    const bool isBeside = map.width() - mpTools->width() > kLegendRoom;
+    mpMap->setCovered(mpTools->size() + QSize(margin, margin), isBeside ? margin : mpTools->height() + 2 * margin);
 }
 
 bool DialogDataMap::eventFilter(QObject* pObject, QEvent* pEvent)
@@ -351,6 +352,8 @@ bool DialogDataMap::eventFilter(QObject* pObject, QEvent* pEvent)
 void DialogDataMap::resizeEvent(QResizeEvent* pEvent)
 {
     QWidget::resizeEvent(pEvent);
+    if (mpMap)
+        mpConsent->arrangeFor(width());
     if (mpMap && (mpSplitter->orientation() == Qt::Horizontal) != (width() >= kBesideMap))
         arrangeValues();
     updateGeometry();
@@ -384,7 +387,8 @@ void DialogDataMap::addTileActions(QMenu& menu)
     QAction* pTiles = menu.addAction(tr("Load map tiles from %1").arg(server.name()));
     pTiles->setCheckable(true);
     pTiles->setChecked(TileConsent(mSession.property).answer(server.address()) == TileConsent::eYes);
-    pTiles->setEnabled(server.isValid() && Settings::kMapTilePath.get(mSession.property).empty() && !Settings::kMapOffline.get(mSession.property));
+    pTiles->setEnabled(server.isValid() && Settings::kMapTilePath.get(mSession.property).empty() &&
+                       !Settings::kMapOffline.get(mSession.property));
     connect(pTiles, &QAction::toggled, this, &DialogDataMap::slotConsent);
 }
 

@@ -94,6 +94,7 @@ private:
     MapContext mContext;
     MapValues mValues;
     WidgetMap* mpMap = nullptr;
+    QSize mCorner; // of the map, that is taken
     QSplitter* mpSplitter = nullptr;
     MapValueTable* mpValues = nullptr;
     MapProfile* mpProfile = nullptr;
@@ -102,7 +103,7 @@ private:
     PictureMenu* mpPicture = nullptr;
     RecordData* mpRecord = nullptr;
     double mTime = 0.0;
-    QTimer mCourseDelay; // while a record grows it is not worked out each time
+    QTimer mCourseDelay;     // while a record grows it is not worked out each time
     MapCourseFinder mCourse; // the last: it waits for what it finds
 };
 

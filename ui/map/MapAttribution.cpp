@@ -14,7 +14,7 @@ constexpr int kMargin = 8; // pixels from the window's edges
 
 QString link(const QString& address, const QString& text)
 {
-    return QStringLiteral("<a style='color:#1d4f91' href='%1'>%2</a>").arg(address.toHtmlEscaped(), text.toHtmlEscaped());
+    return QStringLiteral("<a href='%1'>%2</a>").arg(address.toHtmlEscaped(), text.toHtmlEscaped());
 }
 
 } // namespace
@@ -27,7 +27,6 @@ MapAttribution::MapAttribution(QWidget* pParent) : QLabel(pParent)
     setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     setOpenExternalLinks(true);
     setMargin(kPadding);
-    setStyleSheet(QStringLiteral("#mapAttribution {background-color: #e1ffffff; color: #404040;}"));
 }
 
 QStringList MapAttribution::serverLinks(const OpenStreet::TileServer& server, const QString& own)

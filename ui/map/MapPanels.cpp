@@ -1,198 +1,107 @@
 #include "ui/map/MapPanels.h"
 
-#include "ui/map/model/MapScene.h"
+#include "app/gui/ImageHandler.h"
 
-#include <QAbstractButton>
-#include <QAction>
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenu>
-#include <QPainter>
 #include <QPushButton>
-#include <QToolBar>
 #include <QToolButton>
 
 #include <algorithm>
+
+// Resources of a static library are not registered by themselves; the macro must stand outside every namespace.
+static void registerIcons()
+{
+    Q_INIT_RESOURCE(map);
+}
 
 namespace ZARN {
 
 namespace {
 
-constexpr int kIconSize = 32;
 constexpr double kZoomStep = 0.5; // of the range, for a click
-const QColor kIconColour(25, 60, 140);
-constexpr int kLeastText = 260; // pixels of a line of the question beside its buttons
+constexpr int kLeastText = 260;   // pixels of a line of the question beside its buttons
 
-/// A picture for a button, drawn around the middle of a square of 48 units.
-template <typename Draw> QIcon drawnIcon(int edge, Draw draw)
-{
-    constexpr int kDense = 2; // for screens with dense pixels
-    QPixmap picture(edge * kDense, edge * kDense);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.scale(picture.width() / 48.0, picture.height() / 48.0);
-    painter.translate(24.0, 24.0);
-    draw(painter);
-    painter.end();
-    picture.setDevicePixelRatio(kDense);
-    return QIcon(picture);
-}
+constexpr int kIconSizes[] = {32, 24, 20}; // the largest that leaves room for all is taken
+constexpr int kAroundIcon = 4;             // pixels of a button beside its icon
+constexpr int kPadding = 5;                // of the panel
 
-/// The aircraft in a circle.
-QIcon aircraftIcon(int edge)
+int ceilOf(int amount, int by)
 {
-    return drawnIcon(edge, [](QPainter& painter) {
-        painter.setPen(QPen(kIconColour, 2.5));
-        painter.drawEllipse(QPointF(0, 0), 21.0, 21.0);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(kIconColour);
-        const auto outline = MapScene::aircraftOutline();
-        painter.drawPolygon(outline.data(), static_cast<int>(outline.size()));
-    });
-}
-
-/// A plus, or a minus, in a lens.
-QIcon zoomIcon(int edge, bool isIn)
-{
-    return drawnIcon(edge, [isIn](QPainter& painter) {
-        painter.setPen(QPen(kIconColour, 3.0, Qt::SolidLine, Qt::RoundCap));
-        painter.drawEllipse(QPointF(-3, -3), 14.0, 14.0);
-        painter.drawLine(QPointF(7.5, 7.5), QPointF(18, 18));
-        painter.drawLine(QPointF(-10, -3), QPointF(4, -3));
-        if (isIn)
-            painter.drawLine(QPointF(-3, -10), QPointF(-3, 4));
-    });
-}
-
-/// The corners of a frame around a path.
-QIcon fitIcon(int edge)
-{
-    return drawnIcon(edge, [](QPainter& painter) {
-        painter.setPen(QPen(kIconColour, 3.0, Qt::SolidLine, Qt::RoundCap));
-        for (const double x : {-1.0, 1.0}) {
-            for (const double y : {-1.0, 1.0}) {
-                painter.drawLine(QPointF(18 * x, 16 * y), QPointF(10 * x, 16 * y));
-                painter.drawLine(QPointF(18 * x, 16 * y), QPointF(18 * x, 8 * y));
-            }
-        }
-        painter.drawPolyline(QPolygonF({{-9, 6}, {-2, -6}, {3, 3}, {9, -5}}));
-    });
-}
-
-/// Mountains above a line.
-QIcon profileIcon(int edge)
-{
-    return drawnIcon(edge, [](QPainter& painter) {
-        painter.setPen(QPen(kIconColour, 2.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        painter.drawLine(QPointF(-19, 15), QPointF(19, 15));
-        painter.drawPolyline(QPolygonF({{-18, 10}, {-8, -8}, {0, 2}, {8, -14}, {18, 10}}));
-    });
-}
-
-/// A path in three colours.
-QIcon coloursIcon(int edge)
-{
-    return drawnIcon(edge, [](QPainter& painter) {
-        const QPolygonF way({{-18, 12}, {-7, -8}, {6, 8}, {18, -12}});
-        const QColor colours[] = {QColor(59, 82, 139), QColor(33, 145, 140), QColor(214, 120, 20)};
-        for (int i = 0; i < 3; ++i) {
-            painter.setPen(QPen(colours[i], 6.0, Qt::SolidLine, Qt::RoundCap));
-            painter.drawLine(way[i], way[i + 1]);
-        }
-    });
-}
-
-/// Lines of names and values in a frame.
-QIcon valuesIcon(int edge)
-{
-    return drawnIcon(edge, [](QPainter& painter) {
-        painter.setPen(QPen(kIconColour, 2.5));
-        painter.drawRoundedRect(QRectF(-20, -17, 40, 34), 5, 5);
-        for (const double y : {-8.0, 0.0, 8.0}) {
-            painter.drawLine(QPointF(-14, y), QPointF(0, y));
-            painter.drawLine(QPointF(6, y), QPointF(14, y));
-        }
-    });
+    return (amount + by - 1) / by;
 }
 
 } // namespace
 
-MapToolPanel::MapToolPanel(int scale, QWidget* pParent) : QWidget(pParent), mpColours(new QMenu(this)), mpBar(new QToolBar)
+MapToolPanel::MapToolPanel(int scale, QWidget* pParent)
+    : QFrame(pParent), mScale(scale), mpColours(new QMenu(this)), mpGrid(new QGridLayout(this))
 {
-    auto* pPanel = new QWidget(this);
-    pPanel->setStyleSheet(QStringLiteral(".QWidget{background-color: #66ffffff;border-radius:10px;}"
-                                          "QToolButton:checked, QToolButton:hover {background-color: #d7e8f6;}"));
-    auto* pOuter = new QVBoxLayout(this);
-    pOuter->setContentsMargins(0, 0, 0, 0);
-    pOuter->addWidget(pPanel);
-    auto* pLayout = new QVBoxLayout(pPanel);
-    pLayout->setContentsMargins(3, 3, 3, 3);
-    mpBar->setStyleSheet(QStringLiteral(".QToolBar{background-color: #00ffffff;border-radius:10px;spacing:0px;padding:0px;} "
-                                        "QToolButton{padding:1px;margin:0px;} QToolButton::menu-indicator{image:none;}"));
-    mpBar->setOrientation(Qt::Vertical);
-    mpBar->setIconSize({kIconSize * scale, kIconSize * scale});
-    addCommand(*mpBar, aircraftIcon(kIconSize * scale), tr("Center AC"), kCentreAircraft);
-    addCommand(*mpBar, valuesIcon(kIconSize * scale), tr("Show values"), kShowValues);
-    addCommand(*mpBar, profileIcon(kIconSize * scale), tr("Show the altitude below the map"), kShowProfile);
-    addColours(*mpBar, coloursIcon(kIconSize * scale));
-    connect(addButton(*mpBar, zoomIcon(kIconSize * scale, true), tr("Zoom in")), &QAction::triggered, this,
-            [this] { Q_EMIT signalZoom(kZoomStep); });
-    connect(addButton(*mpBar, zoomIcon(kIconSize * scale, false), tr("Zoom out")), &QAction::triggered, this,
-            [this] { Q_EMIT signalZoom(1.0 / kZoomStep); });
-    connect(addButton(*mpBar, fitIcon(kIconSize * scale), tr("Show the whole flight")), &QAction::triggered, this, &MapToolPanel::signalFit);
-    pLayout->addWidget(mpBar);
+    registerIcons();
+    setObjectName(QStringLiteral("mapTools"));
+    mpGrid->setContentsMargins(kPadding, kPadding, kPadding, kPadding);
+    mpGrid->setSpacing(0);
+    addCommand("map-aircraft", tr("Center AC"), kCentreAircraft);
+    addCommand("map-values", tr("Show values"), kShowValues);
+    addCommand("map-profile", tr("Show the altitude below the map"), kShowProfile);
+    QToolButton* pColours = addButton("map-colours", tr("Colours of the path"));
+    pColours->setPopupMode(QToolButton::InstantPopup);
+    pColours->setMenu(mpColours);
+    connect(addButton("map-zoom-in", tr("Zoom in")), &QToolButton::clicked, this, [this] { Q_EMIT signalZoom(kZoomStep); });
+    connect(addButton("map-zoom-out", tr("Zoom out")), &QToolButton::clicked, this, [this] { Q_EMIT signalZoom(1.0 / kZoomStep); });
+    connect(addButton("map-fit", tr("Show the whole flight")), &QToolButton::clicked, this, &MapToolPanel::signalFit);
 }
 
 void MapToolPanel::arrangeFor(const QSize& room)
 {
-    const std::array layouts{layout(), mpBar->parentWidget()->layout(), mpBar->layout()};
-    const auto turn = [&](Qt::Orientation orientation) {
-        mpBar->setOrientation(orientation);
-        for (QLayout* pLayout : layouts)
-            pLayout->invalidate(); // what they want is asked for at once
-    };
-    turn(Qt::Vertical);
-    if (sizeHint().height() > room.height())
-        turn(Qt::Horizontal);
-    resize(sizeHint().boundedTo(room));
-    for (QLayout* pLayout : layouts)
-        pLayout->activate();
+    const int count = static_cast<int>(mButtons.size());
+    int cell = 0, columns = count;
+    for (const int most : {1, count}) { // one column of smaller icons rather than two of larger ones
+        for (const int size : kIconSizes) {
+            cell = size * mScale + kAroundIcon;
+            columns = ceilOf(count, std::clamp((room.height() - 2 * kPadding) / cell, 1, count));
+            if (columns <= most && columns * cell + 2 * kPadding <= room.width())
+                return place(cell, columns);
+        }
+    }
+    place(cell, std::clamp((room.width() - 2 * kPadding) / cell, 1, columns));
 }
 
-QAction* MapToolPanel::addButton(QToolBar& bar, const QIcon& icon, const QString& text)
+void MapToolPanel::place(int cell, int columns)
 {
-    QAction* pAction = bar.addAction(icon, text);
-    pAction->setToolTip(text);
-    bar.widgetForAction(pAction)->setAccessibleName(text);
-    return pAction;
+    const int count = static_cast<int>(mButtons.size()), rows = ceilOf(count, columns);
+    for (int i = 0; i < count; ++i) {
+        QToolButton& button = *mButtons[static_cast<std::size_t>(i)];
+        button.setFixedSize(cell, cell);
+        button.setIconSize(QSize(cell, cell) - QSize(kAroundIcon, kAroundIcon));
+        mpGrid->addWidget(&button, i % rows, i / rows); // moves it
+    }
+    resize(columns * cell + 2 * kPadding, rows * cell + 2 * kPadding);
 }
 
-void MapToolPanel::addColours(QToolBar& bar, const QIcon& icon)
+QToolButton* MapToolPanel::addButton(const char* pIcon, const QString& text)
 {
-    auto* pButton = new QToolButton;
-    pButton->setIcon(icon);
-    pButton->setToolTip(tr("Colours of the path"));
-    pButton->setAccessibleName(pButton->toolTip());
+    auto* pButton = new QToolButton(this);
+    pButton->setIcon(ImageHandler::icon(QLatin1String(pIcon)));
+    pButton->setToolTip(text);
+    pButton->setAccessibleName(text);
     pButton->setFocusPolicy(Qt::TabFocus);
-    pButton->setPopupMode(QToolButton::InstantPopup);
-    pButton->setMenu(mpColours);
-    bar.addWidget(pButton);
+    mButtons.push_back(pButton);
+    return pButton;
 }
 
-void MapToolPanel::addCommand(QToolBar& bar, const QIcon& icon, const QString& text, int id)
+void MapToolPanel::addCommand(const char* pIcon, const QString& text, int id)
 {
-    QAction* pAction = addButton(bar, icon, text);
-    pAction->setCheckable(true);
-    pAction->setChecked(true);
-    auto* pButton = qobject_cast<QAbstractButton*>(bar.widgetForAction(pAction));
-    connect(pButton, &QAbstractButton::toggled, this, [this, id](bool isChecked) { Q_EMIT signalToggled(id, isChecked); });
-    mButtons[static_cast<std::size_t>(id)] = pButton;
+    QToolButton* pButton = addButton(pIcon, text);
+    pButton->setCheckable(true);
+    pButton->setChecked(true);
+    connect(pButton, &QToolButton::toggled, this, [this, id](bool isChecked) { Q_EMIT signalToggled(id, isChecked); });
 }
 
 void MapToolPanel::setChecked(int id, bool isChecked)
 {
-    if (QAbstractButton* pButton = mButtons[static_cast<std::size_t>(id)]; pButton->isChecked() != isChecked)
+    if (QToolButton* pButton = mButtons[static_cast<std::size_t>(id)]; pButton->isChecked() != isChecked)
         pButton->click();
 }
 
@@ -205,8 +114,6 @@ MapConsentBar::MapConsentBar(QWidget* pParent)
     : QFrame(pParent), mpText(new QLabel), mpLine(new QHBoxLayout(this)), mpButtons(new QHBoxLayout)
 {
     setObjectName(QStringLiteral("consentBar"));
-    setStyleSheet(QStringLiteral(
-        "#consentBar{background-color: #eefff6d5;border:1px solid #b8a25a;border-radius:6px;} #consentBar QLabel{color:black;}"));
     mpText->setTextFormat(Qt::PlainText);
     mpText->setWordWrap(true);
     auto* pYes = new QPushButton(tr("Load map tiles"));
@@ -229,7 +136,7 @@ void MapConsentBar::setServer(const QString& name)
                         .arg(QString(name).replace('.', QStringLiteral(".\u200b")))); // a long name may be broken there
 }
 
-int MapConsentBar::arrangeFor(int width)
+void MapConsentBar::arrangeFor(int width)
 {
     const QMargins margins = mpLine->contentsMargins();
     const int room = width - margins.left() - margins.right();
@@ -239,7 +146,6 @@ int MapConsentBar::arrangeFor(int width)
     mpLine->setDirection(isNarrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
     if (buttons > room)
         mpButtons->setDirection(QBoxLayout::TopToBottom);
-    return std::max(mpLine->totalHeightForWidth(width), mpLine->totalMinimumSize().height());
 }
 
 } // namespace ZARN

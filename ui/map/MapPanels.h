@@ -2,20 +2,18 @@
 
 #include <QFrame>
 
-#include <array>
+#include <vector>
 
-class QAbstractButton;
-class QAction;
 class QBoxLayout;
-class QIcon;
+class QGridLayout;
 class QLabel;
 class QMenu;
-class QToolBar;
+class QToolButton;
 
 namespace ZARN {
 
-/// The light panel of the map's commands.
-class MapToolPanel : public QWidget {
+/// The panel of the map's commands.
+class MapToolPanel : public QFrame {
     Q_OBJECT
 
 public:
@@ -25,7 +23,7 @@ public:
 
     /// @param scale of the overlays, see MapContext
     MapToolPanel(int scale, QWidget* pParent);
-    /// Stands upright where there is room for all commands, else lies.
+    /// One column of buttons where there is room for all of them, else more columns, of smaller buttons at last.
     void arrangeFor(const QSize& room);
     void setChecked(int id, bool isChecked);
     [[nodiscard]] bool isChecked(int id) const;
@@ -40,24 +38,26 @@ Q_SIGNALS:
     void signalFit();
 
 private:
-    void addCommand(QToolBar& bar, const QIcon& icon, const QString& text, int id);
-    QAction* addButton(QToolBar& bar, const QIcon& icon, const QString& text);
-    void addColours(QToolBar& bar, const QIcon& icon);
+    void place(int cell, int columns);
+    QToolButton* addButton(const char* pIcon, const QString& text);
+    void addCommand(const char* pIcon, const QString& text, int id);
 
-    std::array<QAbstractButton*, 3> mButtons{}; ///< by command; no group, which would leave one of them to the Tab key
+    const int mScale;
+    std::vector<QToolButton*>
+        mButtons; ///< those that can be checked first, by command; no group, which would leave one of them to the Tab key
     QMenu* mpColours;
-    QToolBar* mpBar;
+    QGridLayout* mpGrid;
 };
 
-/// Asks, on the map itself, whether map tiles may be fetched, and names the server that would be asked.
+/// Asks, above the map, whether map tiles may be fetched, and names the server that would be asked.
 class MapConsentBar : public QFrame {
     Q_OBJECT
 
 public:
     explicit MapConsentBar(QWidget* pParent);
     void setServer(const QString& name);
-    /// Puts the buttons beside the text, or below it where that would leave the text too little. @return the height that the bar then needs.
-    int arrangeFor(int width);
+    /// Puts the buttons beside the text, or below it where that would leave the text too little.
+    void arrangeFor(int width);
 
 Q_SIGNALS:
     void signalAnswer(bool isAllowed);

@@ -93,8 +93,10 @@ void MapProfile::changeEvent(QEvent* pEvent)
     QWidget::changeEvent(pEvent);
     if (pEvent->type() != QEvent::FontChange && pEvent->type() != QEvent::StyleChange)
         return;
+    mStyle.colours = Palette::screen().map;
     mStyle.textSize = QFontInfo(font()).pixelSize() - 1.0;
     updateGeometry();
+    update();
 }
 
 } // namespace ZARN

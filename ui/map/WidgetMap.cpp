@@ -8,6 +8,7 @@
 #include "card/CardContainer.h"
 #include "openstreet/core/BaseMap.h"
 #include "profile/Profile.h"
+#include "ui/canvas/ColourContrast.h"
 #include "ui/map/MapAttribution.h"
 #include "ui/map/model/MapDescription.h"
 #include "ui/map/model/TileConsent.h"
@@ -54,7 +55,6 @@ WidgetMap::WidgetMap(const Session& session, const QString& dataPath, MapContext
     setMinimumSize(100, 100);
     setUpMap(dataPath);
     const SurfacePainting painting{
-        .background = QColor(OpenStreet::BaseMap::Colours().water),
         .update = [this](const QSize& /*size*/, double /*ratio*/) { updateGround(); },
         .paint =
             [this](Canvas& canvas, VESK::OpenGL::Device* pDevice) {
@@ -90,7 +90,7 @@ WidgetMap::~WidgetMap()
 
 void WidgetMap::setUpMap(const QString& dataPath)
 {
-    mMap.setTileDirectory(tileFolder().toUtf8().constData(), (dataPath + QLatin1String("/tiles/")).toUtf8().constData());
+    mMap.setTileDirectory(tileFolder().toUtf8().constData(), formerTileFolder(dataPath).toUtf8().constData());
     mMap.setTerrainPath((dataPath + QLatin1String("/terrain/")).toUtf8().constData());
     mMap.setProjection(OpenStreet::ProjectionType::eMercator);
     mMap.setMapType(OpenStreet::MapType::eTiles);
@@ -112,8 +112,19 @@ void WidgetMap::updateSettings()
     mMap.store().disk().setLimit(qint64(Settings::kMapCacheSize.get(property)) * 1024 * 1024);
     openTiles();
     allowTiles();
-    updateUnit();
+    mScene.setImperial(mSession.profile.currentUnit() == EUnit::eImperial);
+    updateColours();
     mIsDirty = true;
+}
+
+/// Tiles stay as they come, so what lies between and above them is light, too.
+void WidgetMap::updateColours(bool isLight)
+{
+    const Palette::Map& screen = Palette::screen().map;
+    const bool isDark = textColourOn(screen.land) == Qt::white;
+    mScene.style().colours = isDark && (isLight || mIsServed) ? Palette::light().map : screen;
+    mMap.setColours(mScene.style().ground());
+    updateTint();
 }
 
 /// Once for a path: an archive is not read anew for every other setting.
@@ -122,6 +133,7 @@ void WidgetMap::openTiles()
     const QString path = Settings::kMapTilePath.text(mSession.property);
     if (std::exchange(mTilePath, path) == path)
         return;
+    mIsServed = false;
     mTileProblem.clear();
     if (!mMap.setLocalTiles(path, &mTileProblem))
         mSession.console.print("WidgetMap::openTiles: %s\n", mTileProblem.toUtf8().constData());
@@ -133,6 +145,7 @@ void WidgetMap::allowTiles()
     const bool isOffline = Settings::kMapOffline.get(mSession.property);
     const bool wereAllowed = mMap.areTilesAllowed();
     mMap.setTilesAllowed(!isOffline && !mScene.path().isEmpty() && TileConsent(mSession.property).answer(server) == TileConsent::eYes);
+    mIsServed = mIsServed && (mMap.areTilesAllowed() || mMap.localTiles());
     mScene.setPlain(!mSources.hasTiles);
     updateNote();
     mIsDirty = mIsDirty || wereAllowed != mMap.areTilesAllowed();
@@ -162,6 +175,13 @@ QString WidgetMap::note()
     if (const int loading = mMap.store().loading(); loading > 0 && mMap.areTilesAllowed())
         return tr("Loading the map: %n tile(s)", nullptr, loading);
     return mMap.baseMap().problem().isEmpty() ? mScene.places().problem() : mMap.baseMap().problem();
+}
+
+void WidgetMap::setCovered(const QSize& corner, int legendTop)
+{
+    mScene.style().tools = corner;
+    mScene.style().legendTop = legendTop;
+    mIsDirty = true;
 }
 
 QSize WidgetMap::cornerSize() const
@@ -204,7 +224,7 @@ void WidgetMap::changeEvent(QEvent* pEvent)
     if (pEvent->type() != QEvent::FontChange && pEvent->type() != QEvent::StyleChange)
         return;
     mScene.style().textSize = QFontInfo(font()).pixelSize() - 1.0;
-    mIsDirty = true;
+    updateColours();
 }
 
 void WidgetMap::resizeEvent(QResizeEvent* pEvent)
@@ -247,6 +267,7 @@ void WidgetMap::updateGround()
 
 void WidgetMap::paintGL(Canvas& canvas)
 {
+    canvas.fillRect(QRectF(rect()), mScene.style().colours.water);
     mMap.render(*mpDevice);
     setViewPortOrtho();
     mScene.drawGround(canvas, mNavigator.camera());
@@ -278,7 +299,10 @@ void WidgetMap::slotTimeout()
     if (std::exchange(mSources, mMap.sources()) != mMap.sources()) {
         mpAttribution->setSources(mSources, mMap, Settings::kMapAttribution.text(mSession.property));
         mScene.setPlain(!mSources.hasTiles);
+        if (mSources.hasTiles && !std::exchange(mIsServed, true))
+            updateColours();
         mIsDirty = mIsAboveDirty = true; // the scale bar makes room
+        Q_EMIT signalCorner(cornerSize());
     }
     const bool isFrame = mIsDirty || (mContext.isLoading && still > kLoadingInterval);
     if (!mPacer.isDue() || !(isFrame || mIsAboveDirty || still > kLookInterval))
@@ -386,6 +410,21 @@ void WidgetMap::updateShown()
         return;
     mIsDirty = true;
     Q_EMIT signalShown(span);
+}
+
+QImage WidgetMap::picture(bool forPaper)
+{
+    updateColours(forPaper);
+    QImage image;
+    int unfinished = 0, before = 0;
+    do { // a frame makes a few tiles only
+        before = unfinished;
+        mpSurface->requestFrame();
+        image = grab().toImage();
+        unfinished = mMap.nrLoadingTiles();
+    } while (unfinished > 0 && unfinished != before);
+    updateColours();
+    return image;
 }
 
 void WidgetMap::fitPath()

@@ -58,16 +58,12 @@ public:
     /// Shows the whole path again.
     void fitPath();
     void setDirty() { mIsDirty = true; }
-    /// Pixels of the upper edge that something else covers.
-    void setLegendTop(int pixels)
-    {
-        mScene.style().legendTop = pixels;
-        mIsAboveDirty = true;
-    }
+    /// What is shown, or the same on light ground.
+    [[nodiscard]] QImage picture(bool forPaper);
+    /// What something else covers of the left upper corner, and how far down the legend in the right one begins.
+    void setCovered(const QSize& corner, int legendTop);
     /// Whether the picture is behind what it should show.
     [[nodiscard]] bool isDirty() const { return mIsDirty || mIsAboveDirty; }
-    /// Pixels that are taken of the lower right corner.
-    [[nodiscard]] QSize cornerSize() const;
     /// Whether the user has yet to be asked for the network: there is a path, and a server whose tiles could lie under it.
     [[nodiscard]] bool isConsentMissing() const;
 
@@ -76,7 +72,6 @@ public:
     [[nodiscard]] const MapInteraction& interaction() const { return mInteraction; }
     [[nodiscard]] MapNavigator& navigator() { return mNavigator; }
     [[nodiscard]] OpenStreet::OpenStreetMap& map() { return mMap; }
-    [[nodiscard]] const OpenStreet::OpenStreetMap& map() const { return mMap; }
     /// How often tiles and path were drawn, and how often the whole picture.
     [[nodiscard]] int groundPaints() const { return mGroundPaints; }
     [[nodiscard]] int paints() const { return mPaints; }
@@ -88,6 +83,8 @@ Q_SIGNALS:
     void signalTime(double time);
     /// The user wants to see something in the graph.
     void signalMoment(const GraphMoment& moment);
+    /// Others than before are named as those who made the map, and take so much of the lower right corner.
+    void signalCorner(const QSize& size);
     /// Another part of the path is shown bright; none for all of it.
     void signalShown(const std::optional<ZARN::TimeSpan>& span);
 
@@ -118,10 +115,12 @@ private:
     void loadWorld();
     void allowTiles();
     void openTiles();
+    void updateColours(bool isLight = false);
     void updateTint();
     /// Takes the path over anew and shows the whole of it, unless only the unit of its values is another one.
     bool redrawFlightPath(bool isChosen);
     void fitAtOnce();
+    [[nodiscard]] QSize cornerSize() const;
     void updateShown();
     void updateNote();
     [[nodiscard]] QString note();
@@ -142,8 +141,9 @@ private:
     EUnit mPathUnit{};
     std::vector<FlightPhases::Step> mPhases; // of the cycle, once they are known
     std::function<std::optional<TimeSpan>()> mSpan;
-    QString mTilePath;    // of tiles of the user's
-    QString mTileProblem; // why they cannot be shown
+    QString mTilePath;      // of tiles of the user's
+    QString mTileProblem;   // why they cannot be shown
+    bool mIsServed = false; // tiles were shown since the source of tiles was set, which are light
     bool mIsInitialised = false;
     bool mIsDirty = true;
     bool mIsAboveDirty = true; // what is drawn above tiles and path

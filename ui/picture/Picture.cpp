@@ -44,7 +44,7 @@ QByteArray Picture::svg() const
     generator.setResolution(kResolution);
     generator.setSize(mSize);
     generator.setViewBox(QRect(QPoint(), mSize));
-    generator.setTitle(translated(QT_TRANSLATE_NOOP("ZARN::Picture", "Graph")));
+    generator.setTitle(mTitle);
     QPainter painter(&generator);
     RasterCanvas canvas(painter);
     mPaint(canvas, mSize, false);
@@ -59,6 +59,7 @@ QByteArray Picture::pdf() const
     {
         QPdfWriter writer(&buffer);
         writer.setResolution(kResolution);
+        writer.setTitle(mTitle);
         writer.setPageMargins(QMarginsF());
         writer.setPageSize(QPageSize(QSizeF(mSize) * 72.0 / kResolution, QPageSize::Point, QString(), QPageSize::ExactMatch));
         QPainter painter(&writer);

@@ -22,6 +22,8 @@ public:
     /// @param ratio pixels of a pixel picture for each of the view's
     Picture(Paint paint, const QSize& size, double ratio) : mPaint(std::move(paint)), mSize(size), mRatio(ratio) {}
 
+    /// What a drawing says that it is of.
+    void setTitle(const QString& title) { mTitle = title; }
     /// @param path the suffix chooses the format; without one it is BMP. @return false with error() set
     bool save(const QString& path);
     [[nodiscard]] const QString& error() const { return mError; }
@@ -37,6 +39,7 @@ private:
     Paint mPaint;
     QSize mSize;
     double mRatio;
+    QString mTitle;
     QString mError;
 };
 

@@ -63,6 +63,7 @@ void PictureMenu::save()
 {
     Picture picture = mTake(); // before the dialog covers what moves on
     const QString path = askFile();
+    picture.setTitle(name());
     if (!path.isEmpty() && !picture.save(path))
         Q_EMIT signalProblem(tr("The picture could not be saved.\n%1").arg(picture.error()));
 }

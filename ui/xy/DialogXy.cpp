@@ -48,6 +48,7 @@ DialogXy::DialogXy(const Session& session, RecordSession& record, QWidget* pPare
     mpStatus->setWordWrap(true);
     mpStatus->setTextFormat(Qt::PlainText);
     pLayout->addWidget(mpStatus);
+    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
     connect(mpPicture, &PictureMenu::signalProblem, this,
             [this](const QString& text) { QMessageBox::warning(this, tr("ZARN Warning"), text); });
     connect(mpView, &WidgetXy::signalTime, this, [this](double time) { mRecord.setTime(GraphMoment::justBehind(time)); });

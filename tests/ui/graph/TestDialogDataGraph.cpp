@@ -517,7 +517,7 @@ void TestDialogDataGraph::snapshots()
     QVERIFY(QByteArray::fromStdString(fileContent(path.toStdString())).startsWith(begin));
     if (path.endsWith("svg")) {
         const std::string content = fileContent(path.toStdString());
-        QVERIFY(content.find("<polyline") != std::string::npos && content.find(">P0</text>") != std::string::npos);
+        QVERIFY(content.find("<polyline") != std::string::npos && content.find("<text") == std::string::npos); // it needs no font
     } else if (!path.endsWith("pdf")) {
         const QImage image = QImageReader(path).read();
         QCOMPARE(image.size(), shown.graph.size());

@@ -9,13 +9,34 @@
 #include "ui/main/Notices.h"
 #include "ui/main/StyleWatch.h"
 
+#include "app/gui/DesktopScheme.h"
+
 #include <QComboBox>
+#include <QDBusConnection>
 #include <QLabel>
 #include <QMainWindow>
 #include <QRegularExpression>
 #include <QtTest>
 
+#include <unistd.h>
+
 using namespace ZARN;
+
+/// A desktop that says which colours its user prefers.
+class Desktop : public QObject {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
+
+public:
+    uint scheme = 0;
+
+public Q_SLOTS:
+    // NOLINTNEXTLINE(readability-identifier-naming): of the interface
+    QDBusVariant Read(const QString& /*group*/, const QString& /*key*/) { return QDBusVariant(QVariant::fromValue(QDBusVariant(scheme))); }
+
+Q_SIGNALS:
+    void SettingChanged(const QString& group, const QString& key, const QDBusVariant& value);
+};
 
 /// Palettes: what is read can be read, a switch reaches all, damage leaves what comes with the program.
 class TestAppearance : public QObject {
@@ -31,6 +52,7 @@ private Q_SLOTS:
     void damagedColours();
     void unknownVariables();
     void switched();
+    void desktop();
 };
 
 void TestAppearance::contrast_data()
@@ -168,5 +190,41 @@ void TestAppearance::switched()
     QTRY_VERIFY(!isDark());
 }
 
-QTEST_MAIN(TestAppearance)
+void TestAppearance::desktop()
+{
+    QCOMPARE(DesktopScheme::isDark(), std::optional<bool>());
+    Desktop desktop;
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    QVERIFY(bus.registerObject("/org/freedesktop/portal/desktop", &desktop, QDBusConnection::ExportAllContents));
+    QVERIFY(bus.registerService("org.freedesktop.portal.Desktop"));
+    const QTemporaryDir home;
+    DesktopFixture fixture(home.path());
+    fixture.property.setString("Palette", "2");
+    fixture.kernel.applyPalette();
+    QMainWindow window;
+    Notices notices(&window);
+    const StyleWatch watch(fixture.console.console, fixture.kernel, notices, {}, nullptr);
+    for (const uint scheme : {1U, 2U, 1U, 0U}) { // dark, light, dark, no preference
+        desktop.scheme = scheme;
+        Q_EMIT desktop.SettingChanged("org.freedesktop.appearance", "color-scheme", QDBusVariant(scheme));
+        QTRY_COMPARE(qApp->palette().color(QPalette::Window).lightness() < 128, scheme == 1);
+    }
+}
+
+/// On a session bus of its own, whatever the desktop says.
+int main(int argc, char** argv)
+{
+    if (qEnvironmentVariableIsEmpty("ZARN_TEST_BUS")) {
+        qputenv("ZARN_TEST_BUS", "1");
+        std::vector<char*> words{const_cast<char*>("dbus-run-session"), const_cast<char*>("--")};
+        words.insert(words.end(), argv, argv + argc);
+        words.push_back(nullptr);
+        execvp(words[0], words.data());
+        return 1;
+    }
+    QApplication application(argc, argv);
+    TestAppearance test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "TestAppearance.moc"

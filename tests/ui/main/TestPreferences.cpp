@@ -158,7 +158,10 @@ void TestPreferences::mapTiles()
     const QTemporaryDir home;
     DesktopFixture desktop(home.path());
     desktop.property.setString("TileServer", "https://tiles.example.org:8443");
-    DialogPreferences dialog(sessionOf(desktop), desktop.kernel);
+    const QString former = home.filePath("tiles/server/3/1");
+    QVERIFY(QDir().mkpath(former));
+    putFile(former.toStdString() + "/2.tile", "kept");
+    DialogPreferences dialog(sessionOf(desktop), desktop.kernel, nullptr, home.path());
     auto* pTiles = dialog.findChild<QCheckBox*>("tiles");
     QVERIFY(pTiles->isEnabled() && !pTiles->isChecked());
     QVERIFY(dialog.findChild<QLabel*>("tileServer")->text().contains("tiles.example.org:8443"));
@@ -187,6 +190,8 @@ void TestPreferences::mapTiles()
     QVERIFY(pTiles->isEnabled() && dialog.findChild<QLabel*>("tileServer")->text().contains("tiles.example.net"));
     dialog.findChild<QCheckBox*>("tilesOffline")->click();
     QVERIFY(desktop.property.getSwitch("MapOffline", false) && changed.size() == 4);
+    dialog.findChild<QPushButton*>("tilesEmpty")->click();
+    QVERIFY(!QFile::exists(former + "/2.tile"));
 }
 
 void TestPreferences::manual_data()

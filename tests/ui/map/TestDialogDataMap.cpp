@@ -123,8 +123,19 @@ bool isOther(QRgb a, QRgb b)
 }
 
 constexpr QRgb kTile = qRgb(214, 232, 205);
-constexpr QRgb kLand = qRgb(243, 240, 232);
-constexpr QRgb kPath = qRgb(255, 0, 0);
+const QRgb kLand = Palette::light().map.land.rgb();
+const QRgb kPath = Palette::light().map.path.rgb();
+
+/// As the preferences do it.
+void setPalette(Window& window, ColourTable::EMedium medium)
+{
+    Palette::setScreen(ColourTable::builtIn(), medium);
+    for (QWidget* pWidget : window.dialog->findChildren<QWidget*>()) {
+        QEvent change(QEvent::StyleChange);
+        QCoreApplication::sendEvent(pWidget, &change);
+    }
+    window.settle();
+}
 
 } // namespace
 
@@ -165,6 +176,11 @@ void TestDialogDataMap::offline()
     QVERIFY(window.consentBar()->isVisible());
     const QImage picture = window.picture();
     QVERIFY(shows(picture, kPath) && shows(picture, kLand));
+    setPalette(window, ColourTable::eDark);
+    const QImage dark = window.picture(), paper = window.map().picture(true);
+    setPalette(window, ColourTable::eLight);
+    QVERIFY(!shows(dark, kPath) && !shows(dark, kLand) && !shows(dark, Palette::light().map.stripGround.rgb()));
+    QVERIFY(shows(paper, kPath) && shows(paper, kLand));
     window.dialog->updateRecord(nullptr);
     window.dialog->setTime(5.0);
     window.settle();
@@ -209,6 +225,9 @@ void TestDialogDataMap::tilesAfterConsent()
     QVERIFY(pSources->text().contains("OpenStreetMap") && pSources->text().contains(mHost.name()) && !pSources->text().contains("Natural"));
     const QImage picture = window.picture();
     QVERIFY(shows(picture, kTile) && shows(picture, kPath) && !shows(picture, kLand));
+    setPalette(window, ColourTable::eDark); // tiles stay as they come, and so does what is drawn on them
+    QVERIFY(shows(window.picture(), kTile) && shows(window.picture(), kPath));
+    setPalette(window, ColourTable::eLight);
     const OpenStreet::TileCover cover(window.map().navigator().camera(), window.map().devicePixelRatioF(), 19);
     QSet<QString> allowed;
     for (const OpenStreet::TileId& id : cover.ids())

@@ -89,7 +89,7 @@ double GraphAxes::drawTimeTitle(Canvas& canvas) const
     // Little room: the tick at the take-off itself is worth more.
     const bool isTakeOff = times.kind() == ETimeReference::eTakeOff;
     const QString text =
-        isTakeOff ? QCoreApplication::translate("ZARN::GraphAxes", QT_TRANSLATE_NOOP("ZARN::GraphAxes", "Take-off")) : times.title();
+        isTakeOff ? QCoreApplication::translate("ZARN::GraphAxes", "Take-off") : times.title();
     const QPointF corner(4, mLayout.plot().bottom() + 5);
     canvas.text(corner, text, mLabels.style(Qt::AlignLeft | Qt::AlignTop));
     return corner.x() + static_cast<double>(text.size()) * mLayout.character() + 4;

@@ -9,7 +9,7 @@ namespace ZARN {
 
 namespace {
 
-constexpr double kBetween = 4.0; // pixels between labels
+constexpr double kBetween = 4.0;  // pixels between labels
 constexpr double kMinutes = 60.0; // of a degree
 constexpr double kFinest = 0.0001;
 constexpr double kCoarse[] = {10, 30, 60, 120, 300, 600, 1800}; // minutes
@@ -47,7 +47,7 @@ QString Graticule::label(double degrees, double step, char positive, char negati
     return QString::number(total / parts) + QChar(0x00B0) + minutes + QLatin1Char('\'') + QLatin1Char(degrees < 0.0 ? negative : positive);
 }
 
-void Graticule::draw(Canvas& canvas, const CanvasPen& pen, const CanvasText& style, double bottom) const
+void Graticule::draw(Canvas& canvas, const CanvasPen& pen, const CanvasText& style, double bottom, const QSizeF& covered) const
 {
     const auto corner = [&](double x, double y) { return mCamera.projection().toGeo(mCamera.windowToWorld({x, y})); };
     OpenStreet::GeoPoint upper = corner(0.0, 0.0), lower = upper;
@@ -79,8 +79,8 @@ void Graticule::draw(Canvas& canvas, const CanvasPen& pen, const CanvasText& sty
         const QString text = label(latitude, mStep, 'N', 'S');
         if (left.y() >= above)
             continue;
-        canvas.text({3.0, left.y() - 1.0}, text, style);
         above = left.y() - canvas.textSize(text, style).height();
+        canvas.text({above < covered.height() ? covered.width() + 3.0 : 3.0, left.y() - 1.0}, text, style);
     }
     canvas.lines(lines, pen);
 }

@@ -11,8 +11,8 @@ public:
     /// @param spacing pixels between two lines at least
     Graticule(const OpenStreet::Camera& camera, double spacing);
 
-    /// @param bottom of the longitudes' labels; below it there are none
-    void draw(Canvas& canvas, const CanvasPen& pen, const CanvasText& style, double bottom) const;
+    /// @param bottom of the longitudes' labels; below it there are none  @param covered of the left upper corner: latitudes' labels stand beside it
+    void draw(Canvas& canvas, const CanvasPen& pen, const CanvasText& style, double bottom, const QSizeF& covered = {}) const;
     /// The distance of two lines in minutes.
     [[nodiscard]] double step() const { return mStep; }
     /// "48°05'N"; with the decimals of the minutes that lines so many minutes apart need.

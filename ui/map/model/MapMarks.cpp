@@ -1,6 +1,7 @@
 #include "ui/map/model/MapMarks.h"
 
 #include "analysis/IncidentText.h"
+#include "ui/canvas/ColourContrast.h"
 #include "ui/canvas/Triangulation.h"
 #include "ui/map/model/LabelRoom.h"
 
@@ -70,9 +71,10 @@ void MapMarks::draw(Canvas& canvas, const OpenStreet::Camera& camera, const MapP
         std::vector<QPointF> shape = outline(mark.shape);
         for (QPointF& corner : shape)
             corner += middle;
-        canvas.polygon(shape, colour(mark.shape, style));
+        const QColor fill = colour(mark.shape, style);
+        canvas.polygon(shape, fill);
         shape.push_back(shape.front());
-        canvas.lineStrip(shape, {style.colours.markRim, 1.2, true});
+        canvas.lineStrip(shape, {textColourOn(fill), 1.2, true});
         if (const auto box = room.take(middle, kRadius + 2.0, canvas.textSize(mark.text, text))) {
             canvas.fillRect(box->adjusted(-2, 0, 2, 0), style.colours.textGround);
             canvas.text(box->topLeft(), mark.text, text);

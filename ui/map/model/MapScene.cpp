@@ -26,10 +26,10 @@ constexpr double kMetresPerFoot = 0.3048;
 constexpr int kCorners = 12; // of a dot
 constexpr std::size_t kMostDots = 4000;
 constexpr double kTextAboveBar = 7.0;
+constexpr double kAboveCorner = 4.0;
 constexpr double kDash = 6.0;  // pixels, of a way on which nothing was received
-constexpr double kRim = 2.0;   // pixels by which a path of several colours is wider below them
 constexpr double kArrow = 5.0; // pixels from the middle of a mark of the direction to its point
-constexpr int kDotCell = 2; // pixels: dots that lie closer together are one
+constexpr int kDotCell = 2;    // pixels: dots that lie closer together are one
 
 void addDisc(std::vector<QPointF>& triangles, std::span<const QPointF> shape, const QPointF& middle)
 {
@@ -141,12 +141,12 @@ void MapScene::update(const OpenStreet::Camera& camera)
 void MapScene::drawGround(Canvas& canvas, const OpenStreet::Camera& camera) const
 {
     const CanvasText style{mStyle.textSize, mStyle.colours.gridText, false, Qt::AlignLeft | Qt::AlignBottom};
-    if (mIsPlain) // the labels keep clear of the scale bar
-        Graticule(camera, mStyle.gridSpacing)
-            .draw(canvas, {mStyle.colours.grid, mStyle.gridWidth}, style,
-                  camera.height() - std::ceil(kMargin + kTextAboveBar + labelHeight()));
-    if (mIsPlain)
+    if (mIsPlain) { // the labels keep clear of the scale bar, and of what stands in the corners
+        const double bottom = std::min(std::floor(barBottom(camera, scaleBar(camera)) - kTextAboveBar - labelHeight()),
+                                       camera.height() - mCorner.height() - kMargin - kAboveCorner);
+        Graticule(camera, mStyle.gridSpacing).draw(canvas, {mStyle.colours.grid, mStyle.gridWidth}, style, bottom, mStyle.tools);
         mPlaces.draw(canvas, camera, mStyle);
+    }
     drawRest(canvas);
     drawPath(canvas);
     drawWrongFixes(canvas, camera);
@@ -177,7 +177,6 @@ void MapScene::drawPath(Canvas& canvas) const
             canvas.lineStrip(strip.points, {mStyle.colours.path, mStyle.pathWidth, true, dash});
             continue;
         }
-        canvas.lineStrip(strip.points, {mStyle.colours.pathRim, mStyle.pathWidth + kRim, true, dash});
         canvas.lineStrip(strip.points, strip.colours, {mStyle.colours.path, mStyle.pathWidth, true, dash});
     }
     drawArrows(canvas);
@@ -274,11 +273,21 @@ void MapScene::drawAircraft(Canvas& canvas, const OpenStreet::Camera& camera) co
     canvas.lineStrip(outline, {mStyle.colours.aircraftRim, 1.5, true});
 }
 
+MapScaleBar MapScene::scaleBar(const OpenStreet::Camera& camera) const
+{
+    return MapScaleBar::at(camera, std::min(mStyle.barLength, 0.4 * camera.width()), mIsImperial);
+}
+
+double MapScene::barBottom(const OpenStreet::Camera& camera, const MapScaleBar& bar) const
+{
+    const bool isNarrow = bar.pixels + mCorner.width() + 3.0 * kMargin > camera.width(); // no room beside what stands in the corner
+    return camera.height() - kMargin - (isNarrow ? mCorner.height() + kAboveCorner : 0.0);
+}
+
 void MapScene::drawScaleBar(Canvas& canvas, const OpenStreet::Camera& camera) const
 {
-    const MapScaleBar bar = MapScaleBar::at(camera, std::min(mStyle.barLength, 0.4 * camera.width()), mIsImperial);
-    const bool isNarrow = bar.pixels + mCorner.width() + 3.0 * kMargin > camera.width(); // no room beside what stands in the corner
-    const double bottom = camera.height() - kMargin - (isNarrow ? mCorner.height() + 4.0 : 0.0);
+    const MapScaleBar bar = scaleBar(camera);
+    const double bottom = barBottom(camera, bar);
     const double right = kMargin + bar.pixels;
     drawLabel(canvas, {kMargin, bottom - kTextAboveBar}, bar.text, Qt::AlignLeft | Qt::AlignBottom, mStyle.textSize);
     canvas.fillRect({kMargin, bottom - 5.0, bar.pixels, 5.0}, mStyle.colours.textGround);

@@ -78,6 +78,8 @@ private:
     void drawEvents(Canvas& canvas, const OpenStreet::Camera& camera) const;
     void drawAircraft(Canvas& canvas, const OpenStreet::Camera& camera) const;
     void drawLines(Canvas& canvas, const OpenStreet::Camera& camera, const QString& text, double& bottom) const;
+    [[nodiscard]] MapScaleBar scaleBar(const OpenStreet::Camera& camera) const;
+    [[nodiscard]] double barBottom(const OpenStreet::Camera& camera, const MapScaleBar& bar) const;
     [[nodiscard]] double labelHeight() const { return 1.35 * mStyle.textSize; }
     void drawLabel(Canvas& canvas, const QPointF& position, const QString& text, Qt::Alignment align, double textSize) const;
 

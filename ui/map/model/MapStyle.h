@@ -1,6 +1,9 @@
 #pragma once
 
+#include "openstreet/core/BaseMap.h"
 #include "ui/canvas/Palette.h"
+
+#include <QSizeF>
 
 namespace ZARN {
 
@@ -13,6 +16,12 @@ struct MapStyle {
     double gridSpacing = 130.0;
     double barLength = 140.0; ///< of the scale at most
     double legendTop = 8.0;   ///< from the upper edge to the legend
+    QSizeF tools{};           ///< what is covered of the left upper corner
+
+    [[nodiscard]] OpenStreet::BaseMap::Colours ground() const
+    {
+        return {colours.water.rgb(), colours.land.rgb(), colours.shore.rgb(), colours.river.rgb(), colours.country.rgb()};
+    }
 
     [[nodiscard]] static MapStyle paper()
     {

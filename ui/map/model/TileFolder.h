@@ -12,4 +12,10 @@ namespace ZARN {
     return cache.isEmpty() ? QString() : cache + QLatin1String("/tiles/");
 }
 
+/// Where earlier versions kept them.
+[[nodiscard]] inline QString formerTileFolder(const QString& dataPath)
+{
+    return dataPath + QLatin1String("/tiles/");
+}
+
 } // namespace ZARN
