@@ -233,6 +233,13 @@
     </message>
 </context>
 <context>
+    <name>VESK::OpenGL::FixedDevice</name>
+    <message>
+        <source>No OpenGL compatibility context here</source>
+        <translation>Hier gibt es keinen OpenGL-Kompatibilitätskontext</translation>
+    </message>
+</context>
+<context>
     <name>WidgetGraphBase</name>
     <message>
         <source>Graph of the selected parameters</source>
@@ -546,6 +553,17 @@ Die Einstellungen bleiben erhalten.</translation>
     </message>
 </context>
 <context>
+    <name>ZARN::DataName</name>
+    <message>
+        <source>%1 cycle %2 flight %3</source>
+        <translation>%1 Zyklus %2 Flug %3</translation>
+    </message>
+    <message>
+        <source>%1 cycle %2</source>
+        <translation>%1 Zyklus %2</translation>
+    </message>
+</context>
+<context>
     <name>ZARN::DataTableModel</name>
     <message>
         <source>Time since the unit&apos;s power-up</source>
@@ -737,17 +755,6 @@ Die Einstellungen bleiben erhalten.</translation>
 %1</translation>
     </message>
     <message>
-        <source>The graph has room for %1 parameters. Not shown: %2</source>
-        <translation>Der Graph hat Platz für %1 Parameter. Nicht gezeigt: %2</translation>
-    </message>
-    <message numerus="yes">
-        <source>The graph has room for %1 parameters. Not shown: %2 and %n more</source>
-        <translation>
-            <numerusform>Der Graph hat Platz für %1 Parameter. Nicht gezeigt: %2 und %n weiterer</numerusform>
-            <numerusform>Der Graph hat Platz für %1 Parameter. Nicht gezeigt: %2 und %n weitere</numerusform>
-        </translation>
-    </message>
-    <message>
         <source>Times</source>
         <translation>Zeiten</translation>
     </message>
@@ -774,6 +781,25 @@ Die Einstellungen bleiben erhalten.</translation>
     <message>
         <source>X against Y...</source>
         <translation>X über Y ...</translation>
+    </message>
+    <message>
+        <source>Only what was asked for is shown; choosing a layout shows the rest again.</source>
+        <translation>Es wird nur gezeigt, wonach gefragt wurde; ein gewähltes Layout zeigt den Rest wieder.</translation>
+    </message>
+    <message>
+        <source>The graph has room for %1 parameters.</source>
+        <translation>Der Graph hat Platz für %1 Parameter.</translation>
+    </message>
+    <message>
+        <source>%1 Not shown: %2</source>
+        <translation>%1 Nicht gezeigt: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 Not shown: %2 and %n more</source>
+        <translation>
+            <numerusform>%1 Nicht gezeigt: %2 und %n weiterer</numerusform>
+            <numerusform>%1 Nicht gezeigt: %2 und %n weitere</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1473,6 +1499,10 @@ lag(x, s): x, wie es vor s Sekunden war</translation>
         <source>The flights that are shown, as a CSV or PDF file</source>
         <translation>Die angezeigten Flüge als CSV- oder PDF-Datei</translation>
     </message>
+    <message>
+        <source>Written: %1</source>
+        <translation>Geschrieben: %1</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::DialogMain</name>
@@ -2026,16 +2056,19 @@ lag(x, s): x, wie es vor s Sekunden war</translation>
         <translation>In diesem Teil der Aufzeichnung liegt kein Messwert.</translation>
     </message>
     <message>
-        <source>%1 samples; the newest value of each parameter is held until its next.</source>
-        <translation>%1 Messwerte; der neueste Wert jedes Parameters gilt bis zu seinem nächsten.</translation>
-    </message>
-    <message>
-        <source>%1 of them hold no finite number and are left out.</source>
-        <translation>%1 davon enthalten keine endliche Zahl und sind weggelassen.</translation>
-    </message>
-    <message>
         <source>%2 over %1</source>
         <translation>%2 über %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln sample(s); the newest value of each parameter is held until its next.</source>
+        <translation>
+            <numerusform>%Ln Messwert; der neueste Wert jedes Parameters gilt bis zu seinem nächsten.</numerusform>
+            <numerusform>%Ln Messwerte; der neueste Wert jedes Parameters gilt bis zu seinem nächsten.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Left out, since they hold no finite number: %1.</source>
+        <translation>Weggelassen, weil sie keine endliche Zahl enthalten: %1.</translation>
     </message>
 </context>
 <context>
@@ -2726,10 +2759,6 @@ Ersetzen ?</translation>
         <translation>Was geschah</translation>
     </message>
     <message>
-        <source>Not told here: %1 more incidents, %2 of them beyond a limit, %3 warnings. The first %4 are shown as graphs.</source>
-        <translation>Hier nicht aufgeführt: %1 weitere Vorfälle, davon %2 über einem Grenzwert, %3 Warnungen. Die ersten %4 sind als Graphen gezeigt.</translation>
-    </message>
-    <message>
         <source>en</source>
         <extracomment>code of the language that this is translated to</extracomment>
         <translation>de</translation>
@@ -2809,6 +2838,10 @@ Ersetzen ?</translation>
     <message>
         <source>Difference of the means</source>
         <translation>Unterschied der Mittel</translation>
+    </message>
+    <message>
+        <source>Not told here: %1 more of the incidents (beyond a limit: %2, warnings: %3). The first %4 are shown as graphs.</source>
+        <translation>Hier nicht aufgeführt: %1 weitere der Vorfälle (über einem Grenzwert: %2, Warnungen: %3). Die ersten %4 sind als Graphen gezeigt.</translation>
     </message>
 </context>
 <context>
@@ -2986,6 +3019,13 @@ Ersetzen ?</translation>
     <message>
         <source>Earlier Flights of This Engine: Fewer than 10 in the Logbook</source>
         <translation>Frühere Flüge dieses Motors: weniger als 10 im Logbuch</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::GraphAxes</name>
+    <message>
+        <source>Take-off</source>
+        <translation>Start</translation>
     </message>
 </context>
 <context>
@@ -3306,6 +3346,14 @@ Ersetzen ?</translation>
         <source>%1 times, %2 to %3</source>
         <translation>%1-mal, %2 bis %3</translation>
     </message>
+    <message>
+        <source>in flight</source>
+        <translation>im Flug</translation>
+    </message>
+    <message>
+        <source>%1, for %2 within %3</source>
+        <translation>%1, für %2 innerhalb von %3</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::Kernel</name>
@@ -3541,14 +3589,6 @@ Ersetzen ?</translation>
         <translation>%1: getrennt</translation>
     </message>
     <message>
-        <source>%1: connected</source>
-        <translation>%1: verbunden</translation>
-    </message>
-    <message>
-        <source>%1: connected, bus %2</source>
-        <translation>%1: verbunden, Bus %2</translation>
-    </message>
-    <message>
         <source>%1: connection lost, trying again ...</source>
         <translation>%1: Verbindung verloren, neuer Versuch ...</translation>
     </message>
@@ -3565,28 +3605,51 @@ Ersetzen ?</translation>
         <translation>Last %1 % von %2 kbit/s</translation>
     </message>
     <message>
-        <source>%1 frames</source>
-        <translation>%1 Telegramme</translation>
-    </message>
-    <message>
-        <source>%1 errors</source>
-        <translation>%1 Fehler</translation>
-    </message>
-    <message>
-        <source>%1 times frames lost</source>
-        <translation>%1-mal Telegramme verloren</translation>
-    </message>
-    <message>
-        <source>%1 frames of other kinds</source>
-        <translation>%1 Telegramme anderer Art</translation>
-    </message>
-    <message>
         <source>NOT RECORDED: %1</source>
         <translation>NICHT AUFGEZEICHNET: %1</translation>
     </message>
     <message>
-        <source>%1 frames recorded</source>
-        <translation>%1 Telegramme aufgezeichnet</translation>
+        <source>%1: connected, only listening</source>
+        <translation>%1: verbunden, hört nur zu</translation>
+    </message>
+    <message>
+        <source>%1: connected, only listening, bus %2</source>
+        <translation>%1: verbunden, hört nur zu, Bus %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln frame(s)</source>
+        <translation>
+            <numerusform>%Ln Telegramm</numerusform>
+            <numerusform>%Ln Telegramme</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln error(s)</source>
+        <translation>
+            <numerusform>%Ln Fehler</numerusform>
+            <numerusform>%Ln Fehler</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>frames lost: %Ln time(s)</source>
+        <translation>
+            <numerusform>%Ln-mal Telegramme verloren</numerusform>
+            <numerusform>%Ln-mal Telegramme verloren</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln frame(s) of other kinds</source>
+        <translation>
+            <numerusform>%Ln Telegramm anderer Art</numerusform>
+            <numerusform>%Ln Telegramme anderer Art</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln frame(s) recorded into %1</source>
+        <translation>
+            <numerusform>%Ln Telegramm aufgezeichnet in %1</numerusform>
+            <numerusform>%Ln Telegramme aufgezeichnet in %1</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3854,34 +3917,6 @@ Ersetzen ?</translation>
         <translation>Flüge</translation>
     </message>
     <message>
-        <source>Date</source>
-        <translation>Datum</translation>
-    </message>
-    <message>
-        <source>Aircraft or engine</source>
-        <translation>Flugzeug oder Motor</translation>
-    </message>
-    <message>
-        <source>Flight [h]</source>
-        <translation>Flug [h]</translation>
-    </message>
-    <message>
-        <source>Fuel [l]</source>
-        <translation>Kraftstoff [l]</translation>
-    </message>
-    <message>
-        <source>Climb [m]</source>
-        <translation>Steigen [m]</translation>
-    </message>
-    <message>
-        <source>Verdict</source>
-        <translation>Urteil</translation>
-    </message>
-    <message>
-        <source>Card</source>
-        <translation>Karte</translation>
-    </message>
-    <message>
         <source>Notes</source>
         <translation>Notizen</translation>
     </message>
@@ -3976,6 +4011,10 @@ Ersetzen ?</translation>
         <source>No flight.</source>
         <translation>Kein Flug.</translation>
     </message>
+    <message>
+        <source>Open flight</source>
+        <translation>Flug öffnen</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::LogbookModel</name>
@@ -4043,10 +4082,6 @@ Ersetzen ?</translation>
         <translation>Flugzeug oder Motor</translation>
     </message>
     <message>
-        <source>Time</source>
-        <translation>Zeit</translation>
-    </message>
-    <message>
         <source>Note</source>
         <translation>Notiz</translation>
     </message>
@@ -4081,6 +4116,10 @@ Ersetzen ?</translation>
     <message>
         <source>Delete this note?</source>
         <translation>Diese Notiz löschen?</translation>
+    </message>
+    <message>
+        <source>Since power-up</source>
+        <translation>Seit dem Einschalten</translation>
     </message>
 </context>
 <context>
@@ -4157,10 +4196,6 @@ Ersetzen ?</translation>
         <translation>Motor lief %1 h in diesen Zyklen</translation>
     </message>
     <message>
-        <source>%1 (%2 cycles do not tell)</source>
-        <translation>%1 (%2 Zyklen sagen es nicht)</translation>
-    </message>
-    <message>
         <source>fuel in flight %1 l</source>
         <translation>Kraftstoff im Flug %1 l</translation>
     </message>
@@ -4220,6 +4255,13 @@ Ersetzen ?</translation>
         <source>Due soon: %1, %2</source>
         <translation>Bald fällig: %1, %2</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 (%n cycle(s) do not tell)</source>
+        <translation>
+            <numerusform>%1 (%n Zyklus sagt es nicht)</numerusform>
+            <numerusform>%1 (%n Zyklen sagen es nicht)</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ZARN::LogbookTrends</name>
@@ -4244,8 +4286,19 @@ Ersetzen ?</translation>
         <translation>Kein Flug dieses Motors nennt einen Wert.</translation>
     </message>
     <message>
-        <source>%1, %2 flights</source>
-        <translation>%1, %2 Flüge</translation>
+        <source>Open flight</source>
+        <translation>Flug öffnen</translation>
+    </message>
+    <message>
+        <source>Unusual: far from the flights before. Drifting: the latest five lie outside the range of the twenty before them.</source>
+        <translation>Ungewöhnlich: weit weg von den Flügen davor. Driftet: Die letzten fünf liegen außerhalb der Spanne der zwanzig davor.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %n flight(s)</source>
+        <translation>
+            <numerusform>%1, %n Flug</numerusform>
+            <numerusform>%1, %n Flüge</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -4554,10 +4607,6 @@ Ersetzen ?</translation>
         <translation>Notiz bei %1:</translation>
     </message>
     <message>
-        <source>Note</source>
-        <translation>Notiz</translation>
-    </message>
-    <message>
         <source>The note could not be kept:
 %1
 
@@ -4566,6 +4615,13 @@ Ersetzen ?</translation>
 %1
 
 %2</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::NoteDialog</name>
+    <message>
+        <source>Note</source>
+        <translation>Notiz</translation>
     </message>
 </context>
 <context>
@@ -4744,10 +4800,6 @@ Ersetzen ?</translation>
 </context>
 <context>
     <name>ZARN::Picture</name>
-    <message>
-        <source>Graph</source>
-        <translation>Graph</translation>
-    </message>
     <message>
         <source>Pictures of the format &quot;%1&quot; cannot be written</source>
         <translation>Bilder im Format „%1“ können nicht geschrieben werden</translation>
@@ -4929,6 +4981,10 @@ Jetzt speichern ?</translation>
         <source>only %1 of %2 records could be read</source>
         <translation>nur %1 von %2 Datensätzen konnten gelesen werden</translation>
     </message>
+    <message>
+        <source>1 byte, no record</source>
+        <translation>1 Byte, kein Datensatz</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::RecordGraph</name>
@@ -5074,6 +5130,38 @@ Kreuzen Sie im Profilfeld einen Parameter an oder wählen Sie einen anderen Zykl
         <source>Flights are unknown, for no ground speed was recorded: all counts as on the ground.</source>
         <translation>Flüge sind unbekannt, denn es wurde keine Geschwindigkeit über Grund aufgezeichnet: alles zählt als am Boden.</translation>
     </message>
+    <message>
+        <source>Whether the engine ran is unknown, for its recorded speed is no number: nothing was watched.</source>
+        <translation>Ob der Motor lief, ist unbekannt, denn seine aufgezeichnete Drehzahl ist keine Zahl: Nichts wurde überwacht.</translation>
+    </message>
+    <message>
+        <source>The profile has no limits: values outside of any are not seen.</source>
+        <translation>Das Profil hat keine Grenzwerte: Überschreitungen werden nicht gesehen.</translation>
+    </message>
+    <message>
+        <source>The profile has no warning lamps: none is watched.</source>
+        <translation>Das Profil hat keine Warnlampen: Keine wird überwacht.</translation>
+    </message>
+    <message>
+        <source>Flights are unknown, for the profile names no ground speed: all counts as on the ground.</source>
+        <translation>Flüge sind unbekannt, denn das Profil nennt keine Geschwindigkeit über Grund: Alles zählt als am Boden.</translation>
+    </message>
+    <message>
+        <source>The engine speed was not recorded %1: what the engine did then is unknown, and it counts as doing what it did before.</source>
+        <translation>Die Motordrehzahl wurde %1 nicht aufgezeichnet: Was der Motor dann tat, ist unbekannt, und es zählt, als täte er, was er vorher tat.</translation>
+    </message>
+    <message>
+        <source>Times of %1 are damaged, some lie behind the end of the record: their values at a time may stand still.</source>
+        <translation>Zeiten von %1 sind beschädigt, manche liegen hinter dem Ende der Aufzeichnung: Ihre Werte zu einer Zeit können stehen bleiben.</translation>
+    </message>
+    <message>
+        <source>Climb and descent are unknown, for the profile names no altitude.</source>
+        <translation>Steigen und Sinken sind unbekannt, denn das Profil nennt keine Höhe.</translation>
+    </message>
+    <message>
+        <source>from %1 to %2</source>
+        <translation>von %1 bis %2</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::ShownParameter</name>
@@ -5189,6 +5277,41 @@ Kreuzen Sie im Profilfeld einen Parameter an oder wählen Sie einen anderen Zykl
     </message>
 </context>
 <context>
+    <name>ZARN::TimeReference</name>
+    <message>
+        <source>Times are those of the recorder&apos;s clock.</source>
+        <translation>Die Zeiten sind die der Uhr des Aufzeichners.</translation>
+    </message>
+    <message>
+        <source>Times count from the take-off.</source>
+        <translation>Die Zeiten zählen ab dem Start.</translation>
+    </message>
+    <message>
+        <source>Times count from the unit&apos;s power-up.</source>
+        <translation>Die Zeiten zählen ab dem Einschalten des Geräts.</translation>
+    </message>
+    <message>
+        <source>Clock</source>
+        <translation>Uhrzeit</translation>
+    </message>
+    <message>
+        <source>Since take-off</source>
+        <translation>Seit dem Start</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Clock as recorded</source>
+        <translation>Uhrzeit der Aufzeichnung</translation>
+    </message>
+    <message>
+        <source>Since power-up</source>
+        <translation>Seit dem Einschalten</translation>
+    </message>
+</context>
+<context>
     <name>ZARN::TraceColourRow</name>
     <message>
         <source>Select</source>
@@ -5276,12 +5399,12 @@ Kreuzen Sie im Profilfeld einen Parameter an oder wählen Sie einen anderen Zykl
         <translation>Uhr nicht gestellt</translation>
     </message>
     <message>
-        <source>median %1, 5 to 95 % %2 to %3</source>
-        <translation>Median %1, 5 bis 95 % %2 bis %3</translation>
+        <source>median %1 (5 to 95 %: %2 to %3)</source>
+        <translation>Median %1 (5 bis 95 %: %2 bis %3)</translation>
     </message>
     <message>
-        <source>in the %1 flights before %2 to %3</source>
-        <translation>in den %1 Flügen davor %2 bis %3</translation>
+        <source>the %1 flights before: %2 to %3</source>
+        <translation>die %1 Flüge davor: %2 bis %3</translation>
     </message>
 </context>
 <context>

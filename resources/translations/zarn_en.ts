@@ -24,10 +24,10 @@
 <context>
     <name>ZARN::DialogDataGraph</name>
     <message numerus="yes">
-        <source>The graph has room for %1 parameters. Not shown: %2 and %n more</source>
+        <source>%1 Not shown: %2 and %n more</source>
         <translation>
-            <numerusform>The graph has room for %1 parameters. Not shown: %2 and %n more</numerusform>
-            <numerusform>The graph has room for %1 parameters. Not shown: %2 and %n more</numerusform>
+            <numerusform>%1 Not shown: %2 and %n more</numerusform>
+            <numerusform>%1 Not shown: %2 and %n more</numerusform>
         </translation>
     </message>
 </context>
