@@ -100,8 +100,12 @@ void DialogDataTable::updateProfile()
 void DialogDataTable::update(RecordData* pRecord)
 {
     const QScopedValueRollback busy(mBusy, true);
+    mpView->setHeld(true);
     updateColumns();
-    updateRecord(pRecord);
+    mpRecord = pRecord;
+    fill();
+    mpView->setHeld(false);
+    setTime(mContainer.startTime());
 }
 
 void DialogDataTable::updateColumns()
@@ -199,8 +203,10 @@ void DialogDataTable::fill()
         return;
     }
     updateSettings();
+    mpView->setHeld(true);
     mpModel->setRecord(mpRecord);
     widenColumns();
+    mpView->setHeld(false);
 }
 
 void DialogDataTable::updateRecord(RecordData* pRecord)

@@ -91,8 +91,17 @@ void RowTable::reset()
     relayout();
 }
 
+void RowTable::setHeld(bool held)
+{
+    mHeld += held ? 1 : -1;
+    if (mHeld == 0)
+        relayout();
+}
+
 void RowTable::relayout()
 {
+    if (mHeld > 0)
+        return;
     updateGeometries();
     viewport()->update();
 }
@@ -277,6 +286,8 @@ void RowTable::paintEvent(QPaintEvent* pEvent)
 
 void RowTable::updateGeometries()
 {
+    if (mHeld > 0)
+        return;
     const int height = mpHeader->isHidden() ? 0 : mpHeader->sizeHint().height();
     setViewportMargins(0, height, 0, 0);
     const QRect area = viewport()->geometry();

@@ -24,6 +24,9 @@ public:
     /// Makes columns at least as wide, all at once; those beyond the list stay as they are.
     void widenColumns(const std::vector<int>& widths);
     void selectRow(int row);
+    /// While true, rows and columns may come and go without a new layout for each: without rows the scroll bars would be hidden, and all of it
+    /// painted once more when they are shown again. May be set within itself.
+    void setHeld(bool held);
 
     void setModel(QAbstractItemModel* pModel) override;
     void reset() override;
@@ -58,6 +61,7 @@ private:
 
     QHeaderView* mpHeader;
     int mRowHeight;
+    int mHeld = 0;
 };
 
 } // namespace ZARN

@@ -22,6 +22,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace ZARN {
 
@@ -259,8 +260,12 @@ void DialogDataMap::updateSettings()
 
 void DialogDataMap::updateConsent()
 {
-    mpConsent->setServer(mpMap->map().tileServer().name());
-    mpConsent->setVisible(mpMap->isConsentMissing());
+    const bool isMissing = mpMap->isConsentMissing();
+    const QString& server = mpMap->map().tileServer().name();
+    if (mpConsent->isVisibleTo(this) == isMissing && std::exchange(mServer, server) == server)
+        return;
+    mpConsent->setServer(mServer = server);
+    mpConsent->setVisible(isMissing);
 }
 
 void DialogDataMap::slotConsent(bool isAllowed)

@@ -100,6 +100,7 @@ private:
     MapProfile* mpProfile = nullptr;
     MapToolPanel* mpTools = nullptr;
     MapConsentBar* mpConsent = nullptr;
+    QString mServer; // whose tiles it asks for
     PictureMenu* mpPicture = nullptr;
     RecordData* mpRecord = nullptr;
     double mTime = 0.0;

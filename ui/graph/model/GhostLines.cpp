@@ -24,7 +24,7 @@ void GhostLines::update(const GraphModel& model, const GraphLayout& layout, doub
     const std::shared_ptr<const Ghost>& pGhost = model.scenery().ghost();
     const double length = kColumns * kColumn / (layout.pixelsPerSecond() * ratio);
     const bool isSameLength = std::fabs(length - mLength) <= kSame * length;
-    if (mpGhost != pGhost || !isSameLength || mGapsOn != model.settings().gapsOn || (pGhost && mGeneration != pGhost->traces.generation()))
+    if (mpGhost != pGhost || mGapsOn != model.settings().gapsOn || (pGhost && mGeneration != pGhost->traces.generation()))
         mLines.clear();
     mpGhost = pGhost;
     mGapsOn = model.settings().gapsOn;
@@ -34,6 +34,8 @@ void GhostLines::update(const GraphModel& model, const GraphLayout& layout, doub
     if (!isSameLength) {
         mLength = length;
         mPixelsPerSecond = layout.pixelsPerSecond();
+        for (auto& [index, line] : mLines)
+            line.pieces.clear();
     }
     const TimeWindow window = model.window().movedBy(-model.scenery().ghostShift());
     mWindowBegin = window.begin();
@@ -46,19 +48,21 @@ void GhostLines::update(const GraphModel& model, const GraphLayout& layout, doub
             mLines.erase(index);
             continue;
         }
-        Line& line = mLines[index];
-        const double height = layout.area(index).height();
-        const ValueSpan span = model.valueSpan(index);
-        if (line.height != height || line.span != span)
-            line = {height, span, {}, {}};
-        updateLine(*pGhost->traces.at(index), line);
+        updateLine(index, layout.area(index).height(), model.valueSpan(index));
     }
 }
 
-void GhostLines::updateLine(const GraphParameter& trace, Line& line)
+void GhostLines::updateLine(int index, double height, const ValueSpan& span)
 {
-    if (mGapsOn && line.pieces.empty())
+    const GraphParameter& trace = *mpGhost->traces.at(index);
+    const auto [found, isNew] = mLines.try_emplace(index);
+    Line& line = found->second;
+    if (isNew && mGapsOn)
         line.gaps = traceGaps(trace.samples, trace.breaks);
+    if (line.height != height || line.span != span)
+        line.pieces.clear();
+    line.height = height;
+    line.span = span;
     const int64_t beside = mLast - mFirst + 1; // what has just gone out of sight may come back
     std::erase_if(line.pieces, [&](const auto& entry) { return entry.first < mFirst - beside || entry.first > mLast + beside; });
     for (int64_t place = mFirst; place <= mLast; ++place) {

@@ -25,16 +25,16 @@ private:
         std::map<int64_t, std::vector<QPointF>> pieces; ///< from the piece's beginning and the area's upper edge
     };
 
-    void updateLine(const GraphParameter& trace, Line& line);
+    void updateLine(int index, double height, const ValueSpan& span);
     [[nodiscard]] std::vector<QPointF> piece(const GraphParameter& trace, const Line& line, int64_t place);
     [[nodiscard]] double begin(int64_t place) const { return static_cast<double>(place) * mLength; }
 
     std::shared_ptr<const Ghost> mpGhost;
     std::size_t mGeneration = 0;
     bool mGapsOn = false;
-    double mLength = 0.0;          // seconds of a piece
-    double mPixelsPerSecond = 1.0; // that they were made for
-    double mWindowBegin = 0.0;     // on the ghost's time
+    double mLength = 0.0;           // seconds of a piece
+    double mPixelsPerSecond = 1.0;  // that they were made for
+    double mWindowBegin = 0.0;      // on the ghost's time
     int64_t mFirst = 0, mLast = -1; // pieces in sight
     std::map<int, Line> mLines;     // by slot
     TraceBuilder mBuilder;
