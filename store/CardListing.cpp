@@ -120,8 +120,7 @@ void CardFinder::search(const std::string& folder)
 std::vector<std::string> CardFinder::take()
 {
     std::ranges::sort(mCards);
-    const auto repeated = std::ranges::unique(mCards);
-    mCards.erase(repeated.begin(), repeated.end());
+    mCards.erase(std::unique(mCards.begin(), mCards.end()), mCards.end());
     return std::move(mCards);
 }
 
