@@ -13,7 +13,9 @@ if(UNIX AND NOT APPLE)
 endif()
 
 # Of the release only: each costs something, and sanitizers do more.
-# _GLIBCXX_ASSERTIONS is not among them: it checks every access to a sequence, in the loops that decode values too.
+# _GLIBCXX_ASSERTIONS is not among them: it checks every access to a sequence, in the loops that read and decode too, and costs more than the
+# 2 % that it may. Instructions of zarn-cli on a card of 93 MiB, by valgrind's cachegrind, with it: ids + 3.2 %, flights + 2.7 %, events + 2.5 %,
+# csv + 0.5 %. The sanitizers of the tests and the fuzz targets find what it would.
 set(hardening -fstack-protector-strong -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2)
 check_cxx_compiler_flag(-fcf-protection=full ZARN_HAS_CF_PROTECTION)
 if(ZARN_HAS_CF_PROTECTION)

@@ -122,8 +122,7 @@ CardFinder::Found CardFinder::take()
 {
     for (std::vector<std::string>* pPaths : {&mFound.cards, &mFound.others}) {
         std::ranges::sort(*pPaths);
-        const auto repeated = std::ranges::unique(*pPaths);
-        pPaths->erase(repeated.begin(), repeated.end());
+        pPaths->erase(std::unique(pPaths->begin(), pPaths->end()), pPaths->end());
     }
     std::erase_if(mFound.others, [this](const std::string& path) {
         return std::ranges::find(mFound.failures, path, &Failure::path) != mFound.failures.end();

@@ -12,6 +12,7 @@
 #include "ui/live/LiveBar.h"
 #include "ui/main/DesktopFixture.h"
 #include "ui/main/LiveController.h"
+#include "ui/main/MainActions.h"
 #include "ui/xy/DialogXy.h"
 #include "ui/xy/WidgetXy.h"
 
