@@ -82,7 +82,9 @@ void DialogLogbook::connectPages()
     connect(&mWorker, &LogbookWorker::signalChanged, this, &DialogLogbook::reload);
     connect(&mWorker, &LogbookWorker::signalFailed, this, &DialogLogbook::tell);
     connect(&mWorker, &LogbookWorker::signalPutAside, this, &DialogLogbook::tellLasting);
-    connect(&mWorker, &LogbookWorker::signalFound, this, [this](bool isThere) { mpEmpty->setVisible(!isThere); });
+    connect(&mWorker, &LogbookWorker::signalFound, this, [this](bool isThere) {
+        mpEmpty->setVisible(!isThere && mpFlights->model().flights().empty()); // what was removed is still shown
+    });
     connect(mpFlights, &LogbookFlights::signalOpen, this, [this](const QString& cycle, int flight) { Q_EMIT signalOpen(cycle, flight, NAN); });
     connect(mpFlights, &LogbookFlights::signalHiddenColumns, this, &DialogLogbook::signalHiddenColumns);
     connect(mpTrends, &LogbookTrends::signalOpen, this, [this](const QString& cycle, int flight) { Q_EMIT signalOpen(cycle, flight, NAN); });

@@ -72,7 +72,7 @@ LogbookEngines::LogbookEngines(LogbookWorker& worker, QWidget* pParent)
 void LogbookEngines::createEngineTable()
 {
     const int letter = fontMetrics().horizontalAdvance('x');
-    for (const auto& [column, letters] : {std::pair(0, 34), {1, 18}, {2, 11}, {3, 18}})
+    for (const auto& [column, letters] : {std::pair(0, 44), {1, 18}, {2, 11}, {3, 18}})
         mpEngines->setColumnWidth(column, letters * letter);
     connect(mpEngines, &QTableWidget::currentCellChanged, this, [this](int row) {
         if (row >= 0 && row < static_cast<int>(mEngines.size()) && mEngines[static_cast<std::size_t>(row)].id != mEngine)
@@ -83,7 +83,7 @@ void LogbookEngines::createEngineTable()
 void LogbookEngines::createServiceTable()
 {
     const int letter = fontMetrics().horizontalAdvance('x');
-    for (const auto& [column, letters] : {std::pair(0, 28), {1, 24}, {2, 26}, {3, 34}})
+    for (const auto& [column, letters] : {std::pair(0, 22), {1, 24}, {2, 24}, {3, 42}})
         mpServices->setColumnWidth(column, letters * letter);
     connect(mpServices, &QTableWidget::itemSelectionChanged, this, &LogbookEngines::update);
     connect(mpServices, &QTableWidget::cellActivated, this, [this](int row) { askService(mServices[static_cast<std::size_t>(row)]); });
