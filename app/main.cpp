@@ -10,7 +10,6 @@
 #include "app/gui/DialogSplash.h"
 #include "app/gui/ImageHandler.h"
 #include "app/gui/Kernel.h"
-#include "app/gui/ProgramStyle.h"
 #include "card/CardContainer.h"
 #include "card/record/RecordFormats.h"
 #include "profile/Profile.h"
@@ -20,7 +19,7 @@
 #include "ui/main/DialogMain.h"
 
 #include <QFileInfo>
-#include <QFontDatabase>
+#include <QFontMetrics>
 #include <QLocale>
 #include <QMessageBox>
 #include <QPushButton>
@@ -199,11 +198,11 @@ int runProgram(int argc, char** argv)
     registerOptions(cmdLine);
     if (!cmdLine.parse(argc, argv) || cmdLine.getSwitch("-h"))
         cmdLine.printUsage();
-    QApplication::setStyle(new ProgramStyle); // which the application takes
+    QApplication::setStyle("Fusion");
     Application application(argc, argv);
     QApplication::setLayoutDirection(Qt::LeftToRight); // as all of the program's languages are read, whatever the system's
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates)); // where there is no translation
-    if (QFontDatabase::families().isEmpty())
+    if (!QFontMetrics(QApplication::font()).inFont('a'))
         QApplication::setFont(canvasFont(Settings::kFontSize.fallback, false)); // better than a box for each letter
     QApplication::setApplicationName(QString::fromStdString(Revision::getName()));
     QApplication::setApplicationVersion(QString::fromStdString(Revision::getRevisionNumber()));

@@ -36,6 +36,7 @@ constexpr Ratio kRatios[] = {
     {"overview of the demo card / reading and reviewing it", "overview/open/process_time/real_time",
      "overview/facts/process_time/real_time", 2.0},
     {"map frame with a path of 200,000 points / without", "map/frame/1", "map/frame/0", 2.0},
+    {"map frame with that path in colours / without", "map/frame/2", "map/frame/0", 2.0},
 };
 
 /// Shows the runs as usual and remembers the least time of each benchmark.

@@ -136,8 +136,10 @@ void BaseMap::paintTile(QPainter& painter, const TileId& id, const QTransform& t
     const Geometry& parts = geometry(id);
     fill(painter, parts.land, toPixels, mColours.land);
     fill(painter, parts.lakes, toPixels, mColours.water);
-    stroke(painter, parts.rivers, toPixels, QPen(QColor(mColours.river), (id.zoom < kWideRivers ? 0.8 : 1.4) * lineScale));
-    stroke(painter, parts.borders, toPixels, QPen(QColor(mColours.border), 1.2 * lineScale, Qt::DashLine));
+    if (id.zoom > 0) { // the whole world stands in where finer tiles are still to be made: a line of it would fill the window
+        stroke(painter, parts.rivers, toPixels, QPen(QColor(mColours.river), (id.zoom < kWideRivers ? 0.8 : 1.4) * lineScale));
+        stroke(painter, parts.borders, toPixels, QPen(QColor(mColours.border), 1.2 * lineScale, Qt::DashLine));
+    }
     stroke(painter, parts.coasts, toPixels, QPen(QColor(mColours.coast), lineScale));
 }
 

@@ -217,6 +217,15 @@ void OpenStreetMap::setTileServer(const char* address)
     mTextures.forget(ELayer::eServer);
 }
 
+void OpenStreetMap::setTilesAllowed(bool allowed)
+{
+    if (allowed && !areTilesAllowed()) {
+        mAsked.clear();
+        mStore.want({});
+    }
+    mStore.setAllowed(allowed);
+}
+
 void OpenStreetMap::setMapType(MapType type)
 {
     mType = type;

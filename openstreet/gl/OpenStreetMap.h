@@ -50,7 +50,8 @@ public:
     [[nodiscard]] const TileServer& tileServer() const { return mStore.server(); }
     /// Who asks the tile server.
     void setUserAgent(const QByteArray& text) { mStore.loader().setUserAgent(text); }
-    void setTilesAllowed(bool allowed) { mStore.setAllowed(allowed); }
+    /// What is asked for then is what the next frame shows.
+    void setTilesAllowed(bool allowed);
     [[nodiscard]] bool areTilesAllowed() const { return mStore.isAllowed(); }
     /// What is shown where there are no tiles. @return false when the program comes without it
     bool loadBaseMap() { return mBaseMap.loadBuiltIn(); }

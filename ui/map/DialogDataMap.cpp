@@ -274,6 +274,8 @@ void DialogDataMap::slotConsent(bool isAllowed)
         return;
     TileConsent(mSession.property).set(mpMap->map().tileServer().address(), isAllowed);
     mSession.property.writeXmlFile();
+    mpConsent->hide();
+    layout()->activate(); // tiles are asked for the map as it is then
     updateSettings();
 }
 

@@ -56,16 +56,16 @@ MapToolPanel::MapToolPanel(int scale, QWidget* pParent)
 void MapToolPanel::arrangeFor(const QSize& room)
 {
     const int count = static_cast<int>(mButtons.size());
-    int cell = 0, columns = count;
-    for (const int most : {1, count}) { // one column of smaller icons rather than two of larger ones
+    const QSize inside = room - QSize(2 * kPadding, 2 * kPadding);
+    int cell = 0;
+    for (int columns = 1; columns <= count; ++columns) { // of smaller icons rather than one more
         for (const int size : kIconSizes) {
             cell = size * mScale + kAroundIcon;
-            columns = ceilOf(count, std::clamp((room.height() - 2 * kPadding) / cell, 1, count));
-            if (columns <= most && columns * cell + 2 * kPadding <= room.width())
+            if (columns * cell <= inside.width() && ceilOf(count, columns) * cell <= inside.height())
                 return place(cell, columns);
         }
     }
-    place(cell, std::clamp((room.width() - 2 * kPadding) / cell, 1, columns));
+    place(cell, std::clamp(inside.width() / cell, 1, count));
 }
 
 void MapToolPanel::place(int cell, int columns)
