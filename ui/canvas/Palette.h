@@ -37,7 +37,7 @@ struct Palette {
         QColor markRim;
         QColor label;      ///< of marks and of what the legend tells
         QColor pathDim;    ///< what is not looked at
-        QColor pathRim;    ///< on both sides of a path in several colours
+        QColor pathRim;    ///< of the marks of direction on a path in several colours
         QColor wrongFix;
         QColor town;
         QColor airfield;

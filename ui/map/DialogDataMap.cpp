@@ -275,7 +275,7 @@ void DialogDataMap::slotConsent(bool isAllowed)
     TileConsent(mSession.property).set(mpMap->map().tileServer().address(), isAllowed);
     mSession.property.writeXmlFile();
     mpConsent->hide();
-    layout()->activate(); // tiles are asked for the map as it is then
+    QWidget::layout()->activate(); // tiles are asked for the map as it is then
     updateSettings();
 }
 
