@@ -6,6 +6,7 @@
 #include <QFontDatabase>
 
 #include <cmath>
+#include <new>
 
 /// Registers the resource; a static library's are not by themselves, and the macro wants to stand outside every namespace.
 static void registerFonts()
@@ -22,11 +23,16 @@ constexpr double kDigit = 0.65; // of every digit, regular and bold
 constexpr double kAscent = 0.965;
 constexpr double kLine = 1.22;
 
+/// @throw std::bad_alloc without memory to unpack it, the one thing that keeps a file of the program's own from being read: what is drawn
+/// and written would come without its colours and letters else
 QByteArray content(const char* name)
 {
     registerFonts();
     QFile file(name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    const QByteArray bytes = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    if (bytes.isEmpty() || bytes.size() < file.size())
+        throw std::bad_alloc();
+    return bytes;
 }
 
 QString family(const QByteArray& file)
