@@ -73,16 +73,28 @@ bool loadTranslation(QTranslator& translator, const QString& name)
            translator.load(name, QString::fromStdString(DataHandler::instance().resourcePath()));
 }
 
-void installTranslation(QTranslator& translator, const QString& prefix, const char* name, const Console& console)
+/// @return whether there is one
+bool installTranslation(QTranslator& translator, const QString& prefix, const char* name, const Console& console)
 {
     const std::string locale = Settings::kLocale.get(Property::instance());
-    const bool isEnglish = locale == Settings::kLocale.fallback;
-    const bool loaded = loadTranslation(translator, prefix + (isEnglish ? QString("en") : QString::fromStdString(locale)));
+    const bool loaded = loadTranslation(translator, prefix + QString::fromStdString(locale));
     console.print("Translation %s <%s> %d\n", name, locale.c_str(), loaded ? 1 : 0);
-    if (isEnglish || loaded)
-        QLocale::setDefault(QLocale(isEnglish ? QString("en_US") : QString::fromStdString(locale))); // numbers as the language writes them
     if (loaded)
         QCoreApplication::installTranslator(&translator);
+    return loaded;
+}
+
+/// In the language of the settings, numbers as it writes them; without a translation in English, whose forms of texts with a number are a
+/// file as well.
+void installTranslations(const Console& console)
+{
+    static QTranslator toolkitTexts;
+    static QTranslator ownTexts;
+    installTranslation(toolkitTexts, "qt_", "QT", console);
+    const bool isTranslated = installTranslation(ownTexts, "zarn_", "IOS", console);
+    QLocale::setDefault(QLocale(isTranslated ? QString::fromStdString(Settings::kLocale.get(Property::instance())) : QString("en_US")));
+    if (!isTranslated && loadTranslation(ownTexts, "zarn_en"))
+        QCoreApplication::installTranslator(&ownTexts);
 }
 
 /// Asked before the settings are read, and so in the language of the system.
@@ -168,10 +180,7 @@ int runWindow(QApplication& application)
     setAttributes();
     StartMarker marker(DataHandler::instance().dataPath());
     const bool defaults = readSettings(marker, splash);
-    static QTranslator toolkitTexts;
-    static QTranslator ownTexts;
-    installTranslation(toolkitTexts, "qt_", "QT", console);
-    installTranslation(ownTexts, "zarn_", "IOS", console);
+    installTranslations(console);
     applyStyle(kernel);
     splash.addEntry("Creating Dialogs ...");
     const Session session{console, Property::instance(), Profile::instance(), CardContainer::instance(), Project::instance()};

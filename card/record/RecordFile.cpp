@@ -91,7 +91,7 @@ bool RecordFile::loadFile(FILE* pFile, RecordData& data)
 void RecordFile::noteDamage()
 {
     if (fileSize() < kHeaderSize) {
-        note(fileSize() == 1 ? tr("1 byte, no record") : tr("%1 bytes, no record").arg(fileSize()), false);
+        note(tr("%1 bytes, no record").arg(fileSize()), false);
         return;
     }
     if (!mHasMark)

@@ -4981,10 +4981,6 @@ Jetzt speichern ?</translation>
         <source>only %1 of %2 records could be read</source>
         <translation>nur %1 von %2 Datensätzen konnten gelesen werden</translation>
     </message>
-    <message>
-        <source>1 byte, no record</source>
-        <translation>1 Byte, kein Datensatz</translation>
-    </message>
 </context>
 <context>
     <name>ZARN::RecordGraph</name>

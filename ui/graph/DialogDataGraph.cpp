@@ -120,9 +120,10 @@ void DialogDataGraph::showView(const GraphView& from, const GraphView& to)
 
 void DialogDataGraph::showUnshown()
 {
-    const QStringList& names = mRecord.unshown();
+    const RecordGraph::Unshown unshown = mRecord.unshown();
+    const QStringList& names = unshown.names;
     mpUnshown->setVisible(!names.isEmpty());
-    const QString why = mRecord.isCrowded() ? tr("Only what was asked for is shown; choosing a layout shows the rest again.")
+    const QString why = unshown.isCrowded ? tr("Only what was asked for is shown; choosing a layout shows the rest again.")
                                             : tr("The graph has room for %1 parameters.").arg(RecordGraph::kSlots);
     const QString all = tr("%1 Not shown: %2").arg(why, names.join(QLatin1String(", ")));
     const auto line = [&names](qsizetype count) { return names.mid(0, count).join(QLatin1String(", ")); };

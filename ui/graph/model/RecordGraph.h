@@ -57,10 +57,12 @@ public:
     [[nodiscard]] GraphView view() const { return {mModel.window(), mModel.settings().graphMode, mModel.marker(), layout()}; }
     /// Goes from one view to another; what is alike in both stays as it is. @return whether other parameters are to be ticked
     bool showView(const GraphView& from, const GraphView& to);
-    /// What is ticked and has no slot.
-    [[nodiscard]] const QStringList& unshown() const { return mUnshown; }
-    /// Much was asked for besides what is ticked: the strips of both would be too low to be read, and what is ticked is left out.
-    [[nodiscard]] bool isCrowded() const { return mBeside.size() > kCrowd; }
+    /// What is ticked and not shown.
+    struct Unshown {
+        QStringList names;
+        bool isCrowded; ///< much was asked for besides: the strips of both would be too low to be read; else there is no slot left
+    };
+    [[nodiscard]] Unshown unshown() const { return {mUnshown, isCrowded()}; }
 
     /// What it is compared with.
     [[nodiscard]] RecordGhost& ghost() { return mGhost; }
@@ -109,6 +111,7 @@ private:
     std::map<std::string, double> mHeights; ///< of strips, by the name of the parameter; of those that differ
     QStringList mUnshown;
     static constexpr std::size_t kCrowd = 8;
+    [[nodiscard]] bool isCrowded() const { return mBeside.size() > kCrowd; }
     std::string mLeading; ///< of these, the one that stands out
     std::set<std::string> mBeside; ///< names of parameters that are shown without being ticked
     RecordGhost mGhost;
