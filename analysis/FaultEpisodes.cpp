@@ -73,10 +73,7 @@ private:
         state.word = word;
     }
 
-    [[nodiscard]] int stateOf(int bit) const
-    {
-        return mMatrix.bits.at(bit).errorType == eErrorFault ? eThresholdLimit : eThresholdWarning;
-    }
+    [[nodiscard]] int stateOf(int bit) const { return mMatrix.bits.at(bit).errorType == eErrorFault ? eThresholdLimit : eThresholdWarning; }
 
     void close(EpisodeExtent& extent, int bit, int sequence)
     {

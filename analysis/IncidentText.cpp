@@ -129,7 +129,7 @@ QString IncidentText::time(double seconds)
 
 QString IncidentText::duration(double seconds)
 {
-    constexpr double kRounding = 0.0005; // a sum of steps of a tenth may fall short of the second
+    constexpr double kRounding = 0.0005;                                // a sum of steps of a tenth may fall short of the second
     const int64_t whole = saturatingCast<int64_t>(seconds + kRounding); // cut, as clocks are
     if (whole < 1)
         return tr("less than 1 s");

@@ -47,7 +47,8 @@ QStringList ReviewText::gaps() const
         QStringList names;
         for (const std::string& name : mReview.damaged)
             names << QString::fromStdString(name);
-        gaps << tr("Times of %1 are damaged, some lie behind the end of the record: their values at a time may stand still.").arg(some(names));
+        gaps << tr("Times of %1 are damaged, some lie behind the end of the record: their values at a time may stand still.")
+                    .arg(some(names));
     }
     if (!mReview.hasAltitude)
         gaps << tr("Climb and descent are unknown, for the profile names no altitude.");

@@ -53,8 +53,9 @@ void appendHead(std::vector<std::string>& lines, const ReviewedCycle& reviewed)
                     text.verdict().toUpper().toStdString());
     const std::optional<double>& fuel = reviewed.review.fuel;
     appendWrapped(lines, "  ",
-                  "Engine ran: " + text.engineRunning() + "; fuel: " +
-                      (fuel && *fuel >= 0.0 ? QString::fromStdString(tableNumber(*fuel, 1)) + " l" : QString("unknown")) + "; " + text.watched());
+                  "Engine ran: " + text.engineRunning() +
+                      "; fuel: " + (fuel && *fuel >= 0.0 ? QString::fromStdString(tableNumber(*fuel, 1)) + " l" : QString("unknown")) +
+                      "; " + text.watched());
 }
 
 /// With the words that follow it.
@@ -77,8 +78,8 @@ void appendFlights(std::vector<std::string>& lines, const std::vector<RecordFlig
     for (std::size_t i = 0; i < std::min(kMost, flights.size()); ++i) {
         const RecordFlight& flight = flights[i];
         lines.push_back("  Flight " + std::to_string(i + 1) + ": take-off " + IncidentText::time(flight.takeOffTime).toStdString() + ", " +
-                        IncidentText::duration(flight.landingTime - flight.takeOffTime).toStdString() + ", " + climbText(flight) + ", fuel " +
-                        (flightFigure(flight, eFigureTotalFuel) ? figure(flight, eFigureTotalFuel, 1, " l") : "unknown"));
+                        IncidentText::duration(flight.landingTime - flight.takeOffTime).toStdString() + ", " + climbText(flight) +
+                        ", fuel " + (flightFigure(flight, eFigureTotalFuel) ? figure(flight, eFigureTotalFuel, 1, " l") : "unknown"));
     }
     if (flights.size() > kMost)
         lines.push_back("  and " + std::to_string(flights.size() - kMost) + " more flights");

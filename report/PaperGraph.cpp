@@ -54,8 +54,7 @@ void PaperGraph::compare()
 void PaperGraph::addGhost(int slot, const ProfileParameter& parameter, const TimeSpan& samples)
 {
     const auto& [pCycle, shift] = mSubject.comparison;
-    const auto pTrace =
-        TraceSet::one(*pCycle->loaded.pRecord, mLoaded.context, parameter, ENumber::eDisplay, mGhostFilter);
+    const auto pTrace = TraceSet::one(*pCycle->loaded.pRecord, mLoaded.context, parameter, ENumber::eDisplay, mGhostFilter);
     describeSlot(mpGhost->traces, slot, *pTrace);
     fillSlot(mpGhost->traces, slot, *pTrace, std::max(samples.start - shift, pCycle->part.start),
              std::min(samples.end - shift, pCycle->part.end));

@@ -124,14 +124,15 @@ void DialogDataGraph::showUnshown()
     const QStringList& names = unshown.names;
     mpUnshown->setVisible(!names.isEmpty());
     const QString why = unshown.isCrowded ? tr("Only what was asked for is shown; choosing a layout shows the rest again.")
-                                            : tr("The graph has room for %1 parameters.").arg(RecordGraph::kSlots);
+                                          : tr("The graph has room for %1 parameters.").arg(RecordGraph::kSlots);
     const QString all = tr("%1 Not shown: %2").arg(why, names.join(QLatin1String(", ")));
     const auto line = [&names](qsizetype count) { return names.mid(0, count).join(QLatin1String(", ")); };
     qsizetype told = names.size();
     while (told > 1 && line(told).size() > kMostTold)
         --told;
-    mpUnshown->setText(told == names.size() ? all
-                                            : tr("%1 Not shown: %2 and %n more", nullptr, static_cast<int>(names.size() - told)).arg(why, line(told)));
+    mpUnshown->setText(told == names.size()
+                           ? all
+                           : tr("%1 Not shown: %2 and %n more", nullptr, static_cast<int>(names.size() - told)).arg(why, line(told)));
     mpUnshown->setToolTip(all);
     mpUnshown->setAccessibleDescription(all);
 }
