@@ -95,7 +95,7 @@ bool BaseMap::load(const QByteArray& packed)
     mKept.clear();
     mWorld = {};
     Geometry world;
-    if (!BaseMapReader(qUncompress(packed)).read(world))
+    if (!BaseMapReader(unpacked(packed)).read(world))
         return false;
     mWorld = std::move(world);
     return true;

@@ -1,5 +1,7 @@
 #include "openstreet/core/DetailFile.h"
 
+#include "openstreet/core/PackedReader.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QtEndian>
@@ -115,7 +117,7 @@ std::optional<QByteArray> DetailFile::tile(const Layer& layer, const TileId& id)
     // The unpacked size stands before the stream, and would be allocated as it is.
     if (packed.size() != entry->size || packed.size() < 4 || qFromBigEndian<quint32>(packed.constData()) > kLargestTile)
         return QByteArray();
-    return qUncompress(packed);
+    return unpacked(packed);
 }
 
 } // namespace OpenStreet

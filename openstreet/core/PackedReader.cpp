@@ -2,6 +2,12 @@
 
 namespace OpenStreet {
 
+QByteArray unpacked(const QByteArray& packed)
+{
+    const QByteArray bytes = qUncompress(packed);
+    return bytes.isEmpty() ? qUncompress(packed) : bytes; // lack of memory for a moment looks like damage
+}
+
 quint8 PackedReader::byte()
 {
     if (mGood && mPosition < mBytes.size())

@@ -5,6 +5,9 @@
 
 namespace OpenStreet {
 
+/// What qCompress() made smaller; empty when it is damaged. Who calls it bounds the size that stands in its first four bytes.
+[[nodiscard]] QByteArray unpacked(const QByteArray& packed);
+
 /// Reads the numbers and texts of packed map data one after the other. Counts are believed only as far as there are bytes; after the first
 /// thing that cannot be, everything is 0 and empty.
 class PackedReader {
