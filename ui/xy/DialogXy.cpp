@@ -35,7 +35,6 @@ DialogXy::DialogXy(const Session& session, RecordSession& record, QWidget* pPare
 {
     setWindowTitle(tr("X against Y"));
     resize(kFirstSize);
-    new QShortcut(QKeySequence(Qt::Key_Escape), this, this, &QWidget::close);
     const auto paint = [this](Canvas& canvas, const QSize& size, bool forPaper) {
         mpView->paintOn(canvas, size, forPaper ? Palette::print() : Palette::screen());
     };
