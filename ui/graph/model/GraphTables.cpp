@@ -27,6 +27,15 @@ ValueRange<double> windowRange(const GraphModel& model, const SampleSeries& samp
     return last && first <= *last ? samples.range(first, *last + 1) : ValueRange<double>{};
 }
 
+/// With its end, by which the names of two lanes differ.
+QString shortenedName(const QString& name, int length)
+{
+    constexpr int kEnd = 3;
+    if (name.size() <= length || length <= 2 * kEnd)
+        return GraphLayout::shortened(name, length);
+    return GraphLayout::shortened(name, length - kEnd) + name.right(kEnd);
+}
+
 } // namespace
 
 void GraphTables::draw(Canvas& canvas) const
@@ -129,7 +138,7 @@ void GraphTables::drawLegendLine(Canvas& canvas, const QRectF& line, int index, 
             canvas.fillRect(line, mLabels.highlight());
         canvas.fillRect(QRectF(line.left() + 2, line.top() + 3, kSwatch, line.height() - 6), parameter.drawnColour);
     } else if (layer == ELayer::eNames) {
-        canvas.text(QPointF(x, line.top()), GraphLayout::shortened(parameter.name, mLayout.nameLength()), style(true));
+        canvas.text(QPointF(x, line.top()), shortenedName(parameter.name, mLayout.nameLength()), style(true));
     } else {
         const QPointF place(x + mLayout.nameLength() * mLayout.character(), line.top());
         const double end = drawColumns(canvas, place, legendNumbers(index));
