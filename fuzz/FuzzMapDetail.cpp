@@ -105,7 +105,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* pData, std::size_t size)
     const uint8_t form = input.byte();
     const auto kind = static_cast<DetailFile::EKind>(DetailFile::eShores + form % 3);
     const bool isTile = form & 0x80;
-    const uint8_t zoom = isTile ? input.byte() % 13 : 0, bits = isTile ? input.byte() % 21 : 0;
+    const auto zoom = static_cast<uint8_t>(isTile ? input.byte() % 13 : 0), bits = static_cast<uint8_t>(isTile ? input.byte() % 21 : 0);
     QByteArray bytes(reinterpret_cast<const char*>(input.rest()), static_cast<qsizetype>(input.left()));
     const QByteArray tile = bytes;
     if (isTile)
