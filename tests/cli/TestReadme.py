@@ -98,8 +98,10 @@ class Readme(unittest.TestCase):
         self.call(call.replace('PORT', str(port)))
 
     def test_other_commands_are_those_of_continuous_integration(self):
-        with open(os.path.join(ROOT, '.ci', 'run'), encoding='utf-8') as file:
-            ci = file.read()
+        ci = ''
+        for name in ('run', 'package'):
+            with open(os.path.join(ROOT, '.ci', name), encoding='utf-8') as file:
+                ci += file.read()
         version = self.call('--version').split()[1]
         others = set()
         for block in blocks():
