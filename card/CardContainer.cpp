@@ -109,9 +109,9 @@ void CardContainer::growLive(std::shared_ptr<RecordData> pRecord)
     mpData = std::move(pRecord);
     mStartTime = mpData->channels().empty() ? 0.0 : std::numeric_limits<double>::infinity();
     mEndTime = 0.0;
-    for (const auto& [identifier, channel] : mpData->channels()) {
-        mStartTime = std::min(mStartTime, channel.entries.front().time);
-        mEndTime = std::max(mEndTime, channel.entries.back().time);
+    for (const RecordChannel* pChannel : mpData->channels()) {
+        mStartTime = std::min(mStartTime, pChannel->entries.front().time);
+        mEndTime = std::max(mEndTime, pChannel->entries.back().time);
     }
     mIndexEnd = mEndTime;
     mWhole = {};

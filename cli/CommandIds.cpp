@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <utility>
 
 namespace ZARN {
 
@@ -54,42 +55,56 @@ CommandIds::CommandIds(CLI::App& program)
 
 int CommandIds::runOnCard()
 {
-    Identifiers identifiers;
+    bool isLoaded = false;
     for (const auto& [number, cycle] : mContainer.recordCycles()) {
         if (chosenCycle().value_or(number) != number)
             continue;
+        if (std::exchange(isLoaded, true)) {
+            for (const RecordChannel* pChannel : mContainer.recordData().channels())
+                add(mBefore[pChannel->identifier()], *pChannel);
+        }
         if (!load(number, 0))
             return eFailed;
-        add(identifiers, mContainer.recordData());
     }
-    mContainer.forgetRecord();
     findKnown();
     Output output;
-    mJson ? writeJson(output, identifiers) : writeTable(output, identifiers);
+    mJson ? writeJson(output) : writeTable(output);
     return output.finish();
 }
 
-void CommandIds::add(Identifiers& identifiers, const RecordData& data)
+void CommandIds::add(Identifier& identifier, const RecordChannel& channel)
 {
-    for (const auto& [number, channel] : data.channels()) {
-        Identifier& identifier = identifiers[number];
-        uint64_t earliest = UINT64_MAX; // ticks; a damaged recording need not ascend
-        uint64_t latest = 0;
-        for (std::size_t c = 0; c < channel.entries.chunkCount(); ++c) {
-            for (const StoredRecord& record : channel.entries.chunk(c)) {
-                earliest = std::min(earliest, record.ticks);
-                latest = std::max(latest, record.ticks);
-                identifier.types.set(record.payload[kTypeByte]);
-            }
+    uint64_t earliest = UINT64_MAX; // ticks; a damaged recording need not ascend
+    uint64_t latest = 0;
+    for (std::size_t c = 0; c < channel.entries.chunkCount(); ++c) {
+        for (const StoredRecord& record : channel.entries.chunk(c)) {
+            earliest = std::min(earliest, record.ticks);
+            latest = std::max(latest, record.ticks);
+            identifier.types.set(record.payload[kTypeByte]);
         }
-        const double first = StoredRecord{{}, 0, 0, 0, 0, 0, earliest}.time();
-        const double last = StoredRecord{{}, 0, 0, 0, 0, 0, latest}.time();
-        identifier.first = identifier.count == 0 ? first : std::min(identifier.first, first);
-        identifier.last = identifier.count == 0 ? last : std::max(identifier.last, last);
-        identifier.seconds += last - first;
-        identifier.intervals += channel.entries.size() - 1;
-        identifier.count += channel.entries.size();
     }
+    const double first = StoredRecord{{}, 0, 0, 0, 0, 0, earliest}.time();
+    const double last = StoredRecord{{}, 0, 0, 0, 0, 0, latest}.time();
+    identifier.first = identifier.count == 0 ? first : std::min(identifier.first, first);
+    identifier.last = identifier.count == 0 ? last : std::max(identifier.last, last);
+    identifier.seconds += last - first;
+    identifier.intervals += channel.entries.size() - 1;
+    identifier.count += channel.entries.size();
+}
+
+void CommandIds::forEach(const Visitor& visit) const
+{
+    auto before = mBefore.begin();
+    for (const RecordChannel* pChannel : mContainer.recordData().channels()) {
+        for (; before != mBefore.end() && before->first < pChannel->identifier(); ++before)
+            visit(before->first, before->second);
+        const bool isKnown = before != mBefore.end() && before->first == pChannel->identifier();
+        Identifier identifier = isKnown ? (before++)->second : Identifier{};
+        add(identifier, *pChannel);
+        visit(pChannel->identifier(), identifier);
+    }
+    for (; before != mBefore.end(); ++before)
+        visit(before->first, before->second);
 }
 
 void CommandIds::findKnown()
@@ -100,11 +115,11 @@ void CommandIds::findKnown()
     }
 }
 
-void CommandIds::writeJson(Output& output, const Identifiers& identifiers) const
+void CommandIds::writeJson(Output& output) const
 {
     JsonWriter writer(output);
     writer.beginAnswer().key("ids").beginArray();
-    for (const auto& [number, identifier] : identifiers) {
+    forEach([&](uint32_t number, const Identifier& identifier) {
         writer.beginObject().member("id", number).member("count", static_cast<int64_t>(identifier.count)).key("types").beginArray();
         forEachType(identifier.types, [&writer](uint32_t type) { writer.value(type); });
         writer.endArray().member("first", identifier.first).member("last", identifier.last);
@@ -112,13 +127,13 @@ void CommandIds::writeJson(Output& output, const Identifiers& identifiers) const
         if (const auto names = mKnown.find(number); names != mKnown.end())
             std::ranges::for_each(names->second, [&writer](const std::string& name) { writer.value(name); });
         writer.endArray().endObject();
-    }
+    });
     output.write(writer.endArray().endAnswer());
 }
 
-void CommandIds::writeTable(Output& output, const Identifiers& identifiers) const
+void CommandIds::writeTable(Output& output) const
 {
-    if (identifiers.empty()) {
+    if (mBefore.empty() && mContainer.recordData().count() == 0) {
         output.write("No record\n");
         return;
     }
@@ -126,11 +141,9 @@ void CommandIds::writeTable(Output& output, const Identifiers& identifiers) cons
     const std::vector<std::string> header{"Identifier", "Hex", "Records", "Types", "First [h:m:s]", "Last [h:m:s]", "Rate [1/s]", "Known as"};
     TableColumns columns;
     columns.measure(header);
-    for (const auto& [number, identifier] : identifiers)
-        columns.measure(cells(number, identifier));
+    forEach([&](uint32_t number, const Identifier& identifier) { columns.measure(cells(number, identifier)); });
     output.write(columns.line(header));
-    for (const auto& [number, identifier] : identifiers)
-        output.write(columns.line(cells(number, identifier)));
+    forEach([&](uint32_t number, const Identifier& identifier) { output.write(columns.line(cells(number, identifier))); });
 }
 
 std::vector<std::string> CommandIds::cells(uint32_t number, const Identifier& identifier) const

@@ -3,6 +3,7 @@
 #include "cli/CardCommand.h"
 
 #include <bitset>
+#include <functional>
 
 namespace ZARN {
 
@@ -23,15 +24,18 @@ private:
         double last = 0.0;
         std::bitset<256> types; // codes of CANaerospace; a card may hold as many identifiers as records
     };
-    using Identifiers = std::map<uint32_t, Identifier>;
+    using Visitor = std::function<void(uint32_t number, const Identifier& identifier)>;
 
     int runOnCard() override;
-    static void add(Identifiers& identifiers, const RecordData& data);
-    void writeJson(Output& output, const Identifiers& identifiers) const;
-    void writeTable(Output& output, const Identifiers& identifiers) const;
+    static void add(Identifier& identifier, const RecordChannel& channel);
+    /// In ascending order, those of the loaded cycle among those of the cycles before it.
+    void forEach(const Visitor& visit) const;
+    void writeJson(Output& output) const;
+    void writeTable(Output& output) const;
     [[nodiscard]] std::vector<std::string> cells(uint32_t number, const Identifier& identifier) const;
     void findKnown();
 
+    std::map<uint32_t, Identifier> mBefore; ///< of the cycles before the loaded one: what its records say is not held beside them
     std::map<uint32_t, std::vector<std::string>> mKnown; ///< by identifier, the profile's parameters that read it, in its order
 };
 

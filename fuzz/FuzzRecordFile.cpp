@@ -112,6 +112,13 @@ void requireSameRecord(const StoredRecord& record, const uint8_t* pBytes, bool l
     REQUIRE(record.ticks == (number(pBytes, kRecordFields[4], little) << 32 | number(pBytes, kRecordFields[5], little)));
 }
 
+/// The channel of records, not of copies that a pseudo-channel has.
+const RecordChannel* channelOf(const RecordData& data, uint32_t identifier)
+{
+    const auto found = std::ranges::lower_bound(data.channels(), identifier, {}, &RecordChannel::identifier);
+    return found == data.channels().end() || (*found)->identifier() != identifier ? nullptr : *found;
+}
+
 /// Every record of the file stands where it belongs, in its channel and, by its kind, in a pseudo-channel; nothing else does.
 void requireRecords(const Bytes& bytes, RecordData& data)
 {
@@ -123,14 +130,14 @@ void requireRecords(const Bytes& bytes, RecordData& data)
         const uint8_t* pRecord = bytes.data() + kHeader + i * kRecord;
         const auto identifier = static_cast<uint32_t>(number(pRecord, kRecordFields[1], little));
         const uint64_t kind = number(pRecord, kRecordFields[0], little);
-        const auto channel = data.channels().find(identifier);
-        REQUIRE(channel != data.channels().end());
-        requireSameRecord(channel->second.entries.stored(seen[identifier]++), pRecord, little);
+        const RecordChannel* pChannel = channelOf(data, identifier);
+        REQUIRE(pChannel);
+        requireSameRecord(pChannel->entries.stored(seen[identifier]++), pRecord, little);
         if (kind > 1)
             continue;
         const uint32_t pseudo = kind == 0 ? RecordData::kPseudoKind0 : RecordData::kPseudoKind1;
         // A damaged file can hold the pseudo-channel's own identifier; then its records and the copies share the name.
-        if (data.channels().contains(pseudo))
+        if (channelOf(data, pseudo))
             continue;
         const RecordChannel* pPseudo = data.channel(pseudo);
         REQUIRE(pPseudo);
@@ -139,9 +146,9 @@ void requireRecords(const Bytes& bytes, RecordData& data)
         REQUIRE(copy.id == identifier);
     }
     std::size_t sum = 0;
-    for (const auto& [identifier, channel] : data.channels()) {
-        REQUIRE(channel.entries.size() == seen[identifier]);
-        sum += channel.entries.size();
+    for (const RecordChannel* pChannel : data.channels()) {
+        REQUIRE(pChannel->entries.size() == seen[pChannel->identifier()]);
+        sum += pChannel->entries.size();
     }
     REQUIRE(sum == count);
 }
@@ -149,7 +156,8 @@ void requireRecords(const Bytes& bytes, RecordData& data)
 /// The look-up by time against a scan from the first entry.
 void requireLookUps(const RecordData& data)
 {
-    for (const auto& [identifier, channel] : data.channels()) {
+    for (const RecordChannel* pChannel : data.channels()) {
+        const RecordChannel& channel = *pChannel;
         const std::size_t size = channel.entries.size();
         for (std::size_t probe = 0; probe < size; probe += 1 + size / 8) {
             const double time = channel.entries.time(probe);

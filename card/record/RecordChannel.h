@@ -18,6 +18,7 @@ public:
 
     RecordEntries entries;
 
+    [[nodiscard]] uint32_t identifier() const { return entries.identifier(); }
     /// The newest record of a live feed is fresh until it is shown; records read from a file never are.
     [[nodiscard]] bool fresh() const { return mFresh; }
     void setFresh(bool fresh) { mFresh = fresh; }

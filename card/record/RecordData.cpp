@@ -3,19 +3,15 @@
 #include <algorithm>
 #include <new>
 #include <queue>
+#include <unordered_map>
 #include <utility>
 
 namespace ZARN {
 
 namespace {
 
-constexpr unsigned kFirstBits = 8; // slots of the first table
-// About what a channel takes beside its records: in a damaged file every record may name another one.
-constexpr std::size_t kChannelBytes = sizeof(RecordChannel) + 160;
-
 struct Cursor {
     const RecordChannel* pChannel;
-    uint32_t identifier;
     std::size_t position;
     std::size_t end;
 
@@ -31,8 +27,6 @@ struct LaterTicks {
 void RecordData::clear()
 {
     mChannels.clear();
-    mSlots.assign(2, {0, nullptr});
-    mHashShift = 31;
     mPool.clear();
     mpGrowing.reset();
     mSharedBytes = 0;
@@ -56,8 +50,7 @@ const RecordChannel* RecordData::channel(uint32_t identifier) const
 {
     if (identifier == kPseudoKind0 || identifier == kPseudoKind1)
         return pseudoChannel(identifier);
-    const auto found = mChannels.find(identifier);
-    return found == mChannels.end() ? nullptr : &found->second;
+    return mChannels.find(identifier);
 }
 
 RecordChannel* RecordData::channel(uint32_t identifier)
@@ -67,8 +60,8 @@ RecordChannel* RecordData::channel(uint32_t identifier)
 
 void RecordData::buildTimeIndex()
 {
-    for (auto& [identifier, channel] : mChannels)
-        channel.buildTimeIndex();
+    for (std::size_t i = 0; i < mChannels.size(); ++i)
+        mChannels[i].buildTimeIndex();
 }
 
 std::shared_ptr<RecordData> RecordData::snapshot(const std::shared_ptr<const RecordData>& pGrowing, const RecordData* pShown)
@@ -78,82 +71,57 @@ std::shared_ptr<RecordData> RecordData::snapshot(const std::shared_ptr<const Rec
     pSnapshot->mSharedBytes = pGrowing->mPool.bytes();
     pSnapshot->mLastTicks = pGrowing->mLastTicks;
     pSnapshot->mCount = pGrowing->mCount;
-    for (const auto& [identifier, channel] : pGrowing->mChannels) {
-        RecordChannel& shared = pSnapshot->mChannels.try_emplace(pSnapshot->mChannels.end(), identifier, identifier)->second;
+    for (std::size_t i = 0; i < pGrowing->mChannels.size(); ++i) {
+        const RecordChannel& channel = pGrowing->mChannels[i];
+        RecordChannel& shared = pSnapshot->mChannels.add(channel.identifier());
         shared.entries = channel.entries.sealed();
-        const auto before = pShown ? pShown->mChannels.find(identifier) : pGrowing->mChannels.end();
-        const bool wasShown = pShown && before != pShown->mChannels.end();
-        shared.setFresh(!wasShown || before->second.fresh() || before->second.last().time < shared.last().time);
+        const RecordChannel* pBefore = pShown ? pShown->mChannels.find(channel.identifier()) : nullptr;
+        shared.setFresh(!pBefore || pBefore->fresh() || pBefore->last().time < shared.last().time);
     }
     return pSnapshot;
 }
 
 RecordChannel* RecordData::addChannel(uint32_t identifier)
 {
-    if (mpGrowing || !mPool.charge(kChannelBytes))
-        return nullptr;
-    const auto [place, added] = mChannels.try_emplace(identifier, identifier);
-    if (mChannels.size() * 2 > mSlots.size())
-        rebuildSlots(std::max(kFirstBits, 33 - mHashShift));
-    else
-        enter(identifier, &place->second);
-    return &place->second;
+    return mpGrowing || !mPool.charge(RecordChannels::kBytes) ? nullptr : &mChannels.add(identifier);
 }
 
-void RecordData::removeIfEmpty(uint32_t identifier)
+void RecordData::removeIfEmpty(const RecordChannel& channel)
 {
-    const auto found = mChannels.find(identifier);
-    if (!found->second.entries.empty())
-        return;
-    mChannels.erase(found);
-    rebuildSlots(32 - mHashShift);
-}
-
-void RecordData::enter(uint32_t identifier, RecordChannel* pChannel)
-{
-    std::size_t i = hash(identifier);
-    while (mSlots[i].pChannel)
-        i = (i + 1) & (mSlots.size() - 1);
-    mSlots[i] = {identifier, pChannel};
-}
-
-void RecordData::rebuildSlots(unsigned bits)
-{
-    mSlots.assign(std::size_t(1) << bits, {0, nullptr});
-    mHashShift = 32 - bits;
-    for (auto& [identifier, channel] : mChannels)
-        enter(identifier, &channel);
+    if (channel.entries.empty())
+        mChannels.removeLast(); // it was made for the record that found no room
 }
 
 void RecordData::startLateOrder()
 {
     mLateOrder.started = true;
-    for (const auto& [identifier, channel] : mChannels)
-        mLateOrder.sizesBefore.emplace_back(identifier, channel.entries.size());
+    for (std::size_t i = 0; i < mChannels.size(); ++i)
+        mLateOrder.sizesBefore.push_back(mChannels[i].entries.size());
 }
 
 template <typename Visitor> void RecordData::visitInOrder(Visitor visit) const
 {
-    std::map<uint32_t, std::size_t> next; // of each channel, where the noted order goes on
+    std::unordered_map<const RecordChannel*, std::size_t> next; // where the noted order goes on
     std::priority_queue<Cursor, std::vector<Cursor>, LaterTicks> queue;
-    auto before = mLateOrder.sizesBefore.begin(); // both ascend by identifier
-    for (const auto& [identifier, channel] : mChannels) {
-        std::size_t end = mLateOrder.started ? 0 : channel.entries.size();
-        if (before != mLateOrder.sizesBefore.end() && before->first == identifier)
-            end = before++->second;
-        next[identifier] = end;
+    for (std::size_t i = 0; i < mChannels.size(); ++i) {
+        const RecordChannel& channel = mChannels[i];
+        std::size_t end = channel.entries.size();
+        if (mLateOrder.started)
+            next[&channel] = end = i < mLateOrder.sizesBefore.size() ? mLateOrder.sizesBefore[i] : 0;
         if (end > 0)
-            queue.push({&channel, identifier, 0, end});
+            queue.push({&channel, 0, end});
     }
     while (!queue.empty()) {
         Cursor cursor = queue.top();
         queue.pop();
-        visit(cursor.identifier, cursor.pChannel->entries.stored(cursor.position));
+        visit(cursor.pChannel->identifier(), cursor.pChannel->entries.stored(cursor.position));
         if (++cursor.position < cursor.end)
             queue.push(cursor);
     }
-    for (const uint32_t identifier : mLateOrder.identifiers)
-        visit(identifier, mChannels.at(identifier).entries.stored(next[identifier]++));
+    for (const uint32_t identifier : mLateOrder.identifiers) {
+        const RecordChannel* pChannel = mChannels.find(identifier);
+        visit(identifier, pChannel->entries.stored(next[pChannel]++));
+    }
 }
 
 void RecordData::forEachInOrder(const std::function<void(uint32_t, const StoredRecord&)>& visit) const

@@ -1,11 +1,10 @@
 #pragma once
 
-#include "card/record/RecordChannel.h"
+#include "card/record/RecordChannels.h"
 
 #include <functional>
 #include <map>
 #include <memory>
-#include <mutex>
 #include <string>
 
 namespace ZARN {
@@ -33,11 +32,11 @@ public:
         if (record.ticks <= mLastTicks && mCount != 0 && !mLateOrder.started)
             startLateOrder();
         if (mLateOrder.started && !mPool.charge(kLateBytes)) [[unlikely]] {
-            removeIfEmpty(identifier);
+            removeIfEmpty(*pChannel);
             return false;
         }
         if (!pChannel->entries.append(record, mPool)) [[unlikely]] {
-            removeIfEmpty(identifier);
+            removeIfEmpty(*pChannel);
             return false;
         }
         mLastTicks = record.ticks;
@@ -52,7 +51,7 @@ public:
     /// How many records were appended over all files.
     [[nodiscard]] uint32_t count() const { return mCount; }
     /// The channels of the identifiers met, in ascending order; without the pseudo-channels.
-    [[nodiscard]] const std::map<uint32_t, RecordChannel>& channels() const { return mChannels; }
+    [[nodiscard]] const std::vector<const RecordChannel*>& channels() const { return mChannels.ascending(); }
     /// The channel of an identifier, pseudo-channels included; null when it holds nothing.
     [[nodiscard]] const RecordChannel* channel(uint32_t identifier) const;
     [[nodiscard]] RecordChannel* channel(uint32_t identifier);
@@ -76,35 +75,24 @@ public:
     [[nodiscard]] static std::shared_ptr<RecordData> snapshot(const std::shared_ptr<const RecordData>& pGrowing, const RecordData* pShown);
 
 private:
-    struct Slot {
-        uint32_t identifier;
-        RecordChannel* pChannel; // null marks a free slot
-    };
     // What a record takes beside itself from then on: its place in the order, and in the index of its channel.
     static constexpr std::size_t kLateBytes = 16;
     // Order of reception across the channels. While the tick counter rises from record to record a merge by ticks restores it;
     // from the first record on that does not rise, the identifiers are noted one by one.
     struct LateOrder {
         bool started = false;
-        std::vector<std::pair<uint32_t, std::size_t>> sizesBefore; // by identifier, entries of each channel when it started
+        std::vector<std::size_t> sizesBefore; // entries of each channel there was when it started
         std::vector<uint32_t> identifiers;
     };
 
     /// Null when there is no memory left for a new channel.
     RecordChannel* channelFor(uint32_t identifier)
     {
-        for (std::size_t i = hash(identifier);; i = (i + 1) & (mSlots.size() - 1)) {
-            if (!mSlots[i].pChannel)
-                return addChannel(identifier);
-            if (mSlots[i].identifier == identifier)
-                return mSlots[i].pChannel;
-        }
+        RecordChannel* pChannel = mChannels.find(identifier);
+        return pChannel ? pChannel : addChannel(identifier);
     }
-    [[nodiscard]] std::size_t hash(uint32_t identifier) const { return (identifier * 2654435761u) >> mHashShift; }
     RecordChannel* addChannel(uint32_t identifier);
-    void removeIfEmpty(uint32_t identifier);
-    void enter(uint32_t identifier, RecordChannel* pChannel);
-    void rebuildSlots(unsigned bits);
+    void removeIfEmpty(const RecordChannel& channel);
     void startLateOrder();
     [[nodiscard]] RecordChannel* pseudoChannel(uint32_t identifier) const;
     template <typename Visitor> void visitInOrder(Visitor visit) const;
@@ -112,9 +100,7 @@ private:
     RecordPool mPool;
     std::shared_ptr<const RecordData> mpGrowing; // of a snapshot: whose memory it is
     std::size_t mSharedBytes = 0;
-    std::map<uint32_t, RecordChannel> mChannels;
-    std::vector<Slot> mSlots{2, Slot{0, nullptr}}; // open addressing, a power of two, never full
-    unsigned mHashShift = 31;
+    RecordChannels mChannels;
     uint64_t mLastTicks = 0;
     uint32_t mCount = 0;
     LateOrder mLateOrder;

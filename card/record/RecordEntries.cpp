@@ -6,10 +6,15 @@ bool RecordEntries::appendCopy(const StoredRecord& record, uint32_t identifier, 
 {
     if (!append(record, pool))
         return false;
-    if (!mpCopiedIdentifiers)
-        mpCopiedIdentifiers = std::make_unique<std::vector<uint32_t>>();
-    mpCopiedIdentifiers->push_back(identifier);
+    more().copiedIdentifiers.push_back(identifier);
     return true;
+}
+
+RecordEntries::More& RecordEntries::more()
+{
+    if (!mpMore)
+        mpMore = std::make_unique<More>(More{{mpFirst}, {}});
+    return *mpMore;
 }
 
 RecordEntries RecordEntries::sealed() const
@@ -19,7 +24,9 @@ RecordEntries RecordEntries::sealed() const
     entries.mLastTicks = mLastTicks;
     entries.mAscending = mAscending;
     entries.mIsSealed = true;
-    entries.mChunks = mChunks;
+    entries.mpFirst = mpFirst;
+    if (mpMore)
+        entries.mpMore = std::make_unique<More>(*mpMore);
     return entries;
 }
 
@@ -27,11 +34,14 @@ bool RecordEntries::addChunk(RecordPool& pool)
 {
     if (mIsSealed)
         return false;
-    const std::size_t capacity = chunkCapacity(mChunks.size());
+    const std::size_t capacity = chunkCapacity(chunkCount());
     StoredRecord* pChunk = pool.allocate(capacity);
     if (!pChunk)
         return false;
-    mChunks.push_back(pChunk);
+    if (mpFirst)
+        more().chunks.push_back(pChunk);
+    else
+        mpFirst = pChunk;
     mpNext = pChunk;
     mpEnd = pChunk + capacity;
     return true;

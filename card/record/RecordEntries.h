@@ -15,12 +15,14 @@ class RecordEntries {
 public:
     explicit RecordEntries(uint32_t identifier) : mIdentifier(identifier) {}
 
-    [[nodiscard]] std::size_t size() const { return mChunks.empty() ? 0 : chunkStart(mChunks.size() - 1) + lastChunkUsed(); }
-    [[nodiscard]] bool empty() const { return mChunks.empty(); }
+    /// Of the channel.
+    [[nodiscard]] uint32_t identifier() const { return mIdentifier; }
+    [[nodiscard]] std::size_t size() const { return empty() ? 0 : chunkStart(chunkCount() - 1) + lastChunkUsed(); }
+    [[nodiscard]] bool empty() const { return !mpFirst; }
     [[nodiscard]] const StoredRecord& stored(std::size_t position) const
     {
         const std::size_t chunk = chunkOf(position);
-        return mChunks[chunk][position - chunkStart(chunk)];
+        return chunks()[chunk][position - chunkStart(chunk)];
     }
     [[nodiscard]] RecordEntry operator[](std::size_t position) const { return {stored(position), identifier(position)}; }
     [[nodiscard]] RecordEntry front() const { return (*this)[0]; }
@@ -47,10 +49,10 @@ public:
     bool appendCopy(const StoredRecord& record, uint32_t identifier, RecordPool& pool);
 
     /// The chunks in order, for loops over whole channels.
-    [[nodiscard]] std::size_t chunkCount() const { return mChunks.size(); }
+    [[nodiscard]] std::size_t chunkCount() const { return mpMore ? mpMore->chunks.size() : mpFirst ? 1 : 0; }
     [[nodiscard]] std::span<const StoredRecord> chunk(std::size_t index) const
     {
-        return {mChunks[index], index + 1 == mChunks.size() ? lastChunkUsed() : chunkCapacity(index)};
+        return {chunks()[index], index + 1 == chunkCount() ? lastChunkUsed() : chunkCapacity(index)};
     }
     /// Up to `most` records from `position` on that lie side by side; at least one while position < size().
     [[nodiscard]] std::span<const StoredRecord> run(std::size_t position, std::size_t most) const
@@ -99,11 +101,18 @@ private:
         return chunk == 0 ? 0 : chunk < kDoubling ? kFirst << (chunk - 1) : (chunk - kDoubling + 1) * kChunk;
     }
     static std::size_t chunkCapacity(std::size_t chunk) { return chunkStart(chunk + 1) - chunkStart(chunk); }
-    [[nodiscard]] std::size_t lastChunkUsed() const { return static_cast<std::size_t>(mpNext - mChunks.back()); }
+    [[nodiscard]] StoredRecord* const* chunks() const { return mpMore ? mpMore->chunks.data() : &mpFirst; }
+    [[nodiscard]] std::size_t lastChunkUsed() const { return static_cast<std::size_t>(mpNext - chunks()[chunkCount() - 1]); }
     [[nodiscard]] uint32_t identifier(std::size_t position) const
     {
-        return mpCopiedIdentifiers ? (*mpCopiedIdentifiers)[position] : mIdentifier;
+        return mpMore && !mpMore->copiedIdentifiers.empty() ? mpMore->copiedIdentifiers[position] : mIdentifier;
     }
+    /// What few channels of a hostile file have: a second record.
+    struct More {
+        std::vector<StoredRecord*> chunks; // the first one, too
+        std::vector<uint32_t> copiedIdentifiers; // one a record in a pseudo-channel, else none
+    };
+    More& more();
     bool addChunk(RecordPool& pool);
 
     StoredRecord* mpNext = nullptr;
@@ -112,8 +121,8 @@ private:
     uint32_t mIdentifier;
     bool mAscending = true;
     bool mIsSealed = false;
-    std::vector<StoredRecord*> mChunks;
-    std::unique_ptr<std::vector<uint32_t>> mpCopiedIdentifiers; // one a record in a pseudo-channel, else null
+    StoredRecord* mpFirst = nullptr; // the first chunk
+    std::unique_ptr<More> mpMore;
 };
 
 } // namespace ZARN

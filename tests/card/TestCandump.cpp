@@ -18,10 +18,10 @@ QString described(CardContainer& container, unsigned int cycle)
     if (!container.loadCycle(cycle, -1))
         return "no cycle";
     QString text = container.dateTime().toString("yyyy-MM-dd hh:mm:ss.zzz");
-    for (const auto& [identifier, channel] : container.recordData().channels()) {
-        for (const RecordEntry& entry : channel.entries) {
+    for (const RecordChannel* pChannel : container.recordData().channels()) {
+        for (const RecordEntry& entry : pChannel->entries) {
             const QByteArray payload(reinterpret_cast<const char*>(entry.payload.data()), 8);
-            text += QString(" %1:%2@%3").arg(identifier, 0, 16).arg(QString(payload.toHex())).arg(entry.time, 0, 'g', 12);
+            text += QString(" %1:%2@%3").arg(pChannel->identifier(), 0, 16).arg(QString(payload.toHex())).arg(entry.time, 0, 'g', 12);
         }
     }
     return text;

@@ -1,4 +1,6 @@
-// For programs under the leak checker, which runs at their very end.
+// For programs under the leak checker.
+
+#include <sanitizer/lsan_interface.h>
 
 #include <chrono>
 #include <filesystem>
@@ -17,9 +19,10 @@ int dlclose(void* /*pLibrary*/)
 
 namespace {
 
-/// The checker looks into the memory of every thread, and falls over one that is just ending.
-struct AwaitEndingThreads {
-    ~AwaitEndingThreads()
+/// The checker looks into the memory of every thread, and falls over one that is just ending. By itself it would run when libraries have ended
+/// what they keep (the threads of the screen's driver), so it is asked before, when all is quiet; it runs only once.
+struct CheckWhenQuiet {
+    ~CheckWhenQuiet()
     {
         constexpr int kQuietTurns = 10;
         for (int turn = 0, quiet = 0, before = 0; turn < 200 && quiet < kQuietTurns; ++turn) {
@@ -29,9 +32,10 @@ struct AwaitEndingThreads {
             before = count;
             std::this_thread::sleep_for(std::chrono::milliseconds(10));
         }
+        __lsan_do_leak_check();
     }
 };
 
-const AwaitEndingThreads awaitEndingThreads;
+const CheckWhenQuiet checkWhenQuiet;
 
 } // namespace

@@ -475,8 +475,8 @@ void DialogMain::showRecorded()
     if (!mRecord.record())
         return mpProfile->setRecorded({});
     std::set<uint32_t> identifiers;
-    for (const auto& [identifier, channel] : mRecord.record()->channels())
-        identifiers.insert(identifier);
+    for (const RecordChannel* pChannel : mRecord.record()->channels())
+        identifiers.insert(pChannel->identifier());
     mpProfile->setRecorded(std::move(identifiers));
 }
 

@@ -256,15 +256,14 @@ void TestRecordData::memoryLimitRefuses()
     QCOMPARE(data.count(), count);
     // What was taken is whole; the refused record left no trace, and a channel that never got one is none.
     std::size_t held = 0;
-    for (const auto& [identifier, channel] : data.channels())
-        held += channel.entries.size();
+    for (const RecordChannel* pChannel : data.channels())
+        held += pChannel->entries.size();
     QCOMPARE(held, std::size_t(count));
     uint32_t identifier = 99; // small channels still fit into what is left of the last slab
     while (identifier < 100'000 && data.append(identifier, numbered(0, 0)))
         ++identifier;
     QVERIFY(!data.append(identifier, numbered(0, 0)));
     QVERIFY(!data.channel(identifier));
-    QVERIFY(!data.channels().contains(identifier));
     QCOMPARE(data.channel(identifier - 1)->entries.size(), std::size_t(1)); // its neighbours are found as before
     data.clear();
     QVERIFY(data.append(99, numbered(0, 0)));
@@ -287,7 +286,7 @@ void TestRecordData::manyIdentifiersStayBounded()
 #ifdef __SANITIZE_ADDRESS__
     constexpr uint64_t most = 2500ULL << 20; // the sanitizer's own part
 #else
-    constexpr uint64_t most = 700ULL << 20;
+    constexpr uint64_t most = 150ULL << 20;
 #endif
     QVERIFY2(peakMemory() - before < most, qPrintable(QString::number(peakMemory() - before)));
     QVERIFY2(timer.elapsed() < 30000, qPrintable(QString::number(timer.elapsed())));
@@ -296,7 +295,7 @@ void TestRecordData::manyIdentifiersStayBounded()
     uint32_t taken = 0;
     while (taken < count && limited.append(taken, numbered(taken, taken)))
         ++taken;
-    QVERIFY2(taken > 100'000 && taken < 400'000, qPrintable(QString::number(taken)));
+    QVERIFY2(taken > 300'000 && taken < 600'000, qPrintable(QString::number(taken)));
 }
 
 QTEST_APPLESS_MAIN(TestRecordData)

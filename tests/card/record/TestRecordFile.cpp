@@ -99,10 +99,10 @@ QString described(const RecordInfo& info, const RecordData& data)
     for (const std::string& field : {info.softwarePartA, info.ecuType, info.engineSerial, info.engineType, info.softwarePartB,
                                      info.emuSoftwareVersion})
         text += QString::fromStdString(field) + "|";
-    for (const auto& [identifier, channel] : data.channels()) {
-        for (const RecordEntry& entry : channel.entries) {
+    for (const RecordChannel* pChannel : data.channels()) {
+        for (const RecordEntry& entry : pChannel->entries) {
             const QByteArray payload(reinterpret_cast<const char*>(entry.payload.data()), 8);
-            text += QString("\n%1 %2 %3 %4 %5 %6 ").arg(identifier).arg(entry.id).arg(entry.kind).arg(entry.word0).arg(entry.word1)
+            text += QString("\n%1 %2 %3 %4 %5 %6 ").arg(pChannel->identifier()).arg(entry.id).arg(entry.kind).arg(entry.word0).arg(entry.word1)
                         .arg(QString(payload.toHex()));
             text += QString("%1 %2 %3 %4 %5 %6").arg(entry.extra0).arg(entry.extra1).arg(entry.timeHigh).arg(entry.timeLow)
                         .arg(entry.time, 0, 'g', 17).arg(entry.timeTenths);
