@@ -42,7 +42,7 @@ QStringList ReviewText::gaps() const
         gaps << tr("Flights are unknown, for no ground speed was recorded: all counts as on the ground.");
     if (!mReview.engine.silences().empty())
         gaps << tr("The engine speed was not recorded %1: what the engine did then is unknown, and it counts as doing what it did before.")
-                    .arg(silences());
+                    .arg(texts(mReview.engine.silences()));
     if (!mReview.damaged.empty()) {
         QStringList names;
         for (const std::string& name : mReview.damaged)
@@ -50,6 +50,8 @@ QStringList ReviewText::gaps() const
         gaps << tr("Times of %1 are damaged, some lie behind the end of the record: their values at a time may stand still.")
                     .arg(some(names));
     }
+    if (!mReview.heldFixes.empty())
+        gaps << heldFixes();
     if (!mReview.hasAltitude)
         gaps << tr("Climb and descent are unknown, for the profile names no altitude.");
     else if (!mReview.knowsAltitude)
@@ -57,12 +59,20 @@ QStringList ReviewText::gaps() const
     return gaps;
 }
 
-QString ReviewText::silences() const
+QString ReviewText::texts(std::span<const TimeSpan> spans) const
 {
-    QStringList spans;
-    for (const TimeSpan& span : mReview.engine.silences())
-        spans << tr("from %1 to %2").arg(mTime(span.start), mTime(span.end));
-    return some(spans);
+    QStringList texts;
+    for (const TimeSpan& span : spans)
+        texts << tr("from %1 to %2").arg(mTime(span.start), mTime(span.end));
+    return some(texts);
+}
+
+QString ReviewText::heldFixes() const
+{
+    if (mReview.heldFixes.empty())
+        return {};
+    return tr("The position stands still %1: what was received then lies more than 10 km from the place before, and is not believed.")
+        .arg(texts(mReview.heldFixes));
 }
 
 QString ReviewText::some(const QStringList& names, qsizetype most)

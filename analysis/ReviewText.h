@@ -27,12 +27,15 @@ public:
     [[nodiscard]] QString watched() const;
     /// What was outside, but not while the engine ran, in one line with at most so many names; empty when nothing was.
     [[nodiscard]] QString standing(qsizetype most = kNames) const;
+    /// That the position stands still, and when; empty when it does not.
+    [[nodiscard]] QString heldFixes() const;
     /// How long the engine ran; "unknown".
     [[nodiscard]] QString engineRunning() const;
 
 private:
     static constexpr qsizetype kNames = 4;
-    [[nodiscard]] QString silences() const;
+    /// "from 0:39 to 1:10, from ..."
+    [[nodiscard]] QString texts(std::span<const TimeSpan> spans) const;
     [[nodiscard]] static QString some(const QStringList& names, qsizetype most = kNames);
 
     const CycleReview& mReview;

@@ -105,13 +105,15 @@ private Q_SLOTS:
             QCOMPARE(text(value.values), text(literally(samples.at({value.source, value.flight, value.phase}))));
     }
 
-    /// Ten seconds outside, six of them beyond the limit; an engine speed that is not sent for a while and ends early; a damaged time.
+    /// Ten seconds outside, six of them beyond the limit; an engine speed that is not sent for a while and ends early; a damaged time; a
+    /// position that is far away for half a minute, and once.
     void toPeople()
     {
         TestCycle cycle;
         ProfileBuilder builder;
         builder.thresholds("T", {{0, "OK", "green"}, {80, "WARNING", "yellow"}, {90, "LIMIT", "red"}}).device("D");
         builder.parameter("rpm", 1, "FLOAT", {{"zarnDataType", "EngineSpeed"}}).parameter("t", 2, "FLOAT", {{"thresholdId", "T"}});
+        builder.parameter("lon", 3, "FLOAT", {{"zarnDataType", "Longitude"}, {"viewId", "Longitude"}});
         QVERIFY(builder.load(cycle.profile));
         CardBuilder card;
         RecordFileBuilder& file = card.file("A.CAN");
@@ -119,6 +121,7 @@ private Q_SLOTS:
             const double time = i * 0.1;
             if (i < 1000 && (i < 400 || i >= 700))
                 file.addFloat(1, time, 5000);
+            file.addFloat(3, time, (i >= 500 && i < 800) || i == 900 ? 1200 : 1130);
             file.addFloat(2, time, i < 200 || i >= 300 ? 50 : i >= 220 && i < 280 ? 95 : 85);
             if (i == 600)
                 file.addFloat(2, 3e6, 50).addFloat(1, 3e6, 5000);
@@ -131,6 +134,7 @@ private Q_SLOTS:
         QCOMPARE(review.damaged, (std::vector<std::string>{"rpm", "t"}));
         const QString gaps = ReviewText(review).gaps().join(' ');
         QVERIFY2(gaps.contains("from 0:39 to 1:10, from 1:39 to 1:59"), qPrintable(gaps));
+        QVERIFY2(gaps.contains("stands still from 0:50 to 1:19:"), qPrintable(gaps));
     }
 };
 

@@ -102,6 +102,7 @@ void MapScene::setCourse(const CycleCourse& course, const std::vector<TimeSpan>&
     mPath.setGaps(gaps);
     mWhole.setGaps(gaps);
     mMarks.set(course, mPath);
+    mHeldFixes = course.heldFixes;
 }
 
 bool MapScene::setTint(PathTint tint)
@@ -300,6 +301,7 @@ void MapScene::drawScaleBar(Canvas& canvas, const OpenStreet::Camera& camera) co
         drawLines(canvas, camera, text, above);
     }
     drawLines(canvas, camera, mNote, above);
+    drawLines(canvas, camera, mHeldFixes, above);
 }
 
 /// Lines at the left edge that end at a height, from which on there is no room any more.

@@ -98,6 +98,7 @@ private:
     std::optional<QRectF> mSelection;
     FlightPathPoint mAircraft{};
     QString mNote;
+    QString mHeldFixes;
     QString mMessage;
     QSizeF mCorner;
     bool mIsImperial = false;
