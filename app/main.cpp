@@ -6,6 +6,7 @@
 #include "app/Settings.h"
 #include "app/StartMarker.h"
 #include "app/StyleHandler.h"
+#include "app/TextLocale.h"
 #include "app/gui/Application.h"
 #include "app/gui/DialogSplash.h"
 #include "app/gui/ImageHandler.h"
@@ -92,7 +93,7 @@ void installTranslations(const Console& console)
     static QTranslator ownTexts;
     installTranslation(toolkitTexts, "qt_", "QT", console);
     const bool isTranslated = installTranslation(ownTexts, "zarn_", "IOS", console);
-    QLocale::setDefault(QLocale(isTranslated ? QString::fromStdString(Settings::kLocale.get(Property::instance())) : QString("en_US")));
+    QLocale::setDefault(textLocale(isTranslated ? QString::fromStdString(Settings::kLocale.get(Property::instance())) : QString("en_US")));
     if (!isTranslated && loadTranslation(ownTexts, "zarn_en"))
         QCoreApplication::installTranslator(&ownTexts);
 }

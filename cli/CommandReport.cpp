@@ -1,6 +1,7 @@
 #include "cli/CommandReport.h"
 
 #include "app/FileName.h"
+#include "app/TextLocale.h"
 #include "card/record/MemoryLimit.h"
 #include "cli/Resources.h"
 
@@ -44,7 +45,7 @@ int CommandReport::run()
     int count = 1;
     const QGuiApplication application(count, arguments);
     QTranslator texts;
-    QLocale::setDefault(mLanguage == "en" ? QLocale(QLocale::English, QLocale::UnitedStates) : QLocale(QString::fromStdString(mLanguage)));
+    QLocale::setDefault(textLocale(mLanguage == "en" ? "en_US" : QString::fromStdString(mLanguage)));
     if (!texts.load("zarn_" + QString::fromStdString(mLanguage), QString::fromStdString(resourceFolder())))
         return fail(resourceFolder() + ": no texts in the language \"" + mLanguage + "\"");
     QCoreApplication::installTranslator(&texts);

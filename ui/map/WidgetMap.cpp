@@ -181,6 +181,9 @@ void WidgetMap::setCovered(const QSize& corner, int legendTop)
 {
     mScene.style().tools = corner;
     mScene.style().legendTop = legendTop;
+    mNavigator.setCovered(corner.width(), cornerSize().height());
+    if (mNavigator.isFitted())
+        fitAtOnce();
     mIsDirty = true;
 }
 

@@ -39,13 +39,20 @@ void MapNavigator::setWindowSize(int width, int height)
 
 void MapNavigator::fit(const MapPath& path, bool atOnce)
 {
-    const MapFit fit = path.fit(mCamera.width(), mCamera.height());
+    const int left = mLeft * 2 < mCamera.width() ? mLeft : 0, below = mBelow * 2 < mCamera.height() ? mBelow : 0;
+    const int width = mCamera.width() - left, height = mCamera.height() - below;
+    const MapFit fit = path.fit(width, height);
     mContext.centreLatitude = fit.latitude;
     mContext.centreLongitude = fit.longitude;
-    mContext.rangeHorizontal = path.isEmpty() ? 0.0 : std::max(fit.range, kSmallestFit);
+    mContext.rangeHorizontal = path.isEmpty() ? 0.0 : std::max(fit.range, kSmallestFit) * mCamera.width() / width;
     mContext.rangeVertical = mContext.rangeHorizontal * mCamera.height() / mCamera.width();
     mContext.isPositionChanged = true;
     mContext.isRangeChanged = true;
+    if (!path.isEmpty() && left + below > 0) {
+        OpenStreet::Camera goal = target();
+        goal.setWorld(goal.windowToWorld({0.5 * width, 0.5 * (mCamera.height() + below)}), goal.metresPerPixel());
+        setTarget(goal);
+    }
     mIsFitted = true;
     if (mContext.centreAircraft != 0)
         mContext.centreAircraft = 2;

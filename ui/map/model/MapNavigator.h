@@ -19,6 +19,8 @@ public:
 
     [[nodiscard]] const OpenStreet::Camera& camera() const { return mCamera; }
     void setWindowSize(int width, int height);
+    /// What lies on the map at its left and lower edge, in pixels: a fitted path stays clear of it where there is room.
+    void setCovered(int left, int below) { mLeft = left, mBelow = below; }
 
     /// Shows the whole path. @param atOnce without moving there: for another path, that may lie anywhere.
     void fit(const MapPath& path, bool atOnce);
@@ -62,6 +64,8 @@ private:
     MapContext& mContext;
     OpenStreet::Camera mCamera;
     OpenStreet::WindowPoint mPointer;
+    int mLeft = 0;
+    int mBelow = 0;
     bool mIsFitted = false;
     std::optional<OpenStreet::GeoPoint> mAircraft; // where it was last
 };
