@@ -64,4 +64,11 @@ std::optional<DisplayValue> CycleValues::displayAt(const ProfileParameter& param
     return result;
 }
 
+std::optional<DisplayValue> CycleValues::shownAt(const ProfileParameter& parameter, double time) const
+{
+    const auto pChannel = channel(parameter);
+    const bool isEarly = pChannel && time < pChannel->entries.front().time - kBeforeFirst;
+    return isEarly ? std::nullopt : displayAt(parameter, time);
+}
+
 } // namespace ZARN

@@ -34,9 +34,12 @@ public:
     double getValue(const ProfileParameter& parameter, double time, int& state, QColor& colour) const;
     double getValue(const ProfileParameter& parameter, double time) const;
 
-    /// What is shown at a time, in the words of tables and exports; none where getValue() has no sample to tell of. Views show "-" there: a
-    /// zero would look like a measured one.
+    /// What is shown at a time, in the words of tables and exports; none where getValue() has no sample to tell of, for a zero would
+    /// look like a measured one.
     [[nodiscard]] std::optional<DisplayValue> displayAt(const ProfileParameter& parameter, double time) const;
+    /// The same for people: none longer before the first sample, either, of which getValue() tells from the beginning of the record on.
+    [[nodiscard]] std::optional<DisplayValue> shownAt(const ProfileParameter& parameter, double time) const;
+    static constexpr double kBeforeFirst = 2.0; ///< seconds for which the first sample is shown before its time
 
     /// The channel of a parameter; null when it has no entries.
     [[nodiscard]] std::shared_ptr<const RecordChannel> channel(const ProfileParameter& parameter) const { return channelOf(mData, mContext, parameter); }

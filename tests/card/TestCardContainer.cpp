@@ -310,6 +310,11 @@ void TestCardContainer::valuesOutsideLeaveBandsAlone()
         return sampled.cycle.container.values().displayAt(sampled.cycle.profile.model().parameter(1), time);
     };
     QVERIFY(!shown(30));
+    QVERIFY(shown(5));
+    const auto toPeople = [&](double time) {
+        return sampled.cycle.container.values().shownAt(sampled.cycle.profile.model().parameter(1), time).has_value();
+    };
+    QVERIFY(!toPeople(5) && toPeople(9) && toPeople(15) && !toPeople(30));
     QCOMPARE(shown(15)->text, "1");
     int state = 9;
     QColor colour(Qt::blue);

@@ -233,8 +233,8 @@ void DialogXy::showTime()
     const auto* pY = context.model().find(points.choice().y);
     const CycleValues values = mSession.container.values();
     const double time = mRecord.viewTime();
-    const auto shownX = pX ? values.displayAt(*pX, time) : std::nullopt;
-    const auto shownY = pY ? values.displayAt(*pY, time) : std::nullopt;
+    const auto shownX = pX ? values.shownAt(*pX, time) : std::nullopt;
+    const auto shownY = pY ? values.shownAt(*pY, time) : std::nullopt;
     if (!shownX || !shownY)
         return mpView->setCursorAt(std::nullopt);
     const QString text = QString::fromStdString(shownX->text + " / " + shownY->text);

@@ -1,5 +1,6 @@
 #include "ui/graph/model/ShownTraces.h"
 
+#include "card/CycleValues.h"
 #include "ui/graph/model/TraceColours.h"
 
 #include <algorithm>
@@ -205,7 +206,7 @@ void ShownTraces::clearSamples()
 std::optional<double> ShownTraces::valueAt(int index, double time) const
 {
     const GraphParameter* pTrace = at(index);
-    if (!pTrace || pTrace->samples.empty())
+    if (!pTrace || pTrace->samples.empty() || time < pTrace->samples.time(0) - CycleValues::kBeforeFirst)
         return std::nullopt;
     return pTrace->samples.value(pTrace->samples.lastAtOrBefore(time).value_or(0));
 }

@@ -53,7 +53,7 @@ public:
     void reserve(int index, std::size_t samples);
     void append(int index, std::span<const double> times, std::span<const double> values);
     void clearSamples();
-    /// The value in force at a time, and that of the first sample before it; none without samples.
+    /// The value in force at a time, and shortly before the first sample that one's; none without samples, and longer before it.
     [[nodiscard]] std::optional<double> valueAt(int index, double time) const;
 
 private:

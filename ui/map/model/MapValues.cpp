@@ -61,7 +61,7 @@ void MapValues::fill(MapValue& row, const ProfileParameter& parameter, double ti
 {
     std::optional<DisplayValue> value = newestAt(mSession, parameter, time);
     if (!value)
-        value = mSession.container.values().displayAt(parameter, time);
+        value = mSession.container.values().shownAt(parameter, time);
     row.text = QString::fromStdString(value ? value->text : "-");
     if (!value)
         return;
