@@ -17,6 +17,7 @@ namespace ZARN {
 namespace {
 
 constexpr int kResolution = 96; // pixels of the view an inch, as browsers have it
+constexpr int kHeading = 24;    // height of the line above a drawing
 
 QString translated(const char* text)
 {
@@ -52,6 +53,20 @@ QByteArray Picture::svg() const
     return buffer.data();
 }
 
+int Picture::heading() const
+{
+    return mTitle.isEmpty() ? 0 : kHeading;
+}
+
+/// A sheet tells whose engine it shows: it has lost the window, and soon its file's name.
+void Picture::paintSheet(Canvas& canvas, const QSize& size) const
+{
+    if (heading() > 0)
+        canvas.text({8.0, 4.0}, mTitle, {.size = 13.0, .bold = true});
+    canvas.translate(0.0, heading());
+    mPaint(canvas, size - QSize(0, heading()), true);
+}
+
 QByteArray Picture::pdf() const
 {
     QBuffer buffer;
@@ -61,10 +76,11 @@ QByteArray Picture::pdf() const
         writer.setResolution(kResolution);
         writer.setTitle(mTitle);
         writer.setPageMargins(QMarginsF());
-        writer.setPageSize(QPageSize(QSizeF(mSize) * 72.0 / kResolution, QPageSize::Point, QString(), QPageSize::ExactMatch));
+        const QSize sheet = mSize + QSize(0, heading());
+        writer.setPageSize(QPageSize(QSizeF(sheet) * 72.0 / kResolution, QPageSize::Point, QString(), QPageSize::ExactMatch));
         QPainter painter(&writer);
         RasterCanvas canvas(painter);
-        mPaint(canvas, mSize, true);
+        paintSheet(canvas, sheet);
     }
     return buffer.data();
 }
@@ -78,7 +94,7 @@ bool Picture::print(QPrinter& printer) const
     const double scale = static_cast<double>(printer.resolution()) / kResolution;
     painter.scale(scale, scale);
     RasterCanvas canvas(painter);
-    mPaint(canvas, (QSizeF(printer.pageLayout().paintRectPixels(printer.resolution()).size()) / scale).toSize(), true);
+    paintSheet(canvas, (QSizeF(printer.pageLayout().paintRectPixels(printer.resolution()).size()) / scale).toSize());
     return painter.end();
 }
 

@@ -22,7 +22,7 @@ public:
     /// @param ratio pixels of a pixel picture for each of the view's
     Picture(Paint paint, const QSize& size, double ratio) : mPaint(std::move(paint)), mSize(size), mRatio(ratio) {}
 
-    /// What a drawing says that it is of.
+    /// What a drawing says that it is of, and a sheet of paper above it.
     void setTitle(const QString& title) { mTitle = title; }
     /// @param path the suffix chooses the format; without one it is BMP. @return false with error() set
     bool save(const QString& path);
@@ -32,6 +32,8 @@ public:
     bool print(QPrinter& printer) const;
 
 private:
+    void paintSheet(Canvas& canvas, const QSize& size) const;
+    [[nodiscard]] int heading() const;
     [[nodiscard]] QByteArray svg() const;
     [[nodiscard]] QByteArray pdf() const;
     QByteArray pixels(const QString& format);

@@ -70,7 +70,8 @@ void PictureMenu::save()
 
 void PictureMenu::print()
 {
-    const Picture picture = mTake();
+    Picture picture = mTake();
+    picture.setTitle(name());
     QPrinter printer(QPrinter::HighResolution);
     printer.setPageOrientation(QPageLayout::Landscape);
     printer.setDocName(name());
