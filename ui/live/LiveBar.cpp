@@ -29,6 +29,7 @@ LiveBar::LiveBar(QWidget* pParent)
     setObjectName("liveBar");
     setAccessibleName(tr("Live"));
     mpStatus->setTextFormat(Qt::PlainText);
+    mpStatus->setWordWrap(true); // how the bus is may not be cut off
     mpNote->setTextFormat(Qt::PlainText);
     mpNote->hide();
     mpIncidents->setTextFormat(Qt::RichText);

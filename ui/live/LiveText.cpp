@@ -30,6 +30,8 @@ int plural(uint64_t count)
 
 void LiveText::take(const LiveStatus& status)
 {
+    if (status.counts.frames != mStatus.counts.frames)
+        mSinceFrames.start();
     mStatus = status;
     mWasConnected |= status.state == BusLink::eConnected;
     const qint64 elapsed = mClock.isValid() ? mClock.elapsed() : 0;
@@ -83,17 +85,25 @@ QString LiveText::recording() const
     return tr("%Ln frame(s) recorded into %1", nullptr, plural(mStatus.recorded)).arg(QDir(mFolder).dirName());
 }
 
+QString LiveText::silence() const
+{
+    const bool isSilent = mStatus.state != BusLink::eClosed && mSinceFrames.isValid() && mSinceFrames.hasExpired(kSilence);
+    return isSilent ? tr("NO FRAMES for %1 s").arg(number(static_cast<double>(mSinceFrames.elapsed() / 1000))) : QString();
+}
+
 QString LiveText::text() const
 {
     QStringList parts{connection(), counts()};
     if (const QString recorded = recording(); !recorded.isEmpty())
         parts.insert(1, recorded); // it must be seen in narrow windows
+    if (const QString silent = silence(); !silent.isEmpty())
+        parts.prepend(silent);
     return parts.join("  |  ");
 }
 
 bool LiveText::isTrouble() const
 {
-    return !mStatus.recordingError.isEmpty() || (mStatus.state == BusLink::eConnecting && mWasConnected);
+    return !mStatus.recordingError.isEmpty() || !silence().isEmpty() || (mStatus.state == BusLink::eConnecting && mWasConnected);
 }
 
 } // namespace ZARN

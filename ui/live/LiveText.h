@@ -12,6 +12,8 @@ class LiveText {
     Q_DECLARE_TR_FUNCTIONS(ZARN::LiveText)
 
 public:
+    static constexpr qint64 kSilence = 2000; ///< milliseconds without a frame from which on that is told
+
     /// @param bitRate of the bus; 0 when it is not known  @param folder that is recorded into
     explicit LiveText(QString bus = {}, int bitRate = 0, QString folder = {})
         : mBus(std::move(bus)), mBitRate(bitRate), mFolder(std::move(folder))
@@ -28,6 +30,8 @@ private:
     [[nodiscard]] QString connection() const;
     [[nodiscard]] QString counts() const;
     [[nodiscard]] QString recording() const;
+    /// That nothing has come for a while; empty while something does, and before.
+    [[nodiscard]] QString silence() const;
 
     QString mBus;
     int mBitRate;
@@ -35,6 +39,7 @@ private:
     LiveStatus mStatus;
     bool mWasConnected = false;
     QElapsedTimer mClock;
+    QElapsedTimer mSinceFrames; ///< runs from the first one on
     LiveCounts mBefore; ///< when the rates were worked out
     double mFrames = 0.0;  ///< a second
     double mBits = 0.0;    ///< a second

@@ -30,6 +30,7 @@ namespace {
 
 constexpr qint64 kFrame = 33; // milliseconds from picture to picture
 constexpr qint64 kRest = 3;   // times as long as a picture takes, until the next one
+constexpr qint64 kSilenceStep = 1000; // milliseconds in which time goes on while nothing comes
 constexpr double kSecondsOfHour = 3600.0;
 
 } // namespace
@@ -134,6 +135,7 @@ void LiveController::take(const LiveRecords& records, const QDateTime& now)
     if (mpMemory->isEmpty())
         mPowerUp = now.addMSecs(-static_cast<qint64>(records.back().record.time() * 1000.0));
     mpMemory->append(records);
+    mSinceFrames.start();
     mHasNew = true;
     mIsReviewed = false;
     if (!mTick.isActive())
@@ -161,6 +163,8 @@ void LiveController::tick()
         mDecoding = mParts.record.version().decoding;
         mReviewer.start(mSession.container, mSession.profile.context(), mpMemory->snapshot(nullptr));
     }
+    if (mIsRunning && isShown() && !mIsPaused)
+        passSilence();
     if (mIsRunning || !mIsReviewed)
         mTick.start(static_cast<int>(std::max(kFrame, kRest * timer.elapsed())));
 }
@@ -183,6 +187,18 @@ void LiveController::showNewest()
         Q_EMIT signalBegun();
     }
     mParts.record.growRecord(mShownTime, std::exchange(mHasReview, false), this);
+}
+
+/// Time goes on where nothing comes any more: the newest values do not stand as if they were measured now.
+void LiveController::passSilence()
+{
+    const qint64 silence = mSinceFrames.elapsed();
+    if (silence < LiveText::kSilence)
+        return;
+    const double time = mpMemory->latest() + static_cast<double>(silence / kSilenceStep * kSilenceStep) / 1000.0;
+    const QScopedValueRollback showing(mIsShowing, true);
+    if (std::exchange(mShownTime, time) != time)
+        mParts.record.setTime(time, this);
 }
 
 void LiveController::setPaused(bool isPaused)

@@ -7,6 +7,7 @@
 #include "ui/live/LiveReviewer.h"
 #include "ui/live/LiveText.h"
 
+#include <QElapsedTimer>
 #include <QTimer>
 
 #include <memory>
@@ -68,6 +69,7 @@ Q_SIGNALS:
 
 private:
     void tick();
+    void passSilence();
     void updateBar();
     void slotStatus(const LiveStatus& status);
     void slotTime(double seconds, const QObject* pSource);
@@ -93,6 +95,7 @@ private:
     double mShownTime = 0.0; ///< that the views were sent to
     std::size_t mFlights = 0; ///< that are listed
     std::size_t mChannels = 0;
+    QElapsedTimer mSinceFrames;
     unsigned mDecoding = 0; ///< version by which the review is made
     bool mIsRunning = false;
     bool mHasNew = false;     ///< what is not shown
