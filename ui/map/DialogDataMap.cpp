@@ -31,6 +31,7 @@ namespace {
 constexpr int kMargin = 10;
 constexpr int kLeastWidth = 200;
 constexpr int kBelowPanels = 40; // pixels for what is written at the lower edge
+constexpr int kRoomForAll = 260; // pixels below the question
 constexpr int kBesideMap = 520;   // pixels of width from which values stand beside the map, else below it
 constexpr int kLegendRoom = 240;  // pixels beside the tools from which the legend stands there, else below them
 constexpr int kCourseDelay = 150; // milliseconds
@@ -208,7 +209,7 @@ void DialogDataMap::updateProfileStrip()
     // The path may have been worked out in the unit before.
     const std::string unit = altitude.name.empty() ? std::string() : altitude.unit(mSession.container.wholeFlightPath().unit());
     mpProfile->setPath(mpMap->scene().path(), QString::fromStdString(unit));
-    mpProfile->setVisible(!mpProfile->isEmpty() && Settings::kMapShowProfile.get(mSession.property));
+    mpProfile->setVisible(!mIsShort && !mpProfile->isEmpty() && Settings::kMapShowProfile.get(mSession.property));
 }
 
 FlightPathPoint DialogDataMap::calcPositionAtTime(double time) const
@@ -266,6 +267,18 @@ void DialogDataMap::updateConsent()
         return;
     mpConsent->setServer(mServer = server);
     mpConsent->setVisible(isMissing);
+    giveRoom();
+}
+
+/// The question needs all of its text; in a low window values and altitude wait for the answer.
+void DialogDataMap::giveRoom()
+{
+    mpConsent->arrangeFor(width());
+    const bool isShort = mpConsent->isVisibleTo(this) && height() - mpConsent->minimumHeight() < kRoomForAll;
+    if (std::exchange(mIsShort, isShort) == isShort)
+        return;
+    updateProfileStrip();
+    updateValues();
 }
 
 void DialogDataMap::slotConsent(bool isAllowed)
@@ -275,6 +288,7 @@ void DialogDataMap::slotConsent(bool isAllowed)
     TileConsent(mSession.property).set(mpMap->map().tileServer().address(), isAllowed);
     mSession.property.writeXmlFile();
     mpConsent->hide();
+    giveRoom();
     QWidget::layout()->activate(); // tiles are asked for the map as it is then
     updateSettings();
 }
@@ -314,7 +328,7 @@ void DialogDataMap::updateValues()
 {
     if (!mpValues)
         return;
-    const bool isWanted = mpTools->isChecked(MapToolPanel::kShowValues);
+    const bool isWanted = !mIsShort && mpTools->isChecked(MapToolPanel::kShowValues);
     const int rows = mpValues->model().rowCount();
     mpValues->setValues(isWanted ? mValues.at(mTime, mpRecord != nullptr) : std::vector<MapValue>());
     mpValues->setVisible(mpValues->model().rowCount() > 0);
@@ -360,7 +374,7 @@ void DialogDataMap::resizeEvent(QResizeEvent* pEvent)
 {
     QWidget::resizeEvent(pEvent);
     if (mpMap)
-        mpConsent->arrangeFor(width());
+        giveRoom();
     if (mpMap && (mpSplitter->orientation() == Qt::Horizontal) != (width() >= kBesideMap))
         arrangeValues();
     updateGeometry();

@@ -83,6 +83,7 @@ private:
     void updateValues();
     void updateProfileStrip();
     void updateConsent();
+    void giveRoom();
     void arrangeValues();
     void findCourse();
     void pickTime(double time);
@@ -95,6 +96,7 @@ private:
     MapValues mValues;
     WidgetMap* mpMap = nullptr;
     QSize mCorner; // of the map, that is taken
+    bool mIsShort = false; // there is too little room for what is below the map
     QSplitter* mpSplitter = nullptr;
     MapValueTable* mpValues = nullptr;
     MapProfile* mpProfile = nullptr;

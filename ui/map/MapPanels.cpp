@@ -146,6 +146,7 @@ void MapConsentBar::arrangeFor(int width)
     mpLine->setDirection(isNarrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
     if (buttons > room)
         mpButtons->setDirection(QBoxLayout::TopToBottom);
+    setMinimumHeight(mpLine->totalHeightForWidth(width));
 }
 
 } // namespace ZARN
