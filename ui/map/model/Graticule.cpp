@@ -29,6 +29,13 @@ double stepFor(double least)
     return kCoarse[std::size(kCoarse) - 1];
 }
 
+/// @param place of its left lower corner
+QRectF labelBox(const Canvas& canvas, const QPointF& place, const QString& text, const CanvasText& style)
+{
+    const QSizeF size = canvas.textSize(text, style);
+    return {place - QPointF(0.0, size.height()), size};
+}
+
 } // namespace
 
 Graticule::Graticule(const OpenStreet::Camera& camera, double spacing)
@@ -47,7 +54,8 @@ QString Graticule::label(double degrees, double step, char positive, char negati
     return QString::number(total / parts) + QChar(0x00B0) + minutes + QLatin1Char('\'') + QLatin1Char(degrees < 0.0 ? negative : positive);
 }
 
-void Graticule::draw(Canvas& canvas, const CanvasPen& pen, const CanvasText& style, double bottom, const QSizeF& covered) const
+void Graticule::draw(Canvas& canvas, const CanvasPen& pen, const CanvasText& style, double bottom, const QSizeF& covered,
+                     const std::function<bool(const QRectF&)>& isTaken) const
 {
     const auto corner = [&](double x, double y) { return mCamera.projection().toGeo(mCamera.windowToWorld({x, y})); };
     OpenStreet::GeoPoint upper = corner(0.0, 0.0), lower = upper;
@@ -67,11 +75,11 @@ void Graticule::draw(Canvas& canvas, const CanvasPen& pen, const CanvasText& sty
         const QPointF top = point(upper.latitude, longitude);
         lines.insert(lines.end(), {top, point(lower.latitude, longitude)});
         const QString text = label(OpenStreet::foldLongitude(longitude), mStep, 'E', 'W');
-        const double width = canvas.textSize(text, style).width();
-        if (top.x() + 3.0 < right || top.x() + 3.0 + width > mCamera.width())
+        const QRectF box = labelBox(canvas, {top.x() + 3.0, bottom}, text, style);
+        if (box.left() < right || box.right() > mCamera.width() || isTaken(box))
             continue;
-        canvas.text({top.x() + 3.0, bottom}, text, style);
-        right = top.x() + 3.0 + width + kBetween;
+        canvas.text(box.bottomLeft(), text, style);
+        right = box.right() + kBetween;
     }
     for (double latitude = std::ceil(lower.latitude / step) * step; latitude <= upper.latitude; latitude += step) {
         const QPointF left = point(latitude, upper.longitude);
@@ -79,8 +87,12 @@ void Graticule::draw(Canvas& canvas, const CanvasPen& pen, const CanvasText& sty
         const QString text = label(latitude, mStep, 'N', 'S');
         if (left.y() >= above)
             continue;
-        above = left.y() - canvas.textSize(text, style).height();
-        canvas.text({above < covered.height() ? covered.width() + 3.0 : 3.0, left.y() - 1.0}, text, style);
+        QRectF box = labelBox(canvas, {3.0, left.y() - 1.0}, text, style);
+        above = box.top() + 1.0;
+        if (above < covered.height())
+            box.translate(covered.width(), 0.0);
+        if (!isTaken(box))
+            canvas.text(box.bottomLeft(), text, style);
     }
     canvas.lines(lines, pen);
 }

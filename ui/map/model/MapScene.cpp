@@ -145,7 +145,8 @@ void MapScene::drawGround(Canvas& canvas, const OpenStreet::Camera& camera) cons
     if (mIsPlain) { // the labels keep clear of the scale bar, and of what stands in the corners
         const double bottom = std::min(std::floor(barBottom(camera, scaleBar(camera)) - kTextAboveBar - labelHeight()),
                                        camera.height() - mCorner.height() - kMargin - kAboveCorner);
-        Graticule(camera, mStyle.gridSpacing).draw(canvas, {mStyle.colours.grid, mStyle.gridWidth}, style, bottom, mStyle.tools);
+        Graticule(camera, mStyle.gridSpacing).draw(canvas, {mStyle.colours.grid, mStyle.gridWidth}, style, bottom, mStyle.tools,
+                                                    [&](const QRectF& box) { return mPlaces.areIn(box, camera); });
         mPlaces.draw(canvas, camera, mStyle);
     }
     drawRest(canvas);

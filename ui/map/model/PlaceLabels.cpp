@@ -127,9 +127,9 @@ void PlaceLabels::choose(const OpenStreet::Camera& camera, const MapStyle& style
         const double distance = (pPlace->kind == MapPlace::eTown ? kDot : kRunway) + 2.0;
         const std::optional<QRectF> box = room.take(middle, distance, canvasTextSize(text, style.textSize, false));
         if (box)
-            mLabels.push_back({*pPlace, at, box->topLeft() - middle, text});
+            mLabels.push_back({*pPlace, at, box->topLeft() - middle, box->size(), text});
         else if (pPlace->kind != MapPlace::eTown && weight(*pPlace) >= kSmallestMark)
-            mLabels.push_back({*pPlace, at, {}, {}});
+            mLabels.push_back({*pPlace, at, {}, {}, {}});
     }
 }
 
@@ -167,6 +167,13 @@ void PlaceLabels::draw(Canvas& canvas, const OpenStreet::Camera& camera, const M
             canvas.text(at + label.step, label.text, {style.textSize, isTown ? style.colours.town : style.colours.airfield});
     }
     canvas.triangles(dots, style.colours.town);
+}
+
+bool PlaceLabels::areIn(const QRectF& part, const OpenStreet::Camera& camera) const
+{
+    return std::ranges::any_of(mLabels, [&](const Label& label) {
+        return !label.text.isEmpty() && part.intersects(QRectF(seenAt(camera, label.at) + label.step, label.size));
+    });
 }
 
 } // namespace ZARN

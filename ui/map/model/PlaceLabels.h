@@ -18,6 +18,8 @@ public:
     [[nodiscard]] const QString& problem() const { return mPlaces.problem(); }
     void update(const OpenStreet::Camera& camera, const MapStyle& style);
     void draw(Canvas& canvas, const OpenStreet::Camera& camera, const MapStyle& style) const;
+    /// Whether a name stands in a part of the window.
+    [[nodiscard]] bool areIn(const QRectF& part, const OpenStreet::Camera& camera) const;
     /// The places whose symbol is seen.
     [[nodiscard]] std::size_t size() const { return mLabels.size(); }
     [[nodiscard]] int choices() const { return mChoices; }
@@ -27,6 +29,7 @@ private:
         OpenStreet::MapPlace place;
         OpenStreet::WorldPoint at;
         QPointF step; ///< from the place's point to the left upper corner of its text
+        QSizeF size;
         QString text; ///< empty where there is no room for it
     };
     void choose(const OpenStreet::Camera& camera, const MapStyle& style);
