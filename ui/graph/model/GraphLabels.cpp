@@ -1,8 +1,16 @@
 #include "ui/graph/model/GraphLabels.h"
 
 #include "ui/canvas/ColourContrast.h"
+#include "ui/graph/model/TraceColours.h"
 
 namespace ZARN {
+
+namespace {
+
+constexpr double kShortDash = 5.0; // pixels; a dot is shorter
+constexpr double kPartGap = 2.0;
+
+} // namespace
 
 CanvasText GraphLabels::style(Qt::Alignment align, const std::optional<QColor>& colour) const
 {
@@ -44,6 +52,15 @@ void GraphLabels::drawScrollBar(Canvas& canvas, const QRectF& list, const Visibl
     const double height = std::max(kLeastThumb, bar.height() * rows.count / rows.all);
     const double way = static_cast<double>(rows.first) / (rows.all - rows.count);
     canvas.fillRect(QRectF(bar.left(), bar.top() + way * (bar.height() - height), kWidth, height), withAlpha(colour, 0.6));
+}
+
+void GraphLabels::drawSwatch(Canvas& canvas, const QPointF& line, int index, const QColor& colour) const
+{
+    const double dash = dashOf(*mModel.traces().at(index)), width = GraphLayout::kSwatch;
+    const int parts = dash == 0.0 ? 1 : dash < kShortDash ? 3 : 2;
+    const double part = (width - kPartGap * (parts - 1)) / parts;
+    for (int i = 0; i < parts; ++i)
+        canvas.fillRect({line.x() + 2 + i * (part + kPartGap), line.y() + 3, part, mLayout.line() - 6}, colour);
 }
 
 void GraphLabels::draw(Canvas& canvas, const Label& label, Qt::Alignment align) const

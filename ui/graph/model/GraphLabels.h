@@ -21,6 +21,8 @@ public:
     [[nodiscard]] QColor contrast(double alpha = 1.0) const;
     /// On the line of the trace that stands out.
     [[nodiscard]] QColor highlight() const;
+    /// The mark of a trace at the left end of its line in a list: in one piece, or in two or three as its stroke is dashed or dotted.
+    void drawSwatch(Canvas& canvas, const QPointF& line, int index, const QColor& colour) const;
     void draw(Canvas& canvas, const Label& label, Qt::Alignment align) const;
     /// The same for many that do not overlap: all boxes, then all texts.
     void draw(Canvas& canvas, const std::vector<Label>& labels, Qt::Alignment align,

@@ -20,6 +20,7 @@ constexpr double kLeastGrip = 27.0;    // pixels of an axis beside the handles o
 constexpr double kReadableStrip = 2.5; // lines
 constexpr double kTablePart = 0.38;    // of the view's height at most
 constexpr double kLegendPart = 0.4;    // the same for the legend
+constexpr double kComparedPart = 0.5;  // the same where two flights are compared
 constexpr double kShortLegend = 0.34;  // of the view's width at most, where it tells the cursor's values alone
 constexpr int kLeastNumber = 8;        // characters of a number in the legend
 constexpr int kFewestOfName = 6, kSomeOfName = 14;
@@ -75,9 +76,7 @@ GraphLayout::GraphLayout(const GraphModel& model, const QSizeF& size, double tex
 {
     const bool hasBand = model.scenery().course() && size.height() > kLinesForBand * mLine;
     const double top = mLine + kGap + (hasBand ? mLine + 1 : 0.0), table = placeTable(model);
-    placeLegend(model, size.width());
-    if (mLegend == ELegend::eNone)
-        placeLegendBelow(model, size.height() - table);
+    placeLegend(model, size.height() - table);
     const double bottom = (mIsBelow ? mLegendRect.top() - kGap / 2 : size.height() - table) - mLine - 2 * kGap;
     const double right = mLegend == ELegend::eNone || mIsBelow ? size.width() - 2 * kGap : mLegendRect.left() - kGap;
     const double height = std::max(kSmallestPlot, std::floor(bottom - top));
@@ -124,48 +123,52 @@ double GraphLayout::placeTable(const GraphModel& model)
     return height;
 }
 
-void GraphLayout::placeLegend(const GraphModel& model, double width)
+bool GraphLayout::placeLegendBeside(const GraphModel& model, const LegendKind& kind)
+{
+    const int numbers = 3 + longestUnit(model) + (kind.legend == ELegend::eFull ? 3 : 1) * (mNumberLength + 1);
+    const auto room = static_cast<int>((mSize.width() * kind.part - 2 * kGap) / mCharacter) - numbers;
+    const int name = std::min(mNameLength, room);
+    if (name < std::min(mNameLength, kind.leastName))
+        return false;
+    const double wanted = std::ceil((name + numbers) * mCharacter + 2 * kGap);
+    mLegend = kind.legend;
+    mNameLength = name;
+    mLegendRect = QRectF(std::floor(mSize.width() - wanted - kGap), 0, wanted, 0);
+    return true;
+}
+
+void GraphLayout::placeLegend(const GraphModel& model, double bottom)
 {
     if (!model.settings().legendOn || model.traces().shown().empty())
         return;
-    struct Kind {
-        ELegend kind;
-        int name;
-        int numbers;
-    };
-    const int unit = 3 + longestUnit(model);
+    constexpr LegendKind kFull{ELegend::eFull, kLongestName, kLegendPart};
     // Where two are compared, the numbers are what is looked for.
-    const Kind second{model.scenery().ghost() ? ELegend::eFull : ELegend::eCursor,
-                      model.scenery().ghost() ? std::min(mNameLength, kSomeOfName) : mNameLength, model.scenery().ghost() ? 3 : 1};
-    for (const Kind& kind : {Kind{ELegend::eFull, mNameLength, 3}, second, Kind{ELegend::eCursor, mNameLength, 1},
-                             Kind{ELegend::eCursor, std::min(mNameLength, kSomeOfName), 1}}) {
-        const int characters = kind.name + unit + kind.numbers * (mNumberLength + 1);
-        const double wanted = std::ceil(characters * mCharacter + 2 * kGap);
-        if (wanted > width * (kind.kind == ELegend::eFull ? kLegendPart : kShortLegend))
-            continue;
-        mLegend = kind.kind;
-        mNameLength = kind.name;
-        mLegendRect = QRectF(std::floor(width - wanted - kGap), 0, wanted, 0);
+    constexpr LegendKind kCompared{ELegend::eFull, kSomeOfName, kComparedPart};
+    constexpr LegendKind kShort{ELegend::eCursor, kSomeOfName, kShortLegend};
+    if (placeLegendBeside(model, kFull) || (model.scenery().ghost() && placeLegendBeside(model, kCompared)))
         return;
-    }
+    if (model.scenery().ghost())
+        placeLegendBelow(model, bottom);
+    if (mLegend == ELegend::eNone && !placeLegendBeside(model, kShort))
+        placeLegendBelow(model, bottom);
 }
 
 void GraphLayout::placeLegendBelow(const GraphModel& model, double bottom)
 {
-    if (!model.settings().legendOn || model.traces().shown().empty())
-        return;
     const double room = std::min(bottom * kLegendPart, bottom - kSmallestPlot - 2 * mLine - 4 * kGap);
     double rows = std::min(model.traces().count() + 1.0, std::floor(room / mLine));
-    if (rows < 2 || (model.settings().displayMode == eSplit && !isPanelWanted(model, bottom - 2 * mLine - 3 * kGap, rows * mLine)))
-        return;
     const auto widthOf = [&](int name, int numbers) {
         return (name + longestUnit(model) + numbers * (mNumberLength + 1) + 1) * mCharacter + kSwatch + kGap;
     };
     const double wide = mSize.width() - 2 * kGap;
-    const int shortName = std::min(mNameLength, kSomeOfName);
-    const int columns = std::max(1, static_cast<int>(wide / widthOf(shortName, 1)));
-    if (wide >= widthOf(mNameLength, 3) && (model.traces().count() < rows || columns == 1)) {
+    const bool isCompared = model.scenery().ghost() && wide >= widthOf(std::min(mNameLength, kFewestOfName), 3);
+    if (rows < 2 ||
+        (model.settings().displayMode == eSplit && !isCompared && !isPanelWanted(model, bottom - 2 * mLine - 3 * kGap, rows * mLine)))
+        return;
+    const int columns = std::max(1, static_cast<int>(wide / widthOf(std::min(mNameLength, kSomeOfName), 1)));
+    if (isCompared || (wide >= widthOf(mNameLength, 3) && (model.traces().count() < rows || columns == 1))) {
         mLegend = ELegend::eFull;
+        mNameLength = std::min(mNameLength, static_cast<int>((wide - widthOf(0, 3)) / mCharacter));
     } else {
         mLegend = ELegend::eCursor;
         mLegendColumns = columns;

@@ -79,7 +79,14 @@ public:
     static constexpr int kLongestLabel = 40; ///< of a name with its unit over the plot
 
 private:
-    void placeLegend(const GraphModel& model, double width);
+    struct LegendKind {
+        ELegend legend;
+        int leastName; ///< characters of a name; all of it where it has fewer
+        double part;   ///< of the view's width at most
+    };
+    /// @return false when there is no room for it beside the plot
+    bool placeLegendBeside(const GraphModel& model, const LegendKind& kind);
+    void placeLegend(const GraphModel& model, double bottom);
     void placeLegendBelow(const GraphModel& model, double bottom);
     /// Strips tell their values themselves as long as they have room for a line. @param height of all without a panel  @param panel its height
     [[nodiscard]] bool isPanelWanted(const GraphModel& model, double height, double panel) const;

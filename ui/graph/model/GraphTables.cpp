@@ -136,7 +136,7 @@ void GraphTables::drawLegendLine(Canvas& canvas, const QRectF& line, int index, 
     if (layer == ELayer::eAreas) {
         if (index == mModel.traces().highlighted())
             canvas.fillRect(line, mLabels.highlight());
-        canvas.fillRect(QRectF(line.left() + 2, line.top() + 3, kSwatch, line.height() - 6), parameter.drawnColour);
+        mLabels.drawSwatch(canvas, line.topLeft(), index, parameter.drawnColour);
     } else if (layer == ELayer::eNames) {
         canvas.text(QPointF(x, line.top()), shortenedName(parameter.name, mLayout.nameLength()), style(true));
     } else {
@@ -165,7 +165,7 @@ void GraphTables::drawOverlay(Canvas& canvas, const CursorLabels& cursor) const
         canvas.fillRect(line, box);
         if (index == mModel.traces().highlighted())
             canvas.fillRect(line, mLabels.highlight());
-        canvas.fillRect(QRectF(line.left() + 2, line.top() + 3, kSwatch, line.height() - 6), parameter.drawnColour);
+        mLabels.drawSwatch(canvas, line.topLeft(), index, parameter.drawnColour);
         canvas.text(line.topLeft() + QPointF(kSwatch + 5, 0), mLayout.overlayText(mModel, index), style(true));
     }
 }

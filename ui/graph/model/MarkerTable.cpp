@@ -46,7 +46,7 @@ void MarkerTable::drawRow(Canvas& canvas, double y, const MarkerSheet::Row& row,
     const QRectF& table = mLayout.table();
     if (row.index == mModel.traces().highlighted())
         canvas.fillRect(QRectF(table.left(), y, table.width(), mLayout.line()), mLabels.highlight());
-    canvas.fillRect(QRectF(table.left() + 2, y + 3, kSwatch, mLayout.line() - 6), colourOf(row));
+    mLabels.drawSwatch(canvas, {table.left(), y}, row.index, colourOf(row));
     drawCells(canvas, y, row.cells, part);
 }
 
