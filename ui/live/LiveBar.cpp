@@ -5,11 +5,15 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace ZARN {
 
 namespace {
 
-constexpr std::size_t kMostSentences = 3;
+constexpr int kMostSentences = 3;
+constexpr int kReadable = 40; // characters of one
+const QString kBetween = QStringLiteral("  |  ");
 
 /// A line that is cut off rather than that it makes the window wider.
 QLabel* createLine(const char* name)
@@ -73,19 +77,42 @@ void LiveBar::setNote(const QString& text)
 
 void LiveBar::setIncidents(const std::vector<IncidentSentence>& sentences, bool isKnown)
 {
+    mSentences = sentences;
+    mIsKnown = isKnown;
+    showIncidents();
+}
+
+void LiveBar::resizeEvent(QResizeEvent* pEvent)
+{
+    QFrame::resizeEvent(pEvent);
+    showIncidents();
+}
+
+/// Each as far as its share of the line goes, so that one does not hide the others.
+void LiveBar::showIncidents()
+{
+    QFont bold = font();
+    bold.setBold(true);
+    const QFontMetrics metrics(bold);
+    const int room = mpIncidents->width() - metrics.horizontalAdvance(tr("and %n more", nullptr, 10));
+    const int fitting = std::clamp(room / (kReadable * metrics.averageCharWidth()), 1, kMostSentences);
+    const std::size_t shown = std::min(mSentences.size(), static_cast<std::size_t>(fitting));
+    const int share = room / static_cast<int>(std::max<std::size_t>(shown, 1));
     QStringList parts, all;
-    for (std::size_t i = 0; i < sentences.size(); ++i) {
-        const IncidentSentence& sentence = sentences[i];
-        const QString text = (sentence.time + " " + sentence.text() + (sentence.when.isEmpty() ? QString() : ", " + sentence.when)).toHtmlEscaped();
-        all.append(text);
-        if (i < kMostSentences)
-            parts.append(QStringLiteral("<a href=\"%1\">%2</a>").arg(QString::number(i), sentence.state > 1 ? "<b>" + text + "</b>" : text));
+    for (std::size_t i = 0; i < mSentences.size(); ++i) {
+        const IncidentSentence& sentence = mSentences[i];
+        const QString text = sentence.time + " " + sentence.text() + (sentence.when.isEmpty() ? QString() : ", " + sentence.when);
+        all.append(text.toHtmlEscaped());
+        if (i >= shown)
+            continue;
+        const QString part = metrics.elidedText(text, Qt::ElideRight, share - metrics.horizontalAdvance(kBetween)).toHtmlEscaped();
+        parts.append(QStringLiteral("<a href=\"%1\">%2</a>").arg(QString::number(i), sentence.state > 1 ? "<b>" + part + "</b>" : part));
     }
-    if (sentences.size() > kMostSentences)
-        parts.append(tr("and %n more", nullptr, static_cast<int>(sentences.size() - kMostSentences)));
+    if (mSentences.size() > shown)
+        parts.append(tr("and %n more", nullptr, static_cast<int>(mSentences.size() - shown)));
     if (parts.isEmpty())
-        parts.append(isKnown ? tr("Nothing outside its limits so far while the engine ran") : tr("Nothing can be told of the engine yet"));
-    mpIncidents->setText(parts.join(" &nbsp;|&nbsp; "));
+        parts.append(mIsKnown ? tr("Nothing outside its limits so far while the engine ran") : tr("Nothing can be told of the engine yet"));
+    mpIncidents->setText(parts.join(QString(kBetween).replace(' ', QLatin1String("&nbsp;"))));
     mpIncidents->setToolTip(all.isEmpty() ? QString() : "<qt>" + all.join("<br/>") + "</qt>");
 }
 

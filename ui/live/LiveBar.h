@@ -36,7 +36,14 @@ Q_SIGNALS:
     /// The user wants to see what a sentence tells of.
     void signalIncident(std::size_t sentence);
 
+protected:
+    void resizeEvent(QResizeEvent* pEvent) override;
+
 private:
+    void showIncidents();
+
+    std::vector<IncidentSentence> mSentences;
+    bool mIsKnown = false;
     QLabel* mpStatus;
     QLabel* mpNote;
     QLabel* mpIncidents;

@@ -31,6 +31,7 @@ namespace {
 constexpr qint64 kFrame = 33; // milliseconds from picture to picture
 constexpr qint64 kRest = 3;   // times as long as a picture takes, until the next one
 constexpr qint64 kSilenceStep = 1000; // milliseconds in which time goes on while nothing comes
+constexpr double kJustNow = 5.0;      // seconds from the end of an incident
 constexpr double kSecondsOfHour = 3600.0;
 
 } // namespace
@@ -260,6 +261,10 @@ void LiveController::slotFound()
     }
     mIncidents = mReviewer.review().incidents;
     mSentences = IncidentText(QLocale()).sentences(mIncidents);
+    // Of those that are as bad what goes on comes first: the others have been seen.
+    std::ranges::stable_sort(mSentences, std::ranges::greater(), [latest = mpMemory->latest()](const IncidentSentence& sentence) {
+        return std::pair(sentence.state, sentence.end >= latest - kJustNow);
+    });
     const CycleReview& review = mReviewer.review();
     mpBar->setIncidents(mSentences, review.verdict != EVerdict::eUnknown && review.engine.isKnown() && !review.engine.stretches().empty());
     if (mIsPaused)
