@@ -17,6 +17,7 @@ namespace ZARN {
 namespace {
 
 constexpr double kBand = 14, kMark = 8, kLeastMark = 3; // pixels
+constexpr double kFlightLine = 2;
 constexpr int kHeight = 32, kLeastWidth = 120;
 constexpr double kGrip = 5; // half the width of the handle
 constexpr double kNear = 4; // how far from a mark the pointer may be
@@ -79,8 +80,11 @@ void PositionBar::paintEvent(QPaintEvent* /*pEvent*/)
     painter.setRenderHint(QPainter::Antialiasing);
     const Palette::Course& colours = Palette::screen().course;
     painter.fillRect(band(), colours.recorded);
-    for (const PositionMarks::Band& phase : mMarks.bands())
+    for (const PositionMarks::Band& phase : mMarks.bands()) {
         painter.fillRect(area(phase.from, phase.until, band().top(), kBand), colours.of(phase.phase));
+        if (phase.phase != EFlightPhase::eGround) // from descent it differs little
+            painter.fillRect(area(phase.from, phase.until, band().top(), kFlightLine), colours.label);
+    }
     painter.setPen(colours.outline);
     painter.drawRect(band().adjusted(-0.5, -0.5, 0.5, 0.5));
     paintMarks(painter);

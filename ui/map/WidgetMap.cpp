@@ -418,6 +418,7 @@ void WidgetMap::updateShown()
 QImage WidgetMap::picture(bool forPaper)
 {
     updateColours(forPaper);
+    mScene.setPointer(std::nullopt); // it stood there to choose the command
     QImage image;
     int unfinished = 0, before = 0;
     do { // a frame makes a few tiles only

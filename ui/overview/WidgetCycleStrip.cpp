@@ -16,6 +16,7 @@ namespace ZARN {
 namespace {
 
 constexpr double kMark = 7;     // height of an incident's mark
+constexpr double kFlightLine = 2;
 constexpr double kLeastMark = 4; // its least width: none is too short to be seen
 constexpr double kNear = 4;     // how far from a mark a click may fall
 
@@ -101,6 +102,11 @@ void WidgetCycleStrip::paintPhases(QPainter& painter) const
         const QRectF area = span(step.from, step.until);
         if (step.phase != EFlightPhase::eOff && area.width() > 0)
             painter.fillRect(area, Palette::screen().course.of(step.phase));
+    }
+    // From take-off to landing, for descent and ground differ little.
+    for (const RecordFlight& flight : mpCycle->flights) {
+        const QRectF area = span(flight.takeOffTime, flight.landingTime);
+        painter.fillRect(QRectF(area.left(), area.top(), area.width(), kFlightLine), Palette::screen().course.label);
     }
 }
 
