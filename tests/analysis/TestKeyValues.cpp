@@ -131,6 +131,8 @@ private Q_SLOTS:
         const auto sentences = IncidentText(QLocale::c()).sentences(review.incidents);
         QCOMPARE(sentences.size(), std::size_t(1));
         QCOMPARE(sentences.front().what, QString("t 95.0, limit 90, for 6 s within 9 s on the ground"));
+        QCOMPARE(sentences.front().state, 2);
+        QCOMPARE(ReviewText(review).engineRunning(), QString("1 min 59 s"));
         QCOMPARE(review.damaged, (std::vector<std::string>{"rpm", "t"}));
         const QString gaps = ReviewText(review).gaps().join(' ');
         QVERIFY2(gaps.contains("from 0:39 to 1:10, from 1:39 to 1:59"), qPrintable(gaps));

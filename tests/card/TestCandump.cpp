@@ -119,7 +119,7 @@ void TestCandump::logAndRecordFileAreTwins()
     QCOMPARE(problems(twin.container), QString());
 
     // With a clock: the same again, to the microsecond.
-    const std::string log = "(1714564800.123456) zarn0 123#1122334455667788\n(1714564801.123457) zarn0 1ABCDEF0#AABB000000000000\n";
+    const std::string log = "(1714564800.123456) zarn0 7FF#1122334455667788\n(1714564801.123457) zarn0 1ABCDEF0#AABB000000000000\n";
     putFile(card.path().toStdString() + "/clock.log", log);
     QVERIFY(twin.container.readContainer(card.path() + "/clock.log") && twin.container.loadCycle(1, -1));
     QCOMPARE(exported(twin, "/again.log"), uint64_t(0));

@@ -86,7 +86,9 @@ void TestProfileCheck::problems_data()
     row("lists out of order", QString("<Device name='D'><Parameter name='p' %1 thresholdId='T'/></Device>\n").arg(kGood) + band(""),
         {"2:77 in line 3"});
     row("descending bands", band("<Value val='1' state='OK' color='red'/>"), {"4:8 must ascend"});
-    row("equal bands", band("<Value val='2.0' state='OK' color='red'/>"), {"4:8 must ascend"});
+    row("equal bands", band("<Value val='2.0' state='OK' color='red'/>"), {"4:8 stands twice"});
+    row("each lane has its check", QString("<Device name='D'><Parameter name='p' %1 zarnDataType='LaneCheck'/><Parameter name='q' %2 zarnDataType='LaneCheck'/></Device>")
+                                      .arg(kGood, QString(kGood).replace("10", "11")), {});
     row("bands of two variants", band("<Value val='1' state='OK' color='red' variant='A'/>"), {"4:8 ascend. (Variant \"A\")"});
     row("no colour", band("<Value val='3' state='OK' color='rad'/>"), {"4:27 no colour"});
     row("no state", band("<Value val='3' state='Limit' color='red'/>"), {"4:16 \"LIMIT\""});

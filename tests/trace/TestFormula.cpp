@@ -69,7 +69,7 @@ private Q_SLOTS:
         QTEST(samplesOf(recording.data, recording.cycle.profile, "f"), "samples");
     }
 
-    /// The mean over a long recording against one that is summed anew for each sample.
+    /// The mean over a long recording against one that is summed anew for each sample; the area below it.
     void meanStaysExact()
     {
         Recording recording;
@@ -81,6 +81,15 @@ private Q_SLOTS:
             file.addFloat(1, i * 0.25, static_cast<float>(values.back()));
         }
         file.fill(data);
+        double area = 0;
+        std::size_t at = 0;
+        Formula integral("integral(a)", recording.cycle.profile.model());
+        evaluate(integral, data, recording.cycle.profile, [&](uint64_t, double value) {
+            area += at > 0 ? (values[at] + values[at - 1]) / 2 * 0.25 : 0.0;
+            ++at;
+            QVERIFY(std::abs(value - area) <= 1e-9 * std::max(1.0, area));
+        });
+        QCOMPARE(at, values.size());
         Formula formula("avg(a, 10)", recording.cycle.profile.model());
         std::size_t i = 0;
         evaluate(formula, data, recording.cycle.profile, [&](uint64_t, double value) {

@@ -146,6 +146,8 @@ void DialogLive::slotConnect()
     LiveWish wish;
     QString problem;
     wish.address = BusAddress::parse(BusAddress{mpPlugin->currentText(), mpInterface->currentText().trimmed()}.text(), problem);
+    if (wish.address.interface.isEmpty())
+        problem = tr("Name the interface, as in can0.");
     mpProblem->setText(problem);
     if (!problem.isEmpty())
         return;
