@@ -527,8 +527,7 @@ void DialogMain::slotTimeout()
     restoreCard();
     if (!mEnvironment.withDefaults)
         mpProjectController->restoreProject();
-    // The reduced display offers no other one.
-    mpLayoutController->restore(!mEmu && !QFileInfo::exists(mpProjectController->lastPath()));
+    mpLayoutController->restore(!QFileInfo::exists(mpProjectController->lastPath()));
     if (mSession.project.file().isUnread(mpProjectController->lastPath()))
         mpNotices->setProblem(Notices::eProject, tr("Project unreadable"), mpProjectController->lastPath());
     mpProfile->updateProfile();

@@ -160,7 +160,11 @@ void TestOtherModes::emu()
     QVERIFY(!isShown<QToolBar>(window));
     QVERIFY(!isShown<DialogCard>(window));
     QVERIFY(isShown<DialogData>(window) && !isShown<WidgetWelcome>(window));
-    desktop.profile.setSelected("Oil Temperature", true);
+    QVERIFY(desktop.profile.isSelected("Engine Speed")); // there is nothing here to choose them with
+    for (const ProfileDevice& device : desktop.profile.data()) {
+        for (const ProfileParameter& parameter : device.parameters)
+            desktop.profile.setSelected(parameter.name, parameter.name == "Oil Temperature");
+    }
     window.slotProfileChanged();
     RecordEntry entry;
     entry.id = desktop.profile.model().find("Oil Temperature")->identifier();
