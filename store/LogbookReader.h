@@ -35,10 +35,11 @@ struct LogbookEngine {
     double running = 0.0;                 ///< seconds in all its cycles
     std::size_t unknownCycles = 0;        ///< that do not tell whether it ran
     std::optional<double> hoursBefore;    ///< typed: before the first recording
-    std::optional<double> counter;        ///< hours that the unit told last
+    std::optional<double> counter;        ///< most hours that the unit told
     QDateTime counterDate;
     std::vector<std::string> merged; ///< engines that the user said are this one
     bool hasSerial = false;
+    bool isLossy = false; ///< recordings of it may have been lost, and nobody has entered its hours since
 
     /// Hours before the first recording and those that it ran since.
     [[nodiscard]] double hours() const { return hoursBefore.value_or(0.0) + running / 3600; }

@@ -43,7 +43,7 @@ DialogLogbook::DialogLogbook(LogbookWorker& worker, QWidget* pOptions, QWidget* 
         pLabel->hide();
         pLayout->addWidget(pLabel);
     }
-    mpEmpty->setText(tr("Nothing is kept yet. Cards that you open are taken in once you allow it on the page \"Options\"."));
+    setAllowed(false);
     mpPages->addTab(mpFlights, tr("Flights"));
     mpPages->addTab(mpTrends, tr("Trends"));
     mpPages->addTab(mpEngines, tr("Engines and services"));
@@ -81,7 +81,6 @@ void DialogLogbook::connectPages()
     connect(mpEngine, &QComboBox::currentIndexChanged, this, &DialogLogbook::setEngine);
     connect(&mWorker, &LogbookWorker::signalChanged, this, &DialogLogbook::reload);
     connect(&mWorker, &LogbookWorker::signalFailed, this, &DialogLogbook::tell);
-    connect(&mWorker, &LogbookWorker::signalPutAside, this, &DialogLogbook::tellLasting);
     connect(&mWorker, &LogbookWorker::signalFound, this, [this](bool isThere) {
         mpEmpty->setVisible(!isThere && mpFlights->model().flights().empty()); // what was removed is still shown
     });
@@ -151,6 +150,12 @@ void DialogLogbook::setContext(const DecodingContext& context)
 void DialogLogbook::setHiddenColumns(const QStringList& keys)
 {
     mpFlights->setHiddenColumns(keys);
+}
+
+void DialogLogbook::setAllowed(bool isAllowed)
+{
+    mpEmpty->setText(isAllowed ? tr("Nothing is kept yet. Cards that you open are taken in.")
+                               : tr("Nothing is kept yet. Cards that you open are taken in once you allow it on the page \"Options\"."));
 }
 
 void DialogLogbook::tell(const QString& problem)

@@ -68,9 +68,10 @@ LogbookController::LogbookController(const Session& session, const Parts& parts,
     connect(&mIntake, &LogbookIntake::signalDone, this, &LogbookController::slotTaken);
     connect(mpWorker.get(), &LogbookWorker::signalChanged, this, &LogbookController::askServices);
     connect(mpWorker.get(), &LogbookWorker::signalPutAside, this, [this](const QString& error) {
-        mParts.notices.tell(tr("The logbook was damaged.\n%1").arg(error));
-        takeCard(); // what is at hand is kept again
+        tellPutAside(error);
+        takeCard(true); // what is at hand is kept again
     });
+    connect(&mIntake, &LogbookIntake::signalPutAside, this, &LogbookController::tellPutAside);
     connect(mpExport, &LogbookExport::signalWritten, this, [this](const QString& path) {
         mpDialog->tellWritten(path);
         Q_EMIT signalWritten(path);
@@ -116,6 +117,7 @@ void LogbookController::show()
     if (!mpDialog)
         createWindow();
     mpOptions->fill();
+    mpDialog->setAllowed(isAllowed());
     mpDialog->show();
     mpDialog->raise();
     mpDialog->activateWindow();
@@ -149,16 +151,33 @@ void LogbookController::slotAnswer(bool isWanted)
     takeCard();
 }
 
-void LogbookController::takeCard()
+bool LogbookController::isAllowed() const
 {
+    return Settings::kLogbook.get(mSession.property) == eLogbookYes;
+}
+
+void LogbookController::takeCard(bool isAgain)
+{
+    if (mpDialog)
+        mpDialog->setAllowed(isAllowed());
     const QString folder = mSession.container.path();
-    if (Settings::kLogbook.get(mSession.property) == eLogbookYes && QFileInfo(folder).isDir() && !mSession.container.recordCycles().empty() && !isDemo())
-        mIntake.take(folder);
+    if (isAllowed() && QFileInfo(folder).isDir() && !mSession.container.recordCycles().empty() && !isDemo())
+        mIntake.take(folder, isAgain);
+}
+
+void LogbookController::tellPutAside(const QString& error)
+{
+    mParts.notices.tell(tr("The logbook was damaged.\n%1").arg(error));
+    if (mpDialog)
+        mpDialog->tellLasting(error);
 }
 
 void LogbookController::slotTaken(const QString& folder, const QString& error)
 {
-    mParts.notices.setProblem(Notices::eLogbook, error.isEmpty() ? QString() : tr("Card not in the logbook"), QDir::toNativeSeparators(folder) + "\n" + error);
+    QString reason = error.section('\n', 0, 0);
+    reason.replace(mStore, QFileInfo(mStore).fileName());
+    mParts.notices.setProblem(Notices::eLogbook, error.isEmpty() ? QString() : tr("Card not in the logbook: %1").arg(reason),
+                              QDir::toNativeSeparators(folder) + "\n" + error);
     if (mpDialog && !error.isEmpty())
         mpDialog->tell(error);
     mpWorker->look();
@@ -182,7 +201,7 @@ void LogbookController::askServices()
                 if (!wanted.contains(engine.id))
                     continue;
                 for (const Service& service : reader.services(engine.id)) {
-                    const ServiceDue due = dueOf(service, engine.hours(), QDate::currentDate());
+                    const ServiceDue due = dueOf(service, engine.hours(), QDate::currentDate(), engine.isLossy);
                     if (const QString text = LogbookTexts::warning(service, due); !text.isEmpty())
                         texts.append(wanted.size() > 1 ? LogbookTexts::engine(engine.id, engine.aircraft) + ": " + text : text);
                 }

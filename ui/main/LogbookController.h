@@ -66,7 +66,9 @@ private:
     void createWindow();
     void slotCard();
     void slotAnswer(bool isWanted);
-    void takeCard();
+    void takeCard(bool isAgain = false);
+    void tellPutAside(const QString& error);
+    [[nodiscard]] bool isAllowed() const;
     void slotTaken(const QString& folder, const QString& error);
     void askServices();
     void open(const QString& cycleId, int flight, double time);
