@@ -3,6 +3,7 @@
 #include "card/CycleNote.h"
 #include "store/LogbookIndex.h"
 #include "store/Service.h"
+#include "store/StoreReader.h"
 
 #include <span>
 
@@ -69,6 +70,8 @@ public:
     /// Another number when another connection has written.
     [[nodiscard]] int64_t version();
 
+    /// The same store's trends; what fails there has failed here.
+    [[nodiscard]] StoreReader trends() { return StoreReader(mDatabase); }
     [[nodiscard]] LogbookIndex& index();
     /// Those of these flights, in the same order.
     [[nodiscard]] std::vector<LogbookEntry> entries(std::span<const int64_t> flights);

@@ -81,9 +81,7 @@ void DialogLogbook::connectPages()
     connect(mpEngine, &QComboBox::currentIndexChanged, this, &DialogLogbook::setEngine);
     connect(&mWorker, &LogbookWorker::signalChanged, this, &DialogLogbook::reload);
     connect(&mWorker, &LogbookWorker::signalFailed, this, &DialogLogbook::tell);
-    connect(&mWorker, &LogbookWorker::signalFound, this, [this](bool isThere) {
-        mpEmpty->setVisible(!isThere && mpFlights->model().flights().empty()); // what was removed is still shown
-    });
+    connect(&mWorker, &LogbookWorker::signalFound, this, &DialogLogbook::setIsThere);
     connect(mpFlights, &LogbookFlights::signalOpen, this, [this](const QString& cycle, int flight) { Q_EMIT signalOpen(cycle, flight, NAN); });
     connect(mpFlights, &LogbookFlights::signalHiddenColumns, this, &DialogLogbook::signalHiddenColumns);
     connect(mpTrends, &LogbookTrends::signalOpen, this, [this](const QString& cycle, int flight) { Q_EMIT signalOpen(cycle, flight, NAN); });
@@ -152,6 +150,11 @@ void DialogLogbook::setHiddenColumns(const QStringList& keys)
     mpFlights->setHiddenColumns(keys);
 }
 
+void DialogLogbook::setIsThere(bool isThere)
+{
+    mpEmpty->setVisible(!isThere && mpFlights->model().flights().empty()); // what was removed is still shown
+}
+
 void DialogLogbook::setAllowed(bool isAllowed)
 {
     mpEmpty->setText(isAllowed ? tr("Nothing is kept yet. Cards that you open are taken in.")
@@ -182,7 +185,7 @@ void DialogLogbook::showEvent(QShowEvent* pEvent)
 {
     QDialog::showEvent(pEvent);
     const bool isThere = QFileInfo::exists(mWorker.path());
-    mpEmpty->setVisible(!isThere);
+    setIsThere(isThere);
     if (isThere && !std::exchange(mIsShown, true)) // others may have opened the store before
         reload();
     mWorker.look();

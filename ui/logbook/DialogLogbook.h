@@ -55,6 +55,7 @@ protected:
 private:
     QWidget* createHead();
     void connectPages();
+    void setIsThere(bool isThere);
     void reload();
     void fillEngines(const std::vector<LogbookEngine>& engines);
     void setEngine();

@@ -84,7 +84,7 @@ void LogbookEngines::createEngineTable()
 void LogbookEngines::createServiceTable()
 {
     const int letter = fontMetrics().horizontalAdvance('x');
-    for (const auto& [column, letters] : {std::pair(0, 22), {1, 24}, {2, 24}, {3, 42}})
+    for (const auto& [column, letters] : {std::pair(0, 22), {1, 22}, {2, 24}, {3, 52}})
         mpServices->setColumnWidth(column, letters * letter);
     connect(mpServices, &QTableWidget::itemSelectionChanged, this, &LogbookEngines::update);
     connect(mpServices, &QTableWidget::cellActivated, this, [this](int row) { askService(mServices[static_cast<std::size_t>(row)]); });

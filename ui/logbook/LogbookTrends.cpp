@@ -139,10 +139,9 @@ void LogbookTrends::read()
     if (mEngine.empty())
         return fill({});
     mWorker.ask(
-        [engine = mEngine, path = mWorker.path(), context = mContext](LogbookReader&) {
-            StoreReader store(encodeFileName(path));
+        [engine = mEngine, context = mContext](LogbookReader& reader) {
             Trends trends;
-            for (Trend& trend : store.trends(engine)) {
+            for (Trend& trend : reader.trends().trends(engine)) {
                 JudgedTrend judged{std::move(trend), {}};
                 judged.judgements = judgeTrend(judged.trend, 1);
                 trends.push_back(std::make_shared<const JudgedTrend>(shownIn(std::move(judged), context)));

@@ -71,6 +71,10 @@ LogbookController::LogbookController(const Session& session, const Parts& parts,
         tellPutAside(error);
         takeCard(true); // what is at hand is kept again
     });
+    connect(mpWorker.get(), &LogbookWorker::signalFound, this, [this](bool isThere) {
+        if (!std::exchange(mIsThere, isThere) && isThere) // a note makes one, too
+            takeCard();
+    });
     connect(&mIntake, &LogbookIntake::signalPutAside, this, &LogbookController::tellPutAside);
     connect(mpExport, &LogbookExport::signalWritten, this, [this](const QString& path) {
         mpDialog->tellWritten(path);
@@ -228,6 +232,8 @@ CardReviewer::Supplement LogbookController::supplement() const
             overview.notes.push_back(note.note);
         if (!overview.flights.empty())
             overview.unusual = unusualTexts(store, head, overview, card.values().context());
+        if (!store.error().empty()) // judged by a part of the flights
+            overview.unusual.clear();
     };
 }
 

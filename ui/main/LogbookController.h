@@ -88,6 +88,7 @@ private:
     LogbookBar* mpBar;
     LogbookOptions* mpOptions = nullptr;
     LogbookExport* mpExport;
+    bool mIsThere = true; ///< the store
     std::optional<Wanted> mWanted;
     std::optional<double> mWantedTime; ///< once the record is there
     LogbookIntake mIntake;

@@ -18,6 +18,7 @@
 #include <QAction>
 #include <QDir>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTableView>
@@ -106,6 +107,11 @@ void TestLogbookWindow::logbook()
         QFile::remove(store + pCompanion);
     const auto* pProblem = pLogbook->findChild<QLabel*>("warning");
     QTRY_VERIFY_WITH_TIMEOUT(pProblem->isVisible() && pProblem->text().contains("was removed"), 10000);
+    pLogbook->hide(); // which it stays
+    pLogbook->show();
+    pLogbook->findChild<QLineEdit*>()->setText("nowhere");
+    QTRY_VERIFY_WITH_TIMEOUT(pProblem->isVisible() && pProblem->text().contains("was removed"), 10000);
+    pLogbook->findChild<QLineEdit*>()->clear();
     QFile bad(store);
     QVERIFY(bad.open(QIODevice::WriteOnly) && bad.write(QByteArray(1000, 'x')) == 1000);
     bad.close();
@@ -113,6 +119,15 @@ void TestLogbookWindow::logbook()
     QVERIFY(bad.remove());
     window.openFolder(home.filePath("SD/Pulled"));
     QTRY_VERIFY_WITH_TIMEOUT(!pProblem->isVisible() && text(0, LogbookModel::eCard).startsWith("Pulled"), 60000);
+
+    // A damaged one is put aside, which is said, and the card that is open is in the new one.
+    QVERIFY(bad.open(QIODevice::ReadWrite) && bad.resize(4000));
+    bad.close();
+    const Answer told(Answer::close);
+    const QDir folder = QFileInfo(store).dir();
+    window.openFolder(home.filePath("SD/Pulled"));
+    QTRY_VERIFY_WITH_TIMEOUT(pProblem->text().contains("nothing of it could be read") && !folder.entryList({"logbook.sqlite.damaged-*"}).isEmpty(), 60000);
+    QTRY_VERIFY_WITH_TIMEOUT(pTable->model()->rowCount() == 2 && text(0, LogbookModel::eCard).startsWith("Pulled"), 60000);
 }
 
 QTEST_MAIN(TestLogbookWindow)
