@@ -4,15 +4,20 @@
 #include "store/StoreSchema.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <deque>
+#include <filesystem>
+#include <fstream>
 #include <limits>
 #include <optional>
+#include <set>
 
 namespace ZARN {
 
 namespace {
 
 constexpr int kMostWalks = 100;      // of a table: a damaged part may have sound pages between its ends
+constexpr std::size_t kPageCount = 28; // place of the number of pages in a file
 constexpr int64_t kMostBeyond = 1024; // row numbers sought behind the last one that was read, where the end of the table is damaged
 
 /// A part of a table that was not read, by the row numbers before and behind it.
@@ -194,6 +199,40 @@ void markLoss(Database& fresh)
         .run();
 }
 
+std::string pageOf(std::ifstream& file, int64_t page, int64_t size)
+{
+    std::string bytes(static_cast<std::size_t>(size), ' ');
+    file.clear();
+    file.seekg((page - 1) * size).read(bytes.data(), size);
+    return bytes;
+}
+
+/// Where the first page alone is lost: a copy with that of the new store, in which the pages that tell of the tables must be the same.
+/// @return its path; empty when it is none of that kind
+std::string withSoundHead(const std::string& damaged, Database& fresh)
+{
+    std::set<int64_t> tables;
+    Statement roots(fresh, "SELECT rootpage FROM sqlite_master");
+    while (roots.next())
+        tables.insert(roots.integer(0));
+    const int64_t size = fresh.number("PRAGMA page_size"), pages = fresh.number("PRAGMA page_count");
+    std::ifstream sound(fresh.path(), std::ios::binary), hurt(damaged, std::ios::binary);
+    for (int64_t page = 2; page <= pages; ++page) {
+        if (!tables.contains(page) && pageOf(sound, page, size) != pageOf(hurt, page, size))
+            return {};
+    }
+    const std::string copy = fresh.path() + "-head";
+    std::error_code failure, none;
+    for (const char* companion : {"-wal", ""})
+        std::filesystem::copy_file(damaged + companion, copy + companion, std::filesystem::copy_options::overwrite_existing, *companion ? none : failure);
+    std::string head = pageOf(sound, 1, size);
+    const auto count = static_cast<uint64_t>(std::filesystem::file_size(damaged, failure)) / static_cast<uint64_t>(size);
+    for (std::size_t byte = 0; byte < 4; ++byte)
+        head[kPageCount + byte] = static_cast<char>(count >> (24 - 8 * byte));
+    std::fstream(copy, std::ios::binary | std::ios::in | std::ios::out).write(head.data(), size);
+    return failure ? std::string() : copy;
+}
+
 void takeTables(const std::string& damaged, Database& fresh, StoreSalvage& salvage)
 {
     std::vector<std::pair<std::string, std::string>> tables;
@@ -228,9 +267,16 @@ StoreSalvage salvageStore(const std::string& damaged, const std::string& fresh)
     StoreSalvage salvage;
     Database database(fresh, Database::eReadWrite);
     StoreSchema::bringUp(database);
+    bool isReadable = false;
+    hasTable(damaged, "engine", isReadable);
+    const std::string copy = isReadable ? std::string() : withSoundHead(damaged, database), &source = copy.empty() ? damaged : copy;
     Transaction transaction(database);
-    takeTables(damaged, database, salvage);
-    takeLostCycles(damaged, database, salvage);
+    takeTables(source, database, salvage);
+    takeLostCycles(source, database, salvage);
+    for (const char* companion : {"", "-wal", "-shm"}) {
+        if (!copy.empty())
+            std::remove((copy + companion).c_str());
+    }
     database.run(kMend);
     if (!salvage.hasAllCycles)
         markLoss(database);

@@ -288,7 +288,8 @@ void TestLogbook::rescues_data()
     QTest::newRow("cycles in the midst, known by the indexes") << QByteArray("n1500E1") << 100 << std::size_t{3004};
     QTest::newRow("flights in the midst") << QByteArray("n15002025-06") << 100 << std::size_t{2900};
     QTest::newRow("the end is cut off") << QByteArray() << 90 << std::size_t{2000};
-    QTest::newRow("the first page") << QByteArray("engine_serial TEXT, ecu") << 100 << std::size_t{0};
+    QTest::newRow("the first page") << QByteArray("SQLite format 3") << 100 << std::size_t{3004};
+    QTest::newRow("what tells of the tables") << QByteArray("engine_serial TEXT, ecu") << 100 << std::size_t{0};
 }
 
 void TestLogbook::rescues()
