@@ -174,7 +174,8 @@ std::vector<LogbookNote> LogbookReader::notes(const std::string& cycle)
 std::vector<std::string> LogbookReader::foldersOf(const std::string& cycle)
 {
     std::vector<std::string> folders;
-    Statement& found = mDatabase.prepared("SELECT DISTINCT path, card_id FROM file JOIN card USING (card_id) WHERE cycle_id = ? ORDER BY card_id DESC");
+    Statement& found = mDatabase.prepared("SELECT path FROM card WHERE card_id IN (SELECT card_id FROM file WHERE cycle_id = ?1 UNION ALL SELECT card_id "
+                                          "FROM cycle WHERE cycle_id = ?1) ORDER BY card_id DESC");
     found.with({cycle});
     while (found.next())
         folders.push_back(found.text(0));

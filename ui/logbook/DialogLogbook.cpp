@@ -163,7 +163,7 @@ void DialogLogbook::setAllowed(bool isAllowed)
 
 void DialogLogbook::tell(const QString& problem)
 {
-    QStringList lines{mLasting, problem};
+    QStringList lines{mLasting, mLasting.contains(problem) ? QString() : problem};
     lines.removeAll(QString());
     mpProblem->setText(lines.join('\n'));
     mpProblem->setVisible(!lines.isEmpty());
@@ -177,8 +177,8 @@ void DialogLogbook::tellWritten(const QString& path)
 
 void DialogLogbook::tellLasting(const QString& problem)
 {
-    mLasting = problem;
-    tell({});
+    if (std::exchange(mLasting, problem) != problem)
+        tell({});
 }
 
 void DialogLogbook::showEvent(QShowEvent* pEvent)
@@ -197,6 +197,7 @@ void DialogLogbook::hideEvent(QHideEvent* pEvent)
     mLook.stop();
     mpWritten->hide();
     tellLasting({});
+    tell({});
     QDialog::hideEvent(pEvent);
 }
 

@@ -138,6 +138,8 @@ void LogbookTrends::read()
     ++mAsked;
     if (mEngine.empty())
         return fill({});
+    if (mTrends.empty())
+        mpTitle->setText(tr("Reading ..."));
     mWorker.ask(
         [engine = mEngine, context = mContext](LogbookReader& reader) {
             Trends trends;

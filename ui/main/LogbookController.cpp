@@ -123,6 +123,7 @@ void LogbookController::show()
     mpOptions->fill();
     mpDialog->setAllowed(isAllowed());
     mpDialog->show();
+    tellProblems();
     mpDialog->raise();
     mpDialog->activateWindow();
 }
@@ -172,18 +173,31 @@ void LogbookController::takeCard(bool isAgain)
 void LogbookController::tellPutAside(const QString& error)
 {
     mParts.notices.tell(tr("The logbook was damaged.\n%1").arg(error));
-    if (mpDialog)
-        mpDialog->tellLasting(error);
+    mPutAside = error;
+    tellProblems();
 }
 
-void LogbookController::slotTaken(const QString& folder, const QString& error)
+void LogbookController::tellProblems()
 {
+    QStringList problems{mPutAside, mProblem};
+    problems.removeAll(QString());
+    if (mpDialog)
+        mpDialog->tellLasting(problems.join('\n'));
+}
+
+void LogbookController::slotTaken(const QString& folder, const QString& error, const QString& unarchived)
+{
+    const QString card = QDir::toNativeSeparators(folder) + "\n";
     QString reason = error.section('\n', 0, 0);
     reason.replace(mStore, QFileInfo(mStore).fileName());
-    mParts.notices.setProblem(Notices::eLogbook, error.isEmpty() ? QString() : tr("Card not in the logbook: %1").arg(reason),
-                              QDir::toNativeSeparators(folder) + "\n" + error);
-    if (mpDialog && !error.isEmpty())
-        mpDialog->tell(error);
+    const QString unkept = error.isEmpty() ? QString() : tr("Card not in the logbook: %1");
+    const QString uncopied = unarchived.isEmpty() ? QString() : tr("Card not in the archive: %1");
+    mParts.notices.setProblem(Notices::eLogbook, unkept.isEmpty() ? unkept : unkept.arg(reason), card + error);
+    mParts.notices.setProblem(Notices::eArchive, uncopied.isEmpty() ? uncopied : uncopied.arg(unarchived.section(": ", -1)), card + unarchived);
+    QStringList problems{unkept.isEmpty() ? unkept : unkept.arg(error), uncopied.isEmpty() ? uncopied : uncopied.arg(unarchived)};
+    problems.removeAll(QString());
+    mProblem = problems.join('\n');
+    tellProblems();
     mpWorker->look();
 }
 

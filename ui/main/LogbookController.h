@@ -68,8 +68,9 @@ private:
     void slotAnswer(bool isWanted);
     void takeCard(bool isAgain = false);
     void tellPutAside(const QString& error);
+    void tellProblems();
     [[nodiscard]] bool isAllowed() const;
-    void slotTaken(const QString& folder, const QString& error);
+    void slotTaken(const QString& folder, const QString& error, const QString& unarchived);
     void askServices();
     void open(const QString& cycleId, int flight, double time);
     void openAt(const CyclePlace& place, int flight, double time);
@@ -89,6 +90,8 @@ private:
     LogbookOptions* mpOptions = nullptr;
     LogbookExport* mpExport;
     bool mIsThere = true; ///< the store
+    QString mPutAside;    ///< what became of a damaged one
+    QString mProblem;     ///< with the card that was taken last
     std::optional<Wanted> mWanted;
     std::optional<double> mWantedTime; ///< once the record is there
     LogbookIntake mIntake;

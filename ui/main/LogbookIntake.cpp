@@ -53,7 +53,7 @@ void LogbookIntake::finish()
     if (!result.putAside.empty())
         Q_EMIT signalPutAside(QString::fromStdString(result.putAside));
     if (!isCancelled)
-        Q_EMIT signalDone(folder, mTask.error().isEmpty() ? QString::fromStdString(result.error) : mTask.error());
+        Q_EMIT signalDone(folder, mTask.error().isEmpty() ? QString::fromStdString(result.error) : mTask.error(), QString::fromStdString(result.unarchived));
     if (!mFolders.isEmpty())
         begin();
 }
@@ -61,13 +61,11 @@ void LogbookIntake::finish()
 /// In a thread of its own.
 void LogbookIntake::work(const Job& job, const DecodingContext& context, Progress& progress)
 {
-    std::string& error = mResult.error;
-    error = keep(job, context, progress);
+    mResult.error = keep(job, context, progress);
     if (progress.isCancelled() || job.archive.empty())
         return;
     const Console silent([](std::string_view) {}, [](std::string_view) {}); // the window has its own lines about the same files
-    const std::string problem = CardArchive(job.archive, silent).add(job.card, progress);
-    error += (error.empty() || problem.empty() ? "" : "\n") + problem;
+    mResult.unarchived = CardArchive(job.archive, silent).add(job.card, progress);
 }
 
 std::string LogbookIntake::keep(const Job& job, const DecodingContext& context, Progress& progress)

@@ -28,8 +28,8 @@ public:
     [[nodiscard]] bool isRunning() const { return mTask.isRunning(); }
 
 Q_SIGNALS:
-    /// A card was taken in, or could not be. @param error for people; empty when it was
-    void signalDone(const QString& folder, const QString& error);
+    /// A card was taken in, or could not be. @param error for people; empty when it was. @param unarchived the same of its copy in the archive
+    void signalDone(const QString& folder, const QString& error, const QString& unarchived);
     /// The logbook was damaged, and is kept under another name, by what the error tells. The card is taken into a new one.
     void signalPutAside(const QString& error);
 
@@ -45,6 +45,7 @@ private:
     /// What became of it, for people; empty: nothing to be told.
     struct Result {
         std::string error;
+        std::string unarchived;
         std::string putAside;
     };
     void begin();

@@ -105,6 +105,11 @@ void TestLogbookWindow::logbook()
     QVERIFY(LogbookEditor(store.toStdString()).saveService({0, "DEMO-000001", "Oil <change>", 0.5, {}, {}, {}, {}}));
     QTRY_VERIFY_WITH_TIMEOUT(pOverview->findChild<QLabel*>("services")->text().startsWith("Overdue: Oil <change>, "), 10000);
 
+    // A copy that cannot be made is said as such.
+    Settings::kArchiveDir.set(desktop.property, QString("/proc/none"));
+    window.openFolder(home.filePath("SD/Pulled"));
+    QTRY_VERIFY_WITH_TIMEOUT(pLogbook->findChild<QLabel*>("warning")->text().startsWith("Card not in the archive: /proc/none"), 30000);
+    Settings::kArchive.set(desktop.property, false);
     badStores(window, *pLogbook, store, home.filePath("SD/Pulled"));
 }
 
