@@ -108,14 +108,16 @@ bool CardReader::readCycle(CardContainer& container, CycleHead head, CardFacts& 
     const std::vector<CardProblem>& problems = container.loadProblems();
     if (std::ranges::any_of(problems, [](const CardProblem& problem) { return problem.isSystemError; }))
         return false;
-    const RecordCycle& cycle = *container.loadedCycle();
+    const RecordCycle* pCycle = container.loadedCycle();
+    if (!pCycle || mProgress.isCancelled()) // in the midst of the load
+        return false;
     CycleFacts facts{std::move(head),
                      container.startTime(),
                      container.endTime(),
-                     cycle.flights,
-                     reviewCycle(container.values(), cycle.flights, container.endTime(), EKeyValues::eAll),
+                     pCycle->flights,
+                     reviewCycle(container.values(), pCycle->flights, container.endTime(), EKeyValues::eAll),
                      problems,
-                     hoursReading(container.values(), PowerUp::of(cycle))};
+                     hoursReading(container.values(), PowerUp::of(*pCycle))};
     if (!mProgress.isCancelled())
         failure = mTarget.takeLoaded(card.listing, facts, container.values());
     card.cycles.push_back(std::move(facts));

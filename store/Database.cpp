@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
+#include <fstream>
 
 #include <sqlite3.h>
 #include <sys/stat.h>
@@ -50,6 +51,15 @@ bool isEmpty(const std::string& path)
 {
     struct stat status = {};
     return ::stat(path.c_str(), &status) != 0 || status.st_size == 0;
+}
+
+/// Whether a file begins as one of SQLite does; what it says of one whose further header it does not take is the same as of any other file.
+bool hasMagic(const std::string& path)
+{
+    constexpr std::string_view kMagic("SQLite format 3", 16);
+    std::string begin(kMagic.size(), ' ');
+    std::ifstream(path, std::ios::binary).read(begin.data(), static_cast<std::streamsize>(begin.size()));
+    return begin == kMagic;
 }
 
 /// The name of a file that nobody writes.
@@ -266,6 +276,8 @@ void Database::note(int code)
 {
     if (!isGood())
         return;
+    if ((code & 0xFF) == SQLITE_NOTADB && hasMagic(mPath))
+        code = SQLITE_CORRUPT;
     const int system = mpDatabase ? sqlite3_system_errno(mpDatabase) : 0;
     switch (code & 0xFF) {
     case SQLITE_NOTADB: fail(tr("it is no store: not an SQLite file")); break;

@@ -1,6 +1,7 @@
 #include "store/LogbookEditor.h"
 
 #include "store/StoreRescue.h"
+#include "store/StoreSalvage.h"
 #include "store/StoreSchema.h"
 #include "store/StoreText.h"
 
@@ -97,6 +98,7 @@ bool LogbookEditor::setHoursBefore(const std::string& engine, std::optional<doub
 {
     return write([&] {
         mDatabase.prepared("DELETE FROM reading WHERE engine_id = ? AND source = 'typed' AND date IS NULL").with({engine}).run();
+        mDatabase.prepared("DELETE FROM problem WHERE file = ? AND card_id = (SELECT card_id FROM card WHERE path = ?)").with({engine, kLossPath}).run();
         if (hours)
             mDatabase.prepared("INSERT INTO reading (engine_id, hours, source) VALUES (?, ?, 'typed')").with({engine, *hours}).run();
     });

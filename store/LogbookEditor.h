@@ -29,7 +29,7 @@ public:
     bool removeService(int64_t id);
     /// An empty name is none.
     bool nameAircraft(const std::string& engine, const QString& name);
-    /// Hours that an engine ran before its first recording.
+    /// Hours that an engine ran before its first recording. Who enters them knows what is lost of it.
     bool setHoursBefore(const std::string& engine, std::optional<double> hours);
     /// An engine that tells no serial number is another one: what was and will be recorded of it is of that one.
     bool merge(const std::string& engine, const std::string& into);

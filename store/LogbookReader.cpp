@@ -1,6 +1,7 @@
 #include "store/LogbookReader.h"
 
 #include "store/PlacedFlights.h"
+#include "store/StoreSalvage.h"
 #include "store/StoreSchema.h"
 
 #include <QStringList>
@@ -89,10 +90,11 @@ std::vector<LogbookEngine> LogbookReader::engines()
     std::vector<LogbookEngine> engines;
     Statement& found = mDatabase.prepared(
         "SELECT engine_id, aircraft.name, engine_type, engine_serial IS NOT NULL, total(engine_running), "
-        "count(cycle_id) - count(engine_running), (SELECT count(*) FROM flight JOIN cycle AS c USING (cycle_id) WHERE c.engine_id = engine.engine_id) "
+        "count(cycle_id) - count(engine_running), EXISTS (SELECT 1 FROM problem JOIN card USING (card_id) WHERE file = engine.engine_id AND "
+        "path = ?1), (SELECT count(*) FROM flight JOIN cycle AS c USING (cycle_id) WHERE c.engine_id = engine.engine_id) "
         "FROM engine LEFT JOIN aircraft USING (engine_id) LEFT JOIN cycle USING (engine_id) "
         "WHERE engine_id NOT IN (SELECT engine_id FROM engine_merge) GROUP BY engine_id ORDER BY aircraft.name IS NULL, aircraft.name, engine_id");
-    found.with({});
+    found.with({kLossPath});
     while (found.next()) {
         LogbookEngine& engine = engines.emplace_back();
         engine.id = found.text(0);
@@ -101,10 +103,11 @@ std::vector<LogbookEngine> LogbookReader::engines()
         engine.hasSerial = found.integer(3) != 0;
         engine.running = found.real(4);
         engine.unknownCycles = static_cast<std::size_t>(found.integer(5));
-        engine.flights = static_cast<std::size_t>(found.integer(6));
+        engine.isLossy = found.integer(6) != 0;
+        engine.flights = static_cast<std::size_t>(found.integer(7));
     }
     Statement& typed = mDatabase.prepared("SELECT hours FROM reading WHERE engine_id = ? AND source = 'typed' AND date IS NULL");
-    Statement& counter = mDatabase.prepared("SELECT hours, date FROM reading WHERE source = 'unit' AND " + std::string(kSame) + " ORDER BY date DESC LIMIT 1");
+    Statement& counter = mDatabase.prepared("SELECT hours, date FROM reading WHERE source = 'unit' AND " + std::string(kSame) + " ORDER BY hours DESC, date DESC LIMIT 1"); // it never falls, while a clock may jump
     Statement& merged = mDatabase.prepared("SELECT engine_id FROM engine_merge WHERE merged_into = ? ORDER BY 1");
     for (LogbookEngine& engine : engines) {
         if (typed.with({engine.id}).next())
@@ -171,7 +174,8 @@ std::vector<LogbookNote> LogbookReader::notes(const std::string& cycle)
 std::vector<std::string> LogbookReader::foldersOf(const std::string& cycle)
 {
     std::vector<std::string> folders;
-    Statement& found = mDatabase.prepared("SELECT DISTINCT path, card_id FROM file JOIN card USING (card_id) WHERE cycle_id = ? ORDER BY card_id DESC");
+    Statement& found = mDatabase.prepared("SELECT path FROM card WHERE card_id IN (SELECT card_id FROM file WHERE cycle_id = ?1 UNION ALL SELECT card_id "
+                                          "FROM cycle WHERE cycle_id = ?1) ORDER BY card_id DESC");
     found.with({cycle});
     while (found.next())
         folders.push_back(found.text(0));

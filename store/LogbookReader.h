@@ -3,6 +3,7 @@
 #include "card/CycleNote.h"
 #include "store/LogbookIndex.h"
 #include "store/Service.h"
+#include "store/StoreReader.h"
 
 #include <span>
 
@@ -35,10 +36,11 @@ struct LogbookEngine {
     double running = 0.0;                 ///< seconds in all its cycles
     std::size_t unknownCycles = 0;        ///< that do not tell whether it ran
     std::optional<double> hoursBefore;    ///< typed: before the first recording
-    std::optional<double> counter;        ///< hours that the unit told last
+    std::optional<double> counter;        ///< most hours that the unit told
     QDateTime counterDate;
     std::vector<std::string> merged; ///< engines that the user said are this one
     bool hasSerial = false;
+    bool isLossy = false; ///< recordings of it may have been lost, and nobody has entered its hours since
 
     /// Hours before the first recording and those that it ran since.
     [[nodiscard]] double hours() const { return hoursBefore.value_or(0.0) + running / 3600; }
@@ -68,6 +70,8 @@ public:
     /// Another number when another connection has written.
     [[nodiscard]] int64_t version();
 
+    /// The same store's trends; what fails there has failed here.
+    [[nodiscard]] StoreReader trends() { return StoreReader(mDatabase); }
     [[nodiscard]] LogbookIndex& index();
     /// Those of these flights, in the same order.
     [[nodiscard]] std::vector<LogbookEntry> entries(std::span<const int64_t> flights);

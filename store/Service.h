@@ -23,17 +23,26 @@ struct Service {
 
 /// When a service has to be done.
 struct ServiceDue {
-    enum EState { eUnknown, eFine, eSoon, eOverdue };
+    enum EState {
+        eUnknown,
+        eFine,
+        eInDoubt, ///< recordings are missing: there may be fewer hours left; how many is not known of one done at more hours than the engine has
+        eSoon,
+        eOverdue
+    };
 
     EState state = eUnknown;
     std::optional<double> hoursLeft; ///< negative: so many too many
+    bool isAtMost = false;           ///< they may be less
+    std::optional<double> knownHours; ///< of the engine, where it was done at more
     QDate date;                      ///< by the months; invalid without an interval, or when it was never done
 
+    static constexpr double kRounded = 0.1; ///< hours are entered with one decimal
     static constexpr double kSoonHours = 10.0;
     static constexpr int kSoonDays = 30;
 };
 
-/// @param hours of the engine, where they are known
-[[nodiscard]] ServiceDue dueOf(const Service& service, std::optional<double> hours, const QDate& today);
+/// @param hours of the engine, where they are known. @param isLossy whether they may be more
+[[nodiscard]] ServiceDue dueOf(const Service& service, std::optional<double> hours, const QDate& today, bool isLossy = false);
 
 } // namespace ZARN

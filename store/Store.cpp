@@ -23,14 +23,16 @@ void Store::open()
         checkStoreContent(mDatabase);
 }
 
-/// A damaged store is not written any more: it is kept under another name, so that the next scan makes a sound one.
+/// A damaged store is not written any more: it is kept under another name, and what can be read of it in a new one.
 void Store::finishFailure()
 {
     mError = mDatabase.error();
     if (mDatabase.failure() != Database::eDamaged)
         return;
     mDatabase.close();
-    mError = rescueStore(mDatabase.path(), mError).error;
+    const StoreRescue rescue = rescueStore(mDatabase.path(), mError);
+    mError = rescue.error;
+    mIsDamaged = rescue.isDamaged;
 }
 
 void Store::checkPlace()

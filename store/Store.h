@@ -18,6 +18,8 @@ public:
 
     /// "PATH: reason" when it cannot be used (any more); else empty.
     [[nodiscard]] const std::string& error() const { return mError; }
+    /// Whether that was damage: the store was put aside, and a new one can be opened.
+    [[nodiscard]] bool isDamaged() const { return mIsDamaged; }
 
     bool isCurrent(const CardListing& listing) override;
     bool hasCycle(const CycleHead& cycle, std::vector<CardProblem>& told) override;
@@ -40,6 +42,7 @@ private:
     std::mutex mGuard;
     Database mDatabase;
     std::string mError;
+    bool mIsDamaged = false;
 };
 
 } // namespace ZARN

@@ -17,7 +17,7 @@ TrendPoint::Place placeOf(const Statement& row)
 
 } // namespace
 
-StoreReader::StoreReader(const std::string& path) : mDatabase(path, Database::eRead)
+StoreReader::StoreReader(const std::string& path) : mOwn(std::in_place, path, Database::eRead), mDatabase(*mOwn)
 {
     if (mDatabase.isGood())
         StoreSchema::check(mDatabase);

@@ -16,6 +16,8 @@ class StoreReader {
 public:
     /// A file that is no store of the present form is an error.
     explicit StoreReader(const std::string& path);
+    /// Reads one that is open, and has the present form.
+    explicit StoreReader(Database& database) : mDatabase(database) {}
 
     /// "PATH: reason" of the first failure; else empty.
     [[nodiscard]] const std::string& error() const { return mDatabase.error(); }
@@ -29,7 +31,8 @@ public:
     [[nodiscard]] std::vector<TrendPoint::Place> places(const std::string& engine, const std::string& cycle);
 
 private:
-    Database mDatabase;
+    std::optional<Database> mOwn;
+    Database& mDatabase;
 };
 
 } // namespace ZARN

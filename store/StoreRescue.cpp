@@ -1,14 +1,16 @@
 #include "store/StoreRescue.h"
 
 #include "store/Database.h"
-#include "store/StoreSchema.h"
+#include "store/StoreSalvage.h"
 #include "store/StoreText.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
 
-#include <algorithm>
+#include <cerrno>
 #include <cstdio>
+#include <cstring>
+#include <mutex>
 
 #include <sys/stat.h>
 
@@ -16,69 +18,10 @@ namespace ZARN {
 
 namespace {
 
-/// A table with what people typed.
-struct TypedTable {
-    const char* name;
-    const char* columns;
-    int engine;       ///< the column that names an engine; negative: none
-    const char* rest; ///< which of its rows
-};
-
-constexpr TypedTable kTables[] = {
-    {"engine", "engine_id, engine_serial, ecu_serial, engine_type, ecu_type", -1, ""},
-    {"service", "service_id, engine_id, name, every_hours, every_months, done_hours, done_date, note", 1, ""},
-    {"reading", "engine_id, date, hours, source", 0, " WHERE source = 'typed'"},
-    {"note", "note_id, cycle_id, time, text, written", -1, ""},
-    {"aircraft", "engine_id, name", 0, ""},
-    {"engine_merge", "engine_id, merged_into", 1, ""},
-};
-
-/// The rows that come before the damage.
-std::vector<Row> legibleRows(const std::string& path, const TypedTable& table)
+bool isThere(const std::string& path)
 {
-    std::vector<Row> rows;
-    Database damaged(path, Database::eReadOnly); // a new one each time, for a failure ends it
-    Statement read(damaged, "SELECT " + std::string(table.columns) + " FROM " + table.name + table.rest);
-    const auto columns = std::ranges::count(std::string_view(table.columns), ',') + 1;
-    while (read.next()) {
-        Row& row = rows.emplace_back();
-        for (int column = 0; column < columns; ++column)
-            row.push_back(read.value(column));
-    }
-    return rows;
-}
-
-void insertRows(Database& fresh, const TypedTable& table, const std::vector<Row>& rows)
-{
-    std::string places = "?";
-    for (auto comma = std::ranges::count(std::string_view(table.columns), ','); comma > 0; --comma)
-        places += ", ?";
-    Statement insert(fresh, "INSERT OR IGNORE INTO " + std::string(table.name) + " (" + table.columns + ") VALUES (" + places + ")");
-    Statement engine(fresh, "INSERT OR IGNORE INTO engine (engine_id) VALUES (?)");
-    for (const Row& row : rows) {
-        if (table.engine >= 0)
-            engine.with({row[static_cast<std::size_t>(table.engine)]}).run();
-        insert.with(row).run();
-    }
-}
-
-/// @return how many rows; without any no new store is made
-std::size_t rescueTyped(const std::string& damaged, const std::string& fresh)
-{
-    std::vector<std::vector<Row>> legible;
-    std::size_t typed = 0;
-    for (const TypedTable& table : kTables) {
-        legible.push_back(legibleRows(damaged, table));
-        typed += legible.size() > 1 ? legible.back().size() : 0; // engines alone are no loss
-    }
-    if (typed == 0)
-        return 0;
-    Database database(fresh, Database::eReadWrite);
-    StoreSchema::bringUp(database);
-    Transaction transaction(database);
-    for (std::size_t i = 0; i < legible.size(); ++i)
-        insertRows(database, kTables[i], legible[i]);
-    return transaction.commit() ? typed : 0;
+    struct stat status = {};
+    return ::stat(path.c_str(), &status) == 0;
 }
 
 QString translated(const char* text)
@@ -86,23 +29,58 @@ QString translated(const char* text)
     return QCoreApplication::translate("ZARN::Store", text);
 }
 
-/// Under another name, so that the next scan makes a sound one.
-std::string putAside(const std::string& path)
+/// Moves a file, and those beside it that belong to it, to a name that nothing has.
+std::string moveAside(const std::string& path)
 {
-    const std::string aside = path + ".damaged-" + QDateTime::currentDateTime().toString("yyyyMMdd-hhmmss").toStdString();
+    const std::string stem = path + ".damaged-" + QDateTime::currentDateTime().toString("yyyyMMdd-hhmmss").toStdString();
+    std::string aside = stem;
+    for (int number = 2; isThere(aside); ++number)
+        aside = stem + "-" + std::to_string(number);
     bool isAside = std::rename(path.c_str(), aside.c_str()) == 0;
     for (const char* companion : {"-wal", "-shm"}) {
-        struct stat status = {};
-        if (isAside && ::stat((path + companion).c_str(), &status) == 0)
+        if (isAside && isThere(path + companion))
             isAside = std::rename((path + companion).c_str(), (aside + companion).c_str()) == 0;
     }
-    if (!isAside)
-        return {};
-    QString told = translated(QT_TRANSLATE_NOOP("ZARN::Store", "; it was put aside as %1, and the next scan makes it anew"))
-                       .arg(QString::fromStdString(storeText(aside)));
-    if (const std::size_t rows = rescueTyped(aside, path))
-        told += translated(QT_TRANSLATE_NOOP("ZARN::Store", "; rows of notes, services and readings that were kept: %1")).arg(rows);
-    return told.toStdString();
+    return isAside ? aside : std::string();
+}
+
+QString keptText(const StoreSalvage& kept)
+{
+    if (kept.isEmpty() && !kept.isWhole)
+        return translated(QT_TRANSLATE_NOOP("ZARN::Store", "; nothing of it could be read: recordings come back when their cards are opened or scanned "
+                                                           "again, and what was typed (notes, services, hours before) has to be typed again"));
+    QString text = translated(QT_TRANSLATE_NOOP("ZARN::Store", "; a new one has what could be read of it: cycles %1, flights %2, notes %3, services %4, "
+                                                               "typed hours %5"))
+                       .arg(kept.cycles).arg(kept.flights).arg(kept.notes).arg(kept.services).arg(kept.readings);
+    if (kept.lostCycles > 0)
+        text += translated(QT_TRANSLATE_NOOP("ZARN::Store", "; cycles without their engine hours: %1")).arg(kept.lostCycles);
+    if (!kept.isWhole)
+        text += translated(QT_TRANSLATE_NOOP("ZARN::Store", "; what was in the damaged part is missing: recordings, and the engine hours in them, until "
+                                                            "their cards are opened or scanned again, and what was typed"));
+    return text;
+}
+
+/// Under another name, and what can be read of it in its place. Where no new one can be made it stays. @param error is added to
+/// @return whether it was put aside
+bool putAside(const std::string& path, std::string& error)
+{
+    const std::string fresh = path + ".new"; // until it is whole: nobody may write into it before
+    std::remove(fresh.c_str());
+    const StoreSalvage kept = salvageStore(path, fresh);
+    const std::string aside = kept.error.empty() ? moveAside(path) : std::string();
+    const bool isRenewed = !aside.empty() && std::rename(fresh.c_str(), path.c_str()) == 0;
+    const std::string reason = kept.error.empty() ? std::strerror(errno) : kept.error;
+    if (!aside.empty())
+        error += translated(QT_TRANSLATE_NOOP("ZARN::Store", "; it was put aside as %1")).arg(QString::fromStdString(storeText(aside))).toStdString();
+    if (isRenewed)
+        error += keptText(kept).toStdString();
+    else
+        error += translated(QT_TRANSLATE_NOOP("ZARN::Store", "; what can be read of it could not be taken over into a new one: %1"))
+                     .arg(QString::fromStdString(reason))
+                     .toStdString();
+    if (!isRenewed)
+        std::remove(fresh.c_str());
+    return !aside.empty();
 }
 
 /// The second look: what a medium did not give once is no damage.
@@ -124,8 +102,13 @@ void checkStoreContent(Database& database)
 
 StoreRescue rescueStore(const std::string& path, const std::string& error)
 {
-    if (isDamaged(path))
-        return {error + putAside(path), true};
+    static std::mutex guard; // several threads may meet the same damage: the second one finds it mended
+    const std::lock_guard lock(guard);
+    if (isDamaged(path)) {
+        StoreRescue rescue{error, false};
+        rescue.isDamaged = putAside(path, rescue.error);
+        return rescue;
+    }
     return {path + ": " + translated(QT_TRANSLATE_NOOP("ZARN::Store", "it could not be read; nothing is wrong with it")).toStdString(),
             false};
 }

@@ -12,8 +12,8 @@ struct StoreRescue {
     bool isDamaged = false; ///< it was put aside
 };
 
-/// Looks a second time, and puts a damaged store aside under another name. What people typed into it is kept in a new one as far as it can be
-/// read. @param error what was found first; nobody may have the store open here
+/// Looks a second time, and puts a damaged store aside under another name. A new one takes its place, with all that can be read of it.
+/// @param error what was found first; the caller may not have the store open
 [[nodiscard]] StoreRescue rescueStore(const std::string& path, const std::string& error);
 
 /// Fails the database where its content is not sound.

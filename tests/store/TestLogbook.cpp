@@ -4,6 +4,7 @@
 #include "store/LogbookReader.h"
 #include "store/NormalBands.h"
 #include "store/Service.h"
+#include "store/Store.h"
 #include "store/StoreSchema.h"
 #include "ui/logbook/model/LogbookCsv.h"
 
@@ -17,6 +18,13 @@ namespace {
 
 /// Least, 5 %, median, 95 % and greatest of each.
 using Flights = std::vector<std::array<double, 5>>;
+
+const std::string kManyFlights = R"sql(
+WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 3000)
+INSERT INTO cycle (cycle_id, engine_id, card_id, number, date_time, engine_running)
+    SELECT 'n' || i, 'E1', 1, i + 2, date('2025-06-01', i || ' minutes'), 60 FROM n;
+INSERT INTO flight (flight_id, cycle_id, number, date_time) SELECT number + 100, cycle_id, 1, date_time FROM cycle WHERE cycle_id LIKE 'n%';
+)sql";
 
 } // namespace
 
@@ -37,6 +45,8 @@ private Q_SLOTS:
     void percentiles();
     void bandsOfEarlierFlights();
     void formulasAreText();
+    void rescues_data();
+    void rescues();
     void badStores_data();
     void badStores();
 
@@ -134,7 +144,8 @@ void TestLogbook::keepsWhatWasTyped()
 {
     LogbookEditor editor(mPath);
     QVERIFY(editor.setHoursBefore("E1", 100.0) && editor.setHoursBefore("E1", 812.5) && editor.nameAircraft("card:x", " D-1234 "));
-    fill("INSERT INTO reading VALUES ('E1', '2025-04-01T00:00:00', 811, 'unit'), ('E1', '2025-05-01T00:00:00', 814.25, 'unit')");
+    fill("INSERT INTO reading VALUES ('E1', '2025-04-01T00:00:00', 811, 'unit'), ('E1', '2025-05-01T00:00:00', 814.25, 'unit'), "
+         "('E1', '2030-01-01T00:00:00', 813, 'unit')");
     QVERIFY(editor.saveNote("a", {0, 2.5, "first", QDateTime::currentDateTime()}));
     Service service{0, "E1", "Oil", 50.0, 12, 800.0, QDate(2025, 1, 31), {}};
     QVERIFY(editor.saveService(service));
@@ -142,7 +153,7 @@ void TestLogbook::keepsWhatWasTyped()
     const LogbookEngine engine = reader.engines()[1];
     QCOMPARE(engine.aircraft, std::string("D-KÜST"));
     QCOMPARE(engine.hours(), 814.5);
-    QCOMPARE(engine.counter, std::optional(814.25)); // the latest
+    QCOMPARE(engine.counter, std::optional(814.25)); // though the clock jumped back
     QCOMPARE(engine.unknownCycles, 1u);
     service = reader.services("E1").at(0);
     QVERIFY(service.everyHours == 50.0 && service.everyMonths == 12 && service.doneHours == 800.0 && service.doneDate == QDate(2025, 1, 31));
@@ -181,6 +192,8 @@ void TestLogbook::services_data()
     row("ten hours before", {0, {}, {}, 50.0, {}, 100.0, done, {}}, 140.0, ServiceDue::eSoon);
     row("at the hour", {0, {}, {}, 50.0, {}, 100.0, done, {}}, 150.0, ServiceDue::eOverdue);
     row("never done", {0, {}, {}, 50.0, {}, {}, none, {}}, 60.0, ServiceDue::eOverdue);
+    row("done at more hours than there are", {0, {}, {}, 50.0, {}, 900.0, done, {}}, 812.5, ServiceDue::eInDoubt);
+    row("done now, rounded", {0, {}, {}, 50.0, {}, 812.6, done, {}}, 812.55, ServiceDue::eFine);
     row("by months, the end of February", {0, {}, {}, {}, 13, {}, done, {}}, 0.0, ServiceDue::eFine);
     row("by months, thirty days before", {0, {}, {}, {}, 4, {}, done, {}}, 0.0, ServiceDue::eSoon);
     row("by months, the day after", {0, {}, {}, {}, 1, {}, done, {}}, 0.0, ServiceDue::eOverdue);
@@ -265,6 +278,42 @@ void TestLogbook::formulasAreText()
     const QStringList expected{"'=1+1", "'+1+cmd", "-5.5", "'@x", "\"a;\"\"b\"\"\""};
     for (int i = 0; i < expected.size(); ++i)
         QCOMPARE(lines[i + 1], ";00:00:01.000;" + expected[i] + ";;'-E;;;");
+}
+
+void TestLogbook::rescues_data()
+{
+    QTest::addColumn<QByteArray>("place"); // whose page is damaged
+    QTest::addColumn<int>("left");         // bytes of the file in a hundred
+    QTest::addColumn<std::size_t>("least"); // flights that are kept
+    QTest::newRow("cycles in the midst, known by the indexes") << QByteArray("n1500E1") << 100 << std::size_t{3004};
+    QTest::newRow("flights in the midst") << QByteArray("n15002025-06") << 100 << std::size_t{2900};
+    QTest::newRow("the end is cut off") << QByteArray() << 90 << std::size_t{2000};
+    QTest::newRow("the first page") << QByteArray("SQLite format 3") << 100 << std::size_t{3004};
+    QTest::newRow("what tells of the tables") << QByteArray("engine_serial TEXT, ecu") << 100 << std::size_t{0};
+}
+
+void TestLogbook::rescues()
+{
+    QFETCH(QByteArray, place);
+    QFETCH(int, left);
+    QFETCH(std::size_t, least);
+    fill("INSERT INTO service (engine_id, name, every_hours, done_hours) VALUES ('E1', 'Oil', 5000, 0);" + kManyFlights);
+    QFile file(QString::fromStdString(mPath));
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    const qint64 page = file.readAll().indexOf(place) / 4096 * 4096;
+    QVERIFY(place.isEmpty() ? file.resize(file.size() * left / 100) : file.seek(page + (page == 0 ? 20 : 0)) && file.write(QByteArray(2000, 'U')) == 2000);
+    file.close();
+    const Store store(mPath, {});
+    QVERIFY2(store.isDamaged() && (QString::fromStdString(store.error()).contains("nothing of it could be read") == (least == 0)), store.error().c_str());
+    LogbookReader reader(mPath);
+    QVERIFY2(reader.index().select({}, ELogbookOrder::eDate, true).flights.size() >= least, reader.error().c_str());
+    const bool areCyclesHurt = place.endsWith("E1"); // so that an engine may have run more than is known
+    for (const LogbookEngine& engine : reader.engines()) {
+        QCOMPARE(engine.isLossy, areCyclesHurt);
+        for (const Service& service : reader.services(engine.id))
+            QCOMPARE(dueOf(service, engine.hours(), QDate(2025, 5, 1), engine.isLossy).state, areCyclesHurt ? ServiceDue::eInDoubt : ServiceDue::eFine);
+    }
+    QVERIFY(least == 0 || (reader.services("E1").size() == 1 && LogbookEditor(mPath).setHoursBefore("E1", 10.0) && !reader.engines()[0].isLossy));
 }
 
 void TestLogbook::badStores_data()

@@ -149,11 +149,12 @@ def check_bad_stores(work, card):
         for row in rows(damaged, "SELECT rootpage FROM sqlite_master WHERE name IN ('key_value', 'episode')"):
             file.seek((row['rootpage'] - 1) * 4096)
             file.write(b'\x55' * 64)
-    refused(card, damaged, 'readings that were kept: 1')
+    refused(card, damaged, 'cycles 3, flights 2, notes 0, services 0, typed hours 1; what was in the damaged part')
     aside, = [name for name in os.listdir(work) if 'sqlite.damaged-' in name and name[-4:] not in ('-wal', '-shm')]
     assert os.path.getsize(f'{work}/{aside}') > 4096
     run('scan', card, '-o', damaged)
-    assert sorted(dump(damaged)) == sorted(dump(locked))
+    check_values(damaged, card)
+    assert len(dump(damaged)) == len(dump(locked))  # the numbers of rows are others
     change(locked, 'DELETE FROM problem', 'DELETE FROM file')
     with contextlib.closing(sqlite3.connect(locked, isolation_level=None)) as database:
         database.execute('BEGIN IMMEDIATE')

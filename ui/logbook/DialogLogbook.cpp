@@ -43,7 +43,7 @@ DialogLogbook::DialogLogbook(LogbookWorker& worker, QWidget* pOptions, QWidget* 
         pLabel->hide();
         pLayout->addWidget(pLabel);
     }
-    mpEmpty->setText(tr("Nothing is kept yet. Cards that you open are taken in once you allow it on the page \"Options\"."));
+    setAllowed(false);
     mpPages->addTab(mpFlights, tr("Flights"));
     mpPages->addTab(mpTrends, tr("Trends"));
     mpPages->addTab(mpEngines, tr("Engines and services"));
@@ -81,10 +81,7 @@ void DialogLogbook::connectPages()
     connect(mpEngine, &QComboBox::currentIndexChanged, this, &DialogLogbook::setEngine);
     connect(&mWorker, &LogbookWorker::signalChanged, this, &DialogLogbook::reload);
     connect(&mWorker, &LogbookWorker::signalFailed, this, &DialogLogbook::tell);
-    connect(&mWorker, &LogbookWorker::signalPutAside, this, &DialogLogbook::tellLasting);
-    connect(&mWorker, &LogbookWorker::signalFound, this, [this](bool isThere) {
-        mpEmpty->setVisible(!isThere && mpFlights->model().flights().empty()); // what was removed is still shown
-    });
+    connect(&mWorker, &LogbookWorker::signalFound, this, &DialogLogbook::setIsThere);
     connect(mpFlights, &LogbookFlights::signalOpen, this, [this](const QString& cycle, int flight) { Q_EMIT signalOpen(cycle, flight, NAN); });
     connect(mpFlights, &LogbookFlights::signalHiddenColumns, this, &DialogLogbook::signalHiddenColumns);
     connect(mpTrends, &LogbookTrends::signalOpen, this, [this](const QString& cycle, int flight) { Q_EMIT signalOpen(cycle, flight, NAN); });
@@ -153,9 +150,20 @@ void DialogLogbook::setHiddenColumns(const QStringList& keys)
     mpFlights->setHiddenColumns(keys);
 }
 
+void DialogLogbook::setIsThere(bool isThere)
+{
+    mpEmpty->setVisible(!isThere && mpFlights->model().flights().empty()); // what was removed is still shown
+}
+
+void DialogLogbook::setAllowed(bool isAllowed)
+{
+    mpEmpty->setText(isAllowed ? tr("Nothing is kept yet. Cards that you open are taken in.")
+                               : tr("Nothing is kept yet. Cards that you open are taken in once you allow it on the page \"Options\"."));
+}
+
 void DialogLogbook::tell(const QString& problem)
 {
-    QStringList lines{mLasting, problem};
+    QStringList lines{mLasting, mLasting.contains(problem) ? QString() : problem};
     lines.removeAll(QString());
     mpProblem->setText(lines.join('\n'));
     mpProblem->setVisible(!lines.isEmpty());
@@ -169,15 +177,15 @@ void DialogLogbook::tellWritten(const QString& path)
 
 void DialogLogbook::tellLasting(const QString& problem)
 {
-    mLasting = problem;
-    tell({});
+    if (std::exchange(mLasting, problem) != problem)
+        tell({});
 }
 
 void DialogLogbook::showEvent(QShowEvent* pEvent)
 {
     QDialog::showEvent(pEvent);
     const bool isThere = QFileInfo::exists(mWorker.path());
-    mpEmpty->setVisible(!isThere);
+    setIsThere(isThere);
     if (isThere && !std::exchange(mIsShown, true)) // others may have opened the store before
         reload();
     mWorker.look();
@@ -189,6 +197,7 @@ void DialogLogbook::hideEvent(QHideEvent* pEvent)
     mLook.stop();
     mpWritten->hide();
     tellLasting({});
+    tell({});
     QDialog::hideEvent(pEvent);
 }
 

@@ -30,6 +30,8 @@ public:
     void setContext(const DecodingContext& context);
     /// The columns of the flights that are not shown.
     void setHiddenColumns(const QStringList& keys);
+    /// Whether cards that are opened are taken in.
+    void setAllowed(bool isAllowed);
     /// What went wrong, until the store can be read again; empty: nothing.
     void tell(const QString& problem);
     /// The same until the window is closed.
@@ -53,6 +55,7 @@ protected:
 private:
     QWidget* createHead();
     void connectPages();
+    void setIsThere(bool isThere);
     void reload();
     void fillEngines(const std::vector<LogbookEngine>& engines);
     void setEngine();

@@ -5,6 +5,7 @@
 #include <QDialogButtonBox>
 #include <QDoubleSpinBox>
 #include <QFormLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSpinBox>
@@ -27,10 +28,10 @@ QDoubleSpinBox* hoursField(double hours)
 
 } // namespace
 
-DialogService::DialogService(Service service, QWidget* pParent)
+DialogService::DialogService(Service service, double hours, const QString& problem, QWidget* pParent)
     : QDialog(pParent), mService(std::move(service)), mpName(new QLineEdit(mService.name)), mpByHours(new QCheckBox(tr("Every"))),
       mpHours(hoursField(mService.everyHours.value_or(100.0))), mpByMonths(new QCheckBox(tr("Every"))), mpMonths(new QSpinBox),
-      mpIsDone(new QCheckBox(tr("Was done at"))), mpDoneHours(hoursField(mService.doneHours.value_or(0.0))), mpDoneDate(new QDateEdit),
+      mpIsDone(new QCheckBox(tr("Was done at"))), mpDoneHours(hoursField(mService.doneHours.value_or(hours))), mpDoneDate(new QDateEdit),
       mpNote(new QLineEdit(mService.note))
 {
     setWindowTitle(tr("Service"));
@@ -48,6 +49,13 @@ DialogService::DialogService(Service service, QWidget* pParent)
     mpHours->setAccessibleName(tr("Interval in engine hours"));
     mpMonths->setAccessibleName(tr("Interval in months"));
     auto* pForm = new QFormLayout(this);
+    if (!problem.isEmpty()) {
+        auto* pProblem = new QLabel(tr("It could not be kept: %1").arg(problem));
+        pProblem->setObjectName("warning");
+        pProblem->setTextFormat(Qt::PlainText);
+        pProblem->setWordWrap(true);
+        pForm->addRow(pProblem);
+    }
     pForm->addRow(tr("Name"), mpName);
     pForm->addRow(mpByHours, mpHours);
     pForm->addRow(mpByMonths, mpMonths);

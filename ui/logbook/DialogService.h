@@ -18,7 +18,8 @@ class DialogService : public QDialog {
     Q_OBJECT
 
 public:
-    explicit DialogService(Service service, QWidget* pParent = nullptr);
+    /// @param hours of the engine now. @param problem with what was entered before; empty: none
+    DialogService(Service service, double hours, const QString& problem, QWidget* pParent = nullptr);
 
     /// What was entered.
     [[nodiscard]] Service service() const;

@@ -45,6 +45,7 @@ void setRow(QTableWidget& table, int row, const QStringList& texts, bool isBold 
         QFont font = pItem->font();
         font.setBold(isBold);
         pItem->setFont(font);
+        pItem->setToolTip("<span>" + texts[column].toHtmlEscaped() + "</span>"); // a narrow column shows its beginning
         table.setItem(row, column, pItem);
     }
 }
@@ -83,7 +84,7 @@ void LogbookEngines::createEngineTable()
 void LogbookEngines::createServiceTable()
 {
     const int letter = fontMetrics().horizontalAdvance('x');
-    for (const auto& [column, letters] : {std::pair(0, 22), {1, 24}, {2, 24}, {3, 42}})
+    for (const auto& [column, letters] : {std::pair(0, 22), {1, 22}, {2, 24}, {3, 52}})
         mpServices->setColumnWidth(column, letters * letter);
     connect(mpServices, &QTableWidget::itemSelectionChanged, this, &LogbookEngines::update);
     connect(mpServices, &QTableWidget::cellActivated, this, [this](int row) { askService(mServices[static_cast<std::size_t>(row)]); });
@@ -198,7 +199,8 @@ void LogbookEngines::fillServices(std::vector<Service> services)
     mpServices->clearSelection();
     for (int row = 0; row < static_cast<int>(mServices.size()); ++row) {
         const Service& service = mServices[static_cast<std::size_t>(row)];
-        const ServiceDue due = dueOf(service, pEngine ? std::optional(pEngine->hours()) : std::nullopt, QDate::currentDate());
+        const ServiceDue due =
+            dueOf(service, pEngine ? std::optional(pEngine->hours()) : std::nullopt, QDate::currentDate(), pEngine && pEngine->isLossy);
         QStringList done;
         if (service.doneHours)
             done.append(LogbookTexts::hours(*service.doneHours) + " h");
@@ -206,7 +208,7 @@ void LogbookEngines::fillServices(std::vector<Service> services)
             done.append(LogbookTexts::date(service.doneDate));
         const QString state = due.state == ServiceDue::eOverdue ? tr("overdue: %1") : due.state == ServiceDue::eSoon ? tr("soon: %1") : QStringLiteral("%1");
         setRow(*mpServices, row, {service.name, LogbookTexts::interval(service), done.isEmpty() ? tr("never") : done.join(", "),
-                                  state.arg(LogbookTexts::due(due)), service.note}, due.state >= ServiceDue::eSoon);
+                                  state.arg(LogbookTexts::due(service, due)), service.note}, due.state >= ServiceDue::eInDoubt);
         if (service.id == chosen)
             mpServices->selectRow(row);
     }
@@ -291,11 +293,18 @@ void LogbookEngines::askSeparate()
         edit([merged = all[static_cast<std::size_t>(names.indexOf(name))]](LogbookEditor& editor) { editor.separate(merged); });
 }
 
-void LogbookEngines::askService(Service service)
+/// @param problem why what was entered could not be kept; it is asked for again then
+void LogbookEngines::askService(const Service& service, const QString& problem)
 {
-    DialogService dialog(service, this);
-    if (dialog.exec() == QDialog::Accepted)
-        edit([kept = dialog.service()](LogbookEditor& editor) { editor.saveService(kept); });
+    const LogbookEngine* pEngine = engine();
+    DialogService dialog(service, pEngine ? pEngine->hours() : 0.0, problem, this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    mWorker.edit([kept = dialog.service()](LogbookEditor& editor) { editor.saveService(kept); },
+                 [this, kept = dialog.service()](const QString& error) {
+                     if (!error.isEmpty())
+                         askService(kept, error);
+                 });
 }
 
 void LogbookEngines::noteDone()

@@ -41,7 +41,7 @@ private:
     void askHours();
     void askMerge();
     void askSeparate();
-    void askService(Service service);
+    void askService(const Service& service, const QString& problem = {});
     void noteDone();
     void removeService();
     void edit(const std::function<void(LogbookEditor&)>& work);

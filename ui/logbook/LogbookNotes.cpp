@@ -33,7 +33,7 @@ LogbookNotes::LogbookNotes(LogbookWorker& worker, QWidget* pParent)
     mpTable->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     const int letter = fontMetrics().horizontalAdvance('x');
     for (const auto& [column, letters] : {std::pair(0, 40), {1, 28}, {2, 20}})
-        mpTable->setColumnWidth(column, letters * letter);
+        mpTable->setColumnWidth(column, std::max(letters * letter, mpTable->horizontalHeader()->sectionSizeHint(column)));
     mpHint->setObjectName("quiet");
     mpHint->setWordWrap(true);
     auto* pRow = new QHBoxLayout;

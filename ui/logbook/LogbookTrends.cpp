@@ -138,11 +138,12 @@ void LogbookTrends::read()
     ++mAsked;
     if (mEngine.empty())
         return fill({});
+    if (mTrends.empty())
+        mpTitle->setText(tr("Reading ..."));
     mWorker.ask(
-        [engine = mEngine, path = mWorker.path(), context = mContext](LogbookReader&) {
-            StoreReader store(encodeFileName(path));
+        [engine = mEngine, context = mContext](LogbookReader& reader) {
             Trends trends;
-            for (Trend& trend : store.trends(engine)) {
+            for (Trend& trend : reader.trends().trends(engine)) {
                 JudgedTrend judged{std::move(trend), {}};
                 judged.judgements = judgeTrend(judged.trend, 1);
                 trends.push_back(std::make_shared<const JudgedTrend>(shownIn(std::move(judged), context)));

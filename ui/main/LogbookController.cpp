@@ -68,9 +68,14 @@ LogbookController::LogbookController(const Session& session, const Parts& parts,
     connect(&mIntake, &LogbookIntake::signalDone, this, &LogbookController::slotTaken);
     connect(mpWorker.get(), &LogbookWorker::signalChanged, this, &LogbookController::askServices);
     connect(mpWorker.get(), &LogbookWorker::signalPutAside, this, [this](const QString& error) {
-        mParts.notices.tell(tr("The logbook was damaged.\n%1").arg(error));
-        takeCard(); // what is at hand is kept again
+        tellPutAside(error);
+        takeCard(true); // what is at hand is kept again
     });
+    connect(mpWorker.get(), &LogbookWorker::signalFound, this, [this](bool isThere) {
+        if (!std::exchange(mIsThere, isThere) && isThere) // a note makes one, too
+            takeCard();
+    });
+    connect(&mIntake, &LogbookIntake::signalPutAside, this, &LogbookController::tellPutAside);
     connect(mpExport, &LogbookExport::signalWritten, this, [this](const QString& path) {
         mpDialog->tellWritten(path);
         Q_EMIT signalWritten(path);
@@ -116,7 +121,9 @@ void LogbookController::show()
     if (!mpDialog)
         createWindow();
     mpOptions->fill();
+    mpDialog->setAllowed(isAllowed());
     mpDialog->show();
+    tellProblems();
     mpDialog->raise();
     mpDialog->activateWindow();
 }
@@ -149,18 +156,48 @@ void LogbookController::slotAnswer(bool isWanted)
     takeCard();
 }
 
-void LogbookController::takeCard()
+bool LogbookController::isAllowed() const
 {
-    const QString folder = mSession.container.path();
-    if (Settings::kLogbook.get(mSession.property) == eLogbookYes && QFileInfo(folder).isDir() && !mSession.container.recordCycles().empty() && !isDemo())
-        mIntake.take(folder);
+    return Settings::kLogbook.get(mSession.property) == eLogbookYes;
 }
 
-void LogbookController::slotTaken(const QString& folder, const QString& error)
+void LogbookController::takeCard(bool isAgain)
 {
-    mParts.notices.setProblem(Notices::eLogbook, error.isEmpty() ? QString() : tr("Card not in the logbook"), QDir::toNativeSeparators(folder) + "\n" + error);
-    if (mpDialog && !error.isEmpty())
-        mpDialog->tell(error);
+    if (mpDialog)
+        mpDialog->setAllowed(isAllowed());
+    const QString folder = mSession.container.path();
+    if (isAllowed() && QFileInfo(folder).isDir() && !mSession.container.recordCycles().empty() && !isDemo())
+        mIntake.take(folder, isAgain);
+}
+
+void LogbookController::tellPutAside(const QString& error)
+{
+    mParts.notices.tell(tr("The logbook was damaged.\n%1").arg(error));
+    mPutAside = error;
+    tellProblems();
+}
+
+void LogbookController::tellProblems()
+{
+    QStringList problems{mPutAside, mProblem};
+    problems.removeAll(QString());
+    if (mpDialog)
+        mpDialog->tellLasting(problems.join('\n'));
+}
+
+void LogbookController::slotTaken(const QString& folder, const QString& error, const QString& unarchived)
+{
+    const QString card = QDir::toNativeSeparators(folder) + "\n";
+    QString reason = error.section('\n', 0, 0);
+    reason.replace(mStore, QFileInfo(mStore).fileName());
+    const QString unkept = error.isEmpty() ? QString() : tr("Card not in the logbook: %1");
+    const QString uncopied = unarchived.isEmpty() ? QString() : tr("Card not in the archive: %1");
+    mParts.notices.setProblem(Notices::eLogbook, unkept.isEmpty() ? unkept : unkept.arg(reason), card + error);
+    mParts.notices.setProblem(Notices::eArchive, uncopied.isEmpty() ? uncopied : uncopied.arg(unarchived.section(": ", -1)), card + unarchived);
+    QStringList problems{unkept.isEmpty() ? unkept : unkept.arg(error), uncopied.isEmpty() ? uncopied : uncopied.arg(unarchived)};
+    problems.removeAll(QString());
+    mProblem = problems.join('\n');
+    tellProblems();
     mpWorker->look();
 }
 
@@ -182,7 +219,7 @@ void LogbookController::askServices()
                 if (!wanted.contains(engine.id))
                     continue;
                 for (const Service& service : reader.services(engine.id)) {
-                    const ServiceDue due = dueOf(service, engine.hours(), QDate::currentDate());
+                    const ServiceDue due = dueOf(service, engine.hours(), QDate::currentDate(), engine.isLossy);
                     if (const QString text = LogbookTexts::warning(service, due); !text.isEmpty())
                         texts.append(wanted.size() > 1 ? LogbookTexts::engine(engine.id, engine.aircraft) + ": " + text : text);
                 }
@@ -209,6 +246,8 @@ CardReviewer::Supplement LogbookController::supplement() const
             overview.notes.push_back(note.note);
         if (!overview.flights.empty())
             overview.unusual = unusualTexts(store, head, overview, card.values().context());
+        if (!store.error().empty()) // judged by a part of the flights
+            overview.unusual.clear();
     };
 }
 

@@ -66,8 +66,11 @@ private:
     void createWindow();
     void slotCard();
     void slotAnswer(bool isWanted);
-    void takeCard();
-    void slotTaken(const QString& folder, const QString& error);
+    void takeCard(bool isAgain = false);
+    void tellPutAside(const QString& error);
+    void tellProblems();
+    [[nodiscard]] bool isAllowed() const;
+    void slotTaken(const QString& folder, const QString& error, const QString& unarchived);
     void askServices();
     void open(const QString& cycleId, int flight, double time);
     void openAt(const CyclePlace& place, int flight, double time);
@@ -86,6 +89,9 @@ private:
     LogbookBar* mpBar;
     LogbookOptions* mpOptions = nullptr;
     LogbookExport* mpExport;
+    bool mIsThere = true; ///< the store
+    QString mPutAside;    ///< what became of a damaged one
+    QString mProblem;     ///< with the card that was taken last
     std::optional<Wanted> mWanted;
     std::optional<double> mWantedTime; ///< once the record is there
     LogbookIntake mIntake;

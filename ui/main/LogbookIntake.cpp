@@ -20,9 +20,9 @@ LogbookIntake::LogbookIntake(const Session& session, QString store, QObject* pPa
     connect(&mTask, &BackgroundTask::signalFinished, this, &LogbookIntake::finish);
 }
 
-void LogbookIntake::take(const QString& folder)
+void LogbookIntake::take(const QString& folder, bool isAgain)
 {
-    if (mFolders.contains(folder))
+    if (mFolders.indexOf(folder, isAgain ? 1 : 0) >= 0)
         return;
     mFolders.append(folder);
     if (!mTask.isRunning())
@@ -41,29 +41,31 @@ void LogbookIntake::begin()
     const Job job{encodeFileName(mFolders.front()), encodeFileName(mStore), mProfile, mSession.profile.currentVariant(), archive};
     // By the profile's file alone, as any other program would find it.
     const DecodingContext context(mSession.profile.loadedModel(), EUnit::eMetric);
-    mError.clear();
-    mTask.start([this, job, context](Progress& progress) { mError = QString::fromStdString(work(job, context, progress)); });
+    mResult = {};
+    mTask.start([this, job, context](Progress& progress) { work(job, context, progress); });
 }
 
 void LogbookIntake::finish()
 {
     const bool isCancelled = mTask.isCancelled() || mFolders.isEmpty();
     const QString folder = mFolders.isEmpty() ? QString() : mFolders.takeFirst();
+    const Result result = mResult;
+    if (!result.putAside.empty())
+        Q_EMIT signalPutAside(QString::fromStdString(result.putAside));
     if (!isCancelled)
-        Q_EMIT signalDone(folder, mTask.error().isEmpty() ? mError : mTask.error());
+        Q_EMIT signalDone(folder, mTask.error().isEmpty() ? QString::fromStdString(result.error) : mTask.error(), QString::fromStdString(result.unarchived));
     if (!mFolders.isEmpty())
         begin();
 }
 
 /// In a thread of its own.
-std::string LogbookIntake::work(const Job& job, const DecodingContext& context, Progress& progress)
+void LogbookIntake::work(const Job& job, const DecodingContext& context, Progress& progress)
 {
-    std::string error = keep(job, context, progress);
+    mResult.error = keep(job, context, progress);
     if (progress.isCancelled() || job.archive.empty())
-        return error;
+        return;
     const Console silent([](std::string_view) {}, [](std::string_view) {}); // the window has its own lines about the same files
-    const std::string problem = CardArchive(job.archive, silent).add(job.card, progress);
-    return error.empty() || problem.empty() ? error + problem : error + "\n" + problem;
+    mResult.unarchived = CardArchive(job.archive, silent).add(job.card, progress);
 }
 
 std::string LogbookIntake::keep(const Job& job, const DecodingContext& context, Progress& progress)
@@ -71,7 +73,20 @@ std::string LogbookIntake::keep(const Job& job, const DecodingContext& context, 
     QFile profile(job.profile);
     if (!profile.open(QIODevice::ReadOnly))
         return (job.profile + ": " + profile.errorString()).toStdString();
-    Store store(job.store, {job.profile.section('/', -2, -2).toStdString(), hashOf(profile.readAll().toStdString()), job.variant});
+    const AnalysisKey key{job.profile.section('/', -2, -2).toStdString(), hashOf(profile.readAll().toStdString()), job.variant};
+    {
+        Store store(job.store, key);
+        std::string error = keepIn(store, job, context, progress);
+        if (!store.isDamaged())
+            return error;
+        mResult.putAside = std::move(error);
+    }
+    Store renewed(job.store, key);
+    return keepIn(renewed, job, context, progress);
+}
+
+std::string LogbookIntake::keepIn(Store& store, const Job& job, const DecodingContext& context, Progress& progress)
+{
     if (!store.error().empty())
         return store.error();
     store.writePrecisions(context.model());

@@ -44,6 +44,8 @@ void NormalController::ask()
             StoreReader store(path);
             if (store.error().empty() && !known.id.empty())
                 *pBands = normalBands(store, known, flights);
+            if (!store.error().empty()) // those of a part of the flights are none
+                pBands->clear();
         },
         [this, pBands, asked = mAsked] {
             if (asked == mAsked)

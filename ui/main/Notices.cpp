@@ -15,6 +15,7 @@ namespace {
 
 constexpr int kDelay = 200; // milliseconds: at start the window must have its place, for the message to stand in front of it
 constexpr int kGap = 6;
+constexpr int kLeastWidth = 160;
 
 } // namespace
 
@@ -33,10 +34,11 @@ void Notices::setProblem(EProblem problem, const QString& text, const QString& d
         pLabel->setObjectName("warning");
         pLabel->setTextFormat(Qt::PlainText);
         pLabel->setContentsMargins(kGap, 0, kGap, 0);
+        pLabel->setMinimumWidth(kLeastWidth); // a long one does not keep the window from being small
         mpWindow->statusBar()->insertPermanentWidget(0, pLabel);
     }
     pLabel->setText(text);
-    pLabel->setToolTip(detail.isEmpty() ? QString() : "<span>" + detail.toHtmlEscaped() + "</span>");
+    pLabel->setToolTip(detail.isEmpty() ? QString() : "<span>" + detail.toHtmlEscaped().replace('\n', "<br>") + "</span>");
 }
 
 void Notices::tell(const QString& text)

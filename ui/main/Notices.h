@@ -18,7 +18,7 @@ class Notices : public QObject {
     Q_OBJECT
 
 public:
-    enum EProblem { eGraphics, eProfile, eSettings, eProject, eLayouts, eLogbook, eStyle };
+    enum EProblem { eGraphics, eProfile, eSettings, eProject, eLayouts, eLogbook, eArchive, eStyle };
 
     explicit Notices(QMainWindow* pWindow);
 

@@ -18,6 +18,7 @@
 #include <QAction>
 #include <QDir>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTableView>
@@ -32,6 +33,9 @@ class TestLogbookWindow : public QObject {
 
 private Q_SLOTS:
     void logbook();
+
+private:
+    static void badStores(DialogMain& window, DialogLogbook& logbook, const QString& store, const QString& card);
 };
 
 void TestLogbookWindow::logbook()
@@ -101,18 +105,44 @@ void TestLogbookWindow::logbook()
     QVERIFY(LogbookEditor(store.toStdString()).saveService({0, "DEMO-000001", "Oil <change>", 0.5, {}, {}, {}, {}}));
     QTRY_VERIFY_WITH_TIMEOUT(pOverview->findChild<QLabel*>("services")->text().startsWith("Overdue: Oil <change>, "), 10000);
 
+    // A copy that cannot be made is said as such.
+    Settings::kArchiveDir.set(desktop.property, QString("/proc/none"));
+    window.openFolder(home.filePath("SD/Pulled"));
+    QTRY_VERIFY_WITH_TIMEOUT(pLogbook->findChild<QLabel*>("warning")->text().startsWith("Card not in the archive: /proc/none"), 30000);
+    Settings::kArchive.set(desktop.property, false);
+    badStores(window, *pLogbook, store, home.filePath("SD/Pulled"));
+}
+
+void TestLogbookWindow::badStores(DialogMain& window, DialogLogbook& logbook, const QString& store, const QString& card)
+{
+    const auto* pModel = logbook.findChild<QTableView*>("flights")->model();
+    const auto isPulled = [pModel] { return pModel->rowCount() == 2 && pModel->index(0, LogbookModel::eCard).data().toString().startsWith("Pulled"); };
     // A store that is removed, and what is none in its place, is said; a new one is made, and shown, with the next card.
     for (const char* pCompanion : {"", "-wal", "-shm"})
         QFile::remove(store + pCompanion);
-    const auto* pProblem = pLogbook->findChild<QLabel*>("warning");
+    const auto* pProblem = logbook.findChild<QLabel*>("warning");
     QTRY_VERIFY_WITH_TIMEOUT(pProblem->isVisible() && pProblem->text().contains("was removed"), 10000);
+    logbook.hide(); // which it stays
+    logbook.show();
+    logbook.findChild<QLineEdit*>()->setText("nowhere");
+    QTRY_VERIFY_WITH_TIMEOUT(pProblem->isVisible() && pProblem->text().contains("was removed"), 10000);
+    logbook.findChild<QLineEdit*>()->clear();
     QFile bad(store);
     QVERIFY(bad.open(QIODevice::WriteOnly) && bad.write(QByteArray(1000, 'x')) == 1000);
     bad.close();
     QTRY_VERIFY_WITH_TIMEOUT(pProblem->text().contains("not an SQLite file"), 10000);
     QVERIFY(bad.remove());
-    window.openFolder(home.filePath("SD/Pulled"));
-    QTRY_VERIFY_WITH_TIMEOUT(!pProblem->isVisible() && text(0, LogbookModel::eCard).startsWith("Pulled"), 60000);
+    window.openFolder(card);
+    QTRY_VERIFY_WITH_TIMEOUT(!pProblem->isVisible() && isPulled(), 60000);
+
+    // A damaged one is put aside, which is said, and the card that is open is in the new one.
+    QVERIFY(bad.open(QIODevice::ReadWrite) && bad.resize(4000));
+    bad.close();
+    const Answer told(Answer::close);
+    const QDir folder = QFileInfo(store).dir();
+    window.openFolder(card);
+    QTRY_VERIFY_WITH_TIMEOUT(pProblem->text().contains("nothing of it could be read") && !folder.entryList({"logbook.sqlite.damaged-*"}).isEmpty(), 60000);
+    QTRY_VERIFY_WITH_TIMEOUT(isPulled(), 60000);
 }
 
 QTEST_MAIN(TestLogbookWindow)

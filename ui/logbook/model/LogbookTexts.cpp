@@ -101,6 +101,9 @@ QString LogbookTexts::engineHours(const LogbookEngine& engine)
                                       : tr("%1 h recorded; the hours before the first recording are not entered").arg(hours(engine.running / 3600));
     if (engine.unknownCycles > 0)
         text += "; " + tr("cycles that do not tell whether the engine ran: %1").arg(engine.unknownCycles);
+    if (engine.isLossy)
+        text += ".\n" + tr("Recordings were lost when the logbook was damaged: it may have run more. Open the cards that you still have, then enter the hours "
+                           "before anew, with what is missing");
     if (engine.counter)
         text += ".\n" + tr("The unit's own counter: %1 h on %2").arg(hours(*engine.counter), date(engine.counterDate.date()));
     return text + ".";
@@ -116,11 +119,13 @@ QString LogbookTexts::interval(const Service& service)
     return parts.join(tr(" or "));
 }
 
-QString LogbookTexts::due(const ServiceDue& due)
+QString LogbookTexts::due(const Service& service, const ServiceDue& due)
 {
     QStringList parts;
+    if (due.knownHours)
+        parts.append(tr("not known: done at %1 h, the logbook has %2 h").arg(hours(service.doneHours.value_or(0.0)), hours(*due.knownHours)));
     if (due.hoursLeft)
-        parts.append(*due.hoursLeft >= 0 ? tr("in %1 h").arg(hours(*due.hoursLeft)) : tr("%1 h ago").arg(hours(-*due.hoursLeft)));
+        parts.append((*due.hoursLeft < 0 ? tr("%1 h ago") : due.isAtMost ? tr("in at most %1 h") : tr("in %1 h")).arg(hours(std::abs(*due.hoursLeft))));
     if (due.date.isValid())
         parts.append(tr("on %1").arg(date(due.date)));
     return parts.isEmpty() ? tr("not known: enter when it was done") : parts.join(tr(" or "));
@@ -128,9 +133,8 @@ QString LogbookTexts::due(const ServiceDue& due)
 
 QString LogbookTexts::warning(const Service& service, const ServiceDue& due)
 {
-    if (due.state < ServiceDue::eSoon)
-        return {};
-    return (due.state == ServiceDue::eOverdue ? tr("Overdue: %1, %2") : tr("Due soon: %1, %2")).arg(service.name, LogbookTexts::due(due));
+    const QString text = due.state == ServiceDue::eOverdue ? tr("Overdue: %1, %2") : due.state == ServiceDue::eSoon ? tr("Due soon: %1, %2") : tr("In doubt: %1, %2");
+    return due.state < ServiceDue::eInDoubt ? QString() : text.arg(service.name, LogbookTexts::due(service, due));
 }
 
 } // namespace ZARN

@@ -31,9 +31,9 @@ public:
     /// Hours of the engine, and how far they can be trusted.
     [[nodiscard]] static QString engineHours(const LogbookEngine& engine);
     /// "in 12.3 h, or on 01.05.2026"; why it is not known.
-    [[nodiscard]] static QString due(const ServiceDue& due);
+    [[nodiscard]] static QString due(const Service& service, const ServiceDue& due);
     [[nodiscard]] static QString interval(const Service& service);
-    /// A service that is due soon or was, in a sentence; empty for others.
+    /// A service that is due soon or was, or of which that is not certain, in a sentence; empty for others.
     [[nodiscard]] static QString warning(const Service& service, const ServiceDue& due);
 };
 

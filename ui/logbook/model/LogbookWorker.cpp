@@ -27,15 +27,14 @@ void LogbookWorker::post(std::function<void()> work)
 
 LogbookReader* LogbookWorker::reader()
 {
-    if (mpReader && !mpReader->isInPlace()) { // removed, or another one in its place
+    if (mpReader && !mpReader->isInPlace()) // removed, or another one in its place
         mpReader.reset();
-        if (!QFileInfo::exists(mPath))
-            Q_EMIT signalFailed(tr("%1: it was removed while it was shown; what is shown is what it held").arg(mPath));
-    }
     if (mpReader)
         return mpReader.get();
     const bool isThere = QFileInfo::exists(mPath);
     Q_EMIT signalFound(isThere);
+    if (!isThere && mWasRead)
+        Q_EMIT signalFailed(tr("%1: it was removed while it was shown; what is shown is what it held, whatever is chosen").arg(mPath));
     if (!isThere)
         return nullptr;
     // Brings an older form up. Where nothing can be written the reader tells what can be read all the same.
@@ -45,6 +44,7 @@ LogbookReader* LogbookWorker::reader()
     mVersion = mpReader->version();
     if (!check())
         return nullptr;
+    mWasRead = true;
     Q_EMIT signalChanged();
     return mpReader.get();
 }
@@ -97,7 +97,7 @@ void LogbookWorker::run(const std::function<void()>& work, const std::function<v
 void LogbookWorker::look()
 {
     post([this] {
-        if (!mpReader && !QFileInfo::exists(mPath))
+        if (!mpReader && !mWasRead && !QFileInfo::exists(mPath))
             return;
         LogbookReader* pReader = reader();
         if (!pReader)

@@ -60,6 +60,7 @@ private:
     const QString mPath;
     std::unique_ptr<LogbookReader> mpReader; // of the thread
     int64_t mVersion = 0;                    // of the thread
+    bool mWasRead = false;                   // of the thread
     QThread mThread;
     QObject* mpPlace; ///< in the thread
 };
