@@ -310,6 +310,10 @@ Die Einstellungen bleiben erhalten.</translation>
         <source>off</source>
         <translation>aus</translation>
     </message>
+    <message>
+        <source>what answers there is no virtual bus</source>
+        <translation>was dort antwortet, ist kein virtueller Bus</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::CandumpFile</name>
@@ -1452,6 +1456,10 @@ lag(x, s): x, wie es vor s Sekunden war</translation>
         <source>Folder to record into</source>
         <translation>Ordner für die Aufzeichnung</translation>
     </message>
+    <message>
+        <source>Name the interface, as in can0.</source>
+        <translation>Nennen Sie die Schnittstelle, etwa can0.</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::DialogLogbook</name>
@@ -1502,6 +1510,10 @@ lag(x, s): x, wie es vor s Sekunden war</translation>
     <message>
         <source>Written: %1</source>
         <translation>Geschrieben: %1</translation>
+    </message>
+    <message>
+        <source>Nothing is kept yet. Cards that you open are taken in.</source>
+        <translation>Noch ist nichts aufgehoben. Karten, die Sie öffnen, werden aufgenommen.</translation>
     </message>
 </context>
 <context>
@@ -1991,6 +2003,10 @@ lag(x, s): x, wie es vor s Sekunden war</translation>
     <message>
         <source>Remark</source>
         <translation>Bemerkung</translation>
+    </message>
+    <message>
+        <source>It could not be kept: %1</source>
+        <translation>Das konnte nicht aufgehoben werden: %1</translation>
     </message>
 </context>
 <context>
@@ -3651,6 +3667,10 @@ Ersetzen ?</translation>
             <numerusform>%Ln Telegramme aufgezeichnet in %1</numerusform>
         </translation>
     </message>
+    <message>
+        <source>NO FRAMES for %1 s</source>
+        <translation>KEINE TELEGRAMME seit %1 s</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::LogbookBar</name>
@@ -3674,10 +3694,6 @@ Ersetzen ?</translation>
 <context>
     <name>ZARN::LogbookController</name>
     <message>
-        <source>Card not in the logbook</source>
-        <translation>Karte nicht im Logbuch</translation>
-    </message>
-    <message>
         <source>The card of this recording is not at hand.</source>
         <translation>Die Karte dieser Aufzeichnung ist nicht zur Hand.</translation>
     </message>
@@ -3686,6 +3702,14 @@ Ersetzen ?</translation>
 %1</source>
         <translation>Das Logbuch war beschädigt.
 %1</translation>
+    </message>
+    <message>
+        <source>Card not in the logbook: %1</source>
+        <translation>Karte nicht im Logbuch: %1</translation>
+    </message>
+    <message>
+        <source>Card not in the archive: %1</source>
+        <translation>Karte nicht im Archiv: %1</translation>
     </message>
 </context>
 <context>
@@ -4262,6 +4286,22 @@ Ersetzen ?</translation>
             <numerusform>%1 (%n Zyklen sagen es nicht)</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Recordings were lost when the logbook was damaged: it may have run more. Open the cards that you still have, then enter the hours before anew, with what is missing</source>
+        <translation>Als das Logbuch beschädigt wurde, gingen Aufzeichnungen verloren: Er kann länger gelaufen sein. Öffnen Sie die Karten, die Sie noch haben, und geben Sie dann die Stunden davor neu ein, mit dem, was fehlt</translation>
+    </message>
+    <message>
+        <source>not known: done at %1 h, the logbook has %2 h</source>
+        <translation>unbekannt: erledigt bei %1 h, das Logbuch hat %2 h</translation>
+    </message>
+    <message>
+        <source>in at most %1 h</source>
+        <translation>in höchstens %1 h</translation>
+    </message>
+    <message>
+        <source>In doubt: %1, %2</source>
+        <translation>Ungewiss: %1, %2</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::LogbookTrends</name>
@@ -4300,12 +4340,16 @@ Ersetzen ?</translation>
             <numerusform>%1, %n Flüge</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Reading ...</source>
+        <translation>Wird gelesen ...</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::LogbookWorker</name>
     <message>
-        <source>%1: it was removed while it was shown; what is shown is what it held</source>
-        <translation>%1: Es wurde entfernt, während es gezeigt wurde; zu sehen ist, was darin stand</translation>
+        <source>%1: it was removed while it was shown; what is shown is what it held, whatever is chosen</source>
+        <translation>%1: Es wurde entfernt, während es gezeigt wurde; zu sehen ist, was darin stand, was auch gewählt wird</translation>
     </message>
 </context>
 <context>
@@ -5158,6 +5202,10 @@ Kreuzen Sie im Profilfeld einen Parameter an oder wählen Sie einen anderen Zykl
         <source>from %1 to %2</source>
         <translation>von %1 bis %2</translation>
     </message>
+    <message>
+        <source>The position stands still %1: what was received then lies more than 10 km from the place before, and is not believed.</source>
+        <translation>Die Position steht %1 still: Was dann empfangen wurde, liegt mehr als 10 km vom Ort davor entfernt und wird nicht geglaubt.</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::ShownParameter</name>
@@ -5215,20 +5263,36 @@ Kreuzen Sie im Profilfeld einen Parameter an oder wählen Sie einen anderen Zykl
 <context>
     <name>ZARN::Store</name>
     <message>
-        <source>; it was put aside as %1, and the next scan makes it anew</source>
-        <translation>; er wurde als %1 beiseitegelegt, und die nächste Aufnahme legt ihn neu an</translation>
-    </message>
-    <message>
-        <source>; rows of notes, services and readings that were kept: %1</source>
-        <translation>; erhaltene Zeilen von Notizen, Wartungen und Zählerständen: %1</translation>
-    </message>
-    <message>
         <source>the store was removed or replaced while it was written</source>
         <translation>der Datenspeicher wurde entfernt oder ersetzt, während er geschrieben wurde</translation>
     </message>
     <message>
         <source>it could not be read; nothing is wrong with it</source>
         <translation>Er konnte nicht gelesen werden; beschädigt ist er nicht</translation>
+    </message>
+    <message>
+        <source>; nothing of it could be read: recordings come back when their cards are opened or scanned again, and what was typed (notes, services, hours before) has to be typed again</source>
+        <translation>; nichts davon war lesbar: Aufzeichnungen kommen wieder, wenn ihre Karten erneut geöffnet oder aufgenommen werden, und was eingegeben wurde (Notizen, Wartungen, Stunden davor), muss neu eingegeben werden</translation>
+    </message>
+    <message>
+        <source>; a new one has what could be read of it: cycles %1, flights %2, notes %3, services %4, typed hours %5</source>
+        <translation>; ein neuer hat, was davon lesbar war: Zyklen %1, Flüge %2, Notizen %3, Wartungen %4, eingegebene Stunden %5</translation>
+    </message>
+    <message>
+        <source>; cycles without their engine hours: %1</source>
+        <translation>; Zyklen ohne ihre Motorstunden: %1</translation>
+    </message>
+    <message>
+        <source>; what was in the damaged part is missing: recordings, and the engine hours in them, until their cards are opened or scanned again, and what was typed</source>
+        <translation>; was im beschädigten Teil stand, fehlt: Aufzeichnungen und ihre Motorstunden, bis ihre Karten erneut geöffnet oder aufgenommen werden, und Eingegebenes</translation>
+    </message>
+    <message>
+        <source>; it was put aside as %1</source>
+        <translation>; er wurde als %1 beiseitegelegt</translation>
+    </message>
+    <message>
+        <source>; what can be read of it could not be taken over into a new one: %1</source>
+        <translation>; was davon lesbar ist, konnte nicht in einen neuen übernommen werden: %1</translation>
     </message>
 </context>
 <context>
