@@ -1,11 +1,11 @@
 #include "ui/logbook/LogbookFlights.h"
 
 #include "app/gui/WheelGuard.h"
+#include "ui/logbook/DateField.h"
 #include "ui/logbook/model/LogbookTexts.h"
 #include "ui/overview/model/VerdictSign.h"
 
 #include <QComboBox>
-#include <QDateEdit>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -26,7 +26,6 @@ namespace {
 
 constexpr int kTypingPause = 150; // milliseconds
 constexpr int kSign = 14;         // pixels
-const QDate kAnyDate(1999, 12, 31);
 
 // By column.
 constexpr std::array kLetters = {19, 22, 0, 0, 0, 14, 29, 12};
@@ -61,7 +60,7 @@ protected:
 } // namespace
 
 LogbookFlights::LogbookFlights(LogbookWorker& worker, QWidget* pParent)
-    : QWidget(pParent), mModel(worker), mpFrom(createDate(tr("From"))), mpUntil(createDate(tr("Until"))), mpVerdict(new QComboBox),
+    : QWidget(pParent), mModel(worker), mpFrom(new DateField(tr("From"))), mpUntil(new DateField(tr("Until"))), mpVerdict(new QComboBox),
       mpText(new QLineEdit), mpTable(new QTableView), mpTotals(new QLabel),
       mpOpen(new QPushButton(tr("Open flight")))
 {
@@ -79,23 +78,10 @@ LogbookFlights::LogbookFlights(LogbookWorker& worker, QWidget* pParent)
     connect(mpOpen, &QPushButton::clicked, this, [this] { slotPicked(mpTable->currentIndex()); });
     mTyping.setSingleShot(true);
     mTyping.setInterval(kTypingPause);
-    for (const QDateEdit* pDate : {mpFrom, mpUntil})
-        connect(pDate, &QDateEdit::dateChanged, &mTyping, qOverload<>(&QTimer::start));
+    for (const DateField* pDate : {mpFrom, mpUntil})
+        connect(pDate, &DateField::signalDate, &mTyping, qOverload<>(&QTimer::start));
     connect(&mTyping, &QTimer::timeout, this, &LogbookFlights::takeFilter);
     connect(&mModel, &LogbookModel::signalSelected, this, &LogbookFlights::slotSelected);
-}
-
-QDateEdit* LogbookFlights::createDate(const QString& name)
-{
-    auto* pDate = new QDateEdit;
-    pDate->setMinimumDate(kAnyDate);
-    pDate->setDate(kAnyDate);
-    pDate->setSpecialValueText(tr("any"));
-    pDate->setDisplayFormat("dd.MM.yyyy");
-    pDate->setCalendarPopup(true);
-    pDate->setAccessibleName(name);
-    WheelGuard::install(*pDate);
-    return pDate;
 }
 
 QWidget* LogbookFlights::createFilter()
@@ -235,9 +221,8 @@ void LogbookFlights::setEngine(const std::string& engine)
 void LogbookFlights::takeFilter()
 {
     mTyping.stop();
-    const auto dateOf = [](const QDateEdit& field) { return field.date() == kAnyDate ? QDate() : field.date(); };
-    mFilter.from = dateOf(*mpFrom);
-    mFilter.until = dateOf(*mpUntil);
+    mFilter.from = mpFrom->date();
+    mFilter.until = mpUntil->date();
     mFilter.verdict = mpVerdict->currentData().toString().toStdString();
     mFilter.text = mpText->text();
     mModel.setFilter(mFilter);

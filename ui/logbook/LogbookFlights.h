@@ -6,13 +6,14 @@
 #include <QWidget>
 
 class QComboBox;
-class QDateEdit;
 class QLabel;
 class QLineEdit;
 class QPushButton;
 class QTableView;
 
 namespace ZARN {
+
+class DateField;
 
 /// The flights of the logbook: what is wanted of them above, the table, what they come to below.
 class LogbookFlights : public QWidget {
@@ -45,7 +46,6 @@ protected:
 private:
     QWidget* createFilter();
     void createTable();
-    QDateEdit* createDate(const QString& name);
     void takeFilter();
     void arrange();
     void chooseColumns(const QPoint& point);
@@ -54,8 +54,8 @@ private:
 
     LogbookModel mModel;
     LogbookFilter mFilter;
-    QDateEdit* mpFrom;
-    QDateEdit* mpUntil;
+    DateField* mpFrom;
+    DateField* mpUntil;
     QComboBox* mpVerdict;
     QLineEdit* mpText;
     QTableView* mpTable;
