@@ -602,6 +602,21 @@ Die Einstellungen bleiben erhalten.</translation>
     </message>
 </context>
 <context>
+    <name>ZARN::DateField</name>
+    <message>
+        <source>any</source>
+        <translation>beliebig</translation>
+    </message>
+    <message>
+        <source>A date as 31.12.2026 or 2026-12-31; empty: any</source>
+        <translation>Ein Datum wie 31.12.2026 oder 2026-12-31; leer: beliebig</translation>
+    </message>
+    <message>
+        <source>Calendar</source>
+        <translation>Kalender</translation>
+    </message>
+</context>
+<context>
     <name>ZARN::DialogCard</name>
     <message>
         <source>Power cycles and flights</source>
@@ -3986,10 +4001,6 @@ Ersetzen ?</translation>
     <message>
         <source>Until</source>
         <translation>Bis</translation>
-    </message>
-    <message>
-        <source>any</source>
-        <translation>beliebig</translation>
     </message>
     <message>
         <source>Verdict</source>
