@@ -1,12 +1,12 @@
 #include "ui/logbook/DateField.h"
 
+#include "app/gui/ImageHandler.h"
 #include "app/gui/StyleProperty.h"
 #include "ui/logbook/model/LogbookTexts.h"
 
 #include <QAction>
 #include <QCalendarWidget>
 #include <QMenu>
-#include <QStyle>
 #include <QWidgetAction>
 
 namespace ZARN {
@@ -17,7 +17,7 @@ DateField::DateField(const QString& name, QWidget* pParent) : QLineEdit(pParent)
     setPlaceholderText(tr("any"));
     setToolTip(tr("A date as 31.12.2026 or 2026-12-31; empty: any"));
     setFixedWidth(fontMetrics().horizontalAdvance("00.00.0000") * 2);
-    QAction* pOpen = addAction(style()->standardIcon(QStyle::SP_ArrowDown), QLineEdit::TrailingPosition);
+    QAction* pOpen = addAction(ImageHandler::icon("chevron-down"), QLineEdit::TrailingPosition);
     pOpen->setToolTip(tr("Calendar"));
     connect(pOpen, &QAction::triggered, this, &DateField::openCalendar);
     connect(this, &QLineEdit::textChanged, this, &DateField::check);
@@ -44,6 +44,7 @@ void DateField::openCalendar()
     auto* pMenu = new QMenu(this);
     pMenu->setAttribute(Qt::WA_DeleteOnClose);
     auto* pCalendar = new QCalendarWidget;
+    pCalendar->setMinimumSize(pCalendar->sizeHint() + QSize(16, 32)); // or the style cuts the last week off
     pCalendar->setSelectedDate(date().isValid() ? date() : QDate::currentDate());
     auto* pAction = new QWidgetAction(pMenu);
     pAction->setDefaultWidget(pCalendar);
