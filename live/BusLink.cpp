@@ -2,8 +2,6 @@
 
 #include <QCanBus>
 #include <QCanBusDevice>
-#include <QTcpSocket>
-#include <QUrl>
 #include <QVariant>
 
 #include <utility>
@@ -15,23 +13,6 @@ namespace {
 constexpr int kBatchPeriod = 33;   // milliseconds
 constexpr int kRetryPeriod = 1000; // milliseconds
 constexpr int kAnswerPeriod = 5000; // milliseconds: some plugins never say that nobody answers
-
-constexpr int kLookPeriod = 200;    // milliseconds
-constexpr quint16 kVirtualPort = 35468; // of a virtual bus without one
-
-/// The plugin of the virtual bus takes whatever listens at its address for one, and crashes on the first line that is no frame.
-bool isForeign(const BusAddress& address)
-{
-    const QUrl url(address.interface);
-    QTcpSocket socket;
-    socket.connectToHost(url.host().isEmpty() ? QStringLiteral("localhost") : url.host(), static_cast<quint16>(url.port(kVirtualPort)));
-    if (!socket.waitForConnected(kLookPeriod))
-        return false;
-    socket.write("connect:" + url.path().mid(1).toUtf8() + '\n');
-    socket.waitForReadyRead(kLookPeriod);
-    const QByteArray line = socket.readLine();
-    return !line.isEmpty() && line.count('#') < 2;
-}
 
 } // namespace
 
@@ -74,8 +55,6 @@ void BusLink::connectDevice()
     setState(eConnecting, mReason);
     if (mpDevice)
         mpDevice->disconnect(this);
-    if (mAddress.isVirtual() && isForeign(mAddress))
-        return lose(tr("what answers there is no virtual bus"));
     QString error;
     mpDevice.reset(QCanBus::instance()->createDevice(mAddress.plugin, mAddress.interface, &error));
     if (!mpDevice)

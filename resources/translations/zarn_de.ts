@@ -310,10 +310,6 @@ Die Einstellungen bleiben erhalten.</translation>
         <source>off</source>
         <translation>aus</translation>
     </message>
-    <message>
-        <source>what answers there is no virtual bus</source>
-        <translation>was dort antwortet, ist kein virtueller Bus</translation>
-    </message>
 </context>
 <context>
     <name>ZARN::CandumpFile</name>

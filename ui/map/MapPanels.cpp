@@ -146,7 +146,7 @@ void MapConsentBar::arrangeFor(int width)
     mpLine->setDirection(isNarrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
     if (buttons > room)
         mpButtons->setDirection(QBoxLayout::TopToBottom);
-    setMinimumHeight(mpLine->totalHeightForWidth(width));
+    setMinimumHeight(std::max(mpLine->totalHeightForWidth(width), 0));
 }
 
 } // namespace ZARN
