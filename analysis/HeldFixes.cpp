@@ -8,7 +8,7 @@ namespace ZARN {
 
 namespace {
 
-constexpr double kLongest = 10.0; // seconds: single wrong fixes are what the filter is for
+constexpr double kLeast = 10.0; // seconds: single wrong fixes are what the filter is for
 
 void addHeld(const RecordData& data, const DecodingContext& context, const char* key, CoordinateFilter& filter, std::vector<TimeSpan>& held)
 {
@@ -19,7 +19,7 @@ void addHeld(const RecordData& data, const DecodingContext& context, const char*
         return;
     std::optional<TimeSpan> span;
     const auto end = [&] {
-        if (span && span->end - span->start > kLongest)
+        if (span && span->end - span->start > kLeast)
             held.push_back(*span);
         span.reset();
     };

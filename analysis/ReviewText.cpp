@@ -71,7 +71,7 @@ QString ReviewText::heldFixes() const
 {
     if (mReview.heldFixes.empty())
         return {};
-    return tr("The position stands still %1: what was received then lies more than 10 km from the place before, and is not believed.")
+    return tr("The position is not to be trusted %1: what was received then lies more than 10 km from the place before, and is not believed.")
         .arg(texts(mReview.heldFixes));
 }
 

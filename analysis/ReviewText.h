@@ -27,7 +27,7 @@ public:
     [[nodiscard]] QString watched() const;
     /// What was outside, but not while the engine ran, in one line with at most so many names; empty when nothing was.
     [[nodiscard]] QString standing(qsizetype most = kNames) const;
-    /// That the position stands still, and when; empty when it does not.
+    /// When the position is not that of the aircraft; empty when it always is.
     [[nodiscard]] QString heldFixes() const;
     /// How long the engine ran; "unknown".
     [[nodiscard]] QString engineRunning() const;

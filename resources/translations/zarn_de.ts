@@ -5210,8 +5210,8 @@ Kreuzen Sie im Profilfeld einen Parameter an oder wählen Sie einen anderen Zykl
         <translation>von %1 bis %2</translation>
     </message>
     <message>
-        <source>The position stands still %1: what was received then lies more than 10 km from the place before, and is not believed.</source>
-        <translation>Die Position steht %1 still: Was dann empfangen wurde, liegt mehr als 10 km vom Ort davor entfernt und wird nicht geglaubt.</translation>
+        <source>The position is not to be trusted %1: what was received then lies more than 10 km from the place before, and is not believed.</source>
+        <translation>Der Position ist %1 nicht zu trauen: Was dann empfangen wurde, liegt mehr als 10 km vom Ort davor entfernt und wird nicht geglaubt.</translation>
     </message>
 </context>
 <context>
