@@ -24,10 +24,11 @@ StoredRecord recordOf(uint64_t ticks, double value)
 template <typename Visitor> void forEachValue(Formula& formula, const RecordData& data, const DecodingContext& context, Visitor visit)
 {
     formula.begin();
+    const bool readsTime = formula.readsTime();
     forEachHeld(formula.operands(), data, context.in(EUnit::eMetric), [&](uint64_t ticks, std::span<const double> values) {
         for (std::size_t i = 0; i < values.size(); ++i)
             formula.set(i, values[i]);
-        visit(ticks, formula.at(recordTime(static_cast<uint32_t>(ticks >> 32), static_cast<uint32_t>(ticks))));
+        visit(ticks, formula.at(readsTime ? recordTime(static_cast<uint32_t>(ticks >> 32), static_cast<uint32_t>(ticks)) : 0.0));
     });
 }
 

@@ -38,6 +38,8 @@ public:
     /// Forgets what was evaluated.
     void begin();
     void set(std::size_t operand, double value) { mVariables[operand] = value; }
+    /// Whether at() asks for the time; else any will do.
+    [[nodiscard]] bool readsTime() const { return mReadsTime || !mSteps.empty(); }
     /// The value of the formula with the operands as they were set. Times should ascend: one that goes back begins a new past.
     [[nodiscard]] double at(double time);
 
@@ -48,6 +50,7 @@ private:
     std::deque<double> mVariables; // of the operands; they never move
     std::deque<FormulaStep> mSteps; // each after those that it builds on
     double mTime = 0.0;
+    bool mReadsTime = false;
     mu::Parser mParser;
 };
 

@@ -124,6 +124,7 @@ std::size_t FormulaReader::takeWord(std::size_t begin)
     const std::string name = part(begin, end);
     const std::size_t next = mText.find_first_not_of(" \t\r\n", end);
     const bool isCall = next != std::string::npos && mText[next] == '(';
+    mFormula.mReadsTime |= name == kTime;
     if (isCall || name == kTime)
         return end;
     if (const ProfileParameter* pParameter = find(name))
