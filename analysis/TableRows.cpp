@@ -15,15 +15,24 @@ namespace {
 
 constexpr std::size_t kBitsASample = 32; // what sorting by bits may take: 4 bytes for each sample
 
-/// Calls `visit` with the key of every sample, in stored order.
-template <typename Visitor> void forEachKey(const Trace& trace, Visitor visit)
+/// Calls `visit` with the key of every sample, in stored order, but of the runs that `isKnown(position, count)`.
+template <typename Skip, typename Visitor> void forEachKey(const Trace& trace, Skip isKnown, Visitor visit)
 {
     std::array<double, Trace::kRun> times{};
     for (std::size_t position = 0; position < trace.size();) {
+        if (const std::size_t next = std::min(Trace::kRun, trace.size() - position); isKnown(position, next)) {
+            position += next;
+            continue;
+        }
         const std::size_t count = trace.readTimes(position, times);
         std::for_each_n(times.begin(), count, [&](double time) { visit(TimeKey::of(time)); });
         position += count;
     }
+}
+
+bool none(std::size_t, std::size_t)
+{
+    return false;
 }
 
 struct KeyPosition {
@@ -57,17 +66,19 @@ std::vector<uint32_t> TableRows::sortedPositions(const Trace& trace)
 {
     std::vector<KeyPosition> samples;
     samples.reserve(trace.size());
-    forEachKey(trace, [&](TimeKey key) { samples.push_back({key, static_cast<uint32_t>(samples.size())}); });
+    forEachKey(trace, none, [&](TimeKey key) { samples.push_back({key, static_cast<uint32_t>(samples.size())}); });
     keepLastOfKey(samples, &KeyPosition::key);
     std::vector<uint32_t> positions(samples.size());
     std::ranges::transform(samples, positions.begin(), &KeyPosition::position);
     return positions;
 }
 
-template <typename Visitor> void TableRows::Channel::forEachKey(Visitor visit) const
+template <typename Skip, typename Visitor> void TableRows::Channel::forEachKey(Skip isKnown, Visitor visit) const
 {
-    if (sorted.empty())
-        ZARN::forEachKey(*pTrace, visit);
+    if (sorted.empty()) {
+        ZARN::forEachKey(
+            *pTrace, [&](std::size_t position, std::size_t count) { return isKnown(keyAt(position), keyAt(position + count - 1)); }, visit);
+    }
     for (const uint32_t position : sorted)
         visit(keyAt(position));
 }
@@ -97,11 +108,16 @@ void TableRows::collectKeys()
 void TableRows::sortKeys(TimeKey first, TimeKey last)
 {
     std::vector<uint64_t> bits((last.tenths - first.tenths) / 64 + 1);
+    // Most channels are sent more often than a row lasts: the first of them has made the rows of the others.
+    const auto isFull = [&](TimeKey from, TimeKey to) {
+        const auto word = [&](TimeKey key) { return bits.begin() + static_cast<std::ptrdiff_t>((key.tenths - first.tenths) / 64); };
+        return std::all_of(word(from), word(to) + 1, [](uint64_t each) { return each == UINT64_MAX; });
+    };
     for (const Channel& channel : mChannels) {
         // Neighbours share a word: to write it for each of them would wait for the one before.
         uint32_t word = 0;
         uint64_t gathered = 0;
-        channel.forEachKey([&](TimeKey key) {
+        channel.forEachKey(isFull, [&](TimeKey key) {
             const uint32_t place = key.tenths - first.tenths;
             if (place / 64 != word) {
                 bits[word] |= std::exchange(gathered, 0);
@@ -125,7 +141,7 @@ void TableRows::mergeKeys()
 {
     for (const Channel& channel : mChannels) {
         std::vector<TimeKey> keys;
-        channel.forEachKey([&keys](TimeKey key) {
+        channel.forEachKey([](TimeKey, TimeKey) { return false; }, [&keys](TimeKey key) {
             if (keys.empty() || keys.back() != key)
                 keys.push_back(key);
         });

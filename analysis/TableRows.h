@@ -33,8 +33,9 @@ private:
 
         [[nodiscard]] TimeKey keyAt(std::size_t position) const { return TimeKey::of(pTrace->time(position)); }
         [[nodiscard]] std::optional<std::size_t> last(TimeKey key) const;
-        /// Calls `visit` with the key of every sample, in ascending order of keys.
-        template <typename Visitor> void forEachKey(Visitor visit) const;
+        /// Calls `visit` with the key of every sample, in ascending order of keys; may leave out those of a run from one key to another
+        /// all of which are known.
+        template <typename Skip, typename Visitor> void forEachKey(Skip isKnown, Visitor visit) const;
     };
     static constexpr std::size_t kNoSamples = SIZE_MAX;
 
