@@ -2,6 +2,7 @@
 
 #include <QCanBus>
 #include <QCanBusDevice>
+#include <QUrl>
 #include <QVariant>
 
 #include <utility>
@@ -46,6 +47,7 @@ void BusLink::close()
         mpDevice->disconnectDevice();
         mpDevice.reset();
     }
+    mpGate.reset();
     handOn();
     setState(eClosed, {});
 }
@@ -56,7 +58,7 @@ void BusLink::connectDevice()
     if (mpDevice)
         mpDevice->disconnect(this);
     QString error;
-    mpDevice.reset(QCanBus::instance()->createDevice(mAddress.plugin, mAddress.interface, &error));
+    mpDevice.reset(QCanBus::instance()->createDevice(mAddress.plugin, gatedInterface(), &error));
     if (!mpDevice)
         return lose(error);
     if (mBitRate > 0)
@@ -66,6 +68,20 @@ void BusLink::connectDevice()
         mRetryTimer.start(kAnswerPeriod);
     else
         lose(mpDevice->errorString());
+}
+
+QString BusLink::gatedInterface()
+{
+    mpGate.reset();
+    if (!mAddress.isVirtual())
+        return mAddress.interface;
+    auto pGate = std::make_unique<VirtualBusGate>();
+    if (!pGate->open(QUrl(mAddress.interface)))
+        return mAddress.interface;
+    mpGate = std::move(pGate);
+    connect(
+        mpGate.get(), &VirtualBusGate::foreign, this, [this] { lose(tr("what answers there is no virtual bus")); }, Qt::QueuedConnection);
+    return mpGate->interface();
 }
 
 void BusLink::watch()

@@ -2,6 +2,7 @@
 
 #include "live/BusAddress.h"
 #include "live/FrameReader.h"
+#include "live/VirtualBusGate.h"
 
 #include <QElapsedTimer>
 #include <QObject>
@@ -41,6 +42,8 @@ Q_SIGNALS:
 
 private:
     void connectDevice();
+    /// What the plugin is to open.
+    QString gatedInterface();
     void watch();
     void read();
     void handOn();
@@ -49,6 +52,7 @@ private:
 
     BusAddress mAddress;
     int mBitRate;
+    std::unique_ptr<VirtualBusGate> mpGate;
     std::unique_ptr<QCanBusDevice> mpDevice;
     FrameReader mReader;
     LiveRecords mRecords;

@@ -109,6 +109,18 @@ class Live(unittest.TestCase):
         self.waitFor(3)
         self.assertEqual(['12E#0300000000000000'], payloads(self.recording, '--cycle', '2'))
 
+    def testForeignServer(self):
+        listener = self.listen()
+        self.bus.send('300##01')
+        self.waitFor(1)
+        self.bus.send('HTTP/1.1 400 Bad Request', '301##02')
+        self.bus.accept()
+        self.bus.send('302##03')
+        self.waitFor(2)
+        listener.send_signal(signal.SIGINT)
+        self.assertIn('what answers there is no virtual bus', listener.communicate()[1])
+        self.assertEqual((0, ['12C#0100000000000000', '12E#0300000000000000']), (listener.returncode, payloads(self.recording)))
+
     def testFullDisk(self):
         limit = 128 + 28 * 10 + 5
         listener = self.listen(preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (limit, limit)))
