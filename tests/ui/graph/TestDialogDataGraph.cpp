@@ -571,7 +571,7 @@ void TestDialogDataGraph::drawnLikePainted()
         }
         pGraph->model().putValues(index, times, values);
     }
-    pGraph->model().traces().setBands(1, {{1.0, INFINITY, QColor(255, 0, 0)}});
+    pGraph->model().traces().edit(1, [](GraphParameter& trace) { trace.bands = {{1.0, INFINITY, QColor(255, 0, 0)}}; });
     pGraph->model().setWindow({0, 150});
     pGraph->setMarker(20, 60);
     pGraph->setCursorPosition(90);

@@ -222,10 +222,21 @@ void TestGraphModel::interruptedAndStepped()
         FrameCache cache;
         cache.update(traces, window, columns);
         QVERIFY(std::ranges::none_of(cache.vertices(0), [](const QPointF& vertex) { return std::isnan(vertex.y()); }));
-        cache.setGapsOn(true);
+        traces.setGapsOn(true);
         cache.update(traces, window, columns);
+        traces.setGapsOn(false);
         QCOMPARE(std::ranges::count_if(cache.vertices(0), [](const QPointF& vertex) { return std::isnan(vertex.y()); }), gaps);
     }
+    QCOMPARE(traces.valueAt(0, 90530).value(), 1.0); // held through the hole, but where gaps are shown
+    traces.setGapsOn(true);
+    FrameCache growing;
+    for (const auto& [time, gaps] : {std::pair(92000.0, 3), {92000.5, 3}, {92100.0, 4}}) {
+        traces.append(0, std::vector{time}, std::vector{1.0});
+        growing.update(traces, {90000, 93000}, 1000);
+        QCOMPARE(std::ranges::count_if(growing.vertices(0), [](const QPointF& vertex) { return std::isnan(vertex.y()); }), gaps);
+    }
+    QVERIFY(!traces.valueAt(0, 90530) && traces.valueAt(0, 92101) && !traces.valueAt(0, 92103));
+    traces.setGapsOn(false);
     traces.edit(0, [](GraphParameter& trace) { trace.pStates = std::make_shared<const StateNames>(std::map<int64_t, QString>{{1, "On"}}, true); });
     FrameCache cache;
     cache.update(traces, {90000, 90400}, 1000);

@@ -63,7 +63,7 @@ void fillFlight(GraphModel& model, int traces = 6)
             values.push_back(1000.0 * (index + 1) + 400 * std::sin(i * 0.004 * (index + 1)) + (i % 97 == 0 ? 300 : 0));
         }
         model.putValues(index, times, values);
-        model.traces().setBands(index, {{1000.0 * (index + 1) + 350, INFINITY, QColor(255, 0, 0)}});
+        model.traces().edit(index, [=](GraphParameter& trace) { trace.bands = {{1000.0 * (index + 1) + 350, INFINITY, QColor(255, 0, 0)}}; });
     }
     model.setWindow({-100, 2600});
     model.setCursorPosition(800);
@@ -310,7 +310,7 @@ void TestGraphScene::cursorTellsValues()
     QVERIFY(time >= 0 || model.traces().valueAt(0, time) == 1300.0); // of the first sample, but not long before it
     QVERIFY(!model.traces().valueAt(0, -50.0));
 
-    model.traces().setHeight(0, 3.0);
+    model.traces().edit(0, [](GraphParameter& trace) { trace.height = 3.0; });
     const GraphFrame higher = frameOf(model, size);
     QVERIFY(std::abs(higher.layout().area(0).height() - 3 * higher.layout().area(1).height()) <= 3); // of pixels that are rounded
     QCOMPARE(higher.layout().area(traces - 1).bottom(), higher.layout().plot().bottom());

@@ -3,6 +3,7 @@
 #include "ui/graph/model/ShownTraces.h"
 #include "ui/graph/model/TimeWindow.h"
 #include "ui/graph/model/TraceBuilder.h"
+#include "ui/graph/model/TraceGaps.h"
 
 namespace ZARN {
 
@@ -13,8 +14,6 @@ public:
     void update(const ShownTraces& traces, const TimeWindow& window, int columns);
     /// The same for as many columns as before.
     void update(const ShownTraces& traces, const TimeWindow& window) { update(traces, window, mKey.columns); }
-    /// Whether traces are interrupted where nothing was recorded for long, or no number.
-    void setGapsOn(bool on) { mGapsOn = on; }
     /// Whether an update would find nothing to do.
     [[nodiscard]] bool isCurrent(const ShownTraces& traces, const TimeWindow& window) const;
     /// (Seconds after the window's start, value) of a shown trace.
@@ -25,17 +24,20 @@ private:
         TimeWindow window;
         int columns = 1000;
         std::size_t generation = 0;
-        bool gapsOn = false;
         bool operator==(const Key&) const = default;
     };
 
-    /// Where a trace is interrupted, found once for its samples.
-    const std::vector<uint32_t>& gapsOf(const ShownTraces& traces, int index);
+    /// Where a trace is interrupted; nowhere when that is not wanted.
+    std::span<const uint32_t> gapsOf(const ShownTraces& traces, int index);
+
+    struct Gaps {
+        TraceGaps found;
+        std::span<const uint32_t> places;
+        std::size_t generation = 0; // of the traces that they are of
+    };
 
     Key mKey;
-    bool mGapsOn = false;
-    std::vector<std::vector<uint32_t>> mGaps; // by slot
-    std::vector<std::size_t> mGapsOf;         // the generation of the traces that they are of
+    std::vector<Gaps> mGaps; // by slot
     TraceBuilder mBuilder;
     std::vector<std::vector<QPointF>> mVertices; // by slot
 };

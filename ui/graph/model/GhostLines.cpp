@@ -24,10 +24,10 @@ void GhostLines::update(const GraphModel& model, const GraphLayout& layout, doub
     const std::shared_ptr<const Ghost>& pGhost = model.scenery().ghost();
     const double length = kColumns * kColumn / (layout.pixelsPerSecond() * ratio);
     const bool isSameLength = std::fabs(length - mLength) <= kSame * length;
-    if (mpGhost != pGhost || mGapsOn != model.settings().gapsOn || (pGhost && mGeneration != pGhost->traces.generation()))
+    if (mpGhost != pGhost || mGapsOn != model.traces().gapsOn() || (pGhost && mGeneration != pGhost->traces.generation()))
         mLines.clear();
     mpGhost = pGhost;
-    mGapsOn = model.settings().gapsOn;
+    mGapsOn = model.traces().gapsOn();
     if (!pGhost)
         return;
     mGeneration = pGhost->traces.generation();
@@ -58,7 +58,7 @@ void GhostLines::updateLine(int index, double height, const ValueSpan& span)
     const auto [found, isNew] = mLines.try_emplace(index);
     Line& line = found->second;
     if (isNew && mGapsOn)
-        line.gaps = traceGaps(trace.samples, trace.breaks);
+        line.gaps = TraceGaps().of(trace.samples, trace.breaks);
     if (line.height != height || line.span != span)
         line.pieces.clear();
     line.height = height;

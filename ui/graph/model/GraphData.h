@@ -34,6 +34,7 @@ struct GraphData {
     ValueScale scale{.lower = -100.0, .upper = 100.0};
     TimeReference times = {};      ///< how those of the axis and the cursor are told
     bool gapsOn = false;           ///< traces are interrupted where nothing was recorded for long, or no number
+    bool isGrowing = false;        ///< samples still come; a hole is news then, and gaps are shown in any case
     bool normalOn = false;         ///< where earlier flights lay is shown behind the traces
     int firstTableRow = 0, firstLegendRow = 0; ///< of the marker's table and of the legend where they have no room for all
     std::vector<CycleNote> notes = {};         ///< of the record, by time

@@ -6,7 +6,6 @@ namespace ZARN {
 
 void GraphFrame::update(const GraphModel& model, const QSizeF& size, double textSize, double ratio)
 {
-    mTraces.setGapsOn(model.settings().gapsOn);
     mLayout = GraphLayout(model, size, textSize);
     const auto columns = static_cast<int>(std::lround(mLayout.plot().width() * ratio));
     mTraces.update(model.traces(), model.window(), columns);

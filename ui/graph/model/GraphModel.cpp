@@ -34,6 +34,7 @@ void GraphModel::settingsChanged()
 {
     mColours = GraphColours(mSettings);
     mTraces.setGround(mColours.background, mSettings.palette);
+    mTraces.setGapsOn(mSettings.gapsOn || mSettings.isGrowing);
 }
 
 void GraphModel::setWindow(const TimeWindow& window)

@@ -265,6 +265,8 @@ bool RecordGraph::updateRecord(RecordData* pRecord)
     const RecordKey key = pRecord ? recordKey() : mMarkedRecord;
     mKeepsWindow = mpRecord && mpRecord == pRecord && key == mMarkedRecord && span() == mSpan;
     mpRecord = pRecord;
+    mModel.settings().isGrowing = pRecord && mSession.container.isLive();
+    mModel.settingsChanged();
     updateTimes();
     if (!mBeside.empty() && (!pRecord || !(key == mMarkedRecord))) {
         mBeside.clear();

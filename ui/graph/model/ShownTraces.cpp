@@ -2,6 +2,7 @@
 
 #include "card/CycleValues.h"
 #include "ui/graph/model/TraceColours.h"
+#include "ui/graph/model/TraceGaps.h"
 
 #include <algorithm>
 #include <utility>
@@ -93,11 +94,6 @@ void ShownTraces::setPrecision(int index, int digits)
     changed();
 }
 
-void ShownTraces::setHeight(int index, double strips)
-{
-    edit(index, [strips](GraphParameter& trace) { trace.height = strips; });
-}
-
 void ShownTraces::edit(int index, const std::function<void(GraphParameter&)>& change)
 {
     GraphParameter* pTrace = slot(index);
@@ -105,13 +101,6 @@ void ShownTraces::edit(int index, const std::function<void(GraphParameter&)>& ch
         return;
     change(*pTrace);
     colour(*pTrace);
-    changed();
-}
-
-void ShownTraces::setBands(int index, std::vector<GraphBand> bands)
-{
-    if (GraphParameter* pTrace = slot(index))
-        pTrace->bands = std::move(bands);
     changed();
 }
 
@@ -203,12 +192,22 @@ void ShownTraces::clearSamples()
     changed();
 }
 
+void ShownTraces::setGapsOn(bool on)
+{
+    if (std::exchange(mGapsOn, on) != on)
+        ++mGeneration;
+}
+
 std::optional<double> ShownTraces::valueAt(int index, double time) const
 {
     const GraphParameter* pTrace = at(index);
     if (!pTrace || pTrace->samples.empty() || time < pTrace->samples.time(0) - CycleValues::kBeforeFirst)
         return std::nullopt;
-    return pTrace->samples.value(pTrace->samples.lastAtOrBefore(time).value_or(0));
+    const std::size_t place = pTrace->samples.lastAtOrBefore(time).value_or(0);
+    const double age = time - pTrace->samples.time(place);
+    if (gapsOn() && age >= kLeastGap && age >= gapLength(pTrace->samples))
+        return std::nullopt;
+    return pTrace->samples.value(place);
 }
 
 } // namespace ZARN

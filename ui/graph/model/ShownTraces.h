@@ -28,10 +28,8 @@ public:
     void setActive(int index, bool on);
     void setName(int index, const QString& name, const QString& unit);
     void setPrecision(int index, int digits);
-    void setHeight(int index, double strips);
     /// For all that needs no rule: how it is drawn, what is said of it.
     void edit(int index, const std::function<void(GraphParameter&)>& change);
-    void setBands(int index, std::vector<GraphBand> bands);
     /// The user's own choice; an invalid one gives back the colour that the slot has by itself.
     void setColour(int index, const QColor& colour);
     /// What the traces are drawn on, and the palette of those without a colour of their own.
@@ -50,10 +48,15 @@ public:
     /// The trace whose values stand at the axis of a single graph; -1 when there is none.
     [[nodiscard]] int axis() const { return highlighted() >= 0 ? highlighted() : mShown.empty() ? -1 : mShown.front(); }
 
+    /// Whether traces are interrupted where nothing was recorded for long, or no number.
+    [[nodiscard]] bool gapsOn() const { return mGapsOn; }
+    void setGapsOn(bool on);
+
     void reserve(int index, std::size_t samples);
     void append(int index, std::span<const double> times, std::span<const double> values);
     void clearSamples();
-    /// The value in force at a time, and shortly before the first sample that one's; none without samples, and longer before it.
+    /// The value in force at a time, and shortly before the first sample that one's; none without samples, longer before it,
+    /// and in a gap where traces have such.
     [[nodiscard]] std::optional<double> valueAt(int index, double time) const;
 
 private:
@@ -70,6 +73,7 @@ private:
     EGraphPalette mPalette = EGraphPalette::eStandard;
     int mPointed = -1;
     int mPinned = -1;
+    bool mGapsOn = false;
     std::size_t mGeneration = 1;
 };
 

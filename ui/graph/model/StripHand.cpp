@@ -46,8 +46,13 @@ void StripHand::move(const QPointF& point)
         return;
     const double least = std::max(kLeast, mBoth - kGreatest), most = std::max(least, std::min(kGreatest, mBoth - kLeast));
     const double height = std::clamp(mUpperHeight + (point.y() - mStart) / mPixels, least, most);
-    mModel.traces().setHeight(mUpper, height);
-    mModel.traces().setHeight(mLower, mBoth - height);
+    setHeight(mUpper, height);
+    setHeight(mLower, mBoth - height);
+}
+
+void StripHand::setHeight(int index, double strips)
+{
+    mModel.traces().edit(index, [strips](GraphParameter& trace) { trace.height = strips; });
 }
 
 void StripHand::release()
@@ -69,7 +74,7 @@ void StripHand::scale(int index, double factor)
 {
     if (!isShown(mModel.traces(), index))
         return;
-    mModel.traces().setHeight(index, std::clamp(mModel.traces().at(index)->height * factor, kLeast, kGreatest));
+    setHeight(index, std::clamp(mModel.traces().at(index)->height * factor, kLeast, kGreatest));
     Q_EMIT mModel.signalStrips();
 }
 

@@ -22,6 +22,8 @@ public:
     void scale(int index, double factor);
 
 private:
+    void setHeight(int index, double strips);
+
     GraphModel& mModel;
     int mUpper = -1, mLower = -1;                          // the strips at the edge
     double mStart = 0.0;                                   // the pointer's height when the edge was taken

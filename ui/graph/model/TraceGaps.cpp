@@ -6,7 +6,6 @@ namespace ZARN {
 
 namespace {
 
-constexpr double kLeastGap = 2.0;
 constexpr double kSpacings = 5.0;
 constexpr std::size_t kLooks = 1024; // at so many distances the usual one shows
 
@@ -25,18 +24,32 @@ double gapLength(const SampleSeries& samples)
     return std::max(kLeastGap, kSpacings * *middle);
 }
 
-std::vector<uint32_t> traceGaps(const SampleSeries& samples, const std::vector<uint32_t>& breaks)
+bool TraceGaps::isGrown(const SampleSeries& samples) const
 {
-    const double length = gapLength(samples);
-    std::vector<uint32_t> gaps;
-    auto next = breaks.begin();
-    for (std::size_t i = 1; i < samples.size(); ++i) {
+    return mSeen > 0 && samples.size() >= mSeen && samples.size() < mAnew && samples.time(0) == mFirst && samples.time(mSeen - 1) == mLast;
+}
+
+const std::vector<uint32_t>& TraceGaps::of(const SampleSeries& samples, const std::vector<uint32_t>& breaks)
+{
+    if (!isGrown(samples)) {
+        mPlaces.clear();
+        mSeen = 0;
+        mAnew = 2 * samples.size();
+        mLength = gapLength(samples);
+    }
+    auto next = std::ranges::lower_bound(breaks, mSeen);
+    for (std::size_t i = std::max<std::size_t>(mSeen, 1); i < samples.size(); ++i) {
         while (next != breaks.end() && *next < i)
             ++next;
-        if ((next != breaks.end() && *next == i) || samples.time(i) - samples.time(i - 1) >= length)
-            gaps.push_back(static_cast<uint32_t>(i));
+        if ((next != breaks.end() && *next == i) || samples.time(i) - samples.time(i - 1) >= mLength)
+            mPlaces.push_back(static_cast<uint32_t>(i));
     }
-    return gaps;
+    mSeen = samples.size();
+    if (mSeen > 0) {
+        mFirst = samples.time(0);
+        mLast = samples.time(mSeen - 1);
+    }
+    return mPlaces;
 }
 
 } // namespace ZARN

@@ -32,8 +32,10 @@ void describeSlot(ShownTraces& traces, int slot, const Trace& trace)
     traces.setActive(slot, true);
     traces.setName(slot, QString::fromStdString(trace.name()), QString::fromStdString(trace.unit()));
     traces.setPrecision(slot, decimalsOf(trace));
-    traces.setBands(slot, graphBands(trace.decoder()));
-    traces.edit(slot, [&trace](GraphParameter& parameter) { parameter.pStates = StateNames::of(trace.decoder(), trace.parameter()); });
+    traces.edit(slot, [&trace](GraphParameter& parameter) {
+        parameter.bands = graphBands(trace.decoder());
+        parameter.pStates = StateNames::of(trace.decoder(), trace.parameter());
+    });
 }
 
 namespace {

@@ -13,19 +13,22 @@ namespace {
 constexpr double kOverdue = 2.0; // seconds without a sample, or
 constexpr double kPeriods = 3.0; // times the distance of the last two
 
-/// Of what is received still, the newest sample stands until the next one is overdue. Before it, and in recordings, there is none.
-std::optional<DisplayValue> newestAt(const Session& session, const ProfileParameter& parameter, double time)
+/// Of what is received still, a sample stands until the next one is overdue.
+std::optional<DisplayValue> receivedAt(const CycleValues& values, const ProfileParameter& parameter, double time)
 {
-    const auto pChannel =
-        session.container.isLive() ? channelOf(session.container.recordData(), session.profile.context(), parameter) : nullptr;
-    const std::size_t size = pChannel ? pChannel->entries.size() : 0;
-    if (size < 2)
+    const auto pChannel = values.channel(parameter);
+    if (!pChannel)
         return {};
-    const double last = pChannel->entries.time(size - 1);
-    if (time < last || time - last > std::max(kOverdue, kPeriods * (last - pChannel->entries.time(size - 2))))
+    const std::size_t size = pChannel->entries.size();
+    const std::size_t next = time < pChannel->entries.time(size - 1) ? pChannel->firstAtOrAfter(time) : size;
+    if (next == 0)
+        return values.shownAt(parameter, time);
+    const double last = pChannel->entries.time(next - 1);
+    const double spacing = next > 1 ? last - pChannel->entries.time(next - 2) : 0.0;
+    if (time - last > std::max(kOverdue, kPeriods * spacing))
         return {};
-    const ValueDecoder decoder = session.profile.context().decoder(parameter);
-    const Payload payload = pChannel->entries.stored(size - 1).payload;
+    const ValueDecoder decoder = values.context().decoder(parameter);
+    const Payload payload = pChannel->entries.stored(next - 1).payload;
     CoordinateFilter filter, other;
     DisplayValue result;
     result.text = decoder.text(decoder.textValue(payload, filter));
@@ -59,9 +62,9 @@ std::vector<MapValue> MapValues::at(double time, bool hasRecord) const
 
 void MapValues::fill(MapValue& row, const ProfileParameter& parameter, double time) const
 {
-    std::optional<DisplayValue> value = newestAt(mSession, parameter, time);
-    if (!value)
-        value = mSession.container.values().shownAt(parameter, time);
+    const CycleValues values = mSession.container.values();
+    const std::optional<DisplayValue> value =
+        mSession.container.isLive() ? receivedAt(values, parameter, time) : values.shownAt(parameter, time);
     row.text = QString::fromStdString(value ? value->text : "-");
     if (!value)
         return;
