@@ -141,10 +141,11 @@ void TableRows::mergeKeys()
 {
     for (const Channel& channel : mChannels) {
         std::vector<TimeKey> keys;
-        channel.forEachKey([](TimeKey, TimeKey) { return false; }, [&keys](TimeKey key) {
-            if (keys.empty() || keys.back() != key)
-                keys.push_back(key);
-        });
+        channel.forEachKey([](TimeKey, TimeKey) { return false; },
+                           [&keys](TimeKey key) {
+                               if (keys.empty() || keys.back() != key)
+                                   keys.push_back(key);
+                           });
         std::vector<TimeKey> merged;
         merged.reserve(mKeys.size() + keys.size());
         std::set_union(mKeys.begin(), mKeys.end(), keys.begin(), keys.end(), std::back_inserter(merged));

@@ -11,8 +11,8 @@ namespace ZARN {
 
 namespace {
 
-constexpr int kBatchPeriod = 33;   // milliseconds
-constexpr int kRetryPeriod = 1000; // milliseconds
+constexpr int kBatchPeriod = 33;    // milliseconds
+constexpr int kRetryPeriod = 1000;  // milliseconds
 constexpr int kAnswerPeriod = 5000; // milliseconds: some plugins never say that nobody answers
 
 } // namespace

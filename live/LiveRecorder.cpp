@@ -143,8 +143,7 @@ bool LiveRecorder::write(const std::string& bytes)
 /// What is left ends with a whole batch; a file without its header is none. Where even that fails the reader tells what is cut off.
 void LiveRecorder::dropUnfinished() const
 {
-    [[maybe_unused]] const int ignored =
-        mFileBytes == 0 ? ::unlink(encodeFileName(mFile).c_str()) : ::ftruncate(mDescriptor, mFileBytes);
+    [[maybe_unused]] const int ignored = mFileBytes == 0 ? ::unlink(encodeFileName(mFile).c_str()) : ::ftruncate(mDescriptor, mFileBytes);
 }
 
 bool LiveRecorder::closeFile()

@@ -12,7 +12,7 @@ namespace ZARN {
 
 namespace {
 
-constexpr int kPeriod = 2;             // milliseconds
+constexpr int kPeriod = 2;               // milliseconds
 constexpr std::size_t kMostFrames = 400; // a period: what is sent faster would only pile up in memory
 
 } // namespace
