@@ -32,6 +32,7 @@ MapValueTable::MapValueTable(QWidget* pParent) : QTableView(pParent), mpModel(ne
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     setShowGrid(false);
     setWordWrap(false);
+    setTextElideMode(Qt::ElideMiddle); // names differ in their ends
     setSelectionMode(QAbstractItemView::NoSelection);
     setTabKeyNavigation(false);
     setEditTriggers(QAbstractItemView::NoEditTriggers);

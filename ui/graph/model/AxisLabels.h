@@ -1,0 +1,22 @@
+#pragma once
+
+#include "ui/graph/model/GraphModel.h"
+
+#include <vector>
+
+namespace ZARN {
+
+class AxisTicks;
+
+/// A number at an axis of values.
+struct AxisLabel {
+    double y = 0.0; ///< of its middle, from the upper end of the axis
+    QString text;
+    bool isTick = true; ///< else it stands at an end, which need not be round
+};
+
+/// What has room beside an axis: the round values, but where fewer than two of them have, its ends, for one number is no scale. None where a line
+/// has no room, and for states, which have names.
+[[nodiscard]] std::vector<AxisLabel> axisLabels(const GraphModel& model, int index, const AxisTicks& ticks, double height, double line);
+
+} // namespace ZARN
