@@ -23,6 +23,7 @@ constexpr int kAbove = 5;
 constexpr int kBelow = 6; // the style's line under the selected tab
 constexpr int kBadgeHeight = 15;
 constexpr int kMostShown = 99;
+constexpr int kCutStep = 3; // pixels by which the widest titles are cut at a time
 
 } // namespace
 
@@ -68,10 +69,9 @@ QString DataTabBar::title(int index, EFit fit) const
 
 int DataTabBar::tabWidth(int index, EFit fit) const
 {
-    if (mIsCut)
-        return std::max(width() / std::max(count(), 1), kIcon);
     const QFontMetrics metrics(titleFont(true)); // so that no tab moves when another is selected
-    return std::max(metrics.size(0, title(index, fit)).width(), icon()) + 2 * (fit == eWide ? kMargin : kTightMargin);
+    const int wanted = std::max(metrics.size(0, title(index, fit)).width(), icon()) + 2 * (fit == eWide ? kMargin : kTightMargin);
+    return std::min(wanted, mWidest);
 }
 
 int DataTabBar::icon() const
@@ -99,18 +99,19 @@ void DataTabBar::arrange()
             sum += tabWidth(index, fit);
         return sum;
     };
-    const auto before = std::tuple(mFit, mSmaller, mIsCut);
+    const auto before = std::tuple(mFit, mSmaller, mWidest);
     mSmaller = 0;
-    mIsCut = false;
+    mWidest = kNoLimit;
     EFit fit = eWide;
     while (fit != eTwoLines && together(fit) > width())
         fit = static_cast<EFit>(fit + 1);
     const int least = std::max(kLeastTitle, textSize(*this) * 2 / 3);
     while (together(fit) > width() && textSize(*this) - mSmaller > least)
         ++mSmaller;
-    mIsCut = together(fit) > width();
+    for (int widest = width(); together(fit) > width() && widest >= kIcon; widest -= kCutStep)
+        mWidest = widest;
     mFit = fit;
-    if ((before != std::tuple(mFit, mSmaller, mIsCut) || mIsCut) && count() > 0)
+    if (before != std::tuple(mFit, mSmaller, mWidest) && count() > 0)
         setTabText(0, tabText(0)); // lays them out anew
 }
 
@@ -160,7 +161,7 @@ void DataTabBar::paintTab(QPainter& painter, int index)
     painter.setPen(palette().color(QPalette::WindowText));
     QStringList lines = title(index, mFit).split('\n');
     for (QString& line : lines)
-        line = painter.fontMetrics().elidedText(line, mIsCut ? Qt::ElideRight : Qt::ElideNone, place.width());
+        line = painter.fontMetrics().elidedText(line, Qt::ElideRight, place.width());
     painter.drawText(place, Qt::AlignHCenter | Qt::AlignTop, lines.join('\n'));
     if (hasFocus() && selected) {
         painter.setPen(QPen(palette().color(QPalette::Highlight), 1, Qt::DotLine));

@@ -7,7 +7,7 @@
 namespace ZARN {
 
 /// The tabs of the data area: the icon above the title, so that all six fit a small window, and a count at the icon's corner. Where the titles do
-/// not fit, the tabs stand closer, then long titles take two lines, then they are smaller; at last all tabs are equally wide and titles are cut.
+/// not fit, the tabs stand closer, then long titles take two lines, then they are smaller; at last the longest are cut.
 /// No tab moves when another is selected.
 class DataTabBar : public QTabBar {
     Q_OBJECT
@@ -47,7 +47,8 @@ private:
     std::vector<int> mCounts;
     EFit mFit = eWide;
     int mSmaller = 0; ///< pixels by which titles are smaller than other texts
-    bool mIsCut = false;
+    static constexpr int kNoLimit = 100000;
+    int mWidest = kNoLimit; ///< of tabs, pixels
 };
 
 } // namespace ZARN

@@ -114,8 +114,9 @@ void GraphAxes::drawValueAxis(Canvas& canvas, const ValueAxis& axis, bool hasGri
     for (const AxisLabel& label : axisLabels(mModel, axis.index, ticks, area.height(), mLayout.line())) {
         const double y = area.top() + label.y;
         labels.push_back({QPointF(right - kLabelGap, y), label.text});
-        if (label.isTick)
-            marks.insert(marks.end(), {QPointF(right - kLabelGap + 2, y), QPointF(right - 1, y)});
+        const double mark = area.top() + label.tick.value_or(0);
+        if (label.tick)
+            marks.insert(marks.end(), {QPointF(right - kLabelGap + 2, mark), QPointF(right - 1, mark)});
     }
     const bool isSplit = mModel.settings().displayMode == eSplit;
     const std::optional<QColor> colour = isSplit || !axis.isOwn ? std::nullopt : axisColour(axis.index);

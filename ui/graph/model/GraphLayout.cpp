@@ -192,10 +192,12 @@ bool GraphLayout::isPanelWanted(const GraphModel& model, double height, double p
 double GraphLayout::axisWidth(const GraphModel& model, int index, double height) const
 {
     const ValueSpan range = model.valueSpan(index);
-    const AxisTicks ticks(range[0], range[1], height, valueSpacing(height, mLine));
     qsizetype longest = 4;
-    for (const AxisLabel& label : axisLabels(model, index, ticks, height, mLine))
-        longest = std::max(longest, label.text.size());
+    for (const double rounded : {std::floor(height), std::ceil(height)}) { // as its area will be
+        const AxisTicks ticks(range[0], range[1], rounded, valueSpacing(rounded, mLine));
+        for (const AxisLabel& label : axisLabels(model, index, ticks, rounded, mLine))
+            longest = std::max(longest, label.text.size());
+    }
     return static_cast<double>(std::min<qsizetype>(longest, 14)) * mCharacter + kGap;
 }
 

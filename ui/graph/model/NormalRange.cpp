@@ -15,7 +15,8 @@ namespace {
 
 constexpr float kShare = 0.7F;    // of the trace's colour in its hatching
 constexpr double kContrast = 3.0;
-constexpr double kHatching = 9.0; // pixels from line to line
+constexpr double kHatching = 7.0; // pixels from line to line
+constexpr double kLeastHatched = 4.0;
 constexpr double kKey = 18.0;     // of the hatching beside its name
 
 } // namespace
@@ -51,10 +52,12 @@ void NormalRange::draw(Canvas& canvas) const
         draw(canvas, index);
 }
 
-/// Not filled, as the bands of limits are.
+/// Not filled, as the bands of limits are; without outlines, which would look like curves.
 void NormalRange::hatch(Canvas& canvas, const QRectF& area, const QColor& colour)
 {
-    std::vector<QPointF> lines{area.topLeft(), area.topRight(), area.bottomLeft(), area.bottomRight()};
+    if (area.height() < kLeastHatched)
+        return canvas.fillRect(area, colour);
+    std::vector<QPointF> lines;
     // Rising by 45 degrees, at the same places whatever the part of a band that is seen.
     const double first = std::ceil((area.left() + area.top()) / kHatching) * kHatching;
     for (double sum = first; sum < area.right() + area.bottom(); sum += kHatching) {
