@@ -1,5 +1,7 @@
 #include "ui/data/SegmentClock.h"
 
+#include "app/gui/TextTwin.h"
+
 #include <QPainter>
 
 #include <algorithm>
@@ -60,6 +62,7 @@ void paintDots(QPainter& painter, QChar character, const QRectF& box, double thi
 
 SegmentClock::SegmentClock(const char* name, QWidget* pParent) : QFrame(pParent)
 {
+    TextTwin::give(*this, [this] { return mText; });
     setObjectName(name);
     setFrameShape(QFrame::Box);
     setAutoFillBackground(true);
@@ -70,7 +73,6 @@ void SegmentClock::display(const QString& text)
     if (mText == text)
         return;
     mText = text;
-    setAccessibleDescription(text);
     update();
 }
 

@@ -193,11 +193,10 @@ double GraphLayout::axisWidth(const GraphModel& model, int index, double height)
 {
     const ValueSpan range = model.valueSpan(index);
     qsizetype longest = 4;
-    for (const double rounded : {std::floor(height), std::ceil(height)}) { // as its area will be
-        const AxisTicks ticks(range[0], range[1], rounded, valueSpacing(rounded, mLine));
-        for (const AxisLabel& label : axisLabels(model, index, ticks, rounded, mLine))
-            longest = std::max(longest, label.text.size());
-    }
+    const double rounded = std::floor(height) < mLine ? std::ceil(height) : std::floor(height); // its area may be either: the longer labels count
+    const AxisTicks ticks(range[0], range[1], rounded, valueSpacing(rounded, mLine));
+    for (const AxisLabel& label : axisLabels(model, index, ticks, rounded, mLine))
+        longest = std::max(longest, label.text.size());
     return static_cast<double>(std::min<qsizetype>(longest, 14)) * mCharacter + kGap;
 }
 
