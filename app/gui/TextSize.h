@@ -38,4 +38,11 @@ constexpr int kSmallestText = 8; ///< pixels, below which nothing is read
     return textSize(QFontInfo(widget.font()).pixelSize(), text);
 }
 
+/// An icon or a display grows with the texts around it. @param usual its size beside the usual ones, and beside smaller ones. @return pixels
+[[nodiscard]] inline int grownWithText(const QWidget& widget, int usual)
+{
+    constexpr double kUsualText = 12.0;
+    return std::max(usual, static_cast<int>(std::lround(usual * textSize(widget) / kUsualText)));
+}
+
 } // namespace ZARN

@@ -2,11 +2,14 @@
 
 #include <QCryptographicHash>
 
+#include <algorithm>
+
 namespace OpenStreet {
 
 namespace {
 
 constexpr const char* kDefault = "https://tile.openstreetmap.org/{z}/{x}/{y}.png";
+constexpr const char* kPlaces[] = {"{z}", "{x}", "{y}"};
 
 QString completed(QString address)
 {
@@ -27,9 +30,11 @@ QString completed(QString address)
 TileServer::TileServer(const QString& address) : mTemplate(completed(address))
 {
     const QUrl example = url({1, 0, 0});
+    const QString authority = mTemplate.section(QLatin1String("://"), 1).section(QLatin1Char('/'), 0, 0);
+    const bool isOneServer = std::ranges::none_of(kPlaces, [&](const char* place) { return authority.contains(QLatin1String(place)); });
+    const bool isWhole = std::ranges::all_of(kPlaces, [this](const char* place) { return mTemplate.contains(QLatin1String(place)); });
     const bool web = example.scheme() == QLatin1String("https") || example.scheme() == QLatin1String("http");
-    mValid = web && example.isValid() && !example.host().isEmpty() && mTemplate.contains(QLatin1String("{z}")) &&
-             mTemplate.contains(QLatin1String("{x}")) && mTemplate.contains(QLatin1String("{y}"));
+    mValid = web && isOneServer && isWhole && example.isValid() && !example.host().isEmpty();
 }
 
 QString TileServer::name() const

@@ -43,7 +43,7 @@ Palette::Palette(const ColourTable& table, ColourTable::EMedium medium) : graph(
     for (std::size_t i = 0; i < map.phases.size(); ++i)
         map.phases[i] = table.colour(QStringLiteral("mapPhase%1").arg(i + 1), medium);
     faults = {of("faultInfo"), of("faultWarning"), of("faultFault"), of("faultQuiet"), of("faultNone"), of("faultLine"), of("timePointer")};
-    course = {of("courseRecorded"), of("border"),      of("quiet"),       of("fieldBorder"),  of("courseGround"),
+    course = {of("courseRecorded"), of("quiet"),       of("fieldBorder"), of("courseLine"),   of("courseGround"),
               of("courseTakeOff"),  of("courseClimb"), of("courseLevel"), of("courseDescent")};
     signs = {of("signGood"), of("signWarning"), of("signLimit"), of("signUnknown"), of("onSign"), of("onWarning")};
     tables = {of("timeColumn"), of("valueMark"), of("field"), of("dimText"), of("badge"), of("onBadge")};

@@ -54,7 +54,8 @@ struct Palette {
         QColor line, pointer;
     };
     struct Course {
-        QColor recorded, border, label, outline;
+        QColor recorded, label, outline;
+        QColor line; ///< above a phase, and between two
         QColor ground, takeOff, climb, level, descent; ///< phases
 
         [[nodiscard]] const QColor& of(EFlightPhase phase) const;

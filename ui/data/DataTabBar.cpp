@@ -8,6 +8,7 @@
 #include <QStylePainter>
 
 #include <algorithm>
+#include <tuple>
 #include <utility>
 
 namespace ZARN {
@@ -17,21 +18,20 @@ namespace {
 constexpr int kIcon = 32;
 constexpr int kMargin = 6; // left and right of the title
 constexpr int kTightMargin = 2;
-constexpr int kBesideIcon = 28; // for a count
+constexpr int kLeastTitle = 10; // pixels of a letter, or two thirds of other texts
 constexpr int kAbove = 5;
 constexpr int kBelow = 6; // the style's line under the selected tab
 constexpr int kBadgeHeight = 15;
 constexpr int kMostShown = 99;
+constexpr int kCutStep = 3; // pixels by which the widest titles are cut at a time
 
 } // namespace
 
 DataTabBar::DataTabBar(QWidget* pParent) : QTabBar(pParent)
 {
     setExpanding(false);
-    setIconSize(QSize(kIcon, kIcon));
     setDrawBase(false);
     setElideMode(Qt::ElideNone);
-    connect(this, &QTabBar::currentChanged, this, [this] { setTabText(currentIndex(), tabText(currentIndex())); }); // lays them out anew
 }
 
 void DataTabBar::setCount(int index, int count)
@@ -50,7 +50,7 @@ int DataTabBar::countOf(int index) const
 QFont DataTabBar::titleFont(bool selected) const
 {
     QFont title = font();
-    title.setPixelSize(textSize(*this));
+    title.setPixelSize(std::max(textSize(*this) - mSmaller, 1));
     title.setBold(selected);
     return title;
 }
@@ -58,8 +58,6 @@ QFont DataTabBar::titleFont(bool selected) const
 QString DataTabBar::title(int index, EFit fit) const
 {
     QString text = tabText(index);
-    if (fit == eSelectedOnly)
-        return index == currentIndex() ? text : QString();
     if (fit != eTwoLines)
         return text;
     if (const auto blank = text.lastIndexOf(u' '); blank > 0)
@@ -72,19 +70,20 @@ QString DataTabBar::title(int index, EFit fit) const
 int DataTabBar::tabWidth(int index, EFit fit) const
 {
     const QFontMetrics metrics(titleFont(true)); // so that no tab moves when another is selected
-    const auto wide = [&](int tab) {
-        return std::max(metrics.size(0, title(tab, fit)).width(), kIcon) + 2 * (fit == eWide ? kMargin : kTightMargin);
-    };
-    if (fit != eSelectedOnly || index == currentIndex())
-        return wide(index);
-    const int share = (width() - wide(currentIndex())) / std::max(count() - 1, 1); // room for the counts
-    return std::clamp(share, wide(index), kIcon + kBesideIcon);
+    const int wanted = std::max(metrics.size(0, title(index, fit)).width(), icon()) + 2 * (fit == eWide ? kMargin : kTightMargin);
+    return std::min(wanted, mWidest);
+}
+
+int DataTabBar::icon() const
+{
+    const int room = count() > 0 ? width() / count() - 2 * kTightMargin : 0; // beside one another they must have it
+    return std::clamp(room, kIcon, grownWithText(*this, kIcon));
 }
 
 QSize DataTabBar::tabSizeHint(int index) const
 {
     const int lines = mFit == eTwoLines ? 2 : 1;
-    return {tabWidth(index, mFit), kAbove + kIcon + lines * QFontMetrics(titleFont(true)).lineSpacing() + kBelow};
+    return {tabWidth(index, mFit), kAbove + icon() + lines * QFontMetrics(titleFont(true)).lineSpacing() + kBelow};
 }
 
 QSize DataTabBar::minimumTabSizeHint(int index) const
@@ -100,10 +99,19 @@ void DataTabBar::arrange()
             sum += tabWidth(index, fit);
         return sum;
     };
+    const auto before = std::tuple(mFit, mSmaller, mWidest);
+    mSmaller = 0;
+    mWidest = kNoLimit;
     EFit fit = eWide;
-    while (fit != eSelectedOnly && together(fit) > width())
+    while (fit != eTwoLines && together(fit) > width())
         fit = static_cast<EFit>(fit + 1);
-    if ((std::exchange(mFit, fit) != fit || fit == eSelectedOnly) && count() > 0)
+    const int least = std::max(kLeastTitle, textSize(*this) * 2 / 3);
+    while (together(fit) > width() && textSize(*this) - mSmaller > least)
+        ++mSmaller;
+    for (int widest = width(); together(fit) > width() && widest >= kIcon; widest -= kCutStep)
+        mWidest = widest;
+    mFit = fit;
+    if (before != std::tuple(mFit, mSmaller, mWidest) && count() > 0)
         setTabText(0, tabText(0)); // lays them out anew
 }
 
@@ -145,13 +153,16 @@ void DataTabBar::paintTab(QPainter& painter, int index)
     initStyleOption(&option, index);
     style()->drawControl(QStyle::CE_TabBarTabShape, &option, &painter, this);
     const bool selected = index == currentIndex();
-    QRect icon(0, option.rect.top() + kAbove, kIcon, kIcon);
-    icon.moveLeft(option.rect.center().x() - kIcon / 2);
+    QRect icon(0, option.rect.top() + kAbove, this->icon(), this->icon());
+    icon.moveLeft(option.rect.center().x() - icon.width() / 2);
     tabIcon(index).paint(&painter, icon);
     const QRect place(option.rect.left(), icon.bottom() + 1, option.rect.width(), option.rect.bottom() - icon.bottom() - kBelow);
     painter.setFont(titleFont(selected));
     painter.setPen(palette().color(QPalette::WindowText));
-    painter.drawText(place, Qt::AlignHCenter | Qt::AlignTop, title(index, mFit));
+    QStringList lines = title(index, mFit).split('\n');
+    for (QString& line : lines)
+        line = painter.fontMetrics().elidedText(line, Qt::ElideRight, place.width());
+    painter.drawText(place, Qt::AlignHCenter | Qt::AlignTop, lines.join('\n'));
     if (hasFocus() && selected) {
         painter.setPen(QPen(palette().color(QPalette::Highlight), 1, Qt::DotLine));
         painter.drawRect(option.rect.adjusted(2, 2, -3, -4));

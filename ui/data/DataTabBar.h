@@ -6,8 +6,9 @@
 
 namespace ZARN {
 
-/// The tabs of the data area: the icon above the title, so that all six fit a small window, and a count at the icon's corner. No title is cut:
-/// where they do not fit, the tabs stand closer, then long titles take two lines, then only the selected tab has its title.
+/// The tabs of the data area: the icon above the title, so that all six fit a small window, and a count at the icon's corner. Where the titles do
+/// not fit, the tabs stand closer, then long titles take two lines, then they are smaller; at last the longest are cut.
+/// No tab moves when another is selected.
 class DataTabBar : public QTabBar {
     Q_OBJECT
 
@@ -32,9 +33,10 @@ protected:
     void tabInserted(int index) override;
 
 private:
-    enum EFit { eWide, eClose, eTwoLines, eSelectedOnly };
+    enum EFit { eWide, eClose, eTwoLines };
 
     [[nodiscard]] QString title(int index, EFit fit) const;
+    [[nodiscard]] int icon() const;
     [[nodiscard]] int tabWidth(int index, EFit fit) const;
     /// Takes the first arrangement that the width has room for.
     void arrange();
@@ -44,6 +46,9 @@ private:
 
     std::vector<int> mCounts;
     EFit mFit = eWide;
+    int mSmaller = 0; ///< pixels by which titles are smaller than other texts
+    static constexpr int kNoLimit = 100000;
+    int mWidest = kNoLimit; ///< of tabs, pixels
 };
 
 } // namespace ZARN

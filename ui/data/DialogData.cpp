@@ -22,7 +22,7 @@ namespace ZARN {
 namespace {
 
 constexpr int kTickMilliseconds = 20;
-constexpr QSize kModeIcon(24, 24);
+constexpr int kModeIcon = 24; // pixels
 constexpr int kLists = 200, kMap = 300; // shares of the width in the usual size of text
 constexpr double kRounding = 1e-6;      // of a slider position: the time of a position must not come back as the position before it
 
@@ -87,6 +87,11 @@ void DialogData::shareRoom()
 void DialogData::changeEvent(QEvent* pEvent)
 {
     QWidget::changeEvent(pEvent);
+    if (pEvent->type() == QEvent::FontChange || pEvent->type() == QEvent::StyleChange) {
+        const int icon = grownWithText(*this, kModeIcon);
+        for (QAbstractButton* pButton : mpMapModes->buttons())
+            pButton->setIconSize(QSize(icon, icon));
+    }
     if (pEvent->type() == QEvent::FontChange && mpSplitter->orientation() == Qt::Horizontal)
         shareRoom();
 }
@@ -129,7 +134,7 @@ void DialogData::createMapModes()
     for (const auto& [icon, toolTip] : modes) {
         auto* pButton = new QToolButton;
         pButton->setIcon(ImageHandler::icon(icon));
-        pButton->setIconSize(kModeIcon);
+        pButton->setIconSize(QSize(kModeIcon, kModeIcon));
         pButton->setToolTip(toolTip);
         pButton->setAccessibleName(toolTip);
         pButton->setCheckable(true);

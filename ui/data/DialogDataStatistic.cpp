@@ -42,6 +42,7 @@ DialogDataStatistic::DialogDataStatistic(const Session& session, QWidget* pParen
 {
     mpEdit->setReadOnly(true);
     mpEdit->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    mpEdit->setCursorWidth(0); // nothing can be written there
     mpEdit->setContextMenuPolicy(Qt::CustomContextMenu);
     mpEdit->setProperty("copiesUnselected", true); // or the window would take the copy key first
     mpEdit->installEventFilter(this);

@@ -154,7 +154,7 @@ void DialogDataTable::slotFont()
     const QString style = QString("ZARN--RowTable { font-size: %1px; }").arg(font.pixelSize());
     if (mpView->styleSheet() != style)
         mpView->setStyleSheet(style);
-    mpView->setRowHeight(std::max(kRowHeight, QFontMetrics(font).height()));
+    mpView->setRowHeight(std::max(grownWithText(*this, kRowHeight), QFontMetrics(font).height()));
     mpLiveView->verticalHeader()->setDefaultSectionSize(std::max(kLiveRowHeight, QFontMetrics(this->font()).height() + 4));
     mWidened = false;
     sizeColumns();

@@ -2,6 +2,7 @@
 
 #include "app/TimeText.h"
 #include "ui/canvas/Palette.h"
+#include "ui/canvas/PhaseStrip.h"
 #include "ui/overview/model/VerdictSign.h"
 
 #include <QHelpEvent>
@@ -17,7 +18,6 @@ namespace ZARN {
 namespace {
 
 constexpr double kBand = 14, kMark = 8, kLeastMark = 3; // pixels
-constexpr double kFlightLine = 2;
 constexpr int kHeight = 32, kLeastWidth = 120;
 constexpr double kGrip = 5; // half the width of the handle
 constexpr double kNear = 4; // how far from a mark the pointer may be
@@ -78,15 +78,10 @@ void PositionBar::paintEvent(QPaintEvent* /*pEvent*/)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const Palette::Course& colours = Palette::screen().course;
-    painter.fillRect(band(), colours.recorded);
-    for (const PositionMarks::Band& phase : mMarks.bands()) {
-        painter.fillRect(area(phase.from, phase.until, band().top(), kBand), colours.of(phase.phase));
-        if (phase.phase != EFlightPhase::eGround) // from descent it differs little
-            painter.fillRect(area(phase.from, phase.until, band().top(), kFlightLine), colours.label);
-    }
-    painter.setPen(colours.outline);
-    painter.drawRect(band().adjusted(-0.5, -0.5, 0.5, 0.5));
+    std::vector<PhaseStrip::Step> steps;
+    for (const PositionMarks::Band& phase : mMarks.bands())
+        steps.push_back({band().left() + phase.from * band().width(), band().left() + phase.until * band().width(), phase.phase});
+    PhaseStrip::paint(painter, band(), steps);
     paintMarks(painter);
     paintHandle(painter);
 }

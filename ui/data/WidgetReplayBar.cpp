@@ -2,16 +2,17 @@
 
 #include "app/Numeric.h"
 #include "app/gui/ImageHandler.h"
+#include "app/gui/TextSize.h"
 #include "ui/data/JumpSlider.h"
 #include "ui/data/PositionBar.h"
 #include "ui/data/ReplayButton.h"
+#include "ui/data/SegmentClock.h"
 #include "ui/data/SpeedBox.h"
 #include "ui/data/TimeEntry.h"
 #include "ui/data/model/ReplaySpeed.h"
 
 #include <QDateTime>
 #include <QEvent>
-#include <QLCDNumber>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -22,23 +23,11 @@ namespace ZARN {
 namespace {
 
 constexpr int kDateDigits = 19;
-constexpr int kTimeDigits = 12; // without a minus sign
 constexpr QSize kClockSize(220, 60);
 constexpr int kEntryWidth = 120;
 constexpr int kSliderWidth = 120;
 constexpr int kWidePosition = 600; // below, a line for itself serves it better
 constexpr double kHundredths = 100.0;
-
-QLCDNumber* createClock(const char* name, int digits, const QString& text)
-{
-    auto* pClock = new QLCDNumber(digits);
-    pClock->setObjectName(name);
-    pClock->setSegmentStyle(QLCDNumber::Flat);
-    pClock->setMinimumSize(kClockSize);
-    pClock->setAutoFillBackground(true);
-    pClock->display(text);
-    return pClock;
-}
 
 } // namespace
 
@@ -64,9 +53,11 @@ WidgetReplayBar::WidgetReplayBar(bool emu, QWidget* pParent)
 
 void WidgetReplayBar::createClocks()
 {
-    mpDateClock = createClock("dateClock", kDateDigits, "--.--.---- --:--:--");
+    mpDateClock = new SegmentClock("dateClock");
+    mpDateClock->display("--.--.---- --:--:--");
     mpDateClock->setToolTip(tr("Date and time of the view, as the unit recorded it"));
-    mpTimeClock = createClock("timeClock", kTimeDigits, "--:--:--.---");
+    mpTimeClock = new SegmentClock("timeClock");
+    mpTimeClock->display("--:--:--.---");
 }
 
 void WidgetReplayBar::createSliders()
@@ -198,10 +189,20 @@ void WidgetReplayBar::arrange()
         {eAll, text}, {eAllButPosition, text}, {eClocksAndReplay, text}, {eClocksAndReplay, icon}, {eClocks, text}};
     const auto* pWay = std::ranges::find_if(ways, [this](const auto& way) { return width() >= widthFor(way.first, way.second); });
     const auto [fit, buttonWidth] = pWay == std::end(ways) ? std::pair(eClocks, icon) : *pWay;
+    fitClocks(width() - widthFor(fit, buttonWidth));
     mpReplay->setFixedWidth(buttonWidth);
     mpStop->setFixedWidth(buttonWidth);
     if (fit != mFit)
         fillLines(fit);
+}
+
+/// They grow with the text, as far as that leaves all its place.
+void WidgetReplayBar::fitClocks(int spare)
+{
+    const int wanted = grownWithText(*this, kClockSize.width()) - kClockSize.width();
+    const QSize size = kClockSize.scaled(kClockSize.width() + std::clamp(spare / 2, 0, wanted), QWIDGETSIZE_MAX, Qt::KeepAspectRatio);
+    mpDateClock->setMinimumSize(size);
+    mpTimeClock->setMinimumSize(size);
 }
 
 void WidgetReplayBar::resizeEvent(QResizeEvent* pEvent)
@@ -242,7 +243,6 @@ void WidgetReplayBar::setDateTime(const QDateTime& dateTime)
 void WidgetReplayBar::setTime(int64_t milliseconds)
 {
     const QString text = mTimes.text(milliseconds);
-    mpTimeClock->setDigitCount(static_cast<int>(text.size())); // one more for a minus sign
     mpTimeClock->display(text);
     const int64_t told = mTimes.toldMilliseconds(milliseconds) / 1000;
     mpTime->showTime(static_cast<int>(std::clamp<int64_t>(told, -TimeEntry::kLatest, TimeEntry::kLatest)));

@@ -7,13 +7,13 @@
 
 class QBoxLayout;
 class QDateTime;
-class QLCDNumber;
 
 namespace ZARN {
 
 class JumpSlider;
 class PositionBar;
 class ReplayButton;
+class SegmentClock;
 class SpeedBox;
 class TimeEntry;
 
@@ -67,12 +67,13 @@ private:
     void stepSpeed(int steps);
     void connectControls();
     void arrange();
+    void fitClocks(int spare);
     void fillLines(EFit fit);
     [[nodiscard]] int widthOfText() const;
     [[nodiscard]] int widthFor(EFit fit, int buttonWidth) const;
 
-    QLCDNumber* mpDateClock = nullptr;
-    QLCDNumber* mpTimeClock = nullptr;
+    SegmentClock* mpDateClock = nullptr;
+    SegmentClock* mpTimeClock = nullptr;
     ReplayButton* mpReplay;
     ReplayButton* mpStop;
     PositionBar* mpPosition;

@@ -1,10 +1,14 @@
 #include "ui/graph/GraphButtons.h"
 
 #include "app/gui/ImageHandler.h"
+#include "app/gui/TextSize.h"
 
 #include <QButtonGroup>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QToolButton>
+
+#include <algorithm>
 
 // Resources of a static library are not registered by themselves; the macro must stand outside every namespace.
 static void registerIcons()
@@ -13,6 +17,12 @@ static void registerIcons()
 }
 
 namespace ZARN {
+
+namespace {
+
+constexpr int kIcon = 32; // pixels beside the usual text
+
+} // namespace
 
 GraphButtons::GraphButtons(QWidget* pParent) : QWidget(pParent), mpGroup(new QButtonGroup(this))
 {
@@ -52,8 +62,8 @@ GraphButtons::GraphButtons(QWidget* pParent) : QWidget(pParent), mpGroup(new QBu
 void GraphButtons::add(EGraphCommand command, const QString& icon, const QString& toolTip, bool isCheckable)
 {
     auto* pButton = new QToolButton;
-    pButton->setFixedSize(32, 32);
-    pButton->setIconSize(QSize(32, 32));
+    pButton->setFixedSize(kIcon, kIcon);
+    pButton->setIconSize(QSize(kIcon, kIcon));
     pButton->setIcon(ImageHandler::icon(icon));
     pButton->setToolTip(toolTip);
     pButton->setAccessibleName(toolTip);
@@ -61,6 +71,37 @@ void GraphButtons::add(EGraphCommand command, const QString& icon, const QString
     pButton->setObjectName(icon);
     mpGroup->addButton(pButton, command);
     layout()->addWidget(pButton);
+}
+
+QSize GraphButtons::minimumSizeHint() const
+{
+    const QMargins margins = layout()->contentsMargins();
+    const int count = static_cast<int>(mpGroup->buttons().size());
+    return {count * kIcon + (count - 1) * layout()->spacing() + margins.left() + margins.right(), kIcon + margins.top() + margins.bottom()};
+}
+
+/// As large as the text asks for, where the graph is wide enough.
+void GraphButtons::sizeButtons()
+{
+    const int count = static_cast<int>(mpGroup->buttons().size());
+    const int size = std::clamp(kIcon + (width() - minimumSizeHint().width()) / count, kIcon, grownWithText(*this, kIcon));
+    for (QAbstractButton* pButton : mpGroup->buttons()) {
+        pButton->setFixedSize(size, size);
+        pButton->setIconSize(QSize(size, size));
+    }
+}
+
+void GraphButtons::resizeEvent(QResizeEvent* pEvent)
+{
+    QWidget::resizeEvent(pEvent);
+    sizeButtons();
+}
+
+void GraphButtons::changeEvent(QEvent* pEvent)
+{
+    QWidget::changeEvent(pEvent);
+    if (pEvent->type() == QEvent::FontChange || pEvent->type() == QEvent::StyleChange)
+        sizeButtons();
 }
 
 bool GraphButtons::isChecked(EGraphCommand command) const

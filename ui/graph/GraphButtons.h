@@ -27,7 +27,13 @@ Q_SIGNALS:
     /// A button was let go with the pointer on it: its command is wanted.
     void signalCommand(int command);
 
+protected:
+    [[nodiscard]] QSize minimumSizeHint() const override;
+    void resizeEvent(QResizeEvent* pEvent) override;
+    void changeEvent(QEvent* pEvent) override;
+
 private:
+    void sizeButtons();
     void add(EGraphCommand command, const QString& icon, const QString& toolTip, bool isCheckable = false);
 
     QButtonGroup* mpGroup;

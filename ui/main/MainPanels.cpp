@@ -30,8 +30,8 @@ MainPanels::MainPanels(DialogCard* pCard, DialogProfile* pProfile, DialogData* p
     setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     addWidget(mpSide);
     addWidget(createRight());
-    setStretchFactor(0, 1);
-    setStretchFactor(1, 2);
+    setStretchFactor(0, 0); // what a larger window has more is for the data
+    setStretchFactor(1, 1);
 }
 
 QWidget* MainPanels::createRight()

@@ -1,5 +1,6 @@
 #include "ui/main/MainToolBar.h"
 
+#include "app/gui/TextSize.h"
 #include "app/gui/WheelGuard.h"
 #include "ui/main/MainActions.h"
 
@@ -15,6 +16,7 @@ namespace ZARN {
 namespace {
 
 constexpr int kProfileWidth = 200;
+constexpr int kIcon = 24;
 constexpr int kBesideUnit = 52; // pixels of a selector beside its text
 
 } // namespace
@@ -89,6 +91,24 @@ void MainToolBar::giveRoom()
     for (int i = 0; i < mpUnits->count(); ++i)
         text = std::max(text, mpUnits->fontMetrics().horizontalAdvance(mpUnits->itemText(i)));
     mpUnits->setMinimumWidth(text + kBesideUnit);
+    sizeIcons();
+}
+
+/// As large as the text asks for, where that leaves all buttons their place.
+void MainToolBar::sizeIcons()
+{
+    const int wanted = grownWithText(*this, kIcon);
+    const int buttons = static_cast<int>(actions().size()); // more than have an icon
+    const int spare = width() - sizeHint().width() + buttons * (iconSize().width() - kIcon);
+    const int size = kIcon + std::clamp(spare / buttons, 0, wanted - kIcon);
+    if (iconSize().width() != size)
+        setIconSize(QSize(size, size));
+}
+
+void MainToolBar::resizeEvent(QResizeEvent* pEvent)
+{
+    QToolBar::resizeEvent(pEvent);
+    sizeIcons();
 }
 
 void MainToolBar::changeEvent(QEvent* pEvent)

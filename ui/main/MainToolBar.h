@@ -28,6 +28,7 @@ Q_SIGNALS:
 
 protected:
     void changeEvent(QEvent* pEvent) override;
+    void resizeEvent(QResizeEvent* pEvent) override;
 
 private:
     void addFolders(QAction* pOpen);
@@ -35,6 +36,7 @@ private:
     void addProfiles();
     void addUnits();
     void giveRoom();
+    void sizeIcons();
     QComboBox* addSelector(const char* name, int leastWidth, const QString& toolTip, const QString& accessibleName);
 
     QMenu* mpFolders;

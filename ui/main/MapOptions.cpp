@@ -47,6 +47,20 @@ QSpinBox* box(const NumberSetting& setting, const QString& suffix)
     return pBox;
 }
 
+/// Why nothing can be loaded from there; empty for an address of tiles, for the beginning of one, and for none.
+QString addressProblem(const QString& address)
+{
+    const OpenStreet::TileServer server(address);
+    const QString host = server.url({}).host();
+    const bool isWhole = address.contains('{');
+    if (server.isValid() && (isWhole || address.isEmpty() || host.contains('.') || host == QStringLiteral("localhost")))
+        return {};
+    const bool isWeb = server.address().startsWith(QStringLiteral("http"));
+    return isWhole && isWeb
+               ? MapOptions::tr("its path needs {z}, {x} and {y}, as in https://tiles.example.org/{z}/{x}/{y}.png")
+               : MapOptions::tr("it names no server that is asked by https or http, as https://tiles.example.org/{z}/{x}/{y}.png does");
+}
+
 } // namespace
 
 MapOptions::MapOptions(const Session& session, const QString& dataPath, QWidget* pParent)
@@ -133,16 +147,8 @@ QWidget* MapOptions::createKept()
 void MapOptions::connectFields()
 {
     connect(mpTiles, &QCheckBox::clicked, this, &MapOptions::slotTiles);
-    const auto keepText = [this](QLineEdit* pLine, const TextSetting& setting) {
-        connect(pLine, &QLineEdit::editingFinished, this, [this, pLine, setting] {
-            if (pLine->text().trimmed() == setting.text(mSession.property))
-                return;
-            setting.set(mSession.property, pLine->text().trimmed());
-            keep();
-        });
-    };
-    keepText(mpServer, Settings::kTileServer);
-    keepText(mpAttribution, Settings::kMapAttribution);
+    connect(mpServer, &QLineEdit::editingFinished, this, &MapOptions::slotServer);
+    connect(mpAttribution, &QLineEdit::editingFinished, this, [this] { keepText(*mpAttribution, Settings::kMapAttribution); });
     connect(mpOffline, &QCheckBox::clicked, this, [this](bool isOn) {
         Settings::kMapOffline.set(mSession.property, isOn);
         keep();
@@ -155,6 +161,25 @@ void MapOptions::connectFields()
     }
 }
 
+void MapOptions::keepText(const QLineEdit& line, const TextSetting& setting)
+{
+    if (line.text().trimmed() == setting.text(mSession.property))
+        return;
+    setting.set(mSession.property, line.text().trimmed());
+    keep();
+}
+
+/// An address that cannot be one stays in the field, to be mended; the one before is in force.
+void MapOptions::slotServer()
+{
+    const QString problem = addressProblem(mpServer->text().trimmed());
+    if (problem.isEmpty() && mpServer->text().trimmed() == Settings::kTileServer.text(mSession.property))
+        return fill();
+    if (problem.isEmpty())
+        return keepText(*mpServer, Settings::kTileServer);
+    mpServerText->setText(tr("\"Server\" was not taken over: %1").arg(problem));
+}
+
 void MapOptions::fill()
 {
     const Property& property = mSession.property;
@@ -162,7 +187,7 @@ void MapOptions::fill()
     mpTiles->setEnabled(server.isValid());
     mpTiles->setChecked(server.isValid() && TileConsent(mSession.property).answer(server.address()) == TileConsent::eYes);
     mpServerText->setText(server.isValid() ? tr("Server: %1. It learns which area is looked at.").arg(server.name())
-                                           : tr("The setting \"TileServer\" is no address of map tiles."));
+                                           : tr("The entry in \"Server\" is no address of map tiles."));
     mpServer->setText(Settings::kTileServer.text(property));
     mpAttribution->setText(Settings::kMapAttribution.text(property));
     mpOffline->setChecked(Settings::kMapOffline.get(property));

@@ -12,6 +12,8 @@ class QSpinBox;
 
 namespace ZARN {
 
+struct TextSetting;
+
 /// Where the map's tiles come from and how many are kept, as a page of the preferences. Every change is in force at once and written to the
 /// settings. Owned by the preferences window.
 class MapOptions : public QWidget {
@@ -41,6 +43,8 @@ private:
     QWidget* createKept();
     void connectFields();
     void keep();
+    void keepText(const QLineEdit& line, const TextSetting& setting);
+    void slotServer();
     void setPath(const QString& path);
     void empty();
 

@@ -45,7 +45,8 @@ void StyleWatch::checkFile()
 void StyleWatch::tellProblem()
 {
     const QString problem = mKernel.styleProblem();
-    mNotices.setProblem(Notices::eStyle, problem.isEmpty() ? QString() : tr("Style damaged: the built-in one is in force"), problem);
+    const QString text = tr("Style damaged: the built-in one is in force") + "; " + problem.section('\n', 1).simplified();
+    mNotices.setProblem(Notices::eStyle, problem.isEmpty() ? QString() : text, problem);
 }
 
 bool StyleWatch::eventFilter(QObject* pObject, QEvent* pEvent)

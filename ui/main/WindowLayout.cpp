@@ -64,7 +64,7 @@ bool WindowLayout::eventFilter(QObject* pObject, QEvent* pEvent)
 void WindowLayout::setSplitters()
 {
     const int larger = std::max(QFontInfo(mCentre.font()).pixelSize() - kUsualText, 0);
-    const int side = kFirstSideWidth + larger * kSideWidthPerPixel;
+    const int side = std::min(kFirstSideWidth + larger * kSideWidthPerPixel, mCentre.width() / 3);
     if (!mCentre.restoreState(stored(mProperty, Settings::kWindowSplitter)))
         mCentre.setSizes({side, mCentre.width() - side});
     mSide.restoreState(stored(mProperty, Settings::kWindowSideSplitter));

@@ -65,6 +65,7 @@ void DialogDataMap::createMap(const QString& dataPath)
     mpSplitter->addWidget(mpValues);
     mpSplitter->setStretchFactor(0, 1);
     mpSplitter->setStretchFactor(1, 0);
+    connect(mpSplitter, &QSplitter::splitterMoved, this, [this] { mIsBorderMoved = true; });
     auto* pLayout = new QVBoxLayout(this);
     pLayout->setContentsMargins(0, 0, 0, 0);
     pLayout->setSpacing(1);
@@ -85,10 +86,17 @@ void DialogDataMap::createPanels()
     mpConsent = new MapConsentBar(this);
     mpConsent->hide();
     const auto take = [this] {
-        const QImage image = mpMap->picture(false), paper = mpMap->picture(true);
-        return Picture([image, paper](Canvas& canvas, const QSize& size,
-                                      bool forPaper) { canvas.image(QRectF(QPointF(), size), forPaper ? paper : image); },
-                       mpMap->size(), image.devicePixelRatio());
+        const auto pScreen = mpMap->picture(false), pPaper = mpMap->picture(true);
+        const QSizeF view = mpMap->size();
+        const auto paint = [pScreen, pPaper, view](Canvas& canvas, const QSize& size, bool forPaper) {
+            const QSizeF room = view.scaled(size, Qt::KeepAspectRatio);
+            canvas.push();
+            canvas.translate((size.width() - room.width()) / 2, (size.height() - room.height()) / 2);
+            canvas.scale(room.width() / view.width(), room.height() / view.height());
+            (forPaper ? pPaper : pScreen)->replay(canvas);
+            canvas.pop();
+        };
+        return Picture(paint, mpMap->size(), devicePixelRatioF());
     };
     mpPicture = new PictureMenu(
         mSession, take, [] { return tr("Map"); }, this);
@@ -375,9 +383,22 @@ void DialogDataMap::resizeEvent(QResizeEvent* pEvent)
     QWidget::resizeEvent(pEvent);
     if (mpMap)
         giveRoom();
-    if (mpMap && (mpSplitter->orientation() == Qt::Horizontal) != (width() >= kBesideMap))
+    if (mpMap && (!mIsBorderMoved || (mpSplitter->orientation() == Qt::Horizontal) != (width() >= kBesideMap)))
         arrangeValues();
     updateGeometry();
+}
+
+void DialogDataMap::changeEvent(QEvent* pEvent)
+{
+    QWidget::changeEvent(pEvent);
+    if (!mpMap || (pEvent->type() != QEvent::FontChange && pEvent->type() != QEvent::StyleChange))
+        return;
+    const auto arrange = [this] {
+        if (!mIsBorderMoved)
+            arrangeValues();
+        updateGeometry();
+    };
+    QMetaObject::invokeMethod(this, arrange, Qt::QueuedConnection); // when the parts have their fonts, too
 }
 
 void DialogDataMap::fillColours(QMenu& menu)

@@ -69,6 +69,7 @@ Q_SIGNALS:
 
 protected:
     void resizeEvent(QResizeEvent* pEvent) override;
+    void changeEvent(QEvent* pEvent) override;
     void contextMenuEvent(QContextMenuEvent* pEvent) override;
     /// The map has another size.
     bool eventFilter(QObject* pObject, QEvent* pEvent) override;
@@ -96,6 +97,7 @@ private:
     MapValues mValues;
     WidgetMap* mpMap = nullptr;
     QSize mCorner; // of the map, that is taken
+    bool mIsBorderMoved = false; // by the user, who is left what he chose
     bool mIsShort = false; // there is too little room for what is below the map
     QSplitter* mpSplitter = nullptr;
     MapValueTable* mpValues = nullptr;

@@ -1,6 +1,7 @@
 #include "ui/map/MapAttribution.h"
 
 #include <QEvent>
+#include <QTextDocumentFragment>
 #include <QUrl>
 
 #include <algorithm>
@@ -68,6 +69,20 @@ void MapAttribution::setSources(const OpenStreet::MapSources& sources, const Ope
     if (html != text())
         setText(html);
     place();
+}
+
+void MapAttribution::draw(Canvas& canvas, const MapStyle& style) const
+{
+    if (!isVisibleTo(parentWidget()))
+        return;
+    const QString plain = QTextDocumentFragment::fromHtml(text()).toPlainText();
+    CanvasText look{style.textSize, style.colours.text, false, Qt::AlignRight | Qt::AlignVCenter};
+    const double width = canvas.textSize(plain, look).width();
+    look.size *= std::min(1.0, (geometry().width() - 2.0 * kPadding) / width);
+    const QSizeF box = canvas.textSize(plain, look) + QSizeF(2 * kPadding, 2 * kPadding);
+    const QRectF place(QRectF(geometry()).bottomRight() - QPointF(box.width(), box.height()), box);
+    canvas.fillRect(place, style.colours.textGround);
+    canvas.text(QPointF(place.right() - kPadding, place.center().y()), plain, look);
 }
 
 void MapAttribution::changeEvent(QEvent* pEvent)

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "openstreet/gl/OpenStreetMap.h"
+#include "ui/canvas/Canvas.h"
+#include "ui/map/model/MapStyle.h"
 
 #include <QLabel>
 #include <QStringList>
@@ -19,6 +21,8 @@ public:
     void setSources(const OpenStreet::MapSources& sources, const OpenStreet::OpenStreetMap& map, const QString& own);
     /// Keeps it in the corner.
     void place();
+    /// The same in a picture: without links.
+    void draw(Canvas& canvas, const MapStyle& style) const;
 
 protected:
     void changeEvent(QEvent* pEvent) override;

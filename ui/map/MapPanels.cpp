@@ -1,6 +1,7 @@
 #include "ui/map/MapPanels.h"
 
 #include "app/gui/ImageHandler.h"
+#include "app/gui/TextSize.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -10,6 +11,8 @@
 #include <QToolButton>
 
 #include <algorithm>
+#include <functional>
+#include <set>
 
 // Resources of a static library are not registered by themselves; the macro must stand outside every namespace.
 static void registerIcons()
@@ -24,7 +27,7 @@ namespace {
 constexpr double kZoomStep = 0.5; // of the range, for a click
 constexpr int kLeastText = 260;   // pixels of a line of the question beside its buttons
 
-constexpr int kIconSizes[] = {32, 24, 20}; // the largest that leaves room for all is taken
+constexpr int kIconSizes[] = {32, 24, 20}; // beside the usual text; the largest that leaves room for all is taken
 constexpr int kAroundIcon = 4;             // pixels of a button beside its icon
 constexpr int kPadding = 5;                // of the panel
 
@@ -57,9 +60,12 @@ void MapToolPanel::arrangeFor(const QSize& room)
 {
     const int count = static_cast<int>(mButtons.size());
     const QSize inside = room - QSize(2 * kPadding, 2 * kPadding);
+    std::set<int, std::greater<>> sizes(std::begin(kIconSizes), std::end(kIconSizes));
+    for (const int size : kIconSizes)
+        sizes.insert(grownWithText(*this, size));
     int cell = 0;
     for (int columns = 1; columns <= count; ++columns) { // of smaller icons rather than one more
-        for (const int size : kIconSizes) {
+        for (const int size : sizes) {
             cell = size * mScale + kAroundIcon;
             if (columns * cell <= inside.width() && ceilOf(count, columns) * cell <= inside.height())
                 return place(cell, columns);

@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QHeaderView>
 #include <QScrollBar>
+#include <QStyledItemDelegate>
 
 #include <algorithm>
 
@@ -13,6 +14,32 @@ namespace {
 const QColor kGround(30, 34, 40);
 constexpr int kPadding = 8; // pixels beside a text in its column
 constexpr int kLeastName = 60;
+
+/// Its words cut alike, so that names that begin or end with the same word can be told apart.
+QString shortened(const QString& name, const QFontMetrics& metrics, int width)
+{
+    QStringList words = name.split(' ');
+    while (metrics.horizontalAdvance(words.join(' ')) > width) {
+        QString& longest = *std::ranges::max_element(words, {}, &QString::size);
+        if (longest.size() < 3)
+            return metrics.elidedText(name, Qt::ElideMiddle, width);
+        longest = longest.chopped(longest.endsWith('.') ? 2 : 1) + '.';
+    }
+    return words.join(' ');
+}
+
+class NameDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* pOption, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(pOption, index);
+        if (index.column() == MapValueModel::eName)
+            pOption->text = shortened(pOption->text, pOption->fontMetrics, pOption->rect.width() - kPadding);
+    }
+};
 
 } // namespace
 
@@ -32,6 +59,7 @@ MapValueTable::MapValueTable(QWidget* pParent) : QTableView(pParent), mpModel(ne
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     setShowGrid(false);
     setWordWrap(false);
+    setItemDelegate(new NameDelegate(this));
     setSelectionMode(QAbstractItemView::NoSelection);
     setTabKeyNavigation(false);
     setEditTriggers(QAbstractItemView::NoEditTriggers);

@@ -169,7 +169,7 @@ QString WidgetMap::note()
     if (!mTileProblem.isEmpty())
         return tr("Map tiles: %1").arg(mTileProblem);
     if (mTilePath.isEmpty() && !mMap.tileServer().isValid())
-        return tr("The setting \"TileServer\" is no address of map tiles");
+        return tr("What the preferences name as the server is no address of map tiles");
     if (mMap.areTilesAllowed() && !mMap.lastError().isEmpty())
         return mMap.tileServer().name() + QLatin1String(": ") + mMap.lastError();
     if (const int loading = mMap.store().loading(); loading > 0 && mMap.areTilesAllowed())
@@ -273,7 +273,8 @@ void WidgetMap::paintGL(Canvas& canvas)
     canvas.fillRect(QRectF(rect()), mScene.style().colours.water);
     mMap.render(*mpDevice);
     setViewPortOrtho();
-    mScene.drawGround(canvas, mNavigator.camera());
+    if (!mIsGroundAlone)
+        mScene.drawGround(canvas, mNavigator.camera());
     mContext.isLoading = mMap.nrLoadingTiles() != 0;
 }
 
@@ -283,7 +284,8 @@ void WidgetMap::paintAbove(Canvas& canvas)
         mPacer.begin();
     ++mPaints;
     mScene.setCorner(cornerSize());
-    mScene.drawAbove(canvas, mNavigator.camera());
+    if (!mIsGroundAlone)
+        mScene.drawAbove(canvas, mNavigator.camera());
     mPacer.end();
 }
 
@@ -415,20 +417,35 @@ void WidgetMap::updateShown()
     Q_EMIT signalShown(span);
 }
 
-QImage WidgetMap::picture(bool forPaper)
+QImage WidgetMap::groundPicture()
 {
-    updateColours(forPaper);
-    mScene.setPointer(std::nullopt); // it stood there to choose the command
+    mIsGroundAlone = true;
     QImage image;
     int unfinished = 0, before = 0;
     do { // a frame makes a few tiles only
         before = unfinished;
         mpSurface->requestFrame();
-        image = grab().toImage();
+        image = mpSurface->widget().grab().toImage();
         unfinished = mMap.nrLoadingTiles();
     } while (unfinished > 0 && unfinished != before);
-    updateColours();
+    mIsGroundAlone = false;
+    mIsDirty = true;
     return image;
+}
+
+std::shared_ptr<const CanvasRecord> WidgetMap::picture(bool forPaper)
+{
+    updateColours(forPaper);
+    mScene.setPointer(std::nullopt); // it stood there to choose the command
+    auto pPicture = std::make_shared<CanvasRecord>();
+    pPicture->clip(QRectF(rect()));
+    pPicture->image(QRectF(rect()), groundPicture());
+    mScene.drawGround(*pPicture, mNavigator.camera());
+    mScene.setCorner(cornerSize());
+    mScene.drawAbove(*pPicture, mNavigator.camera());
+    mpAttribution->draw(*pPicture, mScene.style());
+    updateColours();
+    return pPicture;
 }
 
 void WidgetMap::fitPath()

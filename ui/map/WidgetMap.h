@@ -3,6 +3,7 @@
 #include "card/record/RecordData.h"
 #include "openstreet/gl/OpenStreetMap.h"
 #include "project/Session.h"
+#include "ui/canvas/CanvasRecord.h"
 #include "ui/canvas/FramePacer.h"
 #include "ui/gl/Surface.h"
 #include "ui/map/model/MapCourse.h"
@@ -12,6 +13,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <memory>
 
 namespace ZARN {
 
@@ -58,8 +60,8 @@ public:
     /// Shows the whole path again.
     void fitPath();
     void setDirty() { mIsDirty = true; }
-    /// What is shown, or the same on light ground.
-    [[nodiscard]] QImage picture(bool forPaper);
+    /// What is shown, or the same on light ground: the ground as pixels, all above it as it is drawn.
+    [[nodiscard]] std::shared_ptr<const CanvasRecord> picture(bool forPaper);
     /// What something else covers of the left upper corner, and how far down the legend in the right one begins.
     void setCovered(const QSize& corner, int legendTop);
     /// Whether the picture is behind what it should show.
@@ -121,6 +123,7 @@ private:
     bool redrawFlightPath(bool isChosen);
     void fitAtOnce();
     [[nodiscard]] QSize cornerSize() const;
+    [[nodiscard]] QImage groundPicture();
     void updateShown();
     void updateNote();
     [[nodiscard]] QString note();
@@ -150,6 +153,7 @@ private:
     double mLastRedraw = 0.0;
     double mLastTick = 0.0;
     bool mIsPainting = false; // the ground is drawn, what is above it not yet
+    bool mIsGroundAlone = false;
     FramePacer mPacer;
     int mGroundPaints = 0;
     int mPaints = 0;

@@ -1,6 +1,8 @@
 #include "ui/overview/WidgetCycleStrip.h"
 
 #include "ui/canvas/Palette.h"
+#include "ui/canvas/PhaseStrip.h"
+#include "ui/graph/model/CourseBand.h"
 #include "ui/overview/VerdictMark.h"
 #include "ui/overview/model/OverviewTexts.h"
 
@@ -16,7 +18,6 @@ namespace ZARN {
 namespace {
 
 constexpr double kMark = 7;     // height of an incident's mark
-constexpr double kFlightLine = 2;
 constexpr double kLeastMark = 4; // its least width: none is too short to be seen
 constexpr double kNear = 4;     // how far from a mark a click may fall
 
@@ -97,17 +98,10 @@ int WidgetCycleStrip::flightAt(const QPointF& point) const
 
 void WidgetCycleStrip::paintPhases(QPainter& painter) const
 {
-    painter.setPen(Qt::NoPen);
-    for (const FlightPhases::Step& step : mpCycle->review.phases) {
-        const QRectF area = span(step.from, step.until);
-        if (step.phase != EFlightPhase::eOff && area.width() > 0)
-            painter.fillRect(area, Palette::screen().course.of(step.phase));
-    }
-    // From take-off to landing, for descent and ground differ little.
-    for (const RecordFlight& flight : mpCycle->flights) {
-        const QRectF area = span(flight.takeOffTime, flight.landingTime);
-        painter.fillRect(QRectF(area.left(), area.top(), area.width(), kFlightLine), Palette::screen().course.label);
-    }
+    std::vector<PhaseStrip::Step> steps;
+    for (const FlightPhases::Step& step : mpCycle->review.phases)
+        steps.push_back({left(step.from), left(step.until), step.phase});
+    PhaseStrip::paint(painter, bar(), steps);
 }
 
 void WidgetCycleStrip::paintLabels(QPainter& painter) const
@@ -131,11 +125,7 @@ void WidgetCycleStrip::paintLabels(QPainter& painter) const
 void WidgetCycleStrip::paintEvent(QPaintEvent* /*pEvent*/)
 {
     QPainter painter(this);
-    painter.fillRect(bar(), Palette::screen().course.recorded);
     paintPhases(painter);
-    painter.setPen(Palette::screen().course.border);
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRect(bar());
     for (const int state : {1, 2}) { // what is worse lies above
         for (const Incident& incident : mpCycle->review.incidents) {
             if (incident.state == state)
@@ -169,13 +159,18 @@ QString WidgetCycleStrip::toolTipAt(const QPointF& point) const
                 return sentence.time + "  " + sentence.text();
         }
     }
-    const int flight = flightAt(point);
-    if (flight < 0)
-        return {};
-    const RecordFlight& found = mpCycle->flights[static_cast<std::size_t>(flight)];
-    return tr("Flight %1, %2 to %3")
-        .arg(flight + 1)
-        .arg(mpCycle->times.shortText(found.takeOffTime), mpCycle->times.shortText(found.landingTime));
+    QStringList lines;
+    const std::vector<FlightPhases::Step>& phases = mpCycle->review.phases;
+    const auto phase = std::ranges::find_if(phases, [&](const auto& one) { return point.x() >= left(one.from) && point.x() <= left(one.until); });
+    if (phase != phases.end() && phase->phase != EFlightPhase::eOff)
+        lines << CourseBand::phaseName(phase->phase);
+    if (const int flight = flightAt(point); flight >= 0) {
+        const RecordFlight& found = mpCycle->flights[static_cast<std::size_t>(flight)];
+        lines << tr("Flight %1, %2 to %3")
+                     .arg(flight + 1)
+                     .arg(mpCycle->times.shortText(found.takeOffTime), mpCycle->times.shortText(found.landingTime));
+    }
+    return lines.join('\n');
 }
 
 bool WidgetCycleStrip::event(QEvent* pEvent)
@@ -186,7 +181,7 @@ bool WidgetCycleStrip::event(QEvent* pEvent)
         return QWidget::event(pEvent);
     const auto* pHelp = static_cast<QHelpEvent*>(pEvent);
     const QString text = toolTipAt(pHelp->pos());
-    QToolTip::showText(pHelp->globalPos(), text.isEmpty() ? QString() : "<qt>" + text.toHtmlEscaped() + "</qt>", this);
+    QToolTip::showText(pHelp->globalPos(), text.isEmpty() ? QString() : "<qt>" + text.toHtmlEscaped().replace('\n', "<br>") + "</qt>", this);
     return true;
 }
 

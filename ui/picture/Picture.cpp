@@ -79,6 +79,7 @@ QByteArray Picture::pdf() const
         const QSize sheet = mSize + QSize(0, heading());
         writer.setPageSize(QPageSize(QSizeF(sheet) * 72.0 / kResolution, QPageSize::Point, QString(), QPageSize::ExactMatch));
         QPainter painter(&writer);
+        painter.setRenderHint(QPainter::LosslessImageRendering); // letters of tiles are read
         RasterCanvas canvas(painter);
         paintSheet(canvas, sheet);
     }

@@ -383,6 +383,13 @@ void TestGraphInteraction::keys()
     QCOMPARE(model.traces().highlighted(), 29);
     const VisibleRows rows = layoutOf(model).markerSheet().visible();
     QVERIFY(rows.isCut() && rows.first + rows.count == 30);
+    press(Qt::Key_PageUp, Qt::ShiftModifier);
+    QCOMPARE(layoutOf(model).markerSheet().visible().first, rows.first - rows.count + 1);
+    model.scenery().setGhost(std::make_shared<Ghost>());
+    press(Qt::Key_Comma);
+    const double scale = press(Qt::Key_Period, Qt::ControlModifier).pixelsPerSecond();
+    QVERIFY(std::abs(model.scenery().ghostShift() - 9 / scale) < 1e-9);
+    model.scenery().setGhost(nullptr);
     press(Qt::Key_PageUp, Qt::ControlModifier);
     QCOMPARE(model.traces().shown()[28], 29);
     press(Qt::Key_Plus, Qt::ControlModifier | Qt::ShiftModifier);

@@ -1,5 +1,6 @@
 #include "GraphFixtures.h"
 #include "ui/canvas/ColourContrast.h"
+#include "ui/graph/model/AxisLabels.h"
 #include "ui/graph/model/AxisTicks.h"
 #include "ui/graph/model/GraphTexts.h"
 #include "ui/graph/model/MarkerValues.h"
@@ -373,6 +374,16 @@ void TestGraphModel::labels()
     QCOMPARE(ticks.valueLabel(-0.0), "0.0");
     QVERIFY(AxisTicks(1e15, 1e15 + 1e-3, 600, 100).ticks().size() < 1001);
     QVERIFY(AxisTicks(0, INFINITY, 600, 100).ticks().empty());
+    GraphModel model; // a low strip tells both ends of its scale, a lower one in one line
+    model.traces().setActive(0, true);
+    model.putValues(0, std::vector<double>{0, 10}, std::vector<double>{0, 5873});
+    for (const auto& [height, wanted] : {std::pair(40.0, "6000 0"), std::pair(20.0, "-587\u20266460"), std::pair(10.0, "")}) {
+        const ValueSpan span = model.valueSpan(0);
+        QStringList texts;
+        for (const AxisLabel& label : axisLabels(model, 0, AxisTicks(span[0], span[1], height, 60), height, 16))
+            texts << label.text;
+        QCOMPARE(texts.join(' '), QString(wanted));
+    }
 }
 
 void TestGraphModel::markerValues()

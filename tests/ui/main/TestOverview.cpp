@@ -119,6 +119,9 @@ void TestOverview::verdicts()
     QCOMPARE(OverviewTexts::basis(cycle).isEmpty(), false);
     QCOMPARE(OverviewTexts::figures(cycle)[0].value, QString("-"));
     QCOMPARE(OverviewTexts::figures(cycle)[1].value, QString("-"));
+    cycle.dateTime = QDateTime({2024, 6, 15}, {9, 9});
+    cycle.endTime = 31 * 3600;
+    QVERIFY(OverviewTexts::origin(cycle).contains("15.06.2024 09:09 to 16.06.2024 16:09"));
 }
 
 QTEST_MAIN(TestOverview)

@@ -185,6 +185,12 @@ void TestPreferences::mapTiles()
     QVERIFY(!pTiles->isEnabled());
     QCOMPARE(changed.size(), 2); // filling is no change of the user's
     auto* pAddress = dialog.findChild<QLineEdit*>("tileAddress");
+    for (const char* pWrong : {"hello", "javascript:{z}{x}{y}", "https://a.example.org/{z}.png"}) {
+        pAddress->setText(pWrong);
+        Q_EMIT pAddress->editingFinished();
+        QVERIFY2(dialog.findChild<QLabel*>("tileServer")->text().contains("\"Server\" was not taken over"), pWrong);
+        QCOMPARE(desktop.property.getString("TileServer", ""), std::string("ftp://x/{z}/{x}/{y}.png"));
+    }
     pAddress->setText(" tiles.example.net ");
     Q_EMIT pAddress->editingFinished();
     QCOMPARE(desktop.property.getString("TileServer", ""), std::string("tiles.example.net"));

@@ -6,13 +6,14 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace ZARN {
 
 namespace {
 
-constexpr double kEngineHeight = 3.0, kMarkHeight = 4.0, kLeastMark = 4.0; // pixels
+constexpr double kEngineHeight = 3.0, kEngineGap = 1.0, kMarkHeight = 4.0, kLeastMark = 4.0; // pixels
 constexpr double kTremble = 1.5; // pixels beside a mark that are on it
 constexpr double kNear = 4.0;                                              // how far from a mark a click may fall
 constexpr double kLeastContrast = 3.0; // of marks, some of them narrow
@@ -87,11 +88,12 @@ void CourseBand::drawPhases(Canvas& canvas) const
 {
     std::vector<std::tuple<QPointF, QString, QColor>> names;
     for (const FlightPhases::Step& step : mModel.scenery().course()->phases) {
-        const QRectF part = area(step.from, step.until, band());
+        const QRectF part = area(step.from, step.until, band().adjusted(0, 0, 0, -kEngineHeight - kEngineGap));
         if (part.isEmpty() || step.phase == EFlightPhase::eOff)
             continue;
         const QColor colour = mixed(mModel.colours().labelBackground, Palette::light().phaseFlight, shareOf(step.phase));
         canvas.fillRect(part, colour);
+        canvas.lines(std::array{part.topLeft(), part.bottomLeft(), part.topRight(), part.bottomRight()}, {mModel.colours().label, 1.0});
         const QString name = phaseName(step.phase);
         if (canvasTextSize(name, mLayout.textSize(), false).width() + 4 < part.width())
             names.emplace_back(QPointF(part.center().x(), part.top() - 1), name, textColourOn(colour));
@@ -107,7 +109,7 @@ void CourseBand::drawEngine(Canvas& canvas) const
     for (const TimeSpan& stretch : mModel.scenery().course()->engine) {
         const QRectF part = area(stretch.start, stretch.end, line);
         if (!part.isEmpty())
-            canvas.fillRect(part, Palette::light().phaseEngine);
+            canvas.fillRect(part, readableOn(mModel.colours().labelBackground, Palette::light().phaseEngine, kLeastContrast));
     }
 }
 

@@ -1,6 +1,7 @@
 #include "ui/graph/model/GraphAxes.h"
 
 #include "ui/canvas/ColourContrast.h"
+#include "ui/graph/model/AxisLabels.h"
 #include "ui/graph/model/AxisTicks.h"
 
 #include <QCoreApplication>
@@ -109,12 +110,13 @@ void GraphAxes::drawValueAxis(Canvas& canvas, const ValueAxis& axis, bool hasGri
             continue;
         std::vector<QPointF>& lines = tick.isMajor ? major : fine;
         lines.insert(lines.end(), {QPointF(area.left(), y), QPointF(area.right() - 1, y)});
-        // A label that would hang over into the next strip is left out.
-        const double half = mLayout.line() / 2;
-        if (!tick.isMajor || y - half < area.top() - 1 || y + half > area.bottom() + 1)
-            continue;
-        labels.push_back({QPointF(right - kLabelGap, y), ticks.valueLabel(tick.value)});
-        marks.insert(marks.end(), {QPointF(right - kLabelGap + 2, y), QPointF(right - 1, y)});
+    }
+    for (const AxisLabel& label : axisLabels(mModel, axis.index, ticks, area.height(), mLayout.line())) {
+        const double y = area.top() + label.y;
+        labels.push_back({QPointF(right - kLabelGap, y), label.text});
+        const double mark = area.top() + label.tick.value_or(0);
+        if (label.tick)
+            marks.insert(marks.end(), {QPointF(right - kLabelGap + 2, mark), QPointF(right - 1, mark)});
     }
     const bool isSplit = mModel.settings().displayMode == eSplit;
     const std::optional<QColor> colour = isSplit || !axis.isOwn ? std::nullopt : axisColour(axis.index);

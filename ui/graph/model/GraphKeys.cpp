@@ -33,6 +33,8 @@ constexpr auto kFit = QT_TRANSLATE_NOOP("ZARN::GraphKeys", "Fit the scales to wh
 constexpr auto kShared = QT_TRANSLATE_NOOP("ZARN::GraphKeys", "One scale for the traces of each unit, or one for each trace");
 constexpr auto kStrip = QT_TRANSLATE_NOOP("ZARN::GraphKeys", "Strip of the chosen trace up or down");
 constexpr auto kHeight = QT_TRANSLATE_NOOP("ZARN::GraphKeys", "Strip of the chosen trace higher or lower");
+constexpr auto kGhost = QT_TRANSLATE_NOOP("ZARN::GraphKeys", "What it is compared with earlier or later by a pixel, with Ctrl by ten");
+constexpr auto kScroll = QT_TRANSLATE_NOOP("ZARN::GraphKeys", "Scroll the table of the marker, or a legend that is cut");
 constexpr auto kUndo = QT_TRANSLATE_NOOP("ZARN::GraphKeys", "Take back what changed view, scales, marker or layout");
 constexpr auto kRedo = QT_TRANSLATE_NOOP("ZARN::GraphKeys", "Do it again");
 
@@ -71,6 +73,12 @@ const std::vector<GraphKey>& GraphKey::all()
         {eMoveStrip, 1, "Ctrl+PgDown", kStrip},
         {eStripHeight, 1.25, "Ctrl++", kHeight},
         {eStripHeight, 0.8, "Ctrl+-", kHeight},
+        {eGhost, -1, ",", kGhost},
+        {eGhost, 1, ".", kGhost},
+        {eGhost, -10, "Ctrl+,", kGhost},
+        {eGhost, 10, "Ctrl+.", kGhost},
+        {eScroll, -1, "Shift+PgUp", kScroll},
+        {eScroll, 1, "Shift+PgDown", kScroll},
         {eCommand, eUndo, "Ctrl+Z", kUndo},
         {eCommand, eRedo, "Ctrl+Shift+Z", kRedo},
         {eCommand, eRedo, "Ctrl+Y", kRedo},

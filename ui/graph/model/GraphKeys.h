@@ -21,6 +21,8 @@ enum class EGraphKey {
     eChoose, ///< the next trace
     eMoveStrip,
     eStripHeight,
+    eGhost,  ///< by pixels
+    eScroll, ///< lists that are cut, by pages
     eCommand
 };
 

@@ -1,6 +1,7 @@
 #include "ui/graph/model/GraphLayout.h"
 
 #include "ui/canvas/CanvasFont.h"
+#include "ui/graph/model/AxisLabels.h"
 #include "ui/graph/model/AxisTicks.h"
 #include "ui/graph/model/GraphTexts.h"
 
@@ -191,12 +192,11 @@ bool GraphLayout::isPanelWanted(const GraphModel& model, double height, double p
 double GraphLayout::axisWidth(const GraphModel& model, int index, double height) const
 {
     const ValueSpan range = model.valueSpan(index);
-    const AxisTicks ticks(range[0], range[1], height, valueSpacing(height, mLine));
     qsizetype longest = 4;
-    for (const AxisTick& tick : isStateStrip(model, index) ? std::vector<AxisTick>() : ticks.ticks()) {
-        if (tick.isMajor)
-            longest = std::max(longest, ticks.valueLabel(tick.value).size());
-    }
+    const double rounded = std::floor(height) < mLine ? std::ceil(height) : std::floor(height); // its area may be either: the longer labels count
+    const AxisTicks ticks(range[0], range[1], rounded, valueSpacing(rounded, mLine));
+    for (const AxisLabel& label : axisLabels(model, index, ticks, rounded, mLine))
+        longest = std::max(longest, label.text.size());
     return static_cast<double>(std::min<qsizetype>(longest, 14)) * mCharacter + kGap;
 }
 

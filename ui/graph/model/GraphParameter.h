@@ -25,6 +25,7 @@ struct NormalStretch {
     TimeSpan span;
     double lower = 0.0;
     double upper = 0.0;
+    std::size_t flights = 0; ///< how many
 };
 
 /// One trace of the graph: what it is called and how it is drawn, its samples.

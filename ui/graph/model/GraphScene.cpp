@@ -55,6 +55,7 @@ void GraphScene::draw(Canvas& canvas) const
     NoteMarks(mModel, mLayout, mLabels).draw(canvas);
     canvas.outline(mLayout.plot(), {mLabels.contrast(0.6)});
     drawHandles(canvas);
+    NormalRange(mModel, mLayout).drawKey(canvas, mLabels);
     const GraphTables tables(mModel, mLayout);
     tables.drawOverlay(canvas, cursor);
     cursor.draw(canvas, mLabels);

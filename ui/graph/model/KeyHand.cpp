@@ -26,6 +26,8 @@ void KeyHand::press(const GraphKey& key)
     case EGraphKey::eChoose: choose(static_cast<int>(key.amount)); break;
     case EGraphKey::eMoveStrip: moveStrip(static_cast<int>(key.amount)); break;
     case EGraphKey::eStripHeight: StripHand(mModel).scale(chosen(), key.amount); break;
+    case EGraphKey::eGhost: moveGhost(key.amount); break;
+    case EGraphKey::eScroll: scroll(static_cast<int>(key.amount)); break;
     case EGraphKey::eCommand: Q_EMIT mModel.signalCommand(static_cast<int>(key.amount)); break;
     }
 }
@@ -128,6 +130,21 @@ void KeyHand::choose(int step)
 void KeyHand::moveStrip(int step)
 {
     StripHand(mModel).moveTo(chosen(), neighbour(step));
+}
+
+void KeyHand::moveGhost(double pixels)
+{
+    if (mModel.scenery().ghost())
+        mModel.scenery().setGhostShift(mModel.scenery().ghostShift() + pixels / mLayout.pixelsPerSecond());
+}
+
+void KeyHand::scroll(int pages)
+{
+    const bool isTable = mLayout.markerSheet().visible().isCut();
+    const VisibleRows& rows = isTable ? mLayout.markerSheet().visible() : mLayout.legendRows();
+    const int first = rows.first + pages * std::max(rows.count - 1, 1);
+    (isTable ? mModel.settings().firstTableRow : mModel.settings().firstLegendRow) = std::clamp(first, 0, rows.all - rows.count);
+    Q_EMIT mModel.signalRepaint();
 }
 
 } // namespace ZARN

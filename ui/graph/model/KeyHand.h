@@ -24,6 +24,8 @@ private:
     void zoomValues(double factor);
     void choose(int step);
     void moveStrip(int step);
+    void moveGhost(double pixels);
+    void scroll(int pages);
     [[nodiscard]] int neighbour(int step) const;
 
     GraphModel& mModel;

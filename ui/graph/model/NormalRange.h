@@ -3,6 +3,7 @@
 #include "analysis/FlightPhases.h"
 #include "card/NormalBand.h"
 #include "ui/canvas/Canvas.h"
+#include "ui/graph/model/GraphLabels.h"
 #include "ui/graph/model/GraphLayout.h"
 
 namespace ZARN {
@@ -20,9 +21,12 @@ public:
     NormalRange(const GraphModel& model, const GraphLayout& layout) : mModel(model), mLayout(layout) {}
 
     void draw(Canvas& canvas) const;
+    /// Above the plot: what the hatching is.
+    void drawKey(Canvas& canvas, const GraphLabels& labels) const;
 
 private:
     void draw(Canvas& canvas, int index) const;
+    static void hatch(Canvas& canvas, const QRectF& area, const QColor& colour);
 
     const GraphModel& mModel;
     const GraphLayout& mLayout;

@@ -28,6 +28,7 @@ constexpr std::size_t kMostDots = 4000;
 constexpr double kTextAboveBar = 7.0;
 constexpr double kAboveCorner = 4.0;
 constexpr double kDash = 6.0;  // pixels, of a way on which nothing was received
+constexpr double kRestWidth = 0.45; // of that of the path: what is not looked at is thin as well as dim
 constexpr double kArrow = 5.0; // pixels from the middle of a mark of the direction to its point
 constexpr int kDotCell = 2;    // pixels: dots that lie closer together are one
 
@@ -190,7 +191,7 @@ void MapScene::drawRest(Canvas& canvas) const
     canvas.push();
     canvas.translate(mRest.offset().x(), mRest.offset().y());
     for (const PathGeometry::Strip& strip : mRest.strips())
-        canvas.lineStrip(strip.points, {mStyle.colours.pathDim, 0.7 * mStyle.pathWidth, true, strip.isDashed ? kDash : 0.0});
+        canvas.lineStrip(strip.points, {mStyle.colours.pathDim, kRestWidth * mStyle.pathWidth, true, strip.isDashed ? kDash : 0.0});
     canvas.pop();
 }
 

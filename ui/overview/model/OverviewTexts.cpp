@@ -55,7 +55,8 @@ QString OverviewTexts::origin(const CycleOverview& cycle)
     QString text = tr("Cycle %1").arg(cycle.number);
     if (cycle.dateTime.isValid()) {
         const QDateTime end = cycle.dateTime.addMSecs(saturatingCast<qint64>(cycle.endTime * 1000.0));
-        text += ", " + tr("%1 to %2").arg(cycle.dateTime.toString("dd.MM.yyyy hh:mm"), end.toString("hh:mm"));
+        const QString day = QStringLiteral("dd.MM.yyyy hh:mm"), time = end.date() == cycle.dateTime.date() ? day.right(5) : day;
+        text += ", " + tr("%1 to %2").arg(cycle.dateTime.toString(day), end.toString(time));
     } else {
         text += ", " + tr("clock not set");
     }
