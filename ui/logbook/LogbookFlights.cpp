@@ -89,7 +89,7 @@ QWidget* LogbookFlights::createFilter()
     mpVerdict->setAccessibleName(tr("Verdict"));
     mpVerdict->addItem(tr("Any verdict"), QString());
     for (const EVerdict verdict : {EVerdict::eLimit, EVerdict::eWarning, EVerdict::eOk, EVerdict::eUnknown})
-        mpVerdict->addItem(LogbookTexts::verdictName(verdictKey(verdict)), verdictKey(verdict));
+        mpVerdict->addItem(LogbookTexts::verdictName(verdict), verdictKey(verdict));
     WheelGuard::install(*mpVerdict);
     connect(mpVerdict, &QComboBox::currentIndexChanged, this, &LogbookFlights::takeFilter);
     mpText->setPlaceholderText(tr("Text in aircraft, card, notes or incidents"));
@@ -236,15 +236,27 @@ QString LogbookFlights::filterText() const
     if (mFilter.until.isValid())
         parts.append(tr("until %1").arg(LogbookTexts::date(mFilter.until)));
     if (!mFilter.verdict.empty())
-        parts.append(tr("verdict %1").arg(LogbookTexts::verdictName(mFilter.verdict)));
+        parts.append(tr("verdict %1").arg(mpVerdict->currentText()));
     if (!mFilter.text.trimmed().isEmpty())
         parts.append(tr("with \"%1\"").arg(mFilter.text.trimmed()));
     return parts.join(", ");
 }
 
+void LogbookFlights::setUnits(const LogbookUnits& units)
+{
+    mModel.setUnits(units);
+    slotSelected();
+    arrange();
+}
+
+QString LogbookFlights::totalsText() const
+{
+    return LogbookTexts::totals(mModel.totals(), mModel.units());
+}
+
 void LogbookFlights::slotSelected()
 {
-    mpTotals->setText(mModel.flights().empty() ? tr("No flight.") : LogbookTexts::totals(mModel.totals()));
+    mpTotals->setText(mModel.flights().empty() ? tr("No flight.") : totalsText());
     mpOpen->setEnabled(false);
     const int row = mModel.rowOf(mCurrent);
     if (row >= 0) { // the same flight stays chosen where there is one

@@ -143,7 +143,9 @@ void LogbookTrends::read()
     mWorker.ask(
         [engine = mEngine, context = mContext](LogbookReader& reader) {
             Trends trends;
-            for (Trend& trend : reader.trends().trends(engine)) {
+            StoreReader store = reader.trends();
+            store.countOnce();
+            for (Trend& trend : store.trends(engine)) {
                 JudgedTrend judged{std::move(trend), {}};
                 judged.judgements = judgeTrend(judged.trend, 1);
                 trends.push_back(std::make_shared<const JudgedTrend>(shownIn(std::move(judged), context)));
