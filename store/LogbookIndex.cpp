@@ -117,7 +117,7 @@ void LogbookIndex::place()
     const std::string undated = placedFlights("WHERE cycle.card_id IN (SELECT card_id FROM flight JOIN cycle USING (cycle_id) WHERE flight.date_time IS NULL)") +
                                 "SELECT flight_id, at FROM placed WHERE date_time IS NULL";
     const std::string late = "SELECT flight_id, " + clockOf("flight.date_time") +
-                             " FROM cycle JOIN flight USING (cycle_id) WHERE cycle.number = 0 AND flight.date_time IS NOT NULL";
+                             " FROM cycle CROSS JOIN flight USING (cycle_id) WHERE cycle.number = 0 AND flight.date_time IS NOT NULL";
     for (const std::string& sql : {undated, late}) {
         Statement& found = mDatabase.prepared(sql).with({});
         while (found.next())

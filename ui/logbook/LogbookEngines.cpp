@@ -86,7 +86,7 @@ void LogbookEngines::createServiceTable()
 {
     const int letter = fontMetrics().horizontalAdvance('x');
     for (const auto& [column, letters] : {std::pair(0, 22), {1, 22}, {2, 24}, {3, 52}})
-        mpServices->setColumnWidth(column, letters * letter);
+        mpServices->setColumnWidth(column, letters * letter); // until there are some
     connect(mpServices, &QTableWidget::itemSelectionChanged, this, &LogbookEngines::update);
     connect(mpServices, &QTableWidget::cellActivated, this, [this] { changeService(); });
 }
@@ -216,6 +216,8 @@ void LogbookEngines::fillServices(std::vector<Service> services)
         if (service.id == chosen)
             mpServices->selectRow(row);
     }
+    for (int column = 0; column < mpServices->columnCount() - 1 && !mServices.empty(); ++column)
+        mpServices->resizeColumnToContents(column);
     update();
 }
 
@@ -322,7 +324,7 @@ void LogbookEngines::changeService()
     const double before = *changed.doneHours;
     changed.engine = mEngine;
     changed.doneHours = std::max(0.0, present.hours() - (other->hours() - before));
-    askService(changed, tr("Done at %1 h of %2. These are %3 h of this engine if nothing else was recorded since: enter its hours then.")
+    askService(changed, tr("Done at %1 h of %2. That is %3 h of this engine if nothing else of it was recorded since; if not, correct it.")
                             .arg(LogbookTexts::hours(before), LogbookTexts::engine(other->id, other->aircraft), LogbookTexts::hours(*changed.doneHours)));
 }
 

@@ -57,6 +57,19 @@ protected:
     }
 };
 
+/// Which cycle and flight of a card it was stands at the end.
+class CardDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* pOption, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(pOption, index);
+        pOption->textElideMode = Qt::ElideMiddle;
+    }
+};
+
 } // namespace
 
 LogbookFlights::LogbookFlights(LogbookWorker& worker, QWidget* pParent)
@@ -114,6 +127,7 @@ void LogbookFlights::createTable()
     mpTable->setModel(&mModel);
     mpTable->setAccessibleName(tr("Flights"));
     mpTable->setItemDelegateForColumn(LogbookModel::eVerdict, new VerdictDelegate(mpTable));
+    mpTable->setItemDelegateForColumn(LogbookModel::eCard, new CardDelegate(mpTable));
     mpTable->setSelectionBehavior(QAbstractItemView::SelectRows);
     mpTable->setSelectionMode(QAbstractItemView::SingleSelection);
     mpTable->setAlternatingRowColors(true);

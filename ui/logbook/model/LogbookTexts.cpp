@@ -97,11 +97,10 @@ QString LogbookTexts::engineHours(const LogbookEngine& engine)
     if (engine.unknownCycles > 0)
         text += "; " + tr("cycles that do not tell whether the engine ran: %1").arg(engine.unknownCycles);
     if (engine.recordings.several > 0)
-        text += ".\n" + tr("%n recording(s) are there in several copies, of which one holds what others lack; each counts once", nullptr,
-                           static_cast<int>(engine.recordings.several));
+        text += ".\n" + tr("Recordings of which there are several copies, not all of them whole, and which count once: %1").arg(engine.recordings.several);
     if (engine.recordings.overlapping > 0)
-        text += ".\n" + tr("%n recording(s) overlap with another one, and count as well: two units with one serial number, or a wrong clock?", nullptr,
-                           static_cast<int>(engine.recordings.overlapping));
+        text += ".\n" + tr("Two units with one serial number, or a wrong clock? Recordings that overlap with another one, and count as well: %1")
+                           .arg(engine.recordings.overlapping);
     if (engine.isLossy)
         text += ".\n" + tr("Recordings were lost when the logbook was damaged: it may have run more. Open the cards that you still have, then enter the hours "
                            "before anew, with what is missing");
@@ -133,7 +132,7 @@ QString LogbookTexts::due(const Service& service, const ServiceDue& due)
     }
     QStringList parts;
     if (due.isOfOtherCount)
-        parts.append(tr("not known: done at %1 h of %2; confirm at which hours of this engine")
+        parts.append(tr("not known: done at %1 h of %2, please confirm")
                          .arg(hours(service.doneHours.value_or(0.0)), engine(service.engine, {})));
     if (due.knownHours)
         parts.append(tr("not known: done at %1 h, the logbook has %2 h").arg(hours(service.doneHours.value_or(0.0)), hours(*due.knownHours)));
