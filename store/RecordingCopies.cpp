@@ -124,6 +124,9 @@ bool RecordingCopies::isSame(const Row& row, const Row& other)
 
 void RecordingCopies::resolveMoment(const std::string& engine, Rows rows, Rows& counted)
 {
+    const auto brief = std::ranges::partition(rows, [](const Row& row) { return length(row.span) > kSameMoment; }); // switched off at once, and on again
+    counted.insert(counted.end(), brief.begin(), brief.end());
+    rows.erase(brief.begin(), brief.end());
     if (!isClockSet(rows)) {
         counted.insert(counted.end(), rows.begin(), rows.end());
         return;

@@ -138,8 +138,10 @@ void LogbookTrends::read()
     ++mAsked;
     if (mEngine.empty())
         return fill({});
-    if (mTrends.empty())
+    if (mTrends.empty() || mTrends.front()->trend.engine != mEngine) { // those of another engine are none of this one
+        fill({});
         mpTitle->setText(tr("Reading ..."));
+    }
     mWorker.ask(
         [engine = mEngine, context = mContext](LogbookReader& reader) {
             Trends trends;

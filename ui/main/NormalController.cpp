@@ -38,7 +38,7 @@ void NormalController::ask()
     // A slow card has to be read for its identity.
     const auto pBands = std::make_shared<std::vector<NormalBand>>();
     const CycleHead head{{}, cycleEngine(card, *pCycle), *card.loadedCycleNumber(), pCycle->dateTime};
-    const ShownRecording shown{head, PowerUp::of(*pCycle), {card.startTime(), pCycle->endTime}};
+    const ShownRecording shown{head, PowerUp::of(*pCycle), {pCycle->files.front().get().startTime, pCycle->endTime}};
     mWorker.run(
         [pBands, shown, flights = pCycle->flights, paths = cyclePaths(*pCycle), path = encodeFileName(mWorker.path())] {
             ShownRecording known = shown;
