@@ -38,7 +38,8 @@ void sortByUrgency(std::vector<Service>& services, std::optional<double> hours, 
         const ServiceDue due = dueOf(service, hours, today, isLossy);
         // An hour of an engine passes in about a day or two.
         const double byDate = due.date.isValid() ? static_cast<double>(today.daysTo(due.date)) : kNever;
-        return std::tuple(-due.state, std::min(due.hoursLeft.value_or(kNever), byDate));
+        const double unknown = due.state == ServiceDue::eInDoubt ? 0.0 : kNever; // it may be due
+        return std::tuple(-due.state, std::min(due.hoursLeft.value_or(unknown), byDate));
     };
     std::ranges::stable_sort(services, {}, urgency);
 }

@@ -32,8 +32,8 @@ constexpr std::array kLetters = {19, 22, 0, 0, 0, 14, 29, 12};
 constexpr int kFewestLetters = 10;
 static_assert(kLetters.size() == LogbookModel::eColumns);
 
-/// Puts the sign of the verdict before its word.
-class VerdictDelegate : public QStyledItemDelegate {
+/// Puts the sign of the verdict before its word, and shows of a card that is too long its end as well: which cycle and flight it was.
+class FlightDelegate : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
@@ -42,7 +42,9 @@ protected:
     {
         QStyledItemDelegate::initStyleOption(pOption, index);
         const QVariant verdict = index.data(Qt::UserRole);
-        if (!verdict.isValid())
+        if (index.column() == LogbookModel::eCard)
+            pOption->textElideMode = Qt::ElideMiddle;
+        if (index.column() != LogbookModel::eVerdict || !verdict.isValid())
             return;
         const double ratio = pOption->widget ? pOption->widget->devicePixelRatioF() : 1.0;
         QPixmap sign(QSizeF(kSign * ratio, kSign * ratio).toSize());
@@ -54,19 +56,6 @@ protected:
         pOption->features |= QStyleOptionViewItem::HasDecoration;
         pOption->icon = QIcon(sign);
         pOption->decorationSize = QSize(kSign, kSign);
-    }
-};
-
-/// Which cycle and flight of a card it was stands at the end.
-class CardDelegate : public QStyledItemDelegate {
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-protected:
-    void initStyleOption(QStyleOptionViewItem* pOption, const QModelIndex& index) const override
-    {
-        QStyledItemDelegate::initStyleOption(pOption, index);
-        pOption->textElideMode = Qt::ElideMiddle;
     }
 };
 
@@ -126,8 +115,7 @@ void LogbookFlights::createTable()
     mpTable->setObjectName("flights");
     mpTable->setModel(&mModel);
     mpTable->setAccessibleName(tr("Flights"));
-    mpTable->setItemDelegateForColumn(LogbookModel::eVerdict, new VerdictDelegate(mpTable));
-    mpTable->setItemDelegateForColumn(LogbookModel::eCard, new CardDelegate(mpTable));
+    mpTable->setItemDelegate(new FlightDelegate(mpTable));
     mpTable->setSelectionBehavior(QAbstractItemView::SelectRows);
     mpTable->setSelectionMode(QAbstractItemView::SingleSelection);
     mpTable->setAlternatingRowColors(true);
