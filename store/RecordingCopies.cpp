@@ -28,6 +28,18 @@ double length(const TimeSpan& span)
     return span.end - span.start;
 }
 
+/// How much of a span others cover together.
+double covered(const TimeSpan& span, std::vector<TimeSpan> others)
+{
+    std::ranges::sort(others, {}, &TimeSpan::start);
+    double seconds = 0.0, reached = span.start;
+    for (const TimeSpan& other : others) {
+        seconds += overlap({reached, std::max(reached, span.end)}, other);
+        reached = std::max(reached, other.end);
+    }
+    return seconds;
+}
+
 } // namespace
 
 RecordingCopies::RecordingCopies(Database& database) : mDatabase(database)
@@ -144,13 +156,13 @@ void RecordingCopies::resolveMoment(const std::string& engine, Rows rows, Rows& 
             const Copy* pCopy = RecordingCopies::copy(other->cycleId);
             copy.of = told.empty() ? (pCopy ? pCopy->of : other->cycleId) : copy.of;
             told.push_back(other->span);
-            if (row->running)
-                copy.counted = std::min(*copy.counted, std::max(0.0, *row->running - overlap(row->span, other->span)));
         }
         if (told.empty()) {
             counted.push_back(*row);
             continue;
         }
+        if (row->running)
+            copy.counted = std::max(0.0, *row->running - covered(row->span, told));
         several.insert(copy.of);
         keepFlights(copy, row->cycleId, told);
         mCopiesOf.emplace(copy.of, row->cycleId);

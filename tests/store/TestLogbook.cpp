@@ -158,6 +158,9 @@ void TestLogbook::countsRecordingsOnce_data()
     QTest::newRow("its first file is gone") << pRest << "" << Flights{11, 12} << 7200.0 << std::size_t{1} << std::size_t{0};
     QTest::newRow("more of it is there now") << "1, '2025-05-01T10:00:00', 0, 9000, 8900" << "" << Flights{21, 22} << 8900.0 << std::size_t{1} << std::size_t{0};
     QTest::newRow("each has what the other lacks") << "0, '2025-05-01T10:20:00', 1200, 9200, 7200" << "" << Flights{11, 21, 22} << 8300.0 << std::size_t{1} << std::size_t{0};
+    QTest::newRow("the others hold all of a third") << "0, '2025-05-01T10:20:00', 1200, 9200, 7200"
+        << "INSERT INTO cycle (cycle_id, engine_id, number, date_time, start_time, end_time, engine_running) VALUES ('q', 'E1', 1, '2025-05-01T10:00:00', 1000, 8200, 7200)"
+        << Flights{11, 21, 22} << 8300.0 << std::size_t{1} << std::size_t{0};
     QTest::newRow("another unit") << pRest << "INSERT INTO cycle_unit VALUES ('a', 1), ('p', 2)" << Flights{11, 12, 21} << 13700.0 << std::size_t{0} << std::size_t{1};
     QTest::newRow("on one card: a clock that begins anew") << "2, '2025-05-01T10:00:00', 0, 600, 500" << "INSERT INTO file VALUES (1, 'x', 1, 1, 'a'), (1, 'y', 1, 1, 'p')"
         << Flights{11, 12} << 7700.0 << std::size_t{0} << std::size_t{1};
