@@ -30,15 +30,16 @@ CanvasText style(bool bold = false, const QColor& colour = colours().ink, double
     return {size, colour, bold};
 }
 
-QSizeF pageSize(bool isLetter)
+QSizeF pageSize(bool isLetter, bool isLandscape)
 {
-    return QPageSize(isLetter ? QPageSize::Letter : QPageSize::A4).size(QPageSize::Point);
+    const QSizeF size = QPageSize(isLetter ? QPageSize::Letter : QPageSize::A4).size(QPageSize::Point);
+    return isLandscape ? size.transposed() : size;
 }
 
 } // namespace
 
 PaperReport::PaperReport(const ReportDocument& document, bool isLetter)
-    : mDocument(document), mIsLetter(isLetter), mPages(pageSize(isLetter), document.head, document.creator)
+    : mDocument(document), mIsLetter(isLetter), mPages(pageSize(isLetter, document.isLandscape), document.head, document.creator)
 {
 }
 
@@ -51,6 +52,7 @@ bool PaperReport::write(SafeFile& file, Progress& progress)
     buffer.open(QIODevice::WriteOnly);
     QPdfWriter writer(&buffer);
     writer.setPageSize(QPageSize(mIsLetter ? QPageSize::Letter : QPageSize::A4));
+    writer.setPageOrientation(mDocument.isLandscape ? QPageLayout::Landscape : QPageLayout::Portrait);
     writer.setPageMargins(QMarginsF());
     writer.setResolution(kResolution);
     writer.setTitle(printable(mDocument.title + ", " + mDocument.head));

@@ -93,6 +93,7 @@ struct ReportDocument {
     QString title;
     QString head; ///< what it is about, in a line
     QString creator;
+    bool isLandscape = false; ///< on paper, for tables of many columns
     std::vector<ReportBlock> blocks;
 
     void add(ReportBlock block) { blocks.push_back(std::move(block)); }

@@ -1,8 +1,8 @@
 #include "store/CardWriter.h"
 
+#include "store/CycleIdentity.h"
 #include "store/StoreText.h"
 
-#include <optional>
 #include <set>
 
 namespace ZARN {
@@ -46,6 +46,7 @@ void CardWriter::write(const CardFacts& facts)
         if (!hasCycle(cycle.head.id)) // another card, or another program, may have brought it meanwhile
             writeCycle(card, cycle);
     }
+    writeUnits(facts);
     writeProblems(card, facts);
     writeFiles(card, facts);
 }
@@ -96,20 +97,29 @@ void CardWriter::writeProblems(int64_t card, const CardFacts& facts)
         insertProblem(card, file, reason);
 }
 
-void CardWriter::writeFiles(int64_t card, const CardFacts& facts)
+CardWriter::KnownFiles CardWriter::knownFiles(int64_t card)
 {
-    struct Known {
-        int64_t size;
-        std::optional<double> mtime; ///< none where the card could not be read whole
-        std::string cycle;
-
-        [[nodiscard]] bool is(const ListedFile& file) const { return size == file.size && mtime.value_or(file.mtime) == file.mtime; }
-    };
-    std::map<std::string, Known> before;
+    KnownFiles known;
     Statement& old =
         mDatabase.prepared("SELECT name, size, mtime, cycle_id FROM file WHERE card_id = ? AND cycle_id IS NOT NULL").with({card});
     while (old.next())
-        before[old.text(0)] = {old.integer(1), old.isNull(2) ? std::nullopt : std::optional(old.real(2)), old.text(3)};
+        known[old.text(0)] = {old.integer(1), old.isNull(2) ? std::nullopt : std::optional(old.real(2)), old.text(3)};
+    return known;
+}
+
+std::map<std::string, int64_t> CardWriter::filesOf(const std::string& cycle, const KnownFiles& files)
+{
+    std::map<std::string, int64_t> sizes;
+    for (const auto& [name, known] : files) {
+        if (known.cycle == cycle)
+            sizes[name] = known.size;
+    }
+    return sizes;
+}
+
+void CardWriter::writeFiles(int64_t card, const CardFacts& facts)
+{
+    const KnownFiles before = knownFiles(card);
     mDatabase.prepared("DELETE FROM file WHERE card_id = ?").with({card}).run();
     Statement& insert = mDatabase.prepared("INSERT OR REPLACE INTO file (card_id, name, size, mtime, cycle_id) VALUES (?, ?, ?, ?, ?)");
     std::set<std::pair<std::string, std::string>> grown, shrunk;
@@ -121,10 +131,13 @@ void CardWriter::writeFiles(int64_t card, const CardFacts& facts)
         if (known == before.end() || cycle.empty() || known->second.cycle == cycle)
             continue;
         const std::string& oldCycle = known->second.cycle;
-        const bool isGrown = known->second.is(file) || (known->second.size < file.size && isBeginning(oldCycle, cycle));
+        if (grown.contains({oldCycle, cycle}))
+            continue;
+        const bool isSame = known->second.is(file) || (known->second.size == file.size && holdsCycle(facts.listing, filesOf(oldCycle, before), oldCycle));
+        const bool isGrown = isSame || (known->second.size < file.size && isBeginning(oldCycle, cycle));
         if (isGrown && isCovered(oldCycle, cycle))
             grown.emplace(oldCycle, cycle);
-        else if (known->second.is(file) && isCovered(cycle, oldCycle))
+        else if (isSame && isCovered(cycle, oldCycle))
             shrunk.emplace(oldCycle, cycle);
     }
     for (const auto& [oldCycle, newCycle] : grown)
@@ -177,6 +190,15 @@ void CardWriter::writeEngine(const EngineIdentity& engine)
         .with({engine.id, textOrNothing(engine.serial), engine.ecuSerial ? Value(*engine.ecuSerial) : Value(), textOrNothing(engine.type),
                textOrNothing(engine.ecuType)})
         .run();
+}
+
+void CardWriter::writeUnits(const CardFacts& facts)
+{
+    Statement& unit = mDatabase.prepared("INSERT OR REPLACE INTO cycle_unit SELECT cycle_id, ?2 FROM cycle WHERE cycle_id = ?1");
+    for (const CycleHead& cycle : facts.heads) {
+        if (cycle.engine.ecuSerial)
+            unit.with({cycle.id, *cycle.engine.ecuSerial}).run();
+    }
 }
 
 void CardWriter::writeReading(const std::string& engine, const HoursReading& reading)

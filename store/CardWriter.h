@@ -4,6 +4,9 @@
 #include "store/CycleRows.h"
 #include "store/Database.h"
 
+#include <map>
+#include <optional>
+
 namespace ZARN {
 
 /// Writes what was found on a card into an open store, within a transaction. What went before it stays where it is still true: a recording
@@ -19,11 +22,23 @@ public:
     void forgetFailure(const std::string& path);
 
 private:
+    /// A file as the store has it.
+    struct Known {
+        int64_t size = 0;
+        std::optional<double> mtime; ///< none where the card could not be read whole
+        std::string cycle;
+
+        [[nodiscard]] bool is(const ListedFile& file) const { return size == file.size && mtime.value_or(file.mtime) == file.mtime; }
+    };
+    using KnownFiles = std::map<std::string, Known>; ///< by name
+    [[nodiscard]] KnownFiles knownFiles(int64_t card);
+    [[nodiscard]] static std::map<std::string, int64_t> filesOf(const std::string& cycle, const KnownFiles& files);
     int64_t writeCard(const CardFacts& card);
     void writeFiles(int64_t card, const CardFacts& facts);
     void writeProblems(int64_t card, const CardFacts& facts);
     void writeFailure(int64_t card, const CardFacts& facts);
     void insertProblem(int64_t card, const std::string& file, const std::string& reason);
+    void writeUnits(const CardFacts& facts);
     void writeCycle(int64_t card, const CycleFacts& cycle);
     void writeReading(const std::string& engine, const HoursReading& reading);
     void writeEngine(const EngineIdentity& engine);

@@ -85,6 +85,17 @@ std::vector<std::string> cyclePaths(const RecordCycle& cycle)
     return paths;
 }
 
+bool holdsCycle(const CardListing& folder, const std::map<std::string, int64_t>& files, const std::string& id)
+{
+    std::vector<std::string> paths;
+    for (const ListedFile& file : folder.files) {
+        const auto found = files.find(storeText(file.name));
+        if (found != files.end() && found->second == file.size)
+            paths.push_back(folder.path + "/" + file.name);
+    }
+    return !paths.empty() && paths.size() == files.size() && cycleIdentity(paths) == id;
+}
+
 CycleHead cycleHead(const CardContainer& card, uint32_t number, const RecordCycle& cycle)
 {
     const QDateTime date = isStoreDate(cycle.dateTime) ? cycle.dateTime : QDateTime();

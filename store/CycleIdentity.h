@@ -10,6 +10,8 @@ namespace ZARN {
 [[nodiscard]] std::string cycleIdentity(const std::vector<std::string>& paths);
 /// The files of a cycle, in order.
 [[nodiscard]] std::vector<std::string> cyclePaths(const RecordCycle& cycle);
+/// Whether the files that a cycle was made of are in a folder as they were, whenever they were written. @param files their sizes, by name
+[[nodiscard]] bool holdsCycle(const CardListing& folder, const std::map<std::string, int64_t>& files, const std::string& id);
 /// The engine that a cycle of a card tells of.
 [[nodiscard]] EngineIdentity cycleEngine(const CardContainer& card, const RecordCycle& cycle);
 /// The same of a cycle of a card, and whose it is.

@@ -3,18 +3,21 @@
 #include "store/StoreText.h"
 
 #include <cerrno>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <fstream>
 
 #include <sqlite3.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace ZARN {
 
 namespace {
 
-constexpr int kBusyMilliseconds = 5000;
+constexpr int kBusyMilliseconds = 5000, kReaderMilliseconds = 1000; // a writer alone has to wait for another one
+
 
 Database::EFailure failureOf(int code)
 {
@@ -60,6 +63,12 @@ bool hasMagic(const std::string& path)
     std::string begin(kMagic.size(), ' ');
     std::ifstream(path, std::ios::binary).read(begin.data(), static_cast<std::streamsize>(begin.size()));
     return begin == kMagic;
+}
+
+std::string folderOf(const std::string& path)
+{
+    const std::size_t end = path.rfind('/');
+    return end == std::string::npos ? "." : path.substr(0, end + 1);
 }
 
 /// The name of a file that nobody writes.
@@ -172,15 +181,23 @@ Database::Database(const std::string& path, EMode mode) : mPath(path)
         fail(tr("it is no file"));
         return;
     }
+    mIsNew = mode == eReadWrite && ::stat(path.c_str(), &status) != 0 && errno == ENOENT;
+    if (mIsNew && ::access(folderOf(path).c_str(), W_OK) != 0) { // which SQLite would not tell from a file that is missing
+        fail(QString::fromLocal8Bit(std::strerror(errno)));
+        return;
+    }
     if (!open(path, flagsOf(mode)))
         return;
     if (mode != eReadWrite) {
+        sqlite3_busy_timeout(mpDatabase, kReaderMilliseconds);
         // Where nothing can be written a reader cannot announce itself; nobody writes there.
         const int code = sqlite3_exec(mpDatabase, "SELECT 1 FROM sqlite_master", nullptr, nullptr, nullptr) % 256;
         const bool isFull = sqlite3_system_errno(mpDatabase) == ENOSPC && isEmpty(path + "-wal"); // else the file alone is not all
         if (code == SQLITE_CANTOPEN || code == SQLITE_READONLY || (code != SQLITE_OK && isFull)) {
             close();
             mIsFixed = open(immutable(path), SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
+        } else if (code == SQLITE_BUSY) {
+            note(code); // once is enough to wait
         }
     }
     if (mode == eReadWrite && sqlite3_db_readonly(mpDatabase, "main") == 1)
@@ -218,6 +235,8 @@ void Database::close()
     mStatements.clear();
     sqlite3_close(mpDatabase);
     mpDatabase = nullptr;
+    if (mIsNew && mFailure == eOther && isInPlace() && isEmpty(mPath)) // what could not be begun leaves nothing behind
+        std::remove(mPath.c_str());
 }
 
 bool Database::run(const std::string& sql)

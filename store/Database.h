@@ -96,6 +96,7 @@ private:
     uint64_t mDevice = 0; ///< where the open file is
     uint64_t mInode = 0;
     int64_t mWritten = 0;  ///< when it was, in nanoseconds since 1970
+    bool mIsNew = false;   ///< there was none
     bool mIsFixed = false; ///< it is read as one that nobody writes
     std::map<std::string, std::unique_ptr<Statement>> mStatements;
 };

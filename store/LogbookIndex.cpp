@@ -1,5 +1,6 @@
 #include "store/LogbookIndex.h"
 
+#include "store/FlightVerdict.h"
 #include "store/PlacedFlights.h"
 
 #include <algorithm>
@@ -53,80 +54,139 @@ std::size_t LogbookIndex::Texts::of(const std::string& text)
     return found->second;
 }
 
-LogbookIndex::LogbookIndex(Database& database) : mDatabase(database)
+LogbookIndex::LogbookIndex(Database& database, const RecordingCopies& copies) : mDatabase(database)
 {
-    read();
+    read(copies);
 }
 
-void LogbookIndex::read()
+void LogbookIndex::read(const RecordingCopies& copies)
 {
     mFlights.clear();
     mCycles.clear();
     mCycleOf.clear();
     mEngines = mCards = {};
-    readCycles();
-    Statement& found = mDatabase.prepared("SELECT flight_id, cycle_id, number, date_time, landing_time - take_off_time, total_fuel, total_climb FROM flight");
-    found.with({});
-    while (found.next()) {
-        const auto cycle = mCycleOf.find(found.text(1));
-        if (cycle == mCycleOf.end())
-            continue;
-        const double fuel = mCycles[cycle->second].hasFuel ? realOr(found, 5, kUnknown) : kUnknown;
-        mFlights.push_back({found.integer(0), cycle->second, found.integer(2), found.text(3), !found.isNull(3), realOr(found, 4, 0.0), fuel,
-                            realOr(found, 6, kUnknown)});
-    }
-    placeUndated();
+    readCycles(copies);
+    readFlights(copies);
+    place();
+    readVerdicts();
     std::ranges::sort(mFlights, [this](const Flight& a, const Flight& b) {
         const Cycle &one = mCycles[a.cycle], &other = mCycles[b.cycle];
         return std::tie(a.at, one.card, one.number, a.number, a.id) < std::tie(b.at, other.card, other.number, b.number, b.id);
     });
 }
 
-/// Few flights have no date, and only their cards have to be looked through for their places.
-void LogbookIndex::placeUndated()
-{
-    std::unordered_map<int64_t, std::string> places;
-    Statement& found = mDatabase.prepared(
-        placedFlights("WHERE cycle.card_id IN (SELECT card_id FROM flight JOIN cycle USING (cycle_id) WHERE flight.date_time IS NULL)") +
-        "SELECT flight_id, at FROM placed WHERE date_time IS NULL");
-    found.with({});
-    while (found.next())
-        places.emplace(found.integer(0), found.text(1));
-    for (Flight& flight : mFlights) {
-        if (const auto place = flight.hasDate ? places.end() : places.find(flight.id); place != places.end())
-            flight.at = place->second;
-    }
-}
-
-void LogbookIndex::readCycles()
+void LogbookIndex::readCycles(const RecordingCopies& copies)
 {
     Statement& found = mDatabase.prepared("SELECT cycle_id, engine_id, coalesce(card.name, ''), verdict, engine_running, cycle.card_id, "
                                           "number, fuel IS NOT NULL FROM cycle LEFT JOIN card USING (card_id)");
     found.with({});
     while (found.next()) {
         mCycleOf.emplace(found.text(0), mCycles.size());
-        mCycles.push_back(
-            {mEngines.of(found.text(1)), mCards.of(found.text(2)), found.text(3), realOr(found, 4, kUnknown), found.integer(5), found.integer(6),
-             found.integer(7) != 0});
+        mCycles.push_back({mEngines.of(found.text(1)), mCards.of(found.text(2)), mCycles.size(), verdictOfKey(found.text(3)), realOr(found, 4, kUnknown),
+                           found.integer(5), found.integer(6), found.integer(7) != 0});
+    }
+    for (const auto& [id, copy] : copies.copies()) {
+        const auto cycle = mCycleOf.find(id), counted = mCycleOf.find(copy.of);
+        if (cycle == mCycleOf.end() || counted == mCycleOf.end())
+            continue;
+        mCycles[cycle->second].recording = counted->second;
+        mCycles[cycle->second].running = copy.counted.value_or(kUnknown);
+    }
+}
+
+void LogbookIndex::readFlights(const RecordingCopies& copies)
+{
+    Statement& found = mDatabase.prepared(
+        "SELECT flight_id, cycle_id, number, date_time, landing_time - take_off_time, total_fuel, total_climb, start_time, end_time FROM flight");
+    found.with({});
+    while (found.next()) {
+        const auto cycle = mCycleOf.find(found.text(1));
+        if (cycle == mCycleOf.end() || copies.isToldElsewhere(found.integer(0)))
+            continue;
+        const double fuel = mCycles[cycle->second].hasFuel ? realOr(found, 5, kUnknown) : kUnknown;
+        const EVerdict verdict = verdictOfFlight(mCycles[cycle->second].verdict, 0);
+        mFlights.push_back({found.integer(0), cycle->second, found.integer(2), found.text(3), !found.isNull(3), realOr(found, 4, 0.0), fuel,
+                            realOr(found, 6, kUnknown), verdict, {found.real(7), found.real(8)}});
+    }
+}
+
+/// Few flights have no date, and only their cards have to be looked through for their places; few have one that has to be set right.
+void LogbookIndex::place()
+{
+    std::unordered_map<int64_t, std::string> places;
+    const std::string undated = placedFlights("WHERE cycle.card_id IN (SELECT card_id FROM flight JOIN cycle USING (cycle_id) WHERE flight.date_time IS NULL)") +
+                                "SELECT flight_id, at FROM placed WHERE date_time IS NULL";
+    const std::string late = "SELECT flight_id, " + clockOf("flight.date_time") +
+                             " FROM cycle CROSS JOIN flight USING (cycle_id) WHERE cycle.number = 0 AND flight.date_time IS NOT NULL";
+    for (const std::string& sql : {undated, late}) {
+        Statement& found = mDatabase.prepared(sql).with({});
+        while (found.next())
+            places.emplace(found.integer(0), found.text(1));
+    }
+    for (Flight& flight : mFlights) {
+        if (const auto place = places.find(flight.id); place != places.end())
+            flight.at = place->second;
+    }
+}
+
+void LogbookIndex::readVerdicts()
+{
+    std::unordered_map<int64_t, int64_t> states;
+    Statement& found = mDatabase.prepared(std::string("SELECT flight.flight_id, max(state) FROM incident JOIN flight ON ") + kDuringFlight + " GROUP BY 1");
+    found.with({});
+    while (found.next())
+        states.emplace(found.integer(0), found.integer(1));
+    for (Flight& flight : mFlights) {
+        if (const auto state = states.find(flight.id); state != states.end())
+            flight.verdict = verdictOfFlight(flight.verdict, state->second);
     }
 }
 
 LogbookIndex::Found LogbookIndex::find(const QString& text)
 {
-    Found found{holders(mEngines.texts, text), holders(mCards.texts, text), std::vector<bool>(mCycles.size()), std::vector<bool>(mFlights.size())};
+    Found found{holders(mEngines.texts, text), holders(mCards.texts, text), std::vector<bool>(mFlights.size())};
     Statement& aircraft = mDatabase.prepared("SELECT engine_id, name FROM aircraft").with({});
     while (aircraft.next()) {
         const auto engine = mEngines.places.find(aircraft.text(0));
         if (engine != mEngines.places.end() && holds(QString::fromStdString(aircraft.text(1)), text))
             found.engines[engine->second] = true;
     }
-    Statement& notes = mDatabase.prepared("SELECT cycle_id, text FROM note").with({});
+    findNotes(text, found.flights);
+    findIncidents(text, found.flights);
+    return found;
+}
+
+/// A note is of the flight that it stands in; one that stands in none is of all flights of its cycle.
+void LogbookIndex::findNotes(const QString& text, std::vector<bool>& flights)
+{
+    struct Time {
+        double seconds = 0.0;
+        bool isInFlight = false;
+    };
+    std::unordered_map<std::size_t, std::vector<Time>> times; // of the notes, by recording
+    Statement& notes = mDatabase.prepared("SELECT cycle_id, text, time FROM note").with({});
     while (notes.next()) {
         const auto cycle = mCycleOf.find(notes.text(0));
         if (cycle != mCycleOf.end() && holds(QString::fromStdString(notes.text(1)), text))
-            found.cycles[cycle->second] = true;
+            times[mCycles[cycle->second].recording].push_back({notes.real(2)});
     }
-    std::set<int64_t> flights;
+    const auto forEach = [&](auto act) {
+        for (std::size_t i = 0; i < mFlights.size() && !times.empty(); ++i) {
+            const auto found = times.find(mCycles[mFlights[i].cycle].recording);
+            for (std::size_t note = 0; found != times.end() && note < found->second.size(); ++note)
+                flights[i] = act(found->second[note], mFlights[i].span) || flights[i];
+        }
+    };
+    forEach([](Time& note, const TimeSpan& flight) {
+        note.isInFlight |= flight.holds(note.seconds);
+        return flight.holds(note.seconds);
+    });
+    forEach([](const Time& note, const TimeSpan&) { return !note.isInFlight; });
+}
+
+void LogbookIndex::findIncidents(const QString& text, std::vector<bool>& flights)
+{
+    std::set<int64_t> ids;
     Statement& titles = mDatabase.prepared("SELECT DISTINCT title FROM incident").with({});
     Statement& incidents = mDatabase.prepared("SELECT flight_id FROM incident WHERE title = ? AND flight_id IS NOT NULL");
     while (titles.next()) {
@@ -134,11 +194,10 @@ LogbookIndex::Found LogbookIndex::find(const QString& text)
             continue;
         incidents.with({titles.text(0)});
         while (incidents.next())
-            flights.insert(incidents.integer(0));
+            ids.insert(incidents.integer(0));
     }
     for (std::size_t i = 0; i < mFlights.size(); ++i)
-        found.flights[i] = flights.contains(mFlights[i].id);
-    return found;
+        flights[i] = flights[i] || ids.contains(mFlights[i].id);
 }
 
 std::vector<std::size_t> LogbookIndex::chosen(const LogbookFilter& filter)
@@ -154,9 +213,9 @@ std::vector<std::size_t> LogbookIndex::chosen(const LogbookFilter& filter)
         const Cycle& cycle = mCycles[flight.cycle];
         const bool isInTime = flight.hasDate ? flight.at >= from && flight.at < end : !filter.from.isValid() && !filter.until.isValid();
         const bool isOfEngine = filter.engine.empty() || (engine != mEngines.places.end() && cycle.engine == engine->second);
-        const bool isOfVerdict = filter.verdict.empty() || cycle.verdict == filter.verdict;
+        const bool isOfVerdict = filter.verdict.empty() || verdictKey(flight.verdict) == filter.verdict;
         if (isInTime && isOfEngine && isOfVerdict &&
-            (wanted.isEmpty() || found.engines[cycle.engine] || found.cards[cycle.cardName] || found.cycles[flight.cycle] || found.flights[i]))
+            (wanted.isEmpty() || found.engines[cycle.engine] || found.cards[cycle.cardName] || found.flights[i]))
             places.push_back(i);
     }
     return places;
@@ -168,7 +227,7 @@ void LogbookIndex::sort(std::vector<std::size_t>& places, ELogbookOrder order, b
     switch (order) {
     case ELogbookOrder::eDate: break; // as they stand
     case ELogbookOrder::eEngine: by([this](const Flight& flight) -> const QString& { return mEngines.texts[mCycles[flight.cycle].engine]; }); break;
-    case ELogbookOrder::eVerdict: by([this](const Flight& flight) -> const std::string& { return mCycles[flight.cycle].verdict; }); break;
+    case ELogbookOrder::eVerdict: by([](const Flight& flight) { return flight.verdict; }); break;
     case ELogbookOrder::eFlightTime: by([](const Flight& flight) { return flight.flightTime; }); break;
     case ELogbookOrder::eFuel: by([](const Flight& flight) { return rank(flight.fuel); }); break;
     case ELogbookOrder::eClimb: by([](const Flight& flight) { return rank(flight.climb); }); break;

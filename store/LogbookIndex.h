@@ -1,6 +1,7 @@
 #pragma once
 
-#include "store/Database.h"
+#include "analysis/CycleReview.h"
+#include "store/RecordingCopies.h"
 
 #include <QDate>
 
@@ -38,10 +39,10 @@ struct LogbookSelection {
 /// anybody notices. Stays as it was when it was read.
 class LogbookIndex {
 public:
-    explicit LogbookIndex(Database& database);
+    LogbookIndex(Database& database, const RecordingCopies& copies);
 
     /// Reads it anew.
-    void read();
+    void read(const RecordingCopies& copies);
     [[nodiscard]] LogbookSelection select(const LogbookFilter& filter, ELogbookOrder order, bool isDescending);
 
 private:
@@ -54,12 +55,15 @@ private:
         double flightTime = 0.0;
         double fuel = 0.0; ///< NaN: not known
         double climb = 0.0;
+        EVerdict verdict = EVerdict::eUnknown;
+        TimeSpan span; ///< seconds since power-up
     };
     struct Cycle {
         std::size_t engine = 0;
         std::size_t cardName = 0;
-        std::string verdict;
-        double running = 0.0; ///< NaN: not known
+        std::size_t recording = 0; ///< the cycle that counts in place of a copy; else itself
+        EVerdict verdict = EVerdict::eUnknown;
+        double running = 0.0; ///< what counts; NaN: not known
         int64_t card = 0;
         int64_t number = 0;
         bool hasFuel = false;
@@ -74,11 +78,14 @@ private:
     struct Found {
         std::vector<bool> engines;
         std::vector<bool> cards;
-        std::vector<bool> cycles;  ///< by their notes
-        std::vector<bool> flights; ///< by their incidents
+        std::vector<bool> flights; ///< by their notes and incidents
     };
-    void readCycles();
-    void placeUndated();
+    void readCycles(const RecordingCopies& copies);
+    void readFlights(const RecordingCopies& copies);
+    void readVerdicts();
+    void place();
+    void findNotes(const QString& text, std::vector<bool>& flights);
+    void findIncidents(const QString& text, std::vector<bool>& flights);
     [[nodiscard]] Found find(const QString& text);
     [[nodiscard]] std::vector<std::size_t> chosen(const LogbookFilter& filter);
     void sort(std::vector<std::size_t>& places, ELogbookOrder order, bool isDescending) const;

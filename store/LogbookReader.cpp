@@ -1,10 +1,14 @@
 #include "store/LogbookReader.h"
 
+#include "store/FlightVerdict.h"
 #include "store/PlacedFlights.h"
 #include "store/StoreSalvage.h"
 #include "store/StoreSchema.h"
 
 #include <QStringList>
+
+#include <algorithm>
+#include <utility>
 
 namespace ZARN {
 
@@ -12,14 +16,6 @@ namespace {
 
 // An engine together with those that were merged into it.
 constexpr const char* kSame = "(engine_id = ?1 OR engine_id IN (SELECT engine_id FROM engine_merge WHERE merged_into = ?1))";
-
-/// The unit's clock at a date of a cycle's recording. One that does not begin with the start of a cycle is dated by the beginning of its first
-/// file, while its times count from power-up.
-std::string clockOf(const std::string& date)
-{
-    return "CASE WHEN cycle.number = 0 THEN coalesce(strftime('%Y-%m-%dT%H:%M:%S', " + date + ", -cycle.start_time || ' seconds'), " + date +
-           ") ELSE " + date + " END";
-}
 
 QDateTime dateOf(const std::string& text)
 {
@@ -51,10 +47,20 @@ int64_t LogbookReader::version()
     return mDatabase.number("PRAGMA data_version");
 }
 
-LogbookIndex& LogbookReader::index()
+const RecordingCopies& LogbookReader::copies()
+{
+    const int64_t now = version();
+    if (std::exchange(mCopiesVersion, now) != now || !mCopies)
+        mCopies.emplace(mDatabase);
+    return *mCopies;
+}
+
+LogbookIndex& LogbookReader::index(bool isAnew)
 {
     if (!mIndex)
-        mIndex.emplace(mDatabase);
+        mIndex.emplace(mDatabase, copies());
+    else if (isAnew)
+        mIndex->read(copies());
     return *mIndex;
 }
 
@@ -64,25 +70,34 @@ std::vector<LogbookEntry> LogbookReader::entries(std::span<const int64_t> flight
     Statement& found = mDatabase.prepared(
         "SELECT flight_id, cycle.cycle_id, " + clockOf("flight.date_time") + ", engine_id, aircraft.name, card.path, card.name, cycle.number, flight.number, "
         "landing_time - take_off_time, CASE WHEN cycle.fuel IS NOT NULL THEN total_fuel END, "
-        "CASE WHEN min_altitude <> max_altitude THEN total_climb END, verdict, flight.start_time, flight.end_time "
+        "CASE WHEN min_altitude <> max_altitude THEN total_climb END, verdict, (SELECT max(state) FROM incident WHERE " + kDuringFlight + "), "
+        "flight.start_time, flight.end_time "
         "FROM flight JOIN cycle USING (cycle_id) LEFT JOIN aircraft USING (engine_id) LEFT JOIN card USING (card_id) WHERE flight_id = ?");
-    Statement& notes = mDatabase.prepared("SELECT text FROM note WHERE cycle_id = ? AND time BETWEEN ? AND ? ORDER BY time, note_id");
     for (const int64_t flight : flights) {
         LogbookEntry& entry = entries.emplace_back();
         found.with({flight});
         if (!found.next())
             continue;
+        const EVerdict whole = verdictOfKey(found.text(12));
         entry = {found.integer(0), found.text(1), found.text(2), found.text(3), found.text(4), found.text(5), found.text(6),
                  static_cast<int>(found.integer(7)), static_cast<int>(found.integer(8)), found.real(9), realOf(found, 10), realOf(found, 11),
-                 found.text(12), {}};
-        QStringList texts;
-        notes.with({entry.cycleId, found.value(13), found.value(14)});
-        while (notes.next())
-            texts.append(textOf(notes, 0).simplified());
-        entry.notes = texts.join("; ");
+                 verdictOfFlight(whole, found.integer(13)), whole, notesIn(found.text(1), found.value(14), found.value(15))};
         found.run(); // to its end
     }
     return entries;
+}
+
+/// With those that were pinned to a copy: times are the same there.
+QString LogbookReader::notesIn(const std::string& cycle, const Value& start, const Value& end)
+{
+    QStringList texts;
+    Statement& notes = mDatabase.prepared("SELECT text FROM note WHERE cycle_id = ? AND time BETWEEN ? AND ? ORDER BY time, note_id");
+    for (const std::string& same : copies().same(cycle)) {
+        notes.with({same, start, end});
+        while (notes.next())
+            texts.append(textOf(notes, 0).simplified());
+    }
+    return texts.join("; ");
 }
 
 std::vector<LogbookEngine> LogbookReader::engines()
@@ -106,23 +121,57 @@ std::vector<LogbookEngine> LogbookReader::engines()
         engine.isLossy = found.integer(6) != 0;
         engine.flights = static_cast<std::size_t>(found.integer(7));
     }
-    Statement& typed = mDatabase.prepared("SELECT hours FROM reading WHERE engine_id = ? AND source = 'typed' AND date IS NULL");
-    Statement& counter = mDatabase.prepared("SELECT hours, date FROM reading WHERE source = 'unit' AND " + std::string(kSame) + " ORDER BY hours DESC, date DESC LIMIT 1"); // it never falls, while a clock may jump
-    Statement& merged = mDatabase.prepared("SELECT engine_id FROM engine_merge WHERE merged_into = ? ORDER BY 1");
+    takeCopies(engines);
+    for (LogbookEngine& engine : engines)
+        readTyped(engine);
+    return engines;
+}
+
+/// Takes off what copies would count twice.
+void LogbookReader::takeCopies(std::vector<LogbookEngine>& engines)
+{
+    std::unordered_map<std::string, LogbookEngine*> byId;
     for (LogbookEngine& engine : engines) {
-        if (typed.with({engine.id}).next())
-            engine.hoursBefore = typed.real(0);
-        if (counter.with({engine.id}).next()) {
-            engine.counter = counter.real(0);
-            engine.counterDate = dateOf(counter.text(1));
-        }
-        merged.with({engine.id});
-        while (merged.next())
-            engine.merged.push_back(merged.text(0));
+        engine.recordings = copies().engine(engine.id);
+        byId.emplace(engine.id, &engine);
+    }
+    for (const auto& [cycle, copy] : copies().copies()) {
+        const auto found = byId.find(copy.engine);
+        if (found == byId.end())
+            continue;
+        LogbookEngine& engine = *found->second;
+        engine.flights -= std::min(engine.flights, copy.flights);
+        if (copy.running)
+            engine.running -= *copy.running - copy.counted.value_or(0.0);
+        else
+            engine.unknownCycles -= std::min<std::size_t>(engine.unknownCycles, 1);
+    }
+}
+
+void LogbookReader::readTyped(LogbookEngine& engine)
+{
+    Statement& typed = mDatabase.prepared("SELECT hours FROM reading WHERE engine_id = ? AND source = 'typed' AND date IS NULL");
+    Statement& counter = mDatabase.prepared("SELECT hours, date FROM reading WHERE source = 'unit' AND " + std::string(kSame) +
+                                            " ORDER BY hours DESC, date DESC LIMIT 1"); // it never falls, while a clock may jump
+    if (typed.with({engine.id}).next())
+        engine.hoursBefore = typed.real(0);
+    if (counter.with({engine.id}).next()) {
+        engine.counter = counter.real(0);
+        engine.counterDate = dateOf(counter.text(1));
     }
     typed.with({}).run(); // an open one would keep the store as it was
     counter.with({}).run();
-    return engines;
+    Statement& merged = mDatabase.prepared("SELECT m.engine_id, name, hours, (SELECT total(engine_running) FROM merged_cycle JOIN cycle USING (cycle_id) "
+                                           "WHERE merged_cycle.engine_id = m.engine_id) FROM engine_merge AS m LEFT JOIN aircraft USING (engine_id) LEFT JOIN reading "
+                                           "ON reading.engine_id = m.engine_id AND source = 'typed' AND date IS NULL WHERE merged_into = ? GROUP BY 1 ORDER BY 1");
+    merged.with({engine.id});
+    while (merged.next()) {
+        LogbookEngine& other = engine.merged.emplace_back();
+        other.id = merged.text(0);
+        other.aircraft = merged.text(1);
+        other.hoursBefore = realOf(merged, 2);
+        other.running = merged.real(3);
+    }
 }
 
 std::vector<Service> LogbookReader::services(const std::string& engine)
@@ -142,6 +191,7 @@ std::vector<Service> LogbookReader::services(const std::string& engine)
         service.doneHours = realOf(found, 5);
         service.doneDate = QDate::fromString(textOf(found, 6).left(10), Qt::ISODate);
         service.note = textOf(found, 7);
+        service.isOfOtherCount = service.engine != engine && service.everyHours && service.doneHours;
     }
     return services;
 }

@@ -23,8 +23,9 @@ struct LogbookEntry {
     double flightTime = 0.0;
     std::optional<double> fuel;  ///< litres
     std::optional<double> climb; ///< metres
-    std::string verdict;         ///< of the cycle
-    QString notes;               ///< of the cycle, those of the time of this flight, in one line
+    EVerdict verdict = EVerdict::eUnknown; ///< of this flight
+    EVerdict whole = EVerdict::eUnknown;   ///< of its cycle
+    QString notes;                         ///< of the cycle, those of the time of this flight, in one line
 };
 
 /// An engine of the store, and how long it ran.
@@ -33,12 +34,13 @@ struct LogbookEngine {
     std::string aircraft;
     std::string type;
     std::size_t flights = 0;
-    double running = 0.0;                 ///< seconds in all its cycles
+    double running = 0.0;                 ///< seconds in all its recordings, each once
     std::size_t unknownCycles = 0;        ///< that do not tell whether it ran
+    RecordingCopies::Engine recordings;
     std::optional<double> hoursBefore;    ///< typed: before the first recording
     std::optional<double> counter;        ///< most hours that the unit told
     QDateTime counterDate;
-    std::vector<std::string> merged; ///< engines that the user said are this one
+    std::vector<LogbookEngine> merged; ///< engines that the user said are this one: what was typed of them
     bool hasSerial = false;
     bool isLossy = false; ///< recordings of it may have been lost, and nobody has entered its hours since
 
@@ -72,7 +74,10 @@ public:
 
     /// The same store's trends; what fails there has failed here.
     [[nodiscard]] StoreReader trends() { return StoreReader(mDatabase); }
-    [[nodiscard]] LogbookIndex& index();
+    /// Which cycles are the same recording, as the store is now.
+    [[nodiscard]] const RecordingCopies& copies();
+    /// @param isAnew the store was written since
+    [[nodiscard]] LogbookIndex& index(bool isAnew = false);
     /// Those of these flights, in the same order.
     [[nodiscard]] std::vector<LogbookEntry> entries(std::span<const int64_t> flights);
     [[nodiscard]] std::vector<LogbookEngine> engines();
@@ -85,7 +90,13 @@ public:
     [[nodiscard]] std::vector<std::string> foldersOf(const std::string& cycle);
 
 private:
+    [[nodiscard]] QString notesIn(const std::string& cycle, const Value& start, const Value& end);
+    void takeCopies(std::vector<LogbookEngine>& engines);
+    void readTyped(LogbookEngine& engine);
+
     Database mDatabase;
+    std::optional<RecordingCopies> mCopies;
+    int64_t mCopiesVersion = 0;
     std::optional<LogbookIndex> mIndex;
 };
 

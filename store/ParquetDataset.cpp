@@ -239,10 +239,16 @@ std::map<std::string, CycleHead> ParquetDataset::forgetParts(const CardFacts& ca
 {
     const std::vector<ListedFile>& files = card.listing.files;
     std::map<std::string, CycleHead> wholes;
+    std::map<std::string, std::map<std::string, int64_t>> sizes; // of the files of each cycle, by name
+    std::vector<QStringList> lines;
     for (const QString& line : QString::fromStdString(before).split('\n', Qt::SkipEmptyParts)) {
         const QStringList fields = line.split('\t');
         if (fields.size() != 7)
             continue;
+        lines.push_back(fields);
+        sizes[fields[2].toStdString()][fields[0].toStdString()] = fields[1].toLongLong();
+    }
+    for (const QStringList& fields : lines) {
         CycleHead old;
         old.id = fields[2].toStdString();
         old.engine.id = fields[3].toStdString();
@@ -254,7 +260,8 @@ std::map<std::string, CycleHead> ParquetDataset::forgetParts(const CardFacts& ca
             const auto now = std::ranges::find(card.heads, card.cycleOfFile[i], &CycleHead::id);
             if (now == card.heads.end() || wholes.contains(now->id) || storeText(files[i].name) != fields[0].toStdString())
                 continue;
-            const bool isSame = files[i].size == fields[1].toLongLong() && files[i].mtime == fields[6].toDouble();
+            const bool isSame = files[i].size == fields[1].toLongLong() &&
+                                (files[i].mtime == fields[6].toDouble() || holdsCycle(card.listing, sizes[old.id], old.id));
             const bool isGrown = files[i].size > fields[1].toLongLong() && now->engine.id == old.engine.id && now->number == old.number &&
                                  (!old.dateTime.isValid() || storeDate(now->dateTime) == fields[5].toStdString());
             if ((isSame || isGrown) && isCovered(old, *now)) {

@@ -16,6 +16,14 @@ namespace ZARN {
            condition + " WINDOW card_order AS (PARTITION BY cycle.card_id ORDER BY cycle.number, flight.number)) ";
 }
 
+/// The unit's clock at a date of a cycle's recording. One that does not begin with the start of a cycle is dated by the beginning of its first
+/// file, while its times count from power-up.
+[[nodiscard]] inline std::string clockOf(const std::string& date)
+{
+    return "CASE WHEN cycle.number = 0 THEN coalesce(strftime('%Y-%m-%dT%H:%M:%S', " + date + ", -cycle.start_time || ' seconds'), " + date +
+           ") ELSE " + date + " END";
+}
+
 /// The engine that one is since the user said so; else itself.
 [[nodiscard]] inline std::string mergedEngine(Database& database, const std::string& engine)
 {

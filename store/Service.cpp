@@ -1,13 +1,18 @@
 #include "store/Service.h"
 
 #include <algorithm>
+#include <limits>
+#include <tuple>
 
 namespace ZARN {
 
 ServiceDue dueOf(const Service& service, std::optional<double> hours, const QDate& today, bool isLossy)
 {
     ServiceDue due;
-    if (service.everyHours && hours && service.doneHours.value_or(0.0) > *hours + ServiceDue::kRounded) {
+    if (service.everyHours && service.doneHours && service.isOfOtherCount) {
+        due.isOfOtherCount = true;
+        due.state = ServiceDue::eInDoubt;
+    } else if (service.everyHours && hours && service.doneHours.value_or(0.0) > *hours + ServiceDue::kRounded) {
         due.knownHours = hours;
         due.state = ServiceDue::eInDoubt;
     } else if (service.everyHours && hours) { // one that was never done is due from the engine's first hour on
@@ -20,9 +25,23 @@ ServiceDue dueOf(const Service& service, std::optional<double> hours, const QDat
     if (service.everyMonths && service.doneDate.isValid()) {
         due.date = service.doneDate.addMonths(*service.everyMonths);
         const qint64 days = today.daysTo(due.date);
+        due.isDateOver = days < 0;
         due.state = std::max(due.state, days < 0 ? ServiceDue::eOverdue : days <= ServiceDue::kSoonDays ? ServiceDue::eSoon : ServiceDue::eFine);
     }
     return due;
+}
+
+void sortByUrgency(std::vector<Service>& services, std::optional<double> hours, const QDate& today, bool isLossy)
+{
+    constexpr double kNever = std::numeric_limits<double>::infinity();
+    const auto urgency = [&](const Service& service) {
+        const ServiceDue due = dueOf(service, hours, today, isLossy);
+        // An hour of an engine passes in about a day or two.
+        const double byDate = due.date.isValid() ? static_cast<double>(today.daysTo(due.date)) : kNever;
+        const double unknown = due.state == ServiceDue::eInDoubt ? 0.0 : kNever; // it may be due
+        return std::tuple(-due.state, std::min(due.hoursLeft.value_or(unknown), byDate));
+    };
+    std::ranges::stable_sort(services, {}, urgency);
 }
 
 } // namespace ZARN

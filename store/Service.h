@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace ZARN {
 
@@ -19,6 +20,7 @@ struct Service {
     std::optional<double> doneHours; ///< the engine's hours when it was done last; none: never
     QDate doneDate;
     QString note;
+    bool isOfOtherCount = false; ///< its hours are those of an engine that people said later is this one: how many of this one is not known
 };
 
 /// When a service has to be done.
@@ -35,7 +37,9 @@ struct ServiceDue {
     std::optional<double> hoursLeft; ///< negative: so many too many
     bool isAtMost = false;           ///< they may be less
     std::optional<double> knownHours; ///< of the engine, where it was done at more
-    QDate date;                      ///< by the months; invalid without an interval, or when it was never done
+    bool isOfOtherCount = false;      ///< its hours are those of another engine
+    QDate date;                       ///< by the months; invalid without an interval, or when it was never done
+    bool isDateOver = false;
 
     static constexpr double kRounded = 0.1; ///< hours are entered with one decimal
     static constexpr double kSoonHours = 10.0;
@@ -44,5 +48,8 @@ struct ServiceDue {
 
 /// @param hours of the engine, where they are known. @param isLossy whether they may be more
 [[nodiscard]] ServiceDue dueOf(const Service& service, std::optional<double> hours, const QDate& today, bool isLossy = false);
+
+/// Puts services in order of urgency. @param hours, today, isLossy as above
+void sortByUrgency(std::vector<Service>& services, std::optional<double> hours, const QDate& today, bool isLossy);
 
 } // namespace ZARN

@@ -39,17 +39,28 @@ std::string StoreReader::engineOf(const std::string& engine)
     return mergedEngine(mDatabase, engine);
 }
 
+void StoreReader::countOnce(std::optional<ShownRecording> shown)
+{
+    mIsCountedOnce = true;
+    mShown = std::move(shown);
+}
+
 std::vector<Trend> StoreReader::trends(const std::string& engine, const TrendFilter& filter)
 {
+    std::optional<RecordingCopies> copies;
+    if (mIsCountedOnce)
+        copies.emplace(mDatabase, engine, mShown);
     std::vector<Trend> trends;
     Statement& found = mDatabase.prepared(
         kFlights + "SELECT at, card_id, cycle_number, placed.number, cycle_id, date_time, median, p05, p95, minimum, maximum, decimals, "
-                   "key_value.parameter, phase, unit FROM placed JOIN key_value USING (flight_id) "
+                   "key_value.parameter, phase, unit, flight_id FROM placed JOIN key_value USING (flight_id) "
                    "LEFT JOIN parameter_precision AS p ON p.profile_hash = placed.profile_hash AND p.parameter = "
                    "key_value.parameter WHERE (?2 = '' OR key_value.parameter = ?2) AND (?3 = '' OR phase = ?3) "
                    "AND median IS NOT NULL ORDER BY 13, 14, 1, 2, 3, 4, key_value.rowid");
     found.with({engine, filter.parameter, filter.phase});
     while (found.next()) {
+        if (copies && copies->isToldElsewhere(found.integer(15)))
+            continue;
         const std::string parameter = found.text(12), phase = found.text(13);
         if (trends.empty() || trends.back().parameter != parameter || trends.back().phase != phase)
             trends.push_back({engine, parameter, {}, phase, {}});

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/Database.h"
+#include "store/RecordingCopies.h"
 #include "store/Trend.h"
 
 namespace ZARN {
@@ -25,6 +25,8 @@ public:
     [[nodiscard]] std::vector<std::string> engines(const std::string& serial = {});
     /// The engine that one is since the user said so; else itself.
     [[nodiscard]] std::string engineOf(const std::string& engine);
+    /// From now on flights that several copies of a recording tell count once in trends. @param shown what the user looks at, if anything
+    void countOnce(std::optional<ShownRecording> shown = {});
     /// The trends of an engine, by parameter and phase.
     [[nodiscard]] std::vector<Trend> trends(const std::string& engine, const TrendFilter& filter = {});
     /// Where the flights of a cycle stand in the order of time; empty when the store does not have it.
@@ -33,6 +35,8 @@ public:
 private:
     std::optional<Database> mOwn;
     Database& mDatabase;
+    bool mIsCountedOnce = false;
+    std::optional<ShownRecording> mShown;
 };
 
 } // namespace ZARN

@@ -172,6 +172,7 @@ UPDATE file SET mtime = NULL;
 DELETE FROM file WHERE card_id NOT IN (SELECT card_id FROM card) OR cycle_id NOT IN (SELECT cycle_id FROM cycle);
 DELETE FROM problem WHERE card_id NOT IN (SELECT card_id FROM card);
 DELETE FROM merged_cycle WHERE cycle_id NOT IN (SELECT cycle_id FROM cycle);
+DELETE FROM cycle_unit WHERE cycle_id NOT IN (SELECT cycle_id FROM cycle);
 DELETE FROM flight WHERE cycle_id NOT IN (SELECT cycle_id FROM cycle);
 DELETE FROM incident WHERE cycle_id NOT IN (SELECT cycle_id FROM cycle) OR flight_id NOT IN (SELECT flight_id FROM flight);
 DELETE FROM episode WHERE cycle_id NOT IN (SELECT cycle_id FROM cycle) OR incident_id NOT IN (SELECT incident_id FROM incident);

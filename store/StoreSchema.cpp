@@ -58,8 +58,13 @@ CREATE TABLE merged_cycle (cycle_id TEXT PRIMARY KEY REFERENCES cycle ON DELETE 
 CREATE INDEX engine_merge_into ON engine_merge (merged_into);
 )sql";
 
+// Engines whose units were changed, and two that tell one serial number, are known by the units' own.
+constexpr const char* kThird = R"sql(
+CREATE TABLE cycle_unit (cycle_id TEXT PRIMARY KEY REFERENCES cycle ON DELETE CASCADE, ecu_serial INTEGER NOT NULL) WITHOUT ROWID;
+)sql";
+
 /// Step n leads from the form n to n + 1; the form 0 is an empty file.
-constexpr std::array kSteps{kFirst, kSecond};
+constexpr std::array kSteps{kFirst, kSecond, kThird};
 
 bool isEmpty(Database& database)
 {

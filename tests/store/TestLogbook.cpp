@@ -37,6 +37,8 @@ private Q_SLOTS:
     void finds_data();
     void finds();
     void sums();
+    void countsRecordingsOnce_data();
+    void countsRecordingsOnce();
     void keepsWhatWasTyped();
     void mergesEngines();
     void services_data();
@@ -71,7 +73,8 @@ INSERT INTO flight (flight_id, cycle_id, number, date_time, start_time, end_time
     max_altitude, total_climb) VALUES (11, 'a', 1, '2025-05-01T10:00:00', 0, 900, 100, 700, 8, 1, 9, 500),
     (12, 'a', 2, '2025-05-01T11:00:00', 1000, 2000, 1100, 1900, 9, 1, 9, 300), (13, 'b', 1, NULL, 0, 500, 100, 400, 0, 0, 0, 0),
     (14, 'c', 1, '2025-05-02T10:00:00', 0, 500, 100, 200, 5, 1, 9, 700);
-INSERT INTO incident (cycle_id, flight_id, title) VALUES ('c', 14, 'Oil Temperature A');
+INSERT INTO incident (cycle_id, flight_id, title, state, start_time, end_time) VALUES ('c', 14, 'Oil Temperature A', 1, 9, 9), ('b', NULL, 'Lamp', 2, -9, 1),
+    ('a', NULL, 'Lamp', 2, 901, 999);
 INSERT INTO note (cycle_id, time, text) VALUES ('a', 1500, 'Größere Böen');
 )sql");
 }
@@ -97,7 +100,9 @@ void TestLogbook::finds_data()
     QTest::newRow("days are included") << "" << "2025-05-01" << "2025-05-01" << "" << "" << Flights{12, 11};
     QTest::newRow("verdict") << "" << "" << "" << "limit" << "" << Flights{13};
     QTest::newRow("aircraft, any case") << "" << "" << "" << "" << "küst" << Flights{13, 12, 11};
-    QTest::newRow("note, folded") << "" << "" << "" << "" << "größere BÖEN" << Flights{12, 11};
+    QTest::newRow("of the flight, not its cycle") << "" << "" << "" << "warning" << "" << Flights{14};
+    QTest::newRow("note of a flight, folded") << "" << "" << "" << "" << "größere BÖEN" << Flights{12};
+    QTest::newRow("note between flights") << "" << "" << "" << "" << "Rough" << Flights{12, 11};
     QTest::newRow("incident") << "" << "" << "" << "" << "oil temp" << Flights{14};
     QTest::newRow("card and verdict") << "" << "" << "" << "ok" << "first" << Flights{12, 11};
 }
@@ -109,6 +114,7 @@ void TestLogbook::finds()
     QFETCH(QString, until);
     QFETCH(QString, verdict);
     QFETCH(QString, text);
+    fill("INSERT INTO note (cycle_id, time, text) VALUES ('a', 950, 'Rough')");
     LogbookReader reader(mPath);
     const LogbookFilter filter{engine.toStdString(), QDate::fromString(from, Qt::ISODate), QDate::fromString(until, Qt::ISODate),
                                verdict.toStdString(), text};
@@ -136,8 +142,50 @@ void TestLogbook::sums()
     const int64_t version = reader.version();
     fill("DELETE FROM flight WHERE flight_id = 13");
     QVERIFY(reader.version() != version);
-    reader.index().read();
-    QCOMPARE(reader.index().select({}, ELogbookOrder::eDate, false).totals.flights, 3u);
+    QCOMPARE(reader.index(true).select({}, ELogbookOrder::eDate, false).totals.flights, 3u);
+}
+
+void TestLogbook::countsRecordingsOnce_data()
+{
+    QTest::addColumn<QString>("other"); // of the cycle "p": number, date, start, end, seconds that its engine ran
+    QTest::addColumn<QString>("more");
+    QTest::addColumn<std::vector<int64_t>>("flights");
+    QTest::addColumn<double>("running");
+    QTest::addColumn<std::size_t>("several");
+    QTest::addColumn<std::size_t>("overlapping");
+    using Flights = std::vector<int64_t>;
+    const char* const pRest = "0, '2025-05-01T10:10:01', 600.7, 7200, 6500";
+    QTest::newRow("its first file is gone") << pRest << "" << Flights{11, 12} << 7200.0 << std::size_t{1} << std::size_t{0};
+    QTest::newRow("more of it is there now") << "1, '2025-05-01T10:00:00', 0, 9000, 8900" << "" << Flights{21, 22} << 8900.0 << std::size_t{1} << std::size_t{0};
+    QTest::newRow("each has what the other lacks") << "0, '2025-05-01T10:20:00', 1200, 9200, 7200" << "" << Flights{11, 21, 22} << 8300.0 << std::size_t{1} << std::size_t{0};
+    QTest::newRow("the others hold all of a third") << "0, '2025-05-01T10:20:00', 1200, 9200, 7200"
+        << "INSERT INTO cycle (cycle_id, engine_id, number, date_time, start_time, end_time, engine_running) VALUES ('q', 'E1', 1, '2025-05-01T10:00:00', 1000, 8200, 7200)"
+        << Flights{11, 21, 22} << 8300.0 << std::size_t{1} << std::size_t{0};
+    QTest::newRow("another unit") << pRest << "INSERT INTO cycle_unit VALUES ('a', 1), ('p', 2)" << Flights{11, 12, 21} << 13700.0 << std::size_t{0} << std::size_t{1};
+    QTest::newRow("on one card: a clock that begins anew") << "2, '2025-05-01T10:00:00', 0, 600, 500" << "INSERT INTO file VALUES (1, 'x', 1, 1, 'a'), (1, 'y', 1, 1, 'p')"
+        << Flights{11, 12} << 7700.0 << std::size_t{0} << std::size_t{1};
+    QTest::newRow("a clock that was never set") << "1, '2000-01-01T00:00:00', 0, 600, 500" << "UPDATE cycle SET date_time = '2000-01-01T00:00:00' WHERE cycle_id = 'a'"
+        << Flights{11, 12} << 7700.0 << std::size_t{0} << std::size_t{0};
+}
+
+void TestLogbook::countsRecordingsOnce()
+{
+    QFETCH(QString, other);
+    QFETCH(QString, more);
+    fill("DELETE FROM cycle WHERE cycle_id = 'b'; UPDATE cycle SET start_time = 0, end_time = 7300 WHERE cycle_id = 'a'; "
+         "INSERT INTO cycle (cycle_id, engine_id, card_id, number, date_time, start_time, end_time, engine_running) VALUES ('p', 'E1', 2, " + other.toStdString() +
+         "); INSERT INTO flight (flight_id, cycle_id, number, date_time, start_time, end_time, take_off_time, landing_time) VALUES "
+         "(21, 'p', 1, '2025-05-01T10:20:00', 1001, 2000, 1100, 1900), (22, 'p', 2, '2025-05-01T11:20:00', 7400, 7500, 7410, 7490); "
+         "DELETE FROM flight WHERE cycle_id = 'p' AND end_time > (SELECT end_time FROM cycle WHERE cycle_id = 'p'); " + more.toStdString());
+    LogbookReader reader(mPath);
+    std::vector<int64_t> flights = reader.index().select({"E1", {}, {}, {}, {}}, ELogbookOrder::eDate, false).flights;
+    std::ranges::sort(flights);
+    QTEST(flights, "flights");
+    const LogbookEngine engine = reader.engines()[0];
+    QTEST(engine.running, "running");
+    QTEST(engine.recordings.several, "several");
+    QTEST(engine.recordings.overlapping, "overlapping");
+    QCOMPARE(engine.flights, flights.size());
 }
 
 void TestLogbook::keepsWhatWasTyped()
@@ -170,15 +218,16 @@ void TestLogbook::keepsWhatWasTyped()
 void TestLogbook::mergesEngines()
 {
     LogbookEditor editor(mPath);
-    QVERIFY(editor.merge("card:x", "E1"));
+    QVERIFY(editor.setHoursBefore("card:x", 50.0) && editor.saveService({0, "card:x", "Plugs", 10.0, {}, 50.2, {}, {}}) && editor.merge("card:x", "E1"));
     LogbookReader reader(mPath);
     QCOMPARE(reader.engines().size(), 1u);
-    QVERIFY(reader.engines()[0].merged == std::vector<std::string>{"card:x"} && reader.engines()[0].flights == 4u);
+    const LogbookEngine engine = reader.engines()[0];
+    QVERIFY(engine.merged.size() == 1 && engine.merged[0].id == "card:x" && engine.merged[0].hoursBefore == 50.0 && engine.merged[0].hours() == 51.0 && engine.flights == 4u);
+    QCOMPARE(dueOf(reader.services("E1").at(0), engine.hours(), QDate(2025, 5, 1)).state, ServiceDue::eInDoubt); // done at hours of another count
     QCOMPARE(reader.engineOf("card:x"), std::string("E1"));
     QVERIFY(editor.separate("card:x"));
     QVERIFY(reader.engines().size() == 2 && reader.engineOf("card:x") == "card:x");
-    reader.index().read();
-    QCOMPARE(reader.index().select({"card:x", {}, {}, {}, {}}, ELogbookOrder::eDate, true).flights, std::vector<int64_t>{14});
+    QCOMPARE(reader.index(true).select({"card:x", {}, {}, {}, {}}, ELogbookOrder::eDate, true).flights, std::vector<int64_t>{14});
 }
 
 void TestLogbook::services_data()

@@ -75,6 +75,8 @@ def check_changes(work, cards):
     change(store, f"INSERT INTO note (cycle_id, time, text) VALUES ('{part}', 1, 'mine')")
     for name in late:
         os.rename(f'{work}/{name}', f'{card}/{name}')
+    for name in os.listdir(card):
+        os.utime(f'{card}/{name}', (1, 1))    # copied once more
     for form in forms:
         run('scan', card, '-o', *form)
 
@@ -139,8 +141,9 @@ def check_bad_stores(work, card):
     change(newer, "INSERT INTO reading VALUES ('DEMO-000001', '2025-01-01T00:00:00', 12.5, 'typed')")
     shutil.copy(newer, damaged)
     shutil.copy(newer, locked)
+    change(newer, 'DELETE FROM cycle_unit')    # which an older form does not tell
     before = dump(newer)
-    change(newer, *(f'DROP TABLE {table}' for table in ('merged_cycle', 'engine_merge', 'aircraft')), 'PRAGMA user_version = 1')
+    change(newer, *(f'DROP TABLE {table}' for table in ('cycle_unit', 'merged_cycle', 'engine_merge', 'aircraft')), 'PRAGMA user_version = 1')
     run('scan', card, '-o', newer)
     assert dump(newer) == before    # the form before this one
     change(newer, 'PRAGMA user_version = 99')
@@ -162,6 +165,7 @@ def check_bad_stores(work, card):
     refused(card, work, 'it is no file')
     refused(card, f'{work}/no/folder.sqlite', 'No such file')
     refused(card, f'{work}/full.sqlite', 'full.sqlite: ', preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (60_000, 60_000)))
+    assert not os.path.exists(f'{work}/full.sqlite')
 
 
 def check_removed(work, folder):

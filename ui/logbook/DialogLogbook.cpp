@@ -137,12 +137,13 @@ void DialogLogbook::exportFlights()
     QStringList parts{mpEngine->currentText()};
     if (const QString filter = mpFlights->filterText(); !filter.isEmpty())
         parts.append(filter);
-    Q_EMIT signalExportFlights(mpFlights->model().flights(), parts.join(", "));
+    Q_EMIT signalExportFlights(mpFlights->model().flights(), parts.join(", "), mpFlights->totalsText());
 }
 
 void DialogLogbook::setContext(const DecodingContext& context)
 {
     mpTrends->setContext(context);
+    mpFlights->setUnits(LogbookUnits(context));
 }
 
 void DialogLogbook::setHiddenColumns(const QStringList& keys)

@@ -43,7 +43,7 @@ Q_SIGNALS:
     /// A flight that the user wants to see. @param flight from 1; 0: the whole cycle. @param time the moment; a NaN is none
     void signalOpen(const QString& cycleId, int flight, double time);
     /// The user wants what is chosen as a file.
-    void signalExportFlights(const std::vector<int64_t>& flights, const QString& title);
+    void signalExportFlights(const std::vector<int64_t>& flights, const QString& title, const QString& totals);
     /// The user wants other columns.
     void signalHiddenColumns(const QStringList& keys);
     void signalExportNotes(const std::vector<ZARN::LogbookNote>& notes);

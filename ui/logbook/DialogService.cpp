@@ -28,7 +28,12 @@ QDoubleSpinBox* hoursField(double hours)
 
 } // namespace
 
-DialogService::DialogService(Service service, double hours, const QString& problem, QWidget* pParent)
+QString DialogService::notKept(const QString& problem)
+{
+    return tr("It could not be kept: %1").arg(problem);
+}
+
+DialogService::DialogService(Service service, double hours, const QString& hint, QWidget* pParent)
     : QDialog(pParent), mService(std::move(service)), mpName(new QLineEdit(mService.name)), mpByHours(new QCheckBox(tr("Every"))),
       mpHours(hoursField(mService.everyHours.value_or(100.0))), mpByMonths(new QCheckBox(tr("Every"))), mpMonths(new QSpinBox),
       mpIsDone(new QCheckBox(tr("Was done at"))), mpDoneHours(hoursField(mService.doneHours.value_or(hours))), mpDoneDate(new QDateEdit),
@@ -49,12 +54,12 @@ DialogService::DialogService(Service service, double hours, const QString& probl
     mpHours->setAccessibleName(tr("Interval in engine hours"));
     mpMonths->setAccessibleName(tr("Interval in months"));
     auto* pForm = new QFormLayout(this);
-    if (!problem.isEmpty()) {
-        auto* pProblem = new QLabel(tr("It could not be kept: %1").arg(problem));
-        pProblem->setObjectName("warning");
-        pProblem->setTextFormat(Qt::PlainText);
-        pProblem->setWordWrap(true);
-        pForm->addRow(pProblem);
+    if (!hint.isEmpty()) {
+        auto* pHint = new QLabel(hint);
+        pHint->setObjectName("warning");
+        pHint->setTextFormat(Qt::PlainText);
+        pHint->setWordWrap(true);
+        pForm->addRow(pHint);
     }
     pForm->addRow(tr("Name"), mpName);
     pForm->addRow(mpByHours, mpHours);

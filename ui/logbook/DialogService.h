@@ -18,9 +18,11 @@ class DialogService : public QDialog {
     Q_OBJECT
 
 public:
-    /// @param hours of the engine now. @param problem with what was entered before; empty: none
-    DialogService(Service service, double hours, const QString& problem, QWidget* pParent = nullptr);
+    /// @param hours of the engine now. @param hint what there is to say first; empty: nothing
+    DialogService(Service service, double hours, const QString& hint, QWidget* pParent = nullptr);
 
+    /// The hint for one that is asked for again.
+    [[nodiscard]] static QString notKept(const QString& problem);
     /// What was entered.
     [[nodiscard]] Service service() const;
 

@@ -13,6 +13,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace ZARN {
 
@@ -85,9 +86,9 @@ void LogbookEngines::createServiceTable()
 {
     const int letter = fontMetrics().horizontalAdvance('x');
     for (const auto& [column, letters] : {std::pair(0, 22), {1, 22}, {2, 24}, {3, 52}})
-        mpServices->setColumnWidth(column, letters * letter);
+        mpServices->setColumnWidth(column, letters * letter); // until there are some
     connect(mpServices, &QTableWidget::itemSelectionChanged, this, &LogbookEngines::update);
-    connect(mpServices, &QTableWidget::cellActivated, this, [this](int row) { askService(mServices[static_cast<std::size_t>(row)]); });
+    connect(mpServices, &QTableWidget::cellActivated, this, [this] { changeService(); });
 }
 
 QWidget* LogbookEngines::createEngineButtons()
@@ -126,7 +127,7 @@ QWidget* LogbookEngines::createServiceButtons()
         service.engine = mEngine;
         askService(service);
     }));
-    mOfService = {add(tr("Change ..."), [this] { askService(*service()); }), add(tr("Done now"), [this] { noteDone(); }),
+    mOfService = {add(tr("Change ..."), [this] { changeService(); }), add(tr("Done now"), [this] { noteDone(); }),
                   add(tr("Delete"), [this] { removeService(); })};
     pRow->addStretch();
     return pButtons;
@@ -166,8 +167,8 @@ void LogbookEngines::fillEngines()
     for (int row = 0; row < static_cast<int>(mEngines.size()); ++row) {
         const LogbookEngine& engine = mEngines[static_cast<std::size_t>(row)];
         QString name = LogbookTexts::engine(engine.id, engine.aircraft);
-        for (const std::string& merged : engine.merged)
-            name += " + " + LogbookTexts::engine(merged, {});
+        for (const LogbookEngine& merged : engine.merged)
+            name += " + " + LogbookTexts::engine(merged.id, merged.aircraft);
         setRow(*mpEngines, row, {name, QString::fromStdString(engine.type), QLocale().toString(static_cast<qulonglong>(engine.flights)),
                                  LogbookTexts::hours(engine.hours()) + " h", engine.counter ? LogbookTexts::hours(*engine.counter) + " h" : QStringLiteral("-")});
         current = engine.id == mEngine ? row : current;
@@ -193,14 +194,17 @@ void LogbookEngines::fillServices(std::vector<Service> services)
 {
     const Service* pBefore = service();
     const int64_t chosen = pBefore ? pBefore->id : 0;
-    mServices = std::move(services);
     const LogbookEngine* pEngine = engine();
+    const std::optional<double> hours = pEngine ? std::optional(pEngine->hours()) : std::nullopt;
+    const QDate today = QDate::currentDate();
+    const bool isLossy = pEngine && pEngine->isLossy;
+    sortByUrgency(services, hours, today, isLossy);
+    mServices = std::move(services);
     mpServices->setRowCount(static_cast<int>(mServices.size()));
     mpServices->clearSelection();
     for (int row = 0; row < static_cast<int>(mServices.size()); ++row) {
         const Service& service = mServices[static_cast<std::size_t>(row)];
-        const ServiceDue due =
-            dueOf(service, pEngine ? std::optional(pEngine->hours()) : std::nullopt, QDate::currentDate(), pEngine && pEngine->isLossy);
+        const ServiceDue due = dueOf(service, hours, today, isLossy);
         QStringList done;
         if (service.doneHours)
             done.append(LogbookTexts::hours(*service.doneHours) + " h");
@@ -212,6 +216,8 @@ void LogbookEngines::fillServices(std::vector<Service> services)
         if (service.id == chosen)
             mpServices->selectRow(row);
     }
+    for (int column = 0; column < mpServices->columnCount() - 1 && !mServices.empty(); ++column)
+        mpServices->resizeColumnToContents(column);
     update();
 }
 
@@ -284,27 +290,42 @@ void LogbookEngines::askMerge()
 void LogbookEngines::askSeparate()
 {
     QStringList names;
-    const std::vector<std::string> all = engine()->merged;
-    for (const std::string& merged : all)
-        names.append(LogbookTexts::engine(merged, {}));
+    const std::vector<LogbookEngine> all = engine()->merged;
+    for (const LogbookEngine& merged : all)
+        names.append(LogbookTexts::engine(merged.id, merged.aircraft));
     bool isGiven = false;
     const QString name = QInputDialog::getItem(this, tr("Separate engines"), tr("An engine of its own again:"), names, 0, false, &isGiven);
     if (isGiven)
-        edit([merged = all[static_cast<std::size_t>(names.indexOf(name))]](LogbookEditor& editor) { editor.separate(merged); });
+        edit([merged = all[static_cast<std::size_t>(names.indexOf(name))].id](LogbookEditor& editor) { editor.separate(merged); });
 }
 
-/// @param problem why what was entered could not be kept; it is asked for again then
-void LogbookEngines::askService(const Service& service, const QString& problem)
+/// @param hint what there is to say of it first
+void LogbookEngines::askService(const Service& service, const QString& hint)
 {
     const LogbookEngine* pEngine = engine();
-    DialogService dialog(service, pEngine ? pEngine->hours() : 0.0, problem, this);
+    DialogService dialog(service, pEngine ? pEngine->hours() : 0.0, hint, this);
     if (dialog.exec() != QDialog::Accepted)
         return;
     mWorker.edit([kept = dialog.service()](LogbookEditor& editor) { editor.saveService(kept); },
                  [this, kept = dialog.service()](const QString& error) {
                      if (!error.isEmpty())
-                         askService(kept, error);
+                         askService(kept, DialogService::notKept(error));
                  });
+}
+
+/// A service that was done at hours of an engine that is this one now: what they are here is for people to say.
+void LogbookEngines::changeService()
+{
+    Service changed = *service();
+    const LogbookEngine& present = *engine();
+    const auto other = std::ranges::find(present.merged, changed.engine, &LogbookEngine::id);
+    if (!std::exchange(changed.isOfOtherCount, false) || other == present.merged.end())
+        return askService(changed);
+    const double before = *changed.doneHours;
+    changed.engine = mEngine;
+    changed.doneHours = std::max(0.0, present.hours() - (other->hours() - before));
+    askService(changed, tr("Done at %1 h of %2. That is %3 h of this engine if nothing else of it was recorded since; if not, correct it.")
+                            .arg(LogbookTexts::hours(before), LogbookTexts::engine(other->id, other->aircraft), LogbookTexts::hours(*changed.doneHours)));
 }
 
 void LogbookEngines::noteDone()
@@ -312,6 +333,8 @@ void LogbookEngines::noteDone()
     Service done = *service();
     done.doneHours = engine()->hours();
     done.doneDate = QDate::currentDate();
+    if (std::exchange(done.isOfOtherCount, false))
+        done.engine = mEngine;
     askService(done);
 }
 
@@ -320,6 +343,7 @@ void LogbookEngines::removeService()
     const Service& chosen = *service();
     QMessageBox box(QMessageBox::Question, tr("Delete service"), tr("Delete the service \"%1\"?").arg(chosen.name), QMessageBox::Yes | QMessageBox::No, this);
     box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::No);
     if (box.exec() == QMessageBox::Yes)
         edit([id = chosen.id](LogbookEditor& editor) { editor.removeService(id); });
 }

@@ -41,7 +41,8 @@ private:
     void askHours();
     void askMerge();
     void askSeparate();
-    void askService(const Service& service, const QString& problem = {});
+    void askService(const Service& service, const QString& hint = {});
+    void changeService();
     void noteDone();
     void removeService();
     void edit(const std::function<void(LogbookEditor&)>& work);

@@ -32,8 +32,8 @@ constexpr std::array kLetters = {19, 22, 0, 0, 0, 14, 29, 12};
 constexpr int kFewestLetters = 10;
 static_assert(kLetters.size() == LogbookModel::eColumns);
 
-/// Puts the sign of the verdict before its word.
-class VerdictDelegate : public QStyledItemDelegate {
+/// Puts the sign of the verdict before its word, and shows of a card that is too long its end as well: which cycle and flight it was.
+class FlightDelegate : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
@@ -42,7 +42,9 @@ protected:
     {
         QStyledItemDelegate::initStyleOption(pOption, index);
         const QVariant verdict = index.data(Qt::UserRole);
-        if (!verdict.isValid())
+        if (index.column() == LogbookModel::eCard)
+            pOption->textElideMode = Qt::ElideMiddle;
+        if (index.column() != LogbookModel::eVerdict || !verdict.isValid())
             return;
         const double ratio = pOption->widget ? pOption->widget->devicePixelRatioF() : 1.0;
         QPixmap sign(QSizeF(kSign * ratio, kSign * ratio).toSize());
@@ -89,7 +91,7 @@ QWidget* LogbookFlights::createFilter()
     mpVerdict->setAccessibleName(tr("Verdict"));
     mpVerdict->addItem(tr("Any verdict"), QString());
     for (const EVerdict verdict : {EVerdict::eLimit, EVerdict::eWarning, EVerdict::eOk, EVerdict::eUnknown})
-        mpVerdict->addItem(LogbookTexts::verdictName(verdictKey(verdict)), verdictKey(verdict));
+        mpVerdict->addItem(LogbookTexts::verdictName(verdict), verdictKey(verdict));
     WheelGuard::install(*mpVerdict);
     connect(mpVerdict, &QComboBox::currentIndexChanged, this, &LogbookFlights::takeFilter);
     mpText->setPlaceholderText(tr("Text in aircraft, card, notes or incidents"));
@@ -113,7 +115,7 @@ void LogbookFlights::createTable()
     mpTable->setObjectName("flights");
     mpTable->setModel(&mModel);
     mpTable->setAccessibleName(tr("Flights"));
-    mpTable->setItemDelegateForColumn(LogbookModel::eVerdict, new VerdictDelegate(mpTable));
+    mpTable->setItemDelegate(new FlightDelegate(mpTable));
     mpTable->setSelectionBehavior(QAbstractItemView::SelectRows);
     mpTable->setSelectionMode(QAbstractItemView::SingleSelection);
     mpTable->setAlternatingRowColors(true);
@@ -236,15 +238,27 @@ QString LogbookFlights::filterText() const
     if (mFilter.until.isValid())
         parts.append(tr("until %1").arg(LogbookTexts::date(mFilter.until)));
     if (!mFilter.verdict.empty())
-        parts.append(tr("verdict %1").arg(LogbookTexts::verdictName(mFilter.verdict)));
+        parts.append(tr("verdict %1").arg(mpVerdict->currentText()));
     if (!mFilter.text.trimmed().isEmpty())
         parts.append(tr("with \"%1\"").arg(mFilter.text.trimmed()));
     return parts.join(", ");
 }
 
+void LogbookFlights::setUnits(const LogbookUnits& units)
+{
+    mModel.setUnits(units);
+    slotSelected();
+    arrange();
+}
+
+QString LogbookFlights::totalsText() const
+{
+    return LogbookTexts::totals(mModel.totals(), mModel.units());
+}
+
 void LogbookFlights::slotSelected()
 {
-    mpTotals->setText(mModel.flights().empty() ? tr("No flight.") : LogbookTexts::totals(mModel.totals()));
+    mpTotals->setText(mModel.flights().empty() ? tr("No flight.") : totalsText());
     mpOpen->setEnabled(false);
     const int row = mModel.rowOf(mCurrent);
     if (row >= 0) { // the same flight stays chosen where there is one

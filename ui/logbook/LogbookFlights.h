@@ -31,6 +31,9 @@ public:
     void setHiddenColumns(const QStringList& keys);
     /// The filter in words, for who sees its result elsewhere.
     [[nodiscard]] QString filterText() const;
+    /// What the flights that are shown come to.
+    [[nodiscard]] QString totalsText() const;
+    void setUnits(const LogbookUnits& units);
 
 Q_SIGNALS:
     /// A flight that the user wants to see. @param flight from 1

@@ -138,12 +138,16 @@ void LogbookTrends::read()
     ++mAsked;
     if (mEngine.empty())
         return fill({});
-    if (mTrends.empty())
+    if (mTrends.empty() || mTrends.front()->trend.engine != mEngine) { // those of another engine are none of this one
+        fill({});
         mpTitle->setText(tr("Reading ..."));
+    }
     mWorker.ask(
         [engine = mEngine, context = mContext](LogbookReader& reader) {
             Trends trends;
-            for (Trend& trend : reader.trends().trends(engine)) {
+            StoreReader store = reader.trends();
+            store.countOnce();
+            for (Trend& trend : store.trends(engine)) {
                 JudgedTrend judged{std::move(trend), {}};
                 judged.judgements = judgeTrend(judged.trend, 1);
                 trends.push_back(std::make_shared<const JudgedTrend>(shownIn(std::move(judged), context)));

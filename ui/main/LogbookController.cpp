@@ -111,7 +111,9 @@ void LogbookController::createWindow()
     });
     connect(mpDialog.get(), &DialogLogbook::signalOpen, this, &LogbookController::open);
     connect(mpDialog.get(), &DialogLogbook::signalExportFlights, this,
-            [this](const std::vector<int64_t>& flights, const QString& title) { mpExport->exportFlights(mpDialog.get(), flights, title); });
+            [this](const std::vector<int64_t>& flights, const QString& title, const QString& totals) {
+                mpExport->exportFlights(mpDialog.get(), flights, {title, totals});
+            });
     connect(mpDialog.get(), &DialogLogbook::signalExportNotes, this,
             [this](const std::vector<LogbookNote>& notes) { mpExport->exportNotes(mpDialog.get(), notes); });
 }
@@ -218,7 +220,9 @@ void LogbookController::askServices()
             for (const LogbookEngine& engine : reader.engines()) {
                 if (!wanted.contains(engine.id))
                     continue;
-                for (const Service& service : reader.services(engine.id)) {
+                std::vector<Service> services = reader.services(engine.id);
+                sortByUrgency(services, engine.hours(), QDate::currentDate(), engine.isLossy);
+                for (const Service& service : services) {
                     const ServiceDue due = dueOf(service, engine.hours(), QDate::currentDate(), engine.isLossy);
                     if (const QString text = LogbookTexts::warning(service, due); !text.isEmpty())
                         texts.append(wanted.size() > 1 ? LogbookTexts::engine(engine.id, engine.aircraft) + ": " + text : text);
@@ -238,10 +242,11 @@ CardReviewer::Supplement LogbookController::supplement() const
         if (!QFileInfo::exists(decodeFileName(path)))
             return;
         LogbookReader logbook(path);
-        StoreReader store(path);
+        StoreReader store = logbook.trends();
         const CycleHead head = cycleHead(card, overview.number, card.recordCycles().at(overview.number));
         if (head.id.empty())
             return;
+        store.countOnce(ShownRecording{head, overview.dateTime, {overview.startTime, overview.endTime}});
         for (const LogbookNote& note : logbook.notes(head.id))
             overview.notes.push_back(note.note);
         if (!overview.flights.empty())

@@ -6,11 +6,11 @@
 #include "app/SafeFile.h"
 #include "app/Settings.h"
 #include "export/ui/ExportTarget.h"
+#include "profile/Profile.h"
 #include "report/PaperReport.h"
 #include "report/ReportText.h"
 #include "ui/logbook/model/LogbookCsv.h"
 #include "ui/logbook/model/LogbookModel.h"
-#include "ui/logbook/model/LogbookTexts.h"
 
 #include <QFileDialog>
 #include <QLocale>
@@ -21,27 +21,24 @@ namespace ZARN {
 namespace {
 
 /// The flights as a document: what they come to, and the table.
-ReportDocument documentOf(const std::vector<LogbookEntry>& entries, const QString& title, const QStringList& hidden)
+ReportDocument documentOf(const std::vector<LogbookEntry>& entries, const LogbookExport::Words& words, const LogbookUnits& units, const QStringList& hidden)
 {
     ReportDocument document;
     //: code of the language that this is translated to
     document.language = LogbookExport::tr("en");
     document.title = LogbookExport::tr("Logbook");
-    document.head = title;
+    document.head = words.title;
+    document.isLandscape = true;
     document.creator = reportText(Revision::getRevisionString());
     ReportTable table{LogbookExport::tr("Flights"), {}};
     for (int column = 0; column < LogbookModel::eColumns; ++column) {
         if (hidden.contains(LogbookModel::key(column)))
             continue;
-        table.columns.push_back({LogbookModel::title(column), LogbookModel::isNumber(column), {}, column == LogbookModel::eDate});
+        table.columns.push_back({LogbookModel::title(column, units), LogbookModel::isNumber(column), {}, column == LogbookModel::eDate});
         for (const LogbookEntry& entry : entries)
-            table.columns.back().cells << printable(LogbookModel::text(entry, column));
+            table.columns.back().cells << printable(LogbookModel::text(entry, column, units));
     }
-    double flightTime = 0.0;
-    for (const LogbookEntry& entry : entries)
-        flightTime += entry.flightTime;
-    document.add(ReportParagraph{LogbookExport::tr("Flights: %1, together %2 h in flight.")
-                                     .arg(QLocale().toString(static_cast<qulonglong>(entries.size())), LogbookTexts::duration(flightTime))});
+    document.add(ReportParagraph{words.totals + "."});
     document.add(std::move(table));
     return document;
 }
@@ -93,7 +90,7 @@ QString LogbookExport::askFile(QWidget* pParent, const QString& title, const QSt
     return path;
 }
 
-void LogbookExport::exportFlights(QWidget* pParent, const std::vector<int64_t>& flights, const QString& title)
+void LogbookExport::exportFlights(QWidget* pParent, const std::vector<int64_t>& flights, const Words& words)
 {
     const QString path = askFile(pParent, tr("Export logbook"), tr("Logbook") + ".csv", {tr("CSV Files (*.csv)"), tr("PDF Files (*.pdf)")});
     if (path.isEmpty())
@@ -101,7 +98,7 @@ void LogbookExport::exportFlights(QWidget* pParent, const std::vector<int64_t>& 
     const QStringList hidden = Settings::kLogbookHidden.text(mSession.property).split(',');
     const bool isLetter = QLocale::system().measurementSystem() == QLocale::ImperialUSSystem;
     run(pParent, path,
-        [flights, title, isLetter, store = encodeFileName(mStore), form = form(), hidden](const std::string& name, Progress& progress) {
+        [flights, words, isLetter, store = encodeFileName(mStore), form = form(), hidden, units = LogbookUnits(mSession.profile.context())](const std::string& name, Progress& progress) {
             LogbookReader reader(store);
             std::vector<LogbookEntry> entries = reader.entries(flights);
             if (!reader.error().empty())
@@ -109,8 +106,8 @@ void LogbookExport::exportFlights(QWidget* pParent, const std::vector<int64_t>& 
             std::erase_if(entries, [](const LogbookEntry& entry) { return entry.flight == 0; }); // gone meanwhile
             SafeFile file(name);
             if (QString::fromStdString(name).endsWith(".pdf", Qt::CaseInsensitive))
-                return writePdf(file, documentOf(entries, title, hidden), isLetter, progress);
-            return LogbookCsv(form).writeFlights(file, entries) ? std::string() : file.error();
+                return writePdf(file, documentOf(entries, words, units, hidden), isLetter, progress);
+            return LogbookCsv(form).writeFlights(file, entries, units) ? std::string() : file.error();
         });
 }
 

@@ -16,8 +16,14 @@ public:
     /// @param store path of the file
     LogbookExport(const Session& session, QString store, QWidget* pWindow);
 
-    /// @param flights in the order in which they are shown; @param title what they are
-    void exportFlights(QWidget* pParent, const std::vector<int64_t>& flights, const QString& title);
+    /// What flights are, and what they come to, for people.
+    struct Words {
+        QString title;
+        QString totals;
+    };
+
+    /// @param flights in the order in which they are shown
+    void exportFlights(QWidget* pParent, const std::vector<int64_t>& flights, const Words& words);
     void exportNotes(QWidget* pParent, const std::vector<LogbookNote>& notes);
 
 Q_SIGNALS:

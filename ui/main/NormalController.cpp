@@ -2,6 +2,7 @@
 
 #include "app/FileName.h"
 #include "card/CardContainer.h"
+#include "card/PowerUp.h"
 #include "project/RecordSession.h"
 #include "store/CycleIdentity.h"
 #include "store/NormalBands.h"
@@ -37,13 +38,15 @@ void NormalController::ask()
     // A slow card has to be read for its identity.
     const auto pBands = std::make_shared<std::vector<NormalBand>>();
     const CycleHead head{{}, cycleEngine(card, *pCycle), *card.loadedCycleNumber(), pCycle->dateTime};
+    const ShownRecording shown{head, PowerUp::of(*pCycle), {pCycle->files.front().get().startTime, pCycle->endTime}};
     mWorker.run(
-        [pBands, head, flights = pCycle->flights, paths = cyclePaths(*pCycle), path = encodeFileName(mWorker.path())] {
-            CycleHead known = head;
-            known.id = cycleIdentity(paths);
+        [pBands, shown, flights = pCycle->flights, paths = cyclePaths(*pCycle), path = encodeFileName(mWorker.path())] {
+            ShownRecording known = shown;
+            known.cycle.id = cycleIdentity(paths);
             StoreReader store(path);
-            if (store.error().empty() && !known.id.empty())
-                *pBands = normalBands(store, known, flights);
+            store.countOnce(known);
+            if (store.error().empty() && !known.cycle.id.empty())
+                *pBands = normalBands(store, known.cycle, flights);
             if (!store.error().empty()) // those of a part of the flights are none
                 pBands->clear();
         },

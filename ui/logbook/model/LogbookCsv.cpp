@@ -11,6 +11,8 @@ namespace ZARN {
 
 namespace {
 
+constexpr qint64 kCutOff = 500; // milliseconds: dates of a store are cut to whole seconds, by half of one in the mean
+
 /// What a spreadsheet would take for a formula, and is no number or time below zero.
 bool isFormula(const QString& field)
 {
@@ -55,15 +57,15 @@ std::string LogbookCsv::line(const QStringList& fields) const
     return quoted.join(QLatin1Char(mForm.separator)).toStdString() + "\r\n";
 }
 
-bool LogbookCsv::writeFlights(SafeFile& file, const std::vector<LogbookEntry>& entries) const
+bool LogbookCsv::writeFlights(SafeFile& file, const std::vector<LogbookEntry>& entries, const LogbookUnits& units) const
 {
-    if (!file.open() || !file.write(header({tr("Date"), tr("Aircraft"), tr("Engine"), tr("Flight time [h]"), tr("Fuel [l]"),
-                                            tr("Climb [m]"), tr("Verdict"), tr("Card"), tr("Cycle"), tr("Flight"), tr("Notes")})))
+    if (!file.open() || !file.write(header({tr("Date"), tr("Aircraft"), tr("Engine"), tr("Flight time [h]"), tr("Fuel [%1]").arg(units.fuelUnit()),
+                                            tr("Climb [%1]").arg(units.climbUnit()), tr("Verdict"), tr("Card"), tr("Cycle"), tr("Flight"), tr("Notes")})))
         return false;
     for (const LogbookEntry& entry : entries) {
         if (entry.flight != 0 &&
             !file.write(line({date(dateOf(entry.dateTime)), QString::fromStdString(entry.aircraft), QString::fromStdString(entry.engine),
-                              number(entry.flightTime / 3600, 4), number(entry.fuel, 2), number(entry.climb, 1),
+                              number(entry.flightTime / 3600, 4), number(units.fuel(entry.fuel), 2), number(units.climb(entry.climb), 1),
                               LogbookTexts::verdictName(entry.verdict), QString::fromStdString(entry.cardName),
                               QString::number(entry.cycle), QString::number(entry.number), entry.notes})))
             return false;
@@ -78,7 +80,7 @@ bool LogbookCsv::writeNotes(SafeFile& file, const std::vector<LogbookNote>& note
         return false;
     for (const LogbookNote& note : notes) {
         const QDateTime cycle = dateOf(note.dateTime);
-        const QDateTime moment = cycle.isValid() ? cycle.addMSecs(wholeMilliseconds(note.note.time)) : QDateTime();
+        const QDateTime moment = cycle.isValid() ? cycle.addMSecs(wholeMilliseconds(note.note.time) + kCutOff) : QDateTime();
         if (!file.write(line({date(moment), signedTimeText(wholeMilliseconds(note.note.time)), note.note.text, date(note.note.written),
                               QString::fromStdString(note.engine), QString::fromStdString(note.card),
                               note.cycle > 0 ? QString::number(note.cycle) : QString(), QString::fromStdString(note.cycleId)})))

@@ -2,6 +2,7 @@
 
 #include "export/CsvForm.h"
 #include "store/LogbookReader.h"
+#include "ui/logbook/model/LogbookUnits.h"
 
 #include <QCoreApplication>
 
@@ -18,7 +19,7 @@ public:
     explicit LogbookCsv(CsvForm form) : mForm(std::move(form)) {}
 
     // Both return false when the file could not be written, and leave what was there before.
-    bool writeFlights(SafeFile& file, const std::vector<LogbookEntry>& entries) const;
+    bool writeFlights(SafeFile& file, const std::vector<LogbookEntry>& entries, const LogbookUnits& units) const;
     bool writeNotes(SafeFile& file, const std::vector<LogbookNote>& notes) const;
 
 private:

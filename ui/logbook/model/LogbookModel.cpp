@@ -50,10 +50,7 @@ void LogbookModel::select(bool isRead)
 {
     mWorker.ask(
         [filter = mFilter, order = orderOf(mColumn), isDescending = mOrder == Qt::DescendingOrder, isRead](LogbookReader& reader) {
-            LogbookIndex& index = reader.index();
-            if (isRead)
-                index.read();
-            return index.select(filter, order, isDescending);
+            return reader.index(isRead).select(filter, order, isDescending);
         },
         [this, asked = ++mAsked](LogbookSelection selection) {
             if (asked != mAsked) // a later one is on its way
@@ -126,7 +123,7 @@ int LogbookModel::columnCount(const QModelIndex& parent) const
     return parent.isValid() ? 0 : static_cast<int>(eColumns);
 }
 
-QString LogbookModel::text(const LogbookEntry& entry, int column)
+QString LogbookModel::text(const LogbookEntry& entry, int column, const LogbookUnits& units)
 {
     const auto number = [](const std::optional<double>& value, int decimals) {
         return value ? QLocale().toString(*value, 'f', decimals) : QStringLiteral("-");
@@ -135,8 +132,8 @@ QString LogbookModel::text(const LogbookEntry& entry, int column)
     case eDate: return entry.dateTime.empty() ? tr("clock not set") : LogbookTexts::dateTime(entry.dateTime);
     case eEngine: return LogbookTexts::engine(entry.engine, entry.aircraft);
     case eFlightTime: return LogbookTexts::duration(entry.flightTime);
-    case eFuel: return number(entry.fuel, 1);
-    case eClimb: return number(entry.climb, 0);
+    case eFuel: return number(units.fuel(entry.fuel), 1);
+    case eClimb: return number(units.climb(entry.climb), 0);
     case eVerdict: return LogbookTexts::verdictName(entry.verdict);
     case eCard: return tr("%1, cycle %2, flight %3").arg(QString::fromStdString(entry.cardName)).arg(entry.cycle).arg(entry.number);
     case eNotes: return entry.notes;
@@ -144,23 +141,30 @@ QString LogbookModel::text(const LogbookEntry& entry, int column)
     }
 }
 
+QString LogbookModel::tip(const LogbookEntry& entry, int column)
+{
+    if (column == eVerdict && entry.whole > entry.verdict)
+        return tr("The whole recording, with its time on the ground: %1").arg(LogbookTexts::verdictName(entry.whole));
+    return column == eCard ? QString::fromStdString(entry.cardPath) : column == eNotes ? entry.notes : QString();
+}
+
 QVariant LogbookModel::data(const QModelIndex& index, int role) const
 {
     const int column = index.column();
     if (role == Qt::TextAlignmentRole && isNumber(column))
         return static_cast<int>(Qt::AlignRight | Qt::AlignVCenter);
-    if (role != Qt::DisplayRole && role != Qt::UserRole && (role != Qt::ToolTipRole || (column != eNotes && column != eCard)))
+    if (role != Qt::DisplayRole && role != Qt::UserRole && role != Qt::ToolTipRole)
         return {};
     const LogbookEntry* pEntry = entry(index.row());
     if (!pEntry)
         return {};
     if (role == Qt::UserRole) // of the verdict's sign
-        return static_cast<int>(LogbookTexts::verdict(pEntry->verdict));
+        return static_cast<int>(pEntry->verdict);
     if (role == Qt::ToolTipRole) {
-        const QString tip = column == eCard ? QString::fromStdString(pEntry->cardPath) : pEntry->notes;
+        const QString tip = this->tip(*pEntry, column);
         return tip.isEmpty() ? QString() : "<span>" + tip.toHtmlEscaped() + "</span>";
     }
-    return text(*pEntry, column);
+    return text(*pEntry, column, mUnits);
 }
 
 QVariant LogbookModel::headerData(int section, Qt::Orientation orientation, int role) const
@@ -169,13 +173,23 @@ QVariant LogbookModel::headerData(int section, Qt::Orientation orientation, int 
         return {};
     if (role == Qt::TextAlignmentRole)
         return static_cast<int>(isNumber(section) ? Qt::AlignRight | Qt::AlignVCenter : Qt::AlignLeft | Qt::AlignVCenter);
-    return role == Qt::DisplayRole ? title(section) : QVariant();
+    return role == Qt::DisplayRole ? title(section, mUnits) : QVariant();
 }
 
-QString LogbookModel::title(int column)
+void LogbookModel::setUnits(const LogbookUnits& units)
 {
-    const QString titles[] = {tr("Date"),      tr("Aircraft or engine"), tr("Flight [h]"), tr("Fuel [l]"),
-                              tr("Climb [m]"), tr("Verdict"),            tr("Card"),       tr("Notes")};
+    if (mUnits == units)
+        return;
+    mUnits = units;
+    Q_EMIT headerDataChanged(Qt::Horizontal, eFuel, eClimb);
+    if (!mFlights.empty())
+        Q_EMIT dataChanged(index(0, eFuel), index(static_cast<int>(mFlights.size()) - 1, eClimb));
+}
+
+QString LogbookModel::title(int column, const LogbookUnits& units)
+{
+    const QString titles[] = {tr("Date"),      tr("Aircraft or engine"), tr("Flight [h]"), tr("Fuel [%1]").arg(units.fuelUnit()),
+                              tr("Climb [%1]").arg(units.climbUnit()), tr("Verdict"),            tr("Card"),       tr("Notes")};
     return column >= 0 && column < eColumns ? titles[column] : QString();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/logbook/model/LogbookUnits.h"
 #include "ui/logbook/model/LogbookWorker.h"
 
 #include <QAbstractTableModel>
@@ -29,8 +30,10 @@ public:
     [[nodiscard]] int rowOf(int64_t flight) const;
     [[nodiscard]] const std::vector<int64_t>& flights() const { return mFlights; }
     [[nodiscard]] const LogbookTotals& totals() const { return mTotals; }
-    [[nodiscard]] static QString text(const LogbookEntry& entry, int column);
-    [[nodiscard]] static QString title(int column);
+    [[nodiscard]] static QString text(const LogbookEntry& entry, int column, const LogbookUnits& units);
+    [[nodiscard]] static QString title(int column, const LogbookUnits& units);
+    void setUnits(const LogbookUnits& units);
+    [[nodiscard]] const LogbookUnits& units() const { return mUnits; }
     /// By which settings name the column.
     [[nodiscard]] static QString key(int column);
     [[nodiscard]] static bool isNumber(int column) { return column == eFlightTime || column == eFuel || column == eClimb; }
@@ -47,10 +50,12 @@ Q_SIGNALS:
 
 private:
     void select(bool isRead);
+    [[nodiscard]] static QString tip(const LogbookEntry& entry, int column);
     void askPage(int page) const;
     void takePage(int page, std::vector<LogbookEntry> entries);
 
     LogbookWorker& mWorker;
+    LogbookUnits mUnits;
     LogbookFilter mFilter;
     int mColumn = eDate;
     Qt::SortOrder mOrder = Qt::DescendingOrder;

@@ -51,18 +51,9 @@ QString LogbookTexts::date(const QDate& date)
     return date.isValid() ? date.toString("dd.MM.yyyy") : QStringLiteral("-");
 }
 
-EVerdict LogbookTexts::verdict(const std::string& key)
+QString LogbookTexts::verdictName(EVerdict verdict)
 {
-    for (const EVerdict verdict : {EVerdict::eOk, EVerdict::eWarning, EVerdict::eLimit}) {
-        if (key == verdictKey(verdict))
-            return verdict;
-    }
-    return EVerdict::eUnknown;
-}
-
-QString LogbookTexts::verdictName(const std::string& key)
-{
-    switch (verdict(key)) {
+    switch (verdict) {
     case EVerdict::eOk: return tr("OK");
     case EVerdict::eWarning: return tr("Warning");
     case EVerdict::eLimit: return tr("Limit");
@@ -81,7 +72,7 @@ QString LogbookTexts::phase(const std::string& key)
     return QString::fromStdString(key);
 }
 
-QString LogbookTexts::totals(const LogbookTotals& totals)
+QString LogbookTexts::totals(const LogbookTotals& totals, const LogbookUnits& units)
 {
     QStringList parts{totals.flights == 1 ? tr("1 flight") : tr("%1 flights").arg(QLocale().toString(static_cast<qulonglong>(totals.flights))),
                       tr("in flight %1 h").arg(duration(totals.flightTime))};
@@ -90,7 +81,7 @@ QString LogbookTexts::totals(const LogbookTotals& totals)
         parts.append(totals.cyclesWithoutEngine == 0 ? hours : tr("%1 (%n cycle(s) do not tell)", nullptr, static_cast<int>(totals.cyclesWithoutEngine)).arg(hours));
     }
     if (totals.fuel)
-        parts.append(tr("fuel in flight %1 l").arg(decimal(*totals.fuel)));
+        parts.append(tr("fuel in flight %1 %2").arg(decimal(*units.fuel(totals.fuel)), units.fuelUnit()));
     return parts.join(", ");
 }
 
@@ -99,8 +90,17 @@ QString LogbookTexts::engineHours(const LogbookEngine& engine)
     QString text = engine.hoursBefore ? tr("%1 h: %2 h before the first recording and %3 h recorded")
                                             .arg(hours(engine.hours()), hours(*engine.hoursBefore), hours(engine.running / 3600))
                                       : tr("%1 h recorded; the hours before the first recording are not entered").arg(hours(engine.running / 3600));
+    for (const LogbookEngine& merged : engine.merged) {
+        if (merged.hoursBefore)
+            text += "; " + tr("not counted: %1 h that were entered as the hours before of %2").arg(hours(*merged.hoursBefore), LogbookTexts::engine(merged.id, merged.aircraft));
+    }
     if (engine.unknownCycles > 0)
         text += "; " + tr("cycles that do not tell whether the engine ran: %1").arg(engine.unknownCycles);
+    if (engine.recordings.several > 0)
+        text += ".\n" + tr("Recordings of which there are several copies, not all of them whole, and which count once: %1").arg(engine.recordings.several);
+    if (engine.recordings.overlapping > 0)
+        text += ".\n" + tr("Two units with one serial number, or a wrong clock? Recordings that overlap with another one, and count as well: %1")
+                           .arg(engine.recordings.overlapping);
     if (engine.isLossy)
         text += ".\n" + tr("Recordings were lost when the logbook was damaged: it may have run more. Open the cards that you still have, then enter the hours "
                            "before anew, with what is missing");
@@ -121,11 +121,23 @@ QString LogbookTexts::interval(const Service& service)
 
 QString LogbookTexts::due(const Service& service, const ServiceDue& due)
 {
+    const bool isTooManyHours = due.hoursLeft && *due.hoursLeft <= 0;
+    if (isTooManyHours || due.isDateOver) { // what is still to come tells nothing any more
+        QStringList over;
+        if (isTooManyHours)
+            over.append(tr("%1 h ago").arg(hours(-*due.hoursLeft)));
+        if (due.isDateOver)
+            over.append(tr("since %1").arg(date(due.date)));
+        return over.join(", ");
+    }
     QStringList parts;
+    if (due.isOfOtherCount)
+        parts.append(tr("not known: done at %1 h of %2, please confirm")
+                         .arg(hours(service.doneHours.value_or(0.0)), engine(service.engine, {})));
     if (due.knownHours)
         parts.append(tr("not known: done at %1 h, the logbook has %2 h").arg(hours(service.doneHours.value_or(0.0)), hours(*due.knownHours)));
     if (due.hoursLeft)
-        parts.append((*due.hoursLeft < 0 ? tr("%1 h ago") : due.isAtMost ? tr("in at most %1 h") : tr("in %1 h")).arg(hours(std::abs(*due.hoursLeft))));
+        parts.append((due.isAtMost ? tr("in at most %1 h") : tr("in %1 h")).arg(hours(*due.hoursLeft)));
     if (due.date.isValid())
         parts.append(tr("on %1").arg(date(due.date)));
     return parts.isEmpty() ? tr("not known: enter when it was done") : parts.join(tr(" or "));

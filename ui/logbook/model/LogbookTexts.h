@@ -3,6 +3,7 @@
 #include "analysis/CycleReview.h"
 #include "store/LogbookReader.h"
 #include "store/Service.h"
+#include "ui/logbook/model/LogbookUnits.h"
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -23,11 +24,10 @@ public:
     /// "26.05.2025 13:40"; empty without a date.
     [[nodiscard]] static QString dateTime(const std::string& text);
     [[nodiscard]] static QString date(const QDate& date);
-    [[nodiscard]] static EVerdict verdict(const std::string& key);
-    [[nodiscard]] static QString verdictName(const std::string& key);
+    [[nodiscard]] static QString verdictName(EVerdict verdict);
     /// "in climb" of "climb".
     [[nodiscard]] static QString phase(const std::string& key);
-    [[nodiscard]] static QString totals(const LogbookTotals& totals);
+    [[nodiscard]] static QString totals(const LogbookTotals& totals, const LogbookUnits& units);
     /// Hours of the engine, and how far they can be trusted.
     [[nodiscard]] static QString engineHours(const LogbookEngine& engine);
     /// "in 12.3 h, or on 01.05.2026"; why it is not known.

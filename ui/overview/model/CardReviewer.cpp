@@ -2,6 +2,7 @@
 
 #include "app/Console.h"
 #include "app/FileName.h"
+#include "app/TimeText.h"
 #include "card/CardContainer.h"
 #include "card/PowerUp.h"
 #include "profile/Profile.h"
@@ -52,6 +53,30 @@ void noteDamages(CycleOverview& overview, const CardContainer& card)
     }
 }
 
+QDateTime clockAtStart(const RecordInfo& file)
+{
+    return file.startsCycle ? file.dateTime.addMSecs(wholeMilliseconds(file.startTime)) : file.dateTime;
+}
+
+/// Notes where the unit's clock went back, in the cycle or since the file before it.
+void noteClock(CycleOverview& overview, const CardContainer& card)
+{
+    constexpr qint64 kSetRight = 60; // seconds: a clock that is set right goes back by less
+    const RecordInfo* pBefore = nullptr;
+    for (const auto& [number, cycle] : card.recordCycles()) {
+        for (const RecordInfo& file : cycle.files) {
+            const bool isKnown = file.dateTime.isValid() && file.hasSoundTimes() && file.samples > 0;
+            const QDateTime before = pBefore ? clockAtStart(*pBefore).addMSecs(wholeMilliseconds(pBefore->endTime - pBefore->startTime)) : QDateTime();
+            if (number == overview.number && isKnown && pBefore && clockAtStart(file).secsTo(before) > kSetRight)
+                overview.damages.append(CardReviewer::tr("%1: the unit's clock went back here, from %2 to %3. Dates on one side of it are wrong, and so may be the "
+                                                         "order of flights in the logbook.")
+                                            .arg(file.fileName.mid(file.fileName.lastIndexOf('/') + 1), before.toString("dd.MM.yyyy hh:mm"),
+                                                 clockAtStart(file).toString("dd.MM.yyyy hh:mm")));
+            pBefore = isKnown ? &file : pBefore;
+        }
+    }
+}
+
 /// The loaded cycle of a container, as a value of its own.
 std::shared_ptr<CycleOverview> overviewOf(const CardContainer& card, uint32_t number, const CardReviewer::Supplement& supplement)
 {
@@ -63,6 +88,7 @@ std::shared_ptr<CycleOverview> overviewOf(const CardContainer& card, uint32_t nu
     pOverview->endTime = card.endTime();
     pOverview->flights = cycle.flights;
     noteDamages(*pOverview, card);
+    noteClock(*pOverview, card);
     pOverview->problem = QString::fromStdString(card.loadError());
     if (pOverview->problem.isEmpty())
         pOverview->review = reviewCycle(card.values(), cycle.flights, cycle.endTime, supplement ? EKeyValues::eAll : EKeyValues::eNone);

@@ -17,7 +17,7 @@ struct CycleOverview {
     double endTime = 0.0;
     std::vector<RecordFlight> flights;
     CycleReview review;
-    QStringList damages;    ///< what of its files could not be read, for people
+    QStringList damages;    ///< what of its files could not be read, and where their dates are wrong, for people
     bool isPartial = false; ///< the system kept some of it from being read: nothing can be called all right
     std::vector<CycleNote> notes; ///< what somebody wrote about it
     QStringList unusual;    ///< figures that are not as they used to be for this engine, for people
