@@ -310,6 +310,10 @@ Die Einstellungen bleiben erhalten.</translation>
         <source>off</source>
         <translation>aus</translation>
     </message>
+    <message>
+        <source>what answers there is no virtual bus</source>
+        <translation>was dort antwortet, ist kein virtueller Bus</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::CandumpFile</name>
@@ -434,6 +438,13 @@ Die Einstellungen bleiben erhalten.</translation>
     <message>
         <source>ended before it was done</source>
         <translation>beendet, bevor es fertig war</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::CardReviewer</name>
+    <message>
+        <source>%1: the unit&apos;s clock went back here, from %2 to %3. Dates on one side of it are wrong, and so may be the order of flights in the logbook.</source>
+        <translation>%1: Die Uhr des Geräts ging hier zurück, von %2 auf %3. Daten auf einer Seite davon sind falsch, und damit vielleicht die Reihenfolge der Flüge im Logbuch.</translation>
     </message>
 </context>
 <context>
@@ -3226,6 +3237,14 @@ Ersetzen ?</translation>
         <source>Do it again</source>
         <translation>Wiederherstellen</translation>
     </message>
+    <message>
+        <source>What it is compared with earlier or later by a pixel, with Ctrl by ten</source>
+        <translation>Womit verglichen wird um ein Pixel früher oder später, mit Strg um zehn</translation>
+    </message>
+    <message>
+        <source>Scroll the table of the marker, or a legend that is cut</source>
+        <translation>Die Tabelle der Markierung oder eine abgeschnittene Legende verschieben</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::GraphTables</name>
@@ -3742,14 +3761,6 @@ Ersetzen ?</translation>
         <translation>Flugzeit [h]</translation>
     </message>
     <message>
-        <source>Fuel [l]</source>
-        <translation>Kraftstoff [l]</translation>
-    </message>
-    <message>
-        <source>Climb [m]</source>
-        <translation>Steigen [m]</translation>
-    </message>
-    <message>
         <source>Verdict</source>
         <translation>Urteil</translation>
     </message>
@@ -3784,6 +3795,14 @@ Ersetzen ?</translation>
     <message>
         <source>Recording</source>
         <translation>Aufzeichnung</translation>
+    </message>
+    <message>
+        <source>Fuel [%1]</source>
+        <translation>Kraftstoff [%1]</translation>
+    </message>
+    <message>
+        <source>Climb [%1]</source>
+        <translation>Steigen [%1]</translation>
     </message>
 </context>
 <context>
@@ -3935,6 +3954,10 @@ Ersetzen ?</translation>
         <source>Delete the service &quot;%1&quot;?</source>
         <translation>Die Wartung „%1“ löschen?</translation>
     </message>
+    <message>
+        <source>Done at %1 h of %2. That is %3 h of this engine if nothing else of it was recorded since; if not, correct it.</source>
+        <translation>Erledigt bei %1 h von %2. Das sind %3 h dieses Motors, wenn seither nichts anderes von ihm aufgezeichnet wurde; sonst berichtigen Sie es bitte.</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::LogbookExport</name>
@@ -3954,10 +3977,6 @@ Ersetzen ?</translation>
     <message>
         <source>Notes</source>
         <translation>Notizen</translation>
-    </message>
-    <message>
-        <source>Flights: %1, together %2 h in flight.</source>
-        <translation>Flüge: %1, zusammen %2 h in der Luft.</translation>
     </message>
     <message>
         <source>Export logbook</source>
@@ -4070,14 +4089,6 @@ Ersetzen ?</translation>
         <translation>Flug [h]</translation>
     </message>
     <message>
-        <source>Fuel [l]</source>
-        <translation>Kraftstoff [l]</translation>
-    </message>
-    <message>
-        <source>Climb [m]</source>
-        <translation>Steigen [m]</translation>
-    </message>
-    <message>
         <source>Verdict</source>
         <translation>Urteil</translation>
     </message>
@@ -4088,6 +4099,18 @@ Ersetzen ?</translation>
     <message>
         <source>Notes</source>
         <translation>Notizen</translation>
+    </message>
+    <message>
+        <source>The whole recording, with its time on the ground: %1</source>
+        <translation>Die ganze Aufzeichnung mit ihrer Zeit am Boden: %1</translation>
+    </message>
+    <message>
+        <source>Fuel [%1]</source>
+        <translation>Kraftstoff [%1]</translation>
+    </message>
+    <message>
+        <source>Climb [%1]</source>
+        <translation>Steigen [%1]</translation>
     </message>
 </context>
 <context>
@@ -4227,10 +4250,6 @@ Ersetzen ?</translation>
         <translation>Motor lief %1 h in diesen Zyklen</translation>
     </message>
     <message>
-        <source>fuel in flight %1 l</source>
-        <translation>Kraftstoff im Flug %1 l</translation>
-    </message>
-    <message>
         <source>%1 h: %2 h before the first recording and %3 h recorded</source>
         <translation>%1 h: %2 h vor der ersten Aufzeichnung und %3 h aufgezeichnet</translation>
     </message>
@@ -4308,6 +4327,30 @@ Ersetzen ?</translation>
     <message>
         <source>In doubt: %1, %2</source>
         <translation>Ungewiss: %1, %2</translation>
+    </message>
+    <message>
+        <source>fuel in flight %1 %2</source>
+        <translation>Kraftstoff im Flug %1 %2</translation>
+    </message>
+    <message>
+        <source>not counted: %1 h that were entered as the hours before of %2</source>
+        <translation>nicht gezählt: %1 h, die als Stunden davor von %2 eingegeben wurden</translation>
+    </message>
+    <message>
+        <source>Recordings of which there are several copies, not all of them whole, and which count once: %1</source>
+        <translation>Aufzeichnungen, von denen es mehrere Kopien gibt, nicht alle vollständig, und die einmal zählen: %1</translation>
+    </message>
+    <message>
+        <source>Two units with one serial number, or a wrong clock? Recordings that overlap with another one, and count as well: %1</source>
+        <translation>Zwei Geräte mit einer Seriennummer oder eine falsche Uhr? Aufzeichnungen, die sich mit einer anderen überschneiden und ebenfalls zählen: %1</translation>
+    </message>
+    <message>
+        <source>since %1</source>
+        <translation>seit %1</translation>
+    </message>
+    <message>
+        <source>not known: done at %1 h of %2, please confirm</source>
+        <translation>unbekannt: erledigt bei %1 h von %2, bitte bestätigen</translation>
     </message>
 </context>
 <context>
@@ -4517,10 +4560,6 @@ Ersetzen ?</translation>
         <translation>Server: %1. Er erfährt, welches Gebiet betrachtet wird.</translation>
     </message>
     <message>
-        <source>The setting &quot;TileServer&quot; is no address of map tiles.</source>
-        <translation>Die Einstellung „TileServer“ ist keine Adresse für Kartenkacheln.</translation>
-    </message>
-    <message>
         <source>None: an archive (MBTiles) or a folder ZOOM/X/Y.png can take the place of the server.</source>
         <translation>Keine: ein Archiv (MBTiles) oder ein Ordner ZOOM/X/Y.png kann an die Stelle des Servers treten.</translation>
     </message>
@@ -4535,6 +4574,22 @@ Ersetzen ?</translation>
     <message>
         <source>These map tiles cannot be shown.</source>
         <translation>Diese Kartenkacheln können nicht gezeigt werden.</translation>
+    </message>
+    <message>
+        <source>its path needs {z}, {x} and {y}, as in https://tiles.example.org/{z}/{x}/{y}.png</source>
+        <translation>der Pfad braucht {z}, {x} und {y}, wie in https://tiles.example.org/{z}/{x}/{y}.png</translation>
+    </message>
+    <message>
+        <source>it names no server that is asked by https or http, as https://tiles.example.org/{z}/{x}/{y}.png does</source>
+        <translation>sie nennt keinen Server, der mit https oder http gefragt wird, wie https://tiles.example.org/{z}/{x}/{y}.png</translation>
+    </message>
+    <message>
+        <source>&quot;Server&quot; was not taken over: %1</source>
+        <translation>„Server“ wurde nicht übernommen: %1</translation>
+    </message>
+    <message>
+        <source>The entry in &quot;Server&quot; is no address of map tiles.</source>
+        <translation>Der Eintrag in „Server“ ist keine Adresse für Kartenkacheln.</translation>
     </message>
 </context>
 <context>
@@ -4645,6 +4700,13 @@ Ersetzen ?</translation>
     <message>
         <source>Unit of integral</source>
         <translation>Einheit des Integrals</translation>
+    </message>
+</context>
+<context>
+    <name>ZARN::NormalRange</name>
+    <message>
+        <source>usual: 5 to 95 % of %1 flights</source>
+        <translation>üblich: 5 bis 95 % von %1 Flügen</translation>
     </message>
 </context>
 <context>
@@ -5550,10 +5612,6 @@ Ein Klick geht zu dem Zeitpunkt, ein Doppelklick zum Graphen.</translation>
 <context>
     <name>ZARN::WidgetMap</name>
     <message>
-        <source>The setting &quot;TileServer&quot; is no address of map tiles</source>
-        <translation>Die Einstellung „TileServer“ ist keine Adresse für Kartenkacheln</translation>
-    </message>
-    <message>
         <source>Map of the flight</source>
         <translation>Karte des Fluges</translation>
     </message>
@@ -5571,6 +5629,10 @@ Ein Klick geht zu dem Zeitpunkt, ein Doppelklick zum Graphen.</translation>
             <numerusform>Karte wird geladen: %n Kachel</numerusform>
             <numerusform>Karte wird geladen: %n Kacheln</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>What the preferences name as the server is no address of map tiles</source>
+        <translation>Was in den Einstellungen als Server steht, ist keine Adresse für Kartenkacheln</translation>
     </message>
 </context>
 <context>
