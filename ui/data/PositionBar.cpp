@@ -1,6 +1,7 @@
 #include "ui/data/PositionBar.h"
 
 #include "app/TimeText.h"
+#include "app/gui/TextSize.h"
 #include "ui/canvas/Palette.h"
 #include "ui/canvas/PhaseStrip.h"
 #include "ui/overview/model/VerdictSign.h"
@@ -17,8 +18,9 @@ namespace ZARN {
 
 namespace {
 
-constexpr double kBand = 14, kMark = 8, kLeastMark = 3; // pixels
-constexpr int kHeight = 32, kLeastWidth = 120;
+constexpr int kBand = 14, kMark = 8, kHeight = 32; // pixels beside the usual text
+constexpr double kLeastMark = 3;
+constexpr int kLeastWidth = 120;
 constexpr double kGrip = 5; // half the width of the handle
 constexpr double kNear = 4; // how far from a mark the pointer may be
 
@@ -44,12 +46,12 @@ void PositionBar::setSpan(double start, double end, const TimeReference& times)
 
 QSize PositionBar::sizeHint() const
 {
-    return {2 * kLeastWidth, kHeight};
+    return {2 * kLeastWidth, grownWithText(*this, kHeight)};
 }
 
 QSize PositionBar::minimumSizeHint() const
 {
-    return {kLeastWidth, kHeight};
+    return {kLeastWidth, grownWithText(*this, kHeight)};
 }
 
 std::pair<double, double> PositionBar::ends() const
@@ -64,7 +66,8 @@ std::pair<double, double> PositionBar::ends() const
 QRectF PositionBar::band() const
 {
     const auto [left, right] = ends();
-    return {left, (height() - kBand - kMark - 1) / 2, right - left, kBand};
+    const int band = grownWithText(*this, kBand), marks = grownWithText(*this, kMark);
+    return {left, (height() - band - marks - 1) / 2.0, right - left, static_cast<double>(band)};
 }
 
 QRectF PositionBar::area(double from, double until, double top, double height) const
@@ -90,7 +93,8 @@ void PositionBar::paintEvent(QPaintEvent* /*pEvent*/)
 void PositionBar::paintMarks(QPainter& painter) const
 {
     for (const PositionMarks::Mark& mark : mMarks.marks()) {
-        const QRectF place = area(mark.from, mark.until, band().bottom() + 1, mark.state > 1 ? kMark : kMark / 2);
+        const double high = grownWithText(*this, kMark);
+        const QRectF place = area(mark.from, mark.until, band().bottom() + 1, mark.state > 1 ? high : high / 2);
         painter.fillRect(place, VerdictSign::colour(VerdictSign::ofState(mark.state)));
     }
 }
@@ -105,7 +109,7 @@ void PositionBar::paintHandle(QPainter& painter) const
     painter.setBrush(hasFocus() || isSliderDown() ? colours.accent : colours.ink);
     painter.drawRect(QRectF(x - 1, 2, 2, height() - 4));
     painter.setPen(QPen(Palette::screen().tables.field, 1));
-    painter.drawRoundedRect(QRectF(x - kGrip, band().top() - 3, 2 * kGrip, kBand + 6), 3, 3);
+    painter.drawRoundedRect(QRectF(x - kGrip, band().top() - 3, 2 * kGrip, band().height() + 6), 3, 3);
 }
 
 QString PositionBar::textAt(double x) const
@@ -121,6 +125,8 @@ QString PositionBar::textAt(double x) const
 
 bool PositionBar::event(QEvent* pEvent)
 {
+    if (pEvent->type() == QEvent::FontChange)
+        updateGeometry();
     if (pEvent->type() != QEvent::ToolTip)
         return JumpSlider::event(pEvent);
     const auto* pHelp = static_cast<QHelpEvent*>(pEvent);

@@ -94,8 +94,9 @@ void SegmentClock::paintEvent(QPaintEvent* pEvent)
     for (const QChar character : mText) {
         const double advance = isNarrow(character) ? kPoint * unit : unit;
         const QRectF box(x, room.center().y() - height / 2, isNarrow(character) ? advance - (1 - kDigit) * unit : kDigit * unit, height);
+        const double middle = character == '1' ? (kThickness - kDigit) / 2 * unit : 0.0; // it would leave a hole
         if (character.isDigit())
-            paintSegments(painter, kDigits[static_cast<std::size_t>(character.digitValue())], box, kThickness * unit);
+            paintSegments(painter, kDigits[static_cast<std::size_t>(character.digitValue())], box.translated(middle, 0), kThickness * unit);
         else if (character == '-')
             paintSegments(painter, kMinus, box, kThickness * unit);
         else

@@ -24,6 +24,7 @@ namespace {
 
 constexpr int kDateDigits = 19;
 constexpr QSize kClockSize(220, 60);
+constexpr int kButtonIcon = 16;
 constexpr int kEntryWidth = 120;
 constexpr int kSliderWidth = 120;
 constexpr int kWidePosition = 600; // below, a line for itself serves it better
@@ -183,6 +184,9 @@ void WidgetReplayBar::arrange()
 {
     mpTime->setFixedWidth(std::max(kEntryWidth, mpTime->sizeHint().width()));
     mpSpeed->setFixedWidth(std::max(kEntryWidth, mpSpeed->sizeHint().width()));
+    const int size = grownWithText(*this, kButtonIcon);
+    for (ReplayButton* pButton : {mpReplay, mpStop})
+        pButton->setIconSize(QSize(size, size));
     const int text = widthOfText(), icon = mpStop->widthFor({});
     // The best first: texts beside the clocks, then icons there, which leave the position its room.
     const std::pair<EFit, int> ways[] = {

@@ -95,6 +95,11 @@ void TestAppearance::rulesNameTheirUses()
         QVERIFY2(std::ranges::any_of(ColourTable::builtIn().uses(), isIt), qPrintable(colour + " on " + below));
     }
     QVERIFY(found > 5);
+    for (const auto& [name, value] : ColourTable::builtIn().variables(ColourTable::eLight)) { // of map and course nothing but these decorates
+        const auto isIn = [&name = name](const ColourTable::Use& use) { return use.colour == name || use.ground == name; };
+        const bool isDrawn = (name.startsWith("map") && name != "mapGrid" && name != "mapFrame") || name.startsWith("course");
+        QVERIFY2(!isDrawn || std::ranges::any_of(ColourTable::builtIn().uses(), isIn), qPrintable(name));
+    }
     const std::string arrow = fileContent(sourceDir().toStdString() + "/resources/icons/chevron-down.svg");
     for (const ColourTable::EMedium medium : {ColourTable::eLight, ColourTable::eDark}) // the one picture serves both
         QVERIFY(arrow.find(ColourTable::builtIn().colour("arrow", medium).name().toStdString()) != std::string::npos);

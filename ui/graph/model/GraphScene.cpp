@@ -18,6 +18,7 @@ namespace ZARN {
 namespace {
 
 constexpr float kGhostShare = 0.6F;     // of the trace's colour in that of its ghost
+constexpr double kLeastContrast = 3.0;
 constexpr double kSampleDistance = 5.0; // pixels from sample to sample from which each can be marked
 
 /// The lines of a text, broken between words where they have more characters than that.
@@ -102,7 +103,8 @@ void GraphScene::drawGhost(Canvas& canvas, std::vector<QPointF>& points) const
             continue;
         canvas.push();
         canvas.clip(area);
-        canvas.lineStrip(points, {mixed(mModel.colours().background, mModel.traces().at(index)->drawnColour, kGhostShare)});
+        const QColor dimmed = mixed(mModel.colours().background, mModel.traces().at(index)->drawnColour, kGhostShare);
+        canvas.lineStrip(points, {readableOn(mModel.colours().background, dimmed, kLeastContrast)});
         canvas.pop();
     }
 }

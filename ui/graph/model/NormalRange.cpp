@@ -77,14 +77,15 @@ void NormalRange::drawKey(Canvas& canvas, const GraphLabels& labels) const
             most = std::max(most, stretch.flights);
         }
     }
-    if (most == 0)
+    if (most == 0 || !mModel.settings().legendOn)
         return;
     const QString count = least < most ? QString(QLatin1String("%1-%2")).arg(least).arg(most) : QString::number(most);
     const QString text = QCoreApplication::translate("ZARN::NormalRange", "usual: 5 to 95 % of %1 flights").arg(count);
     const CanvasText style = labels.style(Qt::AlignLeft | Qt::AlignTop);
     const QRectF& plot = mLayout.plot();
     const double left = plot.right() - canvas.textSize(text, style).width(), top = plot.top() - mLayout.line() - 2;
-    if (left - kKey < plot.left())
+    const bool isNamed = mModel.settings().displayMode != eSplit && mModel.traces().count() > 1; // by the axis, in the same line
+    if (left - kKey < (isNamed ? plot.center().x() : plot.left()))
         return;
     hatch(canvas, QRectF(left - kKey - 4, top + 2, kKey, mLayout.line() - 5), mModel.colours().label);
     canvas.text(QPointF(left, top), text, style);

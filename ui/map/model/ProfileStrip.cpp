@@ -70,17 +70,23 @@ void ProfileStrip::drawArea(Canvas& canvas, const QSizeF& size, const MapStyle& 
 {
     const double scale = (size.height() - 2.0 * kPadding) / (mHigh - mLow);
     const auto y = [&](double altitude) { return size.height() - kPadding - (altitude - mLow) * scale; };
-    std::vector<QPointF> fill, line;
+    const double from = mShown ? placeOf(mShown->start, size.width()) : 0.0, to = mShown ? placeOf(mShown->end, size.width()) : size.width();
+    std::vector<QPointF> fill, line, rest;
     for (std::size_t i = 0; i < mColumns.size(); ++i) {
         if (!mColumns[i].isKnown)
             continue;
         const auto x = static_cast<double>(i);
         fill.insert(fill.end(), {{x, size.height()}, {x, y(mColumns[i].low)}});
-        line.insert(line.end(), {{x, y(mColumns[i].low) + 1.0}, {x, y(mColumns[i].high) - 1.0}});
+        std::vector<QPointF>& part = x >= from && x <= to ? line : rest;
+        part.insert(part.end(), {{x, y(mColumns[i].low) + 1.0}, {x, y(mColumns[i].high) - 1.0}});
     }
     QColor ground = style.colours.path;
     ground.setAlpha(45);
     canvas.lines(fill, {ground, 1.0});
+    const QColor& veil = style.colours.textGround;
+    canvas.fillRect({0, 0, from, size.height()}, veil);
+    canvas.fillRect({to, 0, size.width() - to, size.height()}, veil);
+    canvas.lines(rest, {style.colours.pathDim, 1.0});
     canvas.lines(line, {style.colours.path, 1.0});
 }
 
@@ -92,12 +98,6 @@ void ProfileStrip::draw(Canvas& canvas, const QSizeF& size, double viewTime, con
     if (mColumns.size() != static_cast<std::size_t>(width))
         fill(width);
     drawArea(canvas, size, style);
-    if (mShown) {
-        const QColor veil = style.colours.textGround;
-        const double from = placeOf(mShown->start, width), to = placeOf(mShown->end, width);
-        canvas.fillRect({0, 0, from, size.height()}, veil);
-        canvas.fillRect({to, 0, width - to, size.height()}, veil);
-    }
     const CanvasText text{style.textSize, style.colours.label, false, Qt::AlignLeft | Qt::AlignTop};
     const auto label = [&](double altitude) {
         const QString number = PathLegend::number(altitude, mHigh - mLow);
