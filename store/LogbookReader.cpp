@@ -221,6 +221,23 @@ std::vector<LogbookNote> LogbookReader::notes(const std::string& cycle)
     return notes;
 }
 
+std::vector<CycleFlight> LogbookReader::sameFlights(const CycleFlight& flight)
+{
+    std::vector<CycleFlight> flights{flight};
+    Statement& found = mDatabase.prepared("SELECT other.number FROM flight AS one JOIN flight AS other ON other.cycle_id = ?3 AND "
+                                          "min(one.end_time, other.end_time) > max(one.start_time, other.start_time) WHERE one.cycle_id = ?1 AND "
+                                          "one.number = ?2 ORDER BY min(one.end_time, other.end_time) - max(one.start_time, other.start_time) DESC");
+    for (const std::string& cycle : copies().same(flight.cycleId)) {
+        if (cycle == flight.cycleId)
+            continue;
+        found.with({flight.cycleId, int64_t{flight.flight}, cycle});
+        if (flight.flight == 0 || found.next())
+            flights.push_back({cycle, flight.flight == 0 ? 0 : static_cast<int>(found.integer(0))});
+    }
+    found.with({}).run(); // an open one would keep the store as it was
+    return flights;
+}
+
 std::vector<std::string> LogbookReader::foldersOf(const std::string& cycle)
 {
     std::vector<std::string> folders;

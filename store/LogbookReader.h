@@ -59,6 +59,12 @@ struct LogbookNote {
     std::string aircraft = {}; ///< that the engine is in; empty: not told
 };
 
+/// A flight of a cycle.
+struct CycleFlight {
+    std::string cycleId;
+    int flight = 0; ///< from 1; 0: the whole cycle
+};
+
 /// What the logbook shows of a store that others may write meanwhile. For one thread.
 class LogbookReader {
 public:
@@ -86,6 +92,8 @@ public:
     [[nodiscard]] std::string engineOf(const std::string& engine);
     /// Of a cycle; without one, of all.
     [[nodiscard]] std::vector<LogbookNote> notes(const std::string& cycle = {});
+    /// A flight, and behind it the same one in copies of the recording.
+    [[nodiscard]] std::vector<CycleFlight> sameFlights(const CycleFlight& flight);
     /// Where a cycle was found: folders of cards, the latest first.
     [[nodiscard]] std::vector<std::string> foldersOf(const std::string& cycle);
 

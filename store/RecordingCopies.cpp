@@ -136,9 +136,10 @@ bool RecordingCopies::isSame(const Row& row, const Row& other)
 
 void RecordingCopies::resolveMoment(const std::string& engine, Rows rows, Rows& counted)
 {
-    const auto brief = std::ranges::partition(rows, [](const Row& row) { return length(row.span) > kSameMoment; }); // switched off at once, and on again
-    counted.insert(counted.end(), brief.begin(), brief.end());
-    rows.erase(brief.begin(), brief.end());
+    const auto isLong = [](const Row& row) { return length(row.span) > kSameMoment; };
+    const auto brief = std::partition(rows.begin(), rows.end(), isLong); // switched off at once, and on again
+    counted.insert(counted.end(), brief, rows.end());
+    rows.erase(brief, rows.end());
     if (!isClockSet(rows)) {
         counted.insert(counted.end(), rows.begin(), rows.end());
         return;

@@ -134,7 +134,7 @@ void TestLogbook::sums()
     const std::vector<LogbookEntry> entries = reader.entries(std::vector<int64_t>{12, 99, 13});
     QCOMPARE(entries[0].notes, QString("Größere Böen")); // of this flight's time alone
     QCOMPARE(entries[1].flight, 0);
-    QVERIFY(entries[2].dateTime.empty() && !entries[2].fuel && !entries[2].climb);
+    QVERIFY(entries[2].dateTime.empty() && !entries[2].fuel && !entries[2].climb && entries[2].verdict == EVerdict::eLimit);
     QVERIFY(reader.entries(std::vector<int64_t>{11})[0].notes.isEmpty());
     fill("UPDATE cycle SET number = 0, start_time = 1800.5 WHERE cycle_id = 'a'"); // times count from 1800.5 s before its date
     QCOMPARE(reader.entries(std::vector<int64_t>{12})[0].dateTime, std::string("2025-05-01T10:29:59"));
@@ -186,6 +186,8 @@ void TestLogbook::countsRecordingsOnce()
     QTEST(engine.recordings.several, "several");
     QTEST(engine.recordings.overlapping, "overlapping");
     QCOMPARE(engine.flights, flights.size());
+    const bool isFirst = reader.sameFlights({"a", 2}).size() > 1; // flight 12, which is 21 of "p"
+    QVERIFY(isFirst == (engine.recordings.several > 0) && (!isFirst || reader.sameFlights({"a", 2})[1].flight == 1));
 }
 
 void TestLogbook::keepsWhatWasTyped()

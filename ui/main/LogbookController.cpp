@@ -30,7 +30,9 @@
 #include <QMessageBox>
 #include <QStackedWidget>
 
+#include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <set>
 
 namespace ZARN {
@@ -258,21 +260,32 @@ CardReviewer::Supplement LogbookController::supplement() const
 
 void LogbookController::open(const QString& cycleId, int flight, double time)
 {
+    struct Found {
+        std::optional<CyclePlace> place;
+        int flight = 0;
+        std::vector<std::string> folders; ///< where it was
+    };
     const std::string archive = Settings::kArchiveDir.get(mSession.property);
     mpWorker->ask(
-        [cycle = cycleId.toStdString(), archive](LogbookReader& reader) {
+        [wanted = CycleFlight{cycleId.toStdString(), flight}, archive](LogbookReader& reader) {
             const Console silent([](std::string_view) {}, [](std::string_view) {});
-            std::vector<std::string> folders = reader.foldersOf(cycle);
-            if (!archive.empty()) {
-                for (std::string& folder : CardArchive(archive, silent).foldersOf(cycle))
-                    folders.push_back(std::move(folder));
+            Found found;
+            for (const CycleFlight& same : reader.sameFlights(wanted)) {
+                std::vector<std::string> folders = reader.foldersOf(same.cycleId);
+                if (!archive.empty())
+                    std::ranges::move(CardArchive(archive, silent).foldersOf(same.cycleId), std::back_inserter(folders));
+                found.place = findCycle(folders, same.cycleId, silent, nullProgress());
+                found.flight = same.flight;
+                std::ranges::move(folders, std::back_inserter(found.folders));
+                if (found.place)
+                    break;
             }
-            return std::pair(findCycle(folders, cycle, silent, nullProgress()), folders);
+            return found;
         },
-        [this, flight, time](const std::pair<std::optional<CyclePlace>, std::vector<std::string>>& found) {
-            if (found.first)
-                return openAt(*found.first, flight, time);
-            const QString where = found.second.empty() ? QString() : "\n" + QDir::toNativeSeparators(decodeFileName(found.second.front()));
+        [this, time](const Found& found) {
+            if (found.place)
+                return openAt(*found.place, found.flight, time);
+            const QString where = found.folders.empty() ? QString() : "\n" + QDir::toNativeSeparators(decodeFileName(found.folders.front()));
             mpDialog->tell(tr("The card of this recording is not at hand.") + where);
         });
 }

@@ -34,6 +34,9 @@ void TestOverview::demoCard()
     std::string error;
     QVERIFY(QDir().mkpath(home.filePath("SD")));
     QVERIFY2(DemoCard().write(card.toStdString(), DemoCardOptions{}, error), error.c_str());
+    QFile late(card + "/LOG00005.CAN"); // of cycle 2
+    QVERIFY(late.open(QIODevice::ReadWrite) && late.seek(12) && late.write("\xE4\x07", 2) == 2); // the year: 2020
+    late.close();
     DesktopFixture desktop(home.path(), {card.toStdString()});
     DialogMain& window = desktop.open();
     started(window);
@@ -48,6 +51,9 @@ void TestOverview::demoCard()
     QCOMPARE(told, (QStringList{"Cycle 3: 1 limit exceeded", "Cycle 2: 2 limits exceeded, 1 warning",
                                 "Cycle 1: Nothing outside its limits while the engine ran"}));
 
+    QVERIFY(cards()[0]->cycle().damages.isEmpty() && cards()[2]->cycle().damages.isEmpty());
+    QVERIFY(cards()[1]->cycle().damages.value(0).startsWith("LOG00005.CAN: the unit's clock went back here, from 15.06.2024"));
+    QCOMPARE(cards()[1]->cycle().damages.size(), 1);
     const auto* pCycles = window.findChild<QTreeWidget*>("treeCycles");
     QTest::keyClick(pOverview, Qt::Key_Return); // the newest flight, which the list did not know before
     QTRY_COMPARE(desktop.container.selectedFlightNumber(), 2);
