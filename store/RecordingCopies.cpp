@@ -16,7 +16,7 @@ constexpr const char* kFirstDate = "2010"; // a clock before was never set
 
 // A cycle without a beginning is dated by that of its first file, while its times count from power-up.
 constexpr const char* kRows = "SELECT rowid, strftime('%s', date_time) - CASE WHEN number = 0 THEN start_time ELSE 0 END, start_time, end_time, "
-                              "engine_running, engine_id FROM cycle WHERE date_time >= ?1 AND start_time IS NOT NULL AND end_time >= start_time";
+                              "engine_running, engine_id FROM cycle WHERE date_time >= ?1 AND end_time - start_time >= 0";
 
 double overlap(const TimeSpan& a, const TimeSpan& b)
 {
@@ -53,7 +53,7 @@ RecordingCopies::RecordingCopies(Database& database) : mDatabase(database)
             engine = std::move(next);
             rows.clear();
         }
-        rows.push_back(rowOf(found));
+        add(found, rows);
     }
     resolve(engine, rows);
 }
@@ -63,15 +63,17 @@ RecordingCopies::RecordingCopies(Database& database, const std::string& engine, 
     Statement& found = database.prepared(kRows + std::string(" AND engine_id = ?2")).with({kFirstDate, engine});
     Rows rows;
     while (found.next())
-        rows.push_back(rowOf(found));
+        add(found, rows);
     if (shown && shown->powerUp.isValid())
         addShown(*shown, rows);
     resolve(engine, rows);
 }
 
-RecordingCopies::Row RecordingCopies::rowOf(const Statement& found)
+void RecordingCopies::add(const Statement& found, Rows& rows)
 {
-    return {found.integer(0), found.real(1), {found.real(2), found.real(3)}, found.isNull(4) ? std::nullopt : std::optional(found.real(4))};
+    const std::optional<double> running = found.isNull(4) ? std::nullopt : std::optional(found.real(4));
+    if (!found.isNull(1)) // as of a date that is none
+        rows.push_back({found.integer(0), found.real(1), {found.real(2), found.real(3)}, running});
 }
 
 void RecordingCopies::addShown(const ShownRecording& shown, Rows& rows)

@@ -59,7 +59,7 @@ private:
         std::string cycleId = {}; ///< of those that are compared
     };
     using Rows = std::vector<Row>;
-    static Row rowOf(const Statement& found);
+    static void add(const Statement& found, Rows& rows);
     void addShown(const ShownRecording& shown, Rows& rows);
     void resolve(const std::string& engine, Rows& rows);
     void resolveMoment(const std::string& engine, Rows rows, Rows& counted);
