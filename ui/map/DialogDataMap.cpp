@@ -32,7 +32,7 @@ constexpr int kMargin = 10;
 constexpr int kLeastWidth = 200;
 constexpr int kBelowPanels = 40; // pixels for what is written at the lower edge
 constexpr int kRoomForAll = 260; // pixels below the question
-constexpr int kBesideMap = 520;   // pixels of width from which values stand beside the map, else below it
+constexpr int kBesideMap = 680;   // pixels of width from which values stand beside the map, else below it
 constexpr int kLegendRoom = 240;  // pixels beside the tools from which the legend stands there, else below them
 constexpr int kCourseDelay = 150; // milliseconds
 
