@@ -104,11 +104,13 @@ std::vector<LogbookEngine> LogbookReader::engines()
 {
     std::vector<LogbookEngine> engines;
     Statement& found = mDatabase.prepared(
-        "SELECT engine_id, aircraft.name, engine_type, engine_serial IS NOT NULL, total(engine_running), "
-        "count(cycle_id) - count(engine_running), EXISTS (SELECT 1 FROM problem JOIN card USING (card_id) WHERE file = engine.engine_id AND "
-        "path = ?1), (SELECT count(*) FROM flight JOIN cycle AS c USING (cycle_id) WHERE c.engine_id = engine.engine_id) "
-        "FROM engine LEFT JOIN aircraft USING (engine_id) LEFT JOIN cycle USING (engine_id) "
-        "WHERE engine_id NOT IN (SELECT engine_id FROM engine_merge) GROUP BY engine_id ORDER BY aircraft.name IS NULL, aircraft.name, engine_id");
+        // In the order of the file: by engine the pages of a large one would be read again and again.
+        "WITH totals AS MATERIALIZED (SELECT engine_id, total(engine_running) AS running, count(*) - count(engine_running) AS unknown, "
+        "sum((SELECT count(*) FROM flight WHERE flight.cycle_id = cycle.cycle_id)) AS flights FROM cycle NOT INDEXED GROUP BY engine_id) "
+        "SELECT engine_id, aircraft.name, engine_type, engine_serial IS NOT NULL, running, unknown, "
+        "EXISTS (SELECT 1 FROM problem JOIN card USING (card_id) WHERE file = engine.engine_id AND path = ?1), flights "
+        "FROM engine LEFT JOIN aircraft USING (engine_id) LEFT JOIN totals USING (engine_id) "
+        "WHERE engine_id NOT IN (SELECT engine_id FROM engine_merge) ORDER BY aircraft.name IS NULL, aircraft.name, engine_id");
     found.with({kLossPath});
     while (found.next()) {
         LogbookEngine& engine = engines.emplace_back();

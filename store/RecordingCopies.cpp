@@ -44,18 +44,12 @@ double covered(const TimeSpan& span, std::vector<TimeSpan> others)
 
 RecordingCopies::RecordingCopies(Database& database) : mDatabase(database)
 {
-    Statement& found = database.prepared(kRows + std::string(" ORDER BY engine_id")).with({kFirstDate});
-    std::string engine;
-    Rows rows;
-    while (found.next()) {
-        if (std::string next = found.text(5); next != engine) {
-            resolve(engine, rows);
-            engine = std::move(next);
-            rows.clear();
-        }
-        add(found, rows);
-    }
-    resolve(engine, rows);
+    Statement& found = database.prepared(kRows).with({kFirstDate}); // in the order of the file, which is read once
+    std::unordered_map<std::string, Rows> engines;
+    while (found.next())
+        add(found, engines[found.text(5)]);
+    for (auto& [engine, rows] : engines)
+        resolve(engine, rows);
 }
 
 RecordingCopies::RecordingCopies(Database& database, const std::string& engine, const std::optional<ShownRecording>& shown) : mDatabase(database)
