@@ -35,6 +35,7 @@ void TestGraphInteraction::zoomsAboutPointer()
 {
     OneTrace graph;
     graph.model.setWindow({0, 100});
+    graph.model.settings().graphMode = eAutomatic;
     GraphInteraction hand(graph.model);
     const GraphLayout layout = layoutOf(graph.model);
     hand.setLayout(layout);
@@ -46,7 +47,13 @@ void TestGraphInteraction::zoomsAboutPointer()
                                                        {-60, Qt::NoModifier, 0.0, 100.0}}) {
         hand.wheel(delta, modifiers);
         QVERIFY(std::abs(graph.model.window().begin() - begin) < 1e-9 && std::abs(graph.model.window().end() - end) < 1e-9);
+        QVERIFY(graph.model.settings().graphMode == eManual);
     }
+    const QPointF pressed(layout.xOf(75), 100); // by a touch, which does not move there first
+    hand.pressed(Qt::LeftButton, pressed, {});
+    hand.released(Qt::LeftButton, pressed);
+    hand.wheel(120, {});
+    QVERIFY(std::abs(graph.model.window().begin() - 7.5) < 1e-6 && std::abs(graph.model.window().end() - 97.5) < 1e-6);
 }
 
 void TestGraphInteraction::marksAndPans()
@@ -238,6 +245,8 @@ void TestGraphInteraction::legendChooses()
     const GraphLayout layout = layoutOf(model, size, true);
     GraphInteraction hand(model);
     hand.setLayout(layout);
+    for (const std::size_t row : {0, 1, 2})
+        QVERIFY(QRectF({}, size).contains(layout.legendLine(model, row)) && layout.legendLine(model, row).height() > 0);
     const QPointF line = layout.legendLine(model, 1).center(), other = layout.legendLine(model, 2).center();
     const QPointF outside(layout.plot().right() - 1, layout.plot().bottom() - 1);
     hand.moved(line);

@@ -334,12 +334,13 @@ void TestGraphModel::tickSpacing()
     QTEST(format, "format");
 }
 
+constexpr double kSteps[] = {1, 2, 5, 10, 15, 30, 60, 120, 300, 600, 900, 1800, 3600, 7200, 10800, 21600, 43200, 86400};
+
 void TestGraphModel::timeTicks_data()
 {
     QTest::addColumn<double>("width");
     QTest::addColumn<double>("step");
-    const double steps[] = {1, 2, 5, 10, 15, 30, 60, 120, 300, 600, 900, 1800, 3600, 7200, 10800, 21600, 43200, 86400};
-    for (const double step : steps) {
+    for (const double step : kSteps) {
         QTest::addRow("%g s: no wider", step) << step * 6 << step;
         QTest::addRow("%g s: no narrower", step) << step * 4.02 << step;
     }
@@ -356,6 +357,8 @@ void TestGraphModel::timeTicks()
     QVERIFY2(std::abs(ticks.step() - step) < 1e-9, qPrintable(QString::number(ticks.step())));
     const auto isMajor = [](const AxisTick& tick) { return tick.isMajor; };
     QVERIFY(std::ranges::count_if(ticks.ticks(), isMajor) >= static_cast<int>(width / step));
+    const double part = ticks.ticks()[1].value - ticks.ticks()[0].value; // from minutes on it is one that could be a step, too
+    QVERIFY2(step < 60 || step > 86400 || std::ranges::find(kSteps, std::round(part)) != std::end(kSteps), qPrintable(QString::number(part)));
 }
 
 void TestGraphModel::labels()

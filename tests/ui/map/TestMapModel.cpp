@@ -216,8 +216,10 @@ void TestMapModel::colouredPath()
     QVERIFY(strips[2].points.back() == strips[3].points.front() && strips[2].colours.back() != strips[3].colours.front());
     for (const auto& arrow : scene.geometry().arrows())
         QVERIFY(arrow.way.x() > 0 && arrow.way.y() < 0); // to the north-east
+    const std::size_t arrows = scene.geometry().arrows().size();
     scene.setTint(altitude);
     scene.update(view.navigator.camera());
+    QVERIFY(scene.geometry().arrows().size() > 0 && scene.geometry().arrows().size() <= arrows);
     QVERIFY(scene.geometry().strips().size() == 3 && scene.geometry().vertexCount() > 20 && scene.geometry().vertexCount() < 200);
     QVERIFY(PathColouring::of("=EGT 1").parameter == "EGT 1" && PathColouring::of(PathColouring::of("=EGT 1").key()).by == PathColouring::eParameter);
     QCOMPARE(PointerText::at({48.5, 11.25}, &points.front()).section("   ", 0, 0), QString::fromUtf8("48\u00b030.00'N 11\u00b015.00'E"));
@@ -297,6 +299,7 @@ void TestMapModel::simplifiedPath()
 void TestMapModel::zoomsAboutThePointer()
 {
     View view;
+    QCOMPARE(view.context.rangeVertical, view.context.rangeHorizontal * 600 / 800);
     const OpenStreet::WindowPoint pointer{650.0, 90.0};
     view.navigator.setPointer(pointer);
     const OpenStreet::GeoPoint place = view.navigator.camera().windowToGeo(pointer);
@@ -334,6 +337,9 @@ void TestMapModel::dragsAndFollows()
     QVERIFY(view.distance(place, 237.0, 188.0) < 1e-6);
     view.navigator.follow(50.0, 20.0);
     QVERIFY(view.distance(place, 237.0, 188.0) < 1e-6);
+    view.navigator.pan(20.0, -30.0);
+    view.arrive();
+    QVERIFY(view.distance(place, 217.0, 218.0) < 0.01);
 }
 
 void TestMapModel::eventsOnThePath()
