@@ -49,6 +49,8 @@ void VirtualBusGate::take()
     connect(mpPlugin, &QTcpSocket::disconnected, &mBus, &QTcpSocket::disconnectFromHost);
     passToBus();
     passToPlugin();
+    if (mBus.state() != QAbstractSocket::ConnectedState) // hung up meanwhile, which nobody was there to be told
+        mpPlugin->disconnectFromHost();
 }
 
 void VirtualBusGate::passToBus()
