@@ -83,6 +83,7 @@ constexpr TextSetting kLogbookHidden = {"LogbookHidden", ""};
 
 constexpr TextSetting kLiveBus = {"LiveBus", ""};
 constexpr NumberSetting kLiveBitRate = {"LiveBitRate", 0, 0, 8000000}; // bits a second; 0: as the system has it
+constexpr SwitchSetting kLiveListenOnly = {"LiveListenOnly", true};
 constexpr TextSetting kLiveFolder = {"LiveFolder", ""};
 constexpr NumberSetting kLiveHours = {"LiveHours", 2, 1, 48};
 

@@ -17,8 +17,8 @@ constexpr int kAnswerPeriod = 5000; // milliseconds: some plugins never say that
 
 } // namespace
 
-BusLink::BusLink(BusAddress address, int bitRate, QObject* pParent)
-    : QObject(pParent), mAddress(std::move(address)), mBitRate(bitRate), mBatchTimer(this), mRetryTimer(this)
+BusLink::BusLink(BusAddress address, int bitRate, bool isListenOnly, QObject* pParent)
+    : QObject(pParent), mAddress(std::move(address)), mBitRate(bitRate), mIsListenOnly(isListenOnly), mBatchTimer(this), mRetryTimer(this)
 {
     mHost.start();
     mRetryTimer.setSingleShot(true);
@@ -57,6 +57,9 @@ void BusLink::connectDevice()
     setState(eConnecting, mReason);
     if (mpDevice)
         mpDevice->disconnect(this);
+    mConfirming = confirming(mAddress);
+    if (mIsListenOnly && mConfirming == EConfirming::eAlways)
+        return lose(tr("it confirms frames: it is opened when the system has set it to listen only"));
     QString error;
     mpDevice.reset(QCanBus::instance()->createDevice(mAddress.plugin, gatedInterface(), &error));
     if (!mpDevice)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "live/BusAddress.h"
+#include "live/ControllerMode.h"
 #include "live/FrameReader.h"
 #include "live/VirtualBusGate.h"
 
@@ -24,7 +24,8 @@ public:
     Q_ENUM(EState)
 
     /// @param bitRate bits a second to set on the interface; 0 leaves it as the system has it.
-    explicit BusLink(BusAddress address, int bitRate = 0, QObject* pParent = nullptr);
+    /// @param isListenOnly an interface that confirms frames is not opened, as long as it does; only some tell that
+    explicit BusLink(BusAddress address, int bitRate = 0, bool isListenOnly = false, QObject* pParent = nullptr);
     ~BusLink() override;
 
     void open();
@@ -33,6 +34,8 @@ public:
     [[nodiscard]] const LiveCounts& counts() const { return mReader.counts(); }
     /// What the interface says about the bus: "good", "warning", "error", "off"; empty when it says nothing.
     [[nodiscard]] QString busStatus() const;
+    /// What the interface did when it was opened.
+    [[nodiscard]] EConfirming isConfirming() const { return mConfirming; }
 
 Q_SIGNALS:
     /// Never empty.
@@ -52,6 +55,8 @@ private:
 
     BusAddress mAddress;
     int mBitRate;
+    bool mIsListenOnly;
+    EConfirming mConfirming = EConfirming::eUnknown;
     std::unique_ptr<VirtualBusGate> mpGate;
     std::unique_ptr<QCanBusDevice> mpDevice;
     FrameReader mReader;

@@ -8,7 +8,7 @@ constexpr int kStatusPeriod = 250; // milliseconds
 
 } // namespace
 
-LiveWorker::LiveWorker(const LiveWish& wish) : mLink(wish.address, wish.bitRate, this), mTimer(this)
+LiveWorker::LiveWorker(const LiveWish& wish) : mLink(wish.address, wish.bitRate, wish.isListenOnly, this), mTimer(this)
 {
     if (!wish.folder.isEmpty())
         mpRecorder = std::make_unique<LiveRecorder>(wish.folder);
@@ -56,6 +56,7 @@ void LiveWorker::tell()
 {
     mStatus.counts = mLink.counts();
     mStatus.busStatus = mLink.busStatus();
+    mStatus.confirming = mLink.isConfirming();
     mStatus.recorded = mpRecorder ? mpRecorder->recorded() : 0;
     mStatus.isRecording = mpRecorder && mpRecorder->isOpen();
     Q_EMIT status(mStatus);

@@ -9,6 +9,7 @@ namespace ZARN {
 struct LiveWish {
     BusAddress address;
     int bitRate = 0; ///< bits a second to set on the interface; 0 leaves it as the system has it
+    bool isListenOnly = true; ///< an interface that tells that it confirms frames is not opened
     QString folder;  ///< to record into; empty: nothing is recorded
 };
 
@@ -17,6 +18,7 @@ struct LiveStatus {
     BusLink::EState state = BusLink::eClosed;
     QString reason;    ///< why it is not connected
     QString busStatus; ///< as BusLink tells it
+    EConfirming confirming = EConfirming::eUnknown;
     LiveCounts counts;
     uint64_t recorded = 0; ///< records
     bool isRecording = false;

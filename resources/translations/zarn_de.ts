@@ -314,6 +314,10 @@ Die Einstellungen bleiben erhalten.</translation>
         <source>what answers there is no virtual bus</source>
         <translation>was dort antwortet, ist kein virtueller Bus</translation>
     </message>
+    <message>
+        <source>it confirms frames: it is opened when the system has set it to listen only</source>
+        <translation>sie bestätigt Telegramme: Sie wird geöffnet, wenn das System sie auf Zuhören eingestellt hat</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::CandumpFile</name>
@@ -1471,16 +1475,36 @@ lag(x, s): x, wie es vor s Sekunden war</translation>
         <translation>Stunden im Arbeitsspeicher</translation>
     </message>
     <message>
-        <source>The program only listens: it never sends anything to the bus. Whether the interface confirms frames is set in the system.</source>
-        <translation>Das Programm hört nur zu: Es sendet nie etwas auf den Bus. Ob die Schnittstelle Telegramme bestätigt, ist im System eingestellt.</translation>
-    </message>
-    <message>
         <source>Folder to record into</source>
         <translation>Ordner für die Aufzeichnung</translation>
     </message>
     <message>
         <source>Name the interface, as in can0.</source>
         <translation>Nennen Sie die Schnittstelle, etwa can0.</translation>
+    </message>
+    <message>
+        <source>Only where the interface confirms no frames</source>
+        <translation>Nur, wo die Schnittstelle keine Telegramme bestätigt</translation>
+    </message>
+    <message>
+        <source>Listen only</source>
+        <translation>Nur zuhören</translation>
+    </message>
+    <message>
+        <source>The program never sends anything to the bus.</source>
+        <translation>Das Programm sendet nie etwas auf den Bus.</translation>
+    </message>
+    <message>
+        <source>A virtual bus has nothing that confirms frames.</source>
+        <translation>Ein virtueller Bus hat nichts, was Telegramme bestätigt.</translation>
+    </message>
+    <message>
+        <source>A CAN controller confirms each frame that it receives, unless the system has set it to listen only: ip link set can0 type can listen-only on. Where this is ticked, one that confirms is not opened. An engine unit that is alone on its bus needs somebody who confirms.</source>
+        <translation>Ein CAN-Controller bestätigt jedes Telegramm, das er empfängt, außer das System hat ihn auf Zuhören eingestellt: ip link set can0 type can listen-only on. Mit dem Häkchen wird einer, der bestätigt, nicht geöffnet. Ein Motorsteuergerät, das allein an seinem Bus ist, braucht jemanden, der bestätigt.</translation>
+    </message>
+    <message>
+        <source>The plugin %1 does not tell whether its interface confirms frames: this cannot be watched, and is set with the tools of the interface.</source>
+        <translation>Das Plugin %1 sagt nicht, ob seine Schnittstelle Telegramme bestätigt: Das lässt sich nicht überwachen und wird mit den Werkzeugen der Schnittstelle eingestellt.</translation>
     </message>
 </context>
 <context>
@@ -3658,10 +3682,6 @@ Ersetzen ?</translation>
         <source>%1: connected, only listening</source>
         <translation>%1: verbunden, hört nur zu</translation>
     </message>
-    <message>
-        <source>%1: connected, only listening, bus %2</source>
-        <translation>%1: verbunden, hört nur zu, Bus %2</translation>
-    </message>
     <message numerus="yes">
         <source>%Ln frame(s)</source>
         <translation>
@@ -3700,6 +3720,14 @@ Ersetzen ?</translation>
     <message>
         <source>NO FRAMES for %1 s</source>
         <translation>KEINE TELEGRAMME seit %1 s</translation>
+    </message>
+    <message>
+        <source>%1: connected, nothing is sent, but frames are confirmed</source>
+        <translation>%1: verbunden, es wird nichts gesendet, aber Telegramme werden bestätigt</translation>
+    </message>
+    <message>
+        <source>%1, bus %2</source>
+        <translation>%1, Bus %2</translation>
     </message>
 </context>
 <context>

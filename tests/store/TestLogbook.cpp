@@ -153,19 +153,24 @@ void TestLogbook::countsRecordingsOnce_data()
     QTest::addColumn<double>("running");
     QTest::addColumn<std::size_t>("several");
     QTest::addColumn<std::size_t>("overlapping");
+    QTest::addColumn<std::size_t>("clockBacks");
     using Flights = std::vector<int64_t>;
     const char* const pRest = "0, '2025-05-01T10:10:01', 600.7, 7200, 6500";
-    QTest::newRow("its first file is gone") << pRest << "" << Flights{11, 12} << 7200.0 << std::size_t{1} << std::size_t{0};
-    QTest::newRow("more of it is there now") << "1, '2025-05-01T10:00:00', 0, 9000, 8900" << "" << Flights{21, 22} << 8900.0 << std::size_t{1} << std::size_t{0};
-    QTest::newRow("each has what the other lacks") << "0, '2025-05-01T10:20:00', 1200, 9200, 7200" << "" << Flights{11, 21, 22} << 8300.0 << std::size_t{1} << std::size_t{0};
+    QTest::newRow("its first file is gone") << pRest << "" << Flights{11, 12} << 7200.0 << std::size_t{1} << std::size_t{0} << std::size_t{0};
+    QTest::newRow("more of it is there now") << "1, '2025-05-01T10:00:00', 0, 9000, 8900" << "" << Flights{21, 22} << 8900.0 << std::size_t{1} << std::size_t{0} << std::size_t{0};
+    QTest::newRow("each has what the other lacks") << "0, '2025-05-01T10:20:00', 1200, 9200, 7200" << "" << Flights{11, 21, 22} << 8300.0 << std::size_t{1} << std::size_t{0} << std::size_t{0};
     QTest::newRow("the others hold all of a third") << "0, '2025-05-01T10:20:00', 1200, 9200, 7200"
         << "INSERT INTO cycle (cycle_id, engine_id, number, date_time, start_time, end_time, engine_running) VALUES ('q', 'E1', 1, '2025-05-01T10:00:00', 1000, 8200, 7200)"
-        << Flights{11, 21, 22} << 8300.0 << std::size_t{1} << std::size_t{0};
-    QTest::newRow("another unit") << pRest << "INSERT INTO cycle_unit VALUES ('a', 1), ('p', 2)" << Flights{11, 12, 21} << 13700.0 << std::size_t{0} << std::size_t{1};
-    QTest::newRow("on one card: a clock that begins anew") << "2, '2025-05-01T10:00:00', 0, 600, 500" << "INSERT INTO file VALUES (1, 'x', 1, 1, 'a'), (1, 'y', 1, 1, 'p')"
-        << Flights{11, 12} << 7700.0 << std::size_t{0} << std::size_t{1};
+        << Flights{11, 21, 22} << 8300.0 << std::size_t{1} << std::size_t{0} << std::size_t{0};
+    QTest::newRow("another unit") << pRest << "INSERT INTO cycle_unit VALUES ('a', 1), ('p', 2)" << Flights{11, 12, 21} << 13700.0 << std::size_t{0} << std::size_t{1} << std::size_t{0};
+    QTest::newRow("on one card: a clock that begins anew") << "2, '2025-05-01T10:00:00', 0, 600, 500" << "INSERT INTO file VALUES (1, 'x', 1, 1, 'a'), (1, 'y', 1, 1, 'p'); UPDATE cycle SET card_id = 1"
+        << Flights{11, 12} << 7700.0 << std::size_t{0} << std::size_t{1} << std::size_t{1};
+    QTest::newRow("on one card: a clock that went back") << "2, '2025-05-01T08:00:00', 0, 600, 500" << "UPDATE cycle SET card_id = 1"
+        << Flights{11, 12} << 7700.0 << std::size_t{0} << std::size_t{0} << std::size_t{1};
+    QTest::newRow("on one card, later") << "2, '2025-05-01T12:00:50', 0, 600, 500" << "UPDATE cycle SET card_id = 1"
+        << Flights{11, 12} << 7700.0 << std::size_t{0} << std::size_t{0} << std::size_t{0};
     QTest::newRow("a clock that was never set") << "1, '2000-01-01T00:00:00', 0, 600, 500" << "UPDATE cycle SET date_time = '2000-01-01T00:00:00' WHERE cycle_id = 'a'"
-        << Flights{11, 12} << 7700.0 << std::size_t{0} << std::size_t{0};
+        << Flights{11, 12} << 7700.0 << std::size_t{0} << std::size_t{0} << std::size_t{0};
 }
 
 void TestLogbook::countsRecordingsOnce()
@@ -185,6 +190,7 @@ void TestLogbook::countsRecordingsOnce()
     QTEST(engine.running, "running");
     QTEST(engine.recordings.several, "several");
     QTEST(engine.recordings.overlapping, "overlapping");
+    QTEST(engine.clockBacks, "clockBacks");
     QCOMPARE(engine.flights, flights.size());
     const bool isFirst = reader.sameFlights({"a", 2}).size() > 1; // flight 12, which is 21 of "p"
     QVERIFY(isFirst == (engine.recordings.several > 0) && (!isFirst || reader.sameFlights({"a", 2})[1].flight == 1));

@@ -24,6 +24,7 @@ constexpr int kMostHeight = 320; // a damaged profile may have names of any leng
 constexpr int kTableHeight = 180;
 constexpr int kFirstWidth = 15;
 constexpr int kMinimumWidth = 20;
+constexpr int kNumberGap = 8; // between the numbers of two columns
 
 int columnOf(int bit)
 {
@@ -163,10 +164,12 @@ void WidgetFaultMatrix::updateFonts()
     layoutTable();
 }
 
-/// Every name is whole, with a scroll bar below as without it.
+/// Every name and number is whole, with a scroll bar below as without it.
 void WidgetFaultMatrix::layoutTable()
 {
-    int row = kRowHeight, least = kMinimumWidth;
+    QFont font = mpTable->horizontalHeader()->font();
+    font.setPixelSize(textSize(mTextSize, EText::eFine));
+    int row = kRowHeight, least = std::max(kMinimumWidth, QFontMetrics(font).horizontalAdvance("00") + kNumberGap);
     for (const WidgetErrorItem* pItem : mItems) {
         row = pItem ? std::max(row, pItem->lengthOfText()) : row;
         least = pItem ? std::max(least, pItem->thicknessOfText()) : least;

@@ -3,6 +3,7 @@
 #include "app/Property.h"
 #include "app/Settings.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDir>
@@ -35,7 +36,7 @@ QLabel* createText(const QString& text)
 
 DialogLive::DialogLive(const Session& session, QWidget* pParent)
     : QDialog(pParent), mSession(session), mpFields(new QWidget), mpPlugin(new QComboBox), mpInterface(new QComboBox), mpBitRate(new QComboBox),
-      mpFolder(new QLineEdit), mpHours(new QSpinBox), mpProblem(new QLabel), mpConnect(new QPushButton(tr("Connect"))),
+      mpListenOnly(new QCheckBox(tr("Only where the interface confirms no frames"))), mpConfirming(createText({})), mpFolder(new QLineEdit), mpHours(new QSpinBox), mpProblem(new QLabel), mpConnect(new QPushButton(tr("Connect"))),
       mpDisconnect(new QPushButton(tr("Disconnect")))
 {
     setWindowTitle(tr("Live"));
@@ -75,12 +76,13 @@ void DialogLive::createRows()
     pForm->addRow(tr("Plugin"), mpPlugin);
     pForm->addRow(tr("Interface"), mpInterface);
     pForm->addRow(tr("Bit rate"), mpBitRate);
+    pForm->addRow(tr("Listen only"), mpListenOnly);
+    pForm->addRow(mpConfirming);
     pForm->addRow(tr("Record into"), pFolder);
     pForm->addRow(tr("Hours kept in memory"), mpHours);
     auto* pLayout = new QVBoxLayout(this);
     pLayout->addWidget(mpFields);
-    pLayout->addWidget(createText(tr("The program only listens: it never sends anything to the bus. "
-                                     "Whether the interface confirms frames is set in the system.")));
+    pLayout->addWidget(createText(tr("The program never sends anything to the bus.")));
     pLayout->addWidget(mpProblem);
     pLayout->addStretch();
     pLayout->addWidget(pButtons);
@@ -114,6 +116,7 @@ void DialogLive::fill()
     if (place < 0)
         mpBitRate->addItem(tr("%1 kbit/s").arg(wish.bitRate / 1000.0), wish.bitRate);
     mpBitRate->setCurrentIndex(place < 0 ? mpBitRate->count() - 1 : place);
+    mpListenOnly->setChecked(wish.isListenOnly);
     mpFolder->setText(QDir::toNativeSeparators(wish.folder));
     mpHours->setValue(Settings::kLiveHours.get(mSession.property));
     mpConnect->setEnabled(!mIsOpen);
@@ -125,12 +128,26 @@ void DialogLive::fill()
 void DialogLive::slotPlugin()
 {
     mpInterface->clear();
+    mpConfirming->setText(confirmingText());
     if (mIsOpen)
         return; // the plugin is at work
     const QString plugin = mpPlugin->currentText();
     mpInterface->addItems(BusAddress::interfaces(plugin));
     if (BusAddress{plugin, {}}.isVirtual())
         mpInterface->addItem(kExample);
+}
+
+QString DialogLive::confirmingText() const
+{
+    const BusAddress address{mpPlugin->currentText(), {}};
+    if (address.isVirtual())
+        return tr("A virtual bus has nothing that confirms frames.");
+    if (address.plugin == "socketcan")
+        return tr("A CAN controller confirms each frame that it receives, unless the system has set it to listen only: "
+                  "ip link set can0 type can listen-only on. Where this is ticked, one that confirms is not opened. "
+                  "An engine unit that is alone on its bus needs somebody who confirms.");
+    return tr("The plugin %1 does not tell whether its interface confirms frames: this cannot be watched, and is set "
+              "with the tools of the interface.").arg(address.plugin);
 }
 
 void DialogLive::askFolder()
@@ -152,9 +169,11 @@ void DialogLive::slotConnect()
     if (!problem.isEmpty())
         return;
     wish.bitRate = mpBitRate->currentData().toInt();
+    wish.isListenOnly = mpListenOnly->isChecked();
     wish.folder = mpFolder->text().isEmpty() ? QString() : QDir::cleanPath(QDir::fromNativeSeparators(mpFolder->text()));
     Settings::kLiveBus.set(mSession.property, wish.address.text());
     Settings::kLiveBitRate.set(mSession.property, wish.bitRate);
+    Settings::kLiveListenOnly.set(mSession.property, wish.isListenOnly);
     Settings::kLiveFolder.set(mSession.property, wish.folder);
     Settings::kLiveHours.set(mSession.property, mpHours->value());
     mSession.property.writeXmlFile();
@@ -169,6 +188,7 @@ LiveWish DialogLive::last(const Property& property, QString& problem)
     if (const QString bus = Settings::kLiveBus.text(property); !bus.isEmpty())
         wish.address = BusAddress::parse(bus, problem);
     wish.bitRate = Settings::kLiveBitRate.get(property);
+    wish.isListenOnly = Settings::kLiveListenOnly.get(property);
     wish.folder = Settings::kLiveFolder.text(property);
     return wish;
 }

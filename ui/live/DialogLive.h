@@ -5,6 +5,7 @@
 
 #include <QDialog>
 
+class QCheckBox;
 class QComboBox;
 class QLabel;
 class QLineEdit;
@@ -34,6 +35,8 @@ private:
     void fill();
     void slotPlugin();
     void slotConnect();
+    /// What is known of frames that are confirmed by the chosen kind of interface.
+    [[nodiscard]] QString confirmingText() const;
     void askFolder();
 
     Session mSession;
@@ -41,6 +44,8 @@ private:
     QComboBox* mpPlugin;
     QComboBox* mpInterface;
     QComboBox* mpBitRate;
+    QCheckBox* mpListenOnly;
+    QLabel* mpConfirming;
     QLineEdit* mpFolder;
     QSpinBox* mpHours;
     QLabel* mpProblem;

@@ -51,9 +51,11 @@ QString LiveText::connection() const
 {
     if (mStatus.state == BusLink::eClosed)
         return tr("%1: disconnected").arg(mBus);
-    if (mStatus.state == BusLink::eConnected)
-        return mStatus.busStatus.isEmpty() ? tr("%1: connected, only listening").arg(mBus)
-                                           : tr("%1: connected, only listening, bus %2").arg(mBus, mStatus.busStatus);
+    if (mStatus.state == BusLink::eConnected) {
+        const QString text = mStatus.confirming == EConfirming::eAlways ? tr("%1: connected, nothing is sent, but frames are confirmed").arg(mBus)
+                                                                        : tr("%1: connected, only listening").arg(mBus);
+        return mStatus.busStatus.isEmpty() ? text : tr("%1, bus %2").arg(text, mStatus.busStatus);
+    }
     const QString text = mWasConnected ? tr("%1: connection lost, trying again ...") : tr("%1: connecting ...");
     return text.arg(mBus) + (mStatus.reason.isEmpty() ? QString() : " (" + mStatus.reason + ")");
 }

@@ -1,5 +1,7 @@
 #include "ui/map/MapValueTable.h"
 
+#include "ui/canvas/ShortName.h"
+
 #include <QEvent>
 #include <QHeaderView>
 #include <QScrollBar>
@@ -15,17 +17,12 @@ const QColor kGround(30, 34, 40);
 constexpr int kPadding = 8; // pixels beside a text in its column
 constexpr int kLeastName = 60;
 
-/// Its words cut alike, so that names that begin or end with the same word can be told apart.
-QString shortened(const QString& name, const QFontMetrics& metrics, int width)
+void cutName(QStyleOptionViewItem& option)
 {
-    QStringList words = name.split(' ');
-    while (metrics.horizontalAdvance(words.join(' ')) > width) {
-        QString& longest = *std::ranges::max_element(words, {}, &QString::size);
-        if (longest.size() < 3)
-            return metrics.elidedText(name, Qt::ElideMiddle, width);
-        longest = longest.chopped(longest.endsWith('.') ? 2 : 1) + '.';
-    }
-    return words.join(' ');
+    const QFontMetrics& metrics = option.fontMetrics;
+    const int width = option.rect.width() - kPadding;
+    const QString name = shortName(option.text, [&metrics, width](const QString& text) { return metrics.horizontalAdvance(text) <= width; });
+    option.text = name.isEmpty() ? metrics.elidedText(option.text, Qt::ElideMiddle, width) : name;
 }
 
 class NameDelegate : public QStyledItemDelegate {
@@ -37,7 +34,7 @@ protected:
     {
         QStyledItemDelegate::initStyleOption(pOption, index);
         if (index.column() == MapValueModel::eName)
-            pOption->text = shortened(pOption->text, pOption->fontMetrics, pOption->rect.width() - kPadding);
+            cutName(*pOption);
     }
 };
 

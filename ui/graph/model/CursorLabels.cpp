@@ -1,6 +1,7 @@
 #include "ui/graph/model/CursorLabels.h"
 
 #include "ui/canvas/CanvasFont.h"
+#include "ui/canvas/ShortName.h"
 #include "ui/graph/model/GraphTexts.h"
 
 #include <algorithm>
@@ -70,7 +71,7 @@ void CursorLabels::addValues()
         if (!value || area.height() < height)
             continue;
         const GraphParameter& trace = *mModel.traces().at(index);
-        const QString name = GraphLayout::shortened(trace.name, GraphLayout::kLongestName);
+        const QString name = shortName(trace.name, GraphLayout::kLongestName);
         const QString text = name + QLatin1Char('/') + (trace.pStates ? trace.text(*value) : graphNumber(*value, 2));
         add(area.top() + std::min(3.0, (area.height() - height) / 2), text, isRightOf(text));
     }

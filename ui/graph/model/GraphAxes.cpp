@@ -1,6 +1,7 @@
 #include "ui/graph/model/GraphAxes.h"
 
 #include "ui/canvas/ColourContrast.h"
+#include "ui/canvas/ShortName.h"
 #include "ui/graph/model/AxisLabels.h"
 #include "ui/graph/model/AxisTicks.h"
 
@@ -152,7 +153,7 @@ void GraphAxes::drawAxisName(Canvas& canvas, const ValueAxis& axis, bool isFront
         // No room for more than the unit: the colour tells whose it is.
         const auto room = static_cast<int>((axis.labels.width() - kLabelGap) / mLayout.character());
         const CanvasText style = mLabels.style(Qt::AlignRight | Qt::AlignTop, axis.isOwn ? axisColour(axis.index) : std::nullopt);
-        return canvas.text(QPointF(axis.labels.right() - kLabelGap, top + 1), GraphLayout::shortened(trace.unit, room), style);
+        return canvas.text(QPointF(axis.labels.right() - kLabelGap, top + 1), cutText(trace.unit, room), style);
     }
     // Whose values the grid stands at; the others have spans of their own.
     const QPointF corner(mLayout.axes().size() > 1 ? axis.labels.left() : GraphLayout::kHandleX - 4, top);
@@ -160,7 +161,7 @@ void GraphAxes::drawAxisName(Canvas& canvas, const ValueAxis& axis, bool isFront
     if (!isUnit)
         canvas.fillRect(QRectF(corner.x(), corner.y() + 2, 10, mLayout.line() - 4), trace.drawnColour);
     const QString text =
-        isUnit ? QLatin1Char('[') + trace.unit + QLatin1Char(']') : GraphLayout::shortened(trace.label(), GraphLayout::kLongestLabel);
+        isUnit ? QLatin1Char('[') + trace.unit + QLatin1Char(']') : shortName(trace.label(), GraphLayout::kLongestLabel);
     canvas.text(corner + QPointF(isUnit ? 0 : 14, 1), text, mLabels.style(Qt::AlignLeft | Qt::AlignTop));
 }
 

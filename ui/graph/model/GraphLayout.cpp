@@ -1,6 +1,7 @@
 #include "ui/graph/model/GraphLayout.h"
 
 #include "ui/canvas/CanvasFont.h"
+#include "ui/canvas/ShortName.h"
 #include "ui/graph/model/AxisLabels.h"
 #include "ui/graph/model/AxisTicks.h"
 #include "ui/graph/model/GraphTexts.h"
@@ -300,7 +301,7 @@ QString GraphLayout::overlayText(const GraphModel& model, int index) const
         model.settings().displayMode == eSplit ? std::nullopt : model.traces().valueAt(index, model.cursor().time);
     const QString number = value ? QLatin1Char(' ') + parameter.text(*value) : QString();
     const auto room = static_cast<int>((mPlot.width() - kSwatch - 12) / mCharacter) - static_cast<int>(number.size());
-    return shortened(parameter.label(), std::clamp(room, kFewestOfName, kLongestLabel)) + number;
+    return shortName(parameter.label(), std::clamp(room, kFewestOfName, kLongestLabel)) + number;
 }
 
 int GraphLayout::stripAt(const GraphModel& model, double y) const
@@ -311,11 +312,6 @@ int GraphLayout::stripAt(const GraphModel& model, double y) const
             found = index;
     }
     return found;
-}
-
-QString GraphLayout::shortened(const QString& name, int length)
-{
-    return name.size() <= length ? name : name.left(std::max(0, length - 1)) + QChar(0x2026);
 }
 
 int axisAt(const GraphLayout& layout, const QPointF& point)

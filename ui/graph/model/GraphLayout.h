@@ -68,8 +68,6 @@ public:
 
     /// What the line over the plot says of a trace; with its value where nothing else tells that.
     [[nodiscard]] QString overlayText(const GraphModel& model, int index) const;
-    /// A name cut to what a line of the legend or the table shows.
-    [[nodiscard]] static QString shortened(const QString& name, int length);
 
     static constexpr double kHandleX = 10.0;
     static constexpr double kSwatch = 10.0;        ///< of a trace's colour, before its name

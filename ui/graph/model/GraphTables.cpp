@@ -1,5 +1,6 @@
 #include "ui/graph/model/GraphTables.h"
 
+#include "ui/canvas/ShortName.h"
 #include "ui/graph/model/GraphTexts.h"
 #include "ui/graph/model/MarkerTable.h"
 
@@ -25,15 +26,6 @@ ValueRange<double> windowRange(const GraphModel& model, const SampleSeries& samp
     const std::size_t first = samples.firstAtOrAfter(model.window().begin());
     const auto last = samples.lastAtOrBefore(model.window().end());
     return last && first <= *last ? samples.range(first, *last + 1) : ValueRange<double>{};
-}
-
-/// With its end, by which the names of two lanes differ.
-QString shortenedName(const QString& name, int length)
-{
-    constexpr int kEnd = 3;
-    if (name.size() <= length || length <= 2 * kEnd)
-        return GraphLayout::shortened(name, length);
-    return GraphLayout::shortened(name, length - kEnd) + name.right(kEnd);
 }
 
 } // namespace
@@ -66,7 +58,7 @@ QStringList GraphTables::legendNumbers(int index) const
     QStringList texts;
     for (const std::optional<double>& value : values) {
         const QString text = value ? trace.text(*value) : QStringLiteral("-");
-        texts << (trace.pStates ? GraphLayout::shortened(text, GraphLayout::kLongestState) : text); // a number is never cut
+        texts << (trace.pStates ? cutText(text, GraphLayout::kLongestState) : text); // a number is never cut
     }
     return texts;
 }
@@ -111,8 +103,8 @@ void GraphTables::drawLegendHeader(Canvas& canvas) const
     QStringList texts{translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "Cursor"))};
     const Ghost* pGhost = mModel.scenery().ghost().get();
     if (pGhost && mLayout.legendKind() == GraphLayout::ELegend::eFull)
-        texts << GraphLayout::shortened(pGhost->name, mLayout.numberLength())
-              << GraphLayout::shortened(translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "Diff.")), mLayout.numberLength());
+        texts << cutText(pGhost->name, mLayout.numberLength())
+              << cutText(translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "Diff.")), mLayout.numberLength());
     else if (mLayout.legendKind() == GraphLayout::ELegend::eFull)
         texts << translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "Min")) << translated(QT_TRANSLATE_NOOP("ZARN::GraphTables", "Max"));
     // Strips have their lines at their own heights, so the header stands above the first.
@@ -138,11 +130,11 @@ void GraphTables::drawLegendLine(Canvas& canvas, const QRectF& line, int index, 
             canvas.fillRect(line, mLabels.highlight());
         mLabels.drawSwatch(canvas, line.topLeft(), index, parameter.drawnColour);
     } else if (layer == ELayer::eNames) {
-        canvas.text(QPointF(x, line.top()), shortenedName(parameter.name, mLayout.nameLength()), style(true));
+        canvas.text(QPointF(x, line.top()), shortName(parameter.name, mLayout.nameLength()), style(true));
     } else {
         const QPointF place(x + mLayout.nameLength() * mLayout.character(), line.top());
         const double end = drawColumns(canvas, place, legendNumbers(index));
-        const QString unit = GraphLayout::shortened(parameter.unit, GraphLayout::kLongestName / 2);
+        const QString unit = cutText(parameter.unit, GraphLayout::kLongestName / 2);
         if (!unit.isEmpty())
             canvas.text(QPointF(end, place.y()), QLatin1String(" [") + unit + QLatin1Char(']'), style(false));
     }

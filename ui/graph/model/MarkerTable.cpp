@@ -1,6 +1,7 @@
 #include "ui/graph/model/MarkerTable.h"
 
 #include "ui/canvas/ColourContrast.h"
+#include "ui/canvas/ShortName.h"
 
 #include <QCoreApplication>
 
@@ -66,7 +67,7 @@ void MarkerTable::drawCells(Canvas& canvas, double y, const QStringList& cells, 
     double x = mLayout.table().left() + kSwatch + 6;
     for (const auto& [cell, columnWidth] : mLayout.markerSheet().columns(part)) {
         const double width = columnWidth * mLayout.character();
-        const QString text = cell == MarkerSheet::eName ? GraphLayout::shortened(cells[cell], columnWidth - 1) : cells[cell];
+        const QString text = cell == MarkerSheet::eName ? shortName(cells[cell], columnWidth - 1) : cells[cell];
         CanvasText style = this->style(cell == MarkerSheet::eName);
         const bool isNumber = cell != MarkerSheet::eName && cell != MarkerSheet::eUnit;
         if (isNumber)

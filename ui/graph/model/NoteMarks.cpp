@@ -1,5 +1,7 @@
 #include "ui/graph/model/NoteMarks.h"
 
+#include "ui/canvas/ShortName.h"
+
 #include <array>
 #include <cmath>
 
@@ -38,7 +40,7 @@ void NoteMarks::drawText(Canvas& canvas, const CycleNote& note, double x, double
 {
     const int room = std::min(kMostText, static_cast<int>((end - x - kFlag) / mLayout.character()) - 1);
     if (room >= kLeastText)
-        mLabels.draw(canvas, {QPointF(x + 2, mLayout.plot().bottom() - 2), GraphLayout::shortened(note.text.simplified(), room)},
+        mLabels.draw(canvas, {QPointF(x + 2, mLayout.plot().bottom() - 2), cutText(note.text.simplified(), room)},
                      Qt::AlignLeft | Qt::AlignBottom);
 }
 
