@@ -83,6 +83,12 @@ struct TableSession {
     Project project;
 };
 
+std::size_t heap()
+{
+    const auto info = mallinfo2();
+    return info.uordblks + info.hblkhd;
+}
+
 /// @return milliseconds from the wish to see it to its being painted
 double showFirst(QWidget& window, QAbstractItemView& view)
 {
@@ -129,8 +135,10 @@ void openItems(benchmark::State& state)
 {
     startApplication();
     for (auto _ : state) {
+        const std::size_t before = heap();
         const auto pTable = createItems();
         showFirst(*pTable, *pTable);
+        state.counters["heapMiB"] = static_cast<double>(heap() - before) / 1048576.0;
     }
 }
 
@@ -142,12 +150,6 @@ void scrollItems(benchmark::State& state)
     int step = 0;
     for (auto _ : state)
         scroll(*pTable, step);
-}
-
-std::size_t heap()
-{
-    const auto info = mallinfo2();
-    return info.uordblks + info.hblkhd;
 }
 
 /// From the loaded record to the painted table.

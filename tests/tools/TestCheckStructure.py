@@ -108,9 +108,20 @@ class Violations(unittest.TestCase):
             ('ui/main/A.cpp', 'int a = ZARN::Project::instance ( );', 'Project::instance'),
             ('ui/main/A.cpp', 'int a = mSession.property.getInt(kUnit, 0);', 'app/Settings.h'),
             ('ui/main/A.cpp', 'constexpr TextSetting k = {"Profile", ""};', 'app/Settings.h'),
+            ('report/A.cpp', 'while (chunk < entries.chunkCount())', 'take a Trace'),
+            ('live/A.cpp', 'const QString name = "LOG00001.CAN";', 'suffix'),
+            ('ui/map/A.cpp', 'const QColor ground(30, 34, 40);', 'Palette'),
+            ('ui/map/A.cpp', 'constexpr QRgb kRed = 0xffff0000;', 'Palette'),
         ]:
             with self.subTest(code=code):
                 self.expect(path, '/* a\n' + 'b */ ' + code + '\n', 2, part)
+
+    def test_lists_only_shrink(self):
+        found = findings({'trace/Trace.h': 'constexpr int kRun = 512;\n', 'profile/Threshold.h': 'int a;\n'})
+        unused = [text for path, _, text in found if path == 'tools/check-structure']
+        self.assertTrue(any('profile/Threshold.h' in text for text in unused), unused)
+        self.assertTrue(any('Profile stands' in text for text in unused), unused)
+        self.assertFalse(any('trace/Trace.h' in text for text in unused), unused)
 
     def test_half_classes(self):
         header = '#pragma once\n/// One.\nclass A {\n};\n'

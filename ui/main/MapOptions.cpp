@@ -153,12 +153,20 @@ void MapOptions::connectFields()
         Settings::kMapOffline.set(mSession.property, isOn);
         keep();
     });
+    for (QSpinBox* pBox : {mpZoom, mpSize})
+        connect(pBox, &QSpinBox::editingFinished, this, &MapOptions::keepNumbers);
+}
+
+/// Not with each step: that would be a file, and a walk through all tiles, for each.
+void MapOptions::keepNumbers()
+{
+    bool isChanged = false;
     for (const auto& [pBox, setting] : {std::pair(mpZoom, Settings::kMapHighestZoom), std::pair(mpSize, Settings::kMapCacheSize)}) {
-        connect(pBox, &QSpinBox::valueChanged, this, [this, setting = setting](int value) {
-            setting.set(mSession.property, value);
-            keep();
-        });
+        isChanged |= pBox->value() != setting.get(mSession.property);
+        setting.set(mSession.property, pBox->value());
     }
+    if (isChanged)
+        keep();
 }
 
 void MapOptions::keepText(const QLineEdit& line, const TextSetting& setting)
@@ -218,6 +226,12 @@ void MapOptions::showEvent(QShowEvent* pEvent)
 {
     QWidget::showEvent(pEvent);
     fillUsed();
+}
+
+void MapOptions::hideEvent(QHideEvent* pEvent)
+{
+    keepNumbers(); // a window that is closed leaves no field
+    QWidget::hideEvent(pEvent);
 }
 
 void MapOptions::keep()

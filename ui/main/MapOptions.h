@@ -35,6 +35,7 @@ Q_SIGNALS:
 
 protected:
     void showEvent(QShowEvent* pEvent) override;
+    void hideEvent(QHideEvent* pEvent) override;
 
 private:
     void fillUsed();
@@ -43,6 +44,7 @@ private:
     QWidget* createKept();
     void connectFields();
     void keep();
+    void keepNumbers();
     void keepText(const QLineEdit& line, const TextSetting& setting);
     void slotServer();
     void setPath(const QString& path);
