@@ -1499,12 +1499,12 @@ lag(x, s): x, wie es vor s Sekunden war</translation>
         <translation>Ein virtueller Bus hat nichts, was Telegramme bestätigt.</translation>
     </message>
     <message>
-        <source>A CAN controller confirms each frame that it receives, unless the system has set it to listen only: ip link set can0 type can listen-only on. Where this is ticked, one that confirms is not opened. An engine unit that is alone on its bus needs somebody who confirms.</source>
-        <translation>Ein CAN-Controller bestätigt jedes Telegramm, das er empfängt, außer das System hat ihn auf Zuhören eingestellt: ip link set can0 type can listen-only on. Mit dem Häkchen wird einer, der bestätigt, nicht geöffnet. Ein Motorsteuergerät, das allein an seinem Bus ist, braucht jemanden, der bestätigt.</translation>
-    </message>
-    <message>
         <source>The plugin %1 does not tell whether its interface confirms frames: this cannot be watched, and is set with the tools of the interface.</source>
         <translation>Das Plugin %1 sagt nicht, ob seine Schnittstelle Telegramme bestätigt: Das lässt sich nicht überwachen und wird mit den Werkzeugen der Schnittstelle eingestellt.</translation>
+    </message>
+    <message>
+        <source>A CAN controller confirms each frame that it receives, unless the system has set it to listen only (ip link set can0 type can listen-only on). With the tick one that confirms is not opened. Take it away where the engine unit is alone on its bus.</source>
+        <translation>Ein CAN-Controller bestätigt jedes Telegramm, das er empfängt, außer das System hat ihn auf Zuhören eingestellt (ip link set can0 type can listen-only on). Mit dem Häkchen wird einer, der bestätigt, nicht geöffnet. Nehmen Sie es weg, wo das Motorsteuergerät allein an seinem Bus ist.</translation>
     </message>
 </context>
 <context>
@@ -4379,6 +4379,13 @@ Ersetzen ?</translation>
     <message>
         <source>not known: done at %1 h of %2, please confirm</source>
         <translation>unbekannt: erledigt bei %1 h von %2, bitte bestätigen</translation>
+    </message>
+    <message numerus="yes">
+        <source>The unit&apos;s clock went back from one recording to the next, so that dates, and what is due by them, may be wrong: %n time(s)</source>
+        <translation>
+            <numerusform>Die Uhr des Geräts sprang von einer Aufzeichnung zur nächsten zurück, sodass Daten, und was nach ihnen fällig ist, falsch sein können: %n Mal</numerusform>
+            <numerusform>Die Uhr des Geräts sprang von einer Aufzeichnung zur nächsten zurück, sodass Daten, und was nach ihnen fällig ist, falsch sein können: %n Mal</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -132,6 +132,13 @@
             <numerusform>%1 (%n cycles do not tell)</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>The unit&apos;s clock went back from one recording to the next, so that dates, and what is due by them, may be wrong: %n time(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ZARN::LogbookTrends</name>

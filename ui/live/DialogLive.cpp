@@ -7,6 +7,7 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDir>
+#include <QEvent>
 #include <QFileDialog>
 #include <QFormLayout>
 #include <QHBoxLayout>
@@ -16,6 +17,8 @@
 #include <QPushButton>
 #include <QSpinBox>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace ZARN {
 
@@ -100,6 +103,15 @@ void DialogLive::ask(bool isOpen)
     activateWindow();
 }
 
+/// Texts of any length are whole.
+bool DialogLive::event(QEvent* pEvent)
+{
+    const bool isTaken = QDialog::event(pEvent);
+    if (pEvent->type() == QEvent::LayoutRequest && isVisible())
+        resize(width(), std::max(height(), layout()->totalHeightForWidth(width())));
+    return isTaken;
+}
+
 void DialogLive::fill()
 {
     QString problem; // of what was chosen last, which the user sees
@@ -143,9 +155,9 @@ QString DialogLive::confirmingText() const
     if (address.isVirtual())
         return tr("A virtual bus has nothing that confirms frames.");
     if (address.plugin == "socketcan")
-        return tr("A CAN controller confirms each frame that it receives, unless the system has set it to listen only: "
-                  "ip link set can0 type can listen-only on. Where this is ticked, one that confirms is not opened. "
-                  "An engine unit that is alone on its bus needs somebody who confirms.");
+        return tr("A CAN controller confirms each frame that it receives, unless the system has set it to listen only "
+                  "(ip link set can0 type can listen-only on). With the tick one that confirms is not opened. "
+                  "Take it away where the engine unit is alone on its bus.");
     return tr("The plugin %1 does not tell whether its interface confirms frames: this cannot be watched, and is set "
               "with the tools of the interface.").arg(address.plugin);
 }

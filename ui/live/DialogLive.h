@@ -30,6 +30,9 @@ Q_SIGNALS:
     void signalConnect(const ZARN::LiveWish& wish);
     void signalDisconnect();
 
+protected:
+    bool event(QEvent* pEvent) override;
+
 private:
     void createRows();
     void fill();

@@ -139,6 +139,7 @@ QWidget* MapOptions::createKept()
     pRow->addWidget(mpUsed, 1);
     pRow->addWidget(pEmpty);
     auto* pForm = new QFormLayout(pGroup);
+    mpSize->setObjectName("tilesSize");
     pForm->addRow(tr("At most :"), mpSize);
     pForm->addRow(pRow);
     return pGroup;

@@ -197,6 +197,12 @@ void TestPreferences::mapTiles()
     QVERIFY(pTiles->isEnabled() && dialog.findChild<QLabel*>("tileServer")->text().contains("tiles.example.net"));
     dialog.findChild<QCheckBox*>("tilesOffline")->click();
     QVERIFY(desktop.property.getSwitch("MapOffline", false) && changed.size() == 4);
+    auto* pSize = dialog.findChild<QSpinBox*>("tilesSize");
+    pSize->setValue(16);
+    pSize->stepUp();
+    QVERIFY(changed.size() == 4 && desktop.property.getString("MapCacheSize", "none") == "none"); // no file a step
+    Q_EMIT pSize->editingFinished();
+    QVERIFY(changed.size() == 5 && desktop.property.getInt("MapCacheSize", 0) == 17);
     dialog.findChild<QPushButton*>("tilesEmpty")->click();
     QVERIFY(!QFile::exists(former + "/2.tile"));
 }
