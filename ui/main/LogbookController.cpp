@@ -20,7 +20,7 @@
 #include "ui/main/MainActions.h"
 #include "ui/main/MainCommands.h"
 #include "ui/main/MainPanels.h"
-#include "ui/main/NormalController.h"
+#include "ui/main/NormalRangeController.h"
 #include "ui/main/Notices.h"
 #include "ui/main/OverviewController.h"
 #include "ui/overview/DialogOverview.h"
@@ -86,7 +86,7 @@ LogbookController::LogbookController(const Session& session, const Parts& parts,
     connect(&mParts.cards, &CardController::signalFolderChanged, this, &LogbookController::slotCard, Qt::QueuedConnection);
     connect(&mParts.cards, &CardController::signalCancelled, this, [this] { mWanted.reset(); });
     connect(&mParts.record, &RecordSession::recordChanged, this, &LogbookController::slotRecord);
-    new NormalController(session, mParts.record, *mpWorker, this);
+    new NormalRangeController(session, mParts.record, *mpWorker, this);
 }
 
 LogbookController::~LogbookController()

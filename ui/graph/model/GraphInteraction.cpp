@@ -2,7 +2,7 @@
 
 #include "ui/graph/model/CourseBand.h"
 #include "ui/graph/model/CursorLabels.h"
-#include "ui/graph/model/KeyHand.h"
+#include "ui/graph/model/KeyInteraction.h"
 
 #include <algorithm>
 #include <cmath>
@@ -33,7 +33,7 @@ bool GraphInteraction::keyPressed(int key, Qt::KeyboardModifiers modifiers)
     default: break;
     }
     if (const GraphKey* pKey = GraphKey::find(key, modifiers)) {
-        KeyHand(mModel, mLayout, mShift || modifiers.testFlag(Qt::ShiftModifier) ? kFastKey : 1.0).press(*pKey);
+        KeyInteraction(mModel, mLayout, mShift || modifiers.testFlag(Qt::ShiftModifier) ? kFastKey : 1.0).press(*pKey);
         return true;
     }
     return false;

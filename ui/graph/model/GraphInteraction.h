@@ -1,8 +1,8 @@
 #pragma once
 
-#include "ui/graph/model/AxisHand.h"
-#include "ui/graph/model/MarkerHand.h"
-#include "ui/graph/model/StripHand.h"
+#include "ui/graph/model/AxisInteraction.h"
+#include "ui/graph/model/MarkerInteraction.h"
+#include "ui/graph/model/StripInteraction.h"
 
 #include <optional>
 
@@ -77,9 +77,9 @@ private:
     QPointF mPointer;
     double mPointerTime = 0.0;
     Pan mPan;
-    AxisHand mAxis;
-    StripHand mStrip;
-    MarkerHand mMarker;
+    AxisInteraction mAxis;
+    StripInteraction mStrip;
+    MarkerInteraction mMarker;
     int mDragged = -1;                // parameter whose strip is dragged
     std::optional<QPointF> mClick;    // where the button went down, as long as it may still become a click
     std::optional<double> mGhostDrag; // the ghost's shift less the time under the pointer

@@ -3,7 +3,7 @@
 #include "project/Session.h"
 #include "ui/graph/model/GhostCycle.h"
 #include "ui/graph/model/GraphModel.h"
-#include "ui/graph/model/RecordNormal.h"
+#include "ui/graph/model/RecordNormalRange.h"
 
 #include <functional>
 
@@ -33,7 +33,7 @@ public:
     bool alignEngineStart();
 
     /// Where earlier flights lay.
-    [[nodiscard]] RecordNormal& normal() { return mNormal; }
+    [[nodiscard]] RecordNormalRange& normal() { return mNormal; }
 
     /// The slots show other traces. @param isWanted whether there is a record to compare with
     void fill(bool isWanted);
@@ -50,7 +50,7 @@ private:
     const Session mSession;
     GraphModel& mModel;
     ForEach mForEach;
-    RecordNormal mNormal;
+    RecordNormalRange mNormal;
     std::shared_ptr<const GhostCycle> mpCycle;
     std::optional<int> mFlight; ///< the flight of the ghost whose take-off was laid on ours
     double mTakeOff = 0.0;      ///< ours then

@@ -1,7 +1,7 @@
-#include "ui/graph/model/KeyHand.h"
+#include "ui/graph/model/KeyInteraction.h"
 
-#include "ui/graph/model/MarkerHand.h"
-#include "ui/graph/model/StripHand.h"
+#include "ui/graph/model/MarkerInteraction.h"
+#include "ui/graph/model/StripInteraction.h"
 #include "ui/graph/model/ValueZoom.h"
 
 #include <algorithm>
@@ -9,15 +9,15 @@
 
 namespace ZARN {
 
-void KeyHand::press(const GraphKey& key)
+void KeyInteraction::press(const GraphKey& key)
 {
     const double pixels = key.amount * mStep;
     switch (key.action) {
     case EGraphKey::eCursorTime: moveCursor(pixels); break;
     case EGraphKey::eCursorValue: moveValue(pixels); break;
     case EGraphKey::eMarkerStart:
-    case EGraphKey::eMarkerEnd: MarkerHand(mModel).moveEnd(mLayout, key.action == EGraphKey::eMarkerStart, pixels); break;
-    case EGraphKey::eNoMarker: MarkerHand(mModel).clear(); break;
+    case EGraphKey::eMarkerEnd: MarkerInteraction(mModel).moveEnd(mLayout, key.action == EGraphKey::eMarkerStart, pixels); break;
+    case EGraphKey::eNoMarker: MarkerInteraction(mModel).clear(); break;
     case EGraphKey::ePan: pan(key.amount); break;
     case EGraphKey::eEdge: showEdge(key.amount > 0); break;
     case EGraphKey::eZoomTime: zoomTime(key.amount); break;
@@ -25,14 +25,14 @@ void KeyHand::press(const GraphKey& key)
     case EGraphKey::eZoomValues: zoomValues(key.amount); break;
     case EGraphKey::eChoose: choose(static_cast<int>(key.amount)); break;
     case EGraphKey::eMoveStrip: moveStrip(static_cast<int>(key.amount)); break;
-    case EGraphKey::eStripHeight: StripHand(mModel).scale(chosen(), key.amount); break;
+    case EGraphKey::eStripHeight: StripInteraction(mModel).scale(chosen(), key.amount); break;
     case EGraphKey::eGhost: moveGhost(key.amount); break;
     case EGraphKey::eScroll: scroll(static_cast<int>(key.amount)); break;
     case EGraphKey::eCommand: Q_EMIT mModel.signalCommand(static_cast<int>(key.amount)); break;
     }
 }
 
-int KeyHand::chosen() const
+int KeyInteraction::chosen() const
 {
     const ShownTraces& traces = mModel.traces();
     if (traces.highlighted() >= 0 || mModel.settings().displayMode != eSplit)
@@ -40,14 +40,14 @@ int KeyHand::chosen() const
     return isShown(traces, mModel.cursor().strip) ? mModel.cursor().strip : traces.axis();
 }
 
-void KeyHand::moveCursor(double pixels)
+void KeyInteraction::moveCursor(double pixels)
 {
     mModel.setCursorMoving(true);
     mModel.moveCursor(mModel.cursor().time + pixels / mLayout.pixelsPerSecond(), mModel.cursor().value, mModel.cursor().strip);
     mModel.setWindow(mModel.window().keeping(mModel.cursor().time));
 }
 
-void KeyHand::moveValue(double pixels)
+void KeyInteraction::moveValue(double pixels)
 {
     const bool isSplit = mModel.settings().displayMode == eSplit;
     int index = isSplit ? mModel.cursor().strip : mModel.traces().axis();
@@ -67,7 +67,7 @@ void KeyHand::moveValue(double pixels)
     mModel.moveCursor(mModel.cursor().time, value, isSplit ? index : mModel.cursor().strip);
 }
 
-void KeyHand::zoomTime(double factor)
+void KeyInteraction::zoomTime(double factor)
 {
     const TimeWindow& window = mModel.window();
     const double cursor = mModel.cursor().time;
@@ -75,13 +75,13 @@ void KeyHand::zoomTime(double factor)
     mModel.setWindow(window.zoomedAbout(window.contains(cursor) ? cursor : (window.begin() + window.end()) / 2, factor));
 }
 
-void KeyHand::pan(double part)
+void KeyInteraction::pan(double part)
 {
     mModel.takeOverTime();
     mModel.setWindow(mModel.window().movedBy(part * mModel.window().width()));
 }
 
-void KeyHand::showEdge(bool isEnd)
+void KeyInteraction::showEdge(bool isEnd)
 {
     ValueRange<double> span;
     for (const int index : mModel.traces().shown()) {
@@ -95,20 +95,20 @@ void KeyHand::showEdge(bool isEnd)
     mModel.setWindow(isEnd ? mModel.window().endingAt(span.greatest) : mModel.window().startingAt(span.least));
 }
 
-void KeyHand::zoomValues(double factor)
+void KeyInteraction::zoomValues(double factor)
 {
     const ValueSpan span = mModel.valueSpan(chosen());
     ValueZoom(mModel).zoom(chosen(), span[0] + (span[1] - span[0]) / 2, factor);
 }
 
-int KeyHand::neighbour(int step) const
+int KeyInteraction::neighbour(int step) const
 {
     const std::vector<int>& shown = mModel.traces().shown();
     const auto place = std::ranges::find(shown, chosen()) - shown.begin() + step;
     return place >= 0 && place < std::ssize(shown) ? shown[static_cast<std::size_t>(place)] : -1;
 }
 
-void KeyHand::choose(int step)
+void KeyInteraction::choose(int step)
 {
     ShownTraces& traces = mModel.traces();
     const int next = traces.highlighted() < 0 ? chosen() : neighbour(step); // the first time the one that it is now
@@ -127,18 +127,18 @@ void KeyHand::choose(int step)
     show(row, mModel.settings().firstLegendRow, mLayout.legendRows());
 }
 
-void KeyHand::moveStrip(int step)
+void KeyInteraction::moveStrip(int step)
 {
-    StripHand(mModel).moveTo(chosen(), neighbour(step));
+    StripInteraction(mModel).moveTo(chosen(), neighbour(step));
 }
 
-void KeyHand::moveGhost(double pixels)
+void KeyInteraction::moveGhost(double pixels)
 {
     if (mModel.scenery().ghost())
         mModel.scenery().setGhostShift(mModel.scenery().ghostShift() + pixels / mLayout.pixelsPerSecond());
 }
 
-void KeyHand::scroll(int pages)
+void KeyInteraction::scroll(int pages)
 {
     const bool isTable = mLayout.markerSheet().visible().isCut();
     const VisibleRows& rows = isTable ? mLayout.markerSheet().visible() : mLayout.legendRows();

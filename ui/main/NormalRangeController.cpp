@@ -1,4 +1,4 @@
-#include "ui/main/NormalController.h"
+#include "ui/main/NormalRangeController.h"
 
 #include "app/FileName.h"
 #include "card/CardContainer.h"
@@ -12,14 +12,14 @@
 
 namespace ZARN {
 
-NormalController::NormalController(const Session& session, RecordSession& record, LogbookWorker& worker, QObject* pParent)
+NormalRangeController::NormalRangeController(const Session& session, RecordSession& record, LogbookWorker& worker, QObject* pParent)
     : QObject(pParent), mSession(session), mRecord(record), mWorker(worker)
 {
-    connect(&mRecord, &RecordSession::recordChanged, this, &NormalController::slotRecord);
-    connect(&mWorker, &LogbookWorker::signalChanged, this, &NormalController::ask);
+    connect(&mRecord, &RecordSession::recordChanged, this, &NormalRangeController::slotRecord);
+    connect(&mWorker, &LogbookWorker::signalChanged, this, &NormalRangeController::ask);
 }
 
-void NormalController::slotRecord()
+void NormalRangeController::slotRecord()
 {
     const unsigned version = mRecord.version().record + mRecord.version().flights;
     if (std::exchange(mShown, version) == version)
@@ -28,7 +28,7 @@ void NormalController::slotRecord()
     ask();
 }
 
-void NormalController::ask()
+void NormalRangeController::ask()
 {
     ++mAsked;
     const CardContainer& card = mSession.container;

@@ -6,10 +6,10 @@
 namespace ZARN {
 
 /// Does in a graph what its keys mean.
-class KeyHand {
+class KeyInteraction {
 public:
     /// @param layout of the frame that the user sees  @param step of what moves by pixels: 1, or more where it goes fast
-    KeyHand(GraphModel& model, const GraphLayout& layout, double step) : mModel(model), mLayout(layout), mStep(step) {}
+    KeyInteraction(GraphModel& model, const GraphLayout& layout, double step) : mModel(model), mLayout(layout), mStep(step) {}
 
     void press(const GraphKey& key);
     /// The trace that the keys for values are for: the one that stands out, else that of the cursor's strip or of the axis; -1 for none.

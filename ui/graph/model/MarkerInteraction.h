@@ -5,11 +5,11 @@
 namespace ZARN {
 
 /// Sets the marker: drags it open, takes one of its ends, moves an end by pixels. Tells of it with the signal of the model.
-class MarkerHand {
+class MarkerInteraction {
 public:
     static constexpr double kReach = 4.0; ///< pixels beside an end
 
-    explicit MarkerHand(GraphModel& model) : mModel(model) {}
+    explicit MarkerInteraction(GraphModel& model) : mModel(model) {}
 
     /// Whether an end of the marker lies there.
     [[nodiscard]] bool isEnd(const GraphLayout& layout, const QPointF& point) const;

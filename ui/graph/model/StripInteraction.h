@@ -5,9 +5,9 @@
 namespace ZARN {
 
 /// Makes strips higher and lower, and moves them past each other. Tells of it with the signals of the model.
-class StripHand {
+class StripInteraction {
 public:
-    explicit StripHand(GraphModel& model) : mModel(model) {}
+    explicit StripInteraction(GraphModel& model) : mModel(model) {}
 
     /// The strip whose lower edge can be taken there, left of the plot; -1 for none.
     [[nodiscard]] int edgeAt(const GraphLayout& layout, const QPointF& point) const;

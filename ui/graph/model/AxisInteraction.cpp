@@ -1,10 +1,10 @@
-#include "ui/graph/model/AxisHand.h"
+#include "ui/graph/model/AxisInteraction.h"
 
 #include "ui/graph/model/ValueZoom.h"
 
 namespace ZARN {
 
-bool AxisHand::press(const GraphLayout& layout, const QPointF& point)
+bool AxisInteraction::press(const GraphLayout& layout, const QPointF& point)
 {
     mIndex = axisAt(layout, point);
     if (mIndex < 0)
@@ -15,14 +15,14 @@ bool AxisHand::press(const GraphLayout& layout, const QPointF& point)
     return true;
 }
 
-void AxisHand::move(const QPointF& point)
+void AxisInteraction::move(const QPointF& point)
 {
     const double way = (point.y() - mStart) / mHeight * (mSpan[1] - mSpan[0]);
     if (isOn() && way != 0.0)
         ValueZoom(mModel).set(mIndex, {mSpan[0] + way, mSpan[1] + way});
 }
 
-bool AxisHand::zoom(const GraphLayout& layout, const QPointF& point, double factor)
+bool AxisInteraction::zoom(const GraphLayout& layout, const QPointF& point, double factor)
 {
     const int index = axisAt(layout, point);
     if (index < 0)
@@ -31,7 +31,7 @@ bool AxisHand::zoom(const GraphLayout& layout, const QPointF& point, double fact
     return true;
 }
 
-bool AxisHand::toggleFit(const GraphLayout& layout, const QPointF& point)
+bool AxisInteraction::toggleFit(const GraphLayout& layout, const QPointF& point)
 {
     const int index = axisAt(layout, point);
     ValueZoom(mModel).toggleFit(index);

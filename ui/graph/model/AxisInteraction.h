@@ -5,9 +5,9 @@
 namespace ZARN {
 
 /// The pointer on a value axis: has its trace show other values. The wheel zooms, dragging moves, a double click fits.
-class AxisHand {
+class AxisInteraction {
 public:
-    explicit AxisHand(GraphModel& model) : mModel(model) {}
+    explicit AxisInteraction(GraphModel& model) : mModel(model) {}
 
     // These return whether an axis lies there.
     bool press(const GraphLayout& layout, const QPointF& point);

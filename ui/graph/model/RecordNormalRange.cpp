@@ -1,4 +1,4 @@
-#include "ui/graph/model/RecordNormal.h"
+#include "ui/graph/model/RecordNormalRange.h"
 
 #include "app/Property.h"
 #include "app/Settings.h"
@@ -9,13 +9,13 @@
 
 namespace ZARN {
 
-void RecordNormal::set(std::vector<NormalBand> bands)
+void RecordNormalRange::set(std::vector<NormalBand> bands)
 {
     mBands = std::move(bands);
     fill();
 }
 
-void RecordNormal::setOn(bool on)
+void RecordNormalRange::setOn(bool on)
 {
     mModel.settings().normalOn = on;
     Settings::kGraphNormal.set(mProperty, on);
@@ -23,13 +23,13 @@ void RecordNormal::setOn(bool on)
     fill();
 }
 
-void RecordNormal::setCourse(const std::shared_ptr<const CycleCourse>& pCourse)
+void RecordNormalRange::setCourse(const std::shared_ptr<const CycleCourse>& pCourse)
 {
     mModel.scenery().setCourse(pCourse);
     fill();
 }
 
-void RecordNormal::fill()
+void RecordNormalRange::fill()
 {
     const CycleCourse* pCourse = mModel.settings().normalOn ? mModel.scenery().course().get() : nullptr;
     mForEach([&](int slot, const Trace& trace) {

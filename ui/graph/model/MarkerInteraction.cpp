@@ -1,18 +1,18 @@
-#include "ui/graph/model/MarkerHand.h"
+#include "ui/graph/model/MarkerInteraction.h"
 
 #include <algorithm>
 #include <cmath>
 
 namespace ZARN {
 
-bool MarkerHand::isEnd(const GraphLayout& layout, const QPointF& point) const
+bool MarkerInteraction::isEnd(const GraphLayout& layout, const QPointF& point) const
 {
     const auto [start, end] = mModel.marker();
     const auto distance = [&](double time) { return std::abs(layout.xOf(time) - point.x()); };
     return mModel.marker().isRange() && layout.plot().contains(point) && std::min(distance(start), distance(end)) < kReach;
 }
 
-bool MarkerHand::take(const GraphLayout& layout, const QPointF& point)
+bool MarkerInteraction::take(const GraphLayout& layout, const QPointF& point)
 {
     if (!isEnd(layout, point))
         return false;
@@ -22,14 +22,14 @@ bool MarkerHand::take(const GraphLayout& layout, const QPointF& point)
     return true;
 }
 
-void MarkerHand::begin(double time)
+void MarkerInteraction::begin(double time)
 {
     mIsOn = true;
     mFixed = time;
     move(time);
 }
 
-void MarkerHand::release()
+void MarkerInteraction::release()
 {
     mModel.setMarker(mModel.marker().ordered());
     if (mIsOn && mModel.marker().isRange())
@@ -37,13 +37,13 @@ void MarkerHand::release()
     mIsOn = false;
 }
 
-void MarkerHand::extend(double time)
+void MarkerInteraction::extend(double time)
 {
     mModel.setMarker(mModel.marker().extendedTo(time));
     send();
 }
 
-void MarkerHand::moveEnd(const GraphLayout& layout, bool isStart, double pixels)
+void MarkerInteraction::moveEnd(const GraphLayout& layout, bool isStart, double pixels)
 {
     GraphMarker marker = mModel.marker();
     if (marker == GraphMarker())
@@ -57,14 +57,14 @@ void MarkerHand::moveEnd(const GraphLayout& layout, bool isStart, double pixels)
     send();
 }
 
-void MarkerHand::clear()
+void MarkerInteraction::clear()
 {
     mIsOn = false;
     mModel.setMarker({});
     send();
 }
 
-void MarkerHand::send()
+void MarkerInteraction::send()
 {
     Q_EMIT mModel.signalMarker(static_cast<float>(mModel.marker().start), static_cast<float>(mModel.marker().end));
 }

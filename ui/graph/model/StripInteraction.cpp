@@ -1,4 +1,4 @@
-#include "ui/graph/model/StripHand.h"
+#include "ui/graph/model/StripInteraction.h"
 
 #include "project/DisplayLayout.h"
 
@@ -14,7 +14,7 @@ constexpr double kLeast = DisplayLayout::kLeastHeight, kGreatest = DisplayLayout
 
 } // namespace
 
-int StripHand::edgeAt(const GraphLayout& layout, const QPointF& point) const
+int StripInteraction::edgeAt(const GraphLayout& layout, const QPointF& point) const
 {
     const std::vector<int>& shown = mModel.traces().shown();
     if (mModel.settings().displayMode != eSplit || point.x() < 0 || point.x() >= layout.plot().left())
@@ -26,7 +26,7 @@ int StripHand::edgeAt(const GraphLayout& layout, const QPointF& point) const
     return -1;
 }
 
-bool StripHand::press(const GraphLayout& layout, const QPointF& point)
+bool StripInteraction::press(const GraphLayout& layout, const QPointF& point)
 {
     const std::vector<int>& shown = mModel.traces().shown();
     mUpper = edgeAt(layout, point);
@@ -40,7 +40,7 @@ bool StripHand::press(const GraphLayout& layout, const QPointF& point)
     return true;
 }
 
-void StripHand::move(const QPointF& point)
+void StripInteraction::move(const QPointF& point)
 {
     if (!isOn())
         return;
@@ -50,19 +50,19 @@ void StripHand::move(const QPointF& point)
     setHeight(mLower, mBoth - height);
 }
 
-void StripHand::setHeight(int index, double strips)
+void StripInteraction::setHeight(int index, double strips)
 {
     mModel.traces().edit(index, [strips](GraphParameter& trace) { trace.height = strips; });
 }
 
-void StripHand::release()
+void StripInteraction::release()
 {
     if (isOn())
         Q_EMIT mModel.signalStrips();
     mUpper = -1;
 }
 
-bool StripHand::moveTo(int index, int target)
+bool StripInteraction::moveTo(int index, int target)
 {
     if (!mModel.traces().move(index, target))
         return false;
@@ -70,7 +70,7 @@ bool StripHand::moveTo(int index, int target)
     return true;
 }
 
-void StripHand::scale(int index, double factor)
+void StripInteraction::scale(int index, double factor)
 {
     if (!isShown(mModel.traces(), index))
         return;

@@ -11,12 +11,12 @@ class RecordSession;
 
 /// Asks the logbook where the parameters of the loaded cycle lay in earlier flights of its engine, and tells the record. Owned by the logbook's
 /// controller.
-class NormalController : public QObject {
+class NormalRangeController : public QObject {
     Q_OBJECT
 
 public:
     /// What it is given outlives it.
-    NormalController(const Session& session, RecordSession& record, LogbookWorker& worker, QObject* pParent);
+    NormalRangeController(const Session& session, RecordSession& record, LogbookWorker& worker, QObject* pParent);
 
 private:
     void slotRecord();

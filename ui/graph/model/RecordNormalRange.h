@@ -13,12 +13,12 @@ class Trace;
 
 /// Where the parameters of a record lay in earlier flights of its engine: fills the slots of a graph with it while the user wants to see it.
 /// Graph and settings are not owned.
-class RecordNormal {
+class RecordNormalRange {
 public:
     /// Calls for each trace that has a slot.
     using ForEach = std::function<void(const std::function<void(int slot, const Trace& trace)>& visit)>;
 
-    RecordNormal(Property& property, GraphModel& model, ForEach forEach) : mProperty(property), mModel(model), mForEach(std::move(forEach))
+    RecordNormalRange(Property& property, GraphModel& model, ForEach forEach) : mProperty(property), mModel(model), mForEach(std::move(forEach))
     {
     }
 
