@@ -9,6 +9,7 @@ namespace ZARN {
 namespace {
 
 constexpr qsizetype kShortest = 2; // characters of a word that was cut
+constexpr qsizetype kMost = 100;   // characters that are looked at: a profile may have names of any length
 
 /// What may still be taken from a word.
 qsizetype spare(const QString& word)
@@ -20,7 +21,9 @@ qsizetype spare(const QString& word)
 
 QString shortName(const QString& name, const std::function<bool(const QString&)>& fits)
 {
-    QStringList words = name.split(' ');
+    if (fits(name))
+        return name;
+    QStringList words = name.left(kMost).split(' ');
     while (!fits(words.join(' '))) {
         QString& longest = *std::ranges::max_element(words, {}, spare);
         if (spare(longest) <= 0)

@@ -30,6 +30,7 @@ private Q_SLOTS:
         QCOMPARE(shortName("Engine Speed A", 4), QString("Eng\u2026"));
         QCOMPARE(shortName("Engine", 0), QString("\u2026"));
         QCOMPARE(shortName({}, 0), QString());
+        QCOMPARE(shortName(QString(1'000'000, 'x'), 4).size(), 4); // at once
         QCOMPARE(shortName("a  b", [](const QString&) { return false; }), QString());
         QCOMPARE(cutText("12345", 5), QString("12345"));
         QCOMPARE(cutText("123456", 5), QString("1234\u2026"));
