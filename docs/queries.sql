@@ -17,19 +17,24 @@ compared AS (
     FROM ranked GROUP BY engine_id)
 SELECT engine_id, latest, low, high FROM compared WHERE flights = 25 AND (latest < low OR latest > high) ORDER BY engine_id;
 
--- 2. How many hours has each engine run since its manifold pressure was last above the limit? Cycles whose unit had no clock are in neither.
+-- 2. How many hours has each engine run since its manifold pressure was last above the limit? Of that cycle itself what lies behind it counts, as
+-- far as the engine ran at all. Cycles whose unit had no clock are in neither.
 WITH overboost AS (
-    SELECT engine_id, max(cycle.date_time) AS last_time
+    SELECT engine_id, cycle.date_time AS last_time, engine_running AS running, cycle.end_time - max(episode.end_time) AS behind,
+        row_number() OVER (PARTITION BY engine_id ORDER BY cycle.date_time DESC) AS back
     FROM episode JOIN cycle USING (cycle_id)
     WHERE kind = 'limit' AND side = 'high' AND state = 2 AND incident_id IS NOT NULL AND parameter LIKE 'Manifold Pressure%'
-    GROUP BY engine_id)
-SELECT overboost.engine_id, last_time, coalesce(sum(engine_running), 0) / 3600 AS hours_since
+        AND cycle.date_time IS NOT NULL
+    GROUP BY engine_id, cycle_id, cycle.date_time, engine_running, cycle.end_time)
+SELECT overboost.engine_id, last_time,
+    (CASE WHEN running < behind THEN running ELSE behind END + coalesce(sum(engine_running), 0)) / 3600 AS hours_since
 FROM overboost LEFT JOIN cycle ON cycle.engine_id = overboost.engine_id AND cycle.date_time > last_time
-GROUP BY overboost.engine_id, last_time ORDER BY hours_since, overboost.engine_id;
+WHERE back = 1 GROUP BY overboost.engine_id, last_time, running, behind ORDER BY hours_since, overboost.engine_id;
 
--- 3. How much fuel does a tow take, month by month?
-SELECT substr(date_time, 1, 7) AS month, count(*) AS tows, avg(total_fuel) AS litres_a_tow, sum(total_fuel) AS litres
-FROM flight WHERE date_time IS NOT NULL GROUP BY substr(date_time, 1, 7) ORDER BY month;
+-- 3. How much fuel does a tow take, month by month? Where a cycle tells no fuel, its tows are counted and not averaged.
+SELECT substr(flight.date_time, 1, 7) AS month, count(*) AS tows, count(fuel) AS tows_with_fuel,
+    avg(CASE WHEN fuel IS NOT NULL THEN total_fuel END) AS litres_a_tow, sum(CASE WHEN fuel IS NOT NULL THEN total_fuel END) AS litres
+FROM flight JOIN cycle USING (cycle_id) WHERE flight.date_time IS NOT NULL GROUP BY substr(flight.date_time, 1, 7) ORDER BY month;
 
 -- 4. What has each engine done?
 SELECT engine_id, count(*) AS cycles, sum(engine_running) / 3600 AS engine_hours, sum(flight_time) / 3600 AS flight_hours, sum(fuel) AS litres,

@@ -4,6 +4,7 @@
 #include "store/PlacedFlights.h"
 
 #include <algorithm>
+#include <cmath>
 #include <numeric>
 #include <set>
 #include <tuple>
@@ -245,6 +246,7 @@ LogbookTotals LogbookIndex::totals(const std::vector<std::size_t>& places) const
         const Flight& flight = mFlights[place];
         totals.flightTime += flight.flightTime;
         add(totals.fuel, flight.fuel);
+        totals.flightsWithoutFuel += std::isnan(flight.fuel);
         if (isCounted[flight.cycle])
             continue;
         isCounted[flight.cycle] = true;

@@ -26,6 +26,7 @@ struct LogbookTotals {
     double flightTime = 0.0;           ///< seconds
     std::optional<double> running;     ///< seconds in which the engine ran, in the cycles of these flights; none where none tells it
     std::optional<double> fuel;        ///< none where none tells it
+    std::size_t flightsWithoutFuel = 0;  ///< flights that do not tell it
     std::size_t cyclesWithoutEngine = 0; ///< cycles that do not tell whether it ran
 };
 

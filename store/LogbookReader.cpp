@@ -106,9 +106,10 @@ std::vector<LogbookEngine> LogbookReader::engines()
     Statement& found = mDatabase.prepared(
         // In the order of the file: by engine the pages of a large one would be read again and again.
         "WITH totals AS MATERIALIZED (SELECT engine_id, total(engine_running) AS running, count(*) - count(engine_running) AS unknown, "
+        "total(CASE WHEN engine_running IS NULL THEN max(end_time - start_time, 0) END) AS unknown_time, "
         "sum((SELECT count(*) FROM flight WHERE flight.cycle_id = cycle.cycle_id)) AS flights FROM cycle NOT INDEXED GROUP BY engine_id) "
         "SELECT engine_id, aircraft.name, engine_type, engine_serial IS NOT NULL, running, unknown, "
-        "EXISTS (SELECT 1 FROM problem JOIN card USING (card_id) WHERE file = engine.engine_id AND path = ?1), flights "
+        "EXISTS (SELECT 1 FROM problem JOIN card USING (card_id) WHERE file = engine.engine_id AND path = ?1), flights, unknown_time "
         "FROM engine LEFT JOIN aircraft USING (engine_id) LEFT JOIN totals USING (engine_id) "
         "WHERE engine_id NOT IN (SELECT engine_id FROM engine_merge) ORDER BY aircraft.name IS NULL, aircraft.name, engine_id");
     found.with({kLossPath});
@@ -122,6 +123,7 @@ std::vector<LogbookEngine> LogbookReader::engines()
         engine.unknownCycles = static_cast<std::size_t>(found.integer(5));
         engine.isLossy = found.integer(6) != 0;
         engine.flights = static_cast<std::size_t>(found.integer(7));
+        engine.unknownTime = found.real(8);
     }
     takeCopies(engines);
     for (LogbookEngine& engine : engines) {
@@ -162,6 +164,8 @@ void LogbookReader::takeCopies(std::vector<LogbookEngine>& engines)
             engine.running -= *copy.running - copy.counted.value_or(0.0);
         else
             engine.unknownCycles -= std::min<std::size_t>(engine.unknownCycles, 1);
+        if (engine.unknownCycles == 0)
+            engine.unknownTime = 0.0;
     }
 }
 

@@ -5,6 +5,7 @@
 #include "store/Service.h"
 #include "store/StoreReader.h"
 
+#include <limits>
 #include <span>
 
 namespace ZARN {
@@ -36,6 +37,7 @@ struct LogbookEngine {
     std::size_t flights = 0;
     double running = 0.0;                 ///< seconds in all its recordings, each once
     std::size_t unknownCycles = 0;        ///< that do not tell whether it ran
+    double unknownTime = 0.0;             ///< seconds that these lasted
     RecordingCopies::Engine recordings;
     std::size_t clockBacks = 0;           ///< how often a card's next recording began before the one ahead of it had ended
     std::optional<double> hoursBefore;    ///< typed: before the first recording
@@ -47,6 +49,8 @@ struct LogbookEngine {
 
     /// Hours before the first recording and those that it ran since.
     [[nodiscard]] double hours() const { return hoursBefore.value_or(0.0) + running / 3600; }
+    /// Hours that it may have run besides.
+    [[nodiscard]] double uncounted() const { return isLossy ? std::numeric_limits<double>::infinity() : unknownTime / 3600; }
 };
 
 /// A note with what it is about.

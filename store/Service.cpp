@@ -6,7 +6,7 @@
 
 namespace ZARN {
 
-ServiceDue dueOf(const Service& service, std::optional<double> hours, const QDate& today, bool isLossy)
+ServiceDue dueOf(const Service& service, std::optional<double> hours, const QDate& today, double uncounted)
 {
     ServiceDue due;
     if (service.everyHours && service.doneHours && service.isOfOtherCount) {
@@ -16,10 +16,10 @@ ServiceDue dueOf(const Service& service, std::optional<double> hours, const QDat
         due.knownHours = hours;
         due.state = ServiceDue::eInDoubt;
     } else if (service.everyHours && hours) { // one that was never done is due from the engine's first hour on
-        due.isAtMost = isLossy;
+        due.isAtMost = uncounted > ServiceDue::kRounded;
         due.hoursLeft = service.doneHours.value_or(0.0) + *service.everyHours - *hours;
         due.state = *due.hoursLeft <= 0 ? ServiceDue::eOverdue : *due.hoursLeft <= ServiceDue::kSoonHours ? ServiceDue::eSoon : ServiceDue::eFine;
-        if (isLossy)
+        if (*due.hoursLeft <= uncounted)
             due.state = std::max(due.state, ServiceDue::eInDoubt);
     }
     if (service.everyMonths && service.doneDate.isValid()) {
@@ -27,15 +27,17 @@ ServiceDue dueOf(const Service& service, std::optional<double> hours, const QDat
         const qint64 days = today.daysTo(due.date);
         due.isDateOver = days < 0;
         due.state = std::max(due.state, days < 0 ? ServiceDue::eOverdue : days <= ServiceDue::kSoonDays ? ServiceDue::eSoon : ServiceDue::eFine);
+    } else if (service.everyMonths) {
+        due.state = std::max(due.state, ServiceDue::eInDoubt);
     }
     return due;
 }
 
-void sortByUrgency(std::vector<Service>& services, std::optional<double> hours, const QDate& today, bool isLossy)
+void sortByUrgency(std::vector<Service>& services, std::optional<double> hours, const QDate& today, double uncounted)
 {
     constexpr double kNever = std::numeric_limits<double>::infinity();
     const auto urgency = [&](const Service& service) {
-        const ServiceDue due = dueOf(service, hours, today, isLossy);
+        const ServiceDue due = dueOf(service, hours, today, uncounted);
         // An hour of an engine passes in about a day or two.
         const double byDate = due.date.isValid() ? static_cast<double>(today.daysTo(due.date)) : kNever;
         const double unknown = due.state == ServiceDue::eInDoubt ? 0.0 : kNever; // it may be due

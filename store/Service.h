@@ -28,7 +28,7 @@ struct ServiceDue {
     enum EState {
         eUnknown,
         eFine,
-        eInDoubt, ///< recordings are missing: there may be fewer hours left; how many is not known of one done at more hours than the engine has
+        eInDoubt, ///< it may be due: hours are not counted, or are those of another count, or nobody has entered when it was done
         eSoon,
         eOverdue
     };
@@ -46,10 +46,10 @@ struct ServiceDue {
     static constexpr int kSoonDays = 30;
 };
 
-/// @param hours of the engine, where they are known. @param isLossy whether they may be more
-[[nodiscard]] ServiceDue dueOf(const Service& service, std::optional<double> hours, const QDate& today, bool isLossy = false);
+/// @param hours of the engine, where they are known. @param uncounted hours that it may have run besides; infinite where that is not known
+[[nodiscard]] ServiceDue dueOf(const Service& service, std::optional<double> hours, const QDate& today, double uncounted = 0.0);
 
-/// Puts services in order of urgency. @param hours, today, isLossy as above
-void sortByUrgency(std::vector<Service>& services, std::optional<double> hours, const QDate& today, bool isLossy);
+/// Puts services in order of urgency. @param hours, today, uncounted as above
+void sortByUrgency(std::vector<Service>& services, std::optional<double> hours, const QDate& today, double uncounted);
 
 } // namespace ZARN

@@ -43,6 +43,7 @@ private Q_SLOTS:
     void mergesEngines();
     void services_data();
     void services();
+    void hoursNotCounted();
     void percentiles_data();
     void percentiles();
     void bandsOfEarlierFlights();
@@ -130,6 +131,7 @@ void TestLogbook::sums()
     QCOMPARE(all.totals.flightTime, 1800.0);
     QCOMPARE(all.totals.running, std::optional(10800.0)); // each cycle once
     QCOMPARE(all.totals.cyclesWithoutEngine, 1u);
+    QCOMPARE(all.totals.flightsWithoutFuel, 1u);
     QCOMPARE(all.totals.fuel, std::optional(22.0)); // none of the cycle that does not tell
     const std::vector<LogbookEntry> entries = reader.entries(std::vector<int64_t>{12, 99, 13});
     QCOMPARE(entries[0].notes, QString("Größere Böen")); // of this flight's time alone
@@ -254,7 +256,7 @@ void TestLogbook::services_data()
     row("by months, the end of February", {0, {}, {}, {}, 13, {}, done, {}}, 0.0, ServiceDue::eFine);
     row("by months, thirty days before", {0, {}, {}, {}, 4, {}, done, {}}, 0.0, ServiceDue::eSoon);
     row("by months, the day after", {0, {}, {}, {}, 1, {}, done, {}}, 0.0, ServiceDue::eOverdue);
-    row("by months, when is not known", {0, {}, {}, {}, 1, {}, none, {}}, 0.0, ServiceDue::eUnknown);
+    row("by months, when is not known", {0, {}, {}, {}, 1, {}, none, {}}, 0.0, ServiceDue::eInDoubt);
     row("whichever is earlier", {0, {}, {}, 50.0, 1, 100.0, done, {}}, 120.0, ServiceDue::eOverdue);
 }
 
@@ -263,6 +265,19 @@ void TestLogbook::services()
     QFETCH(Service, service);
     QFETCH(double, hours);
     QTEST(static_cast<int>(dueOf(service, hours, QDate(2025, 5, 1)).state), "state");
+}
+
+/// Hours of cycles that do not tell whether the engine ran may be hours of the engine.
+void TestLogbook::hoursNotCounted()
+{
+    fill("UPDATE cycle SET start_time = 100, end_time = 36100 WHERE cycle_id = 'b'");
+    const LogbookEngine engine = LogbookReader(mPath).engines()[0];
+    QCOMPARE(engine.uncounted(), 10.0);
+    const Service service{0, {}, {}, 50.0, {}, engine.hours(), QDate(2025, 1, 31), {}};
+    for (const auto& [since, state] : {std::pair(39.9, ServiceDue::eFine), {40.1, ServiceDue::eSoon}, {50.0, ServiceDue::eOverdue}})
+        QCOMPARE(dueOf(service, engine.hours() + since, QDate(2025, 5, 1), 10.0).state, state);
+    const ServiceDue due = dueOf(service, engine.hours() + 35.0, QDate(2025, 5, 1), 20.0);
+    QVERIFY(due.isAtMost && due.hoursLeft == std::optional(15.0) && due.state == ServiceDue::eInDoubt);
 }
 
 void TestLogbook::percentiles_data()
@@ -368,7 +383,7 @@ void TestLogbook::rescues()
     for (const LogbookEngine& engine : reader.engines()) {
         QCOMPARE(engine.isLossy, areCyclesHurt);
         for (const Service& service : reader.services(engine.id))
-            QCOMPARE(dueOf(service, engine.hours(), QDate(2025, 5, 1), engine.isLossy).state, areCyclesHurt ? ServiceDue::eInDoubt : ServiceDue::eFine);
+            QCOMPARE(dueOf(service, engine.hours(), QDate(2025, 5, 1), engine.uncounted()).state, areCyclesHurt ? ServiceDue::eInDoubt : ServiceDue::eFine);
     }
     QVERIFY(least == 0 || (reader.services("E1").size() == 1 && LogbookEditor(mPath).setHoursBefore("E1", 10.0) && !reader.engines()[0].isLossy));
 }

@@ -197,14 +197,14 @@ void LogbookEngines::fillServices(std::vector<Service> services)
     const LogbookEngine* pEngine = engine();
     const std::optional<double> hours = pEngine ? std::optional(pEngine->hours()) : std::nullopt;
     const QDate today = QDate::currentDate();
-    const bool isLossy = pEngine && pEngine->isLossy;
-    sortByUrgency(services, hours, today, isLossy);
+    const double uncounted = pEngine ? pEngine->uncounted() : 0.0;
+    sortByUrgency(services, hours, today, uncounted);
     mServices = std::move(services);
     mpServices->setRowCount(static_cast<int>(mServices.size()));
     mpServices->clearSelection();
     for (int row = 0; row < static_cast<int>(mServices.size()); ++row) {
         const Service& service = mServices[static_cast<std::size_t>(row)];
-        const ServiceDue due = dueOf(service, hours, today, isLossy);
+        const ServiceDue due = dueOf(service, hours, today, uncounted);
         QStringList done;
         if (service.doneHours)
             done.append(LogbookTexts::hours(*service.doneHours) + " h");

@@ -223,9 +223,9 @@ void LogbookController::askServices()
                 if (!wanted.contains(engine.id))
                     continue;
                 std::vector<Service> services = reader.services(engine.id);
-                sortByUrgency(services, engine.hours(), QDate::currentDate(), engine.isLossy);
+                sortByUrgency(services, engine.hours(), QDate::currentDate(), engine.uncounted());
                 for (const Service& service : services) {
-                    const ServiceDue due = dueOf(service, engine.hours(), QDate::currentDate(), engine.isLossy);
+                    const ServiceDue due = dueOf(service, engine.hours(), QDate::currentDate(), engine.uncounted());
                     if (const QString text = LogbookTexts::warning(service, due); !text.isEmpty())
                         texts.append(wanted.size() > 1 ? LogbookTexts::engine(engine.id, engine.aircraft) + ": " + text : text);
                 }

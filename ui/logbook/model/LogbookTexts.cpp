@@ -80,8 +80,10 @@ QString LogbookTexts::totals(const LogbookTotals& totals, const LogbookUnits& un
         const QString hours = tr("engine ran %1 h in these cycles").arg(duration(*totals.running));
         parts.append(totals.cyclesWithoutEngine == 0 ? hours : tr("%1 (%n cycle(s) do not tell)", nullptr, static_cast<int>(totals.cyclesWithoutEngine)).arg(hours));
     }
-    if (totals.fuel)
-        parts.append(tr("fuel in flight %1 %2").arg(decimal(*units.fuel(totals.fuel)), units.fuelUnit()));
+    if (totals.fuel) {
+        const QString fuel = tr("fuel in flight %1 %2").arg(decimal(*units.fuel(totals.fuel)), units.fuelUnit());
+        parts.append(totals.flightsWithoutFuel == 0 ? fuel : tr("%1 (%n flight(s) do not tell)", nullptr, static_cast<int>(totals.flightsWithoutFuel)).arg(fuel));
+    }
     return parts.join(", ");
 }
 
@@ -143,6 +145,8 @@ QString LogbookTexts::due(const Service& service, const ServiceDue& due)
         parts.append((due.isAtMost ? tr("in at most %1 h") : tr("in %1 h")).arg(hours(*due.hoursLeft)));
     if (due.date.isValid())
         parts.append(tr("on %1").arg(date(due.date)));
+    else if (service.everyMonths && !parts.isEmpty())
+        parts.append(tr("a day that is not known: enter when it was done"));
     return parts.isEmpty() ? tr("not known: enter when it was done") : parts.join(tr(" or "));
 }
 
