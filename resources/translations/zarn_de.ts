@@ -4387,6 +4387,17 @@ Ersetzen ?</translation>
             <numerusform>Die Uhr des Geräts sprang von einer Aufzeichnung zur nächsten zurück, sodass Daten, und was nach ihnen fällig ist, falsch sein können: %n Mal</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%1 (%n flight(s) do not tell)</source>
+        <translation>
+            <numerusform>%1 (%n Flug sagt es nicht)</numerusform>
+            <numerusform>%1 (%n Flüge sagen es nicht)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>a day that is not known: enter when it was done</source>
+        <translation>an einem Tag, der nicht bekannt ist: eintragen, wann es gemacht wurde</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::LogbookTrends</name>
