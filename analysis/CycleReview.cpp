@@ -6,6 +6,7 @@
 #include "analysis/LampEpisodes.h"
 #include "analysis/LimitScan.h"
 #include "app/Parallel.h"
+#include "card/FlightDetector.h"
 #include "card/FlightFigures.h"
 #include "trace/TraceSet.h"
 
@@ -40,7 +41,7 @@ public:
     /// @param unwatched times that are not watched though the engine ran
     ReviewPass(const CycleValues& values, std::span<const RecordFlight> flights, double endTime,
                const std::vector<TimeSpan>& unwatched = {})
-        : mData(values.data()), mContext(values.context()), mFlights(flights), mEndTime(endTime), mEngine(engineRunning(endTime)),
+        : mValues(values), mData(values.data()), mContext(values.context()), mFlights(flights), mEndTime(endTime), mEngine(engineRunning(endTime)),
           mPhases(values, mEngine, flights), mLimitTimes(mEngine, unwatched), mLampTimes(mEngine, withChecks(unwatched))
     {
         for (const RecordFlight& flight : flights)
@@ -107,6 +108,7 @@ private:
     void lookAtParameters();
 
     CycleReview mReview;
+    const CycleValues mValues;
     const RecordData& mData;
     const DecodingContext mContext;
     const std::span<const RecordFlight> mFlights;
@@ -121,10 +123,15 @@ private:
 
 void ReviewPass::findStops()
 {
+    std::vector<RecordFlight> flights(mFlights.begin(), mFlights.end());
+    if (const auto unfinished = FlightDetector(mValues).unfinished()) {
+        mReview.unfinishedSince = unfinished->takeOffTime;
+        flights.push_back(*unfinished); // an engine that stops in the air is told though nobody saw the landing
+    }
     if (!mEngine.isKnown())
         return;
     std::vector<TimeSpan> airborne;
-    for (const RecordFlight& flight : mFlights)
+    for (const RecordFlight& flight : flights)
         airborne.push_back({std::nextafter(flight.takeOffTime, flight.landingTime), lastBefore(flight.landingTime)});
     const SpanIndex flightAt(airborne);
     const ProfileParameter speed = mContext.model().ofZarnType(kSpeedKey);
@@ -133,7 +140,7 @@ void ReviewPass::findStops()
         const int flight = flightAt.spanAt(stretches[i].end);
         if (flight == SpanIndex::kNone)
             continue;
-        const double landing = mFlights[static_cast<std::size_t>(flight)].landingTime;
+        const double landing = flights[static_cast<std::size_t>(flight)].landingTime;
         Episode episode;
         episode.kind = EEpisodeKind::eStop;
         episode.group = mContext.model().devices[static_cast<std::size_t>(speed.deviceIndex - 1)].name;
@@ -329,6 +336,7 @@ CycleReview reviewFlight(const CycleReview& cycle, const CycleValues& values, st
         ReviewPass(values, flights, endTime, {{-kForever, lastBefore(span.start)}, {std::nextafter(span.end, kForever), kForever}})
             .run(EKeyValues::eNone);
     review.engine.crop(span);
+    review.unfinishedSince.reset(); // another flight
     review.flightTime = flight.landingTime - flight.takeOffTime;
     review.fuel = flightFigure(flight, eFigureTotalFuel);
     // Those of the cycle: what goes on before or after the flight is not cut, so that it is told alike everywhere.

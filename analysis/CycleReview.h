@@ -22,6 +22,7 @@ struct CycleReview {
     bool knowsAltitude = false;  ///< climb and descent are told from level flight
     bool knowsFlights = false;   ///< flight is told from the ground: a ground speed was recorded
     double flightTime = 0.0;     ///< seconds
+    std::optional<double> unfinishedSince; ///< take-off of a flight that the record does not show to its landing
     std::optional<double> fuel;  ///< of both lanes over the whole cycle
     EVerdict verdict = EVerdict::eUnknown;
     std::size_t sources = 0;          ///< parameters with limits, lamps and fault bits that the profile has

@@ -40,6 +40,10 @@ QStringList ReviewText::gaps() const
         gaps << tr("Flights are unknown, for the profile names no ground speed: all counts as on the ground.");
     else if (isWatched && !mReview.knowsFlights)
         gaps << tr("Flights are unknown, for no ground speed was recorded: all counts as on the ground.");
+    if (mReview.unfinishedSince)
+        gaps << tr("The record ends in flight: the one that began at %1 is no flight of the list, and counts as on the ground. Should the engine have stopped in "
+                   "it, that is told.")
+                    .arg(mTime(*mReview.unfinishedSince));
     if (!mReview.engine.silences().empty())
         gaps << tr("The engine speed was not recorded %1: what the engine did then is unknown, and it counts as doing what it did before.")
                     .arg(texts(mReview.engine.silences()));

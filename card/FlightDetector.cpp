@@ -48,33 +48,52 @@ private:
     int mCount = 0;
 };
 
+/// Calls for each take-off with its landing. @return what unfinished() does
+template <typename Visit>
+std::optional<RecordFlight> walkFlights(const CycleValues& values, const Visit& visit)
+{
+    const DecodingContext& context = values.context();
+    const auto pSpeed = TraceSet::one(values.data(), context, context.model().ofZarnType("GroundSpeed"), ENumber::eMetric);
+    FlightState state;
+    std::optional<RecordFlight> flight;
+    pSpeed->forEachSample([&](double time, double speed) {
+        if (flight && time <= kLatestTime)
+            flight->landingTime = std::max(flight->landingTime, time);
+        switch (state.next(speed)) {
+        case FlightState::EEvent::eTakeOff: 
+            flight.emplace();
+            flight->takeOffTime = flight->landingTime = time;
+            break;
+        case FlightState::EEvent::eLanding:
+            visit(flight->takeOffTime, time);
+            flight.reset();
+            break;
+        case FlightState::EEvent::eNone: break;
+        }
+    });
+    return flight;
+}
+
 } // namespace
 
 std::vector<RecordFlight> FlightDetector::detect(const QDateTime& dateTime) const
 {
     std::vector<RecordFlight> flights;
-    const DecodingContext& context = mValues.context();
-    const auto pSpeed = TraceSet::one(mValues.data(), context, context.model().ofZarnType("GroundSpeed"), ENumber::eMetric);
-    FlightState state;
-    RecordFlight flight;
-    pSpeed->forEachSample([&](double time, double speed) {
-        switch (state.next(speed)) {
-        case FlightState::EEvent::eTakeOff:
-            flight = {};
-            flight.takeOffTime = time;
-            flight.startTime = std::max(0.0, time - kMargin);
-            flight.dateTime = dateTime.addSecs(saturatingCast<qint64>(time));
-            break;
-        case FlightState::EEvent::eLanding:
-            flight.landingTime = time;
-            flight.endTime = time + kMargin;
-            calcFlightStatistic(mValues, flight);
-            flights.push_back(flight);
-            break;
-        case FlightState::EEvent::eNone: break;
-        }
+    walkFlights(mValues, [&](double takeOff, double landing) {
+        RecordFlight& flight = flights.emplace_back();
+        flight.takeOffTime = takeOff;
+        flight.startTime = std::max(0.0, takeOff - kMargin);
+        flight.dateTime = dateTime.addSecs(saturatingCast<qint64>(takeOff));
+        flight.landingTime = landing;
+        flight.endTime = landing + kMargin;
+        calcFlightStatistic(mValues, flight);
     });
     return flights;
+}
+
+std::optional<RecordFlight> FlightDetector::unfinished() const
+{
+    return walkFlights(mValues, [](double, double) {});
 }
 
 } // namespace ZARN

@@ -3,6 +3,7 @@
 #include "card/CycleValues.h"
 #include "card/RecordFlight.h"
 
+#include <optional>
 #include <vector>
 
 namespace ZARN {
@@ -15,6 +16,8 @@ public:
     /// The flights in the order found. @param dateTime wall clock of the cycle's power-up.
     /// A flight still airborne when the data ends is not one.
     [[nodiscard]] std::vector<RecordFlight> detect(const QDateTime& dateTime) const;
+    /// A flight still airborne when the data ends: its take-off and, as landing, when the ground speed was last received. It has no figures.
+    [[nodiscard]] std::optional<RecordFlight> unfinished() const;
 
 private:
     CycleValues mValues;

@@ -105,6 +105,54 @@ private Q_SLOTS:
             QCOMPARE(text(value.values), text(literally(samples.at({value.source, value.flight, value.phase}))));
     }
 
+    /// An engine that stops in the air is told while the aircraft is seen to fly, though the record does not show the landing.
+    void stopsInTheAir_data()
+    {
+        QTest::addColumn<double>("speedUntil"); // seconds until which a ground speed is received
+        QTest::addColumn<double>("slowFrom");
+        QTest::addColumn<double>("stopsAt");
+        QTest::addColumn<double>("stopEnds"); // 0: there is none
+        QTest::addColumn<bool>("isUnfinished");
+        QTest::newRow("the record ends in flight") << 120.0 << 999.0 << 60.0 << 119.5 << true;
+        QTest::newRow("the engine runs to the end") << 120.0 << 999.0 << 999.0 << 0.0 << true;
+        QTest::newRow("nobody knows whether it flies") << 50.0 << 999.0 << 60.0 << 0.0 << true;
+        QTest::newRow("it has landed") << 120.0 << 80.0 << 60.0 << 85.0 << false;
+        QTest::newRow("it stops after the landing") << 120.0 << 80.0 << 90.0 << 0.0 << false;
+        QTest::newRow("it never took off") << 120.0 << 0.0 << 60.0 << 0.0 << false;
+    }
+    void stopsInTheAir()
+    {
+        QFETCH(double, speedUntil);
+        QFETCH(double, slowFrom);
+        QFETCH(double, stopsAt);
+        QFETCH(double, stopEnds);
+        TestCycle cycle;
+        ProfileBuilder builder;
+        builder.thresholds("T", {{0, "OK", "green"}, {90, "LIMIT", "red"}}).device("D").parameter("t", 3, "FLOAT", {{"thresholdId", "T"}});
+        builder.parameter("rpm", 1, "FLOAT", {{"zarnDataType", "EngineSpeed"}}).parameter("gs", 2, "FLOAT", {{"zarnDataType", "GroundSpeed"}});
+        QVERIFY(builder.load(cycle.profile));
+        CardBuilder card;
+        RecordFileBuilder& file = card.file("A.CAN");
+        for (int i = 0; i < 240; ++i) {
+            const double time = i * 0.5;
+            file.addFloat(1, time, time < stopsAt ? 5000 : 0).addFloat(3, time, 20);
+            if (time < speedUntil)
+                file.addFloat(2, time, time < slowFrom && time > 10 ? 130 : 0);
+        }
+        file.addFloat(2, 3e6, 130); // a damaged time
+        QVERIFY(cycle.container.readContainer(card.write()) && cycle.container.loadCycle(cycle.container.recordCycles().begin()->first, -1));
+        const CycleReview review = reviewCycle(cycle.container.values(), cycle.container.loadedCycle()->flights, 119.5);
+        QCOMPARE(review.verdict, stopEnds > 0 ? EVerdict::eWarning : EVerdict::eOk);
+        QCOMPARE(review.incidents.size(), std::size_t(stopEnds > 0));
+        if (stopEnds > 0) {
+            QCOMPARE(review.incidents[0].episodes[0].kind, EEpisodeKind::eStop);
+            QCOMPARE(review.incidents[0].start, stopsAt);
+            QVERIFY2(std::abs(review.incidents[0].end - stopEnds) <= 0.5, qPrintable(QString::number(review.incidents[0].end)));
+        }
+        QTEST(review.unfinishedSince.has_value(), "isUnfinished");
+        QCOMPARE(!ReviewText(review).gaps().filter("ends in flight").isEmpty(), review.unfinishedSince.has_value());
+    }
+
     /// Ten seconds outside, six of them beyond the limit; an engine speed that is not sent for a while and ends early; a damaged time; a
     /// position that is far away for half a minute, and once.
     void toPeople()
