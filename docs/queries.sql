@@ -1,6 +1,8 @@
 -- Ten questions to a store. They run as they stand on both of its forms:
 --     sqlite3 -header -column fleet.sqlite < queries.sql
 --     cd dataset && (cat dataset.sql queries.sql) | duckdb        (dataset.sql stands beside this file)
+-- A recording that was read from several equal copies counts once. Where copies hold different parts of one, each part is a cycle of its own
+-- here; the logbook's window counts them once.
 
 -- 1. Which engines drift in oil temperature at climb? Their latest five flights lie outside the range of the twenty before them.
 WITH figure AS (

@@ -5,6 +5,9 @@
 #include "store/StoreSchema.h"
 #include "store/StoreText.h"
 
+#include <QDateTime>
+#include <QRandomGenerator>
+
 namespace ZARN {
 
 namespace {
@@ -14,9 +17,10 @@ Value whole(const std::optional<int>& number)
     return number ? Value(int64_t{*number}) : Value();
 }
 
-Value idOf(int64_t id)
+/// A new one is never one that another program had given and taken back: what it stood for there would be overwritten here.
+int64_t idOf(int64_t id)
 {
-    return id > 0 ? Value(id) : Value();
+    return id > 0 ? id : QDateTime::currentMSecsSinceEpoch() * 1000 + QRandomGenerator::global()->bounded(1000);
 }
 
 } // namespace

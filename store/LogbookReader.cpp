@@ -229,16 +229,20 @@ std::vector<LogbookNote> LogbookReader::notes(const std::string& cycle)
         "SELECT note_id, time, text, written, note.cycle_id, engine_id, card.name, cycle.number, " + clockOf("date_time") + ", aircraft.name FROM note "
         "LEFT JOIN cycle USING (cycle_id) LEFT JOIN card USING (card_id) LEFT JOIN aircraft USING (engine_id) WHERE ?1 = '' OR "
         "note.cycle_id = ?1 ORDER BY date_time, note.cycle_id, time, note_id");
-    found.with({cycle});
-    while (found.next()) {
-        notes.push_back({{found.integer(0), found.real(1), textOf(found, 2), dateOf(found.text(3))},
-                         found.text(4),
-                         found.text(5),
-                         found.text(6),
-                         static_cast<int>(found.integer(7)),
-                         found.text(8),
-                         found.text(9)});
+    for (const std::string& same : cycle.empty() ? std::vector{cycle} : copies().same(cycle)) { // times are the same there
+        found.with({same});
+        while (found.next()) {
+            notes.push_back({{found.integer(0), found.real(1), textOf(found, 2), dateOf(found.text(3))},
+                             found.text(4),
+                             found.text(5),
+                             found.text(6),
+                             static_cast<int>(found.integer(7)),
+                             found.text(8),
+                             found.text(9)});
+        }
     }
+    if (!cycle.empty())
+        std::ranges::stable_sort(notes, {}, [](const LogbookNote& note) { return note.note.time; });
     return notes;
 }
 

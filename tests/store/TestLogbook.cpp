@@ -194,6 +194,9 @@ void TestLogbook::countsRecordingsOnce()
     QTEST(engine.recordings.overlapping, "overlapping");
     QTEST(engine.clockBacks, "clockBacks");
     QCOMPARE(engine.flights, flights.size());
+    fill("INSERT INTO note (cycle_id, time, text) VALUES ('p', 100, 'Of the other copy')");
+    QCOMPARE(reader.notes("a").size(), std::size_t(engine.recordings.several > 0 ? 2 : 1)); // those of each copy, whichever is looked at
+    QCOMPARE(reader.notes("p").size(), std::size_t(engine.recordings.several > 0 ? 2 : 1));
     const bool isFirst = reader.sameFlights({"a", 2}).size() > 1; // flight 12, which is 21 of "p"
     QVERIFY(isFirst == (engine.recordings.several > 0) && (!isFirst || reader.sameFlights({"a", 2})[1].flight == 1));
 }
@@ -222,6 +225,9 @@ void TestLogbook::keepsWhatWasTyped()
     QVERIFY(editor.saveNote("a", note) && reader.notes("a").size() == 2 && reader.notes("a")[0].note.text == "second");
     note.text = " ";
     QVERIFY(editor.saveNote("a", note) && reader.notes("a").size() == 1);
+    const Service former = service;
+    QVERIFY(editor.removeService(service.id) && editor.saveService({0, "card:x", "Gearbox", 50.0, {}, {}, {}, {}})); // by another window
+    QVERIFY(editor.saveService(former) && reader.services("card:x").size() == 1 && reader.services("E1").size() == 1); // nothing is overwritten
     QVERIFY(editor.saveNote("of no cycle here", {0, 1.0, "kept", {}}) && reader.notes().size() == 2);
 }
 

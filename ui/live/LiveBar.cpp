@@ -94,10 +94,12 @@ void LiveBar::showIncidents()
     QFont bold = font();
     bold.setBold(true);
     const QFontMetrics metrics(bold);
-    const int room = mpIncidents->width() - metrics.horizontalAdvance(tr("and %n more", nullptr, 10));
+    const int between = metrics.horizontalAdvance(kBetween);
+    const int more = metrics.horizontalAdvance(tr("and %n more", nullptr, static_cast<int>(mSentences.size()))) + between;
+    const int room = mpIncidents->width() - (mSentences.size() > 1 ? more : 0);
     const int fitting = std::clamp(room / (kReadable * metrics.averageCharWidth()), 1, kMostSentences);
     const std::size_t shown = std::min(mSentences.size(), static_cast<std::size_t>(fitting));
-    const int share = room / static_cast<int>(std::max<std::size_t>(shown, 1));
+    const int share = (room + (shown == mSentences.size() && shown > 1 ? more : 0)) / static_cast<int>(std::max<std::size_t>(shown, 1));
     QStringList parts, all;
     for (std::size_t i = 0; i < mSentences.size(); ++i) {
         const IncidentSentence& sentence = mSentences[i];
@@ -105,7 +107,7 @@ void LiveBar::showIncidents()
         all.append(text.toHtmlEscaped());
         if (i >= shown)
             continue;
-        const QString part = metrics.elidedText(text, Qt::ElideRight, share - metrics.horizontalAdvance(kBetween)).toHtmlEscaped();
+        const QString part = metrics.elidedText(text, Qt::ElideRight, share - (i + 1 < shown ? between : 0)).toHtmlEscaped();
         parts.append(QStringLiteral("<a href=\"%1\">%2</a>").arg(QString::number(i), sentence.state > 1 ? "<b>" + part + "</b>" : part));
     }
     if (mSentences.size() > shown)
