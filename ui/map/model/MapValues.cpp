@@ -45,17 +45,15 @@ std::optional<DisplayValue> receivedAt(const CycleValues& values, const ProfileP
 std::vector<MapValue> MapValues::at(double time, bool hasRecord) const
 {
     std::vector<MapValue> result;
-    for (const ProfileDevice& device : mSession.profile.data()) {
-        for (const ProfileParameter& parameter : device.parameters) {
-            if (!mSession.profile.isSelected(parameter.name))
-                continue;
-            if (result.size() == kMostRows)
-                return result;
-            MapValue row{QString::fromStdString(parameter.name), {}, {}, {}};
-            if (hasRecord)
-                fill(row, parameter, time);
-            result.push_back(row);
-        }
+    for (const auto& [device, parameter] : mSession.profile.model().parameters()) {
+        if (!mSession.profile.isSelected(parameter.name))
+            continue;
+        if (result.size() == kMostRows)
+            return result;
+        MapValue row{QString::fromStdString(parameter.name), {}, {}, {}};
+        if (hasRecord)
+            fill(row, parameter, time);
+        result.push_back(row);
     }
     return result;
 }
