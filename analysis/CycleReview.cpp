@@ -174,14 +174,12 @@ std::vector<ReviewPass::Walk> ReviewPass::walks(bool withKeyValues) const
 {
     std::vector<Walk> walks;
     CoordinateFilter fixes;
-    for (const ProfileDevice& device : mContext.model().devices) {
-        for (const ProfileParameter& parameter : device.parameters) {
-            Walk walk{device, parameter, !isLamp(device) && hasLimits(parameter), withKeyValues && KeyValues::isWanted(parameter), nullptr};
-            if (parameter.isPosition() && walk.hasKeyValues)
-                walk.pFixes = TraceSet::one(mData, mContext, parameter, ENumber::eMetric, fixes, kLatestTime);
-            if (isLamp(device) || walk.isLimited || walk.hasKeyValues)
-                walks.push_back(std::move(walk));
-        }
+    for (const auto& [device, parameter] : mContext.model().parameters()) {
+        Walk walk{device, parameter, !isLamp(device) && hasLimits(parameter), withKeyValues && KeyValues::isWanted(parameter), nullptr};
+        if (parameter.isPosition() && walk.hasKeyValues)
+            walk.pFixes = TraceSet::one(mData, mContext, parameter, ENumber::eMetric, fixes, kLatestTime);
+        if (isLamp(device) || walk.isLimited || walk.hasKeyValues)
+            walks.push_back(std::move(walk));
     }
     return walks;
 }
@@ -276,13 +274,11 @@ void ReviewPass::lookAtParameters()
 {
     constexpr double kEver = std::numeric_limits<double>::infinity();
     const double damaged = std::nextafter(mEndTime > 0.0 ? std::min(mEndTime, kLatestTime) : kLatestTime, kEver);
-    for (const ProfileDevice& device : mContext.model().devices) {
-        for (const ProfileParameter& parameter : device.parameters) {
-            (device.name == kLampGroup ? mReview.hasLamps : mReview.hasLimits) |= device.name == kLampGroup || hasLimits(parameter);
-            const RecordChannel* pChannel = mData.channel(parameter.identifier());
-            if (pChannel && !pChannel->entries.ascending() && !pChannel->rangesIn(damaged, kEver).empty())
-                mReview.damaged.push_back(parameter.name);
-        }
+    for (const auto& [device, parameter] : mContext.model().parameters()) {
+        (device.name == kLampGroup ? mReview.hasLamps : mReview.hasLimits) |= device.name == kLampGroup || hasLimits(parameter);
+        const RecordChannel* pChannel = mData.channel(parameter.identifier());
+        if (pChannel && !pChannel->entries.ascending() && !pChannel->rangesIn(damaged, kEver).empty())
+            mReview.damaged.push_back(parameter.name);
     }
 }
 

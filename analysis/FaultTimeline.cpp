@@ -1,5 +1,6 @@
 #include "analysis/FaultTimeline.h"
 
+#include "analysis/FaultScan.h"
 #include "card/record/ByteOrder.h"
 
 #include <cmath>
@@ -30,30 +31,25 @@ std::optional<uint32_t> faultWordAt(const RecordChannel* pChannel, double second
     return faultWord(pChannel->entries.stored(later - 1).payload);
 }
 
-FaultTimeline::FaultTimeline(const FaultMatrix& matrix, const RecordChannel* pChannel)
+FaultTimeline::FaultTimeline(const FaultMatrix& matrix, const Trace& words)
 {
     for (std::size_t kind = 0; kind < kKinds; ++kind)
         mMasks[kind] = matrix.mask([kind](const FaultBit& fault) { return fault.errorType == static_cast<int>(kind) + eErrorInfo; });
-    if (!pChannel || pChannel->entries.empty())
+    if (words.empty())
         return;
-    const RecordEntries& entries = pChannel->entries;
-    uint32_t last = faultWord(entries.stored(0).payload);
+    auto last = static_cast<uint32_t>(words.number(0));
     for (std::size_t kind = 0; kind < kKinds; ++kind)
-        append(kind, entries.time(0), last);
-    for (std::size_t c = 0; c < entries.chunkCount(); ++c) {
-        for (const StoredRecord& record : entries.chunk(c)) {
-            const uint32_t word = faultWord(record.payload);
-            if (word == last)
-                continue;
-            last = word;
+        append(kind, words.time(0), last);
+    words.forEachNumbers([&](const TraceNumbers& run) {
+        forEachChange(run.numbers, ~0U, last, [&](std::size_t i, uint32_t word) {
             for (std::size_t kind = 0; kind < kKinds; ++kind) {
                 if (((word & mMasks[kind]) != 0) != mChanges[kind].back().on)
-                    append(kind, record.time(), word);
+                    append(kind, words.time(run.position + i), word);
             }
-        }
-    }
+        });
+    });
     for (std::size_t kind = 0; kind < kKinds; ++kind)
-        append(kind, entries.time(entries.size() - 1), last);
+        append(kind, words.time(words.size() - 1), last);
 }
 
 void FaultTimeline::append(std::size_t kind, double time, uint32_t word)

@@ -2,6 +2,7 @@
 
 #include "card/record/RecordChannel.h"
 #include "profile/FaultMatrix.h"
+#include "trace/Trace.h"
 
 #include <array>
 #include <optional>
@@ -27,8 +28,9 @@ struct FaultChange {
 /// define, and bits of no known kind, count for nothing.
 class FaultTimeline {
 public:
-    /// @param pChannel the samples of the matrix; null when it has none.
-    FaultTimeline(const FaultMatrix& matrix, const RecordChannel* pChannel);
+    FaultTimeline() = default;
+    /// @param words the words of the matrix, faultWords()
+    FaultTimeline(const FaultMatrix& matrix, const Trace& words);
 
     /// The change points of eErrorInfo, eErrorWarning or eErrorFault: one at the first sample, one where the state differs from
     /// the one before, a closing one at the last sample. Empty without samples.

@@ -1,5 +1,7 @@
 #include "analysis/HeldFixes.h"
 
+#include "trace/TraceSet.h"
+
 #include <algorithm>
 #include <cmath>
 #include <optional>
@@ -10,33 +12,34 @@ namespace {
 
 constexpr double kLeast = 10.0; // seconds: single wrong fixes are what the filter is for
 
+/// @param filter of the pass over both coordinates, in which a fix is believed or not
 void addHeld(const RecordData& data, const DecodingContext& context, const char* key, CoordinateFilter& filter, std::vector<TimeSpan>& held)
 {
     const ProfileParameter& parameter = context.model().ofZarnType(key);
-    const RecordChannel* pChannel = parameter.isPosition() ? data.channel(parameter.identifier()) : nullptr;
-    const ValueDecoder decoder = context.decoder(parameter);
-    if (!pChannel || !decoder.isNumeric())
+    if (!parameter.isPosition())
         return;
+    const auto pBelieved = TraceSet::one(data, context, parameter, ENumber::eMetric, filter, kLatestTime);
+    const auto pReceived = TraceSet::one(data, context, parameter, ENumber::eMetric);
     std::optional<TimeSpan> span;
     const auto end = [&] {
         if (span && span->end - span->start > kLeast)
             held.push_back(*span);
         span.reset();
     };
-    for (std::size_t chunk = 0; chunk < pChannel->entries.chunkCount(); ++chunk) {
-        for (const StoredRecord& record : pChannel->entries.chunk(chunk)) {
-            if (record.time() > kLatestTime)
+    double received[Trace::kRun];
+    pBelieved->forEachRun([&](const TraceRun& run) {
+        pReceived->readNumbers(run.position, std::span(received).first(run.times.size()));
+        for (std::size_t i = 0; i < run.times.size(); ++i) {
+            if (run.times[i] > kLatestTime)
                 continue;
-            CoordinateFilter alone;
-            const double believed = decoder.value(record.payload, true, filter), received = decoder.value(record.payload, true, alone);
-            if (believed == received || std::isnan(received))
+            if (run.numbers[i] == received[i] || std::isnan(received[i]))
                 end();
             else if (span)
-                span->end = std::max(span->end, record.time());
+                span->end = std::max(span->end, run.times[i]);
             else
-                span = {record.time(), record.time()};
+                span = {run.times[i], run.times[i]};
         }
-    }
+    });
     end();
 }
 

@@ -5,6 +5,8 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <cmath>
+#include <cstdlib>
 
 namespace ZARN {
 
@@ -62,6 +64,13 @@ char* writeElapsed(char* pOut, uint64_t time, int decimals, int hourDigits)
     return writeDigits(pOut, time % unit, decimals);
 }
 
+char* writeSigned(char* pOut, bool isNegative, uint64_t time, int decimals, int hourDigits)
+{
+    if (isNegative)
+        *pOut++ = '-';
+    return writeElapsed(pOut, time, decimals, hourDigits);
+}
+
 char* writeTimeOfDay(char* pOut, int64_t milliseconds, bool withDecimals)
 {
     const int64_t rest = milliseconds % kDay;
@@ -82,13 +91,19 @@ QString timeOfDayText(int64_t milliseconds, bool withDecimals)
 
 QString signedTimeText(int64_t milliseconds)
 {
-    return milliseconds < 0 ? '-' + timeOfDayText(-(milliseconds % kDay), true) : timeOfDayText(milliseconds, true);
+    char text[kTimeTextSize];
+    return textOf(text, writeSigned(text, milliseconds < 0, static_cast<uint64_t>(std::abs(milliseconds % kDay)), 3, 2));
 }
 
 QString elapsedText(int64_t seconds, int hourDigits)
 {
     char text[kTimeTextSize];
     return textOf(text, writeElapsed(text, static_cast<uint64_t>(std::max<int64_t>(seconds, 0)), 0, hourDigits));
+}
+
+QString hoursText(double seconds)
+{
+    return seconds >= 0 ? elapsedText(saturatingCast<int>(std::round(seconds / kMinute)) * int64_t{kMinute}, 1).chopped(3) : QStringLiteral("-");
 }
 
 std::optional<int> elapsedSeconds(const QString& text)

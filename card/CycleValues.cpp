@@ -2,7 +2,16 @@
 
 #include "app/Numeric.h"
 
+#include <algorithm>
+
 namespace ZARN {
+
+namespace {
+
+constexpr double kOverdue = 2.0; // seconds without a sample, or
+constexpr double kPeriods = 3.0; // times the distance of the last two
+
+} // namespace
 
 CycleValues::CycleValues(const RecordData& data, const DecodingContext& context, double endTime)
     : mData(data), mContext(context), mSeconds(std::min(saturatingCast<int64_t>(endTime), INT64_MAX - 2) + 2)
@@ -54,13 +63,20 @@ double CycleValues::getValue(const ProfileParameter& parameter, double time) con
 std::optional<DisplayValue> CycleValues::displayAt(const ProfileParameter& parameter, double time) const
 {
     const std::optional<RecordEntry> entry = entryAt(parameter, time);
-    if (!entry)
-        return {};
-    DisplayValue result; // bit fields have texts without a state; what people are warned by is the value's
-    getValue(parameter, time, result.state, result.colour);
+    return entry ? std::optional(display(parameter, entry->payload)) : std::nullopt;
+}
+
+DisplayValue CycleValues::display(const ProfileParameter& parameter, const Payload& payload) const
+{
     const ValueDecoder decoder = mContext.decoder(parameter);
-    CoordinateFilter filter;
-    result.text = decoder.text(decoder.textValue(entry->payload, filter));
+    CoordinateFilter filter, other;
+    DisplayValue result;
+    result.text = decoder.text(decoder.textValue(payload, filter));
+    if (decoder.isNumeric()) { // bit fields have texts without a state; what people are warned by is the value's
+        const ThresholdResult found = decoder.threshold(decoder.value(payload, true, other));
+        result.state = found.state;
+        result.colour = found.colour;
+    }
     return result;
 }
 
@@ -69,6 +85,22 @@ std::optional<DisplayValue> CycleValues::shownAt(const ProfileParameter& paramet
     const auto pChannel = channel(parameter);
     const bool isEarly = pChannel && time < pChannel->entries.front().time - kBeforeFirst;
     return isEarly ? std::nullopt : displayAt(parameter, time);
+}
+
+std::optional<DisplayValue> CycleValues::receivedAt(const ProfileParameter& parameter, double time) const
+{
+    const auto pChannel = channel(parameter);
+    if (!pChannel)
+        return {};
+    const RecordEntries& entries = pChannel->entries;
+    const std::size_t next = time < entries.time(entries.size() - 1) ? pChannel->firstAtOrAfter(time) : entries.size();
+    if (next == 0)
+        return shownAt(parameter, time);
+    const double last = entries.time(next - 1);
+    const double spacing = next > 1 ? last - entries.time(next - 2) : 0.0;
+    if (time - last > std::max(kOverdue, kPeriods * spacing))
+        return {};
+    return display(parameter, entries.stored(next - 1).payload);
 }
 
 } // namespace ZARN

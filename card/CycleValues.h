@@ -39,6 +39,8 @@ public:
     [[nodiscard]] std::optional<DisplayValue> displayAt(const ProfileParameter& parameter, double time) const;
     /// The same for people: none longer before the first sample, either, of which getValue() tells from the beginning of the record on.
     [[nodiscard]] std::optional<DisplayValue> shownAt(const ProfileParameter& parameter, double time) const;
+    /// The same while records are still received: a sample stands until the next one is overdue.
+    [[nodiscard]] std::optional<DisplayValue> receivedAt(const ProfileParameter& parameter, double time) const;
     static constexpr double kBeforeFirst = 2.0; ///< seconds for which the first sample is shown before its time
 
     /// The channel of a parameter; null when it has no entries.
@@ -47,6 +49,8 @@ public:
     [[nodiscard]] const DecodingContext& context() const { return mContext; }
 
 private:
+    [[nodiscard]] DisplayValue display(const ProfileParameter& parameter, const Payload& payload) const;
+
     const RecordData& mData;
     DecodingContext mContext;
     int64_t mSeconds; // size of the index: one place a second

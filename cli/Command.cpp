@@ -1,5 +1,6 @@
 #include "cli/Command.h"
 
+#include "app/DateText.h"
 #include "app/NumberText.h"
 #include "cli/Output.h"
 #include "cli/VisibleText.h"
@@ -47,7 +48,7 @@ std::string tableTime(double seconds)
 
 std::string tableDate(const QDateTime& dateTime)
 {
-    return dateTime.isValid() ? dateTime.toString("yyyy-MM-dd hh:mm:ss").toStdString() : "no clock";
+    return dateTime.isValid() ? tableDateText(dateTime).toStdString() : "no clock";
 }
 
 std::string countedText(uint64_t count, const char* one, const char* many)

@@ -1,5 +1,6 @@
 #include "cli/CommandFaults.h"
 
+#include "analysis/FaultWords.h"
 #include "cli/JsonWriter.h"
 #include "cli/TextTable.h"
 #include "cli/VisibleText.h"
@@ -34,7 +35,7 @@ int CommandFaults::runOnData()
 
 std::vector<FaultChange> CommandFaults::changes(const FaultMatrix& matrix, EErrorType kind) const
 {
-    const FaultTimeline timeline(matrix, mContainer.recordData().channel(static_cast<uint32_t>(matrix.id)));
+    const FaultTimeline timeline(matrix, *faultWords(mContainer.recordData(), mProfile.context(), matrix));
     const std::optional<TimeSpan> span = flightSpan();
     if (!span)
         return timeline.changes(kind);

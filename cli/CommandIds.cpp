@@ -109,10 +109,8 @@ void CommandIds::forEach(const Visitor& visit) const
 
 void CommandIds::findKnown()
 {
-    for (const ProfileDevice& device : mProfile.data()) {
-        for (const ProfileParameter& parameter : device.parameters)
-            mKnown[parameter.identifier()].push_back(parameter.name);
-    }
+    for (const auto& [device, parameter] : mProfile.model().parameters())
+        mKnown[parameter.identifier()].push_back(parameter.name);
 }
 
 void CommandIds::writeJson(Output& output) const

@@ -53,10 +53,8 @@ std::string json(const ProfileModel& model, const std::vector<ProfileVariant>& v
     for (const ProfileVariant& variant : variants)
         writer.beginObject().member("name", variant.name).member("color", variant.color).endObject();
     writer.endArray().key("parameters").beginArray();
-    for (const ProfileDevice& device : model.devices) {
-        for (const ProfileParameter& parameter : device.parameters)
-            writeParameter(writer, parameter);
-    }
+    for (const auto& [device, parameter] : model.parameters())
+        writeParameter(writer, parameter);
     writer.endArray().key("errorMatrices").beginArray();
     for (const FaultMatrix& matrix : model.errorMatrices)
         writeMatrix(writer, matrix);
@@ -80,11 +78,9 @@ std::string tables(const ProfileModel& model, const std::vector<ProfileVariant>&
     for (const ProfileVariant& variant : variants)
         text += "Variant " + visibleText(variant.name) + "\n";
     TextTable parameters({"Parameter", "Id", "Type", "Unit", "Imperial", "Key"});
-    for (const ProfileDevice& device : model.devices) {
-        for (const ProfileParameter& parameter : device.parameters) {
-            parameters.addRow({parameter.path, std::to_string(parameter.id), std::to_string(parameter.dataType), parameter.unitMetric,
-                               parameter.unitImperial, parameter.zarnDataType});
-        }
+    for (const auto& [device, parameter] : model.parameters()) {
+        parameters.addRow({parameter.path, std::to_string(parameter.id), std::to_string(parameter.dataType), parameter.unitMetric,
+                           parameter.unitImperial, parameter.zarnDataType});
     }
     TextTable matrices({"Error matrix", "Id", "Bits"});
     for (const FaultMatrix& matrix : model.errorMatrices)

@@ -75,10 +75,8 @@ Words parameters(const CLI::App& command, const Words& words)
     Words names;
     Profile profile(silence());
     if (profile.loadProfile(profileOf(command, words), given(command, words, "variant"))) {
-        for (const ProfileDevice& device : profile.data()) {
-            for (const ProfileParameter& parameter : device.parameters)
-                names.push_back(parameter.name + (parameter.unitMetric.empty() ? "" : "\t" + parameter.unitMetric));
-        }
+        for (const auto& [device, parameter] : profile.model().parameters())
+            names.push_back(parameter.name + (parameter.unitMetric.empty() ? "" : "\t" + parameter.unitMetric));
     }
     return names;
 }

@@ -1,5 +1,6 @@
 #include "cli/JsonWriter.h"
 
+#include "app/DateText.h"
 #include "cli/Output.h"
 #include "cli/VisibleText.h"
 
@@ -143,7 +144,7 @@ JsonWriter& JsonWriter::value(const QString& text)
 
 JsonWriter& JsonWriter::value(const QDateTime& dateTime)
 {
-    return dateTime.isValid() ? value(dateTime.toString("yyyy-MM-ddThh:mm:ss")) : null();
+    return dateTime.isValid() ? value(isoDateText(dateTime)) : null();
 }
 
 JsonWriter& JsonWriter::null()

@@ -37,9 +37,7 @@ char* CsvTime::write(char* pOut, uint32_t tick)
         *pOut++ = mForm.separator;
     }
     const int64_t told = mTimes.toldMilliseconds(milliseconds);
-    if (told < 0)
-        *pOut++ = '-';
-    pOut = mForm.number(pOut, writeElapsed(pOut, static_cast<uint64_t>(std::abs(told)), 3, 1));
+    pOut = mForm.number(pOut, writeSigned(pOut, told < 0, static_cast<uint64_t>(std::abs(told)), 3, 1));
     *pOut++ = mForm.separator;
     return mHasClock ? writeDateTime(pOut, mPowerUp + milliseconds) : pOut;
 }

@@ -3,6 +3,7 @@
 #include "analysis/LimitEvents.h"
 #include "analysis/WarningEvents.h"
 #include "app/Console.h"
+#include "app/DateText.h"
 #include "app/SafeFile.h"
 
 #include <QFile>
@@ -21,8 +22,7 @@ constexpr int kEventsDone = 50;
 ExportKml::ExportKml(const Console& console, DecodingContext context, Selection selection, const QDateTime& cycleDate)
     : mConsole(console), mContext(std::move(context)), mSelection(std::move(selection))
 {
-    if (cycleDate.isValid())
-        mContent.date = cycleDate.toString("d.M.yyyy h:mm:ss");
+    mContent.date = shortDateText(cycleDate);
 }
 
 bool ExportKml::exportData(const RecordData& recordData, const KmlExportOptions& options, Progress& progress)

@@ -28,7 +28,6 @@ public:
     /// Seconds that are kept: the window, or less where the memory was not enough.
     [[nodiscard]] double window() const { return mWindow; }
     [[nodiscard]] double latest() const { return mLatest; } ///< time of the newest record
-    [[nodiscard]] bool isTrimming() const { return mTask.isRunning(); }
 
 private:
     std::size_t add(const LiveRecords& records);

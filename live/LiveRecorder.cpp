@@ -5,7 +5,6 @@
 #include "card/record/RecordWriter.h"
 
 #include <QDir>
-#include <QRegularExpression>
 
 #include <algorithm>
 #include <cerrno>
@@ -19,7 +18,6 @@ namespace ZARN {
 
 namespace {
 
-constexpr unsigned kHighestNumber = 99'999; // of five digits
 constexpr uint64_t kTicksPerMillisecond = 32'000;
 constexpr uint64_t kFileTicks = 600 * 1000 * kTicksPerMillisecond;
 constexpr int kShortestFirst = 1000; // milliseconds
@@ -53,16 +51,15 @@ bool LiveRecorder::open()
 /// Goes on after what is there. Names of other kinds could stand between ours in the order of a card's files.
 bool LiveRecorder::findNumber()
 {
-    static const QRegularExpression ours("^LOG(\\d{5})\\.CAN$");
     for (const QString& name : QDir(mFolder).entryList(QDir::Files | QDir::NoDotAndDotDot)) {
         if (!RecordFormats::ofName(encodeFileName(name)))
             continue;
-        const QRegularExpressionMatch match = ours.match(name);
-        if (!match.hasMatch()) {
+        const unsigned number = name.mid(3, 5).toUInt();
+        if (name.toStdString() != RecordWriter::fileName(number)) {
             mError = tr("%1: holds the record file %2, which is none of a recording").arg(mFolder, name);
             return false;
         }
-        mNumber = std::max(mNumber, match.captured(1).toUInt());
+        mNumber = std::max(mNumber, number);
     }
     return true;
 }
@@ -99,12 +96,12 @@ bool LiveRecorder::beginFile(uint64_t ticks, bool isDated)
 {
     if (!closeFile())
         return false;
-    if (mNumber == kHighestNumber) {
+    if (mNumber == RecordWriter::kHighestNumber) {
         close();
         mError = tr("%1: all numbers of files are used up").arg(mFolder);
         return false;
     }
-    mFile = mFolder + QString::asprintf("/LOG%05u.CAN", ++mNumber);
+    mFile = mFolder + '/' + QString::fromStdString(RecordWriter::fileName(++mNumber));
     mDescriptor = ::open(encodeFileName(mFile).c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
     if (mDescriptor < 0)
         return fail(mFile, errno);

@@ -63,10 +63,8 @@ ProfileModel::ProfileModel(ProfileContent content) : ProfileContent(std::move(co
 ProfileModel::ProfileModel(const ProfileModel& base, const FormulaDefinitions& formulas) : ProfileContent(base)
 {
     std::set<std::string> names;
-    for (const ProfileDevice& device : devices) {
-        for (const ProfileParameter& parameter : device.parameters)
-            names.insert(parameter.name);
-    }
+    for (const auto& [device, parameter] : base.parameters())
+        names.insert(parameter.name);
     ProfileDevice computed{kFormulas, nextIdentity(), {}};
     for (const FormulaDefinition& formula : formulas) {
         if (formula.name.empty() || formula.expression.empty() || !names.insert(formula.name).second)
@@ -97,6 +95,7 @@ void ProfileModel::index()
 {
     for (const ProfileDevice& device : devices) {
         for (const ProfileParameter& parameter : device.parameters) {
+            mParameters.push_back({device, parameter});
             if (!parameter.isComputed())
                 mByIdentifier[parameter.identifier()] = &parameter;
             mByName.try_emplace(parameter.name, &parameter);

@@ -16,6 +16,12 @@ struct ProfileDevice {
     std::vector<ProfileParameter> parameters;
 };
 
+/// A parameter and the device that it belongs to.
+struct DeviceParameter {
+    const ProfileDevice& device;
+    const ProfileParameter& parameter;
+};
+
 /// Everything that a profile file declares for one variant, as it is read.
 struct ProfileContent {
     std::string version;
@@ -47,6 +53,8 @@ public:
 
     /// Differs from that of every model made before, so that views can tell a reloaded profile from the one that they show.
     [[nodiscard]] int identity() const { return mIdentity; }
+    /// All parameters, in the profile's order: devices as groups, parameters in them.
+    [[nodiscard]] const std::vector<DeviceParameter>& parameters() const { return mParameters; }
     /// The parameter under which records of this identifier decode, or an empty one.
     [[nodiscard]] const ProfileParameter& parameter(uint32_t identifier) const;
     /// The parameter with that key, or an empty one.
@@ -63,6 +71,7 @@ public:
 private:
     void index();
 
+    std::vector<DeviceParameter> mParameters;
     std::unordered_map<uint32_t, const ProfileParameter*> mByIdentifier;
     std::unordered_map<std::string, const ProfileParameter*> mByZarnType;
     std::unordered_map<std::string, const ProfileParameter*> mByName;

@@ -62,11 +62,6 @@ public:
     {
         return mConversion ? value * mConversion->factor + mConversion->offset : value;
     }
-    /// The value in the display unit.
-    [[nodiscard]] double displayValue(const Payload& payload, CoordinateFilter& filter) const
-    {
-        return isNumeric() ? toDisplayUnit(value(payload, true, filter)) : 0.0;
-    }
     /// The display text of a text value; the same appended.
     [[nodiscard]] std::string text(double textValue) const;
     void appendText(double textValue, std::string& text) const;

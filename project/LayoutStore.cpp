@@ -7,7 +7,6 @@
 #include <QFileInfo>
 
 #include <algorithm>
-#include <set>
 #include <utility>
 
 namespace ZARN {
@@ -76,14 +75,9 @@ bool LayoutStore::isShippedText(const QString& text) const
 
 QStringList LayoutStore::missing(const DisplayLayout& layout, const Profile& profile)
 {
-    std::set<std::string> known;
-    for (const ProfileDevice& device : profile.data()) {
-        for (const ProfileParameter& parameter : device.parameters)
-            known.insert(parameter.name);
-    }
     QStringList names;
     for (const DisplayLayout::Parameter& parameter : layout.parameters) {
-        if (!known.contains(parameter.name))
+        if (!profile.model().find(parameter.name))
             names.append(QString::fromStdString(parameter.name));
     }
     return names;

@@ -71,13 +71,11 @@ bool Project::saveProject(const QString& path)
     QDomDocument document;
     QDomElement root = xml.xmlCreateElement(document, document, "ZarnProject");
     QDomElement parameters = xml.xmlCreateElement(document, root, kParameters);
-    for (const ProfileDevice& device : mProfile.data()) {
-        for (const ProfileParameter& parameter : device.parameters) {
-            if (!mProfile.isSelected(parameter.name))
-                continue;
-            QDomElement element = xml.xmlCreateElement(document, parameters, "Parameter");
-            xml.xmlCreateAttribute(document, element, "name", parameter.name);
-        }
+    for (const auto& [device, parameter] : mProfile.model().parameters()) {
+        if (!mProfile.isSelected(parameter.name))
+            continue;
+        QDomElement element = xml.xmlCreateElement(document, parameters, "Parameter");
+        xml.xmlCreateAttribute(document, element, "name", parameter.name);
     }
     QDomElement properties = xml.xmlCreateElement(document, root, kCanProperties);
     for (const auto& [id, value] : mCanProperties) {
@@ -92,21 +90,17 @@ bool Project::saveProject(const QString& path)
 
 void Project::setProfileData()
 {
-    for (const ProfileDevice& device : mProfile.data()) {
-        for (const ProfileParameter& parameter : device.parameters)
-            mProfile.setSelected(parameter.name, mNames.contains(parameter.name));
-    }
+    for (const auto& [device, parameter] : mProfile.model().parameters())
+        mProfile.setSelected(parameter.name, mNames.contains(parameter.name));
 }
 
 void Project::takeProfileData()
 {
-    for (const ProfileDevice& device : mProfile.data()) {
-        for (const ProfileParameter& parameter : device.parameters) {
-            if (mProfile.isSelected(parameter.name))
-                mNames.insert(parameter.name);
-            else
-                mNames.erase(parameter.name);
-        }
+    for (const auto& [device, parameter] : mProfile.model().parameters()) {
+        if (mProfile.isSelected(parameter.name))
+            mNames.insert(parameter.name);
+        else
+            mNames.erase(parameter.name);
     }
 }
 

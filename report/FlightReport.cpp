@@ -92,7 +92,7 @@ bool FlightReport::fill(ReportDocument& document, Progress& progress)
     tables.addEvents(document, lamps, tr("Warning lamps"), tr("No warning lamp was lit."), {tr("dark"), tr("yellow"), tr("red")});
     if (!isWanted(35))
         return false;
-    tables.addFaults(document);
+    tables.addFaults(document, front.engine());
     if (!isWanted(40))
         return false;
     const auto pMap = std::make_shared<ReportMap>(mLoaded, limits);

@@ -1,53 +1,61 @@
 #include "report/ReportFaults.h"
 
-#include "analysis/FaultTimeline.h"
+#include "analysis/FaultEpisodes.h"
+#include "analysis/FaultScan.h"
+#include "analysis/FaultWords.h"
 
-#include <array>
+#include <map>
 
 namespace ZARN {
 
 namespace {
 
-constexpr int kBits = 32;
+class FaultList {
+public:
+    FaultList(const LoadedCard& loaded, const FaultMatrix& matrix) : mLoaded(loaded), mMatrix(matrix) {}
 
-void addFaults(const FaultMatrix& matrix, const RecordChannel& channel, double from, double to, std::vector<ReportFault>& faults)
-{
-    std::array<ReportFault, kBits> found{};
-    uint32_t before = 0;
-    for (const RecordEntry& entry : channel.entries) {
-        if (entry.time < from || entry.time > to)
-            continue;
-        const uint32_t word = faultWord(entry.payload);
-        for (const auto& [bit, fault] : matrix.bits) {
-            if (bit < 0 || bit >= kBits || !(word >> bit & 1U))
+    void add(const FaultStretches& stretches)
+    {
+        for (const FaultStretch& stretch : stretches.all) {
+            const FaultBit& fault = mMatrix.bits.at(stretch.bit);
+            const bool counts = stretch.isWatched && FaultEpisodes::isJudged(fault);
+            const auto [first, last] = std::minmax(stretch.on, stretch.off);
+            if (mLoaded.flightNumber > 0 && (last < mLoaded.flight.startTime || first > mLoaded.flight.endTime))
                 continue;
-            ReportFault& entryOfBit = found[static_cast<std::size_t>(bit)];
-            if (entryOfBit.times == 0)
-                entryOfBit.first = entry.time;
-            entryOfBit.times += !(before >> bit & 1U);
-            entryOfBit.last = entry.time;
+            ReportFault none{&mMatrix, stretch.bit, &fault, counts, first, last, 0};
+            ReportFault& found = mFound.try_emplace({stretch.bit, !counts}, none).first->second;
+            found.first = std::min(found.first, first);
+            found.last = std::max(found.last, last);
+            ++found.times;
         }
-        before = word;
     }
-    for (const auto& [bit, fault] : matrix.bits) {
-        if (bit < 0 || bit >= kBits || fault.errorType == eErrorNone || found[static_cast<std::size_t>(bit)].times == 0)
-            continue;
-        ReportFault entry = found[static_cast<std::size_t>(bit)];
-        entry.pMatrix = &matrix;
-        entry.bit = bit;
-        entry.pBit = &fault;
-        faults.push_back(entry);
+
+    void appendTo(std::vector<ReportFault>& faults) const
+    {
+        for (const auto& [key, fault] : mFound)
+            faults.push_back(fault);
     }
-}
+
+private:
+    const LoadedCard& mLoaded;
+    const FaultMatrix& mMatrix;
+    std::map<std::pair<int, bool>, ReportFault> mFound;
+};
 
 } // namespace
 
-std::vector<ReportFault> presentFaults(const ProfileModel& model, const RecordData& data, double from, double to)
+std::vector<ReportFault> presentFaults(const LoadedCard& loaded, const EngineRunning& engine)
 {
+    const auto isInfo = [](const FaultBit& fault) { return fault.errorType == eErrorInfo; };
+    const std::vector<TimeSpan> checks = laneChecks(*loaded.pRecord, loaded.context);
+    const WatchedTimes watched(engine, checks), always{EngineRunning()};
     std::vector<ReportFault> faults;
-    for (const FaultMatrix& matrix : model.errorMatrices) {
-        if (const RecordChannel* pChannel = data.channel(static_cast<uint32_t>(matrix.id)))
-            addFaults(matrix, *pChannel, from, to, faults);
+    for (const FaultMatrix& matrix : loaded.context.model().errorMatrices) {
+        const auto pWords = faultWords(*loaded.pRecord, loaded.context, matrix);
+        FaultList list(loaded, matrix);
+        list.add(faultStretches(*pWords, matrix.mask(FaultEpisodes::isJudged), watched));
+        list.add(faultStretches(*pWords, matrix.mask(isInfo), always));
+        list.appendTo(faults);
     }
     return faults;
 }

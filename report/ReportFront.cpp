@@ -38,6 +38,7 @@ ReportFront::ReportFront(const ReportSubject& subject)
     overview.times = mTimes;
     overview.review = reviewCycle(loaded.values(), flights, loaded.wholeEnd);
     mPhases = overview.review.phases;
+    mEngine = overview.review.engine;
     if (!isFlight())
         return;
     const std::size_t all = overview.review.incidents.size();

@@ -20,6 +20,7 @@ public:
     void addTo(ReportDocument& document) const;
     /// Of the whole cycle.
     [[nodiscard]] const std::vector<FlightPhases::Step>& phases() const { return mPhases; }
+    [[nodiscard]] const EngineRunning& engine() const { return mEngine; }
     [[nodiscard]] const std::vector<Incident>& incidents() const { return mpOverview->review.incidents; }
 
 private:
@@ -36,6 +37,7 @@ private:
     const LoadedCard& mLoaded;
     const TimeReference mTimes;
     std::vector<FlightPhases::Step> mPhases;
+    EngineRunning mEngine;
     std::shared_ptr<CycleOverview> mpOverview; // shared with the drawings
     std::size_t mOutside = 0;                  ///< incidents of the cycle outside of the flight
 };

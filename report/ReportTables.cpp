@@ -120,24 +120,26 @@ void ReportTables::addEvents(ReportDocument& document, const EventList& list, co
                        "does not count: of starting, stopping and lane checks."));
 }
 
-void ReportTables::addFaults(ReportDocument& document) const
+void ReportTables::addFaults(ReportDocument& document, const EngineRunning& engine) const
 {
     document.add(ReportHeading{tr("Faults")});
     ReportTable table{tr("Faults"),
                       {{tr("Matrix")},
                        {tr("Bit"), true},
                        {tr("Kind")},
+                       {tr("Counts")},
                        {tr("Fault"), false, {}, true},
                        {tr("First")},
                        {tr("Last")},
                        {tr("Times"), true}}};
     const QStringList kinds{"", tr("Info"), tr("Warning"), tr("Fault")};
-    const std::vector<ReportFault> faults = presentFaults(mLoaded.context.model(), *mLoaded.pRecord, mLoaded.startTime, mLoaded.endTime);
+    const std::vector<ReportFault> faults = presentFaults(mLoaded, engine);
     const std::size_t room = std::min(faults.size(), kMostFaults);
     const int more = static_cast<int>(faults.size() - room);
     for (const ReportFault& fault : std::span(faults).first(room)) {
         addRow(table, {reportText(fault.pMatrix->name), QString::number(fault.bit), kinds.value(fault.pBit->errorType),
-                       reportText(fault.pBit->name), mTimes.textAt(fault.first), mTimes.textAt(fault.last), QString::number(fault.times)});
+                       fault.counts ? tr("yes") : tr("no"), reportText(fault.pBit->name), mTimes.textAt(fault.first), mTimes.textAt(fault.last),
+                       QString::number(fault.times)});
     }
     const bool hasFaults = !mLoaded.context.model().errorMatrices.empty();
     add(document, std::move(table), hasFaults ? tr("No fault was present.") : tr("The profile declares no faults."), more);

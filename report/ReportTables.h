@@ -7,6 +7,7 @@
 
 namespace ZARN {
 
+class EngineRunning;
 class EventList;
 
 /// What a report tells in tables: unit, flights, events and faults of the loaded cycle or flight.
@@ -21,7 +22,8 @@ public:
     void addFlights(ReportDocument& document) const;
     void addEvents(ReportDocument& document, const EventList& list, const QString& heading, const QString& nothing,
                    const QStringList& states) const;
-    void addFaults(ReportDocument& document) const;
+    /// @param engine over the whole cycle: while it ran, faults count for the verdict
+    void addFaults(ReportDocument& document, const EngineRunning& engine) const;
 
 private:
     [[nodiscard]] ReportTable figures(const std::vector<RecordFlight>& flights, std::size_t first, std::size_t last, int firstNumber) const;

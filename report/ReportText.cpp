@@ -1,5 +1,7 @@
 #include "report/ReportText.h"
 
+#include "app/DateText.h"
+
 namespace ZARN {
 
 QString reportText(const std::string& bytes)
@@ -22,7 +24,7 @@ QString printable(const QString& text)
 
 QString reportDate(const QDateTime& dateTime, const QString& none)
 {
-    return dateTime.isValid() ? dateTime.toString("yyyy-MM-dd hh:mm:ss") : none;
+    return dateTime.isValid() ? tableDateText(dateTime) : none;
 }
 
 } // namespace ZARN

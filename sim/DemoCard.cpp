@@ -17,7 +17,7 @@ constexpr std::uint64_t kFileSteps = 6000; // the recorder begins a file every t
 
 std::string fileName(unsigned number)
 {
-    return QString::asprintf("/LOG%05u.CAN", number).toStdString();
+    return '/' + RecordWriter::fileName(number);
 }
 
 /// The header of a file. The first of a cycle is begun before any satellite is received, so it has no date.

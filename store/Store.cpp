@@ -109,10 +109,8 @@ std::string Store::writePrecisions(const ProfileModel& model)
 {
     return write([&] {
         Statement& insert = mDatabase.prepared("INSERT OR IGNORE INTO parameter_precision VALUES (?, ?, ?)");
-        for (const ProfileDevice& device : model.devices) {
-            for (const ProfileParameter& parameter : device.parameters)
-                insert.with({mKey.profileHash, storeText(parameter.name), int64_t{std::clamp(parameter.precision, 0, 17)}}).run();
-        }
+        for (const auto& [device, parameter] : model.parameters())
+            insert.with({mKey.profileHash, storeText(parameter.name), int64_t{std::clamp(parameter.precision, 0, 17)}}).run();
     });
 }
 

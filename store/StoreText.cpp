@@ -1,5 +1,6 @@
 #include "store/StoreText.h"
 
+#include "app/DateText.h"
 #include "app/FileName.h"
 
 #include <QCryptographicHash>
@@ -42,7 +43,7 @@ bool isStoreDate(const QDateTime& dateTime)
 
 std::string storeDate(const QDateTime& dateTime)
 {
-    return isStoreDate(dateTime) ? dateTime.toString("yyyy-MM-ddThh:mm:ss").toStdString() : std::string();
+    return isStoreDate(dateTime) ? isoDateText(dateTime).toStdString() : std::string();
 }
 
 std::string hashOf(const std::string& bytes)

@@ -8,14 +8,12 @@ namespace ZARN {
 TraceSet::TraceSet(const RecordData* pData, const DecodingContext& context, ENumber kind, const Wanted& wanted, EFixes fixes)
 {
     CoordinateFilter filter;
-    for (const ProfileDevice& device : context.model().devices) {
-        for (const ProfileParameter& parameter : device.parameters) {
-            if (!wanted(device, parameter))
-                continue;
-            auto pChannel = pData ? channelOf(*pData, context, parameter) : nullptr;
-            mTraces.push_back(std::make_unique<ChannelTrace>(device.name, parameter, context, std::move(pChannel), kind,
-                                                             fixes == EFixes::eInPass ? &filter : nullptr));
-        }
+    for (const auto& [device, parameter] : context.model().parameters()) {
+        if (!wanted(device, parameter))
+            continue;
+        auto pChannel = pData ? channelOf(*pData, context, parameter) : nullptr;
+        mTraces.push_back(std::make_unique<ChannelTrace>(device.name, parameter, context, std::move(pChannel), kind,
+                                                         fixes == EFixes::eInPass ? &filter : nullptr));
     }
 }
 

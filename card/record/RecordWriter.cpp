@@ -53,4 +53,9 @@ void RecordWriter::putRecord(uint32_t identifier, const StoredRecord& record)
     putTicks(record.ticks);
 }
 
+std::string RecordWriter::fileName(unsigned number)
+{
+    return QString::asprintf("LOG%05u.CAN", number).toStdString();
+}
+
 } // namespace ZARN

@@ -19,6 +19,10 @@ public:
     /// The 28 bytes of a record.
     void putRecord(uint32_t identifier, const StoredRecord& record);
 
+    /// "LOG00001.CAN": how the files of a recording are called, in the order of their numbers, which have five digits at most.
+    static constexpr unsigned kHighestNumber = 99'999;
+    [[nodiscard]] static std::string fileName(unsigned number);
+
     [[nodiscard]] std::string& bytes() { return mBytes; }
 
 private:

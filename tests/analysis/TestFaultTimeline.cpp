@@ -1,4 +1,5 @@
 #include "analysis/FaultTimeline.h"
+#include "analysis/FaultWords.h"
 #include "support/CardBuilder.h"
 #include "support/ProfileBuilder.h"
 #include "support/TestCycle.h"
@@ -40,6 +41,12 @@ ProfileBuilder& faultProfile(int matrices, ProfileBuilder&& builder = ProfileBui
     for (const char* kind : {"Info", "Warning", "Fault", "Fault", "Oddity"})
         builder.faultBit(QString("F%1").arg(bit), kMatrix, bit, kind), ++bit;
     return builder.faultBit("Top", kMatrix, 31, "Info").faultBit("Beyond", kMatrix, 32, "Fault").faultBit("Below", kMatrix, -1, "Warning");
+}
+
+FaultTimeline timelineOf(const TestCycle& cycle, const RecordData& data)
+{
+    const FaultMatrix& matrix = cycle.profile.model().errorMatrices.front();
+    return {matrix, *faultWords(data, cycle.profile.context(), matrix)};
 }
 
 std::optional<uint32_t> wordByScan(const RecordChannel& channel, double seconds)
@@ -89,7 +96,7 @@ void TestFaultTimeline::changes()
         file.addWord(kMatrix, ++time, word, 5);
     RecordData data;
     file.fill(data);
-    QTEST(described(FaultTimeline(cycle.profile.model().errorMatrices.front(), data.channel(kMatrix))), "expected");
+    QTEST(described(timelineOf(cycle, data)), "expected");
 }
 
 void TestFaultTimeline::timesGoBackwards()
@@ -98,7 +105,7 @@ void TestFaultTimeline::timesGoBackwards()
     QVERIFY(faultProfile(1).load(cycle.profile));
     RecordData data;
     RecordFileBuilder().addWord(kMatrix, 9, 0).addWord(kMatrix, 3, 1).addWord(kMatrix, 5, 0).addWord(kMatrix, 4, 0).fill(data);
-    QCOMPARE(described(FaultTimeline(cycle.profile.model().errorMatrices.front(), data.channel(kMatrix)), eErrorInfo), "9- 3+ 5- 4-");
+    QCOMPARE(described(timelineOf(cycle, data), eErrorInfo), "9- 3+ 5- 4-");
 }
 
 void TestFaultTimeline::wordAt_data()

@@ -9,12 +9,12 @@
 #include "ui/data/EventMark.h"
 #include "ui/data/GraphJump.h"
 #include "ui/data/TableCopy.h"
+#include "ui/data/TimeFollower.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLocale>
-#include <QScopedValueRollback>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
@@ -127,9 +127,8 @@ void DialogDataEvents::createTable()
         Q_EMIT signalMoment(GraphMoment::around(event.time, {mEvents.source(event).parameter}));
     });
     mpTable->installEventFilter(this);
-    connect(mpTable->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &DialogDataEvents::slotSelect);
-    connect(mpTable, &QTableWidget::clicked, this, &DialogDataEvents::slotChoose);
-    connect(mpTable, &QTableWidget::activated, this, &DialogDataEvents::slotChoose);
+    mpFollower = new TimeFollower(mpTable, [this](int row) { return static_cast<double>(mpTable->item(row, 0)->data(Qt::UserRole).toLongLong()) * 0.001; });
+    connect(mpFollower, &TimeFollower::signalTime, this, &DialogDataEvents::signalTime);
     setFocusProxy(mpTable);
 }
 
@@ -166,7 +165,7 @@ bool DialogDataEvents::isInside(const Event& event) const
 
 void DialogDataEvents::updateRecord(RecordData* pRecord)
 {
-    const QScopedValueRollback busy(mBusy, true);
+    const auto isFilling = mpFollower->filling();
     mIsSought = false;
     mIsOutdated = true;
     if (!mPrepared || pRecord != mpRecord)
@@ -230,7 +229,7 @@ void DialogDataEvents::fillTable()
 
 void DialogDataEvents::showTimes()
 {
-    const QScopedValueRollback busy(mBusy, true);
+    const auto isFilling = mpFollower->filling();
     const TimeReference times = TimeReference::of(mSession.property, mSession.container);
     mpTable->horizontalHeaderItem(0)->setText(times.title());
     showNotes();
@@ -240,7 +239,7 @@ void DialogDataEvents::showTimes()
 
 void DialogDataEvents::updateColours()
 {
-    const QScopedValueRollback busy(mBusy, true);
+    const auto isFilling = mpFollower->filling();
     for (int row = 0; row < mpTable->rowCount(); ++row)
         giveColours(*mpTable->item(row, 0), *mpTable->item(row, 1), mEvents.events()[static_cast<std::size_t>(row)]);
 }
@@ -283,42 +282,18 @@ void DialogDataEvents::setTime(double time)
 {
     if (mpTable->rowCount() == 0)
         return;
-    const QScopedValueRollback busy(mBusy, true);
-    mReported = false;
     mTime = time;
-    const std::optional<std::size_t> found = mEvents.rowAt(time);
-    if (!found) {
-        mpTable->clearSelection();
-        mpTable->setCurrentIndex({});
-        mpTable->scrollToTop();
-        return;
-    }
-    const int row = static_cast<int>(std::min<std::size_t>(*found, static_cast<std::size_t>(mpTable->rowCount() - 1)));
-    if (mpTable->currentRow() != row || mpTable->selectionModel()->selectedRows().size() != 1)
-        mpTable->setCurrentCell(row, 0, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-    mUnseen = !isVisible();
-    centre();
-}
-
-void DialogDataEvents::centre()
-{
-    if (const QTableWidgetItem* pItem = mpTable->item(mpTable->currentRow(), 0))
-        mpTable->scrollToItem(pItem, QAbstractItemView::PositionAtCenter);
-}
-
-/// What is hidden has no size of its own to find the centre of.
-void DialogDataEvents::showEvent(QShowEvent* pEvent)
-{
-    QWidget::showEvent(pEvent);
-    if (std::exchange(mUnseen, false))
-        QMetaObject::invokeMethod(this, &DialogDataEvents::centre, Qt::QueuedConnection); // the layout comes before
+    std::optional<int> row;
+    if (const std::optional<std::size_t> found = mEvents.rowAt(time))
+        row = static_cast<int>(std::min<std::size_t>(*found, static_cast<std::size_t>(mpTable->rowCount() - 1)));
+    mpFollower->show(row);
 }
 
 /// Whether the current event, which nobody chose, lies before the view time: the next one upwards is itself then.
 bool DialogDataEvents::isBehind() const
 {
     const QTableWidgetItem* pItem = mpTable->item(mpTable->currentRow(), 0);
-    return pItem && !mReported && pItem->data(Qt::UserRole).toLongLong() < wholeMilliseconds(mTime);
+    return pItem && !mpFollower->isChosen() && pItem->data(Qt::UserRole).toLongLong() < wholeMilliseconds(mTime);
 }
 
 bool DialogDataEvents::eventFilter(QObject* pObject, QEvent* pEvent)
@@ -329,26 +304,10 @@ bool DialogDataEvents::eventFilter(QObject* pObject, QEvent* pEvent)
     if ((pKey->modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier || pKey->key() != Qt::Key_Up)
         return false;
     if (isBehind())
-        slotSelect();
+        mpFollower->choose();
     else if (mpTable->currentRow() >= 0)
         return false;
     return true; // before the first event there is none upwards
-}
-
-void DialogDataEvents::slotSelect()
-{
-    const QTableWidgetItem* pItem = mpTable->item(mpTable->currentRow(), 0); // the row that was clicked last, whatever else is selected
-    if (mBusy || !pItem)
-        return;
-    mReported = true;
-    Q_EMIT signalTime(static_cast<double>(pItem->data(Qt::UserRole).toLongLong()) * 0.001);
-}
-
-/// A click on the row that is current already changes nothing, but is a choice all the same.
-void DialogDataEvents::slotChoose()
-{
-    if (!mReported)
-        slotSelect();
 }
 
 } // namespace ZARN

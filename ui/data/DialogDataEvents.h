@@ -15,6 +15,7 @@ class QTableWidgetItem;
 namespace ZARN {
 
 class DecodingContext;
+class TimeFollower;
 
 /// What the lists of events have in common: one row an event in ascending time; the one chosen last moves the view time. With a flight
 /// selected, the events outside of it are there, but dimmed. Which events there are is told by the derived class.
@@ -58,13 +59,8 @@ protected:
 
     DialogDataEvents(const Session& session, const Kind& kind, QWidget* pParent);
 
-    void showEvent(QShowEvent* pEvent) override;
     void changeEvent(QEvent* pEvent) override;
     bool eventFilter(QObject* pObject, QEvent* pEvent) override;
-
-private Q_SLOTS:
-    void slotSelect();
-    void slotChoose();
 
 private:
     void createTable();
@@ -80,7 +76,6 @@ private:
     [[nodiscard]] QTableWidgetItem* createText(const Event& event) const;
     [[nodiscard]] bool isInside(const Event& event) const;
     void updateHint();
-    void centre();
     [[nodiscard]] bool isBehind() const;
 
     Session mSession;
@@ -89,16 +84,14 @@ private:
     EventList mEvents;
     std::vector<CycleNote> mNotes;
     QTableWidget* mpTable;
+    TimeFollower* mpFollower = nullptr; ///< owned by the table
     QLabel* mpHint;
     QLabel* mpNotes;
     double mTime = 0.0;       ///< the view time that was told last
     bool mPrepared = false;   ///< the events are found, but not in the rows
     bool mIsSought = false;   ///< they are to be found in another thread
     bool mIsOutdated = false; ///< what is being found there is of no use any more
-    bool mBusy = false;
-    bool mReported = false; ///< the current row's time was told
-    bool mUnseen = false;   ///< the row was selected while nobody saw it
-    EventList mFound;       ///< by the task
+    EventList mFound;         ///< by the task
     BackgroundTask mTask;
 };
 

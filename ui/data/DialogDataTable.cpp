@@ -6,13 +6,12 @@
 #include "ui/data/RowTable.h"
 #include "ui/data/TableCellDelegate.h"
 #include "ui/data/TableCopy.h"
+#include "ui/data/TimeFollower.h"
 #include "ui/data/model/DataTableModel.h"
 #include "ui/data/model/LiveTableModel.h"
 
 #include <QHeaderView>
 #include <QLabel>
-#include <QScopedValueRollback>
-#include <QScrollBar>
 #include <QStackedLayout>
 #include <QTableView>
 #include <QTimer>
@@ -71,9 +70,8 @@ void DialogDataTable::createView()
             names.insert(mpModel->parameters()[static_cast<std::size_t>(index.column() - 1)].name());
         Q_EMIT signalMoment(GraphMoment::around(timeOf(index.row()), std::move(names)));
     });
-    connect(mpView, &RowTable::clicked, this, &DialogDataTable::slotChoose);
-    connect(mpView, &RowTable::activated, this, &DialogDataTable::slotChoose);
-    connect(mpView->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &DialogDataTable::slotSelect);
+    mpFollower = new TimeFollower(mpView, [this](int row) { return timeOf(row); });
+    connect(mpFollower, &TimeFollower::signalTime, this, &DialogDataTable::signalTime);
 }
 
 void DialogDataTable::createLiveView()
@@ -92,14 +90,14 @@ void DialogDataTable::createLiveView()
 
 void DialogDataTable::updateProfile()
 {
-    const QScopedValueRollback busy(mBusy, true);
+    const auto isFilling = mpFollower->filling();
     updateColumns();
     fill();
 }
 
 void DialogDataTable::update(RecordData* pRecord)
 {
-    const QScopedValueRollback busy(mBusy, true);
+    const auto isFilling = mpFollower->filling();
     mpView->setHeld(true);
     updateColumns();
     mpRecord = pRecord;
@@ -211,7 +209,7 @@ void DialogDataTable::fill()
 
 void DialogDataTable::updateRecord(RecordData* pRecord)
 {
-    const QScopedValueRollback busy(mBusy, true);
+    const auto isFilling = mpFollower->filling();
     mpRecord = pRecord;
     fill();
     setTime(mContainer.startTime());
@@ -228,52 +226,12 @@ void DialogDataTable::setTime(double time)
 {
     if (mMode != 0 || mpModel->rowCount() == 0)
         return;
-    const QScopedValueRollback busy(mBusy, true);
-    mReported = false;
-    const QModelIndex index = mpModel->index(mpModel->rowAt(time), 0);
-    const int column = mpView->horizontalScrollBar()->value();
-    mpView->selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-    mpView->horizontalScrollBar()->setValue(column);
-    mUnseen = !isVisible();
-    centre();
-}
-
-void DialogDataTable::centre()
-{
-    const int column = mpView->horizontalScrollBar()->value();
-    mpView->scrollTo(mpView->currentIndex(), QAbstractItemView::PositionAtCenter);
-    mpView->horizontalScrollBar()->setValue(column); // the columns that the user looks at stay
-}
-
-/// What is hidden has no size of its own to find the centre of.
-void DialogDataTable::showEvent(QShowEvent* pEvent)
-{
-    QWidget::showEvent(pEvent);
-    if (std::exchange(mUnseen, false))
-        QMetaObject::invokeMethod(this, &DialogDataTable::centre, Qt::QueuedConnection); // the layout comes before
-}
-
-void DialogDataTable::slotSelect()
-{
-    if (mBusy || mMode != 0)
-        return;
-    const QModelIndex index = mpView->currentIndex(); // the row that was clicked last, whatever else is selected
-    if (!index.isValid())
-        return;
-    mReported = true;
-    Q_EMIT signalTime(timeOf(index.row()));
+    mpFollower->show(mpModel->rowAt(time));
 }
 
 double DialogDataTable::timeOf(int row) const
 {
     return static_cast<double>(mpModel->index(row, 0).data(Qt::UserRole).toLongLong()) * 0.001;
-}
-
-/// A click on the row that is current already changes nothing, but is a choice all the same.
-void DialogDataTable::slotChoose()
-{
-    if (!mReported)
-        slotSelect();
 }
 
 void DialogDataTable::setZarnMode(int mode)

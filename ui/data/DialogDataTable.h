@@ -18,6 +18,7 @@ class CellModel;
 class DataTableModel;
 class LiveTableModel;
 class RowTable;
+class TimeFollower;
 
 /// The data table: a row for every tenth of a second at which something was recorded, a column for every shown parameter. In live
 /// mode a row for every shown parameter, with its newest value.
@@ -48,12 +49,9 @@ Q_SIGNALS:
     void signalMoment(const GraphMoment& moment);
 
 protected:
-    void showEvent(QShowEvent* pEvent) override;
     void changeEvent(QEvent* pEvent) override;
 
 private Q_SLOTS:
-    void slotSelect();
-    void slotChoose();
     void slotTimeoutRefresh();
     void slotFont();
 
@@ -63,7 +61,6 @@ private:
     [[nodiscard]] double timeOf(int row) const;
     void updateColumns();
     void fill();
-    void centre();
     void updateTimer();
     void sizeTimes();
     void sizeColumns();
@@ -75,6 +72,7 @@ private:
     DataTableModel* mpModel;
     LiveTableModel* mpLive;
     RowTable* mpView;
+    TimeFollower* mpFollower = nullptr; ///< owned by the view
     QTableView* mpLiveView;
     QStackedLayout* mpViews;
     QLabel* mpHint;
@@ -82,10 +80,7 @@ private:
     RecordData* mpRecord = nullptr;
     int mMode = 0;
     bool mPaused = false;
-    bool mBusy = false;
-    bool mReported = false; ///< the current row's time was told
-    bool mUnseen = false;   ///< the row was selected while nobody saw it
-    bool mWidened = false;  ///< the columns were made wide enough for the texts of a record
+    bool mWidened = false; ///< the columns were made wide enough for the texts of a record
 };
 
 } // namespace ZARN

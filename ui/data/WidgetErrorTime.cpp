@@ -51,7 +51,6 @@ WidgetErrorTime::WidgetErrorTime(const CardContainer& container, Tell tell, QWid
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setToolTip(tr("Bits that were set over time. From top to bottom: Info, Warning, Fault.\nA click goes to the time, a double click to the graph."));
     setCursor(Qt::PointingHandCursor);
-    mTimeline.emplace(mMatrix, nullptr);
 }
 
 void WidgetErrorTime::setData(const FaultMatrix& matrix)
@@ -60,12 +59,12 @@ void WidgetErrorTime::setData(const FaultMatrix& matrix)
     updateRecord(nullptr);
 }
 
-void WidgetErrorTime::updateRecord(const RecordData* pRecord)
+void WidgetErrorTime::updateRecord(const Trace* pWords)
 {
-    mWithRecord = pRecord != nullptr;
+    mWithRecord = pWords != nullptr;
     mStart = mContainer.startTime();
     mEnd = mContainer.endTime();
-    mTimeline.emplace(mMatrix, pRecord ? pRecord->channel(static_cast<uint32_t>(mMatrix.id)) : nullptr);
+    mTimeline = pWords ? FaultTimeline(mMatrix, *pWords) : FaultTimeline();
     mBands = {};
     update();
 }

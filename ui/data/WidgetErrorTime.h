@@ -26,13 +26,14 @@ public:
 
     /// The matrix whose bits are shown: identifier, name and bit definitions.
     void setData(const FaultMatrix& matrix);
-    void updateRecord(const RecordData* pRecord);
+    /// @param pWords of the matrix; null without a record
+    void updateRecord(const Trace* pWords);
     void setTime(double time);
 
     /// Where a time lies, in pixels from the left; 0 without a record, or when it has no duration. Any number outside the record.
     [[nodiscard]] int xOf(double time) const;
     /// Empty without samples of the matrix.
-    [[nodiscard]] const std::vector<FaultChange>& changes(EErrorType kind) const { return mTimeline->changes(kind); }
+    [[nodiscard]] const std::vector<FaultChange>& changes(EErrorType kind) const { return mTimeline.changes(kind); }
 
 Q_SIGNALS:
     /// The user clicked at a time of the record, in seconds.
@@ -61,7 +62,7 @@ private:
     const CardContainer& mContainer;
     const Tell mTell;
     FaultMatrix mMatrix;
-    std::optional<FaultTimeline> mTimeline;
+    FaultTimeline mTimeline;
     QImage mBands; ///< null when it must be drawn anew
     bool mWithRecord = false;
     double mStart = 0.0; ///< of the record, in seconds

@@ -1,5 +1,6 @@
 #include "ui/data/WidgetReplayBar.h"
 
+#include "app/DateText.h"
 #include "app/Numeric.h"
 #include "app/gui/ImageHandler.h"
 #include "app/gui/TextSize.h"
@@ -240,7 +241,7 @@ void WidgetReplayBar::setSpeed(double factor)
 
 void WidgetReplayBar::setDateTime(const QDateTime& dateTime)
 {
-    const QString text = dateTime.isValid() ? dateTime.toString("dd.MM.yyyy hh:mm:ss") : QString();
+    const QString text = dateSecondsText(dateTime);
     mpDateClock->display(text.size() == kDateDigits ? text : QString("--.--.---- --:--:--"));
 }
 

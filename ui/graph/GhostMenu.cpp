@@ -1,6 +1,7 @@
 #include "ui/graph/GhostMenu.h"
 
 #include "app/Console.h"
+#include "app/DateText.h"
 #include "app/Property.h"
 #include "app/Settings.h"
 #include "card/CardContainer.h"
@@ -19,7 +20,7 @@ QString cycleText(uint32_t number, const RecordCycle& cycle)
 {
     const QString name = GhostMenu::tr("Cycle %1").arg(number);
     const QDateTime powerUp = PowerUp::of(cycle);
-    return powerUp.isValid() ? name + "  " + powerUp.toString("dd.MM.yyyy hh:mm") : name;
+    return powerUp.isValid() ? name + "  " + dateTimeText(powerUp) : name;
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "ui/main/CardTree.h"
 
+#include "app/DateText.h"
 #include "app/TimeText.h"
 #include "card/CardContainer.h"
 #include "card/PowerUp.h"
@@ -13,11 +14,6 @@ namespace {
 QString clockText(double seconds)
 {
     return timeOfDayText(wholeMilliseconds(seconds), false);
-}
-
-QString startText(const QDateTime& dateTime)
-{
-    return dateTime.toString("d.M.yyyy h:mm:ss");
 }
 
 /// Joins the entries of consecutive equal dates below one entry.
@@ -51,7 +47,7 @@ QString CardTree::printable(const std::string& text)
 
 QString CardTree::dateText(const QDate& date)
 {
-    return date.isValid() ? date.toString("dd.MM.yyyy") : tr("Unknown Date");
+    return date.isValid() ? ZARN::dateText(date) : tr("Unknown Date");
 }
 
 std::vector<CardNode> CardTree::cycles(const CardContainer& container)
@@ -67,12 +63,12 @@ CardNode CardTree::cycleNode(unsigned int number, const RecordCycle& cycle)
     CardNode node;
     node.cycle = number;
     if (cycle.files.empty()) { // it is received still
-        node.text = cycle.name + " " + startText(cycle.dateTime);
+        node.text = cycle.name + " " + shortDateText(cycle.dateTime);
         return node;
     }
     const QString name = cycle.name.isEmpty() ? QString() : tr("Cycle %1").arg(number);
     // All three at once: what a name or date contains is never taken for the next mark.
-    node.text = QStringLiteral("%1 %2 (%3)").arg(name, startText(PowerUp::of(cycle)), clockText(cycle.endTime));
+    node.text = QStringLiteral("%1 %2 (%3)").arg(name, shortDateText(PowerUp::of(cycle)), clockText(cycle.endTime));
     return node;
 }
 
@@ -102,7 +98,7 @@ std::vector<CardNode> CardTree::rawData(const CardContainer& container)
 CardNode CardTree::fileNode(const RecordInfo& info)
 {
     CardNode node;
-    node.text = info.fileName.section('/', -1) + "   " + startText(info.dateTime);
+    node.text = info.fileName.section('/', -1) + "   " + shortDateText(info.dateTime);
     node.toolTip = tr("Start Time") + ": " + clockText(info.startTime) + "\n" + tr("Stop Time") + ": " + clockText(info.endTime);
     node.path = info.fileName;
     return node;

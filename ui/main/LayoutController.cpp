@@ -75,10 +75,9 @@ void LayoutController::restore(bool isFirst)
 
 void LayoutController::tick(const DisplayLayout& layout)
 {
-    for (const ProfileDevice& device : mSession.profile.data()) {
-        for (const ProfileParameter& parameter : device.parameters)
-            mSession.profile.setSelected(parameter.name, std::ranges::find(layout.parameters, parameter.name,
-                                                                           &DisplayLayout::Parameter::name) != layout.parameters.end());
+    for (const auto& [device, parameter] : mSession.profile.model().parameters()) {
+        const auto found = std::ranges::find(layout.parameters, parameter.name, &DisplayLayout::Parameter::name);
+        mSession.profile.setSelected(parameter.name, found != layout.parameters.end());
     }
     mSession.project.takeProfileData();
 }

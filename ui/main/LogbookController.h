@@ -50,7 +50,6 @@ public:
     void setProfile(const QString& file) { mIntake.setProfile(file); }
     [[nodiscard]] LogbookWorker& worker() { return *mpWorker; }
     void show();
-    [[nodiscard]] bool isTaking() const { return mIntake.isRunning(); }
 
 Q_SIGNALS:
     void signalWritten(const QString& path);

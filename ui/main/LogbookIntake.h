@@ -25,7 +25,6 @@ public:
     void take(const QString& folder, bool isAgain = false);
     /// Ends what is under way; nothing of that card is kept.
     void cancel();
-    [[nodiscard]] bool isRunning() const { return mTask.isRunning(); }
 
 Q_SIGNALS:
     /// A card was taken in, or could not be. @param error for people; empty when it was. @param unarchived the same of its copy in the archive

@@ -74,7 +74,6 @@ void Device::begin(const QSize& size, double ratio)
 {
     mSize = size;
     mRatio = ratio;
-    mDrawCalls = 0;
     mMatrix.clear();
     mVertices.clear();
     mpGl->glViewport(0, 0, static_cast<GLsizei>(std::lround(size.width() * ratio)), static_cast<GLsizei>(std::lround(size.height() * ratio)));
@@ -156,7 +155,6 @@ void Device::flush()
         return;
     drawBatch(mBatch, mVertices);
     mVertices.clear();
-    ++mDrawCalls;
 }
 
 void Device::drawBatch(const Batch& batch, std::span<const Vertex> vertices)

@@ -66,9 +66,6 @@ public:
     /// Draws what was gathered. Needed before a texture changes that was drawn already.
     void flush();
 
-    /// How many draw calls the frame has taken so far.
-    [[nodiscard]] int drawCalls() const { return mDrawCalls; }
-
 protected:
     /// What is drawn by one call.
     struct Batch {
@@ -98,7 +95,6 @@ private:
     GLuint mBuffer = 0;
     QSize mSize;
     double mRatio = 1.0;
-    int mDrawCalls = 0;
     QString mError;
 };
 

@@ -16,11 +16,9 @@ QString escaped(const std::string& text)
 std::vector<ShownParameter> ShownParameter::all(const DecodingContext& context, const Selection& selection)
 {
     std::vector<ShownParameter> shown;
-    for (const ProfileDevice& device : context.model().devices) {
-        for (const ProfileParameter& parameter : device.parameters) {
-            if (selection.contains(parameter.name))
-                shown.emplace_back(context, parameter);
-        }
+    for (const auto& [device, parameter] : context.model().parameters()) {
+        if (selection.contains(parameter.name))
+            shown.emplace_back(context, parameter);
     }
     return shown;
 }

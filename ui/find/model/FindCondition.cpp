@@ -33,13 +33,11 @@ std::vector<FindParameter> FindParameter::all(const RecordData& data, const Deco
 {
     std::vector<FindParameter> found;
     std::set<std::string> names;
-    for (const ProfileDevice& device : context.model().devices) {
-        for (const ProfileParameter& parameter : device.parameters) {
-            const ValueDecoder decoder = context.decoder(parameter);
-            const bool isThere = parameter.isComputed() || data.channel(parameter.identifier());
-            if (isThere && decoder.isNumeric() && names.insert(parameter.name).second)
-                found.push_back(describe(parameter, context, decoder));
-        }
+    for (const auto& [device, parameter] : context.model().parameters()) {
+        const ValueDecoder decoder = context.decoder(parameter);
+        const bool isThere = parameter.isComputed() || data.channel(parameter.identifier());
+        if (isThere && decoder.isNumeric() && names.insert(parameter.name).second)
+            found.push_back(describe(parameter, context, decoder));
     }
     return found;
 }

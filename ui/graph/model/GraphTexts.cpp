@@ -11,10 +11,8 @@ namespace ZARN {
 QString graphTime(double seconds, int decimals, int hours)
 {
     const auto total = saturatingCast<qint64>(std::abs(seconds) * std::pow(10.0, decimals));
-    char text[kTimeTextSize] = {'-'};
-    const char* pEnd = writeElapsed(text + 1, static_cast<uint64_t>(total), decimals, hours);
-    const char* pText = seconds < 0 && total != 0 ? text : text + 1;
-    return QString::fromLatin1(pText, pEnd - pText);
+    char text[kTimeTextSize];
+    return QString::fromLatin1(text, writeSigned(text, seconds < 0 && total != 0, static_cast<uint64_t>(total), decimals, hours) - text);
 }
 
 QString graphNumber(double value, int precision)

@@ -206,12 +206,10 @@ bool RecordGraph::showView(const GraphView& from, const GraphView& to)
 DisplayLayout RecordGraph::layout() const
 {
     std::vector<QString> ticked;
-    for (const ProfileDevice& device : mSession.profile.data()) {
-        for (const ProfileParameter& parameter : device.parameters) {
-            const QString name = QString::fromStdString(parameter.name);
-            if (mSession.profile.isSelected(parameter.name) && std::ranges::find(ticked, name) == ticked.end())
-                ticked.push_back(name);
-        }
+    for (const auto& [device, parameter] : mSession.profile.model().parameters()) {
+        const QString name = QString::fromStdString(parameter.name);
+        if (mSession.profile.isSelected(parameter.name) && std::ranges::find(ticked, name) == ticked.end())
+            ticked.push_back(name);
     }
     DisplayLayout layout;
     layout.name = Settings::kGraphLayout.text(mSession.property);

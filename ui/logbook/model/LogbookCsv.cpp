@@ -1,5 +1,6 @@
 #include "ui/logbook/model/LogbookCsv.h"
 
+#include "app/DateText.h"
 #include "app/SafeFile.h"
 #include "app/TimeText.h"
 #include "ui/logbook/model/LogbookTexts.h"
@@ -36,7 +37,7 @@ QString LogbookCsv::number(const std::optional<double>& value, int decimals) con
 
 QString LogbookCsv::date(const QDateTime& date) const
 {
-    return date.toString(mForm.isForSpreadsheet ? mForm.dateFormat + " hh:mm:ss" : QStringLiteral("yyyy-MM-ddThh:mm:ss"));
+    return mForm.isForSpreadsheet ? date.toString(mForm.dateFormat + " hh:mm:ss") : isoDateText(date);
 }
 
 std::string LogbookCsv::header(const QStringList& titles) const

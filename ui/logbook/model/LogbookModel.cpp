@@ -1,5 +1,6 @@
 #include "ui/logbook/model/LogbookModel.h"
 
+#include "app/TimeText.h"
 #include "ui/logbook/model/LogbookTexts.h"
 
 #include <algorithm>
@@ -131,7 +132,7 @@ QString LogbookModel::text(const LogbookEntry& entry, int column, const LogbookU
     switch (column) {
     case eDate: return entry.dateTime.empty() ? tr("clock not set") : LogbookTexts::dateTime(entry.dateTime);
     case eEngine: return LogbookTexts::engine(entry.engine, entry.aircraft);
-    case eFlightTime: return LogbookTexts::duration(entry.flightTime);
+    case eFlightTime: return hoursText(entry.flightTime);
     case eFuel: return number(units.fuel(entry.fuel), 1);
     case eClimb: return number(units.climb(entry.climb), 0);
     case eVerdict: return LogbookTexts::verdictName(entry.verdict);

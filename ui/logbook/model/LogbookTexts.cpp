@@ -1,10 +1,8 @@
 #include "ui/logbook/model/LogbookTexts.h"
 
 #include "analysis/IncidentText.h"
-#include "app/Numeric.h"
+#include "app/DateText.h"
 #include "app/TimeText.h"
-
-#include <cmath>
 
 namespace ZARN {
 
@@ -27,14 +25,6 @@ QString LogbookTexts::engine(const std::string& id, const std::string& aircraft)
     return aircraft.empty() ? name : QString::fromStdString(aircraft) + " (" + name + ")";
 }
 
-QString LogbookTexts::duration(double seconds)
-{
-    if (!(seconds >= 0))
-        return QStringLiteral("-");
-    const auto minutes = saturatingCast<int64_t>(std::round(seconds / 60.0));
-    return elapsedText(minutes * 60, 1).chopped(3);
-}
-
 QString LogbookTexts::hours(double hours)
 {
     return decimal(hours);
@@ -42,13 +32,12 @@ QString LogbookTexts::hours(double hours)
 
 QString LogbookTexts::dateTime(const std::string& text)
 {
-    const QDateTime dateTime = QDateTime::fromString(QString::fromStdString(text), Qt::ISODate);
-    return dateTime.isValid() ? dateTime.toString("dd.MM.yyyy hh:mm") : QString();
+    return dateTimeText(QDateTime::fromString(QString::fromStdString(text), Qt::ISODate));
 }
 
 QString LogbookTexts::date(const QDate& date)
 {
-    return date.isValid() ? date.toString("dd.MM.yyyy") : QStringLiteral("-");
+    return date.isValid() ? dateText(date) : QStringLiteral("-");
 }
 
 QString LogbookTexts::verdictName(EVerdict verdict)
@@ -75,9 +64,9 @@ QString LogbookTexts::phase(const std::string& key)
 QString LogbookTexts::totals(const LogbookTotals& totals, const LogbookUnits& units)
 {
     QStringList parts{totals.flights == 1 ? tr("1 flight") : tr("%1 flights").arg(QLocale().toString(static_cast<qulonglong>(totals.flights))),
-                      tr("in flight %1 h").arg(duration(totals.flightTime))};
+                      tr("in flight %1 h").arg(hoursText(totals.flightTime))};
     if (totals.running) {
-        const QString hours = tr("engine ran %1 h in these cycles").arg(duration(*totals.running));
+        const QString hours = tr("engine ran %1 h in these cycles").arg(hoursText(*totals.running));
         parts.append(totals.cyclesWithoutEngine == 0 ? hours : tr("%1 (%n cycle(s) do not tell)", nullptr, static_cast<int>(totals.cyclesWithoutEngine)).arg(hours));
     }
     if (totals.fuel) {

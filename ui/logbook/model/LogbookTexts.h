@@ -17,8 +17,6 @@ class LogbookTexts {
 public:
     /// "D-KXYZ (1234567)"; an engine without a serial number by its unit's, or its card.
     [[nodiscard]] static QString engine(const std::string& id, const std::string& aircraft);
-    /// "1:25" of seconds.
-    [[nodiscard]] static QString duration(double seconds);
     /// "123.4" of hours.
     [[nodiscard]] static QString hours(double hours);
     /// "26.05.2025 13:40"; empty without a date.

@@ -1,6 +1,7 @@
 #include "ui/overview/model/CardReviewer.h"
 
 #include "app/Console.h"
+#include "app/DateText.h"
 #include "app/FileName.h"
 #include "app/TimeText.h"
 #include "card/CardContainer.h"
@@ -70,8 +71,8 @@ void noteClock(CycleOverview& overview, const CardContainer& card)
             if (number == overview.number && isKnown && pBefore && clockAtStart(file).secsTo(before) > kSetRight)
                 overview.damages.append(CardReviewer::tr("%1: the unit's clock went back here, from %2 to %3. Dates on one side of it are wrong, and so may be the "
                                                          "order of flights in the logbook.")
-                                            .arg(file.fileName.mid(file.fileName.lastIndexOf('/') + 1), before.toString("dd.MM.yyyy hh:mm"),
-                                                 clockAtStart(file).toString("dd.MM.yyyy hh:mm")));
+                                            .arg(file.fileName.mid(file.fileName.lastIndexOf('/') + 1), dateTimeText(before),
+                                                 dateTimeText(clockAtStart(file))));
             pBefore = isKnown ? &file : pBefore;
         }
     }

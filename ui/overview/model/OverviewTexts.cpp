@@ -1,12 +1,11 @@
 #include "ui/overview/model/OverviewTexts.h"
 
 #include "analysis/ReviewText.h"
+#include "app/DateText.h"
 #include "app/Numeric.h"
 #include "app/TimeText.h"
 
 #include <QLocale>
-
-#include <cmath>
 
 namespace ZARN {
 
@@ -55,8 +54,8 @@ QString OverviewTexts::origin(const CycleOverview& cycle)
     QString text = tr("Cycle %1").arg(cycle.number);
     if (cycle.dateTime.isValid()) {
         const QDateTime end = cycle.dateTime.addMSecs(saturatingCast<qint64>(cycle.endTime * 1000.0));
-        const QString day = QStringLiteral("dd.MM.yyyy hh:mm"), time = end.date() == cycle.dateTime.date() ? day.right(5) : day;
-        text += ", " + tr("%1 to %2").arg(cycle.dateTime.toString(day), end.toString(time));
+        const QString last = dateTimeText(end);
+        text += ", " + tr("%1 to %2").arg(dateTimeText(cycle.dateTime), end.date() == cycle.dateTime.date() ? last.right(5) : last);
     } else {
         text += ", " + tr("clock not set");
     }
@@ -66,20 +65,13 @@ QString OverviewTexts::origin(const CycleOverview& cycle)
 
 std::vector<OverviewTexts::Figure> OverviewTexts::figures(const CycleOverview& cycle)
 {
-    // Rounded to minutes. What clocks that ran backwards make of it is no length.
-    const auto hours = [](double seconds) {
-        if (seconds < 0)
-            return kNone;
-        const int minutes = saturatingCast<int>(std::round(seconds / 60.0));
-        return elapsedText(minutes * int64_t{60}, 1).chopped(3);
-    };
     const CycleReview& review = cycle.review;
     const bool isReviewed = cycle.problem.isEmpty();
     const std::optional<double> engine = isReviewed && review.engine.hasNumbers() ? review.engine.duration() : std::nullopt;
     const bool flew = isReviewed && !cycle.flights.empty();
-    return {{hours(cycle.endTime - cycle.startTime), tr("recorded [h]")},
-            {engine ? hours(*engine) : kNone, tr("engine ran [h]")},
-            {flew ? hours(review.flightTime) : kNone, tr("in flight [h]")},
+    return {{hoursText(cycle.endTime - cycle.startTime), tr("recorded [h]")},
+            {engine ? hoursText(*engine) : kNone, tr("engine ran [h]")},
+            {flew ? hoursText(review.flightTime) : kNone, tr("in flight [h]")},
             {isReviewed && review.fuel.value_or(-1) >= 0 ? tr("%1 l").arg(QLocale().toString(*review.fuel, 'f', 1)) : kNone, tr("fuel")}};
 }
 
