@@ -1,6 +1,8 @@
 #pragma once
 
+#include "support/RecordingCanvas.h"
 #include "ui/graph/model/GraphFrame.h"
+#include "ui/graph/model/GraphScene.h"
 
 namespace ZARN::Test {
 
@@ -24,5 +26,16 @@ inline GraphLayout layoutOf(GraphModel& model, const QSizeF& size = QSizeF(800, 
     model.settings().legendOn = withLegend;
     return {model, size, 11};
 }
+
+/// All that is painted of a graph in a view of that size.
+struct Drawing : RecordingCanvas {
+    Drawing(const GraphModel& model, const QSizeF& size)
+    {
+        frame.update(model, size, 11, 1);
+        GraphScene(model, frame).draw(*this);
+    }
+    [[nodiscard]] const GraphLayout& layout() const { return frame.layout(); }
+    GraphFrame frame;
+};
 
 } // namespace ZARN::Test
