@@ -31,6 +31,8 @@ private Q_SLOTS:
     void windowFollows();
     void verticesOfWindow_data();
     void verticesOfWindow();
+    void columnsHaveTheirExtremes_data();
+    void columnsHaveTheirExtremes();
     void interruptedAndStepped();
     void coloursStay();
     void extendsToPresent();
@@ -42,6 +44,8 @@ private Q_SLOTS:
     void labels();
     void markerValues();
     void markerText();
+    void markerOfLittle();
+    void tellsOfChanges();
     void bands();
     void survivesAnything();
 };
@@ -204,6 +208,59 @@ void TestGraphModel::verticesOfWindow()
     QVERIFY(cache.isCurrent(graph.model.traces(), window) && !cache.isCurrent(graph.model.traces(), window.movedBy(1)));
     graph.model.putValue(0, 1, false);
     QVERIFY(!cache.isCurrent(graph.model.traces(), window));
+}
+
+void TestGraphModel::columnsHaveTheirExtremes_data()
+{
+    QTest::addColumn<bool>("backwards");
+    QTest::addColumn<int>("columns");
+    for (const int columns : {1, 7, 100, 333}) {
+        QTest::addRow("ascending, %d", columns) << false << columns;
+        QTest::addRow("backwards, %d", columns) << true << columns;
+    }
+}
+
+/// What is drawn of a column: the first, the least, the greatest and the last value of its samples, or each of a few.
+void TestGraphModel::columnsHaveTheirExtremes()
+{
+    QFETCH(const bool, backwards);
+    QFETCH(const int, columns);
+    constexpr double kBegin = 100, kEnd = 400;
+    std::vector<double> times, values;
+    for (int i = 0; i < 5000; ++i) {
+        times.push_back(50 + i * 0.1 - (backwards && i % 500 > 450 ? 7 : 0) + (i > 3000 ? 20 : 0)); // and nothing for a while
+        values.push_back(i * 7919 % 1009);
+    }
+    SampleSeries samples;
+    samples.append(times, values);
+    std::vector<QPointF> vertices;
+    TraceBuilder().build(samples, kBegin, kEnd, columns, vertices);
+    const double width = (kEnd - kBegin) / columns;
+    std::vector<std::vector<double>> expected(static_cast<std::size_t>(columns)), found(expected);
+    for (std::size_t i = 0; i < times.size(); ++i) {
+        if (times[i] >= kBegin && times[i] < kEnd)
+            expected[static_cast<std::size_t>((times[i] - kBegin) / width)].push_back(values[i]);
+    }
+    double before = -1e9;
+    for (const QPointF& vertex : vertices) {
+        QVERIFY(vertex.x() >= before || backwards);
+        before = vertex.x();
+        if (vertex.x() >= 0 && vertex.x() < kEnd - kBegin)
+            found[static_cast<std::size_t>(vertex.x() / width)].push_back(vertex.y());
+    }
+    int reduced = 0;
+    for (std::size_t column = 0; column < expected.size(); ++column) {
+        const std::vector<double>&all = expected[column], &drawn = found[column];
+        QCOMPARE(drawn.empty(), all.empty());
+        if (all.empty())
+            continue;
+        QVERIFY(drawn.front() == all.front() && drawn.back() == all.back());
+        QCOMPARE(*std::ranges::min_element(drawn), *std::ranges::min_element(all));
+        QCOMPARE(*std::ranges::max_element(drawn), *std::ranges::max_element(all));
+        QVERIFY(drawn.size() <= 4 || drawn == all);
+        reduced += all.size() > 4;
+    }
+    QVERIFY(reduced > 0 && vertices.size() <= static_cast<std::size_t>(4 * columns + 8));
 }
 
 void TestGraphModel::interruptedAndStepped()
@@ -423,6 +480,65 @@ void TestGraphModel::markerText()
     QCOMPARE(lines[0], "Time\t00:00:00.000\t00:00:10.000");
     QCOMPARE(lines[1], "dt\t10.000 s");
     QCOMPARE(lines[3], QString::fromUtf8("A B\t%1\t1.00\t3.00\t2.00\t1.00\t3.00\t2.000\t0.006\t%1\u00b7h"));
+}
+
+void TestGraphModel::markerOfLittle()
+{
+    GraphModel model;
+    model.traces().setActive(0, true);
+    model.putValues(0, std::vector<double>{10, 20}, std::vector<double>{1, 5});
+    const auto marked = [&](double start, double end) { return ZARN::markerValues(model.traces(), {start, end}).front(); };
+    const MarkerValues behind = marked(20, 30); // the last value stands, but nothing says what came between
+    QVERIFY(behind.mean == 5.0 && !behind.integral && behind.minimum == 5.0 && behind.difference == 0.0);
+    const MarkerValues before = marked(0, 10);
+    QVERIFY(!before.atStart && before.atEnd == 1.0 && !before.difference && before.minimum == 1.0 && before.maximum == 1.0);
+    const MarkerValues inside = marked(12, 12);
+    QVERIFY(inside.atStart == 1.0 && inside.minimum == 1.0 && inside.mean == 1.0 && !inside.integral);
+    QCOMPARE(integralUnit(""), QString("h"));
+    model.traces().edit(0, [](GraphParameter& trace) { trace.pStates = std::make_shared<const StateNames>(std::map<int64_t, QString>{{1, "On"}}, true); });
+    QCOMPARE(marked(10, 15).texts(), QStringList({"On", "On", "-", "On", "On", "-", "-"}));
+    model.scenery().setGhost(std::make_shared<Ghost>(Ghost{"Other", model.traces()}));
+    model.scenery().setGhostShift(10); // what is compared with is 10 s later
+    const auto both = ZARN::markerValues(model.traces(), {20, 30}, &model.scenery());
+    QVERIFY(both.size() == 2 && both[1].index == 0 && both[0].atStart == 5.0 && both[1].atStart == 1.0 && both[1].atEnd == 5.0);
+    QVERIFY(both[1].label().startsWith("Other: ") && !both[0].label().contains("Other"));
+}
+
+void TestGraphModel::tellsOfChanges()
+{
+    GraphModel model;
+    QSignalSpy repaint(&model, &GraphModel::signalRepaint), window(&model, &GraphModel::signalWindow), cursor(&model, &GraphModel::signalCursor),
+        manual(&model, &GraphModel::signalManMode);
+    const auto told = [&repaint](const auto& change) {
+        repaint.clear();
+        change();
+        return !repaint.isEmpty();
+    };
+    QVERIFY(told([&] { model.setWindow({1, 2}); }) && window.count() == 1);
+    QVERIFY(!told([&] { model.setWindow({1, 2}); }) && window.count() == 1);
+    QVERIFY(told([&] { model.setCursorPosition(5); }) && !told([&] { model.setCursorPosition(INFINITY); }) && model.cursor().time == 5);
+    QVERIFY(cursor.isEmpty() && told([&] { model.moveCursor(6, 7, 2); }) && cursor.takeFirst() == (QList<QVariant>{6.0F, 7.0}) && model.cursor().strip == 2);
+    QVERIFY(told([&] { model.setCursorMoving(true); }) && !told([&] { model.setCursorMoving(true); }));
+    QVERIFY(told([&] { model.setMarker({1, 2}); }) && !told([&] { model.setMarker({1, NAN}); }) && model.marker().end == 2);
+    QVERIFY(told([&] { model.addTopMarker({1, 2}); }) && told([&] { model.setOfflineMode(false); }) && told([&] { model.setTime(3); }));
+    QVERIFY(!told([&] { GraphModel().putValue(0, 1, true); }));
+    model.settings().graphMode = eAutomatic;
+    model.takeOverTime();
+    model.takeOverTime();
+    QVERIFY(manual.count() == 1 && model.settings().graphMode == eManual);
+    model.putValue(0, 1, false);
+    model.putValues(1, std::vector<double>{1, INFINITY, 3}, std::vector<double>{1, 2}); // as many as there are of both
+    QVERIFY(model.traces().at(1)->samples.size() == 2 && model.traces().at(1)->samples.time(1) == 0.0);
+    model.putValues(-1, std::vector<double>{1}, std::vector<double>{1});
+    model.clear();
+    QVERIFY(model.topMarkers().empty() && model.traces().at(0)->samples.empty() && model.marker().end == 2);
+    model.reset();
+    QVERIFY(model.marker().end == 0 && model.cursor().time == 0 && model.cursor().value == 0 && model.window() == TimeWindow());
+    model.putValue(0, 1, false); // at no time
+    QVERIFY(model.traces().at(0)->samples.empty());
+    model.setMarker({5, 5.0000001});
+    model.zoomToMarker();
+    QVERIFY(model.window().width() >= TimeWindow::kSmallest);
 }
 
 void TestGraphModel::bands()
