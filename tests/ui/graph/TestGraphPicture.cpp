@@ -3,7 +3,6 @@
 #include "ui/graph/model/GraphTexts.h"
 #include "ui/graph/model/MarkerValues.h"
 
-#include <QRegularExpression>
 #include <QTest>
 
 #include <algorithm>
@@ -11,44 +10,17 @@
 
 using namespace ZARN;
 using Test::Drawing;
+using Test::isUpright;
+using Test::Three;
+using Test::uprights;
 
 namespace {
 
 constexpr QSizeF kSize(1400, 700);
 
-/// Three traces of 1 Hz from 0 to 100 s: the time, ten times it downwards, and 7 throughout.
-struct Three {
-    explicit Three(eDisplayMode mode = eSingleGraph)
-    {
-        model.settings().graphMode = eManual;
-        model.settings().legendOn = true;
-        model.settings().displayMode = mode;
-        model.traces().setCount(3);
-        for (const int index : {0, 1, 2}) {
-            std::vector<double> times, values;
-            for (int i = 0; i <= 100; ++i) {
-                times.push_back(i);
-                values.push_back(index == 0 ? i : index == 1 ? 1000 - 10 * i : 7);
-            }
-            model.traces().setActive(index, true);
-            model.traces().setName(index, QString("Trace %1").arg(index), index == 2 ? "" : "kPa");
-            model.putValues(index, times, values);
-        }
-        model.setWindow({20, 80});
-        model.setCursorPosition(50);
-    }
-    [[nodiscard]] const QColor& colour(int index) const { return model.traces().at(index)->drawnColour; }
-    GraphModel model;
-};
-
 const Test::RecordingCanvas::Strip& stripOf(const Drawing& drawing, const QColor& colour)
 {
     return *std::ranges::find(drawing.strips, colour, [](const auto& strip) { return strip.pen.colour; });
-}
-
-bool isUpright(const Test::RecordingCanvas::Line& line)
-{
-    return line.line.x1() == line.line.x2();
 }
 
 /// The lines of traces, which stay within their areas.
@@ -57,25 +29,6 @@ std::vector<Test::RecordingCanvas::Strip> traceStrips(const Drawing& drawing)
     std::vector<Test::RecordingCanvas::Strip> result;
     std::ranges::copy_if(drawing.strips, std::back_inserter(result), [](const auto& strip) { return strip.clip.width() < 1e6; });
     return result;
-}
-
-/// Where upright lines of that height stand in the plot.
-std::vector<double> uprights(const Drawing& drawing, double top, double bottom, bool isOpaque)
-{
-    std::vector<double> result;
-    for (const auto& line : drawing.drawnLines) {
-        const bool isInside = line.line.x1() >= drawing.layout().plot().left();
-        if (isInside && isUpright(line) && line.line.y1() == top && line.line.y2() == bottom && (line.pen.colour.alpha() == 255) == isOpaque)
-            result.push_back(line.line.x1());
-    }
-    return result;
-}
-
-double seconds(const QString& text)
-{
-    const QStringList parts = QString(text).remove('-').split(':');
-    const double value = parts[0].toDouble() * 3600 + parts[1].toDouble() * 60 + parts[2].toDouble();
-    return text.startsWith('-') ? -value : value;
 }
 
 } // namespace
@@ -88,12 +41,6 @@ private Q_SLOTS:
     void tracesLieAtTheirValues_data();
     void tracesLieAtTheirValues();
     void samplesAreMarked();
-    void timeAxis_data();
-    void timeAxis();
-    void valueAxes_data();
-    void valueAxes();
-    void namesOfAxes();
-    void bands();
     void cursorAtItsTime();
     void cursorLabelsGiveWay();
     void marker();
@@ -177,174 +124,6 @@ void TestGraphPicture::samplesAreMarked()
     graph.model.traces().clearSamples();
     graph.model.putValues(0, std::vector<double>{25}, std::vector<double>{3});
     QCOMPARE(marks(20, 30), std::size_t(1)); // a single one would not be seen otherwise
-}
-
-void TestGraphPicture::timeAxis_data()
-{
-    QTest::addColumn<double>("begin");
-    QTest::addColumn<double>("width");
-    QTest::addColumn<double>("view");
-    QTest::addColumn<double>("shift");
-    QTest::newRow("a minute") << 20.0 << 60.0 << 1400.0 << 0.0;
-    QTest::newRow("hours") << 3000.0 << 14000.0 << 1400.0 << 0.0;
-    QTest::newRow("around zero") << -50.0 << 120.0 << 900.0 << 0.0;
-    QTest::newRow("parts of a second") << 3599.5 << 0.8 << 1400.0 << 0.0;
-    QTest::newRow("thousandths") << 3599.999 << 0.004 << 700.0 << 0.0;
-    QTest::newRow("from an odd time") << 123.456 << 60.0 << 500.0 << 0.0;
-    QTest::newRow("since take-off") << 100.0 << 600.0 << 1400.0 << -333.0;
-}
-
-void TestGraphPicture::timeAxis()
-{
-    QFETCH(const double, begin);
-    QFETCH(const double, width);
-    QFETCH(const double, view);
-    QFETCH(const double, shift);
-    Three graph;
-    if (shift != 0)
-        graph.model.settings().times = TimeReference(ETimeReference::eTakeOff, shift);
-    graph.model.settings().cursorOn = false;
-    graph.model.setWindow({begin, begin + width});
-    const Drawing drawing(graph.model, QSizeF(view, 400));
-    const GraphLayout& layout = drawing.layout();
-    const QRectF& plot = layout.plot();
-    const std::vector<double> lines = uprights(drawing, plot.top(), plot.bottom() - 1, false);
-    static const QRegularExpression isTime("^-?\\d+:\\d\\d:\\d\\d(\\.\\d+)?$");
-    std::vector<double> told;
-    double right = shift != 0 ? drawing.boxOf("Take-off").right() : 0;
-    for (const auto& [box, text] : drawing.texts) {
-        if (!isTime.match(text).hasMatch() || box.top() < plot.bottom() || box.left() > plot.right() + 50)
-            continue;
-        const double time = seconds(text) - shift;
-        QVERIFY(box.top() >= plot.bottom() && box.top() < plot.bottom() + 8 && box.left() >= right && box.right() <= view);
-        // Its middle at its time, to a pixel that a line of the grid stands at.
-        const double place = plot.left() + (time - begin) / width * plot.width();
-        QVERIFY2(std::abs(box.center().x() - place) < 1.6, qPrintable(text));
-        QVERIFY2(std::ranges::any_of(lines, [&](double x) { return x == std::floor(x) && std::abs(x - place) <= 1.01; }), qPrintable(text));
-        told.push_back(time + shift);
-        right = box.right();
-    }
-    QVERIFY2(told.size() >= 2 && static_cast<double>(told.size()) <= plot.width() / 95, qPrintable(QString::number(told.size())));
-    for (std::size_t i = 1; i < told.size(); ++i) {
-        const double step = told[1] - told[0];
-        QVERIFY(std::abs(told[i] - told[i - 1] - step) < 1e-6 && std::abs(told[i] / step - std::round(told[i] / step)) < 1e-3); // round ones
-        QVERIFY(step / width * plot.width() >= 99);
-    }
-    QVERIFY(lines.size() > told.size()); // finer ones between
-    graph.model.settings().gridOn = false;
-    QVERIFY(uprights(Drawing(graph.model, QSizeF(view, 400)), plot.top(), plot.bottom() - 1, false).size() <= 2); // of the edge
-}
-
-void TestGraphPicture::valueAxes_data()
-{
-    QTest::addColumn<bool>("split");
-    QTest::addColumn<double>("height");
-    QTest::newRow("single") << false << 700.0;
-    QTest::newRow("low") << false << 260.0;
-    QTest::newRow("strips") << true << 700.0;
-    QTest::newRow("low strips") << true << 260.0;
-}
-
-void TestGraphPicture::valueAxes()
-{
-    QFETCH(const bool, split);
-    QFETCH(const double, height);
-    Three graph(split ? eSplit : eSingleGraph);
-    graph.model.settings().cursorOn = false;
-    const Drawing drawing(graph.model, QSizeF(1400, height));
-    const GraphLayout& layout = drawing.layout();
-    QCOMPARE(layout.axes().size(), std::size_t(3));
-    const auto isLevel = [&](double y, double right) {
-        return std::ranges::any_of(drawing.drawnLines, [&](const auto& line) {
-            return std::abs(line.line.y1() - y) < 1.01 && line.line.y2() == line.line.y1() && std::abs(line.line.x2() - right) < 1.01;
-        });
-    };
-    for (const ValueAxis& axis : layout.axes()) {
-        const QRectF area = layout.area(axis.index);
-        const ValueSpan span = graph.model.valueSpan(axis.index);
-        std::vector<std::pair<double, double>> labels; // heights and values
-        for (const auto& [box, text] : drawing.texts) {
-            bool isNumber = false;
-            const double value = text.toDouble(&isNumber);
-            if (!isNumber || !axis.labels.contains(box.center()) || box.right() > axis.labels.right() - 4 || box.right() < axis.labels.right() - 6)
-                continue;
-            const double place = area.bottom() - (value - span[0]) / (span[1] - span[0]) * area.height();
-            if (area.height() > 150) // lower ones move the outermost inwards
-                QVERIFY2(std::abs(box.center().y() - place) < 2.1, qPrintable(text));
-            QVERIFY2(split || isLevel(place, axis.labels.right() - 1), qPrintable(text)); // its mark
-            if (split ? area.height() > 150 : &axis == &layout.axes().front()) // the grid stands at the values of the first, and of each strip
-                QVERIFY2(isLevel(place, area.right() - 1), qPrintable(text));
-            labels.emplace_back(box.center().y(), value);
-        }
-        QVERIFY2(labels.size() >= 2, qPrintable(QString::number(axis.index)));
-        std::ranges::sort(labels);
-        for (std::size_t i = 1; i < labels.size(); ++i)
-            QVERIFY(labels[i].second < labels[i - 1].second && labels[i].first - labels[i - 1].first >= layout.line() - 1);
-    }
-    const bool hasEdges = isLevel(layout.area(0).bottom(), layout.plot().right() - 1) && isLevel(layout.area(1).bottom(), layout.plot().right() - 1);
-    QVERIFY(!split || hasEdges);
-}
-
-/// Over its axis stands whose values it has.
-void TestGraphPicture::namesOfAxes()
-{
-    Three graph;
-    const Drawing drawing(graph.model, kSize);
-    const GraphLayout& layout = drawing.layout();
-    const ValueAxis& front = layout.axes().front();
-    const QRectF name = drawing.boxOf(graph.model.traces().at(front.index)->label());
-    QVERIFY(!name.isEmpty() && name.bottom() <= layout.plot().top() && name.left() >= front.labels.left() && name.top() >= 0);
-    for (const ValueAxis& axis : layout.axes()) {
-        if (&axis == &front || axis.index == 2)
-            continue;
-        QVERIFY(std::ranges::any_of(drawing.texts, [&](const auto& entry) {
-            return entry.second == "kPa" && entry.first.bottom() <= layout.plot().top() && entry.first.left() >= axis.labels.left() &&
-                   std::abs(entry.first.right() - axis.labels.right() + 5) < 1.5;
-        }));
-    }
-    graph.model.settings().scale.isShared = true; // one for all of a unit: its name is that of the unit
-    const Drawing shared(graph.model, kSize);
-    QVERIFY(!shared.boxOf("[kPa]").isEmpty() && shared.boxOf("[kPa]").bottom() <= shared.layout().plot().top());
-    Three alone;
-    alone.model.traces().setActive(1, false);
-    alone.model.traces().setActive(2, false);
-    QVERIFY(Drawing(alone.model, QSizeF(200, 600)).boxOf("Trace 0 [kPa]").isEmpty()); // one trace needs no telling
-}
-
-void TestGraphPicture::bands()
-{
-    for (const bool split : {false, true}) {
-        Three graph(split ? eSplit : eSingleGraph);
-        for (const int index : {0, 1}) {
-            graph.model.traces().edit(index, [index](GraphParameter& trace) {
-                trace.bands = {{index ? 300.0 : 30.0, index ? 400.0 : INFINITY, QColor(index, 99, 0)}, {1e6, 2e6, QColor(index, 98, 0)}};
-            });
-        }
-        const auto found = [](const Drawing& drawing, const QColor& colour) {
-            const auto area = std::ranges::find_if(drawing.areas, [&](const auto& one) {
-                return one.colour.red() == colour.red() && one.colour.green() == colour.green() && one.colour.blue() == 0 && one.colour.alpha() < 100;
-            });
-            return area == drawing.areas.end() ? QRectF() : area->rect;
-        };
-        QCOMPARE(found(Drawing(graph.model, kSize), QColor(0, 99, 0)).isEmpty(), !split); // in a single graph of the chosen one alone
-        graph.model.traces().point(0);
-        const Drawing drawing(graph.model, kSize);
-        QCOMPARE(found(drawing, QColor(1, 99, 0)).isEmpty(), !split);
-        QVERIFY(found(drawing, QColor(0, 98, 0)).isEmpty()); // far above what is shown
-        const QRectF area = drawing.layout().area(0), band = found(drawing, QColor(0, 99, 0));
-        QVERIFY(band.top() == area.top() && band.left() == area.left() && band.right() == area.right());
-        QVERIFY(std::abs(valueAt(band.bottom(), area, graph.model.valueSpan(0)) - 30) < 1e-6);
-        if (split) {
-            const QRectF inner = found(drawing, QColor(1, 99, 0)), second = drawing.layout().area(1);
-            QVERIFY(std::abs(valueAt(inner.top(), second, graph.model.valueSpan(1)) - 400) < 1e-6);
-            QVERIFY(std::abs(valueAt(inner.bottom(), second, graph.model.valueSpan(1)) - 300) < 1e-6);
-        }
-        graph.model.traces().point(-1);
-        graph.model.settings().scale.reference = {40, 60};
-        const std::size_t before = Drawing(graph.model, kSize).areas.size();
-        graph.model.settings().scale.isReferenceShown = true;
-        QCOMPARE(Drawing(graph.model, kSize).areas.size(), before + 1);
-    }
 }
 
 void TestGraphPicture::cursorAtItsTime()
