@@ -388,6 +388,7 @@ void TestGraphPicture::message()
     QVERIFY(std::abs(one.center().x() - plot.center().x()) < 1.5 && std::abs((one.top() + two.bottom()) / 2 - plot.center().y()) < 2);
     const QRectF ground = drawing.areas.back().rect.isEmpty() ? QRectF() : drawing.areas.back().rect;
     QVERIFY(ground.contains(one) && ground.contains(two) && plot.contains(ground)); // above whatever stands there
+    QVERIFY(one.top() - ground.top() < 20 && ground.bottom() - two.bottom() < 20 && two.left() - ground.left() < 24); // and no more than that
 }
 
 /// Another flight is drawn behind, moved by its shift; in a single graph that of the axis alone.

@@ -302,6 +302,8 @@ void TestMapScene::wrongFixesAndAircraft()
         QVERIFY(rim[0].points.front() == rim[0].points.back() && isNear(rim[0].points.front(), place + nose, 0.1));
         const QRectF box = RecordingCanvas::Shape{rim[0].points, {}}.box();
         QVERIFY(box.contains(place) && box.width() < 36 && box.height() < 36);
+        for (std::size_t i = 0; i < rim[0].points.size(); ++i) // left and right wing alike
+            QVERIFY(std::abs(QLineF(place, rim[0].points[i]).length() - QLineF(place, rim[0].points[rim[0].points.size() - 1 - i]).length()) < 0.01);
         QVERIFY(!boxesOf(turned, scene.colours().aircraft, 3).empty());
     }
     Scene none;
