@@ -1,4 +1,5 @@
 #include "GraphFixtures.h"
+#include "ui/graph/model/AxisTicks.h"
 
 #include <QRegularExpression>
 #include <QTest>
@@ -29,6 +30,8 @@ class TestGraphAxes : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void ticksAreRound_data();
+    void ticksAreRound();
     void timeAxis_data();
     void timeAxis();
     void valueAxes_data();
@@ -36,6 +39,51 @@ private Q_SLOTS:
     void namesOfAxes();
     void bands();
 };
+
+void TestGraphAxes::ticksAreRound_data()
+{
+    QTest::addColumn<double>("min");
+    QTest::addColumn<double>("width");
+    for (const double min : {0.0, -17.3, 1234.5}) {
+        for (const double width : {0.004, 0.03, 0.7, 1.0, 5.0, 9.99, 10.01, 99.0, 150.0, 2000.0, 4e4, 7e6})
+            QTest::addRow("%g from %g on", width, min) << min << width;
+    }
+}
+
+/// Ticks stand at 1, 2 or 5 times a power of ten, none within the range is left out, and their labels tell them apart.
+void TestGraphAxes::ticksAreRound()
+{
+    QFETCH(const double, min);
+    QFETCH(const double, width);
+    for (const double length : {120.0, 400.0, 1000.0}) {
+        const AxisTicks ticks(min, min + width, length, 60);
+        const double step = ticks.step(), digit = step / std::pow(10.0, std::floor(std::log10(step) + 1e-9));
+        QVERIFY2(std::abs(digit - 1) < 1e-6 || std::abs(digit - 2) < 1e-6 || std::abs(digit - 5) < 1e-6, qPrintable(QString::number(step)));
+        const double pixels = step / width * length;
+        QVERIFY2(pixels > 59.99 && pixels <= 60 * 10.001, qPrintable(QString::number(pixels))); // no closer than wanted
+        const double near = 1e-3 * step; // of numbers that are rounded
+        QVERIFY(ticks.ticks().size() > 1 && ticks.ticks().front().value >= min - near && ticks.ticks().back().value <= min + width + near);
+        const double part = ticks.ticks()[1].value - ticks.ticks()[0].value;
+        QVERIFY(ticks.ticks().front().value - part < min + near && ticks.ticks().back().value + part > min + width - near);
+        QVERIFY(part < step && std::abs(step / part - std::round(step / part)) < 1e-6);
+        QSet<QString> labels;
+        int majors = 0;
+        for (const AxisTick& tick : ticks.ticks()) {
+            const double count = tick.value / step;
+            QCOMPARE(tick.isMajor, std::abs(count - std::round(count)) < 1e-6);
+            if (!tick.isMajor)
+                continue;
+            ++majors;
+            labels << ticks.valueLabel(tick.value);
+            QVERIFY2(std::abs(ticks.valueLabel(tick.value).toDouble() - tick.value) < step / 1000, qPrintable(ticks.valueLabel(tick.value)));
+        }
+        QCOMPARE(labels.size(), majors);
+        float told = 0;
+        int parts = 0;
+        getAutoPara(min, min + width, length, 60, told, parts);
+        QVERIFY(std::abs(static_cast<double>(told) - step) < 1e-6 * step && std::abs(step / part - parts) < 1e-6);
+    }
+}
 
 void TestGraphAxes::timeAxis_data()
 {

@@ -170,6 +170,7 @@ void TestGraphLayout::legendBesideOrBelow()
         ++below;
         QVERIFY(legend.left() == 6 && std::abs(legend.right() - (width - 6)) < 1e-9 && legend.height() <= 0.4 * 700);
         QVERIFY(layout.nameLength() >= 6 && layout.plot().height() > 60);
+        QVERIFY(700 - legend.bottom() < 6 && legend.top() - layout.plot().bottom() < layout.line() + 18); // close to what is above and below
         // No narrower than what stands in a line: name, number, swatch and unit.
         const Drawing canvas(model, QSizeF(width, 700));
         for (const auto& [box, text] : canvas.texts) {
@@ -190,6 +191,8 @@ void TestGraphLayout::legendBesideOrBelow()
         columns.insert(many.legendLine(model, row).left());
     QVERIFY(columns.size() > 1 && *columns.rbegin() + first.width() <= many.legend().right() + 1e-9);
     QCOMPARE(many.legendRows().count, 20);
+    fill(model, 20, 24); // names are cut before a column goes
+    QVERIFY(layoutOf(model, 520, 520).legendLine(model, 0).width() < 300 && layoutOf(model, 520, 520).nameLength() >= 14);
 }
 
 /// Strips tell their values beside them as long as a line has room in each; else the legend is a list.

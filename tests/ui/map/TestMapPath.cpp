@@ -251,6 +251,10 @@ void TestMapPath::zoomsTurnsAndMoves()
     }
     navigator.fit(path, true);
     const OpenStreet::GeoPoint middle = navigator.camera().windowToGeo({400, 300});
+    navigator.setFollowing(false);
+    navigator.zoomAboutMiddle(0.5);
+    QVERIFY(arrive() && isNear(seen(navigator.camera(), middle.latitude, middle.longitude), {400, 300}, 0.01)); // whatever is pointed at
+    navigator.fit(path, true);
     navigator.pan(100, -50);
     navigator.pan(100, -50); // before the first has arrived
     QVERIFY(arrive() && isNear(seen(navigator.camera(), middle.latitude, middle.longitude), {200, 400}, 0.05));
