@@ -43,7 +43,7 @@ void SampleSeries::useDoubles()
 {
     mDoubles.reserve(std::max(mFloats.capacity(), mFloats.size() + 1));
     mDoubles.assign(mFloats.begin(), mFloats.end());
-    mFloats = {};
+    mFloats = std::vector<float>(); // "= {}" would keep their memory
     mFloatPyramid.clear();
     mIsDouble = true;
     mDoublePyramid.update(mDoubles);

@@ -64,6 +64,10 @@ private Q_SLOTS:
     void agreesWithScans_data();
     void agreesWithScans();
     void integrates();
+    void integratesFromSampleToSample();
+    void interpolates();
+    void extremesAndMean();
+    void withoutNumbers();
     void memory();
 };
 
@@ -144,13 +148,89 @@ void TestSampleSeries::integrates()
     }
 }
 
+/// Ends that are samples, at and around the places where partial sums are kept.
+void TestSampleSeries::integratesFromSampleToSample()
+{
+    SampleSeries series;
+    for (int i = 0; i <= 600; ++i)
+        series.append(10.0 + i, i % 2 ? 3.0 : 1.0); // each second counts 2
+    const auto seconds = [&series](double from, double to) {
+        double covered = -1;
+        const double area = series.integral(from, to, &covered);
+        return area == 2 * covered ? covered : -1;
+    };
+    for (const int from : {0, 1, 127, 128, 129, 255, 256, 300, 599, 600}) {
+        for (const int to : {0, 1, 2, 127, 128, 129, 256, 257, 384, 512, 513, 600, 700})
+            QCOMPARE(seconds(10.0 + from, 10.0 + to), std::max(0.0, std::min(to, 600) - static_cast<double>(from)));
+    }
+    QCOMPARE(series.integral(0, 11), 2.0);
+    QCOMPARE(series.integral(10.5, 10.5), 0.0);
+    QCOMPARE(series.integral(20, 15), 0.0);
+    QVERIFY(std::abs(series.integral(10, 10.5) - 0.75) < 1e-12 && std::abs(series.integral(10.5, 11) - 1.25) < 1e-12);
+    QVERIFY(std::abs(series.integral(10.25, 10.75) - 1.0) < 1e-12); // within one stretch
+    SampleSeries one;
+    double covered = -1;
+    one.append(5, 7);
+    QVERIFY(one.integral(0, 10, &covered) == 0.0 && covered == 0.0 && SampleSeries().integral(0, 10) == 0.0);
+}
+
+void TestSampleSeries::interpolates()
+{
+    SampleSeries series;
+    for (const auto& [time, value] : {std::pair(10.0, 1.0), {20.0, 3.0}, {20.0, 7.0}, {30.0, 5.0}})
+        series.append(time, value);
+    for (const auto& [time, value] : {std::pair(0.0, 1.0), {10.0, 1.0}, {15.0, 2.0}, {19.0, 2.8}, {20.0, 3.0}, {25.0, 6.0}, {30.0, 5.0}, {99.0, 5.0}})
+        QVERIFY2(std::abs(series.interpolated(time) - value) < 1e-12, qPrintable(QString::number(time)));
+}
+
+void TestSampleSeries::extremesAndMean()
+{
+    SampleSeries series;
+    QVERIFY(series.extremes().isEmpty() && series.average() == 0.0 && series.empty());
+    const double last = 0.1; // from it on values take 8 bytes
+    const std::vector<double> times{1, 2, 3, 4, 5}, values{4, INFINITY, std::nan(""), -2, last};
+    series.append(times, std::span(values).first(4));
+    QVERIFY(series.size() == 4 && series.extremes().least == -2 && series.extremes().greatest == 4 && series.average() == 1.0);
+    QVERIFY(series.range(0, 1).least == 4 && series.range(0, 2).greatest == INFINITY && series.range(3, 3).isEmpty());
+    series.append(5, last);
+    QVERIFY(series.value(4) == last && series.value(0) == 4 && std::isnan(series.value(2)) && series.range(3, 5).greatest == last);
+    QCOMPARE(series.average(), 2.1 / 3);
+    series.clear();
+    QVERIFY(series.empty() && series.extremes().isEmpty() && !series.lastAtOrBefore(9) && series.firstAtOrAfter(0) == 0);
+    series.append(7, 1);
+    QVERIFY(series.size() == 1 && series.lastAtOrBefore(7) == 0U && !series.lastAtOrBefore(6.9) && series.ascending());
+    series.append(7, 2);
+    QVERIFY(series.ascending() && series.firstAtOrAfter(7) == 0 && series.lastAtOrBefore(7) == 1U);
+    series.append(6, 3);
+    QVERIFY(!series.ascending() && !series.lastAtOrBefore(6.5) && series.lastAtOrBefore(7) == 2U && series.firstAtOrAfter(6) == 0);
+}
+
+void TestSampleSeries::withoutNumbers()
+{
+    const double nan = std::nan("");
+    SampleSeries series;
+    std::vector<uint32_t> positions{9, 9};
+    series.positionsAt(0, 1, positions);
+    QCOMPARE(positions, (std::vector<uint32_t>{0, 0}));
+    for (const double time : {-3.5, 86401.0, 86402.0, 172900.0}) // before power-up, and around the end of what is indexed
+        series.append(time, 1);
+    for (const auto& [time, first, last] : {std::tuple(-4.0, 0U, -1), {-3.5, 0U, 0}, {0.0, 1U, 0}, {86400.9, 1U, 0}, {86401.0, 1U, 1}, {86401.5, 2U, 1},
+                                            {86402.0, 2U, 2}, {90000.0, 3U, 2}, {172900.0, 3U, 3}, {172901.0, 4U, 3}}) {
+        QCOMPARE(series.firstAtOrAfter(time), std::size_t(first));
+        QCOMPARE(series.lastAtOrBefore(time), last < 0 ? std::nullopt : std::optional(static_cast<std::size_t>(last)));
+    }
+    QVERIFY(series.firstAtOrAfter(nan) == 4 && !series.lastAtOrBefore(nan));
+}
+
 void TestSampleSeries::memory()
 {
     SampleSeries series;
-    series.reserve(1000000);
+    series.reserve(1000001);
     for (int i = 0; i < 1000000; ++i)
         series.append(i * 0.02, i % 1000);
-    QVERIFY(series.bytes() < 13 * 1000000);
+    QVERIFY(series.bytes() < 13 * 1000000 && series.bytes() > 12 * 1000000);
+    series.append(20000, 0.1); // 8 bytes a value from now on
+    QVERIFY2(series.bytes() > 16 * 1000000 && series.bytes() < 18 * 1000000, std::to_string(series.bytes()).c_str());
     // Times far apart, as damage brings them, make no index grow with them.
     SampleSeries damaged;
     damaged.append(0.0, 1.0);

@@ -72,6 +72,9 @@ private Q_SLOTS:
     void equalsTheNaiveTable_data();
     void equalsTheNaiveTable();
     void laterSamplesOfATenthReplaceEarlierOnes();
+    void cellsInAnyOrder();
+    void rowsAtTheEdgesOfWords();
+    void withoutSamples();
     void memory_data();
     void memory();
 };
@@ -131,6 +134,56 @@ void TestTableRows::laterSamplesOfATenthReplaceEarlierOnes()
     QVERIFY(!rows.sampleAt(1, 0));
     QCOMPARE(rows.rowAt(2.04), 0U);
     QCOMPARE(rows.rowAt(2.05), 1U);
+}
+
+/// A search goes on from where the last one ended, wherever that was.
+void TestTableRows::cellsInAnyOrder()
+{
+    RecordData data;
+    RecordFileBuilder file;
+    for (int i = 0; i < 2000; ++i)
+        file.addWord(1, i * 0.1, 0).addWord(2, i * 0.3, 0);
+    file.fill(data);
+    const TraceSet traces = tracesOf(data, {1, 2});
+    const TableRows rows(traces);
+    std::mt19937 random(5);
+    for (int i = 0; i < 3000; ++i) {
+        const std::size_t row = random() % rows.rowCount();
+        const uint32_t tenths = rows.key(row).tenths;
+        QCOMPARE(rows.sampleAt(0, row), tenths < 2000 ? std::optional<std::size_t>(tenths) : std::nullopt);
+        QCOMPARE(rows.sampleAt(1, row), tenths % 3 == 0 ? std::optional<std::size_t>(tenths / 3) : std::nullopt);
+    }
+    for (const std::size_t row : {std::size_t(0), rows.rowCount() - 1, std::size_t(0)})
+        QVERIFY(rows.sampleAt(0, row).has_value() == (row == 0) && rows.sampleAt(1, row));
+}
+
+void TestTableRows::rowsAtTheEdgesOfWords()
+{
+    for (const uint32_t first : {0U, 1U, 63U, 64U, 100U}) {
+        for (const uint32_t width : {0U, 1U, 62U, 63U, 64U, 65U, 127U, 128U, 129U, 1000U}) {
+            RecordData data;
+            RecordFileBuilder file;
+            for (uint32_t tenths = first; tenths <= first + width; ++tenths) // the second channel's rows are there by then, but for the last
+                file.addWord(1, tenths * 0.1, 0).addWord(2, tenths * 0.1 + (tenths == first + width ? 0.1 : 0.0), 0);
+            file.fill(data);
+            const TraceSet traces = tracesOf(data, {1, 2});
+            const TableRows rows(traces);
+            QCOMPARE(rows.rowCount(), std::size_t(width) + 2);
+            for (std::size_t row = 0; row < rows.rowCount(); ++row)
+                QCOMPARE(rows.key(row).tenths, first + static_cast<uint32_t>(row));
+            QVERIFY(!rows.sampleAt(0, rows.rowCount() - 1) && rows.sampleAt(1, rows.rowCount() - 1) == width);
+        }
+    }
+}
+
+void TestTableRows::withoutSamples()
+{
+    const RecordData data;
+    const TraceSet traces = tracesOf(data, {1, 2}), none = tracesOf(data, {});
+    const TableRows rows(traces);
+    QVERIFY(rows.rowCount() == 0 && rows.columnCount() == 2 && rows.rowAt(5) == 0);
+    QVERIFY(TableRows(none).columnCount() == 0 && TableRows().rowCount() == 0);
+    QVERIFY(rows.bytes() > 0);
 }
 
 void TestTableRows::memory_data()

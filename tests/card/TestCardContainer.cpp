@@ -126,6 +126,9 @@ private Q_SLOTS:
     void cyclesAndDates();
     void unreadableFileStartsACycle();
     void loadedSpanIsThatOfTheFiles();
+    void tellsWhatIsLoaded();
+    void growsLive();
+    void draftsAreTakenOver();
     void damagedCardLoads();
     void valuesAtTimes_data();
     void valuesAtTimes();
@@ -254,6 +257,80 @@ void TestCardContainer::loadedSpanIsThatOfTheFiles()
     QCOMPARE(container.startTime(), 70.0);
     QCOMPARE(container.endTime(), 10.0);
     QCOMPARE(container.recordData().channel(1)->entries.front().time, 70.0);
+}
+
+void TestCardContainer::tellsWhatIsLoaded()
+{
+    CardBuilder card;
+    card.file("A.CAN").dateTime(kNoon).serial(1).addWord(1, 20, 1).addWord(1, 30, 2);
+    card.file("B.CAN").dateTime(kNoon.addSecs(60)).serial(2).addWord(1, 70, 4).addWord(1, 90, 5);
+    card.rawFile("C.CAN", "x");
+    TestCycle cycle;
+    CardContainer& container = cycle.container;
+    QVERIFY(container.name().isEmpty() && !container.loadedCycle() && container.selectedFlightNumber() == 0 && !container.loaded().cycle);
+    QVERIFY(container.readContainer(card.write() + "//"));
+    QCOMPARE(container.path(), card.path());
+    QCOMPARE(container.name(), card.path().section('/', -1));
+    QVERIFY(!container.loadCycle(7, -1) && !container.loadedCycleNumber());
+    const unsigned int number = container.recordCycles().begin()->first;
+    QVERIFY(!container.loadCycle(number, 0) && container.loadCycle(number, -1)); // there is no flight
+    const LoadedCard loaded = container.loaded();
+    QVERIFY(loaded.card == container.name() && loaded.cycle == number && loaded.cycleName == container.loadedCycle()->name);
+    QVERIFY(loaded.startTime == 20 && loaded.endTime == 90 && loaded.wholeStart == 20 && loaded.wholeEnd == 90 && loaded.indexEnd == 90);
+    QVERIFY(loaded.cycleDate == kNoon && loaded.powerUp == kNoon.addSecs(-20) && loaded.flightNumber == 0 && loaded.flights.empty());
+    QVERIFY(loaded.unit && loaded.unit->ecuSerialNumber == 2U); // of its last file
+    QVERIFY(loaded.pRecord->count() == 4 && loaded.problems.size() == container.problems().size() && !loaded.problems.empty());
+    QVERIFY(container.loadCycle(number, -1));
+    QVERIFY(container.loaded().pRecord != loaded.pRecord && loaded.pRecord->count() == 4); // a loaded one does not change
+    container.clear();
+    QVERIFY(container.recordFiles().empty() && container.recordCycles().empty() && !container.loadedCycle() && container.recordData().count() == 4);
+}
+
+void TestCardContainer::growsLive()
+{
+    TestCycle cycle;
+    CardContainer& container = cycle.container;
+    const auto recordOf = [](const std::vector<double>& times) {
+        auto pRecord = std::make_shared<RecordData>();
+        RecordFileBuilder file;
+        for (const double time : times)
+            file.addWord(static_cast<uint32_t>(time) % 2 + 1, time, 1);
+        file.fill(*pRecord);
+        return pRecord;
+    };
+    container.beginLive(kNoon, std::make_shared<RecordData>());
+    QVERIFY(container.isLive() && container.startTime() == 0 && container.endTime() == 0 && container.dateTime() == kNoon && !container.name().isEmpty());
+    container.growLive(recordOf({4, 5, 7}));
+    QVERIFY(container.startTime() == 4 && container.endTime() == 7 && container.selectedFlight().endTime == 7 && container.loadedCycle()->endTime == 7);
+    QVERIFY(container.loaded().indexEnd == 7 && container.loaded().wholeStart == 4 && container.loaded().powerUp == kNoon);
+    container.growLive(recordOf({4, 5, 7, 10}));
+    QVERIFY(container.endTime() == 10 && container.recordData().count() == 4);
+    QVERIFY(container.loadCycle(*container.loadedCycleNumber(), -1) && container.recordData().count() == 4); // reads nothing
+    CardBuilder card;
+    card.file("A.CAN").addWord(1, 1, 1);
+    QVERIFY(container.readContainer(card.write()) && !container.isLive() && container.recordCycles().size() == 1);
+}
+
+/// A draft reads in another thread, and is worth nothing until it is taken over.
+void TestCardContainer::draftsAreTakenOver()
+{
+    CardBuilder card, other;
+    card.file("A.CAN").dateTime(kNoon).addWord(1, 20, 1).addWord(1, 30, 2);
+    other.file("X.CAN").dateTime(kNoon).addWord(1, 5, 1);
+    TestCycle cycle;
+    CardContainer& container = cycle.container;
+    QVERIFY(container.readContainer(card.write()));
+    const unsigned int number = container.recordCycles().begin()->first;
+    QVERIFY(container.loadCycle(number, -1));
+    const DecodingContext context;
+    CardContainer draft(container, context);
+    QVERIFY(draft.path() == container.path() && draft.recordData().count() == 2 && draft.loadCycle(number, -1));
+    QVERIFY(draft.readContainer(other.write()) && draft.loadCycle(draft.recordCycles().begin()->first, -1));
+    QVERIFY(container.recordData().count() == 2 && container.endTime() == 30 && container.loadCycle(number, -1) && fileNames(container) == "A.CAN");
+    container.adopt(draft);
+    QVERIFY(fileNames(container) == "X.CAN" && container.endTime() == 5 && container.recordData().count() == 1 && draft.endTime() == 30);
+    container.forgetRecord();
+    QVERIFY(container.recordData().count() == 0 && !container.loadedCycle() && container.loaded().indexEnd == 0 && fileNames(container) == "X.CAN");
 }
 
 void TestCardContainer::damagedCardLoads()

@@ -96,6 +96,9 @@ private Q_SLOTS:
     void detection();
     void selectedFlight();
     void distances();
+    void liftOff_data();
+    void liftOff();
+    void fuelAndClimb();
     void withoutData();
     void pathLeavesDamageOut();
     void pathOfAFlight();
@@ -180,6 +183,70 @@ void TestFlights::distances()
     noThrottle.add(eAltitude, {{115, 20}, {130, 0}}).add(eLatitude, {{140, 100}});
     QVERIFY(std::fabs(noThrottle.compute().takeOffDistance - 60 * 1852) < 0.1);
     QVERIFY(!noThrottle.flight.hasRollStart && !noThrottle.flight.hasLiftOff && !noThrottle.flight.hasFuelA && noThrottle.flight.hasAltitude);
+}
+
+void TestFlights::liftOff_data()
+{
+    using Samples = QList<QPair<double, double>>;
+    QTest::addColumn<Samples>("throttle");
+    QTest::addColumn<Samples>("speed");
+    QTest::addColumn<Samples>("altitude");
+    QTest::addColumn<int>("liftOff"); // minutes of latitude from where it rolls; -1: not known
+    QTest::addColumn<int>("obstacle");
+    const Samples full{{110, 91}}, fast{{120, 81}}, climb{{100, 400}, {130, 401.5}, {150, 416}};
+    QTest::newRow("both") << full << fast << climb << 2 << 4;
+    QTest::newRow("later throttle changes nothing") << Samples{{110, 91}, {115, 50}, {120, 95}} << fast << climb << 2 << 4;
+    QTest::newRow("not quite full throttle") << Samples{{110, 90}} << fast << climb << -1 << -1;
+    QTest::newRow("before the flight") << Samples{{99, 100}} << fast << climb << -1 << -1;
+    QTest::newRow("not fast enough") << full << Samples{{120, 80}} << climb << -1 << -1;
+    QTest::newRow("the first time that it is fast") << full << Samples{{120, 81}, {140, 82}} << climb << 2 << 4;
+    QTest::newRow("exactly a metre, exactly fifteen") << full << fast << Samples{{100, 400}, {130, 401}, {140, 401.5}, {150, 415}, {160, 415.5}} << 3 << 5;
+    QTest::newRow("no fix when it was fast") << full << fast << Samples{{100, 0.05}, {130, 401.5}, {150, 416}} << -1 << -1;
+    QTest::newRow("a fix of little height") << full << fast << Samples{{100, 0.2}, {130, 1.5}, {150, 16}} << 2 << 4;
+    QTest::newRow("without a fix for a while") << full << fast << Samples{{100, -2}, {110, 400}, {130, -900}, {140, 402}, {150, 416}} << 3 << 4;
+    QTest::newRow("never above") << full << fast << Samples{{100, 400}, {130, 410}} << 2 << -1;
+    QTest::newRow("from a low place to a high one at once") << full << fast << Samples{{100, 400}, {140, 500}} << 3 << 3;
+}
+
+void TestFlights::liftOff()
+{
+    using Samples = QList<QPair<double, double>>;
+    Statistic statistic;
+    for (int i = 0; i <= 10; ++i) // a minute of latitude every 10 s
+        statistic.add(eLatitude, {{100 + 10 * i, 4800 + i}}).add(eLongitude, {{100 + 10 * i, 1100}});
+    for (const auto& [column, identifier] : {std::pair("throttle", eThrottle), {"speed", eGroundSpeed}, {"altitude", eAltitude}}) {
+        const Samples samples = *static_cast<Samples*>(QTest::qData(column, qMetaTypeId<Samples>()));
+        for (const auto& [time, value] : samples)
+            statistic.add(identifier, {{time, value}});
+    }
+    const RecordFlight flight = statistic.compute();
+    QFETCH(int, liftOff);
+    QFETCH(int, obstacle);
+    QCOMPARE(flight.hasRollStart && flight.hasLiftOff, liftOff >= 0);
+    QCOMPARE(flight.hasRollStart && flight.hasObstacle, obstacle >= 0);
+    QVERIFY(liftOff < 0 || std::abs(flight.takeOffDistance - liftOff * 1852) < 5);
+    QVERIFY(obstacle < 0 || std::abs(flight.takeOffDistance15m - obstacle * 1852) < 5);
+}
+
+void TestFlights::fuelAndClimb()
+{
+    Statistic statistic; // litres an hour; what is outside the flight's span counts nothing
+    statistic.add(eFuelA, {{90, 9999}, {100, 7200}, {110, 36}, {120, 72}, {200, 0}, {201, 9999}}).add(eFuelB, {{150, 30}});
+    statistic.add(eAltitude, {{99, 5000}, {100, 500}, {120, 0.05}, {140, 450}, {150, 700}, {160, 690}, {201, 9000}});
+    statistic.add(eGroundSpeed, {{99, 300}, {100, 20}, {150, 90}, {200, 110}, {201, 400}});
+    const RecordFlight flight = statistic.compute();
+    QVERIFY(flight.hasFuelA && !flight.hasFuelB && std::abs(flight.fuelA - 0.3) < 1e-9 && flight.fuelB == 0.0 && flight.totalFuel == flight.fuelA);
+    QVERIFY(flight.minAltitude == 450.0 && flight.maxAltitude == 700.0 && flight.totalClimb == 250.0 && flight.hasSummit);
+    QCOMPARE(flight.maxGroundSpeed, 110.0);
+    QCOMPARE(flight.averageClimbRate, 250.0 / 20); // from take-off at 130 to the summit at 150
+    QCOMPARE(flight.averageDescendRate, 250.0 / 20);
+    QCOMPARE(flight.timePer100m, 16.0);
+    QCOMPARE(flight.fuelPer100m, flight.totalFuel / 2.5);
+    Statistic falling;
+    falling.add(eAltitude, {{100, 700}, {150, 700}, {160, 600}}).add(eFuelA, {{100, 36}, {110, 36}}).add(eFuelB, {{100, 36}, {120, 36}});
+    const RecordFlight glide = falling.compute();
+    QVERIFY(glide.hasAltitude && !glide.hasSummit && glide.maxAltitude == 700.0 && glide.totalClimb == 100.0);
+    QVERIFY(std::abs(glide.totalFuel - 0.3) < 1e-9);
 }
 
 void TestFlights::withoutData()

@@ -81,6 +81,7 @@ void TestProfileLoad::variants()
     for (const char* variant : {"-", "A", "B", "C"}) {
         const std::string chosen = *variant == '-' ? "" : variant;
         const Loaded loaded("<Device><Parameter name=\"p\" variant=\"" + attribute.toUtf8() + "\"/></Device>", chosen);
+        QCOMPARE(loaded.profile.model().variant, chosen);
         if (!loaded.names().isEmpty())
             applied += variant;
         const std::string line = "variant <" + attribute.toStdString() + "> size " + std::to_string(attribute.count(',') + 1) + "\n";

@@ -31,6 +31,8 @@ private Q_SLOTS:
     void windowFollows();
     void verticesOfWindow_data();
     void verticesOfWindow();
+    void columnsHaveTheirExtremes_data();
+    void columnsHaveTheirExtremes();
     void interruptedAndStepped();
     void coloursStay();
     void extendsToPresent();
@@ -40,8 +42,7 @@ private Q_SLOTS:
     void timeTicks_data();
     void timeTicks();
     void labels();
-    void markerValues();
-    void markerText();
+    void tellsOfChanges();
     void bands();
     void survivesAnything();
 };
@@ -204,6 +205,59 @@ void TestGraphModel::verticesOfWindow()
     QVERIFY(cache.isCurrent(graph.model.traces(), window) && !cache.isCurrent(graph.model.traces(), window.movedBy(1)));
     graph.model.putValue(0, 1, false);
     QVERIFY(!cache.isCurrent(graph.model.traces(), window));
+}
+
+void TestGraphModel::columnsHaveTheirExtremes_data()
+{
+    QTest::addColumn<bool>("backwards");
+    QTest::addColumn<int>("columns");
+    for (const int columns : {1, 7, 100, 333}) {
+        QTest::addRow("ascending, %d", columns) << false << columns;
+        QTest::addRow("backwards, %d", columns) << true << columns;
+    }
+}
+
+/// What is drawn of a column: the first, the least, the greatest and the last value of its samples, or each of a few.
+void TestGraphModel::columnsHaveTheirExtremes()
+{
+    QFETCH(const bool, backwards);
+    QFETCH(const int, columns);
+    constexpr double kBegin = 100, kEnd = 400;
+    std::vector<double> times, values;
+    for (int i = 0; i < 5000; ++i) {
+        times.push_back(50 + i * 0.1 - (backwards && i % 500 > 450 ? 7 : 0) + (i > 3000 ? 20 : 0)); // and nothing for a while
+        values.push_back(i * 7919 % 1009);
+    }
+    SampleSeries samples;
+    samples.append(times, values);
+    std::vector<QPointF> vertices;
+    TraceBuilder().build(samples, kBegin, kEnd, columns, vertices);
+    const double width = (kEnd - kBegin) / columns;
+    std::vector<std::vector<double>> expected(static_cast<std::size_t>(columns)), found(expected);
+    for (std::size_t i = 0; i < times.size(); ++i) {
+        if (times[i] >= kBegin && times[i] < kEnd)
+            expected[static_cast<std::size_t>((times[i] - kBegin) / width)].push_back(values[i]);
+    }
+    double before = -1e9;
+    for (const QPointF& vertex : vertices) {
+        QVERIFY(vertex.x() >= before || backwards);
+        before = vertex.x();
+        if (vertex.x() >= 0 && vertex.x() < kEnd - kBegin)
+            found[static_cast<std::size_t>(vertex.x() / width)].push_back(vertex.y());
+    }
+    int reduced = 0;
+    for (std::size_t column = 0; column < expected.size(); ++column) {
+        const std::vector<double>&all = expected[column], &drawn = found[column];
+        QCOMPARE(drawn.empty(), all.empty());
+        if (all.empty())
+            continue;
+        QVERIFY(drawn.front() == all.front() && drawn.back() == all.back());
+        QCOMPARE(*std::ranges::min_element(drawn), *std::ranges::min_element(all));
+        QCOMPARE(*std::ranges::max_element(drawn), *std::ranges::max_element(all));
+        QVERIFY(drawn.size() <= 4 || drawn == all);
+        reduced += all.size() > 4;
+    }
+    QVERIFY(reduced > 0 && vertices.size() <= static_cast<std::size_t>(4 * columns + 8));
 }
 
 void TestGraphModel::interruptedAndStepped()
@@ -389,40 +443,41 @@ void TestGraphModel::labels()
     }
 }
 
-void TestGraphModel::markerValues()
+void TestGraphModel::tellsOfChanges()
 {
     GraphModel model;
-    model.traces().setActive(0, true);
-    model.traces().setName(0, "Fuel Flow", "l/h");
-    const auto marked = [&](double start, double end) { return ZARN::markerValues(model.traces(), {start, end}).front(); };
-    // 10 l/h for an hour, then 20 l/h for half of one.
-    const std::vector<double> times{0, 3600, 3600.001, 5400}, values{10, 10, 20, 20};
-    model.putValues(0, times, values);
-    const MarkerValues hour = marked(4500, 1800);
-    QCOMPARE(*hour.atStart, 10.0);
-    QCOMPARE(*hour.atEnd, 20.0);
-    QCOMPARE(*hour.difference, 10.0);
-    QCOMPARE(*hour.minimum, 10.0);
-    QCOMPARE(*hour.maximum, 20.0);
-    QVERIFY(std::abs(*hour.integral - 10.0) < 1e-4); // 5 litres in each half
-    QVERIFY(std::abs(*hour.mean - 10.0 / 0.75) < 1e-4);
-
-    QCOMPARE(marked(-20, -10).texts(), QStringList(7, "-")); // nothing is known before the first sample
-    QCOMPARE(*marked(100, 101).maximum, 10.0);               // between two samples
-    QCOMPARE(integralUnit("l/h"), "l");
-    QCOMPARE(integralUnit("rpm"), QString::fromUtf8("rpm\u00b7h"));
-}
-
-void TestGraphModel::markerText()
-{
-    GraphModel model;
-    model.traces().setActive(0, true);
-    model.traces().setName(0, "A\tB", "%1");
-    model.putValues(0, std::vector<double>{0, 10}, std::vector<double>{1, 3});
-    const QStringList lines = ZARN::markerText(model.traces(), {10, 0}).split('\n');
-    QCOMPARE(lines[0], "Time\t00:00:00.000\t00:00:10.000");
-    QCOMPARE(lines[1], "dt\t10.000 s");
-    QCOMPARE(lines[3], QString::fromUtf8("A B\t%1\t1.00\t3.00\t2.00\t1.00\t3.00\t2.000\t0.006\t%1\u00b7h"));
+    QSignalSpy repaint(&model, &GraphModel::signalRepaint), window(&model, &GraphModel::signalWindow), cursor(&model, &GraphModel::signalCursor),
+        manual(&model, &GraphModel::signalManMode);
+    const auto told = [&repaint](const auto& change) {
+        repaint.clear();
+        change();
+        return !repaint.isEmpty();
+    };
+    QVERIFY(told([&] { model.setWindow({1, 2}); }) && window.count() == 1);
+    QVERIFY(!told([&] { model.setWindow({1, 2}); }) && window.count() == 1);
+    QVERIFY(told([&] { model.setCursorPosition(5); }) && !told([&] { model.setCursorPosition(INFINITY); }) && model.cursor().time == 5);
+    QVERIFY(cursor.isEmpty() && told([&] { model.moveCursor(6, 7, 2); }) && cursor.takeFirst() == (QList<QVariant>{6.0F, 7.0}) && model.cursor().strip == 2);
+    QVERIFY(told([&] { model.setCursorMoving(true); }) && !told([&] { model.setCursorMoving(true); }));
+    QVERIFY(told([&] { model.setMarker({1, 2}); }) && !told([&] { model.setMarker({1, NAN}); }) && model.marker().end == 2);
+    QVERIFY(told([&] { model.addTopMarker({1, 2}); }) && told([&] { model.setOfflineMode(false); }) && told([&] { model.setTime(3); }));
+    QVERIFY(!told([&] { GraphModel().putValue(0, 1, true); }));
+    model.settings().graphMode = eAutomatic;
+    model.takeOverTime();
+    model.takeOverTime();
+    QVERIFY(manual.count() == 1 && model.settings().graphMode == eManual);
+    model.putValue(0, 1, false);
+    model.putValues(1, std::vector<double>{1, INFINITY, 3}, std::vector<double>{1, 2}); // as many as there are of both
+    QVERIFY(model.traces().at(1)->samples.size() == 2 && model.traces().at(1)->samples.time(1) == 0.0);
+    model.putValues(-1, std::vector<double>{1}, std::vector<double>{1});
+    model.clear();
+    QVERIFY(model.topMarkers().empty() && model.traces().at(0)->samples.empty() && model.marker().end == 2);
+    model.reset();
+    QVERIFY(model.marker().end == 0 && model.cursor().time == 0 && model.cursor().value == 0 && model.window() == TimeWindow());
+    model.putValue(0, 1, false); // at no time
+    QVERIFY(model.traces().at(0)->samples.empty());
+    model.setMarker({5, 5.0000001});
+    model.zoomToMarker();
+    QVERIFY(model.window().width() >= TimeWindow::kSmallest);
 }
 
 void TestGraphModel::bands()

@@ -183,7 +183,7 @@ void TestDialogDataMap::offline()
     const QImage strip = window.dialog->findChild<MapProfile*>()->grab().toImage();
     setPalette(window, ColourTable::eLight);
     const auto hasPath = [](const Test::RecordingCanvas& canvas) {
-        return std::ranges::any_of(canvas.strips, [](const auto& one) { return one.second.rgb() == kPath; });
+        return std::ranges::any_of(canvas.strips, [](const auto& one) { return one.pen.colour.rgb() == kPath; });
     };
     QVERIFY(!hasPath(dark) && hasPath(paper) && paper.texts.back().second.startsWith("Natural Earth"));
     QVERIFY(!shows(strip, Palette::light().map.stripGround.rgb()));
