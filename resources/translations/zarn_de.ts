@@ -2905,6 +2905,18 @@ Ersetzen ?</translation>
         <source>Not told here: %1 more of the incidents (beyond a limit: %2, warnings: %3). The first %4 are shown as graphs.</source>
         <translation>Hier nicht aufgeführt: %1 weitere der Vorfälle (über einem Grenzwert: %2, Warnungen: %3). Die ersten %4 sind als Graphen gezeigt.</translation>
     </message>
+    <message>
+        <source>Counts</source>
+        <translation>Zählt</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nein</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::FormulaCheck</name>
@@ -5320,6 +5332,10 @@ Kreuzen Sie im Profilfeld einen Parameter an oder wählen Sie einen anderen Zykl
     <message>
         <source>The position is not to be trusted %1: what was received then lies more than 10 km from the place before, and is not believed.</source>
         <translation>Der Position ist %1 nicht zu trauen: Was dann empfangen wurde, liegt mehr als 10 km vom Ort davor entfernt und wird nicht geglaubt.</translation>
+    </message>
+    <message>
+        <source>The record ends in flight: the one that began at %1 is no flight of the list, and counts as on the ground. Should the engine have stopped in it, that is told.</source>
+        <translation>Die Aufzeichnung endet im Flug: Der um %1 begonnene ist kein Flug der Liste und zählt als am Boden. Blieb der Motor darin stehen, so steht es da.</translation>
     </message>
 </context>
 <context>
