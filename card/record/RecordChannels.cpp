@@ -34,7 +34,7 @@ void RecordChannels::clear()
 {
     mBlocks.clear();
     mSize = 0;
-    mAscending = {};
+    mAscending = std::vector<const RecordChannel*>();
     rebuildSlots(1);
 }
 
@@ -62,7 +62,7 @@ void RecordChannels::enter(std::size_t index)
 
 void RecordChannels::rebuildSlots(unsigned bits)
 {
-    mSlots = {}; // of a million, the old ones are not kept beside the new
+    mSlots = std::vector<Slot>(); // of a million, the old ones are not kept beside the new; "= {}" would keep them
     mSlots.resize(std::size_t(1) << bits);
     mHashShift = 32 - bits;
     for (std::size_t index = 0; index < mSize; ++index)

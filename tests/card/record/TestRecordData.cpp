@@ -12,6 +12,7 @@
 #include <limits>
 #include <random>
 
+#include <malloc.h>
 #include <sys/resource.h>
 
 using namespace ZARN;
@@ -75,6 +76,7 @@ private Q_SLOTS:
     void liveRecordsAreFresh();
     void memoryLimitRefuses();
     void manyIdentifiersStayBounded();
+    void clearedIdentifiersTakeNothing();
 };
 
 void TestRecordData::entriesEqualVector()
@@ -296,6 +298,24 @@ void TestRecordData::manyIdentifiersStayBounded()
     while (taken < count && limited.append(taken, numbered(taken, taken)))
         ++taken;
     QVERIFY2(taken > 300'000 && taken < 600'000, qPrintable(QString::number(taken)));
+}
+
+void TestRecordData::clearedIdentifiersTakeNothing()
+{
+#ifndef __SANITIZE_ADDRESS__ // whose memory is another's
+    const auto inUse = [] {
+        const struct mallinfo2 info = mallinfo2();
+        return info.uordblks + info.hblkhd;
+    };
+    const std::size_t before = inUse();
+    RecordData data;
+    for (uint32_t i = 0; i < 200'000; ++i)
+        data.append(i, numbered(i, i));
+    QCOMPARE(data.channels().size(), std::size_t(200'000));
+    QVERIFY(inUse() > before + (4 << 20));
+    data.clear();
+    QVERIFY2(inUse() < before + (1 << 20), qPrintable(QString::number(inUse() - before)));
+#endif
 }
 
 QTEST_APPLESS_MAIN(TestRecordData)
