@@ -28,6 +28,7 @@ struct FaultStretch {
     double duration = 0.0; ///< seconds in which it was set
 };
 
+/// What a walk found.
 struct FaultStretches {
     std::vector<FaultStretch> all; ///< bit by bit, those of each in stored order
     bool hasWatched = false;       ///< whether a sample was watched
