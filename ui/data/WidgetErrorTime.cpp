@@ -1,5 +1,6 @@
 #include "ui/data/WidgetErrorTime.h"
 
+#include "analysis/FaultWords.h"
 #include "app/Numeric.h"
 #include "card/CardContainer.h"
 #include "ui/canvas/ColourContrast.h"
@@ -59,12 +60,12 @@ void WidgetErrorTime::setData(const FaultMatrix& matrix)
     updateRecord(nullptr);
 }
 
-void WidgetErrorTime::updateRecord(const Trace* pWords)
+void WidgetErrorTime::updateRecord(const RecordData* pRecord)
 {
-    mWithRecord = pWords != nullptr;
+    mWithRecord = pRecord != nullptr;
     mStart = mContainer.startTime();
     mEnd = mContainer.endTime();
-    mTimeline = pWords ? FaultTimeline(mMatrix, *pWords) : FaultTimeline();
+    mTimeline = pRecord ? FaultTimeline(mMatrix, *faultWords(*pRecord, mContainer.values().context(), mMatrix)) : FaultTimeline();
     mBands = {};
     update();
 }

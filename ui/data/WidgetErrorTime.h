@@ -6,7 +6,6 @@
 #include <QWidget>
 
 #include <functional>
-#include <optional>
 
 namespace ZARN {
 
@@ -26,8 +25,7 @@ public:
 
     /// The matrix whose bits are shown: identifier, name and bit definitions.
     void setData(const FaultMatrix& matrix);
-    /// @param pWords of the matrix; null without a record
-    void updateRecord(const Trace* pWords);
+    void updateRecord(const RecordData* pRecord);
     void setTime(double time);
 
     /// Where a time lies, in pixels from the left; 0 without a record, or when it has no duration. Any number outside the record.

@@ -1,6 +1,6 @@
 #include "ui/data/WidgetFaultMatrix.h"
 
-#include "analysis/FaultWords.h"
+#include "analysis/FaultTimeline.h"
 #include "app/gui/TextSize.h"
 #include "card/record/RecordData.h"
 #include "project/TimeReference.h"
@@ -96,7 +96,7 @@ void WidgetFaultMatrix::setData(const FaultMatrix& matrix)
 void WidgetFaultMatrix::updateRecord(RecordData* pRecord)
 {
     mpRecord = pRecord;
-    mpTimeline->updateRecord(pRecord ? faultWords(*pRecord, mSession.profile.context(), mMatrix).get() : nullptr);
+    mpTimeline->updateRecord(pRecord);
     showWord(0);
 }
 
