@@ -15,11 +15,6 @@ namespace {
 constexpr double kMostHours = 10'000;      // keeps the file numbers within five digits
 constexpr std::uint64_t kFileSteps = 6000; // the recorder begins a file every ten minutes
 
-std::string fileName(unsigned number)
-{
-    return '/' + RecordWriter::fileName(number);
-}
-
 /// The header of a file. The first of a cycle is begun before any satellite is received, so it has no date.
 void putHeader(const Sim::CyclePlan& plan, std::uint64_t seed, std::uint64_t step, bool firstOfCycle, RecordWriter& writer)
 {
@@ -38,27 +33,42 @@ void putHeader(const Sim::CyclePlan& plan, std::uint64_t seed, std::uint64_t ste
     writer.putHeader(info, step * Sim::MessageSchedule::kStepTicks);
 }
 
-} // namespace
+/// A card while it is made: its files lie aside, in a hidden folder, until all are done.
+class CardDraft {
+public:
+    CardDraft(const std::string& directory, const DemoCardOptions& options) : mDirectory(directory), mOptions(options) {}
 
-bool DemoCard::write(const std::string& directory, const DemoCardOptions& options, std::string& error)
+    /// Writes all files and puts them in their places. @return "NAME: reason" of a failure, or an empty text.
+    std::string write();
+
+private:
+    bool prepare();
+    bool writeCycles();
+    bool writeCycle(const Sim::CyclePlan& plan, double& seconds);
+    bool save(std::string& bytes);
+    void publish();
+    static std::string fileName(unsigned number) { return '/' + RecordWriter::fileName(number); }
+
+    const std::string mDirectory;
+    const std::string mAside = mDirectory + "/.zarn-simulate";
+    const DemoCardOptions mOptions;
+    std::string mError;
+    unsigned mFileNumber = 0;
+    Sim::LogBook mLogBook;
+};
+
+std::string CardDraft::write()
 {
-    mOptions = options;
-    mDirectory = directory;
-    mAside = directory + "/.zarn-simulate";
-    mError.clear();
-    mFileNumber = 0;
-    mLogBook = {};
-    bool done = prepare();
-    if (done) {
-        done = writeCycles() && publish();
+    if (prepare()) {
+        if (writeCycles())
+            publish();
         std::error_code ignored;
         std::filesystem::remove_all(mAside, ignored);
     }
-    error = mError;
-    return done;
+    return mError;
 }
 
-bool DemoCard::prepare()
+bool CardDraft::prepare()
 {
     if (!(mOptions.hours >= 0 && mOptions.hours <= kMostHours)) {
         mError = "hours: must be a number from 0 to 10000";
@@ -81,7 +91,7 @@ bool DemoCard::prepare()
     return mError.empty();
 }
 
-bool DemoCard::writeCycles()
+bool CardDraft::writeCycles()
 {
     Sim::CyclePlanner planner(mOptions.seed);
     double seconds = 0;
@@ -92,7 +102,7 @@ bool DemoCard::writeCycles()
     return true;
 }
 
-bool DemoCard::writeCycle(const Sim::CyclePlan& plan, double& seconds)
+bool CardDraft::writeCycle(const Sim::CyclePlan& plan, double& seconds)
 {
     // Filled up before each cycle that flies.
     if (!plan.tows.empty())
@@ -118,7 +128,7 @@ bool DemoCard::writeCycle(const Sim::CyclePlan& plan, double& seconds)
 }
 
 /// Writes the next file and leaves no bytes of it.
-bool DemoCard::save(std::string& bytes)
+bool CardDraft::save(std::string& bytes)
 {
     SafeFile file(mAside + fileName(++mFileNumber));
     if (!file.open() || !file.write(bytes) || !file.commit())
@@ -127,7 +137,7 @@ bool DemoCard::save(std::string& bytes)
     return mError.empty();
 }
 
-bool DemoCard::publish()
+void CardDraft::publish()
 {
     for (unsigned number = 1; number <= mFileNumber; ++number) {
         std::error_code reason;
@@ -136,10 +146,17 @@ bool DemoCard::publish()
             mError = mDirectory + fileName(number) + ": " + reason.message();
             while (--number > 0)
                 std::filesystem::remove(mDirectory + fileName(number), reason);
-            return false;
+            return;
         }
     }
-    return true;
+}
+
+} // namespace
+
+bool DemoCard::write(const std::string& directory, const DemoCardOptions& options, std::string& error)
+{
+    error = CardDraft(directory, options).write();
+    return error.empty();
 }
 
 } // namespace ZARN

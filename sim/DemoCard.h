@@ -1,8 +1,6 @@
 #pragma once
 
-#include "sim/CyclePlan.h"
-#include "sim/Situation.h"
-
+#include <cstdint>
 #include <string>
 
 namespace ZARN {
@@ -25,20 +23,6 @@ public:
     /// record files already is refused. They are written aside, in a hidden folder, and take their places when all are done: neither
     /// a failure nor the program's end leaves some of them. @param error "NAME: reason" of a failure.
     bool write(const std::string& directory, const DemoCardOptions& options, std::string& error);
-
-private:
-    bool prepare();
-    bool writeCycles();
-    bool writeCycle(const Sim::CyclePlan& plan, double& seconds);
-    bool save(std::string& bytes);
-    bool publish();
-
-    DemoCardOptions mOptions;
-    std::string mDirectory;
-    std::string mAside; ///< where the files are written
-    std::string mError;
-    unsigned mFileNumber = 0;
-    Sim::LogBook mLogBook;
 };
 
 } // namespace ZARN

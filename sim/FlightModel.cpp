@@ -1,7 +1,6 @@
 #include "sim/FlightModel.h"
 
-#include "sim/EngineModel.h"
-#include "sim/WarningLogic.h"
+#include "sim/Systems.h"
 
 #include <algorithm>
 
@@ -11,21 +10,50 @@ namespace {
 
 constexpr double kLeverSpeed = 40; // percent a second
 
+/// The standard atmosphere above the airfield.
+void setAir(Situation& now)
+{
+    now.pressureAltitude = kFieldElevation + now.motion.height + (1013.25 - now.plan.qnh) * 8.3;
+    now.ambientPressure = 1013.25 * std::pow(1 - now.pressureAltitude / 44330.8, 5.2559);
+    now.outsideTemperature = now.plan.temperature - 0.0075 * now.motion.height;
+}
+
+/// A battery with a generator; when the generator has failed, the battery alone carries the load and sinks slowly.
+void stepElectrical(Situation& now)
+{
+    Electrical& e = now.electrical;
+    const bool running = now.leg.engine;
+    const bool failed = now.incidents.generator;
+    const bool cranking = now.isCranking();
+    const bool charging = running && !failed;
+    const double target = cranking ? 10.4 : (charging ? 14.1 : (failed ? 12.5 - 0.003 * (now.runningSeconds - 100) : 12.6));
+    e.voltage += (target - e.voltage) * kStep / (cranking ? 0.4 : 1.6);
+    const double load = running ? 16 : 9;
+    e.generatorCurrent[0] = charging ? load + 22 * std::exp(-now.runningSeconds / 240) : 0;
+    e.generatorCurrent[1] = running ? 6 : 0;
+    e.batteryCurrent = cranking ? -180 : (charging ? e.generatorCurrent[0] - load : -load);
+}
+
+void stepLogBook(Situation& now)
+{
+    LogBook& book = now.logBook;
+    const double burnt = now.engine.fuelFlow * (kStep / 3600);
+    book.controlSeconds += kStep;
+    book.recordedSeconds += kStep;
+    book.engineSeconds += now.leg.engine ? kStep : 0;
+    book.totalFuel += burnt;
+    book.fuelLeft -= burnt * 0.52;
+    book.fuelRight -= burnt * 0.48;
+    now.fuelUsed += burnt;
+}
+
 } // namespace
 
 FlightModel::FlightModel(const CyclePlan& plan, LogBook& logBook)
-    : mPlan(plan), mLogBook(logBook), mRandom(plan.seed), mRoute(buildRoute(plan)), mAirframe(plan), mInstruments(plan)
+    : mPlan(plan), mRandom(plan.seed), mRoute(buildRoute(plan)), mNow{.plan = mPlan, .logBook = logBook, .motion = parkedMotion()}
 {
-    setAir();
+    setAir(mNow);
     mNow.engine = restingEngine(plan.engineWarmth, plan.temperature, mNow.ambientPressure);
-}
-
-/// The standard atmosphere above the airfield.
-void FlightModel::setAir()
-{
-    mNow.pressureAltitude = kFieldElevation + mNow.motion.height + (1013.25 - mPlan.qnh) * 8.3;
-    mNow.ambientPressure = 1013.25 * std::pow(1 - mNow.pressureAltitude / 44330.8, 5.2559);
-    mNow.outsideTemperature = mPlan.temperature - 0.0075 * mNow.motion.height;
 }
 
 bool FlightModel::step()
@@ -36,19 +64,18 @@ bool FlightModel::step()
     mNow.seconds += kStep;
     mLegSeconds += kStep;
     mNow.throttle += std::clamp(mNow.leg.throttle - mNow.throttle, -kLeverSpeed * kStep, kLeverSpeed * kStep);
-    mAirframe.step(mNow.leg, mNow.throttle, mRandom);
-    mNow.motion = mAirframe.motion();
-    setAir();
+    stepMotion(mNow, mRandom);
+    setAir(mNow);
     stepIncidents();
     stepEngine(mNow);
-    stepElectrical();
-    stepLogBook();
+    stepElectrical(mNow);
+    stepLogBook(mNow);
     mInstruments.read(mNow, mRandom, mSnapshot);
     judgeWarnings(mNow, mSnapshot);
-    if (mAirframe.ended(mNow.leg, mLegSeconds)) {
+    if (isLegEnded(mNow, mLegSeconds)) {
         ++mLeg;
         mLegSeconds = 0;
-        mAirframe.beginLeg();
+        mNow.motion.waypoint = 0; // the round of the tow starts anew
     }
     return true;
 }
@@ -65,38 +92,9 @@ void FlightModel::stepIncidents()
     incidents.egtSensor = tow.sensorFault && mReleaseSeconds > 20 && mReleaseSeconds < 140 && std::fmod(mReleaseSeconds, 30) < 14;
     incidents.generator = mPlan.generatorFails && mNow.runningSeconds > 100 && mNow.leg.engine;
     if (mNow.leg.engine) {
-        mLogBook.starts += mNow.runningSeconds == 0 ? 1 : 0;
+        mNow.logBook.starts += mNow.runningSeconds == 0 ? 1 : 0;
         mNow.runningSeconds += kStep;
     }
-}
-
-/// A battery with a generator; when the generator has failed, the battery alone carries the load and sinks slowly.
-void FlightModel::stepElectrical()
-{
-    Electrical& e = mNow.electrical;
-    const bool running = mNow.leg.engine;
-    const bool failed = mNow.incidents.generator;
-    const bool cranking = mNow.isCranking();
-    const bool charging = running && !failed;
-    const double target = cranking ? 10.4 : (charging ? 14.1 : (failed ? 12.5 - 0.003 * (mNow.runningSeconds - 100) : 12.6));
-    e.voltage += (target - e.voltage) * kStep / (cranking ? 0.4 : 1.6);
-    const double load = running ? 16 : 9;
-    e.generatorCurrent[0] = charging ? load + 22 * std::exp(-mNow.runningSeconds / 240) : 0;
-    e.generatorCurrent[1] = running ? 6 : 0;
-    e.batteryCurrent = cranking ? -180 : (charging ? e.generatorCurrent[0] - load : -load);
-}
-
-void FlightModel::stepLogBook()
-{
-    const double burnt = mNow.engine.fuelFlow * (kStep / 3600);
-    mLogBook.controlSeconds += kStep;
-    mLogBook.recordedSeconds += kStep;
-    mLogBook.engineSeconds += mNow.leg.engine ? kStep : 0;
-    mLogBook.totalFuel += burnt;
-    mLogBook.fuelLeft -= burnt * 0.52;
-    mLogBook.fuelRight -= burnt * 0.48;
-    mNow.fuelUsed += burnt;
-    mNow.logBook = mLogBook;
 }
 
 } // namespace ZARN::Sim

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "sim/Airframe.h"
 #include "sim/Instruments.h"
 
 namespace ZARN::Sim {
@@ -11,6 +10,7 @@ namespace ZARN::Sim {
 class FlightModel {
 public:
     FlightModel(const CyclePlan& plan, LogBook& logBook);
+    Q_DISABLE_COPY_MOVE(FlightModel)
 
     /// Advances by one step. @return false when the power has been switched off; the snapshot then stays as it was.
     bool step();
@@ -19,22 +19,17 @@ public:
     [[nodiscard]] const Snapshot& snapshot() const { return mSnapshot; }
 
 private:
-    void setAir();
     void stepIncidents();
-    void stepElectrical();
-    void stepLogBook();
 
     const CyclePlan mPlan;
-    LogBook& mLogBook;
     RandomSource mRandom;
     const std::vector<Leg> mRoute;
     std::size_t mLeg = 0;
     double mLegSeconds = 0;
     double mTowSeconds = 0;     ///< since the throttle was opened for the tow
     double mReleaseSeconds = 0; ///< since the glider was released
-    Airframe mAirframe;
-    Instruments mInstruments;
     Situation mNow;
+    Instruments mInstruments;
     Snapshot mSnapshot;
 };
 

@@ -170,24 +170,31 @@ void readAir(const Situation& now, RandomSource& random, Snapshot& values)
     values[eAirTemperature] = now.outsideTemperature + random.noise(0.1);
     const double side = motion.speed * motion.turnRate * kRadian / 9.81;
     values[eAcceleration] = std::sqrt(1 + side * side) + random.noise(motion.airborne ? 0.06 : 0.01);
+    values[eQnh] = now.plan.qnh;
+}
+
+void readTime(const Situation& now, Snapshot& values)
+{
+    const QDateTime time = now.plan.powerUp.addSecs(saturatingCast<qint64>(now.seconds));
+    values[eUtcTime] = time.toString("HHmmss").toDouble();
+    values[eUtcDate] = time.toString("ddMMyy").toDouble();
 }
 
 } // namespace
 
-void Instruments::read(const Situation& situation, RandomSource& random, Snapshot& values)
+void Instruments::read(const Situation& now, RandomSource& random, Snapshot& values)
 {
     for (std::size_t lane = 0; lane < 2; ++lane) {
-        readLaneAir(situation, random, lane, values.lane(lane));
-        readLaneFuel(situation, random, lane, values.lane(lane));
-        readLaneLiquids(situation, random, values.lane(lane));
-        readLaneStates(situation, lane, values.lane(lane));
+        readLaneAir(now, random, lane, values.lane(lane));
+        readLaneFuel(now, random, lane, values.lane(lane));
+        readLaneLiquids(now, random, values.lane(lane));
+        readLaneStates(now, lane, values.lane(lane));
     }
-    readEngine(situation, values);
-    readMonitor(situation, values);
-    readElectrical(situation, random, values);
-    readAir(situation, random, values);
-    values[eQnh] = mQnh;
-    readGps(situation, random, values);
+    readEngine(now, values);
+    readMonitor(now, values);
+    readElectrical(now, random, values);
+    readAir(now, random, values);
+    readGps(now, random, values);
 }
 
 void Instruments::readGps(const Situation& now, RandomSource& random, Snapshot& values)
@@ -196,7 +203,7 @@ void Instruments::readGps(const Situation& now, RandomSource& random, Snapshot& 
     const double north = mNorthError.step(random);
     const double altitude = mAltitudeError.step(random);
     const double seconds = now.seconds;
-    if (!mSatellites) {
+    if (!now.plan.clock) {
         // The antenna is covered: now and then a satellite or two, never a time.
         values[eSatellites] = std::fmod(seconds, 40) < 12 ? 1 : 0;
         return;
@@ -204,7 +211,7 @@ void Instruments::readGps(const Situation& now, RandomSource& random, Snapshot& 
     values[eSatellites] = std::min(11.0, std::floor(seconds / 7));
     values[eFix] = seconds < kTimeSeconds ? 0 : (seconds < kFixSeconds ? 1 : (seconds < kHeightFixSeconds ? 2 : 3));
     if (seconds >= kTimeSeconds)
-        readTime(seconds, values);
+        readTime(now, values);
     if (seconds < kFixSeconds)
         return;
     const Motion& motion = now.motion;
@@ -217,13 +224,6 @@ void Instruments::readGps(const Situation& now, RandomSource& random, Snapshot& 
         return;
     values[eAltitude] = kFieldElevation + motion.height + altitude;
     values[eVerticalSpeed] = motion.climb + random.noise(0.1);
-}
-
-void Instruments::readTime(double seconds, Snapshot& values) const
-{
-    const QDateTime now = mPowerUp.addSecs(saturatingCast<qint64>(seconds));
-    values[eUtcTime] = now.toString("HHmmss").toDouble();
-    values[eUtcDate] = now.toString("ddMMyy").toDouble();
 }
 
 } // namespace ZARN::Sim

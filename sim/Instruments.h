@@ -9,18 +9,12 @@ namespace ZARN::Sim {
 /// once satellites are received, and the noise of all of them. Lamps and fault words are none of its business.
 class Instruments {
 public:
-    explicit Instruments(const CyclePlan& plan) : mSatellites(plan.clock), mQnh(plan.qnh), mPowerUp(plan.powerUp) {}
-
     /// Sets every value but the lamps, the fault words and the lanes' warning level.
-    void read(const Situation& situation, RandomSource& random, Snapshot& values);
+    void read(const Situation& now, RandomSource& random, Snapshot& values);
 
 private:
     void readGps(const Situation& now, RandomSource& random, Snapshot& values);
-    void readTime(double seconds, Snapshot& values) const;
 
-    const bool mSatellites;
-    const double mQnh;
-    const QDateTime mPowerUp;
     Drift mEastError{0.7, 40, kStep};
     Drift mNorthError{0.7, 40, kStep};
     Drift mAltitudeError{0.4, 60, kStep};

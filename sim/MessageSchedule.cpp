@@ -3,78 +3,103 @@
 #include "app/Numeric.h"
 
 #include <bit>
+#include <span>
+#include <vector>
 
 namespace ZARN::Sim {
 
-// Identifiers of a lane, and of its word of faults, count from the first.
-const MessageSchedule::Group MessageSchedule::kLane[] = {
+namespace {
+
+/// CANaerospace data type codes.
+enum EType : std::uint8_t { eFloat = 2, eLong = 3, eUlong = 4, eBlong = 5, eShort = 6, eUshort = 7, eBshort = 8, eChar = 9, eUchar = 10 };
+/// Steps of 0.1 s between two messages.
+enum ERate : std::uint8_t { e10Hz = 1, e5Hz = 2, e2Hz = 5, e1Hz = 10 };
+
+/// A message, or as a row of the tables a number of them with ascending identifiers.
+struct Message {
+    std::uint32_t id, count;
+    EType type;
+    ERate rate;
+    double perUnit = 1; ///< raw units a unit of the value
+    std::uint8_t node = 0, kind = 0;
+};
+
+/// What a unit sends.
+struct Unit {
+    std::uint8_t node, kind;
+    std::uint32_t base; ///< that the identifiers of its rows count from
+    std::span<const Message> rows;
+};
+
+constexpr Message kLane[] = {
     {eEngineSpeed, 4, eFloat, e10Hz}, {eBoostTarget, 5, eFloat, e2Hz}, {eFuelFlow, 1, eFloat, e5Hz}, {eEgts, 4, eFloat, e2Hz},
     {eCoolant, 2, eFloat, e1Hz}, {eOilPressure, 1, eFloat, e2Hz}, {eManifoldTemperature, 1, eFloat, e1Hz}, {eFuelPressure, 1, eFloat, e2Hz},
     {eAmbientPressure, 1, eFloat, e1Hz}, {eControlTemperature, 1, eShort, e1Hz, 10}, {eSupplyVoltage, 2, eFloat, e1Hz},
     {eWastegate, 1, eFloat, e2Hz}, {eKnock, 1, eUshort, e2Hz, 100}, {eFuelTrim, 1, eChar, e1Hz}, {eLoad, 1, eUchar, e1Hz},
     {eState, 11, eBshort, e1Hz}, {eSeconds, 1, eUlong, e1Hz}, {eTriggerErrors, 1, eUshort, e1Hz}};
-const MessageSchedule::Group MessageSchedule::kFaults[] = {{0, 1, eBlong, e2Hz}};
-const MessageSchedule::Group MessageSchedule::kMonitor[] = {
+constexpr Message kFaults[] = {{0, 1, eBlong, e2Hz}};
+constexpr Message kMonitor[] = {
     {eSpeed, 6, eFloat, e2Hz}, {eTotalFlow, 9, eFloat, e1Hz}, {eEngineState, 1, eBshort, e1Hz}, {eEngineSeconds, 2, eUlong, e1Hz},
     {eSecondsSinceStart, 1, eLong, e1Hz}, {eTotalFuel, 1, eUlong, e1Hz}, {eFuelLeft, 2, eFloat, e1Hz}, {eMonitorTemperature, 1, eChar, e1Hz},
     {eCardFree, 1, eUchar, e1Hz}, {eRecorderState, 1, eBshort, e1Hz}};
-const MessageSchedule::Group MessageSchedule::kElectrical[] = {
+constexpr Message kElectrical[] = {
     {eMainBus, 6, eFloat, e1Hz}, {eGeneratorStates, 5, eBshort, e1Hz}, {ePressure, 3, eFloat, e1Hz}, {eHumidity, 1, eUchar, e1Hz}};
-const MessageSchedule::Group MessageSchedule::kGps[] = {
+constexpr Message kGps[] = {
     {eLatitude, 5, eFloat, e5Hz}, {eVerticalSpeed, 1, eFloat, e1Hz}, {eUtcTime, 2, eUlong, e1Hz}, {eFix, 1, eBshort, e1Hz}, {eSatellites, 1, eUchar, e1Hz}};
-const MessageSchedule::Group MessageSchedule::kAir[] = {
+constexpr Message kAir[] = {
     {eIndicatedSpeed, 4, eFloat, e5Hz}, {eAirTemperature, 1, eFloat, e1Hz}, {eAcceleration, 1, eFloat, e5Hz}, {eQnh, 1, eUshort, e1Hz}};
-const MessageSchedule::Group MessageSchedule::kLamps[] = {{eLamps, 12, eBshort, e2Hz}};
+constexpr Message kLamps[] = {{eLamps, 12, eBshort, e2Hz}};
+constexpr Unit kUnits[] = {
+    {1, 0, eLaneA, kLane}, {1, 0, eFaultWords, kFaults}, {2, 0, eLaneB, kLane}, {2, 0, eFaultWords + 1, kFaults},
+    {3, 1, 0, kMonitor}, {4, 1, 0, kElectrical}, {5, 2, 0, kGps}, {6, 2, 0, kAir}, {3, 1, 0, kLamps}};
 
-MessageSchedule::MessageSchedule()
+std::vector<Message> allMessages()
 {
-    add(1, 0, kLane, eLaneA);
-    add(1, 0, kFaults, eFaultWords);
-    add(2, 0, kLane, eLaneB);
-    add(2, 0, kFaults, eFaultWords + 1);
-    add(3, 1, kMonitor);
-    add(4, 1, kElectrical);
-    add(5, 2, kGps);
-    add(6, 2, kAir);
-    add(3, 1, kLamps);
-}
-
-/// Slow messages are spread over the steps of their period, so that every step carries about the same number.
-void MessageSchedule::add(std::uint8_t node, std::uint8_t kind, std::span<const Group> groups, std::uint32_t base)
-{
-    for (const Group& group : groups) {
-        for (std::uint32_t i = 0; i < group.count; ++i) {
-            const auto index = static_cast<std::uint32_t>(mMessages.size());
-            mMessages.push_back({base + group.first + i, group.type, node, kind, 0, group.perUnit});
-            for (std::size_t step = index % group.rate; step < kRound; step += group.rate)
-                mDue[step].push_back(index);
+    std::vector<Message> messages;
+    for (const Unit& unit : kUnits) {
+        for (const Message& row : unit.rows) {
+            for (std::uint32_t i = 0; i < row.count; ++i)
+                messages.push_back({unit.base + row.id + i, 1, row.type, row.rate, row.perUnit, unit.node, unit.kind});
         }
     }
+    return messages;
 }
 
-Payload MessageSchedule::encode(const Message& message, double value)
+/// Those of one step. Slow messages are spread over the steps of their period, so that every step carries about the same number.
+std::vector<Message> dueMessages(std::uint64_t step)
+{
+    static const std::vector<Message> kMessages = allMessages();
+    std::vector<Message> due;
+    for (std::size_t i = 0; i < kMessages.size(); ++i) {
+        if (i % kMessages[i].rate == step % kMessages[i].rate)
+            due.push_back(kMessages[i]);
+    }
+    return due;
+}
+
+Payload encode(const Message& message, std::uint8_t code, double value)
 {
     const double raw = value * message.perUnit;
     const std::size_t width = message.type < eShort ? 4 : (message.type < eChar ? 2 : 1);
     const auto whole = static_cast<std::uint32_t>(saturatingCast<std::int64_t>(std::floor(raw + 0.5)));
     const std::uint32_t bits = message.type == eFloat ? std::bit_cast<std::uint32_t>(static_cast<float>(raw)) : whole;
-    Payload payload{message.node, message.type, 0, message.code, 0, 0, 0, 0};
+    Payload payload{message.node, message.type, 0, code, 0, 0, 0, 0};
     for (std::size_t i = 0; i < width; ++i)
         payload[4 + i] = static_cast<std::uint8_t>(bits >> (8 * (width - 1 - i)));
     return payload;
 }
 
+} // namespace
+
 void MessageSchedule::write(std::uint64_t step, const Snapshot& snapshot, RandomSource& random, RecordWriter& writer)
 {
-    const std::vector<std::uint32_t>& due = mDue[step % kRound];
+    const std::vector<Message> due = dueMessages(step);
     // Each message has a place of its own in the step and comes somewhere within it, so times ascend.
     const auto place = static_cast<std::uint32_t>(kStepTicks / due.size());
     const auto load = static_cast<std::uint16_t>(4 * due.size()); // of the bus, in tenths of a percent
     std::uint64_t ticks = step * kStepTicks;
-    for (const std::uint32_t index : due) {
-        Message& message = mMessages[index];
-        const Payload payload = encode(message, snapshot[message.id]);
-        ++message.code;
+    for (const Message& message : due) {
+        const Payload payload = encode(message, mCodes[message.id]++, snapshot[message.id]);
         writer.putRecord(message.id, {payload, 8, message.kind, message.kind, mSequence++, load, ticks + random.below(place)});
         ticks += place;
     }

@@ -34,6 +34,8 @@ struct Motion {
     double turnRate = 0;        ///< degrees a second, positive to the right
     double headWind = 0;        ///< the wind's component against the aircraft, m/s
     bool airborne = false;
+    std::size_t waypoint = 0;   ///< of the round of the tow
+    Drift lift{0.5, 12, kStep}; ///< of the air, m/s
 };
 
 /// What the engine does, free of any sensor's error. Temperatures in degrees Celsius, pressures of air in hPa, of liquids in bar.
@@ -64,14 +66,15 @@ struct Electrical {
 
 /// The true state of the aircraft, before any instrument measures it.
 struct Situation {
+    const CyclePlan& plan;
+    LogBook& logBook;
     double seconds = 0; ///< since power-up
-    Leg leg;
+    Leg leg{};
     double throttle = 0; ///< the lever as it stands, percent
-    Motion motion;
-    Engine engine;
-    Incidents incidents;
-    Electrical electrical;
-    LogBook logBook;
+    Motion motion{};
+    Engine engine{};
+    Incidents incidents{};
+    Electrical electrical{};
     double fuelUsed = 0;       ///< l in this power cycle
     double runningSeconds = 0; ///< since the engine was started; 0 before
     double ambientPressure = 1013;

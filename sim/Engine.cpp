@@ -1,4 +1,4 @@
-#include "sim/EngineModel.h"
+#include "sim/Systems.h"
 
 #include <algorithm>
 
@@ -96,11 +96,11 @@ Engine restingEngine(double warmth, double outsideTemperature, double ambientPre
     return engine;
 }
 
-void stepEngine(Situation& situation)
+void stepEngine(Situation& now)
 {
-    stepSpeedAndAir(situation, situation.engine);
-    stepTemperatures(situation, situation.engine);
-    stepPressures(situation, situation.engine);
+    stepSpeedAndAir(now, now.engine);
+    stepTemperatures(now, now.engine);
+    stepPressures(now, now.engine);
 }
 
 } // namespace ZARN::Sim

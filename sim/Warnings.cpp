@@ -1,4 +1,4 @@
-#include "sim/WarningLogic.h"
+#include "sim/Systems.h"
 
 #include <algorithm>
 
@@ -72,11 +72,11 @@ void judgeLane(const Situation& now, std::size_t lane, Snapshot& values)
 
 } // namespace
 
-void judgeWarnings(const Situation& situation, Snapshot& values)
+void judgeWarnings(const Situation& now, Snapshot& values)
 {
-    judgeLamps(situation, values);
-    judgeLane(situation, 0, values);
-    judgeLane(situation, 1, values);
+    judgeLamps(now, values);
+    judgeLane(now, 0, values);
+    judgeLane(now, 1, values);
     // The master warning repeats the lamps that tell of something while the engine runs.
     double* const lamps = &values[eLamps];
     lamps[eMaster] = std::max({lamps[eCoolantLamp], lamps[eOilTemperatureLamp], lamps[eEgtLamp], lamps[eBoostLamp],
