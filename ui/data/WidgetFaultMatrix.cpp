@@ -24,7 +24,7 @@ constexpr int kMostHeight = 320; // a damaged profile may have names of any leng
 constexpr int kTableHeight = 180;
 constexpr int kFirstWidth = 15;
 constexpr int kMinimumWidth = 20;
-constexpr int kNumberGap = 8; // between the numbers of two columns
+constexpr int kNumberGap = 6; // between the numbers of two columns
 
 int columnOf(int bit)
 {
