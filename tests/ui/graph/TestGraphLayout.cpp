@@ -423,8 +423,6 @@ void TestGraphLayout::placesAndTimes()
     QCOMPARE(GraphLayout::yOf(1e300, plot, {0, 1}), -1e6);
     QCOMPARE(GraphLayout::yOf(-1e300, plot, {0, 1}), 1e6);
     QCOMPARE(valueAt(5, QRectF(), {3, 4}), 3.0);
-    for (const auto& [length, text] : {std::pair(4, "Name"), {3, "Na\u2026"}, {1, "\u2026"}, {0, "\u2026"}})
-        QCOMPARE(GraphLayout::shortened("Name", length), QString::fromUtf8(text));
 }
 
 /// Without room for a legend a line over the plot names each trace and tells its value.
