@@ -49,9 +49,9 @@ public:
         std::ranges::sort(mTakeOffs);
     }
 
-    CycleReview run(EKeyValues keyValues)
+    CycleReview run(EKeyValues keyValues, EStops stops = EStops::eOfFlights)
     {
-        findStops();
+        findStops(stops);
         walkParameters(keyValues == EKeyValues::eAll);
         walkFaults();
         tell();
@@ -95,7 +95,7 @@ private:
         return unwatched;
     }
 
-    void findStops();
+    void findStops(EStops wanted);
     void walkParameters(bool withKeyValues);
     [[nodiscard]] std::vector<Walk> walks(bool withKeyValues) const;
     void walkLamp(Walk& walk) const;
@@ -121,7 +121,7 @@ private:
     EpisodeList mEpisodes;
 };
 
-void ReviewPass::findStops()
+void ReviewPass::findStops(EStops wanted)
 {
     std::vector<RecordFlight> flights(mFlights.begin(), mFlights.end());
     if (const auto unfinished = FlightDetector(mValues).unfinished()) {
@@ -141,6 +141,11 @@ void ReviewPass::findStops()
         if (flight == SpanIndex::kNone)
             continue;
         const double landing = flights[static_cast<std::size_t>(flight)].landingTime;
+        const double end = i + 1 < stretches.size() ? std::min(stretches[i + 1].start, landing) : landing;
+        if (wanted == EStops::eOfFlights && static_cast<std::size_t>(flight) == mFlights.size()) {
+            mReview.stopsNotCounted.push_back({stretches[i].end, end});
+            continue;
+        }
         Episode episode;
         episode.kind = EEpisodeKind::eStop;
         episode.group = mContext.model().devices[static_cast<std::size_t>(speed.deviceIndex - 1)].name;
@@ -148,7 +153,7 @@ void ReviewPass::findStops()
         episode.unit = speed.unitMetric;
         episode.state = eThresholdWarning;
         episode.start = stretches[i].end;
-        episode.end = i + 1 < stretches.size() ? std::min(stretches[i + 1].start, landing) : landing;
+        episode.end = end;
         episode.stateTime = episode.end - episode.start;
         mEpisodes.add(std::move(episode), true);
     }
@@ -315,9 +320,9 @@ const char* verdictKey(EVerdict verdict)
     return "unknown";
 }
 
-CycleReview reviewCycle(const CycleValues& values, std::span<const RecordFlight> flights, double endTime, EKeyValues keyValues)
+CycleReview reviewCycle(const CycleValues& values, std::span<const RecordFlight> flights, double endTime, EKeyValues keyValues, EStops stops)
 {
-    return ReviewPass(values, flights, endTime).run(keyValues);
+    return ReviewPass(values, flights, endTime).run(keyValues, stops);
 }
 
 CycleReview reviewFlight(const CycleReview& cycle, const CycleValues& values, std::span<const RecordFlight> flights,
@@ -333,6 +338,7 @@ CycleReview reviewFlight(const CycleReview& cycle, const CycleValues& values, st
             .run(EKeyValues::eNone);
     review.engine.crop(span);
     review.unfinishedSince.reset(); // another flight
+    review.stopsNotCounted.clear();
     review.flightTime = flight.landingTime - flight.takeOffTime;
     review.fuel = flightFigure(flight, eFigureTotalFuel);
     // Those of the cycle: what goes on before or after the flight is not cut, so that it is told alike everywhere.

@@ -23,6 +23,7 @@ struct CycleReview {
     bool knowsFlights = false;   ///< flight is told from the ground: a ground speed was recorded
     double flightTime = 0.0;     ///< seconds
     std::optional<double> unfinishedSince; ///< take-off of a flight that the record does not show to its landing
+    std::vector<TimeSpan> stopsNotCounted; ///< when the engine stopped in that one, where such stops make no incidents
     std::optional<double> fuel;  ///< of both lanes over the whole cycle
     EVerdict verdict = EVerdict::eUnknown;
     std::size_t sources = 0;          ///< parameters with limits, lamps and fault bits that the profile has
@@ -37,10 +38,13 @@ struct CycleReview {
 };
 
 enum class EKeyValues { eNone, eAll };
+/// Whether the engine's stops in a flight that the record does not show to its landing make incidents. For programs they do not: a flight is
+/// one that has landed.
+enum class EStops { eOfFlights, eInTheAir };
 
 /// Reviews a loaded cycle. @param endTime of the cycle, in seconds since power-up
 [[nodiscard]] CycleReview reviewCycle(const CycleValues& values, std::span<const RecordFlight> flights, double endTime,
-                                      EKeyValues keyValues = EKeyValues::eNone);
+                                      EKeyValues keyValues = EKeyValues::eNone, EStops stops = EStops::eOfFlights);
 /// The same of one flight of the cycle, out of the cycle's review: what happened in it, and what was watched between its start and end.
 [[nodiscard]] CycleReview reviewFlight(const CycleReview& cycle, const CycleValues& values, std::span<const RecordFlight> flights,
                                        const RecordFlight& flight, double endTime);

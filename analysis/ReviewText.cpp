@@ -41,9 +41,10 @@ QStringList ReviewText::gaps() const
     else if (isWatched && !mReview.knowsFlights)
         gaps << tr("Flights are unknown, for no ground speed was recorded: all counts as on the ground.");
     if (mReview.unfinishedSince)
-        gaps << tr("The record ends in flight: the one that began at %1 is no flight of the list, and counts as on the ground. Should the engine have stopped in "
-                   "it, that is told.")
+        gaps << tr("The record ends in flight: the one that began at %1 is no flight of the list, and counts as on the ground.")
                     .arg(mTime(*mReview.unfinishedSince));
+    if (!mReview.stopsNotCounted.empty())
+        gaps << tr("THE ENGINE STOPPED in that flight, %1: the verdict here does not count it, for no flight tells it.").arg(texts(mReview.stopsNotCounted));
     if (!mReview.engine.silences().empty())
         gaps << tr("The engine speed was not recorded %1: what the engine did then is unknown, and it counts as doing what it did before.")
                     .arg(texts(mReview.engine.silences()));

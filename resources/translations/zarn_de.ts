@@ -5334,8 +5334,12 @@ Kreuzen Sie im Profilfeld einen Parameter an oder wählen Sie einen anderen Zykl
         <translation>Der Position ist %1 nicht zu trauen: Was dann empfangen wurde, liegt mehr als 10 km vom Ort davor entfernt und wird nicht geglaubt.</translation>
     </message>
     <message>
-        <source>The record ends in flight: the one that began at %1 is no flight of the list, and counts as on the ground. Should the engine have stopped in it, that is told.</source>
-        <translation>Die Aufzeichnung endet im Flug: Der um %1 begonnene ist kein Flug der Liste und zählt als am Boden. Blieb der Motor darin stehen, so steht es da.</translation>
+        <source>The record ends in flight: the one that began at %1 is no flight of the list, and counts as on the ground.</source>
+        <translation>Die Aufzeichnung endet im Flug: Der um %1 begonnene ist kein Flug der Liste und zählt als am Boden.</translation>
+    </message>
+    <message>
+        <source>THE ENGINE STOPPED in that flight, %1: the verdict here does not count it, for no flight tells it.</source>
+        <translation>DER MOTOR BLIEB in diesem Flug STEHEN, %1: Das Urteil hier zählt das nicht, denn kein Flug erzählt davon.</translation>
     </message>
 </context>
 <context>

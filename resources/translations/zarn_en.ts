@@ -134,16 +134,16 @@
     </message>
     <message numerus="yes">
         <source>The unit&apos;s clock went back from one recording to the next, so that dates, and what is due by them, may be wrong: %n time(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>The unit&apos;s clock went back from one recording to the next, so that dates, and what is due by them, may be wrong: %n time</numerusform>
+            <numerusform>The unit&apos;s clock went back from one recording to the next, so that dates, and what is due by them, may be wrong: %n times</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 (%n flight(s) do not tell)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 (%n flight does not tell)</numerusform>
+            <numerusform>%1 (%n flights do not tell)</numerusform>
         </translation>
     </message>
 </context>

@@ -141,7 +141,7 @@ private Q_SLOTS:
         }
         file.addFloat(2, 3e6, 130); // a damaged time
         QVERIFY(cycle.container.readContainer(card.write()) && cycle.container.loadCycle(cycle.container.recordCycles().begin()->first, -1));
-        const CycleReview review = reviewCycle(cycle.container.values(), cycle.container.loadedCycle()->flights, 119.5);
+        const CycleReview review = reviewCycle(cycle.container.values(), cycle.container.loadedCycle()->flights, 119.5, EKeyValues::eNone, EStops::eInTheAir);
         QCOMPARE(review.verdict, stopEnds > 0 ? EVerdict::eWarning : EVerdict::eOk);
         QCOMPARE(review.incidents.size(), std::size_t(stopEnds > 0));
         if (stopEnds > 0) {
@@ -150,6 +150,8 @@ private Q_SLOTS:
             QVERIFY2(std::abs(review.incidents[0].end - stopEnds) <= 0.5, qPrintable(QString::number(review.incidents[0].end)));
         }
         QTEST(review.unfinishedSince.has_value(), "isUnfinished");
+        const CycleReview plain = reviewCycle(cycle.container.values(), cycle.container.loadedCycle()->flights, 119.5);
+        QCOMPARE(plain.stopsNotCounted.size(), review.incidents.size() - plain.incidents.size()); // told, but not counted
         QCOMPARE(!ReviewText(review).gaps().filter("ends in flight").isEmpty(), review.unfinishedSince.has_value());
     }
 

@@ -17,7 +17,7 @@ void LiveReviewer::start(const CardContainer& container, const DecodingContext& 
     mPace.begin();
     mTask.start([this](Progress&) {
         mpDraft->recalculate(-1);
-        mReview = reviewCycle(mpDraft->values(), mpDraft->loadedCycle()->flights, mpDraft->endTime());
+        mReview = reviewCycle(mpDraft->values(), mpDraft->loadedCycle()->flights, mpDraft->endTime(), EKeyValues::eNone, EStops::eInTheAir);
     });
 }
 

@@ -8,7 +8,7 @@ namespace ZARN {
 
 CycleCourse CycleCourse::of(const LoadedCard& loaded)
 {
-    return of(reviewCycle(loaded.values(), loaded.flights, loaded.wholeEnd), loaded.flights);
+    return of(reviewCycle(loaded.values(), loaded.flights, loaded.wholeEnd, EKeyValues::eNone, EStops::eInTheAir), loaded.flights);
 }
 
 CycleCourse CycleCourse::of(const CycleReview& review, const std::vector<RecordFlight>& flights)

@@ -92,7 +92,7 @@ std::shared_ptr<CycleOverview> overviewOf(const CardContainer& card, uint32_t nu
     noteClock(*pOverview, card);
     pOverview->problem = QString::fromStdString(card.loadError());
     if (pOverview->problem.isEmpty())
-        pOverview->review = reviewCycle(card.values(), cycle.flights, cycle.endTime, supplement ? EKeyValues::eAll : EKeyValues::eNone);
+        pOverview->review = reviewCycle(card.values(), cycle.flights, cycle.endTime, supplement ? EKeyValues::eAll : EKeyValues::eNone, EStops::eInTheAir);
     if (pOverview->problem.isEmpty() && supplement)
         supplement(*pOverview, card);
     return pOverview;
