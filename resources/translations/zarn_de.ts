@@ -4267,7 +4267,7 @@ Ersetzen ?</translation>
     </message>
     <message>
         <source>Limit</source>
-        <translation>Limit</translation>
+        <translation>Grenzwert</translation>
     </message>
     <message>
         <source>Unknown</source>

@@ -117,7 +117,7 @@ void OverviewController::review()
     mIncidents.clear();
     if (mRecord.record())
         mIncidents = reviewCycle(card.values(), pCycle ? std::span<const RecordFlight>(pCycle->flights) : std::span<const RecordFlight>(),
-                                 pCycle ? pCycle->endTime : card.endTime())
+                                 pCycle ? pCycle->endTime : card.endTime(), EKeyValues::eNone, EStops::eInTheAir)
                          .incidents;
 }
 
