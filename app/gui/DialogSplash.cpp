@@ -20,6 +20,7 @@ DialogSplash* DialogSplash::mpSplash = nullptr;
 DialogSplash::DialogSplash() : QSplashScreen(QPixmap(":/images/splash.png"), Qt::WindowStaysOnTopHint)
 {
     setAttribute(Qt::WA_QuitOnClose, false); // the picture alone keeps no program alive
+    mTimer.setParent(this);
     mTimer.setSingleShot(true);
     connect(&mTimer, &QTimer::timeout, this, &DialogSplash::slotTimeout);
     show();

@@ -99,6 +99,7 @@ void DialogDataGraph::connectGraph()
     });
     connect(mpButtons, &GraphButtons::signalCommand, this, &DialogDataGraph::slotCommand);
     connect(mpPicture, &PictureMenu::signalProblem, this, &DialogDataGraph::showProblem);
+    mHeldTimer.setParent(this);
     connect(&mHeldTimer, &QTimer::timeout, this, &DialogDataGraph::slotHeldZoom);
 }
 

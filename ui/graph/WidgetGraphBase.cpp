@@ -41,6 +41,10 @@ WidgetGraphBase::WidgetGraphBase(QWidget* pParent) : QWidget(pParent), mInteract
     setMinimumSize(160, 120);
     setAccessibleName(tr("Graph of the selected parameters"));
     connectModel();
+    mRedrawTimer.setParent(this);
+    mRedrawTimer.setObjectName("redraw");
+    mRecalculationTimer.setParent(this);
+    mRecalculationTimer.setObjectName("recalculation");
     mRecalculationTimer.setSingleShot(true);
     mCursorTimer.setSingleShot(true);
     connect(&mRedrawTimer, &QTimer::timeout, this, &WidgetGraphBase::slotRedraw);

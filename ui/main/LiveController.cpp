@@ -43,6 +43,7 @@ LiveController::LiveController(const Session& session, const Parts& parts, QWidg
     mpSpace->setContext(Qt::WidgetWithChildrenShortcut);
     mParts.panels.addNotice(mpBar);
     mpBar->hide();
+    mTick.setParent(this);
     mTick.setSingleShot(true);
     mpSpace->setEnabled(false);
     mParts.commands.handle(eActionLive, [this](QAction&) { ask(); });

@@ -28,6 +28,7 @@ StyleWatch::StyleWatch(const Console& console, Kernel& kernel, Notices& notices,
     connect(&mDesktop, &DesktopScheme::signalChanged, this, &StyleWatch::follow);
     if (mFile.isEmpty())
         return;
+    mTimer.setParent(this);
     connect(&mTimer, &QTimer::timeout, this, &StyleWatch::checkFile);
     mTimer.start(kPeriod);
 }

@@ -78,6 +78,7 @@ WidgetMap::WidgetMap(const Session& session, const QString& dataPath, MapContext
     connect(&mInteraction, &MapInteraction::signalUpdateMode, this, &WidgetMap::signalUpdateMode);
     connect(&mInteraction, &MapInteraction::signalTime, this, &WidgetMap::signalTime);
     connect(&mInteraction, &MapInteraction::signalMoment, this, &WidgetMap::signalMoment);
+    mTimer.setParent(this);
     mTimer.setInterval(kRedrawInterval);
     connect(&mTimer, &QTimer::timeout, this, &WidgetMap::slotTimeout);
     mTimer.start();

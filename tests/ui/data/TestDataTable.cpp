@@ -15,6 +15,7 @@
 #include <QStackedWidget>
 #include <QTableView>
 #include <QTest>
+#include <QTimer>
 #include <QToolTip>
 
 using namespace ZARN;
@@ -370,7 +371,7 @@ void TestDataTable::selectedWhileHidden()
     table.view()->verticalScrollBar()->setValue(7); // the user looks at other rows
     stack.setCurrentIndex(0);
     stack.setCurrentIndex(1);
-    QTest::qWait(20);
+    QCoreApplication::processEvents();
     QCOMPARE(table.view()->verticalScrollBar()->value(), 7);
     stack.removeWidget(&*table.table);
     table.table->setParent(nullptr);
@@ -418,7 +419,8 @@ void TestDataTable::live()
     QVERIFY(!table.data()->channel(1)->fresh());
     table.table->setZarnMode(0);
     QVERIFY(table.data()->appendLive(entry));
-    QTest::qWait(120);
+    QVERIFY(!table.table->findChild<QTimer*>({}, Qt::FindDirectChildrenOnly)->isActive());
+    QCoreApplication::processEvents();
     QVERIFY(table.data()->channel(1)->fresh());
 }
 

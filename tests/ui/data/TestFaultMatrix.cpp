@@ -11,6 +11,7 @@
 #include <QSignalSpy>
 #include <QTableWidget>
 #include <QTest>
+#include <QTimer>
 
 using namespace ZARN;
 
@@ -189,7 +190,8 @@ void TestFaultMatrix::live()
     matrix.view.setZarnMode(0);
     entry.payload = Test::wordPayload(0x1U);
     QVERIFY(matrix.data()->appendLive(entry));
-    QTest::qWait(120);
+    QVERIFY(!matrix.view.findChild<QTimer*>({}, Qt::FindDirectChildrenOnly)->isActive());
+    QCoreApplication::processEvents();
     QCOMPARE(matrix.fill(1), kWarning);
 }
 

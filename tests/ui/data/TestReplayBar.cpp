@@ -55,7 +55,7 @@ void TestReplayBar::narrow()
     window.show();
     bar.resize(1600, 200);
     bar.resize(width == 0 ? bar.minimumSizeHint().width() : width, 200);
-    QTest::qWait(50);
+    QCoreApplication::processEvents(); // it is laid out
     QRegion taken;
     for (const QWidget* pControl : bar.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
         QVERIFY2(bar.rect().contains(pControl->geometry()) && !taken.intersects(pControl->geometry()), qPrintable(pControl->objectName()));

@@ -27,6 +27,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <QToolButton>
 #include <QWheelEvent>
 
@@ -46,6 +47,18 @@ protected:
     QString askSnapshotFile() override { return answer.isEmpty() ? DialogDataGraph::askSnapshotFile() : answer; }
     void showProblem(const QString& text) override { problems << text; }
 };
+
+/// Waits until a frame is drawn, the traces of its window are worked out and a look at what is left finds nothing.
+bool drawsNoMore(const WidgetGraphBase& graph)
+{
+    const auto* pRecalculation = graph.findChild<QTimer*>("recalculation");
+    QSignalSpy looks(graph.findChild<QTimer*>("redraw"), &QTimer::timeout);
+    return QTest::qWaitFor([&, frames = 0]() mutable {
+        if (std::exchange(frames, graph.frameCount()) != graph.frameCount() || pRecalculation->isActive())
+            looks.clear();
+        return frames > 0 && looks.count() > 1;
+    });
+}
 
 /// A cycle of 1,000 s with speed and flow, shown in a window on the screen.
 struct Shown : Test::TestCycle {
@@ -75,11 +88,7 @@ struct Shown : Test::TestCycle {
         dialog.updateRecord(&container.recordData());
         settle();
     }
-    void settle()
-    {
-        QTRY_VERIFY(graph.frameCount() > 0);
-        QTest::qWait(350); // four runs of the recalculation
-    }
+    void settle() { QVERIFY(drawsNoMore(graph)); }
     QPoint at(double time) const
     {
         const GraphLayout& layout = graph.layoutOfFrame();
@@ -280,8 +289,9 @@ void TestDialogDataGraph::heldZoom()
         const double first = shown.model.window().width();
         QTest::mouseRelease(pButton, Qt::LeftButton);
         const TimeWindow last = shown.model.window();
-        QTest::qWait(150);
-        return isZoomed && last == shown.model.window() ? first : 0.0;
+        const auto* pHeld = shown.dialog.findChild<QTimer*>({}, Qt::FindDirectChildrenOnly);
+        const bool isLeft = QTest::qWaitFor([pHeld] { return !pHeld->isActive(); });
+        return isZoomed && isLeft && last == shown.model.window() ? first : 0.0;
     };
     QVERIFY(std::abs(hold("zoom-out", {0, 97}) - 100) < 1e-4);
     // The cursor, and with it the record, stays in sight; where the user has gone elsewhere the window stays there.
@@ -375,7 +385,7 @@ void TestDialogDataGraph::setup()
 void TestDialogDataGraph::takesBack()
 {
     Shown shown;
-    const auto pause = [] { QTest::qWait(600); };
+    const auto pause = [&shown] { QVERIFY(QSignalSpy(&shown.dialog, &DialogDataGraph::signalLayout).wait()); }; // the step is kept
     const auto press = [&shown](int key, Qt::KeyboardModifiers modifiers) {
         QTest::keyClick(&shown.graph, static_cast<Qt::Key>(key), modifiers);
     };
@@ -529,9 +539,9 @@ void TestDialogDataGraph::snapshots()
 void TestDialogDataGraph::idleDrawsNothing()
 {
     Shown shown;
-    QTest::qWait(500);
     const int before = shown.graph.frameCount();
-    QTest::qWait(600);
+    QSignalSpy looks(shown.graph.findChild<QTimer*>("redraw"), &QTimer::timeout);
+    QTRY_VERIFY(looks.count() > 5);
     QCOMPARE(shown.graph.frameCount(), before);
     shown.dialog.setTime(77);
     QTRY_VERIFY(shown.graph.frameCount() > before);
@@ -577,8 +587,7 @@ void TestDialogDataGraph::drawnLikePainted()
     pGraph->setCursorPosition(90);
     pGraph->show();
     QVERIFY(QTest::qWaitForWindowExposed(pGraph.get()));
-    QTRY_VERIFY(pGraph->frameCount() > 0);
-    QTest::qWait(300);
+    QVERIFY(drawsNoMore(*pGraph));
     const QImage drawn = pGraph->grab().toImage().convertToFormat(QImage::Format_RGB32);
     QImage painted(pGraph->size(), QImage::Format_RGB32);
     QPainter painter(&painted);

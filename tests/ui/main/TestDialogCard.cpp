@@ -5,7 +5,10 @@
 #include <QSignalSpy>
 #include <QTabWidget>
 #include <QTest>
+#include <QTimer>
 #include <QTreeWidget>
+
+#include <algorithm>
 
 using namespace ZARN;
 using Test::FlightCard;
@@ -39,8 +42,21 @@ struct Browser : FlightCard {
         pTabs->setCurrentWidget(const_cast<QTreeWidget*>(pTree));
         QTest::mouseClick(pTree->viewport(), Qt::LeftButton, modifiers, pTree->visualItemRect(pItem).center());
     }
-    /// Long enough for a choice to be loaded.
-    static void settle() { QTest::qWait(DialogCard::kDelay + 200); }
+    [[nodiscard]] QTimer* waiting() const
+    {
+        const auto timers = dialog.findChildren<QTimer*>(Qt::FindDirectChildrenOnly);
+        const auto found = std::ranges::find_if(timers, &QTimer::isActive);
+        return found == timers.end() ? nullptr : *found;
+    }
+    /// Ends the pause after the choices.
+    void settle() const
+    {
+        while (QTimer* pTimer = waiting()) {
+            pTimer->setInterval(0);
+            QVERIFY(QSignalSpy(pTimer, &QTimer::timeout).wait());
+            pTimer->setInterval(DialogCard::kDelay);
+        }
+    }
 
     DialogCard dialog{container};
     QTreeWidget* pCycles = dialog.findChild<QTreeWidget*>("treeCycles");
@@ -71,15 +87,18 @@ void TestDialogCard::quickChoicesLoadTheLast()
     QVERIFY(browser.exposed);
     const QTreeWidgetItem* pDate = browser.pCycles->topLevelItem(0);
     browser.click(browser.pCycles, pDate->child(0));
-    QTest::qWait(DialogCard::kDelay / 2);
+    QTimer* pPause = browser.waiting();
+    QVERIFY(pPause && pPause->interval() == DialogCard::kDelay);
+    pPause->setTimerType(Qt::PreciseTimer);
+    pPause->setInterval(10000);
+    QTRY_VERIFY(pPause->remainingTime() < 9700);
     QTest::keyClick(browser.pCycles, Qt::Key_Down);
     QCOMPARE(browser.pCycles->currentItem(), pDate->child(1));
-    QTest::qWait(DialogCard::kDelay / 2);
+    QVERIFY(pPause->isActive() && pPause->remainingTime() > 9700); // it begins anew with each choice
     QTest::keyClick(browser.pCycles, Qt::Key_Down); // the date, which is no choice
     QTest::keyClick(browser.pCycles, Qt::Key_Down);
-    QTest::qWait(DialogCard::kDelay / 2);
     QVERIFY(browser.loaded.isEmpty());
-    Browser::settle();
+    browser.settle();
     QCOMPARE(browser.loaded, QList<QPoint>{QPoint(3, -1)});
 }
 
@@ -89,18 +108,18 @@ void TestDialogCard::flightsUnderTheirCycle()
     QTreeWidgetItem* pCycle = browser.pCycles->topLevelItem(0)->child(0);
     QCOMPARE(pCycle->childCount(), 0);
     browser.click(browser.pCycles, pCycle);
-    Browser::settle();
+    browser.settle();
     QCOMPARE(pCycle->childCount(), 1);
     QVERIFY(pCycle->isExpanded());
     QTreeWidgetItem* pFlight = pCycle->child(0);
     QCOMPARE(pFlight->data(0, Qt::UserRole).toUInt(), 1U);
     QCOMPARE(pFlight->data(0, Qt::UserRole + 1).toInt(), 0);
     browser.click(browser.pCycles, pFlight);
-    Browser::settle();
+    browser.settle();
     QCOMPARE(browser.loaded, (QList<QPoint>{QPoint(1, -1), QPoint(1, 0)}));
     QCOMPARE(pCycle->child(0), pFlight); // choosing a flight leaves the list alone
     browser.click(browser.pCycles, pCycle);
-    Browser::settle();
+    browser.settle();
     QCOMPARE(pCycle->childCount(), 1); // choosing the cycle again lists them anew, not twice
     browser.dialog.addFlights(99);
 }
@@ -111,10 +130,10 @@ void TestDialogCard::recordFiles()
     const QTreeWidgetItem* pDate = browser.pRawData->topLevelItem(0);
     browser.click(browser.pRawData, pDate->child(2));
     browser.click(browser.pRawData, pDate->child(0), Qt::ControlModifier);
-    Browser::settle();
+    browser.settle();
     browser.click(browser.pRawData, pDate->child(0), Qt::ControlModifier);
     browser.click(browser.pRawData, pDate->child(2), Qt::ControlModifier);
-    Browser::settle();
+    browser.settle();
     QCOMPARE(browser.loadedFiles, QStringList{"01.CAN 03.CAN"}); // in the card's order, and nothing for no file
     QCOMPARE(pDate->child(0)->childCount(), 0); // header lines are there when they are looked at
     pDate->child(0)->setExpanded(true);
@@ -130,11 +149,11 @@ void TestDialogCard::oneTreeChoosesAtATime()
     Browser browser;
     browser.click(browser.pCycles, browser.pCycles->topLevelItem(0)->child(0));
     browser.click(browser.pRawData, browser.pRawData->topLevelItem(0)->child(1));
-    Browser::settle();
+    browser.settle();
     QVERIFY(browser.loaded.isEmpty());
     QCOMPARE(browser.loadedFiles, QStringList{"02.CAN"});
     browser.click(browser.pCycles, browser.pCycles->topLevelItem(0)->child(0)); // the same as before is a choice again
-    Browser::settle();
+    browser.settle();
     QCOMPARE(browser.loaded, QList<QPoint>{QPoint(1, -1)});
     QVERIFY(browser.pRawData->selectedItems().isEmpty());
 }
@@ -148,7 +167,7 @@ void TestDialogCard::reloadDropsWhatWaits()
     QCOMPARE(changed.count(), 1);
     browser.click(browser.pRawData, browser.pRawData->topLevelItem(0)->child(1));
     browser.dialog.reloadCardInfo();
-    Browser::settle();
+    browser.settle();
     QVERIFY(browser.loaded.isEmpty());
     QVERIFY(browser.loadedFiles.isEmpty());
     QCOMPARE(browser.pCycles->topLevelItemCount(), 2);

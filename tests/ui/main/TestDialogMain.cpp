@@ -12,6 +12,7 @@
 #include "ui/main/DialogCard.h"
 #include "ui/main/DialogPreferences.h"
 #include "ui/main/MainActions.h"
+#include "ui/main/StyleWatch.h"
 #include "ui/main/WidgetWelcome.h"
 #include "ui/map/DialogDataMap.h"
 
@@ -28,6 +29,8 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QPushButton>
+#include <QSignalSpy>
+#include <QTimer>
 #include <QToolBar>
 #include <QTreeWidget>
 #include <QWizard>
@@ -453,7 +456,9 @@ void TestDialogMain::styleFile()
     DesktopFixture desktop(home(), {"-s", file});
     started(desktop.open());
     desktop.property.setInt("FontSize", 17);
-    QTest::qWait(1100);
+    auto* pLook = desktop.window->findChild<StyleWatch*>()->findChild<QTimer*>();
+    pLook->setInterval(10);
+    QVERIFY(QSignalSpy(pLook, &QTimer::timeout).wait());
     QVERIFY(!qApp->styleSheet().contains("red")); // the start applies it, not the watch
     putFile(file, "QLabel { color: blue; }");
     QTRY_COMPARE_WITH_TIMEOUT(qApp->styleSheet(), QString("QLabel { color: blue; }\nQWidget {font-size: 17px;}"), 2000);

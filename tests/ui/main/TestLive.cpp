@@ -19,6 +19,8 @@
 #include <QAction>
 #include <QLabel>
 #include <QLineEdit>
+#include <QSignalSpy>
+#include <QTimer>
 #include <QToolButton>
 
 #include <algorithm>
@@ -183,7 +185,7 @@ void TestLive::looksBack()
     QTRY_VERIFY(desktop.pLive->isPaused());
     const std::size_t all = mBatches.size();
     feed(110, all);
-    QTest::qWait(200);
+    QVERIFY(QSignalSpy(desktop.pLive->findChild<QTimer*>({}, Qt::FindDirectChildrenOnly), &QTimer::timeout).wait());
     QCOMPARE(pData->viewTime(), 20.0);
     QCOMPARE(desktop.fixture.container.endTime(), latest(110));
 
@@ -202,7 +204,7 @@ void TestLive::looksBack()
     QVERIFY(!desktop.fixture.container.isLive() && !pBar->isVisible());
     QCOMPARE(desktop.fixture.container.recordCycles().size(), std::size_t{3});
     feed(0, 1); // belated
-    QTest::qWait(100);
+    QCoreApplication::processEvents();
     QVERIFY(!desktop.fixture.container.isLive());
 }
 

@@ -92,14 +92,16 @@ void TestOtherModes::tellsOnce()
         desktop.project.takeProfileData();
         window.slotLoadCycle(1, -1);
         settled(window);
-        QTest::qWait(100);
+        QTRY_VERIFY(window.findChild<DataTableModel*>()->rowCount() > 0);
+        QCoreApplication::processEvents();
     }
     const auto* pTable = window.findChild<DataTableModel*>();
     const ShownTraces& traces = window.findChild<DialogDataGraph*>()->graph().model().traces();
     QSignalSpy filled(pTable, &DataTableModel::rowsInserted), cleared(pTable, &DataTableModel::rowsRemoved);
     action(window);
     settled(window);
-    QTest::qWait(100);
+    QTRY_COMPARE(filled.count(), isStart ? 0 : 1);
+    QCoreApplication::processEvents();
     QCOMPARE(filled.count(), isStart ? 0 : 1);
     QCOMPARE(cleared.count(), isStart ? 0 : 1);
     QVERIFY(std::ranges::all_of(traces.shown(), [&](int slot) { return traces.at(slot)->samples.empty(); })); // nobody sees it
