@@ -165,6 +165,7 @@ void TestDialogCard::reloadDropsWhatWaits()
     browser.click(browser.pCycles, browser.pCycles->topLevelItem(0)->child(1));
     browser.dialog.reloadCardInfo();
     QCOMPARE(changed.count(), 1);
+    browser.settle();
     browser.click(browser.pRawData, browser.pRawData->topLevelItem(0)->child(1));
     browser.dialog.reloadCardInfo();
     browser.settle();

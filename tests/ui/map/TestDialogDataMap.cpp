@@ -399,6 +399,7 @@ void TestDialogDataMap::picksTimes()
     QVERIFY(WidgetMap::calcDistance(there.latitude, there.longitude, at.latitude, at.longitude) < window.map().screenToCartesianSize(8.0));
     QTest::mouseClick(&window.map(), Qt::LeftButton, {}, {20, window.map().height() - 60}); // far from the path
     QTest::qWait(2 * QApplication::doubleClickInterval());
+    QTest::mouseClick(&window.map(), Qt::LeftButton, {}, dot);
     QTest::mouseDClick(&window.map(), Qt::LeftButton, {}, dot); // only zooms
     QTest::qWait(2 * QApplication::doubleClickInterval());
     QCOMPARE(picked.size(), 1);
