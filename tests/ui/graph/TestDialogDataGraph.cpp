@@ -9,6 +9,7 @@
 #include "ui/gl/GraphicsCheck.h"
 #include "ui/graph/DialogDataGraph.h"
 #include "ui/graph/DialogGraphSetup.h"
+#include "ui/graph/DrawsNoMore.h"
 #include "ui/graph/WidgetGraph.h"
 #include "ui/graph/WidgetGraphES.h"
 
@@ -47,18 +48,6 @@ protected:
     QString askSnapshotFile() override { return answer.isEmpty() ? DialogDataGraph::askSnapshotFile() : answer; }
     void showProblem(const QString& text) override { problems << text; }
 };
-
-/// Waits until a frame is drawn, the traces of its window are worked out and a look at what is left finds nothing.
-bool drawsNoMore(const WidgetGraphBase& graph)
-{
-    const auto* pRecalculation = graph.findChild<QTimer*>("recalculation");
-    QSignalSpy looks(graph.findChild<QTimer*>("redraw"), &QTimer::timeout);
-    return QTest::qWaitFor([&, frames = 0]() mutable {
-        if (std::exchange(frames, graph.frameCount()) != graph.frameCount() || pRecalculation->isActive())
-            looks.clear();
-        return frames > 0 && looks.count() > 1;
-    });
-}
 
 /// A cycle of 1,000 s with speed and flow, shown in a window on the screen.
 struct Shown : Test::TestCycle {
