@@ -25,16 +25,15 @@ uint64_t clockOf(const CardContainer& container)
     return powerUp.isValid() ? static_cast<uint64_t>(std::max<qint64>(powerUp.toMSecsSinceEpoch(), 0)) * 1000 : 0;
 }
 
-std::string lineOf(uint32_t identifier, const StoredRecord& record, uint64_t clock)
+std::string lineOf(const CanFrame& frame, uint64_t ticks, uint64_t clock)
 {
-    const uint64_t ticks = record.ticks;
     const uint64_t stamp = clock + ticks / kTicksPerMicrosecond + (ticks % kTicksPerMicrosecond * 2 >= kTicksPerMicrosecond ? 1 : 0);
-    const Payload& data = record.payload;
+    const Payload& data = frame.payload;
     char text[96];
-    std::snprintf(text, sizeof text, "(%" PRIu64 ".%06" PRIu64 ") zarn0 %0*" PRIX32 "#%02X%02X%02X%02X%02X%02X%02X%02X\n", stamp / kMicroseconds,
-                  stamp % kMicroseconds, identifier <= kHighestStandard ? 3 : 8, identifier, data[0], data[1], data[2], data[3], data[4],
-                  data[5], data[6], data[7]);
-    return text;
+    const int length = std::snprintf(text, sizeof text, "(%" PRIu64 ".%06" PRIu64 ") zarn0 %0*" PRIX32 "#%02X%02X%02X%02X%02X%02X%02X%02X",
+                                     stamp / kMicroseconds, stamp % kMicroseconds, frame.isExtended ? 8 : 3, frame.identifier, data[0], data[1],
+                                     data[2], data[3], data[4], data[5], data[6], data[7]);
+    return std::string(text, static_cast<std::size_t>(length) - 2 * (data.size() - frame.length)) + '\n';
 }
 
 } // namespace
@@ -48,10 +47,10 @@ bool ExportCandump::exportData(const CardContainer& container, std::optional<Tim
     container.recordData().forEachInOrder([&](uint32_t identifier, const StoredRecord& record) {
         if (!isGood || (span && !span->holds(record.time())))
             return;
-        if (identifier > kHighestIdentifier)
-            ++mLeftOut;
+        if (const auto frame = CanFrame::of(identifier, record))
+            isGood = file.write(lineOf(*frame, record.ticks, clock));
         else
-            isGood = file.write(lineOf(identifier, record, clock));
+            ++mLeftOut;
     });
     isGood = isGood && file.commit();
     if (!isGood)

@@ -43,14 +43,13 @@ void FrameReader::read(const QCanBusFrame& frame, int64_t hostMicroseconds, Live
     if (!count(frame))
         return;
     const QCanBusFrame::TimeStamp stamp = frame.timeStamp();
-    LiveRecord record{frame.frameId(), {}};
-    record.record.kind = kFrameKind;
     // Seconds that no clock has would not fit as microseconds.
     const qint64 seconds = std::clamp<qint64>(stamp.seconds(), 0, INT64_MAX / 4'000'000);
-    record.record.ticks = mClock.ticks(seconds * 1'000'000 + stamp.microSeconds() % 1'000'000, hostMicroseconds);
+    const uint64_t ticks = mClock.ticks(seconds * 1'000'000 + stamp.microSeconds() % 1'000'000, hostMicroseconds);
     const QByteArray payload = frame.payload();
-    std::copy_n(payload.begin(), payload.size(), record.record.payload.begin());
-    records.push_back(record);
+    CanFrame kept{frame.frameId(), frame.hasExtendedFrameFormat(), {}, static_cast<std::size_t>(payload.size())};
+    std::copy_n(payload.begin(), payload.size(), kept.payload.begin());
+    records.push_back({kept.recordIdentifier(), kept.record(ticks)});
 }
 
 } // namespace ZARN

@@ -7,7 +7,7 @@ class QCanBusFrame;
 
 namespace ZARN {
 
-/// Makes records of the frames of a bus and counts what it meets. Data that a frame does not fill are 0.
+/// Makes records of the frames of a bus and counts what it meets.
 class FrameReader {
 public:
     /// @param hostMicroseconds of a clock that never jumps, at reception

@@ -21,10 +21,10 @@ RecordSender::RecordSender(const RecordData& data, double speed, QObject* pParen
 {
     mFrames.reserve(data.count());
     data.forEachInOrder([this](uint32_t identifier, const StoredRecord& record) {
-        if (identifier > kHighestIdentifier)
-            ++mLeftOut;
-        else
+        if (CanFrame::of(identifier, record))
             mFrames.push_back({identifier, record});
+        else
+            ++mLeftOut;
     });
     mTimer.setTimerType(Qt::PreciseTimer);
     connect(&mTimer, &QTimer::timeout, this, &RecordSender::send);
@@ -66,9 +66,9 @@ void RecordSender::send()
         const auto& [identifier, record] = mFrames[mSent];
         if (record.time() - mFrames.front().record.time() > due)
             return;
-        const auto& payload = record.payload;
-        QCanBusFrame frame(identifier, QByteArray(reinterpret_cast<const char*>(payload.data()), static_cast<qsizetype>(payload.size())));
-        frame.setExtendedFrameFormat(identifier > kHighestStandard);
+        const CanFrame sent = CanFrame::of(identifier, record).value();
+        QCanBusFrame frame(sent.identifier, QByteArray(reinterpret_cast<const char*>(sent.payload.data()), static_cast<qsizetype>(sent.length)));
+        frame.setExtendedFrameFormat(sent.isExtended);
         if (!mpDevice->writeFrame(frame))
             return this->end(mpDevice->errorString());
     }

@@ -1,6 +1,5 @@
 #include "card/record/CandumpFile.h"
 
-#include "card/record/CanFrame.h"
 #include "card/record/CandumpLine.h"
 #include "card/record/RecordData.h"
 
@@ -30,9 +29,12 @@ struct CandumpFile::Tally {
     uint64_t error = 0;
     uint64_t fd = 0;
     uint64_t none = 0;
+    uint64_t tooShort = 0;
+    uint64_t extended = 0; // with a standard identifier's number
     uint64_t lowest = UINT64_MAX; // stamps of the frames, in nanoseconds
     uint64_t highest = 0;
     std::string device;
+    bool hasStandard = false;
     bool hasSeveralDevices = false;
     bool isCutOff = false;
 
@@ -46,6 +48,9 @@ struct CandumpFile::Tally {
         case EKind::eNone: ++none; break;
         case EKind::eFrame:
             ++frames;
+            tooShort += line.frame.recordIdentifier() & kShortFlag ? 1 : 0;
+            extended += line.frame.recordIdentifier() & kExtendedFlag ? 1 : 0;
+            hasStandard |= !line.frame.isExtended;
             lowest = std::min(lowest, line.nanoseconds);
             highest = std::max(highest, line.nanoseconds);
             if (device.empty())
@@ -106,7 +111,7 @@ template <typename Visitor> bool CandumpFile::forEachFrame(FILE* pFile, Tally& t
             return true;
         CandumpLine line = CandumpLine::parse(text);
         // Cut off, its data would pass for a shorter frame, filled up with 0.
-        if (!isEnded && line.kind == EKind::eFrame && line.length < line.payload.size()) {
+        if (!isEnded && line.kind == EKind::eFrame && line.frame.length < line.frame.payload.size()) {
             tally.isCutOff = true;
             return true;
         }
@@ -147,20 +152,37 @@ void CandumpFile::noteDamage(const Tally& tally)
         note(tr("the last line is cut off"), false);
     if (tally.remote + tally.error + tally.fd > 0)
         note(tr("frames that cannot be used: %1 remote, %2 error, %3 FD").arg(tally.remote).arg(tally.error).arg(tally.fd), false);
+    const uint64_t extended = tally.hasStandard ? tally.extended : 0;
+    if (tally.tooShort + extended > 0) {
+        note(tr("frames that no parameter reads: %1 with too few data, %2 of 29 bits with a standard identifier").arg(tally.tooShort).arg(extended),
+             false);
+    }
     if (tally.hasSeveralDevices)
         note(tr("the frames of several interfaces are read as one bus"), false);
     noteUnsoundTimes();
 }
 
+/// Whether a frame has a standard identifier. Where none has, all were written with eight digits, whatever they are.
+bool CandumpFile::hasStandard(FILE* pFile)
+{
+    Tally tally;
+    forEachFrame(pFile, tally, [](const CandumpLine& line) { return line.frame.isExtended; });
+    std::rewind(pFile);
+    return tally.hasStandard;
+}
+
 bool CandumpFile::loadFile(FILE* pFile, RecordData& data)
 {
+    const bool isMixed = hasStandard(pFile);
     Tally tally;
     const bool isFirst = data.count() == 0;
     const uint32_t before = data.count();
     bool hasMemory = true;
     const bool isWhole = forEachFrame(pFile, tally, [&](const CandumpLine& line) {
+        CanFrame frame = line.frame;
+        frame.isExtended &= isMixed;
         if (line.nanoseconds >= clockStart)
-            hasMemory = data.append(line.identifier, StoredRecord{line.payload, 0, 0, kFrameKind, 0, 0, ticks(line.nanoseconds)});
+            hasMemory = data.append(frame.recordIdentifier(), frame.record(ticks(line.nanoseconds)));
         return hasMemory;
     });
     const uint32_t added = data.count() - before;

@@ -26,6 +26,7 @@ private:
     void setSpan(const Tally& tally);
     void noteDamage(const Tally& tally);
     [[nodiscard]] uint64_t ticks(uint64_t nanoseconds) const;
+    [[nodiscard]] bool hasStandard(FILE* pFile);
     template <typename Visitor> bool forEachLine(FILE* pFile, Visitor visit);
     template <typename Visitor> bool forEachFrame(FILE* pFile, Tally& tally, Visitor visit);
 };

@@ -1,7 +1,5 @@
 #include "card/record/CandumpLine.h"
 
-#include "card/record/CanFrame.h"
-
 #include <algorithm>
 #include <charconv>
 
@@ -90,9 +88,9 @@ CandumpLine::EKind parseData(std::string_view text, CandumpLine& line)
     text.remove_prefix(1);
     if (text.starts_with('R') || text.starts_with('r'))
         return text.size() <= 4 && isHex(text.substr(1, 1)) ? EKind::eRemote : EKind::eNone;
-    line.length = takeBytes(text, line.payload.data(), line.payload.size());
+    line.frame.length = takeBytes(text, line.frame.payload.data(), line.frame.payload.size());
     // A length above 8, which the bus can carry beside 8 bytes.
-    const bool hasLength = line.length == line.payload.size() && text.size() == 2 && text.front() == '_' && isHex(text.substr(1));
+    const bool hasLength = line.frame.length == line.frame.payload.size() && text.size() == 2 && text.front() == '_' && isHex(text.substr(1));
     return text.empty() || hasLength ? EKind::eFrame : EKind::eNone;
 }
 
@@ -116,9 +114,10 @@ CandumpLine CandumpLine::parse(std::string_view text)
     if (mark == std::string_view::npos || !toNumber(frame.substr(0, mark), kIdentifierDigits, 16, identifier) || !isDirection(text) ||
         !toNanoseconds(stamp, line.nanoseconds))
         return line;
-    const bool isError = mark > kStandardDigits && (identifier & ~kHighestIdentifier) == kErrorFlag;
-    line.identifier = identifier & kHighestIdentifier;
-    if (!isError && identifier > (mark > kStandardDigits ? kHighestIdentifier : kHighestStandard))
+    line.frame.isExtended = mark > kStandardDigits;
+    line.frame.identifier = identifier & kHighestIdentifier;
+    const bool isError = line.frame.isExtended && (identifier & ~kHighestIdentifier) == kErrorFlag;
+    if (!isError && identifier > (line.frame.isExtended ? kHighestIdentifier : kHighestStandard))
         return line;
     line.kind = parseData(frame.substr(mark), line);
     if (isError && line.kind != EKind::eNone)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "card/record/RecordEntry.h"
+#include "card/record/CanFrame.h"
 
 #include <string_view>
 
@@ -20,9 +20,7 @@ struct CandumpLine {
     EKind kind = EKind::eNone;
     uint64_t nanoseconds = 0;   ///< the stamp as it stands
     std::string_view device;    ///< the name of the interface, a part of the line
-    uint32_t identifier = 0;
-    Payload payload{};      ///< what the frame does not fill is 0
-    std::size_t length = 0; ///< the bytes that it fills
+    CanFrame frame;
 
     /// @param text without its line break.
     [[nodiscard]] static CandumpLine parse(std::string_view text);
