@@ -176,13 +176,13 @@ int runWindow(QApplication& application)
     splash.addEntry("Starting up ZARN...");
     splash.addEntry(QString("Version %1").arg(QString::fromStdString(Revision::getRevisionString())));
     Kernel& kernel = Kernel::instance();
-    kernel.setApplication(&application);
     QSurfaceFormat::setDefaultFormat(GraphicsCheck::surfaceFormat());
     setAttributes();
     StartMarker marker(DataHandler::instance().dataPath());
     const bool defaults = readSettings(marker, splash);
     installTranslations(console);
     applyStyle(kernel);
+    kernel.setApplication(&application); // from here on: each widget would be styled anew whenever it gets another parent
     splash.addEntry("Creating Dialogs ...");
     const Session session{console, Property::instance(), Profile::instance(), CardContainer::instance(), Project::instance()};
     const WindowEnvironment environment{cmdLine, DataHandler::instance(), kernel, checkGraphics(console), defaults};

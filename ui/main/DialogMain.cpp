@@ -84,6 +84,7 @@ DialogMain::DialogMain(const Session& session, const WindowEnvironment& environm
     connectCommands();
     setWindowIcon(ImageHandler::icon("zarn"));
     startTimers();
+    mEnvironment.kernel.applyFontSize(Settings::kFontSize.get(mSession.property)); // the style of all of it at once
     mpLayout->restoreWindow();
     if (mEmu) {
         mpPanels->hideSide();
@@ -202,10 +203,6 @@ void DialogMain::createControllers()
         connect(this, &DialogMain::signalStarted, pLive, &LiveController::connectLast, Qt::SingleShotConnection);
     mpProfileController = std::make_unique<ProfileController>(mSession, *mpCatalogue, mpToolBar->profiles(), mpToolBar->units());
     mpLayout = std::make_unique<WindowLayout>(mSession.property, *this, *mpPanels, mpPanels->side());
-    mpAbout = new DialogAbout(this);
-    mpHelp = new DialogHelp(Settings::kLocale.text(mSession.property), this);
-    mpProfileInfo = new DialogProfileInfo(mSession, *mpCatalogue, this);
-    mpPreferences = new DialogPreferences(mSession, mEnvironment.kernel, this, QString::fromStdString(mEnvironment.folders.dataPath()));
 }
 
 void DialogMain::createLayouts()
@@ -226,9 +223,6 @@ void DialogMain::connectPanels()
     connect(mpCard, &DialogCard::signalLoadRecord, this, &DialogMain::slotLoadRecord);
     connect(mpCard, &DialogCard::signalLoadCycle, this, &DialogMain::slotLoadCycle);
     connect(&mRecord, &RecordSession::recordChanged, this, &DialogMain::showRecorded);
-    connect(mpProfileInfo, &DialogProfileInfo::signalProfileChanged, this, &DialogMain::slotProfileInstalled);
-    connect(mpPreferences, &DialogPreferences::signalProfileFileChanged, this, &DialogMain::slotProfileFileChanged);
-    connect(mpPreferences, &DialogPreferences::signalTilesChanged, mpData, &DialogData::updateSettings);
     connect(mpData, &DialogData::signalReport, action(eActionReport), &QAction::trigger);
     connect(mpCardController, &CardController::signalFolderChanged, this, &DialogMain::slotFolderChanged);
     connect(mpCardController, &CardController::signalDataChanging, this, &DialogMain::slotDataChanging);
@@ -276,15 +270,46 @@ void DialogMain::connectCommands()
     on(eActionFind, [this] { mpFind->open(); });
     on(eActionNextIncident, [this] { mpOverview->step(true); });
     on(eActionPreviousIncident, [this] { mpOverview->step(false); });
-    const std::initializer_list<std::pair<int, QWidget*>> windows = {
-        {eActionAbout, mpAbout}, {eActionProfile, mpProfileInfo}, {eActionHelp, mpHelp}, {eActionPreferences, mpPreferences}};
-    for (const auto& [id, pWindow] : windows) {
-        on(id, [pWindow] {
-            pWindow->show();
-            pWindow->raise();
-            pWindow->activateWindow();
-        });
-    }
+    connectWindow(eActionAbout, [this] { return new DialogAbout(this); });
+    connectWindow(eActionHelp, [this] { return new DialogHelp(Settings::kLocale.text(mSession.property), this); });
+    connectWindow(eActionProfile, [this] { return createProfileInfo(); });
+    connectWindow(eActionPreferences, [this] { return createPreferences(); });
+}
+
+/// A window of its own, which is made when it is asked for the first time: nobody waits for it at the start.
+template <typename Create> void DialogMain::connectWindow(int id, Create create)
+{
+    mpCommands->handle(id, [create, pWindow = decltype(create())()](QAction&) mutable {
+        if (!pWindow)
+            pWindow = create();
+        pWindow->show();
+        pWindow->raise();
+        pWindow->activateWindow();
+    });
+}
+
+void DialogMain::tellProfile()
+{
+    if (!mpProfileInfo)
+        return;
+    mpProfileInfo->setProfileFile(mpProfileController->file(), mpProfileController->isChosenFile());
+    mpProfileInfo->fillProfileInfo();
+}
+
+DialogProfileInfo* DialogMain::createProfileInfo()
+{
+    mpProfileInfo = new DialogProfileInfo(mSession, *mpCatalogue, this);
+    connect(mpProfileInfo, &DialogProfileInfo::signalProfileChanged, this, &DialogMain::slotProfileInstalled);
+    tellProfile();
+    return mpProfileInfo;
+}
+
+DialogPreferences* DialogMain::createPreferences()
+{
+    auto* pPreferences = new DialogPreferences(mSession, mEnvironment.kernel, this, QString::fromStdString(mEnvironment.folders.dataPath()));
+    connect(pPreferences, &DialogPreferences::signalProfileFileChanged, this, &DialogMain::slotProfileFileChanged);
+    connect(pPreferences, &DialogPreferences::signalTilesChanged, mpData, &DialogData::updateSettings);
+    return pPreferences;
 }
 
 void DialogMain::slotMenu(QAction* pAction)
@@ -332,8 +357,7 @@ void DialogMain::loadProfile()
 {
     mpProfileController->load();
     tellProfileProblem();
-    mpProfileInfo->setProfileFile(mpProfileController->file(), mpProfileController->isChosenFile());
-    mpProfileInfo->fillProfileInfo();
+    tellProfile();
     mpLogbook->setProfile(mpProfileController->file());
     mpProfile->setExamples(mpProfileController->formulas());
     mpProfile->updateProfile();

@@ -10,8 +10,6 @@
 #include <list>
 #include <memory>
 
-class DialogAbout;
-class DialogHelp;
 class DialogProfileInfo;
 class QActionGroup;
 
@@ -113,6 +111,10 @@ private:
     void createControllers();
     void connectPanels();
     void connectCommands();
+    template <typename Create> void connectWindow(int id, Create create);
+    DialogProfileInfo* createProfileInfo();
+    DialogPreferences* createPreferences();
+    void tellProfile();
     void startTimers();
     void createNotices();
     void createLayouts();
@@ -141,10 +143,7 @@ private:
     LayoutBar* mpLayoutBar = nullptr;
     DialogProfile* mpProfile = nullptr;
     DialogData* mpData = nullptr;
-    DialogAbout* mpAbout = nullptr;
-    DialogHelp* mpHelp = nullptr;
-    DialogProfileInfo* mpProfileInfo = nullptr;
-    DialogPreferences* mpPreferences = nullptr;
+    DialogProfileInfo* mpProfileInfo = nullptr; ///< once it was asked for
     Notices* mpNotices = nullptr;
     StatusProgress* mpProgress = nullptr;
     std::unique_ptr<ProfileCatalogue> mpCatalogue;

@@ -15,20 +15,23 @@ constexpr int kDragging = 200; // milliseconds
 } // namespace
 
 XyController::XyController(const Session& session, RecordSession& record, DialogData& data, QAction& action, QWidget* pWindow)
-    : QObject(pWindow), mData(data), mpWindow(new DialogXy(session, record, pWindow))
+    : QObject(pWindow), mData(data), mCreate([&session, &record, pWindow] { return new DialogXy(session, record, pWindow); })
 {
     action.setEnabled(false);
     connect(&record, &RecordSession::recordChanged, &action, [&record, &action] { action.setEnabled(record.record() != nullptr); });
     mDelay.setSingleShot(true);
     mDelay.setInterval(kDragging);
-    connect(&mDelay, &QTimer::timeout, this, [this] { mpWindow->setMarked(mData.graph().markedSpan()); });
-    connect(&mData, &DialogData::signalMarker, &mDelay, qOverload<>(&QTimer::start));
-    connect(&mData, &DialogData::signalSettings, mpWindow, &DialogXy::refresh);
     connect(&mData, &DialogData::signalCurves, &action, &QAction::trigger);
 }
 
 void XyController::open()
 {
+    if (!mpWindow) {
+        mpWindow = mCreate();
+        connect(&mDelay, &QTimer::timeout, this, [this] { mpWindow->setMarked(mData.graph().markedSpan()); });
+        connect(&mData, &DialogData::signalMarker, &mDelay, qOverload<>(&QTimer::start));
+        connect(&mData, &DialogData::signalSettings, mpWindow, &DialogXy::refresh);
+    }
     mpWindow->setMarked(mData.graph().markedSpan());
     mpWindow->open();
 }

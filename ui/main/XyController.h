@@ -5,6 +5,8 @@
 #include <QObject>
 #include <QTimer>
 
+#include <functional>
+
 class QAction;
 
 namespace ZARN {
@@ -25,8 +27,9 @@ public:
 
 private:
     DialogData& mData;
-    DialogXy* mpWindow; ///< owned by the main window
-    QTimer mDelay;      ///< while the marker is dragged
+    std::function<DialogXy*()> mCreate;
+    DialogXy* mpWindow = nullptr; ///< once it was asked for; owned by the main window
+    QTimer mDelay;                ///< while the marker is dragged
 };
 
 } // namespace ZARN

@@ -442,6 +442,7 @@ void TestDialogMain::mapTiles()
     QVERIFY(pMap && !pMap->map().areTilesAllowed());
     const auto* pQuestion = window.findChild<QWidget*>("consentBar");
     QVERIFY(pQuestion->isVisible());
+    window.action(eActionPreferences)->trigger();
     auto* pTiles = window.findChild<DialogPreferences*>()->findChild<QCheckBox*>("tiles");
     pTiles->click();
     QVERIFY(pMap->map().areTilesAllowed() && !pQuestion->isVisible());

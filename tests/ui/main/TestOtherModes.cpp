@@ -8,6 +8,7 @@
 #include "ui/main/Answer.h"
 #include "ui/main/DesktopFixture.h"
 #include "ui/main/DialogCard.h"
+#include "ui/main/MainActions.h"
 #include "ui/main/StatusProgress.h"
 #include "ui/main/WidgetWelcome.h"
 
@@ -293,6 +294,7 @@ void TestOtherModes::installedProfile()
     DialogMain& window = desktop.open();
     started(window);
     QCOMPARE(desktop.profile.currentVariant(), std::string("915 A")); // of the folder "915", which no setting names
+    window.action(eActionProfile)->trigger();
     auto* pInfo = window.findChild<DialogProfileInfo*>();
     pInfo->setProfileFile(home() + "/chosen.xml", true);
     putFile(home().toStdString() + "/new.xml",

@@ -8,6 +8,7 @@
 #include "ui/main/DialogAbout.h"
 #include "ui/main/DialogHelp.h"
 #include "ui/main/DialogPreferences.h"
+#include "ui/main/MainActions.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -123,6 +124,7 @@ void TestPreferences::wheelPassesOver()
     DesktopFixture desktop(home.path());
     DialogMain& window = desktop.open();
     const auto value = [](const QWidget* pField) { return pField->property(qobject_cast<const QSpinBox*>(pField) ? "value" : "currentIndex"); };
+    window.action(eActionPreferences)->trigger();
     const auto* pPreferences = window.findChild<DialogPreferences*>();
     const QList<QWidget*> fields{window.findChild<QComboBox*>("profiles"), window.findChild<QComboBox*>("units"),
                                  pPreferences->findChild<QComboBox*>(), pPreferences->findChild<QSpinBox*>("fontSize")};
