@@ -92,7 +92,7 @@ CardCommand::CardCommand(CLI::App& program, const char* name, const char* descri
     options().add("--variant", mVariant, "variant of the profile (default: none)");
     options().add("--unit", mUnit, "metric (default) or imperial", CommandOptions::eOptional,
                   CommandOptions::oneOf({"metric", "imperial"}));
-    options().add("--cycle", mCycle, "number of the power cycle (default: the lowest on the card)");
+    options().add("--cycle", mCycle, cards == eOneCycle ? "number of the power cycle (default: the lowest on the card)" : "number of the power cycle (default: all)");
 }
 
 std::optional<unsigned int> CardCommand::chosenCycle() const

@@ -19,8 +19,8 @@ void sayDamage(const QString& path, const std::vector<CardProblem>& problems);
 /// A subcommand that decodes a card's data: the options that all of them share, and the way from them to the card.
 class CardCommand : public Command {
 public:
-    enum ECards { eOneCard, eManyCards };
-    CardCommand(CLI::App& program, const char* name, const char* description, const char* example, ECards cards = eOneCard);
+    enum ECards { eOneCycle, eWholeCard, eManyCards }; ///< what is taken where no cycle is named
+    CardCommand(CLI::App& program, const char* name, const char* description, const char* example, ECards cards = eOneCycle);
     int run() override;
 
 protected:

@@ -47,8 +47,7 @@ std::string hexadecimal(uint32_t identifier)
 } // namespace
 
 CommandIds::CommandIds(CLI::App& program)
-    : CardCommand(program, "ids", "list the CAN identifiers on a card, with what the profile knows of them; without --cycle those of all cycles",
-                  "zarn-cli ids /media/card")
+    : CardCommand(program, "ids", "list the CAN identifiers on a card, with what the profile knows of them", "zarn-cli ids /media/card", eWholeCard)
 {
     addJson();
 }

@@ -1,7 +1,10 @@
 #include "live/LiveRecorder.h"
 
+#include "app/Console.h"
 #include "app/FileName.h"
+#include "app/Progress.h"
 #include "card/record/RecordFormats.h"
+#include "card/record/RecordReader.h"
 #include "card/record/RecordWriter.h"
 
 #include <QDir>
@@ -22,6 +25,18 @@ constexpr uint64_t kTicksPerMillisecond = 32'000;
 constexpr uint64_t kFileTicks = 600 * 1000 * kTicksPerMillisecond;
 constexpr int kShortestFirst = 1000; // milliseconds
 
+/// A unit tells who it is in each file, a recording of a bus never.
+bool isOfUnit(const QString& file)
+{
+    static const Console silent([](std::string_view) {}, [](std::string_view) {});
+    const std::unique_ptr<RecordReader> pReader = RecordFormats::reader(file, silent, nullProgress());
+    if (!pReader)
+        return false;
+    pReader->readRecordInfo(file);
+    const RecordInfo& info = pReader->recordInfo();
+    return info.busType != 0 || info.ecuSerialNumber != 0 || !info.ecuType.empty() || !info.engineSerial.empty() || !info.engineType.empty();
+}
+
 } // namespace
 
 LiveRecorder::LiveRecorder(QString folder) : mFolder(std::move(folder)) {}
@@ -37,6 +52,8 @@ bool LiveRecorder::open()
     errno = 0;
     if (!QDir().mkpath(mFolder))
         return fail(mFolder, errno != 0 ? errno : ENOTDIR);
+    if (!findNumber()) // before anything is written there
+        return false;
     mpLock = std::make_unique<QLockFile>(mFolder + "/.zarn-recording");
     mpLock->setStaleLockTime(0); // a recording may take days; a killed recorder's is known by its process
     if (!mpLock->tryLock()) {
@@ -57,6 +74,10 @@ bool LiveRecorder::findNumber()
         const unsigned number = name.mid(3, 5).toUInt();
         if (name.toStdString() != RecordWriter::fileName(number)) {
             mError = tr("%1: holds the record file %2, which is none of a recording").arg(mFolder, name);
+            return false;
+        }
+        if (isOfUnit(mFolder + '/' + name)) {
+            mError = tr("%1: holds %2, which a unit recorded; a card is never written to").arg(mFolder, name);
             return false;
         }
         mNumber = std::max(mNumber, number);

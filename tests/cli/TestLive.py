@@ -110,6 +110,12 @@ class Live(unittest.TestCase):
         self.waitFor(3)
         self.assertEqual(['12E#03'], payloads(self.recording, '--cycle', '2'))
 
+    def testCardIsLeftAlone(self):
+        run('simulate', self.recording)
+        before = sorted(os.listdir(self.recording))
+        self.assertIn('which a unit recorded', run('live', self.bus.address, '--record', self.recording, '--seconds', '1', status=1))
+        self.assertEqual(before, sorted(os.listdir(self.recording)))
+
     def testForeignServer(self):
         listener = self.listen()
         self.bus.send('300##01')
