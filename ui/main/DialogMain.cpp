@@ -12,15 +12,11 @@
 #include "card/record/RecordData.h"
 #include "card/record/RecordFormats.h"
 #include "profile/ui/DialogProfile.h"
-#include "profile/ui/DialogProfileInfo.h"
 #include "project/Project.h"
 #include "ui/data/DialogData.h"
 #include "ui/main/CardController.h"
 #include "ui/main/CopyKey.h"
-#include "ui/main/DialogAbout.h"
 #include "ui/main/DialogCard.h"
-#include "ui/main/DialogHelp.h"
-#include "ui/main/DialogPreferences.h"
 #include "ui/main/ExportController.h"
 #include "ui/main/FindController.h"
 #include "ui/main/FolderDrop.h"
@@ -40,6 +36,7 @@
 #include "ui/main/StatusProgress.h"
 #include "ui/main/StyleWatch.h"
 #include "ui/main/WidgetWelcome.h"
+#include "ui/main/WindowController.h"
 #include "ui/main/WindowLayout.h"
 #include "ui/main/XyController.h"
 #include "ui/overview/DialogOverview.h"
@@ -202,6 +199,7 @@ void DialogMain::createControllers()
     if (mEnvironment.cmdLine.getSwitch("-connect"))
         connect(this, &DialogMain::signalStarted, pLive, &LiveController::connectLast, Qt::SingleShotConnection);
     mpProfileController = std::make_unique<ProfileController>(mSession, *mpCatalogue, mpToolBar->profiles(), mpToolBar->units());
+    mpWindows = new WindowController(mSession, mEnvironment, *mpCatalogue, *mpProfileController, *mpCommands, this);
     mpLayout = std::make_unique<WindowLayout>(mSession.property, *this, *mpPanels, mpPanels->side());
 }
 
@@ -223,6 +221,8 @@ void DialogMain::connectPanels()
     connect(mpCard, &DialogCard::signalLoadRecord, this, &DialogMain::slotLoadRecord);
     connect(mpCard, &DialogCard::signalLoadCycle, this, &DialogMain::slotLoadCycle);
     connect(&mRecord, &RecordSession::recordChanged, this, &DialogMain::showRecorded);
+    connect(mpWindows, &WindowController::signalProfileFileChanged, this, &DialogMain::slotProfileFileChanged);
+    connect(mpWindows, &WindowController::signalTilesChanged, mpData, &DialogData::updateSettings);
     connect(mpData, &DialogData::signalReport, action(eActionReport), &QAction::trigger);
     connect(mpCardController, &CardController::signalFolderChanged, this, &DialogMain::slotFolderChanged);
     connect(mpCardController, &CardController::signalDataChanging, this, &DialogMain::slotDataChanging);
@@ -270,46 +270,6 @@ void DialogMain::connectCommands()
     on(eActionFind, [this] { mpFind->open(); });
     on(eActionNextIncident, [this] { mpOverview->step(true); });
     on(eActionPreviousIncident, [this] { mpOverview->step(false); });
-    connectWindow(eActionAbout, [this] { return new DialogAbout(this); });
-    connectWindow(eActionHelp, [this] { return new DialogHelp(Settings::kLocale.text(mSession.property), this); });
-    connectWindow(eActionProfile, [this] { return createProfileInfo(); });
-    connectWindow(eActionPreferences, [this] { return createPreferences(); });
-}
-
-/// A window of its own, which is made when it is asked for the first time: nobody waits for it at the start.
-template <typename Create> void DialogMain::connectWindow(int id, Create create)
-{
-    mpCommands->handle(id, [create, pWindow = decltype(create())()](QAction&) mutable {
-        if (!pWindow)
-            pWindow = create();
-        pWindow->show();
-        pWindow->raise();
-        pWindow->activateWindow();
-    });
-}
-
-void DialogMain::tellProfile()
-{
-    if (!mpProfileInfo)
-        return;
-    mpProfileInfo->setProfileFile(mpProfileController->file(), mpProfileController->isChosenFile());
-    mpProfileInfo->fillProfileInfo();
-}
-
-DialogProfileInfo* DialogMain::createProfileInfo()
-{
-    mpProfileInfo = new DialogProfileInfo(mSession, *mpCatalogue, this);
-    connect(mpProfileInfo, &DialogProfileInfo::signalProfileChanged, this, &DialogMain::slotProfileInstalled);
-    tellProfile();
-    return mpProfileInfo;
-}
-
-DialogPreferences* DialogMain::createPreferences()
-{
-    auto* pPreferences = new DialogPreferences(mSession, mEnvironment.kernel, this, QString::fromStdString(mEnvironment.folders.dataPath()));
-    connect(pPreferences, &DialogPreferences::signalProfileFileChanged, this, &DialogMain::slotProfileFileChanged);
-    connect(pPreferences, &DialogPreferences::signalTilesChanged, mpData, &DialogData::updateSettings);
-    return pPreferences;
 }
 
 void DialogMain::slotMenu(QAction* pAction)
@@ -357,7 +317,7 @@ void DialogMain::loadProfile()
 {
     mpProfileController->load();
     tellProfileProblem();
-    tellProfile();
+    mpWindows->tellProfile();
     mpLogbook->setProfile(mpProfileController->file());
     mpProfile->setExamples(mpProfileController->formulas());
     mpProfile->updateProfile();
@@ -415,12 +375,6 @@ void DialogMain::slotProfileFileChanged()
     loadProfile();
     fillProfiles();
     updateTitle();
-}
-
-void DialogMain::slotProfileInstalled()
-{
-    mpProfileController->adoptInstalled(mpProfileInfo->profileFile());
-    slotProfileFileChanged();
 }
 
 void DialogMain::slotUnitChanged(int index)

@@ -10,7 +10,6 @@
 #include <list>
 #include <memory>
 
-class DialogProfileInfo;
 class QActionGroup;
 
 namespace ZARN {
@@ -18,7 +17,6 @@ namespace ZARN {
 class CardController;
 class DialogCard;
 class DialogData;
-class DialogPreferences;
 class DialogProfile;
 class ExportController;
 class FindController;
@@ -34,6 +32,7 @@ class ProfileCatalogue;
 class ProfileController;
 class ProjectController;
 class StatusProgress;
+class WindowController;
 class WindowLayout;
 class XyController;
 
@@ -100,7 +99,6 @@ private Q_SLOTS:
     void slotDataChanged();
     void slotRecalculated();
     void slotProjectChanged();
-    void slotProfileInstalled();
 
 private:
     void createMenus();
@@ -111,10 +109,6 @@ private:
     void createControllers();
     void connectPanels();
     void connectCommands();
-    template <typename Create> void connectWindow(int id, Create create);
-    DialogProfileInfo* createProfileInfo();
-    DialogPreferences* createPreferences();
-    void tellProfile();
     void startTimers();
     void createNotices();
     void createLayouts();
@@ -143,7 +137,7 @@ private:
     LayoutBar* mpLayoutBar = nullptr;
     DialogProfile* mpProfile = nullptr;
     DialogData* mpData = nullptr;
-    DialogProfileInfo* mpProfileInfo = nullptr; ///< once it was asked for
+    WindowController* mpWindows = nullptr;
     Notices* mpNotices = nullptr;
     StatusProgress* mpProgress = nullptr;
     std::unique_ptr<ProfileCatalogue> mpCatalogue;

@@ -19,11 +19,33 @@ class EventList;
 class RecordData;
 struct CycleCourse;
 
-/// A view of the loaded record that follows the common view time. Who keeps it up to date, and when, is its ViewLink.
-class DataView {
+/// What a view may be told and asked about a part of the record.
+class PartView {
 public:
-    virtual ~DataView() = default;
+    virtual ~PartView() = default;
 
+    /// The part of the record that the user looks at, where a view has one.
+    [[nodiscard]] virtual std::optional<TimeSpan> shownSpan() const { return {}; }
+    /// Whether the user, who sees the view, has moved it away from that time.
+    [[nodiscard]] virtual bool hasLeft(double /*time*/) const { return false; }
+    /// The part of the record that the user marked, where a view has one.
+    [[nodiscard]] virtual std::optional<TimeSpan> markedSpan() const { return {}; }
+    /// Takes whom to ask for the part of the record that another view shows, for a view that tells it apart.
+    virtual void followSpan(std::function<std::optional<TimeSpan>()> /*span*/) {}
+    /// Shows its part of the record, and its parameters whether they are ticked or not; who asks sets the time.
+    virtual void showMoment(const GraphMoment& /*moment*/) {}
+    /// Marks these parts of the record, in order of time, for a view that can.
+    virtual void setFound(const std::vector<TimeSpan>& /*spans*/) {}
+
+protected:
+    PartView() = default;
+    PartView(const PartView&) = default;
+    PartView& operator=(const PartView&) = default;
+};
+
+/// A view of the loaded record that follows the common view time. Who keeps it up to date, and when, is its ViewLink.
+class DataView : public PartView {
+public:
     /// Other parameters are shown, another profile or unit is in force: everything that comes from the profile is built anew.
     virtual void updateProfile() = 0;
 
@@ -81,18 +103,6 @@ public:
     /// The events of a view that lists them; null for others.
     [[nodiscard]] virtual const EventList* eventList() const { return nullptr; }
 
-    /// The part of the record that the user looks at, where a view has one.
-    [[nodiscard]] virtual std::optional<TimeSpan> shownSpan() const { return {}; }
-    /// Whether the user, who sees the view, has moved it away from that time.
-    [[nodiscard]] virtual bool hasLeft(double /*time*/) const { return false; }
-    /// The part of the record that the user marked, where a view has one.
-    [[nodiscard]] virtual std::optional<TimeSpan> markedSpan() const { return {}; }
-    /// Takes whom to ask for the part of the record that another view shows, for a view that tells it apart.
-    virtual void followSpan(std::function<std::optional<TimeSpan>()> /*span*/) {}
-    /// Shows its part of the record, and its parameters whether they are ticked or not; who asks sets the time.
-    virtual void showMoment(const GraphMoment& /*moment*/) {}
-    /// Marks these parts of the record, in order of time, for a view that can.
-    virtual void setFound(const std::vector<TimeSpan>& /*spans*/) {}
     /// Shows what is ticked as a layout tells, for a view that can.
     virtual void setLayout(const DisplayLayout& /*layout*/) {}
     /// What is ticked, and how the view shows it; none for a view that knows no layouts.
