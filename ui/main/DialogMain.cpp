@@ -82,7 +82,6 @@ DialogMain::DialogMain(const Session& session, const WindowEnvironment& environm
     createLayouts();
     connectPanels();
     connectCommands();
-    setWindowIcon(ImageHandler::icon("zarn"));
     startTimers();
     mpLayout->restoreWindow();
     if (mEmu) {
