@@ -2,6 +2,7 @@
 
 #include "app/Property.h"
 #include "app/Settings.h"
+#include "app/gui/FormLayout.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -9,7 +10,6 @@
 #include <QDir>
 #include <QEvent>
 #include <QFileDialog>
-#include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -74,7 +74,7 @@ void DialogLive::createRows()
     pButtons->addButton(mpConnect, QDialogButtonBox::ActionRole);
     pButtons->addButton(mpDisconnect, QDialogButtonBox::ActionRole);
     connect(pButtons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    auto* pForm = new QFormLayout(mpFields);
+    auto* pForm = new FormLayout(mpFields);
     pForm->setContentsMargins(0, 0, 0, 0);
     pForm->addRow(tr("Plugin"), mpPlugin);
     pForm->addRow(tr("Interface"), mpInterface);
