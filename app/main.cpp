@@ -218,6 +218,7 @@ int runProgram(int argc, char** argv)
     QApplication::setApplicationVersion(QString::fromStdString(Revision::getRevisionNumber()));
     QGuiApplication::setDesktopFileName(ZARN_APPLICATION_ID); // so that desktops find name and icon of its windows
     ImageHandler::initialise();
+    QApplication::setWindowIcon(ImageHandler::icon("program")); // has a ground of its own: desktops draw it on theirs
     return runWindow(application);
 }
 

@@ -5,6 +5,7 @@
 #include "app/StyleHandler.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QProcess>
 
 namespace ZARN {
@@ -43,6 +44,9 @@ void Kernel::applyPalette()
     mStyleProblem.clear();
     if (!mStyleFile.isEmpty())
         mStyle.readStyle(mStyleFile);
+    mIsStyleMissing = !mStyleFile.isEmpty() && !QFile(mStyleFile).open(QIODevice::ReadOnly);
+    if (mIsStyleMissing)
+        mStyleProblem = mStyleFile + "\n" + QCoreApplication::translate("ZARN::Kernel", "It cannot be read.");
     if (const QStringList unknown = mStyle.unknown(); !unknown.isEmpty()) { // the toolkit would refuse all of it
         mStyleProblem = mStyleFile + "\n" + QCoreApplication::translate("ZARN::Kernel", "Unknown variables: %1").arg(unknown.join(", "));
         mStyle.readStyle(kBuiltInStyle);

@@ -40,6 +40,8 @@ public:
     [[nodiscard]] bool followsSystem() const;
     /// What is wrong with the style file or the user's colours: what comes with the program is in force instead. Empty when nothing is.
     [[nodiscard]] QString styleProblem() const { return mStyleProblem.isEmpty() ? mColourProblem : mStyleProblem; }
+    /// Whether there is no style at all, since its file cannot be read.
+    [[nodiscard]] bool isStyleMissing() const { return mIsStyleMissing; }
     /// Applies the sheet that was read last with a font size in pixels.
     void applyFontSize(int pixels);
 
@@ -58,6 +60,7 @@ private:
     QString mStyleProblem, mColourProblem;
     QApplication* mpApplication = nullptr;
     DialogMain* mpMainWindow = nullptr;
+    bool mIsStyleMissing = false;
     bool mRestarts = false;
 };
 

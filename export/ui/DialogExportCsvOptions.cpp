@@ -1,10 +1,10 @@
 #include "export/ui/DialogExportCsvOptions.h"
 
+#include "app/gui/FormLayout.h"
 #include "export/CsvForm.h"
 
 #include <QComboBox>
 #include <QDate>
-#include <QFormLayout>
 #include <QLabel>
 
 #include <algorithm>
@@ -42,7 +42,7 @@ DialogExportCsvOptions::DialogExportCsvOptions(QWidget* pParent)
     mpForm->addItem(tr("Fixed, for programs: decimal point"), QString());
     addForm(CsvForm::kThisComputer);
     mpSize->setObjectName("size");
-    auto* pForm = new QFormLayout(this);
+    auto* pForm = new FormLayout(this);
     pForm->addRow(tr("Form"), mpForm);
     pForm->addRow(tr("Limiter"), mpLimiter);
     pForm->addRow(tr("Resolution"), mpResolution);

@@ -1,9 +1,9 @@
 #include "export/ui/DialogExportKmlOptions.h"
 
+#include "app/gui/FormLayout.h"
 #include "export/ui/ColourButton.h"
 
 #include <QCheckBox>
-#include <QFormLayout>
 #include <QGroupBox>
 #include <QLabel>
 #include <QSpinBox>
@@ -36,12 +36,12 @@ DialogExportKmlOptions::DialogExportKmlOptions(bool hasClock, QWidget* pParent)
     mpPolygonColour->setObjectName("polygonColour");
 
     auto* pLine = new QGroupBox(tr("Line Style"));
-    auto* pLineForm = new QFormLayout(pLine);
+    auto* pLineForm = new FormLayout(pLine);
     pLineForm->addRow(tr("Line width"), mpLineWidth);
     pLineForm->addRow(tr("Line color"), mpLineColour);
-    auto* pPolygonForm = new QFormLayout(mpPolygon);
+    auto* pPolygonForm = new FormLayout(mpPolygon);
     pPolygonForm->addRow(tr("Polygon color"), mpPolygonColour);
-    auto* pForm = new QFormLayout;
+    auto* pForm = new FormLayout;
     pForm->addRow(tr("Timestamp every :"), mpTimeStamp);
     auto* pLayout = new QVBoxLayout(this);
     pLayout->addLayout(pForm);

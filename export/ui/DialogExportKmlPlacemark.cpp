@@ -1,9 +1,9 @@
 #include "export/ui/DialogExportKmlPlacemark.h"
 
+#include "app/gui/FormLayout.h"
 #include "export/ui/ColourButton.h"
 
 #include <QCheckBox>
-#include <QFormLayout>
 #include <QGroupBox>
 #include <QLabel>
 #include <QSpinBox>
@@ -36,17 +36,17 @@ DialogExportKmlPlacemark::DialogExportKmlPlacemark(QWidget* pParent)
     mpWarnings->setObjectName("warnings");
     mpErrorColour->setObjectName("errorColour");
 
-    auto* pParameters = new QFormLayout(mpParameters);
+    auto* pParameters = new FormLayout(mpParameters);
     pParameters->addRow(tr("Placemark every"), mpInterval);
     pParameters->addRow(tr("Placemark Color"), mpColour);
-    auto* pErrors = new QFormLayout(mpErrors);
+    auto* pErrors = new FormLayout(mpErrors);
     pErrors->addRow(tr("Show"), mpLimits);
     pErrors->addRow(QString(), mpWarnings);
     pErrors->addRow(tr("Exceedance Placemark Color"), mpErrorColour);
     auto* pLayout = new QVBoxLayout(this);
     pLayout->addWidget(mpParameters);
     pLayout->addWidget(mpErrors);
-    auto* pSize = new QFormLayout;
+    auto* pSize = new FormLayout;
     pSize->addRow(tr("Size of the file"), mpSize);
     pLayout->addLayout(pSize);
     pLayout->addWidget(mpNote);

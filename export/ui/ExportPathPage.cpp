@@ -1,11 +1,11 @@
 #include "export/ui/ExportPathPage.h"
 
+#include "app/gui/FormLayout.h"
 #include "export/ui/ExportTarget.h"
 
 #include <QComboBox>
 #include <QDir>
 #include <QFileDialog>
-#include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -15,7 +15,7 @@
 namespace ZARN {
 
 ExportPathPage::ExportPathPage(const CardContainer& card, const QString& chooser, QWidget* pParent)
-    : QWizardPage(pParent), mCard(card), mChooser(chooser), mpForm(new QFormLayout(this)), mpPart(new QComboBox), mpSize(new QLabel),
+    : QWizardPage(pParent), mCard(card), mChooser(chooser), mpForm(new FormLayout(this)), mpPart(new QComboBox), mpSize(new QLabel),
       mpDirectory(new QLineEdit), mpName(new QLineEdit), mpProblem(new QLabel)
 {
     setTitle(tr("Select the output directory and file"));

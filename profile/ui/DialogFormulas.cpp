@@ -1,10 +1,10 @@
 #include "profile/ui/DialogFormulas.h"
 
+#include "app/gui/FormLayout.h"
 #include "trace/FormulaCheck.h"
 
 #include <QDialogButtonBox>
 #include <QFontDatabase>
-#include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -136,7 +136,7 @@ void DialogFormulas::addExamples(QToolButton& button, const FormulaDefinitions& 
 QWidget* DialogFormulas::createForm()
 {
     auto* pForm = new QWidget;
-    auto* pLayout = new QFormLayout(pForm);
+    auto* pLayout = new FormLayout(pForm);
     pLayout->setContentsMargins(0, 0, 0, 0);
     mpName = new QLineEdit;
     mpName->setObjectName("name");

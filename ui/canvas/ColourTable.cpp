@@ -4,6 +4,7 @@
 #include "ui/canvas/ColourContrast.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 #include <QStringList>
 
 #include <utility>
@@ -109,7 +110,7 @@ QString ColourTable::problemOfUses() const
                 continue;
             return problem(
                 QT_TRANSLATE_NOOP("ZARN::ColourTable", "\"%1\" cannot be read on \"%2\": the contrast is %3 : 1, less than %4 : 1"),
-                use.colour, use.ground, QString::number(contrastRatio(colour, ground), 'f', 2), QString::number(use.least));
+                use.colour, use.ground, QLocale().toString(contrastRatio(colour, ground), 'f', 2), QLocale().toString(use.least, 'g', 2));
         }
     }
     return {};

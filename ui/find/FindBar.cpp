@@ -14,6 +14,8 @@
 #include <QTableView>
 #include <QToolButton>
 
+#include <algorithm>
+
 namespace ZARN {
 
 namespace {
@@ -99,10 +101,20 @@ void FindBar::setList(bool isShown)
 {
     const int row = mpList->fontMetrics().height() + 6;
     mpList->verticalHeader()->setDefaultSectionSize(row);
-    mpList->setFixedHeight(mpList->horizontalHeader()->sizeHint().height() + kListRows * row + 2 * mpList->frameWidth());
     mpList->horizontalHeader()->setDefaultSectionSize(mpList->fontMetrics().horizontalAdvance("-00:00:00.000") + 24);
     mpList->setVisible(isShown);
+    fitList();
     updateStatus();
+}
+
+/// No higher than what was found, and lower where the window has no room: it would make it higher than the screen.
+void FindBar::fitList()
+{
+    const int row = mpList->verticalHeader()->defaultSectionSize();
+    const int around = mpList->horizontalHeader()->sizeHint().height() + 2 * mpList->frameWidth();
+    const int most = around + std::clamp(mpModel->rowCount(), 1, kListRows) * row;
+    mpList->setMinimumHeight(around + row);
+    mpList->setMaximumHeight(std::max(most, mpList->minimumHeight()));
 }
 
 void FindBar::open()
@@ -118,6 +130,7 @@ void FindBar::setHits(const FindHits& hits)
     mText.clear();
     mIsProblem = false;
     mpModel->setSpans(mHits.spans());
+    fitList();
     updateStatus();
 }
 

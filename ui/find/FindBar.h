@@ -55,6 +55,7 @@ private:
     void createList();
     void updateStatus();
     void setList(bool isShown);
+    void fitList();
 
     FindForm* mpForm;
     QLabel* mpStatus;

@@ -1,5 +1,6 @@
 #include "ui/logbook/DialogLogbook.h"
 
+#include "app/gui/FirstSize.h"
 #include "app/gui/Heading.h"
 #include "app/gui/WheelGuard.h"
 #include "ui/logbook/LogbookEngines.h"
@@ -52,7 +53,7 @@ DialogLogbook::DialogLogbook(LogbookWorker& worker, QWidget* pOptions, QWidget* 
     pLayout->addWidget(mpPages, 1);
     connectPages();
     connect(&mLook, &QTimer::timeout, &mWorker, &LogbookWorker::look);
-    resize(1000, 640);
+    resize(firstSize(*this, QSize(1100, 640)));
 }
 
 QWidget* DialogLogbook::createHead()

@@ -1,10 +1,11 @@
 #include "ui/logbook/DialogService.h"
 
+#include "app/gui/FormLayout.h"
+
 #include <QCheckBox>
 #include <QDateEdit>
 #include <QDialogButtonBox>
 #include <QDoubleSpinBox>
-#include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -53,7 +54,7 @@ DialogService::DialogService(Service service, double hours, const QString& hint,
     mpDoneDate->setAccessibleName(tr("Date when it was done"));
     mpHours->setAccessibleName(tr("Interval in engine hours"));
     mpMonths->setAccessibleName(tr("Interval in months"));
-    auto* pForm = new QFormLayout(this);
+    auto* pForm = new FormLayout(this);
     if (!hint.isEmpty()) {
         auto* pHint = new QLabel(hint);
         pHint->setObjectName("warning");

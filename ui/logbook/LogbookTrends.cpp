@@ -179,6 +179,7 @@ void LogbookTrends::fill(Trends trends)
         pItem->setFont(font);
         mpList->addItem(pItem);
     }
+    mpList->setVisible(!mTrends.empty());
     mpChart->setVisible(!mTrends.empty());
     mpPointRow->setVisible(!mTrends.empty());
     mpPoint->clear();

@@ -1,5 +1,6 @@
 #include "ui/main/DialogHelp.h"
 
+#include "app/gui/FirstSize.h"
 #include "ui/graph/model/GraphKeys.h"
 #include "ui/main/MainActions.h"
 
@@ -13,6 +14,9 @@
 #include <QSplitter>
 #include <QTextBlock>
 #include <QTextBrowser>
+
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -40,6 +44,33 @@ QString commandKeys()
     for (const auto& [keys, what] : ZARN::GraphKey::descriptions())
         text += "| " + keys + " | " + what + " |\n";
     return text;
+}
+
+/// Code has the size of the text around it, not that of the system's font; and it is wrapped rather than moved sideways.
+void fitCode(QTextDocument& document)
+{
+    QTextCursor cursor(&document);
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        std::vector<std::pair<int, int>> pieces; // changing one ends a walk over them
+        for (auto piece = block.begin(); !piece.atEnd(); ++piece) {
+            if (piece.fragment().charFormat().fontFixedPitch())
+                pieces.emplace_back(piece.fragment().position(), piece.fragment().length());
+        }
+        for (const auto& [position, length] : pieces) {
+            cursor.setPosition(position);
+            cursor.setPosition(position + length, QTextCursor::KeepAnchor);
+            QTextCharFormat format = cursor.charFormat();
+            format.clearProperty(QTextFormat::FontPointSize);
+            format.clearProperty(QTextFormat::FontPixelSize);
+            cursor.setCharFormat(format);
+        }
+        if (block.blockFormat().nonBreakableLines()) {
+            cursor.setPosition(block.position());
+            QTextBlockFormat format = block.blockFormat();
+            format.setNonBreakableLines(false);
+            cursor.setBlockFormat(format);
+        }
+    }
 }
 
 /// Shows the manual, and behind its last chapter what the program knows better.
@@ -73,8 +104,8 @@ DialogHelp::DialogHelp(const QString& locale, QWidget* pParent)
     pSplitter->addWidget(mpBrowser);
     pSplitter->setStretchFactor(1, 1);
     mpChapters->ensurePolished();
-    constexpr int kAround = 40, kText = 720; // pixels
-    const int chapters = std::min(mpChapters->sizeHintForColumn(0) + kAround, kText / 2);
+    constexpr int kAround = 40, kText = 720, kHeight = 700; // pixels, with texts of the usual size
+    const int chapters = std::min(mpChapters->sizeHintForColumn(0) + kAround, ZARN::grownWithText(*mpChapters, kText / 2));
     pSplitter->setSizes({chapters, kText});
     auto* pButtons = new QDialogButtonBox(QDialogButtonBox::Close);
     connect(pButtons, &QDialogButtonBox::rejected, this, &QDialog::close);
@@ -83,7 +114,7 @@ DialogHelp::DialogHelp(const QString& locale, QWidget* pParent)
     pLayout->addWidget(createHead());
     pLayout->addWidget(pSplitter, 1);
     pLayout->addWidget(pButtons);
-    resize(chapters + kText, 700);
+    resize(ZARN::firstSize(*this, QSize(kText + kText / 3, kHeight)));
 }
 
 QWidget* DialogHelp::createHead()
@@ -109,6 +140,7 @@ QWidget* DialogHelp::createHead()
 void DialogHelp::slotSourceChanged()
 {
     mpBrowser->document()->setDocumentMargin(18);
+    fitCode(*mpBrowser->document());
     const QSignalBlocker blocker(mpChapters);
     mpChapters->clear();
     for (QTextBlock block = mpBrowser->document()->begin(); block.isValid(); block = block.next()) {

@@ -79,7 +79,6 @@ DialogMain::DialogMain(const Session& session, const WindowEnvironment& environm
     createLayouts();
     connectPanels();
     connectCommands();
-    setWindowIcon(ImageHandler::icon("zarn"));
     startTimers();
     mEnvironment.kernel.applyFontSize(Settings::kFontSize.get(mSession.property)); // the style of all of it at once
     mpLayout->restoreWindow();

@@ -2,6 +2,7 @@
 
 #include "app/Property.h"
 #include "app/Settings.h"
+#include "app/gui/FormLayout.h"
 #include "app/gui/ImageHandler.h"
 #include "app/gui/Kernel.h"
 #include "app/gui/SideList.h"
@@ -12,7 +13,6 @@
 #include <QComboBox>
 #include <QEvent>
 #include <QFileDialog>
-#include <QFormLayout>
 #include <QGroupBox>
 #include <QLabel>
 #include <QListWidget>
@@ -82,7 +82,7 @@ QWidget* DialogPreferences::createGeneralPage()
     WheelGuard::install(*mpPalette);
     WheelGuard::install(*mpFontSize);
     auto* pGroup = new QGroupBox(tr("Application"));
-    auto* pForm = new QFormLayout(pGroup);
+    auto* pForm = new FormLayout(pGroup);
     pForm->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     pForm->addRow(tr("Language :"), mpLanguage);
     pForm->addRow(tr("Colours :"), mpPalette);

@@ -2,6 +2,7 @@
 
 #include "app/Property.h"
 #include "app/Settings.h"
+#include "app/gui/FormLayout.h"
 #include "app/gui/WheelGuard.h"
 #include "openstreet/core/LocalTiles.h"
 #include "openstreet/core/TileDisk.h"
@@ -12,7 +13,6 @@
 #include <QCheckBox>
 #include <QDir>
 #include <QFileDialog>
-#include <QFormLayout>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -89,7 +89,7 @@ MapOptions::MapOptions(const Session& session, const QString& dataPath, QWidget*
 QWidget* MapOptions::createNetwork()
 {
     auto* pGroup = new QGroupBox(tr("Map tiles from a server"));
-    auto* pForm = new QFormLayout(pGroup);
+    auto* pForm = new FormLayout(pGroup);
     pForm->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     pForm->addRow(mpTiles);
     pForm->addRow(mpServerText);
@@ -138,7 +138,7 @@ QWidget* MapOptions::createKept()
     auto* pRow = new QHBoxLayout;
     pRow->addWidget(mpUsed, 1);
     pRow->addWidget(pEmpty);
-    auto* pForm = new QFormLayout(pGroup);
+    auto* pForm = new FormLayout(pGroup);
     mpSize->setObjectName("tilesSize");
     pForm->addRow(tr("At most :"), mpSize);
     pForm->addRow(pRow);

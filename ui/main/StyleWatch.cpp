@@ -46,7 +46,9 @@ void StyleWatch::checkFile()
 void StyleWatch::tellProblem()
 {
     const QString problem = mKernel.styleProblem();
-    const QString text = tr("Style damaged: the built-in one is in force") + "; " + problem.section('\n', 1).simplified();
+    const QString file = QFileInfo(problem.section('\n', 0, 0)).fileName();
+    const QString what = mKernel.isStyleMissing() ? tr("Style not found: the windows have none") : tr("Style damaged: the built-in one is in force");
+    const QString text = what + "; " + file + ": " + problem.section('\n', 1).simplified();
     mNotices.setProblem(Notices::eStyle, problem.isEmpty() ? QString() : text, problem);
 }
 

@@ -2,6 +2,7 @@
 
 #include "app/Property.h"
 #include "app/Settings.h"
+#include "app/gui/FirstSize.h"
 
 #include <QEvent>
 #include <QFontInfo>
@@ -16,7 +17,6 @@ namespace ZARN {
 namespace {
 
 constexpr QSize kFirstSize(1000, 800);
-constexpr QSize kFrame(4, 40); // what the system puts around the window
 constexpr int kFirstSideWidth = 320;
 constexpr int kSideWidthPerPixel = 15; // of a text larger than the usual
 constexpr int kUsualText = 12;
@@ -35,10 +35,7 @@ WindowLayout::WindowLayout(Property& property, QMainWindow& window, QSplitter& c
 
 void WindowLayout::restoreWindow()
 {
-    const QRect screen = mWindow.screen()->availableGeometry();
-    mWindow.ensurePolished();
-    const double larger = std::max(1.0, QFontInfo(mWindow.font()).pixelSize() / static_cast<double>(kUsualText));
-    mWindow.resize((kFirstSize * larger).boundedTo(screen.size() - kFrame));
+    mWindow.resize(firstSize(mWindow, kFirstSize));
     mWindow.restoreGeometry(stored(mProperty, Settings::kWindowGeometry)); // refuses what it did not write itself
 }
 
