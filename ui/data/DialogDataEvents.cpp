@@ -15,6 +15,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLocale>
+#include <QStyledItemDelegate>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
@@ -60,6 +61,32 @@ QTableWidgetItem* createItem(const QString& text)
     pItem->setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled);
     return pItem;
 }
+
+/// What an event says without the group, in the cell that says all of it.
+constexpr int kShortText = Qt::UserRole + 1;
+
+class EventDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* pOption, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(pOption, index);
+        if (pOption->state.testFlag(QStyle::State_Selected)) { // one ground for the whole row, whether a cell has a colour of its own or none
+            pOption->state.setFlag(QStyle::State_Selected, false);
+            pOption->backgroundBrush = pOption->palette.brush(QPalette::Normal, QPalette::Highlight);
+            pOption->palette.setBrush(QPalette::Text, pOption->palette.brush(QPalette::Normal, QPalette::HighlightedText));
+        }
+        const QWidget* pWidget = pOption->widget;
+        const QStyle& style = *pWidget->style();
+        const int margin = style.pixelMetric(QStyle::PM_FocusFrameHMargin, pOption, pWidget) + 1;
+        const int room = style.subElementRect(QStyle::SE_ItemViewItemText, pOption, pWidget).width() - 2 * margin;
+        const QString shortText = index.data(kShortText).toString();
+        if (!shortText.isEmpty() && pOption->fontMetrics.horizontalAdvance(pOption->text) > room)
+            pOption->text = shortText;
+    }
+};
 
 } // namespace
 
@@ -112,7 +139,8 @@ void DialogDataEvents::createTable()
     mpTable->setSelectionMode(QAbstractItemView::ExtendedSelection);
     mpTable->setTabKeyNavigation(false);
     mpTable->setWordWrap(false);
-    mpTable->setTextElideMode(Qt::ElideLeft); // name and value tell more than the group
+    mpTable->setTextElideMode(Qt::ElideMiddle); // the name begins there, and the value ends it
+    mpTable->setItemDelegate(new EventDelegate(mpTable));
     mpTable->verticalHeader()->hide();
     QHeaderView* pHeader = mpTable->horizontalHeader();
     QFont font = pHeader->font();
@@ -264,6 +292,7 @@ QTableWidgetItem* DialogDataEvents::createText(const Event& event) const
     QString toolTip = text.toHtmlEscaped() + (state.isEmpty() ? QString() : "<br/>" + state);
     if (!isInside(event))
         toolTip += "<br/>" + tr("Outside of the selected flight");
+    pText->setData(kShortText, text.mid(QString::fromStdString(mEvents.source(event).group).size() + 1));
     pText->setToolTip("<qt>" + toolTip + "</qt>");
     pText->setData(Qt::AccessibleDescriptionRole, state);
     pText->setIcon(eventMark(event.state));

@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QResizeEvent>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -282,6 +283,15 @@ void RowTable::paintEvent(QPaintEvent* pEvent)
         const int x = mpHeader->sectionViewportPosition(column) + mpHeader->sectionSize(column) - 1;
         painter.fillRect(QRect(QPoint(x, area.top()), QPoint(x, std::min(area.bottom(), below - 1))), grid);
     }
+}
+
+void RowTable::resizeEvent(QResizeEvent* pEvent)
+{
+    const int row = currentIndex().row(), before = pEvent->oldSize().height();
+    const bool wasSeen = row >= firstRow() && (row - firstRow()) * mRowHeight < before;
+    QAbstractItemView::resizeEvent(pEvent);
+    if (wasSeen && row >= firstRow() + rowsAPage())
+        verticalScrollBar()->setValue(row - rowsAPage() + 1);
 }
 
 void RowTable::updateGeometries()

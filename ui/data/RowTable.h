@@ -47,6 +47,8 @@ protected:
     void setSelection(const QRect& rect, QItemSelectionModel::SelectionFlags flags) override;
     [[nodiscard]] QRegion visualRegionForSelection(const QItemSelection& selection) const override;
     void paintEvent(QPaintEvent* pEvent) override;
+    /// The current row stays in sight, whole, if it was.
+    void resizeEvent(QResizeEvent* pEvent) override;
     void updateGeometries() override;
     void scrollContentsBy(int dx, int dy) override;
 

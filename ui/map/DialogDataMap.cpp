@@ -2,6 +2,7 @@
 
 #include "app/Property.h"
 #include "app/Settings.h"
+#include "app/gui/TextSize.h"
 #include "card/CardContainer.h"
 #include "profile/Profile.h"
 #include "ui/canvas/Canvas.h"
@@ -30,10 +31,13 @@ namespace {
 
 constexpr int kMargin = 10;
 constexpr int kLeastWidth = 200;
-constexpr int kBelowPanels = 40; // pixels for what is written at the lower edge
+constexpr int kBelowPanels = 60; // pixels for what is written at the lower edge, at least
+constexpr int kGap = 4;          // above it
 constexpr int kRoomForAll = 260; // pixels below the question
 constexpr int kBesideMap = 680;   // pixels of width from which values stand beside the map, else below it
-constexpr int kLegendRoom = 240;  // pixels beside the tools from which the legend stands there, else below them
+constexpr int kBesideLowMap = 480; // the same where it would be left too little height
+constexpr int kLeastMap = 220;     // pixels of height that values and altitude leave the map where they can
+constexpr int kWideMap = 440;     // pixels of width, beside the usual text, from which the tools have large icons
 constexpr int kCourseDelay = 150; // milliseconds
 
 } // namespace
@@ -62,7 +66,12 @@ void DialogDataMap::createMap(const QString& dataPath)
     mpSplitter = new QSplitter(Qt::Horizontal);
     mpSplitter->setChildrenCollapsible(false);
     mpSplitter->addWidget(mpMap);
-    mpSplitter->addWidget(mpValues);
+    mpValuePanel = new QWidget;
+    auto* pValueLayout = new QVBoxLayout(mpValuePanel);
+    pValueLayout->setContentsMargins(0, 0, 0, 0);
+    pValueLayout->addWidget(mpValues);
+    pValueLayout->addStretch(1); // the table is no higher than its rows
+    mpSplitter->addWidget(mpValuePanel);
     mpSplitter->setStretchFactor(0, 1);
     mpSplitter->setStretchFactor(1, 0);
     connect(mpSplitter, &QSplitter::splitterMoved, this, [this] { mIsBorderMoved = true; });
@@ -108,10 +117,7 @@ void DialogDataMap::connectMap()
     connect(mpMap, &WidgetMap::signalUpdateMode, this, &DialogDataMap::slotUpdateMode);
     connect(mpMap, &WidgetMap::signalMoment, this, &DialogDataMap::signalMoment);
     connect(mpMap, &WidgetMap::signalTime, this, &DialogDataMap::pickTime);
-    connect(mpMap, &WidgetMap::signalCorner, this, [this](const QSize& size) {
-        mCorner = size;
-        updateGeometry();
-    });
+    connect(mpMap, &WidgetMap::signalCorner, this, [this] { updateGeometry(); });
     connect(mpMap, &WidgetMap::signalShown, mpProfile, &MapProfile::setShown);
     connect(mpProfile, &MapProfile::signalTime, this, &DialogDataMap::pickTime);
     connect(mpTools, &MapToolPanel::signalToggled, this, &DialogDataMap::slotCommandToggled);
@@ -217,7 +223,7 @@ void DialogDataMap::updateProfileStrip()
     // The path may have been worked out in the unit before.
     const std::string unit = altitude.name.empty() ? std::string() : altitude.unit(mSession.container.wholeFlightPath().unit());
     mpProfile->setPath(mpMap->scene().path(), QString::fromStdString(unit));
-    mpProfile->setVisible(!mIsShort && !mpProfile->isEmpty() && Settings::kMapShowProfile.get(mSession.property));
+    mpProfile->setVisible(!mIsShort && !mIsLow && !mpProfile->isEmpty() && Settings::kMapShowProfile.get(mSession.property));
 }
 
 FlightPathPoint DialogDataMap::calcPositionAtTime(double time) const
@@ -278,12 +284,14 @@ void DialogDataMap::updateConsent()
     giveRoom();
 }
 
-/// The question needs all of its text; in a low window values and altitude wait for the answer.
+/// The question needs all of its text; in a low window values and altitude wait for the answer. The altitude also gives way where it
+/// would leave less than twice its own height.
 void DialogDataMap::giveRoom()
 {
     mpConsent->arrangeFor(width());
     const bool isShort = mpConsent->isVisibleTo(this) && height() - mpConsent->minimumHeight() < kRoomForAll;
-    if (std::exchange(mIsShort, isShort) == isShort)
+    const bool isLow = height() < 3 * mpProfile->sizeHint().height();
+    if (std::pair(std::exchange(mIsShort, isShort), std::exchange(mIsLow, isLow)) == std::pair(isShort, isLow))
         return;
     updateProfileStrip();
     updateValues();
@@ -339,21 +347,26 @@ void DialogDataMap::updateValues()
     const bool isWanted = !mIsShort && mpTools->isChecked(MapToolPanel::kShowValues);
     const int rows = mpValues->model().rowCount();
     mpValues->setValues(isWanted ? mValues.at(mTime, mpRecord != nullptr) : std::vector<MapValue>());
-    mpValues->setVisible(mpValues->model().rowCount() > 0);
+    mpValuePanel->setVisible(mpValues->model().rowCount() > 0);
     if (rows != mpValues->model().rowCount())
         arrangeValues();
+}
+
+bool DialogDataMap::isBeside() const
+{
+    return width() >= kBesideMap || (width() >= kBesideLowMap && width() > 2 * height());
 }
 
 /// As much as the values take, while the map keeps most of the room. The user may move the border then.
 void DialogDataMap::arrangeValues()
 {
-    const bool isBeside = width() >= kBesideMap;
+    const bool isBeside = this->isBeside();
     mpSplitter->setOrientation(isBeside ? Qt::Horizontal : Qt::Vertical);
     const QSize wanted = mpValues->sizeHint();
     const int room = isBeside ? mpSplitter->width() : mpSplitter->height();
     const int row = mpValues->rowHeight();
-    const int values =
-        isBeside ? std::min(wanted.width(), room * 2 / 5) : std::min(wanted.height(), std::max(room / 4 / row, 2) * row); // whole rows
+    const int rows = std::max(std::max(room / 4, std::min(room * 2 / 5, room - kLeastMap)) / row, 2);
+    const int values = isBeside ? std::min(wanted.width(), room * 2 / 5) : std::min(wanted.height(), rows * row); // whole rows
     mpSplitter->setSizes({std::max(room - values, 1), std::max(values, 1)});
 }
 
@@ -363,12 +376,12 @@ void DialogDataMap::updateGeometry()
         return;
     const QRect map(mpMap->mapTo(this, QPoint()), mpMap->size());
     const int margin = kMargin * mContext.scale;
-    const int below = std::max(kBelowPanels, mCorner.height() + margin);
-    mpTools->arrangeFor({map.width() - 2 * margin, std::max(map.height() - 3 * margin - below, 0)});
+    const int below = std::max(kBelowPanels, map.height() - static_cast<int>(mpMap->corners().words.top()) + kGap);
+    const bool isWide = map.width() >= grownWithText(*this, kWideMap) * mContext.scale;
+    mpTools->arrangeFor({map.width() - 2 * margin, std::max(map.height() - margin - below, 0)}, isWide);
     mpTools->move(map.topLeft() + QPoint(margin, margin));
     mpTools->raise();
-    const bool isBeside = map.width() - mpTools->width() > kLegendRoom;
-    mpMap->setCovered(mpTools->size() + QSize(margin, margin), isBeside ? margin : mpTools->height() + 2 * margin);
+    mpMap->setCovered(mpTools->size() + QSize(margin, margin));
 }
 
 bool DialogDataMap::eventFilter(QObject* pObject, QEvent* pEvent)
@@ -383,7 +396,7 @@ void DialogDataMap::resizeEvent(QResizeEvent* pEvent)
     QWidget::resizeEvent(pEvent);
     if (mpMap)
         giveRoom();
-    if (mpMap && (!mIsBorderMoved || (mpSplitter->orientation() == Qt::Horizontal) != (width() >= kBesideMap)))
+    if (mpMap && (!mIsBorderMoved || (mpSplitter->orientation() == Qt::Horizontal) != isBeside()))
         arrangeValues();
     updateGeometry();
 }
@@ -394,6 +407,7 @@ void DialogDataMap::changeEvent(QEvent* pEvent)
     if (!mpMap || (pEvent->type() != QEvent::FontChange && pEvent->type() != QEvent::StyleChange))
         return;
     const auto arrange = [this] {
+        giveRoom();
         if (!mIsBorderMoved)
             arrangeValues();
         updateGeometry();

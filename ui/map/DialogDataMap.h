@@ -85,6 +85,7 @@ private:
     void updateProfileStrip();
     void updateConsent();
     void giveRoom();
+    [[nodiscard]] bool isBeside() const;
     void arrangeValues();
     void findCourse();
     void pickTime(double time);
@@ -96,10 +97,11 @@ private:
     MapContext mContext;
     MapValues mValues;
     WidgetMap* mpMap = nullptr;
-    QSize mCorner; // of the map, that is taken
     bool mIsBorderMoved = false; // by the user, who is left what he chose
     bool mIsShort = false; // there is too little room for what is below the map
+    bool mIsLow = false; // the same for the altitude
     QSplitter* mpSplitter = nullptr;
+    QWidget* mpValuePanel = nullptr;
     MapValueTable* mpValues = nullptr;
     MapProfile* mpProfile = nullptr;
     MapToolPanel* mpTools = nullptr;

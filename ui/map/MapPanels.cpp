@@ -11,8 +11,6 @@
 #include <QToolButton>
 
 #include <algorithm>
-#include <functional>
-#include <set>
 
 // Resources of a static library are not registered by themselves; the macro must stand outside every namespace.
 static void registerIcons()
@@ -27,9 +25,11 @@ namespace {
 constexpr double kZoomStep = 0.5; // of the range, for a click
 constexpr int kLeastText = 260;   // pixels of a line of the question beside its buttons
 
-constexpr int kIconSizes[] = {32, 24, 20}; // beside the usual text; the largest that leaves room for all is taken
-constexpr int kAroundIcon = 4;             // pixels of a button beside its icon
-constexpr int kPadding = 5;                // of the panel
+constexpr int kLargeIcon = 32; // beside the usual text, in a wide map
+constexpr int kIcon = 24;
+constexpr int kSmallIcon = 20;
+constexpr int kAroundIcon = 4; // pixels of a button beside its icon
+constexpr int kPadding = 5;    // of the panel
 
 int ceilOf(int amount, int by)
 {
@@ -56,17 +56,14 @@ MapToolPanel::MapToolPanel(int scale, QWidget* pParent)
     connect(addButton("map-fit", tr("Show the whole flight")), &QToolButton::clicked, this, &MapToolPanel::signalFit);
 }
 
-void MapToolPanel::arrangeFor(const QSize& room)
+void MapToolPanel::arrangeFor(const QSize& room, bool isWide)
 {
     const int count = static_cast<int>(mButtons.size());
     const QSize inside = room - QSize(2 * kPadding, 2 * kPadding);
-    std::set<int, std::greater<>> sizes(std::begin(kIconSizes), std::end(kIconSizes));
-    for (const int size : kIconSizes)
-        sizes.insert(grownWithText(*this, size));
     int cell = 0;
-    for (int columns = 1; columns <= count; ++columns) { // of smaller icons rather than one more
-        for (const int size : sizes) {
-            cell = size * mScale + kAroundIcon;
+    for (const int size : {isWide ? grownWithText(*this, kLargeIcon) : kIcon, kIcon, kSmallIcon}) {
+        cell = size * mScale + kAroundIcon;
+        for (int columns = 1; columns <= count; ++columns) {
             if (columns * cell <= inside.width() && ceilOf(count, columns) * cell <= inside.height())
                 return place(cell, columns);
         }

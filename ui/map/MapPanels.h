@@ -23,8 +23,9 @@ public:
 
     /// @param scale of the overlays, see MapContext
     MapToolPanel(int scale, QWidget* pParent);
-    /// One column of buttons where there is room for all of them, else more columns, of smaller buttons at last.
-    void arrangeFor(const QSize& room);
+    /// One column of buttons where there is room for all of them, else more columns, of smaller buttons at last. Their size depends on the
+    /// width of the map, so that it stays when something above or below the map comes or goes.
+    void arrangeFor(const QSize& room, bool isWide);
     void setChecked(int id, bool isChecked);
     [[nodiscard]] bool isChecked(int id) const;
     /// What the path can be coloured by; to be filled when it is about to be shown.

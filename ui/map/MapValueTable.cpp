@@ -73,6 +73,8 @@ void MapValueTable::setValues(std::vector<MapValue> values)
         mWidest = mUnits = 0;
     mpModel->setValues(std::move(values));
     fitColumns();
+    if (mpModel->rowCount() != rows)
+        updateGeometry(); // the size hint is another one
 }
 
 void MapValueTable::fitColumns()
@@ -94,8 +96,10 @@ void MapValueTable::fitColumns()
         if (columnWidth(column) != widths[column])
             setColumnWidth(column, widths[column]);
     }
-    if (verticalHeader()->defaultSectionSize() != metrics.height() + 4)
+    if (verticalHeader()->defaultSectionSize() != metrics.height() + 4) {
         verticalHeader()->setDefaultSectionSize(metrics.height() + 4);
+        updateGeometry();
+    }
 }
 
 int MapValueTable::rowHeight() const

@@ -178,19 +178,29 @@ QString WidgetMap::note()
     return mMap.baseMap().problem().isEmpty() ? mScene.places().problem() : mMap.baseMap().problem();
 }
 
-void WidgetMap::setCovered(const QSize& corner, int legendTop)
+void WidgetMap::setCovered(const QSize& corner)
 {
     mScene.style().tools = corner;
-    mScene.style().legendTop = legendTop;
-    mNavigator.setCovered(corner.width(), cornerSize().height());
-    if (mNavigator.isFitted())
-        fitAtOnce();
+    updateCovers();
     mIsDirty = true;
+}
+
+MapCorners WidgetMap::corners()
+{
+    mScene.setCorner(cornerSize());
+    return mScene.corners(size());
+}
+
+/// The path stays clear of whatever has come to lie on the map.
+void WidgetMap::updateCovers()
+{
+    if (mNavigator.setCovered(corners().covers(mScene.legend())) && mNavigator.isFitted())
+        fitAtOnce();
 }
 
 QSize WidgetMap::cornerSize() const
 {
-    return mpAttribution->isVisibleTo(this) ? mpAttribution->size() : QSize(0, 0);
+    return mpAttribution && mpAttribution->isVisibleTo(this) ? mpAttribution->size() : QSize(0, 0);
 }
 
 void WidgetMap::init()
@@ -234,15 +244,16 @@ void WidgetMap::changeEvent(QEvent* pEvent)
 void WidgetMap::resizeEvent(QResizeEvent* pEvent)
 {
     QWidget::resizeEvent(pEvent);
+    mpAttribution->place();
     resizeGL(width(), height());
     mpSurface->widget().setGeometry(rect());
-    mpAttribution->place();
     mpSurface->requestFrame();
 }
 
 void WidgetMap::resizeGL(int width, int height)
 {
     mNavigator.setWindowSize(width, height);
+    mNavigator.setCovered(corners().covers(mScene.legend()));
     if (mNavigator.isFitted())
         fitAtOnce();
     mIsDirty = true;
@@ -308,7 +319,8 @@ void WidgetMap::slotTimeout()
         if (mSources.hasTiles && !std::exchange(mIsServed, true))
             updateColours();
         mIsDirty = mIsAboveDirty = true; // the scale bar makes room
-        Q_EMIT signalCorner(cornerSize());
+        updateCovers();
+        Q_EMIT signalCorner();
     }
     const bool isFrame = mIsDirty || (mContext.isLoading && still > kLoadingInterval);
     if (!mPacer.isDue() || !(isFrame || mIsAboveDirty || still > kLookInterval))
@@ -402,8 +414,10 @@ void WidgetMap::updateTint()
     const DecodingContext& inForce = mSession.profile.context();
     const DecodingContext context = colouring.by == PathColouring::eParameter ? inForce : inForce.in(mPathUnit);
     const PathTinter tinter(mScene.path().points(), context, mScene.style().colours);
-    if (mScene.setTint(tinter.tint(colouring, &mSession.container.recordData(), mPhases)))
-        mIsDirty = true;
+    if (!mScene.setTint(tinter.tint(colouring, &mSession.container.recordData(), mPhases)))
+        return;
+    updateCovers(); // the legend is another one
+    mIsDirty = true;
 }
 
 void WidgetMap::updateShown()

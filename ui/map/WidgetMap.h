@@ -62,8 +62,10 @@ public:
     void setDirty() { mIsDirty = true; }
     /// What is shown, or the same on light ground: the ground as pixels, all above it as it is drawn.
     [[nodiscard]] std::shared_ptr<const CanvasRecord> picture(bool forPaper);
-    /// What something else covers of the left upper corner, and how far down the legend in the right one begins.
-    void setCovered(const QSize& corner, int legendTop);
+    /// What something else covers of the left upper corner.
+    void setCovered(const QSize& corner);
+    /// What stands in the corners of the map.
+    [[nodiscard]] MapCorners corners();
     /// Whether the picture is behind what it should show.
     [[nodiscard]] bool isDirty() const { return mIsDirty || mIsAboveDirty; }
     /// Whether the user has yet to be asked for the network: there is a path, and a server whose tiles could lie under it.
@@ -85,8 +87,8 @@ Q_SIGNALS:
     void signalTime(double time);
     /// The user wants to see something in the graph.
     void signalMoment(const GraphMoment& moment);
-    /// Others than before are named as those who made the map, and take so much of the lower right corner.
-    void signalCorner(const QSize& size);
+    /// Others than before are named as those who made the map, and take another part of the lower right corner.
+    void signalCorner();
     /// Another part of the path is shown bright; none for all of it.
     void signalShown(const std::optional<ZARN::TimeSpan>& span);
 
@@ -122,6 +124,7 @@ private:
     /// Takes the path over anew and shows the whole of it, unless only the unit of its values is another one.
     bool redrawFlightPath(bool isChosen);
     void fitAtOnce();
+    void updateCovers();
     [[nodiscard]] QSize cornerSize() const;
     [[nodiscard]] QImage groundPicture();
     void updateShown();

@@ -6,6 +6,7 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QHeaderView>
 #include <QLabel>
 #include <QSignalSpy>
 #include <QTableWidget>
@@ -53,6 +54,7 @@ class TestDataEvents : public QObject {
 private Q_SLOTS:
     void limits();
     void lamps();
+    void chosenRow();
     void rowOfTime_data();
     void rowOfTime();
     void choices();
@@ -93,6 +95,31 @@ void TestDataEvents::lamps()
     Shown<DialogDataWarning> shown;
     QCOMPARE(shown.table()->rowCount(), 1);
     QCOMPARE(shown.table()->item(0, 1)->background().color(), QColor(255, 100, 100));
+}
+
+/// A chosen row has one ground, over cells with a colour of their own and without, and the text of a narrow one goes without the group.
+void TestDataEvents::chosenRow()
+{
+    Shown<DialogDataLimit> shown;
+    QTableWidget* pTable = shown.table();
+    const auto pixels = [&](int column) {
+        const QImage image = pTable->viewport()->grab(pTable->visualItemRect(pTable->item(0, column))).toImage();
+        const int x = image.width() - 4;
+        return QList{image.pixel(x, 2), image.pixel(x, image.height() / 2), image.pixel(x, image.height() - 3)};
+    };
+    shown.view.setTime(10.0);
+    QVERIFY(pixels(0) != pixels(1));
+    shown.view.setTime(21.0);
+    const QList<QRgb> time = pixels(0);
+    QVERIFY(time == pixels(1) && time.count(time[0]) == 3);
+    const auto shownText = [&](int width) { // the left part of the cell
+        pTable->setColumnWidth(1, width);
+        return pTable->viewport()->grab(QRect(pTable->visualItemRect(pTable->item(1, 1)).topLeft(), QSize(100, 20))).toImage();
+    };
+    pTable->horizontalHeader()->setStretchLastSection(false);
+    const QImage wide = shownText(240), narrow = shownText(120);
+    pTable->item(1, 1)->setText("Pressure 60 <b>");
+    QVERIFY(narrow == shownText(120) && narrow != wide);
 }
 
 void TestDataEvents::rowOfTime_data()

@@ -301,6 +301,13 @@ void TestDataTable::manyRows()
     QCOMPARE(selected(), (QList<int>{first + 2, first + 3, first + 4, first + 5}));
     click(first + 4, Qt::ControlModifier);
     QCOMPARE(selected(), (QList<int>{first + 2, first + 3, first + 5}));
+    for (const auto& [height, isThere] : {std::pair(300, true), {160, true}, {90, true}, {400, true}, {250, false}, {100, false}}) {
+        if (!isThere)
+            view.verticalScrollBar()->setValue(first - 500); // the user has left it
+        table.table->resize(500, height); // the row in force stays in sight, whole
+        QTRY_VERIFY(view.viewport()->height() < height);
+        QCOMPARE(view.viewport()->rect().contains(view.visualRect(view.currentIndex())), isThere);
+    }
     QTest::keyClick(&view, Qt::Key_Home, Qt::ControlModifier);
     QCOMPARE(selected(), QList<int>{0});
     QTest::keyClick(&view, Qt::Key_End, Qt::ShiftModifier);

@@ -306,6 +306,12 @@ void TestGraphLayout::tableHasItsShare()
             QVERIFY(std::abs(layout.table().height() - (rows.count + (rows.isCut() ? 2 : 1)) * layout.line()) < 1e-9);
         }
     }
+    for (double width = 300; width <= 1000; width += 50) { // neither does a legend below take the plot's half, nor a column the marker's length
+        const Drawing canvas(model, QSizeF(width, 480));
+        const GraphLayout layout = layoutOf(model, width, 480);
+        QVERIFY2(layout.plot().height() >= 0.4 * 480, qPrintable(QString("%1: %2").arg(width).arg(layout.plot().height())));
+        QVERIFY2(std::ranges::any_of(canvas.texts, [](const auto& entry) { return entry.second == "dt = 40.000 s"; }), qPrintable(QString::number(width)));
+    }
     model.setMarker({7, 7});
     QVERIFY(layoutOf(model, 1400, 900).table().isEmpty());
     model.setMarker({20, 60});

@@ -193,12 +193,16 @@ void TestMapPath::fitsBesideWhatCovers()
 {
     MapPath path;
     path.setPoints(std::vector{at(0, 48.1, 10.9), at(1, 48.3, 11.1)});
-    for (const auto& [left, below, free] : {std::tuple(0, 0, QRectF(0, 0, 800, 600)), {200, 0, QRectF(200, 0, 600, 600)}, {0, 150, QRectF(0, 0, 800, 450)},
-                                            {300, 200, QRectF(300, 0, 500, 400)}, {400, 300, QRectF(0, 0, 800, 600)}, {399, 299, QRectF(399, 0, 401, 301)}}) {
+    using Covers = std::vector<QRectF>;
+    const Covers corners{{0, 0, 100, 300}, {600, 0, 200, 60}, {500, 560, 300, 40}}; // the path is about as high as wide, so the width is spared
+    for (const auto& [covers, free] : {std::pair(Covers{}, QRectF(0, 0, 800, 600)), {Covers{{0, 0, 200, 600}}, QRectF(200, 0, 600, 600)},
+                                       {Covers{{0, 450, 800, 150}}, QRectF(0, 0, 800, 450)}, {Covers{{0, 0, 300, 20}, {300, 400, 500, 200}}, QRectF(300, 0, 500, 400)},
+                                       {Covers{{0, 0, 400, 600}, {0, 300, 800, 300}}, QRectF(0, 0, 800, 600)},
+                                       {Covers{{0, 0, 399, 600}, {0, 301, 800, 299}}, QRectF(399, 0, 401, 301)}, {corners, QRectF(100, 0, 500, 560)}}) {
         MapContext context;
         MapNavigator navigator(context);
         navigator.setWindowSize(800, 600);
-        navigator.setCovered(left, below);
+        QVERIFY(navigator.setCovered(covers) != covers.empty() && !navigator.setCovered(covers));
         navigator.fit(path, true);
         QVERIFY(navigator.isFitted() && !navigator.tick(0.02));
         const QPointF a = seen(navigator.camera(), 48.1, 10.9), b = seen(navigator.camera(), 48.3, 11.1);

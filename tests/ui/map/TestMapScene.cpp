@@ -60,6 +60,7 @@ private Q_SLOTS:
     void scaleBars();
     void cornersAreShared_data();
     void cornersAreShared();
+    void cornersKeepApart();
     void messageAndSelection();
     void tellsWhetherItChanged();
     void acrossTheDateLine();
@@ -400,6 +401,58 @@ void TestMapScene::cornersAreShared()
             QVERIFY(std::ranges::any_of(canvas.areas, isGround)); // readable on any map
         }
     }
+}
+
+/// Tools, legend, sources, scale and what is told of the pointer: each can be read whole, in a window of whatever size.
+void TestMapScene::cornersKeepApart()
+{
+    PathTint scale, words;
+    scale.isScale = true;
+    scale.title = "Altitude [m]";
+    scale.unit = "m";
+    scale.low = 539;
+    scale.high = 1349;
+    scale.colours.assign(PathTint::kSteps + 1, Qt::red);
+    words.title = "Phase of flight";
+    for (const char* text : {"Engine off", "Ground", "Take-off", "Climb", "Level flight", "Descent"})
+        words.entries.push_back({Qt::red, text});
+    Scene scene({at(0, 48.2, 10.95), at(1, 48.2, 11.05)});
+    scene.setAircraft(at(0, 48.2, 11.0));
+    scene.setPointer(QPointF(40, 40));
+    int counts[3] = {}; // of windows with the whole legend, with one line of it, without
+    for (const PathTint& tint : {scale, words}) {
+        scene.setTint(tint);
+        for (const double textSize : {8.0, 11.0, 17.0}) {
+            scene.style().textSize = textSize;
+            for (const QSize& size : {QSize(1300, 500), QSize(720, 150), QSize(657, 111), QSize(451, 346), QSize(451, 154), QSize(274, 364), QSize(274, 241), QSize(200, 160)}) {
+                scene.style().tools = size.width() > 450 ? QSizeF(56, std::min(272, size.height() - 60)) : QSizeF(48, size.height() / 2);
+                const double lines = size.width() < 30 * textSize ? 2 : 1;
+                scene.setCorner({std::min(30 * textSize, size.width() - 16.0), lines * 1.4 * textSize});
+                const OpenStreet::Camera view = camera(20000.0, size.width(), size.height());
+                const MapCorners corners = scene.corners(QSizeF(size));
+                const auto legend = corners.legend(scene.legend());
+                ++counts[!legend ? 2 : legend->form == PathLegend::eLine ? 1 : 0];
+                RecordingCanvas canvas;
+                scene.drawAbove(canvas, view);
+                QVERIFY2(!legend || QRectF(QPointF(), size).contains(legend->box), qPrintable(QString::number(size.width())));
+                std::size_t inLegend = 0;
+                for (const auto& [box, text] : canvas.texts) {
+                    QVERIFY(!box.intersects(corners.sources));
+                    inLegend += legend && legend->box.contains(box);
+                    QVERIFY2(!legend || legend->box.contains(box) || !legend->box.intersects(box), qPrintable(text));
+                    for (const auto& [other, otherText] : canvas.texts)
+                        QVERIFY2(text == otherText || box.intersected(other).width() < 1 || box.intersected(other).height() < 2, qPrintable(text + " / " + otherText));
+                }
+                const bool isLine = legend && legend->form == PathLegend::eLine;
+                const std::size_t wanted = !legend ? 0 : tint.isScale ? (isLine ? 2 : 4) : tint.entries.size() + (isLine ? 0 : 1);
+                QCOMPARE(inLegend, wanted);
+                QVERIFY(!legend || !(legend->box.intersects(corners.tools) || legend->box.intersects(corners.sources)));
+                for (const QRectF& area : MapCorners::freeAreas(QSizeF(size), corners.covers(scene.legend())))
+                    QVERIFY(area.width() * 2 > size.width() && area.height() * 2 > size.height());
+            }
+        }
+    }
+    QVERIFY2(counts[0] > 20 && counts[1] > 2 && counts[2] < 20, qPrintable(QString("%1 %2 %3").arg(counts[0]).arg(counts[1]).arg(counts[2])));
 }
 
 void TestMapScene::messageAndSelection()

@@ -22,6 +22,7 @@ constexpr double kLeastGrip = 27.0;    // pixels of an axis beside the handles o
 constexpr double kReadableStrip = 2.5; // lines
 constexpr double kTablePart = 0.38;    // of the view's height at most
 constexpr double kLegendPart = 0.4;    // the same for the legend
+constexpr double kPlotPart = 0.5;      // the plot's at least, where a table stands below it
 constexpr double kComparedPart = 0.5;  // the same where two flights are compared
 constexpr double kShortLegend = 0.34;  // of the view's width at most, where it tells the cursor's values alone
 constexpr int kLeastNumber = 8;        // characters of a number in the legend
@@ -157,7 +158,9 @@ void GraphLayout::placeLegend(const GraphModel& model, double bottom)
 
 void GraphLayout::placeLegendBelow(const GraphModel& model, double bottom)
 {
-    const double room = std::min(bottom * kLegendPart, bottom - kSmallestPlot - 2 * mLine - 4 * kGap);
+    // The marker's table has names and colours, too: beside it the plot comes first.
+    const double plot = mTable.isEmpty() ? kSmallestPlot : std::max(kSmallestPlot, kPlotPart * mSize.height());
+    const double room = std::min(bottom * kLegendPart, bottom - plot - 2 * mLine - 4 * kGap);
     double rows = std::min(model.traces().count() + 1.0, std::floor(room / mLine));
     const auto widthOf = [&](int name, int numbers) {
         return (name + longestUnit(model) + numbers * (mNumberLength + 1) + 1) * mCharacter + kSwatch + kGap;
@@ -168,6 +171,8 @@ void GraphLayout::placeLegendBelow(const GraphModel& model, double bottom)
         (model.settings().displayMode == eSplit && !isCompared && !isPanelWanted(model, bottom - 2 * mLine - 3 * kGap, rows * mLine)))
         return;
     const int columns = std::max(1, static_cast<int>(wide / widthOf(std::min(mNameLength, kSomeOfName), 1)));
+    if (model.traces().count() > 1 && (rows - 1) * (isCompared ? 1 : columns) < 2)
+        return; // it would say little but how many have no room
     if (isCompared || (wide >= widthOf(mNameLength, 3) && (model.traces().count() < rows || columns == 1))) {
         mLegend = ELegend::eFull;
         mNameLength = std::min(mNameLength, static_cast<int>((wide - widthOf(0, 3)) / mCharacter));

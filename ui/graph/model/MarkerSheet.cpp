@@ -11,7 +11,6 @@ namespace ZARN {
 namespace {
 
 constexpr int kLongestLabel = 32; // characters
-constexpr int kLeastLabel = 14;
 
 } // namespace
 
@@ -60,8 +59,9 @@ void MarkerSheet::divide(int room)
             groups.back().push_back({eUnit, widthOf(eUnit)});
         numbers += widthOf(groups.back());
     }
-    // Where not all have room the names give way before the numbers do.
-    const int name = widthOf(eName), least = std::min(name, std::max(room / 3, kLeastLabel));
+    // Where not all have room the names give way before the numbers do, but not what stands above the names.
+    const int heading = static_cast<int>(mHeadings[eName].size()) + 2;
+    const int name = widthOf(eName), least = std::min(name, std::max(room / 3, heading));
     const int label = std::clamp(room - numbers, least, name);
     int left = 0;
     for (const std::vector<Column>& group : groups) {

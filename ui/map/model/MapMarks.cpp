@@ -58,10 +58,13 @@ QColor MapMarks::colour(EShape shape, const MapStyle& style)
     return style.colours.limit;
 }
 
-void MapMarks::draw(Canvas& canvas, const OpenStreet::Camera& camera, const MapPath& path, const MapStyle& style) const
+void MapMarks::draw(Canvas& canvas, const OpenStreet::Camera& camera, const MapPath& path, const MapStyle& style,
+                    std::span<const QRectF> covers) const
 {
     const OpenStreet::WindowPoint start = windowOrigin(camera, path.origin());
     LabelRoom room(QRectF(0, 0, camera.width(), camera.height()));
+    for (const QRectF& cover : covers)
+        room.block(cover);
     const CanvasText text{style.textSize, style.colours.label};
     for (const Mark& mark : mMarks) {
         const OpenStreet::WindowPoint at = camera.worldToWindowVector(mark.place);

@@ -18,7 +18,9 @@ public:
 
     /// Marks what happened while there was a place.
     void set(const CycleCourse& course, const MapPath& path);
-    void draw(Canvas& canvas, const OpenStreet::Camera& camera, const MapPath& path, const MapStyle& style) const;
+    /// @param covers of the window: no words are put there
+    void draw(Canvas& canvas, const OpenStreet::Camera& camera, const MapPath& path, const MapStyle& style,
+              std::span<const QRectF> covers) const;
     /// What the mark under a place of the window tells; null elsewhere.
     [[nodiscard]] const CycleCourse::Mark* incidentAt(const MapPath& path, const OpenStreet::Camera& camera, const QPointF& place) const;
     [[nodiscard]] std::size_t size() const { return mMarks.size(); }

@@ -1,13 +1,18 @@
 #include "ui/map/model/MapNavigator.h"
 
+#include "ui/map/model/MapCorners.h"
+
 #include <algorithm>
 #include <cmath>
+#include <limits>
+#include <utility>
 
 namespace ZARN {
 
 namespace {
 
 constexpr double kSmallestFit = 300.0; // metres; closer, the view of a standing aircraft would show nothing but the receiver's noise
+constexpr double kMarkRoom = 4.0;      // pixels beside what covers the map, for the marks at the ends of a path
 constexpr double kSmallStep = 60.0;    // pixels; a following view does not ease steps below it, so that it does not lag behind
 
 } // namespace
@@ -37,20 +42,38 @@ void MapNavigator::setWindowSize(int width, int height)
     mContext.rangeVertical = mContext.rangeHorizontal * mCamera.height() / mCamera.width();
 }
 
+bool MapNavigator::setCovered(std::vector<QRectF> covers)
+{
+    return std::exchange(mCovers, std::move(covers)) != mCovers;
+}
+
 void MapNavigator::fit(const MapPath& path, bool atOnce)
 {
-    const int left = mLeft * 2 < mCamera.width() ? mLeft : 0, below = mBelow * 2 < mCamera.height() ? mBelow : 0;
-    const int width = mCamera.width() - left, height = mCamera.height() - below;
-    const MapFit fit = path.fit(width, height);
+    const QSizeF window(mCamera.width(), mCamera.height());
+    QRectF area(QPointF(), window);
+    MapFit fit = path.fit(mCamera.width(), mCamera.height());
+    double scale = std::numeric_limits<double>::max(); // metres of a pixel
+    for (const QRectF& free : mCovers.empty() ? std::vector{area} : MapCorners::freeAreas(window, mCovers)) {
+        const double room = mCovers.empty() ? 0.0 : std::min({kMarkRoom, 0.25 * free.width(), 0.25 * free.height()});
+        const QRectF inside = free.adjusted(room, room, -room, -room);
+        const MapFit here = path.fit(std::max(static_cast<int>(inside.width()), 1), std::max(static_cast<int>(inside.height()), 1));
+        const double metres = std::max(here.range, kSmallestFit) / inside.width();
+        if (metres < scale) { // of equal ones the first is the largest
+            scale = metres;
+            fit = here;
+            area = inside;
+        }
+    }
     mContext.centreLatitude = fit.latitude;
     mContext.centreLongitude = fit.longitude;
-    mContext.rangeHorizontal = path.isEmpty() ? 0.0 : std::max(fit.range, kSmallestFit) * mCamera.width() / width;
+    mContext.rangeHorizontal = path.isEmpty() ? 0.0 : scale * mCamera.width();
     mContext.rangeVertical = mContext.rangeHorizontal * mCamera.height() / mCamera.width();
     mContext.isPositionChanged = true;
     mContext.isRangeChanged = true;
-    if (!path.isEmpty() && left + below > 0) {
+    const QPointF aside = QRectF(QPointF(), window).center() - area.center();
+    if (!path.isEmpty() && !aside.isNull()) {
         OpenStreet::Camera goal = target();
-        goal.setWorld(goal.windowToWorld({0.5 * width, 0.5 * (mCamera.height() + below)}), goal.metresPerPixel());
+        goal.setWorld(goal.windowToWorld({0.5 * window.width() + aside.x(), 0.5 * window.height() + aside.y()}), goal.metresPerPixel());
         setTarget(goal);
     }
     mIsFitted = true;

@@ -4,7 +4,10 @@
 #include "ui/map/model/MapContext.h"
 #include "ui/map/model/MapPath.h"
 
+#include <QRectF>
+
 #include <optional>
+#include <vector>
 
 namespace ZARN {
 
@@ -19,8 +22,9 @@ public:
 
     [[nodiscard]] const OpenStreet::Camera& camera() const { return mCamera; }
     void setWindowSize(int width, int height);
-    /// What lies on the map at its left and lower edge, in pixels: a fitted path stays clear of it where there is room.
-    void setCovered(int left, int below) { mLeft = left, mBelow = below; }
+    /// What lies on the map, in pixels of the window: a fitted path stays clear of it where there is room.
+    /// @return whether it is anything else than before
+    bool setCovered(std::vector<QRectF> covers);
 
     /// Shows the whole path. @param atOnce without moving there: for another path, that may lie anywhere.
     void fit(const MapPath& path, bool atOnce);
@@ -64,8 +68,7 @@ private:
     MapContext& mContext;
     OpenStreet::Camera mCamera;
     OpenStreet::WindowPoint mPointer;
-    int mLeft = 0;
-    int mBelow = 0;
+    std::vector<QRectF> mCovers;
     bool mIsFitted = false;
     std::optional<OpenStreet::GeoPoint> mAircraft; // where it was last
 };

@@ -1,9 +1,9 @@
 #include "ui/map/model/MapScene.h"
 
 #include "app/Numeric.h"
+#include "ui/canvas/CanvasFont.h"
 #include "ui/canvas/Triangulation.h"
 #include "ui/map/model/Graticule.h"
-#include "ui/map/model/PathLegend.h"
 #include "ui/map/model/PointerText.h"
 
 #include <QTransform>
@@ -27,6 +27,7 @@ constexpr int kCorners = 12; // of a dot
 constexpr std::size_t kMostDots = 4000;
 constexpr double kTextAboveBar = 7.0;
 constexpr double kAboveCorner = 4.0;
+constexpr double kLabelPadding = 3.0; // of the ground beside a text
 constexpr double kDash = 6.0;  // pixels, of a way on which nothing was received
 constexpr double kRestWidth = 0.45; // of that of the path: what is not looked at is thin as well as dim
 constexpr double kArrow = 5.0; // pixels from the middle of a mark of the direction to its point
@@ -36,6 +37,11 @@ void addDisc(std::vector<QPointF>& triangles, std::span<const QPointF> shape, co
 {
     for (std::size_t i = 0; i < shape.size(); ++i)
         triangles.insert(triangles.end(), {middle, middle + shape[i], middle + shape[(i + 1) % shape.size()]});
+}
+
+QSizeF sizeOf(const OpenStreet::Camera& camera)
+{
+    return {static_cast<double>(camera.width()), static_cast<double>(camera.height())};
 }
 
 QString length(double amount, const char* unit)
@@ -144,7 +150,7 @@ void MapScene::drawGround(Canvas& canvas, const OpenStreet::Camera& camera) cons
 {
     const CanvasText style{mStyle.textSize, mStyle.colours.gridText, false, Qt::AlignLeft | Qt::AlignBottom};
     if (mIsPlain) { // the labels keep clear of the scale bar, and of what stands in the corners
-        const double bottom = std::min(std::floor(barBottom(camera, scaleBar(camera)) - kTextAboveBar - labelHeight()),
+        const double bottom = std::min(std::floor(barBottom(sizeOf(camera)) - kTextAboveBar - labelHeight()),
                                        camera.height() - mCorner.height() - kMargin - kAboveCorner);
         Graticule(camera, mStyle.gridSpacing).draw(canvas, {mStyle.colours.grid, mStyle.gridWidth}, style, bottom, mStyle.tools,
                                                     [&](const QRectF& box) { return mPlaces.areIn(box, camera); });
@@ -154,15 +160,15 @@ void MapScene::drawGround(Canvas& canvas, const OpenStreet::Camera& camera) cons
     drawPath(canvas);
     drawWrongFixes(canvas, camera);
     drawEvents(canvas, camera);
-    mMarks.draw(canvas, camera, mPath, mStyle);
+    mMarks.draw(canvas, camera, mPath, mStyle, corners(sizeOf(camera)).covers(legend()));
 }
 
 void MapScene::drawAbove(Canvas& canvas, const OpenStreet::Camera& camera) const
 {
     drawAircraft(canvas, camera);
     drawScaleBar(canvas, camera);
-    if (!mPath.isEmpty())
-        PathLegend(mTint, mStyle).draw(canvas, QPointF(camera.width() - kMargin, mStyle.legendTop));
+    if (const auto place = mPath.isEmpty() ? std::nullopt : corners(sizeOf(camera)).legend(legend()))
+        legend().draw(canvas, place->box, place->form);
     drawSelection(canvas);
     if (mMessage.isEmpty())
         return;
@@ -278,48 +284,73 @@ void MapScene::drawAircraft(Canvas& canvas, const OpenStreet::Camera& camera) co
 
 MapScaleBar MapScene::scaleBar(const OpenStreet::Camera& camera) const
 {
-    return MapScaleBar::at(camera, std::min(mStyle.barLength, 0.4 * camera.width()), mIsImperial);
+    return MapScaleBar::at(camera, longestBar(sizeOf(camera)), mIsImperial);
 }
 
-double MapScene::barBottom(const OpenStreet::Camera& camera, const MapScaleBar& bar) const
+double MapScene::longestBar(const QSizeF& window) const
 {
-    const bool isNarrow = bar.pixels + mCorner.width() + 3.0 * kMargin > camera.width(); // no room beside what stands in the corner
-    return camera.height() - kMargin - (isNarrow ? mCorner.height() + kAboveCorner : 0.0);
+    return std::min(mStyle.barLength, 0.4 * window.width());
+}
+
+double MapScene::barBottom(const QSizeF& window) const
+{
+    const bool isNarrow = longestBar(window) + mCorner.width() + 3.0 * kMargin > window.width(); // no room beside what stands in the corner
+    return window.height() - kMargin - (isNarrow ? mCorner.height() + kAboveCorner : 0.0);
+}
+
+MapCorners MapScene::corners(const QSizeF& window) const
+{
+    MapCorners result;
+    result.window = window;
+    result.tools = QRectF(QPointF(), mStyle.tools);
+    const double bottom = barBottom(window);
+    result.bar = QRectF(QPointF(0.0, bottom - kTextAboveBar - labelHeight()), QPointF(kMargin + longestBar(window), bottom));
+    const QPointF corner(window.width() - kMargin, window.height() - kMargin);
+    result.sources = QRectF(corner - QPointF(mCorner.width(), mCorner.height()), mCorner);
+    for (const TextLine& line : linesAbove(window, {PointerText::longest(), mNote, mHeldFixes})) {
+        // What is broken into lines may be broken otherwise, too.
+        const double width = line.isWhole ? canvasTextSize(line.text, mStyle.textSize, false).width() + kMargin + kLabelPadding : window.width();
+        result.words |= QRectF(0.0, line.bottom - labelHeight(), width, labelHeight());
+    }
+    return result;
 }
 
 void MapScene::drawScaleBar(Canvas& canvas, const OpenStreet::Camera& camera) const
 {
     const MapScaleBar bar = scaleBar(camera);
-    const double bottom = barBottom(camera, bar);
+    const double bottom = barBottom(sizeOf(camera));
     const double right = kMargin + bar.pixels;
     drawLabel(canvas, {kMargin, bottom - kTextAboveBar}, bar.text, Qt::AlignLeft | Qt::AlignBottom, mStyle.textSize);
     canvas.fillRect({kMargin, bottom - 5.0, bar.pixels, 5.0}, mStyle.colours.textGround);
     canvas.fillRect({kMargin, bottom - 2.0, bar.pixels, 2.0}, mStyle.colours.text);
     canvas.fillRect({kMargin, bottom - 5.0, 2.0, 5.0}, mStyle.colours.text);
     canvas.fillRect({right - 2.0, bottom - 5.0, 2.0, 5.0}, mStyle.colours.text);
-    double above = std::min(bottom - kTextAboveBar - labelHeight() - 6.0, camera.height() - mCorner.height() - 2.0 * kMargin);
-    if (mPointer) {
-        const QString text = PointerText::at(camera.windowToGeo({mPointer->x(), mPointer->y()}), mPath.isEmpty() ? nullptr : &mAircraft);
-        drawLines(canvas, camera, text, above);
-    }
-    drawLines(canvas, camera, mNote, above);
-    drawLines(canvas, camera, mHeldFixes, above);
+    QString pointed;
+    if (mPointer)
+        pointed = PointerText::at(camera.windowToGeo({mPointer->x(), mPointer->y()}), mPath.isEmpty() ? nullptr : &mAircraft);
+    for (const TextLine& line : linesAbove(sizeOf(camera), {pointed, mNote, mHeldFixes}))
+        drawLabel(canvas, {kMargin, line.bottom}, line.text, Qt::AlignLeft | Qt::AlignBottom, mStyle.textSize);
 }
 
-/// Lines at the left edge that end at a height, from which on there is no room any more.
-void MapScene::drawLines(Canvas& canvas, const OpenStreet::Camera& camera, const QString& text, double& bottom) const
+/// Texts one above the other at the left edge, from the scale bar upwards, each in as many lines as it takes.
+std::vector<MapScene::TextLine> MapScene::linesAbove(const QSizeF& window, const QStringList& texts) const
 {
-    if (text.isEmpty())
-        return;
+    std::vector<TextLine> result;
+    double bottom = std::min(barBottom(window) - kTextAboveBar - labelHeight() - 6.0, window.height() - mCorner.height() - 2.0 * kMargin);
     // Characters are all of one width.
-    const double characters = (camera.width() - 2.0 * kMargin) / canvas.textSize(QStringLiteral("x"), {.size = mStyle.textSize}).width();
-    const QStringList lines = inLines(text, std::max<qsizetype>(saturatingCast<int>(characters), 1));
-    double y = bottom - labelHeight() * static_cast<double>(lines.size() - 1);
-    bottom = y - labelHeight() - 4.0;
-    for (const QString& line : lines) {
-        drawLabel(canvas, {kMargin, y}, line, Qt::AlignLeft | Qt::AlignBottom, mStyle.textSize);
-        y += labelHeight();
+    const double characters = (window.width() - 2.0 * kMargin) / canvasTextSize(QStringLiteral("x"), mStyle.textSize, false).width();
+    for (const QString& text : texts) {
+        if (text.isEmpty())
+            continue;
+        const QStringList lines = inLines(text, std::max<qsizetype>(saturatingCast<int>(characters), 1));
+        double y = bottom - labelHeight() * static_cast<double>(lines.size() - 1);
+        bottom = y - labelHeight() - 4.0;
+        for (const QString& line : lines) {
+            result.push_back({y, line, lines.size() == 1});
+            y += labelHeight();
+        }
     }
+    return result;
 }
 
 void MapScene::drawLabel(Canvas& canvas, const QPointF& position, const QString& text, Qt::Alignment align, double textSize) const
@@ -328,7 +359,7 @@ void MapScene::drawLabel(Canvas& canvas, const QPointF& position, const QString&
     const QSizeF size = canvas.textSize(text, style);
     const double left = align & Qt::AlignHCenter ? position.x() - 0.5 * size.width() : position.x();
     const double top = position.y() - (align & Qt::AlignVCenter ? 0.5 : 1.0) * size.height();
-    canvas.fillRect({left - 3.0, top, size.width() + 6.0, size.height()}, mStyle.colours.textGround);
+    canvas.fillRect({left - kLabelPadding, top, size.width() + 2.0 * kLabelPadding, size.height()}, mStyle.colours.textGround);
     canvas.text(position, text, style);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/canvas/Canvas.h"
+#include "ui/map/model/MapCorners.h"
 #include "ui/map/model/MapEvents.h"
 #include "ui/map/model/MapMarks.h"
 #include "ui/map/model/MapStyle.h"
@@ -66,10 +67,19 @@ public:
     /// What moves above it, and what stands in the window's corners.
     void drawAbove(Canvas& canvas, const OpenStreet::Camera& camera) const;
     void drawScaleBar(Canvas& canvas, const OpenStreet::Camera& camera) const;
+    /// What stands in the corners of a window, whether something is pointed at or not.
+    [[nodiscard]] MapCorners corners(const QSizeF& window) const;
+    [[nodiscard]] PathLegend legend() const { return {mTint, mStyle}; }
     /// The aircraft seen from above, pointing north, around the origin.
     [[nodiscard]] static std::span<const QPointF> aircraftOutline();
 
 private:
+    struct TextLine {
+        double bottom = 0.0;
+        QString text;
+        bool isWhole = true; // it was not broken
+    };
+
     void drawPath(Canvas& canvas) const;
     void drawRest(Canvas& canvas) const;
     void drawArrows(Canvas& canvas) const;
@@ -77,9 +87,10 @@ private:
     void drawSelection(Canvas& canvas) const;
     void drawEvents(Canvas& canvas, const OpenStreet::Camera& camera) const;
     void drawAircraft(Canvas& canvas, const OpenStreet::Camera& camera) const;
-    void drawLines(Canvas& canvas, const OpenStreet::Camera& camera, const QString& text, double& bottom) const;
+    [[nodiscard]] std::vector<TextLine> linesAbove(const QSizeF& window, const QStringList& texts) const;
     [[nodiscard]] MapScaleBar scaleBar(const OpenStreet::Camera& camera) const;
-    [[nodiscard]] double barBottom(const OpenStreet::Camera& camera, const MapScaleBar& bar) const;
+    [[nodiscard]] double longestBar(const QSizeF& window) const;
+    [[nodiscard]] double barBottom(const QSizeF& window) const;
     [[nodiscard]] double labelHeight() const { return 1.35 * mStyle.textSize; }
     void drawLabel(Canvas& canvas, const QPointF& position, const QString& text, Qt::Alignment align, double textSize) const;
 

@@ -15,7 +15,6 @@ struct MapStyle {
     double gridWidth = 1.0;
     double gridSpacing = 130.0;
     double barLength = 140.0; ///< of the scale at most
-    double legendTop = 8.0;   ///< from the upper edge to the legend
     QSizeF tools{};           ///< what is covered of the left upper corner
 
     [[nodiscard]] OpenStreet::BaseMap::Colours ground() const

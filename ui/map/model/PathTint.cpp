@@ -125,7 +125,8 @@ PathTint PathTinter::byValues(const std::vector<double>& values, const QString& 
             high = std::max(high, value);
         }
     }
-    result.title = unit.empty() ? title : QString(QLatin1String("%1 [%2]")).arg(title, QString::fromStdString(unit));
+    result.unit = QString::fromStdString(unit);
+    result.title = unit.empty() ? title : QString(QLatin1String("%1 [%2]")).arg(title, result.unit);
     if (low > high) {
         result.entries = {{mColours.unknown, tr("%1: no values").arg(result.title)}};
         return result;

@@ -42,6 +42,7 @@ struct PathTint {
     std::vector<QColor> colours;
     bool isScale = false; ///< colours go over into each other, else they end where the next begins
     QString title;        ///< with the unit
+    QString unit;         ///< of the values; may be empty
     double low = 0.0;     ///< of the scale
     double high = 0.0;
     std::vector<Entry> entries;

@@ -32,6 +32,12 @@ double PointerText::bearing(const OpenStreet::GeoPoint& from, const OpenStreet::
     return std::isfinite(degrees) ? degrees : 0.0;
 }
 
+QString PointerText::longest()
+{
+    const FlightPathPoint opposite{0.0, 89.999, 0.001, 0.0, 0.0, 0.0};
+    return at({-89.999, -179.999}, &opposite);
+}
+
 QString PointerText::at(const OpenStreet::GeoPoint& place, const FlightPathPoint* pAircraft)
 {
     const QString where =

@@ -15,6 +15,8 @@ class PointerText {
 public:
     /// @param pAircraft null: the place alone
     [[nodiscard]] static QString at(const OpenStreet::GeoPoint& place, const FlightPathPoint* pAircraft);
+    /// A text that is as long as any.
+    [[nodiscard]] static QString longest();
     /// The true direction in which the shortest way begins, in degrees from 0 to below 360.
     [[nodiscard]] static double bearing(const OpenStreet::GeoPoint& from, const OpenStreet::GeoPoint& to);
 };
