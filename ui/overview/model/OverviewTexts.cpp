@@ -6,6 +6,9 @@
 #include "app/TimeText.h"
 
 #include <QLocale>
+#include <QRegularExpression>
+
+#include <utility>
 
 namespace ZARN {
 
@@ -118,9 +121,12 @@ QString OverviewTexts::breakable(const QString& text)
 {
     constexpr int longest = 24; // characters
     constexpr QChar zeroWidthSpace(0x200b);
+    static const QRegularExpression beforeUnit(R"((?<=\d) (?=[\p{L}°%][^\s,;]{0,4}(?:[\s,;.]|$))|(?<=\d min) (?=\d)|(?<=\d h) (?=\d))");
+    QString kept = text;
+    kept.replace(beforeUnit, QString(QChar::Nbsp));
     QString out;
     int length = 0;
-    for (const QChar character : text) {
+    for (const QChar character : std::as_const(kept)) {
         if (length >= longest && !character.isLowSurrogate() && !character.isMark()) {
             out += zeroWidthSpace;
             length = 0;

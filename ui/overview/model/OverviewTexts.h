@@ -34,7 +34,7 @@ public:
     [[nodiscard]] static QStringList remarks(const CycleOverview& cycle);
     /// What the verdict rests on, what could not be told, and what stood outside while the engine did not run.
     [[nodiscard]] static QString basis(const CycleOverview& cycle);
-    /// The text with places where a line may end in words that no line has room for.
+    /// The text with places where a line may end in words that no line has room for, and none between a number and its unit.
     [[nodiscard]] static QString breakable(const QString& text);
     /// All of it as text, for other programs.
     [[nodiscard]] static QString plain(const CycleOverview& cycle);
