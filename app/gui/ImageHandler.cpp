@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QSvgRenderer>
 
+#include <algorithm>
 #include <memory>
 
 namespace {
@@ -31,7 +32,8 @@ public:
         pPainter->setRenderHint(QPainter::Antialiasing);
         if (mode == QIcon::Disabled)
             pPainter->setOpacity(pPainter->opacity() * kDisabledOpacity);
-        mpRenderer->render(pPainter, rect);
+        const int side = std::min(rect.width(), rect.height()); // a wider place leaves a gap before what stands beside the icon
+        mpRenderer->render(pPainter, QRectF(rect.left(), rect.top() + (rect.height() - side) / 2.0, side, side));
         pPainter->restore();
     }
 

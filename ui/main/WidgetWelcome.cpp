@@ -4,6 +4,7 @@
 #include "app/gui/Heading.h"
 #include "app/gui/IconLabel.h"
 #include "app/gui/StyleProperty.h"
+#include "app/gui/TextSize.h"
 
 #include <QEvent>
 #include <QFontInfo>
@@ -18,6 +19,7 @@ namespace ZARN {
 namespace {
 
 constexpr int kPictureSize = 56;
+constexpr int kIconSize = 16;
 constexpr int kTextWidth = 38; // in sizes of the font
 
 /// A text over the width of the page.
@@ -86,6 +88,9 @@ void WidgetWelcome::giveRoom()
     const int room = width() - margins.left() - margins.right();
     const int most = std::clamp(room, 0, kTextWidth * QFontInfo(font()).pixelSize());
     mpColumn->setMaximumWidth(most);
+    const int icon = grownWithText(*this, kIconSize);
+    for (auto* pButton : mpButtons->findChildren<QPushButton*>())
+        pButton->setIconSize(QSize(icon + icon / 3, icon));
     int row = mpButtons->layout()->spacing();
     for (const QWidget* pButton : mpButtons->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
         row += pButton->sizeHint().width();
