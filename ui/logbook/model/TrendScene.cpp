@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstdlib>
 
 namespace ZARN {
 
@@ -16,9 +17,21 @@ namespace {
 
 constexpr double kMargin = 0.06; // of the range of values, above and below
 
+/// The first of the curves' colours that no sign of a trouble is taken for.
 QColor pointColour()
 {
-    return readableOn(Palette::screen().graph.ground, standardTraceColour(EGraphPalette::eStandard, 1), 3.0);
+    constexpr int kLeastHue = 60, kCircle = 360, kCurves = 6; // degrees; of the curves, the first six are the clearest
+    const Palette& palette = Palette::screen();
+    const auto isFar = [](const QColor& one, const QColor& other) {
+        const int apart = std::abs(one.hue() - other.hue());
+        return std::min(apart, kCircle - apart) >= kLeastHue;
+    };
+    for (int curve = 0; curve < kCurves; ++curve) {
+        const QColor colour = readableOn(palette.graph.ground, standardTraceColour(EGraphPalette::eStandard, curve), 3.0);
+        if (isFar(colour, palette.limit) && isFar(colour, palette.warning))
+            return colour;
+    }
+    return textColourOn(palette.graph.ground);
 }
 
 QString number(double value, const TrendPoint& point)
