@@ -25,6 +25,7 @@ namespace ZARN {
 namespace {
 
 constexpr int kBitRates[] = {125'000, 250'000, 500'000, 1'000'000};
+const QString kUsualPlugin = QStringLiteral("socketcan"); // the system's own
 constexpr const char* kExample = "tcp://127.0.0.1:40001/can0"; // of a virtual bus on this machine
 
 QLabel* createText(const QString& text)
@@ -117,7 +118,9 @@ void DialogLive::fill()
     QString problem; // of what was chosen last, which the user sees
     const LiveWish wish = last(mSession.property, problem);
     mpProblem->clear();
-    const QStringList plugins = BusAddress::plugins();
+    QStringList plugins = BusAddress::plugins();
+    if (const qsizetype place = plugins.indexOf(kUsualPlugin); place > 0)
+        plugins.move(place, 0);
     mpPlugin->clear();
     mpPlugin->addItems(plugins);
     mpPlugin->setCurrentText(wish.address.plugin);
@@ -147,6 +150,7 @@ void DialogLive::slotPlugin()
     mpInterface->addItems(BusAddress::interfaces(plugin));
     if (BusAddress{plugin, {}}.isVirtual())
         mpInterface->addItem(kExample);
+    mpInterface->lineEdit()->setPlaceholderText(mpInterface->count() > 0 ? QString() : tr("None was found; name it, as in can0"));
 }
 
 QString DialogLive::confirmingText() const
@@ -154,7 +158,7 @@ QString DialogLive::confirmingText() const
     const BusAddress address{mpPlugin->currentText(), {}};
     if (address.isVirtual())
         return tr("A virtual bus has nothing that confirms frames.");
-    if (address.plugin == "socketcan")
+    if (address.plugin == kUsualPlugin)
         return tr("A CAN controller confirms each frame that it receives, unless the system has set it to listen only "
                   "(ip link set can0 type can listen-only on). With the tick one that confirms is not opened. "
                   "Take it away where the engine unit is alone on its bus.");
