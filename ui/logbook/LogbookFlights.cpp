@@ -15,6 +15,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <QTableView>
 
@@ -181,7 +182,8 @@ void LogbookFlights::arrange()
     pHeader->ensurePolished();
     const int letter = fontMetrics().horizontalAdvance('x');
     std::array<int, LogbookModel::eColumns> widths{};
-    int rest = mpTable->viewport()->width();
+    const QScrollBar* pBar = mpTable->verticalScrollBar(); // comes with the flights, after this
+    int rest = mpTable->viewport()->width() - (pBar->isVisible() ? 0 : pBar->sizeHint().width());
     for (int column = 0; column < LogbookModel::eColumns; ++column) {
         const auto place = static_cast<std::size_t>(column);
         if (!mpTable->isColumnHidden(column))
