@@ -173,6 +173,8 @@ void LogbookEngines::fillEngines()
                                  LogbookTexts::hours(engine.hours()) + " h", engine.counter ? LogbookTexts::hours(*engine.counter) + " h" : QStringLiteral("-")});
         current = engine.id == mEngine ? row : current;
     }
+    for (int column = 0; column < mpEngines->columnCount() - 1 && !mEngines.empty(); ++column)
+        mpEngines->resizeColumnToContents(column);
     mpEngines->setCurrentCell(current, 0);
     if (current < 0)
         mpEngines->clearSelection();

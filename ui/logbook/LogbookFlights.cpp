@@ -15,6 +15,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <QTableView>
 
@@ -129,6 +130,7 @@ void LogbookFlights::createTable()
     pHeader->setHighlightSections(false);
     pHeader->setSortIndicator(LogbookModel::eDate, Qt::DescendingOrder);
     mpTable->setSortingEnabled(true);
+    connect(pHeader, &QHeaderView::sortIndicatorChanged, this, &LogbookFlights::arrange);
     connect(pHeader, &QHeaderView::sectionResized, this,
             [this] { mIsUsers |= !mIsArranging && isVisible() && QGuiApplication::mouseButtons() != Qt::NoButton; });
     for (QWidget* pWidget : {static_cast<QWidget*>(pHeader), static_cast<QWidget*>(mpTable)}) {
@@ -156,7 +158,21 @@ void LogbookFlights::resizeEvent(QResizeEvent* pEvent)
     arrange();
 }
 
-/// As wide as what stands in them, and their titles, take; where that is too much the columns of words give way, to their titles at most.
+/// @return how narrow a column may be: as its title without the room for an arrow, but for the one that has it.
+int LogbookFlights::leastWidth(int column) const
+{
+    constexpr int kPadding = 18; // of the style, both sides and the border
+    const QHeaderView& header = *mpTable->horizontalHeader();
+    if (header.sortIndicatorSection() == column)
+        return header.sectionSizeHint(column);
+    QFont font = header.font();
+    font.setBold(true);
+    return std::min(header.sectionSizeHint(column),
+                    QFontMetrics(font).horizontalAdvance(mModel.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString()) + kPadding);
+}
+
+/// As wide as what stands in them, and their titles, take; where that is too much columns give way, to their titles at most: first
+/// those of numbers, which have room to spare.
 void LogbookFlights::arrange()
 {
     if (mIsUsers || !isVisible())
@@ -166,18 +182,21 @@ void LogbookFlights::arrange()
     pHeader->ensurePolished();
     const int letter = fontMetrics().horizontalAdvance('x');
     std::array<int, LogbookModel::eColumns> widths{};
-    int rest = mpTable->viewport()->width();
+    const QScrollBar* pBar = mpTable->verticalScrollBar(); // comes with the flights, after this
+    int rest = mpTable->viewport()->width() - (pBar->isVisible() ? 0 : pBar->sizeHint().width());
     for (int column = 0; column < LogbookModel::eColumns; ++column) {
         const auto place = static_cast<std::size_t>(column);
         if (!mpTable->isColumnHidden(column))
             widths[place] = std::max(kLetters[place] * letter, pHeader->sectionSizeHint(column));
         rest -= widths[place];
     }
-    for (const int column : {LogbookModel::eCard, LogbookModel::eEngine, LogbookModel::eNotes, LogbookModel::eVerdict}) {
+    for (const int column : {LogbookModel::eFuel, LogbookModel::eClimb, LogbookModel::eFlightTime, LogbookModel::eCard, LogbookModel::eEngine,
+                             LogbookModel::eNotes, LogbookModel::eVerdict}) {
         int& width = widths[static_cast<std::size_t>(column)];
         if (rest >= 0 || width == 0)
             continue;
-        const int less = std::min(-rest, std::max(0, width - std::max(kFewestLetters * letter, pHeader->sectionSizeHint(column))));
+        const bool isOfWords = kLetters[static_cast<std::size_t>(column)] > 0;
+        const int less = std::min(-rest, std::max(0, width - std::max(isOfWords ? kFewestLetters * letter : 0, leastWidth(column))));
         width -= less;
         rest += less;
     }

@@ -50,6 +50,7 @@ private:
     QWidget* createFilter();
     void createTable();
     void takeFilter();
+    [[nodiscard]] int leastWidth(int column) const;
     void arrange();
     void chooseColumns(const QPoint& point);
     void slotSelected();

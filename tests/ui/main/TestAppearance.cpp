@@ -147,6 +147,9 @@ void TestAppearance::unknownVariables()
     putFile(file, "Variables { mine: 3; }\nQLabel { margin: $(mine)px; color: $(accent); }");
     desktop.kernel.loadStyleFile(QString::fromStdString(file));
     QVERIFY(qApp->styleSheet().contains("margin: 3px; color: #12588f") && desktop.kernel.styleProblem().isEmpty());
+    QVERIFY(QFile::remove(QString::fromStdString(file)));
+    const auto says = [](const QLabel* pLabel) { return pLabel->text().contains("mine.css: It cannot be read"); };
+    QTRY_VERIFY(std::ranges::any_of(window.findChildren<QLabel*>(), says));
 }
 
 void TestAppearance::switched()

@@ -168,6 +168,15 @@ void TestFind::window()
     QCOMPARE(graph.scenery().found().size(), 0U);
     pExpression->setText("\"EGT 2 A\" - \"EGT 1 A\" > 12 && \"Engine Speed A\" > 2000");
     QTRY_VERIFY(pList->model()->rowCount() > 10);
+    // The list takes room that is there, and a row at least: it never makes the window higher.
+    const int height = window.height();
+    for (QToolButton* pButton : pBar->findChildren<QToolButton*>()) {
+        if (pButton->isCheckable() && pButton->isEnabled() && !pButton->isChecked())
+            pButton->click();
+    }
+    QCoreApplication::processEvents();
+    QVERIFY(pList->isVisible() && pList->minimumHeight() < pList->maximumHeight() && pList->maximumHeight() < window.height() / 2);
+    QCOMPARE(window.height(), height);
     Q_EMIT pBar->signalShow(3); // a row of the list
     const TimeSpan third = graph.scenery().found()[3];
     QVERIFY(graph.window().begin() < third.start && graph.window().end() > third.end && graph.window().end() - graph.window().begin() < 60);

@@ -128,6 +128,10 @@ void TestOverview::verdicts()
     cycle.dateTime = QDateTime({2024, 6, 15}, {9, 9});
     cycle.endTime = 31 * 3600;
     QVERIFY(OverviewTexts::origin(cycle).contains("15.06.2024 09:09 to 16.06.2024 16:09"));
+    // Lines end neither between a number and its unit nor within a duration, and what is copied has plain blanks.
+    QCOMPARE(OverviewTexts::breakable("EGT 125 °C, for 3 min 50 s; 5 of them, 1 h").replace(QChar::Nbsp, '_'),
+             QString("EGT 125_°C, for 3_min_50_s; 5_of them, 1_h"));
+    QVERIFY(!OverviewTexts::plain(cycle).contains(QChar::Nbsp));
 }
 
 QTEST_MAIN(TestOverview)

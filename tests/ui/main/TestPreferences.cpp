@@ -13,12 +13,15 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
+#include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QScreen>
+#include <QScrollBar>
 #include <QSpinBox>
 #include <QStackedWidget>
 #include <QTextBlock>
@@ -105,6 +108,10 @@ void TestPreferences::fontSize()
     QCOMPARE(desktop.property.getInt("FontSize", 0), 8);
     const QString settings = home.filePath("data/ZARN.ini");
     QVERIFY(!QFileInfo::exists(settings)); // no file a step
+    qApp->setStyleSheet("QSpinBox { min-height: 30px; }"); // labels stand at the height of their fields' text
+    auto* pField = dialog.findChild<QSpinBox*>("fontSize");
+    const QWidget* pLabel = qobject_cast<QFormLayout*>(pField->parentWidget()->layout())->labelForField(pField);
+    QTRY_VERIFY(pField->height() >= 30 && pLabel->geometry().center().y() == pField->geometry().center().y());
     dialog.close();
     QVERIFY(fileContent(settings.toStdString()).find("id=\"FontSize\" value=\"8\"") != std::string::npos);
     for (const char* unusable : {"0", "abc", "7", "21", "-3"}) {
@@ -228,6 +235,14 @@ void TestPreferences::manual()
     QVERIFY(pBrowser->toPlainText().contains(heading));
     dialog.show();
     QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QVERIFY(dialog.screen()->availableGeometry().size().boundedTo(dialog.size()) == dialog.size());
+    QCOMPARE(pBrowser->horizontalScrollBar()->maximum(), 0); // code is as small as the text, and no line is longer than the window
+    qApp->setStyleSheet("QWidget {font-size: 18px;}");
+    QTRY_COMPARE(pBrowser->horizontalScrollBar()->maximum(), 0);
+    const QTextCursor code = pBrowser->document()->find("zarn-cli");
+    QVERIFY(code.charFormat().fontFixedPitch());
+    QVERIFY(!code.charFormat().hasProperty(QTextFormat::FontPointSize) && !code.charFormat().hasProperty(QTextFormat::FontPixelSize));
+    qApp->setStyleSheet({});
     auto* pChapters = dialog.findChild<QListWidget*>("chapters");
     const auto found = pChapters->findItems(heading, Qt::MatchContains);
     QCOMPARE(found.size(), 1);

@@ -121,7 +121,7 @@ QString OverviewTexts::breakable(const QString& text)
 {
     constexpr int longest = 24; // characters
     constexpr QChar zeroWidthSpace(0x200b);
-    static const QRegularExpression beforeUnit(R"((?<=\d) (?=[\p{L}°%][^\s,;]{0,4}(?:[\s,;.]|$))|(?<=\d (?:min|h)) (?=\d))");
+    static const QRegularExpression beforeUnit(R"((?<=\d) (?=[\p{L}°%][^\s,;]{0,4}(?:[\s,;.]|$))|(?<=\d min) (?=\d)|(?<=\d h) (?=\d))");
     QString kept = text;
     kept.replace(beforeUnit, QString(QChar::Nbsp));
     QString out;
