@@ -36,7 +36,7 @@ constexpr int kGap = 4;          // above it
 constexpr int kRoomForAll = 260; // pixels below the question
 constexpr int kBesideMap = 680;   // pixels of width from which values stand beside the map, else below it
 constexpr int kBesideLowMap = 480; // the same where it would be left too little height
-constexpr int kLeastMap = 220;     // pixels of height that values and altitude leave the map where they can
+constexpr int kLeastMap = 345;     // pixels of height that the values leave the map where they can
 constexpr int kWideMap = 440;     // pixels of width, beside the usual text, from which the tools have large icons
 constexpr int kCourseDelay = 150; // milliseconds
 
@@ -365,7 +365,7 @@ void DialogDataMap::arrangeValues()
     const QSize wanted = mpValues->sizeHint();
     const int room = isBeside ? mpSplitter->width() : mpSplitter->height();
     const int row = mpValues->rowHeight();
-    const int rows = std::max(std::max(room / 4, std::min(room * 2 / 5, room - kLeastMap)) / row, 2);
+    const int rows = std::max(std::max(room / 5, std::min(room * 2 / 5, room - kLeastMap)) / row, 2);
     const int values = isBeside ? std::min(wanted.width(), room * 2 / 5) : std::min(wanted.height(), rows * row); // whole rows
     mpSplitter->setSizes({std::max(room - values, 1), std::max(values, 1)});
 }
@@ -376,7 +376,7 @@ void DialogDataMap::updateGeometry()
         return;
     const QRect map(mpMap->mapTo(this, QPoint()), mpMap->size());
     const int margin = kMargin * mContext.scale;
-    const int below = std::max(kBelowPanels, map.height() - static_cast<int>(mpMap->corners().words.top()) + kGap);
+    const int below = std::max(kBelowPanels, map.height() - static_cast<int>(mpMap->scene().corners(mpMap->size()).words.top()) + kGap);
     const bool isWide = map.width() >= grownWithText(*this, kWideMap) * mContext.scale;
     mpTools->arrangeFor({map.width() - 2 * margin, std::max(map.height() - margin - below, 0)}, isWide);
     mpTools->move(map.topLeft() + QPoint(margin, margin));

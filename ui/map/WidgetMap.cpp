@@ -185,17 +185,14 @@ void WidgetMap::setCovered(const QSize& corner)
     mIsDirty = true;
 }
 
-MapCorners WidgetMap::corners()
-{
-    mScene.setCorner(cornerSize());
-    return mScene.corners(size());
-}
-
 /// The path stays clear of whatever has come to lie on the map.
-void WidgetMap::updateCovers()
+bool WidgetMap::updateCovers()
 {
-    if (mNavigator.setCovered(corners().covers(mScene.legend())) && mNavigator.isFitted())
+    mScene.style().sources = cornerSize();
+    const bool isOther = mNavigator.setCovered(mScene.corners(size()).covers());
+    if (isOther && mNavigator.isFitted())
         fitAtOnce();
+    return isOther;
 }
 
 QSize WidgetMap::cornerSize() const
@@ -244,8 +241,11 @@ void WidgetMap::changeEvent(QEvent* pEvent)
 void WidgetMap::resizeEvent(QResizeEvent* pEvent)
 {
     QWidget::resizeEvent(pEvent);
+    const QSize before = cornerSize();
     mpAttribution->place();
     resizeGL(width(), height());
+    if (cornerSize() != before)
+        Q_EMIT signalCorner();
     mpSurface->widget().setGeometry(rect());
     mpSurface->requestFrame();
 }
@@ -253,8 +253,7 @@ void WidgetMap::resizeEvent(QResizeEvent* pEvent)
 void WidgetMap::resizeGL(int width, int height)
 {
     mNavigator.setWindowSize(width, height);
-    mNavigator.setCovered(corners().covers(mScene.legend()));
-    if (mNavigator.isFitted())
+    if (!updateCovers() && mNavigator.isFitted())
         fitAtOnce();
     mIsDirty = true;
 }
@@ -295,7 +294,7 @@ void WidgetMap::paintAbove(Canvas& canvas)
     if (!std::exchange(mIsPainting, false))
         mPacer.begin();
     ++mPaints;
-    mScene.setCorner(cornerSize());
+    mScene.style().sources = cornerSize();
     if (!mIsGroundAlone)
         mScene.drawAbove(canvas, mNavigator.camera());
     mPacer.end();
@@ -456,7 +455,7 @@ std::shared_ptr<const CanvasRecord> WidgetMap::picture(bool forPaper)
     pPicture->clip(QRectF(rect()));
     pPicture->image(QRectF(rect()), groundPicture());
     mScene.drawGround(*pPicture, mNavigator.camera());
-    mScene.setCorner(cornerSize());
+    mScene.style().sources = cornerSize();
     mScene.drawAbove(*pPicture, mNavigator.camera());
     mpAttribution->draw(*pPicture, mScene.style());
     updateColours();

@@ -64,8 +64,6 @@ public:
     [[nodiscard]] std::shared_ptr<const CanvasRecord> picture(bool forPaper);
     /// What something else covers of the left upper corner.
     void setCovered(const QSize& corner);
-    /// What stands in the corners of the map.
-    [[nodiscard]] MapCorners corners();
     /// Whether the picture is behind what it should show.
     [[nodiscard]] bool isDirty() const { return mIsDirty || mIsAboveDirty; }
     /// Whether the user has yet to be asked for the network: there is a path, and a server whose tiles could lie under it.
@@ -124,7 +122,8 @@ private:
     /// Takes the path over anew and shows the whole of it, unless only the unit of its values is another one.
     bool redrawFlightPath(bool isChosen);
     void fitAtOnce();
-    void updateCovers();
+    /// @return whether something else than before lies on the map
+    bool updateCovers();
     [[nodiscard]] QSize cornerSize() const;
     [[nodiscard]] QImage groundPicture();
     void updateShown();

@@ -452,6 +452,9 @@ void TestGraphLayout::linesOverThePlot()
         QCOMPARE(seen, std::min(12, room - hasCursor));
         QCOMPARE(layout.legendLine(model, 0).top() - layout.plot().top(), 3 + (hasCursor ? layout.line() : 0));
     }
+    model.setMarker({20, 60});
+    QCOMPARE(layoutOf(model, 300, 300).overlayText(model, 3), QString("500.00 [kPa]")); // the marker's table has the name
+    model.setMarker({7, 7});
     for (double width = 130; width < 260; width += 9) {
         const GraphLayout layout = layoutOf(model, width, 140);
         const QString text = layout.overlayText(model, 3);

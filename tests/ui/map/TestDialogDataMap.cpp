@@ -158,6 +158,7 @@ private Q_SLOTS:
     void pointerAndKeys();
     void picksTimes();
     void valuesAndColours();
+    void nothingCoversThePath();
     void brushing();
 
 private:
@@ -435,6 +436,34 @@ void TestDialogDataMap::valuesAndColours()
     QVERIFY(!pTable->isVisible());
     window.dialog->updateProfile();
     QVERIFY(!pTable->isVisible() && !window.property.getSwitch("MapShowValues", true));
+}
+
+/// Whatever the window's size, and whatever its colours mean: nothing that stands in the corners lies on the path.
+void TestDialogDataMap::nothingCoversThePath()
+{
+    Window window;
+    window.load();
+    QTest::mouseClick(window.button("consentNo"), Qt::LeftButton);
+    const MapScene& scene = window.map().scene();
+    for (const QSize& size : {QSize(900, 700), QSize(451, 480), QSize(274, 500), QSize(657, 230)}) {
+        window.dialog->resize(size);
+        for (const char* colour : {"", "altitude", "phase"}) {
+            window.property.setString("MapPathColour", colour);
+            window.dialog->updateSettings();
+            window.settle();
+            const std::vector<QRectF> covers = scene.corners(window.map().size()).covers();
+            // Tools, sources, scale, legend; that of the phases is long, and a low map has none.
+            QVERIFY2(covers.size() == (*colour ? 4 : 3) || (covers.size() == 3 && colour == QLatin1String("phase") && size.height() < 480),
+                     qPrintable(QString("%1 x %2 %3").arg(size.width()).arg(size.height()).arg(colour)));
+            for (const FlightPathPoint& point : scene.path().points()) {
+                QPointF at;
+                window.map().latLong2Window(point.latitude, point.longitude, &at.rx(), &at.ry());
+                const auto holds = [&at](const QRectF& cover) { return cover.contains(at); };
+                QVERIFY2(QRectF(window.map().rect()).contains(at) && std::ranges::none_of(covers, holds),
+                         qPrintable(QString("%1 x %2 %3").arg(size.width()).arg(size.height()).arg(colour)));
+            }
+        }
+    }
 }
 
 void TestDialogDataMap::brushing()

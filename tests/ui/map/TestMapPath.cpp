@@ -194,11 +194,11 @@ void TestMapPath::fitsBesideWhatCovers()
     MapPath path;
     path.setPoints(std::vector{at(0, 48.1, 10.9), at(1, 48.3, 11.1)});
     using Covers = std::vector<QRectF>;
-    const Covers corners{{0, 0, 100, 300}, {600, 0, 200, 60}, {500, 560, 300, 40}}; // the path is about as high as wide, so the width is spared
+    const Covers corners{{0, 0, 100, 300}, {600, 0, 200, 60}, {500, 560, 300, 40}}; // the path is higher than wide: the height counts
     for (const auto& [covers, free] : {std::pair(Covers{}, QRectF(0, 0, 800, 600)), {Covers{{0, 0, 200, 600}}, QRectF(200, 0, 600, 600)},
-                                       {Covers{{0, 450, 800, 150}}, QRectF(0, 0, 800, 450)}, {Covers{{0, 0, 300, 20}, {300, 400, 500, 200}}, QRectF(300, 0, 500, 400)},
-                                       {Covers{{0, 0, 400, 600}, {0, 300, 800, 300}}, QRectF(0, 0, 800, 600)},
-                                       {Covers{{0, 0, 399, 600}, {0, 301, 800, 299}}, QRectF(399, 0, 401, 301)}, {corners, QRectF(100, 0, 500, 560)}}) {
+                                       {Covers{{0, 450, 800, 150}}, QRectF(0, 0, 800, 450)}, {Covers{{0, 0, 300, 420}, {300, 400, 500, 200}}, QRectF(300, 0, 500, 400)},
+                                       {Covers{{0, 0, 640, 600}, {0, 120, 800, 480}}, QRectF(0, 0, 800, 600)},
+                                       {Covers{{0, 0, 500, 600}, {0, 250, 800, 350}}, QRectF(500, 0, 300, 250)}, {corners, QRectF(100, 0, 400, 600)}}) {
         MapContext context;
         MapNavigator navigator(context);
         navigator.setWindowSize(800, 600);

@@ -304,6 +304,8 @@ QString GraphLayout::overlayText(const GraphModel& model, int index) const
     const GraphParameter& parameter = *model.traces().at(index);
     const std::optional<double> value =
         model.settings().displayMode == eSplit ? std::nullopt : model.traces().valueAt(index, model.cursor().time);
+    if (value && !mTable.isEmpty()) // which has the name: what lies over the plot is short then
+        return parameter.unit.isEmpty() ? parameter.text(*value) : QStringLiteral("%1 [%2]").arg(parameter.text(*value), parameter.unit);
     const QString number = value ? QLatin1Char(' ') + parameter.text(*value) : QString();
     const auto room = static_cast<int>((mPlot.width() - kSwatch - 12) / mCharacter) - static_cast<int>(number.size());
     return shortName(parameter.label(), std::clamp(room, kFewestOfName, kLongestLabel)) + number;

@@ -151,7 +151,7 @@ void MapScene::drawGround(Canvas& canvas, const OpenStreet::Camera& camera) cons
     const CanvasText style{mStyle.textSize, mStyle.colours.gridText, false, Qt::AlignLeft | Qt::AlignBottom};
     if (mIsPlain) { // the labels keep clear of the scale bar, and of what stands in the corners
         const double bottom = std::min(std::floor(barBottom(sizeOf(camera)) - kTextAboveBar - labelHeight()),
-                                       camera.height() - mCorner.height() - kMargin - kAboveCorner);
+                                       camera.height() - mStyle.sources.height() - kMargin - kAboveCorner);
         Graticule(camera, mStyle.gridSpacing).draw(canvas, {mStyle.colours.grid, mStyle.gridWidth}, style, bottom, mStyle.tools,
                                                     [&](const QRectF& box) { return mPlaces.areIn(box, camera); });
         mPlaces.draw(canvas, camera, mStyle);
@@ -160,15 +160,15 @@ void MapScene::drawGround(Canvas& canvas, const OpenStreet::Camera& camera) cons
     drawPath(canvas);
     drawWrongFixes(canvas, camera);
     drawEvents(canvas, camera);
-    mMarks.draw(canvas, camera, mPath, mStyle, corners(sizeOf(camera)).covers(legend()));
+    mMarks.draw(canvas, camera, mPath, mStyle, corners(sizeOf(camera)).covers());
 }
 
 void MapScene::drawAbove(Canvas& canvas, const OpenStreet::Camera& camera) const
 {
     drawAircraft(canvas, camera);
     drawScaleBar(canvas, camera);
-    if (const auto place = mPath.isEmpty() ? std::nullopt : corners(sizeOf(camera)).legend(legend()))
-        legend().draw(canvas, place->box, place->form);
+    if (const auto legend = corners(sizeOf(camera)).legend)
+        PathLegend(mTint, mStyle).draw(canvas, legend->box, legend->form);
     drawSelection(canvas);
     if (mMessage.isEmpty())
         return;
@@ -294,8 +294,8 @@ double MapScene::longestBar(const QSizeF& window) const
 
 double MapScene::barBottom(const QSizeF& window) const
 {
-    const bool isNarrow = longestBar(window) + mCorner.width() + 3.0 * kMargin > window.width(); // no room beside what stands in the corner
-    return window.height() - kMargin - (isNarrow ? mCorner.height() + kAboveCorner : 0.0);
+    const bool isNarrow = longestBar(window) + mStyle.sources.width() + 3.0 * kMargin > window.width(); // no room beside what stands in the corner
+    return window.height() - kMargin - (isNarrow ? mStyle.sources.height() + kAboveCorner : 0.0);
 }
 
 MapCorners MapScene::corners(const QSizeF& window) const
@@ -306,12 +306,14 @@ MapCorners MapScene::corners(const QSizeF& window) const
     const double bottom = barBottom(window);
     result.bar = QRectF(QPointF(0.0, bottom - kTextAboveBar - labelHeight()), QPointF(kMargin + longestBar(window), bottom));
     const QPointF corner(window.width() - kMargin, window.height() - kMargin);
-    result.sources = QRectF(corner - QPointF(mCorner.width(), mCorner.height()), mCorner);
+    result.sources = QRectF(corner - QPointF(mStyle.sources.width(), mStyle.sources.height()), mStyle.sources);
     for (const TextLine& line : linesAbove(window, {PointerText::longest(), mNote, mHeldFixes})) {
         // What is broken into lines may be broken otherwise, too.
         const double width = line.isWhole ? canvasTextSize(line.text, mStyle.textSize, false).width() + kMargin + kLabelPadding : window.width();
         result.words |= QRectF(0.0, line.bottom - labelHeight(), width, labelHeight());
     }
+    if (!mPath.isEmpty())
+        result.place(PathLegend(mTint, mStyle));
     return result;
 }
 
@@ -336,7 +338,7 @@ void MapScene::drawScaleBar(Canvas& canvas, const OpenStreet::Camera& camera) co
 std::vector<MapScene::TextLine> MapScene::linesAbove(const QSizeF& window, const QStringList& texts) const
 {
     std::vector<TextLine> result;
-    double bottom = std::min(barBottom(window) - kTextAboveBar - labelHeight() - 6.0, window.height() - mCorner.height() - 2.0 * kMargin);
+    double bottom = std::min(barBottom(window) - kTextAboveBar - labelHeight() - 6.0, window.height() - mStyle.sources.height() - 2.0 * kMargin);
     // Characters are all of one width.
     const double characters = (window.width() - 2.0 * kMargin) / canvasTextSize(QStringLiteral("x"), mStyle.textSize, false).width();
     for (const QString& text : texts) {

@@ -57,8 +57,6 @@ public:
     bool setNote(const QString& note);
     /// A word in the middle about what cannot be shown; empty for none.
     void setMessage(const QString& message) { mMessage = message; }
-    /// What is taken of the right lower corner, in pixels: the scale bar keeps away from it.
-    void setCorner(const QSizeF& size) { mCorner = size; }
 
     /// Makes what is drawn for a camera.
     void update(const OpenStreet::Camera& camera);
@@ -69,7 +67,6 @@ public:
     void drawScaleBar(Canvas& canvas, const OpenStreet::Camera& camera) const;
     /// What stands in the corners of a window, whether something is pointed at or not.
     [[nodiscard]] MapCorners corners(const QSizeF& window) const;
-    [[nodiscard]] PathLegend legend() const { return {mTint, mStyle}; }
     /// The aircraft seen from above, pointing north, around the origin.
     [[nodiscard]] static std::span<const QPointF> aircraftOutline();
 
@@ -111,7 +108,6 @@ private:
     QString mNote;
     QString mHeldFixes;
     QString mMessage;
-    QSizeF mCorner;
     bool mIsImperial = false;
     bool mIsPlain = false;
 };

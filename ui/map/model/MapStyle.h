@@ -16,6 +16,7 @@ struct MapStyle {
     double gridSpacing = 130.0;
     double barLength = 140.0; ///< of the scale at most
     QSizeF tools{};           ///< what is covered of the left upper corner
+    QSizeF sources{};         ///< the same of the right lower one
 
     [[nodiscard]] OpenStreet::BaseMap::Colours ground() const
     {
