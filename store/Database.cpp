@@ -17,6 +17,7 @@ namespace ZARN {
 namespace {
 
 constexpr int kBusyMilliseconds = 5000, kReaderMilliseconds = 1000; // a writer alone has to wait for another one
+constexpr const char* kCache = "PRAGMA cache_size = -32768"; // KiB; with less the pages of large stores are read again and again
 
 
 Database::EFailure failureOf(int code)
@@ -221,6 +222,7 @@ bool Database::open(const std::string& name, int flags)
     if (!check(sqlite3_open_v2(name.c_str(), &mpDatabase, flags | SQLITE_OPEN_NOMUTEX, nullptr)))
         return false;
     sqlite3_extended_result_codes(mpDatabase, 1);
+    sqlite3_exec(mpDatabase, kCache, nullptr, nullptr, nullptr); // looks into the file, and waits for nobody
     sqlite3_busy_timeout(mpDatabase, kBusyMilliseconds);
     return true;
 }

@@ -126,24 +126,8 @@ std::vector<LogbookEngine> LogbookReader::engines()
         engine.unknownTime = found.real(8);
     }
     takeCopies(engines);
-    for (LogbookEngine& engine : engines) {
-        readClock(engine);
-        readTyped(engine);
-    }
+    std::ranges::for_each(engines, [this](LogbookEngine& engine) { readTyped(engine); });
     return engines;
-}
-
-/// Each unit numbers its recordings in the order of time, whatever its clock says.
-void LogbookReader::readClock(LogbookEngine& engine)
-{
-    Statement& found = mDatabase.prepared(
-        "WITH dated AS (SELECT card_id, number, strftime('%s', date_time) + start_time * (number <> 0) AS began, end_time - start_time AS length "
-        "FROM cycle WHERE engine_id = ? AND card_id IS NOT NULL AND date_time >= '2010' AND end_time >= start_time) "
-        "SELECT count(*) FROM (SELECT began, lag(began + length) OVER (PARTITION BY card_id ORDER BY number) AS ended FROM dated) "
-        "WHERE began < ended - 60"); // a clock that is set right goes back by less
-    if (found.with({engine.id}).next())
-        engine.clockBacks = static_cast<std::size_t>(found.integer(0));
-    found.with({}).run();
 }
 
 /// Takes off what copies would count twice.

@@ -39,7 +39,6 @@ struct LogbookEngine {
     std::size_t unknownCycles = 0;        ///< that do not tell whether it ran
     double unknownTime = 0.0;             ///< seconds that these lasted
     RecordingCopies::Engine recordings;
-    std::size_t clockBacks = 0;           ///< how often a card's next recording began before the one ahead of it had ended
     std::optional<double> hoursBefore;    ///< typed: before the first recording
     std::optional<double> counter;        ///< most hours that the unit told
     QDateTime counterDate;
@@ -105,7 +104,6 @@ public:
 private:
     [[nodiscard]] QString notesIn(const std::string& cycle, const Value& start, const Value& end);
     void takeCopies(std::vector<LogbookEngine>& engines);
-    void readClock(LogbookEngine& engine);
     void readTyped(LogbookEngine& engine);
 
     Database mDatabase;

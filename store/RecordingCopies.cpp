@@ -16,7 +16,7 @@ constexpr const char* kFirstDate = "2010"; // a clock before was never set
 
 // A cycle without a beginning is dated by that of its first file, while its times count from power-up.
 constexpr const char* kRows = "SELECT rowid, strftime('%s', date_time) - CASE WHEN number = 0 THEN start_time ELSE 0 END, start_time, end_time, "
-                              "engine_running, engine_id FROM cycle WHERE date_time >= ?1 AND end_time - start_time >= 0";
+                              "engine_running, engine_id, card_id, number FROM cycle WHERE date_time >= ?1 AND end_time - start_time >= 0";
 
 double overlap(const TimeSpan& a, const TimeSpan& b)
 {
@@ -67,7 +67,8 @@ void RecordingCopies::add(const Statement& found, Rows& rows)
 {
     const std::optional<double> running = found.isNull(4) ? std::nullopt : std::optional(found.real(4));
     if (!found.isNull(1)) // as of a date that is none
-        rows.push_back({found.integer(0), found.real(1), {found.real(2), found.real(3)}, running});
+        rows.push_back({found.integer(0), found.real(1), {found.real(2), found.real(3)}, running,
+                        found.isNull(6) ? std::nullopt : std::optional(found.integer(6)), found.integer(7)});
 }
 
 void RecordingCopies::addShown(const ShownRecording& shown, Rows& rows)
@@ -77,12 +78,13 @@ void RecordingCopies::addShown(const ShownRecording& shown, Rows& rows)
     found.run(); // to its end
     auto row = std::ranges::find(rows, id, &Row::id);
     if (row == rows.end())
-        row = rows.insert(row, {id, static_cast<double>(shown.powerUp.toSecsSinceEpoch()), shown.span, {}, shown.cycle.engine.ecuSerial});
+        row = rows.insert(row, {id, static_cast<double>(shown.powerUp.toSecsSinceEpoch()), shown.span, {}, {}, 0, shown.cycle.engine.ecuSerial});
     row->isShown = true;
 }
 
 void RecordingCopies::resolve(const std::string& engine, Rows& rows)
 {
+    countClockBacks(engine, rows);
     std::ranges::sort(rows, {}, &Row::powerUp);
     Rows counted;
     for (auto first = rows.begin(); first != rows.end();) {
@@ -178,6 +180,22 @@ void RecordingCopies::keepFlights(Copy& copy, const std::string& cycleId, const 
         if (isTold && mFlights.insert(flights.integer(0)).second)
             ++copy.flights;
     }
+}
+
+/// A unit numbers its recordings in the order of time, whatever its clock says.
+void RecordingCopies::countClockBacks(const std::string& engine, const Rows& rows)
+{
+    std::vector<const Row*> order;
+    for (const Row& row : rows) {
+        if (row.card)
+            order.push_back(&row);
+    }
+    std::ranges::sort(order, {}, [](const Row* pRow) { return std::tuple(*pRow->card, pRow->number, pRow->id); });
+    const auto isBack = [](const Row* pRow, const Row* pNext) {
+        return *pRow->card == *pNext->card && pNext->powerUp + pNext->span.start < pRow->powerUp + pRow->span.end - kClockSetRight;
+    };
+    for (std::size_t i = 1; i < order.size(); ++i)
+        mEngines[engine].clockBacks += isBack(order[i - 1], order[i]) ? 1 : 0;
 }
 
 void RecordingCopies::countOverlaps(const std::string& engine, Rows& counted)

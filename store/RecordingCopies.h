@@ -33,6 +33,7 @@ public:
     struct Engine {
         std::size_t several = 0;     ///< recordings of which there are copies
         std::size_t overlapping = 0; ///< recordings that began before another one of the same engine had ended
+        std::size_t clockBacks = 0;  ///< how often a card's next recording began before the one ahead of it had ended
     };
 
     explicit RecordingCopies(Database& database);
@@ -54,6 +55,8 @@ private:
         double powerUp = 0.0;
         TimeSpan span;
         std::optional<double> running;
+        std::optional<int64_t> card = {};
+        int64_t number = 0; ///< of the cycle on the card
         std::optional<int64_t> ecu = {};
         bool isShown = false;
         std::string cycleId = {}; ///< of those that are compared
@@ -65,6 +68,7 @@ private:
     void resolveMoment(const std::string& engine, Rows rows, Rows& counted);
     void keepFlights(Copy& copy, const std::string& cycleId, const std::vector<TimeSpan>& told);
     void countOverlaps(const std::string& engine, Rows& counted);
+    void countClockBacks(const std::string& engine, const Rows& rows);
     [[nodiscard]] bool isClockSet(const Rows& rows);
     void readNames(Rows& rows);
     [[nodiscard]] static bool isSame(const Row& row, const Row& other);

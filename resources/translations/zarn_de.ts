@@ -337,6 +337,10 @@ Die Einstellungen bleiben erhalten.</translation>
         <source>the frames of several interfaces are read as one bus</source>
         <translation>die Telegramme mehrerer Schnittstellen werden als ein Bus gelesen</translation>
     </message>
+    <message>
+        <source>frames that no parameter reads: %1 with too few data, %2 of 29 bits with a standard identifier</source>
+        <translation>Botschaften, die kein Parameter liest: %1 mit zu wenig Daten, %2 mit 29 Bit und einer Standardkennung</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::CardArchive</name>
@@ -1505,6 +1509,10 @@ lag(x, s): x, wie es vor s Sekunden war</translation>
     <message>
         <source>A CAN controller confirms each frame that it receives, unless the system has set it to listen only (ip link set can0 type can listen-only on). With the tick one that confirms is not opened. Take it away where the engine unit is alone on its bus.</source>
         <translation>Ein CAN-Controller bestätigt jedes Telegramm, das er empfängt, außer das System hat ihn auf Zuhören eingestellt (ip link set can0 type can listen-only on). Mit dem Häkchen wird einer, der bestätigt, nicht geöffnet. Nehmen Sie es weg, wo das Motorsteuergerät allein an seinem Bus ist.</translation>
+    </message>
+    <message>
+        <source>None was found; name it, as in can0</source>
+        <translation>Keine gefunden; nennen Sie sie, etwa can0</translation>
     </message>
 </context>
 <context>
@@ -3443,6 +3451,10 @@ Ersetzen ?</translation>
         <source>Unknown variables: %1</source>
         <translation>Unbekannte Variablen: %1</translation>
     </message>
+    <message>
+        <source>It cannot be read.</source>
+        <translation>Sie kann nicht gelesen werden.</translation>
+    </message>
 </context>
 <context>
     <name>ZARN::LayoutBar</name>
@@ -3662,6 +3674,10 @@ Ersetzen ?</translation>
     <message>
         <source>%1: all numbers of files are used up</source>
         <translation>%1: Alle Dateinummern sind verbraucht</translation>
+    </message>
+    <message>
+        <source>%1: holds %2, which a unit recorded; a card is never written to</source>
+        <translation>%1: enthält %2, von einem Gerät aufgezeichnet; auf eine Karte wird nie geschrieben</translation>
     </message>
 </context>
 <context>
@@ -5454,6 +5470,10 @@ Kreuzen Sie im Profilfeld einen Parameter an oder wählen Sie einen anderen Zykl
     <message>
         <source>Style damaged: the built-in one is in force</source>
         <translation>Stil beschädigt: der eingebaute gilt</translation>
+    </message>
+    <message>
+        <source>Style not found: the windows have none</source>
+        <translation>Stil nicht gefunden: Die Fenster haben keinen</translation>
     </message>
 </context>
 <context>

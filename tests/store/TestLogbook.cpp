@@ -192,7 +192,7 @@ void TestLogbook::countsRecordingsOnce()
     QTEST(engine.running, "running");
     QTEST(engine.recordings.several, "several");
     QTEST(engine.recordings.overlapping, "overlapping");
-    QTEST(engine.clockBacks, "clockBacks");
+    QTEST(engine.recordings.clockBacks, "clockBacks");
     QCOMPARE(engine.flights, flights.size());
     fill("INSERT INTO note (cycle_id, time, text) VALUES ('p', 100, 'Of the other copy')");
     QCOMPARE(reader.notes("a").size(), std::size_t(engine.recordings.several > 0 ? 2 : 1)); // those of each copy, whichever is looked at

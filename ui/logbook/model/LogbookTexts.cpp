@@ -92,9 +92,9 @@ QString LogbookTexts::engineHours(const LogbookEngine& engine)
     if (engine.recordings.overlapping > 0)
         text += ".\n" + tr("Two units with one serial number, or a wrong clock? Recordings that overlap with another one, and count as well: %1")
                            .arg(engine.recordings.overlapping);
-    if (engine.clockBacks > 0)
+    if (engine.recordings.clockBacks > 0)
         text += ".\n" + tr("The unit's clock went back from one recording to the next, so that dates, and what is due by them, may be wrong: %n time(s)", nullptr,
-                           static_cast<int>(engine.clockBacks));
+                           static_cast<int>(engine.recordings.clockBacks));
     if (engine.isLossy)
         text += ".\n" + tr("Recordings were lost when the logbook was damaged: it may have run more. Open the cards that you still have, then enter the hours "
                            "before anew, with what is missing");

@@ -83,6 +83,14 @@ void MapNavigator::fit(const MapPath& path, bool atOnce)
         mCamera = target();
 }
 
+bool MapNavigator::isShown(const FlightPathPoint& point) const
+{
+    const OpenStreet::WindowPoint place = target().geoToWindow({point.latitude, point.longitude});
+    const QPointF here(place.x, place.y);
+    return QRectF(0, 0, mCamera.width(), mCamera.height()).contains(here) &&
+           std::ranges::none_of(mCovers, [&here](const QRectF& cover) { return cover.contains(here); });
+}
+
 /// From now on the view no longer shows the whole path, and a following view keeps the aircraft in the middle.
 void MapNavigator::leaveFit()
 {

@@ -28,6 +28,8 @@ public:
 
     /// Shows the whole path. @param atOnce without moving there: for another path, that may lie anywhere.
     void fit(const MapPath& path, bool atOnce);
+    /// Whether a point lies where nothing covers the map.
+    [[nodiscard]] bool isShown(const FlightPathPoint& point) const;
     /// Whether the user has not moved the view since.
     [[nodiscard]] bool isFitted() const { return mIsFitted; }
     /// The point of the window about which is zoomed.
