@@ -1,3 +1,4 @@
+#include "card/record/CanFrame.h"
 #include "fuzz/Input.h"
 #include "fuzz/Require.h"
 #include "live/FrameReader.h"
@@ -33,10 +34,12 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* pData, std::size_t size)
         if (records.size() == before)
             continue;
         const LiveRecord& record = records.back();
-        REQUIRE(frame.frameType() == QCanBusFrame::DataFrame && record.identifier == frame.frameId());
         Payload expected{};
         std::copy(payload.begin(), payload.end(), expected.begin());
-        REQUIRE(record.record.payload == expected);
+        const CanFrame kept = CanFrame::of(record.identifier, record.record).value();
+        REQUIRE(frame.frameType() == QCanBusFrame::DataFrame && kept.identifier == frame.frameId() && kept.payload == expected);
+        REQUIRE(kept.isExtended == frame.hasExtendedFrameFormat());
+        REQUIRE(record.identifier & kShortFlag ? kept.length == payload.size() : payload.size() >= 4);
         REQUIRE(before == 0 || record.record.ticks > records[before - 1].record.ticks);
     }
     const LiveCounts& counts = reader.counts();
