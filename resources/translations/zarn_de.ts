@@ -339,7 +339,7 @@ Die Einstellungen bleiben erhalten.</translation>
     </message>
     <message>
         <source>frames that no parameter reads: %1 with too few data, %2 of 29 bits with a standard identifier</source>
-        <translation>Botschaften, die kein Parameter liest: %1 mit zu wenig Daten, %2 mit 29 Bit und einer Standardkennung</translation>
+        <translation>Telegramme, die kein Parameter liest: %1 mit zu wenig Daten, %2 mit 29 Bit und einer Standardkennung</translation>
     </message>
 </context>
 <context>

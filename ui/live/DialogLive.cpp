@@ -108,8 +108,10 @@ void DialogLive::ask(bool isOpen)
 bool DialogLive::event(QEvent* pEvent)
 {
     const bool isTaken = QDialog::event(pEvent);
-    if (pEvent->type() == QEvent::LayoutRequest && isVisible())
-        resize(width(), std::max(height(), layout()->totalHeightForWidth(width())));
+    if (pEvent->type() == QEvent::LayoutRequest && isVisible()) {
+        const int wide = std::max(width(), layout()->totalMinimumSize().width());
+        resize(wide, layout()->totalHeightForWidth(wide)); // no higher either: before it has its width the texts take more lines
+    }
     return isTaken;
 }
 
