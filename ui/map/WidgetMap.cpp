@@ -376,7 +376,7 @@ bool WidgetMap::redrawFlightPath(bool isChosen)
     mScene.events().place(mScene.path());
     if (!isGrown && (!isSamePath || (isChosen && !isOtherUnit)))
         fitAtOnce();
-    else if (isGrown && mNavigator.isFitted() && !mNavigator.isFollowing() && !mNavigator.isShown(mScene.path().points().back()))
+    else if (isGrown && mNavigator.isHeldToFit() && !mNavigator.isShown(mScene.path().points().back()))
         fitPath(); // what is received goes on to where nobody has looked yet
     mIsDirty = mIsDirty || !isSamePath;
     if (!isSamePath && !isBeginning)

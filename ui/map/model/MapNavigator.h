@@ -28,6 +28,8 @@ public:
 
     /// Shows the whole path. @param atOnce without moving there: for another path, that may lie anywhere.
     void fit(const MapPath& path, bool atOnce);
+    /// Whether the view neither was moved by the user since nor goes with the aircraft.
+    [[nodiscard]] bool isHeldToFit() const { return mIsFitted && mContext.centreAircraft != 1; }
     /// Whether a point lies where nothing covers the map.
     [[nodiscard]] bool isShown(const FlightPathPoint& point) const;
     /// Whether the user has not moved the view since.
