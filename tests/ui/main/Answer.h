@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QProgressDialog>
 #include <QTest>
 #include <QTimer>
 
@@ -16,7 +17,7 @@ public:
     {
         connect(&mTimer, &QTimer::timeout, this, [this] {
             QWidget* pModal = QApplication::activeModalWidget();
-            if (!pModal || !pModal->isVisible())
+            if (!pModal || !pModal->isVisible() || qobject_cast<QProgressDialog*>(pModal)) // progress goes by itself
                 return;
             mTimer.stop();
             title = pModal->windowTitle();
