@@ -277,7 +277,7 @@ void TestDialogExport::progressIsSeenAndCancelled()
     Answer answer([&](QWidget* pModal) {
         QTRY_COMPARE((shown = pModal->findChild<QProgressBar*>()->value()), 42);
         QTest::mouseClick(pModal->findChild<QAbstractButton*>(), Qt::LeftButton);
-    });
+    }, true);
     bool isDone = false;
     const auto work = [](Progress& report) {
         while (!report.isCancelled())

@@ -13,11 +13,12 @@
 /// Answers the next modal window, once it stands; what it was is kept for the test.
 class Answer : public QObject {
 public:
-    explicit Answer(std::function<void(QWidget*)> answer) : mAnswer(std::move(answer))
+    /// Progress that comes first goes by itself, unless it is what is to be answered.
+    explicit Answer(std::function<void(QWidget*)> answer, bool answersProgress = false) : mAnswer(std::move(answer))
     {
-        connect(&mTimer, &QTimer::timeout, this, [this] {
+        connect(&mTimer, &QTimer::timeout, this, [this, answersProgress] {
             QWidget* pModal = QApplication::activeModalWidget();
-            if (!pModal || !pModal->isVisible() || qobject_cast<QProgressDialog*>(pModal)) // progress goes by itself
+            if (!pModal || !pModal->isVisible() || (!answersProgress && qobject_cast<QProgressDialog*>(pModal)))
                 return;
             mTimer.stop();
             title = pModal->windowTitle();
