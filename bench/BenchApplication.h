@@ -5,6 +5,9 @@
 #include "ui/gl/GraphicsCheck.h"
 
 #include <QApplication>
+#include <QDeadlineTimer>
+#include <QWidget>
+#include <QWindow>
 
 namespace ZARN {
 
@@ -40,6 +43,20 @@ inline QApplication* displayApplication()
         return nullptr;
     startApplication();
     return qApp;
+}
+
+/// Shows a window and waits until it is on the screen: before that it draws nothing, however often it is asked.
+/// @return whether it is there within some seconds.
+inline bool showOnScreen(QWidget& window)
+{
+    window.show();
+    for (const QDeadlineTimer end(5000); !window.windowHandle()->isExposed();) {
+        if (end.hasExpired())
+            return false;
+        QApplication::processEvents(QEventLoop::AllEvents, 10);
+    }
+    QApplication::processEvents();
+    return true;
 }
 
 } // namespace ZARN

@@ -129,8 +129,8 @@ void frame(benchmark::State& state)
     if (state.range(2) != 0)
         addStatesAndGhost(graph.model());
     graph.model().settings().displayMode = state.range(3) != 0 ? eSplit : eSingleGraph;
-    graph.show();
-    QApplication::processEvents();
+    if (!showOnScreen(graph))
+        return state.SkipWithError("no window on the screen");
     auto* pSurface = graph.findChild<QWidget*>();
     if (!pSurface)
         return state.SkipWithError("no surface");

@@ -35,8 +35,8 @@ void frameOfLibrary(benchmark::State& state)
         pGraph->setPen(QPen(QColor(trace * 8, 90, 255 - trace * 8), 1));
     }
     plot.yAxis->setRange(0, 1);
-    plot.show();
-    QApplication::processEvents();
+    if (!showOnScreen(plot))
+        return state.SkipWithError("no window on the screen");
     const Span window = windowOf(samples, state.range(1) != 0);
     double shift = 0;
     int step = 0;
