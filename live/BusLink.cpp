@@ -11,7 +11,7 @@ namespace ZARN {
 
 namespace {
 
-constexpr int kBatchPeriod = 33;    // milliseconds
+constexpr int kBatchPeriod = 25;    // milliseconds: each picture of 30 a second has something new
 constexpr int kRetryPeriod = 1000;  // milliseconds
 constexpr int kAnswerPeriod = 5000; // milliseconds: some plugins never say that nobody answers
 

@@ -1,7 +1,7 @@
 #include "ui/graph/WidgetGraphBase.h"
 
 #include "app/gui/TextSize.h"
-#include "app/gui/TextTwin.h"
+#include "app/gui/AccessibleText.h"
 #include "ui/graph/model/AxisTicks.h"
 #include "ui/graph/model/GraphDescription.h"
 #include "ui/graph/model/GraphScene.h"
@@ -34,7 +34,7 @@ QString colourName(float red, float green, float blue)
 
 WidgetGraphBase::WidgetGraphBase(QWidget* pParent) : QWidget(pParent), mInteraction(mModel)
 {
-    ZARN::TextTwin::give(*this, [this] { return ZARN::GraphDescription(mModel).text(); });
+    ZARN::AccessibleText::give(*this, [this] { return ZARN::GraphDescription(mModel).text(); });
     setFocusPolicy(Qt::StrongFocus);
     grabGesture(Qt::PinchGesture);
     setMouseTracking(true);
@@ -85,6 +85,7 @@ void WidgetGraphBase::useSurface(ZARN::Surface::EKind kind)
         .failed = [this](const QString&) { useSurface(ZARN::Surface::EKind::ePainter); },
     };
     mpSurface = ZARN::Surface::create(kind, painting, this);
+    mpSurface->widget().setObjectName("graphSurface");
     mpSurface->widget().setGeometry(rect());
     mpSurface->widget().show();
     requestFrame();

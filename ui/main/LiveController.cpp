@@ -28,8 +28,8 @@ namespace ZARN {
 
 namespace {
 
-constexpr qint64 kFrame = 33; // milliseconds from picture to picture
-constexpr qint64 kRest = 3;   // times as long as a picture takes, until the next one
+constexpr qint64 kFrame = 30; // milliseconds from picture to picture: 30 a second and a little more, for no timer is early
+constexpr qint64 kRest = 2;   // times as long as a picture takes, until the next one
 constexpr qint64 kSilenceStep = 1000; // milliseconds in which time goes on while nothing comes
 constexpr double kJustNow = 5.0;      // seconds from the end of an incident
 constexpr double kSecondsOfHour = 3600.0;
@@ -45,6 +45,7 @@ LiveController::LiveController(const Session& session, const Parts& parts, QWidg
     mpBar->hide();
     mTick.setParent(this);
     mTick.setSingleShot(true);
+    mTick.setTimerType(Qt::PreciseTimer);
     mpSpace->setEnabled(false);
     mParts.commands.handle(eActionLive, [this](QAction&) { ask(); });
     connect(&mTick, &QTimer::timeout, this, &LiveController::tick);
@@ -168,7 +169,7 @@ void LiveController::tick()
     if (mIsRunning && isShown() && !mIsPaused)
         passSilence();
     if (mIsRunning || !mIsReviewed)
-        mTick.start(static_cast<int>(std::max(kFrame, kRest * timer.elapsed())));
+        mTick.start(static_cast<int>(std::max(kFrame - timer.elapsed(), kRest * timer.elapsed())));
 }
 
 void LiveController::showNewest()
