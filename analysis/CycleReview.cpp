@@ -2,7 +2,7 @@
 
 #include "analysis/FaultEpisodes.h"
 #include "analysis/FaultWords.h"
-#include "analysis/HeldFixes.h"
+#include "analysis/HeldPositions.h"
 #include "analysis/LampEpisodes.h"
 #include "analysis/LimitScan.h"
 #include "app/Parallel.h"
@@ -195,7 +195,7 @@ void ReviewPass::walkParameters(bool withKeyValues)
     std::vector<KeyValues> keyValues(kWorkers, KeyValues(mPhases, withKeyValues ? mFlights : std::span<const RecordFlight>()));
     inParallel(all.size() + 1, [&](std::size_t i, std::size_t worker) {
         if (i == all.size()) {
-            mReview.heldFixes = heldFixes(mData, mContext);
+            mReview.heldPositions = heldPositions(mData, mContext);
             return;
         }
         if (isLamp(all[i].device))
@@ -346,7 +346,7 @@ CycleReview reviewFlight(const CycleReview& cycle, const CycleValues& values, st
     review.standing = cycle.standing;
     std::erase_if(review.incidents, isOutside);
     std::erase_if(review.standing, isOutside);
-    std::erase_if(review.heldFixes, isOutside);
+    std::erase_if(review.heldPositions, isOutside);
     review.verdict = verdictOn(review);
     return review;
 }

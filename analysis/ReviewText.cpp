@@ -55,8 +55,8 @@ QStringList ReviewText::gaps() const
         gaps << tr("Times of %1 are damaged, some lie behind the end of the record: their values at a time may stand still.")
                     .arg(some(names));
     }
-    if (!mReview.heldFixes.empty())
-        gaps << heldFixes();
+    if (!mReview.heldPositions.empty())
+        gaps << heldPositions();
     if (!mReview.hasAltitude)
         gaps << tr("Climb and descent are unknown, for the profile names no altitude.");
     else if (!mReview.knowsAltitude)
@@ -72,12 +72,12 @@ QString ReviewText::texts(std::span<const TimeSpan> spans) const
     return some(texts);
 }
 
-QString ReviewText::heldFixes() const
+QString ReviewText::heldPositions() const
 {
-    if (mReview.heldFixes.empty())
+    if (mReview.heldPositions.empty())
         return {};
     return tr("The position is not to be trusted %1: what was received then lies more than 10 km from the place before, and is not believed.")
-        .arg(texts(mReview.heldFixes));
+        .arg(texts(mReview.heldPositions));
 }
 
 QString ReviewText::some(const QStringList& names, qsizetype most)

@@ -28,7 +28,7 @@ public:
     /// What was outside, but not while the engine ran, in one line with at most so many names; empty when nothing was.
     [[nodiscard]] QString standing(qsizetype most = kNames) const;
     /// When the position is not that of the aircraft; empty when it always is.
-    [[nodiscard]] QString heldFixes() const;
+    [[nodiscard]] QString heldPositions() const;
     /// How long the engine ran; "unknown".
     [[nodiscard]] QString engineRunning() const;
 

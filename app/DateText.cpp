@@ -4,7 +4,7 @@ namespace ZARN {
 
 QString dateText(const QDate& date)
 {
-    return date.toString("dd.MM.yyyy");
+    return date.toString(kDateFormat);
 }
 
 QString dateTimeText(const QDateTime& dateTime)
@@ -30,6 +30,16 @@ QString tableDateText(const QDateTime& dateTime)
 QString isoDateText(const QDateTime& dateTime)
 {
     return dateTime.toString("yyyy-MM-ddThh:mm:ss");
+}
+
+QString utcDateText(const QDateTime& dateTime)
+{
+    return dateTime.toString("yyyy-MM-ddThh:mm:ss.zzz'Z'");
+}
+
+QString clockText(const QDateTime& dateTime)
+{
+    return dateTime.toString("hh:mm:ss");
 }
 
 } // namespace ZARN

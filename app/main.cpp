@@ -187,13 +187,11 @@ int runWindow(QApplication& application)
     const Session session{console, Property::instance(), Profile::instance(), CardContainer::instance(), Project::instance()};
     const WindowEnvironment environment{cmdLine, DataHandler::instance(), kernel, checkGraphics(console), defaults};
     DialogMain window(session, environment);
-    kernel.setMainWindow(&window);
     application.installEventFilter(&window);
     QObject::connect(&window, &DialogMain::signalStarted, [&marker] { marker.succeed(); });
     splash.finish(&window);
     const int status = QApplication::exec();
     marker.succeed(); // quit before the window had restored anything
-    kernel.setMainWindow(nullptr);
     kernel.finishRestart();
     return status;
 }

@@ -1,6 +1,7 @@
 #include "card/CardContainer.h"
 
 #include "app/Console.h"
+#include "app/DateText.h"
 #include "app/FileName.h"
 #include "app/Progress.h"
 #include "app/TimeText.h"
@@ -378,7 +379,7 @@ void CardContainer::calcFlights(RecordCycle& cycle)
     cycle.flights = FlightDetector(values()).detect(cycle.dateTime);
     for (const RecordFlight& flight : cycle.flights) {
         mConsole.print("Flight %f -> %f <%s>\n", flight.startTime, flight.endTime,
-                       flight.dateTime.toString("hh:mm:ss").toUtf8().constData());
+                       clockText(flight.dateTime).toUtf8().constData());
     }
 }
 

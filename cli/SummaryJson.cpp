@@ -60,7 +60,7 @@ void writeJudgement(JsonWriter& writer, const TrendJudgement& judgement)
     writer.member("unusual", judgement.isUnusual).member("drifting", judgement.isDrifting);
 }
 
-void writeReview(JsonWriter& writer, const CycleReview& review, const std::vector<Unusual>& unusual)
+void writeReview(JsonWriter& writer, const CycleReview& review, const std::vector<UnusualFigure>& unusual)
 {
     writeOptional(writer, "engineRunning", review.engine.duration());
     writer.member("flightTime", review.flightTime);
@@ -75,7 +75,7 @@ void writeReview(JsonWriter& writer, const CycleReview& review, const std::vecto
     writer.endArray();
     writeEpisodes(writer, "standing", review.standing);
     writer.key("unusual").beginArray();
-    for (const Unusual& one : unusual) {
+    for (const UnusualFigure& one : unusual) {
         writer.beginObject().member("flight", one.flight).member("group", one.source.group).member("parameter", one.source.parameter);
         writer.member("unit", one.source.unit).member("phase", phaseKey(one.phase)).member("median", one.median);
         writeJudgement(writer, one.judgement);

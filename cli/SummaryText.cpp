@@ -90,7 +90,7 @@ QLocale english()
     return {QLocale::English, QLocale::UnitedStates};
 }
 
-void appendUnusual(std::vector<std::string>& lines, const std::vector<Unusual>& unusual, const DecodingContext& context)
+void appendUnusual(std::vector<std::string>& lines, const std::vector<UnusualFigure>& unusual, const DecodingContext& context)
 {
     constexpr std::size_t kMost = 4;
     for (std::size_t i = 0; i < std::min(kMost, unusual.size()); ++i) {

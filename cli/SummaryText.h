@@ -1,7 +1,7 @@
 #pragma once
 
 #include "card/RecordCycle.h"
-#include "store/Unusual.h"
+#include "store/UnusualFigure.h"
 
 namespace ZARN {
 
@@ -13,7 +13,7 @@ struct ReviewedCycle {
     double endTime = 0.0;
     bool isEmpty = false; ///< no record was there
     CycleReview review;
-    std::vector<Unusual> unusual; ///< where there is a store to compare with
+    std::vector<UnusualFigure> unusual; ///< where there is a store to compare with
 };
 
 /// A cycle for people, at most a screen: verdict, what it took, its incidents with the worst first. @param context by which it was read

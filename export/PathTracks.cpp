@@ -1,5 +1,7 @@
 #include "export/PathTracks.h"
 
+#include "app/DateText.h"
+
 #include "card/Resampling.h"
 
 #include <algorithm>
@@ -80,7 +82,7 @@ std::string PathTracks::clock(double seconds) const
     if (!hasClock() || !(std::fabs(seconds) <= kLatestTime))
         return {};
     const auto milliseconds = static_cast<qint64>(std::llround(seconds * 1000));
-    return mPowerUp.addMSecs(milliseconds).toString("yyyy-MM-ddThh:mm:ss.zzz'Z'").toStdString();
+    return utcDateText(mPowerUp.addMSecs(milliseconds)).toStdString();
 }
 
 bool PathTracks::isOnEarth(const FlightPathPoint& point)

@@ -2,6 +2,7 @@
 
 #include "report/PaperCanvas.h"
 #include "report/ReportText.h"
+#include "ui/canvas/Palette.h"
 #include "ui/canvas/Triangulation.h"
 #include "ui/overview/model/VerdictSign.h"
 
@@ -191,7 +192,7 @@ void IncidentGraph::draw(PaperCanvas& canvas, const QRectF& place) const
 /// What it leaves out, in the corner that names and times leave free.
 void IncidentGraph::drawNotes(PaperCanvas& canvas, QPointF corner) const
 {
-    const CanvasText style{PaperGraph::kTextSize, Qt::darkGray, false, Qt::AlignLeft | Qt::AlignTop, false};
+    const CanvasText style{PaperGraph::kTextSize, Palette::print().text.quiet, false, Qt::AlignLeft | Qt::AlignTop, false};
     QStringList notes;
     if (mOf)
         notes << tr("the worst of them, at %1").arg(time(*mOf));

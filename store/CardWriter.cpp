@@ -126,7 +126,7 @@ void CardWriter::writeFiles(int64_t card, const CardFacts& facts)
     for (std::size_t i = 0; i < facts.listing.files.size(); ++i) {
         const ListedFile& file = facts.listing.files[i];
         const std::string name = storeText(file.name), &cycle = facts.cycleOfFile[i];
-        insert.with({card, name, file.size, facts.isWhole ? Value(file.mtime) : Value(), textOrNothing(cycle)}).run();
+        insert.with({card, name, file.size, facts.isWhole ? FieldValue(file.mtime) : FieldValue(), textOrNothing(cycle)}).run();
         const auto known = before.find(name);
         if (known == before.end() || cycle.empty() || known->second.cycle == cycle)
             continue;
@@ -187,7 +187,7 @@ void CardWriter::writeEngine(const EngineIdentity& engine)
         .prepared("INSERT INTO engine (engine_id, engine_serial, ecu_serial, engine_type, ecu_type) VALUES (?, ?, ?, ?, ?) "
                   "ON CONFLICT (engine_id) DO UPDATE SET ecu_serial = coalesce(ecu_serial, excluded.ecu_serial), "
                   "engine_type = coalesce(engine_type, excluded.engine_type), ecu_type = coalesce(ecu_type, excluded.ecu_type)")
-        .with({engine.id, textOrNothing(engine.serial), engine.ecuSerial ? Value(*engine.ecuSerial) : Value(), textOrNothing(engine.type),
+        .with({engine.id, textOrNothing(engine.serial), engine.ecuSerial ? FieldValue(*engine.ecuSerial) : FieldValue(), textOrNothing(engine.type),
                textOrNothing(engine.ecuType)})
         .run();
 }

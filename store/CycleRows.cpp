@@ -81,7 +81,7 @@ constexpr StoreTable kTables[eStoreTables] = {
     {"episode", "episodes", kEpisode}, {"key_value", "key_values", kKeyValue},
 };
 
-Value whole(std::size_t number)
+FieldValue whole(std::size_t number)
 {
     return static_cast<int64_t>(number);
 }
@@ -117,7 +117,7 @@ Row flightRow(const CycleFacts& cycle, std::size_t place, const RowIds& ids)
     return row;
 }
 
-Row episodeRow(const CycleFacts& cycle, const Episode& episode, Value id, Value incident)
+Row episodeRow(const CycleFacts& cycle, const Episode& episode, FieldValue id, FieldValue incident)
 {
     const auto& peak = episode.peak;
     return {std::move(id),
@@ -131,22 +131,22 @@ Row episodeRow(const CycleFacts& cycle, const Episode& episode, Value id, Value 
             realOf(episode.start),
             realOf(episode.end),
             textOrNothing(sideKey(episode.side)),
-            peak ? realOf(peak->limit) : Value(),
-            peak ? realOf(peak->value) : Value(),
-            peak ? realOf(episode.peakTime) : Value(),
+            peak ? realOf(peak->limit) : FieldValue(),
+            peak ? realOf(peak->value) : FieldValue(),
+            peak ? realOf(episode.peakTime) : FieldValue(),
             storeText(episode.text)};
 }
 
 void addIncidents(CycleRows& rows, const CycleFacts& cycle, const RowIds& ids)
 {
     std::vector<Row>& episodes = rows[eEpisodeTable];
-    const auto addEpisode = [&](const Episode& episode, const Value& incident) {
+    const auto addEpisode = [&](const Episode& episode, const FieldValue& incident) {
         episodes.push_back(episodeRow(cycle, episode, ids.of(eEpisodeTable, episodes.size()), incident));
     };
     for (const Incident& incident : cycle.review.incidents) {
         std::vector<Row>& incidents = rows[eIncidentTable];
-        const Value id = ids.of(eIncidentTable, incidents.size());
-        const Value flight = incident.flight > 0 ? ids.of(eFlightTable, static_cast<std::size_t>(incident.flight - 1)) : Value();
+        const FieldValue id = ids.of(eIncidentTable, incidents.size());
+        const FieldValue flight = incident.flight > 0 ? ids.of(eFlightTable, static_cast<std::size_t>(incident.flight - 1)) : FieldValue();
         incidents.push_back({id, cycle.head.id, flight, realOf(incident.start), realOf(incident.end), int64_t{incident.state},
                              phaseKey(incident.phase), storeText(incident.title())});
         for (const Episode& episode : incident.episodes)

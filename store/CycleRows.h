@@ -1,7 +1,7 @@
 #pragma once
 
 #include "store/CardFacts.h"
-#include "store/Value.h"
+#include "store/FieldValue.h"
 
 #include <array>
 #include <functional>
@@ -31,9 +31,9 @@ struct StoreTable {
 
 /// How the rows of a cycle name each other.
 struct RowIds {
-    Value card;
+    FieldValue card;
     /// The identifier of the flight, incident or episode at a place of the cycle, from 0.
-    std::function<Value(EStoreTable, std::size_t)> of;
+    std::function<FieldValue(EStoreTable, std::size_t)> of;
 };
 
 using CycleRows = std::array<std::vector<Row>, eStoreTables>;

@@ -98,7 +98,7 @@ Statement& Statement::with(const Row& values)
     sqlite3_reset(mpStatement);
     sqlite3_clear_bindings(mpStatement);
     int place = 0;
-    for (const Value& value : values) {
+    for (const FieldValue& value : values) {
         ++place;
         int code = SQLITE_OK;
         if (const auto* pInteger = std::get_if<int64_t>(&value))
@@ -140,7 +140,7 @@ bool Statement::run()
     return mDatabase.isGood();
 }
 
-Value Statement::value(int column) const
+FieldValue Statement::value(int column) const
 {
     switch (sqlite3_column_type(mpStatement, column)) {
     case SQLITE_INTEGER: return integer(column);

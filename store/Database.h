@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/Value.h"
+#include "store/FieldValue.h"
 
 #include <QCoreApplication>
 
@@ -32,7 +32,7 @@ public:
     bool run();
 
     // The fields of the row, from 0.
-    [[nodiscard]] Value value(int column) const;
+    [[nodiscard]] FieldValue value(int column) const;
     [[nodiscard]] int64_t integer(int column) const;
     [[nodiscard]] double real(int column) const;
     [[nodiscard]] std::string text(int column) const; ///< empty for nothing

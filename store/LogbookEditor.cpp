@@ -12,9 +12,9 @@ namespace ZARN {
 
 namespace {
 
-Value whole(const std::optional<int>& number)
+FieldValue whole(const std::optional<int>& number)
 {
-    return number ? Value(int64_t{*number}) : Value();
+    return number ? FieldValue(int64_t{*number}) : FieldValue();
 }
 
 /// A new one is never one that another program had given and taken back: what it stood for there would be overwritten here.

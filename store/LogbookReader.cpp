@@ -88,7 +88,7 @@ std::vector<LogbookEntry> LogbookReader::entries(std::span<const int64_t> flight
 }
 
 /// With those that were pinned to a copy: times are the same there.
-QString LogbookReader::notesIn(const std::string& cycle, const Value& start, const Value& end)
+QString LogbookReader::notesIn(const std::string& cycle, const FieldValue& start, const FieldValue& end)
 {
     QStringList texts;
     Statement& notes = mDatabase.prepared("SELECT text FROM note WHERE cycle_id = ? AND time BETWEEN ? AND ? ORDER BY time, note_id");

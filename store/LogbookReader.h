@@ -102,7 +102,7 @@ public:
     [[nodiscard]] std::vector<std::string> foldersOf(const std::string& cycle);
 
 private:
-    [[nodiscard]] QString notesIn(const std::string& cycle, const Value& start, const Value& end);
+    [[nodiscard]] QString notesIn(const std::string& cycle, const FieldValue& start, const FieldValue& end);
     void takeCopies(std::vector<LogbookEngine>& engines);
     void readTyped(LogbookEngine& engine);
 

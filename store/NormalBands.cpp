@@ -1,6 +1,6 @@
 #include "store/NormalBands.h"
 
-#include "store/Unusual.h"
+#include "store/UnusualFigure.h"
 
 #include <algorithm>
 #include <array>

@@ -204,7 +204,7 @@ constexpr std::array<uint32_t, 256> crcTable()
 
 } // namespace
 
-void ParquetFields::add(const Value& value)
+void ParquetFields::add(const FieldValue& value)
 {
     defined.push_back(std::holds_alternative<std::monostate>(value) ? 0 : 1);
     if (const auto* pInteger = std::get_if<int64_t>(&value)) {

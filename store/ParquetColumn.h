@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/Value.h"
+#include "store/FieldValue.h"
 
 #include <unordered_map>
 
@@ -21,7 +21,7 @@ struct ParquetFields {
     std::vector<std::string> texts; ///< each once
     std::vector<uint32_t> places;   ///< of a text column: which of the texts
 
-    void add(const Value& value);
+    void add(const FieldValue& value);
     /// Forgets the rows, but not the texts.
     void clear();
 

@@ -181,12 +181,12 @@ ParquetFile::ParquetFile(const std::string& path, std::vector<ParquetColumn> col
 
 ParquetFile::~ParquetFile() = default;
 
-void ParquetFile::addRows(const std::vector<std::vector<Value>>& rows)
+void ParquetFile::addRows(const std::vector<std::vector<FieldValue>>& rows)
 {
     if (rows.empty())
         return;
     std::vector<ParquetFields> fields(mColumns.size());
-    for (const std::vector<Value>& row : rows) {
+    for (const std::vector<FieldValue>& row : rows) {
         for (std::size_t column = 0; column < fields.size(); ++column)
             fields[column].add(row[column]);
     }

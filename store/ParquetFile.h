@@ -22,7 +22,7 @@ public:
     /// Writes a group of rows. @param fields of each column, as many of all
     void addGroup(const std::vector<ParquetFields>& fields);
     /// A table that is short.
-    void addRows(const std::vector<std::vector<Value>>& rows);
+    void addRows(const std::vector<std::vector<FieldValue>>& rows);
     /// @param notes that are kept with the file. @return empty, or "NAME: reason"
     std::string finish(const Notes& notes);
 

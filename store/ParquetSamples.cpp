@@ -137,12 +137,12 @@ std::string ParquetSamples::writeAll(const std::string& path, const ParquetFile:
         std::ranges::for_each(fields, &ParquetFields::clear);
     };
     for (const auto& pTrace : traces.traces()) {
-        const Value parameter = storeText(pTrace->name());
+        const FieldValue parameter = storeText(pTrace->name());
         const bool isNumeric = pTrace->decoder().isNumeric();
         pTrace->forEachSample([&](double time, double number) {
             fields[0].add(parameter);
             fields[1].add(time);
-            fields[2].add(isNumeric ? Value(number) : Value());
+            fields[2].add(isNumeric ? FieldValue(number) : FieldValue());
             if (fields.front().defined.size() == most)
                 flush();
         });

@@ -26,14 +26,14 @@ struct Gap {
     int64_t behind = std::numeric_limits<int64_t>::max();
 };
 
-bool isText(const Value& value)
+bool isText(const FieldValue& value)
 {
     const auto* pText = std::get_if<std::string>(&value);
     return pText && QString::fromStdString(*pText).toStdString() == *pText;
 }
 
 /// Damage may leave a row that can be read, with fields that no store has.
-bool isPlausible(const Value& value, const std::string& type)
+bool isPlausible(const FieldValue& value, const std::string& type)
 {
     if (std::holds_alternative<std::monostate>(value))
         return true;

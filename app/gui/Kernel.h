@@ -11,7 +11,6 @@ class StyleHandler;
 
 namespace ZARN {
 
-class DialogMain;
 class Property;
 
 /// Where the running program is reached as a whole: its application object and its main window, both owned by the main
@@ -27,8 +26,6 @@ public:
     static Kernel& instance();
 
     void setApplication(QApplication* pApplication) { mpApplication = pApplication; }
-    void setMainWindow(DialogMain* pMainWindow) { mpMainWindow = pMainWindow; }
-    [[nodiscard]] DialogMain* mainWindow() const { return mpMainWindow; }
 
     /// Reads a style sheet file and applies it with the font size of the settings.
     void loadStyleFile(const QString& styleFile);
@@ -59,7 +56,6 @@ private:
     QString mStyleFile; ///< that was loaded last
     QString mStyleProblem, mColourProblem;
     QApplication* mpApplication = nullptr;
-    DialogMain* mpMainWindow = nullptr;
     bool mIsStyleMissing = false;
     bool mRestarts = false;
 };

@@ -23,9 +23,12 @@ std::atomic<const Palette*>& screenPalette()
 Palette::Graph graphOf(const ColourTable& table, ColourTable::EMedium medium, const QString& prefix, ColourTable::EMedium traces)
 {
     const auto of = [&](const char* name) { return table.colour(prefix + QLatin1String(name), medium); };
-    Palette::Graph graph{of("Ground"), of("Grid"), of("Label"), of("LabelGround"), {}};
+    Palette::Graph graph{of("Ground"), of("Grid"), of("Label"), of("LabelGround"), {}, {}};
     for (std::size_t i = 0; i < graph.traces.size(); ++i)
         graph.traces[i] = table.colour(QStringLiteral("curve%1").arg(i + 1), traces);
+    const QString dots = graph.ground.lightness() < 128 ? QStringLiteral("dotOnDark%1") : QStringLiteral("dotOnLight%1");
+    for (std::size_t i = 0; i < graph.dots.size(); ++i)
+        graph.dots[i] = table.colour(dots.arg(i + 1), medium);
     return graph;
 }
 
@@ -37,7 +40,7 @@ Palette::Palette(const ColourTable& table, ColourTable::EMedium medium) : graph(
     map = {of("mapWater"), of("mapLand"), of("mapShore"), of("mapRiver"), of("mapCountry"), of("mapPath"), of("mapText"), of("mapTextGround"),
            of("mapGrid"), of("mapGridText"), of("mapFrame"), of("mapAircraft"), of("mapAircraftRim"), of("mapEventRim"), of("mapBegin"), of("mapEnd"),
            of("mapExceeded"), of("mapLimit"), of("mapMarkRim"), of("mapLabel"), of("mapPathDim"), of("mapPathRim"), of("mapWrongFix"), of("mapTown"),
-           of("mapAirfield"), of("mapStripGround"), of("mapSelection"), of("mapUnknown"), {}, {}};
+           of("mapAirfield"), of("mapEvent"), of("mapNote"), of("mapValue"), of("mapValueGround"), of("mapStripGround"), of("mapSelection"), of("mapUnknown"), {}, {}};
     for (std::size_t i = 0; i < map.scale.size(); ++i)
         map.scale[i] = table.colour(QStringLiteral("mapScale%1").arg(i + 1), medium);
     for (std::size_t i = 0; i < map.phases.size(); ++i)

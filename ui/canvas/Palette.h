@@ -18,6 +18,7 @@ struct Palette {
         QColor label;
         QColor labelGround;
         std::array<QColor, 12> traces; ///< in turn
+        std::array<QColor, 4> dots;    ///< of points, from old or little to new or much
     };
     struct Map {
         QColor water, land, shore, river, country; ///< of the ground; the last one between countries
@@ -41,6 +42,9 @@ struct Palette {
         QColor wrongFix;
         QColor town;
         QColor airfield;
+        QColor event; ///< of a profile that gives it no colour
+        QColor note;
+        QColor value, valueGround; ///< beside the map
         QColor stripGround; ///< of the altitude below the map
         QColor selection;
         QColor unknown;               ///< of a place without a value

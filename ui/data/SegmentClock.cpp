@@ -1,6 +1,6 @@
 #include "ui/data/SegmentClock.h"
 
-#include "app/gui/TextTwin.h"
+#include "app/gui/AccessibleText.h"
 
 #include <QPainter>
 
@@ -62,7 +62,7 @@ void paintDots(QPainter& painter, QChar character, const QRectF& box, double thi
 
 SegmentClock::SegmentClock(const char* name, QWidget* pParent) : QFrame(pParent)
 {
-    TextTwin::give(*this, [this] { return mText; });
+    AccessibleText::give(*this, [this] { return mText; });
     setObjectName(name);
     setFrameShape(QFrame::Box);
     setAutoFillBackground(true);

@@ -1,5 +1,6 @@
 #include "ui/logbook/DialogService.h"
 
+#include "app/DateText.h"
 #include "app/gui/FormLayout.h"
 
 #include <QCheckBox>
@@ -48,7 +49,7 @@ DialogService::DialogService(Service service, double hours, const QString& hint,
     mpMonths->setValue(mService.everyMonths.value_or(12));
     mpMonths->setSuffix(tr(" months"));
     mpDoneDate->setCalendarPopup(true);
-    mpDoneDate->setDisplayFormat("dd.MM.yyyy");
+    mpDoneDate->setDisplayFormat(kDateFormat);
     mpDoneDate->setDate(mService.doneDate.isValid() ? mService.doneDate : QDate::currentDate());
     mpDoneHours->setAccessibleName(tr("Engine hours when it was done"));
     mpDoneDate->setAccessibleName(tr("Date when it was done"));

@@ -61,13 +61,18 @@ DialogPreferences::DialogPreferences(const Session& session, Kernel& kernel, QWi
     connect(mpLanguage, &QComboBox::activated, this, [this](int index) { slotLanguage(mpLanguage->itemData(index).toString()); });
     connect(mpPalette, &QComboBox::activated, this, &DialogPreferences::slotPalette);
     connect(mpFontSize, &QSpinBox::valueChanged, this, &DialogPreferences::slotFont);
-    connect(mpFontSize, &QSpinBox::editingFinished, this, &DialogPreferences::slotFontChosen);
-    connect(mpMap, &MapOptions::signalChanged, this, &DialogPreferences::signalTilesChanged);
+    connect(mpFontSize, &QSpinBox::editingFinished, this, &DialogPreferences::slotKeep);
+    connect(mpMap, &MapOptions::signalChanged, this, [this] {
+        mIsUnsaved = true;
+        if (!isVisible())
+            slotKeep(); // a field that was being edited when the window was closed
+        Q_EMIT signalTilesChanged();
+    });
 }
 
 DialogPreferences::~DialogPreferences()
 {
-    slotFontChosen();
+    slotKeep();
 }
 
 QWidget* DialogPreferences::createGeneralPage()
@@ -170,10 +175,10 @@ void DialogPreferences::slotFont(int size)
 {
     mKernel.applyFontSize(size);
     Settings::kFontSize.set(mSession.property, size);
-    mIsUnsaved = true; // the field steps through sizes; a file for each would be a wait for each
+    mIsUnsaved = true;
 }
 
-void DialogPreferences::slotFontChosen()
+void DialogPreferences::slotKeep()
 {
     if (std::exchange(mIsUnsaved, false))
         mSession.property.writeXmlFile();
@@ -181,7 +186,7 @@ void DialogPreferences::slotFontChosen()
 
 void DialogPreferences::hideEvent(QHideEvent* pEvent)
 {
-    slotFontChosen();
+    slotKeep();
     QDialog::hideEvent(pEvent);
 }
 

@@ -16,7 +16,8 @@ class Kernel;
 class MapOptions;
 
 /// The preferences window: language and font size, where the map has its tiles from, and which profile file to use. Every change is in force
-/// at once and written to the settings; the font size when its field or the window is left. The main window owns it.
+/// at once. Language, palette and profile are written to the settings file at once, too, all else when the window is left: font sizes and map
+/// options are tried in turn, and a file for each try would be a wait for each. The main window owns it.
 class DialogPreferences : public QDialog {
     Q_OBJECT
 
@@ -33,9 +34,10 @@ public Q_SLOTS:
     void slotLanguage(const QString& locale);
     /// Applies a palette and keeps it.
     void slotPalette(int palette);
-    /// Applies a font size in pixels; slotFontChosen() keeps it.
+    /// Applies a font size in pixels.
     void slotFont(int size);
-    void slotFontChosen();
+    /// Writes what was changed and not written.
+    void slotKeep();
     void slotProfileSelect();
     /// Puts a profile file in force; one that is none changes nothing, and why it is none is said.
     void slotProfilePath(const QString& path);
@@ -67,7 +69,7 @@ private:
     QComboBox* mpPalette;
     QSpinBox* mpFontSize;
     MapOptions* mpMap;
-    bool mIsUnsaved = false; ///< the font size is another one than in the settings file
+    bool mIsUnsaved = false; ///< something is another than in the settings file
 };
 
 } // namespace ZARN

@@ -9,7 +9,7 @@
 #include "project/RecordSession.h"
 #include "store/CardArchive.h"
 #include "store/CycleIdentity.h"
-#include "store/Unusual.h"
+#include "store/UnusualFigure.h"
 #include "ui/logbook/DialogLogbook.h"
 #include "ui/logbook/model/LogbookTexts.h"
 #include "ui/main/CardController.h"
@@ -45,7 +45,7 @@ constexpr std::size_t kMostUnusual = 5; // sentences of a cycle
 QStringList unusualTexts(StoreReader& store, const CycleHead& head, const CycleOverview& overview, const DecodingContext& context)
 {
     QStringList lines;
-    const std::vector<Unusual> found = findUnusual(store, head, overview.flights, overview.review);
+    const std::vector<UnusualFigure> found = findUnusual(store, head, overview.flights, overview.review);
     for (std::size_t i = 0; i < std::min(found.size(), kMostUnusual); ++i) {
         const QString text = UnusualText(QLocale(), context).sentence(found[i]);
         lines.append(overview.flights.size() > 1 ? LogbookController::tr("flight %1, %2").arg(found[i].flight).arg(text) : text);

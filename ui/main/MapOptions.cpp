@@ -158,7 +158,7 @@ void MapOptions::connectFields()
         connect(pBox, &QSpinBox::editingFinished, this, &MapOptions::keepNumbers);
 }
 
-/// Not with each step: that would be a file, and a walk through all tiles, for each.
+/// Not with each step: that would be a walk through all tiles for each.
 void MapOptions::keepNumbers()
 {
     bool isChanged = false;
@@ -237,7 +237,6 @@ void MapOptions::hideEvent(QHideEvent* pEvent)
 
 void MapOptions::keep()
 {
-    mSession.property.writeXmlFile();
     fill();
     Q_EMIT signalChanged();
 }

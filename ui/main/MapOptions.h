@@ -14,8 +14,8 @@ namespace ZARN {
 
 struct TextSetting;
 
-/// Where the map's tiles come from and how many are kept, as a page of the preferences. Every change is in force at once and written to the
-/// settings. Owned by the preferences window.
+/// Where the map's tiles come from and how many are kept, as a page of the preferences. Every change is in force at once; the preferences
+/// window, which owns it, writes the settings file.
 class MapOptions : public QWidget {
     Q_OBJECT
 

@@ -1,5 +1,6 @@
 #include "ui/map/MapValueTable.h"
 
+#include "ui/canvas/Palette.h"
 #include "ui/canvas/ShortName.h"
 
 #include <QEvent>
@@ -13,7 +14,6 @@ namespace ZARN {
 
 namespace {
 
-const QColor kGround(30, 34, 40);
 constexpr int kPadding = 8; // pixels beside a text in its column
 constexpr int kLeastName = 60;
 
@@ -44,11 +44,12 @@ MapValueTable::MapValueTable(QWidget* pParent) : QTableView(pParent), mpModel(ne
 {
     setObjectName(QStringLiteral("mapValues"));
     setAccessibleName(tr("Values at the view time"));
-    mpModel->setGround(kGround);
+    const Palette::Map& colours = Palette::screen().map; // the same in every palette
+    mpModel->setGround(colours.valueGround);
     setModel(mpModel);
-    setStyleSheet(QStringLiteral("#mapValues {background-color: %1; color: white; border: none; font-weight: bold;} "
+    setStyleSheet(QStringLiteral("#mapValues {background-color: %1; color: %2; border: none; font-weight: bold;} "
                                  "#mapValues::item {padding: 0px 2px;}")
-                      .arg(kGround.name()));
+                      .arg(colours.valueGround.name(), colours.value.name()));
     horizontalHeader()->hide();
     verticalHeader()->hide();
     horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);

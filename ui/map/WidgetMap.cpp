@@ -4,7 +4,7 @@
 #include "app/Property.h"
 #include "app/Revision.h"
 #include "app/Settings.h"
-#include "app/gui/TextTwin.h"
+#include "app/gui/AccessibleText.h"
 #include "card/CardContainer.h"
 #include "openstreet/core/BaseMap.h"
 #include "profile/Profile.h"
@@ -48,7 +48,7 @@ QByteArray userAgent()
 WidgetMap::WidgetMap(const Session& session, const QString& dataPath, MapContext& context, QWidget* pParent)
     : QWidget(pParent), mSession(session), mContext(context), mNavigator(context), mInteraction(mNavigator, mScene)
 {
-    TextTwin::give(*this, [this] { return MapDescription(mScene).text(); });
+    AccessibleText::give(*this, [this] { return MapDescription(mScene).text(); });
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_AcceptTouchEvents);
@@ -293,7 +293,6 @@ void WidgetMap::paintAbove(Canvas& canvas)
 {
     if (!std::exchange(mIsPainting, false))
         mPacer.begin();
-    ++mPaints;
     mScene.style().sources = cornerSize();
     if (!mIsGroundAlone)
         mScene.drawAbove(canvas, mNavigator.camera());

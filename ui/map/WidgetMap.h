@@ -74,9 +74,8 @@ public:
     [[nodiscard]] const MapInteraction& interaction() const { return mInteraction; }
     [[nodiscard]] MapNavigator& navigator() { return mNavigator; }
     [[nodiscard]] OpenStreet::OpenStreetMap& map() { return mMap; }
-    /// How often tiles and path were drawn, and how often the whole picture.
+    /// How often tiles and path were drawn.
     [[nodiscard]] int groundPaints() const { return mGroundPaints; }
-    [[nodiscard]] int paints() const { return mPaints; }
 
 Q_SIGNALS:
     /// The user's moves have switched the following of the aircraft off.
@@ -158,7 +157,6 @@ private:
     bool mIsGroundAlone = false;
     FramePacer mPacer;
     int mGroundPaints = 0;
-    int mPaints = 0;
     QTimer mTimer;
 };
 

@@ -322,14 +322,14 @@ void TestGraphScene::narrowMarkerTable()
     fillFlight(model, 3);
     model.setMarker({500, 1500});
     for (const int room : {130, 80, 40, 20, 3}) { // what has no room beside follows below: every column, once
-        const MarkerSheet sheet(model, room);
+        const MarkerTableCells sheet(model, room);
         std::vector<qsizetype> cells;
         const std::size_t parts = sheet.lines().back().part + 1;
         for (std::size_t part = 0; part < parts; ++part) {
             int width = 0;
             for (const auto& [cell, columnWidth] : sheet.columns(part)) {
                 width += columnWidth;
-                if (cell != MarkerSheet::eName)
+                if (cell != MarkerTableCells::eName)
                     cells.push_back(cell);
             }
             QVERIFY(width <= room || sheet.columns(part).size() <= 3);

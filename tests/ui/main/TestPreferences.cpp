@@ -205,14 +205,17 @@ void TestPreferences::mapTiles()
     Q_EMIT pAddress->editingFinished();
     QCOMPARE(desktop.property.getString("TileServer", ""), std::string("tiles.example.net"));
     QVERIFY(pTiles->isEnabled() && dialog.findChild<QLabel*>("tileServer")->text().contains("tiles.example.net"));
+    const auto isKept = [&home] { return fileContent(home.filePath("data/ZARN.ini").toStdString()).find("MapOffline") != std::string::npos; };
     dialog.findChild<QCheckBox*>("tilesOffline")->click();
-    QVERIFY(desktop.property.getSwitch("MapOffline", false) && changed.size() == 4);
+    QVERIFY(desktop.property.getSwitch("MapOffline", false) && changed.size() == 4 && !isKept()); // no file a click
     auto* pSize = dialog.findChild<QSpinBox*>("tilesSize");
     pSize->setValue(16);
     pSize->stepUp();
     QVERIFY(changed.size() == 4 && desktop.property.getString("MapCacheSize", "none") == "none"); // no file a step
     Q_EMIT pSize->editingFinished();
-    QVERIFY(changed.size() == 5 && desktop.property.getInt("MapCacheSize", 0) == 17);
+    QVERIFY(changed.size() == 5 && desktop.property.getInt("MapCacheSize", 0) == 17 && !isKept());
+    dialog.close();
+    QVERIFY(isKept());
     dialog.findChild<QPushButton*>("tilesEmpty")->click();
     QVERIFY(!QFile::exists(former + "/2.tile"));
 }

@@ -367,7 +367,7 @@ void TestMapScene::cornersAreShared()
     scene.setNote("The server does not answer");
     scene.setPointer(QPointF(100, 100));
     CycleCourse course;
-    course.heldFixes = "Held fixes for a while";
+    course.heldPositions = "Held fixes for a while";
     scene.setCourse(course, {});
     for (const bool imperial : {false, true}) {
         scene.setImperial(imperial);

@@ -24,7 +24,7 @@ CycleCourse CycleCourse::of(const CycleReview& review, const std::vector<RecordF
     for (const Incident& incident : review.incidents)
         course.incidents.push_back({{incident.start, std::max(incident.start, incident.end)}, incident.state,
                                     QString::fromStdString(incident.title()), GraphMoment::of(incident)});
-    course.heldFixes = ReviewText(review).heldFixes();
+    course.heldPositions = ReviewText(review).heldPositions();
     return course;
 }
 

@@ -116,7 +116,7 @@ double GraphLayout::placeTable(const GraphModel& model)
         return 0;
     const double width = std::max(0.0, mSize.width() - 2 * kGap);
     constexpr double kBeside = 6.0 + 5.0; // the swatch, and below the scroll bar nothing stands
-    mSheet = MarkerSheet(model, static_cast<int>((width - kSwatch - kBeside) / mCharacter));
+    mSheet = MarkerTableCells(model, static_cast<int>((width - kSwatch - kBeside) / mCharacter));
     // The headings take a line, and what is said of the lines that have no room another one.
     const auto lines = static_cast<int>(mSheet.lines().size());
     const int room = std::max(3, static_cast<int>(mSize.height() * kTablePart / mLine));

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "ui/graph/model/GraphModel.h"
-#include "ui/graph/model/MarkerSheet.h"
+#include "ui/graph/model/MarkerTableCells.h"
 
 #include <QRectF>
 #include <QSizeF>
@@ -42,7 +42,7 @@ public:
     /// The one next to the plot first; in split mode that of each strip.
     [[nodiscard]] const std::vector<ValueAxis>& axes() const { return mAxes; }
     /// What the marker's table says, and which of its lines are shown.
-    [[nodiscard]] const MarkerSheet& markerSheet() const { return mSheet; }
+    [[nodiscard]] const MarkerTableCells& markerSheet() const { return mSheet; }
     /// Which traces the legend shows where it is a list.
     [[nodiscard]] const VisibleRows& legendRows() const { return mLegendRows; }
 
@@ -101,7 +101,7 @@ private:
     QSizeF mSize;
     QRectF mPlot;
     std::vector<ValueAxis> mAxes;
-    MarkerSheet mSheet;
+    MarkerTableCells mSheet;
     VisibleRows mLegendRows;
     std::vector<QRectF> mStrips; // by slot; empty in a single graph
     double mStripHeight = 0.0;   // of the lowest, before it is rounded to pixels

@@ -19,7 +19,7 @@ void MarkerTable::draw(Canvas& canvas) const
     const QRectF& table = mLayout.table();
     if (table.isEmpty())
         return;
-    const MarkerSheet& sheet = mLayout.markerSheet();
+    const MarkerTableCells& sheet = mLayout.markerSheet();
     const VisibleRows& visible = mLayout.markerSheet().visible();
     double y = table.top();
     for (int i = visible.first; i < visible.first + visible.count; ++i) {
@@ -42,7 +42,7 @@ void MarkerTable::draw(Canvas& canvas) const
     canvas.text(QPointF(table.left() + kSwatch + 6, y + mLayout.line()), text, style(false));
 }
 
-void MarkerTable::drawRow(Canvas& canvas, double y, const MarkerSheet::Row& row, std::size_t part) const
+void MarkerTable::drawRow(Canvas& canvas, double y, const MarkerTableCells::Row& row, std::size_t part) const
 {
     const QRectF& table = mLayout.table();
     if (row.index == mModel.traces().highlighted())
@@ -51,7 +51,7 @@ void MarkerTable::drawRow(Canvas& canvas, double y, const MarkerSheet::Row& row,
     drawCells(canvas, y, row.cells, part);
 }
 
-QColor MarkerTable::colourOf(const MarkerSheet::Row& row) const
+QColor MarkerTable::colourOf(const MarkerTableCells::Row& row) const
 {
     const QColor& colour = mModel.traces().at(row.index)->drawnColour;
     return row.isGhost ? mixed(mModel.colours().labelBackground, colour, kGhostShare) : colour;
@@ -67,13 +67,13 @@ void MarkerTable::drawCells(Canvas& canvas, double y, const QStringList& cells, 
     double x = mLayout.table().left() + kSwatch + 6;
     for (const auto& [cell, columnWidth] : mLayout.markerSheet().columns(part)) {
         const double width = columnWidth * mLayout.character();
-        const QString text = cell == MarkerSheet::eName ? shortName(cells[cell], columnWidth - 1) : cells[cell];
-        CanvasText style = this->style(cell == MarkerSheet::eName);
-        const bool isNumber = cell != MarkerSheet::eName && cell != MarkerSheet::eUnit;
+        const QString text = cell == MarkerTableCells::eName ? shortName(cells[cell], columnWidth - 1) : cells[cell];
+        CanvasText style = this->style(cell == MarkerTableCells::eName);
+        const bool isNumber = cell != MarkerTableCells::eName && cell != MarkerTableCells::eUnit;
         if (isNumber)
             style.align = Qt::AlignRight | Qt::AlignTop;
         if (!text.isEmpty())
-            canvas.text(QPointF(isNumber ? x + width : cell == MarkerSheet::eUnit ? x + mLayout.character() : x, y), text, style);
+            canvas.text(QPointF(isNumber ? x + width : cell == MarkerTableCells::eUnit ? x + mLayout.character() : x, y), text, style);
         x += width;
     }
 }

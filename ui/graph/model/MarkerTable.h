@@ -14,8 +14,8 @@ public:
 
 private:
     void drawCells(Canvas& canvas, double y, const QStringList& cells, std::size_t part) const;
-    void drawRow(Canvas& canvas, double y, const MarkerSheet::Row& row, std::size_t part) const;
-    [[nodiscard]] QColor colourOf(const MarkerSheet::Row& row) const;
+    void drawRow(Canvas& canvas, double y, const MarkerTableCells::Row& row, std::size_t part) const;
+    [[nodiscard]] QColor colourOf(const MarkerTableCells::Row& row) const;
     [[nodiscard]] CanvasText style(bool isBold) const;
 
     const GraphModel& mModel;

@@ -10,8 +10,6 @@ namespace ZARN {
 
 namespace {
 
-constexpr QRgb kNoColour = 0xff606060;
-constexpr QRgb kNoteColour = 0xff2060ff;
 constexpr double kOneDot = 3.0; // pixels by which dots may lie apart that nobody can point at one by one
 
 } // namespace
@@ -20,14 +18,14 @@ void MapEvents::add(const EventList& list)
 {
     mAll.reserve(mAll.size() + list.events().size());
     for (const Event& event : list.events())
-        mAll.push_back({event.time, event.colour.isValid() ? event.colour : QColor(kNoColour), list.text(event), list.source(event).parameter, {}});
+        mAll.push_back({event.time, event.colour, list.text(event), list.source(event).parameter, {}});
 }
 
 void MapEvents::setNotes(const std::vector<CycleNote>& notes)
 {
     mNotes.clear();
     for (const CycleNote& note : notes)
-        mNotes.push_back({note.time, QColor(kNoteColour), note.text.toStdString(), {}, {}});
+        mNotes.push_back({note.time, {}, note.text.toStdString(), {}, {}, true});
 }
 
 bool MapEvents::place(const MapPath& path)
@@ -36,7 +34,7 @@ bool MapEvents::place(const MapPath& path)
     placeAll(mAll, path);
     placeAll(mNotes, path); // above the others: there are few of them
     return !std::ranges::equal(before, mDots, [](const MapEvent& a, const MapEvent& b) {
-        return a.colour == b.colour && a.place.x == b.place.x && a.place.y == b.place.y;
+        return a.colour == b.colour && a.isNote == b.isNote && a.place.x == b.place.x && a.place.y == b.place.y;
     });
 }
 

@@ -15,10 +15,11 @@ namespace ZARN {
 /// An event at the place where the aircraft was then.
 struct MapEvent {
     double time = 0.0;
-    QColor colour;
+    QColor colour; ///< invalid: that of the map
     std::string text;
     std::string parameter; ///< whose samples made it
     OpenStreet::WorldPoint place; ///< relative to the path's origin
+    bool isNote = false;
 };
 
 /// The events of the lists as dots on the path. Those that happened while there was no position have no dot.

@@ -109,7 +109,7 @@ void MapScene::setCourse(const CycleCourse& course, const std::vector<TimeSpan>&
     mPath.setGaps(gaps);
     mWhole.setGaps(gaps);
     mMarks.set(course, mPath);
-    mHeldFixes = course.heldFixes;
+    mHeldPositions = course.heldPositions;
 }
 
 bool MapScene::setTint(PathTint tint)
@@ -252,11 +252,12 @@ void MapScene::drawEvents(Canvas& canvas, const OpenStreet::Camera& camera) cons
         const QPointF middle(start.x + at.x, start.y + at.y);
         if (!QRectF(-kMargin, -kMargin, camera.width() + 2 * kMargin, camera.height() + 2 * kMargin).contains(middle))
             continue;
+        const QRgb colour = (event.isNote ? mStyle.colours.note : event.colour.isValid() ? event.colour : mStyle.colours.event).rgb();
         const auto cell = static_cast<qint64>(middle.x()) / kDotCell * 100000 + static_cast<qint64>(middle.y()) / kDotCell;
-        if (taken.size() >= kMostDots || !taken.insert(cell * 0x1000000 + static_cast<qint64>(event.colour.rgb() & 0xffffffU)).second)
+        if (taken.size() >= kMostDots || !taken.insert(cell * 0x1000000 + static_cast<qint64>(colour & 0xffffffU)).second)
             continue;
         addDisc(rims, outer, middle);
-        addDisc(discs[event.colour.rgb()], inner, middle);
+        addDisc(discs[colour], inner, middle);
     }
     canvas.triangles(rims, mStyle.colours.eventRim);
     for (const auto& [colour, triangles] : discs)
@@ -307,7 +308,7 @@ MapCorners MapScene::corners(const QSizeF& window) const
     result.bar = QRectF(QPointF(0.0, bottom - kTextAboveBar - labelHeight()), QPointF(kMargin + longestBar(window), bottom));
     const QPointF corner(window.width() - kMargin, window.height() - kMargin);
     result.sources = QRectF(corner - QPointF(mStyle.sources.width(), mStyle.sources.height()), mStyle.sources);
-    for (const TextLine& line : linesAbove(window, {PointerText::longest(), mNote, mHeldFixes})) {
+    for (const TextLine& line : linesAbove(window, {PointerText::longest(), mNote, mHeldPositions})) {
         // What is broken into lines may be broken otherwise, too.
         const double width = line.isWhole ? canvasTextSize(line.text, mStyle.textSize, false).width() + kMargin + kLabelPadding : window.width();
         result.words |= QRectF(0.0, line.bottom - labelHeight(), width, labelHeight());
@@ -330,7 +331,7 @@ void MapScene::drawScaleBar(Canvas& canvas, const OpenStreet::Camera& camera) co
     QString pointed;
     if (mPointer)
         pointed = PointerText::at(camera.windowToGeo({mPointer->x(), mPointer->y()}), mPath.isEmpty() ? nullptr : &mAircraft);
-    for (const TextLine& line : linesAbove(sizeOf(camera), {pointed, mNote, mHeldFixes}))
+    for (const TextLine& line : linesAbove(sizeOf(camera), {pointed, mNote, mHeldPositions}))
         drawLabel(canvas, {kMargin, line.bottom}, line.text, Qt::AlignLeft | Qt::AlignBottom, mStyle.textSize);
 }
 

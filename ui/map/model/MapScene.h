@@ -106,7 +106,7 @@ private:
     std::optional<QRectF> mSelection;
     FlightPathPoint mAircraft{};
     QString mNote;
-    QString mHeldFixes;
+    QString mHeldPositions;
     QString mMessage;
     bool mIsImperial = false;
     bool mIsPlain = false;

@@ -19,10 +19,6 @@ constexpr double kMargin = 0.04; // of the values, around them
 constexpr double kBandAlpha = 0.22, kGridAlpha = 0.4;
 constexpr int kScaleSteps = 64;
 
-/// From old or little to new or much: told apart by brightness too, so that nobody has to know hues.
-constexpr QRgb kOnDark[] = {0xff4d7cff, 0xff2bb8c4, 0xff7fd65a, 0xfffde725};
-constexpr QRgb kOnLight[] = {0xff9cb4d8, 0xff3f9aa8, 0xff3d6a9a, 0xff35104f};
-
 ValueSpan spanOf(const XyAxis& axis)
 {
     const double margin = axis.range() > 0 ? axis.range() * kMargin : std::max(std::abs(axis.lower) * kMargin, 1.0);
@@ -59,12 +55,12 @@ QPointF XyScene::placeOf(const XyPoint& point) const
 /// Points come by the hundred thousand: each takes one of these.
 void XyScene::mixColours()
 {
-    const auto& stops = mPalette.graph.ground.lightness() < 128 ? kOnDark : kOnLight;
+    const auto& stops = mPalette.graph.dots;
     for (std::size_t i = 0; i < kColours; ++i) {
         const double place = static_cast<double>(i) / (kColours - 1) * static_cast<double>(std::size(stops) - 1);
         const auto first = std::min(static_cast<std::size_t>(place), std::size(stops) - 2);
         const double part = place - static_cast<double>(first);
-        const QColor a(stops[first]), b(stops[first + 1]);
+        const QColor &a = stops[first], &b = stops[first + 1];
         const auto mixed = [part](int from, int to) { return static_cast<int>(std::lround(from + part * (to - from))); };
         mColours[i] = QColor(mixed(a.red(), b.red()), mixed(a.green(), b.green()), mixed(a.blue(), b.blue()));
     }

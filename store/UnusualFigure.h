@@ -9,7 +9,7 @@
 namespace ZARN {
 
 /// A figure of a flight that is not as it used to be for this engine, in metric units.
-struct Unusual {
+struct UnusualFigure {
     int flight = 0; ///< number, from 1
     KeyValueSource source;
     EFlightPhase phase = EFlightPhase::eGround;
@@ -23,7 +23,7 @@ struct Unusual {
 
 /// Compares the flights of a reviewed cycle with those before them of the same engine in a store, whether the cycle is in it or not.
 /// @param review with key values; @return what is unusual or drifting: the farthest off first
-[[nodiscard]] std::vector<Unusual> findUnusual(StoreReader& store, const CycleHead& cycle, std::span<const RecordFlight> flights,
+[[nodiscard]] std::vector<UnusualFigure> findUnusual(StoreReader& store, const CycleHead& cycle, std::span<const RecordFlight> flights,
                                                const CycleReview& review);
 
 /// Tells it to people.
@@ -34,7 +34,7 @@ public:
     /// @param context whose unit is wanted; where its profile does not know the parameter, figures stay metric
     UnusualText(QLocale locale, DecodingContext context) : mLocale(std::move(locale)), mContext(std::move(context)) {}
     /// "Oil Temperature A in climb 104 °C, in 30 flights before 92 to 97 °C, and drifting"
-    [[nodiscard]] QString sentence(const Unusual& unusual) const;
+    [[nodiscard]] QString sentence(const UnusualFigure& unusual) const;
 
 private:
     QLocale mLocale;

@@ -1,4 +1,4 @@
-#include "ui/graph/model/MarkerSheet.h"
+#include "ui/graph/model/MarkerTableCells.h"
 
 #include "ui/graph/model/GraphModel.h"
 
@@ -14,7 +14,7 @@ constexpr int kLongestLabel = 32; // characters
 
 } // namespace
 
-MarkerSheet::MarkerSheet(const GraphModel& model, int room)
+MarkerTableCells::MarkerTableCells(const GraphModel& model, int room)
 {
     fill(model);
     divide(room);
@@ -24,7 +24,7 @@ MarkerSheet::MarkerSheet(const GraphModel& model, int room)
     }
 }
 
-void MarkerSheet::fill(const GraphModel& model)
+void MarkerTableCells::fill(const GraphModel& model)
 {
     const GraphMarker& marker = model.marker();
     mHeadings = QStringList{QStringLiteral("dt = %1 s").arg(std::abs(marker.end - marker.start), 0, 'f', 3)} + MarkerValues::headers() +
@@ -35,7 +35,7 @@ void MarkerSheet::fill(const GraphModel& model)
                              QStringList{QLatin1Char('[') + integralUnit(value.pParameter->unit) + QLatin1Char(']')}});
 }
 
-int MarkerSheet::widthOf(qsizetype cell) const
+int MarkerTableCells::widthOf(qsizetype cell) const
 {
     qsizetype longest = mHeadings[cell].size();
     for (const Row& row : mRows)
@@ -43,13 +43,13 @@ int MarkerSheet::widthOf(qsizetype cell) const
     return static_cast<int>(longest) + (cell == eUnit ? 1 : 2);
 }
 
-int MarkerSheet::widthOf(const std::vector<Column>& group)
+int MarkerTableCells::widthOf(const std::vector<Column>& group)
 {
     return std::accumulate(group.begin(), group.end(), 0, [](int sum, const Column& column) { return sum + column.width; });
 }
 
 /// A number and its unit stay together.
-void MarkerSheet::divide(int room)
+void MarkerTableCells::divide(int room)
 {
     std::vector<std::vector<Column>> groups;
     int numbers = 0;
@@ -75,7 +75,7 @@ void MarkerSheet::divide(int room)
     }
 }
 
-int MarkerSheet::lineOf(int index) const
+int MarkerTableCells::lineOf(int index) const
 {
     const auto found = std::ranges::find_if(
         mLines, [&](const Line& line) { return line.row >= 0 && mRows[static_cast<std::size_t>(line.row)].index == index; });

@@ -9,7 +9,7 @@ class GraphModel;
 
 /// The cells of the marker's table: a row for each trace, and for what it is compared with. Columns that have no room side by side follow
 /// below as further parts of the table, each with all rows and headings of its own: nothing is hidden.
-class MarkerSheet {
+class MarkerTableCells {
 public:
     struct Row {
         int index = -1; ///< of the trace
@@ -27,9 +27,9 @@ public:
     };
     enum EColumn : qsizetype { eName, eFrom, eTo, eDifference, eMinimum, eMaximum, eMean, eIntegral, eUnit };
 
-    MarkerSheet() = default;
+    MarkerTableCells() = default;
     /// @param room characters that a line has
-    MarkerSheet(const GraphModel& model, int room);
+    MarkerTableCells(const GraphModel& model, int room);
 
     [[nodiscard]] const QStringList& headings() const { return mHeadings; }
     [[nodiscard]] const std::vector<Row>& rows() const { return mRows; }

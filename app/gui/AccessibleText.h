@@ -10,7 +10,7 @@ namespace ZARN {
 
 /// What a drawing shows, in words, for assistive technology: it is put together when it is asked for, since most users never do. The toolkit
 /// then finds it as the description of the widget, which owns it.
-class TextTwin : public QObject {
+class AccessibleText : public QObject {
 public:
     using Text = std::function<QString()>;
 
@@ -19,7 +19,7 @@ public:
     [[nodiscard]] QString text() const { return mText(); }
 
 private:
-    TextTwin(QWidget& widget, Text text);
+    AccessibleText(QWidget& widget, Text text);
 
     Text mText;
 };

@@ -1,4 +1,4 @@
-#include "store/Unusual.h"
+#include "store/UnusualFigure.h"
 
 #include "analysis/IncidentText.h"
 #include "profile/DisplayUnit.h"
@@ -60,7 +60,7 @@ std::vector<Place> placesOf(StoreReader& store, const std::string& engine, const
     return places;
 }
 
-std::vector<Unusual> findUnusual(StoreReader& store, const CycleHead& cycle, std::span<const RecordFlight> flights,
+std::vector<UnusualFigure> findUnusual(StoreReader& store, const CycleHead& cycle, std::span<const RecordFlight> flights,
                                  const CycleReview& review)
 {
     const std::string engine = store.engineOf(cycle.engine.id);
@@ -68,7 +68,7 @@ std::vector<Unusual> findUnusual(StoreReader& store, const CycleHead& cycle, std
     const std::vector<Place> places = placesOf(store, engine, cycle, flights);
     const std::vector<KeyValueSource>& sources = review.keyValues.sources;
     const std::vector<KeyValue> values = toldOf(review.keyValues);
-    std::vector<Unusual> found;
+    std::vector<UnusualFigure> found;
     for (const KeyValue& value : values) {
         const KeyValueSource& source = sources[value.source];
         const auto trend = std::ranges::find_if(trends, [&](const Trend& other) {
@@ -85,11 +85,11 @@ std::vector<Unusual> findUnusual(StoreReader& store, const CycleHead& cycle, std
         if (judgement.isUnusual || judgement.isDrifting)
             found.push_back({value.flight, source, value.phase, value.values.median, judgement});
     }
-    std::ranges::stable_sort(found, std::ranges::greater(), [](const Unusual& one) { return std::abs(one.judgement.z.value_or(0.0)); });
+    std::ranges::stable_sort(found, std::ranges::greater(), [](const UnusualFigure& one) { return std::abs(one.judgement.z.value_or(0.0)); });
     return found;
 }
 
-QString UnusualText::sentence(const Unusual& unusual) const
+QString UnusualText::sentence(const UnusualFigure& unusual) const
 {
     const int decimals = unusual.source.precision;
     const Distribution& band = unusual.judgement.band;

@@ -11,6 +11,6 @@ namespace ZARN {
 /// When a coordinate stands still for longer because what is received lies too far from the last place that was believed: such a fix is
 /// taken for a wrong one, also where the aircraft did go there while nothing was received.
 /// @return in order of time, apart from each other; seconds since power-up
-[[nodiscard]] std::vector<TimeSpan> heldFixes(const RecordData& data, const DecodingContext& context);
+[[nodiscard]] std::vector<TimeSpan> heldPositions(const RecordData& data, const DecodingContext& context);
 
 } // namespace ZARN

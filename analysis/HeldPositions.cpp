@@ -1,4 +1,4 @@
-#include "analysis/HeldFixes.h"
+#include "analysis/HeldPositions.h"
 
 #include "trace/TraceSet.h"
 
@@ -45,7 +45,7 @@ void addHeld(const RecordData& data, const DecodingContext& context, const char*
 
 } // namespace
 
-std::vector<TimeSpan> heldFixes(const RecordData& data, const DecodingContext& context)
+std::vector<TimeSpan> heldPositions(const RecordData& data, const DecodingContext& context)
 {
     std::vector<TimeSpan> held, apart;
     CoordinateFilter filter; // of both: a longitude is judged at the latitude

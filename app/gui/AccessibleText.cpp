@@ -1,4 +1,4 @@
-#include "app/gui/TextTwin.h"
+#include "app/gui/AccessibleText.h"
 
 #include <QAccessibleWidget>
 #include <QWidget>
@@ -9,7 +9,7 @@ namespace {
 
 class DescribedWidget : public QAccessibleWidget {
 public:
-    DescribedWidget(QWidget& widget, const TextTwin& twin) : QAccessibleWidget(&widget, QAccessible::Graphic), mTwin(twin) {}
+    DescribedWidget(QWidget& widget, const AccessibleText& twin) : QAccessibleWidget(&widget, QAccessible::Graphic), mTwin(twin) {}
 
     [[nodiscard]] QString text(QAccessible::Text kind) const override
     {
@@ -17,7 +17,7 @@ public:
     }
 
 private:
-    const TextTwin& mTwin; // a child of the widget: both go together
+    const AccessibleText& mTwin; // a child of the widget: both go together
 };
 
 QAccessibleInterface* make(const QString& /*className*/, QObject* pObject)
@@ -26,7 +26,7 @@ QAccessibleInterface* make(const QString& /*className*/, QObject* pObject)
     if (!pWidget)
         return nullptr;
     for (const QObject* pChild : pWidget->children()) {
-        if (const auto* pTwin = dynamic_cast<const TextTwin*>(pChild))
+        if (const auto* pTwin = dynamic_cast<const AccessibleText*>(pChild))
             return new DescribedWidget(*pWidget, *pTwin);
     }
     return nullptr;
@@ -34,16 +34,16 @@ QAccessibleInterface* make(const QString& /*className*/, QObject* pObject)
 
 } // namespace
 
-TextTwin::TextTwin(QWidget& widget, Text text) : QObject(&widget), mText(std::move(text)) {}
+AccessibleText::AccessibleText(QWidget& widget, Text text) : QObject(&widget), mText(std::move(text)) {}
 
-void TextTwin::give(QWidget& widget, Text text)
+void AccessibleText::give(QWidget& widget, Text text)
 {
     static const bool isInstalled = [] {
         QAccessible::installFactory(make);
         return true;
     }();
     Q_UNUSED(isInstalled)
-    new TextTwin(widget, std::move(text));
+    new AccessibleText(widget, std::move(text));
 }
 
 } // namespace ZARN
