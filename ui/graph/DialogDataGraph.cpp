@@ -169,6 +169,8 @@ void DialogDataGraph::updateRecord(RecordData* pRecord)
 {
     if (!mRecord.updateRecord(pRecord))
         mHistory.clear();
+    showUnshown(); // what was asked for of another record is shown no longer
+    updateSetup();
     findCourse(mRecord.hasRecord());
 }
 
@@ -176,6 +178,8 @@ void DialogDataGraph::updateFlights(RecordData* pRecord)
 {
     if (!mRecord.updateFlights(pRecord))
         mHistory.clear();
+    showUnshown();
+    updateSetup();
     findCourse(mRecord.hasRecord());
 }
 

@@ -84,6 +84,10 @@ DialogCard::DialogCard(const CardContainer& container, QWidget* pParent)
 
     connect(mpCycles, &QTreeWidget::itemSelectionChanged, this, &DialogCard::slotSelectCycle);
     connect(mpRawData, &QTreeWidget::itemSelectionChanged, this, &DialogCard::slotSelect);
+    for (QTreeWidget* pTree : {mpCycles, mpRawData}) {
+        connect(pTree, &QTreeWidget::itemClicked, this, &DialogCard::slotAgain);
+        connect(pTree, &QTreeWidget::itemActivated, this, &DialogCard::slotAgain);
+    }
     connect(mpRawData, &QTreeWidget::itemExpanded, this, &DialogCard::slotExpand);
     connect(mpTimer, &QTimer::timeout, this, &DialogCard::slotTimeout);
     connect(mpCycleTimer, &QTimer::timeout, this, &DialogCard::slotTimeoutLoadCycle);
@@ -272,6 +276,16 @@ void DialogCard::slotSelectCycle()
     mpTimer->stop();
     clearSelection(*mpRawData);
     mpCycleTimer->start();
+}
+
+void DialogCard::slotAgain(QTreeWidgetItem* pItem)
+{
+    if (mContainer.recordData().count() != 0 || !pItem->isSelected())
+        return;
+    if (pItem->treeWidget() == mpCycles)
+        slotSelectCycle();
+    else
+        slotSelect();
 }
 
 void DialogCard::slotTimeoutLoadCycle()

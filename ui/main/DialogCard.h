@@ -59,6 +59,8 @@ private Q_SLOTS:
     void slotExpand(QTreeWidgetItem* pItem);
     void slotSelect();
     void slotSelectCycle();
+    /// Chooses what is chosen already while nothing is loaded: the card may have been put in again.
+    void slotAgain(QTreeWidgetItem* pItem);
     void slotTimeout();
     void slotTimeoutLoadCycle();
 

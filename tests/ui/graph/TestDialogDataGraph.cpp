@@ -167,6 +167,11 @@ void TestDialogDataGraph::showsRecord()
             names << many.model.traces().at(slot)->name;
         QCOMPARE(names.mid(0, 4).join(' '), isOn ? "P1 P2 P0 P3" : "P2 P0 P3 P4");
     }
+    const auto asked = [&many] { return many.dialog.findChild<QLabel*>("unshown")->text().startsWith("Only what was asked for"); };
+    many.dialog.showMoment(GraphMoment::around(10.0, {"P1", "P2", "P3", "P4", "P5", "P6", "P7", "P8", "P9"}));
+    QVERIFY(many.model.traces().count() == 9 && asked());
+    many.dialog.updateRecord(nullptr);
+    QVERIFY(many.model.traces().count() == 30 && !asked());
     Shown shown;
     QCOMPARE(shown.model.traces().count(), 2);
     QVERIFY(!shown.dialog.findChild<QLabel*>("unshown")->isVisible());

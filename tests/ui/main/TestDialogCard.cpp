@@ -100,6 +100,12 @@ void TestDialogCard::quickChoicesLoadTheLast()
     QVERIFY(browser.loaded.isEmpty());
     browser.settle();
     QCOMPARE(browser.loaded, QList<QPoint>{QPoint(3, -1)});
+    browser.click(browser.pCycles, browser.pCycles->currentItem());
+    QVERIFY(!browser.waiting()); // it is there
+    browser.container.forgetRecord(); // its card was taken out
+    browser.click(browser.pCycles, browser.pCycles->currentItem());
+    browser.settle();
+    QCOMPARE(browser.loaded.size(), 2);
 }
 
 void TestDialogCard::flightsUnderTheirCycle()
