@@ -19,6 +19,7 @@ namespace {
 constexpr double kMost = 1e9;
 constexpr double kLongest = 1e6; // seconds
 constexpr int kNameLength = 9;
+constexpr int kDigits = 6; // of a converted value
 constexpr int kValueWidth = 9, kSecondsWidth = 5; // characters
 
 void setWidth(QAbstractSpinBox& box, int characters)
@@ -76,12 +77,12 @@ QWidget* FindForm::createChoices()
     pLayout->addWidget(mpUnit);
     connect(mpParameter, &QComboBox::currentTextChanged, this, &FindForm::chooseParameter);
     connect(mpSide, &QComboBox::currentIndexChanged, this, [this] {
-        if (!mIsTyped)
+        if (!mTyped)
             suggestValue();
         Q_EMIT signalChanged();
     });
     connect(mpValue, &QDoubleSpinBox::valueChanged, this, [this] {
-        mIsTyped = true;
+        mTyped = Typed{mpValue->value(), mContext};
         Q_EMIT signalChanged();
     });
     return pChoices;
@@ -102,7 +103,7 @@ void FindForm::setParameters(std::vector<FindParameter> parameters, const QStrin
     else
         mpParameter->setCurrentIndex(std::max(chosen.isEmpty() ? mpParameter->findText(preferred) : same, 0));
     if (isOtherUnit)
-        mValued.clear(); // the number would mean something else
+        convertValue();
     chooseParameter();
 }
 
@@ -130,7 +131,19 @@ void FindForm::suggestValue()
     const QSignalBlocker quiet(mpValue);
     mpValue->setValue((mpSide->currentIndex() == 0 ? pParameter->upper : pParameter->lower).value_or(0.0));
     mValued = pParameter->name;
-    mIsTyped = false;
+    mTyped.reset();
+}
+
+/// The same in another unit. From what was typed, which comes back whole with its unit; where that cannot be converted the number would mean
+/// something else.
+void FindForm::convertValue()
+{
+    const auto value = mTyped ? FindCondition{mValued, true, mTyped->value}.valueIn(mContext.unit(), mTyped->context) : std::nullopt;
+    if (!value)
+        return mValued.clear();
+    const bool isAsTyped = mContext.unit() == mTyped->context.unit();
+    const QSignalBlocker quiet(mpValue);
+    mpValue->setValue(isAsTyped ? *value : QString::number(*value, 'g', kDigits).toDouble());
 }
 
 QString FindForm::expression() const

@@ -38,6 +38,7 @@ private:
     QWidget* createChoices();
     void chooseParameter();
     void suggestValue();
+    void convertValue();
     [[nodiscard]] const FindParameter* parameter() const;
 
     std::vector<FindParameter> mParameters;
@@ -50,7 +51,12 @@ private:
     QLineEdit* mpExpression;
     DecimalBox* mpSeconds;
     QString mValued;       ///< the parameter that the value belongs to
-    bool mIsTyped = false; ///< the value is the user's own, not the parameter's limit
+    /// The user's own value, where it is not the parameter's limit.
+    struct Typed {
+        double value = 0.0;
+        DecodingContext context; ///< in whose unit
+    };
+    std::optional<Typed> mTyped;
 };
 
 } // namespace ZARN

@@ -19,8 +19,10 @@
 #include <QAbstractItemView>
 #include <QAction>
 #include <QComboBox>
+#include <QDoubleSpinBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QStackedWidget>
 #include <QTableWidget>
 #include <QToolButton>
 
@@ -55,6 +57,7 @@ class TestFind : public QObject {
 private Q_SLOTS:
     void conditions_data();
     void conditions();
+    void unitOfTheValue();
     void hits();
     void curves_data();
     void curves();
@@ -81,6 +84,24 @@ void TestFind::conditions()
     QFETCH(FindCondition, condition);
     QTEST(condition.expression(metric), "metric");
     QTEST(condition.expression(metric.in(EUnit::eImperial)), "imperial"); // without a conversion nobody can tell
+}
+
+void TestFind::unitOfTheValue()
+{
+    const Curves curves;
+    const DecodingContext& metric = curves.card.context;
+    FindForm form;
+    const auto show = [&](EUnit unit) {
+        const DecodingContext context = metric.in(unit);
+        form.setParameters(FindParameter::all(*curves.card.pRecord, context), "x", context);
+        return form.expression();
+    };
+    show(EUnit::eImperial);
+    QDoubleSpinBox* pValue = form.findChild<QStackedWidget*>()->findChild<QDoubleSpinBox*>();
+    pValue->setValue(240.0);
+    QCOMPARE(show(EUnit::eMetric), QString("\"x\" > 115.556")); // the user's 240 F
+    show(EUnit::eImperial);
+    QCOMPARE(pValue->value(), 240.0);
 }
 
 void TestFind::hits()

@@ -42,21 +42,27 @@ std::vector<FindParameter> FindParameter::all(const RecordData& data, const Deco
     return found;
 }
 
-QString FindCondition::expression(const DecodingContext& context) const
+std::optional<double> FindCondition::valueIn(EUnit unit, const DecodingContext& context) const
 {
     const ProfileParameter* pParameter = context.model().find(parameter.toStdString());
-    const bool hasQuote = parameter.contains('"');
-    if (!pParameter || (hasQuote && parameter.contains('\'')))
-        return {};
-    double metric = value;
-    if (context.unit() == EUnit::eImperial) {
+    if (!pParameter)
+        return std::nullopt;
+    double converted = value;
+    if (unit != context.unit()) {
         const UnitConversion conversion = context.model().conversion(*pParameter);
-        metric = (value - conversion.offset) / conversion.factor;
+        converted = unit == EUnit::eImperial ? value * conversion.factor + conversion.offset : (value - conversion.offset) / conversion.factor;
     }
-    if (!std::isfinite(metric))
+    return std::isfinite(converted) ? std::optional(converted) : std::nullopt;
+}
+
+QString FindCondition::expression(const DecodingContext& context) const
+{
+    const std::optional<double> metric = valueIn(EUnit::eMetric, context);
+    const bool hasQuote = parameter.contains('"');
+    if (!metric || (hasQuote && parameter.contains('\'')))
         return {};
     const QChar quote = hasQuote ? '\'' : '"';
-    return quote + parameter + quote + (isAbove ? QStringLiteral(" > ") : QStringLiteral(" < ")) + QString::number(metric, 'g', 15);
+    return quote + parameter + quote + (isAbove ? QStringLiteral(" > ") : QStringLiteral(" < ")) + QString::number(*metric, 'g', 15);
 }
 
 } // namespace ZARN

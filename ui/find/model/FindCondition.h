@@ -27,6 +27,8 @@ struct FindCondition {
     bool isAbove = true;
     double value = 0.0; ///< in the display unit
 
+    /// The value in metric or imperial units; none where the profile has no such parameter or its unit cannot be converted.
+    [[nodiscard]] std::optional<double> valueIn(EUnit unit, const DecodingContext& context) const;
     /// The same as a formula, whose values are metric; empty where none can say it: the profile has no such parameter, its name cannot be
     /// quoted, or its unit cannot be turned back.
     [[nodiscard]] QString expression(const DecodingContext& context) const;
