@@ -38,6 +38,8 @@ public:
     bool nativeGesture(const QNativeGestureEvent& event);
     /// Another path: a click that is waiting meant the one before.
     void forgetClick() { mClick.stop(); }
+    /// Whether a click has picked a time, which it tells unless it becomes a double click.
+    [[nodiscard]] bool hasPicked() const { return mClick.isActive(); }
 
     /// What is to be told of a place of the window: its events, else the time of the path there; empty for nothing.
     [[nodiscard]] QString textAt(const QPointF& place, const TimeReference& times) const;
