@@ -30,7 +30,7 @@ struct CycleReview {
     std::size_t withSamples = 0;      ///< those of which a sample was watched
     std::vector<std::string> missing; ///< names of the others, in the profile's order
     std::vector<std::string> damaged; ///< names of those with damaged times between sound ones, in the profile's order
-    std::vector<TimeSpan> heldPositions;  ///< a coordinate stands still, for what is received lies too far away
+    std::vector<TimeSpan> heldPositions; ///< a coordinate stands still, for what is received lies too far away
     std::vector<Incident> incidents;  ///< by start
     std::vector<Episode> standing;    ///< by start: outside, but not while the engine ran
     std::vector<FlightPhases::Step> phases;

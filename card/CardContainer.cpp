@@ -378,8 +378,7 @@ void CardContainer::calcFlights(RecordCycle& cycle)
 {
     cycle.flights = FlightDetector(values()).detect(cycle.dateTime);
     for (const RecordFlight& flight : cycle.flights) {
-        mConsole.print("Flight %f -> %f <%s>\n", flight.startTime, flight.endTime,
-                       clockText(flight.dateTime).toUtf8().constData());
+        mConsole.print("Flight %f -> %f <%s>\n", flight.startTime, flight.endTime, clockText(flight.dateTime).toUtf8().constData());
     }
 }
 

@@ -61,7 +61,7 @@ std::vector<Place> placesOf(StoreReader& store, const std::string& engine, const
 }
 
 std::vector<UnusualFigure> findUnusual(StoreReader& store, const CycleHead& cycle, std::span<const RecordFlight> flights,
-                                 const CycleReview& review)
+                                       const CycleReview& review)
 {
     const std::string engine = store.engineOf(cycle.engine.id);
     const std::vector<Trend> trends = store.trends(engine);

@@ -24,7 +24,7 @@ struct UnusualFigure {
 /// Compares the flights of a reviewed cycle with those before them of the same engine in a store, whether the cycle is in it or not.
 /// @param review with key values; @return what is unusual or drifting: the farthest off first
 [[nodiscard]] std::vector<UnusualFigure> findUnusual(StoreReader& store, const CycleHead& cycle, std::span<const RecordFlight> flights,
-                                               const CycleReview& review);
+                                                     const CycleReview& review);
 
 /// Tells it to people.
 class UnusualText {

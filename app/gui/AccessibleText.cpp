@@ -9,15 +9,15 @@ namespace {
 
 class DescribedWidget : public QAccessibleWidget {
 public:
-    DescribedWidget(QWidget& widget, const AccessibleText& twin) : QAccessibleWidget(&widget, QAccessible::Graphic), mTwin(twin) {}
+    DescribedWidget(QWidget& widget, const AccessibleText& text) : QAccessibleWidget(&widget, QAccessible::Graphic), mText(text) {}
 
     [[nodiscard]] QString text(QAccessible::Text kind) const override
     {
-        return kind == QAccessible::Description ? mTwin.text() : QAccessibleWidget::text(kind);
+        return kind == QAccessible::Description ? mText.text() : QAccessibleWidget::text(kind);
     }
 
 private:
-    const AccessibleText& mTwin; // a child of the widget: both go together
+    const AccessibleText& mText; // a child of the widget: both go together
 };
 
 QAccessibleInterface* make(const QString& /*className*/, QObject* pObject)
@@ -26,8 +26,8 @@ QAccessibleInterface* make(const QString& /*className*/, QObject* pObject)
     if (!pWidget)
         return nullptr;
     for (const QObject* pChild : pWidget->children()) {
-        if (const auto* pTwin = dynamic_cast<const AccessibleText*>(pChild))
-            return new DescribedWidget(*pWidget, *pTwin);
+        if (const auto* pText = dynamic_cast<const AccessibleText*>(pChild))
+            return new DescribedWidget(*pWidget, *pText);
     }
     return nullptr;
 }

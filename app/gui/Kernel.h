@@ -13,8 +13,8 @@ namespace ZARN {
 
 class Property;
 
-/// Where the running program is reached as a whole: its application object and its main window, both owned by the main
-/// function, and what concerns all of it: its style and its restart. The program's own object lives until the process ends.
+/// Where the running program is reached as a whole: its application object, owned by the main function, and what concerns all of it: its
+/// style and its restart. The program's own object lives until the process ends.
 class Kernel {
 public:
     /// Starts a program with arguments on its own, independent of this process.

@@ -40,7 +40,8 @@ Palette::Palette(const ColourTable& table, ColourTable::EMedium medium) : graph(
     map = {of("mapWater"), of("mapLand"), of("mapShore"), of("mapRiver"), of("mapCountry"), of("mapPath"), of("mapText"), of("mapTextGround"),
            of("mapGrid"), of("mapGridText"), of("mapFrame"), of("mapAircraft"), of("mapAircraftRim"), of("mapEventRim"), of("mapBegin"), of("mapEnd"),
            of("mapExceeded"), of("mapLimit"), of("mapMarkRim"), of("mapLabel"), of("mapPathDim"), of("mapPathRim"), of("mapWrongFix"), of("mapTown"),
-           of("mapAirfield"), of("mapEvent"), of("mapNote"), of("mapValue"), of("mapValueGround"), of("mapStripGround"), of("mapSelection"), of("mapUnknown"), {}, {}};
+           of("mapAirfield"), of("mapEvent"), of("mapNote"), of("mapValue"), of("mapValueGround"), of("mapStripGround"), of("mapSelection"),
+           of("mapUnknown"), {}, {}};
     for (std::size_t i = 0; i < map.scale.size(); ++i)
         map.scale[i] = table.colour(QStringLiteral("mapScale%1").arg(i + 1), medium);
     for (std::size_t i = 0; i < map.phases.size(); ++i)
