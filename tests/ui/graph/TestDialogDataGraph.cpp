@@ -173,19 +173,16 @@ void TestDialogDataGraph::showsRecord()
     many.dialog.updateRecord(nullptr);
     QVERIFY(many.model.traces().count() == 30 && !asked());
     Shown shown;
-    QCOMPARE(shown.model.traces().count(), 2);
-    QVERIFY(!shown.dialog.findChild<QLabel*>("unshown")->isVisible());
+    QVERIFY(shown.model.traces().count() == 2 && !shown.dialog.findChild<QLabel*>("unshown")->isVisible());
     QCOMPARE(shown.model.traces().at(0)->samples.size(), 1001U);
     QCOMPARE(shown.model.traces().at(1)->samples.size(), 1000U); // without the value that is no number
-    QCOMPARE(shown.model.window().begin(), -100.0);
-    QCOMPARE(shown.model.window().end(), 1100.0);
+    QVERIFY(shown.model.window().begin() == -100.0 && shown.model.window().end() == 1100.0);
     QCOMPARE(shown.model.cursor().time, shown.container.startTime());
     QCOMPARE(shown.model.traces().at(0)->bands.size(), 1U);
 
     shown.profile.setSelected("P0", false); // the other moves up, and takes its samples along
     shown.dialog.updateProfile();
-    QCOMPARE(shown.model.traces().count(), 1);
-    QCOMPARE(shown.model.traces().at(0)->name, "P1");
+    QVERIFY(shown.model.traces().count() == 1 && shown.model.traces().at(0)->name == "P1");
     QCOMPARE(shown.model.traces().at(0)->samples.value(7), 12.0);
     QCOMPARE(shown.model.window().begin(), -100.0);
     shown.profile.clearSelection();
