@@ -66,7 +66,10 @@ QWidget* DialogLogbook::createHead()
     auto* pExport = new QPushButton(tr("Export table ..."));
     pExport->setToolTip(tr("The flights that are shown, as a CSV or PDF file"));
     pExport->setAutoDefault(false);
+    pExport->setObjectName("exportFlights");
+    pExport->setEnabled(false);
     connect(pExport, &QPushButton::clicked, this, &DialogLogbook::exportFlights);
+    connect(&mpFlights->model(), &LogbookModel::signalSelected, pExport, [this, pExport] { pExport->setEnabled(!mpFlights->model().flights().empty()); });
     auto* pHead = new QWidget;
     auto* pRow = new QHBoxLayout(pHead);
     pRow->setContentsMargins(0, 0, 0, 0);

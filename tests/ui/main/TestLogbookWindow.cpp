@@ -62,11 +62,14 @@ void TestLogbookWindow::logbook()
     for (QWidget* pWidget : QApplication::topLevelWidgets())
         pLogbook = qobject_cast<DialogLogbook*>(pWidget) ? qobject_cast<DialogLogbook*>(pWidget) : pLogbook;
     QVERIFY(pLogbook && pLogbook->isVisible());
+    const auto* pExport = pLogbook->findChild<QPushButton*>("exportFlights");
+    QVERIFY(!pExport->isEnabled()); // there is nothing yet
     auto* pTable = pLogbook->findChild<QTableView*>("flights");
     const QAbstractItemModelTester tester(pTable->model(), QAbstractItemModelTester::FailureReportingMode::QtTest);
     const auto text = [pTable](int row, int column) { return pTable->model()->index(row, column).data().toString(); };
     QTRY_COMPARE_WITH_TIMEOUT(pTable->model()->rowCount(), 2, 60000);
     QTRY_COMPARE(text(0, LogbookModel::eCard), QString("Card, cycle 2, flight 2"));
+    QVERIFY(pExport->isEnabled());
 
     // A flight is opened where its card is, and out of the archive when that is gone.
     QTRY_COMPARE_WITH_TIMEOUT(QDir(home.filePath("archive/DEMO-000001")).entryList({QString(64, '?')}, QDir::Dirs).size(), 3, 30000);
