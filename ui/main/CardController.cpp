@@ -140,7 +140,10 @@ bool CardController::showFolder(const QString& folder, bool isRead)
         }
         return false;
     }
+    if (mSession.container.recordData().count() != 0)
+        Q_EMIT signalDataChanging(); // of another card: nothing of it may be shown or noted under this one's name
     mSession.container.adopt(*mpDraft);
+    mSession.container.forgetRecord();
     mBrowser.reloadCardInfo();
     mIsLoaded = false;
     mProblem = mSession.container.recordFiles().empty()

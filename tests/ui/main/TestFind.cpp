@@ -62,6 +62,9 @@ private Q_SLOTS:
     void curves_data();
     void curves();
     void window();
+
+private:
+    static void anotherCard(DialogMain& window, const QString& card);
 };
 
 void TestFind::conditions_data()
@@ -204,7 +207,6 @@ void TestFind::window()
     QVERIFY(!desktop.profile.isSelected("EGT 1 A")); // the ticks are the user's
     QTest::keyClick(pBar, Qt::Key_Escape);
     QVERIFY(pBar->isHidden() && graph.scenery().found().empty());
-
     // From an event to its parameter, around it.
     window.findChild<DataTabBar*>()->setCurrentIndex(eViewLimits);
     auto* pEvents = window.findChild<DialogDataLimit*>()->findChild<QTableWidget*>();
@@ -217,8 +219,8 @@ void TestFind::window()
 
     window.action(eActionXy)->trigger();
     auto* pCurves = window.findChild<DialogXy*>();
-    QTRY_VERIFY(pCurves->view().points().points().size() > 100);
     const XyPoints& points = pCurves->view().points();
+    QTRY_VERIFY(points.points().size() > 100);
     const XyScene scene(points, Palette::light(), pCurves->view().size(),
                         std::max(QFontInfo(pCurves->view().font()).pixelSize() - 1.0, 8.0));
     const XyPoint& last = points.points().back();
@@ -227,6 +229,18 @@ void TestFind::window()
     QVERIFY(time);
     QTest::mouseClick(&pCurves->view(), Qt::LeftButton, {}, place);
     QCOMPARE(pData->viewTime(), std::nextafter(*time, HUGE_VAL));
+    anotherCard(window, desktop.container.path());
+}
+
+/// Nothing of the card before is left under its name.
+void TestFind::anotherCard(DialogMain& window, const QString& card)
+{
+    const XyPoints& points = window.findChild<DialogXy*>()->view().points();
+    window.openFolder(card);
+    QTRY_VERIFY(!window.action(eActionFind)->isEnabled() && !window.action(eActionXy)->isEnabled() && !window.action(eActionNote)->isEnabled());
+    QTRY_VERIFY(points.points().empty());
+    QVERIFY(window.findChild<WidgetGraphES*>()->model().scenery().message().startsWith("No record"));
+    QVERIFY(window.findChild<DialogDataLimit*>()->eventCount() == 0);
 }
 
 QTEST_MAIN(TestFind)
