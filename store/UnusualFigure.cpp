@@ -104,4 +104,14 @@ QString UnusualText::sentence(const UnusualFigure& unusual) const
     return unusual.judgement.isUnusual ? tr("%1, and drifting").arg(text) : tr("%1, drifting").arg(text);
 }
 
+QStringList UnusualText::sentences(std::span<const UnusualFigure> figures, bool namesFlights, std::size_t most) const
+{
+    QStringList lines;
+    for (const UnusualFigure& figure : figures.first(std::min(figures.size(), most)))
+        lines.append(namesFlights ? tr("flight %1, %2").arg(figure.flight).arg(sentence(figure)) : sentence(figure));
+    if (figures.size() > most)
+        lines.append(tr("%1 more figures; the trends in the logbook have them all").arg(figures.size() - most));
+    return lines;
+}
+
 } // namespace ZARN

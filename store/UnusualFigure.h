@@ -35,6 +35,8 @@ public:
     UnusualText(QLocale locale, DecodingContext context) : mLocale(std::move(locale)), mContext(std::move(context)) {}
     /// "Oil Temperature A in climb 104 °C, in 30 flights before 92 to 97 °C, and drifting"
     [[nodiscard]] QString sentence(const UnusualFigure& unusual) const;
+    /// Of the first so many figures, with the numbers of their flights when wanted, and how many more there are.
+    [[nodiscard]] QStringList sentences(std::span<const UnusualFigure> figures, bool namesFlights, std::size_t most) const;
 
 private:
     QLocale mLocale;

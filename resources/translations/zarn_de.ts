@@ -137,17 +137,6 @@
     </message>
 </context>
 <context>
-    <name>LogbookController</name>
-    <message>
-        <source>flight %1, %2</source>
-        <translation>Flug %1, %2</translation>
-    </message>
-    <message>
-        <source>%1 more figures; the trends in the logbook have them all</source>
-        <translation>%1 weitere Werte; die Trends im Logbuch haben alle</translation>
-    </message>
-</context>
-<context>
     <name>OpenStreet::BaseMap</name>
     <message>
         <source>The map of coasts and rivers is damaged: a plainer one is shown</source>
@@ -5635,6 +5624,14 @@ Kreuzen Sie im Profilfeld einen Parameter an oder wählen Sie einen anderen Zykl
     <message>
         <source>%1, drifting</source>
         <translation>%1, driftet</translation>
+    </message>
+    <message>
+        <source>flight %1, %2</source>
+        <translation>Flug %1, %2</translation>
+    </message>
+    <message>
+        <source>%1 more figures; the trends in the logbook have them all</source>
+        <translation>%1 weitere Werte; die Trends im Logbuch haben alle</translation>
     </message>
 </context>
 <context>

@@ -58,6 +58,8 @@ class TestTranslations(unittest.TestCase):
             found = list(messages(ts))
             self.assertGreater(len(found), 10 if isEnglish(ts) else 1000, 'the sources were not read')
             self.assertIn('ZARN::DialogData', {context for context, *_ in found}, 'contexts must carry the namespace')
+            lost = [name for name, *_ in found if any(other.endswith('::' + name) for other, *_ in found)]
+            self.assertEqual(lost, [], 'the program asks for these in the context with the namespace')
             missing = [f'{context}: {source!r}' for context, source, state, forms in found if state or not all(forms)]
             self.assertEqual(missing, [], f'{os.path.basename(ts)}: run the target update_translations and translate')
 

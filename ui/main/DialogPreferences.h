@@ -16,8 +16,8 @@ class Kernel;
 class MapOptions;
 
 /// The preferences window: language and font size, where the map has its tiles from, and which profile file to use. Every change is in force
-/// at once. Language, palette and profile are written to the settings file at once, too, all else when the window is left: font sizes and map
-/// options are tried in turn, and a file for each try would be a wait for each. The main window owns it.
+/// at once. Language, palette and profile are written to the settings file at once, too, all else when the window, or the field of the font
+/// size, is left: font sizes and map options are tried in turn, and a file for each try would be a wait for each. The main window owns it.
 class DialogPreferences : public QDialog {
     Q_OBJECT
 

@@ -44,15 +44,8 @@ constexpr std::size_t kMostUnusual = 5; // sentences of a cycle
 /// What of a cycle the store finds unusual, in sentences.
 QStringList unusualTexts(StoreReader& store, const CycleHead& head, const CycleOverview& overview, const DecodingContext& context)
 {
-    QStringList lines;
     const std::vector<UnusualFigure> found = findUnusual(store, head, overview.flights, overview.review);
-    for (std::size_t i = 0; i < std::min(found.size(), kMostUnusual); ++i) {
-        const QString text = UnusualText(QLocale(), context).sentence(found[i]);
-        lines.append(overview.flights.size() > 1 ? LogbookController::tr("flight %1, %2").arg(found[i].flight).arg(text) : text);
-    }
-    if (found.size() > kMostUnusual)
-        lines.append(LogbookController::tr("%1 more figures; the trends in the logbook have them all").arg(found.size() - kMostUnusual));
-    return lines;
+    return UnusualText(QLocale(), context).sentences(found, overview.flights.size() > 1, kMostUnusual);
 }
 
 } // namespace

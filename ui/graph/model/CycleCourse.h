@@ -23,7 +23,7 @@ struct CycleCourse {
     std::vector<TimeSpan> flights; ///< from take-off to landing
     std::vector<TimeSpan> figured; ///< flights with what is before and after them: what their figures are of
     std::vector<Mark> incidents;   ///< by start
-    QString heldPositions;             ///< when the position is not that of the aircraft; empty when it always is
+    QString heldPositions;         ///< when the position is not that of the aircraft; empty when it always is
 
     [[nodiscard]] static CycleCourse of(const CycleReview& review, const std::vector<RecordFlight>& flights);
     /// Reads all of the cycle.
