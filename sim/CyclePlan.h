@@ -20,18 +20,18 @@ struct TowPlan {
 
 /// What happens between switching the aircraft's power on and off.
 struct CyclePlan {
-    bool clock = true;           ///< false: no satellites are received, so no file gets a date
-    bool generatorFails = false; ///< generator 1 stops some time after the start
+    QDateTime powerUp{};         ///< UTC
+    std::uint64_t seed = 0;      ///< of everything random within this cycle
+    double windSpeed = 3;        ///< m/s
+    double windFrom = 250;       ///< degrees
+    double temperature = 18;     ///< degrees Celsius at the airfield
+    double qnh = 1018;           ///< hPa
     double warmUp = 360;         ///< s
     double groundRun = 0;        ///< s at power on the ground; 0: none
     double engineWarmth = 0;     ///< 0 cold ... 1 just stopped
+    bool clock = true;           ///< false: no satellites are received, so no file gets a date
+    bool generatorFails = false; ///< generator 1 stops some time after the start
     std::vector<TowPlan> tows{};
-    QDateTime powerUp{};    ///< UTC
-    std::uint64_t seed = 0; ///< of everything random within this cycle
-    double windSpeed = 3;   ///< m/s
-    double windFrom = 250;  ///< degrees
-    double temperature = 18; ///< degrees Celsius at the airfield
-    double qnh = 1018;       ///< hPa
 };
 
 /// Plans one power cycle after the other: a ground run, a flight cycle of two tows and a short run without a clock, then
@@ -47,8 +47,6 @@ public:
     CyclePlan next(double previousSeconds);
 
 private:
-    CyclePlan story();
-    CyclePlan towingDay();
     void advanceClock(double previousSeconds);
 
     RandomSource mRandom;

@@ -42,10 +42,9 @@ public:
     std::string write();
 
 private:
-    bool prepare();
-    bool writeCycles();
-    bool writeCycle(const Sim::CyclePlan& plan, double& seconds);
-    bool save(std::string& bytes);
+    void prepare();
+    double writeCycle(const Sim::CyclePlan& plan);
+    void save(std::string& bytes);
     void publish();
     static std::string fileName(unsigned number) { return '/' + RecordWriter::fileName(number); }
 
@@ -59,21 +58,24 @@ private:
 
 std::string CardDraft::write()
 {
-    if (prepare()) {
-        if (writeCycles())
-            publish();
-        std::error_code ignored;
-        std::filesystem::remove_all(mAside, ignored);
-    }
+    if (!(mOptions.hours >= 0 && mOptions.hours <= kMostHours))
+        return "hours: must be a number from 0 to 10000";
+    prepare();
+    if (!mError.empty())
+        return mError;
+    Sim::CyclePlanner planner(mOptions.seed);
+    double seconds = 0;
+    for (int cycle = 0; mError.empty() && (cycle < Sim::CyclePlanner::kStoryCycles || mLogBook.recordedSeconds < mOptions.hours * 3600); ++cycle)
+        seconds = writeCycle(planner.next(seconds));
+    if (mError.empty())
+        publish();
+    std::error_code ignored;
+    std::filesystem::remove_all(mAside, ignored);
     return mError;
 }
 
-bool CardDraft::prepare()
+void CardDraft::prepare()
 {
-    if (!(mOptions.hours >= 0 && mOptions.hours <= kMostHours)) {
-        mError = "hours: must be a number from 0 to 10000";
-        return false;
-    }
     std::error_code reason;
     std::filesystem::create_directories(mDirectory, reason);
     std::string first; // by name, of those that are in the way
@@ -88,66 +90,51 @@ bool CardDraft::prepare()
     }
     if (reason || !first.empty())
         mError = mDirectory + ": " + (reason ? reason.message() : "holds the record file " + first + " already");
-    return mError.empty();
 }
 
-bool CardDraft::writeCycles()
+/// @return the seconds that the cycle lasted.
+double CardDraft::writeCycle(const Sim::CyclePlan& plan)
 {
-    Sim::CyclePlanner planner(mOptions.seed);
-    double seconds = 0;
-    for (int cycle = 0; cycle < Sim::CyclePlanner::kStoryCycles || mLogBook.recordedSeconds < mOptions.hours * 3600; ++cycle) {
-        if (!writeCycle(planner.next(seconds), seconds))
-            return false;
-    }
-    return true;
-}
-
-bool CardDraft::writeCycle(const Sim::CyclePlan& plan, double& seconds)
-{
-    // Filled up before each cycle that flies.
     if (!plan.tows.empty())
         mLogBook.fuelLeft = mLogBook.fuelRight = 48;
     Sim::FlightModel model(plan, mLogBook);
     Sim::MessageSchedule schedule;
-    Sim::RandomSource random(plan.seed ^ 0xC0FFEE);
+    Sim::RandomSource random(~plan.seed);
     RecordWriter writer(mOptions.bigEndian);
     const std::uint64_t firstStep = 24 + random.below(12); // the recorder needs some seconds before it records
     std::uint64_t step = 0;
-    for (; model.step(); ++step) {
-        if (step < firstStep)
-            continue;
-        if ((step - firstStep) % kFileSteps == 0) {
-            if (step > firstStep && !save(writer.bytes()))
-                return false;
+    for (; mError.empty() && model.step(); ++step) {
+        if (step >= firstStep && (step - firstStep) % kFileSteps == 0) {
+            if (step > firstStep)
+                save(writer.bytes());
             putHeader(plan, mOptions.seed, step, step == firstStep, writer);
         }
-        schedule.write(step, model.snapshot(), random, writer);
+        if (step >= firstStep)
+            schedule.write(step, model.snapshot(), random, writer);
     }
-    seconds = static_cast<double>(step) * Sim::kStep;
-    return save(writer.bytes());
+    if (mError.empty())
+        save(writer.bytes());
+    return static_cast<double>(step) * Sim::kStep;
 }
 
 /// Writes the next file and leaves no bytes of it.
-bool CardDraft::save(std::string& bytes)
+void CardDraft::save(std::string& bytes)
 {
     SafeFile file(mAside + fileName(++mFileNumber));
     if (!file.open() || !file.write(bytes) || !file.commit())
         mError = file.error();
     bytes.clear();
-    return mError.empty();
 }
 
 void CardDraft::publish()
 {
-    for (unsigned number = 1; number <= mFileNumber; ++number) {
-        std::error_code reason;
+    std::error_code reason, ignored;
+    for (unsigned number = 1; number <= mFileNumber && !reason; ++number) {
         std::filesystem::rename(mAside + fileName(number), mDirectory + fileName(number), reason);
-        if (reason) {
+        if (reason)
             mError = mDirectory + fileName(number) + ": " + reason.message();
-            while (--number > 0)
-                std::filesystem::remove(mDirectory + fileName(number), reason);
-            return;
-        }
+        for (unsigned done = 1; reason && done < number; ++done)
+            std::filesystem::remove(mDirectory + fileName(done), ignored);
     }
 }
 

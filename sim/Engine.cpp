@@ -1,4 +1,4 @@
-#include "sim/Systems.h"
+#include "sim/Situation.h"
 
 #include <algorithm>
 
@@ -21,12 +21,9 @@ constexpr std::array<double, 4> kCylinderOffset{-12, 8, -4, 15};
 
 double interpolate(const Curve& curve, double x)
 {
-    for (std::size_t i = 1; i < curve.size(); ++i) {
-        const auto& [a, b] = std::pair(curve[i - 1], curve[i]);
-        if (x <= b.x)
-            return a.y + (b.y - a.y) * std::max(0.0, x - a.x) / (b.x - a.x);
-    }
-    return curve.back().y;
+    const Point* const b = std::find_if(curve.begin() + 1, curve.end() - 1, [x](const Point& point) { return x <= point.x; });
+    const Point* const a = b - 1;
+    return a->y + (b->y - a->y) * std::clamp((x - a->x) / (b->x - a->x), 0.0, 1.0);
 }
 
 /// Lets a value follow its target with a lag of so many seconds.
@@ -35,72 +32,71 @@ void follow(double& value, double target, double lag)
     value += (target - value) * std::min(1.0, kStep / lag);
 }
 
-void stepSpeedAndAir(const Situation& now, Engine& engine)
+void stepSpeedAndAir(const Situation& now, Snapshot& values)
 {
+    double* const engine = values.lane(0);
     const bool running = now.leg.engine;
-    const bool bothLanes = now.leg.laneOn[0] && now.leg.laneOn[1];
-    double speed = now.isCranking() ? 260 : 0;
-    double pressure = now.ambientPressure;
-    engine.boostTarget = now.ambientPressure;
-    if (running) {
-        speed = interpolate(kSpeedCurve, now.throttle) - (bothLanes ? 0 : 95);
-        pressure = interpolate(kPressureCurve, now.throttle) + (now.incidents.overboost ? 145 : 0);
-        engine.boostTarget = std::max(now.ambientPressure, interpolate(kPressureCurve, now.throttle) + 25);
-    }
-    follow(engine.speed, speed, running ? 0.7 : 0.4);
-    if (engine.speed < 1)
-        engine.speed = 0;
-    follow(engine.manifoldPressure, pressure, 0.6);
-    follow(engine.boostPressure, std::max(now.ambientPressure, pressure + 30), 0.8);
-    const double power = engine.speed / kFullSpeed * (engine.manifoldPressure - 250) / (kFullPressure - 250);
-    engine.relativePower = running ? std::max(0.0, power) : 0;
-    engine.fuelFlow = running ? 3.2 + 36 * engine.relativePower : 0;
+    const double air = values[ePressure];
+    const double curve = interpolate(kPressureCurve, now.throttle);
+    const double pressure = running ? curve + (now.incidents.overboost ? 145 : 0) : air;
+    const double oneLane = now.leg.laneOn[0] && now.leg.laneOn[1] ? 0 : 95;
+    follow(engine[eEngineSpeed], running ? interpolate(kSpeedCurve, now.throttle) - oneLane : (now.isCranking() ? 260 : 0), running ? 0.7 : 0.4);
+    if (engine[eEngineSpeed] < 1)
+        engine[eEngineSpeed] = 0;
+    follow(engine[eManifoldPressure], pressure, 0.6);
+    follow(engine[eBoostPressure], std::max(air, pressure + 30), 0.8);
+    engine[eBoostTarget] = running ? std::max(air, curve + 25) : air;
+    const double power = engine[eEngineSpeed] / kFullSpeed * (engine[eManifoldPressure] - 250) / (kFullPressure - 250);
+    values[eRelativePower] = running ? 100 * std::max(0.0, power) : 0;
+    values[eTotalFlow] = running ? 3.2 + 0.36 * values[eRelativePower] : 0;
 }
 
-void stepTemperatures(const Situation& now, Engine& engine)
+void stepTemperatures(Situation& now, double* engine)
 {
     const bool running = now.leg.engine;
-    const double air = now.outsideTemperature;
-    const double power = engine.relativePower;
-    follow(engine.overheating, now.incidents.hot ? 1 : 0, 60);
-    const double heat = engine.overheating;
-    for (std::size_t cylinder = 0; cylinder < engine.egt.size(); ++cylinder) {
-        const double hot = cylinder == 1 ? 112 * heat : 0;
-        follow(engine.egt[cylinder], running ? 570 + 285 * std::min(1.1, power) + kCylinderOffset[cylinder] + hot : air, running ? 6 : 110);
+    const double air = now.values[eAirTemperature];
+    const double power = now.values[eRelativePower] / 100;
+    follow(now.overheating, now.incidents.hot ? 1 : 0, 60);
+    for (std::size_t cylinder = 0; cylinder < kCylinderOffset.size(); ++cylinder) {
+        const double hot = cylinder == 1 ? 112 * now.overheating : 0;
+        const double target = 570 + 285 * std::min(1.1, power) + kCylinderOffset[cylinder] + hot;
+        follow(engine[eEgts + cylinder], running ? target : air, running ? 6 : 110);
     }
-    follow(engine.coolant, running ? air + 50 + 26 * power + 44 * heat : air, running ? 105 : 1500);
-    follow(engine.oilTemperature, running ? air + 47 + 36 * power + 8 * heat : air, running ? 150 : 1800);
-    follow(engine.manifoldTemperature, running ? air + 9 + 26 * power + 6 * heat : air + 4, 25);
+    follow(engine[eCoolant], running ? air + 50 + 26 * power + 44 * now.overheating : air, running ? 105 : 1500);
+    follow(engine[eOilTemperature], running ? air + 47 + 36 * power + 8 * now.overheating : air, running ? 150 : 1800);
+    follow(engine[eManifoldTemperature], running ? air + 9 + 26 * power + 6 * now.overheating : air + 4, 25);
 }
 
-void stepPressures(const Situation& now, Engine& engine)
+void stepLiquids(const Situation& now, double* engine)
 {
-    double oil = engine.speed > 100 ? 0.5 : 0;
-    if (engine.speed > 600)
-        oil = std::clamp(1.95 + (engine.speed - 1750) / 3700 * 2.6 - (engine.oilTemperature - 80) * 0.011, 1.65, 5.3);
-    follow(engine.oilPressure, oil, 1.2);
+    const double speed = engine[eEngineSpeed];
+    double oil = speed > 100 ? 0.5 : 0;
+    if (speed > 600)
+        oil = std::clamp(1.95 + (speed - 1750) / 3700 * 2.6 - (engine[eOilTemperature] - 80) * 0.011, 1.65, 5.3);
+    follow(engine[eOilPressure], oil, 1.2);
     const bool pumping = now.leg.engine || now.isCranking();
-    follow(engine.fuelPressure, pumping ? 3.05 : 0, pumping ? 0.8 : 7);
+    follow(engine[eFuelPressure], pumping ? 3.05 : 0, pumping ? 0.8 : 7);
 }
 
 } // namespace
 
-Engine restingEngine(double warmth, double outsideTemperature, double ambientPressure)
+void restEngine(Situation& now)
 {
-    Engine engine;
-    engine.manifoldPressure = engine.boostPressure = engine.boostTarget = ambientPressure;
-    engine.coolant = outsideTemperature + 45 * warmth;
-    engine.oilTemperature = outsideTemperature + 40 * warmth;
-    engine.manifoldTemperature = outsideTemperature + 12 * warmth;
-    engine.egt.fill(outsideTemperature + 60 * warmth);
-    return engine;
+    double* const engine = now.values.lane(0);
+    now.values[eMainBus] = 12.7;
+    const double air = now.plan.temperature, warmth = now.plan.engineWarmth;
+    engine[eManifoldPressure] = engine[eBoostPressure] = now.values[ePressure];
+    engine[eCoolant] = air + 45 * warmth;
+    engine[eOilTemperature] = air + 40 * warmth;
+    engine[eManifoldTemperature] = air + 12 * warmth;
+    std::fill_n(engine + eEgts, kCylinderOffset.size(), air + 60 * warmth);
 }
 
 void stepEngine(Situation& now)
 {
-    stepSpeedAndAir(now, now.engine);
-    stepTemperatures(now, now.engine);
-    stepPressures(now, now.engine);
+    stepSpeedAndAir(now, now.values);
+    stepTemperatures(now, now.values.lane(0));
+    stepLiquids(now, now.values.lane(0));
 }
 
 } // namespace ZARN::Sim

@@ -1,4 +1,4 @@
-#include "sim/Systems.h"
+#include "sim/Situation.h"
 
 #include <algorithm>
 
@@ -10,11 +10,6 @@ constexpr double kLiftOffSpeed = 29; // m/s through the air
 constexpr double kFlareHeight = 6;
 constexpr double kGlideSlope = 0.09;
 constexpr double kAimingPoint = 60; // m beyond the start of the runway
-const double kRunwaySine = std::sin(kRunwayHeading * kRadian);
-const double kRunwayCosine = std::cos(kRunwayHeading * kRadian);
-
-// The round of a tow: straight out, then a wide left-hand circuit; after the last the round goes on from the second.
-constexpr std::array<RunwayPoint, 6> kTowWaypoints{{{2600, 0}, {3600, 2200}, {2000, 4200}, {-1500, 4200}, {-3500, 2000}, {-2500, -900}}};
 
 double wrap(double degrees)
 {
@@ -26,49 +21,29 @@ double approach(double value, double target, double most)
     return value + std::clamp(target - value, -most, most);
 }
 
-RunwayPoint placeOf(const Motion& motion)
-{
-    return {motion.east * kRunwaySine + motion.north * kRunwayCosine, motion.north * kRunwaySine - motion.east * kRunwayCosine};
-}
-
 /// A point stays within reach of the tightest turn, or the aircraft would circle about it for ever.
 bool isNear(const Motion& motion, RunwayPoint target)
 {
-    const RunwayPoint here = placeOf(motion);
-    return std::hypot(target.along - here.along, target.left - here.left) < (motion.airborne ? 500 : 13);
+    return std::hypot(target.along - motion.place.along, target.left - motion.place.left) < (motion.airborne ? 500 : 13);
 }
 
-double headingTo(const Motion& motion, RunwayPoint target)
-{
-    const RunwayPoint here = placeOf(motion);
-    return wrap(kRunwayHeading - std::atan2(target.left - here.left, target.along - here.along) / kRadian);
-}
-
-double wantedClimb(const Motion& motion, const Leg& leg, double lift)
+double wantedClimb(const Motion& motion, const Leg& leg)
 {
     if (leg.phase != EPhase::eFinal)
-        return leg.climb + lift;
+        return leg.climb + motion.lift.value;
     if (motion.height < kFlareHeight)
         return -0.9;
-    const double onSlope = std::max(0.0, (kAimingPoint - placeOf(motion).along) * kGlideSlope);
+    const double onSlope = std::max(0.0, (kAimingPoint - motion.place.along) * kGlideSlope);
     return std::clamp(-motion.speed * kGlideSlope + 0.2 * (onSlope - motion.height), -4.5, 0.5);
 }
 
-double wantedHeading(Motion& motion, const Leg& leg)
+/// Degrees that the heading is to change by.
+double wantedTurn(const Motion& motion, const Leg& leg)
 {
-    const double left = placeOf(motion).left;
-    switch (leg.steer) {
-    case ESteer::eHold: break;
-    case ESteer::eRunway:
-        return kRunwayHeading + (motion.airborne ? std::clamp(left * 0.3, -45.0, 45.0) : std::clamp(left * 2, -20.0, 20.0));
-    case ESteer::eTarget: return headingTo(motion, leg.target);
-    case ESteer::eTowCircuit:
-        if (isNear(motion, kTowWaypoints[motion.waypoint]))
-            motion.waypoint = motion.waypoint + 1 < kTowWaypoints.size() ? motion.waypoint + 1 : 1;
-        return headingTo(motion, kTowWaypoints[motion.waypoint]);
-    case ESteer::eRightTurn: return motion.heading + 30;
-    }
-    return motion.heading;
+    const RunwayPoint here = motion.place;
+    const double toRunway = motion.airborne ? std::clamp(here.left * 0.3, -45.0, 45.0) : std::clamp(here.left * 2, -20.0, 20.0);
+    const double toTarget = -std::atan2(leg.target.left - here.left, leg.target.along - here.along) / kRadian;
+    return wrap(kRunwayHeading + (leg.steer == ESteer::eTarget ? toTarget : toRunway) - motion.heading + 180.0) - 180.0;
 }
 
 void steer(Situation& now)
@@ -76,11 +51,9 @@ void steer(Situation& now)
     Motion& motion = now.motion;
     const double most = motion.airborne ? 6 : 25;
     const double hardest = motion.airborne ? 3 : 60; // degrees a second, a second: an aircraft has to bank first
-    double wanted = 0;
-    if (motion.speed >= 0.2) {
-        const double turn = wrap(wantedHeading(motion, now.leg) - motion.heading + 180.0) - 180.0;
-        wanted = std::clamp(turn * 0.8, -most, most);
-    }
+    double wanted = now.leg.turn;
+    if (now.leg.steer != ESteer::eTurn && motion.speed >= 0.2)
+        wanted = std::clamp(wantedTurn(motion, now.leg) * 0.8, -most, most);
     motion.turnRate = approach(motion.turnRate, wanted, hardest * kStep);
     motion.heading = wrap(motion.heading + motion.turnRate * kStep);
     motion.headWind = now.plan.windSpeed * std::cos((now.plan.windFrom - motion.heading) * kRadian);
@@ -96,13 +69,13 @@ void accelerate(Motion& motion, const Leg& leg, double throttle)
     motion.speed = approach(motion.speed, leg.speed - (motion.airborne ? motion.headWind : 0), most * kStep);
 }
 
-void climb(Motion& motion, const Leg& leg, double lift)
+void climb(Motion& motion, const Leg& leg)
 {
     if (!motion.airborne) {
         motion.climb = 0;
         return;
     }
-    motion.climb = approach(motion.climb, wantedClimb(motion, leg, lift), 0.9 * kStep);
+    motion.climb = approach(motion.climb, wantedClimb(motion, leg), 0.9 * kStep);
     motion.height += motion.climb * kStep;
     if (motion.height <= 0) {
         motion.height = 0;
@@ -112,23 +85,18 @@ void climb(Motion& motion, const Leg& leg, double lift)
 
 } // namespace
 
-Motion parkedMotion()
-{
-    return {.east = kParking.along * kRunwaySine - kParking.left * kRunwayCosine,
-            .north = kParking.along * kRunwayCosine + kParking.left * kRunwaySine,
-            .heading = 350};
-}
-
-void stepMotion(Situation& now, RandomSource& random)
+void stepMotion(Situation& now)
 {
     Motion& motion = now.motion;
     steer(now);
     accelerate(motion, now.leg, now.throttle);
     if (now.leg.phase == EPhase::eTow)
         motion.airborne = true;
-    climb(motion, now.leg, motion.lift.step(random));
-    motion.east += motion.speed * std::sin(motion.heading * kRadian) * kStep;
-    motion.north += motion.speed * std::cos(motion.heading * kRadian) * kStep;
+    motion.lift.step(kStep, now.random);
+    climb(motion, now.leg);
+    const double course = (motion.heading - kRunwayHeading) * kRadian;
+    motion.place.along += motion.speed * std::cos(course) * kStep;
+    motion.place.left -= motion.speed * std::sin(course) * kStep;
 }
 
 bool isLegEnded(const Situation& now, double seconds)

@@ -10,13 +10,12 @@ enum class EPhase { eGround, eCranking, eTakeOffRoll, eTow, eReturn, eFinal, eRo
 /// What ends a leg: its time, its target, a height climbed or sunk to, leaving the ground, touching it, a speed slowed to.
 enum class ELegEnd { eTime, ePoint, eClimbedTo, eSunkTo, eLiftOff, eTouchDown, eSlowedTo };
 
-/// How a leg is steered: not at all, along the runway, to its target, round the waypoints of the tow, by a steady right turn.
-enum class ESteer { eHold, eRunway, eTarget, eTowCircuit, eRightTurn };
+/// How a leg is steered: by its turn alone, along the runway, to its target.
+enum class ESteer { eTurn, eRunway, eTarget };
 
 /// A place in metres from the start of the runway: along it in the direction of take-off, and to the left of it.
 struct RunwayPoint {
-    double along = 0;
-    double left = 0;
+    double along = 0, left = 0;
 };
 
 /// One piece of what the pilot does.
@@ -25,8 +24,9 @@ struct Leg {
     ELegEnd end = ELegEnd::eTime;
     double limit = 0;    ///< seconds, metres of height or m/s, as the end asks
     double throttle = 0; ///< percent
-    ESteer steer = ESteer::eHold;
+    ESteer steer = ESteer::eTurn;
     RunwayPoint target{};
+    double turn = 0;  ///< degrees a second to the right
     double speed = 0; ///< m/s over ground on the ground, through the air in flight
     double climb = 0; ///< m/s
     bool laneOn[2] = {true, true};

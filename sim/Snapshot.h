@@ -25,7 +25,7 @@ enum ELaneValue : std::uint32_t {
     eEngineSpeed, eManifoldPressure, eThrottle, eBoostPressure, eBoostTarget, eIgnitionTiming, eInjectionTime, eInjectionDuty, eLambda,
     eFuelFlow, eEgts, eCoolant = 14, eOilTemperature, eOilPressure, eManifoldTemperature, eFuelPressure, eAmbientPressure,
     eControlTemperature, eSupplyVoltage, eInjectorVoltage, eWastegate, eKnock, eFuelTrim, eLoad, eState, eWarning, eFuelMap,
-    eSensorEgt3 = 34, eSeconds = 38, eTriggerErrors
+    eSensorEgt3 = 34, eSeconds = 38, eTriggerErrors, eLaneValues
 };
 
 enum ELamp : std::uint32_t {
@@ -36,8 +36,8 @@ enum ELamp : std::uint32_t {
 // States of a lane.
 constexpr double kOff = 0, kSelfTest = 1, kStandby = 2, kActive = 3, kDegraded = 4;
 
-/// Everything that the units of the aircraft send, at one instant, by identifier and in the metric units of the profile; zeros until
-/// they know. Enumerations, counters and words of bits are whole numbers; lamps are 0 off, 1 yellow, 2 red.
+/// Everything that the units of the aircraft know at one instant, by identifier and in the metric units of the profile, before a sensor's
+/// noise is added; zeros until they know. Enumerations, counters and words of bits are whole numbers; lamps are 0 off, 1 yellow, 2 red.
 struct Snapshot : std::array<double, eIdentifierEnd> {
     Snapshot() : array{} {}
     /// The values of lane 0 or 1.

@@ -1,4 +1,4 @@
-#include "sim/Systems.h"
+#include "sim/Situation.h"
 
 #include <algorithm>
 
@@ -13,28 +13,27 @@ constexpr double kRed = 2;
 void judgeLamps(const Situation& now, Snapshot& values)
 {
     double* const lamps = &values[eLamps];
-    const double *a = values.lane(0), *b = values.lane(1);
-    /// A value that must not grow too large; one that must not grow too small is judged by its negative.
-    const auto judge = [lamps](ELamp lamp, double value, double warning, double limit, double hysteresis) {
-        const double lit = lamps[lamp];
-        const bool red = value >= limit - (lit >= kRed ? hysteresis : 0);
-        lamps[lamp] = red ? kRed : (value >= warning - (lit >= kYellow ? hysteresis : 0) ? kYellow : 0);
-    };
-    judge(eCoolantLamp, values[eMeanCoolant], 110, 120, 1.5);
-    judge(eOilTemperatureLamp, values[eMeanOilTemperature], 120, 130, 1.5);
-    judge(eEgtLamp, values[eHighestEgt], 920, 950, 8);
-    judge(eBoostLamp, values[eMeanManifoldPressure], 1500, 1560, 12);
-    judge(eOilPressureLamp, -values[eLowestOilPressure], -1.5, -0.8, 0.08);
+    /// Of a value that must not grow too large; one that must not grow too small is judged by its negative.
+    const auto judge = [](double value, double warning, double limit) { return value >= limit ? kRed : (value >= warning ? kYellow : 0); };
+    const bool running = now.leg.engine;
     // The starter pulls the voltage down; the unit does not look while it turns and shortly after.
-    const bool starting = now.isCranking() || (now.leg.engine && now.runningSeconds < 5);
-    judge(eVoltageLamp, starting ? -12.6 : -values[eMainBus], -12.2, -11.5, 0.15);
-    judge(eReserveLamp, -std::min(values[eFuelLeft], values[eFuelRight]), -15, -8, 0.5);
-    judge(eFuelPressureLamp, now.leg.engine ? -std::min(a[eFuelPressure], b[eFuelPressure]) : -3, -2.8, -2.5, 0.05);
+    const bool starting = now.isCranking() || (running && now.runningSeconds < 5);
+    lamps[eCoolantLamp] = judge(values[eMeanCoolant], 110, 120);
+    lamps[eOilTemperatureLamp] = judge(values[eMeanOilTemperature], 120, 130);
+    lamps[eEgtLamp] = judge(values[eHighestEgt], 920, 950);
+    lamps[eBoostLamp] = judge(values[eMeanManifoldPressure], 1500, 1560);
+    lamps[eOilPressureLamp] = judge(-values[eLowestOilPressure], -1.5, -0.8);
+    lamps[eVoltageLamp] = starting ? 0 : judge(-values[eMainBus], -12.2, -11.5);
+    lamps[eReserveLamp] = judge(-std::min(values[eFuelLeft], values[eFuelRight]), -15, -8);
+    lamps[eFuelPressureLamp] = running ? judge(-values.lane(0)[eFuelPressure], -2.8, -2.5) : 0;
     lamps[eGeneratorLamp] = now.incidents.generator ? kYellow : 0;
     for (const std::size_t lane : {0, 1}) {
         const double state = values.lane(lane)[eState];
         lamps[eLampA + lane] = state == kOff ? kRed : (state == kDegraded ? kYellow : 0);
     }
+    // The master warning repeats the lamps that tell of something while the engine runs.
+    lamps[eMaster] = std::max({lamps[eCoolantLamp], lamps[eOilTemperatureLamp], lamps[eEgtLamp], lamps[eBoostLamp], lamps[eGeneratorLamp],
+                               lamps[eFuelPressureLamp]});
 }
 
 void judgeLane(const Situation& now, std::size_t lane, Snapshot& values)
@@ -72,15 +71,11 @@ void judgeLane(const Situation& now, std::size_t lane, Snapshot& values)
 
 } // namespace
 
-void judgeWarnings(const Situation& now, Snapshot& values)
+void judgeWarnings(Situation& now)
 {
-    judgeLamps(now, values);
-    judgeLane(now, 0, values);
-    judgeLane(now, 1, values);
-    // The master warning repeats the lamps that tell of something while the engine runs.
-    double* const lamps = &values[eLamps];
-    lamps[eMaster] = std::max({lamps[eCoolantLamp], lamps[eOilTemperatureLamp], lamps[eEgtLamp], lamps[eBoostLamp],
-                               lamps[eGeneratorLamp], lamps[eFuelPressureLamp]});
+    judgeLamps(now, now.values);
+    judgeLane(now, 0, now.values);
+    judgeLane(now, 1, now.values);
 }
 
 } // namespace ZARN::Sim

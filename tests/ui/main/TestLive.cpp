@@ -192,7 +192,7 @@ void TestLive::looksBack()
     // What happened meanwhile is told, and shown with a click.
     auto* pBar = desktop.main.findChild<LiveBar*>();
     const auto* pIncidents = pBar->findChild<QLabel*>("liveIncidents");
-    QTRY_VERIFY_WITH_TIMEOUT(pIncidents->text().contains("Manifold Pressure 1,587 hPa"), 20000);
+    QTRY_VERIFY_WITH_TIMEOUT(pIncidents->text().contains("Manifold Pressure 1,586 hPa"), 20000);
     Q_EMIT pBar->signalIncident(0);
     QTRY_VERIFY(pData->viewTime() > 20.0 && pData->graphSpan()->holds(pData->viewTime()));
     desktop.pLive->setPaused(false);

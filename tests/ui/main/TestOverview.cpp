@@ -63,7 +63,7 @@ void TestOverview::demoCard()
     // An incident is shown whole, with its parameters and a margin, at its worst moment.
     const auto rows = cards()[1]->findChildren<WidgetIncidentRow*>();
     QCOMPARE(rows.size(), 3);
-    QVERIFY2(rows[0]->accessibleName().startsWith("12:26, Manifold Pressure 1,587 hPa"), qPrintable(rows[0]->accessibleName()));
+    QVERIFY2(rows[0]->accessibleName().startsWith("12:18, Manifold Pressure 1,586 hPa"), qPrintable(rows[0]->accessibleName()));
     rows[0]->setFocus();
     QTest::keyClick(rows[0], Qt::Key_Return);
     settled(window);
