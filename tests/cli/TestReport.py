@@ -124,7 +124,7 @@ class TestReport(unittest.TestCase):
 
     def test_one_flight(self):
         lines = self.report('--cycle', '2', '--flight', '2', '--unit', 'imperial')
-        self.assertTrue(any('EGT 2: 1,775 °F, limit 1,742, for 2 min 38 s within 3 min 37 s' in line for line in lines))
+        self.assertTrue(any('EGT 2: 1,774 °F, limit 1,742, for 2 min 38 s within 3 min 37 s' in line for line in lines))
         self.assertIn('Outside of the flight: 5 more in this power cycle.', lines)
         flight = self.facts('flights', '--cycle', '2', '--unit', 'imperial')['flights'][1]
         self.check_flights(lines, [flight])

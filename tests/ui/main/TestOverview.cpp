@@ -79,7 +79,7 @@ void TestOverview::demoCard()
     const int withOthers = traces.count();
 
     window.action(eActionNextIncident)->trigger();
-    QCOMPARE(std::round(pData->viewTime()), 1050.0);
+    QCOMPARE(std::round(pData->viewTime()), 1099.0);
     window.action(eActionPreviousIncident)->trigger();
     QCOMPARE(pData->viewTime(), incident.start);
     window.action(eActionOverview)->trigger();
