@@ -1,7 +1,7 @@
 #include "report/ReportTables.h"
 
 #include "analysis/EventList.h"
-#include "app/Numeric.h"
+#include "app/TimeText.h"
 #include "card/FlightFigures.h"
 #include "card/record/HeaderField.h"
 #include "report/ReportFaults.h"
@@ -90,7 +90,7 @@ ReportTable ReportTables::figures(const std::vector<RecordFlight>& flights, std:
     table.columns.front().cells.append(QStringList(std::begin(labels), std::end(labels)));
     for (std::size_t i = first; i < last; ++i) {
         const RecordFlight& flight = flights[i];
-        const QDateTime takeOff = mLoaded.powerUp.addSecs(saturatingCast<qint64>(flight.takeOffTime));
+        const QDateTime takeOff = mLoaded.powerUp.addMSecs(wholeMilliseconds(flight.takeOffTime));
         QStringList cells{reportDate(takeOff, tr("no clock")), mTimes.textAt(flight.takeOffTime), mTimes.textAt(flight.landingTime)};
         for (int figure = 0; figure < eFigureCount; ++figure)
             cells.append(flightFigureText(flight, static_cast<EFlightFigure>(figure), EFigureText::eFixed));

@@ -10,6 +10,7 @@ import subprocess
 import sys
 import tempfile
 import unittest
+from datetime import datetime, timedelta
 
 CLI = sys.argv[1]
 
@@ -92,6 +93,12 @@ class TestReport(unittest.TestCase):
             self.assertEqual(numbers[-len(flights):], [f'{flight[key]:.{decimals}f}' for flight in flights])
         landing = next(line for line in lines if line.startswith('Landing '))
         self.assertEqual(landing.split()[1:], [clock(flight['landingTime']) for flight in flights])
+        # The recorder's clock at that moment, as the window's clock has it: its fraction of a second counts.
+        gpx = self.run_cli('gpx', self.card, '--cycle', '2', '-o', '-').stdout.decode()
+        powerUp = datetime.fromisoformat(re.search('<time>(.*?)Z', gpx)[1])
+        takeOffs = [powerUp + timedelta(seconds=flight['takeOffTime']) for flight in flights]
+        row = next(line for line in lines if line.startswith('Take-off, clock '))
+        self.assertEqual(re.findall(r'\d\d:\d\d:\d\d', row), [f'{time:%H:%M:%S}' for time in takeOffs])
 
     def check_events(self, lines, events):
         for kind in ('limits', 'warnings'):
