@@ -93,9 +93,12 @@ void ViewLink::prepare()
     const RecordSession::Version was = std::exchange(mPrepared, mSession.version());
     if (was.record != mPrepared.record)
         mView.updateRecord(nullptr); // what it still refers to may go
-    if (was.review == mPrepared.review && !hasOtherValues(was, mPrepared))
+    if (was.review != mPrepared.review || hasOtherValues(was, mPrepared))
+        mView.prepare(mSession.record());
+    else if (was.flights != mPrepared.flights)
+        mView.prepareFlights(mSession.record());
+    else
         return;
-    mView.prepare(mSession.record());
     mpHeld = mSession.sharedRecord();
 }
 

@@ -35,6 +35,7 @@ public:
     void growCourse(const std::shared_ptr<const CycleCourse>& pCourse) override;
     /// The course is shown elsewhere, too.
     void prepare(RecordData* pRecord) override;
+    void prepareFlights(RecordData* pRecord) override { prepare(pRecord); }
     void setTime(double time) override;
     void setZarnMode(int mode) override;
     void updateSettings() override;

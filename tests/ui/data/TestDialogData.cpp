@@ -39,6 +39,7 @@ public:
     void update(RecordData* pRecord) override { mLog.append(mLetter + (pRecord ? "u" : "0")); }
     void updateFlights(RecordData* /*pRecord*/) override { mLog.append(mLetter + "f"); }
     void prepare(RecordData* /*pRecord*/) override { mLog.append(mLetter + "c"); }
+    void prepareFlights(RecordData* /*pRecord*/) override { mLog.append(mLetter + "d"); }
     void setTime(double time) override { mLog.append(mLetter + QString::number(time)); }
     void loadProfile() override { mLog.append(mLetter + "l"); }
     void setZarnMode(int mode) override { mLog.append(mLetter + "m" + QString::number(mode)); }
@@ -158,7 +159,7 @@ void TestDialogData::pushOrders_data()
              tab(area);
          },
          ""},
-        {"flights", [](Area& area) { area.record.changeFlights(); }, "Tf Mf T10 M10"},
+        {"flights", [](Area& area) { area.record.changeFlights(); }, "Tf Gd Fd Sd Ld Wd Mf T10 M10"},
         {"table", pick(eViewTable), "M20.5"},
         {"graph", [](Area& area) { area.area->slotCursor(20.5F, 3.0); }, "T20.5 M20.5"},
         {"faults", pick(eViewFaultMatrix), "T20.5 M20.5"},

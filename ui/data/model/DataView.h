@@ -71,6 +71,8 @@ public:
 
     /// In place of updateRecord() while nobody sees the view: works out what others show of it, no more.
     virtual void prepare(RecordData* /*pRecord*/) {}
+    /// In place of updateFlights() while nobody sees the view.
+    virtual void prepareFlights(RecordData* /*pRecord*/) {}
 
     /// @param time view time in seconds on the record's own time base
     virtual void setTime(double time) = 0;
