@@ -222,7 +222,7 @@ void DialogDataMap::updateProfileStrip()
     const ProfileParameter& altitude = mSession.profile.context().model().ofZarnType("Altitude");
     // The path may have been worked out in the unit before.
     const std::string unit = altitude.name.empty() ? std::string() : altitude.unit(mSession.container.wholeFlightPath().unit());
-    mpProfile->setPath(mpMap->scene().path(), QString::fromStdString(unit));
+    mpProfile->setPath(mpMap->scene().path(), QString::fromStdString(unit), mSession.container.loaded().wholeStart);
     mpProfile->setVisible(!mIsShort && !mIsLow && !mpProfile->isEmpty() && Settings::kMapShowProfile.get(mSession.property));
 }
 

@@ -27,9 +27,9 @@ MapProfile::MapProfile(QWidget* pParent) : QWidget(pParent)
     setCursor(Qt::PointingHandCursor);
 }
 
-void MapProfile::setPath(const MapPath& path, const QString& unit)
+void MapProfile::setPath(const MapPath& path, const QString& unit, double start)
 {
-    mStrip.set(path, unit);
+    mStrip.set(path, unit, start);
     update();
 }
 

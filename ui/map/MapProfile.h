@@ -13,7 +13,7 @@ class MapProfile : public QWidget {
 public:
     explicit MapProfile(QWidget* pParent = nullptr);
 
-    void setPath(const MapPath& path, const QString& unit);
+    void setPath(const MapPath& path, const QString& unit, double start);
     void setShown(const std::optional<TimeSpan>& span);
     void setTime(double time);
     [[nodiscard]] bool isEmpty() const { return mStrip.isEmpty(); }

@@ -500,6 +500,15 @@ void TestDialogDataMap::brushing()
     QTest::mouseClick(pProfile, Qt::LeftButton, {}, {pProfile->width() / 4, 5});
     const double expected = path.front().time + 0.25 * (path.back().time - path.front().time);
     QVERIFY(picked.size() == 1 && std::fabs(picked[0][0].toDouble() - expected) < 0.01 * (path.back().time - path.front().time));
+
+    // A file from the middle of the cycle: its path has points from power-up on, and nothing of that was recorded.
+    CardContainer& card = flight().container;
+    const unsigned int cycle = *card.loadedCycleNumber();
+    const auto restore = qScopeGuard([&] { card.loadCycle(cycle, -1); });
+    card.loadFiles({card.loadedCycle()->files.back().get().fileName});
+    window.dialog->updateRecord(&card.recordData());
+    QTest::mouseClick(pProfile, Qt::LeftButton, {}, {0, 5});
+    QVERIFY(card.startTime() > 1000.0 && picked.size() == 2 && std::fabs(picked[1][0].toDouble() - card.startTime()) < 1.0);
 }
 
 int main(int argc, char** argv)

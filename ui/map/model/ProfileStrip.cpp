@@ -14,14 +14,14 @@ constexpr double kPadding = 4.0; // pixels above the highest and below the lowes
 
 } // namespace
 
-void ProfileStrip::set(const MapPath& path, const QString& unit)
+void ProfileStrip::set(const MapPath& path, const QString& unit, double start)
 {
     mPoints.clear();
     mColumns.clear();
     mUnit = unit;
     for (std::size_t i = 0; i < path.points().size(); ++i) {
         const FlightPathPoint& point = path.points()[i];
-        if (std::isfinite(point.altitude))
+        if (point.time >= start && std::isfinite(point.altitude))
             mPoints.push_back({point.time, point.altitude, path.isGap(i)});
     }
     if (mPoints.empty())

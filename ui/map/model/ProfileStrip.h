@@ -12,8 +12,8 @@ namespace ZARN {
 /// The altitude along the path over its time, as a strip: the least and the greatest of each column of pixels, worked out once for a width.
 class ProfileStrip {
 public:
-    /// @param unit of altitudes, for the labels
-    void set(const MapPath& path, const QString& unit);
+    /// @param unit of altitudes, for the labels; @param start of what was recorded: the path has points from power-up on
+    void set(const MapPath& path, const QString& unit, double start);
     void setShown(const std::optional<TimeSpan>& span) { mShown = span; }
     [[nodiscard]] bool isEmpty() const { return mPoints.size() < 2; }
 
