@@ -35,6 +35,7 @@ private Q_SLOTS:
     void tellsOnce_data();
     void tellsOnce();
     void loading();
+    void unseenFlights();
     void emu();
     void layouts();
     void units();
@@ -151,6 +152,23 @@ void TestOtherModes::loading()
     window.close();
     desktop.window.reset(); // waits for the load
     QCOMPARE(desktop.container.loadedCycleNumber(), 2U);
+}
+
+void TestOtherModes::unseenFlights()
+{
+    QVERIFY(QDir().mkpath(home() + "/data/profiles/AAA"));
+    putFile(home().toStdString() + "/data/profiles/AAA/Profile.xml", "<CanAerospaceProfile name='AAA'/>"); // knows no speed
+    DesktopFixture desktop(home(), {card().toStdString()});
+    DialogMain& window = desktop.open();
+    started(window);
+    std::shared_ptr<const CycleCourse> pCourse;
+    const auto* pGraph = window.findChild<DialogDataGraph*>();
+    connect(pGraph, &DialogDataGraph::signalCourse, this, [&pCourse](const auto& pFound) { pCourse = pFound; });
+    window.slotLoadCycle(2, -1);
+    QTRY_VERIFY_WITH_TIMEOUT(pCourse && pCourse->flights.size() == 2, 30000);
+    window.slotProfileChanged("AAA");
+    QTRY_VERIFY_WITH_TIMEOUT(pCourse && pCourse->flights.empty(), 5000);
+    QVERIFY(!pGraph->isVisible());
 }
 
 void TestOtherModes::emu()
