@@ -33,7 +33,6 @@ public:
     void updateSettings() override { showTimes(); }
     /// Finds the events in another thread, and tells when they are found; the rows wait until they are seen.
     void prepare(RecordData* pRecord) override;
-    void prepareFlights(RecordData* /*pRecord*/) override { Q_EMIT signalEvents(); } // others of them lie inside
 
     /// Those of the selected flight, or all.
     [[nodiscard]] int eventCount() const override;
